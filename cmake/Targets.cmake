@@ -1,0 +1,56 @@
+# SPDX-License-Identifier: MIT
+# One helper per kind of target, so that every folder states only its sources and what it leans on.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+option(SEAPLAN_FUZZ "build the fuzz targets (clang only)" OFF)
+set(SEAPLAN_SANITIZE "" CACHE STRING "comma separated sanitizers for every target")
+if(SEAPLAN_SANITIZE)
+  add_compile_options(-fsanitize=${SEAPLAN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${SEAPLAN_SANITIZE})
+endif()
+if(SEAPLAN_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=function)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+function(seaplan_common target)
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+    -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+endfunction()
+
+function(seaplan_library target)
+  cmake_parse_arguments(arg "" "" "SOURCES;DEPS;PRIVATE_DEPS" ${ARGN})
+  add_library(${target} STATIC ${arg_SOURCES})
+  seaplan_common(${target})
+  target_link_libraries(${target} PUBLIC ${arg_DEPS} PRIVATE ${arg_PRIVATE_DEPS})
+endfunction()
+
+function(seaplan_program target)
+  cmake_parse_arguments(arg "" "" "SOURCES;DEPS" ${ARGN})
+  add_executable(${target} ${arg_SOURCES})
+  seaplan_common(${target})
+  target_link_libraries(${target} PRIVATE ${arg_DEPS})
+endfunction()
+
+# Tests run without a display, in a zone and locale that differ from the usual ones, so that neither can hide in a result.
+function(seaplan_test target)
+  if(NOT BUILD_TESTING)
+    return()
+  endif()
+  cmake_parse_arguments(arg "" "" "SOURCES;DEPS" ${ARGN})
+  add_executable(${target} ${arg_SOURCES})
+  seaplan_common(${target})
+  target_link_libraries(${target} PRIVATE ${arg_DEPS} GTest::gtest_main GTest::gmock)
+  set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  add_test(NAME ${target} COMMAND ${target})
+  set_tests_properties(${target} PROPERTIES
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=America/St_Johns;LC_ALL=C.UTF-8;QT_SCALE_FACTOR=1")
+endfunction()

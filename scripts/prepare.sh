@@ -1,0 +1,52 @@
+# SPDX-License-Identifier: MIT
+# Sourced by ./run and ./test: installs missing Debian packages and names the build folders.
+# Usage: . scripts/prepare.sh; install_missing
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+missing_packages() {
+    grep -v '^#' "$root/cmake/debian-packages.txt" | while read -r package; do
+        [ "$package" = npm ] && command -v npm >/dev/null 2>&1 && continue
+        dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null | grep -q '^ii' || echo "$package"
+    done
+}
+
+install_missing() {
+    local missing sudo=
+    command -v dpkg-query >/dev/null 2>&1 || {
+        echo "This is not a Debian system. Install what $root/cmake/debian-packages.txt names and start again." >&2
+        return 1
+    }
+    missing=$(missing_packages | tr '\n' ' ')
+    [ -z "${missing// /}" ] && return 0
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null 2>&1 || {
+            printf 'Packages are missing. As root, run:\n  apt-get install %s\n' "$missing" >&2
+            return 1
+        }
+        sudo=sudo
+    fi
+    echo "Installing $missing" >&2
+    # shellcheck disable=SC2086
+    if ! { $sudo apt-get update -qq && DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq \
+        --no-install-recommends $missing; } >"${TMPDIR:-/tmp}/seaplan-apt.log" 2>&1; then
+        tail -n 20 "${TMPDIR:-/tmp}/seaplan-apt.log" >&2
+        printf 'Installing failed. Run it yourself and start again:\n  apt-get install %s\n' "$missing" >&2
+        return 1
+    fi
+}
+
+# Configures (once) and builds a preset; what it prints is shown only when it fails.
+build_preset() {
+    local preset=$1 log
+    shift
+    log=$(mktemp)
+    if ! { { [ -f "$root/build/$preset/build.ninja" ] || (cd "$root" && cmake --preset "$preset"); } &&
+        cmake --build "$root/build/$preset" "$@"; } >"$log" 2>&1; then
+        grep -E 'error|Error|FAILED' -A 5 "$log" | head -n 60 >&2
+        tail -n 25 "$log" >&2
+        rm -f "$log"
+        return 1
+    fi
+    rm -f "$log"
+}

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/data/VoyInfo.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+using Util::_datetime_t;
+
+_datetime_t at(int hour) {
+    return {0, 0, hour, 1, 12, 2026};
+}
+
+PortCallRows portCalls(int departure, int arrival) {
+    PortCallRows rows(2);
+    rows.front().etd = at(departure);
+    rows.back().eta = at(arrival);
+    return rows;
+}
+
+TEST(VoyInfo, DefaultVoyageHasDefaultIdAndNothingElse) {
+    const VoyInfo voyage;
+    EXPECT_EQ(voyage.vi, "1000000");
+    for (const auto* text : {&voyage.vn, &voyage.vsi, &voyage.vsn, &voyage.lastPosText}) {
+        EXPECT_EQ(*text, "");
+    }
+    for (int number : {voyage.vsmsi, voyage.lastPosTime, voyage.lastAisModTime, voyage.va, voyage.vr,
+                       voyage.vrk, voyage.modais}) {
+        EXPECT_EQ(number, 0);
+    }
+    EXPECT_EQ(voyage.figures, BunkerFigures{});
+    EXPECT_TRUE(voyage.portCalls.empty());
+    EXPECT_TRUE(voyage.aisModTimes.empty());
+    EXPECT_TRUE(voyage.positionBook.points.empty());
+    EXPECT_EQ(voyage.positionBook.pbi, "");
+}
+
+TEST(VoyInfo, DefaultCategoryHasDefaultIdAndNoRemark) {
+    const VoyCategory category;
+    EXPECT_EQ(category.ci, "1000000");
+    EXPECT_EQ(category.cn, "");
+    EXPECT_EQ(category.crk, 0);
+}
+
+TEST(VoyInfo, DefaultPortCallDischargesAtTenKnots) {
+    const VoyPortCall row;
+    EXPECT_EQ(row.pp, "D");
+    EXPECT_EQ(row.psp, 10.0F);
+    EXPECT_EQ(row.pw, 0.0F);
+    EXPECT_EQ(row.apt, 0.0F);
+    EXPECT_EQ(row.distance, 0.0F);
+}
+
+TEST(VoyInfo, DefaultBookPointIsAPlainGreatCircleRow) {
+    const PosBookPoint point;
+    EXPECT_EQ(point.psr, "GC");
+    EXPECT_EQ(point.pli, 5);
+    EXPECT_EQ(point.psp, 10.0F);
+    EXPECT_EQ(point.course, 0.0F);
+    EXPECT_EQ(point.pst, 0);
+}
+
+TEST(VoyInfo, ACopyIsDeep) {
+    VoyInfo original;
+    original.portCalls.resize(2);
+    original.aisModTimes = {"2026-12-01 00:00:00"};
+    original.positionBook.points.resize(3);
+    VoyInfo copy = original;
+    copy.portCalls[0].ppn = "Kiel";
+    copy.aisModTimes[0] = "2027-01-01 00:00:00";
+    copy.positionBook.points[2].psn = "Skagen";
+    EXPECT_EQ(original.portCalls[0].ppn, "");
+    EXPECT_EQ(original.aisModTimes[0], "2026-12-01 00:00:00");
+    EXPECT_EQ(original.positionBook.points[2].psn, "");
+    VoyInfo assigned;
+    assigned = copy;
+    assigned.portCalls[0].ppn = "Turku";
+    EXPECT_EQ(copy.portCalls[0].ppn, "Kiel");
+    EXPECT_EQ(assigned.positionBook.points.size(), 3U);
+}
+
+TEST(VoyInfo, StatusFollowsTheClock) {
+    EXPECT_EQ(StatusAt({}, at(5)), VoyageStatus::Plan);
+    EXPECT_EQ(StatusAt(portCalls(6, 8), at(5)), VoyageStatus::Plan);
+    EXPECT_EQ(StatusAt(portCalls(4, 8), at(5)), VoyageStatus::Underway);
+    EXPECT_EQ(StatusAt(portCalls(2, 4), at(5)), VoyageStatus::Finished);
+    EXPECT_EQ(StatusAt(portCalls(2, 5), at(5)), VoyageStatus::Finished);
+}
+
+TEST(VoyInfo, ADepartureExactlyNowCountsAsFinished) {
+    EXPECT_EQ(StatusAt(portCalls(5, 8), at(5)), VoyageStatus::Finished);
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

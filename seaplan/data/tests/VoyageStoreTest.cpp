@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/data/VoyageStore.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+TEST(VoyageStore, ThereIsOneStore) {
+    EXPECT_EQ(VoyageStore::Instance(), VoyageStore::Instance());
+}
+
+TEST(VoyageStore, IdsAreOrderedAsText) {
+    VoyageStore store;
+    store.categories["999"];
+    store.categories["1000010"];
+    EXPECT_EQ(store.categories.begin()->first, "1000010");
+}
+
+TEST(VoyageStore, RecordsDoNotMoveWhenOthersCome) {
+    VoyageStore store;
+    const VoyInfo* first = &store.voyages["5"];
+    for (int i = 0; i < 1000; ++i) {
+        store.voyages[std::to_string(i + 10)];
+    }
+    EXPECT_EQ(store.FindVoyage("5"), first);
+    EXPECT_EQ(store.FindVoyage("none"), nullptr);
+}
+
+TEST(VoyageStore, ClearEmptiesAllFourMaps) {
+    VoyageStore store;
+    store.categories["1"];
+    store.voyages["2"];
+    store.categoryStates["1"] = InUse;
+    store.categoryVoyages["1"]["2"] = InUse;
+    store.Clear();
+    EXPECT_TRUE(store.categories.empty());
+    EXPECT_TRUE(store.voyages.empty());
+    EXPECT_TRUE(store.categoryStates.empty());
+    EXPECT_TRUE(store.categoryVoyages.empty());
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

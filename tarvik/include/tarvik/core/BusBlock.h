@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/Export.h>
+
+#include <cstddef>
+
+namespace Tarvik::Core {
+
+/// Blocks that cross the bus and change owner are made and freed by this pair, so that no two run-time
+/// libraries meet.
+TARVIK_API void* AllocateBusBlock(std::size_t bytes);
+/// Frees a block of AllocateBusBlock; null is allowed.
+TARVIK_API void FreeBusBlock(void* block);
+/// Tests: blocks made and not yet freed.
+TARVIK_API long LiveBusBlocks();
+
+}  // namespace Tarvik::Core

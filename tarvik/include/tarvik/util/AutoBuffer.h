@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/Export.h>
+
+#include <cstddef>
+#include <string>
+
+namespace Tarvik::Util {
+
+/// Growing byte buffer; `capacity` is only its first size.
+class TARVIK_API CAutoBuffer {
+  public:
+    explicit CAutoBuffer(std::size_t capacity) { bytes_.reserve(capacity); }
+    const char* begin() const { return bytes_.data(); }
+    const char* end() const { return bytes_.data() + bytes_.size(); }
+    std::size_t size() const { return bytes_.size(); }
+    void clear() { bytes_.clear(); }
+    void append(const char* data, std::size_t count) { bytes_.append(data, count); }
+
+  private:
+    std::string bytes_;
+};
+
+/// printf-style formatting into a buffer.
+class TARVIK_API CBlockBuffer {
+  public:
+    /// Replaces the buffer's content by the formatted text and its terminating NUL, which counts as content:
+    /// the buffer holds strlen + 1 bytes. Nothing is truncated.
+    static void format0(CAutoBuffer& buffer, const char* format, ...) __attribute__((format(printf, 2, 3)));
+};
+
+}  // namespace Tarvik::Util

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/Export.h>
+
+#include <exception>
+#include <string>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace Tarvik::Util {
+
+/// A data base operation that failed.
+class TARVIK_API CppSQLite3Exception : public std::exception {
+  public:
+    explicit CppSQLite3Exception(std::string message) : message_(static_cast<std::string&&>(message)) {}
+    const char* what() const noexcept override { return message_.c_str(); }
+
+  private:
+    std::string message_;
+};
+
+/// The rows of a query, one at a time; standing on the first row after `execQuery`.
+class TARVIK_API CppSQLite3Query {
+  public:
+    CppSQLite3Query() = default;
+    CppSQLite3Query(CppSQLite3Query&& other) noexcept;
+    CppSQLite3Query& operator=(CppSQLite3Query&& other) noexcept;
+    ~CppSQLite3Query();
+    bool eof() const { return eof_; }
+    /// Text of a column, null for SQL NULL or outside the columns.
+    const char* fieldValue(int column) const;
+    /// Throws CppSQLite3Exception.
+    void nextRow();
+    void finalize();
+
+  private:
+    friend class CppSQLite3DB;
+    sqlite3_stmt* statement_ = nullptr;
+    bool eof_ = true;
+};
+
+/// A data base opened for reading only.
+class TARVIK_API CppSQLite3DB {
+  public:
+    CppSQLite3DB() = default;
+    CppSQLite3DB(const CppSQLite3DB&) = delete;
+    CppSQLite3DB& operator=(const CppSQLite3DB&) = delete;
+    ~CppSQLite3DB();
+    /// Throws CppSQLite3Exception when the file is missing or cannot be read.
+    void open(const std::string& path);
+    /// Throws CppSQLite3Exception.
+    CppSQLite3Query execQuery(const char* sql);
+    void close();
+
+  private:
+    sqlite3* database_ = nullptr;
+};
+
+}  // namespace Tarvik::Util

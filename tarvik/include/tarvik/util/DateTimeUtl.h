@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/Export.h>
+#include <tarvik/util/DateTime.h>
+
+#include <optional>
+#include <string>
+
+namespace Tarvik::Util {
+
+/// Zone conversions and arithmetic on date-times. Zones are named as the host names them ("China Standard
+/// Time", or a name of the zone data base); an unknown zone behaves as UTC and is logged once.
+class TARVIK_API DateTimeUtl {
+  public:
+    /// Local time of `zone` to UTC. A time that does not exist or exists twice takes the offset before the
+    /// change.
+    static _datetime_t ConvertToUTC(const _datetime_t& local, const std::string& zone);
+    /// UTC to local time of `zone`.
+    static _datetime_t ConvertFromUTC(const _datetime_t& utc, const std::string& zone);
+    static std::string Format(const _datetime_t& value, const std::string& format);
+    /// Reads exactly 19 characters "%Y-%m-%d %H:%M:%S" of a date that exists; anything else gives nothing.
+    static std::optional<_datetime_t> Parse(const std::string& text);
+    /// Adds hours in whole milliseconds, rounded to the nearest; a value that is not finite adds nothing.
+    static _datetime_t AddHour(const _datetime_t& value, double hours);
+    /// Hours from b to a.
+    static double Diff(const _datetime_t& a, const _datetime_t& b);
+    /// Whether the zone's name is known.
+    static bool IsKnownZone(const std::string& zone);
+};
+
+}  // namespace Tarvik::Util

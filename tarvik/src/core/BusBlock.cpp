@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include <tarvik/core/BusBlock.h>
+
+#include <atomic>
+#include <cstdlib>
+
+namespace Tarvik::Core {
+
+namespace {
+std::atomic<long> liveBlocks{0};
+}
+
+void* AllocateBusBlock(std::size_t bytes) {
+    void* block = std::malloc(bytes == 0 ? 1 : bytes);
+    if (block != nullptr) ++liveBlocks;
+    return block;
+}
+
+void FreeBusBlock(void* block) {
+    if (block == nullptr) return;
+    --liveBlocks;
+    std::free(block);
+}
+
+long LiveBusBlocks() {
+    return liveBlocks;
+}
+
+}  // namespace Tarvik::Core

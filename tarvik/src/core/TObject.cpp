@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include <tarvik/core/TObject.h>
+
+namespace Tarvik::Core {
+
+TObject::~TObject() = default;
+
+}  // namespace Tarvik::Core

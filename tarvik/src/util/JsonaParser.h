@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "JsonaDocument.h"
+
+namespace Tarvik::Util {
+
+struct JsonaError {
+    std::size_t offset = 0;
+    const char* text = "";
+};
+
+/// Reads a text in one pass. Nodes of open containers wait on a stack and move to the document when their
+/// container closes, so that the children of each lie side by side. The copied text ends with zero bytes,
+/// which no token takes, so most places need no test for the end.
+class JsonaParser {
+  public:
+    /// The document, its root last; null with `error` set for a bad text. May throw std::bad_alloc.
+    static std::shared_ptr<const JsonaDocument> Parse(std::string_view text, JsonaError& error);
+
+  private:
+    explicit JsonaParser(JsonaDocument& document, std::size_t size);
+    bool root();
+    // Each takes the place to read from and answers the place behind, or null after a failure.
+    const char* value(const char* at, int depth);
+    const char* array(const char* at, int depth);
+    const char* object(const char* at, int depth);
+    const char* key(const char* at);
+    const char* quoted(const char* at);
+    const char* decoded(const char* open, const char* at);
+    const char* escape(const char* at);
+    const char* unicode(const char* at);
+    const char* number(const char* at);
+    const char* word(const char* at, std::string_view text, Jsona::Kind kind);
+    const char* fail(const char* at, const char* text);
+
+    void push(Jsona::Kind kind, const char* begin, const char* end);
+    void close(Jsona::Kind kind, std::size_t mark);
+    std::uint32_t mergeFew(std::size_t mark);
+    void mergeMany(std::size_t mark, JsonaNode& object);
+    std::string_view bytes(std::size_t place) const { return document_.Bytes(stack_[place]); }
+
+    JsonaDocument& document_;
+    const char* begin_;
+    const char* end_;
+    std::vector<JsonaNode> stack_;
+    JsonaError error_;
+};
+
+}  // namespace Tarvik::Util
