@@ -4,23 +4,26 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <ctime>
 #include <map>
+#include <string>
 #include <utility>
 
 namespace Tarvik::Util {
 namespace {
 
 class FixedClock : public Clock {
- public:
+  public:
     explicit FixedClock(std::int64_t csecs) : csecs_(csecs) {}
     std::int64_t NowUtcCsecs() const override { return csecs_; }
 
- private:
+  private:
     std::int64_t csecs_;
 };
 
 class ManualTimers : public TimerService {
- public:
+  public:
     unsigned Start(int, std::function<void()> callback) override {
         callbacks[++last] = std::move(callback);
         return last;
@@ -31,7 +34,7 @@ class ManualTimers : public TimerService {
 };
 
 class ClockTest : public testing::Test {
- protected:
+  protected:
     void TearDown() override {
         Clock::Set(nullptr);
         Clock::SetLocalZone("");
@@ -58,10 +61,18 @@ TEST_F(ClockTest, OwnClockAndZoneRulePresentTime) {
 }
 
 TEST_F(ClockTest, EmptyZoneIsTheMachines) {
+    const char* before = getenv("TZ");
+    const std::string saved = before != nullptr ? before : "";
     setenv("TZ", "XYZ-5:30", 1);
     tzset();
     Clock::Set(&fixed);
     EXPECT_EQ(_datetime_t::now().fmt("%H:%M"), "17:30");
+    if (before != nullptr) {
+        setenv("TZ", saved.c_str(), 1);
+    } else {
+        unsetenv("TZ");
+    }
+    tzset();
 }
 
 TEST_F(ClockTest, TimerServiceIsNullUntilSet) {

@@ -15,16 +15,18 @@ namespace Tarvik::Util {
 namespace {
 
 class CppSQLite3Test : public testing::Test {
- protected:
+  protected:
     void SetUp() override {
-        std::string form = (std::filesystem::temp_directory_path() / "tarvik-XXXXXX").string();
+        std::string form =
+            (std::filesystem::temp_directory_path() / "tarvik-").string() + std::string(6, 'X');
         ASSERT_NE(::mkdtemp(form.data()), nullptr);
         folder = form;
         path = (folder / "ports.db").string();
         sqlite3* database = nullptr;
         ASSERT_EQ(sqlite3_open(path.c_str(), &database), SQLITE_OK);
-        const char* sql = "CREATE TABLE ports(id TEXT, name TEXT, x REAL); INSERT INTO ports VALUES('1','Hamburg',9.5),"
-                          "('2',NULL,1);";
+        const char* sql =
+            "CREATE TABLE ports(id TEXT, name TEXT, x REAL); INSERT INTO ports VALUES('1','Hamburg',9.5),"
+            "('2',NULL,1);";
         ASSERT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK);
         sqlite3_close(database);
     }

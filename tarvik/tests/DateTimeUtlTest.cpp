@@ -20,7 +20,9 @@ _datetime_t At(const std::string& text) {
     return value.value_or(_datetime_t::from_gmt_timer(0));
 }
 
-std::string Text(const _datetime_t& value) { return DateTimeUtl::Format(value, "%Y-%m-%d %H:%M:%S"); }
+std::string Text(const _datetime_t& value) {
+    return DateTimeUtl::Format(value, "%Y-%m-%d %H:%M:%S");
+}
 
 std::string ToUtc(const std::string& local, const std::string& zone) {
     return Text(DateTimeUtl::ConvertToUTC(At(local), zone));
@@ -36,12 +38,26 @@ TEST(DateTimeParseTest, ReadsTheOneForm) {
 }
 
 TEST(DateTimeParseTest, RefusesEverythingElse) {
-    for (const char* text :
-         {"", "2024-02-29", "2024-02-29 23:59:5", "2024-02-29 23:59:590", " 2024-02-29 23:59:5", "2023-02-29 00:00:00",
-          "2024-04-31 00:00:00", "2024-13-01 00:00:00", "2024-00-01 00:00:00", "2024-01-00 00:00:00",
-          "2024-01-01 24:00:00", "2024-01-01 00:60:00", "2024-01-01 00:00:60", "2024/01/01 00:00:00",
-          "2024-01-01T00:00:00", "2024-01-01 00.00:00", "2024-01-01 00:00.00", "+024-01-01 00:00:00",
-          "2024-1 -01 00:00:00", "2024-01-01 -1:00:00"}) {
+    for (const char* text : {"",
+                             "2024-02-29",
+                             "2024-02-29 23:59:5",
+                             "2024-02-29 23:59:590",
+                             " 2024-02-29 23:59:5",
+                             "2023-02-29 00:00:00",
+                             "2024-04-31 00:00:00",
+                             "2024-13-01 00:00:00",
+                             "2024-00-01 00:00:00",
+                             "2024-01-00 00:00:00",
+                             "2024-01-01 24:00:00",
+                             "2024-01-01 00:60:00",
+                             "2024-01-01 00:00:60",
+                             "2024/01/01 00:00:00",
+                             "2024-01-01T00:00:00",
+                             "2024-01-01 00.00:00",
+                             "2024-01-01 00:00.00",
+                             "+024-01-01 00:00:00",
+                             "2024-1 -01 00:00:00",
+                             "2024-01-01 -1:00:00"}) {
         EXPECT_FALSE(DateTimeUtl::Parse(text).has_value()) << text;
     }
 }

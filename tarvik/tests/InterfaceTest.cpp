@@ -5,13 +5,14 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 namespace Tarvik::Interface {
 namespace {
 
 class OneLanguage : public LanguageSource {
- public:
+  public:
     std::optional<std::u16string> Find(const std::u16string& section, const std::u16string& name,
                                        const std::u16string& key) const override {
         if (section == u"Seaplan" && name == u"Text" && key == u"IDS_A") return u"Voyage";
@@ -22,7 +23,7 @@ class OneLanguage : public LanguageSource {
 };
 
 class LoadStringTest : public testing::Test {
- protected:
+  protected:
     void SetUp() override { LanguageSource::Set(&source); }
     void TearDown() override { LanguageSource::Set(nullptr); }
     std::u16string Load(const char16_t* key, std::size_t capacity) {
@@ -66,7 +67,7 @@ TEST_F(LoadStringTest, NoRoomIsLeftAlone) {
 }
 
 class AlwaysYes : public SysMsgSink {
- public:
+  public:
     SysMsgHandleRes SyncSendMsg(int, const std::u16string&, int, void*, const std::u16string&) override {
         return SysMsgHandleRes::Yes;
     }
@@ -83,7 +84,7 @@ TEST(SysMsgSinkTest, IsSilentUntilTheHostPutsItsOwn) {
 }
 
 class OnePort : public ValueDictionary {
- public:
+  public:
     std::string KeyOfValue(const std::string& path, const std::string& value, int language) const override {
         return path == "/points" && value == "Hamburg" && language == 1033 ? "77" : "";
     }

@@ -33,8 +33,9 @@ TEST(TranslateTest, BadSequencesBecomeTheReplacementCharacter) {
               u"a\uFFFDb");
     EXPECT_EQ(StringUtl::TranslateString(std::string("\xe4\xb8")), u"\uFFFD");
     const std::u16string lone{u'a', static_cast<char16_t>(0xD800), u'b'};
-    EXPECT_EQ(StringUtl::TranslateString(lone), "a\xef\xbf\xbd"
-                                                "b");
+    EXPECT_EQ(StringUtl::TranslateString(lone),
+              "a\xef\xbf\xbd"
+              "b");
 }
 
 TEST(SplitTest, KeepsEveryPiece) {
@@ -61,7 +62,8 @@ TEST(NumberTest, IntegersReadLikeTheSystems) {
     EXPECT_EQ(StringUtl::ToInt("42"), 42);
     EXPECT_EQ(StringUtl::ToInt(" \t\n\v\f\r+7x"), 7);
     EXPECT_EQ(StringUtl::ToInt("-12.9"), -12);
-    for (const char* text : {"", "x", "-", "+-1", "- 1", "nan", "inf"}) EXPECT_EQ(StringUtl::ToInt(text), 0) << text;
+    for (const char* text : {"", "x", "-", "+-1", "- 1", "nan", "inf"})
+        EXPECT_EQ(StringUtl::ToInt(text), 0) << text;
     EXPECT_EQ(StringUtl::ToInt("0x10"), 0);
     EXPECT_EQ(StringUtl::ToInt("2147483647"), std::numeric_limits<int>::max());
     EXPECT_EQ(StringUtl::ToInt("2147483648"), std::numeric_limits<int>::max());
@@ -139,7 +141,8 @@ TEST(WidthTest, UnitsBelow128CountOneOthersTwo) {
 }
 
 TEST(SpaceTest, IsTheUnicodeKind) {
-    for (const char32_t c : {U' ', U'\t', U'\n', U'\u0085', U'\u00a0', U'\u2003', U'\u2028', U'\u202f', U'\u3000'}) {
+    for (const char32_t c :
+         {U' ', U'\t', U'\n', U'\u0085', U'\u00a0', U'\u2003', U'\u2028', U'\u202f', U'\u3000'}) {
         EXPECT_TRUE(StringUtl::IsSpace(c)) << static_cast<unsigned>(c);
     }
     for (const char32_t c : {U'a', U'\0', U'\u200b', U'\ufeff', U'\u4e2d'}) {
@@ -156,7 +159,7 @@ TEST(SpaceTest, TrimsEnds) {
 
 /// A locale with a decimal comma, when the machine has one.
 class CommaLocale {
- public:
+  public:
     CommaLocale() : before_(std::setlocale(LC_ALL, nullptr)) {
         for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE.utf8"}) {
             if (std::setlocale(LC_ALL, name) != nullptr) return;
@@ -164,7 +167,7 @@ class CommaLocale {
     }
     ~CommaLocale() { std::setlocale(LC_ALL, before_.c_str()); }
 
- private:
+  private:
     std::string before_;
 };
 

@@ -1,107 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "JsonaParser.h"
 
-#include <algorithm>
-#include <array>
 #include <cstring>
-#include <numeric>
 
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
-
-#include "Utf8Scan.h"
+#include "JsonaScan.h"
 
 namespace Tarvik::Util {
+
+using namespace Scan;
 
 namespace {
 
 constexpr int kMaxDepth = 64;
 constexpr std::size_t kPadding = 32;                 // zero bytes behind the text, for reads of whole blocks
 constexpr std::size_t kMaxText = 0xFFFFFFFFU - 64U;  // places are 32 bits wide
-
-enum : std::uint8_t { kSpace = 1, kDigit = 2, kWordStart = 4, kTextStop = 8 };
-
-constexpr std::array<std::uint8_t, 256> MakeClasses() {
-    std::array<std::uint8_t, 256> classes{};
-    for (const char c : {' ', '\t', '\n', '\r'}) classes[static_cast<std::uint8_t>(c)] |= kSpace;
-    for (int c = '0'; c <= '9'; ++c) classes[static_cast<std::size_t>(c)] |= kDigit;
-    for (int c = 'a'; c <= 'z'; ++c) classes[static_cast<std::size_t>(c)] |= kWordStart;
-    for (int c = 'A'; c <= 'Z'; ++c) classes[static_cast<std::size_t>(c)] |= kWordStart;
-    for (const char c : {'_', '$'}) classes[static_cast<std::uint8_t>(c)] |= kWordStart;
-    for (std::size_t c = 128; c < 256; ++c) classes[c] |= kTextStop;
-    for (const char c : {'"', '\\', '\0'}) classes[static_cast<std::uint8_t>(c)] |= kTextStop;
-    return classes;
-}
-
-constexpr std::array<std::uint8_t, 256> kClasses = MakeClasses();
-
-bool Is(char c, int classes) {
-    return (kClasses[static_cast<std::uint8_t>(c)] & classes) != 0;
-}
-
-const char* SkipSpace(const char* at) {
-    while (Is(*at, kSpace)) ++at;
-    return at;
-}
-
-// First quote, backslash, zero or non-ASCII byte.
-inline const char* FindTextStop(const char* at) {
-#if defined(__SSE2__)
-    const __m128i quote = _mm_set1_epi8('"');
-    const __m128i backslash = _mm_set1_epi8('\\');
-    for (;; at += 16) {
-        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-        const __m128i hits =
-            _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(block, quote), _mm_cmpeq_epi8(block, backslash)),
-                         _mm_or_si128(_mm_cmpeq_epi8(block, _mm_setzero_si128()), block));
-        const int mask = _mm_movemask_epi8(hits);
-        if (mask != 0) return at + __builtin_ctz(static_cast<unsigned>(mask));
-    }
-#else
-    while (!Is(*at, kTextStop)) ++at;
-    return at;
-#endif
-}
-
-int HexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    const char lower = static_cast<char>(c | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
-
-/// Four hexadecimal digits, or -1.
-int HexUnit(const char* at) {
-    int unit = 0;
-    for (int i = 0; i < 4; ++i) {
-        const int digit = HexDigit(at[i]);
-        if (digit < 0) return -1;
-        unit = unit * 16 + digit;
-    }
-    return unit;
-}
-
-void AppendUtf8(std::string& out, std::uint32_t c) {
-    const auto add = [&out](std::uint32_t byte) { out += static_cast<char>(byte); };
-    if (c < 0x80) return add(c);
-    if (c < 0x800) {
-        add(0xC0 | c >> 6);
-    } else {
-        if (c < 0x10000) {
-            add(0xE0 | c >> 12);
-        } else {
-            add(0xF0 | c >> 18);
-            add(0x80 | (c >> 12 & 0x3F));
-        }
-        add(0x80 | (c >> 6 & 0x3F));
-    }
-    add(0x80 | (c & 0x3F));
-}
-
-const char* SkipDigits(const char* at) {
-    while (Is(*at, kDigit)) ++at;
-    return at;
-}
 
 }  // namespace
 
@@ -340,88 +252,6 @@ void JsonaParser::push(Jsona::Kind kind, const char* begin, const char* end) {
     node.count = static_cast<std::uint32_t>(end - begin);
     node.kind = kind;
     stack_.push_back(node);
-}
-
-// Moves the nodes behind `mark` into the document and puts their container in their place.
-void JsonaParser::close(Jsona::Kind kind, std::size_t mark) {
-    JsonaNode node;
-    node.kind = kind;
-    node.count = static_cast<std::uint32_t>(stack_.size() - mark);
-    if (kind == Jsona::Kind::Object) {
-        node.count /= 2;
-        if (node.count > JsonaDocument::kLinearMembers) {
-            mergeMany(mark, node);
-        } else if (node.count > 1) {
-            node.count = mergeFew(mark);
-        }
-    }
-    node.start = static_cast<std::uint32_t>(document_.nodes.size());
-    document_.nodes.insert(document_.nodes.end(), stack_.begin() + static_cast<std::ptrdiff_t>(mark),
-                           stack_.end());
-    stack_.resize(mark);
-    stack_.push_back(node);
-}
-
-// A later member of an equal key gives its value to the first and goes. A mask of key marks keeps most pairs
-// apart without comparing them.
-std::uint32_t JsonaParser::mergeFew(std::size_t mark) {
-    std::uint64_t seen = 0;
-    std::size_t kept = mark;
-    for (std::size_t at = mark; at < stack_.size(); at += 2) {
-        const std::string_view key = bytes(at);
-        const unsigned first = key.empty() ? 0U : static_cast<std::uint8_t>(key.front());
-        const unsigned last = key.empty() ? 0U : static_cast<std::uint8_t>(key.back());
-        const std::uint64_t bit = std::uint64_t{1} << ((key.size() * 11 + first * 3 + last * 7) & 63);
-        std::size_t same = kept;
-        if ((seen & bit) != 0) {
-            for (same = mark; same < kept && bytes(same) != key; same += 2) {
-            }
-        }
-        seen |= bit;
-        if (same < kept) {
-            stack_[same + 1] = stack_[at + 1];
-            continue;
-        }
-        stack_[kept] = stack_[at];
-        stack_[kept + 1] = stack_[at + 1];
-        kept += 2;
-    }
-    stack_.resize(kept);
-    return static_cast<std::uint32_t>((kept - mark) / 2);
-}
-
-// The same for large objects by way of a sorted index, which stays for look-ups.
-void JsonaParser::mergeMany(std::size_t mark, JsonaNode& object) {
-    std::vector<std::uint32_t> sorted(object.count);
-    std::iota(sorted.begin(), sorted.end(), 0U);
-    const auto key = [&](std::uint32_t member) { return bytes(mark + 2 * std::size_t{member}); };
-    std::sort(sorted.begin(), sorted.end(), [&](std::uint32_t a, std::uint32_t b) {
-        const int order = key(a).compare(key(b));
-        return order != 0 ? order < 0 : a < b;
-    });
-    // Of equal keys the first member stays and takes the last one's value.
-    constexpr std::uint32_t kGone = 0xFFFFFFFFU;
-    std::vector<std::uint32_t> place(object.count, 0);
-    std::vector<std::uint32_t> unique;
-    for (const std::uint32_t member : sorted) {
-        if (!unique.empty() && key(unique.back()) == key(member)) {
-            stack_[mark + 2 * std::size_t{unique.back()} + 1] = stack_[mark + 2 * std::size_t{member} + 1];
-            place[member] = kGone;
-        } else {
-            unique.push_back(member);
-        }
-    }
-    std::uint32_t kept = 0;
-    for (std::uint32_t member = 0; member < object.count; ++member) {
-        if (place[member] == kGone) continue;
-        stack_[mark + 2 * std::size_t{kept}] = stack_[mark + 2 * std::size_t{member}];
-        stack_[mark + 2 * std::size_t{kept} + 1] = stack_[mark + 2 * std::size_t{member} + 1];
-        place[member] = kept++;
-    }
-    stack_.resize(mark + 2 * std::size_t{kept});
-    object.count = kept;
-    object.order = static_cast<std::uint32_t>(document_.order.size());
-    for (const std::uint32_t member : unique) document_.order.push_back(place[member]);
 }
 
 }  // namespace Tarvik::Util
