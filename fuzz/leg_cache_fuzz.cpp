@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/LegCacheText.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <sstream>
+#include <string>
+
+using Tarvik::Seaplan::LegCache;
+
+namespace {
+
+LegCache readText(const std::string& text) {
+    std::istringstream in(text);
+    LegCache cache;
+    ReadCache(in, cache);
+    return cache;
+}
+
+std::string writeText(const LegCache& cache) {
+    std::ostringstream out;
+    if (WriteCache(out, cache) != 0) {
+        std::abort();  // every entry that was read has two stops
+    }
+    return out.str();
+}
+
+}  // namespace
+
+// Whatever the file holds, the legs that it gives and that have segments are the same after writing and
+// reading again.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    LegCache cache = readText(std::string(reinterpret_cast<const char*>(data), size));
+    std::erase_if(cache, [](const auto& item) { return item.second.stops[1].routes.empty(); });
+    const std::string written = writeText(cache);
+    const LegCache back = readText(written);
+    if (back.size() != cache.size() || writeText(back) != written) {
+        std::abort();
+    }
+    return 0;
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/RouteRequest.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+using namespace Tarvik::Seaplan;
+
+namespace {
+
+void require(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+void checkStop(const RouteStops& stops, std::size_t index) {
+    for (const auto& group : stops[index].rp_groups) {
+        require(group.leg == static_cast<int>(index));
+        std::string text;
+        AlternativeRequestText(stops, group.rp_id, "1", text);
+    }
+    for (const auto& lock : stops[index].locks) {
+        require(lock.item.compare(0, lock.key.size() + 1, lock.key + "=") == 0);
+    }
+    for (const auto& segment : stops[index].routes) {
+        float km = 0;
+        require(PointsetLength(segment.pointset, km) == 0);
+    }
+}
+
+}  // namespace
+
+// Any JSON gives a known code; a failure leaves no stops, and what a success gives is whole.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    Tarvik::Util::Jsona reply;
+    if (!reply.parse(std::string_view(reinterpret_cast<const char*>(data), size))) {
+        return 0;
+    }
+    RouteStops stops;
+    const int code = ParseRouteReply(reply, stops);
+    require(code <= 0 && code >= -6);
+    require((code == 0) == !stops.empty());
+    for (std::size_t i = 0; i < stops.size(); ++i) {
+        checkStop(stops, i);
+    }
+    return 0;
+}

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/PointTables.h"
+
+#include <tarvik/util/CppSQLite3.h>
+#include <tarvik/util/FileUtl.h>
+#include <tarvik/util/StringUtl.h>
+
+#include <functional>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr std::size_t kShortId = 4;
+constexpr int kFirstPortDigit = 4;
+
+std::string columnText(const Util::CppSQLite3Query& row, int column) {
+    const char* value = row.fieldValue(column);
+    return value != nullptr ? value : "";
+}
+
+/// Calls `visit` for each row of a query; false when the data base cannot be read.
+bool forEachRow(const std::string& database, const char* sql,
+                const std::function<void(const Util::CppSQLite3Query&)>& visit) {
+    try {
+        Util::CppSQLite3DB db;
+        db.open(database);
+        auto query = db.execQuery(sql);
+        while (!query.eof()) {
+            visit(query);
+            query.nextRow();
+        }
+        query.finalize();
+        db.close();
+        return true;
+    } catch (const Util::CppSQLite3Exception&) {
+        return false;
+    }
+}
+
+std::string positionText(const Util::CppSQLite3Query& row, int column) {
+    return columnText(row, column) + "," + columnText(row, column + 1);
+}
+
+}  // namespace
+
+std::string PointDatabasePath() {
+    return Util::FileUtl::GetCurrentAppDirectory() + Util::FileUtl::NativePath("\\businessdata\\trvdb.db");
+}
+
+int LoadPortPositions(const std::string& database, PointMap& map) {
+    if (!map.empty()) {
+        return 0;
+    }
+    PointMap loaded;
+    const bool read =
+        forEachRow(database, "select id,x,y from t_point where isport='1'", [&](const auto& row) {
+            const std::string id = columnText(row, 0);
+            loaded[id] = {id, "", positionText(row, 1)};
+        });
+    if (!read) {
+        return -1;
+    }
+    map = std::move(loaded);
+    return 0;
+}
+
+int LoadRoutePoints(const std::string& database, PointMap& map) {
+    if (!map.empty()) {
+        return 0;
+    }
+    PointMap loaded;
+    const bool read =
+        forEachRow(database, "select id,name,x,y from t_point where isport='0'", [&](const auto& row) {
+            const std::string id = columnText(row, 0);
+            loaded[id] = {id, columnText(row, 1), positionText(row, 2)};
+        });
+    if (!read) {
+        return -1;
+    }
+    map = std::move(loaded);
+    return 0;
+}
+
+int LoadSamePortLinks(const std::string& database, std::map<std::string, std::string>& links) {
+    std::map<std::string, std::string> loaded;
+    const char* sql = "select id,origid from t_point where isport='1' and origid!='0'";
+    const bool read = forEachRow(database, sql, [&](const auto& row) {
+        const std::string id = columnText(row, 0);
+        const std::string original = columnText(row, 1);
+        loaded[id + "-" + original] = "";
+        loaded[original + "-" + id] = "";
+    });
+    if (!read) {
+        return -1;
+    }
+    links.merge(loaded);
+    return 0;
+}
+
+int LoadPortNamesByLocal(const std::string& database, std::map<std::string, std::string>& names) {
+    std::map<std::string, std::string> loaded;
+    const bool read =
+        forEachRow(database, "select name,namecn from t_point where isport='1'", [&](const auto& row) {
+            if (const char* local = row.fieldValue(1)) {
+                loaded[local] = columnText(row, 0);
+            }
+        });
+    if (!read) {
+        return -1;
+    }
+    loaded.merge(names);  // what was just read wins
+    names = std::move(loaded);
+    return 0;
+}
+
+int PointKindOfId(const std::string& id) {
+    if (id.size() < kShortId) {
+        return ShortIdRoutePoint;
+    }
+    return Util::StringUtl::ToInt(id.substr(0, 1)) >= kFirstPortDigit ? PortPoint : LongIdRoutePoint;
+}
+
+}  // namespace Tarvik::Seaplan

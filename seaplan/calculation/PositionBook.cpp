@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/PositionBook.h"
+
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/Schedule.h"
+
+#include <tarvik/interface/ValueDictionary.h>
+#include <tarvik/util/Geodesy.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr double kKmPerNauticalMile = 1.852;
+constexpr double kLeastBookSpeed = 0.00001;
+constexpr int kEnglish = 1033;
+
+std::string portName(const std::string& id) {
+    return Interface::GetValueByName("/points", id, kEnglish);
+}
+
+/// Makes the last point of a segment the named point that the segment leads to.
+int nameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& row) {
+    row.pointId = id;
+    row.pst = PointKindOfId(id);
+    if (row.pst == PortPoint) {
+        row.psn = portName(id);
+        return 0;
+    }
+    const auto found = routePoints.find(id);
+    if (found == routePoints.end()) {
+        return row.pst == ShortIdRoutePoint ? -5 : -6;
+    }
+    row.psn = found->second.name;
+    return 0;
+}
+
+/// Adds the rows of a segment behind its first point; that one stands in the book already.
+int addSegment(const RouteSegment& segment, const std::vector<std::string>& points,
+               const PointMap& routePoints, BookPoints& rows) {
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        PosBookPoint row;
+        row.position = points[i];
+        if (i + 1 == points.size()) {
+            if (const int code = nameEnd(segment.end_cd, routePoints, row); code != 0) {
+                return code;
+            }
+        }
+        rows.push_back(std::move(row));
+    }
+    return 0;
+}
+
+int addStops(const RouteStops& stops, const PointMap& routePoints, BookPoints& rows) {
+    for (std::size_t s = 1; s < stops.size(); ++s) {
+        for (const auto& segment : stops[s].routes) {
+            std::vector<std::string> points;
+            if (!SplitPointset(segment.pointset, points)) {
+                return -3;
+            }
+            if (points.size() < 2) {
+                return -4;
+            }
+            if (s == 1 && &segment == &stops[s].routes.front()) {
+                rows.front().position = points.front();
+            }
+            if (const int code = addSegment(segment, points, routePoints, rows); code != 0) {
+                return code;
+            }
+        }
+    }
+    return 0;
+}
+
+/// Stay and weather of the port ahead; they stay as they are behind the last port.
+struct PortAhead {
+    std::size_t index = 0;
+    float stay = 0;
+    double weather = 0;
+
+    void Next(const PortCallRows& ports) {
+        if (++index < ports.size()) {
+            stay = ports[index].apt;
+            weather = static_cast<double>(ports[index].pw);
+        }
+    }
+};
+
+int timeRow(const PosBookPoint& previous, const PortCallRows& ports, PortAhead& ahead, PosBookPoint& row) {
+    float distance = 0;
+    if (LegDistance(previous.position, row.position, row.psr, distance) != 0) {
+        return -3;
+    }
+    const auto speed = static_cast<double>(row.psp);
+    if (speed <= kLeastBookSpeed) {
+        return -4;
+    }
+    row.eta = previous.etd;
+    if (AddHours(static_cast<float>(SteamTime(static_cast<double>(distance), speed, ahead.weather)),
+                 row.eta) != 0) {
+        return -5;
+    }
+    row.etd = row.eta;
+    if (row.pst == PortPoint) {
+        if (AddHours(ahead.stay, row.etd) != 0) {
+            return -6;
+        }
+        ahead.Next(ports);
+    }
+    return 0;
+}
+
+}  // namespace
+
+int LegDistance(const std::string& a, const std::string& b, const std::string& psr, float& nm) {
+    Position from;
+    Position to;
+    if (!ReadPosition(a, 1, from) || !ReadPosition(b, 1, to)) {
+        return -1;
+    }
+    const double km = Util::CircleLineUtl::CalculateDistance(from.x, from.y, to.x, to.y, psr);
+    nm = static_cast<float>(km / kKmPerNauticalMile);
+    return 0;
+}
+
+int BookFromStops(const RouteStops& stops, const PointMap& routePoints, BookPoints& rows) {
+    rows.clear();
+    if (stops.size() < 2) {
+        return stops.empty() ? 0 : -1;
+    }
+    PosBookPoint start;
+    start.pointId = stops.front().point_cd;
+    start.psn = portName(start.pointId);
+    start.pst = PortPoint;
+    start.psp = 0;
+    rows.push_back(std::move(start));
+    const int code = addStops(stops, routePoints, rows);
+    if (code != 0) {
+        rows.clear();
+    }
+    return code;
+}
+
+int ComputeBookTimes(const Util::_datetime_t& start, const PortCallRows& ports, BookPoints& rows) {
+    if (rows.empty() || ports.empty()) {
+        return -1;
+    }
+    BookPoints timed = rows;
+    timed.front().eta = start;
+    timed.front().etd = start;
+    if (AddHours(ports.front().apt, timed.front().etd) != 0) {
+        return -2;
+    }
+    PortAhead ahead;
+    ahead.Next(ports);
+    for (std::size_t i = 1; i < timed.size(); ++i) {
+        if (const int code = timeRow(timed[i - 1], ports, ahead, timed[i]); code != 0) {
+            return code;
+        }
+    }
+    rows = std::move(timed);
+    return 0;
+}
+
+int GroupBookByPort(const BookPoints& rows, std::map<int, BookPoints>& groups) {
+    groups.clear();
+    if (rows.size() < 2) {
+        return -1;
+    }
+    int index = 0;
+    for (const auto& row : rows) {
+        groups[index].push_back(row);
+        if (row.pst == PortPoint) {
+            ++index;
+        }
+    }
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/BookLegs.h"
+#include "seaplan/calculation/LegCacheText.h"
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Schedule.h"
+
+#include <tarvik/util/Geodesy.h>
+
+#include <cmath>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr double kKmPerNauticalMile = 1.852;
+constexpr double kLeastSpeed = 0.0001;
+constexpr double kLeastLegTime = 0.0001;
+constexpr double kSameSpeed = 0.00001;
+constexpr int kRecomputeFailed = -7;
+
+/// Length in nautical miles and time in hours of a leg.
+struct LegSums {
+    double distance = 0;
+    double time = 0;
+};
+
+/// Sums over the pairs of a leg; weather plays no part, a row's speed is its real one.
+int sumLeg(const BookPoints& rows, const BookLeg& leg, LegSums& sums) {
+    if (leg.last <= leg.first) {
+        return -3;
+    }
+    for (std::size_t i = leg.first + 1; i <= leg.last; ++i) {
+        Position from;
+        Position to;
+        if (!ReadPosition(rows[i - 1].position, 0, from) || !ReadPosition(rows[i].position, 0, to)) {
+            return -4;
+        }
+        const auto speed = static_cast<double>(rows[i].psp);
+        if (speed < kLeastSpeed) {
+            return -5;
+        }
+        const double step = Util::CircleLineUtl::CalculateDistance(from.x, from.y, to.x, to.y, rows[i].psr) /
+                            kKmPerNauticalMile;
+        sums.distance += step;
+        sums.time += step / speed;
+    }
+    return sums.time < kLeastLegTime ? -6 : 0;
+}
+
+void appendRows(const BookPoints& from, std::size_t first, std::size_t last, BookPoints& out) {
+    for (std::size_t i = first; i <= last; ++i) {
+        out.push_back(from[i]);
+    }
+}
+
+/// A leg of the stored book that can be taken over.
+struct StoredLeg {
+    BookLeg leg;
+    bool used = false;
+};
+
+using StoredLegs = std::map<std::string, std::vector<StoredLeg>>;
+
+StoredLegs storeLegs(const PortCallRows& ports, const std::vector<BookLeg>& legs) {
+    StoredLegs stored;
+    for (std::size_t i = 1; i < legs.size(); ++i) {
+        stored[LegCacheKey(ports[i - 1].ppn, ports[i].ppn)].push_back({legs[i], false});
+    }
+    return stored;
+}
+
+/// The first leg of the key that is not taken yet, the last one when all are; null for an unknown key.
+const BookLeg* takeLeg(StoredLegs& stored, const std::string& key) {
+    const auto found = stored.find(key);
+    if (found == stored.end()) {
+        return nullptr;
+    }
+    for (auto& candidate : found->second) {
+        if (!candidate.used) {
+            candidate.used = true;
+            return &candidate.leg;
+        }
+    }
+    return &found->second.back().leg;
+}
+
+}  // namespace
+
+int LegTotalsFromBook(const VoyPositionBook& book, PortCallRows& ports) {
+    if (ports.size() < 2) {
+        return -1;
+    }
+    const auto legs = LegsOf(book.points);
+    if (legs.size() < ports.size()) {
+        return -2;
+    }
+    PortCallRows totals = ports;
+    for (std::size_t i = 1; i < totals.size(); ++i) {
+        LegSums sums;
+        if (const int code = sumLeg(book.points, legs[i], sums); code != 0) {
+            return code;
+        }
+        totals[i].distance = static_cast<float>(sums.distance);
+        totals[i].psp = static_cast<float>(sums.distance / sums.time);
+    }
+    totals.front().eta = book.eta;
+    PortCallRows timed;
+    if (RecomputeSchedule(totals, timed) != 0) {
+        return kRecomputeFailed;
+    }
+    ports = std::move(timed);
+    return 0;
+}
+
+int RescaleBookSpeeds(const PortCallRows& ports, BookPoints& rows) {
+    if (ports.size() < 2 || rows.size() < 2) {
+        return -1;
+    }
+    const auto legs = LegsOf(rows);
+    if (legs.size() != ports.size()) {
+        return -2;
+    }
+    PortCallRows averages = ports;
+    VoyPositionBook book;
+    book.eta = ports.front().eta;
+    book.points = rows;
+    if (const int code = LegTotalsFromBook(book, averages); code != 0) {
+        return code == kRecomputeFailed ? -4 : -3;
+    }
+    for (std::size_t i = 1; i < ports.size(); ++i) {
+        const auto entered = static_cast<double>(ports[i].psp);
+        const auto average = static_cast<double>(averages[i].psp);
+        if (std::fabs(entered - average) < kSameSpeed) {
+            continue;
+        }
+        for (std::size_t r = legs[i].first + 1; r <= legs[i].last; ++r) {
+            rows[r].psp = static_cast<float>(static_cast<double>(rows[r].psp) * entered / average);
+        }
+    }
+    return 0;
+}
+
+int JoinKeepingLegs(const PortCallRows& oldPorts, const BookPoints& stored, const PortCallRows& newPorts,
+                    const BookPoints& fresh, BookPoints& out) {
+    const auto oldLegs = LegsOf(stored);
+    const auto newLegs = LegsOf(fresh);
+    if (oldPorts.size() < 2 || newPorts.size() < 2 || oldLegs.size() != oldPorts.size() ||
+        newLegs.size() != newPorts.size()) {
+        return -1;
+    }
+    auto keptLegs = storeLegs(oldPorts, oldLegs);
+    BookPoints joined;
+    appendRows(fresh, newLegs.front().first, newLegs.front().last, joined);
+    for (std::size_t i = 1; i < newLegs.size(); ++i) {
+        const BookLeg* kept = takeLeg(keptLegs, LegCacheKey(newPorts[i - 1].ppn, newPorts[i].ppn));
+        const BookPoints& source = kept != nullptr ? stored : fresh;
+        const BookLeg& leg = kept != nullptr ? *kept : newLegs[i];
+        appendRows(source, leg.first + 1, leg.last, joined);
+    }
+    out = std::move(joined);
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

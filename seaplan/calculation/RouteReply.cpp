@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/RouteReply.h"
+
+#include "seaplan/calculation/Pointset.h"
+
+#include <tarvik/util/Geodesy.h>
+#include <tarvik/util/StringUtl.h>
+
+#include <cstdlib>
+#include <map>
+#include <optional>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+using Util::Jsona;
+using Util::StringUtl;
+
+constexpr double kKmPerNauticalMile = 1.852;
+
+/// Ids of the points that a stop's legs pass, in order.
+std::vector<std::string> chainOf(const RouteStop& stop) {
+    std::vector<std::string> chain{stop.routes.front().from_cd};
+    for (const auto& segment : stop.routes) {
+        chain.push_back(segment.end_cd);
+    }
+    return chain;
+}
+
+/// Walks the chain for the two ends of a range. `place` is a single end seen before, -1 for none; it goes on
+/// from one variant to the next, so that a variant with one end on the chain lends its place to the following
+/// one.
+std::optional<int> spanOf(const std::vector<std::string>& chain, const std::string& a, const std::string& b,
+                          int& place) {
+    for (int i = 0; i < static_cast<int>(chain.size()); ++i) {
+        const auto& id = chain[static_cast<std::size_t>(i)];
+        if (id != a && id != b) {
+            continue;
+        }
+        if (place >= 0) {
+            const int span = std::abs(i - place);
+            place = -1;
+            return span;
+        }
+        place = i;
+    }
+    return std::nullopt;
+}
+
+/// The variant whose range spans the fewest places; of equal spans the later. -1 nothing to choose from, -2 a
+/// range without comma, -3 no span.
+int chooseVariant(const RouteStop& stop, const std::vector<RoutePointGroup>& variants,
+                  RoutePointGroup& chosen) {
+    if (stop.routes.size() < 2 || variants.size() < 2) {
+        return -1;
+    }
+    const auto chain = chainOf(stop);
+    std::map<int, const RoutePointGroup*> bySpan;
+    int place = -1;
+    for (const auto& variant : variants) {
+        const auto comma = variant.range.find(',');
+        if (comma == std::string::npos) {
+            return -2;
+        }
+        if (const auto span =
+                spanOf(chain, variant.range.substr(0, comma), variant.range.substr(comma + 1), place)) {
+            bySpan[*span] = &variant;
+        }
+    }
+    if (bySpan.empty()) {
+        return -3;
+    }
+    chosen = *bySpan.begin()->second;
+    return 0;
+}
+
+/// Reads the variants of a text with "."; those behind the first lack the point's id and get it.
+int parseVariants(const RouteStop& stop, const std::string& text, RoutePointGroup& chosen) {
+    std::vector<std::string> pieces;
+    if (!StringUtl::split(text, ".", pieces)) {
+        return -5;
+    }
+    std::vector<RoutePointGroup> variants;
+    for (const auto& piece : pieces) {
+        RoutePointGroup variant;
+        const std::string prefix = variants.empty() ? "" : variants.front().rp_id + "=";
+        if (ParseRoutePointGroup(prefix + piece, variant) != 0) {
+            return -5;
+        }
+        variants.push_back(std::move(variant));
+    }
+    return chooseVariant(stop, variants, chosen) == 0 ? 0 : -6;
+}
+
+int parseGroups(const Jsona& texts, int leg, RouteStop& stop) {
+    for (int i = 0; i < texts.size(); ++i) {
+        const std::string text = texts.getv(i, "");
+        if (text.empty()) {
+            continue;
+        }
+        RoutePointGroup group;
+        const bool single = text.find('.') == std::string::npos;
+        const int code =
+            single ? (ParseRoutePointGroup(text, group) == 0 ? 0 : -4) : parseVariants(stop, text, group);
+        if (code != 0) {
+            return code;
+        }
+        group.leg = leg;
+        stop.rp_groups.push_back(std::move(group));
+    }
+    return 0;
+}
+
+int parseSegments(const Jsona& segments, RouteStop& stop) {
+    for (int i = 0; i < segments.size(); ++i) {
+        const Jsona item = segments.get(i);
+        RouteSegment segment{item.getv("route", ""), item.getv("from_cd", ""), item.getv("end_cd", ""),
+                             item.getv("pointset", ""), 0};
+        float km = 0;
+        if (PointsetLength(segment.pointset, km) != 0) {
+            return -3;
+        }
+        segment.distance = static_cast<float>(static_cast<double>(km) / kKmPerNauticalMile);
+        stop.distance =
+            static_cast<float>(static_cast<double>(stop.distance) + static_cast<double>(segment.distance));
+        stop.routes.push_back(std::move(segment));
+    }
+    return 0;
+}
+
+void parseLocks(const std::string& text, RouteStop& stop) {
+    std::vector<std::string> items;
+    if (!StringUtl::split(text, ".", items)) {
+        return;
+    }
+    for (const auto& item : items) {
+        const auto equals = item.find('=');
+        if (equals != std::string::npos) {
+            stop.locks.push_back({item.substr(0, equals), item});
+        }
+    }
+}
+
+int parseStop(const Jsona& item, int index, RouteStop& stop) {
+    stop.point_cd = item.getv("point_cd", "");
+    stop.rp_id_str = item.getv("rp_id_str", "");
+    int code = parseSegments(item.get("routes"), stop);
+    if (code == 0) {
+        code = parseGroups(item.get("rp_groups"), index, stop);
+    }
+    parseLocks(item.getv("lock_rp_id_str", ""), stop);
+    return code;
+}
+
+}  // namespace
+
+int ParseRouteReply(const Jsona& reply, RouteStops& out) {
+    out.clear();
+    if (reply.getv("eid", -1) != -1) {
+        return -1;
+    }
+    const bool isObject = reply.kind() == Jsona::Kind::Object;
+    RouteStops stops;
+    for (int i = 0; i < reply.size(); ++i) {
+        if (isObject && reply.key(i) == "eid") {
+            continue;
+        }
+        RouteStop stop;
+        const int code = parseStop(reply.get(i), static_cast<int>(stops.size()), stop);
+        if (code != 0) {
+            return code;
+        }
+        stops.push_back(std::move(stop));
+    }
+    if (stops.empty()) {
+        return -2;
+    }
+    out = std::move(stops);
+    return 0;
+}
+
+int ParseRoutePointGroup(const std::string& text, RoutePointGroup& out) {
+    const auto equals = text.find('=');
+    if (equals == std::string::npos) {
+        return -2;
+    }
+    const auto semicolon = text.find(';', equals + 1);
+    if (semicolon == std::string::npos) {
+        return -3;
+    }
+    RoutePointGroup group;
+    group.rp_id = text.substr(0, equals);
+    group.range = text.substr(equals + 1, semicolon - equals - 1);
+    if (!StringUtl::split(text.substr(semicolon + 1), "|", group.alternatives)) {
+        return -3;
+    }
+    out = std::move(group);
+    return 0;
+}
+
+int PointsetLength(const std::string& pointset, float& km) {
+    km = 0;
+    std::vector<std::string> points;
+    if (pointset.empty()) {
+        return 0;
+    }
+    if (!SplitPointset(pointset, points) || points.empty()) {
+        return -2;
+    }
+    Position previous;
+    if (!ReadPosition(points.front(), 0, previous)) {
+        return -3;
+    }
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        Position here;
+        if (!ReadPosition(points[i], 0, here)) {
+            continue;
+        }
+        const double step = Util::CircleLineUtl::CalculateDistance(previous.x, previous.y, here.x, here.y);
+        km = static_cast<float>(static_cast<double>(km) + step);
+        previous = here;
+    }
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

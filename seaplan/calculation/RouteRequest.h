@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/data/RouteStop.h"
+
+#include <string>
+#include <vector>
+
+/// Request texts of the route commands.
+namespace Tarvik::Seaplan {
+
+/// Whole list: {"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"a#b"}.
+std::string RouteRequestText(const std::vector<std::string>& pointIds);
+/// Request that puts `newId` in the place of `oldId`. False when no stop has a group of the old id, or the
+/// group's stop has no segments, or a part comes out empty; then `text` is left alone.
+bool AlternativeRequestText(const RouteStops& stops, const std::string& oldId, const std::string& newId,
+                            std::string& text);
+/// {"nr_point":[x,y],"dest_port":id}
+std::string NearestRequestText(const std::string& position, const std::string& portId);
+
+}  // namespace Tarvik::Seaplan

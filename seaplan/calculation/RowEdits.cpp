@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/Schedule.h"
+
+namespace Tarvik::Seaplan {
+namespace {
+
+int sizeOf(const PortCallRows& rows) {
+    return static_cast<int>(rows.size());
+}
+
+/// Puts a copy of row `from` before `to` and takes the row out that then stands at `gone`.
+int moveRow(const PortCallRows& rows, int from, int to, int gone, PortCallRows& out) {
+    PortCallRows inserted;
+    const bool known = from >= 0 && from < sizeOf(rows);
+    if (!known || InsertRowAt(rows, to, rows[static_cast<std::size_t>(from)], inserted) != 0) {
+        out.clear();
+        return -1;
+    }
+    PortCallRows result;
+    if (RemoveRowAt(inserted, gone, result) != 0) {
+        out.clear();
+        return -2;
+    }
+    out = std::move(result);
+    return 0;
+}
+
+}  // namespace
+
+int InsertRowAt(const PortCallRows& rows, int index, const VoyPortCall& row, PortCallRows& out) {
+    if (index < 0) {
+        return -1;
+    }
+    if (index > sizeOf(rows)) {
+        return -2;
+    }
+    PortCallRows result = rows;
+    result.insert(result.begin() + index, row);
+    out = std::move(result);
+    return 0;
+}
+
+int RemoveRowAt(const PortCallRows& rows, int index, PortCallRows& out) {
+    if (index < 0) {
+        return -1;
+    }
+    if (index >= sizeOf(rows)) {
+        return -2;
+    }
+    PortCallRows result = rows;
+    result.erase(result.begin() + index);
+    out = std::move(result);
+    return 0;
+}
+
+int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) {
+    return moveRow(rows, index, index - 1, index + 1, out);
+}
+
+int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out) {
+    return moveRow(rows, index, index + 2, index, out);
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/data/VoyPortCall.h"
+
+#include <string>
+
+/// The arithmetic of the port call table, in knots, nautical miles and hours.
+namespace Tarvik::Seaplan {
+
+/// Hours for `distance` NM at `speed` knots and weather factor `weather`: d / ((1 - w) * s). Not finite for a
+/// factor of 1 or a speed of 0.
+double SteamTime(double distance, double speed, double weather);
+/// Schedule of rows that have distances, starting at `start`. A missing speed becomes 10 knots. 0; -1 when a
+/// steam time is not finite, with `out` empty.
+int BuildSchedule(const Util::_datetime_t& start, const PortCallRows& rows, PortCallRows& out);
+/// Schedule after an edit, from `eta` of row 0. 0; -1 weather outside 0 to 0.9999999; -2 speed below 0.01; -3
+/// a steam time that is not finite. On failure `out` is empty.
+int RecomputeSchedule(const PortCallRows& rows, PortCallRows& out);
+/// Adds hours, whole centiseconds truncated toward zero. 0; -1, with the time as it was, for a value that is
+/// not finite or leads out of the years 1 to 9999; the passes above then fail as for a steam time that is not
+/// finite.
+int AddHours(float hours, Util::_datetime_t& time);
+/// Hours from text b to text a, both 19 characters "%Y-%m-%d %H:%M:%S" read by position. 0, or -1 for another
+/// length.
+int HoursBetween(const std::string& a, const std::string& b, float& hours);
+
+/// A new list with `row` before `index`, or at the end when the index is the size. -1 negative, -2 beyond the
+/// size.
+int InsertRowAt(const PortCallRows& rows, int index, const VoyPortCall& row, PortCallRows& out);
+/// A new list without row `index`. -1 negative, -2 at or beyond the size.
+int RemoveRowAt(const PortCallRows& rows, int index, PortCallRows& out);
+/// -1 when the insertion, -2 when the removal fails; then `out` is empty.
+int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out);
+int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out);
+
+/// Sums of the totals row, from row 0, in the units of the rows.
+struct ScheduleTotals {
+    float portTime = 0;
+    float steamTime = 0;
+    float distance = 0;
+    Util::_datetime_t eta;  ///< of the first row
+    Util::_datetime_t etd;  ///< of the last row
+};
+/// False, with `out` as it was, for fewer than two rows.
+bool TotalsOf(const PortCallRows& rows, ScheduleTotals& out);
+
+/// Figures over the whole voyage from row 1: port time included, the stay at the first port not.
+struct ScheduleSummary {
+    float averageSpeed = 0;   ///< knots
+    float totalTime = 0;      ///< hours
+    float totalDistance = 0;  ///< nautical miles
+};
+/// Rows in standard units. False, with `out` as it was, for fewer than two rows or a total time below 0.0001.
+bool SummaryOf(const PortCallRows& rows, ScheduleSummary& out);
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/TimeText.h"
+
+#include <tarvik/util/StringUtl.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr std::size_t kTimeLength = 19;
+
+bool within(int value, int least, int most) {
+    return value >= least && value <= most;
+}
+
+bool exists(const TimeFields& fields) {
+    return within(fields.year, 1, 9999) && within(fields.month, 1, 12) && within(fields.day, 1, 31) &&
+           fields.day <= Util::_date_t(1, fields.month, fields.year).month_days() &&
+           within(fields.hour, 0, 23) && within(fields.minute, 0, 59) && within(fields.second, 0, 59);
+}
+
+}  // namespace
+
+std::optional<TimeFields> ReadTimeFields(const std::string& text) {
+    if (text.size() != kTimeLength) {
+        return std::nullopt;
+    }
+    const auto number = [&text](std::size_t at, std::size_t count) {
+        return Util::StringUtl::ToInt(text.substr(at, count));
+    };
+    return TimeFields{number(0, 4), number(5, 2), number(8, 2), number(11, 2), number(14, 2), number(17, 2)};
+}
+
+std::optional<Util::_datetime_t> ReadTimeText(const std::string& text) {
+    const auto fields = ReadTimeFields(text);
+    if (!fields || !exists(*fields)) {
+        return std::nullopt;
+    }
+    return Util::_datetime_t(fields->second, fields->minute, fields->hour, fields->day, fields->month,
+                             fields->year);
+}
+
+}  // namespace Tarvik::Seaplan

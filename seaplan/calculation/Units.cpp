@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/Units.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr const char* kKnots = "kts";
+constexpr const char* kNauticalMiles = "NM";
+constexpr const char* kHours = "hour";
+
+enum class Quantity { Speed, Distance, Time };
+
+struct Factor {
+    std::string_view from;
+    std::string_view to;
+    float multiplier;
+    float divisor;
+    Quantity quantity;
+};
+
+// The three speed factors are independent of each other: knots to MPH over KPH is not the direct way.
+constexpr std::array<Factor, 10> kFactors{{
+    {"KPH", "kts", 1, 1.852F, Quantity::Speed},
+    {"kts", "KPH", 1.852F, 1, Quantity::Speed},
+    {"KPH", "MPH", 1, 1.61F, Quantity::Speed},
+    {"MPH", "KPH", 1.61F, 1, Quantity::Speed},
+    {"kts", "MPH", 1.15F, 1, Quantity::Speed},
+    {"MPH", "kts", 1, 1.15F, Quantity::Speed},
+    {"KM", "NM", 1, 1.852F, Quantity::Distance},
+    {"NM", "KM", 1.852F, 1, Quantity::Distance},
+    {"day", "hour", 24, 1, Quantity::Time},
+    {"hour", "day", 1, 24, Quantity::Time},
+}};
+
+float changed(float value, const Factor& factor) {
+    return static_cast<float>(static_cast<double>(value) * static_cast<double>(factor.multiplier) /
+                              static_cast<double>(factor.divisor));
+}
+
+void change(VoyPortCall& row, const Factor& factor) {
+    switch (factor.quantity) {
+        case Quantity::Speed:
+            row.psp = changed(row.psp, factor);
+            break;
+        case Quantity::Distance:
+            row.distance = changed(row.distance, factor);
+            break;
+        case Quantity::Time:
+            row.steamTime = changed(row.steamTime, factor);
+            row.apt = changed(row.apt, factor);
+            break;
+    }
+}
+
+/// Converts in place; equal units need no factor.
+bool convert(PortCallRows& rows, const std::string& from, const std::string& to) {
+    if (from == to) {
+        return true;
+    }
+    PortCallRows result;
+    if (ConvertRows(rows, from, to, result) != 0) {
+        return false;
+    }
+    rows = std::move(result);
+    return true;
+}
+
+int convertAll(const PortCallRows& rows, const UnitSet& from, const UnitSet& to, PortCallRows& out) {
+    PortCallRows result = rows;
+    int code = 0;
+    if (rows.empty()) {
+        code = -1;
+    } else if (!convert(result, from.speed, to.speed)) {
+        code = -2;
+    } else if (!convert(result, from.distance, to.distance)) {
+        code = -3;
+    } else if (!convert(result, from.time, to.time)) {
+        code = -4;
+    }
+    if (code != 0) {
+        result.clear();
+    }
+    out = std::move(result);
+    return code;
+}
+
+const UnitSet& standardUnits() {
+    static const UnitSet units{kKnots, kNauticalMiles, kHours};
+    return units;
+}
+
+}  // namespace
+
+int ConvertRows(const PortCallRows& rows, const std::string& from, const std::string& to, PortCallRows& out) {
+    const auto factor = std::find_if(kFactors.begin(), kFactors.end(),
+                                     [&](const Factor& f) { return f.from == from && f.to == to; });
+    if (rows.empty() || factor == kFactors.end()) {
+        const int code = rows.empty() ? -2 : -1;
+        out.clear();
+        return code;
+    }
+    PortCallRows result = rows;
+    for (auto& row : result) {
+        change(row, *factor);
+    }
+    out = std::move(result);
+    return 0;
+}
+
+int ConvertUnitValue(const PortCallRows& rows, const std::string& from, const std::string& to,
+                     PortCallRows& out) {
+    if (rows.empty()) {
+        out.clear();
+        return -1;
+    }
+    if (from == to) {
+        out.clear();
+        return -2;
+    }
+    return ConvertRows(rows, from, to, out) == 0 ? 0 : -3;
+}
+
+int ToStandardUnits(const PortCallRows& rows, const UnitSet& units, PortCallRows& out) {
+    return convertAll(rows, units, standardUnits(), out);
+}
+
+int FromStandardUnits(const PortCallRows& rows, const UnitSet& units, PortCallRows& out) {
+    return convertAll(rows, standardUnits(), units, out);
+}
+
+}  // namespace Tarvik::Seaplan

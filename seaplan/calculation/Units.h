@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/data/VoyPortCall.h"
+
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+/// The unit names of a table: speed "kts", "KPH" or "MPH", distance "NM" or "KM", time "hour" or "day".
+struct UnitSet {
+    std::string speed = "kts";
+    std::string distance = "NM";
+    std::string time = "day";
+};
+
+/// Changes one quantity of every row as value * multiplier / divisor. 0; -1 for a pair of units without a
+/// factor (out cleared); -2 for no rows. The empty input is tested first.
+int ConvertRows(const PortCallRows& rows, const std::string& from, const std::string& to, PortCallRows& out);
+/// ConvertRows behind two guards: -1 no rows, -2 equal units (out stays empty), -3 failed conversion.
+int ConvertUnitValue(const PortCallRows& rows, const std::string& from, const std::string& to,
+                     PortCallRows& out);
+/// To knots, nautical miles, hours. -1 no rows; -2, -3, -4 for a bad speed, distance, time unit.
+int ToStandardUnits(const PortCallRows& rows, const UnitSet& units, PortCallRows& out);
+/// From knots, nautical miles, hours to the given units; results as ToStandardUnits.
+int FromStandardUnits(const PortCallRows& rows, const UnitSet& units, PortCallRows& out);
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/tests/Rows.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+using namespace Testing;
+
+PortCallRows portsOf(const std::string& letters) {
+    PortCallRows rows;
+    for (const char letter : letters) {
+        rows.push_back(call(std::string(1, letter), 0));
+    }
+    return rows;
+}
+
+/// A book of these ports with one waypoint a leg; positions bear the prefix.
+BookPoints bookOf(const std::string& letters, const std::string& prefix) {
+    BookPoints rows;
+    for (std::size_t i = 0; i < letters.size(); ++i) {
+        const std::string number = std::to_string(i);
+        if (i > 0) {
+            rows.push_back(point(prefix + "w" + number));
+        }
+        rows.push_back(port(prefix + letters[i] + number));
+    }
+    return rows;
+}
+
+std::string joined(const std::string& old, const std::string& fresh) {
+    BookPoints out;
+    EXPECT_EQ(JoinKeepingLegs(portsOf(old), bookOf(old, "s"), portsOf(fresh), bookOf(fresh, "n"), out), 0);
+    return positions(out);
+}
+
+TEST(JoinKeepingLegs, KnownLegComesWithItsEndPortsRow) {
+    EXPECT_EQ(joined("AB", "AB"), "nA0|sw1|sB1") << "the first row is the new route's";
+}
+
+TEST(JoinKeepingLegs, UnknownLegIsTheNewRoutes) {
+    EXPECT_EQ(joined("AB", "ABC"), "nA0|sw1|sB1|nw2|nC2");
+    EXPECT_EQ(joined("AB", "BA"), "nB0|nw1|nA1") << "direction matters";
+}
+
+TEST(JoinKeepingLegs, LegsOfOneKeyAreTakenInTurnAndTheLastAgain) {
+    EXPECT_EQ(joined("ABAB", "ABABAB"), "nA0|sw1|sB1|sw2|sA2|sw3|sB3|sw2|sA2|sw3|sB3");
+}
+
+TEST(JoinKeepingLegs, NamesWithAHyphenMayShareAKey) {
+    PortCallRows old{call("A-B", 0), call("C", 0)};
+    PortCallRows fresh{call("A", 0), call("B-C", 0)};
+    BookPoints out;
+    ASSERT_EQ(JoinKeepingLegs(old, bookOf("XY", "s"), fresh, bookOf("XY", "n"), out), 0);
+    EXPECT_EQ(positions(out), "nX0|sw1|sY1");
+}
+
+TEST(JoinKeepingLegs, RefusesShortOrUnmatchedSides) {
+    BookPoints out{port("kept")};
+    const auto code = [&out](const char* oldPorts, const char* stored, const char* newPorts,
+                             const char* fresh) {
+        return JoinKeepingLegs(portsOf(oldPorts), bookOf(stored, "s"), portsOf(newPorts), bookOf(fresh, "n"),
+                               out);
+    };
+    EXPECT_EQ(code("A", "A", "AB", "AB"), -1);
+    EXPECT_EQ(code("AB", "AB", "A", "A"), -1);
+    EXPECT_EQ(code("AB", "ABC", "AB", "AB"), -1);
+    EXPECT_EQ(code("AB", "AB", "ABC", "AB"), -1);
+    EXPECT_EQ(code("AB", "", "AB", "AB"), -1);
+    EXPECT_EQ(positions(out), "kept");
+}
+
+TEST(JoinKeepingLegs, SplittingAndJoiningTheSameBookChangesNothing) {
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    for (int round = 0; round < 300; ++round) {
+        BookPoints rows{port("p0")};
+        PortCallRows ports{call("A", 0)};
+        for (int i = 1; i < 30; ++i) {
+            const bool isPort = i == 29 || random() % 4 == 0;
+            rows.push_back(point("r" + std::to_string(i), isPort ? PortPoint : PlainPoint));
+            if (isPort) {
+                ports.push_back(call(std::string(1, static_cast<char>('A' + random() % 3)), 0));
+            }
+        }
+        BookPoints out;
+        ASSERT_EQ(JoinKeepingLegs(ports, rows, ports, rows, out), 0);
+        ASSERT_EQ(positions(out), positions(rows));
+    }
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/chart/LineSplit.h"
+
+namespace Tarvik::Seaplan {
+namespace {
+
+/// The point just before the date line on the same side, its latitude as it stands; empty for a point
+/// elsewhere.
+std::string atDateLine(const std::string& point) {
+    const auto comma = point.find(',');
+    const std::string tail = comma == std::string::npos ? "" : point.substr(comma);
+    if (point.starts_with("180")) {
+        return "179.99" + tail;
+    }
+    if (point.starts_with("-180")) {
+        return "-179.99" + tail;
+    }
+    return "";
+}
+
+}  // namespace
+
+int SplitAtDateLine(const PointTexts& points, std::vector<PointTexts>& pieces) {
+    pieces.clear();
+    if (points.size() < 2) {
+        return -1;
+    }
+    std::vector<PointTexts> all(1);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        if (i + 1 < points.size() && points[i] == points[i + 1]) {
+            continue;
+        }
+        const std::string cut = atDateLine(points[i]);
+        all.back().push_back(cut.empty() ? points[i] : cut);
+        // A piece that only begins at the date line stays open.
+        if (!cut.empty() && all.back().size() > 1) {
+            all.emplace_back();
+        }
+    }
+    for (auto& piece : all) {
+        if (piece.size() >= 2) {
+            pieces.push_back(std::move(piece));
+        }
+    }
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan {
+
+using PointTexts = std::vector<std::string>;
+
+/// Cuts a list of "x,y" texts where it meets the date line; the test is on the text ("180", "-180"), which
+/// becomes 179.99 or -179.99. 0 with the pieces of at least two points; -1 fewer than two points. Of a run of
+/// equal texts only the last stays. A jump from 179 to -179 without a point at 180 is not cut.
+int SplitAtDateLine(const PointTexts& points, std::vector<PointTexts>& pieces);
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/chart/ViewExtent.h"
+
+#include "seaplan/calculation/Pointset.h"
+
+#include <algorithm>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+struct Limits {
+    double east = 0;
+    double north = 0;
+    double west = 0;
+    double south = 0;
+};
+
+Limits around(const Position& p) {
+    return {p.x + 1.0, p.y + 1.0, p.x - 1.0, p.y - 1.0};
+}
+
+void widen(Limits& limits, const Position& p) {
+    limits.east = std::max(limits.east, p.x);
+    limits.west = std::min(limits.west, p.x);
+    limits.north = std::max(limits.north, p.y);
+    limits.south = std::min(limits.south, p.y);
+}
+
+void addMargins(Limits& limits) {
+    limits.east = std::min(limits.east + 2.0, 180.0);
+    limits.west = std::max(limits.west - 2.0, -180.0);
+    limits.north = std::min(limits.north + 1.0, 90.0);
+    limits.south = std::max(limits.south - 1.0, -90.0);
+}
+
+bool isAroundTheWorld(const Limits& limits) {
+    return (limits.east > 160.0 && limits.west < -160.0) || (limits.north > 80.0 && limits.south < -80.0);
+}
+
+}  // namespace
+
+std::optional<Interface::TrvMapExtent> ExtentOf(const PointTexts& points) {
+    std::optional<Limits> limits;
+    for (const auto& point : points) {
+        Position position;
+        if (!ReadPosition(point, 0, position)) {
+            continue;
+        }
+        if (limits) {
+            widen(*limits, position);
+        } else {
+            limits = around(position);
+        }
+    }
+    if (!limits) {
+        return std::nullopt;
+    }
+    addMargins(*limits);
+    if (isAroundTheWorld(*limits)) {
+        limits->east = 126.0;
+        limits->west = -90.0;
+    }
+    return Interface::TrvMapExtent{limits->east, limits->north, limits->west, limits->south};
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/chart/LineSplit.h"
+
+#include <tarvik/interface/ChartRecords.h>
+
+#include <optional>
+
+namespace Tarvik::Seaplan {
+
+/// The view that shows all points: eastern, northern, western, southern limit with margins, clamped to the
+/// globe; around the world a fixed view. Nothing when no point has a comma.
+std::optional<Interface::TrvMapExtent> ExtentOf(const PointTexts& points);
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/chart/VoyageLayer.h"
+
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/chart/ViewExtent.h"
+
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/FileUtl.h>
+
+#include <array>
+#include <utility>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+namespace Bus = Interface::Bus;
+
+constexpr const char* kLayer = "VOYAGE";
+constexpr const char* kRouteLineType = "VOYLINETYPE";
+constexpr const char* kBookLineType = "VOYPOSTBOOKLINETYPE";
+constexpr const char* kRoutePointType = "VOYAGETYPE";
+constexpr const char* kAlternativeType = "RPOINTTYPE";
+constexpr const char* kShipType = "AISSHIPTYPE";
+constexpr const char* kShipImage = "AIS_Ship";
+constexpr const char* kShipFile = "\\businessdata\\seaplan\\ship.png";
+constexpr int kRouteColour = 0x6464E9;
+constexpr int kBookColour = 0xC832E9;
+constexpr int kRoutePointColour = 0x9664FF;
+constexpr int kAlternativeColour = 0xFF00FF;
+constexpr int kLineWidth = 2;
+constexpr int kLabelSize = 3;
+constexpr int kNumberedPieces = 10;
+constexpr int kClearRounds = 5;
+constexpr int kRemainingFirst = 5;
+
+void styleLine(Interface::TrvMapLineParams& line, const char* type, const char* style, int colour) {
+    line.ref.layer = kLayer;
+    line.ref.type = type;
+    line.style = style;
+    line.colour = colour;
+    line.width = kLineWidth;
+}
+
+void styleLabel(Interface::TrvMapPointParams& label, const char* type, int colour) {
+    label.ref.layer = kLayer;
+    label.ref.type = type;
+    label.shape = "circle";
+    label.colour = colour;
+    label.size = kLabelSize;
+}
+
+void styleRecords(VoyageLayer& layer) {
+    styleLine(layer.mainLine, kRouteLineType, "solid", kRouteColour);
+    styleLine(layer.remainingLine, kBookLineType, "solid", kBookColour);
+    styleLine(layer.sailedLine, kBookLineType, "dashed", kBookColour);
+    styleLine(layer.spareLine, kBookLineType, "dashed", kBookColour);
+    styleLabel(layer.routePointLabel, kRoutePointType, kRoutePointColour);
+    styleLabel(layer.alternativeLabel, kAlternativeType, kAlternativeColour);
+    layer.shipIcon.ref.layer = kLayer;
+    layer.shipIcon.ref.type = kShipType;
+    layer.shipIcon.image = kShipImage;
+}
+
+void addLabel(Interface::TrvMapPointParams& label, const RoutePointRow& point) {
+    label.ref.id = point.id;
+    label.position = point.position;
+    label.label = point.name;
+    Interface::Call(Bus::MapAddPointLabel, &std::as_const(label));
+}
+
+/// Removes whatever a voyage may have of one type: its numbered pieces and the object that bears its own id.
+void deleteObjectsOf(const std::string& vi, const char* type) {
+    std::array<Interface::TrvMapObjectRef, kNumberedPieces + 1> objects;
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        objects[i].id = i < kNumberedPieces ? vi + "_" + std::to_string(i) : vi;
+        objects[i].type = type;
+    }
+    const Interface::TrvMapObjectList list{kLayer, objects.data(), static_cast<std::int32_t>(objects.size())};
+    Interface::Call(Bus::MapDeleteObjects, &list);
+}
+
+/// All points of the route; neighbouring segments of a stop share one, which is taken once.
+bool collectPoints(const RouteStops& stops, PointTexts& points) {
+    for (std::size_t s = 1; s < stops.size(); ++s) {
+        const auto& segments = stops[s].routes;
+        for (std::size_t r = 0; r < segments.size(); ++r) {
+            std::vector<std::string> piece;
+            if (!SplitPointset(segments[r].pointset, piece)) {
+                return false;
+            }
+            const std::ptrdiff_t skipped = r > 0 && !piece.empty() ? 1 : 0;
+            points.insert(points.end(), piece.begin() + skipped, piece.end());
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+VoyageLayer::VoyageLayer() {
+    layer_.layer = kLayer;
+    styleRecords(*this);
+}
+
+int VoyageLayer::SetupLayer() {
+    layer_.layer = kLayer;
+    Interface::Call(Bus::MapAddLayer, &std::as_const(layer_));
+    styleRecords(*this);
+    return 0;
+}
+
+void VoyageLayer::clearType(const char* type) {
+    const Interface::TrvMapObjectRef ref{kLayer, "", type};
+    Interface::Call(Bus::MapDeleteObjectsByType, &ref);
+}
+
+int VoyageLayer::ClearRouteObjects() {
+    clearType(kRoutePointType);
+    clearType(kRouteLineType);
+    clearType(kAlternativeType);
+    return 0;
+}
+
+int VoyageLayer::ClearAllObjects() {
+    ClearRouteObjects();
+    clearType(kShipType);
+    clearType(kBookLineType);
+    return 0;
+}
+
+int VoyageLayer::ClearVoyageObjects(const std::string& vi) {
+    if (vi.empty()) {
+        return -1;
+    }
+    for (int round = 0; round < kClearRounds; ++round) {
+        deleteObjectsOf(vi, kBookLineType);
+        deleteObjectsOf(vi, kShipType);
+    }
+    return 0;
+}
+
+int VoyageLayer::PlaceShip(Interface::TrvMapImageParams& record, const std::string& position) {
+    if (position.empty()) {
+        return -1;
+    }
+    const Interface::TrvMapImageReg image{
+        kShipImage, Util::FileUtl::GetCurrentAppDirectory() + Util::FileUtl::NativePath(kShipFile)};
+    Interface::Call(Bus::MapRegisterImage, &image);
+    record.position = position;
+    Interface::Call(Bus::MapAddImage, &std::as_const(record));
+    return 0;
+}
+
+int VoyageLayer::DrawLine(Interface::TrvMapLineParams& line, const PointTexts& points, int mode) {
+    line.points.clear();
+    std::vector<PointTexts> pieces;
+    if (const int code = SplitAtDateLine(points, pieces); code != 0) {
+        return code;
+    }
+    if (mode != 0 && mode != 1) {
+        return -4;
+    }
+    int number = mode == 0 ? 0 : kRemainingFirst;
+    const std::string baseId = line.ref.id;
+    for (auto& piece : pieces) {
+        line.points = std::move(piece);
+        line.ref.id = baseId + "_" + std::to_string(number++);
+        Interface::Call(Bus::MapAddLine, &std::as_const(line));
+        line.ref.id = baseId;
+        line.points.clear();
+    }
+    return 0;
+}
+
+int VoyageLayer::SetExtent(const PointTexts& points) {
+    if (!autoExtent) {
+        return 0;
+    }
+    if (const auto extent = ExtentOf(points)) {
+        Interface::Call(Bus::MapSetExtent, &*extent);
+    }
+    return 0;
+}
+
+int VoyageLayer::DrawRoute(const RouteStops& stops, const std::string& database, PointMap& routePoints) {
+    if (stops.size() < 2) {
+        return -1;
+    }
+    if (SetupLayer() != 0) {
+        return -2;
+    }
+    if (ClearRouteObjects() != 0) {
+        return -3;
+    }
+    PointTexts points;
+    if (!collectPoints(stops, points)) {
+        return -4;
+    }
+    mainLine.ref.id.clear();
+    if (DrawLine(mainLine, points, 0) != 0) {
+        return -5;
+    }
+    if (SetExtent(points) != 0) {
+        return -6;
+    }
+    return DrawRoutePointLabels(stops, database, routePoints) == 0 ? 0 : -7;
+}
+
+int VoyageLayer::DrawRoutePointLabels(const RouteStops& stops, const std::string& database,
+                                      PointMap& routePoints) {
+    if (stops.size() < 2) {
+        return -1;
+    }
+    std::vector<RoutePointGroup> groups;
+    for (const auto& stop : stops) {
+        groups.insert(groups.end(), stop.rp_groups.begin(), stop.rp_groups.end());
+    }
+    if (groups.empty()) {
+        return 0;
+    }
+    if (LoadRoutePoints(database, routePoints) != 0) {
+        return -2;
+    }
+    for (const auto& group : groups) {
+        const auto found = routePoints.find(group.rp_id);
+        if (found == routePoints.end()) {
+            return -3;
+        }
+        addLabel(routePointLabel, found->second);
+    }
+    return 0;
+}
+
+int VoyageLayer::DrawBook(const std::string& vi, const PointTexts& positions) {
+    if (positions.size() < 2) {
+        return -1;
+    }
+    if (SetupLayer() != 0) {
+        return -2;
+    }
+    if (ClearRouteObjects() != 0) {
+        return -3;
+    }
+    if (vi.empty()) {
+        return -4;
+    }
+    remainingLine.ref.id = vi;
+    if (DrawLine(remainingLine, positions, 1) != 0) {
+        return -5;
+    }
+    return SetExtent(positions) == 0 ? 0 : -6;
+}
+
+void VoyageLayer::AddAlternativeLabel(const RoutePointRow& point) {
+    addLabel(alternativeLabel, point);
+}
+
+void VoyageLayer::ClearAlternatives() {
+    clearType(kAlternativeType);
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/calculation/PointTables.h"
+#include "seaplan/chart/LineSplit.h"
+#include "seaplan/data/RouteStop.h"
+
+#include <tarvik/interface/ChartRecords.h>
+
+#include <map>
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+/// Everything that the plug-in draws in the chart's layer "VOYAGE", by the chart services of the bus. Results
+/// are 0 or a negative step number; the chart's own answers are not looked at.
+class VoyageLayer {
+  public:
+    VoyageLayer();
+    /// Adds the layer and fills the style records again. 0.
+    int SetupLayer();
+    /// Removes route labels, route lines and alternatives. 0.
+    int ClearRouteObjects();
+    /// The same, ships and book lines too. 0.
+    int ClearAllObjects();
+    /// Removes a voyage's lines and ship: eleven ids a call, five rounds. -1 empty id.
+    int ClearVoyageObjects(const std::string& vi);
+    /// Puts the ship's icon at "x,y". -1 empty position.
+    int PlaceShip(Interface::TrvMapImageParams& record, const std::string& position);
+    /// Draws a line cut at the date line; piece numbers from 0 (mode 0) or 5 (mode 1). -1 fewer than two
+    /// points, -4 another mode.
+    int DrawLine(Interface::TrvMapLineParams& line, const PointTexts& points, int mode);
+    /// Sends the view that shows all points, unless autoExtent is off. 0.
+    int SetExtent(const PointTexts& points);
+    /// Draws a calculated route with its labels. -1 fewer than two stops; -2 to -7 by step.
+    int DrawRoute(const RouteStops& stops, const std::string& database, PointMap& routePoints);
+    int DrawRoutePointLabels(const RouteStops& stops, const std::string& database, PointMap& routePoints);
+    /// Draws the rows of a position book as the remaining line. -1 fewer than two; -2, -3; -4 empty id; -5,
+    /// -6.
+    int DrawBook(const std::string& vi, const PointTexts& positions);
+    /// Labels one alternative of a route point.
+    void AddAlternativeLabel(const RoutePointRow& point);
+    void ClearAlternatives();
+
+    bool autoExtent = true;
+    Interface::TrvMapLineParams mainLine;
+    Interface::TrvMapLineParams remainingLine;
+    Interface::TrvMapLineParams sailedLine;
+    Interface::TrvMapLineParams spareLine;
+    Interface::TrvMapPointParams routePointLabel;
+    Interface::TrvMapPointParams alternativeLabel;
+    Interface::TrvMapImageParams shipIcon;
+
+  private:
+    void clearType(const char* type);
+    Interface::TrvMapLayerParams layer_;
+};
+
+}  // namespace Tarvik::Seaplan

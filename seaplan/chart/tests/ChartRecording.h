@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <tarvik/interface/ChartRecords.h>
+
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan::Testing {
+
+/// A chart that only writes down, one text a call, what it is asked for. The bus is empty before and behind
+/// it.
+class ChartRecording : public Core::TObject {
+  public:
+    ChartRecording();
+    ~ChartRecording() override;
+    ChartRecording(const ChartRecording&) = delete;
+    ChartRecording& operator=(const ChartRecording&) = delete;
+
+    std::vector<std::string> calls;
+    std::vector<Interface::TrvMapLineParams> lines;
+    std::vector<Interface::TrvMapPointParams> labels;
+    std::vector<Interface::TrvMapLayerParams> layers;
+
+  private:
+    template <auto Method>
+    void bind(const char* name);
+    void* addLayer(void* input);
+    void* addLine(void* input);
+    void* addLabel(void* input);
+    void* addImage(void* input);
+    void* registerImage(void* input);
+    void* deleteObjects(void* input);
+    void* deleteByType(void* input);
+    void* setExtent(void* input);
+
+    std::deque<Core::TEvent> delegates_;
+};
+
+}  // namespace Tarvik::Seaplan::Testing

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/chart/VoyageLayer.h"
+#include "seaplan/chart/tests/ChartRecording.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr const char* kNoDatabase = "/nonexistent/points.db";
+
+struct RouteDrawing : ::testing::Test {
+    Testing::ChartRecording chart;
+    VoyageLayer layer;
+    PointMap routePoints{{"118", {"118", "Cape", "5,5"}}};
+};
+
+RouteStops twoLegs() {
+    RouteStops stops(3);
+    stops[1].routes = {{"1", "", "", "1,0|2,0", 0}, {"2", "", "", "2,0|3,0", 0}};
+    stops[2].routes = {{"3", "", "", "3,0|4,0", 0}};
+    return stops;
+}
+
+TEST_F(RouteDrawing, LineNumbersItsPiecesByMode) {
+    const PointTexts points{"170,0", "180,1", "-180,1", "-170,2"};
+    layer.sailedLine.ref.id = "v";
+    EXPECT_EQ(layer.DrawLine(layer.sailedLine, points, 0), 0);
+    layer.remainingLine.ref.id = "v";
+    EXPECT_EQ(layer.DrawLine(layer.remainingLine, points, 1), 0);
+    EXPECT_THAT(chart.calls, ElementsAre("line VOYAGE/VOYPOSTBOOKLINETYPE/v_0 170,0 179.99,1",
+                                         "line VOYAGE/VOYPOSTBOOKLINETYPE/v_1 -179.99,1 -170,2",
+                                         "line VOYAGE/VOYPOSTBOOKLINETYPE/v_5 170,0 179.99,1",
+                                         "line VOYAGE/VOYPOSTBOOKLINETYPE/v_6 -179.99,1 -170,2"));
+    EXPECT_EQ(chart.lines[0].style, "dashed");
+    EXPECT_EQ(chart.lines[2].style, "solid");
+    EXPECT_EQ(layer.sailedLine.ref.id, "v");
+    EXPECT_THAT(layer.sailedLine.points, IsEmpty());
+}
+
+TEST_F(RouteDrawing, LineRefusesOnePointAndOtherModes) {
+    layer.sailedLine.points = {"old"};
+    EXPECT_EQ(layer.DrawLine(layer.sailedLine, {"1,0"}, 0), -1);
+    EXPECT_THAT(layer.sailedLine.points, IsEmpty());
+    EXPECT_EQ(layer.DrawLine(layer.sailedLine, {"1,0"}, 2), -1) << "the points are looked at before the mode";
+    EXPECT_EQ(layer.DrawLine(layer.sailedLine, {"1,0", "2,0"}, 2), -4);
+    EXPECT_EQ(layer.DrawLine(layer.sailedLine, {"1,0", "1,0"}, 0), 0);
+    EXPECT_THAT(chart.calls, IsEmpty());
+}
+
+TEST_F(RouteDrawing, MorePiecesThanTheCleaningReachesAreDrawnAllTheSame) {
+    PointTexts points;
+    for (int i = 0; i < 6; ++i) {
+        points.insert(points.end(), {"170,0", "180,0", "-180,0", "-170,0", "-180,1", "180,1"});
+    }
+    layer.remainingLine.ref.id = "v";
+    EXPECT_EQ(layer.DrawLine(layer.remainingLine, points, 1), 0);
+    EXPECT_GT(chart.lines.size(), 5);
+    EXPECT_EQ(chart.lines[5].ref.id, "v_10");
+}
+
+TEST_F(RouteDrawing, RouteIsOneLineWithItsLabels) {
+    auto stops = twoLegs();
+    stops[2].rp_groups = {{2, "118", "a,b", {}}};
+    layer.mainLine.ref.id = "left over";
+    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, routePoints), 0);
+    EXPECT_THAT(chart.calls,
+                ElementsAre("layer VOYAGE", "clear VOYAGE/VOYAGETYPE/", "clear VOYAGE/VOYLINETYPE/",
+                            "clear VOYAGE/RPOINTTYPE/", "line VOYAGE/VOYLINETYPE/_0 1,0 2,0 3,0 4,0",
+                            "extent 6 2 -2 -2", "label VOYAGE/VOYAGETYPE/118 Cape 5,5"));
+}
+
+TEST_F(RouteDrawing, FirstPointOfASegmentIsTakenOnlyAtTheFirstOfEachStop) {
+    auto stops = twoLegs();
+    stops[1].routes[1].pointset = "9,9|3,0";
+    stops[2].routes[0].pointset = "8,8|4,0";
+    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, routePoints), 0);
+    EXPECT_THAT(chart.lines.at(0).points, ElementsAre("1,0", "2,0", "3,0", "8,8", "4,0"));
+}
+
+TEST_F(RouteDrawing, RouteTellsWhichStepFailed) {
+    EXPECT_EQ(layer.DrawRoute(RouteStops(1), kNoDatabase, routePoints), -1);
+    EXPECT_THAT(chart.calls, IsEmpty());
+    EXPECT_EQ(layer.DrawRoute(RouteStops(2), kNoDatabase, routePoints), -5);
+    auto stops = twoLegs();
+    stops[1].rp_groups = {{1, "999", "a,b", {}}};
+    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, routePoints), -7);
+    EXPECT_EQ(chart.lines.size(), 1) << "what was drawn stays";
+}
+
+TEST_F(RouteDrawing, LabelsNeedTheRoutePointsOnlyWhenThereAreGroups) {
+    PointMap none;
+    EXPECT_EQ(layer.DrawRoutePointLabels(twoLegs(), kNoDatabase, none), 0);
+    auto stops = twoLegs();
+    stops[1].rp_groups = {{1, "118", "a,b", {}}, {1, "999", "a,b", {}}};
+    EXPECT_EQ(layer.DrawRoutePointLabels(stops, kNoDatabase, none), -2);
+    EXPECT_EQ(layer.DrawRoutePointLabels(RouteStops(1), kNoDatabase, none), -1);
+    EXPECT_EQ(layer.DrawRoutePointLabels(stops, kNoDatabase, routePoints), -3);
+    EXPECT_EQ(chart.labels.size(), 1);
+}
+
+TEST_F(RouteDrawing, BookIsTheRemainingLine) {
+    EXPECT_EQ(layer.DrawBook("v", {"1,0", "2,0", "3,0"}), 0);
+    EXPECT_THAT(chart.calls,
+                ElementsAre("layer VOYAGE", "clear VOYAGE/VOYAGETYPE/", "clear VOYAGE/VOYLINETYPE/",
+                            "clear VOYAGE/RPOINTTYPE/", "line VOYAGE/VOYPOSTBOOKLINETYPE/v_5 1,0 2,0 3,0",
+                            "extent 5 2 -2 -2"));
+}
+
+TEST_F(RouteDrawing, BookNeedsTwoRowsAndAVoyage) {
+    EXPECT_EQ(layer.DrawBook("v", {"1,0"}), -1);
+    EXPECT_THAT(chart.calls, IsEmpty());
+    EXPECT_EQ(layer.DrawBook("", {"1,0", "2,0"}), -4);
+    EXPECT_EQ(chart.calls.size(), 4) << "layer and cleaning come before the id is looked at";
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

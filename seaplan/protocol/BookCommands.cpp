@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/protocol/BookCommands.h"
+
+#include "seaplan/protocol/CatalogTexts.h"
+#include "seaplan/protocol/Exchange.h"
+#include "seaplan/protocol/StatusReply.h"
+#include "seaplan/protocol/WireUnits.h"
+
+#include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/StringUtl.h>
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+using Util::StringUtl;
+
+enum Command : std::uint16_t { CmdReadBook = 7, CmdCreateBook = 8, CmdSaveRows = 9, CmdBookDate = 14 };
+
+constexpr int kIntervalOfOldRows = 2;
+constexpr double kNearZero = 0.0001;
+
+/// A number written without fraction reads as 0.0 in the floating point form and is read again as an integer.
+double coordinate(const Util::Jsona& row, const char* key) {
+    const double value = row.getv(key, 0.0);
+    return value > -kNearZero && value < kNearZero ? row.getv(key, 0) : value;
+}
+
+PosBookPoint readPoint(const Util::Jsona& row) {
+    PosBookPoint point;
+    point.psn = row.getv("psn", "");
+    point.position = PositionText(row);
+    point.psr = row.getv("psr", "GC");
+    point.pli = StringUtl::ToInt(row.getv("pli", std::to_string(kIntervalOfOldRows)));
+    point.psp = KnotsFromWire(StringUtl::ToDouble(row.getv("psp", "10.0")));
+    point.pst = StringUtl::ToInt(row.getv("pst", "0"));
+    return point;
+}
+
+bool appendRow(int index, const PosBookPoint& point, int speedDecimals, std::string& text) {
+    const std::size_t comma = point.position.find(',');
+    if (comma == std::string::npos) {
+        return false;
+    }
+    const std::string x = point.position.substr(0, comma);
+    const std::string y = point.position.substr(comma + 1);
+    text +=
+        StringUtl::Format(",\"%d|%s|%s|%s|%s|%d|%.*f|%d\"", index, point.psn.c_str(), x.c_str(), y.c_str(),
+                          point.psr.c_str(), point.pli, speedDecimals, WireFromKnots(point.psp), point.pst);
+    return true;
+}
+
+/// Sends one block; `first` is the number of its first step.
+int sendBlock(const std::string& id, const BookPoints& rows, int begin, int end, int first) {
+    std::string text;
+    if (!BookRowsText(id, rows, begin, end, begin > 0, text)) {
+        return first;
+    }
+    Util::Jsona reply;
+    if (SendText(text, CmdSaveRows, reply) < 0) {
+        return first - 1;
+    }
+    return IsSuccess(reply) ? 0 : first - 2;
+}
+
+int createBook(const std::string& vi, const std::string& date, std::string& id) {
+    std::string serverTime;
+    if (ToServerTime(date, serverTime) < 0) {
+        return -3;
+    }
+    Util::Jsona reply;
+    if (SendText(CreateBookText(vi, serverTime), CmdCreateBook, reply) < 0) {
+        return -4;
+    }
+    if (!IsSuccess(reply)) {
+        return -5;
+    }
+    id = reply.getv("psb", "");
+    return id.empty() ? -6 : 0;
+}
+
+}  // namespace
+
+std::string PositionText(const Util::Jsona& row) {
+    const auto x = static_cast<float>(coordinate(row, "xc"));
+    const auto y = static_cast<float>(coordinate(row, "yc"));
+    return StringUtl::Format("%.3f,%.3f", static_cast<double>(x), static_cast<double>(y));
+}
+
+int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book) {
+    book.pbi = element.getv("pbi", "");
+    std::string local;
+    if (FromServerTime(element.getv("eta", ""), local) < 0) {
+        return -4;
+    }
+    const auto eta = Util::DateTimeUtl::Parse(local);
+    if (!eta) {
+        return -5;
+    }
+    book.eta = *eta;
+    std::map<int, PosBookPoint> sorted;
+    const Util::Jsona list = element.get("pb");
+    for (int i = 0; i < list.size(); ++i) {
+        const Util::Jsona row = list.get(i);
+        sorted[row.getv("lon", -1)] = readPoint(row);
+    }
+    for (auto& [number, point] : sorted) {
+        book.points.push_back(std::move(point));
+    }
+    return 0;
+}
+
+bool BookRowsText(const std::string& id, const BookPoints& rows, int first, int end, bool append,
+                  std::string& text) {
+    const int speedDecimals = static_cast<int>(rows.size()) < kBookBlockRows ? 3 : 1;
+    std::string made = "[\"" + id + (append ? "\",\"1\"" : "\",\"0\"");
+    for (int i = first; i < end; ++i) {
+        if (!appendRow(i, rows[static_cast<std::size_t>(i)], speedDecimals, made)) {
+            return false;
+        }
+    }
+    text = made + "]";
+    return true;
+}
+
+std::string CreateBookText(const std::string& vi, const std::string& serverTime) {
+    return StringUtl::Format("{vi:\"%s\",dt:\"%s\"}", vi.c_str(), serverTime.c_str());
+}
+
+std::string BookDateText(const std::string& id, const std::string& serverTime) {
+    return StringUtl::Format("{psb:\"%s\",dt:\"%s\"}", id.c_str(), serverTime.c_str());
+}
+
+int LoadPositionBook(const std::string& vi, VoyPositionBook& book) {
+    if (vi.empty()) {
+        return -1;
+    }
+    Util::Jsona reply;
+    if (SendText(VoyageIdText(vi), CmdReadBook, reply) < 0) {
+        return -2;
+    }
+    return reply.size() < 1 ? -3 : ReadPositionBook(reply.get(0), book);
+}
+
+int EnsurePositionBook(const std::string& vi, const std::string& date, std::string& id) {
+    id.clear();
+    if (vi.empty()) {
+        return -1;
+    }
+    Util::Jsona reply;
+    if (SendText(VoyageIdText(vi), CmdReadBook, reply) < 0) {
+        return -2;
+    }
+    if (reply.size() > 0) {
+        id = reply.get(0).getv("pbi", "");
+        return 0;
+    }
+    return createBook(vi, date, id);
+}
+
+int SetPositionBookDate(const std::string& id, const std::string& date) {
+    if (id.empty()) {
+        return -1;
+    }
+    std::string serverTime;
+    if (ToServerTime(date, serverTime) < 0) {
+        return -2;
+    }
+    Util::Jsona reply;
+    if (SendText(BookDateText(id, serverTime), CmdBookDate, reply) < 0) {
+        return -3;
+    }
+    return IsSuccess(reply) ? 0 : -4;
+}
+
+int SavePositionBookRows(const std::string& id, const BookPoints& rows) {
+    if (id.empty()) {
+        return -1;
+    }
+    const int count = static_cast<int>(rows.size());
+    if (count < kBookBlockRows) {
+        return sendBlock(id, rows, 0, count, -2);
+    }
+    for (int begin = 0; begin < count; begin += kBookBlockRows) {
+        const int failed = sendBlock(id, rows, begin, std::min(begin + kBookBlockRows, count), -5);
+        if (failed < 0) {
+            return failed;
+        }
+    }
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/data/VoyPositionBook.h"
+
+#include <tarvik/util/Jsona.h>
+
+#include <string>
+
+/// Commands of the position book. Speeds are km/h on the wire and knots in memory; dates pass the time
+/// conversions.
+namespace Tarvik::Seaplan {
+
+/// Rows that one request may carry; a list of this many and more goes out in blocks with coarser speeds.
+inline constexpr int kBookBlockRows = 100;
+
+/// Reads one book and appends its rows, in order of their sequence number. 0; -4 the date is not converted;
+/// -5 it does not parse.
+int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book);
+/// A row's "x,y" from the two numbers, which may be written with or without fraction.
+std::string PositionText(const Util::Jsona& row);
+/// Rows `first` to before `end` of `rows` behind the book's id; "0" replaces what is stored, "1" (`append`)
+/// adds to it. False for a position without comma.
+bool BookRowsText(const std::string& id, const BookPoints& rows, int first, int end, bool append,
+                  std::string& text);
+std::string CreateBookText(const std::string& vi, const std::string& serverTime);
+std::string BookDateText(const std::string& id, const std::string& serverTime);
+
+/// Command 7. 0; -1 empty id; -2 no exchange; -3 no book; -4, -5 as ReadPositionBook.
+int LoadPositionBook(const std::string& vi, VoyPositionBook& book);
+/// Commands 7 and, when there is no book yet, 8. 0; -1 empty voyage id; -2 reading; -3 the date is not
+/// converted; -4 no exchange; -5 refused; -6 no id came back.
+int EnsurePositionBook(const std::string& vi, const std::string& date, std::string& id);
+/// Command 14. 0; -1 empty id; -2 the date is not converted; -3 no exchange; -4 refused.
+int SetPositionBookDate(const std::string& id, const std::string& date);
+/// Command 9, in one request below 100 rows and in blocks of 100 otherwise; blocks sent before a failure stay
+/// on the server. 0; -1 empty id; one request: -2 position, -3 exchange, -4 refused; blocks: -5, -6, -7.
+int SavePositionBookRows(const std::string& id, const BookPoints& rows);
+
+}  // namespace Tarvik::Seaplan

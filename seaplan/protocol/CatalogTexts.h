@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+/// Request texts of categories and voyages. Values go in as they stand, nothing is escaped.
+namespace Tarvik::Seaplan {
+
+std::string LoadAllText(const std::string& user);
+std::string CreateCategoryText(const std::string& name);
+std::string CategoryStateText(const std::string& ci, int type);
+std::string RenameCategoryText(const std::string& ci, const std::string& name);
+std::string CreateVoyageText(const std::string& ci, const std::string& name);
+std::string RenameVoyageText(const std::string& vi, const std::string& name);
+std::string VoyageStateText(const std::string& vi, int type);
+std::string ChangeVesselText(const std::string& vi, const std::string& vsi, const std::string& vsn,
+                             int vsmsi);
+std::string RouteDisplayText(const std::string& vi, bool on);
+std::string AisTracingText(const std::string& vi, bool on);
+std::string AddAisModTimeText(const std::string& vi, const std::string& serverTime);
+/// {vi:"…"}, the text of every command that reads something of one voyage.
+std::string VoyageIdText(const std::string& vi);
+
+}  // namespace Tarvik::Seaplan

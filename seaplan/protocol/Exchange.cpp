@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/protocol/Exchange.h"
+
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/DateTimeUtl.h>
+
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <new>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+namespace Bus = Interface::Bus;
+
+constexpr std::uint16_t kVoyageModule = 5;
+constexpr const char* kTimeText = "%Y-%m-%d %H:%M:%S";
+/// Plan times are written in this zone, whatever zone the person has chosen.
+constexpr const char* kPlanZone = "China Standard Time";
+/// Rows stored before these moments hold local time and pass as they stand; the two texts differ by the
+/// zone's offset.
+constexpr const char* kFirstConvertedOnWriting = "2011-10-02 08:00:00";
+constexpr const char* kFirstConvertedOnReading = "2011-10-02 00:00:00";
+
+struct ReplyFree {
+    void operator()(Interface::VoyServerRequest* block) const { Core::FreeBusBlock(block); }
+};
+using ReplyBlock = std::unique_ptr<Interface::VoyServerRequest, ReplyFree>;
+
+ReplyBlock exchange(const Util::CAutoBuffer& text, std::uint16_t command) {
+    const std::size_t length = text.size();
+    const auto block = std::make_unique<std::byte[]>(sizeof(Interface::VoyServerRequest) + length);
+    auto* request = new (block.get()) Interface::VoyServerRequest;
+    request->length = static_cast<std::uint32_t>(length);
+    request->command = command;
+    request->moduleWord = kVoyageModule;
+    std::memcpy(request->Payload(), text.begin(), length);
+    const Interface::VoyServerRequest* input = request;
+    return ReplyBlock(Interface::Call(Bus::ServerExchange, input));
+}
+
+}  // namespace
+
+int SendRequest(const Util::CAutoBuffer& text, std::uint16_t command, Util::Jsona& reply) {
+    const ReplyBlock block = exchange(text, command);
+    if (!block) {
+        return -1;
+    }
+    return reply.parse(block->Payload()) ? 0 : -2;
+}
+
+int EnsureConnected() {
+    void* nothing = nullptr;
+    const unsigned char* connected = Interface::Call(Bus::IsConnected, nothing);
+    if (connected != nullptr && *connected != 0) {
+        return 0;
+    }
+    Interface::Call(Bus::Login, nothing);
+    return -1;
+}
+
+int GetUser(std::string& user) {
+    user.clear();
+    void* nothing = nullptr;
+    const std::string* answer = Interface::Call(Bus::User, nothing);
+    if (answer == nullptr) {
+        return -1;
+    }
+    user = *answer;
+    return 0;
+}
+
+int ToServerTime(const std::string& local, std::string& out) {
+    if (local < kFirstConvertedOnWriting) {
+        out = local;
+        return 0;
+    }
+    const auto time = Util::DateTimeUtl::Parse(local);
+    if (!time) {
+        return -1;
+    }
+    out = Util::DateTimeUtl::ConvertToUTC(*time, kPlanZone).fmt(kTimeText);
+    return 0;
+}
+
+int FromServerTime(const std::string& server, std::string& out) {
+    if (server < kFirstConvertedOnReading) {
+        out = server;
+        return 0;
+    }
+    const auto time = Util::DateTimeUtl::Parse(server);
+    if (!time) {
+        return -1;
+    }
+    const auto utc = Util::_datetime_t::from_gmt_timer(time->to_gmt_timer());
+    void* nothing = nullptr;
+    const std::string* zone = Interface::Call(Bus::CurrentTimeZone, nothing);
+    if (zone == nullptr) {
+        return -2;
+    }
+    out = Util::DateTimeUtl::ConvertFromUTC(utc, *zone).fmt(kTimeText);
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

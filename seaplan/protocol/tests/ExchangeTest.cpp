@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/protocol/Exchange.h"
+
+#include "seaplan/protocol/StatusReply.h"
+#include "testsupport/RecordingHost.h"
+
+#include <gtest/gtest.h>
+#include <tarvik/core/BusBlock.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+using TestSupport::RecordingHost;
+
+Util::CAutoBuffer bufferOf(const std::string& text) {
+    Util::CAutoBuffer buffer(256);
+    Util::CBlockBuffer::format0(buffer, "%s", text.c_str());
+    return buffer;
+}
+
+TEST(SendRequestTest, EnvelopeIsByteExactAndCountsTheTerminatingNul) {
+    RecordingHost host;
+    host.Reply(3, "[]");
+    Util::Jsona reply;
+    EXPECT_EQ(SendRequest(bufferOf("{ui:\"7\"}"), 3, reply), 0);
+    ASSERT_EQ(host.requests.size(), 1U);
+    const std::string expected("\x09\x00\x00\x00\x03\x00\x05\x00{ui:\"7\"}\x00", 17);
+    EXPECT_EQ(host.requests[0].bytes, expected);
+}
+
+TEST(SendRequestTest, WithoutReplyFails) {
+    RecordingHost host;
+    Util::Jsona reply;
+    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -1);
+}
+
+TEST(SendRequestTest, WithoutHostFails) {
+    Util::Jsona reply;
+    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -1);
+}
+
+TEST(SendRequestTest, ReplyThatDoesNotParseFailsAndItsBlockIsFreed) {
+    RecordingHost host;
+    host.Reply(3, "{eid:");
+    const long before = Core::LiveBusBlocks();
+    Util::Jsona reply;
+    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -2);
+    EXPECT_EQ(Core::LiveBusBlocks(), before);
+}
+
+TEST(SendRequestTest, GoodReplyBlockIsFreedAndItsTextStays) {
+    RecordingHost host;
+    host.Reply(3, "{eid:0,ci:\"12\"}");
+    const long before = Core::LiveBusBlocks();
+    Util::Jsona reply;
+    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), 0);
+    EXPECT_EQ(Core::LiveBusBlocks(), before);
+    EXPECT_EQ(reply.getv("ci", ""), "12");
+}
+
+TEST(SendRequestTest, TextOfMoreThanTheFirstCapacityIsNotCut) {
+    RecordingHost host;
+    host.Reply(4, "{eid:0}");
+    const std::string name(5000, 'x');
+    Util::Jsona reply;
+    EXPECT_EQ(SendText(name, 4, reply), 0);
+    EXPECT_EQ(host.requests[0].Text(), name);
+    EXPECT_EQ(host.requests[0].Length(), 5001U);
+}
+
+TEST(SendTextTest, PercentSignsGoInAsTheyStand) {
+    RecordingHost host;
+    Util::Jsona reply;
+    SendText("{cn:\"50%s\"}", 4, reply);
+    EXPECT_EQ(host.requests[0].Text(), "{cn:\"50%s\"}");
+}
+
+TEST(SendChangeTest, LadderBeginsAtTheGivenStep) {
+    RecordingHost host;
+    host.ReplyNothing(4);
+    host.Reply(4, "{}");
+    host.Reply(4, "{eid:7}");
+    host.Reply(4, "{ci:\"1\"}");
+    host.Reply(4, "{eid:0}");
+    EXPECT_EQ(SendChange("x", 4, -3), -3);
+    EXPECT_EQ(SendChange("x", 4, -3), -4);
+    EXPECT_EQ(SendChange("x", 4, -3), -5);
+    EXPECT_EQ(SendChange("x", 4, -3), -5) << "a status without eid is a failure";
+    EXPECT_EQ(SendChange("x", 4, -3), 0);
+}
+
+TEST(EnsureConnectedTest, ConnectedClientNeedsNoLogin) {
+    RecordingHost host;
+    EXPECT_EQ(EnsureConnected(), 0);
+    EXPECT_EQ(host.logins, 0);
+}
+
+TEST(EnsureConnectedTest, UnconnectedClientOpensLoginAndDoesNotWait) {
+    RecordingHost host;
+    host.connected = false;
+    EXPECT_EQ(EnsureConnected(), -1);
+    EXPECT_EQ(host.logins, 1);
+}
+
+TEST(GetUserTest, NobodyLoggedInLeavesAnEmptyUser) {
+    RecordingHost host;
+    host.user.reset();
+    std::string user = "before";
+    EXPECT_EQ(GetUser(user), -1);
+    EXPECT_EQ(user, "");
+    host.user = "42";
+    EXPECT_EQ(GetUser(user), 0);
+    EXPECT_EQ(user, "42");
+}
+
+TEST(ServerTimeTest, TextsBeforeTheCutOverGoOutUnchanged) {
+    std::string out;
+    EXPECT_EQ(ToServerTime("2011-10-02 07:59:59", out), 0);
+    EXPECT_EQ(out, "2011-10-02 07:59:59");
+    EXPECT_EQ(ToServerTime("", out), 0);
+    EXPECT_EQ(out, "");
+}
+
+TEST(ServerTimeTest, TextsFromTheCutOverOnGoOutAsUtc) {
+    std::string out;
+    EXPECT_EQ(ToServerTime("2011-10-02 08:00:00", out), 0);
+    EXPECT_EQ(out, "2011-10-02 00:00:00");
+    EXPECT_EQ(ToServerTime("2024-01-01 03:30:15", out), 0);
+    EXPECT_EQ(out, "2023-12-31 19:30:15");
+}
+
+TEST(ServerTimeTest, LaterTextThatIsNoTimeIsRefused) {
+    std::string out = "before";
+    EXPECT_EQ(ToServerTime("2024-02-30 00:00:00", out), -1);
+    EXPECT_EQ(ToServerTime("2024-02-03 00:00", out), -1);
+    EXPECT_EQ(out, "before");
+}
+
+TEST(ServerTimeTest, TextsBeforeTheCutOverComeBackUnchangedWithoutAskingForAZone) {
+    std::string out;
+    EXPECT_EQ(FromServerTime("2011-10-01 23:59:59", out), 0);
+    EXPECT_EQ(out, "2011-10-01 23:59:59");
+}
+
+TEST(ServerTimeTest, TextsFromTheCutOverOnComeBackInTheChosenZone) {
+    RecordingHost host;
+    std::string out;
+    EXPECT_EQ(FromServerTime("2011-10-02 00:00:00", out), 0);
+    EXPECT_EQ(out, "2011-10-02 08:00:00");
+    host.zone = "UTC";
+    EXPECT_EQ(FromServerTime("2024-06-30 12:00:00", out), 0);
+    EXPECT_EQ(out, "2024-06-30 12:00:00");
+}
+
+TEST(ServerTimeTest, ReadingFailsForABadTextAndWithoutZone) {
+    RecordingHost host;
+    std::string out;
+    EXPECT_EQ(FromServerTime("2024-13-01 00:00:00", out), -1);
+    host.zone.reset();
+    EXPECT_EQ(FromServerTime("2024-06-30 12:00:00", out), -2);
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

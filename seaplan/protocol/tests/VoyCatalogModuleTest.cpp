@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/protocol/VoyCatalogModule.h"
+
+#include "testsupport/RecordingHost.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class VoyCatalogModuleTest : public testing::Test {
+  protected:
+    TestSupport::RecordingHost host;
+    VoyageStore store;
+    VoyCatalogModule module{&store};
+
+    /// Runs a command through the ladder that begins at `first`, then once with success.
+    void expectLadder(std::uint16_t command, int first, const std::function<int()>& run) {
+        host.ReplyNothing(command);
+        EXPECT_EQ(run(), first);
+        host.Reply(command, "no json");
+        EXPECT_EQ(run(), first);
+        host.Reply(command, "{}");
+        EXPECT_EQ(run(), first - 1);
+        host.Reply(command, "{eid:3,emsg:\"no\"}");
+        EXPECT_EQ(run(), first - 2);
+        host.Reply(command, "{ci:\"1\",vi:\"1\"}");
+        EXPECT_EQ(run(), first - 2);
+        host.Reply(command, "{eid:0,ci:\"1\",vi:\"1\"}");
+        EXPECT_EQ(run(), 0);
+    }
+};
+
+TEST_F(VoyCatalogModuleTest, LoadOfAnEmptyUserSendsNothing) {
+    EXPECT_EQ(module.LoadAll(""), -1);
+    EXPECT_TRUE(host.requests.empty());
+}
+
+TEST_F(VoyCatalogModuleTest, LoadReportsAFailedExchange) {
+    EXPECT_EQ(module.LoadAll("u"), -2);
+    EXPECT_EQ(host.Texts(), Texts{R"(3 {ui:"u"})"});
+}
+
+TEST_F(VoyCatalogModuleTest, LoadOfAUserWithoutDataGivesOne) {
+    host.Reply(3, "[]");
+    EXPECT_EQ(module.LoadAll("u"), 1);
+    EXPECT_TRUE(store.categories.empty());
+}
+
+TEST_F(VoyCatalogModuleTest, LoadedStoreIsNotAskedAgainAlsoForAnotherUser) {
+    host.Reply(3, R"([{ci:"1",cn:"A"}])");
+    EXPECT_EQ(module.LoadAll("u"), 0);
+    EXPECT_EQ(module.LoadAll("other"), 0);
+    EXPECT_EQ(module.LoadAll(""), 0);
+    EXPECT_EQ(host.requests.size(), 1U);
+}
+
+TEST_F(VoyCatalogModuleTest, ClearedStoreIsAskedAgain) {
+    host.Reply(3, R"([{ci:"1"}])");
+    host.Reply(3, R"([{ci:"2"}])");
+    EXPECT_EQ(module.LoadAll("u"), 0);
+    store.Clear();
+    EXPECT_TRUE(store.categoryStates.empty());
+    EXPECT_EQ(module.LoadAll("u"), 0);
+    EXPECT_EQ(store.categories.count("2"), 1U);
+}
+
+TEST_F(VoyCatalogModuleTest, CreateCategoryLadder) {
+    std::string id;
+    EXPECT_EQ(module.CreateCategory("", id), -1);
+    expectLadder(4, -2, [&] { return module.CreateCategory("A", id); });
+    EXPECT_EQ(id, "1");
+    EXPECT_EQ(host.Texts().back(), R"(4 {ci:"",cn:"A",type:0})");
+    host.Reply(4, "{eid:0,ci:\"\"}");
+    EXPECT_EQ(module.CreateCategory("A", id), -5);
+    EXPECT_EQ(host.requests.size(), 7U);
+}
+
+TEST_F(VoyCatalogModuleTest, CreateVoyageLadderAndEmptyCategoryGoesOut) {
+    std::string id;
+    EXPECT_EQ(module.CreateVoyage("", "1", id), -1);
+    EXPECT_TRUE(host.requests.empty());
+    expectLadder(5, -2, [&] { return module.CreateVoyage("V", "", id); });
+    EXPECT_EQ(host.Texts().back(), R"(5 {ci:"",vi:"",vn:"V",type:"0",vsi:"",vr:"0",va:"0"})");
+    host.Reply(5, "{eid:0}");
+    EXPECT_EQ(module.CreateVoyage("V", "1", id), -5);
+}
+
+TEST_F(VoyCatalogModuleTest, RenameNeedsIdAndName) {
+    EXPECT_EQ(module.RenameCategory("", "A"), -1);
+    EXPECT_EQ(module.RenameCategory("1", ""), -1);
+    EXPECT_EQ(module.RenameVoyage("", "A"), -1);
+    EXPECT_EQ(module.RenameVoyage("1", ""), -1);
+    EXPECT_TRUE(host.requests.empty());
+    expectLadder(4, -2, [&] { return module.RenameCategory("1", "A"); });
+    expectLadder(5, -2, [&] { return module.RenameVoyage("1", "A"); });
+}
+
+TEST_F(VoyCatalogModuleTest, StateChangeLadders) {
+    EXPECT_EQ(module.ChangeCategoryState("", 1), -1);
+    EXPECT_EQ(module.ChangeVoyageState("", 2), -1);
+    EXPECT_TRUE(host.requests.empty());
+    expectLadder(4, -2, [&] { return module.ChangeCategoryState("1", 2); });
+    EXPECT_EQ(host.Texts().back(), R"(4 {ci:"1",type:"2"})");
+    expectLadder(5, -2, [&] { return module.ChangeVoyageState("1", 3); });
+    EXPECT_EQ(host.Texts().back(), R"(5 {vi:"1",type:"3"})");
+}
+
+TEST_F(VoyCatalogModuleTest, VesselChangeNeedsOneOfIdAndName) {
+    EXPECT_EQ(module.ChangeVessel("", "s", "n", 1), -1);
+    EXPECT_EQ(module.ChangeVessel("1", "", "", 1), -1);
+    EXPECT_TRUE(host.requests.empty());
+    expectLadder(5, -2, [&] { return module.ChangeVessel("1", "", "Ship", 0); });
+    EXPECT_EQ(host.Texts().back(), R"(5 {vi:"1",type:"5",vsi:"",vsn:"Ship",vsmsi:"0"})");
+}
+
+TEST_F(VoyCatalogModuleTest, DisplayFlagsTakeTheExactModeWordsOnly) {
+    for (const char* word : {"OPEN", "Close", "", "open "}) {
+        EXPECT_EQ(module.SetRouteDisplay("1", word), -2) << word;
+        EXPECT_EQ(module.SetAisTracing("1", word), -2) << word;
+    }
+    EXPECT_EQ(module.SetRouteDisplay("", "OPEN"), -1);
+    EXPECT_EQ(module.SetAisTracing("", "open"), -1);
+    EXPECT_TRUE(host.requests.empty());
+    expectLadder(5, -3, [&] { return module.SetRouteDisplay("1", "open"); });
+    EXPECT_EQ(host.Texts().back(), R"(5 {vi:"1",type:"6",vr:"1"})");
+    expectLadder(5, -3, [&] { return module.SetAisTracing("1", "close"); });
+    EXPECT_EQ(host.Texts().back(), R"(5 {vi:"1",type:"7",va:"0"})");
+}
+
+TEST_F(VoyCatalogModuleTest, AddedAisTimeGoesOutAsServerTime) {
+    EXPECT_EQ(module.AddAisModTime("", "2024-01-01 08:00:00"), -1);
+    EXPECT_EQ(module.AddAisModTime("1", "2024-01-32 08:00:00"), -2);
+    EXPECT_TRUE(host.requests.empty());
+    expectLadder(13, -3, [&] { return module.AddAisModTime("1", "2024-01-01 08:00:00"); });
+    EXPECT_EQ(host.Texts().back(), R"(13 {vi:"1",time:"2024-01-01 00:00:00"})");
+}
+
+TEST_F(VoyCatalogModuleTest, AisTimesComeSortedWithoutDuplicatesAndWithoutBadTexts) {
+    host.Reply(12, R"({times:["2024-01-02 00:00:00","","2024-99-01 00:00:00","2011-01-01 00:00:00",)"
+                   R"("2024-01-02 00:00:00","2024-01-01 00:00:00"]})");
+    Texts times{"before"};
+    EXPECT_EQ(module.GetAisModTimes("1", times), 0);
+    EXPECT_EQ(times, (Texts{"2011-01-01 00:00:00", "2024-01-01 08:00:00", "2024-01-02 08:00:00"}));
+    EXPECT_EQ(host.Texts(), Texts{R"(12 {vi:"1"})"});
+}
+
+TEST_F(VoyCatalogModuleTest, ReadingAisTimesLadder) {
+    Texts times;
+    EXPECT_EQ(module.GetAisModTimes("", times), -1);
+    EXPECT_EQ(module.GetAisModTimes("1", times), -2);
+    host.Reply(12, "{}");
+    EXPECT_EQ(module.GetAisModTimes("1", times), -3);
+    host.Reply(12, "{eid:0}");
+    EXPECT_EQ(module.GetAisModTimes("1", times), 0) << "a reply without times is an empty list";
+    EXPECT_TRUE(times.empty());
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <tarvik/interface/BusContract.h>
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Tarvik::TestSupport {
+
+/// One request as it crossed the bus, head and payload.
+struct RecordedRequest {
+    std::string bytes;
+
+    std::uint32_t Length() const;
+    std::uint16_t Command() const;
+    std::uint16_t ModuleWord() const;
+    /// Payload without its terminating NUL.
+    std::string Text() const;
+};
+
+/// One call of a chart service.
+struct ChartCall {
+    std::string service;
+    std::string id;
+    std::string type;
+    std::vector<std::string> points;
+    std::string position;
+};
+
+/// Plays the host on the bus: answers with what the test scripted and records what it was asked. Unbinds at
+/// its end.
+class RecordingHost : public Core::TObject {
+  public:
+    RecordingHost();
+    ~RecordingHost() override;
+    RecordingHost(const RecordingHost&) = delete;
+    RecordingHost& operator=(const RecordingHost&) = delete;
+
+    /// The next reply to `command`; replies to one command go out in order.
+    void Reply(std::uint16_t command, const std::string& json) { replies_[command].push_back(json); }
+    /// The next request with `command` finds no answer.
+    void ReplyNothing(std::uint16_t command) { replies_[command].push_back(std::nullopt); }
+    /// "command text" of every request, in order.
+    std::vector<std::string> Texts() const;
+    /// Texts of the requests with `command`, in order.
+    std::vector<std::string> TextsOf(std::uint16_t command) const;
+    /// Chart calls of one service.
+    std::vector<ChartCall> ChartCallsOf(const std::string& service) const;
+
+    bool connected = true;
+    std::optional<std::string> user = "1000001";
+    std::optional<std::string> zone = "China Standard Time";
+    std::optional<std::vector<Interface::VesselPosition>> positions;
+
+    std::vector<RecordedRequest> requests;
+    std::vector<ChartCall> chartCalls;
+    std::vector<std::vector<std::string>> positionQueries;
+    int logins = 0;
+
+  private:
+    template <auto Method>
+    void bind(const char* name);
+    void bindChart();
+    void* onExchange(void* input);
+    void* onConnected(void* input);
+    void* onLogin(void* input);
+    void* onUser(void* input);
+    void* onZone(void* input);
+    void* onPositions(void* input);
+    void* onAddLayer(void* input);
+    void* onAddLine(void* input);
+    void* onAddLabel(void* input);
+    void* onAddImage(void* input);
+    void* onRegisterImage(void* input);
+    void* onDeleteObjects(void* input);
+    void* onDeleteType(void* input);
+    void* onSetExtent(void* input);
+
+    std::map<std::uint16_t, std::deque<std::optional<std::string>>> replies_;
+    std::vector<std::pair<std::string, std::unique_ptr<Core::TEvent>>> bindings_;
+    unsigned char connectedFlag_ = 1;
+};
+
+}  // namespace Tarvik::TestSupport
