@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/client/plan/PlanArguments.h"
+#include "host/client/plan/PortLookup.h"
+#include "host/client/services/LanguageFiles.h"
+#include "seaplan/plugin/PlanService.h"
+
+#include <string>
+#include <vector>
+
+namespace Tarvik::Client {
+
+enum ExitCode : int { kExitDone = 0, kExitFailed = 1, kExitBadInput = 2 };
+
+/// What came of a step of `plan`: its exit code and, unless that is 0, one line for the person.
+struct PlanOutcome {
+    int exitCode = kExitDone;
+    std::string message;
+};
+
+/// Finds the typed ports and makes the request of the planning service. Bad input names the bad word and
+/// candidates.
+PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lookup,
+                            Seaplan::PlanRequest& request);
+
+/// Calls the planning service on the bus. `result` stays the plug-in's.
+PlanOutcome CallPlanService(const Seaplan::PlanRequest& request, const Seaplan::PlanResult*& result);
+
+/// The result in the asked format.
+std::string FormatPlan(const PlanArguments& arguments, const Seaplan::PlanResult& plan,
+                       const std::string& zone, const LanguageFiles& texts);
+
+}  // namespace Tarvik::Client

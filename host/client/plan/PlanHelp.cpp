@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/plan/PlanHelp.h"
+
+namespace Tarvik::Client {
+
+const char* const kHelpText =
+    R"(Seaplan plans sea voyages.
+
+  run [options]                       opens the chart with your voyages
+  run plan PORT PORT [PORT...] [...]  plans a voyage without a window and prints its schedule
+
+Options of both
+  --data DIR          folder of your data (else $SEAPLAN_DATA, else seaplan below $XDG_DATA_HOME or ~/.local/share)
+  --verbose           repeats the log on standard error
+  --help              this text
+
+Options of the window
+  --theme NAME        light, dark or night
+  --lang NAME         en-US or zh-CN
+  --screenshot FILE   writes a picture of the window to FILE and ends
+  --panel CODE        with --screenshot: opens a panel first (3 voyages, 21 port distances)
+
+Ports of plan
+  A name in any case, the beginning of a name that only one port has, a UN/LOCODE (NLRTM) or an id. Quote names of
+  several words. A word behind "--" is a port even when it begins with "--".
+
+Options of plan
+  --depart "YYYY-MM-DD HH:MM[:SS]"    arrival at the first port; without it, now
+  --zone NAME                         zone of all times ("China Standard Time", Europe/Rotterdam, UTC); without it,
+                                      the zone of your preferences
+  --speed KNOTS                       speed at sea, above 0; without it, 10
+  --weather PERCENT                   weather factor, from 0 to below 100, by which the speed is reduced; without it, 0
+  --stay HOURS[,HOURS...]             hours in port: one figure for all ports, or one for each in order; without it, 0
+  --purpose CODE[,CODE...]            1 2 B C D L O W Y Z: one for all ports, or one for each in order; without it, L
+                                      for the first port and D for the others
+  --units kts|kph,nm|km,hour|day      units of table and csv; without it, kts,nm,day
+  --format table|json|csv|geojson     without it, table; json is in knots, nautical miles and hours
+  --save CATEGORY/VOYAGE              keeps the voyage; the category is made when it is new, the voyage must be
+  --picture FILE.png                  writes the client's window with the route on the chart
+
+Results go to standard output, everything else to standard error.
+Exit code 0: done; 2: bad input; 1: the plan failed.
+
+Examples
+  run plan Rotterdam Singapore --speed 14 --depart "2026-12-01 08:00"
+  run plan Shanghai "Los Angeles" --speed 14 --stay 24,12 --format json --picture route.png
+)";
+
+}  // namespace Tarvik::Client

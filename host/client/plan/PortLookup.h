@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/client/services/PortTable.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Client {
+
+/// What a typed word means: one port, or none with the ports that it may have meant.
+struct PortMatch {
+    enum class Kind { Found, Unknown, Ambiguous };
+    Kind kind = Kind::Unknown;
+    Port port;                     ///< valid for Found
+    std::vector<Port> candidates;  ///< nearest first
+};
+
+/// Least number of insertions, deletions, replacements and swaps of neighbours that turn `a` into `b`.
+std::size_t EditDistance(const std::string& a, const std::string& b);
+/// ASCII letters in lower case, other bytes as they are.
+std::string FoldCase(const std::string& text);
+
+/// Finds ports by what a person types: a name in any case (English or Chinese), a UN/LOCODE with or without
+/// its blank, an id, or the beginning of a name that only one port has. An exact match goes before a
+/// beginning.
+class PortLookup {
+  public:
+    /// The most candidates told for a word that fits no single port.
+    static constexpr std::size_t kMaxCandidates = 6;
+
+    explicit PortLookup(std::vector<Port> ports);
+    PortMatch Find(const std::string& word) const;
+
+  private:
+    PortMatch settle(std::vector<std::size_t> hits) const;
+    std::vector<Port> nearest(const std::string& folded) const;
+
+    std::vector<Port> ports_;
+    std::vector<std::string> folded_;  ///< names in lower case, by port
+};
+
+}  // namespace Tarvik::Client

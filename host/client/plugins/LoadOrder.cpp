@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/plugins/LoadOrder.h"
+
+#include <algorithm>
+#include <map>
+
+namespace Tarvik::Client {
+namespace {
+
+enum class Mark { Fresh, Open, Placed, Rejected };
+
+/// Depth-first walk over the dependencies; `path_` holds the plug-ins whose dependencies are being placed.
+class Resolver {
+  public:
+    Resolver(const std::vector<PluginRecord>& records, const Core::Version& hostVersion)
+        : records_(records), host_(hostVersion), marks_(records.size(), Mark::Fresh) {}
+
+    LoadOrder Run() {
+        for (std::size_t i = 0; i < records_.size(); ++i) {
+            if (!byName_.emplace(records_[i].name, i).second) {
+                reject(i, "another plug-in of this name is loaded from " +
+                              records_[byName_[records_[i].name]].file);
+            }
+        }
+        for (std::size_t i = 0; i < records_.size(); ++i) place(i);
+        return std::move(result_);
+    }
+
+  private:
+    void reject(std::size_t index, const std::string& reason) {
+        if (marks_[index] == Mark::Rejected) return;
+        marks_[index] = Mark::Rejected;
+        result_.rejected.push_back({index, records_[index].name, reason});
+    }
+
+    void place(std::size_t index) {
+        if (marks_[index] != Mark::Fresh) return;
+        const PluginRecord& record = records_[index];
+        if (!record.error.empty()) return reject(index, record.error);
+        marks_[index] = Mark::Open;
+        path_.push_back(index);
+        for (const Plugin::PluginDependency& need : record.dependencies) {
+            const std::string reason = meet(need);
+            if (marks_[index] == Mark::Rejected) break;
+            if (!reason.empty()) {
+                reject(index, reason);
+                break;
+            }
+        }
+        path_.pop_back();
+        if (marks_[index] != Mark::Open) return;
+        marks_[index] = Mark::Placed;
+        result_.order.push_back(index);
+    }
+
+    /// Places what is needed; the reason why it cannot be had, empty when it can.
+    std::string meet(const Plugin::PluginDependency& need) {
+        if (need.name == kHostName) return host_.AtLeast(need.version) ? "" : tooOld(need, host_);
+        const auto found = byName_.find(need.name);
+        if (found == byName_.end())
+            return "needs " + need.name + " " + VersionText(need.version) + ", which is missing";
+        const std::size_t other = found->second;
+        if (marks_[other] == Mark::Open) {
+            rejectCircle(other);
+            return {};
+        }
+        place(other);
+        if (marks_[other] == Mark::Rejected) return "needs " + need.name + ", which is left out";
+        if (!records_[other].version.AtLeast(need.version)) return tooOld(need, records_[other].version);
+        return {};
+    }
+
+    static std::string tooOld(const Plugin::PluginDependency& need, const Core::Version& present) {
+        return "needs " + need.name + " " + VersionText(need.version) + " or newer, present is " +
+               VersionText(present);
+    }
+
+    void rejectCircle(std::size_t from) {
+        const auto begin = std::find(path_.begin(), path_.end(), from);
+        std::string circle;
+        for (auto it = begin; it != path_.end(); ++it) circle += records_[*it].name + " > ";
+        circle += records_[from].name;
+        for (auto it = begin; it != path_.end(); ++it) reject(*it, "depends on itself: " + circle);
+    }
+
+    const std::vector<PluginRecord>& records_;
+    Core::Version host_;
+    std::vector<Mark> marks_;
+    std::map<std::string, std::size_t> byName_;
+    std::vector<std::size_t> path_;
+    LoadOrder result_;
+};
+
+}  // namespace
+
+std::string VersionText(const Core::Version& version) {
+    std::string text = std::to_string(version.major) + "." + std::to_string(version.minor);
+    if (version.build >= 0) text += "." + std::to_string(version.build);
+    if (version.revision >= 0) text += "." + std::to_string(version.revision);
+    return text;
+}
+
+LoadOrder ResolveLoadOrder(const std::vector<PluginRecord>& records, const Core::Version& hostVersion) {
+    return Resolver(records, hostVersion).Run();
+}
+
+}  // namespace Tarvik::Client

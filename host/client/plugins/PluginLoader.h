@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/client/plugins/LoadOrder.h"
+#include "host/client/plugins/PluginLibrary.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Client {
+
+/// A plug-in's way; each state is reached from the one before it, Failed from any.
+enum class PluginState {
+    Found,     ///< its file is known
+    Read,      ///< its record is read: name, version and dependencies are valid
+    Resolved,  ///< all that it depends on is there
+    Loaded,    ///< Load has succeeded
+    Running,   ///< InitPlugin and SuiteLoaded have been called
+    Failed     ///< left out; the error says why
+};
+
+/// One plug-in as the loader knows it.
+struct LoadedPlugin {
+    PluginRecord record;
+    PluginState state = PluginState::Found;
+    std::string error;  ///< valid in state Failed
+    std::shared_ptr<PluginLibrary> library;
+};
+
+/// Finds, orders and loads plug-ins. One that fails keeps its own error and is left out, the rest runs.
+class PluginLoader {
+  public:
+    /// Libraries of a folder that may be plug-ins, in order of name; the SDK's own library is none.
+    static std::vector<std::string> FindLibraries(const std::string& folder);
+
+    /// Reads, orders and loads the given libraries; may be called once.
+    void LoadAll(const std::vector<std::string>& files, const Core::Version& hostVersion);
+    /// Calls UnLoad of what runs, in opposite order.
+    void UnloadAll();
+
+    const std::vector<LoadedPlugin>& Plugins() const { return plugins_; }
+    bool IsRunning(const std::string& name) const;
+    /// One line for each plug-in that was left out: "Seaplan: needs …".
+    std::vector<std::string> Complaints() const;
+
+  private:
+    void read(const std::string& file);
+    void loadOne(std::size_t index);
+    void fail(LoadedPlugin& plugin, const std::string& error);
+
+    std::vector<LoadedPlugin> plugins_;
+    std::vector<std::size_t> loaded_;
+};
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/services/HostServices.h"
+
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/Clock.h>
+
+#include <cstring>
+#include <utility>
+
+namespace Tarvik::Client {
+namespace {
+
+using Interface::VoyServerRequest;
+namespace Bus = Interface::Bus;
+
+/// A reply as the bus carries it: the request's head with the new length, the text and its NUL.
+VoyServerRequest* MakeReply(const VoyServerRequest& request, const std::string& text) {
+    const std::size_t bytes = text.size() + 1;
+    auto* reply = static_cast<VoyServerRequest*>(Core::AllocateBusBlock(sizeof(VoyServerRequest) + bytes));
+    if (!reply) return nullptr;
+    *reply = request;
+    reply->length = static_cast<std::uint32_t>(bytes);
+    std::memcpy(reply->Payload(), text.c_str(), bytes);
+    return reply;
+}
+
+}  // namespace
+
+HostServices::HostServices(ServerLink& link, std::string user, std::string timeZone,
+                           std::function<void(const std::string&)> complain)
+    : link_(link), user_(std::move(user)), timeZone_(std::move(timeZone)), complain_(std::move(complain)) {
+    Util::Clock::SetLocalZone(timeZone_);
+    connectedEvent_.Set<&HostServices::onConnected>(this);
+    loginEvent_.Set<&HostServices::onLogin>(this);
+    userEvent_.Set<&HostServices::onUser>(this);
+    zoneEvent_.Set<&HostServices::onTimeZone>(this);
+    exchangeEvent_.Set<&HostServices::onExchange>(this);
+    offer(Bus::IsConnected.name, connectedEvent_);
+    offer(Bus::Login.name, loginEvent_);
+    offer(Bus::User.name, userEvent_);
+    offer(Bus::CurrentTimeZone.name, zoneEvent_);
+    offer(Bus::ServerExchange.name, exchangeEvent_);
+}
+
+void HostServices::offer(const char* name, Core::TEvent& event) {
+    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
+    kernel->CreateTrvService(name, this, "", "", nullptr);
+    kernel->BindTrvService(name, &event);
+}
+
+HostServices::~HostServices() {
+    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
+    const std::pair<const char*, Core::TEvent*> offered[] = {{Bus::ServerExchange.name, &exchangeEvent_},
+                                                             {Bus::CurrentTimeZone.name, &zoneEvent_},
+                                                             {Bus::User.name, &userEvent_},
+                                                             {Bus::Login.name, &loginEvent_},
+                                                             {Bus::IsConnected.name, &connectedEvent_}};
+    for (const auto& [name, event] : offered) {
+        kernel->UnBindTrvService(name, event);
+        kernel->DeleteTrvService(name, this);
+    }
+}
+
+void HostServices::SetTimeZone(const std::string& zone) {
+    timeZone_ = zone;
+    Util::Clock::SetLocalZone(zone);
+    Interface::Raise(Bus::SwitchTimeZone, &std::as_const(timeZone_));
+}
+
+void* HostServices::onConnected(void* /*input*/) {
+    connected_ = link_.IsConnected() ? 1 : 0;
+    return &connected_;
+}
+
+void* HostServices::onLogin(void* /*input*/) {
+    std::string error;
+    if (!link_.Connect(error) && complain_) complain_(error);
+    return nullptr;
+}
+
+void* HostServices::onUser(void* /*input*/) {
+    return &user_;
+}
+
+void* HostServices::onTimeZone(void* /*input*/) {
+    return &timeZone_;
+}
+
+void* HostServices::onExchange(void* input) {
+    const auto* request = static_cast<const VoyServerRequest*>(input);
+    if (!request || request->length > Interface::kMaxPayloadBytes) return nullptr;
+    const std::string text = link_.Exchange(user_, *request);
+    return text.empty() ? nullptr : MakeReply(*request, text);
+}
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/services/Preferences.h"
+
+#include "host/client/services/LanguageFiles.h"
+
+#include <tarvik/util/DateTimeUtl.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+
+namespace Tarvik::Client {
+namespace {
+
+void Take(const nlohmann::json& root, const char* key, std::string& field,
+          bool (*valid)(const std::string&)) {
+    const auto member = root.find(key);
+    if (member == root.end() || !member->is_string()) return;
+    const auto text = member->get<std::string>();
+    if (valid(text)) field = text;
+}
+
+}  // namespace
+
+Preferences Preferences::Read(const std::string& file) {
+    Preferences read;
+    std::ifstream in(file, std::ios::binary);
+    const auto root = in ? nlohmann::json::parse(in, nullptr, false) : nlohmann::json();
+    if (!root.is_object()) return read;
+    Take(root, "language", read.language, [](const std::string& text) {
+        const auto& offered = LanguageFiles::Offered();
+        return std::find(offered.begin(), offered.end(), text) != offered.end();
+    });
+    Take(root, "timeZone", read.timeZone,
+         [](const std::string& text) { return Util::DateTimeUtl::IsKnownZone(text); });
+    Take(root, "theme", read.theme,
+         [](const std::string& text) { return text == "light" || text == "dark" || text == "night"; });
+    Take(root, "server", read.server, [](const std::string&) { return true; });
+    return read;
+}
+
+bool Preferences::Write(const std::string& file, std::string& error) const {
+    const nlohmann::json root{
+        {"language", language}, {"timeZone", timeZone}, {"theme", theme}, {"server", server}};
+    const std::string fresh = file + ".new";
+    {
+        std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
+        out << root.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
+        out.flush();
+        if (!out) {
+            error = "The preferences cannot be written to " + file +
+                    ". Free some space or make the folder writable.";
+            return false;
+        }
+    }
+    std::error_code failed;
+    std::filesystem::rename(fresh, file, failed);
+    if (failed) error = "The preferences cannot be written to " + file + " (" + failed.message() + ").";
+    return !failed;
+}
+
+}  // namespace Tarvik::Client

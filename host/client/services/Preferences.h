@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace Tarvik::Client {
+
+/// What the person chose; kept in one JSON file of the data folder.
+struct Preferences {
+    std::string language = "en-US";
+    /// Zone in which times are shown and typed. Plan times are stored in this very zone's reading, so that
+    /// with it what was saved comes back as it was.
+    std::string timeZone = "China Standard Time";
+    /// "light", "dark" or "night".
+    std::string theme = "light";
+    /// Address of a voyage server; empty for the one inside the client, which is the only one in use so far.
+    std::string server;
+
+    /// What the file says; the usual values for whatever it lacks or says wrongly, and for a file that is
+    /// none.
+    static Preferences Read(const std::string& file);
+    /// Replaces the file in one step. False with a line that says what to do.
+    bool Write(const std::string& file, std::string& error) const;
+    bool operator==(const Preferences&) const = default;
+};
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/session/ClientSession.h"
+
+#include "host/client/services/ProgramPath.h"
+#include "host/client/session/EmbeddedLink.h"
+
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/FileUtl.h>
+#include <tarvik/util/Log.h>
+
+namespace Tarvik::Client {
+namespace {
+
+constexpr std::size_t kLogBytes = 1024 * 1024;
+constexpr const char* kLocalUser = "local";
+
+const char* NoticeText(Core::KernelNotice notice) {
+    switch (notice) {
+        case Core::KernelNotice::NobodyOffers:
+            return "nobody offers the service ";
+        case Core::KernelNotice::BoundTwice:
+            return "bound twice: ";
+        case Core::KernelNotice::UnknownUnbind:
+            return "unbound without a binding: ";
+        case Core::KernelNotice::UnknownName:
+            return "unknown name: ";
+    }
+    return "";
+}
+
+}  // namespace
+
+ClientSession::ClientSession(const AppFolders& folders, const SessionOptions& options)
+    : folders_(folders), log_(folders.Data() + "/seaplan.log", kLogBytes, options.verbose) {}
+
+std::unique_ptr<ClientSession> ClientSession::Open(const SessionOptions& options, std::string& error) {
+    const AppFolders folders(ProgramFolder(), options.dataFolder);
+    if (!folders.Prepare(error)) return nullptr;
+    std::unique_ptr<ClientSession> session(new ClientSession(folders, options));
+    if (!session->start(options, error)) return nullptr;
+    return session;
+}
+
+bool ClientSession::start(const SessionOptions& options, std::string& error) {
+    Util::SetLogSink([this](Util::LogLevel, const std::string& text) { log_.Write(text); });
+    watchBus();
+    Util::FileUtl::SetCurrentAppDirectory(folders_.Data());
+    preferences_ = Preferences::Read(preferencesFile());
+    if (!options.language.empty()) preferences_.language = options.language;
+    if (!options.timeZone.empty()) preferences_.timeZone = options.timeZone;
+    if (!options.theme.empty()) preferences_.theme = options.theme;
+    texts_.Load(folders_.Share() + "/lang", preferences_.language);
+    for (const std::string& line : texts_.Complaints()) log_.Write(line);
+    Interface::LanguageSource::Set(&texts_);
+    if (!ReadPorts(folders_.BusinessData("trvdb.db"), ports_, error)) return false;
+    dictionary_ = std::make_unique<PortDictionary>(ports_);
+    Interface::ValueDictionary::Set(dictionary_.get());
+    link_ =
+        std::make_unique<EmbeddedLink>(folders_.Data() + "/voyages.db", folders_.ShareFile("network.bin"));
+    if (!link_->Connect(error)) return false;
+    services_ = std::make_unique<HostServices>(*link_, kLocalUser, preferences_.timeZone,
+                                               [this](const std::string& line) { log_.Write(line); });
+    return true;
+}
+
+void ClientSession::watchBus() {
+    Core::TrvKernel::Instance()->SetObserver([this](Core::KernelNotice notice, const std::string& name) {
+        log_.Write(std::string("bus: ") + NoticeText(notice) + name);
+    });
+}
+
+void ClientSession::LoadPlugins() {
+    loader_.LoadAll(PluginLoader::FindLibraries(folders_.Plugins()), Core::Version::Parse(kHostVersion));
+    for (const LoadedPlugin& plugin : loader_.Plugins()) {
+        log_.Write("plug-in " + plugin.record.name + " " + VersionText(plugin.record.version) +
+                   (plugin.error.empty() ? " runs" : " is left out: " + plugin.error));
+    }
+}
+
+bool ClientSession::Prefer(const Preferences& preferences, std::string& error) {
+    const Preferences before = preferences_;
+    preferences_ = preferences;
+    if (before.language != preferences_.language) {
+        texts_.Load(folders_.Share() + "/lang", preferences_.language);
+        Interface::Raise<void>(Interface::Bus::SwitchLanguage, nullptr);
+    }
+    if (before.timeZone != preferences_.timeZone) services_->SetTimeZone(preferences_.timeZone);
+    return preferences_.Write(preferencesFile(), error);
+}
+
+ClientSession::~ClientSession() {
+    loader_.UnloadAll();
+    Interface::LanguageSource::Set(nullptr);
+    Interface::ValueDictionary::Set(nullptr);
+    Core::TrvKernel::Instance()->SetObserver({});
+    Util::SetLogSink({});
+}
+
+}  // namespace Tarvik::Client

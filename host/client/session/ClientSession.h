@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/client/plugins/PluginLoader.h"
+#include "host/client/services/AppFolders.h"
+#include "host/client/services/HostServices.h"
+#include "host/client/services/LanguageFiles.h"
+#include "host/client/services/PortDictionary.h"
+#include "host/client/services/Preferences.h"
+#include "host/client/services/RotatingLog.h"
+#include "host/client/session/SessionOptions.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Client {
+
+/// Everything of the client but its window: folders, log, preferences, texts, ports, server, services,
+/// plug-ins. The window and the `plan` command run on the same session.
+class ClientSession {
+  public:
+    /// Null, with one line that says what is wrong and what to do, when the client cannot run.
+    static std::unique_ptr<ClientSession> Open(const SessionOptions& options, std::string& error);
+    ~ClientSession();
+    ClientSession(const ClientSession&) = delete;
+    ClientSession& operator=(const ClientSession&) = delete;
+
+    /// Loads all plug-ins; the main window, if there is one, must be known to the bus before.
+    void LoadPlugins();
+
+    const AppFolders& Folders() const { return folders_; }
+    const std::vector<Port>& Ports() const { return ports_; }
+    const PluginLoader& Plugins() const { return loader_; }
+    const LanguageFiles& Texts() const { return texts_; }
+    const Preferences& Preferred() const { return preferences_; }
+    HostServices& Services() { return *services_; }
+    ServerLink& Link() { return *link_; }
+    RotatingLog& Log() { return log_; }
+
+    /// Takes new preferences into use, tells the plug-ins what changed, and keeps them. False with a line
+    /// when the file could not be written; they are in use all the same.
+    bool Prefer(const Preferences& preferences, std::string& error);
+
+  private:
+    ClientSession(const AppFolders& folders, const SessionOptions& options);
+    bool start(const SessionOptions& options, std::string& error);
+    void watchBus();
+    std::string preferencesFile() const { return folders_.Data() + "/preferences.json"; }
+
+    AppFolders folders_;
+    RotatingLog log_;
+    Preferences preferences_;
+    LanguageFiles texts_;
+    std::vector<Port> ports_;
+    std::unique_ptr<PortDictionary> dictionary_;
+    std::unique_ptr<ServerLink> link_;
+    std::unique_ptr<HostServices> services_;
+    PluginLoader loader_;
+};
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/session/CommandLine.h"
+
+#include "host/client/services/LanguageFiles.h"
+
+#include <algorithm>
+
+namespace Tarvik::Client {
+namespace {
+
+/// Takes the options that are not the plan's own; everything else goes to the plan.
+class Sorter {
+  public:
+    explicit Sorter(const std::vector<std::string>& words) : words_(words) {}
+
+    CommandLine Run() {
+        for (at_ = 0; at_ < words_.size() && line_.error.empty(); ++at_) {
+            const std::string& word = words_[at_];
+            if (line_.plan && word == "--") {
+                line_.planWords.insert(line_.planWords.end(),
+                                       words_.begin() + static_cast<std::ptrdiff_t>(at_), words_.end());
+                break;
+            }
+            if (!take(word)) rest(word);
+        }
+        return line_;
+    }
+
+  private:
+    bool take(const std::string& word) {
+        if (word == "--help" || word == "-h") {
+            line_.help = true;
+        } else if (word == "--verbose") {
+            line_.session.verbose = true;
+        } else if (word == "--data") {
+            line_.session.dataFolder = value(word);
+        } else {
+            return !line_.plan && takeWindowOption(word);
+        }
+        return true;
+    }
+
+    bool takeWindowOption(const std::string& word) {
+        if (word == "--theme") {
+            line_.session.theme = choice(word, {"light", "dark", "night"});
+        } else if (word == "--lang") {
+            line_.session.language = choice(word, LanguageFiles::Offered());
+        } else if (word == "--screenshot") {
+            line_.screenshot = value(word);
+        } else if (word == "--panel") {
+            line_.panel = choice(word, {"3", "21"}) == "3" ? 3 : 21;
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    void rest(const std::string& word) {
+        if (!line_.plan && word == "plan") {
+            line_.plan = true;
+        } else if (line_.plan) {
+            line_.planWords.push_back(word);
+            // The value behind a plan's option is never one of the options here, whatever it looks like.
+            const bool option = word.starts_with("--") && word.find('=') == std::string::npos;
+            if (option && at_ + 1 < words_.size()) line_.planWords.push_back(words_[++at_]);
+        } else {
+            line_.error = "Unknown word \"" + word + "\". See --help.";
+        }
+    }
+
+    std::string value(const std::string& option) {
+        if (at_ + 1 < words_.size() && !words_[at_ + 1].empty()) return words_[++at_];
+        line_.error = "The option " + option + " needs a value. See --help.";
+        return {};
+    }
+
+    std::string choice(const std::string& option, const std::vector<std::string>& good) {
+        const std::string chosen = value(option);
+        if (line_.error.empty() && std::find(good.begin(), good.end(), chosen) == good.end()) {
+            line_.error = "Bad value \"" + chosen + "\" of " + option + ". See --help.";
+        }
+        return chosen;
+    }
+
+    const std::vector<std::string>& words_;
+    std::size_t at_ = 0;
+    CommandLine line_;
+};
+
+}  // namespace
+
+CommandLine ParseCommandLine(const std::vector<std::string>& words) {
+    return Sorter(words).Run();
+}
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/client/services/HostServices.h"
+#include "host/server/app/EmbeddedServer.h"
+
+#include <memory>
+#include <string>
+
+namespace Tarvik::Client {
+
+/// The voyage server inside the client: its data base in the person's folder, the shipped sea network.
+class EmbeddedLink : public ServerLink {
+  public:
+    EmbeddedLink(std::string databaseFile, std::string networkFile);
+    /// Opens the data base; the network is read beside it, on another thread, so that nobody waits for it
+    /// before the first route is asked for.
+    bool Connect(std::string& error) override;
+    bool IsConnected() const override { return server_ != nullptr; }
+    std::string Exchange(const std::string& user, const Interface::VoyServerRequest& request) override;
+
+  private:
+    std::string databaseFile_;
+    std::string networkFile_;
+    std::unique_ptr<Server::EmbeddedServer> server_;
+};
+
+/// Whether the network file is there and as long as its head says. `error` says what to do.
+bool CheckNetworkFile(const std::string& path, std::string& error);
+
+}  // namespace Tarvik::Client

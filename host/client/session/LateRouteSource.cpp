@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/session/LateRouteSource.h"
+
+#include "host/server/app/GraphRouteSource.h"
+
+#include <nlohmann/json.hpp>
+
+namespace Tarvik::Client {
+
+LateRouteSource::LateRouteSource(const std::string& networkFile)
+    : loaded_(std::async(std::launch::async, [networkFile] {
+                  return std::make_shared<Loaded>(load(networkFile));
+              }).share()) {}
+
+LateRouteSource::Loaded LateRouteSource::load(const std::string& networkFile) {
+    Loaded loaded;
+    std::string error;
+    loaded.source = Server::GraphRouteSource::Open(networkFile, error);
+    if (!loaded.source) loaded.failure = nlohmann::json{{"eid", -1}, {"emsg", error}}.dump();
+    return loaded;
+}
+
+std::string LateRouteSource::Plan(std::string_view requestJson) {
+    const Loaded& loaded = *loaded_.get();
+    return loaded.source ? loaded.source->Plan(requestJson) : loaded.failure;
+}
+
+std::string LateRouteSource::Nearest(std::string_view requestJson) {
+    const Loaded& loaded = *loaded_.get();
+    return loaded.source ? loaded.source->Nearest(requestJson) : loaded.failure;
+}
+
+}  // namespace Tarvik::Client

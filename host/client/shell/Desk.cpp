@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/shell/Desk.h"
+
+#include <tarvik/core/TrvKernel.h>
+#include <QApplication>
+#include <QMessageBox>
+
+namespace Tarvik::Client {
+
+void Desk::PrepareApplication() {
+    QApplication::setStyle("Fusion");
+    QApplication::setApplicationName("seaplan");
+}
+
+Desk::Desk(ClientSession& session)
+    : session_(session), window_(session), messages_(&window_, session.Texts()) {
+    Core::TrvKernel::SetMainView(static_cast<QWidget*>(&window_), qApp);
+    Util::TimerService::Set(&timers_);
+    Interface::SysMsgSink::Set(&messages_);
+    session_.LoadPlugins();
+    window_.AttachChart();
+}
+
+Desk::~Desk() {
+    Interface::SysMsgSink::Set(nullptr);
+    Util::TimerService::Set(nullptr);
+    Core::TrvKernel::SetMainView(nullptr, nullptr);
+}
+
+void Desk::TellComplaints() {
+    QString text;
+    for (const std::string& line : session_.Plugins().Complaints())
+        text += "\n" + QString::fromStdString(line);
+    if (text.isEmpty()) return;
+    const QString title = QString::fromStdString(session_.Texts().Text("Client", "TITLE"));
+    auto* box =
+        new QMessageBox(QMessageBox::Warning, title,
+                        QString::fromStdString(session_.Texts().Text("Client", "PLUGINS_LEFT_OUT")) + text,
+                        QMessageBox::Ok, &window_);
+    box->setObjectName("complaints");
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setModal(false);
+    box->show();
+}
+
+}  // namespace Tarvik::Client

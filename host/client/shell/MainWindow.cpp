@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/shell/MainWindow.h"
+
+#include "host/client/shell/Icons.h"
+#include "host/client/shell/PositionText.h"
+#include "host/client/shell/PreferencesDialog.h"
+#include "host/client/shell/Theme.h"
+#include "host/plugins/seamap/SeamapContract.h"
+#include "seaplan/views/HelpRequest.h"
+
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
+#include <QAction>
+#include <QLabel>
+#include <QMessageBox>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace Tarvik::Client {
+namespace {
+
+constexpr int kVoyagePanel = 3;
+constexpr int kDistancePanel = 21;
+
+}  // namespace
+
+MainWindow::MainWindow(ClientSession& session) : session_(session) {
+    setObjectName("mainWindow");
+    resize(1280, 800);
+    buildTools();
+    buildStatusLine();
+    applyTexts();
+    applyTheme();
+    cursorEvent_.Set<&MainWindow::onCursor>(this);
+    Core::TrvKernel::Instance()->BindTrvEvent(Seamap::Bus::Cursor.name, &cursorEvent_);
+}
+
+MainWindow::~MainWindow() {
+    Core::TrvKernel::Instance()->UnBindTrvEvent(Seamap::Bus::Cursor.name, &cursorEvent_);
+}
+
+QString MainWindow::word(const char* key) const {
+    return QString::fromStdString(session_.Texts().Text("Client", key));
+}
+
+void MainWindow::buildTools() {
+    tools_ = {
+        {"VOYAGES", "voyages", "Ctrl+L", [this] { TogglePanel(kVoyagePanel); }},
+        {"DISTANCES", "distances", "Ctrl+D", [this] { TogglePanel(kDistancePanel); }},
+        {"ZOOM_IN", "zoomin", "Ctrl++", [this] { ChartCommand("zoomin"); }},
+        {"ZOOM_OUT", "zoomout", "Ctrl+-", [this] { ChartCommand("zoomout"); }},
+        {"FIT", "fit", "Ctrl+0", [this] { ChartCommand("fit"); }},
+        {"THEME", "theme", "Ctrl+T", [this] { nextTheme(); }},
+        {"LANGUAGE", "language", "Ctrl+G", [this] { nextLanguage(); }},
+        {"PREFERENCES", "preferences", "Ctrl+,", [this] { openPreferences(); }},
+    };
+    auto* bar = addToolBar("tools");
+    bar->setObjectName("mainToolBar");
+    bar->setMovable(false);
+    bar->setIconSize(QSize(20, 20));
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    for (Tool& tool : tools_) {
+        tool.action = bar->addAction(QString());
+        tool.action->setObjectName(QString("action_") + tool.icon);
+        tool.action->setShortcut(QKeySequence(tool.shortcut));
+        connect(tool.action, &QAction::triggered, this, tool.run);
+        QWidget* button = bar->widgetForAction(tool.action);
+        button->setObjectName(QString("button_") + tool.icon);
+        button->setFocusPolicy(Qt::TabFocus);
+        if (tool.icon == std::string("distances") || tool.icon == std::string("fit")) bar->addSeparator();
+    }
+    connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
+            [this] { ShowHelp("GENERAL", 370); });
+    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, [this] { close(); });
+}
+
+void MainWindow::buildStatusLine() {
+    QStatusBar* line = statusBar();
+    line->setObjectName("statusLine");
+    line->setSizeGripEnabled(false);
+    const auto label = [this](const char* name) {
+        auto* made = new QLabel(this);
+        made->setObjectName(name);
+        return made;
+    };
+    user_ = label("user");
+    connection_ = label("connection");
+    cursor_ = label("cursorPosition");
+    zone_ = label("timeZone");
+    cursor_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    line->addWidget(user_);
+    line->addWidget(connection_);
+    line->addPermanentWidget(cursor_);
+    line->addPermanentWidget(zone_);
+}
+
+void MainWindow::applyTexts() {
+    setWindowTitle(word("TITLE"));
+    for (const Tool& tool : tools_) {
+        const QString tip = word((std::string(tool.key) + "_TIP").c_str());
+        tool.action->setText(word(tool.key));
+        tool.action->setToolTip(tip);
+        tool.action->setStatusTip(QString());
+        if (auto* bar = findChild<QToolBar*>("mainToolBar")) {
+            QWidget* button = bar->widgetForAction(tool.action);
+            button->setAccessibleName(word(tool.key));
+            button->setAccessibleDescription(tip);
+        }
+    }
+    findChild<QToolBar*>("mainToolBar")->setAccessibleName(word("TOOLBAR_NAME"));
+    user_->setText(word("LOCAL_USER"));
+    connection_->setText(word(session_.Link().IsConnected() ? "CONNECTED" : "OFFLINE"));
+    zone_->setText(QString::fromStdString(session_.Preferred().timeZone));
+    if (!cursorKnown_) cursor_->setText(word("NO_POSITION"));
+    const std::pair<QLabel*, const char*> labels[] = {{user_, "USER_NAME"},
+                                                      {connection_, "CONNECTION_NAME"},
+                                                      {cursor_, "CURSOR_NAME"},
+                                                      {zone_, "ZONE_NAME"}};
+    for (const auto& [shown, key] : labels) {
+        shown->setAccessibleName(word(key));
+        shown->setToolTip(word(key));
+    }
+    if (centralWidget()) centralWidget()->setAccessibleName(word("CHART_NAME"));
+}
+
+void MainWindow::applyTheme() {
+    const Theme theme(QString::fromStdString(session_.Preferred().theme));
+    theme.Apply();
+    for (const Tool& tool : tools_) tool.action->setIcon(ColoredIcon(tool.icon, theme.Colors().text));
+    ChartCommand("theme " + theme.Name().toStdString());
+}
+
+void MainWindow::AttachChart() {
+    QWidget* chart = Interface::Call<void, QWidget>(Seamap::Bus::Widget, nullptr);
+    if (!chart) {
+        auto* gap = new QLabel(word("NO_CHART"), this);
+        gap->setObjectName("noChart");
+        gap->setAlignment(Qt::AlignCenter);
+        return setCentralWidget(gap);
+    }
+    setCentralWidget(chart);
+    chart->setAccessibleName(word("CHART_NAME"));
+    ChartCommand("theme " + session_.Preferred().theme);
+    chart->setFocus();
+}
+
+void MainWindow::TogglePanel(int panel) {
+    const Interface::PanelShow show{panel, 0};
+    Interface::Raise(Interface::Bus::ShowPanel, &show);
+    connection_->setText(word(session_.Link().IsConnected() ? "CONNECTED" : "OFFLINE"));
+}
+
+bool MainWindow::ChartCommand(const std::string& command) {
+    return Core::TrvKernel::Instance()->IsBound(Seamap::Bus::Command.name) &&
+           Interface::Call(Seamap::Bus::Command, &command) != nullptr;
+}
+
+void MainWindow::prefer(const Preferences& preferences) {
+    std::string error;
+    const bool kept = session_.Prefer(preferences, error);
+    applyTexts();
+    applyTheme();
+    if (!kept) QMessageBox::warning(this, word("TITLE"), QString::fromStdString(error));
+}
+
+void MainWindow::nextTheme() {
+    Preferences preferences = session_.Preferred();
+    preferences.theme = Theme(QString::fromStdString(preferences.theme)).Next().toStdString();
+    prefer(preferences);
+}
+
+void MainWindow::nextLanguage() {
+    Preferences preferences = session_.Preferred();
+    preferences.language = preferences.language == "en-US" ? "zh-CN" : "en-US";
+    prefer(preferences);
+}
+
+void MainWindow::openPreferences() {
+    PreferencesDialog dialog(this, session_.Texts(), session_.Preferred());
+    if (dialog.exec() == QDialog::Accepted) prefer(dialog.Chosen());
+}
+
+bool MainWindow::event(QEvent* event) {
+    if (event->type() != static_cast<QEvent::Type>(Seaplan::HelpRequestEvent::kType))
+        return QMainWindow::event(event);
+    const auto& block = static_cast<Seaplan::HelpRequestEvent*>(event)->block;
+    ShowHelp(QString::fromUtf8(block.topic), block.width);
+    return true;
+}
+
+void MainWindow::ShowHelp(const QString& topic, int width) {
+    const QByteArray key = "HELP_" + topic.toUtf8();
+    const QString text = word(key.constData());
+    auto* box =
+        new QMessageBox(QMessageBox::NoIcon, word("HELP_TITLE"),
+                        text == QString::fromUtf8(key) ? word("HELP_GENERAL") : text, QMessageBox::Ok, this);
+    box->setObjectName("help");
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setModal(false);
+    box->setMinimumWidth(width);
+    box->button(QMessageBox::Ok)->setText(word("OK"));
+    box->show();
+}
+
+void* MainWindow::onCursor(void* input) {
+    const auto* position = static_cast<const double*>(input);
+    if (!position) return nullptr;
+    cursorKnown_ = true;
+    cursor_->setText(QString::fromStdString(PositionText(position[0], position[1])));
+    return nullptr;
+}
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/client/session/ClientSession.h"
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <QMainWindow>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class QAction;
+class QLabel;
+
+namespace Tarvik::Client {
+
+/// The client's window: the chart in the middle, tools above, status line below.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+  public:
+    explicit MainWindow(ClientSession& session);
+    ~MainWindow() override;
+
+    /// Puts the chart of the loaded plug-ins in the middle; call once, behind ClientSession::LoadPlugins.
+    void AttachChart();
+    /// Raises the event that shows or hides a panel (3 voyages, 21 port distances).
+    void TogglePanel(int panel);
+    /// Tells the chart a command of its contract; false when there is no chart or it did not understand.
+    bool ChartCommand(const std::string& command);
+
+    /// Shows help on a topic ("func033", …; an unknown one gets the general help) in a window `width` pixels
+    /// wide.
+    void ShowHelp(const QString& topic, int width);
+
+  protected:
+    /// Takes the help requests that plug-ins send to the main window.
+    bool event(QEvent* event) override;
+
+  private:
+    /// One tool: its texts' key, icon, shortcut and what it does.
+    struct Tool {
+        const char* key;
+        const char* icon;
+        const char* shortcut;
+        std::function<void()> run;
+        QAction* action = nullptr;
+    };
+
+    void buildTools();
+    void buildStatusLine();
+    void applyTexts();
+    void applyTheme();
+    void nextTheme();
+    void nextLanguage();
+    void openPreferences();
+    void prefer(const Preferences& preferences);
+    QString word(const char* key) const;
+    void* onCursor(void* input);
+
+    ClientSession& session_;
+    Core::TObject busOwner_;
+    Core::TEvent cursorEvent_;
+    std::vector<Tool> tools_;
+    QLabel* user_ = nullptr;
+    QLabel* connection_ = nullptr;
+    QLabel* cursor_ = nullptr;
+    QLabel* zone_ = nullptr;
+    bool cursorKnown_ = false;
+};
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/shell/PlanRun.h"
+
+#include "host/client/plan/PlanCommand.h"
+#include "host/client/shell/Desk.h"
+#include "host/client/shell/WindowPicture.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace Tarvik::Client {
+namespace {
+
+int Tell(const PlanOutcome& outcome) {
+    if (!outcome.message.empty()) std::fprintf(stderr, "%s\n", outcome.message.c_str());
+    return outcome.exitCode;
+}
+
+int Print(const std::string& text) {
+    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
+        return kExitDone;
+    return Tell({kExitFailed, "The result could not be written to standard output."});
+}
+
+int PlanAndPrint(ClientSession& session, const PlanArguments& arguments,
+                 const Seaplan::PlanRequest& request) {
+    const Seaplan::PlanResult* plan = nullptr;
+    const PlanOutcome outcome = CallPlanService(request, plan);
+    if (outcome.exitCode != kExitDone) return Tell(outcome);
+    return Print(FormatPlan(arguments, *plan, session.Services().TimeZone(), session.Texts()));
+}
+
+int PlanWithPicture(int argc, char** argv, ClientSession& session, const PlanArguments& arguments,
+                    const Seaplan::PlanRequest& request) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    Desk::PrepareApplication();
+    QApplication application(argc, argv);
+    std::string error;
+    const QString file = QString::fromStdString(arguments.picture);
+    if (!CanWritePicture(file, error)) return Tell({kExitBadInput, error});
+    Desk desk(session);
+    desk.Window().show();
+    SettleWindows();
+    const int code = PlanAndPrint(session, arguments, request);
+    if (code != kExitDone) return code;
+    SettleWindows();
+    return SavePicture(desk.Window(), file, error) ? kExitDone : Tell({kExitFailed, error});
+}
+
+int PlanWithoutWindow(int argc, char** argv, ClientSession& session, const PlanArguments& arguments,
+                      const Seaplan::PlanRequest& request) {
+    QCoreApplication application(argc, argv);
+    session.LoadPlugins();
+    for (const std::string& line : session.Plugins().Complaints()) std::fprintf(stderr, "%s\n", line.c_str());
+    return PlanAndPrint(session, arguments, request);
+}
+
+}  // namespace
+
+int RunPlan(int argc, char** argv, const CommandLine& line) {
+    const ParsedPlan parsed = ParsePlanArguments(line.planWords);
+    if (!parsed.error.empty()) return Tell({kExitBadInput, parsed.error});
+    SessionOptions options = line.session;
+    options.timeZone = parsed.arguments.zone;
+    std::string error;
+    const auto session = ClientSession::Open(options, error);
+    if (!session) return Tell({kExitFailed, error});
+    Seaplan::PlanRequest request;
+    const PlanOutcome checked = MakePlanRequest(parsed.arguments, PortLookup(session->Ports()), request);
+    if (checked.exitCode != kExitDone) return Tell(checked);
+    return parsed.arguments.picture.empty()
+               ? PlanWithoutWindow(argc, argv, *session, parsed.arguments, request)
+               : PlanWithPicture(argc, argv, *session, parsed.arguments, request);
+}
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/shell/PreferencesDialog.h"
+
+#include <tarvik/util/DateTimeUtl.h>
+#include <QComboBox>
+#include <QCompleter>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimeZone>
+
+namespace Tarvik::Client {
+namespace {
+
+QStringList ZoneNames(const std::string& current) {
+    QStringList names{"China Standard Time", "UTC"};
+    for (const QByteArray& id : QTimeZone::availableTimeZoneIds()) {
+        const QString name = QString::fromLatin1(id);
+        if (name.contains('/') && !name.startsWith("Etc/")) names.append(name);
+    }
+    if (!names.contains(QString::fromStdString(current))) names.append(QString::fromStdString(current));
+    return names;
+}
+
+}  // namespace
+
+PreferencesDialog::PreferencesDialog(QWidget* parent, const LanguageFiles& texts, const Preferences& current)
+    : QDialog(parent), current_(current) {
+    setObjectName("preferences");
+    setWindowTitle(QString::fromStdString(texts.Text("Client", "PREFERENCES")));
+    setMinimumWidth(420);
+    buildFields(texts);
+}
+
+void PreferencesDialog::buildFields(const LanguageFiles& texts) {
+    const auto word = [&texts](const char* key) { return QString::fromStdString(texts.Text("Client", key)); };
+    auto* form = new QFormLayout(this);
+    form->setSpacing(8);
+    language_ = new QComboBox(this);
+    language_->addItem("English", "en-US");
+    language_->addItem(QString::fromUtf8("简体中文"), "zh-CN");
+    language_->setCurrentIndex(language_->findData(QString::fromStdString(current_.language)));
+    zone_ = new QComboBox(this);
+    zone_->setEditable(true);
+    zone_->addItems(ZoneNames(current_.timeZone));
+    zone_->completer()->setFilterMode(Qt::MatchContains);
+    zone_->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    zone_->setCurrentText(QString::fromStdString(current_.timeZone));
+    server_ = new QLineEdit(QString::fromStdString(current_.server), this);
+    server_->setPlaceholderText(word("PREF_SERVER_HINT"));
+    server_->setEnabled(false);
+    server_->setToolTip(word("PREF_SERVER_NOTE"));
+    const auto row = [&](const char* key, const char* name, QWidget* field) {
+        field->setObjectName(name);
+        field->setAccessibleName(word(key));
+        form->addRow(word(key), field);
+    };
+    const auto note = [&](const char* key, const char* name) {
+        auto* label = new QLabel(word(key), this);
+        label->setObjectName(name);
+        label->setWordWrap(true);
+        form->addRow(QString(), label);
+    };
+    row("PREF_LANGUAGE", "languageChoice", language_);
+    row("PREF_ZONE", "timeZoneChoice", zone_);
+    note("PREF_ZONE_NOTE", "zoneNote");
+    row("PREF_SERVER", "serverAddress", server_);
+    note("PREF_SERVER_NOTE", "serverNote");
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Ok)->setText(word("OK"));
+    buttons->button(QDialogButtonBox::Ok)->setObjectName("preferencesOk");
+    buttons->button(QDialogButtonBox::Cancel)->setText(word("CANCEL"));
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName("preferencesCancel");
+    connect(buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::agree);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    form->addRow(buttons);
+}
+
+void PreferencesDialog::agree() {
+    // A zone that nobody knows would silently count as UTC: the field keeps the focus until it is one.
+    if (Util::DateTimeUtl::IsKnownZone(zone_->currentText().toStdString())) return accept();
+    zone_->setFocus();
+    zone_->lineEdit()->selectAll();
+}
+
+Preferences PreferencesDialog::Chosen() const {
+    Preferences chosen = current_;
+    chosen.language = language_->currentData().toString().toStdString();
+    chosen.timeZone = zone_->currentText().toStdString();
+    return chosen;
+}
+
+}  // namespace Tarvik::Client

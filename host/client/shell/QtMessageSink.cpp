@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/shell/QtMessageSink.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace Tarvik::Client {
+
+using Interface::SysMsgHandleRes;
+
+Interface::SysMsgHandleRes QtMessageSink::SyncSendMsg(int /*level*/, const std::u16string& text, int flags,
+                                                      void* owner, const std::u16string& title) {
+    QWidget* parent = owner ? static_cast<QWidget*>(owner) : mainWindow_;
+    QMessageBox box(parent);
+    const auto word = [this](const char* key) { return QString::fromStdString(texts_.Text("Client", key)); };
+    box.setObjectName("message");
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromStdU16String(text));
+    box.setWindowTitle(title.empty() ? word("TITLE") : QString::fromStdU16String(title));
+    const bool question = flags == 4;
+    box.setIcon(question ? QMessageBox::Question : QMessageBox::Information);
+    QPushButton* agree = box.addButton(word(question ? "YES" : "OK"), QMessageBox::AcceptRole);
+    agree->setObjectName(question ? "messageYes" : "messageOk");
+    QPushButton* refuse = nullptr;
+    if (flags != 0) {
+        refuse = box.addButton(word(question ? "NO" : "CANCEL"), QMessageBox::RejectRole);
+        refuse->setObjectName(question ? "messageNo" : "messageCancel");
+        box.setEscapeButton(refuse);
+    }
+    box.setDefaultButton(agree);
+    box.exec();
+    if (flags == 0) return SysMsgHandleRes::None;
+    if (box.clickedButton() == agree) return question ? SysMsgHandleRes::Yes : SysMsgHandleRes::Ok;
+    return question ? SysMsgHandleRes::No : SysMsgHandleRes::Cancel;
+}
+
+}  // namespace Tarvik::Client

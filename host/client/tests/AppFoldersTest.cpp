@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/services/AppFolders.h"
+#include "host/client/tests/PortDatabase.h"
+#include "host/client/tests/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+
+namespace Tarvik::Client {
+namespace {
+
+using testing::HasSubstr;
+namespace fs = std::filesystem;
+
+/// A program's tree: bin, lib and share, with all that is shipped.
+class AppFoldersTest : public testing::Test {
+  protected:
+    AppFoldersTest() {
+        for (const char* name : {"bin", "lib", "share/seaplan"}) fs::create_directories(root_.Path(name));
+        MakePortDatabase(root_.Path("share/seaplan/trvdb.db"));
+        root_.Write("share/seaplan/land.bin", "land");
+        root_.Write("share/seaplan/ship.png", "ship");
+    }
+    AppFolders folders() const { return AppFolders(root_.Path("bin"), root_.Path("data")); }
+
+    TemporaryFolder root_;
+    std::string error_;
+};
+
+TEST_F(AppFoldersTest, FillsTheDataFolderAtFirstStart) {
+    ASSERT_TRUE(folders().Prepare(error_)) << error_;
+    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), "land");
+    EXPECT_EQ(root_.Read("data/businessdata/seaplan/ship.png"), "ship");
+    EXPECT_TRUE(fs::exists(root_.Path("data/businessdata/trvdb.db")));
+    EXPECT_FALSE(fs::exists(root_.Path("data/.writable")));
+}
+
+TEST_F(AppFoldersTest, FindsShippedFilesInTheirNestedPlaceToo) {
+    fs::create_directories(root_.Path("share/seaplan/businessdata"));
+    fs::rename(root_.Path("share/seaplan/land.bin"), root_.Path("share/seaplan/businessdata/land.bin"));
+    ASSERT_TRUE(folders().Prepare(error_)) << error_;
+    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), "land");
+}
+
+TEST_F(AppFoldersTest, KeepsThePersonsFilesAndMendsACopyThatWasCut) {
+    ASSERT_TRUE(folders().Prepare(error_));
+    root_.Write("data/businessdata/seaplan/Ports.dat", "mine");
+    root_.Write("data/businessdata/land.bin", "la");
+    ASSERT_TRUE(folders().Prepare(error_));
+    EXPECT_EQ(root_.Read("data/businessdata/seaplan/Ports.dat"), "mine");
+    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), "land");
+}
+
+TEST_F(AppFoldersTest, TakesOverAShippedFileThatBecameNewer) {
+    ASSERT_TRUE(folders().Prepare(error_));
+    root_.Write("share/seaplan/land.bin", "isle");
+    fs::last_write_time(
+        root_.Path("share/seaplan/land.bin"),
+        fs::last_write_time(root_.Path("data/businessdata/land.bin")) + std::chrono::hours(1));
+    ASSERT_TRUE(folders().Prepare(error_));
+    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), "isle");
+}
+
+TEST_F(AppFoldersTest, NamesAMissingShippedFile) {
+    fs::remove(root_.Path("share/seaplan/land.bin"));
+    EXPECT_FALSE(folders().Prepare(error_));
+    EXPECT_THAT(error_, testing::AllOf(HasSubstr("land.bin is missing"), HasSubstr("again")));
+}
+
+TEST_F(AppFoldersTest, NamesAPortTableThatIsCutShort) {
+    const auto size = fs::file_size(root_.Path("share/seaplan/trvdb.db"));
+    fs::resize_file(root_.Path("share/seaplan/trvdb.db"), size / 2);
+    EXPECT_FALSE(folders().Prepare(error_));
+    EXPECT_THAT(error_, HasSubstr("trvdb.db is missing or cut short"));
+}
+
+TEST_F(AppFoldersTest, ADataFolderThatCannotBeMadeIsNamedWithAdvice) {
+    root_.Write("plainfile", "");
+    const AppFolders folders(root_.Path("bin"), root_.Path("plainfile/data"));
+    EXPECT_FALSE(folders.Prepare(error_));
+    EXPECT_THAT(error_, testing::AllOf(HasSubstr("plainfile/data"), HasSubstr("--data DIR")));
+}
+
+TEST_F(AppFoldersTest, ADataFolderThatTakesNoFileIsNamedWithAdvice) {
+    // A folder in the place of the probe file refuses the write, whoever runs the test.
+    fs::create_directories(root_.Path("data/.writable/full"));
+    EXPECT_FALSE(folders().Prepare(error_));
+    EXPECT_THAT(error_, testing::AllOf(HasSubstr("cannot be written or is full"), HasSubstr("--data DIR")));
+}
+
+TEST(DatabaseFile, OfAnotherKindOrMissingIsRefused) {
+    TemporaryFolder folder;
+    std::string error;
+    EXPECT_FALSE(CheckDatabaseFile(folder.Path("none.db"), error));
+    folder.Write("text.db", std::string(4096, 'x'));
+    EXPECT_FALSE(CheckDatabaseFile(folder.Path("text.db"), error));
+    MakePortDatabase(folder.Path("good.db"));
+    EXPECT_TRUE(CheckDatabaseFile(folder.Path("good.db"), error));
+}
+
+}  // namespace
+}  // namespace Tarvik::Client

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/session/CommandLine.h"
+
+#include <gmock/gmock.h>
+
+namespace Tarvik::Client {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+TEST(CommandLine, WithoutWordsOpensTheWindow) {
+    const CommandLine line = ParseCommandLine({});
+    EXPECT_FALSE(line.plan);
+    EXPECT_FALSE(line.help);
+    EXPECT_EQ(line.error, "");
+}
+
+TEST(CommandLine, GivesThePlanItsWordsAndKeepsTheCommonOptions) {
+    const CommandLine line =
+        ParseCommandLine({"--data", "/d", "plan", "A", "--speed", "9", "--verbose", "B", "--format=json"});
+    EXPECT_TRUE(line.plan);
+    EXPECT_TRUE(line.session.verbose);
+    EXPECT_EQ(line.session.dataFolder, "/d");
+    EXPECT_THAT(line.planWords, ElementsAre("A", "--speed", "9", "B", "--format=json"));
+}
+
+TEST(CommandLine, AValueOfAPlansOptionIsNoOptionOfItsOwn) {
+    EXPECT_THAT(ParseCommandLine({"plan", "A", "B", "--save", "--data"}).planWords,
+                ElementsAre("A", "B", "--save", "--data"));
+}
+
+TEST(CommandLine, LeavesWordsBehindADoubleDashAlone) {
+    EXPECT_THAT(ParseCommandLine({"plan", "A", "--", "--verbose"}).planWords,
+                ElementsAre("A", "--", "--verbose"));
+}
+
+TEST(CommandLine, ReadsThePicturesOptions) {
+    const CommandLine line =
+        ParseCommandLine({"--screenshot", "a.png", "--theme", "dark", "--lang", "zh-CN", "--panel", "3"});
+    EXPECT_EQ(line.screenshot, "a.png");
+    EXPECT_EQ(line.session.theme, "dark");
+    EXPECT_EQ(line.session.language, "zh-CN");
+    EXPECT_EQ(line.panel, 3);
+}
+
+TEST(CommandLine, NamesABadWord) {
+    EXPECT_THAT(ParseCommandLine({"plain"}).error, HasSubstr("\"plain\""));
+    EXPECT_THAT(ParseCommandLine({"--theme", "pink"}).error, HasSubstr("\"pink\" of --theme"));
+    EXPECT_THAT(ParseCommandLine({"--data"}).error, HasSubstr("--data needs a value"));
+    EXPECT_THAT(ParseCommandLine({"--panel", "4"}).error, HasSubstr("\"4\" of --panel"));
+}
+
+TEST(CommandLine, FindsHelpBesideThePlan) {
+    EXPECT_TRUE(ParseCommandLine({"plan", "--help"}).help);
+}
+
+}  // namespace
+}  // namespace Tarvik::Client

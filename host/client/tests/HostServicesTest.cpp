@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/services/HostServices.h"
+
+#include <gmock/gmock.h>
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/Clock.h>
+
+#include <cstring>
+
+namespace Tarvik::Client {
+namespace {
+
+namespace Bus = Interface::Bus;
+using Interface::Call;
+using Interface::VoyServerRequest;
+
+/// A server that is up or down and tells what it was sent.
+class ScriptedLink : public ServerLink {
+  public:
+    bool Connect(std::string& error) override {
+        connected = canConnect;
+        if (!canConnect) error = "the server is down";
+        return canConnect;
+    }
+    bool IsConnected() const override { return connected; }
+    std::string Exchange(const std::string& user, const VoyServerRequest& request) override {
+        lastUser = user;
+        lastText.assign(request.Payload(), request.length);
+        return reply;
+    }
+    bool connected = true;
+    bool canConnect = true;
+    std::string reply = "{\"eid\":0}";
+    std::string lastUser;
+    std::string lastText;
+};
+
+class HostServicesTest : public testing::Test {
+  protected:
+    ~HostServicesTest() override { Util::Clock::SetLocalZone(""); }
+
+    VoyServerRequest* exchange(const std::string& text) {
+        std::vector<char> block(sizeof(VoyServerRequest) + text.size());
+        auto* request = reinterpret_cast<VoyServerRequest*>(block.data());
+        *request = {static_cast<std::uint32_t>(text.size()), 3, 5};
+        std::memcpy(request->Payload(), text.data(), text.size());
+        return Call<const VoyServerRequest>(Bus::ServerExchange, request);
+    }
+
+    ScriptedLink link_;
+    std::vector<std::string> complaints_;
+    HostServices services_{link_, "anna", "China Standard Time",
+                           [this](const std::string& line) { complaints_.push_back(line); }};
+};
+
+TEST_F(HostServicesTest, AnswersUserAndZone) {
+    EXPECT_EQ(*Call<void>(Bus::User, nullptr), "anna");
+    EXPECT_EQ(*Call<void>(Bus::CurrentTimeZone, nullptr), "China Standard Time");
+    EXPECT_EQ(Util::Clock::LocalZone(), "China Standard Time");
+}
+
+TEST_F(HostServicesTest, TheConnectionFlagFollowsTheLink) {
+    EXPECT_NE(*Call<void>(Bus::IsConnected, nullptr), 0);
+    link_.connected = false;
+    EXPECT_EQ(*Call<void>(Bus::IsConnected, nullptr), 0);
+}
+
+TEST_F(HostServicesTest, LoginConnectsAndComplainsWhenItCannot) {
+    link_.connected = false;
+    Call<void>(Bus::Login, nullptr);
+    EXPECT_TRUE(link_.connected);
+    EXPECT_TRUE(complaints_.empty());
+    link_.canConnect = false;
+    Call<void>(Bus::Login, nullptr);
+    EXPECT_THAT(complaints_, testing::ElementsAre("the server is down"));
+}
+
+TEST_F(HostServicesTest, TheReplyIsABusBlockWithHeadAndClosedText) {
+    const long before = Core::LiveBusBlocks();
+    VoyServerRequest* reply = exchange("{a:1}");
+    ASSERT_NE(reply, nullptr);
+    EXPECT_EQ(Core::LiveBusBlocks(), before + 1);
+    EXPECT_STREQ(reply->Payload(), "{\"eid\":0}");
+    EXPECT_EQ(reply->length, 10U);
+    EXPECT_EQ(reply->command, 3);
+    EXPECT_EQ(reply->moduleWord, 5);
+    EXPECT_EQ(link_.lastUser, "anna");
+    EXPECT_EQ(link_.lastText, "{a:1}");
+    Core::FreeBusBlock(reply);
+    EXPECT_EQ(Core::LiveBusBlocks(), before);
+}
+
+TEST_F(HostServicesTest, NoReplyNullRequestAndATooLongOneAnswerNull) {
+    link_.reply.clear();
+    EXPECT_EQ(exchange("{}"), nullptr);
+    EXPECT_EQ(Call<const VoyServerRequest>(Bus::ServerExchange, nullptr), nullptr);
+    const VoyServerRequest tooLong{Interface::kMaxPayloadBytes + 1, 3, 5};
+    link_.reply = "{}";
+    EXPECT_EQ(Call(Bus::ServerExchange, &tooLong), nullptr);
+}
+
+/// Notes the zone that the event carries.
+class ZoneListener : public Core::TObject {
+  public:
+    ZoneListener() {
+        event_.Set<&ZoneListener::OnZone>(this);
+        Core::TrvKernel::Instance()->BindTrvEvent(Bus::SwitchTimeZone.name, &event_);
+    }
+    ~ZoneListener() override {
+        Core::TrvKernel::Instance()->UnBindTrvEvent(Bus::SwitchTimeZone.name, &event_);
+    }
+    void* OnZone(void* input) {
+        zone = *static_cast<const std::string*>(input);
+        return nullptr;
+    }
+    std::string zone;
+
+  private:
+    Core::TEvent event_;
+};
+
+TEST_F(HostServicesTest, ANewZoneIsAnsweredTheClocksAndTold) {
+    ZoneListener listener;
+    services_.SetTimeZone("UTC");
+    EXPECT_EQ(listener.zone, "UTC");
+    EXPECT_EQ(*Call<void>(Bus::CurrentTimeZone, nullptr), "UTC");
+    EXPECT_EQ(Util::Clock::LocalZone(), "UTC");
+}
+
+TEST(HostServicesEnd, LeavesNothingOnTheBus) {
+    {
+        ScriptedLink link;
+        const HostServices services(link, "u", "UTC", {});
+        EXPECT_TRUE(Core::TrvKernel::Instance()->IsBound(Bus::User.name));
+    }
+    EXPECT_FALSE(Core::TrvKernel::Instance()->IsBound(Bus::User.name));
+    Util::Clock::SetLocalZone("");
+}
+
+}  // namespace
+}  // namespace Tarvik::Client

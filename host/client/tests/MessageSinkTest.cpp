@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/shell/QtMessageSink.h"
+#include "host/client/shell/QtTimerService.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+namespace Tarvik::Client {
+namespace {
+
+using Interface::SysMsgHandleRes;
+
+/// Presses the named button of the box that is open once the loop of the box runs.
+void PressWhenShown(const char* button) {
+    QTimer::singleShot(0, qApp, [button] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->text(), "Sure?");
+        auto* found = box->findChild<QAbstractButton*>(button);
+        ASSERT_NE(found, nullptr) << button;
+        found->click();
+    });
+}
+
+SysMsgHandleRes Ask(int flags, const char* button) {
+    const LanguageFiles texts;
+    QtMessageSink sink(nullptr, texts);
+    PressWhenShown(button);
+    return sink.SyncSendMsg(1, u"Sure?", flags, nullptr, u"");
+}
+
+TEST(MessageSink, AnswersWhatThePersonPressed) {
+    EXPECT_EQ(Ask(0, "messageOk"), SysMsgHandleRes::None);
+    EXPECT_EQ(Ask(1, "messageOk"), SysMsgHandleRes::Ok);
+    EXPECT_EQ(Ask(1, "messageCancel"), SysMsgHandleRes::Cancel);
+    EXPECT_EQ(Ask(4, "messageYes"), SysMsgHandleRes::Yes);
+    EXPECT_EQ(Ask(4, "messageNo"), SysMsgHandleRes::No);
+}
+
+TEST(MessageSink, EscapeIsTheCarefulAnswer) {
+    const LanguageFiles texts;
+    QtMessageSink sink(nullptr, texts);
+    QTimer::singleShot(0, qApp,
+                       [] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->reject(); });
+    EXPECT_EQ(sink.SyncSendMsg(1, u"Sure?", 4, nullptr, u""), SysMsgHandleRes::No);
+}
+
+TEST(TimerService, CallsAgainAndAgainUntilStoppedByItsOwnCallback) {
+    QtTimerService timers;
+    QEventLoop loop;
+    int calls = 0;
+    unsigned id = 0;
+    id = timers.Start(0, [&] {
+        if (++calls < 3) return;
+        timers.Stop(id);
+        loop.quit();
+    });
+    EXPECT_NE(id, 0U);
+    loop.exec();
+    QApplication::processEvents();
+    EXPECT_EQ(calls, 3);
+    timers.Stop(id);
+}
+
+}  // namespace
+}  // namespace Tarvik::Client

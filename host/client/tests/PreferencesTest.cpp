@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/services/Preferences.h"
+#include "host/client/tests/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarvik::Client {
+namespace {
+
+TEST(Preferences, StartWithTheZoneInWhichTimesAreStored) {
+    TemporaryFolder folder;
+    const Preferences usual = Preferences::Read(folder.Path("none.json"));
+    EXPECT_EQ(usual, Preferences());
+    EXPECT_EQ(usual.timeZone, "China Standard Time");
+}
+
+TEST(Preferences, ComeBackAsTheyWereWritten) {
+    TemporaryFolder folder;
+    const Preferences chosen{"zh-CN", "Europe/Rotterdam", "night", "http://10.0.0.1:80"};
+    Preferences written = chosen;
+    written.timeZone = "UTC";
+    std::string error;
+    ASSERT_TRUE(written.Write(folder.Path("p.json"), error)) << error;
+    EXPECT_EQ(Preferences::Read(folder.Path("p.json")), written);
+    EXPECT_FALSE(std::filesystem::exists(folder.Path("p.json.new")));
+}
+
+TEST(Preferences, WrongValuesGiveWayToTheUsualOnes) {
+    TemporaryFolder folder;
+    folder.Write("p.json", R"({"language":"xx","timeZone":"Middle/Earth","theme":3,"server":"s"})");
+    const Preferences read = Preferences::Read(folder.Path("p.json"));
+    EXPECT_EQ(read.language, "en-US");
+    EXPECT_EQ(read.timeZone, "China Standard Time");
+    EXPECT_EQ(read.theme, "light");
+    EXPECT_EQ(read.server, "s");
+    folder.Write("p.json", "{\"language\":\"zh-");
+    EXPECT_EQ(Preferences::Read(folder.Path("p.json")), Preferences());
+}
+
+TEST(Preferences, AFailedWriteSaysWhatToDoAndKeepsTheOldFile) {
+    TemporaryFolder folder;
+    folder.Write("p.json", "{\"theme\":\"dark\"}");
+    std::filesystem::create_directories(folder.Path("p.json.new/x"));
+    std::string error;
+    EXPECT_FALSE(Preferences().Write(folder.Path("p.json"), error));
+    EXPECT_NE(error.find("p.json"), std::string::npos);
+    EXPECT_EQ(Preferences::Read(folder.Path("p.json")).theme, "dark");
+}
+
+}  // namespace
+}  // namespace Tarvik::Client

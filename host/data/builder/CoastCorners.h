@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "host/data/builder/TopoLand.h"
+#include "host/server/graph/LandIndex.h"
+
+namespace Tarvik::Data {
+
+/// A turning point of ways around land: a cape moved seaward. `toPrevious` and `toNext` point along the coast
+/// (east, north in equal units); ways worth having at this point leave both on one side.
+struct Corner {
+    GeoPoint at;
+    GeoPoint toPrevious;
+    GeoPoint toNext;
+};
+
+/// The capes of the land, 3 nautical miles off in open water, 0.2 to 0.8 in narrow water.
+std::vector<Corner> findCorners(const std::vector<Polygon>& land, const Server::LandIndex& index);
+
+/// A closed ring with only those points that matter at a tolerance in nautical miles (Douglas and Peucker's
+/// method).
+Ring simplifyRing(const Ring& ring, double toleranceNm);
+
+}  // namespace Tarvik::Data

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "host/data/LandFile.h"
+#include "host/data/builder/TopoLand.h"
+
+namespace Tarvik::Data {
+
+/// Cuts polygons at the date line and into cells small enough to draw; see `LandFile` for what a cell is.
+std::vector<LandFile::Cell> cutIntoCells(const std::vector<Polygon>& land);
+
+/// The coast as polylines, without the closing lines along the date line and the pole.
+std::vector<LandFile::Cell> cutIntoCoasts(const std::vector<Polygon>& land);
+
+}  // namespace Tarvik::Data

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "host/data/builder/NetworkBuilder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+#include "host/data/builder/CoastCorners.h"
+#include "host/data/builder/PortLinker.h"
+#include "host/server/graph/SeaNetwork.h"
+#include "host/server/graph/Sphere.h"
+
+namespace Tarvik::Data {
+namespace {
+
+constexpr double kLatticeStep = 5.0;
+constexpr double kLatticeNorth = 75.0;
+constexpr double kLatticeSouth = -55.0;
+constexpr double kLatticeClearNm = 15.0;
+/// Hand-made ways get a node at least this often, so that ports along a river find one near.
+constexpr double kPassageStepNm = 5.0;
+
+std::vector<std::vector<GeoPoint>> ringsOf(const std::vector<Polygon>& land) {
+    std::vector<std::vector<GeoPoint>> rings;
+    for (const Polygon& polygon : land) rings.insert(rings.end(), polygon.begin(), polygon.end());
+    return rings;
+}
+
+/// The points after a up to b, in even steps.
+std::vector<GeoPoint> steps(GeoPoint a, GeoPoint b) {
+    const int count = std::max(1, static_cast<int>(std::ceil(Server::arcNm(a, b) / kPassageStepNm)));
+    std::vector<GeoPoint> points;
+    for (int i = 1; i < count; ++i) {
+        const double t = static_cast<double>(i) / count;
+        points.push_back(Server::roundPoint({a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)}));
+    }
+    points.push_back(b);
+    return points;
+}
+
+}  // namespace
+
+NetworkBuilder::NetworkBuilder(const Sources& sources, const std::vector<Polygon>& land)
+    : sources_(sources), land_(land), rings_(ringsOf(land)), index_(rings_) {}
+
+uint32_t NetworkBuilder::nodeAt(GeoPoint at) {
+    at.x = Server::roundPoint({Server::wrapLongitude(at.x), at.y}).x;
+    const auto [it, isNew] = named_.try_emplace({at.x, at.y}, static_cast<uint32_t>(nodes_.size()));
+    if (isNew) nodes_.push_back({at, !index_.isLand(at), false, {}, {}});
+    return it->second;
+}
+
+void NetworkBuilder::addPassages(SpannerEdges& edges) {
+    for (const PassageSource& passage : sources_.passages) {
+        if (passage.vertices.empty()) continue;
+        uint32_t before = nodeAt(passage.vertices.front().at);
+        for (size_t i = 1; i < passage.vertices.size(); ++i) {
+            for (const GeoPoint p : steps(passage.vertices[i - 1].at, passage.vertices[i].at)) {
+                const uint32_t node = nodeAt(p);
+                edges.addFixed(before, node, Server::EdgeKind::Chain);
+                before = node;
+            }
+        }
+    }
+}
+
+void NetworkBuilder::addCapes() {
+    for (const Corner& corner : findCorners(land_, index_)) {
+        nodes_.push_back({corner.at, true, true, corner.toPrevious, corner.toNext});
+    }
+}
+
+void NetworkBuilder::addLattice() {
+    for (double y = kLatticeSouth; y <= kLatticeNorth; y += kLatticeStep) {
+        const int count = static_cast<int>(std::round(360.0 / kLatticeStep * std::cos(y * Server::kDegree)));
+        for (int i = 0; i < count; ++i) {
+            const GeoPoint at = Server::roundPoint({Server::wrapLongitude(2.5 + 360.0 / count * i), y});
+            if (!index_.isLand(at) && index_.isClear(at, kLatticeClearNm))
+                nodes_.push_back({at, true, false, {}, {}});
+        }
+    }
+}
+
+void NetworkBuilder::addGroups(Server::NetworkData& data) const {
+    std::map<std::string, Server::AlternativeGroup> members;
+    for (size_t i = 0; i < sources_.routePoints.size(); ++i) {
+        for (const std::string& group : sources_.routePoints[i].groups)
+            members[group].push_back(static_cast<uint16_t>(i));
+    }
+    for (size_t i = 0; i < sources_.routePoints.size(); ++i) {
+        for (const std::string& name : sources_.routePoints[i].groups) {
+            Server::AlternativeGroup others = members[name];
+            std::erase(others, static_cast<uint16_t>(i));
+            if (!others.empty()) data.routePoints[i].groups.push_back(std::move(others));
+        }
+    }
+}
+
+void NetworkBuilder::addMasks(Server::NetworkData& data) const {
+    std::unordered_map<Server::GateMask, uint16_t> known;
+    for (Server::NetworkEdge& edge : data.edges) {
+        const Server::GateMask mask = Server::gatesCrossed(
+            Server::greatCircle(data.nodes[edge.a], data.nodes[edge.b]), data.routePoints);
+        const auto [it, isNew] = known.try_emplace(mask, static_cast<uint16_t>(data.masks.size()));
+        if (isNew) data.masks.push_back(mask);
+        edge.mask = it->second;
+    }
+}
+
+Server::NetworkData NetworkBuilder::build() {
+    SpannerEdges edges(nodes_, index_);
+    Server::NetworkData data;
+    for (const RoutePointSource& p : sources_.routePoints) {
+        data.routePoints.push_back({p.id, p.name, nodeAt(p.at), p.shut, p.gate, {}});
+    }
+    addPassages(edges);
+    addCapes();
+    addLattice();
+    edges.connect(0);
+    PortLinker linker(nodes_, edges, index_);
+    const std::vector<uint32_t> portNodes = linker.link(sources_.ports);
+    for (size_t i = 0; i < sources_.ports.size(); ++i) {
+        const PortSource& port = sources_.ports[i];
+        data.ports.push_back({port.id, port.unlocode, port.name, portNodes[i]});
+    }
+    for (const BuildNode& node : nodes_) data.nodes.push_back(node.at);
+    data.edges = edges.edges();
+    data.land = rings_;
+    addGroups(data);
+    addMasks(data);
+    std::vector<uint32_t> sizes;
+    const std::vector<uint32_t> part = edges.components(sizes);
+    const auto largest = static_cast<uint32_t>(std::max_element(sizes.begin(), sizes.end()) - sizes.begin());
+    for (const auto& p : data.routePoints) {
+        if (part[p.node] != largest)
+            remarks_.push_back("route point " + p.name + " is not joined to the oceans");
+    }
+    for (const auto& p : data.ports) {
+        if (part[p.node] != largest)
+            remarks_.push_back("port " + p.unlocode + " " + p.name + " is not joined to the oceans");
+    }
+    return data;
+}
+
+}  // namespace Tarvik::Data

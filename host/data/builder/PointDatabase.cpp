@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "host/data/builder/PointDatabase.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <fmt/format.h>
+
+#include <filesystem>
+
+namespace Tarvik::Data {
+namespace {
+
+std::string degrees(double value) {
+    std::string text = fmt::format("{:.5f}", value);
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == '.') text.pop_back();
+    return text;
+}
+
+class Inserter {
+  public:
+    explicit Inserter(SQLite::Database& database)
+        : statement_(
+              database,
+              "insert into t_point(id,name,namecn,x,y,isport,origid,unlocode) values(?,?,?,?,?,?,'0',?)") {}
+    void add(const std::string& id, const std::string& name, const std::string& namecn, GeoPoint at,
+             bool isPort, const std::string& unlocode) {
+        statement_.bind(1, id);
+        statement_.bind(2, name);
+        statement_.bind(3, namecn);
+        statement_.bind(4, degrees(at.x));
+        statement_.bind(5, degrees(at.y));
+        statement_.bind(6, isPort ? "1" : "0");
+        statement_.bind(7, unlocode);
+        statement_.exec();
+        statement_.reset();
+    }
+
+  private:
+    SQLite::Statement statement_;
+};
+
+}  // namespace
+
+std::string writePointDatabase(const std::string& path, const Sources& sources) {
+    try {
+        std::filesystem::remove(path);
+        SQLite::Database database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        database.exec("pragma journal_mode=off");
+        SQLite::Transaction transaction(database);
+        database.exec(
+            "create table t_point(id text primary key, name text, namecn text, x text, y text, isport text, "
+            "origid text, unlocode text)");
+        Inserter inserter(database);
+        for (const RoutePointSource& p : sources.routePoints)
+            inserter.add(p.id, p.name, p.namecn, p.at, false, "");
+        for (const PortSource& p : sources.ports)
+            inserter.add(p.id, p.name, p.namecn, p.at, true, p.unlocode);
+        transaction.commit();
+        return {};
+    } catch (const std::exception& e) {
+        return "cannot write " + path + ": " + e.what();
+    }
+}
+
+}  // namespace Tarvik::Data

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "host/data/builder/Sources.h"
+
+#include <charconv>
+#include <cmath>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <stdexcept>
+
+#include "host/data/builder/CsvTable.h"
+#include "host/server/graph/Sphere.h"
+
+namespace Tarvik::Data {
+namespace {
+
+constexpr int kFirstPortId = 40001;
+
+std::string readFile(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw std::runtime_error("cannot open " + path);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+double toNumber(const std::string& text) {
+    double value = 0.0;
+    const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (code != std::errc() || end != text.data() + text.size())
+        throw std::runtime_error("\"" + text + "\" is no number");
+    return value;
+}
+
+GeoPoint toPoint(const std::string& x, const std::string& y) {
+    const GeoPoint p = Server::roundPoint({toNumber(x), toNumber(y)});
+    if (std::abs(p.x) > 360.0 || std::abs(p.y) > 90.0)
+        throw std::runtime_error(x + " " + y + " is no position");
+    return p;
+}
+
+/// "lon lat"
+GeoPoint toPoint(const std::string& text) {
+    const std::vector<std::string> parts = splitText(text, ' ');
+    if (parts.size() != 2) throw std::runtime_error("\"" + text + "\" is no position");
+    return toPoint(parts[0], parts[1]);
+}
+
+std::vector<RoutePointSource> readRoutePoints(const CsvTable& table) {
+    std::vector<RoutePointSource> points;
+    for (size_t i = 0; i < table.size(); ++i) {
+        RoutePointSource p;
+        p.id = table.at(i, "id");
+        p.name = table.at(i, "name");
+        p.namecn = table.at(i, "namecn");
+        p.at = toPoint(table.at(i, "lon"), table.at(i, "lat"));
+        p.shut = table.at(i, "shut") == "1";
+        for (const std::string& end : splitText(table.at(i, "gate"), ';')) p.gate.push_back(toPoint(end));
+        if (p.id.empty() || p.gate.size() < 2) throw std::runtime_error(p.name + " lacks an id or a gate");
+        p.groups = splitText(table.at(i, "groups"), ';');
+        points.push_back(std::move(p));
+    }
+    return points;
+}
+
+std::vector<PassageSource> readPassages(const CsvTable& table,
+                                        const std::vector<RoutePointSource>& routePoints) {
+    std::map<std::string, GeoPoint> named;
+    for (const RoutePointSource& p : routePoints) named[p.name] = p.at;
+    std::vector<PassageSource> passages;
+    for (size_t i = 0; i < table.size(); ++i) {
+        PassageSource passage{table.at(i, "name"), {}};
+        for (const std::string& text : splitText(table.at(i, "points"), ';')) {
+            if (text.starts_with('@')) {
+                const std::string name = text.substr(1);
+                if (!named.contains(name)) throw std::runtime_error("there is no route point " + name);
+                passage.vertices.push_back({named[name], name});
+            } else {
+                passage.vertices.push_back({toPoint(text), {}});
+            }
+        }
+        passages.push_back(std::move(passage));
+    }
+    return passages;
+}
+
+using PortMap = std::map<std::string, PortSource>;
+
+PortMap readPortsJson(const std::string& text, std::map<std::string, std::string>& countries) {
+    PortMap ports;
+    const nlohmann::json all = nlohmann::json::parse(text);
+    for (const auto& [code, port] : all.items()) {
+        countries[code] = port.value("country", "");
+        PortSource source{{}, code, port.at("name").get<std::string>(), {}, {NAN, NAN}};
+        if (port.contains("coordinates")) {
+            const double x = port["coordinates"].at(0);
+            const double y = port["coordinates"].at(1);
+            source.at = Server::roundPoint({x, y});
+        }
+        ports.emplace(code, std::move(source));
+    }
+    return ports;
+}
+
+void correct(const CsvTable& table, PortMap& ports, std::vector<PortSource>& added) {
+    for (size_t i = 0; i < table.size(); ++i) {
+        const std::string code = table.at(i, "unlocode");
+        const GeoPoint at = toPoint(table.at(i, "lon"), table.at(i, "lat"));
+        const std::string name = table.at(i, "name");
+        const auto it = ports.find(code);
+        if (it == ports.end()) {
+            added.push_back({{}, code, name, {}, at});
+            continue;
+        }
+        it->second.at = at;
+        if (!name.empty()) it->second.name = name;
+    }
+}
+
+/// Ports are looked up by name, so a name stands for one port: the later ones get their country or code
+/// added.
+void makeNamesUnique(std::vector<PortSource>& ports, const std::map<std::string, std::string>& countries) {
+    std::map<std::string, int> count;
+    for (const PortSource& port : ports) ++count[port.name];
+    std::set<std::string> used;
+    for (PortSource& port : ports) {
+        if (count[port.name] > 1 && countries.contains(port.unlocode))
+            port.name += ", " + countries.at(port.unlocode);
+        if (!used.insert(port.name).second) {
+            port.name += " (" + port.unlocode + ")";
+            used.insert(port.name);
+        }
+    }
+}
+
+std::vector<PortSource> readPorts(const std::string& folder, const std::string& portsJson) {
+    std::map<std::string, std::string> countries;
+    PortMap known = readPortsJson(readFile(portsJson), countries);
+    std::vector<PortSource> added;
+    correct(CsvTable(readFile(folder + "/port_corrections.csv")), known, added);
+    std::vector<PortSource> ports;
+    // Ids follow the sorted codes of the fetched list; ports added by hand come behind, so that ids stay what
+    // they are.
+    int id = kFirstPortId;
+    for (auto& [code, port] : known) {
+        port.id = std::to_string(id++);
+        if (!std::isnan(port.at.x)) ports.push_back(port);
+    }
+    for (PortSource& port : added) {
+        port.id = std::to_string(id++);
+        ports.push_back(port);
+    }
+    makeNamesUnique(ports, countries);
+    const CsvTable chinese(readFile(folder + "/port_names_cn.csv"));
+    std::map<std::string, std::string> names;
+    for (size_t i = 0; i < chinese.size(); ++i) names[chinese.at(i, "unlocode")] = chinese.at(i, "namecn");
+    for (PortSource& port : ports)
+        port.namecn = names.contains(port.unlocode) ? names[port.unlocode] : port.name;
+    return ports;
+}
+
+}  // namespace
+
+std::optional<Sources> readSources(const std::string& folder, const std::string& portsJson,
+                                   std::string& error) {
+    std::string file;
+    try {
+        Sources sources;
+        file = "route_points.csv";
+        sources.routePoints = readRoutePoints(CsvTable(readFile(folder + "/route_points.csv")));
+        file = "passages.csv";
+        sources.passages = readPassages(CsvTable(readFile(folder + "/passages.csv")), sources.routePoints);
+        file = "ports";
+        sources.ports = readPorts(folder, portsJson);
+        return sources;
+    } catch (const std::exception& e) {
+        error = file + ": " + e.what();
+        return std::nullopt;
+    }
+}
+
+}  // namespace Tarvik::Data

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/server/graph/GeoPoint.h"
+
+namespace Tarvik::Data {
+
+using Server::GeoPoint;
+
+/// A line of route_points.csv.
+struct RoutePointSource {
+    std::string id;
+    std::string name;
+    std::string namecn;
+    GeoPoint at;
+    bool shut = false;
+    std::vector<GeoPoint> gate;
+    std::vector<std::string> groups;  ///< names of the groups of passages that can replace one another
+};
+
+/// A vertex of a hand-made way; `routePoint` names the route point it is, or is empty.
+struct PassageVertex {
+    GeoPoint at;
+    std::string routePoint;
+};
+
+/// A line of passages.csv.
+struct PassageSource {
+    std::string name;
+    std::vector<PassageVertex> vertices;
+};
+
+/// A port with its corrected position; ids have five digits and begin with 4.
+struct PortSource {
+    std::string id;
+    std::string unlocode;
+    std::string name;
+    std::string namecn;
+    GeoPoint at;
+};
+
+/// Everything that is made by hand or fetched, apart from the land.
+struct Sources {
+    std::vector<RoutePointSource> routePoints;
+    std::vector<PassageSource> passages;
+    std::vector<PortSource> ports;
+};
+
+/// Reads the hand-made files of `folder` and the ports of the fetched JSON file; nothing and an error text
+/// naming file and line when one of them is missing or wrong.
+std::optional<Sources> readSources(const std::string& folder, const std::string& portsJson,
+                                   std::string& error);
+
+}  // namespace Tarvik::Data

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// seaplan-build-data: makes trvdb.db, network.bin and land.bin from the fetched and the hand-made sources.
+#include <fmt/format.h>
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+#include "host/data/LandFile.h"
+#include "host/data/builder/LandCutter.h"
+#include "host/data/builder/NetworkBuilder.h"
+#include "host/data/builder/PointDatabase.h"
+#include "host/data/builder/TopoLand.h"
+#include "host/server/graph/SeaNetworkFile.h"
+
+namespace {
+
+using Tarvik::Data::Polygon;
+
+int fail(const std::string& message) {
+    fmt::print(stderr, "seaplan-build-data: {}\n", message);
+    return 1;
+}
+
+std::optional<std::vector<Polygon>> readLand(const std::string& modules, const char* scale,
+                                             std::string& error) {
+    const std::string path = fmt::format("{}/world-atlas/land-{}.json", modules, scale);
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        error = "cannot open " + path;
+        return std::nullopt;
+    }
+    return Tarvik::Data::readTopoLand(
+        {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()}, error);
+}
+
+int build(const std::string& folder, const std::string& modules, const std::string& output) {
+    std::string error;
+    const auto sources = Tarvik::Data::readSources(folder, modules + "/sea-ports/lib/ports.json", error);
+    if (!sources) return fail(error);
+    Tarvik::Data::LandFile chart;
+    std::vector<Polygon> finest;
+    const char* scales[] = {"110m", "50m", "10m"};
+    for (size_t i = 0; i < chart.levels.size(); ++i) {
+        auto land = readLand(modules, scales[i], error);
+        if (!land) return fail(error);
+        chart.levels[i] = Tarvik::Data::cutIntoCells(*land);
+        chart.coasts[i] = Tarvik::Data::cutIntoCoasts(*land);
+        finest = std::move(*land);
+    }
+    error = chart.save(output + "/land.bin");
+    if (error.empty()) error = Tarvik::Data::writePointDatabase(output + "/trvdb.db", *sources);
+    if (!error.empty()) return fail(error);
+    Tarvik::Data::NetworkBuilder builder(*sources, finest);
+    const Tarvik::Server::NetworkData network = builder.build();
+    for (const std::string& remark : builder.remarks()) fmt::print("{}\n", remark);
+    error = Tarvik::Server::SeaNetworkFile::write(output + "/network.bin", network);
+    if (!error.empty()) return fail(error);
+    fmt::print("{} nodes, {} edges, {} ports, {} route points\n", network.nodes.size(), network.edges.size(),
+               network.ports.size(), network.routePoints.size());
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 4) return fail("usage: seaplan-build-data SOURCE_FOLDER NODE_MODULES OUTPUT_FOLDER");
+    return build(argv[1], argv[2], argv[3]);
+}

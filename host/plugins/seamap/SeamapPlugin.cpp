@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include <tarvik/core/PluginInfo.h>
+#include <tarvik/core/TrvKernel.h>
+
+#include <exception>
+#include <memory>
+
+#include "host/plugins/seamap/core/LandFileSource.h"
+#include "host/plugins/seamap/core/PortTable.h"
+#include "host/plugins/seamap/widget/ChartServices.h"
+
+#define SEAMAP_EXPORT extern "C" __attribute__((visibility("default")))
+
+namespace {
+
+using Tarvik::Plugin::CPluginInfo;
+using Tarvik::Seamap::ChartServices;
+using Tarvik::Seamap::LandFileSource;
+using Tarvik::Seamap::PortTable;
+
+class SeamapInfo : public CPluginInfo {
+  public:
+    SeamapInfo() : CPluginInfo("TRV,1.1.4") {
+        name = "PlgSeamap";
+        version = "1.1.0.0";
+        SetDisplayName(u"Sea chart");
+        SetDescription(u"Chart of the world with the lines, points and images of the other plug-ins");
+    }
+};
+
+SeamapInfo info;
+std::unique_ptr<ChartServices> services;
+
+}  // namespace
+
+/// Offers the chart's services on the bus; a second call changes nothing. False when that failed.
+SEAMAP_EXPORT bool Load() {
+    try {
+        if (!services)
+            services = std::make_unique<ChartServices>(
+                ChartServices::Paths{PortTable::DefaultPath(), LandFileSource::DefaultPath()});
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+/// Takes the services back and closes the chart. To be called while the window system still stands.
+SEAMAP_EXPORT bool UnLoad() {
+    services.reset();
+    return true;
+}
+
+/// The plug-in's description; owned by the library, the same at every call.
+SEAMAP_EXPORT CPluginInfo* PluginInfo() {
+    return &info;
+}
+
+SEAMAP_EXPORT void InitPlugin() {}
+
+SEAMAP_EXPORT void SuiteLoaded() {}
+
+/// Whether the plug-in can work here.
+SEAMAP_EXPORT bool CheckEnvironment() {
+    return Tarvik::Core::TrvKernel::Instance() != nullptr;
+}

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/interface/ChartRecords.h>
+
+#include <compare>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "host/plugins/seamap/core/GeoPoint.h"
+
+namespace Tarvik::Seamap {
+
+/// Name of an object: unique over layer, type and id together.
+struct ObjectKey {
+    std::string layer;
+    std::string type;
+    std::string id;
+    auto operator<=>(const ObjectKey&) const = default;
+};
+
+/// A line over the projected world. Neighbouring points lie at most half a turn apart, so x may leave 0 to 1
+/// where the line goes over the date line.
+struct ChartLine {
+    std::vector<WorldPoint> points;
+    double minX = 0, maxX = 0, minY = 0, maxY = 0;
+    std::int32_t colour = 0;  ///< 0x00BBGGRR
+    int width = 3;            ///< pixels
+    bool dashed = false;
+};
+
+/// A point with its text.
+struct ChartLabel {
+    GeoPoint position;
+    std::string text;
+    std::int32_t colour = 0;  ///< 0x00BBGGRR
+    int size = 3;             ///< radius in pixels
+};
+
+struct ChartImage {
+    GeoPoint position;
+    std::string image;
+};
+
+struct ChartObject {
+    ObjectKey key;
+    std::variant<ChartLine, ChartLabel, ChartImage> shape;
+};
+
+/// Everything drawn on the chart, without a window.
+///
+/// An object added under a key that is taken replaces the old one and keeps its place in the drawing order,
+/// which is otherwise the order of adding. Images are known by their registered name.
+class ChartObjects {
+  public:
+    /// Keeps the parameters of a layer; one that is there already gets the new ones and keeps its objects.
+    void AddLayer(const Interface::TrvMapLayerParams& layer);
+    /// Removes a layer and all its objects. False when it is unknown.
+    bool RemoveLayer(const std::string& layer);
+    bool HasLayer(const std::string& layer) const { return layers_.count(layer) != 0; }
+
+    /// Points that cannot be read are left out; with fewer than two left nothing is drawn, an old line under
+    /// the key goes, and the answer is false.
+    bool AddLine(const Interface::TrvMapLineParams& line);
+    /// False when the position cannot be read; an old object under the key then stays.
+    bool AddLabel(const Interface::TrvMapPointParams& point);
+    bool AddImage(const Interface::TrvMapImageParams& image);
+    void RegisterImage(const std::string& name, const std::string& path);
+    /// File of a registered image; empty when the name is unknown.
+    std::string ImagePath(const std::string& name) const;
+
+    bool Remove(const ObjectKey& key);
+    /// Removes the listed objects, the layer being taken from the list. Answers how many there were.
+    int Remove(const Interface::TrvMapObjectList& list);
+    int RemoveType(const std::string& layer, const std::string& type);
+
+    /// All objects in drawing order.
+    const std::map<std::uint64_t, ChartObject>& InOrder() const { return objects_; }
+    const ChartObject* Find(const ObjectKey& key) const;
+    std::size_t Count() const { return objects_.size(); }
+    /// All points of all objects.
+    std::vector<GeoPoint> Points() const;
+
+    /// Called after each change; an empty function ends it.
+    void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
+
+  private:
+    void put(const Interface::TrvMapObjectRef& ref, std::variant<ChartLine, ChartLabel, ChartImage> shape);
+    int removeIf(const std::function<bool(const ObjectKey&)>& test);
+    void changed() const;
+
+    std::map<std::string, Interface::TrvMapLayerParams> layers_;
+    std::map<std::string, std::string> images_;
+    std::map<ObjectKey, std::uint64_t> places_;
+    std::map<std::uint64_t, ChartObject> objects_;
+    std::uint64_t next_ = 0;
+    std::function<void()> observer_;
+};
+
+}  // namespace Tarvik::Seamap

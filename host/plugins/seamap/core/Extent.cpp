@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "host/plugins/seamap/core/Extent.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Tarvik::Seamap {
+
+std::optional<Extent> Extent::FromCorners(const Interface::TrvMapExtent& corners) {
+    for (const double value : {corners.first, corners.second, corners.third, corners.fourth})
+        if (!std::isfinite(value) || std::fabs(value) > 720.0) return std::nullopt;
+    Extent extent;
+    extent.west = std::min(corners.first, corners.third);
+    extent.east = std::min(std::max(corners.first, corners.third), extent.west + 360.0);
+    extent.south = std::clamp(std::min(corners.second, corners.fourth), -90.0, 90.0);
+    extent.north = std::clamp(std::max(corners.second, corners.fourth), -90.0, 90.0);
+    return extent;
+}
+
+Interface::TrvMapExtent Extent::Corners() const {
+    return {west, south, east, north};
+}
+
+std::optional<Extent> Extent::Around(const std::vector<GeoPoint>& points) {
+    if (points.empty()) return std::nullopt;
+    std::vector<double> lons;
+    Extent extent{0, 90, 0, -90};
+    for (const GeoPoint& point : points) {
+        lons.push_back(NormaliseLongitude(point.lon));
+        extent.south = std::min(extent.south, point.lat);
+        extent.north = std::max(extent.north, point.lat);
+    }
+    std::sort(lons.begin(), lons.end());
+    // The widest empty stretch between neighbours stays outside; the extent starts behind it.
+    double widest = lons.front() + 360.0 - lons.back();
+    extent.west = lons.front();
+    for (std::size_t i = 1; i < lons.size(); ++i) {
+        const double gap = lons[i] - lons[i - 1];
+        if (gap <= widest) continue;
+        widest = gap;
+        extent.west = lons[i];
+    }
+    extent.east = extent.west + 360.0 - widest;
+    return extent;
+}
+
+bool Extent::Contains(GeoPoint point) const {
+    if (point.lat < south || point.lat > north) return false;
+    const double turned = point.lon - 360.0 * std::floor((point.lon - west) / 360.0);
+    return turned <= east || (point.lon >= west && point.lon <= east);
+}
+
+}  // namespace Tarvik::Seamap

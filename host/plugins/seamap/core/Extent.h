@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/interface/ChartRecords.h>
+
+#include <optional>
+#include <vector>
+
+#include "host/plugins/seamap/core/GeoPoint.h"
+
+namespace Tarvik::Seamap {
+
+/// A piece of the chart in degrees. West is at most east; an extent over the date line has an east above 180.
+struct Extent {
+    double west = -180;
+    double south = -90;
+    double east = 180;
+    double north = 90;
+    bool operator==(const Extent&) const = default;
+
+    /// Reads two corners given in either order: the greater longitude is the eastern limit, the greater
+    /// latitude the northern one. Latitudes are brought into ±90, the width to one turn at most. Empty when a
+    /// number is not finite or beyond 720 either way.
+    static std::optional<Extent> FromCorners(const Interface::TrvMapExtent& corners);
+    /// The corners in the order west, south, east, north.
+    Interface::TrvMapExtent Corners() const;
+    /// The narrowest extent that holds all points, over the date line where that is narrower; empty without
+    /// points.
+    static std::optional<Extent> Around(const std::vector<GeoPoint>& points);
+
+    bool Contains(GeoPoint point) const;
+    double Width() const { return east - west; }
+    double Height() const { return north - south; }
+};
+
+}  // namespace Tarvik::Seamap

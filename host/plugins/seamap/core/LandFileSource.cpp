@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "host/plugins/seamap/core/LandFileSource.h"
+
+#include <tarvik/util/FileUtl.h>
+
+#include "host/data/LandFile.h"
+
+namespace Tarvik::Seamap {
+
+namespace {
+
+std::vector<LandShape> shapesOf(const std::vector<Data::LandFile::Cell>& cells) {
+    std::vector<LandShape> shapes;
+    shapes.reserve(cells.size());
+    for (const auto& cell : cells) {
+        LandShape& shape = shapes.emplace_back();
+        shape.reserve(cell.points.size());
+        for (const auto& [lon, lat] : cell.points) shape.push_back({lon, lat});
+    }
+    return shapes;
+}
+
+}  // namespace
+
+std::vector<LandLevel> LandFileSource::Load() {
+    std::string error;
+    const auto file = Data::LandFile::load(path_, error);
+    std::vector<LandLevel> levels;
+    if (!file) return levels;
+    for (std::size_t i = 0; i < Data::LandFile::kLevels; ++i)
+        levels.push_back({shapesOf(file->levels[i]), shapesOf(file->coasts[i])});
+    return levels;
+}
+
+std::string LandFileSource::DefaultPath() {
+    return Util::FileUtl::GetCurrentAppDirectory() + "/businessdata/land.bin";
+}
+
+}  // namespace Tarvik::Seamap

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "host/plugins/seamap/core/MercatorView.h"
+
+namespace Tarvik::Seamap {
+
+/// A stretch of a line that may be seen in the window.
+struct PolylineRun {
+    std::vector<PixelPoint> points;  ///< at least two
+    double start = 0;                ///< length of the line in pixels before the first point, for the dashes
+};
+
+/// The stretches of a line that cross the window widened by `margin` pixels, with the line moved `turn` turns
+/// to the east. Segments are cut at the widened window, and points less than `detail` pixels behind the last
+/// one kept are left out.
+std::vector<PolylineRun> ClipPolyline(std::span<const WorldPoint> points, const MercatorView& view, int turn,
+                                      double margin, double detail);
+
+/// A polygon cut at the window widened by `margin` pixels; what lies outside runs along the edge. Empty when
+/// nothing of it lies inside.
+std::vector<PixelPoint> ClipPolygon(std::vector<PixelPoint> points, double width, double height,
+                                    double margin);
+
+}  // namespace Tarvik::Seamap

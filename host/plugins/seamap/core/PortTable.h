@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/interface/ChartRecords.h>
+
+#include <map>
+#include <string>
+
+namespace Tarvik::Seamap {
+
+/// Ports and route points by id, from the table "t_point" of the host's data base; read once, at the first
+/// question. A table that cannot be read is tried again at the next question.
+class PortTable {
+  public:
+    explicit PortTable(std::string path) : path_(std::move(path)) {}
+    /// The record with its id in `text`; null when the id is unknown or the data base cannot be read. Stays
+    /// valid as long as the table.
+    const Interface::TrvMapPort* Find(const std::string& id);
+    /// "businessdata/trvdb.db" below the host's folder.
+    static std::string DefaultPath();
+
+  private:
+    void load();
+
+    std::string path_;
+    bool loaded_ = false;
+    std::map<std::string, Interface::TrvMapPort> ports_;
+};
+
+}  // namespace Tarvik::Seamap

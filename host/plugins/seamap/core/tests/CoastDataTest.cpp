@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "host/plugins/seamap/core/CoastData.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarvik::Seamap {
+namespace {
+
+LandLevel square(float size) {
+    const LandShape ring{{0, 0}, {size, 0}, {size, size}, {0, size}, {0, 0}};
+    return {{ring}, {ring}};
+}
+
+TEST(CoastData, ProjectsAndBoundsEachShape) {
+    const CoastData land({square(36)});
+    ASSERT_EQ(land.LevelCount(), 1);
+    const CoastData::Level& level = land.At(0);
+    ASSERT_EQ(level.cells.size(), 1u);
+    EXPECT_EQ(level.PointsOf(level.cells[0]).size(), 5u);
+    EXPECT_DOUBLE_EQ(level.cells[0].minX, 0.5);
+    EXPECT_NEAR(level.cells[0].maxX, 0.6, 1e-12);
+    EXPECT_DOUBLE_EQ(level.cells[0].maxY, 0.5);
+    EXPECT_LT(level.cells[0].minY, 0.4);
+}
+
+TEST(CoastData, PicksAFinerLevelForALargerWorld) {
+    const CoastData land({square(1), square(2), square(3)});
+    EXPECT_EQ(&land.For(256), &land.At(0));
+    EXPECT_EQ(&land.For(4000), &land.At(1));
+    EXPECT_EQ(&land.For(1 << 20), &land.At(2));
+    const CoastData one({square(1)});
+    EXPECT_EQ(&one.For(1 << 20), &one.At(0));
+    EXPECT_TRUE(CoastData().IsEmpty());
+}
+
+TEST(CoastData, DoesNotDrawTheCutsOfTheSourceAsShore) {
+    LandLevel level;
+    level.coasts = {{{170, 10}, {180, 12}, {180, 20}, {170, 22}}, {{-180, -90}, {180, -90}}};
+    const CoastData land({level});
+    ASSERT_EQ(land.At(0).coasts.size(), 2u);
+    EXPECT_EQ(land.At(0).coasts[0].count, 2u);
+    EXPECT_EQ(land.At(0).coasts[1].count, 2u);
+}
+
+TEST(CoastData, LongShoresAreCutIntoRunsWithoutGaps) {
+    LandLevel level;
+    LandShape coast;
+    for (int i = 0; i < 1000; ++i) coast.push_back({static_cast<float>(i) * 0.1F, 0});
+    level.coasts = {coast};
+    const CoastData land({level});
+    const auto& runs = land.At(0).coasts;
+    ASSERT_GT(runs.size(), 5u);
+    EXPECT_NEAR(runs.front().minX, 0.5, 1e-9);
+    for (std::size_t i = 1; i < runs.size(); ++i) EXPECT_DOUBLE_EQ(runs[i].minX, runs[i - 1].maxX);
+    EXPECT_NEAR(runs.back().maxX, 0.5 + 99.9 / 360, 1e-6);
+}
+
+TEST(CoastData, LeavesOutShapesThatAreNone) {
+    LandLevel level;
+    level.cells = {{}, {{1, 1}, {2, 2}}};
+    level.coasts = {{}, {{1, 1}}};
+    const CoastData land({level});
+    EXPECT_TRUE(land.At(0).cells.empty());
+    EXPECT_TRUE(land.At(0).coasts.empty());
+}
+
+}  // namespace
+}  // namespace Tarvik::Seamap

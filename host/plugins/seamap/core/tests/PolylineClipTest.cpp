@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "host/plugins/seamap/core/PolylineClip.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace Tarvik::Seamap {
+namespace {
+
+/// A world of 1000 pixels seen through a window of 500 by 400 whose corner stands at 250, 300.
+class PolylineClipTest : public ::testing::Test {
+  protected:
+    PolylineClipTest() {
+        view_.Resize(500, 400);
+        view_.Show({0.5, 0.5}, 1000);
+    }
+    std::vector<PolylineRun> clip(std::vector<WorldPoint> points, double detail = 0) const {
+        return ClipPolyline(points, view_, 0, 0, detail);
+    }
+    MercatorView view_;
+};
+
+TEST_F(PolylineClipTest, ALineInsideStaysWhole) {
+    const auto runs = clip({{0.3, 0.4}, {0.5, 0.5}, {0.6, 0.4}});
+    ASSERT_EQ(runs.size(), 1u);
+    EXPECT_EQ(runs[0].points.size(), 3u);
+    EXPECT_NEAR(runs[0].points[0].x, 50, 1e-9);
+    EXPECT_EQ(runs[0].start, 0);
+}
+
+TEST_F(PolylineClipTest, ALineThroughIsCutAtBothEdges) {
+    const auto runs = clip({{0, 0.5}, {1, 0.5}});
+    ASSERT_EQ(runs.size(), 1u);
+    EXPECT_NEAR(runs[0].points.front().x, 0, 1e-9);
+    EXPECT_NEAR(runs[0].points.back().x, 500, 1e-9);
+    EXPECT_NEAR(runs[0].start, 250, 1e-9);
+}
+
+TEST_F(PolylineClipTest, LeavingAndComingBackGivesTwoRuns) {
+    const auto runs = clip({{0.5, 0.5}, {0.5, 0.9}, {0.6, 0.9}, {0.6, 0.5}});
+    ASSERT_EQ(runs.size(), 2u);
+    EXPECT_NEAR(runs[0].points.back().y, 400, 1e-9);
+    EXPECT_NEAR(runs[1].points.front().y, 400, 1e-9);
+    EXPECT_NEAR(runs[1].start, 400 + 100 + 200, 1e-9);
+}
+
+TEST_F(PolylineClipTest, ALineThatPassesByGivesNothing) {
+    EXPECT_TRUE(clip({{0.1, 0.1}, {0.9, 0.1}}).empty());
+    EXPECT_TRUE(clip({{0.0, 0.5}, {0.2, 0.5}}).empty());
+    EXPECT_TRUE(clip({{0.5, 0.5}}).empty());
+}
+
+TEST_F(PolylineClipTest, PointsTooNearToShowAreLeftOutButNeverTheLast) {
+    const auto runs = clip({{0.3, 0.5}, {0.3001, 0.5}, {0.3002, 0.5}, {0.4, 0.5}, {0.4001, 0.5}}, 1);
+    ASSERT_EQ(runs.size(), 1u);
+    EXPECT_EQ(runs[0].points.size(), 3u);
+    EXPECT_NEAR(runs[0].points.back().x, 150.1, 1e-9);
+}
+
+TEST(ClipPolygon, KeepsWhatIsInside) {
+    const auto cut = ClipPolygon({{-1000, -1000}, {5000, -1000}, {5000, 5000}, {-1000, 5000}}, 100, 50, 10);
+    ASSERT_EQ(cut.size(), 4u);
+    for (const PixelPoint& point : cut) {
+        EXPECT_NEAR(std::fabs(point.x - 50), 60, 1e-9);
+        EXPECT_NEAR(std::fabs(point.y - 25), 35, 1e-9);
+    }
+    EXPECT_TRUE(ClipPolygon({{200, 0}, {300, 0}, {300, 50}}, 100, 50, 10).empty());
+    EXPECT_EQ(ClipPolygon({{10, 10}, {20, 10}, {20, 20}}, 100, 50, 10).size(), 3u);
+}
+
+}  // namespace
+}  // namespace Tarvik::Seamap

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "host/plugins/seamap/core/PortTable.h"
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <filesystem>
+
+namespace Tarvik::Seamap {
+namespace {
+
+class PortTableTest : public ::testing::Test {
+  protected:
+    PortTableTest() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "seamap-ports-XXXXXX").string();
+        folder_ = mkdtemp(pattern.data());
+        path_ = (folder_ / "trvdb.db").string();
+    }
+    ~PortTableTest() override { std::filesystem::remove_all(folder_); }
+    void fill() const {
+        sqlite3* database = nullptr;
+        ASSERT_EQ(sqlite3_open(path_.c_str(), &database), SQLITE_OK);
+        EXPECT_EQ(sqlite3_exec(database,
+                               "create table t_point(id,name,x,y,isport,origid);"
+                               "insert into t_point values('1','Rotterdam','4.05','51.98','1','0');"
+                               "insert into t_point values(2,'Suez Canal',32.4,30.5,'0','0');"
+                               "insert into t_point values('3',null,'abc','1','1','0');",
+                               nullptr, nullptr, nullptr),
+                  SQLITE_OK);
+        sqlite3_close(database);
+    }
+    std::filesystem::path folder_;
+    std::string path_;
+};
+
+TEST_F(PortTableTest, FindsPortsAndRoutePointsById) {
+    fill();
+    PortTable ports(path_);
+    const auto* rotterdam = ports.Find("1");
+    ASSERT_NE(rotterdam, nullptr);
+    EXPECT_EQ(rotterdam->text, "1");
+    EXPECT_EQ(rotterdam->name, "Rotterdam");
+    EXPECT_DOUBLE_EQ(rotterdam->x, 4.05);
+    EXPECT_DOUBLE_EQ(rotterdam->y, 51.98);
+    const auto* suez = ports.Find("2");
+    ASSERT_NE(suez, nullptr);
+    EXPECT_DOUBLE_EQ(suez->y, 30.5);
+    EXPECT_EQ(ports.Find("1"), rotterdam) << "an earlier answer stays valid";
+}
+
+TEST_F(PortTableTest, UnknownOrUnreadablePlacesAreNone) {
+    fill();
+    PortTable ports(path_);
+    EXPECT_EQ(ports.Find("4"), nullptr);
+    EXPECT_EQ(ports.Find(""), nullptr);
+    EXPECT_EQ(ports.Find("3"), nullptr);
+}
+
+TEST_F(PortTableTest, AMissingDataBaseIsTriedAgain) {
+    PortTable ports(path_);
+    EXPECT_EQ(ports.Find("1"), nullptr);
+    fill();
+    EXPECT_NE(ports.Find("1"), nullptr);
+}
+
+}  // namespace
+}  // namespace Tarvik::Seamap

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "host/plugins/seamap/widget/BaseLayer.h"
+
+#include <QPainter>
+#include <cmath>
+
+#include "host/plugins/seamap/core/Graticule.h"
+#include "host/plugins/seamap/core/PolylineClip.h"
+
+namespace Tarvik::Seamap {
+
+namespace {
+
+/// Shapes that reach further out of the window than this are cut before they are drawn.
+constexpr double kFarOutside = 4000;
+constexpr double kCutMargin = 16;
+/// The net lies lightly over land and sea.
+constexpr int kGraticuleAlpha = 150;
+/// Pixels between points that are told apart.
+constexpr double kFillDetail = 0;  ///< leaving points out would tear open the seams between cells
+constexpr double kCoastDetail = 0.7;
+
+bool isSeen(const CoastData::Shape& shape, const MercatorView& view, int turn, const QRect& clip) {
+    const PixelPoint upper = view.ToScreen(WorldPoint{shape.minX, shape.minY}, turn);
+    const PixelPoint lower = view.ToScreen(WorldPoint{shape.maxX, shape.maxY}, turn);
+    return lower.x >= clip.left() - 2 && upper.x <= clip.right() + 3 && lower.y >= clip.top() - 2 &&
+           upper.y <= clip.bottom() + 3;
+}
+
+bool reachesFar(const CoastData::Shape& shape, const MercatorView& view, int turn) {
+    const PixelPoint upper = view.ToScreen(WorldPoint{shape.minX, shape.minY}, turn);
+    const PixelPoint lower = view.ToScreen(WorldPoint{shape.maxX, shape.maxY}, turn);
+    return upper.x < -kFarOutside || upper.y < -kFarOutside || lower.x > view.Width() + kFarOutside ||
+           lower.y > view.Height() + kFarOutside;
+}
+
+}  // namespace
+
+void BaseLayer::SetLand(CoastData land) {
+    land_ = std::move(land);
+    picture_ = QPixmap();
+}
+
+const QPixmap& BaseLayer::Picture(const MercatorView& view, const ChartPalette& palette, qreal pixelRatio) {
+    const QSize size = QSize(view.Width(), view.Height()) * pixelRatio;
+    QRegion missing(0, 0, view.Width(), view.Height());
+    const bool same = !picture_.isNull() && picture_.size() == size &&
+                      picture_.devicePixelRatio() == pixelRatio && palette_ == &palette &&
+                      view_.WorldSize() == view.WorldSize() && pixelRatio == std::floor(pixelRatio);
+    if (!same) {
+        picture_ = QPixmap(size);
+        picture_.setDevicePixelRatio(pixelRatio);
+    } else if (!shift(view, missing)) {
+        return picture_;
+    }
+    view_ = view;
+    palette_ = &palette;
+    QPainter painter(&picture_);
+    draw(painter, missing);
+    return picture_;
+}
+
+bool BaseLayer::shift(const MercatorView& view, QRegion& missing) {
+    std::int64_t dx = view_.Left() - view.Left();
+    // The corner is kept within one turn: the shorter way round is the one that was panned.
+    if (dx > view.WorldSize() / 2) dx -= view.WorldSize();
+    if (dx < -view.WorldSize() / 2) dx += view.WorldSize();
+    const std::int64_t dy = view_.Top() - view.Top();
+    if (dx == 0 && dy == 0) return false;
+    if (std::abs(dx) >= view.Width() || std::abs(dy) >= view.Height()) return true;
+    const int x = static_cast<int>(dx), y = static_cast<int>(dy);
+    const int ratio = static_cast<int>(picture_.devicePixelRatio());
+    picture_.scroll(x * ratio, y * ratio, picture_.rect());
+    missing -= QRect(x, y, view.Width(), view.Height());
+    return true;
+}
+
+void BaseLayer::draw(QPainter& painter, const QRegion& region) {
+    for (const QRect& rectangle : region) {
+        clip_ = rectangle;
+        painter.setClipRect(rectangle);
+        painter.fillRect(rectangle, QColor(palette_->sea));
+        drawLand(painter);
+        drawGraticule(painter, rectangle);
+    }
+}
+
+void BaseLayer::drawLand(QPainter& painter) {
+    if (land_.IsEmpty()) return;
+    const CoastData::Level& level = land_.For(view_.WorldSize());
+    drawCells(painter, level);
+    drawCoasts(painter, level);
+}
+
+void BaseLayer::drawCells(QPainter& painter, const CoastData::Level& level) {
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(palette_->land));
+    for (const CoastData::Shape& shape : level.cells) {
+        const auto turns = view_.TurnsOf(shape.minX, shape.maxX);
+        for (int turn = turns.first; turn <= turns.last; ++turn) {
+            if (!isSeen(shape, view_, turn, clip_)) continue;
+            trace(level.PointsOf(shape), turn, kFillDetail);
+            if (reachesFar(shape, view_, turn)) cutTrace();
+            painter.drawPolygon(trace_.data(), static_cast<int>(trace_.size()));
+        }
+    }
+}
+
+void BaseLayer::drawCoasts(QPainter& painter, const CoastData::Level& level) {
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(palette_->coast), 0));
+    for (const CoastData::Shape& shape : level.coasts) {
+        const auto turns = view_.TurnsOf(shape.minX, shape.maxX);
+        for (int turn = turns.first; turn <= turns.last; ++turn) {
+            if (!isSeen(shape, view_, turn, clip_)) continue;
+            if (reachesFar(shape, view_, turn)) {
+                drawLongCoast(painter, level.PointsOf(shape), turn);
+                continue;
+            }
+            trace(level.PointsOf(shape), turn, kCoastDetail);
+            painter.drawPolyline(trace_.data(), static_cast<int>(trace_.size()));
+        }
+    }
+}
+
+void BaseLayer::drawLongCoast(QPainter& painter, std::span<const WorldPoint> points, int turn) {
+    for (const PolylineRun& run : ClipPolyline(points, view_, turn, kCutMargin, kCoastDetail)) {
+        trace_.clear();
+        for (const PixelPoint& point : run.points) trace_.emplace_back(point.x, point.y);
+        painter.drawPolyline(trace_.data(), static_cast<int>(trace_.size()));
+    }
+}
+
+void BaseLayer::trace(std::span<const WorldPoint> points, int turn, double detail) {
+    trace_.clear();
+    const auto size = static_cast<double>(view_.WorldSize());
+    const double left = static_cast<double>(view_.Left()) - turn * size;
+    const auto top = static_cast<double>(view_.Top());
+    const double least = detail * detail;
+    QPointF last;
+    for (const WorldPoint& point : points) {
+        const QPointF here(point.x * size - left, point.y * size - top);
+        const QPointF step = here - last;
+        if (!trace_.empty() && QPointF::dotProduct(step, step) < least && &point != &points.back()) continue;
+        trace_.push_back(here);
+        last = here;
+    }
+}
+
+void BaseLayer::cutTrace() {
+    std::vector<PixelPoint> points;
+    points.reserve(trace_.size());
+    for (const QPointF& point : trace_) points.push_back({point.x(), point.y()});
+    trace_.clear();
+    for (const PixelPoint& point : ClipPolygon(std::move(points), view_.Width(), view_.Height(), kCutMargin))
+        trace_.emplace_back(point.x, point.y);
+}
+
+void BaseLayer::drawGraticule(QPainter& painter, const QRect& bounds) const {
+    const Graticule net(view_);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    QColor colour(palette_->graticule);
+    colour.setAlpha(kGraticuleAlpha);
+    painter.setPen(QPen(colour, 0));
+    for (const GraticuleLine& line : net.Meridians()) {
+        const int x = static_cast<int>(std::lround(line.pixel));
+        painter.drawLine(x, bounds.top(), x, bounds.bottom());
+    }
+    for (const GraticuleLine& line : net.Parallels()) {
+        const int y = static_cast<int>(std::lround(line.pixel));
+        painter.drawLine(bounds.left(), y, bounds.right(), y);
+    }
+}
+
+}  // namespace Tarvik::Seamap

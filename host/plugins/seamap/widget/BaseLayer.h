@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPixmap>
+#include <QRegion>
+#include <span>
+#include <vector>
+
+#include "host/plugins/seamap/core/ChartPalette.h"
+#include "host/plugins/seamap/core/CoastData.h"
+#include "host/plugins/seamap/core/MercatorView.h"
+
+class QPainter;
+
+namespace Tarvik::Seamap {
+
+/// Sea, land, coast and the lines of the graticule, kept as a picture: while the view is panned the picture
+/// is shifted and only the strips that come into sight are drawn.
+class BaseLayer {
+  public:
+    void SetLand(CoastData land);
+    /// The picture of the view; drawn anew as far as needed.
+    const QPixmap& Picture(const MercatorView& view, const ChartPalette& palette, qreal pixelRatio);
+
+  private:
+    bool shift(const MercatorView& view, QRegion& missing);
+    void draw(QPainter& painter, const QRegion& region);
+    void drawLand(QPainter& painter);
+    void drawCells(QPainter& painter, const CoastData::Level& level);
+    void drawCoasts(QPainter& painter, const CoastData::Level& level);
+    /// A shore that reaches so far out of the window that it is cut first.
+    void drawLongCoast(QPainter& painter, std::span<const WorldPoint> points, int turn);
+    /// Brings points into the window's pixels, without those too near to their predecessor.
+    void trace(std::span<const WorldPoint> points, int turn, double detail);
+    void cutTrace();
+    void drawGraticule(QPainter& painter, const QRect& bounds) const;
+
+    CoastData land_;
+    MercatorView view_;
+    const ChartPalette* palette_ = nullptr;
+    QPixmap picture_;
+    QRect clip_;                  ///< the strip being drawn
+    std::vector<QPointF> trace_;  ///< the shape being drawn, in pixels
+};
+
+}  // namespace Tarvik::Seamap

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/plugins/seamap/core/ChartPalette.h"
+#include "host/plugins/seamap/core/MercatorView.h"
+
+class QPainter;
+
+namespace Tarvik::Seamap {
+
+class HaloTexts;
+
+/// What stands on the glass before the chart: the names of meridians and parallels along the edges and the
+/// scale bar.
+class Furniture {
+  public:
+    Furniture(const MercatorView& view, const ChartPalette& palette, HaloTexts& texts)
+        : view_(view), palette_(palette), texts_(texts) {}
+    void Draw(QPainter& painter) const;
+
+  private:
+    void drawNames(QPainter& painter) const;
+    void drawScaleBar(QPainter& painter) const;
+
+    const MercatorView& view_;
+    const ChartPalette& palette_;
+    HaloTexts& texts_;
+};
+
+}  // namespace Tarvik::Seamap

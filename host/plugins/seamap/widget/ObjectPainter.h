@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRectF>
+#include <vector>
+
+#include "host/plugins/seamap/core/ChartObjects.h"
+#include "host/plugins/seamap/core/ChartPalette.h"
+#include "host/plugins/seamap/core/MercatorView.h"
+
+class QPainter;
+
+namespace Tarvik::Seamap {
+
+class HaloTexts;
+class ImageStore;
+
+/// Draws the objects of the chart: lines below, then points and images, then the texts that find room.
+class ObjectPainter {
+  public:
+    ObjectPainter(QPainter& painter, const MercatorView& view, const ChartPalette& palette,
+                  ImageStore& images, HaloTexts& texts, qreal pixelRatio)
+        : painter_(painter),
+          view_(view),
+          palette_(palette),
+          images_(images),
+          texts_(texts),
+          pixelRatio_(pixelRatio) {}
+
+    /// `highlighted` is the object under the pointer, null without one.
+    void Draw(const ChartObjects& objects, const ObjectKey* highlighted);
+
+  private:
+    struct Stroke {
+        const ChartLine* line;
+        bool highlighted;
+    };
+    void drawLines(const std::vector<Stroke>& lines);
+    void drawLine(const Stroke& stroke, bool thin);
+    void drawRun(const std::vector<PixelPoint>& points);
+    void drawPoint(const ChartLabel& label, bool highlighted);
+    void drawImage(const ChartObjects& objects, const ChartImage& image, bool highlighted);
+    void drawText(const ChartLabel& label, bool always);
+    bool isSeen(PixelPoint centre) const;
+
+    QPainter& painter_;
+    const MercatorView& view_;
+    const ChartPalette& palette_;
+    ImageStore& images_;
+    HaloTexts& texts_;
+    qreal pixelRatio_;
+    std::vector<QRectF> taken_;  ///< where points, images and texts stand
+};
+
+}  // namespace Tarvik::Seamap

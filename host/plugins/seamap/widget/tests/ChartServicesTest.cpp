@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: MIT
+#include "host/plugins/seamap/widget/ChartServices.h"
+
+#include <gtest/gtest.h>
+#include <tarvik/core/BusBlock.h>
+
+#include <QTest>
+#include <memory>
+
+#include "host/plugins/seamap/SeamapContract.h"
+
+namespace Tarvik::Seamap {
+namespace {
+
+namespace Chart = Interface::Bus;
+using Interface::Call;
+
+/// Hears an event and keeps what it carried.
+struct Listener : Core::TObject {
+    void* Hear(void* input) {
+        ids.push_back(*static_cast<const std::string*>(input));
+        return nullptr;
+    }
+    void* HearPlace(void* input) {
+        const auto* place = static_cast<const double*>(input);
+        places.push_back({place[0], place[1]});
+        return nullptr;
+    }
+    std::vector<std::string> ids;
+    std::vector<GeoPoint> places;
+    Core::TEvent delegate;
+};
+
+class ChartServicesTest : public ::testing::Test {
+  protected:
+    ChartServicesTest() {
+        Core::TrvKernel::Instance()->Reset();
+        services_ = std::make_unique<ChartServices>(ChartServices::Paths{"missing.db", "missing.bin"});
+    }
+    ~ChartServicesTest() override {
+        services_.reset();
+        Core::TrvKernel::Instance()->Reset();
+    }
+    ChartWidget& chart() {
+        ChartWidget* widget = services_->Widget();
+        widget->setProperty("pictures", true);
+        widget->resize(800, 500);
+        widget->show();
+        return *widget;
+    }
+    static Interface::TrvMapExtent extent() {
+        Interface::TrvMapExtent* block = Call<void>(Chart::MapGetExtent, nullptr);
+        const Interface::TrvMapExtent copy = *block;
+        Core::FreeBusBlock(block);
+        return copy;
+    }
+    static void setExtent(const Interface::TrvMapExtent& value) { Call(Chart::MapSetExtent, &value); }
+    static void addLabel(const std::string& id, const std::string& type) {
+        const Interface::TrvMapPointParams point{
+            {"VOYAGE", id, type}, "Suez", "32,30", 0, "circle", 0x9664FF, 3};
+        Call(Chart::MapAddPointLabel, &point);
+    }
+    static bool command(const std::string& text) { return Call(Bus::Command, &text) != nullptr; }
+    static void expectHolds(const Interface::TrvMapExtent& shown, double w, double s, double e, double n) {
+        EXPECT_LE(shown.first, w);
+        EXPECT_LE(shown.second, s);
+        EXPECT_GE(shown.third, e);
+        EXPECT_GE(shown.fourth, n);
+    }
+
+    std::unique_ptr<ChartServices> services_;
+};
+
+TEST_F(ChartServicesTest, ObjectsComeAndGoOverTheBus) {
+    Interface::TrvMapLayerParams layer;
+    layer.layer = "VOYAGE";
+    Call(Chart::MapAddLayer, &std::as_const(layer));
+    const Interface::TrvMapLineParams line{
+        {"VOYAGE", "_0", "VOYLINETYPE"}, {"0,0", "10,10"}, 0x6464E9, 2, "solid"};
+    Call(Chart::MapAddLine, &line);
+    addLabel("7", "VOYAGETYPE");
+    const Interface::TrvMapImageReg image{"AIS_Ship", "/nowhere/ship.png"};
+    Call(Chart::MapRegisterImage, &image);
+    const Interface::TrvMapImageParams ship{{"VOYAGE", "v1", "AISSHIPTYPE"}, "AIS_Ship", "5,5"};
+    Call(Chart::MapAddImage, &ship);
+    const ChartObjects& objects = services_->Objects();
+    EXPECT_TRUE(objects.HasLayer("VOYAGE"));
+    EXPECT_EQ(objects.Count(), 3u);
+    EXPECT_NE(objects.Find({"VOYAGE", "VOYLINETYPE", "_0"}), nullptr);
+    EXPECT_NE(objects.Find({"VOYAGE", "AISSHIPTYPE", "v1"}), nullptr);
+    EXPECT_EQ(objects.ImagePath("AIS_Ship"), "/nowhere/ship.png");
+
+    const Interface::TrvMapObjectRef type{"VOYAGE", "", "VOYAGETYPE"};
+    Call(Chart::MapDeleteObjectsByType, &type);
+    EXPECT_EQ(objects.Find({"VOYAGE", "VOYAGETYPE", "7"}), nullptr);
+    Interface::TrvMapObjectRef refs[] = {{"", "v1", "AISSHIPTYPE"}, {"", "v1_0", "AISSHIPTYPE"}};
+    const Interface::TrvMapObjectList list{"VOYAGE", refs, 2};
+    Call(Chart::MapDeleteObjects, &list);
+    EXPECT_EQ(objects.Count(), 1u);
+    const std::string name = "VOYAGE";
+    Call(Chart::MapRemoveLayer, &name);
+    EXPECT_EQ(objects.Count(), 0u);
+    EXPECT_FALSE(objects.HasLayer("VOYAGE"));
+}
+
+TEST_F(ChartServicesTest, AClickRaisesTheEventOfTheTypeWithTheId) {
+    Listener listener;
+    listener.delegate.Set<&Listener::Hear>(&listener);
+    auto* kernel = Core::TrvKernel::Instance();
+    kernel->CreateTrvEvent(Chart::ClickVoyageType.name, &listener, "", "", nullptr);
+    kernel->BindTrvEvent(Chart::ClickVoyageType.name, &listener.delegate);
+    ChartWidget& widget = chart();
+    addLabel("7", "VOYAGETYPE");
+    const PixelPoint pixel = widget.View().ToScreen(GeoPoint{32, 30});
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, {qRound(pixel.x), qRound(pixel.y)});
+    EXPECT_EQ(listener.ids, std::vector<std::string>{"7"});
+    addLabel("8", "RPOINTTYPE");
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, {qRound(pixel.x), qRound(pixel.y)});
+    EXPECT_EQ(listener.ids.size(), 1u) << "the upper object is of another type";
+    kernel->UnBindTrvEvent(Chart::ClickVoyageType.name, &listener.delegate);
+}
+
+TEST_F(ChartServicesTest, ThePointerRaisesItsPlace) {
+    Listener listener;
+    listener.delegate.Set<&Listener::HearPlace>(&listener);
+    Core::TrvKernel::Instance()->BindTrvEvent(Bus::Cursor.name, &listener.delegate);
+    ChartWidget& widget = chart();
+    const GeoPoint place = widget.View().ToGeo({200, 100});
+    QTest::mouseMove(&widget, {200, 100});
+    ASSERT_FALSE(listener.places.empty());
+    EXPECT_NEAR(listener.places.back().lon, place.lon, 1e-9);
+    EXPECT_NEAR(listener.places.back().lat, place.lat, 1e-9);
+    Core::TrvKernel::Instance()->UnBindTrvEvent(Bus::Cursor.name, &listener.delegate);
+}
+
+TEST_F(ChartServicesTest, TheExtentIsReadInEitherCornerOrder) {
+    chart();
+    setExtent({126, 60, 90, 20});
+    const auto first = extent();
+    expectHolds(first, 90, 20, 126, 60);
+    setExtent({-10, -10, 10, 10});
+    expectHolds(extent(), -10, -10, 10, 10);
+    EXPECT_LT(extent().third, 90);
+    setExtent({90, 20, 126, 60});
+    EXPECT_EQ(extent().first, first.first);
+    EXPECT_EQ(extent().fourth, first.fourth);
+}
+
+TEST_F(ChartServicesTest, TheExtentBlockBelongsToTheCaller) {
+    const long before = Core::LiveBusBlocks();
+    Interface::TrvMapExtent* one = Call<void>(Chart::MapGetExtent, nullptr);
+    Interface::TrvMapExtent* two = Call<void>(Chart::MapGetExtent, nullptr);
+    EXPECT_NE(one, two);
+    EXPECT_EQ(Core::LiveBusBlocks(), before + 2);
+    Core::FreeBusBlock(one);
+    Core::FreeBusBlock(two);
+    EXPECT_EQ(Core::LiveBusBlocks(), before);
+}
+
+TEST_F(ChartServicesTest, AnExtentAskedForBeforeTheWindowIsShownThen) {
+    EXPECT_EQ(extent().first, -180);
+    setExtent({100, -10, 140, 30});
+    EXPECT_EQ(extent().first, 100);
+    ChartWidget& widget = chart();
+    expectHolds(extent(), 100, -10, 140, 30);
+    EXPECT_LT(widget.Shown().Width(), 180);
+}
+
+TEST_F(ChartServicesTest, TheWidgetServiceAnswersTheOneWindow) {
+    QWidget* first = Call<void>(Bus::Widget, nullptr);
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->objectName(), "chart");
+    EXPECT_EQ(Call<void>(Bus::Widget, nullptr), first);
+}
+
+TEST_F(ChartServicesTest, AWindowClosedByItsParentIsMadeAnew) {
+    auto parent = std::make_unique<QWidget>();
+    Call<void>(Bus::Widget, nullptr)->setParent(parent.get());
+    parent.reset();
+    addLabel("7", "VOYAGETYPE");
+    QWidget* again = Call<void>(Bus::Widget, nullptr);
+    ASSERT_NE(again, nullptr);
+    EXPECT_FALSE(again->grab().isNull());
+}
+
+TEST_F(ChartServicesTest, CommandsZoomFitAndSetTheTheme) {
+    ChartWidget& widget = chart();
+    const auto size = widget.View().WorldSize();
+    EXPECT_TRUE(command("zoomin"));
+    EXPECT_GT(widget.View().WorldSize(), size);
+    EXPECT_TRUE(command("zoomout"));
+    EXPECT_TRUE(command("zoomout"));
+    EXPECT_LT(widget.View().WorldSize(), size);
+    addLabel("7", "VOYAGETYPE");
+    EXPECT_TRUE(command("fit"));
+    EXPECT_LT(widget.Shown().Width(), 10);
+    EXPECT_TRUE(command("theme night"));
+    EXPECT_EQ(widget.Theme(), ChartPalette::Theme::Night);
+    for (const char* unknown : {"", "theme", "theme blue", "zoom", "Fit"})
+        EXPECT_FALSE(command(unknown)) << unknown;
+}
+
+TEST_F(ChartServicesTest, AThemeSetBeforeTheWindowHolds) {
+    EXPECT_TRUE(command("theme dark"));
+    EXPECT_EQ(services_->Widget()->Theme(), ChartPalette::Theme::Dark);
+}
+
+TEST_F(ChartServicesTest, EmptyPayloadsAndUnknownPortsAreAnsweredWithNothing) {
+    for (const char* name :
+         {Chart::MapAddLayer.name, Chart::MapRemoveLayer.name, Chart::MapAddLine.name,
+          Chart::MapAddPointLabel.name, Chart::MapAddImage.name, Chart::MapRegisterImage.name,
+          Chart::MapDeleteObjects.name, Chart::MapDeleteObjectsByType.name, Chart::MapSetExtent.name,
+          Chart::MapGetPort.name, Bus::Command.name}) {
+        void* result = nullptr;
+        EXPECT_TRUE(Core::TrvKernel::Instance()->CallTrvService(name, nullptr, result)) << name;
+        EXPECT_EQ(result, nullptr) << name;
+    }
+    const std::string id = "1";
+    EXPECT_EQ(Call(Chart::MapGetPort, &id), nullptr);
+}
+
+TEST_F(ChartServicesTest, TakesEverythingBackAtTheEnd) {
+    std::vector<std::string> notices;
+    auto* kernel = Core::TrvKernel::Instance();
+    kernel->SetObserver([&](Core::KernelNotice, const std::string& name) { notices.push_back(name); });
+    services_.reset();
+    kernel->SetObserver({});
+    EXPECT_TRUE(notices.empty());
+    EXPECT_FALSE(kernel->IsBound(Chart::MapAddLine.name));
+    EXPECT_FALSE(kernel->IsBound(Bus::Widget.name));
+}
+
+}  // namespace
+}  // namespace Tarvik::Seamap

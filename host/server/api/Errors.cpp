@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/api/Errors.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace Tarvik::Server {
+namespace {
+
+struct ErrorRow {
+    ErrorCode code;
+    std::string_view text;
+};
+
+constexpr ErrorRow kErrors[] = {
+    {ErrorCode::BadJson, "the request does not parse"},
+    {ErrorCode::MissingValue, "a required value is missing or is not a text"},
+    {ErrorCode::UnknownCommand, "there is no such command"},
+    {ErrorCode::UnknownOperation, "the command has no such operation"},
+    {ErrorCode::EmptyName, "a name must not be empty"},
+    {ErrorCode::TextTooLong, "a text is too long"},
+    {ErrorCode::BadText, "a text holds a zero byte"},
+    {ErrorCode::BadNumber, "a number does not parse or is out of range"},
+    {ErrorCode::BadTime, "a time is not of the form YYYY-MM-DD hh:mm:ss"},
+    {ErrorCode::BadRow, "a row does not have the right form"},
+    {ErrorCode::BadPurpose, "there is no such purpose"},
+    {ErrorCode::NoRows, "the request holds no rows"},
+    {ErrorCode::TooManyRows, "the request holds too many rows"},
+    {ErrorCode::RequestTooLong, "the request is too long"},
+    {ErrorCode::OtherUser, "the request names another user"},
+    {ErrorCode::NoUser, "nobody is logged in"},
+    {ErrorCode::UnknownCategory, "there is no such category"},
+    {ErrorCode::UnknownVoyage, "there is no such voyage"},
+    {ErrorCode::UnknownBook, "there is no such position book"},
+    {ErrorCode::UnknownRemark, "there is no such remark"},
+    {ErrorCode::UnknownObject, "there is no such object"},
+    {ErrorCode::NotInUse, "only what is in use can go to the recycle bin"},
+    {ErrorCode::NotInBin, "only what is in the recycle bin can be recovered or destroyed"},
+    {ErrorCode::CategoryNotInUse, "the category is in the recycle bin"},
+    {ErrorCode::BookExists, "the voyage has a position book already"},
+    {ErrorCode::NothingToAppendTo, "the position book has no rows to append to"},
+    {ErrorCode::RowExists, "a row's number is taken"},
+    {ErrorCode::RemarkExists, "a remark of this number exists already"},
+    {ErrorCode::StorageFailed, "the data could not be stored or read"},
+    {ErrorCode::Internal, "the server failed"},
+};
+
+/// In the order of FaultReason.
+constexpr std::array kFaultCodes = {
+    ErrorCode::UnknownCategory,   ErrorCode::UnknownVoyage,    ErrorCode::UnknownBook,
+    ErrorCode::UnknownRemark,     ErrorCode::UnknownObject,    ErrorCode::NotInUse,
+    ErrorCode::NotInBin,          ErrorCode::CategoryNotInUse, ErrorCode::BookExists,
+    ErrorCode::NothingToAppendTo, ErrorCode::RowExists,        ErrorCode::RemarkExists,
+    ErrorCode::StorageFailed,
+};
+static_assert(kFaultCodes.size() == static_cast<std::size_t>(FaultReason::StorageFailed) + 1);
+
+}  // namespace
+
+std::string_view TextOf(ErrorCode code) {
+    const auto* row = std::find_if(std::begin(kErrors), std::end(kErrors),
+                                   [code](const ErrorRow& candidate) { return candidate.code == code; });
+    return row == std::end(kErrors) ? TextOf(ErrorCode::Internal) : row->text;
+}
+
+ErrorCode CodeOf(FaultReason reason) {
+    return kFaultCodes[static_cast<std::size_t>(reason)];
+}
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/storage/contract/Outcome.h"
+
+#include <string>
+#include <string_view>
+
+namespace Tarvik::Server {
+
+/// The `eid` of every reply that refuses a request. Numbers are part of the protocol: they never change their
+/// meaning.
+enum class ErrorCode : int {
+    BadJson = 1,
+    MissingValue = 2,
+    UnknownCommand = 3,
+    UnknownOperation = 4,
+    EmptyName = 5,
+    TextTooLong = 6,
+    BadText = 7,
+    BadNumber = 8,
+    BadTime = 9,
+    BadRow = 10,
+    BadPurpose = 11,
+    NoRows = 12,
+    TooManyRows = 13,
+    RequestTooLong = 14,
+    OtherUser = 20,
+    NoUser = 21,
+    UnknownCategory = 30,
+    UnknownVoyage = 31,
+    UnknownBook = 32,
+    UnknownRemark = 33,
+    UnknownObject = 34,
+    NotInUse = 40,
+    NotInBin = 41,
+    CategoryNotInUse = 42,
+    BookExists = 43,
+    NothingToAppendTo = 44,
+    RowExists = 45,
+    RemarkExists = 46,
+    StorageFailed = 50,
+    Internal = 51,
+};
+
+/// What the code says, in English, without a full stop.
+std::string_view TextOf(ErrorCode code);
+
+/// The code that a fault of the storage goes out as.
+ErrorCode CodeOf(FaultReason reason);
+
+}  // namespace Tarvik::Server

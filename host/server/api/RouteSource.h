@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Tarvik::Server {
+
+/// What answers the two route commands. Both take the request text and give the reply text, which is a status
+/// object with `eid` not 0 and a reason when the request cannot be answered.
+class RouteSource {
+  public:
+    virtual ~RouteSource() = default;
+
+    /// The sea route along a list of points.
+    virtual std::string Plan(std::string_view requestJson) = 0;
+    /// The points from the route point nearest to a position to a port.
+    virtual std::string Nearest(std::string_view requestJson) = 0;
+};
+
+}  // namespace Tarvik::Server

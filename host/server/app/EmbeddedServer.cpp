@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/app/EmbeddedServer.h"
+
+#include "host/server/api/Replies.h"
+
+#include <string_view>
+#include <utility>
+
+namespace Tarvik::Server {
+
+EmbeddedServer::EmbeddedServer(std::unique_ptr<SqliteStorage> storage, std::unique_ptr<RouteSource> routes)
+    : storage_(std::move(storage)), routes_(std::move(routes)), service_(*storage_, *routes_) {}
+
+std::unique_ptr<EmbeddedServer> EmbeddedServer::Open(const std::string& dbPath,
+                                                     std::unique_ptr<RouteSource> routes,
+                                                     std::string& error) {
+    if (routes == nullptr) {
+        error = "there is no source of routes";
+        return nullptr;
+    }
+    auto storage = SqliteStorage::Open(dbPath, error);
+    if (storage == nullptr) return nullptr;
+    return std::unique_ptr<EmbeddedServer>(new EmbeddedServer(std::move(storage), std::move(routes)));
+}
+
+std::string EmbeddedServer::Exchange(const std::string& user, const Interface::VoyServerRequest* request) {
+    if (request == nullptr) return Replies::Error(ErrorCode::BadJson, "there is no request");
+    if (request->length > Interface::kMaxPayloadBytes) return Replies::Error(ErrorCode::RequestTooLong, {});
+    std::string_view text(request->Payload(), request->length);
+    if (text.ends_with('\0')) text.remove_suffix(1);
+    return service_.Handle(user, request->moduleWord, request->command, text);
+}
+
+}  // namespace Tarvik::Server

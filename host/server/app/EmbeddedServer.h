@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/api/VoyageService.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+
+#include <tarvik/interface/ServerRequest.h>
+
+#include <memory>
+#include <string>
+
+namespace Tarvik::Server {
+
+/// The whole voyage server inside one process, on one data base file.
+class EmbeddedServer {
+  public:
+    /// Opens or makes the data base. Null, with an English text in `error`, when that fails or `routes` is
+    /// null.
+    static std::unique_ptr<EmbeddedServer> Open(const std::string& dbPath,
+                                                std::unique_ptr<RouteSource> routes, std::string& error);
+
+    /// The reply text to one request block, whose payload may end with a NUL. A payload longer than
+    /// kMaxPayloadBytes gets an error reply. Safe to call from any thread as far as the route source is;
+    /// never throws.
+    std::string Exchange(const std::string& user, const Interface::VoyServerRequest* request);
+
+    /// The service without the envelope.
+    VoyageService& Service() { return service_; }
+
+  private:
+    EmbeddedServer(std::unique_ptr<SqliteStorage> storage, std::unique_ptr<RouteSource> routes);
+
+    std::unique_ptr<SqliteStorage> storage_;
+    std::unique_ptr<RouteSource> routes_;
+    VoyageService service_;
+};
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace Tarvik::Server {
+
+/// A way out of a node.
+struct Arc {
+    uint32_t to = 0;
+    uint32_t edge = 0;
+    float nm = 0.0F;
+};
+
+/// The arcs of every node, packed.
+struct ArcTable {
+    std::vector<uint32_t> start;  ///< one more than there are nodes
+    std::vector<Arc> arcs;
+};
+
+/// Lower bounds for the search: the distance of every node to a few nodes far apart, over all edges.
+///
+/// By the triangle inequality |d(L,a) - d(L,b)| never exceeds the way from a to b; forbidding edges only
+/// lengthens ways, so the bounds hold whatever is forbidden.
+class Landmarks {
+  public:
+    Landmarks() = default;
+    Landmarks(const ArcTable& table, size_t count);
+
+    /// A lower bound of the way from a to b in nautical miles; 0 when nothing better is known, infinite
+    /// when a landmark reaches only one of them.
+    float bound(uint32_t a, uint32_t b) const;
+
+  private:
+    size_t count_ = 0;
+    std::vector<float> distances_;  // node-major
+};
+
+/// Distances in nautical miles from one node to all; infinite where there is no way.
+std::vector<float> distancesFrom(const ArcTable& table, uint32_t node);
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/graph/PathSearch.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <queue>
+
+namespace Tarvik::Server {
+namespace {
+
+/// Edge lengths are rounded to 32 bits, so the great-circle bound is lowered by more than that rounding.
+constexpr double kBoundFactor = 0.999999;
+constexpr uint32_t kNone = std::numeric_limits<uint32_t>::max();
+
+struct OpenNode {
+    float estimate;
+    float nm;
+    uint32_t node;
+    bool operator<(const OpenNode& other) const { return estimate > other.estimate; }
+};
+
+struct Label {
+    float nm = std::numeric_limits<float>::infinity();
+    uint32_t edge = kNone;
+};
+
+float boundTo(const SeaNetwork& network, uint32_t node, uint32_t to) {
+    const auto straight = static_cast<float>(arcNm(network.vector(node), network.vector(to)) * kBoundFactor);
+    // The table's sums are rounded as well; a mile of slack keeps the bound below the true way.
+    return std::max(straight, network.landmarks().bound(node, to) - 1.0F);
+}
+
+NodePath walkBack(const SeaNetwork& network, const std::vector<Label>& labels, uint32_t from, uint32_t to) {
+    NodePath path;
+    path.nm = labels[to].nm;
+    path.nodes.push_back(to);
+    for (uint32_t at = to; at != from;) {
+        const NetworkEdge& edge = network.data().edges[labels[at].edge];
+        path.edges.push_back(labels[at].edge);
+        at = edge.a == at ? edge.b : edge.a;
+        path.nodes.push_back(at);
+    }
+    std::reverse(path.nodes.begin(), path.nodes.end());
+    std::reverse(path.edges.begin(), path.edges.end());
+    return path;
+}
+
+}  // namespace
+
+std::optional<NodePath> findPath(const SeaNetwork& network, uint32_t from, uint32_t to,
+                                 const GateMask& forbidden) {
+    const NetworkData& data = network.data();
+    std::vector<char> blocked(data.masks.size());
+    for (size_t i = 0; i < blocked.size(); ++i) blocked[i] = (data.masks[i] & forbidden).any() ? 1 : 0;
+    std::vector<Label> labels(data.nodes.size());
+    std::priority_queue<OpenNode> open;
+    // An infinite bound tells that no way at all joins the two.
+    if (!std::isfinite(boundTo(network, from, to))) return std::nullopt;
+    labels[from].nm = 0.0F;
+    open.push({boundTo(network, from, to), 0.0F, from});
+    while (!open.empty()) {
+        const OpenNode at = open.top();
+        open.pop();
+        if (at.node == to) return walkBack(network, labels, from, to);
+        if (at.nm > labels[at.node].nm) continue;
+        for (const Arc& arc : network.arcs(at.node)) {
+            const float nm = at.nm + arc.nm;
+            if (nm >= labels[arc.to].nm || blocked[data.edges[arc.edge].mask] != 0) continue;
+            const float bound = boundTo(network, arc.to, to);
+            if (!std::isfinite(bound)) continue;
+            labels[arc.to] = {nm, arc.edge};
+            open.push({nm + bound, nm, arc.to});
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace Tarvik::Server

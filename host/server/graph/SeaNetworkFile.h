@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "host/server/graph/NetworkData.h"
+
+namespace Tarvik::Server {
+
+/// Reads and writes the sea network's file.
+///
+/// Layout, little-endian: the 8 bytes "SEANET01", the payload's length (u64), its FNV-1a sum (u64), the
+/// payload. In the payload every list is its count (u32) and its items, every text its length (u32) and its
+/// bytes; positions are two i32 in units of 1e-5 degrees. The order is nodes, edges, masks, route points,
+/// ports, land rings.
+class SeaNetworkFile {
+  public:
+    /// Writes the file; returns an error text, empty on success.
+    static std::string write(const std::string& path, const NetworkData& data);
+
+    /// The network, or nothing and `error` set when the file is missing, foreign, cut, damaged or
+    /// inconsistent.
+    static std::optional<NetworkData> read(const std::string& path, std::string& error);
+
+    static std::string encode(const NetworkData& data);
+    static std::optional<NetworkData> decode(const std::string& bytes, std::string& error);
+};
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/storage/sqlite/SqliteDatabase.h"
+
+#include "host/server/storage/sqlite/SqliteStatement.h"
+
+#include <sqlite3.h>
+
+namespace Tarvik::Server {
+namespace {
+
+constexpr int kBusyMilliseconds = 10000;
+
+}  // namespace
+
+SqliteDatabase::SqliteDatabase(const std::string& path) {
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
+    if (sqlite3_open_v2(path.c_str(), &handle_, flags, nullptr) == SQLITE_OK) {
+        sqlite3_extended_result_codes(handle_, 1);
+        sqlite3_busy_timeout(handle_, kBusyMilliseconds);
+        return;
+    }
+    const std::string text = handle_ != nullptr ? sqlite3_errmsg(handle_) : "out of memory";
+    sqlite3_close_v2(handle_);
+    throw SqliteError("cannot open the data base: " + text);
+}
+
+SqliteDatabase::~SqliteDatabase() {
+    sqlite3_close_v2(handle_);
+}
+
+void SqliteDatabase::Execute(std::string_view sql) {
+    if (sqlite3_exec(handle_, std::string(sql).c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
+        Throw("the data base refused a change");
+    }
+}
+
+std::int64_t SqliteDatabase::QueryInteger(std::string_view sql) {
+    SqliteStatement statement(*this, sql);
+    if (!statement.Step()) throw SqliteError("the data base gave no row where one was expected");
+    return statement.Integer(0);
+}
+
+int SqliteDatabase::Changes() const {
+    return sqlite3_changes(handle_);
+}
+
+bool SqliteDatabase::InTransaction() const {
+    return sqlite3_get_autocommit(handle_) == 0;
+}
+
+bool SqliteDatabase::ReadOnly() const {
+    return sqlite3_db_readonly(handle_, "main") == 1;
+}
+
+void SqliteDatabase::Throw(std::string_view doing) const {
+    throw SqliteError(std::string(doing) + ": " + sqlite3_errmsg(handle_));
+}
+
+}  // namespace Tarvik::Server

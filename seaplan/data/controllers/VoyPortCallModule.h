@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/calculation/LegCacheText.h"
+#include "seaplan/calculation/PointTables.h"
+#include "seaplan/chart/VoyageLayer.h"
+#include "seaplan/data/VoyInfo.h"
+#include "seaplan/data/VoyageStore.h"
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+
+#include <map>
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+/// A voyage's schedule on the server, its route and its place on the chart: composes the protocol's commands,
+/// the calculation's functions and the chart layer. Results: 0 or the negative number of the failed step.
+class VoyPortCallModule : public Core::TObject {
+  public:
+    explicit VoyPortCallModule(VoyageStore* store);
+    ~VoyPortCallModule() override;
+    static VoyPortCallModule* Instance();
+
+    // Server
+    int LoadPortCalls(const std::string& vi, PortCallRows& rows);
+    int LoadPositionBook(const std::string& vi, VoyPositionBook& book);
+    int EnsurePositionBook(const std::string& vi, const std::string& date, std::string& id);
+    int SetPositionBookDate(const std::string& id, const std::string& date);
+    int SavePositionBookRows(const std::string& id, const BookPoints& rows);
+    int SavePortCalls(const std::string& vi, PortCallRows& rows);
+    int SaveFigures(const std::string& vi, const BunkerFigures& figures);
+
+    // Routes
+    /// Route of the rows into `results` and the current stops; -5 when stops and rows differ in number.
+    int GetRoute(const PortCallRows& rows, PortCallRows& results, bool wholeList);
+    int GetStopsByCache(const PortCallRows& rows, RouteStops& out);
+    int LoadCache(const std::string& name, LegCache& cache);
+    int SaveCache(const std::string& name, const LegCache& cache);
+    const RouteStops& CurrentStops() const { return stops_; }
+    void ClearCurrentStops() { stops_.clear(); }
+    /// Book rows of the current stops; codes of BookFromStops, -2 when the route points cannot be read.
+    int BookFromCurrentStops(BookPoints& rows);
+
+    // Chart
+    VoyageLayer& Layer() { return layer_; }
+    int DrawCurrentRoute();
+    int DrawBook(const VoyInfo& voyage);
+    /// The voyage as lines sailed and remaining with the ship where the plan has it now.
+    int DrawPlannedProgress(const VoyInfo& voyage);
+
+  private:
+    void bindClicks();
+    void* onRoutePointClicked(void* id);
+    void* onAlternativeClicked(void* id);
+    int showAlternatives(const std::string& id);
+    int chooseAlternative(const std::string& id);
+    int fetchLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry);
+    int cachedLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry);
+    int storeLeg(const VoyPortCall& from, const VoyPortCall& to, int fetchCode, int saveCode);
+    int requestRoute(const std::string& text, RouteStops& stops, int sendCode, int parseCode);
+    int showProgress(const std::string& vi, const std::string& current, const PointTexts& sailed,
+                     const PointTexts& remaining, int idCode);
+
+    VoyageStore* store_;
+    VoyageLayer layer_;
+    RouteStops stops_;
+    std::string clickedRoutePoint_;
+    LegCache routeCache_;
+    Util::_datetime_t cacheEpoch_{0, 0, 0, 1, 6, 2011};
+    float cacheMaxAgeHours_ = 2160.0F;
+    PointMap routePoints_;
+    std::map<std::string, std::string> shipPositions_;
+    Core::TEvent routePointClick_;
+    Core::TEvent alternativeClick_;
+};
+
+}  // namespace Tarvik::Seaplan

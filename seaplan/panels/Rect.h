@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace Tarvik::Seaplan {
+
+/// A rectangle in pixels; right and bottom lie outside.
+struct Rect {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+    bool operator==(const Rect&) const = default;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/language/LoadText.h"
+
+#include <tarvik/interface/LoadString.h>
+#include <tarvik/util/StringUtl.h>
+
+#include <array>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr const char16_t* kSection = u"Seaplan";
+constexpr const char16_t* kMissing = u"_TRV_LOAD_STRING_ERRRES";
+constexpr std::size_t kCapacity = 4096;
+
+struct TableEntry {
+    int number;
+    const char* key;
+};
+
+constexpr TableEntry kTable[] = {
+#define SEAPLAN_TEXT_ENTRY(number, key) {number, #key},
+    SEAPLAN_TEXT_KEYS(SEAPLAN_TEXT_ENTRY)
+#undef SEAPLAN_TEXT_ENTRY
+};
+
+}  // namespace
+
+const char* TextKeyOf(int number) {
+    for (const TableEntry& entry : kTable) {
+        if (entry.number == number) return entry.key;
+    }
+    return nullptr;
+}
+
+bool LoadText(std::string& out, int number, const std::string& fallback) {
+    out = fallback;
+    const char* key = TextKeyOf(number);
+    if (key == nullptr) return false;
+    std::array<char16_t, kCapacity> buffer{};
+    Interface::TrvLoadString(kSection, kSection, Util::StringUtl::TranslateString(std::string(key)).c_str(),
+                             buffer.data(), kMissing, buffer.size());
+    const std::u16string text(buffer.data());
+    if (text == kMissing) return false;
+    out = Util::StringUtl::TranslateString(text);
+    return true;
+}
+
+std::string Text(TextId id) {
+    std::string text;
+    LoadText(text, static_cast<int>(id), {});
+    return text;
+}
+
+}  // namespace Tarvik::Seaplan

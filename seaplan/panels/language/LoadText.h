@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/TextKeys.h"
+
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+/// Text of string `number` in the language in force, UTF-8. False, with `out` the fallback, when the string
+/// table has no such number or the language file no such key.
+bool LoadText(std::string& out, int number, const std::string& fallback);
+/// The text of `id`, or an empty text when the language file lacks it.
+std::string Text(TextId id);
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/mainview/MainViewWindow.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+class CPortCallPanelDlg;
+
+/// The voyage panel on the left of the chart: shown and hidden by the host, owner of the tree and the only
+/// one that clears the store.
+class SeaplanViewDlg final : public Core::TObject {
+  public:
+    struct Parts {
+        VoyageStore& store;
+        CatalogCommands& catalog;
+        ScheduleCommands& schedule;
+        MainViewWindow& window;
+        SeaplanTreeCtrl& tree;
+        CPortCallPanelDlg* portCalls;  ///< null while there is none
+    };
+    explicit SeaplanViewDlg(const Parts& parts);
+    ~SeaplanViewDlg() override;
+
+    void RegisterHost();
+    void UnregisterHost();
+
+    /// -1 empty id; -2 unknown voyage; -3 the row cannot be redrawn.
+    int RefreshVoyageRow(const std::string& vi);
+    /// Everything out of the recycle bin. -1 a category, -2 a voyage, -3 the reload failed.
+    int RecoverAll();
+    void Hide();
+    void ToggleFilter();
+    void SetShowDeleted(bool shown) { p_.tree.SetShowDeleted(shown); }
+    /// -1 when the category cannot be made.
+    int AddCategory();
+    void RequestHelp();
+    void ApplyLanguage();
+    /// A press on the panel's free surface.
+    void OnSurfacePressed() { p_.tree.HideEditors(); }
+
+  private:
+    void* onShowPanel(void* input);
+    void* onSwitchLanguage(void* input);
+    void* onLogout(void* input);
+    void* onAddVessel(void* input);
+    void toggle();
+
+    Parts p_;
+    bool registered_ = false;
+    Core::TEvent showPanel_;
+    Core::TEvent switchLanguage_;
+    Core::TEvent logout_;
+    Core::TEvent addVessel_;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/language/Messages.h"
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr double kNoDistance = 0.0001;
+
+}  // namespace
+
+int CPortCallPanelDlg::prepare(PortCallRows& rows) const {
+    const PortCallRows read = [this] {
+        PortCallRows list = table_.ReadRows();
+        if (!list.empty() && IsBlankCell(list.front().pp)) list.front().pp = "L";
+        schedule_.ResolvePortIds(list);
+        return list;
+    }();
+    if (read.size() < 2) return -1;
+    PortCallRows kept = {read.front()};
+    for (std::size_t i = 1; i < read.size(); ++i) {
+        const VoyPortCall& before = read[i - 1];
+        if (read[i].ppn == before.ppn || ports_.IsSamePlace(before.ppi, read[i].ppi)) continue;
+        kept.push_back(read[i]);
+        if (IsBlankCell(kept.back().pp)) kept.back().pp = "D";
+    }
+    if (kept.size() < 2) return -2;
+    return ToStandardUnits(kept, units_, rows) == 0 ? 0 : -3;
+}
+
+int CPortCallPanelDlg::calculate() {
+    PortCallRows rows;
+    if (prepare(rows) != 0) return -1;
+    PortCallRows result;
+    int hadPortCalls = 0;
+    if (schedule_.CalculateForVoyage(voyageId_, rows, result, hadPortCalls) != 0) return -2;
+    if (hadPortCalls == 0) {
+        if (showRows(result) != 0) return -3;
+        markChanged(true);
+        return 0;
+    }
+    // The result stands in the voyage already, with all that was changed here: nothing is left to ask about.
+    markChanged(false);
+    schedule_.RemoveVoyageObjects(voyageId_);
+    view_.Hide();
+    const int filled = FillForVoyage(1);
+    view_.Show();
+    if (filled != 0) return -4;
+    if (saveTable(voyageId_, -1) == 0) return 0;
+    markChanged(true);
+    return -5;
+}
+
+void CPortCallPanelDlg::OnCalculate() {
+    CommitEditors();
+    int corrected = 0;
+    if (schedule_.GetModAis(voyageId_, corrected) != 0 || corrected > 0) return;
+    calculate();
+}
+
+void CPortCallPanelDlg::OnSave() {
+    CommitEditors();
+    if (!state_.changed) return;
+    int corrected = 0;
+    if (schedule_.GetModAis(voyageId_, corrected) != 0 || corrected > 0) return;
+    savePlain();
+}
+
+int CPortCallPanelDlg::savePlain() {
+    const PortCallRows rows = table_.ReadRows();
+    if (rows.size() < 2) return -1;
+    bool missing = false;
+    for (std::size_t i = 1; i < rows.size(); ++i) missing = missing || rows[i].distance < kNoDistance;
+    const VoyInfo* voyage = store_.FindVoyage(voyageId_);
+    const bool hasBook = voyage != nullptr && !voyage->positionBook.points.empty();
+    if (missing || (!hasBook && !schedule_.HasPendingRoute())) calculate();
+    if (saveTable(voyageId_, 1) != 0) {
+        Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION, view_.Handle());
+        return -2;
+    }
+    state_.changed = false;
+    state_.canSave = false;
+    state_.canOpenBook = true;
+    view_.ShowState(state_);
+    return 0;
+}
+
+int CPortCallPanelDlg::saveTable(const std::string& vi, int drawMode) {
+    if (vi.empty()) return -1;
+    PortCallRows rows;
+    if (standardRows(rows) != 0) return -2;
+    schedule_.ResolvePortIds(rows);
+    if (schedule_.SaveSchedule(vi, rows, drawMode) != 0) return -3;
+    if (saved_) saved_(vi);
+    return 0;
+}
+
+void CPortCallPanelDlg::OnClear() {
+    CommitEditors();
+    view_.Hide();
+    view_.SetEnabled(false);
+    const bool empty = OkOrCancel(TextId::IDS_PORTCALL_CLEARFORBLANK, view_.Handle());
+    view_.SetEnabled(true);
+    if (empty) {
+        state_.averageSpeed.clear();
+        state_.totalDistance.clear();
+        state_.totalTime.clear();
+        table_.ClearCells();
+        schedule_.RouteChanged();
+        units_ = UnitSet();
+        const PortCallState fresh;
+        state_.speedUnit = fresh.speedUnit;
+        state_.distanceUnit = fresh.distanceUnit;
+        state_.timeUnit = fresh.timeUnit;
+        state_.changed = false;
+        state_.canOpenBook = false;
+        state_.canCalculate = false;
+        schedule_.ClearChart();
+        showAll();
+        view_.BringRowIntoView(0);
+    }
+    view_.Show();
+}
+
+void CPortCallPanelDlg::OnClose() {
+    view_.SetEnabled(false);
+    CommitEditors();
+    if (state_.changed) {
+        if (!Question(TextId::IDS_PORTCALL_CLOSESAVE, view_.Handle())) {
+            view_.SetEnabled(true);
+            return;
+        }
+        schedule_.DiscardPortCalls(voyageId_);
+    }
+    markChanged(false);
+    view_.Hide();
+    CommitEditors();
+    schedule_.ClearChart();
+    view_.SetEnabled(true);
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/language/Messages.h"
+
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr const char* kNoVoyageText = "数据状态异常，请确认是否已登陆或者掉线？";
+constexpr const char* kHelpTopic = "func034";
+
+}  // namespace
+
+CPortCallPanelDlg::CPortCallPanelDlg(VoyageStore& store, ScheduleCommands& schedule, PortDictionary ports,
+                                     PortCallView& view)
+    : store_(store), schedule_(schedule), ports_(std::move(ports)), view_(view) {
+    switchLanguage_.Set<&CPortCallPanelDlg::onSwitchLanguage>(this);
+    resetState();
+}
+
+CPortCallPanelDlg::~CPortCallPanelDlg() {
+    if (registered_) {
+        Core::TrvKernel::Instance()->UnBindTrvEvent(Interface::Bus::SwitchLanguage.name, &switchLanguage_);
+    }
+}
+
+void CPortCallPanelDlg::RegisterHost() {
+    registered_ =
+        Core::TrvKernel::Instance()->BindTrvEvent(Interface::Bus::SwitchLanguage.name, &switchLanguage_);
+}
+
+void* CPortCallPanelDlg::onSwitchLanguage(void*) {
+    ApplyLanguage();
+    return nullptr;
+}
+
+void CPortCallPanelDlg::ApplyLanguage() {
+    state_.caption = Text(TextId::IDS_PORTCALL_TITLE);
+    state_.calculateText = Text(TextId::IDS_PORTCALL_COMPUTE);
+    view_.ApplyTexts();
+    showAll();
+}
+
+void CPortCallPanelDlg::showAll() {
+    view_.ShowTable(table_);
+    view_.ShowState(state_);
+}
+
+void CPortCallPanelDlg::resetState() {
+    table_.Reset();
+    units_ = UnitSet();
+    state_ = PortCallState();
+    state_.caption = Text(TextId::IDS_PORTCALL_TITLE);
+    state_.calculateText = Text(TextId::IDS_PORTCALL_COMPUTE);
+}
+
+void CPortCallPanelDlg::Reset() {
+    askUnsaved();
+    closePopups();
+    for (const CellEditor editor : {CellEditor::Port, CellEditor::Speed, CellEditor::Weather}) {
+        view_.HideEditor(editor);
+    }
+    resetState();
+    schedule_.ForgetPortList();
+    showAll();
+    view_.BringRowIntoView(0);
+    schedule_.ClearChart();
+}
+
+void CPortCallPanelDlg::askUnsaved() {
+    if (!state_.changed) return;
+    view_.SetEnabled(false);
+    const bool save = Question(TextId::IDS_PORTCALL_SAVENEXT, view_.Handle());
+    view_.SetEnabled(true);
+    // The rows in the table are what is saved, so no cell may have changed since.
+    if (save) saveTable(editedVoyageId_, -1);
+    state_.changed = false;
+}
+
+int CPortCallPanelDlg::FillForVoyage(int mode) {
+    int corrected = 0;
+    if (!voyageId_.empty() && schedule_.GetModAis(voyageId_, corrected) != 0) return -1;
+    if (corrected > 0) return -2;
+    view_.Hide();
+    Reset();
+    if (voyageId_.empty()) {
+        NoticeText(kNoVoyageText, view_.Handle());
+        return -3;
+    }
+    PortCallRows loaded;
+    if (schedule_.LoadSchedule(voyageId_, loaded, mode) != 0) {
+        Reset();
+        return 0;
+    }
+    PortCallRows rows;
+    if (RecomputeSchedule(loaded, rows) != 0 || showRows(rows) != 0) return -4;
+    state_.changed = false;
+    state_.canClear = true;
+    state_.canOpenBook = true;
+    state_.canCalculate = true;
+    showAll();
+    return 0;
+}
+
+void CPortCallPanelDlg::ShowBesideTree() {
+    view_.PlaceBesideTree();
+    view_.Show();
+}
+
+void CPortCallPanelDlg::HideAfterLogout() {
+    closePopups();
+    for (const CellEditor editor : {CellEditor::Port, CellEditor::Speed, CellEditor::Weather}) {
+        view_.HideEditor(editor);
+    }
+    view_.Hide();
+}
+
+int CPortCallPanelDlg::showRows(const PortCallRows& standard) {
+    PortCallRows shown;
+    if (standard.size() < 2 || FromStandardUnits(standard, units_, shown) != 0) return -1;
+    table_.WriteRows(shown);
+    table_.WriteTotals(shown);
+    showSummary(standard);
+    showAll();
+    return 0;
+}
+
+void CPortCallPanelDlg::showSummary(const PortCallRows& standard) {
+    ScheduleSummary summary;
+    if (!SummaryOf(standard, summary)) return;
+    VoyPortCall figures;
+    figures.psp = summary.averageSpeed;
+    figures.steamTime = summary.totalTime;
+    figures.distance = summary.totalDistance;
+    PortCallRows shown;
+    if (FromStandardUnits({figures}, units_, shown) != 0) return;
+    state_.averageSpeed = OneDecimal(shown[0].psp);
+    state_.totalTime = TwoDecimals(shown[0].steamTime);
+    state_.totalDistance = OneDecimal(shown[0].distance);
+}
+
+int CPortCallPanelDlg::standardRows(PortCallRows& out) const {
+    return ToStandardUnits(table_.ReadRows(), units_, out) == 0 ? 0 : -1;
+}
+
+int CPortCallPanelDlg::recompute(const PortCallRows& standard) {
+    PortCallRows rows;
+    if (RecomputeSchedule(standard, rows) != 0 || showRows(rows) != 0) return -1;
+    markChanged(true);
+    return 0;
+}
+
+int CPortCallPanelDlg::placeCount() const {
+    PortCallRows rows = table_.ReadAllRows();
+    if (rows.empty()) return 0;
+    schedule_.ResolvePortIds(rows);
+    int count = 1;
+    const VoyPortCall* last = &rows.front();
+    for (const VoyPortCall& row : rows) {
+        if (row.ppn == last->ppn || ports_.IsSamePlace(last->ppi, row.ppi)) continue;
+        ++count;
+        last = &row;
+    }
+    return count;
+}
+
+void CPortCallPanelDlg::updateCalculateButton() {
+    state_.canCalculate = placeCount() >= 2;
+    view_.ShowState(state_);
+}
+
+void CPortCallPanelDlg::markChanged(bool on) {
+    if (on) {
+        updateCalculateButton();
+        // A table of one place cannot be saved.
+        if (!state_.canCalculate) return;
+        editedVoyageId_ = voyageId_;
+    }
+    state_.changed = on;
+    state_.canSave = on;
+    view_.ShowState(state_);
+}
+
+int CPortCallPanelDlg::ChangeUnit(UnitKind kind, const std::string& unit) {
+    std::string& name = kind == UnitKind::Speed      ? units_.speed
+                        : kind == UnitKind::Distance ? units_.distance
+                                                     : units_.time;
+    std::string& label = kind == UnitKind::Speed      ? state_.speedUnit
+                         : kind == UnitKind::Distance ? state_.distanceUnit
+                                                      : state_.timeUnit;
+    label = kind == UnitKind::Time ? unit + "s" : unit;
+    const std::string from = name;
+    const PortCallRows rows = table_.ReadAllRows();
+    name = unit;
+    view_.ShowState(state_);
+    if (state_.averageSpeed.empty() || state_.totalDistance.empty() || state_.totalTime.empty()) return -1;
+    PortCallRows converted;
+    if (ConvertUnitValue(rows, from, unit, converted) != 0) return -2;
+    table_.WriteRows(converted);
+    table_.WriteTotals(converted);
+    PortCallRows standard;
+    if (ToStandardUnits(converted, units_, standard) == 0) showSummary(standard);
+    showAll();
+    return 0;
+}
+
+void CPortCallPanelDlg::OnHelp() {
+    view_.RequestHelp(kHelpTopic);
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/PortDictionary.h"
+
+#include "seaplan/calculation/PointTables.h"
+
+#include <algorithm>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+std::string fold(const std::string& text) {
+    std::string out = text;
+    for (char& c : out) {
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    }
+    return out;
+}
+
+bool isLocal(const std::string& text) {
+    return !text.empty() && (static_cast<unsigned char>(text[0]) & 0x80U) != 0;
+}
+
+}  // namespace
+
+PortDictionary::PortDictionary(std::vector<std::string> names, std::map<std::string, std::string> byLocal,
+                               std::map<std::string, std::string> samePort)
+    : byLocal_(std::move(byLocal)), samePort_(std::move(samePort)) {
+    for (std::string& name : names) {
+        std::string folded = fold(name);
+        names_.emplace_back(std::move(folded), std::move(name));
+    }
+    std::sort(names_.begin(), names_.end());
+    names_.erase(std::unique(names_.begin(), names_.end()), names_.end());
+}
+
+PortDictionary PortDictionary::FromDatabase() {
+    const std::string path = PointDatabasePath();
+    PointMap ports;
+    std::map<std::string, std::string> byLocal;
+    std::map<std::string, std::string> samePort;
+    LoadPortPositions(path, ports);
+    LoadPortNamesByLocal(path, byLocal);
+    LoadSamePortLinks(path, samePort);
+    std::vector<std::string> names;
+    for (const auto& [id, port] : ports) names.push_back(port.name);
+    return {std::move(names), std::move(byLocal), std::move(samePort)};
+}
+
+std::string PortDictionary::NameOf(const std::string& typed) const {
+    if (!isLocal(typed)) return typed;
+    const auto it = byLocal_.find(typed);
+    return it == byLocal_.end() ? std::string() : it->second;
+}
+
+std::vector<std::string> PortDictionary::Match(const std::string& typed, std::size_t limit) const {
+    std::vector<std::string> out;
+    if (typed.empty()) return out;
+    if (isLocal(typed)) {
+        for (auto it = byLocal_.lower_bound(typed); it != byLocal_.end() && out.size() < limit; ++it) {
+            if (it->first.compare(0, typed.size(), typed) != 0) break;
+            out.push_back(it->second);
+        }
+        return out;
+    }
+    const std::string key = fold(typed);
+    for (auto it = std::lower_bound(names_.begin(), names_.end(), std::pair(key, std::string()));
+         it != names_.end() && out.size() < limit; ++it) {
+        if (it->first.compare(0, key.size(), key) != 0) break;
+        out.push_back(it->second);
+    }
+    return out;
+}
+
+bool PortDictionary::IsSamePlace(const std::string& idA, const std::string& idB) const {
+    return samePort_.contains(idA + "-" + idB);
+}
+
+}  // namespace Tarvik::Seaplan

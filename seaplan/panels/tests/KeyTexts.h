@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/interface/LoadString.h>
+
+#include <set>
+
+namespace Tarvik::Seaplan {
+
+/// A language in which every key reads as itself, except those that it lacks. In force while it lives.
+class KeyTexts final : public Interface::LanguageSource {
+  public:
+    KeyTexts() { Set(this); }
+    ~KeyTexts() override { Set(nullptr); }
+    KeyTexts(const KeyTexts&) = delete;
+    KeyTexts& operator=(const KeyTexts&) = delete;
+
+    std::set<std::u16string> missing;
+    std::u16string prefix;
+
+    std::optional<std::u16string> Find(const std::u16string& section, const std::u16string&,
+                                       const std::u16string& key) const override {
+        if (section != u"Seaplan" || missing.contains(key)) return std::nullopt;
+        return prefix + key;
+    }
+};
+
+}  // namespace Tarvik::Seaplan

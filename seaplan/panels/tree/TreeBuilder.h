@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/tree/TreeContext.h"
+
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan {
+
+/// Makes the rows of the tree from the store and keeps what they show. Results: 0 or the negative number of
+/// the failed step; rows made before it stay.
+class TreeBuilder {
+  public:
+    explicit TreeBuilder(TreeContext& context) : c_(context) {}
+
+    int RebuildAll();
+    /// -1 empty id or no row; -2 no voyages; -3 unknown voyage; -4 or -6 no sort state; -5 unknown sort key.
+    int RebuildCategory(const std::string& ci);
+    /// Appends a voyage's row. -1 empty id, -2 unknown voyage.
+    int AddVoyageRow(TreeRow categoryRow, const std::string& vi);
+    /// Appends a row for a category in use, with its labels.
+    TreeRow AddCategoryRow(VoyCategory& category);
+    TreeRow AddDeletedCategoryRow(VoyCategory& category);
+    /// After RebuildAll: counts and, on the first pass, the marks of pinned voyages.
+    int CountAndMark();
+    /// Counts of all categories that have voyages.
+    int RefreshCounts();
+    int ComputeStatus(const std::string& vi);
+    /// -4 when the voyage has no row.
+    int ShowStatus(const std::string& vi);
+    /// -1 with fewer than two port calls.
+    int ShowDates(TreeRow row, const VoyInfo& voyage);
+    void ShowVessel(TreeRow row, const std::string& name, bool alert);
+    /// Labels and tool tips of every row in the language in force.
+    void ApplyLanguage();
+
+  private:
+    enum class DateSource { PositionBook, PortCalls };
+    int addVoyages(TreeRow row, const std::string& ci, DateSource source);
+    int sortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,
+                    std::vector<std::string>& deleted) const;
+    void addDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
+    int addEmptyCategories(std::vector<VoyCategory*> deleted);
+    void markVoyage(const VoyInfo& voyage);
+    void applyCategoryTexts(TreeRow row);
+    void applyVoyageTexts(TreeRow row);
+    void applyDeletedTexts(TreeRow row);
+    void applyTexts(TreeRow row);
+
+    TreeContext& c_;
+};
+
+}  // namespace Tarvik::Seaplan

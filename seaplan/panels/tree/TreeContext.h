@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/panels/services/CatalogCommands.h"
+#include "seaplan/panels/services/ScheduleCommands.h"
+#include "seaplan/panels/tree/TreeWidget.h"
+
+#include <map>
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+enum SortKey : int { SortByName = 0, SortByDate = 1 };
+enum SortDirection : int { Descending = 0, Ascending = 1 };
+
+/// How the voyages of one category are ordered.
+struct TreeSortState {
+    int sortKey = SortByName;
+    int direction = Ascending;
+};
+
+enum DrawState : int { OnChart = 2, OffChart = 3 };
+
+/// Whether a voyage stands on the chart.
+struct VoyChartMark {
+    int routePinned = 0;  ///< copy of the voyage's `vr`
+    int drawState = OffChart;
+};
+
+/// Collaborators and view state that the parts of the tree share.
+struct TreeContext {
+    VoyageStore& store;
+    CatalogCommands& catalog;
+    ScheduleCommands& schedule;
+    TreeWidget& tree;
+
+    bool showDeleted = false;
+    std::map<std::string, TreeSortState> categorySorts{};
+    std::map<std::string, VoyChartMark> chartMarks{};
+    std::map<std::string, int> voyageStatuses{};
+    std::map<std::string, int> categoryNames{};  ///< every name ever seen, with its deletion state
+    std::map<std::string, int> voyageNames{};
+
+    VoyCategory* CategoryOf(TreeRow row) const { return static_cast<VoyCategory*>(tree.GetItemData(row)); }
+    VoyInfo* VoyageOf(TreeRow row) const { return static_cast<VoyInfo*>(tree.GetItemData(row)); }
+    bool IsCategoryRow(TreeRow row) const { return tree.GetParentItem(row) == kNoRow; }
+    /// Row of a category, kNoRow when it has none.
+    TreeRow FindCategoryRow(const std::string& ci) const;
+    /// Row of a voyage in any category, kNoRow when it has none.
+    TreeRow FindVoyageRow(const std::string& vi) const;
+};
+
+}  // namespace Tarvik::Seaplan

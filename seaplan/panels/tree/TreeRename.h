@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/tree/TreeContext.h"
+
+#include <functional>
+
+namespace Tarvik::Seaplan {
+
+/// Renaming a row in place.
+class TreeRename {
+  public:
+    /// `unfold` expands and selects a category and shows the statuses of its voyages; negative on failure.
+    TreeRename(TreeContext& context, std::function<int(TreeRow)> unfold)
+        : c_(context), unfold_(std::move(unfold)) {}
+
+    /// Opens the editor over a row. A row below the part of the tree where the editor fits keeps its present
+    /// name.
+    void Begin(TreeRow row, bool isVoyage);
+    /// Takes the typed name. 0 also without an open editor; -1 empty; -2 nothing visible; category: -4 too
+    /// wide, -5, -6 no record, -7 name taken, -8 server, -9 unfolding; voyage: -10 to -14 likewise.
+    int Commit();
+    /// Closes the editor without a change and forgets the row.
+    void Abandon();
+
+  private:
+    int commitCategory(const std::string& name);
+    int commitVoyage(const std::string& name);
+    bool widthAccepted(const std::string& name, int limit);
+    bool taken(const std::map<std::string, int>& names, const std::string& name, const std::string& present);
+
+    TreeContext& c_;
+    std::function<int(TreeRow)> unfold_;
+    TreeRow row_ = kNoRow;
+    bool isVoyage_ = false;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tree/TreeRows.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+struct ItemDefault {
+    const char* name;
+    bool visible;
+};
+
+constexpr ItemDefault kCategoryItems[] = {
+    {"cat.statistic", true},      {"Voyage_parent_rename", true},     {"Voyage.parent.svr3", true},
+    {"Voyage.parent.svr6", true}, {"Voyage.parent.svr6.desc", false}, {"Voyage.parent.svr9", true},
+    {"Voyage.parent.svr7", true}, {"Voyage.parent.svr2.non", true},   {"Voyage.parent.svr2.exist", false}};
+constexpr ItemDefault kVoyageItems[] = {
+    {"Voyage_child_rename", true}, {"Voyage.child.svr1.default", true}, {"Voyage.child.svr1.auto", false},
+    {"Voyage.child.svr2", true},   {"Voyage.child.svr3.non", true},     {"Voyage.child.svr3.exist", false},
+    {"Voyage.child.svr4", true},   {"Voyage.child.svr5", true},         {"Voyage.child.svr6", true},
+    {"Voyage.child.svr8", true},   {"Voyage.child.svr10", false},       {"Voyage.child.svr9", true},
+    {"Voyage_modify", true},       {"Voyage_setPortCall", true},        {"Voyage_Date", false},
+    {"Voyage_AssignShip", true},   {"Voyage_ShipInfo", false},          {"Voyage_Alert", false},
+    {"Voyage_ReplaceShip", false}};
+constexpr ItemDefault kDeletedCategoryItems[] = {{"Voyage.parent.svr.recover", true},
+                                                 {"Voyage.parent.svr.clear", true}};
+constexpr ItemDefault kDeletedVoyageItems[] = {{"Voyage.child.svr.recover", true},
+                                               {"Voyage.child.svr.clear", true}};
+
+template <std::size_t N>
+std::map<std::string, TreeItem> itemsOf(const ItemDefault (&defaults)[N]) {
+    std::map<std::string, TreeItem> items;
+    for (const ItemDefault& item : defaults) items[item.name].visible = item.visible;
+    return items;
+}
+
+std::map<std::string, TreeItem> itemsOfStyle(std::string_view style) {
+    if (style == kCategoryStyle) return itemsOf(kCategoryItems);
+    if (style == kVoyageStyle) return itemsOf(kVoyageItems);
+    if (style == kDeletedCategoryStyle) return itemsOf(kDeletedCategoryItems);
+    return itemsOf(kDeletedVoyageItems);
+}
+
+}  // namespace
+
+TreeRowState* TreeRows::find(TreeRow row) {
+    const auto it = rows_.find(row);
+    return it == rows_.end() ? nullptr : &it->second;
+}
+
+const TreeRowState* TreeRows::Row(TreeRow row) const {
+    const auto it = rows_.find(row);
+    return it == rows_.end() ? nullptr : &it->second;
+}
+
+const std::vector<TreeRow>& TreeRows::siblings(TreeRow row) const {
+    const TreeRowState* parent = Row(GetParentItem(row));
+    return parent == nullptr ? roots_ : parent->children;
+}
+
+TreeRow TreeRows::InsertItem(const std::string& text, const char* style, TreeRow parent) {
+    if (parent != kNoRow && Row(parent) == nullptr) return kNoRow;
+    const TreeRow row = next_++;
+    TreeRowState& state = rows_[row];
+    state.text = text;
+    state.style = style;
+    state.parent = parent;
+    state.items = itemsOfStyle(style);
+    (parent == kNoRow ? roots_ : find(parent)->children).push_back(row);
+    RowInserted(row);
+    return row;
+}
+
+void TreeRows::DeleteItem(TreeRow row) {
+    if (Row(row) == nullptr) return;
+    while (!Row(row)->children.empty()) DeleteItem(Row(row)->children.back());
+    if (selected_ == row) SelectItem(kNoRow);
+    RowRemoving(row);
+    TreeRowState* parent = find(Row(row)->parent);
+    std::erase(parent == nullptr ? roots_ : parent->children, row);
+    rows_.erase(row);
+}
+
+void TreeRows::DeleteAllItems() {
+    rows_.clear();
+    roots_.clear();
+    selected_ = kNoRow;
+    RowsCleared();
+}
+
+void TreeRows::SetItemData(TreeRow row, void* record) {
+    if (TreeRowState* state = find(row)) state->record = record;
+}
+
+void* TreeRows::GetItemData(TreeRow row) const {
+    const TreeRowState* state = Row(row);
+    return state == nullptr ? nullptr : state->record;
+}
+
+TreeRow TreeRows::GetRootItem() const {
+    return roots_.empty() ? kNoRow : roots_.front();
+}
+
+TreeRow TreeRows::GetChildItem(TreeRow row) const {
+    const TreeRowState* state = Row(row);
+    return state == nullptr || state->children.empty() ? kNoRow : state->children.front();
+}
+
+TreeRow TreeRows::GetNextSiblingItem(TreeRow row) const {
+    const std::vector<TreeRow>& all = siblings(row);
+    const auto it = std::find(all.begin(), all.end(), row);
+    return it == all.end() || it + 1 == all.end() ? kNoRow : *(it + 1);
+}
+
+TreeRow TreeRows::GetParentItem(TreeRow row) const {
+    const TreeRowState* state = Row(row);
+    return state == nullptr ? kNoRow : state->parent;
+}
+
+std::string TreeRows::GetItemStyle(TreeRow row) const {
+    const TreeRowState* state = Row(row);
+    return state == nullptr ? std::string() : state->style;
+}
+
+void TreeRows::SelectItem(TreeRow row) {
+    selected_ = Row(row) == nullptr ? kNoRow : row;
+    RowSelected(selected_);
+}
+
+void TreeRows::Expand(TreeRow row) {
+    SetExpanded(row, true);
+}
+
+void TreeRows::SetExpanded(TreeRow row, bool expanded) {
+    TreeRowState* state = find(row);
+    if (state == nullptr || state->expanded == expanded) return;
+    state->expanded = expanded;
+    RowExpanded(row, expanded);
+}
+
+bool TreeRows::IsItemExpanded(TreeRow row) const {
+    const TreeRowState* state = Row(row);
+    return state != nullptr && state->expanded;
+}
+
+std::string TreeRows::GetItemText(TreeRow row) const {
+    const TreeRowState* state = Row(row);
+    return state == nullptr ? std::string() : state->text;
+}
+
+void TreeRows::SetItemText(TreeRow row, const std::string& text) {
+    TreeRowState* state = find(row);
+    if (state == nullptr) return;
+    state->text = text;
+    RowChanged(row);
+}
+
+void TreeRows::SetDrawItemValue(TreeRow row, const std::string& item, const std::string& text) {
+    TreeRowState* state = find(row);
+    if (state == nullptr) return;
+    state->items[item].text = text;
+    RowChanged(row);
+}
+
+void TreeRows::SetDrawItemValueOfEventItem(TreeRow row, const std::string& item, const std::string& value,
+                                           const std::string& text) {
+    TreeRowState* state = find(row);
+    if (state == nullptr) return;
+    state->items[item].values[value] = text;
+    RowChanged(row);
+}
+
+void TreeRows::SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) {
+    TreeRowState* state = find(row);
+    if (state == nullptr) return;
+    state->items[item].visible = visible;
+    RowChanged(row);
+}
+
+void TreeRows::SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) {
+    if (TreeRowState* state = find(row)) state->items[item].toolTip = text;
+}
+
+bool TreeRows::IsItemVisible(TreeRow row, const std::string& item) const {
+    const TreeRowState* state = Row(row);
+    if (state == nullptr) return false;
+    const auto it = state->items.find(item);
+    return it != state->items.end() && it->second.visible;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/tree/TreeWidget.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan {
+
+/// One named item of a row.
+struct TreeItem {
+    bool visible = true;
+    std::string text;                           ///< value of a plain item
+    std::map<std::string, std::string> values;  ///< named values inside an event item
+    std::string toolTip;
+};
+
+/// State of one row.
+struct TreeRowState {
+    std::string text;
+    std::string style;
+    TreeRow parent = kNoRow;
+    void* record = nullptr;
+    bool expanded = false;
+    std::vector<TreeRow> children;
+    std::map<std::string, TreeItem> items;
+};
+
+/// The rows of a tree without any window. A window derives from it and follows the hooks; each is called
+/// after the change, RowRemoving before it.
+class TreeRows : public TreeWidget {
+  public:
+    TreeRow InsertItem(const std::string& text, const char* style, TreeRow parent) override;
+    void DeleteItem(TreeRow row) override;
+    void DeleteAllItems() override;
+    void SetItemData(TreeRow row, void* record) override;
+    void* GetItemData(TreeRow row) const override;
+    TreeRow GetRootItem() const override;
+    TreeRow GetChildItem(TreeRow row) const override;
+    TreeRow GetNextSiblingItem(TreeRow row) const override;
+    TreeRow GetParentItem(TreeRow row) const override;
+    std::string GetItemStyle(TreeRow row) const override;
+    void SelectItem(TreeRow row) override;
+    void Expand(TreeRow row) override;
+    bool IsItemExpanded(TreeRow row) const override;
+    std::string GetItemText(TreeRow row) const override;
+    void SetItemText(TreeRow row, const std::string& text) override;
+    void SetDrawItemValue(TreeRow row, const std::string& item, const std::string& text) override;
+    void SetDrawItemValueOfEventItem(TreeRow row, const std::string& item, const std::string& value,
+                                     const std::string& text) override;
+    void SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) override;
+    void SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) override;
+
+    /// State of a row, null for an unknown one.
+    const TreeRowState* Row(TreeRow row) const;
+    TreeRow Selected() const { return selected_; }
+    /// The person folded or unfolded a category.
+    void SetExpanded(TreeRow row, bool expanded);
+    /// Whether a row shows an item; an item that the row does not have counts as hidden.
+    bool IsItemVisible(TreeRow row, const std::string& item) const;
+
+  protected:
+    virtual void RowInserted(TreeRow) {}
+    virtual void RowRemoving(TreeRow) {}
+    virtual void RowsCleared() {}
+    virtual void RowChanged(TreeRow) {}
+    virtual void RowSelected(TreeRow) {}
+    virtual void RowExpanded(TreeRow, bool) {}
+
+  private:
+    TreeRowState* find(TreeRow row);
+    const std::vector<TreeRow>& siblings(TreeRow row) const;
+
+    std::map<TreeRow, TreeRowState> rows_;
+    std::vector<TreeRow> roots_;
+    TreeRow next_ = 1;
+    TreeRow selected_ = kNoRow;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/Rect.h"
+
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+/// Handle of a row; 0 is no row. Handles are never used twice.
+using TreeRow = int;
+inline constexpr TreeRow kNoRow = 0;
+
+/// Styles of rows; a style decides which items a row has.
+inline constexpr const char* kCategoryStyle = "Voyage.tree.parent";
+inline constexpr const char* kVoyageStyle = "Voyage.tree.child";
+inline constexpr const char* kDeletedCategoryStyle = "Voyage.tree.parent.del";
+inline constexpr const char* kDeletedVoyageStyle = "Voyage.tree.child.del";
+
+/// The widget under the voyage tree: rows in two levels, each with named items. It reports presses and clicks
+/// on items to SeaplanTreeCtrl and decides nothing.
+class TreeWidget {
+  public:
+    virtual ~TreeWidget() = default;
+
+    /// Appends a row below `parent`; kNoRow makes a category row.
+    virtual TreeRow InsertItem(const std::string& text, const char* style, TreeRow parent) = 0;
+    virtual void DeleteItem(TreeRow row) = 0;
+    virtual void DeleteAllItems() = 0;
+    /// The record that a row stands for; null when none was set.
+    virtual void SetItemData(TreeRow row, void* record) = 0;
+    virtual void* GetItemData(TreeRow row) const = 0;
+    virtual TreeRow GetRootItem() const = 0;
+    virtual TreeRow GetChildItem(TreeRow row) const = 0;
+    virtual TreeRow GetNextSiblingItem(TreeRow row) const = 0;
+    virtual TreeRow GetParentItem(TreeRow row) const = 0;
+    virtual std::string GetItemStyle(TreeRow row) const = 0;
+    virtual void SelectItem(TreeRow row) = 0;
+    virtual void Expand(TreeRow row) = 0;
+    virtual bool IsItemExpanded(TreeRow row) const = 0;
+    /// Rectangle of a row in pixels of the tree's window.
+    virtual Rect GetItemRect(TreeRow row) const = 0;
+    virtual std::string GetItemText(TreeRow row) const = 0;
+    virtual void SetItemText(TreeRow row, const std::string& text) = 0;
+    virtual void SetDrawItemValue(TreeRow row, const std::string& item, const std::string& text) = 0;
+    virtual void SetDrawItemValueOfEventItem(TreeRow row, const std::string& item, const std::string& value,
+                                             const std::string& text) = 0;
+    virtual void SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) = 0;
+    virtual void SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) = 0;
+
+    /// The box for a new name over a row: filled, focused, all selected. It takes at most `maxUnits` UTF-16
+    /// units.
+    virtual void ShowRenameEditor(const Rect& place, const std::string& text, int maxUnits) = 0;
+    virtual void HideRenameEditor() = 0;
+    virtual bool RenameEditorVisible() const = 0;
+    virtual std::string RenameEditorText() const = 0;
+    /// Opens the choice of the sort key at the pointer, `sortKey` marked.
+    virtual void ShowSortPanel(const std::string& ci, int sortKey) = 0;
+    virtual void HidePopups() = 0;
+    virtual void SetEnabled(bool enabled) = 0;
+    /// Opaque handle as owner of boxes.
+    virtual void* Handle() const = 0;
+};
+
+}  // namespace Tarvik::Seaplan

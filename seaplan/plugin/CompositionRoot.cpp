@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/plugin/CompositionRoot.h"
+
+namespace Tarvik::Seaplan {
+
+CompositionRoot::CompositionRoot(VoyageStore* store)
+    : catalogModule_(store),
+      catalog_(&catalogModule_, store),
+      portCallModule_(store),
+      voyages_(&portCallModule_, &catalog_, store),
+      planService_(&catalog_, &voyages_, store) {
+    catalog_.SetVoyController(&voyages_);
+}
+
+CompositionRoot& CompositionRoot::Instance() {
+    static auto* root = new CompositionRoot(VoyageStore::Instance());
+    return *root;
+}
+
+void CompositionRoot::OfferServices() {
+    if (!offered_) {
+        offered_ = bus_.Offer<&PlanService::OnPlan>(kPlanVoyage.name, &planService_);
+    }
+}
+
+VoyCatalogModule* VoyCatalogModule::Instance() {
+    return &CompositionRoot::Instance().CatalogModule();
+}
+
+VoyCatalogController* VoyCatalogController::Instance() {
+    return &CompositionRoot::Instance().Catalog();
+}
+
+VoyPortCallModule* VoyPortCallModule::Instance() {
+    return &CompositionRoot::Instance().PortCallModule();
+}
+
+VoyController* VoyController::Instance() {
+    return &CompositionRoot::Instance().Voyages();
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/data/controllers/VoyCatalogController.h"
+#include "seaplan/data/controllers/VoyController.h"
+#include "seaplan/plugin/BusClient.h"
+#include "seaplan/plugin/PlanService.h"
+
+namespace Tarvik::Seaplan {
+
+/// Makes the plug-in's objects and ties them together. `X::Instance()` answers from here.
+class CompositionRoot {
+  public:
+    /// Made on first use and kept until the process ends.
+    static CompositionRoot& Instance();
+    explicit CompositionRoot(VoyageStore* store);
+
+    VoyCatalogModule& CatalogModule() { return catalogModule_; }
+    VoyCatalogController& Catalog() { return catalog_; }
+    VoyPortCallModule& PortCallModule() { return portCallModule_; }
+    VoyController& Voyages() { return voyages_; }
+    /// Offers what works without a window; a second call changes nothing.
+    void OfferServices();
+
+  private:
+    VoyCatalogModule catalogModule_;
+    VoyCatalogController catalog_;
+    VoyPortCallModule portCallModule_;
+    VoyController voyages_;
+    PlanService planService_;
+    BusClient bus_;
+    bool offered_ = false;
+};
+
+}  // namespace Tarvik::Seaplan

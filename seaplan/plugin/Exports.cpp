@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/plugin/CompositionRoot.h"
+#include "seaplan/plugin/MainViewFactory.h"
+#include "seaplan/plugin/PluginRecord.h"
+
+#include <tarvik/core/TrvKernel.h>
+
+/// What the host finds in the library. None of these fails, and nothing depends on their order but `Load`
+/// coming before use.
+extern "C" {
+
+__attribute__((visibility("default"))) bool Load() {
+    Tarvik::Seaplan::CompositionRoot::Instance().OfferServices();
+    Tarvik::Seaplan::CreateMainView();
+    return true;
+}
+
+/// Bindings and objects live until the process ends.
+__attribute__((visibility("default"))) bool UnLoad() {
+    return true;
+}
+
+__attribute__((visibility("default"))) Tarvik::Plugin::CPluginInfo* PluginInfo() {
+    return Tarvik::Seaplan::PluginRecord();
+}
+
+__attribute__((visibility("default"))) void InitPlugin() {}
+
+__attribute__((visibility("default"))) void SuiteLoaded() {}
+
+/// Touching the kernel makes it exist.
+__attribute__((visibility("default"))) bool CheckEnvironment() {
+    return Tarvik::Core::TrvKernel::Instance() != nullptr;
+}
+
+}  // extern "C"

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/plugin/CompositionRoot.h"
+
+#include "testsupport/RecordingHost.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+TEST(CompositionRootTest, InstancesAnswerWithTheSameObjects) {
+    CompositionRoot& root = CompositionRoot::Instance();
+    EXPECT_EQ(VoyCatalogModule::Instance(), &root.CatalogModule());
+    EXPECT_EQ(VoyCatalogController::Instance(), &root.Catalog());
+    EXPECT_EQ(VoyPortCallModule::Instance(), &root.PortCallModule());
+    EXPECT_EQ(VoyController::Instance(), &root.Voyages());
+    EXPECT_EQ(&VoyController::Instance()->Module(), VoyPortCallModule::Instance());
+}
+
+TEST(CompositionRootTest, ControllersShareTheStore) {
+    const TestSupport::RecordingHost host;
+    VoyageStore store;
+    CompositionRoot root(&store);
+    store.voyages["9"].modais = 3;
+    int count = 0;
+    EXPECT_EQ(root.Voyages().GetModAis("9", count), 0);
+    EXPECT_EQ(count, 3);
+    int state = 0;
+    store.categoryVoyages["1"]["9"] = Destroyed;
+    EXPECT_EQ(root.Catalog().GetVoyageState("9", state), 0);
+    EXPECT_EQ(state, Destroyed);
+}
+
+TEST(CompositionRootTest, ServicesAreOfferedOnce) {
+    VoyageStore store;
+    CompositionRoot root(&store);
+    int notices = 0;
+    Core::TrvKernel::Instance()->SetObserver([&](Core::KernelNotice, const std::string&) { ++notices; });
+    root.OfferServices();
+    root.OfferServices();
+    EXPECT_TRUE(Core::TrvKernel::Instance()->IsBound("TRV_S_VOY_PLAN"));
+    Core::TrvKernel::Instance()->SetObserver({});
+    EXPECT_EQ(notices, 0);
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

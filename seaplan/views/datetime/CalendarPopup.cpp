@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/datetime/CalendarPopup.h"
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/views/skin/Palette.h"
+#include "seaplan/views/skin/ToolWindow.h"
+
+#include <tarvik/interface/LoadString.h>
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr const char* kWeekDays[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+constexpr int kColumns = 7;
+
+QString text(TextId id) {
+    return QString::fromStdString(Text(id));
+}
+
+/// Label of a button that the host's own section of the language file names.
+QString hostLabel(const char16_t* key, const char16_t* fallback) {
+    char16_t buffer[128] = {};
+    Interface::TrvLoadString(u"TRV_Shipping", u"MainDialog", key, buffer, fallback, std::size(buffer));
+    return QString::fromUtf16(buffer);
+}
+
+}  // namespace
+
+CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
+    setObjectName(QStringLiteral("calendarPopup"));
+    setFrameShape(QFrame::Box);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(8, 8, 8, 8);
+    rows->setSpacing(4);
+    auto* head = new QHBoxLayout();
+    previousYear_ = button("previousYear", QStringLiteral("<<"), [this] { model_.StepYear(-1); });
+    previousMonth_ = button("previousMonth", QStringLiteral("<"), [this] { model_.StepMonth(-1); });
+    nextMonth_ = button("nextMonth", QStringLiteral(">"), [this] { model_.StepMonth(1); });
+    nextYear_ = button("nextYear", QStringLiteral(">>"), [this] { model_.StepYear(1); });
+    heading_ = new QLabel(this);
+    heading_->setObjectName(QStringLiteral("calendarHeading"));
+    heading_->setAlignment(Qt::AlignCenter);
+    head->addWidget(previousYear_);
+    head->addWidget(previousMonth_);
+    head->addWidget(heading_, 1);
+    head->addWidget(nextMonth_);
+    head->addWidget(nextYear_);
+    rows->addLayout(head);
+    auto* grid = new QGridLayout();
+    grid->setSpacing(1);
+    for (int column = 0; column < kColumns; ++column) {
+        auto* day = new QLabel(QString::fromLatin1(kWeekDays[column]), this);
+        day->setAlignment(Qt::AlignCenter);
+        day->setProperty("secondary", true);
+        grid->addWidget(day, 0, column);
+    }
+    auto* group = new QButtonGroup(this);
+    for (int i = 0; i < CalendarModel::kCells; ++i) {
+        cells_[i] = button("day", {}, [this, i] { model_.ClickCell(i); });
+        cells_[i]->setObjectName(QStringLiteral("day%1").arg(i));
+        cells_[i]->setProperty("day", true);
+        cells_[i]->setCheckable(true);
+        group->addButton(cells_[i]);
+        grid->addWidget(cells_[i], 1 + i / kColumns, i % kColumns);
+    }
+    rows->addLayout(grid);
+    auto* time = new QHBoxLayout();
+    hour_ = makeTimeField("hour", true);
+    minute_ = makeTimeField("minute", false);
+    time->addStretch(1);
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{hour_.minus, hour_.shown, hour_.edit, hour_.plus}) {
+        time->addWidget(widget);
+    }
+    time->addWidget(new QLabel(QStringLiteral(":"), this));
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{minute_.minus, minute_.shown, minute_.edit, minute_.plus}) {
+        time->addWidget(widget);
+    }
+    time->addStretch(1);
+    rows->addLayout(time);
+    auto* buttons = new QHBoxLayout();
+    ok_ = new QPushButton(this);
+    ok_->setObjectName(QStringLiteral("calendarOk"));
+    ok_->setProperty("primary", true);
+    cancel_ = new QPushButton(this);
+    cancel_->setObjectName(QStringLiteral("calendarCancel"));
+    QObject::connect(ok_, &QPushButton::clicked, this, [this] { accept(); });
+    QObject::connect(cancel_, &QPushButton::clicked, this, [this] { hide(); });
+    buttons->addStretch(1);
+    buttons->addWidget(ok_);
+    buttons->addWidget(cancel_);
+    rows->addLayout(buttons);
+    ApplySkin();
+    ApplyTexts();
+}
+
+QToolButton* CalendarPopup::button(const char* name, const QString& label, std::function<void()> action) {
+    auto* made = new QToolButton(this);
+    made->setObjectName(QString::fromLatin1(name));
+    made->setText(label);
+    QObject::connect(made, &QToolButton::clicked, this, [this, action = std::move(action)] {
+        endTyping(hour_, true);
+        endTyping(minute_, false);
+        action();
+        showModel();
+    });
+    return made;
+}
+
+CalendarPopup::TimeField CalendarPopup::makeTimeField(const char* name, bool hour) {
+    TimeField field;
+    const QString base = QString::fromLatin1(name);
+    const auto make = [this, &base](const char* suffix, const char* label) {
+        auto* made = new QToolButton(this);
+        made->setObjectName(base + QString::fromLatin1(suffix));
+        made->setText(QString::fromLatin1(label));
+        made->setFocusPolicy(Qt::TabFocus);
+        return made;
+    };
+    field.shown = make("Shown", "");
+    field.minus = make("Minus", "-");
+    field.plus = make("Plus", "+");
+    field.edit = new QLineEdit(this);
+    field.edit->setObjectName(base + QStringLiteral("Edit"));
+    field.edit->setMaxLength(2);
+    field.edit->setFixedWidth(28);
+    for (QWidget* widget : std::initializer_list<QWidget*>{field.edit, field.minus, field.plus})
+        widget->hide();
+    field.edit->installEventFilter(this);
+    TimeField& kept = hour ? hour_ : minute_;
+    QObject::connect(field.shown, &QToolButton::clicked, this, [this, &kept] { beginTyping(kept); });
+    QObject::connect(field.minus, &QToolButton::clicked, this, [this, &kept, hour] { step(kept, hour, -1); });
+    QObject::connect(field.plus, &QToolButton::clicked, this, [this, &kept, hour] { step(kept, hour, 1); });
+    return field;
+}
+
+void CalendarPopup::beginTyping(TimeField& field) {
+    field.edit->setText(field.shown->text());
+    field.shown->hide();
+    for (QWidget* widget : std::initializer_list<QWidget*>{field.edit, field.minus, field.plus})
+        widget->show();
+    field.edit->selectAll();
+    field.edit->setFocus();
+}
+
+void CalendarPopup::endTyping(TimeField& field, bool hour) {
+    if (field.edit == nullptr || field.edit->isHidden()) return;
+    const std::string typed = field.edit->text().toStdString();
+    if (hour) {
+        model_.TypeHour(typed);
+    } else {
+        model_.TypeMinute(typed);
+    }
+    for (QWidget* widget : std::initializer_list<QWidget*>{field.edit, field.minus, field.plus})
+        widget->hide();
+    field.shown->show();
+    showModel();
+}
+
+void CalendarPopup::step(TimeField& field, bool hour, int by) {
+    const std::string typed = field.edit->text().toStdString();
+    if (hour) {
+        model_.TypeHour(typed);
+        model_.StepHour(by);
+    } else {
+        model_.TypeMinute(typed);
+        model_.StepMinute(by);
+    }
+    field.edit->setText(QString::fromStdString(hour ? model_.HourText() : model_.MinuteText()));
+    field.edit->selectAll();
+    field.edit->setFocus();
+}
+
+bool CalendarPopup::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            const bool hour = watched == hour_.edit;
+            endTyping(hour ? hour_ : minute_, hour);
+            return true;
+        }
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void CalendarPopup::accept() {
+    endTyping(hour_, true);
+    endTyping(minute_, false);
+    hide();
+    if (model_.Accept() && chosen_) chosen_(model_.Value());
+}
+
+void CalendarPopup::SetValue(const Util::_datetime_t& value) {
+    model_.SetValue(value);
+    for (TimeField* field : {&hour_, &minute_}) {
+        for (QWidget* widget : std::initializer_list<QWidget*>{field->edit, field->minus, field->plus})
+            widget->hide();
+        field->shown->show();
+    }
+    showModel();
+}
+
+void CalendarPopup::showModel() {
+    heading_->setText(QString::fromStdString(model_.Heading()));
+    for (int i = 0; i < CalendarModel::kCells; ++i) {
+        cells_[i]->setText(QString::number(model_.DayOfCell(i)));
+        cells_[i]->setChecked(i == model_.SelectedCell());
+        const auto look = model_.LookOfCell(i);
+        cells_[i]->setProperty("look", look == CalendarModel::CellLook::Today     ? "today"
+                                       : look == CalendarModel::CellLook::InMonth ? "inside"
+                                                                                  : "outside");
+        const auto day = Util::_datetime_t::from_csecs_days(0, model_.GridStart() + i);
+        Describe(cells_[i], QString::fromStdString(day.fmt("%Y-%m-%d")));
+        cells_[i]->style()->unpolish(cells_[i]);
+        cells_[i]->style()->polish(cells_[i]);
+    }
+    hour_.shown->setText(QString::fromStdString(model_.HourText()));
+    minute_.shown->setText(QString::fromStdString(model_.MinuteText()));
+}
+
+void CalendarPopup::ApplyTexts() {
+    ok_->setText(hostLabel(u"IDOK", u"OK"));
+    cancel_->setText(hostLabel(u"IDCANCEL", u"Cancel"));
+    Describe(ok_, ok_->text());
+    Describe(cancel_, cancel_->text());
+    Describe(previousYear_, text(TextId::IDS_VIEW_PREVYEAR));
+    Describe(nextYear_, text(TextId::IDS_VIEW_NEXTYEAR));
+    Describe(previousMonth_, text(TextId::IDS_VIEW_PREVMONTH));
+    Describe(nextMonth_, text(TextId::IDS_VIEW_NEXTMONTH));
+    Describe(hour_.shown, text(TextId::IDS_VIEW_HOUR));
+    Describe(hour_.edit, text(TextId::IDS_VIEW_HOUR));
+    Describe(hour_.minus, text(TextId::IDS_VIEW_HOURUP));
+    Describe(hour_.plus, text(TextId::IDS_VIEW_HOURDOWN));
+    Describe(minute_.shown, text(TextId::IDS_VIEW_MINUTE));
+    Describe(minute_.edit, text(TextId::IDS_VIEW_MINUTE));
+    Describe(minute_.minus, text(TextId::IDS_VIEW_MINUTEUP));
+    Describe(minute_.plus, text(TextId::IDS_VIEW_MINUTEDOWN));
+}
+
+void CalendarPopup::ApplySkin() {
+    setStyleSheet(SkinStyleSheet() +
+                  QStringLiteral("#calendarPopup { background: %1; border: 1px solid %2; }")
+                      .arg(Skin().panel.name(), Skin().border.name()));
+}
+
+}  // namespace Tarvik::Seaplan

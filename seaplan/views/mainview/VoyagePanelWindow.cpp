@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/views/HelpRequest.h"
+#include "seaplan/views/skin/Palette.h"
+
+#include <QCheckBox>
+#include <QVBoxLayout>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+QString text(TextId id) {
+    return QString::fromStdString(Text(id));
+}
+
+}  // namespace
+
+VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
+    : ToolWindow(mainView, QStringLiteral("voyagePanel")) {
+    filterButton_ = AddCaptionButton("filterButton", "filter");
+    addButton_ = AddCaptionButton("addCategoryButton", "add");
+    helpButton_ = AddCaptionButton("helpButton", "help");
+    closeButton_ = AddCaptionButton("closeButton", "close");
+    tree_ = new VoyageTreeView(this);
+    Body()->setContentsMargins(10, 12, 8, 18);
+    Body()->addWidget(tree_);
+    resize(310, 460);
+    ApplyTexts();
+}
+
+void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
+    panel_ = panel;
+    QObject::connect(filterButton_, &QToolButton::clicked, this, [panel] { panel->ToggleFilter(); });
+    QObject::connect(addButton_, &QToolButton::clicked, this, [panel] { panel->AddCategory(); });
+    QObject::connect(helpButton_, &QToolButton::clicked, this, [panel] { panel->RequestHelp(); });
+    QObject::connect(closeButton_, &QToolButton::clicked, this, [panel] { panel->Hide(); });
+    tree_->SetReports({[tree](TreeRow row) { tree->OnRowPressed(row); },
+                       [tree](TreeRow row, const std::string& item) { tree->OnItemClicked(row, item); },
+                       [tree] { tree->CommitRename(); },
+                       [tree](const std::string& ci, int key) {
+                           if (tree->SetSortKey(ci, key) == 0) tree->Context().tree.HidePopups();
+                       }});
+}
+
+void VoyagePanelWindow::Place(const Rect& screen) {
+    setGeometry(screen.left, screen.top, screen.right - screen.left, screen.bottom - screen.top);
+}
+
+void VoyagePanelWindow::Show() {
+    show();
+    raise();
+}
+
+void VoyagePanelWindow::Hide() {
+    HideFilter();
+    hide();
+}
+
+void VoyagePanelWindow::ApplyTexts() {
+    SetCaption(text(TextId::IDS_TREE_VOYTITLE));
+    Describe(filterButton_, text(TextId::IDS_TREE_DELOPERATER));
+    Describe(addButton_, text(TextId::IDS_TREE_ADDCATEGORY));
+    Describe(helpButton_, text(TextId::IDS_VOY_HELP));
+    Describe(closeButton_, text(TextId::IDS_TREE_CLOSE));
+    tree_->setAccessibleName(text(TextId::IDS_VIEW_TREE));
+    tree_->SetEmptyHint(text(TextId::IDS_VIEW_EMPTYTREE));
+    if (showDeleted_ != nullptr) {
+        showDeleted_->setText(text(TextId::IDS_TREEVIEW_RECOVER));
+        Describe(showDeleted_, text(TextId::IDS_TREEVIEW_RECOVER));
+    }
+    update();
+}
+
+void VoyagePanelWindow::makeFilter() {
+    filter_ = new QFrame(this, Qt::Popup);
+    filter_->setObjectName(QStringLiteral("popup"));
+    filter_->setStyleSheet(SkinStyleSheet());
+    auto* rows = new QVBoxLayout(filter_);
+    rows->setContentsMargins(8, 4, 8, 4);
+    showDeleted_ = new QCheckBox(filter_);
+    showDeleted_->setObjectName(QStringLiteral("showDeletedCheck"));
+    rows->addWidget(showDeleted_);
+    QObject::connect(showDeleted_, &QCheckBox::clicked, this,
+                     [this](bool on) { panel_->SetShowDeleted(on); });
+    filter_->resize(180, 35);
+    ApplyTexts();
+}
+
+bool VoyagePanelWindow::FilterVisible() const {
+    return filter_ != nullptr && filter_->isVisible();
+}
+
+void VoyagePanelWindow::ShowFilter(bool showDeleted) {
+    if (filter_ == nullptr) makeFilter();
+    showDeleted_->setChecked(showDeleted);
+    filter_->move(filterButton_->mapToGlobal(QPoint(0, filterButton_->height() + 1)));
+    filter_->show();
+}
+
+void VoyagePanelWindow::HideFilter() {
+    if (filter_ != nullptr) filter_->hide();
+}
+
+void VoyagePanelWindow::RequestHelp(const std::string& topic, int width, int height) {
+    SendHelpRequest(parentWidget(), topic, width, height);
+}
+
+void VoyagePanelWindow::ApplySkin() {
+    ToolWindow::ApplySkin();
+    if (filter_ != nullptr) filter_->setStyleSheet(SkinStyleSheet());
+    tree_->ApplySkin();
+}
+
+void VoyagePanelWindow::SurfacePressed() {
+    if (panel_ != nullptr) panel_->OnSurfacePressed();
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStyledItemDelegate>
+
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+/// Draws cells by the class of their row, and the images at a row's end.
+class PortCallDelegate final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    /// Name of the image at a point inside the image cell, empty between them.
+    static std::string ImageAt(const QRect& cell, const QPoint& point);
+    static QString ImageTip(const std::string& name);
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/portcall/PortCallWindow.h"
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/views/HelpRequest.h"
+#include "seaplan/views/skin/Icons.h"
+#include "seaplan/views/skin/Palette.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+QString text(TextId id) {
+    return QString::fromStdString(Text(id));
+}
+
+constexpr TextId kTitles[] = {TextId::IDS_PORTCALL_ORDER,      TextId::IDS_PORTCALL_PORT,
+                              TextId::IDS_PORTCALL_PURPOSE,    TextId::IDS_PORTCALL_SPEED,
+                              TextId::IDS_PORTCALL_WEATHER,    TextId::IDS_PORTCALL_STEAMTIME,
+                              TextId::IDS_PORTCALL_ATPORTTIME, TextId::IDS_PORTCALL_ETA,
+                              TextId::IDS_PORTCALL_ETD,        TextId::IDS_PORTCALL_DISTANCE};
+
+}  // namespace
+
+PortCallWindow::PortCallWindow(QWidget* mainView, QWidget* tree)
+    : ToolWindow(mainView, QStringLiteral("portCallPanel")), tree_(tree) {
+    help_ = AddCaptionButton("helpButton", "help");
+    close_ = AddCaptionButton("closeButton", "close");
+    model_ = new PortCallModel(this);
+    table_ = new PortCallTableView(this);
+    table_->setModel(model_);
+    table_->ApplyWidths();
+    table_->setMinimumHeight(34 + 9 * 20 + 4);
+    Body()->addWidget(table_, 1);
+    makeSummary();
+    makeButtons();
+    makeEditors();
+    makePopups();
+    ApplyTexts();
+    adjustSize();
+}
+
+PortCallWindow::~PortCallWindow() = default;
+
+PortCallWindow::Figure PortCallWindow::makeFigure(const char* name, UnitKind kind) {
+    Figure figure;
+    figure.caption = new QLabel(this);
+    figure.caption->setProperty("secondary", true);
+    figure.value = new QLabel(this);
+    figure.value->setObjectName(QString::fromLatin1(name));
+    figure.value->setMinimumWidth(56);
+    figure.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    figure.unit = new QToolButton(this);
+    figure.unit->setObjectName(QString::fromLatin1(name) + QStringLiteral("Unit"));
+    figure.unit->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    figure.unit->setFocusPolicy(Qt::TabFocus);
+    keepIcon(figure.unit, "chevron-down");
+    QObject::connect(figure.unit, &QToolButton::clicked, this,
+                     [this, button = figure.unit, kind] { openUnitMenu(button, kind); });
+    return figure;
+}
+
+void PortCallWindow::makeSummary() {
+    auto* row = new QHBoxLayout();
+    row->setSpacing(kGrid);
+    speed_ = makeFigure("averageSpeed", UnitKind::Speed);
+    distance_ = makeFigure("totalDistance", UnitKind::Distance);
+    time_ = makeFigure("totalTime", UnitKind::Time);
+    for (const Figure* figure : {&speed_, &distance_, &time_}) {
+        row->addWidget(figure->caption);
+        row->addWidget(figure->value);
+        row->addWidget(figure->unit);
+        row->addSpacing(5 * kGrid);
+    }
+    row->addStretch(1);
+    Body()->addLayout(row);
+}
+
+void PortCallWindow::makeButtons() {
+    auto* row = new QHBoxLayout();
+    row->setSpacing(2 * kGrid);
+    const auto tool = [this](const char* name, const char* icon) {
+        auto* made = new QToolButton(this);
+        made->setObjectName(QString::fromLatin1(name));
+        made->setFixedSize(kControlHeight + 2, kControlHeight);
+        made->setFocusPolicy(Qt::TabFocus);
+        keepIcon(made, icon);
+        return made;
+    };
+    save_ = tool("saveButton", "save");
+    clear_ = tool("clearButton", "clear");
+    book_ = new QPushButton(this);
+    book_->setObjectName(QStringLiteral("positionBookButton"));
+    calculate_ = new QPushButton(this);
+    calculate_->setObjectName(QStringLiteral("calculateButton"));
+    calculate_->setProperty("primary", true);
+    for (QPushButton* button : {book_, calculate_}) {
+        button->setAutoDefault(false);
+        button->setFocusPolicy(Qt::TabFocus);
+    }
+    row->addWidget(save_);
+    row->addWidget(clear_);
+    row->addStretch(1);
+    row->addWidget(book_);
+    row->addWidget(calculate_);
+    Body()->addLayout(row);
+}
+
+void PortCallWindow::makeEditors() {
+    constexpr const char* kNames[] = {"portEditor", "speedEditor", "weatherEditor"};
+    constexpr int kMostCharacters = 30;
+    for (int i = 0; i < 3; ++i) {
+        editors_[i] = new QLineEdit(table_->viewport());
+        editors_[i]->setObjectName(QString::fromLatin1(kNames[i]));
+        editors_[i]->setMaxLength(kMostCharacters);
+        editors_[i]->hide();
+        editors_[i]->installEventFilter(this);
+    }
+}
+
+void PortCallWindow::makePopups() {
+    matches_ = new QListWidget(this);
+    matches_->setObjectName(QStringLiteral("portMatches"));
+    matches_->setFocusPolicy(Qt::NoFocus);
+    matches_->hide();
+    purposes_ = new QListWidget(this);
+    purposes_->setObjectName(QStringLiteral("purposeList"));
+    purposes_->hide();
+    purposes_->installEventFilter(this);
+    calendar_ = new CalendarPopup(this);
+}
+
+void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
+    panel_ = panel;
+    table_->SetReports({[panel](int row, int column) { panel->OnCellClicked(row, column); },
+                        [panel](int row, const std::string& name) { panel->OnItemImage(row, name); },
+                        [panel] { panel->OnTableLeft(); }});
+    QObject::connect(help_, &QToolButton::clicked, this, [panel] { panel->OnHelp(); });
+    QObject::connect(close_, &QToolButton::clicked, this, [panel] { panel->OnClose(); });
+    QObject::connect(save_, &QToolButton::clicked, this, [panel] { panel->OnSave(); });
+    QObject::connect(clear_, &QToolButton::clicked, this, [panel] { panel->OnClear(); });
+    QObject::connect(calculate_, &QPushButton::clicked, this, [panel] { panel->OnCalculate(); });
+    QObject::connect(editors_[0], &QLineEdit::textEdited, this,
+                     [panel](const QString& typed) { panel->OnPortTyped(typed.toStdString()); });
+    QObject::connect(matches_, &QListWidget::itemClicked, this,
+                     [panel](QListWidgetItem* item) { panel->OnMatchChosen(item->text().toStdString()); });
+    QObject::connect(purposes_, &QListWidget::itemClicked, this,
+                     [this, panel](QListWidgetItem* item) { panel->OnPurposeChosen(purposes_->row(item)); });
+    calendar_->SetChosen(
+        [panel](const Util::_datetime_t& time) { panel->OnTimeChosen(time.fmt(kTimeFormat)); });
+    ShowTable(panel->Table());
+    ShowState(panel->State());
+}
+
+void PortCallWindow::ShowTable(const PortCallTable& table) {
+    model_->Show(table);
+    table_->ApplyWidths();
+}
+
+void PortCallWindow::setButton(QAbstractButton* button, bool on, TextId tip, TextId whyNot) {
+    button->setEnabled(on);
+    button->setAccessibleName(text(tip));
+    button->setToolTip(on ? text(tip) : text(tip) + QStringLiteral(": ") + text(whyNot));
+}
+
+void PortCallWindow::ShowState(const PortCallState& state) {
+    state_ = state;
+    SetCaption(QString::fromStdString(state.caption));
+    SetChangedMark(state.changed, text(TextId::IDS_VIEW_CHANGED));
+    setButton(save_, state.canSave, TextId::IDS_PORTCALL_SAVE, TextId::IDS_VIEW_NOCHANGES);
+    setButton(clear_, state.canClear, TextId::IDS_PORTCALL_CLEAR, TextId::IDS_VIEW_CLEAROFF);
+    setButton(calculate_, state.canCalculate, TextId::IDS_PORTCALL_COMPUTE, TextId::IDS_VIEW_NEEDTWOPORTS);
+    // The position book has no window yet.
+    setButton(book_, false, TextId::IDS_PORTCALL_POSTBOOK,
+              state.canOpenBook ? TextId::IDS_VIEW_NOTYET : TextId::IDS_VIEW_BOOKNEEDSVOYAGE);
+    calculate_->setText(QString::fromStdString(state.calculateText));
+    speed_.value->setText(QString::fromStdString(state.averageSpeed));
+    distance_.value->setText(QString::fromStdString(state.totalDistance));
+    time_.value->setText(QString::fromStdString(state.totalTime));
+    speed_.unit->setText(QString::fromStdString(state.speedUnit));
+    distance_.unit->setText(QString::fromStdString(state.distanceUnit));
+    time_.unit->setText(QString::fromStdString(state.timeUnit));
+    applyTitles();
+}
+
+void PortCallWindow::applyTitles() {
+    QStringList titles;
+    for (int column = 0; column < PortCallColumnCount; ++column) {
+        QString title = text(kTitles[column]);
+        const std::string* unit = column == ColSpeed                                ? &state_.speedUnit
+                                  : column == ColSteamTime || column == ColPortTime ? &state_.timeUnit
+                                  : column == ColDistance                           ? &state_.distanceUnit
+                                                                                    : nullptr;
+        if (unit != nullptr) title += u'\n' + QString::fromStdString(*unit);
+        titles.append(title);
+    }
+    model_->SetTitles(titles);
+}
+
+void PortCallWindow::ApplyTexts() {
+    Describe(help_, text(TextId::IDS_PORTCALL_HELP));
+    Describe(close_, text(TextId::IDS_PORTCALL_CLOSE));
+    book_->setText(text(TextId::IDS_PORTCALL_POSTBOOK));
+    table_->setAccessibleName(text(TextId::IDS_VIEW_TABLE));
+    const std::pair<const Figure*, std::pair<TextId, TextId>> figures[] = {
+        {&speed_, {TextId::IDS_PORTCALL_AVARGERSPD, TextId::IDS_VIEW_AVERAGEHINT}},
+        {&distance_, {TextId::IDS_PORTCALL_TOTLEDISTANCE, TextId::IDS_VIEW_DISTANCEHINT}},
+        {&time_, {TextId::IDS_PORTCALL_TOTALTIME, TextId::IDS_VIEW_TIMEHINT}}};
+    for (const auto& [figure, ids] : figures) {
+        figure->caption->setText(text(ids.first));
+        Describe(figure->value, text(ids.first));
+        Describe(figure->unit, text(ids.second));
+    }
+    Describe(editors_[0], text(TextId::IDS_VIEW_PORTEDITOR));
+    Describe(editors_[1], text(TextId::IDS_VIEW_SPEEDEDITOR));
+    Describe(editors_[2], text(TextId::IDS_VIEW_WEATHEREDITOR));
+    Describe(purposes_, text(TextId::IDS_VIEW_PURPOSES));
+    Describe(matches_, text(TextId::IDS_VIEW_RENAMEHINT));
+    calendar_->ApplyTexts();
+    applyTitles();
+}
+
+void PortCallWindow::openUnitMenu(QToolButton* button, UnitKind kind) {
+    constexpr const char* kUnits[][2] = {{"kts", "KPH"}, {"NM", "KM"}, {"day", "hour"}};
+    panel_->OnTableLeft();
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("unitMenu"));
+    for (const char* unit : kUnits[static_cast<int>(kind)]) menu.addAction(QString::fromLatin1(unit));
+    const QAction* chosen = menu.exec(button->mapToGlobal(QPoint(0, button->height())));
+    if (chosen != nullptr) panel_->ChangeUnit(kind, chosen->text().toStdString());
+}
+
+void PortCallWindow::Show() {
+    show();
+    raise();
+}
+
+void PortCallWindow::Hide() {
+    hide();
+}
+
+void PortCallWindow::PlaceBesideTree() {
+    if (tree_ == nullptr) return;
+    const QPoint corner = tree_->mapToGlobal(QPoint(tree_->width(), 0));
+    move(corner.x() + 9, corner.y() + 30);
+}
+
+void PortCallWindow::SelectRow(int row) {
+    table_->selectRow(row);
+}
+
+void PortCallWindow::BringRowIntoView(int row) {
+    table_->scrollTo(model_->index(row, ColPort));
+}
+
+void PortCallWindow::RequestHelp(const std::string& topic) {
+    SendHelpRequest(parentWidget(), topic, 370, 440);
+}
+
+void* PortCallWindow::Handle() const {
+    return const_cast<PortCallWindow*>(this);
+}
+
+void PortCallWindow::ApplySkin() {
+    ToolWindow::ApplySkin();
+    calendar_->ApplySkin();
+    table_->viewport()->update();
+}
+
+void PortCallWindow::SurfacePressed() {
+    if (panel_ != nullptr) panel_->OnTableLeft();
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+#include <QPoint>
+#include <QToolButton>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+class QHBoxLayout;
+class QVBoxLayout;
+
+namespace Tarvik::Seaplan {
+
+/// A floating tool window: caption with title, changed mark and buttons; it moves by dragging any free
+/// surface.
+class ToolWindow : public QFrame {
+  public:
+    ToolWindow(QWidget* parent, const QString& name);
+
+    void SetCaption(const QString& text);
+    void SetChangedMark(bool shown, const QString& tip);
+    /// A button at the right end of the caption.
+    QToolButton* AddCaptionButton(const char* name, const std::string& icon);
+    QVBoxLayout* Body() { return body_; }
+    /// Colours and icons of the theme in force.
+    virtual void ApplySkin();
+
+  protected:
+    /// A press on the free surface, before the window begins to move.
+    virtual void SurfacePressed() {}
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    /// Remembers a button whose icon follows the theme.
+    void keepIcon(QAbstractButton* button, const std::string& icon);
+
+  private:
+    QHBoxLayout* captionRow_;
+    QVBoxLayout* body_;
+    QLabel* title_;
+    QLabel* changed_;
+    QPoint grip_;
+    bool dragging_ = false;
+    std::vector<std::pair<QAbstractButton*, std::string>> icons_;
+};
+
+/// Object name, accessible name and tool tip in one.
+void Describe(QWidget* widget, const QString& text);
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/tree/RowDelegate.h"
+
+#include "seaplan/views/skin/Icons.h"
+#include "seaplan/views/skin/Palette.h"
+#include "seaplan/views/tree/VoyageTreeView.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+QColor iconColour(const SubItem& part) {
+    const SkinPalette& skin = Skin();
+    if (part.icon == "plan") return skin.plan;
+    if (part.icon == "underway") return skin.underway;
+    if (part.icon == "finish") return skin.finished;
+    if (part.icon == "alert") return skin.warning;
+    if (part.icon == "pinned" || part.icon == "ais-on") return skin.accent;
+    return part.clickable ? skin.text : skin.secondary;
+}
+
+void paintPart(QPainter& painter, const SubItem& part, const QFont& base, bool deleted) {
+    const SkinPalette& skin = Skin();
+    if (part.kind == SubItemKind::Icon) {
+        QRect place(0, 0, kIconSize, kIconSize);
+        place.moveCenter(part.rect.center());
+        return PaintIcon(painter, place, part.icon, iconColour(part));
+    }
+    QFont font = base;
+    QColor colour = part.kind == SubItemKind::Link ? skin.accent : skin.text;
+    if (part.kind == SubItemKind::Count || part.kind == SubItemKind::Text) colour = skin.secondary;
+    if (deleted) colour = skin.secondary;
+    if (deleted && part.kind == SubItemKind::Name) font.setStrikeOut(true);
+    if (part.kind == SubItemKind::Link) font.setUnderline(true);
+    painter.setFont(font);
+    painter.setPen(colour);
+    const QString text = QFontMetrics(font).elidedText(part.text, Qt::ElideRight, part.rect.width());
+    painter.drawText(part.rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+}
+
+}  // namespace
+
+RowDelegate::RowDelegate(VoyageTreeView* view) : QStyledItemDelegate(view), view_(view) {}
+
+void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+    const TreeRow row = index.data(Qt::UserRole).toInt();
+    const TreeRowState* state = view_->Rows().Row(row);
+    if (state == nullptr) return;
+    const SkinPalette& skin = Skin();
+    const bool selected = view_->Rows().Selected() == row;
+    const bool category = state->parent == kNoRow;
+    const QRect line(0, option.rect.top(), view_->viewport()->width(), option.rect.height());
+    painter->save();
+    painter->fillRect(line, selected ? skin.selection : category ? skin.window : skin.panel);
+    if (selected) painter->fillRect(QRect(line.left(), line.top(), 3, line.height()), skin.accent);
+    QFont font = option.font;
+    font.setPixelSize(kTextPixels);
+    font.setBold(category);
+    const bool deleted = state->style == kDeletedCategoryStyle || state->style == kDeletedVoyageStyle;
+    for (const SubItem& part : view_->PartsOf(row)) {
+        paintPart(*painter, part, font, deleted);
+        if (selected && view_->hasFocus() && !part.name.empty() && part.name == view_->FocusedPart()) {
+            painter->setPen(skin.accent);
+            painter->drawRect(part.rect.adjusted(0, 0, -1, -1));
+        }
+    }
+    painter->restore();
+}
+
+QSize RowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
+    const TreeRow row = index.data(Qt::UserRole).toInt();
+    const TreeRowState* state = view_->Rows().Row(row);
+    if (state == nullptr) return {};
+    return {view_->viewport()->width(), RowHeight(*state, view_->Rows().Selected() == row)};
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/tree/RowLayout.h"
+
+#include <algorithm>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr int kButton = 24;
+constexpr int kMargin = 6;
+constexpr int kGap = 4;
+
+struct IconItem {
+    const char* name;
+    const char* icon;
+};
+
+constexpr IconItem kCategoryButtons[] = {{"Voyage_parent_rename", "rename"},
+                                         {"Voyage.parent.svr3", "add"},
+                                         {"Voyage.parent.svr6", "sort-up"},
+                                         {"Voyage.parent.svr6.desc", "sort-down"},
+                                         {"Voyage.parent.svr9", "sort"},
+                                         {"Voyage.parent.svr2.non", "remark"},
+                                         {"Voyage.parent.svr2.exist", "remark-full"},
+                                         {"Voyage.parent.svr7", "delete"}};
+constexpr IconItem kVoyageButtons[] = {
+    {"Voyage.child.svr4", "portcalls"},  {"Voyage.child.svr5", "consumption"},
+    {"Voyage.child.svr6", "noon"},       {"Voyage.child.svr8", "ais"},
+    {"Voyage.child.svr10", "ais-on"},    {"Voyage_modify", "modify"},
+    {"Voyage.child.svr3.non", "remark"}, {"Voyage.child.svr3.exist", "remark-full"},
+    {"Voyage.child.svr9", "delete"}};
+constexpr IconItem kDeletedButtons[] = {{"Voyage.parent.svr.recover", "recover"},
+                                        {"Voyage.parent.svr.clear", "clear"},
+                                        {"Voyage.child.svr.recover", "recover"},
+                                        {"Voyage.child.svr.clear", "clear"}};
+
+QString qt(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+/// Collects the parts of one row.
+class Builder {
+  public:
+    Builder(const TreeRowState& row, const QRect& rect, const TextWidth& width)
+        : row_(row), rect_(rect), width_(width) {}
+
+    const TreeItem* visible(const char* name) const {
+        const auto it = row_.items.find(name);
+        return it == row_.items.end() || !it->second.visible ? nullptr : &it->second;
+    }
+
+    void icon(const char* name, const char* iconName, const QRect& place) {
+        const TreeItem* item = visible(name);
+        if (item == nullptr) return;
+        parts_.push_back({name, SubItemKind::Icon, place, {}, iconName, qt(item->toolTip), true});
+    }
+
+    template <std::size_t N>
+    void buttons(const IconItem (&items)[N], int left, int top) {
+        for (const IconItem& item : items) {
+            if (visible(item.name) == nullptr) continue;
+            icon(item.name, item.icon, {left, top, kButton, kButton});
+            left += kButton + kGap;
+        }
+    }
+
+    /// Text of its own width, cut at `right`; gives the right end.
+    int text(const std::string& name, SubItemKind kind, const QString& text, int left, int top, int height,
+             int right, const QString& toolTip = {}) {
+        const int wide = std::max(0, std::min(width_(text), right - left));
+        parts_.push_back(
+            {name, kind, {left, top, wide, height}, text, {}, toolTip, kind == SubItemKind::Link});
+        return left + wide;
+    }
+
+    QString value(const char* item, const char* name) const {
+        const TreeItem* found = visible(item);
+        if (found == nullptr) return {};
+        const auto it = found->values.find(name);
+        return it == found->values.end() ? QString() : qt(it->second);
+    }
+
+    int textWidth(const QString& text) const { return width_(text); }
+    const QRect& rect() const { return rect_; }
+    const TreeRowState& row() const { return row_; }
+    void add(SubItem part) { parts_.push_back(std::move(part)); }
+    std::vector<SubItem> take() { return std::move(parts_); }
+
+  private:
+    const TreeRowState& row_;
+    QRect rect_;
+    const TextWidth& width_;
+    std::vector<SubItem> parts_;
+};
+
+void layoutCategory(Builder& b, bool selected) {
+    const QRect& r = b.rect();
+    constexpr int kLine = 31;
+    b.add({"fold",
+           SubItemKind::Icon,
+           {r.left() + 4, r.top() + 7, 16, 16},
+           {},
+           b.row().expanded ? "chevron-down" : "chevron-right",
+           {},
+           false});
+    const TreeItem* count = b.visible("cat.statistic");
+    const QString counted = count == nullptr ? QString() : qt(count->text);
+    const int right = r.right() - kMargin - b.textWidth(counted);
+    const int end = b.text("name", SubItemKind::Name, qt(b.row().text), r.left() + 24, r.top(), kLine, right,
+                           qt(b.row().text));
+    b.text("cat.statistic", SubItemKind::Count, counted, end, r.top(), kLine, r.right() - kMargin);
+    if (selected) b.buttons(kCategoryButtons, r.left() + 20, r.top() + kLine + 1);
+}
+
+const char* statusIcon(const QString& image) {
+    if (image == QLatin1String("#Voyage_status_underway")) return "underway";
+    return image == QLatin1String("#Voyage_status_finish") ? "finish" : "plan";
+}
+
+void layoutVoyageHead(Builder& b, bool selected) {
+    const QRect& r = b.rect();
+    constexpr int kLine = 30;
+    const int left = r.left() + kMargin;
+    const QRect pin(left, r.top() + 3, kButton, kButton);
+    b.icon("Voyage.child.svr1.default", "pin", pin);
+    b.icon("Voyage.child.svr1.auto", "pinned", pin);
+    const QString image = b.value("Voyage.child.svr2", "Voyage_Status");
+    int right = r.right() - kMargin;
+    if (!image.isEmpty()) {
+        right -= 16 + kGap;
+        const TreeItem* item = b.visible("Voyage.child.svr2");
+        b.add({"Voyage.child.svr2",
+               SubItemKind::Icon,
+               {right + kGap, r.top() + 7, 16, 16},
+               {},
+               statusIcon(image),
+               qt(item->toolTip),
+               true});
+    }
+    const int nameRight = selected ? right - kButton - kGap : right;
+    const int end = b.text("name", SubItemKind::Name, qt(b.row().text), pin.right() + kGap, r.top(), kLine,
+                           nameRight, qt(b.row().text));
+    if (selected) b.icon("Voyage_child_rename", "rename", {end + kGap, r.top() + 3, kButton, kButton});
+}
+
+void layoutVoyageDates(Builder& b, int left, int right) {
+    constexpr int kLine = 26;
+    const int top = b.rect().top() + 32;
+    if (b.visible("Voyage_Date") != nullptr) {
+        const QString text = b.value("Voyage_Date", "Sailing") + u' ' + b.value("Voyage_Date", "Saildate") +
+                             QStringLiteral("   ") + b.value("Voyage_Date", "Ending") + u' ' +
+                             b.value("Voyage_Date", "Enddate");
+        b.text("Voyage_Date", SubItemKind::Text, text, left, top, kLine, right);
+    } else if (b.visible("Voyage_setPortCall") != nullptr) {
+        const QString text = b.value("Voyage_setPortCall", "setPortCall");
+        b.text("Voyage_setPortCall", SubItemKind::Link, text, left, top, kLine, right, text);
+    }
+}
+
+void layoutVoyageVessel(Builder& b, int left, int right) {
+    constexpr int kLine = 26;
+    const int top = b.rect().top() + 60;
+    int end = left;
+    if (b.visible("Voyage_ShipInfo") != nullptr) {
+        const QString text =
+            b.value("Voyage_ShipInfo", "ShipInfo") + u' ' + b.value("Voyage_ShipInfo", "ShipName");
+        end = b.text("Voyage_ShipInfo", SubItemKind::Link, text, left, top, kLine,
+                     right - 2 * (kButton + kGap), text);
+    } else if (b.visible("Voyage_AssignShip") != nullptr) {
+        const QString text = b.value("Voyage_AssignShip", "AssignShip");
+        end = b.text("Voyage_AssignShip", SubItemKind::Link, text, left, top, kLine, right - kButton, text);
+    }
+    if (b.visible("Voyage_Alert") != nullptr) {
+        b.icon("Voyage_Alert", "alert", {end + kGap, top + 1, kButton, kButton});
+        end += kButton + kGap;
+    }
+    b.icon("Voyage_ReplaceShip", "replace", {end + kGap, top + 1, kButton, kButton});
+}
+
+}  // namespace
+
+int RowHeight(const TreeRowState& row, bool selected) {
+    if (row.style == kCategoryStyle) return selected ? 61 : 31;
+    if (row.style == kVoyageStyle) return selected ? 123 : 30;
+    return row.parent == kNoRow ? 31 : 30;
+}
+
+std::vector<SubItem> LayoutRow(const TreeRowState& row, const QRect& rect, bool selected,
+                               const TextWidth& width) {
+    Builder b(row, rect, width);
+    if (row.style == kCategoryStyle) {
+        layoutCategory(b, selected);
+    } else if (row.style == kVoyageStyle) {
+        layoutVoyageHead(b, selected);
+        if (!selected) return b.take();
+        const int left = rect.left() + kMargin + kButton + kGap;
+        const int right = rect.right() - kMargin;
+        layoutVoyageDates(b, left, right);
+        layoutVoyageVessel(b, left, right);
+        b.buttons(kVoyageButtons, left - 4, rect.top() + 93);
+    } else {
+        const int left = rect.left() + 24;
+        const int right = rect.right() - kMargin - 2 * (kButton + kGap);
+        b.text("name", SubItemKind::Name, qt(row.text), left, rect.top(), rect.height(), right, qt(row.text));
+        b.buttons(kDeletedButtons, right + kGap, rect.top() + 3);
+    }
+    return b.take();
+}
+
+const SubItem* SubItemAt(const std::vector<SubItem>& parts, const QPoint& point) {
+    const auto it = std::find_if(parts.begin(), parts.end(), [&](const SubItem& part) {
+        return part.clickable && part.rect.contains(point);
+    });
+    return it == parts.end() ? nullptr : &*it;
+}
+
+}  // namespace Tarvik::Seaplan

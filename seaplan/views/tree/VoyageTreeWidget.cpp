@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/tree/VoyageTreeWidget.h"
+
+#include "seaplan/views/tree/VoyageTreeView.h"
+
+#include <QLineEdit>
+
+namespace Tarvik::Seaplan {
+
+QStandardItem* VoyageTreeWidget::ItemOf(TreeRow row) const {
+    const auto it = items_.find(row);
+    return it == items_.end() ? nullptr : it->second;
+}
+
+Rect VoyageTreeWidget::GetItemRect(TreeRow row) const {
+    QStandardItem* item = ItemOf(row);
+    if (item == nullptr) return {};
+    const QRect rect = view_.visualRect(item->index());
+    return {0, rect.top(), view_.viewport()->width(), rect.bottom() + 1};
+}
+
+void VoyageTreeWidget::ShowRenameEditor(const Rect& place, const std::string& text, int maxUnits) {
+    QLineEdit* editor = view_.rename_;
+    editor->setMaxLength(maxUnits);
+    editor->setText(QString::fromStdString(text));
+    editor->setGeometry(place.left, place.top, place.right - place.left, place.bottom - place.top);
+    renaming_ = true;
+    editor->show();
+    editor->raise();
+    editor->setFocus();
+    editor->selectAll();
+}
+
+void VoyageTreeWidget::HideRenameEditor() {
+    renaming_ = false;
+    view_.rename_->hide();
+    view_.rename_->clear();
+}
+
+std::string VoyageTreeWidget::RenameEditorText() const {
+    return view_.rename_->text().toStdString();
+}
+
+void VoyageTreeWidget::ShowSortPanel(const std::string& ci, int sortKey) {
+    view_.showSortPanel(ci, sortKey);
+}
+
+void VoyageTreeWidget::HidePopups() {
+    if (view_.sortPanel_ != nullptr) view_.sortPanel_->hide();
+}
+
+void VoyageTreeWidget::SetEnabled(bool enabled) {
+    view_.setEnabled(enabled);
+}
+
+void* VoyageTreeWidget::Handle() const {
+    return view_.window();
+}
+
+void VoyageTreeWidget::RowInserted(TreeRow row) {
+    auto* item = new QStandardItem(QString::fromStdString(GetItemText(row)));
+    item->setData(row, Qt::UserRole);
+    item->setEditable(false);
+    QStandardItem* parent = ItemOf(GetParentItem(row));
+    (parent == nullptr ? view_.model_->invisibleRootItem() : parent)->appendRow(item);
+    items_[row] = item;
+}
+
+void VoyageTreeWidget::RowRemoving(TreeRow row) {
+    QStandardItem* item = ItemOf(row);
+    if (item == nullptr) return;
+    items_.erase(row);
+    QStandardItem* parent = item->parent();
+    (parent == nullptr ? view_.model_->invisibleRootItem() : parent)->removeRow(item->row());
+}
+
+void VoyageTreeWidget::RowsCleared() {
+    items_.clear();
+    view_.model_->removeRows(0, view_.model_->rowCount());
+    view_.focusPart_ = -1;
+}
+
+void VoyageTreeWidget::RowChanged(TreeRow row) {
+    QStandardItem* item = ItemOf(row);
+    if (item == nullptr) return;
+    const QString text = QString::fromStdString(GetItemText(row));
+    if (item->text() != text) item->setText(text);
+    view_.viewport()->update();
+}
+
+void VoyageTreeWidget::RowSelected(TreeRow row) {
+    QStandardItem* item = ItemOf(row);
+    if (item != nullptr && view_.currentIndex() != item->index()) view_.setCurrentIndex(item->index());
+    view_.focusPart_ = -1;
+    view_.relayout();
+}
+
+void VoyageTreeWidget::RowExpanded(TreeRow row, bool expanded) {
+    QStandardItem* item = ItemOf(row);
+    if (item != nullptr) view_.setExpanded(item->index(), expanded);
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/tree/TreeRows.h"
+
+#include <map>
+
+class QStandardItem;
+
+namespace Tarvik::Seaplan {
+
+class VoyageTreeView;
+
+/// Rows with their places in the view's model.
+class VoyageTreeWidget final : public TreeRows {
+  public:
+    explicit VoyageTreeWidget(VoyageTreeView& view) : view_(view) {}
+
+    Rect GetItemRect(TreeRow row) const override;
+    void ShowRenameEditor(const Rect& place, const std::string& text, int maxUnits) override;
+    void HideRenameEditor() override;
+    bool RenameEditorVisible() const override { return renaming_; }
+    std::string RenameEditorText() const override;
+    void ShowSortPanel(const std::string& ci, int sortKey) override;
+    void HidePopups() override;
+    void SetEnabled(bool enabled) override;
+    void* Handle() const override;
+
+    QStandardItem* ItemOf(TreeRow row) const;
+
+  protected:
+    void RowInserted(TreeRow row) override;
+    void RowRemoving(TreeRow row) override;
+    void RowsCleared() override;
+    void RowChanged(TreeRow row) override;
+    void RowSelected(TreeRow row) override;
+    void RowExpanded(TreeRow row, bool expanded) override;
+
+  private:
+    VoyageTreeView& view_;
+    std::map<TreeRow, QStandardItem*> items_;
+    bool renaming_ = false;
+};
+
+}  // namespace Tarvik::Seaplan

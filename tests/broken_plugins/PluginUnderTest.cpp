@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// One source for all plug-ins of these tests; the build gives each its name, its needs and its fault.
+#include <tarvik/core/PluginInfo.h>
+
+#include <cstdlib>
+#include <stdexcept>
+
+#define EXPORTED extern "C" __attribute__((visibility("default")))
+
+namespace {
+
+#ifndef FAULT_NO_RECORD
+Tarvik::Plugin::CPluginInfo* Record() {
+    static Tarvik::Plugin::CPluginInfo info(PLUGIN_NEEDS);
+    info.name = PLUGIN_NAME;
+    info.version = PLUGIN_VERSION;
+    return &info;
+}
+#endif
+
+/// Leaves a trace of each call in the environment, in the order of the calls.
+[[maybe_unused]] void Trace(const char* what) {
+    const char* before = std::getenv("PLUGIN_TRACE");
+    const std::string trace = std::string(before ? before : "") + what + ":" + PLUGIN_NAME + " ";
+    setenv("PLUGIN_TRACE", trace.c_str(), 1);
+}
+
+}  // namespace
+
+EXPORTED Tarvik::Plugin::CPluginInfo* PluginInfo() {
+#ifdef FAULT_NO_RECORD
+    return nullptr;
+#else
+    return Record();
+#endif
+}
+
+EXPORTED bool CheckEnvironment() {
+#ifdef FAULT_REFUSES
+    return false;
+#else
+    return true;
+#endif
+}
+
+EXPORTED bool Load() {
+    Trace("load");
+#if defined(FAULT_THROWS)
+    throw std::runtime_error("no fuel");
+#elif defined(FAULT_FALSE)
+    return false;
+#else
+    return true;
+#endif
+}
+
+#ifndef FAULT_NO_EXPORT
+EXPORTED bool UnLoad() {
+    Trace("unload");
+    return true;
+}
+#endif
+
+EXPORTED void InitPlugin() {
+    Trace("init");
+#ifdef FAULT_INIT_THROWS
+    throw 7;
+#endif
+}
+
+EXPORTED void SuiteLoaded() {
+    Trace("suite");
+}

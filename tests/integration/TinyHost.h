@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "testsupport/ManualClock.h"
+#include "testsupport/PortDictionary.h"
+#include "testsupport/RecordingHost.h"
+
+#include <gtest/gtest.h>
+#include <tarvik/core/PluginInfo.h>
+
+#include <filesystem>
+#include <memory>
+
+namespace Tarvik::Integration {
+
+/// The plug-in as a host sees it: a library file and six names.
+class LoadedPlugin {
+  public:
+    /// Loads the library once for the process; it stays until the end, as in the client.
+    static const LoadedPlugin& Get();
+
+    bool (*load)() = nullptr;
+    bool (*unload)() = nullptr;
+    Plugin::CPluginInfo* (*info)() = nullptr;
+    void (*init)() = nullptr;
+    void (*suiteLoaded)() = nullptr;
+    bool (*checkEnvironment)() = nullptr;
+
+  private:
+    LoadedPlugin();
+    void* library_ = nullptr;
+};
+
+/// A host around the loaded plug-in: recorded services, a clock that stands, a data folder of its own.
+class TinyHost : public testing::Test {
+  protected:
+    TinyHost();
+    ~TinyHost() override;
+
+    TestSupport::ManualClock clock;
+    TestSupport::RecordingHost host;
+    TestSupport::PortDictionary dictionary;
+    const LoadedPlugin& plugin = LoadedPlugin::Get();
+
+  private:
+    std::filesystem::path folder_;
+};
+
+}  // namespace Tarvik::Integration
