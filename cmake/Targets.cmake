@@ -20,18 +20,23 @@ if(SEAPLAN_FUZZ)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-function(seaplan_common target)
-  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+function(seaplan_warnings target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
     -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
   # g++ 12 sees overlapping copies where a text is assigned a literal (its bug 105651).
   target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 endfunction()
 
+function(seaplan_common target)
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+  seaplan_warnings(${target})
+endfunction()
+
 function(seaplan_library target)
   cmake_parse_arguments(arg "" "" "SOURCES;DEPS;PRIVATE_DEPS" ${ARGN})
   add_library(${target} STATIC ${arg_SOURCES})
   seaplan_common(${target})
+  seaplan_precompile(${target} library)
   target_link_libraries(${target} PUBLIC ${arg_DEPS} PRIVATE ${arg_PRIVATE_DEPS})
 endfunction()
 
@@ -50,6 +55,9 @@ function(seaplan_test target)
   cmake_parse_arguments(arg "" "" "SOURCES;DEPS" ${ARGN})
   add_executable(${target} ${arg_SOURCES})
   seaplan_common(${target})
+  # Qt asks for it, and all tests share one precompiled file.
+  target_compile_options(${target} PRIVATE -fPIC)
+  seaplan_precompile(${target} test)
   target_link_libraries(${target} PRIVATE ${arg_DEPS} GTest::gtest_main GTest::gmock)
   set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${target} COMMAND ${target})

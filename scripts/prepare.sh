@@ -2,7 +2,12 @@
 # Sourced by ./run and ./test: installs missing Debian packages and names the build folders.
 # Usage: . scripts/prepare.sh; install_missing
 
+# One cache serves every checkout: paths count from its root, and precompiled headers by their content.
+export CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+export CCACHE_BASEDIR=$root
 
 missing_packages() {
     grep -v '^#' "$root/cmake/debian-packages.txt" | while read -r package; do

@@ -72,6 +72,9 @@ RecordingHost::RecordingHost() {
     bind<&RecordingHost::onUser>(Bus::User.name);
     bind<&RecordingHost::onZone>(Bus::CurrentTimeZone.name);
     bind<&RecordingHost::onPositions>(Bus::VesselPositions.name);
+    bind<&RecordingHost::onVesselCard>(Bus::ShowVesselCard.name);
+    bind<&RecordingHost::onTrack>(Bus::VesselTrace.name);
+    bind<&RecordingHost::onHideTrack>(Bus::HideAisTrack.name);
     bindChart();
 }
 
@@ -155,6 +158,21 @@ void* RecordingHost::onZone(void*) {
 void* RecordingHost::onPositions(void* input) {
     positionQueries.push_back(as<std::vector<std::string>>(input));
     return positions ? &*positions : nullptr;
+}
+
+void* RecordingHost::onVesselCard(void* input) {
+    vesselCards.push_back(as<Interface::VesselCard>(input));
+    return nullptr;
+}
+
+void* RecordingHost::onTrack(void* input) {
+    trackQueries.push_back(as<Interface::VesselTraceRequest>(input));
+    return textOf(track);
+}
+
+void* RecordingHost::onHideTrack(void* input) {
+    hiddenTracks.push_back(as<std::string>(input));
+    return nullptr;
 }
 
 void* RecordingHost::onAddLayer(void* input) {

@@ -64,6 +64,10 @@ class RecordingHost : public Core::TObject {
     std::vector<RecordedRequest> requests;
     std::vector<ChartCall> chartCalls;
     std::vector<std::vector<std::string>> positionQueries;
+    std::vector<Interface::VesselCard> vesselCards;
+    std::optional<std::string> track;  ///< answer to a question for a vessel's track
+    std::vector<Interface::VesselTraceRequest> trackQueries;
+    std::vector<std::string> hiddenTracks;
     int logins = 0;
 
   private:
@@ -76,6 +80,9 @@ class RecordingHost : public Core::TObject {
     void* onUser(void* input);
     void* onZone(void* input);
     void* onPositions(void* input);
+    void* onVesselCard(void* input);
+    void* onTrack(void* input);
+    void* onHideTrack(void* input);
     void* onAddLayer(void* input);
     void* onAddLine(void* input);
     void* onAddLabel(void* input);

@@ -14,6 +14,10 @@ int main(int argc, char** argv) {
         std::fputs(kHelpText, stdout);
         return kExitDone;
     }
+    if (line.version) {
+        std::puts("Seaplan " SEAPLAN_VERSION);
+        return kExitDone;
+    }
     if (!line.error.empty()) {
         std::fprintf(stderr, "%s\n", line.error.c_str());
         return kExitBadInput;

@@ -17,6 +17,7 @@ using Server::ByteWriter;
 
 constexpr std::string_view kMagic = "LANDV001";
 constexpr size_t kHeaderBytes = 16;
+constexpr const char* kAdvice = ". Build or install the client again.";
 
 void put(ByteWriter& w, const std::vector<LandFile::Cell>& cells) {
     w.count(cells.size());
@@ -93,11 +94,13 @@ std::optional<LandFile> LandFile::decode(const std::string& bytes, std::string& 
 std::optional<LandFile> LandFile::load(const std::string& path, std::string& error) {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        error = "cannot open the land file " + path;
+        error = "cannot open the land file " + path + kAdvice;
         return std::nullopt;
     }
-    return decode(std::string((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>()),
-                  error);
+    const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    std::optional<LandFile> land = decode(bytes, error);
+    if (!land) error += ": " + path + kAdvice;
+    return land;
 }
 
 std::string LandFile::save(const std::string& path) const {

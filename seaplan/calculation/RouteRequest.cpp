@@ -68,7 +68,7 @@ std::string RouteRequestText(const std::vector<std::string>& pointIds) {
 bool AlternativeRequestText(const RouteStops& stops, const std::string& oldId, const std::string& newId,
                             std::string& text) {
     const RouteStop* owner = nullptr;
-    const RoutePointGroup* group = findGroup(stops, oldId, owner);
+    const RoutePointGroup* group = oldId.empty() ? nullptr : findGroup(stops, oldId, owner);
     if (group == nullptr || owner->routes.empty()) {
         return false;
     }

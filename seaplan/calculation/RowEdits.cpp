@@ -8,16 +8,16 @@ int sizeOf(const PortCallRows& rows) {
     return static_cast<int>(rows.size());
 }
 
-/// Puts a copy of row `from` before `to` and takes the row out that then stands at `gone`.
-int moveRow(const PortCallRows& rows, int from, int to, int gone, PortCallRows& out) {
+/// Puts a copy of row `from` `by` places on and takes the row out that then stands `gone` places on.
+int moveRow(const PortCallRows& rows, int from, int by, int gone, PortCallRows& out) {
     PortCallRows inserted;
     const bool known = from >= 0 && from < sizeOf(rows);
-    if (!known || InsertRowAt(rows, to, rows[static_cast<std::size_t>(from)], inserted) != 0) {
+    if (!known || InsertRowAt(rows, from + by, rows[static_cast<std::size_t>(from)], inserted) != 0) {
         out.clear();
         return -1;
     }
     PortCallRows result;
-    if (RemoveRowAt(inserted, gone, result) != 0) {
+    if (RemoveRowAt(inserted, from + gone, result) != 0) {
         out.clear();
         return -2;
     }
@@ -54,11 +54,11 @@ int RemoveRowAt(const PortCallRows& rows, int index, PortCallRows& out) {
 }
 
 int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) {
-    return moveRow(rows, index, index - 1, index + 1, out);
+    return moveRow(rows, index, -1, 1, out);
 }
 
 int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out) {
-    return moveRow(rows, index, index + 2, index, out);
+    return moveRow(rows, index, 2, 0, out);
 }
 
 }  // namespace Tarvik::Seaplan

@@ -63,6 +63,10 @@ double SteamTime(double distance, double speed, double weather) {
     return distance / ((1 - weather) * speed);
 }
 
+double SpeedForSteamTime(double distance, double hours, double weather) {
+    return distance / ((1 - weather) * hours);
+}
+
 int BuildSchedule(const Util::_datetime_t& start, const PortCallRows& rows, PortCallRows& out) {
     PortCallRows result;
     result.reserve(rows.size());

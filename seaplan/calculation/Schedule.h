@@ -11,6 +11,9 @@ namespace Tarvik::Seaplan {
 /// Hours for `distance` NM at `speed` knots and weather factor `weather`: d / ((1 - w) * s). Not finite for a
 /// factor of 1 or a speed of 0.
 double SteamTime(double distance, double speed, double weather);
+/// The same formula solved for the speed in knots: what an arrival at a given time asks of a leg, whatever
+/// its speed was. Not finite for a factor of 1 or 0 hours.
+double SpeedForSteamTime(double distance, double hours, double weather);
 /// Schedule of rows that have distances, starting at `start`. A missing speed becomes 10 knots. 0; -1 when a
 /// steam time is not finite, with `out` empty.
 int BuildSchedule(const Util::_datetime_t& start, const PortCallRows& rows, PortCallRows& out);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/chart/LineSplit.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace Tarvik::Seaplan {
 namespace {
 
@@ -43,6 +46,14 @@ int SplitAtDateLine(const PointTexts& points, std::vector<PointTexts>& pieces) {
         }
     }
     return 0;
+}
+
+PointTexts JoinTracks(const PointTexts& first, const PointTexts& second) {
+    PointTexts joined;
+    for (const auto* list : {&first, &second}) {
+        std::unique_copy(list->begin(), list->end(), std::back_inserter(joined));
+    }
+    return joined;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -12,5 +12,7 @@ using PointTexts = std::vector<std::string>;
 /// becomes 179.99 or -179.99. 0 with the pieces of at least two points; -1 fewer than two points. Of a run of
 /// equal texts only the last stays. A jump from 179 to -179 without a point at 180 is not cut.
 int SplitAtDateLine(const PointTexts& points, std::vector<PointTexts>& pieces);
+/// Both lists in one, without points equal to their predecessor in their own list.
+PointTexts JoinTracks(const PointTexts& first, const PointTexts& second);
 
 }  // namespace Tarvik::Seaplan

@@ -251,6 +251,17 @@ int VoyageLayer::DrawBook(const std::string& vi, const PointTexts& positions) {
     return SetExtent(positions) == 0 ? 0 : -6;
 }
 
+int VoyageLayer::DrawShipAndTrack(const std::string& id, const std::string& position, const PointTexts& first,
+                                  const PointTexts& second) {
+    shipIcon.ref.id = id;
+    if (PlaceShip(shipIcon, position) != 0) {
+        return -1;
+    }
+    const PointTexts track = JoinTracks(first, second);
+    remainingLine.ref.id = id;
+    return track.size() < 2 || DrawLine(remainingLine, track, 1) == 0 ? 0 : -2;
+}
+
 void VoyageLayer::AddAlternativeLabel(const RoutePointRow& point) {
     addLabel(alternativeLabel, point);
 }

@@ -38,6 +38,10 @@ class VoyageLayer {
     /// Draws the rows of a position book as the remaining line. -1 fewer than two; -2, -3; -4 empty id; -5,
     /// -6.
     int DrawBook(const std::string& vi, const PointTexts& positions);
+    /// Puts the ship's icon at `position` and draws two stretches as one remaining line when they have two
+    /// points together. -1 empty position, -2 the line.
+    int DrawShipAndTrack(const std::string& id, const std::string& position, const PointTexts& first,
+                         const PointTexts& second);
     /// Labels one alternative of a route point.
     void AddAlternativeLabel(const RoutePointRow& point);
     void ClearAlternatives();

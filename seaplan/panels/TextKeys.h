@@ -197,14 +197,16 @@
     KEY(9036, IDS_VIEW_EXPAND) \
     KEY(9037, IDS_VIEW_HOUR) \
     KEY(9038, IDS_VIEW_MINUTE) \
-    KEY(9039, IDS_VIEW_RENAMEHINT)
+    KEY(9039, IDS_VIEW_RENAMEHINT) \
+    KEY(9040, IDS_VIEW_UNKNOWNPORT)
 // clang-format on
 
 namespace Tarvik::Seaplan {
 
 /// A text of the plug-in; the value is its number in the string table.
 enum class TextId : int {
-#define SEAPLAN_TEXT_ID(number, key) key = number,
+// An enumerator cannot stand in parentheses.
+#define SEAPLAN_TEXT_ID(number, key) key = number,  // NOLINT(bugprone-macro-parentheses)
     SEAPLAN_TEXT_KEYS(SEAPLAN_TEXT_ID)
 #undef SEAPLAN_TEXT_ID
 };

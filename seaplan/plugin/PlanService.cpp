@@ -6,12 +6,17 @@
 #include "seaplan/data/controllers/PortPreparation.h"
 #include "seaplan/data/controllers/VoyCatalogController.h"
 #include "seaplan/data/controllers/VoyController.h"
+#include "seaplan/panels/tree/NameRules.h"
 
+#include <cmath>
 #include <utility>
 
 namespace Tarvik::Seaplan {
 
 namespace {
+
+constexpr double kLeastSpeed = 0.01;
+constexpr double kMostWeather = 0.9999999;
 
 PortCallRows rowsOf(const PlanRequest& request) {
     PortCallRows rows;
@@ -26,6 +31,34 @@ PortCallRows rowsOf(const PlanRequest& request) {
         rows.push_back(row);
     }
     return rows;
+}
+
+/// What is wrong with a port's figures, empty when nothing is. The schedule would repair a missing speed,
+/// which a person who typed it does not expect.
+std::string complaintOf(const PlanPort& port) {
+    if (!(static_cast<double>(port.speed) >= kLeastSpeed) || !std::isfinite(port.speed)) {
+        return "the speed must be above 0.01 knots";
+    }
+    if (!(port.weather >= 0) || static_cast<double>(port.weather) > kMostWeather) {
+        return "the weather factor must be from 0 to below 100 %";
+    }
+    return port.portTime >= 0 ? "" : "the hours in port must be 0 or more";
+}
+
+/// Words for a code of CalculatePortCalls.
+std::string calculationStep(int code) {
+    switch (code) {
+        case -1:
+            return "the server has no route for these ports";
+        case -2:
+            return "speed, weather and stays lead to times that do not exist";
+        case -3:
+            return "the table of ports and route points is missing or does not know the route's points";
+        case -4:
+            return "the route has a leg without length";
+        default:
+            return "the route could not be put on the chart";
+    }
 }
 
 PointTexts positionsOf(const BookPoints& book) {
@@ -46,6 +79,8 @@ void* PlanService::OnPlan(void* request) {
 }
 
 const PlanResult& PlanService::Plan(const PlanRequest& request) {
+    const bool loadedBefore = !store_->categories.empty();
+    RouteStops pending = voyages_->Module().CurrentStops();
     result_ = {};
     if (run(request) < 0) {
         PlanResult failure;
@@ -53,8 +88,12 @@ const PlanResult& PlanService::Plan(const PlanRequest& request) {
         failure.step = result_.step;
         result_ = failure;
     }
-    // A panel that saves later must not take this route for its own.
-    voyages_->ForgetPortList();
+    // A panel that saves later must neither take this route for its own nor miss the one it has calculated.
+    voyages_->Module().SetCurrentStops(std::move(pending));
+    // The voyage panel builds its tree when it finds nothing loaded, so what was loaded here goes again.
+    if (!loadedBefore) {
+        store_->Clear();
+    }
     return result_;
 }
 
@@ -66,14 +105,10 @@ int PlanService::fail(int code, const std::string& step) {
 
 int PlanService::run(const PlanRequest& request) {
     PortCallRows rows;
-    PortCallRows scheduled;
     if (connect() < 0 || prepare(request, rows) < 0 || checkNames(request) < 0) {
         return result_.code;
     }
-    if (voyages_->CalculatePortCalls(rows, scheduled) < 0) {
-        return fail(PlanNotCalculated, "no route or schedule for these ports");
-    }
-    if (fillResult(scheduled) < 0) {
+    if (calculate(rows) < 0 || fillResult() < 0) {
         return result_.code;
     }
     return request.save ? save(request) : 0;
@@ -88,6 +123,11 @@ int PlanService::connect() {
 }
 
 int PlanService::prepare(const PlanRequest& request, PortCallRows& rows) {
+    for (const PlanPort& port : request.ports) {
+        if (const std::string complaint = complaintOf(port); !complaint.empty()) {
+            return fail(PlanNotCalculated, complaint);
+        }
+    }
     PortCallRows typed = rowsOf(request);
     PrepareFirstPurpose(typed);
     voyages_->ResolvePortIds(typed);
@@ -106,17 +146,31 @@ int PlanService::checkNames(const PlanRequest& request) {
     if (!request.save) {
         return 0;
     }
-    if (request.category.empty() || request.voyage.empty()) {
+    const std::string voyage = NormalizeName(request.voyage);
+    if (NormalizeName(request.category).empty() || voyage.empty()) {
         return fail(PlanNameMissing, "a saved voyage needs a name and a category");
     }
     std::map<std::string, int> categories;
     std::map<std::string, int> voyages;
     catalog_->GetNameMaps(categories, voyages);
-    return voyages.count(request.voyage) > 0 ? fail(PlanNameTaken, "a voyage of this name exists") : 0;
+    return voyages.count(voyage) > 0 ? fail(PlanNameTaken, "a voyage of this name exists") : 0;
 }
 
-int PlanService::fillResult(const PortCallRows& rows) {
-    BookPoints book;
+int PlanService::calculate(const PortCallRows& rows) {
+    PortCallRows& scheduled = result_.rows;
+    if (const int code = voyages_->CalculatePortCalls(rows, scheduled); code < 0) {
+        return fail(PlanNotCalculated, calculationStep(code));
+    }
+    // A schedule pass makes the first port one of loading and drops the ids; a person may change the purpose
+    // afterwards, and the answer tells both.
+    scheduled.front().pp = rows.front().pp;
+    voyages_->ResolvePortIds(scheduled);
+    return 0;
+}
+
+int PlanService::fillResult() {
+    const PortCallRows& rows = result_.rows;
+    BookPoints& book = result_.book;
     if (voyages_->Module().BookFromCurrentStops(book) < 0) {
         return fail(PlanNotCalculated, "the route makes no position book");
     }
@@ -129,12 +183,12 @@ int PlanService::fillResult(const PortCallRows& rows) {
     }
     TotalsOf(rows, result_.totals);
     SummaryOf(rows, result_.summary);
-    result_.rows = rows;
-    result_.book = std::move(book);
     return 0;
 }
 
-int PlanService::findCategory(const std::string& name) {
+/// `made` tells whether the category is a new one.
+int PlanService::findCategory(const std::string& name, bool& made) {
+    made = false;
     for (const auto& [ci, category] : store_->categories) {
         const auto state = store_->categoryStates.find(ci);
         if (category.cn == name && state != store_->categoryStates.end() && state->second == InUse) {
@@ -142,20 +196,34 @@ int PlanService::findCategory(const std::string& name) {
             return 0;
         }
     }
+    made = true;
     return catalog_->AddCategory(name, result_.ci);
 }
 
 int PlanService::save(const PlanRequest& request) {
-    if (findCategory(request.category) < 0) {
+    bool newCategory = false;
+    if (findCategory(NormalizeName(request.category), newCategory) < 0) {
         return fail(PlanNoCategory, "the category could not be made");
     }
-    if (catalog_->AddVoyage(request.voyage, result_.ci, result_.vi) < 0) {
+    if (catalog_->AddVoyage(NormalizeName(request.voyage), result_.ci, result_.vi) < 0) {
+        takeBack(newCategory);
         return fail(PlanNoVoyage, "the voyage could not be made");
     }
     if (voyages_->SaveSchedule(result_.vi, result_.rows, -1) < 0) {
+        takeBack(newCategory);
         return fail(PlanNotSaved, "the schedule could not be saved");
     }
     return 0;
+}
+
+/// Leaves nothing half saved behind. A server that is gone cannot be told.
+void PlanService::takeBack(bool newCategory) {
+    if (!result_.vi.empty()) {
+        catalog_->DestroyVoyage(result_.ci, result_.vi);
+    }
+    if (newCategory) {
+        catalog_->DestroyCategory(result_.ci);
+    }
 }
 
 }  // namespace Tarvik::Seaplan

@@ -21,9 +21,9 @@ class VoyController;
 struct PlanPort {
     std::string name;     ///< as the port dictionary has it
     std::string purpose;  ///< purpose code; empty becomes "L" on the first port and "D" elsewhere
-    float speed = 10.0F;  ///< knots, on the leg that ends here
+    float speed = 10.0F;  ///< knots, above 0.01, on the leg that ends here
     float weather = 0;    ///< fraction from 0 to 0.9999999 by which the speed is reduced
-    float portTime = 0;   ///< hours
+    float portTime = 0;   ///< hours, 0 or more
 };
 
 /// Argument of the planning service.
@@ -32,7 +32,7 @@ struct PlanRequest {
     Util::_datetime_t start;  ///< arrival at the first port, in the plan's reading
     bool save = false;        ///< stores the voyage on the server
     std::string category;     ///< where it is stored; made when there is none of this name in use
-    std::string voyage;       ///< its name, which must not be taken
+    std::string voyage;  ///< its name, which must not be taken; names are kept as the tree keeps typed ones
 };
 
 /// Why a plan came to nothing.
@@ -66,7 +66,8 @@ struct PlanResult {
 /// The planning service of the bus. The answer stays the plug-in's and is valid until the next call.
 inline constexpr Interface::Service<const PlanRequest, const PlanResult> kPlanVoyage{"TRV_S_VOY_PLAN"};
 
-/// Plans a voyage for clients without a window, by the controllers that the panels use.
+/// Plans a voyage for clients without a window, by the controllers that the panels use. Panels notice nothing
+/// of it: their calculated route stays, and a store that was not loaded is left so.
 class PlanService {
   public:
     PlanService(VoyCatalogController* catalog, VoyController* voyages, VoyageStore* store)
@@ -81,10 +82,12 @@ class PlanService {
     int connect();
     int prepare(const PlanRequest& request, PortCallRows& rows);
     int checkNames(const PlanRequest& request);
+    int calculate(const PortCallRows& rows);
+    int fillResult();
     int save(const PlanRequest& request);
-    int findCategory(const std::string& name);
+    int findCategory(const std::string& name, bool& made);
+    void takeBack(bool newCategory);
     int fail(int code, const std::string& step);
-    int fillResult(const PortCallRows& rows);
 
     VoyCatalogController* catalog_;
     VoyController* voyages_;

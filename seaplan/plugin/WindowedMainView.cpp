@@ -3,12 +3,21 @@
 #include "seaplan/plugin/MainViewFactory.h"
 #include "seaplan/views/ViewsFactory.h"
 
+#include <QCursor>
+
 namespace Tarvik::Seaplan {
 
 bool CreateMainView() {
     CompositionRoot& root = CompositionRoot::Instance();
-    return CreateViews(
-        {&root.Catalog(), &root.Voyages(), VoyageStore::Instance(), PortDictionary::FromDatabase()});
+    if (!CreateViews(
+            {&root.Catalog(), &root.Voyages(), VoyageStore::Instance(), PortDictionary::FromDatabase()})) {
+        return false;
+    }
+    root.PortCallModule().SetCursorSource([] {
+        const QPoint cursor = QCursor::pos();
+        return std::make_pair(cursor.x(), cursor.y());
+    });
+    return true;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -3,24 +3,15 @@
 
 #include <tarvik/util/StringUtl.h>
 
-#include <algorithm>
-#include <cstdint>
-#include <limits>
 #include <utility>
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-/// Numbers of this reply are quoted.
+/// Numbers of this reply are quoted; one beyond 32 bits is clamped.
 int numberOf(const Util::Jsona& element, const char* key) {
     return Util::StringUtl::ToInt(element.getv(key, "0"));
-}
-
-int longNumberOf(const Util::Jsona& element, const char* key) {
-    using Limits = std::numeric_limits<std::int32_t>;
-    const long long value = Util::StringUtl::ToLong(element.getv(key, "0"));
-    return static_cast<int>(std::clamp<long long>(value, Limits::min(), Limits::max()));
 }
 
 void readFigures(const Util::Jsona& element, BunkerFigures& figures) {
@@ -56,7 +47,7 @@ VoyInfo ReadVoyage(const Util::Jsona& element) {
     voyage.vn = element.getv("vn", "");
     voyage.vsi = element.getv("vsi", "");
     voyage.vsn = element.getv("vsn", "");
-    voyage.vsmsi = longNumberOf(element, "vsmsi");
+    voyage.vsmsi = numberOf(element, "vsmsi");
     voyage.vr = numberOf(element, "vr");
     voyage.va = numberOf(element, "va");
     readFigures(element, voyage.figures);

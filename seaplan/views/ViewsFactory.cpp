@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/ViewsFactory.h"
 
-#include "seaplan/panels/mainview/SeaplanViewDlg.h"
-#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/services/ControllerCommands.h"
-#include "seaplan/views/mainview/VoyagePanelWindow.h"
-#include "seaplan/views/portcall/PortCallWindow.h"
+#include "seaplan/views/VoyageViews.h"
 
 #include <tarvik/core/TrvKernel.h>
 
 #include <QApplication>
-#include <QPointer>
 
 #include <memory>
 
@@ -18,79 +14,63 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-/// All panels with their windows. The main window owns the windows, so each may be gone before the panels.
-class Views {
+/// The windows over the real controllers.
+class ControlledViews {
   public:
-    Views(const ViewsDependencies& given, QWidget* mainView)
-        : catalog_(given.catalog),
-          schedule_(given.voyages, given.store),
-          voyageWindow_(new VoyagePanelWindow(mainView)),
-          portCallWindow_(new PortCallWindow(mainView, &voyageWindow_->Tree())),
-          tree_(*given.store, catalog_, schedule_, voyageWindow_->Tree().Widget()),
-          portCalls_(*given.store, schedule_, given.ports, *portCallWindow_),
-          panel_({*given.store, catalog_, schedule_, *voyageWindow_, tree_, &portCalls_}) {
-        tree_.SetPortCallPanel(&portCalls_);
-        portCalls_.SetSavedListener([this](const std::string& vi) {
-            tree_.ComputeStatus(vi);
-            tree_.ShowStatus(vi);
-            panel_.RefreshVoyageRow(vi);
-        });
-        voyageWindow_->Attach(&panel_, &tree_);
-        portCallWindow_->Attach(&portCalls_);
-        panel_.RegisterHost();
-        portCalls_.RegisterHost();
+    ControlledViews(const ViewsDependencies& given, QWidget* mainView)
+        : voyages_(given.voyages),
+          catalog_(given.catalog),
+          schedule_(given.voyages),
+          views_({*given.store, catalog_, schedule_, given.ports, mainView}) {
+        voyages_->SetTreeVisible([this] { return views_.TreeVisible(); });
+        // Windows must be gone before the application object is, and panels with their windows.
+        qAddPostRoutine(DestroyViews);
+        if (mainView != nullptr) QObject::connect(mainView, &QObject::destroyed, [] { DestroyViews(); });
     }
-    ~Views() {
-        delete portCallWindow_;
-        delete voyageWindow_;
+    ~ControlledViews() {
+        qRemovePostRoutine(DestroyViews);
+        voyages_->SetTreeVisible({});
     }
-    Views(const Views&) = delete;
-    Views& operator=(const Views&) = delete;
+    ControlledViews(const ControlledViews&) = delete;
+    ControlledViews& operator=(const ControlledViews&) = delete;
 
-    SeaplanViewDlg& Panel() { return panel_; }
-    void Restyle() {
-        if (voyageWindow_) voyageWindow_->ApplySkin();
-        if (portCallWindow_) portCallWindow_->ApplySkin();
-    }
+    VoyageViews& Views() { return views_; }
 
   private:
+    VoyController* voyages_;
     CatalogControllerCommands catalog_;
     ScheduleControllerCommands schedule_;
-    QPointer<VoyagePanelWindow> voyageWindow_;
-    QPointer<PortCallWindow> portCallWindow_;
-    SeaplanTreeCtrl tree_;
-    CPortCallPanelDlg portCalls_;
-    SeaplanViewDlg panel_;
+    VoyageViews views_;
 };
 
-std::unique_ptr<Views>& views() {
-    static std::unique_ptr<Views> made;
-    return made;
+std::unique_ptr<ControlledViews>& made() {
+    static std::unique_ptr<ControlledViews> views;
+    return views;
 }
 
 }  // namespace
 
 bool CreateViews(const ViewsDependencies& dependencies) {
-    if (views() != nullptr) return true;
+    if (made() != nullptr) return true;
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return false;
     if (dependencies.catalog == nullptr || dependencies.voyages == nullptr || dependencies.store == nullptr) {
         return false;
     }
     auto* mainView = static_cast<QWidget*>(Core::TrvKernel::MainViewHWnd());
-    views() = std::make_unique<Views>(dependencies, mainView);
+    made() = std::make_unique<ControlledViews>(dependencies, mainView);
     return true;
 }
 
 SeaplanViewDlg* VoyagePanel() {
-    return views() == nullptr ? nullptr : &views()->Panel();
+    return made() == nullptr ? nullptr : &made()->Views().Panel();
 }
 
 void DestroyViews() {
-    views().reset();
+    made().reset();
 }
 
 void RestyleViews() {
-    if (views() != nullptr) views()->Restyle();
+    if (made() != nullptr) made()->Views().Restyle();
 }
 
 }  // namespace Tarvik::Seaplan

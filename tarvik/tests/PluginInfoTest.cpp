@@ -3,10 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <exception>
 #include <string>
+#include <type_traits>
 
 namespace Tarvik {
 namespace {
+
+static_assert(std::has_virtual_destructor_v<Core::CTrvSoftInfo>);
+static_assert(std::is_base_of_v<Core::CTrvSoftInfo, Plugin::CPluginInfo>);
+static_assert(std::is_base_of_v<std::exception, Core::InvalidVersionFormatException>);
 
 using Core::InvalidVersionFormatException;
 using Core::Version;
@@ -46,6 +53,7 @@ TEST(VersionTest, NegativePartThrows) {
         EXPECT_STREQ(error.what(), "Version number cannot be negative.");
     }
     EXPECT_THROW(Version::Parse("1.2.3.4.-5"), InvalidVersionFormatException);
+    EXPECT_THROW(Version::Parse("1.2.3.4.5.-6"), InvalidVersionFormatException);
 }
 
 TEST(VersionTest, OrderCountsAbsentPartsAsZero) {
@@ -80,6 +88,22 @@ TEST(DependencyListTest, PieceWithANegativeVersionIsDropped) {
     EXPECT_EQ(list.Entries()[0].name, "Good");
 }
 
+TEST(DependencyListTest, NegativeFifthPartDropsThePieceToo) {
+    const DependencyList list("Bad,1.2.3.4.-5|Good,0");
+    ASSERT_EQ(list.Entries().size(), 1U);
+    EXPECT_EQ(list.Entries()[0].name, "Good");
+    EXPECT_EQ(list.Entries()[0].version, Make(0, 0));
+}
+
+TEST(DependencyListTest, EmptyNameOrVersionIsStillTwoParts) {
+    const DependencyList list("TRV,|,1.2");
+    ASSERT_EQ(list.Entries().size(), 2U);
+    EXPECT_EQ(list.Entries()[0].name, "TRV");
+    EXPECT_EQ(list.Entries()[0].version, Make(0, 0));
+    EXPECT_EQ(list.Entries()[1].name, "");
+    EXPECT_EQ(list.Entries()[1].version, Make(1, 2));
+}
+
 TEST(DependencyListTest, EmptyTextHasNoEntries) {
     EXPECT_TRUE(DependencyList().Entries().empty());
 }
@@ -89,6 +113,19 @@ TEST(CPluginInfoTest, KeepsTheRawTextAndFlagZero) {
     EXPECT_EQ(info.dependencyText, "TRV,1.1.4|PlgSeamap,1.1");
     EXPECT_EQ(info.flag, 0);
     EXPECT_EQ(info.dependencies.Entries().size(), 2U);
+}
+
+TEST(CPluginInfoTest, FieldsLieInTheirOrder) {
+    const CPluginInfo info;
+    const auto at = [&info](const auto& field) {
+        return reinterpret_cast<const char*>(&field) - reinterpret_cast<const char*>(&info);
+    };
+    const std::ptrdiff_t wide = sizeof(char16_t*);
+    EXPECT_EQ(at(info.version) - at(info.name), static_cast<std::ptrdiff_t>(sizeof(std::string)) + wide)
+        << "the display name lies between";
+    EXPECT_GT(at(info.dependencyText), at(info.version) + 5 * wide);
+    EXPECT_GT(at(info.flag), at(info.dependencyText));
+    EXPECT_GT(at(info.dependencies), at(info.flag));
 }
 
 TEST(CPluginInfoTest, WideFieldsAreOwnedCopies) {

@@ -7,6 +7,7 @@
 #include <clocale>
 #include <cmath>
 #include <limits>
+#include <locale>
 #include <regex>
 #include <set>
 #include <string>
@@ -157,24 +158,39 @@ TEST(SpaceTest, TrimsEnds) {
     EXPECT_EQ(StringUtl::Trim(u""), u"");
 }
 
-/// A locale with a decimal comma, when the machine has one.
+/// Streams print a decimal comma and grouped thousands.
+class CommaPunctuation : public std::numpunct<char> {
+  protected:
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+/// Sets a decimal comma for streams, and for the C functions too when the machine has such a locale.
 class CommaLocale {
   public:
-    CommaLocale() : before_(std::setlocale(LC_ALL, nullptr)) {
+    CommaLocale() : before_(std::setlocale(LC_ALL, nullptr)), streamsBefore_() {
+        std::locale::global(std::locale(std::locale::classic(), new CommaPunctuation));
         for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE.utf8"}) {
             if (std::setlocale(LC_ALL, name) != nullptr) return;
         }
     }
-    ~CommaLocale() { std::setlocale(LC_ALL, before_.c_str()); }
+    ~CommaLocale() {
+        std::locale::global(streamsBefore_);
+        std::setlocale(LC_ALL, before_.c_str());
+    }
 
   private:
     std::string before_;
+    std::locale streamsBefore_;
 };
 
 TEST(FormatTest, PrintsWithAPointInAnyLocale) {
     const CommaLocale comma;
     EXPECT_EQ(StringUtl::Format("%.2f|%d|%s", 1.5, -3, "x"), "1.50|-3|x");
     EXPECT_EQ(StringUtl::NumericalFormat(1.5, ",", ".", 1), "1.5");
+    EXPECT_EQ(StringUtl::NumericalFormat(1234.5, ",", ".", 1), "1,234.5");
+    EXPECT_EQ(StringUtl::IntToString(1234567), "1234567");
     EXPECT_DOUBLE_EQ(StringUtl::ToDouble("1.5"), 1.5);
     EXPECT_DOUBLE_EQ(StringUtl::ToDouble("1.5e400"), std::numeric_limits<double>::max());
 }

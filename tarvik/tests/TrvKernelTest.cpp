@@ -178,6 +178,51 @@ TEST_F(TrvKernelTest, SameDelegateSubscribesOnce) {
     EXPECT_EQ(notices, (Notices{{KernelNotice::BoundTwice, "E"}}));
 }
 
+TEST_F(TrvKernelTest, ServiceWithAHandlerTakesNoSubscriber) {
+    CreateService("S");
+    EXPECT_TRUE(kernel->BindTrvService("S", &first.delegate));
+    EXPECT_FALSE(kernel->BindTrvEvent("S", &second.delegate));
+    EXPECT_EQ(notices, (Notices{{KernelNotice::BoundTwice, "S"}}));
+    kernel->CallTrvService("S", nullptr);
+    EXPECT_EQ(diary, std::vector<std::string>{"first"});
+}
+
+TEST_F(TrvKernelTest, ObserverMayReplaceItself) {
+    std::string seen;
+    kernel->SetObserver([this, &seen, kept = std::string(100, 'x')](KernelNotice, const std::string& name) {
+        kernel->SetObserver([&seen](KernelNotice, const std::string& later) { seen += "later " + later; });
+        seen += kept.substr(0, 1) + name + " ";
+    });
+    kernel->CallTrvService("A", nullptr);
+    kernel->CallTrvService("B", nullptr);
+    EXPECT_EQ(seen, "xA later B");
+}
+
+TEST_F(TrvKernelTest, NewOwnerKeepsTheSubscribersAndIsTheOneToDelete) {
+    CreateEvent("E");
+    kernel->BindTrvEvent("E", &third.delegate);
+    kernel->CreateTrvEvent("E", &second, "", "", nullptr);
+    EXPECT_TRUE(kernel->IsBound("E"));
+    kernel->DeleteTrvEvent("E", &first);
+    EXPECT_TRUE(kernel->IsBound("E"));
+    kernel->DeleteTrvEvent("E", &second);
+    EXPECT_FALSE(kernel->IsBound("E"));
+}
+
+TEST_F(TrvKernelTest, HandlerMayRaiseAndCallInTurn) {
+    CreateService("S");
+    kernel->BindTrvService("S", &second.delegate);
+    kernel->BindTrvEvent("E", &first.delegate);
+    kernel->BindTrvEvent("E", &third.delegate);
+    first.action = [this] {
+        first.action = nullptr;
+        kernel->CallTrvService("S", nullptr);
+        kernel->RaiseTrvEvent("E", nullptr);
+    };
+    kernel->RaiseTrvEvent("E", nullptr);
+    EXPECT_EQ(diary, (std::vector<std::string>{"first", "second", "first", "third", "third"}));
+}
+
 TEST_F(TrvKernelTest, UnbindOfSomethingUnknownIsNoticed) {
     kernel->UnBindTrvEvent("E", &first.delegate);
     kernel->BindTrvEvent("E", &first.delegate);

@@ -2,8 +2,6 @@
 #include "seaplan/plugin/PlanService.h"
 #include "tests/integration/TinyHost.h"
 
-#include <cstring>
-
 namespace Tarvik::Integration {
 namespace {
 
@@ -15,10 +13,18 @@ constexpr const char* kRoute =
     R"([{point_cd:"40001",routes:[],rp_groups:[]},{point_cd:"40002",routes:[{route:"1",from_cd:"40001",)"
     R"(end_cd:"40002",pointset:"0.000,0.000|0.500,0.000|1.000,0.000"}],rp_groups:[]}])";
 
-std::string envelope(std::uint16_t command, const std::string& text) {
-    const Interface::VoyServerRequest head{static_cast<std::uint32_t>(text.size() + 1), command, 5};
-    std::string bytes(sizeof head, '\0');
-    std::memcpy(bytes.data(), &head, sizeof head);
+/// A request as bytes: length of the payload with its NUL in four, command in two and module word 5 in two
+/// bytes, the lowest first.
+std::string envelope(unsigned command, const std::string& text) {
+    const std::size_t length = text.size() + 1;
+    std::string bytes;
+    for (int shift = 0; shift < 32; shift += 8) {
+        bytes += static_cast<char>(length >> shift & 0xFF);
+    }
+    for (const unsigned word : {command, 5U}) {
+        bytes += static_cast<char>(word & 0xFF);
+        bytes += static_cast<char>(word >> 8 & 0xFF);
+    }
     return bytes + text + '\0';
 }
 

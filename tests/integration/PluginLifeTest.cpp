@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/plugin/PlanService.h"
 #include "tests/integration/TinyHost.h"
 
 #include <tarvik/core/TrvKernel.h>
+
+#include <cstdlib>
 
 namespace Tarvik::Integration {
 namespace {
@@ -30,9 +33,36 @@ TEST_F(PluginLifeTest, EveryStartCallAccepts) {
 TEST_F(PluginLifeTest, UnloadLeavesTheBindings) {
     plugin.load();
     EXPECT_TRUE(plugin.unload());
-    EXPECT_TRUE(Core::TrvKernel::Instance()->IsBound("TRV_S_VOY_PLAN"));
-    EXPECT_TRUE(Core::TrvKernel::Instance()->IsBound("TRV_MAP_LCLICK_VOYAGETYPE"));
-    EXPECT_TRUE(Core::TrvKernel::Instance()->IsBound("TRV_MAP_LCLICK_RPOINTTYPE"));
+    for (const char* name : {"TRV_S_VOY_PLAN", "TRV_MAP_LCLICK_VOYAGETYPE", "TRV_MAP_LCLICK_RPOINTTYPE",
+                             "TRV_MAP_LCLICK_AISSHIPTYPE"}) {
+        EXPECT_TRUE(Core::TrvKernel::Instance()->IsBound(name)) << name;
+    }
+}
+
+TEST_F(PluginLifeTest, LoadingAgainAfterUnloadingBindsNothingTwice) {
+    std::vector<std::string> noticed;
+    Core::TrvKernel::Instance()->SetObserver(
+        [&](Core::KernelNotice, const std::string& name) { noticed.push_back(name); });
+    plugin.load();
+    plugin.unload();
+    plugin.load();
+    Core::TrvKernel::Instance()->SetObserver({});
+    EXPECT_EQ(noticed, std::vector<std::string>());
+    const Seaplan::PlanRequest request;
+    EXPECT_NE(Interface::Call(Seaplan::kPlanVoyage, &request), nullptr);
+}
+
+TEST_F(PluginLifeTest, HostThatClosesTheLibraryFindsItsServicesAnswering) {
+    testing::GTEST_FLAG(death_test_style) = "fast";
+    const auto closeAndCall = [this] {
+        plugin.load();
+        plugin.unload();
+        plugin.Close();
+        const Seaplan::PlanRequest request;
+        const Seaplan::PlanResult* result = Interface::Call(Seaplan::kPlanVoyage, &request);
+        std::_Exit(result != nullptr && result->code == Seaplan::PlanNotLoaded ? 0 : 1);
+    };
+    EXPECT_EXIT(closeAndCall(), testing::ExitedWithCode(0), "");
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #include "tests/integration/TinyHost.h"
 
 #include <dlfcn.h>
-#include <tarvik/util/FileUtl.h>
 
 #include <cstdlib>
 #include <iostream>
@@ -18,7 +17,7 @@ void find(void* library, const char* name, Function& function) {
 
 }  // namespace
 
-LoadedPlugin::LoadedPlugin() : library_(dlopen(SEAPLAN_LIBRARY, RTLD_NOW | RTLD_LOCAL)) {
+LoadedPlugin::LoadedPlugin(const std::string& file) : library_(dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL)) {
     if (library_ == nullptr) {
         std::cerr << dlerror() << '\n';
         std::abort();
@@ -31,25 +30,17 @@ LoadedPlugin::LoadedPlugin() : library_(dlopen(SEAPLAN_LIBRARY, RTLD_NOW | RTLD_
     find(library_, "CheckEnvironment", checkEnvironment);
 }
 
+void LoadedPlugin::Close() const {
+    dlclose(library_);
+}
+
 const LoadedPlugin& LoadedPlugin::Get() {
-    static const LoadedPlugin plugin;
+    static const LoadedPlugin plugin(SEAPLAN_LIBRARY);
     return plugin;
 }
 
-TinyHost::TinyHost()
-    : dictionary(TestSupport::PortDictionary::Ports{{"A", "40001"}, {"B", "40002"}}),
-      folder_(
-          std::filesystem::temp_directory_path() /
-          (std::string("seaplan-host-") + testing::UnitTest::GetInstance()->current_test_info()->name())) {
-    std::filesystem::create_directories(folder_ / "businessdata");
-    std::filesystem::copy_file(SEAPLAN_POINTS, folder_ / "businessdata" / "trvdb.db",
-                               std::filesystem::copy_options::overwrite_existing);
-    Util::FileUtl::SetCurrentAppDirectory(folder_.string());
-}
-
-TinyHost::~TinyHost() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
+TinyHost::TinyHost() : dictionary(TestSupport::PortDictionary::Ports{{"A", "40001"}, {"B", "40002"}}) {
+    folder.WriteSamplePoints();
 }
 
 }  // namespace Tarvik::Integration

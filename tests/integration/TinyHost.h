@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "testsupport/DataFolder.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/PortDictionary.h"
 #include "testsupport/RecordingHost.h"
@@ -8,8 +9,7 @@
 #include <gtest/gtest.h>
 #include <tarvik/core/PluginInfo.h>
 
-#include <filesystem>
-#include <memory>
+#include <string>
 
 namespace Tarvik::Integration {
 
@@ -18,6 +18,11 @@ class LoadedPlugin {
   public:
     /// Loads the library once for the process; it stays until the end, as in the client.
     static const LoadedPlugin& Get();
+    /// Loads the library of this path; the process ends when it is none.
+    explicit LoadedPlugin(const std::string& file);
+
+    /// Gives the library file up, as a host may after `unload`.
+    void Close() const;
 
     bool (*load)() = nullptr;
     bool (*unload)() = nullptr;
@@ -27,7 +32,6 @@ class LoadedPlugin {
     bool (*checkEnvironment)() = nullptr;
 
   private:
-    LoadedPlugin();
     void* library_ = nullptr;
 };
 
@@ -35,15 +39,12 @@ class LoadedPlugin {
 class TinyHost : public testing::Test {
   protected:
     TinyHost();
-    ~TinyHost() override;
 
+    TestSupport::DataFolder folder;
     TestSupport::ManualClock clock;
     TestSupport::RecordingHost host;
     TestSupport::PortDictionary dictionary;
     const LoadedPlugin& plugin = LoadedPlugin::Get();
-
-  private:
-    std::filesystem::path folder_;
 };
 
 }  // namespace Tarvik::Integration

@@ -24,16 +24,17 @@ std::string MismatchText(const std::string& word, const PortMatch& match) {
     return text + "?";
 }
 
-PlanOutcome FailureOf(const Seaplan::PlanResult& plan) {
+PlanOutcome FailureOf(const Seaplan::PlanResult& plan, const std::string& reason) {
     const bool badInput = plan.code == Seaplan::PlanUnknownPort || plan.code == Seaplan::PlanTooFewPorts ||
                           plan.code == Seaplan::PlanNameMissing || plan.code == Seaplan::PlanNameTaken;
-    const char* advice = "The log in the data folder tells more; try again.";
+    const char* advice = "See that the data folder has space and can be written, then try again.";
     if (badInput) advice = "Change the command and try again.";
     if (plan.code == Seaplan::PlanNotConnected)
         advice = "Start the server or check its address in the preferences.";
     if (plan.code == Seaplan::PlanNotCalculated) advice = "Try other ports, speed or weather.";
-    return {badInput ? kExitBadInput : kExitFailed,
-            "The voyage was not planned: " + plan.step + ". " + advice};
+    std::string why = plan.step;
+    if (!badInput && !reason.empty()) why += " (" + reason + ")";
+    return {badInput ? kExitBadInput : kExitFailed, "The voyage was not planned: " + why + ". " + advice};
 }
 
 }  // namespace
@@ -62,13 +63,15 @@ PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lo
     return {};
 }
 
-PlanOutcome CallPlanService(const Seaplan::PlanRequest& request, const Seaplan::PlanResult*& result) {
+PlanOutcome CallPlanService(const Seaplan::PlanRequest& request, const Seaplan::PlanResult*& result,
+                            const HostServices* services) {
     result = Interface::Call(Seaplan::kPlanVoyage, &request);
     if (!result) {
         return {kExitFailed,
                 "The voyage plug-in is not loaded. Build or install the client again; --verbose tells why."};
     }
-    return result->code == Seaplan::PlanDone ? PlanOutcome{} : FailureOf(*result);
+    if (result->code == Seaplan::PlanDone) return {};
+    return FailureOf(*result, services ? services->LastFailure() : std::string());
 }
 
 std::string FormatPlan(const PlanArguments& arguments, const Seaplan::PlanResult& plan,

@@ -3,6 +3,7 @@
 
 #include "host/client/plan/PlanArguments.h"
 #include "host/client/plan/PortLookup.h"
+#include "host/client/services/HostServices.h"
 #include "host/client/services/LanguageFiles.h"
 #include "seaplan/plugin/PlanService.h"
 
@@ -24,8 +25,10 @@ struct PlanOutcome {
 PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lookup,
                             Seaplan::PlanRequest& request);
 
-/// Calls the planning service on the bus. `result` stays the plug-in's.
-PlanOutcome CallPlanService(const Seaplan::PlanRequest& request, const Seaplan::PlanResult*& result);
+/// Calls the planning service on the bus. `result` stays the plug-in's. When it fails, `services` knows what
+/// the server had to say about it; null when there are none.
+PlanOutcome CallPlanService(const Seaplan::PlanRequest& request, const Seaplan::PlanResult*& result,
+                            const HostServices* services = nullptr);
 
 /// The result in the asked format.
 std::string FormatPlan(const PlanArguments& arguments, const Seaplan::PlanResult& plan,

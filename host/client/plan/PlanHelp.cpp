@@ -11,8 +11,12 @@ const char* const kHelpText =
 
 Options of both
   --data DIR          folder of your data (else $SEAPLAN_DATA, else seaplan below $XDG_DATA_HOME or ~/.local/share)
+  --server ADDRESS    voyage server for this time, as https://seaplan.example:8470, or embedded; without it, the one
+                      of your preferences. plan logs in with $SEAPLAN_USER and $SEAPLAN_PASSWORD; $SEAPLAN_CA_FILE
+                      names certificates to trust beside the system's
   --verbose           repeats the log on standard error
   --help              this text
+  --version           the version
 
 Options of the window
   --theme NAME        light, dark or night
@@ -21,8 +25,8 @@ Options of the window
   --panel CODE        with --screenshot: opens a panel first (3 voyages, 21 port distances)
 
 Ports of plan
-  A name in any case, the beginning of a name that only one port has, a UN/LOCODE (NLRTM) or an id. Quote names of
-  several words. A word behind "--" is a port even when it begins with "--".
+  A name in any case, a UN/LOCODE (NLRTM), an id, or the beginning of a name that only one port has. Of ports of one
+  name the busy one is meant. Quote names of several words. A word behind "--" is a port even when it begins with "--".
 
 Options of plan
   --depart "YYYY-MM-DD HH:MM[:SS]"    arrival at the first port; without it, now

@@ -37,7 +37,17 @@ PortLookup::PortLookup(std::vector<Port> ports) : ports_(std::move(ports)) {
     for (const Port& port : ports_) folded_.push_back(FoldCase(port.name));
 }
 
+void PortLookup::preferBusy(std::vector<std::size_t>& hits) const {
+    const auto isQuiet = [this](std::size_t i) {
+        return ports_[i].nameCn.empty() || ports_[i].nameCn == ports_[i].name;
+    };
+    if (!std::all_of(hits.begin(), hits.end(), isQuiet)) std::erase_if(hits, isQuiet);
+}
+
 PortMatch PortLookup::settle(std::vector<std::size_t> hits) const {
+    const Port& first = ports_[hits.front()];
+    const auto isFirst = [&](std::size_t i) { return ports_[i].x == first.x && ports_[i].y == first.y; };
+    if (std::all_of(hits.begin(), hits.end(), isFirst)) hits.resize(1);
     PortMatch match;
     if (hits.size() == 1) {
         match.kind = PortMatch::Kind::Found;
@@ -55,15 +65,18 @@ PortMatch PortLookup::Find(const std::string& word) const {
     const std::string folded = FoldCase(word);
     std::string code = folded;
     std::erase(code, ' ');
-    std::vector<std::size_t> names, codes, ids, beginnings;
+    std::vector<std::size_t> names, codes, ids, bareNames, beginnings;
     for (std::size_t i = 0; i < ports_.size() && !folded.empty(); ++i) {
         const Port& port = ports_[i];
         if (folded_[i] == folded || port.nameCn == word) names.push_back(i);
         if (!port.unlocode.empty() && FoldCase(port.unlocode) == code) codes.push_back(i);
         if (port.id == word) ids.push_back(i);
+        if (folded_[i].starts_with(folded + ", ")) bareNames.push_back(i);
         if (folded_[i].starts_with(folded) || port.nameCn.starts_with(word)) beginnings.push_back(i);
     }
-    for (std::vector<std::size_t>* hits : {&names, &codes, &ids, &beginnings}) {
+    preferBusy(names);
+    preferBusy(bareNames);
+    for (std::vector<std::size_t>* hits : {&names, &codes, &ids, &bareNames, &beginnings}) {
         if (!hits->empty()) return settle(std::move(*hits));
     }
     PortMatch match;

@@ -23,8 +23,11 @@ std::size_t EditDistance(const std::string& a, const std::string& b);
 std::string FoldCase(const std::string& text);
 
 /// Finds ports by what a person types: a name in any case (English or Chinese), a UN/LOCODE with or without
-/// its blank, an id, or the beginning of a name that only one port has. An exact match goes before a
-/// beginning.
+/// its blank, an id, a name without the country that the table adds to it ("Rotterdam" for "Rotterdam,
+/// Netherlands"), or the beginning of a name. The former go before the latter.
+///
+/// Of several ports of one name the busy one is meant, which is the one that has a Chinese name; a place that
+/// stands in the table under two codes counts once. What then still fits several ports is ambiguous.
 class PortLookup {
   public:
     /// The most candidates told for a word that fits no single port.
@@ -35,6 +38,7 @@ class PortLookup {
 
   private:
     PortMatch settle(std::vector<std::size_t> hits) const;
+    void preferBusy(std::vector<std::size_t>& hits) const;
     std::vector<Port> nearest(const std::string& folded) const;
 
     std::vector<Port> ports_;

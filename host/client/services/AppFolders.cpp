@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/services/AppFolders.h"
 
-#include <array>
+#include "host/client/services/DataFiles.h"
+
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 
@@ -11,6 +11,10 @@ namespace fs = std::filesystem;
 
 namespace Tarvik::Client {
 namespace {
+
+/// Bytes that a save of a long voyage may need at once. Less room than that counts as none, so that a save is
+/// not begun that could not be finished.
+constexpr std::size_t kRoomForOneSave = 1024U * 1024U;
 
 std::string Environment(const char* name) {
     const char* value = std::getenv(name);
@@ -59,11 +63,11 @@ std::string AppFolders::BusinessData(const std::string& name) const {
 
 bool AppFolders::probe(std::string& error) const {
     const fs::path file = fs::path(data_) / ".writable";
-    const std::array<char, 4096> block{};
     bool good = false;
     {
         std::ofstream out(file, std::ios::binary | std::ios::trunc);
-        out.write(block.data(), block.size());
+        const std::string block(kRoomForOneSave, '\0');
+        out.write(block.data(), static_cast<std::streamsize>(block.size()));
         out.flush();
         good = out.good();
     }
@@ -72,8 +76,7 @@ bool AppFolders::probe(std::string& error) const {
     if (!good) {
         error = "The data folder " + data_ +
                 " cannot be written or is full. Make it writable and free some space, or name another folder "
-                "with "
-                "--data DIR.";
+                "with --data DIR.";
     }
     return good;
 }
@@ -107,27 +110,9 @@ bool AppFolders::Prepare(std::string& error) const {
         return false;
     }
     if (!probe(error)) return false;
-    return refresh("trvdb.db", "trvdb.db", error) && refresh("land.bin", "land.bin", error) &&
-           refresh("ship.png", "seaplan/ship.png", error) &&
-           CheckDatabaseFile(BusinessData("trvdb.db"), error);
-}
-
-bool CheckDatabaseFile(const std::string& path, std::string& error) {
-    std::array<unsigned char, 32> head{};
-    std::ifstream file(path, std::ios::binary);
-    file.read(reinterpret_cast<char*>(head.data()), head.size());
-    std::error_code failed;
-    const auto size = fs::file_size(path, failed);
-    const unsigned pageField = head[16] * 256U + head[17];
-    const std::uintmax_t pageSize = pageField == 1 ? 65536U : pageField;
-    const std::uintmax_t pages = (std::uintmax_t{head[28]} << 24U) | (std::uintmax_t{head[29]} << 16U) |
-                                 (std::uintmax_t{head[30]} << 8U) | head[31];
-    const bool whole = file && !failed && std::memcmp(head.data(), "SQLite format 3", 16) == 0 &&
-                       size == pages * pageSize && pages > 0;
-    if (!whole)
-        error = "The data file " + path +
-                " is missing or cut short. Delete it and build or install the client again.";
-    return whole;
+    return CheckDatabaseFile(ShareFile("trvdb.db"), error) && CheckLandFile(ShareFile("land.bin"), error) &&
+           refresh("trvdb.db", "trvdb.db", error) && refresh("land.bin", "land.bin", error) &&
+           refresh("ship.png", "seaplan/ship.png", error);
 }
 
 }  // namespace Tarvik::Client

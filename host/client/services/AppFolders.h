@@ -25,7 +25,7 @@ class AppFolders {
 
     /// Makes the data folder and fills or refreshes its businessdata from what is shipped. False with one
     /// line that says what is wrong and what to do: a folder that cannot be written or is full, a shipped
-    /// file that is missing.
+    /// file that is missing or cut short.
     bool Prepare(std::string& error) const;
 
   private:
@@ -36,9 +36,5 @@ class AppFolders {
     std::string data_;
     std::string plugins_;
 };
-
-/// Whether a file is a whole SQLite data base: its head is right and no page is missing. `error` says what is
-/// wrong.
-bool CheckDatabaseFile(const std::string& path, std::string& error);
 
 }  // namespace Tarvik::Client

@@ -7,6 +7,7 @@
 #include <tarvik/util/Clock.h>
 
 #include <cstring>
+#include <nlohmann/json.hpp>
 #include <utility>
 
 namespace Tarvik::Client {
@@ -26,11 +27,26 @@ VoyServerRequest* MakeReply(const VoyServerRequest& request, const std::string& 
     return reply;
 }
 
+/// The server's words when it refused; empty for every other reply.
+std::string RefusalOf(const std::string& reply) {
+    if (!reply.starts_with('{')) return {};
+    const auto status = nlohmann::json::parse(reply, nullptr, false);
+    const auto code = status.is_object() ? status.find("eid") : status.end();
+    if (code == status.end() || !code->is_number_integer() || *code == 0) return {};
+    const auto words = status.find("emsg");
+    return words != status.end() && words->is_string() ? words->get<std::string>()
+                                                       : "code " + code->dump() + " of the server";
+}
+
 }  // namespace
 
-HostServices::HostServices(ServerLink& link, std::string user, std::string timeZone,
+HostServices::HostServices(ServerLink& link, std::string localUser, std::string timeZone,
                            std::function<void(const std::string&)> complain)
-    : link_(link), user_(std::move(user)), timeZone_(std::move(timeZone)), complain_(std::move(complain)) {
+    : link_(&link),
+      localUser_(std::move(localUser)),
+      timeZone_(std::move(timeZone)),
+      complain_(std::move(complain)),
+      wasConnected_(link.IsConnected()) {
     Util::Clock::SetLocalZone(timeZone_);
     connectedEvent_.Set<&HostServices::onConnected>(this);
     loginEvent_.Set<&HostServices::onLogin>(this);
@@ -69,19 +85,38 @@ void HostServices::SetTimeZone(const std::string& zone) {
     Interface::Raise(Bus::SwitchTimeZone, &std::as_const(timeZone_));
 }
 
+void HostServices::SetLink(ServerLink& link) {
+    Interface::Raise<void>(Bus::Logout, nullptr);
+    link_ = &link;
+    lastFailure_.clear();
+    noteConnection();
+}
+
+void HostServices::noteFailure(const std::string& failure) {
+    lastFailure_ = failure;
+    if (!failure.empty() && complain_) complain_(failure);
+}
+
+void HostServices::noteConnection() {
+    const bool now = link_->IsConnected();
+    if (std::exchange(wasConnected_, now) != now && changed_) changed_();
+}
+
 void* HostServices::onConnected(void* /*input*/) {
-    connected_ = link_.IsConnected() ? 1 : 0;
+    connected_ = link_->IsConnected() ? 1 : 0;
     return &connected_;
 }
 
 void* HostServices::onLogin(void* /*input*/) {
     std::string error;
-    if (!link_.Connect(error) && complain_) complain_(error);
+    noteFailure(link_->Connect(error) ? std::string() : error);
+    noteConnection();
     return nullptr;
 }
 
 void* HostServices::onUser(void* /*input*/) {
-    return &user_;
+    user_ = User();
+    return user_.empty() ? nullptr : &user_;
 }
 
 void* HostServices::onTimeZone(void* /*input*/) {
@@ -91,7 +126,9 @@ void* HostServices::onTimeZone(void* /*input*/) {
 void* HostServices::onExchange(void* input) {
     const auto* request = static_cast<const VoyServerRequest*>(input);
     if (!request || request->length > Interface::kMaxPayloadBytes) return nullptr;
-    const std::string text = link_.Exchange(user_, *request);
+    const std::string text = link_->Exchange(User(), *request);
+    noteFailure(text.empty() ? link_->Failure() : RefusalOf(text));
+    noteConnection();
     return text.empty() ? nullptr : MakeReply(*request, text);
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/client/services/ServerLink.h"
+
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/ServerRequest.h>
@@ -10,46 +12,50 @@
 
 namespace Tarvik::Client {
 
-/// A connection to the voyage server, inside this process or elsewhere.
-class ServerLink {
-  public:
-    virtual ~ServerLink() = default;
-    /// Opens the connection if it is not open. False with a line that says what to do.
-    virtual bool Connect(std::string& error) = 0;
-    virtual bool IsConnected() const = 0;
-    /// The reply's JSON text; empty when there was none.
-    virtual std::string Exchange(const std::string& user, const Interface::VoyServerRequest& request) = 0;
-};
-
 /// The services that the host offers on the bus: connection, login, user, time zone, exchange with the
 /// server.
 class HostServices : public Core::TObject {
   public:
-    /// `link` is not owned and outlives this. Failed logins are told to `complain`.
-    HostServices(ServerLink& link, std::string user, std::string timeZone,
+    /// `link` is not owned and outlives this. `localUser` is the user of a server without logins. Failed
+    /// logins, refusals and missing replies are told to `complain`, one line each.
+    HostServices(ServerLink& link, std::string localUser, std::string timeZone,
                  std::function<void(const std::string&)> complain);
     ~HostServices() override;
     HostServices(const HostServices&) = delete;
     HostServices& operator=(const HostServices&) = delete;
 
-    const std::string& User() const { return user_; }
+    /// Whose data is shown; empty while nobody is logged in.
+    std::string User() const { return link_->User(localUser_); }
     const std::string& TimeZone() const { return timeZone_; }
+    /// Why the last exchange did not succeed: the server's own words, or why it did not answer; else empty.
+    const std::string& LastFailure() const { return lastFailure_; }
+
     /// Takes another zone into use and tells all plug-ins.
     void SetTimeZone(const std::string& zone);
+    /// Logs all plug-ins out and takes another server into use.
+    void SetLink(ServerLink& link);
+    /// `changed` is called when a connection was made or lost.
+    void OnConnectionChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
   private:
     void offer(const char* name, Core::TEvent& event);
+    void noteFailure(const std::string& failure);
+    void noteConnection();
     void* onConnected(void* input);
     void* onLogin(void* input);
     void* onUser(void* input);
     void* onTimeZone(void* input);
     void* onExchange(void* input);
 
-    ServerLink& link_;
-    std::string user_;
+    ServerLink* link_;
+    std::string localUser_;
     std::string timeZone_;
     std::function<void(const std::string&)> complain_;
+    std::function<void()> changed_;
+    std::string lastFailure_;
+    std::string user_;  ///< what the last asker of the user was given
     unsigned char connected_ = 0;
+    bool wasConnected_;
     Core::TEvent connectedEvent_;
     Core::TEvent loginEvent_;
     Core::TEvent userEvent_;

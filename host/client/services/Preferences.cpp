@@ -36,13 +36,15 @@ Preferences Preferences::Read(const std::string& file) {
          [](const std::string& text) { return Util::DateTimeUtl::IsKnownZone(text); });
     Take(root, "theme", read.theme,
          [](const std::string& text) { return text == "light" || text == "dark" || text == "night"; });
-    Take(root, "server", read.server, [](const std::string&) { return true; });
+    Take(root, "server", read.server,
+         [](const std::string& text) { return text.empty() || IsServerAddress(text); });
+    Take(root, "user", read.user, [](const std::string&) { return true; });
     return read;
 }
 
 bool Preferences::Write(const std::string& file, std::string& error) const {
     const nlohmann::json root{
-        {"language", language}, {"timeZone", timeZone}, {"theme", theme}, {"server", server}};
+        {"language", language}, {"timeZone", timeZone}, {"theme", theme}, {"server", server}, {"user", user}};
     const std::string fresh = file + ".new";
     {
         std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
@@ -58,6 +60,13 @@ bool Preferences::Write(const std::string& file, std::string& error) const {
     std::filesystem::rename(fresh, file, failed);
     if (failed) error = "The preferences cannot be written to " + file + " (" + failed.message() + ").";
     return !failed;
+}
+
+bool IsServerAddress(const std::string& text) {
+    for (const std::string scheme : {"https://", "http://"}) {
+        if (text.starts_with(scheme)) return text.size() > scheme.size() && text[scheme.size()] != '/';
+    }
+    return false;
 }
 
 }  // namespace Tarvik::Client

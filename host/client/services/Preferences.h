@@ -13,8 +13,11 @@ struct Preferences {
     std::string timeZone = "China Standard Time";
     /// "light", "dark" or "night".
     std::string theme = "light";
-    /// Address of a voyage server; empty for the one inside the client, which is the only one in use so far.
+    /// Address of a voyage server, "https://host:port" or "http://host:port"; empty for the one inside the
+    /// client.
     std::string server;
+    /// Who logged in at that server last.
+    std::string user;
 
     /// What the file says; the usual values for whatever it lacks or says wrongly, and for a file that is
     /// none.
@@ -23,5 +26,8 @@ struct Preferences {
     bool Write(const std::string& file, std::string& error) const;
     bool operator==(const Preferences&) const = default;
 };
+
+/// Whether a text has the form of a voyage server's address.
+bool IsServerAddress(const std::string& text);
 
 }  // namespace Tarvik::Client

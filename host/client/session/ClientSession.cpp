@@ -9,6 +9,9 @@
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/Log.h>
 
+#include <cstdlib>
+#include <utility>
+
 namespace Tarvik::Client {
 namespace {
 
@@ -46,27 +49,50 @@ bool ClientSession::start(const SessionOptions& options, std::string& error) {
     Util::SetLogSink([this](Util::LogLevel, const std::string& text) { log_.Write(text); });
     watchBus();
     Util::FileUtl::SetCurrentAppDirectory(folders_.Data());
-    preferences_ = Preferences::Read(preferencesFile());
-    if (!options.language.empty()) preferences_.language = options.language;
-    if (!options.timeZone.empty()) preferences_.timeZone = options.timeZone;
-    if (!options.theme.empty()) preferences_.theme = options.theme;
+    takeOptions(options);
     texts_.Load(folders_.Share() + "/lang", preferences_.language);
     for (const std::string& line : texts_.Complaints()) log_.Write(line);
     Interface::LanguageSource::Set(&texts_);
     if (!ReadPorts(folders_.BusinessData("trvdb.db"), ports_, error)) return false;
     dictionary_ = std::make_unique<PortDictionary>(ports_);
     Interface::ValueDictionary::Set(dictionary_.get());
-    link_ =
-        std::make_unique<EmbeddedLink>(folders_.Data() + "/voyages.db", folders_.ShareFile("network.bin"));
-    if (!link_->Connect(error)) return false;
+    link_ = makeLink(preferences_.server, error);
+    if (!link_) return false;
     services_ = std::make_unique<HostServices>(*link_, kLocalUser, preferences_.timeZone,
                                                [this](const std::string& line) { log_.Write(line); });
     return true;
 }
 
+void ClientSession::takeOptions(const SessionOptions& options) {
+    preferences_ = Preferences::Read(preferencesFile());
+    if (!options.language.empty()) preferences_.language = options.language;
+    if (!options.timeZone.empty()) preferences_.timeZone = options.timeZone;
+    if (!options.theme.empty()) preferences_.theme = options.theme;
+    if (!options.server.empty()) preferences_.server = options.server == "embedded" ? "" : options.server;
+}
+
+std::unique_ptr<ServerLink> ClientSession::makeLink(const std::string& server, std::string& error) {
+    if (!server.empty()) {
+        const char* trusted = std::getenv("SEAPLAN_CA_FILE");
+        return std::make_unique<LoginLink>(
+            server, preferences_.user, trusted ? trusted : "",
+            [this](const std::string& at, const std::string& user, const std::string& failure) {
+                auto login = ask_ ? ask_(at, user, failure) : std::nullopt;
+                if (login) keepUser(login->user);
+                return login;
+            });
+    }
+    auto embedded =
+        std::make_unique<EmbeddedLink>(folders_.Data() + "/voyages.db", folders_.ShareFile("network.bin"));
+    if (!embedded->Connect(error)) return nullptr;
+    return embedded;
+}
+
 void ClientSession::watchBus() {
     Core::TrvKernel::Instance()->SetObserver([this](Core::KernelNotice notice, const std::string& name) {
-        log_.Write(std::string("bus: ") + NoticeText(notice) + name);
+        const std::string line = std::string("bus: ") + NoticeText(notice) + name;
+        // A service that is missing is asked for at every key stroke: said once, it is said.
+        if (toldOfBus_.insert(line).second) log_.Write(line);
     });
 }
 
@@ -78,8 +104,23 @@ void ClientSession::LoadPlugins() {
     }
 }
 
+void ClientSession::keepUser(const std::string& user) {
+    preferences_.user = user;
+    // Only the name is kept: what the command line chose for this time stays out of the file.
+    Preferences kept = Preferences::Read(preferencesFile());
+    if (std::exchange(kept.user, user) == user) return;
+    std::string error;
+    if (!kept.Write(preferencesFile(), error)) log_.Write(error);
+}
+
 bool ClientSession::Prefer(const Preferences& preferences, std::string& error) {
     const Preferences before = preferences_;
+    if (before.server != preferences.server) {
+        auto link = makeLink(preferences.server, error);
+        if (!link) return false;
+        services_->SetLink(*link);
+        link_ = std::move(link);
+    }
     preferences_ = preferences;
     if (before.language != preferences_.language) {
         texts_.Load(folders_.Share() + "/lang", preferences_.language);

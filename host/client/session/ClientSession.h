@@ -8,9 +8,11 @@
 #include "host/client/services/PortDictionary.h"
 #include "host/client/services/Preferences.h"
 #include "host/client/services/RotatingLog.h"
+#include "host/client/session/LoginLink.h"
 #include "host/client/session/SessionOptions.h"
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -26,6 +28,9 @@ class ClientSession {
     ClientSession(const ClientSession&) = delete;
     ClientSession& operator=(const ClientSession&) = delete;
 
+    /// Who is asked for a login when a server elsewhere wants one; until this is set, nobody is.
+    void SetAsker(AskCredentials ask) { ask_ = std::move(ask); }
+
     /// Loads all plug-ins; the main window, if there is one, must be known to the bus before.
     void LoadPlugins();
 
@@ -36,16 +41,22 @@ class ClientSession {
     const Preferences& Preferred() const { return preferences_; }
     HostServices& Services() { return *services_; }
     ServerLink& Link() { return *link_; }
+    /// Whether the server is elsewhere and wants a login.
+    bool IsRemote() const { return !preferences_.server.empty(); }
     RotatingLog& Log() { return log_; }
 
     /// Takes new preferences into use, tells the plug-ins what changed, and keeps them. False with a line
-    /// when the file could not be written; they are in use all the same.
+    /// when the file could not be written, they are in use all the same; or when the server inside the client
+    /// cannot be opened, nothing is changed then.
     bool Prefer(const Preferences& preferences, std::string& error);
 
   private:
     ClientSession(const AppFolders& folders, const SessionOptions& options);
     bool start(const SessionOptions& options, std::string& error);
     void watchBus();
+    void keepUser(const std::string& user);
+    void takeOptions(const SessionOptions& options);
+    std::unique_ptr<ServerLink> makeLink(const std::string& server, std::string& error);
     std::string preferencesFile() const { return folders_.Data() + "/preferences.json"; }
 
     AppFolders folders_;
@@ -54,6 +65,8 @@ class ClientSession {
     LanguageFiles texts_;
     std::vector<Port> ports_;
     std::unique_ptr<PortDictionary> dictionary_;
+    std::set<std::string> toldOfBus_;
+    AskCredentials ask_;
     std::unique_ptr<ServerLink> link_;
     std::unique_ptr<HostServices> services_;
     PluginLoader loader_;

@@ -2,6 +2,7 @@
 #include "host/client/session/CommandLine.h"
 
 #include "host/client/services/LanguageFiles.h"
+#include "host/client/services/Preferences.h"
 
 #include <algorithm>
 
@@ -30,10 +31,14 @@ class Sorter {
     bool take(const std::string& word) {
         if (word == "--help" || word == "-h") {
             line_.help = true;
+        } else if (word == "--version") {
+            line_.version = true;
         } else if (word == "--verbose") {
             line_.session.verbose = true;
         } else if (word == "--data") {
             line_.session.dataFolder = value(word);
+        } else if (word == "--server") {
+            line_.session.server = serverAddress(word);
         } else {
             return !line_.plan && takeWindowOption(word);
         }
@@ -72,6 +77,15 @@ class Sorter {
         if (at_ + 1 < words_.size() && !words_[at_ + 1].empty()) return words_[++at_];
         line_.error = "The option " + option + " needs a value. See --help.";
         return {};
+    }
+
+    std::string serverAddress(const std::string& option) {
+        std::string address = value(option);
+        if (line_.error.empty() && address != "embedded" && !IsServerAddress(address)) {
+            line_.error = "Bad value \"" + address + "\" of " + option +
+                          ": give https://HOST:PORT, http://HOST:PORT or embedded.";
+        }
+        return address;
     }
 
     std::string choice(const std::string& option, const std::vector<std::string>& good) {

@@ -12,6 +12,7 @@ namespace Tarvik::Client {
 struct CommandLine {
     SessionOptions session;
     bool help = false;
+    bool version = false;
     bool plan = false;
     std::vector<std::string> planWords;  ///< what stands behind `plan`, without the options of both
     std::string screenshot;              ///< file for a picture of the window, empty for none

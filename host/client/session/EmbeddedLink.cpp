@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/session/EmbeddedLink.h"
 
+#include "host/client/services/DataFiles.h"
 #include "host/client/session/LateRouteSource.h"
-
-#include <array>
-#include <cstdint>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 
 namespace Tarvik::Client {
 
@@ -29,23 +24,6 @@ bool EmbeddedLink::Connect(std::string& error) {
 
 std::string EmbeddedLink::Exchange(const std::string& user, const Interface::VoyServerRequest& request) {
     return server_ ? server_->Exchange(user, &request) : std::string();
-}
-
-bool CheckNetworkFile(const std::string& path, std::string& error) {
-    constexpr std::size_t kHeadBytes = 24;
-    std::array<unsigned char, kHeadBytes> head{};
-    std::ifstream file(path, std::ios::binary);
-    file.read(reinterpret_cast<char*>(head.data()), head.size());
-    std::uint64_t payload = 0;
-    for (int i = 15; i >= 8; --i) payload = (payload << 8U) | head[static_cast<std::size_t>(i)];
-    std::error_code failed;
-    const auto size = std::filesystem::file_size(path, failed);
-    const bool whole =
-        file && !failed && std::memcmp(head.data(), "SEANET01", 8) == 0 && size == payload + kHeadBytes;
-    if (!whole) {
-        error = "The sea network " + path + " is missing or cut short. Build or install the client again.";
-    }
-    return whole;
 }
 
 }  // namespace Tarvik::Client

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/services/HostServices.h"
+#include "host/client/services/ServerLink.h"
 #include "host/server/app/EmbeddedServer.h"
 
 #include <memory>
@@ -24,8 +24,5 @@ class EmbeddedLink : public ServerLink {
     std::string networkFile_;
     std::unique_ptr<Server::EmbeddedServer> server_;
 };
-
-/// Whether the network file is there and as long as its head says. `error` says what to do.
-bool CheckNetworkFile(const std::string& path, std::string& error);
 
 }  // namespace Tarvik::Client

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/session/LateRouteSource.h"
 
-#include "host/server/app/GraphRouteSource.h"
+#include "host/server/graph/adapter/GraphRouteSource.h"
 
 #include <nlohmann/json.hpp>
 

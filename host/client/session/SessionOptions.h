@@ -12,6 +12,7 @@ struct SessionOptions {
     std::string language;  ///< empty: the preference
     std::string timeZone;  ///< empty: the preference
     std::string theme;     ///< empty: the preference
+    std::string server;    ///< an address or "embedded"; empty: the preference
 };
 
 }  // namespace Tarvik::Client

@@ -18,7 +18,7 @@ Desk::Desk(ClientSession& session)
     Util::TimerService::Set(&timers_);
     Interface::SysMsgSink::Set(&messages_);
     session_.LoadPlugins();
-    window_.AttachChart();
+    window_.AttachPlugins();
 }
 
 Desk::~Desk() {

@@ -2,6 +2,7 @@
 #include "host/client/shell/MainWindow.h"
 
 #include "host/client/shell/Icons.h"
+#include "host/client/shell/LoginDialog.h"
 #include "host/client/shell/PositionText.h"
 #include "host/client/shell/PreferencesDialog.h"
 #include "host/client/shell/Theme.h"
@@ -33,11 +34,17 @@ MainWindow::MainWindow(ClientSession& session) : session_(session) {
     buildStatusLine();
     applyTexts();
     applyTheme();
+    session_.SetAsker([this](const std::string& server, const std::string& user, const std::string& failure) {
+        return askLogin(server, user, failure);
+    });
+    session_.Services().OnConnectionChange([this] { showConnection(); });
     cursorEvent_.Set<&MainWindow::onCursor>(this);
     Core::TrvKernel::Instance()->BindTrvEvent(Seamap::Bus::Cursor.name, &cursorEvent_);
 }
 
 MainWindow::~MainWindow() {
+    session_.SetAsker({});
+    session_.Services().OnConnectionChange({});
     Core::TrvKernel::Instance()->UnBindTrvEvent(Seamap::Bus::Cursor.name, &cursorEvent_);
 }
 
@@ -47,14 +54,14 @@ QString MainWindow::word(const char* key) const {
 
 void MainWindow::buildTools() {
     tools_ = {
-        {"VOYAGES", "voyages", "Ctrl+L", [this] { TogglePanel(kVoyagePanel); }},
-        {"DISTANCES", "distances", "Ctrl+D", [this] { TogglePanel(kDistancePanel); }},
-        {"ZOOM_IN", "zoomin", "Ctrl++", [this] { ChartCommand("zoomin"); }},
-        {"ZOOM_OUT", "zoomout", "Ctrl+-", [this] { ChartCommand("zoomout"); }},
-        {"FIT", "fit", "Ctrl+0", [this] { ChartCommand("fit"); }},
-        {"THEME", "theme", "Ctrl+T", [this] { nextTheme(); }},
-        {"LANGUAGE", "language", "Ctrl+G", [this] { nextLanguage(); }},
-        {"PREFERENCES", "preferences", "Ctrl+,", [this] { openPreferences(); }},
+        {"VOYAGES", "voyages", "Ctrl+L", kVoyagePanel, [this] { TogglePanel(kVoyagePanel); }},
+        {"DISTANCES", "distances", "Ctrl+D", kDistancePanel, [this] { TogglePanel(kDistancePanel); }},
+        {"ZOOM_IN", "zoomin", "Ctrl++", 0, [this] { ChartCommand("zoomin"); }},
+        {"ZOOM_OUT", "zoomout", "Ctrl+-", 0, [this] { ChartCommand("zoomout"); }},
+        {"FIT", "fit", "Ctrl+0", 0, [this] { ChartCommand("fit"); }},
+        {"THEME", "theme", "Ctrl+T", 0, [this] { nextTheme(); }},
+        {"LANGUAGE", "language", "Ctrl+G", 0, [this] { nextLanguage(); }},
+        {"PREFERENCES", "preferences", "Ctrl+,", 0, [this] { openPreferences(); }},
     };
     auto* bar = addToolBar("tools");
     bar->setObjectName("mainToolBar");
@@ -111,8 +118,7 @@ void MainWindow::applyTexts() {
         }
     }
     findChild<QToolBar*>("mainToolBar")->setAccessibleName(word("TOOLBAR_NAME"));
-    user_->setText(word("LOCAL_USER"));
-    connection_->setText(word(session_.Link().IsConnected() ? "CONNECTED" : "OFFLINE"));
+    showConnection();
     zone_->setText(QString::fromStdString(session_.Preferred().timeZone));
     if (!cursorKnown_) cursor_->setText(word("NO_POSITION"));
     const std::pair<QLabel*, const char*> labels[] = {{user_, "USER_NAME"},
@@ -126,6 +132,20 @@ void MainWindow::applyTexts() {
     if (centralWidget()) centralWidget()->setAccessibleName(word("CHART_NAME"));
 }
 
+void MainWindow::showConnection() {
+    const QString user = QString::fromStdString(session_.Services().User());
+    user_->setText(!session_.IsRemote() ? word("LOCAL_USER") : user.isEmpty() ? word("NOBODY") : user);
+    connection_->setText(word(session_.Link().IsConnected() ? "CONNECTED" : "OFFLINE"));
+}
+
+std::optional<Credentials> MainWindow::askLogin(const std::string& server, const std::string& user,
+                                                const std::string& failure) {
+    LoginDialog dialog(this, session_.Texts(), QString::fromStdString(server), QString::fromStdString(user),
+                       QString::fromStdString(failure));
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return Credentials{dialog.User().toStdString(), dialog.Password().toStdString()};
+}
+
 void MainWindow::applyTheme() {
     const Theme theme(QString::fromStdString(session_.Preferred().theme));
     theme.Apply();
@@ -133,7 +153,17 @@ void MainWindow::applyTheme() {
     ChartCommand("theme " + theme.Name().toStdString());
 }
 
-void MainWindow::AttachChart() {
+void MainWindow::AttachPlugins() {
+    for (const Tool& tool : tools_) {
+        if (tool.panel == kDistancePanel) {
+            tool.action->setVisible(
+                Core::TrvKernel::Instance()->IsBound(Interface::Bus::AddPortName.name));
+        }
+    }
+    attachChart();
+}
+
+void MainWindow::attachChart() {
     QWidget* chart = Interface::Call<void, QWidget>(Seamap::Bus::Widget, nullptr);
     if (!chart) {
         auto* gap = new QLabel(word("NO_CHART"), this);
@@ -150,7 +180,6 @@ void MainWindow::AttachChart() {
 void MainWindow::TogglePanel(int panel) {
     const Interface::PanelShow show{panel, 0};
     Interface::Raise(Interface::Bus::ShowPanel, &show);
-    connection_->setText(word(session_.Link().IsConnected() ? "CONNECTED" : "OFFLINE"));
 }
 
 bool MainWindow::ChartCommand(const std::string& command) {

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,9 @@ class MainWindow : public QMainWindow {
     explicit MainWindow(ClientSession& session);
     ~MainWindow() override;
 
-    /// Puts the chart of the loaded plug-ins in the middle; call once, behind ClientSession::LoadPlugins.
-    void AttachChart();
+    /// Puts the chart of the loaded plug-ins in the middle and shows the tools that they answer; call once,
+    /// behind ClientSession::LoadPlugins.
+    void AttachPlugins();
     /// Raises the event that shows or hides a panel (3 voyages, 21 port distances).
     void TogglePanel(int panel);
     /// Tells the chart a command of its contract; false when there is no chart or it did not understand.
@@ -39,19 +41,24 @@ class MainWindow : public QMainWindow {
     bool event(QEvent* event) override;
 
   private:
-    /// One tool: its texts' key, icon, shortcut and what it does.
+    /// One tool: its texts' key, icon, shortcut, the panel that it opens (0 for none) and what it does.
     struct Tool {
         const char* key;
         const char* icon;
         const char* shortcut;
+        int panel;
         std::function<void()> run;
         QAction* action = nullptr;
     };
 
+    void attachChart();
     void buildTools();
     void buildStatusLine();
     void applyTexts();
     void applyTheme();
+    void showConnection();
+    std::optional<Credentials> askLogin(const std::string& server, const std::string& user,
+                                        const std::string& failure);
     void nextTheme();
     void nextLanguage();
     void openPreferences();

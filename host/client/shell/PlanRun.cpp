@@ -3,6 +3,7 @@
 
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/shell/Desk.h"
+#include "host/client/shell/QtLog.h"
 #include "host/client/shell/WindowPicture.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 namespace Tarvik::Client {
 namespace {
@@ -28,7 +30,7 @@ int Print(const std::string& text) {
 int PlanAndPrint(ClientSession& session, const PlanArguments& arguments,
                  const Seaplan::PlanRequest& request) {
     const Seaplan::PlanResult* plan = nullptr;
-    const PlanOutcome outcome = CallPlanService(request, plan);
+    const PlanOutcome outcome = CallPlanService(request, plan, &session.Services());
     if (outcome.exitCode != kExitDone) return Tell(outcome);
     return Print(FormatPlan(arguments, *plan, session.Services().TimeZone(), session.Texts()));
 }
@@ -46,6 +48,8 @@ int PlanWithPicture(int argc, char** argv, ClientSession& session, const PlanArg
     SettleWindows();
     const int code = PlanAndPrint(session, arguments, request);
     if (code != kExitDone) return code;
+    // The chart's own fit goes round the globe the short way, also over the date line.
+    desk.Window().ChartCommand("fit");
     SettleWindows();
     return SavePicture(desk.Window(), file, error) ? kExitDone : Tell({kExitFailed, error});
 }
@@ -58,6 +62,24 @@ int PlanWithoutWindow(int argc, char** argv, ClientSession& session, const PlanA
     return PlanAndPrint(session, arguments, request);
 }
 
+std::string Environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
+/// Logs in with what the environment says: once, as there is nobody to ask again.
+bool ConnectUnattended(ClientSession& session, std::string& error) {
+    const Credentials login{Environment("SEAPLAN_USER"), Environment("SEAPLAN_PASSWORD")};
+    const bool complete = !login.user.empty() && !login.password.empty();
+    session.SetAsker([&](const std::string&, const std::string&, const std::string& failure) {
+        return complete && failure.empty() ? std::optional(login) : std::nullopt;
+    });
+    const bool connected = session.Link().Connect(error);
+    if (!connected && !complete) error += " Set SEAPLAN_USER and SEAPLAN_PASSWORD to log in.";
+    session.SetAsker({});
+    return connected;
+}
+
 }  // namespace
 
 int RunPlan(int argc, char** argv, const CommandLine& line) {
@@ -68,9 +90,11 @@ int RunPlan(int argc, char** argv, const CommandLine& line) {
     std::string error;
     const auto session = ClientSession::Open(options, error);
     if (!session) return Tell({kExitFailed, error});
+    const QtLog log(session->Log());
     Seaplan::PlanRequest request;
     const PlanOutcome checked = MakePlanRequest(parsed.arguments, PortLookup(session->Ports()), request);
     if (checked.exitCode != kExitDone) return Tell(checked);
+    if (!ConnectUnattended(*session, error)) return Tell({kExitFailed, error});
     return parsed.arguments.picture.empty()
                ? PlanWithoutWindow(argc, argv, *session, parsed.arguments, request)
                : PlanWithPicture(argc, argv, *session, parsed.arguments, request);

@@ -50,7 +50,6 @@ void PreferencesDialog::buildFields(const LanguageFiles& texts) {
     zone_->setCurrentText(QString::fromStdString(current_.timeZone));
     server_ = new QLineEdit(QString::fromStdString(current_.server), this);
     server_->setPlaceholderText(word("PREF_SERVER_HINT"));
-    server_->setEnabled(false);
     server_->setToolTip(word("PREF_SERVER_NOTE"));
     const auto row = [&](const char* key, const char* name, QWidget* field) {
         field->setObjectName(name);
@@ -79,16 +78,24 @@ void PreferencesDialog::buildFields(const LanguageFiles& texts) {
 }
 
 void PreferencesDialog::agree() {
-    // A zone that nobody knows would silently count as UTC: the field keeps the focus until it is one.
-    if (Util::DateTimeUtl::IsKnownZone(zone_->currentText().toStdString())) return accept();
-    zone_->setFocus();
-    zone_->lineEdit()->selectAll();
+    // A zone that nobody knows would silently count as UTC, and an address of no known form as no server: the
+    // field keeps the focus until it is one.
+    if (!Util::DateTimeUtl::IsKnownZone(zone_->currentText().toStdString())) return askAgain(zone_->lineEdit());
+    const std::string server = server_->text().trimmed().toStdString();
+    if (!server.empty() && !IsServerAddress(server)) return askAgain(server_);
+    accept();
+}
+
+void PreferencesDialog::askAgain(QLineEdit* field) {
+    field->setFocus();
+    field->selectAll();
 }
 
 Preferences PreferencesDialog::Chosen() const {
     Preferences chosen = current_;
     chosen.language = language_->currentData().toString().toStdString();
     chosen.timeZone = zone_->currentText().toStdString();
+    chosen.server = server_->text().trimmed().toStdString();
     return chosen;
 }
 

@@ -21,6 +21,7 @@ class PreferencesDialog : public QDialog {
   private:
     void buildFields(const LanguageFiles& texts);
     void agree();
+    void askAgain(QLineEdit* field);
 
     Preferences current_;
     QComboBox* language_ = nullptr;

@@ -3,6 +3,7 @@
 
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/shell/Desk.h"
+#include "host/client/shell/QtLog.h"
 #include "host/client/shell/WindowPicture.h"
 
 #include <QApplication>
@@ -46,11 +47,13 @@ int RunWindow(int argc, char** argv, const CommandLine& line) {
     if (!HasDisplay()) {
         return Complain("There is no display. Plan without a window: plan PORT PORT (see --help).", false);
     }
+    QtLog::Silence();
     Desk::PrepareApplication();
     QApplication application(argc, argv);
     std::string error;
     const auto session = ClientSession::Open(line.session, error);
     if (!session) return Complain(error, !picture);
+    const QtLog log(session->Log());
     Desk desk(*session);
     if (picture) return TakePicture(desk, line);
     desk.Window().show();

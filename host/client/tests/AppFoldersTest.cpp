@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/services/AppFolders.h"
+#include "host/client/services/DataFiles.h"
 #include "host/client/tests/PortDatabase.h"
 #include "host/client/tests/TemporaryFolder.h"
 
@@ -11,13 +12,18 @@ namespace {
 using testing::HasSubstr;
 namespace fs = std::filesystem;
 
+/// A land file with a given content.
+std::string Land(const std::string& content) {
+    return "LANDV001" + std::string(1, static_cast<char>(content.size())) + std::string(7, '\0') + content;
+}
+
 /// A program's tree: bin, lib and share, with all that is shipped.
 class AppFoldersTest : public testing::Test {
   protected:
     AppFoldersTest() {
         for (const char* name : {"bin", "lib", "share/seaplan"}) fs::create_directories(root_.Path(name));
         MakePortDatabase(root_.Path("share/seaplan/trvdb.db"));
-        root_.Write("share/seaplan/land.bin", "land");
+        root_.Write("share/seaplan/land.bin", Land("land"));
         root_.Write("share/seaplan/ship.png", "ship");
     }
     AppFolders folders() const { return AppFolders(root_.Path("bin"), root_.Path("data")); }
@@ -28,7 +34,7 @@ class AppFoldersTest : public testing::Test {
 
 TEST_F(AppFoldersTest, FillsTheDataFolderAtFirstStart) {
     ASSERT_TRUE(folders().Prepare(error_)) << error_;
-    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), "land");
+    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), Land("land"));
     EXPECT_EQ(root_.Read("data/businessdata/seaplan/ship.png"), "ship");
     EXPECT_TRUE(fs::exists(root_.Path("data/businessdata/trvdb.db")));
     EXPECT_FALSE(fs::exists(root_.Path("data/.writable")));
@@ -38,7 +44,7 @@ TEST_F(AppFoldersTest, FindsShippedFilesInTheirNestedPlaceToo) {
     fs::create_directories(root_.Path("share/seaplan/businessdata"));
     fs::rename(root_.Path("share/seaplan/land.bin"), root_.Path("share/seaplan/businessdata/land.bin"));
     ASSERT_TRUE(folders().Prepare(error_)) << error_;
-    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), "land");
+    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), Land("land"));
 }
 
 TEST_F(AppFoldersTest, KeepsThePersonsFilesAndMendsACopyThatWasCut) {
@@ -47,17 +53,17 @@ TEST_F(AppFoldersTest, KeepsThePersonsFilesAndMendsACopyThatWasCut) {
     root_.Write("data/businessdata/land.bin", "la");
     ASSERT_TRUE(folders().Prepare(error_));
     EXPECT_EQ(root_.Read("data/businessdata/seaplan/Ports.dat"), "mine");
-    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), "land");
+    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), Land("land"));
 }
 
 TEST_F(AppFoldersTest, TakesOverAShippedFileThatBecameNewer) {
     ASSERT_TRUE(folders().Prepare(error_));
-    root_.Write("share/seaplan/land.bin", "isle");
+    root_.Write("share/seaplan/land.bin", Land("isle"));
     fs::last_write_time(
         root_.Path("share/seaplan/land.bin"),
         fs::last_write_time(root_.Path("data/businessdata/land.bin")) + std::chrono::hours(1));
     ASSERT_TRUE(folders().Prepare(error_));
-    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), "isle");
+    EXPECT_EQ(root_.Read("data/businessdata/land.bin"), Land("isle"));
 }
 
 TEST_F(AppFoldersTest, NamesAMissingShippedFile) {
@@ -71,6 +77,13 @@ TEST_F(AppFoldersTest, NamesAPortTableThatIsCutShort) {
     fs::resize_file(root_.Path("share/seaplan/trvdb.db"), size / 2);
     EXPECT_FALSE(folders().Prepare(error_));
     EXPECT_THAT(error_, HasSubstr("trvdb.db is missing or cut short"));
+}
+
+TEST_F(AppFoldersTest, NamesALandFileThatIsCutShort) {
+    root_.Write("share/seaplan/land.bin", Land("land").substr(0, 19));
+    EXPECT_FALSE(folders().Prepare(error_));
+    EXPECT_THAT(error_, HasSubstr("land.bin is missing or cut short"));
+    EXPECT_FALSE(fs::exists(root_.Path("data/businessdata/trvdb.db")));
 }
 
 TEST_F(AppFoldersTest, ADataFolderThatCannotBeMadeIsNamedWithAdvice) {
@@ -95,6 +108,20 @@ TEST(DatabaseFile, OfAnotherKindOrMissingIsRefused) {
     EXPECT_FALSE(CheckDatabaseFile(folder.Path("text.db"), error));
     MakePortDatabase(folder.Path("good.db"));
     EXPECT_TRUE(CheckDatabaseFile(folder.Path("good.db"), error));
+}
+
+TEST(FramedFile, OfAnotherKindCutOrGrownIsRefused) {
+    TemporaryFolder folder;
+    std::string error;
+    const std::string whole = Land("land");
+    folder.Write("whole", whole);
+    EXPECT_TRUE(CheckLandFile(folder.Path("whole"), error));
+    EXPECT_FALSE(CheckNetworkFile(folder.Path("whole"), error));
+    for (const std::string& bad : {whole.substr(0, 19), whole.substr(0, 10), whole + "x", std::string()}) {
+        folder.Write("bad", bad);
+        EXPECT_FALSE(CheckLandFile(folder.Path("bad"), error)) << bad.size();
+    }
+    EXPECT_FALSE(CheckLandFile(folder.Path("none"), error));
 }
 
 }  // namespace

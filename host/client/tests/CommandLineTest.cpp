@@ -51,6 +51,11 @@ TEST(CommandLine, NamesABadWord) {
     EXPECT_THAT(ParseCommandLine({"--panel", "4"}).error, HasSubstr("\"4\" of --panel"));
 }
 
+TEST(CommandLine, FindsTheVersion) {
+    EXPECT_TRUE(ParseCommandLine({"--version"}).version);
+    EXPECT_FALSE(ParseCommandLine({}).version);
+}
+
 TEST(CommandLine, FindsHelpBesideThePlan) {
     EXPECT_TRUE(ParseCommandLine({"plan", "--help"}).help);
 }

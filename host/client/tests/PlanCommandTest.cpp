@@ -13,7 +13,7 @@ using testing::HasSubstr;
 PortLookup Lookup() {
     return PortLookup({{"40001", "Alpha", "", "XXALP", 0, 0},
                        {"40002", "Beta", "", "", 0, 0},
-                       {"40003", "Bert", "", "", 0, 0}});
+                       {"40003", "Bert", "", "", 1, 0}});
 }
 
 PlanArguments Arguments(const std::vector<std::string>& words) {

@@ -13,7 +13,13 @@ PortLookup Lookup() {
                        {"40004", "San Juan", "", "PRSJU", -66.1, 18.4},
                        {"40005", "San Juan", "", "", -115.0, -15.0},
                        {"40006", "Santos", "", "BRSSZ", -46.3, -23.9},
-                       {"40007", "San", "", "", 0, 0}});
+                       {"40007", "San", "", "", 0, 0},
+                       {"40008", "Hull, Canada", "", "CAHUL", -75.7, 45.4},
+                       {"40009", "Hull, United Kingdom", "赫尔", "GBHUL", -0.3, 53.7},
+                       {"40010", "Shanghai, China", "上海", "CNSGH", 121.5, 31.2},
+                       {"40011", "Shanghai, China (CNSHA)", "上海", "CNSHA", 121.5, 31.2},
+                       {"40012", "Perth, Australia", "", "", 115.9, -31.9},
+                       {"40013", "Perth, United Kingdom", "Perth, United Kingdom", "", -3.4, 56.4}});
 }
 
 std::string Id(const std::string& word) {
@@ -60,6 +66,24 @@ TEST(PortLookup, ASharedNameIsAmbiguousAndAnIdSettlesIt) {
     EXPECT_EQ(Lookup().Find("San Juan").kind, PortMatch::Kind::Ambiguous);
     EXPECT_EQ(Lookup().Find("San Juan").candidates.size(), 2U);
     EXPECT_EQ(Id("40005"), "40005");
+}
+
+TEST(PortLookup, ANameWithoutItsCountryMeansTheBusyPort) {
+    EXPECT_EQ(Id("Hull"), "40009");
+    EXPECT_EQ(Id("hull, canada"), "40008");
+}
+
+TEST(PortLookup, APlaceListedTwiceIsOnePort) {
+    EXPECT_EQ(Id("Shanghai"), "40010");
+    EXPECT_EQ(Id("上海"), "40010");
+    EXPECT_EQ(Id("CNSHA"), "40011");
+    EXPECT_EQ(Id("shang"), "40010");
+}
+
+TEST(PortLookup, QuietPortsOfOneNameStayAmbiguous) {
+    const PortMatch match = Lookup().Find("Perth");
+    EXPECT_EQ(match.kind, PortMatch::Kind::Ambiguous);
+    EXPECT_EQ(match.candidates.size(), 2U);
 }
 
 TEST(PortLookup, AnUnknownNameGetsTheNearestFirst) {

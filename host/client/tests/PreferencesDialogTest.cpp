@@ -41,8 +41,21 @@ TEST_F(PreferencesDialogTest, DoesNotCloseOnAZoneThatIsNone) {
     EXPECT_EQ(dialog_.result(), QDialog::Rejected);
 }
 
-TEST_F(PreferencesDialogTest, SaysWhyTheServerCannotBeChosen) {
-    EXPECT_FALSE(dialog_.findChild<QLineEdit*>("serverAddress")->isEnabled());
+TEST_F(PreferencesDialogTest, TakesAServersAddressOrNone) {
+    auto* server = dialog_.findChild<QLineEdit*>("serverAddress");
+    dialog_.show();
+    server->setText("office");
+    dialog_.findChild<QPushButton*>("preferencesOk")->click();
+    EXPECT_TRUE(dialog_.isVisible()) << "no address of a server";
+    server->setText(" https://office:8470 ");
+    dialog_.findChild<QPushButton*>("preferencesOk")->click();
+    EXPECT_FALSE(dialog_.isVisible());
+    EXPECT_EQ(dialog_.Chosen().server, "https://office:8470");
+    server->clear();
+    EXPECT_EQ(dialog_.Chosen().server, "");
+}
+
+TEST_F(PreferencesDialogTest, SaysWhatTheServersFieldTakes) {
     EXPECT_EQ(dialog_.findChild<QLabel*>("serverNote")->text(), "PREF_SERVER_NOTE");
 }
 

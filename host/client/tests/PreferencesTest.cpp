@@ -16,7 +16,7 @@ TEST(Preferences, StartWithTheZoneInWhichTimesAreStored) {
 
 TEST(Preferences, ComeBackAsTheyWereWritten) {
     TemporaryFolder folder;
-    const Preferences chosen{"zh-CN", "Europe/Rotterdam", "night", "http://10.0.0.1:80"};
+    const Preferences chosen{"zh-CN", "Europe/Rotterdam", "night", "http://10.0.0.1:80", "anna"};
     Preferences written = chosen;
     written.timeZone = "UTC";
     std::string error;
@@ -27,12 +27,12 @@ TEST(Preferences, ComeBackAsTheyWereWritten) {
 
 TEST(Preferences, WrongValuesGiveWayToTheUsualOnes) {
     TemporaryFolder folder;
-    folder.Write("p.json", R"({"language":"xx","timeZone":"Middle/Earth","theme":3,"server":"s"})");
+    folder.Write("p.json", R"({"language":"xx","timeZone":"Middle/Earth","theme":3,"server":"ftp"})");
     const Preferences read = Preferences::Read(folder.Path("p.json"));
     EXPECT_EQ(read.language, "en-US");
     EXPECT_EQ(read.timeZone, "China Standard Time");
     EXPECT_EQ(read.theme, "light");
-    EXPECT_EQ(read.server, "s");
+    EXPECT_EQ(read.server, "");
     folder.Write("p.json", "{\"language\":\"zh-");
     EXPECT_EQ(Preferences::Read(folder.Path("p.json")), Preferences());
 }

@@ -15,11 +15,21 @@ namespace {
 
 using Server::kDegree;
 
-constexpr double kCoarseNm = 2.0;
 constexpr double kFineNm = 0.8;
-constexpr double kIceNm = 8.0;
 constexpr double kOpenOffsetNm = 3.0;
+/// In busy waters a straight coast gets a corner about this often too, where it bends at all.
+constexpr double kGapNm = 8.0;
 constexpr double kNorthEnd = 79.0;
+
+/// How finely a coast is followed and how far off ships pass it. The distance is larger than the tolerance,
+/// so that the ways between capes clear what was left out of the coast.
+struct Measure {
+    double toleranceNm;
+    double offsetNm;
+};
+constexpr Measure kWild{4.0, 6.0};
+constexpr Measure kUsed{2.0, kOpenOffsetNm};
+constexpr Measure kIce{12.0, 16.0};
 
 GeoPoint unit(GeoPoint from, GeoPoint to) {
     const double dx = (to.x - from.x) * std::cos(from.y * kDegree);
@@ -73,21 +83,22 @@ void keepBetween(const Ring& ring, size_t first, size_t last, double tolerance, 
 /// Corners found so far, looked up by place to keep them apart.
 class CornerSet {
   public:
-    bool hasNear(GeoPoint p, double nm) const {
+    /// The corner nearer than `nm` to a place; null when there is none. Valid until the next `add`.
+    Corner* near(GeoPoint p, double nm) {
         const auto [cx, cy] = cell(p);
         for (int x = cx - 1; x <= cx + 1; ++x) {
             for (int y = cy - 1; y <= cy + 1; ++y) {
                 const auto it = cells_.find({x, y});
                 if (it == cells_.end()) continue;
-                for (const GeoPoint other : it->second) {
-                    if (Server::arcNm(p, other) < nm) return true;
+                for (const size_t other : it->second) {
+                    if (Server::arcNm(p, corners[other].at) < nm) return &corners[other];
                 }
             }
         }
-        return false;
+        return nullptr;
     }
     void add(const Corner& corner) {
-        cells_[cell(corner.at)].push_back(corner.at);
+        cells_[cell(corner.at)].push_back(corners.size());
         corners.push_back(corner);
     }
     std::vector<Corner> corners;
@@ -96,7 +107,7 @@ class CornerSet {
     static std::pair<int, int> cell(GeoPoint p) {
         return {static_cast<int>(std::floor(p.x * 4.0)), static_cast<int>(std::floor(p.y * 8.0))};
     }
-    std::map<std::pair<int, int>, std::vector<GeoPoint>> cells_;
+    std::map<std::pair<int, int>, std::vector<size_t>> cells_;
 };
 
 std::optional<GeoPoint> moveSeaward(const Ring& ring, size_t i, double nm, const Server::LandIndex& index) {
@@ -104,7 +115,7 @@ std::optional<GeoPoint> moveSeaward(const Ring& ring, size_t i, double nm, const
     const GeoPoint a = unit(v, ring[(i + ring.size() - 1) % ring.size()]);
     const GeoPoint b = unit(v, ring[(i + 1) % ring.size()]);
     const GeoPoint sum{-(a.x + b.x), -(a.y + b.y)};
-    if (std::hypot(sum.x, sum.y) < 0.05) return std::nullopt;  // the coast runs straight on here
+    if (std::hypot(sum.x, sum.y) < 0.02) return std::nullopt;  // the coast runs straight on here
     const double bearing = std::atan2(sum.x, sum.y) / kDegree;
     const GeoPoint out =
         Server::roundPoint(Server::destination({Server::wrapLongitude(v.x), v.y}, bearing, nm));
@@ -113,25 +124,39 @@ std::optional<GeoPoint> moveSeaward(const Ring& ring, size_t i, double nm, const
 }
 
 void addCorner(const Ring& ring, size_t i, GeoPoint at, double apart, CornerSet& found) {
-    if (found.hasNear(at, apart)) return;
     const GeoPoint v = ring[i];
-    found.add({at, unit(v, ring[(i + ring.size() - 1) % ring.size()]), unit(v, ring[(i + 1) % ring.size()])});
+    const Corner corner{at, unit(v, ring[(i + ring.size() - 1) % ring.size()]),
+                        unit(v, ring[(i + 1) % ring.size()]), false};
+    // One place stands for both capes then, and ways may bend round either.
+    if (Corner* other = found.near(at, apart)) {
+        other->shared = true;
+    } else {
+        found.add(corner);
+    }
 }
 
-void addOpenCorners(const Ring& ring, const Server::LandIndex& index, CornerSet& found) {
+/// Capes with room to pass; only those in busy waters when `busy` is given.
+void addOpenCorners(const Ring& ring, const Server::LandIndex& index, double offsetNm, const BusyWaters* busy,
+                    CornerSet& found) {
     for (size_t i = 0; i < ring.size(); ++i) {
-        for (const double nm : {kOpenOffsetNm, 1.5}) {
+        if (busy != nullptr && !busy->contains(ring[i])) continue;
+        for (const double nm : {offsetNm, 0.5 * offsetNm}) {
             const auto at = moveSeaward(ring, i, nm, index);
             if (!at) continue;
-            addCorner(ring, i, *at, nm * 0.5, found);
+            addCorner(ring, i, *at, nm * 0.7, found);
             break;
         }
     }
 }
 
-void addNarrowCorners(const Ring& ring, const Server::LandIndex& index, CornerSet& found) {
+void addNarrowCorners(const Ring& ring, const Server::LandIndex& index, const BusyWaters& busy,
+                      CornerSet& found) {
     for (size_t i = 0; i < ring.size(); ++i) {
-        if (ring[i].y > Server::kNorthLimit || moveSeaward(ring, i, kOpenOffsetNm, index)) continue;
+        if (!busy.contains(ring[i])) continue;
+        if (const auto open = moveSeaward(ring, i, kOpenOffsetNm, index)) {
+            if (found.near(*open, kGapNm) == nullptr) addCorner(ring, i, *open, kGapNm, found);
+            continue;
+        }
         for (const double nm : {0.8, 0.4, 0.2}) {
             const auto at = moveSeaward(ring, i, nm, index);
             if (!at) continue;
@@ -170,15 +195,19 @@ Ring simplifyRing(const Ring& ring, double toleranceNm) {
     return out;
 }
 
-std::vector<Corner> findCorners(const std::vector<Polygon>& land, const Server::LandIndex& index) {
+std::vector<Corner> findCorners(const std::vector<Polygon>& land, const Server::LandIndex& index,
+                                const Waters& waters) {
     CornerSet found;
     for (const Polygon& polygon : land) {
         for (const Ring& raw : polygon) {
             if (!inReach(raw)) continue;
             const Ring ring = unwrapped(raw);
             const bool ice = ring.front().y > Server::kNorthLimit;
-            addOpenCorners(simplifyRing(ring, ice ? kIceNm : kCoarseNm), index, found);
-            if (!ice) addNarrowCorners(simplifyRing(ring, kFineNm), index, found);
+            const Measure& wild = ice ? kIce : kWild;
+            addOpenCorners(simplifyRing(ring, wild.toleranceNm), index, wild.offsetNm, nullptr, found);
+            if (ice) continue;
+            addOpenCorners(simplifyRing(ring, kUsed.toleranceNm), index, kUsed.offsetNm, &waters.used, found);
+            addNarrowCorners(simplifyRing(ring, kFineNm), index, waters.busy, found);
         }
     }
     std::erase_if(found.corners,

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "host/data/builder/BusyWaters.h"
 #include "host/data/builder/TopoLand.h"
 #include "host/server/graph/LandIndex.h"
 
@@ -14,10 +15,18 @@ struct Corner {
     GeoPoint at;
     GeoPoint toPrevious;
     GeoPoint toNext;
+    bool shared = false;  ///< stands for several capes, whose directions differ
+};
+
+/// How finely the coast is followed.
+struct Waters {
+    BusyWaters busy;  ///< narrow water counts and every cape
+    BusyWaters used;  ///< every cape with room to pass; elsewhere only the great ones
 };
 
 /// The capes of the land, 3 nautical miles off in open water, 0.2 to 0.8 in narrow water.
-std::vector<Corner> findCorners(const std::vector<Polygon>& land, const Server::LandIndex& index);
+std::vector<Corner> findCorners(const std::vector<Polygon>& land, const Server::LandIndex& index,
+                                const Waters& waters);
 
 /// A closed ring with only those points that matter at a tolerance in nautical miles (Douglas and Peucker's
 /// method).

@@ -13,6 +13,25 @@ double coordinate(GeoPoint p, Axis axis) {
     return axis == Axis::X ? p.x : p.y;
 }
 
+/// A clipped ring without repeated points and without points that only run along the cut line, or the cells
+/// of a ragged coast never become small.
+Ring slimmed(const Ring& ring, Axis axis, double line) {
+    Ring single;
+    for (const GeoPoint p : ring) {
+        if (single.empty() || !(single.back() == p)) single.push_back(p);
+    }
+    while (single.size() > 1 && single.front() == single.back()) single.pop_back();
+    Ring slim;
+    for (size_t i = 0; i < single.size(); ++i) {
+        const GeoPoint before = slim.empty() ? single.back() : slim.back();
+        const GeoPoint after = single[(i + 1) % single.size()];
+        const bool along = coordinate(before, axis) == line && coordinate(single[i], axis) == line &&
+                           coordinate(after, axis) == line;
+        if (!along) slim.push_back(single[i]);
+    }
+    return slim;
+}
+
 /// The part of a ring on one side of a line (the method of Sutherland and Hodgman).
 Ring clip(const Ring& ring, Axis axis, double line, bool keepAbove) {
     Ring out;
@@ -29,17 +48,7 @@ Ring clip(const Ring& ring, Axis axis, double line, bool keepAbove) {
         (axis == Axis::X ? at.x : at.y) = line;
         out.push_back(at);
     }
-    Ring slim;
-    for (size_t i = 0; i < out.size(); ++i) {
-        // Points that only run along the cut line are dropped, or the cells of a ragged coast never become
-        // small.
-        const GeoPoint before = slim.empty() ? out.back() : slim.back();
-        const GeoPoint after = out[(i + 1) % out.size()];
-        const bool along = coordinate(before, axis) == line && coordinate(out[i], axis) == line &&
-                           coordinate(after, axis) == line;
-        if (!along && !(out[i] == before)) slim.push_back(out[i]);
-    }
-    return slim;
+    return slimmed(out, axis, line);
 }
 
 /// Longitudes that run on past ±180, so that neighbours are close. A ring around the pole gets its polar

@@ -16,6 +16,9 @@ namespace {
 constexpr double kLatticeStep = 5.0;
 constexpr double kLatticeNorth = 75.0;
 constexpr double kLatticeSouth = -55.0;
+/// How far around ports and hand-made ways the coast is followed closely.
+constexpr double kBusyNm = 30.0;
+constexpr double kUsedNm = 40.0;
 constexpr double kLatticeClearNm = 15.0;
 /// Hand-made ways get a node at least this often, so that ports along a river find one near.
 constexpr double kPassageStepNm = 5.0;
@@ -65,8 +68,15 @@ void NetworkBuilder::addPassages(SpannerEdges& edges) {
 }
 
 void NetworkBuilder::addCapes() {
-    for (const Corner& corner : findCorners(land_, index_)) {
-        nodes_.push_back({corner.at, true, true, corner.toPrevious, corner.toNext});
+    std::vector<GeoPoint> places;
+    for (const PortSource& port : sources_.ports) places.push_back(port.at);
+    for (const RoutePointSource& point : sources_.routePoints) places.push_back(point.at);
+    for (const PassageSource& passage : sources_.passages) {
+        for (const PassageVertex& vertex : passage.vertices) places.push_back(vertex.at);
+    }
+    const Waters waters{BusyWaters(places, kBusyNm), BusyWaters(places, kUsedNm)};
+    for (const Corner& corner : findCorners(land_, index_, waters)) {
+        nodes_.push_back({corner.at, true, !corner.shared, corner.toPrevious, corner.toNext});
     }
 }
 
@@ -118,10 +128,10 @@ Server::NetworkData NetworkBuilder::build() {
     addLattice();
     edges.connect(0);
     PortLinker linker(nodes_, edges, index_);
-    const std::vector<uint32_t> portNodes = linker.link(sources_.ports);
+    const std::vector<std::optional<uint32_t>> portNodes = linker.link(sources_.ports);
     for (size_t i = 0; i < sources_.ports.size(); ++i) {
         const PortSource& port = sources_.ports[i];
-        data.ports.push_back({port.id, port.unlocode, port.name, portNodes[i]});
+        if (portNodes[i]) data.ports.push_back({port.id, port.unlocode, port.name, *portNodes[i]});
     }
     for (const BuildNode& node : nodes_) data.nodes.push_back(node.at);
     data.edges = edges.edges();

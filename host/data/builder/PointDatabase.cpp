@@ -21,16 +21,17 @@ class Inserter {
     explicit Inserter(SQLite::Database& database)
         : statement_(
               database,
-              "insert into t_point(id,name,namecn,x,y,isport,origid,unlocode) values(?,?,?,?,?,?,'0',?)") {}
+              "insert into t_point(id,name,namecn,x,y,isport,origid,unlocode) values(?,?,?,?,?,?,?,?)") {}
     void add(const std::string& id, const std::string& name, const std::string& namecn, GeoPoint at,
-             bool isPort, const std::string& unlocode) {
+             const std::string& isPort, const std::string& origid, const std::string& unlocode) {
         statement_.bind(1, id);
         statement_.bind(2, name);
         statement_.bind(3, namecn);
         statement_.bind(4, degrees(at.x));
         statement_.bind(5, degrees(at.y));
-        statement_.bind(6, isPort ? "1" : "0");
-        statement_.bind(7, unlocode);
+        statement_.bind(6, isPort);
+        statement_.bind(7, origid);
+        statement_.bind(8, unlocode);
         statement_.exec();
         statement_.reset();
     }
@@ -52,9 +53,9 @@ std::string writePointDatabase(const std::string& path, const Sources& sources) 
             "origid text, unlocode text)");
         Inserter inserter(database);
         for (const RoutePointSource& p : sources.routePoints)
-            inserter.add(p.id, p.name, p.namecn, p.at, false, "");
+            inserter.add(p.id, p.name, p.namecn, p.at, "0", "0", "");
         for (const PortSource& p : sources.ports)
-            inserter.add(p.id, p.name, p.namecn, p.at, true, p.unlocode);
+            inserter.add(p.id, p.name, p.namecn, p.at, "1", p.origid, p.unlocode);
         transaction.commit();
         return {};
     } catch (const std::exception& e) {

@@ -8,10 +8,14 @@
 namespace Tarvik::Data {
 namespace {
 
-/// Smaller parts of the network are ponds and lagoons without a way out; inland seas with ports are larger.
-constexpr uint32_t kSmallestPart = 30;
-constexpr size_t kNodesLookedAt = 60;
-constexpr double kFarthestWaterNm = 80.0;
+constexpr size_t kNodesLookedAt = 40;
+/// A place that sees this many of them lies open enough.
+constexpr int kEnoughSeen = 16;
+/// How far behind the first water the open roads are looked for, and the view that a mile more must bring.
+constexpr double kRoadsNm = 3.0;
+constexpr double kSeenPerNm = 3.0;
+/// Farther from the water no ship comes: the list of ports holds inland towns too.
+constexpr double kFarthestNm = 35.0;
 /// A hand-made way this much farther than the water is still the better approach.
 constexpr double kWayBonusNm = 1.5;
 
@@ -28,30 +32,52 @@ PortLinker::PortLinker(std::vector<BuildNode>& nodes, SpannerEdges& edges, const
         ways.insert(e.b);
     }
     wayNodes_.assign(ways.begin(), ways.end());
+    // Other parts are lagoons and basins that the map shows without their way out.
+    const auto oceans = static_cast<uint32_t>(std::max_element(sizes.begin(), sizes.end()) - sizes.begin());
     for (uint32_t i = 0; i < nodes.size(); ++i) {
-        if (nodes[i].free && sizes[part[i]] >= kSmallestPart) seaNodes_.push_back(i);
+        if (nodes[i].free && part[i] == oceans) seaNodes_.push_back(i);
     }
+    std::erase_if(wayNodes_, [&](uint32_t i) { return part[i] != oceans; });
 }
 
-bool PortLinker::seesNetwork(GeoPoint place) const {
-    return std::any_of(around_.begin(), around_.end(),
-                       [&](const auto& near) { return !land_.blocks(place, nodes_[near.second].at); });
+double PortLinker::Water::score() const {
+    return seen - kSeenPerNm * nm;
 }
 
-bool PortLinker::findWater(GeoPoint port, GeoPoint& water, double& nm) {
+void PortLinker::lookAround(GeoPoint port) {
     around_.clear();
     for (const uint32_t i : seaNodes_) around_.emplace_back(Server::arcNm(port, nodes_[i].at), i);
     const size_t looked = std::min(kNodesLookedAt, around_.size());
     std::partial_sort(around_.begin(), around_.begin() + static_cast<std::ptrdiff_t>(looked), around_.end());
     around_.resize(looked);
-    for (nm = 0.0; nm <= kFarthestWaterNm; nm += nm < 4.0 ? 0.25 : 1.0) {
-        const int directions = nm == 0.0 ? 1 : 24;
+}
+
+std::optional<PortLinker::Water> PortLinker::lookFrom(GeoPoint place, double nm) const {
+    if (land_.isLand(place)) return std::nullopt;
+    Water water{place, nm, 0, 0};
+    for (const auto& [distance, node] : around_) {
+        if (land_.blocks(place, nodes_[node].at)) continue;
+        if (water.seen == 0) water.nearest = node;
+        if (++water.seen == kEnoughSeen) break;
+    }
+    return water.seen == 0 ? std::nullopt : std::optional(water);
+}
+
+std::optional<PortLinker::Water> PortLinker::findWater(GeoPoint port) {
+    lookAround(port);
+    std::optional<Water> best;
+    double last = kFarthestNm;
+    for (double nm = 0.0; nm <= last; nm += nm < 4.0 ? 0.5 : 1.0) {
+        const int directions = nm == 0.0 ? 1 : 16;
         for (int i = 0; i < directions; ++i) {
-            water = Server::roundPoint(Server::destination(port, 360.0 / directions * i, nm));
-            if (!land_.isLand(water) && seesNetwork(water)) return true;
+            const GeoPoint place = Server::roundPoint(Server::destination(port, 360.0 / directions * i, nm));
+            const std::optional<Water> water = lookFrom(place, nm);
+            if (!water || (best && water->score() <= best->score())) continue;
+            if (!best) last = std::min(last, nm + kRoadsNm);
+            best = water;
         }
     }
-    return false;
+    return best;
 }
 
 uint32_t PortLinker::nearestWayNode(GeoPoint port, double& nm) const {
@@ -66,16 +92,16 @@ uint32_t PortLinker::nearestWayNode(GeoPoint port, double& nm) const {
     return best;
 }
 
-uint32_t PortLinker::linkOne(GeoPoint port) {
-    GeoPoint water;
-    double waterNm = 0.0;
-    const bool hasWater = findWater(port, water, waterNm);
+std::optional<uint32_t> PortLinker::linkOne(GeoPoint port) {
+    const std::optional<Water> water = findWater(port);
     double wayNm = 1e9;
     uint32_t target = wayNodes_.empty() ? 0 : nearestWayNode(port, wayNm);
+    if (!water && wayNm > kFarthestNm) return std::nullopt;
     const auto node = static_cast<uint32_t>(nodes_.size());
-    if (hasWater && waterNm + kWayBonusNm < wayNm) {
-        nodes_.push_back({water, true, false, {}, {}});
-        if (waterNm == 0.0) return node;
+    if (water && water->nm + kWayBonusNm < wayNm) {
+        nodes_.push_back({water->at, true, false, {}, {}});
+        edges_.addFixed(node, water->nearest, Server::EdgeKind::Sea);
+        if (water->nm == 0.0) return node;
         target = node;
     }
     nodes_.push_back({port, false, false, {}, {}});
@@ -84,8 +110,9 @@ uint32_t PortLinker::linkOne(GeoPoint port) {
     return own;
 }
 
-std::vector<uint32_t> PortLinker::link(const std::vector<PortSource>& ports) {
-    std::vector<uint32_t> result;
+std::vector<std::optional<uint32_t>> PortLinker::link(const std::vector<PortSource>& ports) {
+    std::vector<std::optional<uint32_t>> result;
+    result.reserve(ports.size());
     const auto first = static_cast<uint32_t>(nodes_.size());
     for (const PortSource& port : ports) result.push_back(linkOne(port.at));
     edges_.connect(first);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "host/data/builder/Sources.h"
@@ -11,18 +12,30 @@ namespace Tarvik::Data {
 /// Puts ports into a network whose other nodes are joined already.
 ///
 /// A port on the map's land (most stand in the town's centre) is joined by a link to the nearest place on the
-/// water that sees the network, or to a hand-made way when that is nearer.
+/// water with a free view of the network, or to a hand-made way when that is nearer.
 class PortLinker {
   public:
     PortLinker(std::vector<BuildNode>& nodes, SpannerEdges& edges, const Server::LandIndex& land);
 
-    /// Adds the nodes and links of all ports; the result holds the node of each.
-    std::vector<uint32_t> link(const std::vector<PortSource>& ports);
+    /// Adds the nodes and links of all ports; the result holds the node of each, nothing for a place too far
+    /// inland.
+    std::vector<std::optional<uint32_t>> link(const std::vector<PortSource>& ports);
 
   private:
-    uint32_t linkOne(GeoPoint port);
-    bool seesNetwork(GeoPoint place) const;
-    bool findWater(GeoPoint port, GeoPoint& water, double& nm);
+    std::optional<uint32_t> linkOne(GeoPoint port);
+    /// A place on the water that sees the network.
+    struct Water {
+        GeoPoint at;
+        double nm = 0.0;       ///< distance from the port
+        uint32_t nearest = 0;  ///< the nearest node in sight
+        int seen = 0;          ///< nodes in sight
+        double score() const;
+    };
+    void lookAround(GeoPoint port);
+    std::optional<Water> lookFrom(GeoPoint place, double nm) const;
+    /// The water near the port from which ships get away best: a dock sees little, the roads before it all
+    /// round.
+    std::optional<Water> findWater(GeoPoint port);
     uint32_t nearestWayNode(GeoPoint port, double& nm) const;
 
     std::vector<BuildNode>& nodes_;

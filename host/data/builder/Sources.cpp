@@ -17,6 +17,7 @@ namespace Tarvik::Data {
 namespace {
 
 constexpr int kFirstPortId = 40001;
+constexpr double kSamePortNm = 30.0;
 
 std::string readFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
@@ -86,12 +87,17 @@ std::vector<PassageSource> readPassages(const CsvTable& table,
 
 using PortMap = std::map<std::string, PortSource>;
 
+/// "Mumbai (ex Bombay)" is Mumbai.
+std::string presentName(const std::string& name) {
+    return name.substr(0, name.find(" (ex "));
+}
+
 PortMap readPortsJson(const std::string& text, std::map<std::string, std::string>& countries) {
     PortMap ports;
     const nlohmann::json all = nlohmann::json::parse(text);
     for (const auto& [code, port] : all.items()) {
         countries[code] = port.value("country", "");
-        PortSource source{{}, code, port.at("name").get<std::string>(), {}, {NAN, NAN}};
+        PortSource source{{}, code, presentName(port.at("name")), {}, {NAN, NAN}, "0"};
         if (port.contains("coordinates")) {
             const double x = port["coordinates"].at(0);
             const double y = port["coordinates"].at(1);
@@ -102,28 +108,45 @@ PortMap readPortsJson(const std::string& text, std::map<std::string, std::string
     return ports;
 }
 
-void correct(const CsvTable& table, PortMap& ports, std::vector<PortSource>& added) {
+/// Ports added by the corrections, and the codes of ports that got their name there.
+struct Corrections {
+    std::vector<PortSource> added;
+    std::set<std::string> named;
+};
+
+Corrections correct(const CsvTable& table, PortMap& ports) {
+    Corrections result;
     for (size_t i = 0; i < table.size(); ++i) {
         const std::string code = table.at(i, "unlocode");
-        const GeoPoint at = toPoint(table.at(i, "lon"), table.at(i, "lat"));
         const std::string name = table.at(i, "name");
+        const std::string x = table.at(i, "lon");
+        const GeoPoint at = x.empty() ? GeoPoint{NAN, NAN} : toPoint(x, table.at(i, "lat"));
+        if (!name.empty()) result.named.insert(code);
         const auto it = ports.find(code);
         if (it == ports.end()) {
-            added.push_back({{}, code, name, {}, at});
+            if (x.empty() || name.empty()) throw std::runtime_error(code + " lacks a name or a position");
+            result.added.push_back({{}, code, name, {}, at, "0"});
             continue;
         }
-        it->second.at = at;
+        if (!x.empty()) it->second.at = at;
         if (!name.empty()) it->second.name = name;
     }
+    return result;
 }
 
-/// Ports are looked up by name, so a name stands for one port: the later ones get their country or code
-/// added.
-void makeNamesUnique(std::vector<PortSource>& ports, const std::map<std::string, std::string>& countries) {
+/// Ports are looked up by name, so a name stands for one port: those that did not get theirs by hand get
+/// their country or code added.
+void makeNamesUnique(std::vector<PortSource>& ports, const std::set<std::string>& named,
+                     const std::map<std::string, std::string>& countries) {
     std::map<std::string, int> count;
-    for (const PortSource& port : ports) ++count[port.name];
     std::set<std::string> used;
+    for (const PortSource& port : ports) {
+        ++count[port.name];
+        if (named.contains(port.unlocode) && !used.insert(port.name).second)
+            throw std::runtime_error("two ports are named " + port.name);
+    }
     for (PortSource& port : ports) {
+        if (named.contains(port.unlocode)) continue;
         if (count[port.name] > 1 && countries.contains(port.unlocode))
             port.name += ", " + countries.at(port.unlocode);
         if (!used.insert(port.name).second) {
@@ -133,11 +156,22 @@ void makeNamesUnique(std::vector<PortSource>& ports, const std::map<std::string,
     }
 }
 
+/// Some ports stand in the list under two codes: the later one refers to the earlier.
+void linkDoubles(std::vector<PortSource>& ports) {
+    for (size_t i = 0; i < ports.size(); ++i) {
+        for (size_t k = 0; k < i && ports[i].origid == "0"; ++k) {
+            const bool same = ports[k].unlocode.substr(0, 2) == ports[i].unlocode.substr(0, 2) &&
+                              ports[k].name == ports[i].name && ports[k].origid == "0" &&
+                              Server::arcNm(ports[k].at, ports[i].at) < kSamePortNm;
+            if (same) ports[i].origid = ports[k].id;
+        }
+    }
+}
+
 std::vector<PortSource> readPorts(const std::string& folder, const std::string& portsJson) {
     std::map<std::string, std::string> countries;
     PortMap known = readPortsJson(readFile(portsJson), countries);
-    std::vector<PortSource> added;
-    correct(CsvTable(readFile(folder + "/port_corrections.csv")), known, added);
+    Corrections corrections = correct(CsvTable(readFile(folder + "/port_corrections.csv")), known);
     std::vector<PortSource> ports;
     // Ids follow the sorted codes of the fetched list; ports added by hand come behind, so that ids stay what
     // they are.
@@ -146,11 +180,12 @@ std::vector<PortSource> readPorts(const std::string& folder, const std::string& 
         port.id = std::to_string(id++);
         if (!std::isnan(port.at.x)) ports.push_back(port);
     }
-    for (PortSource& port : added) {
+    for (PortSource& port : corrections.added) {
         port.id = std::to_string(id++);
         ports.push_back(port);
     }
-    makeNamesUnique(ports, countries);
+    linkDoubles(ports);
+    makeNamesUnique(ports, corrections.named, countries);
     const CsvTable chinese(readFile(folder + "/port_names_cn.csv"));
     std::map<std::string, std::string> names;
     for (size_t i = 0; i < chinese.size(); ++i) names[chinese.at(i, "unlocode")] = chinese.at(i, "namecn");

@@ -41,6 +41,7 @@ struct PortSource {
     std::string name;
     std::string namecn;
     GeoPoint at;
+    std::string origid = "0";  ///< the port that this one is another entry of, "0" for none
 };
 
 /// Everything that is made by hand or fetched, apart from the land.

@@ -10,7 +10,7 @@
 namespace Tarvik::Data {
 namespace {
 
-constexpr double kReachNm = 900.0;
+constexpr double kReachNm = 600.0;
 constexpr float kStretch = 1.01F;
 /// How far a way may point into a cape's land before it is held useless, as a sine.
 constexpr double kTangentSlack = 0.3;

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <set>
 
 #include "host/data/LandFile.h"
 #include "host/data/builder/LandCutter.h"
@@ -34,9 +35,17 @@ std::optional<std::vector<Polygon>> readLand(const std::string& modules, const c
         {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()}, error);
 }
 
+/// The client offers only ports that the network reaches.
+void keepReached(Tarvik::Data::Sources& sources, const Tarvik::Server::NetworkData& network) {
+    std::set<std::string> reached;
+    for (const Tarvik::Server::NetworkPort& port : network.ports) reached.insert(port.id);
+    std::erase_if(sources.ports,
+                  [&](const Tarvik::Data::PortSource& port) { return !reached.contains(port.id); });
+}
+
 int build(const std::string& folder, const std::string& modules, const std::string& output) {
     std::string error;
-    const auto sources = Tarvik::Data::readSources(folder, modules + "/sea-ports/lib/ports.json", error);
+    auto sources = Tarvik::Data::readSources(folder, modules + "/sea-ports/lib/ports.json", error);
     if (!sources) return fail(error);
     Tarvik::Data::LandFile chart;
     std::vector<Polygon> finest;
@@ -49,12 +58,13 @@ int build(const std::string& folder, const std::string& modules, const std::stri
         finest = std::move(*land);
     }
     error = chart.save(output + "/land.bin");
-    if (error.empty()) error = Tarvik::Data::writePointDatabase(output + "/trvdb.db", *sources);
     if (!error.empty()) return fail(error);
     Tarvik::Data::NetworkBuilder builder(*sources, finest);
     const Tarvik::Server::NetworkData network = builder.build();
     for (const std::string& remark : builder.remarks()) fmt::print("{}\n", remark);
-    error = Tarvik::Server::SeaNetworkFile::write(output + "/network.bin", network);
+    keepReached(*sources, network);
+    error = Tarvik::Data::writePointDatabase(output + "/trvdb.db", *sources);
+    if (error.empty()) error = Tarvik::Server::SeaNetworkFile::write(output + "/network.bin", network);
     if (!error.empty()) return fail(error);
     fmt::print("{} nodes, {} edges, {} ports, {} route points\n", network.nodes.size(), network.edges.size(),
                network.ports.size(), network.routePoints.size());

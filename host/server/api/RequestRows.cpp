@@ -14,7 +14,9 @@ namespace {
 
 constexpr std::size_t kMaxTexts = 100000;
 constexpr std::int32_t kMostOrder = 1000000;
-constexpr double kMostSpeedKmh = 10000;
+// Far beyond any ship: a speed between two fixes close in time is what it is, and a save must not fail for
+// it.
+constexpr double kMostSpeedKmh = 1e9;
 constexpr double kMostHours = 1000000;
 
 /// The fields of one row, each refused with the whole row in the reason.
@@ -52,9 +54,10 @@ class RowFields {
     std::vector<std::string_view> fields_;
 };
 
-/// A purpose may be missing; otherwise it is one of the list.
+/// A purpose may be missing, or blank on a row that stands for a ship's position; otherwise it is one of the
+/// list.
 bool IsPurpose(std::string_view text) {
-    constexpr std::string_view kPurposes = "12BCDLOWYZ";
+    constexpr std::string_view kPurposes = " 12BCDLOWYZ";
     return text.empty() || (text.size() == 1 && kPurposes.find(text[0]) != std::string_view::npos);
 }
 

@@ -8,19 +8,20 @@
 
 namespace Tarvik::Server {
 
-EmbeddedServer::EmbeddedServer(std::unique_ptr<SqliteStorage> storage, std::unique_ptr<RouteSource> routes)
-    : storage_(std::move(storage)), routes_(std::move(routes)), service_(*storage_, *routes_) {}
+EmbeddedServer::EmbeddedServer(std::unique_ptr<SqliteStorage> storage, std::unique_ptr<RouteSource> routes,
+                               const ServerClock& clock)
+    : storage_(std::move(storage)), routes_(std::move(routes)), service_(*storage_, *routes_, clock) {}
 
 std::unique_ptr<EmbeddedServer> EmbeddedServer::Open(const std::string& dbPath,
-                                                     std::unique_ptr<RouteSource> routes,
-                                                     std::string& error) {
+                                                     std::unique_ptr<RouteSource> routes, std::string& error,
+                                                     const ServerClock& clock) {
     if (routes == nullptr) {
         error = "there is no source of routes";
         return nullptr;
     }
     auto storage = SqliteStorage::Open(dbPath, error);
     if (storage == nullptr) return nullptr;
-    return std::unique_ptr<EmbeddedServer>(new EmbeddedServer(std::move(storage), std::move(routes)));
+    return std::unique_ptr<EmbeddedServer>(new EmbeddedServer(std::move(storage), std::move(routes), clock));
 }
 
 std::string EmbeddedServer::Exchange(const std::string& user, const Interface::VoyServerRequest* request) {

@@ -14,10 +14,11 @@ namespace Tarvik::Server {
 /// The whole voyage server inside one process, on one data base file.
 class EmbeddedServer {
   public:
-    /// Opens or makes the data base. Null, with an English text in `error`, when that fails or `routes` is
-    /// null.
+    /// Opens or makes the data base; ":memory:" makes one that ends with the server. Null, with an English
+    /// text in `error`, when that fails or `routes` is null. `clock` dates remarks.
     static std::unique_ptr<EmbeddedServer> Open(const std::string& dbPath,
-                                                std::unique_ptr<RouteSource> routes, std::string& error);
+                                                std::unique_ptr<RouteSource> routes, std::string& error,
+                                                const ServerClock& clock = SystemSeconds);
 
     /// The reply text to one request block, whose payload may end with a NUL. A payload longer than
     /// kMaxPayloadBytes gets an error reply. Safe to call from any thread as far as the route source is;
@@ -28,7 +29,8 @@ class EmbeddedServer {
     VoyageService& Service() { return service_; }
 
   private:
-    EmbeddedServer(std::unique_ptr<SqliteStorage> storage, std::unique_ptr<RouteSource> routes);
+    EmbeddedServer(std::unique_ptr<SqliteStorage> storage, std::unique_ptr<RouteSource> routes,
+                   const ServerClock& clock);
 
     std::unique_ptr<SqliteStorage> storage_;
     std::unique_ptr<RouteSource> routes_;

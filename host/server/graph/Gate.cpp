@@ -31,6 +31,22 @@ std::optional<double> crossing(GeoPoint a, GeoPoint b, GeoPoint c, GeoPoint d) {
 
 }  // namespace
 
+Bounds boundsOf(const std::vector<GeoPoint>& line) {
+    Bounds bounds{line.front(), line.front()};
+    for (const GeoPoint p : line) {
+        bounds.low = {std::min(bounds.low.x, p.x), std::min(bounds.low.y, p.y)};
+        bounds.high = {std::max(bounds.high.x, p.x), std::max(bounds.high.y, p.y)};
+    }
+    return bounds;
+}
+
+bool mayMeet(const Bounds& a, const Bounds& b) {
+    if (a.low.y > b.high.y || a.high.y < b.low.y) return false;
+    // How far east b must be turned so that it does not end before a begins.
+    const double turns = std::ceil((a.low.x - b.high.x) / 360.0);
+    return b.low.x + 360.0 * turns <= a.high.x;
+}
+
 std::optional<GateCrossing> firstCrossing(const std::vector<GeoPoint>& way,
                                           const std::vector<GeoPoint>& gate) {
     for (size_t i = 1; i < way.size(); ++i) {

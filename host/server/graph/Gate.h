@@ -16,6 +16,18 @@ struct GateCrossing {
     GeoPoint at;
 };
 
+/// The smallest box in longitude and latitude that holds a line.
+struct Bounds {
+    GeoPoint low;
+    GeoPoint high;
+};
+
+/// `line` must not be empty.
+Bounds boundsOf(const std::vector<GeoPoint>& line);
+
+/// False when lines with these bounds cannot meet, whatever full turns lie between their longitudes.
+bool mayMeet(const Bounds& a, const Bounds& b);
+
 /// The first place where a way (straight pieces in longitude and latitude) crosses a gate line; nothing when
 /// it stays on one side. Longitudes of both may run past ±180.
 std::optional<GateCrossing> firstCrossing(const std::vector<GeoPoint>& way,

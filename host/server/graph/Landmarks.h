@@ -20,17 +20,18 @@ struct ArcTable {
     std::vector<Arc> arcs;
 };
 
-/// Lower bounds for the search: the distance of every node to a few nodes far apart, over all edges.
+/// Lower bounds for the search: the distance of every node to a few nodes far apart, over the edges of the
+/// table.
 ///
 /// By the triangle inequality |d(L,a) - d(L,b)| never exceeds the way from a to b; forbidding edges only
-/// lengthens ways, so the bounds hold whatever is forbidden.
+/// lengthens ways, so the bounds hold for every search that uses no edge from outside the table.
 class Landmarks {
   public:
     Landmarks() = default;
     Landmarks(const ArcTable& table, size_t count);
 
-    /// A lower bound of the way from a to b in nautical miles; 0 when nothing better is known, infinite
-    /// when a landmark reaches only one of them.
+    /// A lower bound of the way from a to b in nautical miles; 0 when nothing better is known, infinite when
+    /// a landmark reaches only one of them.
     float bound(uint32_t a, uint32_t b) const;
 
   private:

@@ -26,8 +26,8 @@ bool isIce(const SeaNetwork& network, uint16_t point) {
 
 /// One passage in the ice is of no use without its neighbours, so that all of them open together.
 void openIce(const SeaNetwork& network, GateMask& forbidden) {
-    for (uint16_t i = 0; i < network.data().routePoints.size(); ++i) {
-        if (isIce(network, i)) forbidden[i] = false;
+    for (size_t i = 0; i < network.data().routePoints.size(); ++i) {
+        if (isIce(network, static_cast<uint16_t>(i))) forbidden[i] = false;
     }
     forbidden[kIceBit] = false;
 }
@@ -123,6 +123,7 @@ std::optional<NodePath> LegPlanner::bestOrder(uint32_t from, uint32_t to, Stretc
 
 std::vector<std::string> LegPlanner::offers(uint32_t from, uint32_t to, uint16_t passed) const {
     const NetworkData& data = network_.data();
+    const Basins& basins = network_.basins();
     std::vector<uint16_t> candidates;
     for (const AlternativeGroup& group : data.routePoints[passed].groups) {
         for (const uint16_t other : group) {
@@ -133,8 +134,9 @@ std::vector<std::string> LegPlanner::offers(uint32_t from, uint32_t to, uint16_t
     std::vector<std::string> ids;
     for (const uint16_t other : candidates) {
         const uint32_t node = data.routePoints[other].node;
-        const GateMask forbidden = forbiddenFor({{other, {node}, {}}});
-        if (pathThrough({from, node, to}, forbidden)) ids.push_back(data.routePoints[other].id);
+        const std::vector<char> reached = basins.reached(node, forbiddenFor({{other, {node}, {}}}));
+        if (reached[basins.basinOf(from)] != 0 && reached[basins.basinOf(to)] != 0)
+            ids.push_back(data.routePoints[other].id);
     }
     return ids;
 }

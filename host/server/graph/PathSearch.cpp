@@ -2,7 +2,6 @@
 #include "host/server/graph/PathSearch.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <queue>
 
@@ -25,11 +24,24 @@ struct Label {
     uint32_t edge = kNone;
 };
 
-float boundTo(const SeaNetwork& network, uint32_t node, uint32_t to) {
-    const auto straight = static_cast<float>(arcNm(network.vector(node), network.vector(to)) * kBoundFactor);
-    // The table's sums are rounded as well; a mile of slack keeps the bound below the true way.
-    return std::max(straight, network.landmarks().bound(node, to) - 1.0F);
-}
+/// Lower bounds of the ways to one node.
+class Bound {
+  public:
+    Bound(const SeaNetwork& network, uint32_t to, const GateMask& forbidden)
+        : network_(network), to_(to), usual_((network.shutGates() & ~forbidden).none()) {}
+
+    float from(uint32_t node) const {
+        const double straight = arcNm(network_.vector(node), network_.vector(to_)) * kBoundFactor;
+        const auto nm = static_cast<float>(straight);
+        // The table's sums are rounded as well; a mile of slack keeps the bound below the true way.
+        return usual_ ? std::max(nm, network_.landmarks().bound(node, to_) - 1.0F) : nm;
+    }
+
+  private:
+    const SeaNetwork& network_;
+    uint32_t to_;
+    bool usual_;
+};
 
 NodePath walkBack(const SeaNetwork& network, const std::vector<Label>& labels, uint32_t from, uint32_t to) {
     NodePath path;
@@ -51,14 +63,14 @@ NodePath walkBack(const SeaNetwork& network, const std::vector<Label>& labels, u
 std::optional<NodePath> findPath(const SeaNetwork& network, uint32_t from, uint32_t to,
                                  const GateMask& forbidden) {
     const NetworkData& data = network.data();
+    if (!network.basins().joined(from, to, forbidden)) return std::nullopt;
     std::vector<char> blocked(data.masks.size());
     for (size_t i = 0; i < blocked.size(); ++i) blocked[i] = (data.masks[i] & forbidden).any() ? 1 : 0;
     std::vector<Label> labels(data.nodes.size());
     std::priority_queue<OpenNode> open;
-    // An infinite bound tells that no way at all joins the two.
-    if (!std::isfinite(boundTo(network, from, to))) return std::nullopt;
+    const Bound bound(network, to, forbidden);
     labels[from].nm = 0.0F;
-    open.push({boundTo(network, from, to), 0.0F, from});
+    open.push({bound.from(from), 0.0F, from});
     while (!open.empty()) {
         const OpenNode at = open.top();
         open.pop();
@@ -67,10 +79,8 @@ std::optional<NodePath> findPath(const SeaNetwork& network, uint32_t from, uint3
         for (const Arc& arc : network.arcs(at.node)) {
             const float nm = at.nm + arc.nm;
             if (nm >= labels[arc.to].nm || blocked[data.edges[arc.edge].mask] != 0) continue;
-            const float bound = boundTo(network, arc.to, to);
-            if (!std::isfinite(bound)) continue;
             labels[arc.to] = {nm, arc.edge};
-            open.push({nm + bound, nm, arc.to});
+            open.push({nm + bound.from(arc.to), nm, arc.to});
         }
     }
     return std::nullopt;

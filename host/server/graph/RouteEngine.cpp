@@ -27,7 +27,7 @@ RouteResult RouteEngine::plan(const std::vector<RouteRequestPoint>& points) cons
     if (points.size() < 2) return failed(kRouteTooFewPoints, "a route needs at least two points");
     for (const RouteRequestPoint& point : points) {
         if (!network_->nodeOf(point.id))
-            return failed(kRouteUnknownPoint, "the point " + point.id + " is unknown");
+            return failed(kRouteUnknownPoint, "there is no port or route point \"" + point.id + "\"");
     }
     const LegPlanner planner(*network_);
     RouteResult result;
@@ -69,10 +69,10 @@ NearestResult RouteEngine::nearest(GeoPoint position, const std::string& destPor
     };
     if (!std::isfinite(position.x) || !std::isfinite(position.y) || std::abs(position.x) > 180.0 ||
         std::abs(position.y) > 90.0) {
-        return invalid(kRouteBadRequest, "the position lies outside the earth");
+        return invalid(kRouteBadPosition, "the position lies outside the earth");
     }
     const auto target = network_->nodeOf(destPort);
-    if (!target) return invalid(kRouteUnknownPoint, "the port " + destPort + " is unknown");
+    if (!target) return invalid(kRouteUnknownPoint, "there is no port or route point \"" + destPort + "\"");
     bool inSight = false;
     const std::vector<uint32_t> entries = entryNodes(position, inSight);
     const LegPlanner planner(*network_);

@@ -50,13 +50,14 @@ struct RouteRequestPoint {
     std::vector<RouteChoice> locks;
 };
 
-/// What can be wrong with a request; the numbers go to the client.
+/// What can be wrong with a request; the numbers go to the client as `eid` and never change their meaning.
 enum RouteError : int {
     kRouteOk = 0,
-    kRouteBadRequest = 1,
-    kRouteTooFewPoints = 2,
-    kRouteUnknownPoint = 3,
-    kRouteNoWay = 4,
+    kRouteBadRequest = 1,  ///< the text does not parse or lacks a value
+    kRouteTooFewPoints = 60,
+    kRouteUnknownPoint = 61,
+    kRouteNoWay = 62,
+    kRouteBadPosition = 63,
 };
 
 /// The answer to a list of stops; `message` says what is wrong when `error` is not 0, and then there are no

@@ -19,9 +19,8 @@ std::shared_ptr<const SeaNetwork> SeaNetwork::load(const std::string& path, std:
     return std::make_shared<const SeaNetwork>(std::move(*data));
 }
 
-SeaNetwork::SeaNetwork(NetworkData data) : data_(std::move(data)), land_(data_.land) {
+SeaNetwork::SeaNetwork(NetworkData data) : data_(std::move(data)), land_(data_.land), basins_(data_) {
     buildArcs();
-    landmarks_ = Landmarks(table_, kLandmarkCount);
     vectors_.reserve(data_.nodes.size());
     for (const GeoPoint p : data_.nodes) vectors_.push_back(toVector(p));
     for (const NetworkPort& port : data_.ports) nodeById_.emplace(port.id, port.node);
@@ -32,6 +31,19 @@ SeaNetwork::SeaNetwork(NetworkData data) : data_(std::move(data)), land_(data_.l
         shut_[i] = point.shut;
     }
     shut_[kIceBit] = true;
+    landmarks_ = Landmarks(openArcs(), kLandmarkCount);
+}
+
+ArcTable SeaNetwork::openArcs() const {
+    ArcTable open;
+    open.start.push_back(0);
+    for (uint32_t node = 0; node < data_.nodes.size(); ++node) {
+        for (const Arc& arc : arcs(node)) {
+            if ((data_.masks[data_.edges[arc.edge].mask] & shut_).none()) open.arcs.push_back(arc);
+        }
+        open.start.push_back(static_cast<uint32_t>(open.arcs.size()));
+    }
+    return open;
 }
 
 void SeaNetwork::buildArcs() {
@@ -70,8 +82,11 @@ GateMask SeaNetwork::gatesCrossed(GeoPoint a, GeoPoint b) const {
 
 GateMask gatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints) {
     GateMask mask;
-    for (size_t i = 0; i < routePoints.size(); ++i)
-        mask[i] = firstCrossing(way, routePoints[i].gate).has_value();
+    const Bounds bounds = boundsOf(way);
+    for (size_t i = 0; i < routePoints.size(); ++i) {
+        const std::vector<GeoPoint>& gate = routePoints[i].gate;
+        mask[i] = mayMeet(bounds, boundsOf(gate)) && firstCrossing(way, gate).has_value();
+    }
     for (const GeoPoint p : way) {
         if (p.y > kNorthLimit || p.y < kSouthLimit) mask[kIceBit] = true;
     }

@@ -7,6 +7,7 @@
 #include <string>
 #include <unordered_map>
 
+#include "host/server/graph/Basins.h"
 #include "host/server/graph/LandIndex.h"
 #include "host/server/graph/Landmarks.h"
 #include "host/server/graph/NetworkData.h"
@@ -31,7 +32,9 @@ class SeaNetwork {
 
     const NetworkData& data() const { return data_; }
     const LandIndex& land() const { return land_; }
+    /// Bounds over the edges that are open unless asked for; of no use once a shut gate is open.
     const Landmarks& landmarks() const { return landmarks_; }
+    const Basins& basins() const { return basins_; }
     std::span<const Arc> arcs(uint32_t node) const;
     const UnitVector& vector(uint32_t node) const { return vectors_[node]; }
 
@@ -46,9 +49,11 @@ class SeaNetwork {
 
   private:
     void buildArcs();
+    ArcTable openArcs() const;
 
     NetworkData data_;
     LandIndex land_;
+    Basins basins_;
     ArcTable table_;
     Landmarks landmarks_;
     std::vector<UnitVector> vectors_;

@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::string_view kMagic = "SEANET01";
 constexpr size_t kHeaderBytes = 24;
+constexpr const char* kAdvice = ". Build or install the client again.";
 
 uint64_t fnv1a(std::string_view bytes) {
     uint64_t sum = 14695981039346656037ULL;
@@ -115,6 +116,7 @@ std::string checkPoints(const NetworkData& d) {
     if (d.routePoints.size() > kMaxRoutePoints) return "there are too many route points";
     for (const RoutePoint& p : d.routePoints) {
         if (p.node >= d.nodes.size()) return "a route point has no node";
+        if (p.gate.size() < 2) return "a route point has no gate";
         for (const AlternativeGroup& group : p.groups) {
             for (const uint16_t i : group) {
                 if (i >= d.routePoints.size()) return "an alternative does not exist";
@@ -197,11 +199,13 @@ std::string SeaNetworkFile::write(const std::string& path, const NetworkData& da
 std::optional<NetworkData> SeaNetworkFile::read(const std::string& path, std::string& error) {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        error = "cannot open the sea network file " + path;
+        error = "cannot open the sea network file " + path + kAdvice;
         return std::nullopt;
     }
     const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    return decode(bytes, error);
+    std::optional<NetworkData> data = decode(bytes, error);
+    if (!data) error += ": " + path + kAdvice;
+    return data;
 }
 
 }  // namespace Tarvik::Server

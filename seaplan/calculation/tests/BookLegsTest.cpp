@@ -88,6 +88,41 @@ TEST(LegTotalsFromBook, FailureLeavesThePortsUntouched) {
     EXPECT_EQ(code(twoLegs(), ports), -7);
 }
 
+// Sums run in double over the rows and are rounded once, as a port's distance and speed.
+TEST(LegTotalsFromBook, SumsAreRoundedOnce) {
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    std::uniform_real_distribution<float> speed(1, 30);
+    for (int round = 0; round < 50; ++round) {
+        BookPoints rows{port("0,50")};
+        double distance = 0;
+        double time = 0;
+        for (int i = 1; i <= 20; ++i) {
+            const bool greatCircle = random() % 2 == 0;
+            rows.push_back(point(std::to_string(i) + ",50", i == 20 ? PortPoint : PlainPoint, speed(random),
+                                 greatCircle ? "GC" : "RL"));
+            const double step = (greatCircle ? Util::CircleLineUtl::CalculateDistance(i - 1, 50, i, 50)
+                                             : Util::CircleLineUtl::CalRhumbDist(i - 1, 50, i, 50)) /
+                                1.852;
+            distance += step;
+            time += step / static_cast<double>(rows.back().psp);
+        }
+        PortCallRows ports{call("A", 0), call("B", 0)};
+        ASSERT_EQ(LegTotalsFromBook(book(rows), ports), 0);
+        ASSERT_EQ(ports[1].distance, static_cast<float>(distance));
+        ASSERT_EQ(ports[1].psp, static_cast<float>(distance / time));
+    }
+}
+
+TEST(LegTotalsFromBook, FurtherPortsOfTheBookPlayNoPart) {
+    auto ports = threePorts();
+    ports.pop_back();
+    ASSERT_EQ(LegTotalsFromBook(book(twoLegs()), ports), 0);
+    EXPECT_FLOAT_EQ(ports[1].distance, static_cast<float>(rhumbMiles(1)));
+    EXPECT_EQ(ports[1].ppi, "") << "recomputed rows have no ids";
+}
+
 TEST(RescaleBookSpeeds, CarriesPortSpeedsIntoTheirLegs) {
     auto ports = threePorts();
     ports[1].psp = 15;

@@ -25,9 +25,11 @@ BookPoints bookOf(const std::string& letters, const std::string& prefix) {
     for (std::size_t i = 0; i < letters.size(); ++i) {
         const std::string number = std::to_string(i);
         if (i > 0) {
-            rows.push_back(point(prefix + "w" + number));
+            std::string waypoint = prefix;
+            rows.push_back(point(waypoint.append("w").append(number)));
         }
-        rows.push_back(port(prefix + letters[i] + number));
+        std::string name = prefix;
+        rows.push_back(port(name.append(1, letters[i]).append(number)));
     }
     return rows;
 }

@@ -112,6 +112,9 @@ TEST(PointKind, FollowsFromTheId) {
     EXPECT_EQ(PointKindOfId("4000"), PortPoint);
     EXPECT_EQ(PointKindOfId("90000"), PortPoint);
     EXPECT_EQ(PointKindOfId("x4000"), LongIdRoutePoint);
+    EXPECT_EQ(PointKindOfId("3128"), LongIdRoutePoint);
+    EXPECT_EQ(PointKindOfId("131"), ShortIdRoutePoint);
+    EXPECT_EQ(PointKindOfId("40389"), PortPoint);
 }
 
 }  // namespace

@@ -53,6 +53,31 @@ TEST(AlternativeRequest, FailsWithoutGroupOrSegments) {
     EXPECT_EQ(text, "as it was");
 }
 
+TEST(AlternativeRequest, GroupWithoutAnIdIsNeverMatched) {
+    auto stops = threeStops();
+    stops[1].rp_groups[0].rp_id = "";
+    std::string text;
+    EXPECT_FALSE(AlternativeRequestText(stops, "", "105", text));
+}
+
+TEST(AlternativeRequest, FirstGroupOfAllStopsIsTheOneThatChanges) {
+    auto stops = threeStops();
+    stops[1].rp_groups.push_back({1, "118", "second,group", {"9"}});
+    std::string text;
+    ASSERT_TRUE(AlternativeRequestText(stops, "118", "105", text));
+    EXPECT_EQ(text.find("second,group"), std::string::npos) << text;
+    EXPECT_EQ(text.find("x,y"), std::string::npos) << text;
+}
+
+TEST(AlternativeRequest, GroupWithoutAlternativesNamesOnlyTheOldPoint) {
+    auto stops = threeStops();
+    stops[1].rp_groups.clear();
+    std::string text;
+    ASSERT_TRUE(AlternativeRequestText(stops, "118", "105", text));
+    EXPECT_EQ(text, R"({"rp_id":"105","orig_rp_id":"118","leg":2,"rp_group":"x,y;118",)"
+                    R"("pointList":"40389#40208#40300|40208,40300|105=x,y"})");
+}
+
 TEST(NearestRequest, WritesNumbersBare) {
     EXPECT_EQ(NearestRequestText("121.5,31.25", "40208"), R"({"nr_point":[121.5,31.25],"dest_port":40208})");
 }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace Tarvik::Seaplan {
 namespace {
 
@@ -53,9 +55,35 @@ TEST(RowEdits, FirstRowCannotGoUpNorLastDown) {
 
 TEST(RowEdits, IndexOutsideTheListDoesNothing) {
     PortCallRows out;
-    for (const int index : {-2, -1, 3, 4, 99}) {
+    using Limits = std::numeric_limits<int>;
+    for (const int index : {-2, -1, 3, 4, 99, Limits::max(), Limits::max() - 1, Limits::min()}) {
         EXPECT_EQ(MoveRowUp(abc(), index, out), -1) << index;
         EXPECT_EQ(MoveRowDown(abc(), index, out), -1) << index;
+    }
+}
+
+TEST(RowEdits, FailedInsertionOrRemovalLeavesTheResultAlone) {
+    PortCallRows out{call("X", 0)};
+    EXPECT_EQ(InsertRowAt(abc(), 4, call("Y", 0), out), -2);
+    EXPECT_EQ(RemoveRowAt({}, 0, out), -2);
+    EXPECT_EQ(names(out), "X");
+}
+
+TEST(RowEdits, RemovingWhatWasInsertedGivesTheListBack) {
+    for (int index = 0; index <= 3; ++index) {
+        PortCallRows out;
+        ASSERT_EQ(InsertRowAt(abc(), index, call("X", 0), out), 0);
+        ASSERT_EQ(RemoveRowAt(out, index, out), 0);
+        EXPECT_EQ(names(out), "ABC") << index;
+    }
+}
+
+TEST(RowEdits, MovingUpAndDownAgainGivesTheListBack) {
+    for (int index = 1; index < 3; ++index) {
+        PortCallRows out;
+        ASSERT_EQ(MoveRowUp(abc(), index, out), 0);
+        ASSERT_EQ(MoveRowDown(out, index - 1, out), 0);
+        EXPECT_EQ(names(out), "ABC") << index;
     }
 }
 

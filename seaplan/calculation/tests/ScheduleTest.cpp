@@ -7,7 +7,6 @@
 
 #include <cmath>
 #include <limits>
-#include <random>
 
 namespace Tarvik::Seaplan {
 namespace {
@@ -46,6 +45,28 @@ TEST(BuildSchedule, MissingSpeedSailsAtTenKnots) {
     EXPECT_EQ(out[1].steamTime, 10);
     EXPECT_EQ(out[2].psp, 10);
     EXPECT_EQ(out[2].steamTime, 5);
+}
+
+TEST(BuildSchedule, SmallestSpeedsAndAnyWeatherAreTakenAsTheyStand) {
+    PortCallRows out;
+    ASSERT_EQ(BuildSchedule(at(1, 0),
+                            {call("A", 0), call("B", 0.00011F, 0.0000011F), call("C", 100, 10, -0.25F)}, out),
+              0);
+    EXPECT_EQ(out[1].psp, 0.0000011F);
+    EXPECT_NEAR(out[1].steamTime, 100, 0.001);
+    EXPECT_EQ(out[2].pw, -0.25F);
+    EXPECT_EQ(out[2].steamTime, 8);
+}
+
+TEST(BuildSchedule, FirstPurposeBecomesLoadingWhateverItWas) {
+    auto rows = PortCallRows{call("A", 0), call("B", 100)};
+    rows[0].pp = "B";
+    rows[1].pp = " ";
+    PortCallRows out;
+    ASSERT_EQ(BuildSchedule(at(1, 0), rows, out), 0);
+    EXPECT_EQ(out[0].pp, "L");
+    EXPECT_EQ(out[1].pp, " ");
+    EXPECT_EQ(out[1].ppi, "4B");
 }
 
 TEST(BuildSchedule, NoRowsGiveNoSchedule) {
@@ -117,108 +138,6 @@ TEST(RecomputeSchedule, NoRowsGiveNoSchedule) {
     PortCallRows out{call("X", 1)};
     EXPECT_EQ(RecomputeSchedule({}, out), 0);
     EXPECT_TRUE(out.empty());
-}
-
-// An edited ETA leaves distance and weather alone, so the speed follows from the gap.
-TEST(RecomputeSchedule, SpeedFromAnEditedEtaMeetsThatEta) {
-    float gap = 0;
-    ASSERT_EQ(HoursBetween("2026-03-01 15:00:00", "2026-03-01 10:00:00", gap), 0);
-    auto rows = PortCallRows{call("A", 0), call("B", 100), call("C", 100, 3)};
-    const float stretch = rows[2].distance / ((1 - rows[2].pw) * gap);
-    EXPECT_EQ(stretch, 20);
-    rows[2].psp = stretch;
-    PortCallRows out;
-    ASSERT_EQ(RecomputeSchedule(rows, out), 0);
-    EXPECT_EQ(text(out[2].eta), "2026-03-01 15:00:00");
-}
-
-TEST(AddHours, LongSpanIsAsExactAsOneAddition) {
-    auto time = at(1, 0);
-    ASSERT_EQ(AddHours(1200.5F, time), 0);
-    EXPECT_EQ(text(time), "2026-04-20 00:30:00");
-    auto steps = at(1, 0);
-    for (const float step : {500.0F, 500.0F, 200.5F}) {
-        ASSERT_EQ(AddHours(step, steps), 0);
-    }
-    EXPECT_EQ(time, steps);
-}
-
-TEST(AddHours, NegativeSpanGoesBack) {
-    auto time = at(1, 0);
-    ASSERT_EQ(AddHours(-2160, time), 0);
-    EXPECT_EQ(text(time), "2025-12-01 00:00:00");
-}
-
-TEST(AddHours, CentisecondsAreTruncatedTowardZero) {
-    const auto start = at(1, 0);
-    auto time = start;
-    ASSERT_EQ(AddHours(1.9F / 360000, time), 0);
-    EXPECT_EQ(time.total_csecs() - start.total_csecs(), 1);
-    time = start;
-    ASSERT_EQ(AddHours(-1.9F / 360000, time), 0);
-    EXPECT_EQ(time.total_csecs() - start.total_csecs(), -1);
-}
-
-TEST(AddHours, RefusesWhatIsNoTime) {
-    for (const float hours : {kInfinity, -kInfinity, std::nanf(""), 3e38F, -3e38F, 9e7F}) {
-        auto time = at(1, 0);
-        EXPECT_EQ(AddHours(hours, time), -1) << hours;
-        EXPECT_EQ(time, at(1, 0));
-    }
-}
-
-TEST(AddHours, ForwardAndBackMeetAgain) {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
-    std::uniform_real_distribution<float> hours(-20000, 20000);
-    for (int i = 0; i < 2000; ++i) {
-        const float step = hours(random);
-        auto time = at(1, 0);
-        ASSERT_EQ(AddHours(step, time), 0);
-        // Brute force: the same span in the steps that a 32-bit span allows.
-        auto expected = at(1, 0);
-        double rest = std::fabs(static_cast<double>(step));
-        while (rest > 0) {
-            const double chunk = std::min(rest, 500.0);
-            const auto span = Util::_time_t::from_csecs(static_cast<std::int32_t>(chunk * 360000));
-            expected = step > 0 ? expected + span : expected - span;
-            rest -= chunk;
-        }
-        ASSERT_EQ(time, expected) << step;
-        ASSERT_EQ(AddHours(-step, time), 0);
-        ASSERT_EQ(time, at(1, 0)) << step;
-    }
-}
-
-struct HoursCase {
-    const char* a;
-    const char* b;
-    float hours;
-};
-
-TEST(HoursBetween, CountsAcrossDaysMonthsAndYears) {
-    for (const auto& [a, b, hours] :
-         {HoursCase{"2026-03-02 01:00:00", "2026-03-01 23:00:00", 2},
-          HoursCase{"2026-01-01 00:30:00", "2025-12-31 23:00:00", 1.5F},
-          HoursCase{"2024-03-01 00:00:00", "2024-02-28 00:00:00", 48},
-          HoursCase{"2026-03-01 10:00:00", "2026-03-01 10:00:00", 0},
-          HoursCase{"2026-03-01 10:00:00", "2026-03-01 12:30:00", -2.5F},
-          HoursCase{"2026/03/02T01:00:00", "2026-03-01 23:59:59", 3601.0F / 3600}}) {
-        float result = -99;
-        EXPECT_EQ(HoursBetween(a, b, result), 0) << a;
-        EXPECT_FLOAT_EQ(result, hours) << a << " - " << b;
-    }
-}
-
-TEST(HoursBetween, RefusesTextsOfAnotherLength) {
-    const std::string good = "2026-03-01 10:00:00";
-    for (const std::string bad : {"", " ", "2026-03-01 10:00:0", "2026-03-01 10:00:00 "}) {
-        float result = -99;
-        EXPECT_EQ(HoursBetween(bad, good, result), -1);
-        EXPECT_EQ(HoursBetween(good, bad, result), -1);
-        EXPECT_EQ(result, -99);
-    }
 }
 
 TEST(Totals, CountTheStayAtTheFirstPortAndTheSummaryDoesNot) {

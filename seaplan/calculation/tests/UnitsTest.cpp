@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <utility>
 
 namespace Tarvik::Seaplan {
 namespace {
@@ -51,6 +52,70 @@ TEST(ConvertRows, FactorIsTheNearest32BitFloat) {
     ASSERT_EQ(ConvertRows({sample(123456.7F)}, "NM", "KM", out), 0);
     EXPECT_EQ(out[0].distance,
               static_cast<float>(static_cast<double>(123456.7F) * static_cast<double>(1.852F)));
+}
+
+struct ExactFactor {
+    const char* from;
+    const char* to;
+    double multiplier;
+    double divisor;
+    float VoyPortCall::*field;
+};
+
+// Value times multiplier over divisor in double, factors as 32-bit floats, rounded once on storing.
+TEST(ConvertRows, EveryFactorIsExact) {
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    std::uniform_real_distribution<float> value(0.001F, 30000);
+    const double km = static_cast<double>(1.852F);
+    const double mile = static_cast<double>(1.61F);
+    const double direct = static_cast<double>(1.15F);
+    for (const auto& c : {ExactFactor{"KPH", "kts", 1, km, &VoyPortCall::psp},
+                          ExactFactor{"kts", "KPH", km, 1, &VoyPortCall::psp},
+                          ExactFactor{"KPH", "MPH", 1, mile, &VoyPortCall::psp},
+                          ExactFactor{"MPH", "KPH", mile, 1, &VoyPortCall::psp},
+                          ExactFactor{"kts", "MPH", direct, 1, &VoyPortCall::psp},
+                          ExactFactor{"MPH", "kts", 1, direct, &VoyPortCall::psp},
+                          ExactFactor{"KM", "NM", 1, km, &VoyPortCall::distance},
+                          ExactFactor{"NM", "KM", km, 1, &VoyPortCall::distance},
+                          ExactFactor{"day", "hour", 24, 1, &VoyPortCall::steamTime},
+                          ExactFactor{"hour", "day", 1, 24, &VoyPortCall::apt}}) {
+        for (int i = 0; i < 200; ++i) {
+            const float before = value(random);
+            PortCallRows out;
+            ASSERT_EQ(ConvertRows({sample(before)}, c.from, c.to, out), 0);
+            ASSERT_EQ(out[0].*c.field,
+                      static_cast<float>(static_cast<double>(before) * c.multiplier / c.divisor))
+                << c.from << " " << c.to << " " << before;
+        }
+    }
+}
+
+TEST(ConvertRows, TextsAndWeatherStay) {
+    auto row = sample(10);
+    row.pp = "B";
+    PortCallRows out;
+    for (const auto& [from, to] :
+         {std::pair{"kts", "KPH"}, std::pair{"NM", "KM"}, std::pair{"hour", "day"}}) {
+        ASSERT_EQ(ConvertRows({row, row}, from, to, out), 0);
+        ASSERT_EQ(out.size(), 2);
+        EXPECT_EQ(out[1].ppi + out[1].ppn + out[1].pp, "4AAB");
+        EXPECT_EQ(out[1].pw, 0.5F);
+    }
+}
+
+TEST(ConvertRows, InputMayBeTheOutput) {
+    PortCallRows rows{sample(10)};
+    ASSERT_EQ(ConvertRows(rows, "day", "hour", rows), 0);
+    EXPECT_EQ(rows[0].apt, 240);
+    EXPECT_EQ(ConvertRows(rows, "day", "week", rows), -1);
+    EXPECT_TRUE(rows.empty());
+}
+
+TEST(StandardUnits, TableStartsInKnotsMilesAndDays) {
+    const UnitSet shown;
+    EXPECT_EQ(shown.speed + shown.distance + shown.time, "ktsNMday");
 }
 
 TEST(ConvertRows, MphOverKphIsNotTheDirectWay) {

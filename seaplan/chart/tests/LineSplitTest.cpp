@@ -52,6 +52,13 @@ TEST(LineSplit, NeedsTwoPoints) {
     EXPECT_TRUE(pieces.empty());
 }
 
+TEST(LineSplit, TracksAreJoinedWithoutRepeatsOfTheirOwn) {
+    EXPECT_EQ(JoinTracks({"1,0", "1,0", "2,0"}, {"2,0", "3,0", "3,0", "1,0"}),
+              (PointTexts{"1,0", "2,0", "2,0", "3,0", "1,0"}));
+    EXPECT_TRUE(JoinTracks({}, {}).empty());
+    EXPECT_EQ(JoinTracks({}, {"1,0", "1,0"}), PointTexts{"1,0"});
+}
+
 // Every crossing stands as two points at the line, so that the pieces joined again are the line, but for the
 // cut texts.
 TEST(LineSplit, PiecesJoinedAgainAreTheLine) {

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tarvik/util/FileUtl.h>
+
 namespace Tarvik::Seaplan {
 namespace {
 
@@ -109,6 +111,29 @@ TEST_F(RouteDrawing, BookIsTheRemainingLine) {
                 ElementsAre("layer VOYAGE", "clear VOYAGE/VOYAGETYPE/", "clear VOYAGE/VOYLINETYPE/",
                             "clear VOYAGE/RPOINTTYPE/", "line VOYAGE/VOYPOSTBOOKLINETYPE/v_5 1,0 2,0 3,0",
                             "extent 5 2 -2 -2"));
+}
+
+TEST_F(RouteDrawing, ShipAndTrackAreOneRemainingLine) {
+    Util::FileUtl::SetCurrentAppDirectory("/data");
+    EXPECT_EQ(layer.DrawShipAndTrack("v", "2,0", {"1,0", "1,0", "2,0"}, {"2,0", "3,0"}), 0);
+    EXPECT_THAT(chart.calls, ElementsAre("register AIS_Ship /data/businessdata/seaplan/ship.png",
+                                         "image VOYAGE/AISSHIPTYPE/v AIS_Ship 2,0",
+                                         "line VOYAGE/VOYPOSTBOOKLINETYPE/v_5 1,0 2,0 3,0"));
+    EXPECT_EQ(chart.lines[0].style, "solid");
+}
+
+TEST_F(RouteDrawing, ShipWithoutTrackIsOnlyAnIcon) {
+    EXPECT_EQ(layer.DrawShipAndTrack("v", "2,0", {"1,0"}, {}), 0);
+    EXPECT_EQ(chart.calls.size(), 2);
+    EXPECT_THAT(chart.lines, IsEmpty());
+    EXPECT_EQ(layer.DrawShipAndTrack("v", "", {"1,0"}, {"2,0"}), -1);
+    EXPECT_EQ(chart.calls.size(), 2);
+}
+
+// "180" begins the first piece, so the route from there is one line.
+TEST_F(RouteDrawing, LineThatBeginsAtTheDateLineIsOnePiece) {
+    EXPECT_EQ(layer.DrawLine(layer.sailedLine, {"180,0", "170,0"}, 0), 0);
+    EXPECT_THAT(chart.calls, ElementsAre("line VOYAGE/VOYPOSTBOOKLINETYPE/_0 179.99,0 170,0"));
 }
 
 TEST_F(RouteDrawing, BookNeedsTwoRowsAndAVoyage) {

@@ -12,6 +12,7 @@
 namespace Tarvik::Seaplan {
 namespace {
 
+using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -53,8 +54,20 @@ TEST_F(VoyageLayerTest, SetupAddsTheLayerAndStylesAnew) {
     EXPECT_EQ(layer.SetupLayer(), 0);
     EXPECT_THAT(chart.calls, ElementsAre("layer VOYAGE", "layer VOYAGE"));
     EXPECT_EQ(layer.mainLine.colour, 0x6464E9);
-    EXPECT_EQ(chart.layers[0].fontFace, "Arial");
-    EXPECT_EQ(chart.layers[0].fillOpacity, -1.0);
+}
+
+TEST_F(VoyageLayerTest, LayerHasTheChartsDefaults) {
+    EXPECT_EQ(layer.SetupLayer(), 0);
+    const auto& sent = chart.layers.at(0);
+    EXPECT_THAT(sent.integers, ElementsAre(1, 0, 0));
+    EXPECT_EQ(sent.fontFace + sent.pointShape + sent.lineStyle + sent.fillBorderStyle,
+              "Arialcirclesolidsolid");
+    EXPECT_EQ(sent.fontSize, 12);
+    EXPECT_THAT(sent.reserved, Each(0));
+    EXPECT_THAT((std::vector<int>{sent.pointColour, sent.lineColour, sent.fillColour, sent.fillBorderColour}),
+                Each(0));
+    EXPECT_THAT((std::vector<int>{sent.pointSize, sent.lineWidth, sent.fillBorderWidth}), Each(3));
+    EXPECT_EQ(sent.fillOpacity, -1.0);
 }
 
 TEST_F(VoyageLayerTest, ClearsTypesInOrder) {

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/data/controllers/PlannedProgress.h"
 
+#include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 
 #include <tarvik/util/StringUtl.h>
+
+#include <cstdint>
 
 namespace Tarvik::Seaplan {
 
@@ -13,21 +16,6 @@ namespace {
 using Util::StringUtl;
 
 constexpr double kLeastSpeed = 0.0001;
-
-struct Place {
-    double x = 0;
-    double y = 0;
-};
-
-bool readPlace(const std::string& text, Place& out) {
-    const std::size_t comma = text.find(',');
-    if (comma == std::string::npos) {
-        return false;
-    }
-    out.x = StringUtl::ToDouble(text.substr(0, comma));
-    out.y = StringUtl::ToDouble(text.substr(comma + 1));
-    return true;
-}
 
 void append(const BookPoints& rows, PointTexts& list) {
     for (const PosBookPoint& row : rows) {
@@ -42,7 +30,7 @@ double hoursLeft(const Util::_datetime_t& end, const Util::_datetime_t& now) {
 }
 
 /// Place after `covered` of the `distance` miles from a to b.
-std::string interpolate(const Place& a, const Place& b, double covered, double distance) {
+std::string interpolate(const Position& a, const Position& b, double covered, double distance) {
     if (distance <= 0) {
         return StringUtl::Format("%.3f,%.3f", b.x, b.y);
     }
@@ -51,20 +39,29 @@ std::string interpolate(const Place& a, const Place& b, double covered, double d
     return StringUtl::Format("%.3f,%.3f", x, y);
 }
 
-/// Walks the leg on which the ship is.
+/// How a corrected voyage reads times: to half a minute, and not before its correction.
+constexpr std::int64_t kLeastAgeSeconds = 31;
+
+bool isOlder(const Util::_datetime_t& time, const Util::_datetime_t& than) {
+    return than.to_gmt_timer() - time.to_gmt_timer() >= kLeastAgeSeconds;
+}
+
+/// Walks the leg on which the ship is. With a correction time the rows older than it are passed over.
 class LegWalk {
   public:
     LegWalk(double weather, const Util::_datetime_t& departure, const Util::_datetime_t& now,
-            PlannedProgress& out)
-        : weather_(weather), reached_(departure), now_(now), out_(out) {}
+            const Util::_datetime_t* correction, PlannedProgress& out)
+        : weather_(weather), reached_(departure), now_(now), correction_(correction), out_(out) {}
 
     int Run(const BookPoints& rows) {
-        if (out_.sailed.empty()) {
+        if (out_.sailed.empty() && correction_ == nullptr) {
             return -8;
         }
-        std::string previous = out_.sailed.back();
+        std::string previous = out_.sailed.empty() ? rows.front().position : out_.sailed.back();
         for (const PosBookPoint& row : rows) {
-            if (const int failed = step(previous, row); failed < 0) {
+            if (correction_ != nullptr && isOlder(row.etd, *correction_)) {
+                reached_ = row.etd;
+            } else if (const int failed = step(previous, row); failed < 0) {
                 return failed;
             }
             previous = row.position;
@@ -74,13 +71,13 @@ class LegWalk {
 
   private:
     int step(const std::string& previous, const PosBookPoint& row) {
-        Place from;
-        Place to;
+        Position from;
+        Position to;
         float distance = 0;
-        if (!readPlace(previous, from)) {
+        if (!ReadPosition(previous, 0, from)) {
             return -9;
         }
-        if (!readPlace(row.position, to)) {
+        if (!ReadPosition(row.position, 0, to)) {
             return -10;
         }
         if (LegDistance(previous, row.position, row.psr, distance) < 0) {
@@ -92,15 +89,15 @@ class LegWalk {
         const double speed = (1 - weather_) * row.psp;
         const double steam = distance / speed;
         if (AddHours(static_cast<float>(steam), reached_) < 0) {
-            return -13;
+            return correction_ == nullptr ? -13 : -14;
         }
         place(row, from, to, distance, speed, steam);
         return 0;
     }
 
-    void place(const PosBookPoint& row, const Place& from, const Place& to, double distance, double speed,
-               double steam) {
-        if (now_ >= reached_) {
+    void place(const PosBookPoint& row, const Position& from, const Position& to, double distance,
+               double speed, double steam) {
+        if (correction_ == nullptr ? now_ >= reached_ : isOlder(reached_, now_)) {
             out_.current = row.position;
             out_.sailed.push_back(row.position);
             return;
@@ -118,6 +115,7 @@ class LegWalk {
     double weather_;
     Util::_datetime_t reached_;
     const Util::_datetime_t& now_;
+    const Util::_datetime_t* correction_;
     PlannedProgress& out_;
     bool crossed_ = false;
 };
@@ -128,6 +126,16 @@ void startAt(const VoyPortCall& port, const PosBookPoint& row, const Util::_date
     out.sailed.push_back(row.position);
     if (now < port.etd) {
         out.remaining.push_back(row.position);
+    }
+}
+
+/// A port that is reached: what the real track does not cover is sailed.
+void sailCorrected(const BookPoints& rows, const Util::_datetime_t& correction, PlannedProgress& out) {
+    for (const PosBookPoint& row : rows) {
+        if (!isOlder(row.etd, correction)) {
+            out.sailed.push_back(row.position);
+            out.current = row.position;
+        }
     }
 }
 
@@ -154,7 +162,35 @@ int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& gro
         } else if (now < ports[i - 1].etd) {
             append(rows, out.remaining);
         } else {
-            const int failed = LegWalk(weather, ports[i - 1].etd, now, out).Run(rows);
+            const int failed = LegWalk(weather, ports[i - 1].etd, now, nullptr, out).Run(rows);
+            if (failed < 0) {
+                return failed;
+            }
+        }
+    }
+    return 0;
+}
+
+int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
+                      const Util::_datetime_t& correction, const Util::_datetime_t& now,
+                      PlannedProgress& out) {
+    out = {};
+    for (std::size_t i = 1; i < ports.size(); ++i) {
+        const auto group = groups.find(static_cast<int>(i));
+        if (group == groups.end() || group->second.empty()) {
+            return -7;
+        }
+        const BookPoints& rows = group->second;
+        const double weather = ports[i].pw;
+        if (weather > 1.0) {
+            return -8;
+        }
+        if (now >= ports[i].eta) {
+            sailCorrected(rows, correction, out);
+        } else if (now < ports[i - 1].etd) {
+            append(rows, out.remaining);
+        } else {
+            const int failed = LegWalk(weather, ports[i - 1].etd, now, &correction, out).Run(rows);
             if (failed < 0) {
                 return failed;
             }

@@ -25,4 +25,13 @@ struct PlannedProgress {
 int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
                  const Util::_datetime_t& now, PlannedProgress& out);
 
+/// The same for a voyage corrected from the ship's track: rows that were left 31 seconds or more before
+/// `correction` are covered by the real track and belong to neither line, and a row counts as passed 31
+/// seconds after its time. `groups` hold timed rows. 0; -7 a port without rows; -8 a weather factor above 1;
+/// -9, -10 a position without comma; -11 a distance; -12 a speed of at most 0.0001 knots; -14 a steam time
+/// that is not finite.
+int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
+                      const Util::_datetime_t& correction, const Util::_datetime_t& now,
+                      PlannedProgress& out);
+
 }  // namespace Tarvik::Seaplan

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <map>
+#include <utility>
 
 /// Keeps each voyage's last known vessel position.
 namespace Tarvik::Seaplan {
@@ -18,6 +19,7 @@ using Interface::VesselPosition;
 using PositionMap = std::map<std::string, VesselPosition>;
 
 constexpr const char* kPlanZone = "China Standard Time";
+constexpr std::size_t kTrackFields = 4;
 
 /// One text "vessel id|number" a vessel; of voyages with one vessel the first known number counts.
 std::vector<std::string> vesselsOf(const VoyageStore& store) {
@@ -29,6 +31,7 @@ std::vector<std::string> vesselsOf(const VoyageStore& store) {
         }
     }
     std::vector<std::string> texts;
+    texts.reserve(numbers.size());
     for (const auto& [vsi, number] : numbers) {
         texts.push_back(vsi + Util::StringUtl::Format("|%d", number));
     }
@@ -47,15 +50,23 @@ PositionMap askPositions(const std::vector<std::string>& vessels) {
     return positions;
 }
 
-bool isNewer(const VesselPosition& record, const std::string& text, const VoyInfo& voyage) {
-    return static_cast<std::uint32_t>(record.time) > static_cast<std::uint32_t>(voyage.lastPosTime) &&
-           text != voyage.lastPosText;
+std::string placeText(double x, double y) {
+    return Util::StringUtl::Format("%.3f,%.3f", x, y);
+}
+
+bool isNewer(int time, const std::string& place, const VoyInfo& voyage) {
+    return static_cast<std::uint32_t>(time) > static_cast<std::uint32_t>(voyage.lastPosTime) &&
+           place != voyage.lastPosText;
+}
+
+int gmtTimerOf(const Util::_datetime_t& planTime) {
+    return static_cast<int>(Util::DateTimeUtl::ConvertToUTC(planTime, kPlanZone).to_gmt_timer());
 }
 
 /// Takes a newer position; a first number is saved first. False when that fails.
 bool takePosition(const VesselPosition& record, VoyCatalogController& catalog, VoyInfo& voyage) {
-    const std::string text = Util::StringUtl::Format("%.3f,%.3f", record.x, record.y);
-    if (!isNewer(record, text, voyage)) {
+    const std::string text = placeText(record.x, record.y);
+    if (!isNewer(record.time, text, voyage)) {
         return true;
     }
     if (voyage.vsmsi == 0 && record.vsmsi >= 1) {
@@ -81,9 +92,29 @@ void noteCorrectionTime(VoyCatalogController& catalog, VoyInfo& voyage) {
         return;
     }
     if (const auto last = Util::DateTimeUtl::Parse(times.back())) {
-        const auto utc = Util::DateTimeUtl::ConvertToUTC(*last, kPlanZone);
-        voyage.lastAisModTime = static_cast<int>(utc.to_gmt_timer());
+        voyage.lastAisModTime = gmtTimerOf(*last);
     }
+}
+
+/// The four fields of a track text: time, x, y, vessel number. -5 to -7 as RefreshTrace.
+int readTrack(const std::string& text, std::vector<std::string>& fields) {
+    if (text.empty()) {
+        return -5;
+    }
+    if (text.find_first_of("0123456789") == std::string::npos) {
+        return -6;
+    }
+    return Util::StringUtl::split(text, "|", fields) && fields.size() == kTrackFields ? 0 : -7;
+}
+
+std::string askTrack(const VoyInfo& voyage) {
+    Interface::VesselTraceRequest request;
+    request.vsi = voyage.vsi;
+    request.vsmsi = voyage.vsmsi;
+    request.begin = gmtTimerOf(voyage.portCalls.front().etd);
+    request.end = gmtTimerOf(voyage.portCalls.back().eta);
+    const std::string* answer = Interface::Call(Interface::Bus::VesselTrace, &std::as_const(request));
+    return answer == nullptr ? "" : *answer;
 }
 
 }  // namespace
@@ -105,6 +136,60 @@ int VoyController::RefreshVesselPositions() {
         if (takePosition(found->second, *catalog_, voyage)) {
             noteCorrectionTime(*catalog_, voyage);
         }
+    }
+    return 0;
+}
+
+int VoyController::RefreshTrace(const std::string& vi) {
+    if (vi.empty()) {
+        return -1;
+    }
+    VoyInfo* voyage = store_->FindVoyage(vi);
+    if (voyage == nullptr) {
+        return -2;
+    }
+    if (voyage->vsi.empty()) {
+        return -3;
+    }
+    if (voyage->portCalls.size() < 2) {
+        return -4;
+    }
+    std::vector<std::string> fields;
+    if (const int failed = readTrack(askTrack(*voyage), fields); failed < 0) {
+        return failed;
+    }
+    return takeTrack(*voyage, fields);
+}
+
+/// The place and the first vessel number are taken apart from one another.
+int VoyController::takeTrack(VoyInfo& voyage, const std::vector<std::string>& fields) {
+    using Util::StringUtl;
+    const int time = static_cast<int>(StringUtl::ToLong(fields[0]));
+    const int vsmsi = static_cast<int>(StringUtl::ToLong(fields[3]));
+    const std::string place = placeText(StringUtl::ToDouble(fields[1]), StringUtl::ToDouble(fields[2]));
+    if (isNewer(time, place, voyage)) {
+        voyage.lastPosTime = time;
+        voyage.lastPosText = place;
+    }
+    if (voyage.vsmsi != 0 || vsmsi < 1) {
+        return 0;
+    }
+    const std::string vsi = voyage.vsi;
+    const std::string vsn = voyage.vsn;
+    return catalog_->ChangeVessel(voyage.vi, vsi, vsn, vsmsi) < 0 ? -8 : 0;
+}
+
+int VoyController::HideAisTrack(const std::string& vi) {
+    if (vi.empty()) {
+        return -1;
+    }
+    const VoyInfo* voyage = store_->FindVoyage(vi);
+    if (voyage == nullptr) {
+        return -2;
+    }
+    if (!voyage->vsi.empty()) {
+        const std::string vessel = voyage->vsi + Util::StringUtl::Format("|%d", voyage->vsmsi);
+        Interface::Call(Interface::Bus::HideAisTrack, &vessel);
     }
     return 0;
 }

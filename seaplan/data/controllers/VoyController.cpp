@@ -220,8 +220,7 @@ int VoyController::ShowVoyage(const std::string& vi) {
     if (catalog_->GetAisModTimes(vi, times) < 0) {
         return -8;
     }
-    // Voyages corrected from AIS are not drawn yet.
-    return -9;
+    return module_->DrawAisProgress(*voyage) < 0 ? -9 : 0;
 }
 
 int VoyController::MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) {

@@ -39,13 +39,23 @@ class VoyController {
     int RemoveVoyageObjects(const std::string& vi);
     int ShowVoyage(const std::string& vi);
 
+    /// Ids by name from the host's dictionary, empty for an unknown name. 0.
     int ResolvePortIds(PortCallRows& rows) const;
+    /// Route, schedule, book and drawing of rows that are not saved yet; the route stays pending. -1 route;
+    /// -2 times; -3 book; -4 distances from the book; -5 drawing. After a failure `out` is empty and the
+    /// pending route is what it was.
     int CalculatePortCalls(const PortCallRows& rows, PortCallRows& out);
     /// `hadPortCalls`: 0 the voyage had no saved port calls, 1 it had and the result is already in the
-    /// voyage.
+    /// voyage. -1 empty id; -2 unknown; -3 the calculation failed.
     int CalculateForVoyage(const std::string& vi, const PortCallRows& rows, PortCallRows& out,
                            int& hadPortCalls);
+    /// New rows for a saved voyage, straight into its record, with the waypoints of legs between the same
+    /// ports kept. -1 fewer than two rows on a side or an unknown voyage; -2 route; -3 times; -4 book; -5 the
+    /// legs do not match.
     int CalculateKeepingLegs(const std::string& vi, const PortCallRows& rows, PortCallRows& out);
+    /// Port calls, book date and book rows to the server, then into the record; drawn for mode 0 or 1. -1
+    /// unknown voyage or fewer than two rows; -2 port calls; -3 date; -4 to -6 book; -7 times; -8 to -10
+    /// chart. What was saved before a failure stays.
     int SaveSchedule(const std::string& vi, const PortCallRows& rows, int drawMode);
     int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out);
     int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out);
@@ -56,15 +66,25 @@ class VoyController {
     /// Forgets the list of the schedule last loaded and the pending route.
     void ForgetPortList();
     bool HasPendingRoute() const;
+    /// Takes newer last positions of all voyages' vessels over. -1 no vessels or no records.
     int RefreshVesselPositions();
+    /// Takes the last position of the vessel's track between first departure and last arrival over, if newer.
+    /// -1 empty id; -2 unknown; -3 no vessel; -4 fewer than two port calls; -5 no track; -6 no number in it;
+    /// -7 not four fields; -8 a first vessel number could not be saved.
+    int RefreshTrace(const std::string& vi);
+    /// Has the vessel's track hidden; without a vessel there is none. -1 empty id; -2 unknown.
+    int HideAisTrack(const std::string& vi);
     VoyPortCallModule& Module() { return *module_; }
 
   private:
     void onTimer();
+    int takeTrack(VoyInfo& voyage, const std::vector<std::string>& fields);
     int draw(const std::string& vi, int drawMode, int progressCode, int bookCode);
     int fetchSchedule(VoyInfo& voyage, PortCallRows& rows);
     int saveBookDate(VoyInfo& voyage);
     int saveBook(VoyInfo& voyage);
+    int calculateNew(const PortCallRows& rows, PortCallRows& out);
+    int calculateKept(VoyInfo& voyage, const PortCallRows& rows, PortCallRows& scheduled);
     int routeSchedule(const PortCallRows& rows, PortCallRows& scheduled, BookPoints& book);
 
     VoyPortCallModule* module_;

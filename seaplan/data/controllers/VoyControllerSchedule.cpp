@@ -30,20 +30,28 @@ int VoyController::routeSchedule(const PortCallRows& rows, PortCallRows& schedul
     return module_->BookFromCurrentStops(book) < 0 ? -3 : 0;
 }
 
-int VoyController::CalculatePortCalls(const PortCallRows& rows, PortCallRows& out) {
-    out.clear();
-    PortCallRows scheduled;
+int VoyController::calculateNew(const PortCallRows& rows, PortCallRows& out) {
     VoyPositionBook book;
-    if (const int failed = routeSchedule(rows, scheduled, book.points); failed < 0) {
+    if (const int failed = routeSchedule(rows, out, book.points); failed < 0) {
         return failed;
     }
-    book.eta = scheduled.front().eta;
-    RescaleBookSpeeds(scheduled, book.points);
-    if (LegTotalsFromBook(book, scheduled) < 0) {
+    book.eta = out.front().eta;
+    RescaleBookSpeeds(out, book.points);
+    if (LegTotalsFromBook(book, out) < 0) {
         return -4;
     }
-    if (module_->DrawCurrentRoute() < 0) {
-        return -5;
+    return module_->DrawCurrentRoute() < 0 ? -5 : 0;
+}
+
+int VoyController::CalculatePortCalls(const PortCallRows& rows, PortCallRows& out) {
+    // The table stays as it was after a failure, and with it the route that belongs to it.
+    RouteStops pending = module_->CurrentStops();
+    PortCallRows scheduled;
+    const int result = calculateNew(rows, scheduled);
+    out.clear();
+    if (result < 0) {
+        module_->SetCurrentStops(std::move(pending));
+        return result;
     }
     out = std::move(scheduled);
     return 0;
@@ -66,25 +74,37 @@ int VoyController::CalculateForVoyage(const std::string& vi, const PortCallRows&
     return 0;
 }
 
-int VoyController::CalculateKeepingLegs(const std::string& vi, const PortCallRows& rows, PortCallRows& out) {
-    out.clear();
-    VoyInfo* voyage = store_->FindVoyage(vi);
-    if (voyage == nullptr || rows.size() < 2 || voyage->portCalls.size() < 2) {
-        return -1;
-    }
-    PortCallRows scheduled;
+/// The new rows go into the voyage with the legs of its book that it keeps.
+int VoyController::calculateKept(VoyInfo& voyage, const PortCallRows& rows, PortCallRows& scheduled) {
     BookPoints fresh;
     if (const int failed = routeSchedule(rows, scheduled, fresh); failed < 0) {
         return failed - 1;
     }
     BookPoints joined;
-    if (JoinKeepingLegs(voyage->portCalls, voyage->positionBook.points, scheduled, fresh, joined) < 0) {
+    if (JoinKeepingLegs(voyage.portCalls, voyage.positionBook.points, scheduled, fresh, joined) < 0) {
         return -5;
     }
-    voyage->portCalls = scheduled;
-    voyage->positionBook.points = std::move(joined);
-    voyage->positionBook.eta = scheduled.front().eta;
-    RescaleBookSpeeds(scheduled, voyage->positionBook.points);
+    voyage.portCalls = scheduled;
+    voyage.positionBook.points = std::move(joined);
+    voyage.positionBook.eta = scheduled.front().eta;
+    RescaleBookSpeeds(scheduled, voyage.positionBook.points);
+    return 0;
+}
+
+int VoyController::CalculateKeepingLegs(const std::string& vi, const PortCallRows& rows, PortCallRows& out) {
+    VoyInfo* voyage = store_->FindVoyage(vi);
+    if (voyage == nullptr || rows.size() < 2 || voyage->portCalls.size() < 2) {
+        out.clear();
+        return -1;
+    }
+    RouteStops pending = module_->CurrentStops();
+    PortCallRows scheduled;
+    const int result = calculateKept(*voyage, rows, scheduled);
+    out.clear();
+    if (result < 0) {
+        module_->SetCurrentStops(std::move(pending));
+        return result;
+    }
     out = std::move(scheduled);
     return 0;
 }

@@ -3,10 +3,16 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/data/controllers/PlannedProgress.h"
+#include "seaplan/data/controllers/VesselCards.h"
 #include "seaplan/protocol/BookCommands.h"
 #include "seaplan/protocol/PortCallCommands.h"
 
 #include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ValueDictionary.h>
+#include <tarvik/util/DateTimeUtl.h>
+
+#include <tuple>
+#include <utility>
 
 namespace Tarvik::Seaplan {
 
@@ -23,27 +29,31 @@ void* answerOf(int result) {
 }  // namespace
 
 VoyPortCallModule::VoyPortCallModule(VoyageStore* store) : store_(store) {
-    bindClicks();
-}
-
-void VoyPortCallModule::bindClicks() {
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->CreateTrvEvent(Bus::ClickVoyageType.name, this, "", "", nullptr);
     routePointClick_.Set<&VoyPortCallModule::onRoutePointClicked>(this);
-    kernel->BindTrvEvent(Bus::ClickVoyageType.name, &routePointClick_);
-    kernel->CreateTrvEvent(Bus::ClickRoutePointType.name, this, "", "", nullptr);
     alternativeClick_.Set<&VoyPortCallModule::onAlternativeClicked>(this);
-    kernel->BindTrvEvent(Bus::ClickRoutePointType.name, &alternativeClick_);
+    shipClick_.Set<&VoyPortCallModule::onShipClicked>(this);
+    bindClick(Bus::ClickVoyageType.name, routePointClick_);
+    bindClick(Bus::ClickRoutePointType.name, alternativeClick_);
+    bindClick(Bus::ClickAisShipType.name, shipClick_);
 }
 
 VoyPortCallModule::~VoyPortCallModule() {
-    // The click channels are made as events and taken down as services; the bus keeps both in one table of
-    // names.
+    unbindClick(Bus::ClickAisShipType.name, shipClick_);
+    unbindClick(Bus::ClickRoutePointType.name, alternativeClick_);
+    unbindClick(Bus::ClickVoyageType.name, routePointClick_);
+}
+
+void VoyPortCallModule::bindClick(const char* name, Core::TEvent& delegate) {
     Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->UnBindTrvService(Bus::ClickRoutePointType.name, &alternativeClick_);
-    kernel->DeleteTrvService(Bus::ClickRoutePointType.name, this);
-    kernel->UnBindTrvService(Bus::ClickVoyageType.name, &routePointClick_);
-    kernel->DeleteTrvService(Bus::ClickVoyageType.name, this);
+    kernel->CreateTrvEvent(name, this, "", "", nullptr);
+    kernel->BindTrvEvent(name, &delegate);
+}
+
+// The click channels are made as events and taken down as services; the bus keeps both in one table of names.
+void VoyPortCallModule::unbindClick(const char* name, Core::TEvent& delegate) {
+    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
+    kernel->UnBindTrvService(name, &delegate);
+    kernel->DeleteTrvService(name, this);
 }
 
 int VoyPortCallModule::LoadPortCalls(const std::string& vi, PortCallRows& rows) {
@@ -80,6 +90,22 @@ int VoyPortCallModule::BookFromCurrentStops(BookPoints& rows) {
         return -2;
     }
     return BookFromStops(stops_, routePoints_, rows);
+}
+
+int VoyPortCallModule::PortPositions(const PortCallRows& rows, std::vector<RoutePointRow>& out) {
+    out.clear();
+    if (LoadPortPositions(PointDatabasePath(), portPositions_) < 0) {
+        return -1;
+    }
+    for (const VoyPortCall& row : rows) {
+        const std::string id = Interface::GetNameByValue("/points", row.ppn, 1033);
+        const auto found = portPositions_.find(id);
+        if (found == portPositions_.end()) {
+            return -2;
+        }
+        out.push_back({id, row.ppn, found->second.position});
+    }
+    return 0;
 }
 
 int VoyPortCallModule::DrawCurrentRoute() {
@@ -119,6 +145,38 @@ int VoyPortCallModule::DrawPlannedProgress(const VoyInfo& voyage) {
     return showProgress(voyage.vi, progress.current, progress.sailed, progress.remaining, -14);
 }
 
+int VoyPortCallModule::DrawAisProgress(const VoyInfo& voyage) {
+    if (voyage.portCalls.size() < 2 || voyage.positionBook.points.size() < 2) {
+        return -1;
+    }
+    if (layer_.SetupLayer() < 0) {
+        return -2;
+    }
+    BookPoints rows = voyage.positionBook.points;
+    if (ComputeBookTimes(voyage.positionBook.eta, voyage.portCalls, rows) < 0) {
+        return -3;
+    }
+    std::map<int, BookPoints> groups;
+    if (GroupBookByPort(rows, groups) < 0) {
+        return -4;
+    }
+    if (groups.size() != voyage.portCalls.size()) {
+        return -5;
+    }
+    const std::string last = voyage.aisModTimes.empty() ? "" : voyage.aisModTimes.back();
+    const auto correction = Util::DateTimeUtl::Parse(last);
+    if (!correction) {
+        return -6;
+    }
+    PlannedProgress progress;
+    const int failed =
+        CorrectedProgress(voyage.portCalls, groups, *correction, Util::_datetime_t::now(), progress);
+    if (failed < 0) {
+        return failed;
+    }
+    return showProgress(voyage.vi, progress.current, progress.sailed, progress.remaining, -15);
+}
+
 int VoyPortCallModule::showProgress(const std::string& vi, const std::string& current,
                                     const PointTexts& sailed, const PointTexts& remaining, int idCode) {
     if (vi.empty()) {
@@ -148,6 +206,28 @@ void* VoyPortCallModule::onRoutePointClicked(void* id) {
 
 void* VoyPortCallModule::onAlternativeClicked(void* id) {
     return id == nullptr ? answerOf(-1) : answerOf(chooseAlternative(*static_cast<const std::string*>(id)));
+}
+
+void* VoyPortCallModule::onShipClicked(void* vi) {
+    return vi == nullptr ? answerOf(-1) : answerOf(showVesselCard(*static_cast<const std::string*>(vi)));
+}
+
+int VoyPortCallModule::showVesselCard(const std::string& vi) {
+    if (vi.empty()) {
+        return -1;
+    }
+    const VoyInfo* voyage = store_->FindVoyage(vi);
+    if (voyage == nullptr) {
+        return -2;
+    }
+    const auto icon = shipPositions_.find(vi);
+    const std::string position = icon == shipPositions_.end() ? "" : icon->second;
+    Interface::VesselCard card = VesselCardOf(*voyage, position, Util::_datetime_t::now());
+    if (cursor_) {
+        std::tie(card.cursorX, card.cursorY) = cursor_();
+    }
+    Interface::Call(Bus::ShowVesselCard, &std::as_const(card));
+    return 0;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -10,8 +10,11 @@
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace Tarvik::Seaplan {
 
@@ -40,22 +43,39 @@ class VoyPortCallModule : public Core::TObject {
     int SaveCache(const std::string& name, const LegCache& cache);
     const RouteStops& CurrentStops() const { return stops_; }
     void ClearCurrentStops() { stops_.clear(); }
+    void SetCurrentStops(RouteStops stops) { stops_ = std::move(stops); }
     /// Book rows of the current stops; codes of BookFromStops, -2 when the route points cannot be read.
     int BookFromCurrentStops(BookPoints& rows);
+    /// Id, name and position of the rows' ports, in order. -1 the table of points cannot be read; -2 a port
+    /// that it does not hold, with the ports before it in `out`.
+    int PortPositions(const PortCallRows& rows, std::vector<RoutePointRow>& out);
 
     // Chart
     VoyageLayer& Layer() { return layer_; }
     int DrawCurrentRoute();
     int DrawBook(const VoyInfo& voyage);
-    /// The voyage as lines sailed and remaining with the ship where the plan has it now.
+    /// The voyage as lines sailed and remaining with the ship where the plan has it now. -1 too few rows; -2
+    /// layer; -3 clearing; -4 groups; -5 their number; -6 to -13 of PlanProgress; -14 empty id; -15, -16
+    /// lines; -17 no place for the ship; -18 extent.
     int DrawPlannedProgress(const VoyInfo& voyage);
+    /// The same for a voyage corrected from AIS, without what the real track covers. -1 too few rows; -2
+    /// layer; -3 times; -4 groups; -5 their number; -6 no correction time; -7 to -14 of CorrectedProgress;
+    /// -15 empty id; -16, -17 lines; -18 no place for the ship; -19 extent.
+    int DrawAisProgress(const VoyInfo& voyage);
+    /// Where the cursor is, in screen pixels; a clicked ship's card is shown there. Without it the card has a
+    /// place of its own.
+    using CursorSource = std::function<std::pair<int, int>()>;
+    void SetCursorSource(CursorSource source) { cursor_ = std::move(source); }
 
   private:
-    void bindClicks();
+    void bindClick(const char* name, Core::TEvent& delegate);
+    void unbindClick(const char* name, Core::TEvent& delegate);
     void* onRoutePointClicked(void* id);
     void* onAlternativeClicked(void* id);
+    void* onShipClicked(void* id);
     int showAlternatives(const std::string& id);
     int chooseAlternative(const std::string& id);
+    int showVesselCard(const std::string& vi);
     int fetchLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry);
     int cachedLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry);
     int storeLeg(const VoyPortCall& from, const VoyPortCall& to, int fetchCode, int saveCode);
@@ -71,9 +91,12 @@ class VoyPortCallModule : public Core::TObject {
     Util::_datetime_t cacheEpoch_{0, 0, 0, 1, 6, 2011};
     float cacheMaxAgeHours_ = 2160.0F;
     PointMap routePoints_;
-    std::map<std::string, std::string> shipPositions_;
+    PointMap portPositions_;
+    std::map<std::string, std::string> shipPositions_;  ///< "x,y" of each drawn voyage's icon
+    CursorSource cursor_;
     Core::TEvent routePointClick_;
     Core::TEvent alternativeClick_;
+    Core::TEvent shipClick_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/data/VoyInfo.h"
 
+#include "testsupport/ManualClock.h"
+
 #include <gtest/gtest.h>
+
+#include <type_traits>
 
 namespace Tarvik::Seaplan {
 namespace {
@@ -45,15 +49,21 @@ TEST(VoyInfo, DefaultCategoryHasDefaultIdAndNoRemark) {
 
 TEST(VoyInfo, DefaultPortCallDischargesAtTenKnots) {
     const VoyPortCall row;
+    EXPECT_EQ(row.ppi, "");
+    EXPECT_EQ(row.ppn, "");
     EXPECT_EQ(row.pp, "D");
     EXPECT_EQ(row.psp, 10.0F);
     EXPECT_EQ(row.pw, 0.0F);
+    EXPECT_EQ(row.steamTime, 0.0F);
     EXPECT_EQ(row.apt, 0.0F);
     EXPECT_EQ(row.distance, 0.0F);
 }
 
 TEST(VoyInfo, DefaultBookPointIsAPlainGreatCircleRow) {
     const PosBookPoint point;
+    EXPECT_EQ(point.pointId, "");
+    EXPECT_EQ(point.psn, "");
+    EXPECT_EQ(point.position, "");
     EXPECT_EQ(point.psr, "GC");
     EXPECT_EQ(point.pli, 5);
     EXPECT_EQ(point.psp, 10.0F);
@@ -61,12 +71,60 @@ TEST(VoyInfo, DefaultBookPointIsAPlainGreatCircleRow) {
     EXPECT_EQ(point.pst, 0);
 }
 
+TEST(VoyInfo, TimesOfANewRecordAreThePresentLocalTime) {
+    TestSupport::ManualClock clock;
+    clock.SetUtc(2026, 3, 2, 5, 30);
+    Util::Clock::SetLocalZone("China Standard Time");
+    const _datetime_t present(0, 30, 13, 2, 3, 2026);
+    const VoyPortCall row;
+    EXPECT_EQ(row.eta, present);
+    EXPECT_EQ(row.etd, present);
+    const PosBookPoint point;
+    EXPECT_EQ(point.eta, present);
+    EXPECT_EQ(point.etd, present);
+    EXPECT_EQ(VoyPositionBook().eta, present);
+}
+
+// Dialog and wire go through the seven figures by place.
+TEST(VoyInfo, FiguresKeepTheirPlaces) {
+    EXPECT_EQ(BunkerFigures().size(), 7U);
+    const int places[] = {Vfn, Vff, Vfa, Vdn, Vda, Vwn, Vwa};
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_EQ(places[i], i);
+    }
+}
+
+TEST(VoyInfo, StatesAndKindsHaveTheServersNumbers) {
+    EXPECT_EQ(InUse, 0);
+    EXPECT_EQ(InRecycleBin, 1);
+    EXPECT_EQ(Destroyed, 2);
+    EXPECT_EQ(PlainPoint, 0);
+    EXPECT_EQ(LongIdRoutePoint, 2);
+    EXPECT_EQ(ShortIdRoutePoint, 3);
+    EXPECT_EQ(AisTrackPoint, 4);
+    EXPECT_EQ(PortPoint, 5);
+    EXPECT_EQ(static_cast<int>(VoyageStatus::Plan), -1);
+    EXPECT_EQ(static_cast<int>(VoyageStatus::Underway), 0);
+    EXPECT_EQ(static_cast<int>(VoyageStatus::Finished), 1);
+}
+
+TEST(VoyInfo, RecordsHaveNoVirtualOperation) {
+    EXPECT_FALSE(std::is_polymorphic_v<VoyCategory> || std::is_polymorphic_v<VoyInfo> ||
+                 std::is_polymorphic_v<VoyPortCall> || std::is_polymorphic_v<VoyPositionBook> ||
+                 std::is_polymorphic_v<PosBookPoint>);
+}
+
 TEST(VoyInfo, ACopyIsDeep) {
     VoyInfo original;
     original.portCalls.resize(2);
     original.aisModTimes = {"2026-12-01 00:00:00"};
     original.positionBook.points.resize(3);
+    original.figures[Vwa] = 7;
     VoyInfo copy = original;
+    EXPECT_EQ(copy.figures[Vwa], 7);
+    EXPECT_EQ(copy.portCalls.size(), 2U);
+    EXPECT_EQ(copy.aisModTimes, original.aisModTimes);
+    EXPECT_EQ(copy.positionBook.points.size(), 3U);
     copy.portCalls[0].ppn = "Kiel";
     copy.aisModTimes[0] = "2027-01-01 00:00:00";
     copy.positionBook.points[2].psn = "Skagen";
@@ -86,6 +144,14 @@ TEST(VoyInfo, StatusFollowsTheClock) {
     EXPECT_EQ(StatusAt(portCalls(4, 8), at(5)), VoyageStatus::Underway);
     EXPECT_EQ(StatusAt(portCalls(2, 4), at(5)), VoyageStatus::Finished);
     EXPECT_EQ(StatusAt(portCalls(2, 5), at(5)), VoyageStatus::Finished);
+}
+
+TEST(VoyInfo, StatusOfOnePortCallFollowsItsOwnTimes) {
+    PortCallRows one(1);
+    one.front().eta = at(3);
+    one.front().etd = at(6);
+    EXPECT_EQ(StatusAt(one, at(5)), VoyageStatus::Plan);
+    EXPECT_EQ(StatusAt(one, at(7)), VoyageStatus::Finished);
 }
 
 TEST(VoyInfo, ADepartureExactlyNowCountsAsFinished) {

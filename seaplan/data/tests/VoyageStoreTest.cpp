@@ -27,6 +27,36 @@ TEST(VoyageStore, RecordsDoNotMoveWhenOthersCome) {
     EXPECT_EQ(store.FindVoyage("none"), nullptr);
 }
 
+TEST(VoyageStore, CategoriesDoNotMoveWhenOthersComeOrAreReplaced) {
+    VoyageStore store;
+    const VoyCategory* first = &store.categories["5"];
+    for (int i = 0; i < 1000; ++i) {
+        store.categories[std::to_string(i + 10)];
+    }
+    VoyCategory renamed;
+    renamed.cn = "Baltic";
+    store.categories["5"] = renamed;
+    EXPECT_EQ(&store.categories["5"], first);
+    EXPECT_EQ(first->cn, "Baltic");
+}
+
+TEST(VoyageStore, AnEntryMadeByItsKeyHasTheDefaults) {
+    VoyageStore store;
+    EXPECT_EQ(store.voyages["5"].vi, "1000000");
+    EXPECT_EQ(store.categories["5"].ci, "1000000");
+    EXPECT_EQ(store.categoryStates["5"], InUse);
+    EXPECT_EQ(store.categoryVoyages["5"]["6"], InUse);
+}
+
+TEST(VoyageStore, FoundVoyageIsTheOneInTheMap) {
+    VoyageStore store;
+    store.voyages["7"].vn = "Spring";
+    ASSERT_NE(store.FindVoyage("7"), nullptr);
+    store.FindVoyage("7")->vn = "Autumn";
+    EXPECT_EQ(store.voyages["7"].vn, "Autumn");
+    EXPECT_EQ(store.FindVoyage(""), nullptr);
+}
+
 TEST(VoyageStore, ClearEmptiesAllFourMaps) {
     VoyageStore store;
     store.categories["1"];

@@ -107,7 +107,7 @@ void* SeaplanViewDlg::onAddVessel(void* input) {
     if (p_.tree.ReloadTree() != 0) return answer("-2");
     p_.window.Place(kServicePlace);
     p_.window.Show();
-    if (p_.tree.SelectVoyage(*vi) != 0) return answer("-3");
+    if (p_.tree.OpenVesselEditor(*vi) != 0) return answer("-3");
     return nullptr;
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/language/Messages.h"
+#include "seaplan/panels/portcall/BusyMark.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 
 namespace Tarvik::Seaplan {
@@ -34,7 +35,11 @@ int CPortCallPanelDlg::calculate() {
     if (prepare(rows) != 0) return -1;
     PortCallRows result;
     int hadPortCalls = 0;
-    if (schedule_.CalculateForVoyage(voyageId_, rows, result, hadPortCalls) != 0) return -2;
+    const bool failed = [&] {
+        const BusyMark busy(view_);
+        return schedule_.CalculateForVoyage(voyageId_, rows, result, hadPortCalls) != 0;
+    }();
+    if (failed) return -2;
     if (hadPortCalls == 0) {
         if (showRows(result) != 0) return -3;
         markChanged(true);
@@ -44,7 +49,7 @@ int CPortCallPanelDlg::calculate() {
     markChanged(false);
     schedule_.RemoveVoyageObjects(voyageId_);
     view_.Hide();
-    const int filled = FillForVoyage(1);
+    const int filled = fill(1);
     view_.Show();
     if (filled != 0) return -4;
     if (saveTable(voyageId_, -1) == 0) return 0;
@@ -55,16 +60,24 @@ int CPortCallPanelDlg::calculate() {
 void CPortCallPanelDlg::OnCalculate() {
     CommitEditors();
     int corrected = 0;
-    if (schedule_.GetModAis(voyageId_, corrected) != 0 || corrected > 0) return;
-    calculate();
+    if (schedule_.GetModAis(voyageId_, corrected) != 0) return;
+    if (corrected <= 0) {
+        calculate();
+    } else if (calculateCorrected() != 0) {
+        Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN, view_.Handle());
+    }
 }
 
 void CPortCallPanelDlg::OnSave() {
     CommitEditors();
     if (!state_.changed) return;
     int corrected = 0;
-    if (schedule_.GetModAis(voyageId_, corrected) != 0 || corrected > 0) return;
-    savePlain();
+    if (schedule_.GetModAis(voyageId_, corrected) != 0) return;
+    if (corrected > 0) {
+        calculateCorrected();
+    } else {
+        savePlain();
+    }
 }
 
 int CPortCallPanelDlg::savePlain() {
@@ -91,7 +104,11 @@ int CPortCallPanelDlg::saveTable(const std::string& vi, int drawMode) {
     PortCallRows rows;
     if (standardRows(rows) != 0) return -2;
     schedule_.ResolvePortIds(rows);
-    if (schedule_.SaveSchedule(vi, rows, drawMode) != 0) return -3;
+    const bool failed = [&] {
+        const BusyMark busy(view_);
+        return schedule_.SaveSchedule(vi, rows, drawMode) != 0;
+    }();
+    if (failed) return -3;
     if (saved_) saved_(vi);
     return 0;
 }
@@ -114,6 +131,7 @@ void CPortCallPanelDlg::OnClear() {
         state_.distanceUnit = fresh.distanceUnit;
         state_.timeUnit = fresh.timeUnit;
         state_.changed = false;
+        state_.canSave = false;
         state_.canOpenBook = false;
         state_.canCalculate = false;
         schedule_.ClearChart();

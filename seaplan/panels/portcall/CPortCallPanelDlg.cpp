@@ -4,6 +4,7 @@
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/language/Messages.h"
+#include "seaplan/panels/portcall/BusyMark.h"
 
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
@@ -42,13 +43,18 @@ void* CPortCallPanelDlg::onSwitchLanguage(void*) {
 
 void CPortCallPanelDlg::ApplyLanguage() {
     state_.caption = Text(TextId::IDS_PORTCALL_TITLE);
-    state_.calculateText = Text(TextId::IDS_PORTCALL_COMPUTE);
+    setCorrectionPending(aisCorrectionPending_);
     view_.ApplyTexts();
     showAll();
 }
 
-void CPortCallPanelDlg::showAll() {
+void CPortCallPanelDlg::showTable() {
+    table_.MarkUnknownPorts([this](const std::string& name) { return ports_.Knows(name); });
     view_.ShowTable(table_);
+}
+
+void CPortCallPanelDlg::showAll() {
+    showTable();
     view_.ShowState(state_);
 }
 
@@ -57,15 +63,19 @@ void CPortCallPanelDlg::resetState() {
     units_ = UnitSet();
     state_ = PortCallState();
     state_.caption = Text(TextId::IDS_PORTCALL_TITLE);
-    state_.calculateText = Text(TextId::IDS_PORTCALL_COMPUTE);
+    setCorrectionPending(false);
+    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone, nullptr);
+    if (zone != nullptr) state_.zone = *zone;
 }
 
 void CPortCallPanelDlg::Reset() {
     askUnsaved();
-    closePopups();
-    for (const CellEditor editor : {CellEditor::Port, CellEditor::Speed, CellEditor::Weather}) {
-        view_.HideEditor(editor);
-    }
+    voyageId_ = nextVoyageId_;
+    reset();
+}
+
+void CPortCallPanelDlg::reset() {
+    hideEditors();
     resetState();
     schedule_.ForgetPortList();
     showAll();
@@ -85,17 +95,36 @@ void CPortCallPanelDlg::askUnsaved() {
 
 int CPortCallPanelDlg::FillForVoyage(int mode) {
     int corrected = 0;
-    if (!voyageId_.empty() && schedule_.GetModAis(voyageId_, corrected) != 0) return -1;
-    if (corrected > 0) return -2;
-    view_.Hide();
-    Reset();
+    if (!nextVoyageId_.empty() && schedule_.GetModAis(nextVoyageId_, corrected) != 0) return -1;
+    if (corrected > 0 && ais_ == nullptr) return -2;
+    if (corrected <= 0) view_.Hide();
+    askUnsaved();
+    voyageId_ = nextVoyageId_;
+    if (corrected > 0) {
+        if (fillCorrected() == 0) return 0;
+        // Without a position row the voyage is a plain one again.
+        ais_->ClearAisMod(voyageId_);
+    }
+    return fill(mode);
+}
+
+int CPortCallPanelDlg::fill(int mode) {
+    reset();
     if (voyageId_.empty()) {
         NoticeText(kNoVoyageText, view_.Handle());
         return -3;
     }
+    return load(mode);
+}
+
+int CPortCallPanelDlg::load(int mode) {
     PortCallRows loaded;
-    if (schedule_.LoadSchedule(voyageId_, loaded, mode) != 0) {
-        Reset();
+    const bool failed = [&] {
+        const BusyMark busy(view_);
+        return schedule_.LoadSchedule(voyageId_, loaded, mode) != 0;
+    }();
+    if (failed) {
+        reset();
         return 0;
     }
     PortCallRows rows;
@@ -114,17 +143,14 @@ void CPortCallPanelDlg::ShowBesideTree() {
 }
 
 void CPortCallPanelDlg::HideAfterLogout() {
-    closePopups();
-    for (const CellEditor editor : {CellEditor::Port, CellEditor::Speed, CellEditor::Weather}) {
-        view_.HideEditor(editor);
-    }
+    hideEditors();
     view_.Hide();
 }
 
 int CPortCallPanelDlg::showRows(const PortCallRows& standard) {
     PortCallRows shown;
     if (standard.size() < 2 || FromStandardUnits(standard, units_, shown) != 0) return -1;
-    table_.WriteRows(shown);
+    table_.WriteRows(shown, isCorrected());
     table_.WriteTotals(shown);
     showSummary(standard);
     showAll();
@@ -202,7 +228,7 @@ int CPortCallPanelDlg::ChangeUnit(UnitKind kind, const std::string& unit) {
     if (state_.averageSpeed.empty() || state_.totalDistance.empty() || state_.totalTime.empty()) return -1;
     PortCallRows converted;
     if (ConvertUnitValue(rows, from, unit, converted) != 0) return -2;
-    table_.WriteRows(converted);
+    table_.WriteRows(converted, isCorrected());
     table_.WriteTotals(converted);
     PortCallRows standard;
     if (ToStandardUnits(converted, units_, standard) == 0) showSummary(standard);

@@ -7,6 +7,7 @@
 #include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/panels/portcall/PortDictionary.h"
+#include "seaplan/panels/services/AisCommands.h"
 #include "seaplan/panels/services/ScheduleCommands.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 
@@ -32,10 +33,18 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     /// Called with the id of a voyage after its schedule was saved.
     void SetSavedListener(std::function<void(const std::string&)> listener) { saved_ = std::move(listener); }
 
-    void SetVoyage(const std::string& vi) override { voyageId_ = vi; }
+    /// The voyage of the next FillForVoyage or Reset; the one on show stays until then.
+    void SetVoyage(const std::string& vi) override { nextVoyageId_ = vi; }
     int FillForVoyage(int mode) override;
     void Reset() override;
     void ShowBesideTree() override;
+    int ShowAisCorrection() override;
+    void SetCorrectionTime(const std::string& time) override {
+        correctionTime_ = time;
+        correctedVoyageId_ = nextVoyageId_;
+    }
+    /// Without these a corrected voyage cannot be opened.
+    void SetAisCommands(AisCommands* commands) { ais_ = commands; }
     void HideAfterLogout();
 
     // Cells
@@ -43,7 +52,12 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     void OnEditorKey(CellEditor editor, EditorKey key);
     void OnEditorFocusLost(CellEditor editor);
     void OnPortTyped(const std::string& text);
-    void OnMatchChosen(const std::string& name);
+    /// Backspace in the port editor, before the text changes.
+    void OnPortBackspace();
+    /// A list of matches moved to a name; told while the field itself has the keyboard it changes nothing.
+    void OnMatchMoved(const std::string& name, bool fieldHasFocus);
+    /// The name last moved to was chosen.
+    void OnMatchChosen();
     void OnPurposeChosen(int index);
     /// The picker's time, "%Y-%m-%d %H:%M:%S".
     void OnTimeChosen(const std::string& text);
@@ -69,6 +83,9 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     void* onSwitchLanguage(void* input);
     void askUnsaved();
     void resetState();
+    void reset();
+    int fill(int mode);
+    int load(int mode);
     int calculate();
     int prepare(PortCallRows& rows) const;
     int savePlain();
@@ -81,6 +98,7 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     void updateCalculateButton();
     void markChanged(bool on);
     void commit(CellEditor editor);
+    bool untouched(CellEditor editor, const std::string& text) const;
     void commitPort(const std::string& typed);
     void commitSpeed(const std::string& typed);
     void commitWeather(const std::string& typed);
@@ -90,14 +108,25 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     void openPicker(int row, int column);
     void moveOn(CellEditor editor, int row);
     void closePopups();
+    void hideEditors();
+    void hideMatches();
+    void escape(CellEditor editor);
+    void showTable();
     void editEta(int row, const std::string& text);
     void editFirstEta(const std::string& text);
     void editEtd(int row, const std::string& text);
+    bool isCorrected() const;
+    int fillCorrected();
+    int showHistoryAndPlan();
+    void setCorrectionPending(bool pending);
+    int replanAndSave();
+    int calculateCorrected();
     int applyRowOperation(int result, const PortCallRows& rows);
     void showAll();
 
     VoyageStore& store_;
     ScheduleCommands& schedule_;
+    AisCommands* ais_ = nullptr;
     PortDictionary ports_;
     PortCallView& view_;
     std::function<void(const std::string&)> saved_;
@@ -106,12 +135,21 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     PortCallState state_;
     UnitSet units_;
     std::string voyageId_;
+    std::string nextVoyageId_;
     std::string editedVoyageId_;
     int editorRow_[3] = {-1, -1, -1};
+    std::string openedText_[3];  ///< what each editor showed when it opened
     int purposeRow_ = -1;
     int dateRow_ = -1;
-    int dateColumn_ = 0;  ///< 0 ETA, 1 ETD
+    int dateColumn_ = 0;                 ///< 0 ETA, 1 ETD
+    bool aisCorrectionPending_ = false;  ///< a fresh correction is shown and not saved
+    std::string correctionTime_;         ///< time of that correction, in the user's zone
+    std::string correctedVoyageId_;      ///< voyage that it belongs to
     bool notifyTyping_ = true;
+    bool textRemains_ = false;     ///< Backspace was pressed with text in the port editor
+    bool matchesShown_ = false;    ///< the panel's own list of matches
+    void* matchWindow_ = nullptr;  ///< a service's window of matches
+    std::string lastMatch_;        ///< name that a list of matches moved to
     bool registered_ = false;
     Core::TEvent switchLanguage_;
 };

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+/// What an edit of a cell starts.
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/Messages.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/PurposeList.h"
 
-#include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
@@ -12,76 +12,21 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr std::size_t kTimeTextLength = 19;
-constexpr std::size_t kMostMatches = 50;
 constexpr double kLeastSpeed = 0.00001;
 constexpr double kLeastLegHours = 0.00001;
 constexpr double kEarliestDeparture = -0.0001;
 constexpr double kLeastLegSpeed = 0.0001;
 
-int indexOf(CellEditor editor) {
-    return static_cast<int>(editor);
-}
-
-int columnOf(CellEditor editor) {
-    return editor == CellEditor::Port ? ColPort : editor == CellEditor::Speed ? ColSpeed : ColWeather;
-}
-
 }  // namespace
 
-void CPortCallPanelDlg::OnCellClicked(int row, int column) {
-    CommitEditors();
-    if (!table_.IsNumbered(row)) return;
-    table_.GrowIfLast(row);
-    view_.ShowTable(table_);
-    int corrected = 0;
-    if (schedule_.GetModAis(voyageId_, corrected) == 0 && corrected > 0) return;
-    switch (column) {
-        case ColPort:
-            openEditor(CellEditor::Port, row);
-            break;
-        case ColPurpose:
-            purposeRow_ = row;
-            view_.OpenPurposes(row);
-            break;
-        case ColSpeed:
-            openEditor(CellEditor::Speed, row);
-            break;
-        case ColWeather:
-            openEditor(CellEditor::Weather, row);
-            break;
-        case ColEta:
-        case ColEtd:
-            openPicker(row, column);
-            break;
-        default:
-            break;
-    }
-}
-
-void CPortCallPanelDlg::openEditor(CellEditor editor, int row) {
-    const std::string& text = table_.Cell(row, columnOf(editor));
-    editorRow_[indexOf(editor)] = row;
-    view_.OpenEditor(editor, row, IsBlankCell(text) ? std::string() : text, editor != CellEditor::Port);
-}
-
-void CPortCallPanelDlg::openPicker(int row, int column) {
-    if (table_.IsBlank(row) || IsBlankCell(table_.Cell(row, ColEta)) || IsBlankCell(table_.Cell(row, ColEtd)))
-        return;
-    const auto time = Util::DateTimeUtl::Parse(table_.Cell(row, column));
-    if (!time) return;
-    dateRow_ = row;
-    dateColumn_ = column == ColEta ? 0 : 1;
-    view_.OpenPicker(row, column, *time);
-}
-
-void CPortCallPanelDlg::closePopups() {
-    view_.HideMatches();
-    view_.HidePurposes();
-    view_.HidePicker();
+/// An editor that was only looked into changes nothing; a blank cell takes its default all the same.
+bool CPortCallPanelDlg::untouched(CellEditor editor, const std::string& text) const {
+    return !text.empty() && text == openedText_[IndexOf(editor)];
 }
 
 void CPortCallPanelDlg::commit(CellEditor editor) {
     const std::string text = view_.EditorText(editor);
+    if (untouched(editor, text)) return;
     switch (editor) {
         case CellEditor::Port:
             commitPort(text);
@@ -95,18 +40,8 @@ void CPortCallPanelDlg::commit(CellEditor editor) {
     }
 }
 
-void CPortCallPanelDlg::CommitEditors() {
-    for (const CellEditor editor : {CellEditor::Port, CellEditor::Speed, CellEditor::Weather}) {
-        if (!view_.EditorVisible(editor)) continue;
-        commit(editor);
-        view_.HideEditor(editor);
-    }
-    closePopups();
-    updateCalculateButton();
-}
-
 void CPortCallPanelDlg::commitPort(const std::string& typed) {
-    const int row = editorRow_[indexOf(CellEditor::Port)];
+    const int row = editorRow_[IndexOf(CellEditor::Port)];
     if (typed.empty() || !table_.IsNumbered(row)) return;
     const std::string name = ports_.NameOf(typed);
     if (name.empty()) return;
@@ -117,12 +52,12 @@ void CPortCallPanelDlg::commitPort(const std::string& typed) {
         table_.SetCell(row, ColPortTime, "0.00");
     }
     table_.ClearTotals();
-    view_.ShowTable(table_);
+    showTable();
     markChanged(true);
 }
 
 void CPortCallPanelDlg::commitSpeed(const std::string& typed) {
-    const int row = editorRow_[indexOf(CellEditor::Speed)];
+    const int row = editorRow_[IndexOf(CellEditor::Speed)];
     if (!table_.IsNumbered(row) || table_.IsBlank(row)) return;
     const std::string& old = table_.Cell(row, ColSpeed);
     std::string text = IsBlankCell(old) ? "10.0" : old;
@@ -132,7 +67,7 @@ void CPortCallPanelDlg::commitSpeed(const std::string& typed) {
 }
 
 void CPortCallPanelDlg::commitWeather(const std::string& typed) {
-    const int row = editorRow_[indexOf(CellEditor::Weather)];
+    const int row = editorRow_[IndexOf(CellEditor::Weather)];
     if (!table_.IsNumbered(row) || table_.IsBlank(row)) return;
     const std::string& old = table_.Cell(row, ColWeather);
     std::string text = IsBlankCell(old) ? "0%" : old;
@@ -142,79 +77,16 @@ void CPortCallPanelDlg::commitWeather(const std::string& typed) {
     if (typed == "0" || typed == "0.0") {
         text = "0%";
     } else if (percent >= kLeast && percent <= kMost) {
-        text = WeatherText(percent / 100);
+        text = Util::StringUtl::Format("%.0f%%", percent);
     }
     editFigure(row, ColWeather, text);
 }
 
 void CPortCallPanelDlg::editFigure(int row, int column, const std::string& text) {
     table_.SetCell(row, column, text);
-    view_.ShowTable(table_);
+    showTable();
     PortCallRows rows;
     if (standardRows(rows) == 0) recompute(rows);
-}
-
-void CPortCallPanelDlg::OnPortTyped(const std::string& text) {
-    if (!notifyTyping_) return;
-    const std::vector<std::string> names = ports_.Match(text, kMostMatches);
-    if (names.empty()) {
-        view_.HideMatches();
-    } else {
-        view_.ShowMatches(names);
-    }
-}
-
-void CPortCallPanelDlg::OnMatchChosen(const std::string& name) {
-    if (!view_.EditorVisible(CellEditor::Port) || name.empty()) return;
-    view_.HideMatches();
-    commitPort(name);
-    view_.HideEditor(CellEditor::Port);
-}
-
-void CPortCallPanelDlg::OnEditorKey(CellEditor editor, EditorKey key) {
-    const int row = editorRow_[indexOf(editor)];
-    const bool empty = view_.EditorText(editor).empty();
-    commit(editor);
-    if (editor == CellEditor::Port) {
-        view_.HideMatches();
-        if (empty) return;
-    }
-    view_.HideEditor(editor);
-    if (key == EditorKey::Enter && editor == CellEditor::Speed) return;
-    if (key == EditorKey::Enter && editor == CellEditor::Port) return openNextPort(row);
-    moveOn(editor, row);
-}
-
-void CPortCallPanelDlg::moveOn(CellEditor editor, int row) {
-    switch (editor) {
-        case CellEditor::Port:
-            return row == 0 ? openNextPort(row) : openEditor(CellEditor::Speed, row);
-        case CellEditor::Speed:
-            return openEditor(CellEditor::Weather, row);
-        case CellEditor::Weather:
-            return openNextPort(row);
-    }
-}
-
-void CPortCallPanelDlg::openNextPort(int row) {
-    const int next = row + 1;
-    if (!table_.IsNumbered(next)) return;
-    table_.GrowIfLast(next);
-    view_.ShowTable(table_);
-    view_.BringRowIntoView(next);
-    // Text that the panel sets asks for no matches.
-    notifyTyping_ = false;
-    openEditor(CellEditor::Port, next);
-    notifyTyping_ = true;
-}
-
-void CPortCallPanelDlg::OnEditorFocusLost(CellEditor editor) {
-    // The focus may have gone from the port editor to its match list.
-    if (editor != CellEditor::Port) CommitEditors();
-}
-
-void CPortCallPanelDlg::OnTableLeft() {
-    CommitEditors();
 }
 
 void CPortCallPanelDlg::OnPurposeChosen(int index) {
@@ -223,7 +95,7 @@ void CPortCallPanelDlg::OnPurposeChosen(int index) {
     view_.HidePurposes();
     if (!table_.IsNumbered(purposeRow_) || table_.IsBlank(purposeRow_)) return;
     table_.SetCell(purposeRow_, ColPurpose, code);
-    view_.ShowTable(table_);
+    showTable();
     markChanged(true);
 }
 
@@ -243,7 +115,7 @@ void CPortCallPanelDlg::OnTimeChosen(const std::string& text) {
 void CPortCallPanelDlg::editFirstEta(const std::string& text) {
     table_.SetCell(0, ColEta, text);
     table_.SetCell(0, ColEtd, text);
-    view_.ShowTable(table_);
+    showTable();
     PortCallRows rows;
     if (standardRows(rows) != 0) return;
     // A new time of departure wipes the stay at the first port.
@@ -256,7 +128,7 @@ void CPortCallPanelDlg::editEta(int row, const std::string& text) {
     if (HoursBetween(text, table_.Cell(row - 1, ColEtd), hours) != 0) return;
     if (hours < kLeastLegHours) return Notice(TextId::IDS_PORTCALL_ERRETA, view_.Handle());
     table_.SetCell(row, ColEta, text);
-    view_.ShowTable(table_);
+    showTable();
     PortCallRows rows;
     if (standardRows(rows) != 0) return;
     VoyPortCall& call = rows[table_.CompactIndex(row)];
@@ -272,7 +144,7 @@ void CPortCallPanelDlg::editEtd(int row, const std::string& text) {
     if (HoursBetween(text, table_.Cell(row, ColEta), hours) != 0) return;
     if (hours < kEarliestDeparture) return Notice(TextId::IDS_PORTCALL_ERRETD, view_.Handle());
     table_.SetCell(row, ColEtd, text);
-    view_.ShowTable(table_);
+    showTable();
     PortCallRows rows;
     if (standardRows(rows) != 0) return;
     rows[table_.CompactIndex(row)].apt = hours;
@@ -281,8 +153,8 @@ void CPortCallPanelDlg::editEtd(int row, const std::string& text) {
 
 int CPortCallPanelDlg::applyRowOperation(int result, const PortCallRows& rows) {
     if (result != 0) return result;
-    table_.WritePartial(rows);
-    view_.ShowTable(table_);
+    table_.WritePartial(rows, isCorrected());
+    showTable();
     markChanged(true);
     return 0;
 }
@@ -291,10 +163,13 @@ int CPortCallPanelDlg::OnItemImage(int row, const std::string& name) {
     CommitEditors();
     if (!table_.IsNumbered(row) || table_.IsBlank(row)) return -1;
     int corrected = 0;
-    if (schedule_.GetModAis(voyageId_, corrected) != 0 || corrected > 0) return -2;
+    if (schedule_.GetModAis(voyageId_, corrected) != 0) return -2;
+    const int lastAisRow = table_.FindLastAisRow();
+    if (corrected > 0 && lastAisRow < 0) return -2;
     const PortCallRows rows = table_.ReadAllRows();
     PortCallRows moved;
     int result = -3;
+    if (name == "itemMoveUp" && corrected > 0 && row - 1 == lastAisRow) return 0;
     if (name == "itemMoveUp") {
         result = applyRowOperation(schedule_.MoveRowUp(rows, row, moved), moved);
         if (result == 0) view_.SelectRow(row - 1);

@@ -53,20 +53,61 @@ void PortCallTable::ClearCells() {
     }
 }
 
-void PortCallTable::WriteRows(const PortCallRows& rows) {
-    constexpr std::size_t kMostWithoutRebuild = 5;
-    if (rows.size() > kMostWithoutRebuild) rebuild(static_cast<int>(rows.size()) + 1, false);
-    ClearCells();
-    for (std::size_t i = 0; i < rows.size(); ++i) WriteRow(static_cast<int>(i), rows[i]);
+int PortCallTable::FindLastAisRow() const {
+    for (int row = rowCount_ - 1; row >= 0; --row) {
+        const std::string& distance = Cell(row, ColDistance);
+        const bool moved = !IsBlankCell(distance) && distance != "0.00";
+        if (!IsBlank(row) && IsBlankCell(Cell(row, ColPurpose)) && moved) return row;
+    }
+    return -1;
 }
 
-void PortCallTable::WritePartial(const PortCallRows& rows) {
+bool PortCallTable::ReadRowsSplit(PortCallRows& before, PortCallRows& after) const {
+    const int last = FindLastAisRow();
+    if (last < 0) return false;
+    for (int row = 0; row < rowCount_; ++row) {
+        if (!IsBlank(row)) (row <= last ? before : after).push_back(ReadRow(row));
+    }
+    return true;
+}
+
+void PortCallTable::WriteRows(const PortCallRows& rows, bool corrected) {
+    constexpr std::size_t kMostWithoutRebuild = 5;
+    if (!corrected && rows.size() > kMostWithoutRebuild) rebuild(static_cast<int>(rows.size()) + 1, false);
     ClearCells();
+    for (int i = 0; i < static_cast<int>(rows.size()) && i < rowCount_; ++i) WriteRow(i, rows[i]);
+}
+
+void PortCallTable::writeEntered(int row, const VoyPortCall& value) {
+    const CellTexts cells = RowToCells(row, value);
+    for (const int column : {ColPort, ColPurpose, ColWeather, ColPortTime})
+        SetCell(row, column, cells[column]);
+    SetCell(row, ColSpeed, SpeedText(value.psp));
+}
+
+void PortCallTable::WritePartial(const PortCallRows& rows, bool corrected) {
+    constexpr double kNoDistance = 0.0001;
+    ClearCells();
+    int pivot = -1;
+    for (int i = 0; corrected && i < static_cast<int>(rows.size()); ++i) {
+        if (rows[i].pp == kBlankCell && rows[i].distance > kNoDistance) pivot = i;
+    }
     for (int i = 0; i < static_cast<int>(rows.size()) && i < rowCount_; ++i) {
-        const CellTexts cells = RowToCells(i, rows[i]);
-        for (const int column : {ColPort, ColPurpose, ColWeather, ColPortTime})
-            SetCell(i, column, cells[column]);
-        SetCell(i, ColSpeed, SpeedText(rows[i].psp));
+        if (i <= pivot) {
+            WriteRow(i, rows[i]);
+        } else {
+            writeEntered(i, rows[i]);
+        }
+    }
+}
+
+void PortCallTable::ShowHistoryAndPlan(const PortCallRows& rows, std::size_t history) {
+    const int filled = static_cast<int>(rows.size());
+    rebuild(filled < kFirstRows ? kFirstRows : filled + 1, true);
+    for (int i = 0; i < filled; ++i) {
+        WriteRow(i, rows[i]);
+        if (i >= static_cast<int>(history)) continue;
+        rows_[i].look = rows[i].pp == kBlankCell ? RowClass::Highlighted : RowClass::Disabled;
     }
 }
 
@@ -83,6 +124,23 @@ void PortCallTable::WriteTotals(const PortCallRows& rows) {
 void PortCallTable::ClearTotals() {
     for (int column = ColSteamTime; column < PortCallColumnCount; ++column)
         SetCell(rowCount_, column, kBlankCell);
+}
+
+RowActions PortCallTable::ActionsOf(int row) const {
+    if (!IsNumbered(row) || IsBlank(row)) return {};
+    // A row operation takes the row's place in the table as a place among the rows with a port.
+    const int filled = CompactIndex(rowCount_);
+    // No port moves above the ship's position.
+    const bool belowShip =
+        row > 0 && rows_[row - 1].look == RowClass::Highlighted && row - 1 == FindLastAisRow();
+    return {row > 0 && row < filled && !belowShip, row + 1 < filled, row < filled};
+}
+
+void PortCallTable::MarkUnknownPorts(const std::function<bool(const std::string&)>& known) {
+    for (int row = 0; row < rowCount_; ++row) {
+        rows_[row].unknownPort =
+            !IsBlank(row) && rows_[row].look != RowClass::Highlighted && !known(Cell(row, ColPort));
+    }
 }
 
 void PortCallTable::GrowIfLast(int row) {

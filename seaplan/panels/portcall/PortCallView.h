@@ -11,8 +11,13 @@ namespace Tarvik::Seaplan {
 /// The editors that open over a cell.
 enum class CellEditor { Port, Speed, Weather };
 
+/// Place of an editor among the three.
+constexpr int IndexOf(CellEditor editor) {
+    return static_cast<int>(editor);
+}
+
 /// Keys to which an editor reacts.
-enum class EditorKey { Tab, Enter };
+enum class EditorKey { Tab, Enter, Escape };
 
 enum class UnitKind { Speed, Distance, Time };
 
@@ -31,6 +36,7 @@ struct PortCallState {
     std::string speedUnit = "kts";
     std::string distanceUnit = "NM";
     std::string timeUnit = "days";
+    std::string zone;  ///< zone of the times, empty when nobody tells
 };
 
 /// The window of the port call panel. It shows what it is given and reports what the person does.
@@ -47,6 +53,8 @@ class PortCallView {
     virtual bool IsVisible() const = 0;
     virtual void PlaceBesideTree() = 0;
     virtual void SetEnabled(bool enabled) = 0;
+    /// Tells the person that something goes on which takes a while.
+    virtual void SetBusy(bool busy) = 0;
     virtual void SelectRow(int row) = 0;
     virtual void BringRowIntoView(int row) = 0;
 
@@ -54,8 +62,17 @@ class PortCallView {
     virtual void HideEditor(CellEditor editor) = 0;
     virtual bool EditorVisible(CellEditor editor) const = 0;
     virtual std::string EditorText(CellEditor editor) const = 0;
+    /// Replaces the text of an open editor, caret at its end.
+    virtual void SetEditorText(CellEditor editor, const std::string& text) = 0;
+    /// Opaque handle of an editor's field.
+    virtual void* EditorHandle(CellEditor editor) const = 0;
+    /// The panel's own list of matching ports below the port editor.
     virtual void ShowMatches(const std::vector<std::string>& names) = 0;
     virtual void HideMatches() = 0;
+    /// The match window that a service has answered, by its opaque handle: shown 20 pixels below the top of
+    /// the editor's cell, or hidden.
+    virtual void ShowMatchWindow(void* window) = 0;
+    virtual void HideMatchWindow(void* window) = 0;
     virtual void OpenPurposes(int row) = 0;
     virtual void HidePurposes() = 0;
     virtual void OpenPicker(int row, int column, const Util::_datetime_t& time) = 0;

@@ -48,9 +48,18 @@ PortDictionary PortDictionary::FromDatabase() {
 }
 
 std::string PortDictionary::NameOf(const std::string& typed) const {
-    if (!isLocal(typed)) return typed;
-    const auto it = byLocal_.find(typed);
-    return it == byLocal_.end() ? std::string() : it->second;
+    if (isLocal(typed)) {
+        const auto local = byLocal_.find(typed);
+        return local == byLocal_.end() ? std::string() : local->second;
+    }
+    if (Knows(typed)) return typed;
+    const std::string key = fold(typed);
+    const auto it = std::lower_bound(names_.begin(), names_.end(), std::pair(key, std::string()));
+    return it == names_.end() || it->first != key ? typed : it->second;
+}
+
+bool PortDictionary::Knows(const std::string& name) const {
+    return names_.empty() || std::binary_search(names_.begin(), names_.end(), std::pair(fold(name), name));
 }
 
 std::vector<std::string> PortDictionary::Match(const std::string& typed, std::size_t limit) const {

@@ -18,8 +18,11 @@ class PortDictionary {
     static PortDictionary FromDatabase();
 
     /// Name for a typed text: a text that begins with a byte above 127 is a local name. Empty when a local
-    /// name is unknown.
+    /// name is unknown. Any other text that differs from a port's name by case only gives that name, and
+    /// stands as it is otherwise.
     std::string NameOf(const std::string& typed) const;
+    /// Whether a port has this name; without any names at hand every name counts as known.
+    bool Knows(const std::string& name) const;
     /// Names that begin with `typed`, in any case, in order of name, at most `limit`; local names give their
     /// port's name.
     std::vector<std::string> Match(const std::string& typed, std::size_t limit) const;

@@ -65,8 +65,7 @@ class CatalogControllerCommands final : public CatalogCommands {
 /// ScheduleCommands by the real controller.
 class ScheduleControllerCommands final : public ScheduleCommands {
   public:
-    ScheduleControllerCommands(VoyController* controller, VoyageStore* store)
-        : c_(controller), store_(store) {}
+    explicit ScheduleControllerCommands(VoyController* controller) : c_(controller) {}
     int LoadSchedule(const std::string& vi, PortCallRows& rows, int drawMode) override {
         return c_->LoadSchedule(vi, rows, drawMode);
     }
@@ -101,11 +100,11 @@ class ScheduleControllerCommands final : public ScheduleCommands {
     int RefreshVesselPositions() override { return c_->RefreshVesselPositions(); }
     void StartTimer() override { c_->StartTimer(); }
     void StopTimer() override { c_->StopTimer(); }
-    int HideAisTrack(const std::string& vi) override;
+    int RefreshTrace(const std::string& vi) override { return c_->RefreshTrace(vi); }
+    int HideAisTrack(const std::string& vi) override { return c_->HideAisTrack(vi); }
 
   private:
     VoyController* c_;
-    VoyageStore* store_;
 };
 
 }  // namespace Tarvik::Seaplan

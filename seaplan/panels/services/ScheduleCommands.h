@@ -34,6 +34,8 @@ class ScheduleCommands {
     virtual int RefreshVesselPositions() = 0;
     virtual void StartTimer() = 0;
     virtual void StopTimer() = 0;
+    /// Fetches the end of the vessel's track over the voyage. Negative without a track.
+    virtual int RefreshTrace(const std::string& vi) = 0;
     /// Asks for the track of a vessel to be hidden; a voyage without a vessel has none.
     virtual int HideAisTrack(const std::string& vi) = 0;
 };

@@ -211,6 +211,7 @@ class FakeSchedule final : public ScheduleCommands {
     int RefreshVesselPositions() override { return done("RefreshVesselPositions", ""); }
     void StartTimer() override { ++timers; }
     void StopTimer() override { timers = 0; }
+    int RefreshTrace(const std::string& vi) override { return done("RefreshTrace", vi); }
     int HideAisTrack(const std::string& vi) override { return done("HideAisTrack", vi); }
 
     bool Called(const std::string& call) const {

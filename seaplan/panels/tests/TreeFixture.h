@@ -21,6 +21,7 @@ class RecordingTree final : public TreeRows {
     int editorLimit = 0;
     bool editorOpen = false;
     int sortPanelKey = -1;
+    void* windowAtPointer = nullptr;
 
     Rect GetItemRect(TreeRow) const override { return {0, rowTop, 290, rowTop + 30}; }
     void ShowRenameEditor(const Rect& place, const std::string& text, int maxUnits) override {
@@ -34,6 +35,7 @@ class RecordingTree final : public TreeRows {
     std::string RenameEditorText() const override { return editorText; }
     void ShowSortPanel(const std::string&, int sortKey) override { sortPanelKey = sortKey; }
     void HidePopups() override { sortPanelKey = -1; }
+    void ShowAtPointer(void* window) override { windowAtPointer = window; }
     void SetEnabled(bool) override {}
     void* Handle() const override { return nullptr; }
 
@@ -59,6 +61,32 @@ class RecordingTree final : public TreeRows {
     }
 };
 
+/// The vessel box as the test sees it.
+class RecordingVesselView final : public VesselView {
+  public:
+    Rect place;
+    bool box = false;
+    std::string text;
+    bool list = false;
+    std::vector<std::string> names;
+    VesselListSize size;
+    void ShowBox(const Rect& inTree, const std::string& shown) override {
+        place = inTree;
+        text = shown;
+        box = true;
+    }
+    void HideBox() override { box = false; }
+    bool BoxVisible() const override { return box; }
+    std::string BoxText() const override { return text; }
+    void ShowList(const std::vector<std::string>& shown, const VesselListSize& listSize) override {
+        names = shown;
+        size = listSize;
+        list = true;
+    }
+    void HideList() override { list = false; }
+    bool ListVisible() const override { return list; }
+};
+
 class TreeFixture : public ::testing::Test {
   protected:
     KeyTexts texts;
@@ -68,7 +96,10 @@ class TreeFixture : public ::testing::Test {
     FakeCatalog catalog{store};
     FakeSchedule schedule{store};
     RecordingTree tree;
+    RecordingVesselView vessels;
     SeaplanTreeCtrl ctrl{store, catalog, schedule, tree};
+
+    TreeFixture() { ctrl.SetVesselView(&vessels); }
 
     VoyCategory& AddCategory(const std::string& ci, const std::string& name, int state = InUse) {
         catalog.onServer.categoryStates[ci] = state;

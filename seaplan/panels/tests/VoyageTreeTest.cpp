@@ -211,6 +211,53 @@ TEST_F(TreeFixture, PinningNeedsAPositionBook) {
     EXPECT_EQ(store.voyages["10"].vr, 1);
 }
 
+TEST_F(TreeFixture, TheTrackNeedsAVesselOfTheFleet) {
+    AddCategory("1", "Full");
+    AddVoyage("1", "10", "A").vsn = "TYPED";
+    ctrl.ReloadTree();
+    EXPECT_LT(Click("A", "Voyage.child.svr8"), 0);
+    ASSERT_EQ(messages.messages.size(), 1U);
+    EXPECT_EQ(messages.messages[0].text, "IDS_TREE_WARNSHOWAIS");
+    store.voyages["10"].vsi = "7";
+    schedule.refused = {"RefreshTrace"};
+    EXPECT_LT(Click("A", "Voyage.child.svr8"), 0);
+    EXPECT_EQ(messages.messages[1].text, "IDS_TREE_FAILDSHOWAIS");
+    EXPECT_THAT(catalog.calls, Not(Contains("OpenAis 10")));
+    schedule.refused.clear();
+    EXPECT_EQ(Click("A", "Voyage.child.svr8"), 1);
+    EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage.child.svr10"));
+    EXPECT_FALSE(tree.IsItemVisible(tree.Find("A"), "Voyage.child.svr8"));
+    EXPECT_EQ(store.voyages["10"].va, 1);
+    EXPECT_EQ(messages.messages.size(), 2U);
+}
+
+TEST_F(TreeFixture, ARefusedHidingOfTheTrackLeavesTheFlag) {
+    AddCategory("1", "Full");
+    AddVoyage("1", "10", "A").va = 1;
+    ctrl.ReloadTree();
+    catalog.refused = {"CloseAis"};
+    EXPECT_LT(Click("A", "Voyage.child.svr10"), 0);
+    EXPECT_TRUE(schedule.Called("HideAisTrack 10"));
+    EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage.child.svr10"));
+    EXPECT_EQ(store.voyages["10"].va, 1);
+    catalog.refused.clear();
+    EXPECT_EQ(Click("A", "Voyage.child.svr10"), 1);
+    EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage.child.svr8"));
+    EXPECT_EQ(store.voyages["10"].va, 0);
+}
+
+TEST_F(TreeFixture, APressFetchesTheTrackOfAVoyageThatShowsIt) {
+    AddCategory("1", "Full");
+    VoyInfo& voyage = AddVoyage("1", "10", "A");
+    voyage.va = 1;
+    voyage.vsi = "7";
+    voyage.vsn = "ANNA";
+    ctrl.ReloadTree();
+    ctrl.OnRowPressed(tree.Find("A"));
+    EXPECT_TRUE(schedule.Called("RefreshTrace 10"));
+    EXPECT_TRUE(messages.messages.empty());
+}
+
 TEST_F(TreeFixture, DeletingAVoyageUnpinsItAndKeepsItsName) {
     AddCategory("1", "Full");
     AddVoyage("1", "10", "A");

@@ -5,6 +5,12 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+constexpr const char* kModify = "Voyage_modify";
+
+}  // namespace
+
 const std::map<std::string, SeaplanTreeCtrl::Command>& SeaplanTreeCtrl::categoryCommands() {
     static const std::map<std::string, Command> commands = {
         {"Voyage.parent.svr3", &SeaplanTreeCtrl::addVoyage},
@@ -22,14 +28,26 @@ const std::map<std::string, SeaplanTreeCtrl::Command>& SeaplanTreeCtrl::voyageCo
     static const std::map<std::string, Command> commands = {
         {"Voyage.child.svr1.default", &SeaplanTreeCtrl::pinRoute},
         {"Voyage.child.svr1.auto", &SeaplanTreeCtrl::unpinRoute},
+        {"Voyage.child.svr8", &SeaplanTreeCtrl::showAis},
+        {"Voyage.child.svr10", &SeaplanTreeCtrl::hideAis},
+        {kModify, &SeaplanTreeCtrl::modifyFromAis},
         {"Voyage.child.svr4", &SeaplanTreeCtrl::openPortCalls},
         {"Voyage_setPortCall", &SeaplanTreeCtrl::openEmptyPortCalls},
         {"Voyage.child.svr6", &SeaplanTreeCtrl::noonReport},
         {"Voyage_child_rename", &SeaplanTreeCtrl::renameVoyage},
         {"Voyage.child.svr9", &SeaplanTreeCtrl::deleteVoyage},
         {"Voyage.child.svr.recover", &SeaplanTreeCtrl::recoverVoyage},
-        {"Voyage.child.svr.clear", &SeaplanTreeCtrl::clearVoyage}};
+        {"Voyage.child.svr.clear", &SeaplanTreeCtrl::clearVoyage},
+        {"Voyage_AssignShip", &SeaplanTreeCtrl::assignVessel},
+        {"Voyage_ReplaceShip", &SeaplanTreeCtrl::replaceVessel},
+        {"Voyage_ShipInfo", &SeaplanTreeCtrl::showVesselInfo},
+        {"Voyage_Alert", &SeaplanTreeCtrl::addVesselToFleet}};
     return commands;
+}
+
+bool SeaplanTreeCtrl::HasCommand(const std::string& item) const {
+    if (item == kModify && ais_ == nullptr) return false;
+    return categoryCommands().contains(item) || voyageCommands().contains(item);
 }
 
 int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
@@ -49,6 +67,7 @@ int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
     const auto& commands = isCategory ? categoryCommands() : voyageCommands();
     const auto command = commands.find(item);
     if (command == commands.end()) return 1;
+    if (!HasCommand(item)) return 1;
     const int result = (this->*command->second)();
     return result < 0 ? result : 1;
 }
@@ -146,6 +165,14 @@ int SeaplanTreeCtrl::unpinRoute() {
     return chart_.SetPinned(context_.VoyageOf(currentVoyageRow_)->vi, false) == 0 ? 0 : -24;
 }
 
+int SeaplanTreeCtrl::showAis() {
+    return chart_.SetAisShown(context_.VoyageOf(currentVoyageRow_)->vi, true) == 0 ? 0 : -33;
+}
+
+int SeaplanTreeCtrl::hideAis() {
+    return chart_.SetAisShown(context_.VoyageOf(currentVoyageRow_)->vi, false) == 0 ? 0 : -38;
+}
+
 int SeaplanTreeCtrl::openPortCalls() {
     if (portCalls_ == nullptr || portCalls_->FillForVoyage(-1) < 0) return -25;
     portCalls_->ShowBesideTree();
@@ -174,15 +201,11 @@ int SeaplanTreeCtrl::dropVoyageRow() {
 
 int SeaplanTreeCtrl::deleteVoyage() {
     const std::string ci = context_.CategoryOf(currentCategoryRow_)->ci;
-    VoyInfo& voyage = *context_.VoyageOf(currentVoyageRow_);
+    const VoyInfo& voyage = *context_.VoyageOf(currentVoyageRow_);
     if (context_.catalog.DeleteVoyage(ci, voyage.vi) != 0) return -29;
     if (context_.schedule.RemoveVoyageObjects(voyage.vi) != 0) return -30;
     if (context_.catalog.CloseRoute(voyage.vi) != 0) return -31;
-    if (context_.schedule.HideAisTrack(voyage.vi) != 0) return -32;
-    // Without the flag in memory the server is told all the same; a refusal leaves the track hidden and the
-    // flag on.
-    voyage.va = 1;
-    if (context_.catalog.CloseAis(voyage.vi) != 0) return -33;
+    if (chart_.SetAisShown(voyage.vi, false) != 0) return -32;
     const int dropped = dropVoyageRow();
     if (dropped == 0) context_.voyageNames[voyage.vn] = InRecycleBin;
     return dropped;

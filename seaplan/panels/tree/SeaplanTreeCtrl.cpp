@@ -15,6 +15,7 @@ SeaplanTreeCtrl::SeaplanTreeCtrl(VoyageStore& store, CatalogCommands& catalog, S
 int SeaplanTreeCtrl::ReloadTree() {
     // The rows point into records that the load replaces.
     rename_.Abandon();
+    if (vessel_ != nullptr) vessel_->Hide();
     std::string user;
     if (context_.catalog.Connect(user) != 0) return -1;
     if (context_.catalog.Load(user) < 0) return -2;
@@ -78,19 +79,7 @@ int SeaplanTreeCtrl::RefreshVoyageRow(const std::string& vi) {
     const VoyInfo* voyage = context_.store.FindVoyage(vi);
     if (voyage == nullptr) return -3;
     context_.tree.SetItemText(row, voyage->vn);
-    builder_.ShowDates(row, *voyage);
-    return 0;
-}
-
-int SeaplanTreeCtrl::SelectVoyage(const std::string& vi) {
-    const TreeRow row = context_.FindVoyageRow(vi);
-    if (row == kNoRow) return -1;
-    context_.tree.Expand(context_.tree.GetParentItem(row));
-    context_.tree.SelectItem(row);
-    currentCategoryRow_ = row;
-    currentVoyageRow_ = row;
-    OnRowPressed(row);
-    return 0;
+    return builder_.ShowDates(row, *voyage) == 0 ? 0 : -3;
 }
 
 void SeaplanTreeCtrl::SetShowDeleted(bool shown) {
@@ -109,6 +98,7 @@ int SeaplanTreeCtrl::SetSortKey(const std::string& ci, int sortKey) {
 void SeaplanTreeCtrl::HideEditors() {
     context_.tree.HideRenameEditor();
     context_.tree.HidePopups();
+    if (vessel_ != nullptr) vessel_->Hide();
 }
 
 void SeaplanTreeCtrl::ForgetAfterLogout() {
@@ -128,9 +118,7 @@ int SeaplanTreeCtrl::unfold(TreeRow row) {
     context_.tree.SelectItem(row);
     const auto voyages = context_.store.categoryVoyages.find(category->ci);
     if (voyages == context_.store.categoryVoyages.end()) return 0;
-    for (const auto& [vi, state] : voyages->second) {
-        if (state != Destroyed) builder_.ShowStatus(vi);
-    }
+    for (const auto& [vi, state] : voyages->second) builder_.ShowStatus(vi);
     return 0;
 }
 

@@ -2,12 +2,15 @@
 #pragma once
 
 #include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/services/AisCommands.h"
 #include "seaplan/panels/tree/TreeBuilder.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeRename.h"
 #include "seaplan/panels/tree/VoyagesOnChart.h"
+#include "seaplan/panels/vessel/VoyShipEditDlg.h"
 
 #include <map>
+#include <memory>
 #include <string>
 
 namespace Tarvik::Seaplan {
@@ -24,6 +27,10 @@ class PortCallOpener {
     virtual void Reset() = 0;
     /// Puts the panel beside the tree and shows it.
     virtual void ShowBesideTree() = 0;
+    /// Fills the panel with a fresh correction from AIS, ready to be recalculated; negative on failure.
+    virtual int ShowAisCorrection() = 0;
+    /// Time of that correction, "%Y-%m-%d %H:%M:%S" in the user's zone.
+    virtual void SetCorrectionTime(const std::string& time) = 0;
 };
 
 /// The voyage tree: rows from the store, and the commands behind their items. Results are 0 (or 1 for a click
@@ -34,6 +41,11 @@ class SeaplanTreeCtrl {
                     TreeWidget& tree);
 
     void SetPortCallPanel(PortCallOpener* panel) { portCalls_ = panel; }
+    /// Without these no voyage is corrected from AIS.
+    void SetAisCommands(AisCommands* commands) { ais_ = commands; }
+    /// Without a view the vessel commands do nothing.
+    void SetVesselView(VesselView* view);
+    VoyShipEditDlg* VesselEditor() { return vessel_.get(); }
 
     /// Loads from the server and makes every row anew. -1 not connected; -2 load; -3 rows; -4 statistics.
     int ReloadTree();
@@ -48,8 +60,11 @@ class SeaplanTreeCtrl {
     int AddCategory(const std::string& name);
     /// Redraws the first row that shows the voyage. -3 when that fails; 0 also without such a row.
     int RefreshVoyageRow(const std::string& vi);
-    /// Selects a voyage's row and makes it the current one. -1 without a row.
-    int SelectVoyage(const std::string& vi);
+    /// Selects a voyage's row, makes it the current one and opens the vessel editor over it. -1 without a
+    /// row, -2 without an editor.
+    int OpenVesselEditor(const std::string& vi);
+    /// Gives the voyage of the last click a vessel. -1 no voyage, -2 the server.
+    int CommitVessel(const Interface::FleetEntry& vessel, bool typedOnly);
     void SetShowDeleted(bool shown);
     bool ShowsDeleted() const { return context_.showDeleted; }
     /// -1 empty id; -2 no sort state; -3 rebuild failed.
@@ -62,6 +77,8 @@ class SeaplanTreeCtrl {
     void OnRowPressed(TreeRow row);
     /// A click on an item, by name.
     int OnItemClicked(TreeRow row, const std::string& item);
+    /// Whether a click on an item of this name runs a command.
+    bool HasCommand(const std::string& item) const;
     int CommitRename() { return rename_.Commit(); }
 
     TreeContext& Context() { return context_; }
@@ -81,6 +98,8 @@ class SeaplanTreeCtrl {
     int renameCategory();
     int pinRoute();
     int unpinRoute();
+    int showAis();
+    int hideAis();
     int openPortCalls();
     int openEmptyPortCalls();
     int noonReport();
@@ -88,9 +107,17 @@ class SeaplanTreeCtrl {
     int deleteVoyage();
     int recoverVoyage();
     int clearVoyage();
+    int modifyFromAis();
+    int assignVessel();
+    int replaceVessel();
+    int showVesselInfo();
+    int addVesselToFleet();
 
     int setDirection(int direction);
     int dropVoyageRow();
+    bool correctable(const VoyInfo& voyage);
+    void openVesselBox(TreeRow row, const std::string& text);
+    void turnAisOn(const VoyInfo& voyage);
     int unfold(TreeRow row);
     bool confirmClear();
     void notice(TextId id);
@@ -99,7 +126,9 @@ class SeaplanTreeCtrl {
     TreeBuilder builder_;
     VoyagesOnChart chart_;
     TreeRename rename_;
+    std::unique_ptr<VoyShipEditDlg> vessel_;
     PortCallOpener* portCalls_ = nullptr;
+    AisCommands* ais_ = nullptr;
     TreeRow currentCategoryRow_ = kNoRow;
     TreeRow currentVoyageRow_ = kNoRow;
 };

@@ -35,10 +35,10 @@ int TreeBuilder::RebuildAll() {
         }
         if (addVoyages(row, ci, DateSource::PositionBook) != 0) return -2;
     }
-    return addEmptyCategories(std::move(deleted));
+    return addEmptyCategories(deleted);
 }
 
-int TreeBuilder::addEmptyCategories(std::vector<VoyCategory*> deleted) {
+int TreeBuilder::addEmptyCategories(const std::vector<VoyCategory*>& deleted) {
     std::vector<VoyCategory*> emptyDeleted;
     for (auto& [ci, category] : c_.store.categories) {
         if (c_.store.categoryVoyages.contains(ci)) continue;

@@ -41,7 +41,7 @@ class TreeBuilder {
     int sortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,
                     std::vector<std::string>& deleted) const;
     void addDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
-    int addEmptyCategories(std::vector<VoyCategory*> deleted);
+    int addEmptyCategories(const std::vector<VoyCategory*>& deleted);
     void markVoyage(const VoyInfo& voyage);
     void applyCategoryTexts(TreeRow row);
     void applyVoyageTexts(TreeRow row);

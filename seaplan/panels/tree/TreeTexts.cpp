@@ -31,7 +31,8 @@ constexpr ItemTip kVoyageTips[] = {{"Voyage_child_rename", TextId::IDS_TREE_MODV
                                    {"Voyage.child.svr10", TextId::IDS_TREE_VOYSHOWAIS},
                                    {"Voyage.child.svr9", TextId::IDS_TREE_VOYDEL},
                                    {"Voyage_modify", TextId::IDS_TREE_MODAISTRAC},
-                                   {"Voyage_ReplaceShip", TextId::IDS_TREE_REPLACESHIP}};
+                                   {"Voyage_ReplaceShip", TextId::IDS_TREE_REPLACESHIP},
+                                   {"Voyage_Alert", TextId::IDS_VIEW_ALERT}};
 
 template <std::size_t N>
 void applyTips(TreeWidget& tree, TreeRow row, const ItemTip (&tips)[N]) {

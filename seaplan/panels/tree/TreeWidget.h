@@ -57,6 +57,9 @@ class TreeWidget {
     /// Opens the choice of the sort key at the pointer, `sortKey` marked.
     virtual void ShowSortPanel(const std::string& ci, int sortKey) = 0;
     virtual void HidePopups() = 0;
+    /// Shows another plug-in's window, by its opaque handle, 18 left of and 5 above the pointer, in its own
+    /// size.
+    virtual void ShowAtPointer(void* window) = 0;
     virtual void SetEnabled(bool enabled) = 0;
     /// Opaque handle as owner of boxes.
     virtual void* Handle() const = 0;

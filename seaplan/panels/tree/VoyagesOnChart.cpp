@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/VoyagesOnChart.h"
 
+#include "seaplan/panels/language/Messages.h"
+
 namespace Tarvik::Seaplan {
 
 void VoyagesOnChart::tidyOthers(const std::string& vi) {
@@ -17,12 +19,16 @@ void VoyagesOnChart::tidyOthers(const std::string& vi) {
 
 int VoyagesOnChart::redraw(const VoyInfo& voyage, VoyChartMark& mark) {
     if (voyage.vr == 1) {
+        if (aisModVoyage_ == voyage.vi && !aisModSkipDone_) {
+            aisModSkipDone_ = true;
+            return 0;
+        }
         if (c_.schedule.RemoveVoyageObjects(voyage.vi) != 0) return -2;
         if (c_.schedule.ShowVoyage(voyage.vi) != 0) return -3;
     }
     mark.routePinned = voyage.vr == 1 ? 1 : 0;
     tidyOthers(voyage.vi);
-    return 0;
+    return voyage.va == 1 && ShowAis(voyage, false) != 0 ? -4 : 0;
 }
 
 int VoyagesOnChart::ActivateVoyage(const VoyInfo& voyage) {
@@ -37,6 +43,52 @@ int VoyagesOnChart::ActivateVoyage(const VoyInfo& voyage) {
         tidyOthers(voyage.vi);
         return -6;
     }
+    return voyage.va == 1 && ShowAis(voyage, false) != 0 ? -7 : 0;
+}
+
+void VoyagesOnChart::LeaveAloneOnce(const std::string& vi) {
+    aisModVoyage_ = vi;
+    aisModSkipDone_ = false;
+}
+
+void VoyagesOnChart::notice(TextId id) {
+    c_.tree.SetEnabled(false);
+    Notice(id, c_.tree.Handle());
+    c_.tree.SetEnabled(true);
+}
+
+int VoyagesOnChart::ShowAis(const VoyInfo& voyage, bool warn) {
+    if (voyage.vi.empty()) return -1;
+    if (voyage.vsi.empty() || voyage.vsn.empty()) {
+        if (warn) notice(TextId::IDS_TREE_WARNSHOWAIS);
+        return -1;
+    }
+    if (c_.schedule.RefreshTrace(voyage.vi) == 0) return 0;
+    if (warn) notice(TextId::IDS_TREE_FAILDSHOWAIS);
+    return -2;
+}
+
+void VoyagesOnChart::ShowAisItems(TreeRow row, bool on) {
+    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr8", !on);
+    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr10", on);
+}
+
+int VoyagesOnChart::SetAisShown(const std::string& vi, bool on) {
+    if (vi.empty()) return -1;
+    VoyInfo* voyage = c_.store.FindVoyage(vi);
+    if (voyage == nullptr) return -2;
+    const TreeRow row = c_.FindVoyageRow(vi);
+    if (row == kNoRow) return -3;
+    if (on) {
+        if (ShowAis(*voyage, true) != 0) return -4;
+        if (voyage->va == 0 && c_.catalog.OpenAis(vi) != 0) return -5;
+    } else {
+        if (c_.schedule.HideAisTrack(vi) != 0) return -6;
+        // The server is told whatever the flag was; its refusal leaves the flag on and the track hidden.
+        voyage->va = 1;
+        if (c_.catalog.CloseAis(vi) != 0) return -7;
+    }
+    ShowAisItems(row, on);
     return 0;
 }
 

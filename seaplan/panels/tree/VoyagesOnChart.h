@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/tree/TreeContext.h"
 
 #include <string>
@@ -13,18 +14,31 @@ class VoyagesOnChart {
   public:
     explicit VoyagesOnChart(TreeContext& context) : c_(context) {}
 
+    /// -1 empty id; -2, -3 redrawing; -5 removing; -6 drawing; -4, -7 the vessel's track.
     int ActivateVoyage(const VoyInfo& voyage);
     /// Pins or unpins a voyage's route. -1 empty id; -2 unknown; -3 no row; -4 no position book; -5, -6 the
     /// server's refusal; -7 the chart.
     int SetPinned(const std::string& vi, bool on);
+    /// Shows the track of a voyage's vessel. -1 no vessel, -2 no track; with `warn` the person is told.
+    int ShowAis(const VoyInfo& voyage, bool warn);
+    /// Turns a voyage's AIS display on or off. -1 empty id; -2 unknown; -3 no row; -4, -6 the track; -5, -7
+    /// the server's refusal.
+    int SetAisShown(const std::string& vi, bool on);
+    /// The row's items for a track that is shown or not.
+    void ShowAisItems(TreeRow row, bool on);
+    /// The next press on this pinned voyage leaves the chart as it is.
+    void LeaveAloneOnce(const std::string& vi);
     /// Marks the voyages of a freshly opened view, unless the marks stand already.
     void MarkAll();
 
   private:
     void tidyOthers(const std::string& vi);
     int redraw(const VoyInfo& voyage, VoyChartMark& mark);
+    void notice(TextId id);
 
     TreeContext& c_;
+    std::string aisModVoyage_;  ///< voyage last opened for a correction
+    bool aisModSkipDone_ = false;
 };
 
 }  // namespace Tarvik::Seaplan

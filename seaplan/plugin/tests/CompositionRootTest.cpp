@@ -31,6 +31,25 @@ TEST(CompositionRootTest, ControllersShareTheStore) {
     EXPECT_EQ(state, Destroyed);
 }
 
+TEST(CompositionRootTest, EveryNameGoesWithItsOwner) {
+    auto* kernel = Core::TrvKernel::Instance();
+    int notices = 0;
+    kernel->SetObserver([&](Core::KernelNotice, const std::string&) { ++notices; });
+    const char* const names[] = {"TRV_S_VOY_PLAN", "TRV_MAP_LCLICK_VOYAGETYPE", "TRV_MAP_LCLICK_RPOINTTYPE",
+                                 "TRV_MAP_LCLICK_AISSHIPTYPE"};
+    for (int round = 0; round < 2; ++round) {
+        {
+            VoyageStore store;
+            CompositionRoot root(&store);
+            root.OfferServices();
+            for (const char* name : names) EXPECT_TRUE(kernel->IsBound(name)) << name;
+        }
+        for (const char* name : names) EXPECT_FALSE(kernel->IsBound(name)) << name;
+    }
+    kernel->SetObserver({});
+    EXPECT_EQ(notices, 0);
+}
+
 TEST(CompositionRootTest, ServicesAreOfferedOnce) {
     VoyageStore store;
     CompositionRoot root(&store);

@@ -3,6 +3,9 @@
 
 #include "seaplan/data/controllers/tests/ScheduleFixture.h"
 
+#include <filesystem>
+#include <limits>
+
 namespace Tarvik::Seaplan {
 namespace {
 
@@ -11,16 +14,19 @@ using Texts = std::vector<std::string>;
 class PlanServiceTest : public ScheduleFixture {
   protected:
     PlanServiceTest() {
-        std::filesystem::create_directories(Folder() / "businessdata");
-        const auto here = std::filesystem::path(__FILE__).parent_path();
-        std::filesystem::copy_file(here / "../../data/controllers/tests/points.db",
-                                   Folder() / "businessdata" / "trvdb.db");
+        folder.WriteSamplePoints();
         store.Clear();
-        for (int i = 0; i < 4; ++i) {
+        for (int i = 0; i < 20; ++i) {
             host.Reply(3, "[]");  // an empty catalog is asked for at every plan
         }
         request.start = Util::_datetime_t(0, 0, 8, 1, 3, 2024);
         request.ports = {{"A", "", 10.0F, 0.0F, 6.0F}, {"B", "", 10.0F, 0.0F, 0.0F}};
+    }
+    /// The user's voyages have been loaded before; nothing of this user is in use.
+    void loadStore() {
+        store.categories["1"].ci = "1";
+        store.categories["1"].cn = "Old";
+        store.categoryStates["1"] = InRecycleBin;
     }
     void askToSave() {
         request.save = true;
@@ -64,6 +70,98 @@ TEST_F(PlanServiceTest, PlanWithoutSavingGivesScheduleBookAndLine) {
     EXPECT_EQ(host.requests.size(), 2U);
 }
 
+TEST_F(PlanServiceTest, AnswerCarriesIdsPurposesAndFiguresAsAskedFor) {
+    host.Reply(1, kRouteAb);
+    request.ports = {{"A", "B", 12.0F, 0.5F, 6.0F}, {"B", "O", 12.0F, 0.5F, 24.0F}};
+    const PlanResult& result = service.Plan(request);
+    ASSERT_EQ(result.code, PlanDone) << result.step;
+    EXPECT_EQ(result.rows[0].ppi, "40001");
+    EXPECT_EQ(result.rows[1].ppi, "40002");
+    EXPECT_EQ(result.rows[0].pp, "B") << "not turned into loading";
+    EXPECT_EQ(result.rows[1].pp, "O");
+    EXPECT_EQ(result.rows[1].pw, 0.5F);
+    EXPECT_NEAR(result.rows[1].psp, 12.0F, 1e-4F);
+    EXPECT_NEAR(result.rows[1].steamTime, 60.107F / 6.0F, 1e-3F);
+    EXPECT_EQ(result.rows[0].eta.fmt("%Y-%m-%d %H:%M:%S"), "2024-03-01 08:00:00");
+    EXPECT_EQ(result.rows[0].etd.fmt("%Y-%m-%d %H:%M:%S"), "2024-03-01 14:00:00");
+    EXPECT_EQ(result.totals.portTime, 30.0F);
+    EXPECT_EQ(result.totals.etd, result.rows[1].etd);
+    EXPECT_NEAR(result.summary.totalTime, 60.107F / 6.0F + 24.0F, 1e-3F) << "without the first stay";
+}
+
+TEST_F(PlanServiceTest, BookRowsCarryTheLegsSpeedAndTheirTimes) {
+    host.Reply(1, kRouteAb);
+    request.ports[1].speed = 15.0F;
+    const PlanResult& result = service.Plan(request);
+    ASSERT_EQ(result.code, PlanDone) << result.step;
+    EXPECT_EQ(result.book[0].pointId, "40001");
+    EXPECT_EQ(result.book[0].psn, "A");
+    EXPECT_EQ(result.book[0].pst, PortPoint);
+    EXPECT_NEAR(result.book[1].psp, 15.0F, 1e-4F);
+    EXPECT_EQ(result.book[1].pst, PlainPoint);
+    EXPECT_EQ(result.book[1].eta.fmt("%H:%M"), "16:00") << "half the leg of four hours behind 14:00";
+    EXPECT_EQ(result.book[2].pointId, "40002");
+}
+
+TEST_F(PlanServiceTest, PlanWithoutStartBeginsNow) {
+    host.Reply(1, kRouteAb);
+    clock.SetUtc(2026, 5, 6, 7);
+    PlanRequest now;
+    now.ports = request.ports;
+    EXPECT_EQ(service.Plan(now).rows.at(0).eta.fmt("%Y-%m-%d %H:%M"), "2026-05-06 07:00");
+}
+
+TEST_F(PlanServiceTest, FiguresThatAllowNoVoyageAreRefusedBeforeAnythingIsAsked) {
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float endless = std::numeric_limits<float>::infinity();
+    for (const float speed : {0.0F, -3.0F, 0.001F, nan, endless}) {
+        request.ports[1].speed = speed;
+        expectFailure(PlanNotCalculated);
+        EXPECT_NE(service.Plan(request).step.find("speed"), std::string::npos);
+    }
+    request.ports[1].speed = 10.0F;
+    for (const float weather : {1.0F, 1.5F, -0.01F, nan}) {
+        request.ports[1].weather = weather;
+        expectFailure(PlanNotCalculated);
+        EXPECT_NE(service.Plan(request).step.find("weather"), std::string::npos);
+    }
+    request.ports[1].weather = 0;
+    request.ports[0].portTime = -1;
+    expectFailure(PlanNotCalculated);
+    EXPECT_TRUE(host.TextsOf(1).empty());
+}
+
+TEST_F(PlanServiceTest, StayBeyondTheCalendarIsToldAsSuch) {
+    host.Reply(1, kRouteAb);
+    request.ports[0].portTime = 1e30F;
+    expectFailure(PlanNotCalculated);
+}
+
+TEST_F(PlanServiceTest, MissingTableOfPointsIsNamed) {
+    std::filesystem::remove(folder.PointsFile());
+    host.Reply(1, kRouteAb);
+    const PlanResult& result = service.Plan(request);
+    EXPECT_EQ(result.code, PlanNotCalculated);
+    EXPECT_NE(result.step.find("table of ports"), std::string::npos);
+}
+
+TEST_F(PlanServiceTest, NamesAreKeptAsTheTreeKeepsTypedOnes) {
+    loadStore();
+    host.Reply(1, kRouteAb);
+    askToSave();
+    request.category = " R&D ";
+    request.voyage = "say \"V\"";
+    ASSERT_EQ(service.Plan(request).code, PlanDone);
+    EXPECT_EQ(host.TextsOf(4)[0],
+              "{ci:\"\",cn:\"R\xEF\xBC\x86"
+              "D\",type:0}");
+    EXPECT_EQ(store.voyages.at("22").vn, "say \xEF\xBC\x82V\xEF\xBC\x82");
+    host.Reply(1, kRouteAb);
+    expectFailure(PlanNameTaken);
+    request.voyage = "  ";
+    expectFailure(PlanNameMissing);
+}
+
 TEST_F(PlanServiceTest, SavedPlanMakesCategoryAndVoyageAndSavesTheSchedule) {
     host.Reply(1, kRouteAb);
     askToSave();
@@ -71,6 +169,7 @@ TEST_F(PlanServiceTest, SavedPlanMakesCategoryAndVoyageAndSavesTheSchedule) {
     ASSERT_EQ(result.code, PlanDone) << result.step;
     EXPECT_EQ(result.ci, "11");
     EXPECT_EQ(result.vi, "22");
+    EXPECT_TRUE(store.categories.empty()) << "nothing was loaded before";
     Texts commands;
     for (const auto& sent : host.requests) {
         commands.push_back(std::to_string(sent.Command()));
@@ -78,7 +177,47 @@ TEST_F(PlanServiceTest, SavedPlanMakesCategoryAndVoyageAndSavesTheSchedule) {
     EXPECT_EQ(commands, (Texts{"3", "1", "4", "5", "11", "7", "8", "9"}));
     EXPECT_EQ(host.TextsOf(4)[0], R"({ci:"",cn:"Cat",type:0})");
     EXPECT_EQ(host.TextsOf(5)[0], R"({ci:"11",vi:"",vn:"V",type:"0",vsi:"",vr:"0",va:"0"})");
+}
+
+TEST_F(PlanServiceTest, SavedVoyageIsInAStoreThatWasLoaded) {
+    loadStore();
+    host.Reply(1, kRouteAb);
+    askToSave();
+    ASSERT_EQ(service.Plan(request).code, PlanDone);
+    EXPECT_TRUE(host.TextsOf(3).empty()) << "once loaded is enough";
     EXPECT_EQ(store.voyages.at("22").portCalls.size(), 2U);
+    EXPECT_EQ(store.categoryVoyages.at("11").at("22"), InUse);
+}
+
+TEST_F(PlanServiceTest, StoreThatWasNotLoadedIsLeftForThePanelToLoad) {
+    host.Reply(1, kRouteAb);
+    askToSave();
+    ASSERT_EQ(service.Plan(request).code, PlanDone);
+    for (int round = 1; round <= 2; ++round) {
+        EXPECT_TRUE(store.categories.empty());
+        EXPECT_TRUE(store.voyages.empty());
+        EXPECT_TRUE(store.categoryStates.empty());
+        EXPECT_TRUE(store.categoryVoyages.empty());
+        EXPECT_EQ(host.TextsOf(3).size(), round) << "asked for at every plan";
+        host.Reply(4, R"({eid:0,ci:"11"})");
+        expectFailure(PlanNotCalculated);
+    }
+}
+
+TEST_F(PlanServiceTest, RouteThatAPanelHasCalculatedStaysTheOneItSaves) {
+    loadStore();
+    request.save = false;
+    for (const bool known : {true, false}) {
+        RouteStops calculated(3);
+        calculated[0].point_cd = "40003";
+        module.SetCurrentStops(calculated);
+        if (known) {
+            host.Reply(1, kRouteAb);
+        }
+        EXPECT_EQ(service.Plan(request).code, known ? PlanDone : PlanNotCalculated);
+        ASSERT_EQ(module.CurrentStops().size(), 3U) << known;
+        EXPECT_EQ(module.CurrentStops()[0].point_cd, "40003");
+    }
 }
 
 TEST_F(PlanServiceTest, CategoryInUseIsTakenAndOneInTheBinIsNot) {
@@ -149,7 +288,38 @@ TEST_F(PlanServiceTest, RefusedSaveIsToldByItsStep) {
     expectFailure(PlanNoVoyage);
     host.Reply(1, kRouteAb);
     host.Reply(5, R"({eid:0,vi:"22"})");
+    host.Reply(5, "{eid:0}");
+    host.Reply(4, "{eid:0}");
     expectFailure(PlanNotSaved);
+}
+
+TEST_F(PlanServiceTest, FailedSaveTakesVoyageAndNewCategoryBack) {
+    loadStore();
+    request.save = true;
+    request.category = "Cat";
+    request.voyage = "V";
+    host.Reply(1, kRouteAb);
+    host.Reply(4, R"({eid:0,ci:"11"})");
+    host.Reply(5, R"({eid:0,vi:"22"})");
+    host.Reply(5, "{eid:0}");
+    host.Reply(4, "{eid:0}");
+    expectFailure(PlanNotSaved);
+    EXPECT_EQ(host.TextsOf(5).back(), R"({vi:"22",type:"4"})");
+    EXPECT_EQ(host.TextsOf(4).back(), R"({ci:"11",type:"3"})");
+    EXPECT_EQ(store.categoryVoyages.at("11").at("22"), Destroyed);
+    EXPECT_EQ(store.categoryStates.at("11"), Destroyed);
+}
+
+TEST_F(PlanServiceTest, FailedSaveLeavesACategoryThatWasThere) {
+    store.categories["3"].cn = "Cat";
+    store.categoryStates["3"] = InUse;
+    request.save = true;
+    request.category = "Cat";
+    request.voyage = "V";
+    host.Reply(1, kRouteAb);
+    expectFailure(PlanNoVoyage);
+    EXPECT_TRUE(host.TextsOf(4).empty());
+    EXPECT_EQ(store.categoryStates.at("3"), InUse);
 }
 
 TEST_F(PlanServiceTest, NullRequestHasNoAnswer) {

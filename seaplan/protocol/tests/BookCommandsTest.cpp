@@ -60,6 +60,52 @@ TEST_F(BookCommandsTest, CoordinatesWrittenAsIntegersAreRead) {
     EXPECT_EQ(book.points[2].position, "0.000,0.000");
 }
 
+TEST_F(BookCommandsTest, NumberNearZeroIsReadAgainAsAnInteger) {
+    const auto position = [](const char* json) {
+        Util::Jsona row;
+        EXPECT_TRUE(row.parse(json)) << json;
+        return PositionText(row);
+    };
+    EXPECT_EQ(position("{xc:-0.00005,yc:0.00009}"), "0.000,0.000");
+    EXPECT_EQ(position("{xc:-0.0001,yc:0.0001}"), "-0.000,0.000") << "the limit itself stands as it was read";
+    EXPECT_EQ(position("{xc:0,yc:-90}"), "0.000,-90.000");
+    EXPECT_EQ(position(R"({xc:"120",yc:null})"), "0.000,0.000");
+    EXPECT_EQ(position("{xc:1.2e2,yc:120.0}"), "120.000,120.000");
+}
+
+TEST_F(BookCommandsTest, PositionIsPrintedFromThirtyTwoBits) {
+    Util::Jsona row;
+    ASSERT_TRUE(row.parse("{xc:179.9995,yc:31.2305}"));
+    EXPECT_EQ(PositionText(row), "179.999,31.230");
+}
+
+TEST_F(BookCommandsTest, OptionalNumbersAreReadFromTextsOnly) {
+    host.Reply(
+        7, R"([{eta:"2011-01-01 00:00:00",pb:[{lon:"3",psr:"RL",pli:4,psp:18.52,pst:5},{lon:1,psn:"B"}]}])");
+    EXPECT_EQ(LoadPositionBook("77", book), 0);
+    ASSERT_EQ(book.points.size(), 2U);
+    EXPECT_EQ(book.points[0].pli, 2) << "a row without integer number sorts as -1";
+    EXPECT_EQ(book.points[0].psp, static_cast<float>(10.0 / 1.852));
+    EXPECT_EQ(book.points[0].pst, PlainPoint);
+    EXPECT_EQ(book.points[1].psn, "B");
+}
+
+TEST_F(BookCommandsTest, DateBeforeTheCutOverIsTakenAsItStands) {
+    host.Reply(7, R"([{eta:"2011-10-01 23:59:59"},{eta:"2024-01-01 00:00:00"}])");
+    EXPECT_EQ(LoadPositionBook("77", book), 0);
+    EXPECT_EQ(book.eta.fmt("%Y-%m-%d %H:%M:%S"), "2011-10-01 23:59:59") << "the first element is the book";
+    EXPECT_TRUE(book.points.empty());
+    host.zone.reset();
+    host.Reply(7, R"([{eta:"2024-01-01 00:00:00"}])");
+    EXPECT_EQ(LoadPositionBook("77", book), -4) << "without a zone";
+}
+
+TEST_F(BookCommandsTest, FailedLoadAppendsNoRows) {
+    host.Reply(7, R"([{pbi:"5",eta:"",pb:[{lon:0}]}])");
+    EXPECT_EQ(LoadPositionBook("77", book), -5);
+    EXPECT_TRUE(book.points.empty());
+}
+
 TEST_F(BookCommandsTest, RowsComeInOrderAndAreAppendedAndTheLaterOfTwoStays) {
     book.points = pointsOf(1);
     host.Reply(7, R"([{eta:"2011-01-01 00:00:00",pb:[{lon:10,psn:"C"},{lon:2,psn:"x"},{lon:2,psn:"B"}]}])");
@@ -120,6 +166,10 @@ TEST_F(BookCommandsTest, DateOfABook) {
     EXPECT_EQ(SetPositionBookDate("5", "2024-01-01"), -2);
     EXPECT_TRUE(host.requests.empty());
     EXPECT_EQ(SetPositionBookDate("5", "2024-01-01 08:00:00"), -3);
+    host.Reply(14, "no json");
+    EXPECT_EQ(SetPositionBookDate("5", "2024-01-01 08:00:00"), -3);
+    host.Reply(14, "{}");
+    EXPECT_EQ(SetPositionBookDate("5", "2024-01-01 08:00:00"), -4);
     host.Reply(14, "{eid:1}");
     EXPECT_EQ(SetPositionBookDate("5", "2024-01-01 08:00:00"), -4);
     host.Reply(14, "{eid:0}");
@@ -155,6 +205,28 @@ TEST_F(BookCommandsTest, NinetyNineRowsKeepThreeDecimalsAndAHundredOne) {
     ASSERT_EQ(host.requests.size(), 2U) << "a hundred rows are one request";
     EXPECT_NE(host.requests[1].Text().find("|18.5|"), std::string::npos);
     EXPECT_EQ(host.requests[1].Text().find("|18.520|"), std::string::npos);
+}
+
+TEST_F(BookCommandsTest, TwoHundredRowsAreTwoRequests) {
+    host.Reply(9, "{eid:0}");
+    host.Reply(9, "{eid:0}");
+    EXPECT_EQ(SavePositionBookRows("5", pointsOf(200)), 0);
+    EXPECT_EQ(host.requests.size(), 2U);
+}
+
+TEST_F(BookCommandsTest, OneRowIsTaken) {
+    host.Reply(9, "{eid:0}");
+    EXPECT_EQ(SavePositionBookRows("5", pointsOf(1)), 0);
+    EXPECT_EQ(host.Texts(), Texts{R"(9 ["5","0","0|P|120.000|30.500|GC|5|18.520|0"])"});
+    EXPECT_EQ(host.requests[0].ModuleWord(), 5);
+}
+
+TEST_F(BookCommandsTest, LaterBlockThatIsRefusedEndsTheSaving) {
+    host.Reply(9, "{eid:0}");
+    host.Reply(9, "{eid:4}");
+    host.Reply(9, "{eid:0}");
+    EXPECT_EQ(SavePositionBookRows("5", pointsOf(250)), -7);
+    EXPECT_EQ(host.requests.size(), 2U);
 }
 
 TEST_F(BookCommandsTest, LaterBlocksAppendAndTheNumbersRunOn) {

@@ -60,6 +60,29 @@ TEST(CatalogReplyTest, MissingNumbersAreZero) {
     EXPECT_EQ(store.categoryVoyages.at("1").at("9"), InUse);
 }
 
+TEST(CatalogReplyTest, NumbersBeyondThirtyTwoBitsAreClamped) {
+    const VoyageStore store = storeOf(
+        R"([{ci:"1",voys:[{vi:"8",vsmsi:"99999999999"},{vi:"9",vsmsi:"-99999999999",modais:"4294967296"}]}])");
+    EXPECT_EQ(store.voyages.at("8").vsmsi, 2147483647);
+    EXPECT_EQ(store.voyages.at("9").vsmsi, -2147483647 - 1);
+    EXPECT_EQ(store.voyages.at("9").modais, 2147483647);
+}
+
+TEST(CatalogReplyTest, LaterOfTwoRecordsWithOneIdStays) {
+    const VoyageStore store = storeOf(
+        R"([{ci:"1",cn:"A",cd:"1",voys:[{vi:"9",vn:"old",vd:"1"}]},{ci:"1",cn:"B",voys:[{vi:"9",vn:"new"}]}])");
+    EXPECT_EQ(store.categories.at("1").cn, "B");
+    EXPECT_EQ(store.categoryStates.at("1"), InUse);
+    EXPECT_EQ(store.voyages.at("9").vn, "new");
+    EXPECT_EQ(store.categoryVoyages.at("1").at("9"), InUse);
+}
+
+TEST(CatalogReplyTest, ObjectIsWalkedByItsMembers) {
+    const VoyageStore store = storeOf(R"({a:{ci:"1",voys:{b:{vi:"9"}}},eid:0})");
+    EXPECT_EQ(store.categories.size(), 1U);
+    EXPECT_EQ(store.voyages.count("9"), 1U);
+}
+
 TEST(CatalogReplyTest, UnquotedNumbersReadAsMissing) {
     const VoyageStore store = storeOf(R"([{ci:"1",crk:1,voys:[{vi:"9",vr:1}]}])");
     EXPECT_EQ(store.categories.at("1").crk, 0);

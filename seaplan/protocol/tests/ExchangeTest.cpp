@@ -89,6 +89,20 @@ TEST(SendChangeTest, LadderBeginsAtTheGivenStep) {
     EXPECT_EQ(SendChange("x", 4, -3), 0);
 }
 
+TEST(SendTextTest, StatusOfAnotherKindThanIntegerIsNoSuccess) {
+    Util::Jsona reply;
+    for (const char* json : {"{eid:\"0\"}", "{eid:0.0}", "{eid:null}", "{eid:-1}", "{}", "[]", "0"}) {
+        ASSERT_TRUE(reply.parse(json)) << json;
+        EXPECT_FALSE(IsSuccess(reply)) << json;
+    }
+    ASSERT_TRUE(reply.parse("{\"eid\":0}"));
+    EXPECT_TRUE(IsSuccess(reply));
+}
+
+TEST(EnsureConnectedTest, ClientThatDoesNotAnswerCountsAsUnconnected) {
+    EXPECT_EQ(EnsureConnected(), -1);
+}
+
 TEST(EnsureConnectedTest, ConnectedClientNeedsNoLogin) {
     RecordingHost host;
     EXPECT_EQ(EnsureConnected(), 0);
@@ -100,6 +114,14 @@ TEST(EnsureConnectedTest, UnconnectedClientOpensLoginAndDoesNotWait) {
     host.connected = false;
     EXPECT_EQ(EnsureConnected(), -1);
     EXPECT_EQ(host.logins, 1);
+}
+
+TEST(GetUserTest, EmptyUserIdIsHandedOn) {
+    RecordingHost host;
+    host.user = "";
+    std::string user = "before";
+    EXPECT_EQ(GetUser(user), 0);
+    EXPECT_EQ(user, "");
 }
 
 TEST(GetUserTest, NobodyLoggedInLeavesAnEmptyUser) {
@@ -127,6 +149,37 @@ TEST(ServerTimeTest, TextsFromTheCutOverOnGoOutAsUtc) {
     EXPECT_EQ(out, "2011-10-02 00:00:00");
     EXPECT_EQ(ToServerTime("2024-01-01 03:30:15", out), 0);
     EXPECT_EQ(out, "2023-12-31 19:30:15");
+}
+
+TEST(ServerTimeTest, TextsAreComparedAsTexts) {
+    RecordingHost host;
+    std::string out;
+    EXPECT_EQ(ToServerTime("2011-10-02", out), 0);
+    EXPECT_EQ(out, "2011-10-02") << "the shorter text sorts first";
+    EXPECT_EQ(FromServerTime("1999 or so", out), 0);
+    EXPECT_EQ(out, "1999 or so");
+    EXPECT_EQ(ToServerTime("soon", out), -1);
+    EXPECT_EQ(FromServerTime("soon", out), -1);
+}
+
+TEST(ServerTimeTest, WritingIgnoresTheZoneThatReadingTakes) {
+    RecordingHost host;
+    host.zone = "UTC";
+    std::string wire;
+    std::string back;
+    EXPECT_EQ(ToServerTime("2024-01-01 12:00:00", wire), 0);
+    EXPECT_EQ(wire, "2024-01-01 04:00:00");
+    EXPECT_EQ(FromServerTime(wire, back), 0);
+    EXPECT_EQ(back, "2024-01-01 04:00:00");
+}
+
+TEST(ServerTimeTest, ResultMayReplaceItsText) {
+    const RecordingHost host;
+    std::string text = "2024-01-01 12:00:00";
+    EXPECT_EQ(ToServerTime(text, text), 0);
+    EXPECT_EQ(text, "2024-01-01 04:00:00");
+    EXPECT_EQ(FromServerTime(text, text), 0);
+    EXPECT_EQ(text, "2024-01-01 12:00:00");
 }
 
 TEST(ServerTimeTest, LaterTextThatIsNoTimeIsRefused) {
@@ -158,6 +211,7 @@ TEST(ServerTimeTest, ReadingFailsForABadTextAndWithoutZone) {
     EXPECT_EQ(FromServerTime("2024-13-01 00:00:00", out), -1);
     host.zone.reset();
     EXPECT_EQ(FromServerTime("2024-06-30 12:00:00", out), -2);
+    EXPECT_EQ(FromServerTime("2024-13-01 00:00:00", out), -1) << "the text is looked at before the zone";
 }
 
 }  // namespace

@@ -64,6 +64,53 @@ TEST_F(PortCallCommandsTest, LoadLadderEmptiesTheRowsFirst) {
     EXPECT_TRUE(rows.empty());
 }
 
+TEST_F(PortCallCommandsTest, NumbersAreReadFromTextsOnly) {
+    host.Reply(10, R"([{lon:0,ppn:"A"}])");
+    EXPECT_EQ(LoadPortCalls("77", rows), -4) << "a sequence number is a text";
+    host.Reply(10, R"([{lon:"x",psp:18.52,pw:0.5,apt:6}])");
+    EXPECT_EQ(LoadPortCalls("77", rows), 0);
+    EXPECT_EQ(rows[0].psp, 0.0F);
+    EXPECT_EQ(rows[0].pw, 0.0F);
+    EXPECT_EQ(rows[0].apt, 0.0F);
+}
+
+TEST_F(PortCallCommandsTest, ValuesThatAreComputedStayAtTheirDefaults) {
+    host.Reply(10, R"([{lon:"0",steamTime:"5",distance:"6"}])");
+    EXPECT_EQ(LoadPortCalls("77", rows), 0);
+    EXPECT_EQ(rows[0].steamTime, 0.0F);
+    EXPECT_EQ(rows[0].distance, 0.0F);
+}
+
+TEST_F(PortCallCommandsTest, SpeedIsRoundedOnceToThirtyTwoBits) {
+    host.Reply(10, R"([{lon:"0",psp:"25"},{lon:"1",psp:"18.519"}])");
+    EXPECT_EQ(LoadPortCalls("77", rows), 0);
+    EXPECT_EQ(rows[0].psp, static_cast<float>(25.0 / 1.852));
+    EXPECT_EQ(rows[1].psp, static_cast<float>(18.519 / 1.852));
+    host.Reply(11, "{eid:0}");
+    EXPECT_EQ(SavePortCalls("77", rows), 0);
+    EXPECT_EQ(host.Texts().back(), R"(11 ["77","0||||25.000|0.000|0.0","1||||18.519|0.000|0.0"])");
+}
+
+TEST_F(PortCallCommandsTest, ReplyThatDoesNotParseIsAFailedExchange) {
+    rows = {rowOf("1", "A", 10.0F), rowOf("2", "B", 10.0F)};
+    host.Reply(11, "no json");
+    EXPECT_EQ(SavePortCalls("77", rows), -2);
+    host.Reply(6, "no json");
+    EXPECT_EQ(SaveFigures("77", {}), -2);
+    host.Reply(10, "no json");
+    EXPECT_EQ(LoadPortCalls("77", rows), -2);
+    EXPECT_TRUE(rows.empty());
+}
+
+TEST_F(PortCallCommandsTest, IdsAreFilledInAlsoWhenTheExchangeFails) {
+    const TestSupport::PortDictionary dictionary(TestSupport::PortDictionary::Ports{{"B", "2"}});
+    rows = {rowOf("", "A", 10.0F), rowOf("", "B", 10.0F)};
+    EXPECT_EQ(SavePortCalls("77", rows), -2);
+    EXPECT_EQ(rows[0].ppi, "") << "an unknown port has no id";
+    EXPECT_EQ(rows[1].ppi, "2");
+    EXPECT_EQ(host.Texts(), Texts{R"(11 ["77","0||A|D|18.520|0.000|0.0","1|2|B|D|18.520|0.000|0.0"])"});
+}
+
 TEST_F(PortCallCommandsTest, SavedTextIsByteExact) {
     rows = {rowOf("1", "A", 0.0F), rowOf("2", "B", 10.0F)};
     rows[0].pp = "L";

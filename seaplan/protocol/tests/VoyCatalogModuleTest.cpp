@@ -45,6 +45,52 @@ TEST_F(VoyCatalogModuleTest, LoadReportsAFailedExchange) {
     EXPECT_EQ(host.Texts(), Texts{R"(3 {ui:"u"})"});
 }
 
+TEST_F(VoyCatalogModuleTest, LoadReportsAReplyThatDoesNotParse) {
+    host.Reply(3, "[{ci:");
+    EXPECT_EQ(module.LoadAll("u"), -2);
+    EXPECT_TRUE(store.categories.empty());
+}
+
+TEST_F(VoyCatalogModuleTest, StatusInsteadOfAListLoadsNothing) {
+    host.Reply(3, R"({eid:-1,emsg:"no"})");
+    EXPECT_EQ(module.LoadAll("u"), 0);
+    EXPECT_TRUE(store.categories.empty());
+    EXPECT_TRUE(store.categoryStates.empty());
+}
+
+TEST_F(VoyCatalogModuleTest, ConnectionAndUserComeFromTheHost) {
+    std::string user;
+    EXPECT_EQ(module.EnsureConnected(), 0);
+    EXPECT_EQ(module.GetUser(user), 0);
+    EXPECT_EQ(user, "1000001");
+    host.connected = false;
+    host.user.reset();
+    EXPECT_EQ(module.EnsureConnected(), -1);
+    EXPECT_EQ(host.logins, 1);
+    EXPECT_EQ(module.GetUser(user), -1);
+}
+
+TEST_F(VoyCatalogModuleTest, CommandsLeaveTheStoreAlone) {
+    host.Reply(3, R"([{ci:"1",cn:"A",voys:[{vi:"9",vn:"V"}]}])");
+    EXPECT_EQ(module.LoadAll("u"), 0);
+    for (int i = 0; i < 3; ++i) {
+        host.Reply(4, R"({eid:0,ci:"2"})");
+        host.Reply(5, R"({eid:0,vi:"8"})");
+    }
+    std::string id;
+    EXPECT_EQ(module.CreateCategory("B", id), 0);
+    EXPECT_EQ(module.RenameCategory("1", "C"), 0);
+    EXPECT_EQ(module.ChangeCategoryState("1", 3), 0);
+    EXPECT_EQ(module.CreateVoyage("W", "1", id), 0);
+    EXPECT_EQ(module.RenameVoyage("9", "X"), 0);
+    EXPECT_EQ(module.ChangeVoyageState("9", 4), 0);
+    EXPECT_EQ(store.categories.size(), 1U);
+    EXPECT_EQ(store.categories.at("1").cn, "A");
+    EXPECT_EQ(store.voyages.at("9").vn, "V");
+    EXPECT_EQ(store.categoryStates.at("1"), InUse);
+    EXPECT_EQ(store.categoryVoyages.at("1").at("9"), InUse);
+}
+
 TEST_F(VoyCatalogModuleTest, LoadOfAUserWithoutDataGivesOne) {
     host.Reply(3, "[]");
     EXPECT_EQ(module.LoadAll("u"), 1);
@@ -88,6 +134,16 @@ TEST_F(VoyCatalogModuleTest, CreateVoyageLadderAndEmptyCategoryGoesOut) {
     EXPECT_EQ(host.Texts().back(), R"(5 {ci:"",vi:"",vn:"V",type:"0",vsi:"",vr:"0",va:"0"})");
     host.Reply(5, "{eid:0}");
     EXPECT_EQ(module.CreateVoyage("V", "1", id), -5);
+}
+
+TEST_F(VoyCatalogModuleTest, QuoteInANameGoesOutAndTheServerDecides) {
+    std::string id = "before";
+    host.Reply(4, R"({eid:22,emsg:"bad text"})");
+    EXPECT_EQ(module.CreateCategory("a\"b", id), -4);
+    EXPECT_EQ(host.Texts(), Texts{R"(4 {ci:"",cn:"a"b",type:0})"});
+    EXPECT_EQ(id, "before");
+    host.Reply(4, R"({eid:0,ci:"2"})");
+    EXPECT_EQ(module.CreateCategory("a\"b", id), 0);
 }
 
 TEST_F(VoyCatalogModuleTest, RenameNeedsIdAndName) {
@@ -149,9 +205,29 @@ TEST_F(VoyCatalogModuleTest, AisTimesComeSortedWithoutDuplicatesAndWithoutBadTex
     EXPECT_EQ(host.Texts(), Texts{R"(12 {vi:"1"})"});
 }
 
-TEST_F(VoyCatalogModuleTest, ReadingAisTimesLadder) {
+TEST_F(VoyCatalogModuleTest, AisTimesThatFallTogetherInTheChosenZoneAreOne) {
+    host.zone = "UTC";
+    host.Reply(12, R"({times:["2011-10-02 08:00:00","2011-10-02 08:00:00","2011-10-01 08:00:00",7]})");
     Texts times;
+    EXPECT_EQ(module.GetAisModTimes("1", times), 0);
+    EXPECT_EQ(times, (Texts{"2011-10-01 08:00:00", "2011-10-02 08:00:00"}));
+}
+
+TEST_F(VoyCatalogModuleTest, AisTimesFromTheCutOverOnAreSkippedWithoutAZone) {
+    host.zone.reset();
+    host.Reply(12, R"({times:["2024-01-01 00:00:00","2011-10-01 23:59:59"]})");
+    Texts times;
+    EXPECT_EQ(module.GetAisModTimes("1", times), 0);
+    EXPECT_EQ(times, Texts{"2011-10-01 23:59:59"});
+}
+
+TEST_F(VoyCatalogModuleTest, ReadingAisTimesLadder) {
+    Texts times{"before"};
     EXPECT_EQ(module.GetAisModTimes("", times), -1);
+    EXPECT_TRUE(host.requests.empty());
+    EXPECT_EQ(module.GetAisModTimes("1", times), -2);
+    EXPECT_TRUE(times.empty()) << "cleared before anything is sent";
+    host.Reply(12, "no json");
     EXPECT_EQ(module.GetAisModTimes("1", times), -2);
     host.Reply(12, "{}");
     EXPECT_EQ(module.GetAisModTimes("1", times), -3);

@@ -101,6 +101,7 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     rows->addLayout(buttons);
     ApplySkin();
     ApplyTexts();
+    SetValue(Util::_datetime_t());
 }
 
 QToolButton* CalendarPopup::button(const char* name, const QString& label, std::function<void()> action) {
@@ -178,6 +179,12 @@ void CalendarPopup::step(TimeField& field, bool hour, int by) {
     field.edit->setText(QString::fromStdString(hour ? model_.HourText() : model_.MinuteText()));
     field.edit->selectAll();
     field.edit->setFocus();
+}
+
+void CalendarPopup::mousePressEvent(QMouseEvent* event) {
+    endTyping(hour_, true);
+    endTyping(minute_, false);
+    QFrame::mousePressEvent(event);
 }
 
 bool CalendarPopup::eventFilter(QObject* watched, QEvent* event) {

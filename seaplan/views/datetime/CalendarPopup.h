@@ -27,6 +27,8 @@ class CalendarPopup final : public QFrame {
     void ApplySkin();
 
   protected:
+    /// A press beside hour and minute ends their typing.
+    void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

@@ -25,8 +25,13 @@ VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
     addButton_ = AddCaptionButton("addCategoryButton", "add");
     helpButton_ = AddCaptionButton("helpButton", "help");
     closeButton_ = AddCaptionButton("closeButton", "close");
+    addButton_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
+    helpButton_->setShortcut(QKeySequence(Qt::Key_F1));
+    closeButton_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
     tree_ = new VoyageTreeView(this);
-    Body()->setContentsMargins(10, 12, 8, 18);
+    vessels_ = new VesselBox(tree_->viewport());
+    // With the border of one pixel and the caption the tree stands at 10, 45, width - 8, height - 30.
+    Body()->setContentsMargins(9, 14, 7, 29);
     Body()->addWidget(tree_);
     resize(310, 460);
     ApplyTexts();
@@ -34,6 +39,7 @@ VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
 
 void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
     panel_ = panel;
+    vessels_->Attach(tree->VesselEditor());
     QObject::connect(filterButton_, &QToolButton::clicked, this, [panel] { panel->ToggleFilter(); });
     QObject::connect(addButton_, &QToolButton::clicked, this, [panel] { panel->AddCategory(); });
     QObject::connect(helpButton_, &QToolButton::clicked, this, [panel] { panel->RequestHelp(); });
@@ -43,7 +49,9 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
                        [tree] { tree->CommitRename(); },
                        [tree](const std::string& ci, int key) {
                            if (tree->SetSortKey(ci, key) == 0) tree->Context().tree.HidePopups();
-                       }});
+                       },
+                       [panel] { panel->AddCategory(); },
+                       [tree](const std::string& item) { return tree->HasCommand(item); }});
 }
 
 void VoyagePanelWindow::Place(const Rect& screen) {
@@ -53,6 +61,7 @@ void VoyagePanelWindow::Place(const Rect& screen) {
 void VoyagePanelWindow::Show() {
     show();
     raise();
+    if (focusWidget() == nullptr) tree_->setFocus();
 }
 
 void VoyagePanelWindow::Hide() {
@@ -66,8 +75,8 @@ void VoyagePanelWindow::ApplyTexts() {
     Describe(addButton_, text(TextId::IDS_TREE_ADDCATEGORY));
     Describe(helpButton_, text(TextId::IDS_VOY_HELP));
     Describe(closeButton_, text(TextId::IDS_TREE_CLOSE));
-    tree_->setAccessibleName(text(TextId::IDS_VIEW_TREE));
-    tree_->SetEmptyHint(text(TextId::IDS_VIEW_EMPTYTREE));
+    tree_->ApplyTexts();
+    vessels_->ApplyTexts();
     if (showDeleted_ != nullptr) {
         showDeleted_->setText(text(TextId::IDS_TREEVIEW_RECOVER));
         Describe(showDeleted_, text(TextId::IDS_TREEVIEW_RECOVER));
@@ -113,6 +122,7 @@ void VoyagePanelWindow::ApplySkin() {
     ToolWindow::ApplySkin();
     if (filter_ != nullptr) filter_->setStyleSheet(SkinStyleSheet());
     tree_->ApplySkin();
+    vessels_->ApplySkin();
 }
 
 void VoyagePanelWindow::SurfacePressed() {

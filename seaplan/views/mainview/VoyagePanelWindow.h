@@ -4,6 +4,7 @@
 #include "seaplan/panels/mainview/MainViewWindow.h"
 #include "seaplan/views/skin/ToolWindow.h"
 #include "seaplan/views/tree/VoyageTreeView.h"
+#include "seaplan/views/vessel/VesselBox.h"
 
 class QCheckBox;
 
@@ -19,6 +20,7 @@ class VoyagePanelWindow final : public ToolWindow, public MainViewWindow {
     /// Ties the controls to the panel; both outlive the window's use.
     void Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree);
     VoyageTreeView& Tree() { return *tree_; }
+    VesselBox& Vessels() { return *vessels_; }
 
     bool IsVisible() const override { return isVisible(); }
     void Place(const Rect& screen) override;
@@ -38,6 +40,7 @@ class VoyagePanelWindow final : public ToolWindow, public MainViewWindow {
     void makeFilter();
 
     VoyageTreeView* tree_;
+    VesselBox* vessels_;
     QToolButton* filterButton_;
     QToolButton* addButton_;
     QToolButton* helpButton_;

@@ -8,6 +8,8 @@
 
 #include <QPainter>
 
+#include <array>
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -30,35 +32,56 @@ QRect imageRect(const QRect& cell, int image) {
     return rect;
 }
 
+QColor groundOf(const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const SkinPalette& skin = Skin();
+    if ((option.state & QStyle::State_Selected) != 0) return skin.selection;
+    if (index.data(PortCallModel::kTotalsRole).toBool()) return skin.window;
+    const auto look = static_cast<RowClass>(index.data(PortCallModel::kLookRole).toInt());
+    return look == RowClass::Disabled      ? skin.history
+           : look == RowClass::Highlighted ? skin.highlight
+                                           : skin.panel;
+}
+
+void paintImages(QPainter& painter, const QRect& cell, const QModelIndex& index) {
+    if (!index.data(PortCallModel::kImagesRole).toBool()) return;
+    const auto* model = static_cast<const PortCallModel*>(index.model());
+    const RowActions can = model->ActionsOf(index.row());
+    const std::array<bool, std::size(kImages)> enabled = {can.moveUp, can.moveDown, can.remove};
+    for (int i = 0; i < static_cast<int>(std::size(kImages)); ++i) {
+        PaintIcon(painter, imageRect(cell, i), kImages[i].icon, enabled[i] ? Skin().text : Skin().disabled);
+    }
+}
+
+void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const SkinPalette& skin = Skin();
+    QFont font = option.font;
+    font.setPixelSize(kTablePixels);
+    font.setBold(index.column() == ColOrder && index.data(PortCallModel::kTotalsRole).toBool());
+    painter.setFont(font);
+    const auto look = static_cast<RowClass>(index.data(PortCallModel::kLookRole).toInt());
+    painter.setPen(index.data(PortCallModel::kUnknownRole).toBool() ? skin.error
+                   : look == RowClass::Disabled                     ? skin.secondary
+                                                                    : skin.text);
+    const QRect inner = option.rect.adjusted(3, 0, -3, 0);
+    const QString text =
+        QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, inner.width());
+    painter.drawText(inner, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine, text);
+}
+
 }  // namespace
 
 void PortCallDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
-    const SkinPalette& skin = Skin();
-    const auto look = static_cast<RowClass>(index.data(PortCallModel::kLookRole).toInt());
-    QColor ground = look == RowClass::Disabled      ? skin.history
-                    : look == RowClass::Highlighted ? skin.highlight
-                                                    : skin.panel;
-    if ((option.state & QStyle::State_Selected) != 0) ground = skin.selection;
     painter->save();
-    painter->fillRect(option.rect, ground);
+    painter->fillRect(option.rect, groundOf(option, index));
     if (index.column() == PortCallModel::kImageColumn) {
-        if (index.data(PortCallModel::kImagesRole).toBool()) {
-            for (int i = 0; i < static_cast<int>(std::size(kImages)); ++i) {
-                PaintIcon(*painter, imageRect(option.rect, i), kImages[i].icon, skin.secondary);
-            }
-        }
+        paintImages(*painter, option.rect, index);
     } else {
-        const bool bold = index.siblingAtColumn(ColOrder).data().toString() == QLatin1String("RES");
-        QFont font = option.font;
-        font.setPixelSize(kTablePixels);
-        font.setBold(bold);
-        painter->setFont(font);
-        painter->setPen(look == RowClass::Disabled ? skin.secondary : skin.text);
-        const QRect inner = option.rect.adjusted(4, 0, -4, 0);
-        const QString text =
-            QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, inner.width());
-        painter->drawText(inner, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine, text);
+        paintText(*painter, option, index);
+    }
+    if ((option.state & QStyle::State_HasFocus) != 0) {
+        painter->setPen(Skin().accent);
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
     painter->restore();
 }

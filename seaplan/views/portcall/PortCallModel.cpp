@@ -3,11 +3,21 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+QVariant alignmentOf(int column) {
+    const bool left = column == ColPort || column == ColEta || column == ColEtd;
+    const bool centre = column == ColPurpose || column == ColOrder;
+    const Qt::Alignment side = left ? Qt::AlignLeft : centre ? Qt::AlignHCenter : Qt::AlignRight;
+    return static_cast<int>(side | Qt::AlignVCenter);
+}
+
+}  // namespace
+
 void PortCallModel::Show(const PortCallTable& table) {
-    const bool sameShape = rows_.size() == table.Rows().size();
+    const bool sameShape = table_.Rows().size() == table.Rows().size();
     if (!sameShape) beginResetModel();
-    rows_ = table.Rows();
-    numbered_ = table.RowCount();
+    table_ = table;
     if (!sameShape) return endResetModel();
     emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
@@ -18,32 +28,47 @@ void PortCallModel::SetTitles(const QStringList& titles) {
 }
 
 int PortCallModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+    return parent.isValid() ? 0 : static_cast<int>(table_.Rows().size());
 }
 
 int PortCallModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : PortCallColumnCount + 1;
 }
 
+QString PortCallModel::textOf(int row, int column) const {
+    return QString::fromStdString(table_.Cell(row, column)).trimmed();
+}
+
 QVariant PortCallModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rowCount()) return {};
-    const TableRow& row = rows_[index.row()];
+    const int row = index.row();
     const int column = index.column();
-    if (role == kLookRole) return static_cast<int>(row.look);
-    if (role == kImagesRole) return index.row() < numbered_ && !IsBlankCell(row.cells[ColPort]);
+    switch (role) {
+        case kLookRole:
+            return static_cast<int>(table_.Rows()[row].look);
+        case kImagesRole:
+            return table_.IsNumbered(row) && !table_.IsBlank(row);
+        case kTotalsRole:
+            return row == table_.RowCount();
+        case kUnknownRole:
+            return column == ColPort && table_.Rows()[row].unknownPort;
+        default:
+            break;
+    }
     if (column >= PortCallColumnCount) return {};
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
-        const QString text = QString::fromStdString(row.cells[column]);
-        return role == Qt::ToolTipRole && text == QLatin1String(" ") ? QVariant() : QVariant(text);
+    switch (role) {
+        case Qt::DisplayRole:
+            return textOf(row, column);
+        case Qt::ToolTipRole:
+            return index.data(kUnknownRole).toBool() ? unknownTip_ : textOf(row, column);
+        case Qt::AccessibleTextRole:
+            return headerData(column, Qt::Horizontal, Qt::ToolTipRole).toString() + u' ' +
+                   textOf(row, column);
+        case Qt::TextAlignmentRole:
+            return alignmentOf(column);
+        default:
+            return {};
     }
-    if (role == Qt::TextAlignmentRole) {
-        const bool left = column == ColPort || column == ColEta || column == ColEtd;
-        const bool centre = column == ColPurpose || column == ColOrder;
-        return static_cast<int>(Qt::AlignVCenter | (left     ? Qt::AlignLeft
-                                                    : centre ? Qt::AlignHCenter
-                                                             : Qt::AlignRight));
-    }
-    return {};
 }
 
 QVariant PortCallModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -16,10 +16,16 @@ class PortCallModel final : public QAbstractTableModel {
     static constexpr int kLookRole = Qt::UserRole;
     /// Role that tells whether a row has images.
     static constexpr int kImagesRole = Qt::UserRole + 1;
+    /// Role of the totals row.
+    static constexpr int kTotalsRole = Qt::UserRole + 2;
+    /// Role of a cell whose port nobody knows.
+    static constexpr int kUnknownRole = Qt::UserRole + 3;
 
     using QAbstractTableModel::QAbstractTableModel;
     void Show(const PortCallTable& table);
     void SetTitles(const QStringList& titles);
+    void SetUnknownPortTip(const QString& tip) { unknownTip_ = tip; }
+    RowActions ActionsOf(int row) const { return table_.ActionsOf(row); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -27,8 +33,10 @@ class PortCallModel final : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
-    std::vector<TableRow> rows_;
-    int numbered_ = 0;
+    QString textOf(int row, int column) const;
+
+    PortCallTable table_;
+    QString unknownTip_;
     QStringList titles_;
 };
 

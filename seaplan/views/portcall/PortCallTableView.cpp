@@ -36,6 +36,8 @@ PortCallTableView::PortCallTableView(QWidget* parent) : QTableView(parent) {
     verticalHeader()->setDefaultSectionSize(kRowHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setFixedHeight(kHeaderHeight);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setMinimumSectionSize(20);
     QObject::connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
@@ -69,21 +71,45 @@ void PortCallTableView::mousePressEvent(QMouseEvent* event) {
         if (reports_.left) reports_.left();
         return;
     }
-    selectRow(index.row());
+    setCurrentIndex(index);
     if (index.column() != PortCallModel::kImageColumn) {
         if (reports_.cellClicked) reports_.cellClicked(index.row(), index.column());
         return;
     }
     const std::string image = PortCallDelegate::ImageAt(visualRect(index), event->pos());
-    if (!image.empty() && reports_.imageClicked) reports_.imageClicked(index.row(), image);
+    if (!image.empty()) pressImage(index.row(), image);
 }
 
 void PortCallTableView::keyPressEvent(QKeyEvent* event) {
     const QModelIndex index = currentIndex();
-    const bool open =
-        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2;
-    if (!open || !index.isValid()) return QTableView::keyPressEvent(event);
-    if (reports_.cellClicked) reports_.cellClicked(index.row(), index.column());
+    if (!index.isValid()) return QTableView::keyPressEvent(event);
+    const bool moves = event->modifiers().testFlag(Qt::AltModifier);
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_F2:
+            if (reports_.cellClicked) reports_.cellClicked(index.row(), index.column());
+            return;
+        case Qt::Key_Delete:
+            return pressImage(index.row(), "itemdel");
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+            if (moves) {
+                return pressImage(index.row(), event->key() == Qt::Key_Up ? "itemMoveUp" : "itemMovedown");
+            }
+            break;
+        case Qt::Key_Escape:
+            // Closes what is open over the cells.
+            if (reports_.left) reports_.left();
+            return;
+        default:
+            break;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void PortCallTableView::pressImage(int row, const std::string& image) {
+    if (reports_.imageClicked) reports_.imageClicked(row, image);
 }
 
 bool PortCallTableView::viewportEvent(QEvent* event) {

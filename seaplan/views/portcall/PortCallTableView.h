@@ -29,6 +29,8 @@ class PortCallTableView final : public QTableView {
     bool viewportEvent(QEvent* event) override;
 
   private:
+    void pressImage(int row, const std::string& image);
+
     Reports reports_;
 };
 

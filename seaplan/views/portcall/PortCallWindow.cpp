@@ -7,6 +7,7 @@
 #include "seaplan/views/skin/Icons.h"
 #include "seaplan/views/skin/Palette.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
@@ -46,6 +47,8 @@ PortCallWindow::PortCallWindow(QWidget* mainView, QWidget* tree)
     makePopups();
     ApplyTexts();
     adjustSize();
+    // A press anywhere outside the table ends the editing.
+    qApp->installEventFilter(this);
 }
 
 PortCallWindow::~PortCallWindow() = default;
@@ -61,6 +64,8 @@ PortCallWindow::Figure PortCallWindow::makeFigure(const char* name, UnitKind kin
     figure.unit = new QToolButton(this);
     figure.unit->setObjectName(QString::fromLatin1(name) + QStringLiteral("Unit"));
     figure.unit->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    // The arrow stands behind the unit.
+    figure.unit->setLayoutDirection(Qt::RightToLeft);
     figure.unit->setFocusPolicy(Qt::TabFocus);
     keepIcon(figure.unit, "chevron-down");
     QObject::connect(figure.unit, &QToolButton::clicked, this,
@@ -81,6 +86,10 @@ void PortCallWindow::makeSummary() {
         row->addSpacing(5 * kGrid);
     }
     row->addStretch(1);
+    zone_ = new QLabel(this);
+    zone_->setObjectName(QStringLiteral("zoneLabel"));
+    zone_->setProperty("secondary", true);
+    row->addWidget(zone_);
     Body()->addLayout(row);
 }
 
@@ -111,6 +120,10 @@ void PortCallWindow::makeButtons() {
     row->addStretch(1);
     row->addWidget(book_);
     row->addWidget(calculate_);
+    save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    calculate_->setShortcut(QKeySequence(Qt::Key_F9));
+    close_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
+    help_->setShortcut(QKeySequence(Qt::Key_F1));
     Body()->addLayout(row);
 }
 
@@ -151,7 +164,7 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
     QObject::connect(editors_[0], &QLineEdit::textEdited, this,
                      [panel](const QString& typed) { panel->OnPortTyped(typed.toStdString()); });
     QObject::connect(matches_, &QListWidget::itemClicked, this,
-                     [panel](QListWidgetItem* item) { panel->OnMatchChosen(item->text().toStdString()); });
+                     [this](const QListWidgetItem* item) { takeMatch(item); });
     QObject::connect(purposes_, &QListWidget::itemClicked, this,
                      [this, panel](QListWidgetItem* item) { panel->OnPurposeChosen(purposes_->row(item)); });
     calendar_->SetChosen(
@@ -167,8 +180,8 @@ void PortCallWindow::ShowTable(const PortCallTable& table) {
 
 void PortCallWindow::setButton(QAbstractButton* button, bool on, TextId tip, TextId whyNot) {
     button->setEnabled(on);
-    button->setAccessibleName(text(tip));
-    button->setToolTip(on ? text(tip) : text(tip) + QStringLiteral(": ") + text(whyNot));
+    Describe(button, text(tip));
+    if (!on) button->setToolTip(text(tip) + QStringLiteral(": ") + text(whyNot));
 }
 
 void PortCallWindow::ShowState(const PortCallState& state) {
@@ -188,6 +201,9 @@ void PortCallWindow::ShowState(const PortCallState& state) {
     speed_.unit->setText(QString::fromStdString(state.speedUnit));
     distance_.unit->setText(QString::fromStdString(state.distanceUnit));
     time_.unit->setText(QString::fromStdString(state.timeUnit));
+    zone_->setText(state.zone.empty()
+                       ? QString()
+                       : text(TextId::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(state.zone));
     applyTitles();
 }
 
@@ -224,23 +240,38 @@ void PortCallWindow::ApplyTexts() {
     Describe(editors_[2], text(TextId::IDS_VIEW_WEATHEREDITOR));
     Describe(purposes_, text(TextId::IDS_VIEW_PURPOSES));
     Describe(matches_, text(TextId::IDS_VIEW_RENAMEHINT));
+    model_->SetUnknownPortTip(text(TextId::IDS_VIEW_UNKNOWNPORT));
     calendar_->ApplyTexts();
-    applyTitles();
+    ShowState(state_);
 }
 
 void PortCallWindow::openUnitMenu(QToolButton* button, UnitKind kind) {
     constexpr const char* kUnits[][2] = {{"kts", "KPH"}, {"NM", "KM"}, {"day", "hour"}};
     panel_->OnTableLeft();
-    QMenu menu(this);
-    menu.setObjectName(QStringLiteral("unitMenu"));
-    for (const char* unit : kUnits[static_cast<int>(kind)]) menu.addAction(QString::fromLatin1(unit));
-    const QAction* chosen = menu.exec(button->mapToGlobal(QPoint(0, button->height())));
-    if (chosen != nullptr) panel_->ChangeUnit(kind, chosen->text().toStdString());
+    auto* menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("unitMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const char* unit : kUnits[static_cast<int>(kind)]) {
+        menu->addAction(QString::fromLatin1(unit), this,
+                        [this, kind, unit] { panel_->ChangeUnit(kind, unit); });
+    }
+    menu->popup(button->mapToGlobal(QPoint(0, button->height())));
 }
 
 void PortCallWindow::Show() {
     show();
     raise();
+    if (focusWidget() != nullptr && focusWidget()->isVisible()) return;
+    if (!table_->currentIndex().isValid()) table_->setCurrentIndex(model_->index(0, ColPort));
+    table_->setFocus();
+}
+
+void PortCallWindow::SetBusy(bool busy) {
+    if (busy) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
 }
 
 void PortCallWindow::Hide() {
@@ -254,7 +285,7 @@ void PortCallWindow::PlaceBesideTree() {
 }
 
 void PortCallWindow::SelectRow(int row) {
-    table_->selectRow(row);
+    table_->setCurrentIndex(model_->index(row, ColPort));
 }
 
 void PortCallWindow::BringRowIntoView(int row) {

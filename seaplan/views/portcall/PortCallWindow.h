@@ -8,10 +8,13 @@
 #include "seaplan/views/portcall/PortCallTableView.h"
 #include "seaplan/views/skin/ToolWindow.h"
 
+#include <QPointer>
+
 #include <array>
 
 class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 class QPushButton;
 
 namespace Tarvik::Seaplan {
@@ -34,14 +37,19 @@ class PortCallWindow final : public ToolWindow, public PortCallView {
     bool IsVisible() const override { return isVisible(); }
     void PlaceBesideTree() override;
     void SetEnabled(bool enabled) override { setEnabled(enabled); }
+    void SetBusy(bool busy) override;
     void SelectRow(int row) override;
     void BringRowIntoView(int row) override;
     void OpenEditor(CellEditor editor, int row, const std::string& text, bool selectAll) override;
     void HideEditor(CellEditor editor) override;
     bool EditorVisible(CellEditor editor) const override { return open_[static_cast<int>(editor)]; }
     std::string EditorText(CellEditor editor) const override;
+    void SetEditorText(CellEditor editor, const std::string& text) override;
+    void* EditorHandle(CellEditor editor) const override;
     void ShowMatches(const std::vector<std::string>& names) override;
     void HideMatches() override;
+    void ShowMatchWindow(void* window) override;
+    void HideMatchWindow(void* window) override;
     void OpenPurposes(int row) override;
     void HidePurposes() override;
     void OpenPicker(int row, int column, const Util::_datetime_t& time) override;
@@ -52,6 +60,8 @@ class PortCallWindow final : public ToolWindow, public PortCallView {
 
   protected:
     void SurfacePressed() override;
+    /// Takes what a match window tells.
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
@@ -68,7 +78,10 @@ class PortCallWindow final : public ToolWindow, public PortCallView {
     void openUnitMenu(QToolButton* button, UnitKind kind);
     void applyTitles();
     bool editorKey(int editor, int key);
+    bool purposeKey(int key);
     void moveMatch(int by);
+    void takeMatch(const QListWidgetItem* item);
+    bool pressedOutside(const QObject* watched) const;
     void setButton(QAbstractButton* button, bool on, TextId tip, TextId whyNot);
 
     CPortCallPanelDlg* panel_ = nullptr;
@@ -84,10 +97,12 @@ class PortCallWindow final : public ToolWindow, public PortCallView {
     Figure speed_;
     Figure distance_;
     Figure time_;
+    QLabel* zone_ = nullptr;
     std::array<QLineEdit*, 3> editors_{};
     std::array<bool, 3> open_{};
     QListWidget* matches_ = nullptr;
     QListWidget* purposes_ = nullptr;
+    QPointer<QWidget> matchWindow_;  ///< a search plug-in's, while it is shown
     CalendarPopup* calendar_ = nullptr;
     PortCallState state_;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/PurposeList.h"
+#include "seaplan/views/portcall/MatchEvents.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
 
 #include <QFocusEvent>
@@ -29,7 +30,7 @@ void PortCallWindow::OpenEditor(CellEditor editor, int row, const std::string& t
     const int i = static_cast<int>(editor);
     QLineEdit* edit = editors_[i];
     BringRowIntoView(row);
-    table_->selectRow(row);
+    table_->setCurrentIndex(model_->index(row, kColumns[i]));
     edit->setGeometry(table_->EditorRect(row, kColumns[i]));
     edit->setText(QString::fromStdString(text));
     open_[i] = true;
@@ -73,6 +74,32 @@ void PortCallWindow::HideMatches() {
     matches_->hide();
 }
 
+void PortCallWindow::SetEditorText(CellEditor editor, const std::string& text) {
+    QLineEdit* edit = editors_[IndexOf(editor)];
+    edit->setText(QString::fromStdString(text));
+    edit->end(false);
+}
+
+void* PortCallWindow::EditorHandle(CellEditor editor) const {
+    return editors_[IndexOf(editor)];
+}
+
+void PortCallWindow::ShowMatchWindow(void* window) {
+    constexpr int kBelowCellTop = 20;
+    auto* shown = static_cast<QWidget*>(window);
+    QLineEdit* edit = editors_[IndexOf(CellEditor::Port)];
+    const QPoint place(0, kBelowCellTop);
+    shown->move(shown->isWindow() ? edit->mapToGlobal(place) : edit->mapTo(shown->parentWidget(), place));
+    shown->show();
+    matchWindow_ = shown;
+    edit->end(false);
+}
+
+void PortCallWindow::HideMatchWindow(void* window) {
+    static_cast<QWidget*>(window)->hide();
+    matchWindow_ = nullptr;
+}
+
 void PortCallWindow::OpenPurposes(int row) {
     if (purposes_->count() == 0) {
         for (const Purpose& purpose : kPurposes) purposes_->addItem(QString::fromLatin1(purpose.text));
@@ -110,8 +137,12 @@ void PortCallWindow::HidePicker() {
 void PortCallWindow::moveMatch(int by) {
     const int row = std::clamp(matches_->currentRow() + by, 0, matches_->count() - 1);
     matches_->setCurrentRow(row);
-    // Setting the text by the program asks for no new matches, as only typing reports.
-    editors_[0]->setText(matches_->item(row)->text());
+    panel_->OnMatchMoved(matches_->item(row)->text().toStdString(), false);
+}
+
+void PortCallWindow::takeMatch(const QListWidgetItem* item) {
+    panel_->OnMatchMoved(item->text().toStdString(), false);
+    panel_->OnMatchChosen();
 }
 
 bool PortCallWindow::editorKey(int editor, int key) {
@@ -130,25 +161,59 @@ bool PortCallWindow::editorKey(int editor, int key) {
             moveMatch(key == Qt::Key_Down ? 1 : -1);
             return true;
         case Qt::Key_Escape:
-            HideMatches();
+            panel_->OnEditorKey(kind, EditorKey::Escape);
             return true;
+        case Qt::Key_Backspace:
+            if (kind == CellEditor::Port) panel_->OnPortBackspace();
+            return false;
         default:
             return false;
     }
 }
 
+bool PortCallWindow::purposeKey(int key) {
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        panel_->OnPurposeChosen(purposes_->currentRow());
+        return true;
+    }
+    if (key != Qt::Key_Escape) return false;
+    HidePurposes();
+    return true;
+}
+
+bool PortCallWindow::pressedOutside(const QObject* watched) const {
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    if (widget == nullptr) return false;
+    const auto within = [widget](const QWidget* parent) {
+        return widget == parent || parent->isAncestorOf(widget);
+    };
+    return !within(table_) && !within(matches_) && !within(purposes_) && !within(calendar_) &&
+           !(matchWindow_ && within(matchWindow_));
+}
+
+bool PortCallWindow::event(QEvent* event) {
+    if (panel_ != nullptr && event->type() == MatchMovedEvent::kType) {
+        panel_->OnMatchMoved(static_cast<MatchMovedEvent*>(event)->name.toStdString(),
+                             editors_[IndexOf(CellEditor::Port)]->hasFocus());
+        return true;
+    }
+    if (panel_ != nullptr && event->type() == MatchChosenEvent::kType) {
+        panel_->OnMatchChosen();
+        return true;
+    }
+    return ToolWindow::event(event);
+}
+
 bool PortCallWindow::eventFilter(QObject* watched, QEvent* event) {
     if (panel_ == nullptr) return ToolWindow::eventFilter(watched, event);
-    if (watched == purposes_ && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            panel_->OnPurposeChosen(purposes_->currentRow());
-            return true;
-        }
-        if (key == Qt::Key_Escape) {
-            HidePurposes();
-            return true;
-        }
+    const bool editing = open_[0] || open_[1] || open_[2] || purposes_->isVisible();
+    if (editing && event->type() == QEvent::MouseButtonPress && pressedOutside(watched)) {
+        panel_->OnTableLeft();
+        return false;
+    }
+    if (watched == purposes_ && event->type() == QEvent::KeyPress &&
+        purposeKey(static_cast<QKeyEvent*>(event)->key())) {
+        return true;
     }
     for (int i = 0; i < static_cast<int>(editors_.size()); ++i) {
         if (watched != editors_[i]) continue;

@@ -20,7 +20,7 @@ SkinPalette light() {
     p.disabled = "#9AA7B1";
     p.accent = "#1F6FB2";
     p.accentText = "#FFFFFF";
-    p.selection = "#DCE8F2";
+    p.selection = "#E9F1F9";
     p.history = "#E6EAED";
     p.highlight = "#FFF1D6";
     p.plan = "#7A8794";
@@ -44,7 +44,7 @@ SkinPalette dark() {
     p.disabled = "#5F717E";
     p.accent = "#4BA3E3";
     p.accentText = "#0E1A25";
-    p.selection = "#263A4A";
+    p.selection = "#203240";
     p.history = "#17202A";
     p.highlight = "#3D3420";
     p.plan = "#8FA0AE";
@@ -65,24 +65,25 @@ SkinPalette night() {
     p.list = "#1A0404";
     p.border = "#4A1210";
     p.text = "#E05A50";
-    p.secondary = "#C04A42";
+    p.secondary = "#D2574E";
     p.disabled = "#6E2A26";
     p.accent = "#E05A50";
     p.accentText = "#0A0000";
-    p.selection = "#2E0808";
+    p.selection = "#220505";
     p.history = "#140303";
     p.highlight = "#3A1208";
-    p.plan = "#A8443E";
+    p.plan = "#B8504A";
     p.underway = "#F07060";
-    p.finished = "#C85048";
+    p.finished = "#D65C53";
     p.warning = "#F08A50";
     p.error = "#FF7A6A";
     return p;
 }
 
 const char* const kSheet = R"(
-#toolWindow { background: @window; border: 1px solid @border; }
-#captionBar { background: @caption; }
+QFrame[panel="true"] { background: @border; }
+#toolWindow { background: @window; border: 1px solid @border; border-radius: 6px; }
+#captionBar { background: @caption; border-top-left-radius: 5px; border-top-right-radius: 5px; }
 #captionBar QLabel { color: @captionText; font-size: 13px; font-weight: bold; background: transparent; }
 #changedMark { color: @captionText; }
 QLabel { color: @text; font-size: 13px; }
@@ -111,12 +112,14 @@ QLineEdit { background: @panel; color: @text; border: 1px solid @accent; font-si
 #popup { background: @panel; border: 1px solid @border; }
 QListWidget { background: @list; color: @text; border: 1px solid @border; font-size: 12px; outline: 0; }
 QListWidget::item { height: 23px; padding: 0 4px; }
+QListWidget[dense="true"]::item { height: 18px; }
 QListWidget::item:selected, QListWidget::item:hover { background: @accent; color: @accentText; }
 QCheckBox, QRadioButton { color: @text; font-size: 13px; }
 QCheckBox:focus, QRadioButton:focus { color: @accent; }
 QToolButton[day="true"] { min-width: 26px; min-height: 22px; }
+#hourShown, #minuteShown { border: 1px solid @border; padding: 2px 6px; }
 QToolButton[look="outside"] { color: @disabled; }
-QToolButton[look="today"] { color: @warning; font-weight: bold; }
+QToolButton[look="today"] { color: @accent; font-weight: bold; }
 QToolButton[day="true"]:checked { background: @accent; color: @accentText; }
 QMenu { background: @panel; color: @text; border: 1px solid @border; font-size: 13px; }
 QMenu::item { padding: 4px 20px; }
@@ -131,6 +134,11 @@ QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 
 Theme CurrentTheme() {
     return theme;
+}
+
+Theme ThemeNamed(const QString& name) {
+    if (name == QLatin1String("dark")) return Theme::Dark;
+    return name == QLatin1String("night") ? Theme::Night : Theme::Light;
 }
 
 void SetTheme(Theme chosen) {
@@ -157,8 +165,7 @@ QString SkinStyleSheet() {
                                                     {"@text", p.text},
                                                     {"@secondary", p.secondary},
                                                     {"@disabled", p.disabled},
-                                                    {"@selection", p.selection},
-                                                    {"@warning", p.warning}};
+                                                    {"@selection", p.selection}};
     for (const auto& [name, colour] : names) sheet.replace(QLatin1String(name), colour.name());
     return sheet;
 }

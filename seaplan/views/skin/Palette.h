@@ -37,6 +37,8 @@ const SkinPalette& Skin();
 /// Puts a theme in force for windows made or restyled afterwards.
 void SetTheme(Theme theme);
 Theme CurrentTheme();
+/// "light", "dark" or "night"; any other name is the light theme.
+Theme ThemeNamed(const QString& name);
 /// The one style sheet, in the colours in force.
 QString SkinStyleSheet();
 
@@ -45,6 +47,7 @@ inline constexpr int kGrid = 4;
 inline constexpr int kCaptionHeight = 30;
 inline constexpr int kControlHeight = 26;
 inline constexpr int kIconSize = 16;
+inline constexpr int kCornerRadius = 6;
 inline constexpr int kTextPixels = 13;
 inline constexpr int kTablePixels = 12;
 

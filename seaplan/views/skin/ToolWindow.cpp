@@ -6,18 +6,23 @@
 
 #include <QHBoxLayout>
 #include <QMouseEvent>
+#include <QPainterPath>
 #include <QVBoxLayout>
 
 namespace Tarvik::Seaplan {
 
 void Describe(QWidget* widget, const QString& text) {
     widget->setAccessibleName(text);
-    widget->setToolTip(text);
+    const auto* button = qobject_cast<const QAbstractButton*>(widget);
+    const QString keys =
+        button == nullptr ? QString() : button->shortcut().toString(QKeySequence::NativeText);
+    widget->setToolTip(keys.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, keys));
 }
 
 ToolWindow::ToolWindow(QWidget* parent, const QString& name)
     : QFrame(parent, Qt::Tool | Qt::FramelessWindowHint) {
     setObjectName(name);
+    setProperty("panel", true);
     // The look goes by one name for all panels, the object name stays each panel's own.
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
@@ -25,7 +30,7 @@ ToolWindow::ToolWindow(QWidget* parent, const QString& name)
     frame->setObjectName(QStringLiteral("toolWindow"));
     outer->addWidget(frame);
     auto* rows = new QVBoxLayout(frame);
-    rows->setContentsMargins(1, 1, 1, 1);
+    rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     auto* bar = new QFrame(frame);
     bar->setObjectName(QStringLiteral("captionBar"));
@@ -77,6 +82,13 @@ void ToolWindow::keepIcon(QAbstractButton* button, const std::string& icon) {
 void ToolWindow::ApplySkin() {
     setStyleSheet(SkinStyleSheet());
     for (const auto& [button, icon] : icons_) button->setIcon(MakeIcon(icon));
+}
+
+void ToolWindow::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    QPainterPath outline;
+    outline.addRoundedRect(rect(), kCornerRadius, kCornerRadius);
+    setMask(QRegion(outline.toFillPolygon().toPolygon()));
 }
 
 void ToolWindow::mousePressEvent(QMouseEvent* event) {

@@ -32,6 +32,7 @@ class ToolWindow : public QFrame {
   protected:
     /// A press on the free surface, before the window begins to move.
     virtual void SurfacePressed() {}
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -48,7 +49,7 @@ class ToolWindow : public QFrame {
     std::vector<std::pair<QAbstractButton*, std::string>> icons_;
 };
 
-/// Object name, accessible name and tool tip in one.
+/// Accessible name and tool tip in one; a button's tip tells its key too.
 void Describe(QWidget* widget, const QString& text);
 
 }  // namespace Tarvik::Seaplan

@@ -11,6 +11,7 @@ namespace {
 
 QColor iconColour(const SubItem& part) {
     const SkinPalette& skin = Skin();
+    if (!part.enabled) return skin.disabled;
     if (part.icon == "plan") return skin.plan;
     if (part.icon == "underway") return skin.underway;
     if (part.icon == "finish") return skin.finished;
@@ -19,26 +20,43 @@ QColor iconColour(const SubItem& part) {
     return part.clickable ? skin.text : skin.secondary;
 }
 
-void paintPart(QPainter& painter, const SubItem& part, const QFont& base, bool deleted) {
+QColor textColour(const SubItem& part, bool deleted) {
     const SkinPalette& skin = Skin();
+    if (!part.enabled || deleted) return skin.secondary;
+    switch (part.kind) {
+        case SubItemKind::Link:
+            return skin.accent;
+        case SubItemKind::Count:
+        case SubItemKind::Text:
+            return skin.secondary;
+        default:
+            return skin.text;
+    }
+}
+
+void paintPart(QPainter& painter, const SubItem& part, const QFont& base, bool deleted) {
     if (part.kind == SubItemKind::Icon) {
         QRect place(0, 0, kIconSize, kIconSize);
         place.moveCenter(part.rect.center());
         return PaintIcon(painter, place, part.icon, iconColour(part));
     }
-    QFont font = base;
-    QColor colour = part.kind == SubItemKind::Link ? skin.accent : skin.text;
-    if (part.kind == SubItemKind::Count || part.kind == SubItemKind::Text) colour = skin.secondary;
-    if (deleted) colour = skin.secondary;
-    if (deleted && part.kind == SubItemKind::Name) font.setStrikeOut(true);
-    if (part.kind == SubItemKind::Link) font.setUnderline(true);
+    QFont font = PartFont(base, part.kind);
+    font.setStrikeOut(deleted && part.kind == SubItemKind::Name);
+    font.setUnderline(part.kind == SubItemKind::Link && part.enabled);
     painter.setFont(font);
-    painter.setPen(colour);
+    painter.setPen(textColour(part, deleted));
     const QString text = QFontMetrics(font).elidedText(part.text, Qt::ElideRight, part.rect.width());
     painter.drawText(part.rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
 }
 
 }  // namespace
+
+QFont PartFont(const QFont& base, SubItemKind kind) {
+    QFont font = base;
+    font.setPixelSize(kind == SubItemKind::Text ? kTablePixels : kTextPixels);
+    if (kind == SubItemKind::Count) font.setBold(false);
+    return font;
+}
 
 RowDelegate::RowDelegate(VoyageTreeView* view) : QStyledItemDelegate(view), view_(view) {}
 
@@ -55,15 +73,21 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->fillRect(line, selected ? skin.selection : category ? skin.window : skin.panel);
     if (selected) painter->fillRect(QRect(line.left(), line.top(), 3, line.height()), skin.accent);
     QFont font = option.font;
-    font.setPixelSize(kTextPixels);
     font.setBold(category);
     const bool deleted = state->style == kDeletedCategoryStyle || state->style == kDeletedVoyageStyle;
     for (const SubItem& part : view_->PartsOf(row)) {
+        // A box for typing stands in the place of the old text.
+        const bool replaced = part.kind == SubItemKind::Name || part.kind == SubItemKind::Link;
+        if (replaced && view_->IsCovered(part.rect)) continue;
         paintPart(*painter, part, font, deleted);
         if (selected && view_->hasFocus() && !part.name.empty() && part.name == view_->FocusedPart()) {
             painter->setPen(skin.accent);
             painter->drawRect(part.rect.adjusted(0, 0, -1, -1));
         }
+    }
+    if (!selected && view_->hasFocus() && view_->currentIndex() == index) {
+        painter->setPen(skin.accent);
+        painter->drawRect(line.adjusted(0, 0, -1, -1));
     }
     painter->restore();
 }

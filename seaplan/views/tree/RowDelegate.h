@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "seaplan/views/tree/RowLayout.h"
+
+#include <QFont>
 #include <QStyledItemDelegate>
 
 namespace Tarvik::Seaplan {
 
 class VoyageTreeView;
+
+/// Font of a part in a row with this font.
+QFont PartFont(const QFont& base, SubItemKind kind);
 
 /// Draws the parts of a row in the colours in force.
 class RowDelegate final : public QStyledItemDelegate {

@@ -42,8 +42,8 @@ QString qt(const std::string& text) {
 /// Collects the parts of one row.
 class Builder {
   public:
-    Builder(const TreeRowState& row, const QRect& rect, const TextWidth& width)
-        : row_(row), rect_(rect), width_(width) {}
+    Builder(const TreeRowState& row, const QRect& rect, const TextWidth& width, const ItemCommand& hasCommand)
+        : row_(row), rect_(rect), width_(width), hasCommand_(hasCommand) {}
 
     const TreeItem* visible(const char* name) const {
         const auto it = row_.items.find(name);
@@ -53,7 +53,8 @@ class Builder {
     void icon(const char* name, const char* iconName, const QRect& place) {
         const TreeItem* item = visible(name);
         if (item == nullptr) return;
-        parts_.push_back({name, SubItemKind::Icon, place, {}, iconName, qt(item->toolTip), true});
+        parts_.push_back(
+            {name, SubItemKind::Icon, place, {}, iconName, qt(item->toolTip), true, hasCommand_(name)});
     }
 
     template <std::size_t N>
@@ -68,9 +69,10 @@ class Builder {
     /// Text of its own width, cut at `right`; gives the right end.
     int text(const std::string& name, SubItemKind kind, const QString& text, int left, int top, int height,
              int right, const QString& toolTip = {}) {
-        const int wide = std::max(0, std::min(width_(text), right - left));
+        const int wide = std::max(0, std::min(width_(text, kind), right - left));
+        const bool link = kind == SubItemKind::Link;
         parts_.push_back(
-            {name, kind, {left, top, wide, height}, text, {}, toolTip, kind == SubItemKind::Link});
+            {name, kind, {left, top, wide, height}, text, {}, toolTip, link, !link || hasCommand_(name)});
         return left + wide;
     }
 
@@ -81,7 +83,7 @@ class Builder {
         return it == found->values.end() ? QString() : qt(it->second);
     }
 
-    int textWidth(const QString& text) const { return width_(text); }
+    int textWidth(const QString& text, SubItemKind kind) const { return width_(text, kind); }
     const QRect& rect() const { return rect_; }
     const TreeRowState& row() const { return row_; }
     void add(SubItem part) { parts_.push_back(std::move(part)); }
@@ -91,6 +93,7 @@ class Builder {
     const TreeRowState& row_;
     QRect rect_;
     const TextWidth& width_;
+    const ItemCommand& hasCommand_;
     std::vector<SubItem> parts_;
 };
 
@@ -106,7 +109,7 @@ void layoutCategory(Builder& b, bool selected) {
            false});
     const TreeItem* count = b.visible("cat.statistic");
     const QString counted = count == nullptr ? QString() : qt(count->text);
-    const int right = r.right() - kMargin - b.textWidth(counted);
+    const int right = r.right() - kMargin - b.textWidth(counted, SubItemKind::Count);
     const int end = b.text("name", SubItemKind::Name, qt(b.row().text), r.left() + 24, r.top(), kLine, right,
                            qt(b.row().text));
     b.text("cat.statistic", SubItemKind::Count, counted, end, r.top(), kLine, r.right() - kMargin);
@@ -136,7 +139,7 @@ void layoutVoyageHead(Builder& b, bool selected) {
                {},
                statusIcon(image),
                qt(item->toolTip),
-               true});
+               false});
     }
     const int nameRight = selected ? right - kButton - kGap : right;
     const int end = b.text("name", SubItemKind::Name, qt(b.row().text), pin.right() + kGap, r.top(), kLine,
@@ -149,7 +152,7 @@ void layoutVoyageDates(Builder& b, int left, int right) {
     const int top = b.rect().top() + 32;
     if (b.visible("Voyage_Date") != nullptr) {
         const QString text = b.value("Voyage_Date", "Sailing") + u' ' + b.value("Voyage_Date", "Saildate") +
-                             QStringLiteral("   ") + b.value("Voyage_Date", "Ending") + u' ' +
+                             QStringLiteral("  ") + b.value("Voyage_Date", "Ending") + u' ' +
                              b.value("Voyage_Date", "Enddate");
         b.text("Voyage_Date", SubItemKind::Text, text, left, top, kLine, right);
     } else if (b.visible("Voyage_setPortCall") != nullptr) {
@@ -187,8 +190,8 @@ int RowHeight(const TreeRowState& row, bool selected) {
 }
 
 std::vector<SubItem> LayoutRow(const TreeRowState& row, const QRect& rect, bool selected,
-                               const TextWidth& width) {
-    Builder b(row, rect, width);
+                               const TextWidth& width, const ItemCommand& hasCommand) {
+    Builder b(row, rect, width, hasCommand);
     if (row.style == kCategoryStyle) {
         layoutCategory(b, selected);
     } else if (row.style == kVoyageStyle) {

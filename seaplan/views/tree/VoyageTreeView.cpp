@@ -8,6 +8,7 @@
 #include "seaplan/views/tree/RowDelegate.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QFocusEvent>
 #include <QFontMetrics>
@@ -19,7 +20,17 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Tarvik::Seaplan {
+
+namespace {
+
+QString text(TextId id) {
+    return QString::fromStdString(Text(id));
+}
+
+}  // namespace
 
 VoyageTreeView::VoyageTreeView(QWidget* parent)
     : QTreeView(parent),
@@ -45,6 +56,13 @@ VoyageTreeView::VoyageTreeView(QWidget* parent)
 
 VoyageTreeView::~VoyageTreeView() = default;
 
+void VoyageTreeView::ApplyTexts() {
+    setAccessibleName(text(TextId::IDS_VIEW_TREE));
+    Describe(rename_, text(TextId::IDS_VIEW_RENAMEEDITOR));
+    emptyHint_ = text(TextId::IDS_VIEW_EMPTYTREE);
+    viewport()->update();
+}
+
 TreeRows& VoyageTreeView::Rows() {
     return *rows_;
 }
@@ -62,18 +80,31 @@ std::vector<SubItem> VoyageTreeView::PartsOf(TreeRow row) const {
     const TreeRowState* state = rows_->Row(row);
     if (state == nullptr) return {};
     const Rect place = rows_->GetItemRect(row);
-    QFont plain = font();
-    plain.setPixelSize(kTextPixels);
-    plain.setBold(state->parent == kNoRow);
-    const QFontMetrics metrics(plain);
     const QRect rect(place.left, place.top, place.right - place.left, place.bottom - place.top);
-    return LayoutRow(*state, rect, rows_->Selected() == row,
-                     [&](const QString& text) { return metrics.horizontalAdvance(text) + 2; });
+    return layout(*state, rect, rows_->Selected() == row);
+}
+
+std::vector<SubItem> VoyageTreeView::layout(const TreeRowState& state, const QRect& rect,
+                                            bool selected) const {
+    QFont plain = font();
+    plain.setBold(state.parent == kNoRow);
+    const auto width = [&](const QString& text, SubItemKind kind) {
+        return QFontMetrics(PartFont(plain, kind)).horizontalAdvance(text) + 2;
+    };
+    return LayoutRow(state, rect, selected, width,
+                     [this](const std::string& item) { return hasCommand(item); });
+}
+
+bool VoyageTreeView::IsCovered(const QRect& part) const {
+    const auto boxes = viewport()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly);
+    return std::any_of(boxes.begin(), boxes.end(), [&](const QLineEdit* box) {
+        return box->isVisible() && box->geometry().intersects(part);
+    });
 }
 
 std::vector<SubItem> VoyageTreeView::clickableOf(TreeRow row) const {
     std::vector<SubItem> parts = PartsOf(row);
-    std::erase_if(parts, [](const SubItem& part) { return !part.clickable; });
+    std::erase_if(parts, [](const SubItem& part) { return !part.clickable || !part.enabled; });
     return parts;
 }
 
@@ -93,6 +124,7 @@ void VoyageTreeView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     setFocus(Qt::MouseFocusReason);
     pressedRow_ = rowAt(event->pos());
+    pressedPoint_ = event->pos();
     const auto parts = PartsOf(pressedRow_);
     const SubItem* part = SubItemAt(parts, event->pos());
     pressedItem_ = part == nullptr ? std::string() : part->name;
@@ -103,49 +135,11 @@ void VoyageTreeView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || pressedItem_.empty()) return;
     const TreeRow row = pressedRow_;
     const std::string item = std::exchange(pressedItem_, {});
-    if (rows_->Row(row) != nullptr && rowAt(event->pos()) == row && reports_.clicked)
+    // The press may have changed heights, so that another row lies under a pointer that has not moved.
+    const bool still = (event->pos() - pressedPoint_).manhattanLength() < QApplication::startDragDistance();
+    if (rows_->Row(row) != nullptr && (still || rowAt(event->pos()) == row) && hasCommand(item) &&
+        reports_.clicked) {
         reports_.clicked(row, item);
-}
-
-void VoyageTreeView::stepRow(int by) {
-    QModelIndex index;
-    if (QStandardItem* item = rows_->ItemOf(rows_->Selected())) index = item->index();
-    if (!index.isValid() && currentIndex().isValid()) index = currentIndex();
-    const QModelIndex next = !index.isValid() ? model_->index(0, 0)
-                             : by > 0         ? indexBelow(index)
-                                              : indexAbove(index);
-    if (!next.isValid()) return;
-    setCurrentIndex(next);
-    if (reports_.pressed) reports_.pressed(next.data(Qt::UserRole).toInt());
-}
-
-void VoyageTreeView::keyPressEvent(QKeyEvent* event) {
-    const TreeRow row = currentIndex().data(Qt::UserRole).toInt();
-    switch (event->key()) {
-        case Qt::Key_Down:
-            return stepRow(1);
-        case Qt::Key_Up:
-            return stepRow(-1);
-        case Qt::Key_Right:
-        case Qt::Key_Left:
-            if (rows_->GetParentItem(row) == kNoRow &&
-                rows_->IsItemExpanded(row) != (event->key() == Qt::Key_Right)) {
-                press(row, false);
-            }
-            return;
-        case Qt::Key_Space:
-        case Qt::Key_Return:
-        case Qt::Key_Enter: {
-            const std::string part = FocusedPart();
-            if (part.empty()) {
-                press(row, false);
-            } else if (reports_.clicked) {
-                reports_.clicked(rows_->Selected(), part);
-            }
-            return;
-        }
-        default:
-            event->ignore();
     }
 }
 
@@ -181,7 +175,8 @@ bool VoyageTreeView::viewportEvent(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     for (const SubItem& part : PartsOf(rowAt(help->pos()))) {
         if (!part.rect.contains(help->pos()) || part.toolTip.isEmpty()) continue;
-        QToolTip::showText(help->globalPos(), part.toolTip, viewport(), part.rect);
+        const QString why = part.enabled ? QString() : QStringLiteral(": ") + text(TextId::IDS_VIEW_NOTYET);
+        QToolTip::showText(help->globalPos(), part.toolTip + why, viewport(), part.rect);
         return true;
     }
     QToolTip::hideText();
@@ -212,11 +207,12 @@ void VoyageTreeView::showSortPanel(const std::string& ci, int sortKey) {
     sortPanel_->setObjectName(QStringLiteral("popup"));
     sortPanel_->setStyleSheet(SkinStyleSheet());
     auto* rows = new QVBoxLayout(sortPanel_);
-    rows->setContentsMargins(8, 6, 8, 6);
+    rows->setContentsMargins(8, 4, 8, 4);
+    rows->setSpacing(2);
     const std::pair<TextId, int> choices[] = {{TextId::IDS_VOY_SORTBYNAME, SortByName},
                                               {TextId::IDS_VOY_SORTBYDATE, SortByDate}};
     for (const auto& [id, key] : choices) {
-        auto* radio = new QRadioButton(QString::fromStdString(Text(id)), sortPanel_);
+        auto* radio = new QRadioButton(text(id), sortPanel_);
         radio->setObjectName(key == SortByName ? QStringLiteral("sortByName") : QStringLiteral("sortByDate"));
         Describe(radio, radio->text());
         radio->setChecked(key == sortKey);
@@ -224,7 +220,7 @@ void VoyageTreeView::showSortPanel(const std::string& ci, int sortKey) {
                          [this, ci, chosen = key] { reports_.sortChosen(ci, chosen); });
         rows->addWidget(radio);
     }
-    sortPanel_->resize(180, 60);
+    sortPanel_->setFixedSize(180, 60);
     sortPanel_->move(QCursor::pos());
     sortPanel_->show();
 }

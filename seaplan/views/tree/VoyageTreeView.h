@@ -8,6 +8,7 @@
 #include <QTreeView>
 
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <vector>
@@ -20,7 +21,7 @@ namespace Tarvik::Seaplan {
 class VoyageTreeWidget;
 
 /// Draws the voyage tree and reports presses and clicks. Tab walks the items of the selected row, Space and
-/// Enter press them.
+/// Enter press them; F2 renames, Insert adds a voyage, Delete moves to the recycle bin.
 class VoyageTreeView : public QTreeView {
   public:
     explicit VoyageTreeView(QWidget* parent);
@@ -32,21 +33,27 @@ class VoyageTreeView : public QTreeView {
         std::function<void(TreeRow, const std::string&)> clicked;
         std::function<void()> renameDone;
         std::function<void(const std::string&, int)> sortChosen;
+        std::function<void()> addCategory;
+        std::function<bool(const std::string&)> hasCommand;
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }
     TreeRows& Rows();
     TreeWidget& Widget();
     std::vector<SubItem> PartsOf(TreeRow row) const;
     void ApplySkin() { viewport()->update(); }
-    void SetEmptyHint(const QString& text) { emptyHint_ = text; }
+    /// Names and hints in the language in force; the rows' texts are the panel's.
+    void ApplyTexts();
     /// The item that has the keyboard in the selected row, empty when none has it.
     std::string FocusedPart() const;
+    /// Whether a box for typing stands over this part of the viewport.
+    bool IsCovered(const QRect& part) const;
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -59,6 +66,18 @@ class VoyageTreeView : public QTreeView {
     std::vector<SubItem> clickableOf(TreeRow row) const;
     void press(TreeRow row, bool onItem);
     void stepRow(int by);
+    /// Row that the keys work on: the selected one, else the current one.
+    TreeRow keyRow() const;
+    /// Clicks the first of the items that the row shows; false when it shows none.
+    bool hasCommand(const std::string& item) const {
+        return reports_.hasCommand && reports_.hasCommand(item);
+    }
+    bool clickItem(TreeRow row, std::initializer_list<const char*> items);
+    bool rowKey(int key);
+    bool foldKey(int key);
+    void pressKey();
+    void insertKey();
+    std::vector<SubItem> layout(const TreeRowState& state, const QRect& rect, bool selected) const;
     void relayout();
     void showSortPanel(const std::string& ci, int sortKey);
 
@@ -70,6 +89,7 @@ class VoyageTreeView : public QTreeView {
     QString emptyHint_;
     TreeRow pressedRow_ = kNoRow;
     std::string pressedItem_;
+    QPoint pressedPoint_;
     int focusPart_ = -1;
 };
 

@@ -3,6 +3,7 @@
 
 #include "seaplan/views/tree/VoyageTreeView.h"
 
+#include <QCursor>
 #include <QLineEdit>
 
 namespace Tarvik::Seaplan {
@@ -47,6 +48,12 @@ void VoyageTreeWidget::ShowSortPanel(const std::string& ci, int sortKey) {
 
 void VoyageTreeWidget::HidePopups() {
     if (view_.sortPanel_ != nullptr) view_.sortPanel_->hide();
+}
+
+void VoyageTreeWidget::ShowAtPointer(void* window) {
+    auto* shown = static_cast<QWidget*>(window);
+    shown->move(QCursor::pos() - QPoint(18, 5));
+    shown->show();
 }
 
 void VoyageTreeWidget::SetEnabled(bool enabled) {

@@ -23,6 +23,7 @@ class VoyageTreeWidget final : public TreeRows {
     std::string RenameEditorText() const override;
     void ShowSortPanel(const std::string& ci, int sortKey) override;
     void HidePopups() override;
+    void ShowAtPointer(void* window) override;
     void SetEnabled(bool enabled) override;
     void* Handle() const override;
 

@@ -5,6 +5,8 @@
 
 #include <sqlite3.h>
 
+#include <utility>
+
 namespace Tarvik::Server {
 namespace {
 
@@ -25,6 +27,7 @@ SqliteDatabase::SqliteDatabase(const std::string& path) {
 }
 
 SqliteDatabase::~SqliteDatabase() {
+    for (const auto& [sql, statement] : statements_) sqlite3_finalize(statement);
     sqlite3_close_v2(handle_);
 }
 
@@ -38,6 +41,30 @@ std::int64_t SqliteDatabase::QueryInteger(std::string_view sql) {
     SqliteStatement statement(*this, sql);
     if (!statement.Step()) throw SqliteError("the data base gave no row where one was expected");
     return statement.Integer(0);
+}
+
+sqlite3_stmt* SqliteDatabase::Borrow(std::string_view sql) {
+    const auto kept = statements_.find(sql);
+    if (kept != statements_.end() && kept->second != nullptr) return std::exchange(kept->second, nullptr);
+    if (kept == statements_.end()) statements_.emplace(sql, nullptr);
+    sqlite3_stmt* statement = nullptr;
+    const int size = static_cast<int>(sql.size());
+    if (sqlite3_prepare_v3(handle_, sql.data(), size, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) !=
+        SQLITE_OK) {
+        Throw("the data base refused a statement");
+    }
+    return statement;
+}
+
+void SqliteDatabase::Return(std::string_view sql, sqlite3_stmt* statement) noexcept {
+    sqlite3_reset(statement);
+    sqlite3_clear_bindings(statement);
+    const auto place = statements_.find(sql);
+    if (place != statements_.end() && place->second == nullptr) {
+        place->second = statement;
+    } else {
+        sqlite3_finalize(statement);
+    }
 }
 
 int SqliteDatabase::Changes() const {

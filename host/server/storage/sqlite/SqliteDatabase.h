@@ -4,10 +4,13 @@
 #include "host/server/storage/sqlite/SqliteError.h"
 
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 namespace Tarvik::Server {
 
@@ -32,8 +35,15 @@ class SqliteDatabase {
     [[noreturn]] void Throw(std::string_view doing) const;
     sqlite3* Handle() const { return handle_; }
 
+    /// A prepared statement that nobody else holds until it is returned. Statements are kept for the next
+    /// one who asks, so their texts must be few.
+    sqlite3_stmt* Borrow(std::string_view sql);
+    /// Takes back a statement, wherever it stands.
+    void Return(std::string_view sql, sqlite3_stmt* statement) noexcept;
+
   private:
     sqlite3* handle_ = nullptr;
+    std::map<std::string, sqlite3_stmt*, std::less<>> statements_;  ///< null while lent
 };
 
 }  // namespace Tarvik::Server

@@ -4,14 +4,41 @@
 #include "host/server/storage/sqlite/Migrator.h"
 
 namespace Tarvik::Server {
+namespace {
 
-SqliteSession::SqliteSession(const std::string& path, const SqliteOptions& options) : database_(path) {
-    if (database_.ReadOnly()) throw SqliteError("the data base is read-only: " + path);
+/// Reading connections that are kept when nobody reads.
+constexpr std::size_t kMostIdle = 8;
+
+}  // namespace
+
+SqliteSession::SqliteSession(const std::string& path, const SqliteOptions& options)
+    : path_(path), shared_(!path.empty() && path != ":memory:"), writer_(path) {
+    if (writer_.ReadOnly()) throw SqliteError("the data base is read-only: " + path);
     if (options.maxPages > 0)
-        database_.QueryInteger("PRAGMA max_page_count=" + std::to_string(options.maxPages));
-    CheckVersion(database_);
-    database_.Execute("PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON");
-    Migrate(database_);
+        writer_.QueryInteger("PRAGMA max_page_count=" + std::to_string(options.maxPages));
+    CheckVersion(writer_);
+    writer_.Execute("PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON");
+    Migrate(writer_);
+    idle_.reserve(kMostIdle);
+}
+
+std::unique_ptr<SqliteDatabase> SqliteSession::TakeReader() {
+    {
+        const std::scoped_lock lock(pooling_);
+        if (!idle_.empty()) {
+            auto reader = std::move(idle_.back());
+            idle_.pop_back();
+            return reader;
+        }
+    }
+    auto reader = std::make_unique<SqliteDatabase>(path_);
+    reader->Execute("PRAGMA query_only=ON");
+    return reader;
+}
+
+void SqliteSession::GiveBack(std::unique_ptr<SqliteDatabase> reader) noexcept {
+    const std::scoped_lock lock(pooling_);
+    if (idle_.size() < kMostIdle) idle_.push_back(std::move(reader));
 }
 
 }  // namespace Tarvik::Server

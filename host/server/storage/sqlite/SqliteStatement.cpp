@@ -5,15 +5,11 @@
 
 namespace Tarvik::Server {
 
-SqliteStatement::SqliteStatement(SqliteDatabase& database, std::string_view sql) : database_(database) {
-    const int size = static_cast<int>(sql.size());
-    if (sqlite3_prepare_v2(database.Handle(), sql.data(), size, &handle_, nullptr) != SQLITE_OK) {
-        database.Throw("the data base refused a statement");
-    }
-}
+SqliteStatement::SqliteStatement(SqliteDatabase& database, std::string_view sql)
+    : database_(database), sql_(sql), handle_(database.Borrow(sql)) {}
 
 SqliteStatement::~SqliteStatement() {
-    sqlite3_finalize(handle_);
+    database_.Return(sql_, handle_);
 }
 
 void SqliteStatement::Reset() {

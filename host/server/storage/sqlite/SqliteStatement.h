@@ -12,7 +12,7 @@ struct sqlite3_stmt;
 
 namespace Tarvik::Server {
 
-/// One prepared statement. Columns count from 0; operations throw SqliteError.
+/// One prepared statement, whose text outlives it. Columns count from 0; operations throw SqliteError.
 class SqliteStatement {
   public:
     SqliteStatement(SqliteDatabase& database, std::string_view sql);
@@ -49,7 +49,8 @@ class SqliteStatement {
     }
 
     SqliteDatabase& database_;
-    sqlite3_stmt* handle_ = nullptr;
+    std::string_view sql_;
+    sqlite3_stmt* handle_;
 };
 
 }  // namespace Tarvik::Server

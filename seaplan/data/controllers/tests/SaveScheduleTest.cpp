@@ -9,12 +9,14 @@ using Texts = std::vector<std::string>;
 constexpr const char* kRequestAb =
     R"({"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"40001#40002"})";
 
+constexpr const char* kBookRequestAb =
+    R"(["5","0","0|A|0.000|0.000|GC|5|0.000|5","1||0.500|0.000|GC|5|18.520|0",)"
+    R"("2|B|1.000|0.000|GC|5|18.520|5"])";
+
 class SaveScheduleTest : public ScheduleFixture {
   protected:
-    SaveScheduleTest() { makePointTable(); }
+    SaveScheduleTest() { folder.WriteSamplePoints(); }
 
-    /// An empty table of points, for the ports of these routes are named by the dictionary.
-    void makePointTable();
     void replySave() {
         host.Reply(11, "{eid:0}");
         host.Reply(7, "[]");
@@ -22,13 +24,6 @@ class SaveScheduleTest : public ScheduleFixture {
         host.Reply(9, "{eid:0}");
     }
 };
-
-// An empty data base file has no table t_point; this one is the shortest that has it.
-void SaveScheduleTest::makePointTable() {
-    std::filesystem::create_directories(Folder() / "businessdata");
-    std::filesystem::copy_file(std::filesystem::path(__FILE__).parent_path() / "points.db",
-                               Folder() / "businessdata" / "trvdb.db");
-}
 
 TEST_F(SaveScheduleTest, PortIdsComeFromTheDictionaryAndUnknownNamesGetNone) {
     rows = typedRows();
@@ -70,6 +65,30 @@ TEST_F(SaveScheduleTest, FailedOrShortRouteReplyFailsTheCalculation) {
     EXPECT_LT(voyages.CalculatePortCalls({}, rows), 0);
 }
 
+TEST_F(SaveScheduleTest, FailedCalculationLeavesThePendingRouteThatTheTableShows) {
+    host.Reply(1, kRouteAb);
+    voyages.CalculatePortCalls(typedRows(), rows);
+    PortCallRows changed = typedRows();
+    changed[1].pw = 1.0F;
+    host.Reply(1, R"([{point_cd:"40002"},{point_cd:"40001"}])");
+    EXPECT_EQ(voyages.CalculatePortCalls(changed, rows), -2) << "the steam time is not finite";
+    EXPECT_TRUE(rows.empty());
+    ASSERT_TRUE(voyages.HasPendingRoute());
+    EXPECT_EQ(module.CurrentStops()[0].point_cd, "40001");
+}
+
+TEST_F(SaveScheduleTest, FailedRecalculationLeavesTheVoyageAsItWas) {
+    replySchedule();
+    voyages.LoadSchedule("9", rows, -1);
+    PortCallRows changed = typedRows();
+    changed[1].pw = 1.0F;
+    host.Reply(1, kRouteAb);
+    EXPECT_EQ(voyages.CalculateKeepingLegs("9", changed, rows), -3);
+    EXPECT_FALSE(voyages.HasPendingRoute());
+    EXPECT_EQ(voyage().portCalls[1].pw, 0.0F);
+    EXPECT_EQ(voyage().positionBook.points.size(), 3U);
+}
+
 TEST_F(SaveScheduleTest, CalculationForAVoyageTellsWhetherItHadPortCalls) {
     int had = 7;
     EXPECT_EQ(voyages.CalculateForVoyage("", typedRows(), rows, had), -1);
@@ -107,12 +126,10 @@ TEST_F(SaveScheduleTest, NewVoyageSavesPortCallsDateAndRowsInThisOrder) {
     voyages.CalculatePortCalls(typedRows(), rows);
     replySave();
     EXPECT_EQ(voyages.SaveSchedule("9", rows, -1), 0);
-    EXPECT_EQ(host.Texts(),
-              (Texts{std::string("1 ") + kRequestAb,
-                     R"(11 ["9","0|40001|A|L|0.000|0.000|6.0","1|40002|B|D|18.520|0.000|0.0"])",
-                     R"(7 {vi:"9"})", R"(8 {vi:"9",dt:"2024-03-01 00:00:00"})",
-                     R"(9 ["5","0","0|A|0.000|0.000|GC|5|0.000|5","1||0.500|0.000|GC|5|18.520|0",)"
-                     R"("2|B|1.000|0.000|GC|5|18.520|5"])"}));
+    EXPECT_EQ(host.Texts(), (Texts{std::string("1 ") + kRequestAb,
+                                   R"(11 ["9","0|40001|A|L|0.000|0.000|6.0","1|40002|B|D|18.520|0.000|0.0"])",
+                                   R"(7 {vi:"9"})", R"(8 {vi:"9",dt:"2024-03-01 00:00:00"})",
+                                   std::string("9 ") + kBookRequestAb}));
     EXPECT_EQ(voyage().positionBook.pbi, "5");
     EXPECT_EQ(voyage().positionBook.eta, rows[0].eta);
     EXPECT_EQ(voyage().positionBook.points.size(), 3U);

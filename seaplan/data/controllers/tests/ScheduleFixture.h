@@ -3,14 +3,13 @@
 
 #include "seaplan/data/controllers/VoyCatalogController.h"
 #include "seaplan/data/controllers/VoyController.h"
+#include "testsupport/DataFolder.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/PortDictionary.h"
 #include "testsupport/RecordingHost.h"
 
 #include <gtest/gtest.h>
-#include <tarvik/util/FileUtl.h>
 
-#include <filesystem>
 #include <string>
 
 namespace Tarvik::Seaplan {
@@ -31,9 +30,7 @@ inline constexpr const char* kBookAb =
 /// and UTC.
 class ScheduleFixture : public testing::Test {
   protected:
-    ScheduleFixture() : folder_(std::filesystem::temp_directory_path() / uniqueName()) {
-        std::filesystem::create_directories(folder_);
-        Util::FileUtl::SetCurrentAppDirectory(folder_.string());
+    ScheduleFixture() {
         catalog.SetVoyController(&voyages);
         store.categories["1"].cn = "Cat";
         store.categoryStates["1"] = InUse;
@@ -41,10 +38,6 @@ class ScheduleFixture : public testing::Test {
         VoyInfo& voyage = store.voyages["9"];
         voyage.vi = "9";
         voyage.vn = "V";
-    }
-    ~ScheduleFixture() override {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
     }
 
     VoyInfo& voyage() { return store.voyages.at("9"); }
@@ -64,8 +57,8 @@ class ScheduleFixture : public testing::Test {
         rows[1].ppn = "B";
         return rows;
     }
-    const std::filesystem::path& Folder() const { return folder_; }
 
+    TestSupport::DataFolder folder;
     TestSupport::ManualClock clock;
     TestSupport::RecordingHost host;
     TestSupport::PortDictionary dictionary{
@@ -76,13 +69,6 @@ class ScheduleFixture : public testing::Test {
     VoyPortCallModule module{&store};
     VoyController voyages{&module, &catalog, &store};
     PortCallRows rows;
-
-  private:
-    static std::string uniqueName() {
-        const auto* info = testing::UnitTest::GetInstance()->current_test_info();
-        return std::string("seaplan-") + info->test_suite_name() + "-" + info->name();
-    }
-    std::filesystem::path folder_;
 };
 
 }  // namespace Tarvik::Seaplan

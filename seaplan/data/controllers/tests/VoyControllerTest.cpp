@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/data/controllers/tests/ScheduleFixture.h"
-#include "testsupport/ManualTimer.h"
 
 namespace Tarvik::Seaplan {
 namespace {
@@ -57,6 +56,7 @@ TEST_F(VoyControllerTest, LoadLadder) {
     host.Reply(7, R"([{pbi:"5",eta:"2024-03-01 00:00:00",pb:[{lon:0,pst:"5"}]}])");
     EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), -5);
     EXPECT_TRUE(voyage().portCalls.empty());
+    EXPECT_EQ(voyage().positionBook.pbi, "5") << "the book is in the record before it is applied";
     for (const int mode : {2, -2}) {
         voyage().positionBook.points.clear();
         replySchedule();
@@ -74,6 +74,53 @@ TEST_F(VoyControllerTest, DrawModeOneShowsTheProgressAndRemembersTheVoyage) {
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE")[0].position, "0.000,0.000");
     ASSERT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE").size(), 1U);
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE")[0].id, "9_5");
+}
+
+TEST_F(VoyControllerTest, ScheduleThatCannotBeDrawnIsLoadedButNotTheOneOnShow) {
+    host.Reply(10, kPortCallsAb);
+    std::string book = kBookAb;
+    book.insert(book.find("]}]"), R"(,{lon:3,psn:"C",xc:3.0,yc:0.0,psp:"18.52",pst:"5"})");
+    host.Reply(7, book);
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), -6) << "the book has a port more than the schedule";
+    EXPECT_EQ(voyage().portCalls.size(), 2U);
+    EXPECT_EQ(voyages.CurrentVoyage(), "");
+    EXPECT_EQ(voyages.RouteIsCurrent(), -1);
+}
+
+TEST_F(VoyControllerTest, DrawnProgressNeedsRowsOnBothSides) {
+    EXPECT_EQ(module.DrawPlannedProgress(voyage()), -1);
+    replySchedule();
+    voyages.LoadSchedule("9", rows, -1);
+    VoyInfo other = voyage();
+    other.positionBook.points.resize(1);
+    EXPECT_EQ(module.DrawPlannedProgress(other), -1);
+    other = voyage();
+    other.portCalls.push_back(other.portCalls[1]);
+    EXPECT_EQ(module.DrawPlannedProgress(other), -5);
+    other = voyage();
+    other.portCalls[1].pw = 1.5F;
+    EXPECT_EQ(module.DrawPlannedProgress(other), -7);
+    other = voyage();
+    other.vi.clear();
+    EXPECT_EQ(module.DrawPlannedProgress(other), -14);
+    EXPECT_TRUE(host.ChartCallsOf("TRV_MAP_ADD_LINE").empty());
+    EXPECT_EQ(module.DrawPlannedProgress(voyage()), 0);
+}
+
+TEST_F(VoyControllerTest, ShipUnderWayCutsTheVoyageInTwoLines) {
+    clock.SetUtc(2024, 3, 1, 18);
+    replySchedule();
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), 0);
+    const auto lines = host.ChartCallsOf("TRV_MAP_ADD_LINE");
+    ASSERT_EQ(lines.size(), 2U);
+    const std::string ship = host.ChartCallsOf("TRV_MAP_ADD_IMAGE").at(0).position;
+    EXPECT_EQ(lines[0].id, "9_5");
+    EXPECT_EQ(lines[0].points.front(), ship);
+    EXPECT_EQ(lines[0].points.back(), "1.000,0.000");
+    EXPECT_EQ(lines[1].id, "9_0");
+    EXPECT_EQ(lines[1].points.front(), "0.000,0.000");
+    EXPECT_EQ(lines[1].points.back(), ship);
+    EXPECT_EQ(host.chartCalls.back().service, "TRV_MAP_SET_EXTENT");
 }
 
 TEST_F(VoyControllerTest, DrawModeZeroShowsTheBookWithoutAShip) {
@@ -137,58 +184,6 @@ TEST_F(VoyControllerTest, DiscardedChangesGiveWayToWhatWasSaved) {
     EXPECT_LT(voyages.DiscardPortCalls("x"), 0);
 }
 
-TEST_F(VoyControllerTest, SecondStartLeavesOneTimerRunning) {
-    TestSupport::ManualTimer timer;
-    voyages.StartTimer();
-    voyages.StartTimer();
-    EXPECT_EQ(timer.Running(), 1U);
-    EXPECT_EQ(timer.LastPeriod(), 100000);
-    voyages.StopTimer();
-    EXPECT_EQ(timer.Running(), 0U);
-    voyages.StartTimer();
-    EXPECT_EQ(timer.Running(), 1U);
-    voyages.StopTimer();
-}
-
-TEST_F(VoyControllerTest, WithoutTimersOfTheHostNothingStarts) {
-    voyages.StartTimer();
-    voyages.StopTimer();
-    TestSupport::ManualTimer timer;
-    voyages.StartTimer();
-    EXPECT_EQ(timer.Running(), 1U) << "the earlier attempt left no id behind";
-    voyages.StopTimer();
-}
-
-TEST_F(VoyControllerTest, TimerRefreshesPositionsAndDrawsShownVoyagesWithoutMovingTheView) {
-    TestSupport::ManualTimer timer;
-    bool visible = false;
-    voyages.SetTreeVisible([&] { return visible; });
-    voyage().vr = 1;
-    voyage().vsi = "s";
-    store.voyages["8"].vi = "8";
-    replySchedule();
-    voyages.StartTimer();
-    timer.Fire();
-    EXPECT_EQ(host.positionQueries, (std::vector<Texts>{{"s|0"}}));
-    EXPECT_TRUE(host.chartCalls.empty()) << "the tree is hidden";
-    visible = true;
-    timer.Fire();
-    EXPECT_FALSE(host.ChartCallsOf("TRV_MAP_ADD_LINE").empty());
-    EXPECT_TRUE(host.ChartCallsOf("TRV_MAP_SET_EXTENT").empty());
-    EXPECT_TRUE(module.Layer().autoExtent);
-    voyages.StopTimer();
-}
-
-TEST_F(VoyControllerTest, TimerDrawsWhenNobodyTellsWhetherTheTreeIsVisible) {
-    TestSupport::ManualTimer timer;
-    voyage().vr = 1;
-    replySchedule();
-    voyages.StartTimer();
-    timer.Fire();
-    EXPECT_FALSE(host.ChartCallsOf("TRV_MAP_ADD_LINE").empty());
-    voyages.StopTimer();
-}
-
 TEST_F(VoyControllerTest, ClearingTheChartRemovesAllFiveTypes) {
     EXPECT_EQ(voyages.ClearChart(), 0);
     Texts types;
@@ -228,13 +223,6 @@ TEST_F(VoyControllerTest, ShownVoyageIsClearedAndDrawn) {
     EXPECT_EQ(voyages.ShowVoyage("9"), 0);
     EXPECT_EQ(voyages.CurrentVoyage(), "9");
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").size(), 1U);
-}
-
-TEST_F(VoyControllerTest, CorrectedVoyageNeedsScheduleAndTimes) {
-    voyage().modais = 1;
-    EXPECT_EQ(voyages.ShowVoyage("9"), -7);
-    replySchedule();
-    EXPECT_EQ(voyages.ShowVoyage("9"), -8);
 }
 
 TEST_F(VoyControllerTest, MovedAndDeletedRowsMakeTheRouteStale) {

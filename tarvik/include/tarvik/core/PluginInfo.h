@@ -37,7 +37,8 @@ struct TARVIK_API Version {
     bool operator==(const Version&) const = default;
 };
 
-/// Describes one piece of software. The wide fields are owned copies: an empty or null input leaves null.
+/// Describes one piece of software. The wide fields are owned copies: an empty or null input leaves null. The
+/// fields lie in the order in which hosts have always known them.
 class TARVIK_API CTrvSoftInfo {
   public:
     CTrvSoftInfo() = default;
@@ -45,9 +46,7 @@ class TARVIK_API CTrvSoftInfo {
     CTrvSoftInfo& operator=(const CTrvSoftInfo&) = delete;
     virtual ~CTrvSoftInfo();
 
-    std::string name;
     void SetDisplayName(const char16_t* text) { assign(displayName_, text); }
-    std::string version;
     void SetDescription(const char16_t* text) { assign(description_, text); }
     void SetCompany(const char16_t* text) { assign(company_, text); }
     void SetEMail(const char16_t* text) { assign(eMail_, text); }
@@ -61,10 +60,17 @@ class TARVIK_API CTrvSoftInfo {
     const char16_t* Copyright() const { return copyright_; }
     const char16_t* Website() const { return website_; }
 
+    std::string name;
+
+  private:
+    char16_t* displayName_ = nullptr;
+
+  public:
+    std::string version;
+
   private:
     static void assign(char16_t*& field, const char16_t* text);
 
-    char16_t* displayName_ = nullptr;
     char16_t* description_ = nullptr;
     char16_t* company_ = nullptr;
     char16_t* eMail_ = nullptr;

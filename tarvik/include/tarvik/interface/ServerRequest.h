@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <bit>
 #include <cstdint>
 
 namespace Tarvik::Interface {
@@ -16,6 +17,7 @@ struct VoyServerRequest {
     char* Payload() { return reinterpret_cast<char*>(this + 1); }
 };
 static_assert(sizeof(VoyServerRequest) == 8);
+static_assert(std::endian::native == std::endian::little, "the head is read and written in place");
 
 /// Largest payload that either side takes, in bytes.
 inline constexpr std::uint32_t kMaxPayloadBytes = 16U * 1024 * 1024;

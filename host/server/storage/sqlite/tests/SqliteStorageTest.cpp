@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <fstream>
 #include <iterator>
 #include <thread>
@@ -85,7 +86,7 @@ TEST_F(SqliteStorageTest, FileThatIsNoDataBaseIsRefusedAndUnchanged) {
 }
 
 TEST_F(SqliteStorageTest, FolderThatCannotHoldAFileIsRefused) {
-    for (const std::string path : {folder_.File("none/voyages.db"), std::string("/proc/voyages.db")}) {
+    for (const std::string& path : {folder_.File("none/voyages.db"), std::string("/proc/voyages.db")}) {
         error_.clear();
         EXPECT_EQ(SqliteStorage::Open(path, error_), nullptr);
         EXPECT_THAT(error_, HasSubstr("cannot open")) << path;
@@ -109,6 +110,7 @@ TEST_F(SqliteStorageTest, FullFileFailsTheChangeWholeAndStillReads) {
     const std::string voyage = storage->Catalog().CreateVoyage("ann", category, record).Value();
     ASSERT_TRUE(storage->Schedule().ReplacePortCalls("ann", voyage, {{0, "1", "First", "L", 1, 0, 0}}));
     std::vector<PortCallRecord> many;
+    many.reserve(1000);
     for (int i = 0; i < 1000; ++i) many.push_back({i, "1", std::string(1000, 'n'), "D", 1, 0, 0});
     const Status status = storage->Schedule().ReplacePortCalls("ann", voyage, many);
     ASSERT_FALSE(status);
@@ -132,6 +134,7 @@ TEST_F(SqliteStorageTest, TwoProcessesOnOneFileGiveOutDifferentIds) {
 TEST_F(SqliteStorageTest, ThreadsMayShareTheStorage) {
     auto storage = Open();
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int t = 0; t < 4; ++t) {
         threads.emplace_back([&storage, owner = "user" + std::to_string(t)] {
             for (int i = 0; i < 25; ++i) EXPECT_TRUE(storage->Catalog().CreateCategory(owner, "C"));
@@ -142,6 +145,48 @@ TEST_F(SqliteStorageTest, ThreadsMayShareTheStorage) {
         EXPECT_EQ(storage->Catalog().LoadCatalog("user" + std::to_string(t)).Value().size(), 25U);
     }
     EXPECT_EQ(storage->Catalog().CreateCategory("ann", "A").Value(), "1000101");
+}
+
+TEST_F(SqliteStorageTest, ReadersSeeOnlyWholeChangesAndWaitForNoWriter) {
+    auto storage = Open();
+    const std::string category = storage->Catalog().CreateCategory("ann", "A").Value();
+    VoyageRecord record;
+    record.name = "V";
+    const std::string voyage = storage->Catalog().CreateVoyage("ann", category, record).Value();
+    const auto write = [&](int round) {
+        std::vector<PortCallRecord> all;
+        for (int i = 0; i <= round % 20; ++i) all.push_back({i, "1", std::to_string(round), "L", 1, 0, 0});
+        EXPECT_TRUE(storage->Schedule().ReplacePortCalls("ann", voyage, all));
+    };
+    write(0);
+    std::atomic<bool> writing = true;
+    std::thread writer([&] {
+        for (int round = 1; round <= 100; ++round) write(round);
+        writing = false;
+    });
+    std::vector<std::thread> readers;
+    readers.reserve(3);
+    for (int r = 0; r < 3; ++r) {
+        readers.emplace_back([&] {
+            do {
+                const auto calls = storage->Schedule().LoadPortCalls("ann", voyage);
+                ASSERT_TRUE(calls);
+                const int round = std::stoi(calls.Value().at(0).portName);
+                EXPECT_EQ(calls.Value().size(), static_cast<std::size_t>(round % 20 + 1));
+                EXPECT_EQ(calls.Value().back().portName, calls.Value().front().portName);
+            } while (writing);
+        });
+    }
+    writer.join();
+    for (std::thread& reader : readers) reader.join();
+}
+
+TEST_F(SqliteStorageTest, DataBaseInMemoryIsReadAndWrittenLikeAFile) {
+    auto storage = SqliteStorage::Open(":memory:", error_);
+    ASSERT_NE(storage, nullptr) << error_;
+    EXPECT_EQ(storage->Catalog().CreateCategory("ann", "A").Value(), "1000001");
+    EXPECT_EQ(storage->Catalog().LoadCatalog("ann").Value().at(0).name, "A");
+    EXPECT_TRUE(SqliteStorage::Open(":memory:", error_)->Catalog().LoadCatalog("ann").Value().empty());
 }
 
 }  // namespace

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/graph/adapter/GraphRouteSource.h"
+
+#include <utility>
+
+#include "host/server/graph/adapter/RouteMessages.h"
+
+namespace Tarvik::Server {
+
+std::unique_ptr<GraphRouteSource> GraphRouteSource::Open(const std::string& networkFile, std::string& error) {
+    std::shared_ptr<const SeaNetwork> network = SeaNetwork::load(networkFile, error);
+    return network ? std::make_unique<GraphRouteSource>(std::move(network)) : nullptr;
+}
+
+GraphRouteSource::GraphRouteSource(std::shared_ptr<const SeaNetwork> network) : engine_(std::move(network)) {}
+
+std::string GraphRouteSource::Plan(std::string_view requestJson) {
+    std::string error;
+    const auto points = RouteMessages::ReadPlan(requestJson, error);
+    return points ? RouteMessages::WritePlan(engine_.plan(*points))
+                  : RouteMessages::WriteError(kRouteBadRequest, error);
+}
+
+std::string GraphRouteSource::Nearest(std::string_view requestJson) {
+    std::string error;
+    const auto request = RouteMessages::ReadNearest(requestJson, error);
+    return request ? RouteMessages::WriteNearest(engine_.nearest(request->position, request->destPort))
+                   : RouteMessages::WriteError(kRouteBadRequest, error);
+}
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/graph/SeaNetworkFile.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "host/server/graph/ByteWriter.h"
+#include "host/server/graph/tests/SmallSea.h"
+
+namespace Tarvik::Server {
+namespace {
+
+using ::testing::HasSubstr;
+
+constexpr size_t kHead = 24;
+
+/// A file around a payload whose length and sum are right.
+std::string sealed(const std::string& payload) {
+    uint64_t sum = 14695981039346656037ULL;
+    for (const char c : payload) sum = (sum ^ static_cast<uint8_t>(c)) * 1099511628211ULL;
+    ByteWriter head;
+    head.u64(payload.size());
+    head.u64(sum);
+    return "SEANET01" + head.bytes() + payload;
+}
+
+std::string errorOf(const std::string& bytes) {
+    std::string error;
+    const bool good = SeaNetworkFile::decode(bytes, error).has_value();
+    return good ? "none" : error;
+}
+
+std::string errorOf(const NetworkData& data) {
+    return errorOf(SeaNetworkFile::encode(data));
+}
+
+TEST(SeaNetworkFile, ReadsWhatItWrote) {
+    const NetworkData before = smallSea();
+    const std::string bytes = SeaNetworkFile::encode(before);
+    std::string error;
+    const auto after = SeaNetworkFile::decode(bytes, error);
+    ASSERT_TRUE(after) << error;
+    EXPECT_EQ(SeaNetworkFile::encode(*after), bytes);
+    EXPECT_EQ(after->nodes, before.nodes);
+    EXPECT_EQ(after->masks, before.masks);
+    EXPECT_EQ(after->land, before.land);
+    ASSERT_EQ(after->routePoints.size(), 3u);
+    EXPECT_EQ(after->routePoints[2].name, "Canal");
+    EXPECT_TRUE(after->routePoints[2].shut);
+    EXPECT_EQ(after->routePoints[2].groups, before.routePoints[2].groups);
+    EXPECT_EQ(after->ports[1].unlocode, "BBBBB");
+    EXPECT_EQ(after->edges[4].kind, EdgeKind::Chain);
+}
+
+TEST(SeaNetworkFile, RefusesAFileCutAnywhere) {
+    const std::string bytes = SeaNetworkFile::encode(smallSea());
+    for (size_t length = 0; length < bytes.size(); ++length) {
+        const std::string error = errorOf(bytes.substr(0, length));
+        EXPECT_EQ(error, length < kHead ? "this is not a sea network file"
+                                        : "the sea network file is cut or has grown")
+            << length;
+    }
+    EXPECT_EQ(errorOf(bytes + "x"), "the sea network file is cut or has grown");
+}
+
+TEST(SeaNetworkFile, RefusesAPayloadThatEndsInsideAnyOfItsLists) {
+    const std::string payload = SeaNetworkFile::encode(smallSea()).substr(kHead);
+    for (size_t length = 0; length < payload.size(); ++length) {
+        EXPECT_THAT(errorOf(sealed(payload.substr(0, length))), HasSubstr("inconsistent")) << length;
+    }
+    EXPECT_EQ(errorOf(sealed(payload)), "none");
+    EXPECT_THAT(errorOf(sealed(payload + "x")), HasSubstr("inconsistent"));
+}
+
+TEST(SeaNetworkFile, AnyDamagedByteOfThePayloadIsFound) {
+    const std::string bytes = SeaNetworkFile::encode(smallSea());
+    for (size_t i = kHead; i < bytes.size(); ++i) {
+        std::string damaged = bytes;
+        damaged[i] = static_cast<char>(damaged[i] ^ 0x10);
+        EXPECT_EQ(errorOf(damaged), "the sea network file is damaged") << i;
+    }
+}
+
+TEST(SeaNetworkFile, RefusesAForeignFile) {
+    std::string bytes = SeaNetworkFile::encode(smallSea());
+    bytes[7] = '9';
+    EXPECT_EQ(errorOf(bytes), "this is not a sea network file");
+}
+
+TEST(SeaNetworkFile, RefusesReferencesToWhatIsNotThere) {
+    NetworkData data = smallSea();
+    data.edges[0].b = 8;
+    EXPECT_THAT(errorOf(data), HasSubstr("an edge names a node that does not exist"));
+    data = smallSea();
+    data.edges[0].mask = 99;
+    EXPECT_THAT(errorOf(data), HasSubstr("gate mask"));
+    data = smallSea();
+    data.edges[0].nm = -1.0F;
+    EXPECT_THAT(errorOf(data), HasSubstr("impossible length"));
+    data = smallSea();
+    data.edges[0].kind = static_cast<EdgeKind>(7);
+    EXPECT_THAT(errorOf(data), HasSubstr("unknown kind"));
+    data = smallSea();
+    data.routePoints[0].groups[0][0] = 3;
+    EXPECT_THAT(errorOf(data), HasSubstr("an alternative does not exist"));
+    data = smallSea();
+    data.routePoints[0].gate.clear();
+    EXPECT_THAT(errorOf(data), HasSubstr("no gate"));
+    data = smallSea();
+    data.ports[0].node = 8;
+    EXPECT_THAT(errorOf(data), HasSubstr("a port has no node"));
+    data = smallSea();
+    data.nodes[0].y = 91;
+    EXPECT_THAT(errorOf(data), HasSubstr("outside the earth"));
+}
+
+class SeaNetworkFileOnDisk : public ::testing::Test {
+  protected:
+    SeaNetworkFileOnDisk() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "sea-network-XXXXXX").string();
+        folder_ = mkdtemp(pattern.data());
+        path_ = (folder_ / "network.bin").string();
+    }
+    ~SeaNetworkFileOnDisk() override { std::filesystem::remove_all(folder_); }
+    std::filesystem::path folder_;
+    std::string path_;
+};
+
+TEST_F(SeaNetworkFileOnDisk, IsLoadedAsANetwork) {
+    ASSERT_EQ(SeaNetworkFile::write(path_, smallSea()), "");
+    std::string error;
+    const auto network = SeaNetwork::load(path_, error);
+    ASSERT_TRUE(network) << error;
+    EXPECT_EQ(network->nodeOf("40002"), 3u);
+    EXPECT_EQ(network->routePoint("2"), 1u);
+    EXPECT_FALSE(network->nodeOf("4"));
+}
+
+TEST_F(SeaNetworkFileOnDisk, AMissingOrCutFileIsNamedWithWhatToDo) {
+    std::string error;
+    EXPECT_FALSE(SeaNetwork::load(path_, error));
+    EXPECT_EQ(error, "cannot open the sea network file " + path_ + ". Build or install the client again.");
+    ASSERT_EQ(SeaNetworkFile::write(path_, smallSea()), "");
+    std::filesystem::resize_file(path_, 100);
+    EXPECT_FALSE(SeaNetwork::load(path_, error));
+    EXPECT_EQ(error,
+              "the sea network file is cut or has grown: " + path_ + ". Build or install the client again.");
+}
+
+TEST_F(SeaNetworkFileOnDisk, WritingWhereThereIsNoFolderTellsThePath) {
+    const std::string path = path_ + "/none/network.bin";
+    EXPECT_EQ(SeaNetworkFile::write(path, smallSea()), "cannot write " + path);
+}
+
+}  // namespace
+}  // namespace Tarvik::Server

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <boost/asio/thread_pool.hpp>
+
+#include <cstddef>
+
+namespace Tarvik::Server {
+
+/// Threads that answer requests, and how many requests are with them or wait for them. The count belongs to
+/// the thread that reads and writes.
+struct HttpPool {
+    explicit HttpPool(std::size_t count) : threads(count) {}
+
+    std::size_t pending = 0;
+    boost::asio::thread_pool threads;
+};
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/net/http/HttpServer.h"
+
+#include "host/server/net/http/HttpConnection.h"
+#include "host/server/net/http/TlsContext.h"
+
+#include <boost/asio/detached.hpp>
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/signal_set.hpp>
+#include <boost/asio/steady_timer.hpp>
+
+#include <csignal>
+
+namespace Tarvik::Server {
+
+namespace net = boost::asio;
+using net::ip::tcp;
+
+/// Everything that needs the network library, kept out of the header.
+class HttpServer::Core {
+  public:
+    Core(HttpService& service, const HttpLimits& limits)
+        : acceptor_(io_),
+          signals_(io_),
+          grace_(io_),
+          pause_(io_),
+          host_(std::make_shared<HttpHost>(service, limits, work_, login_)),
+          work_(limits.workers),
+          login_(1) {}
+    ~Core() { host_->Abandon(); }
+    Core(const Core&) = delete;
+    Core& operator=(const Core&) = delete;
+
+    bool Listen(const std::string& address, std::uint16_t port, const TlsFiles& files, std::string& error);
+    std::uint16_t Port() const { return port_; }
+    void StopOnSignals() {
+        signals_.add(SIGTERM);
+        signals_.add(SIGINT);
+        waitForSignal();
+    }
+    void Run();
+    void Stop() {
+        net::post(io_, [this] { stop(); });
+    }
+
+  private:
+    void waitForSignal();
+    void stop();
+    void endGrace();
+    net::awaitable<void> accept();
+    void open(tcp::socket socket);
+    template <class Stream>
+    void serve(Stream stream, std::string address);
+
+    net::io_context io_{1};
+    tcp::acceptor acceptor_;
+    net::signal_set signals_;
+    net::steady_timer grace_;
+    net::steady_timer pause_;
+    std::unique_ptr<net::ssl::context> tls_;
+    std::uint16_t port_ = 0;
+    std::shared_ptr<HttpHost> host_;
+    // The pools go first: what still lies in them holds on to sockets of io_. Logins have one thread, since a
+    // password hash takes much memory.
+    HttpPool work_;
+    HttpPool login_;
+};
+
+bool HttpServer::Core::Listen(const std::string& address, std::uint16_t port, const TlsFiles& files,
+                              std::string& error) {
+    if (!files.certificate.empty()) {
+        tls_ = MakeTlsContext(files.certificate, files.key, error);
+        if (tls_ == nullptr) return false;
+    }
+    boost::system::error_code failed;
+    const net::ip::address where = net::ip::make_address(address, failed);
+    const tcp::endpoint endpoint(where, port);
+    if (!failed) acceptor_.open(endpoint.protocol(), failed);
+    if (!failed) acceptor_.set_option(net::socket_base::reuse_address(true), failed);
+    if (!failed) acceptor_.bind(endpoint, failed);
+    if (!failed) acceptor_.listen(net::socket_base::max_listen_connections, failed);
+    if (!failed) port_ = acceptor_.local_endpoint(failed).port();
+    if (failed) {
+        error = "cannot listen at " + address + " port " + std::to_string(port) + ": " + failed.message();
+        acceptor_.close(failed);
+        return false;
+    }
+    net::co_spawn(io_, accept(), net::detached);
+    return true;
+}
+
+void HttpServer::Core::Run() {
+    io_.run();
+    // A change that a thread has begun is brought to its end even when nobody waits for its reply any more.
+    for (HttpPool* pool : {&work_, &login_}) {
+        pool->threads.stop();
+        pool->threads.join();
+    }
+}
+
+void HttpServer::Core::waitForSignal() {
+    signals_.async_wait([this](boost::system::error_code failed, int) {
+        if (failed) return;
+        if (host_->Stopping()) return endGrace();
+        waitForSignal();
+        stop();
+    });
+}
+
+void HttpServer::Core::stop() {
+    if (host_->Stopping()) return;
+    boost::system::error_code ignored;
+    acceptor_.close(ignored);
+    pause_.cancel();
+    grace_.expires_after(host_->Limits().stop);
+    grace_.async_wait([this](boost::system::error_code failed) {
+        if (!failed) endGrace();
+    });
+    host_->Stop([this] {
+        grace_.cancel();
+        boost::system::error_code nothing;
+        signals_.cancel(nothing);
+    });
+}
+
+void HttpServer::Core::endGrace() {
+    work_.threads.stop();
+    login_.threads.stop();
+    io_.stop();
+}
+
+net::awaitable<void> HttpServer::Core::accept() {
+    constexpr std::chrono::milliseconds kPause{100};
+    while (!host_->Stopping()) {
+        boost::system::error_code failed;
+        tcp::socket socket = co_await acceptor_.async_accept(net::redirect_error(net::use_awaitable, failed));
+        if (!failed) {
+            open(std::move(socket));
+        } else if (!host_->Stopping()) {
+            // Out of file handles, most likely: wait for connections to end instead of spinning.
+            pause_.expires_after(kPause);
+            co_await pause_.async_wait(net::redirect_error(net::use_awaitable, failed));
+        }
+    }
+}
+
+void HttpServer::Core::open(tcp::socket socket) {
+    boost::system::error_code failed;
+    std::string address = socket.remote_endpoint(failed).address().to_string();
+    if (failed) return;
+    if (host_->OpenCount() >= host_->Limits().connections) {
+        host_->Service().ConnectionRefused(address);
+        return;
+    }
+    socket.set_option(tcp::no_delay(true), failed);
+    if (tls_ != nullptr) {
+        serve(TlsStream(std::move(socket), *tls_), std::move(address));
+    } else {
+        serve(PlainStream(std::move(socket)), std::move(address));
+    }
+}
+
+template <class Stream>
+void HttpServer::Core::serve(Stream stream, std::string address) {
+    auto connection = std::make_shared<HttpConnection<Stream>>(host_, std::move(stream), std::move(address));
+    net::co_spawn(io_, connection->Serve(), net::detached);
+}
+
+HttpServer::HttpServer(HttpService& service, const HttpLimits& limits)
+    : core_(std::make_unique<Core>(service, limits)) {}
+
+HttpServer::~HttpServer() = default;
+
+bool HttpServer::Listen(const std::string& address, std::uint16_t port, const TlsFiles& tls,
+                        std::string& error) {
+    return core_->Listen(address, port, tls, error);
+}
+
+std::uint16_t HttpServer::Port() const {
+    return core_->Port();
+}
+
+void HttpServer::StopOnSignals() {
+    core_->StopOnSignals();
+}
+
+void HttpServer::Run() {
+    core_->Run();
+}
+
+void HttpServer::Stop() {
+    core_->Stop();
+}
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/net/routes/NoRoutes.h"
+
+#include "host/server/api/Replies.h"
+
+namespace Tarvik::Server {
+namespace {
+
+std::string Refuse() {
+    return Replies::Error(ErrorCode::Internal, "this server has no sea network");
+}
+
+}  // namespace
+
+std::string NoRoutes::Plan(std::string_view /*requestJson*/) {
+    return Refuse();
+}
+
+std::string NoRoutes::Nearest(std::string_view /*requestJson*/) {
+    return Refuse();
+}
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/net/service/ExchangeEndpoint.h"
+
+#include "host/server/net/sessions/Tokens.h"
+#include "host/server/net/wire/Envelope.h"
+
+namespace Tarvik::Server {
+namespace {
+
+constexpr std::uint16_t kLastCommand = 14;
+
+std::string NameOf(const Envelope& envelope) {
+    if (envelope.moduleWord == kRemarkModule && envelope.command == 9) return "remark";
+    const bool known =
+        envelope.moduleWord == kVoyageModule && envelope.command >= 1 && envelope.command <= kLastCommand;
+    return known ? std::to_string(envelope.command) : "unknown";
+}
+
+/// Replies that refuse begin with their code.
+bool Refuses(std::string_view reply) {
+    constexpr std::string_view kCode = "{\"eid\":";
+    return reply.starts_with(kCode) && reply.size() > kCode.size() && reply[kCode.size()] != '0';
+}
+
+}  // namespace
+
+Answered ExchangeEndpoint::Exchange(const HttpRequest& request) {
+    Answered answered;
+    answered.command = "exchange";
+    const auto user = sessions_.UserOf(TokenOf(request.authorization));
+    if (!user) {
+        answered.detail = user.GetFault().detail;
+        answered.reply = ErrorReply(503, "the server cannot read its data base now");
+    } else if (!user.Value()) {
+        answered.reply = UnauthorizedReply("the token is unknown or over");
+    } else if (const auto envelope = ReadEnvelope(request.body); !envelope) {
+        answered.user = *user.Value();
+        answered.reply = ErrorReply(400, "the body is no envelope, or of another length than its head says");
+    } else {
+        answered.user = *user.Value();
+        answered.command = NameOf(*envelope);
+        const std::string text =
+            service_.Handle(answered.user, envelope->moduleWord, envelope->command, envelope->text);
+        answered.reply = {200,
+                          "application/octet-stream",
+                          WriteEnvelope({envelope->command, envelope->moduleWord, text}),
+                          {}};
+        answered.result = Refuses(text) ? "refused" : "ok";
+        return answered;
+    }
+    answered.result = ResultOf(answered.reply.status);
+    return answered;
+}
+
+}  // namespace Tarvik::Server

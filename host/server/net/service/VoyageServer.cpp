@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/net/service/VoyageServer.h"
+
+#include <filesystem>
+#include <utility>
+
+namespace Tarvik::Server {
+namespace {
+
+HttpLimits HttpLimitsOf(const Settings& settings) {
+    HttpLimits limits;
+    limits.connections = static_cast<std::size_t>(settings.maxConnections);
+    limits.workers = static_cast<std::size_t>(settings.workers);
+    limits.queue = static_cast<std::size_t>(settings.maxQueue);
+    limits.idle = std::chrono::seconds(settings.idleSeconds);
+    limits.request = std::chrono::seconds(settings.requestSeconds);
+    limits.stop = std::chrono::seconds(settings.stopSeconds);
+    return limits;
+}
+
+LoginLimits LoginLimitsOf(const Settings& settings) {
+    return {settings.loginAttemptsPerUser, settings.loginAttemptsPerAddress,
+            std::int64_t{60} * settings.loginWindowMinutes};
+}
+
+std::int64_t SessionSeconds(const Settings& settings) {
+    return std::int64_t{3600} * settings.sessionHours;
+}
+
+FrontOptions FrontOptionsOf(const Settings& settings) {
+    return {std::uint64_t{1024} * static_cast<std::uint64_t>(settings.maxBodyKilobytes),
+            settings.logRequests};
+}
+
+ServerLog MakeLog(ServerLog::Sink sink) {
+    return sink ? ServerLog::ToSink(std::move(sink)) : ServerLog::ToStandardError();
+}
+
+}  // namespace
+
+bool PrepareDataFolder(const Settings& settings, std::string& error) {
+    namespace fs = std::filesystem;
+    std::error_code failed;
+    const bool made = fs::create_directories(settings.data, failed);
+    if (made) fs::permissions(settings.data, fs::perms::owner_all, failed);
+    if (failed) error = "the data folder " + settings.data + " cannot be made: " + failed.message();
+    return !failed;
+}
+
+std::unique_ptr<SqliteAccounts> OpenAccounts(const Settings& settings, std::string& error) {
+    const std::string path = settings.data + "/accounts.db";
+    std::string reason;
+    auto accounts = SqliteAccounts::Open(path, reason);
+    if (accounts == nullptr) error = "the accounts " + path + " cannot be used: " + reason;
+    return accounts;
+}
+
+VoyageServer::VoyageServer(const Settings& settings, ServerParts parts,
+                           std::unique_ptr<SqliteStorage> storage, std::unique_ptr<SqliteAccounts> accounts)
+    : settings_(settings),
+      log_(MakeLog(std::move(parts.logSink))),
+      routes_(std::move(parts.routes)),
+      storage_(std::move(storage)),
+      accounts_(std::move(accounts)),
+      service_(*storage_, *routes_, parts.clock),
+      passwords_(parts.passwordCost),
+      sessions_(*accounts_, passwords_, LoginLimitsOf(settings), SessionSeconds(settings), parts.clock),
+      logins_(sessions_, SessionSeconds(settings)),
+      exchange_(service_, sessions_),
+      front_(
+          logins_, exchange_, [this] { return healthy(); }, metrics_, log_, FrontOptionsOf(settings)),
+      http_(front_, HttpLimitsOf(settings)) {}
+
+std::unique_ptr<VoyageServer> VoyageServer::Open(const Settings& settings, ServerParts parts,
+                                                 std::string& error) {
+    if (parts.routes == nullptr) {
+        error = "there is no source of routes";
+        return nullptr;
+    }
+    if (!PrepareDataFolder(settings, error)) return nullptr;
+    auto accounts = OpenAccounts(settings, error);
+    if (accounts == nullptr) return nullptr;
+    const std::string path = settings.data + "/voyages.db";
+    std::string reason;
+    auto storage = SqliteStorage::Open(path, reason);
+    if (storage == nullptr) {
+        error = "the voyages " + path + " cannot be used: " + reason;
+        return nullptr;
+    }
+    std::unique_ptr<VoyageServer> server(
+        new VoyageServer(settings, std::move(parts), std::move(storage), std::move(accounts)));
+    const TlsFiles tls{settings.tlsCertificate, settings.tlsKey};
+    if (!server->http_.Listen(settings.address, settings.port, tls, error)) return nullptr;
+    return server;
+}
+
+void VoyageServer::Run() {
+    log_.Write(LogLevel::Info, "started",
+               {{"address", settings_.address},
+                {"port", std::to_string(Port())},
+                {"tls", settings_.tlsCertificate.empty() ? "no" : "yes"},
+                {"data", settings_.data}});
+    http_.Run();
+    log_.Write(LogLevel::Info, "stopped");
+}
+
+bool VoyageServer::healthy() {
+    return accounts_->FindUser({}).Succeeded() && storage_->Catalog().LoadCatalog({}).Succeeded();
+}
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/net/http/HttpServer.h"
+#include "host/server/net/service/ServerFront.h"
+#include "host/server/net/settings/Settings.h"
+#include "host/server/net/users/SqliteAccounts.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+
+#include <memory>
+#include <string>
+
+namespace Tarvik::Server {
+
+/// What a server is given besides its settings.
+struct ServerParts {
+    std::unique_ptr<RouteSource> routes;
+    ServerClock clock = SystemSeconds;
+    PasswordCost passwordCost;
+    ServerLog::Sink logSink;  ///< empty: standard error
+};
+
+/// Makes the folder of the data bases, for its owner only, if it is not there. False with a text in `error`.
+bool PrepareDataFolder(const Settings& settings, std::string& error);
+
+/// The users of a data folder. Null with an English text in `error`.
+std::unique_ptr<SqliteAccounts> OpenAccounts(const Settings& settings, std::string& error);
+
+/// The whole server: data bases, voyage service, sessions, HTTP.
+class VoyageServer {
+  public:
+    /// Opens the data bases and the port. Null, with an English text in `error`, when anything fails.
+    static std::unique_ptr<VoyageServer> Open(const Settings& settings, ServerParts parts,
+                                              std::string& error);
+    VoyageServer(const VoyageServer&) = delete;
+    VoyageServer& operator=(const VoyageServer&) = delete;
+
+    std::uint16_t Port() const { return http_.Port(); }
+    AccountStorage& Accounts() { return *accounts_; }
+    const Metrics& Counts() const { return metrics_; }
+    /// Lets SIGTERM and SIGINT stop the server.
+    void StopOnSignals() { http_.StopOnSignals(); }
+    /// Serves until it was stopped and what was begun is done.
+    void Run();
+    /// From any thread.
+    void Stop() { http_.Stop(); }
+
+  private:
+    VoyageServer(const Settings& settings, ServerParts parts, std::unique_ptr<SqliteStorage> storage,
+                 std::unique_ptr<SqliteAccounts> accounts);
+    bool healthy();
+
+    Settings settings_;
+    ServerLog log_;
+    Metrics metrics_;
+    std::unique_ptr<RouteSource> routes_;
+    std::unique_ptr<SqliteStorage> storage_;
+    std::unique_ptr<SqliteAccounts> accounts_;
+    VoyageService service_;
+    Passwords passwords_;
+    Sessions sessions_;
+    LoginEndpoint logins_;
+    ExchangeEndpoint exchange_;
+    ServerFront front_;
+    HttpServer http_;
+};
+
+}  // namespace Tarvik::Server

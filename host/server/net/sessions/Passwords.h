@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace Tarvik::Server {
+
+/// What one password hash costs.
+struct PasswordCost {
+    std::uint64_t passes = 2;
+    std::size_t memoryBytes = 64U * 1024 * 1024;
+};
+
+/// Argon2id hashes of passwords. Each hash takes the memory and the passes of the cost, so callers bound how
+/// many run at once. Safe to call from any thread.
+class Passwords {
+  public:
+    explicit Passwords(PasswordCost cost = {});
+
+    /// A hash with salt and cost in one line of text; empty when memory is short.
+    std::string Hash(const std::string& password) const;
+    /// Whether the password belongs to the hash.
+    bool Matches(const std::string& hash, const std::string& password) const;
+    /// Takes as long as Matches for a user who is not there, so that names cannot be guessed by time.
+    void Pretend(const std::string& password) const;
+    /// Whether the hash was made at another cost than this.
+    bool IsOutdated(const std::string& hash) const;
+
+  private:
+    PasswordCost cost_;
+    std::string decoy_;
+};
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/net/settings/SettingsTable.h"
+
+#include "host/server/api/Numbers.h"
+
+#include <arpa/inet.h>
+
+namespace Tarvik::Server {
+namespace {
+
+SettingsEntry Text(std::string_view key, std::string Settings::*field, std::string_view meaning) {
+    return {key, meaning,
+            [field](Settings& settings, std::string_view text) {
+                settings.*field = text;
+                return std::string();
+            },
+            [field](const Settings& settings) { return settings.*field; }};
+}
+
+template <class Number>
+SettingsEntry Whole(std::string_view key, Number Settings::*field, Number least, Number most,
+                    std::string_view meaning) {
+    return {key, meaning,
+            [=](Settings& settings, std::string_view text) {
+                const auto number = ParseInteger(text, least, most);
+                if (!number) {
+                    return "must be a whole number from " + std::to_string(least) + " to " +
+                           std::to_string(most);
+                }
+                settings.*field = static_cast<Number>(*number);
+                return std::string();
+            },
+            [field](const Settings& settings) { return std::to_string(settings.*field); }};
+}
+
+SettingsEntry YesNo(std::string_view key, bool Settings::*field, std::string_view meaning) {
+    return {key, meaning,
+            [field](Settings& settings, std::string_view text) {
+                if (text != "yes" && text != "no") return std::string("must be yes or no");
+                settings.*field = text == "yes";
+                return std::string();
+            },
+            [field](const Settings& settings) { return std::string(settings.*field ? "yes" : "no"); }};
+}
+
+SettingsEntry Address() {
+    SettingsEntry entry =
+        Text("address", &Settings::address, "numeric address to listen at; 0.0.0.0 or :: for all");
+    const auto keep = entry.set;
+    entry.set = [keep](Settings& settings, std::string_view text) {
+        const std::string address(text);
+        in6_addr room{};
+        const bool numeric = inet_pton(AF_INET, address.c_str(), &room) == 1 ||
+                             inet_pton(AF_INET6, address.c_str(), &room) == 1;
+        return numeric ? keep(settings, text) : std::string("must be a numeric IPv4 or IPv6 address");
+    };
+    return entry;
+}
+
+std::vector<SettingsEntry> MakeTable() {
+    return {
+        Text("data", &Settings::data, "folder of the data bases; made when it is not there"),
+        Text("network", &Settings::network, "file of the sea network; empty: routes are refused"),
+        Address(),
+        Whole<std::uint16_t>("port", &Settings::port, 0, 65535, "TCP port; 0 for any free one"),
+        Text("tls_certificate", &Settings::tlsCertificate, "PEM file of the certificate chain"),
+        Text("tls_key", &Settings::tlsKey, "PEM file of the certificate's key"),
+        YesNo("allow_plain", &Settings::allowPlain,
+              "listen beyond this machine without TLS, behind a proxy that has it"),
+        Whole("workers", &Settings::workers, 1, 64, "threads that answer exchanges"),
+        Whole("session_hours", &Settings::sessionHours, 1, 8760, "a login lasts this long"),
+        Whole("login_attempts_per_user", &Settings::loginAttemptsPerUser, 0, 1000000,
+              "failed logins of a user name before it has to wait; 0: no limit"),
+        Whole("login_attempts_per_address", &Settings::loginAttemptsPerAddress, 0, 1000000,
+              "failed logins from an address before it has to wait; 0: no limit"),
+        Whole("login_window_minutes", &Settings::loginWindowMinutes, 1, 1440,
+              "failed logins are forgotten after this"),
+        Whole("max_body_kilobytes", &Settings::maxBodyKilobytes, 1, 16384, "largest request body"),
+        Whole("max_connections", &Settings::maxConnections, 1, 100000, "open connections"),
+        Whole("max_queue", &Settings::maxQueue, 1, 100000, "requests that may wait for a thread"),
+        Whole("idle_seconds", &Settings::idleSeconds, 1, 3600, "a connection may be silent between requests"),
+        Whole("request_seconds", &Settings::requestSeconds, 1, 3600,
+              "for a request to arrive whole and for a reply to be taken"),
+        Whole("stop_seconds", &Settings::stopSeconds, 0, 3600, "for begun requests when the server stops"),
+        YesNo("log_requests", &Settings::logRequests, "a log line for every request"),
+    };
+}
+
+}  // namespace
+
+const std::vector<SettingsEntry>& SettingsTable() {
+    static const std::vector<SettingsEntry> table = MakeTable();
+    return table;
+}
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/net/tests/TestCertificate.h"
+
+#include <openssl/evp.h>
+#include <openssl/pem.h>
+#include <openssl/x509v3.h>
+
+#include <cstdio>
+#include <memory>
+#include <stdexcept>
+
+namespace Tarvik::Server {
+namespace {
+
+using Key = std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)>;
+using Certificate = std::unique_ptr<X509, decltype(&X509_free)>;
+using File = std::unique_ptr<std::FILE, decltype(&std::fclose)>;
+
+void Require(bool done) {
+    if (!done) throw std::runtime_error("the test certificate cannot be made");
+}
+
+void AddExtension(X509* certificate, int kind, const char* value) {
+    const std::unique_ptr<X509_EXTENSION, decltype(&X509_EXTENSION_free)> extension(
+        X509V3_EXT_conf_nid(nullptr, nullptr, kind, value), &X509_EXTENSION_free);
+    Require(extension && X509_add_ext(certificate, extension.get(), -1) == 1);
+}
+
+}  // namespace
+
+void WriteTestCertificate(const std::string& certificateFile, const std::string& keyFile) {
+    constexpr long kTenYears = 10L * 365 * 24 * 3600;
+    const Key key(EVP_EC_gen("P-256"), &EVP_PKEY_free);
+    const Certificate certificate(X509_new(), &X509_free);
+    Require(key && certificate);
+    X509_set_version(certificate.get(), 2);
+    ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), 1);
+    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), -kTenYears);
+    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), kTenYears);
+    X509_set_pubkey(certificate.get(), key.get());
+    X509_NAME* name = X509_get_subject_name(certificate.get());
+    const auto* text = reinterpret_cast<const unsigned char*>("voyage server under test");
+    Require(X509_NAME_add_entry_by_txt(name, "CN", MBSTRING_ASC, text, -1, -1, 0) == 1);
+    X509_set_issuer_name(certificate.get(), name);
+    AddExtension(certificate.get(), NID_subject_alt_name, "IP:127.0.0.1");
+    AddExtension(certificate.get(), NID_basic_constraints, "critical,CA:TRUE");
+    Require(X509_sign(certificate.get(), key.get(), EVP_sha256()) > 0);
+    const File out(std::fopen(certificateFile.c_str(), "wb"), &std::fclose);
+    const File secret(std::fopen(keyFile.c_str(), "wb"), &std::fclose);
+    Require(out && PEM_write_X509(out.get(), certificate.get()) == 1);
+    Require(secret &&
+            PEM_write_PrivateKey(secret.get(), key.get(), nullptr, nullptr, 0, nullptr, nullptr) == 1);
+}
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/ais/AisCorrection.h"
+
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Schedule.h"
+
+#include <tarvik/interface/ValueDictionary.h>
+
+#include <map>
+#include <utility>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr int kEnglish = 1033;
+constexpr double kLeastFixSpeed = 0.1;  // knots
+constexpr const char* kFixName = "AIS track point";
+
+using Positions = std::vector<std::string>;
+using Util::_datetime_t;
+
+/// Builds the new rows of a book, leg by leg.
+class FixInsertion {
+  public:
+    FixInsertion(const _datetime_t& fix, const PortCallRows& ports, const Positions& positions)
+        : fix_(fix), ports_(ports), positions_(positions) {}
+
+    int AddLeg(std::size_t port, const BookPoints& group) {
+        if (group.back().etd < fix_) {
+            addAll(group);
+            return 0;
+        }
+        if (rows_.empty()) {
+            return -5;
+        }
+        if (rows_.back().etd > fix_) {
+            addAll(group);
+            return 0;
+        }
+        return addCorrectedLeg(port, group);
+    }
+
+    BookPoints& Rows() { return rows_; }
+    bool Applied() const { return applied_; }
+
+  private:
+    void addAll(const BookPoints& group) { rows_.insert(rows_.end(), group.begin(), group.end()); }
+
+    /// What was sailed before the fix, the fix, the server's way, and the port.
+    int addCorrectedLeg(std::size_t port, const BookPoints& group) {
+        for (std::size_t i = 0; i < group.size() && group[i].etd < fix_; ++i) {
+            rows_.push_back(group[i]);
+        }
+        for (std::size_t k = 0; k + 1 < positions_.size(); ++k) {
+            PosBookPoint row;
+            row.position = positions_[k];
+            row.eta = fix_;
+            row.etd = fix_;
+            if (k > 0) {
+                rows_.push_back(std::move(row));
+            } else if (const int code = addFix(port, std::move(row)); code != 0) {
+                return code;
+            }
+        }
+        rows_.push_back(group.back());
+        return 0;
+    }
+
+    int addFix(std::size_t port, PosBookPoint row) {
+        float hours = 0;
+        float distance = 0;
+        const PosBookPoint& before = rows_.back();
+        if (HoursBetween(fix_.fmt(kTimeFormat), before.etd.fmt(kTimeFormat), hours) != 0) {
+            return -6;
+        }
+        if (LegDistance(before.position, row.position, "GC", distance) != 0) {
+            return -7;
+        }
+        const double weather = port < ports_.size() ? static_cast<double>(ports_[port].pw) : 0.0;
+        const double speed =
+            SpeedForSteamTime(static_cast<double>(distance), static_cast<double>(hours), weather);
+        if (hours <= 0 || !(speed > kLeastFixSpeed)) {
+            applied_ = false;
+            return 0;
+        }
+        row.psp = static_cast<float>(speed);
+        row.psn = kFixName;
+        row.pst = AisTrackPoint;
+        rows_.push_back(std::move(row));
+        return 0;
+    }
+
+    const _datetime_t& fix_;
+    const PortCallRows& ports_;
+    const Positions& positions_;
+    BookPoints rows_;
+    bool applied_ = true;
+};
+
+}  // namespace
+
+int NextPortsAfter(const _datetime_t& fix, const PortCallRows& ports, Positions& ids) {
+    ids.clear();
+    if (ports.size() < 2) {
+        return -1;
+    }
+    PortCallRows timed;
+    if (RecomputeSchedule(ports, timed) != 0) {
+        return -2;
+    }
+    for (const auto& port : timed) {
+        if (port.etd > fix) {
+            ids.push_back(Interface::GetNameByValue("/points", port.ppn, kEnglish));
+        }
+    }
+    return 0;
+}
+
+int RestOfBookPositions(const PortCallRows& ports, const BookPoints& rows, std::size_t nextPorts,
+                        Positions& positions) {
+    positions.clear();
+    if (nextPorts > ports.size()) {
+        return -1;
+    }
+    std::map<int, BookPoints> groups;
+    if (GroupBookByPort(rows, groups) != 0) {
+        return -2;
+    }
+    // The index stands still, so one group comes as often as there are ports behind the next one.
+    const auto index = static_cast<int>(ports.size() - nextPorts + 1);
+    Positions rest;
+    for (std::size_t k = 0; k + 1 < nextPorts; ++k) {
+        const auto group = groups.find(index);
+        if (group == groups.end()) {
+            return -3;
+        }
+        for (const auto& row : group->second) {
+            rest.push_back(row.position);
+        }
+    }
+    positions = std::move(rest);
+    return 0;
+}
+
+int InsertAisPosition(const _datetime_t& fix, const PortCallRows& ports, const Positions& positions,
+                      VoyPositionBook& book, int& applied) {
+    applied = 1;
+    BookPoints timed = book.points;
+    if (ComputeBookTimes(book.eta, ports, timed) != 0) {
+        return -1;
+    }
+    std::map<int, BookPoints> groups;
+    if (GroupBookByPort(timed, groups) != 0) {
+        return -2;
+    }
+    FixInsertion insertion(fix, ports, positions);
+    for (std::size_t i = 0; i < ports.size(); ++i) {
+        const auto group = groups.find(static_cast<int>(i));
+        if (group == groups.end()) {
+            return -3;
+        }
+        if (group->second.empty()) {
+            return -4;
+        }
+        if (const int code = insertion.AddLeg(i, group->second); code != 0) {
+            return code;
+        }
+    }
+    applied = insertion.Applied() ? 1 : 0;
+    book.points = std::move(insertion.Rows());
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

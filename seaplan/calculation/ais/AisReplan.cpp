@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/ais/AisReplan.h"
+
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/ais/AisRows.h"
+
+#include <tarvik/util/StringUtl.h>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr float kFirstSpeed = 10.0F;
+
+/// A position in the three decimals by which the ship's own is told.
+std::string threeDecimals(const std::string& text) {
+    Position place;
+    return ReadPosition(text, 0, place) ? Util::StringUtl::Format("%.3f,%.3f", place.x, place.y) : text;
+}
+
+/// The way to the first planned port; its last point is the port.
+void addWay(const std::vector<std::string>& nearest, const VoyPortCall& port, BookPoints& rows) {
+    const double speed = (1 - static_cast<double>(port.pw)) * static_cast<double>(port.psp);
+    for (std::size_t i = 1; i < nearest.size(); ++i) {
+        PosBookPoint row;
+        row.position = nearest[i];
+        row.psp = static_cast<float>(speed);
+        rows.push_back(std::move(row));
+    }
+    rows.back().psn = port.ppn;
+    rows.back().pst = PortPoint;
+}
+
+}  // namespace
+
+int ShipPositionOf(const PortCallRows& history, std::string& position) {
+    if (history.empty() || !IsAisRow(history.back())) {
+        return -3;
+    }
+    const std::string& name = history.back().ppn;
+    const auto comma = name.find(',');
+    if (comma == std::string::npos) {
+        return -3;
+    }
+    position = name.substr(comma + 1) + "," + name.substr(0, comma);
+    return 0;
+}
+
+int ReplanBook(const BookPoints& stored, const std::string& position, const std::vector<std::string>& nearest,
+               const PortCallRows& plan, const BookPoints& ahead, BookPoints& out) {
+    const std::string ship = threeDecimals(position);
+    const auto at = std::find_if(stored.begin(), stored.end(), [&](const PosBookPoint& row) {
+        return threeDecimals(row.position) == ship;
+    });
+    if (at == stored.end()) {
+        return -4;
+    }
+    if (nearest.size() < 2 || plan.empty()) {
+        return -5;
+    }
+    BookPoints rows(stored.begin(), at + 1);
+    addWay(nearest, plan.front(), rows);
+    if (!ahead.empty()) {
+        BookPoints scaled = ahead;
+        scaled.front().psp = kFirstSpeed;
+        RescaleBookSpeeds(plan, scaled);
+        rows.insert(rows.end(), scaled.begin() + 1, scaled.end());
+    }
+    out = std::move(rows);
+    return 0;
+}
+
+PortCallRows JoinHistoryAndPlan(const PortCallRows& history, const PortCallRows& plan) {
+    PortCallRows rows;
+    std::remove_copy_if(history.begin(), history.end(), std::back_inserter(rows), IsAisRow);
+    for (const auto& row : plan) {
+        rows.push_back(row);
+        if (IsBlankCell(row.pp)) {
+            rows.back().pp = "D";
+        }
+    }
+    return rows;
+}
+
+}  // namespace Tarvik::Seaplan

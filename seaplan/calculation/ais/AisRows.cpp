@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/ais/AisRows.h"
+
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Schedule.h"
+
+#include <tarvik/util/StringUtl.h>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr double kLeastHours = 0.001;
+constexpr double kLeastDistance = 0.001;
+constexpr double kSameMoment = 0.01;  // hours
+constexpr const char* kAisPurpose = " ";
+
+/// Miles and hours of a stretch.
+struct Stretch {
+    double distance = 0;
+    double hours = 0;
+
+    void Add(const Stretch& other) {
+        distance += other.distance;
+        hours += other.hours;
+    }
+    double Speed() const { return hours < kLeastHours ? 0.0 : distance / hours; }
+};
+
+std::string timeText(const PosBookPoint& row) {
+    return row.etd.fmt(kTimeFormat);
+}
+
+bool stretchBetween(const PosBookPoint& from, const PosBookPoint& to, Stretch& out) {
+    float distance = 0;
+    float hours = 0;
+    if (LegDistance(from.position, to.position, to.psr, distance) != 0 ||
+        HoursBetween(timeText(to), timeText(from), hours) != 0) {
+        return false;
+    }
+    out = {static_cast<double>(distance), static_cast<double>(hours)};
+    return true;
+}
+
+void takeStretch(const Stretch& stretch, VoyPortCall& row) {
+    row.distance = static_cast<float>(stretch.distance);
+    row.steamTime = static_cast<float>(stretch.hours);
+    row.psp = static_cast<float>(stretch.Speed());
+}
+
+VoyPortCall aisRow(const PosBookPoint& point, const Stretch& stretch) {
+    Position place;
+    ReadPosition(point.position, 0, place);
+    VoyPortCall row;
+    row.ppn = Util::StringUtl::Format("%.3f,%.3f", place.y, place.x);
+    row.pp = kAisPurpose;
+    row.eta = point.etd;
+    row.etd = point.etd;
+    takeStretch(stretch, row);
+    return row;
+}
+
+/// Adds the rows of one leg; `last` is the place before it and becomes its port.
+int addLeg(const VoyPortCall& port, const BookPoints& group, PosBookPoint& last, PortCallRows& out) {
+    Stretch sums;
+    for (const auto& row : group) {
+        Stretch step;
+        if (!stretchBetween(last, row, step)) {
+            return -4;
+        }
+        // A position right behind another row of the table has only its own step.
+        const bool ownStepOnly = row.pst == AisTrackPoint && sums.distance < kLeastDistance;
+        if (ownStepOnly) {
+            sums = step;
+        } else {
+            sums.Add(step);
+        }
+        if (row.pst == PortPoint || row.pst == AisTrackPoint) {
+            if (row.pst == PortPoint) {
+                out.push_back(port);
+                takeStretch(sums, out.back());
+            } else {
+                out.push_back(aisRow(row, sums));
+            }
+            sums = {};
+        }
+        last = row;
+    }
+    return 0;
+}
+
+/// The first row left at about this time.
+std::optional<std::size_t> rowLeftAt(const std::string& time, const BookPoints& rows) {
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        float hours = 0;
+        if (HoursBetween(timeText(rows[i]), time, hours) == 0 &&
+            std::fabs(static_cast<double>(hours)) <= kSameMoment) {
+            return i;
+        }
+    }
+    return std::nullopt;
+}
+
+int sumAround(const BookPoints& group, std::size_t found, Stretch& before, Stretch& after) {
+    for (std::size_t i = 1; i < group.size(); ++i) {
+        Stretch step;
+        if (!stretchBetween(group[i - 1], group[i], step)) {
+            return -6;
+        }
+        if (step.hours < 0) {
+            return -7;
+        }
+        (i <= found ? before : after).Add(step);
+    }
+    return 0;
+}
+
+}  // namespace
+
+bool IsAisRow(const VoyPortCall& row) {
+    return row.pp == kAisPurpose;
+}
+
+int BuildAisRows(const PortCallRows& ports, const BookPoints& rows, PortCallRows& out) {
+    out.clear();
+    if (ports.empty()) {
+        return -1;
+    }
+    std::map<int, BookPoints> groups;
+    if (GroupBookByPort(rows, groups) != 0) {
+        return -2;
+    }
+    PortCallRows result{ports.front()};
+    PosBookPoint last = groups.at(0).back();
+    for (std::size_t i = 1; i < ports.size(); ++i) {
+        const auto group = groups.find(static_cast<int>(i));
+        if (group == groups.end()) {
+            return -3;
+        }
+        if (const int code = addLeg(ports[i], group->second, last, result); code != 0) {
+            return code;
+        }
+    }
+    out = std::move(result);
+    return 0;
+}
+
+int SplitCorrectedVoyage(const VoyPositionBook& book, const PortCallRows& ports, PortCallRows& before,
+                         PortCallRows& after) {
+    BookPoints timed = book.points;
+    if (ComputeBookTimes(book.eta, ports, timed) != 0) {
+        return -3;
+    }
+    PortCallRows rows;
+    if (BuildAisRows(ports, timed, rows) != 0) {
+        return -4;
+    }
+    const auto last = std::find_if(rows.rbegin(), rows.rend(), IsAisRow);
+    const auto behind = last.base();  // the row behind the last position
+    if (std::distance(rows.begin(), behind) <= 1) {
+        return -5;
+    }
+    before.assign(rows.begin(), behind);
+    after.assign(behind, rows.end());
+    return 0;
+}
+
+int AverageSpeedsAround(const std::string& time, const BookPoints& rows, SpeedsAround& speeds) {
+    float ignored = 0;
+    if (HoursBetween(time, time, ignored) != 0) {
+        return -1;
+    }
+    std::map<int, BookPoints> groups;
+    if (GroupBookByPort(rows, groups) != 0) {
+        return -2;
+    }
+    Stretch before;
+    Stretch after;
+    for (const auto& [index, group] : groups) {
+        const auto found = rowLeftAt(time, group);
+        if (!found || group.size() < 2) {
+            continue;
+        }
+        if (const int code = sumAround(group, *found, before, after); code != 0) {
+            return code;
+        }
+    }
+    if (before.hours > kLeastHours) {
+        speeds.before = static_cast<float>(before.distance / before.hours);
+    }
+    if (after.hours > kLeastHours) {
+        speeds.after = static_cast<float>(after.distance / after.hours);
+    }
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

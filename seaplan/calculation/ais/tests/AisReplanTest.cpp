@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/ais/AisReplan.h"
+
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/ais/AisRows.h"
+#include "seaplan/calculation/tests/Rows.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+using namespace Testing;
+
+VoyPortCall blankPurpose(VoyPortCall row, std::string purpose = " ") {
+    row.pp = std::move(purpose);
+    return row;
+}
+
+struct ReplanTest : ::testing::Test {
+    BookPoints stored{port("0,0", 0), point("1.5,0.25", AisTrackPoint), point("2,0"), port("3,0")};
+    PortCallRows plan{call("B", 0, 12, 0.25F)};
+    BookPoints out{port("kept")};
+};
+
+TEST_F(ReplanTest, ShipsPositionIsItsRowsNameTurnedRound) {
+    std::string position;
+    EXPECT_EQ(ShipPositionOf({call("A", 0), blankPurpose(call("0.250,1.500", 0))}, position), 0);
+    EXPECT_EQ(position, "1.500,0.250");
+}
+
+TEST_F(ReplanTest, HistoryThatEndsInAPortHasNoShipsPosition) {
+    std::string position = "kept";
+    EXPECT_EQ(ShipPositionOf({}, position), -3);
+    EXPECT_EQ(ShipPositionOf({blankPurpose(call("1,2", 0)), call("B", 0)}, position), -3);
+    EXPECT_EQ(ShipPositionOf({blankPurpose(call("nowhere", 0))}, position), -3);
+    EXPECT_EQ(position, "kept");
+}
+
+TEST_F(ReplanTest, BookGoesOnFromTheShipToThePlannedPort) {
+    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {"1.5,0.25", "2,1", "3,2"}, plan, {}, out), 0);
+    EXPECT_EQ(positions(out), "0,0|1.5,0.25|2,1|3,2");
+    EXPECT_EQ(out[2].psp, 9) << "weather slows the planned speed";
+    EXPECT_EQ(out[2].pst, PlainPoint);
+    EXPECT_EQ(out[2].psn, "");
+    EXPECT_EQ(out[3].psn, "B");
+    EXPECT_EQ(out[3].pst, PortPoint);
+    EXPECT_EQ(out[3].psp, 9);
+}
+
+TEST_F(ReplanTest, FirstRowAtThePositionCounts) {
+    stored.insert(stored.begin() + 1, point("1.5001,0.2501"));
+    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {"", "3,2"}, plan, {}, out), 0);
+    EXPECT_EQ(positions(out), "0,0|1.5001,0.2501|3,2") << "positions are told with three decimals";
+}
+
+TEST_F(ReplanTest, RouteBetweenPlannedPortsFollowsWithoutItsFirstRow) {
+    plan.push_back(call("C", 0, 20));
+    const BookPoints ahead{port("3,2", 0), point("4,2"), port("5,2")};
+    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {"1.5,0.25", "3,2"}, plan, ahead, out), 0);
+    EXPECT_EQ(positions(out), "0,0|1.5,0.25|3,2|4,2|5,2");
+    EXPECT_FLOAT_EQ(out[3].psp, 20) << "scaled to the plan's speed";
+    EXPECT_FLOAT_EQ(out[4].psp, 20);
+}
+
+TEST_F(ReplanTest, RouteThatCannotBeScaledIsTakenAsItStands) {
+    const BookPoints ahead{port("3,2", 0), point("4,2"), port("5,2")};
+    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {"1.5,0.25", "3,2"}, plan, ahead, out), 0);
+    EXPECT_EQ(out[4].psp, 10);
+}
+
+TEST_F(ReplanTest, FailuresLeaveTheBook) {
+    EXPECT_EQ(ReplanBook(stored, "9.000,9.000", {"a", "b"}, plan, {}, out), -4);
+    EXPECT_EQ(ReplanBook({}, "1.500,0.250", {"a", "b"}, plan, {}, out), -4);
+    EXPECT_EQ(ReplanBook(stored, "1.500,0.250", {"1,2"}, plan, {}, out), -5);
+    EXPECT_EQ(ReplanBook(stored, "1.500,0.250", {}, plan, {}, out), -5);
+    EXPECT_EQ(ReplanBook(stored, "1.500,0.250", {"1,2", "3,4"}, {}, {}, out), -5);
+    EXPECT_EQ(positions(out), "kept");
+}
+
+TEST_F(ReplanTest, PortsOfHistoryAndPlanAreJoined) {
+    const auto rows = JoinHistoryAndPlan(
+        {call("A", 0), blankPurpose(call("x", 0)), call("B", 0), blankPurpose(call("y", 0))},
+        {blankPurpose(call("C", 0)), blankPurpose(call("D", 0), ""), blankPurpose(call("E", 0), "L")});
+    ASSERT_EQ(names(rows), "ABCDE");
+    EXPECT_EQ(rows[2].pp + rows[3].pp + rows[4].pp, "DDL");
+    EXPECT_TRUE(JoinHistoryAndPlan({}, {}).empty());
+}
+
+// The whole way: a corrected voyage is split, planned anew, and its totals follow the new book.
+TEST_F(ReplanTest, ReplannedVoyageHasTotals) {
+    VoyPositionBook book;
+    book.eta = at(1, 0);
+    book.points = stored;
+    PortCallRows ports{call("A", 0, 0), call("B", 100)};
+    PortCallRows history;
+    ASSERT_EQ(SplitCorrectedVoyage(book, ports, history, plan), 0);
+    std::string ship;
+    ASSERT_EQ(ShipPositionOf(history, ship), 0);
+    ASSERT_EQ(ReplanBook(book.points, ship, {"1.5,0.25", "3,2"}, plan, {}, book.points), 0);
+    ports = JoinHistoryAndPlan(history, plan);
+    ASSERT_EQ(LegTotalsFromBook(book, ports), 0);
+    EXPECT_EQ(names(ports), "AB");
+    EXPECT_GT(ports[1].distance, 200);
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/calculation/book/BookRecompute.h"
+#include "seaplan/data/PosBookData.h"
+
+#include <string>
+
+/// Checks of what a person types into the position book.
+namespace Tarvik::Seaplan {
+
+/// Why a value is refused; each has a message of its own.
+enum class BookRefusal { None, NotANumber, Latitude, Longitude, Speed, Date };
+
+/// Whether a text is one leading "-" at most, then digits, commas and at most one ".". Legal: "", "-", "12",
+/// "-1.5", "1,5" (which reads as 1). Illegal: ".", "-.", "1.2.3", " 1", "1e3", "+1", 1024 characters behind
+/// the sign or more.
+bool IsNumberText(const std::string& text);
+/// Degrees above -90 and below 90; `value` is set when nothing is wrong.
+BookRefusal CheckLatitude(const std::string& text, double& value);
+/// Degrees above -180 and below 180.
+BookRefusal CheckLongitude(const std::string& text, double& value);
+/// A speed in the unit on show, above 0 and up to 50 knots or 92.6 km/h; `value` is in km/h.
+BookRefusal CheckSpeed(const std::string& text, BookSpeedUnit unit, double& value);
+/// Takes `time` (UTC) as the port's departure: its stay becomes what lies between arrival and `time`.
+/// Refused, with the port as it was, for a time before the arrival.
+BookRefusal ChangeDeparture(const Util::_datetime_t& time, PosBookPortRow& port);
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/book/BookPanel.h"
+
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/PositionBook.h"
+
+#include <tarvik/interface/ValueDictionary.h>
+#include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/StringUtl.h>
+
+#include <utility>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr double kKmPerNauticalMile = 1.852;
+constexpr double kEastOfLine = 179.0;
+constexpr double kWestOfLine = -179.0;
+constexpr int kEnglish = 1033;
+constexpr int kPortDecimals = 4;
+constexpr int kWaypointDecimals = 3;
+constexpr const char* kPlanZone = "China Standard Time";
+
+using Util::DateTimeUtl;
+using Util::StringUtl;
+
+double kmPerHour(float knots) {
+    return static_cast<double>(knots) * kKmPerNauticalMile;
+}
+
+float knots(double kmPerHour) {
+    return static_cast<float>(kmPerHour / kKmPerNauticalMile);
+}
+
+/// Speeds of the AIS track in order; nothing is left behind the last.
+class AisSpeeds {
+  public:
+    explicit AisSpeeds(const std::vector<float>& speeds) : speeds_(speeds) {}
+    double Next() { return next_ < speeds_.size() ? kmPerHour(speeds_[next_++]) : 0; }
+
+  private:
+    const std::vector<float>& speeds_;
+    std::size_t next_ = 0;
+};
+
+/// Position, speed and way of sailing of a stored row; false without a comma in the position.
+bool takeRow(const PosBookPoint& from, PosBookPlace& to) {
+    Position position;
+    if (!ReadPosition(from.position, 0, position)) {
+        return false;
+    }
+    to.x = position.x;
+    to.y = position.y;
+    to.speed = kmPerHour(from.psp);
+    to.interval = from.pli;
+    to.track = from.psr;
+    return true;
+}
+
+void takeCall(const VoyPortCall& call, PosBookPortRow& port) {
+    port.id = Interface::GetNameByValue("/points", call.ppn, kEnglish);
+    port.name = call.ppn;
+    port.purpose = call.pp;
+    port.weather = static_cast<double>(call.pw);
+    port.portTime = static_cast<double>(call.apt);
+    port.eta = DateTimeUtl::ConvertToUTC(call.eta, kPlanZone);
+    port.etd = DateTimeUtl::ConvertToUTC(call.etd, kPlanZone);
+}
+
+/// A port with its rows, the last of which is the port itself.
+int takePort(const VoyPortCall& call, const BookPoints& group, AisSpeeds& aisSpeeds, PosBookPortRow& port) {
+    if (group.empty()) {
+        return -3;
+    }
+    takeCall(call, port);
+    if (!takeRow(group.back(), port)) {
+        return -4;
+    }
+    for (std::size_t i = 0; i + 1 < group.size(); ++i) {
+        PosBookRow row;
+        if (!takeRow(group[i], row)) {
+            return -5;
+        }
+        row.kind = group[i].pst;
+        row.id = group[i].pointId;
+        row.name = group[i].psn;
+        row.aisSpeed = row.kind == AisTrackPoint ? aisSpeeds.Next() : 0;
+        port.rows.push_back(std::move(row));
+    }
+    return 0;
+}
+
+PosBookPoint storedPoint(const PosBookPlace& place, int kind, int decimals) {
+    PosBookPoint point;
+    point.pointId = place.id;
+    point.psn = place.name;
+    point.position = StringUtl::Format("%.*f,%.*f", decimals, place.x, decimals, place.y);
+    point.psr = place.track;
+    point.pli = place.interval;
+    point.psp = knots(place.speed);
+    point.course = static_cast<float>(place.course);
+    point.pst = kind;
+    return point;
+}
+
+VoyPortCall storedCall(const PosBookPortRow& port) {
+    VoyPortCall call;
+    call.ppi = port.id;
+    call.ppn = port.name;
+    call.pp = port.purpose;
+    call.psp = knots(port.speed);
+    call.pw = static_cast<float>(port.weather);
+    call.apt = static_cast<float>(port.portTime);
+    call.eta = DateTimeUtl::ConvertFromUTC(port.eta, kPlanZone);
+    call.etd = DateTimeUtl::ConvertFromUTC(port.etd, kPlanZone);
+    return call;
+}
+
+}  // namespace
+
+int BookToPanel(const VoyInfo& voyage, PosBookData& out, const std::vector<float>& aisSpeeds) {
+    if (voyage.portCalls.size() < 2) {
+        return -1;
+    }
+    std::map<int, BookPoints> groups;
+    if (GroupBookByPort(voyage.positionBook.points, groups) != 0 ||
+        groups.size() != voyage.portCalls.size()) {
+        return -2;
+    }
+    PosBookData book;
+    AisSpeeds speeds(aisSpeeds);
+    for (std::size_t i = 0; i < voyage.portCalls.size(); ++i) {
+        PosBookPortRow port;
+        const int code = takePort(voyage.portCalls[i], groups[static_cast<int>(i)], speeds, port);
+        if (code != 0) {
+            return code;
+        }
+        book.ports.push_back(std::move(port));
+    }
+    book.crossesDateLine = CrossesDateLine(book);
+    out = std::move(book);
+    return 0;
+}
+
+int PanelToBook(const PosBookData& in, VoyInfo& out) {
+    if (in.ports.size() < 2) {
+        return -1;
+    }
+    PortCallRows calls;
+    BookPoints points;
+    for (const auto& port : in.ports) {
+        for (const auto& row : port.rows) {
+            points.push_back(storedPoint(row, row.kind, kWaypointDecimals));
+        }
+        points.push_back(storedPoint(port, PortPoint, kPortDecimals));
+        calls.push_back(storedCall(port));
+    }
+    out.portCalls = std::move(calls);
+    out.positionBook.points = std::move(points);
+    return 0;
+}
+
+bool CrossesDateLine(const PosBookData& book) {
+    bool east = false;
+    bool west = false;
+    const auto look = [&](const PosBookPlace& place) {
+        east = east || place.x > kEastOfLine;
+        west = west || place.x < kWestOfLine;
+    };
+    for (const auto& port : book.ports) {
+        look(port);
+        for (const auto& row : port.rows) {
+            look(row);
+        }
+    }
+    return east && west;
+}
+
+}  // namespace Tarvik::Seaplan

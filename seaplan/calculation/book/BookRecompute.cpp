@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/book/BookRecompute.h"
+
+#include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/Geodesy.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr double kKmPerNauticalMile = 1.852;
+constexpr double kHoursPerDay = 24.0;
+
+using Util::CircleLineUtl;
+using Util::DateTimeUtl;
+
+/// Walks the book with the ship, place by place.
+class BookWalk {
+  public:
+    BookWalk(const PosBookPortRow& start, const Util::_datetime_t& now)
+        : x_(start.x), y_(start.y), time_(start.etd), now_(now) {}
+
+    void Sail(PosBookRow& row, int sub) {
+        row.course = courseTo(row);
+        const double distance = moveTo(row);
+        const double hours = hoursFor(distance, row);
+        totals_.totalDistance += distance;
+        totals_.totalTime += hours;
+        arrive(row, hours);
+        if (now_ >= time_) {
+            totals_.passedSub = sub;
+        }
+    }
+
+    /// A place where the ship was seen; it is no part of the plan.
+    void SailToSighting(PosBookRow& row) { arrive(row, hoursFor(moveTo(row), row)); }
+
+    void Leave(PosBookPortRow& port) {
+        x_ = port.x;
+        y_ = port.y;
+        time_ = port.etd;
+        port.speed = 0;
+        port.course = 0;
+        if (now_ >= time_) {
+            totals_.passedPort = 0;
+        }
+    }
+
+    void Call(PosBookPortRow& port, int index) {
+        port.course = courseTo(port);
+        const double distance = moveTo(port);
+        const double hours = hoursFor(distance, port);
+        totals_.totalDistance += distance;
+        totals_.totalTime += hours + port.portTime;
+        port.eta = DateTimeUtl::AddHour(time_, hours);
+        port.etd = DateTimeUtl::AddHour(port.eta, port.portTime);
+        time_ = port.etd;
+        if (now_ >= port.eta) {
+            totals_.passedPort = index;
+        }
+    }
+
+    const BookTotals& Totals() const { return totals_; }
+
+  private:
+    double courseTo(const PosBookPlace& place) const {
+        return Util::CCourse::CalCourse(x_, y_, place.x, place.y);
+    }
+    double moveTo(const PosBookPlace& place) {
+        const double km = CircleLineUtl::CalculateDistance(x_, y_, place.x, place.y, place.track);
+        x_ = place.x;
+        y_ = place.y;
+        return km;
+    }
+    static double hoursFor(double km, const PosBookPlace& place) {
+        return km / ((1 - place.weather) * place.speed);
+    }
+    void arrive(PosBookRow& row, double hours) {
+        row.eta = DateTimeUtl::AddHour(time_, hours);
+        row.etd = row.eta;
+        time_ = row.etd;
+    }
+
+    double x_;
+    double y_;
+    Util::_datetime_t time_;
+    const Util::_datetime_t& now_;
+    BookTotals totals_;
+};
+
+void sailLeg(std::vector<PosBookRow>& rows, BookWalk& walk) {
+    for (std::size_t s = 0; s < rows.size(); ++s) {
+        if (s >= 1 && rows[s].kind == AisTrackPoint && rows[s - 1].kind == PlainPoint) {
+            walk.SailToSighting(rows[s]);
+        } else {
+            walk.Sail(rows[s], static_cast<int>(s));
+        }
+    }
+}
+
+void showIn(const BookUnits& units, BookTotals& totals) {
+    totals.averageSpeed = totals.totalDistance / totals.totalTime;
+    if (units.speed == BookSpeedUnit::Knots) {
+        totals.averageSpeed /= kKmPerNauticalMile;
+    }
+    if (units.distance == BookDistanceUnit::NauticalMiles) {
+        totals.totalDistance /= kKmPerNauticalMile;
+    }
+    if (units.time == BookTimeUnit::Days) {
+        totals.totalTime /= kHoursPerDay;
+    }
+}
+
+}  // namespace
+
+BookTotals RecomputeBook(PosBookData& book, const BookUnits& units, const Util::_datetime_t& now) {
+    BookTotals totals;
+    if (!book.ports.empty()) {
+        BookWalk walk(book.ports.front(), now);
+        for (std::size_t p = 0; p < book.ports.size(); ++p) {
+            sailLeg(book.ports[p].rows, walk);
+            if (p == 0) {
+                walk.Leave(book.ports[p]);
+            } else {
+                walk.Call(book.ports[p], static_cast<int>(p));
+            }
+        }
+        totals = walk.Totals();
+    }
+    showIn(units, totals);
+    return totals;
+}
+
+bool IsPassed(const BookTotals& totals, int port, int sub) {
+    return port <= totals.passedPort ||
+           (port == totals.passedPort + 1 && sub >= 0 && sub <= totals.passedSub);
+}
+
+}  // namespace Tarvik::Seaplan

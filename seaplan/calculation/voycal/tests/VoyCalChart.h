@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <tarvik/interface/ChartRecords.h>
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan::Testing {
+
+/// A chart that knows ports and a view, and writes down, one text a call, what it is asked for. The bus is
+/// empty before and behind it.
+class VoyCalChart : public Core::TObject {
+  public:
+    VoyCalChart();
+    ~VoyCalChart() override;
+    VoyCalChart(const VoyCalChart&) = delete;
+    VoyCalChart& operator=(const VoyCalChart&) = delete;
+
+    /// Calls that begin with `word`.
+    std::vector<std::string> CallsOf(const std::string& word) const;
+
+    std::vector<std::string> calls;
+    std::vector<Interface::TrvMapLineParams> lines;
+    std::vector<Interface::TrvMapPointParams> labels;
+    std::map<std::string, Interface::TrvMapPort> ports;
+    std::optional<Interface::TrvMapExtent> view;
+
+  private:
+    template <auto Method>
+    void bind(const char* name);
+    void* addLayer(void* input);
+    void* removeLayer(void* input);
+    void* addLine(void* input);
+    void* addLabel(void* input);
+    void* deleteByType(void* input);
+    void* getPort(void* input);
+    void* getExtent(void* input);
+    void* setExtent(void* input);
+
+    std::deque<Core::TEvent> delegates_;
+};
+
+}  // namespace Tarvik::Seaplan::Testing

@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/PurposeList.h"
+#include "seaplan/panels/tests/PortCallFixture.h"
+
+namespace Tarvik::Seaplan {
+
+using ::testing::ElementsAre;
+
+TEST_F(PortCallFixture, APortInTheFirstRowSetsItsOtherCells) {
+    Open("10");
+    Type(0, ColPort, "ROTTERDAM");
+    EXPECT_EQ(Cell(0, ColPort), "ROTTERDAM");
+    EXPECT_EQ(Cell(0, ColSpeed), "0.00");
+    EXPECT_EQ(Cell(0, ColWeather), "0%");
+    EXPECT_EQ(Cell(0, ColPortTime), "0.00");
+    Type(1, ColPort, "HAMBURG");
+    EXPECT_EQ(Cell(1, ColSpeed), " ");
+    EXPECT_EQ(Cell(1, ColPortTime), " ");
+}
+
+TEST_F(PortCallFixture, ATableOfOnePlaceIsNeverMarked) {
+    Open("10");
+    Type(0, ColPort, "ROTTERDAM");
+    Type(1, ColPort, "ROTTERDAM");
+    Type(2, ColPort, "EUROPOORT");
+    EXPECT_FALSE(view.state.changed);
+    EXPECT_FALSE(view.state.canSave);
+    EXPECT_FALSE(view.state.canCalculate);
+    Type(3, ColPort, "HAMBURG");
+    EXPECT_TRUE(view.state.changed);
+    EXPECT_TRUE(view.state.canSave);
+    EXPECT_TRUE(view.state.canCalculate);
+}
+
+TEST_F(PortCallFixture, ALocalNameGivesThePortsNameAndAnUnknownOneIsDropped) {
+    Open("10");
+    Type(0, ColPort, "鹿特丹");
+    EXPECT_EQ(Cell(0, ColPort), "ROTTERDAM");
+    Type(1, ColPort, "上海");
+    EXPECT_EQ(Cell(1, ColPort), " ");
+}
+
+TEST_F(PortCallFixture, ANameThatNoPortHasIsTakenAndMarked) {
+    Open("10");
+    Type(0, ColPort, "Atlantis");
+    EXPECT_EQ(Cell(0, ColPort), "Atlantis");
+    EXPECT_TRUE(view.table.Rows()[0].unknownPort);
+    Type(0, ColPort, "rouen");
+    EXPECT_EQ(Cell(0, ColPort), "ROUEN");
+    EXPECT_FALSE(view.table.Rows()[0].unknownPort);
+}
+
+TEST_F(PortCallFixture, ANewPortClearsTheTotals) {
+    Open("20");
+    EXPECT_EQ(Cell(6, ColDistance), "480.00");
+    Type(1, ColPort, "ROUEN");
+    EXPECT_EQ(Cell(6, ColDistance), " ");
+    EXPECT_EQ(Cell(6, ColEta), " ");
+    EXPECT_EQ(Cell(1, ColDistance), "240.00");
+}
+
+TEST_F(PortCallFixture, LookingIntoAnEditorChangesNothing) {
+    Open("20");
+    for (const int column : {ColPort, ColSpeed, ColWeather}) {
+        panel.OnCellClicked(1, column);
+        panel.OnTableLeft();
+    }
+    EXPECT_FALSE(view.state.changed);
+    EXPECT_EQ(Cell(6, ColDistance), "480.00");
+}
+
+TEST_F(PortCallFixture, ASpeedRecomputesTheSchedule) {
+    Open("20");
+    Type(1, ColSpeed, "20");
+    EXPECT_EQ(Cell(1, ColSpeed), "20.00");
+    EXPECT_EQ(Cell(1, ColSteamTime), "0.50");
+    EXPECT_EQ(Cell(1, ColEta), "2024-03-05 20:00:00");
+    EXPECT_EQ(Cell(2, ColSpeed), "10.00");
+    EXPECT_EQ(Cell(2, ColEta), "2024-03-07 08:00:00");
+    EXPECT_TRUE(view.state.changed);
+}
+
+TEST_F(PortCallFixture, ATypedZeroLeavesTheSpeedAndABlankCellTakesTen) {
+    Open("20");
+    for (const char* text : {"0", "-4", "fast"}) {
+        Type(1, ColSpeed, text);
+        EXPECT_EQ(Cell(1, ColSpeed), "10.00") << text;
+    }
+    Open("10");
+    EnterPorts({"ROTTERDAM", "HAMBURG"});
+    Type(1, ColSpeed, "0");
+    EXPECT_EQ(Cell(1, ColSpeed), "10.00");
+    EXPECT_EQ(Cell(1, ColWeather), "0%");
+}
+
+TEST_F(PortCallFixture, ARowWithoutPortTakesNoSpeedWeatherOrPurpose) {
+    Open("20");
+    Type(3, ColSpeed, "12");
+    panel.OnCellClicked(3, ColWeather);
+    view.editorTexts[CellEditor::Weather] = "5";
+    panel.CommitEditors();
+    panel.OnCellClicked(3, ColPurpose);
+    panel.OnPurposeChosen(0);
+    for (const int column : {ColSpeed, ColWeather, ColPurpose}) EXPECT_EQ(Cell(3, column), " ") << column;
+    EXPECT_FALSE(view.state.changed);
+}
+
+TEST_F(PortCallFixture, AWeatherFactorIsTypedInPercent) {
+    Open("20");
+    Type(1, ColWeather, "20%");
+    EXPECT_EQ(Cell(1, ColWeather), "20%");
+    EXPECT_EQ(Cell(1, ColSteamTime), "1.25");
+    Type(1, ColWeather, "12.6");
+    EXPECT_EQ(Cell(1, ColWeather), "13%");
+    for (const char* text : {"100", "-3", "bad"}) {
+        Type(1, ColWeather, text);
+        EXPECT_EQ(Cell(1, ColWeather), "13%") << text;
+    }
+    Type(1, ColWeather, "0.0");
+    EXPECT_EQ(Cell(1, ColWeather), "0%");
+}
+
+TEST_F(PortCallFixture, AFactorThatLeavesNoSpeedKeepsTheTypedCellAndTheOtherCells) {
+    Open("20");
+    const std::string eta = Cell(1, ColEta);
+    Type(1, ColWeather, "99.6");
+    EXPECT_EQ(Cell(1, ColWeather), "100%");
+    EXPECT_EQ(Cell(1, ColEta), eta);
+    EXPECT_FALSE(view.state.changed);
+}
+
+TEST_F(PortCallFixture, APurposeWritesItsCodeAndComputesNothing) {
+    Open("20");
+    panel.OnCellClicked(1, ColPurpose);
+    EXPECT_EQ(view.purposeRow, 1);
+    panel.OnPurposeChosen(9);
+    EXPECT_EQ(Cell(1, ColPurpose), "Z");
+    EXPECT_TRUE(view.state.changed);
+    panel.OnCellClicked(1, ColPurpose);
+    panel.OnPurposeChosen(-1);
+    EXPECT_EQ(Cell(1, ColPurpose), "Z");
+}
+
+TEST_F(PortCallFixture, ALaterEtaSlowsTheLegDown) {
+    Open("20");
+    PickTime(2, ColEta, "2024-03-07 07:00:00");
+    EXPECT_EQ(Cell(2, ColEta), "2024-03-07 07:00:00");
+    EXPECT_EQ(Cell(2, ColSpeed), "21.82");
+    EXPECT_EQ(Cell(1, ColSpeed), "10.00");
+    EXPECT_TRUE(view.pickerTime.empty());
+    EXPECT_TRUE(view.state.changed);
+}
+
+TEST_F(PortCallFixture, AnEtaMustBeLaterThanThePreviousEtd) {
+    Open("20");
+    const std::string etd = Cell(1, ColEtd);
+    const std::string eta = Cell(2, ColEta);
+    PickTime(2, ColEta, etd);
+    EXPECT_EQ(LastMessage(), "IDS_PORTCALL_ERRETA");
+    EXPECT_EQ(Cell(2, ColEta), eta);
+    EXPECT_FALSE(view.state.changed);
+}
+
+TEST_F(PortCallFixture, AnEtdEqualToTheEtaIsAcceptedAnEarlierOneIsNot) {
+    Open("20");
+    const std::string eta = Cell(1, ColEta);
+    PickTime(1, ColEtd, "2024-03-06 07:00:00");
+    EXPECT_EQ(LastMessage(), "IDS_PORTCALL_ERRETD");
+    EXPECT_EQ(Cell(1, ColPortTime), "0.50");
+    PickTime(1, ColEtd, eta);
+    EXPECT_EQ(Cell(1, ColPortTime), "0.00");
+    EXPECT_EQ(Cell(2, ColEta), "2024-03-07 08:00:00");
+    EXPECT_EQ(messages.messages.size(), 1U);
+}
+
+TEST_F(PortCallFixture, TheFirstEtaMovesTheWholeScheduleAndWipesTheFirstStay) {
+    schedule.onServer["20"][0].apt = 6;
+    Open("20");
+    EXPECT_EQ(Cell(0, ColPortTime), "0.25");
+    PickTime(0, ColEta, "2024-04-01 00:00:00");
+    EXPECT_EQ(Cell(0, ColPortTime), "0.00");
+    EXPECT_EQ(Cell(0, ColEtd), "2024-04-01 00:00:00");
+    EXPECT_EQ(Cell(1, ColEta), "2024-04-02 00:00:00");
+}
+
+TEST_F(PortCallFixture, ATimeOfAnotherLengthIsDropped) {
+    Open("20");
+    const auto before = Column(ColEta);
+    PickTime(1, ColEta, "2024-03-09");
+    EXPECT_EQ(Column(ColEta), before);
+    EXPECT_TRUE(messages.messages.empty());
+}
+
+TEST_F(PortCallFixture, ThePickerNeedsAFilledRow) {
+    Open("10");
+    EnterPorts({"ROTTERDAM", "HAMBURG"});
+    panel.OnCellClicked(1, ColEta);
+    EXPECT_TRUE(view.pickerTime.empty());
+    panel.OnCalculate();
+    panel.OnCellClicked(1, ColEta);
+    EXPECT_EQ(view.pickerTime, Cell(1, ColEta));
+}
+
+TEST_F(PortCallFixture, AnEtaOnALegWithoutDistanceStandsAlone) {
+    schedule.onServer["20"][1].distance = 0;
+    Open("20");
+    PickTime(1, ColEta, "2024-03-08 00:00:00");
+    EXPECT_EQ(Cell(1, ColEta), "2024-03-08 00:00:00");
+    EXPECT_EQ(Cell(2, ColEta), "2024-03-06 20:00:00");
+    EXPECT_FALSE(view.state.changed);
+}
+
+TEST_F(PortCallFixture, ClickingTheLastNumberedRowAddsOne) {
+    Open("10");
+    panel.OnCellClicked(5, ColSteamTime);
+    EXPECT_EQ(view.table.RowCount(), 7);
+    EXPECT_EQ(Cell(7, ColOrder), "RES");
+    panel.OnCellClicked(7, ColPort);
+    EXPECT_FALSE(view.openEditor.has_value());
+    panel.OnCellClicked(-1, ColPort);
+    EXPECT_FALSE(view.openEditor.has_value());
+}
+
+TEST_F(PortCallFixture, ColumnsThatAreComputedHaveNoEditor) {
+    Open("20");
+    for (const int column : {ColOrder, ColSteamTime, ColPortTime, ColDistance}) {
+        panel.OnCellClicked(1, column);
+        EXPECT_FALSE(view.openEditor.has_value()) << column;
+        EXPECT_TRUE(view.pickerTime.empty()) << column;
+    }
+}
+
+TEST_F(PortCallFixture, MovingARowBlanksTheFiguresOfAllRows) {
+    Open("20");
+    EXPECT_EQ(panel.OnItemImage(2, "itemMoveUp"), 0);
+    EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "GDANSK", "HAMBURG", " ", " ", " "));
+    for (const int column : {ColSteamTime, ColEta, ColEtd, ColDistance})
+        for (int row = 0; row < 3; ++row) EXPECT_EQ(Cell(row, column), " ") << row << " " << column;
+    EXPECT_EQ(Cell(2, ColPortTime), "0.50");
+    EXPECT_EQ(view.selectedRow, 1);
+    EXPECT_TRUE(view.state.changed);
+    EXPECT_EQ(panel.OnItemImage(0, "itemMovedown"), 0);
+    EXPECT_THAT(Column(ColPort), ElementsAre("GDANSK", "ROTTERDAM", "HAMBURG", " ", " ", " "));
+    EXPECT_EQ(view.selectedRow, 1);
+}
+
+TEST_F(PortCallFixture, TheFirstRowDoesNotMoveUpNorTheLastDown) {
+    Open("20");
+    EXPECT_LT(panel.OnItemImage(0, "itemMoveUp"), 0);
+    EXPECT_LT(panel.OnItemImage(2, "itemMovedown"), 0);
+    EXPECT_LT(panel.OnItemImage(4, "itemdel"), 0);
+    EXPECT_LT(panel.OnItemImage(1, "itemElse"), 0);
+    EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));
+    EXPECT_FALSE(view.state.changed);
+}
+
+TEST_F(PortCallFixture, DeletingARowKeepsTheOthers) {
+    Open("20");
+    EXPECT_EQ(panel.OnItemImage(1, "itemdel"), 0);
+    EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "GDANSK", " ", " ", " ", " "));
+    EXPECT_TRUE(view.state.canCalculate);
+    EXPECT_EQ(panel.OnItemImage(1, "itemdel"), 0);
+    EXPECT_FALSE(view.state.canCalculate);
+}
+
+TEST_F(PortCallFixture, ARowBelowABlankRowCountsByItsPlaceInTheTable) {
+    Open("10");
+    Type(0, ColPort, "ROTTERDAM");
+    Type(2, ColPort, "HAMBURG");
+    EXPECT_LT(panel.OnItemImage(2, "itemdel"), 0);
+    EXPECT_EQ(Cell(2, ColPort), "HAMBURG");
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/portcall/PortCallView.h"
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan {
+
+/// A port call window that only remembers what it was told.
+class RecordingPortCallView final : public PortCallView {
+  public:
+    PortCallTable table;
+    PortCallState state;
+    bool visible = false;
+    bool enabled = true;
+    bool besideTree = false;
+    int busy = 0;
+    int selectedRow = -1;
+    std::optional<CellEditor> openEditor;  ///< opened last and not hidden since
+    int editorRow = -1;
+    bool editorSelectsAll = false;
+    std::map<CellEditor, std::string> editorTexts;
+    std::set<CellEditor> openEditors;
+    std::vector<std::string> matches;
+    bool matchesShown = false;
+    std::set<void*> matchWindows;
+    int purposeRow = -1;
+    std::string pickerTime;  ///< empty while the picker is closed
+    std::string help;
+    std::vector<std::string> visibility;  ///< "show" and "hide" in order
+
+    void ShowTable(const PortCallTable& shown) override { table = shown; }
+    void ShowState(const PortCallState& shown) override { state = shown; }
+    void ApplyTexts() override {}
+    void Show() override {
+        visible = true;
+        visibility.emplace_back("show");
+    }
+    void Hide() override {
+        visible = false;
+        visibility.emplace_back("hide");
+    }
+    bool IsVisible() const override { return visible; }
+    void PlaceBesideTree() override { besideTree = true; }
+    void SetEnabled(bool on) override { enabled = on; }
+    void SetBusy(bool on) override { busy += on ? 1 : -1; }
+    void SelectRow(int row) override { selectedRow = row; }
+    void BringRowIntoView(int) override {}
+    void OpenEditor(CellEditor editor, int row, const std::string& text, bool selectAll) override {
+        openEditor = editor;
+        openEditors.insert(editor);
+        editorRow = row;
+        editorTexts[editor] = text;
+        editorSelectsAll = selectAll;
+    }
+    void HideEditor(CellEditor editor) override {
+        openEditors.erase(editor);
+        editorTexts[editor].clear();
+        if (openEditor == editor) openEditor.reset();
+    }
+    bool EditorVisible(CellEditor editor) const override { return openEditors.contains(editor); }
+    std::string EditorText(CellEditor editor) const override {
+        const auto text = editorTexts.find(editor);
+        return text == editorTexts.end() ? std::string() : text->second;
+    }
+    void SetEditorText(CellEditor editor, const std::string& text) override { editorTexts[editor] = text; }
+    void* EditorHandle(CellEditor) const override { return const_cast<std::string*>(&help); }
+    void ShowMatches(const std::vector<std::string>& names) override {
+        matches = names;
+        matchesShown = true;
+    }
+    void HideMatches() override { matchesShown = false; }
+    void ShowMatchWindow(void* window) override { matchWindows.insert(window); }
+    void HideMatchWindow(void* window) override { matchWindows.erase(window); }
+    void OpenPurposes(int row) override { purposeRow = row; }
+    void HidePurposes() override { purposeRow = -1; }
+    void OpenPicker(int, int, const Util::_datetime_t& time) override { pickerTime = time.fmt(kTimeFormat); }
+    void HidePicker() override { pickerTime.clear(); }
+    void RequestHelp(const std::string& topic) override { help = topic; }
+    void* Handle() const override { return const_cast<RecordingPortCallView*>(this); }
+};
+
+}  // namespace Tarvik::Seaplan

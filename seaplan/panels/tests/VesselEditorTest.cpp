@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tests/TreeFixture.h"
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <tarvik/interface/BusContract.h>
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+namespace Tarvik::Seaplan {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::Not;
+
+namespace {
+
+/// The fleet plug-in with what a test gave it.
+class FleetPlugin final : public Core::TObject {
+  public:
+    FleetPlugin() {
+        all_.Set<&FleetPlugin::onAll>(this);
+        add_.Set<&FleetPlugin::onAdd>(this);
+        info_.Set<&FleetPlugin::onInfo>(this);
+        bind(Interface::Bus::AllVessels.name, all_);
+        bind(Interface::Bus::ShowAddVessel.name, add_);
+        bind(Interface::Bus::ShowVesselInfo.name, info_);
+    }
+    ~FleetPlugin() override {
+        auto* kernel = Core::TrvKernel::Instance();
+        for (const auto& [name, event] : bound_) {
+            kernel->UnBindTrvService(name, event);
+            kernel->DeleteTrvService(name, this);
+        }
+    }
+
+    std::vector<Interface::FleetEntry> fleet = {
+        {"1", "NORTHERN LIGHT", 211}, {"2", "Nora", 212}, {"3", "ANNA NORD", 213}};
+    std::vector<std::string> offered;
+    std::vector<std::string> shownIds;
+    int window = 0;
+
+  private:
+    void bind(const char* name, Core::TEvent& event) {
+        Core::TrvKernel::Instance()->CreateTrvService(name, this, "", "", nullptr);
+        Core::TrvKernel::Instance()->BindTrvService(name, &event);
+        bound_.emplace_back(name, &event);
+    }
+    void* onAll(void*) { return &fleet; }
+    void* onAdd(void* input) {
+        offered.push_back(static_cast<const Interface::FleetEntry*>(input)->name);
+        handle_ = &window;
+        return &handle_;
+    }
+    void* onInfo(void* input) {
+        shownIds.push_back(*static_cast<const std::string*>(input));
+        return nullptr;
+    }
+
+    Core::TEvent all_;
+    Core::TEvent add_;
+    Core::TEvent info_;
+    std::vector<std::pair<const char*, Core::TEvent*>> bound_;
+    void* handle_ = nullptr;
+};
+
+class VesselEditorTest : public TreeFixture {
+  protected:
+    FleetPlugin plugin;
+
+    VesselEditorTest() {
+        AddCategory("1", "Full");
+        AddVoyage("1", "10", "A");
+        VoyInfo& other = AddVoyage("1", "11", "B");
+        other.vsn = "ANNA";
+        ctrl.ReloadTree();
+    }
+    VoyShipEditDlg& Editor() { return *ctrl.VesselEditor(); }
+    void TypeAndEnter(const std::string& text) {
+        vessels.text = text;
+        Editor().OnTyped(text);
+        Editor().OnEnter(0);
+    }
+};
+
+}  // namespace
+
+TEST_F(VesselEditorTest, AssigningOpensAnEmptyBoxWithTheWholeFleet) {
+    EXPECT_EQ(Click("A", "Voyage_AssignShip"), 1);
+    EXPECT_TRUE(vessels.box);
+    EXPECT_EQ(vessels.place, (Rect{50, 95, 170, 120}));
+    EXPECT_EQ(vessels.text, "");
+    EXPECT_THAT(vessels.names, ElementsAre("NORTHERN LIGHT", "Nora", "ANNA NORD"));
+    EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage_ReplaceShip"));
+    Click("A", "Voyage_AssignShip");
+    EXPECT_FALSE(vessels.box);
+    EXPECT_THAT(catalog.calls, Not(Contains("ChangeVessel ")));
+}
+
+TEST_F(VesselEditorTest, TypingKeepsTheVesselsThatBeginSoInAnyCase) {
+    Click("A", "Voyage_AssignShip");
+    Editor().OnTyped("no");
+    EXPECT_THAT(vessels.names, ElementsAre("NORTHERN LIGHT", "Nora"));
+    Editor().OnTyped("nord");
+    EXPECT_FALSE(vessels.list);
+    Editor().OnTyped("");
+    EXPECT_EQ(vessels.names.size(), 3U);
+}
+
+TEST_F(VesselEditorTest, AChosenVesselIsOfTheFleetAndShowsNoAlert) {
+    Click("A", "Voyage_AssignShip");
+    Editor().OnTyped("no");
+    Editor().OnChosen(1);
+    EXPECT_THAT(catalog.calls, Contains("ChangeVessel Nora"));
+    EXPECT_EQ(store.voyages["10"].vsi, "2");
+    EXPECT_EQ(store.voyages["10"].vsmsi, 212);
+    EXPECT_THAT(catalog.calls, Contains("OpenAis 10"));
+    EXPECT_TRUE(schedule.Called("RefreshTrace 10"));
+    EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage.child.svr10"));
+    EXPECT_FALSE(vessels.box);
+    const TreeRow row = tree.Find("A");
+    EXPECT_FALSE(tree.IsItemVisible(row, "Voyage_Alert"));
+    EXPECT_FALSE(tree.IsItemVisible(row, "Voyage_AssignShip"));
+    EXPECT_EQ(tree.Row(row)->items.at("Voyage_ShipInfo").values.at("ShipName"), "Nora");
+}
+
+TEST_F(VesselEditorTest, EnterTakesTheListsRowOrTheTypedNameWithTheAlert) {
+    Click("A", "Voyage_AssignShip");
+    TypeAndEnter("anna");
+    EXPECT_EQ(store.voyages["10"].vsn, "ANNA NORD");
+    Click("A", "Voyage_ReplaceShip");
+    TypeAndEnter("  SEA STAR ");
+    EXPECT_EQ(store.voyages["10"].vsn, "SEA STAR ");
+    EXPECT_EQ(store.voyages["10"].vsi, "");
+    EXPECT_EQ(std::count(catalog.calls.begin(), catalog.calls.end(), "OpenAis 10"), 1);
+    EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage_Alert"));
+    EXPECT_FALSE(vessels.box);
+}
+
+TEST_F(VesselEditorTest, LeavingTheBoxTakesTheTypedNameAndAnEmptyOneNothing) {
+    Click("A", "Voyage_AssignShip");
+    vessels.text = " ";
+    Editor().OnLeft();
+    EXPECT_EQ(store.voyages["10"].vsn, "");
+    Click("A", "Voyage_AssignShip");
+    EXPECT_FALSE(vessels.box) << "the press that closed it is still under way";
+    Editor().OnReleased();
+    Click("A", "Voyage_AssignShip");
+    vessels.text = "SEA STAR";
+    Editor().OnLeft();
+    EXPECT_EQ(store.voyages["10"].vsn, "SEA STAR");
+    const auto calls = catalog.calls;
+    Editor().OnLeft();
+    EXPECT_EQ(catalog.calls, calls);
+}
+
+TEST_F(VesselEditorTest, TheSameVesselSendsNothing) {
+    Click("B", "Voyage_ReplaceShip");
+    EXPECT_EQ(vessels.text, "ANNA");
+    EXPECT_THAT(vessels.names, ElementsAre("ANNA NORD"));
+    vessels.list = false;
+    Editor().OnEnter(-1);
+    EXPECT_THAT(catalog.calls, Not(Contains("ChangeVessel ANNA")));
+}
+
+TEST_F(VesselEditorTest, ARefusedVesselIsToldInFixedWords) {
+    catalog.refused = {"ChangeVessel"};
+    Click("A", "Voyage_AssignShip");
+    TypeAndEnter("SEA STAR");
+    ASSERT_EQ(messages.messages.size(), 1U);
+    EXPECT_EQ(messages.messages[0].text, "Add a vessel failed!");
+    EXPECT_EQ(messages.messages[0].title, "Error");
+    EXPECT_EQ(store.voyages["10"].vsn, "");
+}
+
+TEST_F(VesselEditorTest, AVesselOfACorrectedVoyageCanBeAssignedButNotReplaced) {
+    store.voyages["11"].modais = 1;
+    Click("B", "Voyage_ReplaceShip");
+    ASSERT_EQ(messages.messages.size(), 1U);
+    EXPECT_EQ(messages.messages[0].text, "IDS_PORTCALL_WARNAISMOD");
+    EXPECT_FALSE(vessels.box);
+    store.voyages["10"].modais = 1;
+    Click("A", "Voyage_AssignShip");
+    EXPECT_TRUE(vessels.box);
+}
+
+TEST_F(VesselEditorTest, TheAlertOffersTheNameToTheFleetAndTheInformationNeedsAnId) {
+    Click("B", "Voyage_Alert");
+    EXPECT_THAT(plugin.offered, ElementsAre("ANNA"));
+    EXPECT_EQ(tree.windowAtPointer, &plugin.window);
+    Click("B", "Voyage_ShipInfo");
+    EXPECT_TRUE(plugin.shownIds.empty());
+    store.voyages["11"].vsi = "7";
+    Click("B", "Voyage_ShipInfo");
+    EXPECT_THAT(plugin.shownIds, ElementsAre("7"));
+}
+
+TEST_F(VesselEditorTest, ClosingTheViewHidesTheBox) {
+    Click("A", "Voyage_AssignShip");
+    ctrl.OnViewShown(false);
+    EXPECT_FALSE(vessels.box);
+    EXPECT_FALSE(vessels.list);
+}
+
+TEST(VesselList, ItsSizeFollowsTheNumberOfVessels) {
+    EXPECT_EQ(VoyShipEditDlg::SizeOf(1), (VesselListSize{157, 26, 152}));
+    EXPECT_EQ(VoyShipEditDlg::SizeOf(2), (VesselListSize{157, 41, 152}));
+    EXPECT_EQ(VoyShipEditDlg::SizeOf(11), (VesselListSize{157, 203, 152}));
+    EXPECT_EQ(VoyShipEditDlg::SizeOf(12), (VesselListSize{157, 203, 136}));
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/Rect.h"
+
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan {
+
+/// Sizes of the drop list in pixels.
+struct VesselListSize {
+    int width = 0;
+    int height = 0;
+    int columnWidth = 0;
+    bool operator==(const VesselListSize&) const = default;
+};
+
+/// The box over a voyage's row in which a vessel is typed, and the list of vessels that drops from it.
+class VesselView {
+  public:
+    virtual ~VesselView() = default;
+    /// Shows the box at a place of the tree's window with the keyboard in it, nothing selected.
+    virtual void ShowBox(const Rect& inTree, const std::string& text) = 0;
+    virtual void HideBox() = 0;
+    virtual bool BoxVisible() const = 0;
+    virtual std::string BoxText() const = 0;
+    /// Shows the list 22 pixels below the box's top, row 0 selected; the keyboard stays in the box.
+    virtual void ShowList(const std::vector<std::string>& names, const VesselListSize& size) = 0;
+    virtual void HideList() = 0;
+    virtual bool ListVisible() const = 0;
+};
+
+}  // namespace Tarvik::Seaplan

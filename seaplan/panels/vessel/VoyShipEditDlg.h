@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/vessel/VesselView.h"
+
+#include <tarvik/interface/SiblingRecords.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan {
+
+/// Typing or picking the vessel of a voyage.
+class VoyShipEditDlg {
+  public:
+    /// Called with a vessel and whether it is only a typed name.
+    using Commit = std::function<void(const Interface::FleetEntry&, bool typedOnly)>;
+
+    VoyShipEditDlg(VesselView& view, Commit commit) : view_(view), commit_(std::move(commit)) {}
+
+    /// Shows the box with this text and the vessels of the fleet that begin so.
+    void Open(const Rect& inTree, const std::string& text, std::vector<Interface::FleetEntry> fleet);
+    void Hide();
+    bool IsVisible() const { return view_.BoxVisible(); }
+    /// Whether the press that is under way closed the box: a click that it becomes does not open it again.
+    bool ClosedByPress() const { return closedByPress_; }
+
+    void OnTyped(const std::string& text);
+    /// Enter in the box: takes the list's selected row while the list shows, else the typed name.
+    void OnEnter(int selectedRow);
+    /// A row of the list was clicked.
+    void OnChosen(int row);
+    /// A press outside the box and the list: the typed name is taken.
+    void OnLeft();
+    /// The press is over.
+    void OnReleased() { closedByPress_ = false; }
+
+    /// Size of a list of so many vessels.
+    static VesselListSize SizeOf(std::size_t vessels);
+
+  private:
+    void commitTyped();
+
+    VesselView& view_;
+    Commit commit_;
+    std::vector<Interface::FleetEntry> fleet_;
+    std::vector<Interface::FleetEntry> shown_;
+    bool closedByPress_ = false;
+};
+
+}  // namespace Tarvik::Seaplan

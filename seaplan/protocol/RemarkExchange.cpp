@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/protocol/RemarkExchange.h"
+
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/Jsona.h>
+
+#include <cstdint>
+#include <cstring>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr std::uint16_t kRemarkCommand = 9;
+constexpr std::uint16_t kRemarkModule = 2;
+/// Bits 12 and 13 of the module word, told apart from the server module in the low part; 1 on this path.
+constexpr std::uint16_t kModeMask = 0x3000;
+constexpr std::uint16_t kRemarkMode = 1 << 12;
+
+}  // namespace
+
+void SendRemark(const std::string& text, RemarkBlock& request) {
+    const std::size_t length = std::strlen(text.c_str()) + 1;
+    request.reset(static_cast<Interface::VoyServerRequest*>(
+        Core::AllocateBusBlock(sizeof(Interface::VoyServerRequest) + length)));
+    if (!request) {
+        return;
+    }
+    request->length = static_cast<std::uint32_t>(length);
+    request->command = kRemarkCommand;
+    request->moduleWord = static_cast<std::uint16_t>((kRemarkModule & ~kModeMask) | kRemarkMode);
+    std::memcpy(request->Payload(), text.c_str(), length);
+}
+
+bool SyncServer(const RemarkBlock& request, RemarkBlock& reply) {
+    reply.reset();
+    if (!request) {
+        return false;
+    }
+    const Interface::VoyServerRequest* input = request.get();
+    reply.reset(Interface::Call(Interface::Bus::ServerExchange, input));
+    if (!reply) {
+        return false;
+    }
+    Util::Jsona status;
+    return !status.parse(reply->Payload()) || !status.has("eid") || status.getv("eid", -1) == 0;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/protocol/RemarkExchange.h"
+
+#include "testsupport/RecordingHost.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+TEST(SendRemarkTest, EnvelopeIsByteExact) {
+    TestSupport::RecordingHost host;
+    RemarkBlock request;
+    RemarkBlock reply;
+    SendRemark("{optype:\"4\"}", request);
+    SyncServer(request, reply);
+    ASSERT_EQ(host.requests.size(), 1U);
+    const std::string expected("\x0d\x00\x00\x00\x09\x00\x02\x10{optype:\"4\"}\x00", 21);
+    EXPECT_EQ(host.requests[0].bytes, expected);
+    EXPECT_EQ(host.requests[0].ModuleWord(), 0x1002);
+}
+
+TEST(SendRemarkTest, EmptyTextIsItsNulAlone) {
+    RemarkBlock request;
+    SendRemark("", request);
+    ASSERT_NE(request, nullptr);
+    EXPECT_EQ(request->length, 1U);
+    EXPECT_EQ(request->Payload()[0], '\0');
+}
+
+TEST(SendRemarkTest, TextEndsAtItsFirstNul) {
+    RemarkBlock request;
+    SendRemark(std::string("ab\0cd", 5), request);
+    EXPECT_EQ(request->length, 3U);
+    EXPECT_STREQ(request->Payload(), "ab");
+}
+
+class SyncServerTest : public testing::Test {
+  protected:
+    bool sync(const std::string& json) {
+        host.Reply(9, json);
+        RemarkBlock request;
+        SendRemark("{}", request);
+        return SyncServer(request, reply);
+    }
+
+    TestSupport::RecordingHost host;
+    RemarkBlock reply;
+};
+
+TEST_F(SyncServerTest, WithoutReplyFails) {
+    RemarkBlock request;
+    SendRemark("{}", request);
+    EXPECT_FALSE(SyncServer(request, reply));
+    EXPECT_EQ(reply, nullptr);
+}
+
+TEST_F(SyncServerTest, WithoutRequestNothingIsSent) {
+    EXPECT_TRUE(sync("{}"));
+    EXPECT_FALSE(SyncServer({}, reply));
+    EXPECT_EQ(reply, nullptr) << "an older reply does not stay";
+    EXPECT_EQ(host.requests.size(), 1U);
+}
+
+TEST_F(SyncServerTest, ErrorNumberOtherThanZeroFails) {
+    EXPECT_FALSE(sync(R"({eid:7,emsg:"no"})"));
+    EXPECT_FALSE(sync("{eid:-1}"));
+    EXPECT_STREQ(reply->Payload(), "{eid:-1}") << "the reply is handed out all the same";
+}
+
+TEST_F(SyncServerTest, ErrorNumberThatIsNoIntegerFails) {
+    EXPECT_FALSE(sync(R"({eid:"0"})"));
+    EXPECT_FALSE(sync("{eid:0.0}"));
+    EXPECT_FALSE(sync("{eid:null}"));
+}
+
+TEST_F(SyncServerTest, ZeroMissingOrUnreadableIsSuccess) {
+    for (const char* json :
+         {"{eid:0}", "{}", R"({emsg:"no"})", "[]", "[{eid:7}]", "7", "no json", "", "{eid:7"}) {
+        EXPECT_TRUE(sync(json)) << json;
+        EXPECT_NE(reply, nullptr) << json;
+    }
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

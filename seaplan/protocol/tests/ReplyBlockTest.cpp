@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+// What both paths make of the reply block itself.
+#include "RawReplyHost.h"
+#include "seaplan/protocol/Exchange.h"
+#include "seaplan/protocol/RemarkExchange.h"
+#include "seaplan/protocol/StatusReply.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(ReplyBlockTest, HeadIsNotInterpreted) {
+    const RawReplyHost host("\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF{eid:0,vi:\"3\"}\0"s);
+    Util::Jsona reply;
+    EXPECT_EQ(SendText("{}", 5, reply), 0);
+    EXPECT_EQ(reply.getv("vi", ""), "3");
+}
+
+TEST(ReplyBlockTest, LengthOfZeroDoesNotHideTheText) {
+    const RawReplyHost host("\0\0\0\0\0\0\0\0{eid:0}\0"s);
+    Util::Jsona reply;
+    EXPECT_EQ(SendText("{}", 5, reply), 0);
+    EXPECT_TRUE(IsSuccess(reply));
+}
+
+TEST(ReplyBlockTest, TextEndsAtItsNulWhateverFollows) {
+    const RawReplyHost host("\x20\0\0\0\0\0\0\0{eid:0}\0]]]garbage"s);
+    Util::Jsona reply;
+    EXPECT_EQ(SendText("{}", 5, reply), 0);
+    EXPECT_EQ(reply.size(), 1);
+}
+
+TEST(ReplyBlockTest, EmptyTextDoesNotParse) {
+    const RawReplyHost host("\x01\0\0\0\0\0\0\0\0"s);
+    Util::Jsona reply;
+    EXPECT_EQ(SendText("{}", 5, reply), -2);
+}
+
+TEST(ReplyBlockTest, RemarkPathReadsItsTextAtTheSamePlace) {
+    const RawReplyHost refused("\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF{eid:7}\0{eid:0}"s);
+    RemarkBlock request;
+    RemarkBlock reply;
+    SendRemark("{}", request);
+    EXPECT_FALSE(SyncServer(request, reply));
+    ASSERT_NE(reply, nullptr);
+    EXPECT_STREQ(reply->Payload(), "{eid:7}");
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace Tarvik::Seaplan {
+
+/// All panels with their windows, tied to the bus while it lives. The main window owns the windows, so each
+/// may be gone before the panels.
+class VoyageViews final : public QObject {
+  public:
+    struct Parts {
+        VoyageStore& store;
+        CatalogCommands& catalog;
+        ScheduleCommands& schedule;
+        PortDictionary ports;
+        QWidget* mainView;  ///< null for windows of their own
+    };
+    /// Takes the theme that the client has put in force.
+    explicit VoyageViews(Parts parts);
+    ~VoyageViews() override;
+
+    SeaplanViewDlg& Panel() { return panel_; }
+    SeaplanTreeCtrl& Tree() { return tree_; }
+    CPortCallPanelDlg& PortCalls() { return portCalls_; }
+    VoyagePanelWindow* VoyageWindow() { return voyageWindow_; }
+    PortCallWindow* PortCallsWindow() { return portCallWindow_; }
+    bool TreeVisible() const { return voyageWindow_ != nullptr && voyageWindow_->isVisible(); }
+    /// Draws every window anew in the theme in force.
+    void Restyle();
+
+  protected:
+    /// Follows the client's change of theme.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void showSaved(const std::string& vi);
+
+    QPointer<VoyagePanelWindow> voyageWindow_;
+    QPointer<PortCallWindow> portCallWindow_;
+    SeaplanTreeCtrl tree_;
+    CPortCallPanelDlg portCalls_;
+    SeaplanViewDlg panel_;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/panels/portcall/PortDictionary.h"
+#include "seaplan/panels/tests/FakeCommands.h"
+
+namespace Tarvik::Seaplan {
+
+/// Puts categories, voyages and saved schedules behind the fakes, as a server would hold them.
+void AddSampleVoyages(FakeCatalog& catalog, FakeSchedule& schedule);
+/// A few ports with their local names.
+PortDictionary SamplePorts();
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/datetime/CalendarPopup.h"
+#include "seaplan/views/preview/FileTexts.h"
+#include "testsupport/ManualClock.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QTest>
+
+#include <vector>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+class CalendarPopupTest : public ::testing::Test {
+  protected:
+    FileTexts texts{std::string(SEAPLAN_LANG_DIR) + "/en-US.json"};
+    TestSupport::ManualClock clock;
+    CalendarPopup calendar{nullptr};
+    std::vector<Util::_datetime_t> chosen;
+
+    CalendarPopupTest() {
+        calendar.SetChosen([this](const Util::_datetime_t& value) { chosen.push_back(value); });
+        calendar.SetValue(Util::_datetime_t(42, 30, 8, 15, 3, 2024));
+        calendar.show();
+    }
+    QAbstractButton* Button(const char* name) { return calendar.findChild<QAbstractButton*>(name); }
+    QLineEdit* Edit(const char* name) { return calendar.findChild<QLineEdit*>(name); }
+    void Click(const char* name) { QTest::mouseClick(Button(name), Qt::LeftButton); }
+};
+
+}  // namespace
+
+TEST_F(CalendarPopupTest, ADayAndOkAreTheChoice) {
+    Click("day25");
+    EXPECT_TRUE(chosen.empty());
+    Click("calendarOk");
+    ASSERT_EQ(chosen.size(), 1U);
+    EXPECT_EQ(chosen[0], Util::_datetime_t(42, 30, 8, 21, 3, 2024));
+    EXPECT_FALSE(calendar.isVisible());
+}
+
+TEST_F(CalendarPopupTest, OkWithoutAChangeTellsNothing) {
+    Click("calendarOk");
+    EXPECT_TRUE(chosen.empty());
+}
+
+TEST_F(CalendarPopupTest, CancelAndEscapeLeaveTheValue) {
+    Click("day25");
+    Click("calendarCancel");
+    EXPECT_FALSE(calendar.isVisible());
+    calendar.show();
+    QTest::keyClick(&calendar, Qt::Key_Escape);
+    EXPECT_FALSE(calendar.isVisible());
+    EXPECT_TRUE(chosen.empty());
+}
+
+TEST_F(CalendarPopupTest, TheHourIsTypedAndSteppedInPlace) {
+    EXPECT_FALSE(Edit("hourEdit")->isVisible());
+    Click("hourShown");
+    ASSERT_TRUE(Edit("hourEdit")->isVisible());
+    EXPECT_EQ(Edit("hourEdit")->selectedText(), "08");
+    QTest::keyClicks(Edit("hourEdit"), "23");
+    Click("hourPlus");
+    EXPECT_EQ(Edit("hourEdit")->text(), "00");
+    Click("hourMinus");
+    EXPECT_EQ(Edit("hourEdit")->text(), "23");
+    QTest::keyClick(Edit("hourEdit"), Qt::Key_Return);
+    EXPECT_FALSE(Edit("hourEdit")->isVisible());
+    EXPECT_EQ(Button("hourShown")->text(), "23");
+}
+
+TEST_F(CalendarPopupTest, ATypedMinuteOutOfRangeIsDropped) {
+    Click("minuteShown");
+    QTest::keyClicks(Edit("minuteEdit"), "77");
+    QTest::keyClick(Edit("minuteEdit"), Qt::Key_Return);
+    EXPECT_EQ(Button("minuteShown")->text(), "30");
+}
+
+TEST_F(CalendarPopupTest, APressElsewhereEndsTheTyping) {
+    Click("hourShown");
+    QTest::keyClicks(Edit("hourEdit"), "10");
+    QTest::mouseClick(&calendar, Qt::LeftButton, {}, QPoint(3, 3));
+    EXPECT_FALSE(Edit("hourEdit")->isVisible());
+    EXPECT_EQ(Button("hourShown")->text(), "10");
+}
+
+TEST_F(CalendarPopupTest, YearsAndMonthsStep) {
+    const auto heading = [this] { return calendar.findChild<QLabel*>("calendarHeading")->text(); };
+    EXPECT_EQ(heading(), "March  2024");
+    Click("nextMonth");
+    Click("nextYear");
+    EXPECT_EQ(heading(), "April  2025");
+    Click("previousMonth");
+    Click("previousYear");
+    EXPECT_EQ(heading(), "March  2024");
+}
+
+TEST_F(CalendarPopupTest, EveryControlHasAnAccessibleName) {
+    for (QAbstractButton* button : calendar.findChildren<QAbstractButton*>()) {
+        EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
+    }
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/portcall/MatchEvents.h"
+#include "seaplan/views/tests/ViewsFixture.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QScrollBar>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+class PortCallWindowTest : public ViewsFixture {
+  protected:
+    PortCallTableView& Table() { return *Find<PortCallTableView>(PortCalls(), "portCallTable"); }
+    QLineEdit& PortEditor() { return *Find<QLineEdit>(PortCalls(), "portEditor"); }
+    QLineEdit& SpeedEditor() { return *Find<QLineEdit>(PortCalls(), "speedEditor"); }
+    QLineEdit& WeatherEditor() { return *Find<QLineEdit>(PortCalls(), "weatherEditor"); }
+    QListWidget& Purposes() { return *Find<QListWidget>(PortCalls(), "purposeList"); }
+    QListWidget& Matches() { return *Find<QListWidget>(PortCalls(), "portMatches"); }
+    QWidget& Calendar() { return *Find<QWidget>(PortCalls(), "calendarPopup"); }
+    QString Cell(int row, int column) { return Table().model()->index(row, column).data().toString(); }
+    void ClickCell(int row, int column) {
+        const QRect cell = Table().visualRect(Table().model()->index(row, column));
+        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, cell.center());
+        QApplication::processEvents();
+    }
+    /// Clicks one of the images at a row's end.
+    void ClickImage(int row, int image) {
+        const QRect cell = Table().visualRect(Table().model()->index(row, PortCallModel::kImageColumn));
+        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {},
+                          QPoint(cell.left() + 12 + 20 * image, cell.center().y()));
+    }
+    static void ClickItem(QListWidget& list, int row) {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
+        QApplication::processEvents();
+    }
+    void Button(const char* name) { Press(PortCalls(), name); }
+};
+
+}  // namespace
+
+TEST_F(PortCallWindowTest, ItOpensBesideTheTreeWithTheVoyagesRows) {
+    OpenPortCalls("Far East 12");
+    EXPECT_TRUE(PortCalls().isVisible());
+    EXPECT_EQ(PortCalls().objectName(), "portCallPanel");
+    const QPoint corner = Tree().mapToGlobal(QPoint(Tree().width(), 0));
+    EXPECT_EQ(PortCalls().pos(), corner + QPoint(9, 30));
+    EXPECT_EQ(Cell(0, ColPort), "ROTTERDAM");
+    EXPECT_EQ(Cell(6, ColOrder), "RES");
+    EXPECT_EQ(Find<QLabel>(PortCalls(), "totalDistance")->text(), "10507.0");
+    const int widths[] = {35, 120, 40, 45, 55, 55, 55, 125, 125, 60};
+    for (int column = 0; column < PortCallColumnCount; ++column)
+        EXPECT_EQ(Table().columnWidth(column), widths[column]) << column;
+    EXPECT_EQ(Table().rowHeight(0), 20);
+}
+
+TEST_F(PortCallWindowTest, EveryControlHasAnAccessibleNameAndATip) {
+    OpenPortCalls("Far East 12");
+    for (QAbstractButton* button : PortCalls().findChildren<QAbstractButton*>()) {
+        if (button->objectName().startsWith("qt_") || button->parentWidget() == &Table()) continue;
+        EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
+        EXPECT_FALSE(button->toolTip().isEmpty()) << button->objectName().toStdString();
+        EXPECT_FALSE(button->objectName().isEmpty());
+    }
+    for (const char* name : {"portCallTable", "portEditor", "speedEditor", "weatherEditor", "purposeList",
+                             "portMatches", "averageSpeed", "totalDistance", "totalTime"}) {
+        EXPECT_FALSE(Find<QWidget>(PortCalls(), name)->accessibleName().isEmpty()) << name;
+    }
+}
+
+TEST_F(PortCallWindowTest, ADisabledButtonTellsWhy) {
+    OpenPortCalls("North Sea");
+    auto* calculate = Find<QAbstractButton>(PortCalls(), "calculateButton");
+    EXPECT_FALSE(calculate->isEnabled());
+    EXPECT_TRUE(calculate->toolTip().contains("two different ports"));
+    EXPECT_FALSE(Find<QAbstractButton>(PortCalls(), "saveButton")->isEnabled());
+    EXPECT_TRUE(Find<QAbstractButton>(PortCalls(), "clearButton")->isEnabled());
+}
+
+TEST_F(PortCallWindowTest, AVoyageIsPlannedFromTheKeyboard) {
+    OpenPortCalls("North Sea");
+    ClickCell(0, ColPort);
+    ASSERT_TRUE(PortEditor().isVisible());
+    QTest::keyClicks(&PortEditor(), "ROTTERDAM");
+    QTest::keyClick(&PortEditor(), Qt::Key_Tab);
+    EXPECT_EQ(Cell(0, ColPort), "ROTTERDAM");
+    ASSERT_TRUE(PortEditor().isVisible());
+    QTest::keyClicks(&PortEditor(), "hamburg");
+    QTest::keyClick(&PortEditor(), Qt::Key_Tab);
+    ASSERT_TRUE(SpeedEditor().isVisible());
+    QTest::keyClicks(&SpeedEditor(), "12");
+    QTest::keyClick(&SpeedEditor(), Qt::Key_Tab);
+    ASSERT_TRUE(WeatherEditor().isVisible());
+    QTest::keyClicks(&WeatherEditor(), "20");
+    QTest::keyClick(&WeatherEditor(), Qt::Key_Tab);
+    EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
+    EXPECT_EQ(Cell(1, ColSpeed), "12.00");
+    EXPECT_EQ(Cell(1, ColWeather), "20%");
+    Button("calculateButton");
+    EXPECT_EQ(Cell(1, ColSteamTime), "1.04");
+    auto* mark = Find<QLabel>(PortCalls(), "changedMark");
+    EXPECT_TRUE(mark->isVisible());
+    Button("saveButton");
+    EXPECT_FALSE(mark->isVisible());
+    EXPECT_EQ(schedule.savedRows.size(), 2U);
+    EXPECT_TRUE(Shows("North Sea", "Voyage_Date"));
+    EXPECT_TRUE(messages.messages.empty());
+}
+
+TEST_F(PortCallWindowTest, TypingOpensTheMatchesAndTheArrowsTakeOne) {
+    OpenPortCalls("North Sea");
+    ClickCell(0, ColPort);
+    QTest::keyClicks(&PortEditor(), "ro");
+    ASSERT_TRUE(Matches().isVisible());
+    EXPECT_EQ(Matches().count(), 3);
+    EXPECT_EQ(Matches().height(), 3 * 23 + 2);
+    QTest::keyClick(&PortEditor(), Qt::Key_Down);
+    QTest::keyClick(&PortEditor(), Qt::Key_Down);
+    EXPECT_EQ(PortEditor().text(), "ROTTERDAM");
+    QTest::keyClick(&PortEditor(), Qt::Key_Return);
+    EXPECT_FALSE(Matches().isVisible());
+    EXPECT_EQ(Cell(0, ColPort), "ROTTERDAM");
+    QTest::keyClicks(&PortEditor(), "ha");
+    ClickItem(Matches(), 0);
+    EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
+    EXPECT_FALSE(PortEditor().isVisible());
+}
+
+TEST_F(PortCallWindowTest, AMatchWindowTellsItsChoice) {
+    OpenPortCalls("North Sea");
+    ClickCell(0, ColPort);
+    PortEditor().clearFocus();
+    MatchMovedEvent moved("GDANSK");
+    QApplication::sendEvent(&PortCalls(), &moved);
+    EXPECT_EQ(PortEditor().text(), "GDANSK");
+    MatchChosenEvent chosen;
+    QApplication::sendEvent(&PortCalls(), &chosen);
+    EXPECT_EQ(Cell(0, ColPort), "GDANSK");
+    EXPECT_FALSE(PortEditor().isVisible());
+}
+
+TEST_F(PortCallWindowTest, APurposeIsChosenByMouseOrKeyboard) {
+    OpenPortCalls("Far East 12");
+    ClickCell(1, ColPurpose);
+    ASSERT_TRUE(Purposes().isVisible());
+    EXPECT_EQ(Purposes().count(), 10);
+    ClickItem(Purposes(), 9);
+    EXPECT_EQ(Cell(1, ColPurpose), "Z");
+    EXPECT_FALSE(Purposes().isVisible());
+    ClickCell(2, ColPurpose);
+    QTest::keyClick(&Purposes(), Qt::Key_Down);
+    QTest::keyClick(&Purposes(), Qt::Key_Return);
+    EXPECT_EQ(Cell(2, ColPurpose), "2");
+    ClickCell(3, ColPurpose);
+    QTest::keyClick(&Purposes(), Qt::Key_Escape);
+    EXPECT_FALSE(Purposes().isVisible());
+    EXPECT_EQ(Cell(3, ColPurpose), "D");
+}
+
+TEST_F(PortCallWindowTest, APressOutsideTheTableEndsTheEditing) {
+    OpenPortCalls("Far East 12");
+    ClickCell(1, ColPort);
+    PortEditor().setText("ROUEN");
+    QTest::mouseClick(Find<QLabel>(PortCalls(), "totalDistance"), Qt::LeftButton);
+    EXPECT_FALSE(PortEditor().isVisible());
+    EXPECT_EQ(Cell(1, ColPort), "ROUEN");
+    ClickCell(1, ColPort);
+    PortEditor().setText("HAMBURG");
+    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, QPoint(100, 380));
+    EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
+}
+
+TEST_F(PortCallWindowTest, TheCalendarChangesATime) {
+    OpenPortCalls("Far East 12");
+    ClickCell(1, ColEtd);
+    ASSERT_TRUE(Calendar().isVisible());
+    QTest::mouseClick(Find<QAbstractButton>(Calendar(), "nextMonth"), Qt::LeftButton);
+    QTest::mouseClick(Find<QAbstractButton>(Calendar(), "calendarOk"), Qt::LeftButton);
+    EXPECT_FALSE(Calendar().isVisible());
+    EXPECT_EQ(Cell(1, ColEtd), "2024-04-01 09:34:09");
+    ClickCell(1, ColEtd);
+    QTest::mouseClick(Find<QAbstractButton>(Calendar(), "calendarCancel"), Qt::LeftButton);
+    EXPECT_EQ(Cell(1, ColEtd), "2024-04-01 09:34:09");
+}
+
+TEST_F(PortCallWindowTest, TheImagesOfARowMoveAndDeleteIt) {
+    OpenPortCalls("Far East 12");
+    ClickImage(2, 0);
+    EXPECT_EQ(Cell(1, ColPort), "COLOMBO");
+    ClickImage(1, 1);
+    EXPECT_EQ(Cell(2, ColPort), "COLOMBO");
+    ClickImage(2, 2);
+    EXPECT_EQ(Cell(2, ColPort), "SINGAPORE");
+    EXPECT_FALSE(PortEditor().isVisible());
+}
+
+TEST_F(PortCallWindowTest, KeysMoveDeleteAndOpen) {
+    OpenPortCalls("Far East 12");
+    Table().setCurrentIndex(Table().model()->index(2, ColPort));
+    QTest::keyClick(&Table(), Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(Cell(1, ColPort), "COLOMBO");
+    QTest::keyClick(&Table(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(Cell(2, ColPort), "COLOMBO");
+    QTest::keyClick(&Table(), Qt::Key_Delete);
+    EXPECT_EQ(Cell(2, ColPort), "SINGAPORE");
+    Table().setCurrentIndex(Table().model()->index(1, ColSpeed));
+    QTest::keyClick(&Table(), Qt::Key_F2);
+    ASSERT_TRUE(SpeedEditor().isVisible());
+    EXPECT_EQ(SpeedEditor().selectedText(), "16.50");
+    QTest::keyClick(&SpeedEditor(), Qt::Key_Escape);
+    EXPECT_FALSE(SpeedEditor().isVisible());
+    Table().setCurrentIndex(Table().model()->index(1, ColPort));
+    QTest::keyClick(&Table(), Qt::Key_Return);
+    EXPECT_TRUE(PortEditor().isVisible());
+}
+
+TEST_F(PortCallWindowTest, TheUnitMenusChangeTheTable) {
+    OpenPortCalls("Far East 12");
+    Button("averageSpeedUnit");
+    auto* menu = PortCalls().findChild<QMenu*>("unitMenu");
+    ASSERT_NE(menu, nullptr);
+    ASSERT_EQ(menu->actions().size(), 2);
+    EXPECT_EQ(menu->actions()[1]->text(), "KPH");
+    menu->actions()[1]->trigger();
+    EXPECT_EQ(Cell(1, ColSpeed), "30.56");
+    EXPECT_EQ(Find<QAbstractButton>(PortCalls(), "averageSpeedUnit")->text(), "KPH");
+    EXPECT_TRUE(
+        Table().model()->headerData(ColSpeed, Qt::Horizontal, Qt::DisplayRole).toString().contains("KPH"));
+    menu->close();
+}
+
+TEST_F(PortCallWindowTest, AnUnknownPortTellsSo) {
+    OpenPortCalls("North Sea");
+    ClickCell(0, ColPort);
+    QTest::keyClicks(&PortEditor(), "Atlantis");
+    QTest::keyClick(&PortEditor(), Qt::Key_Return);
+    const QModelIndex cell = Table().model()->index(0, ColPort);
+    EXPECT_EQ(cell.data().toString(), "Atlantis");
+    EXPECT_TRUE(cell.data(Qt::ToolTipRole).toString().contains("No port has this name"));
+}
+
+TEST_F(PortCallWindowTest, ScrollingEndsTheEditing) {
+    OpenPortCalls("Far East 12");
+    for (int row = 5; row < 14; ++row)
+        ClickCell(5, ColSteamTime), views.PortCalls().OnCellClicked(row, ColOrder);
+    ClickCell(1, ColSpeed);
+    ASSERT_TRUE(SpeedEditor().isVisible());
+    SpeedEditor().setText("14");
+    ASSERT_GT(Table().verticalScrollBar()->maximum(), 0);
+    Table().verticalScrollBar()->setValue(Table().verticalScrollBar()->maximum());
+    EXPECT_FALSE(SpeedEditor().isVisible());
+    EXPECT_EQ(Cell(1, ColSpeed), "14.00");
+}
+
+TEST_F(PortCallWindowTest, ClosingAsksAboutChanges) {
+    OpenPortCalls("Far East 12");
+    ClickCell(1, ColSpeed);
+    QTest::keyClicks(&SpeedEditor(), "14");
+    messages.Answer(Interface::SysMsgHandleRes::No);
+    Button("closeButton");
+    ASSERT_EQ(messages.messages.size(), 1U);
+    EXPECT_TRUE(PortCalls().isVisible());
+    EXPECT_TRUE(PortCalls().isEnabled());
+    EXPECT_EQ(messages.messages[0].owner, &PortCalls());
+    messages.Answer(Interface::SysMsgHandleRes::Yes);
+    Button("closeButton");
+    EXPECT_FALSE(PortCalls().isVisible());
+}
+
+TEST_F(PortCallWindowTest, LogoutHidesBothWindows) {
+    OpenPortCalls("Far East 12");
+    Interface::Raise<void>(Interface::Bus::Logout, nullptr);
+    EXPECT_FALSE(Panel().isVisible());
+    EXPECT_FALSE(PortCalls().isVisible());
+    EXPECT_EQ(Rows().GetRootItem(), kNoRow);
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/tests/ViewsFixture.h"
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+
+#include <QListWidget>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+/// A fleet of two vessels on the bus.
+class TwoVessels final : public Core::TObject {
+  public:
+    TwoVessels() {
+        event_.Set<&TwoVessels::onAll>(this);
+        Core::TrvKernel::Instance()->CreateTrvService(kName, this, "", "", nullptr);
+        Core::TrvKernel::Instance()->BindTrvService(kName, &event_);
+    }
+    ~TwoVessels() override {
+        Core::TrvKernel::Instance()->UnBindTrvService(kName, &event_);
+        Core::TrvKernel::Instance()->DeleteTrvService(kName, this);
+    }
+
+  private:
+    static constexpr const char* kName = Interface::Bus::AllVessels.name;
+    void* onAll(void*) { return &fleet_; }
+    std::vector<Interface::FleetEntry> fleet_ = {{"1", "NORTHERN LIGHT", 211}, {"2", "NORA", 212}};
+    Core::TEvent event_;
+};
+
+class VesselBoxTest : public ViewsFixture {
+  protected:
+    TwoVessels fleet;
+    QLineEdit& Box() { return *Find<QLineEdit>(Panel(), "vesselEditor"); }
+    QListWidget& List() { return *Find<QListWidget>(Panel(), "vesselList"); }
+};
+
+}  // namespace
+
+TEST_F(VesselBoxTest, AVesselIsPickedFromTheList) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_AssignShip");
+    ASSERT_TRUE(Box().isVisible());
+    EXPECT_FALSE(Box().accessibleName().isEmpty());
+    EXPECT_EQ(Box().size(), QSize(120, 25));
+    ASSERT_TRUE(List().isVisible());
+    EXPECT_EQ(List().size(), QSize(157, 41));
+    QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, List().visualItemRect(List().item(1)).center());
+    EXPECT_EQ(store.voyages["12"].vsn, "NORA");
+    EXPECT_FALSE(Box().isVisible());
+    EXPECT_FALSE(List().isVisible());
+    EXPECT_TRUE(Shows("North Sea", "Voyage_ShipInfo"));
+}
+
+TEST_F(VesselBoxTest, AVesselIsTypedAndArrowsWalkTheList) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_AssignShip");
+    QTest::keyClicks(&Box(), "nor");
+    EXPECT_EQ(List().count(), 2);
+    QTest::keyClick(&Box(), Qt::Key_Down);
+    QTest::keyClick(&Box(), Qt::Key_Return);
+    EXPECT_EQ(store.voyages["12"].vsn, "NORA");
+    ClickPart("North Sea", "Voyage_ReplaceShip");
+    Box().selectAll();
+    QTest::keyClicks(&Box(), "SEA STAR");
+    EXPECT_FALSE(List().isVisible());
+    QTest::keyClick(&Box(), Qt::Key_Return);
+    EXPECT_EQ(store.voyages["12"].vsn, "SEA STAR");
+    EXPECT_TRUE(Shows("North Sea", "Voyage_Alert"));
+}
+
+TEST_F(VesselBoxTest, ASecondClickClosesTheBox) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_AssignShip");
+    ASSERT_TRUE(Box().isVisible());
+    ClickPart("North Sea", "Voyage_AssignShip");
+    EXPECT_FALSE(Box().isVisible());
+    ClickPart("North Sea", "Voyage_AssignShip");
+    EXPECT_TRUE(Box().isVisible());
+}
+
+TEST_F(VesselBoxTest, APressElsewhereTakesTheTypedName) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_AssignShip");
+    QTest::keyClicks(&Box(), "STELLA");
+    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, QPoint(100, 370));
+    EXPECT_FALSE(Box().isVisible());
+    EXPECT_EQ(store.voyages["12"].vsn, "STELLA");
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/tests/FakeCommands.h"
+#include "seaplan/views/VoyageViews.h"
+#include "seaplan/views/preview/FileTexts.h"
+#include "seaplan/views/preview/SampleVoyages.h"
+#include "seaplan/views/skin/Palette.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/RecordingMsgSink.h"
+
+#include <tarvik/interface/BusContract.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+/// Both windows over fakes with the sample voyages, driven as a person does it.
+class ViewsFixture : public ::testing::Test {
+  protected:
+    FileTexts texts{std::string(SEAPLAN_LANG_DIR) + "/en-US.json"};
+    TestSupport::ManualClock clock;
+    TestSupport::RecordingMsgSink messages;
+    VoyageStore store;
+    FakeCatalog catalog{store};
+    FakeSchedule schedule{store};
+    VoyageViews views{{store, catalog, schedule, SamplePorts(), nullptr}};
+
+    ViewsFixture() { AddSampleVoyages(catalog, schedule); }
+    ~ViewsFixture() override {
+        SetTheme(Theme::Light);
+        qApp->setProperty("tarvik.theme", QVariant());
+    }
+
+    void Toggle() {
+        const Interface::PanelShow show{3, 0};
+        Interface::Raise(Interface::Bus::ShowPanel, &show);
+        QApplication::processEvents();
+    }
+    VoyagePanelWindow& Panel() { return *views.VoyageWindow(); }
+    PortCallWindow& PortCalls() { return *views.PortCallsWindow(); }
+    VoyageTreeView& Tree() { return Panel().Tree(); }
+    TreeRows& Rows() { return Tree().Rows(); }
+
+    TreeRow RowOf(const std::string& text) {
+        for (TreeRow row = Rows().GetRootItem(); row != kNoRow; row = Rows().GetNextSiblingItem(row)) {
+            if (Rows().GetItemText(row) == text) return row;
+            for (TreeRow child = Rows().GetChildItem(row); child != kNoRow;
+                 child = Rows().GetNextSiblingItem(child)) {
+                if (Rows().GetItemText(child) == text) return child;
+            }
+        }
+        return kNoRow;
+    }
+    /// Clicks the name in a row.
+    void ClickRow(const std::string& text) { ClickPart(text, "name"); }
+    /// Clicks a part of a row by its name.
+    void ClickPart(const std::string& text, const std::string& name) {
+        for (const SubItem& part : Tree().PartsOf(RowOf(text))) {
+            if (part.name != name) continue;
+            QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, part.rect.center());
+            QApplication::processEvents();
+            return;
+        }
+        FAIL() << text << " shows no " << name;
+    }
+    bool Shows(const std::string& text, const std::string& name) {
+        for (const SubItem& part : Tree().PartsOf(RowOf(text))) {
+            if (part.name == name) return true;
+        }
+        return false;
+    }
+    template <class Widget>
+    Widget* Find(QWidget& window, const char* name) {
+        return window.findChild<Widget*>(QString::fromLatin1(name));
+    }
+    void Press(QWidget& window, const char* button) {
+        auto* found = Find<QAbstractButton>(window, button);
+        ASSERT_NE(found, nullptr) << button;
+        QTest::mouseClick(found, Qt::LeftButton);
+        QApplication::processEvents();
+    }
+    /// The tree with its first category open and a voyage selected.
+    void OpenVoyage(const std::string& name) {
+        Toggle();
+        ClickRow("Container 2024");
+        ClickRow(name);
+    }
+    /// The port calls of a voyage.
+    void OpenPortCalls(const std::string& name) {
+        OpenVoyage(name);
+        ClickPart(name, "Voyage.child.svr4");
+    }
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/tests/ViewsFixture.h"
+
+#include <QCheckBox>
+#include <QContextMenuEvent>
+#include <QRadioButton>
+
+namespace Tarvik::Seaplan {
+
+using ::testing::Contains;
+
+TEST_F(ViewsFixture, TheChartsButtonShowsThePanelInItsPlaceAndHidesItAgain) {
+    EXPECT_FALSE(Panel().isVisible());
+    Toggle();
+    EXPECT_TRUE(Panel().isVisible());
+    EXPECT_EQ(Panel().geometry(), QRect(150, 240, 310, 460));
+    EXPECT_TRUE(views.TreeVisible());
+    Toggle();
+    EXPECT_FALSE(Panel().isVisible());
+}
+
+TEST_F(ViewsFixture, TheTreeStandsInItsPlaceInThePanel) {
+    Toggle();
+    EXPECT_EQ(Tree().mapTo(&Panel(), QPoint(0, 0)), QPoint(10, 45));
+    EXPECT_EQ(Tree().size(), QSize(310 - 8 - 10, 460 - 30 - 45));
+    EXPECT_EQ(Panel().objectName(), "voyagePanel");
+    EXPECT_EQ(Tree().objectName(), "voyageTree");
+}
+
+TEST_F(ViewsFixture, EveryControlOfThePanelHasAnAccessibleNameAndATip) {
+    Toggle();
+    for (const char* name : {"filterButton", "addCategoryButton", "helpButton", "closeButton"}) {
+        auto* button = Find<QAbstractButton>(Panel(), name);
+        ASSERT_NE(button, nullptr) << name;
+        EXPECT_FALSE(button->accessibleName().isEmpty()) << name;
+        EXPECT_TRUE(button->toolTip().startsWith(button->accessibleName())) << name;
+        EXPECT_FALSE(button->icon().isNull()) << name;
+        EXPECT_NE(button->focusPolicy(), Qt::NoFocus) << name;
+    }
+    EXPECT_FALSE(Tree().accessibleName().isEmpty());
+    EXPECT_FALSE(Find<QLineEdit>(Panel(), "renameEditor")->accessibleName().isEmpty());
+}
+
+TEST_F(ViewsFixture, ANewCategoryIsNamedInPlace) {
+    Toggle();
+    Press(Panel(), "addCategoryButton");
+    auto* editor = Find<QLineEdit>(Panel(), "renameEditor");
+    ASSERT_TRUE(editor->isVisible());
+    EXPECT_EQ(editor->text(), "New category - 0");
+    EXPECT_EQ(editor->selectedText(), editor->text());
+    EXPECT_EQ(editor->maxLength(), 30);
+    QTest::keyClicks(editor, "Winter");
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_FALSE(editor->isVisible());
+    EXPECT_NE(RowOf("Winter"), kNoRow);
+    EXPECT_THAT(catalog.calls, Contains("RenameCategory Winter"));
+}
+
+TEST_F(ViewsFixture, AVoyageIsAddedUnderItsCategoryAndNamed) {
+    Toggle();
+    ClickRow("Bulk");
+    ClickPart("Bulk", "Voyage.parent.svr3");
+    auto* editor = Find<QLineEdit>(Panel(), "renameEditor");
+    ASSERT_TRUE(editor->isVisible());
+    EXPECT_EQ(editor->maxLength(), 20);
+    QTest::keyClicks(editor, "Ore 2");
+    QTest::keyClick(editor, Qt::Key_Enter);
+    EXPECT_EQ(Rows().GetParentItem(RowOf("Ore 2")), RowOf("Bulk"));
+    EXPECT_TRUE(Rows().IsItemExpanded(RowOf("Bulk")));
+}
+
+TEST_F(ViewsFixture, LeavingTheBoxTakesTheName) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_child_rename");
+    auto* editor = Find<QLineEdit>(Panel(), "renameEditor");
+    ASSERT_TRUE(editor->isVisible());
+    QTest::keyClicks(editor, "Skagerrak");
+    QFocusEvent out(QEvent::FocusOut, Qt::MouseFocusReason);
+    QApplication::sendEvent(editor, &out);
+    EXPECT_FALSE(editor->isVisible());
+    EXPECT_NE(RowOf("Skagerrak"), kNoRow);
+}
+
+TEST_F(ViewsFixture, AClickUnfoldsACategoryAndAnotherFoldsIt) {
+    Toggle();
+    ClickRow("Container 2024");
+    EXPECT_TRUE(Rows().IsItemExpanded(RowOf("Container 2024")));
+    EXPECT_EQ(Rows().Selected(), RowOf("Container 2024"));
+    ClickRow("Container 2024");
+    EXPECT_FALSE(Rows().IsItemExpanded(RowOf("Container 2024")));
+    EXPECT_EQ(Rows().Selected(), kNoRow);
+}
+
+TEST_F(ViewsFixture, TheArrowOfARefusedPressDoesNotClick) {
+    OpenVoyage("Far East 12");
+    const auto before = catalog.calls;
+    for (const SubItem& part : Tree().PartsOf(RowOf("Far East 12"))) {
+        if (part.name != "Voyage.child.svr9") continue;
+        QTest::mousePress(Tree().viewport(), Qt::LeftButton, {}, part.rect.center());
+        QTest::mouseRelease(Tree().viewport(), Qt::LeftButton, {}, QPoint(100, 380));
+    }
+    EXPECT_EQ(catalog.calls, before);
+}
+
+TEST_F(ViewsFixture, TheKeyboardWalksTheTree) {
+    Toggle();
+    Tree().setFocus();
+    QTest::keyClick(&Tree(), Qt::Key_Right);
+    EXPECT_TRUE(Rows().IsItemExpanded(RowOf("Container 2024")));
+    QTest::keyClick(&Tree(), Qt::Key_Down);
+    EXPECT_EQ(Rows().Selected(), RowOf("Baltic feeder"));
+    QTest::keyClick(&Tree(), Qt::Key_Left);
+    EXPECT_EQ(Rows().Selected(), RowOf("Container 2024"));
+    QTest::keyClick(&Tree(), Qt::Key_Left);
+    EXPECT_FALSE(Rows().IsItemExpanded(RowOf("Container 2024")));
+}
+
+TEST_F(ViewsFixture, F2RenamesInsertAddsAndDeleteMovesToTheBin) {
+    OpenVoyage("North Sea");
+    auto* editor = Find<QLineEdit>(Panel(), "renameEditor");
+    QTest::keyClick(&Tree(), Qt::Key_F2);
+    ASSERT_TRUE(editor->isVisible());
+    QTest::keyClicks(editor, "Kattegat");
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_NE(RowOf("Kattegat"), kNoRow);
+    QTest::keyClick(&Tree(), Qt::Key_Insert);
+    EXPECT_THAT(catalog.calls, Contains("AddVoyage New voyage - 0"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    ClickRow("Kattegat");
+    QTest::keyClick(&Tree(), Qt::Key_Delete);
+    EXPECT_THAT(catalog.calls, Contains("DeleteVoyage 12"));
+    EXPECT_EQ(RowOf("Kattegat"), kNoRow);
+}
+
+TEST_F(ViewsFixture, InsertWithoutARowAddsACategory) {
+    Toggle();
+    Rows().DeleteAllItems();
+    QTest::keyClick(&Tree(), Qt::Key_Insert);
+    EXPECT_THAT(catalog.calls, Contains("AddCategory New category - 0"));
+}
+
+TEST_F(ViewsFixture, EnterOpensThePortCallsOfAVoyage) {
+    OpenVoyage("Far East 12");
+    QTest::keyClick(&Tree(), Qt::Key_Return);
+    EXPECT_TRUE(PortCalls().isVisible());
+}
+
+TEST_F(ViewsFixture, TabWalksTheItemsOfTheSelectedRow) {
+    OpenVoyage("Far East 12");
+    Tree().activateWindow();
+    Tree().setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Panel()));
+    EXPECT_EQ(Tree().FocusedPart(), "");
+    QTest::keyClick(&Tree(), Qt::Key_Tab);
+    EXPECT_EQ(Tree().FocusedPart(), "Voyage.child.svr1.auto");
+    QTest::keyClick(&Tree(), Qt::Key_Tab);
+    EXPECT_EQ(Tree().FocusedPart(), "Voyage_child_rename");
+    QTest::keyClick(&Tree(), Qt::Key_Space);
+    EXPECT_TRUE(Find<QLineEdit>(Panel(), "renameEditor")->isVisible());
+}
+
+TEST_F(ViewsFixture, TheMenuOfARowHasItsCommands) {
+    OpenVoyage("Far East 12");
+    for (const SubItem& part : Tree().PartsOf(RowOf("Far East 12"))) {
+        if (part.name != "name") continue;
+        QContextMenuEvent event(QContextMenuEvent::Mouse, part.rect.center(),
+                                Tree().viewport()->mapToGlobal(part.rect.center()));
+        QApplication::sendEvent(Tree().viewport(), &event);
+    }
+    auto* menu = Tree().findChild<QMenu*>("rowMenu");
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(menu->isVisible());
+    QAction* open = nullptr;
+    for (QAction* action : menu->actions()) {
+        EXPECT_FALSE(action->text().isEmpty());
+        if (action->text() == "Port calls") open = action;
+    }
+    ASSERT_NE(open, nullptr);
+    open->trigger();
+    EXPECT_TRUE(PortCalls().isVisible());
+}
+
+TEST_F(ViewsFixture, TheFilterShowsTheRecycleBin) {
+    Toggle();
+    Press(Panel(), "filterButton");
+    auto* check = Find<QCheckBox>(Panel(), "showDeletedCheck");
+    ASSERT_NE(check, nullptr);
+    EXPECT_TRUE(Panel().FilterVisible());
+    EXPECT_EQ(check->parentWidget()->size(), QSize(180, 35));
+    QTest::mouseClick(check, Qt::LeftButton, {}, QPoint(8, check->height() / 2));
+    EXPECT_NE(RowOf("Old plans"), kNoRow);
+    EXPECT_NE(RowOf("Cancelled"), kNoRow);
+    Panel().HideFilter();
+    Panel().ShowFilter(views.Tree().ShowsDeleted());
+    EXPECT_TRUE(check->isChecked());
+}
+
+TEST_F(ViewsFixture, ADeletedVoyageIsRecovered) {
+    Toggle();
+    views.Panel().SetShowDeleted(true);
+    ClickRow("Container 2024");
+    ClickPart("Cancelled", "Voyage.child.svr.recover");
+    EXPECT_EQ(store.categoryVoyages["1"]["13"], InUse);
+    EXPECT_EQ(Rows().GetItemStyle(RowOf("Cancelled")), kVoyageStyle);
+}
+
+TEST_F(ViewsFixture, TheSortPanelSortsByDate) {
+    for (auto& [vi, rows] : schedule.onServer) catalog.onServer.voyages[vi].portCalls = rows;
+    Toggle();
+    ClickRow("Container 2024");
+    ClickPart("Container 2024", "Voyage.parent.svr9");
+    auto* byDate = Find<QRadioButton>(Tree(), "sortByDate");
+    ASSERT_NE(byDate, nullptr);
+    EXPECT_TRUE(Find<QRadioButton>(Tree(), "sortByName")->isChecked());
+    EXPECT_EQ(byDate->parentWidget()->size(), QSize(180, 60));
+    QTest::mouseClick(byDate, Qt::LeftButton, {}, QPoint(8, byDate->height() / 2));
+    EXPECT_EQ(views.Tree().Context().categorySorts["1"].sortKey, SortByDate);
+    EXPECT_EQ(Rows().GetItemText(Rows().GetChildItem(RowOf("Container 2024"))), "North Sea");
+    EXPECT_FALSE(byDate->parentWidget()->isVisible());
+}
+
+TEST_F(ViewsFixture, TheCloseButtonHidesThePanel) {
+    Toggle();
+    Press(Panel(), "closeButton");
+    EXPECT_FALSE(Panel().isVisible());
+}
+
+TEST_F(ViewsFixture, AnEmptyTreeSaysWhatToDo) {
+    Toggle();
+    Rows().DeleteAllItems();
+    const QImage hint = Tree().grab().toImage();
+    const FileTexts nothing("");
+    Tree().ApplyTexts();
+    EXPECT_NE(hint, Tree().grab().toImage());
+}
+
+TEST_F(ViewsFixture, TheWindowsFollowTheClientsTheme) {
+    Toggle();
+    const QColor light = Panel().grab().toImage().pixelColor(20, 35);
+    qApp->setProperty("tarvik.theme", "dark");
+    QEvent change(QEvent::ApplicationPaletteChange);
+    QApplication::sendEvent(qApp, &change);
+    EXPECT_EQ(CurrentTheme(), Theme::Dark);
+    EXPECT_NE(Panel().grab().toImage().pixelColor(20, 35), light);
+    EXPECT_EQ(Panel().grab().toImage().pixelColor(20, 35), Skin().window);
+}
+
+TEST_F(ViewsFixture, ALanguageSwitchReachesEveryText) {
+    OpenPortCalls("Far East 12");
+    const FileTexts chinese(std::string(SEAPLAN_LANG_DIR) + "/zh-CN.json");
+    Interface::Raise<void>(Interface::Bus::SwitchLanguage, nullptr);
+    EXPECT_EQ(Panel().windowTitle(), "航次");
+    EXPECT_EQ(PortCalls().windowTitle(), "挂靠港");
+    EXPECT_EQ(Find<QAbstractButton>(PortCalls(), "calculateButton")->text(), "计算");
+    EXPECT_TRUE(Find<QAbstractButton>(Panel(), "addCategoryButton")->toolTip().startsWith("新建分类"));
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+/// The keyboard's ways through the tree, and the menu of a row.
+#include "seaplan/views/skin/Icons.h"
+#include "seaplan/views/skin/Palette.h"
+#include "seaplan/views/tree/VoyageTreeView.h"
+#include "seaplan/views/tree/VoyageTreeWidget.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+
+namespace Tarvik::Seaplan {
+
+void VoyageTreeView::stepRow(int by) {
+    QModelIndex index;
+    if (QStandardItem* item = rows_->ItemOf(rows_->Selected())) index = item->index();
+    if (!index.isValid() && currentIndex().isValid()) index = currentIndex();
+    const QModelIndex next = !index.isValid() ? model_->index(0, 0)
+                             : by > 0         ? indexBelow(index)
+                                              : indexAbove(index);
+    if (!next.isValid()) return;
+    setCurrentIndex(next);
+    if (reports_.pressed) reports_.pressed(next.data(Qt::UserRole).toInt());
+}
+
+TreeRow VoyageTreeView::keyRow() const {
+    if (rows_->Selected() != kNoRow) return rows_->Selected();
+    return currentIndex().isValid() ? currentIndex().data(Qt::UserRole).toInt() : kNoRow;
+}
+
+bool VoyageTreeView::clickItem(TreeRow row, std::initializer_list<const char*> items) {
+    for (const char* item : items) {
+        if (!rows_->IsItemVisible(row, item)) continue;
+        if (reports_.clicked) reports_.clicked(row, item);
+        return true;
+    }
+    return false;
+}
+
+void VoyageTreeView::pressKey() {
+    const TreeRow row = keyRow();
+    const std::string part = FocusedPart();
+    if (!part.empty()) {
+        if (reports_.clicked) reports_.clicked(rows_->Selected(), part);
+    } else if (!clickItem(row, {"Voyage.child.svr4"})) {
+        press(row, false);
+    }
+}
+
+void VoyageTreeView::insertKey() {
+    const TreeRow row = keyRow();
+    const TreeRow parent = rows_->GetParentItem(row);
+    if (!clickItem(parent == kNoRow ? row : parent, {"Voyage.parent.svr3"}) && reports_.addCategory) {
+        reports_.addCategory();
+    }
+}
+
+bool VoyageTreeView::foldKey(int key) {
+    const TreeRow row = keyRow();
+    const bool open = key == Qt::Key_Right;
+    if (rows_->GetParentItem(row) == kNoRow) {
+        if (rows_->IsItemExpanded(row) != open) press(row, false);
+    } else if (!open && reports_.pressed) {
+        const TreeRow parent = rows_->GetParentItem(row);
+        setCurrentIndex(rows_->ItemOf(parent)->index());
+        reports_.pressed(parent);
+    }
+    return true;
+}
+
+bool VoyageTreeView::rowKey(int key) {
+    const TreeRow row = keyRow();
+    switch (key) {
+        case Qt::Key_Down:
+        case Qt::Key_Up:
+            stepRow(key == Qt::Key_Down ? 1 : -1);
+            return true;
+        case Qt::Key_Right:
+        case Qt::Key_Left:
+            return foldKey(key);
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            pressKey();
+            return true;
+        case Qt::Key_F2:
+            return clickItem(row, {"Voyage_parent_rename", "Voyage_child_rename"});
+        case Qt::Key_Delete:
+            return clickItem(row, {"Voyage.parent.svr7", "Voyage.child.svr9", "Voyage.parent.svr.clear",
+                                   "Voyage.child.svr.clear"});
+        case Qt::Key_Insert:
+            insertKey();
+            return true;
+        default:
+            return false;
+    }
+}
+
+void VoyageTreeView::keyPressEvent(QKeyEvent* event) {
+    if (!rowKey(event->key())) event->ignore();
+}
+
+void VoyageTreeView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const TreeRow row = byKey ? keyRow() : rowAt(event->pos());
+    const TreeRowState* state = rows_->Row(row);
+    if (state == nullptr) return;
+    auto* menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("rowMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setStyleSheet(SkinStyleSheet());
+    for (const SubItem& part : layout(*state, {0, 0, viewport()->width(), 0}, true)) {
+        if (!part.clickable || part.toolTip.isEmpty()) continue;
+        QAction* action =
+            menu->addAction(MakeIcon(part.icon), part.toolTip, this, [this, row, item = part.name] {
+                if (reports_.clicked) reports_.clicked(row, item);
+            });
+        action->setEnabled(part.enabled);
+    }
+    menu->popup(byKey ? viewport()->mapToGlobal(visualRect(rows_->ItemOf(row)->index()).center())
+                      : event->globalPos());
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/vessel/VesselBox.h"
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/vessel/VoyShipEditDlg.h"
+#include "seaplan/views/skin/Palette.h"
+#include "seaplan/views/skin/ToolWindow.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr int kMostCharacters = 50;
+constexpr int kListBelowTop = 22;
+
+}  // namespace
+
+VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new QLineEdit(tree)) {
+    box_->setObjectName(QStringLiteral("vesselEditor"));
+    box_->setMaxLength(kMostCharacters);
+    box_->hide();
+    box_->installEventFilter(this);
+    // A window of its own, as it may be higher than what is left of the tree; it never takes the keyboard.
+    list_ = new QListWidget(tree);
+    list_->setWindowFlags(Qt::ToolTip);
+    list_->setAttribute(Qt::WA_ShowWithoutActivating);
+    list_->setObjectName(QStringLiteral("vesselList"));
+    list_->setFocusPolicy(Qt::NoFocus);
+    list_->setProperty("dense", true);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(box_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        if (panel_ != nullptr) panel_->OnTyped(text.toStdString());
+    });
+    connect(list_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
+        if (panel_ != nullptr) panel_->OnChosen(list_->row(item));
+    });
+    qApp->installEventFilter(this);
+    ApplySkin();
+}
+
+void VesselBox::ApplyTexts() {
+    const QString name = QString::fromStdString(Text(TextId::IDS_VIEW_VESSELEDITOR));
+    Describe(box_, name);
+    list_->setAccessibleName(name);
+}
+
+void VesselBox::ApplySkin() {
+    list_->setStyleSheet(SkinStyleSheet());
+}
+
+void VesselBox::ShowBox(const Rect& inTree, const std::string& text) {
+    box_->setGeometry(inTree.left, inTree.top, inTree.right - inTree.left, inTree.bottom - inTree.top);
+    box_->setText(QString::fromStdString(text));
+    open_ = true;
+    box_->show();
+    box_->raise();
+    box_->setFocus();
+    box_->end(false);
+}
+
+void VesselBox::HideBox() {
+    open_ = false;
+    if (box_->isHidden()) return;
+    const bool focused = box_->hasFocus();
+    box_->hide();
+    if (focused && box_->parentWidget()->parentWidget() != nullptr)
+        box_->parentWidget()->parentWidget()->setFocus();
+}
+
+std::string VesselBox::BoxText() const {
+    return box_->text().toStdString();
+}
+
+void VesselBox::ShowList(const std::vector<std::string>& names, const VesselListSize& size) {
+    list_->clear();
+    for (const std::string& name : names) {
+        auto* item = new QListWidgetItem(QString::fromStdString(name), list_);
+        item->setSizeHint({size.columnWidth, 18});
+        item->setToolTip(item->text());
+    }
+    list_->setFixedSize(size.width, size.height);
+    list_->move(box_->mapToGlobal(QPoint(0, kListBelowTop)));
+    list_->setCurrentRow(0);
+    list_->scrollToTop();
+    list_->show();
+}
+
+void VesselBox::HideList() {
+    list_->hide();
+}
+
+bool VesselBox::ListVisible() const {
+    return list_->isVisible();
+}
+
+bool VesselBox::boxKey(int key) {
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            panel_->OnEnter(list_->currentRow());
+            return true;
+        case Qt::Key_Down:
+        case Qt::Key_Up:
+            if (!ListVisible()) return false;
+            list_->setCurrentRow(
+                std::clamp(list_->currentRow() + (key == Qt::Key_Down ? 1 : -1), 0, list_->count() - 1));
+            return true;
+        case Qt::Key_Escape:
+            HideList();
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool VesselBox::eventFilter(QObject* watched, QEvent* event) {
+    if (panel_ == nullptr) return false;
+    if (event->type() == QEvent::MouseButtonRelease && panel_->ClosedByPress()) {
+        // The release may still become a click, which is told after it has been delivered.
+        QTimer::singleShot(0, this, [this] { panel_->OnReleased(); });
+    }
+    if (!open_) return false;
+    if (watched == box_ && event->type() == QEvent::KeyPress)
+        return boxKey(static_cast<QKeyEvent*>(event)->key());
+    if (event->type() != QEvent::MouseButtonPress) return false;
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    if (widget != nullptr && widget != box_ && widget != list_ && !list_->isAncestorOf(widget))
+        panel_->OnLeft();
+    return false;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/vessel/VesselView.h"
+
+#include <QObject>
+
+class QLineEdit;
+class QListWidget;
+class QWidget;
+
+namespace Tarvik::Seaplan {
+
+class VoyShipEditDlg;
+
+/// The box over the tree's rows in which a vessel is typed, with its drop list.
+class VesselBox final : public QObject, public VesselView {
+  public:
+    /// `tree` is the surface whose coordinates the box is placed in.
+    explicit VesselBox(QWidget* tree);
+    void Attach(VoyShipEditDlg* panel) { panel_ = panel; }
+    /// Names in the language in force.
+    void ApplyTexts();
+    void ApplySkin();
+
+    void ShowBox(const Rect& inTree, const std::string& text) override;
+    void HideBox() override;
+    bool BoxVisible() const override { return open_; }
+    std::string BoxText() const override;
+    void ShowList(const std::vector<std::string>& names, const VesselListSize& size) override;
+    void HideList() override;
+    bool ListVisible() const override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    bool boxKey(int key);
+
+    VoyShipEditDlg* panel_ = nullptr;
+    QLineEdit* box_;
+    QListWidget* list_;
+    bool open_ = false;
+};
+
+}  // namespace Tarvik::Seaplan

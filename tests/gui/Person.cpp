@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "tests/gui/Person.h"
+
+#include "tests/gui/ChildProcess.h"
+
+#include <utility>
+
+namespace Tarvik::Programs {
+namespace {
+
+ChildProcess::Start On(const std::string& display, std::vector<std::string> words) {
+    ChildProcess::Start start;
+    start.words = std::move(words);
+    start.environment["DISPLAY"] = display;
+    return start;
+}
+
+std::string FirstLine(const std::string& text) {
+    return text.substr(0, text.find('\n'));
+}
+
+}  // namespace
+
+std::string Person::xdotool(std::vector<std::string> words) const {
+    words.insert(words.begin(), XDOTOOL_PROGRAM);
+    return RunToEnd(On(display_, std::move(words))).out;
+}
+
+std::string Person::AwaitWindow(const std::string& title) const {
+    std::string found;
+    const auto look = [&] {
+        found = FirstLine(xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}));
+        return !found.empty();
+    };
+    AwaitOrThrow(look, "no window " + title);
+    return found;
+}
+
+void Person::AwaitGone(const std::string& title) const {
+    AwaitOrThrow([&] { return xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}).empty(); },
+                 "the window stays: " + title);
+}
+
+void Person::Click(const std::string& window, int x, int y) const {
+    xdotool({"mousemove", "--window", window, std::to_string(x), std::to_string(y), "click", "1"});
+    const auto focused = [&] { return FirstLine(xdotool({"getwindowfocus"})) == window; };
+    AwaitOrThrow(focused, "the window pressed at " + std::to_string(x) + ", " + std::to_string(y) + " takes no keys");
+}
+
+void Person::Type(const std::string& text) const {
+    xdotool({"type", "--delay", "2", text});
+}
+
+void Person::Press(const std::vector<std::string>& keys) const {
+    std::vector<std::string> words{"key"};
+    words.insert(words.end(), keys.begin(), keys.end());
+    xdotool(std::move(words));
+}
+
+std::string Person::Look(const std::string& window) const {
+    return RunToEnd(On(display_, {IMPORT_PROGRAM, "-silent", "-window", window, "ppm:-"})).out;
+}
+
+std::string Person::LookForChange(const std::string& window, const std::string& before) const {
+    std::string last = before;
+    const auto changedAndStill = [&] {
+        const std::string now = Look(window);
+        const bool still = now == last;
+        last = now;
+        return still && now != before;
+    };
+    AwaitOrThrow(changedAndStill, "nothing changed in the window");
+    return last;
+}
+
+void Person::Photograph(const std::string& file) const {
+    RunToEnd(On(display_, {IMPORT_PROGRAM, "-silent", "-window", "root", file}));
+}
+
+}  // namespace Tarvik::Programs

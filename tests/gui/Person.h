@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Tarvik::Programs {
+
+/// Mouse, keyboard and eyes of a person before a display. What is waited for in vain throws, so that a test
+/// ends there.
+class Person {
+  public:
+    explicit Person(std::string display) : display_(std::move(display)) {}
+
+    /// The number of the visible window of a given title once it is there.
+    std::string AwaitWindow(const std::string& title) const;
+    /// Waits until no visible window has the title.
+    void AwaitGone(const std::string& title) const;
+    /// Presses the left button at a place within a window and waits until the window takes the keys.
+    void Click(const std::string& window, int x, int y) const;
+    /// Types into the window that takes the keys.
+    void Type(const std::string& text) const;
+    /// Presses keys one after the other, as "ctrl+a" or "Return".
+    void Press(const std::vector<std::string>& keys) const;
+    /// The pixels of a window as they are on the screen.
+    std::string Look(const std::string& window) const;
+    /// Waits until the pixels of a window are other than `before` and stay the same from one look to the next.
+    std::string LookForChange(const std::string& window, const std::string& before) const;
+    /// Writes what is on the screen to a PNG file.
+    void Photograph(const std::string& file) const;
+
+  private:
+    std::string xdotool(std::vector<std::string> words) const;
+
+    std::string display_;
+};
+
+}  // namespace Tarvik::Programs

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/plugin/MainViewFactory.h"
+
+#include <stdexcept>
+
+namespace Tarvik::Seaplan {
+
+/// A window system that breaks down while the main view is made.
+bool CreateMainView() {
+    throw std::runtime_error("no window");
+}
+
+}  // namespace Tarvik::Seaplan
