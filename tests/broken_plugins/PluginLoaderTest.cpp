@@ -111,9 +111,23 @@ TEST_F(PluginFolder, AnInitThatThrowsFailsItAlone) {
     EXPECT_TRUE(loader_->IsRunning("Chart"));
 }
 
+TEST_F(PluginFolder, ASuiteCallThatThrowsFailsItAlone) {
+    expectFailure("LateThrower", "SuiteLoaded failed: no wind");
+    EXPECT_TRUE(loader_->IsRunning("ASailor"));
+}
+
+TEST_F(PluginFolder, AnEnvironmentCheckThatThrowsFailsBeforeLoad) {
+    expectFailure("CheckThrower", "CheckEnvironment failed: no water");
+    EXPECT_EQ(std::string(std::getenv("PLUGIN_TRACE")).find("load:CheckThrower"), std::string::npos);
+}
+
+TEST_F(PluginFolder, ARecordThatThrowsFails) {
+    expectFailure("RecordThrower", "PluginInfo failed: no paper");
+}
+
 TEST_F(PluginFolder, EveryFailureIsReportedByName) {
     const auto lines = loader_->Complaints();
-    EXPECT_EQ(lines.size(), 14U);
+    EXPECT_EQ(lines.size(), 17U);
     EXPECT_THAT(lines, testing::Contains(HasSubstr("Lonely: needs Nowhere")));
     EXPECT_THAT(lines, testing::Not(testing::Contains(testing::StartsWith("Chart:"))));
 }
@@ -132,7 +146,7 @@ TEST(PluginUnload, GoesInOppositeOrderOverWhatWasLoaded) {
 TEST(PluginFiles, TheSdkLibraryIsNoPluginAndAMissingFolderHoldsNone) {
     EXPECT_TRUE(PluginLoader::FindLibraries(std::string(PLUGIN_FOLDER) + "/nowhere").empty());
     const auto files = PluginLoader::FindLibraries(PLUGIN_FOLDER);
-    EXPECT_EQ(files.size(), 16U);
+    EXPECT_EQ(files.size(), 19U);
     EXPECT_TRUE(std::is_sorted(files.begin(), files.end()));
 }
 

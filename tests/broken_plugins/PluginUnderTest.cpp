@@ -9,7 +9,7 @@
 
 namespace {
 
-#ifndef FAULT_NO_RECORD
+#if !defined(FAULT_NO_RECORD) && !defined(FAULT_RECORD_THROWS)
 Tarvik::Plugin::CPluginInfo* Record() {
     static Tarvik::Plugin::CPluginInfo info(PLUGIN_NEEDS);
     info.name = PLUGIN_NAME;
@@ -28,16 +28,20 @@ Tarvik::Plugin::CPluginInfo* Record() {
 }  // namespace
 
 EXPORTED Tarvik::Plugin::CPluginInfo* PluginInfo() {
-#ifdef FAULT_NO_RECORD
+#if defined(FAULT_NO_RECORD)
     return nullptr;
+#elif defined(FAULT_RECORD_THROWS)
+    throw std::runtime_error("no paper");
 #else
     return Record();
 #endif
 }
 
 EXPORTED bool CheckEnvironment() {
-#ifdef FAULT_REFUSES
+#if defined(FAULT_REFUSES)
     return false;
+#elif defined(FAULT_CHECK_THROWS)
+    throw std::runtime_error("no water");
 #else
     return true;
 #endif
@@ -70,4 +74,7 @@ EXPORTED void InitPlugin() {
 
 EXPORTED void SuiteLoaded() {
     Trace("suite");
+#ifdef FAULT_SUITE_THROWS
+    throw std::runtime_error("no wind");
+#endif
 }

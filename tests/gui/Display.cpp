@@ -6,6 +6,8 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <cstdlib>
+
 namespace Tarvik::Programs {
 namespace {
 
@@ -17,17 +19,20 @@ Display::Display() {
     int numbers[2];
     if (pipe2(numbers, O_CLOEXEC) != 0) return;
     ChildProcess::Start start;
-    start.words = {XVFB_PROGRAM, "-displayfd", std::to_string(numbers[1]), "-screen", "0", "1600x1000x24",
+    start.words = {XVFB_PROGRAM, "-displayfd", std::to_string(numbers[1]),
+                   "-screen",    "0",          "1600x1000x24",
                    "-nolisten",  "tcp",        "-noreset"};
     start.passedDescriptor = numbers[1];
     server_ = std::make_unique<ChildProcess>(start);
     close(numbers[1]);
+    // The server writes its number once it takes connections, and the end of the line in a write of its own.
     pollfd waiting{numbers[0], POLLIN, 0};
-    char number[16] = {};
-    // The server writes its number once it takes connections.
-    if (poll(&waiting, 1, kStartMs) == 1 && read(numbers[0], number, sizeof number - 1) > 0)
-        name_ = ":" + std::to_string(std::atoi(number));
+    std::string number;
+    char next = 0;
+    while (next != '\n' && poll(&waiting, 1, kStartMs) == 1 && read(numbers[0], &next, 1) == 1)
+        number += next;
     close(numbers[0]);
+    if (next == '\n') name_ = ":" + std::to_string(std::atoi(number.c_str()));
     EXPECT_NE(name_, "") << "the X server did not start";
 }
 

@@ -38,7 +38,8 @@ struct Rows {
 };
 
 Rows RowsOf(const ClientTree& client) {
-    return {client.Number("select count(*) from port_calls"), client.Number("select count(*) from book_rows")};
+    return {client.Number("select count(*) from port_calls"),
+            client.Number("select count(*) from book_rows")};
 }
 
 class KilledSave : public testing::Test {
@@ -59,7 +60,8 @@ class KilledSave : public testing::Test {
         const Ended ended = RunToEnd(WatchedSave(*client, write, {}));
         EXPECT_EQ(ended.signal, SIGKILL) << ended.err;
         ASSERT_EQ(client->Plan({"Rotterdam", "Hamburg"}).exitCode, 0) << "the client starts again";
-        EXPECT_EQ(client->Number("select count(*) from pragma_integrity_check where integrity_check='ok'"), 1);
+        EXPECT_EQ(client->Number("select count(*) from pragma_integrity_check where integrity_check='ok'"),
+                  1);
         EXPECT_EQ(client->Number("select count(*) from pragma_foreign_key_check"), 0);
         const Rows found = RowsOf(*client);
         EXPECT_THAT(found.calls, AnyOf(before_.calls, after_.calls));
@@ -86,7 +88,8 @@ TEST_F(KilledSave, LeavesTheOldOrTheNewScheduleAtEveryMoment) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     std::set<long> moments{1, writes_};
-    while (moments.size() < 8) moments.insert(1 + static_cast<long>(random() % static_cast<unsigned>(writes_)));
+    while (moments.size() < 8)
+        moments.insert(1 + static_cast<long>(random() % static_cast<unsigned>(writes_)));
     for (const long write : moments) killAt(write);
 }
 

@@ -37,14 +37,18 @@ std::string Person::AwaitWindow(const std::string& title) const {
 }
 
 void Person::AwaitGone(const std::string& title) const {
-    AwaitOrThrow([&] { return xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}).empty(); },
-                 "the window stays: " + title);
+    AwaitOrThrow(
+        [&] {
+            return xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}).empty();
+        },
+        "the window stays: " + title);
 }
 
 void Person::Click(const std::string& window, int x, int y) const {
     xdotool({"mousemove", "--window", window, std::to_string(x), std::to_string(y), "click", "1"});
     const auto focused = [&] { return FirstLine(xdotool({"getwindowfocus"})) == window; };
-    AwaitOrThrow(focused, "the window pressed at " + std::to_string(x) + ", " + std::to_string(y) + " takes no keys");
+    AwaitOrThrow(focused,
+                 "the window pressed at " + std::to_string(x) + ", " + std::to_string(y) + " takes no keys");
 }
 
 void Person::Type(const std::string& text) const {
@@ -58,7 +62,7 @@ void Person::Press(const std::vector<std::string>& keys) const {
 }
 
 std::string Person::Look(const std::string& window) const {
-    return RunToEnd(On(display_, {IMPORT_PROGRAM, "-silent", "-window", window, "ppm:-"})).out;
+    return RunToEnd(On(display_, {IMPORT_PROGRAM, "-silent", "-window", window, "-depth", "8", "ppm:-"})).out;
 }
 
 std::string Person::LookForChange(const std::string& window, const std::string& before) const {

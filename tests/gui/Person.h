@@ -24,7 +24,8 @@ class Person {
     void Press(const std::vector<std::string>& keys) const;
     /// The pixels of a window as they are on the screen.
     std::string Look(const std::string& window) const;
-    /// Waits until the pixels of a window are other than `before` and stay the same from one look to the next.
+    /// Waits until the pixels of a window are other than `before` and stay the same from one look to the
+    /// next.
     std::string LookForChange(const std::string& window, const std::string& before) const;
     /// Writes what is on the screen to a PNG file.
     void Photograph(const std::string& file) const;

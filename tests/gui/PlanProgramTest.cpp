@@ -14,7 +14,8 @@ using testing::StartsWith;
 using Json = nlohmann::json;
 namespace fs = std::filesystem;
 
-const std::vector<std::string> kLong{"Rotterdam", "Singapore", "--speed", "14", "--depart", "2026-12-01 08:00"};
+const std::vector<std::string> kLong{"Rotterdam", "Singapore", "--speed",
+                                     "14",        "--depart",  "2026-12-01 08:00"};
 
 std::vector<std::string> With(std::vector<std::string> words, const std::vector<std::string>& more) {
     words.insert(words.end(), more.begin(), more.end());
@@ -66,8 +67,9 @@ TEST(PlanProgram, CrossesThePacificOverTheDateLine) {
 TEST(PlanProgram, WritesCsvAndTableInTheUnitsAskedFor) {
     const ClientTree client;
     const Ended csv = client.Plan(With(kLong, {"--format", "csv", "--units", "kph,km,hour"}));
-    EXPECT_THAT(csv.out, StartsWith("No.,Port,Pur.,Speed (KPH),Weather,At sea (hours),In port (hours),ETA,ETD,"
-                                    "Distance (KM)\n1,Rotterdam"));
+    EXPECT_THAT(csv.out,
+                StartsWith("No.,Port,Pur.,Speed (KPH),Weather,At sea (hours),In port (hours),ETA,ETD,"
+                           "Distance (KM)\n1,Rotterdam"));
     EXPECT_THAT(csv.out, HasSubstr(",25.93,0%,"));
     const Ended table = client.Plan(With(kLong, {"--zone", "UTC"}));
     EXPECT_THAT(table.out, StartsWith("Time zone: UTC\n"));

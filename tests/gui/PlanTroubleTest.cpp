@@ -45,7 +45,8 @@ TEST_F(DamagedTree, AMissingDataFileIsNamed) {
 }
 
 TEST_F(DamagedTree, ADataFileThatIsCutShortIsNamed) {
-    ASSERT_EQ(client_.Plan({"Rotterdam", "Hamburg"}).exitCode, 0) << "a whole copy in the data folder does not hide it";
+    ASSERT_EQ(client_.Plan({"Rotterdam", "Hamburg"}).exitCode, 0)
+        << "a whole copy in the data folder does not hide it";
     for (const char* name : {"network.bin", "land.bin", "trvdb.db"}) {
         cut(std::string("share/seaplan/") + name);
         ExpectTrouble(client_.Plan(kPlan), {name, "cut short", "Build or install the client again"});

@@ -75,8 +75,9 @@ std::vector<std::string> Header(const Seaplan::UnitSet& units, const LanguageFil
                                                            {"DISTANCE", DistanceLabel(units)}};
     std::vector<std::string> header;
     for (const auto& [key, unit] : columns) {
-        const std::string text = texts.Text("Seaplan", std::string("IDS_PORTCALL_") + key);
-        header.push_back(unit.empty() ? text : text + " (" + unit + ")");
+        std::string text = texts.Text("Seaplan", std::string("IDS_PORTCALL_") + key);
+        if (!unit.empty()) text.append(" (").append(unit).append(")");
+        header.push_back(std::move(text));
     }
     return header;
 }

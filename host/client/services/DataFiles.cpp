@@ -47,8 +47,8 @@ bool CheckFramedFile(const std::string& path, const std::string& kind, std::size
     for (std::size_t i = head.size(); i-- > 8;) payload = (payload << 8U) | head[i];
     std::error_code failed;
     const auto size = fs::file_size(path, failed);
-    const bool whole = file && !failed && std::memcmp(head.data(), kind.data(), 8) == 0 && size >= headBytes &&
-                       size - headBytes == payload;
+    const bool whole = file && !failed && std::memcmp(head.data(), kind.data(), 8) == 0 &&
+                       size >= headBytes && size - headBytes == payload;
     return Told(whole, path, error);
 }
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/session/LateRouteSource.h"
 
+#include "host/server/api/Replies.h"
 #include "host/server/graph/adapter/GraphRouteSource.h"
-
-#include <nlohmann/json.hpp>
 
 namespace Tarvik::Client {
 
@@ -16,7 +15,7 @@ LateRouteSource::Loaded LateRouteSource::load(const std::string& networkFile) {
     Loaded loaded;
     std::string error;
     loaded.source = Server::GraphRouteSource::Open(networkFile, error);
-    if (!loaded.source) loaded.failure = nlohmann::json{{"eid", -1}, {"emsg", error}}.dump();
+    if (!loaded.source) loaded.failure = Server::Replies::Error(Server::ErrorCode::Internal, error);
     return loaded;
 }
 

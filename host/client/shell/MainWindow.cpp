@@ -156,8 +156,7 @@ void MainWindow::applyTheme() {
 void MainWindow::AttachPlugins() {
     for (const Tool& tool : tools_) {
         if (tool.panel == kDistancePanel) {
-            tool.action->setVisible(
-                Core::TrvKernel::Instance()->IsBound(Interface::Bus::AddPortName.name));
+            tool.action->setVisible(Core::TrvKernel::Instance()->IsBound(Interface::Bus::AddPortName.name));
         }
     }
     attachChart();

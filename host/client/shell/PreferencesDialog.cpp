@@ -80,7 +80,8 @@ void PreferencesDialog::buildFields(const LanguageFiles& texts) {
 void PreferencesDialog::agree() {
     // A zone that nobody knows would silently count as UTC, and an address of no known form as no server: the
     // field keeps the focus until it is one.
-    if (!Util::DateTimeUtl::IsKnownZone(zone_->currentText().toStdString())) return askAgain(zone_->lineEdit());
+    if (!Util::DateTimeUtl::IsKnownZone(zone_->currentText().toStdString()))
+        return askAgain(zone_->lineEdit());
     const std::string server = server_->text().trimmed().toStdString();
     if (!server.empty() && !IsServerAddress(server)) return askAgain(server_);
     accept();

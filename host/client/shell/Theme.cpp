@@ -36,15 +36,16 @@ QStatusBar#statusLine { background: @window; border-top: 1px solid @border; colo
 QStatusBar#statusLine::item { border: 0; }
 QStatusBar#statusLine QLabel { color: @text; padding: 0 8px; }
 QStatusBar#statusLine QLabel#cursorPosition { font-family: "Noto Sans Mono", "DejaVu Sans Mono", monospace; }
-QDialog#preferences QLabel#zoneNote { color: @secondary; }
-QDialog#preferences QComboBox, QDialog#preferences QLineEdit { background: @panel; color: @text;
-    border: 1px solid @border; border-radius: 4px; padding: 0 6px; min-height: 24px; }
-QDialog#preferences QComboBox:focus, QDialog#preferences QLineEdit:focus { border-color: @accent; }
-QDialog#preferences QPushButton, QMessageBox QPushButton { background: @panel; color: @text;
-    border: 1px solid @border; border-radius: 4px; min-width: 76px; min-height: 24px; }
-QDialog#preferences QPushButton:default, QMessageBox QPushButton:default { background: @accent; color: @onAccent;
-    border-color: @accent; }
-QDialog#preferences QPushButton:focus, QMessageBox QPushButton:focus { border: 2px solid @text; }
+QDialog QLabel#zoneNote, QDialog QLabel#serverNote { color: @secondary; }
+QDialog QLabel#loginFailure { color: @error; }
+QDialog QComboBox, QDialog QLineEdit { background: @panel; color: @text; border: 1px solid @border; border-radius: 4px;
+    padding: 0 6px; min-height: 24px; }
+QDialog QComboBox:focus, QDialog QLineEdit:focus { border-color: @accent; }
+QDialog QPushButton { background: @panel; color: @text; border: 1px solid @border; border-radius: 4px; min-width: 76px;
+    min-height: 24px; }
+QDialog QPushButton:default { background: @accent; color: @onAccent; border-color: @accent; }
+QDialog QPushButton:focus { border: 2px solid @text; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QMessageBox { background: @window; }
 QMessageBox QLabel { color: @text; }
 QToolTip { background: @panel; color: @text; border: 1px solid @border; padding: 4px; }
@@ -90,7 +91,7 @@ QString Theme::StyleSheet() const {
     const std::pair<const char*, QColor> roles[] = {
         {"@secondary", colors_.secondary}, {"@onAccent", colors_.onAccent}, {"@accent", colors_.accent},
         {"@window", colors_.window},       {"@border", colors_.border},     {"@panel", colors_.panel},
-        {"@text", colors_.text},           {"@list", colors_.list}};
+        {"@text", colors_.text},           {"@list", colors_.list},         {"@error", colors_.error}};
     QString sheet = kSheet;
     for (const auto& [role, color] : roles) sheet.replace(role, color.name());
     return sheet;

@@ -56,6 +56,12 @@ TEST(CommandLine, FindsTheVersion) {
     EXPECT_FALSE(ParseCommandLine({}).version);
 }
 
+TEST(CommandLine, TakesAServersAddressForBothWaysOfRunning) {
+    EXPECT_EQ(ParseCommandLine({"--server", "https://office:8470"}).session.server, "https://office:8470");
+    EXPECT_EQ(ParseCommandLine({"plan", "A", "B", "--server", "embedded"}).session.server, "embedded");
+    EXPECT_THAT(ParseCommandLine({"--server", "office"}).error, HasSubstr("\"office\" of --server"));
+}
+
 TEST(CommandLine, FindsHelpBesideThePlan) {
     EXPECT_TRUE(ParseCommandLine({"plan", "--help"}).help);
 }

@@ -30,6 +30,12 @@ class ScriptedLink : public ServerLink {
         lastText.assign(request.Payload(), request.length);
         return reply;
     }
+    std::string User(const std::string& local) const override {
+        return !wantsLogin ? local : connected ? "office user" : "";
+    }
+    std::string Failure() const override { return failure; }
+    bool wantsLogin = false;
+    std::string failure;
     bool connected = true;
     bool canConnect = true;
     std::string reply = "{\"eid\":0}";
@@ -99,6 +105,72 @@ TEST_F(HostServicesTest, NoReplyNullRequestAndATooLongOneAnswerNull) {
     const VoyServerRequest tooLong{Interface::kMaxPayloadBytes + 1, 3, 5};
     link_.reply = "{}";
     EXPECT_EQ(Call(Bus::ServerExchange, &tooLong), nullptr);
+}
+
+TEST_F(HostServicesTest, TheUserIsTheOneWhoLoggedInWhereTheServerWantsThat) {
+    link_.wantsLogin = true;
+    EXPECT_EQ(*Call<void>(Bus::User, nullptr), "office user");
+    exchange("{}");
+    EXPECT_EQ(link_.lastUser, "office user");
+    link_.connected = false;
+    EXPECT_EQ(Call<void>(Bus::User, nullptr), nullptr);
+}
+
+TEST_F(HostServicesTest, KeepsAndTellsTheServersWordsUntilTheNextExchange) {
+    Core::FreeBusBlock(exchange("{}"));
+    EXPECT_EQ(services_.LastFailure(), "");
+    link_.reply = R"({"eid":7,"emsg":"the disk is full"})";
+    Core::FreeBusBlock(exchange("{}"));
+    EXPECT_EQ(services_.LastFailure(), "the disk is full");
+    link_.reply = "";
+    link_.failure = "no answer";
+    EXPECT_EQ(exchange("{}"), nullptr);
+    EXPECT_EQ(services_.LastFailure(), "no answer");
+    link_.reply = "[]";
+    link_.failure = "";
+    Core::FreeBusBlock(exchange("{}"));
+    EXPECT_EQ(services_.LastFailure(), "");
+    EXPECT_THAT(complaints_, testing::ElementsAre("the disk is full", "no answer"));
+}
+
+TEST_F(HostServicesTest, TellsWhenTheConnectionIsLostAndMade) {
+    int changes = 0;
+    services_.OnConnectionChange([&] { ++changes; });
+    Core::FreeBusBlock(exchange("{}"));
+    EXPECT_EQ(changes, 0);
+    link_.connected = false;
+    Core::FreeBusBlock(exchange("{}"));
+    EXPECT_EQ(changes, 1);
+    Call<void>(Bus::Login, nullptr);
+    EXPECT_EQ(changes, 2);
+}
+
+/// Counts the logouts that plug-ins hear of.
+class LogoutListener : public Core::TObject {
+  public:
+    LogoutListener() {
+        event_.Set<&LogoutListener::OnLogout>(this);
+        Core::TrvKernel::Instance()->BindTrvEvent(Bus::Logout.name, &event_);
+    }
+    ~LogoutListener() override { Core::TrvKernel::Instance()->UnBindTrvEvent(Bus::Logout.name, &event_); }
+    void* OnLogout(void* /*input*/) {
+        ++count;
+        return nullptr;
+    }
+    int count = 0;
+
+  private:
+    Core::TEvent event_;
+};
+
+TEST_F(HostServicesTest, AnotherServerMeansALogoutAndIsAskedFromThenOn) {
+    LogoutListener listener;
+    ScriptedLink other;
+    services_.SetLink(other);
+    EXPECT_EQ(listener.count, 1);
+    Core::FreeBusBlock(exchange("{b:2}"));
+    EXPECT_EQ(other.lastText, "{b:2}");
+    EXPECT_EQ(link_.lastText, "");
 }
 
 /// Notes the zone that the event carries.

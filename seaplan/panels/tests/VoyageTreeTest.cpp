@@ -120,6 +120,23 @@ TEST_F(TreeFixture, AnEmptyCategoryWithRemarksShowsTheEmptyIconAfterALoad) {
     EXPECT_TRUE(tree.IsItemVisible(tree.Find("Full"), "Voyage.parent.svr2.exist"));
 }
 
+TEST_F(TreeFixture, ARemarkMarkFollowsOnlyWhileRemarksAreOpen) {
+    AddCategory("1", "Full");
+    AddVoyage("1", "10", "A");
+    ctrl.ReloadTree();
+    ctrl.SetRemarkMark(tree.Find("A"), true);
+    EXPECT_EQ(store.voyages["10"].vrk, 0);
+    ctrl.SetRemarkRow(tree.Find("Full"));
+    ctrl.SetRemarkMark(kNoRow, true);
+    EXPECT_EQ(store.categories["1"].crk, 1);
+    EXPECT_TRUE(tree.IsItemVisible(tree.Find("Full"), "Voyage.parent.svr2.exist"));
+    ctrl.SetRemarkMark(tree.Find("A"), true);
+    EXPECT_EQ(store.voyages["10"].vrk, 1);
+    ctrl.SetRemarkMark(tree.Find("A"), false);
+    EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage.child.svr3.non"));
+    EXPECT_FALSE(tree.IsItemVisible(tree.Find("A"), "Voyage.child.svr3.exist"));
+}
+
 TEST_F(TreeFixture, DatesNeedTwoPortCallsAndStay) {
     AddCategory("1", "Full");
     AddVoyage("1", "10", "One");

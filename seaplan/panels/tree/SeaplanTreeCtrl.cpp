@@ -82,6 +82,17 @@ int SeaplanTreeCtrl::RefreshVoyageRow(const std::string& vi) {
     return builder_.ShowDates(row, *voyage) == 0 ? 0 : -3;
 }
 
+void SeaplanTreeCtrl::SetRemarkMark(TreeRow row, bool on) {
+    if (remarkRow_ == kNoRow) return;
+    const TreeRow marked = row == kNoRow ? remarkRow_ : row;
+    if (context_.tree.GetItemData(marked) == nullptr) return;
+    const bool category = context_.IsCategoryRow(marked);
+    (category ? context_.CategoryOf(marked)->crk : context_.VoyageOf(marked)->vrk) = on ? 1 : 0;
+    const std::string item = category ? "Voyage.parent.svr2" : "Voyage.child.svr3";
+    context_.tree.SetDrawItemVisibleEx(marked, item + ".non", !on);
+    context_.tree.SetDrawItemVisibleEx(marked, item + ".exist", on);
+}
+
 void SeaplanTreeCtrl::SetShowDeleted(bool shown) {
     context_.showDeleted = shown;
     ReloadTree();
@@ -116,9 +127,7 @@ int SeaplanTreeCtrl::unfold(TreeRow row) {
     if (category == nullptr) return -1;
     context_.tree.Expand(row);
     context_.tree.SelectItem(row);
-    const auto voyages = context_.store.categoryVoyages.find(category->ci);
-    if (voyages == context_.store.categoryVoyages.end()) return 0;
-    for (const auto& [vi, state] : voyages->second) builder_.ShowStatus(vi);
+    builder_.ShowStatuses(row, category->ci);
     return 0;
 }
 

@@ -52,6 +52,11 @@ class SeaplanTreeCtrl {
     int RebuildCategory(const std::string& ci) { return builder_.RebuildCategory(ci); }
     int ComputeStatus(const std::string& vi) { return builder_.ComputeStatus(vi); }
     int ShowStatus(const std::string& vi) { return builder_.ShowStatus(vi); }
+    /// The row whose remarks are open; kNoRow for none.
+    void SetRemarkRow(TreeRow row) { remarkRow_ = row; }
+    /// Switches a row's remark mark, and its record's; kNoRow means the row whose remarks are open. Nothing
+    /// happens while no remarks are open.
+    void SetRemarkMark(TreeRow row, bool on);
     int ShowDates(TreeRow row, const VoyInfo& voyage) { return builder_.ShowDates(row, voyage); }
     void OnViewShown(bool shown);
     /// Creates a category when none is in use. Negative on failure.
@@ -131,6 +136,7 @@ class SeaplanTreeCtrl {
     AisCommands* ais_ = nullptr;
     TreeRow currentCategoryRow_ = kNoRow;
     TreeRow currentVoyageRow_ = kNoRow;
+    TreeRow remarkRow_ = kNoRow;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -7,6 +7,8 @@
 
 #include <tarvik/util/StringUtl.h>
 
+#include <map>
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -56,9 +58,9 @@ int TreeBuilder::addEmptyCategories(const std::vector<VoyCategory*>& deleted) {
 int TreeBuilder::RebuildCategory(const std::string& ci) {
     const TreeRow row = ci.empty() ? kNoRow : c_.FindCategoryRow(ci);
     if (row == kNoRow) return -1;
-    while (c_.tree.GetChildItem(row) != kNoRow) c_.tree.DeleteItem(c_.tree.GetChildItem(row));
+    c_.tree.DeleteChildItems(row);
     if (const int result = addVoyages(row, ci, DateSource::PortCalls); result != 0) return result;
-    for (const auto& [vi, state] : c_.store.categoryVoyages.at(ci)) ShowStatus(vi);
+    ShowStatuses(row, ci);
     return 0;
 }
 
@@ -210,25 +212,45 @@ int TreeBuilder::ComputeStatus(const std::string& vi) {
     return 0;
 }
 
+int TreeBuilder::knowStatus(const std::string& vi) {
+    return c_.voyageStatuses.contains(vi) ? 0 : ComputeStatus(vi);
+}
+
 int TreeBuilder::ShowStatus(const std::string& vi) {
-    if (!c_.voyageStatuses.contains(vi)) {
-        if (const int result = ComputeStatus(vi); result != 0) return result;
-    }
+    if (const int result = knowStatus(vi); result != 0) return result;
     const TreeRow row = c_.FindVoyageRow(vi);
     if (row == kNoRow) return -4;
-    const auto status = static_cast<VoyageStatus>(c_.voyageStatuses.at(vi));
+    showStatus(row, c_.voyageStatuses.at(vi));
+    return 0;
+}
+
+void TreeBuilder::ShowStatuses(TreeRow categoryRow, const std::string& ci) {
+    const auto voyages = c_.store.categoryVoyages.find(ci);
+    if (voyages == c_.store.categoryVoyages.end()) return;
+    // The rows are looked up once: a search for each voyage grows with the square of their number.
+    std::map<std::string, TreeRow> rows;
+    for (TreeRow row = c_.tree.GetChildItem(categoryRow); row != kNoRow;
+         row = c_.tree.GetNextSiblingItem(row)) {
+        if (const VoyInfo* voyage = c_.VoyageOf(row)) rows.emplace(voyage->vi, row);
+    }
+    for (const auto& [vi, state] : voyages->second) {
+        const auto row = rows.find(vi);
+        if (knowStatus(vi) == 0 && row != rows.end()) showStatus(row->second, c_.voyageStatuses.at(vi));
+    }
+}
+
+void TreeBuilder::showStatus(TreeRow row, int status) {
     const char* image = "#Voyage_status_plan";
     TextId tip = TextId::IDS_TREESTATUS_BFVOY;
-    if (status == VoyageStatus::Underway) {
+    if (status == static_cast<int>(VoyageStatus::Underway)) {
         image = "#Voyage_status_underway";
         tip = TextId::IDS_TREESTATUS_VOYING;
-    } else if (status == VoyageStatus::Finished) {
+    } else if (status == static_cast<int>(VoyageStatus::Finished)) {
         image = "#Voyage_status_finish";
         tip = TextId::IDS_TREESTATUS_VOYFINISH;
     }
     c_.tree.SetDrawItemValueOfEventItem(row, "Voyage.child.svr2", "Voyage_Status", image);
     c_.tree.SetToolTipsOfEventItem(row, "Voyage.child.svr2", Text(tip));
-    return 0;
 }
 
 int TreeBuilder::ShowDates(TreeRow row, const VoyInfo& voyage) {

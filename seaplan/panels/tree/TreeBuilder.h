@@ -29,6 +29,8 @@ class TreeBuilder {
     int ComputeStatus(const std::string& vi);
     /// -4 when the voyage has no row.
     int ShowStatus(const std::string& vi);
+    /// ShowStatus for every voyage of a category, failures ignored.
+    void ShowStatuses(TreeRow categoryRow, const std::string& ci);
     /// -1 with fewer than two port calls.
     int ShowDates(TreeRow row, const VoyInfo& voyage);
     void ShowVessel(TreeRow row, const std::string& name, bool alert);
@@ -43,6 +45,8 @@ class TreeBuilder {
     void addDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
     int addEmptyCategories(const std::vector<VoyCategory*>& deleted);
     void markVoyage(const VoyInfo& voyage);
+    int knowStatus(const std::string& vi);
+    void showStatus(TreeRow row, int status);
     void applyCategoryTexts(TreeRow row);
     void applyVoyageTexts(TreeRow row);
     void applyDeletedTexts(TreeRow row);

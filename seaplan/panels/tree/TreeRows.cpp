@@ -56,11 +56,6 @@ const TreeRowState* TreeRows::Row(TreeRow row) const {
     return it == rows_.end() ? nullptr : &it->second;
 }
 
-const std::vector<TreeRow>& TreeRows::siblings(TreeRow row) const {
-    const TreeRowState* parent = Row(GetParentItem(row));
-    return parent == nullptr ? roots_ : parent->children;
-}
-
 TreeRow TreeRows::InsertItem(const std::string& text, const char* style, TreeRow parent) {
     if (parent != kNoRow && Row(parent) == nullptr) return kNoRow;
     const TreeRow row = next_++;
@@ -69,19 +64,30 @@ TreeRow TreeRows::InsertItem(const std::string& text, const char* style, TreeRow
     state.style = style;
     state.parent = parent;
     state.items = itemsOfStyle(style);
-    (parent == kNoRow ? roots_ : find(parent)->children).push_back(row);
+    std::vector<TreeRow>& siblings = parent == kNoRow ? roots_ : find(parent)->children;
+    if (!siblings.empty()) find(siblings.back())->next = row;
+    siblings.push_back(row);
     RowInserted(row);
     return row;
 }
 
 void TreeRows::DeleteItem(TreeRow row) {
     if (Row(row) == nullptr) return;
-    while (!Row(row)->children.empty()) DeleteItem(Row(row)->children.back());
+    DeleteChildItems(row);
     if (selected_ == row) SelectItem(kNoRow);
     RowRemoving(row);
     TreeRowState* parent = find(Row(row)->parent);
-    std::erase(parent == nullptr ? roots_ : parent->children, row);
+    std::vector<TreeRow>& siblings = parent == nullptr ? roots_ : parent->children;
+    const auto place =
+        siblings.back() == row ? siblings.end() - 1 : std::find(siblings.begin(), siblings.end(), row);
+    if (place != siblings.begin()) find(*(place - 1))->next = Row(row)->next;
+    siblings.erase(place);
     rows_.erase(row);
+}
+
+void TreeRows::DeleteChildItems(TreeRow row) {
+    // From the end, as nothing moves up then.
+    while (Row(row) != nullptr && !Row(row)->children.empty()) DeleteItem(Row(row)->children.back());
 }
 
 void TreeRows::DeleteAllItems() {
@@ -110,9 +116,8 @@ TreeRow TreeRows::GetChildItem(TreeRow row) const {
 }
 
 TreeRow TreeRows::GetNextSiblingItem(TreeRow row) const {
-    const std::vector<TreeRow>& all = siblings(row);
-    const auto it = std::find(all.begin(), all.end(), row);
-    return it == all.end() || it + 1 == all.end() ? kNoRow : *(it + 1);
+    const TreeRowState* state = Row(row);
+    return state == nullptr ? kNoRow : state->next;
 }
 
 TreeRow TreeRows::GetParentItem(TreeRow row) const {

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace Tarvik::Seaplan {
@@ -22,6 +23,7 @@ struct TreeRowState {
     std::string text;
     std::string style;
     TreeRow parent = kNoRow;
+    TreeRow next = kNoRow;  ///< next sibling
     void* record = nullptr;
     bool expanded = false;
     std::vector<TreeRow> children;
@@ -34,6 +36,7 @@ class TreeRows : public TreeWidget {
   public:
     TreeRow InsertItem(const std::string& text, const char* style, TreeRow parent) override;
     void DeleteItem(TreeRow row) override;
+    void DeleteChildItems(TreeRow row) override;
     void DeleteAllItems() override;
     void SetItemData(TreeRow row, void* record) override;
     void* GetItemData(TreeRow row) const override;
@@ -71,9 +74,8 @@ class TreeRows : public TreeWidget {
 
   private:
     TreeRowState* find(TreeRow row);
-    const std::vector<TreeRow>& siblings(TreeRow row) const;
 
-    std::map<TreeRow, TreeRowState> rows_;
+    std::unordered_map<TreeRow, TreeRowState> rows_;
     std::vector<TreeRow> roots_;
     TreeRow next_ = 1;
     TreeRow selected_ = kNoRow;

@@ -26,6 +26,7 @@ class TreeWidget {
     /// Appends a row below `parent`; kNoRow makes a category row.
     virtual TreeRow InsertItem(const std::string& text, const char* style, TreeRow parent) = 0;
     virtual void DeleteItem(TreeRow row) = 0;
+    virtual void DeleteChildItems(TreeRow row) = 0;
     virtual void DeleteAllItems() = 0;
     /// The record that a row stands for; null when none was set.
     virtual void SetItemData(TreeRow row, void* record) = 0;

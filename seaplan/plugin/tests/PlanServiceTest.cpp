@@ -278,6 +278,7 @@ TEST_F(PlanServiceTest, SavingNeedsNamesAndAFreeOne) {
 }
 
 TEST_F(PlanServiceTest, RefusedSaveIsToldByItsStep) {
+    loadStore();
     request.save = true;
     request.category = "Cat";
     request.voyage = "V";

@@ -219,6 +219,16 @@ TEST_F(ViewsFixture, TheSortPanelSortsByDate) {
     EXPECT_FALSE(byDate->parentWidget()->isVisible());
 }
 
+TEST_F(ViewsFixture, AScreenReaderHearsWhatARowShows) {
+    OpenVoyage("Far East 12");
+    const QModelIndex category = Tree().model()->index(0, 0);
+    EXPECT_EQ(category.data(Qt::AccessibleTextRole).toString(), "Container 2024, (3)");
+    const QModelIndex voyage = Tree().model()->index(1, 0, category);
+    EXPECT_EQ(voyage.data(Qt::AccessibleTextRole).toString(),
+              "Far East 12, Departs 2024-03-21  Arrives 2024-04-21, Vessel: NORTHERN LIGHT, "
+              "Planned: the voyage has not begun");
+}
+
 TEST_F(ViewsFixture, TheCloseButtonHidesThePanel) {
     Toggle();
     Press(Panel(), "closeButton");

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/tree/RowLayout.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace Tarvik::Seaplan {
@@ -209,6 +211,18 @@ std::vector<SubItem> LayoutRow(const TreeRowState& row, const QRect& rect, bool 
         b.buttons(kDeletedButtons, right + kGap, rect.top() + 3);
     }
     return b.take();
+}
+
+QString AccessibleTextOf(const TreeRowState& row) {
+    const auto unbounded = [](const QString&, SubItemKind) { return 0; };
+    QStringList texts;
+    QString status;
+    for (const SubItem& part : LayoutRow(row, {}, true, unbounded, [](const std::string&) { return true; })) {
+        if (part.kind != SubItemKind::Icon) texts.append(part.text.trimmed());
+        if (part.name == "Voyage.child.svr2") status = part.toolTip;
+    }
+    if (!status.isEmpty()) texts.append(status);
+    return texts.join(QStringLiteral(", "));
 }
 
 const SubItem* SubItemAt(const std::vector<SubItem>& parts, const QPoint& point) {

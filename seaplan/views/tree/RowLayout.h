@@ -38,6 +38,8 @@ int RowHeight(const TreeRowState& row, bool selected);
 /// alike.
 std::vector<SubItem> LayoutRow(const TreeRowState& row, const QRect& rect, bool selected,
                                const TextWidth& width, const ItemCommand& hasCommand);
+/// What a screen reader tells of a row: its name and every text and state that it shows when it is open.
+QString AccessibleTextOf(const TreeRowState& row);
 /// The clickable part at a point, null when there is none.
 const SubItem* SubItemAt(const std::vector<SubItem>& parts, const QPoint& point);
 

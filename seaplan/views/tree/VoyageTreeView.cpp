@@ -6,6 +6,7 @@
 #include "seaplan/views/skin/Palette.h"
 #include "seaplan/views/skin/ToolWindow.h"
 #include "seaplan/views/tree/RowDelegate.h"
+#include "seaplan/views/tree/RowModel.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"
 
 #include <QApplication>
@@ -34,8 +35,8 @@ QString text(TextId id) {
 
 VoyageTreeView::VoyageTreeView(QWidget* parent)
     : QTreeView(parent),
-      model_(new QStandardItemModel(this)),
-      rows_(std::make_unique<VoyageTreeWidget>(*this)) {
+      rows_(std::make_unique<VoyageTreeWidget>(*this)),
+      model_(new RowModel(this, *rows_)) {
     setObjectName(QStringLiteral("voyageTree"));
     setModel(model_);
     setItemDelegate(new RowDelegate(this));

@@ -81,8 +81,8 @@ class VoyageTreeView : public QTreeView {
     void relayout();
     void showSortPanel(const std::string& ci, int sortKey);
 
-    QStandardItemModel* model_;
     std::unique_ptr<VoyageTreeWidget> rows_;
+    QStandardItemModel* model_;
     Reports reports_;
     QLineEdit* rename_;
     QWidget* sortPanel_ = nullptr;

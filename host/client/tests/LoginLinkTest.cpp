@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/session/LoginLink.h"
+#include "host/server/net/tests/TestServer.h"
+
+#include <gmock/gmock.h>
+
+#include <vector>
+
+namespace Tarvik::Client {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class LoginLinkTest : public testing::Test {
+  protected:
+    LoginLinkTest() { server_.AddUser("anna", "correct horse"); }
+
+    /// Gives the scripted answers one after the other and notes what it was told.
+    AskCredentials asker() {
+        return [this](const std::string&, const std::string& user,
+                      const std::string& failure) -> std::optional<Credentials> {
+            offered_.push_back(user);
+            failures_.push_back(failure);
+            if (answers_.empty()) return std::nullopt;
+            const Credentials next = answers_.front();
+            answers_.erase(answers_.begin());
+            return next;
+        };
+    }
+
+    Server::TestServer server_;
+    std::vector<Credentials> answers_;
+    std::vector<std::string> offered_;
+    std::vector<std::string> failures_;
+    std::string error_;
+};
+
+TEST_F(LoginLinkTest, AsksAgainUntilTheServerAgrees) {
+    answers_ = {{"anna", "guessed"}, {"anna", "correct horse"}};
+    LoginLink link(server_.Url(), "bert", "", asker());
+    EXPECT_EQ(link.User("local"), "");
+    ASSERT_TRUE(link.Connect(error_)) << error_;
+    EXPECT_THAT(offered_, ElementsAre("bert", "anna"));
+    EXPECT_THAT(failures_, ElementsAre("", HasSubstr("refuses the user name or the password")));
+    EXPECT_TRUE(link.IsConnected());
+    EXPECT_EQ(link.User("local"), "anna");
+}
+
+TEST_F(LoginLinkTest, EndsWhenNobodyLogsIn) {
+    LoginLink link(server_.Url(), "", "", asker());
+    EXPECT_FALSE(link.Connect(error_));
+    EXPECT_THAT(error_, HasSubstr("Nobody is logged in at the voyage server " + server_.Url()));
+    EXPECT_FALSE(link.IsConnected());
+    EXPECT_EQ(link.Exchange("anna", Interface::VoyServerRequest{}), "");
+}
+
+TEST_F(LoginLinkTest, TellsWhyTheLastTryFailedWhenGivenUp) {
+    answers_ = {{"anna", "guessed"}};
+    LoginLink link(server_.Url(), "", "", asker());
+    EXPECT_FALSE(link.Connect(error_));
+    EXPECT_THAT(error_, HasSubstr("refuses"));
+}
+
+TEST_F(LoginLinkTest, LogsOutWithItsEnd) {
+    answers_ = {{"anna", "correct horse"}};
+    auto link = std::make_unique<LoginLink>(server_.Url(), "", "", asker());
+    ASSERT_TRUE(link->Connect(error_)) << error_;
+    link.reset();
+    EXPECT_THAT(server_.Ask("GET", "/metrics").body,
+                HasSubstr("seaplan_requests_total{command=\"logout\",result=\"ok\"} 1"));
+}
+
+}  // namespace
+}  // namespace Tarvik::Client

@@ -1,0 +1,104 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Makes the pictures of docs/pictures from the real client: a planned voyage with the voyage and port call panels open,
+# in the light look, the dark one, and in Chinese. Usage: scripts/pictures.sh [BUILD-FOLDER]
+set -u
+cd "$(dirname "$0")/.." || exit 1
+. scripts/prepare.sh
+build=${1:-build/release}
+client=$build/bin/tarvik
+pictures=docs/pictures
+work=$(mktemp -d)
+display_pid= client_pid=
+cleanup() {
+    [ -n "$client_pid" ] && kill "$client_pid" 2>/dev/null
+    [ -n "$display_pid" ] && kill "$display_pid" 2>/dev/null
+    rm -rf "$work"
+}
+trap cleanup EXIT
+fail() { echo "pictures: $*" >&2; exit 1; }
+
+[ $# -gt 0 ] || { install_missing && build_preset release --target tarvik-client libseaplan seamap seaplan_share; } ||
+    fail "the build failed"
+mkdir -p "$pictures"
+Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp -noreset 3>"$work/display" 2>/dev/null &
+display_pid=$!
+# Asks a command again until it succeeds, for half a minute.
+await() {
+    local tries=300
+    until "$@" >/dev/null 2>&1; do
+        tries=$((tries - 1))
+        [ "$tries" -gt 0 ] || fail "waited in vain for: $*"
+        sleep 0.1
+    done
+}
+await test -s "$work/display"
+DISPLAY=:$(cat "$work/display")
+export DISPLAY QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
+
+window() { xdotool search --onlyvisible --name "^$1\$" | head -n 1 | grep .; }
+text() { sed -n "s/.*\"$2\": *\"\([^\"]*\)\".*/\1/p" "seaplan/views/lang/$1.json" | head -n 1; }
+click() { xdotool mousemove --window "$1" "$2" "$3" click 1; }
+# Drags a window by its caption so that its corner comes to a place on the screen.
+drag() {
+    xdotool mousemove --window "$1" 140 15 mousedown 1 mousemove $(($2 + 140)) $(($3 + 15)) mouseup 1
+    await at "$@"
+}
+at() { xdotool getwindowgeometry "$1" | grep -q "Position: $2,$3 "; }
+# Whether the screen has come to rest: two looks at it, a moment apart, are the same.
+still() {
+    local before
+    before=$(import -silent -window root ppm:- | sha256sum)
+    sleep 0.6
+    [ "$before" = "$(import -silent -window root ppm:- | sha256sum)" ]
+}
+
+# Shows the whole route and some sea around it. The tools stand elsewhere in another language: the keys do not.
+fit() {
+    click "$1" 800 990
+    xdotool key ctrl+0
+    await still
+    xdotool key ctrl+minus
+}
+
+# picture NAME THEME LANGUAGE
+picture() {
+    local main voyages calls
+    "$client" --data "$work/data" --theme "$2" --lang "$3" &
+    client_pid=$!
+    await window Seaplan
+    main=$(window Seaplan)
+    xdotool windowsize "$main" 1600 1000
+    await still
+    click "$main" 40 18
+    await window "$(text "$3" IDS_TREE_VOYTITLE)"
+    voyages=$(window "$(text "$3" IDS_TREE_VOYTITLE)")
+    drag "$voyages" 24 56
+    click "$voyages" 100 61
+    await still
+    click "$voyages" 150 152
+    await still
+    click "$voyages" 55 211
+    await window "$(text "$3" IDS_PORTCALL_TITLE)"
+    calls=$(window "$(text "$3" IDS_PORTCALL_TITLE)")
+    drag "$calls" 350 636
+    eval "$(xdotool getwindowgeometry --shell "$calls" | grep -E 'WIDTH|HEIGHT')"
+    click "$calls" $((WIDTH - 46)) $((HEIGHT - 23))
+    await still
+    fit "$main"
+    await still
+    xdotool mousemove 1100 300
+    await still
+    import -silent -window root "$pictures/$1.png" || fail "no picture $1"
+    kill "$client_pid"
+    wait "$client_pid" 2>/dev/null
+    client_pid=
+}
+
+"$client" --data "$work/data" plan Rotterdam Singapore Shanghai --speed 14 --depart "2026-12-01 08:00" --stay 12,24,0 \
+    --save "Liner/RTM-SHA 12" >/dev/null || fail "the sample voyage was not planned"
+"$client" --data "$work/data" plan Shanghai "Los Angeles" --speed 16 --depart "2027-01-08 06:00" \
+    --save "Liner/SHA-LAX 01" >/dev/null || fail "the sample voyage was not planned"
+picture client-light light en-US
+picture client-dark dark en-US
+picture client-chinese light zh-CN

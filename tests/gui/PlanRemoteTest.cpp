@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/graph/adapter/GraphRouteSource.h"
+#include "host/server/net/tests/TestServer.h"
+#include "tests/gui/ClientTree.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+namespace Tarvik::Programs {
+namespace {
+
+using testing::HasSubstr;
+
+/// A voyage server with the sea network, as an office has it.
+class PlanRemote : public testing::Test {
+  protected:
+    PlanRemote() : server_({}, routes()) { server_.AddUser("anna", "correct horse"); }
+
+    static std::unique_ptr<Server::RouteSource> routes() {
+        std::string error;
+        const auto share =
+            std::filesystem::path(CLIENT_PROGRAM).parent_path().parent_path() / "share/seaplan";
+        auto source = Server::GraphRouteSource::Open((share / "network.bin").string(), error);
+        EXPECT_NE(source, nullptr) << error;
+        return source;
+    }
+    Ended plan(const std::string& password, const std::vector<std::string>& words) const {
+        auto start = client_.Words({"--server", server_.Url(), "plan", "Rotterdam", "Hamburg"});
+        start.words.insert(start.words.end(), words.begin(), words.end());
+        start.environment["SEAPLAN_USER"] = "anna";
+        start.environment["SEAPLAN_PASSWORD"] = password;
+        return RunToEnd(start);
+    }
+
+    Server::TestServer server_;
+    ClientTree client_;
+};
+
+TEST_F(PlanRemote, PlansAndSavesAtTheServerAndNotHere) {
+    const Ended ended = plan("correct horse", {"--save", "Trade/First"});
+    EXPECT_EQ(ended.exitCode, 0) << ended.err;
+    EXPECT_THAT(ended.out, HasSubstr("Hamburg"));
+    EXPECT_FALSE(std::filesystem::exists(client_.Data("voyages.db")));
+    const Ended again = plan("correct horse", {"--save", "Trade/First"});
+    EXPECT_EQ(again.exitCode, 2);
+    EXPECT_THAT(again.err, HasSubstr("a voyage of this name exists"));
+}
+
+TEST_F(PlanRemote, AWrongPasswordIsNamed) {
+    const Ended ended = plan("guessed", {});
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_THAT(ended.err, HasSubstr("refuses the user name or the password of anna"));
+}
+
+}  // namespace
+}  // namespace Tarvik::Programs
