@@ -3,8 +3,13 @@
 
 #include <gmock/gmock.h>
 
+#include <unistd.h>
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
+#include <filesystem>
+
+namespace fs = std::filesystem;
 
 namespace Tarvik::Client {
 namespace {
@@ -95,7 +100,27 @@ TEST_F(PluginFolder, NamesTheMissingExport) {
 }
 
 TEST_F(PluginFolder, AFileThatIsNoLibraryKeepsItsFileName) {
-    expectFailure("TextFile", "cannot be opened as a library");
+    expectFailure("TextFile", "is no library for this system");
+}
+
+TEST_F(PluginFolder, AFileCutShortIsRefusedWhereverItWasCut) {
+    const fs::path whole = fs::path(PLUGIN_FOLDER) / "libChart.so";
+    const auto size = fs::file_size(whole);
+    const fs::path cut = fs::path(testing::TempDir()) / ("libCut" + std::to_string(getpid()) + ".so");
+    for (const std::uintmax_t length : {std::uintmax_t{0}, std::uintmax_t{63}, std::uintmax_t{100},
+                                        std::uintmax_t{5000}, size / 2, size - 1}) {
+        fs::copy_file(whole, cut, fs::copy_options::overwrite_existing);
+        fs::resize_file(cut, length);
+        PluginLibrary library;
+        std::string error;
+        EXPECT_FALSE(library.Open(cut.string(), error)) << length;
+        EXPECT_EQ(error, length < 64 ? "is no library for this system" : "is cut short; install it anew");
+    }
+    fs::remove(cut);
+}
+
+TEST_F(PluginFolder, ARecordWithoutNameFailsUnderItsFileName) {
+    expectFailure("libNameless", "its description record has no name");
 }
 
 TEST_F(PluginFolder, APluginWithoutRecordFails) {
@@ -127,7 +152,7 @@ TEST_F(PluginFolder, ARecordThatThrowsFails) {
 
 TEST_F(PluginFolder, EveryFailureIsReportedByName) {
     const auto lines = loader_->Complaints();
-    EXPECT_EQ(lines.size(), 17U);
+    EXPECT_EQ(lines.size(), 18U);
     EXPECT_THAT(lines, testing::Contains(HasSubstr("Lonely: needs Nowhere")));
     EXPECT_THAT(lines, testing::Not(testing::Contains(testing::StartsWith("Chart:"))));
 }
@@ -146,7 +171,7 @@ TEST(PluginUnload, GoesInOppositeOrderOverWhatWasLoaded) {
 TEST(PluginFiles, TheSdkLibraryIsNoPluginAndAMissingFolderHoldsNone) {
     EXPECT_TRUE(PluginLoader::FindLibraries(std::string(PLUGIN_FOLDER) + "/nowhere").empty());
     const auto files = PluginLoader::FindLibraries(PLUGIN_FOLDER);
-    EXPECT_EQ(files.size(), 19U);
+    EXPECT_EQ(files.size(), 20U);
     EXPECT_TRUE(std::is_sorted(files.begin(), files.end()));
 }
 

@@ -12,7 +12,9 @@ namespace {
 #if !defined(FAULT_NO_RECORD) && !defined(FAULT_RECORD_THROWS)
 Tarvik::Plugin::CPluginInfo* Record() {
     static Tarvik::Plugin::CPluginInfo info(PLUGIN_NEEDS);
+#if !defined(FAULT_NAMELESS)
     info.name = PLUGIN_NAME;
+#endif
     info.version = PLUGIN_VERSION;
     return &info;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/plugins/PluginLibrary.h"
 
+#include "host/client/plugins/LibraryFile.h"
+
 #include <dlfcn.h>
 
 #include <exception>
@@ -30,7 +32,8 @@ void* PluginLibrary::symbol(const char* name, std::string& error) const {
 }
 
 bool PluginLibrary::Open(const std::string& file, std::string& error) {
-    error.clear();
+    error = FaultOfLibraryFile(file);
+    if (!error.empty()) return false;
     handle_ = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     if (!handle_) {
         const char* text = dlerror();

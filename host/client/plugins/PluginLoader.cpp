@@ -33,10 +33,12 @@ void PluginLoader::read(const std::string& file) {
     std::string& error = plugin.record.error;
     const Plugin::CPluginInfo* info =
         plugin.library->Open(file, error) ? plugin.library->Info(error) : nullptr;
-    if (info) {
+    if (info && info->name.empty()) {
+        error = "its description record has no name";
+    } else if (info) {
+        plugin.record.name = info->name;
         try {
             plugin.record.version = Core::Version::Parse(info->version);
-            plugin.record.name = info->name;
             plugin.record.dependencies = info->dependencies.Entries();
             plugin.state = PluginState::Read;
         } catch (const Core::InvalidVersionFormatException& bad) {

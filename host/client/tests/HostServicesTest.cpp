@@ -110,7 +110,7 @@ TEST_F(HostServicesTest, NoReplyNullRequestAndATooLongOneAnswerNull) {
 TEST_F(HostServicesTest, TheUserIsTheOneWhoLoggedInWhereTheServerWantsThat) {
     link_.wantsLogin = true;
     EXPECT_EQ(*Call<void>(Bus::User, nullptr), "office user");
-    exchange("{}");
+    Core::FreeBusBlock(exchange("{}"));
     EXPECT_EQ(link_.lastUser, "office user");
     link_.connected = false;
     EXPECT_EQ(Call<void>(Bus::User, nullptr), nullptr);
