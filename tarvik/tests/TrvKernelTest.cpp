@@ -119,6 +119,17 @@ TEST_F(TrvKernelTest, ServiceTakesOneHandler) {
     EXPECT_EQ(diary, std::vector<std::string>{"first"});
 }
 
+TEST_F(TrvKernelTest, AServiceThatAnswersKeepsItsOwner) {
+    CreateService("S");
+    kernel->BindTrvService("S", &first.delegate);
+    kernel->CreateTrvService("S", &second, "", "", nullptr);
+    EXPECT_EQ(notices, (Notices{{KernelNotice::BoundTwice, "S"}}));
+    kernel->DeleteTrvService("S", &second);
+    EXPECT_TRUE(kernel->CallTrvService("S", nullptr));
+    kernel->DeleteTrvService("S", &first);
+    EXPECT_FALSE(kernel->CallTrvService("S", nullptr));
+}
+
 TEST_F(TrvKernelTest, ServiceBoundWithoutBeingCreatedWorksAndIsNoticed) {
     EXPECT_TRUE(kernel->BindTrvService("S", &first.delegate));
     EXPECT_EQ(notices, (Notices{{KernelNotice::UnknownName, "S"}}));

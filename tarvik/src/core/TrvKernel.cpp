@@ -140,6 +140,12 @@ void TrvKernel::Reset() {
 void TrvKernel::create(const char* name, TObject* owner, bool service) {
     if (name == nullptr) return;
     Channel& channel = channels_[name];
+    // Whoever answers a service keeps it: a second owner would otherwise be able to remove it.
+    const bool answered = channel.created && channel.service && !channel.delegates.empty();
+    if (service && answered && channel.owner != owner) {
+        notice(KernelNotice::BoundTwice, name);
+        return;
+    }
     channel.service = service;
     channel.created = true;
     channel.owner = owner;
