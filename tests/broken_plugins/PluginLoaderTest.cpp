@@ -131,14 +131,25 @@ TEST_F(PluginFolder, ANegativeVersionFails) {
     expectFailure("BadVersion", "Version number cannot be negative.");
 }
 
-TEST_F(PluginFolder, AnInitThatThrowsFailsItAlone) {
+TEST_F(PluginFolder, AnInitThatThrowsFailsAndTheOthersRun) {
     expectFailure("LateFailer", "InitPlugin failed");
     EXPECT_TRUE(loader_->IsRunning("Chart"));
 }
 
-TEST_F(PluginFolder, ASuiteCallThatThrowsFailsItAlone) {
+TEST_F(PluginFolder, ASuiteCallThatThrowsFailsAndTheOthersRun) {
     expectFailure("LateThrower", "SuiteLoaded failed: no wind");
     EXPECT_TRUE(loader_->IsRunning("ASailor"));
+}
+
+TEST_F(PluginFolder, WhatNeedsAPluginThatDoesNotStartIsUnloadedBeforeIt) {
+    expectFailure("AMate", "needs LateFailer, which could not be started");
+    expectFailure("ABosun", "needs LateThrower, which could not be started");
+    const std::string trace = std::getenv("PLUGIN_TRACE");
+    EXPECT_EQ(trace.find("init:AMate"), std::string::npos);
+    EXPECT_EQ(trace.find("suite:ABosun"), std::string::npos);
+    EXPECT_LT(trace.find("unload:AMate"), trace.find("unload:LateFailer"));
+    EXPECT_LT(trace.find("unload:ABosun"), trace.find("unload:LateThrower"));
+    EXPECT_NE(trace.find("unload:LateThrower"), std::string::npos);
 }
 
 TEST_F(PluginFolder, AnEnvironmentCheckThatThrowsFailsBeforeLoad) {
@@ -152,7 +163,7 @@ TEST_F(PluginFolder, ARecordThatThrowsFails) {
 
 TEST_F(PluginFolder, EveryFailureIsReportedByName) {
     const auto lines = loader_->Complaints();
-    EXPECT_EQ(lines.size(), 18U);
+    EXPECT_EQ(lines.size(), 20U);
     EXPECT_THAT(lines, testing::Contains(HasSubstr("Lonely: needs Nowhere")));
     EXPECT_THAT(lines, testing::Not(testing::Contains(testing::StartsWith("Chart:"))));
 }
@@ -171,7 +182,7 @@ TEST(PluginUnload, GoesInOppositeOrderOverWhatWasLoaded) {
 TEST(PluginFiles, TheSdkLibraryIsNoPluginAndAMissingFolderHoldsNone) {
     EXPECT_TRUE(PluginLoader::FindLibraries(std::string(PLUGIN_FOLDER) + "/nowhere").empty());
     const auto files = PluginLoader::FindLibraries(PLUGIN_FOLDER);
-    EXPECT_EQ(files.size(), 20U);
+    EXPECT_EQ(files.size(), 22U);
     EXPECT_TRUE(std::is_sorted(files.begin(), files.end()));
 }
 

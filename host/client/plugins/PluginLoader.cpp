@@ -48,19 +48,46 @@ void PluginLoader::read(const std::string& file) {
     plugins_.push_back(std::move(plugin));
 }
 
+std::string PluginLoader::missingNeed(const LoadedPlugin& plugin) const {
+    const auto there = [&](const std::string& name) {
+        return name == kHostName || std::any_of(loaded_.begin(), loaded_.end(), [&](std::size_t i) {
+                   return plugins_[i].record.name == name && plugins_[i].state != PluginState::Failed;
+               });
+    };
+    for (const Plugin::PluginDependency& need : plugin.record.dependencies) {
+        if (!there(need.name)) return need.name;
+    }
+    return {};
+}
+
 void PluginLoader::loadOne(std::size_t index) {
     LoadedPlugin& plugin = plugins_[index];
-    for (const Plugin::PluginDependency& need : plugin.record.dependencies) {
-        const bool there = need.name == kHostName ||
-                           std::any_of(loaded_.begin(), loaded_.end(),
-                                       [&](std::size_t i) { return plugins_[i].record.name == need.name; });
-        if (!there) return fail(plugin, "needs " + need.name + ", which could not be loaded");
-    }
+    if (const std::string need = missingNeed(plugin); !need.empty())
+        return fail(plugin, "needs " + need + ", which could not be loaded");
     plugin.state = PluginState::Resolved;
     std::string error;
     if (!plugin.library->Load(error)) return fail(plugin, error);
     plugin.state = PluginState::Loaded;
     loaded_.push_back(index);
+}
+
+void PluginLoader::stepAll(bool (PluginLibrary::*step)(std::string&) const, PluginState reached) {
+    std::string error;
+    for (std::size_t index : loaded_) {
+        LoadedPlugin& plugin = plugins_[index];
+        if (const std::string need = missingNeed(plugin); !need.empty()) {
+            fail(plugin, "needs " + need + ", which could not be started");
+        } else if (!((*plugin.library).*step)(error)) {
+            fail(plugin, error);
+        } else {
+            plugin.state = reached;
+        }
+    }
+    const auto failed = [this](std::size_t index) { return plugins_[index].state == PluginState::Failed; };
+    for (auto it = loaded_.rbegin(); it != loaded_.rend(); ++it) {
+        if (failed(*it)) plugins_[*it].library->UnLoad();
+    }
+    std::erase_if(loaded_, failed);
 }
 
 void PluginLoader::LoadAll(const std::vector<std::string>& files, const Core::Version& hostVersion) {
@@ -70,17 +97,8 @@ void PluginLoader::LoadAll(const std::vector<std::string>& files, const Core::Ve
     const LoadOrder plan = ResolveLoadOrder(records, hostVersion);
     for (const RejectedPlugin& rejected : plan.rejected) fail(plugins_[rejected.index], rejected.reason);
     for (std::size_t index : plan.order) loadOne(index);
-    std::string error;
-    for (std::size_t index : loaded_) {
-        LoadedPlugin& plugin = plugins_[index];
-        if (!plugin.library->Init(error)) fail(plugin, error);
-    }
-    for (std::size_t index : loaded_) {
-        LoadedPlugin& plugin = plugins_[index];
-        if (plugin.state != PluginState::Loaded) continue;
-        plugin.state = PluginState::Running;
-        if (!plugin.library->SuiteLoaded(error)) fail(plugin, error);
-    }
+    stepAll(&PluginLibrary::Init, PluginState::Loaded);
+    stepAll(&PluginLibrary::SuiteLoaded, PluginState::Running);
 }
 
 void PluginLoader::UnloadAll() {

@@ -28,7 +28,8 @@ struct LoadedPlugin {
     std::shared_ptr<PluginLibrary> library;
 };
 
-/// Finds, orders and loads plug-ins. One that fails keeps its own error and is left out, the rest runs.
+/// Finds, orders and loads plug-ins. One that fails keeps its own error and is left out with all that needs
+/// it, the rest runs.
 class PluginLoader {
   public:
     /// Libraries of a folder that may be plug-ins, in order of name; the SDK's own library is none.
@@ -46,7 +47,11 @@ class PluginLoader {
 
   private:
     void read(const std::string& file);
+    /// The first thing that the plug-in needs and that is not among the loaded, or empty.
+    std::string missingNeed(const LoadedPlugin& plugin) const;
     void loadOne(std::size_t index);
+    /// Takes one step with all that are loaded, in order; what fails, and all that needs it, is unloaded.
+    void stepAll(bool (PluginLibrary::*step)(std::string&) const, PluginState reached);
     void fail(LoadedPlugin& plugin, const std::string& error);
 
     std::vector<LoadedPlugin> plugins_;
