@@ -19,6 +19,11 @@ constexpr int kColumns[] = {ColPort, ColSpeed, ColWeather};
 constexpr int kListRow = 23;
 constexpr int kMostRows = 6;
 
+/// Whether a key starts a command of the panel: F9 calculates, Ctrl+S saves.
+bool startsCommand(const QKeyEvent& key) {
+    return key.key() == Qt::Key_F9 || (key.key() == Qt::Key_S && key.modifiers() == Qt::ControlModifier);
+}
+
 /// Height of a list of names, with its frame.
 int listHeight(int rows) {
     return std::min(rows, kMostRows) * kListRow + 2;
@@ -217,6 +222,13 @@ bool PortCallWindow::eventFilter(QObject* watched, QEvent* event) {
     }
     for (int i = 0; i < static_cast<int>(editors_.size()); ++i) {
         if (watched != editors_[i]) continue;
+        // Only the text just typed may make the command possible, so it is taken before the shortcut is
+        // looked up.
+        if (event->type() == QEvent::ShortcutOverride && open_[i] &&
+            startsCommand(*static_cast<QKeyEvent*>(event))) {
+            panel_->OnTableLeft();
+            break;
+        }
         if (event->type() == QEvent::KeyPress && editorKey(i, static_cast<QKeyEvent*>(event)->key()))
             return true;
         if (event->type() == QEvent::FocusOut && open_[i])

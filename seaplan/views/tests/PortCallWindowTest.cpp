@@ -215,6 +215,26 @@ TEST_F(PortCallWindowTest, KeysMoveDeleteAndOpen) {
     EXPECT_TRUE(PortEditor().isVisible());
 }
 
+TEST_F(PortCallWindowTest, ACommandsKeyTakesTheTextBeingTypedFirst) {
+    OpenPortCalls("North Sea");
+    PortCalls().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&PortCalls()));
+    ClickCell(0, ColPort);
+    QTest::keyClicks(&PortEditor(), "ROTTERDAM");
+    QTest::keyClick(&PortEditor(), Qt::Key_Return);
+    QTest::keyClicks(&PortEditor(), "HAMBURG");
+    ASSERT_FALSE(Find<QAbstractButton>(PortCalls(), "calculateButton")->isEnabled());
+    QTest::keyClick(&PortEditor(), Qt::Key_F9);
+    EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
+    // A button shows for a moment that it is down before it acts.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Cell(1, ColSteamTime) == "1.00"; }));
+    ClickCell(1, ColSpeed);
+    QTest::keyClicks(&SpeedEditor(), "12");
+    QTest::keyClick(&SpeedEditor(), Qt::Key_S, Qt::ControlModifier);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return schedule.savedRows.size() == 2; }));
+    EXPECT_FLOAT_EQ(schedule.savedRows[1].psp, 12.0F);
+}
+
 TEST_F(PortCallWindowTest, TheUnitMenusChangeTheTable) {
     OpenPortCalls("Far East 12");
     Button("averageSpeedUnit");
