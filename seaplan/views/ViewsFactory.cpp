@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/ViewsFactory.h"
 
+#include "seaplan/panels/services/AisControllerCommands.h"
 #include "seaplan/panels/services/ControllerCommands.h"
 #include "seaplan/views/VoyageViews.h"
 
@@ -21,8 +22,12 @@ class ControlledViews {
         : voyages_(given.voyages),
           catalog_(given.catalog),
           schedule_(given.voyages),
+          ais_(given.voyages, given.catalog),
           views_({*given.store, catalog_, schedule_, given.ports, mainView}) {
+        views_.Tree().SetAisCommands(&ais_);
+        views_.PortCalls().SetAisCommands(&ais_);
         voyages_->SetTreeVisible([this] { return views_.TreeVisible(); });
+        voyages_->Module().SetRouteListener([this] { views_.PortCalls().OnRouteChosen(); });
         // Windows must be gone before the application object is, and panels with their windows.
         qAddPostRoutine(DestroyViews);
         if (mainView != nullptr) QObject::connect(mainView, &QObject::destroyed, [] { DestroyViews(); });
@@ -30,6 +35,7 @@ class ControlledViews {
     ~ControlledViews() {
         qRemovePostRoutine(DestroyViews);
         voyages_->SetTreeVisible({});
+        voyages_->Module().SetRouteListener({});
     }
     ControlledViews(const ControlledViews&) = delete;
     ControlledViews& operator=(const ControlledViews&) = delete;
@@ -40,6 +46,7 @@ class ControlledViews {
     VoyController* voyages_;
     CatalogControllerCommands catalog_;
     ScheduleControllerCommands schedule_;
+    AisControllerCommands ais_;
     VoyageViews views_;
 };
 

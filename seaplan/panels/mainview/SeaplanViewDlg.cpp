@@ -124,6 +124,10 @@ int SeaplanViewDlg::RecoverAll() {
     }
     const auto categories = p_.store.categoryVoyages;
     for (const auto& [ci, voyages] : categories) {
+        // What lay in a destroyed category is gone with it; asking for it would stop the others from coming
+        // back.
+        const auto category = states.find(ci);
+        if (category != states.end() && category->second == Destroyed) continue;
         for (const auto& [vi, state] : voyages) {
             if (state == InRecycleBin && p_.catalog.RecoverVoyage(ci, vi) != 0) return -2;
         }

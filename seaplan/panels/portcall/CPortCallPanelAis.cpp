@@ -51,6 +51,9 @@ void CPortCallPanelDlg::setCorrectionPending(bool pending) {
 
 int CPortCallPanelDlg::ShowAisCorrection() {
     if (const int filled = FillForVoyage(-1); filled != 0) return filled;
+    // A correction that cannot be split has been given up, and the plain voyage is shown.
+    int corrected = 0;
+    if (schedule_.GetModAis(voyageId_, corrected) != 0 || corrected <= 0) return -4;
     setCorrectionPending(true);
     state_.changed = true;
     editedVoyageId_ = voyageId_;

@@ -68,6 +68,18 @@ void CPortCallPanelDlg::OnCalculate() {
     }
 }
 
+int CPortCallPanelDlg::OnRouteChosen() {
+    CommitEditors();
+    PortCallRows rows;
+    if (standardRows(rows) != 0) return -1;
+    schedule_.ResolvePortIds(rows);
+    PortCallRows result;
+    if (schedule_.ScheduleCurrentRoute(rows, result) != 0) return -2;
+    if (showRows(result) != 0) return -3;
+    markChanged(true);
+    return 0;
+}
+
 void CPortCallPanelDlg::OnSave() {
     CommitEditors();
     if (!state_.changed) return;

@@ -69,6 +69,8 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
 
     // Commands
     void OnCalculate();
+    /// The pending route was changed on the chart: its distances and times go into the table.
+    int OnRouteChosen();
     void OnSave();
     void OnClear();
     void OnClose();

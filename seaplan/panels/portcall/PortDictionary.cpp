@@ -3,11 +3,16 @@
 
 #include "seaplan/calculation/PointTables.h"
 
+#include <tarvik/interface/ValueDictionary.h>
+
 #include <algorithm>
+#include <utility>
 
 namespace Tarvik::Seaplan {
 
 namespace {
+
+constexpr int kEnglish = 1033;
 
 std::string fold(const std::string& text) {
     std::string out = text;
@@ -43,7 +48,11 @@ PortDictionary PortDictionary::FromDatabase() {
     LoadPortNamesByLocal(path, byLocal);
     LoadSamePortLinks(path, samePort);
     std::vector<std::string> names;
-    for (const auto& [id, port] : ports) names.push_back(port.name);
+    // The table is asked for the places only: the host's dictionary has the names.
+    for (const auto& [id, port] : ports) {
+        std::string name = Interface::GetValueByName("/points", id, kEnglish);
+        if (!name.empty()) names.push_back(std::move(name));
+    }
     return {std::move(names), std::move(byLocal), std::move(samePort)};
 }
 

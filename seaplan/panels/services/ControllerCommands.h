@@ -82,6 +82,9 @@ class ScheduleControllerCommands final : public ScheduleCommands {
                            int& hadPortCalls) override {
         return c_->CalculateForVoyage(vi, rows, out, hadPortCalls);
     }
+    int ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& out) override {
+        return c_->ScheduleCurrentRoute(rows, out);
+    }
     int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) override {
         return c_->MoveRowUp(rows, index, out);
     }

@@ -22,6 +22,9 @@ class ScheduleCommands {
     /// `hadPortCalls` 1: the voyage had saved port calls, and the result is already in the voyage.
     virtual int CalculateForVoyage(const std::string& vi, const PortCallRows& rows, PortCallRows& out,
                                    int& hadPortCalls) = 0;
+    /// Schedule of the rows over the pending route, which a click on the chart has changed. Negative when the
+    /// route is not one of these ports.
+    virtual int ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& out) = 0;
     virtual int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) = 0;
     virtual int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out) = 0;
     virtual int DeleteRow(const PortCallRows& rows, int index, PortCallRows& out) = 0;

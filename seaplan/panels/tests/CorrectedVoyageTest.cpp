@@ -66,6 +66,16 @@ TEST_F(CorrectedPanelTest, ManyRowsEndWithOneFreeRowAndTheClosingRow) {
     EXPECT_EQ(view.table.Rows().size(), 12U);
 }
 
+TEST_F(CorrectedPanelTest, ACorrectionThatCannotBeSplitShowsThePlainVoyage) {
+    panel.SetVoyage("20");
+    ais.refused = {"SplitAisRows"};
+    EXPECT_LT(panel.ShowAisCorrection(), 0);
+    EXPECT_EQ(store.voyages["20"].modais, 0);
+    EXPECT_FALSE(view.state.changed);
+    EXPECT_FALSE(view.state.canSave);
+    EXPECT_EQ(view.state.calculateText, "IDS_PORTCALL_COMPUTE");
+}
+
 TEST_F(CorrectedPanelTest, AClickOnAHistoryRowDoesNothing) {
     Open("20");
     for (const int row : {0, 1}) {

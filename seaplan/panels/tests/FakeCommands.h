@@ -109,7 +109,8 @@ class FakeCatalog final : public CatalogCommands {
                 return 0;
             }
         }
-        return -1;
+        state = 1;
+        return 0;
     }
 
   private:
@@ -192,6 +193,12 @@ class FakeSchedule final : public ScheduleCommands {
         pending_ = true;
         if (hadPortCalls == 1) voyage->portCalls = out;
         return 0;
+    }
+    int ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& out) override {
+        if (done("ScheduleCurrentRoute", std::to_string(rows.size())) != 0) return -1;
+        PortCallRows legs = rows;
+        for (std::size_t i = 1; i < legs.size(); ++i) legs[i].distance = 480;
+        return BuildSchedule(legs.front().eta, legs, out);
     }
     int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) override {
         return Seaplan::MoveRowUp(rows, index, out);

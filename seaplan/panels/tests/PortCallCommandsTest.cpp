@@ -83,6 +83,31 @@ TEST_F(PortCallFixture, CalculatingANewVoyageShowsTheRouteAndWaitsForTheSave) {
     EXPECT_EQ(view.busy, 0);
 }
 
+TEST_F(PortCallFixture, ARouteChosenOnTheChartBringsItsDistancesAndTimes) {
+    Open("10");
+    EnterPorts({"ROTTERDAM", "HAMBURG"});
+    panel.OnCalculate();
+    view.state.changed = false;
+    EXPECT_EQ(panel.OnRouteChosen(), 0);
+    EXPECT_EQ(Cell(1, ColDistance), "480.00");
+    EXPECT_EQ(Cell(1, ColEta), "2024-03-03 00:00:00");
+    EXPECT_EQ(view.state.totalDistance, "480.0");
+    EXPECT_TRUE(view.state.changed);
+    panel.OnSave();
+    ASSERT_EQ(schedule.savedRows.size(), 2U);
+    EXPECT_EQ(schedule.savedRows[1].steamTime, 48.0F);
+    EXPECT_EQ(Calls("Calculate 2"), 1) << "the route is not asked for again";
+}
+
+TEST_F(PortCallFixture, ARouteOfOtherPortsLeavesTheTable) {
+    Open("10");
+    EnterPorts({"ROTTERDAM", "HAMBURG"});
+    panel.OnCalculate();
+    schedule.refused = {"ScheduleCurrentRoute"};
+    EXPECT_EQ(panel.OnRouteChosen(), -2);
+    EXPECT_EQ(Cell(1, ColDistance), "240.00");
+}
+
 TEST_F(PortCallFixture, CalculatingASavedVoyageReloadsAndSavesAtOnce) {
     Open("20");
     Type(1, ColSpeed, "12");

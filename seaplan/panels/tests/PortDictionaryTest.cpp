@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/PortDictionary.h"
 #include "seaplan/panels/portcall/PurposeList.h"
+#include "testsupport/DataFolder.h"
+#include "testsupport/PortDictionary.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -43,6 +45,19 @@ TEST(PortDictionary, TheCaseOfATypedNameDoesNotMatter) {
     EXPECT_TRUE(ports().Knows("Rouen"));
     EXPECT_FALSE(ports().Knows("Atlantis"));
     EXPECT_TRUE(PortDictionary({}, {}, {}).Knows("Atlantis"));
+}
+
+TEST(PortDictionary, TakesPlacesFromTheTableAndNamesFromTheHost) {
+    const TestSupport::DataFolder folder;
+    folder.WriteSamplePoints();
+    const TestSupport::PortDictionary host(
+        {{"Aberdeen", "40001"}, {"Bergen", "40002"}, {"Elsewhere", "49999"}});
+    const PortDictionary read = PortDictionary::FromDatabase();
+    EXPECT_TRUE(read.Knows("Bergen"));
+    EXPECT_FALSE(read.Knows("Elsewhere")) << "the table has no place for it";
+    EXPECT_FALSE(read.Knows(""));
+    EXPECT_THAT(read.Match("a", 10), ElementsAre("Aberdeen"));
+    EXPECT_TRUE(read.IsSamePlace("40003", "40004"));
 }
 
 TEST(PortDictionary, LinkedIdsAreOnePlace) {

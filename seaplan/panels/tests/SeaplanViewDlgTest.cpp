@@ -66,6 +66,31 @@ TEST_F(SeaplanViewDlgTest, AnotherPanelCodeOrNoPayloadChangesNothing) {
     EXPECT_TRUE(catalog.calls.empty());
 }
 
+TEST_F(SeaplanViewDlgTest, AnotherPanelCodeLeavesAVisiblePanel) {
+    AddCategory("1", "Full");
+    Toggle();
+    EXPECT_TRUE(schedule.Called("RefreshVesselPositions"));
+    Toggle(21);
+    EXPECT_TRUE(window.visible);
+    EXPECT_EQ(schedule.timers, 1);
+}
+
+TEST_F(SeaplanViewDlgTest, WithoutACategoryInUseTheTimerStays) {
+    catalog.refused = {"AddCategory"};
+    Toggle();
+    EXPECT_TRUE(window.visible);
+    EXPECT_EQ(schedule.timers, 0);
+}
+
+TEST_F(SeaplanViewDlgTest, LogoutClearsTheChartBeforeTheStore) {
+    AddCategory("1", "Full");
+    Toggle();
+    schedule.calls.clear();
+    Interface::Raise<void>(Interface::Bus::Logout, nullptr);
+    EXPECT_EQ(schedule.calls, (std::vector<std::string>{"ClearChart", "ClearChart"}))
+        << "first, and on hiding";
+}
+
 TEST_F(SeaplanViewDlgTest, ClosingKeepsTheTimerAndTheStore) {
     AddCategory("1", "Full");
     Toggle();
@@ -107,6 +132,7 @@ TEST_F(SeaplanViewDlgTest, TheVesselServiceAnswersByStep) {
     AddVoyage("1", "10", "A");
     EXPECT_EQ(AddVessel(""), "-1");
     EXPECT_FALSE(window.visible);
+    EXPECT_TRUE(catalog.calls.empty());
     catalog.refused = {"Connect"};
     EXPECT_EQ(AddVessel("10"), "-2");
     catalog.refused.clear();
@@ -126,6 +152,19 @@ TEST_F(SeaplanViewDlgTest, RefreshingARowTellsWhatIsWrong) {
     store.voyages["10"].portCalls = TwoCalls(3);
     EXPECT_EQ(panel.RefreshVoyageRow("10"), 0);
     EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage_Date"));
+}
+
+TEST_F(SeaplanViewDlgTest, RecoverAllLeavesDestroyedCategoriesAlone) {
+    AddCategory("1", "Gone", InRecycleBin);
+    AddVoyage("1", "10", "A", InRecycleBin);
+    AddCategory("2", "Back", InRecycleBin);
+    AddVoyage("2", "20", "B", InRecycleBin);
+    Toggle();
+    store.categoryStates["1"] = Destroyed;
+    EXPECT_EQ(panel.RecoverAll(), 0);
+    EXPECT_EQ(store.categoryVoyages["2"]["20"], InUse);
+    EXPECT_THAT(catalog.calls, testing::Not(testing::Contains("RecoverVoyage 1 10")));
+    EXPECT_THAT(catalog.calls, testing::Contains("RecoverVoyage 2 20"));
 }
 
 TEST_F(SeaplanViewDlgTest, RecoverAllTakesEverythingOutOfTheBin) {

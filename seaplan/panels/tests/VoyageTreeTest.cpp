@@ -310,6 +310,16 @@ TEST_F(TreeFixture, ADeletedCategoryKeepsTheStatesOfItsVoyages) {
     EXPECT_THAT(tree.Shown(), ElementsAre("Full", "  A", "  B"));
 }
 
+TEST_F(TreeFixture, AnUnknownVoyageInTheBinEndsTheRebuild) {
+    AddCategory("1", "Full");
+    AddVoyage("1", "10", "A");
+    EXPECT_EQ(ctrl.ReloadTree(), 0);
+    store.categoryVoyages["1"]["99"] = InRecycleBin;
+    EXPECT_EQ(ctrl.RebuildCategory("1"), 0);
+    ctrl.SetShowDeleted(true);
+    EXPECT_LT(ctrl.ReloadTree(), 0);
+}
+
 TEST_F(TreeFixture, ClearingAsksFirst) {
     AddCategory("1", "Gone", InRecycleBin);
     ctrl.SetShowDeleted(true);

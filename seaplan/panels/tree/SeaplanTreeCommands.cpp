@@ -97,14 +97,21 @@ int SeaplanTreeCtrl::addVoyage() {
     return builder_.RefreshCounts() == 0 ? 0 : -5;
 }
 
-int SeaplanTreeCtrl::deleteCategory() {
-    VoyCategory& category = *context_.CategoryOf(currentCategoryRow_);
-    if (context_.catalog.DeleteCategory(category.ci) != 0) return -6;
-    for (const auto& [vi, state] : context_.store.categoryVoyages[category.ci]) {
+/// Takes the voyages of a category off the chart and unpins them, whatever their state.
+void SeaplanTreeCtrl::takeOffChart(const std::string& ci) {
+    const auto voyages = context_.store.categoryVoyages.find(ci);
+    if (voyages == context_.store.categoryVoyages.end()) return;
+    for (const auto& [vi, state] : voyages->second) {
         if (context_.schedule.RemoveVoyageObjects(vi) != 0) continue;
         const VoyInfo* voyage = context_.store.FindVoyage(vi);
         if (voyage != nullptr && voyage->vr == 1) context_.catalog.CloseRoute(vi);
     }
+}
+
+int SeaplanTreeCtrl::deleteCategory() {
+    VoyCategory& category = *context_.CategoryOf(currentCategoryRow_);
+    if (context_.catalog.DeleteCategory(category.ci) != 0) return -6;
+    takeOffChart(category.ci);
     context_.tree.DeleteItem(currentCategoryRow_);
     currentCategoryRow_ = kNoRow;
     if (context_.showDeleted) builder_.AddDeletedCategoryRow(category);

@@ -120,6 +120,7 @@ class SeaplanTreeCtrl {
 
     int setDirection(int direction);
     int dropVoyageRow();
+    void takeOffChart(const std::string& ci);
     bool correctable(const VoyInfo& voyage);
     void openVesselBox(TreeRow row, const std::string& text);
     void turnAisOn(const VoyInfo& voyage);

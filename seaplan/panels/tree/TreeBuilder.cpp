@@ -104,18 +104,18 @@ int TreeBuilder::addVoyages(TreeRow row, const std::string& ci, DateSource sourc
     for (const std::string& vi : inUse) {
         if (AddVoyageRow(row, vi) != 0) return -3;
     }
-    if (c_.showDeleted) addDeletedVoyages(row, deleted);
-    return 0;
+    return c_.showDeleted ? addDeletedVoyages(row, deleted) : 0;
 }
 
-void TreeBuilder::addDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted) {
+int TreeBuilder::addDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted) {
     for (const std::string& vi : deleted) {
         VoyInfo* voyage = c_.store.FindVoyage(vi);
-        if (voyage == nullptr) continue;
+        if (voyage == nullptr) return -3;
         const TreeRow child = c_.tree.InsertItem(voyage->vn, kDeletedVoyageStyle, row);
         c_.tree.SetItemData(child, voyage);
         applyTexts(child);
     }
+    return 0;
 }
 
 TreeRow TreeBuilder::AddCategoryRow(VoyCategory& category) {

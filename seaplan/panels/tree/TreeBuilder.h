@@ -42,7 +42,7 @@ class TreeBuilder {
     int addVoyages(TreeRow row, const std::string& ci, DateSource source);
     int sortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,
                     std::vector<std::string>& deleted) const;
-    void addDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
+    int addDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
     int addEmptyCategories(const std::vector<VoyCategory*>& deleted);
     void markVoyage(const VoyInfo& voyage);
     int knowStatus(const std::string& vi);

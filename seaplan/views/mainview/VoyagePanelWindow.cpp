@@ -129,4 +129,8 @@ void VoyagePanelWindow::SurfacePressed() {
     if (panel_ != nullptr) panel_->OnSurfacePressed();
 }
 
+void VoyagePanelWindow::CloseAsked() {
+    if (panel_ != nullptr) panel_->Hide();
+}
+
 }  // namespace Tarvik::Seaplan

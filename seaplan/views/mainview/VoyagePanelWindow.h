@@ -35,6 +35,7 @@ class VoyagePanelWindow final : public ToolWindow, public MainViewWindow {
 
   protected:
     void SurfacePressed() override;
+    void CloseAsked() override;
 
   private:
     void makeFilter();

@@ -121,7 +121,6 @@ void PortCallWindow::makeButtons() {
     row->addWidget(book_);
     row->addWidget(calculate_);
     save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
-    calculate_->setShortcut(QKeySequence(Qt::Key_F9));
     close_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
     help_->setShortcut(QKeySequence(Qt::Key_F1));
     Body()->addLayout(row);
@@ -188,13 +187,15 @@ void PortCallWindow::ShowState(const PortCallState& state) {
     state_ = state;
     SetCaption(QString::fromStdString(state.caption));
     SetChangedMark(state.changed, text(TextId::IDS_VIEW_CHANGED));
+    calculate_->setText(QString::fromStdString(state.calculateText));
+    // A new text takes the button's shortcut away; the hint tells it.
+    calculate_->setShortcut(QKeySequence(Qt::Key_F9));
     setButton(save_, state.canSave, TextId::IDS_PORTCALL_SAVE, TextId::IDS_VIEW_NOCHANGES);
     setButton(clear_, state.canClear, TextId::IDS_PORTCALL_CLEAR, TextId::IDS_VIEW_CLEAROFF);
     setButton(calculate_, state.canCalculate, TextId::IDS_PORTCALL_COMPUTE, TextId::IDS_VIEW_NEEDTWOPORTS);
     // The position book has no window yet.
     setButton(book_, false, TextId::IDS_PORTCALL_POSTBOOK,
               state.canOpenBook ? TextId::IDS_VIEW_NOTYET : TextId::IDS_VIEW_BOOKNEEDSVOYAGE);
-    calculate_->setText(QString::fromStdString(state.calculateText));
     speed_.value->setText(QString::fromStdString(state.averageSpeed));
     distance_.value->setText(QString::fromStdString(state.totalDistance));
     time_.value->setText(QString::fromStdString(state.totalTime));
@@ -308,6 +309,10 @@ void PortCallWindow::ApplySkin() {
 
 void PortCallWindow::SurfacePressed() {
     if (panel_ != nullptr) panel_->OnTableLeft();
+}
+
+void PortCallWindow::CloseAsked() {
+    if (panel_ != nullptr) panel_->OnClose();
 }
 
 }  // namespace Tarvik::Seaplan

@@ -60,6 +60,7 @@ class PortCallWindow final : public ToolWindow, public PortCallView {
 
   protected:
     void SurfacePressed() override;
+    void CloseAsked() override;
     /// Takes what a match window tells.
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

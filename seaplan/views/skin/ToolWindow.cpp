@@ -91,6 +91,11 @@ void ToolWindow::resizeEvent(QResizeEvent* event) {
     setMask(QRegion(outline.toFillPolygon().toPolygon()));
 }
 
+void ToolWindow::closeEvent(QCloseEvent* event) {
+    CloseAsked();
+    event->setAccepted(!isVisible());
+}
+
 void ToolWindow::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return QFrame::mousePressEvent(event);
     SurfacePressed();

@@ -32,6 +32,9 @@ class ToolWindow : public QFrame {
   protected:
     /// A press on the free surface, before the window begins to move.
     virtual void SurfacePressed() {}
+    /// Asked to close by the window system, as by Alt+F4; hides the window or keeps it.
+    virtual void CloseAsked() = 0;
+    void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollBar>
+#include <QWindow>
 
 namespace Tarvik::Seaplan {
 
@@ -286,6 +287,20 @@ TEST_F(PortCallWindowTest, ClosingAsksAboutChanges) {
     messages.Answer(Interface::SysMsgHandleRes::Yes);
     Button("closeButton");
     EXPECT_FALSE(PortCalls().isVisible());
+}
+
+TEST_F(PortCallWindowTest, AClosingWindowSystemIsAnsweredLikeTheCloseButton) {
+    OpenPortCalls("Far East 12");
+    ClickCell(1, ColSpeed);
+    QTest::keyClicks(&SpeedEditor(), "14");
+    messages.Answer(Interface::SysMsgHandleRes::No);
+    PortCalls().windowHandle()->close();
+    QApplication::processEvents();
+    ASSERT_EQ(messages.messages.size(), 1U);
+    EXPECT_TRUE(PortCalls().isVisible());
+    Panel().windowHandle()->close();
+    QApplication::processEvents();
+    EXPECT_FALSE(Panel().isVisible());
 }
 
 TEST_F(PortCallWindowTest, LogoutHidesBothWindows) {

@@ -4,6 +4,8 @@
 #include "seaplan/data/controllers/VoyCatalogController.h"
 #include "seaplan/data/controllers/VoyController.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/views/HelpRequest.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/skin/Palette.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingHost.h"
@@ -13,11 +15,28 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QWidget>
+
+#include <string>
 
 namespace Tarvik::Seaplan {
 
 namespace {
+
+/// Notes what the main window is asked for.
+class HelpWatcher : public QObject {
+  public:
+    std::string asked;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != static_cast<QEvent::Type>(1030)) return false;
+        const auto& block = static_cast<HelpRequestEvent*>(event)->block;
+        asked = block.topic + (" " + std::to_string(block.width)) + " " + std::to_string(block.height);
+        return true;
+    }
+};
 
 class ViewsFactoryTest : public ::testing::Test {
   protected:
@@ -61,12 +80,47 @@ TEST_F(ViewsFactoryTest, TheWindowsBelongToTheMainWindowAndStayHidden) {
     EXPECT_NE(mainView.findChild<QWidget*>("portCallPanel"), nullptr);
 }
 
+TEST_F(ViewsFactoryTest, AVoyageCanBeCorrectedByItsShipsPosition) {
+    ASSERT_TRUE(Create());
+    host.Reply(3, R"([{ci:"1",cn:"Tankers",cd:0,voys:[{vi:"7",vn:"Winter",vd:0}]}])");
+    Toggle();
+    VoyageTreeView& tree = static_cast<VoyagePanelWindow*>(Panel())->Tree();
+    const TreeRow voyage = tree.Rows().GetChildItem(tree.Rows().GetRootItem());
+    ASSERT_EQ(tree.Rows().GetItemText(voyage), "Winter");
+    tree.Widget().Expand(tree.Rows().GetRootItem());
+    tree.Widget().SelectItem(voyage);
+    bool offered = false;
+    for (const SubItem& part : tree.PartsOf(voyage)) {
+        if (part.name == "Voyage_modify") offered = part.enabled;
+    }
+    EXPECT_TRUE(offered);
+}
+
 TEST_F(ViewsFactoryTest, WithoutAConnectionTheChartsButtonOpensTheLogin) {
     ASSERT_TRUE(Create());
     host.connected = false;
     Toggle();
     EXPECT_FALSE(Panel()->isVisible());
     EXPECT_EQ(host.logins, 1);
+}
+
+TEST_F(ViewsFactoryTest, WithoutAConnectionTheVesselServiceFailsAndOpensTheLogin) {
+    ASSERT_TRUE(Create());
+    host.connected = false;
+    std::string vi = "7";
+    void* result = nullptr;
+    Core::TrvKernel::Instance()->CallTrvService(Interface::Bus::AddVessel.name, &vi, result);
+    ASSERT_NE(result, nullptr);
+    EXPECT_STREQ(static_cast<const char*>(result), "-2");
+    EXPECT_EQ(host.logins, 1);
+}
+
+TEST_F(ViewsFactoryTest, HelpReachesTheMainWindowAsABlockWithItsTopicAndSize) {
+    HelpWatcher watcher;
+    mainView.installEventFilter(&watcher);
+    ASSERT_TRUE(Create());
+    Panel()->findChild<QAbstractButton*>("helpButton")->click();
+    EXPECT_EQ(watcher.asked, "func033 370 440");
 }
 
 TEST_F(ViewsFactoryTest, DestroyedViewsLeaveTheBus) {
