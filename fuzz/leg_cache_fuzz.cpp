@@ -28,10 +28,25 @@ std::string writeText(const LegCache& cache) {
 
 }  // namespace
 
+/// A line is a leg of two stops, or has the code of what is wrong with it; then nothing is taken from it.
+void checkLine(const std::string& line) {
+    Tarvik::Seaplan::RouteLegCacheEntry entry;
+    entry.from = "left alone";
+    const int code = ParseCacheLine(line, entry);
+    const bool known = code <= 0 && code >= -13;
+    const bool whole =
+        code == 0 ? entry.stops.size() == 2 : entry.stops.empty() && entry.from == "left alone";
+    if (!known || !whole) {
+        std::abort();
+    }
+}
+
 // Whatever the file holds, the legs that it gives and that have segments are the same after writing and
 // reading again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    LegCache cache = readText(std::string(reinterpret_cast<const char*>(data), size));
+    const std::string text(reinterpret_cast<const char*>(data), size);
+    checkLine(text.substr(0, text.find('\n')));
+    LegCache cache = readText(text);
     std::erase_if(cache, [](const auto& item) { return item.second.stops[1].routes.empty(); });
     const std::string written = writeText(cache);
     const LegCache back = readText(written);

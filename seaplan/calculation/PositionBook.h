@@ -32,8 +32,8 @@ int LegTotalsFromBook(const VoyPositionBook& book, PortCallRows& ports);
 /// failure the rows are untouched.
 int RescaleBookSpeeds(const PortCallRows& ports, BookPoints& rows);
 /// Joins the legs of `fresh` with those of `stored` that run between the same two ports (by name), so that
-/// waypoints that the person worked on stay. 0, or -1 when either side has fewer than two ports or the legs
-/// do not match the ports.
+/// waypoints that the person worked on stay; a stored book whose legs do not match its ports gives none. 0,
+/// or -1 when either side has fewer than two ports or the fresh legs do not match theirs.
 int JoinKeepingLegs(const PortCallRows& oldPorts, const BookPoints& stored, const PortCallRows& newPorts,
                     const BookPoints& fresh, BookPoints& out);
 

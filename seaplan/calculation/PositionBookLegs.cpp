@@ -61,8 +61,13 @@ struct StoredLeg {
 
 using StoredLegs = std::map<std::string, std::vector<StoredLeg>>;
 
+/// The stored legs under the names of their ports. A save that broke off may leave port calls without a book,
+/// or with the book of other ports: then nothing tells which leg is whose, and none is stored.
 StoredLegs storeLegs(const PortCallRows& ports, const std::vector<BookLeg>& legs) {
     StoredLegs stored;
+    if (legs.size() != ports.size()) {
+        return stored;
+    }
     for (std::size_t i = 1; i < legs.size(); ++i) {
         stored[LegCacheKey(ports[i - 1].ppn, ports[i].ppn)].push_back({legs[i], false});
     }
@@ -142,13 +147,11 @@ int RescaleBookSpeeds(const PortCallRows& ports, BookPoints& rows) {
 
 int JoinKeepingLegs(const PortCallRows& oldPorts, const BookPoints& stored, const PortCallRows& newPorts,
                     const BookPoints& fresh, BookPoints& out) {
-    const auto oldLegs = LegsOf(stored);
     const auto newLegs = LegsOf(fresh);
-    if (oldPorts.size() < 2 || newPorts.size() < 2 || oldLegs.size() != oldPorts.size() ||
-        newLegs.size() != newPorts.size()) {
+    if (oldPorts.size() < 2 || newPorts.size() < 2 || newLegs.size() != newPorts.size()) {
         return -1;
     }
-    auto keptLegs = storeLegs(oldPorts, oldLegs);
+    auto keptLegs = storeLegs(oldPorts, LegsOf(stored));
     BookPoints joined;
     appendRows(fresh, newLegs.front().first, newLegs.front().last, joined);
     for (std::size_t i = 1; i < newLegs.size(); ++i) {

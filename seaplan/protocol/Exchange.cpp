@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
-#include <new>
 
 namespace Tarvik::Seaplan {
 
@@ -25,27 +24,31 @@ constexpr const char* kPlanZone = "China Standard Time";
 constexpr const char* kFirstConvertedOnWriting = "2011-10-02 08:00:00";
 constexpr const char* kFirstConvertedOnReading = "2011-10-02 00:00:00";
 
-struct ReplyFree {
+struct BlockFree {
     void operator()(Interface::VoyServerRequest* block) const { Core::FreeBusBlock(block); }
 };
-using ReplyBlock = std::unique_ptr<Interface::VoyServerRequest, ReplyFree>;
+using Block = std::unique_ptr<Interface::VoyServerRequest, BlockFree>;
 
-ReplyBlock exchange(const Util::CAutoBuffer& text, std::uint16_t command) {
+/// The host's reply, null without one. The request lives as long as the call.
+Block exchange(const Util::CAutoBuffer& text, std::uint16_t command) {
     const std::size_t length = text.size();
-    const auto block = std::make_unique<std::byte[]>(sizeof(Interface::VoyServerRequest) + length);
-    auto* request = new (block.get()) Interface::VoyServerRequest;
+    const Block request(static_cast<Interface::VoyServerRequest*>(
+        Core::AllocateBusBlock(sizeof(Interface::VoyServerRequest) + length)));
+    if (!request) {
+        return nullptr;
+    }
     request->length = static_cast<std::uint32_t>(length);
     request->command = command;
     request->moduleWord = kVoyageModule;
     std::memcpy(request->Payload(), text.begin(), length);
-    const Interface::VoyServerRequest* input = request;
-    return ReplyBlock(Interface::Call(Bus::ServerExchange, input));
+    const Interface::VoyServerRequest* input = request.get();
+    return Block(Interface::Call(Bus::ServerExchange, input));
 }
 
 }  // namespace
 
 int SendRequest(const Util::CAutoBuffer& text, std::uint16_t command, Util::Jsona& reply) {
-    const ReplyBlock block = exchange(text, command);
+    const Block block = exchange(text, command);
     if (!block) {
         return -1;
     }

@@ -147,6 +147,20 @@ TEST(RescaleBookSpeeds, EqualSpeedsStayAsTheyAre) {
     }
 }
 
+TEST(RescaleBookSpeeds, SmallestDifferenceThatCountsIsCarriedOver) {
+    auto ports = threePorts();
+    ASSERT_EQ(LegTotalsFromBook(book(twoLegs()), ports), 0);
+    for (const float step : {0.00003F, -0.00003F}) {
+        auto changed = ports;
+        changed[1].psp += step;
+        auto rows = twoLegs();
+        ASSERT_EQ(RescaleBookSpeeds(changed, rows), 0);
+        EXPECT_EQ(rows[1].psp, changed[1].psp) << step;
+        EXPECT_NE(rows[1].psp, 10) << step;
+        EXPECT_EQ(rows[2].psp, 10) << "the other leg stays";
+    }
+}
+
 TEST(RescaleBookSpeeds, FailureLeavesTheRowsUntouched) {
     auto rows = BookPoints{port("0,0")};
     EXPECT_EQ(RescaleBookSpeeds(threePorts(), rows), -1);

@@ -145,6 +145,14 @@ TEST(ComputeBookTimes, OnePortLeavesNoStayBehindIt) {
     EXPECT_NEAR(since(rows[0].etd, rows[1].eta), hoursOf(1, 10, 0), 1e-4);
 }
 
+TEST(ComputeBookTimes, BehindTheLastPortItsStayAndWeatherGoOn) {
+    const PortCallRows ports{call("A", 0, 10, 0, 2), call("B", 0, 10, 0.5F, 3)};
+    auto rows = equatorBook();
+    ASSERT_EQ(ComputeBookTimes(at(1, 0), ports, rows), 0);
+    EXPECT_NEAR(since(rows[1].etd, rows[2].eta), hoursOf(1, 10, 0.5), 1e-4);
+    EXPECT_NEAR(since(rows[3].eta, rows[3].etd), 3, 1e-4) << "a port row that no port call stands for";
+}
+
 TEST(ComputeBookTimes, TellsWhichStepFailed) {
     const float infinity = std::numeric_limits<float>::infinity();
     const PortCallRows ports{call("A", 0), call("B", 0)};

@@ -121,6 +121,20 @@ TEST(RouteReply, NoVariantIsChosenWithoutSpanOrComma) {
     }
 }
 
+TEST(RouteReply, StopOfOneSegmentHasNoVariantToChoose) {
+    RouteStops stops;
+    EXPECT_EQ(parse(R"([{point_cd:"1"},{routes:[{from_cd:"105",end_cd:"104",pointset:"0,0|1,0"}],)"
+                    R"(rp_groups:["118=105,104;1.104,105;2"]}])",
+                    stops),
+              -6)
+        << "though both ends of the variants are on its way";
+    EXPECT_EQ(parse(R"([{point_cd:"1"},{routes:[{from_cd:"105",end_cd:"104",pointset:"0,0|1,0"}],)"
+                    R"(rp_groups:["118=105,104;1"]}])",
+                    stops),
+              0)
+        << "a group without variants needs no choice";
+}
+
 TEST(RouteReply, VariantThatHoldsAnEqualsSignIsPrefixedAllTheSame) {
     RouteStops stops;
     ASSERT_EQ(parse(stopWithGroups(R"("118=7,116;1.118=105,104;2")"), stops), 0);
@@ -161,6 +175,12 @@ TEST(PointsetLength, SumsNeighbouringPairs) {
         EXPECT_EQ(PointsetLength(pointset, km), 0) << pointset;
         EXPECT_EQ(km, 0) << pointset;
     }
+}
+
+TEST(PointsetLength, PointWithoutCommaLeavesTheOneBeforeInPlace) {
+    float km = -1;
+    EXPECT_EQ(PointsetLength("10,0|nothing|11,0|x|y|12,0", km), 0);
+    EXPECT_FLOAT_EQ(km, static_cast<float>(2 * Util::CircleLineUtl::CalculateDistance(10, 0, 11, 0)));
 }
 
 TEST(PointsetLength, FailsWithoutPoints) {

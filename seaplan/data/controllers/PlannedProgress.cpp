@@ -7,6 +7,7 @@
 
 #include <tarvik/util/StringUtl.h>
 
+#include <cmath>
 #include <cstdint>
 
 namespace Tarvik::Seaplan {
@@ -88,6 +89,9 @@ class LegWalk {
         }
         const double speed = (1 - weather_) * row.psp;
         const double steam = distance / speed;
+        if (!std::isfinite(steam)) {
+            return -13;
+        }
         if (AddHours(static_cast<float>(steam), reached_) < 0) {
             return correction_ == nullptr ? -13 : -14;
         }

@@ -6,6 +6,8 @@
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <map>
 #include <utility>
@@ -20,6 +22,7 @@ using PositionMap = std::map<std::string, VesselPosition>;
 
 constexpr const char* kPlanZone = "China Standard Time";
 constexpr std::size_t kTrackFields = 4;
+constexpr int kTrackNumbers = 3;  ///< time, x and y; the fourth field, the vessel's number, may be unknown
 
 /// One text "vessel id|number" a vessel; of voyages with one vessel the first known number counts.
 std::vector<std::string> vesselsOf(const VoyageStore& store) {
@@ -63,10 +66,11 @@ int gmtTimerOf(const Util::_datetime_t& planTime) {
     return static_cast<int>(Util::DateTimeUtl::ConvertToUTC(planTime, kPlanZone).to_gmt_timer());
 }
 
-/// Takes a newer position; a first number is saved first. False when that fails.
+/// Takes a newer position; a first number is saved first. False when that fails. A record without numbers
+/// for its place tells nothing.
 bool takePosition(const VesselPosition& record, VoyCatalogController& catalog, VoyInfo& voyage) {
     const std::string text = placeText(record.x, record.y);
-    if (!isNewer(record.time, text, voyage)) {
+    if (!std::isfinite(record.x) || !std::isfinite(record.y) || !isNewer(record.time, text, voyage)) {
         return true;
     }
     if (voyage.vsmsi == 0 && record.vsmsi >= 1) {
@@ -96,15 +100,22 @@ void noteCorrectionTime(VoyCatalogController& catalog, VoyInfo& voyage) {
     }
 }
 
+bool hasNumber(const std::string& text) {
+    return text.find_first_of("0123456789") != std::string::npos;
+}
+
 /// The four fields of a track text: time, x, y, vessel number. -5 to -7 as RefreshTrace.
 int readTrack(const std::string& text, std::vector<std::string>& fields) {
     if (text.empty()) {
         return -5;
     }
-    if (text.find_first_of("0123456789") == std::string::npos) {
+    if (!hasNumber(text)) {
         return -6;
     }
-    return Util::StringUtl::split(text, "|", fields) && fields.size() == kTrackFields ? 0 : -7;
+    if (!Util::StringUtl::split(text, "|", fields) || fields.size() != kTrackFields) {
+        return -7;
+    }
+    return std::all_of(fields.begin(), fields.begin() + kTrackNumbers, hasNumber) ? 0 : -6;
 }
 
 std::string askTrack(const VoyInfo& voyage) {

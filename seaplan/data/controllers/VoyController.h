@@ -45,6 +45,10 @@ class VoyController {
     /// -2 times; -3 book; -4 distances from the book; -5 drawing. After a failure `out` is empty and the
     /// pending route is what it was.
     int CalculatePortCalls(const PortCallRows& rows, PortCallRows& out);
+    /// Schedule of `rows` over the pending route, whose stops a click on the chart may have changed; their
+    /// ids must be set. -1 the route is not one of these ports; then as CalculatePortCalls, -2 to -4. On
+    /// failure `out` is empty.
+    int ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& out);
     /// `hadPortCalls`: 0 the voyage had no saved port calls, 1 it had and the result is already in the
     /// voyage. -1 empty id; -2 unknown; -3 the calculation failed.
     int CalculateForVoyage(const std::string& vi, const PortCallRows& rows, PortCallRows& out,
@@ -69,11 +73,28 @@ class VoyController {
     /// Takes newer last positions of all voyages' vessels over. -1 no vessels or no records.
     int RefreshVesselPositions();
     /// Takes the last position of the vessel's track between first departure and last arrival over, if newer.
-    /// -1 empty id; -2 unknown; -3 no vessel; -4 fewer than two port calls; -5 no track; -6 no number in it;
+    /// -1 empty id; -2 unknown; -3 no vessel; -4 fewer than two port calls; -5 no track; -6 no numbers in it;
     /// -7 not four fields; -8 a first vessel number could not be saved.
     int RefreshTrace(const std::string& vi);
     /// Has the vessel's track hidden; without a vessel there is none. -1 empty id; -2 unknown.
     int HideAisTrack(const std::string& vi);
+
+    /// Puts the vessel's last position into the position book, with the server's way from there to the next
+    /// port; from then on the voyage counts as corrected. `applied` is 1 when the position got a row of its
+    /// own, else 0. With no port ahead it is 0 and nothing changes. -1 empty id; -2 unknown; -3 no vessel; -4
+    /// no position or no time of it; -5 no zone; -6 the ports ahead; -7 the server's way; -8 the rest of the
+    /// book; -9 the position does not fit the book. On failure the voyage is as it was.
+    int ApplyAisPosition(const std::string& vi, int& applied);
+    /// A corrected voyage as rows of the table: up to its last position of the ship, and behind it. -1 empty
+    /// id; -2 unknown; -3 the book's times; -4 the rows; -5 no position, or nothing before it.
+    int SplitAisRows(const std::string& vi, PortCallRows& before, PortCallRows& after) const;
+    /// Plans what lies behind the last row of `history`, the ship's position, anew, into the voyage; `rows`
+    /// are its new ports. -1 an input is missing or the voyage unknown; -2 port ids; -3 the history does not
+    /// end with a position; -4 no row of the book at it; -5 fewer than two points of the server's way; -6 the
+    /// way cannot be had; -7 the route between the planned ports; -8 its book; -9 the totals. On failure the
+    /// voyage and the pending route are as they were.
+    int ReplanFromAis(const std::string& vi, const PortCallRows& history, const PortCallRows& plan,
+                      PortCallRows& rows);
     VoyPortCallModule& Module() { return *module_; }
 
   private:
@@ -84,7 +105,12 @@ class VoyController {
     int saveBookDate(VoyInfo& voyage);
     int saveBook(VoyInfo& voyage);
     int calculateNew(const PortCallRows& rows, PortCallRows& out);
+    int scheduleBook(PortCallRows& scheduled, BookPoints points);
     int calculateKept(VoyInfo& voyage, const PortCallRows& rows, PortCallRows& scheduled);
+    int correctAt(VoyInfo& voyage, int& applied);
+    int routeAhead(const PortCallRows& plan, BookPoints& rows);
+    int replan(const VoyInfo& voyage, const PortCallRows& history, PortCallRows plan, VoyPositionBook& book,
+               PortCallRows& ports);
     int routeSchedule(const PortCallRows& rows, PortCallRows& scheduled, BookPoints& book);
 
     VoyPortCallModule* module_;

@@ -30,17 +30,52 @@ int VoyController::routeSchedule(const PortCallRows& rows, PortCallRows& schedul
     return module_->BookFromCurrentStops(book) < 0 ? -3 : 0;
 }
 
-int VoyController::calculateNew(const PortCallRows& rows, PortCallRows& out) {
+/// Gives scheduled rows the distances and times of their book. 0 or -1.
+int VoyController::scheduleBook(PortCallRows& scheduled, BookPoints points) {
     VoyPositionBook book;
-    if (const int failed = routeSchedule(rows, out, book.points); failed < 0) {
+    book.points = std::move(points);
+    book.eta = scheduled.front().eta;
+    RescaleBookSpeeds(scheduled, book.points);
+    return LegTotalsFromBook(book, scheduled) < 0 ? -1 : 0;
+}
+
+int VoyController::calculateNew(const PortCallRows& rows, PortCallRows& out) {
+    BookPoints points;
+    if (const int failed = routeSchedule(rows, out, points); failed < 0) {
         return failed;
     }
-    book.eta = out.front().eta;
-    RescaleBookSpeeds(out, book.points);
-    if (LegTotalsFromBook(book, out) < 0) {
+    if (scheduleBook(out, std::move(points)) < 0) {
         return -4;
     }
     return module_->DrawCurrentRoute() < 0 ? -5 : 0;
+}
+
+int VoyController::ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& out) {
+    out.clear();
+    const RouteStops& stops = module_->CurrentStops();
+    if (rows.empty() || stops.size() != rows.size()) {
+        return -1;
+    }
+    PortCallRows routed = rows;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (stops[i].point_cd != rows[i].ppi) {
+            return -1;
+        }
+        routed[i].distance = stops[i].distance;
+    }
+    PortCallRows scheduled;
+    if (BuildSchedule(rows.front().eta, routed, scheduled) < 0) {
+        return -2;
+    }
+    BookPoints points;
+    if (module_->BookFromCurrentStops(points) < 0) {
+        return -3;
+    }
+    if (scheduleBook(scheduled, std::move(points)) < 0) {
+        return -4;
+    }
+    out = std::move(scheduled);
+    return 0;
 }
 
 int VoyController::CalculatePortCalls(const PortCallRows& rows, PortCallRows& out) {

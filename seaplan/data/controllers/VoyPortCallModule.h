@@ -39,11 +39,18 @@ class VoyPortCallModule : public Core::TObject {
     /// Route of the rows into `results` and the current stops; -5 when stops and rows differ in number.
     int GetRoute(const PortCallRows& rows, PortCallRows& results, bool wholeList);
     int GetStopsByCache(const PortCallRows& rows, RouteStops& out);
+    /// Adds the good lines of a cache file, "" for the usual one; a missing one and one too large to be a
+    /// cache add none. 0.
     int LoadCache(const std::string& name, LegCache& cache);
     int SaveCache(const std::string& name, const LegCache& cache);
     const RouteStops& CurrentStops() const { return stops_; }
     void ClearCurrentStops() { stops_.clear(); }
     void SetCurrentStops(RouteStops stops) { stops_ = std::move(stops); }
+    /// The server's way from `position` to a port: its points, the position first and the port last; an empty
+    /// answer gives none. -1 no position or no port id (nothing is sent); -2 no exchange; -3 empty reply; -4
+    /// refused; -5 a point that is no position.
+    int RequestNearestRoute(const std::string& position, const std::string& portId,
+                            std::vector<std::string>& points);
     /// Book rows of the current stops; codes of BookFromStops, -2 when the route points cannot be read.
     int BookFromCurrentStops(BookPoints& rows);
     /// Id, name and position of the rows' ports, in order. -1 the table of points cannot be read; -2 a port
@@ -66,6 +73,8 @@ class VoyPortCallModule : public Core::TObject {
     /// place of its own.
     using CursorSource = std::function<std::pair<int, int>()>;
     void SetCursorSource(CursorSource source) { cursor_ = std::move(source); }
+    /// Called after a click on an alternative has changed the current stops.
+    void SetRouteListener(std::function<void()> listener) { routeChosen_ = std::move(listener); }
 
   private:
     void bindClick(const char* name, Core::TEvent& delegate);
@@ -94,6 +103,7 @@ class VoyPortCallModule : public Core::TObject {
     PointMap portPositions_;
     std::map<std::string, std::string> shipPositions_;  ///< "x,y" of each drawn voyage's icon
     CursorSource cursor_;
+    std::function<void()> routeChosen_;
     Core::TEvent routePointClick_;
     Core::TEvent alternativeClick_;
     Core::TEvent shipClick_;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/RouteReply.h"
 #include "seaplan/calculation/RouteRequest.h"
 #include "seaplan/data/controllers/VoyPortCallModule.h"
@@ -6,6 +7,8 @@
 
 #include <tarvik/util/FileUtl.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -17,7 +20,10 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr std::uint16_t kRouteCommand = 1;
+constexpr std::uint16_t kNearestCommand = 2;
 constexpr std::size_t kStopsOfLeg = 2;
+/// Some hundred times the largest cache of real use; a larger file is none, and would not fit into memory.
+constexpr std::uintmax_t kMostCacheBytes = 256UL * 1024 * 1024;
 
 std::filesystem::path cachePath(const std::string& name) {
     const std::string file = name.empty() ? "Ports.dat" : name;
@@ -35,6 +41,11 @@ VoyPortCall resultRow(const VoyPortCall& row, const RouteStop& stop) {
     result.apt = row.apt;
     result.distance = stop.distance;
     return result;
+}
+
+bool isPosition(const std::string& point) {
+    Position ignored;
+    return ReadPosition(point, 1, ignored);
 }
 
 /// Lengths in km from the point sets; a cached leg stores none.
@@ -62,6 +73,31 @@ int VoyPortCallModule::requestRoute(const std::string& text, RouteStops& stops, 
         return parseCode;
     }
     stops = std::move(parsed);
+    return 0;
+}
+
+int VoyPortCallModule::RequestNearestRoute(const std::string& position, const std::string& portId,
+                                           std::vector<std::string>& points) {
+    points.clear();
+    if (position.empty() || portId.empty()) {
+        return -1;
+    }
+    Util::Jsona reply;
+    if (SendText(NearestRequestText(position, portId), kNearestCommand, reply) < 0) {
+        return -2;
+    }
+    if (reply.size() < 1) {
+        return -3;
+    }
+    if (reply.getv("eid", 0) != 0) {
+        return -4;
+    }
+    std::vector<std::string> way;
+    SplitPointset(reply.getv("pointset", ""), way);
+    if (!std::all_of(way.begin(), way.end(), isPosition)) {
+        return -5;
+    }
+    points = std::move(way);
     return 0;
 }
 
@@ -162,7 +198,12 @@ int VoyPortCallModule::GetStopsByCache(const PortCallRows& rows, RouteStops& out
 }
 
 int VoyPortCallModule::LoadCache(const std::string& name, LegCache& cache) {
-    std::ifstream in(cachePath(name), std::ios::binary);
+    const std::filesystem::path path = cachePath(name);
+    std::error_code missing;
+    if (std::filesystem::file_size(path, missing) > kMostCacheBytes || missing) {
+        return 0;
+    }
+    std::ifstream in(path, std::ios::binary);
     if (in) {
         ReadCache(in, cache);
     }
@@ -215,7 +256,11 @@ int VoyPortCallModule::chooseAlternative(const std::string& id) {
     if (const int failed = requestRoute(text, stops_, -3, -4); failed < 0) {
         return failed;
     }
-    return DrawCurrentRoute() < 0 ? -5 : 0;
+    const int drawn = DrawCurrentRoute();
+    if (routeChosen_) {
+        routeChosen_();
+    }
+    return drawn < 0 ? -5 : 0;
 }
 
 }  // namespace Tarvik::Seaplan

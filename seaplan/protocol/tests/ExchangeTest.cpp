@@ -39,6 +39,20 @@ TEST(SendRequestTest, WithoutHostFails) {
     EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -1);
 }
 
+TEST(SendRequestTest, RequestBlockIsFreedWhateverTheHostAnswers) {
+    RecordingHost host;
+    const long before = Core::LiveBusBlocks();
+    Util::Jsona reply;
+    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -1);
+    EXPECT_EQ(host.requests.size(), 1U) << "the host was asked and answered nothing";
+    EXPECT_EQ(Core::LiveBusBlocks(), before);
+    host.Reply(3, "[]");
+    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), 0);
+    host.Reply(3, "no json");
+    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -2);
+    EXPECT_EQ(Core::LiveBusBlocks(), before);
+}
+
 TEST(SendRequestTest, ReplyThatDoesNotParseFailsAndItsBlockIsFreed) {
     RecordingHost host;
     host.Reply(3, "{eid:");

@@ -146,6 +146,31 @@ TEST_F(VoyCatalogModuleTest, QuoteInANameGoesOutAndTheServerDecides) {
     EXPECT_EQ(module.CreateCategory("a\"b", id), 0);
 }
 
+TEST_F(VoyCatalogModuleTest, StatusWithoutErrorNumberIsAFailureAndChangesNothing) {
+    host.Reply(3, R"([{ci:"1",cn:"A",voys:[{vi:"9",vn:"V"}]}])");
+    EXPECT_EQ(module.LoadAll("u"), 0);
+    for (int i = 0; i < 2; ++i) {
+        host.Reply(4, R"({ci:"2",emsg:""})");
+        host.Reply(5, R"({vi:"8",emsg:""})");
+    }
+    host.Reply(5, R"({vi:"8",emsg:""})");
+    host.Reply(13, R"({vi:"9"})");
+    std::string id = "before";
+    EXPECT_EQ(module.CreateCategory("B", id), -4);
+    EXPECT_EQ(module.ChangeCategoryState("1", 3), -4);
+    EXPECT_EQ(module.CreateVoyage("W", "1", id), -4);
+    EXPECT_EQ(module.ChangeVessel("9", "s", "Ship", 1), -4);
+    EXPECT_EQ(module.SetRouteDisplay("9", "open"), -5);
+    EXPECT_EQ(module.AddAisModTime("9", "2024-01-01 08:00:00"), -5);
+    EXPECT_EQ(id, "before");
+    EXPECT_EQ(store.categories.size(), 1U);
+    EXPECT_EQ(store.categoryStates.at("1"), InUse);
+    ASSERT_EQ(store.voyages.size(), 1U);
+    EXPECT_EQ(store.voyages.at("9").vsn, "");
+    EXPECT_EQ(store.voyages.at("9").vr, 0);
+    EXPECT_TRUE(store.voyages.at("9").aisModTimes.empty());
+}
+
 TEST_F(VoyCatalogModuleTest, RenameNeedsIdAndName) {
     EXPECT_EQ(module.RenameCategory("", "A"), -1);
     EXPECT_EQ(module.RenameCategory("1", ""), -1);

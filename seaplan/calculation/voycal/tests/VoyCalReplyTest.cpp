@@ -137,8 +137,8 @@ TEST(VoyCalReply, FillsThePorts) {
 TEST(VoyCalReply, OtherRepliesFailAndLeaveThePorts) {
     for (const auto* reply :
          {"", "x", "[]", "{}", "5", R"([{point_cd:"41"}])", R"({eid:-1})",
-          R"({eid:-1,a:{point_cd:"41"},b:{point_cd:"42"}})", R"([{point_cd:"42"},{point_cd:"41"}])",
-          R"([{point_cd:"41"},{point_cd:"42"},{point_cd:"43"}])",
+          R"({eid:-1,a:{point_cd:"41"},b:{point_cd:"42"}})", R"({eid:{point_cd:"41"},b:{point_cd:"42"}})",
+          R"([{point_cd:"42"},{point_cd:"41"}])", R"([{point_cd:"41"},{point_cd:"42"},{point_cd:"43"}])",
           R"([{point_cd:"41"},{point_cd:"42",rp_groups:["9=a,b;1"]}])", R"([{point_cd:"41"},{}])"}) {
         auto ports = portsOf({"41", "42"});
         ports[1].distance = 77;

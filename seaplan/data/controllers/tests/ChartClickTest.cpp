@@ -115,6 +115,52 @@ TEST_F(ChartClickTest, ChosenAlternativeAsksForTheOtherRouteAndRedraws) {
     EXPECT_EQ(clickAlternative("105"), "-2") << "the new route has no such group";
 }
 
+/// The way from A to B by the south.
+constexpr const char* kLongerRoute =
+    R"([{point_cd:"40001"},{point_cd:"40002",routes:[{route:"1",from_cd:"40001",end_cd:"105",)"
+    R"(pointset:"0.000,0.000|0.500,-1.000"},{route:"2",from_cd:"105",end_cd:"40002",)"
+    R"(pointset:"0.500,-1.000|1.000,0.000"}],rp_groups:["105=40001,40002;116|118"]}])";
+
+TEST_F(ChartClickTest, ScheduleFollowsTheChosenRoute) {
+    drawRoute(kRouteWithAlternatives);
+    int told = 0;
+    module.SetRouteListener([&] { ++told; });
+    clickPoint("118");
+    host.Reply(1, "{eid:1}");
+    clickAlternative("105");
+    EXPECT_EQ(told, 0) << "the route is the old one";
+    host.Reply(1, kLongerRoute);
+    EXPECT_EQ(clickAlternative("105"), "");
+    EXPECT_EQ(told, 1);
+    module.SetRouteListener({});
+    PortCallRows followed;
+    EXPECT_EQ(voyages.ScheduleCurrentRoute(typedRows(), followed), 0);
+    host.Reply(1, kLongerRoute);
+    PortCallRows calculated;
+    EXPECT_EQ(voyages.CalculatePortCalls(typedRows(), calculated), 0);
+    ASSERT_EQ(followed.size(), 2U);
+    EXPECT_GT(followed[1].distance, 120.0F);
+    EXPECT_EQ(followed[1].distance, calculated[1].distance);
+    EXPECT_EQ(followed[1].eta, calculated[1].eta);
+    EXPECT_EQ(followed[1].psp, calculated[1].psp);
+}
+
+TEST_F(ChartClickTest, ScheduleOfOtherPortsThanTheRoutesIsRefused) {
+    PortCallRows followed(1);
+    EXPECT_EQ(voyages.ScheduleCurrentRoute({}, followed), -1);
+    EXPECT_EQ(voyages.ScheduleCurrentRoute(typedRows(), followed), -1);
+    EXPECT_TRUE(followed.empty());
+    drawRoute(kRouteWithAlternatives);
+    EXPECT_EQ(voyages.ScheduleCurrentRoute(threeRows(), followed), -1);
+    PortCallRows others = typedRows();
+    others[1].ppi = "40003";
+    EXPECT_EQ(voyages.ScheduleCurrentRoute(others, followed), -1);
+    PortCallRows stormy = typedRows();
+    stormy[1].pw = 1;
+    EXPECT_EQ(voyages.ScheduleCurrentRoute(stormy, followed), -2);
+    EXPECT_TRUE(followed.empty());
+}
+
 TEST_F(ChartClickTest, EarlierChoicesOfTheStopStayAndOtherStopsGoByTheirIds) {
     drawRoute(R"([{point_cd:"40001"},)" +
                   stopWith("40001", "40002", "118=40001,40002;105|116", "105=a,b.116=c,d.junk") + "," +

@@ -87,7 +87,11 @@ TEST_F(CorrectedProgressTest, BeforeDepartureEverythingButTheFirstPortRemains) {
 
 TEST_F(CorrectedProgressTest, EveryFailureHasItsNumber) {
     ports[1].pw = 1.0F;
-    EXPECT_EQ(run(at(0), at(7)), -14);
+    EXPECT_EQ(run(at(0), at(7)), -13) << "as for a voyage that was not corrected";
+    ports[1].pw = 0.9999999F;
+    groups[1][0].psp = 0.00011F;
+    EXPECT_EQ(run(at(0), at(7)), -14) << "arrival thousands of years ahead";
+    groups[1][0].psp = 10.0F;
     ports[1].pw = 1.5F;
     EXPECT_EQ(run(at(0), at(7)), -8);
     ports[1].pw = 0;

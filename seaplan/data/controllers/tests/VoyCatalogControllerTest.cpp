@@ -135,6 +135,7 @@ TEST_F(VoyCatalogControllerTest, IdThatTheStoreKnowsIsRefused) {
 TEST_F(VoyCatalogControllerTest, RenamingFollowsTheServer) {
     fill();
     EXPECT_EQ(catalog.RenameCategory("", "B"), -1);
+    EXPECT_EQ(catalog.RenameCategory("1", ""), -1);
     EXPECT_EQ(catalog.RenameCategory("1", "B"), -2);
     EXPECT_EQ(store.categories.at("1").cn, "A");
     host.Reply(4, "{eid:0}");
@@ -166,7 +167,9 @@ TEST_F(VoyCatalogControllerTest, CategoryGoesToTheBinBackAndAway) {
     EXPECT_EQ(store.categoryStates.at("1"), InUse);
     EXPECT_EQ(catalog.DestroyCategory("1"), 0);
     EXPECT_EQ(store.categoryStates.at("1"), Destroyed);
-    EXPECT_EQ(host.TextsOf(4).back(), R"({ci:"1",type:"3"})");
+    const Texts sent = host.TextsOf(4);
+    EXPECT_EQ(Texts(sent.end() - 3, sent.end()),
+              (Texts{R"({ci:"1",type:"1"})", R"({ci:"1",type:"2"})", R"({ci:"1",type:"3"})"}));
     EXPECT_EQ(store.categories.size(), 1U) << "nothing is erased before logout";
 }
 
@@ -186,7 +189,9 @@ TEST_F(VoyCatalogControllerTest, VoyageGoesToTheBinBackAndAway) {
     EXPECT_EQ(store.categoryVoyages["1"]["9"], InUse);
     EXPECT_EQ(catalog.DestroyVoyage("1", "9"), 0);
     EXPECT_EQ(store.categoryVoyages["1"]["9"], Destroyed);
-    EXPECT_EQ(host.TextsOf(5).back(), R"({vi:"9",type:"4"})");
+    const Texts sent = host.TextsOf(5);
+    EXPECT_EQ(Texts(sent.end() - 3, sent.end()),
+              (Texts{R"({vi:"9",type:"2"})", R"({vi:"9",type:"3"})", R"({vi:"9",type:"4"})"}));
 }
 
 TEST_F(VoyCatalogControllerTest, VesselWithoutIdButWithNameGoesThrough) {

@@ -184,6 +184,16 @@ TEST_F(VoyControllerTest, DiscardedChangesGiveWayToWhatWasSaved) {
     EXPECT_LT(voyages.DiscardPortCalls("x"), 0);
 }
 
+TEST_F(VoyControllerTest, DiscardedChangesLeaveACorrectedVoyageCorrected) {
+    replySchedule();
+    voyages.LoadSchedule("9", rows, -1);
+    voyage().modais = 2;
+    voyage().aisModTimes = {"2024-03-01 12:00:00"};
+    replySchedule();
+    EXPECT_EQ(voyages.DiscardPortCalls("9"), 0);
+    EXPECT_EQ(voyage().modais, 2);
+}
+
 TEST_F(VoyControllerTest, ClearingTheChartRemovesAllFiveTypes) {
     EXPECT_EQ(voyages.ClearChart(), 0);
     Texts types;
