@@ -33,6 +33,7 @@ class JsonWriter {
     JsonWriter& Close(char bracket);
     void Separate();
     void Quote(std::string_view text);
+    void Escape(std::string_view text);
 
     std::string text_;
     bool comma_ = false;

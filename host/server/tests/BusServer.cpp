@@ -13,7 +13,6 @@ namespace {
 
 namespace Bus = Interface::Bus;
 
-/// No test here asks for a route.
 class NoRoutes : public RouteSource {
   public:
     std::string Plan(std::string_view) override { return R"({"eid":1,"emsg":"no routes"})"; }
@@ -22,9 +21,10 @@ class NoRoutes : public RouteSource {
 
 }  // namespace
 
-BusServer::BusServer(const std::string& dbPath) {
+BusServer::BusServer(const std::string& dbPath, std::unique_ptr<RouteSource> routes) {
     std::string error;
-    server_ = EmbeddedServer::Open(dbPath, std::make_unique<NoRoutes>(), error, [this] { return now; });
+    if (routes == nullptr) routes = std::make_unique<NoRoutes>();
+    server_ = EmbeddedServer::Open(dbPath, std::move(routes), error, [this] { return now; });
     if (server_ == nullptr) throw std::runtime_error(error);
     Bind<&BusServer::OnExchange>(Bus::ServerExchange.name);
     Bind<&BusServer::OnConnected>(Bus::IsConnected.name);
@@ -53,6 +53,7 @@ void BusServer::Bind(const char* name) {
 void* BusServer::OnExchange(void* input) {
     const auto* request = static_cast<const Interface::VoyServerRequest*>(input);
     const std::string text = server_->Exchange(user, request);
+    if (watch) watch(*request, text);
     void* block = Core::AllocateBusBlock(sizeof(Interface::VoyServerRequest) + text.size() + 1);
     auto* reply = new (block) Interface::VoyServerRequest{static_cast<std::uint32_t>(text.size() + 1),
                                                           request->command, request->moduleWord};

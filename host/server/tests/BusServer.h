@@ -6,6 +6,7 @@
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -17,8 +18,9 @@ namespace Tarvik::Server {
 /// protocol asks of a host, from its making to its end.
 class BusServer : public Core::TObject {
   public:
-    /// A data base in memory unless a file is named; throws when it cannot be opened.
-    explicit BusServer(const std::string& dbPath = ":memory:");
+    /// A data base in memory unless a file is named; throws when it cannot be opened. Without `routes` every
+    /// request for one is refused.
+    explicit BusServer(const std::string& dbPath = ":memory:", std::unique_ptr<RouteSource> routes = nullptr);
     ~BusServer() override;
     BusServer(const BusServer&) = delete;
     BusServer& operator=(const BusServer&) = delete;
@@ -26,6 +28,8 @@ class BusServer : public Core::TObject {
     std::string user = "ann";
     std::string zone = "China Standard Time";
     std::int64_t now = 1772323200;  ///< seconds since 1970-01-01 00:00:00 UTC
+    /// Told of every exchange, when there is one to tell.
+    std::function<void(const Interface::VoyServerRequest& request, const std::string& reply)> watch;
 
   private:
     template <auto Method>

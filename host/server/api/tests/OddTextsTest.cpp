@@ -39,6 +39,53 @@ TEST_F(OddTextsTest, NamesThatMeanNothingToTheFormatAreStoredExactly) {
     }
 }
 
+TEST_F(OddTextsTest, EveryTextOfARequestIsStoredExactly) {
+    const World world = MakeWorld();
+    const std::string odd = "\xEF\xBC\x82\xE8\x88\xB9\xEF\xBC\x82 it's 100 %s; -- \xF0\x9F\x9A\xA2\x01";
+    const std::string written =
+        "\xEF\xBC\x82\xE8\x88\xB9\xEF\xBC\x82 it's 100 %s; -- \xF0\x9F\x9A\xA2\\u0001";
+    const struct {
+        int command;
+        std::string text;
+        int reading;
+        std::string question;
+        std::string member;
+    } cases[] = {
+        {4, R"({ci:")" + world.category + R"(",cn:")" + odd + R"(",type:"4"})", 3, R"({ui:"ann"})", "cn"},
+        {5, R"({vi:")" + world.voyage + R"(",vn:")" + odd + R"(",type:"1"})", 3, R"({ui:"ann"})", "vn"},
+        {5, R"({vi:")" + world.voyage + R"(",type:"5",vsi:")" + odd + R"(",vsn:"x",vsmsi:"1"})", 3,
+         R"({ui:"ann"})", "vsi"},
+        {5, R"({vi:")" + world.voyage + R"(",type:"5",vsi:"x",vsn:")" + odd + R"(",vsmsi:"1"})", 3,
+         R"({ui:"ann"})", "vsn"},
+        {11, R"([")" + world.voyage + R"(","0|)" + odd + R"(|x|L|1|0|0"])", 10,
+         R"({vi:")" + world.voyage + R"("})", "ppi"},
+        {11, R"([")" + world.voyage + R"(","0|x|)" + odd + R"(|L|1|0|0"])", 10,
+         R"({vi:")" + world.voyage + R"("})", "ppn"},
+        {9, R"([")" + world.book + R"(","0","0|)" + odd + R"(|1|2|GC|5|1|0"])", 7,
+         R"({vi:")" + world.voyage + R"("})", "psn"},
+        {9, R"([")" + world.book + R"(","0","0|x|1|2|)" + odd + R"(|5|1|0"])", 7,
+         R"({vi:")" + world.voyage + R"("})", "psr"},
+        {kRemark,
+         R"({optype:"1",type:"2",objectid:")" + world.category + R"(",seq:"8",subject:")" + odd +
+             R"(",body:""})",
+         kRemark, R"({optype:"4",type:"2",objectid:")" + world.category + R"("})", "sub"},
+        {kRemark,
+         R"({optype:"3",type:"2",objectid:")" + world.category + R"(",seq:"8",subject:"",body:")" + odd +
+             R"("})",
+         kRemark, R"({optype:"4",type:"2",objectid:")" + world.category + R"("})", "body"},
+        {kRemark,
+         R"({optype:"1",type:"4",objectid:")" + world.voyage + odd + R"(",seq:"1",subject:"s",body:"b"})",
+         kRemark, R"({optype:"4",type:"4",objectid:")" + world.voyage + odd + R"("})", ""},
+    };
+    for (const auto& [command, text, reading, question, member] : cases) {
+        EXPECT_EQ(Send(command, text), R"({"eid":0})") << text;
+        const std::string expected =
+            member.empty() ? R"("sub":"s")" : '"' + member + R"(":")" + written + '"';
+        EXPECT_NE(Send(reading, question).find(expected), std::string::npos)
+            << text << " reads as " << Send(reading, question);
+    }
+}
+
 TEST_F(OddTextsTest, EscapedNamesAreStoredAsWhatTheyMean) {
     EXPECT_EQ(Eid(Send(4, R"({ci:"",cn:"a \"b\" \\ \/ \u00e9 \ud83d\udea2 \n",type:0})")), 0);
     EXPECT_EQ(LoadedName(Send(3, R"({ui:"ann"})")), "a \"b\" \\ / \xC3\xA9 \xF0\x9F\x9A\xA2 \n");

@@ -12,9 +12,17 @@ namespace {
 
 constexpr int kBusyMilliseconds = 10000;
 
+/// The library counts every byte that it takes under one lock, for which the threads that read would wait.
+/// Without effect, and harmless, where somebody has used the library before.
+void StopCounting() {
+    static const int done = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    static_cast<void>(done);
+}
+
 }  // namespace
 
 SqliteDatabase::SqliteDatabase(const std::string& path) {
+    StopCounting();
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
     if (sqlite3_open_v2(path.c_str(), &handle_, flags, nullptr) == SQLITE_OK) {
         sqlite3_extended_result_codes(handle_, 1);

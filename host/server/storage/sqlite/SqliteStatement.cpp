@@ -37,6 +37,7 @@ void SqliteStatement::BindInteger(int place, std::int64_t number) {
 }
 
 bool SqliteStatement::Step() {
+    used_ = true;
     const int result = sqlite3_step(handle_);
     if (result == SQLITE_ROW) return true;
     if (result != SQLITE_DONE) database_.Throw("the data base failed");

@@ -23,7 +23,8 @@ class SqliteStatement {
     /// Binds all values in their order, after a reset.
     template <class... Values>
     SqliteStatement& Bind(const Values&... values) {
-        Reset();
+        if (used_) Reset();
+        used_ = true;
         int place = 0;
         (BindOne(++place, values), ...);
         return *this;
@@ -51,6 +52,7 @@ class SqliteStatement {
     SqliteDatabase& database_;
     std::string_view sql_;
     sqlite3_stmt* handle_;
+    bool used_ = false;  ///< whether values or rows of an earlier run may be left
 };
 
 }  // namespace Tarvik::Server

@@ -4,7 +4,11 @@
 namespace Tarvik::Server {
 
 SqliteStorage::SqliteStorage(const std::string& path, const SqliteOptions& options)
-    : session_(path, options), catalog_(session_), schedule_(session_), remarks_(session_) {}
+    : session_(path, options),
+      catalog_(session_),
+      schedule_(session_),
+      remarks_(session_),
+      transfer_(session_) {}
 
 std::unique_ptr<SqliteStorage> SqliteStorage::Open(const std::string& path, std::string& error,
                                                    const SqliteOptions& options) {

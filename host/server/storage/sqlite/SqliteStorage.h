@@ -6,6 +6,7 @@
 #include "host/server/storage/sqlite/SqliteRemarks.h"
 #include "host/server/storage/sqlite/SqliteSchedule.h"
 #include "host/server/storage/sqlite/SqliteSession.h"
+#include "host/server/storage/sqlite/SqliteTransfer.h"
 
 #include <memory>
 #include <string>
@@ -24,6 +25,8 @@ class SqliteStorage : public Storage {
     CatalogStorage& Catalog() override { return catalog_; }
     ScheduleStorage& Schedule() override { return schedule_; }
     RemarkStorage& Remarks() override { return remarks_; }
+    /// Takes owners out and puts them in, as export and import do.
+    TransferStorage& Transfer() { return transfer_; }
 
   private:
     SqliteStorage(const std::string& path, const SqliteOptions& options);
@@ -32,6 +35,7 @@ class SqliteStorage : public Storage {
     SqliteCatalog catalog_;
     SqliteSchedule schedule_;
     SqliteRemarks remarks_;
+    SqliteTransfer transfer_;
 };
 
 }  // namespace Tarvik::Server

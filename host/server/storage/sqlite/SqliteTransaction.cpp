@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/SqliteTransaction.h"
 
+#include "host/server/storage/sqlite/SqliteStatement.h"
+
 #include <sqlite3.h>
 
 namespace Tarvik::Server {
 
 SqliteTransaction::SqliteTransaction(SqliteDatabase& database, Mode mode) : database_(database) {
-    database_.Execute(mode == Mode::Write ? "BEGIN IMMEDIATE" : "BEGIN DEFERRED");
+    // Prepared and kept like every other statement, so that a small read does not parse these texts anew.
+    SqliteStatement(database_, mode == Mode::Write ? "BEGIN IMMEDIATE" : "BEGIN DEFERRED").Run();
 }
 
 SqliteTransaction::~SqliteTransaction() {
@@ -15,7 +18,7 @@ SqliteTransaction::~SqliteTransaction() {
 }
 
 void SqliteTransaction::Commit() {
-    database_.Execute("COMMIT");
+    SqliteStatement(database_, "COMMIT").Run();
 }
 
 }  // namespace Tarvik::Server

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/storage/contract/Outcome.h"
+#include "host/server/storage/contract/Records.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Server {
+
+/// One voyage with everything that hangs on it. The derived fields of `voyage` are ignored when it is added.
+struct VoyageCopy {
+    VoyageRecord voyage;
+    std::vector<PortCallRecord> calls;  ///< in the order of their numbers
+    std::optional<BookRecord> book;     ///< rows in the order of their numbers
+    std::vector<std::string> aisTimes;  ///< in the order of their addition
+};
+
+/// One category with its voyages.
+struct CategoryCopy {
+    std::string id;
+    std::string name;
+    DeletionState state = DeletionState::InUse;
+    std::vector<VoyageCopy> voyages;
+};
+
+/// One remark and what it is attached to.
+struct RemarkCopy {
+    RemarkObject object;
+    RemarkRecord remark;
+};
+
+/// Everything of one owner that is not destroyed, in the order of creation.
+struct OwnerCopy {
+    std::string owner;
+    std::vector<CategoryCopy> categories;
+    std::vector<RemarkCopy> remarks;
+};
+
+/// What is about to be added.
+struct CopyManifest {
+    std::vector<std::string> owners;
+    std::int64_t lowestId = 0;   ///< of all categories, voyages and books; 0 when there are none
+    std::int64_t highestId = 0;  ///< the same
+    bool besideOthers = false;   ///< whether an owner may have records already
+};
+
+/// How adding ended that did not fail.
+struct AddReport {
+    bool idsKept = false;
+    std::string occupied;  ///< an owner who has records already and may not: nothing was added
+};
+
+/// Hands out one owner after the other, nothing behind the last. A fault ends the adding with it.
+using OwnerSource = std::function<Outcome<std::optional<OwnerCopy>>()>;
+
+/// Takes owners out of a storage whole and puts them in whole. As with the other operations, each is one
+/// transaction, none throws.
+class TransferStorage {
+  public:
+    virtual ~TransferStorage() = default;
+
+    /// Every owner of a category that is not destroyed, in the order of their bytes.
+    virtual Outcome<std::vector<std::string>> ListOwners() = 0;
+    /// What the owner had at one moment.
+    virtual Outcome<OwnerCopy> ReadOwner(const std::string& owner) = 0;
+    /// Adds all that the source hands out, or nothing. Ids stay as they are when all of them are beyond
+    /// those given out here; else every record gets a new one, and remarks follow their objects.
+    virtual Outcome<AddReport> AddOwners(const CopyManifest& manifest, const OwnerSource& source) = 0;
+};
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/storage/postgres/PostgresConnection.h"
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Server {
+
+/// The connections of one process to one data base. Safe to call from any thread.
+class PostgresPool {
+  public:
+    /// At most `most` connections, at least one; who needs another waits for one.
+    PostgresPool(std::string connectionText, int most);
+
+    /// A connection in a transaction of this mode. One that broke while it was idle is replaced, together
+    /// with all idle ones, since what broke it has mostly broken them too. Throws PostgresError when no
+    /// connection can be made.
+    std::unique_ptr<PostgresConnection> Take(PostgresConnection::Mode mode);
+    /// Takes a connection back, wherever it stands: undoes what was not committed and ends it when it is
+    /// broken.
+    void GiveBack(std::unique_ptr<PostgresConnection> connection) noexcept;
+
+  private:
+    std::unique_ptr<PostgresConnection> takeIdle();
+    std::unique_ptr<PostgresConnection> begin(PostgresConnection::Mode mode);
+    void dropIdle() noexcept;
+
+    std::string connectionText_;
+    std::mutex mutex_;
+    std::condition_variable freed_;
+    int free_;  ///< connections that may still be taken
+    std::vector<std::unique_ptr<PostgresConnection>> idle_;
+};
+
+/// A connection in a transaction for a scope; what was not committed at its end is undone.
+class PostgresLease {
+  public:
+    PostgresLease(PostgresPool& pool, PostgresConnection::Mode mode)
+        : pool_(pool), connection_(pool.Take(mode)) {}
+    ~PostgresLease() { pool_.GiveBack(std::move(connection_)); }
+    PostgresLease(const PostgresLease&) = delete;
+    PostgresLease& operator=(const PostgresLease&) = delete;
+    PostgresConnection& operator*() { return *connection_; }
+
+  private:
+    PostgresPool& pool_;
+    std::unique_ptr<PostgresConnection> connection_;
+};
+
+}  // namespace Tarvik::Server

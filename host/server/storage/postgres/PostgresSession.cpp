@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/storage/postgres/PostgresSession.h"
+
+#include "host/server/storage/postgres/PostgresMigrator.h"
+
+namespace Tarvik::Server {
+
+PostgresSession::PostgresSession(const std::string& connectionText, const PostgresOptions& options)
+    : pool_(connectionText, options.connections) {
+    PostgresLease lease(pool_, PostgresConnection::Mode::Write);
+    MigratePostgres(*lease);
+    (*lease).Commit();
+}
+
+}  // namespace Tarvik::Server

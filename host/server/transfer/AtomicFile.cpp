@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/transfer/AtomicFile.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+namespace Tarvik::Server {
+namespace {
+
+constexpr std::size_t kBufferBytes = 256U * 1024U;
+
+/// Brings the name of a file to disk as well.
+int SyncFolder(const std::string& folder) {
+    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return errno;
+    const int failure = ::fsync(handle) == 0 ? 0 : errno;
+    ::close(handle);
+    return failure;
+}
+
+std::string FolderOf(const std::string& path) {
+    const std::string folder = std::filesystem::path(path).parent_path().string();
+    return folder.empty() ? "." : folder;
+}
+
+}  // namespace
+
+AtomicFile::~AtomicFile() {
+    if (file_ >= 0) ::close(file_);
+    if (!draft_.empty()) ::unlink(draft_.c_str());
+}
+
+bool AtomicFile::Open(std::string& error) {
+    std::string pattern = path_ + ".XXXXXX";
+    file_ = ::mkostemp(pattern.data(), O_CLOEXEC);
+    if (file_ < 0) {
+        failure_ = errno;
+        return fail(error);
+    }
+    draft_ = pattern;
+    return true;
+}
+
+void AtomicFile::Write(std::string_view bytes) {
+    buffer_ += bytes;
+    if (buffer_.size() >= kBufferBytes) flush();
+}
+
+bool AtomicFile::Commit(std::string& error) {
+    flush();
+    if (failure_ == 0 && ::fsync(file_) != 0) failure_ = errno;
+    if (::close(file_) != 0 && failure_ == 0) failure_ = errno;
+    file_ = -1;
+    if (failure_ == 0 && std::rename(draft_.c_str(), path_.c_str()) != 0) failure_ = errno;
+    if (failure_ != 0) return fail(error);
+    draft_.clear();
+    failure_ = SyncFolder(FolderOf(path_));
+    return failure_ == 0 || fail(error);
+}
+
+void AtomicFile::flush() {
+    if (failure_ == 0) writeAll(buffer_);
+    buffer_.clear();
+}
+
+void AtomicFile::writeAll(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(file_, bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) {
+            failure_ = errno;
+            return;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+}
+
+bool AtomicFile::fail(std::string& error) const {
+    error = "cannot write " + path_ + ": " + std::generic_category().message(failure_);
+    return false;
+}
+
+}  // namespace Tarvik::Server

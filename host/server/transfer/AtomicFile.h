@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Tarvik::Server {
+
+/// A file that is there whole or not at all: written beside its place, for its owner's eyes only, and moved
+/// into it when it is complete and on disk. What stood there before stays until then.
+class AtomicFile {
+  public:
+    explicit AtomicFile(std::string path) : path_(std::move(path)) {}
+    /// Removes what was not committed.
+    ~AtomicFile();
+    AtomicFile(const AtomicFile&) = delete;
+    AtomicFile& operator=(const AtomicFile&) = delete;
+
+    /// False, with an English text in `error`, when the folder takes no file.
+    bool Open(std::string& error);
+    /// A failure is kept and told by Commit.
+    void Write(std::string_view bytes);
+    bool Commit(std::string& error);
+
+  private:
+    void flush();
+    void writeAll(std::string_view bytes);
+    bool fail(std::string& error) const;
+
+    std::string path_;
+    std::string draft_;  ///< its name until it is committed; empty when there is none
+    int file_ = -1;
+    int failure_ = 0;  ///< errno of the first failure
+    std::string buffer_;
+};
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/storage/contract/CopyIds.h"
+#include "host/server/transfer/TransferFile.h"
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <tuple>
+#include <unordered_set>
+
+namespace Tarvik::Server {
+
+/// Whether the records of a file are such as the commands of the protocol could have stored. Operations give
+/// the reason why not, one line; empty when all is well.
+class CopyCheck {
+  public:
+    std::string User(const UserCopy& user);
+    std::string Category(const CategoryCopy& category);
+    std::string Voyage(const VoyageCopy& copy);
+    std::string Remark(const RemarkCopy& copy);
+
+    /// The ids that were seen; 0 when there was none.
+    std::int64_t LowestId() const { return lowestId_; }
+    std::int64_t HighestId() const { return highestId_; }
+
+  private:
+    /// Notes an id; false when it is none or was seen before.
+    bool takeId(const std::string& id);
+
+    std::unordered_set<std::string> users_;
+    std::unordered_set<std::string> seen_;
+    std::int64_t lowestId_ = 0;
+    std::int64_t highestId_ = 0;
+    CopyIds known_;                                        ///< of the present user
+    std::set<std::tuple<int, std::string, int>> remarks_;  ///< of the present user
+};
+
+}  // namespace Tarvik::Server

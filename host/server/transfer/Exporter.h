@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/api/RemarkCommands.h"
+#include "host/server/net/users/AccountStorage.h"
+#include "host/server/storage/contract/TransferStorage.h"
+#include "host/server/transfer/TransferFile.h"
+#include "host/server/transfer/TransferWriter.h"
+
+#include <string>
+#include <vector>
+
+namespace Tarvik::Server {
+
+/// Which users go out.
+struct ExportChoice {
+    std::string user;  ///< one by name; empty: the only one there is
+    bool all = false;  ///< all, with their accounts
+};
+
+/// Writes users into a file.
+class Exporter {
+  public:
+    /// `accounts` is null where users have none, as in a client.
+    Exporter(TransferStorage& records, AccountStorage* accounts, ServerClock clock)
+        : records_(records), accounts_(accounts), clock_(std::move(clock)) {}
+
+    /// Makes the file, or puts it in the place of one. False, with an English text in `error` and no file
+    /// changed, when that fails.
+    bool Run(const ExportChoice& choice, const std::string& path, TransferContent& content,
+             std::string& error);
+
+  private:
+    bool chooseUsers(const ExportChoice& choice, std::vector<UserCopy>& users, std::string& error);
+    bool addAccounts(std::vector<UserCopy>& users, std::string& error);
+    bool writeUsers(const std::vector<UserCopy>& users, TransferWriter& writer, TransferContent& content,
+                    std::string& error);
+
+    TransferStorage& records_;
+    AccountStorage* accounts_;
+    ServerClock clock_;
+};
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/net/users/AccountStorage.h"
+#include "host/server/storage/contract/TransferStorage.h"
+#include "host/server/transfer/TransferReader.h"
+
+#include <functional>
+#include <string>
+
+namespace Tarvik::Server {
+
+/// How a file is read in.
+struct ImportChoice {
+    std::string user;  ///< who gets the records of a file of one user; empty: the user whom the file names
+    bool add = false;  ///< whether users may have records already
+};
+
+/// Whether a text can be a user's name.
+using UserNameRule = std::function<bool(const std::string&)>;
+
+/// Reads the users of a file in: all of them wholly, or nobody.
+class Importer {
+  public:
+    /// `accounts` is null where users have none, as in a client; accounts of the file are then left out.
+    Importer(TransferStorage& records, AccountStorage* accounts, UserNameRule isUserName)
+        : records_(records), accounts_(accounts), isUserName_(std::move(isUserName)) {}
+
+    /// Every user must have an account here, unless the file brings one; an account that is here stays as it
+    /// is. False, with an English text in `error`, when nothing was read in. `done` says what was.
+    bool Run(const ImportChoice& choice, TransferReader& reader, std::string& done, std::string& error);
+
+  private:
+    bool rename(const ImportChoice& choice, TransferContent& content, std::string& error) const;
+    bool checkFree(const ImportChoice& choice, const TransferContent& content, std::string& error);
+    bool checkAccounts(const TransferContent& content, std::vector<TransferContent::User>& missing,
+                       std::string& error);
+    bool addAccount(const TransferContent::User& user, std::string& error);
+    bool addRecords(const ImportChoice& choice, const TransferContent& content, TransferReader& reader,
+                    bool& idsKept, std::string& error);
+
+    TransferStorage& records_;
+    AccountStorage* accounts_;
+    UserNameRule isUserName_;
+};
+
+}  // namespace Tarvik::Server

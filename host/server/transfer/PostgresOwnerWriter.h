@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/storage/contract/CopyIds.h"
+#include "host/server/storage/contract/TransferStorage.h"
+#include "host/server/storage/postgres/PostgresConnection.h"
+
+#include <string>
+
+namespace Tarvik::Server {
+
+/// Writes whole owners inside a writing transaction, which must be undone when one fails.
+class PostgresOwnerWriter {
+  public:
+    /// `keepIds`: the records keep their ids, none of which may be taken.
+    PostgresOwnerWriter(PostgresConnection& connection, bool keepIds)
+        : connection_(connection), keepIds_(keepIds) {}
+
+    Status Write(const OwnerCopy& copy);
+
+  private:
+    /// The id that a record gets.
+    std::string newId(const std::string& before);
+    void writeVoyage(const VoyageRecord& voyage, const std::string& categoryId, const std::string& id);
+    Status writeSchedule(const VoyageCopy& copy, const std::string& voyageId);
+    void writeRemark(const RemarkCopy& copy);
+
+    PostgresConnection& connection_;
+    bool keepIds_;
+    std::string owner_;
+    CopyIds ids_;
+};
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/storage/contract/TransferStorage.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Tarvik::Server {
+
+/// The form of a file of exported users: UTF-8, one JSON object a line.
+///
+///   {"format":"seaplan-users","version":1,"made":"2026-11-21T10:00:00Z"}
+///   {"user":"anna","password":"$argon2id$…","disabled":false}
+///   {"category":"1000001","name":"2026","state":0}
+///   {"voyage":"1000002","name":"North","vessel":["","",0],"route":false,"ais":false,
+///    "figures":[0,0,0,0,0,0,0],"state":0,"times":[…],"calls":[[…],…],"book":{…}}      (one line)
+///   {"remark":[3,"1000002",1],"subject":"…","body":"…","created":1772323200,"updated":1772323200}
+///   {"end":5,"sha256":"…"}
+///
+/// A user's categories come behind the user, voyages behind their category, remarks behind both. "password"
+/// and "disabled" stand there only when accounts were exported. A state is 0 in use or 1 in the bin. A call
+/// is number, port id, port name, purpose, km/h, weather factor, hours in port; a book's row is number, name,
+/// longitude, latitude, sailing, spacing, km/h, kind. The last line tells the count of the lines before it
+/// and the checksum of their bytes, line ends included.
+inline constexpr const char* kTransferFormat = "seaplan-users";
+inline constexpr int kTransferVersion = 1;
+
+/// The user whom everything in a client's own data base belongs to.
+inline constexpr const char* kClientUser = "local";
+
+/// The account of an exported user.
+struct AccountCopy {
+    std::string passwordHash;
+    bool disabled = false;
+};
+
+/// One user of a file.
+struct UserCopy {
+    std::optional<AccountCopy> account;
+    OwnerCopy records;
+};
+
+/// What a file holds, known when it was read whole.
+struct TransferContent {
+    struct User {
+        std::string name;
+        std::optional<AccountCopy> account;
+    };
+    std::vector<User> users;
+    std::int64_t lowestId = 0;   ///< of all categories, voyages and books; 0 when there are none
+    std::int64_t highestId = 0;  ///< the same
+    std::size_t categories = 0;
+    std::size_t voyages = 0;
+    std::size_t remarks = 0;
+};
+
+/// "2 users, 5 categories, 40 voyages, 3 remarks"
+std::string Summary(const TransferContent& content);
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/transfer/Checksum.h"
+#include "host/server/transfer/CopyCheck.h"
+#include "host/server/transfer/TransferFile.h"
+
+#include <fstream>
+#include <memory>
+#include <nlohmann/json_fwd.hpp>
+#include <optional>
+#include <string>
+
+namespace Tarvik::Server {
+
+/// Reads a file of exported users. A file that is cut short, altered, of another form or version, or that
+/// holds what no server stores is refused.
+class TransferReader {
+  public:
+    /// Null, with an English text in `error`, when the file cannot be read.
+    static std::unique_ptr<TransferReader> Open(const std::string& path, std::string& error);
+
+    /// Reads the whole file once and checks all of it.
+    bool ReadContent(TransferContent& content, std::string& error);
+    /// Begins anew.
+    void Rewind();
+    /// Gives the next user, or nothing behind the last, when the end was found to be right.
+    bool Next(std::optional<UserCopy>& user, std::string& error);
+
+  private:
+    /// What was read since the beginning.
+    struct Progress {
+        std::size_t lines = 0;
+        Checksum checksum;
+        CopyCheck check;
+        std::optional<UserCopy> open;  ///< the user whose lines are being read
+        bool ended = false;
+    };
+
+    explicit TransferReader(const std::string& path);
+    bool readLine(std::string& line, std::string& error);
+    /// Takes a line; the user that it ends goes into `done`. Gives why not, empty when all is well.
+    std::string take(const std::string& line, std::optional<UserCopy>& done);
+    std::string takeRecord(const std::string& kind, const nlohmann::ordered_json& object);
+    std::string takeHead(const nlohmann::ordered_json& object) const;
+    std::string takeEnd(const nlohmann::ordered_json& object);
+
+    std::string path_;
+    std::ifstream in_;
+    std::unique_ptr<Progress> progress_;
+};
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/transfer/TransferWriter.h"
+
+#include "host/server/transfer/CopyJson.h"
+
+#include <array>
+#include <ctime>
+#include <nlohmann/json.hpp>
+#include <utility>
+
+namespace Tarvik::Server {
+namespace {
+
+std::string UtcText(std::int64_t seconds) {
+    const std::time_t time = seconds;
+    std::tm parts{};
+    gmtime_r(&time, &parts);
+    std::array<char, 64> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &parts)};
+}
+
+}  // namespace
+
+TransferWriter::TransferWriter(Sink sink, std::int64_t made) : sink_(std::move(sink)) {
+    const nlohmann::ordered_json head = {
+        {"format", kTransferFormat}, {"version", kTransferVersion}, {"made", UtcText(made)}};
+    write(head.dump());
+}
+
+void TransferWriter::User(const UserCopy& user) {
+    write(CopyJson::UserLine(user));
+    for (const CategoryCopy& category : user.records.categories) {
+        write(CopyJson::CategoryLine(category));
+        for (const VoyageCopy& voyage : category.voyages) write(CopyJson::VoyageLine(voyage));
+    }
+    for (const RemarkCopy& remark : user.records.remarks) write(CopyJson::RemarkLine(remark));
+}
+
+void TransferWriter::End() {
+    const nlohmann::ordered_json end = {{"end", lines_}, {"sha256", checksum_.Finish()}};
+    sink_(end.dump() + "\n");
+}
+
+void TransferWriter::write(const std::string& line) {
+    const std::string whole = line + "\n";
+    checksum_.Add(whole);
+    sink_(whole);
+    ++lines_;
+}
+
+}  // namespace Tarvik::Server
