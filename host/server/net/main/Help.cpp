@@ -17,6 +17,12 @@ commands:
   user disable NAME   ends the user's sessions and lets the user log in no more
   user enable NAME    lets a disabled user log in again
   user list           prints every user, one a line, with "enabled" or "disabled"
+  export [--user NAME | --all] FILE
+                      writes one user's voyages, or all users with their accounts, into a file
+  import [--user NAME] [--add] FILE
+                      reads such a file, wholly or not at all; --user gives the one user's voyages to NAME,
+                      --add puts them beside those that are there
+                      both take --data FOLDER, as of a client, instead of the settings' data
   --help              prints this
   --version           prints the version
 

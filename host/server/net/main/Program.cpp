@@ -2,6 +2,7 @@
 #include "host/server/net/main/Program.h"
 
 #include "host/server/net/main/Help.h"
+#include "host/server/net/main/TransferRun.h"
 #include "host/server/net/routes/OpenRoutes.h"
 #include "host/server/net/service/VoyageServer.h"
 
@@ -58,6 +59,13 @@ int AdministerUsers(const std::vector<std::string>& words, const Settings& setti
     return UserAdmin(*accounts, passwords, parts.passwords, parts.out, parts.err).Run(words);
 }
 
+int Transfer(const TransferCommand& command, const Settings& settings, const ProgramParts& parts) {
+    std::string said;
+    if (!RunTransfer(command, settings, said)) return Say(parts, kFailed, said);
+    parts.out << said << "\n";
+    return 0;
+}
+
 }  // namespace
 
 int RunProgram(const std::vector<std::string>& words, const ProgramParts& parts) {
@@ -70,14 +78,16 @@ int RunProgram(const std::vector<std::string>& words, const ProgramParts& parts)
     std::string file;
     if (!TakeSettingsFile(command, file)) return Say(parts, kWrong, "--settings needs the name of a file");
     const bool serve = command == std::vector<std::string>{"serve"};
+    const auto transfer = TransferCommand::Parse(command);
     const bool user = !command.empty() && command[0] == "user";
     if (user) command.erase(command.begin());
-    if (!serve && !(user && UserAdmin::IsCommand(command))) {
+    if (!serve && !transfer && !(user && UserAdmin::IsCommand(command))) {
         return Say(parts, kWrong, "there is no such command; seaplan-server --help tells all");
     }
     Settings settings;
     std::string error;
     if (!ReadSettings(file, parts.environment, settings, error)) return Say(parts, kWrong, error);
+    if (transfer) return Transfer(*transfer, settings, parts);
     return serve ? Serve(settings, parts) : AdministerUsers(command, settings, parts);
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/service/VoyageServer.h"
 
-#include <filesystem>
 #include <utility>
 
 namespace Tarvik::Server {
@@ -38,25 +37,8 @@ ServerLog MakeLog(ServerLog::Sink sink) {
 
 }  // namespace
 
-bool PrepareDataFolder(const Settings& settings, std::string& error) {
-    namespace fs = std::filesystem;
-    std::error_code failed;
-    const bool made = fs::create_directories(settings.data, failed);
-    if (made) fs::permissions(settings.data, fs::perms::owner_all, failed);
-    if (failed) error = "the data folder " + settings.data + " cannot be made: " + failed.message();
-    return !failed;
-}
-
-std::unique_ptr<SqliteAccounts> OpenAccounts(const Settings& settings, std::string& error) {
-    const std::string path = settings.data + "/accounts.db";
-    std::string reason;
-    auto accounts = SqliteAccounts::Open(path, reason);
-    if (accounts == nullptr) error = "the accounts " + path + " cannot be used: " + reason;
-    return accounts;
-}
-
-VoyageServer::VoyageServer(const Settings& settings, ServerParts parts,
-                           std::unique_ptr<SqliteStorage> storage, std::unique_ptr<SqliteAccounts> accounts)
+VoyageServer::VoyageServer(const Settings& settings, ServerParts parts, std::unique_ptr<Storage> storage,
+                           std::unique_ptr<AccountStorage> accounts)
     : settings_(settings),
       log_(MakeLog(std::move(parts.logSink))),
       routes_(std::move(parts.routes)),
@@ -80,13 +62,8 @@ std::unique_ptr<VoyageServer> VoyageServer::Open(const Settings& settings, Serve
     if (!PrepareDataFolder(settings, error)) return nullptr;
     auto accounts = OpenAccounts(settings, error);
     if (accounts == nullptr) return nullptr;
-    const std::string path = settings.data + "/voyages.db";
-    std::string reason;
-    auto storage = SqliteStorage::Open(path, reason);
-    if (storage == nullptr) {
-        error = "the voyages " + path + " cannot be used: " + reason;
-        return nullptr;
-    }
+    auto storage = OpenVoyages(settings, error);
+    if (storage == nullptr) return nullptr;
     std::unique_ptr<VoyageServer> server(
         new VoyageServer(settings, std::move(parts), std::move(storage), std::move(accounts)));
     const TlsFiles tls{settings.tlsCertificate, settings.tlsKey};
@@ -99,7 +76,7 @@ void VoyageServer::Run() {
                {{"address", settings_.address},
                 {"port", std::to_string(Port())},
                 {"tls", settings_.tlsCertificate.empty() ? "no" : "yes"},
-                {"data", settings_.data}});
+                {"data", DescribeData(settings_)}});
     http_.Run();
     log_.Write(LogLevel::Info, "stopped");
 }

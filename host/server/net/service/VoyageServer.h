@@ -2,10 +2,9 @@
 #pragma once
 
 #include "host/server/net/http/HttpServer.h"
+#include "host/server/net/service/Databases.h"
 #include "host/server/net/service/ServerFront.h"
 #include "host/server/net/settings/Settings.h"
-#include "host/server/net/users/SqliteAccounts.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
 
 #include <memory>
 #include <string>
@@ -19,12 +18,6 @@ struct ServerParts {
     PasswordCost passwordCost;
     ServerLog::Sink logSink;  ///< empty: standard error
 };
-
-/// Makes the folder of the data bases, for its owner only, if it is not there. False with a text in `error`.
-bool PrepareDataFolder(const Settings& settings, std::string& error);
-
-/// The users of a data folder. Null with an English text in `error`.
-std::unique_ptr<SqliteAccounts> OpenAccounts(const Settings& settings, std::string& error);
 
 /// The whole server: data bases, voyage service, sessions, HTTP.
 class VoyageServer {
@@ -46,16 +39,16 @@ class VoyageServer {
     void Stop() { http_.Stop(); }
 
   private:
-    VoyageServer(const Settings& settings, ServerParts parts, std::unique_ptr<SqliteStorage> storage,
-                 std::unique_ptr<SqliteAccounts> accounts);
+    VoyageServer(const Settings& settings, ServerParts parts, std::unique_ptr<Storage> storage,
+                 std::unique_ptr<AccountStorage> accounts);
     bool healthy();
 
     Settings settings_;
     ServerLog log_;
     Metrics metrics_;
     std::unique_ptr<RouteSource> routes_;
-    std::unique_ptr<SqliteStorage> storage_;
-    std::unique_ptr<SqliteAccounts> accounts_;
+    std::unique_ptr<Storage> storage_;
+    std::unique_ptr<AccountStorage> accounts_;
     VoyageService service_;
     Passwords passwords_;
     Sessions sessions_;

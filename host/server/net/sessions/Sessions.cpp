@@ -68,11 +68,19 @@ Login Sessions::open(UserRecord user, const std::string& password) {
 
 Outcome<std::optional<std::string>> Sessions::UserOf(const std::string& token) {
     if (token.empty()) return std::optional<std::string>();
-    return accounts_.FindSession(HashToken(token), clock_());
+    const std::string hash = HashToken(token);
+    const std::int64_t now = clock_();
+    if (auto user = memory_.UserOf(hash, now)) return user;
+    const std::uint64_t generation = memory_.Generation();
+    auto found = accounts_.FindSession(hash, now);
+    if (found && found.Value()) memory_.Keep(hash, *found.Value(), now, generation);
+    return found;
 }
 
 Status Sessions::Close(const std::string& token) {
-    return accounts_.RemoveSession(HashToken(token));
+    Status removed = accounts_.RemoveSession(HashToken(token));
+    memory_.Forget();
+    return removed;
 }
 
 }  // namespace Tarvik::Server

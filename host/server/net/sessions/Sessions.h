@@ -4,6 +4,7 @@
 #include "host/server/api/RemarkCommands.h"
 #include "host/server/net/sessions/LoginGuard.h"
 #include "host/server/net/sessions/Passwords.h"
+#include "host/server/net/sessions/SessionMemory.h"
 #include "host/server/net/users/AccountStorage.h"
 
 #include <cstdint>
@@ -32,7 +33,8 @@ class Sessions {
 
     /// Opens a session. Unknown user, wrong password and disabled user are one result.
     Login Open(const std::string& user, const std::string& password, const std::string& address);
-    /// The user of a token; nothing for one that is unknown or over.
+    /// The user of a token; nothing for one that is unknown or over. A session that another process has ended
+    /// may be taken for open until the second is over.
     Outcome<std::optional<std::string>> UserOf(const std::string& token);
     /// Ends the session of a token.
     Status Close(const std::string& token);
@@ -45,6 +47,7 @@ class Sessions {
     LoginGuard guard_;
     std::int64_t life_;
     ServerClock clock_;
+    SessionMemory memory_;
 };
 
 }  // namespace Tarvik::Server

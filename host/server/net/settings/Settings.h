@@ -9,6 +9,7 @@ namespace Tarvik::Server {
 /// Everything that an operator sets. The texts of the keys stand in SettingsTable.cpp.
 struct Settings {
     std::string data = "/var/lib/seaplan-server";
+    std::string database;  ///< connection text of PostgreSQL, with a secret; empty: files in `data`
     std::string network;
     std::string address = "127.0.0.1";
     std::uint16_t port = 8470;

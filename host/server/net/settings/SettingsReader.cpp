@@ -22,12 +22,20 @@ std::string_view Trim(std::string_view text) {
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
+bool IsKey(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char sign) {
+        return (sign >= 'a' && sign <= 'z') || (sign >= 'A' && sign <= 'Z') || (sign >= '0' && sign <= '9') ||
+               sign == '_' || sign == '-';
+    });
+}
+
 /// Gives what is wrong, or an empty text.
 std::string SetKey(std::string_view key, std::string_view value, Settings& settings) {
     for (const SettingsEntry& entry : SettingsTable()) {
         if (entry.key != key) continue;
         const std::string complaint = entry.set(settings, value);
         if (complaint.empty()) return {};
+        if (entry.secret) return std::string(key) + " " + complaint;
         return std::string(key) + " " + complaint + ", and \"" + std::string(value) + "\" is not";
     }
     return "there is no setting \"" + std::string(key) + "\"";
@@ -35,8 +43,11 @@ std::string SetKey(std::string_view key, std::string_view value, Settings& setti
 
 std::string SetLine(std::string_view line, std::set<std::string>& seen, Settings& settings) {
     const std::size_t equals = line.find('=');
-    if (equals == std::string_view::npos) return "a line must be of the form \"key = value\"";
     const std::string key(Trim(line.substr(0, equals)));
+    // What is no key is not cited either: it may be a value with a password, for want of an earlier "=".
+    if (equals == std::string_view::npos || !IsKey(key)) {
+        return "a line must be of the form \"key = value\"";
+    }
     if (!seen.insert(key).second) return key + " is set twice";
     return SetKey(key, Trim(line.substr(equals + 1)), settings);
 }

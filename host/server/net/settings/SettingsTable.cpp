@@ -2,6 +2,7 @@
 #include "host/server/net/settings/SettingsTable.h"
 
 #include "host/server/api/Numbers.h"
+#include "host/server/storage/postgres/ConnectionText.h"
 
 #include <arpa/inet.h>
 
@@ -57,9 +58,23 @@ SettingsEntry Address() {
     return entry;
 }
 
+SettingsEntry Database() {
+    SettingsEntry entry = Text("database", &Settings::database,
+                               "PostgreSQL data base instead of files in data: key=value pairs or a "
+                               "postgresql:// address");
+    const auto keep = entry.set;
+    entry.set = [keep](Settings& settings, std::string_view text) {
+        const std::string complaint = ComplaintAboutConnection(std::string(text));
+        return complaint.empty() ? keep(settings, text) : complaint;
+    };
+    entry.secret = true;
+    return entry;
+}
+
 std::vector<SettingsEntry> MakeTable() {
     return {
         Text("data", &Settings::data, "folder of the data bases; made when it is not there"),
+        Database(),
         Text("network", &Settings::network, "file of the sea network; empty: routes are refused"),
         Address(),
         Whole<std::uint16_t>("port", &Settings::port, 0, 65535, "TCP port; 0 for any free one"),

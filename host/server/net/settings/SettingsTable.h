@@ -17,6 +17,7 @@ struct SettingsEntry {
     /// Sets the value; gives what it must be when the text is none, else an empty text.
     std::function<std::string(Settings&, std::string_view)> set;
     std::function<std::string(const Settings&)> print;
+    bool secret = false;  ///< whether the value must not be shown
 };
 
 /// All keys in the order of the documentation.

@@ -94,6 +94,7 @@ TEST(Login, ChangedPasswordAndDisablingEndSessions) {
     const std::string second = server.Token("anna", "another horse");
     EXPECT_EQ(ExchangeStatus(server, second), 200);
     ASSERT_TRUE(server.Server().Accounts().SetDisabled("anna", true).Value());
+    server.AdvanceSeconds(1);
     EXPECT_EQ(ExchangeStatus(server, second), 401);
 }
 

@@ -3,6 +3,7 @@
 #include "host/server/net/main/Program.h"
 #include "host/server/net/service/VoyageServer.h"
 #include "host/server/net/settings/SettingsTable.h"
+#include "host/server/net/users/SqliteAccounts.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/net/service/Databases.h"
+
+#include "host/server/net/users/PostgresAccounts.h"
+#include "host/server/net/users/SqliteAccounts.h"
+#include "host/server/storage/postgres/ConnectionText.h"
+#include "host/server/storage/postgres/PostgresStorage.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+
+#include <filesystem>
+
+namespace Tarvik::Server {
+namespace {
+
+/// Every thread that answers may have a connection, and the one for logins too.
+PostgresOptions PostgresOptionsOf(const Settings& settings) {
+    return {settings.workers + 1};
+}
+
+/// The opened one as what it implements; null with the reason behind `what` in `error`.
+template <class Interface, class Opened>
+std::unique_ptr<Interface> Checked(std::unique_ptr<Opened> opened, const std::string& what,
+                                   const std::string& reason, std::string& error) {
+    if (opened == nullptr) error = what + " cannot be used: " + reason;
+    return opened;
+}
+
+}  // namespace
+
+bool PrepareDataFolder(const Settings& settings, std::string& error) {
+    namespace fs = std::filesystem;
+    if (!settings.database.empty()) return true;
+    std::error_code failed;
+    const bool made = fs::create_directories(settings.data, failed);
+    if (made) fs::permissions(settings.data, fs::perms::owner_all, failed);
+    if (failed) error = "the data folder " + settings.data + " cannot be made: " + failed.message();
+    return !failed;
+}
+
+std::unique_ptr<AccountStorage> OpenAccounts(const Settings& settings, std::string& error) {
+    std::string reason;
+    if (!settings.database.empty()) {
+        auto accounts = PostgresAccounts::Open(settings.database, reason, PostgresOptionsOf(settings));
+        return Checked<AccountStorage>(std::move(accounts), "the data base " + DescribeData(settings), reason,
+                                       error);
+    }
+    const std::string path = settings.data + "/accounts.db";
+    auto accounts = SqliteAccounts::Open(path, reason);
+    return Checked<AccountStorage>(std::move(accounts), "the accounts " + path, reason, error);
+}
+
+std::unique_ptr<Storage> OpenVoyages(const Settings& settings, std::string& error) {
+    std::string reason;
+    if (!settings.database.empty()) {
+        auto storage = PostgresStorage::Open(settings.database, reason, PostgresOptionsOf(settings));
+        return Checked<Storage>(std::move(storage), "the data base " + DescribeData(settings), reason, error);
+    }
+    const std::string path = settings.data + "/voyages.db";
+    auto storage = SqliteStorage::Open(path, reason);
+    return Checked<Storage>(std::move(storage), "the voyages " + path, reason, error);
+}
+
+std::string DescribeData(const Settings& settings) {
+    return settings.database.empty() ? settings.data : DescribeConnection(settings.database);
+}
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/server/net/settings/Settings.h"
+#include "host/server/net/users/AccountStorage.h"
+#include "host/server/storage/contract/Storage.h"
+
+#include <memory>
+#include <string>
+
+namespace Tarvik::Server {
+
+/// Makes the folder of the data bases, for its owner only, if it is needed and not there. False with a text
+/// in `error`.
+bool PrepareDataFolder(const Settings& settings, std::string& error);
+
+/// Users and sessions: in the data base server that the settings name, else in a file of the data folder,
+/// which must be there. Null with an English text without passwords in `error`.
+std::unique_ptr<AccountStorage> OpenAccounts(const Settings& settings, std::string& error);
+
+/// The voyages, kept in the same way.
+std::unique_ptr<Storage> OpenVoyages(const Settings& settings, std::string& error);
+
+/// Where the data are, for the log: a folder, or a data base without its password.
+std::string DescribeData(const Settings& settings);
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/net/sessions/SessionMemory.h"
+
+#include "host/server/net/tests/TestServer.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarvik::Server {
+namespace {
+
+TEST(SessionMemory, HoldsWhatWasFoundUntilTheSecondIsOver) {
+    SessionMemory memory;
+    EXPECT_FALSE(memory.UserOf("h", 7));
+    memory.Keep("h", "anna", 7, memory.Generation());
+    EXPECT_EQ(memory.UserOf("h", 7), "anna");
+    EXPECT_FALSE(memory.UserOf("h", 8));
+    EXPECT_FALSE(memory.UserOf("h", 7));
+}
+
+TEST(SessionMemory, DoesNotKeepWhatWasSearchedBeforeASessionEnded) {
+    SessionMemory memory;
+    memory.Keep("other", "bert", 7, memory.Generation());
+    const std::uint64_t before = memory.Generation();
+    memory.Forget();
+    memory.Keep("h", "anna", 7, before);
+    EXPECT_FALSE(memory.UserOf("h", 7));
+    EXPECT_FALSE(memory.UserOf("other", 7));
+}
+
+TEST(SessionMemory, ALogoutActsAtOnceAndADisabledUserWithinASecond) {
+    TestServer server;
+    const auto status = [&server](const std::string& token) {
+        return server.Ask("POST", "/v1/exchange", EnvelopeBody(3, "{ui:\"anna\"}"), token).status;
+    };
+    server.AddUser("anna", "correct horse");
+    const std::string gone = server.Token("anna", "correct horse");
+    const std::string kept = server.Token("anna", "correct horse");
+    EXPECT_EQ(status(gone), 200);
+    EXPECT_EQ(server.Ask("POST", "/v1/logout", {}, gone).status, 200);
+    EXPECT_EQ(status(gone), 401);
+    EXPECT_EQ(status(kept), 200);
+    ASSERT_TRUE(server.Server().Accounts().SetDisabled("anna", true).Value());
+    server.AdvanceSeconds(1);
+    EXPECT_EQ(status(kept), 401);
+}
+
+}  // namespace
+}  // namespace Tarvik::Server
