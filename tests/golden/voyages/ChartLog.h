@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Tarvik::Golden {
+
+/// Plays the chart on the bus and writes every call, with all that it carries, as lines of text. Paths of
+/// files are told from the host's data folder on. Unbinds at its end.
+class ChartLog : public Core::TObject {
+  public:
+    ChartLog();
+    ~ChartLog() override;
+    ChartLog(const ChartLog&) = delete;
+    ChartLog& operator=(const ChartLog&) = delete;
+
+    /// Puts a line between the calls so far and those to come.
+    void Heading(const std::string& text);
+    const std::string& Text() const { return text_; }
+
+  private:
+    template <auto Method>
+    void bind(const char* name);
+    void* onAddLayer(void* input);
+    void* onRemoveLayer(void* input);
+    void* onAddLine(void* input);
+    void* onAddLabel(void* input);
+    void* onAddImage(void* input);
+    void* onRegisterImage(void* input);
+    void* onDeleteObjects(void* input);
+    void* onDeleteType(void* input);
+    void* onSetExtent(void* input);
+    void write(const char* service, const std::string& words);
+
+    std::string text_;
+    std::vector<std::pair<std::string, std::unique_ptr<Core::TEvent>>> bindings_;
+};
+
+}  // namespace Tarvik::Golden

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "tests/golden/voyages/SeaServer.h"
+
+#include "host/server/graph/adapter/GraphRouteSource.h"
+
+#include <stdexcept>
+
+namespace Tarvik::Golden {
+
+namespace {
+
+std::shared_ptr<const Server::SeaNetwork> shippedNetwork() {
+    static const std::shared_ptr<const Server::SeaNetwork> network = [] {
+        std::string error;
+        auto read = Server::SeaNetwork::load(SHARE_FOLDER "/network.bin", error);
+        if (!read) throw std::runtime_error(error);
+        return read;
+    }();
+    return network;
+}
+
+}  // namespace
+
+SeaServer::SeaServer() {
+    std::string error;
+    server_ = Server::EmbeddedServer::Open(
+        ":memory:", std::make_unique<Server::GraphRouteSource>(shippedNetwork()), error);
+    if (!server_) throw std::runtime_error(error);
+}
+
+std::string SeaServer::Exchange(const std::string& user, const Interface::VoyServerRequest& request) {
+    return server_->Exchange(user, &request);
+}
+
+}  // namespace Tarvik::Golden
