@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Makes the pictures of docs/pictures from the real client: a planned voyage with the voyage and port call panels open,
-# in the light look, the dark one, and in Chinese. Usage: scripts/pictures.sh [BUILD-FOLDER]
+# in the light look, the dark one, and in Chinese; and the alternatives of a passage of a new voyage. Usage: scripts/pictures.sh [BUILD-FOLDER]
 set -u
 cd "$(dirname "$0")/.." || exit 1
 . scripts/prepare.sh
@@ -18,7 +18,7 @@ cleanup() {
 trap cleanup EXIT
 fail() { echo "pictures: $*" >&2; exit 1; }
 
-[ $# -gt 0 ] || { install_missing && build_preset release --target tarvik-client libseaplan seamap seaplan_share; } ||
+[ $# -gt 0 ] || { install_missing -test && build_preset release --target tarvik-client libseaplan seamap seaplan_share; } ||
     fail "the build failed"
 mkdir -p "$pictures"
 Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp -noreset 3>"$work/display" 2>/dev/null &
@@ -95,6 +95,64 @@ picture() {
     client_pid=
 }
 
+type_line() { xdotool type --delay 2 "$1"; xdotool key Return; }
+# The middles of the patches of one colour in a window, from left to right.
+spots() {
+    import -silent -window "$1" ppm:- | convert ppm:- -fill black +opaque "$2" -fill white -opaque "$2" \
+        -define connected-components:verbose=true -define connected-components:area-threshold=12 \
+        -connected-components 4 null: | awk '$5 ~ /255/ { sub(",", " ", $3); print $3 }' | sort -n
+}
+
+# A new voyage from Rotterdam to Singapore, not saved yet, and a click on the Suez Canal, the fifth route point from the west.
+alternatives() {
+    local main voyages calls
+    "$client" --data "$work/fresh" --theme light --lang en-US &
+    client_pid=$!
+    await window Seaplan
+    main=$(window Seaplan)
+    xdotool windowsize "$main" 1600 1000
+    await still
+    click "$main" 40 18
+    await window Voyages
+    voyages=$(window Voyages)
+    await still
+    click "$voyages" 130 58
+    xdotool key ctrl+a
+    type_line Liner
+    await still
+    click "$voyages" 73 89
+    await still
+    xdotool key ctrl+a
+    type_line "RTM-SIN 13"
+    await still
+    drag "$voyages" 24 56
+    click "$voyages" 150 122
+    await still
+    click "$voyages" 98 122
+    await window "Port calls"
+    calls=$(window "Port calls")
+    drag "$calls" 0 640
+    click "$calls" 103 84
+    type_line Rotterdam
+    type_line Singapore
+    xdotool key F9
+    await still
+    fit "$main"
+    await still
+    read -r x y < <(spots "$main" '#FF6496' | sed -n 5p)
+    click "$main" "${x%.*}" "${y%.*}"
+    await still
+    # The Cape of Good Hope comes out from under the panel.
+    click "$main" 1400 700
+    xdotool key Left
+    xdotool mousemove 1100 300
+    await still
+    import -silent -window root "$pictures/alternatives.png" || fail "no picture of the alternatives"
+    kill "$client_pid"
+    wait "$client_pid" 2>/dev/null
+    client_pid=
+}
+
 "$client" --data "$work/data" plan Rotterdam Singapore Shanghai --speed 14 --depart "2026-12-01 08:00" --stay 12,24,0 \
     --save "Liner/RTM-SHA 12" >/dev/null || fail "the sample voyage was not planned"
 "$client" --data "$work/data" plan Shanghai "Los Angeles" --speed 16 --depart "2027-01-08 06:00" \
@@ -102,3 +160,4 @@ picture() {
 picture client-light light en-US
 picture client-dark dark en-US
 picture client-chinese light zh-CN
+alternatives

@@ -51,6 +51,20 @@ void Person::Click(const std::string& window, int x, int y) const {
                  "the window pressed at " + std::to_string(x) + ", " + std::to_string(y) + " takes no keys");
 }
 
+void Person::Drag(const std::string& window, int x, int y) const {
+    constexpr int kGripX = 140;
+    constexpr int kGripY = 15;
+    const auto text = [](int number) { return std::to_string(number); };
+    xdotool({"mousemove", "--window", window, text(kGripX), text(kGripY), "mousedown", "1", "mousemove",
+             text(x + kGripX), text(y + kGripY), "mouseup", "1"});
+    const std::string wanted = "Position: " + text(x) + "," + text(y) + " ";
+    AwaitOrThrow(
+        [&] {
+            return xdotool({"getwindowgeometry", window}).find(wanted) != std::string::npos;
+        },
+        "the window cannot be dragged");
+}
+
 void Person::Type(const std::string& text) const {
     xdotool({"type", "--delay", "2", text});
 }

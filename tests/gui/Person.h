@@ -18,6 +18,8 @@ class Person {
     void AwaitGone(const std::string& title) const;
     /// Presses the left button at a place within a window and waits until the window takes the keys.
     void Click(const std::string& window, int x, int y) const;
+    /// Drags a panel by its caption until its corner stands at a place of the screen.
+    void Drag(const std::string& window, int x, int y) const;
     /// Types into the window that takes the keys.
     void Type(const std::string& text) const;
     /// Presses keys one after the other, as "ctrl+a" or "Return".

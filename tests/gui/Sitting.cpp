@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "tests/gui/Sitting.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <exception>
+
+namespace Tarvik::Programs {
+namespace {
+
+constexpr Place kVoyagesTool{40, 18};
+constexpr Place kStatusLine{640, 790};
+// The voyage panel with one category at the top of its tree and one voyage below.
+constexpr Place kRenameEditor{130, 58};
+constexpr Place kAddVoyage{73, 89};
+constexpr Place kVoyageBehindItsCategory{150, 122};
+constexpr Place kSetPortCalls{98, 122};
+// The first cell of the port call table.
+constexpr Place kFirstPort{103, 84};
+
+ChildProcess::Start onDisplay(const ClientTree& client, const std::string& display) {
+    auto start = client.Words({"--lang", "en-US", "--theme", "light"});
+    start.environment["DISPLAY"] = display;
+    start.environment["QT_QPA_PLATFORM"] = "xcb";
+    start.environment["QT_SCALE_FACTOR"] = "1";
+    return start;
+}
+
+}  // namespace
+
+Sitting::Sitting(const ClientTree& client, const Person& person, const std::string& display)
+    : client_(client), person_(person), process_(onDisplay(client, display)) {
+    main = person.AwaitWindow("Seaplan");
+}
+
+Sitting::~Sitting() {
+    // What was on the screen when a test failed says more than its words.
+    const char* folder = std::getenv("SEAPLAN_TEST_PICTURES");
+    const bool failed = std::uncaught_exceptions() > 0 || testing::Test::HasFailure();
+    if (folder != nullptr && failed) person_.Photograph(std::string(folder) + "/failed.png");
+}
+
+void Sitting::OpenVoyages() {
+    person_.Click(main, kVoyagesTool.x, kVoyagesTool.y);
+    voyages = person_.AwaitWindow("Voyages");
+}
+
+void Sitting::OpenPortCalls(const Place& place) {
+    person_.Click(voyages, place.x, place.y);
+    portCalls = person_.AwaitWindow("Port calls");
+}
+
+void Sitting::await(const std::string& sql, long number) const {
+    AwaitOrThrow([&] { return client_.Number(sql) == number; }, sql);
+}
+
+void Sitting::rename(const std::string& name) const {
+    person_.Press({"ctrl+a"});
+    person_.Type(name);
+    person_.Press({"Return"});
+}
+
+void Sitting::MakeVoyage() {
+    OpenVoyages();
+    await("select count(*) from categories", 1);
+    ClickVoyages(kRenameEditor);
+    rename("Tankers");
+    await("select count(*) from categories where cn='Tankers'", 1);
+    ClickVoyages(kAddVoyage);
+    await("select count(*) from voyages", 1);
+    rename("Winter");
+    await("select count(*) from voyages where vn='Winter'", 1);
+}
+
+void Sitting::OpenEmptyPortCalls() {
+    ClickVoyages(kVoyageBehindItsCategory);
+    OpenPortCalls(kSetPortCalls);
+}
+
+void Sitting::TypePorts(const std::vector<std::string>& ports) const {
+    person_.Click(portCalls, kFirstPort.x, kFirstPort.y);
+    for (const std::string& port : ports) {
+        person_.Type(port);
+        person_.Press({"Return"});
+    }
+}
+
+Ended Sitting::Leave() {
+    person_.Click(main, kStatusLine.x, kStatusLine.y);
+    person_.Press({"ctrl+q"});
+    return process_.Wait();
+}
+
+}  // namespace Tarvik::Programs

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tests/gui/ChildProcess.h"
+#include "tests/gui/ClientTree.h"
+#include "tests/gui/Person.h"
+
+#include <string>
+#include <vector>
+
+namespace Tarvik::Programs {
+
+/// A place within a window, in pixels.
+struct Place {
+    int x;
+    int y;
+};
+
+/// One run of the client on a display, from its start to its end. In English and light, so that places and
+/// colours are known.
+class Sitting {
+  public:
+    Sitting(const ClientTree& client, const Person& person, const std::string& display);
+    /// Photographs the screen when the test has failed and SEAPLAN_TEST_PICTURES names a folder.
+    ~Sitting();
+    Sitting(const Sitting&) = delete;
+    Sitting& operator=(const Sitting&) = delete;
+
+    /// Opens the voyage panel from the toolbar.
+    void OpenVoyages();
+    void ClickVoyages(const Place& place) const { person_.Click(voyages, place.x, place.y); }
+    /// Opens the port calls of the selected voyage and waits until the panel is drawn.
+    void OpenPortCalls(const Place& place);
+    /// With an empty data base: names the category that comes with the panel "Tankers" and makes a voyage
+    /// "Winter" in it.
+    void MakeVoyage();
+    /// Opens the port calls of that voyage, which has none yet.
+    void OpenEmptyPortCalls();
+    /// Types port names into the first cells of the table.
+    void TypePorts(const std::vector<std::string>& ports) const;
+    /// Ends the program as a person does and waits for its end.
+    Ended Leave();
+
+    std::string main;
+    std::string voyages;
+    std::string portCalls;
+
+  private:
+    void rename(const std::string& name) const;
+    void await(const std::string& sql, long number) const;
+
+    const ClientTree& client_;
+    const Person& person_;
+    ChildProcess process_;
+};
+
+}  // namespace Tarvik::Programs
