@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "bench/Memory.h"
+#include "bench/Track.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/book/BookRecompute.h"
+
+#include <tarvik/util/Jsona.h>
+
+#include <cstdint>
+#include <string>
+
+namespace {
+
+using namespace Tarvik::Seaplan;
+using Bench::Geodesics;
+
+constexpr std::size_t kStops = 30;
+
+std::size_t countOf(const benchmark::State& state) {
+    return static_cast<std::size_t>(state.range(0));
+}
+
+PortCallRows portsOf(std::size_t count) {
+    VoyPortCall row;
+    row.psp = 14.5F;
+    row.pw = 0.05F;
+    row.apt = 12;
+    row.eta = Tarvik::Util::_datetime_t(0, 0, 0, 1, 3, 2026);
+    return PortCallRows(count, row);
+}
+
+PointMap routePoints() {
+    return {{"101", {"101", "First Cape", "0,0"}}, {"102", {"102", "Second Cape", "1,1"}}};
+}
+
+BookPoints bookOf(std::size_t rows) {
+    BookPoints book;
+    BookFromStops(Bench::RouteOf(kStops, rows), routePoints(), book);
+    return book;
+}
+
+/// Reply text of 30 stops to stops with their lengths.
+void ParseReply(benchmark::State& state) {
+    const std::string reply = Bench::ReplyOf(kStops, countOf(state));
+    const auto work = [&] {
+        Tarvik::Util::Jsona json;
+        RouteStops stops;
+        if (!json.parse(reply) || ParseRouteReply(json, stops) != 0) state.SkipWithError("reply refused");
+        benchmark::DoNotOptimize(stops.data());
+    };
+    Bench::CountMemory(state, work);
+    Bench::Shares shares(state, Bench::GeodesicMs(Bench::Track(countOf(state)), Geodesics::Distance));
+    for (auto _ : state) shares.Run(work);
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(ParseReply)
+    ->Arg(750)
+    ->Arg(1500)
+    ->Arg(3000)
+    ->Arg(6000)
+    ->Arg(12000)
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMillisecond);
+
+/// No geodesic calls in it.
+void MakeBook(benchmark::State& state) {
+    const RouteStops stops = Bench::RouteOf(kStops, countOf(state));
+    const PointMap points = routePoints();
+    const auto work = [&] {
+        BookPoints rows;
+        if (BookFromStops(stops, points, rows) != 0) state.SkipWithError("no book");
+        benchmark::DoNotOptimize(rows.data());
+    };
+    Bench::CountMemory(state, work);
+    Bench::Shares shares(state, 0);
+    for (auto _ : state) shares.Run(work);
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(MakeBook)
+    ->Arg(2500)
+    ->Arg(5000)
+    ->Arg(10000)
+    ->Arg(20000)
+    ->Arg(40000)
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMillisecond);
+
+void TimeBook(benchmark::State& state) {
+    const PortCallRows ports = portsOf(kStops);
+    BookPoints rows = bookOf(countOf(state));
+    const auto work = [&] {
+        if (ComputeBookTimes(ports.front().eta, ports, rows) != 0) state.SkipWithError("no times");
+        benchmark::DoNotOptimize(rows.data());
+    };
+    Bench::CountMemory(state, work);
+    Bench::Shares shares(state, Bench::GeodesicMs(Bench::Track(countOf(state)), Geodesics::Distance));
+    for (auto _ : state) shares.Run(work);
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(TimeBook)
+    ->Arg(2500)
+    ->Arg(5000)
+    ->Arg(10000)
+    ->Arg(20000)
+    ->Arg(40000)
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMillisecond);
+
+/// The panel's book of ports with as many waypoints each.
+PosBookData panelBook(std::size_t rows) {
+    const BookPoints book = bookOf(rows);
+    PosBookData data;
+    PosBookPortRow port;
+    for (const PosBookPoint& point : book) {
+        const auto comma = point.position.find(',');
+        PosBookRow row;
+        row.x = std::stod(point.position.substr(0, comma));
+        row.y = std::stod(point.position.substr(comma + 1));
+        if (point.pst != PortPoint) {
+            port.rows.push_back(row);
+            continue;
+        }
+        port.x = row.x;
+        port.y = row.y;
+        data.ports.push_back(port);
+        port.rows.clear();
+    }
+    return data;
+}
+
+void RecomputePanelBook(benchmark::State& state) {
+    PosBookData book = panelBook(countOf(state));
+    const Tarvik::Util::_datetime_t now(0, 0, 0, 1, 6, 2026);
+    const auto work = [&] { benchmark::DoNotOptimize(RecomputeBook(book, BookUnits(), now)); };
+    Bench::CountMemory(state, work);
+    Bench::Shares shares(state,
+                         Bench::GeodesicMs(Bench::Track(countOf(state)), Geodesics::DistanceAndCourse));
+    for (auto _ : state) shares.Run(work);
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(RecomputePanelBook)
+    ->Arg(2500)
+    ->Arg(5000)
+    ->Arg(10000)
+    ->Arg(20000)
+    ->Arg(40000)
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace

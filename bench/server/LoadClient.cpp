@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "bench/server/LoadClient.h"
+
+#include <boost/asio/buffer.hpp>
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/write.hpp>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <memory>
+#include <stdexcept>
+#include <string_view>
+
+namespace Bench {
+namespace {
+
+namespace net = boost::asio;
+using net::ip::tcp;
+using Clock = std::chrono::steady_clock;
+
+/// What all connections share.
+struct Load {
+    const std::vector<std::string>& requests;
+    Clock::time_point counted;
+    Clock::time_point end;
+    std::vector<float> times;  ///< in milliseconds
+    std::size_t bytes = 0;
+    std::size_t answered = 0;
+};
+
+/// One connection. Reads heads by hand: a client that parses more would take the server's processor.
+class Connection {
+  public:
+    Connection(net::io_context& io, std::uint16_t port, Load& load, std::size_t first)
+        : socket_(io), load_(load), next_(first) {
+        socket_.connect({net::ip::address_v4::loopback(), port});
+        socket_.set_option(tcp::no_delay(true));
+        send();
+    }
+
+  private:
+    void send() {
+        begun_ = Clock::now();
+        if (begun_ >= load_.end) return;
+        have_ = 0;
+        const std::string& request = load_.requests[next_++ % load_.requests.size()];
+        net::async_write(socket_, net::buffer(request),
+                         [this](boost::system::error_code failed, std::size_t) {
+                             if (failed) throw boost::system::system_error(failed);
+                             read();
+                         });
+    }
+    void read() {
+        socket_.async_read_some(net::buffer(buffer_.data() + have_, buffer_.size() - have_),
+                                [this](boost::system::error_code failed, std::size_t count) {
+                                    if (failed) throw boost::system::system_error(failed);
+                                    have_ += count;
+                                    take();
+                                });
+    }
+    void take() {
+        const std::string_view text(buffer_.data(), have_);
+        const std::size_t head = text.find("\r\n\r\n");
+        if (head == std::string_view::npos) return read();
+        if (!text.starts_with("HTTP/1.1 200")) throw std::runtime_error(std::string(text.substr(0, head)));
+        constexpr std::string_view kLength = "Content-Length: ";
+        const std::size_t place = text.find(kLength);
+        std::size_t length = 0;
+        std::from_chars(text.data() + place + kLength.size(), text.data() + head, length);
+        if (have_ < head + 4 + length) return read();
+        const Clock::time_point now = Clock::now();
+        ++load_.answered;
+        if (now >= load_.counted) {
+            load_.times.push_back(std::chrono::duration<float, std::milli>(now - begun_).count());
+            load_.bytes += length;
+        }
+        send();
+    }
+
+    tcp::socket socket_;
+    Load& load_;
+    std::size_t next_;
+    std::size_t have_ = 0;
+    Clock::time_point begun_;
+    std::array<char, 65536> buffer_{};
+};
+
+}  // namespace
+
+LoadResult RunLoad(std::uint16_t port, const std::vector<std::string>& requests, int connections,
+                   std::chrono::milliseconds time) {
+    const Clock::time_point begin = Clock::now();
+    Load load{requests, begin + time / 4, begin + time, {}, 0, 0};
+    load.times.reserve(4'000'000);
+    net::io_context io(1);
+    std::vector<std::unique_ptr<Connection>> all;
+    all.reserve(static_cast<std::size_t>(connections));
+    for (int i = 0; i < connections; ++i) {
+        all.push_back(std::make_unique<Connection>(io, port, load, static_cast<std::size_t>(i)));
+    }
+    io.run();
+    if (load.times.empty()) throw std::runtime_error("no reply in time");
+    std::sort(load.times.begin(), load.times.end());
+    const auto at = [&](double part) {
+        return static_cast<double>(
+            load.times[static_cast<std::size_t>(part * static_cast<double>(load.times.size() - 1))]);
+    };
+    const double seconds = std::chrono::duration<double>(load.end - load.counted).count();
+    return {load.answered, static_cast<double>(load.times.size()) / seconds, at(0.5), at(0.99),
+            load.bytes / load.times.size()};
+}
+
+}  // namespace Bench
