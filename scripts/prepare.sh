@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Sourced by ./run and ./test: installs missing Debian packages and names the build folders.
-# Usage: . scripts/prepare.sh; install_missing
+# Usage: . scripts/prepare.sh; install_missing [-test]: with -test also what tests, checks and benchmarks need.
 
 # One cache serves every checkout: paths count from its root, and precompiled headers by their content.
 export CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
@@ -10,7 +10,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 export CCACHE_BASEDIR=$root
 
 missing_packages() {
-    grep -v '^#' "$root/cmake/debian-packages.txt" | while read -r package; do
+    cat "$root/cmake/debian-packages.txt" ${1:+"$root/cmake/debian-packages$1.txt"} | grep -v '^#' | while read -r package; do
         [ "$package" = npm ] && command -v npm >/dev/null 2>&1 && continue
         dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null | grep -q '^ii' || echo "$package"
     done
@@ -22,7 +22,7 @@ install_missing() {
         echo "This is not a Debian system. Install what $root/cmake/debian-packages.txt names and start again." >&2
         return 1
     }
-    missing=$(missing_packages | tr '\n' ' ')
+    missing=$(missing_packages "${1:-}" | tr '\n' ' ')
     [ -z "${missing// /}" ] && return 0
     if [ "$(id -u)" -ne 0 ]; then
         command -v sudo >/dev/null 2>&1 || {
