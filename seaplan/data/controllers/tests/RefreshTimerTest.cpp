@@ -60,6 +60,15 @@ TEST_F(RefreshTimerTest, TimerDrawsWhenNobodyTellsWhetherTheTreeIsVisible) {
     EXPECT_FALSE(host.ChartCallsOf("TRV_MAP_ADD_LINE").empty());
 }
 
+TEST_F(RefreshTimerTest, VoyageThatIsNotShownIsNotDrawn) {
+    voyage().vr = 0;
+    replySchedule();
+    voyages.StartTimer();
+    timer.Fire();
+    EXPECT_TRUE(host.requests.empty());
+    EXPECT_TRUE(host.chartCalls.empty());
+}
+
 TEST_F(RefreshTimerTest, FailingVoyageIsSkippedAndTheOthersGoOn) {
     store.voyages["1"].vi = "1";
     store.voyages["1"].vr = 1;

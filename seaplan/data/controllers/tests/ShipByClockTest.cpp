@@ -40,6 +40,13 @@ class ShipByClockTest : public ScheduleFixture {
         const auto icons = host.ChartCallsOf("TRV_MAP_ADD_IMAGE");
         return icons.size() == 1 ? icons[0].position : "";
     }
+    Texts services() const {
+        Texts names;
+        for (const auto& call : host.chartCalls) {
+            names.push_back(call.service);
+        }
+        return names;
+    }
     /// Points of the line with this id, none when it is not drawn.
     Texts line(const std::string& id) {
         for (const auto& call : host.ChartCallsOf("TRV_MAP_ADD_LINE")) {
@@ -76,6 +83,28 @@ TEST_F(ShipByClockTest, OnALegItStandsWhereTheHoursSailedBringIt) {
     EXPECT_EQ(ship(), "0.250,0.000");
     EXPECT_EQ(sailed(), (Texts{"0.000,0.000", "0.250,0.000"}));
     EXPECT_EQ(remaining(), (Texts{"0.250,0.000", "0.500,0.000", "1.000,0.000", "3.000,0.000"}));
+}
+
+TEST_F(ShipByClockTest, ProgressIsDrawnInOrderAndTheViewOpensAroundTheShip) {
+    clock.SetUtc(2024, 3, 1, 18);
+    ASSERT_EQ(module.DrawPlannedProgress(voyage()), 0);
+    EXPECT_EQ(ship(), "0.667,0.000");
+    EXPECT_EQ(services(),
+              (Texts{"TRV_MAP_ADDLAYER", "TRV_MAP_DEL_OBJECT_BY_TYPE", "TRV_MAP_DEL_OBJECT_BY_TYPE",
+                     "TRV_MAP_DEL_OBJECT_BY_TYPE", "TRV_MAP_ADD_LINE", "TRV_MAP_ADD_LINE",
+                     "TRV_MAP_REG_IMAGE", "TRV_MAP_ADD_IMAGE", "TRV_MAP_SET_EXTENT"}));
+    const auto& limits = host.chartCalls.back().points;
+    EXPECT_EQ(limits, (Texts{"5.000000", "2.000000", "-2.333000", "-2.000000"}))
+        << "what remains comes first, and its first point has a degree more around it";
+}
+
+TEST_F(ShipByClockTest, CorrectedProgressLeavesTheRouteOnShow) {
+    correctAt("2024-03-01 17:30:00");
+    clock.SetUtc(2024, 3, 1, 18);
+    ASSERT_EQ(module.DrawAisProgress(voyage()), 0);
+    EXPECT_EQ(ship(), "0.667,0.000");
+    EXPECT_EQ(services(), (Texts{"TRV_MAP_ADDLAYER", "TRV_MAP_ADD_LINE", "TRV_MAP_REG_IMAGE",
+                                 "TRV_MAP_ADD_IMAGE", "TRV_MAP_SET_EXTENT"}));
 }
 
 TEST_F(ShipByClockTest, InPortTheLegBehindItIsSailed) {

@@ -91,6 +91,33 @@ TEST_F(VesselRefreshTest, KnownNumberIsNotOverwrittenByZero) {
     EXPECT_EQ(voyage().lastPosTime, 100);
 }
 
+TEST_F(VesselRefreshTest, OtherNumberComesWithANewerPositionAndIsNotSaved) {
+    voyage().vsmsi = 55;
+    host.positions = {{"s", 66, 0, 100, 1.0, 2.0}};
+    voyages.RefreshVesselPositions();
+    EXPECT_EQ(voyage().vsmsi, 66);
+    EXPECT_TRUE(host.requests.empty());
+}
+
+TEST_F(VesselRefreshTest, FirstNumberNeedsANewerPosition) {
+    voyage().lastPosTime = 100;
+    voyage().lastPosText = "1.000,2.000";
+    for (const auto& [time, x] : {std::pair{100, 3.0}, std::pair{200, 1.0}}) {
+        host.positions = {{"s", 412000000, 0, time, x, 2.0}};
+        EXPECT_EQ(voyages.RefreshVesselPositions(), 0);
+        EXPECT_EQ(voyage().vsmsi, 0) << time;
+    }
+    EXPECT_TRUE(host.requests.empty());
+}
+
+TEST_F(VesselRefreshTest, PositionOfAVesselWithoutNumberIsTakenWithoutSaving) {
+    host.positions = {{"s", 0, 0, 100, 1.0, 2.0}};
+    EXPECT_EQ(voyages.RefreshVesselPositions(), 0);
+    EXPECT_EQ(voyage().lastPosText, "1.000,2.000");
+    EXPECT_EQ(voyage().vsmsi, 0);
+    EXPECT_TRUE(host.requests.empty());
+}
+
 TEST_F(VesselRefreshTest, CorrectedVoyageLearnsItsNewestCorrection) {
     voyage().vsmsi = 55;
     voyage().modais = 2;

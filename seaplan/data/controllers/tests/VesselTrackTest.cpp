@@ -52,6 +52,20 @@ TEST_F(VesselTrackTest, FirstNumberIsSavedAlsoWithoutANewerPlace) {
     EXPECT_EQ(voyage().vsmsi, 412000000);
 }
 
+TEST_F(VesselTrackTest, OnlyAFirstNumberIsSaved) {
+    host.track = "1709280000|1.0|2.0|66";
+    EXPECT_EQ(voyages.RefreshTrace("9"), 0);
+    EXPECT_EQ(voyage().vsmsi, 55) << "a known number stays";
+    voyage().vsmsi = 0;
+    for (const char* text : {"1709280001|3.0|4.0|0", "1709280002|5.0|6.0|-1"}) {
+        host.track = text;
+        EXPECT_EQ(voyages.RefreshTrace("9"), 0) << text;
+        EXPECT_EQ(voyage().vsmsi, 0);
+    }
+    EXPECT_EQ(voyage().lastPosText, "5.000,6.000");
+    EXPECT_TRUE(host.requests.empty());
+}
+
 TEST_F(VesselTrackTest, EveryFailureHasItsNumber) {
     EXPECT_EQ(voyages.RefreshTrace(""), -1);
     EXPECT_EQ(voyages.RefreshTrace("x"), -2);

@@ -61,7 +61,10 @@ TEST_F(VoyControllerTest, LoadLadder) {
         voyage().positionBook.points.clear();
         replySchedule();
         EXPECT_EQ(voyages.LoadSchedule("9", rows, mode), -8) << mode;
+        EXPECT_EQ(voyage().portCalls.size(), 2U) << "the mode is looked at behind the schedule";
     }
+    EXPECT_EQ(voyages.RouteIsCurrent(), -1);
+    EXPECT_TRUE(host.chartCalls.empty());
 }
 
 TEST_F(VoyControllerTest, DrawModeOneShowsTheProgressAndRemembersTheVoyage) {

@@ -23,6 +23,13 @@ TEST_F(VoyageCorrectionTest, PositionAndTheWayFromItReplaceTheRestOfTheLeg) {
     EXPECT_TRUE(host.chartCalls.empty());
 }
 
+TEST_F(VoyageCorrectionTest, VoyageCorrectedBeforeCountsFromOneAgain) {
+    voyage().modais = 3;
+    replyWay();
+    EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
+    EXPECT_EQ(voyage().modais, 1);
+}
+
 TEST_F(VoyageCorrectionTest, OneRequestAsksForTheWayToTheNextPort) {
     replyWay();
     voyages.ApplyAisPosition("9", applied);
