@@ -80,10 +80,10 @@ class VoyController {
     int HideAisTrack(const std::string& vi);
 
     /// Puts the vessel's last position into the position book, with the server's way from there to the next
-    /// port; from then on the voyage counts as corrected. `applied` is 1 when the position got a row of its
-    /// own, else 0. With no port ahead it is 0 and nothing changes. -1 empty id; -2 unknown; -3 no vessel; -4
-    /// no position or no time of it; -5 no zone; -6 the ports ahead; -7 the server's way; -8 the rest of the
-    /// book; -9 the position does not fit the book. On failure the voyage is as it was.
+    /// port; from then on the voyage counts as corrected. `applied` is 0 when nothing was done, since no port
+    /// is ahead, or when the ship hardly moved and got no row; else 1. -1 empty id; -2 unknown; -3 no vessel;
+    /// -4 no position or no time of it; -5 no zone; -6 the ports ahead; -7 the server's way; -8 the rest of
+    /// the book; -9 the position does not fit the book. On failure the voyage is as it was.
     int ApplyAisPosition(const std::string& vi, int& applied);
     /// A corrected voyage as rows of the table: up to its last position of the ship, and behind it. -1 empty
     /// id; -2 unknown; -3 the book's times; -4 the rows; -5 no position, or nothing before it.

@@ -163,8 +163,8 @@ TEST_F(SeaplanViewDlgTest, RecoverAllLeavesDestroyedCategoriesAlone) {
     store.categoryStates["1"] = Destroyed;
     EXPECT_EQ(panel.RecoverAll(), 0);
     EXPECT_EQ(store.categoryVoyages["2"]["20"], InUse);
-    EXPECT_THAT(catalog.calls, testing::Not(testing::Contains("RecoverVoyage 1 10")));
-    EXPECT_THAT(catalog.calls, testing::Contains("RecoverVoyage 2 20"));
+    EXPECT_THAT(catalog.calls, testing::Not(testing::Contains("RecoverVoyage 10")));
+    EXPECT_THAT(catalog.calls, testing::Contains("RecoverVoyage 20"));
 }
 
 TEST_F(SeaplanViewDlgTest, RecoverAllTakesEverythingOutOfTheBin) {

@@ -1,22 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/PostgresCatalog.h"
 
+#include "host/server/storage/contract/Moves.h"
 #include "host/server/storage/postgres/PostgresCatalogReader.h"
 #include "host/server/storage/postgres/PostgresKeys.h"
 
 namespace Tarvik::Server {
-namespace {
-
-/// Whether the step is one of use to bin, bin to use, bin to destroyed.
-Status CheckMove(std::optional<DeletionState> from, DeletionState to, FaultReason unknown) {
-    if (!from) return unknown;
-    if (to == DeletionState::InBin) {
-        return *from == DeletionState::InUse ? Status(Done{}) : Status(FaultReason::NotInUse);
-    }
-    return *from == DeletionState::InBin ? Status(Done{}) : Status(FaultReason::NotInBin);
-}
-
-}  // namespace
 
 Outcome<std::vector<CategoryRecord>> PostgresCatalog::LoadCatalog(const std::string& owner) {
     return session_.Read([&](PostgresConnection& connection) -> Outcome<std::vector<CategoryRecord>> {

@@ -1,23 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/SqliteCatalog.h"
 
+#include "host/server/storage/contract/Moves.h"
 #include "host/server/storage/sqlite/SqliteCatalogReader.h"
 #include "host/server/storage/sqlite/SqliteKeys.h"
 #include "host/server/storage/sqlite/SqliteStatement.h"
 
 namespace Tarvik::Server {
-namespace {
-
-/// Whether the step is one of use to bin, bin to use, bin to destroyed.
-Status CheckMove(std::optional<DeletionState> from, DeletionState to, FaultReason unknown) {
-    if (!from) return unknown;
-    if (to == DeletionState::InBin) {
-        return *from == DeletionState::InUse ? Status(Done{}) : Status(FaultReason::NotInUse);
-    }
-    return *from == DeletionState::InBin ? Status(Done{}) : Status(FaultReason::NotInBin);
-}
-
-}  // namespace
 
 Outcome<std::vector<CategoryRecord>> SqliteCatalog::LoadCatalog(const std::string& owner) {
     return session_.Read([&](SqliteDatabase& database) -> Outcome<std::vector<CategoryRecord>> {

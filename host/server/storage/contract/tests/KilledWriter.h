@@ -5,22 +5,15 @@
 
 #include <functional>
 #include <memory>
-#include <random>
 
 namespace Tarvik::Server {
 
-/// What a writing process said before it was killed.
-struct WriterWords {
-    int begun = 0;        ///< writes that it set out to do
-    int confirmed = 0;    ///< writes that the storage has confirmed
-    bool killed = false;  ///< false when it ended by itself
-};
-
-/// Opens the storage within the writing process; null when that fails.
+/// Opens the storage; null when that fails.
 using StorageOpener = std::function<std::unique_ptr<Storage>()>;
 
-/// Starts a process that runs the writes of the WriteScript from `number` on, and kills it at a random moment
-/// behind its `writes`-th write.
-WriterWords WriteAndKill(const StorageOpener& open, int number, int writes, std::mt19937& random);
+/// Kills writing processes at random moments, at least 200 writes in all, and checks after each that every
+/// confirmed change is stored and the last one wholly or not at all. `settled` returns when nothing of the
+/// dead process is on its way any more.
+void ExpectKilledWritersLeaveNoHalfChange(const StorageOpener& open, const std::function<void()>& settled);
 
 }  // namespace Tarvik::Server

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "host/server/storage/contract/tests/WriteScript.h"
 #include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/postgres/tests/PostgresServer.h"
-#include "host/server/storage/sqlite/tests/WriteScript.h"
 
 #include <gtest/gtest.h>
 

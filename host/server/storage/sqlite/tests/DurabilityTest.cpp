@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "host/server/storage/contract/tests/WriteScript.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/storage/sqlite/tests/FaultyVfs.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
-#include "host/server/storage/sqlite/tests/WriteScript.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

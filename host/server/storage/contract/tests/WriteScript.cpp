@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/sqlite/tests/WriteScript.h"
+#include "host/server/storage/contract/tests/WriteScript.h"
 
 namespace Tarvik::Server::WriteScript {
 namespace {
