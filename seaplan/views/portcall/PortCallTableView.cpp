@@ -40,6 +40,7 @@ PortCallTableView::PortCallTableView(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setMinimumSectionSize(20);
+    horizontalHeader()->setStretchLastSection(true);
     QObject::connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         if (reports_.left) reports_.left();
     });
