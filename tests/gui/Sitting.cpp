@@ -86,10 +86,14 @@ void Sitting::TypePorts(const std::vector<std::string>& ports) const {
     }
 }
 
-Ended Sitting::Leave() {
+void Sitting::AskToLeave() const {
     person_.Click(main, kStatusLine.x, kStatusLine.y);
     person_.Press({"ctrl+q"});
-    return process_.Wait();
+}
+
+Ended Sitting::Leave() {
+    AskToLeave();
+    return AwaitEnd();
 }
 
 }  // namespace Tarvik::Programs

@@ -38,6 +38,9 @@ class Sitting {
     void OpenEmptyPortCalls();
     /// Types port names into the first cells of the table.
     void TypePorts(const std::vector<std::string>& ports) const;
+    /// Tells the program to end, which asks when something is not saved.
+    void AskToLeave() const;
+    Ended AwaitEnd() { return process_.Wait(); }
     /// Ends the program as a person does and waits for its end.
     Ended Leave();
 

@@ -73,5 +73,24 @@ TEST_F(VoyageLife, AVoyageMadeByHandIsThereAfterARestart) {
     EXPECT_EQ(again.Leave().exitCode, 0);
 }
 
+TEST_F(VoyageLife, LeavingWithUnsavedPortCallsAsksFirstAndCanBeTakenBack) {
+    Sitting sitting(client_, person_, display_.Name());
+    sitting.MakeVoyage();
+    sitting.OpenEmptyPortCalls();
+    sitting.TypePorts({"Rotterdam", "Hamburg"});
+    const std::string typed = person_.Look(sitting.portCalls);
+    person_.Press({"F9"});
+    const std::string planned = person_.LookForChange(sitting.portCalls, typed);
+    sitting.AskToLeave();
+    const std::string asked = person_.LookForChange(sitting.portCalls, planned);
+    person_.Press({"Escape"});
+    person_.LookForChange(sitting.portCalls, asked);
+    person_.Click(sitting.portCalls, 300, 12);
+    person_.Press({"ctrl+s"});
+    await("select count(*) from port_calls", 2);
+    const Ended ended = sitting.Leave();
+    EXPECT_EQ(ended.exitCode, 0) << ended.err;
+}
+
 }  // namespace
 }  // namespace Tarvik::Programs

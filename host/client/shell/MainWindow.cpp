@@ -12,6 +12,7 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 #include <QAction>
+#include <QCloseEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QShortcut>
@@ -209,6 +210,16 @@ void MainWindow::nextLanguage() {
 void MainWindow::openPreferences() {
     PreferencesDialog dialog(this, session_.Texts(), session_.Preferred());
     if (dialog.exec() == QDialog::Accepted) prefer(dialog.Chosen());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    const auto children = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (auto child = children.rbegin(); child != children.rend(); ++child) {
+        if (!(*child)->isWindow() || !(*child)->isVisible() || (*child)->close()) continue;
+        event->ignore();
+        return;
+    }
+    QMainWindow::closeEvent(event);
 }
 
 bool MainWindow::event(QEvent* event) {

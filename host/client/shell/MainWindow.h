@@ -39,6 +39,9 @@ class MainWindow : public QMainWindow {
   protected:
     /// Takes the help requests that plug-ins send to the main window.
     bool event(QEvent* event) override;
+    /// Closes the panels first, the last opened before the others; one that stays, since a person wants to
+    /// keep what is not saved, keeps the client.
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     /// One tool: its texts' key, icon, shortcut, the panel that it opens (0 for none) and what it does.
