@@ -69,6 +69,8 @@ void CPortCallPanelDlg::OnCalculate() {
 }
 
 int CPortCallPanelDlg::OnRouteChosen() {
+    // A closed panel has no table of its own to follow with.
+    if (!view_.IsVisible()) return -4;
     CommitEditors();
     PortCallRows rows;
     if (standardRows(rows) != 0) return -1;

@@ -69,7 +69,8 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
 
     // Commands
     void OnCalculate();
-    /// The pending route was changed on the chart: its distances and times go into the table.
+    /// The pending route was changed on the chart: its distances and times go into the table that is
+    /// open. -1 no rows, -2 a route of other ports, -3 the rows do not fit, -4 no table is open.
     int OnRouteChosen();
     void OnSave();
     void OnClear();

@@ -108,6 +108,17 @@ TEST_F(PortCallFixture, ARouteOfOtherPortsLeavesTheTable) {
     EXPECT_EQ(Cell(1, ColDistance), "240.00");
 }
 
+TEST_F(PortCallFixture, ARouteChosenBesideAClosedPanelLeavesTheTable) {
+    Open("10");
+    EnterPorts({"ROTTERDAM", "HAMBURG"});
+    panel.OnCalculate();
+    view.state.changed = false;
+    view.visible = false;
+    EXPECT_LT(panel.OnRouteChosen(), 0);
+    EXPECT_EQ(Cell(1, ColDistance), "240.00");
+    EXPECT_FALSE(view.state.changed);
+}
+
 TEST_F(PortCallFixture, CalculatingASavedVoyageReloadsAndSavesAtOnce) {
     Open("20");
     Type(1, ColSpeed, "12");
