@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/tests/SharedDatabase.h"
 #include "host/server/storage/postgres/PostgresConnection.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -61,9 +62,16 @@ void Spin(unsigned turns) {
     while (turn < turns) turn = turn + 1;
 }
 
-class KilledProcessTest : public SharedDatabase {
+/// Where the killed server keeps its data.
+enum class Kept { Postgres, Files };
+
+class KilledProcessTest : public SharedDatabase, public testing::WithParamInterface<Kept> {
   protected:
     void SetUp() override {
+        if (GetParam() == Kept::Files) {
+            variables_ = {"SEAPLAN_SERVER_DATA=" + folder_.File("data"),
+                          "SEAPLAN_SERVER_LOGIN_ATTEMPTS_PER_ADDRESS=0"};
+        }
         SharedDatabase::SetUp();
         const ServerProcess server(variables_);
         token_ = Token(server);
@@ -96,17 +104,19 @@ class KilledProcessTest : public SharedDatabase {
     /// Returns when no transaction of a killed process is on its way any more: the data base server goes on
     /// with what it was told before.
     void WaitForTransactions() {
+        if (GetParam() == Kept::Files) return;
         PostgresConnection connection(connection_);
         connection.Begin(PostgresConnection::Mode::Write);
         connection.Execute("LOCK TABLE categories, port_calls IN ACCESS EXCLUSIVE MODE");
         connection.Commit();
     }
 
+    const TempFolder folder_;
     std::string token_;
     std::mt19937 random_{20260301};
 };
 
-TEST_F(KilledProcessTest, EveryConfirmedChangeIsThereAndNoHalfOne) {
+TEST_P(KilledProcessTest, EveryConfirmedChangeIsThereAndNoHalfOne) {
     Written expected;
     int number = 0;
     for (int round = 0; round < 16; ++round) {
@@ -124,6 +134,11 @@ TEST_F(KilledProcessTest, EveryConfirmedChangeIsThereAndNoHalfOne) {
     }
     EXPECT_GE(number, 200);
 }
+
+INSTANTIATE_TEST_SUITE_P(Storages, KilledProcessTest, testing::Values(Kept::Postgres, Kept::Files),
+                         [](const auto& storage) {
+                             return storage.param == Kept::Postgres ? "Postgres" : "Files";
+                         });
 
 }  // namespace
 }  // namespace Tarvik::Server
