@@ -85,6 +85,13 @@ void HostServices::SetTimeZone(const std::string& zone) {
     Interface::Raise(Bus::SwitchTimeZone, &std::as_const(timeZone_));
 }
 
+void HostServices::LogOut() {
+    Interface::Raise<void>(Bus::Logout, nullptr);
+    link_->LogOut();
+    lastFailure_.clear();
+    noteConnection();
+}
+
 void HostServices::SetLink(ServerLink& link) {
     Interface::Raise<void>(Bus::Logout, nullptr);
     link_ = &link;

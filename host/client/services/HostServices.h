@@ -32,6 +32,8 @@ class HostServices : public Core::TObject {
 
     /// Takes another zone into use and tells all plug-ins.
     void SetTimeZone(const std::string& zone);
+    /// Logs all plug-ins out and ends the login at the server.
+    void LogOut();
     /// Logs all plug-ins out and takes another server into use.
     void SetLink(ServerLink& link);
     /// `changed` is called when a connection was made or lost.

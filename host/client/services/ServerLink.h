@@ -14,6 +14,8 @@ class ServerLink {
     /// Opens the connection if it is not open. False with a line that says what to do.
     virtual bool Connect(std::string& error) = 0;
     virtual bool IsConnected() const = 0;
+    /// Ends the login where the server wants one; Connect asks for another then.
+    virtual void LogOut() {}
     /// The reply's JSON text; empty when there was none.
     virtual std::string Exchange(const std::string& user, const Interface::VoyServerRequest& request) = 0;
     /// Whose data the server answers with: `local`, unless the server knows its users by their logins; then

@@ -11,6 +11,10 @@ LoginLink::LoginLink(std::string server, std::string user, std::string caFile, A
     : server_(std::move(server)), user_(std::move(user)), caFile_(std::move(caFile)), ask_(std::move(ask)) {}
 
 LoginLink::~LoginLink() {
+    LogOut();
+}
+
+void LoginLink::LogOut() {
     if (remote_) remote_->Disconnect();
 }
 

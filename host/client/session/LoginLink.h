@@ -34,6 +34,7 @@ class LoginLink : public ServerLink {
     /// Asks for credentials until the server takes them or there are no more.
     bool Connect(std::string& error) override;
     bool IsConnected() const override;
+    void LogOut() override;
     std::string Exchange(const std::string& user, const Interface::VoyServerRequest& request) override;
     std::string User(const std::string& local) const override;
     std::string Failure() const override;

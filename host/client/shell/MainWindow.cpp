@@ -20,6 +20,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace Tarvik::Client {
 namespace {
 
@@ -63,6 +65,7 @@ void MainWindow::buildTools() {
         {"THEME", "theme", "Ctrl+T", 0, [this] { nextTheme(); }},
         {"LANGUAGE", "language", "Ctrl+G", 0, [this] { nextLanguage(); }},
         {"PREFERENCES", "preferences", "Ctrl+,", 0, [this] { openPreferences(); }},
+        {"LOGOUT", "logout", "Ctrl+Shift+Q", 0, [this] { logOut(); }},
     };
     auto* bar = addToolBar("tools");
     bar->setObjectName("mainToolBar");
@@ -136,7 +139,12 @@ void MainWindow::applyTexts() {
 void MainWindow::showConnection() {
     const QString user = QString::fromStdString(session_.Services().User());
     user_->setText(!session_.IsRemote() ? word("LOCAL_USER") : user.isEmpty() ? word("NOBODY") : user);
-    connection_->setText(word(session_.Link().IsConnected() ? "CONNECTED" : "OFFLINE"));
+    const bool connected = session_.Link().IsConnected();
+    connection_->setText(word(connected ? "CONNECTED" : "OFFLINE"));
+    if (auto* logout = findChild<QAction*>("action_logout")) {
+        logout->setVisible(session_.IsRemote());
+        logout->setEnabled(connected);
+    }
 }
 
 std::optional<Credentials> MainWindow::askLogin(const std::string& server, const std::string& user,
@@ -212,14 +220,20 @@ void MainWindow::openPreferences() {
     if (dialog.exec() == QDialog::Accepted) prefer(dialog.Chosen());
 }
 
-void MainWindow::closeEvent(QCloseEvent* event) {
+bool MainWindow::closePanels() {
     const auto children = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (auto child = children.rbegin(); child != children.rend(); ++child) {
-        if (!(*child)->isWindow() || !(*child)->isVisible() || (*child)->close()) continue;
-        event->ignore();
-        return;
-    }
+    return std::all_of(children.rbegin(), children.rend(), [](QWidget* child) {
+        return !child->isWindow() || !child->isVisible() || child->close();
+    });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!closePanels()) return event->ignore();
     QMainWindow::closeEvent(event);
+}
+
+void MainWindow::logOut() {
+    if (closePanels()) session_.Services().LogOut();
 }
 
 bool MainWindow::event(QEvent* event) {

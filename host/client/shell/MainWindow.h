@@ -39,8 +39,6 @@ class MainWindow : public QMainWindow {
   protected:
     /// Takes the help requests that plug-ins send to the main window.
     bool event(QEvent* event) override;
-    /// Closes the panels first, the last opened before the others; one that stays, since a person wants to
-    /// keep what is not saved, keeps the client.
     void closeEvent(QCloseEvent* event) override;
 
   private:
@@ -54,6 +52,10 @@ class MainWindow : public QMainWindow {
         QAction* action = nullptr;
     };
 
+    /// Closes the panels, the last made before the others. False when one stays, since a person wants to keep
+    /// what is not saved.
+    bool closePanels();
+    void logOut();
     void attachChart();
     void buildTools();
     void buildStatusLine();

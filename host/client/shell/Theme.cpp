@@ -31,6 +31,7 @@ QToolBar#mainToolBar QToolButton { color: @text; background: transparent; border
 QToolBar#mainToolBar QToolButton:hover { background: @panel; border-color: @border; }
 QToolBar#mainToolBar QToolButton:pressed { background: @list; }
 QToolBar#mainToolBar QToolButton:focus { border-color: @accent; }
+QToolBar#mainToolBar QToolButton:disabled { color: @disabled; }
 QToolBar#mainToolBar::separator { background: @border; width: 1px; margin: 4px; }
 QStatusBar#statusLine { background: @window; border-top: 1px solid @border; color: @text; }
 QStatusBar#statusLine::item { border: 0; }
@@ -91,7 +92,8 @@ QString Theme::StyleSheet() const {
     const std::pair<const char*, QColor> roles[] = {
         {"@secondary", colors_.secondary}, {"@onAccent", colors_.onAccent}, {"@accent", colors_.accent},
         {"@window", colors_.window},       {"@border", colors_.border},     {"@panel", colors_.panel},
-        {"@text", colors_.text},           {"@list", colors_.list},         {"@error", colors_.error}};
+        {"@text", colors_.text},           {"@list", colors_.list},         {"@error", colors_.error},
+        {"@disabled", colors_.disabled}};
     QString sheet = kSheet;
     for (const auto& [role, color] : roles) sheet.replace(role, color.name());
     return sheet;

@@ -25,6 +25,7 @@ class ScriptedLink : public ServerLink {
         return canConnect;
     }
     bool IsConnected() const override { return connected; }
+    void LogOut() override { connected = false; }
     std::string Exchange(const std::string& user, const VoyServerRequest& request) override {
         lastUser = user;
         lastText.assign(request.Payload(), request.length);
@@ -162,6 +163,16 @@ class LogoutListener : public Core::TObject {
   private:
     Core::TEvent event_;
 };
+
+TEST_F(HostServicesTest, ALogoutReachesThePluginsAndTheServer) {
+    LogoutListener listener;
+    int changes = 0;
+    services_.OnConnectionChange([&] { ++changes; });
+    services_.LogOut();
+    EXPECT_EQ(listener.count, 1);
+    EXPECT_FALSE(link_.connected);
+    EXPECT_EQ(changes, 1);
+}
 
 TEST_F(HostServicesTest, AnotherServerMeansALogoutAndIsAskedFromThenOn) {
     LogoutListener listener;

@@ -62,6 +62,20 @@ TEST_F(LoginLinkTest, TellsWhyTheLastTryFailedWhenGivenUp) {
     EXPECT_THAT(error_, HasSubstr("refuses"));
 }
 
+TEST_F(LoginLinkTest, AfterALogoutAnotherCanLogIn) {
+    server_.AddUser("bert", "correct horse");
+    answers_ = {{"anna", "correct horse"}, {"bert", "correct horse"}};
+    LoginLink link(server_.Url(), "", "", asker());
+    ASSERT_TRUE(link.Connect(error_)) << error_;
+    link.LogOut();
+    EXPECT_FALSE(link.IsConnected());
+    EXPECT_EQ(link.User("local"), "");
+    EXPECT_THAT(server_.Ask("GET", "/metrics").body,
+                HasSubstr("seaplan_requests_total{command=\"logout\",result=\"ok\"} 1"));
+    ASSERT_TRUE(link.Connect(error_)) << error_;
+    EXPECT_EQ(link.User("local"), "bert");
+}
+
 TEST_F(LoginLinkTest, LogsOutWithItsEnd) {
     answers_ = {{"anna", "correct horse"}};
     auto link = std::make_unique<LoginLink>(server_.Url(), "", "", asker());
