@@ -7,6 +7,7 @@
 #include "host/server/net/service/VoyageServer.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace Tarvik::Server {
 namespace {
@@ -37,10 +38,17 @@ bool TakeSettingsFile(std::vector<std::string>& words, std::string& file) {
     return true;
 }
 
+/// The network of the settings, else the one that came with this program.
+std::string NetworkOf(const Settings& settings) {
+    if (!settings.network.empty()) return settings.network;
+    std::error_code failed;
+    return NetworkBeside(std::filesystem::read_symlink("/proc/self/exe", failed).string());
+}
+
 int Serve(const Settings& settings, const ProgramParts& parts) {
     std::string error;
     ServerParts serverParts;
-    serverParts.routes = OpenRoutes(settings.network, error);
+    serverParts.routes = OpenRoutes(NetworkOf(settings), error);
     if (serverParts.routes == nullptr) return Say(parts, kFailed, error);
     const auto server = VoyageServer::Open(settings, std::move(serverParts), error);
     if (server == nullptr) return Say(parts, kFailed, error);

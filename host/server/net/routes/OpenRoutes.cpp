@@ -4,10 +4,20 @@
 #include "host/server/graph/adapter/GraphRouteSource.h"
 #include "host/server/net/routes/NoRoutes.h"
 
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
 namespace Tarvik::Server {
 
+std::string NetworkBeside(const std::string& program) {
+    const fs::path file = fs::path(program).parent_path().parent_path() / "share/seaplan/network.bin";
+    std::error_code failed;
+    return fs::is_regular_file(file, failed) ? file.string() : std::string();
+}
+
 std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, std::string& error) {
-    if (networkFile.empty()) return std::make_unique<NoRoutes>();
+    if (networkFile.empty() || networkFile == "none") return std::make_unique<NoRoutes>();
     return GraphRouteSource::Open(networkFile, error);
 }
 

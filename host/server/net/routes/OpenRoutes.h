@@ -8,8 +8,12 @@
 
 namespace Tarvik::Server {
 
-/// The source of routes over a network file; for an empty name one that refuses every request. Null, with an
-/// English text in `error`, when the file cannot be used.
+/// The network file that was installed with `program` ("…/bin/seaplan-server":
+/// "…/share/seaplan/network.bin"); empty when there is none.
+std::string NetworkBeside(const std::string& program);
+
+/// The source of routes over a network file; for an empty name and for "none" one that refuses every request.
+/// Null, with an English text in `error`, when the file cannot be used.
 std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, std::string& error);
 
 }  // namespace Tarvik::Server

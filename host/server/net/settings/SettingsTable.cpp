@@ -75,7 +75,8 @@ std::vector<SettingsEntry> MakeTable() {
     return {
         Text("data", &Settings::data, "folder of the data bases; made when it is not there"),
         Database(),
-        Text("network", &Settings::network, "file of the sea network; empty: routes are refused"),
+        Text("network", &Settings::network,
+             "file of the sea network; empty: the one beside the program; none: routes are refused"),
         Address(),
         Whole<std::uint16_t>("port", &Settings::port, 0, 65535, "TCP port; 0 for any free one"),
         Text("tls_certificate", &Settings::tlsCertificate, "PEM file of the certificate chain"),

@@ -69,7 +69,7 @@ class KilledProcessTest : public SharedDatabase, public testing::WithParamInterf
   protected:
     void SetUp() override {
         if (GetParam() == Kept::Files) {
-            variables_ = {"SEAPLAN_SERVER_DATA=" + folder_.File("data"),
+            variables_ = {"SEAPLAN_SERVER_DATA=" + folder_.File("data"), "SEAPLAN_SERVER_NETWORK=none",
                           "SEAPLAN_SERVER_LOGIN_ATTEMPTS_PER_ADDRESS=0"};
         }
         SharedDatabase::SetUp();

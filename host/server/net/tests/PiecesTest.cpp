@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/log/ServerLog.h"
 #include "host/server/net/metrics/Metrics.h"
+#include "host/server/net/routes/OpenRoutes.h"
 #include "host/server/net/sessions/Passwords.h"
 #include "host/server/net/sessions/Tokens.h"
 #include "host/server/net/wire/Envelope.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <vector>
 
 namespace Tarvik::Server {
@@ -31,6 +35,27 @@ TEST(Envelope, OtherLengthsAreNone) {
     const std::string whole = WriteEnvelope({1, 5, "text"});
     for (std::size_t size = 0; size < whole.size(); ++size) EXPECT_FALSE(ReadEnvelope(whole.substr(0, size)));
     EXPECT_FALSE(ReadEnvelope(whole + "x"));
+}
+
+TEST(Routes, ComeFromTheNetworkThatWasInstalledWithTheProgram) {
+    const TempFolder folder;
+    const std::string program = folder.File("bin/seaplan-server");
+    EXPECT_EQ(NetworkBeside(program), "");
+    std::filesystem::create_directories(folder.File("share/seaplan"));
+    std::ofstream(folder.File("share/seaplan/network.bin")) << "no network";
+    EXPECT_EQ(NetworkBeside(program), folder.File("share/seaplan/network.bin"));
+    std::string error;
+    EXPECT_EQ(OpenRoutes(NetworkBeside(program), error), nullptr);
+    EXPECT_NE(error, "");
+}
+
+TEST(Routes, AreRefusedWithoutANetwork) {
+    for (const char* none : {"", "none"}) {
+        std::string error;
+        const auto routes = OpenRoutes(none, error);
+        ASSERT_NE(routes, nullptr) << error;
+        EXPECT_NE(routes->Plan("{}").find("this server has no sea network"), std::string::npos);
+    }
 }
 
 TEST(Token, IsTakenFromItsFieldOnly) {

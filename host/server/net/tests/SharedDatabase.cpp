@@ -36,7 +36,8 @@ nlohmann::json Exchanger::Load(std::uint16_t command, const std::string& text) {
 SharedDatabase::SharedDatabase()
     : connection_(PostgresServer::Instance().MakeDatabase()),
       variables_{"SEAPLAN_SERVER_DATABASE=" + connection_ + " password=" + kSecret,
-                 "SEAPLAN_SERVER_DATA=/none", "SEAPLAN_SERVER_LOGIN_ATTEMPTS_PER_ADDRESS=0"} {}
+                 "SEAPLAN_SERVER_DATA=/none", "SEAPLAN_SERVER_NETWORK=none",
+                 "SEAPLAN_SERVER_LOGIN_ATTEMPTS_PER_ADDRESS=0"} {}
 
 void SharedDatabase::SetUp() {
     const ProgramEnd added =
