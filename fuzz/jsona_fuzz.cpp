@@ -19,7 +19,8 @@ void Require(bool holds) {
 void Walk(const Jsona& value, int depth) {
     Require(depth <= 64);
     Require(value.kind() != Jsona::Kind::None);
-    Require(!value.has("no such key of the fuzzer's"));
+    // No key is this one, since a text that is no UTF-8 does not parse.
+    Require(!value.has("\xFF"));
     const bool object = value.kind() == Jsona::Kind::Object;
     for (int i = 0; i < value.size(); ++i) {
         const Jsona child = value.get(i);
