@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Memory.h"
 #include "bench/Track.h"
-#include "seaplan/data/controllers/VoyPortCallModule.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "testsupport/DataFolder.h"
 
 #include <fmt/format.h>

@@ -2,7 +2,7 @@
 #include "bench/server/CatalogLoad.h"
 
 #include "bench/server/OfficeServer.h"
-#include "host/client/session/RemoteLink.h"
+#include "host/client/remote/RemoteLink.h"
 #include "host/server/app/EmbeddedServer.h"
 #include "host/server/net/routes/NoRoutes.h"
 #include "seaplan/data/VoyageStore.h"

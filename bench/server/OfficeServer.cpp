@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "bench/server/OfficeServer.h"
 
-#include "host/server/net/client/HttpClient.h"
+#include "host/client/remote/HttpClient.h"
 #include "host/server/net/routes/NoRoutes.h"
 #include "host/server/net/service/VoyageServer.h"
-#include "host/server/net/wire/Envelope.h"
+#include "host/server/wire/Envelope.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 
 #include <fcntl.h>

@@ -14,6 +14,9 @@ struct Position {
     double y = 0;
 };
 
+/// Positions as texts "x,y", longitude first, in degrees.
+using PointTexts = std::vector<std::string>;
+
 /// Points of "x,y|x,y|..." without the empty ones. False when the text cannot be split.
 bool SplitPointset(const std::string& pointset, std::vector<std::string>& points);
 /// Reads "x,y" with the comma at index `leastComma` or behind; a part that is no number reads as 0.

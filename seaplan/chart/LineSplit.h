@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "seaplan/calculation/Pointset.h"
+
 #include <string>
 #include <vector>
 
 namespace Tarvik::Seaplan {
-
-using PointTexts = std::vector<std::string>;
 
 /// Cuts a list of "x,y" texts where it meets the date line; the test is on the text ("180", "-180"), which
 /// becomes 179.99 or -179.99. 0 with the pieces of at least two points; -1 fewer than two points. Of a run of

@@ -3,9 +3,9 @@
 
 #include "seaplan/calculation/PointTables.h"
 #include "seaplan/calculation/PositionBook.h"
-#include "seaplan/data/controllers/PortPreparation.h"
-#include "seaplan/data/controllers/VoyCatalogController.h"
-#include "seaplan/data/controllers/VoyController.h"
+#include "seaplan/calculation/PortPreparation.h"
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/tree/NameRules.h"
 
 #include <cmath>

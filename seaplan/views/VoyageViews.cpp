@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/VoyageViews.h"
 
-#include "seaplan/views/skin/Palette.h"
+#include <tarvik/skin/Palette.h>
 
 #include <QApplication>
 #include <QEvent>

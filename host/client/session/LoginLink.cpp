@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/session/LoginLink.h"
 
-#include "host/client/session/RemoteLink.h"
+#include "host/client/remote/RemoteLink.h"
 
 #include <utility>
 

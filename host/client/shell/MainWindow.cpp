@@ -6,8 +6,8 @@
 #include "host/client/shell/PositionText.h"
 #include "host/client/shell/PreferencesDialog.h"
 #include "host/client/shell/Theme.h"
-#include "host/plugins/seamap/SeamapContract.h"
-#include "seaplan/views/HelpRequest.h"
+#include <tarvik/interface/ChartWindow.h>
+#include <tarvik/interface/HelpRequest.h>
 
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/server/graph/Sphere.h"
+#include "host/geo/Sphere.h"
 
 namespace Tarvik::Data {
 namespace {

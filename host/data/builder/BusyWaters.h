@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "host/server/graph/GeoPoint.h"
+#include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Data {
 

@@ -5,7 +5,7 @@
 
 #include "host/data/builder/BusyWaters.h"
 #include "host/data/builder/TopoLand.h"
-#include "host/server/graph/LandIndex.h"
+#include "host/geo/LandIndex.h"
 
 namespace Tarvik::Data {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "host/data/LandFile.h"
+#include "host/geo/LandFile.h"
 #include "host/data/builder/TopoLand.h"
 
 namespace Tarvik::Data {

@@ -8,7 +8,7 @@
 #include "host/data/builder/CoastCorners.h"
 #include "host/data/builder/PortLinker.h"
 #include "host/server/graph/SeaNetwork.h"
-#include "host/server/graph/Sphere.h"
+#include "host/geo/Sphere.h"
 
 namespace Tarvik::Data {
 namespace {

@@ -11,7 +11,7 @@
 #include <stdexcept>
 
 #include "host/data/builder/CsvTable.h"
-#include "host/server/graph/Sphere.h"
+#include "host/geo/Sphere.h"
 
 namespace Tarvik::Data {
 namespace {

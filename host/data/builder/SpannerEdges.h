@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "host/server/graph/LandIndex.h"
+#include "host/geo/LandIndex.h"
 #include "host/server/graph/NetworkData.h"
-#include "host/server/graph/Sphere.h"
+#include "host/geo/Sphere.h"
 
 namespace Tarvik::Data {
 

@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/server/graph/Sphere.h"
+#include "host/geo/Sphere.h"
 
 namespace Tarvik::Data {
 namespace {

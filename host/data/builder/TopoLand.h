@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/server/graph/GeoPoint.h"
+#include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Data {
 

@@ -7,7 +7,7 @@
 #include <iterator>
 #include <set>
 
-#include "host/data/LandFile.h"
+#include "host/geo/LandFile.h"
 #include "host/data/builder/LandCutter.h"
 #include "host/data/builder/NetworkBuilder.h"
 #include "host/data/builder/PointDatabase.h"

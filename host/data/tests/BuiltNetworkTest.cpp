@@ -6,7 +6,7 @@
 #include <cmath>
 #include <map>
 
-#include "host/data/LandFile.h"
+#include "host/geo/LandFile.h"
 #include "host/data/tests/CoastCheck.h"
 #include "host/server/graph/RouteEngine.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "host/server/graph/GeoPoint.h"
+#include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Server {
 

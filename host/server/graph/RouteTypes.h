@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/server/graph/GeoPoint.h"
+#include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Server {
 

@@ -8,10 +8,10 @@
 #include <unordered_map>
 
 #include "host/server/graph/Basins.h"
-#include "host/server/graph/LandIndex.h"
+#include "host/geo/LandIndex.h"
 #include "host/server/graph/Landmarks.h"
 #include "host/server/graph/NetworkData.h"
-#include "host/server/graph/Sphere.h"
+#include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {
 

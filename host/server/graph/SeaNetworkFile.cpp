@@ -5,8 +5,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "host/server/graph/ByteReader.h"
-#include "host/server/graph/ByteWriter.h"
+#include "host/geo/ByteReader.h"
+#include "host/geo/ByteWriter.h"
 
 namespace Tarvik::Server {
 namespace {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/server/api/RemarkCommands.h"
-#include "host/server/net/users/AccountStorage.h"
+#include "host/server/accounts/AccountStorage.h"
 #include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/transfer/TransferFile.h"
 #include "host/server/transfer/TransferWriter.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/users/AccountStorage.h"
+#include "host/server/accounts/AccountStorage.h"
 #include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/transfer/TransferReader.h"
 

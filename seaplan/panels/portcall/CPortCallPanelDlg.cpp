@@ -71,10 +71,10 @@ void CPortCallPanelDlg::resetState() {
 void CPortCallPanelDlg::Reset() {
     askUnsaved();
     voyageId_ = nextVoyageId_;
-    reset();
+    ClearState();
 }
 
-void CPortCallPanelDlg::reset() {
+void CPortCallPanelDlg::ClearState() {
     hideEditors();
     resetState();
     schedule_.ForgetPortList();
@@ -109,7 +109,7 @@ int CPortCallPanelDlg::FillForVoyage(int mode) {
 }
 
 int CPortCallPanelDlg::fill(int mode) {
-    reset();
+    ClearState();
     if (voyageId_.empty()) {
         NoticeText(kNoVoyageText, view_.Handle());
         return -3;
@@ -124,7 +124,7 @@ int CPortCallPanelDlg::load(int mode) {
         return schedule_.LoadSchedule(voyageId_, loaded, mode) != 0;
     }();
     if (failed) {
-        reset();
+        ClearState();
         return 0;
     }
     PortCallRows rows;

@@ -86,7 +86,7 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     void* onSwitchLanguage(void* input);
     void askUnsaved();
     void resetState();
-    void reset();
+    void ClearState();
     int fill(int mode);
     int load(int mode);
     int calculate();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/controllers/VoyCatalogController.h"
-#include "seaplan/data/controllers/VoyController.h"
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/services/AisCommands.h"
 
 namespace Tarvik::Seaplan {

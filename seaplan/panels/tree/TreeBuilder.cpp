@@ -220,7 +220,7 @@ int TreeBuilder::ShowStatus(const std::string& vi) {
     if (const int result = knowStatus(vi); result != 0) return result;
     const TreeRow row = c_.FindVoyageRow(vi);
     if (row == kNoRow) return -4;
-    showStatus(row, c_.voyageStatuses.at(vi));
+    DrawStatus(row, c_.voyageStatuses.at(vi));
     return 0;
 }
 
@@ -235,11 +235,11 @@ void TreeBuilder::ShowStatuses(TreeRow categoryRow, const std::string& ci) {
     }
     for (const auto& [vi, state] : voyages->second) {
         const auto row = rows.find(vi);
-        if (knowStatus(vi) == 0 && row != rows.end()) showStatus(row->second, c_.voyageStatuses.at(vi));
+        if (knowStatus(vi) == 0 && row != rows.end()) DrawStatus(row->second, c_.voyageStatuses.at(vi));
     }
 }
 
-void TreeBuilder::showStatus(TreeRow row, int status) {
+void TreeBuilder::DrawStatus(TreeRow row, int status) {
     const char* image = "#Voyage_status_plan";
     TextId tip = TextId::IDS_TREESTATUS_BFVOY;
     if (status == static_cast<int>(VoyageStatus::Underway)) {

@@ -46,7 +46,7 @@ class TreeBuilder {
     int addEmptyCategories(const std::vector<VoyCategory*>& deleted);
     void markVoyage(const VoyInfo& voyage);
     int knowStatus(const std::string& vi);
-    void showStatus(TreeRow row, int status);
+    void DrawStatus(TreeRow row, int status);
     void applyCategoryTexts(TreeRow row);
     void applyVoyageTexts(TreeRow row);
     void applyDeletedTexts(TreeRow row);

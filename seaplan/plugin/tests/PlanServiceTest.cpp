@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/plugin/PlanService.h"
 
-#include "seaplan/data/controllers/tests/ScheduleFixture.h"
+#include "seaplan/controllers/tests/ScheduleFixture.h"
 
 #include <filesystem>
 #include <limits>

@@ -2,8 +2,8 @@
 #include "seaplan/views/datetime/CalendarPopup.h"
 
 #include "seaplan/panels/language/LoadText.h"
-#include "seaplan/views/skin/Palette.h"
-#include "seaplan/views/skin/ToolWindow.h"
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
 
 #include <tarvik/interface/LoadString.h>
 

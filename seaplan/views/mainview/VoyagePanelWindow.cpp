@@ -3,8 +3,8 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
-#include "seaplan/views/HelpRequest.h"
-#include "seaplan/views/skin/Palette.h"
+#include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/Palette.h>
 
 #include <QCheckBox>
 #include <QVBoxLayout>

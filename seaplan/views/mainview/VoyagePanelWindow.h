@@ -2,7 +2,7 @@
 #pragma once
 
 #include "seaplan/panels/mainview/MainViewWindow.h"
-#include "seaplan/views/skin/ToolWindow.h"
+#include <tarvik/skin/ToolWindow.h>
 #include "seaplan/views/tree/VoyageTreeView.h"
 #include "seaplan/views/vessel/VesselBox.h"
 

@@ -3,8 +3,8 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/views/portcall/PortCallModel.h"
-#include "seaplan/views/skin/Icons.h"
-#include "seaplan/views/skin/Palette.h"
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
 
 #include <QPainter>
 

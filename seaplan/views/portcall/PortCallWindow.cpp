@@ -3,9 +3,9 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
-#include "seaplan/views/HelpRequest.h"
-#include "seaplan/views/skin/Icons.h"
-#include "seaplan/views/skin/Palette.h"
+#include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
 
 #include <QApplication>
 #include <QHBoxLayout>

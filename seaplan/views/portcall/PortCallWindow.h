@@ -6,7 +6,7 @@
 #include "seaplan/views/datetime/CalendarPopup.h"
 #include "seaplan/views/portcall/PortCallModel.h"
 #include "seaplan/views/portcall/PortCallTableView.h"
-#include "seaplan/views/skin/ToolWindow.h"
+#include <tarvik/skin/ToolWindow.h>
 
 #include <QPointer>
 

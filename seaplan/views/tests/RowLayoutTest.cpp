@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/skin/Icons.h"
+#include <tarvik/skin/Icons.h>
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "seaplan/views/tree/RowDelegate.h"
 

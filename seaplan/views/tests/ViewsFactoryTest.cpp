@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/ViewsFactory.h"
 
-#include "seaplan/data/controllers/VoyCatalogController.h"
-#include "seaplan/data/controllers/VoyController.h"
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
-#include "seaplan/views/HelpRequest.h"
+#include <tarvik/interface/HelpRequest.h>
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
-#include "seaplan/views/skin/Palette.h"
+#include <tarvik/skin/Palette.h>
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingHost.h"
 

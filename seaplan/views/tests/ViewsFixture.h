@@ -5,7 +5,7 @@
 #include "seaplan/views/VoyageViews.h"
 #include "seaplan/views/preview/FileTexts.h"
 #include "seaplan/views/preview/SampleVoyages.h"
-#include "seaplan/views/skin/Palette.h"
+#include <tarvik/skin/Palette.h>
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingMsgSink.h"
 

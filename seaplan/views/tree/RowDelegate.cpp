@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/tree/RowDelegate.h"
 
-#include "seaplan/views/skin/Icons.h"
-#include "seaplan/views/skin/Palette.h"
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
 #include "seaplan/views/tree/VoyageTreeView.h"
 
 namespace Tarvik::Seaplan {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// The keyboard's ways through the tree, and the menu of a row.
-#include "seaplan/views/skin/Icons.h"
-#include "seaplan/views/skin/Palette.h"
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
 #include "seaplan/views/tree/VoyageTreeView.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"
 

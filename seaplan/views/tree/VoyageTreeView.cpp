@@ -3,8 +3,8 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/tree/TreeContext.h"
-#include "seaplan/views/skin/Palette.h"
-#include "seaplan/views/skin/ToolWindow.h"
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
 #include "seaplan/views/tree/RowDelegate.h"
 #include "seaplan/views/tree/RowModel.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"

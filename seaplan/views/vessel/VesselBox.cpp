@@ -3,8 +3,8 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
-#include "seaplan/views/skin/Palette.h"
-#include "seaplan/views/skin/ToolWindow.h"
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
 
 #include <QApplication>
 #include <QKeyEvent>

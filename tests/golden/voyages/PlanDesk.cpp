@@ -2,7 +2,7 @@
 #include "tests/golden/voyages/PlanDesk.h"
 
 #include "seaplan/calculation/PositionBook.h"
-#include "seaplan/data/controllers/PortPreparation.h"
+#include "seaplan/calculation/PortPreparation.h"
 #include "tests/golden/voyages/SeaServer.h"
 #include "tests/golden/voyages/VoyageTexts.h"
 

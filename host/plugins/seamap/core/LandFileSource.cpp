@@ -3,7 +3,7 @@
 
 #include <tarvik/util/FileUtl.h>
 
-#include "host/data/LandFile.h"
+#include "host/geo/LandFile.h"
 
 namespace Tarvik::Seamap {
 

@@ -5,7 +5,7 @@
 #include <tarvik/core/PluginInfo.h>
 #include <tarvik/interface/BusContract.h>
 
-#include "host/plugins/seamap/SeamapContract.h"
+#include <tarvik/interface/ChartWindow.h>
 
 namespace Tarvik {
 namespace {

@@ -7,7 +7,7 @@
 #include <array>
 #include <new>
 
-#include "host/plugins/seamap/SeamapContract.h"
+#include <tarvik/interface/ChartWindow.h>
 #include "host/plugins/seamap/core/LandFileSource.h"
 
 namespace Tarvik::Seamap {

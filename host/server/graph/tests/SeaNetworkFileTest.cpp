@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "host/server/graph/ByteWriter.h"
+#include "host/geo/ByteWriter.h"
 #include "host/server/graph/tests/SmallSea.h"
 
 namespace Tarvik::Server {

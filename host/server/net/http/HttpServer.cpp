@@ -41,12 +41,12 @@ class HttpServer::Core {
     }
     void Run();
     void Stop() {
-        net::post(io_, [this] { stop(); });
+        net::post(io_, [this] { StopNow(); });
     }
 
   private:
     void waitForSignal();
-    void stop();
+    void StopNow();
     void endGrace();
     net::awaitable<void> accept();
     void open(tcp::socket socket);
@@ -104,11 +104,11 @@ void HttpServer::Core::waitForSignal() {
         if (failed) return;
         if (host_->Stopping()) return endGrace();
         waitForSignal();
-        stop();
+        StopNow();
     });
 }
 
-void HttpServer::Core::stop() {
+void HttpServer::Core::StopNow() {
     if (host_->Stopping()) return;
     boost::system::error_code ignored;
     acceptor_.close(ignored);

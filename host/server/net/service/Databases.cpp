@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/service/Databases.h"
 
-#include "host/server/net/users/PostgresAccounts.h"
-#include "host/server/net/users/SqliteAccounts.h"
+#include "host/server/accounts/PostgresAccounts.h"
+#include "host/server/accounts/SqliteAccounts.h"
 #include "host/server/storage/postgres/ConnectionText.h"
 #include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"

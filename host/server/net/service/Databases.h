@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/server/net/settings/Settings.h"
-#include "host/server/net/users/AccountStorage.h"
+#include "host/server/accounts/AccountStorage.h"
 #include "host/server/storage/contract/Storage.h"
 
 #include <memory>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/service/ExchangeEndpoint.h"
 
-#include "host/server/net/sessions/Tokens.h"
-#include "host/server/net/wire/Envelope.h"
+#include "host/server/accounts/Tokens.h"
+#include "host/server/wire/Envelope.h"
 
 namespace Tarvik::Server {
 namespace {

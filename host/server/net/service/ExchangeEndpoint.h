@@ -3,7 +3,7 @@
 
 #include "host/server/api/VoyageService.h"
 #include "host/server/net/service/Answered.h"
-#include "host/server/net/sessions/Sessions.h"
+#include "host/server/accounts/Sessions.h"
 
 namespace Tarvik::Server {
 

@@ -2,8 +2,8 @@
 #include "host/server/net/service/LoginEndpoint.h"
 
 #include "host/server/net/log/ServerLog.h"
-#include "host/server/net/sessions/Tokens.h"
-#include "host/server/net/users/UserRules.h"
+#include "host/server/accounts/Tokens.h"
+#include "host/server/accounts/UserRules.h"
 
 #include <nlohmann/json.hpp>
 

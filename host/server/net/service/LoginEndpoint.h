@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/server/net/service/Answered.h"
-#include "host/server/net/sessions/Sessions.h"
+#include "host/server/accounts/Sessions.h"
 
 namespace Tarvik::Server {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/service/ServerFront.h"
 
-#include "host/server/net/sessions/Tokens.h"
+#include "host/server/accounts/Tokens.h"
 
 #include <fmt/format.h>
 

@@ -2,9 +2,9 @@
 #include "host/server/net/log/ServerLog.h"
 #include "host/server/net/metrics/Metrics.h"
 #include "host/server/net/routes/OpenRoutes.h"
-#include "host/server/net/sessions/Passwords.h"
-#include "host/server/net/sessions/Tokens.h"
-#include "host/server/net/wire/Envelope.h"
+#include "host/server/accounts/Passwords.h"
+#include "host/server/accounts/Tokens.h"
+#include "host/server/wire/Envelope.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 
 #include <gtest/gtest.h>

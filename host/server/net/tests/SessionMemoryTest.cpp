@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/sessions/SessionMemory.h"
+#include "host/server/accounts/SessionMemory.h"
 
 #include "host/server/net/tests/TestServer.h"
 

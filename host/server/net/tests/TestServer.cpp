@@ -2,7 +2,7 @@
 #include "host/server/net/tests/TestServer.h"
 
 #include "host/server/net/routes/NoRoutes.h"
-#include "host/server/net/wire/Envelope.h"
+#include "host/server/wire/Envelope.h"
 
 #include <nlohmann/json.hpp>
 #include <stdexcept>

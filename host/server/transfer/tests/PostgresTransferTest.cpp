@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/transfer/PostgresTransfer.h"
+#include "host/server/storage/postgres/PostgresTransfer.h"
 
 #include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/postgres/tests/PostgresServer.h"

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "host/data/LandFile.h"
+#include "host/geo/LandFile.h"
 
 namespace Tarvik::Seamap {
 namespace {

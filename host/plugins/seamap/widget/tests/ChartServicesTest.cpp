@@ -7,7 +7,7 @@
 #include <QTest>
 #include <memory>
 
-#include "host/plugins/seamap/SeamapContract.h"
+#include <tarvik/interface/ChartWindow.h>
 
 namespace Tarvik::Seamap {
 namespace {

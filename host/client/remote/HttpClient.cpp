@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/remote/HttpClient.h"
+
+#include "host/client/remote/HostLookup.h"
+
+#include <boost/asio/awaitable.hpp>
+#include <boost/asio/co_spawn.hpp>
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ssl.hpp>
+#include <boost/asio/use_awaitable.hpp>
+#include <boost/beast/core.hpp>
+#include <boost/beast/http.hpp>
+#include <boost/beast/ssl.hpp>
+
+#include <charconv>
+#include <exception>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+
+namespace Tarvik::Client {
+namespace {
+
+namespace net = boost::asio;
+namespace beast = boost::beast;
+namespace http = boost::beast::http;
+
+constexpr std::uint64_t kMostAnswerBytes = 64U * 1024 * 1024;
+
+using Deadline = std::chrono::steady_clock::time_point;
+using Request = http::request<http::string_body>;
+using Parser = http::response_parser<http::string_body>;
+
+}  // namespace
+
+/// Everything that needs the network library, kept out of the header.
+class HttpClient::Core {
+  public:
+    Core(const ServerUrl& url, std::chrono::milliseconds limit, std::string caFile)
+        : url_(url), limit_(limit), caFile_(std::move(caFile)) {}
+
+    HttpAnswer Send(const Request& request);
+    const ServerUrl& Url() const { return url_; }
+
+  private:
+    using Plain = beast::tcp_stream;
+    using Tls = beast::ssl_stream<beast::tcp_stream>;
+
+    void prepareTls();
+    bool isUsable();
+    void close();
+    net::awaitable<void> talk(const Request& request, Parser& parser, Deadline deadline);
+    net::awaitable<void> connect(Deadline deadline);
+    beast::tcp_stream& tcp() { return plain_ ? *plain_ : beast::get_lowest_layer(*tls_); }
+
+    ServerUrl url_;
+    std::chrono::milliseconds limit_;
+    std::string caFile_;
+    net::io_context io_{1};
+    std::optional<net::ssl::context> context_;
+    std::optional<Plain> plain_;
+    std::optional<Tls> tls_;
+    beast::flat_buffer buffer_;
+};
+
+/// Made at the first use, since reading the system's certificates takes time.
+void HttpClient::Core::prepareTls() {
+    if (context_) return;
+    net::ssl::context context(net::ssl::context::tls_client);
+    boost::system::error_code failed;
+    context.set_verify_mode(net::ssl::verify_peer);
+    context.set_verify_callback(net::ssl::host_name_verification(url_.host));
+    if (caFile_.empty()) {
+        context.set_default_verify_paths(failed);
+    } else {
+        context.load_verify_file(caFile_, failed);
+    }
+    if (failed) throw std::runtime_error("the trusted certificates " + caFile_ + " cannot be read");
+    context_.emplace(std::move(context));
+}
+
+/// Between two requests a server has nothing to say: anything to be read is the end of the connection.
+bool HttpClient::Core::isUsable() {
+    if (!plain_ && !tls_) return false;
+    if (!tcp().socket().is_open() || buffer_.size() > 0) return false;
+    char byte = 0;
+    boost::system::error_code state;
+    tcp().socket().non_blocking(true, state);
+    tcp().socket().receive(net::buffer(&byte, 1), net::socket_base::message_peek, state);
+    return state == net::error::would_block;
+}
+
+void HttpClient::Core::close() {
+    plain_.reset();
+    tls_.reset();
+    buffer_.clear();
+}
+
+net::awaitable<void> HttpClient::Core::connect(Deadline deadline) {
+    std::string error;
+    const auto endpoints = LookUpHost(url_.host, url_.port, deadline, error);
+    if (endpoints.empty()) throw std::runtime_error(error);
+    if (url_.tls) {
+        prepareTls();
+        tls_.emplace(io_, *context_);
+        boost::system::error_code named;
+        net::ip::make_address(url_.host, named);
+        if (named) SSL_set_tlsext_host_name(tls_->native_handle(), url_.host.c_str());
+    } else {
+        plain_.emplace(io_);
+    }
+    tcp().expires_at(deadline);
+    co_await tcp().async_connect(endpoints, net::use_awaitable);
+    tcp().socket().set_option(net::ip::tcp::no_delay(true));
+    if (tls_) co_await tls_->async_handshake(net::ssl::stream_base::client, net::use_awaitable);
+}
+
+net::awaitable<void> HttpClient::Core::talk(const Request& request, Parser& parser, Deadline deadline) {
+    if (!isUsable()) {
+        close();
+        co_await connect(deadline);
+    }
+    tcp().expires_at(deadline);
+    parser.body_limit(kMostAnswerBytes);
+    if (tls_) {
+        co_await http::async_write(*tls_, request, net::use_awaitable);
+        co_await http::async_read(*tls_, buffer_, parser, net::use_awaitable);
+    } else {
+        co_await http::async_write(*plain_, request, net::use_awaitable);
+        co_await http::async_read(*plain_, buffer_, parser, net::use_awaitable);
+    }
+    tcp().expires_never();
+    if (!parser.get().keep_alive()) close();
+}
+
+HttpAnswer HttpClient::Core::Send(const Request& request) {
+    const Deadline deadline = std::chrono::steady_clock::now() + limit_;
+    HttpAnswer answer;
+    Parser parser;
+    std::exception_ptr failed;
+    io_.restart();
+    net::co_spawn(io_, talk(request, parser, deadline),
+                  [&failed](std::exception_ptr thrown) { failed = std::move(thrown); });
+    io_.run();
+    try {
+        if (failed) std::rethrow_exception(failed);
+        answer.status = static_cast<int>(parser.get().result_int());
+        const auto wait = parser.get()[http::field::retry_after];
+        std::from_chars(wait.data(), wait.data() + wait.size(), answer.retryAfterSeconds);
+        answer.body = std::move(parser.get().body());
+    } catch (const boost::system::system_error& error) {
+        const bool late = error.code() == beast::error::timeout;
+        answer.failure = late ? "the time limit is over" : error.code().message();
+        close();
+    } catch (const std::exception& error) {
+        answer.failure = error.what();
+        close();
+    }
+    return answer;
+}
+
+HttpClient::HttpClient(const ServerUrl& url, std::chrono::milliseconds limit, std::string caFile)
+    : core_(std::make_unique<Core>(url, limit, std::move(caFile))) {}
+
+HttpClient::~HttpClient() = default;
+
+HttpAnswer HttpClient::Post(const std::string& path, const std::string& contentType, const std::string& body,
+                            const std::string& token) {
+    Request request(http::verb::post, path, 11);
+    request.set(http::field::host, core_->Url().HostField());
+    request.set(http::field::content_type, contentType);
+    if (!token.empty()) request.set(http::field::authorization, "Bearer " + token);
+    request.body() = body;
+    request.prepare_payload();
+    return core_->Send(request);
+}
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/client/remote/ServerUrl.h"
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+namespace Tarvik::Client {
+
+/// What came of one request.
+struct HttpAnswer {
+    int status = 0;             ///< 0 when there was no answer
+    std::string body;           ///< of an answer
+    std::string failure;        ///< without an answer: why, in English, without a full stop
+    int retryAfterSeconds = 0;  ///< what the server asks to wait, 0 for nothing
+};
+
+/// One kept connection to a server. A request opens it when it is not open or the server has closed it since;
+/// a request that failed is not sent again. For one thread.
+class HttpClient {
+  public:
+    /// `limit` bounds one request from looking up the name to the last byte of the answer. `caFile` names PEM
+    /// certificates to trust for TLS, empty for the system's.
+    HttpClient(const ServerUrl& url, std::chrono::milliseconds limit, std::string caFile);
+    ~HttpClient();
+    HttpClient(const HttpClient&) = delete;
+    HttpClient& operator=(const HttpClient&) = delete;
+
+    /// Sends a POST; `token` goes into an Authorization field unless it is empty.
+    HttpAnswer Post(const std::string& path, const std::string& contentType, const std::string& body,
+                    const std::string& token);
+
+  private:
+    class Core;
+    std::unique_ptr<Core> core_;
+};
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "host/geo/GeoPoint.h"
+
+namespace Tarvik::Server {
+
+/// A direction from the earth's centre; length 1.
+struct UnitVector {
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+};
+
+inline constexpr double kDegree = 0.017453292519943295;
+/// Nautical miles in one degree of arc of the search sphere.
+inline constexpr double kNmPerDegree = 60.0;
+inline constexpr double kKmPerNm = 1.852;
+/// Great circles are broken into straight pieces of at most this many degrees of arc.
+inline constexpr double kChunkDegrees = 1.0;
+
+UnitVector toVector(GeoPoint p);
+GeoPoint toPoint(const UnitVector& v);
+double dot(const UnitVector& a, const UnitVector& b);
+
+/// Angle between two directions in nautical miles, exact for near and for far points.
+double arcNm(const UnitVector& a, const UnitVector& b);
+double arcNm(GeoPoint a, GeoPoint b);
+
+/// Length of the WGS-84 geodesic in km.
+double geodesicKm(GeoPoint a, GeoPoint b);
+
+/// Longitude brought into [-180, 180).
+double wrapLongitude(double x);
+
+/// Rounds to 5 decimals (about a metre), the precision in which positions are stored and sent.
+GeoPoint roundPoint(GeoPoint p);
+
+/// The great circle from a to b as points at most `kChunkDegrees` apart, ends included. The longitudes run on
+/// past ±180 where the way crosses the date line, so that neighbours never lie more than 180 degrees apart.
+std::vector<GeoPoint> greatCircle(GeoPoint a, GeoPoint b);
+
+/// The point at a distance (NM) from `from` in a direction (degrees clockwise from north).
+GeoPoint destination(GeoPoint from, double bearingDegrees, double nm);
+
+}  // namespace Tarvik::Server

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "host/geo/LandFile.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace Tarvik::Data {
+namespace {
+
+LandFile sample() {
+    LandFile land;
+    for (size_t level = 0; level < LandFile::kLevels; ++level) {
+        const float size = static_cast<float>(level) + 1.0F;
+        land.levels[level].resize(2);
+        land.levels[level][0].points = {{0, 0}, {size, 0}, {size, -size}};
+        land.levels[level][1].points = {{-180, 80}, {-170, 80}, {-170, 90}};
+        land.coasts[level].resize(1);
+        land.coasts[level][0].points = {{0, 0}, {size, 5}};
+    }
+    return land;
+}
+
+std::string errorOf(const std::string& bytes) {
+    std::string error;
+    return LandFile::decode(bytes, error) ? "none" : error;
+}
+
+TEST(LandFile, ReadsWhatItWroteAndMeasuresEveryCell) {
+    std::string error;
+    const auto land = LandFile::decode(sample().encode(), error);
+    ASSERT_TRUE(land) << error;
+    EXPECT_EQ(land->encode(), sample().encode());
+    const LandFile::Cell& cell = land->levels[2][0];
+    EXPECT_EQ(cell.minX, 0);
+    EXPECT_EQ(cell.minY, -3);
+    EXPECT_EQ(cell.maxX, 3);
+    EXPECT_EQ(cell.maxY, 0);
+}
+
+TEST(LandFile, RefusesAFileCutAnywhere) {
+    const std::string bytes = sample().encode();
+    for (size_t length = 0; length < bytes.size(); ++length) {
+        EXPECT_EQ(errorOf(bytes.substr(0, length)),
+                  length < 16 ? "this is not a land file" : "the land file is cut or has grown")
+            << length;
+    }
+    EXPECT_EQ(errorOf(bytes + "x"), "the land file is cut or has grown");
+}
+
+TEST(LandFile, RefusesListsThatDoNotFitTheLength) {
+    std::string bytes = sample().encode();
+    for (size_t length = 16; length < bytes.size(); ++length) {
+        std::string cut = bytes.substr(0, length);
+        const size_t payload = length - 16;
+        for (size_t i = 0; i < 8; ++i) cut[8 + i] = static_cast<char>((payload >> (8 * i)) & 0xFF);
+        EXPECT_EQ(errorOf(cut), "the land file is damaged") << length;
+    }
+    bytes[19] = '\x7F';  // a count of two thousand million cells
+    EXPECT_EQ(errorOf(bytes), "the land file is damaged");
+}
+
+TEST(LandFile, RefusesAForeignFileAndImpossiblePlaces) {
+    std::string bytes = sample().encode();
+    bytes[0] = 'l';
+    EXPECT_EQ(errorOf(bytes), "this is not a land file");
+    LandFile land = sample();
+    land.levels[0][0].points[1].first = 181.0F;
+    EXPECT_EQ(errorOf(land.encode()), "the land file is damaged");
+    land = sample();
+    land.coasts[1][0].points.assign(LandFile::kMaxPoints + 1, {0.0F, 0.0F});
+    EXPECT_EQ(errorOf(land.encode()), "the land file is damaged");
+    land = sample();
+    land.coasts[1][0].points.clear();
+    EXPECT_EQ(errorOf(land.encode()), "the land file is damaged");
+}
+
+TEST(LandFile, AMissingOrCutFileIsNamedWithWhatToDo) {
+    std::string pattern = (std::filesystem::temp_directory_path() / "land-file-XXXXXX").string();
+    const std::filesystem::path folder = mkdtemp(pattern.data());
+    const std::string path = (folder / "land.bin").string();
+    std::string error;
+    EXPECT_FALSE(LandFile::load(path, error));
+    EXPECT_EQ(error, "cannot open the land file " + path + ". Build or install the client again.");
+    ASSERT_EQ(sample().save(path), "");
+    EXPECT_TRUE(LandFile::load(path, error));
+    std::filesystem::resize_file(path, 40);
+    EXPECT_FALSE(LandFile::load(path, error));
+    EXPECT_EQ(error, "the land file is cut or has grown: " + path + ". Build or install the client again.");
+    EXPECT_EQ(sample().save(path + "/x"), "cannot write " + path + "/x");
+    std::filesystem::remove_all(folder);
+}
+
+}  // namespace
+}  // namespace Tarvik::Data

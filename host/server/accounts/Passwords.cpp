@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/accounts/Passwords.h"
+
+#include <sodium.h>
+
+#include <array>
+
+namespace Tarvik::Server {
+
+Passwords::Passwords(PasswordCost cost) : cost_(cost) {
+    decoy_ = Hash("nobody has this password");
+}
+
+std::string Passwords::Hash(const std::string& password) const {
+    std::array<char, crypto_pwhash_STRBYTES> text{};
+    if (sodium_init() < 0) return {};
+    if (crypto_pwhash_str(text.data(), password.data(), password.size(), cost_.passes, cost_.memoryBytes) !=
+        0) {
+        return {};
+    }
+    return text.data();
+}
+
+bool Passwords::Matches(const std::string& hash, const std::string& password) const {
+    if (hash.empty() || hash.size() >= crypto_pwhash_STRBYTES) return false;
+    return crypto_pwhash_str_verify(hash.c_str(), password.data(), password.size()) == 0;
+}
+
+void Passwords::Pretend(const std::string& password) const {
+    static_cast<void>(Matches(decoy_, password));
+}
+
+bool Passwords::IsOutdated(const std::string& hash) const {
+    return hash.size() < crypto_pwhash_STRBYTES &&
+           crypto_pwhash_str_needs_rehash(hash.c_str(), cost_.passes, cost_.memoryBytes) == 1;
+}
+
+}  // namespace Tarvik::Server

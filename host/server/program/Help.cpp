@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/program/Help.h"
+
+#include "host/server/net/settings/SettingsTable.h"
+
+#include <fmt/format.h>
+
+namespace Tarvik::Server {
+
+std::string HelpText() {
+    std::string text = R"(usage: seaplan-server [--settings FILE] COMMAND
+
+commands:
+  serve               serves until SIGTERM or SIGINT; requests that have begun are finished first
+  user add NAME       adds a user; the password is the first line of standard input
+  user password NAME  sets another password and ends the user's sessions
+  user disable NAME   ends the user's sessions and lets the user log in no more
+  user enable NAME    lets a disabled user log in again
+  user list           prints every user, one a line, with "enabled" or "disabled"
+  export [--user NAME | --all] FILE
+                      writes one user's voyages, or all users with their accounts, into a file
+  import [--user NAME] [--add] FILE
+                      reads such a file, wholly or not at all; --user gives the one user's voyages to NAME,
+                      --add puts them beside those that are there
+                      both take --data FOLDER, as of a client, instead of the settings' data
+  --help              prints this
+  --version           prints the version
+
+Settings come from the file named by --settings, else by SEAPLAN_SERVER_SETTINGS, else from
+/etc/seaplan-server.conf if it is there: lines "key = value", "#" begins a comment line. A variable
+SEAPLAN_SERVER_KEY in the environment goes before the file. Users may be changed while the server runs.
+
+exit codes: 0 success; 1 the command failed; 2 a wrong word or setting
+
+settings and their defaults:
+)";
+    const Settings defaults;
+    for (const SettingsEntry& entry : SettingsTable()) {
+        text += fmt::format("  {} = {}\n      {}\n", entry.key, entry.print(defaults), entry.meaning);
+    }
+    return text;
+}
+
+std::string VersionText() {
+    return std::string("seaplan-server ") + SEAPLAN_SERVER_VERSION + "\n";
+}
+
+}  // namespace Tarvik::Server

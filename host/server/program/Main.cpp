@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/program/PasswordPrompt.h"
+#include "host/server/program/Program.h"
+
+#include <exception>
+#include <iostream>
+
+int main(int count, char** words) {
+    using namespace Tarvik::Server;
+    try {
+        const ProgramParts parts{ReadEnvironment(), AskPassword, std::cout, std::cerr};
+        return RunProgram({words + 1, words + count}, parts);
+    } catch (const std::exception& error) {
+        std::cerr << "seaplan-server: " << error.what() << "\n";
+        return 1;
+    }
+}

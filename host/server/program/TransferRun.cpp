@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/program/TransferRun.h"
+
+#include "host/server/api/VoyageService.h"
+#include "host/server/net/service/Databases.h"
+#include "host/server/accounts/UserRules.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+#include "host/server/storage/postgres/PostgresTransfer.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace Tarvik::Server {
+namespace {
+
+/// The data bases that a command works on.
+struct Opened {
+    std::unique_ptr<SqliteStorage> file;
+    std::unique_ptr<PostgresTransfer> server;
+    std::unique_ptr<AccountStorage> accounts;  ///< null in a client's folder
+
+    TransferStorage& Records() { return file ? file->Transfer() : *server; }
+};
+
+bool OpenServer(const Settings& settings, Opened& opened, std::string& error) {
+    std::string reason;
+    opened.server = PostgresTransfer::Open(settings.database, reason);
+    if (opened.server == nullptr) {
+        error = "the data base " + DescribeData(settings) + " cannot be used: " + reason;
+        return false;
+    }
+    opened.accounts = OpenAccounts(settings, error);
+    return opened.accounts != nullptr;
+}
+
+bool OpenFolder(const Settings& settings, bool mayMake, Opened& opened, std::string& error) {
+    const std::string voyages = settings.data + "/voyages.db";
+    std::error_code ignored;
+    const bool hasVoyages = std::filesystem::exists(voyages, ignored);
+    const bool hasAccounts = std::filesystem::exists(settings.data + "/accounts.db", ignored);
+    if (!hasVoyages && !hasAccounts && !mayMake) {
+        error = "there is no data base in " + settings.data;
+        return false;
+    }
+    if (!PrepareDataFolder(settings, error)) return false;
+    if (hasAccounts || !hasVoyages) {
+        opened.accounts = OpenAccounts(settings, error);
+        if (opened.accounts == nullptr) return false;
+    }
+    std::string reason;
+    opened.file = SqliteStorage::Open(voyages, reason);
+    if (opened.file == nullptr) error = "the voyages " + voyages + " cannot be used: " + reason;
+    return opened.file != nullptr;
+}
+
+bool Export(const TransferCommand& command, Opened& opened, std::string& said) {
+    TransferContent content;
+    Exporter exporter(opened.Records(), opened.accounts.get(), SystemSeconds);
+    if (!exporter.Run(command.exporting, command.file, content, said)) return false;
+    said = "exported " + Summary(content);
+    return true;
+}
+
+bool Import(const TransferCommand& command, Opened& opened, TransferReader& reader, std::string& said) {
+    ImportChoice choice = command.importing;
+    if (opened.accounts == nullptr && choice.user.empty()) choice.user = kClientUser;
+    std::string error;
+    if (Importer(opened.Records(), opened.accounts.get(), IsUserName).Run(choice, reader, said, error)) {
+        return true;
+    }
+    said = error;
+    return false;
+}
+
+}  // namespace
+
+bool RunTransfer(const TransferCommand& command, Settings settings, std::string& said) {
+    if (!command.data.empty()) {
+        settings.data = command.data;
+        settings.database.clear();
+    }
+    // Looked at first, so that a wrong file makes no data base.
+    std::unique_ptr<TransferReader> reader;
+    TransferContent content;
+    if (command.import) {
+        reader = TransferReader::Open(command.file, said);
+        if (reader == nullptr || !reader->ReadContent(content, said)) return false;
+    }
+    Opened opened;
+    const bool mayMake = command.import && command.data.empty();
+    const bool ready = settings.database.empty() ? OpenFolder(settings, mayMake, opened, said)
+                                                 : OpenServer(settings, opened, said);
+    if (!ready) return false;
+    return command.import ? Import(command, opened, *reader, said) : Export(command, opened, said);
+}
+
+}  // namespace Tarvik::Server

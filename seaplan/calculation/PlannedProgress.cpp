@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/PlannedProgress.h"
+
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Schedule.h"
+
+#include <tarvik/util/StringUtl.h>
+
+#include <cmath>
+#include <cstdint>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+using Util::StringUtl;
+
+constexpr double kLeastSpeed = 0.0001;
+
+void append(const BookPoints& rows, PointTexts& list) {
+    for (const PosBookPoint& row : rows) {
+        list.push_back(row.position);
+    }
+}
+
+/// Hours from `now` to `end`, without seconds.
+double hoursLeft(const Util::_datetime_t& end, const Util::_datetime_t& now) {
+    return (end.date().year_julian() - now.date().year_julian()) * 24.0 + (end.hour() - now.hour()) +
+           (end.minute() - now.minute()) / 60.0;
+}
+
+/// Place after `covered` of the `distance` miles from a to b.
+std::string interpolate(const Position& a, const Position& b, double covered, double distance) {
+    if (distance <= 0) {
+        return StringUtl::Format("%.3f,%.3f", b.x, b.y);
+    }
+    const double x = (b.x - a.x) * covered / distance + a.x;
+    const double y = b.y - (distance - covered) * (b.y - a.y) / distance;
+    return StringUtl::Format("%.3f,%.3f", x, y);
+}
+
+/// How a corrected voyage reads times: to half a minute, and not before its correction.
+constexpr std::int64_t kLeastAgeSeconds = 31;
+
+bool isOlder(const Util::_datetime_t& time, const Util::_datetime_t& than) {
+    return than.to_gmt_timer() - time.to_gmt_timer() >= kLeastAgeSeconds;
+}
+
+/// Walks the leg on which the ship is. With a correction time the rows older than it are passed over.
+class LegWalk {
+  public:
+    LegWalk(double weather, const Util::_datetime_t& departure, const Util::_datetime_t& now,
+            const Util::_datetime_t* correction, PlannedProgress& out)
+        : weather_(weather), reached_(departure), now_(now), correction_(correction), out_(out) {}
+
+    int Run(const BookPoints& rows) {
+        if (out_.sailed.empty() && correction_ == nullptr) {
+            return -8;
+        }
+        std::string previous = out_.sailed.empty() ? rows.front().position : out_.sailed.back();
+        for (const PosBookPoint& row : rows) {
+            if (correction_ != nullptr && isOlder(row.etd, *correction_)) {
+                reached_ = row.etd;
+            } else if (const int failed = step(previous, row); failed < 0) {
+                return failed;
+            }
+            previous = row.position;
+        }
+        return 0;
+    }
+
+  private:
+    int step(const std::string& previous, const PosBookPoint& row) {
+        Position from;
+        Position to;
+        float distance = 0;
+        if (!ReadPosition(previous, 0, from)) {
+            return -9;
+        }
+        if (!ReadPosition(row.position, 0, to)) {
+            return -10;
+        }
+        if (LegDistance(previous, row.position, row.psr, distance) < 0) {
+            return -11;
+        }
+        if (row.psp <= kLeastSpeed) {
+            return -12;
+        }
+        const double speed = (1 - weather_) * row.psp;
+        const double steam = distance / speed;
+        if (!std::isfinite(steam)) {
+            return -13;
+        }
+        if (AddHours(static_cast<float>(steam), reached_) < 0) {
+            return correction_ == nullptr ? -13 : -14;
+        }
+        place(row, from, to, distance, speed, steam);
+        return 0;
+    }
+
+    void place(const PosBookPoint& row, const Position& from, const Position& to, double distance,
+               double speed, double steam) {
+        if (correction_ == nullptr ? now_ >= reached_ : isOlder(reached_, now_)) {
+            out_.current = row.position;
+            out_.sailed.push_back(row.position);
+            return;
+        }
+        if (!crossed_) {
+            crossed_ = true;
+            const double covered = speed * (steam - hoursLeft(reached_, now_));
+            out_.current = interpolate(from, to, covered, distance);
+            out_.sailed.push_back(out_.current);
+            out_.remaining.push_back(out_.current);
+        }
+        out_.remaining.push_back(row.position);
+    }
+
+    double weather_;
+    Util::_datetime_t reached_;
+    const Util::_datetime_t& now_;
+    const Util::_datetime_t* correction_;
+    PlannedProgress& out_;
+    bool crossed_ = false;
+};
+
+void startAt(const VoyPortCall& port, const PosBookPoint& row, const Util::_datetime_t& now,
+             PlannedProgress& out) {
+    out.current = row.position;
+    out.sailed.push_back(row.position);
+    if (now < port.etd) {
+        out.remaining.push_back(row.position);
+    }
+}
+
+/// A port that is reached: what the real track does not cover is sailed.
+void sailCorrected(const BookPoints& rows, const Util::_datetime_t& correction, PlannedProgress& out) {
+    for (const PosBookPoint& row : rows) {
+        if (!isOlder(row.etd, correction)) {
+            out.sailed.push_back(row.position);
+            out.current = row.position;
+        }
+    }
+}
+
+}  // namespace
+
+int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
+                 const Util::_datetime_t& now, PlannedProgress& out) {
+    out = {};
+    for (std::size_t i = 0; i < ports.size(); ++i) {
+        const auto group = groups.find(static_cast<int>(i));
+        if (group == groups.end() || group->second.empty()) {
+            return -6;
+        }
+        const BookPoints& rows = group->second;
+        const double weather = ports[i].pw;
+        if (weather > 1.0) {
+            return -7;
+        }
+        if (i == 0) {
+            startAt(ports[i], rows.front(), now, out);
+        } else if (now >= ports[i].eta) {
+            append(rows, out.sailed);
+            out.current = rows.back().position;
+        } else if (now < ports[i - 1].etd) {
+            append(rows, out.remaining);
+        } else {
+            const int failed = LegWalk(weather, ports[i - 1].etd, now, nullptr, out).Run(rows);
+            if (failed < 0) {
+                return failed;
+            }
+        }
+    }
+    return 0;
+}
+
+int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
+                      const Util::_datetime_t& correction, const Util::_datetime_t& now,
+                      PlannedProgress& out) {
+    out = {};
+    for (std::size_t i = 1; i < ports.size(); ++i) {
+        const auto group = groups.find(static_cast<int>(i));
+        if (group == groups.end() || group->second.empty()) {
+            return -7;
+        }
+        const BookPoints& rows = group->second;
+        const double weather = ports[i].pw;
+        if (weather > 1.0) {
+            return -8;
+        }
+        if (now >= ports[i].eta) {
+            sailCorrected(rows, correction, out);
+        } else if (now < ports[i - 1].etd) {
+            append(rows, out.remaining);
+        } else {
+            const int failed = LegWalk(weather, ports[i - 1].etd, now, &correction, out).Run(rows);
+            if (failed < 0) {
+                return failed;
+            }
+        }
+    }
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

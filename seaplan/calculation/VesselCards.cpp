@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/calculation/VesselCards.h"
+
+#include "seaplan/calculation/Pointset.h"
+
+#include <tarvik/interface/ValueDictionary.h>
+#include <tarvik/util/DateTimeUtl.h>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr const char* kPlanZone = "China Standard Time";
+constexpr int kEnglish = 1033;
+
+/// Rows of a schedule have no port ids, the dictionary has.
+std::string portIdOf(const VoyPortCall& row) {
+    return Interface::GetNameByValue("/points", row.ppn, kEnglish);
+}
+
+}  // namespace
+
+Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& position,
+                                   const Util::_datetime_t& now) {
+    Interface::VesselCard card;
+    card.vi = voyage.vi;
+    card.vsi = voyage.vsi;
+    card.vsn = voyage.vsn;
+    if (Position place; ReadPosition(position, 0, place)) {
+        card.vessel.x = place.x;
+        card.vessel.y = place.y;
+    }
+    const auto utc = Util::DateTimeUtl::ConvertToUTC(now, kPlanZone);
+    card.vessel.time = static_cast<std::int32_t>(utc.to_gmt_timer());
+    if (!voyage.portCalls.empty()) {
+        card.vessel.firstPortName = voyage.portCalls.front().ppn;
+        card.vessel.firstPortId = portIdOf(voyage.portCalls.front());
+        card.vessel.lastPortName = voyage.portCalls.back().ppn;
+        card.vessel.lastPortId = portIdOf(voyage.portCalls.back());
+    }
+    return card;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/controllers/tests/CorrectionFixture.h"
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+
+/// Input that no sound server, file or neighbour gives.
+class BadInputTest : public CorrectionFixture {
+  protected:
+    /// The record of a voyage whose book has this position in its middle.
+    void place(const std::string& position) {
+        voyage().positionBook.points[1].position = position;
+        host.chartCalls.clear();
+    }
+    /// A data base that holds nothing.
+    void emptyDatabase() const {
+        std::filesystem::remove(folder.PointsFile());
+        std::ofstream(folder.PointsFile()).close();
+    }
+};
+
+TEST_F(BadInputTest, PositionWithoutCommaFailsEveryUseOfTheBookAndChangesNothing) {
+    const float miles = voyage().portCalls[1].distance;
+    for (const char* position : {"", "nowhere", "1.0 2.0"}) {
+        place(position);
+        EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), -5) << position;
+        EXPECT_EQ(voyages.SplitAisRows("9", before, after), -3) << position;
+        replyWay();
+        EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -9) << position;
+        EXPECT_EQ(voyage().portCalls[1].distance, miles);
+        EXPECT_EQ(voyage().modais, 0);
+        EXPECT_EQ(positions().size(), 3U);
+        EXPECT_TRUE(host.chartCalls.empty());
+    }
+}
+
+TEST_F(BadInputTest, PositionOfTextsReadsAsZeroAndNeverAsNoNumber) {
+    for (const char* position : {"x,y", "nan,nan", "inf,-inf", "0x10,1e", " , "}) {
+        place(position);
+        EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0) << position;
+        EXPECT_TRUE(std::isfinite(rows[1].distance)) << position;
+        EXPECT_TRUE(std::isfinite(rows[1].psp)) << position;
+    }
+    place("nan,0");
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
+    EXPECT_NEAR(rows[1].distance, 60.107F, 0.01F) << "from 0 to 0 and on to 1 degree";
+}
+
+TEST_F(BadInputTest, SpeedOfZeroInTheBookFailsTheScheduleAndTheDrawing) {
+    voyage().positionBook.points[1].psp = 0;
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), -5);
+    EXPECT_EQ(voyages.SplitAisRows("9", before, after), -3);
+    EXPECT_TRUE(host.chartCalls.empty());
+    clock.SetUtc(2024, 3, 1, 15);
+    EXPECT_EQ(module.DrawPlannedProgress(voyage()), -12);
+    EXPECT_TRUE(host.ChartCallsOf("TRV_MAP_ADD_LINE").empty());
+}
+
+TEST_F(BadInputTest, WeatherOfOneFailsTheScheduleAndTheDrawing) {
+    voyage().portCalls[1].pw = 1.0F;
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), -5);
+    clock.SetUtc(2024, 3, 1, 15);
+    EXPECT_EQ(module.DrawPlannedProgress(voyage()), -13);
+    voyage().aisModTimes = {"2024-03-01 14:00:00"};
+    EXPECT_EQ(module.DrawAisProgress(voyage()), -3);
+    EXPECT_TRUE(host.ChartCallsOf("TRV_MAP_ADD_LINE").empty());
+}
+
+TEST_F(BadInputTest, WeatherOfOneEndsACalculationWithTheTableAsItWas) {
+    module.SetCurrentStops(RouteStops(2));
+    PortCallRows typed = typedRows();
+    typed[1].pw = 1.0F;
+    host.Reply(1, kRouteAb);
+    EXPECT_EQ(voyages.CalculatePortCalls(typed, rows), -2);
+    EXPECT_TRUE(rows.empty());
+    EXPECT_TRUE(module.CurrentStops()[0].point_cd.empty()) << "the pending route is the old one";
+    EXPECT_TRUE(host.chartCalls.empty());
+}
+
+TEST_F(BadInputTest, PortThatTheDictionaryLacksIsSentWithoutIdAndItsRefusalEndsTheCalculation) {
+    PortCallRows typed = typedRows();
+    typed[1].ppn = "nowhere";
+    voyages.ResolvePortIds(typed);
+    host.Reply(1, R"({eid:1,emsg:"no such point"})");
+    EXPECT_EQ(voyages.CalculatePortCalls(typed, rows), -1);
+    EXPECT_EQ(host.TextsOf(1),
+              Texts{R"({"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"40001#"})"});
+    EXPECT_TRUE(host.chartCalls.empty());
+    EXPECT_FALSE(voyages.HasPendingRoute());
+}
+
+TEST_F(BadInputTest, NextPortThatTheDictionaryLacksEndsACorrectionWithoutARequest) {
+    voyage().portCalls[1].ppn = "nowhere";
+    EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -7);
+    EXPECT_TRUE(host.requests.empty());
+    EXPECT_EQ(positions().size(), 3U);
+}
+
+TEST_F(BadInputTest, WayWithAPointThatIsNoPositionLeavesTheBook) {
+    replyWay("0.4,0.1|nowhere|1,0");
+    EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -7);
+    EXPECT_EQ(positions(), (Texts{"0.000,0.000", "0.500,0.000", "1.000,0.000"}));
+}
+
+TEST_F(BadInputTest, VesselPositionThatIsNoNumberIsNotTaken) {
+    voyage().lastPosTime = 100;
+    for (const double number : {kNan, std::numeric_limits<double>::infinity()}) {
+        host.positions = {{"s", 55, 0, 200, number, 1.0}, {"s", 55, 0, 200, 1.0, number}};
+        EXPECT_EQ(voyages.RefreshVesselPositions(), 0);
+    }
+    EXPECT_EQ(voyage().lastPosText, "0.400,0.100");
+    EXPECT_EQ(voyage().lastPosTime, 100);
+}
+
+TEST_F(BadInputTest, TrackWithoutNumbersForTimeOrPlaceIsNotTaken) {
+    voyage().lastPosTime = 100;
+    for (const char* text : {"nan|1|2|55", "200|nan|2|55", "200|1|x|55", "200||2|55"}) {
+        host.track = text;
+        EXPECT_EQ(voyages.RefreshTrace("9"), -6) << text;
+    }
+    EXPECT_EQ(voyage().lastPosText, "0.400,0.100");
+    host.track = "200|1|2|";
+    EXPECT_EQ(voyages.RefreshTrace("9"), 0) << "a number of the vessel may be missing";
+    EXPECT_EQ(voyage().lastPosText, "1.000,2.000");
+}
+
+TEST_F(BadInputTest, DatabaseWithoutTheTableEndsWhatNeedsItAndKeepsThePendingRoute) {
+    emptyDatabase();
+    module.SetCurrentStops(RouteStops(2));
+    host.Reply(1, kRouteAb);
+    EXPECT_EQ(voyages.CalculatePortCalls(typedRows(), rows), -3);
+    EXPECT_EQ(module.CurrentStops().size(), 2U);
+    EXPECT_TRUE(module.CurrentStops()[1].point_cd.empty());
+    std::vector<RoutePointRow> ports;
+    EXPECT_EQ(module.PortPositions(typedRows(), ports), -1);
+    EXPECT_TRUE(host.chartCalls.empty());
+    EXPECT_EQ(std::filesystem::file_size(folder.PointsFile()), 0U);
+}
+
+// The file has one gigabyte of holes: whoever reads it into one line runs for long and out of memory.
+TEST_F(BadInputTest, CacheFileOfOneEndlessLineIsNoCacheAndStaysAsItWas) {
+    constexpr std::uintmax_t kGigabyte = 1024UL * 1024 * 1024;
+    std::filesystem::create_directories(folder.LegCacheFile().parent_path());
+    std::ofstream(folder.LegCacheFile()).close();
+    std::filesystem::resize_file(folder.LegCacheFile(), kGigabyte);
+    LegCache cache;
+    EXPECT_EQ(module.LoadCache("", cache), 0);
+    EXPECT_TRUE(cache.empty());
+    RouteStops stops;
+    EXPECT_EQ(module.GetStopsByCache(typedRows(), stops), -3) << "the server does not answer";
+    EXPECT_EQ(std::filesystem::file_size(folder.LegCacheFile()), kGigabyte);
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

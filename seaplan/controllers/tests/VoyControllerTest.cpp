@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/controllers/tests/ScheduleFixture.h"
+
+namespace Tarvik::Seaplan {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class VoyControllerTest : public ScheduleFixture {};
+
+TEST_F(VoyControllerTest, LoadReadsPortCallsAndBookAndTimesTheRows) {
+    replySchedule();
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
+    EXPECT_EQ(host.Texts(), (Texts{R"(10 {vi:"9"})", R"(7 {vi:"9"})"}));
+    ASSERT_EQ(rows.size(), 2U);
+    EXPECT_EQ(rows[0].eta.fmt("%Y-%m-%d %H:%M:%S"), "2024-03-01 08:00:00");
+    EXPECT_EQ(rows[0].etd.fmt("%Y-%m-%d %H:%M:%S"), "2024-03-01 14:00:00");
+    EXPECT_NEAR(rows[1].distance, 60.107F, 0.01F);
+    EXPECT_NEAR(rows[1].steamTime, 6.0107F, 0.001F);
+    EXPECT_EQ(voyage().portCalls.size(), 2U);
+    EXPECT_EQ(voyage().positionBook.pbi, "5");
+    EXPECT_EQ(voyages.RouteIsCurrent(), 1);
+    EXPECT_EQ(voyages.CurrentVoyage(), "") << "only drawing it remembers a voyage";
+    EXPECT_TRUE(host.chartCalls.empty());
+}
+
+TEST_F(VoyControllerTest, LoadedScheduleIsNotReadAgain) {
+    replySchedule();
+    voyages.LoadSchedule("9", rows, -1);
+    rows.clear();
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
+    EXPECT_EQ(rows.size(), 2U);
+    EXPECT_EQ(host.requests.size(), 2U);
+}
+
+TEST_F(VoyControllerTest, PortCallsWithoutBookAreReadAgainBoth) {
+    replySchedule();
+    voyages.LoadSchedule("9", rows, -1);
+    voyage().positionBook.points.clear();
+    replySchedule();
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
+    EXPECT_EQ(host.requests.size(), 4U);
+    EXPECT_EQ(voyage().positionBook.points.size(), 3U);
+}
+
+TEST_F(VoyControllerTest, LoadLadder) {
+    EXPECT_EQ(voyages.LoadSchedule("", rows, -1), -1);
+    EXPECT_EQ(voyages.LoadSchedule("x", rows, -1), -2);
+    EXPECT_TRUE(host.requests.empty());
+    host.Reply(10, "[]");
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), -3);
+    host.Reply(10, kPortCallsAb);
+    host.Reply(7, "[]");
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), -4);
+    host.Reply(10, kPortCallsAb);
+    host.Reply(7, R"([{pbi:"5",eta:"2024-03-01 00:00:00",pb:[{lon:0,pst:"5"}]}])");
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), -5);
+    EXPECT_TRUE(voyage().portCalls.empty());
+    EXPECT_EQ(voyage().positionBook.pbi, "5") << "the book is in the record before it is applied";
+    for (const int mode : {2, -2}) {
+        voyage().positionBook.points.clear();
+        replySchedule();
+        EXPECT_EQ(voyages.LoadSchedule("9", rows, mode), -8) << mode;
+        EXPECT_EQ(voyage().portCalls.size(), 2U) << "the mode is looked at behind the schedule";
+    }
+    EXPECT_EQ(voyages.RouteIsCurrent(), -1);
+    EXPECT_TRUE(host.chartCalls.empty());
+}
+
+TEST_F(VoyControllerTest, DrawModeOneShowsTheProgressAndRemembersTheVoyage) {
+    clock.SetUtc(2024, 3, 1, 9);
+    replySchedule();
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), 0);
+    EXPECT_EQ(voyages.CurrentVoyage(), "9");
+    ASSERT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").size(), 1U);
+    EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE")[0].id, "9");
+    EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE")[0].position, "0.000,0.000");
+    ASSERT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE").size(), 1U);
+    EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE")[0].id, "9_5");
+}
+
+TEST_F(VoyControllerTest, ScheduleThatCannotBeDrawnIsLoadedButNotTheOneOnShow) {
+    host.Reply(10, kPortCallsAb);
+    std::string book = kBookAb;
+    book.insert(book.find("]}]"), R"(,{lon:3,psn:"C",xc:3.0,yc:0.0,psp:"18.52",pst:"5"})");
+    host.Reply(7, book);
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), -6) << "the book has a port more than the schedule";
+    EXPECT_EQ(voyage().portCalls.size(), 2U);
+    EXPECT_EQ(voyages.CurrentVoyage(), "");
+    EXPECT_EQ(voyages.RouteIsCurrent(), -1);
+}
+
+TEST_F(VoyControllerTest, DrawnProgressNeedsRowsOnBothSides) {
+    EXPECT_EQ(module.DrawPlannedProgress(voyage()), -1);
+    replySchedule();
+    voyages.LoadSchedule("9", rows, -1);
+    VoyInfo other = voyage();
+    other.positionBook.points.resize(1);
+    EXPECT_EQ(module.DrawPlannedProgress(other), -1);
+    other = voyage();
+    other.portCalls.push_back(other.portCalls[1]);
+    EXPECT_EQ(module.DrawPlannedProgress(other), -5);
+    other = voyage();
+    other.portCalls[1].pw = 1.5F;
+    EXPECT_EQ(module.DrawPlannedProgress(other), -7);
+    other = voyage();
+    other.vi.clear();
+    EXPECT_EQ(module.DrawPlannedProgress(other), -14);
+    EXPECT_TRUE(host.ChartCallsOf("TRV_MAP_ADD_LINE").empty());
+    EXPECT_EQ(module.DrawPlannedProgress(voyage()), 0);
+}
+
+TEST_F(VoyControllerTest, ShipUnderWayCutsTheVoyageInTwoLines) {
+    clock.SetUtc(2024, 3, 1, 18);
+    replySchedule();
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), 0);
+    const auto lines = host.ChartCallsOf("TRV_MAP_ADD_LINE");
+    ASSERT_EQ(lines.size(), 2U);
+    const std::string ship = host.ChartCallsOf("TRV_MAP_ADD_IMAGE").at(0).position;
+    EXPECT_EQ(lines[0].id, "9_5");
+    EXPECT_EQ(lines[0].points.front(), ship);
+    EXPECT_EQ(lines[0].points.back(), "1.000,0.000");
+    EXPECT_EQ(lines[1].id, "9_0");
+    EXPECT_EQ(lines[1].points.front(), "0.000,0.000");
+    EXPECT_EQ(lines[1].points.back(), ship);
+    EXPECT_EQ(host.chartCalls.back().service, "TRV_MAP_SET_EXTENT");
+}
+
+TEST_F(VoyControllerTest, DrawModeZeroShowsTheBookWithoutAShip) {
+    replySchedule();
+    EXPECT_EQ(voyages.LoadSchedule("9", rows, 0), 0);
+    EXPECT_EQ(voyages.CurrentVoyage(), "");
+    EXPECT_TRUE(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").empty());
+    ASSERT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE").size(), 1U);
+    EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE")[0].points,
+              (Texts{"0.000,0.000", "0.500,0.000", "1.000,0.000"}));
+}
+
+TEST_F(VoyControllerTest, FiguresAreWrittenAfterTheServerAgreed) {
+    BunkerFigures figures{};
+    EXPECT_EQ(voyages.GetFigures("", figures), -1);
+    EXPECT_EQ(voyages.GetFigures("x", figures), -2);
+    EXPECT_EQ(voyages.SaveFigures("", figures), -1);
+    const BunkerFigures wanted{1, 2, 3, 4, 5, 6, 7};
+    EXPECT_EQ(voyages.SaveFigures("9", wanted), -2);
+    EXPECT_EQ(voyages.GetFigures("9", figures), 0);
+    EXPECT_EQ(figures, BunkerFigures{});
+    host.Reply(6, "{eid:0}");
+    EXPECT_EQ(voyages.SaveFigures("x", wanted), -3);
+    host.Reply(6, "{eid:0}");
+    EXPECT_EQ(voyages.SaveFigures("9", wanted), 0);
+    EXPECT_EQ(voyages.GetFigures("9", figures), 0);
+    EXPECT_EQ(figures, wanted);
+}
+
+TEST_F(VoyControllerTest, ClearingCorrectionsStaysInMemory) {
+    voyage().modais = 2;
+    voyage().aisModTimes = {"a", "b"};
+    int count = 7;
+    EXPECT_EQ(voyages.GetModAis("9", count), 0);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(voyages.ClearAisMod(""), -1);
+    EXPECT_EQ(voyages.ClearAisMod("x"), -2);
+    EXPECT_EQ(voyages.ClearAisMod("9"), 0);
+    EXPECT_EQ(voyage().modais, 0);
+    EXPECT_TRUE(voyage().aisModTimes.empty());
+    EXPECT_TRUE(host.requests.empty());
+}
+
+TEST_F(VoyControllerTest, DistanceTableHasNoCorrectionsAndLeavesTheCountAlone) {
+    int count = 7;
+    EXPECT_EQ(voyages.GetModAis("DISTANCE TABLE USE", count), 0);
+    EXPECT_EQ(count, 7);
+    EXPECT_LT(voyages.GetModAis("x", count), 0);
+}
+
+TEST_F(VoyControllerTest, DiscardedChangesGiveWayToWhatWasSaved) {
+    replySchedule();
+    voyages.LoadSchedule("9", rows, -1);
+    voyage().portCalls[1].ppn = "edited";
+    voyage().modais = 1;
+    replySchedule();
+    EXPECT_EQ(voyages.DiscardPortCalls("9"), 0);
+    EXPECT_EQ(voyage().portCalls[1].ppn, "B");
+    EXPECT_EQ(voyage().modais, 0);
+    EXPECT_LT(voyages.DiscardPortCalls(""), 0);
+    EXPECT_LT(voyages.DiscardPortCalls("x"), 0);
+}
+
+TEST_F(VoyControllerTest, DiscardedChangesLeaveACorrectedVoyageCorrected) {
+    replySchedule();
+    voyages.LoadSchedule("9", rows, -1);
+    voyage().modais = 2;
+    voyage().aisModTimes = {"2024-03-01 12:00:00"};
+    replySchedule();
+    EXPECT_EQ(voyages.DiscardPortCalls("9"), 0);
+    EXPECT_EQ(voyage().modais, 2);
+}
+
+TEST_F(VoyControllerTest, ClearingTheChartRemovesAllFiveTypes) {
+    EXPECT_EQ(voyages.ClearChart(), 0);
+    Texts types;
+    for (const auto& call : host.ChartCallsOf("TRV_MAP_DEL_OBJECT_BY_TYPE")) {
+        types.push_back(call.type);
+    }
+    EXPECT_EQ(types,
+              (Texts{"VOYAGETYPE", "VOYLINETYPE", "RPOINTTYPE", "AISSHIPTYPE", "VOYPOSTBOOKLINETYPE"}));
+}
+
+TEST_F(VoyControllerTest, RemovingAVoyageMakesAllItsCallsFiveTimesOver) {
+    EXPECT_EQ(voyages.RemoveVoyageObjects(""), -1);
+    EXPECT_EQ(voyages.RemoveVoyageObjects("9"), 0);
+    const auto calls = host.ChartCallsOf("TRV_MAP_DEL_OBJECTS");
+    ASSERT_EQ(calls.size(), 10U);
+    EXPECT_EQ(calls[0].type, "VOYPOSTBOOKLINETYPE");
+    EXPECT_EQ(calls[1].type, "AISSHIPTYPE");
+    ASSERT_EQ(calls[9].points.size(), 11U);
+    EXPECT_EQ(calls[9].points.front(), "9_0");
+    EXPECT_EQ(calls[9].points.back(), "9");
+}
+
+TEST_F(VoyControllerTest, ShownVoyageMustBeInUse) {
+    EXPECT_EQ(voyages.ShowVoyage(""), -1);
+    EXPECT_EQ(voyages.ShowVoyage("none"), -3) << "an id that no category holds counts as deleted";
+    store.categoryVoyages["1"]["9"] = InRecycleBin;
+    EXPECT_EQ(voyages.ShowVoyage("9"), -3);
+    store.categoryVoyages["1"]["ghost"] = InUse;
+    EXPECT_EQ(voyages.ShowVoyage("ghost"), -4);
+    EXPECT_TRUE(host.chartCalls.empty());
+}
+
+TEST_F(VoyControllerTest, ShownVoyageIsClearedAndDrawn) {
+    EXPECT_EQ(voyages.ShowVoyage("9"), -6) << "nothing can be loaded";
+    EXPECT_EQ(host.ChartCallsOf("TRV_MAP_DEL_OBJECTS").size(), 10U);
+    replySchedule();
+    EXPECT_EQ(voyages.ShowVoyage("9"), 0);
+    EXPECT_EQ(voyages.CurrentVoyage(), "9");
+    EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").size(), 1U);
+}
+
+TEST_F(VoyControllerTest, MovedAndDeletedRowsMakeTheRouteStale) {
+    replySchedule();
+    voyages.LoadSchedule("9", rows, -1);
+    PortCallRows out;
+    EXPECT_LT(voyages.MoveRowUp(rows, 0, out), 0);
+    EXPECT_LT(voyages.MoveRowDown(rows, 1, out), 0);
+    EXPECT_LT(voyages.DeleteRow(rows, 2, out), 0);
+    EXPECT_EQ(voyages.RouteIsCurrent(), 1);
+    EXPECT_EQ(voyages.MoveRowUp(rows, 1, out), 0);
+    EXPECT_EQ(out[0].ppn, "B");
+    EXPECT_EQ(voyages.RouteIsCurrent(), -1);
+    voyages.LoadSchedule("9", rows, -1);
+    EXPECT_EQ(voyages.MoveRowDown(rows, 0, out), 0);
+    EXPECT_EQ(voyages.RouteIsCurrent(), -1);
+    voyages.LoadSchedule("9", rows, -1);
+    EXPECT_EQ(voyages.DeleteRow(rows, 0, out), 0);
+    EXPECT_EQ(out.size(), 1U);
+    EXPECT_EQ(voyages.RouteIsCurrent(), -1);
+}
+
+}  // namespace
+}  // namespace Tarvik::Seaplan

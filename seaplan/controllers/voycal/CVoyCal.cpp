@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/controllers/voycal/CVoyCal.h"
+
+#include "seaplan/calculation/PointTables.h"
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/controllers/voycal/SampleReply.h"
+#include "seaplan/controllers/voycal/VoyCalDrawing.h"
+#include "seaplan/controllers/voycal/VoyCalReply.h"
+
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ValueDictionary.h>
+#include <tarvik/util/StringUtl.h>
+
+#include <utility>
+
+namespace Tarvik::Seaplan {
+namespace {
+
+namespace Bus = Interface::Bus;
+
+constexpr const char* kChosen = "case3";
+constexpr int kEnglish = 1033;
+constexpr int kTraditionalChinese = 1028;
+constexpr int kSimplifiedChinese = 2052;
+
+VoyCalPoints readPoints(const std::string& database) {
+    PointMap rows;
+    LoadRoutePoints(database, rows);
+    VoyCalPoints points;
+    for (const auto& [id, row] : rows) {
+        Position position;
+        ReadPosition(row.position, 0, position);
+        points[id] = {position.x, position.y, id, row.name};
+    }
+    return points;
+}
+
+void clearType(const char* type) {
+    const Interface::TrvMapObjectRef ref{kVoyCalLayer, "", type};
+    Interface::Call(Bus::MapDeleteObjectsByType, &ref);
+}
+
+void addLabel(const VoyCalPoint& point, bool isAlternative) {
+    const auto label = VoyCalLabel(point, isAlternative);
+    Interface::Call(Bus::MapAddPointLabel, &label);
+}
+
+const VoyCalGroup* findGroup(const std::vector<VoyCalPort>& ports, const std::string& id) {
+    for (const auto& port : ports) {
+        for (const auto& group : port.groups) {
+            if (group.head.id == id) {
+                return &group;
+            }
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+CVoyCal::CVoyCal(const std::string& database, std::string reply)
+    : points_(readPoints(database)), reply_(std::move(reply)) {
+    bindAll();
+    Interface::TrvMapLayerParams layer;
+    layer.layer = kVoyCalLayer;
+    Interface::Call(Bus::MapAddLayer, &std::as_const(layer));
+}
+
+CVoyCal::~CVoyCal() {
+    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
+    kernel->UnBindTrvEvent(Bus::ClickRRPoint.name, &alternativeClick_);
+    kernel->DeleteTrvEvent(Bus::ClickRRPoint.name, this);
+    kernel->UnBindTrvEvent(Bus::ClickRPoint.name, &pointClick_);
+    kernel->DeleteTrvEvent(Bus::ClickRPoint.name, this);
+    kernel->UnBindTrvService(Bus::CalculateVoyage.name, &calculateService_);
+    kernel->DeleteTrvService(Bus::CalculateVoyage.name, this);
+    const std::string layer = kVoyCalLayer;
+    Interface::Call(Bus::MapRemoveLayer, &layer);
+}
+
+CVoyCal* CVoyCal::Instance() {
+    static auto* calculator = new CVoyCal(PointDatabasePath(), SampleReply());
+    return calculator;
+}
+
+void CVoyCal::bindAll() {
+    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
+    kernel->CreateTrvService(Bus::CalculateVoyage.name, this, "", "", nullptr);
+    calculateService_.Set<&CVoyCal::onCalculate>(this);
+    kernel->BindTrvService(Bus::CalculateVoyage.name, &calculateService_);
+    kernel->CreateTrvEvent(Bus::ClickRPoint.name, this, "", "", nullptr);
+    pointClick_.Set<&CVoyCal::onPointClicked>(this);
+    kernel->BindTrvEvent(Bus::ClickRPoint.name, &pointClick_);
+    kernel->CreateTrvEvent(Bus::ClickRRPoint.name, this, "", "", nullptr);
+    alternativeClick_.Set<&CVoyCal::onAlternativeClicked>(this);
+    kernel->BindTrvEvent(Bus::ClickRRPoint.name, &alternativeClick_);
+}
+
+void* CVoyCal::onCalculate(void* text) {
+    std::vector<std::string> ids;
+    if (text != nullptr) {
+        Util::StringUtl::split(*static_cast<const std::string*>(text), ",", ids);
+    }
+    calculate(std::move(ids));
+    return &result_;
+}
+
+void CVoyCal::reset() {
+    ports_.clear();
+    ids_.clear();
+    change_ = {};
+    mode_.clear();
+    selected_.clear();
+    result_ = {};
+}
+
+void CVoyCal::calculate(std::vector<std::string> ids) {
+    reset();
+    if (ids.size() < 2) {
+        return;
+    }
+    ids_ = std::move(ids);
+    askPorts();
+    if (ports_.size() != ids_.size() || !ReadVoyCalReply(reply_, points_, ports_)) {
+        ports_.clear();
+        ids_.clear();
+        return;
+    }
+    result_.crossesDateLine = MeetsDateLine(ports_) ? 1 : 0;
+    draw();
+    labelPoints();
+    result_.valid = 1;
+}
+
+/// A port that the chart does not know is left out; the calculation then fails.
+void CVoyCal::askPorts() {
+    for (const auto& id : ids_) {
+        if (const auto* record = Interface::Call(Bus::MapGetPort, &id)) {
+            VoyCalPort port;
+            port.point = {record->x, record->y, id, record->name};
+            ports_.push_back(std::move(port));
+        }
+    }
+}
+
+void CVoyCal::draw() {
+    VoyCalLines lines = LinesOf(ports_);
+    extent_ = lines.extent;
+    result_.mainLine = VoyCalLine(std::move(lines.main));
+    Interface::Call(Bus::MapAddLine, &std::as_const(result_.mainLine));
+    if (lines.crosses) {
+        result_.eastLine = VoyCalLine(std::move(lines.east));
+        Interface::Call(Bus::MapAddLine, &std::as_const(result_.eastLine));
+    } else {
+        sendExtent();
+    }
+}
+
+void CVoyCal::labelPoints() {
+    for (const auto& port : ports_) {
+        for (const auto& group : port.groups) {
+            addLabel(group.head, false);
+        }
+    }
+}
+
+/// The view changes only when something would lie outside it.
+void CVoyCal::sendExtent() {
+    Interface::TrvMapExtent* current = Interface::Call(Bus::MapGetExtent, nullptr);
+    if (current == nullptr) {
+        return;
+    }
+    const bool shown = Holds(*current, extent_);
+    Core::FreeBusBlock(current);
+    if (!shown) {
+        Interface::Call(Bus::MapSetExtent, &std::as_const(extent_));
+    }
+}
+
+void* CVoyCal::onPointClicked(void* id) {
+    if (id == nullptr) {
+        return nullptr;
+    }
+    const std::string& clicked = *static_cast<const std::string*>(id);
+    if (!selected_.empty()) {
+        clearType(kVoyCalAlternativeType);
+    }
+    selected_ = clicked != selected_ && showAlternatives(clicked) ? clicked : "";
+    return nullptr;
+}
+
+bool CVoyCal::showAlternatives(const std::string& id) {
+    const VoyCalGroup* group = findGroup(ports_, id);
+    if (group == nullptr) {
+        return false;
+    }
+    for (const auto& point : group->alternatives) {
+        if (point.id != id) {
+            addLabel(point, true);
+            Widen(extent_, point.x, point.y);
+        }
+    }
+    sendExtent();
+    return true;
+}
+
+void* CVoyCal::onAlternativeClicked(void* id) {
+    if (id == nullptr) {
+        return nullptr;
+    }
+    clearType(kVoyCalAlternativeType);
+    clearType(kVoyCalPointType);
+    clearType(kVoyCalLineType);
+    applyChange(*static_cast<const std::string*>(id));
+    selected_.clear();
+    return nullptr;
+}
+
+void CVoyCal::applyChange(const std::string& newId) {
+    if (newId == selected_) {
+        return;
+    }
+    if (const auto change = ChangeOf(ports_, selected_, newId)) {
+        change_ = *change;
+        mode_ = kChosen;
+        const auto port = static_cast<std::size_t>(change_.port);
+        if (const auto entry = EntryWithLock(ports_[port], change_, mode_ == kChosen)) {
+            ids_[port] = *entry;
+        }
+    }
+    if (change_.newId == newId) {
+        calculateAgain();
+    } else {
+        change_.port = -1;
+    }
+}
+
+/// Asks for the ports alone; the locks stay in the list for the next request.
+void CVoyCal::calculateAgain() {
+    const std::vector<std::string> entries = ids_;
+    std::vector<std::string> ids;
+    ids.reserve(entries.size());
+    for (const auto& entry : entries) {
+        ids.push_back(PortIdOfEntry(entry));
+    }
+    calculate(std::move(ids));
+    if (result_.valid != 0) {
+        ids_ = entries;
+    }
+}
+
+std::string CVoyCal::LanguageCode(int language) {
+    switch (language) {
+        case kTraditionalChinese:
+            return "zh-TW";
+        case kSimplifiedChinese:
+            return "zh-CN";
+        default:
+            return "en-US";
+    }
+}
+
+std::string CVoyCal::SiteAddress(const std::string& key, const std::string& fallback) {
+    const std::string address = Interface::GetValueByName("/trvwebsites", key, kEnglish);
+    return address.empty() ? fallback : address;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/controllers/voycal/VoyCalChange.h"
+#include "seaplan/controllers/voycal/VoyCalRecords.h"
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan {
+
+/// A route calculator of its own, offered on the bus as TRV_S_CAL_VOYAGE: takes port ids joined by ",", draws
+/// the route of a stored reply and lets its route points be exchanged by clicks. The answer points to a
+/// VoyCalResult that stays the calculator's and holds until the next call.
+class CVoyCal : public Core::TObject {
+  public:
+    /// Reads the route points from `database` once; an unreadable one leaves none.
+    CVoyCal(const std::string& database, std::string reply);
+    ~CVoyCal() override;
+    CVoyCal(const CVoyCal&) = delete;
+    CVoyCal& operator=(const CVoyCal&) = delete;
+    /// The calculator over the host's data and the stored sample, made on first use.
+    static CVoyCal* Instance();
+
+    const VoyCalResult& Result() const { return result_; }
+    /// One entry a port: its id, or "id|points passed|locks" behind a change. Empty without a calculation.
+    const std::vector<std::string>& Ids() const { return ids_; }
+    const std::vector<VoyCalPort>& Ports() const { return ports_; }
+    /// The route point whose alternatives are shown, empty for none.
+    const std::string& SelectedPoint() const { return selected_; }
+
+    /// Name of a language number as sites write it: 1028 "zh-TW", 2052 "zh-CN", any other "en-US".
+    static std::string LanguageCode(int language);
+    /// Address of one of the host's sites by its key, `fallback` when the host has none.
+    static std::string SiteAddress(const std::string& key, const std::string& fallback);
+
+  private:
+    void* onCalculate(void* text);
+    void* onPointClicked(void* id);
+    void* onAlternativeClicked(void* id);
+    void bindAll();
+    void reset();
+    void calculate(std::vector<std::string> ids);
+    void askPorts();
+    void draw();
+    void labelPoints();
+    void sendExtent();
+    void applyChange(const std::string& newId);
+    void calculateAgain();
+    bool showAlternatives(const std::string& id);
+
+    VoyCalPoints points_;
+    std::string reply_;
+    std::vector<VoyCalPort> ports_;
+    std::vector<std::string> ids_;
+    VoyCalResult result_;
+    VoyCalChange change_;
+    std::string mode_;  ///< "case3" behind a change
+    std::string selected_;
+    Interface::TrvMapExtent extent_;
+    Core::TEvent calculateService_;
+    Core::TEvent pointClick_;
+    Core::TEvent alternativeClick_;
+};
+
+}  // namespace Tarvik::Seaplan
