@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Memory.h"
 
-#include <malloc.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <new>
+
+#include <malloc.h>
 
 namespace {
 
@@ -17,14 +17,18 @@ std::size_t most = 0;
 // One thread runs the benchmarks that link this.
 void* operator new(std::size_t size) {
     void* block = std::malloc(size == 0 ? 1 : size);
-    if (block == nullptr) throw std::bad_alloc();
+    if (block == nullptr) {
+        throw std::bad_alloc();
+    }
     inUse += malloc_usable_size(block);
     most = std::max(most, inUse);
     return block;
 }
 
 void operator delete(void* block) noexcept {
-    if (block == nullptr) return;
+    if (block == nullptr) {
+        return;
+    }
     inUse -= malloc_usable_size(block);
     std::free(block);
 }

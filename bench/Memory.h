@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <benchmark/benchmark.h>
-
 #include <cstddef>
+
+#include <benchmark/benchmark.h>
 
 /// Counts what the program takes from the heap; linking Memory.cpp replaces the global operator new.
 namespace Bench {

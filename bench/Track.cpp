@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Track.h"
 
-#include "seaplan/calculation/Pointset.h"
-
-#include <tarvik/util/Geodesy.h>
+#include <cmath>
+#include <ctime>
 
 #include <fmt/format.h>
 
-#include <cmath>
-#include <ctime>
+#include <tarvik/util/Geodesy.h>
+
+#include "seaplan/calculation/Pointset.h"
 
 namespace Bench {
 
@@ -19,30 +19,32 @@ using namespace Tarvik::Seaplan;
 constexpr std::size_t kSegments = 3;
 constexpr int kGeodesicPasses = 5;
 
-std::string joined(const std::vector<std::string>& points, std::size_t first, std::size_t last) {
+std::string Joined(const std::vector<std::string>& points, std::size_t first, std::size_t last) {
     std::string text = points[first];
-    for (std::size_t i = first + 1; i <= last; ++i) text += "|" + points[i];
+    for (std::size_t i = first + 1; i <= last; ++i) {
+        text += "|" + points[i];
+    }
     return text;
 }
 
-std::string portId(std::size_t stop) {
+std::string PortId(std::size_t stop) {
     return std::to_string(40001 + stop);
 }
 
 /// The named point at the end of a stop's segment: two route points, then the port.
 std::string endId(std::size_t stop, std::size_t segment) {
-    return segment + 1 == kSegments ? portId(stop) : std::to_string(101 + segment);
+    return segment + 1 == kSegments ? PortId(stop) : std::to_string(101 + segment);
 }
 
-std::string segmentJson(const RouteSegment& segment) {
+std::string SegmentJson(const RouteSegment& segment) {
     return fmt::format(R"({{"route":"{}","from_cd":"{}","end_cd":"{}","pointset":"{}","distance":{:.3f}}})",
                        segment.route, segment.from_cd, segment.end_cd, segment.pointset, 100.0);
 }
 
-std::string stopJson(const RouteStop& stop) {
+std::string StopJson(const RouteStop& stop) {
     std::string segments;
     for (const RouteSegment& segment : stop.routes) {
-        segments += (segments.empty() ? "" : ",") + segmentJson(segment);
+        segments += (segments.empty() ? "" : ",") + SegmentJson(segment);
     }
     return fmt::format(
         R"({{"point_cd":"{}","distance":300.5,"routes":[{}],"rp_groups":["101=40001,40002;105|107|109"],)"
@@ -72,20 +74,20 @@ std::vector<std::string> Track(std::size_t count) {
 RouteStops RouteOf(std::size_t stops, std::size_t points) {
     const std::vector<std::string> track = Track(points);
     RouteStops route(stops);
-    route.front().point_cd = portId(0);
+    route.front().point_cd = PortId(0);
     const std::size_t parts = (stops - 1) * kSegments;
     std::size_t part = 0;
     for (std::size_t s = 1; s < stops; ++s) {
-        route[s].point_cd = portId(s);
-        std::string from = portId(s - 1);
+        route[s].point_cd = PortId(s);
+        std::string from = PortId(s - 1);
         for (std::size_t k = 0; k < kSegments; ++k, ++part) {
             const std::size_t first = part * (points - 1) / parts;
             const std::size_t last = (part + 1) * (points - 1) / parts;
             route[s].routes.push_back(
-                {std::to_string(k + 1), from, endId(s, k), joined(track, first, last), 0});
+                {std::to_string(k + 1), from, endId(s, k), Joined(track, first, last), 0});
             from = endId(s, k);
         }
-        route[s].rp_id_str = fmt::format("{},101,102,{}", portId(s - 1), portId(s));
+        route[s].rp_id_str = fmt::format("{},101,102,{}", PortId(s - 1), PortId(s));
     }
     return route;
 }
@@ -93,14 +95,16 @@ RouteStops RouteOf(std::size_t stops, std::size_t points) {
 std::string ReplyOf(std::size_t stops, std::size_t points) {
     std::string reply = "[";
     for (const RouteStop& stop : RouteOf(stops, points)) {
-        reply += (reply.size() == 1 ? "" : ",") + stopJson(stop);
+        reply += (reply.size() == 1 ? "" : ",") + StopJson(stop);
     }
     return reply + "]";
 }
 
 double GeodesicMs(const std::vector<std::string>& points, Geodesics what) {
     std::vector<Position> places(points.size());
-    for (std::size_t i = 0; i < points.size(); ++i) ReadPosition(points[i], 0, places[i]);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        ReadPosition(points[i], 0, places[i]);
+    }
     double best = -1;
     for (int pass = 0; pass < kGeodesicPasses; ++pass) {
         const double start = CpuMs();
@@ -113,7 +117,9 @@ double GeodesicMs(const std::vector<std::string>& points, Geodesics what) {
             }
         }
         const double took = CpuMs() - start;
-        if (best < 0 || took < best) best = took;
+        if (best < 0 || took < best) {
+            best = took;
+        }
     }
     return best;
 }

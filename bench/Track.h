@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/RouteStop.h"
-
-#include <benchmark/benchmark.h>
-
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "seaplan/data/RouteStop.h"
 
 /// Made-up tracks over the ocean and the time that geodesic calls over them take.
 namespace Bench {
@@ -40,7 +40,9 @@ class Shares {
         const double start = CpuMs();
         work();
         const double took = CpuMs() - start;
-        if (best_ < 0 || took < best_) best_ = took;
+        if (best_ < 0 || took < best_) {
+            best_ = took;
+        }
     }
 
   private:

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <cstdint>
+#include <string>
+
+#include <tarvik/util/Jsona.h>
+
 #include "bench/Memory.h"
 #include "bench/Track.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/RouteReply.h"
 #include "seaplan/calculation/book/BookRecompute.h"
-
-#include <tarvik/util/Jsona.h>
-
-#include <cstdint>
-#include <string>
 
 namespace {
 
@@ -17,11 +17,11 @@ using Bench::Geodesics;
 
 constexpr std::size_t kStops = 30;
 
-std::size_t countOf(const benchmark::State& state) {
+std::size_t CountOf(const benchmark::State& state) {
     return static_cast<std::size_t>(state.range(0));
 }
 
-PortCallRows portsOf(std::size_t count) {
+PortCallRows PortsOf(std::size_t count) {
     VoyPortCall row;
     row.psp = 14.5F;
     row.pw = 0.05F;
@@ -30,28 +30,32 @@ PortCallRows portsOf(std::size_t count) {
     return PortCallRows(count, row);
 }
 
-PointMap routePoints() {
+PointMap RoutePoints() {
     return {{"101", {"101", "First Cape", "0,0"}}, {"102", {"102", "Second Cape", "1,1"}}};
 }
 
-BookPoints bookOf(std::size_t rows) {
+BookPoints BookOf(std::size_t rows) {
     BookPoints book;
-    BookFromStops(Bench::RouteOf(kStops, rows), routePoints(), book);
+    BookFromStops(Bench::RouteOf(kStops, rows), RoutePoints(), book);
     return book;
 }
 
 /// Reply text of 30 stops to stops with their lengths.
 void ParseReply(benchmark::State& state) {
-    const std::string reply = Bench::ReplyOf(kStops, countOf(state));
+    const std::string reply = Bench::ReplyOf(kStops, CountOf(state));
     const auto work = [&] {
         Tarvik::Util::Jsona json;
         RouteStops stops;
-        if (!json.parse(reply) || ParseRouteReply(json, stops) != 0) state.SkipWithError("reply refused");
+        if (!json.parse(reply) || ParseRouteReply(json, stops) != 0) {
+            state.SkipWithError("reply refused");
+        }
         benchmark::DoNotOptimize(stops.data());
     };
     Bench::CountMemory(state, work);
-    Bench::Shares shares(state, Bench::GeodesicMs(Bench::Track(countOf(state)), Geodesics::Distance));
-    for (auto _ : state) shares.Run(work);
+    Bench::Shares shares(state, Bench::GeodesicMs(Bench::Track(CountOf(state)), Geodesics::Distance));
+    for (auto _ : state) {
+        shares.Run(work);
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(ParseReply)
@@ -65,16 +69,20 @@ BENCHMARK(ParseReply)
 
 /// No geodesic calls in it.
 void MakeBook(benchmark::State& state) {
-    const RouteStops stops = Bench::RouteOf(kStops, countOf(state));
-    const PointMap points = routePoints();
+    const RouteStops stops = Bench::RouteOf(kStops, CountOf(state));
+    const PointMap points = RoutePoints();
     const auto work = [&] {
         BookPoints rows;
-        if (BookFromStops(stops, points, rows) != 0) state.SkipWithError("no book");
+        if (BookFromStops(stops, points, rows) != 0) {
+            state.SkipWithError("no book");
+        }
         benchmark::DoNotOptimize(rows.data());
     };
     Bench::CountMemory(state, work);
     Bench::Shares shares(state, 0);
-    for (auto _ : state) shares.Run(work);
+    for (auto _ : state) {
+        shares.Run(work);
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(MakeBook)
@@ -87,15 +95,19 @@ BENCHMARK(MakeBook)
     ->Unit(benchmark::kMillisecond);
 
 void TimeBook(benchmark::State& state) {
-    const PortCallRows ports = portsOf(kStops);
-    BookPoints rows = bookOf(countOf(state));
+    const PortCallRows ports = PortsOf(kStops);
+    BookPoints rows = BookOf(CountOf(state));
     const auto work = [&] {
-        if (ComputeBookTimes(ports.front().eta, ports, rows) != 0) state.SkipWithError("no times");
+        if (ComputeBookTimes(ports.front().eta, ports, rows) != 0) {
+            state.SkipWithError("no times");
+        }
         benchmark::DoNotOptimize(rows.data());
     };
     Bench::CountMemory(state, work);
-    Bench::Shares shares(state, Bench::GeodesicMs(Bench::Track(countOf(state)), Geodesics::Distance));
-    for (auto _ : state) shares.Run(work);
+    Bench::Shares shares(state, Bench::GeodesicMs(Bench::Track(CountOf(state)), Geodesics::Distance));
+    for (auto _ : state) {
+        shares.Run(work);
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(TimeBook)
@@ -108,8 +120,8 @@ BENCHMARK(TimeBook)
     ->Unit(benchmark::kMillisecond);
 
 /// The panel's book of ports with as many waypoints each.
-PosBookData panelBook(std::size_t rows) {
-    const BookPoints book = bookOf(rows);
+PosBookData PanelBook(std::size_t rows) {
+    const BookPoints book = BookOf(rows);
     PosBookData data;
     PosBookPortRow port;
     for (const PosBookPoint& point : book) {
@@ -130,13 +142,15 @@ PosBookData panelBook(std::size_t rows) {
 }
 
 void RecomputePanelBook(benchmark::State& state) {
-    PosBookData book = panelBook(countOf(state));
+    PosBookData book = PanelBook(CountOf(state));
     const Tarvik::Util::_datetime_t now(0, 0, 0, 1, 6, 2026);
     const auto work = [&] { benchmark::DoNotOptimize(RecomputeBook(book, BookUnits(), now)); };
     Bench::CountMemory(state, work);
     Bench::Shares shares(state,
-                         Bench::GeodesicMs(Bench::Track(countOf(state)), Geodesics::DistanceAndCourse));
-    for (auto _ : state) shares.Run(work);
+                         Bench::GeodesicMs(Bench::Track(CountOf(state)), Geodesics::DistanceAndCourse));
+    for (auto _ : state) {
+        shares.Run(work);
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(RecomputePanelBook)

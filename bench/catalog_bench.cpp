@@ -1,26 +1,26 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/data/VoyageStore.h"
-#include "seaplan/protocol/VoyCatalogModule.h"
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <utility>
+
+#include <benchmark/benchmark.h>
+#include <fmt/format.h>
 
 #include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/BusContract.h>
 
-#include <benchmark/benchmark.h>
-#include <fmt/format.h>
-
-#include <cstdint>
-#include <cstring>
-#include <string>
-#include <utility>
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 
 namespace {
 
 using namespace Tarvik;
 
 /// A server's answer to command 3: categories of a hundred voyages each.
-std::string catalogOf(std::int64_t voyages) {
+std::string CatalogOf(std::int64_t voyages) {
     std::string text = "[";
     for (std::int64_t i = 0; i < voyages; ++i) {
         if (i % 100 == 0) {
@@ -40,7 +40,7 @@ std::string catalogOf(std::int64_t voyages) {
 class ReplyingHost : public Core::TObject {
   public:
     explicit ReplyingHost(std::string reply) : reply_(std::move(reply)) {
-        event_.Set<&ReplyingHost::onExchange>(this);
+        event_.Set<&ReplyingHost::OnExchange>(this);
         Core::TrvKernel::Instance()->CreateTrvService(Interface::Bus::ServerExchange.name, this, "", "",
                                                       &event_);
     }
@@ -52,7 +52,7 @@ class ReplyingHost : public Core::TObject {
     ReplyingHost& operator=(const ReplyingHost&) = delete;
 
   private:
-    void* onExchange(void*) {
+    void* OnExchange(void*) {
         auto* block =
             static_cast<Interface::VoyServerRequest*>(Core::AllocateBusBlock(reply_.size() + 1 + 8));
         *block = {static_cast<std::uint32_t>(reply_.size() + 1), 3, 5};
@@ -66,7 +66,7 @@ class ReplyingHost : public Core::TObject {
 
 /// From the reply at hand to the filled store.
 void LoadAll(benchmark::State& state) {
-    const ReplyingHost host(catalogOf(state.range(0)));
+    const ReplyingHost host(CatalogOf(state.range(0)));
     for (auto _ : state) {
         Seaplan::VoyageStore store;
         Seaplan::VoyCatalogModule module(&store);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "bench/Memory.h"
-#include "bench/Track.h"
-#include "seaplan/chart/VoyageLayer.h"
-
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
+
+#include "bench/Memory.h"
+#include "bench/Track.h"
+#include "seaplan/chart/VoyageLayer.h"
 
 namespace {
 
@@ -16,7 +16,7 @@ using namespace Tarvik;
 class DeafChart : public Core::TObject {
   public:
     DeafChart() {
-        event_.Set<&DeafChart::onLine>(this);
+        event_.Set<&DeafChart::OnLine>(this);
         Core::TrvKernel::Instance()->CreateTrvService(Interface::Bus::MapAddLine.name, this, "", "", &event_);
     }
     ~DeafChart() override {
@@ -29,7 +29,7 @@ class DeafChart : public Core::TObject {
     std::size_t points = 0;
 
   private:
-    void* onLine(void* input) {
+    void* OnLine(void* input) {
         points += static_cast<const Interface::TrvMapLineParams*>(input)->points.size();
         return nullptr;
     }
@@ -41,15 +41,23 @@ class DeafChart : public Core::TObject {
 void DrawLine(benchmark::State& state) {
     DeafChart chart;
     auto track = Bench::Track(static_cast<std::size_t>(state.range(0)));
-    for (std::size_t i = 999; i < track.size(); i += 1000) track[i] = "180,12.34567";
+    for (std::size_t i = 999; i < track.size(); i += 1000) {
+        track[i] = "180,12.34567";
+    }
     Seaplan::VoyageLayer layer;
     const auto work = [&] {
         chart.points = 0;
-        if (layer.DrawLine(layer.mainLine, track, 0) != 0) state.SkipWithError("no line");
+        if (layer.DrawLine(layer.mainLine, track, 0) != 0) {
+            state.SkipWithError("no line");
+        }
     };
     Bench::CountMemory(state, work);
-    if (chart.points < track.size() - 1) state.SkipWithError("points are missing");
-    for (auto _ : state) work();
+    if (chart.points < track.size() - 1) {
+        state.SkipWithError("points are missing");
+    }
+    for (auto _ : state) {
+        work();
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(DrawLine)

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Speed of Jsona against RapidJSON with its UTF-8 check, on the same bytes in one run. Compare the bytes per
 // second, which count processor time: those of Jsona are to be the higher ones.
-#include <tarvik/util/Jsona.h>
-#include <tarvik/util/StringUtl.h>
+#include <cstdint>
+#include <string>
 
 #include <benchmark/benchmark.h>
 #include <rapidjson/document.h>
 
-#include <cstdint>
-#include <string>
+#include <tarvik/util/Jsona.h>
+#include <tarvik/util/StringUtl.h>
 
 namespace {
 
@@ -45,7 +45,9 @@ const std::string& Voyages() {
 void Jsona(benchmark::State& state) {
     for (auto _ : state) {
         Tarvik::Util::Jsona value;
-        if (!value.parse(Voyages())) state.SkipWithError("text refused");
+        if (!value.parse(Voyages())) {
+            state.SkipWithError("text refused");
+        }
         benchmark::DoNotOptimize(value);
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(Voyages().size()) * state.iterations());
@@ -56,7 +58,9 @@ void RapidJson(benchmark::State& state) {
     for (auto _ : state) {
         rapidjson::Document value;
         value.Parse<rapidjson::kParseValidateEncodingFlag>(text.data(), text.size());
-        if (value.HasParseError()) state.SkipWithError("text refused");
+        if (value.HasParseError()) {
+            state.SkipWithError("text refused");
+        }
         benchmark::DoNotOptimize(value);
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(text.size()) * state.iterations());

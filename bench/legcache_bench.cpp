@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <fmt/format.h>
+
 #include "bench/Memory.h"
 #include "bench/Track.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
 #include "testsupport/DataFolder.h"
-
-#include <fmt/format.h>
 
 namespace {
 
@@ -13,7 +13,7 @@ using namespace Tarvik::Seaplan;
 constexpr std::size_t kPointsOfLeg = 100;
 
 /// Different pairs of ports over the same hundred points.
-LegCache legsOf(std::size_t count) {
+LegCache LegsOf(std::size_t count) {
     RouteLegCacheEntry entry;
     entry.stops = Bench::RouteOf(2, kPointsOfLeg);
     entry.stops[1].rp_groups = {{1, "101", "40001,40002", {"102", "107", "109", "110"}}};
@@ -32,14 +32,20 @@ void LoadLegCache(benchmark::State& state) {
     const Tarvik::TestSupport::DataFolder folder;
     VoyageStore store;
     VoyPortCallModule module(&store);
-    if (module.SaveCache("", legsOf(count)) != 0) state.SkipWithError("no cache file");
+    if (module.SaveCache("", LegsOf(count)) != 0) {
+        state.SkipWithError("no cache file");
+    }
     const auto work = [&] {
         LegCache legs;
-        if (module.LoadCache("", legs) != 0 || legs.size() != count) state.SkipWithError("legs are missing");
+        if (module.LoadCache("", legs) != 0 || legs.size() != count) {
+            state.SkipWithError("legs are missing");
+        }
     };
     Bench::CountMemory(state, work);
     state.counters["file_MB"] = static_cast<double>(std::filesystem::file_size(folder.LegCacheFile())) / 1e6;
-    for (auto _ : state) work();
+    for (auto _ : state) {
+        work();
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(LoadLegCache)

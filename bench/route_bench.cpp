@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/graph/adapter/GraphRouteSource.h"
-
-#include <benchmark/benchmark.h>
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <random>
 #include <string>
 #include <vector>
+
+#include <benchmark/benchmark.h>
+#include <fmt/format.h>
+
+#include "host/server/graph/adapter/GraphRouteSource.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ using namespace Tarvik::Server;
 constexpr std::size_t kPairs = 1000;
 constexpr unsigned kSeed = 20261121;
 
-std::vector<std::string> requestsOf(const SeaNetwork& network) {
+std::vector<std::string> RequestsOf(const SeaNetwork& network) {
     std::mt19937 random(kSeed);
     const auto& ports = network.data().ports;
     std::uniform_int_distribution<std::size_t> any(0, ports.size() - 1);
@@ -35,13 +35,13 @@ std::vector<std::string> requestsOf(const SeaNetwork& network) {
 /// Request text to reply text over random pairs of ports; the slowest pair stands in the counter.
 void PlanTwoPorts(benchmark::State& state) {
     std::string error;
-    const auto network = SeaNetwork::load(SEAPLAN_NETWORK, error);
+    const auto network = SeaNetwork::Load(SEAPLAN_NETWORK, error);
     if (!network) {
         state.SkipWithError(error.c_str());
         return;
     }
     GraphRouteSource source(network);
-    const auto requests = requestsOf(*network);
+    const auto requests = RequestsOf(*network);
     std::vector<double> times(requests.size(), 1e9);
     std::size_t next = 0;
     for (auto _ : state) {
@@ -61,7 +61,7 @@ BENCHMARK(PlanTwoPorts)->Iterations(3 * kPairs)->Unit(benchmark::kMillisecond);
 void LoadNetwork(benchmark::State& state) {
     for (auto _ : state) {
         std::string error;
-        benchmark::DoNotOptimize(SeaNetwork::load(SEAPLAN_NETWORK, error));
+        benchmark::DoNotOptimize(SeaNetwork::Load(SEAPLAN_NETWORK, error));
     }
 }
 BENCHMARK(LoadNetwork)->Unit(benchmark::kMillisecond);

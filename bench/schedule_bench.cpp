@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/Schedule.h"
+#include <cstdint>
 
 #include <benchmark/benchmark.h>
 
-#include <cstdint>
+#include "seaplan/calculation/Schedule.h"
 
 namespace {
 
 using namespace Tarvik::Seaplan;
 
-PortCallRows rowsOf(std::int64_t count) {
+PortCallRows RowsOf(std::int64_t count) {
     const Tarvik::Util::_datetime_t start(0, 0, 0, 1, 3, 2026);
     VoyPortCall row;
     row.ppn = "Rotterdam Maasvlakte";
@@ -24,7 +24,7 @@ PortCallRows rowsOf(std::int64_t count) {
 
 /// The pass behind every edited cell.
 void RecomputeRows(benchmark::State& state) {
-    const auto rows = rowsOf(state.range(0));
+    const auto rows = RowsOf(state.range(0));
     for (auto _ : state) {
         PortCallRows out;
         benchmark::DoNotOptimize(RecomputeSchedule(rows, out));

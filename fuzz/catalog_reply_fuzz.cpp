@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/CatalogReply.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
+
+#include "seaplan/protocol/CatalogReply.h"
 
 using namespace Tarvik::Seaplan;
 

@@ -1,17 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Every reader of the client meets the same reply text. Any bytes give a known code, no block is lost, and
 // what a failure leaves behind is empty.
-#include "seaplan/protocol/BookCommands.h"
-#include "seaplan/protocol/Exchange.h"
-#include "seaplan/protocol/PortCallCommands.h"
-#include "seaplan/protocol/RemarkExchange.h"
-#include "seaplan/protocol/RemarkList.h"
-#include "seaplan/protocol/StatusReply.h"
-#include "seaplan/protocol/VoyCatalogModule.h"
-
-#include <tarvik/core/BusBlock.h>
-#include <tarvik/interface/BusContract.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -19,6 +8,17 @@
 #include <cstring>
 #include <string>
 #include <vector>
+
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/interface/BusContract.h>
+
+#include "seaplan/protocol/BookCommands.h"
+#include "seaplan/protocol/Exchange.h"
+#include "seaplan/protocol/PortCallCommands.h"
+#include "seaplan/protocol/RemarkExchange.h"
+#include "seaplan/protocol/RemarkList.h"
+#include "seaplan/protocol/StatusReply.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 
 using namespace Tarvik;
 using namespace Tarvik::Seaplan;
@@ -36,7 +36,7 @@ class Host : public Core::TObject {
   public:
     Host() {
         offer(Interface::Bus::ServerExchange.name, exchange_);
-        exchange_.Set<&Host::onExchange>(this);
+        exchange_.Set<&Host::OnExchange>(this);
         offer(Interface::Bus::CurrentTimeZone.name, zone_);
         zone_.Set<&Host::onZone>(this);
     }
@@ -47,7 +47,7 @@ class Host : public Core::TObject {
         Core::TrvKernel::Instance()->CreateTrvService(name, this, "", "", nullptr);
         Core::TrvKernel::Instance()->BindTrvService(name, &delegate);
     }
-    void* onExchange(void* input) {
+    void* OnExchange(void* input) {
         const auto* request = static_cast<const Interface::VoyServerRequest*>(input);
         require(request->Payload()[request->length - 1] == '\0');
         auto* block = static_cast<char*>(Core::AllocateBusBlock(sizeof *request + text.size() + 1));

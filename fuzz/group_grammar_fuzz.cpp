@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/RouteRequest.h"
-
-#include <tarvik/util/Jsona.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+
+#include <tarvik/util/Jsona.h>
+
+#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/RouteRequest.h"
 
 using namespace Tarvik::Seaplan;
 
@@ -19,7 +19,7 @@ void require(bool holds) {
     }
 }
 
-std::string groupText(const RoutePointGroup& group) {
+std::string GroupText(const RoutePointGroup& group) {
     std::string text = group.rp_id + "=" + group.range + ";";
     for (std::size_t i = 0; i < group.alternatives.size(); ++i) {
         text += (i == 0 ? "" : "|") + group.alternatives[i];
@@ -33,7 +33,7 @@ void checkAlone(const std::string& text) {
     const int code = ParseRoutePointGroup(text, group);
     require(code == 0 || code == -2 || code == -3);
     require((code == -2) == (text.find('=') == std::string::npos));
-    require(code != 0 || groupText(group) == text);
+    require(code != 0 || GroupText(group) == text);
 }
 
 /// The same text as a group, and as the lock, of a stop with two legs.

@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 // Any bytes either parse into a document that can be walked, or are refused with an offset inside the text.
-#include <tarvik/util/Jsona.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include <tarvik/util/Jsona.h>
+
 namespace {
 
 using Tarvik::Util::Jsona;
 
 void Require(bool holds) {
-    if (!holds) std::abort();
+    if (!holds) {
+        std::abort();
+    }
 }
 
 void Walk(const Jsona& value, int depth) {

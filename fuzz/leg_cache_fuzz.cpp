@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/LegCacheText.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <sstream>
 #include <string>
 
+#include "seaplan/calculation/LegCacheText.h"
+
 using Tarvik::Seaplan::LegCache;
 
 namespace {
 
-LegCache readText(const std::string& text) {
+LegCache ReadText(const std::string& text) {
     std::istringstream in(text);
     LegCache cache;
     ReadCache(in, cache);
@@ -46,10 +46,10 @@ void checkLine(const std::string& line) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(reinterpret_cast<const char*>(data), size);
     checkLine(text.substr(0, text.find('\n')));
-    LegCache cache = readText(text);
+    LegCache cache = ReadText(text);
     std::erase_if(cache, [](const auto& item) { return item.second.stops[1].routes.empty(); });
     const std::string written = writeText(cache);
-    const LegCache back = readText(written);
+    const LegCache back = ReadText(written);
     if (back.size() != cache.size() || writeText(back) != written) {
         std::abort();
     }

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/ais/AisReplan.h"
-#include "seaplan/chart/LineSplit.h"
-
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <vector>
+
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/ais/AisReplan.h"
+#include "seaplan/chart/LineSplit.h"
 
 using namespace Tarvik::Seaplan;
 

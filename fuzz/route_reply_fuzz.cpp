@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/RouteRequest.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
+
+#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/RouteRequest.h"
 
 using namespace Tarvik::Seaplan;
 

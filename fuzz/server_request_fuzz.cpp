@@ -2,11 +2,6 @@
 // Requests of one user on the voyage server with a data base in memory. An input is a row of requests with
 // the byte 0x1E between them; the first byte of each is its command: "a" for 1, "b" for 2 and so on, "R" for
 // the remark command.
-#include "host/server/api/VoyageService.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
-
-#include <tarvik/util/Jsona.h>
-
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -14,6 +9,11 @@
 #include <string>
 #include <string_view>
 #include <utility>
+
+#include <tarvik/util/Jsona.h>
+
+#include "host/server/api/VoyageService.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
 
 namespace {
 
@@ -36,7 +36,9 @@ class Server {
     Server() {
         std::string error;
         storage_ = SqliteStorage::Open(":memory:", error);
-        if (storage_ == nullptr) Fail(error, "");
+        if (storage_ == nullptr) {
+            Fail(error, "");
+        }
         service_ =
             std::make_unique<VoyageService>(*storage_, routes_, [] { return std::int64_t{1772323200}; });
         MakeWorld("ann", "1000001", "1000002", "1000003");
@@ -44,7 +46,9 @@ class Server {
     }
 
     std::string Ask(const std::string& user, char command, std::string_view text) {
-        if (command == 'R') return service_->Handle(user, kRemarkModule, 9, text);
+        if (command == 'R') {
+            return service_->Handle(user, kRemarkModule, 9, text);
+        }
         return service_->Handle(user, kVoyageModule, static_cast<std::uint16_t>(command - 'a' + 1), text);
     }
     /// Everything that the first records and those made since hold.
@@ -52,7 +56,9 @@ class Server {
         std::string all = Ask(user, 'c', "{ui:\"" + user + "\"}");
         for (const char* id : {"1000002", "1000005", "1000007", "1000008"}) {
             const std::string voyage = std::string("{vi:\"") + id + "\"}";
-            for (const char command : {'g', 'j', 'l'}) all += Ask(user, command, voyage);
+            for (const char command : {'g', 'j', 'l'}) {
+                all += Ask(user, command, voyage);
+            }
             all += Ask(user, 'R', std::string("{optype:\"4\",type:\"3\",objectid:\"") + id + "\"}");
         }
         return all;
@@ -77,7 +83,9 @@ class Server {
         };
         for (const auto& [command, text] : requests) {
             const std::string reply = Ask(user, command, text);
-            if (reply.rfind(R"({"eid":0)", 0) != 0) Fail("the server does not start", reply);
+            if (reply.rfind(R"({"eid":0)", 0) != 0) {
+                Fail("the server does not start", reply);
+            }
         }
     }
 
@@ -93,20 +101,32 @@ class Bench {
     void Check(char command, std::string_view text) {
         const std::string reply = server_->Ask("ann", command, text);
         Jsona status;
-        if (!status.parse(reply)) Server::Fail("the reply does not parse", reply);
+        if (!status.parse(reply)) {
+            Server::Fail("the reply does not parse", reply);
+        }
         const int eid = status.kind() == Jsona::Kind::Object ? status.getv("eid", 0) : 0;
-        if (eid < 0 || (eid != 0) != status.has("emsg")) Server::Fail("the status is odd", reply);
+        if (eid < 0 || (eid != 0) != status.has("emsg")) {
+            Server::Fail("the status is odd", reply);
+        }
         constexpr std::string_view kReading = "abcgjl";
         const bool reading = kReading.find(command) != std::string_view::npos;
         std::string now = server_->Everything("ann");
-        if (now == anns_) return;
-        if (eid != 0 || reading) Server::Fail("the data changed", reply);
+        if (now == anns_) {
+            return;
+        }
+        if (eid != 0 || reading) {
+            Server::Fail("the data changed", reply);
+        }
         anns_ = std::move(now);
         changed_ = true;
     }
     void EndInput() {
-        if (!changed_) return;
-        if (server_->Everything("bob") != bobs_) Server::Fail("another user's data changed", "");
+        if (!changed_) {
+            return;
+        }
+        if (server_->Everything("bob") != bobs_) {
+            Server::Fail("another user's data changed", "");
+        }
         server_ = std::make_unique<Server>();
         anns_ = server_->Everything("ann");
         changed_ = false;
@@ -127,8 +147,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     for (int i = 0; i < kMostRequests && !input.empty(); ++i) {
         const std::size_t end = input.find(kSeparator);
         const std::string_view request = input.substr(0, end);
-        if (!request.empty()) bench.Check(request[0], request.substr(1));
-        if (end == std::string_view::npos) break;
+        if (!request.empty()) {
+            bench.Check(request[0], request.substr(1));
+        }
+        if (end == std::string_view::npos) {
+            break;
+        }
         input.remove_prefix(end + 1);
     }
     bench.EndInput();

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "testsupport/DataFolder.h"
 
-#include <sqlite3.h>
-#include <tarvik/util/FileUtl.h>
-
 #include <memory>
 #include <stdexcept>
 #include <system_error>
+
+#include <sqlite3.h>
+
+#include <tarvik/util/FileUtl.h>
 
 namespace Tarvik::TestSupport {
 
@@ -20,7 +21,9 @@ std::filesystem::path makeFolder() {
     // mkdtemp puts its own letters in the place of the last six.
     std::string name =
         (std::filesystem::temp_directory_path() / "seaplan-test-").string() + std::string(6, 'X');
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    if (mkdtemp(name.data()) == nullptr) {
+        throw std::runtime_error("no temporary folder");
+    }
     return name;
 }
 
@@ -51,7 +54,9 @@ void DataFolder::WritePoints(const std::vector<PointTableRow>& rows) const {
     std::filesystem::create_directories(PointsFile().parent_path());
     std::filesystem::remove(PointsFile());
     std::string sql = kCreate;
-    for (const PointTableRow& row : rows) sql += insertText(row);
+    for (const PointTableRow& row : rows) {
+        sql += insertText(row);
+    }
     sql += "commit;";
     sqlite3* opened = nullptr;
     const int openCode = sqlite3_open(PointsFile().c_str(), &opened);

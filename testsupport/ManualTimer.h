@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/util/Clock.h>
-
 #include <functional>
 #include <map>
+
+#include <tarvik/util/Clock.h>
 
 namespace Tarvik::TestSupport {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/ValueDictionary.h>
-
 #include <map>
 #include <string>
+
+#include <tarvik/interface/ValueDictionary.h>
 
 namespace Tarvik::TestSupport {
 

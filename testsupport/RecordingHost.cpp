@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "testsupport/RecordingHost.h"
 
-#include <tarvik/core/BusBlock.h>
-
 #include <cstring>
+
+#include <tarvik/core/BusBlock.h>
 
 namespace Tarvik::TestSupport {
 
@@ -12,7 +12,7 @@ namespace {
 namespace Bus = Interface::Bus;
 using Interface::VoyServerRequest;
 
-VoyServerRequest headOf(const std::string& bytes) {
+VoyServerRequest HeadOf(const std::string& bytes) {
     VoyServerRequest head{};
     std::memcpy(static_cast<void*>(&head), bytes.data(), sizeof head);
     return head;
@@ -33,22 +33,22 @@ const T& as(void* input) {
     return *static_cast<const T*>(input);
 }
 
-void* textOf(const std::optional<std::string>& text) {
+void* TextOf(const std::optional<std::string>& text) {
     return text ? const_cast<std::string*>(&*text) : nullptr;
 }
 
 }  // namespace
 
 std::uint32_t RecordedRequest::Length() const {
-    return headOf(bytes).length;
+    return HeadOf(bytes).length;
 }
 
 std::uint16_t RecordedRequest::Command() const {
-    return headOf(bytes).command;
+    return HeadOf(bytes).command;
 }
 
 std::uint16_t RecordedRequest::ModuleWord() const {
-    return headOf(bytes).moduleWord;
+    return HeadOf(bytes).moduleWord;
 }
 
 std::string RecordedRequest::Text() const {
@@ -66,10 +66,10 @@ void RecordingHost::bind(const char* name) {
 }
 
 RecordingHost::RecordingHost() {
-    bind<&RecordingHost::onExchange>(Bus::ServerExchange.name);
-    bind<&RecordingHost::onConnected>(Bus::IsConnected.name);
-    bind<&RecordingHost::onLogin>(Bus::Login.name);
-    bind<&RecordingHost::onUser>(Bus::User.name);
+    bind<&RecordingHost::OnExchange>(Bus::ServerExchange.name);
+    bind<&RecordingHost::OnConnected>(Bus::IsConnected.name);
+    bind<&RecordingHost::OnLogin>(Bus::Login.name);
+    bind<&RecordingHost::OnUser>(Bus::User.name);
     bind<&RecordingHost::onZone>(Bus::CurrentTimeZone.name);
     bind<&RecordingHost::onPositions>(Bus::VesselPositions.name);
     bind<&RecordingHost::onVesselCard>(Bus::ShowVesselCard.name);
@@ -124,7 +124,7 @@ std::vector<ChartCall> RecordingHost::ChartCallsOf(const std::string& service) c
     return calls;
 }
 
-void* RecordingHost::onExchange(void* input) {
+void* RecordingHost::OnExchange(void* input) {
     const auto& request = as<VoyServerRequest>(input);
     requests.push_back(
         {std::string(static_cast<const char*>(input), sizeof(VoyServerRequest) + request.length)});
@@ -137,22 +137,22 @@ void* RecordingHost::onExchange(void* input) {
     return json ? makeReply(*json) : nullptr;
 }
 
-void* RecordingHost::onConnected(void*) {
+void* RecordingHost::OnConnected(void*) {
     connectedFlag_ = connected ? 1 : 0;
     return &connectedFlag_;
 }
 
-void* RecordingHost::onLogin(void*) {
+void* RecordingHost::OnLogin(void*) {
     ++logins;
     return nullptr;
 }
 
-void* RecordingHost::onUser(void*) {
-    return textOf(user);
+void* RecordingHost::OnUser(void*) {
+    return TextOf(user);
 }
 
 void* RecordingHost::onZone(void*) {
-    return textOf(zone);
+    return TextOf(zone);
 }
 
 void* RecordingHost::onPositions(void* input) {
@@ -167,7 +167,7 @@ void* RecordingHost::onVesselCard(void* input) {
 
 void* RecordingHost::onTrack(void* input) {
     trackQueries.push_back(as<Interface::VesselTraceRequest>(input));
-    return textOf(track);
+    return TextOf(track);
 }
 
 void* RecordingHost::onHideTrack(void* input) {

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-#include <tarvik/interface/BusContract.h>
-
 #include <cstdint>
 #include <deque>
 #include <map>
@@ -13,6 +9,10 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <tarvik/interface/BusContract.h>
 
 namespace Tarvik::TestSupport {
 
@@ -74,10 +74,10 @@ class RecordingHost : public Core::TObject {
     template <auto Method>
     void bind(const char* name);
     void bindChart();
-    void* onExchange(void* input);
-    void* onConnected(void* input);
-    void* onLogin(void* input);
-    void* onUser(void* input);
+    void* OnExchange(void* input);
+    void* OnConnected(void* input);
+    void* OnLogin(void* input);
+    void* OnUser(void* input);
     void* onZone(void* input);
     void* onPositions(void* input);
     void* onVesselCard(void* input);

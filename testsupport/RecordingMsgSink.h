@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/SysMsgSink.h>
-
 #include <deque>
 #include <string>
 #include <vector>
+
+#include <tarvik/interface/SysMsgSink.h>
 
 namespace Tarvik::TestSupport {
 

@@ -1,20 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bench/server/CatalogLoad.h"
 
-#include "bench/server/OfficeServer.h"
-#include "host/client/remote/RemoteLink.h"
-#include "host/server/app/EmbeddedServer.h"
-#include "host/server/net/routes/NoRoutes.h"
-#include "seaplan/data/VoyageStore.h"
-#include "seaplan/protocol/VoyCatalogModule.h"
-
-#include <tarvik/core/BusBlock.h>
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-#include <tarvik/interface/BusContract.h>
-
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstring>
@@ -24,6 +10,20 @@
 #include <stdexcept>
 #include <utility>
 #include <vector>
+
+#include <fmt/format.h>
+
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <tarvik/interface/BusContract.h>
+
+#include "bench/server/OfficeServer.h"
+#include "host/client/remote/RemoteLink.h"
+#include "host/server/app/EmbeddedServer.h"
+#include "host/server/net/routes/NoRoutes.h"
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 
 namespace Bench {
 
@@ -37,7 +37,7 @@ using Exchange = std::function<std::string(const Interface::VoyServerRequest&)>;
 class ForwardingHost : public Core::TObject {
   public:
     explicit ForwardingHost(Exchange exchange) : exchange_(std::move(exchange)) {
-        event_.Set<&ForwardingHost::onExchange>(this);
+        event_.Set<&ForwardingHost::OnExchange>(this);
         Core::TrvKernel::Instance()->CreateTrvService(Interface::Bus::ServerExchange.name, this, "", "",
                                                       &event_);
     }
@@ -49,7 +49,7 @@ class ForwardingHost : public Core::TObject {
     ForwardingHost& operator=(const ForwardingHost&) = delete;
 
   private:
-    void* onExchange(void* input) {
+    void* OnExchange(void* input) {
         const auto& request = *static_cast<const Interface::VoyServerRequest*>(input);
         const std::string text = exchange_(request);
         void* block = Core::AllocateBusBlock(sizeof(Interface::VoyServerRequest) + text.size() + 1);
@@ -89,7 +89,9 @@ CatalogTimes LoadFromServer(std::uint16_t port, int runs) {
     settings.password = OfficeServer::kPassword;
     Client::RemoteLink link(settings);
     std::string error;
-    if (!link.Connect(error)) throw std::runtime_error(error);
+    if (!link.Connect(error)) {
+        throw std::runtime_error(error);
+    }
     return Measure([&](const auto& request) { return link.Exchange(OfficeServer::kLargeUser, request); },
                    runs);
 }
@@ -97,7 +99,9 @@ CatalogTimes LoadFromServer(std::uint16_t port, int runs) {
 CatalogTimes LoadFromFile(const std::string& database, int runs) {
     std::string error;
     const auto server = Server::EmbeddedServer::Open(database, std::make_unique<Server::NoRoutes>(), error);
-    if (server == nullptr) throw std::runtime_error(error);
+    if (server == nullptr) {
+        throw std::runtime_error(error);
+    }
     return Measure([&](const auto& request) { return server->Exchange(OfficeServer::kLargeUser, &request); },
                    runs);
 }

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bench/server/ChildProcess.h"
 
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <array>
 #include <csignal>
 #include <exception>
@@ -12,15 +8,21 @@
 #include <iostream>
 #include <stdexcept>
 #include <string>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace Bench {
+
 namespace {
 
 [[noreturn]] void Serve(const std::function<void(const ChildProcess::Ready&)>& serve, int pipe) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     try {
         serve([pipe](std::uint16_t port) {
-            if (::write(pipe, &port, sizeof port) != sizeof port) ::_exit(1);
+            if (::write(pipe, &port, sizeof port) != sizeof port) {
+                ::_exit(1);
+            }
             ::close(pipe);
         });
         ::_exit(0);
@@ -34,14 +36,22 @@ namespace {
 
 ChildProcess::ChildProcess(const std::function<void(const Ready&)>& serve) {
     std::array<int, 2> pipe{};
-    if (::pipe(pipe.data()) != 0) throw std::runtime_error("no pipe");
+    if (::pipe(pipe.data()) != 0) {
+        throw std::runtime_error("no pipe");
+    }
     child_ = ::fork();
-    if (child_ < 0) throw std::runtime_error("no process");
-    if (child_ == 0) Serve(serve, pipe[1]);
+    if (child_ < 0) {
+        throw std::runtime_error("no process");
+    }
+    if (child_ == 0) {
+        Serve(serve, pipe[1]);
+    }
     ::close(pipe[1]);
     const bool ready = ::read(pipe[0], &port_, sizeof port_) == sizeof port_;
     ::close(pipe[0]);
-    if (!ready) throw std::runtime_error("the server does not start");
+    if (!ready) {
+        throw std::runtime_error("the server does not start");
+    }
 }
 
 ChildProcess::~ChildProcess() {
@@ -63,7 +73,9 @@ double ChildProcess::ProcessorSeconds() const {
     double ticks = 0;
     // Fields 14 and 15: user and system time.
     for (int field = 1; field <= 15 && in >> word; ++field) {
-        if (field >= 14) ticks += std::stod(word);
+        if (field >= 14) {
+            ticks += std::stod(word);
+        }
     }
     return ticks / static_cast<double>(::sysconf(_SC_CLK_TCK));
 }

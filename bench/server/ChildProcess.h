@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-
 #include <sys/types.h>
 
 namespace Bench {

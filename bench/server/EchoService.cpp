@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "bench/server/EchoService.h"
 
-#include "host/server/net/http/HttpServer.h"
-
 #include <stdexcept>
+
+#include "host/server/net/http/HttpServer.h"
 
 namespace Bench {
 
@@ -13,7 +13,9 @@ void ServeEchoes(Lane lane, const ChildProcess::Ready& ready) {
     EchoService service(lane);
     HttpServer server(service, HttpLimits());
     std::string error;
-    if (!server.Listen("127.0.0.1", 0, {}, error)) throw std::runtime_error(error);
+    if (!server.Listen("127.0.0.1", 0, {}, error)) {
+        throw std::runtime_error(error);
+    }
     server.StopOnSignals();
     ready(server.Port());
     server.Run();

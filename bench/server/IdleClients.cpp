@@ -2,13 +2,12 @@
 #include "bench/server/IdleClients.h"
 
 #include <arpa/inet.h>
+#include <array>
 #include <netinet/in.h>
+#include <stdexcept>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
-
-#include <array>
-#include <stdexcept>
 
 namespace Bench {
 
@@ -25,12 +24,16 @@ IdleClients::IdleClients(std::uint16_t port, int count, const std::string& reque
             ::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
             ::send(socket, request.data(), request.size(), 0) == static_cast<ssize_t>(request.size()) &&
             ::recv(socket, reply.data(), reply.size(), 0) > 0;
-        if (!answered) throw std::runtime_error("client " + std::to_string(i) + " gets no answer");
+        if (!answered) {
+            throw std::runtime_error("client " + std::to_string(i) + " gets no answer");
+        }
     }
 }
 
 IdleClients::~IdleClients() {
-    for (const int socket : sockets_) ::close(socket);
+    for (const int socket : sockets_) {
+        ::close(socket);
+    }
 }
 
 bool IdleClients::AllowFiles(int count) {

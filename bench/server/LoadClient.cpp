@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bench/server/LoadClient.h"
 
-#include <boost/asio/buffer.hpp>
-#include <boost/asio/io_context.hpp>
-#include <boost/asio/ip/tcp.hpp>
-#include <boost/asio/write.hpp>
-
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -13,7 +8,13 @@
 #include <stdexcept>
 #include <string_view>
 
+#include <boost/asio/buffer.hpp>
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/write.hpp>
+
 namespace Bench {
+
 namespace {
 
 namespace net = boost::asio;
@@ -43,33 +44,45 @@ class Connection {
   private:
     void send() {
         begun_ = Clock::now();
-        if (begun_ >= load_.end) return;
+        if (begun_ >= load_.end) {
+            return;
+        }
         have_ = 0;
         const std::string& request = load_.requests[next_++ % load_.requests.size()];
         net::async_write(socket_, net::buffer(request),
                          [this](boost::system::error_code failed, std::size_t) {
-                             if (failed) throw boost::system::system_error(failed);
-                             read();
+                             if (failed) {
+                                 throw boost::system::system_error(failed);
+                             }
+                             Read();
                          });
     }
-    void read() {
+    void Read() {
         socket_.async_read_some(net::buffer(buffer_.data() + have_, buffer_.size() - have_),
                                 [this](boost::system::error_code failed, std::size_t count) {
-                                    if (failed) throw boost::system::system_error(failed);
+                                    if (failed) {
+                                        throw boost::system::system_error(failed);
+                                    }
                                     have_ += count;
-                                    take();
+                                    Take();
                                 });
     }
-    void take() {
+    void Take() {
         const std::string_view text(buffer_.data(), have_);
         const std::size_t head = text.find("\r\n\r\n");
-        if (head == std::string_view::npos) return read();
-        if (!text.starts_with("HTTP/1.1 200")) throw std::runtime_error(std::string(text.substr(0, head)));
+        if (head == std::string_view::npos) {
+            return Read();
+        }
+        if (!text.starts_with("HTTP/1.1 200")) {
+            throw std::runtime_error(std::string(text.substr(0, head)));
+        }
         constexpr std::string_view kLength = "Content-Length: ";
         const std::size_t place = text.find(kLength);
         std::size_t length = 0;
         std::from_chars(text.data() + place + kLength.size(), text.data() + head, length);
-        if (have_ < head + 4 + length) return read();
+        if (have_ < head + 4 + length) {
+            return Read();
+        }
         const Clock::time_point now = Clock::now();
         ++load_.answered;
         if (now >= load_.counted) {
@@ -101,7 +114,9 @@ LoadResult RunLoad(std::uint16_t port, const std::vector<std::string>& requests,
         all.push_back(std::make_unique<Connection>(io, port, load, static_cast<std::size_t>(i)));
     }
     io.run();
-    if (load.times.empty()) throw std::runtime_error("no reply in time");
+    if (load.times.empty()) {
+        throw std::runtime_error("no reply in time");
+    }
     std::sort(load.times.begin(), load.times.end());
     const auto at = [&](double part) {
         return static_cast<double>(

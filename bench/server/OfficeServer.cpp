@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "bench/server/OfficeServer.h"
 
-#include "host/client/remote/HttpClient.h"
-#include "host/server/net/routes/NoRoutes.h"
-#include "host/server/net/service/VoyageServer.h"
-#include "host/server/wire/Envelope.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
-
+#include <chrono>
 #include <fcntl.h>
+#include <memory>
+#include <optional>
+#include <stdexcept>
 #include <unistd.h>
 
 #include <fmt/format.h>
 
-#include <chrono>
-#include <memory>
-#include <optional>
-#include <stdexcept>
+#include "host/client/remote/HttpClient.h"
+#include "host/server/net/routes/NoRoutes.h"
+#include "host/server/net/service/VoyageServer.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+#include "host/server/wire/Envelope.h"
 
 namespace Bench {
 
@@ -42,13 +41,17 @@ void AddSchedule(VoyageCopy& copy, std::int64_t bookId) {
         copy.calls.push_back({i, std::to_string(40001 + i), fmt::format("Port {}", i), "D", 25.9, 0.05, 12});
     }
     copy.book = BookRecord{std::to_string(bookId), "2026-03-01 00:00:00", {}};
-    for (int i = 0; i < 10; ++i) copy.book->rows.push_back({i, "", i + 0.125, -i - 0.25, "GC", 5, 25.9, 0});
+    for (int i = 0; i < 10; ++i) {
+        copy.book->rows.push_back({i, "", i + 0.125, -i - 0.25, "GC", 5, 25.9, 0});
+    }
     copy.aisTimes = {"2026-03-01 00:00:00", "2026-03-02 00:00:00"};
 }
 
 OwnerCopy SmallOwner() {
     OwnerCopy owner{OfficeServer::kSmallUser, {{std::to_string(kFirstId), "2026", {}, {}}}, {}};
-    for (int i = 1; i <= 3; ++i) owner.categories[0].voyages.push_back(MakeVoyage(kFirstId + i));
+    for (int i = 1; i <= 3; ++i) {
+        owner.categories[0].voyages.push_back(MakeVoyage(kFirstId + i));
+    }
     AddSchedule(owner.categories[0].voyages[0], kFirstId + 4);
     return owner;
 }
@@ -57,8 +60,9 @@ OwnerCopy LargeOwner() {
     OwnerCopy owner{OfficeServer::kLargeUser, {}, {}};
     std::int64_t id = kFirstId + 5;
     for (int i = 0; i < OfficeServer::kVoyages; ++i) {
-        if (i % 100 == 0)
+        if (i % 100 == 0) {
             owner.categories.push_back({std::to_string(id++), fmt::format("Category {}", i), {}, {}});
+        }
         owner.categories.back().voyages.push_back(MakeVoyage(id++));
     }
     return owner;
@@ -78,16 +82,22 @@ std::string Request(const std::string& token, std::uint16_t command, const std::
 void OfficeServer::Fill(const std::string& database) {
     std::string error;
     const auto storage = SqliteStorage::Open(database, error);
-    if (storage == nullptr) throw std::runtime_error(error);
+    if (storage == nullptr) {
+        throw std::runtime_error(error);
+    }
     int next = 0;
     const auto added =
         storage->Transfer().AddOwners({{kSmallUser, kLargeUser}, kFirstId, kFirstId + 2 * kVoyages, false},
                                       [&]() -> Outcome<std::optional<OwnerCopy>> {
                                           const int place = next++;
-                                          if (place > 1) return std::optional<OwnerCopy>();
+                                          if (place > 1) {
+                                              return std::optional<OwnerCopy>();
+                                          }
                                           return std::optional(place == 0 ? SmallOwner() : LargeOwner());
                                       });
-    if (!added || !added.Value().idsKept) throw std::runtime_error("the data base cannot be filled");
+    if (!added || !added.Value().idsKept) {
+        throw std::runtime_error("the data base cannot be filled");
+    }
 }
 
 void OfficeServer::Serve(const std::string& folder, bool logRequests, const ChildProcess::Ready& ready) {
@@ -105,10 +115,13 @@ void OfficeServer::Serve(const std::string& folder, bool logRequests, const Chil
     parts.passwordCost = kCheap;
     std::string error;
     const auto server = VoyageServer::Open(settings, std::move(parts), error);
-    if (server == nullptr) throw std::runtime_error(error);
+    if (server == nullptr) {
+        throw std::runtime_error(error);
+    }
     for (const char* user : {kSmallUser, kLargeUser}) {
-        if (!server->Accounts().AddUser(user, Passwords(kCheap).Hash(kPassword)))
+        if (!server->Accounts().AddUser(user, Passwords(kCheap).Hash(kPassword))) {
             throw std::runtime_error("no user");
+        }
     }
     server->StopOnSignals();
     ready(server->Port());
@@ -117,13 +130,17 @@ void OfficeServer::Serve(const std::string& folder, bool logRequests, const Chil
 
 std::string OfficeServer::LogIn(std::uint16_t port, const std::string& user) {
     const auto parsed = Tarvik::Client::ServerUrl::Parse(fmt::format("http://127.0.0.1:{}", port));
-    if (!parsed) throw std::runtime_error("no address");
+    if (!parsed) {
+        throw std::runtime_error("no address");
+    }
     Tarvik::Client::HttpClient http(*parsed, std::chrono::seconds(15), {});
     const std::string body = fmt::format(R"({{"user":"{}","password":"{}"}})", user, kPassword);
     const auto answer = http.Post("/v1/login", "application/json", body, {});
     const std::string mark = "\"token\":\"";
     const std::size_t from = answer.body.find(mark);
-    if (answer.status != 200 || from == std::string::npos) throw std::runtime_error("no login");
+    if (answer.status != 200 || from == std::string::npos) {
+        throw std::runtime_error("no login");
+    }
     return answer.body.substr(from + mark.size(),
                               answer.body.find('"', from + mark.size()) - from - mark.size());
 }

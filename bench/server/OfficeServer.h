@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "bench/server/ChildProcess.h"
-
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "bench/server/ChildProcess.h"
 
 namespace Bench {
 

@@ -2,16 +2,6 @@
 // The voyage server under load over loopback, each server in a process of its own: small reads beside an echo
 // server of the same stack, the memory of idle clients, the load of a large catalog. Prints one line a
 // figure.
-#include "bench/server/CatalogLoad.h"
-#include "bench/server/ChildProcess.h"
-#include "bench/server/EchoService.h"
-#include "bench/server/IdleClients.h"
-#include "bench/server/LoadClient.h"
-#include "bench/server/OfficeServer.h"
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <array>
 #include <exception>
@@ -19,6 +9,16 @@
 #include <iostream>
 #include <utility>
 #include <vector>
+
+#include <fmt/format.h>
+
+#include "bench/server/CatalogLoad.h"
+#include "bench/server/ChildProcess.h"
+#include "bench/server/EchoService.h"
+#include "bench/server/IdleClients.h"
+#include "bench/server/LoadClient.h"
+#include "bench/server/OfficeServer.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
 
 namespace {
 
@@ -89,9 +89,13 @@ void MeasureReads() {
         all[i].SetRequests(OfficeServer::SmallReads(token));
     }
     for (int round = 0; round < kRounds; ++round) {
-        for (Contestant& one : all) one.RunRound();
+        for (Contestant& one : all) {
+            one.RunRound();
+        }
     }
-    for (Contestant& one : all) one.Print();
+    for (Contestant& one : all) {
+        one.Print();
+    }
     const auto part = [&](std::size_t i) {
         return 100 * all[i].Middle().requestsPerSecond / all[1].Middle().requestsPerSecond;
     };

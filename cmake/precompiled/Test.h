@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Library.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include "Library.h"

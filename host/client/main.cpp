@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <cstdio>
+
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/plan/PlanHelp.h"
 #include "host/client/session/CommandLine.h"
 #include "host/client/shell/PlanRun.h"
 #include "host/client/shell/WindowRun.h"
-
-#include <cstdio>
 
 int main(int argc, char** argv) {
     using namespace Tarvik::Client;

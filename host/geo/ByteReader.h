@@ -15,48 +15,51 @@ class ByteReader {
   public:
     explicit ByteReader(std::string_view bytes) : bytes_(bytes) {}
 
-    bool ok() const { return ok_; }
-    bool atEnd() const { return at_ == bytes_.size(); }
+    bool Ok() const { return ok_; }
+    bool AtEnd() const { return at_ == bytes_.size(); }
 
-    uint8_t u8() { return static_cast<uint8_t>(number(1)); }
-    uint16_t u16() { return static_cast<uint16_t>(number(2)); }
-    uint32_t u32() { return static_cast<uint32_t>(number(4)); }
-    uint64_t u64() { return number(8); }
-    float f32() { return std::bit_cast<float>(u32()); }
+    std::uint8_t U8() { return static_cast<std::uint8_t>(Number(1)); }
+    std::uint16_t U16() { return static_cast<std::uint16_t>(Number(2)); }
+    std::uint32_t U32() { return static_cast<std::uint32_t>(Number(4)); }
+    std::uint64_t U64() { return Number(8); }
+    float F32() { return std::bit_cast<float>(U32()); }
 
     /// A count of items of at least `itemBytes` each; 0 and not ok when the rest cannot hold that many.
-    size_t count(size_t itemBytes) {
-        const size_t n = u32();
-        if (n > (bytes_.size() - at_) / itemBytes) ok_ = false;
+    std::size_t Count(std::size_t itemBytes) {
+        const std::size_t n = U32();
+        if (n > (bytes_.size() - at_) / itemBytes) {
+            ok_ = false;
+        }
         return ok_ ? n : 0;
     }
     std::string text() {
-        const size_t n = count(1);
+        const std::size_t n = Count(1);
         std::string result(bytes_.substr(at_, n));
         at_ += n;
         return result;
     }
-    GeoPoint point() {
-        const auto x = static_cast<int32_t>(u32());
-        const auto y = static_cast<int32_t>(u32());
+    GeoPoint Point() {
+        const auto x = static_cast<std::int32_t>(U32());
+        const auto y = static_cast<std::int32_t>(U32());
         return {x / 1e5, y / 1e5};
     }
 
   private:
-    uint64_t number(size_t width) {
+    std::uint64_t Number(std::size_t width) {
         if (bytes_.size() - at_ < width) {
             ok_ = false;
             at_ = bytes_.size();
             return 0;
         }
-        uint64_t v = 0;
-        for (size_t i = 0; i < width; ++i)
-            v |= static_cast<uint64_t>(static_cast<uint8_t>(bytes_[at_ + i])) << (8 * i);
+        std::uint64_t v = 0;
+        for (std::size_t i = 0; i < width; ++i) {
+            v |= static_cast<std::uint64_t>(static_cast<std::uint8_t>(bytes_[at_ + i])) << (8 * i);
+        }
         at_ += width;
         return v;
     }
     std::string_view bytes_;
-    size_t at_ = 0;
+    std::size_t at_ = 0;
     bool ok_ = true;
 };
 

@@ -23,8 +23,8 @@ namespace Tarvik::Data {
 /// areas and the coasts: a count (u32) and per cell its count of points (u32) and its points (two f32,
 /// longitude first).
 struct LandFile {
-    static constexpr size_t kLevels = 3;
-    static constexpr size_t kMaxPoints = 400;
+    static constexpr std::size_t kLevels = 3;
+    static constexpr std::size_t kMaxPoints = 400;
 
     struct Cell {
         float minX = 0.0F;
@@ -34,19 +34,19 @@ struct LandFile {
         std::vector<std::pair<float, float>> points;
 
         /// Sets the box from the points.
-        void measure();
+        void Measure();
     };
 
     std::array<std::vector<Cell>, kLevels> levels;
     std::array<std::vector<Cell>, kLevels> coasts;
 
     /// Reads a file; nothing and an error text when it is missing, foreign, cut or damaged.
-    static std::optional<LandFile> load(const std::string& path, std::string& error);
-    static std::optional<LandFile> decode(const std::string& bytes, std::string& error);
+    static std::optional<LandFile> Load(const std::string& path, std::string& error);
+    static std::optional<LandFile> Decode(const std::string& bytes, std::string& error);
 
     /// Writes a file; returns an error text, empty on success.
-    std::string save(const std::string& path) const;
-    std::string encode() const;
+    std::string Save(const std::string& path) const;
+    std::string Encode() const;
 };
 
 }  // namespace Tarvik::Data

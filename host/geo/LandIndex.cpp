@@ -7,29 +7,30 @@
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr int kCellsPerDegree = 4;
 constexpr int kColumns = 360 * kCellsPerDegree;
 constexpr int kRows = 180 * kCellsPerDegree;
 
-int columnOf(double x) {
+int ColumnOf(double x) {
     return std::clamp(static_cast<int>(std::floor((x + 180.0) * kCellsPerDegree)), 0, kColumns - 1);
 }
 
-int rowOf(double y) {
+int RowOf(double y) {
     return std::clamp(static_cast<int>(std::floor((y + 90.0) * kCellsPerDegree)), 0, kRows - 1);
 }
 
-size_t cellOf(int column, int row) {
-    return static_cast<size_t>(row) * kColumns + static_cast<size_t>(column);
+std::size_t CellOf(int column, int row) {
+    return static_cast<std::size_t>(row) * kColumns + static_cast<std::size_t>(column);
 }
 
-double side(double ax, double ay, double bx, double by, double px, double py) {
+double Side(double ax, double ay, double bx, double by, double px, double py) {
     return (bx - ax) * (py - ay) - (by - ay) * (px - ax);
 }
 
-double crossingAt180(GeoPoint a, GeoPoint b, double border) {
+double CrossingAt180(GeoPoint a, GeoPoint b, double border) {
     const double t = (border - a.x) / (b.x - a.x);
     return a.y + t * (b.y - a.y);
 }
@@ -37,17 +38,23 @@ double crossingAt180(GeoPoint a, GeoPoint b, double border) {
 }  // namespace
 
 LandIndex::LandIndex(const std::vector<std::vector<GeoPoint>>& rings) {
-    size_t total = 0;
-    for (const auto& ring : rings) total += ring.size();
+    std::size_t total = 0;
+    for (const auto& ring : rings) {
+        total += ring.size();
+    }
     segments_.reserve(total + rings.size());
     for (const auto& ring : rings) {
-        for (size_t i = 0; i < ring.size(); ++i) addSegment(ring[i], ring[(i + 1) % ring.size()]);
+        for (std::size_t i = 0; i < ring.size(); ++i) {
+            AddSegment(ring[i], ring[(i + 1) % ring.size()]);
+        }
     }
-    fillCells();
+    FillCells();
 }
 
-void LandIndex::addSegment(GeoPoint a, GeoPoint b) {
-    if (a == b) return;
+void LandIndex::AddSegment(GeoPoint a, GeoPoint b) {
+    if (a == b) {
+        return;
+    }
     const double jump = b.x - a.x;
     if (std::abs(jump) <= 180.0) {
         segments_.push_back({a.x, a.y, b.x, b.y});
@@ -55,15 +62,15 @@ void LandIndex::addSegment(GeoPoint a, GeoPoint b) {
     }
     const double border = jump > 0 ? -180.0 : 180.0;
     const GeoPoint unwrapped{b.x - std::copysign(360.0, jump), b.y};
-    const double y = unwrapped.x == a.x ? a.y : crossingAt180(a, unwrapped, border);
-    addSegment(a, {border, y});
-    addSegment({-border, y}, b);
+    const double y = unwrapped.x == a.x ? a.y : CrossingAt180(a, unwrapped, border);
+    AddSegment(a, {border, y});
+    AddSegment({-border, y}, b);
 }
 
 template <typename Visit>
-void LandIndex::visitCells(const Segment& s, Visit visit) const {
-    const int rowFirst = rowOf(std::min(s.y1, s.y2));
-    const int rowLast = rowOf(std::max(s.y1, s.y2));
+void LandIndex::VisitCells(const Segment& s, Visit visit) const {
+    const int rowFirst = RowOf(std::min(s.y1, s.y2));
+    const int rowLast = RowOf(std::max(s.y1, s.y2));
     const double slope = s.y2 == s.y1 ? 0.0 : (s.x2 - s.x1) / (s.y2 - s.y1);
     for (int row = rowFirst; row <= rowLast; ++row) {
         double left = std::min(s.x1, s.x2);
@@ -78,96 +85,118 @@ void LandIndex::visitCells(const Segment& s, Visit visit) const {
             left = std::min(xa, xb);
             right = std::max(xa, xb);
         }
-        const int columnLast = columnOf(right + 1e-9);
-        for (int column = columnOf(left - 1e-9); column <= columnLast; ++column) {
-            if (visit(column, row)) return;
+        const int columnLast = ColumnOf(right + 1e-9);
+        for (int column = ColumnOf(left - 1e-9); column <= columnLast; ++column) {
+            if (visit(column, row)) {
+                return;
+            }
         }
     }
 }
 
-void LandIndex::fillCells() {
-    cellStart_.assign(static_cast<size_t>(kColumns) * kRows + 1, 0);
+void LandIndex::FillCells() {
+    cellStart_.assign(static_cast<std::size_t>(kColumns) * kRows + 1, 0);
     for (const Segment& s : segments_) {
-        visitCells(s, [this](int column, int row) {
-            ++cellStart_[cellOf(column, row) + 1];
+        VisitCells(s, [this](int column, int row) {
+            ++cellStart_[CellOf(column, row) + 1];
             return false;
         });
     }
-    for (size_t i = 1; i < cellStart_.size(); ++i) cellStart_[i] += cellStart_[i - 1];
+    for (std::size_t i = 1; i < cellStart_.size(); ++i) {
+        cellStart_[i] += cellStart_[i - 1];
+    }
     cellItems_.resize(cellStart_.back());
-    std::vector<uint32_t> next(cellStart_.begin(), cellStart_.end() - 1);
-    for (uint32_t i = 0; i < segments_.size(); ++i) {
-        visitCells(segments_[i], [&](int column, int row) {
-            cellItems_[next[cellOf(column, row)]++] = i;
+    std::vector<std::uint32_t> next(cellStart_.begin(), cellStart_.end() - 1);
+    for (std::uint32_t i = 0; i < segments_.size(); ++i) {
+        VisitCells(segments_[i], [&](int column, int row) {
+            cellItems_[next[CellOf(column, row)]++] = i;
             return false;
         });
     }
 }
 
-bool LandIndex::cellBlocks(int column, int row, const Segment& s) const {
-    const size_t cell = cellOf(column, row);
-    for (uint32_t k = cellStart_[cell]; k < cellStart_[cell + 1]; ++k) {
+bool LandIndex::CellBlocks(int column, int row, const Segment& s) const {
+    const std::size_t cell = CellOf(column, row);
+    for (std::uint32_t k = cellStart_[cell]; k < cellStart_[cell + 1]; ++k) {
         const Segment& o = segments_[cellItems_[k]];
-        if (std::max(o.x1, o.x2) < std::min(s.x1, s.x2) || std::min(o.x1, o.x2) > std::max(s.x1, s.x2))
+        if (std::max(o.x1, o.x2) < std::min(s.x1, s.x2) || std::min(o.x1, o.x2) > std::max(s.x1, s.x2)) {
             continue;
-        if (std::max(o.y1, o.y2) < std::min(s.y1, s.y2) || std::min(o.y1, o.y2) > std::max(s.y1, s.y2))
+        }
+        if (std::max(o.y1, o.y2) < std::min(s.y1, s.y2) || std::min(o.y1, o.y2) > std::max(s.y1, s.y2)) {
             continue;
-        const double d1 = side(s.x1, s.y1, s.x2, s.y2, o.x1, o.y1);
-        const double d2 = side(s.x1, s.y1, s.x2, s.y2, o.x2, o.y2);
-        const double d3 = side(o.x1, o.y1, o.x2, o.y2, s.x1, s.y1);
-        const double d4 = side(o.x1, o.y1, o.x2, o.y2, s.x2, s.y2);
-        if (d1 * d2 <= 0.0 && d3 * d4 <= 0.0) return true;
+        }
+        const double d1 = Side(s.x1, s.y1, s.x2, s.y2, o.x1, o.y1);
+        const double d2 = Side(s.x1, s.y1, s.x2, s.y2, o.x2, o.y2);
+        const double d3 = Side(o.x1, o.y1, o.x2, o.y2, s.x1, s.y1);
+        const double d4 = Side(o.x1, o.y1, o.x2, o.y2, s.x2, s.y2);
+        if (d1 * d2 <= 0.0 && d3 * d4 <= 0.0) {
+            return true;
+        }
     }
     return false;
 }
 
-bool LandIndex::walk(const Segment& s) const {
+bool LandIndex::Walk(const Segment& s) const {
     bool blocked = false;
-    visitCells(s, [&](int column, int row) { return blocked = cellBlocks(column, row, s); });
+    VisitCells(s, [&](int column, int row) { return blocked = CellBlocks(column, row, s); });
     return blocked;
 }
 
-bool LandIndex::blocksStraight(GeoPoint a, GeoPoint b) const {
-    if (cellStart_.empty()) return false;
+bool LandIndex::BlocksStraight(GeoPoint a, GeoPoint b) const {
+    if (cellStart_.empty()) {
+        return false;
+    }
     const double shift = 360.0 * std::floor((a.x + 180.0) / 360.0);
     a.x -= shift;
     b.x -= shift;
-    if (b.x >= -180.0 && b.x <= 180.0) return walk({a.x, a.y, b.x, b.y});
+    if (b.x >= -180.0 && b.x <= 180.0) {
+        return Walk({a.x, a.y, b.x, b.y});
+    }
     const double border = b.x > 180.0 ? 180.0 : -180.0;
-    const double y = crossingAt180(a, b, border);
-    return walk({a.x, a.y, border, y}) || walk({-border, y, b.x - 2.0 * border, b.y});
+    const double y = CrossingAt180(a, b, border);
+    return Walk({a.x, a.y, border, y}) || Walk({-border, y, b.x - 2.0 * border, b.y});
 }
 
-bool LandIndex::blocks(GeoPoint a, GeoPoint b) const {
-    const std::vector<GeoPoint> points = greatCircle(a, b);
-    for (size_t i = 1; i < points.size(); ++i) {
-        if (blocksStraight(points[i - 1], points[i])) return true;
+bool LandIndex::Blocks(GeoPoint a, GeoPoint b) const {
+    const std::vector<GeoPoint> points = GreatCircle(a, b);
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (BlocksStraight(points[i - 1], points[i])) {
+            return true;
+        }
     }
     return false;
 }
 
-bool LandIndex::isLand(GeoPoint p) const {
-    if (cellStart_.empty()) return false;
-    p.x = wrapLongitude(p.x);
-    const int column = columnOf(p.x);
+bool LandIndex::IsLand(GeoPoint p) const {
+    if (cellStart_.empty()) {
+        return false;
+    }
+    p.x = WrapLongitude(p.x);
+    const int column = ColumnOf(p.x);
     bool inside = false;
-    for (int row = rowOf(p.y); row < kRows; ++row) {
-        const size_t cell = cellOf(column, row);
-        for (uint32_t k = cellStart_[cell]; k < cellStart_[cell + 1]; ++k) {
+    for (int row = RowOf(p.y); row < kRows; ++row) {
+        const std::size_t cell = CellOf(column, row);
+        for (std::uint32_t k = cellStart_[cell]; k < cellStart_[cell + 1]; ++k) {
             const Segment& o = segments_[cellItems_[k]];
-            if ((o.x1 <= p.x) == (o.x2 <= p.x)) continue;
+            if ((o.x1 <= p.x) == (o.x2 <= p.x)) {
+                continue;
+            }
             const double y = o.y1 + (p.x - o.x1) / (o.x2 - o.x1) * (o.y2 - o.y1);
-            if (y > p.y && rowOf(y) == row) inside = !inside;
+            if (y > p.y && RowOf(y) == row) {
+                inside = !inside;
+            }
         }
     }
     return inside;
 }
 
-bool LandIndex::isClear(GeoPoint p, double nm) const {
+bool LandIndex::IsClear(GeoPoint p, double nm) const {
     for (int i = 0; i < 12; ++i) {
-        GeoPoint end = destination(p, i * 30.0, nm);
+        GeoPoint end = Destination(p, i * 30.0, nm);
         end.x += 360.0 * std::round((p.x - end.x) / 360.0);
-        if (blocksStraight(p, end)) return false;
+        if (BlocksStraight(p, end)) {
+            return false;
+        }
     }
     return true;
 }

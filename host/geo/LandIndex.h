@@ -20,33 +20,33 @@ class LandIndex {
     explicit LandIndex(const std::vector<std::vector<GeoPoint>>& rings);
 
     /// True when the great circle from a to b, drawn in pieces of at most a degree, meets the coast.
-    bool blocks(GeoPoint a, GeoPoint b) const;
+    bool Blocks(GeoPoint a, GeoPoint b) const;
 
     /// True when one straight piece in longitude and latitude meets the coast; longitudes may run past ±180.
-    bool blocksStraight(GeoPoint a, GeoPoint b) const;
+    bool BlocksStraight(GeoPoint a, GeoPoint b) const;
 
     /// True for a place inside a ring.
-    bool isLand(GeoPoint p) const;
+    bool IsLand(GeoPoint p) const;
 
     /// True when no coast lies within about `nm` nautical miles of the place (sampled in 12 directions).
-    bool isClear(GeoPoint p, double nm) const;
+    bool IsClear(GeoPoint p, double nm) const;
 
-    size_t segmentCount() const { return segments_.size(); }
+    std::size_t SegmentCount() const { return segments_.size(); }
 
   private:
     struct Segment {
         double x1, y1, x2, y2;
     };
-    void addSegment(GeoPoint a, GeoPoint b);
-    void fillCells();
-    bool cellBlocks(int column, int row, const Segment& s) const;
-    bool walk(const Segment& s) const;
+    void AddSegment(GeoPoint a, GeoPoint b);
+    void FillCells();
+    bool CellBlocks(int column, int row, const Segment& s) const;
+    bool Walk(const Segment& s) const;
     template <typename Visit>
-    void visitCells(const Segment& s, Visit visit) const;
+    void VisitCells(const Segment& s, Visit visit) const;
 
     std::vector<Segment> segments_;
-    std::vector<uint32_t> cellStart_;
-    std::vector<uint32_t> cellItems_;
+    std::vector<std::uint32_t> cellStart_;
+    std::vector<std::uint32_t> cellItems_;
 };
 
 }  // namespace Tarvik::Server

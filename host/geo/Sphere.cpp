@@ -1,26 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "host/geo/Sphere.h"
 
-#include <GeographicLib/Geodesic.hpp>
 #include <algorithm>
 #include <cmath>
 
+#include <GeographicLib/Geodesic.hpp>
+
 namespace Tarvik::Server {
 
-UnitVector toVector(GeoPoint p) {
+UnitVector ToVector(GeoPoint p) {
     const double c = std::cos(p.y * kDegree);
     return {c * std::cos(p.x * kDegree), c * std::sin(p.x * kDegree), std::sin(p.y * kDegree)};
 }
 
-GeoPoint toPoint(const UnitVector& v) {
+GeoPoint ToPoint(const UnitVector& v) {
     return {std::atan2(v.y, v.x) / kDegree, std::atan2(v.z, std::hypot(v.x, v.y)) / kDegree};
 }
 
-double dot(const UnitVector& a, const UnitVector& b) {
+double Dot(const UnitVector& a, const UnitVector& b) {
     return a.x * b.x + a.y * b.y + a.z * b.z;
 }
 
-double arcNm(const UnitVector& a, const UnitVector& b) {
+double ArcNm(const UnitVector& a, const UnitVector& b) {
     const double dx = a.x - b.x;
     const double dy = a.y - b.y;
     const double dz = a.z - b.z;
@@ -28,32 +29,32 @@ double arcNm(const UnitVector& a, const UnitVector& b) {
     return 2.0 * std::asin(std::min(1.0, half)) / kDegree * kNmPerDegree;
 }
 
-double arcNm(GeoPoint a, GeoPoint b) {
-    return arcNm(toVector(a), toVector(b));
+double ArcNm(GeoPoint a, GeoPoint b) {
+    return ArcNm(ToVector(a), ToVector(b));
 }
 
-double geodesicKm(GeoPoint a, GeoPoint b) {
+double GeodesicKm(GeoPoint a, GeoPoint b) {
     double metres = 0.0;
     GeographicLib::Geodesic::WGS84().Inverse(a.y, a.x, b.y, b.x, metres);
     return metres / 1000.0;
 }
 
-double wrapLongitude(double x) {
+double WrapLongitude(double x) {
     const double wrapped = std::fmod(x + 180.0, 360.0);
     return (wrapped < 0.0 ? wrapped + 360.0 : wrapped) - 180.0;
 }
 
-GeoPoint roundPoint(GeoPoint p) {
+GeoPoint RoundPoint(GeoPoint p) {
     return {std::round(p.x * 1e5) / 1e5, std::round(p.y * 1e5) / 1e5};
 }
 
-std::vector<GeoPoint> greatCircle(GeoPoint a, GeoPoint b) {
-    const UnitVector va = toVector(a);
-    const UnitVector vb = toVector(b);
-    const double angle = arcNm(va, vb) / kNmPerDegree;
+std::vector<GeoPoint> GreatCircle(GeoPoint a, GeoPoint b) {
+    const UnitVector va = ToVector(a);
+    const UnitVector vb = ToVector(b);
+    const double angle = ArcNm(va, vb) / kNmPerDegree;
     const int pieces = std::max(1, static_cast<int>(std::ceil(angle / kChunkDegrees)));
     std::vector<GeoPoint> points;
-    points.reserve(static_cast<size_t>(pieces) + 1);
+    points.reserve(static_cast<std::size_t>(pieces) + 1);
     points.push_back(a);
     const double sinus = std::sin(angle * kDegree);
     const auto append = [&points](GeoPoint p) {
@@ -65,20 +66,20 @@ std::vector<GeoPoint> greatCircle(GeoPoint a, GeoPoint b) {
         const double t = static_cast<double>(i) / pieces;
         const double fa = std::sin((1.0 - t) * angle * kDegree) / sinus;
         const double fb = std::sin(t * angle * kDegree) / sinus;
-        append(roundPoint(toPoint({fa * va.x + fb * vb.x, fa * va.y + fb * vb.y, fa * va.z + fb * vb.z})));
+        append(RoundPoint(ToPoint({fa * va.x + fb * vb.x, fa * va.y + fb * vb.y, fa * va.z + fb * vb.z})));
     }
     append(b);
     return points;
 }
 
-GeoPoint destination(GeoPoint from, double bearingDegrees, double nm) {
+GeoPoint Destination(GeoPoint from, double bearingDegrees, double nm) {
     const double d = nm / kNmPerDegree * kDegree;
     const double b = bearingDegrees * kDegree;
     const double y1 = from.y * kDegree;
     const double y2 = std::asin(std::sin(y1) * std::cos(d) + std::cos(y1) * std::sin(d) * std::cos(b));
     const double dx =
         std::atan2(std::sin(b) * std::sin(d) * std::cos(y1), std::cos(d) - std::sin(y1) * std::sin(y2));
-    return {wrapLongitude(from.x + dx / kDegree), y2 / kDegree};
+    return {WrapLongitude(from.x + dx / kDegree), y2 / kDegree};
 }
 
 }  // namespace Tarvik::Server

@@ -21,28 +21,28 @@ inline constexpr double kKmPerNm = 1.852;
 /// Great circles are broken into straight pieces of at most this many degrees of arc.
 inline constexpr double kChunkDegrees = 1.0;
 
-UnitVector toVector(GeoPoint p);
-GeoPoint toPoint(const UnitVector& v);
-double dot(const UnitVector& a, const UnitVector& b);
+UnitVector ToVector(GeoPoint p);
+GeoPoint ToPoint(const UnitVector& v);
+double Dot(const UnitVector& a, const UnitVector& b);
 
 /// Angle between two directions in nautical miles, exact for near and for far points.
-double arcNm(const UnitVector& a, const UnitVector& b);
-double arcNm(GeoPoint a, GeoPoint b);
+double ArcNm(const UnitVector& a, const UnitVector& b);
+double ArcNm(GeoPoint a, GeoPoint b);
 
 /// Length of the WGS-84 geodesic in km.
-double geodesicKm(GeoPoint a, GeoPoint b);
+double GeodesicKm(GeoPoint a, GeoPoint b);
 
 /// Longitude brought into [-180, 180).
-double wrapLongitude(double x);
+double WrapLongitude(double x);
 
 /// Rounds to 5 decimals (about a metre), the precision in which positions are stored and sent.
-GeoPoint roundPoint(GeoPoint p);
+GeoPoint RoundPoint(GeoPoint p);
 
 /// The great circle from a to b as points at most `kChunkDegrees` apart, ends included. The longitudes run on
 /// past ±180 where the way crosses the date line, so that neighbours never lie more than 180 degrees apart.
-std::vector<GeoPoint> greatCircle(GeoPoint a, GeoPoint b);
+std::vector<GeoPoint> GreatCircle(GeoPoint a, GeoPoint b);
 
 /// The point at a distance (NM) from `from` in a direction (degrees clockwise from north).
-GeoPoint destination(GeoPoint from, double bearingDegrees, double nm);
+GeoPoint Destination(GeoPoint from, double bearingDegrees, double nm);
 
 }  // namespace Tarvik::Server

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyPositionBook.h"
-
 #include <cstddef>
 #include <vector>
+
+#include "seaplan/data/VoyPositionBook.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/LegCacheText.h"
 
+#include <istream>
+#include <ostream>
+
+#include <tarvik/util/StringUtl.h>
+
 #include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/calculation/TimeText.h"
 
-#include <tarvik/util/StringUtl.h>
-
-#include <istream>
-#include <ostream>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 // From the outside in. Nothing is escaped: a name that holds a separator breaks its line.
@@ -26,7 +27,7 @@ constexpr std::size_t kGroupFields = 3;
 using Texts = std::vector<std::string>;
 using Util::StringUtl;
 
-int parseHead(const std::string& text, RouteLegCacheEntry& entry) {
+int ParseHead(const std::string& text, RouteLegCacheEntry& entry) {
     Texts fields;
     if (!StringUtl::split(text, kField, fields)) {
         return -4;
@@ -46,7 +47,7 @@ int parseHead(const std::string& text, RouteLegCacheEntry& entry) {
     return 0;
 }
 
-int parseSegments(const std::string& text, std::vector<RouteSegment>& segments) {
+int ParseSegments(const std::string& text, std::vector<RouteSegment>& segments) {
     Texts items;
     if (!StringUtl::split(text, kItem, items)) {
         return -7;
@@ -64,7 +65,7 @@ int parseSegments(const std::string& text, std::vector<RouteSegment>& segments) 
     return 0;
 }
 
-int parseGroups(const std::string& text, std::vector<RoutePointGroup>& groups) {
+int ParseGroups(const std::string& text, std::vector<RoutePointGroup>& groups) {
     Texts items;
     if (!StringUtl::split(text, kItem, items)) {
         return -10;
@@ -88,14 +89,14 @@ int parseGroups(const std::string& text, std::vector<RoutePointGroup>& groups) {
     return 0;
 }
 
-void writeSegments(std::ostream& out, const std::vector<RouteSegment>& segments) {
+void WriteSegments(std::ostream& out, const std::vector<RouteSegment>& segments) {
     for (const auto& segment : segments) {
         out << segment.route << kField << segment.from_cd << kField << segment.end_cd << kField
             << segment.pointset << (&segment == &segments.back() ? kSection : kItem);
     }
 }
 
-void writeGroups(std::ostream& out, const std::vector<RoutePointGroup>& groups) {
+void WriteGroups(std::ostream& out, const std::vector<RoutePointGroup>& groups) {
     if (groups.empty()) {
         out << kSection;
     }
@@ -127,12 +128,12 @@ int ParseCacheLine(const std::string& line, RouteLegCacheEntry& out) {
     }
     RouteLegCacheEntry entry;
     entry.stops.resize(2);
-    int code = parseHead(sections[0], entry);
+    int code = ParseHead(sections[0], entry);
     if (code == 0) {
-        code = parseSegments(sections[1], entry.stops[1].routes);
+        code = ParseSegments(sections[1], entry.stops[1].routes);
     }
     if (code == 0) {
-        code = parseGroups(sections[2], entry.stops[1].rp_groups);
+        code = ParseGroups(sections[2], entry.stops[1].rp_groups);
     }
     if (code != 0) {
         return code;
@@ -165,8 +166,8 @@ int WriteCache(std::ostream& out, const LegCache& cache) {
         const auto& end = entry.stops[1];
         out << entry.stamp.fmt(kTimeFormat) << kField << entry.from << kField << entry.to << kField
             << entry.stops[0].point_cd << kField << end.point_cd << kSection;
-        writeSegments(out, end.routes);
-        writeGroups(out, end.rp_groups);
+        WriteSegments(out, end.routes);
+        WriteGroups(out, end.rp_groups);
         out << end.rp_id_str << '\n';
     }
     return 0;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/RouteStop.h"
-
 #include <iosfwd>
 #include <map>
 #include <string>
+
+#include "seaplan/data/RouteStop.h"
 
 /// The text format of the leg cache, one leg a line; see docs for its separators.
 namespace Tarvik::Seaplan {

@@ -1,35 +1,36 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/NumberForms.h"
 
-#include "seaplan/calculation/TimeText.h"
-
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/calculation/TimeText.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Util::StringUtl;
 
-void readNumber(const std::string& cell, float& field) {
+void ReadNumber(const std::string& cell, float& field) {
     if (!IsBlankCell(cell)) {
         field = static_cast<float>(StringUtl::ToDouble(cell));
     }
 }
 
 /// "12%": the sign at the end goes, whatever it is.
-void readPercent(const std::string& cell, float& field) {
+void ReadPercent(const std::string& cell, float& field) {
     if (!IsBlankCell(cell)) {
         field = static_cast<float>(StringUtl::ToDouble(cell.substr(0, cell.size() - 1)) / 100);
     }
 }
 
-void readTime(const std::string& cell, Util::_datetime_t& field) {
+void ReadTime(const std::string& cell, Util::_datetime_t& field) {
     if (const auto time = ReadTimeText(cell)) {
         field = *time;
     }
 }
 
-void readText(const std::string& cell, std::string& field) {
+void ReadText(const std::string& cell, std::string& field) {
     if (!IsBlankCell(cell)) {
         field = cell;
     }
@@ -58,15 +59,15 @@ CellTexts RowToCells(int index, const VoyPortCall& row) {
 
 VoyPortCall CellsToRow(const CellTexts& cells) {
     VoyPortCall row;
-    readText(cells[ColPort], row.ppn);
+    ReadText(cells[ColPort], row.ppn);
     row.pp = cells[ColPurpose];  // one blank marks a position of the ship, so the text stands as it is
-    readNumber(cells[ColSpeed], row.psp);
-    readPercent(cells[ColWeather], row.pw);
-    readNumber(cells[ColSteamTime], row.steamTime);
-    readNumber(cells[ColPortTime], row.apt);
-    readTime(cells[ColEta], row.eta);
-    readTime(cells[ColEtd], row.etd);
-    readNumber(cells[ColDistance], row.distance);
+    ReadNumber(cells[ColSpeed], row.psp);
+    ReadPercent(cells[ColWeather], row.pw);
+    ReadNumber(cells[ColSteamTime], row.steamTime);
+    ReadNumber(cells[ColPortTime], row.apt);
+    ReadTime(cells[ColEta], row.eta);
+    ReadTime(cells[ColEtd], row.etd);
+    ReadNumber(cells[ColDistance], row.distance);
     return row;
 }
 

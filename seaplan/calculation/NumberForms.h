@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyPortCall.h"
-
 #include <array>
 #include <string>
+
+#include "seaplan/data/VoyPortCall.h"
 
 /// The exact texts in which numbers go into the port call table and come back out of it.
 namespace Tarvik::Seaplan {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/PlannedProgress.h"
 
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/Schedule.h"
+#include <cmath>
+#include <cstdint>
 
 #include <tarvik/util/StringUtl.h>
 
-#include <cmath>
-#include <cstdint>
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Schedule.h"
 
 namespace Tarvik::Seaplan {
 
@@ -25,13 +25,13 @@ void append(const BookPoints& rows, PointTexts& list) {
 }
 
 /// Hours from `now` to `end`, without seconds.
-double hoursLeft(const Util::_datetime_t& end, const Util::_datetime_t& now) {
+double HoursLeft(const Util::_datetime_t& end, const Util::_datetime_t& now) {
     return (end.date().year_julian() - now.date().year_julian()) * 24.0 + (end.hour() - now.hour()) +
            (end.minute() - now.minute()) / 60.0;
 }
 
 /// Place after `covered` of the `distance` miles from a to b.
-std::string interpolate(const Position& a, const Position& b, double covered, double distance) {
+std::string Interpolate(const Position& a, const Position& b, double covered, double distance) {
     if (distance <= 0) {
         return StringUtl::Format("%.3f,%.3f", b.x, b.y);
     }
@@ -43,7 +43,7 @@ std::string interpolate(const Position& a, const Position& b, double covered, do
 /// How a corrected voyage reads times: to half a minute, and not before its correction.
 constexpr std::int64_t kLeastAgeSeconds = 31;
 
-bool isOlder(const Util::_datetime_t& time, const Util::_datetime_t& than) {
+bool IsOlder(const Util::_datetime_t& time, const Util::_datetime_t& than) {
     return than.to_gmt_timer() - time.to_gmt_timer() >= kLeastAgeSeconds;
 }
 
@@ -60,9 +60,9 @@ class LegWalk {
         }
         std::string previous = out_.sailed.empty() ? rows.front().position : out_.sailed.back();
         for (const PosBookPoint& row : rows) {
-            if (correction_ != nullptr && isOlder(row.etd, *correction_)) {
+            if (correction_ != nullptr && IsOlder(row.etd, *correction_)) {
                 reached_ = row.etd;
-            } else if (const int failed = step(previous, row); failed < 0) {
+            } else if (const int failed = Step(previous, row); failed < 0) {
                 return failed;
             }
             previous = row.position;
@@ -71,7 +71,7 @@ class LegWalk {
     }
 
   private:
-    int step(const std::string& previous, const PosBookPoint& row) {
+    int Step(const std::string& previous, const PosBookPoint& row) {
         Position from;
         Position to;
         float distance = 0;
@@ -95,21 +95,21 @@ class LegWalk {
         if (AddHours(static_cast<float>(steam), reached_) < 0) {
             return correction_ == nullptr ? -13 : -14;
         }
-        place(row, from, to, distance, speed, steam);
+        Place(row, from, to, distance, speed, steam);
         return 0;
     }
 
-    void place(const PosBookPoint& row, const Position& from, const Position& to, double distance,
+    void Place(const PosBookPoint& row, const Position& from, const Position& to, double distance,
                double speed, double steam) {
-        if (correction_ == nullptr ? now_ >= reached_ : isOlder(reached_, now_)) {
+        if (correction_ == nullptr ? now_ >= reached_ : IsOlder(reached_, now_)) {
             out_.current = row.position;
             out_.sailed.push_back(row.position);
             return;
         }
         if (!crossed_) {
             crossed_ = true;
-            const double covered = speed * (steam - hoursLeft(reached_, now_));
-            out_.current = interpolate(from, to, covered, distance);
+            const double covered = speed * (steam - HoursLeft(reached_, now_));
+            out_.current = Interpolate(from, to, covered, distance);
             out_.sailed.push_back(out_.current);
             out_.remaining.push_back(out_.current);
         }
@@ -124,7 +124,7 @@ class LegWalk {
     bool crossed_ = false;
 };
 
-void startAt(const VoyPortCall& port, const PosBookPoint& row, const Util::_datetime_t& now,
+void StartAt(const VoyPortCall& port, const PosBookPoint& row, const Util::_datetime_t& now,
              PlannedProgress& out) {
     out.current = row.position;
     out.sailed.push_back(row.position);
@@ -134,9 +134,9 @@ void startAt(const VoyPortCall& port, const PosBookPoint& row, const Util::_date
 }
 
 /// A port that is reached: what the real track does not cover is sailed.
-void sailCorrected(const BookPoints& rows, const Util::_datetime_t& correction, PlannedProgress& out) {
+void SailCorrected(const BookPoints& rows, const Util::_datetime_t& correction, PlannedProgress& out) {
     for (const PosBookPoint& row : rows) {
-        if (!isOlder(row.etd, correction)) {
+        if (!IsOlder(row.etd, correction)) {
             out.sailed.push_back(row.position);
             out.current = row.position;
         }
@@ -159,7 +159,7 @@ int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& gro
             return -7;
         }
         if (i == 0) {
-            startAt(ports[i], rows.front(), now, out);
+            StartAt(ports[i], rows.front(), now, out);
         } else if (now >= ports[i].eta) {
             append(rows, out.sailed);
             out.current = rows.back().position;
@@ -190,7 +190,7 @@ int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>
             return -8;
         }
         if (now >= ports[i].eta) {
-            sailCorrected(rows, correction, out);
+            SailCorrected(rows, correction, out);
         } else if (now < ports[i - 1].etd) {
             append(rows, out.remaining);
         } else {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
+#include <string>
+
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
-
-#include <map>
-#include <string>
 
 namespace Tarvik::Seaplan {
 

@@ -1,25 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/PointTables.h"
 
+#include <functional>
+
 #include <tarvik/util/CppSQLite3.h>
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/StringUtl.h>
 
-#include <functional>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr std::size_t kShortId = 4;
 constexpr int kFirstPortDigit = 4;
 
-std::string columnText(const Util::CppSQLite3Query& row, int column) {
+std::string ColumnText(const Util::CppSQLite3Query& row, int column) {
     const char* value = row.fieldValue(column);
     return value != nullptr ? value : "";
 }
 
 /// Calls `visit` for each row of a query; false when the data base cannot be read.
-bool forEachRow(const std::string& database, const char* sql,
+bool ForEachRow(const std::string& database, const char* sql,
                 const std::function<void(const Util::CppSQLite3Query&)>& visit) {
     try {
         Util::CppSQLite3DB db;
@@ -37,8 +38,8 @@ bool forEachRow(const std::string& database, const char* sql,
     }
 }
 
-std::string positionText(const Util::CppSQLite3Query& row, int column) {
-    return columnText(row, column) + "," + columnText(row, column + 1);
+std::string PositionText(const Util::CppSQLite3Query& row, int column) {
+    return ColumnText(row, column) + "," + ColumnText(row, column + 1);
 }
 
 }  // namespace
@@ -53,9 +54,9 @@ int LoadPortPositions(const std::string& database, PointMap& map) {
     }
     PointMap loaded;
     const bool read =
-        forEachRow(database, "select id,x,y from t_point where isport='1'", [&](const auto& row) {
-            const std::string id = columnText(row, 0);
-            loaded[id] = {id, "", positionText(row, 1)};
+        ForEachRow(database, "select id,x,y from t_point where isport='1'", [&](const auto& row) {
+            const std::string id = ColumnText(row, 0);
+            loaded[id] = {id, "", PositionText(row, 1)};
         });
     if (!read) {
         return -1;
@@ -70,9 +71,9 @@ int LoadRoutePoints(const std::string& database, PointMap& map) {
     }
     PointMap loaded;
     const bool read =
-        forEachRow(database, "select id,name,x,y from t_point where isport='0'", [&](const auto& row) {
-            const std::string id = columnText(row, 0);
-            loaded[id] = {id, columnText(row, 1), positionText(row, 2)};
+        ForEachRow(database, "select id,name,x,y from t_point where isport='0'", [&](const auto& row) {
+            const std::string id = ColumnText(row, 0);
+            loaded[id] = {id, ColumnText(row, 1), PositionText(row, 2)};
         });
     if (!read) {
         return -1;
@@ -84,9 +85,9 @@ int LoadRoutePoints(const std::string& database, PointMap& map) {
 int LoadSamePortLinks(const std::string& database, std::map<std::string, std::string>& links) {
     std::map<std::string, std::string> loaded;
     const char* sql = "select id,origid from t_point where isport='1' and origid!='0'";
-    const bool read = forEachRow(database, sql, [&](const auto& row) {
-        const std::string id = columnText(row, 0);
-        const std::string original = columnText(row, 1);
+    const bool read = ForEachRow(database, sql, [&](const auto& row) {
+        const std::string id = ColumnText(row, 0);
+        const std::string original = ColumnText(row, 1);
         loaded[id + "-" + original] = "";
         loaded[original + "-" + id] = "";
     });
@@ -100,9 +101,9 @@ int LoadSamePortLinks(const std::string& database, std::map<std::string, std::st
 int LoadPortNamesByLocal(const std::string& database, std::map<std::string, std::string>& names) {
     std::map<std::string, std::string> loaded;
     const bool read =
-        forEachRow(database, "select name,namecn from t_point where isport='1'", [&](const auto& row) {
+        ForEachRow(database, "select name,namecn from t_point where isport='1'", [&](const auto& row) {
             if (const char* local = row.fieldValue(1)) {
-                loaded[local] = columnText(row, 0);
+                loaded[local] = ColumnText(row, 0);
             }
         });
     if (!read) {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/RouteStop.h"
-#include "seaplan/data/VoyPositionBook.h"
-
 #include <map>
 #include <string>
+
+#include "seaplan/data/RouteStop.h"
+#include "seaplan/data/VoyPositionBook.h"
 
 /// Reading the local table t_point. Every function gives 0, or -1 when the data base cannot be read.
 namespace Tarvik::Seaplan {

@@ -5,18 +5,18 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-bool lacksPurpose(const VoyPortCall& row) {
+bool LacksPurpose(const VoyPortCall& row) {
     return row.pp.empty() || row.pp == " ";
 }
 
-bool isSamePlace(const VoyPortCall& before, const VoyPortCall& row, const SamePortLinks& links) {
+bool IsSamePlace(const VoyPortCall& before, const VoyPortCall& row, const SamePortLinks& links) {
     return row.ppn == before.ppn || links.count(before.ppi + "-" + row.ppi) > 0;
 }
 
 }  // namespace
 
 void PrepareFirstPurpose(PortCallRows& rows) {
-    if (!rows.empty() && lacksPurpose(rows.front())) {
+    if (!rows.empty() && LacksPurpose(rows.front())) {
         rows.front().pp = "L";
     }
 }
@@ -24,11 +24,11 @@ void PrepareFirstPurpose(PortCallRows& rows) {
 int DropSamePortRows(const PortCallRows& rows, const SamePortLinks& links, PortCallRows& out) {
     PortCallRows kept;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (i > 0 && isSamePlace(rows[i - 1], rows[i], links)) {
+        if (i > 0 && IsSamePlace(rows[i - 1], rows[i], links)) {
             continue;
         }
         kept.push_back(rows[i]);
-        if (lacksPurpose(kept.back())) {
+        if (LacksPurpose(kept.back())) {
             kept.back().pp = "D";
         }
     }

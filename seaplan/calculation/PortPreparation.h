@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyPortCall.h"
-
 #include <map>
 #include <string>
+
+#include "seaplan/data/VoyPortCall.h"
 
 /// What happens to typed rows before a calculation.
 namespace Tarvik::Seaplan {

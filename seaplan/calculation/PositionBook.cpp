@@ -1,29 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/PositionBook.h"
 
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/calculation/Schedule.h"
-
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/Geodesy.h>
 
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/Schedule.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr double kKmPerNauticalMile = 1.852;
 constexpr double kLeastBookSpeed = 0.00001;
 constexpr int kEnglish = 1033;
 
-std::string portName(const std::string& id) {
+std::string PortName(const std::string& id) {
     return Interface::GetValueByName("/points", id, kEnglish);
 }
 
 /// Makes the last point of a segment the named point that the segment leads to.
-int nameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& row) {
+int NameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& row) {
     row.pointId = id;
     row.pst = PointKindOfId(id);
     if (row.pst == PortPoint) {
-        row.psn = portName(id);
+        row.psn = PortName(id);
         return 0;
     }
     const auto found = routePoints.find(id);
@@ -35,13 +36,13 @@ int nameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& ro
 }
 
 /// Adds the rows of a segment behind its first point; that one stands in the book already.
-int addSegment(const RouteSegment& segment, const std::vector<std::string>& points,
+int AddSegment(const RouteSegment& segment, const std::vector<std::string>& points,
                const PointMap& routePoints, BookPoints& rows) {
     for (std::size_t i = 1; i < points.size(); ++i) {
         PosBookPoint row;
         row.position = points[i];
         if (i + 1 == points.size()) {
-            if (const int code = nameEnd(segment.end_cd, routePoints, row); code != 0) {
+            if (const int code = NameEnd(segment.end_cd, routePoints, row); code != 0) {
                 return code;
             }
         }
@@ -50,7 +51,7 @@ int addSegment(const RouteSegment& segment, const std::vector<std::string>& poin
     return 0;
 }
 
-int addStops(const RouteStops& stops, const PointMap& routePoints, BookPoints& rows) {
+int AddStops(const RouteStops& stops, const PointMap& routePoints, BookPoints& rows) {
     for (std::size_t s = 1; s < stops.size(); ++s) {
         for (const auto& segment : stops[s].routes) {
             std::vector<std::string> points;
@@ -63,7 +64,7 @@ int addStops(const RouteStops& stops, const PointMap& routePoints, BookPoints& r
             if (s == 1 && &segment == &stops[s].routes.front()) {
                 rows.front().position = points.front();
             }
-            if (const int code = addSegment(segment, points, routePoints, rows); code != 0) {
+            if (const int code = AddSegment(segment, points, routePoints, rows); code != 0) {
                 return code;
             }
         }
@@ -85,7 +86,7 @@ struct PortAhead {
     }
 };
 
-int timeRow(const PosBookPoint& previous, const PortCallRows& ports, PortAhead& ahead, PosBookPoint& row) {
+int TimeRow(const PosBookPoint& previous, const PortCallRows& ports, PortAhead& ahead, PosBookPoint& row) {
     float distance = 0;
     if (LegDistance(previous.position, row.position, row.psr, distance) != 0) {
         return -3;
@@ -129,11 +130,11 @@ int BookFromStops(const RouteStops& stops, const PointMap& routePoints, BookPoin
     }
     PosBookPoint start;
     start.pointId = stops.front().point_cd;
-    start.psn = portName(start.pointId);
+    start.psn = PortName(start.pointId);
     start.pst = PortPoint;
     start.psp = 0;
     rows.push_back(std::move(start));
-    const int code = addStops(stops, routePoints, rows);
+    const int code = AddStops(stops, routePoints, rows);
     if (code != 0) {
         rows.clear();
     }
@@ -153,7 +154,7 @@ int ComputeBookTimes(const Util::_datetime_t& start, const PortCallRows& ports, 
     PortAhead ahead;
     ahead.Next(ports);
     for (std::size_t i = 1; i < timed.size(); ++i) {
-        if (const int code = timeRow(timed[i - 1], ports, ahead, timed[i]); code != 0) {
+        if (const int code = TimeRow(timed[i - 1], ports, ahead, timed[i]); code != 0) {
             return code;
         }
     }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
+
 #include "seaplan/calculation/PointTables.h"
 #include "seaplan/data/RouteStop.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
-
-#include <map>
 
 /// Making and timing the position book. Speeds in knots, distances in nautical miles.
 namespace Tarvik::Seaplan {

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include <cmath>
+
+#include <tarvik/util/Geodesy.h>
+
 #include "seaplan/calculation/BookLegs.h"
 #include "seaplan/calculation/LegCacheText.h"
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 
-#include <tarvik/util/Geodesy.h>
-
-#include <cmath>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr double kKmPerNauticalMile = 1.852;
@@ -25,7 +26,7 @@ struct LegSums {
 };
 
 /// Sums over the pairs of a leg; weather plays no part, a row's speed is its real one.
-int sumLeg(const BookPoints& rows, const BookLeg& leg, LegSums& sums) {
+int SumLeg(const BookPoints& rows, const BookLeg& leg, LegSums& sums) {
     if (leg.last <= leg.first) {
         return -3;
     }
@@ -47,7 +48,7 @@ int sumLeg(const BookPoints& rows, const BookLeg& leg, LegSums& sums) {
     return sums.time < kLeastLegTime ? -6 : 0;
 }
 
-void appendRows(const BookPoints& from, std::size_t first, std::size_t last, BookPoints& out) {
+void AppendRows(const BookPoints& from, std::size_t first, std::size_t last, BookPoints& out) {
     for (std::size_t i = first; i <= last; ++i) {
         out.push_back(from[i]);
     }
@@ -63,7 +64,7 @@ using StoredLegs = std::map<std::string, std::vector<StoredLeg>>;
 
 /// The stored legs under the names of their ports. A save that broke off may leave port calls without a book,
 /// or with the book of other ports: then nothing tells which leg is whose, and none is stored.
-StoredLegs storeLegs(const PortCallRows& ports, const std::vector<BookLeg>& legs) {
+StoredLegs StoreLegs(const PortCallRows& ports, const std::vector<BookLeg>& legs) {
     StoredLegs stored;
     if (legs.size() != ports.size()) {
         return stored;
@@ -75,7 +76,7 @@ StoredLegs storeLegs(const PortCallRows& ports, const std::vector<BookLeg>& legs
 }
 
 /// The first leg of the key that is not taken yet, the last one when all are; null for an unknown key.
-const BookLeg* takeLeg(StoredLegs& stored, const std::string& key) {
+const BookLeg* TakeLeg(StoredLegs& stored, const std::string& key) {
     const auto found = stored.find(key);
     if (found == stored.end()) {
         return nullptr;
@@ -102,7 +103,7 @@ int LegTotalsFromBook(const VoyPositionBook& book, PortCallRows& ports) {
     PortCallRows totals = ports;
     for (std::size_t i = 1; i < totals.size(); ++i) {
         LegSums sums;
-        if (const int code = sumLeg(book.points, legs[i], sums); code != 0) {
+        if (const int code = SumLeg(book.points, legs[i], sums); code != 0) {
             return code;
         }
         totals[i].distance = static_cast<float>(sums.distance);
@@ -151,14 +152,14 @@ int JoinKeepingLegs(const PortCallRows& oldPorts, const BookPoints& stored, cons
     if (oldPorts.size() < 2 || newPorts.size() < 2 || newLegs.size() != newPorts.size()) {
         return -1;
     }
-    auto keptLegs = storeLegs(oldPorts, LegsOf(stored));
+    auto keptLegs = StoreLegs(oldPorts, LegsOf(stored));
     BookPoints joined;
-    appendRows(fresh, newLegs.front().first, newLegs.front().last, joined);
+    AppendRows(fresh, newLegs.front().first, newLegs.front().last, joined);
     for (std::size_t i = 1; i < newLegs.size(); ++i) {
-        const BookLeg* kept = takeLeg(keptLegs, LegCacheKey(newPorts[i - 1].ppn, newPorts[i].ppn));
+        const BookLeg* kept = TakeLeg(keptLegs, LegCacheKey(newPorts[i - 1].ppn, newPorts[i].ppn));
         const BookPoints& source = kept != nullptr ? stored : fresh;
         const BookLeg& leg = kept != nullptr ? *kept : newLegs[i];
-        appendRows(source, leg.first + 1, leg.last, joined);
+        AppendRows(source, leg.first + 1, leg.last, joined);
     }
     out = std::move(joined);
     return 0;

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/RouteReply.h"
 
-#include "seaplan/calculation/Pointset.h"
-
-#include <tarvik/util/Geodesy.h>
-#include <tarvik/util/StringUtl.h>
-
 #include <cstdlib>
 #include <map>
 #include <optional>
 
+#include <tarvik/util/Geodesy.h>
+#include <tarvik/util/StringUtl.h>
+
+#include "seaplan/calculation/Pointset.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Util::Jsona;
@@ -19,7 +20,7 @@ using Util::StringUtl;
 constexpr double kKmPerNauticalMile = 1.852;
 
 /// Ids of the points that a stop's legs pass, in order.
-std::vector<std::string> chainOf(const RouteStop& stop) {
+std::vector<std::string> ChainOf(const RouteStop& stop) {
     std::vector<std::string> chain{stop.routes.front().from_cd};
     for (const auto& segment : stop.routes) {
         chain.push_back(segment.end_cd);
@@ -30,7 +31,7 @@ std::vector<std::string> chainOf(const RouteStop& stop) {
 /// Walks the chain for the two ends of a range. `place` is a single end seen before, -1 for none; it goes on
 /// from one variant to the next, so that a variant with one end on the chain lends its place to the following
 /// one.
-std::optional<int> spanOf(const std::vector<std::string>& chain, const std::string& a, const std::string& b,
+std::optional<int> SpanOf(const std::vector<std::string>& chain, const std::string& a, const std::string& b,
                           int& place) {
     for (int i = 0; i < static_cast<int>(chain.size()); ++i) {
         const auto& id = chain[static_cast<std::size_t>(i)];
@@ -49,12 +50,12 @@ std::optional<int> spanOf(const std::vector<std::string>& chain, const std::stri
 
 /// The variant whose range spans the fewest places; of equal spans the later. -1 nothing to choose from, -2 a
 /// range without comma, -3 no span.
-int chooseVariant(const RouteStop& stop, const std::vector<RoutePointGroup>& variants,
+int ChooseVariant(const RouteStop& stop, const std::vector<RoutePointGroup>& variants,
                   RoutePointGroup& chosen) {
     if (stop.routes.size() < 2 || variants.size() < 2) {
         return -1;
     }
-    const auto chain = chainOf(stop);
+    const auto chain = ChainOf(stop);
     std::map<int, const RoutePointGroup*> bySpan;
     int place = -1;
     for (const auto& variant : variants) {
@@ -63,7 +64,7 @@ int chooseVariant(const RouteStop& stop, const std::vector<RoutePointGroup>& var
             return -2;
         }
         if (const auto span =
-                spanOf(chain, variant.range.substr(0, comma), variant.range.substr(comma + 1), place)) {
+                SpanOf(chain, variant.range.substr(0, comma), variant.range.substr(comma + 1), place)) {
             bySpan[*span] = &variant;
         }
     }
@@ -75,7 +76,7 @@ int chooseVariant(const RouteStop& stop, const std::vector<RoutePointGroup>& var
 }
 
 /// Reads the variants of a text with "."; those behind the first lack the point's id and get it.
-int parseVariants(const RouteStop& stop, const std::string& text, RoutePointGroup& chosen) {
+int ParseVariants(const RouteStop& stop, const std::string& text, RoutePointGroup& chosen) {
     std::vector<std::string> pieces;
     if (!StringUtl::split(text, ".", pieces)) {
         return -5;
@@ -89,10 +90,10 @@ int parseVariants(const RouteStop& stop, const std::string& text, RoutePointGrou
         }
         variants.push_back(std::move(variant));
     }
-    return chooseVariant(stop, variants, chosen) == 0 ? 0 : -6;
+    return ChooseVariant(stop, variants, chosen) == 0 ? 0 : -6;
 }
 
-int parseGroups(const Jsona& texts, int leg, RouteStop& stop) {
+int ParseGroups(const Jsona& texts, int leg, RouteStop& stop) {
     for (int i = 0; i < texts.size(); ++i) {
         const std::string text = texts.getv(i, "");
         if (text.empty()) {
@@ -101,7 +102,7 @@ int parseGroups(const Jsona& texts, int leg, RouteStop& stop) {
         RoutePointGroup group;
         const bool single = text.find('.') == std::string::npos;
         const int code =
-            single ? (ParseRoutePointGroup(text, group) == 0 ? 0 : -4) : parseVariants(stop, text, group);
+            single ? (ParseRoutePointGroup(text, group) == 0 ? 0 : -4) : ParseVariants(stop, text, group);
         if (code != 0) {
             return code;
         }
@@ -111,7 +112,7 @@ int parseGroups(const Jsona& texts, int leg, RouteStop& stop) {
     return 0;
 }
 
-int parseSegments(const Jsona& segments, RouteStop& stop) {
+int ParseSegments(const Jsona& segments, RouteStop& stop) {
     for (int i = 0; i < segments.size(); ++i) {
         const Jsona item = segments.get(i);
         RouteSegment segment{item.getv("route", ""), item.getv("from_cd", ""), item.getv("end_cd", ""),
@@ -128,7 +129,7 @@ int parseSegments(const Jsona& segments, RouteStop& stop) {
     return 0;
 }
 
-void parseLocks(const std::string& text, RouteStop& stop) {
+void ParseLocks(const std::string& text, RouteStop& stop) {
     std::vector<std::string> items;
     if (!StringUtl::split(text, ".", items)) {
         return;
@@ -141,14 +142,14 @@ void parseLocks(const std::string& text, RouteStop& stop) {
     }
 }
 
-int parseStop(const Jsona& item, int index, RouteStop& stop) {
+int ParseStop(const Jsona& item, int index, RouteStop& stop) {
     stop.point_cd = item.getv("point_cd", "");
     stop.rp_id_str = item.getv("rp_id_str", "");
-    int code = parseSegments(item.get("routes"), stop);
+    int code = ParseSegments(item.get("routes"), stop);
     if (code == 0) {
-        code = parseGroups(item.get("rp_groups"), index, stop);
+        code = ParseGroups(item.get("rp_groups"), index, stop);
     }
-    parseLocks(item.getv("lock_rp_id_str", ""), stop);
+    ParseLocks(item.getv("lock_rp_id_str", ""), stop);
     return code;
 }
 
@@ -166,7 +167,7 @@ int ParseRouteReply(const Jsona& reply, RouteStops& out) {
             continue;
         }
         RouteStop stop;
-        const int code = parseStop(reply.get(i), static_cast<int>(stops.size()), stop);
+        const int code = ParseStop(reply.get(i), static_cast<int>(stops.size()), stop);
         if (code != 0) {
             return code;
         }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/RouteStop.h"
-
 #include <tarvik/util/Jsona.h>
+
+#include "seaplan/data/RouteStop.h"
 
 namespace Tarvik::Seaplan {
 

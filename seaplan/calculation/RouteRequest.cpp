@@ -2,6 +2,7 @@
 #include "seaplan/calculation/RouteRequest.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 struct RequestParts {
@@ -12,14 +13,14 @@ struct RequestParts {
     std::string points;
 };
 
-std::string requestText(const RequestParts& parts) {
+std::string RequestText(const RequestParts& parts) {
     return R"({"rp_id":")" + parts.newId + R"(","orig_rp_id":")" + parts.oldId + R"(","leg":)" +
            std::to_string(parts.leg) + R"(,"rp_group":")" + parts.group + R"(","pointList":")" +
            parts.points + "\"}";
 }
 
 /// First group of the route point, with its stop; null when there is none.
-const RoutePointGroup* findGroup(const RouteStops& stops, const std::string& id, const RouteStop*& owner) {
+const RoutePointGroup* FindGroup(const RouteStops& stops, const std::string& id, const RouteStop*& owner) {
     for (const auto& stop : stops) {
         for (const auto& group : stop.rp_groups) {
             if (group.rp_id == id) {
@@ -33,7 +34,7 @@ const RoutePointGroup* findGroup(const RouteStops& stops, const std::string& id,
 
 /// What stands behind the id of the stop whose route point changes: its chain, the choice, and the older
 /// choices.
-std::string choiceText(const RouteStop& stop, const std::string& newId, const std::string& range) {
+std::string ChoiceText(const RouteStop& stop, const std::string& newId, const std::string& range) {
     std::string text = "|" + stop.routes.front().from_cd;
     for (const auto& segment : stop.routes) {
         text += "," + segment.end_cd;
@@ -47,7 +48,7 @@ std::string choiceText(const RouteStop& stop, const std::string& newId, const st
     return text;
 }
 
-std::string alternativesText(const RoutePointGroup& group, const std::string& oldId) {
+std::string AlternativesText(const RoutePointGroup& group, const std::string& oldId) {
     std::string text = group.range + ";";
     for (const auto& alternative : group.alternatives) {
         text += alternative + "|";
@@ -62,24 +63,24 @@ std::string RouteRequestText(const std::vector<std::string>& pointIds) {
     for (const auto& id : pointIds) {
         parts.points += (&id == &pointIds.front() ? "" : "#") + id;
     }
-    return requestText(parts);
+    return RequestText(parts);
 }
 
 bool AlternativeRequestText(const RouteStops& stops, const std::string& oldId, const std::string& newId,
                             std::string& text) {
     const RouteStop* owner = nullptr;
-    const RoutePointGroup* group = oldId.empty() ? nullptr : findGroup(stops, oldId, owner);
+    const RoutePointGroup* group = oldId.empty() ? nullptr : FindGroup(stops, oldId, owner);
     if (group == nullptr || owner->routes.empty()) {
         return false;
     }
-    RequestParts parts{newId, oldId, group->leg, alternativesText(*group, oldId), ""};
+    RequestParts parts{newId, oldId, group->leg, AlternativesText(*group, oldId), ""};
     for (const auto& stop : stops) {
         parts.points += (&stop == &stops.front() ? "" : "#") + stop.point_cd;
         if (&stop == owner) {
-            parts.points += choiceText(stop, newId, group->range);
+            parts.points += ChoiceText(stop, newId, group->range);
         }
     }
-    text = requestText(parts);
+    text = RequestText(parts);
     return true;
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/RouteStop.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/data/RouteStop.h"
 
 /// Request texts of the route commands.
 namespace Tarvik::Seaplan {

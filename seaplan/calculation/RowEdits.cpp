@@ -2,16 +2,17 @@
 #include "seaplan/calculation/Schedule.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
-int sizeOf(const PortCallRows& rows) {
+int SizeOf(const PortCallRows& rows) {
     return static_cast<int>(rows.size());
 }
 
 /// Puts a copy of row `from` `by` places on and takes the row out that then stands `gone` places on.
-int moveRow(const PortCallRows& rows, int from, int by, int gone, PortCallRows& out) {
+int MoveRow(const PortCallRows& rows, int from, int by, int gone, PortCallRows& out) {
     PortCallRows inserted;
-    const bool known = from >= 0 && from < sizeOf(rows);
+    const bool known = from >= 0 && from < SizeOf(rows);
     if (!known || InsertRowAt(rows, from + by, rows[static_cast<std::size_t>(from)], inserted) != 0) {
         out.clear();
         return -1;
@@ -31,7 +32,7 @@ int InsertRowAt(const PortCallRows& rows, int index, const VoyPortCall& row, Por
     if (index < 0) {
         return -1;
     }
-    if (index > sizeOf(rows)) {
+    if (index > SizeOf(rows)) {
         return -2;
     }
     PortCallRows result = rows;
@@ -44,7 +45,7 @@ int RemoveRowAt(const PortCallRows& rows, int index, PortCallRows& out) {
     if (index < 0) {
         return -1;
     }
-    if (index >= sizeOf(rows)) {
+    if (index >= SizeOf(rows)) {
         return -2;
     }
     PortCallRows result = rows;
@@ -54,11 +55,11 @@ int RemoveRowAt(const PortCallRows& rows, int index, PortCallRows& out) {
 }
 
 int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) {
-    return moveRow(rows, index, -1, 1, out);
+    return MoveRow(rows, index, -1, 1, out);
 }
 
 int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out) {
-    return moveRow(rows, index, 2, 0, out);
+    return MoveRow(rows, index, 2, 0, out);
 }
 
 }  // namespace Tarvik::Seaplan

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/Schedule.h"
 
-#include "seaplan/calculation/TimeText.h"
-
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
 
+#include "seaplan/calculation/TimeText.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr std::int64_t kCsecsPerDay = 8'640'000;
@@ -20,7 +21,7 @@ constexpr double kMostWeather = 0.9999999;
 constexpr double kLeastTotalTime = 0.0001;
 
 /// A departure row: no leg ends there.
-bool startAt(const Util::_datetime_t& start, VoyPortCall& row) {
+bool StartAt(const Util::_datetime_t& start, VoyPortCall& row) {
     row.psp = 0;
     row.steamTime = 0;
     row.eta = start;
@@ -29,7 +30,7 @@ bool startAt(const Util::_datetime_t& start, VoyPortCall& row) {
 }
 
 /// Times of a row whose leg begins at `departure`.
-bool sailFrom(const Util::_datetime_t& departure, VoyPortCall& row) {
+bool SailFrom(const Util::_datetime_t& departure, VoyPortCall& row) {
     row.steamTime = static_cast<float>(SteamTime(row.distance, row.psp, row.pw));
     row.eta = departure;
     if (AddHours(row.steamTime, row.eta) != 0) {
@@ -39,22 +40,22 @@ bool sailFrom(const Util::_datetime_t& departure, VoyPortCall& row) {
     return AddHours(row.apt, row.etd) == 0;
 }
 
-bool isWeather(double weather) {
+bool IsWeather(double weather) {
     return weather >= 0 && weather <= kMostWeather;
 }
 
 /// One row of RecomputeSchedule behind `previous`, null for the first; the code of what is wrong.
-int recomputeRow(const VoyPortCall* previous, VoyPortCall& row) {
-    if (!isWeather(row.pw)) {
+int RecomputeRow(const VoyPortCall* previous, VoyPortCall& row) {
+    if (!IsWeather(row.pw)) {
         return -1;
     }
     if (previous == nullptr) {
-        return startAt(row.eta, row) ? 0 : -3;
+        return StartAt(row.eta, row) ? 0 : -3;
     }
     if (static_cast<double>(row.psp) < kLeastSpeed) {
         return -2;
     }
-    return sailFrom(previous->etd, row) ? 0 : -3;
+    return SailFrom(previous->etd, row) ? 0 : -3;
 }
 
 }  // namespace
@@ -75,12 +76,12 @@ int BuildSchedule(const Util::_datetime_t& start, const PortCallRows& rows, Port
         if (result.empty()) {
             row.pp = "L";
             row.pw = 0;
-            timed = startAt(start, row);
+            timed = StartAt(start, row);
         } else {
             if (static_cast<double>(row.psp) < kLeastBuildSpeed) {
                 row.psp = kDefaultSpeed;
             }
-            timed = sailFrom(result.back().etd, row);
+            timed = SailFrom(result.back().etd, row);
         }
         if (!timed) {
             out.clear();
@@ -97,7 +98,7 @@ int RecomputeSchedule(const PortCallRows& rows, PortCallRows& out) {
     result.reserve(rows.size());
     for (VoyPortCall row : rows) {
         row.ppi.clear();
-        const int code = recomputeRow(result.empty() ? nullptr : &result.back(), row);
+        const int code = RecomputeRow(result.empty() ? nullptr : &result.back(), row);
         if (code != 0) {
             out.clear();
             return code;

@@ -4,18 +4,19 @@
 #include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr std::size_t kTimeLength = 19;
 
-bool within(int value, int least, int most) {
+bool Within(int value, int least, int most) {
     return value >= least && value <= most;
 }
 
-bool exists(const TimeFields& fields) {
-    return within(fields.year, 1, 9999) && within(fields.month, 1, 12) && within(fields.day, 1, 31) &&
+bool Exists(const TimeFields& fields) {
+    return Within(fields.year, 1, 9999) && Within(fields.month, 1, 12) && Within(fields.day, 1, 31) &&
            fields.day <= Util::_date_t(1, fields.month, fields.year).month_days() &&
-           within(fields.hour, 0, 23) && within(fields.minute, 0, 59) && within(fields.second, 0, 59);
+           Within(fields.hour, 0, 23) && Within(fields.minute, 0, 59) && Within(fields.second, 0, 59);
 }
 
 }  // namespace
@@ -32,7 +33,7 @@ std::optional<TimeFields> ReadTimeFields(const std::string& text) {
 
 std::optional<Util::_datetime_t> ReadTimeText(const std::string& text) {
     const auto fields = ReadTimeFields(text);
-    if (!fields || !exists(*fields)) {
+    if (!fields || !Exists(*fields)) {
         return std::nullopt;
     }
     return Util::_datetime_t(fields->second, fields->minute, fields->hour, fields->day, fields->month,

@@ -6,6 +6,7 @@
 #include <string_view>
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr const char* kKnots = "kts";
@@ -36,28 +37,28 @@ constexpr std::array<Factor, 10> kFactors{{
     {"hour", "day", 1, 24, Quantity::Time},
 }};
 
-float changed(float value, const Factor& factor) {
+float Changed(float value, const Factor& factor) {
     return static_cast<float>(static_cast<double>(value) * static_cast<double>(factor.multiplier) /
                               static_cast<double>(factor.divisor));
 }
 
-void change(VoyPortCall& row, const Factor& factor) {
+void Change(VoyPortCall& row, const Factor& factor) {
     switch (factor.quantity) {
         case Quantity::Speed:
-            row.psp = changed(row.psp, factor);
+            row.psp = Changed(row.psp, factor);
             break;
         case Quantity::Distance:
-            row.distance = changed(row.distance, factor);
+            row.distance = Changed(row.distance, factor);
             break;
         case Quantity::Time:
-            row.steamTime = changed(row.steamTime, factor);
-            row.apt = changed(row.apt, factor);
+            row.steamTime = Changed(row.steamTime, factor);
+            row.apt = Changed(row.apt, factor);
             break;
     }
 }
 
 /// Converts in place; equal units need no factor.
-bool convert(PortCallRows& rows, const std::string& from, const std::string& to) {
+bool Convert(PortCallRows& rows, const std::string& from, const std::string& to) {
     if (from == to) {
         return true;
     }
@@ -69,16 +70,16 @@ bool convert(PortCallRows& rows, const std::string& from, const std::string& to)
     return true;
 }
 
-int convertAll(const PortCallRows& rows, const UnitSet& from, const UnitSet& to, PortCallRows& out) {
+int ConvertAll(const PortCallRows& rows, const UnitSet& from, const UnitSet& to, PortCallRows& out) {
     PortCallRows result = rows;
     int code = 0;
     if (rows.empty()) {
         code = -1;
-    } else if (!convert(result, from.speed, to.speed)) {
+    } else if (!Convert(result, from.speed, to.speed)) {
         code = -2;
-    } else if (!convert(result, from.distance, to.distance)) {
+    } else if (!Convert(result, from.distance, to.distance)) {
         code = -3;
-    } else if (!convert(result, from.time, to.time)) {
+    } else if (!Convert(result, from.time, to.time)) {
         code = -4;
     }
     if (code != 0) {
@@ -88,7 +89,7 @@ int convertAll(const PortCallRows& rows, const UnitSet& from, const UnitSet& to,
     return code;
 }
 
-const UnitSet& standardUnits() {
+const UnitSet& StandardUnits() {
     static const UnitSet units{kKnots, kNauticalMiles, kHours};
     return units;
 }
@@ -105,7 +106,7 @@ int ConvertRows(const PortCallRows& rows, const std::string& from, const std::st
     }
     PortCallRows result = rows;
     for (auto& row : result) {
-        change(row, *factor);
+        Change(row, *factor);
     }
     out = std::move(result);
     return 0;
@@ -125,11 +126,11 @@ int ConvertUnitValue(const PortCallRows& rows, const std::string& from, const st
 }
 
 int ToStandardUnits(const PortCallRows& rows, const UnitSet& units, PortCallRows& out) {
-    return convertAll(rows, units, standardUnits(), out);
+    return ConvertAll(rows, units, StandardUnits(), out);
 }
 
 int FromStandardUnits(const PortCallRows& rows, const UnitSet& units, PortCallRows& out) {
-    return convertAll(rows, standardUnits(), units, out);
+    return ConvertAll(rows, StandardUnits(), units, out);
 }
 
 }  // namespace Tarvik::Seaplan

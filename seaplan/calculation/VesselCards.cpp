@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/VesselCards.h"
 
-#include "seaplan/calculation/Pointset.h"
-
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/DateTimeUtl.h>
+
+#include "seaplan/calculation/Pointset.h"
 
 namespace Tarvik::Seaplan {
 
@@ -14,7 +14,7 @@ constexpr const char* kPlanZone = "China Standard Time";
 constexpr int kEnglish = 1033;
 
 /// Rows of a schedule have no port ids, the dictionary has.
-std::string portIdOf(const VoyPortCall& row) {
+std::string PortIdOf(const VoyPortCall& row) {
     return Interface::GetNameByValue("/points", row.ppn, kEnglish);
 }
 
@@ -34,9 +34,9 @@ Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& pos
     card.vessel.time = static_cast<std::int32_t>(utc.to_gmt_timer());
     if (!voyage.portCalls.empty()) {
         card.vessel.firstPortName = voyage.portCalls.front().ppn;
-        card.vessel.firstPortId = portIdOf(voyage.portCalls.front());
+        card.vessel.firstPortId = PortIdOf(voyage.portCalls.front());
         card.vessel.lastPortName = voyage.portCalls.back().ppn;
-        card.vessel.lastPortId = portIdOf(voyage.portCalls.back());
+        card.vessel.lastPortId = PortIdOf(voyage.portCalls.back());
     }
     return card;
 }

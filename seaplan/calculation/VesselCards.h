@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyInfo.h"
+#include <string>
 
 #include <tarvik/interface/SiblingRecords.h>
 
-#include <string>
+#include "seaplan/data/VoyInfo.h"
 
 namespace Tarvik::Seaplan {
 

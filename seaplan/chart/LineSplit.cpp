@@ -5,11 +5,12 @@
 #include <iterator>
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 /// The point just before the date line on the same side, its latitude as it stands; empty for a point
 /// elsewhere.
-std::string atDateLine(const std::string& point) {
+std::string AtDateLine(const std::string& point) {
     const auto comma = point.find(',');
     const std::string tail = comma == std::string::npos ? "" : point.substr(comma);
     if (point.starts_with("180")) {
@@ -33,7 +34,7 @@ int SplitAtDateLine(const PointTexts& points, std::vector<PointTexts>& pieces) {
         if (i + 1 < points.size() && points[i] == points[i + 1]) {
             continue;
         }
-        const std::string cut = atDateLine(points[i]);
+        const std::string cut = AtDateLine(points[i]);
         all.back().push_back(cut.empty() ? points[i] : cut);
         // A piece that only begins at the date line stays open.
         if (!cut.empty() && all.back().size() > 1) {

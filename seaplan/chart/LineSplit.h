@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/calculation/Pointset.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/calculation/Pointset.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/chart/ViewExtent.h"
 
-#include "seaplan/calculation/Pointset.h"
-
 #include <algorithm>
 
+#include "seaplan/calculation/Pointset.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 struct Limits {
@@ -15,25 +16,25 @@ struct Limits {
     double south = 0;
 };
 
-Limits around(const Position& p) {
+Limits Around(const Position& p) {
     return {p.x + 1.0, p.y + 1.0, p.x - 1.0, p.y - 1.0};
 }
 
-void widen(Limits& limits, const Position& p) {
+void Widen(Limits& limits, const Position& p) {
     limits.east = std::max(limits.east, p.x);
     limits.west = std::min(limits.west, p.x);
     limits.north = std::max(limits.north, p.y);
     limits.south = std::min(limits.south, p.y);
 }
 
-void addMargins(Limits& limits) {
+void AddMargins(Limits& limits) {
     limits.east = std::min(limits.east + 2.0, 180.0);
     limits.west = std::max(limits.west - 2.0, -180.0);
     limits.north = std::min(limits.north + 1.0, 90.0);
     limits.south = std::max(limits.south - 1.0, -90.0);
 }
 
-bool isAroundTheWorld(const Limits& limits) {
+bool IsAroundTheWorld(const Limits& limits) {
     return (limits.east > 160.0 && limits.west < -160.0) || (limits.north > 80.0 && limits.south < -80.0);
 }
 
@@ -47,16 +48,16 @@ std::optional<Interface::TrvMapExtent> ExtentOf(const PointTexts& points) {
             continue;
         }
         if (limits) {
-            widen(*limits, position);
+            Widen(*limits, position);
         } else {
-            limits = around(position);
+            limits = Around(position);
         }
     }
     if (!limits) {
         return std::nullopt;
     }
-    addMargins(*limits);
-    if (isAroundTheWorld(*limits)) {
+    AddMargins(*limits);
+    if (IsAroundTheWorld(*limits)) {
         limits->east = 126.0;
         limits->west = -90.0;
     }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/chart/LineSplit.h"
+#include <optional>
 
 #include <tarvik/interface/ChartRecords.h>
 
-#include <optional>
+#include "seaplan/chart/LineSplit.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/chart/VoyageLayer.h"
 
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/chart/ViewExtent.h"
+#include <array>
+#include <utility>
 
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/FileUtl.h>
 
-#include <array>
-#include <utility>
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/chart/ViewExtent.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 namespace Bus = Interface::Bus;
@@ -33,7 +34,7 @@ constexpr int kNumberedPieces = 10;
 constexpr int kClearRounds = 5;
 constexpr int kRemainingFirst = 5;
 
-void styleLine(Interface::TrvMapLineParams& line, const char* type, const char* style, int colour) {
+void StyleLine(Interface::TrvMapLineParams& line, const char* type, const char* style, int colour) {
     line.ref.layer = kLayer;
     line.ref.type = type;
     line.style = style;
@@ -41,7 +42,7 @@ void styleLine(Interface::TrvMapLineParams& line, const char* type, const char* 
     line.width = kLineWidth;
 }
 
-void styleLabel(Interface::TrvMapPointParams& label, const char* type, int colour) {
+void StyleLabel(Interface::TrvMapPointParams& label, const char* type, int colour) {
     label.ref.layer = kLayer;
     label.ref.type = type;
     label.shape = "circle";
@@ -49,19 +50,19 @@ void styleLabel(Interface::TrvMapPointParams& label, const char* type, int colou
     label.size = kLabelSize;
 }
 
-void styleRecords(VoyageLayer& layer) {
-    styleLine(layer.mainLine, kRouteLineType, "solid", kRouteColour);
-    styleLine(layer.remainingLine, kBookLineType, "solid", kBookColour);
-    styleLine(layer.sailedLine, kBookLineType, "dashed", kBookColour);
-    styleLine(layer.spareLine, kBookLineType, "dashed", kBookColour);
-    styleLabel(layer.routePointLabel, kRoutePointType, kRoutePointColour);
-    styleLabel(layer.alternativeLabel, kAlternativeType, kAlternativeColour);
+void StyleRecords(VoyageLayer& layer) {
+    StyleLine(layer.mainLine, kRouteLineType, "solid", kRouteColour);
+    StyleLine(layer.remainingLine, kBookLineType, "solid", kBookColour);
+    StyleLine(layer.sailedLine, kBookLineType, "dashed", kBookColour);
+    StyleLine(layer.spareLine, kBookLineType, "dashed", kBookColour);
+    StyleLabel(layer.routePointLabel, kRoutePointType, kRoutePointColour);
+    StyleLabel(layer.alternativeLabel, kAlternativeType, kAlternativeColour);
     layer.shipIcon.ref.layer = kLayer;
     layer.shipIcon.ref.type = kShipType;
     layer.shipIcon.image = kShipImage;
 }
 
-void addLabel(Interface::TrvMapPointParams& label, const RoutePointRow& point) {
+void AddLabel(Interface::TrvMapPointParams& label, const RoutePointRow& point) {
     label.ref.id = point.id;
     label.position = point.position;
     label.label = point.name;
@@ -69,7 +70,7 @@ void addLabel(Interface::TrvMapPointParams& label, const RoutePointRow& point) {
 }
 
 /// Removes whatever a voyage may have of one type: its numbered pieces and the object that bears its own id.
-void deleteObjectsOf(const std::string& vi, const char* type) {
+void DeleteObjectsOf(const std::string& vi, const char* type) {
     std::array<Interface::TrvMapObjectRef, kNumberedPieces + 1> objects;
     for (std::size_t i = 0; i < objects.size(); ++i) {
         objects[i].id = i < kNumberedPieces ? vi + "_" + std::to_string(i) : vi;
@@ -80,7 +81,7 @@ void deleteObjectsOf(const std::string& vi, const char* type) {
 }
 
 /// All points of the route; neighbouring segments of a stop share one, which is taken once.
-bool collectPoints(const RouteStops& stops, PointTexts& points) {
+bool CollectPoints(const RouteStops& stops, PointTexts& points) {
     for (std::size_t s = 1; s < stops.size(); ++s) {
         const auto& segments = stops[s].routes;
         for (std::size_t r = 0; r < segments.size(); ++r) {
@@ -99,32 +100,32 @@ bool collectPoints(const RouteStops& stops, PointTexts& points) {
 
 VoyageLayer::VoyageLayer() {
     layer_.layer = kLayer;
-    styleRecords(*this);
+    StyleRecords(*this);
 }
 
 int VoyageLayer::SetupLayer() {
     layer_.layer = kLayer;
     Interface::Call(Bus::MapAddLayer, &std::as_const(layer_));
-    styleRecords(*this);
+    StyleRecords(*this);
     return 0;
 }
 
-void VoyageLayer::clearType(const char* type) {
+void VoyageLayer::ClearType(const char* type) {
     const Interface::TrvMapObjectRef ref{kLayer, "", type};
     Interface::Call(Bus::MapDeleteObjectsByType, &ref);
 }
 
 int VoyageLayer::ClearRouteObjects() {
-    clearType(kRoutePointType);
-    clearType(kRouteLineType);
-    clearType(kAlternativeType);
+    ClearType(kRoutePointType);
+    ClearType(kRouteLineType);
+    ClearType(kAlternativeType);
     return 0;
 }
 
 int VoyageLayer::ClearAllObjects() {
     ClearRouteObjects();
-    clearType(kShipType);
-    clearType(kBookLineType);
+    ClearType(kShipType);
+    ClearType(kBookLineType);
     return 0;
 }
 
@@ -133,8 +134,8 @@ int VoyageLayer::ClearVoyageObjects(const std::string& vi) {
         return -1;
     }
     for (int round = 0; round < kClearRounds; ++round) {
-        deleteObjectsOf(vi, kBookLineType);
-        deleteObjectsOf(vi, kShipType);
+        DeleteObjectsOf(vi, kBookLineType);
+        DeleteObjectsOf(vi, kShipType);
     }
     return 0;
 }
@@ -193,7 +194,7 @@ int VoyageLayer::DrawRoute(const RouteStops& stops, const std::string& database,
         return -3;
     }
     PointTexts points;
-    if (!collectPoints(stops, points)) {
+    if (!CollectPoints(stops, points)) {
         return -4;
     }
     mainLine.ref.id.clear();
@@ -226,7 +227,7 @@ int VoyageLayer::DrawRoutePointLabels(const RouteStops& stops, const std::string
         if (found == routePoints.end()) {
             return -3;
         }
-        addLabel(routePointLabel, found->second);
+        AddLabel(routePointLabel, found->second);
     }
     return 0;
 }
@@ -263,11 +264,11 @@ int VoyageLayer::DrawShipAndTrack(const std::string& id, const std::string& posi
 }
 
 void VoyageLayer::AddAlternativeLabel(const RoutePointRow& point) {
-    addLabel(alternativeLabel, point);
+    AddLabel(alternativeLabel, point);
 }
 
 void VoyageLayer::ClearAlternatives() {
-    clearType(kAlternativeType);
+    ClearType(kAlternativeType);
 }
 
 }  // namespace Tarvik::Seaplan

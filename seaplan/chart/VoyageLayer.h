@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/calculation/PointTables.h"
-#include "seaplan/chart/LineSplit.h"
-#include "seaplan/data/RouteStop.h"
+#include <map>
+#include <string>
 
 #include <tarvik/interface/ChartRecords.h>
 
-#include <map>
-#include <string>
+#include "seaplan/calculation/PointTables.h"
+#include "seaplan/chart/LineSplit.h"
+#include "seaplan/data/RouteStop.h"
 
 namespace Tarvik::Seaplan {
 
@@ -56,7 +56,7 @@ class VoyageLayer {
     Interface::TrvMapImageParams shipIcon;
 
   private:
-    void clearType(const char* type);
+    void ClearType(const char* type);
     Interface::TrvMapLayerParams layer_;
 };
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/VoyCatalogController.h"
-#include "seaplan/controllers/VoyController.h"
-
-#include <tarvik/interface/BusContract.h>
-#include <tarvik/util/DateTimeUtl.h>
-#include <tarvik/util/StringUtl.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <map>
 #include <utility>
+
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/StringUtl.h>
+
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 
 /// Keeps each voyage's last known vessel position.
 namespace Tarvik::Seaplan {
@@ -25,7 +25,7 @@ constexpr std::size_t kTrackFields = 4;
 constexpr int kTrackNumbers = 3;  ///< time, x and y; the fourth field, the vessel's number, may be unknown
 
 /// One text "vessel id|number" a vessel; of voyages with one vessel the first known number counts.
-std::vector<std::string> vesselsOf(const VoyageStore& store) {
+std::vector<std::string> VesselsOf(const VoyageStore& store) {
     std::map<std::string, int> numbers;
     for (const auto& [vi, voyage] : store.voyages) {
         if (!voyage.vsi.empty()) {
@@ -42,7 +42,7 @@ std::vector<std::string> vesselsOf(const VoyageStore& store) {
 }
 
 /// Asks the tracking service; the answer is copied, as a further call in between replaces it.
-PositionMap askPositions(const std::vector<std::string>& vessels) {
+PositionMap AskPositions(const std::vector<std::string>& vessels) {
     PositionMap positions;
     const auto* answer = Interface::Call(Interface::Bus::VesselPositions, &vessels);
     if (answer != nullptr) {
@@ -53,24 +53,24 @@ PositionMap askPositions(const std::vector<std::string>& vessels) {
     return positions;
 }
 
-std::string placeText(double x, double y) {
+std::string PlaceText(double x, double y) {
     return Util::StringUtl::Format("%.3f,%.3f", x, y);
 }
 
-bool isNewer(int time, const std::string& place, const VoyInfo& voyage) {
+bool IsNewer(int time, const std::string& place, const VoyInfo& voyage) {
     return static_cast<std::uint32_t>(time) > static_cast<std::uint32_t>(voyage.lastPosTime) &&
            place != voyage.lastPosText;
 }
 
-int gmtTimerOf(const Util::_datetime_t& planTime) {
+int GmtTimerOf(const Util::_datetime_t& planTime) {
     return static_cast<int>(Util::DateTimeUtl::ConvertToUTC(planTime, kPlanZone).to_gmt_timer());
 }
 
 /// Takes a newer position; a first number is saved first. False when that fails. A record without numbers
 /// for its place tells nothing.
-bool takePosition(const VesselPosition& record, VoyCatalogController& catalog, VoyInfo& voyage) {
-    const std::string text = placeText(record.x, record.y);
-    if (!std::isfinite(record.x) || !std::isfinite(record.y) || !isNewer(record.time, text, voyage)) {
+bool TakePosition(const VesselPosition& record, VoyCatalogController& catalog, VoyInfo& voyage) {
+    const std::string text = PlaceText(record.x, record.y);
+    if (!std::isfinite(record.x) || !std::isfinite(record.y) || !IsNewer(record.time, text, voyage)) {
         return true;
     }
     if (voyage.vsmsi == 0 && record.vsmsi >= 1) {
@@ -87,7 +87,7 @@ bool takePosition(const VesselPosition& record, VoyCatalogController& catalog, V
     return true;
 }
 
-void noteCorrectionTime(VoyCatalogController& catalog, VoyInfo& voyage) {
+void NoteCorrectionTime(VoyCatalogController& catalog, VoyInfo& voyage) {
     if (voyage.modais <= 0 || voyage.lastAisModTime != 0) {
         return;
     }
@@ -96,34 +96,34 @@ void noteCorrectionTime(VoyCatalogController& catalog, VoyInfo& voyage) {
         return;
     }
     if (const auto last = Util::DateTimeUtl::Parse(times.back())) {
-        voyage.lastAisModTime = gmtTimerOf(*last);
+        voyage.lastAisModTime = GmtTimerOf(*last);
     }
 }
 
-bool hasNumber(const std::string& text) {
+bool HasNumber(const std::string& text) {
     return text.find_first_of("0123456789") != std::string::npos;
 }
 
 /// The four fields of a track text: time, x, y, vessel number. -5 to -7 as RefreshTrace.
-int readTrack(const std::string& text, std::vector<std::string>& fields) {
+int ReadTrack(const std::string& text, std::vector<std::string>& fields) {
     if (text.empty()) {
         return -5;
     }
-    if (!hasNumber(text)) {
+    if (!HasNumber(text)) {
         return -6;
     }
     if (!Util::StringUtl::split(text, "|", fields) || fields.size() != kTrackFields) {
         return -7;
     }
-    return std::all_of(fields.begin(), fields.begin() + kTrackNumbers, hasNumber) ? 0 : -6;
+    return std::all_of(fields.begin(), fields.begin() + kTrackNumbers, HasNumber) ? 0 : -6;
 }
 
-std::string askTrack(const VoyInfo& voyage) {
+std::string AskTrack(const VoyInfo& voyage) {
     Interface::VesselTraceRequest request;
     request.vsi = voyage.vsi;
     request.vsmsi = voyage.vsmsi;
-    request.begin = gmtTimerOf(voyage.portCalls.front().etd);
-    request.end = gmtTimerOf(voyage.portCalls.back().eta);
+    request.begin = GmtTimerOf(voyage.portCalls.front().etd);
+    request.end = GmtTimerOf(voyage.portCalls.back().eta);
     const std::string* answer = Interface::Call(Interface::Bus::VesselTrace, &std::as_const(request));
     return answer == nullptr ? "" : *answer;
 }
@@ -131,11 +131,11 @@ std::string askTrack(const VoyInfo& voyage) {
 }  // namespace
 
 int VoyController::RefreshVesselPositions() {
-    const std::vector<std::string> vessels = vesselsOf(*store_);
+    const std::vector<std::string> vessels = VesselsOf(*store_);
     if (vessels.empty()) {
         return -1;
     }
-    const PositionMap positions = askPositions(vessels);
+    const PositionMap positions = AskPositions(vessels);
     if (positions.empty()) {
         return -1;
     }
@@ -144,8 +144,8 @@ int VoyController::RefreshVesselPositions() {
         if (voyage.vsi.empty() || found == positions.end()) {
             continue;
         }
-        if (takePosition(found->second, *catalog_, voyage)) {
-            noteCorrectionTime(*catalog_, voyage);
+        if (TakePosition(found->second, *catalog_, voyage)) {
+            NoteCorrectionTime(*catalog_, voyage);
         }
     }
     return 0;
@@ -166,19 +166,19 @@ int VoyController::RefreshTrace(const std::string& vi) {
         return -4;
     }
     std::vector<std::string> fields;
-    if (const int failed = readTrack(askTrack(*voyage), fields); failed < 0) {
+    if (const int failed = ReadTrack(AskTrack(*voyage), fields); failed < 0) {
         return failed;
     }
-    return takeTrack(*voyage, fields);
+    return TakeTrack(*voyage, fields);
 }
 
 /// The place and the first vessel number are taken apart from one another.
-int VoyController::takeTrack(VoyInfo& voyage, const std::vector<std::string>& fields) {
+int VoyController::TakeTrack(VoyInfo& voyage, const std::vector<std::string>& fields) {
     using Util::StringUtl;
     const int time = static_cast<int>(StringUtl::ToLong(fields[0]));
     const int vsmsi = static_cast<int>(StringUtl::ToLong(fields[3]));
-    const std::string place = placeText(StringUtl::ToDouble(fields[1]), StringUtl::ToDouble(fields[2]));
-    if (isNewer(time, place, voyage)) {
+    const std::string place = PlaceText(StringUtl::ToDouble(fields[1]), StringUtl::ToDouble(fields[2]));
+    if (IsNewer(time, place, voyage)) {
         voyage.lastPosTime = time;
         voyage.lastPosText = place;
     }

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/VoyCatalogController.h"
 
-#include "seaplan/controllers/VoyController.h"
-
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
+
+#include "seaplan/controllers/VoyController.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
+
 constexpr const char* kPlanZone = "China Standard Time";
 constexpr std::size_t kTimeTextLength = 19;
+
 }  // namespace
 
 int VoyCatalogController::Connect(std::string& user) {
@@ -115,7 +117,7 @@ int VoyCatalogController::RenameCategory(const std::string& ci, const std::strin
     return 0;
 }
 
-int VoyCatalogController::changeCategory(const std::string& ci, int type, int state) {
+int VoyCatalogController::ChangeCategory(const std::string& ci, int type, int state) {
     if (ci.empty()) {
         return -1;
     }
@@ -131,15 +133,15 @@ int VoyCatalogController::changeCategory(const std::string& ci, int type, int st
 }
 
 int VoyCatalogController::DeleteCategory(const std::string& ci) {
-    return changeCategory(ci, 1, InRecycleBin);
+    return ChangeCategory(ci, 1, InRecycleBin);
 }
 
 int VoyCatalogController::RecoverCategory(const std::string& ci) {
-    return changeCategory(ci, 2, InUse);
+    return ChangeCategory(ci, 2, InUse);
 }
 
 int VoyCatalogController::DestroyCategory(const std::string& ci) {
-    return changeCategory(ci, 3, Destroyed);
+    return ChangeCategory(ci, 3, Destroyed);
 }
 
 int VoyCatalogController::RenameVoyage(const std::string& vi, const std::string& name) {
@@ -157,7 +159,7 @@ int VoyCatalogController::RenameVoyage(const std::string& vi, const std::string&
     return 0;
 }
 
-int VoyCatalogController::changeVoyage(const std::string& ci, const std::string& vi, int type, int state) {
+int VoyCatalogController::ChangeVoyage(const std::string& ci, const std::string& vi, int type, int state) {
     if (vi.empty()) {
         return -1;
     }
@@ -177,15 +179,15 @@ int VoyCatalogController::changeVoyage(const std::string& ci, const std::string&
 }
 
 int VoyCatalogController::DeleteVoyage(const std::string& ci, const std::string& vi) {
-    return changeVoyage(ci, vi, 2, InRecycleBin);
+    return ChangeVoyage(ci, vi, 2, InRecycleBin);
 }
 
 int VoyCatalogController::RecoverVoyage(const std::string& ci, const std::string& vi) {
-    return changeVoyage(ci, vi, 3, InUse);
+    return ChangeVoyage(ci, vi, 3, InUse);
 }
 
 int VoyCatalogController::DestroyVoyage(const std::string& ci, const std::string& vi) {
-    return changeVoyage(ci, vi, 4, Destroyed);
+    return ChangeVoyage(ci, vi, 4, Destroyed);
 }
 
 int VoyCatalogController::ChangeVessel(const std::string& vi, const std::string& vsi, const std::string& vsn,
@@ -206,7 +208,7 @@ int VoyCatalogController::ChangeVessel(const std::string& vi, const std::string&
     return voyController_ == nullptr || voyController_->RefreshVesselPositions() < 0 ? -4 : 0;
 }
 
-int VoyCatalogController::changeFlag(const std::string& vi, bool route, bool on) {
+int VoyCatalogController::ChangeFlag(const std::string& vi, bool route, bool on) {
     if (vi.empty()) {
         return -1;
     }
@@ -223,19 +225,19 @@ int VoyCatalogController::changeFlag(const std::string& vi, bool route, bool on)
 }
 
 int VoyCatalogController::OpenRoute(const std::string& vi) {
-    return changeFlag(vi, true, true);
+    return ChangeFlag(vi, true, true);
 }
 
 int VoyCatalogController::CloseRoute(const std::string& vi) {
-    return changeFlag(vi, true, false);
+    return ChangeFlag(vi, true, false);
 }
 
 int VoyCatalogController::OpenAis(const std::string& vi) {
-    return changeFlag(vi, false, true);
+    return ChangeFlag(vi, false, true);
 }
 
 int VoyCatalogController::CloseAis(const std::string& vi) {
-    return changeFlag(vi, false, false);
+    return ChangeFlag(vi, false, false);
 }
 
 int VoyCatalogController::GetVoyageState(const std::string& vi, int& state) const {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/protocol/VoyCatalogModule.h"
-
 #include <map>
 #include <string>
 #include <vector>
+
+#include "seaplan/protocol/VoyCatalogModule.h"
 
 namespace Tarvik::Seaplan {
 
@@ -47,9 +47,9 @@ class VoyCatalogController {
     int GetAisModTimes(const std::string& vi, std::vector<std::string>& times);
 
   private:
-    int changeCategory(const std::string& ci, int type, int state);
-    int changeVoyage(const std::string& ci, const std::string& vi, int type, int state);
-    int changeFlag(const std::string& vi, bool route, bool on);
+    int ChangeCategory(const std::string& ci, int type, int state);
+    int ChangeVoyage(const std::string& ci, const std::string& vi, int type, int state);
+    int ChangeFlag(const std::string& vi, bool route, bool on);
 
     VoyCatalogModule* module_;
     VoyageStore* store_;

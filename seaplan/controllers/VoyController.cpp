@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/VoyController.h"
 
+#include <tarvik/util/Clock.h>
+
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 
-#include <tarvik/util/Clock.h>
-
 namespace Tarvik::Seaplan {
 
 namespace {
+
 constexpr int kTimerPeriodMs = 100000;
 /// Stands in the place of a voyage id while the panel works as the port distance table.
 constexpr const char* kDistanceTable = "DISTANCE TABLE USE";
 enum DrawMode : int { DrawNothing = -1, DrawBookLine = 0, DrawProgress = 1 };
+
 }  // namespace
 
 VoyController::VoyController(VoyPortCallModule* module, VoyCatalogController* catalog, VoyageStore* store)
@@ -23,7 +25,7 @@ VoyController::~VoyController() {
     StopTimer();
 }
 
-int VoyController::fetchSchedule(VoyInfo& voyage, PortCallRows& rows) {
+int VoyController::FetchSchedule(VoyInfo& voyage, PortCallRows& rows) {
     if (!voyage.portCalls.empty() && !voyage.positionBook.points.empty()) {
         rows = voyage.portCalls;
         return 0;
@@ -39,7 +41,7 @@ int VoyController::fetchSchedule(VoyInfo& voyage, PortCallRows& rows) {
     return 0;
 }
 
-int VoyController::draw(const std::string& vi, int drawMode, int progressCode, int bookCode) {
+int VoyController::Draw(const std::string& vi, int drawMode, int progressCode, int bookCode) {
     const VoyInfo* voyage = store_->FindVoyage(vi);
     if (drawMode == DrawProgress) {
         if (module_->DrawPlannedProgress(*voyage) < 0) {
@@ -60,7 +62,7 @@ int VoyController::LoadSchedule(const std::string& vi, PortCallRows& rows, int d
     if (voyage == nullptr) {
         return -2;
     }
-    if (const int failed = fetchSchedule(*voyage, rows); failed < 0) {
+    if (const int failed = FetchSchedule(*voyage, rows); failed < 0) {
         return failed;
     }
     if (LegTotalsFromBook(voyage->positionBook, rows) < 0) {
@@ -70,7 +72,7 @@ int VoyController::LoadSchedule(const std::string& vi, PortCallRows& rows, int d
     if (drawMode < DrawNothing || drawMode > DrawProgress) {
         return -8;
     }
-    if (const int failed = draw(vi, drawMode, -6, -7); failed < 0) {
+    if (const int failed = Draw(vi, drawMode, -6, -7); failed < 0) {
         return failed;
     }
     ForgetPortList();
@@ -156,7 +158,7 @@ int VoyController::DiscardPortCalls(const std::string& vi) {
 void VoyController::StartTimer() {
     Util::TimerService* timers = Util::TimerService::Current();
     if (timerId_ == 0 && timers != nullptr) {
-        timerId_ = timers->Start(kTimerPeriodMs, [this] { onTimer(); });
+        timerId_ = timers->Start(kTimerPeriodMs, [this] { OnTimer(); });
     }
 }
 
@@ -168,7 +170,7 @@ void VoyController::StopTimer() {
     timerId_ = 0;
 }
 
-void VoyController::onTimer() {
+void VoyController::OnTimer() {
     RefreshVesselPositions();
     if (treeVisible_ && !treeVisible_()) {
         return;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/controllers/VoyPortCallModule.h"
-
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "seaplan/controllers/VoyPortCallModule.h"
 
 namespace Tarvik::Seaplan {
 
@@ -98,20 +98,20 @@ class VoyController {
     VoyPortCallModule& Module() { return *module_; }
 
   private:
-    void onTimer();
-    int takeTrack(VoyInfo& voyage, const std::vector<std::string>& fields);
-    int draw(const std::string& vi, int drawMode, int progressCode, int bookCode);
-    int fetchSchedule(VoyInfo& voyage, PortCallRows& rows);
-    int saveBookDate(VoyInfo& voyage);
-    int saveBook(VoyInfo& voyage);
-    int calculateNew(const PortCallRows& rows, PortCallRows& out);
-    int scheduleBook(PortCallRows& scheduled, BookPoints points);
-    int calculateKept(VoyInfo& voyage, const PortCallRows& rows, PortCallRows& scheduled);
-    int correctAt(VoyInfo& voyage, int& applied);
-    int routeAhead(const PortCallRows& plan, BookPoints& rows);
-    int replan(const VoyInfo& voyage, const PortCallRows& history, PortCallRows plan, VoyPositionBook& book,
+    void OnTimer();
+    int TakeTrack(VoyInfo& voyage, const std::vector<std::string>& fields);
+    int Draw(const std::string& vi, int drawMode, int progressCode, int bookCode);
+    int FetchSchedule(VoyInfo& voyage, PortCallRows& rows);
+    int SaveBookDate(VoyInfo& voyage);
+    int SaveBook(VoyInfo& voyage);
+    int CalculateNew(const PortCallRows& rows, PortCallRows& out);
+    int ScheduleBook(PortCallRows& scheduled, BookPoints points);
+    int CalculateKept(VoyInfo& voyage, const PortCallRows& rows, PortCallRows& scheduled);
+    int CorrectAt(VoyInfo& voyage, int& applied);
+    int RouteAhead(const PortCallRows& plan, BookPoints& rows);
+    int Replan(const VoyInfo& voyage, const PortCallRows& history, PortCallRows plan, VoyPositionBook& book,
                PortCallRows& ports);
-    int routeSchedule(const PortCallRows& rows, PortCallRows& scheduled, BookPoints& book);
+    int RouteSchedule(const PortCallRows& rows, PortCallRows& scheduled, BookPoints& book);
 
     VoyPortCallModule* module_;
     VoyCatalogController* catalog_;

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/DateTimeUtl.h>
+
 #include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/ais/AisCorrection.h"
 #include "seaplan/calculation/ais/AisReplan.h"
 #include "seaplan/calculation/ais/AisRows.h"
 #include "seaplan/controllers/VoyController.h"
-
-#include <tarvik/interface/BusContract.h>
-#include <tarvik/util/DateTimeUtl.h>
-
-#include <cstdint>
-#include <optional>
-#include <utility>
 
 /// Correcting a voyage's plan from the last real position of its vessel.
 namespace Tarvik::Seaplan {
@@ -21,7 +21,7 @@ namespace {
 using Positions = std::vector<std::string>;
 
 /// Time of the last position in the plan's reading: the user's zone, whole seconds. Nothing without a zone.
-std::optional<Util::_datetime_t> fixTimeOf(const VoyInfo& voyage) {
+std::optional<Util::_datetime_t> FixTimeOf(const VoyInfo& voyage) {
     const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone, nullptr);
     if (zone == nullptr) {
         return std::nullopt;
@@ -47,11 +47,11 @@ int VoyController::ApplyAisPosition(const std::string& vi, int& applied) {
     if (voyage->lastPosText.empty() || voyage->lastPosTime == 0) {
         return -4;
     }
-    return correctAt(*voyage, applied);
+    return CorrectAt(*voyage, applied);
 }
 
-int VoyController::correctAt(VoyInfo& voyage, int& applied) {
-    const auto fix = fixTimeOf(voyage);
+int VoyController::CorrectAt(VoyInfo& voyage, int& applied) {
+    const auto fix = FixTimeOf(voyage);
     if (!fix) {
         return -5;
     }
@@ -89,7 +89,7 @@ int VoyController::SplitAisRows(const std::string& vi, PortCallRows& before, Por
 }
 
 /// Book rows of the route between the planned ports; with one port there is none. -7 route, -8 book.
-int VoyController::routeAhead(const PortCallRows& plan, BookPoints& rows) {
+int VoyController::RouteAhead(const PortCallRows& plan, BookPoints& rows) {
     if (plan.size() > 1) {
         PortCallRows ignored;  // the plan keeps what the person entered
         if (CalculatePortCalls(plan, ignored) < 0) {
@@ -104,7 +104,7 @@ int VoyController::routeAhead(const PortCallRows& plan, BookPoints& rows) {
 }
 
 /// The new book and the new ports of `voyage`, which stays as it is.
-int VoyController::replan(const VoyInfo& voyage, const PortCallRows& history, PortCallRows plan,
+int VoyController::Replan(const VoyInfo& voyage, const PortCallRows& history, PortCallRows plan,
                           VoyPositionBook& book, PortCallRows& ports) {
     if (ResolvePortIds(plan) < 0) {
         return -2;
@@ -118,7 +118,7 @@ int VoyController::replan(const VoyInfo& voyage, const PortCallRows& history, Po
         return -6;
     }
     BookPoints ahead;
-    if (const int failed = routeAhead(plan, ahead); failed < 0) {
+    if (const int failed = RouteAhead(plan, ahead); failed < 0) {
         return failed;
     }
     book = voyage.positionBook;
@@ -140,7 +140,7 @@ int VoyController::ReplanFromAis(const std::string& vi, const PortCallRows& hist
     RouteStops pending = module_->CurrentStops();
     VoyPositionBook book;
     PortCallRows ports;
-    if (const int failed = replan(*voyage, history, plan, book, ports); failed < 0) {
+    if (const int failed = Replan(*voyage, history, plan, book, ports); failed < 0) {
         module_->SetCurrentStops(std::move(pending));
         return failed;
     }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <utility>
+
+#include <tarvik/interface/ValueDictionary.h>
+
 #include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyController.h"
-
-#include <tarvik/interface/ValueDictionary.h>
-
-#include <utility>
 
 /// Calculating and saving a schedule.
 namespace Tarvik::Seaplan {
@@ -19,7 +19,7 @@ int VoyController::ResolvePortIds(PortCallRows& rows) const {
 }
 
 /// The route of `rows` as scheduled rows and as a book. -1 route, -2 schedule, -3 book.
-int VoyController::routeSchedule(const PortCallRows& rows, PortCallRows& scheduled, BookPoints& book) {
+int VoyController::RouteSchedule(const PortCallRows& rows, PortCallRows& scheduled, BookPoints& book) {
     PortCallRows routed;
     if (rows.empty() || module_->GetRoute(rows, routed, true) < 0) {
         return -1;
@@ -31,7 +31,7 @@ int VoyController::routeSchedule(const PortCallRows& rows, PortCallRows& schedul
 }
 
 /// Gives scheduled rows the distances and times of their book. 0 or -1.
-int VoyController::scheduleBook(PortCallRows& scheduled, BookPoints points) {
+int VoyController::ScheduleBook(PortCallRows& scheduled, BookPoints points) {
     VoyPositionBook book;
     book.points = std::move(points);
     book.eta = scheduled.front().eta;
@@ -39,12 +39,12 @@ int VoyController::scheduleBook(PortCallRows& scheduled, BookPoints points) {
     return LegTotalsFromBook(book, scheduled) < 0 ? -1 : 0;
 }
 
-int VoyController::calculateNew(const PortCallRows& rows, PortCallRows& out) {
+int VoyController::CalculateNew(const PortCallRows& rows, PortCallRows& out) {
     BookPoints points;
-    if (const int failed = routeSchedule(rows, out, points); failed < 0) {
+    if (const int failed = RouteSchedule(rows, out, points); failed < 0) {
         return failed;
     }
-    if (scheduleBook(out, std::move(points)) < 0) {
+    if (ScheduleBook(out, std::move(points)) < 0) {
         return -4;
     }
     return module_->DrawCurrentRoute() < 0 ? -5 : 0;
@@ -71,7 +71,7 @@ int VoyController::ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& 
     if (module_->BookFromCurrentStops(points) < 0) {
         return -3;
     }
-    if (scheduleBook(scheduled, std::move(points)) < 0) {
+    if (ScheduleBook(scheduled, std::move(points)) < 0) {
         return -4;
     }
     out = std::move(scheduled);
@@ -82,7 +82,7 @@ int VoyController::CalculatePortCalls(const PortCallRows& rows, PortCallRows& ou
     // The table stays as it was after a failure, and with it the route that belongs to it.
     RouteStops pending = module_->CurrentStops();
     PortCallRows scheduled;
-    const int result = calculateNew(rows, scheduled);
+    const int result = CalculateNew(rows, scheduled);
     out.clear();
     if (result < 0) {
         module_->SetCurrentStops(std::move(pending));
@@ -110,9 +110,9 @@ int VoyController::CalculateForVoyage(const std::string& vi, const PortCallRows&
 }
 
 /// The new rows go into the voyage with the legs of its book that it keeps.
-int VoyController::calculateKept(VoyInfo& voyage, const PortCallRows& rows, PortCallRows& scheduled) {
+int VoyController::CalculateKept(VoyInfo& voyage, const PortCallRows& rows, PortCallRows& scheduled) {
     BookPoints fresh;
-    if (const int failed = routeSchedule(rows, scheduled, fresh); failed < 0) {
+    if (const int failed = RouteSchedule(rows, scheduled, fresh); failed < 0) {
         return failed - 1;
     }
     BookPoints joined;
@@ -134,7 +134,7 @@ int VoyController::CalculateKeepingLegs(const std::string& vi, const PortCallRow
     }
     RouteStops pending = module_->CurrentStops();
     PortCallRows scheduled;
-    const int result = calculateKept(*voyage, rows, scheduled);
+    const int result = CalculateKept(*voyage, rows, scheduled);
     out.clear();
     if (result < 0) {
         module_->SetCurrentStops(std::move(pending));
@@ -145,7 +145,7 @@ int VoyController::CalculateKeepingLegs(const std::string& vi, const PortCallRow
 }
 
 /// The book's date follows the first row; a voyage without book gets one. -1 the server.
-int VoyController::saveBookDate(VoyInfo& voyage) {
+int VoyController::SaveBookDate(VoyInfo& voyage) {
     const Util::_datetime_t start = voyage.portCalls.front().eta;
     const std::string date = start.fmt(kTimeFormat);
     VoyPositionBook& book = voyage.positionBook;
@@ -166,7 +166,7 @@ int VoyController::saveBookDate(VoyInfo& voyage) {
 
 /// Rows of the pending route, or of the book itself. -1 the route makes no book, -2 nothing to save, -3 the
 /// server.
-int VoyController::saveBook(VoyInfo& voyage) {
+int VoyController::SaveBook(VoyInfo& voyage) {
     BookPoints points = voyage.positionBook.points;
     if (HasPendingRoute() && module_->BookFromCurrentStops(points) < 0) {
         return -1;
@@ -193,10 +193,10 @@ int VoyController::SaveSchedule(const std::string& vi, const PortCallRows& rows,
         return -2;
     }
     voyage->portCalls = std::move(saved);
-    if (saveBookDate(*voyage) < 0) {
+    if (SaveBookDate(*voyage) < 0) {
         return -3;
     }
-    if (const int failed = saveBook(*voyage); failed < 0) {
+    if (const int failed = SaveBook(*voyage); failed < 0) {
         return failed - 3;
     }
     PortCallRows recomputed;
@@ -208,7 +208,7 @@ int VoyController::SaveSchedule(const std::string& vi, const PortCallRows& rows,
         if (RemoveVoyageObjects(vi) < 0) {
             return -8;
         }
-        if (const int failed = draw(vi, drawMode, -9, -10); failed < 0) {
+        if (const int failed = Draw(vi, drawMode, -9, -10); failed < 0) {
             return failed;
         }
     }

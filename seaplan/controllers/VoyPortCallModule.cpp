@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/VoyPortCallModule.h"
 
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/PlannedProgress.h"
-#include "seaplan/calculation/VesselCards.h"
-#include "seaplan/protocol/BookCommands.h"
-#include "seaplan/protocol/PortCallCommands.h"
+#include <tuple>
+#include <utility>
 
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/DateTimeUtl.h>
 
-#include <tuple>
-#include <utility>
+#include "seaplan/calculation/PlannedProgress.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/VesselCards.h"
+#include "seaplan/protocol/BookCommands.h"
+#include "seaplan/protocol/PortCallCommands.h"
 
 namespace Tarvik::Seaplan {
 
@@ -21,7 +21,7 @@ namespace {
 namespace Bus = Interface::Bus;
 
 /// Answers of click handlers are texts of small numbers; null is success.
-void* answerOf(int result) {
+void* AnswerOf(int result) {
     static const char* const texts[] = {"0", "-1", "-2", "-3", "-4", "-5"};
     return result == 0 ? nullptr : const_cast<char*>(texts[-result]);
 }
@@ -29,28 +29,28 @@ void* answerOf(int result) {
 }  // namespace
 
 VoyPortCallModule::VoyPortCallModule(VoyageStore* store) : store_(store) {
-    routePointClick_.Set<&VoyPortCallModule::onRoutePointClicked>(this);
-    alternativeClick_.Set<&VoyPortCallModule::onAlternativeClicked>(this);
-    shipClick_.Set<&VoyPortCallModule::onShipClicked>(this);
-    bindClick(Bus::ClickVoyageType.name, routePointClick_);
-    bindClick(Bus::ClickRoutePointType.name, alternativeClick_);
-    bindClick(Bus::ClickAisShipType.name, shipClick_);
+    routePointClick_.Set<&VoyPortCallModule::OnRoutePointClicked>(this);
+    alternativeClick_.Set<&VoyPortCallModule::OnAlternativeClicked>(this);
+    shipClick_.Set<&VoyPortCallModule::OnShipClicked>(this);
+    BindClick(Bus::ClickVoyageType.name, routePointClick_);
+    BindClick(Bus::ClickRoutePointType.name, alternativeClick_);
+    BindClick(Bus::ClickAisShipType.name, shipClick_);
 }
 
 VoyPortCallModule::~VoyPortCallModule() {
-    unbindClick(Bus::ClickAisShipType.name, shipClick_);
-    unbindClick(Bus::ClickRoutePointType.name, alternativeClick_);
-    unbindClick(Bus::ClickVoyageType.name, routePointClick_);
+    UnbindClick(Bus::ClickAisShipType.name, shipClick_);
+    UnbindClick(Bus::ClickRoutePointType.name, alternativeClick_);
+    UnbindClick(Bus::ClickVoyageType.name, routePointClick_);
 }
 
-void VoyPortCallModule::bindClick(const char* name, Core::TEvent& delegate) {
+void VoyPortCallModule::BindClick(const char* name, Core::TEvent& delegate) {
     Core::TrvKernel* kernel = Core::TrvKernel::Instance();
     kernel->CreateTrvEvent(name, this, "", "", nullptr);
     kernel->BindTrvEvent(name, &delegate);
 }
 
 // The click channels are made as events and taken down as services; the bus keeps both in one table of names.
-void VoyPortCallModule::unbindClick(const char* name, Core::TEvent& delegate) {
+void VoyPortCallModule::UnbindClick(const char* name, Core::TEvent& delegate) {
     Core::TrvKernel* kernel = Core::TrvKernel::Instance();
     kernel->UnBindTrvService(name, &delegate);
     kernel->DeleteTrvService(name, this);
@@ -142,7 +142,7 @@ int VoyPortCallModule::DrawPlannedProgress(const VoyInfo& voyage) {
     if (failed < 0) {
         return failed;
     }
-    return showProgress(voyage.vi, progress.current, progress.sailed, progress.remaining, -14);
+    return ShowProgress(voyage.vi, progress.current, progress.sailed, progress.remaining, -14);
 }
 
 int VoyPortCallModule::DrawAisProgress(const VoyInfo& voyage) {
@@ -174,10 +174,10 @@ int VoyPortCallModule::DrawAisProgress(const VoyInfo& voyage) {
     if (failed < 0) {
         return failed;
     }
-    return showProgress(voyage.vi, progress.current, progress.sailed, progress.remaining, -15);
+    return ShowProgress(voyage.vi, progress.current, progress.sailed, progress.remaining, -15);
 }
 
-int VoyPortCallModule::showProgress(const std::string& vi, const std::string& current,
+int VoyPortCallModule::ShowProgress(const std::string& vi, const std::string& current,
                                     const PointTexts& sailed, const PointTexts& remaining, int idCode) {
     if (vi.empty()) {
         return idCode;
@@ -200,19 +200,19 @@ int VoyPortCallModule::showProgress(const std::string& vi, const std::string& cu
     return layer_.SetExtent(all) < 0 ? idCode - 4 : 0;
 }
 
-void* VoyPortCallModule::onRoutePointClicked(void* id) {
-    return id == nullptr ? answerOf(-1) : answerOf(showAlternatives(*static_cast<const std::string*>(id)));
+void* VoyPortCallModule::OnRoutePointClicked(void* id) {
+    return id == nullptr ? AnswerOf(-1) : AnswerOf(ShowAlternatives(*static_cast<const std::string*>(id)));
 }
 
-void* VoyPortCallModule::onAlternativeClicked(void* id) {
-    return id == nullptr ? answerOf(-1) : answerOf(chooseAlternative(*static_cast<const std::string*>(id)));
+void* VoyPortCallModule::OnAlternativeClicked(void* id) {
+    return id == nullptr ? AnswerOf(-1) : AnswerOf(ChooseAlternative(*static_cast<const std::string*>(id)));
 }
 
-void* VoyPortCallModule::onShipClicked(void* vi) {
-    return vi == nullptr ? answerOf(-1) : answerOf(showVesselCard(*static_cast<const std::string*>(vi)));
+void* VoyPortCallModule::OnShipClicked(void* vi) {
+    return vi == nullptr ? AnswerOf(-1) : AnswerOf(ShowVesselCard(*static_cast<const std::string*>(vi)));
 }
 
-int VoyPortCallModule::showVesselCard(const std::string& vi) {
+int VoyPortCallModule::ShowVesselCard(const std::string& vi) {
     if (vi.empty()) {
         return -1;
     }

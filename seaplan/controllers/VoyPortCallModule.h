@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/calculation/LegCacheText.h"
-#include "seaplan/calculation/PointTables.h"
-#include "seaplan/chart/VoyageLayer.h"
-#include "seaplan/data/VoyInfo.h"
-#include "seaplan/data/VoyageStore.h"
-
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-
 #include <functional>
 #include <map>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+
+#include "seaplan/calculation/LegCacheText.h"
+#include "seaplan/calculation/PointTables.h"
+#include "seaplan/chart/VoyageLayer.h"
+#include "seaplan/data/VoyInfo.h"
+#include "seaplan/data/VoyageStore.h"
 
 namespace Tarvik::Seaplan {
 
@@ -77,19 +77,19 @@ class VoyPortCallModule : public Core::TObject {
     void SetRouteListener(std::function<void()> listener) { routeChosen_ = std::move(listener); }
 
   private:
-    void bindClick(const char* name, Core::TEvent& delegate);
-    void unbindClick(const char* name, Core::TEvent& delegate);
-    void* onRoutePointClicked(void* id);
-    void* onAlternativeClicked(void* id);
-    void* onShipClicked(void* id);
-    int showAlternatives(const std::string& id);
-    int chooseAlternative(const std::string& id);
-    int showVesselCard(const std::string& vi);
-    int fetchLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry);
-    int cachedLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry);
-    int storeLeg(const VoyPortCall& from, const VoyPortCall& to, int fetchCode, int saveCode);
-    int requestRoute(const std::string& text, RouteStops& stops, int sendCode, int parseCode);
-    int showProgress(const std::string& vi, const std::string& current, const PointTexts& sailed,
+    void BindClick(const char* name, Core::TEvent& delegate);
+    void UnbindClick(const char* name, Core::TEvent& delegate);
+    void* OnRoutePointClicked(void* id);
+    void* OnAlternativeClicked(void* id);
+    void* OnShipClicked(void* id);
+    int ShowAlternatives(const std::string& id);
+    int ChooseAlternative(const std::string& id);
+    int ShowVesselCard(const std::string& vi);
+    int FetchLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry);
+    int CachedLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry);
+    int StoreLeg(const VoyPortCall& from, const VoyPortCall& to, int fetchCode, int saveCode);
+    int RequestRoute(const std::string& text, RouteStops& stops, int sendCode, int parseCode);
+    int ShowProgress(const std::string& vi, const std::string& current, const PointTexts& sailed,
                      const PointTexts& remaining, int idCode);
 
     VoyageStore* store_;

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/RouteRequest.h"
-#include "seaplan/controllers/VoyPortCallModule.h"
-#include "seaplan/protocol/StatusReply.h"
-
-#include <tarvik/util/FileUtl.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
 #include <utility>
+
+#include <tarvik/util/FileUtl.h>
+
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/protocol/StatusReply.h"
 
 /// Where the module gets its routes from: the server, or the leg cache.
 namespace Tarvik::Seaplan {
@@ -25,13 +25,13 @@ constexpr std::size_t kStopsOfLeg = 2;
 /// Some hundred times the largest cache of real use; a larger file is none, and would not fit into memory.
 constexpr std::uintmax_t kMostCacheBytes = 256UL * 1024 * 1024;
 
-std::filesystem::path cachePath(const std::string& name) {
+std::filesystem::path CachePath(const std::string& name) {
     const std::string file = name.empty() ? "Ports.dat" : name;
     return Util::FileUtl::NativePath(Util::FileUtl::GetCurrentAppDirectory() + "\\businessdata\\seaplan\\" +
                                      file);
 }
 
-VoyPortCall resultRow(const VoyPortCall& row, const RouteStop& stop) {
+VoyPortCall ResultRow(const VoyPortCall& row, const RouteStop& stop) {
     VoyPortCall result;
     result.ppi = stop.point_cd;
     result.ppn = row.ppn;
@@ -43,13 +43,13 @@ VoyPortCall resultRow(const VoyPortCall& row, const RouteStop& stop) {
     return result;
 }
 
-bool isPosition(const std::string& point) {
+bool IsPosition(const std::string& point) {
     Position ignored;
     return ReadPosition(point, 1, ignored);
 }
 
 /// Lengths in km from the point sets; a cached leg stores none.
-int measure(RouteStop& stop) {
+int Measure(RouteStop& stop) {
     float total = 0;
     for (RouteSegment& segment : stop.routes) {
         if (PointsetLength(segment.pointset, segment.distance) < 0) {
@@ -63,7 +63,7 @@ int measure(RouteStop& stop) {
 
 }  // namespace
 
-int VoyPortCallModule::requestRoute(const std::string& text, RouteStops& stops, int sendCode, int parseCode) {
+int VoyPortCallModule::RequestRoute(const std::string& text, RouteStops& stops, int sendCode, int parseCode) {
     Util::Jsona reply;
     if (SendText(text, kRouteCommand, reply) < 0) {
         return sendCode;
@@ -94,7 +94,7 @@ int VoyPortCallModule::RequestNearestRoute(const std::string& position, const st
     }
     std::vector<std::string> way;
     SplitPointset(reply.getv("pointset", ""), way);
-    if (!std::all_of(way.begin(), way.end(), isPosition)) {
+    if (!std::all_of(way.begin(), way.end(), IsPosition)) {
         return -5;
     }
     points = std::move(way);
@@ -109,7 +109,7 @@ int VoyPortCallModule::GetRoute(const PortCallRows& rows, PortCallRows& results,
         for (const VoyPortCall& row : rows) {
             ids.push_back(row.ppi);
         }
-        const int failed = ids.size() < 2 ? -1 : requestRoute(RouteRequestText(ids), stops, -2, -3);
+        const int failed = ids.size() < 2 ? -1 : RequestRoute(RouteRequestText(ids), stops, -2, -3);
         if (failed < 0) {
             return failed;
         }
@@ -120,15 +120,15 @@ int VoyPortCallModule::GetRoute(const PortCallRows& rows, PortCallRows& results,
         return -5;
     }
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        results.push_back(resultRow(rows[i], stops[i]));
+        results.push_back(ResultRow(rows[i], stops[i]));
     }
     stops_ = std::move(stops);
     return 0;
 }
 
-int VoyPortCallModule::fetchLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry) {
+int VoyPortCallModule::FetchLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry) {
     RouteStops stops;
-    if (const int failed = requestRoute(RouteRequestText({from.ppi, to.ppi}), stops, -2, -3); failed < 0) {
+    if (const int failed = RequestRoute(RouteRequestText({from.ppi, to.ppi}), stops, -2, -3); failed < 0) {
         return failed;
     }
     if (stops.size() != kStopsOfLeg) {
@@ -141,23 +141,23 @@ int VoyPortCallModule::fetchLeg(const VoyPortCall& from, const VoyPortCall& to, 
     return 0;
 }
 
-int VoyPortCallModule::storeLeg(const VoyPortCall& from, const VoyPortCall& to, int fetchCode, int saveCode) {
+int VoyPortCallModule::StoreLeg(const VoyPortCall& from, const VoyPortCall& to, int fetchCode, int saveCode) {
     RouteLegCacheEntry fresh;
-    if (fetchLeg(from, to, fresh) < 0) {
+    if (FetchLeg(from, to, fresh) < 0) {
         return fetchCode;
     }
     routeCache_[LegCacheKey(from.ppn, to.ppn)] = std::move(fresh);
     return SaveCache("", routeCache_) < 0 ? saveCode : 0;
 }
 
-int VoyPortCallModule::cachedLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry) {
+int VoyPortCallModule::CachedLeg(const VoyPortCall& from, const VoyPortCall& to, RouteLegCacheEntry& entry) {
     const std::string key = LegCacheKey(from.ppn, to.ppn);
     int failed = 0;
     if (const auto found = routeCache_.find(key); found == routeCache_.end()) {
-        failed = storeLeg(from, to, -3, -4);
+        failed = StoreLeg(from, to, -3, -4);
     } else {
         const int stale = IsStale(found->second, cacheEpoch_, cacheMaxAgeHours_, Util::_datetime_t::now());
-        failed = stale > 0 ? storeLeg(from, to, -6, -7) : stale;
+        failed = stale > 0 ? StoreLeg(from, to, -6, -7) : stale;
     }
     if (failed < 0) {
         return failed;
@@ -177,7 +177,7 @@ int VoyPortCallModule::GetStopsByCache(const PortCallRows& rows, RouteStops& out
     RouteStops stops;
     for (std::size_t i = 1; i < rows.size(); ++i) {
         RouteLegCacheEntry entry;
-        if (const int failed = cachedLeg(rows[i - 1], rows[i], entry); failed < 0) {
+        if (const int failed = CachedLeg(rows[i - 1], rows[i], entry); failed < 0) {
             return failed;
         }
         if (i == 1) {
@@ -189,7 +189,7 @@ int VoyPortCallModule::GetStopsByCache(const PortCallRows& rows, RouteStops& out
         }
     }
     for (std::size_t i = 1; i < stops.size(); ++i) {
-        if (const int failed = measure(stops[i]); failed < 0) {
+        if (const int failed = Measure(stops[i]); failed < 0) {
             return failed;
         }
     }
@@ -198,7 +198,7 @@ int VoyPortCallModule::GetStopsByCache(const PortCallRows& rows, RouteStops& out
 }
 
 int VoyPortCallModule::LoadCache(const std::string& name, LegCache& cache) {
-    const std::filesystem::path path = cachePath(name);
+    const std::filesystem::path path = CachePath(name);
     std::error_code missing;
     if (std::filesystem::file_size(path, missing) > kMostCacheBytes || missing) {
         return 0;
@@ -211,14 +211,14 @@ int VoyPortCallModule::LoadCache(const std::string& name, LegCache& cache) {
 }
 
 int VoyPortCallModule::SaveCache(const std::string& name, const LegCache& cache) {
-    const std::filesystem::path path = cachePath(name);
+    const std::filesystem::path path = CachePath(name);
     std::error_code ignored;
     std::filesystem::create_directories(path.parent_path(), ignored);
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     return WriteCache(out, cache);
 }
 
-int VoyPortCallModule::showAlternatives(const std::string& id) {
+int VoyPortCallModule::ShowAlternatives(const std::string& id) {
     const auto clicked = routePoints_.find(id);
     if (clicked == routePoints_.end()) {
         return -1;
@@ -245,7 +245,7 @@ int VoyPortCallModule::showAlternatives(const std::string& id) {
     return layer_.SetExtent(extent) < 0 ? -3 : 0;
 }
 
-int VoyPortCallModule::chooseAlternative(const std::string& id) {
+int VoyPortCallModule::ChooseAlternative(const std::string& id) {
     if (clickedRoutePoint_.empty()) {
         return -1;
     }
@@ -253,7 +253,7 @@ int VoyPortCallModule::chooseAlternative(const std::string& id) {
     if (!AlternativeRequestText(stops_, clickedRoutePoint_, id, text)) {
         return -2;
     }
-    if (const int failed = requestRoute(text, stops_, -3, -4); failed < 0) {
+    if (const int failed = RequestRoute(text, stops_, -3, -4); failed < 0) {
         return failed;
     }
     const int drawn = DrawCurrentRoute();

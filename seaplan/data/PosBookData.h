@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyPositionBook.h"
+#include <string>
+#include <vector>
 
 #include <tarvik/util/DateTime.h>
 
-#include <string>
-#include <vector>
+#include "seaplan/data/VoyPositionBook.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/util/DateTime.h>
-
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include <tarvik/util/DateTime.h>
 
 namespace Tarvik::Seaplan {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "seaplan/data/BunkerFigures.h"
 #include "seaplan/data/VoyCategory.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
-
-#include <string>
-#include <vector>
 
 namespace Tarvik::Seaplan {
 

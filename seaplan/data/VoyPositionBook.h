@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/util/DateTime.h>
-
 #include <string>
 #include <vector>
+
+#include <tarvik/util/DateTime.h>
 
 namespace Tarvik::Seaplan {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyInfo.h"
-
 #include <map>
 #include <string>
+
+#include "seaplan/data/VoyInfo.h"
 
 namespace Tarvik::Seaplan {
 

@@ -9,7 +9,7 @@ BusClient::~BusClient() {
     Withdraw();
 }
 
-bool BusClient::bind(Kind kind, const char* name, std::unique_ptr<Core::TEvent> delegate) {
+bool BusClient::Bind(Kind kind, const char* name, std::unique_ptr<Core::TEvent> delegate) {
     Core::TrvKernel* kernel = Core::TrvKernel::Instance();
     bool bound = false;
     switch (kind) {
@@ -31,7 +31,7 @@ bool BusClient::bind(Kind kind, const char* name, std::unique_ptr<Core::TEvent> 
     return bound;
 }
 
-void BusClient::release(const Binding& binding) {
+void BusClient::Release(const Binding& binding) {
     Core::TrvKernel* kernel = Core::TrvKernel::Instance();
     const char* name = binding.name.c_str();
     if (binding.kind == Kind::Service) {
@@ -47,7 +47,7 @@ void BusClient::release(const Binding& binding) {
 
 void BusClient::Withdraw() {
     while (!bindings_.empty()) {
-        release(bindings_.back());
+        Release(bindings_.back());
         bindings_.pop_back();
     }
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-#include <tarvik/core/TrvKernel.h>
-
 #include <memory>
 #include <string>
 #include <vector>
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <tarvik/core/TrvKernel.h>
 
 namespace Tarvik::Seaplan {
 
@@ -23,17 +23,17 @@ class BusClient : public Core::TObject {
     /// Announces the service `name` and answers it with `object->*Method`. False when another handler has it.
     template <auto Method, class T>
     bool Offer(const char* name, T* object) {
-        return bind(Kind::Service, name, makeDelegate<Method>(object));
+        return Bind(Kind::Service, name, MakeDelegate<Method>(object));
     }
     /// Announces an own event and subscribes to it.
     template <auto Method, class T>
     bool Announce(const char* name, T* object) {
-        return bind(Kind::OwnEvent, name, makeDelegate<Method>(object));
+        return Bind(Kind::OwnEvent, name, MakeDelegate<Method>(object));
     }
     /// Subscribes to somebody else's event.
     template <auto Method, class T>
     bool Subscribe(const char* name, T* object) {
-        return bind(Kind::Subscription, name, makeDelegate<Method>(object));
+        return Bind(Kind::Subscription, name, MakeDelegate<Method>(object));
     }
     /// Takes everything back, in the opposite order.
     void Withdraw();
@@ -47,13 +47,13 @@ class BusClient : public Core::TObject {
     };
 
     template <auto Method, class T>
-    static std::unique_ptr<Core::TEvent> makeDelegate(T* object) {
+    static std::unique_ptr<Core::TEvent> MakeDelegate(T* object) {
         auto delegate = std::make_unique<Core::TEvent>();
         delegate->Set<Method>(object);
         return delegate;
     }
-    bool bind(Kind kind, const char* name, std::unique_ptr<Core::TEvent> delegate);
-    void release(const Binding& binding);
+    bool Bind(Kind kind, const char* name, std::unique_ptr<Core::TEvent> delegate);
+    void Release(const Binding& binding);
 
     std::vector<Binding> bindings_;
 };

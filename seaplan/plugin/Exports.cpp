@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/core/TrvKernel.h>
+
 #include "seaplan/plugin/CompositionRoot.h"
 #include "seaplan/plugin/MainViewFactory.h"
 #include "seaplan/plugin/PluginRecord.h"
-
-#include <tarvik/core/TrvKernel.h>
 
 /// What the host finds in the library. None of these fails, and nothing depends on their order but `Load`
 /// coming before use.

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/plugin/PlanService.h"
 
+#include <cmath>
+#include <utility>
+
 #include "seaplan/calculation/PointTables.h"
-#include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/PortPreparation.h"
+#include "seaplan/calculation/PositionBook.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/tree/NameRules.h"
-
-#include <cmath>
-#include <utility>
 
 namespace Tarvik::Seaplan {
 
@@ -18,7 +18,7 @@ namespace {
 constexpr double kLeastSpeed = 0.01;
 constexpr double kMostWeather = 0.9999999;
 
-PortCallRows rowsOf(const PlanRequest& request) {
+PortCallRows RowsOf(const PlanRequest& request) {
     PortCallRows rows;
     for (const PlanPort& port : request.ports) {
         VoyPortCall row;
@@ -35,7 +35,7 @@ PortCallRows rowsOf(const PlanRequest& request) {
 
 /// What is wrong with a port's figures, empty when nothing is. The schedule would repair a missing speed,
 /// which a person who typed it does not expect.
-std::string complaintOf(const PlanPort& port) {
+std::string ComplaintOf(const PlanPort& port) {
     if (!(static_cast<double>(port.speed) >= kLeastSpeed) || !std::isfinite(port.speed)) {
         return "the speed must be above 0.01 knots";
     }
@@ -46,7 +46,7 @@ std::string complaintOf(const PlanPort& port) {
 }
 
 /// Words for a code of CalculatePortCalls.
-std::string calculationStep(int code) {
+std::string CalculationStep(int code) {
     switch (code) {
         case -1:
             return "the server has no route for these ports";
@@ -61,7 +61,7 @@ std::string calculationStep(int code) {
     }
 }
 
-PointTexts positionsOf(const BookPoints& book) {
+PointTexts PositionsOf(const BookPoints& book) {
     PointTexts positions;
     for (const PosBookPoint& point : book) {
         positions.push_back(point.position);
@@ -82,7 +82,7 @@ const PlanResult& PlanService::Plan(const PlanRequest& request) {
     const bool loadedBefore = !store_->categories.empty();
     RouteStops pending = voyages_->Module().CurrentStops();
     result_ = {};
-    if (run(request) < 0) {
+    if (Run(request) < 0) {
         PlanResult failure;
         failure.code = result_.code;
         failure.step = result_.step;
@@ -97,69 +97,69 @@ const PlanResult& PlanService::Plan(const PlanRequest& request) {
     return result_;
 }
 
-int PlanService::fail(int code, const std::string& step) {
+int PlanService::Fail(int code, const std::string& step) {
     result_.code = code;
     result_.step = step;
     return code;
 }
 
-int PlanService::run(const PlanRequest& request) {
+int PlanService::Run(const PlanRequest& request) {
     PortCallRows rows;
-    if (connect() < 0 || prepare(request, rows) < 0 || checkNames(request) < 0) {
+    if (Connect() < 0 || Prepare(request, rows) < 0 || CheckNames(request) < 0) {
         return result_.code;
     }
-    if (calculate(rows) < 0 || fillResult() < 0) {
+    if (Calculate(rows) < 0 || FillResult() < 0) {
         return result_.code;
     }
-    return request.save ? save(request) : 0;
+    return request.save ? Save(request) : 0;
 }
 
-int PlanService::connect() {
+int PlanService::Connect() {
     std::string user;
     if (catalog_->Connect(user) < 0) {
-        return fail(PlanNotConnected, "not connected to the voyage server");
+        return Fail(PlanNotConnected, "not connected to the voyage server");
     }
-    return catalog_->Load(user) < 0 ? fail(PlanNotLoaded, "the user's voyages could not be loaded") : 0;
+    return catalog_->Load(user) < 0 ? Fail(PlanNotLoaded, "the user's voyages could not be loaded") : 0;
 }
 
-int PlanService::prepare(const PlanRequest& request, PortCallRows& rows) {
+int PlanService::Prepare(const PlanRequest& request, PortCallRows& rows) {
     for (const PlanPort& port : request.ports) {
-        if (const std::string complaint = complaintOf(port); !complaint.empty()) {
-            return fail(PlanNotCalculated, complaint);
+        if (const std::string complaint = ComplaintOf(port); !complaint.empty()) {
+            return Fail(PlanNotCalculated, complaint);
         }
     }
-    PortCallRows typed = rowsOf(request);
+    PortCallRows typed = RowsOf(request);
     PrepareFirstPurpose(typed);
     voyages_->ResolvePortIds(typed);
     for (const VoyPortCall& row : typed) {
         if (row.ppi.empty()) {
-            return fail(PlanUnknownPort, "unknown port: " + row.ppn);
+            return Fail(PlanUnknownPort, "unknown port: " + row.ppn);
         }
     }
     SamePortLinks links;
     LoadSamePortLinks(PointDatabasePath(), links);
-    return DropSamePortRows(typed, links, rows) < 0 ? fail(PlanTooFewPorts, "fewer than two different ports")
+    return DropSamePortRows(typed, links, rows) < 0 ? Fail(PlanTooFewPorts, "fewer than two different ports")
                                                     : 0;
 }
 
-int PlanService::checkNames(const PlanRequest& request) {
+int PlanService::CheckNames(const PlanRequest& request) {
     if (!request.save) {
         return 0;
     }
     const std::string voyage = NormalizeName(request.voyage);
     if (NormalizeName(request.category).empty() || voyage.empty()) {
-        return fail(PlanNameMissing, "a saved voyage needs a name and a category");
+        return Fail(PlanNameMissing, "a saved voyage needs a name and a category");
     }
     std::map<std::string, int> categories;
     std::map<std::string, int> voyages;
     catalog_->GetNameMaps(categories, voyages);
-    return voyages.count(voyage) > 0 ? fail(PlanNameTaken, "a voyage of this name exists") : 0;
+    return voyages.count(voyage) > 0 ? Fail(PlanNameTaken, "a voyage of this name exists") : 0;
 }
 
-int PlanService::calculate(const PortCallRows& rows) {
+int PlanService::Calculate(const PortCallRows& rows) {
     PortCallRows& scheduled = result_.rows;
     if (const int code = voyages_->CalculatePortCalls(rows, scheduled); code < 0) {
-        return fail(PlanNotCalculated, calculationStep(code));
+        return Fail(PlanNotCalculated, CalculationStep(code));
     }
     // A schedule pass makes the first port one of loading and drops the ids; a person may change the purpose
     // afterwards, and the answer tells both.
@@ -168,18 +168,18 @@ int PlanService::calculate(const PortCallRows& rows) {
     return 0;
 }
 
-int PlanService::fillResult() {
+int PlanService::FillResult() {
     const PortCallRows& rows = result_.rows;
     BookPoints& book = result_.book;
     if (voyages_->Module().BookFromCurrentStops(book) < 0) {
-        return fail(PlanNotCalculated, "the route makes no position book");
+        return Fail(PlanNotCalculated, "the route makes no position book");
     }
     RescaleBookSpeeds(rows, book);
     if (ComputeBookTimes(rows.front().eta, rows, book) < 0) {
-        return fail(PlanNotCalculated, "the position book has no times");
+        return Fail(PlanNotCalculated, "the position book has no times");
     }
-    if (SplitAtDateLine(positionsOf(book), result_.linePieces) < 0) {
-        return fail(PlanNotCalculated, "the route has no line");
+    if (SplitAtDateLine(PositionsOf(book), result_.linePieces) < 0) {
+        return Fail(PlanNotCalculated, "the route has no line");
     }
     TotalsOf(rows, result_.totals);
     SummaryOf(rows, result_.summary);
@@ -187,7 +187,7 @@ int PlanService::fillResult() {
 }
 
 /// `made` tells whether the category is a new one.
-int PlanService::findCategory(const std::string& name, bool& made) {
+int PlanService::FindCategory(const std::string& name, bool& made) {
     made = false;
     for (const auto& [ci, category] : store_->categories) {
         const auto state = store_->categoryStates.find(ci);
@@ -200,24 +200,24 @@ int PlanService::findCategory(const std::string& name, bool& made) {
     return catalog_->AddCategory(name, result_.ci);
 }
 
-int PlanService::save(const PlanRequest& request) {
+int PlanService::Save(const PlanRequest& request) {
     bool newCategory = false;
-    if (findCategory(NormalizeName(request.category), newCategory) < 0) {
-        return fail(PlanNoCategory, "the category could not be made");
+    if (FindCategory(NormalizeName(request.category), newCategory) < 0) {
+        return Fail(PlanNoCategory, "the category could not be made");
     }
     if (catalog_->AddVoyage(NormalizeName(request.voyage), result_.ci, result_.vi) < 0) {
-        takeBack(newCategory);
-        return fail(PlanNoVoyage, "the voyage could not be made");
+        TakeBack(newCategory);
+        return Fail(PlanNoVoyage, "the voyage could not be made");
     }
     if (voyages_->SaveSchedule(result_.vi, result_.rows, -1) < 0) {
-        takeBack(newCategory);
-        return fail(PlanNotSaved, "the schedule could not be saved");
+        TakeBack(newCategory);
+        return Fail(PlanNotSaved, "the schedule could not be saved");
     }
     return 0;
 }
 
 /// Leaves nothing half saved behind. A server that is gone cannot be told.
-void PlanService::takeBack(bool newCategory) {
+void PlanService::TakeBack(bool newCategory) {
     if (!result_.vi.empty()) {
         catalog_->DestroyVoyage(result_.ci, result_.vi);
     }

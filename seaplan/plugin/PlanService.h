@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <vector>
+
+#include <tarvik/interface/BusContract.h>
+
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/chart/LineSplit.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
 #include "seaplan/data/VoyageStore.h"
-
-#include <tarvik/interface/BusContract.h>
-
-#include <string>
-#include <vector>
 
 namespace Tarvik::Seaplan {
 
@@ -78,16 +78,16 @@ class PlanService {
     void* OnPlan(void* request);
 
   private:
-    int run(const PlanRequest& request);
-    int connect();
-    int prepare(const PlanRequest& request, PortCallRows& rows);
-    int checkNames(const PlanRequest& request);
-    int calculate(const PortCallRows& rows);
-    int fillResult();
-    int save(const PlanRequest& request);
-    int findCategory(const std::string& name, bool& made);
-    void takeBack(bool newCategory);
-    int fail(int code, const std::string& step);
+    int Run(const PlanRequest& request);
+    int Connect();
+    int Prepare(const PlanRequest& request, PortCallRows& rows);
+    int CheckNames(const PlanRequest& request);
+    int Calculate(const PortCallRows& rows);
+    int FillResult();
+    int Save(const PlanRequest& request);
+    int FindCategory(const std::string& name, bool& made);
+    void TakeBack(bool newCategory);
+    int Fail(int code, const std::string& step);
 
     VoyCatalogController* catalog_;
     VoyController* voyages_;

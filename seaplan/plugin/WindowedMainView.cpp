@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <QCursor>
+
 #include "seaplan/plugin/CompositionRoot.h"
 #include "seaplan/plugin/MainViewFactory.h"
 #include "seaplan/views/ViewsFactory.h"
-
-#include <QCursor>
 
 namespace Tarvik::Seaplan {
 

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/protocol/BookCommands.h"
 
-#include "seaplan/protocol/CatalogTexts.h"
-#include "seaplan/protocol/Exchange.h"
-#include "seaplan/protocol/StatusReply.h"
-#include "seaplan/protocol/WireUnits.h"
+#include <algorithm>
+#include <map>
+#include <utility>
 
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
-#include <algorithm>
-#include <map>
-#include <utility>
+#include "seaplan/protocol/CatalogTexts.h"
+#include "seaplan/protocol/Exchange.h"
+#include "seaplan/protocol/StatusReply.h"
+#include "seaplan/protocol/WireUnits.h"
 
 namespace Tarvik::Seaplan {
 
@@ -25,12 +25,12 @@ constexpr int kIntervalOfOldRows = 2;
 constexpr double kNearZero = 0.0001;
 
 /// A number written without fraction reads as 0.0 in the floating point form and is read again as an integer.
-double coordinate(const Util::Jsona& row, const char* key) {
+double Coordinate(const Util::Jsona& row, const char* key) {
     const double value = row.getv(key, 0.0);
     return value > -kNearZero && value < kNearZero ? row.getv(key, 0) : value;
 }
 
-PosBookPoint readPoint(const Util::Jsona& row) {
+PosBookPoint ReadPoint(const Util::Jsona& row) {
     PosBookPoint point;
     point.psn = row.getv("psn", "");
     point.position = PositionText(row);
@@ -41,7 +41,7 @@ PosBookPoint readPoint(const Util::Jsona& row) {
     return point;
 }
 
-bool appendRow(int index, const PosBookPoint& point, int speedDecimals, std::string& text) {
+bool AppendRow(int index, const PosBookPoint& point, int speedDecimals, std::string& text) {
     const std::size_t comma = point.position.find(',');
     if (comma == std::string::npos) {
         return false;
@@ -55,7 +55,7 @@ bool appendRow(int index, const PosBookPoint& point, int speedDecimals, std::str
 }
 
 /// Sends one block; `first` is the number of its first step.
-int sendBlock(const std::string& id, const BookPoints& rows, int begin, int end, int first) {
+int SendBlock(const std::string& id, const BookPoints& rows, int begin, int end, int first) {
     std::string text;
     if (!BookRowsText(id, rows, begin, end, begin > 0, text)) {
         return first;
@@ -67,7 +67,7 @@ int sendBlock(const std::string& id, const BookPoints& rows, int begin, int end,
     return IsSuccess(reply) ? 0 : first - 2;
 }
 
-int createBook(const std::string& vi, const std::string& date, std::string& id) {
+int CreateBook(const std::string& vi, const std::string& date, std::string& id) {
     std::string serverTime;
     if (ToServerTime(date, serverTime) < 0) {
         return -3;
@@ -86,8 +86,8 @@ int createBook(const std::string& vi, const std::string& date, std::string& id) 
 }  // namespace
 
 std::string PositionText(const Util::Jsona& row) {
-    const auto x = static_cast<float>(coordinate(row, "xc"));
-    const auto y = static_cast<float>(coordinate(row, "yc"));
+    const auto x = static_cast<float>(Coordinate(row, "xc"));
+    const auto y = static_cast<float>(Coordinate(row, "yc"));
     return StringUtl::Format("%.3f,%.3f", static_cast<double>(x), static_cast<double>(y));
 }
 
@@ -106,7 +106,7 @@ int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book) {
     const Util::Jsona list = element.get("pb");
     for (int i = 0; i < list.size(); ++i) {
         const Util::Jsona row = list.get(i);
-        sorted[row.getv("lon", -1)] = readPoint(row);
+        sorted[row.getv("lon", -1)] = ReadPoint(row);
     }
     for (auto& [number, point] : sorted) {
         book.points.push_back(std::move(point));
@@ -119,7 +119,7 @@ bool BookRowsText(const std::string& id, const BookPoints& rows, int first, int 
     const int speedDecimals = static_cast<int>(rows.size()) < kBookBlockRows ? 3 : 1;
     std::string made = "[\"" + id + (append ? "\",\"1\"" : "\",\"0\"");
     for (int i = first; i < end; ++i) {
-        if (!appendRow(i, rows[static_cast<std::size_t>(i)], speedDecimals, made)) {
+        if (!AppendRow(i, rows[static_cast<std::size_t>(i)], speedDecimals, made)) {
             return false;
         }
     }
@@ -159,7 +159,7 @@ int EnsurePositionBook(const std::string& vi, const std::string& date, std::stri
         id = reply.get(0).getv("pbi", "");
         return 0;
     }
-    return createBook(vi, date, id);
+    return CreateBook(vi, date, id);
 }
 
 int SetPositionBookDate(const std::string& id, const std::string& date) {
@@ -183,10 +183,10 @@ int SavePositionBookRows(const std::string& id, const BookPoints& rows) {
     }
     const int count = static_cast<int>(rows.size());
     if (count < kBookBlockRows) {
-        return sendBlock(id, rows, 0, count, -2);
+        return SendBlock(id, rows, 0, count, -2);
     }
     for (int begin = 0; begin < count; begin += kBookBlockRows) {
-        const int failed = sendBlock(id, rows, begin, std::min(begin + kBookBlockRows, count), -5);
+        const int failed = SendBlock(id, rows, begin, std::min(begin + kBookBlockRows, count), -5);
         if (failed < 0) {
             return failed;
         }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyPositionBook.h"
+#include <string>
 
 #include <tarvik/util/Jsona.h>
 
-#include <string>
+#include "seaplan/data/VoyPositionBook.h"
 
 /// Commands of the position book. Speeds are km/h on the wire and knots in memory; dates pass the time
 /// conversions.

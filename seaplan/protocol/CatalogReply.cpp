@@ -1,39 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/protocol/CatalogReply.h"
 
-#include <tarvik/util/StringUtl.h>
-
 #include <utility>
+
+#include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
 /// Numbers of this reply are quoted; one beyond 32 bits is clamped.
-int numberOf(const Util::Jsona& element, const char* key) {
+int NumberOf(const Util::Jsona& element, const char* key) {
     return Util::StringUtl::ToInt(element.getv(key, "0"));
 }
 
-void readFigures(const Util::Jsona& element, BunkerFigures& figures) {
-    figures[Vfn] = numberOf(element, "vfn");
-    figures[Vff] = numberOf(element, "vff");
+void ReadFigures(const Util::Jsona& element, BunkerFigures& figures) {
+    figures[Vfn] = NumberOf(element, "vfn");
+    figures[Vff] = NumberOf(element, "vff");
     // The server's `vfa` has always been read into the place of `vwa`, which then follows; clients rely on
     // `vfa` being 0.
-    figures[Vwa] = numberOf(element, "vfa");
-    figures[Vdn] = numberOf(element, "vdn");
-    figures[Vda] = numberOf(element, "vda");
-    figures[Vwn] = numberOf(element, "vwn");
-    figures[Vwa] = numberOf(element, "vwa");
+    figures[Vwa] = NumberOf(element, "vfa");
+    figures[Vdn] = NumberOf(element, "vdn");
+    figures[Vda] = NumberOf(element, "vda");
+    figures[Vwn] = NumberOf(element, "vwn");
+    figures[Vwa] = NumberOf(element, "vwa");
 }
 
-void readVoyages(const Util::Jsona& list, const std::string& ci, VoyageStore& store) {
+void ReadVoyages(const Util::Jsona& list, const std::string& ci, VoyageStore& store) {
     for (int i = 0; i < list.size(); ++i) {
         const Util::Jsona element = list.get(i);
         VoyInfo voyage = ReadVoyage(element);
         if (voyage.vi.empty()) {
             continue;
         }
-        store.categoryVoyages[ci][voyage.vi] = numberOf(element, "vd");
+        store.categoryVoyages[ci][voyage.vi] = NumberOf(element, "vd");
         std::string key = voyage.vi;
         store.voyages[std::move(key)] = std::move(voyage);
     }
@@ -47,12 +47,12 @@ VoyInfo ReadVoyage(const Util::Jsona& element) {
     voyage.vn = element.getv("vn", "");
     voyage.vsi = element.getv("vsi", "");
     voyage.vsn = element.getv("vsn", "");
-    voyage.vsmsi = numberOf(element, "vsmsi");
-    voyage.vr = numberOf(element, "vr");
-    voyage.va = numberOf(element, "va");
-    readFigures(element, voyage.figures);
-    voyage.vrk = numberOf(element, "vrk");
-    voyage.modais = numberOf(element, "modais");
+    voyage.vsmsi = NumberOf(element, "vsmsi");
+    voyage.vr = NumberOf(element, "vr");
+    voyage.va = NumberOf(element, "va");
+    ReadFigures(element, voyage.figures);
+    voyage.vrk = NumberOf(element, "vrk");
+    voyage.modais = NumberOf(element, "modais");
     return voyage;
 }
 
@@ -65,10 +65,10 @@ void ReadCatalog(const Util::Jsona& reply, VoyageStore& store) {
             continue;
         }
         category.cn = element.getv("cn", "");
-        category.crk = numberOf(element, "crk");
+        category.crk = NumberOf(element, "crk");
         store.categories[category.ci] = category;
-        store.categoryStates[category.ci] = numberOf(element, "cd");
-        readVoyages(element.get("voys"), category.ci, store);
+        store.categoryStates[category.ci] = NumberOf(element, "cd");
+        ReadVoyages(element.get("voys"), category.ci, store);
     }
 }
 

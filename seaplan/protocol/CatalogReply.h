@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyageStore.h"
-
 #include <tarvik/util/Jsona.h>
+
+#include "seaplan/data/VoyageStore.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/protocol/Exchange.h"
 
-#include <tarvik/core/BusBlock.h>
-#include <tarvik/interface/BusContract.h>
-#include <tarvik/util/DateTimeUtl.h>
-
 #include <cstddef>
 #include <cstring>
 #include <memory>
+
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/DateTimeUtl.h>
 
 namespace Tarvik::Seaplan {
 
@@ -30,7 +30,7 @@ struct BlockFree {
 using Block = std::unique_ptr<Interface::VoyServerRequest, BlockFree>;
 
 /// The host's reply, null without one. The request lives as long as the call.
-Block exchange(const Util::CAutoBuffer& text, std::uint16_t command) {
+Block Exchange(const Util::CAutoBuffer& text, std::uint16_t command) {
     const std::size_t length = text.size();
     const Block request(static_cast<Interface::VoyServerRequest*>(
         Core::AllocateBusBlock(sizeof(Interface::VoyServerRequest) + length)));
@@ -48,7 +48,7 @@ Block exchange(const Util::CAutoBuffer& text, std::uint16_t command) {
 }  // namespace
 
 int SendRequest(const Util::CAutoBuffer& text, std::uint16_t command, Util::Jsona& reply) {
-    const Block block = exchange(text, command);
+    const Block block = Exchange(text, command);
     if (!block) {
         return -1;
     }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/util/AutoBuffer.h>
-#include <tarvik/util/Jsona.h>
-
 #include <cstdint>
 #include <string>
+
+#include <tarvik/util/AutoBuffer.h>
+#include <tarvik/util/Jsona.h>
 
 /// The request envelope and what every command needs of the host.
 namespace Tarvik::Seaplan {

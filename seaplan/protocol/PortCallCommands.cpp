@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/protocol/PortCallCommands.h"
 
-#include "seaplan/protocol/CatalogTexts.h"
-#include "seaplan/protocol/StatusReply.h"
-#include "seaplan/protocol/WireUnits.h"
+#include <map>
+#include <utility>
 
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/StringUtl.h>
 
-#include <map>
-#include <utility>
+#include "seaplan/protocol/CatalogTexts.h"
+#include "seaplan/protocol/StatusReply.h"
+#include "seaplan/protocol/WireUnits.h"
 
 namespace Tarvik::Seaplan {
 
@@ -19,7 +19,7 @@ using Util::StringUtl;
 
 enum Command : std::uint16_t { CmdSaveFigures = 6, CmdLoadPortCalls = 10, CmdSavePortCalls = 11 };
 
-VoyPortCall readPortCall(const Util::Jsona& element) {
+VoyPortCall ReadPortCall(const Util::Jsona& element) {
     VoyPortCall row;
     row.ppi = element.getv("ppi", "");
     row.ppn = element.getv("ppn", "");
@@ -41,7 +41,7 @@ int ReadPortCalls(const Util::Jsona& reply, PortCallRows& rows) {
         if (number.empty()) {
             return -4;
         }
-        sorted[StringUtl::ToInt(number)] = readPortCall(element);
+        sorted[StringUtl::ToInt(number)] = ReadPortCall(element);
     }
     for (auto& [number, row] : sorted) {
         rows.push_back(std::move(row));

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/BunkerFigures.h"
-#include "seaplan/data/VoyPortCall.h"
+#include <string>
 
 #include <tarvik/util/Jsona.h>
 
-#include <string>
+#include "seaplan/data/BunkerFigures.h"
+#include "seaplan/data/VoyPortCall.h"
 
 /// Commands of port calls and consumption figures. Speeds are km/h on the wire and knots in memory.
 namespace Tarvik::Seaplan {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/protocol/RemarkExchange.h"
 
-#include <tarvik/interface/BusContract.h>
-#include <tarvik/util/Jsona.h>
-
 #include <cstdint>
 #include <cstring>
+
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/Jsona.h>
 
 namespace Tarvik::Seaplan {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/core/BusBlock.h>
-#include <tarvik/interface/ServerRequest.h>
-
 #include <memory>
 #include <string>
+
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/interface/ServerRequest.h>
 
 /// The remark path's own envelope and its own idea of success; the voyage path has neither.
 namespace Tarvik::Seaplan {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/protocol/RemarkList.h"
 
+#include <algorithm>
+#include <limits>
+#include <utility>
+
 #include "seaplan/protocol/RemarkExchange.h"
 #include "seaplan/protocol/RemarkReply.h"
 #include "seaplan/protocol/RemarkTexts.h"
 #include "seaplan/protocol/RemarkTime.h"
-
-#include <algorithm>
-#include <limits>
-#include <utility>
 
 namespace Tarvik::Seaplan {
 
@@ -17,7 +17,7 @@ namespace {
 constexpr const char* kTimeText = "%Y-%m-%d %H:%M:%S";
 
 /// A text that does not fit `capacity` bytes with its NUL is not sent and counts as failed.
-bool exchange(const std::string& text, std::size_t capacity, RemarkBlock& reply) {
+bool Exchange(const std::string& text, std::size_t capacity, RemarkBlock& reply) {
     if (text.size() >= capacity) {
         return false;
     }
@@ -26,12 +26,12 @@ bool exchange(const std::string& text, std::size_t capacity, RemarkBlock& reply)
     return SyncServer(request, reply);
 }
 
-bool exchange(const std::string& text, std::size_t capacity) {
+bool Exchange(const std::string& text, std::size_t capacity) {
     RemarkBlock reply;
-    return exchange(text, capacity, reply);
+    return Exchange(text, capacity, reply);
 }
 
-bool isNamed(const CRemark& remark, int type, const std::string& objectid) {
+bool IsNamed(const CRemark& remark, int type, const std::string& objectid) {
     return remark.type == type && remark.objectid == objectid;
 }
 
@@ -41,7 +41,7 @@ bool RemarkList::LoadRemarks(int type, const std::string& objectid) {
     // One of the remarks that go may name the object, so they last until the end.
     const auto gone = std::exchange(remarks_, {});
     RemarkBlock reply;
-    if (!exchange(LoadRemarksText(type, objectid), kRemarkNameBytes, reply)) {
+    if (!Exchange(LoadRemarksText(type, objectid), kRemarkNameBytes, reply)) {
         return false;
     }
     Util::Jsona list;
@@ -57,7 +57,7 @@ bool RemarkList::LoadRemarks(int type, const std::string& objectid) {
 bool RemarkList::AddRemark(int type, const std::string& objectid, int& seq, const std::string& subject,
                            const std::string& body) {
     seq = NextRemarkSeq(type, objectid);
-    if (!exchange(AddRemarkText(type, objectid, seq, subject, body), kRemarkTextBytes)) {
+    if (!Exchange(AddRemarkText(type, objectid, seq, subject, body), kRemarkTextBytes)) {
         return false;
     }
     const std::string now = NowText(kTimeText);
@@ -67,7 +67,7 @@ bool RemarkList::AddRemark(int type, const std::string& objectid, int& seq, cons
 
 bool RemarkList::ChangeRemark(int type, const std::string& objectid, int seq, const std::string& subject,
                               const std::string& body) {
-    if (!exchange(ChangeRemarkText(type, objectid, seq, subject, body), kRemarkTextBytes)) {
+    if (!Exchange(ChangeRemarkText(type, objectid, seq, subject, body), kRemarkTextBytes)) {
         return false;
     }
     if (CRemark* remark = Find(type, objectid, seq)) {
@@ -79,7 +79,7 @@ bool RemarkList::ChangeRemark(int type, const std::string& objectid, int seq, co
 }
 
 bool RemarkList::DeleteRemark(int type, const std::string& objectid, int seq) {
-    if (!exchange(DeleteRemarkText(type, objectid, seq), kRemarkNameBytes)) {
+    if (!Exchange(DeleteRemarkText(type, objectid, seq), kRemarkNameBytes)) {
         return false;
     }
     const CRemark* gone = Find(type, objectid, seq);
@@ -94,7 +94,7 @@ bool RemarkList::DeleteRemark(int type, const std::string& objectid, int seq) {
 int RemarkList::NextRemarkSeq(int type, const std::string& objectid) const {
     int highest = 0;
     for (const auto& remark : remarks_) {
-        if (isNamed(*remark, type, objectid)) {
+        if (IsNamed(*remark, type, objectid)) {
             highest = std::max(highest, remark->seq);
         }
     }
@@ -104,7 +104,7 @@ int RemarkList::NextRemarkSeq(int type, const std::string& objectid) const {
 
 CRemark* RemarkList::Find(int type, const std::string& objectid, int seq) const {
     for (const auto& remark : remarks_) {
-        if (isNamed(*remark, type, objectid) && remark->seq == seq) {
+        if (IsNamed(*remark, type, objectid) && remark->seq == seq) {
             return remark.get();
         }
     }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/protocol/CRemark.h"
-
 #include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "seaplan/protocol/CRemark.h"
 
 namespace Tarvik::Seaplan {
 

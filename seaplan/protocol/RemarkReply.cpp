@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/protocol/RemarkReply.h"
 
-#include "seaplan/protocol/RemarkTime.h"
-
-#include <tarvik/util/StringUtl.h>
-
 #include <charconv>
 #include <cstdint>
 #include <system_error>
+
+#include <tarvik/util/StringUtl.h>
+
+#include "seaplan/protocol/RemarkTime.h"
 
 namespace Tarvik::Seaplan {
 

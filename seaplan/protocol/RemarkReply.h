@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/protocol/CRemark.h"
+#include <string>
+#include <vector>
 
 #include <tarvik/util/Jsona.h>
 
-#include <string>
-#include <vector>
+#include "seaplan/protocol/CRemark.h"
 
 namespace Tarvik::Seaplan {
 

@@ -6,6 +6,7 @@
 namespace Tarvik::Seaplan {
 
 namespace {
+
 constexpr std::size_t kFirstCapacity = 256;
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/util/Jsona.h>
-
 #include <cstdint>
 #include <string>
+
+#include <tarvik/util/Jsona.h>
 
 namespace Tarvik::Seaplan {
 

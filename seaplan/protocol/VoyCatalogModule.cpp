@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/protocol/VoyCatalogModule.h"
 
+#include <set>
+
 #include "seaplan/protocol/CatalogReply.h"
 #include "seaplan/protocol/CatalogTexts.h"
 #include "seaplan/protocol/Exchange.h"
 #include "seaplan/protocol/StatusReply.h"
-
-#include <set>
 
 namespace Tarvik::Seaplan {
 
@@ -21,7 +21,7 @@ enum Command : std::uint16_t {
 };
 
 /// Runs a creating command and takes the new record's id from member `key` of the status.
-int create(const std::string& text, std::uint16_t command, const char* key, std::string& id) {
+int Create(const std::string& text, std::uint16_t command, const char* key, std::string& id) {
     Util::Jsona reply;
     if (const int failed = SendChange(text, command, -2, reply); failed < 0) {
         return failed;
@@ -35,7 +35,7 @@ int create(const std::string& text, std::uint16_t command, const char* key, std:
 }
 
 /// True with `on` set for the two mode words that exist.
-bool readMode(const std::string& mode, bool& on) {
+bool ReadMode(const std::string& mode, bool& on) {
     on = mode == "open";
     return on || mode == "close";
 }
@@ -69,7 +69,7 @@ int VoyCatalogModule::LoadAll(const std::string& user) {
 }
 
 int VoyCatalogModule::CreateCategory(const std::string& name, std::string& ci) {
-    return name.empty() ? -1 : create(CreateCategoryText(name), CmdChangeCategory, "ci", ci);
+    return name.empty() ? -1 : Create(CreateCategoryText(name), CmdChangeCategory, "ci", ci);
 }
 
 int VoyCatalogModule::RenameCategory(const std::string& ci, const std::string& name) {
@@ -81,7 +81,7 @@ int VoyCatalogModule::ChangeCategoryState(const std::string& ci, int type) {
 }
 
 int VoyCatalogModule::CreateVoyage(const std::string& name, const std::string& ci, std::string& vi) {
-    return name.empty() ? -1 : create(CreateVoyageText(ci, name), CmdChangeVoyage, "vi", vi);
+    return name.empty() ? -1 : Create(CreateVoyageText(ci, name), CmdChangeVoyage, "vi", vi);
 }
 
 int VoyCatalogModule::RenameVoyage(const std::string& vi, const std::string& name) {
@@ -105,7 +105,7 @@ int VoyCatalogModule::SetRouteDisplay(const std::string& vi, const std::string& 
     if (vi.empty()) {
         return -1;
     }
-    return readMode(mode, on) ? SendChange(RouteDisplayText(vi, on), CmdChangeVoyage, -3) : -2;
+    return ReadMode(mode, on) ? SendChange(RouteDisplayText(vi, on), CmdChangeVoyage, -3) : -2;
 }
 
 int VoyCatalogModule::SetAisTracing(const std::string& vi, const std::string& mode) {
@@ -113,7 +113,7 @@ int VoyCatalogModule::SetAisTracing(const std::string& vi, const std::string& mo
     if (vi.empty()) {
         return -1;
     }
-    return readMode(mode, on) ? SendChange(AisTracingText(vi, on), CmdChangeVoyage, -3) : -2;
+    return ReadMode(mode, on) ? SendChange(AisTracingText(vi, on), CmdChangeVoyage, -3) : -2;
 }
 
 int VoyCatalogModule::AddAisModTime(const std::string& vi, const std::string& time) {

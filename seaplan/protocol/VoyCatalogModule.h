@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyageStore.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/data/VoyageStore.h"
 
 namespace Tarvik::Seaplan {
 

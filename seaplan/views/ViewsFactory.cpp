@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/ViewsFactory.h"
 
-#include "seaplan/panels/services/AisControllerCommands.h"
-#include "seaplan/panels/services/ControllerCommands.h"
-#include "seaplan/views/VoyageViews.h"
+#include <QApplication>
+#include <memory>
 
 #include <tarvik/core/TrvKernel.h>
 
-#include <QApplication>
-
-#include <memory>
+#include "seaplan/panels/services/AisControllerCommands.h"
+#include "seaplan/panels/services/ControllerCommands.h"
+#include "seaplan/views/VoyageViews.h"
 
 namespace Tarvik::Seaplan {
 
@@ -30,7 +29,9 @@ class ControlledViews {
         voyages_->Module().SetRouteListener([this] { views_.PortCalls().OnRouteChosen(); });
         // Windows must be gone before the application object is, and panels with their windows.
         qAddPostRoutine(DestroyViews);
-        if (mainView != nullptr) QObject::connect(mainView, &QObject::destroyed, [] { DestroyViews(); });
+        if (mainView != nullptr) {
+            QObject::connect(mainView, &QObject::destroyed, [] { DestroyViews(); });
+        }
     }
     ~ControlledViews() {
         qRemovePostRoutine(DestroyViews);
@@ -50,7 +51,7 @@ class ControlledViews {
     VoyageViews views_;
 };
 
-std::unique_ptr<ControlledViews>& made() {
+std::unique_ptr<ControlledViews>& Made() {
     static std::unique_ptr<ControlledViews> views;
     return views;
 }
@@ -58,26 +59,32 @@ std::unique_ptr<ControlledViews>& made() {
 }  // namespace
 
 bool CreateViews(const ViewsDependencies& dependencies) {
-    if (made() != nullptr) return true;
-    if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return false;
+    if (Made() != nullptr) {
+        return true;
+    }
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
+        return false;
+    }
     if (dependencies.catalog == nullptr || dependencies.voyages == nullptr || dependencies.store == nullptr) {
         return false;
     }
     auto* mainView = static_cast<QWidget*>(Core::TrvKernel::MainViewHWnd());
-    made() = std::make_unique<ControlledViews>(dependencies, mainView);
+    Made() = std::make_unique<ControlledViews>(dependencies, mainView);
     return true;
 }
 
 SeaplanViewDlg* VoyagePanel() {
-    return made() == nullptr ? nullptr : &made()->Views().Panel();
+    return Made() == nullptr ? nullptr : &Made()->Views().Panel();
 }
 
 void DestroyViews() {
-    made().reset();
+    Made().reset();
 }
 
 void RestyleViews() {
-    if (made() != nullptr) made()->Views().Restyle();
+    if (Made() != nullptr) {
+        Made()->Views().Restyle();
+    }
 }
 
 }  // namespace Tarvik::Seaplan

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QObject>
+#include <QPointer>
+
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
-
-#include <QObject>
-#include <QPointer>
 
 namespace Tarvik::Seaplan {
 
@@ -40,7 +40,7 @@ class VoyageViews final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void showSaved(const std::string& vi);
+    void ShowSaved(const std::string& vi);
 
     QPointer<VoyagePanelWindow> voyageWindow_;
     QPointer<PortCallWindow> portCallWindow_;

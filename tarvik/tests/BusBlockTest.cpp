@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/core/BusBlock.h>
+#include <cstring>
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <tarvik/core/BusBlock.h>
 
 namespace Tarvik::Core {
+
 namespace {
 
 TEST(BusBlockTest, CountsBlocksMadeAndNotYetFreed) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The names of the bus are a contract with plug-ins and hosts that were built elsewhere.
-#include <tarvik/interface/BusContract.h>
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <tarvik/interface/BusContract.h>
 
 namespace Tarvik::Interface {
+
 namespace {
 
 TEST(BusContractTest, NamesThatTheVoyagePlugInOwns) {

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 // Defaults and layout of the records that cross the bus.
-#include <tarvik/interface/ChartRecords.h>
-#include <tarvik/interface/ServerRequest.h>
-#include <tarvik/interface/SiblingRecords.h>
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/interface/ChartRecords.h>
+#include <tarvik/interface/ServerRequest.h>
+#include <tarvik/interface/SiblingRecords.h>
+
 namespace Tarvik::Interface {
+
 namespace {
 
 TEST(ServerRequestTest, HeadIsEightBytesLittleEndian) {

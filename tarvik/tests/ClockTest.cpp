@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/Clock.h>
-#include <tarvik/util/DateTime.h>
-
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <ctime>
 #include <map>
 #include <string>
 #include <utility>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/util/Clock.h>
+#include <tarvik/util/DateTime.h>
+
 namespace Tarvik::Util {
+
 namespace {
 
 class FixedClock : public Clock {

@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/CppSQLite3.h>
-
-#include <gtest/gtest.h>
-#include <sqlite3.h>
-#include <unistd.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <unistd.h>
 #include <utility>
 
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <tarvik/util/CppSQLite3.h>
+
 namespace Tarvik::Util {
+
 namespace {
 
 class CppSQLite3Test : public testing::Test {

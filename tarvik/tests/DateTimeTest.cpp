@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/DateTime.h>
+#include <limits>
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <tarvik/util/DateTime.h>
 
 namespace Tarvik::Util {
+
 namespace {
 
 constexpr const char* kForm = "%Y-%m-%d %H:%M:%S";

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/DateTimeUtl.h>
-#include <tarvik/util/Log.h>
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/Log.h>
+
 namespace Tarvik::Util {
+
 namespace {
 
 constexpr const char* kChina = "China Standard Time";

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/FileUtl.h>
+#include <filesystem>
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
+#include <tarvik/util/FileUtl.h>
 
 namespace Tarvik::Util {
+
 namespace {
 
 TEST(FileUtlTest, StartsBesideTheProgram) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/Geodesy.h>
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/util/Geodesy.h>
+
 namespace Tarvik::Util {
+
 namespace {
 
 // 1/4 meridian and 1 degree of equator of the WGS-84 ellipsoid, km.

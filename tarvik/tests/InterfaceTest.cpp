@@ -1,23 +1,30 @@
 // SPDX-License-Identifier: MIT
+#include <optional>
+#include <string>
+
+#include <gtest/gtest.h>
+
 #include <tarvik/interface/LoadString.h>
 #include <tarvik/interface/SysMsgSink.h>
 #include <tarvik/interface/ValueDictionary.h>
 
-#include <gtest/gtest.h>
-
-#include <optional>
-#include <string>
-
 namespace Tarvik::Interface {
+
 namespace {
 
 class OneLanguage : public LanguageSource {
   public:
     std::optional<std::u16string> Find(const std::u16string& section, const std::u16string& name,
                                        const std::u16string& key) const override {
-        if (section == u"Seaplan" && name == u"Text" && key == u"IDS_A") return u"Voyage";
-        if (key == u"IDS_PAIR") return u"ab\U0001F600";
-        if (key == u"IDS_EMPTY") return u"";
+        if (section == u"Seaplan" && name == u"Text" && key == u"IDS_A") {
+            return u"Voyage";
+        }
+        if (key == u"IDS_PAIR") {
+            return u"ab\U0001F600";
+        }
+        if (key == u"IDS_EMPTY") {
+            return u"";
+        }
         return std::nullopt;
     }
 };

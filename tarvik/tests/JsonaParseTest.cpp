@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/Jsona.h>
-
-#include <gtest/gtest.h>
-
 #include <cstddef>
 #include <ostream>
 #include <string>
 #include <string_view>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/util/Jsona.h>
+
 namespace Tarvik::Util {
+
 namespace {
 
 using namespace std::string_view_literals;

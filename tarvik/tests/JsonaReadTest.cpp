@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/Jsona.h>
-
-#include <gtest/gtest.h>
-
 #include <limits>
 #include <string>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/util/Jsona.h>
+
 namespace Tarvik::Util {
+
 namespace {
 
 Jsona Parsed(std::string_view text) {
@@ -36,7 +37,9 @@ TEST(JsonaReadTest, KindsAreTold) {
     const Kind expected[] = {Kind::Null, Kind::False, Kind::True,  Kind::Integer,
                              Kind::Real, Kind::Text,  Kind::Array, Kind::Object};
     ASSERT_EQ(value.size(), 8);
-    for (int i = 0; i < 8; ++i) EXPECT_EQ(value.get(i).kind(), expected[i]) << i;
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_EQ(value.get(i).kind(), expected[i]) << i;
+    }
     EXPECT_EQ(value.get(8).kind(), Kind::None);
     EXPECT_EQ(value.get(-1).kind(), Kind::None);
 }
@@ -54,10 +57,15 @@ TEST(JsonaReadTest, GetvReadsOnlyItsOwnKind) {
     EXPECT_EQ(value.getv("t", "d"), "5");
     EXPECT_EQ(value.getv("i", 9), 5);
     EXPECT_DOUBLE_EQ(value.getv("r", 9.5), 5.0);
-    for (const char* key : {"i", "r", "n", "b", "a", "missing"}) EXPECT_EQ(value.getv(key, "d"), "d") << key;
-    for (const char* key : {"t", "r", "n", "b", "a", "missing"}) EXPECT_EQ(value.getv(key, 9), 9) << key;
-    for (const char* key : {"t", "i", "n", "b", "a", "missing"})
+    for (const char* key : {"i", "r", "n", "b", "a", "missing"}) {
+        EXPECT_EQ(value.getv(key, "d"), "d") << key;
+    }
+    for (const char* key : {"t", "r", "n", "b", "a", "missing"}) {
+        EXPECT_EQ(value.getv(key, 9), 9) << key;
+    }
+    for (const char* key : {"t", "i", "n", "b", "a", "missing"}) {
         EXPECT_DOUBLE_EQ(value.getv(key, 9.5), 9.5) << key;
+    }
 }
 
 TEST(JsonaReadTest, IntegersFitThirtyTwoBits) {
@@ -110,7 +118,9 @@ TEST(JsonaReadTest, LaterOfEqualKeysWins) {
 
 TEST(JsonaReadTest, LargeObjectsAreFoundByKeyAndKeepTheirOrder) {
     std::string text = "{";
-    for (int i = 0; i < 500; ++i) text += "k" + std::to_string(i) + ":" + std::to_string(i) + ",";
+    for (int i = 0; i < 500; ++i) {
+        text += "k" + std::to_string(i) + ":" + std::to_string(i) + ",";
+    }
     text += "k7:1007,last:{k7:5}}";
     const Jsona value = Parsed(text);
     ASSERT_EQ(value.size(), 501);

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/core/PluginInfo.h>
-
-#include <gtest/gtest.h>
-
 #include <cstddef>
 #include <exception>
 #include <string>
 #include <type_traits>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/core/PluginInfo.h>
+
 namespace Tarvik {
+
 namespace {
 
 static_assert(std::has_virtual_destructor_v<Core::CTrvSoftInfo>);

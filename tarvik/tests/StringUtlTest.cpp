@@ -1,9 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/AutoBuffer.h>
-#include <tarvik/util/StringUtl.h>
-
-#include <gtest/gtest.h>
-
 #include <clocale>
 #include <cmath>
 #include <limits>
@@ -13,7 +8,13 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/util/AutoBuffer.h>
+#include <tarvik/util/StringUtl.h>
+
 namespace Tarvik::Util {
+
 namespace {
 
 using Pieces = std::vector<std::string>;
@@ -63,8 +64,9 @@ TEST(NumberTest, IntegersReadLikeTheSystems) {
     EXPECT_EQ(StringUtl::ToInt("42"), 42);
     EXPECT_EQ(StringUtl::ToInt(" \t\n\v\f\r+7x"), 7);
     EXPECT_EQ(StringUtl::ToInt("-12.9"), -12);
-    for (const char* text : {"", "x", "-", "+-1", "- 1", "nan", "inf"})
+    for (const char* text : {"", "x", "-", "+-1", "- 1", "nan", "inf"}) {
         EXPECT_EQ(StringUtl::ToInt(text), 0) << text;
+    }
     EXPECT_EQ(StringUtl::ToInt("0x10"), 0);
     EXPECT_EQ(StringUtl::ToInt("2147483647"), std::numeric_limits<int>::max());
     EXPECT_EQ(StringUtl::ToInt("2147483648"), std::numeric_limits<int>::max());
@@ -172,7 +174,9 @@ class CommaLocale {
     CommaLocale() : before_(std::setlocale(LC_ALL, nullptr)), streamsBefore_() {
         std::locale::global(std::locale(std::locale::classic(), new CommaPunctuation));
         for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE.utf8"}) {
-            if (std::setlocale(LC_ALL, name) != nullptr) return;
+            if (std::setlocale(LC_ALL, name) != nullptr) {
+                return;
+            }
         }
     }
     ~CommaLocale() {

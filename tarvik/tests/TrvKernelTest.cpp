@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
-
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
+
 namespace Tarvik::Core {
+
 namespace {
 
 /// Notes its calls in a shared diary and does what the test sets.
@@ -21,7 +22,9 @@ class Listener : public TObject {
     void* Handle(void* input) {
         diary_.push_back(name_);
         lastInput = input;
-        if (action) action();
+        if (action) {
+            action();
+        }
         return answer;
     }
     TEvent delegate;
@@ -263,7 +266,9 @@ TEST_F(TrvKernelTest, OnlyTheOwnerDeletes) {
 }
 
 TEST_F(TrvKernelTest, HandlerMayUnbindItselfAndOthers) {
-    for (Listener* listener : {&first, &second, &third}) kernel->BindTrvEvent("E", &listener->delegate);
+    for (Listener* listener : {&first, &second, &third}) {
+        kernel->BindTrvEvent("E", &listener->delegate);
+    }
     first.action = [this] {
         kernel->UnBindTrvEvent("E", &first.delegate);
         kernel->UnBindTrvEvent("E", &second.delegate);

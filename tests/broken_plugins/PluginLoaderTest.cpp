@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/plugins/PluginLoader.h"
-
-#include <gmock/gmock.h>
-
-#include <unistd.h>
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <unistd.h>
+
+#include <gmock/gmock.h>
+
+#include "host/client/plugins/PluginLoader.h"
 
 namespace fs = std::filesystem;
 
 namespace Tarvik::Client {
+
 namespace {
 
 using testing::ElementsAre;

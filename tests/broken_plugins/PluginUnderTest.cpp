@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // One source for all plug-ins of these tests; the build gives each its name, its needs and its fault.
-#include <tarvik/core/PluginInfo.h>
-
 #include <cstdlib>
 #include <stdexcept>
+
+#include <tarvik/core/PluginInfo.h>
 
 #define EXPORTED extern "C" __attribute__((visibility("default")))
 

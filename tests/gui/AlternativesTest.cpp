@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
 #include "tests/gui/Display.h"
 #include "tests/gui/Picture.h"
 #include "tests/gui/Sitting.h"
 #include "tests/gui/Spots.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Programs {
+
 namespace {
 
 // Colours of the points on the light chart.

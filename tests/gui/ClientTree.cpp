@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/gui/ClientTree.h"
 
-#include <sqlite3.h>
-
 #include <filesystem>
+
+#include <sqlite3.h>
 
 namespace fs = std::filesystem;
 
@@ -13,13 +13,16 @@ ClientTree::ClientTree() : program_(CLIENT_PROGRAM), data_(folder_.Path("data"))
 
 void ClientTree::CopyTree() {
     const fs::path built = fs::path(CLIENT_PROGRAM).parent_path().parent_path();
-    for (const char* part : {"bin", "lib", "share/seaplan"}) fs::create_directories(TreeFile(part));
+    for (const char* part : {"bin", "lib", "share/seaplan"}) {
+        fs::create_directories(TreeFile(part));
+    }
     fs::copy_file(CLIENT_PROGRAM, TreeFile("bin/client"));
     program_ = TreeFile("bin/client");
     fs::copy(built / "share" / "seaplan", TreeFile("share/seaplan"), fs::copy_options::recursive);
     // Linked, as the libraries of a debug build are large; a test removes the link, never the library.
-    for (const char* name : {CLIENT_PLUGIN, CLIENT_CHART})
+    for (const char* name : {CLIENT_PLUGIN, CLIENT_CHART}) {
         fs::create_symlink(name, fs::path(TreeFile("lib")) / fs::path(name).filename());
+    }
 }
 
 ChildProcess::Start ClientTree::Words(const std::vector<std::string>& words) const {
@@ -50,7 +53,9 @@ long ClientTree::Number(const std::string& sql) const {
         sqlite3_busy_timeout(database, 5000) == SQLITE_OK &&
         sqlite3_prepare_v2(database, sql.c_str(), -1, &statement, nullptr) == SQLITE_OK &&
         sqlite3_step(statement) == SQLITE_ROW;
-    if (asked) number = static_cast<long>(sqlite3_column_int64(statement, 0));
+    if (asked) {
+        number = static_cast<long>(sqlite3_column_int64(statement, 0));
+    }
     sqlite3_finalize(statement);
     sqlite3_close(database);
     return number;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/tests/TemporaryFolder.h"
-#include "tests/gui/ChildProcess.h"
-
 #include <string>
 #include <vector>
+
+#include "host/client/tests/TemporaryFolder.h"
+#include "tests/gui/ChildProcess.h"
 
 namespace Tarvik::Programs {
 

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "tests/gui/Display.h"
 
+#include <cstdlib>
 #include <fcntl.h>
-#include <gtest/gtest.h>
 #include <poll.h>
 #include <unistd.h>
 
-#include <cstdlib>
+#include <gtest/gtest.h>
 
 namespace Tarvik::Programs {
+
 namespace {
 
 constexpr int kStartMs = 60000;
@@ -17,7 +18,9 @@ constexpr int kStartMs = 60000;
 
 Display::Display() {
     int numbers[2];
-    if (pipe2(numbers, O_CLOEXEC) != 0) return;
+    if (pipe2(numbers, O_CLOEXEC) != 0) {
+        return;
+    }
     ChildProcess::Start start;
     start.words = {XVFB_PROGRAM, "-displayfd", std::to_string(numbers[1]),
                    "-screen",    "0",          "1600x1000x24",
@@ -29,10 +32,13 @@ Display::Display() {
     pollfd waiting{numbers[0], POLLIN, 0};
     std::string number;
     char next = 0;
-    while (next != '\n' && poll(&waiting, 1, kStartMs) == 1 && read(numbers[0], &next, 1) == 1)
+    while (next != '\n' && poll(&waiting, 1, kStartMs) == 1 && read(numbers[0], &next, 1) == 1) {
         number += next;
+    }
     close(numbers[0]);
-    if (next == '\n') name_ = ":" + std::to_string(std::atoi(number.c_str()));
+    if (next == '\n') {
+        name_ = ":" + std::to_string(std::atoi(number.c_str()));
+    }
     EXPECT_NE(name_, "") << "the X server did not start";
 }
 

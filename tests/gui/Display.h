@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/gui/ChildProcess.h"
-
 #include <memory>
 #include <string>
+
+#include "tests/gui/ChildProcess.h"
 
 namespace Tarvik::Programs {
 

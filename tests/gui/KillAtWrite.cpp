@@ -2,16 +2,15 @@
 // Loaded into the client before its own libraries: kills the client at a given write to its voyage data base,
 // as a power failure or an impatient person would. KILL_AT names the write, counted from 1; with 0 nothing is
 // killed and the number of writes goes to the file of KILL_COUNT at the end.
-#include <dlfcn.h>
-#include <sys/types.h>
-#include <unistd.h>
-
 #include <climits>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <dlfcn.h>
 #include <fstream>
 #include <string>
+#include <sys/types.h>
+#include <unistd.h>
 
 namespace {
 
@@ -24,7 +23,9 @@ class Counter {
     }
     ~Counter() {
         const char* file = std::getenv("KILL_COUNT");
-        if (file) std::ofstream(file) << count_;
+        if (file) {
+            std::ofstream(file) << count_;
+        }
     }
     Counter(const Counter&) = delete;
     Counter& operator=(const Counter&) = delete;
@@ -32,8 +33,12 @@ class Counter {
     void Note(int descriptor) {
         char path[PATH_MAX] = {};
         const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
-        if (readlink(link.c_str(), path, sizeof path - 1) < 0) return;
-        if (std::strstr(path, "/voyages.db") != nullptr && ++count_ == killAt_) raise(SIGKILL);
+        if (readlink(link.c_str(), path, sizeof path - 1) < 0) {
+            return;
+        }
+        if (std::strstr(path, "/voyages.db") != nullptr && ++count_ == killAt_) {
+            raise(SIGKILL);
+        }
     }
 
   private:

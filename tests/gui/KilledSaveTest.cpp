@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "tests/gui/ClientTree.h"
-
-#include <gmock/gmock.h>
-
 #include <csignal>
 #include <random>
 #include <set>
 
+#include <gmock/gmock.h>
+
+#include "tests/gui/ClientTree.h"
+
 namespace Tarvik::Programs {
+
 namespace {
 
 using testing::AnyOf;
@@ -20,7 +21,9 @@ ChildProcess::Start WatchedSave(const ClientTree& client, long killAt, const std
     start.environment["LD_PRELOAD"] = KILL_LIBRARY;
     start.environment["ASAN_OPTIONS"] += ":verify_asan_link_order=0";
     start.environment["KILL_AT"] = std::to_string(killAt);
-    if (!countFile.empty()) start.environment["KILL_COUNT"] = countFile;
+    if (!countFile.empty()) {
+        start.environment["KILL_COUNT"] = countFile;
+    }
     return start;
 }
 
@@ -88,9 +91,12 @@ TEST_F(KilledSave, LeavesTheOldOrTheNewScheduleAtEveryMoment) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     std::set<long> moments{1, writes_};
-    while (moments.size() < 8)
+    while (moments.size() < 8) {
         moments.insert(1 + static_cast<long>(random() % static_cast<unsigned>(writes_)));
-    for (const long write : moments) killAt(write);
+    }
+    for (const long write : moments) {
+        killAt(write);
+    }
 }
 
 }  // namespace

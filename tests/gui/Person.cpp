@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tests/gui/Person.h"
 
-#include "tests/gui/ChildProcess.h"
-
 #include <utility>
 
+#include "tests/gui/ChildProcess.h"
+
 namespace Tarvik::Programs {
+
 namespace {
 
 ChildProcess::Start On(const std::string& display, std::vector<std::string> words) {

@@ -14,8 +14,9 @@ std::string Cut(const std::string& picture, int left, int top, int width, int he
     int high = 0;
     int most = 0;
     head >> kind >> wide >> high >> most;
-    if (kind != "P6" || most != 255 || left < 0 || top < 0 || left + width > wide || top + height > high)
+    if (kind != "P6" || most != 255 || left < 0 || top < 0 || left + width > wide || top + height > high) {
         return {};
+    }
     const auto pixels = static_cast<std::size_t>(head.tellg()) + 1;
     std::string cut;
     for (int y = top; y < top + height; ++y) {
@@ -28,7 +29,9 @@ std::string Cut(const std::string& picture, int left, int top, int width, int he
 
 void Keep(const std::string& name, const std::string& picture) {
     const char* folder = std::getenv("SEAPLAN_TEST_PICTURES");
-    if (folder != nullptr) std::ofstream(std::string(folder) + "/" + name, std::ios::binary) << picture;
+    if (folder != nullptr) {
+        std::ofstream(std::string(folder) + "/" + name, std::ios::binary) << picture;
+    }
 }
 
 }  // namespace Tarvik::Programs

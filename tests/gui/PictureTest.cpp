@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "tests/gui/Picture.h"
-
 #include <gtest/gtest.h>
 
+#include "tests/gui/Picture.h"
+
 namespace Tarvik::Programs {
+
 namespace {
 
 TEST(Picture, GivesThePixelsOfARectangleWithinIt) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "tests/gui/ClientTree.h"
+#include <filesystem>
 
 #include <gmock/gmock.h>
-
-#include <filesystem>
 #include <nlohmann/json.hpp>
 
+#include "tests/gui/ClientTree.h"
+
 namespace Tarvik::Programs {
+
 namespace {
 
 using testing::HasSubstr;
@@ -27,7 +28,9 @@ void ExpectOneLine(const Ended& ended, int exitCode, const std::vector<std::stri
     EXPECT_EQ(ended.exitCode, exitCode) << ended.err;
     EXPECT_EQ(ended.out, "");
     EXPECT_EQ(std::count(ended.err.begin(), ended.err.end(), '\n'), 1) << ended.err;
-    for (const std::string& part : parts) EXPECT_THAT(ended.err, HasSubstr(part));
+    for (const std::string& part : parts) {
+        EXPECT_THAT(ended.err, HasSubstr(part));
+    }
 }
 
 TEST(PlanProgram, PrintsTheScheduleOfRealPortsAsJson) {
@@ -55,7 +58,9 @@ TEST(PlanProgram, CrossesThePacificOverTheDateLine) {
     const Json drawing = Json::parse(ended.out);
     std::vector<Json> lines;
     for (const Json& feature : drawing["features"]) {
-        if (feature["geometry"]["type"] == "LineString") lines.push_back(feature["geometry"]["coordinates"]);
+        if (feature["geometry"]["type"] == "LineString") {
+            lines.push_back(feature["geometry"]["coordinates"]);
+        }
     }
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0].back()[0], 179.99);
@@ -114,7 +119,9 @@ TEST(PlanProgram, NamesTheBadWordOfEveryBadInput) {
         {{"Rotterdam", "Singapore", "--save", "Trade"}, {"\"Trade\" of --save", "CATEGORY/VOYAGE"}},
         {{"Rotterdam", "Singapore", "--picture", "/nowhere/a.png"}, {"/nowhere", "missing"}},
         {{"Rotterdam", "Singapore", "--colour", "red"}, {"Unknown option \"--colour\""}}};
-    for (const auto& [words, parts] : cases) ExpectOneLine(client.Plan(words), 2, parts);
+    for (const auto& [words, parts] : cases) {
+        ExpectOneLine(client.Plan(words), 2, parts);
+    }
     EXPECT_EQ(client.Number("select count(*) from categories"), 0);
 }
 

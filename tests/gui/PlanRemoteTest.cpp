@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
 #include "host/server/graph/adapter/GraphRouteSource.h"
 #include "host/server/net/tests/TestServer.h"
 #include "tests/gui/ClientTree.h"
 
-#include <gmock/gmock.h>
-
-#include <filesystem>
-
 namespace Tarvik::Programs {
+
 namespace {
 
 using testing::HasSubstr;

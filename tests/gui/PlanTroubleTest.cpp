@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "tests/gui/ClientTree.h"
-
 #include <arpa/inet.h>
-#include <gmock/gmock.h>
+#include <filesystem>
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <filesystem>
+#include <gmock/gmock.h>
+
+#include "tests/gui/ClientTree.h"
 
 namespace Tarvik::Programs {
+
 namespace {
 
 using testing::HasSubstr;
@@ -21,7 +22,9 @@ void ExpectTrouble(const Ended& ended, const std::vector<std::string>& parts) {
     EXPECT_EQ(ended.exitCode, 1) << ended.err;
     EXPECT_EQ(ended.out, "");
     EXPECT_EQ(std::count(ended.err.begin(), ended.err.end(), '\n'), 1) << ended.err;
-    for (const std::string& part : parts) EXPECT_THAT(ended.err, HasSubstr(part));
+    for (const std::string& part : parts) {
+        EXPECT_THAT(ended.err, HasSubstr(part));
+    }
 }
 
 class DamagedTree : public testing::Test {

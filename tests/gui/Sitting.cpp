@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tests/gui/Sitting.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <exception>
 
+#include <gtest/gtest.h>
+
 namespace Tarvik::Programs {
+
 namespace {
 
 constexpr Place kVoyagesTool{40, 18};
@@ -38,7 +39,9 @@ Sitting::~Sitting() {
     // What was on the screen when a test failed says more than its words.
     const char* folder = std::getenv("SEAPLAN_TEST_PICTURES");
     const bool failed = std::uncaught_exceptions() > 0 || testing::Test::HasFailure();
-    if (folder != nullptr && failed) person_.Photograph(std::string(folder) + "/failed.png");
+    if (folder != nullptr && failed) {
+        person_.Photograph(std::string(folder) + "/failed.png");
+    }
 }
 
 void Sitting::OpenVoyages() {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "tests/gui/ChildProcess.h"
 #include "tests/gui/ClientTree.h"
 #include "tests/gui/Person.h"
-
-#include <string>
-#include <vector>
 
 namespace Tarvik::Programs {
 

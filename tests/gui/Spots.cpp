@@ -6,6 +6,7 @@
 #include <utility>
 
 namespace Tarvik::Programs {
+
 namespace {
 
 /// Which pixels of a picture have a colour.
@@ -15,7 +16,9 @@ struct Mask {
     std::vector<char> set;
 
     bool Take(int x, int y) {
-        if (x < 0 || y < 0 || x >= wide || y >= high) return false;
+        if (x < 0 || y < 0 || x >= wide || y >= high) {
+            return false;
+        }
         return std::exchange(set[static_cast<std::size_t>(y) * static_cast<std::size_t>(wide) +
                                  static_cast<std::size_t>(x)],
                              0) != 0;
@@ -28,7 +31,9 @@ Mask maskOf(const std::string& picture, std::uint32_t colour) {
     std::string kind;
     int most = 0;
     head >> kind >> mask.wide >> mask.high >> most;
-    if (kind != "P6" || most != 255) return {};
+    if (kind != "P6" || most != 255) {
+        return {};
+    }
     const std::string wanted{static_cast<char>(colour >> 16 & 0xFF), static_cast<char>(colour >> 8 & 0xFF),
                              static_cast<char>(colour & 0xFF)};
     const auto pixels = static_cast<std::size_t>(head.tellg()) + 1;
@@ -52,7 +57,9 @@ Spot takePatch(Mask& mask, int x, int y) {
         sumX += px;
         sumY += py;
         for (const auto& [dx, dy] : {std::pair{1, 0}, {-1, 0}, {0, 1}, {0, -1}}) {
-            if (mask.Take(px + dx, py + dy)) open.emplace_back(px + dx, py + dy);
+            if (mask.Take(px + dx, py + dy)) {
+                open.emplace_back(px + dx, py + dy);
+            }
         }
     }
     spot.x = static_cast<int>(sumX / spot.pixels);
@@ -67,9 +74,13 @@ std::vector<Spot> SpotsOf(const std::string& picture, std::uint32_t colour, int 
     std::vector<Spot> spots;
     for (int y = 0; y < mask.high; ++y) {
         for (int x = 0; x < mask.wide; ++x) {
-            if (!mask.Take(x, y)) continue;
+            if (!mask.Take(x, y)) {
+                continue;
+            }
             const Spot spot = takePatch(mask, x, y);
-            if (spot.pixels >= least) spots.push_back(spot);
+            if (spot.pixels >= least) {
+                spots.push_back(spot);
+            }
         }
     }
     std::sort(spots.begin(), spots.end(), [](const Spot& a, const Spot& b) { return a.x < b.x; });

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
 #include "tests/gui/Display.h"
 #include "tests/gui/Picture.h"
 #include "tests/gui/Sitting.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Programs {
+
 namespace {
 
 constexpr Place kVoyageBehindItsCategory{150, 122};

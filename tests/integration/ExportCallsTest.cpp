@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/PlanService.h"
-#include "tests/integration/FreshPlugin.h"
-
-#include <tarvik/core/TrvKernel.h>
-
 #include <algorithm>
 #include <array>
 
+#include <tarvik/core/TrvKernel.h>
+
+#include "seaplan/plugin/PlanService.h"
+#include "tests/integration/FreshPlugin.h"
+
 namespace Tarvik::Integration {
+
 namespace {
 
 /// The names that the plug-in owns or listens to without a window.
@@ -55,7 +56,9 @@ TEST(ExportCallsTest, OrderOfTheStartCallsDoesNotMatter) {
         EXPECT_TRUE(HoldsForFreshPlugin(SEAPLAN_LIBRARY,
                                         [&order](const LoadedPlugin& plugin) {
                                             const auto accepts = [&plugin](int call) {
-                                                if (call == 0) return plugin.info() != nullptr;
+                                                if (call == 0) {
+                                                    return plugin.info() != nullptr;
+                                                }
                                                 return call == 1 ? plugin.checkEnvironment() : plugin.load();
                                             };
                                             return std::all_of(order.begin(), order.end(), accepts) &&

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
-
 #include <cstdio>
 #include <memory>
 #include <set>
 #include <sstream>
 #include <string>
 
+#include <gtest/gtest.h>
+
 namespace Tarvik::Integration {
+
 namespace {
 
 std::string outputOf(const std::string& command) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/MainViewFactory.h"
-
 #include <stdexcept>
+
+#include "seaplan/plugin/MainViewFactory.h"
 
 namespace Tarvik::Seaplan {
 

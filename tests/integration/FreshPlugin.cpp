@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tests/integration/FreshPlugin.h"
 
-#include <sys/wait.h>
-#include <tarvik/core/TrvKernel.h>
-#include <unistd.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <tarvik/core/TrvKernel.h>
 
 namespace fs = std::filesystem;
 

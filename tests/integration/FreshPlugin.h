@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/integration/TinyHost.h"
-
 #include <functional>
 #include <string>
+
+#include "tests/integration/TinyHost.h"
 
 namespace Tarvik::Integration {
 

@@ -3,6 +3,7 @@
 #include "tests/integration/TinyHost.h"
 
 namespace Tarvik::Integration {
+
 namespace {
 
 using Seaplan::PlanRequest;

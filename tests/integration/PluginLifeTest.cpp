@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/PlanService.h"
-#include "tests/integration/TinyHost.h"
+#include <cstdlib>
 
 #include <tarvik/core/TrvKernel.h>
 
-#include <cstdlib>
+#include "seaplan/plugin/PlanService.h"
+#include "tests/integration/TinyHost.h"
 
 namespace Tarvik::Integration {
+
 namespace {
 
 class PluginLifeTest : public TinyHost {};

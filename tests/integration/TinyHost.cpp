@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/integration/TinyHost.h"
 
-#include <dlfcn.h>
-
 #include <cstdlib>
+#include <dlfcn.h>
 #include <iostream>
 
 namespace Tarvik::Integration {

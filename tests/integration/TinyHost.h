@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <tarvik/core/PluginInfo.h>
+
 #include "testsupport/DataFolder.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/PortDictionary.h"
 #include "testsupport/RecordingHost.h"
-
-#include <gtest/gtest.h>
-#include <tarvik/core/PluginInfo.h>
-
-#include <string>
 
 namespace Tarvik::Integration {
 

@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/plan/PlanArguments.h"
 
-#include "host/client/plan/PortLookup.h"
-
-#include <tarvik/util/DateTimeUtl.h>
-#include <tarvik/util/StringUtl.h>
-
 #include <charconv>
 #include <cmath>
 #include <map>
 #include <string_view>
 
+#include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/StringUtl.h>
+
+#include "host/client/plan/PortLookup.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 constexpr std::string_view kPurposeCodes = "12BCDLOWYZ";
@@ -35,12 +36,14 @@ class Reader {
             if (!optionsEnded && word == "--") {
                 optionsEnded = true;
             } else if (!optionsEnded && word.starts_with("--")) {
-                option(word);
+                Option(word);
             } else {
                 parsed_.arguments.ports.push_back(word);
             }
         }
-        if (error_.empty()) finish();
+        if (error_.empty()) {
+            Finish();
+        }
         parsed_.error = error_;
         return parsed_;
     }
@@ -48,12 +51,12 @@ class Reader {
   private:
     using Handler = void (Reader::*)(const std::string&);
 
-    void option(const std::string& word) {
+    void Option(const std::string& word) {
         static const std::map<std::string, Handler> handlers{
-            {"--depart", &Reader::depart},   {"--zone", &Reader::zone},     {"--speed", &Reader::speed},
-            {"--weather", &Reader::weather}, {"--stay", &Reader::stay},     {"--purpose", &Reader::purpose},
-            {"--units", &Reader::units},     {"--format", &Reader::format}, {"--save", &Reader::save},
-            {"--picture", &Reader::picture}};
+            {"--depart", &Reader::Depart},   {"--zone", &Reader::Zone},     {"--speed", &Reader::Speed},
+            {"--weather", &Reader::Weather}, {"--stay", &Reader::Stay},     {"--purpose", &Reader::Purpose},
+            {"--units", &Reader::Units},     {"--format", &Reader::format}, {"--save", &Reader::Save},
+            {"--picture", &Reader::Picture}};
         const std::size_t equals = word.find('=');
         const auto handler = handlers.find(word.substr(0, equals));
         if (handler == handlers.end()) {
@@ -67,71 +70,76 @@ class Reader {
         }
     }
 
-    void bad(const std::string& option, const std::string& value, const std::string& good) {
+    void Bad(const std::string& option, const std::string& value, const std::string& good) {
         error_ = "Bad value " + Quoted(value) + " of " + option + ": give " + good + ".";
     }
 
-    void depart(const std::string& value) {
+    void Depart(const std::string& value) {
         parsed_.arguments.depart = Util::DateTimeUtl::Parse(value.size() == 16 ? value + ":00" : value);
         if (!parsed_.arguments.depart) {
-            bad("--depart", value,
+            Bad("--depart", value,
                 "a date and time that exist, as \"2026-12-01 08:00\" or \"2026-12-01 08:00:00\"");
         }
     }
 
-    void zone(const std::string& value) {
+    void Zone(const std::string& value) {
         if (!Util::DateTimeUtl::IsKnownZone(value)) {
-            bad("--zone", value,
+            Bad("--zone", value,
                 "a time zone's name, as \"China Standard Time\", \"Europe/Rotterdam\" or \"UTC\"");
         }
         parsed_.arguments.zone = value;
     }
 
-    void speed(const std::string& value) {
+    void Speed(const std::string& value) {
         const auto number = ReadNumber(value);
         if (!number || *number < kMinSpeedKnots || *number > kMaxSpeedKnots) {
-            return bad("--speed", value, "knots above 0, from 0.01 to 1000");
+            return Bad("--speed", value, "knots above 0, from 0.01 to 1000");
         }
         parsed_.arguments.speed = *number;
     }
 
-    void weather(const std::string& value) {
+    void Weather(const std::string& value) {
         const auto number = ReadNumber(value.ends_with("%") ? value.substr(0, value.size() - 1) : value);
         if (!number || *number < 0 || *number >= 100) {
-            return bad("--weather", value, "a percentage from 0 to below 100");
+            return Bad("--weather", value, "a percentage from 0 to below 100");
         }
         parsed_.arguments.weather = *number / 100.0;
     }
 
-    void stay(const std::string& value) {
+    void Stay(const std::string& value) {
         std::vector<std::string> pieces;
         Util::StringUtl::split(value, ",", pieces);
         for (const std::string& piece : pieces) {
             const auto number = ReadNumber(piece);
             if (!number || *number < 0 || *number > kMaxStayHours) {
-                return bad("--stay", piece,
+                return Bad("--stay", piece,
                            "hours in port from 0 to 10000, one for all ports or one for each");
             }
             parsed_.arguments.stays.push_back(*number);
         }
-        if (pieces.empty()) bad("--stay", value, "hours in port");
+        if (pieces.empty()) {
+            Bad("--stay", value, "hours in port");
+        }
     }
 
-    void purpose(const std::string& value) {
+    void Purpose(const std::string& value) {
         std::vector<std::string> pieces;
         Util::StringUtl::split(value, ",", pieces);
         for (std::string piece : pieces) {
-            if (piece.size() == 1 && piece[0] >= 'a' && piece[0] <= 'z')
+            if (piece.size() == 1 && piece[0] >= 'a' && piece[0] <= 'z') {
                 piece[0] = static_cast<char>(piece[0] - 32);
+            }
             if (piece.size() != 1 || kPurposeCodes.find(piece[0]) == std::string_view::npos) {
-                return bad("--purpose", piece, "codes out of 1, 2, B, C, D, L, O, W, Y, Z");
+                return Bad("--purpose", piece, "codes out of 1, 2, B, C, D, L, O, W, Y, Z");
             }
             parsed_.arguments.purposes.push_back(piece);
         }
-        if (pieces.empty()) bad("--purpose", value, "codes out of 1, 2, B, C, D, L, O, W, Y, Z");
+        if (pieces.empty()) {
+            Bad("--purpose", value, "codes out of 1, 2, B, C, D, L, O, W, Y, Z");
+        }
     }
 
-    void units(const std::string& value) {
+    void Units(const std::string& value) {
         PlanArguments& to = parsed_.arguments;
         const std::map<std::string, std::pair<std::string*, const char*>> known{
             {"kts", {&to.speedUnit, "kts"}},  {"kph", {&to.speedUnit, "KPH"}},
@@ -141,10 +149,14 @@ class Reader {
         Util::StringUtl::split(value, ",", pieces);
         for (const std::string& piece : pieces) {
             const auto unit = known.find(FoldCase(piece));
-            if (unit == known.end()) return bad("--units", piece, "any of kts or kph, nm or km, hour or day");
+            if (unit == known.end()) {
+                return Bad("--units", piece, "any of kts or kph, nm or km, hour or day");
+            }
             *unit->second.first = unit->second.second;
         }
-        if (pieces.empty()) bad("--units", value, "any of kts or kph, nm or km, hour or day");
+        if (pieces.empty()) {
+            Bad("--units", value, "any of kts or kph, nm or km, hour or day");
+        }
     }
 
     void format(const std::string& value) {
@@ -153,46 +165,56 @@ class Reader {
                                                              {"csv", PlanFormat::Csv},
                                                              {"geojson", PlanFormat::GeoJson}};
         const auto found = known.find(FoldCase(value));
-        if (found == known.end()) return bad("--format", value, "table, json, csv or geojson");
+        if (found == known.end()) {
+            return Bad("--format", value, "table, json, csv or geojson");
+        }
         parsed_.arguments.format = found->second;
     }
 
-    void save(const std::string& value) {
+    void Save(const std::string& value) {
         const std::size_t slash = value.find('/');
         if (slash == std::string::npos || slash == 0 || slash + 1 == value.size()) {
-            return bad("--save", value, "CATEGORY/VOYAGE");
+            return Bad("--save", value, "CATEGORY/VOYAGE");
         }
         parsed_.arguments.saveCategory = value.substr(0, slash);
         parsed_.arguments.saveVoyage = value.substr(slash + 1);
     }
 
-    void picture(const std::string& value) {
-        if (value.empty()) return bad("--picture", value, "a file name, as route.png");
+    void Picture(const std::string& value) {
+        if (value.empty()) {
+            return Bad("--picture", value, "a file name, as route.png");
+        }
         parsed_.arguments.picture = value;
     }
 
     /// One value counts for all ports; several belong to the ports in order, the rest takes `rest`.
     template <class T>
-    void spread(std::vector<T>& values, const char* option, const T& first, const T& rest) {
+    void Spread(std::vector<T>& values, const char* option, const T& first, const T& rest) {
         const std::size_t ports = parsed_.arguments.ports.size();
         if (values.size() > ports) {
             error_ = std::string("There are more values of ") + option + " than ports.";
             return;
         }
-        if (values.size() == 1) values.resize(ports, T(values.front()));
-        if (values.empty()) values.push_back(first);
+        if (values.size() == 1) {
+            values.resize(ports, T(values.front()));
+        }
+        if (values.empty()) {
+            values.push_back(first);
+        }
         values.resize(ports, rest);
     }
 
-    void finish() {
+    void Finish() {
         const auto& ports = parsed_.arguments.ports;
         if (ports.size() < 2) {
             error_ = ports.empty() ? "No ports given: name two or more. See plan --help."
                                    : "Only one port given, " + Quoted(ports[0]) + ": name two or more.";
             return;
         }
-        spread<double>(parsed_.arguments.stays, "--stay", 0.0, 0.0);
-        if (error_.empty()) spread<std::string>(parsed_.arguments.purposes, "--purpose", "L", "D");
+        Spread<double>(parsed_.arguments.stays, "--stay", 0.0, 0.0);
+        if (error_.empty()) {
+            Spread<std::string>(parsed_.arguments.purposes, "--purpose", "L", "D");
+        }
     }
 
     const std::vector<std::string>& words_;
@@ -207,7 +229,9 @@ std::optional<double> ReadNumber(const std::string& text) {
     double value = 0;
     const char* end = text.data() + text.size();
     const auto [stop, failed] = std::from_chars(text.data(), end, value);
-    if (failed != std::errc() || stop != end || !std::isfinite(value)) return std::nullopt;
+    if (failed != std::errc() || stop != end || !std::isfinite(value)) {
+        return std::nullopt;
+    }
     return value;
 }
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/plan/PlanCommand.h"
 
-#include "host/client/plan/PlanFormats.h"
-
 #include <utility>
 
+#include "host/client/plan/PlanFormats.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 std::string CandidateText(const Port& port) {
@@ -15,10 +16,14 @@ std::string CandidateText(const Port& port) {
 std::string MismatchText(const std::string& word, const PortMatch& match) {
     std::string text = match.kind == PortMatch::Kind::Ambiguous ? "The port \"" + word + "\" is ambiguous."
                                                                 : "Unknown port \"" + word + "\".";
-    if (match.candidates.empty()) return text + " Give a port's name, UN/LOCODE or id.";
+    if (match.candidates.empty()) {
+        return text + " Give a port's name, UN/LOCODE or id.";
+    }
     text += " Did you mean ";
     for (std::size_t i = 0; i < match.candidates.size(); ++i) {
-        if (i > 0) text += i + 1 == match.candidates.size() ? " or " : ", ";
+        if (i > 0) {
+            text += i + 1 == match.candidates.size() ? " or " : ", ";
+        }
         text += CandidateText(match.candidates[i]);
     }
     return text + "?";
@@ -28,12 +33,19 @@ PlanOutcome FailureOf(const Seaplan::PlanResult& plan, const std::string& reason
     const bool badInput = plan.code == Seaplan::PlanUnknownPort || plan.code == Seaplan::PlanTooFewPorts ||
                           plan.code == Seaplan::PlanNameMissing || plan.code == Seaplan::PlanNameTaken;
     const char* advice = "See that the data folder has space and can be written, then try again.";
-    if (badInput) advice = "Change the command and try again.";
-    if (plan.code == Seaplan::PlanNotConnected)
+    if (badInput) {
+        advice = "Change the command and try again.";
+    }
+    if (plan.code == Seaplan::PlanNotConnected) {
         advice = "Start the server or check its address in the preferences.";
-    if (plan.code == Seaplan::PlanNotCalculated) advice = "Try other ports, speed or weather.";
+    }
+    if (plan.code == Seaplan::PlanNotCalculated) {
+        advice = "Try other ports, speed or weather.";
+    }
     std::string why = plan.step;
-    if (!badInput && !reason.empty()) why += " (" + reason + ")";
+    if (!badInput && !reason.empty()) {
+        why += " (" + reason + ")";
+    }
     return {badInput ? kExitBadInput : kExitFailed, "The voyage was not planned: " + why + ". " + advice};
 }
 
@@ -45,8 +57,9 @@ PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lo
     std::string before;
     for (std::size_t i = 0; i < arguments.ports.size(); ++i) {
         const PortMatch match = lookup.Find(arguments.ports[i]);
-        if (match.kind != PortMatch::Kind::Found)
+        if (match.kind != PortMatch::Kind::Found) {
             return {kExitBadInput, MismatchText(arguments.ports[i], match)};
+        }
         if (match.port.id == before) {
             return {kExitBadInput,
                     "The port \"" + arguments.ports[i] + "\" follows itself: leave it out once."};
@@ -56,7 +69,9 @@ PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lo
                                  static_cast<float>(arguments.weather),
                                  static_cast<float>(arguments.stays[i])});
     }
-    if (arguments.depart) request.start = *arguments.depart;
+    if (arguments.depart) {
+        request.start = *arguments.depart;
+    }
     request.save = !arguments.saveVoyage.empty();
     request.category = arguments.saveCategory;
     request.voyage = arguments.saveVoyage;
@@ -70,7 +85,9 @@ PlanOutcome CallPlanService(const Seaplan::PlanRequest& request, const Seaplan::
         return {kExitFailed,
                 "The voyage plug-in is not loaded. Build or install the client again; --verbose tells why."};
     }
-    if (result->code == Seaplan::PlanDone) return {};
+    if (result->code == Seaplan::PlanDone) {
+        return {};
+    }
     return FailureOf(*result, services ? services->LastFailure() : std::string());
 }
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "host/client/plan/PlanArguments.h"
 #include "host/client/plan/PortLookup.h"
 #include "host/client/services/HostServices.h"
 #include "host/client/services/LanguageFiles.h"
 #include "seaplan/plugin/PlanService.h"
-
-#include <string>
-#include <vector>
 
 namespace Tarvik::Client {
 

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/plan/PlanFormats.h"
 
-#include "seaplan/calculation/NumberForms.h"
+#include <algorithm>
+
+#include <nlohmann/json.hpp>
 
 #include <tarvik/util/StringUtl.h>
 
-#include <algorithm>
-#include <nlohmann/json.hpp>
+#include "seaplan/calculation/NumberForms.h"
 
 namespace Tarvik::Client {
+
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -76,7 +78,9 @@ std::vector<std::string> Header(const Seaplan::UnitSet& units, const LanguageFil
     std::vector<std::string> header;
     for (const auto& [key, unit] : columns) {
         std::string text = texts.Text("Seaplan", std::string("IDS_PORTCALL_") + key);
-        if (!unit.empty()) text.append(" (").append(unit).append(")");
+        if (!unit.empty()) {
+            text.append(" (").append(unit).append(")");
+        }
         header.push_back(std::move(text));
     }
     return header;
@@ -86,7 +90,9 @@ std::vector<std::string> TotalsCells(const PortCallRows& shown) {
     std::vector<std::string> cells(Seaplan::PortCallColumnCount);
     cells[Seaplan::ColOrder] = "RES";
     Seaplan::ScheduleTotals totals;
-    if (!Seaplan::TotalsOf(shown, totals)) return cells;
+    if (!Seaplan::TotalsOf(shown, totals)) {
+        return cells;
+    }
     cells[Seaplan::ColSteamTime] = Seaplan::OneDecimal(totals.steamTime);
     cells[Seaplan::ColPortTime] = Seaplan::TwoDecimals(totals.portTime);
     cells[Seaplan::ColEta] = TimeText(totals.eta);
@@ -96,10 +102,14 @@ std::vector<std::string> TotalsCells(const PortCallRows& shown) {
 }
 
 std::string CsvField(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+    if (text.find_first_of(",\"\r\n") == std::string::npos) {
+        return text;
+    }
     std::string quoted = "\"";
     for (const char c : text) {
-        if (c == '"') quoted += '"';
+        if (c == '"') {
+            quoted += '"';
+        }
         quoted += c;
     }
     return quoted + "\"";
@@ -178,7 +188,9 @@ std::string PlanGeoJson(const Seaplan::PlanResult& plan) {
     for (const Seaplan::PosBookPoint& point : plan.book) {
         const bool named = point.pst == Seaplan::PortPoint || point.pst == Seaplan::LongIdRoutePoint ||
                            point.pst == Seaplan::ShortIdRoutePoint;
-        if (named) features.push_back(PointFeature(point));
+        if (named) {
+            features.push_back(PointFeature(point));
+        }
     }
     return Dump(Json{{"type", "FeatureCollection"}, {"features", features}});
 }
@@ -199,7 +211,9 @@ std::string PlanCsv(const Seaplan::PlanResult& plan, const Seaplan::UnitSet& uni
                     const LanguageFiles& texts) {
     std::string out;
     for (const auto& row : PlanCells(plan, units, texts)) {
-        for (std::size_t i = 0; i < row.size(); ++i) out += (i == 0 ? "" : ",") + CsvField(row[i]);
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            out += (i == 0 ? "" : ",") + CsvField(row[i]);
+        }
         out += "\n";
     }
     return out;
@@ -210,8 +224,9 @@ std::string PlanTable(const Seaplan::PlanResult& plan, const Seaplan::UnitSet& u
     const auto table = PlanCells(plan, units, texts);
     std::vector<int> widths(Seaplan::PortCallColumnCount, 0);
     for (const auto& row : table) {
-        for (std::size_t i = 0; i < row.size(); ++i)
+        for (std::size_t i = 0; i < row.size(); ++i) {
             widths[i] = std::max(widths[i], StringUtl::Width(row[i]));
+        }
     }
     std::string out = texts.Text("Client", "ZONE_NAME") + ": " + zone + "\n";
     for (const auto& row : table) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "host/client/services/LanguageFiles.h"
 #include "seaplan/calculation/Units.h"
 #include "seaplan/plugin/PlanService.h"
-
-#include <string>
-#include <vector>
 
 namespace Tarvik::Client {
 

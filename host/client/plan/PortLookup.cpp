@@ -8,7 +8,9 @@ namespace Tarvik::Client {
 
 std::size_t EditDistance(const std::string& a, const std::string& b) {
     std::vector<std::size_t> beforeLast(b.size() + 1), last(b.size() + 1), row(b.size() + 1);
-    for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
+    for (std::size_t j = 0; j <= b.size(); ++j) {
+        row[j] = j;
+    }
     for (std::size_t i = 1; i <= a.size(); ++i) {
         beforeLast.swap(last);
         last.swap(row);
@@ -27,27 +29,35 @@ std::size_t EditDistance(const std::string& a, const std::string& b) {
 std::string FoldCase(const std::string& text) {
     std::string folded = text;
     for (char& c : folded) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+        if (c >= 'A' && c <= 'Z') {
+            c = static_cast<char>(c - 'A' + 'a');
+        }
     }
     return folded;
 }
 
 PortLookup::PortLookup(std::vector<Port> ports) : ports_(std::move(ports)) {
     folded_.reserve(ports_.size());
-    for (const Port& port : ports_) folded_.push_back(FoldCase(port.name));
+    for (const Port& port : ports_) {
+        folded_.push_back(FoldCase(port.name));
+    }
 }
 
-void PortLookup::preferBusy(std::vector<std::size_t>& hits) const {
+void PortLookup::PreferBusy(std::vector<std::size_t>& hits) const {
     const auto isQuiet = [this](std::size_t i) {
         return ports_[i].nameCn.empty() || ports_[i].nameCn == ports_[i].name;
     };
-    if (!std::all_of(hits.begin(), hits.end(), isQuiet)) std::erase_if(hits, isQuiet);
+    if (!std::all_of(hits.begin(), hits.end(), isQuiet)) {
+        std::erase_if(hits, isQuiet);
+    }
 }
 
-PortMatch PortLookup::settle(std::vector<std::size_t> hits) const {
+PortMatch PortLookup::Settle(std::vector<std::size_t> hits) const {
     const Port& first = ports_[hits.front()];
     const auto isFirst = [&](std::size_t i) { return ports_[i].x == first.x && ports_[i].y == first.y; };
-    if (std::all_of(hits.begin(), hits.end(), isFirst)) hits.resize(1);
+    if (std::all_of(hits.begin(), hits.end(), isFirst)) {
+        hits.resize(1);
+    }
     PortMatch match;
     if (hits.size() == 1) {
         match.kind = PortMatch::Kind::Found;
@@ -68,23 +78,35 @@ PortMatch PortLookup::Find(const std::string& word) const {
     std::vector<std::size_t> names, codes, ids, bareNames, beginnings;
     for (std::size_t i = 0; i < ports_.size() && !folded.empty(); ++i) {
         const Port& port = ports_[i];
-        if (folded_[i] == folded || port.nameCn == word) names.push_back(i);
-        if (!port.unlocode.empty() && FoldCase(port.unlocode) == code) codes.push_back(i);
-        if (port.id == word) ids.push_back(i);
-        if (folded_[i].starts_with(folded + ", ")) bareNames.push_back(i);
-        if (folded_[i].starts_with(folded) || port.nameCn.starts_with(word)) beginnings.push_back(i);
+        if (folded_[i] == folded || port.nameCn == word) {
+            names.push_back(i);
+        }
+        if (!port.unlocode.empty() && FoldCase(port.unlocode) == code) {
+            codes.push_back(i);
+        }
+        if (port.id == word) {
+            ids.push_back(i);
+        }
+        if (folded_[i].starts_with(folded + ", ")) {
+            bareNames.push_back(i);
+        }
+        if (folded_[i].starts_with(folded) || port.nameCn.starts_with(word)) {
+            beginnings.push_back(i);
+        }
     }
-    preferBusy(names);
-    preferBusy(bareNames);
+    PreferBusy(names);
+    PreferBusy(bareNames);
     for (std::vector<std::size_t>* hits : {&names, &codes, &ids, &bareNames, &beginnings}) {
-        if (!hits->empty()) return settle(std::move(*hits));
+        if (!hits->empty()) {
+            return Settle(std::move(*hits));
+        }
     }
     PortMatch match;
-    match.candidates = nearest(folded);
+    match.candidates = Nearest(folded);
     return match;
 }
 
-std::vector<Port> PortLookup::nearest(const std::string& folded) const {
+std::vector<Port> PortLookup::Nearest(const std::string& folded) const {
     std::vector<std::pair<std::size_t, std::size_t>> scored;
     for (std::size_t i = 0; i < ports_.size(); ++i) {
         // A slip in the beginning of a long name is as near as one in the whole of a short name.
@@ -97,7 +119,9 @@ std::vector<Port> PortLookup::nearest(const std::string& folded) const {
     std::vector<Port> near;
     const std::size_t limit = std::max<std::size_t>(5, folded.size());
     for (const auto& [score, index] : scored) {
-        if (near.size() == kMaxCandidates || score > limit) break;
+        if (near.size() == kMaxCandidates || score > limit) {
+            break;
+        }
         near.push_back(ports_[index]);
     }
     return near;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/services/PortTable.h"
-
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include "host/client/services/PortTable.h"
 
 namespace Tarvik::Client {
 
@@ -37,9 +37,9 @@ class PortLookup {
     PortMatch Find(const std::string& word) const;
 
   private:
-    PortMatch settle(std::vector<std::size_t> hits) const;
-    void preferBusy(std::vector<std::size_t>& hits) const;
-    std::vector<Port> nearest(const std::string& folded) const;
+    PortMatch Settle(std::vector<std::size_t> hits) const;
+    void PreferBusy(std::vector<std::size_t>& hits) const;
+    std::vector<Port> Nearest(const std::string& folded) const;
 
     std::vector<Port> ports_;
     std::vector<std::string> folded_;  ///< names in lower case, by port

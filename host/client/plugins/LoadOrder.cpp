@@ -5,6 +5,7 @@
 #include <map>
 
 namespace Tarvik::Client {
+
 namespace {
 
 enum class Mark { Fresh, Open, Placed, Rejected };
@@ -18,69 +19,92 @@ class Resolver {
     LoadOrder Run() {
         for (std::size_t i = 0; i < records_.size(); ++i) {
             if (!byName_.emplace(records_[i].name, i).second) {
-                reject(i, "another plug-in of this name is loaded from " +
+                Reject(i, "another plug-in of this name is loaded from " +
                               records_[byName_[records_[i].name]].file);
             }
         }
-        for (std::size_t i = 0; i < records_.size(); ++i) place(i);
+        for (std::size_t i = 0; i < records_.size(); ++i) {
+            Place(i);
+        }
         return std::move(result_);
     }
 
   private:
-    void reject(std::size_t index, const std::string& reason) {
-        if (marks_[index] == Mark::Rejected) return;
+    void Reject(std::size_t index, const std::string& reason) {
+        if (marks_[index] == Mark::Rejected) {
+            return;
+        }
         marks_[index] = Mark::Rejected;
         result_.rejected.push_back({index, records_[index].name, reason});
     }
 
-    void place(std::size_t index) {
-        if (marks_[index] != Mark::Fresh) return;
+    void Place(std::size_t index) {
+        if (marks_[index] != Mark::Fresh) {
+            return;
+        }
         const PluginRecord& record = records_[index];
-        if (!record.error.empty()) return reject(index, record.error);
+        if (!record.error.empty()) {
+            return Reject(index, record.error);
+        }
         marks_[index] = Mark::Open;
         path_.push_back(index);
         for (const Plugin::PluginDependency& need : record.dependencies) {
-            const std::string reason = meet(need);
-            if (marks_[index] == Mark::Rejected) break;
+            const std::string reason = Meet(need);
+            if (marks_[index] == Mark::Rejected) {
+                break;
+            }
             if (!reason.empty()) {
-                reject(index, reason);
+                Reject(index, reason);
                 break;
             }
         }
         path_.pop_back();
-        if (marks_[index] != Mark::Open) return;
+        if (marks_[index] != Mark::Open) {
+            return;
+        }
         marks_[index] = Mark::Placed;
         result_.order.push_back(index);
     }
 
     /// Places what is needed; the reason why it cannot be had, empty when it can.
-    std::string meet(const Plugin::PluginDependency& need) {
-        if (need.name == kHostName) return host_.AtLeast(need.version) ? "" : tooOld(need, host_);
+    std::string Meet(const Plugin::PluginDependency& need) {
+        if (need.name == kHostName) {
+            return host_.AtLeast(need.version) ? "" : TooOld(need, host_);
+        }
         const auto found = byName_.find(need.name);
-        if (found == byName_.end())
+        if (found == byName_.end()) {
             return "needs " + need.name + " " + VersionText(need.version) + ", which is missing";
+        }
         const std::size_t other = found->second;
         if (marks_[other] == Mark::Open) {
-            rejectCircle(other);
+            RejectCircle(other);
             return {};
         }
-        place(other);
-        if (marks_[other] == Mark::Rejected) return "needs " + need.name + ", which is left out";
-        if (!records_[other].version.AtLeast(need.version)) return tooOld(need, records_[other].version);
+        Place(other);
+        if (marks_[other] == Mark::Rejected) {
+            return "needs " + need.name + ", which is left out";
+        }
+        if (!records_[other].version.AtLeast(need.version)) {
+            return TooOld(need, records_[other].version);
+        }
         return {};
     }
 
-    static std::string tooOld(const Plugin::PluginDependency& need, const Core::Version& present) {
+    static std::string TooOld(const Plugin::PluginDependency& need, const Core::Version& present) {
         return "needs " + need.name + " " + VersionText(need.version) + " or newer, present is " +
                VersionText(present);
     }
 
-    void rejectCircle(std::size_t from) {
+    void RejectCircle(std::size_t from) {
         const auto begin = std::find(path_.begin(), path_.end(), from);
         std::string circle;
-        for (auto it = begin; it != path_.end(); ++it) circle += records_[*it].name + " > ";
+        for (auto it = begin; it != path_.end(); ++it) {
+            circle += records_[*it].name + " > ";
+        }
         circle += records_[from].name;
-        for (auto it = begin; it != path_.end(); ++it) reject(*it, "depends on itself: " + circle);
+        for (auto it = begin; it != path_.end(); ++it) {
+            Reject(*it, "depends on itself: " + circle);
+        }
     }
 
     const std::vector<PluginRecord>& records_;
@@ -95,8 +119,12 @@ class Resolver {
 
 std::string VersionText(const Core::Version& version) {
     std::string text = std::to_string(version.major) + "." + std::to_string(version.minor);
-    if (version.build >= 0) text += "." + std::to_string(version.build);
-    if (version.revision >= 0) text += "." + std::to_string(version.revision);
+    if (version.build >= 0) {
+        text += "." + std::to_string(version.build);
+    }
+    if (version.revision >= 0) {
+        text += "." + std::to_string(version.revision);
+    }
     return text;
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/core/PluginInfo.h>
-
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include <tarvik/core/PluginInfo.h>
 
 namespace Tarvik::Client {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/plugins/PluginLibrary.h"
 
-#include "host/client/plugins/LibraryFile.h"
-
 #include <dlfcn.h>
-
 #include <exception>
 
+#include "host/client/plugins/LibraryFile.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 /// Calls into a plug-in; an exception that crosses its border counts as its failure.
@@ -25,44 +25,54 @@ bool Guarded(const char* what, std::string& error, Function call) {
 
 }  // namespace
 
-void* PluginLibrary::symbol(const char* name, std::string& error) const {
+void* PluginLibrary::Symbol(const char* name, std::string& error) const {
     void* found = dlsym(handle_, name);
-    if (!found && error.empty()) error = std::string("the export ") + name + " is missing";
+    if (!found && error.empty()) {
+        error = std::string("the export ") + name + " is missing";
+    }
     return found;
 }
 
 bool PluginLibrary::Open(const std::string& file, std::string& error) {
     error = FaultOfLibraryFile(file);
-    if (!error.empty()) return false;
+    if (!error.empty()) {
+        return false;
+    }
     handle_ = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     if (!handle_) {
         const char* text = dlerror();
         error = std::string("cannot be opened as a library: ") + (text ? text : file.c_str());
         return false;
     }
-    load_ = reinterpret_cast<bool (*)()>(symbol("Load", error));
-    unLoad_ = reinterpret_cast<bool (*)()>(symbol("UnLoad", error));
-    info_ = reinterpret_cast<Plugin::CPluginInfo* (*)()>(symbol("PluginInfo", error));
-    init_ = reinterpret_cast<void (*)()>(symbol("InitPlugin", error));
-    suiteLoaded_ = reinterpret_cast<void (*)()>(symbol("SuiteLoaded", error));
-    checkEnvironment_ = reinterpret_cast<bool (*)()>(symbol("CheckEnvironment", error));
+    load_ = reinterpret_cast<bool (*)()>(Symbol("Load", error));
+    unLoad_ = reinterpret_cast<bool (*)()>(Symbol("UnLoad", error));
+    info_ = reinterpret_cast<Plugin::CPluginInfo* (*)()>(Symbol("PluginInfo", error));
+    init_ = reinterpret_cast<void (*)()>(Symbol("InitPlugin", error));
+    suiteLoaded_ = reinterpret_cast<void (*)()>(Symbol("SuiteLoaded", error));
+    checkEnvironment_ = reinterpret_cast<bool (*)()>(Symbol("CheckEnvironment", error));
     return error.empty();
 }
 
 const Plugin::CPluginInfo* PluginLibrary::Info(std::string& error) const {
     const Plugin::CPluginInfo* info = nullptr;
     Guarded("PluginInfo", error, [&] { return (info = info_()) != nullptr; });
-    if (!info && error.empty()) error = "it gives no description record";
+    if (!info && error.empty()) {
+        error = "it gives no description record";
+    }
     return info;
 }
 
 bool PluginLibrary::Load(std::string& error) const {
     if (!Guarded("CheckEnvironment", error, checkEnvironment_)) {
-        if (error.empty()) error = "it refuses this environment";
+        if (error.empty()) {
+            error = "it refuses this environment";
+        }
         return false;
     }
     if (!Guarded("Load", error, load_)) {
-        if (error.empty()) error = "its Load reports a failure";
+        if (error.empty()) {
+            error = "its Load reports a failure";
+        }
         return false;
     }
     return true;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/core/PluginInfo.h>
-
 #include <string>
+
+#include <tarvik/core/PluginInfo.h>
 
 namespace Tarvik::Client {
 
@@ -32,7 +32,7 @@ class PluginLibrary {
     static const char* Suffix();
 
   private:
-    void* symbol(const char* name, std::string& error) const;
+    void* Symbol(const char* name, std::string& error) const;
 
     void* handle_ = nullptr;
     bool (*load_)() = nullptr;

@@ -13,19 +13,20 @@ std::vector<std::string> PluginLoader::FindLibraries(const std::string& folder) 
     std::error_code failed;
     for (fs::directory_iterator it(folder, failed), end; !failed && it != end; it.increment(failed)) {
         const fs::path& path = it->path();
-        if (path.extension() == PluginLibrary::Suffix() && path.stem() != "libtarvik")
+        if (path.extension() == PluginLibrary::Suffix() && path.stem() != "libtarvik") {
             files.push_back(path.string());
+        }
     }
     std::sort(files.begin(), files.end());
     return files;
 }
 
-void PluginLoader::fail(LoadedPlugin& plugin, const std::string& error) {
+void PluginLoader::Fail(LoadedPlugin& plugin, const std::string& error) {
     plugin.state = PluginState::Failed;
     plugin.error = error;
 }
 
-void PluginLoader::read(const std::string& file) {
+void PluginLoader::Read(const std::string& file) {
     LoadedPlugin plugin;
     plugin.record.file = file;
     plugin.record.name = fs::path(file).stem().string();
@@ -48,61 +49,78 @@ void PluginLoader::read(const std::string& file) {
     plugins_.push_back(std::move(plugin));
 }
 
-std::string PluginLoader::missingNeed(const LoadedPlugin& plugin) const {
+std::string PluginLoader::MissingNeed(const LoadedPlugin& plugin) const {
     const auto there = [&](const std::string& name) {
         return name == kHostName || std::any_of(loaded_.begin(), loaded_.end(), [&](std::size_t i) {
                    return plugins_[i].record.name == name && plugins_[i].state != PluginState::Failed;
                });
     };
     for (const Plugin::PluginDependency& need : plugin.record.dependencies) {
-        if (!there(need.name)) return need.name;
+        if (!there(need.name)) {
+            return need.name;
+        }
     }
     return {};
 }
 
-void PluginLoader::loadOne(std::size_t index) {
+void PluginLoader::LoadOne(std::size_t index) {
     LoadedPlugin& plugin = plugins_[index];
-    if (const std::string need = missingNeed(plugin); !need.empty())
-        return fail(plugin, "needs " + need + ", which could not be loaded");
+    if (const std::string need = MissingNeed(plugin); !need.empty()) {
+        return Fail(plugin, "needs " + need + ", which could not be loaded");
+    }
     plugin.state = PluginState::Resolved;
     std::string error;
-    if (!plugin.library->Load(error)) return fail(plugin, error);
+    if (!plugin.library->Load(error)) {
+        return Fail(plugin, error);
+    }
     plugin.state = PluginState::Loaded;
     loaded_.push_back(index);
 }
 
-void PluginLoader::stepAll(bool (PluginLibrary::*step)(std::string&) const, PluginState reached) {
+void PluginLoader::StepAll(bool (PluginLibrary::*step)(std::string&) const, PluginState reached) {
     std::string error;
     for (std::size_t index : loaded_) {
         LoadedPlugin& plugin = plugins_[index];
-        if (const std::string need = missingNeed(plugin); !need.empty()) {
-            fail(plugin, "needs " + need + ", which could not be started");
+        if (const std::string need = MissingNeed(plugin); !need.empty()) {
+            Fail(plugin, "needs " + need + ", which could not be started");
         } else if (!((*plugin.library).*step)(error)) {
-            fail(plugin, error);
+            Fail(plugin, error);
         } else {
             plugin.state = reached;
         }
     }
     const auto failed = [this](std::size_t index) { return plugins_[index].state == PluginState::Failed; };
     for (auto it = loaded_.rbegin(); it != loaded_.rend(); ++it) {
-        if (failed(*it)) plugins_[*it].library->UnLoad();
+        if (failed(*it)) {
+            plugins_[*it].library->UnLoad();
+        }
     }
     std::erase_if(loaded_, failed);
 }
 
 void PluginLoader::LoadAll(const std::vector<std::string>& files, const Core::Version& hostVersion) {
-    for (const std::string& file : files) read(file);
+    for (const std::string& file : files) {
+        Read(file);
+    }
     std::vector<PluginRecord> records;
-    for (const LoadedPlugin& plugin : plugins_) records.push_back(plugin.record);
+    for (const LoadedPlugin& plugin : plugins_) {
+        records.push_back(plugin.record);
+    }
     const LoadOrder plan = ResolveLoadOrder(records, hostVersion);
-    for (const RejectedPlugin& rejected : plan.rejected) fail(plugins_[rejected.index], rejected.reason);
-    for (std::size_t index : plan.order) loadOne(index);
-    stepAll(&PluginLibrary::Init, PluginState::Loaded);
-    stepAll(&PluginLibrary::SuiteLoaded, PluginState::Running);
+    for (const RejectedPlugin& rejected : plan.rejected) {
+        Fail(plugins_[rejected.index], rejected.reason);
+    }
+    for (std::size_t index : plan.order) {
+        LoadOne(index);
+    }
+    StepAll(&PluginLibrary::Init, PluginState::Loaded);
+    StepAll(&PluginLibrary::SuiteLoaded, PluginState::Running);
 }
 
 void PluginLoader::UnloadAll() {
-    for (auto it = loaded_.rbegin(); it != loaded_.rend(); ++it) plugins_[*it].library->UnLoad();
+    for (auto it = loaded_.rbegin(); it != loaded_.rend(); ++it) {
+        plugins_[*it].library->UnLoad();
+    }
     loaded_.clear();
 }
 
@@ -115,7 +133,9 @@ bool PluginLoader::IsRunning(const std::string& name) const {
 std::vector<std::string> PluginLoader::Complaints() const {
     std::vector<std::string> lines;
     for (const LoadedPlugin& plugin : plugins_) {
-        if (plugin.state == PluginState::Failed) lines.push_back(plugin.record.name + ": " + plugin.error);
+        if (plugin.state == PluginState::Failed) {
+            lines.push_back(plugin.record.name + ": " + plugin.error);
+        }
     }
     return lines;
 }

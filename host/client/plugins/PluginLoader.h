@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/plugins/LoadOrder.h"
-#include "host/client/plugins/PluginLibrary.h"
-
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "host/client/plugins/LoadOrder.h"
+#include "host/client/plugins/PluginLibrary.h"
 
 namespace Tarvik::Client {
 
@@ -46,13 +46,13 @@ class PluginLoader {
     std::vector<std::string> Complaints() const;
 
   private:
-    void read(const std::string& file);
+    void Read(const std::string& file);
     /// The first thing that the plug-in needs and that is not among the loaded, or empty.
-    std::string missingNeed(const LoadedPlugin& plugin) const;
-    void loadOne(std::size_t index);
+    std::string MissingNeed(const LoadedPlugin& plugin) const;
+    void LoadOne(std::size_t index);
     /// Takes one step with all that are loaded, in order; what fails, and all that needs it, is unloaded.
-    void stepAll(bool (PluginLibrary::*step)(std::string&) const, PluginState reached);
-    void fail(LoadedPlugin& plugin, const std::string& error);
+    void StepAll(bool (PluginLibrary::*step)(std::string&) const, PluginState reached);
+    void Fail(LoadedPlugin& plugin, const std::string& error);
 
     std::vector<LoadedPlugin> plugins_;
     std::vector<std::size_t> loaded_;

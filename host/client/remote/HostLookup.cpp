@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/remote/HostLookup.h"
 
-#include <netdb.h>
-
 #include <future>
 #include <memory>
 #include <thread>
 
+#include <netdb.h>
+
 namespace Tarvik::Client {
+
 namespace {
 
 using boost::asio::ip::tcp;
@@ -33,11 +34,15 @@ Found AskSystem(const std::string& host, std::uint16_t port) {
     addrinfo* list = nullptr;
     Found found;
     const int result = getaddrinfo(host.c_str(), nullptr, &wanted, &list);
-    if (result != 0) found.error = "the name " + host + " is not known: " + gai_strerror(result);
+    if (result != 0) {
+        found.error = "the name " + host + " is not known: " + gai_strerror(result);
+    }
     for (const addrinfo* entry = list; entry != nullptr; entry = entry->ai_next) {
         found.endpoints.push_back(EndpointOf(*entry, port));
     }
-    if (list != nullptr) freeaddrinfo(list);
+    if (list != nullptr) {
+        freeaddrinfo(list);
+    }
     return found;
 }
 
@@ -47,7 +52,9 @@ std::vector<tcp::endpoint> LookUpHost(const std::string& host, std::uint16_t por
                                       std::chrono::steady_clock::time_point deadline, std::string& error) {
     boost::system::error_code named;
     const auto address = boost::asio::ip::make_address(host, named);
-    if (!named) return {tcp::endpoint(address, port)};
+    if (!named) {
+        return {tcp::endpoint(address, port)};
+    }
     // The system's look-up cannot be broken off, so it has a thread that may be left behind.
     auto promise = std::make_shared<std::promise<Found>>();
     auto future = promise->get_future();

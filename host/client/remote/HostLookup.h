@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <boost/asio/ip/tcp.hpp>
-
 #include <chrono>
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include <boost/asio/ip/tcp.hpp>
 
 namespace Tarvik::Client {
 

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/remote/HttpClient.h"
 
-#include "host/client/remote/HostLookup.h"
+#include <charconv>
+#include <exception>
+#include <optional>
+#include <stdexcept>
+#include <utility>
 
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/co_spawn.hpp>
@@ -12,13 +16,10 @@
 #include <boost/beast/http.hpp>
 #include <boost/beast/ssl.hpp>
 
-#include <charconv>
-#include <exception>
-#include <optional>
-#include <stdexcept>
-#include <utility>
+#include "host/client/remote/HostLookup.h"
 
 namespace Tarvik::Client {
+
 namespace {
 
 namespace net = boost::asio;
@@ -46,12 +47,12 @@ class HttpClient::Core {
     using Plain = beast::tcp_stream;
     using Tls = beast::ssl_stream<beast::tcp_stream>;
 
-    void prepareTls();
-    bool isUsable();
+    void PrepareTls();
+    bool IsUsable();
     void close();
-    net::awaitable<void> talk(const Request& request, Parser& parser, Deadline deadline);
-    net::awaitable<void> connect(Deadline deadline);
-    beast::tcp_stream& tcp() { return plain_ ? *plain_ : beast::get_lowest_layer(*tls_); }
+    net::awaitable<void> Talk(const Request& request, Parser& parser, Deadline deadline);
+    net::awaitable<void> Connect(Deadline deadline);
+    beast::tcp_stream& Tcp() { return plain_ ? *plain_ : beast::get_lowest_layer(*tls_); }
 
     ServerUrl url_;
     std::chrono::milliseconds limit_;
@@ -64,8 +65,10 @@ class HttpClient::Core {
 };
 
 /// Made at the first use, since reading the system's certificates takes time.
-void HttpClient::Core::prepareTls() {
-    if (context_) return;
+void HttpClient::Core::PrepareTls() {
+    if (context_) {
+        return;
+    }
     net::ssl::context context(net::ssl::context::tls_client);
     boost::system::error_code failed;
     context.set_verify_mode(net::ssl::verify_peer);
@@ -75,18 +78,24 @@ void HttpClient::Core::prepareTls() {
     } else {
         context.load_verify_file(caFile_, failed);
     }
-    if (failed) throw std::runtime_error("the trusted certificates " + caFile_ + " cannot be read");
+    if (failed) {
+        throw std::runtime_error("the trusted certificates " + caFile_ + " cannot be read");
+    }
     context_.emplace(std::move(context));
 }
 
 /// Between two requests a server has nothing to say: anything to be read is the end of the connection.
-bool HttpClient::Core::isUsable() {
-    if (!plain_ && !tls_) return false;
-    if (!tcp().socket().is_open() || buffer_.size() > 0) return false;
+bool HttpClient::Core::IsUsable() {
+    if (!plain_ && !tls_) {
+        return false;
+    }
+    if (!Tcp().socket().is_open() || buffer_.size() > 0) {
+        return false;
+    }
     char byte = 0;
     boost::system::error_code state;
-    tcp().socket().non_blocking(true, state);
-    tcp().socket().receive(net::buffer(&byte, 1), net::socket_base::message_peek, state);
+    Tcp().socket().non_blocking(true, state);
+    Tcp().socket().receive(net::buffer(&byte, 1), net::socket_base::message_peek, state);
     return state == net::error::would_block;
 }
 
@@ -96,31 +105,37 @@ void HttpClient::Core::close() {
     buffer_.clear();
 }
 
-net::awaitable<void> HttpClient::Core::connect(Deadline deadline) {
+net::awaitable<void> HttpClient::Core::Connect(Deadline deadline) {
     std::string error;
     const auto endpoints = LookUpHost(url_.host, url_.port, deadline, error);
-    if (endpoints.empty()) throw std::runtime_error(error);
+    if (endpoints.empty()) {
+        throw std::runtime_error(error);
+    }
     if (url_.tls) {
-        prepareTls();
+        PrepareTls();
         tls_.emplace(io_, *context_);
         boost::system::error_code named;
         net::ip::make_address(url_.host, named);
-        if (named) SSL_set_tlsext_host_name(tls_->native_handle(), url_.host.c_str());
+        if (named) {
+            SSL_set_tlsext_host_name(tls_->native_handle(), url_.host.c_str());
+        }
     } else {
         plain_.emplace(io_);
     }
-    tcp().expires_at(deadline);
-    co_await tcp().async_connect(endpoints, net::use_awaitable);
-    tcp().socket().set_option(net::ip::tcp::no_delay(true));
-    if (tls_) co_await tls_->async_handshake(net::ssl::stream_base::client, net::use_awaitable);
+    Tcp().expires_at(deadline);
+    co_await Tcp().async_connect(endpoints, net::use_awaitable);
+    Tcp().socket().set_option(net::ip::tcp::no_delay(true));
+    if (tls_) {
+        co_await tls_->async_handshake(net::ssl::stream_base::client, net::use_awaitable);
+    }
 }
 
-net::awaitable<void> HttpClient::Core::talk(const Request& request, Parser& parser, Deadline deadline) {
-    if (!isUsable()) {
+net::awaitable<void> HttpClient::Core::Talk(const Request& request, Parser& parser, Deadline deadline) {
+    if (!IsUsable()) {
         close();
-        co_await connect(deadline);
+        co_await Connect(deadline);
     }
-    tcp().expires_at(deadline);
+    Tcp().expires_at(deadline);
     parser.body_limit(kMostAnswerBytes);
     if (tls_) {
         co_await http::async_write(*tls_, request, net::use_awaitable);
@@ -129,8 +144,10 @@ net::awaitable<void> HttpClient::Core::talk(const Request& request, Parser& pars
         co_await http::async_write(*plain_, request, net::use_awaitable);
         co_await http::async_read(*plain_, buffer_, parser, net::use_awaitable);
     }
-    tcp().expires_never();
-    if (!parser.get().keep_alive()) close();
+    Tcp().expires_never();
+    if (!parser.get().keep_alive()) {
+        close();
+    }
 }
 
 HttpAnswer HttpClient::Core::Send(const Request& request) {
@@ -139,11 +156,13 @@ HttpAnswer HttpClient::Core::Send(const Request& request) {
     Parser parser;
     std::exception_ptr failed;
     io_.restart();
-    net::co_spawn(io_, talk(request, parser, deadline),
+    net::co_spawn(io_, Talk(request, parser, deadline),
                   [&failed](std::exception_ptr thrown) { failed = std::move(thrown); });
     io_.run();
     try {
-        if (failed) std::rethrow_exception(failed);
+        if (failed) {
+            std::rethrow_exception(failed);
+        }
         answer.status = static_cast<int>(parser.get().result_int());
         const auto wait = parser.get()[http::field::retry_after];
         std::from_chars(wait.data(), wait.data() + wait.size(), answer.retryAfterSeconds);
@@ -169,7 +188,9 @@ HttpAnswer HttpClient::Post(const std::string& path, const std::string& contentT
     Request request(http::verb::post, path, 11);
     request.set(http::field::host, core_->Url().HostField());
     request.set(http::field::content_type, contentType);
-    if (!token.empty()) request.set(http::field::authorization, "Bearer " + token);
+    if (!token.empty()) {
+        request.set(http::field::authorization, "Bearer " + token);
+    }
     request.body() = body;
     request.prepare_payload();
     return core_->Send(request);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/remote/ServerUrl.h"
-
 #include <chrono>
 #include <memory>
 #include <string>
+
+#include "host/client/remote/ServerUrl.h"
 
 namespace Tarvik::Client {
 

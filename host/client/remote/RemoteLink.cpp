@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/remote/RemoteLink.h"
 
-#include "host/server/wire/Envelope.h"
-
-#include <nlohmann/json.hpp>
 #include <utility>
 
+#include <nlohmann/json.hpp>
+
+#include "host/server/wire/Envelope.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 constexpr const char* kJson = "application/json";
@@ -15,7 +17,9 @@ constexpr const char* kBytes = "application/octet-stream";
 /// The token of a login's answer; empty when there is none.
 std::string TokenOf(const std::string& body) {
     const nlohmann::json answer = nlohmann::json::parse(body, nullptr, false);
-    if (!answer.is_object()) return {};
+    if (!answer.is_object()) {
+        return {};
+    }
     const auto token = answer.find("token");
     return token != answer.end() && token->is_string() ? token->get<std::string>() : std::string();
 }
@@ -31,7 +35,9 @@ RemoteLink::RemoteLink(RemoteSettings settings) : settings_(std::move(settings))
 RemoteLink::~RemoteLink() = default;
 
 bool RemoteLink::Connect(std::string& error) {
-    if (IsConnected()) return true;
+    if (IsConnected()) {
+        return true;
+    }
     failure_.clear();
     if (!http_) {
         failure_ = "\"" + settings_.url + "\" is no address of a server; write https://HOST:PORT.";
@@ -39,20 +45,25 @@ bool RemoteLink::Connect(std::string& error) {
         const nlohmann::json login = {{"user", settings_.user}, {"password", settings_.password}};
         const std::string body = login.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
         const HttpAnswer answer = http_->Post("/v1/login", kJson, body, {});
-        if (answer.status == 200) token_ = TokenOf(answer.body);
-        if (token_.empty()) failure_ = loginFailure(answer);
+        if (answer.status == 200) {
+            token_ = TokenOf(answer.body);
+        }
+        if (token_.empty()) {
+            failure_ = LoginFailure(answer);
+        }
     }
     error = failure_;
     return failure_.empty();
 }
 
-std::string RemoteLink::loginFailure(const HttpAnswer& answer) const {
+std::string RemoteLink::LoginFailure(const HttpAnswer& answer) const {
     const std::string server = "The voyage server " + settings_.url;
     if (answer.status == 0) {
         return server + " does not answer (" + answer.failure + "). Check the address and the network.";
     }
-    if (answer.status == 401)
+    if (answer.status == 401) {
         return server + " refuses the user name or the password of " + settings_.user + ".";
+    }
     if (answer.status == 429) {
         return server + " has seen too many failed logins. Try again in " +
                std::to_string(answer.retryAfterSeconds) + " seconds.";
@@ -68,12 +79,14 @@ std::string RemoteLink::Exchange(const std::string& /*user*/, const Interface::V
         return {};
     }
     std::string_view text(request.Payload(), request.length);
-    if (text.ends_with('\0')) text.remove_suffix(1);
+    if (text.ends_with('\0')) {
+        text.remove_suffix(1);
+    }
     const std::string body = Server::WriteEnvelope({request.command, request.moduleWord, text});
-    return readReply(http_->Post("/v1/exchange", kBytes, body, token_));
+    return ReadReply(http_->Post("/v1/exchange", kBytes, body, token_));
 }
 
-std::string RemoteLink::readReply(const HttpAnswer& answer) {
+std::string RemoteLink::ReadReply(const HttpAnswer& answer) {
     const std::string server = "The voyage server " + settings_.url;
     if (answer.status == 0) {
         failure_ = server + " does not answer (" + answer.failure + ").";
@@ -94,7 +107,9 @@ std::string RemoteLink::readReply(const HttpAnswer& answer) {
 }
 
 void RemoteLink::Disconnect() {
-    if (IsConnected()) http_->Post("/v1/logout", kJson, "{}", token_);
+    if (IsConnected()) {
+        http_->Post("/v1/logout", kJson, "{}", token_);
+    }
     token_.clear();
 }
 

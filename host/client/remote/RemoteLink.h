@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/services/HostServices.h"
-#include "host/client/remote/HttpClient.h"
-
 #include <chrono>
 #include <memory>
 #include <string>
+
+#include "host/client/remote/HttpClient.h"
+#include "host/client/services/HostServices.h"
 
 namespace Tarvik::Client {
 
@@ -41,8 +41,8 @@ class RemoteLink : public ServerLink {
     const std::string& LastFailure() const { return failure_; }
 
   private:
-    std::string loginFailure(const HttpAnswer& answer) const;
-    std::string readReply(const HttpAnswer& answer);
+    std::string LoginFailure(const HttpAnswer& answer) const;
+    std::string ReadReply(const HttpAnswer& answer);
 
     RemoteSettings settings_;
     std::unique_ptr<HttpClient> http_;  ///< null when the address is of no known form

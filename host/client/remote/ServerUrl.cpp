@@ -5,12 +5,15 @@
 #include <string_view>
 
 namespace Tarvik::Client {
+
 namespace {
 
 bool TakeScheme(std::string_view& rest, ServerUrl& url) {
     for (const bool tls : {false, true}) {
         const std::string_view scheme = tls ? "https://" : "http://";
-        if (!rest.starts_with(scheme)) continue;
+        if (!rest.starts_with(scheme)) {
+            continue;
+        }
         rest.remove_prefix(scheme.size());
         url.tls = tls;
         url.port = tls ? 443 : 80;
@@ -22,7 +25,9 @@ bool TakeScheme(std::string_view& rest, ServerUrl& url) {
 bool TakeHost(std::string_view& rest, ServerUrl& url) {
     const bool bracketed = rest.starts_with('[');
     const std::size_t end = bracketed ? rest.find(']') : rest.find(':');
-    if (bracketed && end == std::string_view::npos) return false;
+    if (bracketed && end == std::string_view::npos) {
+        return false;
+    }
     url.host = rest.substr(bracketed ? 1 : 0, bracketed ? end - 1 : end);
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + (bracketed ? 1 : 0));
     return !url.host.empty() && url.host.find_first_of("/?#@ []") == std::string::npos;
@@ -33,14 +38,23 @@ bool TakeHost(std::string_view& rest, ServerUrl& url) {
 std::optional<ServerUrl> ServerUrl::Parse(const std::string& text) {
     ServerUrl url;
     std::string_view rest = text;
-    if (!TakeScheme(rest, url)) return std::nullopt;
-    if (rest.ends_with('/')) rest.remove_suffix(1);
-    if (!TakeHost(rest, url)) return std::nullopt;
-    if (rest.empty()) return url;
+    if (!TakeScheme(rest, url)) {
+        return std::nullopt;
+    }
+    if (rest.ends_with('/')) {
+        rest.remove_suffix(1);
+    }
+    if (!TakeHost(rest, url)) {
+        return std::nullopt;
+    }
+    if (rest.empty()) {
+        return url;
+    }
     const char* const end = rest.data() + rest.size();
     const auto read = std::from_chars(rest.data() + 1, end, url.port);
-    if (rest.front() != ':' || read.ec != std::errc() || read.ptr != end || url.port == 0)
+    if (rest.front() != ':' || read.ec != std::errc() || read.ptr != end || url.port == 0) {
         return std::nullopt;
+    }
     return url;
 }
 

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/services/AppFolders.h"
 
-#include "host/client/services/DataFiles.h"
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
+#include "host/client/services/DataFiles.h"
+
 namespace fs = std::filesystem;
 
 namespace Tarvik::Client {
+
 namespace {
 
 /// Bytes that a save of a long voyage may need at once. Less room than that counts as none, so that a save is
@@ -22,9 +23,12 @@ std::string Environment(const char* name) {
 }
 
 std::string UsualDataFolder() {
-    if (const std::string own = Environment("SEAPLAN_DATA"); !own.empty()) return own;
-    if (const std::string xdg = Environment("XDG_DATA_HOME"); !xdg.empty())
+    if (const std::string own = Environment("SEAPLAN_DATA"); !own.empty()) {
+        return own;
+    }
+    if (const std::string xdg = Environment("XDG_DATA_HOME"); !xdg.empty()) {
         return (fs::path(xdg) / "seaplan").string();
+    }
     const std::string home = Environment("HOME");
     return (fs::path(home.empty() ? "." : home) / ".local" / "share" / "seaplan").string();
 }
@@ -33,8 +37,9 @@ std::string UsualDataFolder() {
 /// differs.
 bool UpToDate(const fs::path& source, const fs::path& target) {
     std::error_code failed;
-    if (!fs::exists(target, failed) || fs::file_size(target, failed) != fs::file_size(source, failed))
+    if (!fs::exists(target, failed) || fs::file_size(target, failed) != fs::file_size(source, failed)) {
         return false;
+    }
     return !failed && fs::last_write_time(target, failed) >= fs::last_write_time(source, failed) && !failed;
 }
 
@@ -61,7 +66,7 @@ std::string AppFolders::BusinessData(const std::string& name) const {
     return (fs::path(data_) / "businessdata" / name).string();
 }
 
-bool AppFolders::probe(std::string& error) const {
+bool AppFolders::Probe(std::string& error) const {
     const fs::path file = fs::path(data_) / ".writable";
     bool good = false;
     {
@@ -81,7 +86,7 @@ bool AppFolders::probe(std::string& error) const {
     return good;
 }
 
-bool AppFolders::refresh(const std::string& name, const std::string& target, std::string& error) const {
+bool AppFolders::Refresh(const std::string& name, const std::string& target, std::string& error) const {
     const fs::path source = ShareFile(name);
     const fs::path file = BusinessData(target);
     std::error_code failed;
@@ -89,12 +94,18 @@ bool AppFolders::refresh(const std::string& name, const std::string& target, std
         error = "The shipped file " + source.string() + " is missing. Build or install the client again.";
         return false;
     }
-    if (UpToDate(source, file)) return true;
+    if (UpToDate(source, file)) {
+        return true;
+    }
     // A copy under another name, then a rename: a client that is killed here leaves no half file behind.
     const fs::path fresh = file.string() + ".new";
     fs::copy_file(source, fresh, fs::copy_options::overwrite_existing, failed);
-    if (!failed) fs::rename(fresh, file, failed);
-    if (!failed) return true;
+    if (!failed) {
+        fs::rename(fresh, file, failed);
+    }
+    if (!failed) {
+        return true;
+    }
     error = "The file " + file.string() + " cannot be written (" + failed.message() +
             "). Free some space or name another folder with --data DIR.";
     fs::remove(fresh, failed);
@@ -109,10 +120,12 @@ bool AppFolders::Prepare(std::string& error) const {
                 "). Make its place writable, or name another folder with --data DIR.";
         return false;
     }
-    if (!probe(error)) return false;
+    if (!Probe(error)) {
+        return false;
+    }
     return CheckDatabaseFile(ShareFile("trvdb.db"), error) && CheckLandFile(ShareFile("land.bin"), error) &&
-           refresh("trvdb.db", "trvdb.db", error) && refresh("land.bin", "land.bin", error) &&
-           refresh("ship.png", "seaplan/ship.png", error);
+           Refresh("trvdb.db", "trvdb.db", error) && Refresh("land.bin", "land.bin", error) &&
+           Refresh("ship.png", "seaplan/ship.png", error);
 }
 
 }  // namespace Tarvik::Client

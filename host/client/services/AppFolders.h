@@ -29,8 +29,8 @@ class AppFolders {
     bool Prepare(std::string& error) const;
 
   private:
-    bool probe(std::string& error) const;
-    bool refresh(const std::string& name, const std::string& target, std::string& error) const;
+    bool Probe(std::string& error) const;
+    bool Refresh(const std::string& name, const std::string& target, std::string& error) const;
 
     std::string share_;
     std::string data_;

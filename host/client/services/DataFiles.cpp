@@ -10,14 +10,16 @@
 namespace fs = std::filesystem;
 
 namespace Tarvik::Client {
+
 namespace {
 
 constexpr std::size_t kLandHead = 16;
 constexpr std::size_t kNetworkHead = 24;
 
 bool Told(bool whole, const std::string& path, std::string& error) {
-    if (!whole)
+    if (!whole) {
         error = "The data file " + path + " is missing or cut short. Build or install the client again.";
+    }
     return whole;
 }
 
@@ -44,7 +46,9 @@ bool CheckFramedFile(const std::string& path, const std::string& kind, std::size
     std::ifstream file(path, std::ios::binary);
     file.read(reinterpret_cast<char*>(head.data()), head.size());
     std::uint64_t payload = 0;
-    for (std::size_t i = head.size(); i-- > 8;) payload = (payload << 8U) | head[i];
+    for (std::size_t i = head.size(); i-- > 8;) {
+        payload = (payload << 8U) | head[i];
+    }
     std::error_code failed;
     const auto size = fs::file_size(path, failed);
     const bool whole = file && !failed && std::memcmp(head.data(), kind.data(), 8) == 0 &&

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/services/HostServices.h"
 
+#include <cstring>
+#include <utility>
+
+#include <nlohmann/json.hpp>
+
 #include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/Clock.h>
 
-#include <cstring>
-#include <nlohmann/json.hpp>
-#include <utility>
-
 namespace Tarvik::Client {
+
 namespace {
 
 using Interface::VoyServerRequest;
@@ -20,7 +22,9 @@ namespace Bus = Interface::Bus;
 VoyServerRequest* MakeReply(const VoyServerRequest& request, const std::string& text) {
     const std::size_t bytes = text.size() + 1;
     auto* reply = static_cast<VoyServerRequest*>(Core::AllocateBusBlock(sizeof(VoyServerRequest) + bytes));
-    if (!reply) return nullptr;
+    if (!reply) {
+        return nullptr;
+    }
     *reply = request;
     reply->length = static_cast<std::uint32_t>(bytes);
     std::memcpy(reply->Payload(), text.c_str(), bytes);
@@ -29,10 +33,14 @@ VoyServerRequest* MakeReply(const VoyServerRequest& request, const std::string& 
 
 /// The server's words when it refused; empty for every other reply.
 std::string RefusalOf(const std::string& reply) {
-    if (!reply.starts_with('{')) return {};
+    if (!reply.starts_with('{')) {
+        return {};
+    }
     const auto status = nlohmann::json::parse(reply, nullptr, false);
     const auto code = status.is_object() ? status.find("eid") : status.end();
-    if (code == status.end() || !code->is_number_integer() || *code == 0) return {};
+    if (code == status.end() || !code->is_number_integer() || *code == 0) {
+        return {};
+    }
     const auto words = status.find("emsg");
     return words != status.end() && words->is_string() ? words->get<std::string>()
                                                        : "code " + code->dump() + " of the server";
@@ -48,19 +56,19 @@ HostServices::HostServices(ServerLink& link, std::string localUser, std::string 
       complain_(std::move(complain)),
       wasConnected_(link.IsConnected()) {
     Util::Clock::SetLocalZone(timeZone_);
-    connectedEvent_.Set<&HostServices::onConnected>(this);
-    loginEvent_.Set<&HostServices::onLogin>(this);
-    userEvent_.Set<&HostServices::onUser>(this);
-    zoneEvent_.Set<&HostServices::onTimeZone>(this);
-    exchangeEvent_.Set<&HostServices::onExchange>(this);
-    offer(Bus::IsConnected.name, connectedEvent_);
-    offer(Bus::Login.name, loginEvent_);
-    offer(Bus::User.name, userEvent_);
-    offer(Bus::CurrentTimeZone.name, zoneEvent_);
-    offer(Bus::ServerExchange.name, exchangeEvent_);
+    connectedEvent_.Set<&HostServices::OnConnected>(this);
+    loginEvent_.Set<&HostServices::OnLogin>(this);
+    userEvent_.Set<&HostServices::OnUser>(this);
+    zoneEvent_.Set<&HostServices::OnTimeZone>(this);
+    exchangeEvent_.Set<&HostServices::OnExchange>(this);
+    Offer(Bus::IsConnected.name, connectedEvent_);
+    Offer(Bus::Login.name, loginEvent_);
+    Offer(Bus::User.name, userEvent_);
+    Offer(Bus::CurrentTimeZone.name, zoneEvent_);
+    Offer(Bus::ServerExchange.name, exchangeEvent_);
 }
 
-void HostServices::offer(const char* name, Core::TEvent& event) {
+void HostServices::Offer(const char* name, Core::TEvent& event) {
     Core::TrvKernel* kernel = Core::TrvKernel::Instance();
     kernel->CreateTrvService(name, this, "", "", nullptr);
     kernel->BindTrvService(name, &event);
@@ -89,53 +97,59 @@ void HostServices::LogOut() {
     Interface::Raise<void>(Bus::Logout, nullptr);
     link_->LogOut();
     lastFailure_.clear();
-    noteConnection();
+    NoteConnection();
 }
 
 void HostServices::SetLink(ServerLink& link) {
     Interface::Raise<void>(Bus::Logout, nullptr);
     link_ = &link;
     lastFailure_.clear();
-    noteConnection();
+    NoteConnection();
 }
 
-void HostServices::noteFailure(const std::string& failure) {
+void HostServices::NoteFailure(const std::string& failure) {
     lastFailure_ = failure;
-    if (!failure.empty() && complain_) complain_(failure);
+    if (!failure.empty() && complain_) {
+        complain_(failure);
+    }
 }
 
-void HostServices::noteConnection() {
+void HostServices::NoteConnection() {
     const bool now = link_->IsConnected();
-    if (std::exchange(wasConnected_, now) != now && changed_) changed_();
+    if (std::exchange(wasConnected_, now) != now && changed_) {
+        changed_();
+    }
 }
 
-void* HostServices::onConnected(void* /*input*/) {
+void* HostServices::OnConnected(void* /*input*/) {
     connected_ = link_->IsConnected() ? 1 : 0;
     return &connected_;
 }
 
-void* HostServices::onLogin(void* /*input*/) {
+void* HostServices::OnLogin(void* /*input*/) {
     std::string error;
-    noteFailure(link_->Connect(error) ? std::string() : error);
-    noteConnection();
+    NoteFailure(link_->Connect(error) ? std::string() : error);
+    NoteConnection();
     return nullptr;
 }
 
-void* HostServices::onUser(void* /*input*/) {
+void* HostServices::OnUser(void* /*input*/) {
     user_ = User();
     return user_.empty() ? nullptr : &user_;
 }
 
-void* HostServices::onTimeZone(void* /*input*/) {
+void* HostServices::OnTimeZone(void* /*input*/) {
     return &timeZone_;
 }
 
-void* HostServices::onExchange(void* input) {
+void* HostServices::OnExchange(void* input) {
     const auto* request = static_cast<const VoyServerRequest*>(input);
-    if (!request || request->length > Interface::kMaxPayloadBytes) return nullptr;
+    if (!request || request->length > Interface::kMaxPayloadBytes) {
+        return nullptr;
+    }
     const std::string text = link_->Exchange(User(), *request);
-    noteFailure(text.empty() ? link_->Failure() : RefusalOf(text));
-    noteConnection();
+    NoteFailure(text.empty() ? link_->Failure() : RefusalOf(text));
+    NoteConnection();
     return text.empty() ? nullptr : MakeReply(*request, text);
 }
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/services/ServerLink.h"
+#include <functional>
+#include <string>
 
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/ServerRequest.h>
 
-#include <functional>
-#include <string>
+#include "host/client/services/ServerLink.h"
 
 namespace Tarvik::Client {
 
@@ -40,14 +40,14 @@ class HostServices : public Core::TObject {
     void OnConnectionChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
   private:
-    void offer(const char* name, Core::TEvent& event);
-    void noteFailure(const std::string& failure);
-    void noteConnection();
-    void* onConnected(void* input);
-    void* onLogin(void* input);
-    void* onUser(void* input);
-    void* onTimeZone(void* input);
-    void* onExchange(void* input);
+    void Offer(const char* name, Core::TEvent& event);
+    void NoteFailure(const std::string& failure);
+    void NoteConnection();
+    void* OnConnected(void* input);
+    void* OnLogin(void* input);
+    void* OnUser(void* input);
+    void* OnTimeZone(void* input);
+    void* OnExchange(void* input);
 
     ServerLink* link_;
     std::string localUser_;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/LoadString.h>
-
 #include <map>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <tarvik/interface/LoadString.h>
 
 namespace Tarvik::Client {
 

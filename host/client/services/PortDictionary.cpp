@@ -2,6 +2,7 @@
 #include "host/client/services/PortDictionary.h"
 
 namespace Tarvik::Client {
+
 namespace {
 
 constexpr const char* kPointsPath = "/points";

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/services/PortTable.h"
-
-#include <tarvik/interface/ValueDictionary.h>
-
 #include <string>
 #include <unordered_map>
 #include <vector>
+
+#include <tarvik/interface/ValueDictionary.h>
+
+#include "host/client/services/PortTable.h"
 
 namespace Tarvik::Client {
 

@@ -5,6 +5,7 @@
 #include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Client {
+
 namespace {
 
 std::string Field(const Util::CppSQLite3Query& row, int column) {
@@ -14,7 +15,9 @@ std::string Field(const Util::CppSQLite3Query& row, int column) {
 
 bool HasUnlocodes(Util::CppSQLite3DB& database) {
     for (auto row = database.execQuery("pragma table_info(t_point)"); !row.eof(); row.nextRow()) {
-        if (Field(row, 1) == "unlocode") return true;
+        if (Field(row, 1) == "unlocode") {
+            return true;
+        }
     }
     return false;
 }
@@ -40,8 +43,9 @@ bool ReadPorts(const std::string& databaseFile, std::vector<Port>& ports, std::s
         ports.clear();
         return false;
     }
-    if (ports.empty())
+    if (ports.empty()) {
         error = "The port table " + databaseFile + " holds no ports. Build or install the client again.";
+    }
     return !ports.empty();
 }
 

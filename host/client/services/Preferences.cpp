@@ -1,24 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/services/Preferences.h"
 
-#include "host/client/services/LanguageFiles.h"
-
-#include <tarvik/util/DateTimeUtl.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+
 #include <nlohmann/json.hpp>
 
+#include <tarvik/util/DateTimeUtl.h>
+
+#include "host/client/services/LanguageFiles.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 void Take(const nlohmann::json& root, const char* key, std::string& field,
           bool (*valid)(const std::string&)) {
     const auto member = root.find(key);
-    if (member == root.end() || !member->is_string()) return;
+    if (member == root.end() || !member->is_string()) {
+        return;
+    }
     const auto text = member->get<std::string>();
-    if (valid(text)) field = text;
+    if (valid(text)) {
+        field = text;
+    }
 }
 
 }  // namespace
@@ -27,7 +33,9 @@ Preferences Preferences::Read(const std::string& file) {
     Preferences read;
     std::ifstream in(file, std::ios::binary);
     const auto root = in ? nlohmann::json::parse(in, nullptr, false) : nlohmann::json();
-    if (!root.is_object()) return read;
+    if (!root.is_object()) {
+        return read;
+    }
     Take(root, "language", read.language, [](const std::string& text) {
         const auto& offered = LanguageFiles::Offered();
         return std::find(offered.begin(), offered.end(), text) != offered.end();
@@ -58,13 +66,17 @@ bool Preferences::Write(const std::string& file, std::string& error) const {
     }
     std::error_code failed;
     std::filesystem::rename(fresh, file, failed);
-    if (failed) error = "The preferences cannot be written to " + file + " (" + failed.message() + ").";
+    if (failed) {
+        error = "The preferences cannot be written to " + file + " (" + failed.message() + ").";
+    }
     return !failed;
 }
 
 bool IsServerAddress(const std::string& text) {
     for (const std::string scheme : {"https://", "http://"}) {
-        if (text.starts_with(scheme)) return text.size() > scheme.size() && text[scheme.size()] != '/';
+        if (text.starts_with(scheme)) {
+            return text.size() > scheme.size() && text[scheme.size()] != '/';
+        }
     }
     return false;
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/services/RotatingLog.h"
 
-#include <tarvik/util/DateTime.h>
-
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+
+#include <tarvik/util/DateTime.h>
 
 namespace Tarvik::Client {
 
@@ -15,10 +15,14 @@ RotatingLog::RotatingLog(std::string file, std::size_t limitBytes, bool verbose)
 void RotatingLog::Write(const std::string& line) {
     const std::string stamped = Util::_datetime_t::gmt_now().fmt("%Y-%m-%d %H:%M:%S") + "Z " + line + "\n";
     const std::lock_guard<std::mutex> lock(mutex_);
-    if (verbose_) std::fputs(stamped.c_str(), stderr);
+    if (verbose_) {
+        std::fputs(stamped.c_str(), stderr);
+    }
     std::error_code failed;
     const auto size = std::filesystem::file_size(file_, failed);
-    if (!failed && size + stamped.size() > limit_) std::filesystem::rename(file_, file_ + ".1", failed);
+    if (!failed && size + stamped.size() > limit_) {
+        std::filesystem::rename(file_, file_ + ".1", failed);
+    }
     std::ofstream(file_, std::ios::app | std::ios::binary) << stamped;
 }
 

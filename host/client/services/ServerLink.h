@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/ServerRequest.h>
-
 #include <string>
+
+#include <tarvik/interface/ServerRequest.h>
 
 namespace Tarvik::Client {
 

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/session/ClientSession.h"
 
-#include "host/client/services/ProgramPath.h"
-#include "host/client/session/EmbeddedLink.h"
+#include <cstdlib>
+#include <utility>
 
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/Log.h>
 
-#include <cstdlib>
-#include <utility>
+#include "host/client/services/ProgramPath.h"
+#include "host/client/session/EmbeddedLink.h"
 
 namespace Tarvik::Client {
+
 namespace {
 
 constexpr std::size_t kLogBytes = 1024 * 1024;
@@ -39,60 +40,84 @@ ClientSession::ClientSession(const AppFolders& folders, const SessionOptions& op
 
 std::unique_ptr<ClientSession> ClientSession::Open(const SessionOptions& options, std::string& error) {
     const AppFolders folders(ProgramFolder(), options.dataFolder);
-    if (!folders.Prepare(error)) return nullptr;
+    if (!folders.Prepare(error)) {
+        return nullptr;
+    }
     std::unique_ptr<ClientSession> session(new ClientSession(folders, options));
-    if (!session->start(options, error)) return nullptr;
+    if (!session->Start(options, error)) {
+        return nullptr;
+    }
     return session;
 }
 
-bool ClientSession::start(const SessionOptions& options, std::string& error) {
+bool ClientSession::Start(const SessionOptions& options, std::string& error) {
     Util::SetLogSink([this](Util::LogLevel, const std::string& text) { log_.Write(text); });
-    watchBus();
+    WatchBus();
     Util::FileUtl::SetCurrentAppDirectory(folders_.Data());
-    takeOptions(options);
+    TakeOptions(options);
     texts_.Load(folders_.Share() + "/lang", preferences_.language);
-    for (const std::string& line : texts_.Complaints()) log_.Write(line);
+    for (const std::string& line : texts_.Complaints()) {
+        log_.Write(line);
+    }
     Interface::LanguageSource::Set(&texts_);
-    if (!ReadPorts(folders_.BusinessData("trvdb.db"), ports_, error)) return false;
+    if (!ReadPorts(folders_.BusinessData("trvdb.db"), ports_, error)) {
+        return false;
+    }
     dictionary_ = std::make_unique<PortDictionary>(ports_);
     Interface::ValueDictionary::Set(dictionary_.get());
-    link_ = makeLink(preferences_.server, error);
-    if (!link_) return false;
+    link_ = MakeLink(preferences_.server, error);
+    if (!link_) {
+        return false;
+    }
     services_ = std::make_unique<HostServices>(*link_, kLocalUser, preferences_.timeZone,
                                                [this](const std::string& line) { log_.Write(line); });
     return true;
 }
 
-void ClientSession::takeOptions(const SessionOptions& options) {
-    preferences_ = Preferences::Read(preferencesFile());
-    if (!options.language.empty()) preferences_.language = options.language;
-    if (!options.timeZone.empty()) preferences_.timeZone = options.timeZone;
-    if (!options.theme.empty()) preferences_.theme = options.theme;
-    if (!options.server.empty()) preferences_.server = options.server == "embedded" ? "" : options.server;
+void ClientSession::TakeOptions(const SessionOptions& options) {
+    preferences_ = Preferences::Read(PreferencesFile());
+    if (!options.language.empty()) {
+        preferences_.language = options.language;
+    }
+    if (!options.timeZone.empty()) {
+        preferences_.timeZone = options.timeZone;
+    }
+    if (!options.theme.empty()) {
+        preferences_.theme = options.theme;
+    }
+    if (!options.server.empty()) {
+        preferences_.server = options.server == "embedded" ? "" : options.server;
+    }
 }
 
-std::unique_ptr<ServerLink> ClientSession::makeLink(const std::string& server, std::string& error) {
+std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, std::string& error) {
     if (!server.empty()) {
         const char* trusted = std::getenv("SEAPLAN_CA_FILE");
         return std::make_unique<LoginLink>(
             server, preferences_.user, trusted ? trusted : "",
             [this](const std::string& at, const std::string& user, const std::string& failure) {
                 auto login = ask_ ? ask_(at, user, failure) : std::nullopt;
-                if (login) keepUser(login->user);
+                if (login) {
+                    KeepUser(login->user);
+                }
                 return login;
             });
     }
     auto embedded =
         std::make_unique<EmbeddedLink>(folders_.Data() + "/voyages.db", folders_.ShareFile("network.bin"));
-    if (!embedded->Connect(error)) return nullptr;
+    if (!embedded->Connect(error)) {
+        return nullptr;
+    }
     return embedded;
 }
 
-void ClientSession::watchBus() {
+void ClientSession::WatchBus() {
     Core::TrvKernel::Instance()->SetObserver([this](Core::KernelNotice notice, const std::string& name) {
         const std::string line = std::string("bus: ") + NoticeText(notice) + name;
         // A service that is missing is asked for at every key stroke: said once, it is said.
-        if (toldOfBus_.insert(line).second) log_.Write(line);
+        if (toldOfBus_.insert(line).second) {
+            log_.Write(line);
+        }
     });
 }
 
@@ -104,20 +129,26 @@ void ClientSession::LoadPlugins() {
     }
 }
 
-void ClientSession::keepUser(const std::string& user) {
+void ClientSession::KeepUser(const std::string& user) {
     preferences_.user = user;
     // Only the name is kept: what the command line chose for this time stays out of the file.
-    Preferences kept = Preferences::Read(preferencesFile());
-    if (std::exchange(kept.user, user) == user) return;
+    Preferences kept = Preferences::Read(PreferencesFile());
+    if (std::exchange(kept.user, user) == user) {
+        return;
+    }
     std::string error;
-    if (!kept.Write(preferencesFile(), error)) log_.Write(error);
+    if (!kept.Write(PreferencesFile(), error)) {
+        log_.Write(error);
+    }
 }
 
 bool ClientSession::Prefer(const Preferences& preferences, std::string& error) {
     const Preferences before = preferences_;
     if (before.server != preferences.server) {
-        auto link = makeLink(preferences.server, error);
-        if (!link) return false;
+        auto link = MakeLink(preferences.server, error);
+        if (!link) {
+            return false;
+        }
         services_->SetLink(*link);
         link_ = std::move(link);
     }
@@ -126,8 +157,10 @@ bool ClientSession::Prefer(const Preferences& preferences, std::string& error) {
         texts_.Load(folders_.Share() + "/lang", preferences_.language);
         Interface::Raise<void>(Interface::Bus::SwitchLanguage, nullptr);
     }
-    if (before.timeZone != preferences_.timeZone) services_->SetTimeZone(preferences_.timeZone);
-    return preferences_.Write(preferencesFile(), error);
+    if (before.timeZone != preferences_.timeZone) {
+        services_->SetTimeZone(preferences_.timeZone);
+    }
+    return preferences_.Write(PreferencesFile(), error);
 }
 
 ClientSession::~ClientSession() {

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
 #include "host/client/plugins/PluginLoader.h"
 #include "host/client/services/AppFolders.h"
 #include "host/client/services/HostServices.h"
@@ -10,11 +15,6 @@
 #include "host/client/services/RotatingLog.h"
 #include "host/client/session/LoginLink.h"
 #include "host/client/session/SessionOptions.h"
-
-#include <memory>
-#include <set>
-#include <string>
-#include <vector>
 
 namespace Tarvik::Client {
 
@@ -52,12 +52,12 @@ class ClientSession {
 
   private:
     ClientSession(const AppFolders& folders, const SessionOptions& options);
-    bool start(const SessionOptions& options, std::string& error);
-    void watchBus();
-    void keepUser(const std::string& user);
-    void takeOptions(const SessionOptions& options);
-    std::unique_ptr<ServerLink> makeLink(const std::string& server, std::string& error);
-    std::string preferencesFile() const { return folders_.Data() + "/preferences.json"; }
+    bool Start(const SessionOptions& options, std::string& error);
+    void WatchBus();
+    void KeepUser(const std::string& user);
+    void TakeOptions(const SessionOptions& options);
+    std::unique_ptr<ServerLink> MakeLink(const std::string& server, std::string& error);
+    std::string PreferencesFile() const { return folders_.Data() + "/preferences.json"; }
 
     AppFolders folders_;
     RotatingLog log_;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/session/CommandLine.h"
 
+#include <algorithm>
+
 #include "host/client/services/LanguageFiles.h"
 #include "host/client/services/Preferences.h"
 
-#include <algorithm>
-
 namespace Tarvik::Client {
+
 namespace {
 
 /// Takes the options that are not the plan's own; everything else goes to the plan.
@@ -22,13 +23,15 @@ class Sorter {
                                        words_.begin() + static_cast<std::ptrdiff_t>(at_), words_.end());
                 break;
             }
-            if (!take(word)) rest(word);
+            if (!Take(word)) {
+                Rest(word);
+            }
         }
         return line_;
     }
 
   private:
-    bool take(const std::string& word) {
+    bool Take(const std::string& word) {
         if (word == "--help" || word == "-h") {
             line_.help = true;
         } else if (word == "--version") {
@@ -36,51 +39,55 @@ class Sorter {
         } else if (word == "--verbose") {
             line_.session.verbose = true;
         } else if (word == "--data") {
-            line_.session.dataFolder = value(word);
+            line_.session.dataFolder = Value(word);
         } else if (word == "--server") {
-            line_.session.server = serverAddress(word);
+            line_.session.server = ServerAddress(word);
         } else {
-            return !line_.plan && takeWindowOption(word);
+            return !line_.plan && TakeWindowOption(word);
         }
         return true;
     }
 
-    bool takeWindowOption(const std::string& word) {
+    bool TakeWindowOption(const std::string& word) {
         if (word == "--theme") {
-            line_.session.theme = choice(word, {"light", "dark", "night"});
+            line_.session.theme = Choice(word, {"light", "dark", "night"});
         } else if (word == "--lang") {
-            line_.session.language = choice(word, LanguageFiles::Offered());
+            line_.session.language = Choice(word, LanguageFiles::Offered());
         } else if (word == "--screenshot") {
-            line_.screenshot = value(word);
+            line_.screenshot = Value(word);
         } else if (word == "--panel") {
-            line_.panel = choice(word, {"3", "21"}) == "3" ? 3 : 21;
+            line_.panel = Choice(word, {"3", "21"}) == "3" ? 3 : 21;
         } else {
             return false;
         }
         return true;
     }
 
-    void rest(const std::string& word) {
+    void Rest(const std::string& word) {
         if (!line_.plan && word == "plan") {
             line_.plan = true;
         } else if (line_.plan) {
             line_.planWords.push_back(word);
             // The value behind a plan's option is never one of the options here, whatever it looks like.
             const bool option = word.starts_with("--") && word.find('=') == std::string::npos;
-            if (option && at_ + 1 < words_.size()) line_.planWords.push_back(words_[++at_]);
+            if (option && at_ + 1 < words_.size()) {
+                line_.planWords.push_back(words_[++at_]);
+            }
         } else {
             line_.error = "Unknown word \"" + word + "\". See --help.";
         }
     }
 
-    std::string value(const std::string& option) {
-        if (at_ + 1 < words_.size() && !words_[at_ + 1].empty()) return words_[++at_];
+    std::string Value(const std::string& option) {
+        if (at_ + 1 < words_.size() && !words_[at_ + 1].empty()) {
+            return words_[++at_];
+        }
         line_.error = "The option " + option + " needs a value. See --help.";
         return {};
     }
 
-    std::string serverAddress(const std::string& option) {
-        std::string address = value(option);
+    std::string ServerAddress(const std::string& option) {
+        std::string address = Value(option);
         if (line_.error.empty() && address != "embedded" && !IsServerAddress(address)) {
             line_.error = "Bad value \"" + address + "\" of " + option +
                           ": give https://HOST:PORT, http://HOST:PORT or embedded.";
@@ -88,8 +95,8 @@ class Sorter {
         return address;
     }
 
-    std::string choice(const std::string& option, const std::vector<std::string>& good) {
-        const std::string chosen = value(option);
+    std::string Choice(const std::string& option, const std::vector<std::string>& good) {
+        const std::string chosen = Value(option);
         if (line_.error.empty() && std::find(good.begin(), good.end(), chosen) == good.end()) {
             line_.error = "Bad value \"" + chosen + "\" of " + option + ". See --help.";
         }

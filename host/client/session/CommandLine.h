@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/session/SessionOptions.h"
-
 #include <string>
 #include <vector>
+
+#include "host/client/session/SessionOptions.h"
 
 namespace Tarvik::Client {
 

@@ -10,8 +10,12 @@ EmbeddedLink::EmbeddedLink(std::string databaseFile, std::string networkFile)
     : databaseFile_(std::move(databaseFile)), networkFile_(std::move(networkFile)) {}
 
 bool EmbeddedLink::Connect(std::string& error) {
-    if (server_) return true;
-    if (!CheckNetworkFile(networkFile_, error)) return false;
+    if (server_) {
+        return true;
+    }
+    if (!CheckNetworkFile(networkFile_, error)) {
+        return false;
+    }
     std::string reason;
     server_ =
         Server::EmbeddedServer::Open(databaseFile_, std::make_unique<LateRouteSource>(networkFile_), reason);

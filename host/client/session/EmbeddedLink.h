@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/services/ServerLink.h"
-#include "host/server/app/EmbeddedServer.h"
-
 #include <memory>
 #include <string>
+
+#include "host/client/services/ServerLink.h"
+#include "host/server/app/EmbeddedServer.h"
 
 namespace Tarvik::Client {
 

@@ -8,14 +8,16 @@ namespace Tarvik::Client {
 
 LateRouteSource::LateRouteSource(const std::string& networkFile)
     : loaded_(std::async(std::launch::async, [networkFile] {
-                  return std::make_shared<Loaded>(load(networkFile));
+                  return std::make_shared<Loaded>(Load(networkFile));
               }).share()) {}
 
-LateRouteSource::Loaded LateRouteSource::load(const std::string& networkFile) {
+LateRouteSource::Loaded LateRouteSource::Load(const std::string& networkFile) {
     Loaded loaded;
     std::string error;
     loaded.source = Server::GraphRouteSource::Open(networkFile, error);
-    if (!loaded.source) loaded.failure = Server::Replies::Error(Server::ErrorCode::Internal, error);
+    if (!loaded.source) {
+        loaded.failure = Server::Replies::Error(Server::ErrorCode::Internal, error);
+    }
     return loaded;
 }
 

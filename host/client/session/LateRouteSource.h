@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/api/RouteSource.h"
-
 #include <future>
 #include <memory>
 #include <string>
+
+#include "host/server/api/RouteSource.h"
 
 namespace Tarvik::Client {
 
@@ -22,7 +22,7 @@ class LateRouteSource : public Server::RouteSource {
         std::unique_ptr<Server::RouteSource> source;
         std::string failure;  ///< reply to every request when there is no source
     };
-    static Loaded load(const std::string& networkFile);
+    static Loaded Load(const std::string& networkFile);
 
     std::shared_future<std::shared_ptr<Loaded>> loaded_;
 };

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/session/LoginLink.h"
 
-#include "host/client/remote/RemoteLink.h"
-
 #include <utility>
+
+#include "host/client/remote/RemoteLink.h"
 
 namespace Tarvik::Client {
 
@@ -15,15 +15,21 @@ LoginLink::~LoginLink() {
 }
 
 void LoginLink::LogOut() {
-    if (remote_) remote_->Disconnect();
+    if (remote_) {
+        remote_->Disconnect();
+    }
 }
 
 bool LoginLink::Connect(std::string& error) {
-    if (IsConnected()) return true;
+    if (IsConnected()) {
+        return true;
+    }
     error.clear();
     while (true) {
         const std::optional<Credentials> login = ask_ ? ask_(server_, user_, error) : std::nullopt;
-        if (!login) break;
+        if (!login) {
+            break;
+        }
         user_ = login->user;
         RemoteSettings settings;
         settings.url = server_;
@@ -31,9 +37,13 @@ bool LoginLink::Connect(std::string& error) {
         settings.password = login->password;
         settings.caFile = caFile_;
         remote_ = std::make_unique<RemoteLink>(std::move(settings));
-        if (remote_->Connect(error)) return true;
+        if (remote_->Connect(error)) {
+            return true;
+        }
     }
-    if (error.empty()) error = "Nobody is logged in at the voyage server " + server_ + ".";
+    if (error.empty()) {
+        error = "Nobody is logged in at the voyage server " + server_ + ".";
+    }
     return false;
 }
 

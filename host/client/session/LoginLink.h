@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/services/ServerLink.h"
-
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+
+#include "host/client/services/ServerLink.h"
 
 namespace Tarvik::Client {
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/shell/Desk.h"
 
-#include <tarvik/core/TrvKernel.h>
 #include <QApplication>
 #include <QMessageBox>
+
+#include <tarvik/core/TrvKernel.h>
 
 namespace Tarvik::Client {
 
@@ -29,9 +30,12 @@ Desk::~Desk() {
 
 void Desk::TellComplaints() {
     QString text;
-    for (const std::string& line : session_.Plugins().Complaints())
+    for (const std::string& line : session_.Plugins().Complaints()) {
         text += "\n" + QString::fromStdString(line);
-    if (text.isEmpty()) return;
+    }
+    if (text.isEmpty()) {
+        return;
+    }
     const QString title = QString::fromStdString(session_.Texts().Text("Client", "TITLE"));
     auto* box =
         new QMessageBox(QMessageBox::Warning, title,

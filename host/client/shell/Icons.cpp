@@ -10,7 +10,9 @@ namespace Tarvik::Client {
 
 QIcon ColoredIcon(const QString& name, const QColor& color) {
     QFile file(":/tarvik/icons/" + name + ".svg");
-    if (!file.open(QIODevice::ReadOnly)) return {};
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
     QByteArray drawing = file.readAll();
     drawing.replace("currentColor", color.name().toLatin1());
     QSvgRenderer renderer(drawing);

@@ -37,15 +37,17 @@ LoginDialog::LoginDialog(QWidget* parent, const LanguageFiles& texts, const QStr
     buttons->button(QDialogButtonBox::Ok)->setObjectName("loginOk");
     buttons->button(QDialogButtonBox::Cancel)->setText(word("CANCEL"));
     buttons->button(QDialogButtonBox::Cancel)->setObjectName("loginCancel");
-    connect(buttons, &QDialogButtonBox::accepted, this, &LoginDialog::agree);
+    connect(buttons, &QDialogButtonBox::accepted, this, &LoginDialog::Agree);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);
     (user.isEmpty() ? user_ : password_)->setFocus();
 }
 
-void LoginDialog::agree() {
+void LoginDialog::Agree() {
     for (QLineEdit* field : {user_, password_}) {
-        if (field->text().isEmpty()) return field->setFocus();
+        if (field->text().isEmpty()) {
+            return field->setFocus();
+        }
     }
     accept();
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/services/LanguageFiles.h"
-
 #include <QDialog>
+
+#include "host/client/services/LanguageFiles.h"
 
 class QLineEdit;
 
@@ -20,7 +20,7 @@ class LoginDialog : public QDialog {
     QString Password() const;
 
   private:
-    void agree();
+    void Agree();
 
     QLineEdit* user_ = nullptr;
     QLineEdit* password_ = nullptr;

@@ -1,16 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/shell/MainWindow.h"
 
-#include "host/client/shell/Icons.h"
-#include "host/client/shell/LoginDialog.h"
-#include "host/client/shell/PositionText.h"
-#include "host/client/shell/PreferencesDialog.h"
-#include "host/client/shell/Theme.h"
-#include <tarvik/interface/ChartWindow.h>
-#include <tarvik/interface/HelpRequest.h>
-
-#include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 #include <QAction>
 #include <QCloseEvent>
 #include <QLabel>
@@ -19,10 +9,21 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
-
 #include <algorithm>
 
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ChartWindow.h>
+#include <tarvik/interface/HelpRequest.h>
+
+#include "host/client/shell/Icons.h"
+#include "host/client/shell/LoginDialog.h"
+#include "host/client/shell/PositionText.h"
+#include "host/client/shell/PreferencesDialog.h"
+#include "host/client/shell/Theme.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 constexpr int kVoyagePanel = 3;
@@ -33,15 +34,15 @@ constexpr int kDistancePanel = 21;
 MainWindow::MainWindow(ClientSession& session) : session_(session) {
     setObjectName("mainWindow");
     resize(1280, 800);
-    buildTools();
-    buildStatusLine();
-    applyTexts();
-    applyTheme();
+    BuildTools();
+    BuildStatusLine();
+    ApplyTexts();
+    ApplyTheme();
     session_.SetAsker([this](const std::string& server, const std::string& user, const std::string& failure) {
-        return askLogin(server, user, failure);
+        return AskLogin(server, user, failure);
     });
-    session_.Services().OnConnectionChange([this] { showConnection(); });
-    cursorEvent_.Set<&MainWindow::onCursor>(this);
+    session_.Services().OnConnectionChange([this] { ShowConnection(); });
+    cursorEvent_.Set<&MainWindow::OnCursor>(this);
     Core::TrvKernel::Instance()->BindTrvEvent(Seamap::Bus::Cursor.name, &cursorEvent_);
 }
 
@@ -51,21 +52,21 @@ MainWindow::~MainWindow() {
     Core::TrvKernel::Instance()->UnBindTrvEvent(Seamap::Bus::Cursor.name, &cursorEvent_);
 }
 
-QString MainWindow::word(const char* key) const {
+QString MainWindow::Word(const char* key) const {
     return QString::fromStdString(session_.Texts().Text("Client", key));
 }
 
-void MainWindow::buildTools() {
+void MainWindow::BuildTools() {
     tools_ = {
         {"VOYAGES", "voyages", "Ctrl+L", kVoyagePanel, [this] { TogglePanel(kVoyagePanel); }},
         {"DISTANCES", "distances", "Ctrl+D", kDistancePanel, [this] { TogglePanel(kDistancePanel); }},
         {"ZOOM_IN", "zoomin", "Ctrl++", 0, [this] { ChartCommand("zoomin"); }},
         {"ZOOM_OUT", "zoomout", "Ctrl+-", 0, [this] { ChartCommand("zoomout"); }},
         {"FIT", "fit", "Ctrl+0", 0, [this] { ChartCommand("fit"); }},
-        {"THEME", "theme", "Ctrl+T", 0, [this] { nextTheme(); }},
-        {"LANGUAGE", "language", "Ctrl+G", 0, [this] { nextLanguage(); }},
-        {"PREFERENCES", "preferences", "Ctrl+,", 0, [this] { openPreferences(); }},
-        {"LOGOUT", "logout", "Ctrl+Shift+Q", 0, [this] { logOut(); }},
+        {"THEME", "theme", "Ctrl+T", 0, [this] { NextTheme(); }},
+        {"LANGUAGE", "language", "Ctrl+G", 0, [this] { NextLanguage(); }},
+        {"PREFERENCES", "preferences", "Ctrl+,", 0, [this] { OpenPreferences(); }},
+        {"LOGOUT", "logout", "Ctrl+Shift+Q", 0, [this] { LogOut(); }},
     };
     auto* bar = addToolBar("tools");
     bar->setObjectName("mainToolBar");
@@ -81,14 +82,16 @@ void MainWindow::buildTools() {
         QWidget* button = bar->widgetForAction(tool.action);
         button->setObjectName(QString("button_") + tool.icon);
         button->setFocusPolicy(Qt::TabFocus);
-        if (tool.icon == std::string("distances") || tool.icon == std::string("fit")) bar->addSeparator();
+        if (tool.icon == std::string("distances") || tool.icon == std::string("fit")) {
+            bar->addSeparator();
+        }
     }
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
             [this] { ShowHelp("GENERAL", 370); });
     connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, [this] { close(); });
 }
 
-void MainWindow::buildStatusLine() {
+void MainWindow::BuildStatusLine() {
     QStatusBar* line = statusBar();
     line->setObjectName("statusLine");
     line->setSizeGripEnabled(false);
@@ -108,57 +111,65 @@ void MainWindow::buildStatusLine() {
     line->addPermanentWidget(zone_);
 }
 
-void MainWindow::applyTexts() {
-    setWindowTitle(word("TITLE"));
+void MainWindow::ApplyTexts() {
+    setWindowTitle(Word("TITLE"));
     for (const Tool& tool : tools_) {
-        const QString tip = word((std::string(tool.key) + "_TIP").c_str());
-        tool.action->setText(word(tool.key));
+        const QString tip = Word((std::string(tool.key) + "_TIP").c_str());
+        tool.action->setText(Word(tool.key));
         tool.action->setToolTip(tip);
         tool.action->setStatusTip(QString());
         if (auto* bar = findChild<QToolBar*>("mainToolBar")) {
             QWidget* button = bar->widgetForAction(tool.action);
-            button->setAccessibleName(word(tool.key));
+            button->setAccessibleName(Word(tool.key));
             button->setAccessibleDescription(tip);
         }
     }
-    findChild<QToolBar*>("mainToolBar")->setAccessibleName(word("TOOLBAR_NAME"));
-    showConnection();
+    findChild<QToolBar*>("mainToolBar")->setAccessibleName(Word("TOOLBAR_NAME"));
+    ShowConnection();
     zone_->setText(QString::fromStdString(session_.Preferred().timeZone));
-    if (!cursorKnown_) cursor_->setText(word("NO_POSITION"));
+    if (!cursorKnown_) {
+        cursor_->setText(Word("NO_POSITION"));
+    }
     const std::pair<QLabel*, const char*> labels[] = {{user_, "USER_NAME"},
                                                       {connection_, "CONNECTION_NAME"},
                                                       {cursor_, "CURSOR_NAME"},
                                                       {zone_, "ZONE_NAME"}};
     for (const auto& [shown, key] : labels) {
-        shown->setAccessibleName(word(key));
-        shown->setToolTip(word(key));
+        shown->setAccessibleName(Word(key));
+        shown->setToolTip(Word(key));
     }
-    if (centralWidget()) centralWidget()->setAccessibleName(word("CHART_NAME"));
+    if (centralWidget()) {
+        centralWidget()->setAccessibleName(Word("CHART_NAME"));
+    }
 }
 
-void MainWindow::showConnection() {
+void MainWindow::ShowConnection() {
     const QString user = QString::fromStdString(session_.Services().User());
-    user_->setText(!session_.IsRemote() ? word("LOCAL_USER") : user.isEmpty() ? word("NOBODY") : user);
+    user_->setText(!session_.IsRemote() ? Word("LOCAL_USER") : user.isEmpty() ? Word("NOBODY") : user);
     const bool connected = session_.Link().IsConnected();
-    connection_->setText(word(connected ? "CONNECTED" : "OFFLINE"));
+    connection_->setText(Word(connected ? "CONNECTED" : "OFFLINE"));
     if (auto* logout = findChild<QAction*>("action_logout")) {
         logout->setVisible(session_.IsRemote());
         logout->setEnabled(connected);
     }
 }
 
-std::optional<Credentials> MainWindow::askLogin(const std::string& server, const std::string& user,
+std::optional<Credentials> MainWindow::AskLogin(const std::string& server, const std::string& user,
                                                 const std::string& failure) {
     LoginDialog dialog(this, session_.Texts(), QString::fromStdString(server), QString::fromStdString(user),
                        QString::fromStdString(failure));
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
     return Credentials{dialog.User().toStdString(), dialog.Password().toStdString()};
 }
 
-void MainWindow::applyTheme() {
+void MainWindow::ApplyTheme() {
     const Theme theme(QString::fromStdString(session_.Preferred().theme));
     theme.Apply();
-    for (const Tool& tool : tools_) tool.action->setIcon(ColoredIcon(tool.icon, theme.Colors().text));
+    for (const Tool& tool : tools_) {
+        tool.action->setIcon(ColoredIcon(tool.icon, theme.Colors().text));
+    }
     ChartCommand("theme " + theme.Name().toStdString());
 }
 
@@ -168,19 +179,19 @@ void MainWindow::AttachPlugins() {
             tool.action->setVisible(Core::TrvKernel::Instance()->IsBound(Interface::Bus::AddPortName.name));
         }
     }
-    attachChart();
+    AttachChart();
 }
 
-void MainWindow::attachChart() {
+void MainWindow::AttachChart() {
     QWidget* chart = Interface::Call<void, QWidget>(Seamap::Bus::Widget, nullptr);
     if (!chart) {
-        auto* gap = new QLabel(word("NO_CHART"), this);
+        auto* gap = new QLabel(Word("NO_CHART"), this);
         gap->setObjectName("noChart");
         gap->setAlignment(Qt::AlignCenter);
         return setCentralWidget(gap);
     }
     setCentralWidget(chart);
-    chart->setAccessibleName(word("CHART_NAME"));
+    chart->setAccessibleName(Word("CHART_NAME"));
     ChartCommand("theme " + session_.Preferred().theme);
     chart->setFocus();
 }
@@ -195,32 +206,36 @@ bool MainWindow::ChartCommand(const std::string& command) {
            Interface::Call(Seamap::Bus::Command, &command) != nullptr;
 }
 
-void MainWindow::prefer(const Preferences& preferences) {
+void MainWindow::Prefer(const Preferences& preferences) {
     std::string error;
     const bool kept = session_.Prefer(preferences, error);
-    applyTexts();
-    applyTheme();
-    if (!kept) QMessageBox::warning(this, word("TITLE"), QString::fromStdString(error));
+    ApplyTexts();
+    ApplyTheme();
+    if (!kept) {
+        QMessageBox::warning(this, Word("TITLE"), QString::fromStdString(error));
+    }
 }
 
-void MainWindow::nextTheme() {
+void MainWindow::NextTheme() {
     Preferences preferences = session_.Preferred();
     preferences.theme = Theme(QString::fromStdString(preferences.theme)).Next().toStdString();
-    prefer(preferences);
+    Prefer(preferences);
 }
 
-void MainWindow::nextLanguage() {
+void MainWindow::NextLanguage() {
     Preferences preferences = session_.Preferred();
     preferences.language = preferences.language == "en-US" ? "zh-CN" : "en-US";
-    prefer(preferences);
+    Prefer(preferences);
 }
 
-void MainWindow::openPreferences() {
+void MainWindow::OpenPreferences() {
     PreferencesDialog dialog(this, session_.Texts(), session_.Preferred());
-    if (dialog.exec() == QDialog::Accepted) prefer(dialog.Chosen());
+    if (dialog.exec() == QDialog::Accepted) {
+        Prefer(dialog.Chosen());
+    }
 }
 
-bool MainWindow::closePanels() {
+bool MainWindow::ClosePanels() {
     const auto children = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     return std::all_of(children.rbegin(), children.rend(), [](QWidget* child) {
         return !child->isWindow() || !child->isVisible() || child->close();
@@ -228,17 +243,22 @@ bool MainWindow::closePanels() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!closePanels()) return event->ignore();
+    if (!ClosePanels()) {
+        return event->ignore();
+    }
     QMainWindow::closeEvent(event);
 }
 
-void MainWindow::logOut() {
-    if (closePanels()) session_.Services().LogOut();
+void MainWindow::LogOut() {
+    if (ClosePanels()) {
+        session_.Services().LogOut();
+    }
 }
 
 bool MainWindow::event(QEvent* event) {
-    if (event->type() != static_cast<QEvent::Type>(Seaplan::HelpRequestEvent::kType))
+    if (event->type() != static_cast<QEvent::Type>(Seaplan::HelpRequestEvent::kType)) {
         return QMainWindow::event(event);
+    }
     const auto& block = static_cast<Seaplan::HelpRequestEvent*>(event)->block;
     ShowHelp(QString::fromUtf8(block.topic), block.width);
     return true;
@@ -246,21 +266,23 @@ bool MainWindow::event(QEvent* event) {
 
 void MainWindow::ShowHelp(const QString& topic, int width) {
     const QByteArray key = "HELP_" + topic.toUtf8();
-    const QString text = word(key.constData());
+    const QString text = Word(key.constData());
     auto* box =
-        new QMessageBox(QMessageBox::NoIcon, word("HELP_TITLE"),
-                        text == QString::fromUtf8(key) ? word("HELP_GENERAL") : text, QMessageBox::Ok, this);
+        new QMessageBox(QMessageBox::NoIcon, Word("HELP_TITLE"),
+                        text == QString::fromUtf8(key) ? Word("HELP_GENERAL") : text, QMessageBox::Ok, this);
     box->setObjectName("help");
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setModal(false);
     box->setMinimumWidth(width);
-    box->button(QMessageBox::Ok)->setText(word("OK"));
+    box->button(QMessageBox::Ok)->setText(Word("OK"));
     box->show();
 }
 
-void* MainWindow::onCursor(void* input) {
+void* MainWindow::OnCursor(void* input) {
     const auto* position = static_cast<const double*>(input);
-    if (!position) return nullptr;
+    if (!position) {
+        return nullptr;
+    }
     cursorKnown_ = true;
     cursor_->setText(QString::fromStdString(PositionText(position[0], position[1])));
     return nullptr;

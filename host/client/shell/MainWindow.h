@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/session/ClientSession.h"
-
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
 #include <QMainWindow>
-
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+
+#include "host/client/session/ClientSession.h"
 
 class QAction;
 class QLabel;
@@ -54,22 +54,22 @@ class MainWindow : public QMainWindow {
 
     /// Closes the panels, the last made before the others. False when one stays, since a person wants to keep
     /// what is not saved.
-    bool closePanels();
-    void logOut();
-    void attachChart();
-    void buildTools();
-    void buildStatusLine();
-    void applyTexts();
-    void applyTheme();
-    void showConnection();
-    std::optional<Credentials> askLogin(const std::string& server, const std::string& user,
+    bool ClosePanels();
+    void LogOut();
+    void AttachChart();
+    void BuildTools();
+    void BuildStatusLine();
+    void ApplyTexts();
+    void ApplyTheme();
+    void ShowConnection();
+    std::optional<Credentials> AskLogin(const std::string& server, const std::string& user,
                                         const std::string& failure);
-    void nextTheme();
-    void nextLanguage();
-    void openPreferences();
-    void prefer(const Preferences& preferences);
-    QString word(const char* key) const;
-    void* onCursor(void* input);
+    void NextTheme();
+    void NextLanguage();
+    void OpenPreferences();
+    void Prefer(const Preferences& preferences);
+    QString Word(const char* key) const;
+    void* OnCursor(void* input);
 
     ClientSession& session_;
     Core::TObject busOwner_;

@@ -1,29 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/shell/PlanRun.h"
 
+#include <QApplication>
+#include <QCoreApplication>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/shell/Desk.h"
 #include "host/client/shell/QtLog.h"
 #include "host/client/shell/WindowPicture.h"
 
-#include <QApplication>
-#include <QCoreApplication>
-
-#include <cstdio>
-#include <cstdlib>
-#include <optional>
-
 namespace Tarvik::Client {
+
 namespace {
 
 int Tell(const PlanOutcome& outcome) {
-    if (!outcome.message.empty()) std::fprintf(stderr, "%s\n", outcome.message.c_str());
+    if (!outcome.message.empty()) {
+        std::fprintf(stderr, "%s\n", outcome.message.c_str());
+    }
     return outcome.exitCode;
 }
 
 int Print(const std::string& text) {
-    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
+    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0) {
         return kExitDone;
+    }
     return Tell({kExitFailed, "The result could not be written to standard output."});
 }
 
@@ -31,7 +34,9 @@ int PlanAndPrint(ClientSession& session, const PlanArguments& arguments,
                  const Seaplan::PlanRequest& request) {
     const Seaplan::PlanResult* plan = nullptr;
     const PlanOutcome outcome = CallPlanService(request, plan, &session.Services());
-    if (outcome.exitCode != kExitDone) return Tell(outcome);
+    if (outcome.exitCode != kExitDone) {
+        return Tell(outcome);
+    }
     return Print(FormatPlan(arguments, *plan, session.Services().TimeZone(), session.Texts()));
 }
 
@@ -42,12 +47,16 @@ int PlanWithPicture(int argc, char** argv, ClientSession& session, const PlanArg
     QApplication application(argc, argv);
     std::string error;
     const QString file = QString::fromStdString(arguments.picture);
-    if (!CanWritePicture(file, error)) return Tell({kExitBadInput, error});
+    if (!CanWritePicture(file, error)) {
+        return Tell({kExitBadInput, error});
+    }
     Desk desk(session);
     desk.Window().show();
     SettleWindows();
     const int code = PlanAndPrint(session, arguments, request);
-    if (code != kExitDone) return code;
+    if (code != kExitDone) {
+        return code;
+    }
     // The chart's own fit goes round the globe the short way, also over the date line.
     desk.Window().ChartCommand("fit");
     SettleWindows();
@@ -58,7 +67,9 @@ int PlanWithoutWindow(int argc, char** argv, ClientSession& session, const PlanA
                       const Seaplan::PlanRequest& request) {
     QCoreApplication application(argc, argv);
     session.LoadPlugins();
-    for (const std::string& line : session.Plugins().Complaints()) std::fprintf(stderr, "%s\n", line.c_str());
+    for (const std::string& line : session.Plugins().Complaints()) {
+        std::fprintf(stderr, "%s\n", line.c_str());
+    }
     return PlanAndPrint(session, arguments, request);
 }
 
@@ -75,7 +86,9 @@ bool ConnectUnattended(ClientSession& session, std::string& error) {
         return complete && failure.empty() ? std::optional(login) : std::nullopt;
     });
     const bool connected = session.Link().Connect(error);
-    if (!connected && !complete) error += " Set SEAPLAN_USER and SEAPLAN_PASSWORD to log in.";
+    if (!connected && !complete) {
+        error += " Set SEAPLAN_USER and SEAPLAN_PASSWORD to log in.";
+    }
     session.SetAsker({});
     return connected;
 }
@@ -84,17 +97,25 @@ bool ConnectUnattended(ClientSession& session, std::string& error) {
 
 int RunPlan(int argc, char** argv, const CommandLine& line) {
     const ParsedPlan parsed = ParsePlanArguments(line.planWords);
-    if (!parsed.error.empty()) return Tell({kExitBadInput, parsed.error});
+    if (!parsed.error.empty()) {
+        return Tell({kExitBadInput, parsed.error});
+    }
     SessionOptions options = line.session;
     options.timeZone = parsed.arguments.zone;
     std::string error;
     const auto session = ClientSession::Open(options, error);
-    if (!session) return Tell({kExitFailed, error});
+    if (!session) {
+        return Tell({kExitFailed, error});
+    }
     const QtLog log(session->Log());
     Seaplan::PlanRequest request;
     const PlanOutcome checked = MakePlanRequest(parsed.arguments, PortLookup(session->Ports()), request);
-    if (checked.exitCode != kExitDone) return Tell(checked);
-    if (!ConnectUnattended(*session, error)) return Tell({kExitFailed, error});
+    if (checked.exitCode != kExitDone) {
+        return Tell(checked);
+    }
+    if (!ConnectUnattended(*session, error)) {
+        return Tell({kExitFailed, error});
+    }
     return parsed.arguments.picture.empty()
                ? PlanWithoutWindow(argc, argv, *session, parsed.arguments, request)
                : PlanWithPicture(argc, argv, *session, parsed.arguments, request);

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/shell/PositionText.h"
 
-#include <tarvik/util/StringUtl.h>
-
 #include <cmath>
 
+#include <tarvik/util/StringUtl.h>
+
 namespace Tarvik::Client {
+
 namespace {
 
 /// Degrees and minutes of a magnitude; tenths of a minute are rounded before they are split, so 60.0' cannot

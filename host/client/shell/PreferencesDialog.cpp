@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/shell/PreferencesDialog.h"
 
-#include <tarvik/util/DateTimeUtl.h>
 #include <QComboBox>
 #include <QCompleter>
 #include <QDialogButtonBox>
@@ -11,16 +10,23 @@
 #include <QPushButton>
 #include <QTimeZone>
 
+#include <tarvik/util/DateTimeUtl.h>
+
 namespace Tarvik::Client {
+
 namespace {
 
 QStringList ZoneNames(const std::string& current) {
     QStringList names{"China Standard Time", "UTC"};
     for (const QByteArray& id : QTimeZone::availableTimeZoneIds()) {
         const QString name = QString::fromLatin1(id);
-        if (name.contains('/') && !name.startsWith("Etc/")) names.append(name);
+        if (name.contains('/') && !name.startsWith("Etc/")) {
+            names.append(name);
+        }
     }
-    if (!names.contains(QString::fromStdString(current))) names.append(QString::fromStdString(current));
+    if (!names.contains(QString::fromStdString(current))) {
+        names.append(QString::fromStdString(current));
+    }
     return names;
 }
 
@@ -31,10 +37,10 @@ PreferencesDialog::PreferencesDialog(QWidget* parent, const LanguageFiles& texts
     setObjectName("preferences");
     setWindowTitle(QString::fromStdString(texts.Text("Client", "PREFERENCES")));
     setMinimumWidth(420);
-    buildFields(texts);
+    BuildFields(texts);
 }
 
-void PreferencesDialog::buildFields(const LanguageFiles& texts) {
+void PreferencesDialog::BuildFields(const LanguageFiles& texts) {
     const auto word = [&texts](const char* key) { return QString::fromStdString(texts.Text("Client", key)); };
     auto* form = new QFormLayout(this);
     form->setSpacing(8);
@@ -72,22 +78,25 @@ void PreferencesDialog::buildFields(const LanguageFiles& texts) {
     buttons->button(QDialogButtonBox::Ok)->setObjectName("preferencesOk");
     buttons->button(QDialogButtonBox::Cancel)->setText(word("CANCEL"));
     buttons->button(QDialogButtonBox::Cancel)->setObjectName("preferencesCancel");
-    connect(buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::agree);
+    connect(buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::Agree);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);
 }
 
-void PreferencesDialog::agree() {
+void PreferencesDialog::Agree() {
     // A zone that nobody knows would silently count as UTC, and an address of no known form as no server: the
     // field keeps the focus until it is one.
-    if (!Util::DateTimeUtl::IsKnownZone(zone_->currentText().toStdString()))
-        return askAgain(zone_->lineEdit());
+    if (!Util::DateTimeUtl::IsKnownZone(zone_->currentText().toStdString())) {
+        return AskAgain(zone_->lineEdit());
+    }
     const std::string server = server_->text().trimmed().toStdString();
-    if (!server.empty() && !IsServerAddress(server)) return askAgain(server_);
+    if (!server.empty() && !IsServerAddress(server)) {
+        return AskAgain(server_);
+    }
     accept();
 }
 
-void PreferencesDialog::askAgain(QLineEdit* field) {
+void PreferencesDialog::AskAgain(QLineEdit* field) {
     field->setFocus();
     field->selectAll();
 }

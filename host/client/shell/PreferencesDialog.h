@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDialog>
+
 #include "host/client/services/LanguageFiles.h"
 #include "host/client/services/Preferences.h"
-
-#include <QDialog>
 
 class QComboBox;
 class QLineEdit;
@@ -19,9 +19,9 @@ class PreferencesDialog : public QDialog {
     Preferences Chosen() const;
 
   private:
-    void buildFields(const LanguageFiles& texts);
-    void agree();
-    void askAgain(QLineEdit* field);
+    void BuildFields(const LanguageFiles& texts);
+    void Agree();
+    void AskAgain(QLineEdit* field);
 
     Preferences current_;
     QComboBox* language_ = nullptr;

@@ -1,22 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/shell/QtLog.h"
 
-#include "host/client/services/RotatingLog.h"
-
 #include <QString>
 #include <QtGlobal>
-
 #include <cstdio>
 
+#include "host/client/services/RotatingLog.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 // The library takes a plain function, so that the log it writes to cannot travel with it.
 RotatingLog* sink = nullptr;
 
 void Take(QtMsgType type, const QMessageLogContext& /*where*/, const QString& text) {
-    if (sink) sink->Write("window system: " + text.toStdString());
-    if (type == QtFatalMsg) std::fprintf(stderr, "%s\n", text.toUtf8().constData());
+    if (sink) {
+        sink->Write("window system: " + text.toStdString());
+    }
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", text.toUtf8().constData());
+    }
 }
 
 }  // namespace

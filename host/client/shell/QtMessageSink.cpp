@@ -30,8 +30,12 @@ Interface::SysMsgHandleRes QtMessageSink::SyncSendMsg(int /*level*/, const std::
     }
     box.setDefaultButton(agree);
     box.exec();
-    if (flags == 0) return SysMsgHandleRes::None;
-    if (box.clickedButton() == agree) return question ? SysMsgHandleRes::Yes : SysMsgHandleRes::Ok;
+    if (flags == 0) {
+        return SysMsgHandleRes::None;
+    }
+    if (box.clickedButton() == agree) {
+        return question ? SysMsgHandleRes::Yes : SysMsgHandleRes::Ok;
+    }
     return question ? SysMsgHandleRes::No : SysMsgHandleRes::Cancel;
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/services/LanguageFiles.h"
-
 #include <tarvik/interface/SysMsgSink.h>
+
+#include "host/client/services/LanguageFiles.h"
 
 class QWidget;
 

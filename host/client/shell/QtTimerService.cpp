@@ -13,12 +13,16 @@ unsigned QtTimerService::Start(int periodMs, std::function<void()> callback) {
 }
 
 void QtTimerService::Stop(unsigned id) {
-    if (callbacks_.erase(static_cast<int>(id)) > 0) killTimer(static_cast<int>(id));
+    if (callbacks_.erase(static_cast<int>(id)) > 0) {
+        killTimer(static_cast<int>(id));
+    }
 }
 
 void QtTimerService::timerEvent(QTimerEvent* event) {
     const auto found = callbacks_.find(event->timerId());
-    if (found == callbacks_.end()) return;
+    if (found == callbacks_.end()) {
+        return;
+    }
     const std::function<void()> callback = found->second;  // the callback may stop its own timer
     callback();
 }

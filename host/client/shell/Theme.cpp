@@ -6,6 +6,7 @@
 #include <QHash>
 
 namespace Tarvik::Client {
+
 namespace {
 
 ThemeColors Light() {
@@ -95,7 +96,9 @@ QString Theme::StyleSheet() const {
         {"@text", colors_.text},           {"@list", colors_.list},         {"@error", colors_.error},
         {"@disabled", colors_.disabled}};
     QString sheet = kSheet;
-    for (const auto& [role, color] : roles) sheet.replace(role, color.name());
+    for (const auto& [role, color] : roles) {
+        sheet.replace(role, color.name());
+    }
     return sheet;
 }
 

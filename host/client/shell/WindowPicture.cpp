@@ -10,6 +10,7 @@
 #include <QTimer>
 
 namespace Tarvik::Client {
+
 namespace {
 
 /// Longer than any animation of the client.
@@ -29,7 +30,9 @@ QPixmap PictureOf(QMainWindow& window) {
     QPainter painter(&picture);
     for (QWidget* panel : QApplication::topLevelWidgets()) {
         const bool floats = panel != &window && panel->isVisible() && panel->isWindow();
-        if (floats) painter.drawPixmap(panel->pos() - window.pos(), panel->grab());
+        if (floats) {
+            painter.drawPixmap(panel->pos() - window.pos(), panel->grab());
+        }
     }
     return picture;
 }
@@ -38,7 +41,9 @@ bool CanWritePicture(const QString& file, std::string& error) {
     const QFileInfo folder(QFileInfo(file).absolutePath());
     if (folder.isDir() && folder.isWritable()) {
         const QByteArray format = QFileInfo(file).suffix().toLower().toLatin1();
-        if (QImageWriter::supportedImageFormats().contains(format)) return true;
+        if (QImageWriter::supportedImageFormats().contains(format)) {
+            return true;
+        }
         error = "A picture cannot be written as \"" + file.toStdString() + "\": let the name end with .png.";
         return false;
     }
@@ -47,7 +52,9 @@ bool CanWritePicture(const QString& file, std::string& error) {
 }
 
 bool SavePicture(QMainWindow& window, const QString& file, std::string& error) {
-    if (PictureOf(window).save(file)) return true;
+    if (PictureOf(window).save(file)) {
+        return true;
+    }
     error =
         "The picture " + file.toStdString() + " cannot be written: free some space or choose another folder.";
     return false;

@@ -3,7 +3,6 @@
 
 #include <QPixmap>
 #include <QString>
-
 #include <string>
 
 class QMainWindow;

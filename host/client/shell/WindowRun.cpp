@@ -1,40 +1,48 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/shell/WindowRun.h"
 
+#include <QApplication>
+#include <QMessageBox>
+#include <cstdio>
+#include <cstdlib>
+
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/shell/Desk.h"
 #include "host/client/shell/QtLog.h"
 #include "host/client/shell/WindowPicture.h"
 
-#include <QApplication>
-#include <QMessageBox>
-
-#include <cstdio>
-#include <cstdlib>
-
 namespace Tarvik::Client {
+
 namespace {
 
 bool HasDisplay() {
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
         const char* value = std::getenv(name);
-        if (value && *value) return true;
+        if (value && *value) {
+            return true;
+        }
     }
     return false;
 }
 
 int Complain(const std::string& line, bool inWindow) {
     std::fprintf(stderr, "%s\n", line.c_str());
-    if (inWindow) QMessageBox::critical(nullptr, "Seaplan", QString::fromStdString(line));
+    if (inWindow) {
+        QMessageBox::critical(nullptr, "Seaplan", QString::fromStdString(line));
+    }
     return kExitFailed;
 }
 
 int TakePicture(Desk& desk, const CommandLine& line) {
     std::string error;
     const QString file = QString::fromStdString(line.screenshot);
-    if (!CanWritePicture(file, error)) return Complain(error, false), kExitBadInput;
+    if (!CanWritePicture(file, error)) {
+        return Complain(error, false), kExitBadInput;
+    }
     desk.Window().show();
-    if (line.panel != 0) desk.Window().TogglePanel(line.panel);
+    if (line.panel != 0) {
+        desk.Window().TogglePanel(line.panel);
+    }
     SettleWindows();
     return SavePicture(desk.Window(), file, error) ? kExitDone : Complain(error, false);
 }
@@ -43,7 +51,9 @@ int TakePicture(Desk& desk, const CommandLine& line) {
 
 int RunWindow(int argc, char** argv, const CommandLine& line) {
     const bool picture = !line.screenshot.empty();
-    if (picture && !HasDisplay()) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    if (picture && !HasDisplay()) {
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    }
     if (!HasDisplay()) {
         return Complain("There is no display. Plan without a window: plan PORT PORT (see --help).", false);
     }
@@ -52,10 +62,14 @@ int RunWindow(int argc, char** argv, const CommandLine& line) {
     QApplication application(argc, argv);
     std::string error;
     const auto session = ClientSession::Open(line.session, error);
-    if (!session) return Complain(error, !picture);
+    if (!session) {
+        return Complain(error, !picture);
+    }
     const QtLog log(session->Log());
     Desk desk(*session);
-    if (picture) return TakePicture(desk, line);
+    if (picture) {
+        return TakePicture(desk, line);
+    }
     desk.Window().show();
     desk.TellComplaints();
     return QApplication::exec();

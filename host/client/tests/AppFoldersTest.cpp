@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
 #include "host/client/services/AppFolders.h"
 #include "host/client/services/DataFiles.h"
 #include "host/client/tests/PortDatabase.h"
 #include "host/client/tests/TemporaryFolder.h"
 
-#include <gmock/gmock.h>
-
 namespace Tarvik::Client {
+
 namespace {
 
 using testing::HasSubstr;
@@ -21,19 +22,21 @@ std::string Land(const std::string& content) {
 class AppFoldersTest : public testing::Test {
   protected:
     AppFoldersTest() {
-        for (const char* name : {"bin", "lib", "share/seaplan"}) fs::create_directories(root_.Path(name));
+        for (const char* name : {"bin", "lib", "share/seaplan"}) {
+            fs::create_directories(root_.Path(name));
+        }
         MakePortDatabase(root_.Path("share/seaplan/trvdb.db"));
         root_.Write("share/seaplan/land.bin", Land("land"));
         root_.Write("share/seaplan/ship.png", "ship");
     }
-    AppFolders folders() const { return AppFolders(root_.Path("bin"), root_.Path("data")); }
+    AppFolders Folders() const { return AppFolders(root_.Path("bin"), root_.Path("data")); }
 
     TemporaryFolder root_;
     std::string error_;
 };
 
 TEST_F(AppFoldersTest, FillsTheDataFolderAtFirstStart) {
-    ASSERT_TRUE(folders().Prepare(error_)) << error_;
+    ASSERT_TRUE(Folders().Prepare(error_)) << error_;
     EXPECT_EQ(root_.Read("data/businessdata/land.bin"), Land("land"));
     EXPECT_EQ(root_.Read("data/businessdata/seaplan/ship.png"), "ship");
     EXPECT_TRUE(fs::exists(root_.Path("data/businessdata/trvdb.db")));
@@ -43,45 +46,45 @@ TEST_F(AppFoldersTest, FillsTheDataFolderAtFirstStart) {
 TEST_F(AppFoldersTest, FindsShippedFilesInTheirNestedPlaceToo) {
     fs::create_directories(root_.Path("share/seaplan/businessdata"));
     fs::rename(root_.Path("share/seaplan/land.bin"), root_.Path("share/seaplan/businessdata/land.bin"));
-    ASSERT_TRUE(folders().Prepare(error_)) << error_;
+    ASSERT_TRUE(Folders().Prepare(error_)) << error_;
     EXPECT_EQ(root_.Read("data/businessdata/land.bin"), Land("land"));
 }
 
 TEST_F(AppFoldersTest, KeepsThePersonsFilesAndMendsACopyThatWasCut) {
-    ASSERT_TRUE(folders().Prepare(error_));
+    ASSERT_TRUE(Folders().Prepare(error_));
     root_.Write("data/businessdata/seaplan/Ports.dat", "mine");
     root_.Write("data/businessdata/land.bin", "la");
-    ASSERT_TRUE(folders().Prepare(error_));
+    ASSERT_TRUE(Folders().Prepare(error_));
     EXPECT_EQ(root_.Read("data/businessdata/seaplan/Ports.dat"), "mine");
     EXPECT_EQ(root_.Read("data/businessdata/land.bin"), Land("land"));
 }
 
 TEST_F(AppFoldersTest, TakesOverAShippedFileThatBecameNewer) {
-    ASSERT_TRUE(folders().Prepare(error_));
+    ASSERT_TRUE(Folders().Prepare(error_));
     root_.Write("share/seaplan/land.bin", Land("isle"));
     fs::last_write_time(
         root_.Path("share/seaplan/land.bin"),
         fs::last_write_time(root_.Path("data/businessdata/land.bin")) + std::chrono::hours(1));
-    ASSERT_TRUE(folders().Prepare(error_));
+    ASSERT_TRUE(Folders().Prepare(error_));
     EXPECT_EQ(root_.Read("data/businessdata/land.bin"), Land("isle"));
 }
 
 TEST_F(AppFoldersTest, NamesAMissingShippedFile) {
     fs::remove(root_.Path("share/seaplan/land.bin"));
-    EXPECT_FALSE(folders().Prepare(error_));
+    EXPECT_FALSE(Folders().Prepare(error_));
     EXPECT_THAT(error_, testing::AllOf(HasSubstr("land.bin is missing"), HasSubstr("again")));
 }
 
 TEST_F(AppFoldersTest, NamesAPortTableThatIsCutShort) {
     const auto size = fs::file_size(root_.Path("share/seaplan/trvdb.db"));
     fs::resize_file(root_.Path("share/seaplan/trvdb.db"), size / 2);
-    EXPECT_FALSE(folders().Prepare(error_));
+    EXPECT_FALSE(Folders().Prepare(error_));
     EXPECT_THAT(error_, HasSubstr("trvdb.db is missing or cut short"));
 }
 
 TEST_F(AppFoldersTest, NamesALandFileThatIsCutShort) {
     root_.Write("share/seaplan/land.bin", Land("land").substr(0, 19));
-    EXPECT_FALSE(folders().Prepare(error_));
+    EXPECT_FALSE(Folders().Prepare(error_));
     EXPECT_THAT(error_, HasSubstr("land.bin is missing or cut short"));
     EXPECT_FALSE(fs::exists(root_.Path("data/businessdata/trvdb.db")));
 }
@@ -96,7 +99,7 @@ TEST_F(AppFoldersTest, ADataFolderThatCannotBeMadeIsNamedWithAdvice) {
 TEST_F(AppFoldersTest, ADataFolderThatTakesNoFileIsNamedWithAdvice) {
     // A folder in the place of the probe file refuses the write, whoever runs the test.
     fs::create_directories(root_.Path("data/.writable/full"));
-    EXPECT_FALSE(folders().Prepare(error_));
+    EXPECT_FALSE(Folders().Prepare(error_));
     EXPECT_THAT(error_, testing::AllOf(HasSubstr("cannot be written or is full"), HasSubstr("--data DIR")));
 }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/session/CommandLine.h"
-
 #include <gmock/gmock.h>
 
+#include "host/client/session/CommandLine.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 using testing::ElementsAre;

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/services/HostServices.h"
+#include <cstring>
 
 #include <gmock/gmock.h>
+
 #include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/Clock.h>
 
-#include <cstring>
+#include "host/client/services/HostServices.h"
 
 namespace Tarvik::Client {
+
 namespace {
 
 namespace Bus = Interface::Bus;
@@ -21,7 +23,9 @@ class ScriptedLink : public ServerLink {
   public:
     bool Connect(std::string& error) override {
         connected = canConnect;
-        if (!canConnect) error = "the server is down";
+        if (!canConnect) {
+            error = "the server is down";
+        }
         return canConnect;
     }
     bool IsConnected() const override { return connected; }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/services/LanguageFiles.h"
-#include "host/client/tests/TemporaryFolder.h"
-
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
+#include "host/client/services/LanguageFiles.h"
+#include "host/client/tests/TemporaryFolder.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 TEST(LanguageFiles, MergesAllComponentsOfTheLanguage) {
@@ -47,8 +48,9 @@ TEST(LanguageFiles, ALanguageWithoutFilesIsNamed) {
 
 TEST(LanguageFiles, RefusesAnythingButObjectsOfTexts) {
     LanguageFiles texts;
-    for (const char* bad : {"", "[]", "{\"A\":1}", "{\"A\":{\"X\":1}}"})
+    for (const char* bad : {"", "[]", "{\"A\":1}", "{\"A\":{\"X\":1}}"}) {
         EXPECT_FALSE(texts.Merge(bad)) << bad;
+    }
 }
 
 TEST(ClientTexts, AreCompleteInBothLanguages) {

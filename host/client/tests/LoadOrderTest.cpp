@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/plugins/LoadOrder.h"
-
 #include <gmock/gmock.h>
 
+#include "host/client/plugins/LoadOrder.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 using testing::ElementsAre;

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/LoginDialog.h"
-
-#include <gtest/gtest.h>
-
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <gtest/gtest.h>
+
+#include "host/client/shell/LoginDialog.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 class LoginDialogTest : public testing::Test {

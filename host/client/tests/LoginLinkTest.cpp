@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/session/LoginLink.h"
-#include "host/server/net/tests/TestServer.h"
+#include <vector>
 
 #include <gmock/gmock.h>
 
-#include <vector>
+#include "host/client/session/LoginLink.h"
+#include "host/server/net/tests/TestServer.h"
 
 namespace Tarvik::Client {
+
 namespace {
 
 using testing::ElementsAre;
@@ -22,7 +23,9 @@ class LoginLinkTest : public testing::Test {
                       const std::string& failure) -> std::optional<Credentials> {
             offered_.push_back(user);
             failures_.push_back(failure);
-            if (answers_.empty()) return std::nullopt;
+            if (answers_.empty()) {
+                return std::nullopt;
+            }
             const Credentials next = answers_.front();
             answers_.erase(answers_.begin());
             return next;

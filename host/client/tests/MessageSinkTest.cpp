@@ -1,9 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/QtMessageSink.h"
-#include "host/client/shell/QtTimerService.h"
-
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEventLoop>
@@ -11,7 +6,13 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <gtest/gtest.h>
+
+#include "host/client/shell/QtMessageSink.h"
+#include "host/client/shell/QtTimerService.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 using Interface::SysMsgHandleRes;
@@ -57,7 +58,9 @@ TEST(TimerService, CallsAgainAndAgainUntilStoppedByItsOwnCallback) {
     int calls = 0;
     unsigned id = 0;
     id = timers.Start(0, [&] {
-        if (++calls < 3) return;
+        if (++calls < 3) {
+            return;
+        }
         timers.Stop(id);
         loop.quit();
     });

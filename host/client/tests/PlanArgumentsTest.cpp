@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/plan/PlanArguments.h"
-
 #include <gmock/gmock.h>
 
+#include "host/client/plan/PlanArguments.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 using testing::ElementsAre;

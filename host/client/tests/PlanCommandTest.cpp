@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include <tarvik/core/TrvKernel.h>
+
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/tests/SamplePlan.h"
 
-#include <gmock/gmock.h>
-#include <tarvik/core/TrvKernel.h>
-
 namespace Tarvik::Client {
+
 namespace {
 
 using testing::HasSubstr;

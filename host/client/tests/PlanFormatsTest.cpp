@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/plan/PlanFormats.h"
-#include "host/client/tests/SamplePlan.h"
-
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
+#include "host/client/plan/PlanFormats.h"
+#include "host/client/tests/SamplePlan.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 using nlohmann::json;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include <gtest/gtest.h>
 #include <sqlite3.h>
-
-#include <string>
 
 namespace Tarvik::Client {
 

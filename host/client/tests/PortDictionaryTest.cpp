@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
 #include "host/client/services/PortDictionary.h"
 #include "host/client/tests/PortDatabase.h"
 #include "host/client/tests/TemporaryFolder.h"
 
-#include <gmock/gmock.h>
-
 namespace Tarvik::Client {
+
 namespace {
 
 class PortTableTest : public testing::Test {

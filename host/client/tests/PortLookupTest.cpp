@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/plan/PortLookup.h"
-
 #include <gmock/gmock.h>
 
+#include "host/client/plan/PortLookup.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 PortLookup Lookup() {

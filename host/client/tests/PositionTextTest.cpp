@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/PositionText.h"
-
 #include <gtest/gtest.h>
 
+#include "host/client/shell/PositionText.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 TEST(PositionText, ShowsDegreesMinutesAndHemisphere) {

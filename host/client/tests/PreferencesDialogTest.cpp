@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/PreferencesDialog.h"
-
-#include <gtest/gtest.h>
-
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <gtest/gtest.h>
+
+#include "host/client/shell/PreferencesDialog.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 class PreferencesDialogTest : public testing::Test {

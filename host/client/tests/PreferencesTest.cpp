@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
 #include "host/client/services/Preferences.h"
 #include "host/client/tests/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Client {
+
 namespace {
 
 TEST(Preferences, StartWithTheZoneInWhichTimesAreStored) {

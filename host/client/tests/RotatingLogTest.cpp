@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <tarvik/util/Clock.h>
+
 #include "host/client/services/RotatingLog.h"
 #include "host/client/tests/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-#include <tarvik/util/Clock.h>
-
 namespace Tarvik::Client {
+
 namespace {
 
 class FixedClock : public Util::Clock {

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/Icons.h"
-#include "host/client/shell/Theme.h"
-
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QImage>
 #include <QRegularExpression>
-
 #include <cmath>
 
+#include <gtest/gtest.h>
+
+#include "host/client/shell/Icons.h"
+#include "host/client/shell/Theme.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 double Luminance(const QColor& color) {

@@ -16,7 +16,7 @@ class BusyWaters {
     /// Marks every cell whose middle lies within `nm` nautical miles of a place.
     BusyWaters(const std::vector<GeoPoint>& places, double nm);
 
-    bool contains(GeoPoint p) const;
+    bool Contains(GeoPoint p) const;
 
   private:
     std::vector<char> cells_;

@@ -7,10 +7,11 @@
 #include <optional>
 #include <utility>
 
-#include "host/server/graph/SeaNetwork.h"
 #include "host/geo/Sphere.h"
+#include "host/server/graph/SeaNetwork.h"
 
 namespace Tarvik::Data {
+
 namespace {
 
 using Server::kDegree;
@@ -31,7 +32,7 @@ constexpr Measure kWild{4.0, 6.0};
 constexpr Measure kUsed{2.0, kOpenOffsetNm};
 constexpr Measure kIce{12.0, 16.0};
 
-GeoPoint unit(GeoPoint from, GeoPoint to) {
+GeoPoint Unit(GeoPoint from, GeoPoint to) {
     const double dx = (to.x - from.x) * std::cos(from.y * kDegree);
     const double dy = to.y - from.y;
     const double length = std::hypot(dx, dy);
@@ -39,7 +40,7 @@ GeoPoint unit(GeoPoint from, GeoPoint to) {
 }
 
 /// Distance in NM of p from the line a-b in the plane at p's latitude.
-double offLine(GeoPoint p, GeoPoint a, GeoPoint b) {
+double OffLine(GeoPoint p, GeoPoint a, GeoPoint b) {
     const double c = std::cos(p.y * kDegree);
     const double ux = (b.x - a.x) * c;
     const double uy = b.y - a.y;
@@ -50,7 +51,7 @@ double offLine(GeoPoint p, GeoPoint a, GeoPoint b) {
     return std::hypot(wx - t * ux, wy - t * uy) * Server::kNmPerDegree;
 }
 
-Ring unwrapped(const Ring& ring) {
+Ring Unwrapped(const Ring& ring) {
     Ring out;
     for (const GeoPoint p : ring) {
         const double shift = out.empty() ? 0.0 : 360.0 * std::round((out.back().x - p.x) / 360.0);
@@ -59,21 +60,24 @@ Ring unwrapped(const Ring& ring) {
     return out;
 }
 
-void keepBetween(const Ring& ring, size_t first, size_t last, double tolerance, std::vector<char>& keep) {
-    std::vector<std::pair<size_t, size_t>> open{{first, last}};
+void KeepBetween(const Ring& ring, std::size_t first, std::size_t last, double tolerance,
+                 std::vector<char>& keep) {
+    std::vector<std::pair<std::size_t, std::size_t>> open{{first, last}};
     while (!open.empty()) {
         const auto [a, b] = open.back();
         open.pop_back();
         double worst = tolerance;
-        size_t at = 0;
-        for (size_t i = a + 1; i < b; ++i) {
-            const double off = offLine(ring[i], ring[a], ring[b % ring.size()]);
+        std::size_t at = 0;
+        for (std::size_t i = a + 1; i < b; ++i) {
+            const double off = OffLine(ring[i], ring[a], ring[b % ring.size()]);
             if (off > worst) {
                 worst = off;
                 at = i;
             }
         }
-        if (at == 0) continue;
+        if (at == 0) {
+            continue;
+        }
         keep[at] = 1;
         open.emplace_back(a, at);
         open.emplace_back(at, b);
@@ -84,100 +88,121 @@ void keepBetween(const Ring& ring, size_t first, size_t last, double tolerance, 
 class CornerSet {
   public:
     /// The corner nearer than `nm` to a place; null when there is none. Valid until the next `add`.
-    Corner* near(GeoPoint p, double nm) {
-        const auto [cx, cy] = cell(p);
+    Corner* Near(GeoPoint p, double nm) {
+        const auto [cx, cy] = Cell(p);
         for (int x = cx - 1; x <= cx + 1; ++x) {
             for (int y = cy - 1; y <= cy + 1; ++y) {
                 const auto it = cells_.find({x, y});
-                if (it == cells_.end()) continue;
-                for (const size_t other : it->second) {
-                    if (Server::arcNm(p, corners[other].at) < nm) return &corners[other];
+                if (it == cells_.end()) {
+                    continue;
+                }
+                for (const std::size_t other : it->second) {
+                    if (Server::ArcNm(p, corners[other].at) < nm) {
+                        return &corners[other];
+                    }
                 }
             }
         }
         return nullptr;
     }
-    void add(const Corner& corner) {
-        cells_[cell(corner.at)].push_back(corners.size());
+    void Add(const Corner& corner) {
+        cells_[Cell(corner.at)].push_back(corners.size());
         corners.push_back(corner);
     }
     std::vector<Corner> corners;
 
   private:
-    static std::pair<int, int> cell(GeoPoint p) {
+    static std::pair<int, int> Cell(GeoPoint p) {
         return {static_cast<int>(std::floor(p.x * 4.0)), static_cast<int>(std::floor(p.y * 8.0))};
     }
-    std::map<std::pair<int, int>, std::vector<size_t>> cells_;
+    std::map<std::pair<int, int>, std::vector<std::size_t>> cells_;
 };
 
-std::optional<GeoPoint> moveSeaward(const Ring& ring, size_t i, double nm, const Server::LandIndex& index) {
+std::optional<GeoPoint> MoveSeaward(const Ring& ring, std::size_t i, double nm,
+                                    const Server::LandIndex& index) {
     const GeoPoint v = ring[i];
-    const GeoPoint a = unit(v, ring[(i + ring.size() - 1) % ring.size()]);
-    const GeoPoint b = unit(v, ring[(i + 1) % ring.size()]);
+    const GeoPoint a = Unit(v, ring[(i + ring.size() - 1) % ring.size()]);
+    const GeoPoint b = Unit(v, ring[(i + 1) % ring.size()]);
     const GeoPoint sum{-(a.x + b.x), -(a.y + b.y)};
-    if (std::hypot(sum.x, sum.y) < 0.02) return std::nullopt;  // the coast runs straight on here
+    if (std::hypot(sum.x, sum.y) < 0.02) {
+        return std::nullopt;  // the coast runs straight on here
+    }
     const double bearing = std::atan2(sum.x, sum.y) / kDegree;
     const GeoPoint out =
-        Server::roundPoint(Server::destination({Server::wrapLongitude(v.x), v.y}, bearing, nm));
-    if (index.isLand(out) || !index.isClear(out, 0.7 * nm)) return std::nullopt;
+        Server::RoundPoint(Server::Destination({Server::WrapLongitude(v.x), v.y}, bearing, nm));
+    if (index.IsLand(out) || !index.IsClear(out, 0.7 * nm)) {
+        return std::nullopt;
+    }
     return out;
 }
 
-void addCorner(const Ring& ring, size_t i, GeoPoint at, double apart, CornerSet& found) {
+void AddCorner(const Ring& ring, std::size_t i, GeoPoint at, double apart, CornerSet& found) {
     const GeoPoint v = ring[i];
-    const Corner corner{at, unit(v, ring[(i + ring.size() - 1) % ring.size()]),
-                        unit(v, ring[(i + 1) % ring.size()]), false};
+    const Corner corner{at, Unit(v, ring[(i + ring.size() - 1) % ring.size()]),
+                        Unit(v, ring[(i + 1) % ring.size()]), false};
     // One place stands for both capes then, and ways may bend round either.
-    if (Corner* other = found.near(at, apart)) {
+    if (Corner* other = found.Near(at, apart)) {
         other->shared = true;
     } else {
-        found.add(corner);
+        found.Add(corner);
     }
 }
 
 /// Capes with room to pass; only those in busy waters when `busy` is given.
-void addOpenCorners(const Ring& ring, const Server::LandIndex& index, double offsetNm, const BusyWaters* busy,
+void AddOpenCorners(const Ring& ring, const Server::LandIndex& index, double offsetNm, const BusyWaters* busy,
                     CornerSet& found) {
-    for (size_t i = 0; i < ring.size(); ++i) {
-        if (busy != nullptr && !busy->contains(ring[i])) continue;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        if (busy != nullptr && !busy->Contains(ring[i])) {
+            continue;
+        }
         for (const double nm : {offsetNm, 0.5 * offsetNm}) {
-            const auto at = moveSeaward(ring, i, nm, index);
-            if (!at) continue;
-            addCorner(ring, i, *at, nm * 0.7, found);
+            const auto at = MoveSeaward(ring, i, nm, index);
+            if (!at) {
+                continue;
+            }
+            AddCorner(ring, i, *at, nm * 0.7, found);
             break;
         }
     }
 }
 
-void addNarrowCorners(const Ring& ring, const Server::LandIndex& index, const BusyWaters& busy,
+void AddNarrowCorners(const Ring& ring, const Server::LandIndex& index, const BusyWaters& busy,
                       CornerSet& found) {
-    for (size_t i = 0; i < ring.size(); ++i) {
-        if (!busy.contains(ring[i])) continue;
-        if (const auto open = moveSeaward(ring, i, kOpenOffsetNm, index)) {
-            if (found.near(*open, kGapNm) == nullptr) addCorner(ring, i, *open, kGapNm, found);
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        if (!busy.Contains(ring[i])) {
+            continue;
+        }
+        if (const auto open = MoveSeaward(ring, i, kOpenOffsetNm, index)) {
+            if (found.Near(*open, kGapNm) == nullptr) {
+                AddCorner(ring, i, *open, kGapNm, found);
+            }
             continue;
         }
         for (const double nm : {0.8, 0.4, 0.2}) {
-            const auto at = moveSeaward(ring, i, nm, index);
-            if (!at) continue;
-            addCorner(ring, i, *at, 1.2, found);
+            const auto at = MoveSeaward(ring, i, nm, index);
+            if (!at) {
+                continue;
+            }
+            AddCorner(ring, i, *at, 1.2, found);
             break;
         }
     }
 }
 
-bool inReach(const Ring& ring) {
+bool InReach(const Ring& ring) {
     return std::any_of(ring.begin(), ring.end(),
                        [](GeoPoint p) { return p.y > Server::kSouthLimit && p.y < kNorthEnd; });
 }
 
 }  // namespace
 
-Ring simplifyRing(const Ring& ring, double toleranceNm) {
-    if (ring.size() < 3) return ring;
-    size_t far = 0;
+Ring SimplifyRing(const Ring& ring, double toleranceNm) {
+    if (ring.size() < 3) {
+        return ring;
+    }
+    std::size_t far = 0;
     double best = -1.0;
-    for (size_t i = 1; i < ring.size(); ++i) {
+    for (std::size_t i = 1; i < ring.size(); ++i) {
         const double nm = std::hypot(ring[i].x - ring[0].x, ring[i].y - ring[0].y);
         if (nm > best) {
             best = nm;
@@ -186,28 +211,34 @@ Ring simplifyRing(const Ring& ring, double toleranceNm) {
     }
     std::vector<char> keep(ring.size(), 0);
     keep[0] = keep[far] = 1;
-    keepBetween(ring, 0, far, toleranceNm, keep);
-    keepBetween(ring, far, ring.size(), toleranceNm, keep);
+    KeepBetween(ring, 0, far, toleranceNm, keep);
+    KeepBetween(ring, far, ring.size(), toleranceNm, keep);
     Ring out;
-    for (size_t i = 0; i < ring.size(); ++i) {
-        if (keep[i] != 0) out.push_back(ring[i]);
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        if (keep[i] != 0) {
+            out.push_back(ring[i]);
+        }
     }
     return out;
 }
 
-std::vector<Corner> findCorners(const std::vector<Polygon>& land, const Server::LandIndex& index,
+std::vector<Corner> FindCorners(const std::vector<Polygon>& land, const Server::LandIndex& index,
                                 const Waters& waters) {
     CornerSet found;
     for (const Polygon& polygon : land) {
         for (const Ring& raw : polygon) {
-            if (!inReach(raw)) continue;
-            const Ring ring = unwrapped(raw);
+            if (!InReach(raw)) {
+                continue;
+            }
+            const Ring ring = Unwrapped(raw);
             const bool ice = ring.front().y > Server::kNorthLimit;
             const Measure& wild = ice ? kIce : kWild;
-            addOpenCorners(simplifyRing(ring, wild.toleranceNm), index, wild.offsetNm, nullptr, found);
-            if (ice) continue;
-            addOpenCorners(simplifyRing(ring, kUsed.toleranceNm), index, kUsed.offsetNm, &waters.used, found);
-            addNarrowCorners(simplifyRing(ring, kFineNm), index, waters.busy, found);
+            AddOpenCorners(SimplifyRing(ring, wild.toleranceNm), index, wild.offsetNm, nullptr, found);
+            if (ice) {
+                continue;
+            }
+            AddOpenCorners(SimplifyRing(ring, kUsed.toleranceNm), index, kUsed.offsetNm, &waters.used, found);
+            AddNarrowCorners(SimplifyRing(ring, kFineNm), index, waters.busy, found);
         }
     }
     std::erase_if(found.corners,

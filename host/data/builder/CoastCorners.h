@@ -25,11 +25,11 @@ struct Waters {
 };
 
 /// The capes of the land, 3 nautical miles off in open water, 0.2 to 0.8 in narrow water.
-std::vector<Corner> findCorners(const std::vector<Polygon>& land, const Server::LandIndex& index,
+std::vector<Corner> FindCorners(const std::vector<Polygon>& land, const Server::LandIndex& index,
                                 const Waters& waters);
 
 /// A closed ring with only those points that matter at a tolerance in nautical miles (Douglas and Peucker's
 /// method).
-Ring simplifyRing(const Ring& ring, double toleranceNm);
+Ring SimplifyRing(const Ring& ring, double toleranceNm);
 
 }  // namespace Tarvik::Data

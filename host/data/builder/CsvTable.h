@@ -13,18 +13,18 @@ class CsvTable {
   public:
     explicit CsvTable(const std::string& text);
 
-    size_t size() const { return rows_.size(); }
+    std::size_t size() const { return rows_.size(); }
     /// A field by row and column name; empty where the row is short or the column does not exist.
-    std::string at(size_t row, const std::string& column) const;
+    std::string At(std::size_t row, const std::string& column) const;
 
-    static std::vector<std::string> splitLine(const std::string& line);
+    static std::vector<std::string> SplitLine(const std::string& line);
 
   private:
-    std::map<std::string, size_t> columns_;
+    std::map<std::string, std::size_t> columns_;
     std::vector<std::vector<std::string>> rows_;
 };
 
 /// Pieces of a text between separators; an empty text has none.
-std::vector<std::string> splitText(const std::string& text, char separator);
+std::vector<std::string> SplitText(const std::string& text, char separator);
 
 }  // namespace Tarvik::Data

@@ -17,25 +17,25 @@ class NetworkBuilder {
     NetworkBuilder(const Sources& sources, const std::vector<Polygon>& land);
 
     /// The whole network; the same input gives the same result.
-    Server::NetworkData build();
+    Server::NetworkData Build();
 
     /// What the input leaves to be wished for, a line each, after `build`.
-    const std::vector<std::string>& remarks() const { return remarks_; }
+    const std::vector<std::string>& Remarks() const { return remarks_; }
 
   private:
-    uint32_t nodeAt(GeoPoint at);
-    void addPassages(SpannerEdges& edges);
-    void addCapes();
-    void addLattice();
-    void addGroups(Server::NetworkData& data) const;
-    void addMasks(Server::NetworkData& data) const;
+    std::uint32_t NodeAt(GeoPoint at);
+    void AddPassages(SpannerEdges& edges);
+    void AddCapes();
+    void AddLattice();
+    void AddGroups(Server::NetworkData& data) const;
+    void AddMasks(Server::NetworkData& data) const;
 
     const Sources& sources_;
     const std::vector<Polygon>& land_;
     std::vector<std::vector<GeoPoint>> rings_;
     Server::LandIndex index_;
     std::vector<BuildNode> nodes_;
-    std::map<std::pair<double, double>, uint32_t> named_;
+    std::map<std::pair<double, double>, std::uint32_t> named_;
     std::vector<std::string> remarks_;
 };
 

@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "host/data/builder/PointDatabase.h"
 
+#include <filesystem>
+
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <fmt/format.h>
 
-#include <filesystem>
-
 namespace Tarvik::Data {
+
 namespace {
 
-std::string degrees(double value) {
+std::string Degrees(double value) {
     std::string text = fmt::format("{:.5f}", value);
     text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') text.pop_back();
+    if (text.back() == '.') {
+        text.pop_back();
+    }
     return text;
 }
 
@@ -22,13 +25,13 @@ class Inserter {
         : statement_(
               database,
               "insert into t_point(id,name,namecn,x,y,isport,origid,unlocode) values(?,?,?,?,?,?,?,?)") {}
-    void add(const std::string& id, const std::string& name, const std::string& namecn, GeoPoint at,
+    void Add(const std::string& id, const std::string& name, const std::string& namecn, GeoPoint at,
              const std::string& isPort, const std::string& origid, const std::string& unlocode) {
         statement_.bind(1, id);
         statement_.bind(2, name);
         statement_.bind(3, namecn);
-        statement_.bind(4, degrees(at.x));
-        statement_.bind(5, degrees(at.y));
+        statement_.bind(4, Degrees(at.x));
+        statement_.bind(5, Degrees(at.y));
         statement_.bind(6, isPort);
         statement_.bind(7, origid);
         statement_.bind(8, unlocode);
@@ -42,7 +45,7 @@ class Inserter {
 
 }  // namespace
 
-std::string writePointDatabase(const std::string& path, const Sources& sources) {
+std::string WritePointDatabase(const std::string& path, const Sources& sources) {
     try {
         std::filesystem::remove(path);
         SQLite::Database database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
@@ -52,10 +55,12 @@ std::string writePointDatabase(const std::string& path, const Sources& sources) 
             "create table t_point(id text primary key, name text, namecn text, x text, y text, isport text, "
             "origid text, unlocode text)");
         Inserter inserter(database);
-        for (const RoutePointSource& p : sources.routePoints)
-            inserter.add(p.id, p.name, p.namecn, p.at, "0", "0", "");
-        for (const PortSource& p : sources.ports)
-            inserter.add(p.id, p.name, p.namecn, p.at, "1", p.origid, p.unlocode);
+        for (const RoutePointSource& p : sources.routePoints) {
+            inserter.Add(p.id, p.name, p.namecn, p.at, "0", "0", "");
+        }
+        for (const PortSource& p : sources.ports) {
+            inserter.Add(p.id, p.name, p.namecn, p.at, "1", p.origid, p.unlocode);
+        }
         transaction.commit();
         return {};
     } catch (const std::exception& e) {

@@ -9,6 +9,6 @@ namespace Tarvik::Data {
 
 /// Writes the client's table of ports and route points, `t_point`, into a new SQLite file; returns an error
 /// text, empty on success. An existing file is replaced.
-std::string writePointDatabase(const std::string& path, const Sources& sources);
+std::string WritePointDatabase(const std::string& path, const Sources& sources);
 
 }  // namespace Tarvik::Data

@@ -19,31 +19,31 @@ class PortLinker {
 
     /// Adds the nodes and links of all ports; the result holds the node of each, nothing for a place too far
     /// inland.
-    std::vector<std::optional<uint32_t>> link(const std::vector<PortSource>& ports);
+    std::vector<std::optional<std::uint32_t>> Link(const std::vector<PortSource>& ports);
 
   private:
-    std::optional<uint32_t> linkOne(GeoPoint port);
+    std::optional<std::uint32_t> LinkOne(GeoPoint port);
     /// A place on the water that sees the network.
     struct Water {
         GeoPoint at;
-        double nm = 0.0;       ///< distance from the port
-        uint32_t nearest = 0;  ///< the nearest node in sight
-        int seen = 0;          ///< nodes in sight
-        double score() const;
+        double nm = 0.0;            ///< distance from the port
+        std::uint32_t nearest = 0;  ///< the nearest node in sight
+        int seen = 0;               ///< nodes in sight
+        double Score() const;
     };
-    void lookAround(GeoPoint port);
-    std::optional<Water> lookFrom(GeoPoint place, double nm) const;
+    void LookAround(GeoPoint port);
+    std::optional<Water> LookFrom(GeoPoint place, double nm) const;
     /// The water near the port from which ships get away best: a dock sees little, the roads before it all
     /// round.
-    std::optional<Water> findWater(GeoPoint port);
-    uint32_t nearestWayNode(GeoPoint port, double& nm) const;
+    std::optional<Water> FindWater(GeoPoint port);
+    std::uint32_t NearestWayNode(GeoPoint port, double& nm) const;
 
     std::vector<BuildNode>& nodes_;
     SpannerEdges& edges_;
     const Server::LandIndex& land_;
-    std::vector<uint32_t> wayNodes_;
-    std::vector<uint32_t> seaNodes_;
-    std::vector<std::pair<double, uint32_t>> around_;
+    std::vector<std::uint32_t> wayNodes_;
+    std::vector<std::uint32_t> seaNodes_;
+    std::vector<std::pair<double, std::uint32_t>> around_;
 };
 
 }  // namespace Tarvik::Data

@@ -53,7 +53,7 @@ struct Sources {
 
 /// Reads the hand-made files of `folder` and the ports of the fetched JSON file; nothing and an error text
 /// naming file and line when one of them is missing or wrong.
-std::optional<Sources> readSources(const std::string& folder, const std::string& portsJson,
+std::optional<Sources> ReadSources(const std::string& folder, const std::string& portsJson,
                                    std::string& error);
 
 }  // namespace Tarvik::Data

@@ -8,6 +8,7 @@
 #include <tuple>
 
 namespace Tarvik::Data {
+
 namespace {
 
 constexpr double kReachNm = 600.0;
@@ -23,23 +24,26 @@ SpannerEdges::SpannerEdges(const std::vector<BuildNode>& nodes, const Server::La
 }
 
 void SpannerEdges::extend() {
-    for (size_t i = vectors_.size(); i < nodes_.size(); ++i)
-        vectors_.push_back(Server::toVector(nodes_[i].at));
+    for (std::size_t i = vectors_.size(); i < nodes_.size(); ++i) {
+        vectors_.push_back(Server::ToVector(nodes_[i].at));
+    }
     neighbours_.resize(nodes_.size());
     reached_.resize(nodes_.size(), std::numeric_limits<float>::infinity());
 }
 
-void SpannerEdges::addFixed(uint32_t a, uint32_t b, Server::EdgeKind kind) {
+void SpannerEdges::AddFixed(std::uint32_t a, std::uint32_t b, Server::EdgeKind kind) {
     extend();
-    const auto nm = static_cast<float>(Server::arcNm(vectors_[a], vectors_[b]));
+    const auto nm = static_cast<float>(Server::ArcNm(vectors_[a], vectors_[b]));
     neighbours_[a].push_back({b, nm});
     neighbours_[b].push_back({a, nm});
     edges_.push_back({a, b, nm, 0, kind});
 }
 
-bool SpannerEdges::worthHaving(uint32_t node, uint32_t other) const {
+bool SpannerEdges::WorthHaving(std::uint32_t node, std::uint32_t other) const {
     const BuildNode& n = nodes_[node];
-    if (!n.corner) return true;
+    if (!n.corner) {
+        return true;
+    }
     // The direction of the great circle at the corner, as east and north.
     const Server::UnitVector& v = vectors_[node];
     const Server::UnitVector& w = vectors_[other];
@@ -49,30 +53,40 @@ bool SpannerEdges::worthHaving(uint32_t node, uint32_t other) const {
     const Server::UnitVector north{-std::sin(lat) * std::cos(lon), -std::sin(lat) * std::sin(lon),
                                    std::cos(lat)};
     const Server::UnitVector d{w.x - v.x, w.y - v.y, w.z - v.z};
-    const double e = Server::dot(d, east);
-    const double m = Server::dot(d, north);
+    const double e = Server::Dot(d, east);
+    const double m = Server::Dot(d, north);
     const double length = std::hypot(e, m);
-    if (length == 0.0) return false;
+    if (length == 0.0) {
+        return false;
+    }
     const double a = (e * n.toPrevious.y - m * n.toPrevious.x) / length;
     const double b = (e * n.toNext.y - m * n.toNext.x) / length;
     return !((a > kTangentSlack && b < -kTangentSlack) || (a < -kTangentSlack && b > kTangentSlack));
 }
 
-std::vector<SpannerEdges::Pair> SpannerEdges::pairsInReach(uint32_t firstNew) const {
+std::vector<SpannerEdges::Pair> SpannerEdges::PairsInReach(std::uint32_t firstNew) const {
     const double limit = std::cos(kReachNm / Server::kNmPerDegree * Server::kDegree);
-    std::vector<uint32_t> free;
-    for (uint32_t i = 0; i < nodes_.size(); ++i) {
-        if (nodes_[i].free) free.push_back(i);
+    std::vector<std::uint32_t> free;
+    for (std::uint32_t i = 0; i < nodes_.size(); ++i) {
+        if (nodes_[i].free) {
+            free.push_back(i);
+        }
     }
     std::vector<Pair> pairs;
-    for (size_t k = 0; k < free.size(); ++k) {
-        const uint32_t b = free[k];
-        if (b < firstNew) continue;
-        for (size_t i = 0; i < k; ++i) {
-            const uint32_t a = free[i];
-            if (Server::dot(vectors_[a], vectors_[b]) < limit) continue;
-            if (!worthHaving(a, b) || !worthHaving(b, a)) continue;
-            pairs.push_back({static_cast<float>(Server::arcNm(vectors_[a], vectors_[b])), a, b});
+    for (std::size_t k = 0; k < free.size(); ++k) {
+        const std::uint32_t b = free[k];
+        if (b < firstNew) {
+            continue;
+        }
+        for (std::size_t i = 0; i < k; ++i) {
+            const std::uint32_t a = free[i];
+            if (Server::Dot(vectors_[a], vectors_[b]) < limit) {
+                continue;
+            }
+            if (!WorthHaving(a, b) || !WorthHaving(b, a)) {
+                continue;
+            }
+            pairs.push_back({static_cast<float>(Server::ArcNm(vectors_[a], vectors_[b])), a, b});
         }
     }
     std::sort(pairs.begin(), pairs.end(), [](const Pair& l, const Pair& r) {
@@ -81,22 +95,27 @@ std::vector<SpannerEdges::Pair> SpannerEdges::pairsInReach(uint32_t firstNew) co
     return pairs;
 }
 
-bool SpannerEdges::hasShortDetour(const Pair& pair) const {
+bool SpannerEdges::HasShortDetour(const Pair& pair) const {
     const float limit = pair.nm * kStretch;
     for (const Neighbour& first : neighbours_[pair.a]) {
-        if (first.node == pair.b) return true;
-        if (first.nm + static_cast<float>(Server::arcNm(vectors_[first.node], vectors_[pair.b])) > limit)
+        if (first.node == pair.b) {
+            return true;
+        }
+        if (first.nm + static_cast<float>(Server::ArcNm(vectors_[first.node], vectors_[pair.b])) > limit) {
             continue;
+        }
         for (const Neighbour& second : neighbours_[first.node]) {
-            if (second.node == pair.b && first.nm + second.nm <= limit) return true;
+            if (second.node == pair.b && first.nm + second.nm <= limit) {
+                return true;
+            }
         }
     }
     return false;
 }
 
-bool SpannerEdges::searchDetour(const Pair& pair) {
+bool SpannerEdges::SearchDetour(const Pair& pair) {
     const float limit = pair.nm * kStretch;
-    using Item = std::tuple<float, float, uint32_t>;
+    using Item = std::tuple<float, float, std::uint32_t>;
     std::priority_queue<Item, std::vector<Item>, std::greater<>> open;
     touched_.assign(1, pair.a);
     reached_[pair.a] = 0.0F;
@@ -105,47 +124,61 @@ bool SpannerEdges::searchDetour(const Pair& pair) {
     while (!open.empty() && !found) {
         const auto [estimate, nm, at] = open.top();
         open.pop();
-        if (nm > reached_[at]) continue;
+        if (nm > reached_[at]) {
+            continue;
+        }
         for (const Neighbour& next : neighbours_[at]) {
             const float sum = nm + next.nm;
-            if (sum >= reached_[next.node]) continue;
-            const float rest = static_cast<float>(Server::arcNm(vectors_[next.node], vectors_[pair.b]));
-            if (sum + rest > limit) continue;
+            if (sum >= reached_[next.node]) {
+                continue;
+            }
+            const float rest = static_cast<float>(Server::ArcNm(vectors_[next.node], vectors_[pair.b]));
+            if (sum + rest > limit) {
+                continue;
+            }
             found = found || next.node == pair.b;
             reached_[next.node] = sum;
             touched_.push_back(next.node);
             open.emplace(sum + rest, sum, next.node);
         }
     }
-    for (const uint32_t node : touched_) reached_[node] = std::numeric_limits<float>::infinity();
+    for (const std::uint32_t node : touched_) {
+        reached_[node] = std::numeric_limits<float>::infinity();
+    }
     return found;
 }
 
-void SpannerEdges::connect(uint32_t firstNew) {
+void SpannerEdges::Connect(std::uint32_t firstNew) {
     extend();
-    for (const Pair& pair : pairsInReach(firstNew)) {
-        if (hasShortDetour(pair) || land_.blocks(nodes_[pair.a].at, nodes_[pair.b].at) || searchDetour(pair))
+    for (const Pair& pair : PairsInReach(firstNew)) {
+        if (HasShortDetour(pair) || land_.Blocks(nodes_[pair.a].at, nodes_[pair.b].at) ||
+            SearchDetour(pair)) {
             continue;
-        addFixed(pair.a, pair.b, Server::EdgeKind::Sea);
+        }
+        AddFixed(pair.a, pair.b, Server::EdgeKind::Sea);
     }
 }
 
-std::vector<uint32_t> SpannerEdges::components(std::vector<uint32_t>& sizes) const {
-    constexpr uint32_t kUnset = std::numeric_limits<uint32_t>::max();
-    std::vector<uint32_t> part(neighbours_.size(), kUnset);
+std::vector<std::uint32_t> SpannerEdges::Components(std::vector<std::uint32_t>& sizes) const {
+    constexpr std::uint32_t kUnset = std::numeric_limits<std::uint32_t>::max();
+    std::vector<std::uint32_t> part(neighbours_.size(), kUnset);
     sizes.clear();
-    for (uint32_t i = 0; i < part.size(); ++i) {
-        if (part[i] != kUnset) continue;
-        const auto number = static_cast<uint32_t>(sizes.size());
+    for (std::uint32_t i = 0; i < part.size(); ++i) {
+        if (part[i] != kUnset) {
+            continue;
+        }
+        const auto number = static_cast<std::uint32_t>(sizes.size());
         sizes.push_back(0);
-        std::vector<uint32_t> open{i};
+        std::vector<std::uint32_t> open{i};
         part[i] = number;
         while (!open.empty()) {
-            const uint32_t at = open.back();
+            const std::uint32_t at = open.back();
             open.pop_back();
             ++sizes[number];
             for (const Neighbour& next : neighbours_[at]) {
-                if (part[next.node] != kUnset) continue;
+                if (part[next.node] != kUnset) {
+                    continue;
+                }
                 part[next.node] = number;
                 open.push_back(next.node);
             }

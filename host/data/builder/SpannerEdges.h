@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "host/geo/LandIndex.h"
-#include "host/server/graph/NetworkData.h"
 #include "host/geo/Sphere.h"
+#include "host/server/graph/NetworkData.h"
 
 namespace Tarvik::Data {
 
@@ -32,29 +32,29 @@ class SpannerEdges {
     SpannerEdges(const std::vector<BuildNode>& nodes, const Server::LandIndex& land);
 
     /// Takes an edge as it is.
-    void addFixed(uint32_t a, uint32_t b, Server::EdgeKind kind);
+    void AddFixed(std::uint32_t a, std::uint32_t b, Server::EdgeKind kind);
 
     /// Joins all nodes in reach of each other of which at least one has a number from `firstNew` on.
-    void connect(uint32_t firstNew);
+    void Connect(std::uint32_t firstNew);
 
-    const std::vector<Server::NetworkEdge>& edges() const { return edges_; }
+    const std::vector<Server::NetworkEdge>& Edges() const { return edges_; }
     /// For every node the number of its connected part, and the sizes of the parts.
-    std::vector<uint32_t> components(std::vector<uint32_t>& sizes) const;
+    std::vector<std::uint32_t> Components(std::vector<std::uint32_t>& sizes) const;
 
   private:
     struct Pair {
         float nm;
-        uint32_t a;
-        uint32_t b;
+        std::uint32_t a;
+        std::uint32_t b;
     };
     struct Neighbour {
-        uint32_t node;
+        std::uint32_t node;
         float nm;
     };
-    std::vector<Pair> pairsInReach(uint32_t firstNew) const;
-    bool worthHaving(uint32_t node, uint32_t other) const;
-    bool hasShortDetour(const Pair& pair) const;
-    bool searchDetour(const Pair& pair);
+    std::vector<Pair> PairsInReach(std::uint32_t firstNew) const;
+    bool WorthHaving(std::uint32_t node, std::uint32_t other) const;
+    bool HasShortDetour(const Pair& pair) const;
+    bool SearchDetour(const Pair& pair);
     void extend();
 
     const std::vector<BuildNode>& nodes_;
@@ -63,7 +63,7 @@ class SpannerEdges {
     std::vector<std::vector<Neighbour>> neighbours_;
     std::vector<Server::NetworkEdge> edges_;
     std::vector<float> reached_;
-    std::vector<uint32_t> touched_;
+    std::vector<std::uint32_t> touched_;
 };
 
 }  // namespace Tarvik::Data

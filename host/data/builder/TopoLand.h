@@ -16,6 +16,6 @@ using Polygon = std::vector<Ring>;
 
 /// Reads the object "land" of a TopoJSON text: polygons with positions rounded to 5 decimals, closed
 /// implicitly. Nothing and an error text when the text is not such a file.
-std::optional<std::vector<Polygon>> readTopoLand(const std::string& text, std::string& error);
+std::optional<std::vector<Polygon>> ReadTopoLand(const std::string& text, std::string& error);
 
 }  // namespace Tarvik::Data

@@ -1,29 +1,29 @@
 // SPDX-License-Identifier: MIT
 // seaplan-build-data: makes trvdb.db, network.bin and land.bin from the fetched and the hand-made sources.
-#include <fmt/format.h>
-
 #include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <set>
 
-#include "host/geo/LandFile.h"
+#include <fmt/format.h>
+
 #include "host/data/builder/LandCutter.h"
 #include "host/data/builder/NetworkBuilder.h"
 #include "host/data/builder/PointDatabase.h"
 #include "host/data/builder/TopoLand.h"
+#include "host/geo/LandFile.h"
 #include "host/server/graph/SeaNetworkFile.h"
 
 namespace {
 
 using Tarvik::Data::Polygon;
 
-int fail(const std::string& message) {
+int Fail(const std::string& message) {
     fmt::print(stderr, "seaplan-build-data: {}\n", message);
     return 1;
 }
 
-std::optional<std::vector<Polygon>> readLand(const std::string& modules, const char* scale,
+std::optional<std::vector<Polygon>> ReadLand(const std::string& modules, const char* scale,
                                              std::string& error) {
     const std::string path = fmt::format("{}/world-atlas/land-{}.json", modules, scale);
     std::ifstream file(path, std::ios::binary);
@@ -31,41 +31,55 @@ std::optional<std::vector<Polygon>> readLand(const std::string& modules, const c
         error = "cannot open " + path;
         return std::nullopt;
     }
-    return Tarvik::Data::readTopoLand(
+    return Tarvik::Data::ReadTopoLand(
         {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()}, error);
 }
 
 /// The client offers only ports that the network reaches.
-void keepReached(Tarvik::Data::Sources& sources, const Tarvik::Server::NetworkData& network) {
+void KeepReached(Tarvik::Data::Sources& sources, const Tarvik::Server::NetworkData& network) {
     std::set<std::string> reached;
-    for (const Tarvik::Server::NetworkPort& port : network.ports) reached.insert(port.id);
+    for (const Tarvik::Server::NetworkPort& port : network.ports) {
+        reached.insert(port.id);
+    }
     std::erase_if(sources.ports,
                   [&](const Tarvik::Data::PortSource& port) { return !reached.contains(port.id); });
 }
 
-int build(const std::string& folder, const std::string& modules, const std::string& output) {
+int Build(const std::string& folder, const std::string& modules, const std::string& output) {
     std::string error;
-    auto sources = Tarvik::Data::readSources(folder, modules + "/sea-ports/lib/ports.json", error);
-    if (!sources) return fail(error);
+    auto sources = Tarvik::Data::ReadSources(folder, modules + "/sea-ports/lib/ports.json", error);
+    if (!sources) {
+        return Fail(error);
+    }
     Tarvik::Data::LandFile chart;
     std::vector<Polygon> finest;
     const char* scales[] = {"110m", "50m", "10m"};
-    for (size_t i = 0; i < chart.levels.size(); ++i) {
-        auto land = readLand(modules, scales[i], error);
-        if (!land) return fail(error);
-        chart.levels[i] = Tarvik::Data::cutIntoCells(*land);
-        chart.coasts[i] = Tarvik::Data::cutIntoCoasts(*land);
+    for (std::size_t i = 0; i < chart.levels.size(); ++i) {
+        auto land = ReadLand(modules, scales[i], error);
+        if (!land) {
+            return Fail(error);
+        }
+        chart.levels[i] = Tarvik::Data::CutIntoCells(*land);
+        chart.coasts[i] = Tarvik::Data::CutIntoCoasts(*land);
         finest = std::move(*land);
     }
-    error = chart.save(output + "/land.bin");
-    if (!error.empty()) return fail(error);
+    error = chart.Save(output + "/land.bin");
+    if (!error.empty()) {
+        return Fail(error);
+    }
     Tarvik::Data::NetworkBuilder builder(*sources, finest);
-    const Tarvik::Server::NetworkData network = builder.build();
-    for (const std::string& remark : builder.remarks()) fmt::print("{}\n", remark);
-    keepReached(*sources, network);
-    error = Tarvik::Data::writePointDatabase(output + "/trvdb.db", *sources);
-    if (error.empty()) error = Tarvik::Server::SeaNetworkFile::write(output + "/network.bin", network);
-    if (!error.empty()) return fail(error);
+    const Tarvik::Server::NetworkData network = builder.Build();
+    for (const std::string& remark : builder.Remarks()) {
+        fmt::print("{}\n", remark);
+    }
+    KeepReached(*sources, network);
+    error = Tarvik::Data::WritePointDatabase(output + "/trvdb.db", *sources);
+    if (error.empty()) {
+        error = Tarvik::Server::SeaNetworkFile::Write(output + "/network.bin", network);
+    }
+    if (!error.empty()) {
+        return Fail(error);
+    }
     fmt::print("{} nodes, {} edges, {} ports, {} route points\n", network.nodes.size(), network.edges.size(),
                network.ports.size(), network.routePoints.size());
     return 0;
@@ -74,6 +88,8 @@ int build(const std::string& folder, const std::string& modules, const std::stri
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 4) return fail("usage: seaplan-build-data SOURCE_FOLDER NODE_MODULES OUTPUT_FOLDER");
-    return build(argv[1], argv[2], argv[3]);
+    if (argc != 4) {
+        return Fail("usage: seaplan-build-data SOURCE_FOLDER NODE_MODULES OUTPUT_FOLDER");
+    }
+    return Build(argv[1], argv[2], argv[3]);
 }

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 // The sea network as it is shipped. Published distances are those of NGA Pub. 151, "Distances Between Ports",
 // 11th edition 2001.
-#include <gmock/gmock.h>
-
 #include <cmath>
 #include <map>
 
-#include "host/geo/LandFile.h"
+#include <gmock/gmock.h>
+
 #include "host/data/tests/CoastCheck.h"
+#include "host/geo/LandFile.h"
 #include "host/server/graph/RouteEngine.h"
 
 namespace Tarvik::Data {
+
 namespace {
 
 using Server::kRouteOk;
@@ -22,27 +23,31 @@ class BuiltNetworkTest : public ::testing::Test {
   protected:
     static void SetUpTestSuite() {
         std::string error;
-        network_ = SeaNetwork::load(SHARE_FOLDER "/network.bin", error);
+        network_ = SeaNetwork::Load(SHARE_FOLDER "/network.bin", error);
         ASSERT_TRUE(network_) << error;
     }
     static void TearDownTestSuite() { network_.reset(); }
     static const Server::NetworkData& data() { return network_->data(); }
     static std::string idOf(const std::string& unlocode) {
         for (const Server::NetworkPort& port : data().ports) {
-            if (port.unlocode == unlocode) return port.id;
+            if (port.unlocode == unlocode) {
+                return port.id;
+            }
         }
         ADD_FAILURE() << "no port " << unlocode;
         return {};
     }
     static Server::PlannedStop legBetween(const std::string& from, const std::string& to) {
         const RouteResult result =
-            Server::RouteEngine(network_).plan({{idOf(from), {}, {}}, {idOf(to), {}, {}}});
+            Server::RouteEngine(network_).Plan({{idOf(from), {}, {}}, {idOf(to), {}, {}}});
         EXPECT_EQ(result.error, kRouteOk) << from << " " << to << ": " << result.message;
         return result.error == kRouteOk ? result.stops[1] : Server::PlannedStop{};
     }
     static std::string pointNamed(const std::string& name) {
         for (const Server::RoutePoint& point : data().routePoints) {
-            if (point.name == name) return point.id;
+            if (point.name == name) {
+                return point.id;
+            }
         }
         return "none";
     }
@@ -70,10 +75,12 @@ TEST_F(BuiltNetworkTest, RotterdamToSingaporeLeadsThroughSuezAndOffersTheCape) {
     EXPECT_THAT(leg.passedIds, Contains(suez));
     EXPECT_THAT(leg.passedIds, Contains(pointNamed("Strait of Gibraltar")));
     for (const auto& group : leg.groups) {
-        if (group.rpId != suez) continue;
+        if (group.rpId != suez) {
+            continue;
+        }
         EXPECT_THAT(group.alternatives, Contains(pointNamed("Cape of Good Hope")));
     }
-    const RouteResult cape = Server::RouteEngine(network_).plan(
+    const RouteResult cape = Server::RouteEngine(network_).Plan(
         {{idOf("NLRTM"), {}, {}},
          {idOf("SGSIN"), {}, {{pointNamed("Cape of Good Hope"), idOf("NLRTM") + "," + idOf("SGSIN")}}}});
     ASSERT_EQ(cape.error, kRouteOk) << cape.message;
@@ -83,10 +90,12 @@ TEST_F(BuiltNetworkTest, RotterdamToSingaporeLeadsThroughSuezAndOffersTheCape) {
 TEST_F(BuiltNetworkTest, ShanghaiToLosAngelesCrossesTheDateLine) {
     const Server::PlannedStop leg = legBetween("CNSHA", "USLAX");
     EXPECT_LT(leg.distanceKm / Server::kKmPerNm, 6100);
-    size_t crossings = 0;
+    std::size_t crossings = 0;
     for (const auto& piece : leg.legs) {
-        for (size_t i = 1; i < piece.points.size(); ++i) {
-            if (std::abs(piece.points[i].x - piece.points[i - 1].x) < 180.0) continue;
+        for (std::size_t i = 1; i < piece.points.size(); ++i) {
+            if (std::abs(piece.points[i].x - piece.points[i - 1].x) < 180.0) {
+                continue;
+            }
             ++crossings;
             EXPECT_EQ(piece.points[i - 1].x, 180.0);
             EXPECT_EQ(piece.points[i].x, -180.0);
@@ -101,7 +110,7 @@ TEST_F(BuiltNetworkTest, EveryPortIsReachedFromRotterdam) {
     const std::string rotterdam = idOf("NLRTM");
     ASSERT_GT(data().ports.size(), 1400u);
     for (const Server::NetworkPort& port : data().ports) {
-        const RouteResult result = engine.plan({{rotterdam, {}, {}}, {port.id, {}, {}}});
+        const RouteResult result = engine.Plan({{rotterdam, {}, {}}, {port.id, {}, {}}});
         EXPECT_EQ(result.error, kRouteOk) << port.name << ": " << result.message;
     }
 }
@@ -130,13 +139,13 @@ TEST_F(BuiltNetworkTest, TwoHundredRandomRoutesNeverCrossLand) {
     const LineCells byHand = handMadeWays(data());
     ASSERT_FALSE(coast.meetings({-10, 40}, {-3, 40}).empty()) << "a line into Spain must meet its coast";
     const Server::RouteEngine engine(network_);
-    uint32_t seed = 20240229;
+    std::uint32_t seed = 20240229;
     const auto next = [&seed] { return (seed = seed * 1664525U + 1013904223U) >> 8; };
     const auto& ports = data().ports;
     for (int i = 0; i < 200; ++i) {
         const auto& from = ports[next() % ports.size()];
         const auto& to = ports[next() % ports.size()];
-        const RouteResult result = engine.plan({{from.id, {}, {}}, {to.id, {}, {}}});
+        const RouteResult result = engine.Plan({{from.id, {}, {}}, {to.id, {}, {}}});
         ASSERT_EQ(result.error, kRouteOk) << result.message;
         checkLeg(result.stops[1], coast, byHand, from.name + " - " + to.name);
     }
@@ -144,19 +153,23 @@ TEST_F(BuiltNetworkTest, TwoHundredRandomRoutesNeverCrossLand) {
 
 TEST_F(BuiltNetworkTest, LinksToPortsAreShort) {
     for (const Server::NetworkEdge& e : data().edges) {
-        if (e.kind != Server::EdgeKind::Link) continue;
+        if (e.kind != Server::EdgeKind::Link) {
+            continue;
+        }
         EXPECT_LE(e.nm, 38.5F) << data().nodes[e.a].x << " " << data().nodes[e.a].y;
     }
 }
 
 TEST_F(BuiltNetworkTest, TheLandFileHasEveryLevelFinerThanTheOneBefore) {
     std::string error;
-    const auto land = LandFile::load(SHARE_FOLDER "/land.bin", error);
+    const auto land = LandFile::Load(SHARE_FOLDER "/land.bin", error);
     ASSERT_TRUE(land) << error;
-    size_t before = 0;
+    std::size_t before = 0;
     for (const auto& coasts : land->coasts) {
-        size_t points = 0;
-        for (const auto& line : coasts) points += line.points.size();
+        std::size_t points = 0;
+        for (const auto& line : coasts) {
+            points += line.points.size();
+        }
         EXPECT_GT(points, 2 * before);
         before = points;
     }

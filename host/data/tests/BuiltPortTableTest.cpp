@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 // The table of ports and route points as it is shipped.
-#include <gtest/gtest.h>
-#include <sqlite3.h>
-
 #include <cstdlib>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
 namespace Tarvik::Data {
+
 namespace {
 
 using Row = std::vector<std::string>;
@@ -20,7 +21,9 @@ std::vector<Row> query(const char* sql) {
     EXPECT_EQ(sqlite3_open_v2(SHARE_FOLDER "/trvdb.db", &database, SQLITE_OPEN_READONLY, nullptr), SQLITE_OK);
     const auto take = [](void* target, int columns, char** values, char**) {
         Row& row = static_cast<std::vector<Row>*>(target)->emplace_back();
-        for (int i = 0; i < columns; ++i) row.emplace_back(values[i] ? values[i] : "(null)");
+        for (int i = 0; i < columns; ++i) {
+            row.emplace_back(values[i] ? values[i] : "(null)");
+        }
         return 0;
     };
     EXPECT_EQ(sqlite3_exec(database, sql, take, &rows, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
@@ -36,8 +39,12 @@ TEST(BuiltPortTable, HoldsTheGreatPortsUnderTheirUsualNames) {
         {"ZACPT", "Cape Town"}, {"USHOU", "Houston"},   {"AEDXB", "Dubai"},    {"AEJEA", "Jebel Ali"},
         {"INBOM", "Mumbai"},    {"HKHKG", "Hong Kong"}, {"CNNGB", "Ningbo"}};
     std::map<std::string, std::string> names;
-    for (const Row& row : query("select unlocode,name from t_point where isport='1'")) names[row[0]] = row[1];
-    for (const auto& [code, name] : expected) EXPECT_EQ(names[code], name) << code;
+    for (const Row& row : query("select unlocode,name from t_point where isport='1'")) {
+        names[row[0]] = row[1];
+    }
+    for (const auto& [code, name] : expected) {
+        EXPECT_EQ(names[code], name) << code;
+    }
 }
 
 TEST(BuiltPortTable, PortIdsHaveFiveDigitsFromFortyThousandAndRoutePointIdsLieBelow) {
@@ -51,13 +58,16 @@ TEST(BuiltPortTable, PortIdsHaveFiveDigitsFromFortyThousandAndRoutePointIdsLieBe
 
 TEST(BuiltPortTable, HoldsTheGreatCanalsAndStraits) {
     std::set<std::string> names;
-    for (const Row& row : query("select name from t_point where isport='0'")) names.insert(row[0]);
+    for (const Row& row : query("select name from t_point where isport='0'")) {
+        names.insert(row[0]);
+    }
     EXPECT_GE(names.size(), 60u);
     for (const char* name :
          {"Suez Canal", "Panama Canal", "Kiel Canal", "Strait of Gibraltar", "Dover Strait", "Bosporus",
           "Bab-el-Mandeb", "Strait of Hormuz", "Singapore Strait", "Sunda Strait", "Cape of Good Hope",
-          "Cape Horn", "Strait of Magellan", "Torres Strait", "Bering Strait"})
+          "Cape Horn", "Strait of Magellan", "Torres Strait", "Bering Strait"}) {
         EXPECT_EQ(names.count(name), 1u) << name;
+    }
 }
 
 TEST(BuiltPortTable, NamesAreUniqueAndNothingIsEmpty) {
@@ -66,7 +76,9 @@ TEST(BuiltPortTable, NamesAreUniqueAndNothingIsEmpty) {
     for (const Row& row : query("select id,name,namecn,x,y from t_point")) {
         EXPECT_TRUE(ids.insert(row[0]).second) << row[0];
         EXPECT_TRUE(names.insert(row[1]).second) << row[1];
-        for (const std::string& field : row) EXPECT_FALSE(field.empty() || field == "(null)") << row[0];
+        for (const std::string& field : row) {
+            EXPECT_FALSE(field.empty() || field == "(null)") << row[0];
+        }
         EXPECT_LE(std::abs(std::atof(row[3].c_str())), 180.0) << row[1];
         EXPECT_LE(std::abs(std::atof(row[4].c_str())), 90.0) << row[1];
     }
@@ -87,7 +99,9 @@ TEST(BuiltPortTable, ChineseNamesStandBesideTheGreatPorts) {
     const auto rows =
         query("select namecn from t_point where name in ('Shanghai','Rotterdam','Suez Canal') order by id");
     ASSERT_EQ(rows.size(), 3u);
-    for (const Row& row : rows) EXPECT_GT(static_cast<unsigned char>(row[0][0]), 0x7FU) << row[0];
+    for (const Row& row : rows) {
+        EXPECT_GT(static_cast<unsigned char>(row[0][0]), 0x7FU) << row[0];
+    }
 }
 
 }  // namespace

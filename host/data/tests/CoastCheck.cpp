@@ -5,9 +5,10 @@
 #include <cmath>
 
 namespace Tarvik::Data {
+
 namespace {
 
-int cellOf(double degrees) {
+int CellOf(double degrees) {
     return static_cast<int>(std::floor(degrees));
 }
 
@@ -30,22 +31,27 @@ double distance(GeoPoint p, GeoPoint a, GeoPoint b) {
 }  // namespace
 
 void LineCells::add(GeoPoint a, GeoPoint b) {
-    for (int x = cellOf(std::min(a.x, b.x)); x <= cellOf(std::max(a.x, b.x)); ++x) {
-        for (int y = cellOf(std::min(a.y, b.y)); y <= cellOf(std::max(a.y, b.y)); ++y)
+    for (int x = CellOf(std::min(a.x, b.x)); x <= CellOf(std::max(a.x, b.x)); ++x) {
+        for (int y = CellOf(std::min(a.y, b.y)); y <= CellOf(std::max(a.y, b.y)); ++y) {
             cells_[{x, y}].emplace_back(a, b);
+        }
     }
 }
 
 std::vector<GeoPoint> LineCells::meetings(GeoPoint a, GeoPoint b) const {
     std::vector<GeoPoint> found;
-    for (int x = cellOf(std::min(a.x, b.x)); x <= cellOf(std::max(a.x, b.x)); ++x) {
-        for (int y = cellOf(std::min(a.y, b.y)); y <= cellOf(std::max(a.y, b.y)); ++y) {
+    for (int x = CellOf(std::min(a.x, b.x)); x <= CellOf(std::max(a.x, b.x)); ++x) {
+        for (int y = CellOf(std::min(a.y, b.y)); y <= CellOf(std::max(a.y, b.y)); ++y) {
             const auto cell = cells_.find({x, y});
-            if (cell == cells_.end()) continue;
+            if (cell == cells_.end()) {
+                continue;
+            }
             for (const auto& [c, d] : cell->second) {
                 const double sideC = cross(a, b, c);
                 const double sideD = cross(a, b, d);
-                if (sideC * sideD > 0 || cross(c, d, a) * cross(c, d, b) > 0 || sideC == sideD) continue;
+                if (sideC * sideD > 0 || cross(c, d, a) * cross(c, d, b) > 0 || sideC == sideD) {
+                    continue;
+                }
                 const double t = sideC / (sideC - sideD);
                 found.push_back({c.x + t * (d.x - c.x), c.y + t * (d.y - c.y)});
             }
@@ -55,12 +61,16 @@ std::vector<GeoPoint> LineCells::meetings(GeoPoint a, GeoPoint b) const {
 }
 
 bool LineCells::passesNear(GeoPoint p, double degrees) const {
-    for (int x = cellOf(p.x) - 1; x <= cellOf(p.x) + 1; ++x) {
-        for (int y = cellOf(p.y) - 1; y <= cellOf(p.y) + 1; ++y) {
+    for (int x = CellOf(p.x) - 1; x <= CellOf(p.x) + 1; ++x) {
+        for (int y = CellOf(p.y) - 1; y <= CellOf(p.y) + 1; ++y) {
             const auto cell = cells_.find({x, y});
-            if (cell == cells_.end()) continue;
+            if (cell == cells_.end()) {
+                continue;
+            }
             for (const auto& [a, b] : cell->second) {
-                if (distance(p, a, b) <= degrees) return true;
+                if (distance(p, a, b) <= degrees) {
+                    return true;
+                }
             }
         }
     }
@@ -70,10 +80,12 @@ bool LineCells::passesNear(GeoPoint p, double degrees) const {
 LineCells coastOf(const Server::NetworkData& data) {
     LineCells coast;
     for (const auto& ring : data.land) {
-        for (size_t i = 0; i < ring.size(); ++i) {
+        for (std::size_t i = 0; i < ring.size(); ++i) {
             const GeoPoint a = ring[i];
             const GeoPoint b = ring[(i + 1) % ring.size()];
-            if (std::abs(a.x - b.x) < 180.0) coast.add(a, b);
+            if (std::abs(a.x - b.x) < 180.0) {
+                coast.add(a, b);
+            }
         }
     }
     return coast;
@@ -84,7 +96,9 @@ LineCells handMadeWays(const Server::NetworkData& data) {
     for (const Server::NetworkEdge& e : data.edges) {
         const GeoPoint a = data.nodes[e.a];
         const GeoPoint b = data.nodes[e.b];
-        if (e.kind != Server::EdgeKind::Sea && std::abs(a.x - b.x) < 180.0) ways.add(a, b);
+        if (e.kind != Server::EdgeKind::Sea && std::abs(a.x - b.x) < 180.0) {
+            ways.add(a, b);
+        }
     }
     return ways;
 }

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/builder/LandCutter.h"
+#include <cmath>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include "host/data/builder/LandCutter.h"
 
 namespace Tarvik::Data {
+
 namespace {
 
 double areaOf(const std::vector<LandFile::Cell>& cells) {
     double sum = 0;
     for (const auto& cell : cells) {
         double twice = 0;
-        for (size_t i = 0; i < cell.points.size(); ++i) {
+        for (std::size_t i = 0; i < cell.points.size(); ++i) {
             const auto& [ax, ay] = cell.points[i];
             const auto& [bx, by] = cell.points[(i + 1) % cell.points.size()];
             twice += static_cast<double>(ax) * by - static_cast<double>(bx) * ay;
@@ -25,7 +26,7 @@ double areaOf(const std::vector<LandFile::Cell>& cells) {
 double lengthOf(const std::vector<LandFile::Cell>& lines) {
     double sum = 0;
     for (const auto& line : lines) {
-        for (size_t i = 1; i < line.points.size(); ++i) {
+        for (std::size_t i = 1; i < line.points.size(); ++i) {
             sum += std::hypot(static_cast<double>(line.points[i].first - line.points[i - 1].first),
                               static_cast<double>(line.points[i].second - line.points[i - 1].second));
         }
@@ -43,20 +44,22 @@ Ring circle(double x, double y, double radius, int points) {
 }
 
 TEST(LandCutter, CutsALargeRingIntoSmallCellsOfTheSameArea) {
-    const auto cells = cutIntoCells({{circle(10, 20, 9, 3000)}});
+    const auto cells = CutIntoCells({{circle(10, 20, 9, 3000)}});
     EXPECT_GT(cells.size(), 7u);
-    for (const auto& cell : cells) EXPECT_LE(cell.points.size(), LandFile::kMaxPoints);
+    for (const auto& cell : cells) {
+        EXPECT_LE(cell.points.size(), LandFile::kMaxPoints);
+    }
     EXPECT_NEAR(areaOf(cells), M_PI * 81, 0.1);
 }
 
 TEST(LandCutter, LeavesALakeOut) {
     Ring lake = circle(10, 20, 2, 100);
     lake = Ring(lake.rbegin(), lake.rend());
-    EXPECT_NEAR(areaOf(cutIntoCells({{circle(10, 20, 9, 1000), lake}})), M_PI * (81 - 4), 0.1);
+    EXPECT_NEAR(areaOf(CutIntoCells({{circle(10, 20, 9, 1000), lake}})), M_PI * (81 - 4), 0.1);
 }
 
 TEST(LandCutter, AnIslandOnTheDateLineBecomesPiecesOnBothSides) {
-    const auto cells = cutIntoCells({{{{178, -2}, {-178, -2}, {-178, 2}, {178, 2}}}});
+    const auto cells = CutIntoCells({{{{178, -2}, {-178, -2}, {-178, 2}, {178, 2}}}});
     ASSERT_EQ(cells.size(), 2u);
     EXPECT_NEAR(areaOf(cells), 16, 1e-4);
     for (const auto& cell : cells) {
@@ -67,20 +70,22 @@ TEST(LandCutter, AnIslandOnTheDateLineBecomesPiecesOnBothSides) {
 }
 
 TEST(LandCutter, ARingAroundThePoleIsFilledDownToIt) {
-    const auto cells = cutIntoCells({{{{-120, -70}, {0, -70}, {120, -70}}}});
+    const auto cells = CutIntoCells({{{{-120, -70}, {0, -70}, {120, -70}}}});
     EXPECT_NEAR(areaOf(cells), 360.0 * 20.0, 1.0);
 }
 
 TEST(LandCutter, CoastsAreClosedLinesWithoutTheCuts) {
     const Ring ring = circle(10, 20, 9, 1000);
-    const auto coasts = cutIntoCoasts({{ring}});
+    const auto coasts = CutIntoCoasts({{ring}});
     EXPECT_GE(coasts.size(), 3u);
-    for (const auto& line : coasts) EXPECT_LE(line.points.size(), LandFile::kMaxPoints);
+    for (const auto& line : coasts) {
+        EXPECT_LE(line.points.size(), LandFile::kMaxPoints);
+    }
     EXPECT_NEAR(lengthOf(coasts), 2 * M_PI * 9, 0.01);
 }
 
 TEST(LandCutter, CoastsDoNotRunAlongTheDateLine) {
-    const auto coasts = cutIntoCoasts({{{{170, 0}, {180, 0}, {180, 5}, {170, 5}}}});
+    const auto coasts = CutIntoCoasts({{{{170, 0}, {180, 0}, {180, 5}, {170, 5}}}});
     EXPECT_NEAR(lengthOf(coasts), 25, 1e-4);
 }
 

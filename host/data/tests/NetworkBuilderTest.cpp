@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/builder/NetworkBuilder.h"
-
 #include <gmock/gmock.h>
 
+#include "host/data/builder/NetworkBuilder.h"
 #include "host/server/graph/RouteEngine.h"
 #include "host/server/graph/SeaNetworkFile.h"
 
 namespace Tarvik::Data {
+
 namespace {
 
 using Server::RouteResult;
@@ -25,8 +25,8 @@ class NetworkBuilderTest : public ::testing::Test {
     }
     RouteResult plan(const std::vector<Server::RouteChoice>& choices) {
         const auto network =
-            std::make_shared<const Server::SeaNetwork>(NetworkBuilder(sources_, land_).build());
-        return Server::RouteEngine(network).plan({{"40001", {}, {}}, {"40002", {}, choices}});
+            std::make_shared<const Server::SeaNetwork>(NetworkBuilder(sources_, land_).Build());
+        return Server::RouteEngine(network).Plan({{"40001", {}, {}}, {"40002", {}, choices}});
     }
     const std::vector<Polygon> land_ = {{{{-5, -5}, {5, -5}, {5, 5}, {-5, 5}}}};
     Sources sources_;
@@ -48,11 +48,11 @@ TEST_F(NetworkBuilderTest, AHandMadeWayLeadsThroughLand) {
 }
 
 TEST_F(NetworkBuilderTest, SeaEdgesNeverMeetLandAndLinksAreShort) {
-    const Server::NetworkData data = NetworkBuilder(sources_, land_).build();
+    const Server::NetworkData data = NetworkBuilder(sources_, land_).Build();
     const Server::LandIndex index({land_[0][0]});
     for (const Server::NetworkEdge& e : data.edges) {
         if (e.kind == Server::EdgeKind::Sea) {
-            EXPECT_FALSE(index.blocks(data.nodes[e.a], data.nodes[e.b]));
+            EXPECT_FALSE(index.Blocks(data.nodes[e.a], data.nodes[e.b]));
         } else if (e.kind == Server::EdgeKind::Link) {
             EXPECT_LE(e.nm, 36.0F);
         }
@@ -61,15 +61,15 @@ TEST_F(NetworkBuilderTest, SeaEdgesNeverMeetLandAndLinksAreShort) {
 
 TEST_F(NetworkBuilderTest, LeavesOutATownThatNoShipReaches) {
     NetworkBuilder builder(sources_, land_);
-    const Server::NetworkData data = builder.build();
+    const Server::NetworkData data = builder.Build();
     ASSERT_EQ(data.ports.size(), 2u);
     EXPECT_EQ(data.ports[1].name, "East");
-    EXPECT_TRUE(builder.remarks().empty());
+    EXPECT_TRUE(builder.Remarks().empty());
 }
 
 TEST_F(NetworkBuilderTest, TheSameSourcesGiveTheSameFile) {
-    EXPECT_EQ(Server::SeaNetworkFile::encode(NetworkBuilder(sources_, land_).build()),
-              Server::SeaNetworkFile::encode(NetworkBuilder(sources_, land_).build()));
+    EXPECT_EQ(Server::SeaNetworkFile::Encode(NetworkBuilder(sources_, land_).Build()),
+              Server::SeaNetworkFile::Encode(NetworkBuilder(sources_, land_).Build()));
 }
 
 }  // namespace

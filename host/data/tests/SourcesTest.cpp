@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/builder/Sources.h"
-
-#include <gmock/gmock.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
+#include <gmock/gmock.h>
+
+#include "host/data/builder/Sources.h"
+
 namespace Tarvik::Data {
+
 namespace {
 
 using ::testing::HasSubstr;
@@ -38,11 +39,13 @@ class SourcesTest : public ::testing::Test {
         std::ofstream(folder_ / name) << text;
     }
     std::optional<Sources> read() {
-        return readSources(folder_.string(), (folder_ / "ports.json").string(), error_);
+        return ReadSources(folder_.string(), (folder_ / "ports.json").string(), error_);
     }
     const PortSource& port(const Sources& sources, const std::string& code) const {
         for (const PortSource& p : sources.ports) {
-            if (p.unlocode == code) return p;
+            if (p.unlocode == code) {
+                return p;
+            }
         }
         ADD_FAILURE() << "no port " << code;
         return sources.ports.front();

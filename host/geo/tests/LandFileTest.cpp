@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "host/geo/LandFile.h"
-
-#include <gmock/gmock.h>
-
 #include <cstdlib>
 #include <filesystem>
 
+#include <gmock/gmock.h>
+
+#include "host/geo/LandFile.h"
+
 namespace Tarvik::Data {
+
 namespace {
 
 LandFile sample() {
     LandFile land;
-    for (size_t level = 0; level < LandFile::kLevels; ++level) {
+    for (std::size_t level = 0; level < LandFile::kLevels; ++level) {
         const float size = static_cast<float>(level) + 1.0F;
         land.levels[level].resize(2);
         land.levels[level][0].points = {{0, 0}, {size, 0}, {size, -size}};
@@ -24,14 +25,14 @@ LandFile sample() {
 
 std::string errorOf(const std::string& bytes) {
     std::string error;
-    return LandFile::decode(bytes, error) ? "none" : error;
+    return LandFile::Decode(bytes, error) ? "none" : error;
 }
 
 TEST(LandFile, ReadsWhatItWroteAndMeasuresEveryCell) {
     std::string error;
-    const auto land = LandFile::decode(sample().encode(), error);
+    const auto land = LandFile::Decode(sample().Encode(), error);
     ASSERT_TRUE(land) << error;
-    EXPECT_EQ(land->encode(), sample().encode());
+    EXPECT_EQ(land->Encode(), sample().Encode());
     const LandFile::Cell& cell = land->levels[2][0];
     EXPECT_EQ(cell.minX, 0);
     EXPECT_EQ(cell.minY, -3);
@@ -40,8 +41,8 @@ TEST(LandFile, ReadsWhatItWroteAndMeasuresEveryCell) {
 }
 
 TEST(LandFile, RefusesAFileCutAnywhere) {
-    const std::string bytes = sample().encode();
-    for (size_t length = 0; length < bytes.size(); ++length) {
+    const std::string bytes = sample().Encode();
+    for (std::size_t length = 0; length < bytes.size(); ++length) {
         EXPECT_EQ(errorOf(bytes.substr(0, length)),
                   length < 16 ? "this is not a land file" : "the land file is cut or has grown")
             << length;
@@ -50,11 +51,13 @@ TEST(LandFile, RefusesAFileCutAnywhere) {
 }
 
 TEST(LandFile, RefusesListsThatDoNotFitTheLength) {
-    std::string bytes = sample().encode();
-    for (size_t length = 16; length < bytes.size(); ++length) {
+    std::string bytes = sample().Encode();
+    for (std::size_t length = 16; length < bytes.size(); ++length) {
         std::string cut = bytes.substr(0, length);
-        const size_t payload = length - 16;
-        for (size_t i = 0; i < 8; ++i) cut[8 + i] = static_cast<char>((payload >> (8 * i)) & 0xFF);
+        const std::size_t payload = length - 16;
+        for (std::size_t i = 0; i < 8; ++i) {
+            cut[8 + i] = static_cast<char>((payload >> (8 * i)) & 0xFF);
+        }
         EXPECT_EQ(errorOf(cut), "the land file is damaged") << length;
     }
     bytes[19] = '\x7F';  // a count of two thousand million cells
@@ -62,18 +65,18 @@ TEST(LandFile, RefusesListsThatDoNotFitTheLength) {
 }
 
 TEST(LandFile, RefusesAForeignFileAndImpossiblePlaces) {
-    std::string bytes = sample().encode();
+    std::string bytes = sample().Encode();
     bytes[0] = 'l';
     EXPECT_EQ(errorOf(bytes), "this is not a land file");
     LandFile land = sample();
     land.levels[0][0].points[1].first = 181.0F;
-    EXPECT_EQ(errorOf(land.encode()), "the land file is damaged");
+    EXPECT_EQ(errorOf(land.Encode()), "the land file is damaged");
     land = sample();
     land.coasts[1][0].points.assign(LandFile::kMaxPoints + 1, {0.0F, 0.0F});
-    EXPECT_EQ(errorOf(land.encode()), "the land file is damaged");
+    EXPECT_EQ(errorOf(land.Encode()), "the land file is damaged");
     land = sample();
     land.coasts[1][0].points.clear();
-    EXPECT_EQ(errorOf(land.encode()), "the land file is damaged");
+    EXPECT_EQ(errorOf(land.Encode()), "the land file is damaged");
 }
 
 TEST(LandFile, AMissingOrCutFileIsNamedWithWhatToDo) {
@@ -81,14 +84,14 @@ TEST(LandFile, AMissingOrCutFileIsNamedWithWhatToDo) {
     const std::filesystem::path folder = mkdtemp(pattern.data());
     const std::string path = (folder / "land.bin").string();
     std::string error;
-    EXPECT_FALSE(LandFile::load(path, error));
+    EXPECT_FALSE(LandFile::Load(path, error));
     EXPECT_EQ(error, "cannot open the land file " + path + ". Build or install the client again.");
-    ASSERT_EQ(sample().save(path), "");
-    EXPECT_TRUE(LandFile::load(path, error));
+    ASSERT_EQ(sample().Save(path), "");
+    EXPECT_TRUE(LandFile::Load(path, error));
     std::filesystem::resize_file(path, 40);
-    EXPECT_FALSE(LandFile::load(path, error));
+    EXPECT_FALSE(LandFile::Load(path, error));
     EXPECT_EQ(error, "the land file is cut or has grown: " + path + ". Build or install the client again.");
-    EXPECT_EQ(sample().save(path + "/x"), "cannot write " + path + "/x");
+    EXPECT_EQ(sample().Save(path + "/x"), "cannot write " + path + "/x");
     std::filesystem::remove_all(folder);
 }
 

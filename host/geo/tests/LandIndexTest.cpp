@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/geo/LandIndex.h"
-
 #include <gtest/gtest.h>
 
+#include "host/geo/LandIndex.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using Rings = std::vector<std::vector<GeoPoint>>;
@@ -13,64 +14,66 @@ const Rings kOverTheDateLine = {{{178, -2}, {-178, -2}, {-178, 2}, {178, 2}}};
 
 TEST(LandIndex, WithoutLandNothingIsInTheWay) {
     for (const LandIndex& land : {LandIndex(), LandIndex(Rings{})}) {
-        EXPECT_FALSE(land.blocks({-10, 0}, {10, 0}));
-        EXPECT_FALSE(land.isLand({0, 0}));
-        EXPECT_TRUE(land.isClear({0, 0}, 100));
+        EXPECT_FALSE(land.Blocks({-10, 0}, {10, 0}));
+        EXPECT_FALSE(land.IsLand({0, 0}));
+        EXPECT_TRUE(land.IsClear({0, 0}, 100));
     }
 }
 
 TEST(LandIndex, AWayThroughAnIslandIsBlockedAndOneAroundItIsFree) {
     const LandIndex land(kIsland);
-    EXPECT_TRUE(land.blocks({-10, 0}, {10, 0}));
-    EXPECT_TRUE(land.blocks({10, 0}, {-10, 0}));
-    EXPECT_TRUE(land.blocks({0, 0}, {10, 0}));
-    EXPECT_FALSE(land.blocks({-10, 6}, {10, 6}));
-    EXPECT_FALSE(land.blocks({-1, 0}, {1, 0})) << "wholly inside, no coast is met";
+    EXPECT_TRUE(land.Blocks({-10, 0}, {10, 0}));
+    EXPECT_TRUE(land.Blocks({10, 0}, {-10, 0}));
+    EXPECT_TRUE(land.Blocks({0, 0}, {10, 0}));
+    EXPECT_FALSE(land.Blocks({-10, 6}, {10, 6}));
+    EXPECT_FALSE(land.Blocks({-1, 0}, {1, 0})) << "wholly inside, no coast is met";
 }
 
 TEST(LandIndex, TouchingACornerOfTheCoastBlocks) {
     const LandIndex land(kIsland);
-    EXPECT_TRUE(land.blocksStraight({2, 6}, {4, 4}));
-    EXPECT_FALSE(land.blocksStraight({2.1, 6.1}, {4.1, 4.1}));
+    EXPECT_TRUE(land.BlocksStraight({2, 6}, {4, 4}));
+    EXPECT_FALSE(land.BlocksStraight({2.1, 6.1}, {4.1, 4.1}));
 }
 
 TEST(LandIndex, TellsLandFromWater) {
     const LandIndex land(kIsland);
-    EXPECT_TRUE(land.isLand({0, 0}));
-    EXPECT_TRUE(land.isLand({-2.9, 4.9}));
-    EXPECT_FALSE(land.isLand({-3.1, 0}));
-    EXPECT_FALSE(land.isLand({0, 5.1}));
-    EXPECT_FALSE(land.isLand({0, -5.1}));
+    EXPECT_TRUE(land.IsLand({0, 0}));
+    EXPECT_TRUE(land.IsLand({-2.9, 4.9}));
+    EXPECT_FALSE(land.IsLand({-3.1, 0}));
+    EXPECT_FALSE(land.IsLand({0, 5.1}));
+    EXPECT_FALSE(land.IsLand({0, -5.1}));
 }
 
 TEST(LandIndex, ALakeIsWater) {
     const LandIndex land({kIsland[0], {{-1, -1}, {-1, 1}, {1, 1}, {1, -1}}});
-    EXPECT_FALSE(land.isLand({0, 0}));
-    EXPECT_TRUE(land.isLand({2, 0}));
+    EXPECT_FALSE(land.IsLand({0, 0}));
+    EXPECT_TRUE(land.IsLand({2, 0}));
 }
 
 TEST(LandIndex, AnIslandOnTheDateLineIsOnePiece) {
     const LandIndex land(kOverTheDateLine);
-    for (const double x : {179.0, -179.0, 180.0, -180.0}) EXPECT_TRUE(land.isLand({x, 0})) << x;
-    EXPECT_FALSE(land.isLand({0, 0}));
-    EXPECT_TRUE(land.blocks({175, 0}, {-175, 0}));
-    EXPECT_TRUE(land.blocks({-175, 0}, {175, 0}));
-    EXPECT_FALSE(land.blocks({175, 4}, {-175, 4}));
-    EXPECT_FALSE(land.blocks({170, 0}, {177, 0}));
+    for (const double x : {179.0, -179.0, 180.0, -180.0}) {
+        EXPECT_TRUE(land.IsLand({x, 0})) << x;
+    }
+    EXPECT_FALSE(land.IsLand({0, 0}));
+    EXPECT_TRUE(land.Blocks({175, 0}, {-175, 0}));
+    EXPECT_TRUE(land.Blocks({-175, 0}, {175, 0}));
+    EXPECT_FALSE(land.Blocks({175, 4}, {-175, 4}));
+    EXPECT_FALSE(land.Blocks({170, 0}, {177, 0}));
 }
 
 TEST(LandIndex, ARingAroundThePoleNeedsNoSouthernEdge) {
     const LandIndex land({{{-120, -70}, {0, -75}, {120, -70}}});
-    EXPECT_TRUE(land.isLand({10, -89}));
-    EXPECT_TRUE(land.isLand({170, -80}));
-    EXPECT_FALSE(land.isLand({10, -60}));
-    EXPECT_TRUE(land.blocks({10, -60}, {10, -85}));
+    EXPECT_TRUE(land.IsLand({10, -89}));
+    EXPECT_TRUE(land.IsLand({170, -80}));
+    EXPECT_FALSE(land.IsLand({10, -60}));
+    EXPECT_TRUE(land.Blocks({10, -60}, {10, -85}));
 }
 
 TEST(LandIndex, IsClearSeesTheCoastWithinItsRadius) {
     const LandIndex land(kIsland);
-    EXPECT_TRUE(land.isClear({4, 0}, 59));
-    EXPECT_FALSE(land.isClear({4, 0}, 61));
+    EXPECT_TRUE(land.IsClear({4, 0}, 59));
+    EXPECT_FALSE(land.IsClear({4, 0}, 61));
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/core/PluginInfo.h>
-#include <tarvik/core/TrvKernel.h>
-
 #include <exception>
 #include <memory>
+
+#include <tarvik/core/PluginInfo.h>
+#include <tarvik/core/TrvKernel.h>
 
 #include "host/plugins/seamap/core/LandFileSource.h"
 #include "host/plugins/seamap/core/PortTable.h"
@@ -36,9 +36,10 @@ std::unique_ptr<ChartServices> services;
 /// Offers the chart's services on the bus; a second call changes nothing. False when that failed.
 SEAMAP_EXPORT bool Load() {
     try {
-        if (!services)
+        if (!services) {
             services = std::make_unique<ChartServices>(
                 ChartServices::Paths{PortTable::DefaultPath(), LandFileSource::DefaultPath()});
+        }
         return true;
     } catch (const std::exception&) {
         return false;

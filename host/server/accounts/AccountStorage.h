@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Outcome.h"
-
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "host/server/storage/contract/Outcome.h"
 
 namespace Tarvik::Server {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/api/RemarkCommands.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <map>
 #include <mutex>
 #include <string>
+
+#include "host/server/api/RemarkCommands.h"
 
 namespace Tarvik::Server {
 
@@ -37,9 +37,9 @@ class LoginGuard {
     };
     using Counts = std::map<std::string, Count>;
 
-    static std::int64_t waitOf(const Counts& counts, const std::string& key, int limit, std::int64_t now);
-    void add(Counts& counts, const std::string& key, std::int64_t now) const;
-    static void makeRoom(Counts& counts, std::int64_t now);
+    static std::int64_t WaitOf(const Counts& counts, const std::string& key, int limit, std::int64_t now);
+    void Add(Counts& counts, const std::string& key, std::int64_t now) const;
+    static void MakeRoom(Counts& counts, std::int64_t now);
 
     LoginLimits limits_;
     ServerClock clock_;

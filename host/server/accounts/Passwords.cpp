@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/accounts/Passwords.h"
 
-#include <sodium.h>
-
 #include <array>
+
+#include <sodium.h>
 
 namespace Tarvik::Server {
 
@@ -13,7 +13,9 @@ Passwords::Passwords(PasswordCost cost) : cost_(cost) {
 
 std::string Passwords::Hash(const std::string& password) const {
     std::array<char, crypto_pwhash_STRBYTES> text{};
-    if (sodium_init() < 0) return {};
+    if (sodium_init() < 0) {
+        return {};
+    }
     if (crypto_pwhash_str(text.data(), password.data(), password.size(), cost_.passes, cost_.memoryBytes) !=
         0) {
         return {};
@@ -22,7 +24,9 @@ std::string Passwords::Hash(const std::string& password) const {
 }
 
 bool Passwords::Matches(const std::string& hash, const std::string& password) const {
-    if (hash.empty() || hash.size() >= crypto_pwhash_STRBYTES) return false;
+    if (hash.empty() || hash.size() >= crypto_pwhash_STRBYTES) {
+        return false;
+    }
     return crypto_pwhash_str_verify(hash.c_str(), password.data(), password.size()) == 0;
 }
 

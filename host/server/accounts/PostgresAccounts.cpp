@@ -2,6 +2,7 @@
 #include "host/server/accounts/PostgresAccounts.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 UserRecord UserOf(const PostgresRows& rows, int row) {
@@ -35,11 +36,15 @@ Outcome<bool> PostgresAccounts::AddUser(const std::string& name, const std::stri
 }
 
 Outcome<std::optional<UserRecord>> PostgresAccounts::FindUser(const std::string& name) {
-    if (HasZeroByte(name)) return std::optional<UserRecord>();
+    if (HasZeroByte(name)) {
+        return std::optional<UserRecord>();
+    }
     return session_.Read([&](PostgresConnection& connection) -> Outcome<std::optional<UserRecord>> {
         const PostgresRows found =
             connection.Run("SELECT name, password, disabled FROM users WHERE name = $1", name);
-        if (found.Empty()) return std::optional<UserRecord>();
+        if (found.Empty()) {
+            return std::optional<UserRecord>();
+        }
         return std::optional<UserRecord>(UserOf(found, 0));
     });
 }
@@ -49,7 +54,9 @@ Outcome<std::vector<UserRecord>> PostgresAccounts::ListUsers() {
         const PostgresRows all = connection.Run("SELECT name, password, disabled FROM users ORDER BY name");
         std::vector<UserRecord> users;
         users.reserve(static_cast<std::size_t>(all.Count()));
-        for (int row = 0; row < all.Count(); ++row) users.push_back(UserOf(all, row));
+        for (int row = 0; row < all.Count(); ++row) {
+            users.push_back(UserOf(all, row));
+        }
         return users;
     });
 }
@@ -79,7 +86,9 @@ Outcome<bool> PostgresAccounts::SetDisabled(const std::string& name, bool disabl
     return session_.Write([&](PostgresConnection& connection) -> Outcome<bool> {
         const PostgresRows changed =
             connection.Run("UPDATE users SET disabled = $2 WHERE name = $1", name, disabled);
-        if (disabled) connection.Run("DELETE FROM sessions WHERE name = $1", name);
+        if (disabled) {
+            connection.Run("DELETE FROM sessions WHERE name = $1", name);
+        }
         return changed.Changes() == 1;
     });
 }
@@ -96,7 +105,9 @@ Outcome<bool> PostgresAccounts::AddSession(const SessionRecord& session, const s
             "DELETE FROM sessions WHERE token IN "
             "(SELECT token FROM sessions WHERE expires <= $1 FOR UPDATE SKIP LOCKED)",
             now);
-        if (proven.Empty()) return false;
+        if (proven.Empty()) {
+            return false;
+        }
         connection.Run("INSERT INTO sessions (token, name, expires) VALUES ($1, $2, $3)", session.tokenHash,
                        session.user, session.expires);
         return true;
@@ -108,7 +119,9 @@ Outcome<std::optional<std::string>> PostgresAccounts::FindSession(const std::str
     return session_.Read([&](PostgresConnection& connection) -> Outcome<std::optional<std::string>> {
         const PostgresRows found =
             connection.Run("SELECT name FROM sessions WHERE token = $1 AND expires > $2", tokenHash, now);
-        if (found.Empty()) return std::optional<std::string>();
+        if (found.Empty()) {
+            return std::optional<std::string>();
+        }
         return std::optional<std::string>(found.Text(0, 0));
     });
 }

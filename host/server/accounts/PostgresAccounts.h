@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
+
 #include "host/server/accounts/AccountStorage.h"
 #include "host/server/storage/postgres/PostgresSession.h"
-
-#include <memory>
 
 namespace Tarvik::Server {
 

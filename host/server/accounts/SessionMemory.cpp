@@ -3,15 +3,17 @@
 
 namespace Tarvik::Server {
 
-void SessionMemory::enter(std::int64_t now) {
-    if (now == second_) return;
+void SessionMemory::Enter(std::int64_t now) {
+    if (now == second_) {
+        return;
+    }
     userOfHash_.clear();
     second_ = now;
 }
 
 std::optional<std::string> SessionMemory::UserOf(const std::string& hash, std::int64_t now) {
     const std::lock_guard lock(mutex_);
-    enter(now);
+    Enter(now);
     const auto found = userOfHash_.find(hash);
     return found == userOfHash_.end() ? std::nullopt : std::optional(found->second);
 }
@@ -24,8 +26,10 @@ std::uint64_t SessionMemory::Generation() {
 void SessionMemory::Keep(const std::string& hash, const std::string& user, std::int64_t now,
                          std::uint64_t generation) {
     const std::lock_guard lock(mutex_);
-    enter(now);
-    if (generation == generation_) userOfHash_[hash] = user;
+    Enter(now);
+    if (generation == generation_) {
+        userOfHash_[hash] = user;
+    }
 }
 
 void SessionMemory::Forget() {

@@ -24,7 +24,7 @@ class SessionMemory {
     void Forget();
 
   private:
-    void enter(std::int64_t now);
+    void Enter(std::int64_t now);
 
     std::mutex mutex_;
     std::unordered_map<std::string, std::string> userOfHash_;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/accounts/Sessions.h"
 
-#include "host/server/accounts/Tokens.h"
-
 #include <utility>
+
+#include "host/server/accounts/Tokens.h"
 
 namespace Tarvik::Server {
 
@@ -33,19 +33,25 @@ Login Sessions::Open(const std::string& user, const std::string& password, const
         return login;
     }
     login = OpenSession(std::move(*found.Value()), password);
-    if (login.result == LoginResult::Done) guard_.Succeeded(user, address);
+    if (login.result == LoginResult::Done) {
+        guard_.Succeeded(user, address);
+    }
     return login;
 }
 
 Login Sessions::OpenSession(UserRecord user, const std::string& password) {
     Login login;
     login.result = LoginResult::Wrong;
-    if (!passwords_.Matches(user.passwordHash, password) || user.disabled) return login;
+    if (!passwords_.Matches(user.passwordHash, password) || user.disabled) {
+        return login;
+    }
     if (passwords_.IsOutdated(user.passwordHash)) {
         const std::string renewed = passwords_.Hash(password);
         const auto written = renewed.empty() ? Outcome<bool>(false)
                                              : accounts_.RenewHash(user.name, user.passwordHash, renewed);
-        if (written && written.Value()) user.passwordHash = renewed;
+        if (written && written.Value()) {
+            user.passwordHash = renewed;
+        }
     }
     login.token = MakeToken();
     if (login.token.empty()) {
@@ -67,13 +73,19 @@ Login Sessions::OpenSession(UserRecord user, const std::string& password) {
 }
 
 Outcome<std::optional<std::string>> Sessions::UserOf(const std::string& token) {
-    if (token.empty()) return std::optional<std::string>();
+    if (token.empty()) {
+        return std::optional<std::string>();
+    }
     const std::string hash = HashToken(token);
     const std::int64_t now = clock_();
-    if (auto user = memory_.UserOf(hash, now)) return user;
+    if (auto user = memory_.UserOf(hash, now)) {
+        return user;
+    }
     const std::uint64_t generation = memory_.Generation();
     auto found = accounts_.FindSession(hash, now);
-    if (found && found.Value()) memory_.Keep(hash, *found.Value(), now, generation);
+    if (found && found.Value()) {
+        memory_.Keep(hash, *found.Value(), now, generation);
+    }
     return found;
 }
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/api/RemarkCommands.h"
-#include "host/server/accounts/LoginGuard.h"
-#include "host/server/accounts/Passwords.h"
-#include "host/server/accounts/SessionMemory.h"
-#include "host/server/accounts/AccountStorage.h"
-
 #include <cstdint>
 #include <optional>
 #include <string>
+
+#include "host/server/accounts/AccountStorage.h"
+#include "host/server/accounts/LoginGuard.h"
+#include "host/server/accounts/Passwords.h"
+#include "host/server/accounts/SessionMemory.h"
+#include "host/server/api/RemarkCommands.h"
 
 namespace Tarvik::Server {
 

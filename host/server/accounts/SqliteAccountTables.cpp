@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/accounts/SqliteAccountTables.h"
 
-#include "host/server/storage/sqlite/SqliteTransaction.h"
-
 #include <array>
 #include <string>
 
+#include "host/server/storage/sqlite/SqliteTransaction.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 /// Tells an accounts file from every other data base ("SPac").

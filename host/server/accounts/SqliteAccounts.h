@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/accounts/AccountStorage.h"
-#include "host/server/storage/sqlite/SqliteDatabase.h"
-
 #include <memory>
 #include <mutex>
+
+#include "host/server/accounts/AccountStorage.h"
+#include "host/server/storage/sqlite/SqliteDatabase.h"
 
 namespace Tarvik::Server {
 
@@ -32,11 +32,11 @@ class SqliteAccounts : public AccountStorage {
   private:
     explicit SqliteAccounts(const std::string& path);
     template <class Work>
-    auto write(Work&& work) -> decltype(work());
+    auto Write(Work&& work) -> decltype(work());
     template <class Work>
-    auto read(Work&& work) -> decltype(work());
+    auto Read(Work&& work) -> decltype(work());
     template <class... Values>
-    int run(std::string_view sql, const Values&... values);
+    int Run(std::string_view sql, const Values&... values);
 
     std::mutex mutex_;
     SqliteDatabase database_;

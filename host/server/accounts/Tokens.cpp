@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/accounts/Tokens.h"
 
-#include <sodium.h>
-
 #include <algorithm>
 #include <array>
 
+#include <sodium.h>
+
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr int kEncoding = sodium_base64_VARIANT_URLSAFE_NO_PADDING;
@@ -24,7 +25,9 @@ char Lower(char sign) {
 }  // namespace
 
 std::string MakeToken() {
-    if (sodium_init() < 0) return {};
+    if (sodium_init() < 0) {
+        return {};
+    }
     std::array<unsigned char, 32> bytes{};
     randombytes_buf(bytes.data(), bytes.size());
     std::array<char, kTokenLength + 1> text{};
@@ -41,7 +44,9 @@ std::string HashToken(const std::string& token) {
 }
 
 std::string TokenOf(const std::string& authorization) {
-    if (authorization.size() != kScheme.size() + kTokenLength) return {};
+    if (authorization.size() != kScheme.size() + kTokenLength) {
+        return {};
+    }
     const bool bearer = std::equal(kScheme.begin(), kScheme.end(), authorization.begin(),
                                    [](char expected, char sign) { return expected == Lower(sign); });
     std::string token = authorization.substr(kScheme.size());

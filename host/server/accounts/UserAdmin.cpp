@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/accounts/UserAdmin.h"
 
-#include "host/server/accounts/UserRules.h"
-
 #include <utility>
+
+#include "host/server/accounts/UserRules.h"
 
 namespace Tarvik::Server {
 
@@ -12,81 +12,109 @@ UserAdmin::UserAdmin(AccountStorage& accounts, const Passwords& passwords, Passw
     : accounts_(accounts), passwords_(passwords), source_(std::move(source)), out_(out), err_(err) {}
 
 bool UserAdmin::IsCommand(const std::vector<std::string>& words) {
-    if (words.size() == 1) return words[0] == "list";
+    if (words.size() == 1) {
+        return words[0] == "list";
+    }
     const bool known = !words.empty() && (words[0] == "add" || words[0] == "password" ||
                                           words[0] == "disable" || words[0] == "enable");
     return known && words.size() == 2;
 }
 
 int UserAdmin::Run(const std::vector<std::string>& words) {
-    if (words[0] == "list") return list();
+    if (words[0] == "list") {
+        return List();
+    }
     const std::string& name = words[1];
-    if (words[0] == "add") return add(name);
-    if (words[0] == "password") return setPassword(name);
-    return setDisabled(name, words[0] == "disable");
+    if (words[0] == "add") {
+        return Add(name);
+    }
+    if (words[0] == "password") {
+        return SetPassword(name);
+    }
+    return SetDisabled(name, words[0] == "disable");
 }
 
-int UserAdmin::add(const std::string& name) {
+int UserAdmin::Add(const std::string& name) {
     if (!IsUserName(name)) {
-        return fail("a user name is 1 to 64 letters, digits, \".\", \"_\", \"@\" or \"-\"");
+        return Fail("a user name is 1 to 64 letters, digits, \".\", \"_\", \"@\" or \"-\"");
     }
     // Asked before the password, so that nobody types one for nothing.
     const auto known = accounts_.FindUser(name);
-    if (!known) return fail(known.GetFault().detail);
-    if (known.Value()) return fail("there is a user " + name + " already");
-    const std::string hash = readHash();
-    if (hash.empty()) return 1;
-    return conclude(accounts_.AddUser(name, hash), "added " + name, "there is a user " + name + " already");
+    if (!known) {
+        return Fail(known.GetFault().detail);
+    }
+    if (known.Value()) {
+        return Fail("there is a user " + name + " already");
+    }
+    const std::string hash = ReadHash();
+    if (hash.empty()) {
+        return 1;
+    }
+    return Conclude(accounts_.AddUser(name, hash), "added " + name, "there is a user " + name + " already");
 }
 
-int UserAdmin::setPassword(const std::string& name) {
+int UserAdmin::SetPassword(const std::string& name) {
     const auto known = accounts_.FindUser(name);
-    if (!known) return fail(known.GetFault().detail);
-    if (!known.Value()) return fail("there is no user " + name);
-    const std::string hash = readHash();
-    if (hash.empty()) return 1;
-    return conclude(accounts_.SetPassword(name, hash), "changed the password of " + name,
+    if (!known) {
+        return Fail(known.GetFault().detail);
+    }
+    if (!known.Value()) {
+        return Fail("there is no user " + name);
+    }
+    const std::string hash = ReadHash();
+    if (hash.empty()) {
+        return 1;
+    }
+    return Conclude(accounts_.SetPassword(name, hash), "changed the password of " + name,
                     "there is no user " + name);
 }
 
-int UserAdmin::setDisabled(const std::string& name, bool disabled) {
-    return conclude(accounts_.SetDisabled(name, disabled), (disabled ? "disabled " : "enabled ") + name,
+int UserAdmin::SetDisabled(const std::string& name, bool disabled) {
+    return Conclude(accounts_.SetDisabled(name, disabled), (disabled ? "disabled " : "enabled ") + name,
                     "there is no user " + name);
 }
 
-int UserAdmin::list() {
+int UserAdmin::List() {
     const auto users = accounts_.ListUsers();
-    if (!users) return fail(users.GetFault().detail);
+    if (!users) {
+        return Fail(users.GetFault().detail);
+    }
     for (const UserRecord& user : users.Value()) {
         out_ << user.name << (user.disabled ? " disabled" : " enabled") << "\n";
     }
     return 0;
 }
 
-std::string UserAdmin::readHash() {
+std::string UserAdmin::ReadHash() {
     std::string password;
     if (!source_(password)) {
-        fail("the password is read from standard input, and there is none");
+        Fail("the password is read from standard input, and there is none");
         return {};
     }
     if (password.size() < kLeastPasswordBytes || password.size() > kMostPasswordBytes) {
-        fail("a password has " + std::to_string(kLeastPasswordBytes) + " to " +
+        Fail("a password has " + std::to_string(kLeastPasswordBytes) + " to " +
              std::to_string(kMostPasswordBytes) + " bytes");
         return {};
     }
     std::string hash = passwords_.Hash(password);
-    if (hash.empty()) fail("there is too little memory to hash the password");
+    if (hash.empty()) {
+        Fail("there is too little memory to hash the password");
+    }
     return hash;
 }
 
-int UserAdmin::fail(const std::string& line) {
+int UserAdmin::Fail(const std::string& line) {
     err_ << "seaplan-server: " << line << "\n";
     return 1;
 }
 
-int UserAdmin::conclude(const Outcome<bool>& outcome, const std::string& done, const std::string& otherwise) {
-    if (!outcome) return fail(outcome.GetFault().detail);
-    if (!outcome.Value()) return fail(otherwise);
+int UserAdmin::Conclude(const Outcome<bool>& outcome, const std::string& done, const std::string& otherwise) {
+    if (!outcome) {
+        return Fail(outcome.GetFault().detail);
+    }
+    if (!outcome.Value()) {
+        return Fail(otherwise);
+    }
     out_ << done << "\n";
     return 0;
 }

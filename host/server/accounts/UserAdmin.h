@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/accounts/Passwords.h"
-#include "host/server/accounts/AccountStorage.h"
-
 #include <functional>
 #include <ostream>
 #include <string>
 #include <vector>
+
+#include "host/server/accounts/AccountStorage.h"
+#include "host/server/accounts/Passwords.h"
 
 namespace Tarvik::Server {
 
@@ -27,15 +27,15 @@ class UserAdmin {
     int Run(const std::vector<std::string>& words);
 
   private:
-    int add(const std::string& name);
-    int setPassword(const std::string& name);
-    int setDisabled(const std::string& name, bool disabled);
-    int list();
+    int Add(const std::string& name);
+    int SetPassword(const std::string& name);
+    int SetDisabled(const std::string& name, bool disabled);
+    int List();
     /// The hash of a password that was read; empty, with a line on the error stream, when there is none.
-    std::string readHash();
-    int fail(const std::string& line);
+    std::string ReadHash();
+    int Fail(const std::string& line);
     /// Says how a change ended: done, nobody to change (`otherwise`), or a fault.
-    int conclude(const Outcome<bool>& outcome, const std::string& done, const std::string& otherwise);
+    int Conclude(const Outcome<bool>& outcome, const std::string& done, const std::string& otherwise);
 
     AccountStorage& accounts_;
     const Passwords& passwords_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 namespace Tarvik::Server {
+
 namespace {
 
 bool IsNameSign(char sign) {

@@ -22,7 +22,9 @@ std::string BookCommands::WriteRows(const std::string& user, std::string_view te
     const std::vector<std::string> texts = ReadTexts(text, 2);
     std::vector<BookRowRecord> rows;
     rows.reserve(texts.size() - 2);
-    for (std::size_t i = 2; i < texts.size(); ++i) rows.push_back(ReadBookRow(texts[i]));
+    for (std::size_t i = 2; i < texts.size(); ++i) {
+        rows.push_back(ReadBookRow(texts[i]));
+    }
     if (texts[1] == "0") {
         ValueOrRefuse(storage_.ReplaceBookRows(user, texts[0], rows));
     } else if (texts[1] == "1") {

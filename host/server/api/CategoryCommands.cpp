@@ -6,6 +6,7 @@
 #include "host/server/api/RequestFields.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 enum Operation { kCreate = 0, kToBin = 1, kRecover = 2, kDestroy = 3, kRename = 4 };
@@ -13,7 +14,9 @@ enum Operation { kCreate = 0, kToBin = 1, kRecover = 2, kDestroy = 3, kRename = 
 }  // namespace
 
 std::string CategoryCommands::Load(const std::string& user, std::string_view text) {
-    if (RequestFields(text).Text("ui") != user) throw Refusal(ErrorCode::OtherUser);
+    if (RequestFields(text).Text("ui") != user) {
+        throw Refusal(ErrorCode::OtherUser);
+    }
     return Replies::Catalog(ValueOrRefuse(storage_.LoadCatalog(user)));
 }
 
@@ -23,7 +26,9 @@ std::string CategoryCommands::Change(const std::string& user, std::string_view t
     const std::string id = fields.Text("ci");
     switch (operation) {
         case kCreate:
-            if (!id.empty()) throw Refusal(ErrorCode::UnknownCategory, "a new category has no id yet");
+            if (!id.empty()) {
+                throw Refusal(ErrorCode::UnknownCategory, "a new category has no id yet");
+            }
             return Replies::Created("ci", ValueOrRefuse(storage_.CreateCategory(user, fields.Name("cn"))));
         case kToBin:
             ValueOrRefuse(storage_.MoveCategory(user, id, DeletionState::InBin));

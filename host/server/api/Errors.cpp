@@ -6,6 +6,7 @@
 #include <iterator>
 
 namespace Tarvik::Server {
+
 namespace {
 
 struct ErrorRow {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Outcome.h"
-
 #include <string>
 #include <string_view>
+
+#include "host/server/storage/contract/Outcome.h"
 
 namespace Tarvik::Server {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/api/FigureCommands.h"
 
+#include <limits>
+
 #include "host/server/api/Refusal.h"
 #include "host/server/api/Replies.h"
 #include "host/server/api/RequestFields.h"
-
-#include <limits>
 
 namespace Tarvik::Server {
 

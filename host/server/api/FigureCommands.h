@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/CatalogStorage.h"
-
 #include <string>
 #include <string_view>
+
+#include "host/server/storage/contract/CatalogStorage.h"
 
 namespace Tarvik::Server {
 

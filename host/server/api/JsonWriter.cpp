@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/api/JsonWriter.h"
 
-#include "host/server/api/Numbers.h"
-
 #include <algorithm>
 
+#include "host/server/api/Numbers.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 bool NeedsEscape(char c) {
@@ -15,7 +16,9 @@ bool NeedsEscape(char c) {
 }  // namespace
 
 void JsonWriter::Separate() {
-    if (comma_) text_ += ',';
+    if (comma_) {
+        text_ += ',';
+    }
     comma_ = true;
 }
 

@@ -7,6 +7,7 @@
 #include <system_error>
 
 namespace Tarvik::Server {
+
 namespace {
 
 template <class Number, class... Form>
@@ -14,7 +15,9 @@ std::optional<Number> ParseWhole(std::string_view text, Number least, Number mos
     Number number{};
     const char* end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number, form...);
-    if (error != std::errc() || stop != end || !(number >= least && number <= most)) return std::nullopt;
+    if (error != std::errc() || stop != end || !(number >= least && number <= most)) {
+        return std::nullopt;
+    }
     return number;
 }
 
@@ -36,18 +39,25 @@ std::string PrintDecimal(double number, int decimals) {
     std::string text(buffer.data(), result.ptr);
     const std::size_t point = text.find('.');
     const std::size_t present = point == std::string::npos ? 0 : text.size() - point - 1;
-    if (point == std::string::npos) text += '.';
-    if (present < static_cast<std::size_t>(decimals))
+    if (point == std::string::npos) {
+        text += '.';
+    }
+    if (present < static_cast<std::size_t>(decimals)) {
         text.append(static_cast<std::size_t>(decimals) - present, '0');
+    }
     return text;
 }
 
 bool IsTimeText(std::string_view text) {
     constexpr std::string_view kForm = "0000-00-00 00:00:00";
-    if (text.size() != kForm.size()) return false;
+    if (text.size() != kForm.size()) {
+        return false;
+    }
     for (std::size_t i = 0; i < kForm.size(); ++i) {
         const bool digit = text[i] >= '0' && text[i] <= '9';
-        if (kForm[i] == '0' ? !digit : text[i] != kForm[i]) return false;
+        if (kForm[i] == '0' ? !digit : text[i] != kForm[i]) {
+            return false;
+        }
     }
     const auto part = [&](std::size_t from, std::size_t count) {
         return *ParseInteger(text.substr(from, count), 0, 9999);

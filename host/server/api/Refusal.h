@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/api/Errors.h"
-#include "host/server/storage/contract/Outcome.h"
-
 #include <exception>
 #include <string>
 #include <utility>
+
+#include "host/server/api/Errors.h"
+#include "host/server/storage/contract/Outcome.h"
 
 namespace Tarvik::Server {
 
@@ -27,7 +27,9 @@ class Refusal : public std::exception {
 /// The value of an outcome; a fault becomes a refusal.
 template <class T>
 T ValueOrRefuse(Outcome<T> outcome) {
-    if (!outcome) throw Refusal(CodeOf(outcome.GetFault().reason), outcome.GetFault().detail);
+    if (!outcome) {
+        throw Refusal(CodeOf(outcome.GetFault().reason), outcome.GetFault().detail);
+    }
     return std::move(outcome.Value());
 }
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/api/RemarkCommands.h"
 
+#include <limits>
+
 #include "host/server/api/Refusal.h"
 #include "host/server/api/Replies.h"
 #include "host/server/api/RequestFields.h"
 
-#include <limits>
-
 namespace Tarvik::Server {
+
 namespace {
 
 enum Operation { kAdd = 1, kDelete = 2, kChange = 3, kList = 4 };

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/RemarkStorage.h"
-
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
+
+#include "host/server/storage/contract/RemarkStorage.h"
 
 namespace Tarvik::Server {
 

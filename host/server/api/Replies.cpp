@@ -6,6 +6,7 @@
 #include "host/server/api/RequestFields.h"
 
 namespace Tarvik::Server::Replies {
+
 namespace {
 
 void WriteVoyage(JsonWriter& out, const VoyageRecord& voyage) {
@@ -30,9 +31,13 @@ void WriteBookRow(JsonWriter& out, const BookRowRecord& row) {
 /// The detail without what exceeds a readable length, cut between two characters.
 std::string_view Shorten(std::string_view detail) {
     constexpr std::size_t kMost = 200;
-    if (detail.size() <= kMost) return detail;
+    if (detail.size() <= kMost) {
+        return detail;
+    }
     std::size_t end = kMost;
-    while (end > 0 && (static_cast<unsigned char>(detail[end]) & 0xC0U) == 0x80U) --end;
+    while (end > 0 && (static_cast<unsigned char>(detail[end]) & 0xC0U) == 0x80U) {
+        --end;
+    }
     return detail.substr(0, end);
 }
 
@@ -50,7 +55,9 @@ std::string Created(std::string_view key, std::string_view id) {
 
 std::string Error(ErrorCode code, std::string_view detail) {
     std::string text(TextOf(code));
-    if (!detail.empty()) text.append(": ").append(Shorten(detail));
+    if (!detail.empty()) {
+        text.append(": ").append(Shorten(detail));
+    }
     JsonWriter out;
     out.BeginObject().Key("eid").Integer(static_cast<int>(code)).TextMember("emsg", text).EndObject();
     return out.Take();
@@ -64,7 +71,9 @@ std::string Catalog(const std::vector<CategoryRecord>& categories) {
         out.NumberMember("crk", category.hasRemark ? 1 : 0)
             .NumberMember("cd", static_cast<int>(category.state));
         out.Key("voys").BeginArray();
-        for (const VoyageRecord& voyage : category.voyages) WriteVoyage(out, voyage);
+        for (const VoyageRecord& voyage : category.voyages) {
+            WriteVoyage(out, voyage);
+        }
         out.EndArray().EndObject();
     }
     out.EndArray();
@@ -76,7 +85,9 @@ std::string Book(const std::optional<BookRecord>& book) {
     out.BeginArray();
     if (book) {
         out.BeginObject().TextMember("pbi", book->id).TextMember("eta", book->date).Key("pb").BeginArray();
-        for (const BookRowRecord& row : book->rows) WriteBookRow(out, row);
+        for (const BookRowRecord& row : book->rows) {
+            WriteBookRow(out, row);
+        }
         out.EndArray().EndObject();
     }
     out.EndArray();
@@ -100,7 +111,9 @@ std::string PortCalls(const std::vector<PortCallRecord>& calls) {
 std::string AisTimes(const std::vector<std::string>& times) {
     JsonWriter out;
     out.BeginObject().Key("times").BeginArray();
-    for (const std::string& time : times) out.Text(time);
+    for (const std::string& time : times) {
+        out.Text(time);
+    }
     out.EndArray().EndObject();
     return out.Take();
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/api/Errors.h"
-#include "host/server/storage/contract/Records.h"
-
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "host/server/api/Errors.h"
+#include "host/server/storage/contract/Records.h"
 
 namespace Tarvik::Server::Replies {
 

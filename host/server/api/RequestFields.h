@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/util/Jsona.h>
-
 #include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
+
+#include <tarvik/util/Jsona.h>
 
 namespace Tarvik::Server {
 

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/api/RequestRows.h"
 
+#include <limits>
+
+#include <tarvik/util/Jsona.h>
+
 #include "host/server/api/Numbers.h"
 #include "host/server/api/Refusal.h"
 #include "host/server/api/RequestFields.h"
 
-#include <tarvik/util/Jsona.h>
-
-#include <limits>
-
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr std::size_t kMaxTexts = 100000;
@@ -30,7 +31,9 @@ class RowFields {
             from = bar + 1;
         }
         fields_.push_back(row.substr(from));
-        if (fields_.size() != count) throw Refusal(ErrorCode::BadRow, std::string(row));
+        if (fields_.size() != count) {
+            throw Refusal(ErrorCode::BadRow, std::string(row));
+        }
     }
 
     std::string Text(std::size_t place) const {
@@ -39,12 +42,16 @@ class RowFields {
     }
     std::int32_t Integer(std::size_t place, std::int32_t least, std::int32_t most) const {
         const auto number = ParseInteger(fields_[place], least, most);
-        if (!number) throw Refusal(ErrorCode::BadNumber, std::string(row_));
+        if (!number) {
+            throw Refusal(ErrorCode::BadNumber, std::string(row_));
+        }
         return *number;
     }
     double Decimal(std::size_t place, double least, double most) const {
         const auto number = ParseDecimal(fields_[place], least, most);
-        if (!number) throw Refusal(ErrorCode::BadNumber, std::string(row_));
+        if (!number) {
+            throw Refusal(ErrorCode::BadNumber, std::string(row_));
+        }
         return *number;
     }
     [[noreturn]] void Refuse(ErrorCode code) const { throw Refusal(code, std::string(row_)); }
@@ -69,9 +76,13 @@ std::vector<std::string> ReadTexts(std::string_view request, std::size_t least) 
         throw Refusal(ErrorCode::BadJson,
                       std::string(root.ErrorText()) + " at byte " + std::to_string(root.ErrorOffset()));
     }
-    if (root.kind() != Util::Jsona::Kind::Array) throw Refusal(ErrorCode::BadJson, "an array is expected");
+    if (root.kind() != Util::Jsona::Kind::Array) {
+        throw Refusal(ErrorCode::BadJson, "an array is expected");
+    }
     const auto count = static_cast<std::size_t>(root.size());
-    if (count > kMaxTexts) throw Refusal(ErrorCode::TooManyRows, std::to_string(count));
+    if (count > kMaxTexts) {
+        throw Refusal(ErrorCode::TooManyRows, std::to_string(count));
+    }
     std::vector<std::string> texts;
     texts.reserve(count);
     for (int i = 0; i < root.size(); ++i) {
@@ -82,7 +93,9 @@ std::vector<std::string> ReadTexts(std::string_view request, std::size_t least) 
         texts.push_back(item.text());
         CheckText(texts.back(), kMaxNameBytes * 2, "row");
     }
-    if (texts.size() < least) throw Refusal(ErrorCode::MissingValue, "item " + std::to_string(texts.size()));
+    if (texts.size() < least) {
+        throw Refusal(ErrorCode::MissingValue, "item " + std::to_string(texts.size()));
+    }
     return texts;
 }
 
@@ -93,8 +106,12 @@ PortCallRecord ReadPortCall(std::string_view row) {
     call.portId = fields.Text(1);
     call.portName = fields.Text(2);
     call.purpose = fields.Text(3);
-    if (call.portId.empty() && call.portName.empty()) fields.Refuse(ErrorCode::BadRow);
-    if (!IsPurpose(call.purpose)) fields.Refuse(ErrorCode::BadPurpose);
+    if (call.portId.empty() && call.portName.empty()) {
+        fields.Refuse(ErrorCode::BadRow);
+    }
+    if (!IsPurpose(call.purpose)) {
+        fields.Refuse(ErrorCode::BadPurpose);
+    }
     call.speedKmh = fields.Decimal(4, 0, kMostSpeedKmh);
     // The client rounds to three decimals, so that its greatest factor below 1 arrives as 1.
     call.weatherFactor = fields.Decimal(5, 0, 1);

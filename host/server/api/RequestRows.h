@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Records.h"
-
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "host/server/storage/contract/Records.h"
 
 namespace Tarvik::Server {
 

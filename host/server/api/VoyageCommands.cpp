@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/api/VoyageCommands.h"
 
+#include <limits>
+
 #include "host/server/api/Refusal.h"
 #include "host/server/api/Replies.h"
 #include "host/server/api/RequestFields.h"
 
-#include <limits>
-
 namespace Tarvik::Server {
+
 namespace {
 
 enum Operation {
@@ -34,7 +35,9 @@ Outcome<std::string> Create(CatalogStorage& storage, const std::string& user, co
 VesselRecord ReadVessel(const RequestFields& fields) {
     VesselRecord vessel{fields.Text("vsi"), fields.Text("vsn"),
                         fields.Number("vsmsi", 0, std::numeric_limits<std::int32_t>::max())};
-    if (vessel.id.empty() && vessel.name.empty()) throw Refusal(ErrorCode::EmptyName, "vsn");
+    if (vessel.id.empty() && vessel.name.empty()) {
+        throw Refusal(ErrorCode::EmptyName, "vsn");
+    }
     return vessel;
 }
 
@@ -46,7 +49,9 @@ std::string VoyageCommands::Change(const std::string& user, std::string_view tex
     const std::string id = fields.Text("vi");
     switch (operation) {
         case kCreate:
-            if (!id.empty()) throw Refusal(ErrorCode::UnknownVoyage, "a new voyage has no id yet");
+            if (!id.empty()) {
+                throw Refusal(ErrorCode::UnknownVoyage, "a new voyage has no id yet");
+            }
             return Replies::Created("vi", ValueOrRefuse(Create(storage_, user, fields)));
         case kRename:
             ValueOrRefuse(storage_.RenameVoyage(user, id, fields.Name("vn")));

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/api/VoyageService.h"
 
+#include <chrono>
+
 #include "host/server/api/Refusal.h"
 #include "host/server/api/Replies.h"
-
-#include <chrono>
 
 namespace Tarvik::Server {
 
@@ -38,9 +38,15 @@ std::string VoyageService::Handle(const std::string& user, std::uint16_t moduleW
 
 std::string VoyageService::Dispatch(const std::string& user, std::uint16_t moduleWord, std::uint16_t command,
                                     std::string_view text) {
-    if (user.empty()) throw Refusal(ErrorCode::NoUser);
-    if (moduleWord == kRemarkModule && command == 9) return remarks_.Handle(user, text);
-    if (moduleWord != kVoyageModule) throw Refusal(ErrorCode::UnknownCommand);
+    if (user.empty()) {
+        throw Refusal(ErrorCode::NoUser);
+    }
+    if (moduleWord == kRemarkModule && command == 9) {
+        return remarks_.Handle(user, text);
+    }
+    if (moduleWord != kVoyageModule) {
+        throw Refusal(ErrorCode::UnknownCommand);
+    }
     switch (command) {
         case 1:
             return routes_.Plan(text);

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <string>
+#include <string_view>
+
 #include "host/server/api/AisTimeCommands.h"
 #include "host/server/api/BookCommands.h"
 #include "host/server/api/CategoryCommands.h"
@@ -10,10 +14,6 @@
 #include "host/server/api/RouteSource.h"
 #include "host/server/api/VoyageCommands.h"
 #include "host/server/storage/contract/Storage.h"
-
-#include <cstdint>
-#include <string>
-#include <string_view>
 
 namespace Tarvik::Server {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/app/EmbeddedServer.h"
 
-#include "host/server/api/Replies.h"
-
 #include <string_view>
 #include <utility>
+
+#include "host/server/api/Replies.h"
 
 namespace Tarvik::Server {
 
@@ -20,15 +20,23 @@ std::unique_ptr<EmbeddedServer> EmbeddedServer::Open(const std::string& dbPath,
         return nullptr;
     }
     auto storage = SqliteStorage::Open(dbPath, error);
-    if (storage == nullptr) return nullptr;
+    if (storage == nullptr) {
+        return nullptr;
+    }
     return std::unique_ptr<EmbeddedServer>(new EmbeddedServer(std::move(storage), std::move(routes), clock));
 }
 
 std::string EmbeddedServer::Exchange(const std::string& user, const Interface::VoyServerRequest* request) {
-    if (request == nullptr) return Replies::Error(ErrorCode::BadJson, "there is no request");
-    if (request->length > Interface::kMaxPayloadBytes) return Replies::Error(ErrorCode::RequestTooLong, {});
+    if (request == nullptr) {
+        return Replies::Error(ErrorCode::BadJson, "there is no request");
+    }
+    if (request->length > Interface::kMaxPayloadBytes) {
+        return Replies::Error(ErrorCode::RequestTooLong, {});
+    }
     std::string_view text(request->Payload(), request->length);
-    if (text.ends_with('\0')) text.remove_suffix(1);
+    if (text.ends_with('\0')) {
+        text.remove_suffix(1);
+    }
     return service_.Handle(user, request->moduleWord, request->command, text);
 }
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/api/VoyageService.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
+#include <memory>
+#include <string>
 
 #include <tarvik/interface/ServerRequest.h>
 
-#include <memory>
-#include <string>
+#include "host/server/api/VoyageService.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
 
 namespace Tarvik::Server {
 

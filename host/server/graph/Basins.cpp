@@ -7,30 +7,37 @@
 #include <unordered_map>
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// The representative of a node's set; halves the way to it in passing.
-uint32_t rootOf(std::vector<uint32_t>& parents, uint32_t node) {
-    while (parents[node] != node) node = parents[node] = parents[parents[node]];
+std::uint32_t RootOf(std::vector<std::uint32_t>& parents, std::uint32_t node) {
+    while (parents[node] != node) {
+        node = parents[node] = parents[parents[node]];
+    }
     return node;
 }
 
 }  // namespace
 
 Basins::Basins(const NetworkData& data) : masks_(data.masks) {
-    std::vector<uint32_t> parents(data.nodes.size());
+    std::vector<std::uint32_t> parents(data.nodes.size());
     std::iota(parents.begin(), parents.end(), 0U);
     for (const NetworkEdge& e : data.edges) {
-        if (masks_[e.mask].none()) parents[rootOf(parents, e.a)] = rootOf(parents, e.b);
+        if (masks_[e.mask].none()) {
+            parents[RootOf(parents, e.a)] = RootOf(parents, e.b);
+        }
     }
-    std::unordered_map<uint32_t, uint32_t> numbers;
-    for (uint32_t i = 0; i < parents.size(); ++i) {
-        const uint32_t root = rootOf(parents, i);
-        basin_.push_back(numbers.try_emplace(root, static_cast<uint32_t>(numbers.size())).first->second);
+    std::unordered_map<std::uint32_t, std::uint32_t> numbers;
+    for (std::uint32_t i = 0; i < parents.size(); ++i) {
+        const std::uint32_t root = RootOf(parents, i);
+        basin_.push_back(numbers.try_emplace(root, static_cast<std::uint32_t>(numbers.size())).first->second);
     }
-    std::set<std::tuple<uint32_t, uint32_t, uint16_t>> passages;
+    std::set<std::tuple<std::uint32_t, std::uint32_t, std::uint16_t>> passages;
     for (const NetworkEdge& e : data.edges) {
-        if (basin_[e.a] == basin_[e.b]) continue;
+        if (basin_[e.a] == basin_[e.b]) {
+            continue;
+        }
         passages.emplace(basin_[e.a], basin_[e.b], e.mask);
         passages.emplace(basin_[e.b], basin_[e.a], e.mask);
     }
@@ -39,21 +46,27 @@ Basins::Basins(const NetworkData& data) : masks_(data.masks) {
         ++start_[from + 1];
         passages_.push_back({to, mask});
     }
-    for (size_t i = 1; i < start_.size(); ++i) start_[i] += start_[i - 1];
+    for (std::size_t i = 1; i < start_.size(); ++i) {
+        start_[i] += start_[i - 1];
+    }
 }
 
-std::vector<char> Basins::reached(uint32_t node, const GateMask& forbidden) const {
+std::vector<char> Basins::Reached(std::uint32_t node, const GateMask& forbidden) const {
     std::vector<char> blocked(masks_.size());
-    for (size_t i = 0; i < blocked.size(); ++i) blocked[i] = (masks_[i] & forbidden).any() ? 1 : 0;
-    std::vector<char> seen(count(), 0);
-    std::vector<uint32_t> open{basin_[node]};
+    for (std::size_t i = 0; i < blocked.size(); ++i) {
+        blocked[i] = (masks_[i] & forbidden).any() ? 1 : 0;
+    }
+    std::vector<char> seen(Count(), 0);
+    std::vector<std::uint32_t> open{basin_[node]};
     seen[basin_[node]] = 1;
     while (!open.empty()) {
-        const uint32_t at = open.back();
+        const std::uint32_t at = open.back();
         open.pop_back();
-        for (uint32_t k = start_[at]; k < start_[at + 1]; ++k) {
+        for (std::uint32_t k = start_[at]; k < start_[at + 1]; ++k) {
             const Passage& passage = passages_[k];
-            if (seen[passage.to] != 0 || blocked[passage.mask] != 0) continue;
+            if (seen[passage.to] != 0 || blocked[passage.mask] != 0) {
+                continue;
+            }
             seen[passage.to] = 1;
             open.push_back(passage.to);
         }
@@ -61,8 +74,8 @@ std::vector<char> Basins::reached(uint32_t node, const GateMask& forbidden) cons
     return seen;
 }
 
-bool Basins::joined(uint32_t a, uint32_t b, const GateMask& forbidden) const {
-    return basin_[a] == basin_[b] || reached(a, forbidden)[basin_[b]] != 0;
+bool Basins::Joined(std::uint32_t a, std::uint32_t b, const GateMask& forbidden) const {
+    return basin_[a] == basin_[b] || Reached(a, forbidden)[basin_[b]] != 0;
 }
 
 }  // namespace Tarvik::Server

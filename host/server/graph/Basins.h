@@ -17,22 +17,22 @@ class Basins {
     Basins() = default;
     explicit Basins(const NetworkData& data);
 
-    uint32_t basinOf(uint32_t node) const { return basin_[node]; }
-    size_t count() const { return start_.empty() ? 0 : start_.size() - 1; }
+    std::uint32_t BasinOf(std::uint32_t node) const { return basin_[node]; }
+    std::size_t Count() const { return start_.empty() ? 0 : start_.size() - 1; }
 
     /// For every basin 1 when it can be reached from a node without crossing a forbidden gate, else 0.
-    std::vector<char> reached(uint32_t node, const GateMask& forbidden) const;
+    std::vector<char> Reached(std::uint32_t node, const GateMask& forbidden) const;
 
     /// True when some way joins the two nodes.
-    bool joined(uint32_t a, uint32_t b, const GateMask& forbidden) const;
+    bool Joined(std::uint32_t a, std::uint32_t b, const GateMask& forbidden) const;
 
   private:
     struct Passage {
-        uint32_t to = 0;
-        uint16_t mask = 0;
+        std::uint32_t to = 0;
+        std::uint16_t mask = 0;
     };
-    std::vector<uint32_t> basin_;
-    std::vector<uint32_t> start_;  // one more than there are basins
+    std::vector<std::uint32_t> basin_;
+    std::vector<std::uint32_t> start_;  // one more than there are basins
     std::vector<Passage> passages_;
     std::vector<GateMask> masks_;
 };

@@ -5,33 +5,40 @@
 #include <cmath>
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// Where the piece a-b crosses the piece c-d, as a share of a-b.
-std::optional<double> crossing(GeoPoint a, GeoPoint b, GeoPoint c, GeoPoint d) {
+std::optional<double> Crossing(GeoPoint a, GeoPoint b, GeoPoint c, GeoPoint d) {
     const double shift = 360.0 * std::round((a.x - c.x) / 360.0);
     c.x += shift;
     d.x += shift;
-    if (std::max(a.x, b.x) < std::min(c.x, d.x) || std::min(a.x, b.x) > std::max(c.x, d.x))
+    if (std::max(a.x, b.x) < std::min(c.x, d.x) || std::min(a.x, b.x) > std::max(c.x, d.x)) {
         return std::nullopt;
-    if (std::max(a.y, b.y) < std::min(c.y, d.y) || std::min(a.y, b.y) > std::max(c.y, d.y))
+    }
+    if (std::max(a.y, b.y) < std::min(c.y, d.y) || std::min(a.y, b.y) > std::max(c.y, d.y)) {
         return std::nullopt;
+    }
     const double ux = d.x - c.x;
     const double uy = d.y - c.y;
     const double sideA = ux * (a.y - c.y) - uy * (a.x - c.x);
     const double sideB = ux * (b.y - c.y) - uy * (b.x - c.x);
-    if ((sideA > 0.0) == (sideB > 0.0)) return std::nullopt;
+    if ((sideA > 0.0) == (sideB > 0.0)) {
+        return std::nullopt;
+    }
     const double vx = b.x - a.x;
     const double vy = b.y - a.y;
     const double sideC = vx * (c.y - a.y) - vy * (c.x - a.x);
     const double sideD = vx * (d.y - a.y) - vy * (d.x - a.x);
-    if (sideC * sideD > 0.0) return std::nullopt;
+    if (sideC * sideD > 0.0) {
+        return std::nullopt;
+    }
     return sideA / (sideA - sideB);
 }
 
 }  // namespace
 
-Bounds boundsOf(const std::vector<GeoPoint>& line) {
+Bounds BoundsOf(const std::vector<GeoPoint>& line) {
     Bounds bounds{line.front(), line.front()};
     for (const GeoPoint p : line) {
         bounds.low = {std::min(bounds.low.x, p.x), std::min(bounds.low.y, p.y)};
@@ -40,22 +47,28 @@ Bounds boundsOf(const std::vector<GeoPoint>& line) {
     return bounds;
 }
 
-bool mayMeet(const Bounds& a, const Bounds& b) {
-    if (a.low.y > b.high.y || a.high.y < b.low.y) return false;
+bool MayMeet(const Bounds& a, const Bounds& b) {
+    if (a.low.y > b.high.y || a.high.y < b.low.y) {
+        return false;
+    }
     // How far east b must be turned so that it does not end before a begins.
     const double turns = std::ceil((a.low.x - b.high.x) / 360.0);
     return b.low.x + 360.0 * turns <= a.high.x;
 }
 
-std::optional<GateCrossing> firstCrossing(const std::vector<GeoPoint>& way,
+std::optional<GateCrossing> FirstCrossing(const std::vector<GeoPoint>& way,
                                           const std::vector<GeoPoint>& gate) {
-    for (size_t i = 1; i < way.size(); ++i) {
+    for (std::size_t i = 1; i < way.size(); ++i) {
         std::optional<double> best;
-        for (size_t g = 1; g < gate.size(); ++g) {
-            const std::optional<double> t = crossing(way[i - 1], way[i], gate[g - 1], gate[g]);
-            if (t && (!best || *t < *best)) best = t;
+        for (std::size_t g = 1; g < gate.size(); ++g) {
+            const std::optional<double> t = Crossing(way[i - 1], way[i], gate[g - 1], gate[g]);
+            if (t && (!best || *t < *best)) {
+                best = t;
+            }
         }
-        if (!best) continue;
+        if (!best) {
+            continue;
+        }
         const GeoPoint a = way[i - 1];
         const GeoPoint b = way[i];
         return GateCrossing{i - 1, *best, {a.x + *best * (b.x - a.x), a.y + *best * (b.y - a.y)}};

@@ -11,7 +11,7 @@ namespace Tarvik::Server {
 
 /// Where a way meets a gate: behind piece `index` of the way, `t` (0..1) along it, at `at`.
 struct GateCrossing {
-    size_t index = 0;
+    std::size_t index = 0;
     double t = 0.0;
     GeoPoint at;
 };
@@ -23,14 +23,14 @@ struct Bounds {
 };
 
 /// `line` must not be empty.
-Bounds boundsOf(const std::vector<GeoPoint>& line);
+Bounds BoundsOf(const std::vector<GeoPoint>& line);
 
 /// False when lines with these bounds cannot meet, whatever full turns lie between their longitudes.
-bool mayMeet(const Bounds& a, const Bounds& b);
+bool MayMeet(const Bounds& a, const Bounds& b);
 
 /// The first place where a way (straight pieces in longitude and latitude) crosses a gate line; nothing when
 /// it stays on one side. Longitudes of both may run past ±180.
-std::optional<GateCrossing> firstCrossing(const std::vector<GeoPoint>& way,
+std::optional<GateCrossing> FirstCrossing(const std::vector<GeoPoint>& way,
                                           const std::vector<GeoPoint>& gate);
 
 }  // namespace Tarvik::Server

@@ -10,19 +10,23 @@
 
 namespace Tarvik::Server {
 
-std::vector<float> distancesFrom(const ArcTable& table, uint32_t node) {
+std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node) {
     std::vector<float> best(table.start.size() - 1, std::numeric_limits<float>::infinity());
-    using Item = std::pair<float, uint32_t>;
+    using Item = std::pair<float, std::uint32_t>;
     std::priority_queue<Item, std::vector<Item>, std::greater<>> open;
     best[node] = 0.0F;
     open.emplace(0.0F, node);
     while (!open.empty()) {
         const auto [nm, at] = open.top();
         open.pop();
-        if (nm > best[at]) continue;
-        for (uint32_t k = table.start[at]; k < table.start[at + 1]; ++k) {
+        if (nm > best[at]) {
+            continue;
+        }
+        for (std::uint32_t k = table.start[at]; k < table.start[at + 1]; ++k) {
             const Arc& arc = table.arcs[k];
-            if (nm + arc.nm >= best[arc.to]) continue;
+            if (nm + arc.nm >= best[arc.to]) {
+                continue;
+            }
             best[arc.to] = nm + arc.nm;
             open.emplace(best[arc.to], arc.to);
         }
@@ -30,38 +34,46 @@ std::vector<float> distancesFrom(const ArcTable& table, uint32_t node) {
     return best;
 }
 
-Landmarks::Landmarks(const ArcTable& table, size_t count) {
-    const size_t nodes = table.start.size() - 1;
-    if (nodes == 0) return;
+Landmarks::Landmarks(const ArcTable& table, std::size_t count) {
+    const std::size_t nodes = table.start.size() - 1;
+    if (nodes == 0) {
+        return;
+    }
     std::vector<float> nearest(nodes, std::numeric_limits<float>::infinity());
     std::vector<std::vector<float>> columns;
     // The first landmark is the node farthest from node 0, each next one the farthest from all before it.
-    std::vector<float> reach = distancesFrom(table, 0);
-    for (size_t k = 0; k < count; ++k) {
-        uint32_t next = 0;
+    std::vector<float> reach = DistancesFrom(table, 0);
+    for (std::size_t k = 0; k < count; ++k) {
+        std::uint32_t next = 0;
         float farthest = -1.0F;
-        for (uint32_t i = 0; i < nodes; ++i) {
+        for (std::uint32_t i = 0; i < nodes; ++i) {
             const float d = k == 0 ? reach[i] : nearest[i];
             if (std::isfinite(d) && d > farthest) {
                 farthest = d;
                 next = i;
             }
         }
-        columns.push_back(distancesFrom(table, next));
-        for (size_t i = 0; i < nodes; ++i) nearest[i] = std::min(nearest[i], columns.back()[i]);
+        columns.push_back(DistancesFrom(table, next));
+        for (std::size_t i = 0; i < nodes; ++i) {
+            nearest[i] = std::min(nearest[i], columns.back()[i]);
+        }
     }
     count_ = count;
     distances_.resize(nodes * count);
-    for (size_t k = 0; k < count; ++k) {
-        for (size_t i = 0; i < nodes; ++i) distances_[i * count + k] = columns[k][i];
+    for (std::size_t k = 0; k < count; ++k) {
+        for (std::size_t i = 0; i < nodes; ++i) {
+            distances_[i * count + k] = columns[k][i];
+        }
     }
 }
 
-float Landmarks::bound(uint32_t a, uint32_t b) const {
+float Landmarks::Bound(std::uint32_t a, std::uint32_t b) const {
     float best = 0.0F;
-    for (size_t k = 0; k < count_; ++k) {
+    for (std::size_t k = 0; k < count_; ++k) {
         const float difference = std::abs(distances_[a * count_ + k] - distances_[b * count_ + k]);
-        if (difference > best) best = difference;  // false for infinity minus infinity
+        if (difference > best) {
+            best = difference;  // false for infinity minus infinity
+        }
     }
     return best;
 }

@@ -9,14 +9,14 @@ namespace Tarvik::Server {
 
 /// A way out of a node.
 struct Arc {
-    uint32_t to = 0;
-    uint32_t edge = 0;
+    std::uint32_t to = 0;
+    std::uint32_t edge = 0;
     float nm = 0.0F;
 };
 
 /// The arcs of every node, packed.
 struct ArcTable {
-    std::vector<uint32_t> start;  ///< one more than there are nodes
+    std::vector<std::uint32_t> start;  ///< one more than there are nodes
     std::vector<Arc> arcs;
 };
 
@@ -28,18 +28,18 @@ struct ArcTable {
 class Landmarks {
   public:
     Landmarks() = default;
-    Landmarks(const ArcTable& table, size_t count);
+    Landmarks(const ArcTable& table, std::size_t count);
 
     /// A lower bound of the way from a to b in nautical miles; 0 when nothing better is known, infinite when
     /// a landmark reaches only one of them.
-    float bound(uint32_t a, uint32_t b) const;
+    float Bound(std::uint32_t a, std::uint32_t b) const;
 
   private:
-    size_t count_ = 0;
+    std::size_t count_ = 0;
     std::vector<float> distances_;  // node-major
 };
 
 /// Distances in nautical miles from one node to all; infinite where there is no way.
-std::vector<float> distancesFrom(const ArcTable& table, uint32_t node);
+std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node);
 
 }  // namespace Tarvik::Server

@@ -20,16 +20,16 @@ class LegPlanner {
 
     /// The stop at `toId` with legs, groups and locks; nothing and `error` set when there is no way or an id
     /// in the choices is unknown. Both stops must be known.
-    std::optional<PlannedStop> plan(const std::string& fromId, const RouteRequestPoint& to,
+    std::optional<PlannedStop> Plan(const std::string& fromId, const RouteRequestPoint& to,
                                     std::string& error) const;
 
     /// The dense way from one node to another under the default limits; empty when there is none.
-    std::vector<GeoPoint> way(uint32_t from, uint32_t to) const;
+    std::vector<GeoPoint> Way(std::uint32_t from, std::uint32_t to) const;
 
   private:
     struct Stretch {
-        uint16_t chosen = 0;
-        std::vector<uint32_t>
+        std::uint16_t chosen = 0;
+        std::vector<std::uint32_t>
             nodes;         ///< the chosen point, between its range's ends where those are route points
         std::string text;  ///< "new=from,end"
     };
@@ -37,14 +37,14 @@ class LegPlanner {
 
     std::optional<Stretches> stretches(const std::string& fromId, const RouteRequestPoint& to,
                                        std::string& error) const;
-    bool resolve(const RouteChoice& choice, const std::string& fromId, const std::string& toId,
+    bool Resolve(const RouteChoice& choice, const std::string& fromId, const std::string& toId,
                  Stretch& out) const;
-    GateMask forbiddenFor(const Stretches& chosen) const;
-    std::optional<NodePath> pathThrough(const std::vector<uint32_t>& stations,
+    GateMask ForbiddenFor(const Stretches& chosen) const;
+    std::optional<NodePath> PathThrough(const std::vector<std::uint32_t>& stations,
                                         const GateMask& forbidden) const;
-    std::optional<NodePath> bestOrder(uint32_t from, uint32_t to, Stretches chosen,
+    std::optional<NodePath> BestOrder(std::uint32_t from, std::uint32_t to, Stretches chosen,
                                       const GateMask& forbidden) const;
-    std::vector<std::string> offers(uint32_t from, uint32_t to, uint16_t passed) const;
+    std::vector<std::string> Offers(std::uint32_t from, std::uint32_t to, std::uint16_t passed) const;
 
     const SeaNetwork& network_;
     PathShape shape_;

@@ -11,13 +11,13 @@
 namespace Tarvik::Server {
 
 /// The most route points a network can hold; each owns one bit of a gate mask.
-inline constexpr size_t kMaxRoutePoints = 192;
+inline constexpr std::size_t kMaxRoutePoints = 192;
 
 /// Which gates a way crosses: bit i belongs to route point i of the network.
 using GateMask = std::bitset<kMaxRoutePoints>;
 
 /// How an edge came about, which says what it may cross.
-enum class EdgeKind : uint8_t {
+enum class EdgeKind : std::uint8_t {
     Sea = 0,    ///< open water, never crosses land
     Chain = 1,  ///< hand-made way through a canal, a strait or a river; may run over land of the map
     Link = 2,   ///< joins a port to the nearest water or chain; may run over land of the map
@@ -25,21 +25,21 @@ enum class EdgeKind : uint8_t {
 
 /// A way between two nodes, usable in both directions.
 struct NetworkEdge {
-    uint32_t a = 0;
-    uint32_t b = 0;
-    float nm = 0.0F;    ///< length in nautical miles
-    uint16_t mask = 0;  ///< index into NetworkData::masks
+    std::uint32_t a = 0;
+    std::uint32_t b = 0;
+    float nm = 0.0F;         ///< length in nautical miles
+    std::uint16_t mask = 0;  ///< index into NetworkData::masks
     EdgeKind kind = EdgeKind::Sea;
 };
 
 /// A group of passages that can stand for one another, as indices of route points.
-using AlternativeGroup = std::vector<uint16_t>;
+using AlternativeGroup = std::vector<std::uint16_t>;
 
 /// A named passage, cape or canal.
 struct RoutePoint {
     std::string id;
     std::string name;
-    uint32_t node = 0;                     ///< its node in the network
+    std::uint32_t node = 0;                ///< its node in the network
     bool shut = false;                     ///< used only when asked for
     std::vector<GeoPoint> gate;            ///< line across the passage; longitudes may run past ±180
     std::vector<AlternativeGroup> groups;  ///< what may be used in its place, one list per group
@@ -50,7 +50,7 @@ struct NetworkPort {
     std::string id;
     std::string unlocode;
     std::string name;
-    uint32_t node = 0;
+    std::uint32_t node = 0;
 };
 
 /// Everything the network file holds. Positions have 5 decimals.

@@ -10,14 +10,14 @@ namespace Tarvik::Server {
 
 /// A way through the network: one more node than edges; `nm` is its length in nautical miles.
 struct NodePath {
-    std::vector<uint32_t> nodes;
-    std::vector<uint32_t> edges;
+    std::vector<std::uint32_t> nodes;
+    std::vector<std::uint32_t> edges;
     double nm = 0.0;
 };
 
 /// The shortest way from one node to another that uses no edge over a forbidden gate; nothing when there is
 /// none. A* with the larger of the great-circle and the landmark bound.
-std::optional<NodePath> findPath(const SeaNetwork& network, uint32_t from, uint32_t to,
+std::optional<NodePath> FindPath(const SeaNetwork& network, std::uint32_t from, std::uint32_t to,
                                  const GateMask& forbidden);
 
 }  // namespace Tarvik::Server

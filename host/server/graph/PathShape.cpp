@@ -8,19 +8,20 @@
 #include "host/server/graph/Gate.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// How many nodes in a row may be hidden before the view ahead is given up.
-constexpr size_t kPatience = 3;
+constexpr std::size_t kPatience = 3;
 
 struct Pass {
-    size_t index = 0;
+    std::size_t index = 0;
     double t = 0.0;
     GeoPoint at;
     const RoutePoint* point = nullptr;
 };
 
-std::vector<Pass> passes(const std::vector<GeoPoint>& way, const NetworkData& data) {
+std::vector<Pass> Passes(const std::vector<GeoPoint>& way, const NetworkData& data) {
     std::vector<Pass> found;
     for (const RoutePoint& point : data.routePoints) {
         const GeoPoint here = data.nodes[point.node];
@@ -29,8 +30,8 @@ std::vector<Pass> passes(const std::vector<GeoPoint>& way, const NetworkData& da
         };
         const auto it = std::find_if(way.begin(), way.end(), same);
         if (it != way.end()) {
-            found.push_back({static_cast<size_t>(it - way.begin()), 0.0, *it, &point});
-        } else if (const auto crossing = firstCrossing(way, point.gate)) {
+            found.push_back({static_cast<std::size_t>(it - way.begin()), 0.0, *it, &point});
+        } else if (const auto crossing = FirstCrossing(way, point.gate)) {
             found.push_back({crossing->index, crossing->t, crossing->at, &point});
         }
     }
@@ -40,26 +41,28 @@ std::vector<Pass> passes(const std::vector<GeoPoint>& way, const NetworkData& da
     return found;
 }
 
-RouteLeg finished(std::string from, std::string end, std::vector<GeoPoint> points) {
-    if (points.size() == 1) points.push_back(points.front());
-    RouteLeg leg{std::move(from), std::move(end), PathShape::cutAtDateLine(points), 0.0};
-    leg.distanceKm = PathShape::lengthKm(leg.points);
+RouteLeg Finished(std::string from, std::string end, std::vector<GeoPoint> points) {
+    if (points.size() == 1) {
+        points.push_back(points.front());
+    }
+    RouteLeg leg{std::move(from), std::move(end), PathShape::CutAtDateLine(points), 0.0};
+    leg.distanceKm = PathShape::LengthKm(leg.points);
     return leg;
 }
 
 }  // namespace
 
 bool PathShape::open(GeoPoint a, GeoPoint b, const GateMask& forbidden) const {
-    return !network_.land().blocks(a, b) && (network_.gatesCrossed(a, b) & forbidden).none();
+    return !network_.Land().Blocks(a, b) && (network_.GatesCrossed(a, b) & forbidden).none();
 }
 
-void PathShape::appendTaut(const std::vector<GeoPoint>& run, const GateMask& forbidden,
+void PathShape::AppendTaut(const std::vector<GeoPoint>& run, const GateMask& forbidden,
                            std::vector<GeoPoint>& out) const {
-    size_t at = 0;
+    std::size_t at = 0;
     while (at + 1 < run.size()) {
-        size_t next = at + 1;
-        size_t hidden = 0;
-        for (size_t j = at + 2; j < run.size() && hidden < kPatience; ++j) {
+        std::size_t next = at + 1;
+        std::size_t hidden = 0;
+        for (std::size_t j = at + 2; j < run.size() && hidden < kPatience; ++j) {
             if (open(run[at], run[j], forbidden)) {
                 next = j;
                 hidden = 0;
@@ -72,20 +75,22 @@ void PathShape::appendTaut(const std::vector<GeoPoint>& run, const GateMask& for
     }
 }
 
-std::vector<GeoPoint> PathShape::taut(const NodePath& path, const GateMask& forbidden,
-                                      const std::vector<uint32_t>& pinned) const {
+std::vector<GeoPoint> PathShape::Taut(const NodePath& path, const GateMask& forbidden,
+                                      const std::vector<std::uint32_t>& pinned) const {
     const NetworkData& data = network_.data();
     std::vector<GeoPoint> corners{data.nodes[path.nodes.front()]};
     std::vector<GeoPoint> run{corners.front()};
     const auto flush = [&] {
-        appendTaut(run, forbidden, corners);
+        AppendTaut(run, forbidden, corners);
         run = {corners.back()};
     };
-    for (size_t i = 0; i < path.edges.size(); ++i) {
-        const uint32_t node = path.nodes[i + 1];
+    for (std::size_t i = 0; i < path.edges.size(); ++i) {
+        const std::uint32_t node = path.nodes[i + 1];
         if (data.edges[path.edges[i]].kind == EdgeKind::Sea) {
             run.push_back(data.nodes[node]);
-            if (std::find(pinned.begin(), pinned.end(), node) != pinned.end()) flush();
+            if (std::find(pinned.begin(), pinned.end(), node) != pinned.end()) {
+                flush();
+            }
             continue;
         }
         flush();
@@ -96,14 +101,18 @@ std::vector<GeoPoint> PathShape::taut(const NodePath& path, const GateMask& forb
     return corners;
 }
 
-std::vector<GeoPoint> PathShape::densify(const std::vector<GeoPoint>& corners) {
+std::vector<GeoPoint> PathShape::Densify(const std::vector<GeoPoint>& corners) {
     std::vector<GeoPoint> way{corners.front()};
-    for (size_t i = 1; i < corners.size(); ++i) {
-        const std::vector<GeoPoint> piece = greatCircle(corners[i - 1], corners[i]);
+    for (std::size_t i = 1; i < corners.size(); ++i) {
+        const std::vector<GeoPoint> piece = GreatCircle(corners[i - 1], corners[i]);
         const double shift = way.back().x - piece.front().x;
-        for (size_t k = 1; k < piece.size(); ++k) way.push_back({piece[k].x + shift, piece[k].y});
+        for (std::size_t k = 1; k < piece.size(); ++k) {
+            way.push_back({piece[k].x + shift, piece[k].y});
+        }
     }
-    for (GeoPoint& p : way) p = roundPoint(p);
+    for (GeoPoint& p : way) {
+        p = RoundPoint(p);
+    }
     return way;
 }
 
@@ -112,50 +121,64 @@ std::vector<RouteLeg> PathShape::split(const std::vector<GeoPoint>& way, const s
     std::vector<RouteLeg> legs;
     std::string from = fromId;
     std::vector<GeoPoint> points{way.front()};
-    size_t next = 1;
+    std::size_t next = 1;
     const auto append = [&points](GeoPoint p) {
-        if (!(points.back() == p)) points.push_back(p);
+        if (!(points.back() == p)) {
+            points.push_back(p);
+        }
     };
-    for (const Pass& pass : passes(way, network_.data())) {
-        if (pass.point->id == fromId || pass.point->id == endId) continue;
-        for (; next <= pass.index; ++next) append(way[next]);
-        const GeoPoint at = roundPoint(pass.at);
+    for (const Pass& pass : Passes(way, network_.data())) {
+        if (pass.point->id == fromId || pass.point->id == endId) {
+            continue;
+        }
+        for (; next <= pass.index; ++next) {
+            append(way[next]);
+        }
+        const GeoPoint at = RoundPoint(pass.at);
         append(at);
-        legs.push_back(finished(from, pass.point->id, std::move(points)));
+        legs.push_back(Finished(from, pass.point->id, std::move(points)));
         points = {at};
         from = pass.point->id;
     }
-    for (; next < way.size(); ++next) append(way[next]);
-    legs.push_back(finished(from, endId, std::move(points)));
+    for (; next < way.size(); ++next) {
+        append(way[next]);
+    }
+    legs.push_back(Finished(from, endId, std::move(points)));
     return legs;
 }
 
-std::vector<GeoPoint> PathShape::cutAtDateLine(const std::vector<GeoPoint>& way) {
+std::vector<GeoPoint> PathShape::CutAtDateLine(const std::vector<GeoPoint>& way) {
     std::vector<GeoPoint> cut;
-    for (size_t i = 0; i < way.size(); ++i) {
-        const GeoPoint here{wrapLongitude(way[i].x), way[i].y};
+    for (std::size_t i = 0; i < way.size(); ++i) {
+        const GeoPoint here{WrapLongitude(way[i].x), way[i].y};
         if (i > 0) {
             const double before = std::floor((way[i - 1].x + 180.0) / 360.0);
             const double after = std::floor((way[i].x + 180.0) / 360.0);
             if (before != after) {
                 const double line = 360.0 * std::max(before, after) - 180.0;
                 const double t = (line - way[i - 1].x) / (way[i].x - way[i - 1].x);
-                const double y = roundPoint({0.0, way[i - 1].y + t * (way[i].y - way[i - 1].y)}).y;
+                const double y = RoundPoint({0.0, way[i - 1].y + t * (way[i].y - way[i - 1].y)}).y;
                 const double side = after > before ? 180.0 : -180.0;
-                if (cut.back() == GeoPoint{side, y} || cut.back() == GeoPoint{-side, y}) cut.pop_back();
+                if (cut.back() == GeoPoint{side, y} || cut.back() == GeoPoint{-side, y}) {
+                    cut.pop_back();
+                }
                 cut.push_back({side, y});
                 cut.push_back({-side, y});
-                if (here == cut.back()) continue;
+                if (here == cut.back()) {
+                    continue;
+                }
             }
         }
-        cut.push_back(roundPoint(here));
+        cut.push_back(RoundPoint(here));
     }
     return cut;
 }
 
-double PathShape::lengthKm(const std::vector<GeoPoint>& way) {
+double PathShape::LengthKm(const std::vector<GeoPoint>& way) {
     double km = 0.0;
-    for (size_t i = 1; i < way.size(); ++i) km += geodesicKm(way[i - 1], way[i]);
+    for (std::size_t i = 1; i < way.size(); ++i) {
+        km += GeodesicKm(way[i - 1], way[i]);
+    }
     return km;
 }
 

@@ -16,25 +16,25 @@ class PathShape {
 
     /// The way as corner points, pulled taut: a node is left out where the great circle past it meets neither
     /// land nor a forbidden gate. Hand-made ways and nodes in `pinned` keep all their points.
-    std::vector<GeoPoint> taut(const NodePath& path, const GateMask& forbidden,
-                               const std::vector<uint32_t>& pinned) const;
+    std::vector<GeoPoint> Taut(const NodePath& path, const GateMask& forbidden,
+                               const std::vector<std::uint32_t>& pinned) const;
 
     /// Corner points filled up along the great circles; longitudes run on past ±180.
-    static std::vector<GeoPoint> densify(const std::vector<GeoPoint>& corners);
+    static std::vector<GeoPoint> Densify(const std::vector<GeoPoint>& corners);
 
     /// A dense way cut at every route point whose gate it passes, from `fromId` to `endId`.
     std::vector<RouteLeg> split(const std::vector<GeoPoint>& way, const std::string& fromId,
                                 const std::string& endId) const;
 
     /// Longitudes brought back to ±180, with the two points at the date line put in.
-    static std::vector<GeoPoint> cutAtDateLine(const std::vector<GeoPoint>& way);
+    static std::vector<GeoPoint> CutAtDateLine(const std::vector<GeoPoint>& way);
 
     /// WGS-84 length in km of a way, cut or not.
-    static double lengthKm(const std::vector<GeoPoint>& way);
+    static double LengthKm(const std::vector<GeoPoint>& way);
 
   private:
     bool open(GeoPoint a, GeoPoint b, const GateMask& forbidden) const;
-    void appendTaut(const std::vector<GeoPoint>& run, const GateMask& forbidden,
+    void AppendTaut(const std::vector<GeoPoint>& run, const GateMask& forbidden,
                     std::vector<GeoPoint>& out) const;
 
     const SeaNetwork& network_;

@@ -17,14 +17,14 @@ class RouteEngine {
     explicit RouteEngine(std::shared_ptr<const SeaNetwork> network);
 
     /// The ways along a list of at least two stops. The first stop of the answer has no legs.
-    RouteResult plan(const std::vector<RouteRequestPoint>& points) const;
+    RouteResult Plan(const std::vector<RouteRequestPoint>& points) const;
 
     /// The way from a position (degrees; on the water, in port or on a river) to a port or route point. It
     /// begins at the position itself.
-    NearestResult nearest(GeoPoint position, const std::string& destPort) const;
+    NearestResult Nearest(GeoPoint position, const std::string& destPort) const;
 
   private:
-    std::vector<uint32_t> entryNodes(GeoPoint position, bool& inSight) const;
+    std::vector<std::uint32_t> EntryNodes(GeoPoint position, bool& inSight) const;
 
     std::shared_ptr<const SeaNetwork> network_;
 };

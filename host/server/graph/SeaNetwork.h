@@ -7,16 +7,16 @@
 #include <string>
 #include <unordered_map>
 
-#include "host/server/graph/Basins.h"
 #include "host/geo/LandIndex.h"
+#include "host/geo/Sphere.h"
+#include "host/server/graph/Basins.h"
 #include "host/server/graph/Landmarks.h"
 #include "host/server/graph/NetworkData.h"
-#include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {
 
 /// The bit of ways north of `kNorthLimit` or south of `kSouthLimit`; no route point owns it.
-inline constexpr size_t kIceBit = kMaxRoutePoints - 1;
+inline constexpr std::size_t kIceBit = kMaxRoutePoints - 1;
 inline constexpr double kNorthLimit = 72.5;
 inline constexpr double kSouthLimit = -60.0;
 
@@ -25,31 +25,31 @@ inline constexpr double kSouthLimit = -60.0;
 class SeaNetwork {
   public:
     /// Reads the file; nothing and an error text when it is missing, foreign, cut or damaged.
-    static std::shared_ptr<const SeaNetwork> load(const std::string& path, std::string& error);
+    static std::shared_ptr<const SeaNetwork> Load(const std::string& path, std::string& error);
 
     /// A network of data that is already consistent (`SeaNetworkFile::decode` sees to that).
     explicit SeaNetwork(NetworkData data);
 
     const NetworkData& data() const { return data_; }
-    const LandIndex& land() const { return land_; }
+    const LandIndex& Land() const { return land_; }
     /// Bounds over the edges that are open unless asked for; of no use once a shut gate is open.
-    const Landmarks& landmarks() const { return landmarks_; }
-    const Basins& basins() const { return basins_; }
-    std::span<const Arc> arcs(uint32_t node) const;
-    const UnitVector& vector(uint32_t node) const { return vectors_[node]; }
+    const Landmarks& Bounds() const { return landmarks_; }
+    const Basins& Waters() const { return basins_; }
+    std::span<const Arc> Arcs(std::uint32_t node) const;
+    const UnitVector& Vector(std::uint32_t node) const { return vectors_[node]; }
 
     /// The node of a port or route point.
-    std::optional<uint32_t> nodeOf(const std::string& id) const;
+    std::optional<std::uint32_t> NodeOf(const std::string& id) const;
     /// The index of a route point.
-    std::optional<uint16_t> routePoint(const std::string& id) const;
+    std::optional<std::uint16_t> RoutePointIndex(const std::string& id) const;
     /// The gates that stay shut unless asked for.
-    const GateMask& shutGates() const { return shut_; }
+    const GateMask& ShutGates() const { return shut_; }
     /// The gates that a straight great-circle way crosses, the ice bit included.
-    GateMask gatesCrossed(GeoPoint a, GeoPoint b) const;
+    GateMask GatesCrossed(GeoPoint a, GeoPoint b) const;
 
   private:
-    void buildArcs();
-    ArcTable openArcs() const;
+    void BuildArcs();
+    ArcTable OpenArcs() const;
 
     NetworkData data_;
     LandIndex land_;
@@ -57,12 +57,12 @@ class SeaNetwork {
     ArcTable table_;
     Landmarks landmarks_;
     std::vector<UnitVector> vectors_;
-    std::unordered_map<std::string, uint32_t> nodeById_;
-    std::unordered_map<std::string, uint16_t> routePointById_;
+    std::unordered_map<std::string, std::uint32_t> nodeById_;
+    std::unordered_map<std::string, std::uint16_t> routePointById_;
     GateMask shut_;
 };
 
 /// The gates that a drawn way crosses, and the ice bit where it leaves the latitudes open to all.
-GateMask gatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints);
+GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints);
 
 }  // namespace Tarvik::Server

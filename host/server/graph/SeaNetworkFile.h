@@ -17,14 +17,14 @@ namespace Tarvik::Server {
 class SeaNetworkFile {
   public:
     /// Writes the file; returns an error text, empty on success.
-    static std::string write(const std::string& path, const NetworkData& data);
+    static std::string Write(const std::string& path, const NetworkData& data);
 
     /// The network, or nothing and `error` set when the file is missing, foreign, cut, damaged or
     /// inconsistent.
-    static std::optional<NetworkData> read(const std::string& path, std::string& error);
+    static std::optional<NetworkData> Read(const std::string& path, std::string& error);
 
-    static std::string encode(const NetworkData& data);
-    static std::optional<NetworkData> decode(const std::string& bytes, std::string& error);
+    static std::string Encode(const NetworkData& data);
+    static std::optional<NetworkData> Decode(const std::string& bytes, std::string& error);
 };
 
 }  // namespace Tarvik::Server

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/program/Help.h"
 
-#include "host/server/net/settings/SettingsTable.h"
-
 #include <fmt/format.h>
+
+#include "host/server/net/settings/SettingsTable.h"
 
 namespace Tarvik::Server {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/program/PasswordPrompt.h"
-#include "host/server/program/Program.h"
-
 #include <exception>
 #include <iostream>
+
+#include "host/server/program/PasswordPrompt.h"
+#include "host/server/program/Program.h"
 
 int main(int count, char** words) {
     using namespace Tarvik::Server;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/program/PasswordPrompt.h"
 
+#include <iostream>
 #include <termios.h>
 #include <unistd.h>
 
-#include <iostream>
-
 namespace Tarvik::Server {
+
 namespace {
 
 /// The terminal of standard input without its echo, as long as this lives.
@@ -15,10 +15,14 @@ class EchoOff {
     EchoOff() : known_(tcgetattr(STDIN_FILENO, &before_) == 0) {
         termios silent = before_;
         silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        if (known_) tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent);
+        if (known_) {
+            tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent);
+        }
     }
     ~EchoOff() {
-        if (known_) tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
+        if (known_) {
+            tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
+        }
     }
     EchoOff(const EchoOff&) = delete;
     EchoOff& operator=(const EchoOff&) = delete;
@@ -39,17 +43,27 @@ bool Ask(const char* question, std::string& password) {
 
 bool ReadPasswordLine(std::istream& in, std::string& password) {
     password.clear();
-    if (!std::getline(in, password)) return false;
-    if (password.ends_with('\r')) password.pop_back();
+    if (!std::getline(in, password)) {
+        return false;
+    }
+    if (password.ends_with('\r')) {
+        password.pop_back();
+    }
     return true;
 }
 
 bool AskPassword(std::string& password) {
-    if (isatty(STDIN_FILENO) == 0) return ReadPasswordLine(std::cin, password);
+    if (isatty(STDIN_FILENO) == 0) {
+        return ReadPasswordLine(std::cin, password);
+    }
     const EchoOff silent;
     std::string again;
-    if (!Ask("Password: ", password) || !Ask("The same again: ", again)) return false;
-    if (password == again) return true;
+    if (!Ask("Password: ", password) || !Ask("The same again: ", again)) {
+        return false;
+    }
+    if (password == again) {
+        return true;
+    }
     std::cerr << "seaplan-server: the two differ\n";
     return false;
 }

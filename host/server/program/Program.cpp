@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/program/Program.h"
 
-#include "host/server/program/Help.h"
-#include "host/server/program/TransferRun.h"
-#include "host/server/net/routes/OpenRoutes.h"
-#include "host/server/net/service/VoyageServer.h"
-
 #include <algorithm>
 #include <filesystem>
 
+#include "host/server/net/routes/OpenRoutes.h"
+#include "host/server/net/service/VoyageServer.h"
+#include "host/server/program/Help.h"
+#include "host/server/program/TransferRun.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr int kFailed = 1;
@@ -29,8 +30,12 @@ bool TakeSettingsFile(std::vector<std::string>& words, std::string& file) {
             words.erase(word);
             return !file.empty();
         }
-        if (*word != kOption) continue;
-        if (word + 1 == words.end()) return false;
+        if (*word != kOption) {
+            continue;
+        }
+        if (word + 1 == words.end()) {
+            return false;
+        }
         file = *(word + 1);
         words.erase(word, word + 2);
         return !file.empty();
@@ -40,7 +45,9 @@ bool TakeSettingsFile(std::vector<std::string>& words, std::string& file) {
 
 /// The network of the settings, else the one that came with this program.
 std::string NetworkOf(const Settings& settings) {
-    if (!settings.network.empty()) return settings.network;
+    if (!settings.network.empty()) {
+        return settings.network;
+    }
     std::error_code failed;
     return NetworkBeside(std::filesystem::read_symlink("/proc/self/exe", failed).string());
 }
@@ -49,9 +56,13 @@ int Serve(const Settings& settings, const ProgramParts& parts) {
     std::string error;
     ServerParts serverParts;
     serverParts.routes = OpenRoutes(NetworkOf(settings), error);
-    if (serverParts.routes == nullptr) return Say(parts, kFailed, error);
+    if (serverParts.routes == nullptr) {
+        return Say(parts, kFailed, error);
+    }
     const auto server = VoyageServer::Open(settings, std::move(serverParts), error);
-    if (server == nullptr) return Say(parts, kFailed, error);
+    if (server == nullptr) {
+        return Say(parts, kFailed, error);
+    }
     server->StopOnSignals();
     server->Run();
     return 0;
@@ -60,16 +71,22 @@ int Serve(const Settings& settings, const ProgramParts& parts) {
 int AdministerUsers(const std::vector<std::string>& words, const Settings& settings,
                     const ProgramParts& parts) {
     std::string error;
-    if (!PrepareDataFolder(settings, error)) return Say(parts, kFailed, error);
+    if (!PrepareDataFolder(settings, error)) {
+        return Say(parts, kFailed, error);
+    }
     const auto accounts = OpenAccounts(settings, error);
-    if (accounts == nullptr) return Say(parts, kFailed, error);
+    if (accounts == nullptr) {
+        return Say(parts, kFailed, error);
+    }
     const Passwords passwords;
     return UserAdmin(*accounts, passwords, parts.passwords, parts.out, parts.err).Run(words);
 }
 
 int Transfer(const TransferCommand& command, const Settings& settings, const ProgramParts& parts) {
     std::string said;
-    if (!RunTransfer(command, settings, said)) return Say(parts, kFailed, said);
+    if (!RunTransfer(command, settings, said)) {
+        return Say(parts, kFailed, said);
+    }
     parts.out << said << "\n";
     return 0;
 }
@@ -78,24 +95,34 @@ int Transfer(const TransferCommand& command, const Settings& settings, const Pro
 
 int RunProgram(const std::vector<std::string>& words, const ProgramParts& parts) {
     for (const char* option : {"--help", "-h", "--version"}) {
-        if (std::find(words.begin(), words.end(), option) == words.end()) continue;
+        if (std::find(words.begin(), words.end(), option) == words.end()) {
+            continue;
+        }
         parts.out << (std::string(option) == "--version" ? VersionText() : HelpText());
         return 0;
     }
     std::vector<std::string> command = words;
     std::string file;
-    if (!TakeSettingsFile(command, file)) return Say(parts, kWrong, "--settings needs the name of a file");
+    if (!TakeSettingsFile(command, file)) {
+        return Say(parts, kWrong, "--settings needs the name of a file");
+    }
     const bool serve = command == std::vector<std::string>{"serve"};
     const auto transfer = TransferCommand::Parse(command);
     const bool user = !command.empty() && command[0] == "user";
-    if (user) command.erase(command.begin());
+    if (user) {
+        command.erase(command.begin());
+    }
     if (!serve && !transfer && !(user && UserAdmin::IsCommand(command))) {
         return Say(parts, kWrong, "there is no such command; seaplan-server --help tells all");
     }
     Settings settings;
     std::string error;
-    if (!ReadSettings(file, parts.environment, settings, error)) return Say(parts, kWrong, error);
-    if (transfer) return Transfer(*transfer, settings, parts);
+    if (!ReadSettings(file, parts.environment, settings, error)) {
+        return Say(parts, kWrong, error);
+    }
+    if (transfer) {
+        return Transfer(*transfer, settings, parts);
+    }
     return serve ? Serve(settings, parts) : AdministerUsers(command, settings, parts);
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/settings/SettingsReader.h"
-#include "host/server/accounts/UserAdmin.h"
-
 #include <ostream>
 #include <string>
 #include <vector>
+
+#include "host/server/accounts/UserAdmin.h"
+#include "host/server/net/settings/SettingsReader.h"
 
 namespace Tarvik::Server {
 

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/program/TransferRun.h"
 
-#include "host/server/api/VoyageService.h"
-#include "host/server/net/service/Databases.h"
-#include "host/server/accounts/UserRules.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
-#include "host/server/storage/postgres/PostgresTransfer.h"
-
 #include <filesystem>
 #include <memory>
 
+#include "host/server/accounts/UserRules.h"
+#include "host/server/api/VoyageService.h"
+#include "host/server/net/service/Databases.h"
+#include "host/server/storage/postgres/PostgresTransfer.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 /// The data bases that a command works on.
@@ -42,28 +43,38 @@ bool OpenFolder(const Settings& settings, bool mayMake, Opened& opened, std::str
         error = "there is no data base in " + settings.data;
         return false;
     }
-    if (!PrepareDataFolder(settings, error)) return false;
+    if (!PrepareDataFolder(settings, error)) {
+        return false;
+    }
     if (hasAccounts || !hasVoyages) {
         opened.accounts = OpenAccounts(settings, error);
-        if (opened.accounts == nullptr) return false;
+        if (opened.accounts == nullptr) {
+            return false;
+        }
     }
     std::string reason;
     opened.file = SqliteStorage::Open(voyages, reason);
-    if (opened.file == nullptr) error = "the voyages " + voyages + " cannot be used: " + reason;
+    if (opened.file == nullptr) {
+        error = "the voyages " + voyages + " cannot be used: " + reason;
+    }
     return opened.file != nullptr;
 }
 
 bool Export(const TransferCommand& command, Opened& opened, std::string& said) {
     TransferContent content;
     Exporter exporter(opened.Records(), opened.accounts.get(), SystemSeconds);
-    if (!exporter.Run(command.exporting, command.file, content, said)) return false;
+    if (!exporter.Run(command.exporting, command.file, content, said)) {
+        return false;
+    }
     said = "exported " + Summary(content);
     return true;
 }
 
 bool Import(const TransferCommand& command, Opened& opened, TransferReader& reader, std::string& said) {
     ImportChoice choice = command.importing;
-    if (opened.accounts == nullptr && choice.user.empty()) choice.user = kClientUser;
+    if (opened.accounts == nullptr && choice.user.empty()) {
+        choice.user = kClientUser;
+    }
     std::string error;
     if (Importer(opened.Records(), opened.accounts.get(), IsUserName).Run(choice, reader, said, error)) {
         return true;
@@ -84,13 +95,17 @@ bool RunTransfer(const TransferCommand& command, Settings settings, std::string&
     TransferContent content;
     if (command.import) {
         reader = TransferReader::Open(command.file, said);
-        if (reader == nullptr || !reader->ReadContent(content, said)) return false;
+        if (reader == nullptr || !reader->ReadContent(content, said)) {
+            return false;
+        }
     }
     Opened opened;
     const bool mayMake = command.import && command.data.empty();
     const bool ready = settings.database.empty() ? OpenFolder(settings, mayMake, opened, said)
                                                  : OpenServer(settings, opened, said);
-    if (!ready) return false;
+    if (!ready) {
+        return false;
+    }
     return command.import ? Import(command, opened, *reader, said) : Export(command, opened, said);
 }
 

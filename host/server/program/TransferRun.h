@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include "host/server/net/settings/Settings.h"
 #include "host/server/transfer/TransferCommand.h"
-
-#include <string>
 
 namespace Tarvik::Server {
 

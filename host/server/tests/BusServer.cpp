@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/tests/BusServer.h"
 
-#include <tarvik/core/BusBlock.h>
-#include <tarvik/interface/BusContract.h>
-
 #include <cstring>
 #include <new>
 #include <stdexcept>
 
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/interface/BusContract.h>
+
 namespace Tarvik::Server {
+
 namespace {
 
 namespace Bus = Interface::Bus;
@@ -23,9 +24,13 @@ class NoRoutes : public RouteSource {
 
 BusServer::BusServer(const std::string& dbPath, std::unique_ptr<RouteSource> routes) {
     std::string error;
-    if (routes == nullptr) routes = std::make_unique<NoRoutes>();
+    if (routes == nullptr) {
+        routes = std::make_unique<NoRoutes>();
+    }
     server_ = EmbeddedServer::Open(dbPath, std::move(routes), error, [this] { return now; });
-    if (server_ == nullptr) throw std::runtime_error(error);
+    if (server_ == nullptr) {
+        throw std::runtime_error(error);
+    }
     Bind<&BusServer::OnExchange>(Bus::ServerExchange.name);
     Bind<&BusServer::OnConnected>(Bus::IsConnected.name);
     Bind<&BusServer::OnUser>(Bus::User.name);
@@ -53,7 +58,9 @@ void BusServer::Bind(const char* name) {
 void* BusServer::OnExchange(void* input) {
     const auto* request = static_cast<const Interface::VoyServerRequest*>(input);
     const std::string text = server_->Exchange(user, request);
-    if (watch) watch(*request, text);
+    if (watch) {
+        watch(*request, text);
+    }
     void* block = Core::AllocateBusBlock(sizeof(Interface::VoyServerRequest) + text.size() + 1);
     auto* reply = new (block) Interface::VoyServerRequest{static_cast<std::uint32_t>(text.size() + 1),
                                                           request->command, request->moduleWord};

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/app/EmbeddedServer.h"
-
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-
 #include <functional>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+
+#include "host/server/app/EmbeddedServer.h"
 
 namespace Tarvik::Server {
 

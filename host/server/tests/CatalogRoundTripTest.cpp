@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/tests/RoundTrip.h"
-
 #include "seaplan/protocol/PortCallCommands.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 using Seaplan::VoyageStore;

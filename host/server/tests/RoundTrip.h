@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/tests/BusServer.h"
-#include "seaplan/data/VoyageStore.h"
-#include "seaplan/protocol/VoyCatalogModule.h"
-
-#include <tarvik/core/BusBlock.h>
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <tarvik/core/BusBlock.h>
+
+#include "host/server/tests/BusServer.h"
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 
 namespace Tarvik::Server {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/tests/RoundTrip.h"
-
 #include "host/server/storage/sqlite/tests/TempFolder.h"
+#include "host/server/tests/RoundTrip.h"
 #include "seaplan/protocol/BookCommands.h"
 #include "seaplan/protocol/PortCallCommands.h"
 #include "seaplan/protocol/RemarkList.h"
 #include "testsupport/PortDictionary.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 using Seaplan::BookPoints;

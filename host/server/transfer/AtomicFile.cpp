@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/AtomicFile.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <system_error>
+#include <unistd.h>
 
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr std::size_t kBufferBytes = 256U * 1024U;
@@ -18,7 +18,9 @@ constexpr std::size_t kBufferBytes = 256U * 1024U;
 /// Brings the name of a file to disk as well.
 int SyncFolder(const std::string& folder) {
     const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return errno;
+    if (handle < 0) {
+        return errno;
+    }
     const int failure = ::fsync(handle) == 0 ? 0 : errno;
     ::close(handle);
     return failure;
@@ -32,8 +34,12 @@ std::string FolderOf(const std::string& path) {
 }  // namespace
 
 AtomicFile::~AtomicFile() {
-    if (file_ >= 0) ::close(file_);
-    if (!draft_.empty()) ::unlink(draft_.c_str());
+    if (file_ >= 0) {
+        ::close(file_);
+    }
+    if (!draft_.empty()) {
+        ::unlink(draft_.c_str());
+    }
 }
 
 bool AtomicFile::Open(std::string& error) {
@@ -41,7 +47,7 @@ bool AtomicFile::Open(std::string& error) {
     file_ = ::mkostemp(pattern.data(), O_CLOEXEC);
     if (file_ < 0) {
         failure_ = errno;
-        return fail(error);
+        return Fail(error);
     }
     draft_ = pattern;
     return true;
@@ -49,30 +55,44 @@ bool AtomicFile::Open(std::string& error) {
 
 void AtomicFile::Write(std::string_view bytes) {
     buffer_ += bytes;
-    if (buffer_.size() >= kBufferBytes) flush();
+    if (buffer_.size() >= kBufferBytes) {
+        Flush();
+    }
 }
 
 bool AtomicFile::Commit(std::string& error) {
-    flush();
-    if (failure_ == 0 && ::fsync(file_) != 0) failure_ = errno;
-    if (::close(file_) != 0 && failure_ == 0) failure_ = errno;
+    Flush();
+    if (failure_ == 0 && ::fsync(file_) != 0) {
+        failure_ = errno;
+    }
+    if (::close(file_) != 0 && failure_ == 0) {
+        failure_ = errno;
+    }
     file_ = -1;
-    if (failure_ == 0 && std::rename(draft_.c_str(), path_.c_str()) != 0) failure_ = errno;
-    if (failure_ != 0) return fail(error);
+    if (failure_ == 0 && std::rename(draft_.c_str(), path_.c_str()) != 0) {
+        failure_ = errno;
+    }
+    if (failure_ != 0) {
+        return Fail(error);
+    }
     draft_.clear();
     failure_ = SyncFolder(FolderOf(path_));
-    return failure_ == 0 || fail(error);
+    return failure_ == 0 || Fail(error);
 }
 
-void AtomicFile::flush() {
-    if (failure_ == 0) writeAll(buffer_);
+void AtomicFile::Flush() {
+    if (failure_ == 0) {
+        WriteAll(buffer_);
+    }
     buffer_.clear();
 }
 
-void AtomicFile::writeAll(std::string_view bytes) {
+void AtomicFile::WriteAll(std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t count = ::write(file_, bytes.data(), bytes.size());
-        if (count < 0 && errno == EINTR) continue;
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
         if (count < 0) {
             failure_ = errno;
             return;
@@ -81,7 +101,7 @@ void AtomicFile::writeAll(std::string_view bytes) {
     }
 }
 
-bool AtomicFile::fail(std::string& error) const {
+bool AtomicFile::Fail(std::string& error) const {
     error = "cannot write " + path_ + ": " + std::generic_category().message(failure_);
     return false;
 }

@@ -23,9 +23,9 @@ class AtomicFile {
     bool Commit(std::string& error);
 
   private:
-    void flush();
-    void writeAll(std::string_view bytes);
-    bool fail(std::string& error) const;
+    void Flush();
+    void WriteAll(std::string_view bytes);
+    bool Fail(std::string& error) const;
 
     std::string path_;
     std::string draft_;  ///< its name until it is committed; empty when there is none

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/Checksum.h"
 
-#include <sodium.h>
-
 #include <array>
+
+#include <sodium.h>
 
 namespace Tarvik::Server {
 

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/CopyCheck.h"
 
+#include <algorithm>
+
 #include "host/server/api/Numbers.h"
 #include "host/server/api/Refusal.h"
 #include "host/server/api/RequestFields.h"
 #include "host/server/api/RequestRows.h"
 
-#include <algorithm>
-
 namespace Tarvik::Server {
+
 namespace {
 
 /// Beyond any counter, and still a number that can be counted on from.
@@ -29,7 +30,9 @@ bool IsId(const std::string& text) {
 
 std::string Joined(std::initializer_list<std::string> fields) {
     std::string row;
-    for (const std::string& field : fields) row.append(row.empty() ? 0 : 1, '|').append(field);
+    for (const std::string& field : fields) {
+        row.append(row.empty() ? 0 : 1, '|').append(field);
+    }
     return row;
 }
 
@@ -56,7 +59,9 @@ bool AreGood(const std::vector<Row>& rows) {
     try {
         std::int32_t before = -1;
         for (const Row& row : rows) {
-            if (row.order <= before || !IsGood(row)) return false;
+            if (row.order <= before || !IsGood(row)) {
+                return false;
+            }
             before = row.order;
         }
         return true;
@@ -66,8 +71,9 @@ bool AreGood(const std::vector<Row>& rows) {
 }
 
 bool AreTimes(std::vector<std::string> times) {
-    if (!std::all_of(times.begin(), times.end(), [](const std::string& time) { return IsTimeText(time); }))
+    if (!std::all_of(times.begin(), times.end(), [](const std::string& time) { return IsTimeText(time); })) {
         return false;
+    }
     std::sort(times.begin(), times.end());
     return std::adjacent_find(times.begin(), times.end()) == times.end();
 }
@@ -79,48 +85,81 @@ bool IsVessel(const VesselRecord& vessel) {
 }  // namespace
 
 std::string CopyCheck::User(const UserCopy& user) {
-    if (!IsName(user.records.owner)) return "the user has no name";
-    if (!users_.insert(user.records.owner).second) return "the user is there twice";
+    if (!IsName(user.records.owner)) {
+        return "the user has no name";
+    }
+    if (!users_.insert(user.records.owner).second) {
+        return "the user is there twice";
+    }
     known_ = CopyIds();
     remarks_.clear();
     return {};
 }
 
 std::string CopyCheck::Category(const CategoryCopy& category) {
-    if (!takeId(category.id)) return "the id is none, or is there twice";
-    if (!IsName(category.name)) return "the name is empty or too long";
+    if (!TakeId(category.id)) {
+        return "the id is none, or is there twice";
+    }
+    if (!IsName(category.name)) {
+        return "the name is empty or too long";
+    }
     known_.PutCategory(category.id, category.id);
     return {};
 }
 
 std::string CopyCheck::Voyage(const VoyageCopy& copy) {
     const VoyageRecord& voyage = copy.voyage;
-    if (!takeId(voyage.id)) return "the id is none, or is there twice";
-    if (!IsName(voyage.name)) return "the name is empty or too long";
-    if (!IsVessel(voyage.vessel)) return "the vessel is none";
-    if (*std::min_element(voyage.figures.begin(), voyage.figures.end()) < 0) return "a figure is below 0";
-    if (!AreTimes(copy.aisTimes)) return "an AIS time is none, or is there twice";
-    if (!AreGood(copy.calls)) return "a port call is none, or out of its order";
-    if (copy.book && !takeId(copy.book->id)) return "the book's id is none, or is there twice";
-    if (copy.book && !IsTimeText(copy.book->date)) return "the book's date is none";
-    if (copy.book && !AreGood(copy.book->rows)) return "a row of the book is none, or out of its order";
+    if (!TakeId(voyage.id)) {
+        return "the id is none, or is there twice";
+    }
+    if (!IsName(voyage.name)) {
+        return "the name is empty or too long";
+    }
+    if (!IsVessel(voyage.vessel)) {
+        return "the vessel is none";
+    }
+    if (*std::min_element(voyage.figures.begin(), voyage.figures.end()) < 0) {
+        return "a figure is below 0";
+    }
+    if (!AreTimes(copy.aisTimes)) {
+        return "an AIS time is none, or is there twice";
+    }
+    if (!AreGood(copy.calls)) {
+        return "a port call is none, or out of its order";
+    }
+    if (copy.book && !TakeId(copy.book->id)) {
+        return "the book's id is none, or is there twice";
+    }
+    if (copy.book && !IsTimeText(copy.book->date)) {
+        return "the book's date is none";
+    }
+    if (copy.book && !AreGood(copy.book->rows)) {
+        return "a row of the book is none, or out of its order";
+    }
     known_.PutVoyage(voyage.id, voyage.id);
     return {};
 }
 
 std::string CopyCheck::Remark(const RemarkCopy& copy) {
-    if (!IsText(copy.object.id, kMaxNameBytes * 2) || !known_.Knows(copy.object))
+    if (!IsText(copy.object.id, kMaxNameBytes * 2) || !known_.Knows(copy.object)) {
         return "the remark is of nothing that the user has";
-    if (copy.remark.seq < 1) return "the remark's number is below 1";
-    if (!remarks_.insert({copy.object.type, copy.object.id, copy.remark.seq}).second)
+    }
+    if (copy.remark.seq < 1) {
+        return "the remark's number is below 1";
+    }
+    if (!remarks_.insert({copy.object.type, copy.object.id, copy.remark.seq}).second) {
         return "the remark is there twice";
-    if (!IsText(copy.remark.subject, kMaxBodyBytes) || !IsText(copy.remark.body, kMaxBodyBytes))
+    }
+    if (!IsText(copy.remark.subject, kMaxBodyBytes) || !IsText(copy.remark.body, kMaxBodyBytes)) {
         return "the remark's text is too long";
+    }
     return {};
 }
 
-bool CopyCheck::takeId(const std::string& id) {
-    if (!IsId(id) || !seen_.insert(id).second) return false;
+bool CopyCheck::TakeId(const std::string& id) {
+    if (!IsId(id) || !seen_.insert(id).second) {
+        return false;
+    }
     const std::int64_t number = std::stoll(id);
     lowestId_ = lowestId_ == 0 ? number : std::min(lowestId_, number);
     highestId_ = std::max(highestId_, number);

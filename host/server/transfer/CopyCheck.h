@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/CopyIds.h"
-#include "host/server/transfer/TransferFile.h"
-
 #include <cstdint>
 #include <set>
 #include <string>
 #include <tuple>
 #include <unordered_set>
+
+#include "host/server/storage/contract/CopyIds.h"
+#include "host/server/transfer/TransferFile.h"
 
 namespace Tarvik::Server {
 
@@ -27,7 +27,7 @@ class CopyCheck {
 
   private:
     /// Notes an id; false when it is none or was seen before.
-    bool takeId(const std::string& id);
+    bool TakeId(const std::string& id);
 
     std::unordered_set<std::string> users_;
     std::unordered_set<std::string> seen_;

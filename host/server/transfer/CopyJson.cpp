@@ -2,11 +2,13 @@
 #include "host/server/transfer/CopyJson.h"
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <utility>
 
+#include <nlohmann/json.hpp>
+
 namespace Tarvik::Server::CopyJson {
+
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -14,19 +16,27 @@ using Json = nlohmann::ordered_json;
 /// A whole number that its record can hold; the JSON library would cut it silently.
 template <class Number>
 Number Whole(const Json& value) {
-    if (!value.is_number_integer()) throw std::out_of_range("a whole number is expected");
+    if (!value.is_number_integer()) {
+        throw std::out_of_range("a whole number is expected");
+    }
     if (value.is_number_unsigned()) {
         const auto wide = value.get<std::uint64_t>();
-        if (!std::in_range<Number>(wide)) throw std::out_of_range("a number is too large");
+        if (!std::in_range<Number>(wide)) {
+            throw std::out_of_range("a number is too large");
+        }
         return static_cast<Number>(wide);
     }
     const auto wide = value.get<std::int64_t>();
-    if (!std::in_range<Number>(wide)) throw std::out_of_range("a number is too small");
+    if (!std::in_range<Number>(wide)) {
+        throw std::out_of_range("a number is too small");
+    }
     return static_cast<Number>(wide);
 }
 
 double Real(const Json& value) {
-    if (!value.is_number()) throw std::out_of_range("a number is expected");
+    if (!value.is_number()) {
+        throw std::out_of_range("a number is expected");
+    }
     return value.get<double>();
 }
 
@@ -36,12 +46,16 @@ std::string Text(const Json& value) {
 
 DeletionState State(const Json& value) {
     const int state = Whole<int>(value);
-    if (state != 0 && state != 1) throw std::out_of_range("a state is 0 or 1");
+    if (state != 0 && state != 1) {
+        throw std::out_of_range("a state is 0 or 1");
+    }
     return static_cast<DeletionState>(state);
 }
 
 const Json& Row(const Json& value, std::size_t size) {
-    if (!value.is_array() || value.size() != size) throw std::out_of_range("a row has another length");
+    if (!value.is_array() || value.size() != size) {
+        throw std::out_of_range("a row has another length");
+    }
     return value;
 }
 
@@ -111,7 +125,9 @@ std::string VoyageLine(const VoyageCopy& copy) {
     line["state"] = static_cast<int>(voyage.state);
     line["times"] = copy.aisTimes;
     line["calls"] = WriteCalls(copy.calls);
-    if (copy.book) line["book"] = WriteBook(*copy.book);
+    if (copy.book) {
+        line["book"] = WriteBook(*copy.book);
+    }
     return line.dump();
 }
 
@@ -147,11 +163,17 @@ VoyageCopy ReadVoyage(const Json& line) {
     copy.voyage.routeShown = line.at("route").get<bool>();
     copy.voyage.aisTraced = line.at("ais").get<bool>();
     const Json& figures = Row(line.at("figures"), copy.voyage.figures.size());
-    for (std::size_t i = 0; i < figures.size(); ++i) copy.voyage.figures[i] = Whole<std::int32_t>(figures[i]);
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+        copy.voyage.figures[i] = Whole<std::int32_t>(figures[i]);
+    }
     copy.voyage.state = State(line.at("state"));
-    for (const Json& time : line.at("times")) copy.aisTimes.push_back(Text(time));
+    for (const Json& time : line.at("times")) {
+        copy.aisTimes.push_back(Text(time));
+    }
     copy.calls = ReadCalls(line.at("calls"));
-    if (line.contains("book")) copy.book = ReadBook(line.at("book"));
+    if (line.contains("book")) {
+        copy.book = ReadBook(line.at("book"));
+    }
     return copy;
 }
 

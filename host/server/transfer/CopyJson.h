@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/transfer/TransferFile.h"
+#include <string>
 
 #include <nlohmann/json_fwd.hpp>
-#include <string>
+
+#include "host/server/transfer/TransferFile.h"
 
 /// Records as objects of a line and back. Reading throws what the JSON library throws when a member is
 /// missing or of another kind, and std::out_of_range for a number that its record cannot hold.

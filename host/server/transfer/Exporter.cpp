@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/Exporter.h"
 
-#include "host/server/transfer/AtomicFile.h"
-
 #include <algorithm>
 #include <exception>
 #include <utility>
 
+#include "host/server/transfer/AtomicFile.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 UserCopy Named(const std::string& name) {
@@ -26,12 +27,18 @@ auto Find(std::vector<UserCopy>& users, const std::string& name) {
 bool Exporter::Run(const ExportChoice& choice, const std::string& path, TransferContent& content,
                    std::string& error) {
     std::vector<UserCopy> users;
-    if (!chooseUsers(choice, users, error)) return false;
+    if (!ChooseUsers(choice, users, error)) {
+        return false;
+    }
     AtomicFile file(path);
-    if (!file.Open(error)) return false;
+    if (!file.Open(error)) {
+        return false;
+    }
     try {
         TransferWriter writer([&](std::string_view bytes) { file.Write(bytes); }, clock_());
-        if (!writeUsers(users, writer, content, error)) return false;
+        if (!WriteUsers(users, writer, content, error)) {
+            return false;
+        }
         writer.End();
     } catch (const std::exception& failure) {
         error = std::string("a record cannot be written: ") + failure.what();
@@ -40,19 +47,27 @@ bool Exporter::Run(const ExportChoice& choice, const std::string& path, Transfer
     return file.Commit(error);
 }
 
-bool Exporter::chooseUsers(const ExportChoice& choice, std::vector<UserCopy>& users, std::string& error) {
+bool Exporter::ChooseUsers(const ExportChoice& choice, std::vector<UserCopy>& users, std::string& error) {
     const auto owners = records_.ListOwners();
     if (!owners) {
         error = owners.GetFault().detail;
         return false;
     }
-    for (const std::string& owner : owners.Value()) users.push_back(Named(owner));
-    if (choice.all || !choice.user.empty()) {
-        if (!addAccounts(users, error)) return false;
+    for (const std::string& owner : owners.Value()) {
+        users.push_back(Named(owner));
     }
-    if (choice.all) return true;
+    if (choice.all || !choice.user.empty()) {
+        if (!AddAccounts(users, error)) {
+            return false;
+        }
+    }
+    if (choice.all) {
+        return true;
+    }
     if (choice.user.empty()) {
-        if (users.size() == 1) return true;
+        if (users.size() == 1) {
+            return true;
+        }
         error = users.empty() ? "there is nothing to export"
                               : "there are several users: take one by --user NAME, or --all";
         return false;
@@ -67,8 +82,10 @@ bool Exporter::chooseUsers(const ExportChoice& choice, std::vector<UserCopy>& us
 }
 
 /// Users who have an account but nothing else are users too.
-bool Exporter::addAccounts(std::vector<UserCopy>& users, std::string& error) {
-    if (accounts_ == nullptr) return true;
+bool Exporter::AddAccounts(std::vector<UserCopy>& users, std::string& error) {
+    if (accounts_ == nullptr) {
+        return true;
+    }
     const auto accounts = accounts_->ListUsers();
     if (!accounts) {
         error = accounts.GetFault().detail;
@@ -76,7 +93,9 @@ bool Exporter::addAccounts(std::vector<UserCopy>& users, std::string& error) {
     }
     for (const UserRecord& record : accounts.Value()) {
         auto user = Find(users, record.name);
-        if (user == users.end()) user = users.insert(users.end(), Named(record.name));
+        if (user == users.end()) {
+            user = users.insert(users.end(), Named(record.name));
+        }
         user->account = AccountCopy{record.passwordHash, record.disabled};
     }
     std::sort(users.begin(), users.end(),
@@ -84,7 +103,7 @@ bool Exporter::addAccounts(std::vector<UserCopy>& users, std::string& error) {
     return true;
 }
 
-bool Exporter::writeUsers(const std::vector<UserCopy>& users, TransferWriter& writer,
+bool Exporter::WriteUsers(const std::vector<UserCopy>& users, TransferWriter& writer,
                           TransferContent& content, std::string& error) {
     content = TransferContent();
     for (const UserCopy& chosen : users) {
@@ -97,8 +116,9 @@ bool Exporter::writeUsers(const std::vector<UserCopy>& users, TransferWriter& wr
         writer.User(user);
         content.users.push_back({user.records.owner, user.account});
         content.categories += user.records.categories.size();
-        for (const CategoryCopy& category : user.records.categories)
+        for (const CategoryCopy& category : user.records.categories) {
             content.voyages += category.voyages.size();
+        }
         content.remarks += user.records.remarks.size();
     }
     return true;

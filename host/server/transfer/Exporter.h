@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/api/RemarkCommands.h"
+#include <string>
+#include <vector>
+
 #include "host/server/accounts/AccountStorage.h"
+#include "host/server/api/RemarkCommands.h"
 #include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/transfer/TransferFile.h"
 #include "host/server/transfer/TransferWriter.h"
-
-#include <string>
-#include <vector>
 
 namespace Tarvik::Server {
 
@@ -31,9 +31,9 @@ class Exporter {
              std::string& error);
 
   private:
-    bool chooseUsers(const ExportChoice& choice, std::vector<UserCopy>& users, std::string& error);
-    bool addAccounts(std::vector<UserCopy>& users, std::string& error);
-    bool writeUsers(const std::vector<UserCopy>& users, TransferWriter& writer, TransferContent& content,
+    bool ChooseUsers(const ExportChoice& choice, std::vector<UserCopy>& users, std::string& error);
+    bool AddAccounts(std::vector<UserCopy>& users, std::string& error);
+    bool WriteUsers(const std::vector<UserCopy>& users, TransferWriter& writer, TransferContent& content,
                     std::string& error);
 
     TransferStorage& records_;

@@ -5,6 +5,7 @@
 #include <utility>
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// No password has this hash.
@@ -19,26 +20,35 @@ std::string Occupied(const std::string& user) {
 bool Importer::Run(const ImportChoice& choice, TransferReader& reader, std::string& done,
                    std::string& error) {
     TransferContent content;
-    if (!reader.ReadContent(content, error)) return false;
+    if (!reader.ReadContent(content, error)) {
+        return false;
+    }
     std::vector<TransferContent::User> missing;
-    if (!rename(choice, content, error) || !checkFree(choice, content, error) ||
-        !checkAccounts(content, missing, error)) {
+    if (!Rename(choice, content, error) || !CheckFree(choice, content, error) ||
+        !CheckAccounts(content, missing, error)) {
         return false;
     }
     // Accounts first: should what follows fail, the same command goes on where this one ended.
     for (const TransferContent::User& user : missing) {
-        if (!addAccount(user, error)) return false;
+        if (!AddAccount(user, error)) {
+            return false;
+        }
     }
     bool idsKept = false;
-    if (!addRecords(choice, content, reader, idsKept, error)) return false;
+    if (!AddRecords(choice, content, reader, idsKept, error)) {
+        return false;
+    }
     done = "imported " + Summary(content);
-    if (!idsKept && content.highestId > 0)
+    if (!idsKept && content.highestId > 0) {
         done += "; ids of the file are taken here, so all records got new ones";
+    }
     return true;
 }
 
-bool Importer::rename(const ImportChoice& choice, TransferContent& content, std::string& error) const {
-    if (choice.user.empty()) return true;
+bool Importer::Rename(const ImportChoice& choice, TransferContent& content, std::string& error) const {
+    if (choice.user.empty()) {
+        return true;
+    }
     if (content.users.size() != 1) {
         error =
             "the file holds " + std::to_string(content.users.size()) + " users; --user is for a file of one";
@@ -48,8 +58,10 @@ bool Importer::rename(const ImportChoice& choice, TransferContent& content, std:
     return true;
 }
 
-bool Importer::checkFree(const ImportChoice& choice, const TransferContent& content, std::string& error) {
-    if (choice.add) return true;
+bool Importer::CheckFree(const ImportChoice& choice, const TransferContent& content, std::string& error) {
+    if (choice.add) {
+        return true;
+    }
     const auto owners = records_.ListOwners();
     if (!owners) {
         error = owners.GetFault().detail;
@@ -64,16 +76,20 @@ bool Importer::checkFree(const ImportChoice& choice, const TransferContent& cont
     return true;
 }
 
-bool Importer::checkAccounts(const TransferContent& content, std::vector<TransferContent::User>& missing,
+bool Importer::CheckAccounts(const TransferContent& content, std::vector<TransferContent::User>& missing,
                              std::string& error) {
-    if (accounts_ == nullptr) return true;
+    if (accounts_ == nullptr) {
+        return true;
+    }
     for (const TransferContent::User& user : content.users) {
         const auto known = accounts_->FindUser(user.name);
         if (!known) {
             error = known.GetFault().detail;
             return false;
         }
-        if (known.Value()) continue;
+        if (known.Value()) {
+            continue;
+        }
         if (!user.account || user.account->passwordHash.empty() || !isUserName_(user.name)) {
             error = "there is no user " + user.name +
                     " here: seaplan-server user add NAME adds one, --user NAME " +
@@ -86,23 +102,31 @@ bool Importer::checkAccounts(const TransferContent& content, std::vector<Transfe
 }
 
 /// A disabled user must not be able to log in at any moment, so the password comes last.
-bool Importer::addAccount(const TransferContent::User& user, std::string& error) {
+bool Importer::AddAccount(const TransferContent::User& user, std::string& error) {
     const AccountCopy& account = *user.account;
     auto added = accounts_->AddUser(user.name, account.disabled ? kNoPassword : account.passwordHash);
-    if (account.disabled && added) added = accounts_->SetDisabled(user.name, true);
+    if (account.disabled && added) {
+        added = accounts_->SetDisabled(user.name, true);
+    }
     if (account.disabled && added) {
         added = accounts_->RenewHash(user.name, kNoPassword, account.passwordHash);
     }
-    if (added && added.Value()) return true;
+    if (added && added.Value()) {
+        return true;
+    }
     error = "the user " + user.name + " cannot be added";
-    if (!added) error += ": " + added.GetFault().detail;
+    if (!added) {
+        error += ": " + added.GetFault().detail;
+    }
     return false;
 }
 
-bool Importer::addRecords(const ImportChoice& choice, const TransferContent& content, TransferReader& reader,
+bool Importer::AddRecords(const ImportChoice& choice, const TransferContent& content, TransferReader& reader,
                           bool& idsKept, std::string& error) {
     CopyManifest manifest;
-    for (const TransferContent::User& user : content.users) manifest.owners.push_back(user.name);
+    for (const TransferContent::User& user : content.users) {
+        manifest.owners.push_back(user.name);
+    }
     manifest.lowestId = content.lowestId;
     manifest.highestId = content.highestId;
     manifest.besideOthers = choice.add;
@@ -110,9 +134,15 @@ bool Importer::addRecords(const ImportChoice& choice, const TransferContent& con
     const auto next = [&]() -> Outcome<std::optional<OwnerCopy>> {
         std::optional<UserCopy> user;
         std::string reason;
-        if (!reader.Next(user, reason)) return Fault{FaultReason::StorageFailed, reason};
-        if (!user) return std::optional<OwnerCopy>();
-        if (!choice.user.empty()) user->records.owner = choice.user;
+        if (!reader.Next(user, reason)) {
+            return Fault{FaultReason::StorageFailed, reason};
+        }
+        if (!user) {
+            return std::optional<OwnerCopy>();
+        }
+        if (!choice.user.empty()) {
+            user->records.owner = choice.user;
+        }
         return std::optional<OwnerCopy>(std::move(user->records));
     };
     const auto report = records_.AddOwners(manifest, next);

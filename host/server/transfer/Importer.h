@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "host/server/accounts/AccountStorage.h"
 #include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/transfer/TransferReader.h"
-
-#include <functional>
-#include <string>
 
 namespace Tarvik::Server {
 
@@ -31,12 +31,12 @@ class Importer {
     bool Run(const ImportChoice& choice, TransferReader& reader, std::string& done, std::string& error);
 
   private:
-    bool rename(const ImportChoice& choice, TransferContent& content, std::string& error) const;
-    bool checkFree(const ImportChoice& choice, const TransferContent& content, std::string& error);
-    bool checkAccounts(const TransferContent& content, std::vector<TransferContent::User>& missing,
+    bool Rename(const ImportChoice& choice, TransferContent& content, std::string& error) const;
+    bool CheckFree(const ImportChoice& choice, const TransferContent& content, std::string& error);
+    bool CheckAccounts(const TransferContent& content, std::vector<TransferContent::User>& missing,
                        std::string& error);
-    bool addAccount(const TransferContent::User& user, std::string& error);
-    bool addRecords(const ImportChoice& choice, const TransferContent& content, TransferReader& reader,
+    bool AddAccount(const TransferContent::User& user, std::string& error);
+    bool AddRecords(const ImportChoice& choice, const TransferContent& content, TransferReader& reader,
                     bool& idsKept, std::string& error);
 
     TransferStorage& records_;

@@ -4,6 +4,7 @@
 #include <string_view>
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// Takes the words one by one.
@@ -35,15 +36,21 @@ bool TransferCommand::IsMeant(const std::vector<std::string>& words) {
 }
 
 std::optional<TransferCommand> TransferCommand::Parse(const std::vector<std::string>& words) {
-    if (!IsMeant(words)) return std::nullopt;
+    if (!IsMeant(words)) {
+        return std::nullopt;
+    }
     TransferCommand command;
     command.import = words[0] == "import";
     std::string user;
     Words left(words);
     while (left.Left()) {
         const std::string word = left.Take();
-        if (user.empty() && left.IsOption(word, "--user", user)) continue;
-        if (command.data.empty() && left.IsOption(word, "--data", command.data)) continue;
+        if (user.empty() && left.IsOption(word, "--user", user)) {
+            continue;
+        }
+        if (command.data.empty() && left.IsOption(word, "--data", command.data)) {
+            continue;
+        }
         if (word == "--all" && !command.import) {
             command.exporting.all = true;
         } else if (word == "--add" && command.import) {
@@ -54,7 +61,9 @@ std::optional<TransferCommand> TransferCommand::Parse(const std::vector<std::str
             return std::nullopt;
         }
     }
-    if (command.file.empty() || (command.exporting.all && !user.empty())) return std::nullopt;
+    if (command.file.empty() || (command.exporting.all && !user.empty())) {
+        return std::nullopt;
+    }
     command.exporting.user = user;
     command.importing.user = user;
     return command;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/transfer/Exporter.h"
-#include "host/server/transfer/Importer.h"
-
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "host/server/transfer/Exporter.h"
+#include "host/server/transfer/Importer.h"
 
 namespace Tarvik::Server {
 

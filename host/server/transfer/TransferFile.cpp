@@ -2,6 +2,7 @@
 #include "host/server/transfer/TransferFile.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 std::string Count(std::size_t count, const char* one, const char* many) {

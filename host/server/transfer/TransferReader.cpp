@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/TransferReader.h"
 
-#include "host/server/transfer/CopyJson.h"
-
-#include <nlohmann/json.hpp>
 #include <utility>
 
+#include <nlohmann/json.hpp>
+
+#include "host/server/transfer/CopyJson.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -40,8 +42,9 @@ bool TransferReader::ReadContent(TransferContent& content, std::string& error) {
         }
         content.users.push_back({user->records.owner, user->account});
         content.categories += user->records.categories.size();
-        for (const CategoryCopy& category : user->records.categories)
+        for (const CategoryCopy& category : user->records.categories) {
             content.voyages += category.voyages.size();
+        }
         content.remarks += user->records.remarks.size();
     }
     return false;
@@ -57,8 +60,10 @@ bool TransferReader::Next(std::optional<UserCopy>& user, std::string& error) {
     user.reset();
     std::string line;
     while (!progress_->ended) {
-        if (!readLine(line, error)) return false;
-        const std::string wrong = take(line, user);
+        if (!ReadLine(line, error)) {
+            return false;
+        }
+        const std::string wrong = Take(line, user);
         if (!wrong.empty()) {
             error = path_ + ", line " + std::to_string(progress_->lines + 1) + ": " + wrong;
             return false;
@@ -67,26 +72,38 @@ bool TransferReader::Next(std::optional<UserCopy>& user, std::string& error) {
             progress_->checksum.Add(line + "\n");
             ++progress_->lines;
         }
-        if (user) return true;
+        if (user) {
+            return true;
+        }
     }
     user = std::exchange(progress_->open, std::nullopt);
     return true;
 }
 
-bool TransferReader::readLine(std::string& line, std::string& error) {
-    if (std::getline(in_, line)) return true;
+bool TransferReader::ReadLine(std::string& line, std::string& error) {
+    if (std::getline(in_, line)) {
+        return true;
+    }
     error = path_ + " is cut short after line " + std::to_string(progress_->lines);
     return false;
 }
 
-std::string TransferReader::take(const std::string& line, std::optional<UserCopy>& done) {
+std::string TransferReader::Take(const std::string& line, std::optional<UserCopy>& done) {
     const Json object = Json::parse(line, nullptr, false);
-    if (!object.is_object() || object.empty()) return "this is no record, or one that was cut";
+    if (!object.is_object() || object.empty()) {
+        return "this is no record, or one that was cut";
+    }
     const std::string& kind = object.begin().key();
     try {
-        if (progress_->lines == 0) return takeHead(object);
-        if (kind == "end") return takeEnd(object);
-        if (kind != "user") return takeRecord(kind, object);
+        if (progress_->lines == 0) {
+            return TakeHead(object);
+        }
+        if (kind == "end") {
+            return TakeEnd(object);
+        }
+        if (kind != "user") {
+            return TakeRecord(kind, object);
+        }
         UserCopy next = CopyJson::ReadUser(object);
         std::string wrong = progress_->check.User(next);
         done = std::exchange(progress_->open, std::move(next));
@@ -96,8 +113,10 @@ std::string TransferReader::take(const std::string& line, std::optional<UserCopy
     }
 }
 
-std::string TransferReader::takeRecord(const std::string& kind, const Json& object) {
-    if (!progress_->open) return "there is no user before this record";
+std::string TransferReader::TakeRecord(const std::string& kind, const Json& object) {
+    if (!progress_->open) {
+        return "there is no user before this record";
+    }
     OwnerCopy& records = progress_->open->records;
     CopyCheck& check = progress_->check;
     if (kind == "category") {
@@ -105,7 +124,9 @@ std::string TransferReader::takeRecord(const std::string& kind, const Json& obje
         return check.Category(records.categories.back());
     }
     if (kind == "voyage") {
-        if (records.categories.empty()) return "there is no category before this voyage";
+        if (records.categories.empty()) {
+            return "there is no category before this voyage";
+        }
         records.categories.back().voyages.push_back(CopyJson::ReadVoyage(object));
         return check.Voyage(records.categories.back().voyages.back());
     }
@@ -116,18 +137,28 @@ std::string TransferReader::takeRecord(const std::string& kind, const Json& obje
     return "there are no such records";
 }
 
-std::string TransferReader::takeHead(const Json& object) const {
-    if (object.value("format", "") != kTransferFormat) return "this is no file of exported users";
+std::string TransferReader::TakeHead(const Json& object) const {
+    if (object.value("format", "") != kTransferFormat) {
+        return "this is no file of exported users";
+    }
     const int version = object.at("version").get<int>();
-    if (version == kTransferVersion) return {};
+    if (version == kTransferVersion) {
+        return {};
+    }
     return "the file has version " + std::to_string(version) +
            ", made by another program; this one reads version " + std::to_string(kTransferVersion);
 }
 
-std::string TransferReader::takeEnd(const Json& object) {
-    if (object.at("end").get<std::size_t>() != progress_->lines) return "lines are missing";
-    if (object.at("sha256").get<std::string>() != progress_->checksum.Finish()) return "the file was altered";
-    if (in_.peek() != std::ifstream::traits_type::eof()) return "there is more behind the end";
+std::string TransferReader::TakeEnd(const Json& object) {
+    if (object.at("end").get<std::size_t>() != progress_->lines) {
+        return "lines are missing";
+    }
+    if (object.at("sha256").get<std::string>() != progress_->checksum.Finish()) {
+        return "the file was altered";
+    }
+    if (in_.peek() != std::ifstream::traits_type::eof()) {
+        return "there is more behind the end";
+    }
     progress_->ended = true;
     return {};
 }

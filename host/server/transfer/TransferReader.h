@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <fstream>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <nlohmann/json_fwd.hpp>
+
 #include "host/server/transfer/Checksum.h"
 #include "host/server/transfer/CopyCheck.h"
 #include "host/server/transfer/TransferFile.h"
-
-#include <fstream>
-#include <memory>
-#include <nlohmann/json_fwd.hpp>
-#include <optional>
-#include <string>
 
 namespace Tarvik::Server {
 
@@ -38,12 +39,12 @@ class TransferReader {
     };
 
     explicit TransferReader(const std::string& path);
-    bool readLine(std::string& line, std::string& error);
+    bool ReadLine(std::string& line, std::string& error);
     /// Takes a line; the user that it ends goes into `done`. Gives why not, empty when all is well.
-    std::string take(const std::string& line, std::optional<UserCopy>& done);
-    std::string takeRecord(const std::string& kind, const nlohmann::ordered_json& object);
-    std::string takeHead(const nlohmann::ordered_json& object) const;
-    std::string takeEnd(const nlohmann::ordered_json& object);
+    std::string Take(const std::string& line, std::optional<UserCopy>& done);
+    std::string TakeRecord(const std::string& kind, const nlohmann::ordered_json& object);
+    std::string TakeHead(const nlohmann::ordered_json& object) const;
+    std::string TakeEnd(const nlohmann::ordered_json& object);
 
     std::string path_;
     std::ifstream in_;

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/TransferWriter.h"
 
-#include "host/server/transfer/CopyJson.h"
-
 #include <array>
 #include <ctime>
-#include <nlohmann/json.hpp>
 #include <utility>
 
+#include <nlohmann/json.hpp>
+
+#include "host/server/transfer/CopyJson.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 std::string UtcText(std::int64_t seconds) {
@@ -24,16 +26,20 @@ std::string UtcText(std::int64_t seconds) {
 TransferWriter::TransferWriter(Sink sink, std::int64_t made) : sink_(std::move(sink)) {
     const nlohmann::ordered_json head = {
         {"format", kTransferFormat}, {"version", kTransferVersion}, {"made", UtcText(made)}};
-    write(head.dump());
+    Write(head.dump());
 }
 
 void TransferWriter::User(const UserCopy& user) {
-    write(CopyJson::UserLine(user));
+    Write(CopyJson::UserLine(user));
     for (const CategoryCopy& category : user.records.categories) {
-        write(CopyJson::CategoryLine(category));
-        for (const VoyageCopy& voyage : category.voyages) write(CopyJson::VoyageLine(voyage));
+        Write(CopyJson::CategoryLine(category));
+        for (const VoyageCopy& voyage : category.voyages) {
+            Write(CopyJson::VoyageLine(voyage));
+        }
     }
-    for (const RemarkCopy& remark : user.records.remarks) write(CopyJson::RemarkLine(remark));
+    for (const RemarkCopy& remark : user.records.remarks) {
+        Write(CopyJson::RemarkLine(remark));
+    }
 }
 
 void TransferWriter::End() {
@@ -41,7 +47,7 @@ void TransferWriter::End() {
     sink_(end.dump() + "\n");
 }
 
-void TransferWriter::write(const std::string& line) {
+void TransferWriter::Write(const std::string& line) {
     const std::string whole = line + "\n";
     checksum_.Add(whole);
     sink_(whole);

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/transfer/Checksum.h"
-#include "host/server/transfer/TransferFile.h"
-
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
+
+#include "host/server/transfer/Checksum.h"
+#include "host/server/transfer/TransferFile.h"
 
 namespace Tarvik::Server {
 
@@ -24,7 +24,7 @@ class TransferWriter {
     void End();
 
   private:
-    void write(const std::string& line);
+    void Write(const std::string& line);
 
     Sink sink_;
     Checksum checksum_;

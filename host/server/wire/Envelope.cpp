@@ -2,6 +2,7 @@
 #include "host/server/wire/Envelope.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr std::size_t kHeadBytes = 8;
@@ -15,16 +16,24 @@ std::uint32_t ReadWord(std::string_view bytes, std::size_t at, std::size_t width
 }
 
 void WriteWord(std::string& bytes, std::uint32_t value, std::size_t width) {
-    for (std::size_t i = 0; i < width; ++i) bytes.push_back(static_cast<char>((value >> (8 * i)) & 0xFFU));
+    for (std::size_t i = 0; i < width; ++i) {
+        bytes.push_back(static_cast<char>((value >> (8 * i)) & 0xFFU));
+    }
 }
 
 }  // namespace
 
 std::optional<Envelope> ReadEnvelope(std::string_view bytes) {
-    if (bytes.size() < kHeadBytes) return std::nullopt;
-    if (ReadWord(bytes, 0, 4) != bytes.size() - kHeadBytes) return std::nullopt;
+    if (bytes.size() < kHeadBytes) {
+        return std::nullopt;
+    }
+    if (ReadWord(bytes, 0, 4) != bytes.size() - kHeadBytes) {
+        return std::nullopt;
+    }
     std::string_view text = bytes.substr(kHeadBytes);
-    if (text.ends_with('\0')) text.remove_suffix(1);
+    if (text.ends_with('\0')) {
+        text.remove_suffix(1);
+    }
     return Envelope{static_cast<std::uint16_t>(ReadWord(bytes, 4, 2)),
                     static_cast<std::uint16_t>(ReadWord(bytes, 6, 2)), text};
 }

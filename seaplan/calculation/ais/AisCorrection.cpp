@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/ais/AisCorrection.h"
 
+#include <map>
+#include <utility>
+
+#include <tarvik/interface/ValueDictionary.h>
+
 #include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 
-#include <tarvik/interface/ValueDictionary.h>
-
-#include <map>
-#include <utility>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr int kEnglish = 1033;
@@ -28,27 +29,27 @@ class FixInsertion {
 
     int AddLeg(std::size_t port, const BookPoints& group) {
         if (group.back().etd < fix_) {
-            addAll(group);
+            AddAll(group);
             return 0;
         }
         if (rows_.empty()) {
             return -5;
         }
         if (rows_.back().etd > fix_) {
-            addAll(group);
+            AddAll(group);
             return 0;
         }
-        return addCorrectedLeg(port, group);
+        return AddCorrectedLeg(port, group);
     }
 
     BookPoints& Rows() { return rows_; }
     bool Applied() const { return applied_; }
 
   private:
-    void addAll(const BookPoints& group) { rows_.insert(rows_.end(), group.begin(), group.end()); }
+    void AddAll(const BookPoints& group) { rows_.insert(rows_.end(), group.begin(), group.end()); }
 
     /// What was sailed before the fix, the fix, the server's way, and the port.
-    int addCorrectedLeg(std::size_t port, const BookPoints& group) {
+    int AddCorrectedLeg(std::size_t port, const BookPoints& group) {
         for (std::size_t i = 0; i < group.size() && group[i].etd < fix_; ++i) {
             rows_.push_back(group[i]);
         }
@@ -59,7 +60,7 @@ class FixInsertion {
             row.etd = fix_;
             if (k > 0) {
                 rows_.push_back(std::move(row));
-            } else if (const int code = addFix(port, std::move(row)); code != 0) {
+            } else if (const int code = AddFix(port, std::move(row)); code != 0) {
                 return code;
             }
         }
@@ -67,7 +68,7 @@ class FixInsertion {
         return 0;
     }
 
-    int addFix(std::size_t port, PosBookPoint row) {
+    int AddFix(std::size_t port, PosBookPoint row) {
         float hours = 0;
         float distance = 0;
         const PosBookPoint& before = rows_.back();

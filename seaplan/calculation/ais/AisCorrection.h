@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyPortCall.h"
-#include "seaplan/data/VoyPositionBook.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/data/VoyPortCall.h"
+#include "seaplan/data/VoyPositionBook.h"
 
 /// Putting the ship's last real position into the plan. Times are in the plan's reading.
 namespace Tarvik::Seaplan {

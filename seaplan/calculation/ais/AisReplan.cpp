@@ -1,30 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/ais/AisReplan.h"
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include <tarvik/util/StringUtl.h>
+
 #include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/ais/AisRows.h"
 
-#include <tarvik/util/StringUtl.h>
-
-#include <algorithm>
-#include <iterator>
-#include <utility>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr float kFirstSpeed = 10.0F;
 
 /// A position in the three decimals by which the ship's own is told.
-std::string threeDecimals(const std::string& text) {
+std::string ThreeDecimals(const std::string& text) {
     Position place;
     return ReadPosition(text, 0, place) ? Util::StringUtl::Format("%.3f,%.3f", place.x, place.y) : text;
 }
 
 /// The way to the first planned port; its last point is the port.
-void addWay(const std::vector<std::string>& nearest, const VoyPortCall& port, BookPoints& rows) {
+void AddWay(const std::vector<std::string>& nearest, const VoyPortCall& port, BookPoints& rows) {
     const double speed = (1 - static_cast<double>(port.pw)) * static_cast<double>(port.psp);
     for (std::size_t i = 1; i < nearest.size(); ++i) {
         PosBookPoint row;
@@ -53,9 +54,9 @@ int ShipPositionOf(const PortCallRows& history, std::string& position) {
 
 int ReplanBook(const BookPoints& stored, const std::string& position, const std::vector<std::string>& nearest,
                const PortCallRows& plan, const BookPoints& ahead, BookPoints& out) {
-    const std::string ship = threeDecimals(position);
+    const std::string ship = ThreeDecimals(position);
     const auto at = std::find_if(stored.begin(), stored.end(), [&](const PosBookPoint& row) {
-        return threeDecimals(row.position) == ship;
+        return ThreeDecimals(row.position) == ship;
     });
     if (at == stored.end()) {
         return -4;
@@ -64,7 +65,7 @@ int ReplanBook(const BookPoints& stored, const std::string& position, const std:
         return -5;
     }
     BookPoints rows(stored.begin(), at + 1);
-    addWay(nearest, plan.front(), rows);
+    AddWay(nearest, plan.front(), rows);
     if (!ahead.empty()) {
         BookPoints scaled = ahead;
         scaled.front().psp = kFirstSpeed;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyPortCall.h"
-#include "seaplan/data/VoyPositionBook.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/data/VoyPortCall.h"
+#include "seaplan/data/VoyPositionBook.h"
 
 /// Planning anew what lies ahead of a corrected voyage's ship.
 namespace Tarvik::Seaplan {

@@ -1,13 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/ais/AisRows.h"
 
-#include "seaplan/calculation/NumberForms.h"
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/Schedule.h"
-
-#include <tarvik/util/StringUtl.h>
-
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -15,7 +8,15 @@
 #include <optional>
 #include <utility>
 
+#include <tarvik/util/StringUtl.h>
+
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Schedule.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr double kLeastHours = 0.001;
@@ -35,28 +36,28 @@ struct Stretch {
     double Speed() const { return hours < kLeastHours ? 0.0 : distance / hours; }
 };
 
-std::string timeText(const PosBookPoint& row) {
+std::string TimeText(const PosBookPoint& row) {
     return row.etd.fmt(kTimeFormat);
 }
 
-bool stretchBetween(const PosBookPoint& from, const PosBookPoint& to, Stretch& out) {
+bool StretchBetween(const PosBookPoint& from, const PosBookPoint& to, Stretch& out) {
     float distance = 0;
     float hours = 0;
     if (LegDistance(from.position, to.position, to.psr, distance) != 0 ||
-        HoursBetween(timeText(to), timeText(from), hours) != 0) {
+        HoursBetween(TimeText(to), TimeText(from), hours) != 0) {
         return false;
     }
     out = {static_cast<double>(distance), static_cast<double>(hours)};
     return true;
 }
 
-void takeStretch(const Stretch& stretch, VoyPortCall& row) {
+void TakeStretch(const Stretch& stretch, VoyPortCall& row) {
     row.distance = static_cast<float>(stretch.distance);
     row.steamTime = static_cast<float>(stretch.hours);
     row.psp = static_cast<float>(stretch.Speed());
 }
 
-VoyPortCall aisRow(const PosBookPoint& point, const Stretch& stretch) {
+VoyPortCall AisRow(const PosBookPoint& point, const Stretch& stretch) {
     Position place;
     ReadPosition(point.position, 0, place);
     VoyPortCall row;
@@ -64,16 +65,16 @@ VoyPortCall aisRow(const PosBookPoint& point, const Stretch& stretch) {
     row.pp = kAisPurpose;
     row.eta = point.etd;
     row.etd = point.etd;
-    takeStretch(stretch, row);
+    TakeStretch(stretch, row);
     return row;
 }
 
 /// Adds the rows of one leg; `last` is the place before it and becomes its port.
-int addLeg(const VoyPortCall& port, const BookPoints& group, PosBookPoint& last, PortCallRows& out) {
+int AddLeg(const VoyPortCall& port, const BookPoints& group, PosBookPoint& last, PortCallRows& out) {
     Stretch sums;
     for (const auto& row : group) {
         Stretch step;
-        if (!stretchBetween(last, row, step)) {
+        if (!StretchBetween(last, row, step)) {
             return -4;
         }
         // A position right behind another row of the table has only its own step.
@@ -86,9 +87,9 @@ int addLeg(const VoyPortCall& port, const BookPoints& group, PosBookPoint& last,
         if (row.pst == PortPoint || row.pst == AisTrackPoint) {
             if (row.pst == PortPoint) {
                 out.push_back(port);
-                takeStretch(sums, out.back());
+                TakeStretch(sums, out.back());
             } else {
-                out.push_back(aisRow(row, sums));
+                out.push_back(AisRow(row, sums));
             }
             sums = {};
         }
@@ -98,10 +99,10 @@ int addLeg(const VoyPortCall& port, const BookPoints& group, PosBookPoint& last,
 }
 
 /// The first row left at about this time.
-std::optional<std::size_t> rowLeftAt(const std::string& time, const BookPoints& rows) {
+std::optional<std::size_t> RowLeftAt(const std::string& time, const BookPoints& rows) {
     for (std::size_t i = 0; i < rows.size(); ++i) {
         float hours = 0;
-        if (HoursBetween(timeText(rows[i]), time, hours) == 0 &&
+        if (HoursBetween(TimeText(rows[i]), time, hours) == 0 &&
             std::fabs(static_cast<double>(hours)) <= kSameMoment) {
             return i;
         }
@@ -109,10 +110,10 @@ std::optional<std::size_t> rowLeftAt(const std::string& time, const BookPoints& 
     return std::nullopt;
 }
 
-int sumAround(const BookPoints& group, std::size_t found, Stretch& before, Stretch& after) {
+int SumAround(const BookPoints& group, std::size_t found, Stretch& before, Stretch& after) {
     for (std::size_t i = 1; i < group.size(); ++i) {
         Stretch step;
-        if (!stretchBetween(group[i - 1], group[i], step)) {
+        if (!StretchBetween(group[i - 1], group[i], step)) {
             return -6;
         }
         if (step.hours < 0) {
@@ -145,7 +146,7 @@ int BuildAisRows(const PortCallRows& ports, const BookPoints& rows, PortCallRows
         if (group == groups.end()) {
             return -3;
         }
-        if (const int code = addLeg(ports[i], group->second, last, result); code != 0) {
+        if (const int code = AddLeg(ports[i], group->second, last, result); code != 0) {
             return code;
         }
     }
@@ -185,11 +186,11 @@ int AverageSpeedsAround(const std::string& time, const BookPoints& rows, SpeedsA
     Stretch before;
     Stretch after;
     for (const auto& [index, group] : groups) {
-        const auto found = rowLeftAt(time, group);
+        const auto found = RowLeftAt(time, group);
         if (!found || group.size() < 2) {
             continue;
         }
-        if (const int code = sumAround(group, *found, before, after); code != 0) {
+        if (const int code = SumAround(group, *found, before, after); code != 0) {
             return code;
         }
     }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
-
-#include <string>
 
 /// A corrected voyage as rows of the port call table: ports, and the ship's positions between them. Knots,
 /// nautical miles, hours.

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/book/BookChecks.h"
 
-#include <tarvik/util/DateTimeUtl.h>
-#include <tarvik/util/StringUtl.h>
-
 #include <algorithm>
 #include <string_view>
 
+#include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/StringUtl.h>
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr double kKmPerNauticalMile = 1.852;
@@ -18,7 +19,7 @@ constexpr double kMostLongitude = 180.0;
 constexpr std::size_t kLongestNumber = 1023;
 
 /// A number strictly between -limit and limit.
-BookRefusal checkDegrees(const std::string& text, double limit, BookRefusal refusal, double& value) {
+BookRefusal CheckDegrees(const std::string& text, double limit, BookRefusal refusal, double& value) {
     if (!IsNumberText(text)) {
         return BookRefusal::NotANumber;
     }
@@ -44,11 +45,11 @@ bool IsNumberText(const std::string& text) {
 }
 
 BookRefusal CheckLatitude(const std::string& text, double& value) {
-    return checkDegrees(text, kMostLatitude, BookRefusal::Latitude, value);
+    return CheckDegrees(text, kMostLatitude, BookRefusal::Latitude, value);
 }
 
 BookRefusal CheckLongitude(const std::string& text, double& value) {
-    return checkDegrees(text, kMostLongitude, BookRefusal::Longitude, value);
+    return CheckDegrees(text, kMostLongitude, BookRefusal::Longitude, value);
 }
 
 // Fifty knots times 1.852 is a hair above 92.6 in double, hence the slack.

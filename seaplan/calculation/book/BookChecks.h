@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include "seaplan/calculation/book/BookRecompute.h"
 #include "seaplan/data/PosBookData.h"
-
-#include <string>
 
 /// Checks of what a person types into the position book.
 namespace Tarvik::Seaplan {

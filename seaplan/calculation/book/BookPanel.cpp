@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/book/BookPanel.h"
 
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/calculation/PositionBook.h"
+#include <utility>
 
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
-#include <utility>
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/PositionBook.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr double kKmPerNauticalMile = 1.852;
@@ -24,11 +25,11 @@ constexpr const char* kPlanZone = "China Standard Time";
 using Util::DateTimeUtl;
 using Util::StringUtl;
 
-double kmPerHour(float knots) {
+double KmPerHour(float knots) {
     return static_cast<double>(knots) * kKmPerNauticalMile;
 }
 
-float knots(double kmPerHour) {
+float Knots(double kmPerHour) {
     return static_cast<float>(kmPerHour / kKmPerNauticalMile);
 }
 
@@ -36,7 +37,7 @@ float knots(double kmPerHour) {
 class AisSpeeds {
   public:
     explicit AisSpeeds(const std::vector<float>& speeds) : speeds_(speeds) {}
-    double Next() { return next_ < speeds_.size() ? kmPerHour(speeds_[next_++]) : 0; }
+    double Next() { return next_ < speeds_.size() ? KmPerHour(speeds_[next_++]) : 0; }
 
   private:
     const std::vector<float>& speeds_;
@@ -44,20 +45,20 @@ class AisSpeeds {
 };
 
 /// Position, speed and way of sailing of a stored row; false without a comma in the position.
-bool takeRow(const PosBookPoint& from, PosBookPlace& to) {
+bool TakeRow(const PosBookPoint& from, PosBookPlace& to) {
     Position position;
     if (!ReadPosition(from.position, 0, position)) {
         return false;
     }
     to.x = position.x;
     to.y = position.y;
-    to.speed = kmPerHour(from.psp);
+    to.speed = KmPerHour(from.psp);
     to.interval = from.pli;
     to.track = from.psr;
     return true;
 }
 
-void takeCall(const VoyPortCall& call, PosBookPortRow& port) {
+void TakeCall(const VoyPortCall& call, PosBookPortRow& port) {
     port.id = Interface::GetNameByValue("/points", call.ppn, kEnglish);
     port.name = call.ppn;
     port.purpose = call.pp;
@@ -68,17 +69,17 @@ void takeCall(const VoyPortCall& call, PosBookPortRow& port) {
 }
 
 /// A port with its rows, the last of which is the port itself.
-int takePort(const VoyPortCall& call, const BookPoints& group, AisSpeeds& aisSpeeds, PosBookPortRow& port) {
+int TakePort(const VoyPortCall& call, const BookPoints& group, AisSpeeds& aisSpeeds, PosBookPortRow& port) {
     if (group.empty()) {
         return -3;
     }
-    takeCall(call, port);
-    if (!takeRow(group.back(), port)) {
+    TakeCall(call, port);
+    if (!TakeRow(group.back(), port)) {
         return -4;
     }
     for (std::size_t i = 0; i + 1 < group.size(); ++i) {
         PosBookRow row;
-        if (!takeRow(group[i], row)) {
+        if (!TakeRow(group[i], row)) {
             return -5;
         }
         row.kind = group[i].pst;
@@ -90,25 +91,25 @@ int takePort(const VoyPortCall& call, const BookPoints& group, AisSpeeds& aisSpe
     return 0;
 }
 
-PosBookPoint storedPoint(const PosBookPlace& place, int kind, int decimals) {
+PosBookPoint StoredPoint(const PosBookPlace& place, int kind, int decimals) {
     PosBookPoint point;
     point.pointId = place.id;
     point.psn = place.name;
     point.position = StringUtl::Format("%.*f,%.*f", decimals, place.x, decimals, place.y);
     point.psr = place.track;
     point.pli = place.interval;
-    point.psp = knots(place.speed);
+    point.psp = Knots(place.speed);
     point.course = static_cast<float>(place.course);
     point.pst = kind;
     return point;
 }
 
-VoyPortCall storedCall(const PosBookPortRow& port) {
+VoyPortCall StoredCall(const PosBookPortRow& port) {
     VoyPortCall call;
     call.ppi = port.id;
     call.ppn = port.name;
     call.pp = port.purpose;
-    call.psp = knots(port.speed);
+    call.psp = Knots(port.speed);
     call.pw = static_cast<float>(port.weather);
     call.apt = static_cast<float>(port.portTime);
     call.eta = DateTimeUtl::ConvertFromUTC(port.eta, kPlanZone);
@@ -131,7 +132,7 @@ int BookToPanel(const VoyInfo& voyage, PosBookData& out, const std::vector<float
     AisSpeeds speeds(aisSpeeds);
     for (std::size_t i = 0; i < voyage.portCalls.size(); ++i) {
         PosBookPortRow port;
-        const int code = takePort(voyage.portCalls[i], groups[static_cast<int>(i)], speeds, port);
+        const int code = TakePort(voyage.portCalls[i], groups[static_cast<int>(i)], speeds, port);
         if (code != 0) {
             return code;
         }
@@ -150,10 +151,10 @@ int PanelToBook(const PosBookData& in, VoyInfo& out) {
     BookPoints points;
     for (const auto& port : in.ports) {
         for (const auto& row : port.rows) {
-            points.push_back(storedPoint(row, row.kind, kWaypointDecimals));
+            points.push_back(StoredPoint(row, row.kind, kWaypointDecimals));
         }
-        points.push_back(storedPoint(port, PortPoint, kPortDecimals));
-        calls.push_back(storedCall(port));
+        points.push_back(StoredPoint(port, PortPoint, kPortDecimals));
+        calls.push_back(StoredCall(port));
     }
     out.portCalls = std::move(calls);
     out.positionBook.points = std::move(points);

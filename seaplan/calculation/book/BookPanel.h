@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <vector>
+
 #include "seaplan/data/PosBookData.h"
 #include "seaplan/data/VoyInfo.h"
-
-#include <vector>
 
 /// The position book between its stored form (knots, plan's zone) and the panel's (km/h, UTC).
 namespace Tarvik::Seaplan {

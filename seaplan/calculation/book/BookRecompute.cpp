@@ -5,6 +5,7 @@
 #include <tarvik/util/Geodesy.h>
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr double kKmPerNauticalMile = 1.852;
@@ -20,19 +21,19 @@ class BookWalk {
         : x_(start.x), y_(start.y), time_(start.etd), now_(now) {}
 
     void Sail(PosBookRow& row, int sub) {
-        row.course = courseTo(row);
-        const double distance = moveTo(row);
-        const double hours = hoursFor(distance, row);
+        row.course = CourseTo(row);
+        const double distance = MoveTo(row);
+        const double hours = HoursFor(distance, row);
         totals_.totalDistance += distance;
         totals_.totalTime += hours;
-        arrive(row, hours);
+        Arrive(row, hours);
         if (now_ >= time_) {
             totals_.passedSub = sub;
         }
     }
 
     /// A place where the ship was seen; it is no part of the plan.
-    void SailToSighting(PosBookRow& row) { arrive(row, hoursFor(moveTo(row), row)); }
+    void SailToSighting(PosBookRow& row) { Arrive(row, HoursFor(MoveTo(row), row)); }
 
     void Leave(PosBookPortRow& port) {
         x_ = port.x;
@@ -46,9 +47,9 @@ class BookWalk {
     }
 
     void Call(PosBookPortRow& port, int index) {
-        port.course = courseTo(port);
-        const double distance = moveTo(port);
-        const double hours = hoursFor(distance, port);
+        port.course = CourseTo(port);
+        const double distance = MoveTo(port);
+        const double hours = HoursFor(distance, port);
         totals_.totalDistance += distance;
         totals_.totalTime += hours + port.portTime;
         port.eta = DateTimeUtl::AddHour(time_, hours);
@@ -62,19 +63,19 @@ class BookWalk {
     const BookTotals& Totals() const { return totals_; }
 
   private:
-    double courseTo(const PosBookPlace& place) const {
+    double CourseTo(const PosBookPlace& place) const {
         return Util::CCourse::CalCourse(x_, y_, place.x, place.y);
     }
-    double moveTo(const PosBookPlace& place) {
+    double MoveTo(const PosBookPlace& place) {
         const double km = CircleLineUtl::CalculateDistance(x_, y_, place.x, place.y, place.track);
         x_ = place.x;
         y_ = place.y;
         return km;
     }
-    static double hoursFor(double km, const PosBookPlace& place) {
+    static double HoursFor(double km, const PosBookPlace& place) {
         return km / ((1 - place.weather) * place.speed);
     }
-    void arrive(PosBookRow& row, double hours) {
+    void Arrive(PosBookRow& row, double hours) {
         row.eta = DateTimeUtl::AddHour(time_, hours);
         row.etd = row.eta;
         time_ = row.etd;
@@ -87,7 +88,7 @@ class BookWalk {
     BookTotals totals_;
 };
 
-void sailLeg(std::vector<PosBookRow>& rows, BookWalk& walk) {
+void SailLeg(std::vector<PosBookRow>& rows, BookWalk& walk) {
     for (std::size_t s = 0; s < rows.size(); ++s) {
         if (s >= 1 && rows[s].kind == AisTrackPoint && rows[s - 1].kind == PlainPoint) {
             walk.SailToSighting(rows[s]);
@@ -97,7 +98,7 @@ void sailLeg(std::vector<PosBookRow>& rows, BookWalk& walk) {
     }
 }
 
-void showIn(const BookUnits& units, BookTotals& totals) {
+void ShowIn(const BookUnits& units, BookTotals& totals) {
     totals.averageSpeed = totals.totalDistance / totals.totalTime;
     if (units.speed == BookSpeedUnit::Knots) {
         totals.averageSpeed /= kKmPerNauticalMile;
@@ -117,7 +118,7 @@ BookTotals RecomputeBook(PosBookData& book, const BookUnits& units, const Util::
     if (!book.ports.empty()) {
         BookWalk walk(book.ports.front(), now);
         for (std::size_t p = 0; p < book.ports.size(); ++p) {
-            sailLeg(book.ports[p].rows, walk);
+            SailLeg(book.ports[p].rows, walk);
             if (p == 0) {
                 walk.Leave(book.ports[p]);
             } else {
@@ -126,7 +127,7 @@ BookTotals RecomputeBook(PosBookData& book, const BookUnits& units, const Util::
         }
         totals = walk.Totals();
     }
-    showIn(units, totals);
+    ShowIn(units, totals);
     return totals;
 }
 

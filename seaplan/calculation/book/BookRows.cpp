@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/book/BookRows.h"
 
-#include <tarvik/util/Geodesy.h>
-
 #include <iterator>
 #include <utility>
 
+#include <tarvik/util/Geodesy.h>
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Rows = std::vector<PosBookRow>;
@@ -14,21 +15,21 @@ using Rows = std::vector<PosBookRow>;
 constexpr int kDecimals = 4;
 constexpr const char* kNewWaypoint = "A new wp";
 
-bool isInList(const BookRowRefs& refs, int listRow) {
+bool IsInList(const BookRowRefs& refs, int listRow) {
     return listRow >= 0 && listRow < static_cast<int>(refs.size());
 }
 
-PosBookPortRow& portOf(PosBookData& book, const PosBookRowRef& ref) {
+PosBookPortRow& PortOf(PosBookData& book, const PosBookRowRef& ref) {
     return book.ports[static_cast<std::size_t>(ref.port)];
 }
 
 /// Whether a leg has a waypoint of this index and it is a plain one.
-bool isPlain(const Rows& leg, int sub) {
+bool IsPlain(const Rows& leg, int sub) {
     return sub < static_cast<int>(leg.size()) && leg[static_cast<std::size_t>(sub)].kind == PlainPoint;
 }
 
 /// The place before a row on the way; null before the start.
-const PosBookPlace* placeBefore(const PosBookData& book, const PosBookRowRef& ref) {
+const PosBookPlace* PlaceBefore(const PosBookData& book, const PosBookRowRef& ref) {
     const Rows& leg = book.ports[static_cast<std::size_t>(ref.port)].rows;
     const auto sub = ref.sub == PosBookRowRef::kPort ? leg.size() : static_cast<std::size_t>(ref.sub);
     if (sub > 0) {
@@ -38,7 +39,7 @@ const PosBookPlace* placeBefore(const PosBookData& book, const PosBookRowRef& re
 }
 
 /// A waypoint between two places, sailed as the way to the second is.
-PosBookRow rowBetween(const PosBookPlace& before, const PosBookPlace& to, double x, double y) {
+PosBookRow RowBetween(const PosBookPlace& before, const PosBookPlace& to, double x, double y) {
     PosBookRow row;
     row.x = Util::UnitUtl::DataFormat(x, kDecimals);
     row.y = Util::UnitUtl::DataFormat(y, kDecimals);
@@ -50,30 +51,30 @@ PosBookRow rowBetween(const PosBookPlace& before, const PosBookPlace& to, double
     return row;
 }
 
-Util::_SPointF pointOf(const PosBookPlace& place) {
+Util::_SPointF PointOf(const PosBookPlace& place) {
     return {static_cast<float>(place.x), static_cast<float>(place.y)};
 }
 
 /// What lies between two places: the waypoints of a great circle, or one half way when there are none and it
 /// is wanted.
-Rows rowsBetween(const PosBookPlace& before, const PosBookPlace& to, bool addMidpoint) {
+Rows RowsBetween(const PosBookPlace& before, const PosBookPlace& to, bool addMidpoint) {
     Rows rows;
     if (to.track == "GC") {
-        const auto points = Util::CircleLineUtl::Caculate(pointOf(before), pointOf(to), to.interval);
+        const auto points = Util::CircleLineUtl::Caculate(PointOf(before), PointOf(to), to.interval);
         for (std::size_t i = 1; i + 1 < points.size(); ++i) {
             rows.push_back(
-                rowBetween(before, to, static_cast<double>(points[i].x), static_cast<double>(points[i].y)));
+                RowBetween(before, to, static_cast<double>(points[i].x), static_cast<double>(points[i].y)));
         }
     }
     if (rows.empty() && addMidpoint) {
-        rows.push_back(rowBetween(before, to, (before.x + to.x) / 2.0, (before.y + to.y) / 2.0));
+        rows.push_back(RowBetween(before, to, (before.x + to.x) / 2.0, (before.y + to.y) / 2.0));
         rows.back().name = kNewWaypoint;
     }
     return rows;
 }
 
 /// Moves the waypoint indices of a port's list rows from `listRow` on.
-void shiftRefs(BookRowRefs& refs, int listRow, int port, int by) {
+void ShiftRefs(BookRowRefs& refs, int listRow, int port, int by) {
     for (std::size_t i = static_cast<std::size_t>(listRow); i < refs.size() && refs[i].port == port; ++i) {
         if (refs[i].sub != PosBookRowRef::kPort) {
             refs[i].sub += by;
@@ -82,7 +83,7 @@ void shiftRefs(BookRowRefs& refs, int listRow, int port, int by) {
 }
 
 /// Plain waypoints show only where their leg is expanded; the row before in the list tells.
-void listNewRows(const PosBookData& book, BookRowRefs& refs, int listRow, int port, int first, int count) {
+void ListNewRows(const PosBookData& book, BookRowRefs& refs, int listRow, int port, int first, int count) {
     if (listRow == 0 || !PlaceOf(book, refs[static_cast<std::size_t>(listRow) - 1]).expanded) {
         return;
     }
@@ -123,19 +124,19 @@ PosBookPlace& PlaceOf(PosBookData& book, const PosBookRowRef& ref) {
 }
 
 bool ToggleBookRow(PosBookData& book, BookRowRefs& refs, int listRow) {
-    if (!isInList(refs, listRow)) {
+    if (!IsInList(refs, listRow)) {
         return false;
     }
     const PosBookRowRef ref = refs[static_cast<std::size_t>(listRow)];
     const bool isPort = ref.sub == PosBookRowRef::kPort;
     const auto next = static_cast<std::size_t>(ref.port) + (isPort ? 1 : 0);
-    if (next == book.ports.size() || (!isPort && isPlain(portOf(book, ref).rows, ref.sub))) {
+    if (next == book.ports.size() || (!isPort && IsPlain(PortOf(book, ref).rows, ref.sub))) {
         return false;
     }
     PosBookPlace& place = PlaceOf(book, ref);
     place.expanded = !place.expanded;
     Rows& leg = book.ports[next].rows;
-    for (int s = isPort ? 0 : ref.sub + 1; isPlain(leg, s); ++s) {
+    for (int s = isPort ? 0 : ref.sub + 1; IsPlain(leg, s); ++s) {
         leg[static_cast<std::size_t>(s)].expanded = place.expanded;
     }
     refs = ListBookRows(book);
@@ -143,44 +144,44 @@ bool ToggleBookRow(PosBookData& book, BookRowRefs& refs, int listRow) {
 }
 
 int RegenerateLeg(PosBookData& book, BookRowRefs& refs, int listRow, bool addMidpoint) {
-    if (!isInList(refs, listRow)) {
+    if (!IsInList(refs, listRow)) {
         return 0;
     }
     const PosBookRowRef ref = refs[static_cast<std::size_t>(listRow)];
-    const PosBookPlace* before = placeBefore(book, ref);
+    const PosBookPlace* before = PlaceBefore(book, ref);
     if (before == nullptr) {
         return 0;
     }
-    Rows added = rowsBetween(*before, PlaceOf(book, ref), addMidpoint);
+    Rows added = RowsBetween(*before, PlaceOf(book, ref), addMidpoint);
     if (added.empty()) {
         return 0;
     }
     const int count = static_cast<int>(added.size());
-    Rows& leg = portOf(book, ref).rows;
+    Rows& leg = PortOf(book, ref).rows;
     const int first = ref.sub == PosBookRowRef::kPort ? static_cast<int>(leg.size()) : ref.sub;
     leg.insert(leg.begin() + first, std::make_move_iterator(added.begin()),
                std::make_move_iterator(added.end()));
-    shiftRefs(refs, listRow, ref.port, count);
-    listNewRows(book, refs, listRow, ref.port, first, count);
+    ShiftRefs(refs, listRow, ref.port, count);
+    ListNewRows(book, refs, listRow, ref.port, first, count);
     return count;
 }
 
 BookDeletion DeleteBookRow(PosBookData& book, BookRowRefs& refs, const BookTotals& totals, int listRow) {
-    if (!isInList(refs, listRow)) {
+    if (!IsInList(refs, listRow)) {
         return BookDeletion::Refused;
     }
     const PosBookRowRef ref = refs[static_cast<std::size_t>(listRow)];
     if (ref.sub == PosBookRowRef::kPort || IsPassed(totals, ref.port, ref.sub)) {
         return BookDeletion::Refused;
     }
-    Rows& leg = portOf(book, ref).rows;
-    if (!isPlain(leg, ref.sub)) {
+    Rows& leg = PortOf(book, ref).rows;
+    if (!IsPlain(leg, ref.sub)) {
         return BookDeletion::Refused;
     }
     leg.erase(leg.begin() + ref.sub);
     refs.erase(refs.begin() + listRow);
-    shiftRefs(refs, listRow, ref.port, -1);
-    if (!isInList(refs, listRow) || PlaceOf(book, refs[static_cast<std::size_t>(listRow)]).track != "GC") {
+    ShiftRefs(refs, listRow, ref.port, -1);
+    if (!IsInList(refs, listRow) || PlaceOf(book, refs[static_cast<std::size_t>(listRow)]).track != "GC") {
         return BookDeletion::Recompute;
     }
     return RegenerateLeg(book, refs, listRow, false) > 0 ? BookDeletion::Recompute : BookDeletion::Complete;

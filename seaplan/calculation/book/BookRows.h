@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/calculation/book/BookRecompute.h"
-#include "seaplan/data/PosBookData.h"
-
 #include <optional>
 #include <vector>
+
+#include "seaplan/calculation/book/BookRecompute.h"
+#include "seaplan/data/PosBookData.h"
 
 /// The rows of the book's list, and the edits that add and remove waypoints.
 namespace Tarvik::Seaplan {

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/tests/Rows.h"
+#include <random>
 
 #include <gtest/gtest.h>
 
 #include <tarvik/util/Geodesy.h>
 
-#include <random>
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/tests/Rows.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;
@@ -99,10 +100,10 @@ TEST(LegTotalsFromBook, SumsAreRoundedOnce) {
         double distance = 0;
         double time = 0;
         for (int i = 1; i <= 20; ++i) {
-            const bool greatCircle = random() % 2 == 0;
+            const bool GreatCircle = random() % 2 == 0;
             rows.push_back(point(std::to_string(i) + ",50", i == 20 ? PortPoint : PlainPoint, speed(random),
-                                 greatCircle ? "GC" : "RL"));
-            const double step = (greatCircle ? Util::CircleLineUtl::CalculateDistance(i - 1, 50, i, 50)
+                                 GreatCircle ? "GC" : "RL"));
+            const double step = (GreatCircle ? Util::CircleLineUtl::CalculateDistance(i - 1, 50, i, 50)
                                              : Util::CircleLineUtl::CalRhumbDist(i - 1, 50, i, 50)) /
                                 1.852;
             distance += step;

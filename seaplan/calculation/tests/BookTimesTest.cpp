@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/Schedule.h"
-#include "seaplan/calculation/tests/Rows.h"
+#include <cmath>
+#include <limits>
 
 #include <gtest/gtest.h>
 
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/Geodesy.h>
 
-#include <cmath>
-#include <limits>
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/calculation/tests/Rows.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;
@@ -37,14 +38,14 @@ RouteStops route() {
     return stops;
 }
 
-PointMap routePoints() {
+PointMap RoutePoints() {
     return {{"131", {"131", "Cape", "2,0"}}, {"1310", {"1310", "Strait", "4,0"}}};
 }
 
 TEST(BookFromStops, NamesPortsAndRoutePoints) {
     const PortNames names;
     BookPoints rows;
-    ASSERT_EQ(BookFromStops(route(), routePoints(), rows), 0);
+    ASSERT_EQ(BookFromStops(route(), RoutePoints(), rows), 0);
     EXPECT_EQ(positions(rows), "0,0|1,0|2,0|3,0|4,0|5.50,0");
     EXPECT_EQ(rows[0].pointId, "40389");
     EXPECT_EQ(rows[0].psn, "port 40389");
@@ -75,7 +76,7 @@ TEST(BookFromStops, FailureLeavesNoRows) {
         auto stops = route();
         stops[2].routes[1].pointset = pointset;
         BookPoints rows;
-        EXPECT_EQ(BookFromStops(stops, routePoints(), rows), -4) << pointset;
+        EXPECT_EQ(BookFromStops(stops, RoutePoints(), rows), -4) << pointset;
         EXPECT_TRUE(rows.empty());
     }
     BookPoints rows;
@@ -85,15 +86,15 @@ TEST(BookFromStops, FailureLeavesNoRows) {
 }
 
 TEST(LegDistance, IsGreatCircleOrRhumbLineInNauticalMiles) {
-    float greatCircle = 0;
+    float GreatCircle = 0;
     float rhumbLine = 0;
-    ASSERT_EQ(LegDistance("140.5,35", "-125,48.25", "GC", greatCircle), 0);
+    ASSERT_EQ(LegDistance("140.5,35", "-125,48.25", "GC", GreatCircle), 0);
     ASSERT_EQ(LegDistance("140.5,35", "-125,48.25", "RL", rhumbLine), 0);
-    EXPECT_FLOAT_EQ(greatCircle, static_cast<float>(
+    EXPECT_FLOAT_EQ(GreatCircle, static_cast<float>(
                                      Util::CircleLineUtl::CalculateDistance(140.5, 35, -125, 48.25) / 1.852));
     EXPECT_FLOAT_EQ(rhumbLine,
                     static_cast<float>(Util::CircleLineUtl::CalRhumbDist(140.5, 35, -125, 48.25) / 1.852));
-    EXPECT_LT(greatCircle, rhumbLine);
+    EXPECT_LT(GreatCircle, rhumbLine);
 }
 
 TEST(LegDistance, RefusesATextWithoutCommaBehindItsFirstCharacter) {

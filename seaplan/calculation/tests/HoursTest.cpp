@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/Schedule.h"
-#include "seaplan/calculation/tests/Rows.h"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <random>
 
+#include <gtest/gtest.h>
+
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/calculation/tests/Rows.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/tests/Rows.h"
+#include <random>
 
 #include <gtest/gtest.h>
 
-#include <random>
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/tests/Rows.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;
 
-PortCallRows portsOf(const std::string& letters) {
+PortCallRows PortsOf(const std::string& letters) {
     PortCallRows rows;
     for (const char letter : letters) {
         rows.push_back(call(std::string(1, letter), 0));
@@ -20,7 +21,7 @@ PortCallRows portsOf(const std::string& letters) {
 }
 
 /// A book of these ports with one waypoint a leg; positions bear the prefix.
-BookPoints bookOf(const std::string& letters, const std::string& prefix) {
+BookPoints BookOf(const std::string& letters, const std::string& prefix) {
     BookPoints rows;
     for (std::size_t i = 0; i < letters.size(); ++i) {
         const std::string number = std::to_string(i);
@@ -36,7 +37,7 @@ BookPoints bookOf(const std::string& letters, const std::string& prefix) {
 
 std::string joined(const std::string& old, const std::string& fresh) {
     BookPoints out;
-    EXPECT_EQ(JoinKeepingLegs(portsOf(old), bookOf(old, "s"), portsOf(fresh), bookOf(fresh, "n"), out), 0);
+    EXPECT_EQ(JoinKeepingLegs(PortsOf(old), BookOf(old, "s"), PortsOf(fresh), BookOf(fresh, "n"), out), 0);
     return positions(out);
 }
 
@@ -57,7 +58,7 @@ TEST(JoinKeepingLegs, NamesWithAHyphenMayShareAKey) {
     PortCallRows old{call("A-B", 0), call("C", 0)};
     PortCallRows fresh{call("A", 0), call("B-C", 0)};
     BookPoints out;
-    ASSERT_EQ(JoinKeepingLegs(old, bookOf("XY", "s"), fresh, bookOf("XY", "n"), out), 0);
+    ASSERT_EQ(JoinKeepingLegs(old, BookOf("XY", "s"), fresh, BookOf("XY", "n"), out), 0);
     EXPECT_EQ(positions(out), "nX0|sw1|sY1");
 }
 
@@ -65,7 +66,7 @@ TEST(JoinKeepingLegs, RefusesShortOrUnmatchedSides) {
     BookPoints out{port("kept")};
     const auto code = [&out](const char* oldPorts, const char* stored, const char* newPorts,
                              const char* fresh) {
-        return JoinKeepingLegs(portsOf(oldPorts), bookOf(stored, "s"), portsOf(newPorts), bookOf(fresh, "n"),
+        return JoinKeepingLegs(PortsOf(oldPorts), BookOf(stored, "s"), PortsOf(newPorts), BookOf(fresh, "n"),
                                out);
     };
     EXPECT_EQ(code("A", "A", "AB", "AB"), -1);
@@ -78,7 +79,7 @@ TEST(JoinKeepingLegs, RefusesShortOrUnmatchedSides) {
 TEST(JoinKeepingLegs, StoredBookOfOtherPortsGivesNoLegs) {
     for (const char* stored : {"", "A", "ABC"}) {
         BookPoints out;
-        EXPECT_EQ(JoinKeepingLegs(portsOf("AB"), bookOf(stored, "s"), portsOf("AB"), bookOf("AB", "n"), out),
+        EXPECT_EQ(JoinKeepingLegs(PortsOf("AB"), BookOf(stored, "s"), PortsOf("AB"), BookOf("AB", "n"), out),
                   0);
         EXPECT_EQ(positions(out), "nA0|nw1|nB1") << stored;
     }

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/LegCacheText.h"
-
-#include "seaplan/calculation/Schedule.h"
+#include <random>
+#include <sstream>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <random>
-#include <sstream>
+#include "seaplan/calculation/LegCacheText.h"
+#include "seaplan/calculation/Schedule.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using ::testing::ElementsAre;

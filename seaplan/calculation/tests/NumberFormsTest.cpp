@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/NumberForms.h"
-
-#include "seaplan/calculation/tests/Rows.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/tests/Rows.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/PlannedProgress.h"
-
-#include "testsupport/ManualClock.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/calculation/PlannedProgress.h"
+#include "testsupport/ManualClock.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Util::_datetime_t;

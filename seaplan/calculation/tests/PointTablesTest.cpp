@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/PointTables.h"
+#include <filesystem>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <tarvik/util/FileUtl.h>
 
-#include <sqlite3.h>
-
-#include <filesystem>
+#include "seaplan/calculation/PointTables.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using ::testing::Pair;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/PortPreparation.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/calculation/PortPreparation.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
-PortCallRows rowsOf(const std::vector<std::string>& names, const std::string& purpose = "D") {
+PortCallRows RowsOf(const std::vector<std::string>& names, const std::string& purpose = "D") {
     PortCallRows rows;
     for (const std::string& name : names) {
         VoyPortCall row;
@@ -28,41 +29,41 @@ std::string namesOf(const PortCallRows& rows) {
 
 TEST(PortPreparationTest, NeighbouringRowsOfOnePortLoseTheSecond) {
     PortCallRows out;
-    EXPECT_EQ(DropSamePortRows(rowsOf({"A", "A", "B", "A"}), {}, out), 0);
+    EXPECT_EQ(DropSamePortRows(RowsOf({"A", "A", "B", "A"}), {}, out), 0);
     EXPECT_EQ(namesOf(out), "ABA");
 }
 
 TEST(PortPreparationTest, LinkedPortsAreOnePlace) {
     PortCallRows out;
     const SamePortLinks links{{"idB-idA", ""}, {"idA-idB", ""}};
-    EXPECT_EQ(DropSamePortRows(rowsOf({"A", "B", "C"}), links, out), 0);
+    EXPECT_EQ(DropSamePortRows(RowsOf({"A", "B", "C"}), links, out), 0);
     EXPECT_EQ(namesOf(out), "AC");
 }
 
 TEST(PortPreparationTest, EveryRowIsComparedWithTheOneBeforeItAsRead) {
     PortCallRows out;
     const SamePortLinks links{{"idA-idB", ""}, {"idB-idC", ""}};
-    EXPECT_EQ(DropSamePortRows(rowsOf({"A", "B", "C", "D"}), links, out), 0);
+    EXPECT_EQ(DropSamePortRows(RowsOf({"A", "B", "C", "D"}), links, out), 0);
     EXPECT_EQ(namesOf(out), "AD") << "C is one place with B, which is dropped itself";
 }
 
 TEST(PortPreparationTest, FewerThanTwoPlacesAreNoCalculation) {
-    PortCallRows out = rowsOf({"x"});
-    EXPECT_EQ(DropSamePortRows(rowsOf({"A", "A", "A"}), {}, out), -1);
+    PortCallRows out = RowsOf({"x"});
+    EXPECT_EQ(DropSamePortRows(RowsOf({"A", "A", "A"}), {}, out), -1);
     EXPECT_TRUE(out.empty());
     EXPECT_EQ(DropSamePortRows({}, {}, out), -1);
 }
 
 TEST(PortPreparationTest, MissingPurposesAreLoadingFirstAndDischargingLater) {
     for (const char* blank : {"", " "}) {
-        PortCallRows rows = rowsOf({"A", "B"}, blank);
+        PortCallRows rows = RowsOf({"A", "B"}, blank);
         PortCallRows out;
         PrepareFirstPurpose(rows);
         EXPECT_EQ(DropSamePortRows(rows, {}, out), 0);
         EXPECT_EQ(out[0].pp, "L");
         EXPECT_EQ(out[1].pp, "D");
     }
-    PortCallRows rows = rowsOf({"A", "B"}, "B");
+    PortCallRows rows = RowsOf({"A", "B"}, "B");
     PrepareFirstPurpose(rows);
     EXPECT_EQ(rows[0].pp, "B");
 }

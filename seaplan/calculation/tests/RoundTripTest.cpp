@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/NumberForms.h"
-#include "seaplan/calculation/Schedule.h"
-#include "seaplan/calculation/Units.h"
-#include "seaplan/calculation/tests/Rows.h"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <random>
 #include <utility>
 
+#include <gtest/gtest.h>
+
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/calculation/Units.h"
+#include "seaplan/calculation/tests/Rows.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/RouteReply.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <tarvik/util/Geodesy.h>
 
+#include "seaplan/calculation/RouteReply.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using ::testing::ElementsAre;

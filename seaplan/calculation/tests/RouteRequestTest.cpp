@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/RouteRequest.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/calculation/RouteRequest.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 RouteStop stopOf(const std::string& id, std::vector<RouteSegment> routes) {

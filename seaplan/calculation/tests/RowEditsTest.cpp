@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/Schedule.h"
-#include "seaplan/calculation/tests/Rows.h"
+#include <limits>
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/calculation/tests/Rows.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyPortCall.h"
-#include "seaplan/data/VoyPositionBook.h"
-
 #include <string>
 #include <utility>
+
+#include "seaplan/data/VoyPortCall.h"
+#include "seaplan/data/VoyPositionBook.h"
 
 /// Short forms for the tests' input rows.
 namespace Tarvik::Seaplan::Testing {

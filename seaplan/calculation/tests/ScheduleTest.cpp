@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/Schedule.h"
-
-#include "seaplan/calculation/tests/Rows.h"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 
+#include <gtest/gtest.h>
+
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/calculation/tests/Rows.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

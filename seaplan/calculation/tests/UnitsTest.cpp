@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/Units.h"
-
-#include "seaplan/calculation/NumberForms.h"
-#include "seaplan/calculation/tests/Rows.h"
-
-#include <gtest/gtest.h>
-
 #include <random>
 #include <utility>
 
+#include <gtest/gtest.h>
+
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/Units.h"
+#include "seaplan/calculation/tests/Rows.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/chart/tests/ChartRecording.h"
 
-#include <tarvik/interface/BusContract.h>
-
 #include <sstream>
 
+#include <tarvik/interface/BusContract.h>
+
 namespace Tarvik::Seaplan::Testing {
+
 namespace {
 
 template <class Record>
@@ -24,7 +25,7 @@ ChartRecording::ChartRecording() {
     Core::TrvKernel::Instance()->Reset();
     bind<&ChartRecording::addLayer>(Bus::MapAddLayer.name);
     bind<&ChartRecording::addLine>(Bus::MapAddLine.name);
-    bind<&ChartRecording::addLabel>(Bus::MapAddPointLabel.name);
+    bind<&ChartRecording::AddLabel>(Bus::MapAddPointLabel.name);
     bind<&ChartRecording::addImage>(Bus::MapAddImage.name);
     bind<&ChartRecording::registerImage>(Bus::MapRegisterImage.name);
     bind<&ChartRecording::deleteObjects>(Bus::MapDeleteObjects.name);
@@ -59,7 +60,7 @@ void* ChartRecording::addLine(void* input) {
     return nullptr;
 }
 
-void* ChartRecording::addLabel(void* input) {
+void* ChartRecording::AddLabel(void* input) {
     labels.push_back(as<Interface::TrvMapPointParams>(input));
     calls.push_back("label " + refText(labels.back().ref) + " " + labels.back().label + " " +
                     labels.back().position);

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-#include <tarvik/interface/ChartRecords.h>
-
 #include <deque>
 #include <string>
 #include <vector>
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <tarvik/interface/ChartRecords.h>
 
 namespace Tarvik::Seaplan::Testing {
 
@@ -30,7 +30,7 @@ class ChartRecording : public Core::TObject {
     void bind(const char* name);
     void* addLayer(void* input);
     void* addLine(void* input);
-    void* addLabel(void* input);
+    void* AddLabel(void* input);
     void* addImage(void* input);
     void* registerImage(void* input);
     void* deleteObjects(void* input);

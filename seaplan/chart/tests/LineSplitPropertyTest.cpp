@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/chart/LineSplit.h"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <random>
 #include <string>
 
+#include <gtest/gtest.h>
+
+#include "seaplan/chart/LineSplit.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 /// A text as it is drawn: at the date line it stands just before it.

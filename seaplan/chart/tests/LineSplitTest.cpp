@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/chart/LineSplit.h"
+#include <random>
 
 #include <gtest/gtest.h>
 
-#include <random>
+#include "seaplan/chart/LineSplit.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Pieces = std::vector<PointTexts>;

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/chart/VoyageLayer.h"
-#include "seaplan/chart/tests/ChartRecording.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <tarvik/util/FileUtl.h>
 
+#include "seaplan/chart/VoyageLayer.h"
+#include "seaplan/chart/tests/ChartRecording.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using ::testing::ElementsAre;
@@ -18,7 +19,7 @@ constexpr const char* kNoDatabase = "/nonexistent/points.db";
 struct RouteDrawing : ::testing::Test {
     Testing::ChartRecording chart;
     VoyageLayer layer;
-    PointMap routePoints{{"118", {"118", "Cape", "5,5"}}};
+    PointMap RoutePoints{{"118", {"118", "Cape", "5,5"}}};
 };
 
 RouteStops twoLegs() {
@@ -69,7 +70,7 @@ TEST_F(RouteDrawing, RouteIsOneLineWithItsLabels) {
     auto stops = twoLegs();
     stops[2].rp_groups = {{2, "118", "a,b", {}}};
     layer.mainLine.ref.id = "left over";
-    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, routePoints), 0);
+    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, RoutePoints), 0);
     EXPECT_THAT(chart.calls,
                 ElementsAre("layer VOYAGE", "clear VOYAGE/VOYAGETYPE/", "clear VOYAGE/VOYLINETYPE/",
                             "clear VOYAGE/RPOINTTYPE/", "line VOYAGE/VOYLINETYPE/_0 1,0 2,0 3,0 4,0",
@@ -80,17 +81,17 @@ TEST_F(RouteDrawing, FirstPointOfASegmentIsTakenOnlyAtTheFirstOfEachStop) {
     auto stops = twoLegs();
     stops[1].routes[1].pointset = "9,9|3,0";
     stops[2].routes[0].pointset = "8,8|4,0";
-    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, routePoints), 0);
+    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, RoutePoints), 0);
     EXPECT_THAT(chart.lines.at(0).points, ElementsAre("1,0", "2,0", "3,0", "8,8", "4,0"));
 }
 
 TEST_F(RouteDrawing, RouteTellsWhichStepFailed) {
-    EXPECT_EQ(layer.DrawRoute(RouteStops(1), kNoDatabase, routePoints), -1);
+    EXPECT_EQ(layer.DrawRoute(RouteStops(1), kNoDatabase, RoutePoints), -1);
     EXPECT_THAT(chart.calls, IsEmpty());
-    EXPECT_EQ(layer.DrawRoute(RouteStops(2), kNoDatabase, routePoints), -5);
+    EXPECT_EQ(layer.DrawRoute(RouteStops(2), kNoDatabase, RoutePoints), -5);
     auto stops = twoLegs();
     stops[1].rp_groups = {{1, "999", "a,b", {}}};
-    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, routePoints), -7);
+    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, RoutePoints), -7);
     EXPECT_EQ(chart.lines.size(), 1) << "what was drawn stays";
 }
 
@@ -101,7 +102,7 @@ TEST_F(RouteDrawing, LabelsNeedTheRoutePointsOnlyWhenThereAreGroups) {
     stops[1].rp_groups = {{1, "118", "a,b", {}}, {1, "999", "a,b", {}}};
     EXPECT_EQ(layer.DrawRoutePointLabels(stops, kNoDatabase, none), -2);
     EXPECT_EQ(layer.DrawRoutePointLabels(RouteStops(1), kNoDatabase, none), -1);
-    EXPECT_EQ(layer.DrawRoutePointLabels(stops, kNoDatabase, routePoints), -3);
+    EXPECT_EQ(layer.DrawRoutePointLabels(stops, kNoDatabase, RoutePoints), -3);
     EXPECT_EQ(chart.labels.size(), 1);
 }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/chart/ViewExtent.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/chart/ViewExtent.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 struct ExtentCase {

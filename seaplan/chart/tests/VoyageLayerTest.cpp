@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/chart/VoyageLayer.h"
-
-#include "seaplan/chart/tests/ChartRecording.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/util/FileUtl.h>
 
+#include "seaplan/chart/VoyageLayer.h"
+#include "seaplan/chart/tests/ChartRecording.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using ::testing::Each;

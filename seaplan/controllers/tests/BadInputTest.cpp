@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/tests/CorrectionFixture.h"
-
 #include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <limits>
 
+#include "seaplan/controllers/tests/CorrectionFixture.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();

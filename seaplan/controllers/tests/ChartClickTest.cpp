@@ -2,6 +2,7 @@
 #include "seaplan/controllers/tests/RouteFixture.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 /// Raises a click; the handler's answer, empty for success.
@@ -228,9 +229,13 @@ TEST(ClickChannelTest, ChannelsComeAndGoWithTheModule) {
     for (int round = 0; round < 2; ++round) {
         {
             const VoyPortCallModule module(&store);
-            for (const char* name : names) EXPECT_TRUE(kernel->IsBound(name)) << name;
+            for (const char* name : names) {
+                EXPECT_TRUE(kernel->IsBound(name)) << name;
+            }
         }
-        for (const char* name : names) EXPECT_FALSE(kernel->IsBound(name)) << name;
+        for (const char* name : names) {
+            EXPECT_FALSE(kernel->IsBound(name)) << name;
+        }
     }
     kernel->SetObserver({});
     EXPECT_EQ(notices, 0);

@@ -3,6 +3,7 @@
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Util::_datetime_t;
@@ -11,7 +12,7 @@ _datetime_t at(int hour, int minute = 0, int second = 0) {
     return {second, minute, hour, 1, 3, 2024};
 }
 
-PosBookPoint rowAt(const std::string& position, const _datetime_t& etd) {
+PosBookPoint RowAt(const std::string& position, const _datetime_t& etd) {
     PosBookPoint made;
     made.position = position;
     made.psp = 10.0F;
@@ -29,9 +30,9 @@ class CorrectedProgressTest : public testing::Test {
         ports[0].etd = at(6);
         ports[1].eta = at(23, 59);
         ports[1].etd = at(23, 59);
-        groups[0] = {rowAt("0.000,0.000", at(6))};
-        groups[1] = {rowAt("1.000,0.000", at(12, 0, 38)), rowAt("2.000,0.000", at(18, 1, 16)),
-                     rowAt("3.000,0.000", at(23, 59))};
+        groups[0] = {RowAt("0.000,0.000", at(6))};
+        groups[1] = {RowAt("1.000,0.000", at(12, 0, 38)), RowAt("2.000,0.000", at(18, 1, 16)),
+                     RowAt("3.000,0.000", at(23, 59))};
     }
     int run(const _datetime_t& correction, const _datetime_t& now) {
         return CorrectedProgress(ports, groups, correction, now, progress);

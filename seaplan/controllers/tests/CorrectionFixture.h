@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/controllers/tests/ScheduleFixture.h"
-
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "seaplan/controllers/tests/ScheduleFixture.h"
 
 namespace Tarvik::Seaplan {
 

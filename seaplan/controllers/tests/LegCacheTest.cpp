@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/tests/RouteFixture.h"
-
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
+#include "seaplan/controllers/tests/RouteFixture.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 class LegCacheTest : public RouteFixture {

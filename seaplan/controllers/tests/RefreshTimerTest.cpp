@@ -3,6 +3,7 @@
 #include "testsupport/ManualTimer.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Texts = std::vector<std::string>;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/controllers/tests/ScheduleFixture.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/controllers/tests/ScheduleFixture.h"
 
 namespace Tarvik::Seaplan {
 

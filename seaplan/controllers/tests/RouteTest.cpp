@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/tests/RouteFixture.h"
-
 #include <filesystem>
 
+#include "seaplan/controllers/tests/RouteFixture.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 class RouteTest : public RouteFixture {};

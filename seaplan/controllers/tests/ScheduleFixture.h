@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
+#include <gtest/gtest.h>
+
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "testsupport/DataFolder.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/PortDictionary.h"
 #include "testsupport/RecordingHost.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace Tarvik::Seaplan {
 

@@ -2,6 +2,7 @@
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -32,7 +33,7 @@ class ShipByClockTest : public ScheduleFixture {
         clock.SetUtc(2024, 3, day, hour, minute, second);
         result = voyages.ShowVoyage("9");
     }
-    void correctAt(const std::string& time) {
+    void CorrectAt(const std::string& time) {
         voyage().modais = 1;
         voyage().aisModTimes = {time};
     }
@@ -99,7 +100,7 @@ TEST_F(ShipByClockTest, ProgressIsDrawnInOrderAndTheViewOpensAroundTheShip) {
 }
 
 TEST_F(ShipByClockTest, CorrectedProgressLeavesTheRouteOnShow) {
-    correctAt("2024-03-01 17:30:00");
+    CorrectAt("2024-03-01 17:30:00");
     clock.SetUtc(2024, 3, 1, 18);
     ASSERT_EQ(module.DrawAisProgress(voyage()), 0);
     EXPECT_EQ(ship(), "0.667,0.000");
@@ -148,7 +149,7 @@ TEST_F(ShipByClockTest, OverTheDateLineItRunsTheLongWayRound) {
 }
 
 TEST_F(ShipByClockTest, CorrectedVoyageFollowsTheSameClock) {
-    correctAt("2024-03-01 14:00:00");
+    CorrectAt("2024-03-01 14:00:00");
     show(1, 13, 59, 59);
     EXPECT_EQ(result, -9) << "nothing is sailed yet, and the ship has no place";
     show(1, 16);
@@ -165,7 +166,7 @@ TEST_F(ShipByClockTest, CorrectedVoyageFollowsTheSameClock) {
 TEST_F(ShipByClockTest, CorrectedVoyageRunsTheLongWayRoundTheDateLineToo) {
     voyage().portCalls.clear();
     load({"178.0", "178.5", "179.0", "-179.0"});
-    correctAt("2024-03-01 14:00:00");
+    CorrectAt("2024-03-01 14:00:00");
     show(2, 14);
     EXPECT_EQ(result, 0);
     EXPECT_LT(std::abs(std::stod(ship())), 10);

@@ -2,6 +2,7 @@
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Texts = std::vector<std::string>;

@@ -2,6 +2,7 @@
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 class VesselTrackTest : public ScheduleFixture {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/VoyCatalogController.h"
+#include <gtest/gtest.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingHost.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Names = std::map<std::string, int>;

@@ -2,6 +2,7 @@
 #include "seaplan/controllers/tests/CorrectionFixture.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr const char* kWayRequest = R"({"nr_point":[0.400,0.100],"dest_port":40002})";

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/voycal/CVoyCal.h"
 
-#include "seaplan/calculation/PointTables.h"
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/controllers/voycal/SampleReply.h"
-#include "seaplan/controllers/voycal/VoyCalDrawing.h"
-#include "seaplan/controllers/voycal/VoyCalReply.h"
+#include <utility>
 
 #include <tarvik/core/BusBlock.h>
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/StringUtl.h>
 
-#include <utility>
+#include "seaplan/calculation/PointTables.h"
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/controllers/voycal/SampleReply.h"
+#include "seaplan/controllers/voycal/VoyCalDrawing.h"
+#include "seaplan/controllers/voycal/VoyCalReply.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 namespace Bus = Interface::Bus;
@@ -24,7 +25,7 @@ constexpr int kEnglish = 1033;
 constexpr int kTraditionalChinese = 1028;
 constexpr int kSimplifiedChinese = 2052;
 
-VoyCalPoints readPoints(const std::string& database) {
+VoyCalPoints ReadPoints(const std::string& database) {
     PointMap rows;
     LoadRoutePoints(database, rows);
     VoyCalPoints points;
@@ -36,17 +37,17 @@ VoyCalPoints readPoints(const std::string& database) {
     return points;
 }
 
-void clearType(const char* type) {
+void ClearType(const char* type) {
     const Interface::TrvMapObjectRef ref{kVoyCalLayer, "", type};
     Interface::Call(Bus::MapDeleteObjectsByType, &ref);
 }
 
-void addLabel(const VoyCalPoint& point, bool isAlternative) {
+void AddLabel(const VoyCalPoint& point, bool isAlternative) {
     const auto label = VoyCalLabel(point, isAlternative);
     Interface::Call(Bus::MapAddPointLabel, &label);
 }
 
-const VoyCalGroup* findGroup(const std::vector<VoyCalPort>& ports, const std::string& id) {
+const VoyCalGroup* FindGroup(const std::vector<VoyCalPort>& ports, const std::string& id) {
     for (const auto& port : ports) {
         for (const auto& group : port.groups) {
             if (group.head.id == id) {
@@ -60,8 +61,8 @@ const VoyCalGroup* findGroup(const std::vector<VoyCalPort>& ports, const std::st
 }  // namespace
 
 CVoyCal::CVoyCal(const std::string& database, std::string reply)
-    : points_(readPoints(database)), reply_(std::move(reply)) {
-    bindAll();
+    : points_(ReadPoints(database)), reply_(std::move(reply)) {
+    BindAll();
     Interface::TrvMapLayerParams layer;
     layer.layer = kVoyCalLayer;
     Interface::Call(Bus::MapAddLayer, &std::as_const(layer));
@@ -84,29 +85,29 @@ CVoyCal* CVoyCal::Instance() {
     return calculator;
 }
 
-void CVoyCal::bindAll() {
+void CVoyCal::BindAll() {
     Core::TrvKernel* kernel = Core::TrvKernel::Instance();
     kernel->CreateTrvService(Bus::CalculateVoyage.name, this, "", "", nullptr);
-    calculateService_.Set<&CVoyCal::onCalculate>(this);
+    calculateService_.Set<&CVoyCal::OnCalculate>(this);
     kernel->BindTrvService(Bus::CalculateVoyage.name, &calculateService_);
     kernel->CreateTrvEvent(Bus::ClickRPoint.name, this, "", "", nullptr);
-    pointClick_.Set<&CVoyCal::onPointClicked>(this);
+    pointClick_.Set<&CVoyCal::OnPointClicked>(this);
     kernel->BindTrvEvent(Bus::ClickRPoint.name, &pointClick_);
     kernel->CreateTrvEvent(Bus::ClickRRPoint.name, this, "", "", nullptr);
-    alternativeClick_.Set<&CVoyCal::onAlternativeClicked>(this);
+    alternativeClick_.Set<&CVoyCal::OnAlternativeClicked>(this);
     kernel->BindTrvEvent(Bus::ClickRRPoint.name, &alternativeClick_);
 }
 
-void* CVoyCal::onCalculate(void* text) {
+void* CVoyCal::OnCalculate(void* text) {
     std::vector<std::string> ids;
     if (text != nullptr) {
         Util::StringUtl::split(*static_cast<const std::string*>(text), ",", ids);
     }
-    calculate(std::move(ids));
+    Calculate(std::move(ids));
     return &result_;
 }
 
-void CVoyCal::reset() {
+void CVoyCal::Reset() {
     ports_.clear();
     ids_.clear();
     change_ = {};
@@ -115,26 +116,26 @@ void CVoyCal::reset() {
     result_ = {};
 }
 
-void CVoyCal::calculate(std::vector<std::string> ids) {
-    reset();
+void CVoyCal::Calculate(std::vector<std::string> ids) {
+    Reset();
     if (ids.size() < 2) {
         return;
     }
     ids_ = std::move(ids);
-    askPorts();
+    AskPorts();
     if (ports_.size() != ids_.size() || !ReadVoyCalReply(reply_, points_, ports_)) {
         ports_.clear();
         ids_.clear();
         return;
     }
     result_.crossesDateLine = MeetsDateLine(ports_) ? 1 : 0;
-    draw();
-    labelPoints();
+    Draw();
+    LabelPoints();
     result_.valid = 1;
 }
 
 /// A port that the chart does not know is left out; the calculation then fails.
-void CVoyCal::askPorts() {
+void CVoyCal::AskPorts() {
     for (const auto& id : ids_) {
         if (const auto* record = Interface::Call(Bus::MapGetPort, &id)) {
             VoyCalPort port;
@@ -144,7 +145,7 @@ void CVoyCal::askPorts() {
     }
 }
 
-void CVoyCal::draw() {
+void CVoyCal::Draw() {
     VoyCalLines lines = LinesOf(ports_);
     extent_ = lines.extent;
     result_.mainLine = VoyCalLine(std::move(lines.main));
@@ -153,20 +154,20 @@ void CVoyCal::draw() {
         result_.eastLine = VoyCalLine(std::move(lines.east));
         Interface::Call(Bus::MapAddLine, &std::as_const(result_.eastLine));
     } else {
-        sendExtent();
+        SendExtent();
     }
 }
 
-void CVoyCal::labelPoints() {
+void CVoyCal::LabelPoints() {
     for (const auto& port : ports_) {
         for (const auto& group : port.groups) {
-            addLabel(group.head, false);
+            AddLabel(group.head, false);
         }
     }
 }
 
 /// The view changes only when something would lie outside it.
-void CVoyCal::sendExtent() {
+void CVoyCal::SendExtent() {
     Interface::TrvMapExtent* current = Interface::Call(Bus::MapGetExtent, nullptr);
     if (current == nullptr) {
         return;
@@ -178,46 +179,46 @@ void CVoyCal::sendExtent() {
     }
 }
 
-void* CVoyCal::onPointClicked(void* id) {
+void* CVoyCal::OnPointClicked(void* id) {
     if (id == nullptr) {
         return nullptr;
     }
     const std::string& clicked = *static_cast<const std::string*>(id);
     if (!selected_.empty()) {
-        clearType(kVoyCalAlternativeType);
+        ClearType(kVoyCalAlternativeType);
     }
-    selected_ = clicked != selected_ && showAlternatives(clicked) ? clicked : "";
+    selected_ = clicked != selected_ && ShowAlternatives(clicked) ? clicked : "";
     return nullptr;
 }
 
-bool CVoyCal::showAlternatives(const std::string& id) {
-    const VoyCalGroup* group = findGroup(ports_, id);
+bool CVoyCal::ShowAlternatives(const std::string& id) {
+    const VoyCalGroup* group = FindGroup(ports_, id);
     if (group == nullptr) {
         return false;
     }
     for (const auto& point : group->alternatives) {
         if (point.id != id) {
-            addLabel(point, true);
+            AddLabel(point, true);
             Widen(extent_, point.x, point.y);
         }
     }
-    sendExtent();
+    SendExtent();
     return true;
 }
 
-void* CVoyCal::onAlternativeClicked(void* id) {
+void* CVoyCal::OnAlternativeClicked(void* id) {
     if (id == nullptr) {
         return nullptr;
     }
-    clearType(kVoyCalAlternativeType);
-    clearType(kVoyCalPointType);
-    clearType(kVoyCalLineType);
-    applyChange(*static_cast<const std::string*>(id));
+    ClearType(kVoyCalAlternativeType);
+    ClearType(kVoyCalPointType);
+    ClearType(kVoyCalLineType);
+    ApplyChange(*static_cast<const std::string*>(id));
     selected_.clear();
     return nullptr;
 }
 
-void CVoyCal::applyChange(const std::string& newId) {
+void CVoyCal::ApplyChange(const std::string& newId) {
     if (newId == selected_) {
         return;
     }
@@ -230,21 +231,21 @@ void CVoyCal::applyChange(const std::string& newId) {
         }
     }
     if (change_.newId == newId) {
-        calculateAgain();
+        CalculateAgain();
     } else {
         change_.port = -1;
     }
 }
 
 /// Asks for the ports alone; the locks stay in the list for the next request.
-void CVoyCal::calculateAgain() {
+void CVoyCal::CalculateAgain() {
     const std::vector<std::string> entries = ids_;
     std::vector<std::string> ids;
     ids.reserve(entries.size());
     for (const auto& entry : entries) {
         ids.push_back(PortIdOfEntry(entry));
     }
-    calculate(std::move(ids));
+    Calculate(std::move(ids));
     if (result_.valid != 0) {
         ids_ = entries;
     }

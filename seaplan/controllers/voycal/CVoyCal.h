@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/controllers/voycal/VoyCalChange.h"
-#include "seaplan/controllers/voycal/VoyCalRecords.h"
+#include <string>
+#include <vector>
 
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 
-#include <string>
-#include <vector>
+#include "seaplan/controllers/voycal/VoyCalChange.h"
+#include "seaplan/controllers/voycal/VoyCalRecords.h"
 
 namespace Tarvik::Seaplan {
 
@@ -38,19 +38,19 @@ class CVoyCal : public Core::TObject {
     static std::string SiteAddress(const std::string& key, const std::string& fallback);
 
   private:
-    void* onCalculate(void* text);
-    void* onPointClicked(void* id);
-    void* onAlternativeClicked(void* id);
-    void bindAll();
-    void reset();
-    void calculate(std::vector<std::string> ids);
-    void askPorts();
-    void draw();
-    void labelPoints();
-    void sendExtent();
-    void applyChange(const std::string& newId);
-    void calculateAgain();
-    bool showAlternatives(const std::string& id);
+    void* OnCalculate(void* text);
+    void* OnPointClicked(void* id);
+    void* OnAlternativeClicked(void* id);
+    void BindAll();
+    void Reset();
+    void Calculate(std::vector<std::string> ids);
+    void AskPorts();
+    void Draw();
+    void LabelPoints();
+    void SendExtent();
+    void ApplyChange(const std::string& newId);
+    void CalculateAgain();
+    bool ShowAlternatives(const std::string& id);
 
     VoyCalPoints points_;
     std::string reply_;

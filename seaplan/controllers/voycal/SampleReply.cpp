@@ -2,6 +2,7 @@
 #include "seaplan/controllers/voycal/SampleReply.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 // clang-format off

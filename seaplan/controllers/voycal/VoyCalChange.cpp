@@ -1,38 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/voycal/VoyCalChange.h"
 
-#include <tarvik/util/StringUtl.h>
-
 #include <algorithm>
 
+#include <tarvik/util/StringUtl.h>
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Groups = std::vector<VoyCalGroup>;
 using Texts = std::vector<std::string>;
 using Util::StringUtl;
 
-Texts splitAt(const std::string& text, const char* separator) {
+Texts SplitAt(const std::string& text, const char* separator) {
     Texts pieces;
     StringUtl::split(text, separator, pieces);
     return pieces;
 }
 
-std::string upTo(const std::string& text, char end) {
+std::string UpTo(const std::string& text, char end) {
     return text.substr(0, text.find(end));
 }
 
 /// Place of a group by its head, -1 for none.
-int indexOfHead(const Groups& groups, const std::string& id) {
+int IndexOfHead(const Groups& groups, const std::string& id) {
     const auto found = std::find_if(groups.begin(), groups.end(),
                                     [&](const VoyCalGroup& group) { return group.head.id == id; });
     return found == groups.end() ? -1 : static_cast<int>(found - groups.begin());
 }
 
 /// Whether a lock "a=b,c" names the point.
-bool names(const std::string& lock, const std::string& id) {
-    for (const auto& side : splitAt(lock, "=")) {
-        const Texts ids = splitAt(side, ",");
+bool Names(const std::string& lock, const std::string& id) {
+    for (const auto& side : SplitAt(lock, "=")) {
+        const Texts ids = SplitAt(side, ",");
         if (std::find(ids.begin(), ids.end(), id) != ids.end()) {
             return true;
         }
@@ -47,24 +48,24 @@ class LockText {
         : groups_(groups),
           change_(change),
           choosing_(choosing),
-          place_(indexOfHead(groups, change.oldId)),
-          newHead_(upTo(change.lock, '=')) {}
+          place_(IndexOfHead(groups, change.oldId)),
+          newHead_(UpTo(change.lock, '=')) {}
 
     bool HasPlace() const { return place_ >= 0; }
 
     void Add(const std::string& lock) {
-        const std::string head = upTo(lock, '=');
-        const int index = indexOfHead(groups_, head);
-        const bool replaced = !choosing_ && names(lock, change_.oldId);
+        const std::string head = UpTo(lock, '=');
+        const int index = IndexOfHead(groups_, head);
+        const bool replaced = !choosing_ && Names(lock, change_.oldId);
         const bool keep = !replaced && head != newHead_;
         if (index < place_ && !replaced) {
             text_ += lock;
         } else if (index == place_ && !written_) {
-            writeNew();
+            WriteNew();
         } else if (index != place_ && written_ && keep) {
             text_ += lock;
         } else if (index != place_ && !written_) {
-            writeNew();
+            WriteNew();
             if (keep) {
                 text_ += "." + lock;
             }
@@ -77,7 +78,7 @@ class LockText {
     /// The whole text without "." at its ends.
     std::string Finish() {
         if (!written_) {
-            writeNew();
+            WriteNew();
         }
         const auto first = text_.find_first_not_of('.');
         const auto last = text_.find_last_not_of('.');
@@ -85,7 +86,7 @@ class LockText {
     }
 
   private:
-    void writeNew() {
+    void WriteNew() {
         text_ += change_.lock;
         written_ = true;
     }
@@ -105,7 +106,7 @@ class LockText {
 std::optional<VoyCalChange> ChangeOf(const std::vector<VoyCalPort>& ports, const std::string& oldId,
                                      const std::string& newId) {
     for (std::size_t i = 0; i < ports.size(); ++i) {
-        const int index = indexOfHead(ports[i].groups, oldId);
+        const int index = IndexOfHead(ports[i].groups, oldId);
         if (index < 0) {
             continue;
         }
@@ -116,7 +117,7 @@ std::optional<VoyCalChange> ChangeOf(const std::vector<VoyCalPort>& ports, const
         const auto& [range, alternatives] = *group.ranges.begin();
         VoyCalChange change{oldId, newId, static_cast<std::int32_t>(i), range, newId};
         change.group.append(";").append(alternatives).append("|").append(group.head.id);
-        change.lock.append("=").append(upTo(change.group, ';'));
+        change.lock.append("=").append(UpTo(change.group, ';'));
         return change;
     }
     return std::nullopt;
@@ -131,14 +132,14 @@ std::optional<std::string> EntryWithLock(const VoyCalPort& port, const VoyCalCha
     if (!text.HasPlace()) {
         return std::nullopt;
     }
-    for (const auto& lock : splitAt(port.lock_rp_id_str, ".")) {
+    for (const auto& lock : SplitAt(port.lock_rp_id_str, ".")) {
         text.Add(lock);
     }
     return head + text.Finish();
 }
 
 std::string PortIdOfEntry(const std::string& entry) {
-    return upTo(entry, '|');
+    return UpTo(entry, '|');
 }
 
 }  // namespace Tarvik::Seaplan

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/controllers/voycal/VoyCalRecords.h"
-
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "seaplan/controllers/voycal/VoyCalRecords.h"
 
 /// Putting an alternative in the place of a route point, in the texts that a request would carry.
 namespace Tarvik::Seaplan {

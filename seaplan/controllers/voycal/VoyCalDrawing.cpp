@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/voycal/VoyCalDrawing.h"
 
-#include <tarvik/util/StringUtl.h>
-
 #include <algorithm>
 #include <iterator>
 #include <utility>
 
+#include <tarvik/util/StringUtl.h>
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr int kLineColour = 0x99FF;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/controllers/voycal/VoyCalRecords.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/controllers/voycal/VoyCalRecords.h"
 
 /// The calculator's lines, labels and view as records of the chart, without the chart.
 namespace Tarvik::Seaplan {

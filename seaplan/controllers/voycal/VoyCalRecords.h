@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/ChartRecords.h>
-
 #include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
+
+#include <tarvik/interface/ChartRecords.h>
 
 /// What the stand-alone calculator holds of a calculation. Degrees, longitude first; distances in km.
 namespace Tarvik::Seaplan {

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/voycal/VoyCalReply.h"
 
-#include "seaplan/calculation/Pointset.h"
+#include <algorithm>
+#include <utility>
 
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/Jsona.h>
 #include <tarvik/util/StringUtl.h>
 
-#include <algorithm>
-#include <utility>
+#include "seaplan/calculation/Pointset.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr double kDateLine = 180.0;
@@ -20,14 +21,14 @@ using Texts = std::vector<std::string>;
 using Util::Jsona;
 using Util::StringUtl;
 
-Texts splitAt(const std::string& text, const char* separator) {
+Texts SplitAt(const std::string& text, const char* separator) {
     Texts pieces;
     StringUtl::split(text, separator, pieces);
     return pieces;
 }
 
 /// Moves a corner at the date line to just beside it. Whether it was there.
-bool moveOffDateLine(VoyCalCorner& corner) {
+bool MoveOffDateLine(VoyCalCorner& corner) {
     if (corner.x == kDateLine) {
         corner.x = kBesideDateLine;
         return true;
@@ -40,12 +41,12 @@ bool moveOffDateLine(VoyCalCorner& corner) {
 }
 
 /// "range;id|id" of a group.
-void readRange(const std::string& item, const VoyCalPoints& points, VoyCalGroup& group) {
-    const Texts parts = splitAt(item, ";");
+void ReadRange(const std::string& item, const VoyCalPoints& points, VoyCalGroup& group) {
+    const Texts parts = SplitAt(item, ";");
     if (parts.size() < 2) {
         return;
     }
-    for (const auto& id : splitAt(parts[1], "|")) {
+    for (const auto& id : SplitAt(parts[1], "|")) {
         if (const auto found = points.find(id); found != points.end()) {
             group.alternatives.push_back(found->second);
         }
@@ -53,7 +54,7 @@ void readRange(const std::string& item, const VoyCalPoints& points, VoyCalGroup&
     group.ranges[parts[0]] = parts[1];
 }
 
-void readRoutes(const Jsona& routes, VoyCalPort& port) {
+void ReadRoutes(const Jsona& routes, VoyCalPort& port) {
     for (int i = 0; i < routes.size(); ++i) {
         const Jsona item = routes.get(i);
         VoyCalRoute route;
@@ -65,7 +66,7 @@ void readRoutes(const Jsona& routes, VoyCalPort& port) {
     }
 }
 
-bool readGroups(const Jsona& texts, const VoyCalPoints& points, VoyCalPort& port) {
+bool ReadGroups(const Jsona& texts, const VoyCalPoints& points, VoyCalPort& port) {
     for (int i = 0; i < texts.size(); ++i) {
         const std::string text = texts.getv(i, "");
         if (text.empty()) {
@@ -80,14 +81,14 @@ bool readGroups(const Jsona& texts, const VoyCalPoints& points, VoyCalPort& port
     return true;
 }
 
-bool readPort(const Jsona& item, const VoyCalPoints& points, VoyCalPort& port) {
+bool ReadPort(const Jsona& item, const VoyCalPoints& points, VoyCalPort& port) {
     if (item.getv("point_cd", "") != port.point.id) {
         return false;
     }
     port.rp_id_str = item.getv("rp_id_str", "");
     port.lock_rp_id_str = item.getv("lock_rp_id_str", "");
-    readRoutes(item.get("routes"), port);
-    return readGroups(item.get("rp_groups"), points, port);
+    ReadRoutes(item.get("routes"), port);
+    return ReadGroups(item.get("rp_groups"), points, port);
 }
 
 }  // namespace
@@ -102,7 +103,7 @@ bool ReadVoyCalReply(const std::string& reply, const VoyCalPoints& points, std::
     for (std::size_t i = 0; i < ports.size(); ++i) {
         VoyCalPort port;
         port.point = ports[i].point;
-        if (!readPort(root.get(static_cast<int>(i)), points, port)) {
+        if (!ReadPort(root.get(static_cast<int>(i)), points, port)) {
             return false;
         }
         filled.push_back(std::move(port));
@@ -112,13 +113,13 @@ bool ReadVoyCalReply(const std::string& reply, const VoyCalPoints& points, std::
 }
 
 void ReadVoyCalRoute(const std::string& pointset, VoyCalRoute& route) {
-    for (const auto& text : splitAt(pointset, "|")) {
+    for (const auto& text : SplitAt(pointset, "|")) {
         Position position;
         if (!ReadPosition(text, 0, position)) {
             continue;
         }
         VoyCalCorner corner{position.x, position.y};
-        const bool marked = moveOffDateLine(corner);
+        const bool marked = MoveOffDateLine(corner);
         if (!route.points.empty()) {
             const VoyCalCorner& before = route.points.back();
             if (before == corner) {
@@ -134,15 +135,15 @@ void ReadVoyCalRoute(const std::string& pointset, VoyCalRoute& route) {
 }
 
 bool ReadVoyCalGroup(const std::string& text, const VoyCalPoints& points, VoyCalGroup& group) {
-    const Texts parts = splitAt(text, "=");
+    const Texts parts = SplitAt(text, "=");
     const auto head = parts.empty() ? points.end() : points.find(parts[0]);
     if (head == points.end()) {
         return false;
     }
     group.head = head->second;
     if (parts.size() > 1) {
-        for (const auto& item : splitAt(parts[1], ".")) {
-            readRange(item, points, group);
+        for (const auto& item : SplitAt(parts[1], ".")) {
+            ReadRange(item, points, group);
         }
     }
     return true;

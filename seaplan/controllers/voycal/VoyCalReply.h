@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/controllers/voycal/VoyCalRecords.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/controllers/voycal/VoyCalRecords.h"
 
 /// Reading the calculator's route reply.
 namespace Tarvik::Seaplan {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/data/VoyInfo.h"
-
-#include "testsupport/ManualClock.h"
+#include <type_traits>
 
 #include <gtest/gtest.h>
 
-#include <type_traits>
+#include "seaplan/data/VoyInfo.h"
+#include "testsupport/ManualClock.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Util::_datetime_t;

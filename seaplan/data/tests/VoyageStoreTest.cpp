@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/data/VoyageStore.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/data/VoyageStore.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 TEST(VoyageStore, ThereIsOneStore) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/util/DateTime.h>
-
 #include <string>
+
+#include <tarvik/util/DateTime.h>
 
 namespace Tarvik::Seaplan {
 

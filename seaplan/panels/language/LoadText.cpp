@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/language/LoadText.h"
 
+#include <array>
+
 #include <tarvik/interface/LoadString.h>
 #include <tarvik/util/StringUtl.h>
-
-#include <array>
 
 namespace Tarvik::Seaplan {
 
@@ -29,7 +29,9 @@ constexpr TableEntry kTable[] = {
 
 const char* TextKeyOf(int number) {
     for (const TableEntry& entry : kTable) {
-        if (entry.number == number) return entry.key;
+        if (entry.number == number) {
+            return entry.key;
+        }
     }
     return nullptr;
 }
@@ -37,12 +39,16 @@ const char* TextKeyOf(int number) {
 bool LoadText(std::string& out, int number, const std::string& fallback) {
     out = fallback;
     const char* key = TextKeyOf(number);
-    if (key == nullptr) return false;
+    if (key == nullptr) {
+        return false;
+    }
     std::array<char16_t, kCapacity> buffer{};
     Interface::TrvLoadString(kSection, kSection, Util::StringUtl::TranslateString(std::string(key)).c_str(),
                              buffer.data(), kMissing, buffer.size());
     const std::u16string text(buffer.data());
-    if (text == kMissing) return false;
+    if (text == kMissing) {
+        return false;
+    }
     out = Util::StringUtl::TranslateString(text);
     return true;
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/TextKeys.h"
-
 #include <string>
+
+#include "seaplan/panels/TextKeys.h"
 
 namespace Tarvik::Seaplan {
 

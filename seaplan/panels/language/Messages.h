@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/TextKeys.h"
-
 #include <string>
+
+#include "seaplan/panels/TextKeys.h"
 
 /// Boxes of the plug-in: level 1, without a title. `owner` is the opaque handle of the window behind the box,
 /// or null.

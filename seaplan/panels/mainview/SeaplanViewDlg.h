@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/mainview/MainViewWindow.h"
-#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include <string>
 
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 
-#include <string>
+#include "seaplan/panels/mainview/MainViewWindow.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 
 namespace Tarvik::Seaplan {
 
@@ -46,11 +46,11 @@ class SeaplanViewDlg final : public Core::TObject {
     void OnSurfacePressed() { p_.tree.HideEditors(); }
 
   private:
-    void* onShowPanel(void* input);
-    void* onSwitchLanguage(void* input);
-    void* onLogout(void* input);
-    void* onAddVessel(void* input);
-    void toggle();
+    void* OnShowPanel(void* input);
+    void* OnSwitchLanguage(void* input);
+    void* OnLogout(void* input);
+    void* OnAddVessel(void* input);
+    void Toggle();
 
     Parts p_;
     bool registered_ = false;

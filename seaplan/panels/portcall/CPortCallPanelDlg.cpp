@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
+
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/language/Messages.h"
 #include "seaplan/panels/portcall/BusyMark.h"
-
-#include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 
 namespace Tarvik::Seaplan {
 
@@ -21,8 +21,8 @@ constexpr const char* kHelpTopic = "func034";
 CPortCallPanelDlg::CPortCallPanelDlg(VoyageStore& store, ScheduleCommands& schedule, PortDictionary ports,
                                      PortCallView& view)
     : store_(store), schedule_(schedule), ports_(std::move(ports)), view_(view) {
-    switchLanguage_.Set<&CPortCallPanelDlg::onSwitchLanguage>(this);
-    resetState();
+    switchLanguage_.Set<&CPortCallPanelDlg::OnSwitchLanguage>(this);
+    ResetState();
 }
 
 CPortCallPanelDlg::~CPortCallPanelDlg() {
@@ -36,88 +36,102 @@ void CPortCallPanelDlg::RegisterHost() {
         Core::TrvKernel::Instance()->BindTrvEvent(Interface::Bus::SwitchLanguage.name, &switchLanguage_);
 }
 
-void* CPortCallPanelDlg::onSwitchLanguage(void*) {
+void* CPortCallPanelDlg::OnSwitchLanguage(void*) {
     ApplyLanguage();
     return nullptr;
 }
 
 void CPortCallPanelDlg::ApplyLanguage() {
     state_.caption = Text(TextId::IDS_PORTCALL_TITLE);
-    setCorrectionPending(aisCorrectionPending_);
+    SetCorrectionPending(aisCorrectionPending_);
     view_.ApplyTexts();
-    showAll();
+    ShowAll();
 }
 
-void CPortCallPanelDlg::showTable() {
+void CPortCallPanelDlg::ShowTable() {
     table_.MarkUnknownPorts([this](const std::string& name) { return ports_.Knows(name); });
     view_.ShowTable(table_);
 }
 
-void CPortCallPanelDlg::showAll() {
-    showTable();
+void CPortCallPanelDlg::ShowAll() {
+    ShowTable();
     view_.ShowState(state_);
 }
 
-void CPortCallPanelDlg::resetState() {
+void CPortCallPanelDlg::ResetState() {
     table_.Reset();
     units_ = UnitSet();
     state_ = PortCallState();
     state_.caption = Text(TextId::IDS_PORTCALL_TITLE);
-    setCorrectionPending(false);
+    SetCorrectionPending(false);
     const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone, nullptr);
-    if (zone != nullptr) state_.zone = *zone;
+    if (zone != nullptr) {
+        state_.zone = *zone;
+    }
 }
 
 void CPortCallPanelDlg::Reset() {
-    askUnsaved();
+    AskUnsaved();
     voyageId_ = nextVoyageId_;
     ClearState();
 }
 
 void CPortCallPanelDlg::ClearState() {
-    hideEditors();
-    resetState();
+    HideEditors();
+    ResetState();
     schedule_.ForgetPortList();
-    showAll();
+    ShowAll();
     view_.BringRowIntoView(0);
     schedule_.ClearChart();
 }
 
-void CPortCallPanelDlg::askUnsaved() {
-    if (!state_.changed) return;
+void CPortCallPanelDlg::AskUnsaved() {
+    if (!state_.changed) {
+        return;
+    }
     view_.SetEnabled(false);
     const bool save = Question(TextId::IDS_PORTCALL_SAVENEXT, view_.Handle());
     view_.SetEnabled(true);
     // The rows in the table are what is saved, so no cell may have changed since.
-    if (save) saveTable(editedVoyageId_, -1);
+    if (save) {
+        SaveTable(editedVoyageId_, -1);
+    }
     state_.changed = false;
 }
 
 int CPortCallPanelDlg::FillForVoyage(int mode) {
     int corrected = 0;
-    if (!nextVoyageId_.empty() && schedule_.GetModAis(nextVoyageId_, corrected) != 0) return -1;
-    if (corrected > 0 && ais_ == nullptr) return -2;
-    if (corrected <= 0) view_.Hide();
-    askUnsaved();
+    if (!nextVoyageId_.empty() && schedule_.GetModAis(nextVoyageId_, corrected) != 0) {
+        return -1;
+    }
+    if (corrected > 0 && ais_ == nullptr) {
+        return -2;
+    }
+    if (corrected <= 0) {
+        view_.Hide();
+    }
+    AskUnsaved();
     voyageId_ = nextVoyageId_;
     if (corrected > 0) {
-        if (fillCorrected() == 0) return 0;
+        if (FillCorrected() == 0) {
+            return 0;
+        }
         // Without a position row the voyage is a plain one again.
         ais_->ClearAisMod(voyageId_);
     }
-    return fill(mode);
+    return Fill(mode);
 }
 
-int CPortCallPanelDlg::fill(int mode) {
+int CPortCallPanelDlg::Fill(int mode) {
     ClearState();
     if (voyageId_.empty()) {
         NoticeText(kNoVoyageText, view_.Handle());
         return -3;
     }
-    return load(mode);
+    return Load(mode);
 }
 
-int CPortCallPanelDlg::load(int mode) {
+int CPortCallPanelDlg::Load(int mode) {
     PortCallRows loaded;
     const bool failed = [&] {
         const BusyMark busy(view_);
@@ -128,12 +142,14 @@ int CPortCallPanelDlg::load(int mode) {
         return 0;
     }
     PortCallRows rows;
-    if (RecomputeSchedule(loaded, rows) != 0 || showRows(rows) != 0) return -4;
+    if (RecomputeSchedule(loaded, rows) != 0 || ShowRows(rows) != 0) {
+        return -4;
+    }
     state_.changed = false;
     state_.canClear = true;
     state_.canOpenBook = true;
     state_.canCalculate = true;
-    showAll();
+    ShowAll();
     return 0;
 }
 
@@ -143,69 +159,83 @@ void CPortCallPanelDlg::ShowBesideTree() {
 }
 
 void CPortCallPanelDlg::HideAfterLogout() {
-    hideEditors();
+    HideEditors();
     view_.Hide();
 }
 
-int CPortCallPanelDlg::showRows(const PortCallRows& standard) {
+int CPortCallPanelDlg::ShowRows(const PortCallRows& standard) {
     PortCallRows shown;
-    if (standard.size() < 2 || FromStandardUnits(standard, units_, shown) != 0) return -1;
-    table_.WriteRows(shown, isCorrected());
+    if (standard.size() < 2 || FromStandardUnits(standard, units_, shown) != 0) {
+        return -1;
+    }
+    table_.WriteRows(shown, IsCorrected());
     table_.WriteTotals(shown);
-    showSummary(standard);
-    showAll();
+    ShowSummary(standard);
+    ShowAll();
     return 0;
 }
 
-void CPortCallPanelDlg::showSummary(const PortCallRows& standard) {
+void CPortCallPanelDlg::ShowSummary(const PortCallRows& standard) {
     ScheduleSummary summary;
-    if (!SummaryOf(standard, summary)) return;
+    if (!SummaryOf(standard, summary)) {
+        return;
+    }
     VoyPortCall figures;
     figures.psp = summary.averageSpeed;
     figures.steamTime = summary.totalTime;
     figures.distance = summary.totalDistance;
     PortCallRows shown;
-    if (FromStandardUnits({figures}, units_, shown) != 0) return;
+    if (FromStandardUnits({figures}, units_, shown) != 0) {
+        return;
+    }
     state_.averageSpeed = OneDecimal(shown[0].psp);
     state_.totalTime = TwoDecimals(shown[0].steamTime);
     state_.totalDistance = OneDecimal(shown[0].distance);
 }
 
-int CPortCallPanelDlg::standardRows(PortCallRows& out) const {
+int CPortCallPanelDlg::StandardRows(PortCallRows& out) const {
     return ToStandardUnits(table_.ReadRows(), units_, out) == 0 ? 0 : -1;
 }
 
-int CPortCallPanelDlg::recompute(const PortCallRows& standard) {
+int CPortCallPanelDlg::Recompute(const PortCallRows& standard) {
     PortCallRows rows;
-    if (RecomputeSchedule(standard, rows) != 0 || showRows(rows) != 0) return -1;
-    markChanged(true);
+    if (RecomputeSchedule(standard, rows) != 0 || ShowRows(rows) != 0) {
+        return -1;
+    }
+    MarkChanged(true);
     return 0;
 }
 
-int CPortCallPanelDlg::placeCount() const {
+int CPortCallPanelDlg::PlaceCount() const {
     PortCallRows rows = table_.ReadAllRows();
-    if (rows.empty()) return 0;
+    if (rows.empty()) {
+        return 0;
+    }
     schedule_.ResolvePortIds(rows);
     int count = 1;
     const VoyPortCall* last = &rows.front();
     for (const VoyPortCall& row : rows) {
-        if (row.ppn == last->ppn || ports_.IsSamePlace(last->ppi, row.ppi)) continue;
+        if (row.ppn == last->ppn || ports_.IsSamePlace(last->ppi, row.ppi)) {
+            continue;
+        }
         ++count;
         last = &row;
     }
     return count;
 }
 
-void CPortCallPanelDlg::updateCalculateButton() {
-    state_.canCalculate = placeCount() >= 2;
+void CPortCallPanelDlg::UpdateCalculateButton() {
+    state_.canCalculate = PlaceCount() >= 2;
     view_.ShowState(state_);
 }
 
-void CPortCallPanelDlg::markChanged(bool on) {
+void CPortCallPanelDlg::MarkChanged(bool on) {
     if (on) {
-        updateCalculateButton();
+        UpdateCalculateButton();
         // A table of one place cannot be saved.
-        if (!state_.canCalculate) return;
+        if (!state_.canCalculate) {
+            return;
+        }
         editedVoyageId_ = voyageId_;
     }
     state_.changed = on;
@@ -225,14 +255,20 @@ int CPortCallPanelDlg::ChangeUnit(UnitKind kind, const std::string& unit) {
     const PortCallRows rows = table_.ReadAllRows();
     name = unit;
     view_.ShowState(state_);
-    if (state_.averageSpeed.empty() || state_.totalDistance.empty() || state_.totalTime.empty()) return -1;
+    if (state_.averageSpeed.empty() || state_.totalDistance.empty() || state_.totalTime.empty()) {
+        return -1;
+    }
     PortCallRows converted;
-    if (ConvertUnitValue(rows, from, unit, converted) != 0) return -2;
-    table_.WriteRows(converted, isCorrected());
+    if (ConvertUnitValue(rows, from, unit, converted) != 0) {
+        return -2;
+    }
+    table_.WriteRows(converted, IsCorrected());
     table_.WriteTotals(converted);
     PortCallRows standard;
-    if (ToStandardUnits(converted, units_, standard) == 0) showSummary(standard);
-    showAll();
+    if (ToStandardUnits(converted, units_, standard) == 0) {
+        ShowSummary(standard);
+    }
+    ShowAll();
     return 0;
 }
 

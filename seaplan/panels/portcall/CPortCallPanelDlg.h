@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <string>
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/TextKeys.h"
@@ -10,12 +16,6 @@
 #include "seaplan/panels/services/AisCommands.h"
 #include "seaplan/panels/services/ScheduleCommands.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
-
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-
-#include <functional>
-#include <string>
 
 namespace Tarvik::Seaplan {
 
@@ -83,49 +83,49 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     const PortCallState& State() const { return state_; }
 
   private:
-    void* onSwitchLanguage(void* input);
-    void askUnsaved();
-    void resetState();
+    void* OnSwitchLanguage(void* input);
+    void AskUnsaved();
+    void ResetState();
     void ClearState();
-    int fill(int mode);
-    int load(int mode);
-    int calculate();
-    int prepare(PortCallRows& rows) const;
-    int savePlain();
-    int saveTable(const std::string& vi, int drawMode);
-    int showRows(const PortCallRows& standard);
-    void showSummary(const PortCallRows& standard);
-    int recompute(const PortCallRows& standard);
-    int standardRows(PortCallRows& out) const;
-    int placeCount() const;
-    void updateCalculateButton();
-    void markChanged(bool on);
-    void commit(CellEditor editor);
-    bool untouched(CellEditor editor, const std::string& text) const;
-    void commitPort(const std::string& typed);
-    void commitSpeed(const std::string& typed);
-    void commitWeather(const std::string& typed);
-    void editFigure(int row, int column, const std::string& text);
-    void openEditor(CellEditor editor, int row);
-    void openNextPort(int row);
-    void openPicker(int row, int column);
-    void moveOn(CellEditor editor, int row);
-    void closePopups();
-    void hideEditors();
-    void hideMatches();
-    void escape(CellEditor editor);
-    void showTable();
-    void editEta(int row, const std::string& text);
-    void editFirstEta(const std::string& text);
-    void editEtd(int row, const std::string& text);
-    bool isCorrected() const;
-    int fillCorrected();
-    int showHistoryAndPlan();
-    void setCorrectionPending(bool pending);
-    int replanAndSave();
-    int calculateCorrected();
-    int applyRowOperation(int result, const PortCallRows& rows);
-    void showAll();
+    int Fill(int mode);
+    int Load(int mode);
+    int Calculate();
+    int Prepare(PortCallRows& rows) const;
+    int SavePlain();
+    int SaveTable(const std::string& vi, int drawMode);
+    int ShowRows(const PortCallRows& standard);
+    void ShowSummary(const PortCallRows& standard);
+    int Recompute(const PortCallRows& standard);
+    int StandardRows(PortCallRows& out) const;
+    int PlaceCount() const;
+    void UpdateCalculateButton();
+    void MarkChanged(bool on);
+    void Commit(CellEditor editor);
+    bool Untouched(CellEditor editor, const std::string& text) const;
+    void CommitPort(const std::string& typed);
+    void CommitSpeed(const std::string& typed);
+    void CommitWeather(const std::string& typed);
+    void EditFigure(int row, int column, const std::string& text);
+    void OpenEditor(CellEditor editor, int row);
+    void OpenNextPort(int row);
+    void OpenPicker(int row, int column);
+    void MoveOn(CellEditor editor, int row);
+    void ClosePopups();
+    void HideEditors();
+    void HideMatches();
+    void Escape(CellEditor editor);
+    void ShowTable();
+    void EditEta(int row, const std::string& text);
+    void EditFirstEta(const std::string& text);
+    void EditEtd(int row, const std::string& text);
+    bool IsCorrected() const;
+    int FillCorrected();
+    int ShowHistoryAndPlan();
+    void SetCorrectionPending(bool pending);
+    int ReplanAndSave();
+    int CalculateCorrected();
+    int ApplyRowOperation(int result, const PortCallRows& rows);
+    void ShowAll();
 
     VoyageStore& store_;
     ScheduleCommands& schedule_;

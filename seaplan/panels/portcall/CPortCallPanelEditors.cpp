@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 /// Editors, lists and the calendar over the cells.
-#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include <utility>
 
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/DateTimeUtl.h>
 
-#include <utility>
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 
 namespace Tarvik::Seaplan {
 
@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kMostMatches = 50;
 
-int columnOf(CellEditor editor) {
+int ColumnOf(CellEditor editor) {
     return editor == CellEditor::Port ? ColPort : editor == CellEditor::Speed ? ColSpeed : ColWeather;
 }
 
@@ -21,69 +21,81 @@ int columnOf(CellEditor editor) {
 
 void CPortCallPanelDlg::OnCellClicked(int row, int column) {
     CommitEditors();
-    if (!table_.IsNumbered(row)) return;
+    if (!table_.IsNumbered(row)) {
+        return;
+    }
     table_.GrowIfLast(row);
-    showTable();
+    ShowTable();
     // The history of a corrected voyage stays as it is.
-    if (isCorrected() && (table_.FindLastAisRow() < 0 || row <= table_.FindLastAisRow())) return;
+    if (IsCorrected() && (table_.FindLastAisRow() < 0 || row <= table_.FindLastAisRow())) {
+        return;
+    }
     switch (column) {
         case ColPort:
-            openEditor(CellEditor::Port, row);
+            OpenEditor(CellEditor::Port, row);
             break;
         case ColPurpose:
             purposeRow_ = row;
             view_.OpenPurposes(row);
             break;
         case ColSpeed:
-            openEditor(CellEditor::Speed, row);
+            OpenEditor(CellEditor::Speed, row);
             break;
         case ColWeather:
-            openEditor(CellEditor::Weather, row);
+            OpenEditor(CellEditor::Weather, row);
             break;
         case ColEta:
         case ColEtd:
-            openPicker(row, column);
+            OpenPicker(row, column);
             break;
         default:
             break;
     }
 }
 
-void CPortCallPanelDlg::openEditor(CellEditor editor, int row) {
-    const std::string& text = table_.Cell(row, columnOf(editor));
+void CPortCallPanelDlg::OpenEditor(CellEditor editor, int row) {
+    const std::string& text = table_.Cell(row, ColumnOf(editor));
     const std::string shown = IsBlankCell(text) ? std::string() : text;
     editorRow_[IndexOf(editor)] = row;
     openedText_[IndexOf(editor)] = shown;
     view_.OpenEditor(editor, row, shown, editor != CellEditor::Port);
-    if (editor == CellEditor::Port) OnPortTyped(shown);
+    if (editor == CellEditor::Port) {
+        OnPortTyped(shown);
+    }
 }
 
-void CPortCallPanelDlg::openPicker(int row, int column) {
-    if (table_.IsBlank(row) || IsBlankCell(table_.Cell(row, ColEta)) || IsBlankCell(table_.Cell(row, ColEtd)))
+void CPortCallPanelDlg::OpenPicker(int row, int column) {
+    if (table_.IsBlank(row) || IsBlankCell(table_.Cell(row, ColEta)) ||
+        IsBlankCell(table_.Cell(row, ColEtd))) {
         return;
+    }
     const auto time = Util::DateTimeUtl::Parse(table_.Cell(row, column));
-    if (!time) return;
+    if (!time) {
+        return;
+    }
     dateRow_ = row;
     dateColumn_ = column == ColEta ? 0 : 1;
     view_.OpenPicker(row, column, *time);
 }
 
-void CPortCallPanelDlg::hideMatches() {
+void CPortCallPanelDlg::HideMatches() {
     view_.HideMatches();
     matchesShown_ = false;
-    if (matchWindow_ != nullptr) view_.HideMatchWindow(matchWindow_);
+    if (matchWindow_ != nullptr) {
+        view_.HideMatchWindow(matchWindow_);
+    }
     matchWindow_ = nullptr;
     lastMatch_.clear();
 }
 
-void CPortCallPanelDlg::closePopups() {
-    hideMatches();
+void CPortCallPanelDlg::ClosePopups() {
+    HideMatches();
     view_.HidePurposes();
     view_.HidePicker();
 }
 
-void CPortCallPanelDlg::hideEditors() {
-    closePopups();
+void CPortCallPanelDlg::HideEditors() {
+    ClosePopups();
     for (const CellEditor editor : {CellEditor::Port, CellEditor::Speed, CellEditor::Weather}) {
         view_.HideEditor(editor);
     }
@@ -91,30 +103,38 @@ void CPortCallPanelDlg::hideEditors() {
 
 void CPortCallPanelDlg::CommitEditors() {
     for (const CellEditor editor : {CellEditor::Port, CellEditor::Speed, CellEditor::Weather}) {
-        if (!view_.EditorVisible(editor)) continue;
-        commit(editor);
+        if (!view_.EditorVisible(editor)) {
+            continue;
+        }
+        Commit(editor);
         view_.HideEditor(editor);
     }
-    closePopups();
-    updateCalculateButton();
+    ClosePopups();
+    UpdateCalculateButton();
 }
 
 void CPortCallPanelDlg::OnPortTyped(const std::string& text) {
-    if (!notifyTyping_) return;
+    if (!notifyTyping_) {
+        return;
+    }
     const Interface::MatchPortQuery query{view_.EditorHandle(CellEditor::Port), view_.Handle(), text,
                                           std::exchange(textRemains_, false)};
     void* window = Interface::Call(Interface::Bus::MatchPorts, &query);
     if (window != nullptr) {
         matchWindow_ = window;
         lastMatch_.clear();
-        return text.empty() ? hideMatches() : view_.ShowMatchWindow(window);
+        return text.empty() ? HideMatches() : view_.ShowMatchWindow(window);
     }
-    hideMatches();
-    if (text.empty()) return;
+    HideMatches();
+    if (text.empty()) {
+        return;
+    }
     // Without the search plug-in the panel offers the ports that it knows itself.
     const std::vector<std::string> names = ports_.Match(text, kMostMatches);
     matchesShown_ = !names.empty() && names != std::vector<std::string>{text};
-    if (matchesShown_) view_.ShowMatches(names);
+    if (matchesShown_) {
+        view_.ShowMatches(names);
+    }
 }
 
 void CPortCallPanelDlg::OnPortBackspace() {
@@ -122,7 +142,9 @@ void CPortCallPanelDlg::OnPortBackspace() {
 }
 
 void CPortCallPanelDlg::OnMatchMoved(const std::string& name, bool fieldHasFocus) {
-    if (!view_.EditorVisible(CellEditor::Port) || fieldHasFocus) return;
+    if (!view_.EditorVisible(CellEditor::Port) || fieldHasFocus) {
+        return;
+    }
     notifyTyping_ = false;
     view_.SetEditorText(CellEditor::Port, name);
     lastMatch_ = name;
@@ -130,64 +152,84 @@ void CPortCallPanelDlg::OnMatchMoved(const std::string& name, bool fieldHasFocus
 }
 
 void CPortCallPanelDlg::OnMatchChosen() {
-    if (!view_.EditorVisible(CellEditor::Port) || lastMatch_.empty()) return;
+    if (!view_.EditorVisible(CellEditor::Port) || lastMatch_.empty()) {
+        return;
+    }
     const std::string name = lastMatch_;
-    hideMatches();
-    commitPort(name);
+    HideMatches();
+    CommitPort(name);
     view_.HideEditor(CellEditor::Port);
 }
 
-void CPortCallPanelDlg::escape(CellEditor editor) {
-    if (matchesShown_ || matchWindow_ != nullptr) return hideMatches();
+void CPortCallPanelDlg::Escape(CellEditor editor) {
+    if (matchesShown_ || matchWindow_ != nullptr) {
+        return HideMatches();
+    }
     const int row = editorRow_[IndexOf(editor)];
-    if (!table_.IsNumbered(row)) return;
+    if (!table_.IsNumbered(row)) {
+        return;
+    }
     // What was typed stays; only an editor without a change closes.
-    const std::string& cell = table_.Cell(row, columnOf(editor));
+    const std::string& cell = table_.Cell(row, ColumnOf(editor));
     const std::string text = view_.EditorText(editor);
-    if (text == cell || (text.empty() && IsBlankCell(cell))) view_.HideEditor(editor);
+    if (text == cell || (text.empty() && IsBlankCell(cell))) {
+        view_.HideEditor(editor);
+    }
 }
 
 void CPortCallPanelDlg::OnEditorKey(CellEditor editor, EditorKey key) {
-    if (key == EditorKey::Escape) return escape(editor);
+    if (key == EditorKey::Escape) {
+        return Escape(editor);
+    }
     const int row = editorRow_[IndexOf(editor)];
     const bool empty = view_.EditorText(editor).empty();
-    commit(editor);
+    Commit(editor);
     if (editor == CellEditor::Port) {
-        hideMatches();
-        if (empty) return;
+        HideMatches();
+        if (empty) {
+            return;
+        }
     }
     view_.HideEditor(editor);
-    if (key == EditorKey::Enter && editor == CellEditor::Speed) return;
-    if (key == EditorKey::Enter && editor == CellEditor::Port) return openNextPort(row);
-    moveOn(editor, row);
+    if (key == EditorKey::Enter && editor == CellEditor::Speed) {
+        return;
+    }
+    if (key == EditorKey::Enter && editor == CellEditor::Port) {
+        return OpenNextPort(row);
+    }
+    MoveOn(editor, row);
 }
 
-void CPortCallPanelDlg::moveOn(CellEditor editor, int row) {
+void CPortCallPanelDlg::MoveOn(CellEditor editor, int row) {
     switch (editor) {
         case CellEditor::Port:
-            return row == 0 ? openNextPort(row) : openEditor(CellEditor::Speed, row);
+            return row == 0 ? OpenNextPort(row) : OpenEditor(CellEditor::Speed, row);
         case CellEditor::Speed:
-            return openEditor(CellEditor::Weather, row);
+            return OpenEditor(CellEditor::Weather, row);
         case CellEditor::Weather:
-            return openNextPort(row);
+            return OpenNextPort(row);
     }
 }
 
-void CPortCallPanelDlg::openNextPort(int row) {
+void CPortCallPanelDlg::OpenNextPort(int row) {
     const int next = row + 1;
-    if (!table_.IsNumbered(next)) return;
+    if (!table_.IsNumbered(next)) {
+        return;
+    }
     table_.GrowIfLast(next);
-    showTable();
+    ShowTable();
     view_.BringRowIntoView(next);
     // Text that the panel sets asks for no matches.
     notifyTyping_ = false;
-    openEditor(CellEditor::Port, next);
+    OpenEditor(CellEditor::Port, next);
     notifyTyping_ = true;
 }
 
 void CPortCallPanelDlg::OnEditorFocusLost(CellEditor editor) {
     // The focus may have gone from the port editor to its match list.
-    if (editor != CellEditor::Port) CommitEditors();
+    if (editor != CellEditor::Port) {
+        CommitEditors();
+    }
 }
 
 void CPortCallPanelDlg::OnTableLeft() {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 /// What an edit of a cell starts.
+#include <tarvik/util/StringUtl.h>
+
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/Messages.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/PurposeList.h"
-
-#include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
 
@@ -20,31 +20,37 @@ constexpr double kLeastLegSpeed = 0.0001;
 }  // namespace
 
 /// An editor that was only looked into changes nothing; a blank cell takes its default all the same.
-bool CPortCallPanelDlg::untouched(CellEditor editor, const std::string& text) const {
+bool CPortCallPanelDlg::Untouched(CellEditor editor, const std::string& text) const {
     return !text.empty() && text == openedText_[IndexOf(editor)];
 }
 
-void CPortCallPanelDlg::commit(CellEditor editor) {
+void CPortCallPanelDlg::Commit(CellEditor editor) {
     const std::string text = view_.EditorText(editor);
-    if (untouched(editor, text)) return;
+    if (Untouched(editor, text)) {
+        return;
+    }
     switch (editor) {
         case CellEditor::Port:
-            commitPort(text);
+            CommitPort(text);
             break;
         case CellEditor::Speed:
-            commitSpeed(text);
+            CommitSpeed(text);
             break;
         case CellEditor::Weather:
-            commitWeather(text);
+            CommitWeather(text);
             break;
     }
 }
 
-void CPortCallPanelDlg::commitPort(const std::string& typed) {
+void CPortCallPanelDlg::CommitPort(const std::string& typed) {
     const int row = editorRow_[IndexOf(CellEditor::Port)];
-    if (typed.empty() || !table_.IsNumbered(row)) return;
+    if (typed.empty() || !table_.IsNumbered(row)) {
+        return;
+    }
     const std::string name = ports_.NameOf(typed);
-    if (name.empty()) return;
+    if (name.empty()) {
+        return;
+    }
     table_.SetCell(row, ColPort, name);
     if (row == 0) {
         table_.SetCell(row, ColSpeed, "0.00");
@@ -52,23 +58,29 @@ void CPortCallPanelDlg::commitPort(const std::string& typed) {
         table_.SetCell(row, ColPortTime, "0.00");
     }
     table_.ClearTotals();
-    showTable();
-    markChanged(true);
+    ShowTable();
+    MarkChanged(true);
 }
 
-void CPortCallPanelDlg::commitSpeed(const std::string& typed) {
+void CPortCallPanelDlg::CommitSpeed(const std::string& typed) {
     const int row = editorRow_[IndexOf(CellEditor::Speed)];
-    if (!table_.IsNumbered(row) || table_.IsBlank(row)) return;
+    if (!table_.IsNumbered(row) || table_.IsBlank(row)) {
+        return;
+    }
     const std::string& old = table_.Cell(row, ColSpeed);
     std::string text = IsBlankCell(old) ? "10.0" : old;
     const double speed = Util::StringUtl::ToDouble(typed);
-    if (speed >= kLeastSpeed) text = SpeedText(speed);
-    editFigure(row, ColSpeed, text);
+    if (speed >= kLeastSpeed) {
+        text = SpeedText(speed);
+    }
+    EditFigure(row, ColSpeed, text);
 }
 
-void CPortCallPanelDlg::commitWeather(const std::string& typed) {
+void CPortCallPanelDlg::CommitWeather(const std::string& typed) {
     const int row = editorRow_[IndexOf(CellEditor::Weather)];
-    if (!table_.IsNumbered(row) || table_.IsBlank(row)) return;
+    if (!table_.IsNumbered(row) || table_.IsBlank(row)) {
+        return;
+    }
     const std::string& old = table_.Cell(row, ColWeather);
     std::string text = IsBlankCell(old) ? "0%" : old;
     const double percent = Util::StringUtl::ToDouble(typed);
@@ -79,105 +91,141 @@ void CPortCallPanelDlg::commitWeather(const std::string& typed) {
     } else if (percent >= kLeast && percent <= kMost) {
         text = Util::StringUtl::Format("%.0f%%", percent);
     }
-    editFigure(row, ColWeather, text);
+    EditFigure(row, ColWeather, text);
 }
 
-void CPortCallPanelDlg::editFigure(int row, int column, const std::string& text) {
+void CPortCallPanelDlg::EditFigure(int row, int column, const std::string& text) {
     table_.SetCell(row, column, text);
-    showTable();
+    ShowTable();
     PortCallRows rows;
-    if (standardRows(rows) == 0) recompute(rows);
+    if (StandardRows(rows) == 0) {
+        Recompute(rows);
+    }
 }
 
 void CPortCallPanelDlg::OnPurposeChosen(int index) {
     const char* code = PurposeCode(index);
-    if (code == nullptr) return;
+    if (code == nullptr) {
+        return;
+    }
     view_.HidePurposes();
-    if (!table_.IsNumbered(purposeRow_) || table_.IsBlank(purposeRow_)) return;
+    if (!table_.IsNumbered(purposeRow_) || table_.IsBlank(purposeRow_)) {
+        return;
+    }
     table_.SetCell(purposeRow_, ColPurpose, code);
-    showTable();
-    markChanged(true);
+    ShowTable();
+    MarkChanged(true);
 }
 
 void CPortCallPanelDlg::OnTimeChosen(const std::string& text) {
     if (text.size() == kTimeTextLength && table_.IsNumbered(dateRow_)) {
         if (dateColumn_ == 1) {
-            editEtd(dateRow_, text);
+            EditEtd(dateRow_, text);
         } else if (dateRow_ == 0) {
-            editFirstEta(text);
+            EditFirstEta(text);
         } else {
-            editEta(dateRow_, text);
+            EditEta(dateRow_, text);
         }
     }
     view_.HidePicker();
 }
 
-void CPortCallPanelDlg::editFirstEta(const std::string& text) {
+void CPortCallPanelDlg::EditFirstEta(const std::string& text) {
     table_.SetCell(0, ColEta, text);
     table_.SetCell(0, ColEtd, text);
-    showTable();
+    ShowTable();
     PortCallRows rows;
-    if (standardRows(rows) != 0) return;
+    if (StandardRows(rows) != 0) {
+        return;
+    }
     // A new time of departure wipes the stay at the first port.
     rows.front().apt = 0;
-    recompute(rows);
+    Recompute(rows);
 }
 
-void CPortCallPanelDlg::editEta(int row, const std::string& text) {
+void CPortCallPanelDlg::EditEta(int row, const std::string& text) {
     float hours = 0;
-    if (HoursBetween(text, table_.Cell(row - 1, ColEtd), hours) != 0) return;
-    if (hours < kLeastLegHours) return Notice(TextId::IDS_PORTCALL_ERRETA, view_.Handle());
+    if (HoursBetween(text, table_.Cell(row - 1, ColEtd), hours) != 0) {
+        return;
+    }
+    if (hours < kLeastLegHours) {
+        return Notice(TextId::IDS_PORTCALL_ERRETA, view_.Handle());
+    }
     table_.SetCell(row, ColEta, text);
-    showTable();
+    ShowTable();
     PortCallRows rows;
-    if (standardRows(rows) != 0) return;
+    if (StandardRows(rows) != 0) {
+        return;
+    }
     VoyPortCall& call = rows[table_.CompactIndex(row)];
     // Distance and weather stay, so the speed gives way.
     const double speed = static_cast<double>(call.distance) / ((1 - static_cast<double>(call.pw)) * hours);
-    if (!(speed >= kLeastLegSpeed)) return;
+    if (!(speed >= kLeastLegSpeed)) {
+        return;
+    }
     call.psp = static_cast<float>(speed);
-    recompute(rows);
+    Recompute(rows);
 }
 
-void CPortCallPanelDlg::editEtd(int row, const std::string& text) {
+void CPortCallPanelDlg::EditEtd(int row, const std::string& text) {
     float hours = 0;
-    if (HoursBetween(text, table_.Cell(row, ColEta), hours) != 0) return;
-    if (hours < kEarliestDeparture) return Notice(TextId::IDS_PORTCALL_ERRETD, view_.Handle());
+    if (HoursBetween(text, table_.Cell(row, ColEta), hours) != 0) {
+        return;
+    }
+    if (hours < kEarliestDeparture) {
+        return Notice(TextId::IDS_PORTCALL_ERRETD, view_.Handle());
+    }
     table_.SetCell(row, ColEtd, text);
-    showTable();
+    ShowTable();
     PortCallRows rows;
-    if (standardRows(rows) != 0) return;
+    if (StandardRows(rows) != 0) {
+        return;
+    }
     rows[table_.CompactIndex(row)].apt = hours;
-    recompute(rows);
+    Recompute(rows);
 }
 
-int CPortCallPanelDlg::applyRowOperation(int result, const PortCallRows& rows) {
-    if (result != 0) return result;
-    table_.WritePartial(rows, isCorrected());
-    showTable();
-    markChanged(true);
+int CPortCallPanelDlg::ApplyRowOperation(int result, const PortCallRows& rows) {
+    if (result != 0) {
+        return result;
+    }
+    table_.WritePartial(rows, IsCorrected());
+    ShowTable();
+    MarkChanged(true);
     return 0;
 }
 
 int CPortCallPanelDlg::OnItemImage(int row, const std::string& name) {
     CommitEditors();
-    if (!table_.IsNumbered(row) || table_.IsBlank(row)) return -1;
+    if (!table_.IsNumbered(row) || table_.IsBlank(row)) {
+        return -1;
+    }
     int corrected = 0;
-    if (schedule_.GetModAis(voyageId_, corrected) != 0) return -2;
+    if (schedule_.GetModAis(voyageId_, corrected) != 0) {
+        return -2;
+    }
     const int lastAisRow = table_.FindLastAisRow();
-    if (corrected > 0 && lastAisRow < 0) return -2;
+    if (corrected > 0 && lastAisRow < 0) {
+        return -2;
+    }
     const PortCallRows rows = table_.ReadAllRows();
     PortCallRows moved;
     int result = -3;
-    if (name == "itemMoveUp" && corrected > 0 && row - 1 == lastAisRow) return 0;
+    if (name == "itemMoveUp" && corrected > 0 && row - 1 == lastAisRow) {
+        return 0;
+    }
     if (name == "itemMoveUp") {
-        result = applyRowOperation(schedule_.MoveRowUp(rows, row, moved), moved);
-        if (result == 0) view_.SelectRow(row - 1);
+        result = ApplyRowOperation(schedule_.MoveRowUp(rows, row, moved), moved);
+        if (result == 0) {
+            view_.SelectRow(row - 1);
+        }
     } else if (name == "itemMovedown") {
-        result = applyRowOperation(schedule_.MoveRowDown(rows, row, moved), moved);
-        if (result == 0 && !table_.IsBlank(row + 1)) view_.SelectRow(row + 1);
+        result = ApplyRowOperation(schedule_.MoveRowDown(rows, row, moved), moved);
+        if (result == 0 && !table_.IsBlank(row + 1)) {
+            view_.SelectRow(row + 1);
+        }
     } else if (name == "itemdel") {
-        result = applyRowOperation(schedule_.DeleteRow(rows, row, moved), moved);
+        result = ApplyRowOperation(schedule_.DeleteRow(rows, row, moved), moved);
     }
     CommitEditors();
     return result;

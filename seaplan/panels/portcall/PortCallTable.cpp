@@ -7,7 +7,7 @@ namespace {
 
 constexpr const char* kTotalsLabel = "RES";
 
-TableRow makeRow(const std::string& label, RowClass look) {
+TableRow MakeRow(const std::string& label, RowClass look) {
     TableRow row;
     row.cells.fill(kBlankCell);
     row.cells[ColOrder] = label;
@@ -17,16 +17,20 @@ TableRow makeRow(const std::string& label, RowClass look) {
 
 }  // namespace
 
-void PortCallTable::rebuild(int numbered, bool closing) {
+void PortCallTable::Rebuild(int numbered, bool closing) {
     rows_.clear();
     rowCount_ = numbered;
-    for (int i = 0; i < numbered; ++i) rows_.push_back(makeRow(std::to_string(i + 1), RowClass::Normal));
-    rows_.push_back(makeRow(kTotalsLabel, RowClass::Normal));
-    if (closing) rows_.push_back(makeRow(kBlankCell, RowClass::Disabled));
+    for (int i = 0; i < numbered; ++i) {
+        rows_.push_back(MakeRow(std::to_string(i + 1), RowClass::Normal));
+    }
+    rows_.push_back(MakeRow(kTotalsLabel, RowClass::Normal));
+    if (closing) {
+        rows_.push_back(MakeRow(kBlankCell, RowClass::Disabled));
+    }
 }
 
 void PortCallTable::Reset() {
-    rebuild(kFirstRows, true);
+    Rebuild(kFirstRows, true);
 }
 
 PortCallRows PortCallTable::ReadRows() const {
@@ -36,20 +40,26 @@ PortCallRows PortCallTable::ReadRows() const {
 PortCallRows PortCallTable::ReadAllRows() const {
     PortCallRows out;
     for (int row = 0; row < rowCount_; ++row) {
-        if (!IsBlank(row)) out.push_back(ReadRow(row));
+        if (!IsBlank(row)) {
+            out.push_back(ReadRow(row));
+        }
     }
     return out;
 }
 
 int PortCallTable::CompactIndex(int row) const {
     int index = 0;
-    for (int i = 0; i < row; ++i) index += IsBlank(i) ? 0 : 1;
+    for (int i = 0; i < row; ++i) {
+        index += IsBlank(i) ? 0 : 1;
+    }
     return index;
 }
 
 void PortCallTable::ClearCells() {
     for (TableRow& row : rows_) {
-        for (int column = ColPort; column < PortCallColumnCount; ++column) row.cells[column] = kBlankCell;
+        for (int column = ColPort; column < PortCallColumnCount; ++column) {
+            row.cells[column] = kBlankCell;
+        }
     }
 }
 
@@ -57,31 +67,42 @@ int PortCallTable::FindLastAisRow() const {
     for (int row = rowCount_ - 1; row >= 0; --row) {
         const std::string& distance = Cell(row, ColDistance);
         const bool moved = !IsBlankCell(distance) && distance != "0.00";
-        if (!IsBlank(row) && IsBlankCell(Cell(row, ColPurpose)) && moved) return row;
+        if (!IsBlank(row) && IsBlankCell(Cell(row, ColPurpose)) && moved) {
+            return row;
+        }
     }
     return -1;
 }
 
 bool PortCallTable::ReadRowsSplit(PortCallRows& before, PortCallRows& after) const {
     const int last = FindLastAisRow();
-    if (last < 0) return false;
+    if (last < 0) {
+        return false;
+    }
     for (int row = 0; row < rowCount_; ++row) {
-        if (!IsBlank(row)) (row <= last ? before : after).push_back(ReadRow(row));
+        if (!IsBlank(row)) {
+            (row <= last ? before : after).push_back(ReadRow(row));
+        }
     }
     return true;
 }
 
 void PortCallTable::WriteRows(const PortCallRows& rows, bool corrected) {
     constexpr std::size_t kMostWithoutRebuild = 5;
-    if (!corrected && rows.size() > kMostWithoutRebuild) rebuild(static_cast<int>(rows.size()) + 1, false);
+    if (!corrected && rows.size() > kMostWithoutRebuild) {
+        Rebuild(static_cast<int>(rows.size()) + 1, false);
+    }
     ClearCells();
-    for (int i = 0; i < static_cast<int>(rows.size()) && i < rowCount_; ++i) WriteRow(i, rows[i]);
+    for (int i = 0; i < static_cast<int>(rows.size()) && i < rowCount_; ++i) {
+        WriteRow(i, rows[i]);
+    }
 }
 
-void PortCallTable::writeEntered(int row, const VoyPortCall& value) {
+void PortCallTable::WriteEntered(int row, const VoyPortCall& value) {
     const CellTexts cells = RowToCells(row, value);
-    for (const int column : {ColPort, ColPurpose, ColWeather, ColPortTime})
+    for (const int column : {ColPort, ColPurpose, ColWeather, ColPortTime}) {
         SetCell(row, column, cells[column]);
+    }
     SetCell(row, ColSpeed, SpeedText(value.psp));
 }
 
@@ -90,30 +111,36 @@ void PortCallTable::WritePartial(const PortCallRows& rows, bool corrected) {
     ClearCells();
     int pivot = -1;
     for (int i = 0; corrected && i < static_cast<int>(rows.size()); ++i) {
-        if (rows[i].pp == kBlankCell && rows[i].distance > kNoDistance) pivot = i;
+        if (rows[i].pp == kBlankCell && rows[i].distance > kNoDistance) {
+            pivot = i;
+        }
     }
     for (int i = 0; i < static_cast<int>(rows.size()) && i < rowCount_; ++i) {
         if (i <= pivot) {
             WriteRow(i, rows[i]);
         } else {
-            writeEntered(i, rows[i]);
+            WriteEntered(i, rows[i]);
         }
     }
 }
 
 void PortCallTable::ShowHistoryAndPlan(const PortCallRows& rows, std::size_t history) {
     const int filled = static_cast<int>(rows.size());
-    rebuild(filled < kFirstRows ? kFirstRows : filled + 1, true);
+    Rebuild(filled < kFirstRows ? kFirstRows : filled + 1, true);
     for (int i = 0; i < filled; ++i) {
         WriteRow(i, rows[i]);
-        if (i >= static_cast<int>(history)) continue;
+        if (i >= static_cast<int>(history)) {
+            continue;
+        }
         rows_[i].look = rows[i].pp == kBlankCell ? RowClass::Highlighted : RowClass::Disabled;
     }
 }
 
 void PortCallTable::WriteTotals(const PortCallRows& rows) {
     ScheduleTotals totals;
-    if (!TotalsOf(rows, totals)) return;
+    if (!TotalsOf(rows, totals)) {
+        return;
+    }
     SetCell(rowCount_, ColSteamTime, OneDecimal(totals.steamTime));
     SetCell(rowCount_, ColPortTime, TwoDecimals(totals.portTime));
     SetCell(rowCount_, ColEta, totals.eta.fmt(kTimeFormat));
@@ -122,12 +149,15 @@ void PortCallTable::WriteTotals(const PortCallRows& rows) {
 }
 
 void PortCallTable::ClearTotals() {
-    for (int column = ColSteamTime; column < PortCallColumnCount; ++column)
+    for (int column = ColSteamTime; column < PortCallColumnCount; ++column) {
         SetCell(rowCount_, column, kBlankCell);
+    }
 }
 
 RowActions PortCallTable::ActionsOf(int row) const {
-    if (!IsNumbered(row) || IsBlank(row)) return {};
+    if (!IsNumbered(row) || IsBlank(row)) {
+        return {};
+    }
     // A row operation takes the row's place in the table as a place among the rows with a port.
     const int filled = CompactIndex(rowCount_);
     // No port moves above the ship's position.
@@ -144,8 +174,10 @@ void PortCallTable::MarkUnknownPorts(const std::function<bool(const std::string&
 }
 
 void PortCallTable::GrowIfLast(int row) {
-    if (row != rowCount_ - 1) return;
-    rows_.insert(rows_.begin() + rowCount_, makeRow(std::to_string(rowCount_ + 1), RowClass::Normal));
+    if (row != rowCount_ - 1) {
+        return;
+    }
+    rows_.insert(rows_.begin() + rowCount_, MakeRow(std::to_string(rowCount_ + 1), RowClass::Normal));
     ++rowCount_;
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/calculation/NumberForms.h"
-#include "seaplan/calculation/Schedule.h"
-
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/Schedule.h"
 
 namespace Tarvik::Seaplan {
 
@@ -76,8 +76,8 @@ class PortCallTable {
     void GrowIfLast(int row);
 
   private:
-    void rebuild(int numbered, bool closing);
-    void writeEntered(int row, const VoyPortCall& value);
+    void Rebuild(int numbered, bool closing);
+    void WriteEntered(int row, const VoyPortCall& value);
 
     int rowCount_ = 0;
     std::vector<TableRow> rows_;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/portcall/PortCallTable.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/panels/portcall/PortCallTable.h"
 
 namespace Tarvik::Seaplan {
 

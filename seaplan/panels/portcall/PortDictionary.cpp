@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/PortDictionary.h"
 
-#include "seaplan/calculation/PointTables.h"
+#include <algorithm>
+#include <utility>
 
 #include <tarvik/interface/ValueDictionary.h>
 
-#include <algorithm>
-#include <utility>
+#include "seaplan/calculation/PointTables.h"
 
 namespace Tarvik::Seaplan {
 
@@ -14,15 +14,17 @@ namespace {
 
 constexpr int kEnglish = 1033;
 
-std::string fold(const std::string& text) {
+std::string Fold(const std::string& text) {
     std::string out = text;
     for (char& c : out) {
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+        if (c >= 'a' && c <= 'z') {
+            c = static_cast<char>(c - 'a' + 'A');
+        }
     }
     return out;
 }
 
-bool isLocal(const std::string& text) {
+bool IsLocal(const std::string& text) {
     return !text.empty() && (static_cast<unsigned char>(text[0]) & 0x80U) != 0;
 }
 
@@ -32,7 +34,7 @@ PortDictionary::PortDictionary(std::vector<std::string> names, std::map<std::str
                                std::map<std::string, std::string> samePort)
     : byLocal_(std::move(byLocal)), samePort_(std::move(samePort)) {
     for (std::string& name : names) {
-        std::string folded = fold(name);
+        std::string folded = Fold(name);
         names_.emplace_back(std::move(folded), std::move(name));
     }
     std::sort(names_.begin(), names_.end());
@@ -51,40 +53,50 @@ PortDictionary PortDictionary::FromDatabase() {
     // The table is asked for the places only: the host's dictionary has the names.
     for (const auto& [id, port] : ports) {
         std::string name = Interface::GetValueByName("/points", id, kEnglish);
-        if (!name.empty()) names.push_back(std::move(name));
+        if (!name.empty()) {
+            names.push_back(std::move(name));
+        }
     }
     return {std::move(names), std::move(byLocal), std::move(samePort)};
 }
 
 std::string PortDictionary::NameOf(const std::string& typed) const {
-    if (isLocal(typed)) {
+    if (IsLocal(typed)) {
         const auto local = byLocal_.find(typed);
         return local == byLocal_.end() ? std::string() : local->second;
     }
-    if (Knows(typed)) return typed;
-    const std::string key = fold(typed);
+    if (Knows(typed)) {
+        return typed;
+    }
+    const std::string key = Fold(typed);
     const auto it = std::lower_bound(names_.begin(), names_.end(), std::pair(key, std::string()));
     return it == names_.end() || it->first != key ? typed : it->second;
 }
 
 bool PortDictionary::Knows(const std::string& name) const {
-    return names_.empty() || std::binary_search(names_.begin(), names_.end(), std::pair(fold(name), name));
+    return names_.empty() || std::binary_search(names_.begin(), names_.end(), std::pair(Fold(name), name));
 }
 
 std::vector<std::string> PortDictionary::Match(const std::string& typed, std::size_t limit) const {
     std::vector<std::string> out;
-    if (typed.empty()) return out;
-    if (isLocal(typed)) {
+    if (typed.empty()) {
+        return out;
+    }
+    if (IsLocal(typed)) {
         for (auto it = byLocal_.lower_bound(typed); it != byLocal_.end() && out.size() < limit; ++it) {
-            if (it->first.compare(0, typed.size(), typed) != 0) break;
+            if (it->first.compare(0, typed.size(), typed) != 0) {
+                break;
+            }
             out.push_back(it->second);
         }
         return out;
     }
-    const std::string key = fold(typed);
+    const std::string key = Fold(typed);
     for (auto it = std::lower_bound(names_.begin(), names_.end(), std::pair(key, std::string()));
          it != names_.end() && out.size() < limit; ++it) {
-        if (it->first.compare(0, key.size(), key) != 0) break;
+        if (it->first.compare(0, key.size(), key) != 0) {
+            break;
+        }
         out.push_back(it->second);
     }
     return out;

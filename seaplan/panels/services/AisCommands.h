@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyPortCall.h"
-
 #include <string>
+
+#include "seaplan/data/VoyPortCall.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/datetime/CalendarModel.h"
-
-#include "testsupport/ManualClock.h"
-
 #include <gtest/gtest.h>
+
+#include "seaplan/panels/datetime/CalendarModel.h"
+#include "testsupport/ManualClock.h"
 
 namespace Tarvik::Seaplan {
 

@@ -58,7 +58,9 @@ TEST_F(CorrectedPanelTest, HistoryAndPlanStandInOneTable) {
 }
 
 TEST_F(CorrectedPanelTest, ManyRowsEndWithOneFreeRowAndTheClosingRow) {
-    for (int i = 0; i < 5; ++i) ais.after.push_back(call("ROUEN", "D", 10, 5 + i));
+    for (int i = 0; i < 5; ++i) {
+        ais.after.push_back(call("ROUEN", "D", 10, 5 + i));
+    }
     Open("20");
     EXPECT_EQ(view.table.RowCount(), 10);
     EXPECT_EQ(Cell(9, ColPort), " ");

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/VoyageStore.h"
-#include "seaplan/panels/services/AisCommands.h"
-
 #include <set>
 #include <string>
 #include <vector>
+
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/panels/services/AisCommands.h"
 
 namespace Tarvik::Seaplan {
 
@@ -26,7 +26,9 @@ class FakeAis final : public AisCommands {
         return done("ApplyAisPosition", vi);
     }
     int SplitAisRows(const std::string& vi, PortCallRows& history, PortCallRows& plan) override {
-        if (done("SplitAisRows", vi) != 0) return -5;
+        if (done("SplitAisRows", vi) != 0) {
+            return -5;
+        }
         history = before;
         plan = after;
         return 0;

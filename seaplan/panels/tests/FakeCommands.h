@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/calculation/Schedule.h"
-#include "seaplan/data/VoyageStore.h"
-#include "seaplan/panels/services/CatalogCommands.h"
-#include "seaplan/panels/services/ScheduleCommands.h"
-
 #include <algorithm>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
+
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/panels/services/CatalogCommands.h"
+#include "seaplan/panels/services/ScheduleCommands.h"
 
 namespace Tarvik::Seaplan {
 
@@ -29,7 +29,9 @@ class FakeCatalog final : public CatalogCommands {
         return done("Connect", "");
     }
     int Load(const std::string&) override {
-        if (done("Load", "") != 0) return -1;
+        if (done("Load", "") != 0) {
+            return -1;
+        }
         if (store_.categories.empty()) {
             store_.categories = onServer.categories;
             store_.voyages = onServer.voyages;
@@ -42,27 +44,38 @@ class FakeCatalog final : public CatalogCommands {
                                const std::map<std::string, int>& names) const override {
         for (int n = 0;; ++n) {
             const std::string name = base + " - " + std::to_string(n);
-            if (!names.contains(name)) return name;
+            if (!names.contains(name)) {
+                return name;
+            }
         }
     }
     void GetNameMaps(std::map<std::string, int>& categories,
                      std::map<std::string, int>& voyages) const override {
-        if (!categories.empty()) return;
-        for (const auto& [ci, category] : store_.categories)
+        if (!categories.empty()) {
+            return;
+        }
+        for (const auto& [ci, category] : store_.categories) {
             categories[category.cn] = store_.categoryStates.at(ci);
+        }
         for (const auto& [ci, states] : store_.categoryVoyages) {
-            for (const auto& [vi, state] : states) voyages[store_.voyages.at(vi).vn] = state;
+            for (const auto& [vi, state] : states) {
+                voyages[store_.voyages.at(vi).vn] = state;
+            }
         }
     }
     int AddCategory(const std::string& name, std::string& ci) override {
-        if (done("AddCategory", name) != 0) return -1;
+        if (done("AddCategory", name) != 0) {
+            return -1;
+        }
         ci = "c" + std::to_string(++next_);
         store_.categories[ci] = {ci, name, 0};
         store_.categoryStates[ci] = InUse;
         return 0;
     }
     int AddVoyage(const std::string& name, const std::string& ci, std::string& vi) override {
-        if (done("AddVoyage", name) != 0) return -1;
+        if (done("AddVoyage", name) != 0) {
+            return -1;
+        }
         vi = "v" + std::to_string(++next_);
         store_.voyages[vi].vi = vi;
         store_.voyages[vi].vn = name;
@@ -70,7 +83,9 @@ class FakeCatalog final : public CatalogCommands {
         return 0;
     }
     int RenameCategory(const std::string& ci, const std::string& name) override {
-        if (done("RenameCategory", name) != 0) return -1;
+        if (done("RenameCategory", name) != 0) {
+            return -1;
+        }
         store_.categories[ci].cn = name;
         return 0;
     }
@@ -82,7 +97,9 @@ class FakeCatalog final : public CatalogCommands {
         return setCategory("DestroyCategory", ci, Destroyed);
     }
     int RenameVoyage(const std::string& vi, const std::string& name) override {
-        if (done("RenameVoyage", name) != 0) return -1;
+        if (done("RenameVoyage", name) != 0) {
+            return -1;
+        }
         store_.voyages[vi].vn = name;
         return 0;
     }
@@ -119,17 +136,23 @@ class FakeCatalog final : public CatalogCommands {
         return refused.contains(operation) ? -1 : 0;
     }
     int setCategory(const std::string& operation, const std::string& ci, int state) {
-        if (done(operation, ci) != 0) return -1;
+        if (done(operation, ci) != 0) {
+            return -1;
+        }
         store_.categoryStates[ci] = state;
         return 0;
     }
     int setVoyage(const std::string& operation, const std::string& ci, const std::string& vi, int state) {
-        if (done(operation, vi) != 0) return -1;
+        if (done(operation, vi) != 0) {
+            return -1;
+        }
         store_.categoryVoyages[ci][vi] = state;
         return 0;
     }
     int setFlag(const std::string& operation, const std::string& vi, int VoyInfo::*flag, int value) {
-        if (done(operation, vi) != 0) return -1;
+        if (done(operation, vi) != 0) {
+            return -1;
+        }
         store_.voyages[vi].*flag = value;
         return 0;
     }
@@ -151,15 +174,20 @@ class FakeSchedule final : public ScheduleCommands {
     int timers = 0;
 
     int LoadSchedule(const std::string& vi, PortCallRows& rows, int drawMode) override {
-        if (done("LoadSchedule", vi + " " + std::to_string(drawMode)) != 0 || !onServer.contains(vi))
+        if (done("LoadSchedule", vi + " " + std::to_string(drawMode)) != 0 || !onServer.contains(vi)) {
             return -3;
+        }
         VoyInfo& voyage = store_.voyages[vi];
-        if (voyage.portCalls.empty()) voyage.portCalls = onServer[vi];
+        if (voyage.portCalls.empty()) {
+            voyage.portCalls = onServer[vi];
+        }
         rows = voyage.portCalls;
         return 0;
     }
     int SaveSchedule(const std::string& vi, const PortCallRows& rows, int drawMode) override {
-        if (done("SaveSchedule", vi + " " + std::to_string(drawMode)) != 0) return -1;
+        if (done("SaveSchedule", vi + " " + std::to_string(drawMode)) != 0) {
+            return -1;
+        }
         savedRows = rows;
         store_.voyages[vi].portCalls = rows;
         onServer[vi] = rows;
@@ -171,33 +199,49 @@ class FakeSchedule final : public ScheduleCommands {
     }
     int GetModAis(const std::string& vi, int& count) const override {
         const VoyInfo* voyage = store_.FindVoyage(vi);
-        if (voyage == nullptr) return -1;
+        if (voyage == nullptr) {
+            return -1;
+        }
         count = voyage->modais;
         return 0;
     }
     int ResolvePortIds(PortCallRows& rows) const override {
-        for (VoyPortCall& row : rows) row.ppi = "id-" + row.ppn;
+        for (VoyPortCall& row : rows) {
+            row.ppi = "id-" + row.ppn;
+        }
         return 0;
     }
     int CalculatePortCalls(const PortCallRows& rows, PortCallRows& out) override {
-        if (done("Calculate", std::to_string(rows.size())) != 0) return -1;
+        if (done("Calculate", std::to_string(rows.size())) != 0) {
+            return -1;
+        }
         PortCallRows legs = rows;
-        for (std::size_t i = 1; i < legs.size(); ++i) legs[i].distance = 240;
+        for (std::size_t i = 1; i < legs.size(); ++i) {
+            legs[i].distance = 240;
+        }
         return BuildSchedule(legs.front().eta, legs, out);
     }
     int CalculateForVoyage(const std::string& vi, const PortCallRows& rows, PortCallRows& out,
                            int& hadPortCalls) override {
         VoyInfo* voyage = store_.FindVoyage(vi);
-        if (voyage == nullptr || CalculatePortCalls(rows, out) != 0) return -1;
+        if (voyage == nullptr || CalculatePortCalls(rows, out) != 0) {
+            return -1;
+        }
         hadPortCalls = voyage->portCalls.empty() ? 0 : 1;
         pending_ = true;
-        if (hadPortCalls == 1) voyage->portCalls = out;
+        if (hadPortCalls == 1) {
+            voyage->portCalls = out;
+        }
         return 0;
     }
     int ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& out) override {
-        if (done("ScheduleCurrentRoute", std::to_string(rows.size())) != 0) return -1;
+        if (done("ScheduleCurrentRoute", std::to_string(rows.size())) != 0) {
+            return -1;
+        }
         PortCallRows legs = rows;
-        for (std::size_t i = 1; i < legs.size(); ++i) legs[i].distance = 480;
+        for (std::size_t i = 1; i < legs.size(); ++i) {
+            legs[i].distance = 480;
+        }
         return BuildSchedule(legs.front().eta, legs, out);
     }
     int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) override {

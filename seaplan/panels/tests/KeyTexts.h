@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/LoadString.h>
-
 #include <set>
+
+#include <tarvik/interface/LoadString.h>
 
 namespace Tarvik::Seaplan {
 
@@ -20,7 +20,9 @@ class KeyTexts final : public Interface::LanguageSource {
 
     std::optional<std::u16string> Find(const std::u16string& section, const std::u16string&,
                                        const std::u16string& key) const override {
-        if (section != u"Seaplan" || missing.contains(key)) return std::nullopt;
+        if (section != u"Seaplan" || missing.contains(key)) {
+            return std::nullopt;
+        }
         return prefix + key;
     }
 };

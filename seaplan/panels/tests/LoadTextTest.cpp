@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/language/Messages.h"
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "testsupport/RecordingMsgSink.h"
-
-#include <gtest/gtest.h>
 
 namespace Tarvik::Seaplan {
 

@@ -101,7 +101,9 @@ TEST_F(PortCallFixture, ARowWithoutPortTakesNoSpeedWeatherOrPurpose) {
     panel.CommitEditors();
     panel.OnCellClicked(3, ColPurpose);
     panel.OnPurposeChosen(0);
-    for (const int column : {ColSpeed, ColWeather, ColPurpose}) EXPECT_EQ(Cell(3, column), " ") << column;
+    for (const int column : {ColSpeed, ColWeather, ColPurpose}) {
+        EXPECT_EQ(Cell(3, column), " ") << column;
+    }
     EXPECT_FALSE(view.state.changed);
 }
 
@@ -234,8 +236,11 @@ TEST_F(PortCallFixture, MovingARowBlanksTheFiguresOfAllRows) {
     Open("20");
     EXPECT_EQ(panel.OnItemImage(2, "itemMoveUp"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "GDANSK", "HAMBURG", " ", " ", " "));
-    for (const int column : {ColSteamTime, ColEta, ColEtd, ColDistance})
-        for (int row = 0; row < 3; ++row) EXPECT_EQ(Cell(row, column), " ") << row << " " << column;
+    for (const int column : {ColSteamTime, ColEta, ColEtd, ColDistance}) {
+        for (int row = 0; row < 3; ++row) {
+            EXPECT_EQ(Cell(row, column), " ") << row << " " << column;
+        }
+    }
     EXPECT_EQ(Cell(2, ColPortTime), "0.50");
     EXPECT_EQ(view.selectedRow, 1);
     EXPECT_TRUE(view.state.changed);

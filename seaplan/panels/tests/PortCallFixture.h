@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <initializer_list>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/tests/FakeCommands.h"
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/RecordingPortCallView.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingMsgSink.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <initializer_list>
 
 namespace Tarvik::Seaplan {
 
@@ -29,7 +29,9 @@ class PortCallFixture : public ::testing::Test {
     CPortCallPanelDlg panel{store, schedule, Ports(), view};
 
     PortCallFixture() {
-        for (const char* vi : {"10", "20"}) store.voyages[vi].vi = vi;
+        for (const char* vi : {"10", "20"}) {
+            store.voyages[vi].vi = vi;
+        }
         schedule.onServer["20"] = ThreeCalls();
         store.voyages["20"].positionBook.points.resize(3);
         panel.SetSavedListener([this](const std::string& vi) { saved.push_back(vi); });
@@ -48,7 +50,9 @@ class PortCallFixture : public ::testing::Test {
         rows[1].ppn = "HAMBURG";
         rows[1].apt = 12;
         rows[2].ppn = "GDANSK";
-        for (int i : {1, 2}) rows[i].distance = 240;
+        for (int i : {1, 2}) {
+            rows[i].distance = 240;
+        }
         PortCallRows out;
         BuildSchedule(Util::_datetime_t(0, 0, 8, 5, 3, 2024), rows, out);
         return out;
@@ -69,7 +73,9 @@ class PortCallFixture : public ::testing::Test {
     }
     void EnterPorts(std::initializer_list<const char*> names) {
         int row = 0;
-        for (const char* name : names) Type(row++, ColPort, name);
+        for (const char* name : names) {
+            Type(row++, ColPort, name);
+        }
     }
     void PickTime(int row, int column, const std::string& text) {
         panel.OnCellClicked(row, column);
@@ -80,7 +86,9 @@ class PortCallFixture : public ::testing::Test {
     std::vector<std::string> Column(int column) const {
         std::vector<std::string> out;
         out.reserve(view.table.Rows().size());
-        for (int row = 0; row < view.table.RowCount(); ++row) out.push_back(Cell(row, column));
+        for (int row = 0; row < view.table.RowCount(); ++row) {
+            out.push_back(Cell(row, column));
+        }
         return out;
     }
     std::string LastMessage() const { return messages.messages.empty() ? "" : messages.messages.back().text; }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/tests/PortCallFixture.h"
-
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/BusContract.h>
+
+#include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {
 

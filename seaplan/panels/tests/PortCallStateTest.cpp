@@ -57,7 +57,9 @@ TEST_F(PortCallFixture, OpeningAVoyageForgetsTheRouteThatWasPending) {
 
 TEST(PortCallTable, ARowWithoutDistanceIsNoPositionOfTheShip) {
     PortCallTable table;
-    for (int row = 0; row < 2; ++row) table.SetCell(row, ColPort, "52.000,4.100");
+    for (int row = 0; row < 2; ++row) {
+        table.SetCell(row, ColPort, "52.000,4.100");
+    }
     table.SetCell(0, ColDistance, "10.00");
     table.SetCell(1, ColDistance, "0.00");
     EXPECT_EQ(table.FindLastAisRow(), 0);

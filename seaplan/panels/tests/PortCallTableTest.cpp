@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/portcall/PortCallTable.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include "seaplan/panels/portcall/PortCallTable.h"
 
 namespace Tarvik::Seaplan {
 
@@ -86,8 +86,9 @@ TEST(PortCallTable, TotalsHaveOneDecimalForTheSteamTimeAndTwoForTheRest) {
     EXPECT_EQ(table.Cell(6, ColPortTime), "1.50");
     EXPECT_EQ(table.Cell(6, ColDistance), "300.00");
     table.ClearTotals();
-    for (int column = ColSteamTime; column <= ColDistance; ++column)
+    for (int column = ColSteamTime; column <= ColDistance; ++column) {
         EXPECT_EQ(table.Cell(6, column), " ") << column;
+    }
     EXPECT_EQ(table.Cell(6, ColOrder), "RES");
 }
 
@@ -107,8 +108,9 @@ TEST(PortCallTable, ThePartialFormShowsOnlyWhatWasEntered) {
     EXPECT_EQ(table.Cell(1, ColSpeed), "10.00");
     EXPECT_EQ(table.Cell(1, ColWeather), "0%");
     EXPECT_EQ(table.Cell(1, ColPortTime), "0.50");
-    for (const int column : {ColSteamTime, ColEta, ColEtd, ColDistance})
+    for (const int column : {ColSteamTime, ColEta, ColEtd, ColDistance}) {
         EXPECT_EQ(table.Cell(1, column), " ") << column;
+    }
     EXPECT_EQ(table.Cell(2, ColPort), " ");
     EXPECT_EQ(table.Cell(6, ColDistance), " ");
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/portcall/PortDictionary.h"
-#include "seaplan/panels/portcall/PurposeList.h"
-#include "testsupport/DataFolder.h"
-#include "testsupport/PortDictionary.h"
+#include <set>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <set>
+#include "seaplan/panels/portcall/PortDictionary.h"
+#include "seaplan/panels/portcall/PurposeList.h"
+#include "testsupport/DataFolder.h"
+#include "testsupport/PortDictionary.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/portcall/PortCallView.h"
-
 #include <map>
 #include <optional>
 #include <set>
 #include <string>
 #include <vector>
+
+#include "seaplan/panels/portcall/PortCallView.h"
 
 namespace Tarvik::Seaplan {
 
@@ -61,7 +61,9 @@ class RecordingPortCallView final : public PortCallView {
     void HideEditor(CellEditor editor) override {
         openEditors.erase(editor);
         editorTexts[editor].clear();
-        if (openEditor == editor) openEditor.reset();
+        if (openEditor == editor) {
+            openEditor.reset();
+        }
     }
     bool EditorVisible(CellEditor editor) const override { return openEditors.contains(editor); }
     std::string EditorText(CellEditor editor) const override {

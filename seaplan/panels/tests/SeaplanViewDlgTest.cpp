@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/interface/BusContract.h>
+
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/tests/TreeFixture.h"
-
-#include <tarvik/interface/BusContract.h>
 
 namespace Tarvik::Seaplan {
 

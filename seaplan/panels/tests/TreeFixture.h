@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include "seaplan/panels/tests/FakeCommands.h"
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/tree/TreeRows.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingMsgSink.h"
-
-#include <gtest/gtest.h>
 
 namespace Tarvik::Seaplan {
 
@@ -52,9 +52,13 @@ class RecordingTree final : public TreeRows {
     }
     TreeRow Find(const std::string& text) const {
         for (TreeRow row = GetRootItem(); row != kNoRow; row = GetNextSiblingItem(row)) {
-            if (GetItemText(row) == text) return row;
+            if (GetItemText(row) == text) {
+                return row;
+            }
             for (TreeRow child = GetChildItem(row); child != kNoRow; child = GetNextSiblingItem(child)) {
-                if (GetItemText(child) == text) return child;
+                if (GetItemText(child) == text) {
+                    return child;
+                }
             }
         }
         return kNoRow;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
 #include "seaplan/panels/tests/TreeFixture.h"
 #include "seaplan/panels/tree/NameRules.h"
-
-#include <gmock/gmock.h>
 
 namespace Tarvik::Seaplan {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 /// What the tree keeps, counts and leaves on the chart.
-#include "seaplan/panels/tests/TreeFixture.h"
-
 #include <gmock/gmock.h>
+
+#include "seaplan/panels/tests/TreeFixture.h"
 
 namespace Tarvik::Seaplan {
 
@@ -58,7 +58,9 @@ TEST_F(TreeStateTest, ALoadSortsEqualNamesByTheBookAndASortByTheFirstDeparture) 
 
 TEST_F(TreeStateTest, ALoadDoesNotSortByPortCalls) {
     AddCategory("1", "Full");
-    for (const char* vi : {"10", "11"}) AddVoyage("1", vi, "Same").vsn = vi;
+    for (const char* vi : {"10", "11"}) {
+        AddVoyage("1", vi, "Same").vsn = vi;
+    }
     catalog.onServer.voyages["10"].portCalls = TwoCalls(20);
     catalog.onServer.voyages["11"].portCalls = TwoCalls(10);
     ctrl.ReloadTree();

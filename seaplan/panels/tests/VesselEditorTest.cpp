@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/tests/TreeFixture.h"
+#include <memory>
+
+#include <gmock/gmock.h>
 
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/BusContract.h>
 
-#include <gmock/gmock.h>
-
-#include <memory>
+#include "seaplan/panels/tests/TreeFixture.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,20 +1,19 @@
 // SPDX-License-Identifier: MIT
 /// Correcting a voyage's port calls from its vessel's last position.
-#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
-
-#include "seaplan/calculation/NumberForms.h"
+#include <cstdint>
 
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/DateTimeUtl.h>
 
-#include <cstdint>
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
 /// A GMT timer value in the user's zone; the field counts as unsigned.
-std::string userTime(int gmtTimer) {
+std::string UserTime(int gmtTimer) {
     const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone, nullptr);
     const auto utc = Util::_datetime_t::from_gmt_timer(static_cast<std::uint32_t>(gmtTimer));
     return Util::DateTimeUtl::ConvertFromUTC(utc, zone == nullptr ? std::string() : *zone).fmt(kTimeFormat);
@@ -23,7 +22,7 @@ std::string userTime(int gmtTimer) {
 }  // namespace
 
 /// Whether a correction can be tried; tells the person why not.
-bool SeaplanTreeCtrl::correctable(const VoyInfo& voyage) {
+bool SeaplanTreeCtrl::Correctable(const VoyInfo& voyage) {
     const Util::_datetime_t now;
     TextId why{};
     if (voyage.vsi.empty() || voyage.vsn.empty()) {
@@ -40,23 +39,33 @@ bool SeaplanTreeCtrl::correctable(const VoyInfo& voyage) {
     } else {
         return true;
     }
-    notice(why);
+    Notice(why);
     return false;
 }
 
-int SeaplanTreeCtrl::modifyFromAis() {
+int SeaplanTreeCtrl::ModifyFromAis() {
     const VoyInfo& voyage = *context_.VoyageOf(currentVoyageRow_);
-    if (!correctable(voyage)) return 0;
+    if (!Correctable(voyage)) {
+        return 0;
+    }
     int applied = 0;
     if (ais_->ApplyAisPosition(voyage.vi, applied) != 0) {
-        notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
+        Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
         return -2;
     }
-    if (portCalls_ == nullptr) return -39;
-    if (applied > 0) portCalls_->SetCorrectionTime(userTime(voyage.lastPosTime));
-    if (portCalls_->ShowAisCorrection() < 0) return -40;
+    if (portCalls_ == nullptr) {
+        return -39;
+    }
+    if (applied > 0) {
+        portCalls_->SetCorrectionTime(UserTime(voyage.lastPosTime));
+    }
+    if (portCalls_->ShowAisCorrection() < 0) {
+        return -40;
+    }
     portCalls_->ShowBesideTree();
-    if (voyage.vr == 1) chart_.LeaveAloneOnce(voyage.vi);
+    if (voyage.vr == 1) {
+        chart_.LeaveAloneOnce(voyage.vi);
+    }
     return 0;
 }
 

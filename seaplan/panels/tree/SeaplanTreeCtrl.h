@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
+#include <memory>
+#include <string>
+
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/services/AisCommands.h"
 #include "seaplan/panels/tree/TreeBuilder.h"
@@ -8,10 +12,6 @@
 #include "seaplan/panels/tree/TreeRename.h"
 #include "seaplan/panels/tree/VoyagesOnChart.h"
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
-
-#include <map>
-#include <memory>
-#include <string>
 
 namespace Tarvik::Seaplan {
 
@@ -90,43 +90,43 @@ class SeaplanTreeCtrl {
 
   private:
     using Command = int (SeaplanTreeCtrl::*)();
-    static const std::map<std::string, Command>& categoryCommands();
-    static const std::map<std::string, Command>& voyageCommands();
+    static const std::map<std::string, Command>& CategoryCommands();
+    static const std::map<std::string, Command>& VoyageCommands();
 
-    int addVoyage();
-    int deleteCategory();
-    int recoverCategory();
-    int clearCategory();
-    int openSortPanel();
-    int sortDescending() { return setDirection(Descending); }
-    int sortAscending() { return setDirection(Ascending); }
-    int renameCategory();
-    int pinRoute();
-    int unpinRoute();
-    int showAis();
-    int hideAis();
-    int openPortCalls();
-    int openEmptyPortCalls();
-    int noonReport();
-    int renameVoyage();
-    int deleteVoyage();
-    int recoverVoyage();
-    int clearVoyage();
-    int modifyFromAis();
-    int assignVessel();
-    int replaceVessel();
-    int showVesselInfo();
-    int addVesselToFleet();
+    int AddVoyage();
+    int DeleteCategory();
+    int RecoverCategory();
+    int ClearCategory();
+    int OpenSortPanel();
+    int SortDescending() { return SetDirection(Descending); }
+    int SortAscending() { return SetDirection(Ascending); }
+    int RenameCategory();
+    int PinRoute();
+    int UnpinRoute();
+    int ShowAis();
+    int HideAis();
+    int OpenPortCalls();
+    int OpenEmptyPortCalls();
+    int NoonReport();
+    int RenameVoyage();
+    int DeleteVoyage();
+    int RecoverVoyage();
+    int ClearVoyage();
+    int ModifyFromAis();
+    int AssignVessel();
+    int ReplaceVessel();
+    int ShowVesselInfo();
+    int AddVesselToFleet();
 
-    int setDirection(int direction);
-    int dropVoyageRow();
-    void takeOffChart(const std::string& ci);
-    bool correctable(const VoyInfo& voyage);
-    void openVesselBox(TreeRow row, const std::string& text);
-    void turnAisOn(const VoyInfo& voyage);
-    int unfold(TreeRow row);
-    bool confirmClear();
-    void notice(TextId id);
+    int SetDirection(int direction);
+    int DropVoyageRow();
+    void TakeOffChart(const std::string& ci);
+    bool Correctable(const VoyInfo& voyage);
+    void OpenVesselBox(TreeRow row, const std::string& text);
+    void TurnAisOn(const VoyInfo& voyage);
+    int Unfold(TreeRow row);
+    bool ConfirmClear();
+    void Notice(TextId id);
 
     TreeContext context_;
     TreeBuilder builder_;

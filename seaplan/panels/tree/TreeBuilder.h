@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tree/TreeContext.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
 
@@ -39,18 +39,18 @@ class TreeBuilder {
 
   private:
     enum class DateSource { PositionBook, PortCalls };
-    int addVoyages(TreeRow row, const std::string& ci, DateSource source);
-    int sortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,
+    int AddVoyages(TreeRow row, const std::string& ci, DateSource source);
+    int SortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,
                     std::vector<std::string>& deleted) const;
-    int addDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
-    int addEmptyCategories(const std::vector<VoyCategory*>& deleted);
-    void markVoyage(const VoyInfo& voyage);
-    int knowStatus(const std::string& vi);
+    int AddDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
+    int AddEmptyCategories(const std::vector<VoyCategory*>& deleted);
+    void MarkVoyage(const VoyInfo& voyage);
+    int KnowStatus(const std::string& vi);
     void DrawStatus(TreeRow row, int status);
-    void applyCategoryTexts(TreeRow row);
-    void applyVoyageTexts(TreeRow row);
-    void applyDeletedTexts(TreeRow row);
-    void applyTexts(TreeRow row);
+    void ApplyCategoryTexts(TreeRow row);
+    void ApplyVoyageTexts(TreeRow row);
+    void ApplyDeletedTexts(TreeRow row);
+    void ApplyTexts(TreeRow row);
 
     TreeContext& c_;
 };

@@ -6,7 +6,9 @@ namespace Tarvik::Seaplan {
 TreeRow TreeContext::FindCategoryRow(const std::string& ci) const {
     for (TreeRow row = tree.GetRootItem(); row != kNoRow; row = tree.GetNextSiblingItem(row)) {
         const VoyCategory* category = CategoryOf(row);
-        if (category != nullptr && category->ci == ci) return row;
+        if (category != nullptr && category->ci == ci) {
+            return row;
+        }
     }
     return kNoRow;
 }
@@ -16,7 +18,9 @@ TreeRow TreeContext::FindVoyageRow(const std::string& vi) const {
         for (TreeRow child = tree.GetChildItem(row); child != kNoRow;
              child = tree.GetNextSiblingItem(child)) {
             const VoyInfo* voyage = VoyageOf(child);
-            if (voyage != nullptr && voyage->vi == vi) return child;
+            if (voyage != nullptr && voyage->vi == vi) {
+                return child;
+            }
         }
     }
     return kNoRow;

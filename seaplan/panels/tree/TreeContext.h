@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
+#include <string>
+
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/services/CatalogCommands.h"
 #include "seaplan/panels/services/ScheduleCommands.h"
 #include "seaplan/panels/tree/TreeWidget.h"
-
-#include <map>
-#include <string>
 
 namespace Tarvik::Seaplan {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/TreeRename.h"
 
+#include <tarvik/util/StringUtl.h>
+
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/language/Messages.h"
 #include "seaplan/panels/tree/NameRules.h"
-
-#include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
 
@@ -39,51 +39,81 @@ void TreeRename::Abandon() {
 }
 
 int TreeRename::Commit() {
-    if (!c_.tree.RenameEditorVisible()) return 0;
+    if (!c_.tree.RenameEditorVisible()) {
+        return 0;
+    }
     const std::string typed = c_.tree.RenameEditorText();
     c_.tree.HideRenameEditor();
-    if (typed.empty()) return -1;
+    if (typed.empty()) {
+        return -1;
+    }
     const std::string name = NormalizeName(typed);
     if (name.empty()) {
         Notice(TextId::IDS_TREE_SHOWVISIBLE, c_.tree.Handle());
         return -2;
     }
-    return isVoyage_ ? commitVoyage(name) : commitCategory(name);
+    return isVoyage_ ? CommitVoyage(name) : CommitCategory(name);
 }
 
-bool TreeRename::widthAccepted(const std::string& name, int limit) {
-    if (Util::StringUtl::Width(name) <= limit) return true;
+bool TreeRename::WidthAccepted(const std::string& name, int limit) {
+    if (Util::StringUtl::Width(name) <= limit) {
+        return true;
+    }
     NoticeText(Text(TextId::IDS_TREE_TOOMUCHNUM) + std::to_string(limit), c_.tree.Handle());
     return false;
 }
 
-bool TreeRename::taken(const std::map<std::string, int>& names, const std::string& name,
+bool TreeRename::Taken(const std::map<std::string, int>& names, const std::string& name,
                        const std::string& present) {
     const auto known = names.find(name);
-    if (known == names.end() || known->second == Destroyed) return false;
-    if (name != present) Notice(TextId::IDS_TREE_SAMENAMEWARN, c_.tree.Handle());
+    if (known == names.end() || known->second == Destroyed) {
+        return false;
+    }
+    if (name != present) {
+        Notice(TextId::IDS_TREE_SAMENAMEWARN, c_.tree.Handle());
+    }
     return true;
 }
 
-int TreeRename::commitCategory(const std::string& name) {
-    if (!widthAccepted(name, kCategoryNameWidth)) return -4;
+int TreeRename::CommitCategory(const std::string& name) {
+    if (!WidthAccepted(name, kCategoryNameWidth)) {
+        return -4;
+    }
     VoyCategory* category = c_.CategoryOf(row_);
-    if (category == nullptr) return -5;
-    if (category->ci.empty()) return -6;
-    if (taken(c_.categoryNames, name, category->cn)) return -7;
-    if (c_.catalog.RenameCategory(category->ci, name) != 0) return -8;
+    if (category == nullptr) {
+        return -5;
+    }
+    if (category->ci.empty()) {
+        return -6;
+    }
+    if (Taken(c_.categoryNames, name, category->cn)) {
+        return -7;
+    }
+    if (c_.catalog.RenameCategory(category->ci, name) != 0) {
+        return -8;
+    }
     c_.categoryNames[name] = InUse;
     c_.tree.SetItemText(row_, name);
     return unfold_(row_) == 0 ? 0 : -9;
 }
 
-int TreeRename::commitVoyage(const std::string& name) {
-    if (!widthAccepted(name, kVoyageNameWidth)) return -10;
+int TreeRename::CommitVoyage(const std::string& name) {
+    if (!WidthAccepted(name, kVoyageNameWidth)) {
+        return -10;
+    }
     VoyInfo* voyage = c_.VoyageOf(row_);
-    if (voyage == nullptr) return -11;
-    if (voyage->vi.empty()) return -12;
-    if (taken(c_.voyageNames, name, voyage->vn)) return -13;
-    if (c_.catalog.RenameVoyage(voyage->vi, name) != 0) return -14;
+    if (voyage == nullptr) {
+        return -11;
+    }
+    if (voyage->vi.empty()) {
+        return -12;
+    }
+    if (Taken(c_.voyageNames, name, voyage->vn)) {
+        return -13;
+    }
+    if (c_.catalog.RenameVoyage(voyage->vi, name) != 0) {
+        return -14;
+    }
     c_.voyageNames[name] = InUse;
     c_.tree.SetItemText(row_, name);
     return 0;

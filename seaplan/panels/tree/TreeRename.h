@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tree/TreeContext.h"
-
 #include <functional>
+
+#include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
 
@@ -24,10 +24,10 @@ class TreeRename {
     void Abandon();
 
   private:
-    int commitCategory(const std::string& name);
-    int commitVoyage(const std::string& name);
-    bool widthAccepted(const std::string& name, int limit);
-    bool taken(const std::map<std::string, int>& names, const std::string& name, const std::string& present);
+    int CommitCategory(const std::string& name);
+    int CommitVoyage(const std::string& name);
+    bool WidthAccepted(const std::string& name, int limit);
+    bool Taken(const std::map<std::string, int>& names, const std::string& name, const std::string& present);
 
     TreeContext& c_;
     std::function<int(TreeRow)> unfold_;

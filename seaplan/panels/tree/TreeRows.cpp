@@ -31,22 +31,30 @@ constexpr ItemDefault kDeletedVoyageItems[] = {{"Voyage.child.svr.recover", true
                                                {"Voyage.child.svr.clear", true}};
 
 template <std::size_t N>
-std::map<std::string, TreeItem> itemsOf(const ItemDefault (&defaults)[N]) {
+std::map<std::string, TreeItem> ItemsOf(const ItemDefault (&defaults)[N]) {
     std::map<std::string, TreeItem> items;
-    for (const ItemDefault& item : defaults) items[item.name].visible = item.visible;
+    for (const ItemDefault& item : defaults) {
+        items[item.name].visible = item.visible;
+    }
     return items;
 }
 
-std::map<std::string, TreeItem> itemsOfStyle(std::string_view style) {
-    if (style == kCategoryStyle) return itemsOf(kCategoryItems);
-    if (style == kVoyageStyle) return itemsOf(kVoyageItems);
-    if (style == kDeletedCategoryStyle) return itemsOf(kDeletedCategoryItems);
-    return itemsOf(kDeletedVoyageItems);
+std::map<std::string, TreeItem> ItemsOfStyle(std::string_view style) {
+    if (style == kCategoryStyle) {
+        return ItemsOf(kCategoryItems);
+    }
+    if (style == kVoyageStyle) {
+        return ItemsOf(kVoyageItems);
+    }
+    if (style == kDeletedCategoryStyle) {
+        return ItemsOf(kDeletedCategoryItems);
+    }
+    return ItemsOf(kDeletedVoyageItems);
 }
 
 }  // namespace
 
-TreeRowState* TreeRows::find(TreeRow row) {
+TreeRowState* TreeRows::Find(TreeRow row) {
     const auto it = rows_.find(row);
     return it == rows_.end() ? nullptr : &it->second;
 }
@@ -57,37 +65,49 @@ const TreeRowState* TreeRows::Row(TreeRow row) const {
 }
 
 TreeRow TreeRows::InsertItem(const std::string& text, const char* style, TreeRow parent) {
-    if (parent != kNoRow && Row(parent) == nullptr) return kNoRow;
+    if (parent != kNoRow && Row(parent) == nullptr) {
+        return kNoRow;
+    }
     const TreeRow row = next_++;
     TreeRowState& state = rows_[row];
     state.text = text;
     state.style = style;
     state.parent = parent;
-    state.items = itemsOfStyle(style);
-    std::vector<TreeRow>& siblings = parent == kNoRow ? roots_ : find(parent)->children;
-    if (!siblings.empty()) find(siblings.back())->next = row;
+    state.items = ItemsOfStyle(style);
+    std::vector<TreeRow>& siblings = parent == kNoRow ? roots_ : Find(parent)->children;
+    if (!siblings.empty()) {
+        Find(siblings.back())->next = row;
+    }
     siblings.push_back(row);
     RowInserted(row);
     return row;
 }
 
 void TreeRows::DeleteItem(TreeRow row) {
-    if (Row(row) == nullptr) return;
+    if (Row(row) == nullptr) {
+        return;
+    }
     DeleteChildItems(row);
-    if (selected_ == row) SelectItem(kNoRow);
+    if (selected_ == row) {
+        SelectItem(kNoRow);
+    }
     RowRemoving(row);
-    TreeRowState* parent = find(Row(row)->parent);
+    TreeRowState* parent = Find(Row(row)->parent);
     std::vector<TreeRow>& siblings = parent == nullptr ? roots_ : parent->children;
     const auto place =
         siblings.back() == row ? siblings.end() - 1 : std::find(siblings.begin(), siblings.end(), row);
-    if (place != siblings.begin()) find(*(place - 1))->next = Row(row)->next;
+    if (place != siblings.begin()) {
+        Find(*(place - 1))->next = Row(row)->next;
+    }
     siblings.erase(place);
     rows_.erase(row);
 }
 
 void TreeRows::DeleteChildItems(TreeRow row) {
     // From the end, as nothing moves up then.
-    while (Row(row) != nullptr && !Row(row)->children.empty()) DeleteItem(Row(row)->children.back());
+    while (Row(row) != nullptr && !Row(row)->children.empty()) {
+        DeleteItem(Row(row)->children.back());
+    }
 }
 
 void TreeRows::DeleteAllItems() {
@@ -98,7 +118,9 @@ void TreeRows::DeleteAllItems() {
 }
 
 void TreeRows::SetItemData(TreeRow row, void* record) {
-    if (TreeRowState* state = find(row)) state->record = record;
+    if (TreeRowState* state = Find(row)) {
+        state->record = record;
+    }
 }
 
 void* TreeRows::GetItemData(TreeRow row) const {
@@ -140,8 +162,10 @@ void TreeRows::Expand(TreeRow row) {
 }
 
 void TreeRows::SetExpanded(TreeRow row, bool expanded) {
-    TreeRowState* state = find(row);
-    if (state == nullptr || state->expanded == expanded) return;
+    TreeRowState* state = Find(row);
+    if (state == nullptr || state->expanded == expanded) {
+        return;
+    }
     state->expanded = expanded;
     RowExpanded(row, expanded);
 }
@@ -157,41 +181,53 @@ std::string TreeRows::GetItemText(TreeRow row) const {
 }
 
 void TreeRows::SetItemText(TreeRow row, const std::string& text) {
-    TreeRowState* state = find(row);
-    if (state == nullptr) return;
+    TreeRowState* state = Find(row);
+    if (state == nullptr) {
+        return;
+    }
     state->text = text;
     RowChanged(row);
 }
 
 void TreeRows::SetDrawItemValue(TreeRow row, const std::string& item, const std::string& text) {
-    TreeRowState* state = find(row);
-    if (state == nullptr) return;
+    TreeRowState* state = Find(row);
+    if (state == nullptr) {
+        return;
+    }
     state->items[item].text = text;
     RowChanged(row);
 }
 
 void TreeRows::SetDrawItemValueOfEventItem(TreeRow row, const std::string& item, const std::string& value,
                                            const std::string& text) {
-    TreeRowState* state = find(row);
-    if (state == nullptr) return;
+    TreeRowState* state = Find(row);
+    if (state == nullptr) {
+        return;
+    }
     state->items[item].values[value] = text;
     RowChanged(row);
 }
 
 void TreeRows::SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) {
-    TreeRowState* state = find(row);
-    if (state == nullptr) return;
+    TreeRowState* state = Find(row);
+    if (state == nullptr) {
+        return;
+    }
     state->items[item].visible = visible;
     RowChanged(row);
 }
 
 void TreeRows::SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) {
-    if (TreeRowState* state = find(row)) state->items[item].toolTip = text;
+    if (TreeRowState* state = Find(row)) {
+        state->items[item].toolTip = text;
+    }
 }
 
 bool TreeRows::IsItemVisible(TreeRow row, const std::string& item) const {
     const TreeRowState* state = Row(row);
-    if (state == nullptr) return false;
+    if (state == nullptr) {
+        return false;
+    }
     const auto it = state->items.find(item);
     return it != state->items.end() && it->second.visible;
 }

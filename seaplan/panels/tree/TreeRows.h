@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tree/TreeWidget.h"
-
 #include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
+
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
 
@@ -73,7 +73,7 @@ class TreeRows : public TreeWidget {
     virtual void RowExpanded(TreeRow, bool) {}
 
   private:
-    TreeRowState* find(TreeRow row);
+    TreeRowState* Find(TreeRow row);
 
     std::unordered_map<TreeRow, TreeRowState> rows_;
     std::vector<TreeRow> roots_;

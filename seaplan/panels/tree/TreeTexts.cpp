@@ -35,25 +35,31 @@ constexpr ItemTip kVoyageTips[] = {{"Voyage_child_rename", TextId::IDS_TREE_MODV
                                    {"Voyage_Alert", TextId::IDS_VIEW_ALERT}};
 
 template <std::size_t N>
-void applyTips(TreeWidget& tree, TreeRow row, const ItemTip (&tips)[N]) {
-    for (const ItemTip& tip : tips) tree.SetToolTipsOfEventItem(row, tip.item, Text(tip.text));
+void ApplyTips(TreeWidget& tree, TreeRow row, const ItemTip (&tips)[N]) {
+    for (const ItemTip& tip : tips) {
+        tree.SetToolTipsOfEventItem(row, tip.item, Text(tip.text));
+    }
 }
 
 }  // namespace
 
-void TreeBuilder::applyTexts(TreeRow row) {
+void TreeBuilder::ApplyTexts(TreeRow row) {
     const std::string style = c_.tree.GetItemStyle(row);
-    if (style == kCategoryStyle) return applyCategoryTexts(row);
-    if (style == kVoyageStyle) return applyVoyageTexts(row);
-    applyDeletedTexts(row);
+    if (style == kCategoryStyle) {
+        return ApplyCategoryTexts(row);
+    }
+    if (style == kVoyageStyle) {
+        return ApplyVoyageTexts(row);
+    }
+    ApplyDeletedTexts(row);
 }
 
-void TreeBuilder::applyCategoryTexts(TreeRow row) {
-    applyTips(c_.tree, row, kCategoryTips);
+void TreeBuilder::ApplyCategoryTexts(TreeRow row) {
+    ApplyTips(c_.tree, row, kCategoryTips);
 }
 
-void TreeBuilder::applyVoyageTexts(TreeRow row) {
-    applyTips(c_.tree, row, kVoyageTips);
+void TreeBuilder::ApplyVoyageTexts(TreeRow row) {
+    ApplyTips(c_.tree, row, kVoyageTips);
     TreeWidget& tree = c_.tree;
     tree.SetDrawItemValueOfEventItem(row, "Voyage_setPortCall", "setPortCall",
                                      Text(TextId::IDS_TREE_SETPORTCALL));
@@ -63,7 +69,7 @@ void TreeBuilder::applyVoyageTexts(TreeRow row) {
     tree.SetDrawItemValueOfEventItem(row, "Voyage_ShipInfo", "ShipInfo", Text(TextId::IDS_TREE_VOYSHIP));
 }
 
-void TreeBuilder::applyDeletedTexts(TreeRow row) {
+void TreeBuilder::ApplyDeletedTexts(TreeRow row) {
     TreeWidget& tree = c_.tree;
     if (c_.IsCategoryRow(row)) {
         tree.SetToolTipsOfEventItem(row, "Voyage.parent.svr.recover", Text(TextId::IDS_TREE_CATEGORYRECOVER));
@@ -76,13 +82,15 @@ void TreeBuilder::applyDeletedTexts(TreeRow row) {
 
 void TreeBuilder::ApplyLanguage() {
     for (TreeRow row = c_.tree.GetRootItem(); row != kNoRow; row = c_.tree.GetNextSiblingItem(row)) {
-        applyTexts(row);
+        ApplyTexts(row);
         for (TreeRow child = c_.tree.GetChildItem(row); child != kNoRow;
              child = c_.tree.GetNextSiblingItem(child)) {
-            applyTexts(child);
+            ApplyTexts(child);
         }
     }
-    for (const auto& [vi, status] : c_.voyageStatuses) ShowStatus(vi);
+    for (const auto& [vi, status] : c_.voyageStatuses) {
+        ShowStatus(vi);
+    }
 }
 
 }  // namespace Tarvik::Seaplan

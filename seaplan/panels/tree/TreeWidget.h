@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/Rect.h"
-
 #include <string>
+
+#include "seaplan/panels/Rect.h"
 
 namespace Tarvik::Seaplan {
 

@@ -9,7 +9,9 @@ namespace Tarvik::Seaplan {
 int OrderVoyages(const std::vector<VoyageKeys>& voyages, const TreeSortState& sort,
                  std::vector<std::string>& out) {
     out.clear();
-    if (sort.sortKey != SortByName && sort.sortKey != SortByDate) return -5;
+    if (sort.sortKey != SortByName && sort.sortKey != SortByDate) {
+        return -5;
+    }
     std::map<std::string, std::map<std::string, std::string>> order;
     for (const VoyageKeys& voyage : voyages) {
         if (sort.sortKey == SortByName) {
@@ -19,9 +21,13 @@ int OrderVoyages(const std::vector<VoyageKeys>& voyages, const TreeSortState& so
         }
     }
     for (const auto& [outer, inner] : order) {
-        for (const auto& [key, vi] : inner) out.push_back(vi);
+        for (const auto& [key, vi] : inner) {
+            out.push_back(vi);
+        }
     }
-    if (sort.direction == Descending) std::reverse(out.begin(), out.end());
+    if (sort.direction == Descending) {
+        std::reverse(out.begin(), out.end());
+    }
     return 0;
 }
 

@@ -5,42 +5,55 @@
 
 namespace Tarvik::Seaplan {
 
-void VoyagesOnChart::tidyOthers(const std::string& vi) {
+void VoyagesOnChart::TidyOthers(const std::string& vi) {
     for (auto& [id, mark] : c_.chartMarks) {
-        if (id == vi || mark.drawState != OnChart) continue;
+        if (id == vi || mark.drawState != OnChart) {
+            continue;
+        }
         if (mark.routePinned == 1) {
             c_.schedule.HideAisTrack(id);
             continue;
         }
-        if (c_.schedule.RemoveVoyageObjects(id) != 0 || c_.schedule.HideAisTrack(id) != 0) continue;
+        if (c_.schedule.RemoveVoyageObjects(id) != 0 || c_.schedule.HideAisTrack(id) != 0) {
+            continue;
+        }
         mark.drawState = OffChart;
     }
 }
 
-int VoyagesOnChart::redraw(const VoyInfo& voyage, VoyChartMark& mark) {
+int VoyagesOnChart::Redraw(const VoyInfo& voyage, VoyChartMark& mark) {
     if (voyage.vr == 1) {
         if (aisModVoyage_ == voyage.vi && !aisModSkipDone_) {
             aisModSkipDone_ = true;
             return 0;
         }
-        if (c_.schedule.RemoveVoyageObjects(voyage.vi) != 0) return -2;
-        if (c_.schedule.ShowVoyage(voyage.vi) != 0) return -3;
+        if (c_.schedule.RemoveVoyageObjects(voyage.vi) != 0) {
+            return -2;
+        }
+        if (c_.schedule.ShowVoyage(voyage.vi) != 0) {
+            return -3;
+        }
     }
     mark.routePinned = voyage.vr == 1 ? 1 : 0;
-    tidyOthers(voyage.vi);
+    TidyOthers(voyage.vi);
     return voyage.va == 1 && ShowAis(voyage, false) != 0 ? -4 : 0;
 }
 
 int VoyagesOnChart::ActivateVoyage(const VoyInfo& voyage) {
-    if (voyage.vi.empty()) return -1;
+    if (voyage.vi.empty()) {
+        return -1;
+    }
     const auto known = c_.chartMarks.find(voyage.vi);
-    if (known != c_.chartMarks.end() && known->second.drawState == OnChart)
-        return redraw(voyage, known->second);
-    if (c_.schedule.RemoveVoyageObjects(voyage.vi) != 0) return -5;
+    if (known != c_.chartMarks.end() && known->second.drawState == OnChart) {
+        return Redraw(voyage, known->second);
+    }
+    if (c_.schedule.RemoveVoyageObjects(voyage.vi) != 0) {
+        return -5;
+    }
     c_.chartMarks[voyage.vi] = {voyage.vr == 1 ? 1 : 0, OnChart};
-    tidyOthers(voyage.vi);
+    TidyOthers(voyage.vi);
     if (c_.schedule.ShowVoyage(voyage.vi) != 0) {
-        tidyOthers(voyage.vi);
+        TidyOthers(voyage.vi);
         return -6;
     }
     return voyage.va == 1 && ShowAis(voyage, false) != 0 ? -7 : 0;
@@ -51,20 +64,28 @@ void VoyagesOnChart::LeaveAloneOnce(const std::string& vi) {
     aisModSkipDone_ = false;
 }
 
-void VoyagesOnChart::notice(TextId id) {
+void VoyagesOnChart::Notice(TextId id) {
     c_.tree.SetEnabled(false);
-    Notice(id, c_.tree.Handle());
+    Seaplan::Notice(id, c_.tree.Handle());
     c_.tree.SetEnabled(true);
 }
 
 int VoyagesOnChart::ShowAis(const VoyInfo& voyage, bool warn) {
-    if (voyage.vi.empty()) return -1;
-    if (voyage.vsi.empty() || voyage.vsn.empty()) {
-        if (warn) notice(TextId::IDS_TREE_WARNSHOWAIS);
+    if (voyage.vi.empty()) {
         return -1;
     }
-    if (c_.schedule.RefreshTrace(voyage.vi) == 0) return 0;
-    if (warn) notice(TextId::IDS_TREE_FAILDSHOWAIS);
+    if (voyage.vsi.empty() || voyage.vsn.empty()) {
+        if (warn) {
+            Notice(TextId::IDS_TREE_WARNSHOWAIS);
+        }
+        return -1;
+    }
+    if (c_.schedule.RefreshTrace(voyage.vi) == 0) {
+        return 0;
+    }
+    if (warn) {
+        Notice(TextId::IDS_TREE_FAILDSHOWAIS);
+    }
     return -2;
 }
 
@@ -74,43 +95,73 @@ void VoyagesOnChart::ShowAisItems(TreeRow row, bool on) {
 }
 
 int VoyagesOnChart::SetAisShown(const std::string& vi, bool on) {
-    if (vi.empty()) return -1;
+    if (vi.empty()) {
+        return -1;
+    }
     VoyInfo* voyage = c_.store.FindVoyage(vi);
-    if (voyage == nullptr) return -2;
+    if (voyage == nullptr) {
+        return -2;
+    }
     const TreeRow row = c_.FindVoyageRow(vi);
-    if (row == kNoRow) return -3;
+    if (row == kNoRow) {
+        return -3;
+    }
     if (on) {
-        if (ShowAis(*voyage, true) != 0) return -4;
-        if (voyage->va == 0 && c_.catalog.OpenAis(vi) != 0) return -5;
+        if (ShowAis(*voyage, true) != 0) {
+            return -4;
+        }
+        if (voyage->va == 0 && c_.catalog.OpenAis(vi) != 0) {
+            return -5;
+        }
     } else {
-        if (c_.schedule.HideAisTrack(vi) != 0) return -6;
+        if (c_.schedule.HideAisTrack(vi) != 0) {
+            return -6;
+        }
         // The server is told whatever the flag was; its refusal leaves the flag on and the track hidden.
         voyage->va = 1;
-        if (c_.catalog.CloseAis(vi) != 0) return -7;
+        if (c_.catalog.CloseAis(vi) != 0) {
+            return -7;
+        }
     }
     ShowAisItems(row, on);
     return 0;
 }
 
 int VoyagesOnChart::SetPinned(const std::string& vi, bool on) {
-    if (vi.empty()) return -1;
+    if (vi.empty()) {
+        return -1;
+    }
     VoyInfo* voyage = c_.store.FindVoyage(vi);
-    if (voyage == nullptr) return -2;
+    if (voyage == nullptr) {
+        return -2;
+    }
     const TreeRow row = c_.FindVoyageRow(vi);
-    if (row == kNoRow) return -3;
-    if (on && voyage->positionBook.points.empty()) return -4;
-    if (on && c_.catalog.OpenRoute(vi) != 0) return -5;
-    if (!on && c_.catalog.CloseRoute(vi) != 0) return -6;
+    if (row == kNoRow) {
+        return -3;
+    }
+    if (on && voyage->positionBook.points.empty()) {
+        return -4;
+    }
+    if (on && c_.catalog.OpenRoute(vi) != 0) {
+        return -5;
+    }
+    if (!on && c_.catalog.CloseRoute(vi) != 0) {
+        return -6;
+    }
     c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr1.default", !on);
     c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr1.auto", on);
     return ActivateVoyage(*voyage) == 0 ? 0 : -7;
 }
 
 void VoyagesOnChart::MarkAll() {
-    if (c_.chartMarks.size() > 1) return;
+    if (c_.chartMarks.size() > 1) {
+        return;
+    }
     for (const auto& [vi, voyage] : c_.store.voyages) {
         if (voyage.vr == 1) {
-            if (c_.schedule.ShowVoyage(vi) == 0) c_.chartMarks[vi] = {1, OnChart};
+            if (c_.schedule.ShowVoyage(vi) == 0) {
+                c_.chartMarks[vi] = {1, OnChart};
+            }
         } else {
             c_.chartMarks[vi] = {0, OffChart};
         }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/tree/TreeContext.h"
-
-#include <string>
 
 namespace Tarvik::Seaplan {
 
@@ -32,9 +32,9 @@ class VoyagesOnChart {
     void MarkAll();
 
   private:
-    void tidyOthers(const std::string& vi);
-    int redraw(const VoyInfo& voyage, VoyChartMark& mark);
-    void notice(TextId id);
+    void TidyOthers(const std::string& vi);
+    int Redraw(const VoyInfo& voyage, VoyChartMark& mark);
+    void Notice(TextId id);
 
     TreeContext& c_;
     std::string aisModVoyage_;  ///< voyage last opened for a correction

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/Rect.h"
-
 #include <string>
 #include <vector>
+
+#include "seaplan/panels/Rect.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
 
-#include <tarvik/util/StringUtl.h>
-
 #include <algorithm>
 #include <utility>
+
+#include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
 
@@ -12,10 +12,12 @@ namespace {
 
 using Util::StringUtl;
 
-std::u16string fold(const std::string& text) {
+std::u16string Fold(const std::string& text) {
     std::u16string out = StringUtl::TranslateString(text);
     for (char16_t& unit : out) {
-        if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit - u'A' + u'a');
+        if (unit >= u'A' && unit <= u'Z') {
+            unit = static_cast<char16_t>(unit - u'A' + u'a');
+        }
     }
     return out;
 }
@@ -27,7 +29,9 @@ VesselListSize VoyShipEditDlg::SizeOf(std::size_t vessels) {
     constexpr int kRow = 18;
     constexpr std::size_t kMostRows = 11;
     constexpr int kFullHeight = 203;
-    if (vessels > kMostRows) return {kWidth, kFullHeight, kWidth - 21};
+    if (vessels > kMostRows) {
+        return {kWidth, kFullHeight, kWidth - 21};
+    }
     const int height = static_cast<int>(vessels) * kRow + 5 + (vessels == 1 ? 3 : 0);
     return {kWidth, height, kWidth - 5};
 }
@@ -45,40 +49,52 @@ void VoyShipEditDlg::Hide() {
 }
 
 void VoyShipEditDlg::OnTyped(const std::string& text) {
-    const std::u16string begin = fold(text);
+    const std::u16string begin = Fold(text);
     shown_.clear();
     std::copy_if(fleet_.begin(), fleet_.end(), std::back_inserter(shown_),
-                 [&](const Interface::FleetEntry& vessel) { return fold(vessel.name).starts_with(begin); });
-    if (shown_.empty()) return view_.HideList();
+                 [&](const Interface::FleetEntry& vessel) { return Fold(vessel.name).starts_with(begin); });
+    if (shown_.empty()) {
+        return view_.HideList();
+    }
     std::vector<std::string> names;
-    for (const Interface::FleetEntry& vessel : shown_) names.push_back(vessel.name);
+    for (const Interface::FleetEntry& vessel : shown_) {
+        names.push_back(vessel.name);
+    }
     view_.ShowList(names, SizeOf(names.size()));
 }
 
 void VoyShipEditDlg::OnEnter(int selectedRow) {
-    if (view_.ListVisible()) return OnChosen(selectedRow);
-    commitTyped();
+    if (view_.ListVisible()) {
+        return OnChosen(selectedRow);
+    }
+    CommitTyped();
     Hide();
 }
 
 void VoyShipEditDlg::OnChosen(int row) {
-    if (row < 0 || row >= static_cast<int>(shown_.size())) return;
+    if (row < 0 || row >= static_cast<int>(shown_.size())) {
+        return;
+    }
     const Interface::FleetEntry vessel = shown_[row];
     view_.HideList();
     commit_(vessel, false);
 }
 
 void VoyShipEditDlg::OnLeft() {
-    if (!view_.BoxVisible()) return;
+    if (!view_.BoxVisible()) {
+        return;
+    }
     closedByPress_ = true;
     view_.HideList();
-    commitTyped();
+    CommitTyped();
     Hide();
 }
 
-void VoyShipEditDlg::commitTyped() {
+void VoyShipEditDlg::CommitTyped() {
     const std::u16string name = StringUtl::TrimLeft(StringUtl::TranslateString(view_.BoxText()));
-    if (!name.empty()) commit_({"", StringUtl::TranslateString(name), 0}, true);
+    if (!name.empty()) {
+        commit_({"", StringUtl::TranslateString(name), 0}, true);
+    }
 }
 
 }  // namespace Tarvik::Seaplan

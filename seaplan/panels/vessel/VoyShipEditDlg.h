@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/vessel/VesselView.h"
-
-#include <tarvik/interface/SiblingRecords.h>
-
 #include <functional>
 #include <string>
 #include <vector>
+
+#include <tarvik/interface/SiblingRecords.h>
+
+#include "seaplan/panels/vessel/VesselView.h"
 
 namespace Tarvik::Seaplan {
 
@@ -40,7 +40,7 @@ class VoyShipEditDlg {
     static VesselListSize SizeOf(std::size_t vessels);
 
   private:
-    void commitTyped();
+    void CommitTyped();
 
     VesselView& view_;
     Commit commit_;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/BusClient.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/plugin/BusClient.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 struct Handler {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/CompositionRoot.h"
-
-#include "testsupport/RecordingHost.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/plugin/CompositionRoot.h"
+#include "testsupport/RecordingHost.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 TEST(CompositionRootTest, InstancesAnswerWithTheSameObjects) {
@@ -42,9 +42,13 @@ TEST(CompositionRootTest, EveryNameGoesWithItsOwner) {
             VoyageStore store;
             CompositionRoot root(&store);
             root.OfferServices();
-            for (const char* name : names) EXPECT_TRUE(kernel->IsBound(name)) << name;
+            for (const char* name : names) {
+                EXPECT_TRUE(kernel->IsBound(name)) << name;
+            }
         }
-        for (const char* name : names) EXPECT_FALSE(kernel->IsBound(name)) << name;
+        for (const char* name : names) {
+            EXPECT_FALSE(kernel->IsBound(name)) << name;
+        }
     }
     kernel->SetObserver({});
     EXPECT_EQ(notices, 0);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/PlanService.h"
-
-#include "seaplan/controllers/tests/ScheduleFixture.h"
-
 #include <filesystem>
 #include <limits>
 
+#include "seaplan/controllers/tests/ScheduleFixture.h"
+#include "seaplan/plugin/PlanService.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Texts = std::vector<std::string>;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/PluginRecord.h"
-
 #include <gtest/gtest.h>
+
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/plugin/PluginRecord.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 TEST(PluginRecordTest, TellsNameVersionAndPurpose) {

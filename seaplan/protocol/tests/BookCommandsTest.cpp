@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/BookCommands.h"
-
-#include "testsupport/RecordingHost.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/protocol/BookCommands.h"
+#include "testsupport/RecordingHost.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Texts = std::vector<std::string>;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/CatalogReply.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/protocol/CatalogReply.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 VoyageStore storeOf(const std::string& json) {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/CatalogTexts.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/protocol/CatalogTexts.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 TEST(CatalogTextsTest, EveryTextIsByteExact) {

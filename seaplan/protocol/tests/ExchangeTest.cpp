@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/Exchange.h"
+#include <gtest/gtest.h>
 
+#include <tarvik/core/BusBlock.h>
+
+#include "seaplan/protocol/Exchange.h"
 #include "seaplan/protocol/StatusReply.h"
 #include "testsupport/RecordingHost.h"
 
-#include <gtest/gtest.h>
-#include <tarvik/core/BusBlock.h>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using TestSupport::RecordingHost;

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/PortCallCommands.h"
+#include <gtest/gtest.h>
 
+#include "seaplan/protocol/PortCallCommands.h"
 #include "testsupport/PortDictionary.h"
 #include "testsupport/RecordingHost.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Texts = std::vector<std::string>;
 
-VoyPortCall rowOf(const std::string& id, const std::string& name, float speed) {
+VoyPortCall RowOf(const std::string& id, const std::string& name, float speed) {
     VoyPortCall row;
     row.ppi = id;
     row.ppn = name;
@@ -92,7 +92,7 @@ TEST_F(PortCallCommandsTest, SpeedIsRoundedOnceToThirtyTwoBits) {
 }
 
 TEST_F(PortCallCommandsTest, ReplyThatDoesNotParseIsAFailedExchange) {
-    rows = {rowOf("1", "A", 10.0F), rowOf("2", "B", 10.0F)};
+    rows = {RowOf("1", "A", 10.0F), RowOf("2", "B", 10.0F)};
     host.Reply(11, "no json");
     EXPECT_EQ(SavePortCalls("77", rows), -2);
     host.Reply(6, "no json");
@@ -104,7 +104,7 @@ TEST_F(PortCallCommandsTest, ReplyThatDoesNotParseIsAFailedExchange) {
 
 TEST_F(PortCallCommandsTest, IdsAreFilledInAlsoWhenTheExchangeFails) {
     const TestSupport::PortDictionary dictionary(TestSupport::PortDictionary::Ports{{"B", "2"}});
-    rows = {rowOf("", "A", 10.0F), rowOf("", "B", 10.0F)};
+    rows = {RowOf("", "A", 10.0F), RowOf("", "B", 10.0F)};
     EXPECT_EQ(SavePortCalls("77", rows), -2);
     EXPECT_EQ(rows[0].ppi, "") << "an unknown port has no id";
     EXPECT_EQ(rows[1].ppi, "2");
@@ -112,7 +112,7 @@ TEST_F(PortCallCommandsTest, IdsAreFilledInAlsoWhenTheExchangeFails) {
 }
 
 TEST_F(PortCallCommandsTest, SavedTextIsByteExact) {
-    rows = {rowOf("1", "A", 0.0F), rowOf("2", "B", 10.0F)};
+    rows = {RowOf("1", "A", 0.0F), RowOf("2", "B", 10.0F)};
     rows[0].pp = "L";
     rows[0].apt = 12.25F;
     rows[1].pw = 0.0625F;
@@ -123,7 +123,7 @@ TEST_F(PortCallCommandsTest, SavedTextIsByteExact) {
 
 TEST_F(PortCallCommandsTest, RowWithoutIdTakesItFromTheDictionaryAndKeepsIt) {
     const TestSupport::PortDictionary dictionary(TestSupport::PortDictionary::Ports{{"A", "40389"}});
-    rows = {rowOf("", "A", 10.0F), rowOf("2", "B", 10.0F)};
+    rows = {RowOf("", "A", 10.0F), RowOf("2", "B", 10.0F)};
     host.Reply(11, "{eid:0}");
     EXPECT_EQ(SavePortCalls("77", rows), 0);
     EXPECT_EQ(rows[0].ppi, "40389");
@@ -131,9 +131,9 @@ TEST_F(PortCallCommandsTest, RowWithoutIdTakesItFromTheDictionaryAndKeepsIt) {
 }
 
 TEST_F(PortCallCommandsTest, SaveLadder) {
-    rows = {rowOf("1", "A", 10.0F)};
+    rows = {RowOf("1", "A", 10.0F)};
     EXPECT_EQ(SavePortCalls("77", rows), -1) << "one row is no schedule";
-    rows.push_back(rowOf("2", "B", 10.0F));
+    rows.push_back(RowOf("2", "B", 10.0F));
     EXPECT_EQ(SavePortCalls("", rows), -1);
     EXPECT_TRUE(host.requests.empty());
     EXPECT_EQ(SavePortCalls("77", rows), -2);

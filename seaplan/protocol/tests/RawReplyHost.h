@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstring>
+#include <string>
+#include <utility>
+
 #include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/BusContract.h>
-
-#include <cstring>
-#include <string>
-#include <utility>
 
 namespace Tarvik::Seaplan {
 
@@ -18,7 +18,7 @@ class RawReplyHost final : public Core::TObject {
     explicit RawReplyHost(std::string bytes) : bytes_(std::move(bytes)) {
         Core::TrvKernel* kernel = Core::TrvKernel::Instance();
         kernel->CreateTrvService(Interface::Bus::ServerExchange.name, this, "", "", nullptr);
-        delegate_.Set<&RawReplyHost::onExchange>(this);
+        delegate_.Set<&RawReplyHost::OnExchange>(this);
         kernel->BindTrvService(Interface::Bus::ServerExchange.name, &delegate_);
     }
     ~RawReplyHost() override {
@@ -30,7 +30,7 @@ class RawReplyHost final : public Core::TObject {
     RawReplyHost& operator=(const RawReplyHost&) = delete;
 
   private:
-    void* onExchange(void*) {
+    void* OnExchange(void*) {
         void* block = Core::AllocateBusBlock(bytes_.size());
         std::memcpy(block, bytes_.data(), bytes_.size());
         return block;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/RemarkExchange.h"
-
-#include "testsupport/RecordingHost.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/protocol/RemarkExchange.h"
+#include "testsupport/RecordingHost.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 TEST(SendRemarkTest, EnvelopeIsByteExact) {

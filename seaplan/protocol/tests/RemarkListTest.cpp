@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/RemarkList.h"
-
-#include "testsupport/ManualClock.h"
-#include "testsupport/RecordingHost.h"
-
-#include <tarvik/core/BusBlock.h>
+#include <limits>
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <tarvik/core/BusBlock.h>
+
+#include "seaplan/protocol/RemarkList.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Texts = std::vector<std::string>;

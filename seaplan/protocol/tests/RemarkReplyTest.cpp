@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/RemarkReply.h"
-
-#include "testsupport/RecordingHost.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/protocol/RemarkReply.h"
+#include "testsupport/RecordingHost.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 class RemarkReplyTest : public testing::Test {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/RemarkTexts.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/protocol/RemarkTexts.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 TEST(RemarkTextsTest, EveryTextIsByteExact) {

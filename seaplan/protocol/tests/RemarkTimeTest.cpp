@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/RemarkTime.h"
+#include <gtest/gtest.h>
 
+#include "seaplan/protocol/RemarkTime.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingHost.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 TEST(UtcTextToLocalTest, ReadsInTheZoneOfTheHost) {

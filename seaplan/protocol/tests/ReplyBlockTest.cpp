@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 // What both paths make of the reply block itself.
+#include <gtest/gtest.h>
+
 #include "RawReplyHost.h"
 #include "seaplan/protocol/Exchange.h"
 #include "seaplan/protocol/RemarkExchange.h"
 #include "seaplan/protocol/StatusReply.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace std::string_literals;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/protocol/VoyCatalogModule.h"
-
-#include "testsupport/RecordingHost.h"
+#include <functional>
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include "seaplan/protocol/VoyCatalogModule.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using Texts = std::vector<std::string>;

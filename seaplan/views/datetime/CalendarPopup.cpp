@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/datetime/CalendarPopup.h"
 
-#include "seaplan/panels/language/LoadText.h"
-#include <tarvik/skin/Palette.h>
-#include <tarvik/skin/ToolWindow.h>
-
-#include <tarvik/interface/LoadString.h>
-
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
+
+#include <tarvik/interface/LoadString.h>
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/views/ViewText.h"
 
 namespace Tarvik::Seaplan {
 
@@ -21,12 +21,8 @@ namespace {
 constexpr const char* kWeekDays[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
 constexpr int kColumns = 7;
 
-QString text(TextId id) {
-    return QString::fromStdString(Text(id));
-}
-
 /// Label of a button that the host's own section of the language file names.
-QString hostLabel(const char16_t* key, const char16_t* fallback) {
+QString HostLabel(const char16_t* key, const char16_t* fallback) {
     char16_t buffer[128] = {};
     Interface::TrvLoadString(u"TRV_Shipping", u"MainDialog", key, buffer, fallback, std::size(buffer));
     return QString::fromUtf16(buffer);
@@ -41,10 +37,10 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     rows->setContentsMargins(8, 8, 8, 8);
     rows->setSpacing(4);
     auto* head = new QHBoxLayout();
-    previousYear_ = button("previousYear", QStringLiteral("<<"), [this] { model_.StepYear(-1); });
-    previousMonth_ = button("previousMonth", QStringLiteral("<"), [this] { model_.StepMonth(-1); });
-    nextMonth_ = button("nextMonth", QStringLiteral(">"), [this] { model_.StepMonth(1); });
-    nextYear_ = button("nextYear", QStringLiteral(">>"), [this] { model_.StepYear(1); });
+    previousYear_ = Button("previousYear", QStringLiteral("<<"), [this] { model_.StepYear(-1); });
+    previousMonth_ = Button("previousMonth", QStringLiteral("<"), [this] { model_.StepMonth(-1); });
+    nextMonth_ = Button("nextMonth", QStringLiteral(">"), [this] { model_.StepMonth(1); });
+    nextYear_ = Button("nextYear", QStringLiteral(">>"), [this] { model_.StepYear(1); });
     heading_ = new QLabel(this);
     heading_->setObjectName(QStringLiteral("calendarHeading"));
     heading_->setAlignment(Qt::AlignCenter);
@@ -64,7 +60,7 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     }
     auto* group = new QButtonGroup(this);
     for (int i = 0; i < CalendarModel::kCells; ++i) {
-        cells_[i] = button("day", {}, [this, i] { model_.ClickCell(i); });
+        cells_[i] = Button("day", {}, [this, i] { model_.ClickCell(i); });
         cells_[i]->setObjectName(QStringLiteral("day%1").arg(i));
         cells_[i]->setProperty("day", true);
         cells_[i]->setCheckable(true);
@@ -73,8 +69,8 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     }
     rows->addLayout(grid);
     auto* time = new QHBoxLayout();
-    hour_ = makeTimeField("hour", true);
-    minute_ = makeTimeField("minute", false);
+    hour_ = MakeTimeField("hour", true);
+    minute_ = MakeTimeField("minute", false);
     time->addStretch(1);
     for (QWidget* widget :
          std::initializer_list<QWidget*>{hour_.minus, hour_.shown, hour_.edit, hour_.plus}) {
@@ -93,7 +89,7 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     ok_->setProperty("primary", true);
     cancel_ = new QPushButton(this);
     cancel_->setObjectName(QStringLiteral("calendarCancel"));
-    QObject::connect(ok_, &QPushButton::clicked, this, [this] { accept(); });
+    QObject::connect(ok_, &QPushButton::clicked, this, [this] { Accept(); });
     QObject::connect(cancel_, &QPushButton::clicked, this, [this] { hide(); });
     buttons->addStretch(1);
     buttons->addWidget(ok_);
@@ -104,20 +100,20 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     SetValue(Util::_datetime_t());
 }
 
-QToolButton* CalendarPopup::button(const char* name, const QString& label, std::function<void()> action) {
+QToolButton* CalendarPopup::Button(const char* name, const QString& label, std::function<void()> action) {
     auto* made = new QToolButton(this);
     made->setObjectName(QString::fromLatin1(name));
     made->setText(label);
     QObject::connect(made, &QToolButton::clicked, this, [this, action = std::move(action)] {
-        endTyping(hour_, true);
-        endTyping(minute_, false);
+        EndTyping(hour_, true);
+        EndTyping(minute_, false);
         action();
-        showModel();
+        ShowModel();
     });
     return made;
 }
 
-CalendarPopup::TimeField CalendarPopup::makeTimeField(const char* name, bool hour) {
+CalendarPopup::TimeField CalendarPopup::MakeTimeField(const char* name, bool hour) {
     TimeField field;
     const QString base = QString::fromLatin1(name);
     const auto make = [this, &base](const char* suffix, const char* label) {
@@ -134,40 +130,45 @@ CalendarPopup::TimeField CalendarPopup::makeTimeField(const char* name, bool hou
     field.edit->setObjectName(base + QStringLiteral("Edit"));
     field.edit->setMaxLength(2);
     field.edit->setFixedWidth(28);
-    for (QWidget* widget : std::initializer_list<QWidget*>{field.edit, field.minus, field.plus})
+    for (QWidget* widget : std::initializer_list<QWidget*>{field.edit, field.minus, field.plus}) {
         widget->hide();
+    }
     field.edit->installEventFilter(this);
     TimeField& kept = hour ? hour_ : minute_;
-    QObject::connect(field.shown, &QToolButton::clicked, this, [this, &kept] { beginTyping(kept); });
-    QObject::connect(field.minus, &QToolButton::clicked, this, [this, &kept, hour] { step(kept, hour, -1); });
-    QObject::connect(field.plus, &QToolButton::clicked, this, [this, &kept, hour] { step(kept, hour, 1); });
+    QObject::connect(field.shown, &QToolButton::clicked, this, [this, &kept] { BeginTyping(kept); });
+    QObject::connect(field.minus, &QToolButton::clicked, this, [this, &kept, hour] { Step(kept, hour, -1); });
+    QObject::connect(field.plus, &QToolButton::clicked, this, [this, &kept, hour] { Step(kept, hour, 1); });
     return field;
 }
 
-void CalendarPopup::beginTyping(TimeField& field) {
+void CalendarPopup::BeginTyping(TimeField& field) {
     field.edit->setText(field.shown->text());
     field.shown->hide();
-    for (QWidget* widget : std::initializer_list<QWidget*>{field.edit, field.minus, field.plus})
+    for (QWidget* widget : std::initializer_list<QWidget*>{field.edit, field.minus, field.plus}) {
         widget->show();
+    }
     field.edit->selectAll();
     field.edit->setFocus();
 }
 
-void CalendarPopup::endTyping(TimeField& field, bool hour) {
-    if (field.edit == nullptr || field.edit->isHidden()) return;
+void CalendarPopup::EndTyping(TimeField& field, bool hour) {
+    if (field.edit == nullptr || field.edit->isHidden()) {
+        return;
+    }
     const std::string typed = field.edit->text().toStdString();
     if (hour) {
         model_.TypeHour(typed);
     } else {
         model_.TypeMinute(typed);
     }
-    for (QWidget* widget : std::initializer_list<QWidget*>{field.edit, field.minus, field.plus})
+    for (QWidget* widget : std::initializer_list<QWidget*>{field.edit, field.minus, field.plus}) {
         widget->hide();
+    }
     field.shown->show();
-    showModel();
+    ShowModel();
 }
 
-void CalendarPopup::step(TimeField& field, bool hour, int by) {
+void CalendarPopup::Step(TimeField& field, bool hour, int by) {
     const std::string typed = field.edit->text().toStdString();
     if (hour) {
         model_.TypeHour(typed);
@@ -182,8 +183,8 @@ void CalendarPopup::step(TimeField& field, bool hour, int by) {
 }
 
 void CalendarPopup::mousePressEvent(QMouseEvent* event) {
-    endTyping(hour_, true);
-    endTyping(minute_, false);
+    EndTyping(hour_, true);
+    EndTyping(minute_, false);
     QFrame::mousePressEvent(event);
 }
 
@@ -192,31 +193,34 @@ bool CalendarPopup::eventFilter(QObject* watched, QEvent* event) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             const bool hour = watched == hour_.edit;
-            endTyping(hour ? hour_ : minute_, hour);
+            EndTyping(hour ? hour_ : minute_, hour);
             return true;
         }
     }
     return QFrame::eventFilter(watched, event);
 }
 
-void CalendarPopup::accept() {
-    endTyping(hour_, true);
-    endTyping(minute_, false);
+void CalendarPopup::Accept() {
+    EndTyping(hour_, true);
+    EndTyping(minute_, false);
     hide();
-    if (model_.Accept() && chosen_) chosen_(model_.Value());
+    if (model_.Accept() && chosen_) {
+        chosen_(model_.Value());
+    }
 }
 
 void CalendarPopup::SetValue(const Util::_datetime_t& value) {
     model_.SetValue(value);
     for (TimeField* field : {&hour_, &minute_}) {
-        for (QWidget* widget : std::initializer_list<QWidget*>{field->edit, field->minus, field->plus})
+        for (QWidget* widget : std::initializer_list<QWidget*>{field->edit, field->minus, field->plus}) {
             widget->hide();
+        }
         field->shown->show();
     }
-    showModel();
+    ShowModel();
 }
 
-void CalendarPopup::showModel() {
+void CalendarPopup::ShowModel() {
     heading_->setText(QString::fromStdString(model_.Heading()));
     for (int i = 0; i < CalendarModel::kCells; ++i) {
         cells_[i]->setText(QString::number(model_.DayOfCell(i)));
@@ -235,22 +239,22 @@ void CalendarPopup::showModel() {
 }
 
 void CalendarPopup::ApplyTexts() {
-    ok_->setText(hostLabel(u"IDOK", u"OK"));
-    cancel_->setText(hostLabel(u"IDCANCEL", u"Cancel"));
+    ok_->setText(HostLabel(u"IDOK", u"OK"));
+    cancel_->setText(HostLabel(u"IDCANCEL", u"Cancel"));
     Describe(ok_, ok_->text());
     Describe(cancel_, cancel_->text());
-    Describe(previousYear_, text(TextId::IDS_VIEW_PREVYEAR));
-    Describe(nextYear_, text(TextId::IDS_VIEW_NEXTYEAR));
-    Describe(previousMonth_, text(TextId::IDS_VIEW_PREVMONTH));
-    Describe(nextMonth_, text(TextId::IDS_VIEW_NEXTMONTH));
-    Describe(hour_.shown, text(TextId::IDS_VIEW_HOUR));
-    Describe(hour_.edit, text(TextId::IDS_VIEW_HOUR));
-    Describe(hour_.minus, text(TextId::IDS_VIEW_HOURUP));
-    Describe(hour_.plus, text(TextId::IDS_VIEW_HOURDOWN));
-    Describe(minute_.shown, text(TextId::IDS_VIEW_MINUTE));
-    Describe(minute_.edit, text(TextId::IDS_VIEW_MINUTE));
-    Describe(minute_.minus, text(TextId::IDS_VIEW_MINUTEUP));
-    Describe(minute_.plus, text(TextId::IDS_VIEW_MINUTEDOWN));
+    Describe(previousYear_, ViewText(TextId::IDS_VIEW_PREVYEAR));
+    Describe(nextYear_, ViewText(TextId::IDS_VIEW_NEXTYEAR));
+    Describe(previousMonth_, ViewText(TextId::IDS_VIEW_PREVMONTH));
+    Describe(nextMonth_, ViewText(TextId::IDS_VIEW_NEXTMONTH));
+    Describe(hour_.shown, ViewText(TextId::IDS_VIEW_HOUR));
+    Describe(hour_.edit, ViewText(TextId::IDS_VIEW_HOUR));
+    Describe(hour_.minus, ViewText(TextId::IDS_VIEW_HOURUP));
+    Describe(hour_.plus, ViewText(TextId::IDS_VIEW_HOURDOWN));
+    Describe(minute_.shown, ViewText(TextId::IDS_VIEW_MINUTE));
+    Describe(minute_.edit, ViewText(TextId::IDS_VIEW_MINUTE));
+    Describe(minute_.minus, ViewText(TextId::IDS_VIEW_MINUTEUP));
+    Describe(minute_.plus, ViewText(TextId::IDS_VIEW_MINUTEDOWN));
 }
 
 void CalendarPopup::ApplySkin() {

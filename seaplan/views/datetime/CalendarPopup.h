@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/datetime/CalendarModel.h"
-
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
-
 #include <array>
 #include <functional>
+
+#include "seaplan/panels/datetime/CalendarModel.h"
 
 class QPushButton;
 
@@ -39,13 +38,13 @@ class CalendarPopup final : public QFrame {
         QToolButton* minus = nullptr;
         QToolButton* plus = nullptr;
     };
-    QToolButton* button(const char* name, const QString& text, std::function<void()> action);
-    TimeField makeTimeField(const char* name, bool hour);
-    void beginTyping(TimeField& field);
-    void endTyping(TimeField& field, bool hour);
-    void step(TimeField& field, bool hour, int by);
-    void accept();
-    void showModel();
+    QToolButton* Button(const char* name, const QString& text, std::function<void()> action);
+    TimeField MakeTimeField(const char* name, bool hour);
+    void BeginTyping(TimeField& field);
+    void EndTyping(TimeField& field, bool hour);
+    void Step(TimeField& field, bool hour, int by);
+    void Accept();
+    void ShowModel();
 
     CalendarModel model_;
     std::function<void(const Util::_datetime_t&)> chosen_;

@@ -1,23 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 
-#include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/mainview/SeaplanViewDlg.h"
-#include <tarvik/interface/HelpRequest.h>
-#include <tarvik/skin/Palette.h>
-
 #include <QCheckBox>
 #include <QVBoxLayout>
 
+#include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/Palette.h>
+
+#include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/views/ViewText.h"
+
 namespace Tarvik::Seaplan {
-
-namespace {
-
-QString text(TextId id) {
-    return QString::fromStdString(Text(id));
-}
-
-}  // namespace
 
 VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
     : ToolWindow(mainView, QStringLiteral("voyagePanel")) {
@@ -48,7 +41,9 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
                        [tree](TreeRow row, const std::string& item) { tree->OnItemClicked(row, item); },
                        [tree] { tree->CommitRename(); },
                        [tree](const std::string& ci, int key) {
-                           if (tree->SetSortKey(ci, key) == 0) tree->Context().tree.HidePopups();
+                           if (tree->SetSortKey(ci, key) == 0) {
+                               tree->Context().tree.HidePopups();
+                           }
                        },
                        [panel] { panel->AddCategory(); },
                        [tree](const std::string& item) { return tree->HasCommand(item); }});
@@ -61,7 +56,9 @@ void VoyagePanelWindow::Place(const Rect& screen) {
 void VoyagePanelWindow::Show() {
     show();
     raise();
-    if (focusWidget() == nullptr) tree_->setFocus();
+    if (focusWidget() == nullptr) {
+        tree_->setFocus();
+    }
 }
 
 void VoyagePanelWindow::Hide() {
@@ -70,21 +67,21 @@ void VoyagePanelWindow::Hide() {
 }
 
 void VoyagePanelWindow::ApplyTexts() {
-    SetCaption(text(TextId::IDS_TREE_VOYTITLE));
-    Describe(filterButton_, text(TextId::IDS_TREE_DELOPERATER));
-    Describe(addButton_, text(TextId::IDS_TREE_ADDCATEGORY));
-    Describe(helpButton_, text(TextId::IDS_VOY_HELP));
-    Describe(closeButton_, text(TextId::IDS_TREE_CLOSE));
+    SetCaption(ViewText(TextId::IDS_TREE_VOYTITLE));
+    Describe(filterButton_, ViewText(TextId::IDS_TREE_DELOPERATER));
+    Describe(addButton_, ViewText(TextId::IDS_TREE_ADDCATEGORY));
+    Describe(helpButton_, ViewText(TextId::IDS_VOY_HELP));
+    Describe(closeButton_, ViewText(TextId::IDS_TREE_CLOSE));
     tree_->ApplyTexts();
     vessels_->ApplyTexts();
     if (showDeleted_ != nullptr) {
-        showDeleted_->setText(text(TextId::IDS_TREEVIEW_RECOVER));
-        Describe(showDeleted_, text(TextId::IDS_TREEVIEW_RECOVER));
+        showDeleted_->setText(ViewText(TextId::IDS_TREEVIEW_RECOVER));
+        Describe(showDeleted_, ViewText(TextId::IDS_TREEVIEW_RECOVER));
     }
     update();
 }
 
-void VoyagePanelWindow::makeFilter() {
+void VoyagePanelWindow::MakeFilter() {
     filter_ = new QFrame(this, Qt::Popup);
     filter_->setObjectName(QStringLiteral("popup"));
     filter_->setStyleSheet(SkinStyleSheet());
@@ -104,14 +101,18 @@ bool VoyagePanelWindow::FilterVisible() const {
 }
 
 void VoyagePanelWindow::ShowFilter(bool showDeleted) {
-    if (filter_ == nullptr) makeFilter();
+    if (filter_ == nullptr) {
+        MakeFilter();
+    }
     showDeleted_->setChecked(showDeleted);
     filter_->move(filterButton_->mapToGlobal(QPoint(0, filterButton_->height() + 1)));
     filter_->show();
 }
 
 void VoyagePanelWindow::HideFilter() {
-    if (filter_ != nullptr) filter_->hide();
+    if (filter_ != nullptr) {
+        filter_->hide();
+    }
 }
 
 void VoyagePanelWindow::RequestHelp(const std::string& topic, int width, int height) {
@@ -120,17 +121,23 @@ void VoyagePanelWindow::RequestHelp(const std::string& topic, int width, int hei
 
 void VoyagePanelWindow::ApplySkin() {
     ToolWindow::ApplySkin();
-    if (filter_ != nullptr) filter_->setStyleSheet(SkinStyleSheet());
+    if (filter_ != nullptr) {
+        filter_->setStyleSheet(SkinStyleSheet());
+    }
     tree_->ApplySkin();
     vessels_->ApplySkin();
 }
 
 void VoyagePanelWindow::SurfacePressed() {
-    if (panel_ != nullptr) panel_->OnSurfacePressed();
+    if (panel_ != nullptr) {
+        panel_->OnSurfacePressed();
+    }
 }
 
 void VoyagePanelWindow::CloseAsked() {
-    if (panel_ != nullptr) panel_->Hide();
+    if (panel_ != nullptr) {
+        panel_->Hide();
+    }
 }
 
 }  // namespace Tarvik::Seaplan

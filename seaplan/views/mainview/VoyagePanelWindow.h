@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/mainview/MainViewWindow.h"
 #include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/panels/mainview/MainViewWindow.h"
 #include "seaplan/views/tree/VoyageTreeView.h"
 #include "seaplan/views/vessel/VesselBox.h"
 
@@ -38,7 +39,7 @@ class VoyagePanelWindow final : public ToolWindow, public MainViewWindow {
     void CloseAsked() override;
 
   private:
-    void makeFilter();
+    void MakeFilter();
 
     VoyageTreeView* tree_;
     VesselBox* vessels_;

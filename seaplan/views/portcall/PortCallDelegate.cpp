@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/portcall/PortCallDelegate.h"
 
-#include "seaplan/panels/language/LoadText.h"
-#include "seaplan/views/portcall/PortCallModel.h"
+#include <QPainter>
+#include <array>
+
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
 
-#include <QPainter>
-
-#include <array>
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/views/portcall/PortCallModel.h"
 
 namespace Tarvik::Seaplan {
 
@@ -26,33 +26,39 @@ constexpr RowImage kImages[] = {{"itemMoveUp", "up", TextId::IDS_VIEW_MOVEUP},
 constexpr int kImageSize = 14;
 constexpr int kImageStep = 20;
 
-QRect imageRect(const QRect& cell, int image) {
+QRect ImageRect(const QRect& cell, int image) {
     QRect rect(0, 0, kImageSize, kImageSize);
     rect.moveCenter({cell.left() + 2 + kImageStep / 2 + image * kImageStep, cell.center().y()});
     return rect;
 }
 
-QColor groundOf(const QStyleOptionViewItem& option, const QModelIndex& index) {
+QColor GroundOf(const QStyleOptionViewItem& option, const QModelIndex& index) {
     const SkinPalette& skin = Skin();
-    if ((option.state & QStyle::State_Selected) != 0) return skin.selection;
-    if (index.data(PortCallModel::kTotalsRole).toBool()) return skin.window;
+    if ((option.state & QStyle::State_Selected) != 0) {
+        return skin.selection;
+    }
+    if (index.data(PortCallModel::kTotalsRole).toBool()) {
+        return skin.window;
+    }
     const auto look = static_cast<RowClass>(index.data(PortCallModel::kLookRole).toInt());
     return look == RowClass::Disabled      ? skin.history
            : look == RowClass::Highlighted ? skin.highlight
                                            : skin.panel;
 }
 
-void paintImages(QPainter& painter, const QRect& cell, const QModelIndex& index) {
-    if (!index.data(PortCallModel::kImagesRole).toBool()) return;
+void PaintImages(QPainter& painter, const QRect& cell, const QModelIndex& index) {
+    if (!index.data(PortCallModel::kImagesRole).toBool()) {
+        return;
+    }
     const auto* model = static_cast<const PortCallModel*>(index.model());
     const RowActions can = model->ActionsOf(index.row());
     const std::array<bool, std::size(kImages)> enabled = {can.moveUp, can.moveDown, can.remove};
     for (int i = 0; i < static_cast<int>(std::size(kImages)); ++i) {
-        PaintIcon(painter, imageRect(cell, i), kImages[i].icon, enabled[i] ? Skin().text : Skin().disabled);
+        PaintIcon(painter, ImageRect(cell, i), kImages[i].icon, enabled[i] ? Skin().text : Skin().disabled);
     }
 }
 
-void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
+void PaintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
     const SkinPalette& skin = Skin();
     QFont font = option.font;
     font.setPixelSize(kTablePixels);
@@ -73,11 +79,11 @@ void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QMod
 void PortCallDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
     painter->save();
-    painter->fillRect(option.rect, groundOf(option, index));
+    painter->fillRect(option.rect, GroundOf(option, index));
     if (index.column() == PortCallModel::kImageColumn) {
-        paintImages(*painter, option.rect, index);
+        PaintImages(*painter, option.rect, index);
     } else {
-        paintText(*painter, option, index);
+        PaintText(*painter, option, index);
     }
     if ((option.state & QStyle::State_HasFocus) != 0) {
         painter->setPen(Skin().accent);
@@ -88,14 +94,18 @@ void PortCallDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
 
 std::string PortCallDelegate::ImageAt(const QRect& cell, const QPoint& point) {
     for (int i = 0; i < static_cast<int>(std::size(kImages)); ++i) {
-        if (imageRect(cell, i).adjusted(-3, -3, 3, 3).contains(point)) return kImages[i].name;
+        if (ImageRect(cell, i).adjusted(-3, -3, 3, 3).contains(point)) {
+            return kImages[i].name;
+        }
     }
     return {};
 }
 
 QString PortCallDelegate::ImageTip(const std::string& name) {
     for (const RowImage& image : kImages) {
-        if (name == image.name) return QString::fromStdString(Text(image.tip));
+        if (name == image.name) {
+            return QString::fromStdString(Text(image.tip));
+        }
     }
     return {};
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QStyledItemDelegate>
-
 #include <string>
 
 namespace Tarvik::Seaplan {

@@ -5,7 +5,7 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-QVariant alignmentOf(int column) {
+QVariant AlignmentOf(int column) {
     const bool left = column == ColPort || column == ColEta || column == ColEtd;
     const bool centre = column == ColPurpose || column == ColOrder;
     const Qt::Alignment side = left ? Qt::AlignLeft : centre ? Qt::AlignHCenter : Qt::AlignRight;
@@ -16,9 +16,13 @@ QVariant alignmentOf(int column) {
 
 void PortCallModel::Show(const PortCallTable& table) {
     const bool sameShape = table_.Rows().size() == table.Rows().size();
-    if (!sameShape) beginResetModel();
+    if (!sameShape) {
+        beginResetModel();
+    }
     table_ = table;
-    if (!sameShape) return endResetModel();
+    if (!sameShape) {
+        return endResetModel();
+    }
     emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
@@ -35,12 +39,14 @@ int PortCallModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : PortCallColumnCount + 1;
 }
 
-QString PortCallModel::textOf(int row, int column) const {
+QString PortCallModel::TextOf(int row, int column) const {
     return QString::fromStdString(table_.Cell(row, column)).trimmed();
 }
 
 QVariant PortCallModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || index.row() >= rowCount()) return {};
+    if (!index.isValid() || index.row() >= rowCount()) {
+        return {};
+    }
     const int row = index.row();
     const int column = index.column();
     switch (role) {
@@ -55,26 +61,34 @@ QVariant PortCallModel::data(const QModelIndex& index, int role) const {
         default:
             break;
     }
-    if (column >= PortCallColumnCount) return {};
+    if (column >= PortCallColumnCount) {
+        return {};
+    }
     switch (role) {
         case Qt::DisplayRole:
-            return textOf(row, column);
+            return TextOf(row, column);
         case Qt::ToolTipRole:
-            return index.data(kUnknownRole).toBool() ? unknownTip_ : textOf(row, column);
+            return index.data(kUnknownRole).toBool() ? unknownTip_ : TextOf(row, column);
         case Qt::AccessibleTextRole:
             return headerData(column, Qt::Horizontal, Qt::ToolTipRole).toString() + u' ' +
-                   textOf(row, column);
+                   TextOf(row, column);
         case Qt::TextAlignmentRole:
-            return alignmentOf(column);
+            return AlignmentOf(column);
         default:
             return {};
     }
 }
 
 QVariant PortCallModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section >= titles_.size()) return {};
-    if (role == Qt::DisplayRole) return titles_.at(section);
-    if (role == Qt::ToolTipRole) return QString(titles_.at(section)).replace(u'\n', u' ');
+    if (orientation != Qt::Horizontal || section >= titles_.size()) {
+        return {};
+    }
+    if (role == Qt::DisplayRole) {
+        return titles_.at(section);
+    }
+    if (role == Qt::ToolTipRole) {
+        return QString(titles_.at(section)).replace(u'\n', u' ');
+    }
     return {};
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/portcall/PortCallTable.h"
-
 #include <QAbstractTableModel>
 #include <QStringList>
+
+#include "seaplan/panels/portcall/PortCallTable.h"
 
 namespace Tarvik::Seaplan {
 
@@ -33,7 +33,7 @@ class PortCallModel final : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
-    QString textOf(int row, int column) const;
+    QString TextOf(int row, int column) const;
 
     PortCallTable table_;
     QString unknownTip_;

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/portcall/PortCallTableView.h"
 
-#include "seaplan/views/portcall/PortCallDelegate.h"
-#include "seaplan/views/portcall/PortCallModel.h"
-
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QToolTip>
+
+#include "seaplan/views/portcall/PortCallDelegate.h"
+#include "seaplan/views/portcall/PortCallModel.h"
 
 namespace Tarvik::Seaplan {
 
@@ -42,10 +42,14 @@ PortCallTableView::PortCallTableView(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setMinimumSectionSize(20);
     horizontalHeader()->setStretchLastSection(true);
     QObject::connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
-        if (reports_.left) reports_.left();
+        if (reports_.left) {
+            reports_.left();
+        }
     });
     QObject::connect(horizontalHeader(), &QHeaderView::sectionPressed, this, [this] {
-        if (reports_.left) reports_.left();
+        if (reports_.left) {
+            reports_.left();
+        }
     });
 }
 
@@ -60,48 +64,64 @@ void PortCallTableView::ApplyWidths() {
 
 QRect PortCallTableView::EditorRect(int row, int column) const {
     QRect rect = visualRect(model()->index(row, column));
-    if (rect.bottom() >= viewport()->height()) rect.translate(0, -kRowHeight);
+    if (rect.bottom() >= viewport()->height()) {
+        rect.translate(0, -kRowHeight);
+    }
     return rect;
 }
 
 void PortCallTableView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
     setFocus(Qt::MouseFocusReason);
     const QModelIndex index = indexAt(event->pos());
     if (!index.isValid()) {
-        if (reports_.left) reports_.left();
+        if (reports_.left) {
+            reports_.left();
+        }
         return;
     }
     setCurrentIndex(index);
     if (index.column() != PortCallModel::kImageColumn) {
-        if (reports_.cellClicked) reports_.cellClicked(index.row(), index.column());
+        if (reports_.cellClicked) {
+            reports_.cellClicked(index.row(), index.column());
+        }
         return;
     }
     const std::string image = PortCallDelegate::ImageAt(visualRect(index), event->pos());
-    if (!image.empty()) pressImage(index.row(), image);
+    if (!image.empty()) {
+        PressImage(index.row(), image);
+    }
 }
 
 void PortCallTableView::keyPressEvent(QKeyEvent* event) {
     const QModelIndex index = currentIndex();
-    if (!index.isValid()) return QTableView::keyPressEvent(event);
+    if (!index.isValid()) {
+        return QTableView::keyPressEvent(event);
+    }
     const bool moves = event->modifiers().testFlag(Qt::AltModifier);
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_F2:
-            if (reports_.cellClicked) reports_.cellClicked(index.row(), index.column());
+            if (reports_.cellClicked) {
+                reports_.cellClicked(index.row(), index.column());
+            }
             return;
         case Qt::Key_Delete:
-            return pressImage(index.row(), "itemdel");
+            return PressImage(index.row(), "itemdel");
         case Qt::Key_Up:
         case Qt::Key_Down:
             if (moves) {
-                return pressImage(index.row(), event->key() == Qt::Key_Up ? "itemMoveUp" : "itemMovedown");
+                return PressImage(index.row(), event->key() == Qt::Key_Up ? "itemMoveUp" : "itemMovedown");
             }
             break;
         case Qt::Key_Escape:
             // Closes what is open over the cells.
-            if (reports_.left) reports_.left();
+            if (reports_.left) {
+                reports_.left();
+            }
             return;
         default:
             break;
@@ -109,8 +129,10 @@ void PortCallTableView::keyPressEvent(QKeyEvent* event) {
     QTableView::keyPressEvent(event);
 }
 
-void PortCallTableView::pressImage(int row, const std::string& image) {
-    if (reports_.imageClicked) reports_.imageClicked(row, image);
+void PortCallTableView::PressImage(int row, const std::string& image) {
+    if (reports_.imageClicked) {
+        reports_.imageClicked(row, image);
+    }
 }
 
 bool PortCallTableView::viewportEvent(QEvent* event) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QTableView>
-
 #include <functional>
 #include <string>
 
@@ -29,7 +28,7 @@ class PortCallTableView final : public QTableView {
     bool viewportEvent(QEvent* event) override;
 
   private:
-    void pressImage(int row, const std::string& image);
+    void PressImage(int row, const std::string& image);
 
     Reports reports_;
 };

@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/portcall/PortCallWindow.h"
 
-#include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
-#include <tarvik/interface/HelpRequest.h>
-#include <tarvik/skin/Icons.h>
-#include <tarvik/skin/Palette.h>
-
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -15,13 +9,16 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
+
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/views/ViewText.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {
-
-QString text(TextId id) {
-    return QString::fromStdString(Text(id));
-}
 
 constexpr TextId kTitles[] = {TextId::IDS_PORTCALL_ORDER,      TextId::IDS_PORTCALL_PORT,
                               TextId::IDS_PORTCALL_PURPOSE,    TextId::IDS_PORTCALL_SPEED,
@@ -41,10 +38,10 @@ PortCallWindow::PortCallWindow(QWidget* mainView, QWidget* tree)
     table_->ApplyWidths();
     table_->setMinimumHeight(34 + 9 * 20 + 4);
     Body()->addWidget(table_, 1);
-    makeSummary();
-    makeButtons();
-    makeEditors();
-    makePopups();
+    MakeSummary();
+    MakeButtons();
+    MakeEditors();
+    MakePopups();
     ApplyTexts();
     adjustSize();
     // A press anywhere outside the table ends the editing.
@@ -53,7 +50,7 @@ PortCallWindow::PortCallWindow(QWidget* mainView, QWidget* tree)
 
 PortCallWindow::~PortCallWindow() = default;
 
-PortCallWindow::Figure PortCallWindow::makeFigure(const char* name, UnitKind kind) {
+PortCallWindow::Figure PortCallWindow::MakeFigure(const char* name, UnitKind kind) {
     Figure figure;
     figure.caption = new QLabel(this);
     figure.caption->setProperty("secondary", true);
@@ -67,18 +64,18 @@ PortCallWindow::Figure PortCallWindow::makeFigure(const char* name, UnitKind kin
     // The arrow stands behind the unit.
     figure.unit->setLayoutDirection(Qt::RightToLeft);
     figure.unit->setFocusPolicy(Qt::TabFocus);
-    keepIcon(figure.unit, "chevron-down");
+    KeepIcon(figure.unit, "chevron-down");
     QObject::connect(figure.unit, &QToolButton::clicked, this,
-                     [this, button = figure.unit, kind] { openUnitMenu(button, kind); });
+                     [this, button = figure.unit, kind] { OpenUnitMenu(button, kind); });
     return figure;
 }
 
-void PortCallWindow::makeSummary() {
+void PortCallWindow::MakeSummary() {
     auto* row = new QHBoxLayout();
     row->setSpacing(kGrid);
-    speed_ = makeFigure("averageSpeed", UnitKind::Speed);
-    distance_ = makeFigure("totalDistance", UnitKind::Distance);
-    time_ = makeFigure("totalTime", UnitKind::Time);
+    speed_ = MakeFigure("averageSpeed", UnitKind::Speed);
+    distance_ = MakeFigure("totalDistance", UnitKind::Distance);
+    time_ = MakeFigure("totalTime", UnitKind::Time);
     for (const Figure* figure : {&speed_, &distance_, &time_}) {
         row->addWidget(figure->caption);
         row->addWidget(figure->value);
@@ -93,7 +90,7 @@ void PortCallWindow::makeSummary() {
     Body()->addLayout(row);
 }
 
-void PortCallWindow::makeButtons() {
+void PortCallWindow::MakeButtons() {
     auto* row = new QHBoxLayout();
     row->setSpacing(2 * kGrid);
     const auto tool = [this](const char* name, const char* icon) {
@@ -101,7 +98,7 @@ void PortCallWindow::makeButtons() {
         made->setObjectName(QString::fromLatin1(name));
         made->setFixedSize(kControlHeight + 2, kControlHeight);
         made->setFocusPolicy(Qt::TabFocus);
-        keepIcon(made, icon);
+        KeepIcon(made, icon);
         return made;
     };
     save_ = tool("saveButton", "save");
@@ -126,7 +123,7 @@ void PortCallWindow::makeButtons() {
     Body()->addLayout(row);
 }
 
-void PortCallWindow::makeEditors() {
+void PortCallWindow::MakeEditors() {
     constexpr const char* kNames[] = {"portEditor", "speedEditor", "weatherEditor"};
     constexpr int kMostCharacters = 30;
     for (int i = 0; i < 3; ++i) {
@@ -138,7 +135,7 @@ void PortCallWindow::makeEditors() {
     }
 }
 
-void PortCallWindow::makePopups() {
+void PortCallWindow::MakePopups() {
     matches_ = new QListWidget(this);
     matches_->setObjectName(QStringLiteral("portMatches"));
     matches_->setFocusPolicy(Qt::NoFocus);
@@ -163,7 +160,7 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
     QObject::connect(editors_[0], &QLineEdit::textEdited, this,
                      [panel](const QString& typed) { panel->OnPortTyped(typed.toStdString()); });
     QObject::connect(matches_, &QListWidget::itemClicked, this,
-                     [this](const QListWidgetItem* item) { takeMatch(item); });
+                     [this](const QListWidgetItem* item) { TakeMatch(item); });
     QObject::connect(purposes_, &QListWidget::itemClicked, this,
                      [this, panel](QListWidgetItem* item) { panel->OnPurposeChosen(purposes_->row(item)); });
     calendar_->SetChosen(
@@ -177,24 +174,26 @@ void PortCallWindow::ShowTable(const PortCallTable& table) {
     table_->ApplyWidths();
 }
 
-void PortCallWindow::setButton(QAbstractButton* button, bool on, TextId tip, TextId whyNot) {
+void PortCallWindow::SetButton(QAbstractButton* button, bool on, TextId tip, TextId whyNot) {
     button->setEnabled(on);
-    Describe(button, text(tip));
-    if (!on) button->setToolTip(text(tip) + QStringLiteral(": ") + text(whyNot));
+    Describe(button, ViewText(tip));
+    if (!on) {
+        button->setToolTip(ViewText(tip) + QStringLiteral(": ") + ViewText(whyNot));
+    }
 }
 
 void PortCallWindow::ShowState(const PortCallState& state) {
     state_ = state;
     SetCaption(QString::fromStdString(state.caption));
-    SetChangedMark(state.changed, text(TextId::IDS_VIEW_CHANGED));
+    SetChangedMark(state.changed, ViewText(TextId::IDS_VIEW_CHANGED));
     calculate_->setText(QString::fromStdString(state.calculateText));
     // A new text takes the button's shortcut away; the hint tells it.
     calculate_->setShortcut(QKeySequence(Qt::Key_F9));
-    setButton(save_, state.canSave, TextId::IDS_PORTCALL_SAVE, TextId::IDS_VIEW_NOCHANGES);
-    setButton(clear_, state.canClear, TextId::IDS_PORTCALL_CLEAR, TextId::IDS_VIEW_CLEAROFF);
-    setButton(calculate_, state.canCalculate, TextId::IDS_PORTCALL_COMPUTE, TextId::IDS_VIEW_NEEDTWOPORTS);
+    SetButton(save_, state.canSave, TextId::IDS_PORTCALL_SAVE, TextId::IDS_VIEW_NOCHANGES);
+    SetButton(clear_, state.canClear, TextId::IDS_PORTCALL_CLEAR, TextId::IDS_VIEW_CLEAROFF);
+    SetButton(calculate_, state.canCalculate, TextId::IDS_PORTCALL_COMPUTE, TextId::IDS_VIEW_NEEDTWOPORTS);
     // The position book has no window yet.
-    setButton(book_, false, TextId::IDS_PORTCALL_POSTBOOK,
+    SetButton(book_, false, TextId::IDS_PORTCALL_POSTBOOK,
               state.canOpenBook ? TextId::IDS_VIEW_NOTYET : TextId::IDS_VIEW_BOOKNEEDSVOYAGE);
     speed_.value->setText(QString::fromStdString(state.averageSpeed));
     distance_.value->setText(QString::fromStdString(state.totalDistance));
@@ -204,49 +203,51 @@ void PortCallWindow::ShowState(const PortCallState& state) {
     time_.unit->setText(QString::fromStdString(state.timeUnit));
     zone_->setText(state.zone.empty()
                        ? QString()
-                       : text(TextId::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(state.zone));
-    applyTitles();
+                       : ViewText(TextId::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(state.zone));
+    ApplyTitles();
 }
 
-void PortCallWindow::applyTitles() {
+void PortCallWindow::ApplyTitles() {
     QStringList titles;
     for (int column = 0; column < PortCallColumnCount; ++column) {
-        QString title = text(kTitles[column]);
+        QString title = ViewText(kTitles[column]);
         const std::string* unit = column == ColSpeed                                ? &state_.speedUnit
                                   : column == ColSteamTime || column == ColPortTime ? &state_.timeUnit
                                   : column == ColDistance                           ? &state_.distanceUnit
                                                                                     : nullptr;
-        if (unit != nullptr) title += u'\n' + QString::fromStdString(*unit);
+        if (unit != nullptr) {
+            title += u'\n' + QString::fromStdString(*unit);
+        }
         titles.append(title);
     }
     model_->SetTitles(titles);
 }
 
 void PortCallWindow::ApplyTexts() {
-    Describe(help_, text(TextId::IDS_PORTCALL_HELP));
-    Describe(close_, text(TextId::IDS_PORTCALL_CLOSE));
-    book_->setText(text(TextId::IDS_PORTCALL_POSTBOOK));
-    table_->setAccessibleName(text(TextId::IDS_VIEW_TABLE));
+    Describe(help_, ViewText(TextId::IDS_PORTCALL_HELP));
+    Describe(close_, ViewText(TextId::IDS_PORTCALL_CLOSE));
+    book_->setText(ViewText(TextId::IDS_PORTCALL_POSTBOOK));
+    table_->setAccessibleName(ViewText(TextId::IDS_VIEW_TABLE));
     const std::pair<const Figure*, std::pair<TextId, TextId>> figures[] = {
         {&speed_, {TextId::IDS_PORTCALL_AVARGERSPD, TextId::IDS_VIEW_AVERAGEHINT}},
         {&distance_, {TextId::IDS_PORTCALL_TOTLEDISTANCE, TextId::IDS_VIEW_DISTANCEHINT}},
         {&time_, {TextId::IDS_PORTCALL_TOTALTIME, TextId::IDS_VIEW_TIMEHINT}}};
     for (const auto& [figure, ids] : figures) {
-        figure->caption->setText(text(ids.first));
-        Describe(figure->value, text(ids.first));
-        Describe(figure->unit, text(ids.second));
+        figure->caption->setText(ViewText(ids.first));
+        Describe(figure->value, ViewText(ids.first));
+        Describe(figure->unit, ViewText(ids.second));
     }
-    Describe(editors_[0], text(TextId::IDS_VIEW_PORTEDITOR));
-    Describe(editors_[1], text(TextId::IDS_VIEW_SPEEDEDITOR));
-    Describe(editors_[2], text(TextId::IDS_VIEW_WEATHEREDITOR));
-    Describe(purposes_, text(TextId::IDS_VIEW_PURPOSES));
-    Describe(matches_, text(TextId::IDS_VIEW_RENAMEHINT));
-    model_->SetUnknownPortTip(text(TextId::IDS_VIEW_UNKNOWNPORT));
+    Describe(editors_[0], ViewText(TextId::IDS_VIEW_PORTEDITOR));
+    Describe(editors_[1], ViewText(TextId::IDS_VIEW_SPEEDEDITOR));
+    Describe(editors_[2], ViewText(TextId::IDS_VIEW_WEATHEREDITOR));
+    Describe(purposes_, ViewText(TextId::IDS_VIEW_PURPOSES));
+    Describe(matches_, ViewText(TextId::IDS_VIEW_RENAMEHINT));
+    model_->SetUnknownPortTip(ViewText(TextId::IDS_VIEW_UNKNOWNPORT));
     calendar_->ApplyTexts();
     ShowState(state_);
 }
 
-void PortCallWindow::openUnitMenu(QToolButton* button, UnitKind kind) {
+void PortCallWindow::OpenUnitMenu(QToolButton* button, UnitKind kind) {
     constexpr const char* kUnits[][2] = {{"kts", "KPH"}, {"NM", "KM"}, {"day", "hour"}};
     panel_->OnTableLeft();
     auto* menu = new QMenu(this);
@@ -262,8 +263,12 @@ void PortCallWindow::openUnitMenu(QToolButton* button, UnitKind kind) {
 void PortCallWindow::Show() {
     show();
     raise();
-    if (focusWidget() != nullptr && focusWidget()->isVisible()) return;
-    if (!table_->currentIndex().isValid()) table_->setCurrentIndex(model_->index(0, ColPort));
+    if (focusWidget() != nullptr && focusWidget()->isVisible()) {
+        return;
+    }
+    if (!table_->currentIndex().isValid()) {
+        table_->setCurrentIndex(model_->index(0, ColPort));
+    }
     table_->setFocus();
 }
 
@@ -280,7 +285,9 @@ void PortCallWindow::Hide() {
 }
 
 void PortCallWindow::PlaceBesideTree() {
-    if (tree_ == nullptr) return;
+    if (tree_ == nullptr) {
+        return;
+    }
     const QPoint corner = tree_->mapToGlobal(QPoint(tree_->width(), 0));
     move(corner.x() + 9, corner.y() + 30);
 }
@@ -308,11 +315,15 @@ void PortCallWindow::ApplySkin() {
 }
 
 void PortCallWindow::SurfacePressed() {
-    if (panel_ != nullptr) panel_->OnTableLeft();
+    if (panel_ != nullptr) {
+        panel_->OnTableLeft();
+    }
 }
 
 void PortCallWindow::CloseAsked() {
-    if (panel_ != nullptr) panel_->OnClose();
+    if (panel_ != nullptr) {
+        panel_->OnClose();
+    }
 }
 
 }  // namespace Tarvik::Seaplan

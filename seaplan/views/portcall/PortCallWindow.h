@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPointer>
+#include <array>
+
+#include <tarvik/skin/ToolWindow.h>
+
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/views/datetime/CalendarPopup.h"
 #include "seaplan/views/portcall/PortCallModel.h"
 #include "seaplan/views/portcall/PortCallTableView.h"
-#include <tarvik/skin/ToolWindow.h>
-
-#include <QPointer>
-
-#include <array>
 
 class QLineEdit;
 class QListWidget;
@@ -71,19 +71,19 @@ class PortCallWindow final : public ToolWindow, public PortCallView {
         QLabel* value = nullptr;
         QToolButton* unit = nullptr;
     };
-    void makeButtons();
-    void makeSummary();
-    void makeEditors();
-    void makePopups();
-    Figure makeFigure(const char* name, UnitKind kind);
-    void openUnitMenu(QToolButton* button, UnitKind kind);
-    void applyTitles();
-    bool editorKey(int editor, int key);
-    bool purposeKey(int key);
-    void moveMatch(int by);
-    void takeMatch(const QListWidgetItem* item);
-    bool pressedOutside(const QObject* watched) const;
-    void setButton(QAbstractButton* button, bool on, TextId tip, TextId whyNot);
+    void MakeButtons();
+    void MakeSummary();
+    void MakeEditors();
+    void MakePopups();
+    Figure MakeFigure(const char* name, UnitKind kind);
+    void OpenUnitMenu(QToolButton* button, UnitKind kind);
+    void ApplyTitles();
+    bool EditorKey(int editor, int key);
+    bool PurposeKey(int key);
+    void MoveMatch(int by);
+    void TakeMatch(const QListWidgetItem* item);
+    bool PressedOutside(const QObject* watched) const;
+    void SetButton(QAbstractButton* button, bool on, TextId tip, TextId whyNot);
 
     CPortCallPanelDlg* panel_ = nullptr;
     QWidget* tree_;

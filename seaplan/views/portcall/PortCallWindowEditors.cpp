@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
-#include "seaplan/panels/portcall/PurposeList.h"
-#include "seaplan/views/portcall/MatchEvents.h"
-#include "seaplan/views/portcall/PortCallWindow.h"
-
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-
 #include <algorithm>
+
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/portcall/PurposeList.h"
+#include "seaplan/views/portcall/MatchEvents.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 
 namespace Tarvik::Seaplan {
 
@@ -20,12 +19,12 @@ constexpr int kListRow = 23;
 constexpr int kMostRows = 6;
 
 /// Whether a key starts a command of the panel: F9 calculates, Ctrl+S saves.
-bool startsCommand(const QKeyEvent& key) {
+bool StartsCommand(const QKeyEvent& key) {
     return key.key() == Qt::Key_F9 || (key.key() == Qt::Key_S && key.modifiers() == Qt::ControlModifier);
 }
 
 /// Height of a list of names, with its frame.
-int listHeight(int rows) {
+int ListHeight(int rows) {
     return std::min(rows, kMostRows) * kListRow + 2;
 }
 
@@ -53,11 +52,15 @@ void PortCallWindow::HideEditor(CellEditor editor) {
     const int i = static_cast<int>(editor);
     // Hiding takes the focus away, and that must not count as leaving an open editor.
     open_[i] = false;
-    if (editors_[i] == nullptr || editors_[i]->isHidden()) return;
+    if (editors_[i] == nullptr || editors_[i]->isHidden()) {
+        return;
+    }
     const bool focused = editors_[i]->hasFocus();
     editors_[i]->hide();
     editors_[i]->clear();
-    if (focused) table_->setFocus();
+    if (focused) {
+        table_->setFocus();
+    }
 }
 
 std::string PortCallWindow::EditorText(CellEditor editor) const {
@@ -66,10 +69,12 @@ std::string PortCallWindow::EditorText(CellEditor editor) const {
 
 void PortCallWindow::ShowMatches(const std::vector<std::string>& names) {
     matches_->clear();
-    for (const std::string& name : names) matches_->addItem(QString::fromStdString(name));
+    for (const std::string& name : names) {
+        matches_->addItem(QString::fromStdString(name));
+    }
     const QLineEdit* edit = editors_[0];
     const QPoint place = edit->mapTo(this, QPoint(0, edit->height()));
-    matches_->setGeometry(place.x(), place.y(), 200, listHeight(static_cast<int>(names.size())));
+    matches_->setGeometry(place.x(), place.y(), 200, ListHeight(static_cast<int>(names.size())));
     matches_->setCurrentRow(-1);
     matches_->show();
     matches_->raise();
@@ -107,7 +112,9 @@ void PortCallWindow::HideMatchWindow(void* window) {
 
 void PortCallWindow::OpenPurposes(int row) {
     if (purposes_->count() == 0) {
-        for (const Purpose& purpose : kPurposes) purposes_->addItem(QString::fromLatin1(purpose.text));
+        for (const Purpose& purpose : kPurposes) {
+            purposes_->addItem(QString::fromLatin1(purpose.text));
+        }
     }
     const QRect cell = table_->EditorRect(row, ColPurpose);
     const int height = static_cast<int>(kPurposes.size()) * kListRow + 2;
@@ -124,7 +131,9 @@ void PortCallWindow::OpenPurposes(int row) {
 void PortCallWindow::HidePurposes() {
     const bool focused = purposes_->hasFocus();
     purposes_->hide();
-    if (focused) table_->setFocus();
+    if (focused) {
+        table_->setFocus();
+    }
 }
 
 void PortCallWindow::OpenPicker(int row, int column, const Util::_datetime_t& time) {
@@ -139,18 +148,18 @@ void PortCallWindow::HidePicker() {
     calendar_->hide();
 }
 
-void PortCallWindow::moveMatch(int by) {
+void PortCallWindow::MoveMatch(int by) {
     const int row = std::clamp(matches_->currentRow() + by, 0, matches_->count() - 1);
     matches_->setCurrentRow(row);
     panel_->OnMatchMoved(matches_->item(row)->text().toStdString(), false);
 }
 
-void PortCallWindow::takeMatch(const QListWidgetItem* item) {
+void PortCallWindow::TakeMatch(const QListWidgetItem* item) {
     panel_->OnMatchMoved(item->text().toStdString(), false);
     panel_->OnMatchChosen();
 }
 
-bool PortCallWindow::editorKey(int editor, int key) {
+bool PortCallWindow::EditorKey(int editor, int key) {
     const auto kind = static_cast<CellEditor>(editor);
     switch (key) {
         case Qt::Key_Tab:
@@ -162,33 +171,41 @@ bool PortCallWindow::editorKey(int editor, int key) {
             return true;
         case Qt::Key_Down:
         case Qt::Key_Up:
-            if (kind != CellEditor::Port || matches_->isHidden()) return false;
-            moveMatch(key == Qt::Key_Down ? 1 : -1);
+            if (kind != CellEditor::Port || matches_->isHidden()) {
+                return false;
+            }
+            MoveMatch(key == Qt::Key_Down ? 1 : -1);
             return true;
         case Qt::Key_Escape:
             panel_->OnEditorKey(kind, EditorKey::Escape);
             return true;
         case Qt::Key_Backspace:
-            if (kind == CellEditor::Port) panel_->OnPortBackspace();
+            if (kind == CellEditor::Port) {
+                panel_->OnPortBackspace();
+            }
             return false;
         default:
             return false;
     }
 }
 
-bool PortCallWindow::purposeKey(int key) {
+bool PortCallWindow::PurposeKey(int key) {
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
         panel_->OnPurposeChosen(purposes_->currentRow());
         return true;
     }
-    if (key != Qt::Key_Escape) return false;
+    if (key != Qt::Key_Escape) {
+        return false;
+    }
     HidePurposes();
     return true;
 }
 
-bool PortCallWindow::pressedOutside(const QObject* watched) const {
+bool PortCallWindow::PressedOutside(const QObject* watched) const {
     const auto* widget = qobject_cast<const QWidget*>(watched);
-    if (widget == nullptr) return false;
+    if (widget == nullptr) {
+        return false;
+    }
     const auto within = [widget](const QWidget* parent) {
         return widget == parent || parent->isAncestorOf(widget);
     };
@@ -210,29 +227,35 @@ bool PortCallWindow::event(QEvent* event) {
 }
 
 bool PortCallWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (panel_ == nullptr) return ToolWindow::eventFilter(watched, event);
+    if (panel_ == nullptr) {
+        return ToolWindow::eventFilter(watched, event);
+    }
     const bool editing = open_[0] || open_[1] || open_[2] || purposes_->isVisible();
-    if (editing && event->type() == QEvent::MouseButtonPress && pressedOutside(watched)) {
+    if (editing && event->type() == QEvent::MouseButtonPress && PressedOutside(watched)) {
         panel_->OnTableLeft();
         return false;
     }
     if (watched == purposes_ && event->type() == QEvent::KeyPress &&
-        purposeKey(static_cast<QKeyEvent*>(event)->key())) {
+        PurposeKey(static_cast<QKeyEvent*>(event)->key())) {
         return true;
     }
     for (int i = 0; i < static_cast<int>(editors_.size()); ++i) {
-        if (watched != editors_[i]) continue;
+        if (watched != editors_[i]) {
+            continue;
+        }
         // Only the text just typed may make the command possible, so it is taken before the shortcut is
         // looked up.
         if (event->type() == QEvent::ShortcutOverride && open_[i] &&
-            startsCommand(*static_cast<QKeyEvent*>(event))) {
+            StartsCommand(*static_cast<QKeyEvent*>(event))) {
             panel_->OnTableLeft();
             break;
         }
-        if (event->type() == QEvent::KeyPress && editorKey(i, static_cast<QKeyEvent*>(event)->key()))
+        if (event->type() == QEvent::KeyPress && EditorKey(i, static_cast<QKeyEvent*>(event)->key())) {
             return true;
-        if (event->type() == QEvent::FocusOut && open_[i])
+        }
+        if (event->type() == QEvent::FocusOut && open_[i]) {
             panel_->OnEditorFocusLost(static_cast<CellEditor>(i));
+        }
         break;
     }
     return ToolWindow::eventFilter(watched, event);

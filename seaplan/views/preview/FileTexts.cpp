@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/preview/FileTexts.h"
 
-#include <tarvik/util/StringUtl.h>
-
 #include <fstream>
+
 #include <nlohmann/json.hpp>
+
+#include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
 
@@ -13,7 +14,9 @@ FileTexts::FileTexts(const std::string& path) {
     const auto root = nlohmann::json::parse(in, nullptr, false);
     if (root.is_object()) {
         for (const auto& [section, keys] : root.items()) {
-            for (const auto& [key, text] : keys.items()) texts_[{section, key}] = text.get<std::string>();
+            for (const auto& [key, text] : keys.items()) {
+                texts_[{section, key}] = text.get<std::string>();
+            }
         }
     }
     Set(this);
@@ -23,7 +26,9 @@ std::optional<std::u16string> FileTexts::Find(const std::u16string& section, con
                                               const std::u16string& key) const {
     const auto found =
         texts_.find({Util::StringUtl::TranslateString(section), Util::StringUtl::TranslateString(key)});
-    if (found == texts_.end()) return std::nullopt;
+    if (found == texts_.end()) {
+        return std::nullopt;
+    }
     return Util::StringUtl::TranslateString(found->second);
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/LoadString.h>
-
 #include <map>
 #include <string>
 #include <utility>
+
+#include <tarvik/interface/LoadString.h>
 
 namespace Tarvik::Seaplan {
 

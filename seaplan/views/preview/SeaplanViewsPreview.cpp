@@ -1,20 +1,19 @@
 // SPDX-License-Identifier: MIT
 // Shows the panels with sample voyages, or draws them into a picture, to look at them without client and
 // server.
-#include "seaplan/views/VoyageViews.h"
-#include "seaplan/views/preview/FileTexts.h"
-#include "seaplan/views/preview/SampleVoyages.h"
-#include <tarvik/skin/Palette.h>
-#include "testsupport/ManualClock.h"
-
-#include <tarvik/interface/BusContract.h>
-
 #include <QApplication>
 #include <QLineEdit>
 #include <QPainter>
-
 #include <algorithm>
 #include <cstdio>
+
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/skin/Palette.h>
+
+#include "seaplan/views/VoyageViews.h"
+#include "seaplan/views/preview/FileTexts.h"
+#include "seaplan/views/preview/SampleVoyages.h"
+#include "testsupport/ManualClock.h"
 
 namespace {
 
@@ -35,12 +34,16 @@ std::string option(const QStringList& arguments, const char* name, const char* f
     return (at < 0 ? QString::fromLatin1(fallback) : arguments.value(at + 1)).toStdString();
 }
 
-TreeRow rowOf(TreeRows& rows, const std::string& text) {
+TreeRow RowOf(TreeRows& rows, const std::string& text) {
     for (TreeRow row = rows.GetRootItem(); row != kNoRow; row = rows.GetNextSiblingItem(row)) {
-        if (rows.GetItemText(row) == text) return row;
+        if (rows.GetItemText(row) == text) {
+            return row;
+        }
         for (TreeRow child = rows.GetChildItem(row); child != kNoRow;
              child = rows.GetNextSiblingItem(child)) {
-            if (rows.GetItemText(child) == text) return child;
+            if (rows.GetItemText(child) == text) {
+                return child;
+            }
         }
     }
     return kNoRow;
@@ -48,43 +51,65 @@ TreeRow rowOf(TreeRows& rows, const std::string& text) {
 
 void press(VoyageViews& views, const std::string& text) {
     TreeRows& rows = views.VoyageWindow()->Tree().Rows();
-    const TreeRow row = rowOf(rows, text);
-    if (rows.GetParentItem(row) == kNoRow) rows.SetExpanded(row, true);
+    const TreeRow row = RowOf(rows, text);
+    if (rows.GetParentItem(row) == kNoRow) {
+        rows.SetExpanded(row, true);
+    }
     views.Tree().OnRowPressed(row);
 }
 
 void click(VoyageViews& views, const std::string& text, const std::string& item) {
-    views.Tree().OnItemClicked(rowOf(views.VoyageWindow()->Tree().Rows(), text), item);
+    views.Tree().OnItemClicked(RowOf(views.VoyageWindow()->Tree().Rows(), text), item);
     QApplication::processEvents();
 }
 
 void playPortCalls(VoyageViews& views, const std::string& scene) {
     CPortCallPanelDlg& panel = views.PortCalls();
-    if (scene == "edit") panel.OnCellClicked(2, ColSpeed);
+    if (scene == "edit") {
+        panel.OnCellClicked(2, ColSpeed);
+    }
     if (scene == "matches") {
         panel.OnCellClicked(5, ColPort);
         views.PortCallsWindow()->findChild<QLineEdit*>("portEditor")->setText("RO");
         panel.OnPortTyped("RO");
     }
-    if (scene == "purposes") panel.OnCellClicked(1, ColPurpose);
-    if (scene == "calendar") panel.OnCellClicked(1, ColEtd);
-    if (scene == "voyage") panel.OnItemImage(3, "itemMoveUp");
+    if (scene == "purposes") {
+        panel.OnCellClicked(1, ColPurpose);
+    }
+    if (scene == "calendar") {
+        panel.OnCellClicked(1, ColEtd);
+    }
+    if (scene == "voyage") {
+        panel.OnItemImage(3, "itemMoveUp");
+    }
 }
 
 void play(VoyageViews& views, const std::string& scene) {
     const Tarvik::Interface::PanelShow show{3, 0};
     Tarvik::Interface::Raise(Bus::ShowPanel, &show);
     QApplication::processEvents();
-    if (scene == "empty") return;
-    if (scene == "bin") views.Panel().SetShowDeleted(true);
+    if (scene == "empty") {
+        return;
+    }
+    if (scene == "bin") {
+        views.Panel().SetShowDeleted(true);
+    }
     press(views, "Container 2024");
     QApplication::processEvents();
-    if (scene == "category") return;
+    if (scene == "category") {
+        return;
+    }
     press(views, scene == "bin" ? "Baltic feeder" : "Far East 12");
     QApplication::processEvents();
-    if (scene == "rename") click(views, "Far East 12", "Voyage_child_rename");
-    if (scene == "vessel") click(views, "Far East 12", "Voyage_ReplaceShip");
-    if (scene == "tree" || scene == "bin" || scene == "rename" || scene == "vessel") return;
+    if (scene == "rename") {
+        click(views, "Far East 12", "Voyage_child_rename");
+    }
+    if (scene == "vessel") {
+        click(views, "Far East 12", "Voyage_ReplaceShip");
+    }
+    if (scene == "tree" || scene == "bin" || scene == "rename" || scene == "vessel") {
+        return;
+    }
     click(views, "Far East 12", "Voyage.child.svr4");
     playPortCalls(views, scene);
 }
@@ -99,7 +124,9 @@ QImage picture() {
         return a->windowType() != Qt::Popup && b->windowType() == Qt::Popup;
     });
     for (QWidget* window : windows) {
-        if (window->isVisible()) painter.drawPixmap(window->pos() - QPoint(60, 120), window->grab());
+        if (window->isVisible()) {
+            painter.drawPixmap(window->pos() - QPoint(60, 120), window->grab());
+        }
     }
     return image;
 }
@@ -110,23 +137,31 @@ int main(int argc, char** argv) {
     QApplication::setStyle("Fusion");
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.contains("--help")) return usage();
+    if (arguments.contains("--help")) {
+        return usage();
+    }
     QFont font("Noto Sans");
     font.setPixelSize(kTextPixels);
     QApplication::setFont(font);
     const std::string language = option(arguments, "--lang", "en-US");
     const FileTexts texts(std::string(SEAPLAN_LANG_DIR) + "/" + language + ".json");
-    if (texts.Empty()) return usage();
+    if (texts.Empty()) {
+        return usage();
+    }
     SetTheme(ThemeNamed(QString::fromStdString(option(arguments, "--theme", "light"))));
     Tarvik::TestSupport::ManualClock clock;
     VoyageStore store;
     FakeCatalog catalog(store);
     FakeSchedule schedule(store);
     const std::string scene = option(arguments, "--scene", "voyage");
-    if (scene != "empty") AddSampleVoyages(catalog, schedule);
+    if (scene != "empty") {
+        AddSampleVoyages(catalog, schedule);
+    }
     VoyageViews views({store, catalog, schedule, SamplePorts(), nullptr});
     play(views, scene);
-    if (!arguments.contains("--png")) return QApplication::exec();
+    if (!arguments.contains("--png")) {
+        return QApplication::exec();
+    }
     QApplication::processEvents();
     return picture().save(QString::fromStdString(option(arguments, "--png", ""))) ? 0 : 1;
 }

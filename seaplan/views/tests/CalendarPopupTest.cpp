@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/datetime/CalendarPopup.h"
-#include "seaplan/views/preview/FileTexts.h"
-#include "testsupport/ManualClock.h"
+#include <QAbstractButton>
+#include <QTest>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QTest>
-
-#include <vector>
+#include "seaplan/views/datetime/CalendarPopup.h"
+#include "seaplan/views/preview/FileTexts.h"
+#include "testsupport/ManualClock.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/TextKeys.h"
-#include "seaplan/views/preview/FileTexts.h"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <set>
 #include <string>
+
+#include <gtest/gtest.h>
+
+#include "seaplan/panels/TextKeys.h"
+#include "seaplan/views/preview/FileTexts.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/portcall/MatchEvents.h"
-#include "seaplan/views/tests/ViewsFixture.h"
-
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QWindow>
+
+#include "seaplan/views/portcall/MatchEvents.h"
+#include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {
 
@@ -51,15 +51,18 @@ TEST_F(PortCallWindowTest, ItOpensBesideTheTreeWithTheVoyagesRows) {
     EXPECT_EQ(Cell(6, ColOrder), "RES");
     EXPECT_EQ(Find<QLabel>(PortCalls(), "totalDistance")->text(), "10507.0");
     const int widths[] = {35, 120, 40, 45, 55, 55, 55, 125, 125, 60};
-    for (int column = 0; column < PortCallColumnCount; ++column)
+    for (int column = 0; column < PortCallColumnCount; ++column) {
         EXPECT_EQ(Table().columnWidth(column), widths[column]) << column;
+    }
     EXPECT_EQ(Table().rowHeight(0), 20);
 }
 
 TEST_F(PortCallWindowTest, EveryControlHasAnAccessibleNameAndATip) {
     OpenPortCalls("Far East 12");
     for (QAbstractButton* button : PortCalls().findChildren<QAbstractButton*>()) {
-        if (button->objectName().startsWith("qt_") || button->parentWidget() == &Table()) continue;
+        if (button->objectName().startsWith("qt_") || button->parentWidget() == &Table()) {
+            continue;
+        }
         EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
         EXPECT_FALSE(button->toolTip().isEmpty()) << button->objectName().toStdString();
         EXPECT_FALSE(button->objectName().isEmpty());
@@ -263,8 +266,9 @@ TEST_F(PortCallWindowTest, AnUnknownPortTellsSo) {
 
 TEST_F(PortCallWindowTest, ScrollingEndsTheEditing) {
     OpenPortCalls("Far East 12");
-    for (int row = 5; row < 14; ++row)
+    for (int row = 5; row < 14; ++row) {
         ClickCell(5, ColSteamTime), views.PortCalls().OnCellClicked(row, ColOrder);
+    }
     ClickCell(1, ColSpeed);
     ASSERT_TRUE(SpeedEditor().isVisible());
     SpeedEditor().setText("14");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <tarvik/skin/Icons.h>
+
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "seaplan/views/tree/RowDelegate.h"
 
@@ -10,7 +11,9 @@ namespace {
 std::vector<std::string> namesOf(const std::vector<SubItem>& parts) {
     std::vector<std::string> out;
     out.reserve(parts.size());
-    for (const SubItem& part : parts) out.push_back(part.name);
+    for (const SubItem& part : parts) {
+        out.push_back(part.name);
+    }
     return out;
 }
 
@@ -70,7 +73,9 @@ TEST_F(ViewsFixture, HiddenItemsHaveNoPart) {
 TEST_F(ViewsFixture, TextsOfARowAreNotCut) {
     OpenVoyage("Far East 12");
     for (const SubItem& part : Tree().PartsOf(RowOf("Far East 12"))) {
-        if (part.text.isEmpty()) continue;
+        if (part.text.isEmpty()) {
+            continue;
+        }
         const QFontMetrics metrics(PartFont(Tree().font(), part.kind));
         EXPECT_LE(metrics.horizontalAdvance(part.text), part.rect.width()) << part.name;
     }
@@ -81,7 +86,9 @@ TEST_F(ViewsFixture, EveryItemHasAnIconAndATip) {
     for (const char* name : {"Container 2024", "Far East 12"}) {
         ClickRow(name);
         for (const SubItem& part : Tree().PartsOf(RowOf(name))) {
-            if (part.kind != SubItemKind::Icon) continue;
+            if (part.kind != SubItemKind::Icon) {
+                continue;
+            }
             EXPECT_TRUE(HasIcon(part.icon)) << part.name;
             EXPECT_TRUE(!part.clickable || !part.toolTip.isEmpty()) << part.name;
         }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/tests/ViewsFixture.h"
+#include <QListWidget>
 
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 
-#include <QListWidget>
+#include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {
 

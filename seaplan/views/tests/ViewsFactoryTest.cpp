@@ -1,24 +1,22 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/ViewsFactory.h"
+#include <QAbstractButton>
+#include <QWidget>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/Palette.h>
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
-#include <tarvik/interface/HelpRequest.h>
+#include "seaplan/views/ViewsFactory.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
-#include <tarvik/skin/Palette.h>
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingHost.h"
-
-#include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
-
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QWidget>
-
-#include <string>
 
 namespace Tarvik::Seaplan {
 
@@ -31,7 +29,9 @@ class HelpWatcher : public QObject {
 
   protected:
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != static_cast<QEvent::Type>(1030)) return false;
+        if (event->type() != static_cast<QEvent::Type>(1030)) {
+            return false;
+        }
         const auto& block = static_cast<HelpRequestEvent*>(event)->block;
         asked = block.topic + (" " + std::to_string(block.width)) + " " + std::to_string(block.height);
         return true;
@@ -91,7 +91,9 @@ TEST_F(ViewsFactoryTest, AVoyageCanBeCorrectedByItsShipsPosition) {
     tree.Widget().SelectItem(voyage);
     bool offered = false;
     for (const SubItem& part : tree.PartsOf(voyage)) {
-        if (part.name == "Voyage_modify") offered = part.enabled;
+        if (part.name == "Voyage_modify") {
+            offered = part.enabled;
+        }
     }
     EXPECT_TRUE(offered);
 }

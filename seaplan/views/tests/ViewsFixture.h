@@ -1,25 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tests/FakeCommands.h"
-#include "seaplan/views/VoyageViews.h"
-#include "seaplan/views/preview/FileTexts.h"
-#include "seaplan/views/preview/SampleVoyages.h"
-#include <tarvik/skin/Palette.h>
-#include "testsupport/ManualClock.h"
-#include "testsupport/RecordingMsgSink.h"
-
-#include <tarvik/interface/BusContract.h>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
-
 #include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/skin/Palette.h>
+
+#include "seaplan/panels/tests/FakeCommands.h"
+#include "seaplan/views/VoyageViews.h"
+#include "seaplan/views/preview/FileTexts.h"
+#include "seaplan/views/preview/SampleVoyages.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 
@@ -52,10 +51,14 @@ class ViewsFixture : public ::testing::Test {
 
     TreeRow RowOf(const std::string& text) {
         for (TreeRow row = Rows().GetRootItem(); row != kNoRow; row = Rows().GetNextSiblingItem(row)) {
-            if (Rows().GetItemText(row) == text) return row;
+            if (Rows().GetItemText(row) == text) {
+                return row;
+            }
             for (TreeRow child = Rows().GetChildItem(row); child != kNoRow;
                  child = Rows().GetNextSiblingItem(child)) {
-                if (Rows().GetItemText(child) == text) return child;
+                if (Rows().GetItemText(child) == text) {
+                    return child;
+                }
             }
         }
         return kNoRow;
@@ -65,7 +68,9 @@ class ViewsFixture : public ::testing::Test {
     /// Clicks a part of a row by its name.
     void ClickPart(const std::string& text, const std::string& name) {
         for (const SubItem& part : Tree().PartsOf(RowOf(text))) {
-            if (part.name != name) continue;
+            if (part.name != name) {
+                continue;
+            }
             QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, part.rect.center());
             QApplication::processEvents();
             return;
@@ -74,7 +79,9 @@ class ViewsFixture : public ::testing::Test {
     }
     bool Shows(const std::string& text, const std::string& name) {
         for (const SubItem& part : Tree().PartsOf(RowOf(text))) {
-            if (part.name == name) return true;
+            if (part.name == name) {
+                return true;
+            }
         }
         return false;
     }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/tests/ViewsFixture.h"
-
 #include <QCheckBox>
 #include <QContextMenuEvent>
 #include <QRadioButton>
+
+#include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {
 
@@ -95,7 +95,9 @@ TEST_F(ViewsFixture, TheArrowOfARefusedPressDoesNotClick) {
     OpenVoyage("Far East 12");
     const auto before = catalog.calls;
     for (const SubItem& part : Tree().PartsOf(RowOf("Far East 12"))) {
-        if (part.name != "Voyage.child.svr9") continue;
+        if (part.name != "Voyage.child.svr9") {
+            continue;
+        }
         QTest::mousePress(Tree().viewport(), Qt::LeftButton, {}, part.rect.center());
         QTest::mouseRelease(Tree().viewport(), Qt::LeftButton, {}, QPoint(100, 380));
     }
@@ -162,7 +164,9 @@ TEST_F(ViewsFixture, TabWalksTheItemsOfTheSelectedRow) {
 TEST_F(ViewsFixture, TheMenuOfARowHasItsCommands) {
     OpenVoyage("Far East 12");
     for (const SubItem& part : Tree().PartsOf(RowOf("Far East 12"))) {
-        if (part.name != "name") continue;
+        if (part.name != "name") {
+            continue;
+        }
         QContextMenuEvent event(QContextMenuEvent::Mouse, part.rect.center(),
                                 Tree().viewport()->mapToGlobal(part.rect.center()));
         QApplication::sendEvent(Tree().viewport(), &event);
@@ -173,7 +177,9 @@ TEST_F(ViewsFixture, TheMenuOfARowHasItsCommands) {
     QAction* open = nullptr;
     for (QAction* action : menu->actions()) {
         EXPECT_FALSE(action->text().isEmpty());
-        if (action->text() == "Port calls") open = action;
+        if (action->text() == "Port calls") {
+            open = action;
+        }
     }
     ASSERT_NE(open, nullptr);
     open->trigger();
@@ -205,7 +211,9 @@ TEST_F(ViewsFixture, ADeletedVoyageIsRecovered) {
 }
 
 TEST_F(ViewsFixture, TheSortPanelSortsByDate) {
-    for (auto& [vi, rows] : schedule.onServer) catalog.onServer.voyages[vi].portCalls = rows;
+    for (auto& [vi, rows] : schedule.onServer) {
+        catalog.onServer.voyages[vi].portCalls = rows;
+    }
     Toggle();
     ClickRow("Container 2024");
     ClickPart("Container 2024", "Voyage.parent.svr9");

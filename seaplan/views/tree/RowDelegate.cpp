@@ -3,26 +3,41 @@
 
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
+
 #include "seaplan/views/tree/VoyageTreeView.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-QColor iconColour(const SubItem& part) {
+QColor IconColour(const SubItem& part) {
     const SkinPalette& skin = Skin();
-    if (!part.enabled) return skin.disabled;
-    if (part.icon == "plan") return skin.plan;
-    if (part.icon == "underway") return skin.underway;
-    if (part.icon == "finish") return skin.finished;
-    if (part.icon == "alert") return skin.warning;
-    if (part.icon == "pinned" || part.icon == "ais-on") return skin.accent;
+    if (!part.enabled) {
+        return skin.disabled;
+    }
+    if (part.icon == "plan") {
+        return skin.plan;
+    }
+    if (part.icon == "underway") {
+        return skin.underway;
+    }
+    if (part.icon == "finish") {
+        return skin.finished;
+    }
+    if (part.icon == "alert") {
+        return skin.warning;
+    }
+    if (part.icon == "pinned" || part.icon == "ais-on") {
+        return skin.accent;
+    }
     return part.clickable ? skin.text : skin.secondary;
 }
 
-QColor textColour(const SubItem& part, bool deleted) {
+QColor TextColour(const SubItem& part, bool deleted) {
     const SkinPalette& skin = Skin();
-    if (!part.enabled || deleted) return skin.secondary;
+    if (!part.enabled || deleted) {
+        return skin.secondary;
+    }
     switch (part.kind) {
         case SubItemKind::Link:
             return skin.accent;
@@ -34,17 +49,17 @@ QColor textColour(const SubItem& part, bool deleted) {
     }
 }
 
-void paintPart(QPainter& painter, const SubItem& part, const QFont& base, bool deleted) {
+void PaintPart(QPainter& painter, const SubItem& part, const QFont& base, bool deleted) {
     if (part.kind == SubItemKind::Icon) {
         QRect place(0, 0, kIconSize, kIconSize);
         place.moveCenter(part.rect.center());
-        return PaintIcon(painter, place, part.icon, iconColour(part));
+        return PaintIcon(painter, place, part.icon, IconColour(part));
     }
     QFont font = PartFont(base, part.kind);
     font.setStrikeOut(deleted && part.kind == SubItemKind::Name);
     font.setUnderline(part.kind == SubItemKind::Link && part.enabled);
     painter.setFont(font);
-    painter.setPen(textColour(part, deleted));
+    painter.setPen(TextColour(part, deleted));
     const QString text = QFontMetrics(font).elidedText(part.text, Qt::ElideRight, part.rect.width());
     painter.drawText(part.rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
 }
@@ -54,7 +69,9 @@ void paintPart(QPainter& painter, const SubItem& part, const QFont& base, bool d
 QFont PartFont(const QFont& base, SubItemKind kind) {
     QFont font = base;
     font.setPixelSize(kind == SubItemKind::Text ? kTablePixels : kTextPixels);
-    if (kind == SubItemKind::Count) font.setBold(false);
+    if (kind == SubItemKind::Count) {
+        font.setBold(false);
+    }
     return font;
 }
 
@@ -64,22 +81,28 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
     const TreeRow row = index.data(Qt::UserRole).toInt();
     const TreeRowState* state = view_->Rows().Row(row);
-    if (state == nullptr) return;
+    if (state == nullptr) {
+        return;
+    }
     const SkinPalette& skin = Skin();
     const bool selected = view_->Rows().Selected() == row;
     const bool category = state->parent == kNoRow;
     const QRect line(0, option.rect.top(), view_->viewport()->width(), option.rect.height());
     painter->save();
     painter->fillRect(line, selected ? skin.selection : category ? skin.window : skin.panel);
-    if (selected) painter->fillRect(QRect(line.left(), line.top(), 3, line.height()), skin.accent);
+    if (selected) {
+        painter->fillRect(QRect(line.left(), line.top(), 3, line.height()), skin.accent);
+    }
     QFont font = option.font;
     font.setBold(category);
     const bool deleted = state->style == kDeletedCategoryStyle || state->style == kDeletedVoyageStyle;
     for (const SubItem& part : view_->PartsOf(row)) {
         // A box for typing stands in the place of the old text.
         const bool replaced = part.kind == SubItemKind::Name || part.kind == SubItemKind::Link;
-        if (replaced && view_->IsCovered(part.rect)) continue;
-        paintPart(*painter, part, font, deleted);
+        if (replaced && view_->IsCovered(part.rect)) {
+            continue;
+        }
+        PaintPart(*painter, part, font, deleted);
         if (selected && view_->hasFocus() && !part.name.empty() && part.name == view_->FocusedPart()) {
             painter->setPen(skin.accent);
             painter->drawRect(part.rect.adjusted(0, 0, -1, -1));
@@ -95,7 +118,9 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
     const TreeRow row = index.data(Qt::UserRole).toInt();
     const TreeRowState* state = view_->Rows().Row(row);
-    if (state == nullptr) return {};
+    if (state == nullptr) {
+        return {};
+    }
     return {view_->viewport()->width(), RowHeight(*state, view_->Rows().Selected() == row)};
 }
 

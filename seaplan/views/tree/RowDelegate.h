@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/views/tree/RowLayout.h"
-
 #include <QFont>
 #include <QStyledItemDelegate>
+
+#include "seaplan/views/tree/RowLayout.h"
 
 namespace Tarvik::Seaplan {
 

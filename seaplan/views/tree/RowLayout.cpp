@@ -2,7 +2,6 @@
 #include "seaplan/views/tree/RowLayout.h"
 
 #include <QStringList>
-
 #include <algorithm>
 
 namespace Tarvik::Seaplan {
@@ -37,7 +36,7 @@ constexpr IconItem kDeletedButtons[] = {{"Voyage.parent.svr.recover", "recover"}
                                         {"Voyage.child.svr.recover", "recover"},
                                         {"Voyage.child.svr.clear", "clear"}};
 
-QString qt(const std::string& text) {
+QString Qt(const std::string& text) {
     return QString::fromStdString(text);
 }
 
@@ -47,23 +46,27 @@ class Builder {
     Builder(const TreeRowState& row, const QRect& rect, const TextWidth& width, const ItemCommand& hasCommand)
         : row_(row), rect_(rect), width_(width), hasCommand_(hasCommand) {}
 
-    const TreeItem* visible(const char* name) const {
+    const TreeItem* Visible(const char* name) const {
         const auto it = row_.items.find(name);
         return it == row_.items.end() || !it->second.visible ? nullptr : &it->second;
     }
 
-    void icon(const char* name, const char* iconName, const QRect& place) {
-        const TreeItem* item = visible(name);
-        if (item == nullptr) return;
+    void Icon(const char* name, const char* iconName, const QRect& place) {
+        const TreeItem* item = Visible(name);
+        if (item == nullptr) {
+            return;
+        }
         parts_.push_back(
-            {name, SubItemKind::Icon, place, {}, iconName, qt(item->toolTip), true, hasCommand_(name)});
+            {name, SubItemKind::Icon, place, {}, iconName, Qt(item->toolTip), true, hasCommand_(name)});
     }
 
     template <std::size_t N>
-    void buttons(const IconItem (&items)[N], int left, int top) {
+    void Buttons(const IconItem (&items)[N], int left, int top) {
         for (const IconItem& item : items) {
-            if (visible(item.name) == nullptr) continue;
-            icon(item.name, item.icon, {left, top, kButton, kButton});
+            if (Visible(item.name) == nullptr) {
+                continue;
+            }
+            Icon(item.name, item.icon, {left, top, kButton, kButton});
             left += kButton + kGap;
         }
     }
@@ -78,18 +81,20 @@ class Builder {
         return left + wide;
     }
 
-    QString value(const char* item, const char* name) const {
-        const TreeItem* found = visible(item);
-        if (found == nullptr) return {};
+    QString Value(const char* item, const char* name) const {
+        const TreeItem* found = Visible(item);
+        if (found == nullptr) {
+            return {};
+        }
         const auto it = found->values.find(name);
-        return it == found->values.end() ? QString() : qt(it->second);
+        return it == found->values.end() ? QString() : Qt(it->second);
     }
 
-    int textWidth(const QString& text, SubItemKind kind) const { return width_(text, kind); }
-    const QRect& rect() const { return rect_; }
-    const TreeRowState& row() const { return row_; }
-    void add(SubItem part) { parts_.push_back(std::move(part)); }
-    std::vector<SubItem> take() { return std::move(parts_); }
+    int WidthOf(const QString& text, SubItemKind kind) const { return width_(text, kind); }
+    const QRect& Rect() const { return rect_; }
+    const TreeRowState& Row() const { return row_; }
+    void Add(SubItem part) { parts_.push_back(std::move(part)); }
+    std::vector<SubItem> Take() { return std::move(parts_); }
 
   private:
     const TreeRowState& row_;
@@ -99,95 +104,105 @@ class Builder {
     std::vector<SubItem> parts_;
 };
 
-void layoutCategory(Builder& b, bool selected) {
-    const QRect& r = b.rect();
+void LayoutCategory(Builder& b, bool selected) {
+    const QRect& r = b.Rect();
     constexpr int kLine = 31;
-    b.add({"fold",
+    b.Add({"fold",
            SubItemKind::Icon,
            {r.left() + 4, r.top() + 7, 16, 16},
            {},
-           b.row().expanded ? "chevron-down" : "chevron-right",
+           b.Row().expanded ? "chevron-down" : "chevron-right",
            {},
            false});
-    const TreeItem* count = b.visible("cat.statistic");
-    const QString counted = count == nullptr ? QString() : qt(count->text);
-    const int right = r.right() - kMargin - b.textWidth(counted, SubItemKind::Count);
-    const int end = b.text("name", SubItemKind::Name, qt(b.row().text), r.left() + 24, r.top(), kLine, right,
-                           qt(b.row().text));
+    const TreeItem* count = b.Visible("cat.statistic");
+    const QString counted = count == nullptr ? QString() : Qt(count->text);
+    const int right = r.right() - kMargin - b.WidthOf(counted, SubItemKind::Count);
+    const int end = b.text("name", SubItemKind::Name, Qt(b.Row().text), r.left() + 24, r.top(), kLine, right,
+                           Qt(b.Row().text));
     b.text("cat.statistic", SubItemKind::Count, counted, end, r.top(), kLine, r.right() - kMargin);
-    if (selected) b.buttons(kCategoryButtons, r.left() + 20, r.top() + kLine + 1);
+    if (selected) {
+        b.Buttons(kCategoryButtons, r.left() + 20, r.top() + kLine + 1);
+    }
 }
 
-const char* statusIcon(const QString& image) {
-    if (image == QLatin1String("#Voyage_status_underway")) return "underway";
+const char* StatusIcon(const QString& image) {
+    if (image == QLatin1String("#Voyage_status_underway")) {
+        return "underway";
+    }
     return image == QLatin1String("#Voyage_status_finish") ? "finish" : "plan";
 }
 
-void layoutVoyageHead(Builder& b, bool selected) {
-    const QRect& r = b.rect();
+void LayoutVoyageHead(Builder& b, bool selected) {
+    const QRect& r = b.Rect();
     constexpr int kLine = 30;
     const int left = r.left() + kMargin;
     const QRect pin(left, r.top() + 3, kButton, kButton);
-    b.icon("Voyage.child.svr1.default", "pin", pin);
-    b.icon("Voyage.child.svr1.auto", "pinned", pin);
-    const QString image = b.value("Voyage.child.svr2", "Voyage_Status");
+    b.Icon("Voyage.child.svr1.default", "pin", pin);
+    b.Icon("Voyage.child.svr1.auto", "pinned", pin);
+    const QString image = b.Value("Voyage.child.svr2", "Voyage_Status");
     int right = r.right() - kMargin;
     if (!image.isEmpty()) {
         right -= 16 + kGap;
-        const TreeItem* item = b.visible("Voyage.child.svr2");
-        b.add({"Voyage.child.svr2",
+        const TreeItem* item = b.Visible("Voyage.child.svr2");
+        b.Add({"Voyage.child.svr2",
                SubItemKind::Icon,
                {right + kGap, r.top() + 7, 16, 16},
                {},
-               statusIcon(image),
-               qt(item->toolTip),
+               StatusIcon(image),
+               Qt(item->toolTip),
                false});
     }
     const int nameRight = selected ? right - kButton - kGap : right;
-    const int end = b.text("name", SubItemKind::Name, qt(b.row().text), pin.right() + kGap, r.top(), kLine,
-                           nameRight, qt(b.row().text));
-    if (selected) b.icon("Voyage_child_rename", "rename", {end + kGap, r.top() + 3, kButton, kButton});
+    const int end = b.text("name", SubItemKind::Name, Qt(b.Row().text), pin.right() + kGap, r.top(), kLine,
+                           nameRight, Qt(b.Row().text));
+    if (selected) {
+        b.Icon("Voyage_child_rename", "rename", {end + kGap, r.top() + 3, kButton, kButton});
+    }
 }
 
-void layoutVoyageDates(Builder& b, int left, int right) {
+void LayoutVoyageDates(Builder& b, int left, int right) {
     constexpr int kLine = 26;
-    const int top = b.rect().top() + 32;
-    if (b.visible("Voyage_Date") != nullptr) {
-        const QString text = b.value("Voyage_Date", "Sailing") + u' ' + b.value("Voyage_Date", "Saildate") +
-                             QStringLiteral("  ") + b.value("Voyage_Date", "Ending") + u' ' +
-                             b.value("Voyage_Date", "Enddate");
+    const int top = b.Rect().top() + 32;
+    if (b.Visible("Voyage_Date") != nullptr) {
+        const QString text = b.Value("Voyage_Date", "Sailing") + u' ' + b.Value("Voyage_Date", "Saildate") +
+                             QStringLiteral("  ") + b.Value("Voyage_Date", "Ending") + u' ' +
+                             b.Value("Voyage_Date", "Enddate");
         b.text("Voyage_Date", SubItemKind::Text, text, left, top, kLine, right);
-    } else if (b.visible("Voyage_setPortCall") != nullptr) {
-        const QString text = b.value("Voyage_setPortCall", "setPortCall");
+    } else if (b.Visible("Voyage_setPortCall") != nullptr) {
+        const QString text = b.Value("Voyage_setPortCall", "setPortCall");
         b.text("Voyage_setPortCall", SubItemKind::Link, text, left, top, kLine, right, text);
     }
 }
 
-void layoutVoyageVessel(Builder& b, int left, int right) {
+void LayoutVoyageVessel(Builder& b, int left, int right) {
     constexpr int kLine = 26;
-    const int top = b.rect().top() + 60;
+    const int top = b.Rect().top() + 60;
     int end = left;
-    if (b.visible("Voyage_ShipInfo") != nullptr) {
+    if (b.Visible("Voyage_ShipInfo") != nullptr) {
         const QString text =
-            b.value("Voyage_ShipInfo", "ShipInfo") + u' ' + b.value("Voyage_ShipInfo", "ShipName");
+            b.Value("Voyage_ShipInfo", "ShipInfo") + u' ' + b.Value("Voyage_ShipInfo", "ShipName");
         end = b.text("Voyage_ShipInfo", SubItemKind::Link, text, left, top, kLine,
                      right - 2 * (kButton + kGap), text);
-    } else if (b.visible("Voyage_AssignShip") != nullptr) {
-        const QString text = b.value("Voyage_AssignShip", "AssignShip");
+    } else if (b.Visible("Voyage_AssignShip") != nullptr) {
+        const QString text = b.Value("Voyage_AssignShip", "AssignShip");
         end = b.text("Voyage_AssignShip", SubItemKind::Link, text, left, top, kLine, right - kButton, text);
     }
-    if (b.visible("Voyage_Alert") != nullptr) {
-        b.icon("Voyage_Alert", "alert", {end + kGap, top + 1, kButton, kButton});
+    if (b.Visible("Voyage_Alert") != nullptr) {
+        b.Icon("Voyage_Alert", "alert", {end + kGap, top + 1, kButton, kButton});
         end += kButton + kGap;
     }
-    b.icon("Voyage_ReplaceShip", "replace", {end + kGap, top + 1, kButton, kButton});
+    b.Icon("Voyage_ReplaceShip", "replace", {end + kGap, top + 1, kButton, kButton});
 }
 
 }  // namespace
 
 int RowHeight(const TreeRowState& row, bool selected) {
-    if (row.style == kCategoryStyle) return selected ? 61 : 31;
-    if (row.style == kVoyageStyle) return selected ? 123 : 30;
+    if (row.style == kCategoryStyle) {
+        return selected ? 61 : 31;
+    }
+    if (row.style == kVoyageStyle) {
+        return selected ? 123 : 30;
+    }
     return row.parent == kNoRow ? 31 : 30;
 }
 
@@ -195,22 +210,24 @@ std::vector<SubItem> LayoutRow(const TreeRowState& row, const QRect& rect, bool 
                                const TextWidth& width, const ItemCommand& hasCommand) {
     Builder b(row, rect, width, hasCommand);
     if (row.style == kCategoryStyle) {
-        layoutCategory(b, selected);
+        LayoutCategory(b, selected);
     } else if (row.style == kVoyageStyle) {
-        layoutVoyageHead(b, selected);
-        if (!selected) return b.take();
+        LayoutVoyageHead(b, selected);
+        if (!selected) {
+            return b.Take();
+        }
         const int left = rect.left() + kMargin + kButton + kGap;
         const int right = rect.right() - kMargin;
-        layoutVoyageDates(b, left, right);
-        layoutVoyageVessel(b, left, right);
-        b.buttons(kVoyageButtons, left - 4, rect.top() + 93);
+        LayoutVoyageDates(b, left, right);
+        LayoutVoyageVessel(b, left, right);
+        b.Buttons(kVoyageButtons, left - 4, rect.top() + 93);
     } else {
         const int left = rect.left() + 24;
         const int right = rect.right() - kMargin - 2 * (kButton + kGap);
-        b.text("name", SubItemKind::Name, qt(row.text), left, rect.top(), rect.height(), right, qt(row.text));
-        b.buttons(kDeletedButtons, right + kGap, rect.top() + 3);
+        b.text("name", SubItemKind::Name, Qt(row.text), left, rect.top(), rect.height(), right, Qt(row.text));
+        b.Buttons(kDeletedButtons, right + kGap, rect.top() + 3);
     }
-    return b.take();
+    return b.Take();
 }
 
 QString AccessibleTextOf(const TreeRowState& row) {
@@ -218,10 +235,16 @@ QString AccessibleTextOf(const TreeRowState& row) {
     QStringList texts;
     QString status;
     for (const SubItem& part : LayoutRow(row, {}, true, unbounded, [](const std::string&) { return true; })) {
-        if (part.kind != SubItemKind::Icon) texts.append(part.text.trimmed());
-        if (part.name == "Voyage.child.svr2") status = part.toolTip;
+        if (part.kind != SubItemKind::Icon) {
+            texts.append(part.text.trimmed());
+        }
+        if (part.name == "Voyage.child.svr2") {
+            status = part.toolTip;
+        }
     }
-    if (!status.isEmpty()) texts.append(status);
+    if (!status.isEmpty()) {
+        texts.append(status);
+    }
     return texts.join(QStringLiteral(", "));
 }
 

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tree/TreeRows.h"
-
 #include <QRect>
 #include <QString>
-
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "seaplan/panels/tree/TreeRows.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QStandardItemModel>
+
 #include "seaplan/panels/tree/TreeRows.h"
 #include "seaplan/views/tree/RowLayout.h"
-
-#include <QStandardItemModel>
 
 namespace Tarvik::Seaplan {
 
@@ -18,7 +18,9 @@ class RowModel final : public QStandardItemModel {
     RowModel(QObject* parent, const TreeRows& rows) : QStandardItemModel(parent), rows_(rows) {}
 
     QVariant data(const QModelIndex& index, int role) const override {
-        if (role != Qt::AccessibleTextRole) return QStandardItemModel::data(index, role);
+        if (role != Qt::AccessibleTextRole) {
+            return QStandardItemModel::data(index, role);
+        }
         const TreeRowState* row = rows_.Row(QStandardItemModel::data(index, kRowRole).toInt());
         return row == nullptr ? QVariant() : QVariant(AccessibleTextOf(*row));
     }

@@ -1,65 +1,84 @@
 // SPDX-License-Identifier: MIT
 /// The keyboard's ways through the tree, and the menu of a row.
-#include <tarvik/skin/Icons.h>
-#include <tarvik/skin/Palette.h>
-#include "seaplan/views/tree/VoyageTreeView.h"
-#include "seaplan/views/tree/VoyageTreeWidget.h"
-
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
 
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
+
+#include "seaplan/views/tree/VoyageTreeView.h"
+#include "seaplan/views/tree/VoyageTreeWidget.h"
+
 namespace Tarvik::Seaplan {
 
-void VoyageTreeView::stepRow(int by) {
+void VoyageTreeView::StepRow(int by) {
     QModelIndex index;
-    if (QStandardItem* item = rows_->ItemOf(rows_->Selected())) index = item->index();
-    if (!index.isValid() && currentIndex().isValid()) index = currentIndex();
+    if (QStandardItem* item = rows_->ItemOf(rows_->Selected())) {
+        index = item->index();
+    }
+    if (!index.isValid() && currentIndex().isValid()) {
+        index = currentIndex();
+    }
     const QModelIndex next = !index.isValid() ? model_->index(0, 0)
                              : by > 0         ? indexBelow(index)
                                               : indexAbove(index);
-    if (!next.isValid()) return;
+    if (!next.isValid()) {
+        return;
+    }
     setCurrentIndex(next);
-    if (reports_.pressed) reports_.pressed(next.data(Qt::UserRole).toInt());
+    if (reports_.pressed) {
+        reports_.pressed(next.data(Qt::UserRole).toInt());
+    }
 }
 
-TreeRow VoyageTreeView::keyRow() const {
-    if (rows_->Selected() != kNoRow) return rows_->Selected();
+TreeRow VoyageTreeView::KeyRow() const {
+    if (rows_->Selected() != kNoRow) {
+        return rows_->Selected();
+    }
     return currentIndex().isValid() ? currentIndex().data(Qt::UserRole).toInt() : kNoRow;
 }
 
-bool VoyageTreeView::clickItem(TreeRow row, std::initializer_list<const char*> items) {
+bool VoyageTreeView::ClickItem(TreeRow row, std::initializer_list<const char*> items) {
     for (const char* item : items) {
-        if (!rows_->IsItemVisible(row, item)) continue;
-        if (reports_.clicked) reports_.clicked(row, item);
+        if (!rows_->IsItemVisible(row, item)) {
+            continue;
+        }
+        if (reports_.clicked) {
+            reports_.clicked(row, item);
+        }
         return true;
     }
     return false;
 }
 
-void VoyageTreeView::pressKey() {
-    const TreeRow row = keyRow();
+void VoyageTreeView::PressKey() {
+    const TreeRow row = KeyRow();
     const std::string part = FocusedPart();
     if (!part.empty()) {
-        if (reports_.clicked) reports_.clicked(rows_->Selected(), part);
-    } else if (!clickItem(row, {"Voyage.child.svr4"})) {
-        press(row, false);
+        if (reports_.clicked) {
+            reports_.clicked(rows_->Selected(), part);
+        }
+    } else if (!ClickItem(row, {"Voyage.child.svr4"})) {
+        Press(row, false);
     }
 }
 
-void VoyageTreeView::insertKey() {
-    const TreeRow row = keyRow();
+void VoyageTreeView::InsertKey() {
+    const TreeRow row = KeyRow();
     const TreeRow parent = rows_->GetParentItem(row);
-    if (!clickItem(parent == kNoRow ? row : parent, {"Voyage.parent.svr3"}) && reports_.addCategory) {
+    if (!ClickItem(parent == kNoRow ? row : parent, {"Voyage.parent.svr3"}) && reports_.addCategory) {
         reports_.addCategory();
     }
 }
 
-bool VoyageTreeView::foldKey(int key) {
-    const TreeRow row = keyRow();
+bool VoyageTreeView::FoldKey(int key) {
+    const TreeRow row = KeyRow();
     const bool open = key == Qt::Key_Right;
     if (rows_->GetParentItem(row) == kNoRow) {
-        if (rows_->IsItemExpanded(row) != open) press(row, false);
+        if (rows_->IsItemExpanded(row) != open) {
+            Press(row, false);
+        }
     } else if (!open && reports_.pressed) {
         const TreeRow parent = rows_->GetParentItem(row);
         setCurrentIndex(rows_->ItemOf(parent)->index());
@@ -68,28 +87,28 @@ bool VoyageTreeView::foldKey(int key) {
     return true;
 }
 
-bool VoyageTreeView::rowKey(int key) {
-    const TreeRow row = keyRow();
+bool VoyageTreeView::RowKey(int key) {
+    const TreeRow row = KeyRow();
     switch (key) {
         case Qt::Key_Down:
         case Qt::Key_Up:
-            stepRow(key == Qt::Key_Down ? 1 : -1);
+            StepRow(key == Qt::Key_Down ? 1 : -1);
             return true;
         case Qt::Key_Right:
         case Qt::Key_Left:
-            return foldKey(key);
+            return FoldKey(key);
         case Qt::Key_Space:
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            pressKey();
+            PressKey();
             return true;
         case Qt::Key_F2:
-            return clickItem(row, {"Voyage_parent_rename", "Voyage_child_rename"});
+            return ClickItem(row, {"Voyage_parent_rename", "Voyage_child_rename"});
         case Qt::Key_Delete:
-            return clickItem(row, {"Voyage.parent.svr7", "Voyage.child.svr9", "Voyage.parent.svr.clear",
+            return ClickItem(row, {"Voyage.parent.svr7", "Voyage.child.svr9", "Voyage.parent.svr.clear",
                                    "Voyage.child.svr.clear"});
         case Qt::Key_Insert:
-            insertKey();
+            InsertKey();
             return true;
         default:
             return false;
@@ -97,23 +116,31 @@ bool VoyageTreeView::rowKey(int key) {
 }
 
 void VoyageTreeView::keyPressEvent(QKeyEvent* event) {
-    if (!rowKey(event->key())) event->ignore();
+    if (!RowKey(event->key())) {
+        event->ignore();
+    }
 }
 
 void VoyageTreeView::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    const TreeRow row = byKey ? keyRow() : rowAt(event->pos());
+    const TreeRow row = byKey ? KeyRow() : RowAt(event->pos());
     const TreeRowState* state = rows_->Row(row);
-    if (state == nullptr) return;
+    if (state == nullptr) {
+        return;
+    }
     auto* menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("rowMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setStyleSheet(SkinStyleSheet());
     for (const SubItem& part : layout(*state, {0, 0, viewport()->width(), 0}, true)) {
-        if (!part.clickable || part.toolTip.isEmpty()) continue;
+        if (!part.clickable || part.toolTip.isEmpty()) {
+            continue;
+        }
         QAction* action =
             menu->addAction(MakeIcon(part.icon), part.toolTip, this, [this, row, item = part.name] {
-                if (reports_.clicked) reports_.clicked(row, item);
+                if (reports_.clicked) {
+                    reports_.clicked(row, item);
+                }
             });
         action->setEnabled(part.enabled);
     }

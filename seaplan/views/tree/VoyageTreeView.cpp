@@ -1,14 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/tree/VoyageTreeView.h"
 
-#include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/tree/TreeContext.h"
-#include <tarvik/skin/Palette.h>
-#include <tarvik/skin/ToolWindow.h>
-#include "seaplan/views/tree/RowDelegate.h"
-#include "seaplan/views/tree/RowModel.h"
-#include "seaplan/views/tree/VoyageTreeWidget.h"
-
 #include <QApplication>
 #include <QCursor>
 #include <QFocusEvent>
@@ -20,18 +12,18 @@
 #include <QRadioButton>
 #include <QToolTip>
 #include <QVBoxLayout>
-
 #include <algorithm>
 
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/views/ViewText.h"
+#include "seaplan/views/tree/RowDelegate.h"
+#include "seaplan/views/tree/RowModel.h"
+#include "seaplan/views/tree/VoyageTreeWidget.h"
+
 namespace Tarvik::Seaplan {
-
-namespace {
-
-QString text(TextId id) {
-    return QString::fromStdString(Text(id));
-}
-
-}  // namespace
 
 VoyageTreeView::VoyageTreeView(QWidget* parent)
     : QTreeView(parent),
@@ -58,9 +50,9 @@ VoyageTreeView::VoyageTreeView(QWidget* parent)
 VoyageTreeView::~VoyageTreeView() = default;
 
 void VoyageTreeView::ApplyTexts() {
-    setAccessibleName(text(TextId::IDS_VIEW_TREE));
-    Describe(rename_, text(TextId::IDS_VIEW_RENAMEEDITOR));
-    emptyHint_ = text(TextId::IDS_VIEW_EMPTYTREE);
+    setAccessibleName(ViewText(TextId::IDS_VIEW_TREE));
+    Describe(rename_, ViewText(TextId::IDS_VIEW_RENAMEEDITOR));
+    emptyHint_ = ViewText(TextId::IDS_VIEW_EMPTYTREE);
     viewport()->update();
 }
 
@@ -72,14 +64,16 @@ TreeWidget& VoyageTreeView::Widget() {
     return *rows_;
 }
 
-TreeRow VoyageTreeView::rowAt(const QPoint& point) const {
+TreeRow VoyageTreeView::RowAt(const QPoint& point) const {
     const QModelIndex index = indexAt(point);
     return index.isValid() ? index.data(Qt::UserRole).toInt() : kNoRow;
 }
 
 std::vector<SubItem> VoyageTreeView::PartsOf(TreeRow row) const {
     const TreeRowState* state = rows_->Row(row);
-    if (state == nullptr) return {};
+    if (state == nullptr) {
+        return {};
+    }
     const Rect place = rows_->GetItemRect(row);
     const QRect rect(place.left, place.top, place.right - place.left, place.bottom - place.top);
     return layout(*state, rect, rows_->Selected() == row);
@@ -93,7 +87,7 @@ std::vector<SubItem> VoyageTreeView::layout(const TreeRowState& state, const QRe
         return QFontMetrics(PartFont(plain, kind)).horizontalAdvance(text) + 2;
     };
     return LayoutRow(state, rect, selected, width,
-                     [this](const std::string& item) { return hasCommand(item); });
+                     [this](const std::string& item) { return HasCommand(item); });
 }
 
 bool VoyageTreeView::IsCovered(const QRect& part) const {
@@ -103,49 +97,57 @@ bool VoyageTreeView::IsCovered(const QRect& part) const {
     });
 }
 
-std::vector<SubItem> VoyageTreeView::clickableOf(TreeRow row) const {
+std::vector<SubItem> VoyageTreeView::ClickableOf(TreeRow row) const {
     std::vector<SubItem> parts = PartsOf(row);
     std::erase_if(parts, [](const SubItem& part) { return !part.clickable || !part.enabled; });
     return parts;
 }
 
 std::string VoyageTreeView::FocusedPart() const {
-    const auto parts = clickableOf(rows_->Selected());
+    const auto parts = ClickableOf(rows_->Selected());
     return focusPart_ < 0 || focusPart_ >= static_cast<int>(parts.size()) ? std::string()
                                                                           : parts[focusPart_].name;
 }
 
-void VoyageTreeView::press(TreeRow row, bool onItem) {
+void VoyageTreeView::Press(TreeRow row, bool onItem) {
     const bool category = row != kNoRow && rows_->GetParentItem(row) == kNoRow;
-    if (category && !onItem) rows_->SetExpanded(row, !rows_->IsItemExpanded(row));
-    if (reports_.pressed) reports_.pressed(row);
+    if (category && !onItem) {
+        rows_->SetExpanded(row, !rows_->IsItemExpanded(row));
+    }
+    if (reports_.pressed) {
+        reports_.pressed(row);
+    }
 }
 
 void VoyageTreeView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
     setFocus(Qt::MouseFocusReason);
-    pressedRow_ = rowAt(event->pos());
+    pressedRow_ = RowAt(event->pos());
     pressedPoint_ = event->pos();
     const auto parts = PartsOf(pressedRow_);
     const SubItem* part = SubItemAt(parts, event->pos());
     pressedItem_ = part == nullptr ? std::string() : part->name;
-    press(pressedRow_, part != nullptr);
+    Press(pressedRow_, part != nullptr);
 }
 
 void VoyageTreeView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || pressedItem_.empty()) return;
+    if (event->button() != Qt::LeftButton || pressedItem_.empty()) {
+        return;
+    }
     const TreeRow row = pressedRow_;
     const std::string item = std::exchange(pressedItem_, {});
     // The press may have changed heights, so that another row lies under a pointer that has not moved.
     const bool still = (event->pos() - pressedPoint_).manhattanLength() < QApplication::startDragDistance();
-    if (rows_->Row(row) != nullptr && (still || rowAt(event->pos()) == row) && hasCommand(item) &&
+    if (rows_->Row(row) != nullptr && (still || RowAt(event->pos()) == row) && HasCommand(item) &&
         reports_.clicked) {
         reports_.clicked(row, item);
     }
 }
 
 bool VoyageTreeView::focusNextPrevChild(bool next) {
-    const int count = static_cast<int>(clickableOf(rows_->Selected()).size());
+    const int count = static_cast<int>(ClickableOf(rows_->Selected()).size());
     const int target = focusPart_ + (next ? 1 : -1);
     if (!hasFocus() || target < -1 || target >= count) {
         focusPart_ = -1;
@@ -157,14 +159,16 @@ bool VoyageTreeView::focusNextPrevChild(bool next) {
     return true;
 }
 
-void VoyageTreeView::relayout() {
+void VoyageTreeView::Relayout() {
     scheduleDelayedItemsLayout();
     viewport()->update();
 }
 
 void VoyageTreeView::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
-    if (model_->rowCount() > 0) return;
+    if (model_->rowCount() > 0) {
+        return;
+    }
     QPainter painter(viewport());
     painter.setPen(Skin().secondary);
     painter.drawText(viewport()->rect().adjusted(16, 24, -16, -16),
@@ -172,11 +176,16 @@ void VoyageTreeView::paintEvent(QPaintEvent* event) {
 }
 
 bool VoyageTreeView::viewportEvent(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) return QTreeView::viewportEvent(event);
+    if (event->type() != QEvent::ToolTip) {
+        return QTreeView::viewportEvent(event);
+    }
     const auto* help = static_cast<QHelpEvent*>(event);
-    for (const SubItem& part : PartsOf(rowAt(help->pos()))) {
-        if (!part.rect.contains(help->pos()) || part.toolTip.isEmpty()) continue;
-        const QString why = part.enabled ? QString() : QStringLiteral(": ") + text(TextId::IDS_VIEW_NOTYET);
+    for (const SubItem& part : PartsOf(RowAt(help->pos()))) {
+        if (!part.rect.contains(help->pos()) || part.toolTip.isEmpty()) {
+            continue;
+        }
+        const QString why =
+            part.enabled ? QString() : QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_NOTYET);
         QToolTip::showText(help->globalPos(), part.toolTip + why, viewport(), part.rect);
         return true;
     }
@@ -201,8 +210,10 @@ bool VoyageTreeView::eventFilter(QObject* watched, QEvent* event) {
     return QTreeView::eventFilter(watched, event);
 }
 
-void VoyageTreeView::showSortPanel(const std::string& ci, int sortKey) {
-    if (sortPanel_ != nullptr && sortPanel_->isVisible()) return;
+void VoyageTreeView::ShowSortPanel(const std::string& ci, int sortKey) {
+    if (sortPanel_ != nullptr && sortPanel_->isVisible()) {
+        return;
+    }
     delete sortPanel_;
     sortPanel_ = new QFrame(this, Qt::Popup);
     sortPanel_->setObjectName(QStringLiteral("popup"));
@@ -213,7 +224,7 @@ void VoyageTreeView::showSortPanel(const std::string& ci, int sortKey) {
     const std::pair<TextId, int> choices[] = {{TextId::IDS_VOY_SORTBYNAME, SortByName},
                                               {TextId::IDS_VOY_SORTBYDATE, SortByDate}};
     for (const auto& [id, key] : choices) {
-        auto* radio = new QRadioButton(text(id), sortPanel_);
+        auto* radio = new QRadioButton(ViewText(id), sortPanel_);
         radio->setObjectName(key == SortByName ? QStringLiteral("sortByName") : QStringLiteral("sortByDate"));
         Describe(radio, radio->text());
         radio->setChecked(key == sortKey);

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tree/TreeRows.h"
-#include "seaplan/views/tree/RowLayout.h"
-
 #include <QStandardItemModel>
 #include <QTreeView>
-
 #include <functional>
 #include <initializer_list>
 #include <map>
 #include <memory>
 #include <vector>
+
+#include "seaplan/panels/tree/TreeRows.h"
+#include "seaplan/views/tree/RowLayout.h"
 
 class QLineEdit;
 
@@ -34,7 +33,7 @@ class VoyageTreeView : public QTreeView {
         std::function<void()> renameDone;
         std::function<void(const std::string&, int)> sortChosen;
         std::function<void()> addCategory;
-        std::function<bool(const std::string&)> hasCommand;
+        std::function<bool(const std::string&)> HasCommand;
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }
     TreeRows& Rows();
@@ -62,24 +61,24 @@ class VoyageTreeView : public QTreeView {
 
   private:
     friend class VoyageTreeWidget;
-    TreeRow rowAt(const QPoint& point) const;
-    std::vector<SubItem> clickableOf(TreeRow row) const;
-    void press(TreeRow row, bool onItem);
-    void stepRow(int by);
+    TreeRow RowAt(const QPoint& point) const;
+    std::vector<SubItem> ClickableOf(TreeRow row) const;
+    void Press(TreeRow row, bool onItem);
+    void StepRow(int by);
     /// Row that the keys work on: the selected one, else the current one.
-    TreeRow keyRow() const;
+    TreeRow KeyRow() const;
     /// Clicks the first of the items that the row shows; false when it shows none.
-    bool hasCommand(const std::string& item) const {
-        return reports_.hasCommand && reports_.hasCommand(item);
+    bool HasCommand(const std::string& item) const {
+        return reports_.HasCommand && reports_.HasCommand(item);
     }
-    bool clickItem(TreeRow row, std::initializer_list<const char*> items);
-    bool rowKey(int key);
-    bool foldKey(int key);
-    void pressKey();
-    void insertKey();
+    bool ClickItem(TreeRow row, std::initializer_list<const char*> items);
+    bool RowKey(int key);
+    bool FoldKey(int key);
+    void PressKey();
+    void InsertKey();
     std::vector<SubItem> layout(const TreeRowState& state, const QRect& rect, bool selected) const;
-    void relayout();
-    void showSortPanel(const std::string& ci, int sortKey);
+    void Relayout();
+    void ShowSortPanel(const std::string& ci, int sortKey);
 
     std::unique_ptr<VoyageTreeWidget> rows_;
     QStandardItemModel* model_;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/tree/VoyageTreeWidget.h"
 
-#include "seaplan/views/tree/VoyageTreeView.h"
-
 #include <QCursor>
 #include <QLineEdit>
+
+#include "seaplan/views/tree/VoyageTreeView.h"
 
 namespace Tarvik::Seaplan {
 
@@ -15,7 +15,9 @@ QStandardItem* VoyageTreeWidget::ItemOf(TreeRow row) const {
 
 Rect VoyageTreeWidget::GetItemRect(TreeRow row) const {
     QStandardItem* item = ItemOf(row);
-    if (item == nullptr) return {};
+    if (item == nullptr) {
+        return {};
+    }
     const QRect rect = view_.visualRect(item->index());
     return {0, rect.top(), view_.viewport()->width(), rect.bottom() + 1};
 }
@@ -43,11 +45,13 @@ std::string VoyageTreeWidget::RenameEditorText() const {
 }
 
 void VoyageTreeWidget::ShowSortPanel(const std::string& ci, int sortKey) {
-    view_.showSortPanel(ci, sortKey);
+    view_.ShowSortPanel(ci, sortKey);
 }
 
 void VoyageTreeWidget::HidePopups() {
-    if (view_.sortPanel_ != nullptr) view_.sortPanel_->hide();
+    if (view_.sortPanel_ != nullptr) {
+        view_.sortPanel_->hide();
+    }
 }
 
 void VoyageTreeWidget::ShowAtPointer(void* window) {
@@ -75,7 +79,9 @@ void VoyageTreeWidget::RowInserted(TreeRow row) {
 
 void VoyageTreeWidget::RowRemoving(TreeRow row) {
     QStandardItem* item = ItemOf(row);
-    if (item == nullptr) return;
+    if (item == nullptr) {
+        return;
+    }
     items_.erase(row);
     QStandardItem* parent = item->parent();
     (parent == nullptr ? view_.model_->invisibleRootItem() : parent)->removeRow(item->row());
@@ -89,22 +95,30 @@ void VoyageTreeWidget::RowsCleared() {
 
 void VoyageTreeWidget::RowChanged(TreeRow row) {
     QStandardItem* item = ItemOf(row);
-    if (item == nullptr) return;
+    if (item == nullptr) {
+        return;
+    }
     const QString text = QString::fromStdString(GetItemText(row));
-    if (item->text() != text) item->setText(text);
+    if (item->text() != text) {
+        item->setText(text);
+    }
     view_.viewport()->update();
 }
 
 void VoyageTreeWidget::RowSelected(TreeRow row) {
     QStandardItem* item = ItemOf(row);
-    if (item != nullptr && view_.currentIndex() != item->index()) view_.setCurrentIndex(item->index());
+    if (item != nullptr && view_.currentIndex() != item->index()) {
+        view_.setCurrentIndex(item->index());
+    }
     view_.focusPart_ = -1;
-    view_.relayout();
+    view_.Relayout();
 }
 
 void VoyageTreeWidget::RowExpanded(TreeRow row, bool expanded) {
     QStandardItem* item = ItemOf(row);
-    if (item != nullptr) view_.setExpanded(item->index(), expanded);
+    if (item != nullptr) {
+        view_.setExpanded(item->index(), expanded);
+    }
 }
 
 }  // namespace Tarvik::Seaplan

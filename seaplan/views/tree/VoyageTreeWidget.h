@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tree/TreeRows.h"
-
 #include <map>
+
+#include "seaplan/panels/tree/TreeRows.h"
 
 class QStandardItem;
 

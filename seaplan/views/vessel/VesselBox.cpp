@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/vessel/VesselBox.h"
 
-#include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/vessel/VoyShipEditDlg.h"
-#include <tarvik/skin/Palette.h>
-#include <tarvik/skin/ToolWindow.h>
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTimer>
-
 #include <algorithm>
+
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/vessel/VoyShipEditDlg.h"
 
 namespace Tarvik::Seaplan {
 
@@ -37,10 +37,14 @@ VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new QLineEdit(tree)) {
     list_->setProperty("dense", true);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(box_, &QLineEdit::textEdited, this, [this](const QString& text) {
-        if (panel_ != nullptr) panel_->OnTyped(text.toStdString());
+        if (panel_ != nullptr) {
+            panel_->OnTyped(text.toStdString());
+        }
     });
     connect(list_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
-        if (panel_ != nullptr) panel_->OnChosen(list_->row(item));
+        if (panel_ != nullptr) {
+            panel_->OnChosen(list_->row(item));
+        }
     });
     qApp->installEventFilter(this);
     ApplySkin();
@@ -68,11 +72,14 @@ void VesselBox::ShowBox(const Rect& inTree, const std::string& text) {
 
 void VesselBox::HideBox() {
     open_ = false;
-    if (box_->isHidden()) return;
+    if (box_->isHidden()) {
+        return;
+    }
     const bool focused = box_->hasFocus();
     box_->hide();
-    if (focused && box_->parentWidget()->parentWidget() != nullptr)
+    if (focused && box_->parentWidget()->parentWidget() != nullptr) {
         box_->parentWidget()->parentWidget()->setFocus();
+    }
 }
 
 std::string VesselBox::BoxText() const {
@@ -101,7 +108,7 @@ bool VesselBox::ListVisible() const {
     return list_->isVisible();
 }
 
-bool VesselBox::boxKey(int key) {
+bool VesselBox::BoxKey(int key) {
     switch (key) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -109,7 +116,9 @@ bool VesselBox::boxKey(int key) {
             return true;
         case Qt::Key_Down:
         case Qt::Key_Up:
-            if (!ListVisible()) return false;
+            if (!ListVisible()) {
+                return false;
+            }
             list_->setCurrentRow(
                 std::clamp(list_->currentRow() + (key == Qt::Key_Down ? 1 : -1), 0, list_->count() - 1));
             return true;
@@ -122,18 +131,26 @@ bool VesselBox::boxKey(int key) {
 }
 
 bool VesselBox::eventFilter(QObject* watched, QEvent* event) {
-    if (panel_ == nullptr) return false;
+    if (panel_ == nullptr) {
+        return false;
+    }
     if (event->type() == QEvent::MouseButtonRelease && panel_->ClosedByPress()) {
         // The release may still become a click, which is told after it has been delivered.
         QTimer::singleShot(0, this, [this] { panel_->OnReleased(); });
     }
-    if (!open_) return false;
-    if (watched == box_ && event->type() == QEvent::KeyPress)
-        return boxKey(static_cast<QKeyEvent*>(event)->key());
-    if (event->type() != QEvent::MouseButtonPress) return false;
+    if (!open_) {
+        return false;
+    }
+    if (watched == box_ && event->type() == QEvent::KeyPress) {
+        return BoxKey(static_cast<QKeyEvent*>(event)->key());
+    }
+    if (event->type() != QEvent::MouseButtonPress) {
+        return false;
+    }
     const auto* widget = qobject_cast<const QWidget*>(watched);
-    if (widget != nullptr && widget != box_ && widget != list_ && !list_->isAncestorOf(widget))
+    if (widget != nullptr && widget != box_ && widget != list_ && !list_->isAncestorOf(widget)) {
         panel_->OnLeft();
+    }
     return false;
 }
 

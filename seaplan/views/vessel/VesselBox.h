@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/vessel/VesselView.h"
-
 #include <QObject>
+
+#include "seaplan/panels/vessel/VesselView.h"
 
 class QLineEdit;
 class QListWidget;
@@ -35,7 +35,7 @@ class VesselBox final : public QObject, public VesselView {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    bool boxKey(int key);
+    bool BoxKey(int key);
 
     VoyShipEditDlg* panel_ = nullptr;
     QLineEdit* box_;

@@ -1,23 +1,28 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/core/BusBlock.h>
-
 #include <atomic>
 #include <cstdlib>
+
+#include <tarvik/core/BusBlock.h>
 
 namespace Tarvik::Core {
 
 namespace {
+
 std::atomic<long> liveBlocks{0};
 }
 
 void* AllocateBusBlock(std::size_t bytes) {
     void* block = std::malloc(bytes == 0 ? 1 : bytes);
-    if (block != nullptr) ++liveBlocks;
+    if (block != nullptr) {
+        ++liveBlocks;
+    }
     return block;
 }
 
 void FreeBusBlock(void* block) {
-    if (block == nullptr) return;
+    if (block == nullptr) {
+        return;
+    }
     --liveBlocks;
     std::free(block);
 }

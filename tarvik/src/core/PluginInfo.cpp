@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/core/PluginInfo.h>
-#include <tarvik/util/StringUtl.h>
-
 #include <algorithm>
 #include <array>
 #include <string>
 #include <tuple>
+
+#include <tarvik/core/PluginInfo.h>
+#include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Core {
 
@@ -16,8 +16,12 @@ Version Version::Parse(const std::string& text) {
     const std::array<int*, 4> fields{&version.major, &version.minor, &version.build, &version.revision};
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const int number = Util::StringUtl::ToInt(parts[i]);
-        if (number < 0) throw InvalidVersionFormatException("Version number cannot be negative.");
-        if (i < fields.size()) *fields[i] = number;
+        if (number < 0) {
+            throw InvalidVersionFormatException("Version number cannot be negative.");
+        }
+        if (i < fields.size()) {
+            *fields[i] = number;
+        }
     }
     return version;
 }
@@ -30,11 +34,12 @@ bool Version::AtLeast(const Version& required) const {
 }
 
 CTrvSoftInfo::~CTrvSoftInfo() {
-    for (char16_t* field : {displayName_, description_, company_, eMail_, copyright_, website_})
+    for (char16_t* field : {displayName_, description_, company_, eMail_, copyright_, website_}) {
         delete[] field;
+    }
 }
 
-void CTrvSoftInfo::assign(char16_t*& field, const char16_t* text) {
+void CTrvSoftInfo::Assign(char16_t*& field, const char16_t* text) {
     char16_t* copy = nullptr;
     if (text != nullptr && *text != 0) {
         const std::size_t units = std::char_traits<char16_t>::length(text) + 1;
@@ -68,7 +73,9 @@ DependencyList::DependencyList(std::string text) : text_(std::move(text)) {
     for (const std::string& piece : pieces) {
         std::vector<std::string> parts;
         Util::StringUtl::split(piece, ",", parts);
-        if (parts.size() != 2 || !IsValidVersion(parts[1])) continue;
+        if (parts.size() != 2 || !IsValidVersion(parts[1])) {
+            continue;
+        }
         entries_.push_back({parts[0], Core::Version::Parse(parts[1])});
     }
 }

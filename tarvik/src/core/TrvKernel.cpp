@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/core/TrvKernel.h>
-
 #include <algorithm>
 #include <utility>
+
+#include <tarvik/core/TrvKernel.h>
 
 namespace Tarvik::Core {
 
@@ -38,43 +38,55 @@ void TrvKernel::SetMainView(void* window, void* appModule) {
 
 void TrvKernel::CreateTrvService(const char* name, TObject* owner, const char*, const char*,
                                  TEvent* delegate) {
-    create(name, owner, true);
-    if (delegate != nullptr) BindTrvService(name, delegate);
+    Create(name, owner, true);
+    if (delegate != nullptr) {
+        BindTrvService(name, delegate);
+    }
 }
 
 bool TrvKernel::BindTrvService(const char* name, TEvent* delegate) {
-    if (name == nullptr || delegate == nullptr) return false;
+    if (name == nullptr || delegate == nullptr) {
+        return false;
+    }
     Channel& channel = channels_[name];
     if (!channel.delegates.empty()) {
-        notice(KernelNotice::BoundTwice, name);
+        Notice(KernelNotice::BoundTwice, name);
         return false;
     }
     const bool created = channel.created;
-    if (!created) channel.service = true;
+    if (!created) {
+        channel.service = true;
+    }
     channel.delegates.push_back(delegate);
-    if (!created) notice(KernelNotice::UnknownName, name);
+    if (!created) {
+        Notice(KernelNotice::UnknownName, name);
+    }
     return true;
 }
 
 void TrvKernel::UnBindTrvService(const char* name, TEvent* delegate) {
-    unbind(name, delegate);
+    Unbind(name, delegate);
 }
 
 void TrvKernel::DeleteTrvService(const char* name, TObject* owner) {
-    remove(name, owner);
+    Remove(name, owner);
 }
 
 void TrvKernel::CreateTrvEvent(const char* name, TObject* owner, const char*, const char*, TEvent* delegate) {
-    create(name, owner, false);
-    if (delegate != nullptr) BindTrvEvent(name, delegate);
+    Create(name, owner, false);
+    if (delegate != nullptr) {
+        BindTrvEvent(name, delegate);
+    }
 }
 
 bool TrvKernel::BindTrvEvent(const char* name, TEvent* delegate) {
-    if (name == nullptr || delegate == nullptr) return false;
+    if (name == nullptr || delegate == nullptr) {
+        return false;
+    }
     Channel& channel = channels_[name];
     const bool taken = channel.service && !channel.delegates.empty();
     if (taken || Contains(channel.delegates, delegate)) {
-        notice(KernelNotice::BoundTwice, name);
+        Notice(KernelNotice::BoundTwice, name);
         return false;
     }
     channel.delegates.push_back(delegate);
@@ -82,11 +94,11 @@ bool TrvKernel::BindTrvEvent(const char* name, TEvent* delegate) {
 }
 
 void TrvKernel::UnBindTrvEvent(const char* name, TEvent* delegate) {
-    unbind(name, delegate);
+    Unbind(name, delegate);
 }
 
 void TrvKernel::DeleteTrvEvent(const char* name, TObject* owner) {
-    remove(name, owner);
+    Remove(name, owner);
 }
 
 bool TrvKernel::CallTrvService(const char* name, void* input) {
@@ -95,10 +107,12 @@ bool TrvKernel::CallTrvService(const char* name, void* input) {
 }
 
 bool TrvKernel::CallTrvService(const char* name, void* input, void*& result) {
-    if (name == nullptr) return false;
+    if (name == nullptr) {
+        return false;
+    }
     const auto found = channels_.find(name);
     if (found == channels_.end() || !found->second.service || found->second.delegates.empty()) {
-        notice(KernelNotice::NobodyOffers, name);
+        Notice(KernelNotice::NobodyOffers, name);
         return false;
     }
     result = found->second.delegates.front()->Call(input);
@@ -109,21 +123,31 @@ bool TrvKernel::CallTrvService(const char* name, void* input, void*& result) {
 // call, and one that subscribes meanwhile waits for the next time.
 std::vector<void*> TrvKernel::RaiseTrvEvent(const char* name, void* input) {
     std::vector<void*> answers;
-    if (name == nullptr) return answers;
+    if (name == nullptr) {
+        return answers;
+    }
     const std::string key = name;
     const auto found = channels_.find(key);
-    if (found == channels_.end()) return answers;
+    if (found == channels_.end()) {
+        return answers;
+    }
     const std::vector<TEvent*> snapshot = found->second.delegates;
     for (TEvent* delegate : snapshot) {
         const auto current = channels_.find(key);
-        if (current == channels_.end()) break;
-        if (Contains(current->second.delegates, delegate)) answers.push_back(delegate->Call(input));
+        if (current == channels_.end()) {
+            break;
+        }
+        if (Contains(current->second.delegates, delegate)) {
+            answers.push_back(delegate->Call(input));
+        }
     }
     return answers;
 }
 
 bool TrvKernel::IsBound(const char* name) const {
-    if (name == nullptr) return false;
+    if (name == nullptr) {
+        return false;
+    }
     const auto found = channels_.find(name);
     return found != channels_.end() && !found->second.delegates.empty();
 }
@@ -137,13 +161,15 @@ void TrvKernel::Reset() {
 }
 
 // Creating a name again passes it to the new owner; its subscribers stay.
-void TrvKernel::create(const char* name, TObject* owner, bool service) {
-    if (name == nullptr) return;
+void TrvKernel::Create(const char* name, TObject* owner, bool service) {
+    if (name == nullptr) {
+        return;
+    }
     Channel& channel = channels_[name];
     // Whoever answers a service keeps it: a second owner would otherwise be able to remove it.
     const bool answered = channel.created && channel.service && !channel.delegates.empty();
     if (service && answered && channel.owner != owner) {
-        notice(KernelNotice::BoundTwice, name);
+        Notice(KernelNotice::BoundTwice, name);
         return;
     }
     channel.service = service;
@@ -151,31 +177,39 @@ void TrvKernel::create(const char* name, TObject* owner, bool service) {
     channel.owner = owner;
 }
 
-void TrvKernel::unbind(const char* name, TEvent* delegate) {
-    if (name == nullptr) return;
-    const auto found = channels_.find(name);
-    if (found == channels_.end() || std::erase(found->second.delegates, delegate) == 0) {
-        notice(KernelNotice::UnknownUnbind, name);
+void TrvKernel::Unbind(const char* name, TEvent* delegate) {
+    if (name == nullptr) {
         return;
     }
-    if (!found->second.created && found->second.delegates.empty()) channels_.erase(found);
+    const auto found = channels_.find(name);
+    if (found == channels_.end() || std::erase(found->second.delegates, delegate) == 0) {
+        Notice(KernelNotice::UnknownUnbind, name);
+        return;
+    }
+    if (!found->second.created && found->second.delegates.empty()) {
+        channels_.erase(found);
+    }
 }
 
 // Only the owner may delete; its name goes with all bindings.
-void TrvKernel::remove(const char* name, TObject* owner) {
-    if (name == nullptr) return;
+void TrvKernel::Remove(const char* name, TObject* owner) {
+    if (name == nullptr) {
+        return;
+    }
     const auto found = channels_.find(name);
     if (found == channels_.end() || !found->second.created || found->second.owner != owner) {
-        notice(KernelNotice::UnknownName, name);
+        Notice(KernelNotice::UnknownName, name);
         return;
     }
     channels_.erase(found);
 }
 
 // The observer is copied, since it may replace itself.
-void TrvKernel::notice(KernelNotice kind, const std::string& name) const {
+void TrvKernel::Notice(KernelNotice kind, const std::string& name) const {
     const auto observer = observer_;
-    if (observer) observer(kind, name);
+    if (observer) {
+        observer(kind, name);
+    }
 }
 
 }  // namespace Tarvik::Core

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/interface/LoadString.h>
-
 #include <algorithm>
+
+#include <tarvik/interface/LoadString.h>
 
 namespace Tarvik::Interface {
 
@@ -27,15 +27,21 @@ const LanguageSource* LanguageSource::Current() {
 
 void TrvLoadString(const char16_t* section, const char16_t* name, const char16_t* key, char16_t* buffer,
                    const char16_t* fallback, std::size_t capacity) {
-    if (buffer == nullptr || capacity == 0) return;
+    if (buffer == nullptr || capacity == 0) {
+        return;
+    }
     std::optional<std::u16string> text;
     if (currentSource != nullptr && section != nullptr && name != nullptr && key != nullptr) {
         text = currentSource->Find(section, name, key);
     }
-    if (!text) text = fallback != nullptr ? fallback : u"";
+    if (!text) {
+        text = fallback != nullptr ? fallback : u"";
+    }
     std::size_t units = std::min(text->size(), capacity - 1);
     // Half a surrogate pair is no text.
-    if (units < text->size() && units > 0 && IsHighSurrogate((*text)[units - 1])) --units;
+    if (units < text->size() && units > 0 && IsHighSurrogate((*text)[units - 1])) {
+        --units;
+    }
     std::copy_n(text->data(), units, buffer);
     buffer[units] = 0;
 }

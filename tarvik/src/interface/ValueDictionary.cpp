@@ -4,6 +4,7 @@
 namespace Tarvik::Interface {
 
 namespace {
+
 const ValueDictionary* currentDictionary = nullptr;
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/skin/Icons.h>
-
-#include <tarvik/skin/Palette.h>
-#include "tarvik/src/skin/icons/IconTexts.h"
-
 #include <QPixmap>
 #include <QSvgRenderer>
+
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
+
+#include "tarvik/src/skin/icons/IconTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -15,7 +15,9 @@ bool HasIcon(const std::string& name) {
 
 void PaintIcon(QPainter& painter, const QRect& place, const std::string& name, const QColor& colour) {
     const auto it = IconTexts().find(name);
-    if (it == IconTexts().end()) return;
+    if (it == IconTexts().end()) {
+        return;
+    }
     QString text = QString::fromStdString(
         R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16"><g fill="none" stroke="currentColor" )"
         R"(stroke-width="1.4" stroke-linecap="round" stroke-linejoin="round">)" +

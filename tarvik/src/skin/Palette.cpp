@@ -7,7 +7,7 @@ namespace {
 
 Theme theme = Theme::Light;
 
-SkinPalette light() {
+SkinPalette Light() {
     SkinPalette p;
     p.window = "#EEF2F5";
     p.panel = "#FFFFFF";
@@ -31,7 +31,7 @@ SkinPalette light() {
     return p;
 }
 
-SkinPalette dark() {
+SkinPalette Dark() {
     SkinPalette p;
     p.window = "#141D25";
     p.panel = "#1B2630";
@@ -56,7 +56,7 @@ SkinPalette dark() {
 }
 
 /// Red on black, so that eyes keep used to the dark.
-SkinPalette night() {
+SkinPalette Night() {
     SkinPalette p;
     p.window = "#000000";
     p.panel = "#0A0000";
@@ -137,7 +137,9 @@ Theme CurrentTheme() {
 }
 
 Theme ThemeNamed(const QString& name) {
-    if (name == QLatin1String("dark")) return Theme::Dark;
+    if (name == QLatin1String("dark")) {
+        return Theme::Dark;
+    }
     return name == QLatin1String("night") ? Theme::Night : Theme::Light;
 }
 
@@ -146,7 +148,7 @@ void SetTheme(Theme chosen) {
 }
 
 const SkinPalette& Skin() {
-    static const SkinPalette palettes[] = {light(), dark(), night()};
+    static const SkinPalette palettes[] = {Light(), Dark(), Night()};
     return palettes[static_cast<int>(theme)];
 }
 
@@ -166,7 +168,9 @@ QString SkinStyleSheet() {
                                                     {"@secondary", p.secondary},
                                                     {"@disabled", p.disabled},
                                                     {"@selection", p.selection}};
-    for (const auto& [name, colour] : names) sheet.replace(QLatin1String(name), colour.name());
+    for (const auto& [name, colour] : names) {
+        sheet.replace(QLatin1String(name), colour.name());
+    }
     return sheet;
 }
 

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/skin/ToolWindow.h>
-
-#include <tarvik/skin/Icons.h>
-#include <tarvik/skin/Palette.h>
-
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainterPath>
 #include <QVBoxLayout>
+
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
 
 namespace Tarvik::Seaplan {
 
@@ -70,18 +69,20 @@ QToolButton* ToolWindow::AddCaptionButton(const char* name, const std::string& i
     button->setObjectName(QString::fromLatin1(name));
     button->setFocusPolicy(Qt::TabFocus);
     captionRow_->addWidget(button);
-    keepIcon(button, icon);
+    KeepIcon(button, icon);
     return button;
 }
 
-void ToolWindow::keepIcon(QAbstractButton* button, const std::string& icon) {
+void ToolWindow::KeepIcon(QAbstractButton* button, const std::string& icon) {
     button->setIcon(MakeIcon(icon));
     icons_.emplace_back(button, icon);
 }
 
 void ToolWindow::ApplySkin() {
     setStyleSheet(SkinStyleSheet());
-    for (const auto& [button, icon] : icons_) button->setIcon(MakeIcon(icon));
+    for (const auto& [button, icon] : icons_) {
+        button->setIcon(MakeIcon(icon));
+    }
 }
 
 void ToolWindow::resizeEvent(QResizeEvent* event) {
@@ -97,14 +98,18 @@ void ToolWindow::closeEvent(QCloseEvent* event) {
 }
 
 void ToolWindow::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return QFrame::mousePressEvent(event);
+    if (event->button() != Qt::LeftButton) {
+        return QFrame::mousePressEvent(event);
+    }
     SurfacePressed();
     dragging_ = true;
     grip_ = event->globalPosition().toPoint() - frameGeometry().topLeft();
 }
 
 void ToolWindow::mouseMoveEvent(QMouseEvent* event) {
-    if (dragging_) move(event->globalPosition().toPoint() - grip_);
+    if (dragging_) {
+        move(event->globalPosition().toPoint() - grip_);
+    }
 }
 
 void ToolWindow::mouseReleaseEvent(QMouseEvent*) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/AutoBuffer.h>
-
 #include <cstdarg>
+
+#include <tarvik/util/AutoBuffer.h>
 
 #include "CLocale.h"
 

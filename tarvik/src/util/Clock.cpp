@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/Clock.h>
-
 #include <chrono>
+
+#include <tarvik/util/Clock.h>
 
 namespace Tarvik::Util {
 

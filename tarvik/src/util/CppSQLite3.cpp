@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/CppSQLite3.h>
+#include <utility>
 
 #include <sqlite3.h>
 
-#include <utility>
+#include <tarvik/util/CppSQLite3.h>
 
 namespace Tarvik::Util {
 
@@ -24,15 +24,21 @@ CppSQLite3Query::~CppSQLite3Query() {
 }
 
 const char* CppSQLite3Query::fieldValue(int column) const {
-    if (eof_ || column < 0 || column >= sqlite3_column_count(statement_)) return nullptr;
+    if (eof_ || column < 0 || column >= sqlite3_column_count(statement_)) {
+        return nullptr;
+    }
     return reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
 }
 
 void CppSQLite3Query::nextRow() {
-    if (statement_ == nullptr) throw CppSQLite3Exception("no query");
+    if (statement_ == nullptr) {
+        throw CppSQLite3Exception("no query");
+    }
     const int code = sqlite3_step(statement_);
     eof_ = code != SQLITE_ROW;
-    if (code == SQLITE_ROW || code == SQLITE_DONE) return;
+    if (code == SQLITE_ROW || code == SQLITE_DONE) {
+        return;
+    }
     std::string message = sqlite3_errmsg(sqlite3_db_handle(statement_));
     finalize();
     throw CppSQLite3Exception(std::move(message));
@@ -65,12 +71,16 @@ void CppSQLite3DB::open(const std::string& path) {
 }
 
 CppSQLite3Query CppSQLite3DB::execQuery(const char* sql) {
-    if (database_ == nullptr) throw CppSQLite3Exception("no data base is open");
+    if (database_ == nullptr) {
+        throw CppSQLite3Exception("no data base is open");
+    }
     CppSQLite3Query query;
     if (sqlite3_prepare_v2(database_, sql, -1, &query.statement_, nullptr) != SQLITE_OK) {
         throw CppSQLite3Exception(sqlite3_errmsg(database_));
     }
-    if (query.statement_ != nullptr) query.nextRow();
+    if (query.statement_ != nullptr) {
+        query.nextRow();
+    }
     return query;
 }
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/Clock.h>
-#include <tarvik/util/DateTime.h>
-#include <tarvik/util/DateTimeUtl.h>
-
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <array>
 #include <ctime>
 #include <limits>
+
+#include <fmt/format.h>
+
+#include <tarvik/util/Clock.h>
+#include <tarvik/util/DateTime.h>
+#include <tarvik/util/DateTimeUtl.h>
 
 #include "Saturate.h"
 
@@ -38,7 +38,9 @@ struct Civil {
 std::int64_t DaysFromCivil(std::int64_t year, std::int64_t month, std::int64_t day) {
     year += FloorDiv(month - 1, 12);
     month = month - 1 - FloorDiv(month - 1, 12) * 12 + 1;
-    if (month <= 2) --year;
+    if (month <= 2) {
+        --year;
+    }
     const std::int64_t era = FloorDiv(year, 400);
     const std::int64_t yearOfEra = year - era * 400;
     const std::int64_t dayOfYear = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
@@ -62,7 +64,9 @@ Civil CivilFromDays(std::int64_t days) {
 _datetime_t MachineLocal(std::int64_t utcCsecs) {
     const auto seconds = static_cast<std::time_t>(FloorDiv(utcCsecs, 100));
     std::tm local{};
-    if (::localtime_r(&seconds, &local) == nullptr) return _datetime_t::from_csecs_days(utcCsecs, 0);
+    if (::localtime_r(&seconds, &local) == nullptr) {
+        return _datetime_t::from_csecs_days(utcCsecs, 0);
+    }
     return _datetime_t::from_csecs_days(utcCsecs + static_cast<std::int64_t>(local.tm_gmtoff) * 100, 0);
 }
 
@@ -127,7 +131,9 @@ _datetime_t _datetime_t::gmt_now() {
 
 _datetime_t _datetime_t::from_gmt_timer(std::int64_t seconds) {
     std::int64_t csecs = 0;
-    if (__builtin_mul_overflow(seconds, std::int64_t{100}, &csecs)) csecs = Limit(seconds < 0);
+    if (__builtin_mul_overflow(seconds, std::int64_t{100}, &csecs)) {
+        csecs = Limit(seconds < 0);
+    }
     return _datetime_t(csecs);
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/DateTimeUtl.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+
+#include <tarvik/util/DateTimeUtl.h>
 
 #include "Saturate.h"
 #include "ZoneTable.h"
@@ -24,7 +24,9 @@ _datetime_t Shifted(const _datetime_t& value, std::int64_t csecs) {
 int Digits(const std::string& text, std::size_t at, std::size_t count) {
     int value = 0;
     for (std::size_t i = at; i < at + count; ++i) {
-        if (text[i] < '0' || text[i] > '9') return -1;
+        if (text[i] < '0' || text[i] > '9') {
+            return -1;
+        }
         value = value * 10 + (text[i] - '0');
     }
     return value;
@@ -45,7 +47,9 @@ std::string DateTimeUtl::Format(const _datetime_t& value, const std::string& for
 }
 
 std::optional<_datetime_t> DateTimeUtl::Parse(const std::string& text) {
-    if (text.size() != 19) return std::nullopt;
+    if (text.size() != 19) {
+        return std::nullopt;
+    }
     if (text[4] != '-' || text[7] != '-' || text[10] != ' ' || text[13] != ':' || text[16] != ':') {
         return std::nullopt;
     }
@@ -58,12 +62,16 @@ std::optional<_datetime_t> DateTimeUtl::Parse(const std::string& text) {
     if (year < 0 || month < 1 || month > 12 || day < 1 || day > _date_t(1, month, year).month_days()) {
         return std::nullopt;
     }
-    if (hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59) return std::nullopt;
+    if (hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59) {
+        return std::nullopt;
+    }
     return _datetime_t(second, minute, hour, day, month, year);
 }
 
 _datetime_t DateTimeUtl::AddHour(const _datetime_t& value, double hours) {
-    if (!std::isfinite(hours)) return value;
+    if (!std::isfinite(hours)) {
+        return value;
+    }
     // A date-time keeps centiseconds: the whole milliseconds are rounded once more.
     const double milliseconds = std::round(std::clamp(hours * 3'600'000.0, -9e18, 9e18));
     return Shifted(value, std::llround(milliseconds / 10));

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/FileUtl.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+
+#include <tarvik/util/FileUtl.h>
 
 namespace Tarvik::Util {
 
@@ -23,13 +23,17 @@ std::string ProgramFolder() {
 }  // namespace
 
 std::string FileUtl::GetCurrentAppDirectory() {
-    if (Folder().empty()) Folder() = ProgramFolder();
+    if (Folder().empty()) {
+        Folder() = ProgramFolder();
+    }
     return Folder();
 }
 
 void FileUtl::SetCurrentAppDirectory(const std::string& folder) {
     Folder() = folder;
-    while (Folder().size() > 1 && Folder().ends_with('/')) Folder().pop_back();
+    while (Folder().size() > 1 && Folder().ends_with('/')) {
+        Folder().pop_back();
+    }
 }
 
 std::string FileUtl::NativePath(const std::string& path) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/Geodesy.h>
+#include <algorithm>
+#include <cmath>
 
 #include <GeographicLib/Geodesic.hpp>
 #include <GeographicLib/GeodesicLine.hpp>
 #include <GeographicLib/Rhumb.hpp>
 
-#include <algorithm>
-#include <cmath>
+#include <tarvik/util/Geodesy.h>
 
 namespace Tarvik::Util {
 
@@ -60,14 +60,18 @@ std::vector<_SPointF> CircleLineUtl::Caculate(const _SPointF& from, const _SPoin
 
 double CCourse::CalCourse(double x1, double y1, double x2, double y2) {
     const RhumbLeg leg = Rhumb(x1, y1, x2, y2);
-    if (leg.metres == 0 || !std::isfinite(leg.course)) return 0;
+    if (leg.metres == 0 || !std::isfinite(leg.course)) {
+        return 0;
+    }
     const double course = leg.course < 0 ? leg.course + 360.0 : leg.course;
     // A course a hair west of north rounds up to 360.
     return course >= 360.0 || course == 0 ? 0 : course;
 }
 
 double UnitUtl::DataFormat(double value, int digits) {
-    if (digits > 300) return value;
+    if (digits > 300) {
+        return value;
+    }
     const double scale = std::pow(10.0, std::max(digits, 0));
     const double scaled = value * scale;
     return std::isfinite(scaled) ? std::round(scaled) / scale : value;

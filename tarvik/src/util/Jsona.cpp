@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/Jsona.h>
-#include <tarvik/util/StringUtl.h>
-
 #include <charconv>
 #include <new>
 #include <utility>
+
+#include <tarvik/util/Jsona.h>
+#include <tarvik/util/StringUtl.h>
 
 #include "JsonaDocument.h"
 #include "JsonaParser.h"
@@ -14,12 +14,16 @@ namespace Tarvik::Util {
 namespace {
 
 std::string ReadText(const JsonaDocument* document, const JsonaNode* node, const std::string& fallback) {
-    if (node == nullptr || node->kind != Jsona::Kind::Text) return fallback;
+    if (node == nullptr || node->kind != Jsona::Kind::Text) {
+        return fallback;
+    }
     return std::string(document->Bytes(*node));
 }
 
 int ReadInteger(const JsonaDocument* document, const JsonaNode* node, int fallback) {
-    if (node == nullptr || node->kind != Jsona::Kind::Integer) return fallback;
+    if (node == nullptr || node->kind != Jsona::Kind::Integer) {
+        return fallback;
+    }
     const std::string_view digits = document->Bytes(*node);
     int value = 0;
     const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
@@ -27,7 +31,9 @@ int ReadInteger(const JsonaDocument* document, const JsonaNode* node, int fallba
 }
 
 double ReadReal(const JsonaDocument* document, const JsonaNode* node, double fallback) {
-    if (node == nullptr || node->kind != Jsona::Kind::Real) return fallback;
+    if (node == nullptr || node->kind != Jsona::Kind::Real) {
+        return fallback;
+    }
     const std::string_view digits = document->Bytes(*node);
     double value = 0;
     const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
@@ -73,18 +79,24 @@ bool Jsona::has(std::string_view key) const {
 
 Jsona Jsona::get(std::string_view key) const {
     const JsonaNode* node = document_ ? document_->Member(document_->nodes[node_], key) : nullptr;
-    if (node == nullptr) return {};
+    if (node == nullptr) {
+        return {};
+    }
     return {document_, static_cast<std::uint32_t>(node - document_->nodes.data())};
 }
 
 Jsona Jsona::get(int index) const {
     const JsonaNode* node = document_ ? document_->Child(document_->nodes[node_], index) : nullptr;
-    if (node == nullptr) return {};
+    if (node == nullptr) {
+        return {};
+    }
     return {document_, static_cast<std::uint32_t>(node - document_->nodes.data())};
 }
 
 std::string Jsona::key(int index) const {
-    if (kind() != Kind::Object || index < 0 || index >= size()) return {};
+    if (kind() != Kind::Object || index < 0 || index >= size()) {
+        return {};
+    }
     return std::string(document_->Key(document_->nodes[node_], static_cast<std::uint32_t>(index)));
 }
 
@@ -93,17 +105,23 @@ std::string Jsona::getv(std::string_view key, const char* fallback) const {
 }
 
 std::string Jsona::getv(std::string_view key, const std::string& fallback) const {
-    if (!document_) return fallback;
+    if (!document_) {
+        return fallback;
+    }
     return ReadText(document_.get(), document_->Member(document_->nodes[node_], key), fallback);
 }
 
 int Jsona::getv(std::string_view key, int fallback) const {
-    if (!document_) return fallback;
+    if (!document_) {
+        return fallback;
+    }
     return ReadInteger(document_.get(), document_->Member(document_->nodes[node_], key), fallback);
 }
 
 double Jsona::getv(std::string_view key, double fallback) const {
-    if (!document_) return fallback;
+    if (!document_) {
+        return fallback;
+    }
     return ReadReal(document_.get(), document_->Member(document_->nodes[node_], key), fallback);
 }
 
@@ -112,17 +130,23 @@ std::string Jsona::getv(int index, const char* fallback) const {
 }
 
 std::string Jsona::getv(int index, const std::string& fallback) const {
-    if (!document_) return fallback;
+    if (!document_) {
+        return fallback;
+    }
     return ReadText(document_.get(), document_->Child(document_->nodes[node_], index), fallback);
 }
 
 int Jsona::getv(int index, int fallback) const {
-    if (!document_) return fallback;
+    if (!document_) {
+        return fallback;
+    }
     return ReadInteger(document_.get(), document_->Child(document_->nodes[node_], index), fallback);
 }
 
 double Jsona::getv(int index, double fallback) const {
-    if (!document_) return fallback;
+    if (!document_) {
+        return fallback;
+    }
     return ReadReal(document_.get(), document_->Child(document_->nodes[node_], index), fallback);
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/util/Jsona.h>
-
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <tarvik/util/Jsona.h>
 
 namespace Tarvik::Util {
 

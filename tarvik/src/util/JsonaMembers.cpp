@@ -15,9 +15,9 @@ void JsonaParser::close(Jsona::Kind kind, std::size_t mark) {
     if (kind == Jsona::Kind::Object) {
         node.count /= 2;
         if (node.count > JsonaDocument::kLinearMembers) {
-            mergeMany(mark, node);
+            MergeMany(mark, node);
         } else if (node.count > 1) {
-            node.count = mergeFew(mark);
+            node.count = MergeFew(mark);
         }
     }
     node.start = static_cast<std::uint32_t>(document_.nodes.size());
@@ -29,17 +29,17 @@ void JsonaParser::close(Jsona::Kind kind, std::size_t mark) {
 
 // A later member of an equal key gives its value to the first and goes. A mask of key marks keeps most pairs
 // apart without comparing them.
-std::uint32_t JsonaParser::mergeFew(std::size_t mark) {
+std::uint32_t JsonaParser::MergeFew(std::size_t mark) {
     std::uint64_t seen = 0;
     std::size_t kept = mark;
     for (std::size_t at = mark; at < stack_.size(); at += 2) {
-        const std::string_view key = bytes(at);
+        const std::string_view key = Bytes(at);
         const unsigned first = key.empty() ? 0U : static_cast<std::uint8_t>(key.front());
         const unsigned last = key.empty() ? 0U : static_cast<std::uint8_t>(key.back());
         const std::uint64_t bit = std::uint64_t{1} << ((key.size() * 11 + first * 3 + last * 7) & 63);
         std::size_t same = kept;
         if ((seen & bit) != 0) {
-            for (same = mark; same < kept && bytes(same) != key; same += 2) {
+            for (same = mark; same < kept && Bytes(same) != key; same += 2) {
             }
         }
         seen |= bit;
@@ -56,10 +56,10 @@ std::uint32_t JsonaParser::mergeFew(std::size_t mark) {
 }
 
 // The same for large objects by way of a sorted index, which stays for look-ups.
-void JsonaParser::mergeMany(std::size_t mark, JsonaNode& object) {
+void JsonaParser::MergeMany(std::size_t mark, JsonaNode& object) {
     std::vector<std::uint32_t> sorted(object.count);
     std::iota(sorted.begin(), sorted.end(), 0U);
-    const auto key = [&](std::uint32_t member) { return bytes(mark + 2 * std::size_t{member}); };
+    const auto key = [&](std::uint32_t member) { return Bytes(mark + 2 * std::size_t{member}); };
     std::sort(sorted.begin(), sorted.end(), [&](std::uint32_t a, std::uint32_t b) {
         const int order = key(a).compare(key(b));
         return order != 0 ? order < 0 : a < b;
@@ -78,7 +78,9 @@ void JsonaParser::mergeMany(std::size_t mark, JsonaNode& object) {
     }
     std::uint32_t kept = 0;
     for (std::uint32_t member = 0; member < object.count; ++member) {
-        if (place[member] == kGone) continue;
+        if (place[member] == kGone) {
+            continue;
+        }
         stack_[mark + 2 * std::size_t{kept}] = stack_[mark + 2 * std::size_t{member}];
         stack_[mark + 2 * std::size_t{kept} + 1] = stack_[mark + 2 * std::size_t{member} + 1];
         place[member] = kept++;
@@ -86,7 +88,9 @@ void JsonaParser::mergeMany(std::size_t mark, JsonaNode& object) {
     stack_.resize(mark + 2 * std::size_t{kept});
     object.count = kept;
     object.order = static_cast<std::uint32_t>(document_.order.size());
-    for (const std::uint32_t member : unique) document_.order.push_back(place[member]);
+    for (const std::uint32_t member : unique) {
+        document_.order.push_back(place[member]);
+    }
 }
 
 }  // namespace Tarvik::Util

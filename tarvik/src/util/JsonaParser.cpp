@@ -29,131 +29,177 @@ std::shared_ptr<const JsonaDocument> JsonaParser::Parse(std::string_view text, J
     document->source.reserve(text.size() + kPadding);
     document->source.assign(text).append(kPadding, '\0');
     JsonaParser parser(*document, text.size());
-    if (parser.root()) return document;
+    if (parser.Root()) {
+        return document;
+    }
     error = parser.error_;
     return nullptr;
 }
 
-bool JsonaParser::root() {
+bool JsonaParser::Root() {
     document_.nodes.reserve(static_cast<std::size_t>(end_ - begin_) / 16 + 1);
-    const char* at = value(SkipSpace(begin_), 0);
-    if (at == nullptr) return false;
+    const char* at = Value(SkipSpace(begin_), 0);
+    if (at == nullptr) {
+        return false;
+    }
     at = SkipSpace(at);
     if (at != end_) {
-        fail(at, "text behind the value");
+        Fail(at, "text behind the value");
         return false;
     }
     document_.nodes.push_back(stack_.front());
     return true;
 }
 
-const char* JsonaParser::value(const char* at, int depth) {
+const char* JsonaParser::Value(const char* at, int depth) {
     switch (*at) {
         case '"':
-            return quoted(at);
+            return Quoted(at);
         case '{':
-            return object(at, depth + 1);
+            return Object(at, depth + 1);
         case '[':
-            return array(at, depth + 1);
+            return Array(at, depth + 1);
         case 't':
-            return word(at, "true", Jsona::Kind::True);
+            return Word(at, "true", Jsona::Kind::True);
         case 'f':
-            return word(at, "false", Jsona::Kind::False);
+            return Word(at, "false", Jsona::Kind::False);
         case 'n':
-            return word(at, "null", Jsona::Kind::Null);
+            return Word(at, "null", Jsona::Kind::Null);
         default:
-            return number(at);
+            return Number(at);
     }
 }
 
-const char* JsonaParser::array(const char* at, int depth) {
-    if (depth > kMaxDepth) return fail(at, "more than 64 levels");
+const char* JsonaParser::Array(const char* at, int depth) {
+    if (depth > kMaxDepth) {
+        return Fail(at, "more than 64 levels");
+    }
     const std::size_t mark = stack_.size();
     at = SkipSpace(at + 1);
     if (*at != ']') {
         for (;;) {
-            at = value(at, depth);
-            if (at == nullptr) return nullptr;
+            at = Value(at, depth);
+            if (at == nullptr) {
+                return nullptr;
+            }
             at = SkipSpace(at);
-            if (*at != ',') break;
+            if (*at != ',') {
+                break;
+            }
             at = SkipSpace(at + 1);
         }
-        if (*at != ']') return fail(at, "comma or closing bracket expected");
+        if (*at != ']') {
+            return Fail(at, "comma or closing bracket expected");
+        }
     }
     close(Jsona::Kind::Array, mark);
     return at + 1;
 }
 
-const char* JsonaParser::object(const char* at, int depth) {
-    if (depth > kMaxDepth) return fail(at, "more than 64 levels");
+const char* JsonaParser::Object(const char* at, int depth) {
+    if (depth > kMaxDepth) {
+        return Fail(at, "more than 64 levels");
+    }
     const std::size_t mark = stack_.size();
     at = SkipSpace(at + 1);
     if (*at != '}') {
         for (;;) {
             at = key(at);
-            if (at == nullptr) return nullptr;
+            if (at == nullptr) {
+                return nullptr;
+            }
             at = SkipSpace(at);
-            if (*at != ':') return fail(at, "colon expected");
-            at = value(SkipSpace(at + 1), depth);
-            if (at == nullptr) return nullptr;
+            if (*at != ':') {
+                return Fail(at, "colon expected");
+            }
+            at = Value(SkipSpace(at + 1), depth);
+            if (at == nullptr) {
+                return nullptr;
+            }
             at = SkipSpace(at);
-            if (*at != ',') break;
+            if (*at != ',') {
+                break;
+            }
             at = SkipSpace(at + 1);
         }
-        if (*at != '}') return fail(at, "comma or closing brace expected");
+        if (*at != '}') {
+            return Fail(at, "comma or closing brace expected");
+        }
     }
     close(Jsona::Kind::Object, mark);
     return at + 1;
 }
 
 const char* JsonaParser::key(const char* at) {
-    if (*at == '"') return quoted(at);
-    if (!Is(*at, kWordStart)) return fail(at, "key expected");
+    if (*at == '"') {
+        return Quoted(at);
+    }
+    if (!Is(*at, kWordStart)) {
+        return Fail(at, "key expected");
+    }
     const char* end = at + 1;
-    while (Is(*end, kWordStart | kDigit)) ++end;
-    push(Jsona::Kind::Text, at, end);
+    while (Is(*end, kWordStart | kDigit)) {
+        ++end;
+    }
+    Push(Jsona::Kind::Text, at, end);
     return end;
 }
 
 // A text without escapes stays where it is in the source.
-const char* JsonaParser::quoted(const char* open) {
+const char* JsonaParser::Quoted(const char* open) {
     const char* at = open + 1;
     for (;;) {
         at = FindTextStop(at);
         if (*at == '"') {
-            push(Jsona::Kind::Text, open + 1, at);
+            Push(Jsona::Kind::Text, open + 1, at);
             return at + 1;
         }
-        if (*at == '\\') return decoded(open, at);
+        if (*at == '\\') {
+            return Decoded(open, at);
+        }
         if (*at == '\0') {
-            if (at == end_) return fail(end_, "text without closing quote");
+            if (at == end_) {
+                return Fail(end_, "text without closing quote");
+            }
             ++at;
             continue;
         }
         do {
             const int length = Utf8SequenceLength(at);
-            if (length == 0) return fail(at, "bad UTF-8");
+            if (length == 0) {
+                return Fail(at, "bad UTF-8");
+            }
             at += length;
         } while (static_cast<signed char>(*at) < 0);
     }
 }
 
 // Goes on from the first backslash, `at`; the text is put together in the arena.
-const char* JsonaParser::decoded(const char* open, const char* at) {
+const char* JsonaParser::Decoded(const char* open, const char* at) {
     const std::size_t start = document_.arena.size();
     const char* pending = open + 1;
     for (;;) {
-        if (*at == '"' || *at == '\\') document_.arena.append(pending, at);
-        if (*at == '"') break;
+        if (*at == '"' || *at == '\\') {
+            document_.arena.append(pending, at);
+        }
+        if (*at == '"') {
+            break;
+        }
         if (*at == '\\') {
-            at = pending = escape(at);
-            if (at == nullptr) return nullptr;
+            at = pending = Escape(at);
+            if (at == nullptr) {
+                return nullptr;
+            }
         } else if (*at == '\0') {
-            if (at == end_) return fail(end_, "text without closing quote");
+            if (at == end_) {
+                return Fail(end_, "text without closing quote");
+            }
             ++at;
         } else {
             const int length = Utf8SequenceLength(at);
-            if (length == 0) return fail(at, "bad UTF-8");
+            if (length == 0) {
+                return Fail(at, "bad UTF-8");
+            }
             at += length;
         }
         at = FindTextStop(at);
@@ -167,7 +213,7 @@ const char* JsonaParser::decoded(const char* open, const char* at) {
     return at + 1;
 }
 
-const char* JsonaParser::escape(const char* at) {
+const char* JsonaParser::Escape(const char* at) {
     char c = 0;
     switch (at[1]) {
         case '"':
@@ -191,62 +237,76 @@ const char* JsonaParser::escape(const char* at) {
             c = '\t';
             break;
         case 'u':
-            return unicode(at);
+            return Unicode(at);
         default:
-            return fail(at, "bad escape");
+            return Fail(at, "bad escape");
     }
     document_.arena += c;
     return at + 2;
 }
 
-const char* JsonaParser::unicode(const char* at) {
+const char* JsonaParser::Unicode(const char* at) {
     const int unit = HexUnit(at + 2);
-    if (unit < 0) return fail(at, "bad escape");
+    if (unit < 0) {
+        return Fail(at, "bad escape");
+    }
     if (unit < 0xD800 || unit > 0xDFFF) {
         AppendUtf8(document_.arena, static_cast<std::uint32_t>(unit));
         return at + 6;
     }
     const int low = unit < 0xDC00 && at[6] == '\\' && at[7] == 'u' ? HexUnit(at + 8) : -1;
-    if (low < 0xDC00 || low > 0xDFFF) return fail(at, "lone surrogate");
+    if (low < 0xDC00 || low > 0xDFFF) {
+        return Fail(at, "lone surrogate");
+    }
     AppendUtf8(document_.arena, 0x10000U + (static_cast<std::uint32_t>(unit - 0xD800) << 10) +
                                     static_cast<std::uint32_t>(low - 0xDC00));
     return at + 12;
 }
 
 // The digits are read when somebody asks for them.
-const char* JsonaParser::number(const char* begin) {
+const char* JsonaParser::Number(const char* begin) {
     const char* at = *begin == '-' ? begin + 1 : begin;
-    if (!Is(*at, kDigit)) return fail(at, at == end_ ? "unexpected end of text" : "value expected");
+    if (!Is(*at, kDigit)) {
+        return Fail(at, at == end_ ? "unexpected end of text" : "value expected");
+    }
     at = *at == '0' ? at + 1 : SkipDigits(at);
     Jsona::Kind kind = Jsona::Kind::Integer;
     if (*at == '.') {
         kind = Jsona::Kind::Real;
-        if (!Is(*++at, kDigit)) return fail(at, "digit expected");
+        if (!Is(*++at, kDigit)) {
+            return Fail(at, "digit expected");
+        }
         at = SkipDigits(at);
     }
     if (*at == 'e' || *at == 'E') {
         kind = Jsona::Kind::Real;
         ++at;
-        if (*at == '+' || *at == '-') ++at;
-        if (!Is(*at, kDigit)) return fail(at, "digit expected");
+        if (*at == '+' || *at == '-') {
+            ++at;
+        }
+        if (!Is(*at, kDigit)) {
+            return Fail(at, "digit expected");
+        }
         at = SkipDigits(at);
     }
-    push(kind, begin, at);
+    Push(kind, begin, at);
     return at;
 }
 
-const char* JsonaParser::word(const char* at, std::string_view text, Jsona::Kind kind) {
-    if (std::strncmp(at, text.data(), text.size()) != 0) return fail(at, "value expected");
-    push(kind, at, at + text.size());
+const char* JsonaParser::Word(const char* at, std::string_view text, Jsona::Kind kind) {
+    if (std::strncmp(at, text.data(), text.size()) != 0) {
+        return Fail(at, "value expected");
+    }
+    Push(kind, at, at + text.size());
     return at + text.size();
 }
 
-const char* JsonaParser::fail(const char* at, const char* text) {
+const char* JsonaParser::Fail(const char* at, const char* text) {
     error_ = {static_cast<std::size_t>(at - begin_), text};
     return nullptr;
 }
 
-void JsonaParser::push(Jsona::Kind kind, const char* begin, const char* end) {
+void JsonaParser::Push(Jsona::Kind kind, const char* begin, const char* end) {
     JsonaNode node;
     node.start = static_cast<std::uint32_t>(begin - begin_);
     node.count = static_cast<std::uint32_t>(end - begin);

@@ -26,25 +26,25 @@ class JsonaParser {
 
   private:
     explicit JsonaParser(JsonaDocument& document, std::size_t size);
-    bool root();
+    bool Root();
     // Each takes the place to read from and answers the place behind, or null after a failure.
-    const char* value(const char* at, int depth);
-    const char* array(const char* at, int depth);
-    const char* object(const char* at, int depth);
+    const char* Value(const char* at, int depth);
+    const char* Array(const char* at, int depth);
+    const char* Object(const char* at, int depth);
     const char* key(const char* at);
-    const char* quoted(const char* at);
-    const char* decoded(const char* open, const char* at);
-    const char* escape(const char* at);
-    const char* unicode(const char* at);
-    const char* number(const char* at);
-    const char* word(const char* at, std::string_view text, Jsona::Kind kind);
-    const char* fail(const char* at, const char* text);
+    const char* Quoted(const char* at);
+    const char* Decoded(const char* open, const char* at);
+    const char* Escape(const char* at);
+    const char* Unicode(const char* at);
+    const char* Number(const char* at);
+    const char* Word(const char* at, std::string_view text, Jsona::Kind kind);
+    const char* Fail(const char* at, const char* text);
 
-    void push(Jsona::Kind kind, const char* begin, const char* end);
+    void Push(Jsona::Kind kind, const char* begin, const char* end);
     void close(Jsona::Kind kind, std::size_t mark);
-    std::uint32_t mergeFew(std::size_t mark);
-    void mergeMany(std::size_t mark, JsonaNode& object);
-    std::string_view bytes(std::size_t place) const { return document_.Bytes(stack_[place]); }
+    std::uint32_t MergeFew(std::size_t mark);
+    void MergeMany(std::size_t mark, JsonaNode& object);
+    std::string_view Bytes(std::size_t place) const { return document_.Bytes(stack_[place]); }
 
     JsonaDocument& document_;
     const char* begin_;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/Log.h>
-
 #include <mutex>
 #include <utility>
+
+#include <tarvik/util/Log.h>
 
 namespace Tarvik::Util {
 
@@ -27,7 +27,9 @@ void Log(LogLevel level, const std::string& text) {
         std::lock_guard lock(Holder().mutex);
         sink = Holder().sink;
     }
-    if (sink) sink(level, text);
+    if (sink) {
+        sink(level, text);
+    }
 }
 
 void SetLogSink(LogSink sink) {

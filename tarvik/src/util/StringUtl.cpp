@@ -1,11 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/StringUtl.h>
-
-#include <fmt/format.h>
-#include <sys/random.h>
-#include <unicode/uchar.h>
-#include <unicode/unistr.h>
-
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -16,6 +9,13 @@
 #include <cstring>
 #include <limits>
 #include <random>
+#include <sys/random.h>
+
+#include <fmt/format.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+
+#include <tarvik/util/StringUtl.h>
 
 #include "CLocale.h"
 
@@ -34,15 +34,21 @@ template <class Int>
 Int ParseInteger(const std::string& text) {
     const char* at = text.data();
     const char* const end = at + text.size();
-    while (at != end && IsBlank(*at)) ++at;
+    while (at != end && IsBlank(*at)) {
+        ++at;
+    }
     const bool negative = at != end && *at == '-';
-    if (at != end && (*at == '-' || *at == '+')) ++at;
+    if (at != end && (*at == '-' || *at == '+')) {
+        ++at;
+    }
     Int value = 0;
     for (; at != end && IsDigit(*at); ++at) {
         const Int digit = *at - '0';
         const bool overflow = __builtin_mul_overflow(value, Int{10}, &value) ||
                               __builtin_add_overflow(value, negative ? -digit : digit, &value);
-        if (overflow) return negative ? std::numeric_limits<Int>::min() : std::numeric_limits<Int>::max();
+        if (overflow) {
+            return negative ? std::numeric_limits<Int>::min() : std::numeric_limits<Int>::max();
+        }
     }
     return value;
 }
@@ -54,9 +60,13 @@ double ParseOutOfRange(const std::string& number) {
 }
 
 void FillRandom(std::array<std::uint8_t, 16>& bytes) {
-    if (::getrandom(bytes.data(), bytes.size(), 0) == static_cast<ssize_t>(bytes.size())) return;
+    if (::getrandom(bytes.data(), bytes.size(), 0) == static_cast<ssize_t>(bytes.size())) {
+        return;
+    }
     std::random_device device;
-    for (std::uint8_t& byte : bytes) byte = static_cast<std::uint8_t>(device());
+    for (std::uint8_t& byte : bytes) {
+        byte = static_cast<std::uint8_t>(device());
+    }
 }
 
 }  // namespace
@@ -95,8 +105,12 @@ std::string StringUtl::TranslateString(const std::u16string& wide) {
 
 bool StringUtl::split(const std::string& text, const std::string& separator, std::vector<std::string>& out) {
     out.clear();
-    if (separator.empty()) return false;
-    if (text.empty()) return true;
+    if (separator.empty()) {
+        return false;
+    }
+    if (text.empty()) {
+        return true;
+    }
     std::size_t begin = 0;
     for (std::size_t at = text.find(separator); at != std::string::npos; at = text.find(separator, begin)) {
         out.push_back(text.substr(begin, at - begin));
@@ -118,7 +132,9 @@ std::string StringUtl::GenGUID() {
     bytes[8] = static_cast<std::uint8_t>((bytes[8] & 0x3F) | 0x80);
     std::string id;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
-        if (i == 4 || i == 6 || i == 8 || i == 10) id += '-';
+        if (i == 4 || i == 6 || i == 8 || i == 10) {
+            id += '-';
+        }
         id += fmt::format("{:02x}", bytes[i]);
     }
     return id;
@@ -129,19 +145,29 @@ std::string StringUtl::NumericalFormat(double value, const std::string& group, c
     const std::string plain = fmt::format("{:.{}f}", value, std::clamp(digits, 0, 340));
     const std::size_t sign = plain.starts_with('-') ? 1 : 0;
     std::size_t dot = plain.find('.');
-    if (dot == std::string::npos) dot = plain.size();
-    if (plain.size() == sign || !IsDigit(plain[sign])) return plain;
+    if (dot == std::string::npos) {
+        dot = plain.size();
+    }
+    if (plain.size() == sign || !IsDigit(plain[sign])) {
+        return plain;
+    }
     std::string out = plain.substr(0, sign);
     for (std::size_t i = sign; i < dot; ++i) {
-        if (i > sign && (dot - i) % 3 == 0) out += group;
+        if (i > sign && (dot - i) % 3 == 0) {
+            out += group;
+        }
         out += plain[i];
     }
-    if (dot < plain.size()) out += point + plain.substr(dot + 1);
+    if (dot < plain.size()) {
+        out += point + plain.substr(dot + 1);
+    }
     return out;
 }
 
 bool StringUtl::StringCopy(char* out, std::size_t capacity, const std::string& text) {
-    if (out == nullptr || capacity == 0) return false;
+    if (out == nullptr || capacity == 0) {
+        return false;
+    }
     const std::size_t count = std::min(text.size(), capacity - 1);
     std::memcpy(out, text.data(), count);
     out[count] = 0;
@@ -159,20 +185,30 @@ long long StringUtl::ToLong(const std::string& text) {
 double StringUtl::ToDouble(const std::string& text) {
     const char* at = text.data();
     const char* const end = at + text.size();
-    while (at != end && IsBlank(*at)) ++at;
+    while (at != end && IsBlank(*at)) {
+        ++at;
+    }
     const bool negative = at != end && *at == '-';
-    if (at != end && (*at == '-' || *at == '+')) ++at;
+    if (at != end && (*at == '-' || *at == '+')) {
+        ++at;
+    }
     const bool number = at != end && (IsDigit(*at) || (*at == '.' && at + 1 != end && IsDigit(at[1])));
-    if (!number) return 0;
+    if (!number) {
+        return 0;
+    }
     double value = 0;
     const auto result = std::from_chars(at, end, value);
-    if (result.ec == std::errc::result_out_of_range) value = ParseOutOfRange({at, result.ptr});
+    if (result.ec == std::errc::result_out_of_range) {
+        value = ParseOutOfRange({at, result.ptr});
+    }
     return negative ? -value : value;
 }
 
 int StringUtl::Width(const std::u16string& wide) {
     int width = 0;
-    for (const char16_t unit : wide) width += unit < 128 ? 1 : 2;
+    for (const char16_t unit : wide) {
+        width += unit < 128 ? 1 : 2;
+    }
     return width;
 }
 
@@ -192,7 +228,9 @@ std::u16string StringUtl::TrimLeft(const std::u16string& wide) {
 
 std::u16string StringUtl::Trim(const std::u16string& wide) {
     std::u16string text = TrimLeft(wide);
-    while (!text.empty() && IsSpace(text.back())) text.pop_back();
+    while (!text.empty() && IsSpace(text.back())) {
+        text.pop_back();
+    }
     return text;
 }
 

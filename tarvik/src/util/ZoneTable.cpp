@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ZoneTable.h"
 
-#include <tarvik/util/Log.h>
+#include <map>
+#include <memory>
+#include <mutex>
 
 #include <unicode/basictz.h>
 #include <unicode/timezone.h>
 #include <unicode/unistr.h>
 
-#include <map>
-#include <memory>
-#include <mutex>
+#include <tarvik/util/Log.h>
 
 namespace Tarvik::Util {
 
@@ -28,12 +28,16 @@ ZonePtr OpenZone(const std::string& name) {
         icu::UnicodeString canonical;
         UBool isSystemId = false;
         icu::TimeZone::getCanonicalID(given, canonical, isSystemId, status);
-        if (U_FAILURE(status) || !isSystemId || given == UNICODE_STRING_SIMPLE("Etc/Unknown")) return nullptr;
+        if (U_FAILURE(status) || !isSystemId || given == UNICODE_STRING_SIMPLE("Etc/Unknown")) {
+            return nullptr;
+        }
         id = given;
     }
     std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(id));
     auto* basic = dynamic_cast<icu::BasicTimeZone*>(zone.get());
-    if (basic != nullptr) static_cast<void>(zone.release());
+    if (basic != nullptr) {
+        static_cast<void>(zone.release());
+    }
     return ZonePtr(basic);
 }
 
@@ -52,11 +56,17 @@ const icu::BasicTimeZone* Find(const std::string& name, bool logUnknown) {
     {
         std::lock_guard lock(zones->mutex);
         auto found = zones->byName.find(name);
-        if (found == zones->byName.end()) found = zones->byName.emplace(name, OpenZone(name)).first;
+        if (found == zones->byName.end()) {
+            found = zones->byName.emplace(name, OpenZone(name)).first;
+        }
         zone = found->second.get();
-        if (zone == nullptr && logUnknown) logNow = logged->emplace(name, true).second;
+        if (zone == nullptr && logUnknown) {
+            logNow = logged->emplace(name, true).second;
+        }
     }
-    if (logNow) Log(LogLevel::Warning, "unknown time zone \"" + name + "\", using UTC");
+    if (logNow) {
+        Log(LogLevel::Warning, "unknown time zone \"" + name + "\", using UTC");
+    }
     return zone;
 }
 
@@ -68,7 +78,9 @@ bool ZoneTable::IsKnown(const std::string& zone) {
 
 std::int64_t ZoneTable::OffsetAtUtc(const std::string& zone, double utcMs) {
     const icu::BasicTimeZone* found = Find(zone, true);
-    if (found == nullptr) return 0;
+    if (found == nullptr) {
+        return 0;
+    }
     std::int32_t raw = 0;
     std::int32_t summer = 0;
     UErrorCode status = U_ZERO_ERROR;
@@ -78,7 +90,9 @@ std::int64_t ZoneTable::OffsetAtUtc(const std::string& zone, double utcMs) {
 
 std::int64_t ZoneTable::OffsetAtLocal(const std::string& zone, double localMs) {
     const icu::BasicTimeZone* found = Find(zone, true);
-    if (found == nullptr) return 0;
+    if (found == nullptr) {
+        return 0;
+    }
     std::int32_t raw = 0;
     std::int32_t summer = 0;
     UErrorCode status = U_ZERO_ERROR;

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/skin/Icons.h>
-#include <tarvik/skin/Palette.h>
-#include "tarvik/src/skin/icons/IconTexts.h"
+#include <QImage>
+#include <QSvgRenderer>
+#include <algorithm>
+#include <cmath>
 
 #include <gtest/gtest.h>
 
-#include <QImage>
-#include <QSvgRenderer>
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
 
-#include <algorithm>
-#include <cmath>
+#include "tarvik/src/skin/icons/IconTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -51,7 +51,9 @@ TEST_P(EveryTheme, TextStandsOutFromItsGround) {
 TEST_P(EveryTheme, SignsStandOutFromTheirGround) {
     const SkinPalette& p = Skin();
     for (const QColor& sign : {p.plan, p.underway, p.finished, p.warning}) {
-        for (const QColor& ground : {p.panel, p.selection}) EXPECT_GE(contrast(sign, ground), 3.0);
+        for (const QColor& ground : {p.panel, p.selection}) {
+            EXPECT_GE(contrast(sign, ground), 3.0);
+        }
     }
 }
 
@@ -69,8 +71,11 @@ TEST(Icons, EveryIconDrawsSomething) {
         PaintIcon(painter, image.rect(), name, Qt::black);
         painter.end();
         bool drawn = false;
-        for (int y = 0; y < kIconSize; ++y)
-            for (int x = 0; x < kIconSize; ++x) drawn = drawn || qAlpha(image.pixel(x, y)) > 128;
+        for (int y = 0; y < kIconSize; ++y) {
+            for (int x = 0; x < kIconSize; ++x) {
+                drawn = drawn || qAlpha(image.pixel(x, y)) > 128;
+            }
+        }
         EXPECT_TRUE(drawn) << name;
     }
     EXPECT_FALSE(HasIcon("no such icon"));

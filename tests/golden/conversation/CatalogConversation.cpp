@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "tests/golden/conversation/Conversation.h"
-
-#include "seaplan/protocol/PortCallCommands.h"
-
 #include <vector>
 
+#include "seaplan/protocol/PortCallCommands.h"
+#include "tests/golden/conversation/Conversation.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr const char* kFullwidth = "大西洋 ＂A＂ ＼ \xF0\x9F\x9A\xA2";

@@ -10,6 +10,7 @@
 #include <utility>
 
 namespace Tarvik::Server {
+
 namespace {
 
 bool Writing() {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/tests/BusServer.h"
-#include "seaplan/data/VoyageStore.h"
-#include "seaplan/protocol/VoyCatalogModule.h"
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include "host/server/tests/BusServer.h"
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 
 namespace Tarvik::Server {
 

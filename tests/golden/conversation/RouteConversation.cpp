@@ -7,6 +7,7 @@
 #include "tests/golden/conversation/Conversation.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 class RouteConversation : public Conversation {

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <vector>
+
 #include "seaplan/protocol/BookCommands.h"
 #include "seaplan/protocol/PortCallCommands.h"
 #include "seaplan/protocol/RemarkList.h"
 #include "tests/golden/conversation/Conversation.h"
 #include "testsupport/PortDictionary.h"
 
-#include <vector>
-
 namespace Tarvik::Server {
+
 namespace {
 
 /// A conversation about one voyage, whose making is not written down.

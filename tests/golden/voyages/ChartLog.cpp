@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/golden/voyages/ChartLog.h"
 
+#include <fmt/format.h>
+
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/FileUtl.h>
-
-#include <fmt/format.h>
 
 namespace Tarvik::Golden {
 
@@ -83,7 +83,9 @@ void* ChartLog::onAddLine(void* input) {
     for (std::size_t i = 0; i < line.points.size(); ++i) {
         text_ += i % kInARow == 0 ? "  " : " ";
         text_ += line.points[i];
-        if (i % kInARow == kInARow - 1 || i + 1 == line.points.size()) text_ += '\n';
+        if (i % kInARow == kInARow - 1 || i + 1 == line.points.size()) {
+            text_ += '\n';
+        }
     }
     return nullptr;
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
 
 namespace Tarvik::Golden {
 

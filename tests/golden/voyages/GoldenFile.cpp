@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tests/golden/voyages/GoldenFile.h"
 
-#include <fmt/format.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
+
+#include <fmt/format.h>
 
 namespace Tarvik::Golden {
 
@@ -32,9 +32,15 @@ std::string firstDifference(const std::string& expected, const std::string& actu
     for (int line = 1;; ++line) {
         const bool more = static_cast<bool>(std::getline(left, a));
         const bool another = static_cast<bool>(std::getline(right, b));
-        if (!more) a = "(end)";
-        if (!another) b = "(end)";
-        if (a != b || !more) return fmt::format("line {}:\n  file: {}\n  made: {}", line, a, b);
+        if (!more) {
+            a = "(end)";
+        }
+        if (!another) {
+            b = "(end)";
+        }
+        if (a != b || !more) {
+            return fmt::format("line {}:\n  file: {}\n  made: {}", line, a, b);
+        }
     }
 }
 
@@ -47,9 +53,13 @@ bool Writing() {
 
 std::string CompareOrWrite(const std::string& voyage, const std::string& file, const std::string& text) {
     const std::filesystem::path path = pathOf(voyage, file);
-    if (Writing()) return write(path, text);
+    if (Writing()) {
+        return write(path, text);
+    }
     std::ifstream in(path, std::ios::binary);
-    if (!in) return path.string() + " is missing; SEAPLAN_WRITE_GOLDEN=1 writes it";
+    if (!in) {
+        return path.string() + " is missing; SEAPLAN_WRITE_GOLDEN=1 writes it";
+    }
     const std::string expected((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     return expected == text ? "" : path.string() + " differs in " + firstDifference(expected, text);
 }

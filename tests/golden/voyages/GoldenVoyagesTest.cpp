@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "tests/golden/voyages/GoldenFile.h"
-#include "tests/golden/voyages/PlanDesk.h"
-
-#include <gmock/gmock.h>
-
 #include <cmath>
 #include <cstdlib>
 
+#include <gmock/gmock.h>
+
+#include "tests/golden/voyages/GoldenFile.h"
+#include "tests/golden/voyages/PlanDesk.h"
+
 namespace Tarvik::Golden {
+
 namespace {
 
 /// Share by which a leg may differ from the printed tables, which count from pilot to pilot and over other
@@ -38,7 +39,9 @@ TEST_P(GoldenVoyages, LegsAreAsLongAsPrintedTablesSay) {
     ASSERT_EQ(record_.rows.size(), calls.size());
     for (std::size_t i = 1; i < calls.size(); ++i) {
         const auto expected = static_cast<double>(calls[i].tableDistance);
-        if (expected == 0) continue;
+        if (expected == 0) {
+            continue;
+        }
         EXPECT_NEAR(static_cast<double>(record_.rows[i].distance), expected, expected * kTableTolerance)
             << calls[i - 1].port << " to " << calls[i].port;
     }
@@ -59,7 +62,9 @@ TEST_P(GoldenVoyages, TimesNeverRunBackwards) {
 TEST_P(GoldenVoyages, BookHasEveryPortOfTheScheduleAtItsTime) {
     std::vector<const Seaplan::PosBookPoint*> ports;
     for (const auto& point : record_.points) {
-        if (point.pst == Seaplan::PortPoint) ports.push_back(&point);
+        if (point.pst == Seaplan::PortPoint) {
+            ports.push_back(&point);
+        }
     }
     ASSERT_EQ(ports.size(), record_.rows.size());
     for (std::size_t i = 0; i < ports.size(); ++i) {

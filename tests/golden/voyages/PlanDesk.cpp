@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "tests/golden/voyages/PlanDesk.h"
 
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/PortPreparation.h"
-#include "tests/golden/voyages/SeaServer.h"
-#include "tests/golden/voyages/VoyageTexts.h"
-
-#include <tarvik/interface/BusContract.h>
-
-#include <fmt/format.h>
-
 #include <filesystem>
 #include <set>
 #include <stdexcept>
 #include <utility>
+
+#include <fmt/format.h>
+
+#include <tarvik/interface/BusContract.h>
+
+#include "seaplan/calculation/PortPreparation.h"
+#include "seaplan/calculation/PositionBook.h"
+#include "tests/golden/voyages/SeaServer.h"
+#include "tests/golden/voyages/VoyageTexts.h"
 
 namespace Tarvik::Golden {
 
@@ -37,7 +37,9 @@ bool click(const Interface::Event<const std::string>& event, const std::string& 
 std::unique_ptr<Client::PortDictionary> shippedPorts() {
     std::vector<Client::Port> ports;
     std::string error;
-    if (!Client::ReadPorts(SHARE_FOLDER "/trvdb.db", ports, error)) throw std::runtime_error(error);
+    if (!Client::ReadPorts(SHARE_FOLDER "/trvdb.db", ports, error)) {
+        throw std::runtime_error(error);
+    }
     return std::make_unique<Client::PortDictionary>(ports);
 }
 
@@ -60,8 +62,12 @@ std::string PlanDesk::prepare(const Voyage& voyage, PortCallRows& rows) {
     VoyCatalogController& catalog = root_.Catalog();
     std::string user;
     std::string ci;
-    if (catalog.Connect(user) < 0 || catalog.Load(user) < 0) return "connect";
-    if (catalog.AddCategory("Golden", ci) < 0 || catalog.AddVoyage(voyage.name, ci, vi_) < 0) return "voyage";
+    if (catalog.Connect(user) < 0 || catalog.Load(user) < 0) {
+        return "connect";
+    }
+    if (catalog.AddCategory("Golden", ci) < 0 || catalog.AddVoyage(voyage.name, ci, vi_) < 0) {
+        return "voyage";
+    }
     for (const Call& call : voyage.calls) {
         VoyPortCall row;
         row.ppn = call.port;
@@ -75,20 +81,28 @@ std::string PlanDesk::prepare(const Voyage& voyage, PortCallRows& rows) {
     PrepareFirstPurpose(rows);
     root_.Voyages().ResolvePortIds(rows);
     PortCallRows kept;
-    if (DropSamePortRows(rows, {}, kept) < 0 || kept.size() != rows.size()) return "ports";
+    if (DropSamePortRows(rows, {}, kept) < 0 || kept.size() != rows.size()) {
+        return "ports";
+    }
     rows = std::move(kept);
     return "";
 }
 
 std::string PlanDesk::choose(const Voyage& voyage, PortCallRows& rows) {
     for (const Choice& choice : voyage.choices) {
-        chart_.Heading("click on route point " + choice.routePoint);
-        if (!click(Bus::ClickVoyageType, choice.routePoint)) return "alternatives of " + choice.routePoint;
+        chart_.Heading("click on route point " + choice.RoutePoint);
+        if (!click(Bus::ClickVoyageType, choice.RoutePoint)) {
+            return "alternatives of " + choice.RoutePoint;
+        }
         chart_.Heading("click on alternative " + choice.alternative);
-        if (!click(Bus::ClickRoutePointType, choice.alternative)) return "choice of " + choice.alternative;
+        if (!click(Bus::ClickRoutePointType, choice.alternative)) {
+            return "choice of " + choice.alternative;
+        }
         root_.Voyages().ResolvePortIds(rows);
         PortCallRows followed;
-        if (root_.Voyages().ScheduleCurrentRoute(rows, followed) < 0) return "schedule of the chosen route";
+        if (root_.Voyages().ScheduleCurrentRoute(rows, followed) < 0) {
+            return "schedule of the chosen route";
+        }
         rows = std::move(followed);
     }
     return "";
@@ -100,18 +114,26 @@ std::string PlanDesk::save(const Voyage& voyage, const PortCallRows& rows, Voyag
     clock_.SetUtc(now.year(), now.month(), now.day(), now.hour());
     PortCallRows resolved = rows;
     root_.Voyages().ResolvePortIds(resolved);
-    if (root_.Voyages().SaveSchedule(vi_, resolved, kDrawProgress) < 0) return "save";
+    if (root_.Voyages().SaveSchedule(vi_, resolved, kDrawProgress) < 0) {
+        return "save";
+    }
     const VoyInfo* saved = store_.FindVoyage(vi_);
-    if (saved == nullptr) return "store";
+    if (saved == nullptr) {
+        return "store";
+    }
     record.rows = saved->portCalls;
     record.points = saved->positionBook.points;
-    if (ComputeBookTimes(saved->positionBook.eta, saved->portCalls, record.points) < 0) return "book times";
+    if (ComputeBookTimes(saved->positionBook.eta, saved->portCalls, record.points) < 0) {
+        return "book times";
+    }
     return "";
 }
 
 /// The schedule as the server gives it back, with what its rounded positions and speeds make of it.
 std::string PlanDesk::loadAgain(PortCallRows& rows) {
-    if (root_.Voyages().DiscardPortCalls(vi_) < 0) return "load again";
+    if (root_.Voyages().DiscardPortCalls(vi_) < 0) {
+        return "load again";
+    }
     rows = store_.FindVoyage(vi_)->portCalls;
     return "";
 }
@@ -119,14 +141,18 @@ std::string PlanDesk::loadAgain(PortCallRows& rows) {
 std::string PlanDesk::tryAlternative(const Offer& offer, const RouteStops& stops) {
     VoyPortCallModule& module = root_.PortCallModule();
     module.SetCurrentStops(stops);
-    if (!click(Bus::ClickVoyageType, offer.routePoint) ||
+    if (!click(Bus::ClickVoyageType, offer.RoutePoint) ||
         !click(Bus::ClickRoutePointType, offer.alternative)) {
         return "refused";
     }
     const RouteStop& changed = module.CurrentStops().at(offer.stop);
     const std::string passed = "," + changed.rp_id_str + ",";
-    if (passed.find("," + offer.alternative + ",") == std::string::npos) return "not passed";
-    if (passed.find("," + offer.routePoint + ",") != std::string::npos) return "old one passed";
+    if (passed.find("," + offer.alternative + ",") == std::string::npos) {
+        return "not passed";
+    }
+    if (passed.find("," + offer.RoutePoint + ",") != std::string::npos) {
+        return "old one passed";
+    }
     // A route without choices is the shortest there is, but for the roundness of coasts.
     const RouteStop& before = stops[offer.stop];
     if (before.locks.empty() &&
@@ -142,7 +168,9 @@ std::vector<std::string> PlanDesk::TryAlternatives(const RouteStops& stops) {
     for (std::size_t s = 0; s < stops.size(); ++s) {
         for (const RoutePointGroup& group : stops[s].rp_groups) {
             // A click means the first stop that has the point.
-            if (!seen.insert(group.rp_id).second) continue;
+            if (!seen.insert(group.rp_id).second) {
+                continue;
+            }
             for (const std::string& alternative : group.alternatives) {
                 const std::string failed = tryAlternative({s, group.rp_id, alternative}, stops);
                 if (!failed.empty()) {
@@ -156,18 +184,28 @@ std::vector<std::string> PlanDesk::TryAlternatives(const RouteStops& stops) {
 
 std::string PlanDesk::Run(const Voyage& voyage, VoyageRecord& record) {
     PortCallRows typed;
-    if (std::string failed = prepare(voyage, typed); !failed.empty()) return failed;
+    if (std::string failed = prepare(voyage, typed); !failed.empty()) {
+        return failed;
+    }
     chart_.Heading("calculate");
     PortCallRows rows;
     int hadPortCalls = 0;
-    if (root_.Voyages().CalculateForVoyage(vi_, typed, rows, hadPortCalls) < 0) return "calculate";
-    if (std::string failed = choose(voyage, rows); !failed.empty()) return failed;
+    if (root_.Voyages().CalculateForVoyage(vi_, typed, rows, hadPortCalls) < 0) {
+        return "calculate";
+    }
+    if (std::string failed = choose(voyage, rows); !failed.empty()) {
+        return failed;
+    }
     record.stops = root_.PortCallModule().CurrentStops();
-    if (std::string failed = save(voyage, rows, record); !failed.empty()) return failed;
+    if (std::string failed = save(voyage, rows, record); !failed.empty()) {
+        return failed;
+    }
     record.route = RouteText(record.stops);
     record.book = BookText(record.points);
     PortCallRows loaded;
-    if (std::string failed = loadAgain(loaded); !failed.empty()) return failed;
+    if (std::string failed = loadAgain(loaded); !failed.empty()) {
+        return failed;
+    }
     record.schedule = ScheduleText(record.rows) + "\nloaded again:\n" + ScheduleText(loaded);
     record.chart = chart_.Text();
     return "";

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "host/client/services/HostServices.h"
 #include "host/client/services/PortDictionary.h"
 #include "host/server/app/EmbeddedServer.h"
@@ -10,10 +14,6 @@
 #include "tests/golden/voyages/Voyages.h"
 #include "testsupport/DataFolder.h"
 #include "testsupport/ManualClock.h"
-
-#include <memory>
-#include <string>
-#include <vector>
 
 namespace Tarvik::Golden {
 
@@ -47,7 +47,7 @@ class PlanDesk {
     /// An alternative of a route point on the way to a stop.
     struct Offer {
         std::size_t stop;
-        std::string routePoint;
+        std::string RoutePoint;
         std::string alternative;
     };
     std::string tryAlternative(const Offer& offer, const Seaplan::RouteStops& stops);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/golden/voyages/SeaServer.h"
 
-#include "host/server/graph/adapter/GraphRouteSource.h"
-
 #include <stdexcept>
+
+#include "host/server/graph/adapter/GraphRouteSource.h"
 
 namespace Tarvik::Golden {
 
@@ -12,8 +12,10 @@ namespace {
 std::shared_ptr<const Server::SeaNetwork> shippedNetwork() {
     static const std::shared_ptr<const Server::SeaNetwork> network = [] {
         std::string error;
-        auto read = Server::SeaNetwork::load(SHARE_FOLDER "/network.bin", error);
-        if (!read) throw std::runtime_error(error);
+        auto read = Server::SeaNetwork::Load(SHARE_FOLDER "/network.bin", error);
+        if (!read) {
+            throw std::runtime_error(error);
+        }
         return read;
     }();
     return network;
@@ -25,7 +27,9 @@ SeaServer::SeaServer() {
     std::string error;
     server_ = Server::EmbeddedServer::Open(
         ":memory:", std::make_unique<Server::GraphRouteSource>(shippedNetwork()), error);
-    if (!server_) throw std::runtime_error(error);
+    if (!server_) {
+        throw std::runtime_error(error);
+    }
 }
 
 std::string SeaServer::Exchange(const std::string& user, const Interface::VoyServerRequest& request) {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/golden/voyages/VoyageTexts.h"
 
-#include "seaplan/calculation/NumberForms.h"
-#include "seaplan/calculation/Schedule.h"
-
-#include <tarvik/interface/ValueDictionary.h>
+#include <algorithm>
 
 #include <fmt/format.h>
 
-#include <algorithm>
+#include <tarvik/interface/ValueDictionary.h>
+
+#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/Schedule.h"
 
 namespace Tarvik::Golden {
 
@@ -16,7 +16,7 @@ namespace {
 
 using namespace Seaplan;
 
-std::string portName(const std::string& id) {
+std::string PortName(const std::string& id) {
     return Interface::GetValueByName("/points", id, 1033);
 }
 
@@ -24,21 +24,27 @@ std::string segmentText(const RouteSegment& segment) {
     std::string points = segment.pointset;
     std::replace(points.begin(), points.end(), '|', '\n');
     std::string indented = "    ";
-    for (const char c : points) indented += c == '\n' ? std::string("\n    ") : std::string(1, c);
+    for (const char c : points) {
+        indented += c == '\n' ? std::string("\n    ") : std::string(1, c);
+    }
     return fmt::format("  segment {} {}-{} {} NM\n{}\n", segment.route, segment.from_cd, segment.end_cd,
                        TwoDecimals(static_cast<double>(segment.distance)), indented);
 }
 
-std::string groupText(const RoutePointGroup& group) {
+std::string GroupText(const RoutePointGroup& group) {
     std::string text = fmt::format("  group leg={} {} within {}:", group.leg, group.rp_id, group.range);
-    for (const std::string& alternative : group.alternatives) text += " " + alternative;
+    for (const std::string& alternative : group.alternatives) {
+        text += " " + alternative;
+    }
     return text + "\n";
 }
 
 std::string rowText(int index, const VoyPortCall& row) {
     const CellTexts cells = RowToCells(index, row);
     std::string text;
-    for (const std::string& cell : cells) text += (text.empty() ? "" : " | ") + cell;
+    for (const std::string& cell : cells) {
+        text += (text.empty() ? "" : " | ") + cell;
+    }
     return text + "\n";
 }
 
@@ -47,11 +53,17 @@ std::string rowText(int index, const VoyPortCall& row) {
 std::string RouteText(const RouteStops& stops) {
     std::string text;
     for (const RouteStop& stop : stops) {
-        text += fmt::format("stop {} {} {} NM passing {}\n", stop.point_cd, portName(stop.point_cd),
+        text += fmt::format("stop {} {} {} NM passing {}\n", stop.point_cd, PortName(stop.point_cd),
                             TwoDecimals(static_cast<double>(stop.distance)), stop.rp_id_str);
-        for (const RouteSegment& segment : stop.routes) text += segmentText(segment);
-        for (const RoutePointGroup& group : stop.rp_groups) text += groupText(group);
-        for (const RoutePointLock& lock : stop.locks) text += "  lock " + lock.item + "\n";
+        for (const RouteSegment& segment : stop.routes) {
+            text += segmentText(segment);
+        }
+        for (const RoutePointGroup& group : stop.rp_groups) {
+            text += GroupText(group);
+        }
+        for (const RoutePointLock& lock : stop.locks) {
+            text += "  lock " + lock.item + "\n";
+        }
     }
     return text;
 }
@@ -68,7 +80,9 @@ std::string BookText(const BookPoints& rows) {
 
 std::string ScheduleText(const PortCallRows& rows) {
     std::string text = "no | port | purpose | knots | weather | steam h | port h | ETA | ETD | distance NM\n";
-    for (std::size_t i = 0; i < rows.size(); ++i) text += rowText(static_cast<int>(i), rows[i]);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        text += rowText(static_cast<int>(i), rows[i]);
+    }
     ScheduleTotals totals;
     ScheduleSummary summary;
     if (TotalsOf(rows, totals)) {

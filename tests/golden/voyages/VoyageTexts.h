@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include "seaplan/data/RouteStop.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
-
-#include <string>
 
 /// A planned voyage as text that is the same wherever it is made: numbers as the panels print them.
 namespace Tarvik::Golden {

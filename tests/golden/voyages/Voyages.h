@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/util/DateTime.h>
-
 #include <ostream>
 #include <string>
 #include <vector>
+
+#include <tarvik/util/DateTime.h>
 
 namespace Tarvik::Golden {
 
@@ -21,7 +21,7 @@ struct Call {
 
 /// A click on a route point of the calculated route, and on one of its alternatives.
 struct Choice {
-    std::string routePoint;
+    std::string RoutePoint;
     std::string alternative;
 };
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
 #include "host/client/remote/RemoteLink.h"
 #include "host/server/net/tests/RequestBlock.h"
 #include "host/server/net/tests/SilentListener.h"
 #include "host/server/net/tests/TestServer.h"
 
-#include <gtest/gtest.h>
-
-#include <nlohmann/json.hpp>
-
 namespace Tarvik::Client {
+
 namespace {
 
 using Server::RequestBlock;
@@ -41,7 +41,9 @@ TEST_F(RemoteLinkTest, LogsInAndExchangesOverOneConnection) {
     EXPECT_FALSE(link.IsConnected());
     ASSERT_TRUE(link.Connect(error_)) << error_;
     EXPECT_TRUE(link.IsConnected());
-    for (int i = 0; i < 20; ++i) EXPECT_EQ(Load(link), "[]") << link.LastFailure();
+    for (int i = 0; i < 20; ++i) {
+        EXPECT_EQ(Load(link), "[]") << link.LastFailure();
+    }
     EXPECT_EQ(server_.OpenedConnections(), 1U);
 }
 
@@ -75,7 +77,9 @@ TEST_F(RemoteLinkTest, LockedLoginTellsHowLongToWait) {
     RemoteSettings settings = SettingsFor(server_.Url());
     settings.password = "wrong horse";
     RemoteLink link(settings);
-    for (int i = 0; i < 10; ++i) link.Connect(error_);
+    for (int i = 0; i < 10; ++i) {
+        link.Connect(error_);
+    }
     EXPECT_FALSE(link.Connect(error_));
     EXPECT_EQ(error_, "The voyage server " + server_.Url() +
                           " has seen too many failed logins. Try again in 900 seconds.");

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/remote/ServerUrl.h"
-
 #include <gtest/gtest.h>
 
+#include "host/client/remote/ServerUrl.h"
+
 namespace Tarvik::Client {
+
 namespace {
 
 TEST(ServerUrl, TellsHostPortAndTls) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
 #include "host/client/remote/RemoteLink.h"
 #include "host/server/net/tests/RequestBlock.h"
 #include "host/server/net/tests/TestCertificate.h"
 #include "host/server/net/tests/TestServer.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Server {
+
 namespace {
 
 class TlsTest : public testing::Test {
@@ -38,7 +39,9 @@ TEST_F(TlsTest, ExchangesOverOneKeptConnection) {
     Client::RemoteLink link(SettingsFor("https://127.0.0.1", "c.pem"));
     ASSERT_TRUE(link.Connect(error_)) << error_;
     const RequestBlock load(3, 5, "{ui:\"anna\"}");
-    for (int i = 0; i < 10; ++i) EXPECT_EQ(link.Exchange("anna", *load), "[]") << link.LastFailure();
+    for (int i = 0; i < 10; ++i) {
+        EXPECT_EQ(link.Exchange("anna", *load), "[]") << link.LastFailure();
+    }
     EXPECT_EQ(server_->OpenedConnections(), 1U);
 }
 

@@ -13,7 +13,7 @@ namespace {
 constexpr int kWidestLine = 20;
 constexpr int kLargestPoint = 40;
 
-void measure(ChartLine& line) {
+void Measure(ChartLine& line) {
     line.minX = line.maxX = line.points.front().x;
     line.minY = line.maxY = line.points.front().y;
     for (const WorldPoint& point : line.points) {
@@ -24,14 +24,18 @@ void measure(ChartLine& line) {
     }
 }
 
-std::vector<WorldPoint> unwrapped(const std::vector<std::string>& texts) {
+std::vector<WorldPoint> Unwrapped(const std::vector<std::string>& texts) {
     std::vector<WorldPoint> points;
     for (const std::string& text : texts) {
         const auto position = ParsePosition(text);
-        if (!position) continue;
+        if (!position) {
+            continue;
+        }
         WorldPoint point = MercatorView::Project(*position);
         // A step of more than half a turn is the short way over the date line.
-        if (!points.empty()) point.x += std::round(points.back().x - point.x);
+        if (!points.empty()) {
+            point.x += std::round(points.back().x - point.x);
+        }
         points.push_back(point);
     }
     return points;
@@ -45,12 +49,12 @@ void ChartObjects::AddLayer(const Interface::TrvMapLayerParams& layer) {
 
 bool ChartObjects::RemoveLayer(const std::string& layer) {
     const bool known = layers_.erase(layer) != 0;
-    return removeIf([&](const ObjectKey& key) { return key.layer == layer; }) > 0 || known;
+    return RemoveIf([&](const ObjectKey& key) { return key.layer == layer; }) > 0 || known;
 }
 
 bool ChartObjects::AddLine(const Interface::TrvMapLineParams& line) {
     ChartLine shape;
-    shape.points = unwrapped(line.points);
+    shape.points = Unwrapped(line.points);
     if (shape.points.size() < 2) {
         Remove({line.ref.layer, line.ref.type, line.ref.id});
         return false;
@@ -58,29 +62,33 @@ bool ChartObjects::AddLine(const Interface::TrvMapLineParams& line) {
     shape.colour = line.colour;
     shape.width = std::clamp(line.width, 1, kWidestLine);
     shape.dashed = line.style == "dashed";
-    measure(shape);
-    put(line.ref, std::move(shape));
+    Measure(shape);
+    Put(line.ref, std::move(shape));
     return true;
 }
 
 bool ChartObjects::AddLabel(const Interface::TrvMapPointParams& point) {
     const auto position = ParsePosition(point.position);
-    if (!position) return false;
-    put(point.ref,
+    if (!position) {
+        return false;
+    }
+    Put(point.ref,
         ChartLabel{*position, point.label, point.colour, std::clamp(point.size, 1, kLargestPoint)});
     return true;
 }
 
 bool ChartObjects::AddImage(const Interface::TrvMapImageParams& image) {
     const auto position = ParsePosition(image.position);
-    if (!position) return false;
-    put(image.ref, ChartImage{*position, image.image});
+    if (!position) {
+        return false;
+    }
+    Put(image.ref, ChartImage{*position, image.image});
     return true;
 }
 
 void ChartObjects::RegisterImage(const std::string& name, const std::string& path) {
     images_[name] = path;
-    changed();
+    Changed();
 }
 
 std::string ChartObjects::ImagePath(const std::string& name) const {
@@ -90,22 +98,25 @@ std::string ChartObjects::ImagePath(const std::string& name) const {
 
 bool ChartObjects::Remove(const ObjectKey& key) {
     const auto place = places_.find(key);
-    if (place == places_.end()) return false;
+    if (place == places_.end()) {
+        return false;
+    }
     objects_.erase(place->second);
     places_.erase(place);
-    changed();
+    Changed();
     return true;
 }
 
 int ChartObjects::Remove(const Interface::TrvMapObjectList& list) {
     int removed = 0;
-    for (std::int32_t i = 0; list.objects && i < list.count; ++i)
+    for (std::int32_t i = 0; list.objects && i < list.count; ++i) {
         removed += Remove(ObjectKey{list.layer, list.objects[i].type, list.objects[i].id}) ? 1 : 0;
+    }
     return removed;
 }
 
 int ChartObjects::RemoveType(const std::string& layer, const std::string& type) {
-    return removeIf([&](const ObjectKey& key) { return key.layer == layer && key.type == type; });
+    return RemoveIf([&](const ObjectKey& key) { return key.layer == layer && key.type == type; });
 }
 
 const ChartObject* ChartObjects::Find(const ObjectKey& key) const {
@@ -116,24 +127,33 @@ const ChartObject* ChartObjects::Find(const ObjectKey& key) const {
 std::vector<GeoPoint> ChartObjects::Points() const {
     std::vector<GeoPoint> all;
     for (const auto& [place, object] : objects_) {
-        if (const auto* line = std::get_if<ChartLine>(&object.shape))
-            for (const WorldPoint& point : line->points) all.push_back(MercatorView::Unproject(point));
-        if (const auto* label = std::get_if<ChartLabel>(&object.shape)) all.push_back(label->position);
-        if (const auto* image = std::get_if<ChartImage>(&object.shape)) all.push_back(image->position);
+        if (const auto* line = std::get_if<ChartLine>(&object.shape)) {
+            for (const WorldPoint& point : line->points) {
+                all.push_back(MercatorView::Unproject(point));
+            }
+        }
+        if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {
+            all.push_back(label->position);
+        }
+        if (const auto* image = std::get_if<ChartImage>(&object.shape)) {
+            all.push_back(image->position);
+        }
     }
     return all;
 }
 
-void ChartObjects::put(const Interface::TrvMapObjectRef& ref,
+void ChartObjects::Put(const Interface::TrvMapObjectRef& ref,
                        std::variant<ChartLine, ChartLabel, ChartImage> shape) {
     const ObjectKey key{ref.layer, ref.type, ref.id};
     const auto [place, added] = places_.try_emplace(key, next_);
-    if (added) ++next_;
+    if (added) {
+        ++next_;
+    }
     objects_.insert_or_assign(place->second, ChartObject{key, std::move(shape)});
-    changed();
+    Changed();
 }
 
-int ChartObjects::removeIf(const std::function<bool(const ObjectKey&)>& test) {
+int ChartObjects::RemoveIf(const std::function<bool(const ObjectKey&)>& test) {
     int removed = 0;
     for (auto place = places_.begin(); place != places_.end();) {
         if (!test(place->first)) {
@@ -144,12 +164,16 @@ int ChartObjects::removeIf(const std::function<bool(const ObjectKey&)>& test) {
         place = places_.erase(place);
         ++removed;
     }
-    if (removed > 0) changed();
+    if (removed > 0) {
+        Changed();
+    }
     return removed;
 }
 
-void ChartObjects::changed() const {
-    if (observer_) observer_();
+void ChartObjects::Changed() const {
+    if (observer_) {
+        observer_();
+    }
 }
 
 }  // namespace Tarvik::Seamap

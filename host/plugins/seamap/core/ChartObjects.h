@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/ChartRecords.h>
-
 #include <compare>
 #include <cstdint>
 #include <functional>
@@ -10,6 +8,8 @@
 #include <string>
 #include <variant>
 #include <vector>
+
+#include <tarvik/interface/ChartRecords.h>
 
 #include "host/plugins/seamap/core/GeoPoint.h"
 
@@ -89,9 +89,9 @@ class ChartObjects {
     void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
 
   private:
-    void put(const Interface::TrvMapObjectRef& ref, std::variant<ChartLine, ChartLabel, ChartImage> shape);
-    int removeIf(const std::function<bool(const ObjectKey&)>& test);
-    void changed() const;
+    void Put(const Interface::TrvMapObjectRef& ref, std::variant<ChartLine, ChartLabel, ChartImage> shape);
+    int RemoveIf(const std::function<bool(const ObjectKey&)>& test);
+    void Changed() const;
 
     std::map<std::string, Interface::TrvMapLayerParams> layers_;
     std::map<std::string, std::string> images_;

@@ -36,7 +36,7 @@ constexpr ChartPalette kNight{ChartPalette::Theme::Night,
                               0xE0503C,
                               0x0A0202};
 
-constexpr std::uint32_t lighten(std::uint32_t channel) {
+constexpr std::uint32_t Lighten(std::uint32_t channel) {
     return channel + (255 - channel) * 3 / 10;
 }
 
@@ -55,9 +55,15 @@ const ChartPalette& ChartPalette::Of(Theme theme) {
 }
 
 std::optional<ChartPalette::Theme> ChartPalette::ThemeOf(std::string_view name) {
-    if (name == "light") return Theme::Light;
-    if (name == "dark") return Theme::Dark;
-    if (name == "night") return Theme::Night;
+    if (name == "light") {
+        return Theme::Light;
+    }
+    if (name == "dark") {
+        return Theme::Dark;
+    }
+    if (name == "night") {
+        return Theme::Night;
+    }
     return std::nullopt;
 }
 
@@ -66,8 +72,12 @@ std::uint32_t ChartPalette::ObjectColour(std::int32_t bgr) const {
     const std::uint32_t red = value & 0xFF;
     const std::uint32_t green = value >> 8 & 0xFF;
     const std::uint32_t blue = value >> 16 & 0xFF;
-    if (theme == Theme::Light) return red << 16 | green << 8 | blue;
-    if (theme == Theme::Dark) return lighten(red) << 16 | lighten(green) << 8 | lighten(blue);
+    if (theme == Theme::Light) {
+        return red << 16 | green << 8 | blue;
+    }
+    if (theme == Theme::Dark) {
+        return Lighten(red) << 16 | Lighten(green) << 8 | Lighten(blue);
+    }
     // By night only the brightness tells things apart: 120 to 230 of red with a little of the rest.
     const std::uint32_t bright = 120 + (red * 30 + green * 59 + blue * 11) / 100 * 110 / 255;
     return bright << 16 | bright / 4 << 8 | bright / 5;

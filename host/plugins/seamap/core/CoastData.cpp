@@ -17,7 +17,7 @@ constexpr std::size_t kRunLength = 128;
 constexpr std::array<std::int64_t, 2> kLevelLimit{900, 9000};
 
 /// The source's cut along the date line and its closing edge at the south pole are no shore.
-bool isCut(LandPoint a, LandPoint b) {
+bool IsCut(LandPoint a, LandPoint b) {
     const auto onDateLine = [](LandPoint p) { return std::fabs(std::fabs(p.lon) - 180.0F) < 1e-4F; };
     return (onDateLine(a) && onDateLine(b)) || (a.lat < -89.0F && b.lat < -89.0F);
 }
@@ -40,14 +40,18 @@ void append(CoastData::Level& level, std::vector<CoastData::Shape>& shapes,
     shapes.push_back(shape);
 }
 
-void appendCoast(CoastData::Level& level, const LandShape& coast) {
+void AppendCoast(CoastData::Level& level, const LandShape& coast) {
     std::size_t first = 0;
     for (std::size_t i = 1; i <= coast.size(); ++i) {
-        const bool end = i == coast.size() || isCut(coast[i - 1], coast[i]);
-        if (!end && i - first < kRunLength) continue;
+        const bool end = i == coast.size() || IsCut(coast[i - 1], coast[i]);
+        if (!end && i - first < kRunLength) {
+            continue;
+        }
         // A run that goes on shares its last point with the next one.
         const std::size_t last = end ? i : i + 1;
-        if (last - first >= 2) append(level, level.coasts, std::span(coast).subspan(first, last - first));
+        if (last - first >= 2) {
+            append(level, level.coasts, std::span(coast).subspan(first, last - first));
+        }
         first = i;
     }
 }
@@ -58,18 +62,29 @@ CoastData::CoastData(const std::vector<LandLevel>& levels) {
     for (const LandLevel& source : levels) {
         Level& level = levels_.emplace_back();
         std::size_t count = 0;
-        for (const LandShape& cell : source.cells) count += cell.size();
-        for (const LandShape& coast : source.coasts) count += coast.size() + coast.size() / kRunLength + 1;
+        for (const LandShape& cell : source.cells) {
+            count += cell.size();
+        }
+        for (const LandShape& coast : source.coasts) {
+            count += coast.size() + coast.size() / kRunLength + 1;
+        }
         level.points.reserve(count);
-        for (const LandShape& cell : source.cells)
-            if (cell.size() >= 3) append(level, level.cells, cell);
-        for (const LandShape& coast : source.coasts) appendCoast(level, coast);
+        for (const LandShape& cell : source.cells) {
+            if (cell.size() >= 3) {
+                append(level, level.cells, cell);
+            }
+        }
+        for (const LandShape& coast : source.coasts) {
+            AppendCoast(level, coast);
+        }
     }
 }
 
 const CoastData::Level& CoastData::For(std::int64_t worldSize) const {
     std::size_t level = 0;
-    while (level < kLevelLimit.size() && worldSize > kLevelLimit[level]) ++level;
+    while (level < kLevelLimit.size() && worldSize > kLevelLimit[level]) {
+        ++level;
+    }
     return levels_[std::min(level, levels_.size() - 1)];
 }
 

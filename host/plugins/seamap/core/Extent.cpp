@@ -7,8 +7,11 @@
 namespace Tarvik::Seamap {
 
 std::optional<Extent> Extent::FromCorners(const Interface::TrvMapExtent& corners) {
-    for (const double value : {corners.first, corners.second, corners.third, corners.fourth})
-        if (!std::isfinite(value) || std::fabs(value) > 720.0) return std::nullopt;
+    for (const double value : {corners.first, corners.second, corners.third, corners.fourth}) {
+        if (!std::isfinite(value) || std::fabs(value) > 720.0) {
+            return std::nullopt;
+        }
+    }
     Extent extent;
     extent.west = std::min(corners.first, corners.third);
     extent.east = std::min(std::max(corners.first, corners.third), extent.west + 360.0);
@@ -22,7 +25,9 @@ Interface::TrvMapExtent Extent::Corners() const {
 }
 
 std::optional<Extent> Extent::Around(const std::vector<GeoPoint>& points) {
-    if (points.empty()) return std::nullopt;
+    if (points.empty()) {
+        return std::nullopt;
+    }
     std::vector<double> lons;
     Extent extent{0, 90, 0, -90};
     for (const GeoPoint& point : points) {
@@ -36,7 +41,9 @@ std::optional<Extent> Extent::Around(const std::vector<GeoPoint>& points) {
     extent.west = lons.front();
     for (std::size_t i = 1; i < lons.size(); ++i) {
         const double gap = lons[i] - lons[i - 1];
-        if (gap <= widest) continue;
+        if (gap <= widest) {
+            continue;
+        }
         widest = gap;
         extent.west = lons[i];
     }
@@ -45,7 +52,9 @@ std::optional<Extent> Extent::Around(const std::vector<GeoPoint>& points) {
 }
 
 bool Extent::Contains(GeoPoint point) const {
-    if (point.lat < south || point.lat > north) return false;
+    if (point.lat < south || point.lat > north) {
+        return false;
+    }
     const double turned = point.lon - 360.0 * std::floor((point.lon - west) / 360.0);
     return turned <= east || (point.lon >= west && point.lon <= east);
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/ChartRecords.h>
-
 #include <optional>
 #include <vector>
+
+#include <tarvik/interface/ChartRecords.h>
 
 #include "host/plugins/seamap/core/GeoPoint.h"
 

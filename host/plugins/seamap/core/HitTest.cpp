@@ -13,8 +13,9 @@ double DistanceToSegment(PixelPoint point, PixelPoint from, PixelPoint to) {
     const double dx = to.x - from.x, dy = to.y - from.y;
     const double square = dx * dx + dy * dy;
     double share = 0;
-    if (square > 0)
+    if (square > 0) {
         share = std::clamp(((point.x - from.x) * dx + (point.y - from.y) * dy) / square, 0.0, 1.0);
+    }
     return std::hypot(point.x - from.x - share * dx, point.y - from.y - share * dy);
 }
 
@@ -24,10 +25,14 @@ const ChartObject* HitTest::At(PixelPoint pixel) const {
     bool bestIsLine = true;
     for (const auto& [place, object] : objects_.InOrder()) {
         const bool line = std::holds_alternative<ChartLine>(object.shape);
-        if (line && !bestIsLine) continue;
+        if (line && !bestIsLine) {
+            continue;
+        }
         const double away =
-            std::visit([&](const auto& shape) { return distance(shape, pixel); }, object.shape);
-        if (away > kTolerance || (line == bestIsLine && away > nearest)) continue;
+            std::visit([&](const auto& shape) { return Distance(shape, pixel); }, object.shape);
+        if (away > kTolerance || (line == bestIsLine && away > nearest)) {
+            continue;
+        }
         best = &object;
         nearest = away;
         bestIsLine = line;
@@ -35,23 +40,26 @@ const ChartObject* HitTest::At(PixelPoint pixel) const {
     return best;
 }
 
-double HitTest::distance(const ChartLine& line, PixelPoint pixel) const {
+double HitTest::Distance(const ChartLine& line, PixelPoint pixel) const {
     double nearest = std::numeric_limits<double>::infinity();
     const int reach = static_cast<int>(kTolerance) + line.width;
     const auto turns = view_.TurnsOf(line.minX, line.maxX, reach);
-    for (int turn = turns.first; turn <= turns.last; ++turn)
-        for (const PolylineRun& run : ClipPolyline(line.points, view_, turn, reach, 0.5))
-            for (std::size_t i = 1; i < run.points.size(); ++i)
+    for (int turn = turns.first; turn <= turns.last; ++turn) {
+        for (const PolylineRun& run : ClipPolyline(line.points, view_, turn, reach, 0.5)) {
+            for (std::size_t i = 1; i < run.points.size(); ++i) {
                 nearest = std::min(nearest, DistanceToSegment(pixel, run.points[i - 1], run.points[i]));
+            }
+        }
+    }
     return std::max(nearest - line.width / 2.0, 0.0);
 }
 
-double HitTest::distance(const ChartLabel& label, PixelPoint pixel) const {
+double HitTest::Distance(const ChartLabel& label, PixelPoint pixel) const {
     const PixelPoint centre = view_.ToScreen(label.position);
     return std::max(std::hypot(centre.x - pixel.x, centre.y - pixel.y) - label.size, 0.0);
 }
 
-double HitTest::distance(const ChartImage& image, PixelPoint pixel) const {
+double HitTest::Distance(const ChartImage& image, PixelPoint pixel) const {
     const PixelPoint centre = view_.ToScreen(image.position);
     const PixelPoint half = halfSize_(image.image);
     const double dx = std::max(std::fabs(centre.x - pixel.x) - half.x, 0.0);

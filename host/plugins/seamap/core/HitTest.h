@@ -27,9 +27,9 @@ class HitTest {
     const ChartObject* At(PixelPoint pixel) const;
 
   private:
-    double distance(const ChartLine& line, PixelPoint pixel) const;
-    double distance(const ChartLabel& label, PixelPoint pixel) const;
-    double distance(const ChartImage& image, PixelPoint pixel) const;
+    double Distance(const ChartLine& line, PixelPoint pixel) const;
+    double Distance(const ChartLabel& label, PixelPoint pixel) const;
+    double Distance(const ChartImage& image, PixelPoint pixel) const;
 
     const ChartObjects& objects_;
     const MercatorView& view_;

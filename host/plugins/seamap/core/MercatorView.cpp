@@ -8,9 +8,11 @@
 namespace Tarvik::Seamap {
 
 namespace {
+
 constexpr double kRadians = std::numbers::pi / 180.0;
 constexpr double kWorldMiles = 360.0 * 60.0;
 constexpr double kLeastHeightShare = 0.6;
+
 }  // namespace
 
 WorldPoint MercatorView::Project(GeoPoint point) {
@@ -38,10 +40,11 @@ void MercatorView::Resize(int width, int height) {
     top_ += (height_ - height) / 2;
     width_ = std::max(width, 0);
     height_ = std::max(height, 0);
-    if (size_ < SmallestSize())
+    if (size_ < SmallestSize()) {
         Show(Centre(), SmallestSize());
-    else
-        settle();
+    } else {
+        Settle();
+    }
 }
 
 int MercatorView::NearestStep() const {
@@ -57,7 +60,7 @@ std::int64_t MercatorView::SmallestSize() const {
 void MercatorView::PanBy(std::int64_t dx, std::int64_t dy) {
     left_ += dx;
     top_ += dy;
-    settle();
+    Settle();
 }
 
 void MercatorView::ZoomAt(PixelPoint anchor, std::int64_t size) {
@@ -65,14 +68,14 @@ void MercatorView::ZoomAt(PixelPoint anchor, std::int64_t size) {
     size_ = std::clamp(size, SmallestSize(), kLargestWorld);
     left_ = std::llround(place.x * static_cast<double>(size_) - anchor.x);
     top_ = std::llround(place.y * static_cast<double>(size_) - anchor.y);
-    settle();
+    Settle();
 }
 
 void MercatorView::Show(WorldPoint centre, std::int64_t size) {
     size_ = std::clamp(size, SmallestSize(), kLargestWorld);
     left_ = std::llround(centre.x * static_cast<double>(size_) - width_ / 2.0);
     top_ = std::llround(centre.y * static_cast<double>(size_) - height_ / 2.0);
-    settle();
+    Settle();
 }
 
 void MercatorView::Fit(const Extent& extent, int margin, std::int64_t largest) {
@@ -81,8 +84,12 @@ void MercatorView::Fit(const Extent& extent, int margin, std::int64_t largest) {
     const double freeWidth = std::max(width_ - 2 * margin, 1);
     const double freeHeight = std::max(height_ - 2 * margin, 1);
     double size = static_cast<double>(std::min(largest, kLargestWorld));
-    if (lower.x > upper.x) size = std::min(size, freeWidth / (lower.x - upper.x));
-    if (lower.y > upper.y) size = std::min(size, freeHeight / (lower.y - upper.y));
+    if (lower.x > upper.x) {
+        size = std::min(size, freeWidth / (lower.x - upper.x));
+    }
+    if (lower.y > upper.y) {
+        size = std::min(size, freeHeight / (lower.y - upper.y));
+    }
     Show({(upper.x + lower.x) / 2.0, (upper.y + lower.y) / 2.0}, static_cast<std::int64_t>(std::floor(size)));
 }
 
@@ -127,13 +134,16 @@ double MercatorView::MilesPerPixel(double lat) const {
     return kWorldMiles * std::cos(lat * kRadians) / static_cast<double>(size_);
 }
 
-void MercatorView::settle() {
+void MercatorView::Settle() {
     left_ %= size_;
-    if (left_ < 0) left_ += size_;
-    if (height_ >= size_)
+    if (left_ < 0) {
+        left_ += size_;
+    }
+    if (height_ >= size_) {
         top_ = -((height_ - size_) / 2);
-    else
+    } else {
         top_ = std::clamp<std::int64_t>(top_, 0, size_ - height_);
+    }
 }
 
 }  // namespace Tarvik::Seamap

@@ -76,7 +76,7 @@ class MercatorView {
     bool operator==(const MercatorView&) const = default;
 
   private:
-    void settle();
+    void Settle();
 
     int width_ = 0;
     int height_ = 0;

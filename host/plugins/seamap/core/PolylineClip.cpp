@@ -12,17 +12,19 @@ struct Box {
     double left, top, right, bottom;
 };
 
-double distance(PixelPoint a, PixelPoint b) {
+double Distance(PixelPoint a, PixelPoint b) {
     return std::sqrt((a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y));
 }
 
 /// The part of the segment inside the box as shares of its length (the Liang and Barsky way); first > second:
 /// none.
-std::pair<double, double> insideShares(PixelPoint a, PixelPoint b, const Box& box) {
+std::pair<double, double> InsideShares(PixelPoint a, PixelPoint b, const Box& box) {
     double from = 0, to = 1;
     const auto cut = [&](double direction, double room) {
         if (direction == 0) {
-            if (room < 0) from = 2;
+            if (room < 0) {
+                from = 2;
+            }
         } else if (direction < 0) {
             from = std::max(from, room / direction);
         } else {
@@ -36,22 +38,25 @@ std::pair<double, double> insideShares(PixelPoint a, PixelPoint b, const Box& bo
     return {from, to};
 }
 
-PixelPoint between(PixelPoint a, PixelPoint b, double share) {
+PixelPoint Between(PixelPoint a, PixelPoint b, double share) {
     return {a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share};
 }
 
 /// One step of polygon cutting: keeps the side on which `room` is not negative.
 template <class Room>
-std::vector<PixelPoint> cutSide(const std::vector<PixelPoint>& points, Room room) {
+std::vector<PixelPoint> CutSide(const std::vector<PixelPoint>& points, Room room) {
     std::vector<PixelPoint> kept;
     kept.reserve(points.size() + 4);
     for (std::size_t i = 0; i < points.size(); ++i) {
         const PixelPoint& here = points[i];
         const PixelPoint& before = points[i == 0 ? points.size() - 1 : i - 1];
         const double roomHere = room(here), roomBefore = room(before);
-        if ((roomHere >= 0) != (roomBefore >= 0))
-            kept.push_back(between(before, here, roomBefore / (roomBefore - roomHere)));
-        if (roomHere >= 0) kept.push_back(here);
+        if ((roomHere >= 0) != (roomBefore >= 0)) {
+            kept.push_back(Between(before, here, roomBefore / (roomBefore - roomHere)));
+        }
+        if (roomHere >= 0) {
+            kept.push_back(here);
+        }
     }
     return kept;
 }
@@ -62,18 +67,24 @@ std::vector<PolylineRun> ClipPolyline(std::span<const WorldPoint> points, const 
                                       double margin, double detail) {
     const Box box{-margin, -margin, view.Width() + margin, view.Height() + margin};
     std::vector<PolylineRun> runs;
-    if (points.size() < 2) return runs;
+    if (points.size() < 2) {
+        return runs;
+    }
     bool open = false;
     double length = 0;
     PixelPoint last = view.ToScreen(points[0], turn);
     for (std::size_t i = 1; i < points.size(); ++i) {
         const PixelPoint here = view.ToScreen(points[i], turn);
-        const double step = distance(last, here);
-        if (step < detail && i + 1 < points.size()) continue;
-        const auto [from, to] = insideShares(last, here, box);
+        const double step = Distance(last, here);
+        if (step < detail && i + 1 < points.size()) {
+            continue;
+        }
+        const auto [from, to] = InsideShares(last, here, box);
         if (from <= to) {
-            if (!open || from > 0) runs.push_back({{between(last, here, from)}, length + step * from});
-            runs.back().points.push_back(between(last, here, to));
+            if (!open || from > 0) {
+                runs.push_back({{Between(last, here, from)}, length + step * from});
+            }
+            runs.back().points.push_back(Between(last, here, to));
         }
         open = from <= to && to >= 1;
         length += step;
@@ -84,10 +95,10 @@ std::vector<PolylineRun> ClipPolyline(std::span<const WorldPoint> points, const 
 
 std::vector<PixelPoint> ClipPolygon(std::vector<PixelPoint> points, double width, double height,
                                     double margin) {
-    points = cutSide(points, [=](PixelPoint p) { return p.x + margin; });
-    points = cutSide(points, [=](PixelPoint p) { return width + margin - p.x; });
-    points = cutSide(points, [=](PixelPoint p) { return p.y + margin; });
-    points = cutSide(points, [=](PixelPoint p) { return height + margin - p.y; });
+    points = CutSide(points, [=](PixelPoint p) { return p.x + margin; });
+    points = CutSide(points, [=](PixelPoint p) { return width + margin - p.x; });
+    points = CutSide(points, [=](PixelPoint p) { return p.y + margin; });
+    points = CutSide(points, [=](PixelPoint p) { return height + margin - p.y; });
     return points;
 }
 

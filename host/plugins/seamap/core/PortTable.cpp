@@ -9,14 +9,18 @@
 namespace Tarvik::Seamap {
 
 namespace {
-std::string field(const Util::CppSQLite3Query& row, int column) {
+
+std::string Field(const Util::CppSQLite3Query& row, int column) {
     const char* text = row.fieldValue(column);
     return text ? text : "";
 }
+
 }  // namespace
 
 const Interface::TrvMapPort* PortTable::Find(const std::string& id) {
-    if (!loaded_) load();
+    if (!loaded_) {
+        Load();
+    }
     const auto found = ports_.find(id);
     return found == ports_.end() ? nullptr : &found->second;
 }
@@ -25,17 +29,18 @@ std::string PortTable::DefaultPath() {
     return Util::FileUtl::GetCurrentAppDirectory() + "/businessdata/trvdb.db";
 }
 
-void PortTable::load() {
+void PortTable::Load() {
     try {
         Util::CppSQLite3DB database;
         database.open(path_);
         auto rows = database.execQuery("select id,name,x,y from t_point");
         for (; !rows.eof(); rows.nextRow()) {
-            const std::string id = field(rows, 0);
+            const std::string id = Field(rows, 0);
             // A row without a readable position is no place that could be shown.
-            const auto place = ParsePosition(field(rows, 2) + "," + field(rows, 3));
-            if (place)
-                ports_.try_emplace(id, Interface::TrvMapPort{id, field(rows, 1), place->lon, place->lat});
+            const auto place = ParsePosition(Field(rows, 2) + "," + Field(rows, 3));
+            if (place) {
+                ports_.try_emplace(id, Interface::TrvMapPort{id, Field(rows, 1), place->lon, place->lat});
+            }
         }
         rows.finalize();
         database.close();

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/ChartRecords.h>
-
 #include <map>
 #include <string>
+
+#include <tarvik/interface/ChartRecords.h>
 
 namespace Tarvik::Seamap {
 
@@ -20,7 +20,7 @@ class PortTable {
     static std::string DefaultPath();
 
   private:
-    void load();
+    void Load();
 
     std::string path_;
     bool loaded_ = false;

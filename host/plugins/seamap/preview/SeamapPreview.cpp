@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Draws the chart with a sample voyage into a picture, to look at the rendering without the client.
-#include <fmt/format.h>
-
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -10,6 +8,8 @@
 #include <cstdio>
 #include <string>
 #include <vector>
+
+#include <fmt/format.h>
 
 #include "host/plugins/seamap/core/LandFileSource.h"
 #include "host/plugins/seamap/widget/ChartWidget.h"
@@ -39,8 +39,9 @@ void addSample(ChartObjects& objects) {
     const std::vector<std::pair<std::string, std::string>> points{
         {"Singapore Strait", "104.4,1.3"}, {"Bab el Mandeb", "43.3,12.6"}, {"Suez Canal", "32.4,30.5"},
         {"Gibraltar", "-5.5,36.0"},        {"Dover Strait", "1.4,50.9"},   {"Malacca Strait", "100.6,3.0"}};
-    for (const auto& [name, position] : points)
+    for (const auto& [name, position] : points) {
         objects.AddLabel({{"VOYAGE", name, "VOYAGETYPE"}, name, position, 0, "circle", 0x9664FF, 3});
+    }
     objects.AddImage({{"VOYAGE", "ship", "AISSHIPTYPE"}, "AIS_Ship", "70.0,8.5"});
 }
 
@@ -72,16 +73,21 @@ void report(const char* what, ChartWidget& chart, const std::vector<Qt::Key>& ke
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 2) return usage();
-    int width = 1280, height = 720;
-    if (arguments.size() > 2 && std::sscanf(qPrintable(arguments[2]), "%dx%d", &width, &height) != 2)
+    if (arguments.size() < 2) {
         return usage();
+    }
+    int width = 1280, height = 720;
+    if (arguments.size() > 2 && std::sscanf(qPrintable(arguments[2]), "%dx%d", &width, &height) != 2) {
+        return usage();
+    }
     ChartObjects objects;
     addSample(objects);
     ChartWidget chart(objects);
     chart.setProperty("pictures", true);
     const auto theme = ChartPalette::ThemeOf(arguments.value(3, "light").toStdString());
-    if (!theme) return usage();
+    if (!theme) {
+        return usage();
+    }
     chart.SetTheme(*theme);
     const std::string file =
         arguments.value(4, QString::fromStdString(LandFileSource::DefaultPath())).toStdString();
@@ -93,13 +99,16 @@ int main(int argc, char** argv) {
     chart.show();
     Records::TrvMapExtent corners{-20, -15, 150, 60};
     if (arguments.size() > 5 && std::sscanf(qPrintable(arguments[5]), "%lf,%lf,%lf,%lf", &corners.first,
-                                            &corners.second, &corners.third, &corners.fourth) != 4)
+                                            &corners.second, &corners.third, &corners.fourth) != 4) {
         return usage();
+    }
     chart.ShowExtent(*Extent::FromCorners(corners));
     timer.restart();
     const QPixmap picture = chart.grab();
     fmt::print("first frame {:.1f} ms\n", static_cast<double>(timer.nsecsElapsed()) / 1e6);
-    if (!picture.save(arguments[1])) return 1;
+    if (!picture.save(arguments[1])) {
+        return 1;
+    }
     report("whole frames", chart, {Qt::Key_Plus, Qt::Key_Minus});
     report("panning", chart, {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Up});
     return 0;

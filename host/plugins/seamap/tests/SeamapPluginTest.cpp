@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <dlfcn.h>
+
 #include <gtest/gtest.h>
+
 #include <tarvik/core/BusBlock.h>
 #include <tarvik/core/PluginInfo.h>
 #include <tarvik/interface/BusContract.h>
-
 #include <tarvik/interface/ChartWindow.h>
 
 namespace Tarvik {
+
 namespace {
 
 class SeamapPluginTest : public ::testing::Test {

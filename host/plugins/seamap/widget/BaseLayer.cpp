@@ -20,14 +20,14 @@ constexpr int kGraticuleAlpha = 150;
 constexpr double kFillDetail = 0;  ///< leaving points out would tear open the seams between cells
 constexpr double kCoastDetail = 0.7;
 
-bool isSeen(const CoastData::Shape& shape, const MercatorView& view, int turn, const QRect& clip) {
+bool IsSeen(const CoastData::Shape& shape, const MercatorView& view, int turn, const QRect& clip) {
     const PixelPoint upper = view.ToScreen(WorldPoint{shape.minX, shape.minY}, turn);
     const PixelPoint lower = view.ToScreen(WorldPoint{shape.maxX, shape.maxY}, turn);
     return lower.x >= clip.left() - 2 && upper.x <= clip.right() + 3 && lower.y >= clip.top() - 2 &&
            upper.y <= clip.bottom() + 3;
 }
 
-bool reachesFar(const CoastData::Shape& shape, const MercatorView& view, int turn) {
+bool ReachesFar(const CoastData::Shape& shape, const MercatorView& view, int turn) {
     const PixelPoint upper = view.ToScreen(WorldPoint{shape.minX, shape.minY}, turn);
     const PixelPoint lower = view.ToScreen(WorldPoint{shape.maxX, shape.maxY}, turn);
     return upper.x < -kFarOutside || upper.y < -kFarOutside || lower.x > view.Width() + kFarOutside ||
@@ -50,24 +50,32 @@ const QPixmap& BaseLayer::Picture(const MercatorView& view, const ChartPalette& 
     if (!same) {
         picture_ = QPixmap(size);
         picture_.setDevicePixelRatio(pixelRatio);
-    } else if (!shift(view, missing)) {
+    } else if (!Shift(view, missing)) {
         return picture_;
     }
     view_ = view;
     palette_ = &palette;
     QPainter painter(&picture_);
-    draw(painter, missing);
+    Draw(painter, missing);
     return picture_;
 }
 
-bool BaseLayer::shift(const MercatorView& view, QRegion& missing) {
+bool BaseLayer::Shift(const MercatorView& view, QRegion& missing) {
     std::int64_t dx = view_.Left() - view.Left();
     // The corner is kept within one turn: the shorter way round is the one that was panned.
-    if (dx > view.WorldSize() / 2) dx -= view.WorldSize();
-    if (dx < -view.WorldSize() / 2) dx += view.WorldSize();
+    if (dx > view.WorldSize() / 2) {
+        dx -= view.WorldSize();
+    }
+    if (dx < -view.WorldSize() / 2) {
+        dx += view.WorldSize();
+    }
     const std::int64_t dy = view_.Top() - view.Top();
-    if (dx == 0 && dy == 0) return false;
-    if (std::abs(dx) >= view.Width() || std::abs(dy) >= view.Height()) return true;
+    if (dx == 0 && dy == 0) {
+        return false;
+    }
+    if (std::abs(dx) >= view.Width() || std::abs(dy) >= view.Height()) {
+        return true;
+    }
     const int x = static_cast<int>(dx), y = static_cast<int>(dy);
     const int ratio = static_cast<int>(picture_.devicePixelRatio());
     picture_.scroll(x * ratio, y * ratio, picture_.rect());
@@ -75,65 +83,75 @@ bool BaseLayer::shift(const MercatorView& view, QRegion& missing) {
     return true;
 }
 
-void BaseLayer::draw(QPainter& painter, const QRegion& region) {
+void BaseLayer::Draw(QPainter& painter, const QRegion& region) {
     for (const QRect& rectangle : region) {
         clip_ = rectangle;
         painter.setClipRect(rectangle);
         painter.fillRect(rectangle, QColor(palette_->sea));
-        drawLand(painter);
-        drawGraticule(painter, rectangle);
+        DrawLand(painter);
+        DrawGraticule(painter, rectangle);
     }
 }
 
-void BaseLayer::drawLand(QPainter& painter) {
-    if (land_.IsEmpty()) return;
+void BaseLayer::DrawLand(QPainter& painter) {
+    if (land_.IsEmpty()) {
+        return;
+    }
     const CoastData::Level& level = land_.For(view_.WorldSize());
-    drawCells(painter, level);
-    drawCoasts(painter, level);
+    DrawCells(painter, level);
+    DrawCoasts(painter, level);
 }
 
-void BaseLayer::drawCells(QPainter& painter, const CoastData::Level& level) {
+void BaseLayer::DrawCells(QPainter& painter, const CoastData::Level& level) {
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(palette_->land));
     for (const CoastData::Shape& shape : level.cells) {
         const auto turns = view_.TurnsOf(shape.minX, shape.maxX);
         for (int turn = turns.first; turn <= turns.last; ++turn) {
-            if (!isSeen(shape, view_, turn, clip_)) continue;
-            trace(level.PointsOf(shape), turn, kFillDetail);
-            if (reachesFar(shape, view_, turn)) cutTrace();
+            if (!IsSeen(shape, view_, turn, clip_)) {
+                continue;
+            }
+            Trace(level.PointsOf(shape), turn, kFillDetail);
+            if (ReachesFar(shape, view_, turn)) {
+                CutTrace();
+            }
             painter.drawPolygon(trace_.data(), static_cast<int>(trace_.size()));
         }
     }
 }
 
-void BaseLayer::drawCoasts(QPainter& painter, const CoastData::Level& level) {
+void BaseLayer::DrawCoasts(QPainter& painter, const CoastData::Level& level) {
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(palette_->coast), 0));
     for (const CoastData::Shape& shape : level.coasts) {
         const auto turns = view_.TurnsOf(shape.minX, shape.maxX);
         for (int turn = turns.first; turn <= turns.last; ++turn) {
-            if (!isSeen(shape, view_, turn, clip_)) continue;
-            if (reachesFar(shape, view_, turn)) {
-                drawLongCoast(painter, level.PointsOf(shape), turn);
+            if (!IsSeen(shape, view_, turn, clip_)) {
                 continue;
             }
-            trace(level.PointsOf(shape), turn, kCoastDetail);
+            if (ReachesFar(shape, view_, turn)) {
+                DrawLongCoast(painter, level.PointsOf(shape), turn);
+                continue;
+            }
+            Trace(level.PointsOf(shape), turn, kCoastDetail);
             painter.drawPolyline(trace_.data(), static_cast<int>(trace_.size()));
         }
     }
 }
 
-void BaseLayer::drawLongCoast(QPainter& painter, std::span<const WorldPoint> points, int turn) {
+void BaseLayer::DrawLongCoast(QPainter& painter, std::span<const WorldPoint> points, int turn) {
     for (const PolylineRun& run : ClipPolyline(points, view_, turn, kCutMargin, kCoastDetail)) {
         trace_.clear();
-        for (const PixelPoint& point : run.points) trace_.emplace_back(point.x, point.y);
+        for (const PixelPoint& point : run.points) {
+            trace_.emplace_back(point.x, point.y);
+        }
         painter.drawPolyline(trace_.data(), static_cast<int>(trace_.size()));
     }
 }
 
-void BaseLayer::trace(std::span<const WorldPoint> points, int turn, double detail) {
+void BaseLayer::Trace(std::span<const WorldPoint> points, int turn, double detail) {
     trace_.clear();
     const auto size = static_cast<double>(view_.WorldSize());
     const double left = static_cast<double>(view_.Left()) - turn * size;
@@ -143,22 +161,28 @@ void BaseLayer::trace(std::span<const WorldPoint> points, int turn, double detai
     for (const WorldPoint& point : points) {
         const QPointF here(point.x * size - left, point.y * size - top);
         const QPointF step = here - last;
-        if (!trace_.empty() && QPointF::dotProduct(step, step) < least && &point != &points.back()) continue;
+        if (!trace_.empty() && QPointF::dotProduct(step, step) < least && &point != &points.back()) {
+            continue;
+        }
         trace_.push_back(here);
         last = here;
     }
 }
 
-void BaseLayer::cutTrace() {
+void BaseLayer::CutTrace() {
     std::vector<PixelPoint> points;
     points.reserve(trace_.size());
-    for (const QPointF& point : trace_) points.push_back({point.x(), point.y()});
+    for (const QPointF& point : trace_) {
+        points.push_back({point.x(), point.y()});
+    }
     trace_.clear();
-    for (const PixelPoint& point : ClipPolygon(std::move(points), view_.Width(), view_.Height(), kCutMargin))
+    for (const PixelPoint& point :
+         ClipPolygon(std::move(points), view_.Width(), view_.Height(), kCutMargin)) {
         trace_.emplace_back(point.x, point.y);
+    }
 }
 
-void BaseLayer::drawGraticule(QPainter& painter, const QRect& bounds) const {
+void BaseLayer::DrawGraticule(QPainter& painter, const QRect& bounds) const {
     const Graticule net(view_);
     painter.setRenderHint(QPainter::Antialiasing, false);
     QColor colour(palette_->graticule);

@@ -23,17 +23,17 @@ class BaseLayer {
     const QPixmap& Picture(const MercatorView& view, const ChartPalette& palette, qreal pixelRatio);
 
   private:
-    bool shift(const MercatorView& view, QRegion& missing);
-    void draw(QPainter& painter, const QRegion& region);
-    void drawLand(QPainter& painter);
-    void drawCells(QPainter& painter, const CoastData::Level& level);
-    void drawCoasts(QPainter& painter, const CoastData::Level& level);
+    bool Shift(const MercatorView& view, QRegion& missing);
+    void Draw(QPainter& painter, const QRegion& region);
+    void DrawLand(QPainter& painter);
+    void DrawCells(QPainter& painter, const CoastData::Level& level);
+    void DrawCoasts(QPainter& painter, const CoastData::Level& level);
     /// A shore that reaches so far out of the window that it is cut first.
-    void drawLongCoast(QPainter& painter, std::span<const WorldPoint> points, int turn);
+    void DrawLongCoast(QPainter& painter, std::span<const WorldPoint> points, int turn);
     /// Brings points into the window's pixels, without those too near to their predecessor.
-    void trace(std::span<const WorldPoint> points, int turn, double detail);
-    void cutTrace();
-    void drawGraticule(QPainter& painter, const QRect& bounds) const;
+    void Trace(std::span<const WorldPoint> points, int turn, double detail);
+    void CutTrace();
+    void DrawGraticule(QPainter& painter, const QRect& bounds) const;
 
     CoastData land_;
     MercatorView view_;

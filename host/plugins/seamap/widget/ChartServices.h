@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/core/TObject.h>
-#include <tarvik/core/TrvKernel.h>
-
 #include <QPointer>
 #include <deque>
 #include <optional>
 #include <string>
+
+#include <tarvik/core/TObject.h>
+#include <tarvik/core/TrvKernel.h>
 
 #include "host/plugins/seamap/core/ChartObjects.h"
 #include "host/plugins/seamap/core/PortTable.h"
@@ -54,10 +54,10 @@ class ChartServices : public Core::TObject {
         Core::TEvent delegate;
     };
     template <auto Method>
-    void offer(const char* name);
-    void raiseClick(const ObjectKey& key) const;
-    void raiseCursor(double lon, double lat) const;
-    bool run(const std::string& command);
+    void Offer(const char* name);
+    void RaiseClick(const ObjectKey& key) const;
+    void RaiseCursor(double lon, double lat) const;
+    bool Run(const std::string& command);
 
     Paths paths_;
     ChartObjects objects_;

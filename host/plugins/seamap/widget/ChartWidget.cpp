@@ -15,6 +15,7 @@
 namespace Tarvik::Seamap {
 
 namespace {
+
 constexpr Extent kWorld{-180, -60, 180, 75};   ///< the inhabited world, shown when there is nothing else
 constexpr int kFitMargin = 32;                 ///< pixels
 constexpr std::int64_t kLargestFit = 1 << 17;  ///< a fit on one point still shows its surroundings
@@ -22,6 +23,7 @@ constexpr int kWheelStep = 120;                ///< eighths of a degree of one n
 constexpr int kStepsPerZoom = 2;               ///< zoom steps of one notch or key: half an octave
 constexpr int kArrowPan = 64;                  ///< pixels
 constexpr const char* kPictures = "pictures";
+
 }  // namespace
 
 ChartWidget::ChartWidget(ChartObjects& objects, QWidget* parent)
@@ -60,14 +62,20 @@ void ChartWidget::SetTheme(ChartPalette::Theme theme) {
 }
 
 Extent ChartWidget::Shown() const {
-    if (!view_.HasSize()) return fitted_.value_or(kWorld);
+    if (!view_.HasSize()) {
+        return fitted_.value_or(kWorld);
+    }
     return (motion_.IsRunning() ? motion_.Target() : view_).Visible();
 }
 
 bool ChartWidget::ShowExtent(const Extent& extent) {
-    if (isPersonMoving()) return false;
+    if (IsPersonMoving()) {
+        return false;
+    }
     fitted_ = extent;
-    if (view_.HasSize()) fit(isAnimated());
+    if (view_.HasSize()) {
+        Fit(IsAnimated());
+    }
     return true;
 }
 
@@ -76,36 +84,38 @@ void ChartWidget::FitAll() {
 }
 
 void ChartWidget::ZoomSteps(int steps) {
-    zoomAround({width() / 2.0, height() / 2.0}, steps);
+    ZoomAround({width() / 2.0, height() / 2.0}, steps);
 }
 
-bool ChartWidget::isAnimated() const {
+bool ChartWidget::IsAnimated() const {
     return isVisible() && !property(kPictures).toBool() && !qApp->property(kPictures).toBool();
 }
 
-bool ChartWidget::isPersonMoving() const {
+bool ChartWidget::IsPersonMoving() const {
     return dragging_ || (zooming_ && motion_.IsRunning());
 }
 
-void ChartWidget::fit(bool animated) {
+void ChartWidget::Fit(bool animated) {
     MercatorView target = view_;
     target.Fit(*fitted_, kFitMargin, kLargestFit);
     zooming_ = false;
     motion_.Start(view_, target, animated);
 }
 
-void ChartWidget::zoomAround(PixelPoint anchor, int steps) {
-    if (!view_.HasSize() || steps == 0) return;
+void ChartWidget::ZoomAround(PixelPoint anchor, int steps) {
+    if (!view_.HasSize() || steps == 0) {
+        return;
+    }
     const MercatorView& goal = motion_.IsRunning() ? motion_.Target() : view_;
     const int step = goal.NearestStep() + steps * kStepsPerZoom;
     MercatorView target = view_;
     target.ZoomAt(anchor, MercatorView::StepSize(std::min(step, MercatorView::LargestStep())));
     fitted_.reset();
     zooming_ = true;
-    motion_.Start(view_, target, isAnimated());
+    motion_.Start(view_, target, IsAnimated());
 }
 
-void ChartWidget::pan(int dx, int dy) {
+void ChartWidget::Pan(int dx, int dy) {
     motion_.Stop();
     fitted_.reset();
     view_.PanBy(dx, dy);
@@ -113,13 +123,16 @@ void ChartWidget::pan(int dx, int dy) {
 }
 
 bool ChartWidget::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    if (event->type() != QEvent::ToolTip) {
+        return QWidget::event(event);
+    }
     const auto* help = static_cast<QHelpEvent*>(event);
-    const ChartObject* object = objectAt({double(help->pos().x()), double(help->pos().y())});
-    if (object)
-        QToolTip::showText(help->globalPos(), tipOf(*object), this);
-    else
+    const ChartObject* object = ObjectAt({double(help->pos().x()), double(help->pos().y())});
+    if (object) {
+        QToolTip::showText(help->globalPos(), TipOf(*object), this);
+    } else {
         QToolTip::hideText();
+    }
     return true;
 }
 
@@ -129,7 +142,9 @@ void ChartWidget::paintEvent(QPaintEvent*) {
     ObjectPainter(painter, view_, *palette_, images_, texts_, devicePixelRatioF())
         .Draw(objects_, highlighted_ ? &*highlighted_ : nullptr);
     Furniture(view_, *palette_, texts_).Draw(painter);
-    if (!byKeyboard_) return;
+    if (!byKeyboard_) {
+        return;
+    }
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(palette_->accent), 2));
@@ -139,12 +154,16 @@ void ChartWidget::paintEvent(QPaintEvent*) {
 void ChartWidget::resizeEvent(QResizeEvent*) {
     motion_.Stop();
     view_.Resize(width(), height());
-    if (fitted_ && view_.HasSize()) fit(false);
+    if (fitted_ && view_.HasSize()) {
+        Fit(false);
+    }
 }
 
 void ChartWidget::mousePressEvent(QMouseEvent* event) {
     byKeyboard_ = false;
-    if (event->button() != Qt::LeftButton) return;
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
     pressed_ = true;
     pressedAt_ = draggedFrom_ = event->position().toPoint();
 }
@@ -156,37 +175,43 @@ void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
         setCursor(Qt::ClosedHandCursor);
     }
     if (dragging_) {
-        pan(draggedFrom_.x() - at.x(), draggedFrom_.y() - at.y());
+        Pan(draggedFrom_.x() - at.x(), draggedFrom_.y() - at.y());
         draggedFrom_ = at;
     }
-    point(PixelPoint{event->position().x(), event->position().y()});
+    Point(PixelPoint{event->position().x(), event->position().y()});
 }
 
 void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || !pressed_) return;
+    if (event->button() != Qt::LeftButton || !pressed_) {
+        return;
+    }
     const bool click = !dragging_;
     pressed_ = dragging_ = false;
     const PixelPoint pixel{event->position().x(), event->position().y()};
-    point(pixel);
-    if (!click) return;
-    if (const ChartObject* object = objectAt(pixel)) {
+    Point(pixel);
+    if (!click) {
+        return;
+    }
+    if (const ChartObject* object = ObjectAt(pixel)) {
         // The one who hears of the click may remove the object.
         const ObjectKey key = object->key;
-        emit objectClicked(key);
+        emit ObjectClicked(key);
     }
 }
 
 void ChartWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
     const PixelPoint pixel{event->position().x(), event->position().y()};
-    zoomAround(pixel, event->modifiers() & Qt::ShiftModifier ? -2 : 2);
+    ZoomAround(pixel, event->modifiers() & Qt::ShiftModifier ? -2 : 2);
 }
 
 void ChartWidget::wheelEvent(QWheelEvent* event) {
     wheelRest_ += event->angleDelta().y();
     const int steps = wheelRest_ / kWheelStep;
     wheelRest_ -= steps * kWheelStep;
-    zoomAround({event->position().x(), event->position().y()}, steps);
+    ZoomAround({event->position().x(), event->position().y()}, steps);
     event->accept();
 }
 
@@ -199,13 +224,13 @@ void ChartWidget::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Minus:
             return ZoomSteps(-1);
         case Qt::Key_Left:
-            return pan(-far, 0);
+            return Pan(-far, 0);
         case Qt::Key_Right:
-            return pan(far, 0);
+            return Pan(far, 0);
         case Qt::Key_Up:
-            return pan(0, -far);
+            return Pan(0, -far);
         case Qt::Key_Down:
-            return pan(0, far);
+            return Pan(0, far);
         case Qt::Key_Home:
             return FitAll();
         default:
@@ -214,7 +239,7 @@ void ChartWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 void ChartWidget::leaveEvent(QEvent*) {
-    point(std::nullopt);
+    Point(std::nullopt);
 }
 
 void ChartWidget::focusInEvent(QFocusEvent* event) {
@@ -227,33 +252,38 @@ void ChartWidget::focusOutEvent(QFocusEvent*) {
     update();
 }
 
-void ChartWidget::point(std::optional<PixelPoint> pixel) {
-    const ChartObject* object = pixel && !dragging_ ? objectAt(*pixel) : nullptr;
+void ChartWidget::Point(std::optional<PixelPoint> pixel) {
+    const ChartObject* object = pixel && !dragging_ ? ObjectAt(*pixel) : nullptr;
     const std::optional<ObjectKey> key = object ? std::optional(object->key) : std::nullopt;
-    if (!dragging_) setCursor(key ? Qt::PointingHandCursor : Qt::OpenHandCursor);
+    if (!dragging_) {
+        setCursor(key ? Qt::PointingHandCursor : Qt::OpenHandCursor);
+    }
     if (key != highlighted_) {
         highlighted_ = key;
         update();
     }
-    if (!pixel) return;
+    if (!pixel) {
+        return;
+    }
     const GeoPoint place = view_.ToGeo(*pixel);
-    emit cursorMoved(place.lon, place.lat);
+    emit CursorMoved(place.lon, place.lat);
 }
 
-const ChartObject* ChartWidget::objectAt(PixelPoint pixel) {
+const ChartObject* ChartWidget::ObjectAt(PixelPoint pixel) {
     const auto halfSize = [this](const std::string& name) {
         return images_.HalfSize(name, objects_.ImagePath(name), devicePixelRatioF());
     };
     return HitTest(objects_, view_, halfSize).At(pixel);
 }
 
-QString ChartWidget::tipOf(const ChartObject& object) const {
+QString ChartWidget::TipOf(const ChartObject& object) const {
     if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {
         const QString place = QString::fromStdString(FormatPosition(label->position));
         return label->text.empty() ? place : QString::fromStdString(label->text) + "\n" + place;
     }
-    if (const auto* image = std::get_if<ChartImage>(&object.shape))
+    if (const auto* image = std::get_if<ChartImage>(&object.shape)) {
         return QString::fromStdString(FormatPosition(image->position));
+    }
     return {};
 }
 

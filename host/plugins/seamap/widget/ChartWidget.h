@@ -48,9 +48,9 @@ class ChartWidget : public QWidget {
 
   signals:
     /// The pointer moved: longitude -180 to 180 and latitude in degrees.
-    void cursorMoved(double lon, double lat);
+    void CursorMoved(double lon, double lat);
     /// A left click met an object.
-    void objectClicked(const Tarvik::Seamap::ObjectKey& key);
+    void ObjectClicked(const Tarvik::Seamap::ObjectKey& key);
 
   protected:
     bool event(QEvent* event) override;
@@ -67,14 +67,14 @@ class ChartWidget : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    bool isAnimated() const;
-    bool isPersonMoving() const;
-    void fit(bool animated);
-    void zoomAround(PixelPoint anchor, int steps);
-    void pan(int dx, int dy);
-    void point(std::optional<PixelPoint> pixel);
-    const ChartObject* objectAt(PixelPoint pixel);
-    QString tipOf(const ChartObject& object) const;
+    bool IsAnimated() const;
+    bool IsPersonMoving() const;
+    void Fit(bool animated);
+    void ZoomAround(PixelPoint anchor, int steps);
+    void Pan(int dx, int dy);
+    void Point(std::optional<PixelPoint> pixel);
+    const ChartObject* ObjectAt(PixelPoint pixel);
+    QString TipOf(const ChartObject& object) const;
 
     ChartObjects& objects_;
     const ChartPalette* palette_;

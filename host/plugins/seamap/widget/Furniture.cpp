@@ -11,23 +11,25 @@
 namespace Tarvik::Seamap {
 
 namespace {
+
 constexpr int kTextSize = 11;
 constexpr int kEdge = 6;
 constexpr int kBarLength = 140;
 constexpr int kBarHeight = 4;
 constexpr int kBarInset = 16;
 constexpr int kPlateHeight = 32;
+
 }  // namespace
 
 void Furniture::Draw(QPainter& painter) const {
     QFont font = painter.font();
     font.setPixelSize(kTextSize);
     painter.setFont(font);
-    drawNames(painter);
-    drawScaleBar(painter);
+    DrawNames(painter);
+    DrawScaleBar(painter);
 }
 
-void Furniture::drawNames(QPainter& painter) const {
+void Furniture::DrawNames(QPainter& painter) const {
     const Graticule net(view_);
     const QFontMetricsF metrics(painter.font());
     const QColor text(palette_.secondaryText), halo(palette_.halo);
@@ -36,19 +38,25 @@ void Furniture::drawNames(QPainter& painter) const {
         const QString name = QString::fromStdString(line.label);
         const double half = metrics.horizontalAdvance(name) / 2;
         // A name that would be cut off, or that would touch those of the parallels, is left out.
-        if (line.pixel - half < 48 || line.pixel + half > view_.Width() - kEdge) continue;
+        if (line.pixel - half < 48 || line.pixel + half > view_.Width() - kEdge) {
+            continue;
+        }
         texts_.Draw(painter, {std::round(line.pixel - half), row - 2}, name, text, halo);
     }
     for (const GraticuleLine& line : net.Parallels()) {
         const double base = std::round(line.pixel + metrics.ascent() / 2 - 1);
-        if (base < row + 12 || base > view_.Height() - kBarInset - kPlateHeight - kEdge) continue;
+        if (base < row + 12 || base > view_.Height() - kBarInset - kPlateHeight - kEdge) {
+            continue;
+        }
         texts_.Draw(painter, {double(kEdge), base}, QString::fromStdString(line.label), text, halo);
     }
 }
 
-void Furniture::drawScaleBar(QPainter& painter) const {
+void Furniture::DrawScaleBar(QPainter& painter) const {
     const ScaleBar bar = ScaleBar::For(view_, kBarLength);
-    if (bar.pixels < 1) return;
+    if (bar.pixels < 1) {
+        return;
+    }
     const QFontMetricsF metrics(painter.font());
     const QString text = QString::fromStdString(bar.text);
     const double width = std::max(std::round(bar.pixels), metrics.horizontalAdvance(text)) + 16;

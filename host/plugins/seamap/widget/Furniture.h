@@ -19,8 +19,8 @@ class Furniture {
     void Draw(QPainter& painter) const;
 
   private:
-    void drawNames(QPainter& painter) const;
-    void drawScaleBar(QPainter& painter) const;
+    void DrawNames(QPainter& painter) const;
+    void DrawScaleBar(QPainter& painter) const;
 
     const MercatorView& view_;
     const ChartPalette& palette_;

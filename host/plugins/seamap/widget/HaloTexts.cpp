@@ -14,7 +14,9 @@ void HaloTexts::Draw(QPainter& painter, QPointF start, const QString& text, QCol
                             std::to_string(painter.device()->devicePixelRatioF());
     auto found = kept_.find(key);
     if (found == kept_.end()) {
-        if (kept_.size() >= kMostKept) kept_.clear();
+        if (kept_.size() >= kMostKept) {
+            kept_.clear();
+        }
         found = kept_.emplace(key, render(painter, text, colour, halo)).first;
     }
     const double ascent = std::ceil(QFontMetricsF(painter.font()).ascent());

@@ -1,42 +1,46 @@
 // SPDX-License-Identifier: MIT
 #include "host/plugins/seamap/widget/ImageStore.h"
 
-#include <tarvik/util/FileUtl.h>
-
 #include <QPainter>
 #include <QPainterPath>
 #include <QSvgRenderer>
 #include <algorithm>
 
+#include <tarvik/util/FileUtl.h>
+
 namespace Tarvik::Seamap {
 
 namespace {
 
-QPixmap blank(QSize size, qreal ratio) {
+QPixmap Blank(QSize size, qreal ratio) {
     QPixmap picture(size * ratio);
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     return picture;
 }
 
-QPixmap fromVector(const QString& path, qreal ratio) {
+QPixmap FromVector(const QString& path, qreal ratio) {
     QSvgRenderer renderer(path);
-    if (!renderer.isValid()) return {};
+    if (!renderer.isValid()) {
+        return {};
+    }
     const QSize natural = renderer.defaultSize().isEmpty() ? QSize(1, 1) : renderer.defaultSize();
     const QSize size = natural.scaled(ImageStore::kVectorSide, ImageStore::kVectorSide, Qt::KeepAspectRatio);
-    QPixmap picture = blank(size, ratio);
+    QPixmap picture = Blank(size, ratio);
     QPainter painter(&picture);
     renderer.render(&painter, QRectF(QPointF(0, 0), size));
     return picture;
 }
 
-QPixmap fromPixels(const QString& path, qreal ratio) {
+QPixmap FromPixels(const QString& path, qreal ratio) {
     const QImage image(path);
-    if (image.isNull()) return {};
+    if (image.isNull()) {
+        return {};
+    }
     const int longer = std::max(image.width(), image.height());
     const QSize size = image.size().scaled(std::min(longer, ImageStore::kLargestSide),
                                            std::min(longer, ImageStore::kLargestSide), Qt::KeepAspectRatio);
-    QPixmap picture = blank(size, ratio);
+    QPixmap picture = Blank(size, ratio);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRectF(QPointF(0, 0), size), image);
@@ -44,9 +48,9 @@ QPixmap fromPixels(const QString& path, qreal ratio) {
 }
 
 /// A ship seen from above, bow to the north-east.
-QPixmap standIn(qreal ratio) {
+QPixmap StandIn(qreal ratio) {
     constexpr int kSide = 22;
-    QPixmap picture = blank({kSide, kSide}, ratio);
+    QPixmap picture = Blank({kSide, kSide}, ratio);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(kSide / 2.0, kSide / 2.0);
@@ -63,15 +67,17 @@ QPixmap standIn(qreal ratio) {
     return picture;
 }
 
-QPixmap load(const std::string& file, qreal ratio) {
-    if (file.empty()) return standIn(ratio);
+QPixmap Load(const std::string& file, qreal ratio) {
+    if (file.empty()) {
+        return StandIn(ratio);
+    }
     const QString path = QString::fromStdString(Util::FileUtl::NativePath(file));
     QPixmap picture =
-        path.endsWith(".svg", Qt::CaseInsensitive) ? fromVector(path, ratio) : fromPixels(path, ratio);
-    return picture.isNull() ? standIn(ratio) : picture;
+        path.endsWith(".svg", Qt::CaseInsensitive) ? FromVector(path, ratio) : FromPixels(path, ratio);
+    return picture.isNull() ? StandIn(ratio) : picture;
 }
 
-QPixmap byNight(const QPixmap& picture, const ChartPalette& palette) {
+QPixmap ByNight(const QPixmap& picture, const ChartPalette& palette) {
     QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
@@ -86,16 +92,18 @@ QPixmap byNight(const QPixmap& picture, const ChartPalette& palette) {
 }  // namespace
 
 void ImageStore::SetPalette(const ChartPalette& palette) {
-    if (palette_ != &palette) entries_.clear();
+    if (palette_ != &palette) {
+        entries_.clear();
+    }
     palette_ = &palette;
 }
 
 const QPixmap& ImageStore::Picture(const std::string& name, const std::string& path, qreal pixelRatio) {
     Entry& entry = entries_[name];
     if (entry.picture.isNull() || entry.path != path || entry.pixelRatio != pixelRatio) {
-        const QPixmap picture = load(path, pixelRatio);
+        const QPixmap picture = Load(path, pixelRatio);
         const bool night = palette_->theme == ChartPalette::Theme::Night;
-        entry = {path, pixelRatio, night ? byNight(picture, *palette_) : picture};
+        entry = {path, pixelRatio, night ? ByNight(picture, *palette_) : picture};
     }
     return entry.picture;
 }

@@ -15,12 +15,14 @@
 namespace Tarvik::Seamap {
 
 namespace {
+
 constexpr double kMargin = 32;          ///< pixels around the window in which things are still drawn
 constexpr double kDetail = 0.7;         ///< pixels between the points of a line that are told apart
 constexpr std::size_t kManyLines = 50;  ///< from here on wide pens are too slow
 constexpr int kTextSize = 12;
 constexpr double kTextGap = 4;
 constexpr double kDash = 6, kGap = 4;  ///< pixels
+
 }  // namespace
 
 void ObjectPainter::Draw(const ChartObjects& objects, const ObjectKey* highlighted) {
@@ -29,36 +31,47 @@ void ObjectPainter::Draw(const ChartObjects& objects, const ObjectKey* highlight
     const auto isMarked = [&](const ChartObject& object) {
         return highlighted && object.key == *highlighted;
     };
-    for (const auto& [place, object] : objects.InOrder())
-        if (const auto* line = std::get_if<ChartLine>(&object.shape))
+    for (const auto& [place, object] : objects.InOrder()) {
+        if (const auto* line = std::get_if<ChartLine>(&object.shape)) {
             lines.push_back({line, isMarked(object)});
-    drawLines(lines);
+        }
+    }
+    DrawLines(lines);
     for (const auto& [place, object] : objects.InOrder()) {
         if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {
-            drawPoint(*label, isMarked(object));
-            if (isMarked(object)) marked = label;
+            DrawPoint(*label, isMarked(object));
+            if (isMarked(object)) {
+                marked = label;
+            }
         }
-        if (const auto* image = std::get_if<ChartImage>(&object.shape))
-            drawImage(objects, *image, isMarked(object));
+        if (const auto* image = std::get_if<ChartImage>(&object.shape)) {
+            DrawImage(objects, *image, isMarked(object));
+        }
     }
     QFont font = painter_.font();
     font.setPixelSize(kTextSize);
     painter_.setFont(font);
-    if (marked) drawText(*marked, true);
+    if (marked) {
+        DrawText(*marked, true);
+    }
     for (const auto& [place, object] : objects.InOrder()) {
         const auto* label = std::get_if<ChartLabel>(&object.shape);
-        if (label && label != marked) drawText(*label, false);
+        if (label && label != marked) {
+            DrawText(*label, false);
+        }
     }
 }
 
-void ObjectPainter::drawLines(const std::vector<Stroke>& lines) {
+void ObjectPainter::DrawLines(const std::vector<Stroke>& lines) {
     painter_.setRenderHint(QPainter::Antialiasing, true);
     painter_.setBrush(Qt::NoBrush);
     const bool thin = lines.size() >= kManyLines;
-    for (const Stroke& stroke : lines) drawLine(stroke, thin);
+    for (const Stroke& stroke : lines) {
+        DrawLine(stroke, thin);
+    }
 }
 
-void ObjectPainter::drawLine(const Stroke& stroke, bool thin) {
+void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
     const ChartLine& line = *stroke.line;
     const double width = line.width + (stroke.highlighted ? 1 : 0);
     const auto turns = view_.TurnsOf(line.minX, line.maxX, line.width);
@@ -67,40 +80,48 @@ void ObjectPainter::drawLine(const Stroke& stroke, bool thin) {
     QColor rim(palette_.halo);
     rim.setAlpha(stroke.highlighted ? 255 : 140);
     const QPen under(rim, width + (stroke.highlighted ? 4 : 2), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    if (line.dashed) pen.setDashPattern({kDash / pen.widthF(), kGap / pen.widthF()});
+    if (line.dashed) {
+        pen.setDashPattern({kDash / pen.widthF(), kGap / pen.widthF()});
+    }
     for (int turn = turns.first; turn <= turns.last; ++turn) {
         for (const PolylineRun& run : ClipPolyline(line.points, view_, turn, kMargin, kDetail)) {
             if (!thin) {
                 painter_.setPen(under);
-                drawRun(run.points);
+                DrawRun(run.points);
             }
             // Dashes belong to the line and not to the window: they stay in place while the view moves.
-            if (line.dashed) pen.setDashOffset(std::fmod(run.start, kDash + kGap) / pen.widthF());
+            if (line.dashed) {
+                pen.setDashOffset(std::fmod(run.start, kDash + kGap) / pen.widthF());
+            }
             painter_.setPen(pen);
             if (!thin || line.width == 1) {
-                drawRun(run.points);
+                DrawRun(run.points);
                 continue;
             }
             // Two fine lines side by side look like a wide one and stay on the fast path.
             painter_.translate(-0.33, -0.33);
-            drawRun(run.points);
+            DrawRun(run.points);
             painter_.translate(0.66, 0.66);
-            drawRun(run.points);
+            DrawRun(run.points);
             painter_.translate(-0.33, -0.33);
         }
     }
 }
 
-void ObjectPainter::drawRun(const std::vector<PixelPoint>& points) {
+void ObjectPainter::DrawRun(const std::vector<PixelPoint>& points) {
     QPolygonF polygon;
     polygon.reserve(static_cast<qsizetype>(points.size()));
-    for (const PixelPoint& point : points) polygon.append(QPointF(point.x, point.y));
+    for (const PixelPoint& point : points) {
+        polygon.append(QPointF(point.x, point.y));
+    }
     painter_.drawPolyline(polygon);
 }
 
-void ObjectPainter::drawPoint(const ChartLabel& label, bool highlighted) {
+void ObjectPainter::DrawPoint(const ChartLabel& label, bool highlighted) {
     const PixelPoint centre = view_.ToScreen(label.position);
-    if (!isSeen(centre)) return;
+    if (!IsSeen(centre)) {
+        return;
+    }
     const double radius = label.size + (highlighted ? 2.5 : 1);
     const QPointF middle(centre.x, centre.y);
     painter_.setPen(QPen(QColor(highlighted ? palette_.accent : palette_.outline), highlighted ? 2 : 1.5));
@@ -109,9 +130,11 @@ void ObjectPainter::drawPoint(const ChartLabel& label, bool highlighted) {
     taken_.emplace_back(centre.x - radius, centre.y - radius, 2 * radius, 2 * radius);
 }
 
-void ObjectPainter::drawImage(const ChartObjects& objects, const ChartImage& image, bool highlighted) {
+void ObjectPainter::DrawImage(const ChartObjects& objects, const ChartImage& image, bool highlighted) {
     const PixelPoint centre = view_.ToScreen(image.position);
-    if (!isSeen(centre)) return;
+    if (!IsSeen(centre)) {
+        return;
+    }
     const QPixmap& picture = images_.Picture(image.image, objects.ImagePath(image.image), pixelRatio_);
     const QSizeF size = picture.deviceIndependentSize();
     const QPointF corner(std::round(centre.x - size.width() / 2), std::round(centre.y - size.height() / 2));
@@ -122,12 +145,16 @@ void ObjectPainter::drawImage(const ChartObjects& objects, const ChartImage& ima
         painter_.drawEllipse(QPointF(centre.x, centre.y), radius, radius);
     }
     painter_.drawPixmap(corner, picture);
-    if (taken_.size() < 500) taken_.emplace_back(corner, size);
+    if (taken_.size() < 500) {
+        taken_.emplace_back(corner, size);
+    }
 }
 
-void ObjectPainter::drawText(const ChartLabel& label, bool always) {
+void ObjectPainter::DrawText(const ChartLabel& label, bool always) {
     const PixelPoint centre = view_.ToScreen(label.position);
-    if (label.text.empty() || !isSeen(centre)) return;
+    if (label.text.empty() || !IsSeen(centre)) {
+        return;
+    }
     const QFontMetricsF metrics(painter_.font());
     const QString text = QString::fromStdString(label.text);
     const double width = metrics.horizontalAdvance(text), height = metrics.height();
@@ -137,7 +164,9 @@ void ObjectPainter::drawText(const ChartLabel& label, bool always) {
     for (const QPointF& place : places) {
         const QRectF room(std::round(centre.x + place.x()), std::round(centre.y + place.y()), width, height);
         const auto meets = [&](const QRectF& other) { return other.intersects(room); };
-        if (!always && std::any_of(taken_.begin(), taken_.end(), meets)) continue;
+        if (!always && std::any_of(taken_.begin(), taken_.end(), meets)) {
+            continue;
+        }
         taken_.push_back(room);
         texts_.Draw(painter_, {room.left(), room.top() + std::round(metrics.ascent())}, text,
                     QColor(palette_.text), QColor(palette_.halo));
@@ -145,7 +174,7 @@ void ObjectPainter::drawText(const ChartLabel& label, bool always) {
     }
 }
 
-bool ObjectPainter::isSeen(PixelPoint centre) const {
+bool ObjectPainter::IsSeen(PixelPoint centre) const {
     return centre.x > -kMargin && centre.y > -kMargin && centre.x < view_.Width() + kMargin &&
            centre.y < view_.Height() + kMargin;
 }

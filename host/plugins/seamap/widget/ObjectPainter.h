@@ -35,13 +35,13 @@ class ObjectPainter {
         const ChartLine* line;
         bool highlighted;
     };
-    void drawLines(const std::vector<Stroke>& lines);
-    void drawLine(const Stroke& stroke, bool thin);
-    void drawRun(const std::vector<PixelPoint>& points);
-    void drawPoint(const ChartLabel& label, bool highlighted);
-    void drawImage(const ChartObjects& objects, const ChartImage& image, bool highlighted);
-    void drawText(const ChartLabel& label, bool always);
-    bool isSeen(PixelPoint centre) const;
+    void DrawLines(const std::vector<Stroke>& lines);
+    void DrawLine(const Stroke& stroke, bool thin);
+    void DrawRun(const std::vector<PixelPoint>& points);
+    void DrawPoint(const ChartLabel& label, bool highlighted);
+    void DrawImage(const ChartObjects& objects, const ChartImage& image, bool highlighted);
+    void DrawText(const ChartLabel& label, bool always);
+    bool IsSeen(PixelPoint centre) const;
 
     QPainter& painter_;
     const MercatorView& view_;

@@ -7,7 +7,9 @@
 namespace Tarvik::Seamap {
 
 MercatorView ViewBetween(const MercatorView& from, const MercatorView& to, double share) {
-    if (share >= 1) return to;
+    if (share >= 1) {
+        return to;
+    }
     const auto start = static_cast<double>(from.WorldSize());
     const auto end = static_cast<double>(to.WorldSize());
     const double size = start * std::pow(end / start, share);
@@ -33,10 +35,11 @@ void ViewMotion::Start(const MercatorView& from, const MercatorView& to, bool an
     animation_.stop();
     from_ = from;
     to_ = to;
-    if (animated && from != to)
+    if (animated && from != to) {
         animation_.start();
-    else
+    } else {
         show_(to);
+    }
 }
 
 }  // namespace Tarvik::Seamap

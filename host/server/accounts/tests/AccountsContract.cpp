@@ -2,6 +2,7 @@
 #include "host/server/accounts/tests/AccountsContract.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 TEST_P(AccountsContract, UsersLastAndComeInOrder) {
@@ -79,7 +80,9 @@ TEST_P(AccountsContract, NamesAreComparedByTheirBytes) {
     }
     const auto users = accounts->ListUsers();
     std::string order;
-    for (const UserRecord& user : users.Value()) order += user.name + " ";
+    for (const UserRecord& user : users.Value()) {
+        order += user.name + " ";
+    }
     EXPECT_EQ(order, "9 B _a a-1 a1 b ");
     EXPECT_FALSE(accounts->FindUser("A1").Value());
     EXPECT_FALSE(accounts->FindUser(std::string("b\0", 2)).Value());

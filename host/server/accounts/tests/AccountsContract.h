@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/accounts/AccountStorage.h"
+#include <memory>
+#include <string>
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <string>
+#include "host/server/accounts/AccountStorage.h"
 
 namespace Tarvik::Server {
 

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/accounts/tests/AccountsContract.h"
-#include "host/server/accounts/SqliteAccounts.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
+#include <gtest/gtest.h>
+
+#include "host/server/accounts/SqliteAccounts.h"
+#include "host/server/accounts/tests/AccountsContract.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 class SqliteAccountsTest : public testing::Test {
@@ -31,7 +32,9 @@ class SqliteBackend : public AccountsBackend {
     std::unique_ptr<AccountStorage> Open() override {
         std::string error;
         auto accounts = SqliteAccounts::Open(folder_.File("accounts.db"), error);
-        if (accounts == nullptr) throw std::runtime_error(error);
+        if (accounts == nullptr) {
+            throw std::runtime_error(error);
+        }
         return accounts;
     }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/accounts/LoginGuard.h"
-
 #include <gtest/gtest.h>
 
+#include "host/server/accounts/LoginGuard.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 class LoginGuardTest : public testing::Test {
@@ -47,13 +48,17 @@ TEST_F(LoginGuardTest, AddressesOfOneHouseholdCountTogether) {
 
 TEST_F(LoginGuardTest, LimitOfZeroIsNone) {
     LoginGuard open({0, 0, 60}, [this] { return now_; });
-    for (int i = 0; i < 100; ++i) EXPECT_EQ(open.Begin("anna", "a"), 0);
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(open.Begin("anna", "a"), 0);
+    }
 }
 
 TEST_F(LoginGuardTest, FloodOfNamesIsBoundedAndLeavesYoungCounts) {
     LoginGuard flooded({2, 0, 60}, [this] { return now_; });
     for (int i = 0; i < 30000; ++i) {
-        if (i == 20000) now_ += 1;
+        if (i == 20000) {
+            now_ += 1;
+        }
         ASSERT_EQ(flooded.Begin("u" + std::to_string(i), "a"), 0);
     }
     EXPECT_EQ(flooded.Begin("u29999", "a"), 0);

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/accounts/PostgresAccounts.h"
-
-#include "host/server/accounts/tests/AccountsContract.h"
-#include "host/server/storage/postgres/tests/PostgresServer.h"
-
-#include <gtest/gtest.h>
-
 #include <stdexcept>
 #include <thread>
 
+#include <gtest/gtest.h>
+
+#include "host/server/accounts/PostgresAccounts.h"
+#include "host/server/accounts/tests/AccountsContract.h"
+#include "host/server/storage/postgres/tests/PostgresServer.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 class PostgresBackend : public AccountsBackend {
@@ -17,7 +17,9 @@ class PostgresBackend : public AccountsBackend {
     std::unique_ptr<AccountStorage> Open() override {
         std::string error;
         auto accounts = PostgresAccounts::Open(connection_, error);
-        if (accounts == nullptr) throw std::runtime_error(error);
+        if (accounts == nullptr) {
+            throw std::runtime_error(error);
+        }
         return accounts;
     }
     const std::string& Connection() const { return connection_; }
@@ -59,7 +61,9 @@ TEST_F(PostgresAccountsTest, NoSessionOutlivesThePasswordThatOpenedIt) {
 
 TEST_F(PostgresAccountsTest, LoginsLogoutsAndPasswordsAtTheSameTimeDoNotBlockEachOther) {
     const auto accounts = backend_.Open();
-    for (const char* name : {"anna", "bert"}) ASSERT_TRUE(accounts->AddUser(name, "h").Value());
+    for (const char* name : {"anna", "bert"}) {
+        ASSERT_TRUE(accounts->AddUser(name, "h").Value());
+    }
     std::vector<std::thread> threads;
     threads.reserve(8);
     for (int number = 0; number < 8; ++number) {
@@ -76,7 +80,9 @@ TEST_F(PostgresAccountsTest, LoginsLogoutsAndPasswordsAtTheSameTimeDoNotBlockEac
             }
         });
     }
-    for (std::thread& thread : threads) thread.join();
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
     EXPECT_EQ(Count("SELECT count(*) FROM sessions"), 0);
 }
 

@@ -2,6 +2,7 @@
 #include "host/server/api/tests/ServiceFixture.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 const std::string kSuccess = R"({"eid":0})";

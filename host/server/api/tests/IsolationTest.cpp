@@ -2,6 +2,7 @@
 #include "host/server/api/tests/ServiceFixture.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// Every command that names a record, with ids of somebody else.
@@ -87,7 +88,9 @@ TEST_F(IsolationTest, LoadNamesItsOwnUserOnly) {
 
 TEST_F(IsolationTest, UsersWhoseNamesAreAlikeAreDifferentUsers) {
     const std::string users[] = {"ann", "Ann", "ann ", "an", "ann' OR '1'='1", "ann%", "\xEF\xBD\x81nn"};
-    for (const std::string& user : users) MakeWorld(user);
+    for (const std::string& user : users) {
+        MakeWorld(user);
+    }
     for (const std::string& user : users) {
         const std::string load = Send(3, "{ui:\"" + user + "\"}", user);
         EXPECT_EQ(load.find("\"ci\"", load.find("\"Old\"")), std::string::npos) << load;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/api/tests/ServiceFixture.h"
-
-#include "host/server/api/RequestFields.h"
-
 #include <tarvik/util/Jsona.h>
 
+#include "host/server/api/RequestFields.h"
+#include "host/server/api/tests/ServiceFixture.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using OddTextsTest = ServiceTest;
@@ -154,7 +154,9 @@ TEST_F(OddTextsTest, LongestRemarkIsStoredWholeAndALongerOneNotAtAll) {
 TEST_F(OddTextsTest, ReasonOfARefusalIsShortAndReadable) {
     const World world = MakeWorld();
     std::string row = "0|";
-    for (int i = 0; i < 200; ++i) row += "船";
+    for (int i = 0; i < 200; ++i) {
+        row += "船";
+    }
     const std::string reply = Send(9, "[\"" + world.book + "\",\"0\",\"" + row + "\"]");
     Util::Jsona status;
     ASSERT_TRUE(status.parse(reply)) << reply;
@@ -166,7 +168,9 @@ TEST_F(OddTextsTest, TooManyRowsAreRefused) {
     const World world = MakeWorld();
     const std::string before = Everything();
     std::string text = "[\"" + world.book + "\",\"0\"";
-    for (int i = 0; i < 100000; ++i) text += ",\"\"";
+    for (int i = 0; i < 100000; ++i) {
+        text += ",\"\"";
+    }
     EXPECT_EQ(Eid(Send(9, text + "]")), static_cast<int>(ErrorCode::TooManyRows));
     EXPECT_EQ(Everything(), before);
 }

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <set>
+
+#include <gtest/gtest.h>
+
 #include "host/server/api/Errors.h"
 #include "host/server/api/JsonWriter.h"
 #include "host/server/api/Numbers.h"
 
-#include <gtest/gtest.h>
-
-#include <set>
-
 namespace Tarvik::Server {
+
 namespace {
 
 TEST(NumbersTest, IntegerIsTheWholeText) {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/api/tests/ServiceFixture.h"
-
 #include <utility>
 
+#include "host/server/api/tests/ServiceFixture.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 /// A request, in which C, V, B, c, v, b stand for the ids of a world in their order, and its error.
@@ -205,9 +206,13 @@ class RefusalTest : public ServiceTest {
             {"@c", world_.binnedCategory}, {"@v", world_.binnedVoyage}, {"@b", world_.emptyBook}};
         for (const auto& [place, id] : ids) {
             const std::size_t at = text.find(place);
-            if (at != std::string::npos) text.replace(at, 2, id);
+            if (at != std::string::npos) {
+                text.replace(at, 2, id);
+            }
             const std::size_t again = text.find(place);
-            if (again != std::string::npos) text.replace(again, 2, id);
+            if (again != std::string::npos) {
+                text.replace(again, 2, id);
+            }
         }
         return text;
     }
@@ -222,7 +227,9 @@ class RefusalTest : public ServiceTest {
             if (one.detail == nullptr) {
                 EXPECT_EQ(Emsg(reply).rfind(expected + ": ", 0), 0U) << reply;
             } else {
-                if (*one.detail != '\0') expected.append(": ").append(one.detail);
+                if (*one.detail != '\0') {
+                    expected.append(": ").append(one.detail);
+                }
                 EXPECT_EQ(Emsg(reply), expected) << text;
             }
             ASSERT_EQ(Everything(), before) << text;

@@ -2,6 +2,7 @@
 #include "host/server/api/tests/ServiceFixture.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 const std::string kSuccess = R"({"eid":0})";
@@ -107,7 +108,9 @@ TEST_F(ScheduleCommandsTest, BlocksOfALongBookReplaceAndThenAppend) {
               {9, Block("1", 100, 200, "18.5"), kSuccess},
               {9, Block("1", 200, 250, "18.5"), kSuccess}});
     std::string rows;
-    for (int i = 0; i < 250; ++i) rows += (i > 0 ? "," : "") + StoredRow(i, "18.500");
+    for (int i = 0; i < 250; ++i) {
+        rows += (i > 0 ? "," : "") + StoredRow(i, "18.500");
+    }
     Converse(
         {{7, R"({vi:"1000002"})", R"([{"pbi":"1000003","eta":"2026-03-01 00:00:00","pb":[)" + rows + "]}]"}});
 }

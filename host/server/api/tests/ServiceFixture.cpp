@@ -1,21 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/api/tests/ServiceFixture.h"
 
-#include <tarvik/util/Jsona.h>
-
 #include <stdexcept>
+
+#include <tarvik/util/Jsona.h>
 
 namespace Tarvik::Server {
 
 ServiceTest::ServiceTest() {
     std::string error;
     storage_ = SqliteStorage::Open(":memory:", error);
-    if (storage_ == nullptr) throw std::runtime_error(error);
+    if (storage_ == nullptr) {
+        throw std::runtime_error(error);
+    }
     service_ = std::make_unique<VoyageService>(*storage_, routes_, [this] { return now_; });
 }
 
 std::string ServiceTest::Send(int command, const std::string& text, const std::string& user) {
-    if (command == kRemark) return service_->Handle(user, kRemarkModule, 9, text);
+    if (command == kRemark) {
+        return service_->Handle(user, kRemarkModule, 9, text);
+    }
     return service_->Handle(user, kVoyageModule, static_cast<std::uint16_t>(command), text);
 }
 
@@ -29,7 +33,9 @@ std::string ServiceTest::Create(int command, const std::string& text, const char
                                 const std::string& user) {
     const std::string reply = Send(command, text, user);
     Util::Jsona status;
-    if (!status.parse(reply) || status.getv("eid", -1) != 0) throw std::runtime_error(reply);
+    if (!status.parse(reply) || status.getv("eid", -1) != 0) {
+        throw std::runtime_error(reply);
+    }
     return status.getv(key, "");
 }
 
@@ -63,7 +69,9 @@ std::string ServiceTest::Everything(const std::string& user) {
     std::string all = Send(3, "{ui:\"" + user + "\"}", user);
     for (int number = 1000001; number <= 1000030; ++number) {
         const std::string id = std::to_string(number);
-        for (const int command : {7, 10, 12}) all += '\n' + Send(command, "{vi:\"" + id + "\"}", user);
+        for (const int command : {7, 10, 12}) {
+            all += '\n' + Send(command, "{vi:\"" + id + "\"}", user);
+        }
         for (const char* type : {"2", "3"}) {
             all += '\n' + Send(kRemark,
                                std::string("{optype:\"4\",type:\"") + type + "\",objectid:\"" + id + "\"}",

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/api/Errors.h"
-#include "host/server/api/VoyageService.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
-
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "host/server/api/Errors.h"
+#include "host/server/api/VoyageService.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
 
 namespace Tarvik::Server {
 

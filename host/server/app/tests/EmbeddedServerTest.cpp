@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/app/EmbeddedServer.h"
-
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <cstring>
 #include <fstream>
 #include <new>
 #include <vector>
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "host/server/app/EmbeddedServer.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using ::testing::HasSubstr;

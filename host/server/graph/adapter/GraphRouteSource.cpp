@@ -8,7 +8,7 @@
 namespace Tarvik::Server {
 
 std::unique_ptr<GraphRouteSource> GraphRouteSource::Open(const std::string& networkFile, std::string& error) {
-    std::shared_ptr<const SeaNetwork> network = SeaNetwork::load(networkFile, error);
+    std::shared_ptr<const SeaNetwork> network = SeaNetwork::Load(networkFile, error);
     return network ? std::make_unique<GraphRouteSource>(std::move(network)) : nullptr;
 }
 
@@ -17,14 +17,14 @@ GraphRouteSource::GraphRouteSource(std::shared_ptr<const SeaNetwork> network) : 
 std::string GraphRouteSource::Plan(std::string_view requestJson) {
     std::string error;
     const auto points = RouteMessages::ReadPlan(requestJson, error);
-    return points ? RouteMessages::WritePlan(engine_.plan(*points))
+    return points ? RouteMessages::WritePlan(engine_.Plan(*points))
                   : RouteMessages::WriteError(kRouteBadRequest, error);
 }
 
 std::string GraphRouteSource::Nearest(std::string_view requestJson) {
     std::string error;
     const auto request = RouteMessages::ReadNearest(requestJson, error);
-    return request ? RouteMessages::WriteNearest(engine_.nearest(request->position, request->destPort))
+    return request ? RouteMessages::WriteNearest(engine_.Nearest(request->position, request->destPort))
                    : RouteMessages::WriteError(kRouteBadRequest, error);
 }
 

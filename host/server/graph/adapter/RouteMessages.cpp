@@ -1,33 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/graph/adapter/RouteMessages.h"
 
-#include <fmt/format.h>
-#include <tarvik/util/Jsona.h>
-
 #include <cmath>
 #include <limits>
+
+#include <fmt/format.h>
+
+#include <tarvik/util/Jsona.h>
 
 #include "host/server/api/JsonWriter.h"
 
 namespace Tarvik::Server::RouteMessages {
+
 namespace {
 
 using Util::Jsona;
 
 /// Pieces between separators, empty ones too; an empty text has none.
-std::vector<std::string> split(std::string_view text, char separator) {
+std::vector<std::string> Split(std::string_view text, char separator) {
     std::vector<std::string> pieces;
     while (!text.empty()) {
-        const size_t at = text.find(separator);
+        const std::size_t at = text.find(separator);
         pieces.emplace_back(text.substr(0, at));
-        if (at == std::string_view::npos) break;
+        if (at == std::string_view::npos) {
+            break;
+        }
         text.remove_prefix(at + 1);
-        if (text.empty()) pieces.emplace_back();
+        if (text.empty()) {
+            pieces.emplace_back();
+        }
     }
     return pieces;
 }
 
-bool readObject(std::string_view text, Jsona& root, std::string& error) {
+bool ReadObject(std::string_view text, Jsona& root, std::string& error) {
     if (!root.parse(text)) {
         error =
             fmt::format("the request does not parse: {} at byte {}", root.ErrorText(), root.ErrorOffset());
@@ -40,17 +46,21 @@ bool readObject(std::string_view text, Jsona& root, std::string& error) {
     return true;
 }
 
-bool readStop(const std::string& text, RouteRequestPoint& stop, std::string& error) {
-    const std::vector<std::string> parts = split(text, '|');
+bool ReadStop(const std::string& text, RouteRequestPoint& stop, std::string& error) {
+    const std::vector<std::string> parts = Split(text, '|');
     if (parts.empty() || parts[0].empty() || parts.size() > 3) {
         error = fmt::format("\"{}\" in pointList is no stop", text);
         return false;
     }
     stop.id = parts[0];
-    if (parts.size() > 1) stop.chain = split(parts[1], ',');
-    if (parts.size() < 3) return true;
-    for (const std::string& choice : split(parts[2], '.')) {
-        const size_t equals = choice.find('=');
+    if (parts.size() > 1) {
+        stop.chain = Split(parts[1], ',');
+    }
+    if (parts.size() < 3) {
+        return true;
+    }
+    for (const std::string& choice : Split(parts[2], '.')) {
+        const std::size_t equals = choice.find('=');
         if (equals == std::string::npos) {
             error = fmt::format("\"{}\" in pointList is no choice of a passage", choice);
             return false;
@@ -60,54 +70,63 @@ bool readStop(const std::string& text, RouteRequestPoint& stop, std::string& err
     return true;
 }
 
-double numberOf(const Jsona& value) {
+double NumberOf(const Jsona& value) {
     constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-    if (value.kind() == Jsona::Kind::Integer)
+    if (value.kind() == Jsona::Kind::Integer) {
         return value.integer(std::numeric_limits<int>::max());  // too large for a position in any case
+    }
     return value.kind() == Jsona::Kind::Real ? value.real(kNone) : kNone;
 }
 
-std::string decimal(double value) {
+std::string Decimal(double value) {
     std::string text = fmt::format("{:.5f}", value);
     text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') text.pop_back();
+    if (text.back() == '.') {
+        text.pop_back();
+    }
     return text == "-0" ? "0" : text;
 }
 
-std::string join(const std::vector<std::string>& texts, char separator) {
+std::string Join(const std::vector<std::string>& texts, char separator) {
     std::string joined;
     for (const std::string& text : texts) {
-        if (!joined.empty()) joined += separator;
+        if (!joined.empty()) {
+            joined += separator;
+        }
         joined += text;
     }
     return joined;
 }
 
-std::string pointset(const std::vector<GeoPoint>& points) {
+std::string Pointset(const std::vector<GeoPoint>& points) {
     std::vector<std::string> texts;
     texts.reserve(points.size());
-    for (const GeoPoint p : points) texts.push_back(PositionText(p));
-    return join(texts, '|');
+    for (const GeoPoint p : points) {
+        texts.push_back(PositionText(p));
+    }
+    return Join(texts, '|');
 }
 
 /// "118=40389,40208;105|116"
-std::string groupText(const RouteAlternativeGroup& group) {
+std::string GroupText(const RouteAlternativeGroup& group) {
     return fmt::format("{}={},{};{}", group.rpId, group.rangeFrom, group.rangeEnd,
-                       join(group.alternatives, '|'));
+                       Join(group.alternatives, '|'));
 }
 
-void writeStop(JsonWriter& out, const PlannedStop& stop) {
+void WriteStop(JsonWriter& out, const PlannedStop& stop) {
     out.BeginObject().TextMember("point_cd", stop.pointId);
     out.Key("distance").Fraction(stop.distanceKm).Key("routes").BeginArray();
     int number = 0;
     for (const RouteLeg& leg : stop.legs) {
         out.BeginObject().NumberMember("route", ++number);
         out.TextMember("from_cd", leg.fromId).TextMember("end_cd", leg.endId);
-        out.TextMember("pointset", pointset(leg.points)).Key("distance").Fraction(leg.distanceKm).EndObject();
+        out.TextMember("pointset", Pointset(leg.points)).Key("distance").Fraction(leg.distanceKm).EndObject();
     }
     out.EndArray().Key("rp_groups").BeginArray();
-    for (const RouteAlternativeGroup& group : stop.groups) out.Text(groupText(group));
-    out.EndArray().TextMember("rp_id_str", join(stop.passedIds, ','));
+    for (const RouteAlternativeGroup& group : stop.groups) {
+        out.Text(GroupText(group));
+    }
+    out.EndArray().TextMember("rp_id_str", Join(stop.passedIds, ','));
     out.TextMember("lock_rp_id_str", stop.locks).EndObject();
 }
 
@@ -115,30 +134,36 @@ void writeStop(JsonWriter& out, const PlannedStop& stop) {
 
 std::optional<std::vector<RouteRequestPoint>> ReadPlan(std::string_view text, std::string& error) {
     Jsona root;
-    if (!readObject(text, root, error)) return std::nullopt;
+    if (!ReadObject(text, root, error)) {
+        return std::nullopt;
+    }
     const Jsona list = root.get("pointList");
     if (list.kind() != Jsona::Kind::Text) {
         error = "the request has no text pointList";
         return std::nullopt;
     }
-    const std::vector<std::string> texts = split(list.text(), '#');
+    const std::vector<std::string> texts = Split(list.text(), '#');
     if (texts.size() > kMaxStops) {
         error = fmt::format("the request names more than {} stops", kMaxStops);
         return std::nullopt;
     }
     std::vector<RouteRequestPoint> stops(texts.size());
-    for (size_t i = 0; i < texts.size(); ++i) {
-        if (!readStop(texts[i], stops[i], error)) return std::nullopt;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (!ReadStop(texts[i], stops[i], error)) {
+            return std::nullopt;
+        }
     }
     return stops;
 }
 
 std::optional<NearestRequest> ReadNearest(std::string_view text, std::string& error) {
     Jsona root;
-    if (!readObject(text, root, error)) return std::nullopt;
+    if (!ReadObject(text, root, error)) {
+        return std::nullopt;
+    }
     const Jsona place = root.get("nr_point");
     NearestRequest request;
-    request.position = {numberOf(place.get(0)), numberOf(place.get(1))};
+    request.position = {NumberOf(place.get(0)), NumberOf(place.get(1))};
     const bool isPair = place.kind() == Jsona::Kind::Array && place.size() == 2;
     if (!isPair || std::isnan(request.position.x) || std::isnan(request.position.y)) {
         error = "nr_point is not a pair of numbers";
@@ -146,24 +171,32 @@ std::optional<NearestRequest> ReadNearest(std::string_view text, std::string& er
     }
     const Jsona port = root.get("dest_port");
     request.destPort = port.kind() == Jsona::Kind::Integer ? std::to_string(port.integer(-1)) : port.text();
-    if (!request.destPort.empty()) return request;
+    if (!request.destPort.empty()) {
+        return request;
+    }
     error = "the request has no dest_port";
     return std::nullopt;
 }
 
 std::string WritePlan(const RouteResult& result) {
-    if (result.error != kRouteOk) return WriteError(result.error, result.message);
+    if (result.error != kRouteOk) {
+        return WriteError(result.error, result.message);
+    }
     JsonWriter out;
     out.BeginArray();
-    for (const PlannedStop& stop : result.stops) writeStop(out, stop);
+    for (const PlannedStop& stop : result.stops) {
+        WriteStop(out, stop);
+    }
     out.EndArray();
     return out.Take();
 }
 
 std::string WriteNearest(const NearestResult& result) {
-    if (result.error != kRouteOk) return WriteError(result.error, result.message);
+    if (result.error != kRouteOk) {
+        return WriteError(result.error, result.message);
+    }
     JsonWriter out;
-    out.BeginObject().Key("eid").Integer(0).TextMember("pointset", pointset(result.points)).EndObject();
+    out.BeginObject().Key("eid").Integer(0).TextMember("pointset", Pointset(result.points)).EndObject();
     return out.Take();
 }
 
@@ -174,7 +207,7 @@ std::string WriteError(int code, std::string_view reason) {
 }
 
 std::string PositionText(GeoPoint p) {
-    return decimal(p.x) + "," + decimal(p.y);
+    return Decimal(p.x) + "," + Decimal(p.y);
 }
 
 }  // namespace Tarvik::Server::RouteMessages

@@ -12,7 +12,7 @@
 namespace Tarvik::Server::RouteMessages {
 
 /// The most stops that one request may name.
-inline constexpr size_t kMaxStops = 1000;
+inline constexpr std::size_t kMaxStops = 1000;
 
 struct NearestRequest {
     GeoPoint position;

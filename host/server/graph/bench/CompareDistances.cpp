@@ -3,16 +3,15 @@
 //   seaplan-compare-distances network.bin distances.csv
 // The table's columns are from_name,from_unlocode,to_name,to_unlocode,nm,via,source; quoted names may hold
 // commas.
-#include <fmt/format.h>
-
 #include <algorithm>
-
 #include <cmath>
 #include <ctime>
 #include <fstream>
 #include <map>
 #include <string>
 #include <vector>
+
+#include <fmt/format.h>
 
 #include "host/server/graph/RouteEngine.h"
 
@@ -37,7 +36,8 @@ std::vector<std::string> fields(const std::string& line) {
 
 double share(std::vector<double>& values, double part) {
     std::sort(values.begin(), values.end());
-    return values.empty() ? 0.0 : values[static_cast<size_t>(part * static_cast<double>(values.size() - 1))];
+    return values.empty() ? 0.0
+                          : values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
 }
 
 /// Milliseconds of processor time, so that what else the machine does stays out of the figures.
@@ -60,14 +60,18 @@ struct Comparison {
 std::vector<Comparison> compare(const RouteEngine& engine, const SeaNetwork& network, const std::string& path,
                                 std::vector<double>& planTimes) {
     std::map<std::string, std::string> ids;
-    for (const NetworkPort& port : network.data().ports) ids[port.unlocode] = port.id;
+    for (const NetworkPort& port : network.data().ports) {
+        ids[port.unlocode] = port.id;
+    }
     std::map<std::string, Comparison> best;
     std::ifstream file(path);
     std::string line;
     std::getline(file, line);
     while (std::getline(file, line)) {
         const std::vector<std::string> f = fields(line);
-        if (f.size() < 5 || !ids.contains(f[1]) || !ids.contains(f[3])) continue;
+        if (f.size() < 5 || !ids.contains(f[1]) || !ids.contains(f[3])) {
+            continue;
+        }
         const Stopwatch watch;
         const RouteResult result = engine.plan({{ids[f[1]], {}, {}}, {ids[f[3]], {}, {}}});
         planTimes.push_back(watch.Milliseconds());
@@ -82,19 +86,23 @@ std::vector<Comparison> compare(const RouteEngine& engine, const SeaNetwork& net
             return std::abs(c.error > 900.0 ? c.error - 1000.0 : c.error);
         };
         const auto [it, isNew] = best.try_emplace(key, here);
-        if (!isNew && size(here) < size(it->second)) it->second = here;
+        if (!isNew && size(here) < size(it->second)) {
+            it->second = here;
+        }
     }
     std::vector<Comparison> all;
     all.reserve(best.size());
-    for (auto& [key, value] : best) all.push_back(value);
+    for (auto& [key, value] : best) {
+        all.push_back(value);
+    }
     return all;
 }
 
 /// Whole requests, alternatives included, over random pairs of ports.
-void measureRequests(const RouteEngine& engine, const SeaNetwork& network) {
+void MeasureRequests(const RouteEngine& engine, const SeaNetwork& network) {
     constexpr int kPairs = 1000;
     std::vector<double> times;
-    uint32_t seed = 12345;
+    std::uint32_t seed = 12345;
     const auto next = [&] { return (seed = seed * 1664525U + 1013904223U) >> 8; };
     const auto& ports = network.data().ports;
     std::string slowest;
@@ -104,10 +112,13 @@ void measureRequests(const RouteEngine& engine, const SeaNetwork& network) {
         const Stopwatch watch;
         const RouteResult result = engine.plan({{a.id, {}, {}}, {b.id, {}, {}}});
         const double ms = watch.Milliseconds();
-        if (times.empty() || ms > *std::max_element(times.begin(), times.end()))
+        if (times.empty() || ms > *std::max_element(times.begin(), times.end())) {
             slowest = a.name + " - " + b.name;
+        }
         times.push_back(ms);
-        if (result.error != kRouteOk) fmt::print("{} - {}: {}\n", a.name, b.name, result.message);
+        if (result.error != kRouteOk) {
+            fmt::print("{} - {}: {}\n", a.name, b.name, result.message);
+        }
     }
     fmt::print("{} random pairs: median {:.2f} ms, 99th percentile {:.2f} ms, longest {:.2f} ms ({})\n",
                kPairs, share(times, 0.5), share(times, 0.99), share(times, 1.0), slowest);
@@ -116,7 +127,9 @@ void measureRequests(const RouteEngine& engine, const SeaNetwork& network) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) return 1;
+    if (argc != 3) {
+        return 1;
+    }
     std::string error;
     const Stopwatch watch;
     const auto network = SeaNetwork::load(argv[1], error);
@@ -128,14 +141,16 @@ int main(int argc, char** argv) {
                network->data().nodes.size(), network->data().edges.size());
     std::vector<double> times;
     const RouteEngine engine(network);
-    measureRequests(engine, *network);
+    MeasureRequests(engine, *network);
     std::vector<Comparison> all = compare(engine, *network, argv[2], times);
     fmt::print("plan with alternatives: median {:.1f} ms, 99th percentile {:.1f} ms\n", share(times, 0.5),
                share(times, 0.99));
     std::vector<double> distant;
-    size_t within = 0;
+    std::size_t within = 0;
     for (const Comparison& c : all) {
-        if (c.error > 900.0) continue;
+        if (c.error > 900.0) {
+            continue;
+        }
         distant.push_back(std::abs(c.error));
         within += std::abs(c.error) <= 0.05 ? 1U : 0U;
     }
@@ -146,5 +161,7 @@ int main(int argc, char** argv) {
         const auto size = [](double e) { return std::abs(e > 900.0 ? e - 1000.0 : e); };
         return size(a.error) > size(b.error);
     });
-    for (size_t i = 0; i < all.size() && i < 60; ++i) fmt::print("{}\n", all[i].text);
+    for (std::size_t i = 0; i < all.size() && i < 60; ++i) {
+        fmt::print("{}\n", all[i].text);
+    }
 }

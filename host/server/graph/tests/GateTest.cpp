@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/graph/Gate.h"
-
 #include <gtest/gtest.h>
 
+#include "host/server/graph/Gate.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 TEST(Gate, TellsWhereAWayCrossesIt) {
-    const auto at = firstCrossing({{-4, 1}, {-2, 1}, {2, 1}}, {{0, 0}, {0, 5}});
+    const auto at = FirstCrossing({{-4, 1}, {-2, 1}, {2, 1}}, {{0, 0}, {0, 5}});
     ASSERT_TRUE(at);
     EXPECT_EQ(at->index, 1u);
     EXPECT_EQ(at->t, 0.5);
@@ -15,21 +16,21 @@ TEST(Gate, TellsWhereAWayCrossesIt) {
 }
 
 TEST(Gate, IsNotCrossedBesideItsEnds) {
-    EXPECT_FALSE(firstCrossing({{-2, 6}, {2, 6}}, {{0, 0}, {0, 5}}));
-    EXPECT_FALSE(firstCrossing({{-2, 1}, {-1, 1}}, {{0, 0}, {0, 5}}));
+    EXPECT_FALSE(FirstCrossing({{-2, 6}, {2, 6}}, {{0, 0}, {0, 5}}));
+    EXPECT_FALSE(FirstCrossing({{-2, 1}, {-1, 1}}, {{0, 0}, {0, 5}}));
 }
 
 TEST(Gate, IsFoundWhateverTurnTheLongitudesAreIn) {
-    EXPECT_TRUE(firstCrossing({{178, 1}, {182, 1}}, {{-180, 0}, {-180, 5}}));
-    EXPECT_TRUE(firstCrossing({{-182, 1}, {-178, 1}}, {{180, 0}, {180, 5}}));
+    EXPECT_TRUE(FirstCrossing({{178, 1}, {182, 1}}, {{-180, 0}, {-180, 5}}));
+    EXPECT_TRUE(FirstCrossing({{-182, 1}, {-178, 1}}, {{180, 0}, {180, 5}}));
 }
 
 TEST(Gate, BoundsThatMayMeetAreComparedModuloATurn) {
-    const Bounds a = boundsOf({{178, 0}, {190, 2}});
-    EXPECT_TRUE(mayMeet(a, boundsOf({{-175, 1}, {-171, 3}})));
-    EXPECT_TRUE(mayMeet(boundsOf({{-175, 1}, {-171, 3}}), a));
-    EXPECT_FALSE(mayMeet(a, boundsOf({{-169, 1}, {-160, 3}})));
-    EXPECT_FALSE(mayMeet(a, boundsOf({{-175, 3}, {-171, 4}})));
+    const Bounds a = BoundsOf({{178, 0}, {190, 2}});
+    EXPECT_TRUE(MayMeet(a, BoundsOf({{-175, 1}, {-171, 3}})));
+    EXPECT_TRUE(MayMeet(BoundsOf({{-175, 1}, {-171, 3}}), a));
+    EXPECT_FALSE(MayMeet(a, BoundsOf({{-169, 1}, {-160, 3}})));
+    EXPECT_FALSE(MayMeet(a, BoundsOf({{-175, 3}, {-171, 4}})));
 }
 
 }  // namespace

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/graph/LegPlanner.h"
-
 #include <gmock/gmock.h>
 
+#include "host/server/graph/LegPlanner.h"
 #include "host/server/graph/tests/SmallSea.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 using ::testing::ElementsAre;
@@ -16,7 +16,7 @@ TEST(LegPlanner, OpensShutPassagesWhenNothingElseLeadsThere) {
                   [](const NetworkEdge& e) { return e.a != 0 && e.kind == EdgeKind::Sea && e.b == 3; });
     const SeaNetwork network(data);
     std::string error;
-    const auto stop = LegPlanner(network).plan("40001", {"40002", {}, {}}, error);
+    const auto stop = LegPlanner(network).Plan("40001", {"40002", {}, {}}, error);
     ASSERT_TRUE(stop) << error;
     EXPECT_THAT(stop->passedIds, ElementsAre("40001", "3", "40002"));
 }
@@ -26,7 +26,7 @@ TEST(LegPlanner, OffersOnlyWhatGivesARoute) {
     std::erase_if(data.edges, [](const NetworkEdge& e) { return e.a == 2 || e.b == 2; });
     const SeaNetwork network(data);
     std::string error;
-    const auto stop = LegPlanner(network).plan("40001", {"40002", {}, {}}, error);
+    const auto stop = LegPlanner(network).Plan("40001", {"40002", {}, {}}, error);
     ASSERT_TRUE(stop) << error;
     ASSERT_EQ(stop->groups.size(), 1u);
     EXPECT_THAT(stop->groups[0].alternatives, ElementsAre("3"));
@@ -35,7 +35,7 @@ TEST(LegPlanner, OffersOnlyWhatGivesARoute) {
 TEST(LegPlanner, ARoutePointMayBeAStop) {
     const SeaNetwork network(smallSea());
     std::string error;
-    const auto stop = LegPlanner(network).plan("40001", {"1", {}, {}}, error);
+    const auto stop = LegPlanner(network).Plan("40001", {"1", {}, {}}, error);
     ASSERT_TRUE(stop) << error;
     EXPECT_THAT(stop->passedIds, ElementsAre("40001", "1"));
     EXPECT_TRUE(stop->groups.empty());
@@ -44,11 +44,11 @@ TEST(LegPlanner, ARoutePointMayBeAStop) {
 TEST(LegPlanner, ADenseWayJoinsTwoNodesOrIsEmpty) {
     const SeaNetwork network(smallSea());
     const LegPlanner planner(network);
-    const auto way = planner.way(0, 3);
+    const auto way = planner.Way(0, 3);
     ASSERT_GT(way.size(), 20u);
     EXPECT_EQ(way.front(), (GeoPoint{-10, 0}));
     EXPECT_EQ(way.back(), (GeoPoint{10, 0}));
-    EXPECT_TRUE(planner.way(0, 7).empty());
+    EXPECT_TRUE(planner.Way(0, 7).empty());
 }
 
 }  // namespace

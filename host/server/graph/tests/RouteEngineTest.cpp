@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/graph/RouteEngine.h"
-
-#include <gmock/gmock.h>
-
 #include <cmath>
 #include <limits>
 
+#include <gmock/gmock.h>
+
+#include "host/server/graph/RouteEngine.h"
 #include "host/server/graph/tests/SmallSea.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 using ::testing::ElementsAre;
@@ -17,9 +17,9 @@ using ::testing::IsEmpty;
 
 class RouteEngineTest : public ::testing::Test {
   protected:
-    RouteResult plan(const std::vector<RouteRequestPoint>& points) const { return engine_.plan(points); }
+    RouteResult Plan(const std::vector<RouteRequestPoint>& points) const { return engine_.Plan(points); }
     RouteResult choose(const std::vector<RouteChoice>& locks) const {
-        return plan({{"40001", {}, {}}, {"40002", {}, locks}});
+        return Plan({{"40001", {}, {}}, {"40002", {}, locks}});
     }
     RouteEngine engine_{smallNetwork()};
 };
@@ -39,7 +39,7 @@ TEST_F(RouteEngineTest, TakesTheShortestOpenWayAndCutsItAtTheRoutePoint) {
     EXPECT_EQ(stop.legs[0].points.front(), (GeoPoint{-10, 0}));
     EXPECT_EQ(stop.legs[0].points.back(), (GeoPoint{0, 12}));
     EXPECT_EQ(stop.legs[1].points.front(), (GeoPoint{0, 12}));
-    EXPECT_NEAR(stop.distanceKm, 2 * geodesicKm({-10, 0}, {0, 12}), 2.0);
+    EXPECT_NEAR(stop.distanceKm, 2 * GeodesicKm({-10, 0}, {0, 12}), 2.0);
     EXPECT_NEAR(stop.distanceKm, stop.legs[0].distanceKm + stop.legs[1].distanceKm, 1e-9);
 }
 
@@ -64,7 +64,7 @@ TEST_F(RouteEngineTest, AShutPassageOpensWhenChosen) {
     const RouteResult canal = choose({{"3", "40001,40002"}});
     ASSERT_EQ(canal.error, kRouteOk) << canal.message;
     EXPECT_THAT(canal.stops[1].passedIds, ElementsAre("40001", "3", "40002"));
-    EXPECT_NEAR(canal.stops[1].distanceKm, geodesicKm({-10, 0}, {10, 0}), 1.0);
+    EXPECT_NEAR(canal.stops[1].distanceKm, GeodesicKm({-10, 0}, {10, 0}), 1.0);
 }
 
 TEST_F(RouteEngineTest, TheNewerChoiceOfAGroupReplacesTheOlder) {
@@ -75,33 +75,37 @@ TEST_F(RouteEngineTest, TheNewerChoiceOfAGroupReplacesTheOlder) {
 }
 
 TEST_F(RouteEngineTest, AWayOverTheDateLineHasItsTwoPointsThere) {
-    const RouteResult result = plan({{"40003", {}, {}}, {"40004", {}, {}}});
+    const RouteResult result = Plan({{"40003", {}, {}}, {"40004", {}, {}}});
     ASSERT_EQ(result.error, kRouteOk) << result.message;
     const std::vector<GeoPoint>& points = result.stops[1].legs.at(0).points;
-    size_t at = 0;
-    while (at + 1 < points.size() && points[at].x != 180) ++at;
+    std::size_t at = 0;
+    while (at + 1 < points.size() && points[at].x != 180) {
+        ++at;
+    }
     ASSERT_LT(at + 1, points.size());
     EXPECT_EQ(points[at + 1], (GeoPoint{-180, points[at].y}));
-    for (size_t i = 1; i < points.size(); ++i) {
-        if (i == at + 1) continue;
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (i == at + 1) {
+            continue;
+        }
         EXPECT_LT(std::abs(points[i].x - points[i - 1].x), 2.0);
     }
-    EXPECT_NEAR(result.stops[1].distanceKm, geodesicKm({175, 10}, {-175, 10}), 1.0);
+    EXPECT_NEAR(result.stops[1].distanceKm, GeodesicKm({175, 10}, {-175, 10}), 1.0);
 }
 
 TEST_F(RouteEngineTest, TheSamePortTwiceIsALegOfNoLength) {
-    const RouteResult result = plan({{"40001", {}, {}}, {"40001", {}, {}}});
+    const RouteResult result = Plan({{"40001", {}, {}}, {"40001", {}, {}}});
     ASSERT_EQ(result.error, kRouteOk) << result.message;
     EXPECT_EQ(result.stops[1].distanceKm, 0.0);
 }
 
 TEST_F(RouteEngineTest, NamesWhatItCannotDo) {
-    const RouteResult few = plan({{"40001", {}, {}}});
+    const RouteResult few = Plan({{"40001", {}, {}}});
     EXPECT_EQ(few.error, kRouteTooFewPoints);
-    const RouteResult unknown = plan({{"40001", {}, {}}, {"49999", {}, {}}});
+    const RouteResult unknown = Plan({{"40001", {}, {}}, {"49999", {}, {}}});
     EXPECT_EQ(unknown.error, kRouteUnknownPoint);
     EXPECT_THAT(unknown.message, HasSubstr("49999"));
-    const RouteResult apart = plan({{"40001", {}, {}}, {"40003", {}, {}}});
+    const RouteResult apart = Plan({{"40001", {}, {}}, {"40003", {}, {}}});
     EXPECT_EQ(apart.error, kRouteNoWay);
     EXPECT_THAT(apart.message, HasSubstr("from 40001 to 40003"));
     EXPECT_THAT(apart.stops, IsEmpty());
@@ -112,25 +116,25 @@ TEST_F(RouteEngineTest, NamesWhatItCannotDo) {
 }
 
 TEST_F(RouteEngineTest, TheNearestWayBeginsAtTheShip) {
-    const NearestResult result = engine_.nearest({-12, 1}, "40002");
+    const NearestResult result = engine_.Nearest({-12, 1}, "40002");
     ASSERT_EQ(result.error, kRouteOk) << result.message;
     EXPECT_EQ(result.points.front(), (GeoPoint{-12, 1}));
     EXPECT_EQ(result.points.back(), (GeoPoint{10, 0}));
-    EXPECT_GT(result.distanceKm, geodesicKm({-12, 1}, {10, 0}));
+    EXPECT_GT(result.distanceKm, GeodesicKm({-12, 1}, {10, 0}));
 }
 
 TEST_F(RouteEngineTest, APortInSightIsReachedStraight) {
-    const NearestResult result = engine_.nearest({12, 1}, "40002");
+    const NearestResult result = engine_.Nearest({12, 1}, "40002");
     ASSERT_EQ(result.error, kRouteOk) << result.message;
-    EXPECT_NEAR(result.distanceKm, geodesicKm({12, 1}, {10, 0}), 0.5);
+    EXPECT_NEAR(result.distanceKm, GeodesicKm({12, 1}, {10, 0}), 0.5);
 }
 
 TEST_F(RouteEngineTest, ANearestWayNeedsAPlaceOnEarthAndAKnownPort) {
-    EXPECT_EQ(engine_.nearest({181, 0}, "40002").error, kRouteBadPosition);
-    EXPECT_EQ(engine_.nearest({0, std::numeric_limits<double>::quiet_NaN()}, "40002").error,
+    EXPECT_EQ(engine_.Nearest({181, 0}, "40002").error, kRouteBadPosition);
+    EXPECT_EQ(engine_.Nearest({0, std::numeric_limits<double>::quiet_NaN()}, "40002").error,
               kRouteBadPosition);
-    EXPECT_EQ(engine_.nearest({0, 0}, "1x").error, kRouteUnknownPoint);
-    EXPECT_EQ(engine_.nearest({-60, 0}, "40002").error, kRouteNoWay) << "nothing within sight";
+    EXPECT_EQ(engine_.Nearest({0, 0}, "1x").error, kRouteUnknownPoint);
+    EXPECT_EQ(engine_.Nearest({-60, 0}, "40002").error, kRouteNoWay) << "nothing within sight";
 }
 
 }  // namespace

@@ -1,49 +1,51 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/graph/SeaNetworkFile.h"
-
-#include <gmock/gmock.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
+#include <gmock/gmock.h>
+
 #include "host/geo/ByteWriter.h"
+#include "host/server/graph/SeaNetworkFile.h"
 #include "host/server/graph/tests/SmallSea.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 using ::testing::HasSubstr;
 
-constexpr size_t kHead = 24;
+constexpr std::size_t kHead = 24;
 
 /// A file around a payload whose length and sum are right.
 std::string sealed(const std::string& payload) {
-    uint64_t sum = 14695981039346656037ULL;
-    for (const char c : payload) sum = (sum ^ static_cast<uint8_t>(c)) * 1099511628211ULL;
+    std::uint64_t sum = 14695981039346656037ULL;
+    for (const char c : payload) {
+        sum = (sum ^ static_cast<std::uint8_t>(c)) * 1099511628211ULL;
+    }
     ByteWriter head;
-    head.u64(payload.size());
-    head.u64(sum);
-    return "SEANET01" + head.bytes() + payload;
+    head.U64(payload.size());
+    head.U64(sum);
+    return "SEANET01" + head.Bytes() + payload;
 }
 
 std::string errorOf(const std::string& bytes) {
     std::string error;
-    const bool good = SeaNetworkFile::decode(bytes, error).has_value();
+    const bool good = SeaNetworkFile::Decode(bytes, error).has_value();
     return good ? "none" : error;
 }
 
 std::string errorOf(const NetworkData& data) {
-    return errorOf(SeaNetworkFile::encode(data));
+    return errorOf(SeaNetworkFile::Encode(data));
 }
 
 TEST(SeaNetworkFile, ReadsWhatItWrote) {
     const NetworkData before = smallSea();
-    const std::string bytes = SeaNetworkFile::encode(before);
+    const std::string bytes = SeaNetworkFile::Encode(before);
     std::string error;
-    const auto after = SeaNetworkFile::decode(bytes, error);
+    const auto after = SeaNetworkFile::Decode(bytes, error);
     ASSERT_TRUE(after) << error;
-    EXPECT_EQ(SeaNetworkFile::encode(*after), bytes);
+    EXPECT_EQ(SeaNetworkFile::Encode(*after), bytes);
     EXPECT_EQ(after->nodes, before.nodes);
     EXPECT_EQ(after->masks, before.masks);
     EXPECT_EQ(after->land, before.land);
@@ -56,8 +58,8 @@ TEST(SeaNetworkFile, ReadsWhatItWrote) {
 }
 
 TEST(SeaNetworkFile, RefusesAFileCutAnywhere) {
-    const std::string bytes = SeaNetworkFile::encode(smallSea());
-    for (size_t length = 0; length < bytes.size(); ++length) {
+    const std::string bytes = SeaNetworkFile::Encode(smallSea());
+    for (std::size_t length = 0; length < bytes.size(); ++length) {
         const std::string error = errorOf(bytes.substr(0, length));
         EXPECT_EQ(error, length < kHead ? "this is not a sea network file"
                                         : "the sea network file is cut or has grown")
@@ -67,8 +69,8 @@ TEST(SeaNetworkFile, RefusesAFileCutAnywhere) {
 }
 
 TEST(SeaNetworkFile, RefusesAPayloadThatEndsInsideAnyOfItsLists) {
-    const std::string payload = SeaNetworkFile::encode(smallSea()).substr(kHead);
-    for (size_t length = 0; length < payload.size(); ++length) {
+    const std::string payload = SeaNetworkFile::Encode(smallSea()).substr(kHead);
+    for (std::size_t length = 0; length < payload.size(); ++length) {
         EXPECT_THAT(errorOf(sealed(payload.substr(0, length))), HasSubstr("inconsistent")) << length;
     }
     EXPECT_EQ(errorOf(sealed(payload)), "none");
@@ -76,8 +78,8 @@ TEST(SeaNetworkFile, RefusesAPayloadThatEndsInsideAnyOfItsLists) {
 }
 
 TEST(SeaNetworkFile, AnyDamagedByteOfThePayloadIsFound) {
-    const std::string bytes = SeaNetworkFile::encode(smallSea());
-    for (size_t i = kHead; i < bytes.size(); ++i) {
+    const std::string bytes = SeaNetworkFile::Encode(smallSea());
+    for (std::size_t i = kHead; i < bytes.size(); ++i) {
         std::string damaged = bytes;
         damaged[i] = static_cast<char>(damaged[i] ^ 0x10);
         EXPECT_EQ(errorOf(damaged), "the sea network file is damaged") << i;
@@ -85,7 +87,7 @@ TEST(SeaNetworkFile, AnyDamagedByteOfThePayloadIsFound) {
 }
 
 TEST(SeaNetworkFile, RefusesAForeignFile) {
-    std::string bytes = SeaNetworkFile::encode(smallSea());
+    std::string bytes = SeaNetworkFile::Encode(smallSea());
     bytes[7] = '9';
     EXPECT_EQ(errorOf(bytes), "this is not a sea network file");
 }
@@ -130,29 +132,29 @@ class SeaNetworkFileOnDisk : public ::testing::Test {
 };
 
 TEST_F(SeaNetworkFileOnDisk, IsLoadedAsANetwork) {
-    ASSERT_EQ(SeaNetworkFile::write(path_, smallSea()), "");
+    ASSERT_EQ(SeaNetworkFile::Write(path_, smallSea()), "");
     std::string error;
-    const auto network = SeaNetwork::load(path_, error);
+    const auto network = SeaNetwork::Load(path_, error);
     ASSERT_TRUE(network) << error;
-    EXPECT_EQ(network->nodeOf("40002"), 3u);
-    EXPECT_EQ(network->routePoint("2"), 1u);
-    EXPECT_FALSE(network->nodeOf("4"));
+    EXPECT_EQ(network->NodeOf("40002"), 3u);
+    EXPECT_EQ(network->RoutePointIndex("2"), 1u);
+    EXPECT_FALSE(network->NodeOf("4"));
 }
 
 TEST_F(SeaNetworkFileOnDisk, AMissingOrCutFileIsNamedWithWhatToDo) {
     std::string error;
-    EXPECT_FALSE(SeaNetwork::load(path_, error));
+    EXPECT_FALSE(SeaNetwork::Load(path_, error));
     EXPECT_EQ(error, "cannot open the sea network file " + path_ + ". Build or install the client again.");
-    ASSERT_EQ(SeaNetworkFile::write(path_, smallSea()), "");
+    ASSERT_EQ(SeaNetworkFile::Write(path_, smallSea()), "");
     std::filesystem::resize_file(path_, 100);
-    EXPECT_FALSE(SeaNetwork::load(path_, error));
+    EXPECT_FALSE(SeaNetwork::Load(path_, error));
     EXPECT_EQ(error,
               "the sea network file is cut or has grown: " + path_ + ". Build or install the client again.");
 }
 
 TEST_F(SeaNetworkFileOnDisk, WritingWhereThereIsNoFolderTellsThePath) {
     const std::string path = path_ + "/none/network.bin";
-    EXPECT_EQ(SeaNetworkFile::write(path, smallSea()), "cannot write " + path);
+    EXPECT_EQ(SeaNetworkFile::Write(path, smallSea()), "cannot write " + path);
 }
 
 }  // namespace

@@ -1,64 +1,78 @@
 // SPDX-License-Identifier: MIT
 // The search against the plain one, and the aids that make it quick.
-#include <gtest/gtest.h>
-
 #include <cmath>
+
+#include <gtest/gtest.h>
 
 #include "host/server/graph/PathSearch.h"
 #include "host/server/graph/tests/SmallSea.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// A grid of 20 by 20 places a degree apart with some squares missing, the same every time.
 NetworkData grid() {
-    constexpr uint32_t kSide = 20;
+    constexpr std::uint32_t kSide = 20;
     NetworkData data;
     data.masks.resize(2);
     data.masks[1][0] = true;
     data.routePoints = {{"1", "Middle", 0, false, {{9.5, -1}, {9.5, 30}}, {}}};
-    for (uint32_t row = 0; row < kSide; ++row) {
-        for (uint32_t column = 0; column < kSide; ++column)
+    for (std::uint32_t row = 0; row < kSide; ++row) {
+        for (std::uint32_t column = 0; column < kSide; ++column) {
             data.nodes.push_back({static_cast<double>(column), static_cast<double>(row)});
+        }
     }
-    uint32_t seed = 7;
+    std::uint32_t seed = 7;
     const auto chance = [&seed] { return (seed = seed * 1664525U + 1013904223U) >> 16; };
-    const auto join = [&](uint32_t a, uint32_t b) {
-        if (chance() % 4 == 0) return;
-        const uint16_t mask = data.nodes[a].x == 9 && data.nodes[b].x == 10 ? 1 : 0;
+    const auto join = [&](std::uint32_t a, std::uint32_t b) {
+        if (chance() % 4 == 0) {
+            return;
+        }
+        const std::uint16_t mask = data.nodes[a].x == 9 && data.nodes[b].x == 10 ? 1 : 0;
         data.edges.push_back(
-            {a, b, static_cast<float>(arcNm(data.nodes[a], data.nodes[b])), mask, EdgeKind::Sea});
+            {a, b, static_cast<float>(ArcNm(data.nodes[a], data.nodes[b])), mask, EdgeKind::Sea});
     };
-    for (uint32_t i = 0; i < kSide * kSide; ++i) {
-        if (i % kSide + 1 < kSide) join(i, i + 1);
-        if (i + kSide < kSide * kSide) join(i, i + kSide);
+    for (std::uint32_t i = 0; i < kSide * kSide; ++i) {
+        if (i % kSide + 1 < kSide) {
+            join(i, i + 1);
+        }
+        if (i + kSide < kSide * kSide) {
+            join(i, i + kSide);
+        }
     }
     return data;
 }
 
 ArcTable tableOf(const NetworkData& data) {
     ArcTable table;
-    for (uint32_t node = 0; node < data.nodes.size(); ++node) {
-        table.start.push_back(static_cast<uint32_t>(table.arcs.size()));
-        for (uint32_t i = 0; i < data.edges.size(); ++i) {
+    for (std::uint32_t node = 0; node < data.nodes.size(); ++node) {
+        table.start.push_back(static_cast<std::uint32_t>(table.arcs.size()));
+        for (std::uint32_t i = 0; i < data.edges.size(); ++i) {
             const NetworkEdge& e = data.edges[i];
-            if (e.a == node) table.arcs.push_back({e.b, i, e.nm});
-            if (e.b == node) table.arcs.push_back({e.a, i, e.nm});
+            if (e.a == node) {
+                table.arcs.push_back({e.b, i, e.nm});
+            }
+            if (e.b == node) {
+                table.arcs.push_back({e.a, i, e.nm});
+            }
         }
     }
-    table.start.push_back(static_cast<uint32_t>(table.arcs.size()));
+    table.start.push_back(static_cast<std::uint32_t>(table.arcs.size()));
     return table;
 }
 
 TEST(PathSearch, FindsWaysAsShortAsThePlainSearch) {
     const SeaNetwork network(grid());
     const ArcTable table = tableOf(network.data());
-    const std::vector<float> all = distancesFrom(table, 0);
-    size_t found = 0;
-    for (uint32_t to = 0; to < all.size(); ++to) {
-        const auto path = findPath(network, 0, to, network.shutGates());
+    const std::vector<float> all = DistancesFrom(table, 0);
+    std::size_t found = 0;
+    for (std::uint32_t to = 0; to < all.size(); ++to) {
+        const auto path = FindPath(network, 0, to, network.ShutGates());
         ASSERT_EQ(path.has_value(), std::isfinite(all[to])) << to;
-        if (!path) continue;
+        if (!path) {
+            continue;
+        }
         ++found;
         EXPECT_NEAR(path->nm, all[to], 0.05) << to;
         EXPECT_EQ(path->nodes.front(), 0u);
@@ -72,11 +86,13 @@ TEST(PathSearch, NeverCrossesAForbiddenGate) {
     const SeaNetwork network(grid());
     GateMask forbidden;
     forbidden[0] = true;
-    EXPECT_TRUE(findPath(network, 0, 399, GateMask{}));
-    EXPECT_FALSE(findPath(network, 0, 399, forbidden));
-    for (uint32_t to = 0; to < 400; ++to) {
-        if (network.data().nodes[to].x < 10) continue;
-        EXPECT_FALSE(findPath(network, 0, to, forbidden)) << to;
+    EXPECT_TRUE(FindPath(network, 0, 399, GateMask{}));
+    EXPECT_FALSE(FindPath(network, 0, 399, forbidden));
+    for (std::uint32_t to = 0; to < 400; ++to) {
+        if (network.data().nodes[to].x < 10) {
+            continue;
+        }
+        EXPECT_FALSE(FindPath(network, 0, to, forbidden)) << to;
     }
 }
 
@@ -85,37 +101,40 @@ TEST(Basins, AreJoinedAsTheSearchFindsThem) {
     for (const bool shut : {false, true}) {
         GateMask forbidden;
         forbidden[0] = shut;
-        for (uint32_t to = 0; to < 400; to += 3)
-            EXPECT_EQ(network.basins().joined(5, to, forbidden),
-                      findPath(network, 5, to, forbidden).has_value());
+        for (std::uint32_t to = 0; to < 400; to += 3) {
+            EXPECT_EQ(network.Waters().Joined(5, to, forbidden),
+                      FindPath(network, 5, to, forbidden).has_value());
+        }
     }
 }
 
 TEST(Basins, NodesWithoutAGateBetweenThemShareOne) {
     const SeaNetwork network(smallSea());
-    const Basins& basins = network.basins();
-    EXPECT_EQ(basins.basinOf(5), basins.basinOf(6));
-    EXPECT_NE(basins.basinOf(0), basins.basinOf(7));
-    EXPECT_FALSE(basins.joined(0, 7, GateMask{}));
-    EXPECT_TRUE(basins.joined(0, 3, network.shutGates()));
+    const Basins& basins = network.Waters();
+    EXPECT_EQ(basins.BasinOf(5), basins.BasinOf(6));
+    EXPECT_NE(basins.BasinOf(0), basins.BasinOf(7));
+    EXPECT_FALSE(basins.Joined(0, 7, GateMask{}));
+    EXPECT_TRUE(basins.Joined(0, 3, network.ShutGates()));
 }
 
 TEST(Landmarks, NeverExceedTheWay) {
     const NetworkData data = grid();
     const ArcTable table = tableOf(data);
     const Landmarks landmarks(table, 4);
-    for (uint32_t from = 0; from < 400; from += 57) {
-        const std::vector<float> all = distancesFrom(table, from);
-        for (uint32_t to = 0; to < 400; ++to) {
-            if (!std::isfinite(all[to])) continue;
-            EXPECT_LE(landmarks.bound(from, to), all[to] + 0.05F);
+    for (std::uint32_t from = 0; from < 400; from += 57) {
+        const std::vector<float> all = DistancesFrom(table, from);
+        for (std::uint32_t to = 0; to < 400; ++to) {
+            if (!std::isfinite(all[to])) {
+                continue;
+            }
+            EXPECT_LE(landmarks.Bound(from, to), all[to] + 0.05F);
         }
     }
 }
 
 TEST(Landmarks, KnowNothingWithoutNodes) {
     const Landmarks none(ArcTable{{0}, {}}, 4);
-    EXPECT_EQ(none.bound(0, 0), 0.0F);
+    EXPECT_EQ(none.Bound(0, 0), 0.0F);
 }
 
 }  // namespace

@@ -27,13 +27,13 @@ inline NetworkData smallSea() {
                   {"40003", "CCCCC", "Far East", 5},
                   {"40004", "DDDDD", "Far West", 6},
                   {"40005", "EEEEE", "Pond", 7}};
-    const auto join = [&data](uint32_t a, uint32_t b, EdgeKind kind) {
-        const auto nm = static_cast<float>(arcNm(data.nodes[a], data.nodes[b]));
-        const GateMask mask = gatesCrossed(greatCircle(data.nodes[a], data.nodes[b]), data.routePoints);
+    const auto join = [&data](std::uint32_t a, std::uint32_t b, EdgeKind kind) {
+        const auto nm = static_cast<float>(ArcNm(data.nodes[a], data.nodes[b]));
+        const GateMask mask = GatesCrossed(GreatCircle(data.nodes[a], data.nodes[b]), data.routePoints);
         data.masks.push_back(mask);
-        data.edges.push_back({a, b, nm, static_cast<uint16_t>(data.masks.size() - 1), kind});
+        data.edges.push_back({a, b, nm, static_cast<std::uint16_t>(data.masks.size() - 1), kind});
     };
-    for (const uint32_t cape : {1U, 2U}) {
+    for (const std::uint32_t cape : {1U, 2U}) {
         join(0, cape, EdgeKind::Sea);
         join(cape, 3, EdgeKind::Sea);
     }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/http/HttpLimits.h"
-#include "host/server/net/http/HttpPool.h"
-#include "host/server/net/http/HttpService.h"
-
 #include <functional>
 #include <set>
 #include <utility>
+
+#include "host/server/net/http/HttpLimits.h"
+#include "host/server/net/http/HttpPool.h"
+#include "host/server/net/http/HttpService.h"
 
 namespace Tarvik::Server {
 
@@ -39,14 +39,20 @@ class HttpHost {
     void Remove(OpenConnection* connection) {
         open_.erase(connection);
         service_.ConnectionsChanged(open_.size());
-        if (whenEmpty_ && open_.empty()) whenEmpty_();
+        if (whenEmpty_ && open_.empty()) {
+            whenEmpty_();
+        }
     }
     /// Ends idle connections. `whenEmpty` is called when the last one has ended, which may be at once.
     void Stop(std::function<void()> whenEmpty) {
         stopping_ = true;
         whenEmpty_ = std::move(whenEmpty);
-        for (OpenConnection* connection : open_) connection->StopIfIdle();
-        if (open_.empty()) whenEmpty_();
+        for (OpenConnection* connection : open_) {
+            connection->StopIfIdle();
+        }
+        if (open_.empty()) {
+            whenEmpty_();
+        }
     }
     /// The server goes away; nobody waits for the last connection any more.
     void Abandon() { whenEmpty_ = nullptr; }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <boost/asio/thread_pool.hpp>
-
 #include <cstddef>
+
+#include <boost/asio/thread_pool.hpp>
 
 namespace Tarvik::Server {
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/http/HttpServer.h"
 
-#include "host/server/net/http/HttpConnection.h"
-#include "host/server/net/http/TlsContext.h"
+#include <csignal>
 
 #include <boost/asio/detached.hpp>
 #include <boost/asio/io_context.hpp>
@@ -10,7 +9,8 @@
 #include <boost/asio/signal_set.hpp>
 #include <boost/asio/steady_timer.hpp>
 
-#include <csignal>
+#include "host/server/net/http/HttpConnection.h"
+#include "host/server/net/http/TlsContext.h"
 
 namespace Tarvik::Server {
 
@@ -37,7 +37,7 @@ class HttpServer::Core {
     void StopOnSignals() {
         signals_.add(SIGTERM);
         signals_.add(SIGINT);
-        waitForSignal();
+        WaitForSignal();
     }
     void Run();
     void Stop() {
@@ -45,13 +45,13 @@ class HttpServer::Core {
     }
 
   private:
-    void waitForSignal();
+    void WaitForSignal();
     void StopNow();
-    void endGrace();
-    net::awaitable<void> accept();
+    void EndGrace();
+    net::awaitable<void> Accept();
     void open(tcp::socket socket);
     template <class Stream>
-    void serve(Stream stream, std::string address);
+    void Serve(Stream stream, std::string address);
 
     net::io_context io_{1};
     tcp::acceptor acceptor_;
@@ -71,22 +71,34 @@ bool HttpServer::Core::Listen(const std::string& address, std::uint16_t port, co
                               std::string& error) {
     if (!files.certificate.empty()) {
         tls_ = MakeTlsContext(files.certificate, files.key, error);
-        if (tls_ == nullptr) return false;
+        if (tls_ == nullptr) {
+            return false;
+        }
     }
     boost::system::error_code failed;
     const net::ip::address where = net::ip::make_address(address, failed);
     const tcp::endpoint endpoint(where, port);
-    if (!failed) acceptor_.open(endpoint.protocol(), failed);
-    if (!failed) acceptor_.set_option(net::socket_base::reuse_address(true), failed);
-    if (!failed) acceptor_.bind(endpoint, failed);
-    if (!failed) acceptor_.listen(net::socket_base::max_listen_connections, failed);
-    if (!failed) port_ = acceptor_.local_endpoint(failed).port();
+    if (!failed) {
+        acceptor_.open(endpoint.protocol(), failed);
+    }
+    if (!failed) {
+        acceptor_.set_option(net::socket_base::reuse_address(true), failed);
+    }
+    if (!failed) {
+        acceptor_.bind(endpoint, failed);
+    }
+    if (!failed) {
+        acceptor_.listen(net::socket_base::max_listen_connections, failed);
+    }
+    if (!failed) {
+        port_ = acceptor_.local_endpoint(failed).port();
+    }
     if (failed) {
         error = "cannot listen at " + address + " port " + std::to_string(port) + ": " + failed.message();
         acceptor_.close(failed);
         return false;
     }
-    net::co_spawn(io_, accept(), net::detached);
+    net::co_spawn(io_, Accept(), net::detached);
     return true;
 }
 
@@ -99,23 +111,31 @@ void HttpServer::Core::Run() {
     }
 }
 
-void HttpServer::Core::waitForSignal() {
+void HttpServer::Core::WaitForSignal() {
     signals_.async_wait([this](boost::system::error_code failed, int) {
-        if (failed) return;
-        if (host_->Stopping()) return endGrace();
-        waitForSignal();
+        if (failed) {
+            return;
+        }
+        if (host_->Stopping()) {
+            return EndGrace();
+        }
+        WaitForSignal();
         StopNow();
     });
 }
 
 void HttpServer::Core::StopNow() {
-    if (host_->Stopping()) return;
+    if (host_->Stopping()) {
+        return;
+    }
     boost::system::error_code ignored;
     acceptor_.close(ignored);
     pause_.cancel();
     grace_.expires_after(host_->Limits().stop);
     grace_.async_wait([this](boost::system::error_code failed) {
-        if (!failed) endGrace();
+        if (!failed) {
+            EndGrace();
+        }
     });
     host_->Stop([this] {
         grace_.cancel();
@@ -124,13 +144,13 @@ void HttpServer::Core::StopNow() {
     });
 }
 
-void HttpServer::Core::endGrace() {
+void HttpServer::Core::EndGrace() {
     work_.threads.stop();
     login_.threads.stop();
     io_.stop();
 }
 
-net::awaitable<void> HttpServer::Core::accept() {
+net::awaitable<void> HttpServer::Core::Accept() {
     constexpr std::chrono::milliseconds kPause{100};
     while (!host_->Stopping()) {
         boost::system::error_code failed;
@@ -148,21 +168,23 @@ net::awaitable<void> HttpServer::Core::accept() {
 void HttpServer::Core::open(tcp::socket socket) {
     boost::system::error_code failed;
     std::string address = socket.remote_endpoint(failed).address().to_string();
-    if (failed) return;
+    if (failed) {
+        return;
+    }
     if (host_->OpenCount() >= host_->Limits().connections) {
         host_->Service().ConnectionRefused(address);
         return;
     }
     socket.set_option(tcp::no_delay(true), failed);
     if (tls_ != nullptr) {
-        serve(TlsStream(std::move(socket), *tls_), std::move(address));
+        Serve(TlsStream(std::move(socket), *tls_), std::move(address));
     } else {
-        serve(PlainStream(std::move(socket)), std::move(address));
+        Serve(PlainStream(std::move(socket)), std::move(address));
     }
 }
 
 template <class Stream>
-void HttpServer::Core::serve(Stream stream, std::string address) {
+void HttpServer::Core::Serve(Stream stream, std::string address) {
     auto connection = std::make_shared<HttpConnection<Stream>>(host_, std::move(stream), std::move(address));
     net::co_spawn(io_, connection->Serve(), net::detached);
 }

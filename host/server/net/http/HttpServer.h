@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/http/HttpLimits.h"
-#include "host/server/net/http/HttpService.h"
-
 #include <cstdint>
 #include <memory>
 #include <string>
+
+#include "host/server/net/http/HttpLimits.h"
+#include "host/server/net/http/HttpService.h"
 
 namespace Tarvik::Server {
 

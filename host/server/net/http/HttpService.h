@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/http/HttpMessage.h"
-
 #include <cstdint>
 #include <optional>
+
+#include "host/server/net/http/HttpMessage.h"
 
 namespace Tarvik::Server {
 

@@ -14,7 +14,9 @@ std::unique_ptr<ssl::context> MakeTlsContext(const std::string& certificateFile,
     context->set_options(ssl::context::default_workarounds | ssl::context::no_sslv2 | ssl::context::no_sslv3 |
                              ssl::context::no_tlsv1 | ssl::context::no_tlsv1_1 | SSL_OP_NO_RENEGOTIATION,
                          failed);
-    if (!failed) context->use_certificate_chain_file(certificateFile, failed);
+    if (!failed) {
+        context->use_certificate_chain_file(certificateFile, failed);
+    }
     if (failed) {
         error = "the certificate " + certificateFile + " cannot be used: " + failed.message();
         return nullptr;

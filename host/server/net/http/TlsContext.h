@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <boost/asio/ssl/context.hpp>
-
 #include <memory>
 #include <string>
+
+#include <boost/asio/ssl/context.hpp>
 
 namespace Tarvik::Server {
 

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/log/ServerLog.h"
 
-#include <fmt/format.h>
-
 #include <chrono>
 #include <cstdio>
 #include <ctime>
+
+#include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
 namespace Tarvik::Server {
+
 namespace {
 
 const char* NameOf(LogLevel level) {
@@ -46,7 +47,9 @@ void ServerLog::Write(LogLevel level, std::string_view event, std::initializer_l
     time.insert(time.size() - 1, fmt::format(".{:03}", now % 1000));
     nlohmann::ordered_json line = {{"time", time}, {"level", NameOf(level)}, {"event", event}};
     for (const auto& [name, value] : fields) {
-        if (!value.empty()) line[std::string(name)] = value;
+        if (!value.empty()) {
+            line[std::string(name)] = value;
+        }
     }
     const std::string text = line.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
     const std::scoped_lock lock(mutex_);

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/metrics/Metrics.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 
+#include <fmt/format.h>
+
 namespace Tarvik::Server {
+
 namespace {
 
 std::string Head(const char* name, const char* kind, const char* meaning) {
@@ -30,13 +31,15 @@ void Metrics::CountRefusedConnection() {
 
 void Metrics::SetConnections(std::size_t open) {
     const std::scoped_lock lock(mutex_);
-    if (open > connections_) ++openedConnections_;
+    if (open > connections_) {
+        ++openedConnections_;
+    }
     connections_ = open;
 }
 
 std::string Metrics::Print() const {
     const std::scoped_lock lock(mutex_);
-    return printRequests() + printTimes() + Head("seaplan_connections", "gauge", "Open connections.") +
+    return PrintRequests() + PrintTimes() + Head("seaplan_connections", "gauge", "Open connections.") +
            fmt::format("seaplan_connections {}\n", connections_) +
            Head("seaplan_connections_opened_total", "counter", "Connections that were taken.") +
            fmt::format("seaplan_connections_opened_total {}\n", openedConnections_) +
@@ -45,7 +48,7 @@ std::string Metrics::Print() const {
            fmt::format("seaplan_connections_refused_total {}\n", refusedConnections_);
 }
 
-std::string Metrics::printRequests() const {
+std::string Metrics::PrintRequests() const {
     std::string text = Head("seaplan_requests_total", "counter", "Requests by command and result.");
     for (const auto& [labels, count] : requests_) {
         text += fmt::format("seaplan_requests_total{{command=\"{}\",result=\"{}\"}} {}\n", labels.first,
@@ -54,7 +57,7 @@ std::string Metrics::printRequests() const {
     return text;
 }
 
-std::string Metrics::printTimes() const {
+std::string Metrics::PrintTimes() const {
     std::string text =
         Head("seaplan_request_seconds", "histogram", "Time from the whole request to its reply.");
     for (const auto& [command, times] : times_) {

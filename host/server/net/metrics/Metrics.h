@@ -32,8 +32,8 @@ class Metrics {
         double sum = 0;
     };
 
-    std::string printRequests() const;
-    std::string printTimes() const;
+    std::string PrintRequests() const;
+    std::string PrintTimes() const;
 
     mutable std::mutex mutex_;
     std::map<std::pair<std::string, std::string>, std::uint64_t> requests_;

@@ -4,6 +4,7 @@
 #include "host/server/api/Replies.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 std::string Refuse() {

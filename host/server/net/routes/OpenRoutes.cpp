@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/routes/OpenRoutes.h"
 
+#include <filesystem>
+
 #include "host/server/graph/adapter/GraphRouteSource.h"
 #include "host/server/net/routes/NoRoutes.h"
-
-#include <filesystem>
 
 namespace fs = std::filesystem;
 
@@ -17,7 +17,9 @@ std::string NetworkBeside(const std::string& program) {
 }
 
 std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, std::string& error) {
-    if (networkFile.empty() || networkFile == "none") return std::make_unique<NoRoutes>();
+    if (networkFile.empty() || networkFile == "none") {
+        return std::make_unique<NoRoutes>();
+    }
     return GraphRouteSource::Open(networkFile, error);
 }
 

@@ -16,9 +16,15 @@ HttpReply UnauthorizedReply(const std::string& text) {
 }
 
 std::string ResultOf(int status) {
-    if (status < 400) return "ok";
-    if (status == 401) return "unauthorized";
-    if (status == 429) return "limited";
+    if (status < 400) {
+        return "ok";
+    }
+    if (status == 401) {
+        return "unauthorized";
+    }
+    if (status == 429) {
+        return "limited";
+    }
     return status < 500 ? "bad" : "failed";
 }
 

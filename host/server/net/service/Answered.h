@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/http/HttpMessage.h"
-
 #include <string>
+
+#include "host/server/net/http/HttpMessage.h"
 
 namespace Tarvik::Server {
 

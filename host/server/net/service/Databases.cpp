@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/service/Databases.h"
 
+#include <filesystem>
+
 #include "host/server/accounts/PostgresAccounts.h"
 #include "host/server/accounts/SqliteAccounts.h"
 #include "host/server/storage/postgres/ConnectionText.h"
 #include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 
-#include <filesystem>
-
 namespace Tarvik::Server {
+
 namespace {
 
 /// Every thread that answers may have a connection, and the one for logins too.
@@ -21,7 +22,9 @@ PostgresOptions PostgresOptionsOf(const Settings& settings) {
 template <class Interface, class Opened>
 std::unique_ptr<Interface> Checked(std::unique_ptr<Opened> opened, const std::string& what,
                                    const std::string& reason, std::string& error) {
-    if (opened == nullptr) error = what + " cannot be used: " + reason;
+    if (opened == nullptr) {
+        error = what + " cannot be used: " + reason;
+    }
     return opened;
 }
 
@@ -29,11 +32,17 @@ std::unique_ptr<Interface> Checked(std::unique_ptr<Opened> opened, const std::st
 
 bool PrepareDataFolder(const Settings& settings, std::string& error) {
     namespace fs = std::filesystem;
-    if (!settings.database.empty()) return true;
+    if (!settings.database.empty()) {
+        return true;
+    }
     std::error_code failed;
     const bool made = fs::create_directories(settings.data, failed);
-    if (made) fs::permissions(settings.data, fs::perms::owner_all, failed);
-    if (failed) error = "the data folder " + settings.data + " cannot be made: " + failed.message();
+    if (made) {
+        fs::permissions(settings.data, fs::perms::owner_all, failed);
+    }
+    if (failed) {
+        error = "the data folder " + settings.data + " cannot be made: " + failed.message();
+    }
     return !failed;
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/settings/Settings.h"
-#include "host/server/accounts/AccountStorage.h"
-#include "host/server/storage/contract/Storage.h"
-
 #include <memory>
 #include <string>
+
+#include "host/server/accounts/AccountStorage.h"
+#include "host/server/net/settings/Settings.h"
+#include "host/server/storage/contract/Storage.h"
 
 namespace Tarvik::Server {
 

@@ -5,12 +5,15 @@
 #include "host/server/wire/Envelope.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr std::uint16_t kLastCommand = 14;
 
 std::string NameOf(const Envelope& envelope) {
-    if (envelope.moduleWord == kRemarkModule && envelope.command == 9) return "remark";
+    if (envelope.moduleWord == kRemarkModule && envelope.command == 9) {
+        return "remark";
+    }
     const bool known =
         envelope.moduleWord == kVoyageModule && envelope.command >= 1 && envelope.command <= kLastCommand;
     return known ? std::to_string(envelope.command) : "unknown";

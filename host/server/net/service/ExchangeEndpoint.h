@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/server/accounts/Sessions.h"
 #include "host/server/api/VoyageService.h"
 #include "host/server/net/service/Answered.h"
-#include "host/server/accounts/Sessions.h"
 
 namespace Tarvik::Server {
 

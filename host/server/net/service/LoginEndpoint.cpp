@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/service/LoginEndpoint.h"
 
-#include "host/server/net/log/ServerLog.h"
-#include "host/server/accounts/Tokens.h"
-#include "host/server/accounts/UserRules.h"
-
 #include <nlohmann/json.hpp>
 
+#include "host/server/accounts/Tokens.h"
+#include "host/server/accounts/UserRules.h"
+#include "host/server/net/log/ServerLog.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 std::string TextMember(const nlohmann::json& object, const char* key) {
@@ -31,13 +32,13 @@ Answered LoginEndpoint::LogIn(const HttpRequest& request) {
         const Login login = sessions_.Open(user, password, request.address);
         answered.user = user;
         answered.detail = login.detail;
-        answered.reply = replyOf(login, user);
+        answered.reply = ReplyOf(login, user);
     }
     answered.result = ResultOf(answered.reply.status);
     return answered;
 }
 
-HttpReply LoginEndpoint::replyOf(const Login& login, const std::string& user) const {
+HttpReply LoginEndpoint::ReplyOf(const Login& login, const std::string& user) const {
     switch (login.result) {
         case LoginResult::Done: {
             const nlohmann::ordered_json body = {{"token", login.token},

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/service/Answered.h"
 #include "host/server/accounts/Sessions.h"
+#include "host/server/net/service/Answered.h"
 
 namespace Tarvik::Server {
 
@@ -17,7 +17,7 @@ class LoginEndpoint {
     Answered LogOut(const HttpRequest& request);
 
   private:
-    HttpReply replyOf(const Login& login, const std::string& user) const;
+    HttpReply ReplyOf(const Login& login, const std::string& user) const;
 
     Sessions& sessions_;
     std::int64_t life_;

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/service/ServerFront.h"
 
-#include "host/server/accounts/Tokens.h"
-
-#include <fmt/format.h>
-
 #include <array>
 #include <chrono>
 #include <utility>
 
+#include <fmt/format.h>
+
+#include "host/server/accounts/Tokens.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 enum class Path { LogIn, LogOut, Exchange, Health, Metrics };
@@ -35,7 +36,9 @@ constexpr std::uint64_t kSmallBodyBytes = 8192;
 const PathEntry* Find(const std::string& target) {
     const std::string_view path = std::string_view(target).substr(0, target.find('?'));
     for (const PathEntry& entry : kPaths) {
-        if (entry.path == path) return &entry;
+        if (entry.path == path) {
+            return &entry;
+        }
     }
     return nullptr;
 }
@@ -53,7 +56,9 @@ ServerFront::ServerFront(LoginEndpoint& logins, ExchangeEndpoint& exchange, std:
 
 std::optional<HttpReply> ServerFront::RefuseHead(const HttpRequest& head) const {
     const PathEntry* entry = Find(head.target);
-    if (entry == nullptr) return ErrorReply(404, "there is nothing at this path");
+    if (entry == nullptr) {
+        return ErrorReply(404, "there is nothing at this path");
+    }
     if (entry->method != head.method) {
         HttpReply reply = ErrorReply(405, fmt::format("this path takes {} only", entry->method));
         reply.fields.emplace_back("Allow", entry->method);
@@ -81,7 +86,7 @@ HttpReply ServerFront::Answer(const HttpRequest& request) {
     const auto begin = std::chrono::steady_clock::now();
     Answered answered;
     try {
-        answered = dispatch(request);
+        answered = Dispatch(request);
     } catch (const std::exception& error) {
         const PathEntry* entry = Find(request.target);
         answered = {ErrorReply(500, "the server failed"),
@@ -91,13 +96,15 @@ HttpReply ServerFront::Answer(const HttpRequest& request) {
                     error.what()};
     }
     const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
-    note(request, answered, time.count());
+    Note(request, answered, time.count());
     return std::move(answered.reply);
 }
 
-Answered ServerFront::dispatch(const HttpRequest& request) {
+Answered ServerFront::Dispatch(const HttpRequest& request) {
     const PathEntry* entry = Find(request.target);
-    if (entry == nullptr) return {ErrorReply(404, "there is nothing at this path"), "other", "bad", {}, {}};
+    if (entry == nullptr) {
+        return {ErrorReply(404, "there is nothing at this path"), "other", "bad", {}, {}};
+    }
     switch (entry->which) {
         case Path::LogIn:
             return logins_.LogIn(request);
@@ -106,23 +113,25 @@ Answered ServerFront::dispatch(const HttpRequest& request) {
         case Path::Exchange:
             return exchange_.Exchange(request);
         case Path::Health:
-            return health();
+            return Health();
         case Path::Metrics:
             break;
     }
     return {{200, "text/plain; version=0.0.4; charset=utf-8", metrics_.Print(), {}}, "metrics", "ok", {}, {}};
 }
 
-Answered ServerFront::health() {
+Answered ServerFront::Health() {
     const bool well = healthy_();
     const char* text = well ? "{\"status\":\"ok\"}" : "{\"status\":\"the data base does not answer\"}";
     return {{well ? 200 : 503, "application/json", text, {}}, "health", well ? "ok" : "failed", {}, {}};
 }
 
-void ServerFront::note(const HttpRequest& request, const Answered& answered, double seconds) {
+void ServerFront::Note(const HttpRequest& request, const Answered& answered, double seconds) {
     metrics_.CountRequest(answered.command, answered.result, seconds);
     const bool failed = answered.result == "failed";
-    if (!failed && !options_.logRequests) return;
+    if (!failed && !options_.logRequests) {
+        return;
+    }
     log_.Write(failed ? LogLevel::Error : LogLevel::Info, "request",
                {{"command", answered.command},
                 {"result", answered.result},
@@ -137,7 +146,7 @@ void ServerFront::Refused(const HttpRequest& request, int status) {
     const PathEntry* entry = Find(request.target);
     const Answered answered{
         {status, {}, {}, {}}, std::string(entry ? entry->command : "other"), ResultOf(status), {}, {}};
-    note(request, answered, 0);
+    Note(request, answered, 0);
 }
 
 void ServerFront::ConnectionRefused(const std::string& address) {

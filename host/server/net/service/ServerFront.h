@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "host/server/net/http/HttpService.h"
 #include "host/server/net/log/ServerLog.h"
 #include "host/server/net/metrics/Metrics.h"
 #include "host/server/net/service/ExchangeEndpoint.h"
 #include "host/server/net/service/LoginEndpoint.h"
-
-#include <functional>
-#include <string>
 
 namespace Tarvik::Server {
 
@@ -33,9 +33,9 @@ class ServerFront : public HttpService {
     void ConnectionRefused(const std::string& address) override;
 
   private:
-    Answered dispatch(const HttpRequest& request);
-    Answered health();
-    void note(const HttpRequest& request, const Answered& answered, double seconds);
+    Answered Dispatch(const HttpRequest& request);
+    Answered Health();
+    void Note(const HttpRequest& request, const Answered& answered, double seconds);
 
     LoginEndpoint& logins_;
     ExchangeEndpoint& exchange_;

@@ -4,6 +4,7 @@
 #include <utility>
 
 namespace Tarvik::Server {
+
 namespace {
 
 HttpLimits HttpLimitsOf(const Settings& settings) {
@@ -50,7 +51,7 @@ VoyageServer::VoyageServer(const Settings& settings, ServerParts parts, std::uni
       logins_(sessions_, SessionSeconds(settings)),
       exchange_(service_, sessions_),
       front_(
-          logins_, exchange_, [this] { return healthy(); }, metrics_, log_, FrontOptionsOf(settings)),
+          logins_, exchange_, [this] { return Healthy(); }, metrics_, log_, FrontOptionsOf(settings)),
       http_(front_, HttpLimitsOf(settings)) {}
 
 std::unique_ptr<VoyageServer> VoyageServer::Open(const Settings& settings, ServerParts parts,
@@ -59,15 +60,23 @@ std::unique_ptr<VoyageServer> VoyageServer::Open(const Settings& settings, Serve
         error = "there is no source of routes";
         return nullptr;
     }
-    if (!PrepareDataFolder(settings, error)) return nullptr;
+    if (!PrepareDataFolder(settings, error)) {
+        return nullptr;
+    }
     auto accounts = OpenAccounts(settings, error);
-    if (accounts == nullptr) return nullptr;
+    if (accounts == nullptr) {
+        return nullptr;
+    }
     auto storage = OpenVoyages(settings, error);
-    if (storage == nullptr) return nullptr;
+    if (storage == nullptr) {
+        return nullptr;
+    }
     std::unique_ptr<VoyageServer> server(
         new VoyageServer(settings, std::move(parts), std::move(storage), std::move(accounts)));
     const TlsFiles tls{settings.tlsCertificate, settings.tlsKey};
-    if (!server->http_.Listen(settings.address, settings.port, tls, error)) return nullptr;
+    if (!server->http_.Listen(settings.address, settings.port, tls, error)) {
+        return nullptr;
+    }
     return server;
 }
 
@@ -81,7 +90,7 @@ void VoyageServer::Run() {
     log_.Write(LogLevel::Info, "stopped");
 }
 
-bool VoyageServer::healthy() {
+bool VoyageServer::Healthy() {
     return accounts_->FindUser({}).Succeeded() && storage_->Catalog().LoadCatalog({}).Succeeded();
 }
 

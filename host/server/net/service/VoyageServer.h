@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
+#include <string>
+
 #include "host/server/net/http/HttpServer.h"
 #include "host/server/net/service/Databases.h"
 #include "host/server/net/service/ServerFront.h"
 #include "host/server/net/settings/Settings.h"
-
-#include <memory>
-#include <string>
 
 namespace Tarvik::Server {
 
@@ -41,7 +41,7 @@ class VoyageServer {
   private:
     VoyageServer(const Settings& settings, ServerParts parts, std::unique_ptr<Storage> storage,
                  std::unique_ptr<AccountStorage> accounts);
-    bool healthy();
+    bool Healthy();
 
     Settings settings_;
     ServerLog log_;

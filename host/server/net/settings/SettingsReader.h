@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/settings/Settings.h"
-
 #include <map>
 #include <string>
 #include <string_view>
+
+#include "host/server/net/settings/Settings.h"
 
 namespace Tarvik::Server {
 

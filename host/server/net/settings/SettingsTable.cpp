@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/settings/SettingsTable.h"
 
+#include <arpa/inet.h>
+
 #include "host/server/api/Numbers.h"
 #include "host/server/storage/postgres/ConnectionText.h"
 
-#include <arpa/inet.h>
-
 namespace Tarvik::Server {
+
 namespace {
 
 SettingsEntry Text(std::string_view key, std::string Settings::*field, std::string_view meaning) {
@@ -37,7 +38,9 @@ SettingsEntry Whole(std::string_view key, Number Settings::*field, Number least,
 SettingsEntry YesNo(std::string_view key, bool Settings::*field, std::string_view meaning) {
     return {key, meaning,
             [field](Settings& settings, std::string_view text) {
-                if (text != "yes" && text != "no") return std::string("must be yes or no");
+                if (text != "yes" && text != "no") {
+                    return std::string("must be yes or no");
+                }
                 settings.*field = text == "yes";
                 return std::string();
             },

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/settings/Settings.h"
-
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "host/server/net/settings/Settings.h"
 
 namespace Tarvik::Server {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/api/RouteSource.h"
-
 #include <atomic>
 #include <future>
+
+#include "host/server/api/RouteSource.h"
 
 namespace Tarvik::Server {
 

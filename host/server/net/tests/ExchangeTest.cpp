@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/tests/TestServer.h"
-
 #include <gtest/gtest.h>
-
 #include <nlohmann/json.hpp>
 
+#include "host/server/net/tests/TestServer.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 class ExchangeTest : public testing::Test {
@@ -23,7 +23,9 @@ class ExchangeTest : public testing::Test {
     }
     bool LogHas(const std::string& piece) {
         for (const std::string& line : server_.LogLines()) {
-            if (line.find(piece) != std::string::npos) return true;
+            if (line.find(piece) != std::string::npos) {
+                return true;
+            }
         }
         return false;
     }

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/tests/TestServer.h"
-
 #include <gtest/gtest.h>
 
+#include "host/server/net/tests/TestServer.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 const std::string kSomeToken(43, 'A');

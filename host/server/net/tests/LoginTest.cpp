@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/tests/TestServer.h"
-
 #include <gtest/gtest.h>
-
 #include <nlohmann/json.hpp>
 
+#include "host/server/net/tests/TestServer.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr std::int64_t kHour = 3600;
@@ -105,7 +105,9 @@ TEST(Login, TooManyFailuresLockTheNameForAWhile) {
     });
     server.AddUser("anna", "correct horse");
     server.AddUser("bert", "correct horse");
-    for (int i = 0; i < 3; ++i) EXPECT_EQ(server.LogIn("anna", "wrong horse").status, 401);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(server.LogIn("anna", "wrong horse").status, 401);
+    }
     server.AdvanceSeconds(100);
     const RawReply locked = server.LogIn("anna", "correct horse");
     EXPECT_EQ(locked.status, 429);

@@ -1,19 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/log/ServerLog.h"
-#include "host/server/net/metrics/Metrics.h"
-#include "host/server/net/routes/OpenRoutes.h"
-#include "host/server/accounts/Passwords.h"
-#include "host/server/accounts/Tokens.h"
-#include "host/server/wire/Envelope.h"
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include "host/server/accounts/Passwords.h"
+#include "host/server/accounts/Tokens.h"
+#include "host/server/net/log/ServerLog.h"
+#include "host/server/net/metrics/Metrics.h"
+#include "host/server/net/routes/OpenRoutes.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
+#include "host/server/wire/Envelope.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 TEST(Envelope, IsLittleEndianAndCountsItsNul) {
@@ -33,7 +34,9 @@ TEST(Envelope, TextMayLackItsNul) {
 
 TEST(Envelope, OtherLengthsAreNone) {
     const std::string whole = WriteEnvelope({1, 5, "text"});
-    for (std::size_t size = 0; size < whole.size(); ++size) EXPECT_FALSE(ReadEnvelope(whole.substr(0, size)));
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        EXPECT_FALSE(ReadEnvelope(whole.substr(0, size)));
+    }
     EXPECT_FALSE(ReadEnvelope(whole + "x"));
 }
 

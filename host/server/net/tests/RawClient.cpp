@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/tests/RawClient.h"
 
+#include <algorithm>
 #include <arpa/inet.h>
+#include <array>
+#include <cstdlib>
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
-#include <cstdlib>
-
 namespace Tarvik::Server {
+
 namespace {
 
 std::string Lower(std::string text) {
@@ -21,12 +21,16 @@ std::string Lower(std::string text) {
 
 RawReply ParseHead(const std::string& head) {
     RawReply reply;
-    if (head.size() > 12) reply.status = std::atoi(head.substr(9, 3).c_str());
+    if (head.size() > 12) {
+        reply.status = std::atoi(head.substr(9, 3).c_str());
+    }
     for (std::size_t at = head.find("\r\n"); at != std::string::npos;) {
         const std::size_t next = head.find("\r\n", at + 2);
         const std::string line = head.substr(at + 2, next == std::string::npos ? next : next - at - 2);
         const std::size_t colon = line.find(": ");
-        if (colon != std::string::npos) reply.fields[Lower(line.substr(0, colon))] = line.substr(colon + 2);
+        if (colon != std::string::npos) {
+            reply.fields[Lower(line.substr(0, colon))] = line.substr(colon + 2);
+        }
         at = next;
     }
     return reply;
@@ -42,29 +46,37 @@ RawClient::RawClient(std::uint16_t port) : socket_(::socket(AF_INET, SOCK_STREAM
     // A test that waits for nothing fails instead of hanging.
     const timeval limit{20, 0};
     setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof(limit));
-    if (::connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof(address)) == 0) return;
+    if (::connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof(address)) == 0) {
+        return;
+    }
     ::close(socket_);
     socket_ = -1;
 }
 
 RawClient::~RawClient() {
-    if (socket_ >= 0) ::close(socket_);
+    if (socket_ >= 0) {
+        ::close(socket_);
+    }
 }
 
 bool RawClient::Send(const std::string& bytes) {
     std::size_t sent = 0;
     while (sent < bytes.size()) {
         const ssize_t count = ::send(socket_, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
-        if (count <= 0) return false;
+        if (count <= 0) {
+            return false;
+        }
         sent += static_cast<std::size_t>(count);
     }
     return true;
 }
 
-bool RawClient::fill() {
+bool RawClient::Fill() {
     std::array<char, 65536> bytes{};
     const ssize_t count = ::recv(socket_, bytes.data(), bytes.size(), 0);
-    if (count <= 0) return false;
+    if (count <= 0) {
+        return false;
+    }
     received_.append(bytes.data(), static_cast<std::size_t>(count));
     return true;
 }
@@ -72,7 +84,9 @@ bool RawClient::fill() {
 RawReply RawClient::Read() {
     std::size_t end = 0;
     while ((end = received_.find("\r\n\r\n")) == std::string::npos) {
-        if (!fill()) return {};
+        if (!Fill()) {
+            return {};
+        }
     }
     RawReply reply = ParseHead(received_.substr(0, end));
     received_.erase(0, end + 4);
@@ -80,7 +94,9 @@ RawReply RawClient::Read() {
     const std::size_t size =
         length == reply.fields.end() ? 0 : static_cast<std::size_t>(std::atol(length->second.c_str()));
     while (received_.size() < size) {
-        if (!fill()) return {};
+        if (!Fill()) {
+            return {};
+        }
     }
     reply.body = received_.substr(0, size);
     received_.erase(0, size);

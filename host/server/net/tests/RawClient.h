@@ -35,7 +35,7 @@ class RawClient {
                                const std::string& token);
 
   private:
-    bool fill();
+    bool Fill();
 
     int socket_ = -1;
     std::string received_;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/ServerRequest.h>
-
 #include <cstring>
 #include <string>
 #include <vector>
+
+#include <tarvik/interface/ServerRequest.h>
 
 namespace Tarvik::Server {
 

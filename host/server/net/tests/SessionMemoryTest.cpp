@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/accounts/SessionMemory.h"
-
-#include "host/server/net/tests/TestServer.h"
-
 #include <gtest/gtest.h>
 
+#include "host/server/accounts/SessionMemory.h"
+#include "host/server/net/tests/TestServer.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 TEST(SessionMemory, HoldsWhatWasFoundUntilTheSecondIsOver) {

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include <fstream>
+#include <set>
+
+#include <gtest/gtest.h>
+
 #include "host/server/net/settings/SettingsReader.h"
 #include "host/server/net/settings/SettingsTable.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 
-#include <gtest/gtest.h>
-
-#include <fstream>
-#include <set>
-
 namespace Tarvik::Server {
+
 namespace {
 
 TEST(SettingsText, TakesKeysAndSkipsCommentsAndBlanks) {

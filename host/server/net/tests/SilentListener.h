@@ -2,11 +2,10 @@
 #pragma once
 
 #include <arpa/inet.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <cstdint>
 #include <stdexcept>
+#include <sys/socket.h>
+#include <unistd.h>
 
 namespace Tarvik::Server {
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/tests/BlockingRoutes.h"
-#include "host/server/net/tests/TestServer.h"
+#include <csignal>
 
 #include <gtest/gtest.h>
 
-#include <csignal>
+#include "host/server/net/tests/BlockingRoutes.h"
+#include "host/server/net/tests/TestServer.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// A server whose one worker is busy with a request of `busy`.

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/tests/TestCertificate.h"
 
-#include <openssl/evp.h>
-#include <openssl/pem.h>
-#include <openssl/x509v3.h>
-
 #include <cstdio>
 #include <memory>
 #include <stdexcept>
 
+#include <openssl/evp.h>
+#include <openssl/pem.h>
+#include <openssl/x509v3.h>
+
 namespace Tarvik::Server {
+
 namespace {
 
 using Key = std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)>;
@@ -17,7 +18,9 @@ using Certificate = std::unique_ptr<X509, decltype(&X509_free)>;
 using File = std::unique_ptr<std::FILE, decltype(&std::fclose)>;
 
 void Require(bool done) {
-    if (!done) throw std::runtime_error("the test certificate cannot be made");
+    if (!done) {
+        throw std::runtime_error("the test certificate cannot be made");
+    }
 }
 
 void AddExtension(X509* certificate, int kind, const char* value) {

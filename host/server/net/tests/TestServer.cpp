@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/tests/TestServer.h"
 
-#include "host/server/net/routes/NoRoutes.h"
-#include "host/server/wire/Envelope.h"
-
-#include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <utility>
+
+#include <nlohmann/json.hpp>
+
+#include "host/server/net/routes/NoRoutes.h"
+#include "host/server/wire/Envelope.h"
 
 namespace Tarvik::Server {
 
@@ -14,7 +15,9 @@ TestServer::TestServer(const Change& change, std::unique_ptr<RouteSource> routes
     Settings settings;
     settings.data = folder_.File("data");
     settings.port = 0;
-    if (change) change(settings);
+    if (change) {
+        change(settings);
+    }
     ServerParts parts;
     parts.routes = routes ? std::move(routes) : std::make_unique<NoRoutes>();
     parts.clock = [this] { return now_.load(); };
@@ -25,7 +28,9 @@ TestServer::TestServer(const Change& change, std::unique_ptr<RouteSource> routes
     };
     std::string error;
     server_ = VoyageServer::Open(settings, std::move(parts), error);
-    if (server_ == nullptr) throw std::runtime_error(error);
+    if (server_ == nullptr) {
+        throw std::runtime_error(error);
+    }
     thread_ = std::thread([this] { server_->Run(); });
 }
 
@@ -35,12 +40,16 @@ TestServer::~TestServer() {
 }
 
 void TestServer::Join() {
-    if (thread_.joinable()) thread_.join();
+    if (thread_.joinable()) {
+        thread_.join();
+    }
 }
 
 void TestServer::AddUser(const std::string& name, const std::string& password) {
     const auto added = server_->Accounts().AddUser(name, Passwords(kCheap).Hash(password));
-    if (!added || !added.Value()) throw std::runtime_error("the user cannot be added");
+    if (!added || !added.Value()) {
+        throw std::runtime_error("the user cannot be added");
+    }
 }
 
 RawReply TestServer::Ask(const std::string& method, const std::string& path, const std::string& body,

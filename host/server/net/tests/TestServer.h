@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/service/VoyageServer.h"
-#include "host/server/net/tests/RawClient.h"
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
 #include <atomic>
 #include <functional>
 #include <memory>
@@ -12,6 +8,10 @@
 #include <string>
 #include <thread>
 #include <vector>
+
+#include "host/server/net/service/VoyageServer.h"
+#include "host/server/net/tests/RawClient.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
 
 namespace Tarvik::Server {
 

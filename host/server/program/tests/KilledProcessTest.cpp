@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
+#include <csignal>
+#include <future>
+#include <random>
+#include <thread>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
 #include "host/server/program/tests/SharedDatabase.h"
 #include "host/server/storage/postgres/PostgresConnection.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 
-#include <gtest/gtest.h>
-
-#include <csignal>
-#include <future>
-#include <nlohmann/json.hpp>
-#include <random>
-#include <thread>
-
 namespace Tarvik::Server {
+
 namespace {
 
 using nlohmann::json;
@@ -27,7 +28,9 @@ struct Written {
 /// Write `number` makes a category, or puts other port calls in the place of all.
 std::pair<std::uint16_t, std::string> RequestOf(int number) {
     const std::string name = std::to_string(number);
-    if (number % 2 == 0) return {4, R"({ci:"",cn:")" + name + R"(",type:0})"};
+    if (number % 2 == 0) {
+        return {4, R"({ci:"",cn:")" + name + R"(",type:0})"};
+    }
     std::string calls = R"(["1000002")";
     for (int i = 0; i <= number % 37; ++i) {
         calls += ",\"" + std::to_string(i) + "|1|" + name + "|L|1.000|0.000|0.0\"";
@@ -59,7 +62,9 @@ Written Load(Exchanger& client) {
 /// Busy for a while that has no clock in it.
 void Spin(unsigned turns) {
     volatile unsigned turn = 0;
-    while (turn < turns) turn = turn + 1;
+    while (turn < turns) {
+        turn = turn + 1;
+    }
 }
 
 /// Where the killed server keeps its data.
@@ -88,11 +93,17 @@ class KilledProcessTest : public SharedDatabase, public testing::WithParamInterf
             for (;;) {
                 const auto [command, text] = RequestOf(from + confirmed);
                 const auto reply = client.Ask(command, text);
-                if (!reply) break;
+                if (!reply) {
+                    break;
+                }
                 EXPECT_TRUE(reply->starts_with("{\"eid\":0")) << *reply;
-                if (++confirmed == before) underWay.set_value();
+                if (++confirmed == before) {
+                    underWay.set_value();
+                }
             }
-            if (confirmed < before) underWay.set_value();
+            if (confirmed < before) {
+                underWay.set_value();
+            }
         });
         underWay.get_future().wait();
         Spin(static_cast<unsigned>(random_() % 3000000));
@@ -104,7 +115,9 @@ class KilledProcessTest : public SharedDatabase, public testing::WithParamInterf
     /// Returns when no transaction of a killed process is on its way any more: the data base server goes on
     /// with what it was told before.
     void WaitForTransactions() {
-        if (GetParam() == Kept::Files) return;
+        if (GetParam() == Kept::Files) {
+            return;
+        }
         PostgresConnection connection(connection_);
         connection.Begin(PostgresConnection::Mode::Write);
         connection.Execute("LOCK TABLE categories, port_calls IN ACCESS EXCLUSIVE MODE");
@@ -122,13 +135,17 @@ TEST_P(KilledProcessTest, EveryConfirmedChangeIsThereAndNoHalfOne) {
     for (int round = 0; round < 16; ++round) {
         ServerProcess server(variables_);
         const int confirmed = WriteAndKill(server, number, 14 + static_cast<int>(random_() % 10));
-        for (int i = 0; i < confirmed; ++i) Apply(expected, number++);
+        for (int i = 0; i < confirmed; ++i) {
+            Apply(expected, number++);
+        }
         WaitForTransactions();
         const ServerProcess next(variables_);
         Exchanger client(next.Port(), token_);
         const Written stored = Load(client);
         // The client had asked for one more, which the server may have done before it died.
-        if (stored != expected) Apply(expected, number++);
+        if (stored != expected) {
+            Apply(expected, number++);
+        }
         ASSERT_EQ(stored.categories, expected.categories) << "round " << round;
         ASSERT_EQ(stored.ports, expected.ports) << "round " << round;
     }

@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/program/PasswordPrompt.h"
-#include "host/server/program/Program.h"
-#include "host/server/net/service/VoyageServer.h"
-#include "host/server/net/settings/SettingsTable.h"
-#include "host/server/accounts/SqliteAccounts.h"
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
-#include <gtest/gtest.h>
-
 #include <fstream>
 #include <sstream>
 
+#include <gtest/gtest.h>
+
+#include "host/server/accounts/SqliteAccounts.h"
+#include "host/server/net/service/VoyageServer.h"
+#include "host/server/net/settings/SettingsTable.h"
+#include "host/server/program/PasswordPrompt.h"
+#include "host/server/program/Program.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using Words = std::vector<std::string>;

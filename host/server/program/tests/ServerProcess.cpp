@@ -3,29 +3,33 @@
 
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <future>
 #include <stdexcept>
-#include <utility>
-
-#include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace Tarvik::Server {
+
 namespace {
 
 std::vector<char*> Pointers(std::vector<std::string>& words) {
     std::vector<char*> pointers;
     pointers.reserve(words.size() + 1);
-    for (std::string& word : words) pointers.push_back(word.data());
+    for (std::string& word : words) {
+        pointers.push_back(word.data());
+    }
     pointers.push_back(nullptr);
     return pointers;
 }
 
 std::pair<int, int> MakePipe() {
     int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error("there is no pipe");
+    if (pipe2(ends, O_CLOEXEC) != 0) {
+        throw std::runtime_error("there is no pipe");
+    }
     return {ends[0], ends[1]};
 }
 
@@ -35,7 +39,9 @@ pid_t Start(std::vector<std::string> words, std::vector<std::string> variables, 
     const std::vector<char*> arguments = Pointers(words);
     const std::vector<char*> environment = Pointers(variables);
     const pid_t process = fork();
-    if (process != 0) return process;
+    if (process != 0) {
+        return process;
+    }
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     dup2(in, STDIN_FILENO);
     dup2(out, STDOUT_FILENO);
@@ -54,7 +60,9 @@ int WaitFor(pid_t process) {
 std::uint16_t PortIn(const std::string& line) {
     constexpr std::string_view kKey = "\"port\":\"";
     const std::size_t place = line.find(kKey);
-    if (line.find("\"started\"") == std::string::npos || place == std::string::npos) return 0;
+    if (line.find("\"started\"") == std::string::npos || place == std::string::npos) {
+        return 0;
+    }
     return static_cast<std::uint16_t>(std::stoi(line.substr(place + kKey.size())));
 }
 
@@ -77,7 +85,9 @@ ProgramEnd RunServerProgram(const std::vector<std::string>& words, const std::ve
     }
     close(fromChild);
     end.code = WaitFor(process);
-    if (!written) throw std::runtime_error("the program takes no input");
+    if (!written) {
+        throw std::runtime_error("the program takes no input");
+    }
     return end;
 }
 
@@ -99,15 +109,21 @@ ServerProcess::ServerProcess(const std::vector<std::string>& variables) {
             const std::scoped_lock lock(mutex_);
             log_ += line;
             const std::uint16_t found = told ? std::uint16_t{0} : PortIn(line);
-            if (found == 0) continue;
+            if (found == 0) {
+                continue;
+            }
             served.set_value(found);
             told = true;
         }
-        if (!told) served.set_value(0);
+        if (!told) {
+            served.set_value(0);
+        }
         std::fclose(lines);
     });
     port_ = port.get();
-    if (port_ != 0) return;
+    if (port_ != 0) {
+        return;
+    }
     End(SIGKILL);
     throw std::runtime_error("the server does not serve: " + Log());
 }
@@ -123,7 +139,9 @@ int ServerProcess::End(int signal) {
         code = WaitFor(process_);
         process_ = -1;
     }
-    if (reader_.joinable()) reader_.join();
+    if (reader_.joinable()) {
+        reader_.join();
+    }
     return code;
 }
 

@@ -4,10 +4,9 @@
 #include <cstdint>
 #include <mutex>
 #include <string>
+#include <sys/types.h>
 #include <thread>
 #include <vector>
-
-#include <sys/types.h>
 
 namespace Tarvik::Server {
 

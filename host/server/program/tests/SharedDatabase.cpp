@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/program/tests/SharedDatabase.h"
 
+#include <chrono>
+
+#include <nlohmann/json.hpp>
+
 #include "host/server/net/tests/TestServer.h"
 #include "host/server/storage/postgres/tests/PostgresServer.h"
 
-#include <chrono>
-#include <nlohmann/json.hpp>
-
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr const char* kPassword = "correct horse";
@@ -16,7 +18,9 @@ constexpr const char* kPassword = "correct horse";
 
 std::optional<std::string> Exchanger::Ask(std::uint16_t command, const std::string& text) {
     const RawReply reply = client_.Ask("POST", "/v1/exchange", EnvelopeBody(command, text), token_);
-    if (reply.status != 200) return std::nullopt;
+    if (reply.status != 200) {
+        return std::nullopt;
+    }
     return EnvelopeText(reply.body);
 }
 
@@ -62,7 +66,9 @@ int SharedDatabase::StatusOf(const ServerProcess& server, const std::string& tok
 bool SharedDatabase::ComesToRefuse(const ServerProcess& server, const std::string& token) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
     while (std::chrono::steady_clock::now() < end) {
-        if (StatusOf(server, token) == 401) return true;
+        if (StatusOf(server, token) == 401) {
+            return true;
+        }
     }
     return false;
 }

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/net/tests/RawClient.h"
-#include "host/server/program/tests/ServerProcess.h"
-
-#include <gtest/gtest.h>
-
-#include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json_fwd.hpp>
+
+#include "host/server/net/tests/RawClient.h"
+#include "host/server/program/tests/ServerProcess.h"
 
 namespace Tarvik::Server {
 

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/program/tests/SharedDatabase.h"
-
-#include <fmt/format.h>
-#include <gtest/gtest.h>
-
 #include <csignal>
-#include <nlohmann/json.hpp>
 #include <set>
 #include <thread>
 
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "host/server/program/tests/SharedDatabase.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using nlohmann::json;
@@ -68,7 +69,9 @@ void Save(Exchanger& client, int number, int round) {
 /// The rows are all those of one save.
 void ExpectWhole(const json& rows, const char* nameKey) {
     ASSERT_FALSE(rows.empty());
-    for (const json& row : rows) EXPECT_EQ(row[nameKey], std::to_string(rows.size() - 1));
+    for (const json& row : rows) {
+        EXPECT_EQ(row[nameKey], std::to_string(rows.size() - 1));
+    }
 }
 
 TEST_F(SharedDatabaseTest, EightClientsOfTwoProcessesLoseNothing) {
@@ -92,7 +95,9 @@ TEST_F(SharedDatabaseTest, EightClientsOfTwoProcessesLoseNothing) {
             }
         });
     }
-    for (std::thread& client : clients) client.join();
+    for (std::thread& client : clients) {
+        client.join();
+    }
     EXPECT_EQ(start.Load(12, R"({vi:"1000002"})")["times"].size(), 8U * kRounds);
     std::set<std::string> ids;
     for (const json& category : start.Load(3, R"({ui:"anna"})")) {

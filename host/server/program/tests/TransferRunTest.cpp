@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/program/Program.h"
-#include "host/server/accounts/SqliteAccounts.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
+#include <gtest/gtest.h>
+
+#include "host/server/accounts/SqliteAccounts.h"
+#include "host/server/program/Program.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using Words = std::vector<std::string>;

@@ -5,20 +5,30 @@
 
 namespace Tarvik::Server {
 
-std::size_t CopyIds::lengthOfId(const RemarkObject& object) const {
+std::size_t CopyIds::LengthOfId(const RemarkObject& object) const {
     const std::string& id = object.id;
-    if (object.type == kCategoryRemark) return categories_.contains(id) ? id.size() : 0;
-    if (object.type == kVoyageRemark) return voyages_.contains(id) ? id.size() : 0;
-    if (object.type != kPortCallRemark || id.empty()) return 0;
+    if (object.type == kCategoryRemark) {
+        return categories_.contains(id) ? id.size() : 0;
+    }
+    if (object.type == kVoyageRemark) {
+        return voyages_.contains(id) ? id.size() : 0;
+    }
+    if (object.type != kPortCallRemark || id.empty()) {
+        return 0;
+    }
     // A port's name may begin with digits: the longest id that is known counts, and some name is left.
     std::size_t length = std::min(id.find_first_not_of("0123456789"), id.size() - 1);
-    while (length > 0 && !voyages_.contains(id.substr(0, length))) --length;
+    while (length > 0 && !voyages_.contains(id.substr(0, length))) {
+        --length;
+    }
     return length;
 }
 
 RemarkObject CopyIds::Renamed(const RemarkObject& object) const {
-    const std::size_t length = lengthOfId(object);
-    if (length == 0) return object;
+    const std::size_t length = LengthOfId(object);
+    if (length == 0) {
+        return object;
+    }
     const auto& ids = object.type == kCategoryRemark ? categories_ : voyages_;
     return {object.type, ids.at(object.id.substr(0, length)) + object.id.substr(length)};
 }

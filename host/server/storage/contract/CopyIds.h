@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Records.h"
-
 #include <cstddef>
 #include <string>
 #include <unordered_map>
 #include <utility>
+
+#include "host/server/storage/contract/Records.h"
 
 namespace Tarvik::Server {
 
@@ -16,13 +16,13 @@ class CopyIds {
     void PutCategory(const std::string& before, std::string after) { categories_[before] = std::move(after); }
     void PutVoyage(const std::string& before, std::string after) { voyages_[before] = std::move(after); }
     /// Whether the object is one of these categories and voyages, or a port call of one.
-    bool Knows(const RemarkObject& object) const { return lengthOfId(object) > 0; }
+    bool Knows(const RemarkObject& object) const { return LengthOfId(object) > 0; }
     /// The object where it is added; the same for one that is not known here.
     RemarkObject Renamed(const RemarkObject& object) const;
 
   private:
     /// How much of the object's text is an id; 0 when none is known.
-    std::size_t lengthOfId(const RemarkObject& object) const;
+    std::size_t LengthOfId(const RemarkObject& object) const;
 
     std::unordered_map<std::string, std::string> categories_;
     std::unordered_map<std::string, std::string> voyages_;

@@ -29,7 +29,9 @@ enum class FaultReason {
 
 /// The kind that a reason belongs to.
 constexpr FaultKind KindOf(FaultReason reason) {
-    if (reason <= FaultReason::UnknownObject) return FaultKind::NotFound;
+    if (reason <= FaultReason::UnknownObject) {
+        return FaultKind::NotFound;
+    }
     return reason == FaultReason::StorageFailed ? FaultKind::Failed : FaultKind::Refused;
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Outcome.h"
-#include "host/server/storage/contract/Records.h"
-
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "host/server/storage/contract/Outcome.h"
+#include "host/server/storage/contract/Records.h"
 
 namespace Tarvik::Server {
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Outcome.h"
-#include "host/server/storage/contract/Records.h"
-
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "host/server/storage/contract/Outcome.h"
+#include "host/server/storage/contract/Records.h"
 
 namespace Tarvik::Server {
 

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/ConnectionText.h"
 
-#include "host/server/storage/postgres/PostgresError.h"
-
-#include <libpq-fe.h>
-
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -12,7 +8,12 @@
 #include <utility>
 #include <vector>
 
+#include <libpq-fe.h>
+
+#include "host/server/storage/postgres/PostgresError.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 /// One part of a connection text.
@@ -42,9 +43,13 @@ bool Parse(const std::string& text, std::vector<Part>& parts) {
     char* message = nullptr;
     const std::unique_ptr<PQconninfoOption, Free> options(PQconninfoParse(text.c_str(), &message));
     const std::unique_ptr<char, Free> ignored(message);
-    if (options == nullptr) return false;
+    if (options == nullptr) {
+        return false;
+    }
     for (const PQconninfoOption* option = options.get(); option->keyword != nullptr; ++option) {
-        if (option->val == nullptr) continue;
+        if (option->val == nullptr) {
+            continue;
+        }
         const bool secret = option->dispchar != nullptr && *option->dispchar == '*';
         parts.push_back({option->keyword, option->val, secret});
     }
@@ -54,9 +59,13 @@ bool Parse(const std::string& text, std::vector<Part>& parts) {
 /// An unescaped sign in a password of an address shifts where its host begins: part of the password would be
 /// taken for a host and be named in messages.
 bool IsAmbiguousAddress(const std::string& text) {
-    if (!text.starts_with("postgresql://") && !text.starts_with("postgres://")) return false;
+    if (!text.starts_with("postgresql://") && !text.starts_with("postgres://")) {
+        return false;
+    }
     const std::size_t last = text.rfind('@');
-    if (last == std::string::npos) return false;
+    if (last == std::string::npos) {
+        return false;
+    }
     const std::size_t first = text.find_first_of("@/?#", text.find("://") + 3);
     return first != last;
 }
@@ -66,10 +75,14 @@ bool Has(const std::vector<Part>& parts, std::string_view key) {
 }
 
 void Append(std::string& text, std::string_view key, std::string_view value) {
-    if (!text.empty()) text += ' ';
+    if (!text.empty()) {
+        text += ' ';
+    }
     text.append(key).append("='");
     for (const char sign : value) {
-        if (sign == '\'' || sign == '\\') text += '\\';
+        if (sign == '\'' || sign == '\\') {
+            text += '\\';
+        }
         text += sign;
     }
     text += '\'';
@@ -89,24 +102,34 @@ std::string ComplaintAboutConnection(const std::string& text) {
 
 std::string CompleteConnection(const std::string& text) {
     const std::string complaint = ComplaintAboutConnection(text);
-    if (!complaint.empty()) throw PostgresError("the connection text " + complaint);
+    if (!complaint.empty()) {
+        throw PostgresError("the connection text " + complaint);
+    }
     std::vector<Part> parts;
     Parse(text, parts);
     std::string complete;
-    for (const Part& part : parts) Append(complete, part.key, part.value);
+    for (const Part& part : parts) {
+        Append(complete, part.key, part.value);
+    }
     for (const auto& [key, value] : kDefaults) {
-        if (!Has(parts, key)) Append(complete, key, value);
+        if (!Has(parts, key)) {
+            Append(complete, key, value);
+        }
     }
     return complete;
 }
 
 std::string DescribeConnection(const std::string& text) {
     std::vector<Part> parts;
-    if (!ComplaintAboutConnection(text).empty() || !Parse(text, parts)) return "?";
+    if (!ComplaintAboutConnection(text).empty() || !Parse(text, parts)) {
+        return "?";
+    }
     std::string description = "postgresql";
     for (const char* key : {"host", "hostaddr", "port", "dbname", "user"}) {
         for (const Part& part : parts) {
-            if (part.key == key) description += " " + part.key + "=" + part.value;
+            if (part.key == key) {
+                description += " " + part.key + "=" + part.value;
+            }
         }
     }
     return description;
@@ -116,7 +139,9 @@ std::string WithoutSecrets(std::string message, const std::string& text) {
     std::vector<Part> parts;
     Parse(text, parts);
     for (const Part& part : parts) {
-        if (!part.secret || part.value.empty()) continue;
+        if (!part.secret || part.value.empty()) {
+            continue;
+        }
         std::size_t place = 0;
         while ((place = message.find(part.value, place)) != std::string::npos) {
             message.replace(place, part.value.size(), "***");

@@ -24,7 +24,9 @@ Outcome<std::string> PostgresCatalog::CreateCategory(const std::string& owner, c
 Status PostgresCatalog::RenameCategory(const std::string& owner, const std::string& id,
                                        const std::string& name) {
     return session_.Write([&](PostgresConnection& connection) -> Status {
-        if (!CategoryState(connection, owner, id, RowLock::Update)) return FaultReason::UnknownCategory;
+        if (!CategoryState(connection, owner, id, RowLock::Update)) {
+            return FaultReason::UnknownCategory;
+        }
         connection.Run("UPDATE categories SET cn = $3 WHERE owner = $1 AND ci = $2", owner, id, name);
         return Done{};
     });
@@ -34,7 +36,9 @@ Status PostgresCatalog::MoveCategory(const std::string& owner, const std::string
     return session_.Write([&](PostgresConnection& connection) -> Status {
         Status allowed = CheckMove(CategoryState(connection, owner, id, RowLock::Update), to,
                                    FaultReason::UnknownCategory);
-        if (!allowed) return allowed;
+        if (!allowed) {
+            return allowed;
+        }
         connection.Run("UPDATE categories SET cd = $3 WHERE owner = $1 AND ci = $2", owner, id,
                        static_cast<int>(to));
         return Done{};
@@ -45,8 +49,12 @@ Outcome<std::string> PostgresCatalog::CreateVoyage(const std::string& owner, con
                                                    const VoyageRecord& voyage) {
     return session_.Write([&](PostgresConnection& connection) -> Outcome<std::string> {
         const auto state = CategoryState(connection, owner, categoryId, RowLock::Share);
-        if (!state) return FaultReason::UnknownCategory;
-        if (*state != DeletionState::InUse) return FaultReason::CategoryNotInUse;
+        if (!state) {
+            return FaultReason::UnknownCategory;
+        }
+        if (*state != DeletionState::InUse) {
+            return FaultReason::CategoryNotInUse;
+        }
         std::string id = TakeId(connection);
         const Figures& f = voyage.figures;
         connection.Run(
@@ -63,7 +71,9 @@ template <class... Values>
 Status PostgresCatalog::UpdateVoyage(std::string_view sql, const std::string& owner, const std::string& id,
                                      const Values&... values) {
     return session_.Write([&](PostgresConnection& connection) -> Status {
-        if (!VoyageState(connection, owner, id, RowLock::Update)) return FaultReason::UnknownVoyage;
+        if (!VoyageState(connection, owner, id, RowLock::Update)) {
+            return FaultReason::UnknownVoyage;
+        }
         connection.Run(sql, owner, id, values...);
         return Done{};
     });
@@ -78,7 +88,9 @@ Status PostgresCatalog::MoveVoyage(const std::string& owner, const std::string& 
     return session_.Write([&](PostgresConnection& connection) -> Status {
         Status allowed =
             CheckMove(VoyageState(connection, owner, id, RowLock::Update), to, FaultReason::UnknownVoyage);
-        if (!allowed) return allowed;
+        if (!allowed) {
+            return allowed;
+        }
         connection.Run("UPDATE voyages SET vd = $3 WHERE owner = $1 AND vi = $2", owner, id,
                        static_cast<int>(to));
         return Done{};

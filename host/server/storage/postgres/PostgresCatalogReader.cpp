@@ -4,6 +4,7 @@
 #include <map>
 
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr std::string_view kCategories =
@@ -52,7 +53,9 @@ std::vector<CategoryRecord> ReadCatalog(PostgresConnection& connection, const st
     const PostgresRows voyage = connection.Run(kVoyages, owner);
     for (int row = 0; row < voyage.Count(); ++row) {
         const auto place = places.find(voyage.Text(row, 0));
-        if (place != places.end()) categories[place->second].voyages.push_back(VoyageOf(voyage, row));
+        if (place != places.end()) {
+            categories[place->second].voyages.push_back(VoyageOf(voyage, row));
+        }
     }
     return categories;
 }

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/PostgresConnection.h"
 
-#include "host/server/storage/postgres/ConnectionText.h"
-
 #include <map>
+
 #include <pqxx/pqxx>
 
+#include "host/server/storage/postgres/ConnectionText.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 /// Changes are synced to disk even where the data base is set otherwise. The limits end what would hold locks
@@ -53,7 +55,9 @@ auto PostgresConnection::Guarded(Operation&& operation) -> decltype(operation())
     } catch (const PostgresError&) {
         throw;
     } catch (const std::exception& error) {
-        if (link_ != nullptr) link_->broken = true;
+        if (link_ != nullptr) {
+            link_->broken = true;
+        }
         throw PostgresError(WithoutSecrets(error.what(), connectionText_));
     }
 }
@@ -64,7 +68,9 @@ PostgresConnection::PostgresConnection(const std::string& connectionText) : conn
     Begin(Mode::Write);
     const bool utf8 = Execute(kSessionSettings).Flag(0, 0);
     Commit();
-    if (!utf8) throw PostgresError("the data base does not keep its texts in UTF-8");
+    if (!utf8) {
+        throw PostgresError("the data base does not keep its texts in UTF-8");
+    }
 }
 
 PostgresConnection::~PostgresConnection() = default;
@@ -105,7 +111,9 @@ PostgresRows PostgresConnection::RunTexts(std::string_view sql, const std::vecto
 
 const std::string& PostgresConnection::Prepared(std::string_view sql) {
     const auto known = link_->prepared.find(sql);
-    if (known != link_->prepared.end()) return known->second;
+    if (known != link_->prepared.end()) {
+        return known->second;
+    }
     const std::string name = "s" + std::to_string(link_->prepared.size());
     link_->connection.prepare(name, std::string(sql));
     return link_->prepared.emplace(sql, name).first->second;

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/postgres/PostgresError.h"
-#include "host/server/storage/postgres/PostgresRows.h"
-#include "host/server/storage/postgres/PostgresText.h"
-
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "host/server/storage/postgres/PostgresError.h"
+#include "host/server/storage/postgres/PostgresRows.h"
+#include "host/server/storage/postgres/PostgresText.h"
 
 namespace Tarvik::Server {
 

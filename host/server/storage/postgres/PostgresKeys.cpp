@@ -2,15 +2,20 @@
 #include "host/server/storage/postgres/PostgresKeys.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 std::optional<DeletionState> FirstState(const PostgresRows& rows) {
-    if (rows.Empty()) return std::nullopt;
+    if (rows.Empty()) {
+        return std::nullopt;
+    }
     return static_cast<DeletionState>(rows.Integer32(0, 0));
 }
 
 std::string WithLock(const char* sql, RowLock lock, const char* share, const char* update) {
-    if (lock == RowLock::None) return sql;
+    if (lock == RowLock::None) {
+        return sql;
+    }
     return std::string(sql) + (lock == RowLock::Share ? share : update);
 }
 

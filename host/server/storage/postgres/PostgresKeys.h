@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Records.h"
-#include "host/server/storage/postgres/PostgresConnection.h"
-
 #include <optional>
 #include <string>
+
+#include "host/server/storage/contract/Records.h"
+#include "host/server/storage/postgres/PostgresConnection.h"
 
 namespace Tarvik::Server {
 

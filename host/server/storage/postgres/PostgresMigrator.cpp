@@ -4,6 +4,7 @@
 #include "host/server/storage/postgres/PostgresMigrations.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// Any number will do as long as every version of this program takes the same ("Seap").
@@ -31,7 +32,9 @@ constexpr const char* kMakeVersion =
 /// Version of the tables, 0 when there are none.
 std::int64_t VersionOf(PostgresConnection& connection) {
     const PostgresRows own = connection.Execute(kOwnTable);
-    if (!own.Flag(0, 0)) throw PostgresError("the data base has no schema that the user may use");
+    if (!own.Flag(0, 0)) {
+        throw PostgresError("the data base has no schema that the user may use");
+    }
     if (!own.Flag(0, 1)) {
         if (connection.Execute(kAnyTable).Flag(0, 0)) {
             throw PostgresError("the data base holds tables of another program");
@@ -58,8 +61,12 @@ void MigratePostgres(PostgresConnection& connection) {
                             ", made by a newer program; this one reads versions up to " +
                             std::to_string(newest));
     }
-    if (version == newest) return;
-    if (version == 0) connection.Execute(kMakeVersion);
+    if (version == newest) {
+        return;
+    }
+    if (version == 0) {
+        connection.Execute(kMakeVersion);
+    }
     for (auto step = static_cast<std::size_t>(version); step < steps.size(); ++step) {
         connection.Execute(std::string(steps[step]));
     }

@@ -10,27 +10,31 @@ Status PostgresOwnerWriter::Write(const OwnerCopy& copy) {
     owner_ = copy.owner;
     ids_ = CopyIds();
     for (const CategoryCopy& category : copy.categories) {
-        const std::string categoryId = newId(category.id);
+        const std::string categoryId = NewId(category.id);
         ids_.PutCategory(category.id, categoryId);
         connection_.Run("INSERT INTO categories (owner, ci, cn, cd) VALUES ($1, $2, $3, $4)", owner_,
                         categoryId, category.name, static_cast<int>(category.state));
         for (const VoyageCopy& voyage : category.voyages) {
-            const std::string voyageId = newId(voyage.voyage.id);
+            const std::string voyageId = NewId(voyage.voyage.id);
             ids_.PutVoyage(voyage.voyage.id, voyageId);
-            writeVoyage(voyage.voyage, categoryId, voyageId);
-            Status written = writeSchedule(voyage, voyageId);
-            if (!written) return written;
+            WriteVoyage(voyage.voyage, categoryId, voyageId);
+            Status written = WriteSchedule(voyage, voyageId);
+            if (!written) {
+                return written;
+            }
         }
     }
-    for (const RemarkCopy& remark : copy.remarks) writeRemark(remark);
+    for (const RemarkCopy& remark : copy.remarks) {
+        WriteRemark(remark);
+    }
     return Done{};
 }
 
-std::string PostgresOwnerWriter::newId(const std::string& before) {
+std::string PostgresOwnerWriter::NewId(const std::string& before) {
     return keepIds_ ? before : TakeId(connection_);
 }
 
-void PostgresOwnerWriter::writeVoyage(const VoyageRecord& voyage, const std::string& categoryId,
+void PostgresOwnerWriter::WriteVoyage(const VoyageRecord& voyage, const std::string& categoryId,
                                       const std::string& id) {
     const Figures& f = voyage.figures;
     connection_.Run(
@@ -42,21 +46,23 @@ void PostgresOwnerWriter::writeVoyage(const VoyageRecord& voyage, const std::str
         f[5], f[6]);
 }
 
-Status PostgresOwnerWriter::writeSchedule(const VoyageCopy& copy, const std::string& voyageId) {
+Status PostgresOwnerWriter::WriteSchedule(const VoyageCopy& copy, const std::string& voyageId) {
     int place = 0;
     for (const std::string& time : copy.aisTimes) {
         connection_.Run("INSERT INTO ais_times (owner, vi, place, time) VALUES ($1, $2, $3, $4)", owner_,
                         voyageId, ++place, time);
     }
     Status calls = InsertPortCalls(connection_, owner_, voyageId, copy.calls);
-    if (!calls || !copy.book) return calls;
-    const std::string bookId = newId(copy.book->id);
+    if (!calls || !copy.book) {
+        return calls;
+    }
+    const std::string bookId = NewId(copy.book->id);
     connection_.Run("INSERT INTO position_books (owner, pbi, vi, eta) VALUES ($1, $2, $3, $4)", owner_,
                     bookId, voyageId, copy.book->date);
     return InsertBookRows(connection_, owner_, bookId, copy.book->rows);
 }
 
-void PostgresOwnerWriter::writeRemark(const RemarkCopy& copy) {
+void PostgresOwnerWriter::WriteRemark(const RemarkCopy& copy) {
     const RemarkObject object = ids_.Renamed(copy.object);
     connection_.Run(
         "INSERT INTO remarks (owner, type, objectid, seq, subject, body, cdate, udate) "

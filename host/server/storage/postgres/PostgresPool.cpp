@@ -26,13 +26,13 @@ std::unique_ptr<PostgresConnection> PostgresPool::Take(PostgresConnection::Mode 
 }
 
 std::unique_ptr<PostgresConnection> PostgresPool::begin(PostgresConnection::Mode mode) {
-    if (auto idle = takeIdle()) {
+    if (auto idle = TakeIdle()) {
         try {
             idle->Begin(mode);
             return idle;
         } catch (const PostgresError&) {
             // Nothing was asked of it yet, so a new one can take its place.
-            dropIdle();
+            DropIdle();
         }
     }
     auto made = std::make_unique<PostgresConnection>(connectionText_);
@@ -45,26 +45,30 @@ void PostgresPool::GiveBack(std::unique_ptr<PostgresConnection> connection) noex
         connection->Rollback();
         if (!connection->Usable()) {
             connection.reset();
-            dropIdle();
+            DropIdle();
         }
     }
     {
         const std::scoped_lock lock(mutex_);
-        if (connection != nullptr) idle_.push_back(std::move(connection));
+        if (connection != nullptr) {
+            idle_.push_back(std::move(connection));
+        }
         ++free_;
     }
     freed_.notify_one();
 }
 
-std::unique_ptr<PostgresConnection> PostgresPool::takeIdle() {
+std::unique_ptr<PostgresConnection> PostgresPool::TakeIdle() {
     const std::scoped_lock lock(mutex_);
-    if (idle_.empty()) return nullptr;
+    if (idle_.empty()) {
+        return nullptr;
+    }
     auto connection = std::move(idle_.back());
     idle_.pop_back();
     return connection;
 }
 
-void PostgresPool::dropIdle() noexcept {
+void PostgresPool::DropIdle() noexcept {
     std::vector<std::unique_ptr<PostgresConnection>> dropped;
     {
         const std::scoped_lock lock(mutex_);

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/postgres/PostgresConnection.h"
-
 #include <condition_variable>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
+
+#include "host/server/storage/postgres/PostgresConnection.h"
 
 namespace Tarvik::Server {
 
@@ -26,9 +26,9 @@ class PostgresPool {
     void GiveBack(std::unique_ptr<PostgresConnection> connection) noexcept;
 
   private:
-    std::unique_ptr<PostgresConnection> takeIdle();
+    std::unique_ptr<PostgresConnection> TakeIdle();
     std::unique_ptr<PostgresConnection> begin(PostgresConnection::Mode mode);
-    void dropIdle() noexcept;
+    void DropIdle() noexcept;
 
     std::string connectionText_;
     std::mutex mutex_;

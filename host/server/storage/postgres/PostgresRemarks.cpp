@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/PostgresRemarks.h"
 
-#include "host/server/storage/postgres/PostgresKeys.h"
-
 #include <algorithm>
 
+#include "host/server/storage/postgres/PostgresKeys.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 /// Whether the text begins with the id of a known voyage and goes on with a port's name, which may begin with
@@ -15,14 +16,18 @@ bool PortCallKnown(PostgresConnection& connection, const std::string& owner, con
     constexpr std::size_t kLongestId = 19;
     const std::size_t digits = std::min({id.find_first_not_of("0123456789"), id.size() - 1, kLongestId});
     for (std::size_t length = digits; length > 0; --length) {
-        if (VoyageState(connection, owner, id.substr(0, length), lock)) return true;
+        if (VoyageState(connection, owner, id.substr(0, length), lock)) {
+            return true;
+        }
     }
     return false;
 }
 
 bool ObjectKnown(PostgresConnection& connection, const std::string& owner, const RemarkObject& object,
                  RowLock lock) {
-    if (object.id.empty()) return false;
+    if (object.id.empty()) {
+        return false;
+    }
     switch (object.type) {
         case kCategoryRemark:
             return CategoryState(connection, owner, object.id, lock).has_value();
@@ -40,7 +45,9 @@ bool ObjectKnown(PostgresConnection& connection, const std::string& owner, const
 Outcome<std::vector<RemarkRecord>> PostgresRemarks::LoadRemarks(const std::string& owner,
                                                                 const RemarkObject& object) {
     return session_.Read([&](PostgresConnection& connection) -> Outcome<std::vector<RemarkRecord>> {
-        if (!ObjectKnown(connection, owner, object, RowLock::None)) return FaultReason::UnknownObject;
+        if (!ObjectKnown(connection, owner, object, RowLock::None)) {
+            return FaultReason::UnknownObject;
+        }
         const PostgresRows rows = connection.Run(
             "SELECT seq, subject, body, cdate, udate FROM remarks WHERE owner = $1 AND type = $2 "
             "AND md5(objectid) = md5($3::text) AND objectid = $3 ORDER BY seq",
@@ -58,13 +65,17 @@ Outcome<std::vector<RemarkRecord>> PostgresRemarks::LoadRemarks(const std::strin
 Status PostgresRemarks::AddRemark(const std::string& owner, const RemarkObject& object,
                                   const RemarkRecord& remark) {
     return session_.Write([&](PostgresConnection& connection) -> Status {
-        if (!ObjectKnown(connection, owner, object, RowLock::Share)) return FaultReason::UnknownObject;
+        if (!ObjectKnown(connection, owner, object, RowLock::Share)) {
+            return FaultReason::UnknownObject;
+        }
         const PostgresRows inserted = connection.Run(
             "INSERT INTO remarks (owner, type, objectid, seq, subject, body, cdate, udate) "
             "VALUES ($1, $2, $3, $4, $5, $6, $7, $8) ON CONFLICT DO NOTHING",
             owner, object.type, object.id, remark.seq, remark.subject, remark.body, remark.created,
             remark.updated);
-        if (inserted.Changes() == 0) return FaultReason::RemarkExists;
+        if (inserted.Changes() == 0) {
+            return FaultReason::RemarkExists;
+        }
         return Done{};
     });
 }
@@ -72,24 +83,32 @@ Status PostgresRemarks::AddRemark(const std::string& owner, const RemarkObject& 
 Status PostgresRemarks::ChangeRemark(const std::string& owner, const RemarkObject& object,
                                      const RemarkRecord& remark) {
     return session_.Write([&](PostgresConnection& connection) -> Status {
-        if (!ObjectKnown(connection, owner, object, RowLock::Share)) return FaultReason::UnknownObject;
+        if (!ObjectKnown(connection, owner, object, RowLock::Share)) {
+            return FaultReason::UnknownObject;
+        }
         const PostgresRows changed = connection.Run(
             "UPDATE remarks SET subject = $5, body = $6, udate = $7 WHERE owner = $1 AND type = $2 "
             "AND md5(objectid) = md5($3::text) AND objectid = $3 AND seq = $4",
             owner, object.type, object.id, remark.seq, remark.subject, remark.body, remark.updated);
-        if (changed.Changes() == 0) return FaultReason::UnknownRemark;
+        if (changed.Changes() == 0) {
+            return FaultReason::UnknownRemark;
+        }
         return Done{};
     });
 }
 
 Status PostgresRemarks::DeleteRemark(const std::string& owner, const RemarkObject& object, std::int32_t seq) {
     return session_.Write([&](PostgresConnection& connection) -> Status {
-        if (!ObjectKnown(connection, owner, object, RowLock::Share)) return FaultReason::UnknownObject;
+        if (!ObjectKnown(connection, owner, object, RowLock::Share)) {
+            return FaultReason::UnknownObject;
+        }
         const PostgresRows erased = connection.Run(
             "DELETE FROM remarks WHERE owner = $1 AND type = $2 AND md5(objectid) = md5($3::text) "
             "AND objectid = $3 AND seq = $4",
             owner, object.type, object.id, seq);
-        if (erased.Changes() == 0) return FaultReason::UnknownRemark;
+        if (erased.Changes() == 0) {
+            return FaultReason::UnknownRemark;
+        }
         return Done{};
     });
 }

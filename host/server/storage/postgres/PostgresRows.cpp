@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/PostgresRows.h"
 
-#include "host/server/storage/postgres/PostgresError.h"
-
 #include <charconv>
-#include <pqxx/result>
-#include <pqxx/row>
 #include <string_view>
 
+#include <pqxx/result>
+#include <pqxx/row>
+
+#include "host/server/storage/postgres/PostgresError.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 std::string_view Field(const pqxx::result& result, int row, int column) {

@@ -5,6 +5,7 @@
 #include <set>
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// In the order of the keys: who inserts keys in one order cannot wait in a circle.
@@ -18,9 +19,13 @@ std::vector<Record> Sorted(std::vector<Record> records) {
 /// `inserted` gives the numbers that were free. A number that the request holds twice is taken by its first.
 template <class Record>
 Status CheckInserted(const PostgresRows& inserted, const std::vector<Record>& asked) {
-    if (static_cast<std::size_t>(inserted.Count()) == asked.size()) return Done{};
+    if (static_cast<std::size_t>(inserted.Count()) == asked.size()) {
+        return Done{};
+    }
     std::set<std::int32_t> free;
-    for (int row = 0; row < inserted.Count(); ++row) free.insert(inserted.Integer32(row, 0));
+    for (int row = 0; row < inserted.Count(); ++row) {
+        free.insert(inserted.Integer32(row, 0));
+    }
     for (const Record& record : asked) {
         if (free.erase(record.order) == 0) {
             return Fault{FaultReason::RowExists, std::to_string(record.order)};
@@ -63,7 +68,9 @@ std::vector<BookRowRecord> ReadBookRows(PostgresConnection& connection, const st
 
 Status InsertPortCalls(PostgresConnection& connection, const std::string& owner, const std::string& voyageId,
                        const std::vector<PortCallRecord>& calls) {
-    if (calls.empty()) return Done{};
+    if (calls.empty()) {
+        return Done{};
+    }
     using Call = PortCallRecord;
     const std::vector<Call> sorted = Sorted(calls);
     const PostgresRows inserted = connection.Run(
@@ -80,7 +87,9 @@ Status InsertPortCalls(PostgresConnection& connection, const std::string& owner,
 
 Status InsertBookRows(PostgresConnection& connection, const std::string& owner, const std::string& bookId,
                       const std::vector<BookRowRecord>& rows) {
-    if (rows.empty()) return Done{};
+    if (rows.empty()) {
+        return Done{};
+    }
     using Row = BookRowRecord;
     const std::vector<Row> sorted = Sorted(rows);
     const PostgresRows inserted = connection.Run(

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Outcome.h"
-#include "host/server/storage/postgres/PostgresPool.h"
-
 #include <string>
 #include <utility>
+
+#include "host/server/storage/contract/Outcome.h"
+#include "host/server/storage/postgres/PostgresPool.h"
 
 namespace Tarvik::Server {
 
@@ -38,7 +38,9 @@ class PostgresSession {
         try {
             PostgresLease lease(pool_, mode);
             auto outcome = work(*lease);
-            if (outcome.Succeeded()) (*lease).Commit();
+            if (outcome.Succeeded()) {
+                (*lease).Commit();
+            }
             return outcome;
         } catch (const std::exception& error) {
             return Fault{FaultReason::StorageFailed, error.what()};

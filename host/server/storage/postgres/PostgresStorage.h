@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
+#include <string>
+
 #include "host/server/storage/contract/Storage.h"
 #include "host/server/storage/postgres/PostgresCatalog.h"
 #include "host/server/storage/postgres/PostgresRemarks.h"
 #include "host/server/storage/postgres/PostgresSchedule.h"
 #include "host/server/storage/postgres/PostgresSession.h"
-
-#include <memory>
-#include <string>
 
 namespace Tarvik::Server {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/PostgresText.h"
 
-#include "host/server/storage/postgres/PostgresError.h"
-
 #include <array>
 #include <charconv>
+
+#include "host/server/storage/postgres/PostgresError.h"
 
 namespace Tarvik::Server {
 
@@ -24,7 +24,9 @@ std::string PostgresText(std::string_view text) {
 void AppendElement(std::string& array, std::string_view element) {
     array += array.size() > 1 ? ",\"" : "\"";
     for (const char sign : element) {
-        if (sign == '"' || sign == '\\') array += '\\';
+        if (sign == '"' || sign == '\\') {
+            array += '\\';
+        }
         array += sign;
     }
     array += '"';

@@ -34,7 +34,9 @@ void AppendElement(std::string& array, std::string_view element);
 template <class Rows, class Project>
 std::string PostgresArray(const Rows& rows, Project project) {
     std::string array = "{";
-    for (const auto& row : rows) AppendElement(array, PostgresText(std::invoke(project, row)));
+    for (const auto& row : rows) {
+        AppendElement(array, PostgresText(std::invoke(project, row)));
+    }
     array += '}';
     return array;
 }

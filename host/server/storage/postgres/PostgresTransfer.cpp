@@ -1,20 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/PostgresTransfer.h"
 
-#include "host/server/storage/contract/CopyIds.h"
-#include "host/server/storage/postgres/PostgresCatalogReader.h"
-#include "host/server/storage/postgres/PostgresScheduleRows.h"
-#include "host/server/storage/postgres/PostgresOwnerWriter.h"
-
 #include <utility>
 
+#include "host/server/storage/contract/CopyIds.h"
+#include "host/server/storage/postgres/PostgresCatalogReader.h"
+#include "host/server/storage/postgres/PostgresOwnerWriter.h"
+#include "host/server/storage/postgres/PostgresScheduleRows.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 std::vector<std::string> FirstColumn(const PostgresRows& found) {
     std::vector<std::string> texts;
     texts.reserve(static_cast<std::size_t>(found.Count()));
-    for (int row = 0; row < found.Count(); ++row) texts.push_back(found.Text(row, 0));
+    for (int row = 0; row < found.Count(); ++row) {
+        texts.push_back(found.Text(row, 0));
+    }
     return texts;
 }
 
@@ -22,7 +25,9 @@ std::optional<BookRecord> ReadBook(PostgresConnection& connection, const std::st
                                    const std::string& voyageId) {
     const PostgresRows found =
         connection.Run("SELECT pbi, eta FROM position_books WHERE owner = $1 AND vi = $2", owner, voyageId);
-    if (found.Empty()) return std::nullopt;
+    if (found.Empty()) {
+        return std::nullopt;
+    }
     BookRecord book{found.Text(0, 0), found.Text(0, 1), {}};
     book.rows = ReadBookRows(connection, owner, book.id);
     return book;
@@ -47,7 +52,9 @@ std::vector<RemarkCopy> ReadRemarks(PostgresConnection& connection, const std::s
         RemarkCopy copy{{found.Integer32(row, 0), found.Text(row, 1)},
                         {found.Integer32(row, 2), found.Text(row, 3), found.Text(row, 4),
                          found.Integer(row, 5), found.Integer(row, 6)}};
-        if (known.Knows(copy.object)) remarks.push_back(std::move(copy));
+        if (known.Knows(copy.object)) {
+            remarks.push_back(std::move(copy));
+        }
     }
     return remarks;
 }
@@ -73,10 +80,16 @@ std::int64_t NextId(PostgresConnection& connection) {
 /// Lets the sequence go on behind the ids that are about to be added, if it has not reached them yet. From
 /// the look to the end of the transaction nobody else takes an id.
 bool SkipIds(PostgresConnection& connection, const CopyManifest& manifest) {
-    if (manifest.highestId == 0) return true;
-    if (NextId(connection) > manifest.lowestId) return false;
+    if (manifest.highestId == 0) {
+        return true;
+    }
+    if (NextId(connection) > manifest.lowestId) {
+        return false;
+    }
     connection.Execute("ALTER SEQUENCE ids NO CYCLE");
-    if (NextId(connection) > manifest.lowestId) return false;
+    if (NextId(connection) > manifest.lowestId) {
+        return false;
+    }
     connection.Execute("ALTER SEQUENCE ids RESTART WITH " + std::to_string(manifest.highestId + 1));
     return true;
 }
@@ -121,16 +134,24 @@ Outcome<OwnerCopy> PostgresTransfer::ReadOwner(const std::string& owner) {
 Outcome<AddReport> PostgresTransfer::AddOwners(const CopyManifest& manifest, const OwnerSource& source) {
     return session_.Write([&](PostgresConnection& connection) -> Outcome<AddReport> {
         for (const std::string& owner : manifest.owners) {
-            if (!manifest.besideOthers && HasRecords(connection, owner)) return AddReport{false, owner};
+            if (!manifest.besideOthers && HasRecords(connection, owner)) {
+                return AddReport{false, owner};
+            }
         }
         const AddReport report{SkipIds(connection, manifest), {}};
         PostgresOwnerWriter writer(connection, report.idsKept);
         for (;;) {
             const auto copy = source();
-            if (!copy) return copy.GetFault();
-            if (!copy.Value()) return report;
+            if (!copy) {
+                return copy.GetFault();
+            }
+            if (!copy.Value()) {
+                return report;
+            }
             const Status written = writer.Write(*copy.Value());
-            if (!written) return written.GetFault();
+            if (!written) {
+                return written.GetFault();
+            }
         }
     });
 }

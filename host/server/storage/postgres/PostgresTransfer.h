@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/TransferStorage.h"
-#include "host/server/storage/postgres/PostgresSession.h"
-
 #include <memory>
 #include <string>
+
+#include "host/server/storage/contract/TransferStorage.h"
+#include "host/server/storage/postgres/PostgresSession.h"
 
 namespace Tarvik::Server {
 

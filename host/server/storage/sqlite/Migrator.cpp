@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/Migrator.h"
 
+#include <string>
+
 #include "host/server/storage/sqlite/Migrations.h"
 #include "host/server/storage/sqlite/SqliteTransaction.h"
 
-#include <string>
-
 namespace Tarvik::Server {
+
 namespace {
 
 std::int64_t VersionOf(SqliteDatabase& database) {
@@ -24,7 +25,9 @@ void CheckVersion(SqliteDatabase& database) {
                           std::to_string(newest));
     }
     const bool foreign = version == 0 && database.QueryInteger("SELECT count(*) FROM sqlite_master") > 0;
-    if (version < 0 || foreign) throw SqliteError("the file is a data base of another program");
+    if (version < 0 || foreign) {
+        throw SqliteError("the file is a data base of another program");
+    }
 }
 
 void Migrate(SqliteDatabase& database) {

@@ -27,7 +27,9 @@ Outcome<std::string> SqliteCatalog::CreateCategory(const std::string& owner, con
 Status SqliteCatalog::RenameCategory(const std::string& owner, const std::string& id,
                                      const std::string& name) {
     return session_.Write([&](SqliteDatabase& database) -> Status {
-        if (!CategoryState(database, owner, id)) return FaultReason::UnknownCategory;
+        if (!CategoryState(database, owner, id)) {
+            return FaultReason::UnknownCategory;
+        }
         SqliteStatement(database, "UPDATE categories SET cn = ? WHERE owner = ? AND ci = ?")
             .Bind(name, owner, id)
             .Run();
@@ -38,7 +40,9 @@ Status SqliteCatalog::RenameCategory(const std::string& owner, const std::string
 Status SqliteCatalog::MoveCategory(const std::string& owner, const std::string& id, DeletionState to) {
     return session_.Write([&](SqliteDatabase& database) -> Status {
         Status allowed = CheckMove(CategoryState(database, owner, id), to, FaultReason::UnknownCategory);
-        if (!allowed) return allowed;
+        if (!allowed) {
+            return allowed;
+        }
         SqliteStatement(database, "UPDATE categories SET cd = ? WHERE owner = ? AND ci = ?")
             .Bind(static_cast<int>(to), owner, id)
             .Run();
@@ -50,8 +54,12 @@ Outcome<std::string> SqliteCatalog::CreateVoyage(const std::string& owner, const
                                                  const VoyageRecord& voyage) {
     return session_.Write([&](SqliteDatabase& database) -> Outcome<std::string> {
         const auto state = CategoryState(database, owner, categoryId);
-        if (!state) return FaultReason::UnknownCategory;
-        if (*state != DeletionState::InUse) return FaultReason::CategoryNotInUse;
+        if (!state) {
+            return FaultReason::UnknownCategory;
+        }
+        if (*state != DeletionState::InUse) {
+            return FaultReason::CategoryNotInUse;
+        }
         std::string id = TakeId(database);
         const Figures& f = voyage.figures;
         SqliteStatement(database,
@@ -69,7 +77,9 @@ template <class... Values>
 Status SqliteCatalog::UpdateVoyage(std::string_view sql, const std::string& owner, const std::string& id,
                                    const Values&... values) {
     return session_.Write([&](SqliteDatabase& database) -> Status {
-        if (!VoyageState(database, owner, id)) return FaultReason::UnknownVoyage;
+        if (!VoyageState(database, owner, id)) {
+            return FaultReason::UnknownVoyage;
+        }
         SqliteStatement(database, sql).Bind(values..., owner, id).Run();
         return Done{};
     });
@@ -82,7 +92,9 @@ Status SqliteCatalog::RenameVoyage(const std::string& owner, const std::string& 
 Status SqliteCatalog::MoveVoyage(const std::string& owner, const std::string& id, DeletionState to) {
     return session_.Write([&](SqliteDatabase& database) -> Status {
         Status allowed = CheckMove(VoyageState(database, owner, id), to, FaultReason::UnknownVoyage);
-        if (!allowed) return allowed;
+        if (!allowed) {
+            return allowed;
+        }
         SqliteStatement(database, "UPDATE voyages SET vd = ? WHERE owner = ? AND vi = ?")
             .Bind(static_cast<int>(to), owner, id)
             .Run();

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/SqliteCatalogReader.h"
 
-#include "host/server/storage/sqlite/SqliteStatement.h"
-
 #include <map>
 
+#include "host/server/storage/sqlite/SqliteStatement.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr std::string_view kCategories =
@@ -54,7 +55,9 @@ std::vector<CategoryRecord> ReadCatalog(SqliteDatabase& database, const std::str
     voyage.Bind(owner);
     while (voyage.Step()) {
         const auto place = places.find(voyage.Text(0));
-        if (place != places.end()) categories[place->second].voyages.push_back(ReadVoyage(voyage));
+        if (place != places.end()) {
+            categories[place->second].voyages.push_back(ReadVoyage(voyage));
+        }
     }
     return categories;
 }

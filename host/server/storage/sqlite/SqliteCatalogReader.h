@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Records.h"
-#include "host/server/storage/sqlite/SqliteDatabase.h"
-
 #include <string>
 #include <vector>
+
+#include "host/server/storage/contract/Records.h"
+#include "host/server/storage/sqlite/SqliteDatabase.h"
 
 namespace Tarvik::Server {
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/SqliteDatabase.h"
 
-#include "host/server/storage/sqlite/SqliteStatement.h"
+#include <utility>
 
 #include <sqlite3.h>
 
-#include <utility>
+#include "host/server/storage/sqlite/SqliteStatement.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr int kBusyMilliseconds = 10000;
@@ -35,7 +36,9 @@ SqliteDatabase::SqliteDatabase(const std::string& path) {
 }
 
 SqliteDatabase::~SqliteDatabase() {
-    for (const auto& [sql, statement] : statements_) sqlite3_finalize(statement);
+    for (const auto& [sql, statement] : statements_) {
+        sqlite3_finalize(statement);
+    }
     sqlite3_close_v2(handle_);
 }
 
@@ -47,14 +50,20 @@ void SqliteDatabase::Execute(std::string_view sql) {
 
 std::int64_t SqliteDatabase::QueryInteger(std::string_view sql) {
     SqliteStatement statement(*this, sql);
-    if (!statement.Step()) throw SqliteError("the data base gave no row where one was expected");
+    if (!statement.Step()) {
+        throw SqliteError("the data base gave no row where one was expected");
+    }
     return statement.Integer(0);
 }
 
 sqlite3_stmt* SqliteDatabase::Borrow(std::string_view sql) {
     const auto kept = statements_.find(sql);
-    if (kept != statements_.end() && kept->second != nullptr) return std::exchange(kept->second, nullptr);
-    if (kept == statements_.end()) statements_.emplace(sql, nullptr);
+    if (kept != statements_.end() && kept->second != nullptr) {
+        return std::exchange(kept->second, nullptr);
+    }
+    if (kept == statements_.end()) {
+        statements_.emplace(sql, nullptr);
+    }
     sqlite3_stmt* statement = nullptr;
     const int size = static_cast<int>(sql.size());
     if (sqlite3_prepare_v3(handle_, sql.data(), size, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) !=

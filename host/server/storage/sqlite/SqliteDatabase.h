@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/sqlite/SqliteError.h"
-
 #include <cstdint>
 #include <functional>
 #include <map>
 #include <string>
 #include <string_view>
+
+#include "host/server/storage/sqlite/SqliteError.h"
 
 struct sqlite3;
 struct sqlite3_stmt;

@@ -4,12 +4,15 @@
 #include "host/server/storage/sqlite/SqliteStatement.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 std::optional<DeletionState> StateBy(SqliteStatement& statement, std::string_view owner,
                                      std::string_view id) {
     statement.Bind(owner, id);
-    if (!statement.Step()) return std::nullopt;
+    if (!statement.Step()) {
+        return std::nullopt;
+    }
     return static_cast<DeletionState>(statement.Integer32(0));
 }
 
@@ -17,7 +20,9 @@ std::optional<DeletionState> StateBy(SqliteStatement& statement, std::string_vie
 
 std::string TakeId(SqliteDatabase& database) {
     SqliteStatement take(database, "UPDATE next_id SET value = value + 1 RETURNING value - 1");
-    if (!take.Step()) throw SqliteError("the data base has lost its id counter");
+    if (!take.Step()) {
+        throw SqliteError("the data base has lost its id counter");
+    }
     std::string id = std::to_string(take.Integer(0));
     take.Run();
     return id;

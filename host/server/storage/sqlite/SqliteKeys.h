@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Records.h"
-#include "host/server/storage/sqlite/SqliteDatabase.h"
-
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "host/server/storage/contract/Records.h"
+#include "host/server/storage/sqlite/SqliteDatabase.h"
 
 namespace Tarvik::Server {
 

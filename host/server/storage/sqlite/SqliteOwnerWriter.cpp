@@ -11,32 +11,36 @@ Status SqliteOwnerWriter::Write(const OwnerCopy& copy) {
     owner_ = copy.owner;
     ids_ = CopyIds();
     for (const CategoryCopy& category : copy.categories) {
-        const std::string categoryId = newId(category.id);
+        const std::string categoryId = NewId(category.id);
         ids_.PutCategory(category.id, categoryId);
-        writeCategory(category, categoryId);
+        WriteCategory(category, categoryId);
         for (const VoyageCopy& voyage : category.voyages) {
-            const std::string voyageId = newId(voyage.voyage.id);
+            const std::string voyageId = NewId(voyage.voyage.id);
             ids_.PutVoyage(voyage.voyage.id, voyageId);
-            writeVoyage(voyage.voyage, categoryId, voyageId);
-            Status written = writeSchedule(voyage, voyageId);
-            if (!written) return written;
+            WriteVoyage(voyage.voyage, categoryId, voyageId);
+            Status written = WriteSchedule(voyage, voyageId);
+            if (!written) {
+                return written;
+            }
         }
     }
-    for (const RemarkCopy& remark : copy.remarks) writeRemark(remark);
+    for (const RemarkCopy& remark : copy.remarks) {
+        WriteRemark(remark);
+    }
     return Done{};
 }
 
-std::string SqliteOwnerWriter::newId(const std::string& before) {
+std::string SqliteOwnerWriter::NewId(const std::string& before) {
     return keepIds_ ? before : TakeId(database_);
 }
 
-void SqliteOwnerWriter::writeCategory(const CategoryCopy& category, const std::string& id) {
+void SqliteOwnerWriter::WriteCategory(const CategoryCopy& category, const std::string& id) {
     SqliteStatement(database_, "INSERT INTO categories (owner, ci, cn, cd) VALUES (?, ?, ?, ?)")
         .Bind(owner_, id, category.name, static_cast<int>(category.state))
         .Run();
 }
 
-void SqliteOwnerWriter::writeVoyage(const VoyageRecord& voyage, const std::string& categoryId,
+void SqliteOwnerWriter::WriteVoyage(const VoyageRecord& voyage, const std::string& categoryId,
                                     const std::string& id) {
     const Figures& f = voyage.figures;
     SqliteStatement(database_,
@@ -48,7 +52,7 @@ void SqliteOwnerWriter::writeVoyage(const VoyageRecord& voyage, const std::strin
         .Run();
 }
 
-Status SqliteOwnerWriter::writeSchedule(const VoyageCopy& copy, const std::string& voyageId) {
+Status SqliteOwnerWriter::WriteSchedule(const VoyageCopy& copy, const std::string& voyageId) {
     int place = 0;
     for (const std::string& time : copy.aisTimes) {
         SqliteStatement(database_, "INSERT INTO ais_times (owner, vi, place, time) VALUES (?, ?, ?, ?)")
@@ -56,15 +60,17 @@ Status SqliteOwnerWriter::writeSchedule(const VoyageCopy& copy, const std::strin
             .Run();
     }
     Status calls = InsertPortCalls(database_, owner_, voyageId, copy.calls);
-    if (!calls || !copy.book) return calls;
-    const std::string bookId = newId(copy.book->id);
+    if (!calls || !copy.book) {
+        return calls;
+    }
+    const std::string bookId = NewId(copy.book->id);
     SqliteStatement(database_, "INSERT INTO position_books (owner, pbi, vi, eta) VALUES (?, ?, ?, ?)")
         .Bind(owner_, bookId, voyageId, copy.book->date)
         .Run();
     return InsertBookRows(database_, owner_, bookId, copy.book->rows);
 }
 
-void SqliteOwnerWriter::writeRemark(const RemarkCopy& copy) {
+void SqliteOwnerWriter::WriteRemark(const RemarkCopy& copy) {
     const RemarkObject object = ids_.Renamed(copy.object);
     SqliteStatement(database_,
                     "INSERT INTO remarks (owner, type, objectid, seq, subject, body, cdate, udate) "

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include "host/server/storage/contract/CopyIds.h"
 #include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/storage/sqlite/SqliteDatabase.h"
-
-#include <string>
 
 namespace Tarvik::Server {
 
@@ -19,11 +19,11 @@ class SqliteOwnerWriter {
 
   private:
     /// The id that a record gets.
-    std::string newId(const std::string& before);
-    void writeCategory(const CategoryCopy& category, const std::string& id);
-    void writeVoyage(const VoyageRecord& voyage, const std::string& categoryId, const std::string& id);
-    Status writeSchedule(const VoyageCopy& copy, const std::string& voyageId);
-    void writeRemark(const RemarkCopy& copy);
+    std::string NewId(const std::string& before);
+    void WriteCategory(const CategoryCopy& category, const std::string& id);
+    void WriteVoyage(const VoyageRecord& voyage, const std::string& categoryId, const std::string& id);
+    Status WriteSchedule(const VoyageCopy& copy, const std::string& voyageId);
+    void WriteRemark(const RemarkCopy& copy);
 
     SqliteDatabase& database_;
     bool keepIds_;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/SqliteRemarks.h"
 
+#include <algorithm>
+
 #include "host/server/storage/sqlite/SqliteKeys.h"
 #include "host/server/storage/sqlite/SqliteStatement.h"
 
-#include <algorithm>
-
 namespace Tarvik::Server {
+
 namespace {
 
 /// Whether the text begins with the id of a known voyage and goes on with a port's name, which may begin with
@@ -15,13 +16,17 @@ bool PortCallKnown(SqliteDatabase& database, const std::string& owner, const std
     constexpr std::size_t kLongestId = 19;
     const std::size_t digits = std::min({id.find_first_not_of("0123456789"), id.size() - 1, kLongestId});
     for (std::size_t length = digits; length > 0; --length) {
-        if (VoyageState(database, owner, id.substr(0, length))) return true;
+        if (VoyageState(database, owner, id.substr(0, length))) {
+            return true;
+        }
     }
     return false;
 }
 
 bool ObjectKnown(SqliteDatabase& database, const std::string& owner, const RemarkObject& object) {
-    if (object.id.empty()) return false;
+    if (object.id.empty()) {
+        return false;
+    }
     switch (object.type) {
         case kCategoryRemark:
             return CategoryState(database, owner, object.id).has_value();
@@ -39,7 +44,9 @@ bool ObjectKnown(SqliteDatabase& database, const std::string& owner, const Remar
 Outcome<std::vector<RemarkRecord>> SqliteRemarks::LoadRemarks(const std::string& owner,
                                                               const RemarkObject& object) {
     return session_.Read([&](SqliteDatabase& database) -> Outcome<std::vector<RemarkRecord>> {
-        if (!ObjectKnown(database, owner, object)) return FaultReason::UnknownObject;
+        if (!ObjectKnown(database, owner, object)) {
+            return FaultReason::UnknownObject;
+        }
         std::vector<RemarkRecord> remarks;
         SqliteStatement row(database,
                             "SELECT seq, subject, body, cdate, udate FROM remarks "
@@ -55,14 +62,18 @@ Outcome<std::vector<RemarkRecord>> SqliteRemarks::LoadRemarks(const std::string&
 Status SqliteRemarks::AddRemark(const std::string& owner, const RemarkObject& object,
                                 const RemarkRecord& remark) {
     return session_.Write([&](SqliteDatabase& database) -> Status {
-        if (!ObjectKnown(database, owner, object)) return FaultReason::UnknownObject;
+        if (!ObjectKnown(database, owner, object)) {
+            return FaultReason::UnknownObject;
+        }
         SqliteStatement insert(
             database,
             "INSERT INTO remarks (owner, type, objectid, seq, subject, body, cdate, udate) "
             "VALUES (?, ?, ?, ?, ?, ?, ?, ?) ON CONFLICT DO NOTHING");
         insert.Bind(owner, object.type, object.id, remark.seq, remark.subject, remark.body, remark.created,
                     remark.updated);
-        if (insert.Run() == 0) return FaultReason::RemarkExists;
+        if (insert.Run() == 0) {
+            return FaultReason::RemarkExists;
+        }
         return Done{};
     });
 }
@@ -70,23 +81,31 @@ Status SqliteRemarks::AddRemark(const std::string& owner, const RemarkObject& ob
 Status SqliteRemarks::ChangeRemark(const std::string& owner, const RemarkObject& object,
                                    const RemarkRecord& remark) {
     return session_.Write([&](SqliteDatabase& database) -> Status {
-        if (!ObjectKnown(database, owner, object)) return FaultReason::UnknownObject;
+        if (!ObjectKnown(database, owner, object)) {
+            return FaultReason::UnknownObject;
+        }
         SqliteStatement change(database,
                                "UPDATE remarks SET subject = ?, body = ?, udate = ? "
                                "WHERE owner = ? AND type = ? AND objectid = ? AND seq = ?");
         change.Bind(remark.subject, remark.body, remark.updated, owner, object.type, object.id, remark.seq);
-        if (change.Run() == 0) return FaultReason::UnknownRemark;
+        if (change.Run() == 0) {
+            return FaultReason::UnknownRemark;
+        }
         return Done{};
     });
 }
 
 Status SqliteRemarks::DeleteRemark(const std::string& owner, const RemarkObject& object, std::int32_t seq) {
     return session_.Write([&](SqliteDatabase& database) -> Status {
-        if (!ObjectKnown(database, owner, object)) return FaultReason::UnknownObject;
+        if (!ObjectKnown(database, owner, object)) {
+            return FaultReason::UnknownObject;
+        }
         SqliteStatement erase(
             database, "DELETE FROM remarks WHERE owner = ? AND type = ? AND objectid = ? AND seq = ?");
         erase.Bind(owner, object.type, object.id, seq);
-        if (erase.Run() == 0) return FaultReason::UnknownRemark;
+        if (erase.Run() == 0) {
+            return FaultReason::UnknownRemark;
+        }
         return Done{};
     });
 }

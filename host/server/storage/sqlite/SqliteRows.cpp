@@ -4,6 +4,7 @@
 #include "host/server/storage/sqlite/SqliteStatement.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 Status RowTaken(std::int32_t order) {
@@ -48,7 +49,9 @@ Status InsertPortCalls(SqliteDatabase& database, const std::string& owner, const
     for (const PortCallRecord& call : calls) {
         insert.Bind(owner, voyageId, call.order, call.portId, call.portName, call.purpose, call.speedKmh,
                     call.weatherFactor, call.hoursInPort);
-        if (insert.Run() == 0) return RowTaken(call.order);
+        if (insert.Run() == 0) {
+            return RowTaken(call.order);
+        }
     }
     return Done{};
 }
@@ -61,7 +64,9 @@ Status InsertBookRows(SqliteDatabase& database, const std::string& owner, const 
     for (const BookRowRecord& row : rows) {
         insert.Bind(owner, bookId, row.order, row.name, row.longitude, row.latitude, row.sailing, row.spacing,
                     row.speedKmh, row.kind);
-        if (insert.Run() == 0) return RowTaken(row.order);
+        if (insert.Run() == 0) {
+            return RowTaken(row.order);
+        }
     }
     return Done{};
 }

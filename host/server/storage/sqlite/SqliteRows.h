@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "host/server/storage/contract/Outcome.h"
 #include "host/server/storage/contract/Records.h"
 #include "host/server/storage/sqlite/SqliteDatabase.h"
-
-#include <string>
-#include <vector>
 
 namespace Tarvik::Server {
 

@@ -4,6 +4,7 @@
 #include "host/server/storage/sqlite/Migrator.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// Reading connections that are kept when nobody reads.
@@ -13,9 +14,12 @@ constexpr std::size_t kMostIdle = 8;
 
 SqliteSession::SqliteSession(const std::string& path, const SqliteOptions& options)
     : path_(path), shared_(!path.empty() && path != ":memory:"), writer_(path) {
-    if (writer_.ReadOnly()) throw SqliteError("the data base is read-only: " + path);
-    if (options.maxPages > 0)
+    if (writer_.ReadOnly()) {
+        throw SqliteError("the data base is read-only: " + path);
+    }
+    if (options.maxPages > 0) {
         writer_.QueryInteger("PRAGMA max_page_count=" + std::to_string(options.maxPages));
+    }
     CheckVersion(writer_);
     writer_.Execute("PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON");
     Migrate(writer_);
@@ -38,7 +42,9 @@ std::unique_ptr<SqliteDatabase> SqliteSession::TakeReader() {
 
 void SqliteSession::GiveBack(std::unique_ptr<SqliteDatabase> reader) noexcept {
     const std::scoped_lock lock(pooling_);
-    if (idle_.size() < kMostIdle) idle_.push_back(std::move(reader));
+    if (idle_.size() < kMostIdle) {
+        idle_.push_back(std::move(reader));
+    }
 }
 
 }  // namespace Tarvik::Server

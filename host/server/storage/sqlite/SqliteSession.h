@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Outcome.h"
-#include "host/server/storage/sqlite/SqliteDatabase.h"
-#include "host/server/storage/sqlite/SqliteTransaction.h"
-
 #include <memory>
 #include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "host/server/storage/contract/Outcome.h"
+#include "host/server/storage/sqlite/SqliteDatabase.h"
+#include "host/server/storage/sqlite/SqliteTransaction.h"
 
 namespace Tarvik::Server {
 
@@ -66,7 +66,9 @@ class SqliteSession {
     static auto Transact(SqliteDatabase& database, SqliteTransaction::Mode mode, Work& work) {
         SqliteTransaction transaction(database, mode);
         auto outcome = work(database);
-        if (outcome.Succeeded()) transaction.Commit();
+        if (outcome.Succeeded()) {
+            transaction.Commit();
+        }
         return outcome;
     }
     template <class Operation>

@@ -39,8 +39,12 @@ void SqliteStatement::BindInteger(int place, std::int64_t number) {
 bool SqliteStatement::Step() {
     used_ = true;
     const int result = sqlite3_step(handle_);
-    if (result == SQLITE_ROW) return true;
-    if (result != SQLITE_DONE) database_.Throw("the data base failed");
+    if (result == SQLITE_ROW) {
+        return true;
+    }
+    if (result != SQLITE_DONE) {
+        database_.Throw("the data base failed");
+    }
     return false;
 }
 
@@ -60,7 +64,9 @@ double SqliteStatement::Real(int column) const {
 
 std::string SqliteStatement::Text(int column) const {
     const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(handle_, column));
-    if (bytes == nullptr) return {};
+    if (bytes == nullptr) {
+        return {};
+    }
     return {bytes, static_cast<std::size_t>(sqlite3_column_bytes(handle_, column))};
 }
 

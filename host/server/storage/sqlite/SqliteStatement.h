@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/sqlite/SqliteDatabase.h"
-
 #include <concepts>
 #include <cstdint>
 #include <string>
 #include <string_view>
+
+#include "host/server/storage/sqlite/SqliteDatabase.h"
 
 struct sqlite3_stmt;
 
@@ -23,7 +23,9 @@ class SqliteStatement {
     /// Binds all values in their order, after a reset.
     template <class... Values>
     SqliteStatement& Bind(const Values&... values) {
-        if (used_) Reset();
+        if (used_) {
+            Reset();
+        }
         used_ = true;
         int place = 0;
         (BindOne(++place, values), ...);

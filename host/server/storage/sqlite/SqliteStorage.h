@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
+#include <string>
+
 #include "host/server/storage/contract/Storage.h"
 #include "host/server/storage/sqlite/SqliteCatalog.h"
 #include "host/server/storage/sqlite/SqliteRemarks.h"
 #include "host/server/storage/sqlite/SqliteSchedule.h"
 #include "host/server/storage/sqlite/SqliteSession.h"
 #include "host/server/storage/sqlite/SqliteTransfer.h"
-
-#include <memory>
-#include <string>
 
 namespace Tarvik::Server {
 

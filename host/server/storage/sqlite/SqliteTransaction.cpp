@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/SqliteTransaction.h"
 
-#include "host/server/storage/sqlite/SqliteStatement.h"
-
 #include <sqlite3.h>
+
+#include "host/server/storage/sqlite/SqliteStatement.h"
 
 namespace Tarvik::Server {
 
@@ -14,7 +14,9 @@ SqliteTransaction::SqliteTransaction(SqliteDatabase& database, Mode mode) : data
 
 SqliteTransaction::~SqliteTransaction() {
     // A full disk may have undone the transaction already.
-    if (database_.InTransaction()) sqlite3_exec(database_.Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    if (database_.InTransaction()) {
+        sqlite3_exec(database_.Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    }
 }
 
 void SqliteTransaction::Commit() {

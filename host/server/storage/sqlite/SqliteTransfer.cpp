@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/SqliteTransfer.h"
 
+#include <utility>
+
 #include "host/server/storage/contract/CopyIds.h"
 #include "host/server/storage/sqlite/SqliteCatalogReader.h"
 #include "host/server/storage/sqlite/SqliteOwnerWriter.h"
 #include "host/server/storage/sqlite/SqliteRows.h"
 #include "host/server/storage/sqlite/SqliteStatement.h"
 
-#include <utility>
-
 namespace Tarvik::Server {
+
 namespace {
 
 std::optional<BookRecord> ReadBook(SqliteDatabase& database, const std::string& owner,
                                    const std::string& voyageId) {
     SqliteStatement find(database, "SELECT pbi, eta FROM position_books WHERE owner = ? AND vi = ?");
-    if (!find.Bind(owner, voyageId).Step()) return std::nullopt;
+    if (!find.Bind(owner, voyageId).Step()) {
+        return std::nullopt;
+    }
     BookRecord book{find.Text(0), find.Text(1), {}};
     book.rows = ReadBookRows(database, owner, book.id);
     return book;
@@ -26,7 +29,9 @@ std::vector<std::string> ReadAisTimes(SqliteDatabase& database, const std::strin
     std::vector<std::string> times;
     SqliteStatement find(database, "SELECT time FROM ais_times WHERE owner = ? AND vi = ? ORDER BY place");
     find.Bind(owner, voyageId);
-    while (find.Step()) times.push_back(find.Text(0));
+    while (find.Step()) {
+        times.push_back(find.Text(0));
+    }
     return times;
 }
 
@@ -41,7 +46,9 @@ std::vector<RemarkCopy> ReadRemarks(SqliteDatabase& database, const std::string&
     while (row.Step()) {
         RemarkCopy copy{{row.Integer32(0), row.Text(1)},
                         {row.Integer32(2), row.Text(3), row.Text(4), row.Integer(5), row.Integer(6)}};
-        if (known.Knows(copy.object)) remarks.push_back(std::move(copy));
+        if (known.Knows(copy.object)) {
+            remarks.push_back(std::move(copy));
+        }
     }
     return remarks;
 }
@@ -62,7 +69,9 @@ bool HasRecords(SqliteDatabase& database, const std::string& owner) {
 
 /// Lets the counter go on behind the ids that are about to be added, if it has not reached them yet.
 bool SkipIds(SqliteDatabase& database, const CopyManifest& manifest) {
-    if (manifest.highestId == 0) return true;
+    if (manifest.highestId == 0) {
+        return true;
+    }
     return SqliteStatement(database, "UPDATE next_id SET value = ? WHERE value <= ?")
                .Bind(manifest.highestId + 1, manifest.lowestId)
                .Run() == 1;
@@ -74,7 +83,9 @@ Outcome<std::vector<std::string>> SqliteTransfer::ListOwners() {
     return session_.Read([](SqliteDatabase& database) -> Outcome<std::vector<std::string>> {
         std::vector<std::string> owners;
         SqliteStatement row(database, "SELECT DISTINCT owner FROM categories WHERE cd <> 2 ORDER BY owner");
-        while (row.Step()) owners.push_back(row.Text(0));
+        while (row.Step()) {
+            owners.push_back(row.Text(0));
+        }
         return owners;
     });
 }
@@ -99,16 +110,24 @@ Outcome<OwnerCopy> SqliteTransfer::ReadOwner(const std::string& owner) {
 Outcome<AddReport> SqliteTransfer::AddOwners(const CopyManifest& manifest, const OwnerSource& source) {
     return session_.Write([&](SqliteDatabase& database) -> Outcome<AddReport> {
         for (const std::string& owner : manifest.owners) {
-            if (!manifest.besideOthers && HasRecords(database, owner)) return AddReport{false, owner};
+            if (!manifest.besideOthers && HasRecords(database, owner)) {
+                return AddReport{false, owner};
+            }
         }
         const AddReport report{SkipIds(database, manifest), {}};
         SqliteOwnerWriter writer(database, report.idsKept);
         for (;;) {
             const auto copy = source();
-            if (!copy) return copy.GetFault();
-            if (!copy.Value()) break;
+            if (!copy) {
+                return copy.GetFault();
+            }
+            if (!copy.Value()) {
+                break;
+            }
             const Status written = writer.Write(*copy.Value());
-            if (!written) return written.GetFault();
+            if (!written) {
+                return written.GetFault();
+            }
         }
         return report;
     });

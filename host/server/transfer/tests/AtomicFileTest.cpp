@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/transfer/AtomicFile.h"
-
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
+#include <gtest/gtest.h>
+
+#include "host/server/storage/sqlite/tests/TempFolder.h"
+#include "host/server/transfer/AtomicFile.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "host/server/transfer/Checksum.h"
 #include "host/server/transfer/tests/SampleOwner.h"
 #include "host/server/transfer/tests/TransferFixture.h"
 
-#include <algorithm>
-
 namespace Tarvik::Server {
+
 namespace {
 
 class BrokenFileTest : public TransferTest {
@@ -43,7 +44,9 @@ class BrokenFileTest : public TransferTest {
             R"("figures":[0,0,0,0,0,0,0],"state":0,"times":["2026-03-01 00:00:00"],)"
             R"("calls":[[0,"1","P","L",1.5,0.5,2.0]],"book":{"id":"1000003","date":"2026-03-01 00:00:00",)"
             R"("rows":[[0,"a",1.5,2.5,"GC",5,3.5,1]]}})";
-        if (!from.empty()) line.replace(line.find(from), from.size(), into);
+        if (!from.empty()) {
+            line.replace(line.find(from), from.size(), into);
+        }
         return line + "\n";
     }
     static std::string Remark(const std::string& name = R"([3,"1000002",1])",

@@ -3,6 +3,7 @@
 #include "host/server/transfer/tests/TransferFixture.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 class ImporterTest : public TransferTest {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/postgres/PostgresTransfer.h"
-
 #include "host/server/storage/postgres/PostgresStorage.h"
+#include "host/server/storage/postgres/PostgresTransfer.h"
 #include "host/server/storage/postgres/tests/PostgresServer.h"
 #include "host/server/transfer/tests/SampleOwner.h"
 #include "host/server/transfer/tests/TransferFixture.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// A file of one place goes into PostgreSQL and out again.

@@ -4,6 +4,7 @@
 #include "host/server/transfer/tests/TransferFixture.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 class TransferRoundTripTest : public TransferTest {
@@ -39,7 +40,9 @@ TEST_F(TransferRoundTripTest, EveryReplyOfTheServerIsTheSame) {
             const auto book = before.LoadBook("ann", voyage.id).Value();
             const auto copy = after.LoadBook("ann", voyage.id).Value();
             ASSERT_EQ(copy.has_value(), book.has_value());
-            if (!book) continue;
+            if (!book) {
+                continue;
+            }
             EXPECT_EQ(copy->id, book->id);
             EXPECT_EQ(copy->date, book->date);
             EXPECT_EQ(copy->rows, book->rows);
@@ -138,7 +141,9 @@ TEST_F(TransferRoundTripTest, OneUserGoesWithoutPassword) {
 
 TEST_F(TransferRoundTripTest, BigBookGoesWhole) {
     std::vector<BookRowRecord> rows;
-    for (int i = 0; i < 30000; ++i) rows.push_back({i, "P", i * 0.001, i * 0.0001, "GC", 5, i * 0.1, 0});
+    for (int i = 0; i < 30000; ++i) {
+        rows.push_back({i, "P", i * 0.001, i * 0.0001, "GC", 5, i * 0.1, 0});
+    }
     const std::string vi = from.storage->Catalog().LoadCatalog("ann").Value()[0].voyages.at(0).id;
     const std::string book = from.storage->Schedule().LoadBook("ann", vi).Value()->id;
     ASSERT_TRUE(from.storage->Schedule().ReplaceBookRows("ann", book, rows).Succeeded());

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/tests/SampleOwner.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 
+#include <gtest/gtest.h>
+
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr const char* kOddName = "\"Quoted\" \\ ＂全角＂ \xF0\x9F\x9A\xA2 line\nbreak\x01";

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Storage.h"
-
 #include <string>
+
+#include "host/server/storage/contract/Storage.h"
 
 namespace Tarvik::Server {
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/transfer/TransferCommand.h"
-
 #include <gtest/gtest.h>
 
+#include "host/server/transfer/TransferCommand.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using Words = std::vector<std::string>;

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/tests/TransferFixture.h"
 
-#include "host/server/transfer/CopyJson.h"
-#include "host/server/transfer/TransferWriter.h"
-
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 
+#include "host/server/transfer/CopyJson.h"
+#include "host/server/transfer/TransferWriter.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr std::int64_t kMade = 1772323200;
@@ -16,20 +17,28 @@ constexpr std::int64_t kMade = 1772323200;
 }  // namespace
 
 Outcome<bool> MemoryAccounts::AddUser(const std::string& name, const std::string& passwordHash) {
-    if (!fault.empty()) return Fault{FaultReason::StorageFailed, fault};
+    if (!fault.empty()) {
+        return Fault{FaultReason::StorageFailed, fault};
+    }
     return users.try_emplace(name, UserRecord{name, passwordHash, false}).second;
 }
 
 Outcome<std::optional<UserRecord>> MemoryAccounts::FindUser(const std::string& name) {
-    if (!fault.empty()) return Fault{FaultReason::StorageFailed, fault};
+    if (!fault.empty()) {
+        return Fault{FaultReason::StorageFailed, fault};
+    }
     const auto user = users.find(name);
     return user == users.end() ? std::optional<UserRecord>() : std::optional(user->second);
 }
 
 Outcome<std::vector<UserRecord>> MemoryAccounts::ListUsers() {
-    if (!fault.empty()) return Fault{FaultReason::StorageFailed, fault};
+    if (!fault.empty()) {
+        return Fault{FaultReason::StorageFailed, fault};
+    }
     std::vector<UserRecord> all;
-    for (const auto& [name, user] : users) all.push_back(user);
+    for (const auto& [name, user] : users) {
+        all.push_back(user);
+    }
     return all;
 }
 
@@ -40,14 +49,18 @@ Outcome<bool> MemoryAccounts::SetPassword(const std::string& name, const std::st
 Outcome<bool> MemoryAccounts::RenewHash(const std::string& name, const std::string& before,
                                         const std::string& after) {
     const auto user = users.find(name);
-    if (user == users.end() || user->second.passwordHash != before) return false;
+    if (user == users.end() || user->second.passwordHash != before) {
+        return false;
+    }
     user->second.passwordHash = after;
     return true;
 }
 
 Outcome<bool> MemoryAccounts::SetDisabled(const std::string& name, bool disabled) {
     const auto user = users.find(name);
-    if (user == users.end()) return false;
+    if (user == users.end()) {
+        return false;
+    }
     user->second.disabled = disabled;
     return true;
 }
@@ -69,7 +82,9 @@ Status MemoryAccounts::RemoveSession(const std::string& /*tokenHash*/) {
 Place::Place() {
     std::string error;
     storage = SqliteStorage::Open(":memory:", error);
-    if (storage == nullptr) throw std::runtime_error(error);
+    if (storage == nullptr) {
+        throw std::runtime_error(error);
+    }
 }
 
 std::string Place::Everything(const std::string& user) {
@@ -93,7 +108,9 @@ bool TransferTest::Import(Place& place, const ImportChoice& choice, const std::s
     done.clear();
     error.clear();
     const auto reader = TransferReader::Open(Path(name), error);
-    if (reader == nullptr) return false;
+    if (reader == nullptr) {
+        return false;
+    }
     const auto rule = [](const std::string& user) { return user.find(' ') == std::string::npos; };
     const bool read =
         Importer(place.storage->Transfer(), &place.accounts, rule).Run(choice, *reader, done, error);

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+
 #include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 #include "host/server/transfer/Exporter.h"
 #include "host/server/transfer/Importer.h"
-
-#include <gtest/gtest.h>
-
-#include <map>
-#include <memory>
-#include <string>
 
 namespace Tarvik::Server {
 

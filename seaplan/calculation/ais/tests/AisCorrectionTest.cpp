@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/ais/AisCorrection.h"
-
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/tests/Rows.h"
-
-#include "testsupport/PortDictionary.h"
+#include <cstdlib>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/ais/AisCorrection.h"
+#include "seaplan/calculation/tests/Rows.h"
+#include "testsupport/PortDictionary.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <random>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include <tarvik/util/StringUtl.h>
+
 #include "seaplan/calculation/ais/AisCorrection.h"
 #include "seaplan/calculation/ais/AisReplan.h"
 #include "seaplan/calculation/ais/AisRows.h"
 #include "seaplan/calculation/tests/Rows.h"
 
-#include <tarvik/util/StringUtl.h>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
-#include <utility>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

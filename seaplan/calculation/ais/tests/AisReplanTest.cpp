@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/ais/AisReplan.h"
+#include <gtest/gtest.h>
 
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/ais/AisReplan.h"
 #include "seaplan/calculation/ais/AisRows.h"
 #include "seaplan/calculation/tests/Rows.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

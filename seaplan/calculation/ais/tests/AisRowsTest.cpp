@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/ais/AisRows.h"
-
-#include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/tests/Rows.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/ais/AisRows.h"
+#include "seaplan/calculation/tests/Rows.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;

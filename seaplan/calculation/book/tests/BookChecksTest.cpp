@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/book/BookChecks.h"
-
-#include "seaplan/calculation/book/tests/PanelBook.h"
-
 #include <gtest/gtest.h>
 
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/calculation/book/BookChecks.h"
+#include "seaplan/calculation/book/tests/PanelBook.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;
@@ -66,23 +66,23 @@ struct SpeedCase {
     const char* text;
     BookSpeedUnit unit;
     BookRefusal refusal;
-    double kmPerHour;
+    double KmPerHour;
 };
 
 TEST(BookLimits, SpeedGoesUpToFiftyKnotsInWhicheverUnitItWasTyped) {
     using R = BookRefusal;
     const auto knots = BookSpeedUnit::Knots;
-    const auto kmPerHour = BookSpeedUnit::KmPerHour;
+    const auto KmPerHour = BookSpeedUnit::KmPerHour;
     for (const auto& c :
          {SpeedCase{"50", knots, R::None, 92.6}, SpeedCase{"50.00", knots, R::None, 92.6},
           SpeedCase{"50.01", knots, R::Speed, -1}, SpeedCase{"10", knots, R::None, 18.52},
-          SpeedCase{"92.6", kmPerHour, R::None, 92.6}, SpeedCase{"92.61", kmPerHour, R::Speed, -1},
-          SpeedCase{"92.6000001", kmPerHour, R::Speed, -1}, SpeedCase{"0.01", kmPerHour, R::None, 0.01},
+          SpeedCase{"92.6", KmPerHour, R::None, 92.6}, SpeedCase{"92.61", KmPerHour, R::Speed, -1},
+          SpeedCase{"92.6000001", KmPerHour, R::Speed, -1}, SpeedCase{"0.01", KmPerHour, R::None, 0.01},
           SpeedCase{"0", knots, R::Speed, -1}, SpeedCase{"-1", knots, R::Speed, -1},
-          SpeedCase{"", kmPerHour, R::Speed, -1}, SpeedCase{"ten", knots, R::NotANumber, -1}}) {
+          SpeedCase{"", KmPerHour, R::Speed, -1}, SpeedCase{"ten", knots, R::NotANumber, -1}}) {
         double value = -1;
         EXPECT_EQ(CheckSpeed(c.text, c.unit, value), c.refusal) << c.text;
-        EXPECT_NEAR(value, c.kmPerHour, 1e-12) << c.text;
+        EXPECT_NEAR(value, c.KmPerHour, 1e-12) << c.text;
     }
 }
 
@@ -110,7 +110,7 @@ TEST(BookLimits, DepartureBeforeTheArrivalIsRefused) {
 
 // The first port's stay moves every later row.
 TEST(BookLimits, FirstPortsDepartureIsWhereTheBookStarts) {
-    auto book = bookOf({portAt(0), portAt(1)});
+    auto book = BookOf({portAt(0), portAt(1)});
     const auto now = book.ports[0].eta;
     RecomputeBook(book, {}, now);
     const auto before = book.ports[1].eta;

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/book/BookPanel.h"
+#include <gtest/gtest.h>
 
+#include "seaplan/calculation/book/BookPanel.h"
 #include "seaplan/calculation/book/tests/PanelBook.h"
 #include "seaplan/calculation/tests/Rows.h"
-
 #include "testsupport/ManualClock.h"
 #include "testsupport/PortDictionary.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;
@@ -86,7 +85,7 @@ TEST_F(BookPanel, PortWithoutIdInTheDictionaryHasNone) {
 
 TEST_F(BookPanel, TellsWhatIsMissingAndLeavesTheBook) {
     const auto code = [](const VoyInfo& voyage) {
-        PosBookData book = bookOf({portAt(7)});
+        PosBookData book = BookOf({portAt(7)});
         const int result = BookToPanel(voyage, book, {});
         EXPECT_EQ(book.ports.size(), 1);
         return result;
@@ -109,17 +108,17 @@ TEST_F(BookPanel, TellsWhatIsMissingAndLeavesTheBook) {
 }
 
 TEST_F(BookPanel, DateLineCountsPortsAndWaypoints) {
-    EXPECT_FALSE(CrossesDateLine(bookOf({portAt(178), portAt(-178)})));
-    EXPECT_FALSE(CrossesDateLine(bookOf({portAt(179), portAt(-179)})));
-    EXPECT_TRUE(CrossesDateLine(bookOf({portAt(179.001), portAt(-179.001)})));
-    EXPECT_TRUE(CrossesDateLine(bookOf({portAt(170), portAt(-179.5, 0, {waypoint(179.5)})})));
-    EXPECT_TRUE(CrossesDateLine(bookOf({portAt(170), portAt(-170, 0, {waypoint(179.5), waypoint(-179.5)})})));
+    EXPECT_FALSE(CrossesDateLine(BookOf({portAt(178), portAt(-178)})));
+    EXPECT_FALSE(CrossesDateLine(BookOf({portAt(179), portAt(-179)})));
+    EXPECT_TRUE(CrossesDateLine(BookOf({portAt(179.001), portAt(-179.001)})));
+    EXPECT_TRUE(CrossesDateLine(BookOf({portAt(170), portAt(-179.5, 0, {waypoint(179.5)})})));
+    EXPECT_TRUE(CrossesDateLine(BookOf({portAt(170), portAt(-170, 0, {waypoint(179.5), waypoint(-179.5)})})));
     EXPECT_FALSE(CrossesDateLine({}));
 }
 
 TEST_F(BookPanel, PortsKeepFourDecimalsAndWaypointsThree) {
     auto book =
-        bookOf({portAt(0.12345, -1.00005), portAt(2, 3, {waypoint(1.23456, -0.0004, AisTrackPoint)})});
+        BookOf({portAt(0.12345, -1.00005), portAt(2, 3, {waypoint(1.23456, -0.0004, AisTrackPoint)})});
     VoyInfo voyage;
     ASSERT_EQ(PanelToBook(book, voyage), 0);
     EXPECT_EQ(positions(voyage.positionBook.points), "0.1235,-1.0001|1.235,-0.000|2.0000,3.0000");
@@ -128,7 +127,7 @@ TEST_F(BookPanel, PortsKeepFourDecimalsAndWaypointsThree) {
 }
 
 TEST_F(BookPanel, StoredRowsTakeEveryField) {
-    auto book = bookOf({portAt(0), portAt(2, 0, {waypoint(1)})});
+    auto book = BookOf({portAt(0), portAt(2, 0, {waypoint(1)})});
     auto& port = book.ports[1];
     port.id = "40208";
     port.name = "Busan";
@@ -166,7 +165,7 @@ TEST_F(BookPanel, StoredRowsTakeEveryField) {
 
 TEST_F(BookPanel, OnePortIsNoBook) {
     auto voyage = Voyage();
-    EXPECT_EQ(PanelToBook(bookOf({portAt(1)}), voyage), -1);
+    EXPECT_EQ(PanelToBook(BookOf({portAt(1)}), voyage), -1);
     EXPECT_EQ(PanelToBook({}, voyage), -1);
     EXPECT_EQ(voyage.portCalls.size(), 2);
     EXPECT_EQ(voyage.positionBook.points.size(), 6);

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/book/BookRecompute.h"
-
-#include "seaplan/calculation/book/tests/PanelBook.h"
+#include <cmath>
 
 #include <gtest/gtest.h>
 
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/Geodesy.h>
 
-#include <cmath>
+#include "seaplan/calculation/book/BookRecompute.h"
+#include "seaplan/calculation/book/tests/PanelBook.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;
@@ -27,7 +27,7 @@ double since(const PosBookData& book, const Util::_datetime_t& time) {
 }
 
 TEST(BookRecompute, TimesEveryRowFromTheFirstDeparture) {
-    auto book = bookOf({portAt(0), portAt(3, 0, {waypoint(1), waypoint(2)})});
+    auto book = BookOf({portAt(0), portAt(3, 0, {waypoint(1), waypoint(2)})});
     book.ports[0].portTime = 5;
     book.ports[0].etd = {0, 0, 17, 1, 3, 2026};
     book.ports[1].portTime = 4;
@@ -50,7 +50,7 @@ TEST(BookRecompute, TimesEveryRowFromTheFirstDeparture) {
 }
 
 TEST(BookRecompute, FirstPortKeepsItsTimesAndLosesSpeedAndCourse) {
-    auto book = bookOf({portAt(0), portAt(1)});
+    auto book = BookOf({portAt(0), portAt(1)});
     book.ports[0].course = 77;
     const auto before = book.ports[0];
     RecomputeBook(book, {}, kBeforeAll);
@@ -61,7 +61,7 @@ TEST(BookRecompute, FirstPortKeepsItsTimesAndLosesSpeedAndCourse) {
 }
 
 TEST(BookRecompute, TrackTellsHowAWayIsMeasured) {
-    auto book = bookOf({portAt(0, 50), portAt(60, 50)});
+    auto book = BookOf({portAt(0, 50), portAt(60, 50)});
     const BookUnits units{BookSpeedUnit::KmPerHour, BookDistanceUnit::Kilometres, BookTimeUnit::Hours};
     EXPECT_DOUBLE_EQ(RecomputeBook(book, units, kBeforeAll).totalDistance,
                      Util::CircleLineUtl::CalRhumbDist(0, 50, 60, 50));
@@ -72,7 +72,7 @@ TEST(BookRecompute, TrackTellsHowAWayIsMeasured) {
 }
 
 TEST(BookRecompute, TotalsFollowTheUnitsAndTheRowsStay) {
-    auto book = bookOf({portAt(0), portAt(3, 0, {waypoint(1)})});
+    auto book = BookOf({portAt(0), portAt(3, 0, {waypoint(1)})});
     const auto metric = RecomputeBook(
         book, {BookSpeedUnit::KmPerHour, BookDistanceUnit::Kilometres, BookTimeUnit::Hours}, kBeforeAll);
     const auto rows = book.ports[1].rows;
@@ -85,7 +85,7 @@ TEST(BookRecompute, TotalsFollowTheUnitsAndTheRowsStay) {
 }
 
 TEST(BookRecompute, SightingBehindAPlainWaypointCountsInNoTotal) {
-    auto book = bookOf({portAt(0), portAt(3, 0, {waypoint(1), waypoint(2, 0, AisTrackPoint)})});
+    auto book = BookOf({portAt(0), portAt(3, 0, {waypoint(1), waypoint(2, 0, AisTrackPoint)})});
     book.ports[1].rows[1].course = 55;
     const BookUnits units{BookSpeedUnit::KmPerHour, BookDistanceUnit::Kilometres, BookTimeUnit::Hours};
     const auto totals = RecomputeBook(book, units, kBehindAll);
@@ -100,18 +100,18 @@ TEST(BookRecompute, SightingBehindAPlainWaypointCountsInNoTotal) {
 TEST(BookRecompute, SightingElsewhereCountsLikeAnyRow) {
     for (const int before : {ShortIdRoutePoint, AisTrackPoint}) {
         auto book =
-            bookOf({portAt(0), portAt(3, 0, {waypoint(1, 0, before), waypoint(2, 0, AisTrackPoint)})});
+            BookOf({portAt(0), portAt(3, 0, {waypoint(1, 0, before), waypoint(2, 0, AisTrackPoint)})});
         const auto totals = RecomputeBook(book, {}, kBeforeAll);
         EXPECT_NEAR(totals.totalDistance, km(3) / 1.852, 1e-9) << before;
         EXPECT_DOUBLE_EQ(book.ports[1].rows[1].course, 90) << before;
     }
-    auto book = bookOf({portAt(0), portAt(2, 0, {waypoint(1, 0, AisTrackPoint)})});
+    auto book = BookOf({portAt(0), portAt(2, 0, {waypoint(1, 0, AisTrackPoint)})});
     EXPECT_NEAR(RecomputeBook(book, {}, kBeforeAll).totalDistance, km(2) / 1.852, 1e-9)
         << "the first row of a leg has none before it";
 }
 
 TEST(BookRecompute, AverageOfAVoyageThatTakesNoTimeIsNoNumber) {
-    auto book = bookOf({portAt(5), portAt(5)});
+    auto book = BookOf({portAt(5), portAt(5)});
     const auto totals = RecomputeBook(book, {}, kBeforeAll);
     EXPECT_TRUE(std::isnan(totals.averageSpeed));
     EXPECT_EQ(totals.totalDistance, 0);
@@ -119,7 +119,7 @@ TEST(BookRecompute, AverageOfAVoyageThatTakesNoTimeIsNoNumber) {
 }
 
 TEST(BookRecompute, SpeedOfNothingEndsAndAddsNoTime) {
-    auto book = bookOf({portAt(0), portAt(1)});
+    auto book = BookOf({portAt(0), portAt(1)});
     book.ports[1].speed = 0;
     RecomputeBook(book, {}, kBeforeAll);
     EXPECT_EQ(book.ports[1].eta, book.ports[0].etd);
@@ -129,7 +129,7 @@ TEST(BookRecompute, SpeedOfNothingEndsAndAddsNoTime) {
 
 /// Three ports, two waypoints to each of the last two.
 PosBookData longBook() {
-    return bookOf(
+    return BookOf(
         {portAt(0), portAt(3, 0, {waypoint(1), waypoint(2)}), portAt(6, 0, {waypoint(4), waypoint(5)})});
 }
 

@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/book/BookRows.h"
-
-#include "seaplan/calculation/book/tests/PanelBook.h"
-
 #include <gtest/gtest.h>
 
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/calculation/book/BookRows.h"
+#include "seaplan/calculation/book/tests/PanelBook.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using namespace Testing;
 
 constexpr int kPort = PosBookRowRef::kPort;
 
-PosBookRow greatCircle(double x, double y = 0, int kind = PlainPoint) {
+PosBookRow GreatCircle(double x, double y = 0, int kind = PlainPoint) {
     auto row = waypoint(x, y, kind);
     row.track = "GC";
     row.expanded = true;
@@ -29,7 +29,7 @@ PosBookRow expanded(PosBookRow row) {
 
 /// A port, two shown waypoints, a port, one hidden and one named waypoint, a port.
 PosBookData sampleBook() {
-    auto book = bookOf({portAt(0), portAt(3, 0, {expanded(waypoint(1)), expanded(waypoint(2))}),
+    auto book = BookOf({portAt(0), portAt(3, 0, {expanded(waypoint(1)), expanded(waypoint(2))}),
                         portAt(6, 0, {waypoint(4), waypoint(5, 0, ShortIdRoutePoint)})});
     book.ports[0].expanded = true;
     return book;
@@ -71,7 +71,7 @@ TEST(BookList, TogglingAPortShowsAndHidesTheWaypointsBehindIt) {
 }
 
 TEST(BookList, TogglingANamedPointReachesToTheNextOne) {
-    auto book = bookOf({portAt(0), portAt(9, 0,
+    auto book = BookOf({portAt(0), portAt(9, 0,
                                           {waypoint(1, 0, ShortIdRoutePoint), waypoint(2), waypoint(3),
                                            waypoint(4, 0, AisTrackPoint), waypoint(5)})});
     auto refs = ListBookRows(book);
@@ -92,7 +92,7 @@ TEST(BookList, PlainWaypointsAndTheLastPortDoNotToggle) {
 }
 
 TEST(RegenerateLeg, CutsAGreatCircleIntoWaypoints) {
-    auto book = bookOf({portAt(0), portAt(12)});
+    auto book = BookOf({portAt(0), portAt(12)});
     book.ports[0].expanded = true;
     auto& to = book.ports[1];
     to.track = "GC";
@@ -120,7 +120,7 @@ TEST(RegenerateLeg, CutsAGreatCircleIntoWaypoints) {
 }
 
 TEST(RegenerateLeg, RhumbLineAndNearPointsNeedNoWaypoint) {
-    auto book = bookOf({portAt(0), portAt(12), portAt(13)});
+    auto book = BookOf({portAt(0), portAt(12), portAt(13)});
     book.ports[2].track = "GC";
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 1, false), 0);
@@ -129,7 +129,7 @@ TEST(RegenerateLeg, RhumbLineAndNearPointsNeedNoWaypoint) {
 }
 
 TEST(RegenerateLeg, MidpointComesOnlyWhereNothingElseDoes) {
-    auto book = bookOf({portAt(0, 1), portAt(1.00005, 2.00003), portAt(14)});
+    auto book = BookOf({portAt(0, 1), portAt(1.00005, 2.00003), portAt(14)});
     book.ports[1].track = "GC";
     book.ports[2].track = "GC";
     auto refs = ListBookRows(book);
@@ -146,7 +146,7 @@ TEST(RegenerateLeg, MidpointComesOnlyWhereNothingElseDoes) {
 }
 
 TEST(RegenerateLeg, MidpointOnARhumbLine) {
-    auto book = bookOf({portAt(0), portAt(20)});
+    auto book = BookOf({portAt(0), portAt(20)});
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 1, true), 1);
     EXPECT_EQ(book.ports[1].rows.at(0).x, 10);
@@ -187,7 +187,7 @@ TEST(RegenerateLeg, HiddenRowsShiftTheListAllTheSame) {
 }
 
 TEST(RegenerateLeg, WaypointsOfAnEarlierTimeStay) {
-    auto book = bookOf({portAt(0), portAt(12)});
+    auto book = BookOf({portAt(0), portAt(12)});
     book.ports[1].track = "GC";
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 1, false), 2);
@@ -226,7 +226,7 @@ TEST(DeleteBookRow, RefusesPortsNamedPointsAndWhatIsPassed) {
 }
 
 TEST(DeleteBookRow, GreatCircleBehindItIsCutAnew) {
-    auto book = bookOf({portAt(0), portAt(30, 0, {greatCircle(8), greatCircle(16)})});
+    auto book = BookOf({portAt(0), portAt(30, 0, {GreatCircle(8), GreatCircle(16)})});
     book.ports[0].expanded = true;
     auto refs = ListBookRows(book);
     EXPECT_EQ(DeleteBookRow(book, refs, {}, 1), BookDeletion::Recompute);
@@ -237,7 +237,7 @@ TEST(DeleteBookRow, GreatCircleBehindItIsCutAnew) {
 }
 
 TEST(DeleteBookRow, ShortGreatCircleIsNotRecomputed) {
-    auto book = bookOf({portAt(0), portAt(3, 0, {expanded(waypoint(1)), greatCircle(2)})});
+    auto book = BookOf({portAt(0), portAt(3, 0, {expanded(waypoint(1)), GreatCircle(2)})});
     auto refs = ListBookRows(book);
     EXPECT_EQ(DeleteBookRow(book, refs, {}, 1), BookDeletion::Complete);
     EXPECT_EQ(longitudes(book.ports[1].rows), "2");
@@ -254,7 +254,7 @@ TEST(DeleteBookRow, InsertingAndDeletingGivesTheBookBack) {
 
 // A changed longitude regenerates the way to the row and to the row behind it, on each change.
 TEST(RegenerateLeg, MovedRowGetsWaypointsOnBothSidesEachTime) {
-    auto book = bookOf({portAt(0), portAt(30, 0, {greatCircle(15)})});
+    auto book = BookOf({portAt(0), portAt(30, 0, {GreatCircle(15)})});
     book.ports[0].expanded = true;
     book.ports[1].track = "GC";
     auto refs = ListBookRows(book);

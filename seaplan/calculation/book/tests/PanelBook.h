@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/data/PosBookData.h"
-
 #include <string>
 #include <utility>
+
+#include "seaplan/data/PosBookData.h"
 
 /// Short forms for books as the panel holds them.
 namespace Tarvik::Seaplan::Testing {
@@ -30,7 +30,7 @@ inline PosBookPortRow portAt(double x, double y = 0, std::vector<PosBookRow> row
 }
 
 /// A book that starts at noon UTC on the first of March 2026.
-inline PosBookData bookOf(std::vector<PosBookPortRow> ports) {
+inline PosBookData BookOf(std::vector<PosBookPortRow> ports) {
     PosBookData book;
     book.ports = std::move(ports);
     if (!book.ports.empty()) {

@@ -1,10 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/voycal/CVoyCal.h"
-
-#include "seaplan/controllers/voycal/SampleReply.h"
-#include "seaplan/controllers/voycal/tests/VoyCalChart.h"
-
-#include "testsupport/DataFolder.h"
+#include <optional>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,9 +8,13 @@
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/interface/ValueDictionary.h>
 
-#include <optional>
+#include "seaplan/controllers/voycal/CVoyCal.h"
+#include "seaplan/controllers/voycal/SampleReply.h"
+#include "seaplan/controllers/voycal/tests/VoyCalChart.h"
+#include "testsupport/DataFolder.h"
 
 namespace Tarvik::Seaplan {
+
 namespace {
 
 namespace Bus = Interface::Bus;

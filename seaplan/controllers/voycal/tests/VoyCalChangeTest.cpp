@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/voycal/VoyCalChange.h"
-
 #include <gtest/gtest.h>
 
+#include "seaplan/controllers/voycal/VoyCalChange.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 VoyCalGroup groupOf(const std::string& head, std::map<std::string, std::string> ranges = {}) {

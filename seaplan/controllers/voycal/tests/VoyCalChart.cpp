@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/voycal/tests/VoyCalChart.h"
 
-#include <tarvik/core/BusBlock.h>
-#include <tarvik/interface/BusContract.h>
-#include <tarvik/util/StringUtl.h>
-
 #include <algorithm>
 #include <iterator>
 #include <new>
 
+#include <tarvik/core/BusBlock.h>
+#include <tarvik/interface/BusContract.h>
+#include <tarvik/util/StringUtl.h>
+
 namespace Tarvik::Seaplan::Testing {
+
 namespace {
 
 template <class Record>
@@ -25,7 +26,7 @@ VoyCalChart::VoyCalChart() {
     bind<&VoyCalChart::addLayer>(Bus::MapAddLayer.name);
     bind<&VoyCalChart::removeLayer>(Bus::MapRemoveLayer.name);
     bind<&VoyCalChart::addLine>(Bus::MapAddLine.name);
-    bind<&VoyCalChart::addLabel>(Bus::MapAddPointLabel.name);
+    bind<&VoyCalChart::AddLabel>(Bus::MapAddPointLabel.name);
     bind<&VoyCalChart::deleteByType>(Bus::MapDeleteObjectsByType.name);
     bind<&VoyCalChart::getPort>(Bus::MapGetPort.name);
     bind<&VoyCalChart::getExtent>(Bus::MapGetExtent.name);
@@ -67,7 +68,7 @@ void* VoyCalChart::addLine(void* input) {
     return nullptr;
 }
 
-void* VoyCalChart::addLabel(void* input) {
+void* VoyCalChart::AddLabel(void* input) {
     labels.push_back(as<Interface::TrvMapPointParams>(input));
     const auto& label = labels.back();
     calls.push_back("label " + label.ref.layer + "/" + label.ref.type + "/" + label.ref.id + " " +

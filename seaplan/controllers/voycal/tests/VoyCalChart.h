@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-#include <tarvik/interface/ChartRecords.h>
-
 #include <deque>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
+#include <tarvik/interface/ChartRecords.h>
 
 namespace Tarvik::Seaplan::Testing {
 
@@ -37,7 +37,7 @@ class VoyCalChart : public Core::TObject {
     void* addLayer(void* input);
     void* removeLayer(void* input);
     void* addLine(void* input);
-    void* addLabel(void* input);
+    void* AddLabel(void* input);
     void* deleteByType(void* input);
     void* getPort(void* input);
     void* getExtent(void* input);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/voycal/VoyCalDrawing.h"
-
-#include "seaplan/controllers/voycal/VoyCalReply.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "seaplan/controllers/voycal/VoyCalDrawing.h"
+#include "seaplan/controllers/voycal/VoyCalReply.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using ::testing::ElementsAre;

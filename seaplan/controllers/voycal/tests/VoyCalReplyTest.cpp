@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/voycal/VoyCalReply.h"
-
-#include "seaplan/controllers/voycal/SampleReply.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/Jsona.h>
 
+#include "seaplan/controllers/voycal/SampleReply.h"
+#include "seaplan/controllers/voycal/VoyCalReply.h"
+
 namespace Tarvik::Seaplan {
+
 namespace {
 
 using ::testing::ElementsAre;
@@ -29,7 +29,7 @@ VoyCalPoints points() {
     return {{"1", {1, 10, "1", "One"}}, {"2", {2, 20, "2", "Two"}}, {"3", {3, 30, "3", "Three"}}};
 }
 
-std::vector<VoyCalPort> portsOf(const std::vector<std::string>& ids) {
+std::vector<VoyCalPort> PortsOf(const std::vector<std::string>& ids) {
     std::vector<VoyCalPort> ports;
     for (const auto& id : ids) {
         VoyCalPort port;
@@ -119,7 +119,7 @@ TEST(VoyCalGroup, UnknownHeadFails) {
 }
 
 TEST(VoyCalReply, FillsThePorts) {
-    auto ports = portsOf({"41", "42"});
+    auto ports = PortsOf({"41", "42"});
     ASSERT_TRUE(ReadVoyCalReply(
         R"([{point_cd:"41"},{point_cd:"42",distance:5,routes:[{from_cd:"41",end_cd:"7",pointset:"0,0|1,0",distance:9},)"
         R"({from_cd:"7",end_cd:"42",pointset:"1,0|2,0"}],rp_groups:["1=a,b;2",""],rp_id_str:"1,7",lock_rp_id_str:"x=y"}])",
@@ -140,7 +140,7 @@ TEST(VoyCalReply, OtherRepliesFailAndLeaveThePorts) {
           R"({eid:-1,a:{point_cd:"41"},b:{point_cd:"42"}})", R"({eid:{point_cd:"41"},b:{point_cd:"42"}})",
           R"([{point_cd:"42"},{point_cd:"41"}])", R"([{point_cd:"41"},{point_cd:"42"},{point_cd:"43"}])",
           R"([{point_cd:"41"},{point_cd:"42",rp_groups:["9=a,b;1"]}])", R"([{point_cd:"41"},{}])"}) {
-        auto ports = portsOf({"41", "42"});
+        auto ports = PortsOf({"41", "42"});
         ports[1].distance = 77;
         EXPECT_FALSE(ReadVoyCalReply(reply, points(), ports)) << reply;
         EXPECT_EQ(ports.size(), 2) << reply;
@@ -149,7 +149,7 @@ TEST(VoyCalReply, OtherRepliesFailAndLeaveThePorts) {
 }
 
 TEST(VoyCalReply, DateLineIsLookedForInEveryRoute) {
-    auto ports = portsOf({"41", "42"});
+    auto ports = PortsOf({"41", "42"});
     EXPECT_FALSE(MeetsDateLine(ports));
     ports[1].routes = {routeOf("0,0|1,0"), routeOf("170,0|180,0")};
     EXPECT_TRUE(MeetsDateLine(ports));

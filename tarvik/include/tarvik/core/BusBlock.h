@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/Export.h>
-
 #include <cstddef>
+
+#include <tarvik/Export.h>
 
 namespace Tarvik::Core {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/Export.h>
-
 #include <cstdint>
 #include <exception>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <tarvik/Export.h>
 
 namespace Tarvik::Core {
 
@@ -46,12 +46,12 @@ class TARVIK_API CTrvSoftInfo {
     CTrvSoftInfo& operator=(const CTrvSoftInfo&) = delete;
     virtual ~CTrvSoftInfo();
 
-    void SetDisplayName(const char16_t* text) { assign(displayName_, text); }
-    void SetDescription(const char16_t* text) { assign(description_, text); }
-    void SetCompany(const char16_t* text) { assign(company_, text); }
-    void SetEMail(const char16_t* text) { assign(eMail_, text); }
-    void SetCopyright(const char16_t* text) { assign(copyright_, text); }
-    void SetWebsite(const char16_t* text) { assign(website_, text); }
+    void SetDisplayName(const char16_t* text) { Assign(displayName_, text); }
+    void SetDescription(const char16_t* text) { Assign(description_, text); }
+    void SetCompany(const char16_t* text) { Assign(company_, text); }
+    void SetEMail(const char16_t* text) { Assign(eMail_, text); }
+    void SetCopyright(const char16_t* text) { Assign(copyright_, text); }
+    void SetWebsite(const char16_t* text) { Assign(website_, text); }
 
     const char16_t* DisplayName() const { return displayName_; }
     const char16_t* Description() const { return description_; }
@@ -69,7 +69,7 @@ class TARVIK_API CTrvSoftInfo {
     std::string version;
 
   private:
-    static void assign(char16_t*& field, const char16_t* text);
+    static void Assign(char16_t*& field, const char16_t* text);
 
     char16_t* description_ = nullptr;
     char16_t* company_ = nullptr;

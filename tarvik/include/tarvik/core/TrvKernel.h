@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/Export.h>
-#include <tarvik/core/TEvent.h>
-#include <tarvik/core/TObject.h>
-
 #include <functional>
 #include <map>
 #include <string>
 #include <vector>
+
+#include <tarvik/Export.h>
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
 
 namespace Tarvik::Core {
 
@@ -76,10 +76,10 @@ class TARVIK_API TrvKernel {
         TObject* owner = nullptr;
         std::vector<TEvent*> delegates;
     };
-    void create(const char* name, TObject* owner, bool service);
-    void unbind(const char* name, TEvent* delegate);
-    void remove(const char* name, TObject* owner);
-    void notice(KernelNotice kind, const std::string& name) const;
+    void Create(const char* name, TObject* owner, bool service);
+    void Unbind(const char* name, TEvent* delegate);
+    void Remove(const char* name, TObject* owner);
+    void Notice(KernelNotice kind, const std::string& name) const;
 
     std::map<std::string, Channel> channels_;
     std::function<void(KernelNotice, const std::string&)> observer_;

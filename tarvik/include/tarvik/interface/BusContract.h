@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <type_traits>
+#include <vector>
+
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/ChartRecords.h>
 #include <tarvik/interface/ServerRequest.h>
 #include <tarvik/interface/SiblingRecords.h>
-
-#include <string>
-#include <type_traits>
-#include <vector>
 
 /// Every service and event name of the bus, tied once to its payload types. `void` stands for no payload.
 namespace Tarvik::Interface {

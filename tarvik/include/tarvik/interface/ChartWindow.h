@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/interface/BusContract.h>
-
 #include <string>
+
+#include <tarvik/interface/BusContract.h>
 
 class QWidget;
 

@@ -4,7 +4,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QObject>
-
 #include <cstring>
 #include <string>
 
@@ -32,7 +31,9 @@ class HelpRequestEvent : public QEvent {
 };
 
 inline void SendHelpRequest(QObject* mainView, const std::string& topic, int width, int height) {
-    if (mainView == nullptr) return;
+    if (mainView == nullptr) {
+        return;
+    }
     HelpRequestEvent event(topic, width, height);
     QCoreApplication::sendEvent(mainView, &event);
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/Export.h>
-
 #include <cstddef>
 #include <optional>
 #include <string>
+
+#include <tarvik/Export.h>
 
 namespace Tarvik::Interface {
 

@@ -5,7 +5,6 @@
 #include <QIcon>
 #include <QPainter>
 #include <QString>
-
 #include <string>
 
 namespace Tarvik::Seaplan {

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QPoint>
 #include <QToolButton>
-
 #include <string>
 #include <utility>
 #include <vector>
@@ -40,7 +39,7 @@ class ToolWindow : public QFrame {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     /// Remembers a button whose icon follows the theme.
-    void keepIcon(QAbstractButton* button, const std::string& icon);
+    void KeepIcon(QAbstractButton* button, const std::string& icon);
 
   private:
     QHBoxLayout* captionRow_;

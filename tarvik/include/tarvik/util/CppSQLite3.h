@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/Export.h>
-
 #include <exception>
 #include <string>
+
+#include <tarvik/Export.h>
 
 struct sqlite3;
 struct sqlite3_stmt;

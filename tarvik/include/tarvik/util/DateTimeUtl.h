@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/Export.h>
-#include <tarvik/util/DateTime.h>
-
 #include <optional>
 #include <string>
+
+#include <tarvik/Export.h>
+#include <tarvik/util/DateTime.h>
 
 namespace Tarvik::Util {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/Export.h>
-
 #include <functional>
 #include <string>
+
+#include <tarvik/Export.h>
 
 namespace Tarvik::Util {
 

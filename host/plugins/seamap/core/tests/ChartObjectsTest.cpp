@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/ChartObjects.h"
-
 #include <gtest/gtest.h>
 
+#include "host/plugins/seamap/core/ChartObjects.h"
+
 namespace Tarvik::Seamap {
+
 namespace {
 
 Interface::TrvMapLineParams lineOf(const std::string& id, std::vector<std::string> points) {
@@ -32,9 +33,13 @@ TEST(ChartObjects, AnObjectUnderATakenKeyReplacesTheOldOneInItsPlace) {
 
 TEST(ChartObjects, LayerTypeAndIdTellObjectsApart) {
     ChartObjects objects;
-    for (const char* layer : {"A", "B"})
-        for (const char* type : {"S", "T"})
-            for (const char* id : {"1", "2"}) objects.AddImage({{layer, id, type}, "ship", "1,2"});
+    for (const char* layer : {"A", "B"}) {
+        for (const char* type : {"S", "T"}) {
+            for (const char* id : {"1", "2"}) {
+                objects.AddImage({{layer, id, type}, "ship", "1,2"});
+            }
+        }
+    }
     EXPECT_EQ(objects.Count(), 8u);
 }
 
@@ -76,7 +81,9 @@ TEST(ChartObjects, ALineWithTooFewPointsTakesTheOldOneAway) {
 
 TEST(ChartObjects, RemovesByList) {
     ChartObjects objects;
-    for (const char* id : {"1", "2", "3"}) objects.AddLine(lineOf(id, {"0,0", "1,1"}));
+    for (const char* id : {"1", "2", "3"}) {
+        objects.AddLine(lineOf(id, {"0,0", "1,1"}));
+    }
     Interface::TrvMapObjectRef refs[] = {
         {"", "1", "T"}, {"", "3", "T"}, {"", "unknown", "T"}, {"", "2", "other"}};
     EXPECT_EQ(objects.Remove(Interface::TrvMapObjectList{"L", refs, 4}), 2);

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/CoastData.h"
-
 #include <gtest/gtest.h>
 
+#include "host/plugins/seamap/core/CoastData.h"
+
 namespace Tarvik::Seamap {
+
 namespace {
 
 LandLevel square(float size) {
@@ -45,13 +46,17 @@ TEST(CoastData, DoesNotDrawTheCutsOfTheSourceAsShore) {
 TEST(CoastData, LongShoresAreCutIntoRunsWithoutGaps) {
     LandLevel level;
     LandShape coast;
-    for (int i = 0; i < 1000; ++i) coast.push_back({static_cast<float>(i) * 0.1F, 0});
+    for (int i = 0; i < 1000; ++i) {
+        coast.push_back({static_cast<float>(i) * 0.1F, 0});
+    }
     level.coasts = {coast};
     const CoastData land({level});
     const auto& runs = land.At(0).coasts;
     ASSERT_GT(runs.size(), 5u);
     EXPECT_NEAR(runs.front().minX, 0.5, 1e-9);
-    for (std::size_t i = 1; i < runs.size(); ++i) EXPECT_DOUBLE_EQ(runs[i].minX, runs[i - 1].maxX);
+    for (std::size_t i = 1; i < runs.size(); ++i) {
+        EXPECT_DOUBLE_EQ(runs[i].minX, runs[i - 1].maxX);
+    }
     EXPECT_NEAR(runs.back().maxX, 0.5 + 99.9 / 360, 1e-6);
 }
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/Extent.h"
+#include <limits>
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include "host/plugins/seamap/core/Extent.h"
 
 namespace Tarvik::Seamap {
+
 namespace {
 
 TEST(Extent, ReadsTheCornersInEitherOrder) {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/GeoPoint.h"
-
 #include <gtest/gtest.h>
 
 #include "host/plugins/seamap/core/ChartPalette.h"
+#include "host/plugins/seamap/core/GeoPoint.h"
 
 namespace Tarvik::Seamap {
+
 namespace {
 
 TEST(ParsePosition, ReadsLongitudeFirst) {
@@ -16,8 +16,9 @@ TEST(ParsePosition, ReadsLongitudeFirst) {
 
 TEST(ParsePosition, RefusesEverythingElse) {
     for (const char* text : {"", ",", "1", "1,", ",1", "1;2", "1,2,3", "a,b", "1,2x", "nan,1", "1,inf",
-                             "0,90.1", "721,0", "+-3,0", "0x10,1"})
+                             "0,90.1", "721,0", "+-3,0", "0x10,1"}) {
         EXPECT_FALSE(ParsePosition(text)) << text;
+    }
 }
 
 TEST(NormaliseLongitude, StaysWithinOneTurn) {

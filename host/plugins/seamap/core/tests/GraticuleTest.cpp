@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/Graticule.h"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 
+#include <gtest/gtest.h>
+
+#include "host/plugins/seamap/core/Graticule.h"
+
 namespace Tarvik::Seamap {
+
 namespace {
 
 MercatorView viewOf(GeoPoint centre, std::int64_t size) {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/HitTest.h"
-
 #include <gtest/gtest.h>
 
+#include "host/plugins/seamap/core/HitTest.h"
+
 namespace Tarvik::Seamap {
+
 namespace {
 
 class HitTestTest : public ::testing::Test {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/LandFileSource.h"
-
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 
+#include <gtest/gtest.h>
+
 #include "host/geo/LandFile.h"
+#include "host/plugins/seamap/core/LandFileSource.h"
 
 namespace Tarvik::Seamap {
+
 namespace {
 
 class LandFileSourceTest : public ::testing::Test {
@@ -30,7 +30,7 @@ TEST_F(LandFileSourceTest, ReadsEveryLevelWithItsCellsAndCoasts) {
         file.levels[level] = {{0, 0, 0, 0, {{0, 0}, {size, 0}, {size, size}}}};
         file.coasts[level] = {{0, 0, 0, 0, {{0, 0}, {size, 5}}}, {0, 0, 0, 0, {{7, 7}, {8, 8}}}};
     }
-    ASSERT_EQ(file.save(path_), "");
+    ASSERT_EQ(file.Save(path_), "");
     const auto levels = LandFileSource(path_).Load();
     ASSERT_EQ(levels.size(), 3u);
     for (std::size_t level = 0; level < 3; ++level) {

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/MercatorView.h"
+#include <cmath>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include "host/plugins/seamap/core/MercatorView.h"
 
 namespace Tarvik::Seamap {
+
 namespace {
 
 MercatorView viewOf(int width, int height, GeoPoint centre, std::int64_t size) {
@@ -16,12 +17,13 @@ MercatorView viewOf(int width, int height, GeoPoint centre, std::int64_t size) {
 }
 
 TEST(MercatorView, ProjectionRoundTripsOverTheWholeWorld) {
-    for (double lon = -180; lon < 180; lon += 7.5)
+    for (double lon = -180; lon < 180; lon += 7.5) {
         for (double lat = -85; lat <= 85; lat += 2.5) {
             const GeoPoint back = MercatorView::Unproject(MercatorView::Project({lon, lat}));
             EXPECT_NEAR(back.lon, lon, 1e-9);
             EXPECT_NEAR(back.lat, lat, 1e-9);
         }
+    }
 }
 
 TEST(MercatorView, TheWorldIsASquare) {
@@ -159,7 +161,9 @@ TEST(MercatorView, TurnsNameExactlyTheCopiesInTheWindow) {
         const auto turns = view.TurnsOf(x, x);
         for (int turn = -4; turn <= 4; ++turn) {
             const double pixel = view.ToScreen(WorldPoint{x, 0.5}, turn).x;
-            if (std::fabs(pixel) < 1e-6 || std::fabs(pixel - 1000) < 1e-6) continue;
+            if (std::fabs(pixel) < 1e-6 || std::fabs(pixel - 1000) < 1e-6) {
+                continue;
+            }
             EXPECT_EQ(turn >= turns.first && turn <= turns.last, pixel >= 0 && pixel <= 1000)
                 << x << " " << turn;
         }

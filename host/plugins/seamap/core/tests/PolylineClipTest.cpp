@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/PolylineClip.h"
+#include <cmath>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include "host/plugins/seamap/core/PolylineClip.h"
 
 namespace Tarvik::Seamap {
+
 namespace {
 
 /// A world of 1000 pixels seen through a window of 500 by 400 whose corner stands at 250, 300.

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/PortTable.h"
+#include <filesystem>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include <filesystem>
+#include "host/plugins/seamap/core/PortTable.h"
 
 namespace Tarvik::Seamap {
+
 namespace {
 
 class PortTableTest : public ::testing::Test {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/widget/BaseLayer.h"
+#include <QImage>
 
 #include <gtest/gtest.h>
 
-#include <QImage>
-
 #include "host/plugins/seamap/core/Graticule.h"
+#include "host/plugins/seamap/widget/BaseLayer.h"
 
 namespace Tarvik::Seamap {
+
 namespace {
 
 const ChartPalette& light() {
@@ -26,8 +26,9 @@ CoastData land() {
     box(170, -20, 180, 20);
     box(-180, -20, -165, 20);
     LandShape slope;
-    for (int i = 0; i < 300; ++i)
+    for (int i = 0; i < 300; ++i) {
         slope.push_back({-60 + static_cast<float>(i) * 0.1F, -40 + static_cast<float>(i % 7)});
+    }
     level.coasts.push_back(slope);
     return CoastData({level});
 }
@@ -67,12 +68,14 @@ TEST(BaseLayer, LandIsDrawnOnBothSidesOfTheDateLineWithoutASeam) {
     const int west = static_cast<int>(view.ToScreen(GeoPoint{172, 0}).x);
     const int east = static_cast<int>(view.ToScreen(GeoPoint{-167, 0}).x);
     int otherColours = 0;
-    for (int x = west; x < east; ++x)
+    for (int x = west; x < east; ++x) {
         otherColours += picture.pixelColor(x, y) == QColor(light().land) ? 0 : 1;
+    }
     const Graticule net(view);
     int crossed = 0;
-    for (const GraticuleLine& line : net.Meridians())
+    for (const GraticuleLine& line : net.Meridians()) {
         crossed += line.pixel >= west && line.pixel < east ? 1 : 0;
+    }
     EXPECT_EQ(otherColours, crossed) << "only meridians interrupt the land";
 }
 

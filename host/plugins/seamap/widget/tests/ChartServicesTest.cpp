@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/widget/ChartServices.h"
-
-#include <gtest/gtest.h>
-#include <tarvik/core/BusBlock.h>
-
 #include <QTest>
 #include <memory>
 
+#include <gtest/gtest.h>
+
+#include <tarvik/core/BusBlock.h>
 #include <tarvik/interface/ChartWindow.h>
 
+#include "host/plugins/seamap/widget/ChartServices.h"
+
 namespace Tarvik::Seamap {
+
 namespace {
 
 namespace Chart = Interface::Bus;
@@ -55,7 +56,7 @@ class ChartServicesTest : public ::testing::Test {
         return copy;
     }
     static void setExtent(const Interface::TrvMapExtent& value) { Call(Chart::MapSetExtent, &value); }
-    static void addLabel(const std::string& id, const std::string& type) {
+    static void AddLabel(const std::string& id, const std::string& type) {
         const Interface::TrvMapPointParams point{
             {"VOYAGE", id, type}, "Suez", "32,30", 0, "circle", 0x9664FF, 3};
         Call(Chart::MapAddPointLabel, &point);
@@ -78,7 +79,7 @@ TEST_F(ChartServicesTest, ObjectsComeAndGoOverTheBus) {
     const Interface::TrvMapLineParams line{
         {"VOYAGE", "_0", "VOYLINETYPE"}, {"0,0", "10,10"}, 0x6464E9, 2, "solid"};
     Call(Chart::MapAddLine, &line);
-    addLabel("7", "VOYAGETYPE");
+    AddLabel("7", "VOYAGETYPE");
     const Interface::TrvMapImageReg image{"AIS_Ship", "/nowhere/ship.png"};
     Call(Chart::MapRegisterImage, &image);
     const Interface::TrvMapImageParams ship{{"VOYAGE", "v1", "AISSHIPTYPE"}, "AIS_Ship", "5,5"};
@@ -110,11 +111,11 @@ TEST_F(ChartServicesTest, AClickRaisesTheEventOfTheTypeWithTheId) {
     kernel->CreateTrvEvent(Chart::ClickVoyageType.name, &listener, "", "", nullptr);
     kernel->BindTrvEvent(Chart::ClickVoyageType.name, &listener.delegate);
     ChartWidget& widget = chart();
-    addLabel("7", "VOYAGETYPE");
+    AddLabel("7", "VOYAGETYPE");
     const PixelPoint pixel = widget.View().ToScreen(GeoPoint{32, 30});
     QTest::mouseClick(&widget, Qt::LeftButton, {}, {qRound(pixel.x), qRound(pixel.y)});
     EXPECT_EQ(listener.ids, std::vector<std::string>{"7"});
-    addLabel("8", "RPOINTTYPE");
+    AddLabel("8", "RPOINTTYPE");
     QTest::mouseClick(&widget, Qt::LeftButton, {}, {qRound(pixel.x), qRound(pixel.y)});
     EXPECT_EQ(listener.ids.size(), 1u) << "the upper object is of another type";
     kernel->UnBindTrvEvent(Chart::ClickVoyageType.name, &listener.delegate);
@@ -177,7 +178,7 @@ TEST_F(ChartServicesTest, AWindowClosedByItsParentIsMadeAnew) {
     auto parent = std::make_unique<QWidget>();
     Call<void>(Bus::Widget, nullptr)->setParent(parent.get());
     parent.reset();
-    addLabel("7", "VOYAGETYPE");
+    AddLabel("7", "VOYAGETYPE");
     QWidget* again = Call<void>(Bus::Widget, nullptr);
     ASSERT_NE(again, nullptr);
     EXPECT_FALSE(again->grab().isNull());
@@ -191,13 +192,14 @@ TEST_F(ChartServicesTest, CommandsZoomFitAndSetTheTheme) {
     EXPECT_TRUE(command("zoomout"));
     EXPECT_TRUE(command("zoomout"));
     EXPECT_LT(widget.View().WorldSize(), size);
-    addLabel("7", "VOYAGETYPE");
+    AddLabel("7", "VOYAGETYPE");
     EXPECT_TRUE(command("fit"));
     EXPECT_LT(widget.Shown().Width(), 10);
     EXPECT_TRUE(command("theme night"));
     EXPECT_EQ(widget.Theme(), ChartPalette::Theme::Night);
-    for (const char* unknown : {"", "theme", "theme blue", "zoom", "Fit"})
+    for (const char* unknown : {"", "theme", "theme blue", "zoom", "Fit"}) {
         EXPECT_FALSE(command(unknown)) << unknown;
+    }
 }
 
 TEST_F(ChartServicesTest, AThemeSetBeforeTheWindowHolds) {

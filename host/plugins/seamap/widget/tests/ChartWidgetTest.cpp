@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/widget/ChartWidget.h"
-
-#include <gtest/gtest.h>
-
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
 
+#include <gtest/gtest.h>
+
+#include "host/plugins/seamap/widget/ChartWidget.h"
+
 namespace Tarvik::Seamap {
+
 namespace {
 
 class ChartWidgetTest : public ::testing::Test {
@@ -155,7 +156,7 @@ TEST_F(ChartWidgetTest, HomeShowsAllObjectsOverTheDateLineToo) {
 TEST_F(ChartWidgetTest, AClickOnAnObjectNamesItAndADragDoesNot) {
     label("here", "5,5");
     std::vector<std::string> clicked;
-    QObject::connect(&chart_, &ChartWidget::objectClicked,
+    QObject::connect(&chart_, &ChartWidget::ObjectClicked,
                      [&](const ObjectKey& key) { clicked.push_back(key.id); });
     QTest::mouseClick(&chart_, Qt::LeftButton, {}, at({5, 5}));
     EXPECT_EQ(clicked, std::vector<std::string>{"here"});
@@ -167,7 +168,7 @@ TEST_F(ChartWidgetTest, AClickOnAnObjectNamesItAndADragDoesNot) {
 
 TEST_F(ChartWidgetTest, AClickMayRemoveTheObject) {
     label("here", "5,5");
-    QObject::connect(&chart_, &ChartWidget::objectClicked, [&](const ObjectKey& key) {
+    QObject::connect(&chart_, &ChartWidget::ObjectClicked, [&](const ObjectKey& key) {
         objects_.RemoveLayer("L");
         EXPECT_EQ(key.id, "here");
     });
@@ -178,7 +179,7 @@ TEST_F(ChartWidgetTest, AClickMayRemoveTheObject) {
 TEST_F(ChartWidgetTest, ThePointerTellsItsPlaceAndHighlights) {
     label("here", "5,5");
     std::vector<GeoPoint> places;
-    QObject::connect(&chart_, &ChartWidget::cursorMoved, [&](double lon, double lat) {
+    QObject::connect(&chart_, &ChartWidget::CursorMoved, [&](double lon, double lat) {
         places.push_back({lon, lat});
     });
     const QImage plain = chart_.grab().toImage();
@@ -198,12 +199,14 @@ TEST_F(ChartWidgetTest, LinesShowInTheirColourSolidOrDashed) {
         int count = 0;
         const QImage picture = chart_.grab().toImage();
         const int y = at({0, 3}).y();
-        for (int x = at({-10, 3}).x(); x < at({10, 3}).x(); ++x)
-            for (int near = y - 1; near <= y + 1; ++near)
+        for (int x = at({-10, 3}).x(); x < at({10, 3}).x(); ++x) {
+            for (int near = y - 1; near <= y + 1; ++near) {
                 if (picture.pixelColor(x, near) == QColor(0xFF0000)) {
                     ++count;
                     break;
                 }
+            }
+        }
         return count;
     };
     const int length = at({10, 3}).x() - at({-10, 3}).x();

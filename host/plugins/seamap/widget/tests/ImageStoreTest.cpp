@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/widget/ImageStore.h"
-
-#include <gtest/gtest.h>
-
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 
+#include <gtest/gtest.h>
+
+#include "host/plugins/seamap/widget/ImageStore.h"
+
 namespace Tarvik::Seamap {
+
 namespace {
 
 class ImageStoreTest : public ::testing::Test {
@@ -55,8 +56,9 @@ TEST_F(ImageStoreTest, AMissingOrForeignFileHasAStandIn) {
     foreign.write("no picture");
     foreign.close();
     for (const std::string& path :
-         {std::string(), file("missing.png"), file("missing.svg"), file("text.png")})
+         {std::string(), file("missing.png"), file("missing.svg"), file("text.png")}) {
         EXPECT_GT(store_.HalfSize("ship", path, 1).x, 5) << path;
+    }
 }
 
 TEST_F(ImageStoreTest, ANewPathIsReadAnew) {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/widget/ViewMotion.h"
-
 #include <gtest/gtest.h>
 
+#include "host/plugins/seamap/widget/ViewMotion.h"
+
 namespace Tarvik::Seamap {
+
 namespace {
 
 MercatorView viewOf(GeoPoint centre, std::int64_t size) {

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 // Replies are read by the plug-in's own parser, requests are made by its own functions.
-#include "host/server/graph/adapter/GraphRouteSource.h"
-
-#include <gmock/gmock.h>
-#include <tarvik/util/Jsona.h>
-
 #include <filesystem>
 
+#include <gmock/gmock.h>
+
+#include <tarvik/util/Jsona.h>
+
+#include "host/server/graph/adapter/GraphRouteSource.h"
 #include "host/server/graph/adapter/RouteMessages.h"
 #include "host/server/graph/tests/SmallSea.h"
 #include "seaplan/calculation/RouteReply.h"
 #include "seaplan/calculation/RouteRequest.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 using Seaplan::RouteStops;
@@ -56,7 +57,7 @@ TEST_F(GraphRouteSourceTest, AnswersAWholeListWithOneStopForEveryPort) {
     EXPECT_EQ(east.routes[0].end_cd, "1");
     EXPECT_THAT(east.routes[0].pointset, StartsWith("-10,0|"));
     EXPECT_EQ(east.routes[1].end_cd, "40002");
-    EXPECT_NEAR(static_cast<double>(east.distance), 2 * geodesicKm({-10, 0}, {0, 12}) / kKmPerNm, 2.0);
+    EXPECT_NEAR(static_cast<double>(east.distance), 2 * GeodesicKm({-10, 0}, {0, 12}) / kKmPerNm, 2.0);
     ASSERT_EQ(east.rp_groups.size(), 1u);
     EXPECT_EQ(east.rp_groups[0].leg, 1);
     EXPECT_EQ(east.rp_groups[0].rp_id, "1");
@@ -76,12 +77,14 @@ TEST_F(GraphRouteSourceTest, TheReplyHasEveryKeyInItsKind) {
         EXPECT_EQ(stop.get("distance").kind(), Jsona::Kind::Real);
         EXPECT_EQ(stop.get("routes").kind(), Jsona::Kind::Array);
         EXPECT_EQ(stop.get("rp_groups").kind(), Jsona::Kind::Array);
-        for (const char* key : {"point_cd", "rp_id_str", "lock_rp_id_str"})
+        for (const char* key : {"point_cd", "rp_id_str", "lock_rp_id_str"}) {
             EXPECT_EQ(stop.get(key).kind(), Jsona::Kind::Text) << key;
+        }
     }
     const Jsona leg = reply.get(1).get("routes").get(0);
-    for (const char* key : {"route", "from_cd", "end_cd", "pointset"})
+    for (const char* key : {"route", "from_cd", "end_cd", "pointset"}) {
         EXPECT_EQ(leg.get(key).kind(), Jsona::Kind::Text) << key;
+    }
     EXPECT_EQ(leg.get("distance").kind(), Jsona::Kind::Real);
     EXPECT_EQ(reply.get(1).get("rp_groups").get(0).text(), "1=40001,40002;2|3");
 }
@@ -121,7 +124,9 @@ TEST_F(GraphRouteSourceTest, RefusesWhatItCannotAnswerAndSaysWhy) {
     EXPECT_EQ(refusal(source_.Plan("[]")), "1 the request is not an object");
     EXPECT_THAT(refusal(source_.Plan("{")), StartsWith("1 the request does not parse: "));
     std::string many = "40001";
-    for (size_t i = 0; i < RouteMessages::kMaxStops; ++i) many += "#40001";
+    for (std::size_t i = 0; i < RouteMessages::kMaxStops; ++i) {
+        many += "#40001";
+    }
     EXPECT_EQ(plan(many.c_str()), "1 the request names more than 1000 stops");
 }
 

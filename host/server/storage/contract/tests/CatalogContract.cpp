@@ -2,6 +2,7 @@
 #include "host/server/storage/contract/tests/StorageContract.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 using State = DeletionState;

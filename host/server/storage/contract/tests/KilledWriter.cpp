@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/contract/tests/KilledWriter.h"
 
-#include "host/server/storage/contract/tests/WriteScript.h"
-
-#include <gtest/gtest.h>
-
 #include <csignal>
 #include <random>
-
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <gtest/gtest.h>
+
+#include "host/server/storage/contract/tests/WriteScript.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr char kBegun = 'b';
@@ -38,12 +38,16 @@ struct WriterWords {
 /// Busy for a while that has no clock in it.
 void Spin(unsigned turns) {
     volatile unsigned turn = 0;
-    while (turn < turns) turn = turn + 1;
+    while (turn < turns) {
+        turn = turn + 1;
+    }
 }
 
 bool TakeWord(int in, WriterWords& words) {
     char word = 0;
-    if (read(in, &word, 1) != 1) return false;
+    if (read(in, &word, 1) != 1) {
+        return false;
+    }
     (word == kBegun ? words.begun : words.confirmed) += 1;
     return true;
 }
@@ -53,7 +57,9 @@ bool TakeWord(int in, WriterWords& words) {
 WriterWords WriteAndKill(const StorageOpener& open, int number, int writes, std::mt19937& random) {
     WriterWords words;
     int ends[2];
-    if (pipe(ends) != 0) return words;
+    if (pipe(ends) != 0) {
+        return words;
+    }
     const pid_t writer = fork();
     if (writer == 0) {
         close(ends[0]);
@@ -88,7 +94,9 @@ void KillOne(const StorageOpener& open, const std::function<void()>& settled, st
     ASSERT_GE(words.begun, words.confirmed);
     ASSERT_LE(words.begun, words.confirmed + 1);
     progress.halfWay += words.begun - words.confirmed;
-    for (int i = 0; i < words.confirmed; ++i) WriteScript::Apply(progress.expected, progress.number++);
+    for (int i = 0; i < words.confirmed; ++i) {
+        WriteScript::Apply(progress.expected, progress.number++);
+    }
     settled();
     const auto storage = open();
     ASSERT_NE(storage, nullptr);

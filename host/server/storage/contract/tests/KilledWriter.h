@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Storage.h"
-
 #include <functional>
 #include <memory>
+
+#include "host/server/storage/contract/Storage.h"
 
 namespace Tarvik::Server {
 

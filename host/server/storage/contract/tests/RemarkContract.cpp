@@ -2,6 +2,7 @@
 #include "host/server/storage/contract/tests/StorageContract.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 TEST_P(StorageContract, RemarksAreAddedChangedAndDeletedByTheirNumber) {

@@ -2,6 +2,7 @@
 #include "host/server/storage/contract/tests/StorageContract.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 constexpr const char* kDate = "2026-03-01 08:00:00";

@@ -2,6 +2,7 @@
 #include "host/server/storage/contract/tests/WriteScript.h"
 
 namespace Tarvik::Server::WriteScript {
+
 namespace {
 
 constexpr const char* kOwner = "ann";
@@ -81,9 +82,13 @@ WrittenData Read(Storage& storage) {
     const auto catalog = storage.Catalog().LoadCatalog(kOwner);
     const auto calls = storage.Schedule().LoadPortCalls(kOwner, kVoyage);
     const auto book = storage.Schedule().LoadBook(kOwner, kVoyage);
-    if (!catalog || !calls || !book || !book.Value()) return {};
+    if (!catalog || !calls || !book || !book.Value()) {
+        return {};
+    }
     WrittenData data;
-    for (const CategoryRecord& category : catalog.Value()) data.categories.push_back(category.name);
+    for (const CategoryRecord& category : catalog.Value()) {
+        data.categories.push_back(category.name);
+    }
     data.calls = calls.Value();
     data.rows = book.Value()->rows;
     return data;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/contract/Storage.h"
-
 #include <string>
 #include <vector>
+
+#include "host/server/storage/contract/Storage.h"
 
 namespace Tarvik::Server {
 

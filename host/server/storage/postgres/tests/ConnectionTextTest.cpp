@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/postgres/ConnectionText.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "host/server/storage/postgres/ConnectionText.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using ::testing::HasSubstr;

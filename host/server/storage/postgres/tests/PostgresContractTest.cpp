@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <stdexcept>
+
 #include "host/server/storage/contract/tests/StorageContract.h"
 #include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/postgres/tests/PostgresServer.h"
 
-#include <stdexcept>
-
 namespace Tarvik::Server {
+
 namespace {
 
 class PostgresBackend : public StorageBackend {
@@ -16,7 +17,9 @@ class PostgresBackend : public StorageBackend {
         storage_.reset();
         std::string error;
         storage_ = PostgresStorage::Open(connection_, error);
-        if (storage_ == nullptr) throw std::runtime_error(error);
+        if (storage_ == nullptr) {
+            throw std::runtime_error(error);
+        }
     }
 
   private:

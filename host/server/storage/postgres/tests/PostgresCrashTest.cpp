@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/contract/tests/WriteScript.h"
-#include "host/server/storage/postgres/PostgresStorage.h"
-#include "host/server/storage/postgres/tests/PostgresServer.h"
-
-#include <gtest/gtest.h>
-
 #include <atomic>
 #include <future>
 #include <random>
 #include <thread>
 
+#include <gtest/gtest.h>
+
+#include "host/server/storage/contract/tests/WriteScript.h"
+#include "host/server/storage/postgres/PostgresStorage.h"
+#include "host/server/storage/postgres/tests/PostgresServer.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 TEST(PostgresCrash, LosesNothingConfirmedAndTheStorageGoesOn) {
@@ -28,18 +29,26 @@ TEST(PostgresCrash, LosesNothingConfirmedAndTheStorageGoesOn) {
         int confirmed = 0;
         std::thread writer([&, from = number] {
             while (!over && WriteScript::Write(*storage, from + confirmed)) {
-                if (++confirmed == before) underWay.set_value();
+                if (++confirmed == before) {
+                    underWay.set_value();
+                }
             }
-            if (confirmed < before) underWay.set_value();
+            if (confirmed < before) {
+                underWay.set_value();
+            }
         });
         underWay.get_future().wait();
         PostgresServer::Instance().CrashAndRestart();
         over = true;
         writer.join();
         ASSERT_GE(confirmed, before) << "the storage failed before the crash";
-        for (int i = 0; i < confirmed; ++i) WriteScript::Apply(expected, number++);
+        for (int i = 0; i < confirmed; ++i) {
+            WriteScript::Apply(expected, number++);
+        }
         const WrittenData stored = WriteScript::Read(*storage);
-        if (stored != expected) WriteScript::Apply(expected, number++);
+        if (stored != expected) {
+            WriteScript::Apply(expected, number++);
+        }
         ASSERT_EQ(stored, expected) << "round " << round << ", write " << number;
     }
 }

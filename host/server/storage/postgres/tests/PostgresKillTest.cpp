@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
 #include "host/server/storage/contract/tests/KilledWriter.h"
 #include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/postgres/tests/PostgresServer.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Server {
+
 namespace {
 
 class PostgresKillTest : public ::testing::Test {

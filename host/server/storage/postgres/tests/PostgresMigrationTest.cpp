@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/postgres/PostgresMigrations.h"
-#include "host/server/storage/postgres/tests/PostgresTest.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "host/server/storage/postgres/PostgresMigrations.h"
+#include "host/server/storage/postgres/tests/PostgresTest.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using ::testing::HasSubstr;

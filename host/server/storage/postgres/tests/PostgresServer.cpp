@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/tests/PostgresServer.h"
 
-#include "host/server/storage/postgres/PostgresConnection.h"
-
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <future>
-#include <stdexcept>
-#include <vector>
-
 #include <fcntl.h>
-#include <grp.h>
+#include <future>
 #include <pwd.h>
+#include <stdexcept>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
+
+#include <grp.h>
 #include <pqxx/pqxx>
+
+#include "host/server/storage/postgres/PostgresConnection.h"
 
 /// The library loses the answer that tells it of a broken connection, two kilobytes each time.
 extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions() {
@@ -24,6 +24,7 @@ extern "C" __attribute__((visibility("default"))) const char* __lsan_default_sup
 }
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// Longer paths do not fit into a socket's address.
@@ -33,8 +34,12 @@ constexpr const char* kReady = "database system is ready to accept connections";
 /// Whom the administrator becomes.
 const passwd* OtherUser() {
     const passwd* user = getpwnam("postgres");
-    if (user == nullptr) user = getpwnam("nobody");
-    if (user == nullptr) throw std::runtime_error("there is no user to run the data base server as");
+    if (user == nullptr) {
+        user = getpwnam("nobody");
+    }
+    if (user == nullptr) {
+        throw std::runtime_error("there is no user to run the data base server as");
+    }
     return user;
 }
 
@@ -44,11 +49,15 @@ pid_t Start(std::vector<std::string> words, const std::string& folder, int out) 
     words[0] = std::string(SEAPLAN_POSTGRES_PROGRAMS) + "/" + words[0];
     std::vector<char*> raw;
     raw.reserve(words.size() + 1);
-    for (std::string& word : words) raw.push_back(word.data());
+    for (std::string& word : words) {
+        raw.push_back(word.data());
+    }
     raw.push_back(nullptr);
     const pid_t parent = getpid();
     const pid_t process = fork();
-    if (process != 0) return process;
+    if (process != 0) {
+        return process;
+    }
     if (user != nullptr &&
         (setgroups(0, nullptr) != 0 || setgid(user->pw_gid) != 0 || setuid(user->pw_uid) != 0)) {
         _exit(126);
@@ -56,7 +65,9 @@ pid_t Start(std::vector<std::string> words, const std::string& folder, int out) 
     // Behind the change of user, which forgets it: a killed test program leaves no server behind.
     signal(SIGQUIT, SIG_DFL);
     prctl(PR_SET_PDEATHSIG, SIGQUIT);
-    if (getppid() != parent || chdir(folder.c_str()) != 0) _exit(126);
+    if (getppid() != parent || chdir(folder.c_str()) != 0) {
+        _exit(126);
+    }
     dup2(out, STDOUT_FILENO);
     dup2(out, STDERR_FILENO);
     setenv("LC_ALL", "C", 1);
@@ -67,7 +78,9 @@ pid_t Start(std::vector<std::string> words, const std::string& folder, int out) 
 /// The reading and the writing end of a pipe that started programs do not inherit.
 std::pair<int, int> MakePipe() {
     int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error("there is no pipe");
+    if (pipe2(ends, O_CLOEXEC) != 0) {
+        throw std::runtime_error("there is no pipe");
+    }
     return {ends[0], ends[1]};
 }
 
@@ -111,7 +124,9 @@ void PostgresServer::initialize() {
     close(in);
     int status = 0;
     waitpid(process, &status, 0);
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) throw std::runtime_error("initdb failed: " + said);
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+        throw std::runtime_error("initdb failed: " + said);
+    }
 }
 
 void PostgresServer::start() {
@@ -129,12 +144,18 @@ void PostgresServer::start() {
         bool told = false;
         char line[4096];
         while (std::fgets(line, sizeof(line), lines) != nullptr) {
-            if (told) continue;
+            if (told) {
+                continue;
+            }
             said += line;
             told = said.find(kReady) != std::string::npos;
-            if (told) begun.set_value({});
+            if (told) {
+                begun.set_value({});
+            }
         }
-        if (!told) begun.set_value(said.empty() ? "it said nothing" : said);
+        if (!told) {
+            begun.set_value(said.empty() ? "it said nothing" : said);
+        }
         std::fclose(lines);
     });
     const std::string failure = ready.get();
@@ -152,7 +173,9 @@ void PostgresServer::stop(int signal) {
         }
         process_ = -1;
     }
-    if (reader_.joinable()) reader_.join();
+    if (reader_.joinable()) {
+        reader_.join();
+    }
 }
 
 std::string PostgresServer::Connection(const std::string& database) const {

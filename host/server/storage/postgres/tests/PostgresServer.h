@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
 #include <string>
+#include <sys/types.h>
 #include <thread>
 
-#include <sys/types.h>
+#include "host/server/storage/sqlite/tests/TempFolder.h"
 
 namespace Tarvik::Server {
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/postgres/tests/PostgresTest.h"
+#include <atomic>
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include "host/server/storage/postgres/tests/PostgresTest.h"
 
 namespace Tarvik::Server {
+
 namespace {
 
 using Mode = PostgresConnection::Mode;
@@ -56,7 +57,9 @@ TEST_F(PostgresStorageTest, SavesOfOneVoyageAreNeverMixed) {
         Storage& storage = number % 2 == 0 ? *first : *second;
         for (int round = 0; round < 20; ++round) {
             std::vector<PortCallRecord> calls;
-            for (int i = 0; i <= number; ++i) calls.push_back({i, "1", std::to_string(number), "L", 1, 0, 0});
+            for (int i = 0; i <= number; ++i) {
+                calls.push_back({i, "1", std::to_string(number), "L", 1, 0, 0});
+            }
             EXPECT_TRUE(storage.Schedule().ReplacePortCalls("ann", voyage, calls));
             const auto read = storage.Schedule().LoadPortCalls("ann", voyage).Value();
             ASSERT_FALSE(read.empty());
@@ -125,7 +128,9 @@ TEST_F(PostgresStorageTest, TextsOfAnyLengthAreStoredExactlyAndZeroBytesRefused)
     ASSERT_EQ(calls.size(), 1U);
     EXPECT_EQ(calls[0], (PortCallRecord{0, "NULL", name, "", -0.0, 0.1, 1e-300}));
     std::string object = voyage;
-    for (int i = 0; i < 2000; ++i) object += std::to_string(i * 7919);
+    for (int i = 0; i < 2000; ++i) {
+        object += std::to_string(i * 7919);
+    }
     EXPECT_TRUE(storage->Remarks().AddRemark("ann", {kPortCallRemark, object}, {1, "s", "b", 1, 1}));
     EXPECT_EQ(storage->Remarks().LoadRemarks("ann", {kPortCallRemark, object}).Value().size(), 1U);
     const Status refused = storage->Catalog().RenameVoyage("ann", voyage, std::string("a\0b", 3));
@@ -138,7 +143,9 @@ TEST_F(PostgresStorageTest, MoreThreadsThanConnectionsWaitForOne) {
     const auto storage = PostgresStorage::Open(connection_, error_, {1});
     ASSERT_NE(storage, nullptr) << error_;
     Together(6, [&](int) {
-        for (int i = 0; i < 5; ++i) EXPECT_TRUE(storage->Catalog().CreateCategory("ann", "A"));
+        for (int i = 0; i < 5; ++i) {
+            EXPECT_TRUE(storage->Catalog().CreateCategory("ann", "A"));
+        }
     });
     EXPECT_EQ(storage->Catalog().LoadCatalog("ann").Value().size(), 30U);
     EXPECT_EQ(Query("SELECT count(*) FROM pg_stat_activity WHERE datname = current_database() "

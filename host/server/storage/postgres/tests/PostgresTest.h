@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/server/storage/postgres/PostgresStorage.h"
-#include "host/server/storage/postgres/tests/PostgresServer.h"
-
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <memory>
 #include <string>
 #include <thread>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "host/server/storage/postgres/PostgresStorage.h"
+#include "host/server/storage/postgres/tests/PostgresServer.h"
 
 namespace Tarvik::Server {
 
@@ -18,8 +18,12 @@ namespace Tarvik::Server {
 inline void Together(int count, const std::function<void(int)>& work) {
     std::vector<std::thread> threads;
     threads.reserve(static_cast<std::size_t>(count));
-    for (int number = 0; number < count; ++number) threads.emplace_back(work, number);
-    for (std::thread& thread : threads) thread.join();
+    for (int number = 0; number < count; ++number) {
+        threads.emplace_back(work, number);
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
 }
 
 /// A data base of the test's own, still empty.

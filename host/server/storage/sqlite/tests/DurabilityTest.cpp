@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "host/server/storage/contract/tests/WriteScript.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/storage/sqlite/tests/FaultyVfs.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace Tarvik::Server {
+
 namespace {
 
 using ::testing::HasSubstr;

@@ -7,6 +7,7 @@
 #include <system_error>
 
 namespace Tarvik::Server {
+
 namespace {
 
 /// One open file: the head that SQLite sees, and the real file behind it in the same block.
@@ -40,21 +41,29 @@ int Close(sqlite3_file* file) {
 
 int Write(sqlite3_file* file, const void* bytes, int count, sqlite3_int64 offset) {
     WatchedFile* watched = WatchedFile::Of(file);
-    if (!watched->vfs->TakeWrite()) return SQLITE_FULL;
+    if (!watched->vfs->TakeWrite()) {
+        return SQLITE_FULL;
+    }
     return watched->Real()->pMethods->xWrite(watched->Real(), bytes, count, offset);
 }
 
 /// The kept image stands for the disk, so that the real file need not wait for one.
 int Sync(sqlite3_file* file, int /*flags*/) {
     WatchedFile* watched = WatchedFile::Of(file);
-    if (watched->vfs->SyncsFail()) return SQLITE_IOERR_FSYNC;
+    if (watched->vfs->SyncsFail()) {
+        return SQLITE_IOERR_FSYNC;
+    }
     sqlite3_file* real = watched->Real();
     sqlite3_int64 size = 0;
     real->pMethods->xFileSize(real, &size);
     std::string bytes(static_cast<std::size_t>(size), '\0');
     const int read = real->pMethods->xRead(real, bytes.data(), static_cast<int>(size), 0);
-    if (read != SQLITE_OK) return read;
-    if (watched->path != nullptr) watched->vfs->KeepImage(*watched->path, std::move(bytes));
+    if (read != SQLITE_OK) {
+        return read;
+    }
+    if (watched->path != nullptr) {
+        watched->vfs->KeepImage(*watched->path, std::move(bytes));
+    }
     return SQLITE_OK;
 }
 
@@ -90,7 +99,9 @@ int Open(sqlite3_vfs* vfs, const char* name, sqlite3_file* file, int flags, int*
     FaultyVfs* faulty = VfsOf(vfs);
     auto* watched = new (file) WatchedFile{{nullptr}, faulty, nullptr};
     const int result = faulty->Real()->xOpen(faulty->Real(), name, watched->Real(), flags, outFlags);
-    if (result != SQLITE_OK) return result;
+    if (result != SQLITE_OK) {
+        return result;
+    }
     watched->path = name != nullptr ? new std::string(name) : nullptr;
     watched->head.pMethods = &kMethods;
     return SQLITE_OK;
@@ -120,8 +131,12 @@ FaultyVfs::~FaultyVfs() {
 }
 
 bool FaultyVfs::TakeWrite() {
-    if (writesLeft_ < 0) return true;
-    if (writesLeft_ == 0) return false;
+    if (writesLeft_ < 0) {
+        return true;
+    }
+    if (writesLeft_ == 0) {
+        return false;
+    }
     --writesLeft_;
     return true;
 }
@@ -131,7 +146,9 @@ void FaultyVfs::CutPower(const std::string& from, const std::string& to) const {
     for (const auto& [name, bytes] : images_) {
         const fs::path path(name);
         std::error_code failed;
-        if (!fs::equivalent(path.parent_path(), from, failed)) continue;
+        if (!fs::equivalent(path.parent_path(), from, failed)) {
+            continue;
+        }
         std::ofstream(fs::path(to) / path.filename(), std::ios::binary)
             .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     }

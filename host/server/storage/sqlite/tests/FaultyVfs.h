@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <sqlite3.h>
-
 #include <map>
 #include <string>
+
+#include <sqlite3.h>
 
 namespace Tarvik::Server {
 

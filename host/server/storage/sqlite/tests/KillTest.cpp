@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
 #include "host/server/storage/contract/tests/KilledWriter.h"
 #include "host/server/storage/sqlite/SqliteDatabase.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 
-#include <gtest/gtest.h>
-
 namespace Tarvik::Server {
+
 namespace {
 
 TEST(KillTest, KilledWriterLeavesEveryConfirmedChangeAndNoHalfOne) {

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/contract/tests/WriteScript.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
-
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <gtest/gtest.h>
+
+#include "host/server/storage/contract/tests/WriteScript.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using std::filesystem::perms;
@@ -52,7 +52,9 @@ class ReadOnlyFolderTest : public ::testing::Test {
             std::string error;
             const auto storage = SqliteStorage::Open(path_, error);
             const bool refused = storage == nullptr && error.find(part) != std::string::npos;
-            if (!refused) fprintf(stderr, "opened: %d, text: %s\n", storage != nullptr, error.c_str());
+            if (!refused) {
+                fprintf(stderr, "opened: %d, text: %s\n", storage != nullptr, error.c_str());
+            }
             return refused;
         });
     }

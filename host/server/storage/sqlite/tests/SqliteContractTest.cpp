@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <stdexcept>
+
 #include "host/server/storage/contract/tests/StorageContract.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 
-#include <stdexcept>
-
 namespace Tarvik::Server {
+
 namespace {
 
 class SqliteBackend : public StorageBackend {
@@ -16,7 +17,9 @@ class SqliteBackend : public StorageBackend {
         storage_.reset();
         std::string error;
         storage_ = SqliteStorage::Open(folder_.File("voyages.db"), error);
-        if (storage_ == nullptr) throw std::runtime_error(error);
+        if (storage_ == nullptr) {
+            throw std::runtime_error(error);
+        }
     }
 
   private:

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/sqlite/Migrations.h"
-#include "host/server/storage/sqlite/SqliteDatabase.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
-#include "host/server/storage/sqlite/tests/TempFolder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <atomic>
 #include <fstream>
 #include <iterator>
 #include <thread>
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "host/server/storage/sqlite/Migrations.h"
+#include "host/server/storage/sqlite/SqliteDatabase.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
+#include "host/server/storage/sqlite/tests/TempFolder.h"
+
 namespace Tarvik::Server {
+
 namespace {
 
 using ::testing::HasSubstr;
@@ -111,7 +112,9 @@ TEST_F(SqliteStorageTest, FullFileFailsTheChangeWholeAndStillReads) {
     ASSERT_TRUE(storage->Schedule().ReplacePortCalls("ann", voyage, {{0, "1", "First", "L", 1, 0, 0}}));
     std::vector<PortCallRecord> many;
     many.reserve(1000);
-    for (int i = 0; i < 1000; ++i) many.push_back({i, "1", std::string(1000, 'n'), "D", 1, 0, 0});
+    for (int i = 0; i < 1000; ++i) {
+        many.push_back({i, "1", std::string(1000, 'n'), "D", 1, 0, 0});
+    }
     const Status status = storage->Schedule().ReplacePortCalls("ann", voyage, many);
     ASSERT_FALSE(status);
     EXPECT_EQ(status.GetFault().Kind(), FaultKind::Failed);
@@ -137,10 +140,14 @@ TEST_F(SqliteStorageTest, ThreadsMayShareTheStorage) {
     threads.reserve(4);
     for (int t = 0; t < 4; ++t) {
         threads.emplace_back([&storage, owner = "user" + std::to_string(t)] {
-            for (int i = 0; i < 25; ++i) EXPECT_TRUE(storage->Catalog().CreateCategory(owner, "C"));
+            for (int i = 0; i < 25; ++i) {
+                EXPECT_TRUE(storage->Catalog().CreateCategory(owner, "C"));
+            }
         });
     }
-    for (std::thread& thread : threads) thread.join();
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
     for (int t = 0; t < 4; ++t) {
         EXPECT_EQ(storage->Catalog().LoadCatalog("user" + std::to_string(t)).Value().size(), 25U);
     }
@@ -155,13 +162,17 @@ TEST_F(SqliteStorageTest, ReadersSeeOnlyWholeChangesAndWaitForNoWriter) {
     const std::string voyage = storage->Catalog().CreateVoyage("ann", category, record).Value();
     const auto write = [&](int round) {
         std::vector<PortCallRecord> all;
-        for (int i = 0; i <= round % 20; ++i) all.push_back({i, "1", std::to_string(round), "L", 1, 0, 0});
+        for (int i = 0; i <= round % 20; ++i) {
+            all.push_back({i, "1", std::to_string(round), "L", 1, 0, 0});
+        }
         EXPECT_TRUE(storage->Schedule().ReplacePortCalls("ann", voyage, all));
     };
     write(0);
     std::atomic<bool> writing = true;
     std::thread writer([&] {
-        for (int round = 1; round <= 100; ++round) write(round);
+        for (int round = 1; round <= 100; ++round) {
+            write(round);
+        }
         writing = false;
     });
     std::vector<std::thread> readers;
@@ -178,7 +189,9 @@ TEST_F(SqliteStorageTest, ReadersSeeOnlyWholeChangesAndWaitForNoWriter) {
         });
     }
     writer.join();
-    for (std::thread& reader : readers) reader.join();
+    for (std::thread& reader : readers) {
+        reader.join();
+    }
 }
 
 TEST_F(SqliteStorageTest, DataBaseInMemoryIsReadAndWrittenLikeAFile) {
