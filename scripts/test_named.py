@@ -62,15 +62,15 @@ def stem(case):
 def bare(name):
     """A name as GoogleTest prints it, without the parts that stand for instantiation and parameter."""
     printed = re.fullmatch(r"(?:\w+/)?(\w+)(?:/\w+)?\.(\w+)(?:/\w+)?", name)
-    return f"{printed.group(1)}.{printed.group(2)}" if printed else name
+    return f"{printed.group(1)}.{printed.group(2)}" if printed and printed.group(2) != "cpp" else name
 
 
 def matching(name, cases):
     """The cases that the name means: a whole suite, file or program of this name first, else any part of one."""
     wanted = re.compile(".*".join(re.escape(part) for part in bare(name).split("*")), re.I)
     whole = [case for case in cases if any(
-        wanted.fullmatch(text) for text in (case.suite, stem(case), case.path, case.program,
-                                            f"{case.suite}.{case.name}"))]
+        wanted.fullmatch(text) for text in (case.suite, stem(case), stem(case) + ".cpp", case.path,
+                                            case.program, f"{case.suite}.{case.name}"))]
     return whole or [case for case in cases if any(
         wanted.search(text) for text in (f"{case.suite}.{case.name}", case.path))]
 

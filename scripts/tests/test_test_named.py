@@ -35,6 +35,7 @@ class NamedTests(unittest.TestCase):
     def test_a_source_file_or_program_means_all_its_cases(self):
         self.assertEqual(names("JsonaReadTest"), ["JsonaTest.ReadsText"])
         self.assertEqual(names("calculation/tests/ScheduleTest.cpp"), ["ScheduleTest.AddsUp"])
+        self.assertEqual(names("ScheduleTest.cpp"), ["ScheduleTest.AddsUp"])
         self.assertEqual(names("tarvik_test"), ["JsonaTest.ReadsText", "JsonaTest.Parses"])
 
     def test_a_star_stands_for_anything(self):
