@@ -4,6 +4,7 @@
 
 A name is looked for, whatever its case, as a whole suite, source file or test program; if there is none, as a part of
 "Suite.Case" or of a source file's name. `*` stands for anything. What stands behind "--" goes to the test programs.
+With --gdb before the names each program starts in the debugger instead, stopped before its first line.
 The environment of a run is the one that ctest has, so it is told once, in cmake/Targets.cmake.
 """
 import difflib
@@ -92,7 +93,7 @@ def build(programs):
                           cwd=ROOT).returncode == 0
 
 
-def run(test, cases, options):
+def run(test, cases, options, debugger):
     """Runs the cases of one program; the number that ran, or None when one failed or none was found to run."""
     properties = {item["name"]: item["value"] for item in test.get("properties", [])}
     environment = dict(os.environ, **dict(line.split("=", 1) for line in properties.get("ENVIRONMENT", [])))
@@ -105,14 +106,17 @@ def run(test, cases, options):
         return None
     print(f"{test['name']}: {count} {'case' if count == 1 else 'cases'}", flush=True)
     brief = ["--gtest_brief=1"] if count > MANY_CASES else []
-    done = subprocess.run(command + brief + options, env=environment, cwd=folder)
+    done = subprocess.run(debugger + command + brief + options, env=environment, cwd=folder)
     if done.returncode < 0:
         print(f"test: {test['name']} was ended by signal {-done.returncode}", file=sys.stderr)
     return count if done.returncode == 0 else None
 
 
 def main(arguments):
-    names, options = arguments, []
+    names, options, debugger = arguments, [], []
+    if names[:1] == ["--gdb"]:
+        names = arguments = names[1:]
+        debugger = ["gdb", "-q", "--args"]
     if "--" in arguments:
         cut = arguments.index("--")
         names, options = arguments[:cut], arguments[cut + 1:]
@@ -134,11 +138,12 @@ def main(arguments):
         print("test: the build failed", file=sys.stderr)
         return 1
     tests = all_tests()
-    counts = [run(tests[program], found, options) for program, found in sorted(wanted.items())]
+    counts = [run(tests[program], found, options, debugger) for program, found in sorted(wanted.items())]
     if None in counts:
         print("test: tests failed", file=sys.stderr)
         return 1
-    print(f"{sum(counts)} passed, 0 failed")
+    if not debugger:
+        print(f"{sum(counts)} passed, 0 failed")
     return 0
 
 
