@@ -26,6 +26,17 @@ TEST(ServerRequestTest, HeadIsEightBytesLittleEndian) {
     EXPECT_EQ(head->Payload(), block + 8);
 }
 
+TEST(ServerRequestTest, CommandsHaveTheServersNumbers) {
+    EXPECT_EQ(NumberOf(VoyCommand::SearchRoute), 1);
+    EXPECT_EQ(NumberOf(VoyCommand::LoadCatalog), 3);
+    EXPECT_EQ(NumberOf(VoyCommand::SaveBookRows), 9);
+    EXPECT_EQ(NumberOf(VoyCommand::SetBookDate), 14);
+    EXPECT_EQ(VoyCommand::Remarks, VoyCommand::SaveBookRows) << "told apart by the module word";
+    constexpr std::uint16_t kModeBits = 0x3000;
+    EXPECT_EQ(kRemarkModuleWord & kModeBits, 1 << 12);
+    EXPECT_EQ(kRemarkModuleWord & ~kModeBits, 2);
+}
+
 TEST(ChartRecordsTest, LayerDefaults) {
     const TrvMapLayerParams layer;
     EXPECT_EQ(layer.layer, "");

@@ -16,7 +16,6 @@ namespace Tarvik::Util {
 
 namespace {
 
-constexpr std::int64_t kCsecsPerDay = 8'640'000;
 constexpr int kDaysPerEra = 146'097;  // 400 years
 
 std::int64_t FloorDiv(std::int64_t a, std::int64_t b) {

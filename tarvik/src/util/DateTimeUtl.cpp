@@ -47,7 +47,7 @@ std::string DateTimeUtl::Format(const _datetime_t& value, const std::string& for
 }
 
 std::optional<_datetime_t> DateTimeUtl::Parse(const std::string& text) {
-    if (text.size() != 19) {
+    if (text.size() != kTimeTextLength) {
         return std::nullopt;
     }
     if (text[4] != '-' || text[7] != '-' || text[10] != ' ' || text[13] != ':' || text[16] != ':') {
@@ -78,7 +78,8 @@ _datetime_t DateTimeUtl::AddHour(const _datetime_t& value, double hours) {
 }
 
 double DateTimeUtl::Diff(const _datetime_t& a, const _datetime_t& b) {
-    return static_cast<double>(SaturatedSubtract(a.total_csecs(), b.total_csecs())) / 360'000.0;
+    return static_cast<double>(SaturatedSubtract(a.total_csecs(), b.total_csecs())) /
+           static_cast<double>(kCsecsPerHour);
 }
 
 bool DateTimeUtl::IsKnownZone(const std::string& zone) {

@@ -19,6 +19,35 @@ struct VoyServerRequest {
 static_assert(sizeof(VoyServerRequest) == 8);
 static_assert(std::endian::native == std::endian::little, "the head is read and written in place");
 
+/// Module word of the commands of voyages, schedules and routes.
+inline constexpr std::uint16_t kVoyageModuleWord = 5;
+/// Module word of the command of remarks: server module 2, with 1 in the mode bits 12 and 13.
+inline constexpr std::uint16_t kRemarkModuleWord = 0x1002;
+
+/// Commands of the voyage server by their number in `command`. Nine stands twice; the module word tells the
+/// two apart.
+enum class VoyCommand : std::uint16_t {
+    SearchRoute = 1,     ///< route between ports
+    NearestRoute = 2,    ///< way from a position to a port
+    LoadCatalog = 3,     ///< categories and voyages of a user
+    ChangeCategory = 4,  ///< make, rename, recycle, recover, destroy a category
+    ChangeVoyage = 5,    ///< the same of a voyage; its vessel, route display and tracing
+    SaveFigures = 6,     ///< consumption figures
+    LoadBook = 7,        ///< position book of a voyage
+    CreateBook = 8,      ///< new position book
+    SaveBookRows = 9,    ///< rows of a position book
+    LoadPortCalls = 10,  ///< port calls of a voyage
+    SavePortCalls = 11,  ///< the same, written
+    LoadAisTimes = 12,   ///< times of correction from AIS
+    AddAisTime = 13,     ///< one more of them
+    SetBookDate = 14,    ///< start of a position book
+    Remarks = 9          ///< remarks of an object, with kRemarkModuleWord
+};
+
+constexpr std::uint16_t NumberOf(VoyCommand command) {
+    return static_cast<std::uint16_t>(command);
+}
+
 /// Largest payload that either side takes, in bytes.
 inline constexpr std::uint32_t kMaxPayloadBytes = 16U * 1024 * 1024;
 

@@ -28,6 +28,10 @@ class TARVIK_API _time_t {
     std::int64_t csecs_ = 0;
 };
 
+/// Times are counted in hundredths of a second.
+inline constexpr std::int64_t kCsecsPerHour = 360'000;
+inline constexpr std::int64_t kCsecsPerDay = 24 * kCsecsPerHour;
+
 /// A day of the proleptic Gregorian calendar; day count 0 is 1970-01-01.
 class TARVIK_API _date_t {
   public:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -8,6 +9,10 @@
 #include <tarvik/util/DateTime.h>
 
 namespace Tarvik::Util {
+
+/// Form of a time as text, and the number of its characters.
+inline constexpr const char* kTimeFormat = "%Y-%m-%d %H:%M:%S";
+inline constexpr std::size_t kTimeTextLength = 19;
 
 /// Zone conversions and arithmetic on date-times. Zones are named as the host names them ("China Standard
 /// Time", or a name of the zone data base); an unknown zone behaves as UTC and is logged once.
@@ -19,7 +24,8 @@ class TARVIK_API DateTimeUtl {
     /// UTC to local time of `zone`.
     static _datetime_t ConvertFromUTC(const _datetime_t& utc, const std::string& zone);
     static std::string Format(const _datetime_t& value, const std::string& format);
-    /// Reads exactly 19 characters "%Y-%m-%d %H:%M:%S" of a date that exists; anything else gives nothing.
+    /// Reads kTimeTextLength characters in the form kTimeFormat of a date that exists; anything else gives
+    /// nothing.
     static std::optional<_datetime_t> Parse(const std::string& text);
     /// Adds hours in whole milliseconds, rounded to the nearest; a value that is not finite adds nothing.
     static _datetime_t AddHour(const _datetime_t& value, double hours);
