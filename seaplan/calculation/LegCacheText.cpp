@@ -8,7 +8,7 @@
 
 #include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/Schedule.h"
-#include "seaplan/calculation/TimeText.h"
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
 

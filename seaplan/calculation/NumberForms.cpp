@@ -3,8 +3,6 @@
 
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/calculation/TimeText.h"
-
 namespace Tarvik::Seaplan {
 
 namespace {

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "seaplan/data/TimeText.h"
 #include "seaplan/data/VoyPortCall.h"
 
 /// The exact texts in which numbers go into the port call table and come back out of it.
@@ -25,7 +26,6 @@ enum PortCallColumn : int {
 
 using CellTexts = std::array<std::string, PortCallColumnCount>;
 
-inline constexpr const char* kTimeFormat = "%Y-%m-%d %H:%M:%S";
 inline constexpr const char* kBlankCell = " ";
 
 /// Empty or one blank: no value.

@@ -5,14 +5,13 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "seaplan/calculation/TimeText.h"
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr std::int64_t kCsecsPerDay = 8'640'000;
-constexpr double kCsecsPerHour = 360'000.0;
+using Util::kCsecsPerDay;
 constexpr double kLongestSpan = 1e8;  // hours, more than ten thousand years
 constexpr double kLeastBuildSpeed = 0.000001;
 constexpr float kDefaultSpeed = 10.0F;
@@ -116,7 +115,8 @@ int AddHours(float hours, Util::_datetime_t& time) {
     if (!std::isfinite(hours) || std::fabs(static_cast<double>(hours)) > kLongestSpan) {
         return -1;
     }
-    const auto span = static_cast<std::int64_t>(static_cast<double>(hours) * kCsecsPerHour);
+    const auto span =
+        static_cast<std::int64_t>(static_cast<double>(hours) * static_cast<double>(Util::kCsecsPerHour));
     const std::int64_t total = time.total_csecs() + span;
     const std::int64_t ofDay = (total % kCsecsPerDay + kCsecsPerDay) % kCsecsPerDay;
     const std::int64_t days = (total - ofDay) / kCsecsPerDay;

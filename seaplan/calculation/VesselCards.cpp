@@ -2,15 +2,14 @@
 #include "seaplan/calculation/VesselCards.h"
 
 #include <tarvik/interface/ValueDictionary.h>
-#include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/calculation/Pointset.h"
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr const char* kPlanZone = "China Standard Time";
 constexpr int kEnglish = 1033;
 
 /// Rows of a schedule have no port ids, the dictionary has.
@@ -30,8 +29,7 @@ Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& pos
         card.vessel.x = place.x;
         card.vessel.y = place.y;
     }
-    const auto utc = Util::DateTimeUtl::ConvertToUTC(now, kPlanZone);
-    card.vessel.time = static_cast<std::int32_t>(utc.to_gmt_timer());
+    card.vessel.time = GmtTimerOfPlanTime(now);
     if (!voyage.portCalls.empty()) {
         card.vessel.firstPortName = voyage.portCalls.front().ppn;
         card.vessel.firstPortId = PortIdOf(voyage.portCalls.front());

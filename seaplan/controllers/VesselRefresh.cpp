@@ -11,6 +11,7 @@
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/data/TimeText.h"
 
 /// Keeps each voyage's last known vessel position.
 namespace Tarvik::Seaplan {
@@ -20,7 +21,6 @@ namespace {
 using Interface::VesselPosition;
 using PositionMap = std::map<std::string, VesselPosition>;
 
-constexpr const char* kPlanZone = "China Standard Time";
 constexpr std::size_t kTrackFields = 4;
 constexpr int kTrackNumbers = 3;  ///< time, x and y; the fourth field, the vessel's number, may be unknown
 
@@ -62,10 +62,6 @@ bool IsNewer(int time, const std::string& place, const VoyInfo& voyage) {
            place != voyage.lastPosText;
 }
 
-int GmtTimerOf(const Util::_datetime_t& planTime) {
-    return static_cast<int>(Util::DateTimeUtl::ConvertToUTC(planTime, kPlanZone).to_gmt_timer());
-}
-
 /// Takes a newer position; a first number is saved first. False when that fails. A record without numbers
 /// for its place tells nothing.
 bool TakePosition(const VesselPosition& record, VoyCatalogController& catalog, VoyInfo& voyage) {
@@ -96,7 +92,7 @@ void NoteCorrectionTime(VoyCatalogController& catalog, VoyInfo& voyage) {
         return;
     }
     if (const auto last = Util::DateTimeUtl::Parse(times.back())) {
-        voyage.lastAisModTime = GmtTimerOf(*last);
+        voyage.lastAisModTime = GmtTimerOfPlanTime(*last);
     }
 }
 
@@ -122,8 +118,8 @@ std::string AskTrack(const VoyInfo& voyage) {
     Interface::VesselTraceRequest request;
     request.vsi = voyage.vsi;
     request.vsmsi = voyage.vsmsi;
-    request.begin = GmtTimerOf(voyage.portCalls.front().etd);
-    request.end = GmtTimerOf(voyage.portCalls.back().eta);
+    request.begin = GmtTimerOfPlanTime(voyage.portCalls.front().etd);
+    request.end = GmtTimerOfPlanTime(voyage.portCalls.back().eta);
     const std::string* answer = Interface::Call(Interface::Bus::VesselTrace, &std::as_const(request));
     return answer == nullptr ? "" : *answer;
 }

@@ -5,15 +5,9 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
-
-namespace {
-
-constexpr const char* kPlanZone = "China Standard Time";
-constexpr std::size_t kTimeTextLength = 19;
-
-}  // namespace
 
 int VoyCatalogController::Connect(std::string& user) {
     if (module_->EnsureConnected() < 0) {
@@ -271,8 +265,7 @@ int VoyCatalogController::AddAisModTime(const std::string& vi, const std::string
     if (!parsed) {
         return -4;
     }
-    voyage->lastAisModTime =
-        static_cast<int>(Util::DateTimeUtl::ConvertToUTC(*parsed, kPlanZone).to_gmt_timer());
+    voyage->lastAisModTime = GmtTimerOfPlanTime(*parsed);
     return 0;
 }
 

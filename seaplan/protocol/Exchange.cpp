@@ -7,7 +7,8 @@
 
 #include <tarvik/core/BusBlock.h>
 #include <tarvik/interface/BusContract.h>
-#include <tarvik/util/DateTimeUtl.h>
+
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
 
@@ -16,9 +17,6 @@ namespace {
 namespace Bus = Interface::Bus;
 
 constexpr std::uint16_t kVoyageModule = 5;
-constexpr const char* kTimeText = "%Y-%m-%d %H:%M:%S";
-/// Plan times are written in this zone, whatever zone the person has chosen.
-constexpr const char* kPlanZone = "China Standard Time";
 /// Rows stored before these moments hold local time and pass as they stand; the two texts differ by the
 /// zone's offset.
 constexpr const char* kFirstConvertedOnWriting = "2011-10-02 08:00:00";
@@ -85,7 +83,7 @@ int ToServerTime(const std::string& local, std::string& out) {
     if (!time) {
         return -1;
     }
-    out = Util::DateTimeUtl::ConvertToUTC(*time, kPlanZone).fmt(kTimeText);
+    out = UtcOfPlanTime(*time).fmt(kTimeFormat);
     return 0;
 }
 
@@ -104,7 +102,7 @@ int FromServerTime(const std::string& server, std::string& out) {
     if (zone == nullptr) {
         return -2;
     }
-    out = Util::DateTimeUtl::ConvertFromUTC(utc, *zone).fmt(kTimeText);
+    out = Util::DateTimeUtl::ConvertFromUTC(utc, *zone).fmt(kTimeFormat);
     return 0;
 }
 

@@ -5,6 +5,7 @@
 #include <limits>
 #include <utility>
 
+#include "seaplan/data/TimeText.h"
 #include "seaplan/protocol/RemarkExchange.h"
 #include "seaplan/protocol/RemarkReply.h"
 #include "seaplan/protocol/RemarkTexts.h"
@@ -13,8 +14,6 @@
 namespace Tarvik::Seaplan {
 
 namespace {
-
-constexpr const char* kTimeText = "%Y-%m-%d %H:%M:%S";
 
 /// A text that does not fit `capacity` bytes with its NUL is not sent and counts as failed.
 bool Exchange(const std::string& text, std::size_t capacity, RemarkBlock& reply) {
@@ -60,7 +59,7 @@ bool RemarkList::AddRemark(int type, const std::string& objectid, int& seq, cons
     if (!Exchange(AddRemarkText(type, objectid, seq, subject, body), kRemarkTextBytes)) {
         return false;
     }
-    const std::string now = NowText(kTimeText);
+    const std::string now = NowText(kTimeFormat);
     remarks_.push_back(std::make_unique<CRemark>(CRemark{type, objectid, seq, subject, body, now, now}));
     return true;
 }
@@ -73,7 +72,7 @@ bool RemarkList::ChangeRemark(int type, const std::string& objectid, int seq, co
     if (CRemark* remark = Find(type, objectid, seq)) {
         remark->subject = subject;
         remark->body = body;
-        remark->udate = NowText(kTimeText);
+        remark->udate = NowText(kTimeFormat);
     }
     return true;
 }

@@ -7,6 +7,7 @@
 
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/data/TimeText.h"
 #include "seaplan/protocol/RemarkTime.h"
 
 namespace Tarvik::Seaplan {
@@ -18,7 +19,7 @@ std::string RemarkTimeText(const std::string& seconds) {
     if (result.ec != std::errc() || result.ptr != end) {
         return {};
     }
-    return UtcTextToLocal(timer, "%Y-%m-%d %H:%M:%S");
+    return UtcTextToLocal(timer, kTimeFormat);
 }
 
 std::vector<CRemark> ReadRemarks(const Util::Jsona& reply, int type, const std::string& objectid) {

@@ -4,11 +4,11 @@
 #include <utility>
 
 #include <tarvik/interface/ValueDictionary.h>
-#include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
 
@@ -20,9 +20,7 @@ constexpr double kWestOfLine = -179.0;
 constexpr int kEnglish = 1033;
 constexpr int kPortDecimals = 4;
 constexpr int kWaypointDecimals = 3;
-constexpr const char* kPlanZone = "China Standard Time";
 
-using Util::DateTimeUtl;
 using Util::StringUtl;
 
 double KmPerHour(float knots) {
@@ -64,8 +62,8 @@ void TakeCall(const VoyPortCall& call, PosBookPortRow& port) {
     port.purpose = call.pp;
     port.weather = static_cast<double>(call.pw);
     port.portTime = static_cast<double>(call.apt);
-    port.eta = DateTimeUtl::ConvertToUTC(call.eta, kPlanZone);
-    port.etd = DateTimeUtl::ConvertToUTC(call.etd, kPlanZone);
+    port.eta = UtcOfPlanTime(call.eta);
+    port.etd = UtcOfPlanTime(call.etd);
 }
 
 /// A port with its rows, the last of which is the port itself.
@@ -112,8 +110,8 @@ VoyPortCall StoredCall(const PosBookPortRow& port) {
     call.psp = Knots(port.speed);
     call.pw = static_cast<float>(port.weather);
     call.apt = static_cast<float>(port.portTime);
-    call.eta = DateTimeUtl::ConvertFromUTC(port.eta, kPlanZone);
-    call.etd = DateTimeUtl::ConvertFromUTC(port.etd, kPlanZone);
+    call.eta = PlanTimeOfUtc(port.eta);
+    call.etd = PlanTimeOfUtc(port.etd);
     return call;
 }
 

@@ -11,7 +11,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr std::size_t kTimeTextLength = 19;
 constexpr double kLeastSpeed = 0.00001;
 constexpr double kLeastLegHours = 0.00001;
 constexpr double kEarliestDeparture = -0.0001;

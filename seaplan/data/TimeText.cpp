@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/TimeText.h"
+#include "seaplan/data/TimeText.h"
 
 #include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
 
 namespace {
-
-constexpr std::size_t kTimeLength = 19;
 
 bool Within(int value, int least, int most) {
     return value >= least && value <= most;
@@ -22,7 +20,7 @@ bool Exists(const TimeFields& fields) {
 }  // namespace
 
 std::optional<TimeFields> ReadTimeFields(const std::string& text) {
-    if (text.size() != kTimeLength) {
+    if (text.size() != kTimeTextLength) {
         return std::nullopt;
     }
     const auto number = [&text](std::size_t at, std::size_t count) {
