@@ -129,11 +129,13 @@ void* RecordingHost::OnExchange(void* input) {
     requests.push_back(
         {std::string(static_cast<const char*>(input), sizeof(VoyServerRequest) + request.length)});
     auto& queue = replies_[request.command];
-    if (queue.empty()) {
-        return nullptr;
+    std::optional<std::string> json;
+    if (!queue.empty()) {
+        json = queue.front();
+        queue.pop_front();
+    } else if (server) {
+        json = server(request);
     }
-    const std::optional<std::string> json = queue.front();
-    queue.pop_front();
     return json ? makeReply(*json) : nullptr;
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -60,6 +61,9 @@ class RecordingHost : public Core::TObject {
     std::optional<std::string> user = "1000001";
     std::optional<std::string> zone = "China Standard Time";
     std::optional<std::vector<Interface::VesselPosition>> positions;
+    /// Answers the requests for which no reply was given, after they were recorded; without it they find
+    /// none.
+    std::function<std::optional<std::string>(const Interface::VoyServerRequest&)> server;
 
     std::vector<RecordedRequest> requests;
     std::vector<ChartCall> chartCalls;
