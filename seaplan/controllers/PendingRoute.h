@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "seaplan/data/RouteStop.h"
+#include "seaplan/data/VoyPortCall.h"
+
+namespace Tarvik::Seaplan {
+
+/// The calculated route that no save has taken yet, with the voyage that it was calculated for, and what is
+/// known of the schedule on show: its ports, whether its rows still are those of its route, and the voyage
+/// last drawn with its ship. A route of no voyage is the distance table's, or of a caller that names none,
+/// and fits whoever asks.
+class PendingRoute {
+    struct Route {
+        RouteStops stops;
+        std::string voyage;
+    };
+
+  public:
+    /// Leaves the route as it was at this object's making, unless Keep was called.
+    class Rollback {
+      public:
+        explicit Rollback(PendingRoute& pending) : pending_(pending), before_(pending.route_) {}
+        ~Rollback();
+        Rollback(const Rollback&) = delete;
+        Rollback& operator=(const Rollback&) = delete;
+        void Keep() { kept_ = true; }
+
+      private:
+        PendingRoute& pending_;
+        Route before_;
+        bool kept_ = false;
+    };
+
+    const RouteStops& Stops() const { return route_.stops; }
+    bool IsThere() const { return !route_.stops.empty(); }
+    /// Whether there is a route that a save of this voyage may take.
+    bool IsFor(const std::string& vi) const;
+    /// A newly calculated route; it belongs to no voyage until Assign names one.
+    void Take(RouteStops stops) { route_ = {std::move(stops), ""}; }
+    void Assign(const std::string& vi) { route_.voyage = vi; }
+    /// The same route by other points: whose it is stays.
+    void Change(RouteStops stops) { route_.stops = std::move(stops); }
+    void Drop() { route_ = {}; }
+
+    /// The schedule of `vi` was loaded with these rows: its own pending route goes, that of another stays.
+    void NoteLoaded(const std::string& vi, const PortCallRows& rows);
+    void NoteSaved() { isCurrent_ = 1; }
+    /// Rows were moved, deleted or cleared: the route is recalculated before the next save.
+    void NoteRowsChanged() { isCurrent_ = -1; }
+    void NoteDrawn(const std::string& vi) { drawnVoyage_ = vi; }
+    /// Forgets the route and the ports of the schedule last loaded.
+    void Forget();
+    /// 1 after a schedule was loaded or saved, -1 at the start and after NoteRowsChanged.
+    int IsCurrent() const { return isCurrent_; }
+    /// Names of the ports of the schedule last loaded.
+    const std::vector<std::string>& PortNames() const { return portNames_; }
+    /// The voyage last drawn with its ship on the way, empty before the first.
+    const std::string& DrawnVoyage() const { return drawnVoyage_; }
+
+  private:
+    Route route_;
+    std::vector<std::string> portNames_;
+    int isCurrent_ = -1;
+    std::string drawnVoyage_;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/controllers/RouteExchange.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/protocol/StatusReply.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr std::uint16_t kRouteCommand = 1;
+constexpr std::uint16_t kNearestCommand = 2;
+
+bool IsPosition(const std::string& point) {
+    Position ignored;
+    return ReadPosition(point, 1, ignored);
+}
+
+}  // namespace
+
+Outcome<RouteStep> AskRoute(const std::string& text, RouteStops& stops) {
+    Util::Jsona reply;
+    if (SendText(text, kRouteCommand, reply) < 0) {
+        return RouteStep::Send;
+    }
+    RouteStops parsed;
+    if (ParseRouteReply(reply, parsed) < 0) {
+        return RouteStep::Parse;
+    }
+    stops = std::move(parsed);
+    return {};
+}
+
+Outcome<NearestStep> AskNearestRoute(const std::string& position, const std::string& portId,
+                                     std::vector<std::string>& points) {
+    points.clear();
+    if (position.empty() || portId.empty()) {
+        return NearestStep::Input;
+    }
+    Util::Jsona reply;
+    if (SendText(NearestRequestText(position, portId), kNearestCommand, reply) < 0) {
+        return NearestStep::Send;
+    }
+    if (reply.size() < 1) {
+        return NearestStep::Empty;
+    }
+    if (reply.getv("eid", 0) != 0) {
+        return NearestStep::Refused;
+    }
+    std::vector<std::string> way;
+    SplitPointset(reply.getv("pointset", ""), way);
+    if (!std::all_of(way.begin(), way.end(), IsPosition)) {
+        return NearestStep::Position;
+    }
+    points = std::move(way);
+    return {};
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/controllers/RouteFinder.h"
+
+#include <utility>
+
+#include <tarvik/interface/ValueDictionary.h>
+
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/controllers/RouteExchange.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+VoyPortCall ResultRow(const VoyPortCall& row, const RouteStop& stop) {
+    VoyPortCall result;
+    result.ppi = stop.point_cd;
+    result.ppn = row.ppn;
+    result.pp = row.pp;
+    result.psp = row.psp;
+    result.pw = row.pw;
+    result.apt = row.apt;
+    result.distance = stop.distance;
+    return result;
+}
+
+}  // namespace
+
+Outcome<FindStep> RouteFinder::Stops(const PortCallRows& rows, bool wholeList, RouteStops& stops) {
+    if (!wholeList) {
+        const auto found = legs_.StopsOf(rows, stops);
+        return found.Failed() ? Outcome<FindStep>(FindStep::Legs, kStopsByCacheCodes.Of(found))
+                              : Outcome<FindStep>();
+    }
+    if (rows.size() < 2) {
+        return FindStep::TooFewRows;
+    }
+    std::vector<std::string> ids;
+    for (const VoyPortCall& row : rows) {
+        ids.push_back(row.ppi);
+    }
+    const auto asked = AskRoute(RouteRequestText(ids), stops);
+    if (asked.Failed()) {
+        return asked.At() == RouteStep::Send ? FindStep::Send : FindStep::Parse;
+    }
+    return {};
+}
+
+Outcome<FindStep> RouteFinder::Find(const PortCallRows& rows, PortCallRows& results, bool wholeList) {
+    results.clear();
+    RouteStops stops;
+    if (const auto failed = Stops(rows, wholeList, stops); failed.Failed()) {
+        return failed;
+    }
+    if (stops.size() != rows.size()) {
+        return FindStep::Count;
+    }
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        results.push_back(ResultRow(rows[i], stops[i]));
+    }
+    pending_.Take(std::move(stops));
+    return {};
+}
+
+Outcome<BookStep> RouteFinder::BookOfRoute(BookPoints& rows) {
+    rows.clear();
+    if (LoadRoutePoints(PointDatabasePath(), routePoints_) < 0) {
+        return BookStep::Points;
+    }
+    const int made = BookFromStops(pending_.Stops(), routePoints_, rows);
+    return made < 0 ? Outcome<BookStep>(BookStep::Rows, made) : Outcome<BookStep>();
+}
+
+Outcome<PlaceStep> RouteFinder::PortPositions(const PortCallRows& rows, std::vector<RoutePointRow>& out) {
+    out.clear();
+    if (LoadPortPositions(PointDatabasePath(), portPositions_) < 0) {
+        return PlaceStep::Points;
+    }
+    for (const VoyPortCall& row : rows) {
+        const std::string id = Interface::GetNameByValue("/points", row.ppn, 1033);
+        const auto found = portPositions_.find(id);
+        if (found == portPositions_.end()) {
+            return PlaceStep::Unknown;
+        }
+        out.push_back({id, row.ppn, found->second.position});
+    }
+    return {};
+}
+
+}  // namespace Tarvik::Seaplan
