@@ -244,12 +244,12 @@ int VoyController::DeleteRow(const PortCallRows& rows, int index, PortCallRows& 
 }
 
 void VoyController::ForgetPortList() {
-    module_->ClearCurrentStops();
+    module_->Pending().Drop();
     portNames_.clear();
 }
 
 bool VoyController::HasPendingRoute() const {
-    return !module_->CurrentStops().empty();
+    return !module_->Pending().Stops().empty();
 }
 
 }  // namespace Tarvik::Seaplan

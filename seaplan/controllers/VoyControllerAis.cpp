@@ -99,7 +99,7 @@ int VoyController::RouteAhead(const PortCallRows& plan, BookPoints& rows) {
             return -8;
         }
     }
-    module_->ClearCurrentStops();
+    module_->Pending().Drop();
     return 0;
 }
 
@@ -137,11 +137,11 @@ int VoyController::ReplanFromAis(const std::string& vi, const PortCallRows& hist
     if (voyage == nullptr || history.empty() || plan.empty()) {
         return -1;
     }
-    RouteStops pending = module_->CurrentStops();
+    RouteStops pending = module_->Pending().Stops();
     VoyPositionBook book;
     PortCallRows ports;
     if (const int failed = Replan(*voyage, history, plan, book, ports); failed < 0) {
-        module_->SetCurrentStops(std::move(pending));
+        module_->Pending().Take(std::move(pending));
         return failed;
     }
     voyage->positionBook = std::move(book);

@@ -52,7 +52,7 @@ int VoyController::CalculateNew(const PortCallRows& rows, PortCallRows& out) {
 
 int VoyController::ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& out) {
     out.clear();
-    const RouteStops& stops = module_->CurrentStops();
+    const RouteStops& stops = module_->Pending().Stops();
     if (rows.empty() || stops.size() != rows.size()) {
         return -1;
     }
@@ -80,12 +80,12 @@ int VoyController::ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& 
 
 int VoyController::CalculatePortCalls(const PortCallRows& rows, PortCallRows& out) {
     // The table stays as it was after a failure, and with it the route that belongs to it.
-    RouteStops pending = module_->CurrentStops();
+    RouteStops pending = module_->Pending().Stops();
     PortCallRows scheduled;
     const int result = CalculateNew(rows, scheduled);
     out.clear();
     if (result < 0) {
-        module_->SetCurrentStops(std::move(pending));
+        module_->Pending().Take(std::move(pending));
         return result;
     }
     out = std::move(scheduled);
@@ -132,12 +132,12 @@ int VoyController::CalculateKeepingLegs(const std::string& vi, const PortCallRow
         out.clear();
         return -1;
     }
-    RouteStops pending = module_->CurrentStops();
+    RouteStops pending = module_->Pending().Stops();
     PortCallRows scheduled;
     const int result = CalculateKept(*voyage, rows, scheduled);
     out.clear();
     if (result < 0) {
-        module_->SetCurrentStops(std::move(pending));
+        module_->Pending().Take(std::move(pending));
         return result;
     }
     out = std::move(scheduled);
@@ -179,7 +179,7 @@ int VoyController::SaveBook(VoyInfo& voyage) {
         return -3;
     }
     voyage.positionBook.points = std::move(points);
-    module_->ClearCurrentStops();
+    module_->Pending().Drop();
     return 0;
 }
 

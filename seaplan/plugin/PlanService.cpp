@@ -2,7 +2,6 @@
 #include "seaplan/plugin/PlanService.h"
 
 #include <cmath>
-#include <utility>
 
 #include "seaplan/calculation/PointTables.h"
 #include "seaplan/calculation/PortPreparation.h"
@@ -80,7 +79,8 @@ void* PlanService::OnPlan(void* request) {
 
 const PlanResult& PlanService::Plan(const PlanRequest& request) {
     const bool loadedBefore = !store_->categories.empty();
-    RouteStops pending = voyages_->Module().CurrentStops();
+    // A panel that saves later must neither take this route for its own nor miss the one it has calculated.
+    const PendingRoute::Rollback panelsRoute(voyages_->Module().Pending());
     result_ = {};
     if (Run(request) < 0) {
         PlanResult failure;
@@ -88,8 +88,6 @@ const PlanResult& PlanService::Plan(const PlanRequest& request) {
         failure.step = result_.step;
         result_ = failure;
     }
-    // A panel that saves later must neither take this route for its own nor miss the one it has calculated.
-    voyages_->Module().SetCurrentStops(std::move(pending));
     // The voyage panel builds its tree when it finds nothing loaded, so what was loaded here goes again.
     if (!loadedBefore) {
         store_->Clear();

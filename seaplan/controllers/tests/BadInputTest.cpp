@@ -75,13 +75,13 @@ TEST_F(BadInputTest, WeatherOfOneFailsTheScheduleAndTheDrawing) {
 }
 
 TEST_F(BadInputTest, WeatherOfOneEndsACalculationWithTheTableAsItWas) {
-    module.SetCurrentStops(RouteStops(2));
+    module.Pending().Take(RouteStops(2));
     PortCallRows typed = typedRows();
     typed[1].pw = 1.0F;
     host.Reply(1, kRouteAb);
     EXPECT_EQ(voyages.CalculatePortCalls(typed, rows), -2);
     EXPECT_TRUE(rows.empty());
-    EXPECT_TRUE(module.CurrentStops()[0].point_cd.empty()) << "the pending route is the old one";
+    EXPECT_TRUE(module.Pending().Stops()[0].point_cd.empty()) << "the pending route is the old one";
     EXPECT_TRUE(host.chartCalls.empty());
 }
 
@@ -134,11 +134,11 @@ TEST_F(BadInputTest, TrackWithoutNumbersForTimeOrPlaceIsNotTaken) {
 
 TEST_F(BadInputTest, DatabaseWithoutTheTableEndsWhatNeedsItAndKeepsThePendingRoute) {
     emptyDatabase();
-    module.SetCurrentStops(RouteStops(2));
+    module.Pending().Take(RouteStops(2));
     host.Reply(1, kRouteAb);
     EXPECT_EQ(voyages.CalculatePortCalls(typedRows(), rows), -3);
-    EXPECT_EQ(module.CurrentStops().size(), 2U);
-    EXPECT_TRUE(module.CurrentStops()[1].point_cd.empty());
+    EXPECT_EQ(module.Pending().Stops().size(), 2U);
+    EXPECT_TRUE(module.Pending().Stops()[1].point_cd.empty());
     std::vector<RoutePointRow> ports;
     EXPECT_EQ(module.PortPositions(typedRows(), ports), -1);
     EXPECT_TRUE(host.chartCalls.empty());

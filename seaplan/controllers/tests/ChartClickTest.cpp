@@ -108,7 +108,7 @@ TEST_F(ChartClickTest, ChosenAlternativeAsksForTheOtherRouteAndRedraws) {
               R"("pointList":"40001#40002|40001,118,40002|105=40001,40002"})");
     host.Reply(1, "{eid:1}");
     EXPECT_EQ(clickAlternative("105"), "-4");
-    EXPECT_EQ(module.CurrentStops().size(), 2U) << "a failed request leaves the stops";
+    EXPECT_EQ(module.Pending().Stops().size(), 2U) << "a failed request leaves the stops";
     host.Reply(1, kRouteAb);
     host.chartCalls.clear();
     EXPECT_EQ(clickAlternative("105"), "");
@@ -179,7 +179,7 @@ TEST_F(ChartClickTest, RouteThatCannotBeDrawnIsTakenAllTheSame) {
     clickPoint("118");
     host.Reply(1, R"([{point_cd:"40001"},)" + stopWith("40001", "40002", "999=40001,40002;105") + "]");
     EXPECT_EQ(clickAlternative("105"), "-5");
-    EXPECT_EQ(module.CurrentStops()[1].rp_groups[0].rp_id, "999");
+    EXPECT_EQ(module.Pending().Stops()[1].rp_groups[0].rp_id, "999");
 }
 
 TEST_F(ChartClickTest, ShipOfNoVoyageShowsNothing) {

@@ -168,8 +168,8 @@ TEST_F(LegCacheTest, CachedRouteKeepsItsAlternatives) {
     module.GetRoute(typedRows(), rows, false);
     VoyPortCallModule next(&store);
     EXPECT_EQ(next.GetRoute(typedRows(), rows, false), 0);
-    ASSERT_EQ(next.CurrentStops().size(), 2U);
-    const RouteStop& end = next.CurrentStops()[1];
+    ASSERT_EQ(next.Pending().Stops().size(), 2U);
+    const RouteStop& end = next.Pending().Stops()[1];
     EXPECT_EQ(end.rp_id_str, "118");
     ASSERT_EQ(end.rp_groups.size(), 1U);
     EXPECT_EQ(end.rp_groups[0].alternatives, (Texts{"105", "116"}));

@@ -17,7 +17,7 @@ TEST_F(RouteTest, WholeListLadder) {
     host.Reply(1, R"([{point_cd:"40001"}])");
     EXPECT_EQ(module.GetRoute(typedRows(), rows, true), -5);
     EXPECT_TRUE(rows.empty());
-    EXPECT_TRUE(module.CurrentStops().empty());
+    EXPECT_TRUE(module.Pending().Stops().empty());
 }
 
 TEST_F(RouteTest, WholeListIsAskedForInOneRequest) {
@@ -52,7 +52,7 @@ TEST_F(RouteTest, FailedRequestLeavesTheStopsOfTheRouteBefore) {
     EXPECT_EQ(module.GetRoute(typedRows(), rows, true), -2);
     host.Reply(1, kRouteAb);
     EXPECT_EQ(module.GetRoute(threeRows(), rows, true), -5);
-    EXPECT_EQ(module.CurrentStops().size(), 2U);
+    EXPECT_EQ(module.Pending().Stops().size(), 2U);
 }
 
 TEST_F(RouteTest, ErrorIdOfMinusOneIsAReplyWithoutStops) {

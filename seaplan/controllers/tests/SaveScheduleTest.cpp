@@ -75,7 +75,7 @@ TEST_F(SaveScheduleTest, FailedCalculationLeavesThePendingRouteThatTheTableShows
     EXPECT_EQ(voyages.CalculatePortCalls(changed, rows), -2) << "the steam time is not finite";
     EXPECT_TRUE(rows.empty());
     ASSERT_TRUE(voyages.HasPendingRoute());
-    EXPECT_EQ(module.CurrentStops()[0].point_cd, "40001");
+    EXPECT_EQ(module.Pending().Stops()[0].point_cd, "40001");
 }
 
 TEST_F(SaveScheduleTest, FailedRecalculationLeavesTheVoyageAsItWas) {

@@ -86,7 +86,7 @@ TEST_F(VoyageReplanTest, PendingRouteOfAnotherCalculationIsDropped) {
 }
 
 TEST_F(VoyageReplanTest, EveryFailureHasItsNumberAndLeavesTheVoyageAndThePendingRoute) {
-    module.SetCurrentStops(RouteStops(2));
+    module.Pending().Take(RouteStops(2));
     const Texts old = positions();
     const VoyInfo whole = voyage();
     EXPECT_EQ(voyages.ReplanFromAis("", before, after, rows), -1);
@@ -112,7 +112,7 @@ TEST_F(VoyageReplanTest, EveryFailureHasItsNumberAndLeavesTheVoyageAndThePending
     EXPECT_EQ(nameList(voyage().portCalls), "A B");
     EXPECT_EQ(voyage().portCalls[1].psp, whole.portCalls[1].psp);
     EXPECT_TRUE(rows.empty());
-    EXPECT_EQ(module.CurrentStops().size(), 2U);
+    EXPECT_EQ(module.Pending().Stops().size(), 2U);
 }
 
 TEST_F(VoyageReplanTest, PortThatTheDictionaryLacksIsNotAskedFor) {

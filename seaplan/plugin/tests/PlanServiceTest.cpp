@@ -210,13 +210,13 @@ TEST_F(PlanServiceTest, RouteThatAPanelHasCalculatedStaysTheOneItSaves) {
     for (const bool known : {true, false}) {
         RouteStops calculated(3);
         calculated[0].point_cd = "40003";
-        module.SetCurrentStops(calculated);
+        module.Pending().Take(calculated);
         if (known) {
             host.Reply(1, kRouteAb);
         }
         EXPECT_EQ(service.Plan(request).code, known ? PlanDone : PlanNotCalculated);
-        ASSERT_EQ(module.CurrentStops().size(), 3U) << known;
-        EXPECT_EQ(module.CurrentStops()[0].point_cd, "40003");
+        ASSERT_EQ(module.Pending().Stops().size(), 3U) << known;
+        EXPECT_EQ(module.Pending().Stops()[0].point_cd, "40003");
     }
 }
 

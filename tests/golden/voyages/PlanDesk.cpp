@@ -140,12 +140,12 @@ std::string PlanDesk::loadAgain(PortCallRows& rows) {
 
 std::string PlanDesk::tryAlternative(const Offer& offer, const RouteStops& stops) {
     VoyPortCallModule& module = root_.PortCallModule();
-    module.SetCurrentStops(stops);
+    module.Pending().Take(stops);
     if (!click(Bus::ClickVoyageType, offer.RoutePoint) ||
         !click(Bus::ClickRoutePointType, offer.alternative)) {
         return "refused";
     }
-    const RouteStop& changed = module.CurrentStops().at(offer.stop);
+    const RouteStop& changed = module.Pending().Stops().at(offer.stop);
     const std::string passed = "," + changed.rp_id_str + ",";
     if (passed.find("," + offer.alternative + ",") == std::string::npos) {
         return "not passed";
@@ -196,7 +196,7 @@ std::string PlanDesk::Run(const Voyage& voyage, VoyageRecord& record) {
     if (std::string failed = choose(voyage, rows); !failed.empty()) {
         return failed;
     }
-    record.stops = root_.PortCallModule().CurrentStops();
+    record.stops = root_.PortCallModule().Pending().Stops();
     if (std::string failed = save(voyage, rows, record); !failed.empty()) {
         return failed;
     }

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/controllers/ChartClicks.h"
+
+#include <tuple>
+
+#include <tarvik/interface/BusContract.h>
+
+#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/calculation/VesselCards.h"
+#include "seaplan/controllers/RouteExchange.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+namespace Bus = Interface::Bus;
+
+/// Answers of click handlers are texts of small numbers; null is success. The bus hands them on untyped and
+/// nobody writes to them.
+void* AnswerOf(int result) {
+    static const char* const texts[] = {"0", "-1", "-2", "-3", "-4", "-5"};
+    return result == 0 ? nullptr : const_cast<char*>(texts[-result]);
+}
+
+/// The id that a click brings, empty for none.
+std::string IdOf(const void* id) {
+    return id == nullptr ? "" : *static_cast<const std::string*>(id);
+}
+
+/// Alternatives of a route point on the route. A point that lies on the way to several stops has those of the
+/// last.
+std::vector<std::string> AlternativesOf(const RouteStops& stops, const std::string& id) {
+    std::vector<std::string> alternatives;
+    for (const RouteStop& stop : stops) {
+        for (const RoutePointGroup& group : stop.rp_groups) {
+            if (group.rp_id == id) {
+                alternatives = group.alternatives;
+            }
+        }
+    }
+    return alternatives;
+}
+
+}  // namespace
+
+ChartClicks::ChartClicks(VoyageStore* store, VoyageLayer& layer, RouteFinder& routes,
+                         ProgressDrawing& drawing)
+    : store_(store), layer_(layer), routes_(routes), drawing_(drawing) {
+    routePointClick_.Set<&ChartClicks::OnRoutePoint>(this);
+    alternativeClick_.Set<&ChartClicks::OnAlternative>(this);
+    shipClick_.Set<&ChartClicks::OnShip>(this);
+    Bind(Bus::ClickVoyageType.name, routePointClick_);
+    Bind(Bus::ClickRoutePointType.name, alternativeClick_);
+    Bind(Bus::ClickAisShipType.name, shipClick_);
+}
+
+ChartClicks::~ChartClicks() {
+    Unbind(Bus::ClickAisShipType.name, shipClick_);
+    Unbind(Bus::ClickRoutePointType.name, alternativeClick_);
+    Unbind(Bus::ClickVoyageType.name, routePointClick_);
+}
+
+void ChartClicks::Bind(const char* name, Core::TEvent& delegate) {
+    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
+    kernel->CreateTrvEvent(name, this, "", "", nullptr);
+    kernel->BindTrvEvent(name, &delegate);
+}
+
+// The click channels are made as events and taken down as services; the bus keeps both in one table of names.
+void ChartClicks::Unbind(const char* name, Core::TEvent& delegate) {
+    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
+    kernel->UnBindTrvService(name, &delegate);
+    kernel->DeleteTrvService(name, this);
+}
+
+void* ChartClicks::OnRoutePoint(void* id) {
+    return AnswerOf(kRoutePointClickCodes.Of(ShowAlternatives(IdOf(id))));
+}
+
+void* ChartClicks::OnAlternative(void* id) {
+    return AnswerOf(kAlternativeClickCodes.Of(id == nullptr ? ClickStep::Id : ChooseAlternative(IdOf(id))));
+}
+
+void* ChartClicks::OnShip(void* vi) {
+    return AnswerOf(kShipClickCodes.Of(ShowVesselCard(IdOf(vi))));
+}
+
+Outcome<ClickStep> ChartClicks::ShowAlternatives(const std::string& id) {
+    const PointMap& points = routes_.RoutePoints();
+    const auto clicked = points.find(id);
+    if (clicked == points.end()) {
+        return ClickStep::Id;
+    }
+    PointTexts extent{clicked->second.position};
+    clickedRoutePoint_ = id;
+    layer_.ClearAlternatives();
+    for (const std::string& alternative : AlternativesOf(routes_.Pending().Stops(), id)) {
+        const auto found = points.find(alternative);
+        if (found == points.end()) {
+            return ClickStep::Alternative;
+        }
+        extent.push_back(found->second.position);
+        layer_.AddAlternativeLabel(found->second);
+    }
+    return layer_.SetExtent(extent) < 0 ? ClickStep::Extent : Outcome<ClickStep>();
+}
+
+Outcome<ClickStep> ChartClicks::ChooseAlternative(const std::string& id) {
+    if (clickedRoutePoint_.empty()) {
+        return ClickStep::Id;
+    }
+    std::string text;
+    if (!AlternativeRequestText(routes_.Pending().Stops(), clickedRoutePoint_, id, text)) {
+        return ClickStep::Group;
+    }
+    RouteStops stops;
+    if (const auto asked = AskRoute(text, stops); asked.Failed()) {
+        return asked.At() == RouteStep::Send ? ClickStep::Send : ClickStep::Parse;
+    }
+    routes_.Pending().Change(std::move(stops));
+    const int drawn = layer_.DrawRoute(routes_.Pending().Stops(), PointDatabasePath(), routes_.RoutePoints());
+    if (routeChosen) {
+        routeChosen();
+    }
+    return drawn < 0 ? ClickStep::Draw : Outcome<ClickStep>();
+}
+
+Outcome<ClickStep> ChartClicks::ShowVesselCard(const std::string& vi) {
+    if (vi.empty()) {
+        return ClickStep::Id;
+    }
+    const VoyInfo* voyage = store_->FindVoyage(vi);
+    if (voyage == nullptr) {
+        return ClickStep::Voyage;
+    }
+    Interface::VesselCard card = VesselCardOf(*voyage, drawing_.ShipPosition(vi), Util::_datetime_t::now());
+    if (cursor) {
+        std::tie(card.cursorX, card.cursorY) = cursor();
+    }
+    Interface::Call(Bus::ShowVesselCard, &std::as_const(card));
+    return {};
+}
+
+}  // namespace Tarvik::Seaplan
