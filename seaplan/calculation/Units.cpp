@@ -13,28 +13,26 @@ constexpr const char* kKnots = "kts";
 constexpr const char* kNauticalMiles = "NM";
 constexpr const char* kHours = "hour";
 
-enum class Quantity { Speed, Distance, Time };
-
 struct Factor {
     std::string_view from;
     std::string_view to;
     float multiplier;
     float divisor;
-    Quantity quantity;
+    UnitKind quantity;
 };
 
 // The three speed factors are independent of each other: knots to MPH over KPH is not the direct way.
 constexpr std::array<Factor, 10> kFactors{{
-    {"KPH", "kts", 1, 1.852F, Quantity::Speed},
-    {"kts", "KPH", 1.852F, 1, Quantity::Speed},
-    {"KPH", "MPH", 1, 1.61F, Quantity::Speed},
-    {"MPH", "KPH", 1.61F, 1, Quantity::Speed},
-    {"kts", "MPH", 1.15F, 1, Quantity::Speed},
-    {"MPH", "kts", 1, 1.15F, Quantity::Speed},
-    {"KM", "NM", 1, 1.852F, Quantity::Distance},
-    {"NM", "KM", 1.852F, 1, Quantity::Distance},
-    {"day", "hour", 24, 1, Quantity::Time},
-    {"hour", "day", 1, 24, Quantity::Time},
+    {"KPH", "kts", 1, 1.852F, UnitKind::Speed},
+    {"kts", "KPH", 1.852F, 1, UnitKind::Speed},
+    {"KPH", "MPH", 1, 1.61F, UnitKind::Speed},
+    {"MPH", "KPH", 1.61F, 1, UnitKind::Speed},
+    {"kts", "MPH", 1.15F, 1, UnitKind::Speed},
+    {"MPH", "kts", 1, 1.15F, UnitKind::Speed},
+    {"KM", "NM", 1, 1.852F, UnitKind::Distance},
+    {"NM", "KM", 1.852F, 1, UnitKind::Distance},
+    {"day", "hour", 24, 1, UnitKind::Time},
+    {"hour", "day", 1, 24, UnitKind::Time},
 }};
 
 float Changed(float value, const Factor& factor) {
@@ -44,13 +42,15 @@ float Changed(float value, const Factor& factor) {
 
 void Change(VoyPortCall& row, const Factor& factor) {
     switch (factor.quantity) {
-        case Quantity::Speed:
+        case UnitKind::Speed:
             row.psp = Changed(row.psp, factor);
             break;
-        case Quantity::Distance:
+        case UnitKind::Distance:
             row.distance = Changed(row.distance, factor);
             break;
-        case Quantity::Time:
+        case UnitKind::None:
+            break;
+        case UnitKind::Time:
             row.steamTime = Changed(row.steamTime, factor);
             row.apt = Changed(row.apt, factor);
             break;
@@ -95,6 +95,32 @@ const UnitSet& StandardUnits() {
 }
 
 }  // namespace
+
+const std::string& UnitOf(const UnitSet& units, UnitKind kind) {
+    return kind == UnitKind::Speed ? units.speed : kind == UnitKind::Distance ? units.distance : units.time;
+}
+
+std::string& UnitOf(UnitSet& units, UnitKind kind) {
+    return kind == UnitKind::Speed ? units.speed : kind == UnitKind::Distance ? units.distance : units.time;
+}
+
+std::string UnitLabel(const UnitSet& units, UnitKind kind) {
+    if (kind == UnitKind::None) {
+        return {};
+    }
+    return UnitOf(units, kind) + (kind == UnitKind::Time ? "s" : "");
+}
+
+std::array<const char*, 2> OfferedUnits(UnitKind kind) {
+    switch (kind) {
+        case UnitKind::Speed:
+            return {"kts", "KPH"};
+        case UnitKind::Distance:
+            return {"NM", "KM"};
+        default:
+            return {"day", "hour"};
+    }
+}
 
 int ConvertRows(const PortCallRows& rows, const std::string& from, const std::string& to, PortCallRows& out) {
     const auto factor = std::find_if(kFactors.begin(), kFactors.end(),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "seaplan/data/VoyPortCall.h"
@@ -13,6 +14,17 @@ struct UnitSet {
     std::string distance = "NM";
     std::string time = "day";
 };
+
+/// What a figure measures, where it has a unit at all.
+enum class UnitKind { None, Speed, Distance, Time };
+
+/// The set's name for a quantity, which is not None.
+std::string& UnitOf(UnitSet& units, UnitKind kind);
+const std::string& UnitOf(const UnitSet& units, UnitKind kind);
+/// What stands beside a figure: the unit's name, of a time its plural; empty for None.
+std::string UnitLabel(const UnitSet& units, UnitKind kind);
+/// The names that a person can choose from for a quantity, which is not None.
+std::array<const char*, 2> OfferedUnits(UnitKind kind);
 
 /// Changes one quantity of every row as value * multiplier / divisor. 0; -1 for a pair of units without a
 /// factor (out cleared); -2 for no rows. The empty input is tested first.

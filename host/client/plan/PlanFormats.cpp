@@ -7,7 +7,7 @@
 
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/PortCallColumns.h"
 
 namespace Tarvik::Client {
 
@@ -48,16 +48,6 @@ Json PointFeature(const Seaplan::PosBookPoint& point) {
                     {"etd", TimeText(point.etd)}});
 }
 
-std::string SpeedLabel(const Seaplan::UnitSet& units) {
-    return units.speed;
-}
-std::string DistanceLabel(const Seaplan::UnitSet& units) {
-    return units.distance;
-}
-std::string TimeLabel(const Seaplan::UnitSet& units) {
-    return units.time + "s";
-}
-
 /// Rows in the units on show; those already standard stay as they are.
 PortCallRows Shown(const PortCallRows& rows, const Seaplan::UnitSet& units) {
     PortCallRows shown;
@@ -65,20 +55,10 @@ PortCallRows Shown(const PortCallRows& rows, const Seaplan::UnitSet& units) {
 }
 
 std::vector<std::string> Header(const Seaplan::UnitSet& units, const LanguageFiles& texts) {
-    const std::pair<const char*, std::string> columns[] = {{"ORDER", ""},
-                                                           {"PORT", ""},
-                                                           {"PURPOSE", ""},
-                                                           {"SPEED", SpeedLabel(units)},
-                                                           {"WEATHER", ""},
-                                                           {"STEAMTIME", TimeLabel(units)},
-                                                           {"ATPORTTIME", TimeLabel(units)},
-                                                           {"ETA", ""},
-                                                           {"ETD", ""},
-                                                           {"DISTANCE", DistanceLabel(units)}};
     std::vector<std::string> header;
-    for (const auto& [key, unit] : columns) {
-        std::string text = texts.Text("Seaplan", std::string("IDS_PORTCALL_") + key);
-        if (!unit.empty()) {
+    for (const Seaplan::PortCallColumnEntry& column : Seaplan::kPortCallColumns) {
+        std::string text = texts.Text("Seaplan", column.title);
+        if (const std::string unit = Seaplan::UnitLabel(units, column.unit); !unit.empty()) {
             text.append(" (").append(unit).append(")");
         }
         header.push_back(std::move(text));
@@ -87,18 +67,10 @@ std::vector<std::string> Header(const Seaplan::UnitSet& units, const LanguageFil
 }
 
 std::vector<std::string> TotalsCells(const PortCallRows& shown) {
-    std::vector<std::string> cells(Seaplan::PortCallColumnCount);
-    cells[Seaplan::ColOrder] = "RES";
-    Seaplan::ScheduleTotals totals;
-    if (!Seaplan::TotalsOf(shown, totals)) {
-        return cells;
-    }
-    cells[Seaplan::ColSteamTime] = Seaplan::OneDecimal(totals.steamTime);
-    cells[Seaplan::ColPortTime] = Seaplan::TwoDecimals(totals.portTime);
-    cells[Seaplan::ColEta] = TimeText(totals.eta);
-    cells[Seaplan::ColEtd] = TimeText(totals.etd);
-    cells[Seaplan::ColDistance] = Seaplan::TwoDecimals(totals.distance);
-    return cells;
+    Seaplan::CellTexts cells;
+    cells[Seaplan::ColOrder] = Seaplan::kTotalsLabel;
+    Seaplan::TotalsToCells(shown, cells);
+    return {cells.begin(), cells.end()};
 }
 
 std::string CsvField(const std::string& text) {
@@ -116,23 +88,20 @@ std::string CsvField(const std::string& text) {
 }
 
 bool IsNumberColumn(std::size_t column) {
-    return column != Seaplan::ColPort && column != Seaplan::ColPurpose && column != Seaplan::ColEta &&
-           column != Seaplan::ColEtd;
+    return Seaplan::kPortCallColumns[column].kind == Seaplan::CellKind::Number;
 }
 
-/// The summary figures as one row, in the units on show.
+/// The summary figures in the units on show.
 std::string SummaryLine(const Seaplan::PlanResult& plan, const Seaplan::UnitSet& units,
                         const LanguageFiles& texts) {
-    Seaplan::VoyPortCall figures;
-    figures.psp = plan.summary.averageSpeed;
-    figures.steamTime = plan.summary.totalTime;
-    figures.distance = plan.summary.totalDistance;
-    const Seaplan::VoyPortCall shown = Shown({figures}, units).front();
-    return texts.Text("Seaplan", "IDS_PORTCALL_AVARGERSPD") + " " + Seaplan::OneDecimal(shown.psp) + " " +
-           SpeedLabel(units) + ", " + texts.Text("Seaplan", "IDS_PORTCALL_TOTLEDISTANCE") + " " +
-           Seaplan::OneDecimal(shown.distance) + " " + DistanceLabel(units) + ", " +
-           texts.Text("Seaplan", "IDS_PORTCALL_TOTALTIME") + " " + Seaplan::TwoDecimals(shown.steamTime) +
-           " " + TimeLabel(units) + "\n";
+    Seaplan::SummaryTexts shown;
+    Seaplan::SummaryToTexts(plan.summary, units, shown);
+    const auto label = [&units](Seaplan::UnitKind kind) { return Seaplan::UnitLabel(units, kind); };
+    return texts.Text("Seaplan", "IDS_PORTCALL_AVARGERSPD") + " " + shown.averageSpeed + " " +
+           label(Seaplan::UnitKind::Speed) + ", " + texts.Text("Seaplan", "IDS_PORTCALL_TOTLEDISTANCE") +
+           " " + shown.totalDistance + " " + label(Seaplan::UnitKind::Distance) + ", " +
+           texts.Text("Seaplan", "IDS_PORTCALL_TOTALTIME") + " " + shown.totalTime + " " +
+           label(Seaplan::UnitKind::Time) + "\n";
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/calculation/tests/Rows.h"
 
 namespace Tarvik::Seaplan {

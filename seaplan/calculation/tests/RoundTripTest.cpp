@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/calculation/Units.h"
 #include "seaplan/calculation/tests/Rows.h"

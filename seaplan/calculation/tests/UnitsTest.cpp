@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/calculation/Units.h"
 #include "seaplan/calculation/tests/Rows.h"
 

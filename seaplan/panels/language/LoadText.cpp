@@ -36,12 +36,10 @@ const char* TextKeyOf(int number) {
     return nullptr;
 }
 
-bool LoadText(std::string& out, int number, const std::string& fallback) {
-    out = fallback;
-    const char* key = TextKeyOf(number);
-    if (key == nullptr) {
-        return false;
-    }
+namespace {
+
+/// The text of a key; false, with `out` as it was, when the language file lacks it.
+bool Find(std::string& out, const char* key) {
     std::array<char16_t, kCapacity> buffer{};
     Interface::TrvLoadString(kSection, kSection, Util::StringUtl::TranslateString(std::string(key)).c_str(),
                              buffer.data(), kMissing, buffer.size());
@@ -51,6 +49,20 @@ bool LoadText(std::string& out, int number, const std::string& fallback) {
     }
     out = Util::StringUtl::TranslateString(text);
     return true;
+}
+
+}  // namespace
+
+bool LoadText(std::string& out, int number, const std::string& fallback) {
+    out = fallback;
+    const char* key = TextKeyOf(number);
+    return key != nullptr && Find(out, key);
+}
+
+std::string TextOfKey(const char* key) {
+    std::string text;
+    Find(text, key);
+    return text;
 }
 
 std::string Text(TextId id) {

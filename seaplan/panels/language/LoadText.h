@@ -12,5 +12,7 @@ namespace Tarvik::Seaplan {
 bool LoadText(std::string& out, int number, const std::string& fallback);
 /// The text of `id`, or an empty text when the language file lacks it.
 std::string Text(TextId id);
+/// The same by the key itself, as "IDS_PORTCALL_PORT".
+std::string TextOfKey(const char* key);
 
 }  // namespace Tarvik::Seaplan

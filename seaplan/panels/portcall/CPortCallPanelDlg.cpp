@@ -180,17 +180,13 @@ void CPortCallPanelDlg::ShowSummary(const PortCallRows& standard) {
     if (!SummaryOf(standard, summary)) {
         return;
     }
-    VoyPortCall figures;
-    figures.psp = summary.averageSpeed;
-    figures.steamTime = summary.totalTime;
-    figures.distance = summary.totalDistance;
-    PortCallRows shown;
-    if (FromStandardUnits({figures}, units_, shown) != 0) {
+    SummaryTexts texts;
+    if (!SummaryToTexts(summary, units_, texts)) {
         return;
     }
-    state_.averageSpeed = OneDecimal(shown[0].psp);
-    state_.totalTime = TwoDecimals(shown[0].steamTime);
-    state_.totalDistance = OneDecimal(shown[0].distance);
+    state_.averageSpeed = texts.averageSpeed;
+    state_.totalTime = texts.totalTime;
+    state_.totalDistance = texts.totalDistance;
 }
 
 int CPortCallPanelDlg::StandardRows(PortCallRows& out) const {
@@ -244,16 +240,14 @@ void CPortCallPanelDlg::MarkChanged(bool on) {
 }
 
 int CPortCallPanelDlg::ChangeUnit(UnitKind kind, const std::string& unit) {
-    std::string& name = kind == UnitKind::Speed      ? units_.speed
-                        : kind == UnitKind::Distance ? units_.distance
-                                                     : units_.time;
+    std::string& name = UnitOf(units_, kind);
     std::string& label = kind == UnitKind::Speed      ? state_.speedUnit
                          : kind == UnitKind::Distance ? state_.distanceUnit
                                                       : state_.timeUnit;
-    label = kind == UnitKind::Time ? unit + "s" : unit;
     const std::string from = name;
     const PortCallRows rows = table_.ReadAllRows();
     name = unit;
+    label = UnitLabel(units_, kind);
     view_.ShowState(state_);
     if (state_.averageSpeed.empty() || state_.totalDistance.empty() || state_.totalTime.empty()) {
         return -1;

@@ -208,6 +208,8 @@ void CPortCallPanelDlg::MoveOn(CellEditor editor, int row) {
             return OpenEditor(CellEditor::Weather, row);
         case CellEditor::Weather:
             return OpenNextPort(row);
+        default:
+            return;
     }
 }
 

@@ -38,6 +38,8 @@ void CPortCallPanelDlg::Commit(CellEditor editor) {
         case CellEditor::Weather:
             CommitWeather(text);
             break;
+        default:
+            break;
     }
 }
 

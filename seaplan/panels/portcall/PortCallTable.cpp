@@ -5,8 +5,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr const char* kTotalsLabel = "RES";
-
 TableRow MakeRow(const std::string& label, RowClass look) {
     TableRow row;
     row.cells.fill(kBlankCell);
@@ -137,15 +135,7 @@ void PortCallTable::ShowHistoryAndPlan(const PortCallRows& rows, std::size_t his
 }
 
 void PortCallTable::WriteTotals(const PortCallRows& rows) {
-    ScheduleTotals totals;
-    if (!TotalsOf(rows, totals)) {
-        return;
-    }
-    SetCell(rowCount_, ColSteamTime, OneDecimal(totals.steamTime));
-    SetCell(rowCount_, ColPortTime, TwoDecimals(totals.portTime));
-    SetCell(rowCount_, ColEta, totals.eta.fmt(kTimeFormat));
-    SetCell(rowCount_, ColEtd, totals.etd.fmt(kTimeFormat));
-    SetCell(rowCount_, ColDistance, TwoDecimals(totals.distance));
+    TotalsToCells(rows, rows_[rowCount_].cells);
 }
 
 void PortCallTable::ClearTotals() {

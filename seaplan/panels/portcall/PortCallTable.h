@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/calculation/Schedule.h"
 
 namespace Tarvik::Seaplan {

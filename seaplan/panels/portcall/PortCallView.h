@@ -8,18 +8,13 @@
 
 namespace Tarvik::Seaplan {
 
-/// The editors that open over a cell.
-enum class CellEditor { Port, Speed, Weather };
-
-/// Place of an editor among the three.
+/// Place of a text editor among the three.
 constexpr int IndexOf(CellEditor editor) {
     return static_cast<int>(editor);
 }
 
 /// Keys to which an editor reacts.
 enum class EditorKey { Tab, Enter, Escape };
-
-enum class UnitKind { Speed, Distance, Time };
 
 /// What stands around the table.
 struct PortCallState {

@@ -6,9 +6,10 @@ namespace Tarvik::Seaplan {
 namespace {
 
 QVariant AlignmentOf(int column) {
-    const bool left = column == ColPort || column == ColEta || column == ColEtd;
-    const bool centre = column == ColPurpose || column == ColOrder;
-    const Qt::Alignment side = left ? Qt::AlignLeft : centre ? Qt::AlignHCenter : Qt::AlignRight;
+    const PortCallColumnEntry& entry = kPortCallColumns[column];
+    const Qt::Alignment side = entry.centred                    ? Qt::AlignHCenter
+                               : entry.kind == CellKind::Number ? Qt::AlignRight
+                                                                : Qt::AlignLeft;
     return static_cast<int>(side | Qt::AlignVCenter);
 }
 

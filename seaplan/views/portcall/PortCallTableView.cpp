@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kRowHeight = 20;
 constexpr int kHeaderHeight = 34;
-constexpr int kWidths[] = {35, 120, 40, 45, 55, 55, 55, 125, 125, 60, 66};
+constexpr int kImagesWidth = 66;
 
 }  // namespace
 
@@ -55,9 +55,10 @@ PortCallTableView::PortCallTableView(QWidget* parent) : QTableView(parent) {
 
 void PortCallTableView::ApplyWidths() {
     int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    for (int column = 0; column < static_cast<int>(std::size(kWidths)); ++column) {
-        setColumnWidth(column, kWidths[column]);
-        total += kWidths[column];
+    for (int column = 0; column <= PortCallColumnCount; ++column) {
+        const int width = column < PortCallColumnCount ? kPortCallColumns[column].width : kImagesWidth;
+        setColumnWidth(column, width);
+        total += width;
     }
     setMinimumWidth(total + 4);
 }

@@ -18,16 +18,6 @@
 
 namespace Tarvik::Seaplan {
 
-namespace {
-
-constexpr TextId kTitles[] = {TextId::IDS_PORTCALL_ORDER,      TextId::IDS_PORTCALL_PORT,
-                              TextId::IDS_PORTCALL_PURPOSE,    TextId::IDS_PORTCALL_SPEED,
-                              TextId::IDS_PORTCALL_WEATHER,    TextId::IDS_PORTCALL_STEAMTIME,
-                              TextId::IDS_PORTCALL_ATPORTTIME, TextId::IDS_PORTCALL_ETA,
-                              TextId::IDS_PORTCALL_ETD,        TextId::IDS_PORTCALL_DISTANCE};
-
-}  // namespace
-
 PortCallWindow::PortCallWindow(QWidget* mainView, QWidget* tree)
     : ToolWindow(mainView, QStringLiteral("portCallPanel")), tree_(tree) {
     help_ = AddCaptionButton("helpButton", "help");
@@ -207,15 +197,19 @@ void PortCallWindow::ShowState(const PortCallState& state) {
     ApplyTitles();
 }
 
+/// The unit on show of a quantity, null for none.
+const std::string* PortCallWindow::UnitTextOf(UnitKind kind) const {
+    return kind == UnitKind::Speed      ? &state_.speedUnit
+           : kind == UnitKind::Distance ? &state_.distanceUnit
+           : kind == UnitKind::Time     ? &state_.timeUnit
+                                        : nullptr;
+}
+
 void PortCallWindow::ApplyTitles() {
     QStringList titles;
-    for (int column = 0; column < PortCallColumnCount; ++column) {
-        QString title = ViewText(kTitles[column]);
-        const std::string* unit = column == ColSpeed                                ? &state_.speedUnit
-                                  : column == ColSteamTime || column == ColPortTime ? &state_.timeUnit
-                                  : column == ColDistance                           ? &state_.distanceUnit
-                                                                                    : nullptr;
-        if (unit != nullptr) {
+    for (const PortCallColumnEntry& column : kPortCallColumns) {
+        QString title = QString::fromStdString(TextOfKey(column.title));
+        if (const std::string* unit = UnitTextOf(column.unit); unit != nullptr) {
             title += u'\n' + QString::fromStdString(*unit);
         }
         titles.append(title);
@@ -248,12 +242,11 @@ void PortCallWindow::ApplyTexts() {
 }
 
 void PortCallWindow::OpenUnitMenu(QToolButton* button, UnitKind kind) {
-    constexpr const char* kUnits[][2] = {{"kts", "KPH"}, {"NM", "KM"}, {"day", "hour"}};
     panel_->OnTableLeft();
     auto* menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("unitMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const char* unit : kUnits[static_cast<int>(kind)]) {
+    for (const char* unit : OfferedUnits(kind)) {
         menu->addAction(QString::fromLatin1(unit), this,
                         [this, kind, unit] { panel_->ChangeUnit(kind, unit); });
     }

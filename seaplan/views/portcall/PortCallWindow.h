@@ -77,6 +77,7 @@ class PortCallWindow final : public ToolWindow, public PortCallView {
     void MakePopups();
     Figure MakeFigure(const char* name, UnitKind kind);
     void OpenUnitMenu(QToolButton* button, UnitKind kind);
+    const std::string* UnitTextOf(UnitKind kind) const;
     void ApplyTitles();
     bool EditorKey(int editor, int key);
     bool PurposeKey(int key);

@@ -7,7 +7,7 @@
 
 #include <tarvik/interface/ValueDictionary.h>
 
-#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/calculation/Schedule.h"
 
 namespace Tarvik::Golden {
