@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
 #include <QPointer>
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
@@ -13,7 +12,7 @@ namespace Tarvik::Seaplan {
 
 /// All panels with their windows, tied to the bus while it lives. The main window owns the windows, so each
 /// may be gone before the panels.
-class VoyageViews final : public QObject {
+class VoyageViews final {
   public:
     struct Parts {
         VoyageStore& store;
@@ -22,9 +21,10 @@ class VoyageViews final : public QObject {
         PortDictionary ports;
         QWidget* mainView;  ///< null for windows of their own
     };
-    /// Takes the theme that the client has put in force.
     explicit VoyageViews(Parts parts);
-    ~VoyageViews() override;
+    ~VoyageViews();
+    VoyageViews(const VoyageViews&) = delete;
+    VoyageViews& operator=(const VoyageViews&) = delete;
 
     SeaplanViewDlg& Panel() { return panel_; }
     SeaplanTreeCtrl& Tree() { return tree_; }
@@ -34,10 +34,6 @@ class VoyageViews final : public QObject {
     bool TreeVisible() const { return voyageWindow_ != nullptr && voyageWindow_->isVisible(); }
     /// Draws every window anew in the theme in force.
     void Restyle();
-
-  protected:
-    /// Follows the client's change of theme.
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void ShowSaved(const std::string& vi);

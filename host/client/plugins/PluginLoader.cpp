@@ -13,7 +13,7 @@ std::vector<std::string> PluginLoader::FindLibraries(const std::string& folder) 
     std::error_code failed;
     for (fs::directory_iterator it(folder, failed), end; !failed && it != end; it.increment(failed)) {
         const fs::path& path = it->path();
-        if (path.extension() == PluginLibrary::Suffix() && path.stem() != "libtarvik") {
+        if (path.extension() == PluginLibrary::Suffix() && !path.stem().string().starts_with("libtarvik")) {
             files.push_back(path.string());
         }
     }

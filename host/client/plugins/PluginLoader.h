@@ -32,7 +32,7 @@ struct LoadedPlugin {
 /// it, the rest runs.
 class PluginLoader {
   public:
-    /// Libraries of a folder that may be plug-ins, in order of name; the SDK's own library is none.
+    /// Libraries of a folder that may be plug-ins, in order of name; the SDK's own libraries are none.
     static std::vector<std::string> FindLibraries(const std::string& folder);
 
     /// Reads, orders and loads the given libraries; may be called once.

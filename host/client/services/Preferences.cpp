@@ -7,6 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <tarvik/skin/Colours.h>
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "host/client/services/LanguageFiles.h"
@@ -43,7 +44,7 @@ Preferences Preferences::Read(const std::string& file) {
     Take(root, "timeZone", read.timeZone,
          [](const std::string& text) { return Util::DateTimeUtl::IsKnownZone(text); });
     Take(root, "theme", read.theme,
-         [](const std::string& text) { return text == "light" || text == "dark" || text == "night"; });
+         [](const std::string& text) { return Skin::FindTheme(text).has_value(); });
     Take(root, "server", read.server,
          [](const std::string& text) { return text.empty() || IsServerAddress(text); });
     Take(root, "user", read.user, [](const std::string&) { return true; });

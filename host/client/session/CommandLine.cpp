@@ -3,12 +3,22 @@
 
 #include <algorithm>
 
+#include <tarvik/skin/Colours.h>
+
 #include "host/client/services/LanguageFiles.h"
 #include "host/client/services/Preferences.h"
 
 namespace Tarvik::Client {
 
 namespace {
+
+std::vector<std::string> ThemeNames() {
+    std::vector<std::string> names;
+    for (const Skin::Theme theme : Skin::kThemes) {
+        names.emplace_back(Skin::ThemeName(theme));
+    }
+    return names;
+}
 
 /// Takes the options that are not the plan's own; everything else goes to the plan.
 class Sorter {
@@ -50,7 +60,7 @@ class Sorter {
 
     bool TakeWindowOption(const std::string& word) {
         if (word == "--theme") {
-            line_.session.theme = Choice(word, {"light", "dark", "night"});
+            line_.session.theme = Choice(word, ThemeNames());
         } else if (word == "--lang") {
             line_.session.language = Choice(word, LanguageFiles::Offered());
         } else if (word == "--screenshot") {

@@ -15,8 +15,8 @@
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/interface/ChartWindow.h>
 #include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/Icons.h>
 
-#include "host/client/shell/Icons.h"
 #include "host/client/shell/LoginDialog.h"
 #include "host/client/shell/PositionText.h"
 #include "host/client/shell/PreferencesDialog.h"
@@ -165,12 +165,12 @@ std::optional<Credentials> MainWindow::AskLogin(const std::string& server, const
 }
 
 void MainWindow::ApplyTheme() {
-    const Theme theme(QString::fromStdString(session_.Preferred().theme));
-    theme.Apply();
+    const Skin::Theme theme = Skin::ThemeNamed(session_.Preferred().theme);
+    Client::ApplyTheme(theme);
     for (const Tool& tool : tools_) {
-        tool.action->setIcon(ColoredIcon(tool.icon, theme.Colors().text));
+        tool.action->setIcon(Skin::MakeIcon(std::string(":/tarvik/icons/") + tool.icon + ".svg", {20, 40}));
     }
-    ChartCommand("theme " + theme.Name().toStdString());
+    ChartCommand("theme " + std::string(Skin::ThemeName(theme)));
 }
 
 void MainWindow::AttachPlugins() {
@@ -218,7 +218,7 @@ void MainWindow::Prefer(const Preferences& preferences) {
 
 void MainWindow::NextTheme() {
     Preferences preferences = session_.Preferred();
-    preferences.theme = Theme(QString::fromStdString(preferences.theme)).Next().toStdString();
+    preferences.theme = Skin::ThemeName(Skin::NextTheme(Skin::ThemeNamed(preferences.theme)));
     Prefer(preferences);
 }
 

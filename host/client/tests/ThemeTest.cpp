@@ -6,7 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/client/shell/Icons.h"
+#include <tarvik/skin/Icons.h>
+
 #include "host/client/shell/Theme.h"
 
 namespace Tarvik::Client {
@@ -26,38 +27,40 @@ double Contrast(const QColor& a, const QColor& b) {
     return std::max(x, y) / std::min(x, y);
 }
 
-class EveryTheme : public testing::TestWithParam<const char*> {};
+class EveryTheme : public testing::TestWithParam<Skin::Theme> {
+  protected:
+    EveryTheme() { Skin::SetTheme(GetParam()); }
+    ~EveryTheme() override { Skin::SetTheme(Skin::Theme::Light); }
+};
 
 TEST_P(EveryTheme, KeepsTextLegible) {
-    const ThemeColors colors = Theme(GetParam()).Colors();
-    for (const QColor& ground : {colors.window, colors.panel}) {
-        EXPECT_GE(Contrast(colors.text, ground), 4.5);
-        EXPECT_GE(Contrast(colors.secondary, ground), 4.5);
-        EXPECT_GE(Contrast(colors.error, ground), 4.5);
+    using Skin::Colour;
+    using Skin::Role;
+    for (const QColor& ground : {Colour(Role::Window), Colour(Role::Panel)}) {
+        EXPECT_GE(Contrast(Colour(Role::Text), ground), 4.5);
+        EXPECT_GE(Contrast(Colour(Role::ShellSecondary), ground), 4.5);
+        EXPECT_GE(Contrast(Colour(Role::Error), ground), 4.5);
     }
-    EXPECT_GE(Contrast(colors.onAccent, colors.accent), 4.5);
+    EXPECT_GE(Contrast(Colour(Role::AccentText), Colour(Role::Accent)), 4.5);
 }
 
 TEST_P(EveryTheme, LeavesNoRoleUnfilledInItsSheet) {
-    EXPECT_FALSE(Theme(GetParam()).StyleSheet().contains(QRegularExpression("@[A-Za-z]")));
+    EXPECT_FALSE(ClientStyleSheet().contains(QRegularExpression("@[A-Za-z]")));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, EveryTheme, testing::Values("light", "dark", "night"));
-
-TEST(Theme, StepsThroughAllThreeAndBack) {
-    EXPECT_EQ(Theme("light").Next(), "dark");
-    EXPECT_EQ(Theme("dark").Next(), "night");
-    EXPECT_EQ(Theme("night").Next(), "light");
-    EXPECT_EQ(Theme("pink").Name(), "light");
-}
+INSTANTIATE_TEST_SUITE_P(All, EveryTheme, testing::ValuesIn(Skin::kThemes));
 
 TEST(Theme, TellsPluginsItsName) {
-    Theme("dark").Apply();
+    ApplyTheme(Skin::Theme::Dark);
     EXPECT_EQ(qApp->property("tarvik.theme").toString(), "dark");
 }
 
-TEST(Icons, AnUnknownDrawingIsEmpty) {
-    EXPECT_TRUE(ColoredIcon("nothing", Qt::black).isNull());
+TEST(Icons, EveryToolOfTheClientHasADrawing) {
+    for (const char* name :
+         {"voyages", "distances", "zoomin", "zoomout", "fit", "theme", "language", "preferences", "logout"}) {
+        const std::string file = std::string(CLIENT_ICONS) + "/" + name + ".svg";
+        EXPECT_EQ(Skin::MakeIcon(file, {20, 40}).availableSizes().size(), 2) << name;
+    }
 }
 
 }  // namespace

@@ -230,7 +230,7 @@ void CalendarPopup::ShowModel() {
                                        : look == CalendarModel::CellLook::InMonth ? "inside"
                                                                                   : "outside");
         const auto day = Util::_datetime_t::from_csecs_days(0, model_.GridStart() + i);
-        Describe(cells_[i], QString::fromStdString(day.fmt("%Y-%m-%d")));
+        Skin::Describe(cells_[i], QString::fromStdString(day.fmt("%Y-%m-%d")));
         cells_[i]->style()->unpolish(cells_[i]);
         cells_[i]->style()->polish(cells_[i]);
     }
@@ -241,26 +241,26 @@ void CalendarPopup::ShowModel() {
 void CalendarPopup::ApplyTexts() {
     ok_->setText(HostLabel(u"IDOK", u"OK"));
     cancel_->setText(HostLabel(u"IDCANCEL", u"Cancel"));
-    Describe(ok_, ok_->text());
-    Describe(cancel_, cancel_->text());
-    Describe(previousYear_, ViewText(TextId::IDS_VIEW_PREVYEAR));
-    Describe(nextYear_, ViewText(TextId::IDS_VIEW_NEXTYEAR));
-    Describe(previousMonth_, ViewText(TextId::IDS_VIEW_PREVMONTH));
-    Describe(nextMonth_, ViewText(TextId::IDS_VIEW_NEXTMONTH));
-    Describe(hour_.shown, ViewText(TextId::IDS_VIEW_HOUR));
-    Describe(hour_.edit, ViewText(TextId::IDS_VIEW_HOUR));
-    Describe(hour_.minus, ViewText(TextId::IDS_VIEW_HOURUP));
-    Describe(hour_.plus, ViewText(TextId::IDS_VIEW_HOURDOWN));
-    Describe(minute_.shown, ViewText(TextId::IDS_VIEW_MINUTE));
-    Describe(minute_.edit, ViewText(TextId::IDS_VIEW_MINUTE));
-    Describe(minute_.minus, ViewText(TextId::IDS_VIEW_MINUTEUP));
-    Describe(minute_.plus, ViewText(TextId::IDS_VIEW_MINUTEDOWN));
+    Skin::Describe(ok_, ok_->text());
+    Skin::Describe(cancel_, cancel_->text());
+    Skin::Describe(previousYear_, ViewText(TextId::IDS_VIEW_PREVYEAR));
+    Skin::Describe(nextYear_, ViewText(TextId::IDS_VIEW_NEXTYEAR));
+    Skin::Describe(previousMonth_, ViewText(TextId::IDS_VIEW_PREVMONTH));
+    Skin::Describe(nextMonth_, ViewText(TextId::IDS_VIEW_NEXTMONTH));
+    Skin::Describe(hour_.shown, ViewText(TextId::IDS_VIEW_HOUR));
+    Skin::Describe(hour_.edit, ViewText(TextId::IDS_VIEW_HOUR));
+    Skin::Describe(hour_.minus, ViewText(TextId::IDS_VIEW_HOURUP));
+    Skin::Describe(hour_.plus, ViewText(TextId::IDS_VIEW_HOURDOWN));
+    Skin::Describe(minute_.shown, ViewText(TextId::IDS_VIEW_MINUTE));
+    Skin::Describe(minute_.edit, ViewText(TextId::IDS_VIEW_MINUTE));
+    Skin::Describe(minute_.minus, ViewText(TextId::IDS_VIEW_MINUTEUP));
+    Skin::Describe(minute_.plus, ViewText(TextId::IDS_VIEW_MINUTEDOWN));
 }
 
 void CalendarPopup::ApplySkin() {
-    setStyleSheet(SkinStyleSheet() +
+    setStyleSheet(Skin::StyleSheet() +
                   QStringLiteral("#calendarPopup { background: %1; border: 1px solid %2; }")
-                      .arg(Skin().panel.name(), Skin().border.name()));
+                      .arg(Skin::Colour(Skin::Role::Panel).name(), Skin::Colour(Skin::Role::Border).name()));
 }
 
 }  // namespace Tarvik::Seaplan

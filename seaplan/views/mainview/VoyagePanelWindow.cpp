@@ -13,7 +13,7 @@
 namespace Tarvik::Seaplan {
 
 VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
-    : ToolWindow(mainView, QStringLiteral("voyagePanel")) {
+    : Skin::ToolWindow(mainView, QStringLiteral("voyagePanel")) {
     filterButton_ = AddCaptionButton("filterButton", "filter");
     addButton_ = AddCaptionButton("addCategoryButton", "add");
     helpButton_ = AddCaptionButton("helpButton", "help");
@@ -68,15 +68,15 @@ void VoyagePanelWindow::Hide() {
 
 void VoyagePanelWindow::ApplyTexts() {
     SetCaption(ViewText(TextId::IDS_TREE_VOYTITLE));
-    Describe(filterButton_, ViewText(TextId::IDS_TREE_DELOPERATER));
-    Describe(addButton_, ViewText(TextId::IDS_TREE_ADDCATEGORY));
-    Describe(helpButton_, ViewText(TextId::IDS_VOY_HELP));
-    Describe(closeButton_, ViewText(TextId::IDS_TREE_CLOSE));
+    Skin::Describe(filterButton_, ViewText(TextId::IDS_TREE_DELOPERATER));
+    Skin::Describe(addButton_, ViewText(TextId::IDS_TREE_ADDCATEGORY));
+    Skin::Describe(helpButton_, ViewText(TextId::IDS_VOY_HELP));
+    Skin::Describe(closeButton_, ViewText(TextId::IDS_TREE_CLOSE));
     tree_->ApplyTexts();
     vessels_->ApplyTexts();
     if (showDeleted_ != nullptr) {
         showDeleted_->setText(ViewText(TextId::IDS_TREEVIEW_RECOVER));
-        Describe(showDeleted_, ViewText(TextId::IDS_TREEVIEW_RECOVER));
+        Skin::Describe(showDeleted_, ViewText(TextId::IDS_TREEVIEW_RECOVER));
     }
     update();
 }
@@ -84,7 +84,7 @@ void VoyagePanelWindow::ApplyTexts() {
 void VoyagePanelWindow::MakeFilter() {
     filter_ = new QFrame(this, Qt::Popup);
     filter_->setObjectName(QStringLiteral("popup"));
-    filter_->setStyleSheet(SkinStyleSheet());
+    filter_->setStyleSheet(Skin::StyleSheet());
     auto* rows = new QVBoxLayout(filter_);
     rows->setContentsMargins(8, 4, 8, 4);
     showDeleted_ = new QCheckBox(filter_);
@@ -120,9 +120,9 @@ void VoyagePanelWindow::RequestHelp(const std::string& topic, int width, int hei
 }
 
 void VoyagePanelWindow::ApplySkin() {
-    ToolWindow::ApplySkin();
+    Skin::ToolWindow::ApplySkin();
     if (filter_ != nullptr) {
-        filter_->setStyleSheet(SkinStyleSheet());
+        filter_->setStyleSheet(Skin::StyleSheet());
     }
     tree_->ApplySkin();
     vessels_->ApplySkin();

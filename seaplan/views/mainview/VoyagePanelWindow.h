@@ -15,7 +15,7 @@ class SeaplanViewDlg;
 class SeaplanTreeCtrl;
 
 /// The window of the voyage panel.
-class VoyagePanelWindow final : public ToolWindow, public MainViewWindow {
+class VoyagePanelWindow final : public Skin::ToolWindow, public MainViewWindow {
   public:
     explicit VoyagePanelWindow(QWidget* mainView);
     /// Ties the controls to the panel; both outlive the window's use.

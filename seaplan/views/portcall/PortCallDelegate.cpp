@@ -14,6 +14,9 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
+using Skin::Colour;
+using Skin::Role;
+
 struct RowImage {
     const char* name;
     const char* icon;
@@ -33,17 +36,16 @@ QRect ImageRect(const QRect& cell, int image) {
 }
 
 QColor GroundOf(const QStyleOptionViewItem& option, const QModelIndex& index) {
-    const SkinPalette& skin = Skin();
     if ((option.state & QStyle::State_Selected) != 0) {
-        return skin.selection;
+        return Colour(Role::Selection);
     }
     if (index.data(PortCallModel::kTotalsRole).toBool()) {
-        return skin.window;
+        return Colour(Role::Window);
     }
     const auto look = static_cast<RowClass>(index.data(PortCallModel::kLookRole).toInt());
-    return look == RowClass::Disabled      ? skin.history
-           : look == RowClass::Highlighted ? skin.highlight
-                                           : skin.panel;
+    return look == RowClass::Disabled      ? Colour(Role::History)
+           : look == RowClass::Highlighted ? Colour(Role::Highlight)
+                                           : Colour(Role::Panel);
 }
 
 void PaintImages(QPainter& painter, const QRect& cell, const QModelIndex& index) {
@@ -54,20 +56,20 @@ void PaintImages(QPainter& painter, const QRect& cell, const QModelIndex& index)
     const RowActions can = model->ActionsOf(index.row());
     const std::array<bool, std::size(kImages)> enabled = {can.moveUp, can.moveDown, can.remove};
     for (int i = 0; i < static_cast<int>(std::size(kImages)); ++i) {
-        PaintIcon(painter, ImageRect(cell, i), kImages[i].icon, enabled[i] ? Skin().text : Skin().disabled);
+        Skin::PaintIcon(painter, ImageRect(cell, i), kImages[i].icon,
+                        enabled[i] ? Colour(Role::Text) : Colour(Role::Disabled));
     }
 }
 
 void PaintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
-    const SkinPalette& skin = Skin();
     QFont font = option.font;
-    font.setPixelSize(kTablePixels);
+    font.setPixelSize(Skin::kTablePixels);
     font.setBold(index.column() == ColOrder && index.data(PortCallModel::kTotalsRole).toBool());
     painter.setFont(font);
     const auto look = static_cast<RowClass>(index.data(PortCallModel::kLookRole).toInt());
-    painter.setPen(index.data(PortCallModel::kUnknownRole).toBool() ? skin.error
-                   : look == RowClass::Disabled                     ? skin.secondary
-                                                                    : skin.text);
+    painter.setPen(index.data(PortCallModel::kUnknownRole).toBool() ? Colour(Role::Error)
+                   : look == RowClass::Disabled                     ? Colour(Role::Secondary)
+                                                                    : Colour(Role::Text));
     const QRect inner = option.rect.adjusted(3, 0, -3, 0);
     const QString text =
         QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, inner.width());
@@ -86,7 +88,7 @@ void PortCallDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
         PaintText(*painter, option, index);
     }
     if ((option.state & QStyle::State_HasFocus) != 0) {
-        painter->setPen(Skin().accent);
+        painter->setPen(Colour(Role::Accent));
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
     painter->restore();

@@ -19,7 +19,7 @@
 namespace Tarvik::Seaplan {
 
 PortCallWindow::PortCallWindow(QWidget* mainView, QWidget* tree)
-    : ToolWindow(mainView, QStringLiteral("portCallPanel")), tree_(tree) {
+    : Skin::ToolWindow(mainView, QStringLiteral("portCallPanel")), tree_(tree) {
     help_ = AddCaptionButton("helpButton", "help");
     close_ = AddCaptionButton("closeButton", "close");
     model_ = new PortCallModel(this);
@@ -62,7 +62,7 @@ PortCallWindow::Figure PortCallWindow::MakeFigure(const char* name, UnitKind kin
 
 void PortCallWindow::MakeSummary() {
     auto* row = new QHBoxLayout();
-    row->setSpacing(kGrid);
+    row->setSpacing(Skin::kGrid);
     speed_ = MakeFigure("averageSpeed", UnitKind::Speed);
     distance_ = MakeFigure("totalDistance", UnitKind::Distance);
     time_ = MakeFigure("totalTime", UnitKind::Time);
@@ -70,7 +70,7 @@ void PortCallWindow::MakeSummary() {
         row->addWidget(figure->caption);
         row->addWidget(figure->value);
         row->addWidget(figure->unit);
-        row->addSpacing(5 * kGrid);
+        row->addSpacing(5 * Skin::kGrid);
     }
     row->addStretch(1);
     zone_ = new QLabel(this);
@@ -82,11 +82,11 @@ void PortCallWindow::MakeSummary() {
 
 void PortCallWindow::MakeButtons() {
     auto* row = new QHBoxLayout();
-    row->setSpacing(2 * kGrid);
+    row->setSpacing(2 * Skin::kGrid);
     const auto tool = [this](const char* name, const char* icon) {
         auto* made = new QToolButton(this);
         made->setObjectName(QString::fromLatin1(name));
-        made->setFixedSize(kControlHeight + 2, kControlHeight);
+        made->setFixedSize(Skin::kControlHeight + 2, Skin::kControlHeight);
         made->setFocusPolicy(Qt::TabFocus);
         KeepIcon(made, icon);
         return made;
@@ -166,7 +166,7 @@ void PortCallWindow::ShowTable(const PortCallTable& table) {
 
 void PortCallWindow::SetButton(QAbstractButton* button, bool on, TextId tip, TextId whyNot) {
     button->setEnabled(on);
-    Describe(button, ViewText(tip));
+    Skin::Describe(button, ViewText(tip));
     if (!on) {
         button->setToolTip(ViewText(tip) + QStringLiteral(": ") + ViewText(whyNot));
     }
@@ -218,8 +218,8 @@ void PortCallWindow::ApplyTitles() {
 }
 
 void PortCallWindow::ApplyTexts() {
-    Describe(help_, ViewText(TextId::IDS_PORTCALL_HELP));
-    Describe(close_, ViewText(TextId::IDS_PORTCALL_CLOSE));
+    Skin::Describe(help_, ViewText(TextId::IDS_PORTCALL_HELP));
+    Skin::Describe(close_, ViewText(TextId::IDS_PORTCALL_CLOSE));
     book_->setText(ViewText(TextId::IDS_PORTCALL_POSTBOOK));
     table_->setAccessibleName(ViewText(TextId::IDS_VIEW_TABLE));
     const std::pair<const Figure*, std::pair<TextId, TextId>> figures[] = {
@@ -228,14 +228,14 @@ void PortCallWindow::ApplyTexts() {
         {&time_, {TextId::IDS_PORTCALL_TOTALTIME, TextId::IDS_VIEW_TIMEHINT}}};
     for (const auto& [figure, ids] : figures) {
         figure->caption->setText(ViewText(ids.first));
-        Describe(figure->value, ViewText(ids.first));
-        Describe(figure->unit, ViewText(ids.second));
+        Skin::Describe(figure->value, ViewText(ids.first));
+        Skin::Describe(figure->unit, ViewText(ids.second));
     }
-    Describe(editors_[0], ViewText(TextId::IDS_VIEW_PORTEDITOR));
-    Describe(editors_[1], ViewText(TextId::IDS_VIEW_SPEEDEDITOR));
-    Describe(editors_[2], ViewText(TextId::IDS_VIEW_WEATHEREDITOR));
-    Describe(purposes_, ViewText(TextId::IDS_VIEW_PURPOSES));
-    Describe(matches_, ViewText(TextId::IDS_VIEW_RENAMEHINT));
+    Skin::Describe(editors_[0], ViewText(TextId::IDS_VIEW_PORTEDITOR));
+    Skin::Describe(editors_[1], ViewText(TextId::IDS_VIEW_SPEEDEDITOR));
+    Skin::Describe(editors_[2], ViewText(TextId::IDS_VIEW_WEATHEREDITOR));
+    Skin::Describe(purposes_, ViewText(TextId::IDS_VIEW_PURPOSES));
+    Skin::Describe(matches_, ViewText(TextId::IDS_VIEW_RENAMEHINT));
     model_->SetUnknownPortTip(ViewText(TextId::IDS_VIEW_UNKNOWNPORT));
     calendar_->ApplyTexts();
     ShowState(state_);
@@ -302,7 +302,7 @@ void* PortCallWindow::Handle() const {
 }
 
 void PortCallWindow::ApplySkin() {
-    ToolWindow::ApplySkin();
+    Skin::ToolWindow::ApplySkin();
     calendar_->ApplySkin();
     table_->viewport()->update();
 }

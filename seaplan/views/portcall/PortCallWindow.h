@@ -22,7 +22,7 @@ namespace Tarvik::Seaplan {
 class CPortCallPanelDlg;
 
 /// The window of the port call panel.
-class PortCallWindow final : public ToolWindow, public PortCallView {
+class PortCallWindow final : public Skin::ToolWindow, public PortCallView {
   public:
     /// `tree` is the widget beside which the window opens, or null.
     PortCallWindow(QWidget* mainView, QWidget* tree);

@@ -223,12 +223,12 @@ bool PortCallWindow::event(QEvent* event) {
         panel_->OnMatchChosen();
         return true;
     }
-    return ToolWindow::event(event);
+    return Skin::ToolWindow::event(event);
 }
 
 bool PortCallWindow::eventFilter(QObject* watched, QEvent* event) {
     if (panel_ == nullptr) {
-        return ToolWindow::eventFilter(watched, event);
+        return Skin::ToolWindow::eventFilter(watched, event);
     }
     const bool editing = open_[0] || open_[1] || open_[2] || purposes_->isVisible();
     if (editing && event->type() == QEvent::MouseButtonPress && PressedOutside(watched)) {
@@ -258,7 +258,7 @@ bool PortCallWindow::eventFilter(QObject* watched, QEvent* event) {
         }
         break;
     }
-    return ToolWindow::eventFilter(watched, event);
+    return Skin::ToolWindow::eventFilter(watched, event);
 }
 
 }  // namespace Tarvik::Seaplan

@@ -116,7 +116,7 @@ void play(VoyageViews& views, const std::string& scene) {
 
 QImage picture() {
     QImage image(1280, 760, QImage::Format_RGB32);
-    image.fill(Skin().window);
+    image.fill(Skin::Colour(Skin::Role::Window));
     QPainter painter(&image);
     QWidgetList windows = QApplication::topLevelWidgets();
     // Pop-ups lie on top.
@@ -141,14 +141,14 @@ int main(int argc, char** argv) {
         return usage();
     }
     QFont font("Noto Sans");
-    font.setPixelSize(kTextPixels);
+    font.setPixelSize(Skin::kTextPixels);
     QApplication::setFont(font);
     const std::string language = option(arguments, "--lang", "en-US");
     const FileTexts texts(std::string(SEAPLAN_LANG_DIR) + "/" + language + ".json");
     if (texts.Empty()) {
         return usage();
     }
-    SetTheme(ThemeNamed(QString::fromStdString(option(arguments, "--theme", "light"))));
+    Skin::SetTheme(Skin::ThemeNamed(option(arguments, "--theme", "light")));
     Tarvik::TestSupport::ManualClock clock;
     VoyageStore store;
     FakeCatalog catalog(store);

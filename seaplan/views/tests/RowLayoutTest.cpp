@@ -89,7 +89,7 @@ TEST_F(ViewsFixture, EveryItemHasAnIconAndATip) {
             if (part.kind != SubItemKind::Icon) {
                 continue;
             }
-            EXPECT_TRUE(HasIcon(part.icon)) << part.name;
+            EXPECT_TRUE(Skin::HasIcon(part.icon)) << part.name;
             EXPECT_TRUE(!part.clickable || !part.toolTip.isEmpty()) << part.name;
         }
         ClickRow("Container 2024");

@@ -35,7 +35,7 @@ class ViewsFixture : public ::testing::Test {
 
     ViewsFixture() { AddSampleVoyages(catalog, schedule); }
     ~ViewsFixture() override {
-        SetTheme(Theme::Light);
+        Skin::SetTheme(Skin::Theme::Light);
         qApp->setProperty("tarvik.theme", QVariant());
     }
 

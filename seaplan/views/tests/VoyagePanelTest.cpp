@@ -258,9 +258,9 @@ TEST_F(ViewsFixture, TheWindowsFollowTheClientsTheme) {
     qApp->setProperty("tarvik.theme", "dark");
     QEvent change(QEvent::ApplicationPaletteChange);
     QApplication::sendEvent(qApp, &change);
-    EXPECT_EQ(CurrentTheme(), Theme::Dark);
+    EXPECT_EQ(Skin::CurrentTheme(), Skin::Theme::Dark);
     EXPECT_NE(Panel().grab().toImage().pixelColor(20, 35), light);
-    EXPECT_EQ(Panel().grab().toImage().pixelColor(20, 35), Skin().window);
+    EXPECT_EQ(Panel().grab().toImage().pixelColor(20, 35), Skin::Colour(Skin::Role::Window));
 }
 
 TEST_F(ViewsFixture, ALanguageSwitchReachesEveryText) {

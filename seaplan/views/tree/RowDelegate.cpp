@@ -10,50 +10,51 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
+using Skin::Colour;
+using Skin::Role;
+
 QColor IconColour(const SubItem& part) {
-    const SkinPalette& skin = Skin();
     if (!part.enabled) {
-        return skin.disabled;
+        return Colour(Role::Disabled);
     }
     if (part.icon == "plan") {
-        return skin.plan;
+        return Colour(Role::Plan);
     }
     if (part.icon == "underway") {
-        return skin.underway;
+        return Colour(Role::Underway);
     }
     if (part.icon == "finish") {
-        return skin.finished;
+        return Colour(Role::Finished);
     }
     if (part.icon == "alert") {
-        return skin.warning;
+        return Colour(Role::Warning);
     }
     if (part.icon == "pinned" || part.icon == "ais-on") {
-        return skin.accent;
+        return Colour(Role::Accent);
     }
-    return part.clickable ? skin.text : skin.secondary;
+    return part.clickable ? Colour(Role::Text) : Colour(Role::Secondary);
 }
 
 QColor TextColour(const SubItem& part, bool deleted) {
-    const SkinPalette& skin = Skin();
     if (!part.enabled || deleted) {
-        return skin.secondary;
+        return Colour(Role::Secondary);
     }
     switch (part.kind) {
         case SubItemKind::Link:
-            return skin.accent;
+            return Colour(Role::Accent);
         case SubItemKind::Count:
         case SubItemKind::Text:
-            return skin.secondary;
+            return Colour(Role::Secondary);
         default:
-            return skin.text;
+            return Colour(Role::Text);
     }
 }
 
 void PaintPart(QPainter& painter, const SubItem& part, const QFont& base, bool deleted) {
     if (part.kind == SubItemKind::Icon) {
-        QRect place(0, 0, kIconSize, kIconSize);
+        QRect place(0, 0, Skin::kIconSize, Skin::kIconSize);
         place.moveCenter(part.rect.center());
-        return PaintIcon(painter, place, part.icon, IconColour(part));
+        return Skin::PaintIcon(painter, place, part.icon, IconColour(part));
     }
     QFont font = PartFont(base, part.kind);
     font.setStrikeOut(deleted && part.kind == SubItemKind::Name);
@@ -68,7 +69,7 @@ void PaintPart(QPainter& painter, const SubItem& part, const QFont& base, bool d
 
 QFont PartFont(const QFont& base, SubItemKind kind) {
     QFont font = base;
-    font.setPixelSize(kind == SubItemKind::Text ? kTablePixels : kTextPixels);
+    font.setPixelSize(kind == SubItemKind::Text ? Skin::kTablePixels : Skin::kTextPixels);
     if (kind == SubItemKind::Count) {
         font.setBold(false);
     }
@@ -84,14 +85,15 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     if (state == nullptr) {
         return;
     }
-    const SkinPalette& skin = Skin();
     const bool selected = view_->Rows().Selected() == row;
     const bool category = state->parent == kNoRow;
     const QRect line(0, option.rect.top(), view_->viewport()->width(), option.rect.height());
     painter->save();
-    painter->fillRect(line, selected ? skin.selection : category ? skin.window : skin.panel);
+    painter->fillRect(line, selected   ? Colour(Role::Selection)
+                            : category ? Colour(Role::Window)
+                                       : Colour(Role::Panel));
     if (selected) {
-        painter->fillRect(QRect(line.left(), line.top(), 3, line.height()), skin.accent);
+        painter->fillRect(QRect(line.left(), line.top(), 3, line.height()), Colour(Role::Accent));
     }
     QFont font = option.font;
     font.setBold(category);
@@ -104,12 +106,12 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         }
         PaintPart(*painter, part, font, deleted);
         if (selected && view_->hasFocus() && !part.name.empty() && part.name == view_->FocusedPart()) {
-            painter->setPen(skin.accent);
+            painter->setPen(Colour(Role::Accent));
             painter->drawRect(part.rect.adjusted(0, 0, -1, -1));
         }
     }
     if (!selected && view_->hasFocus() && view_->currentIndex() == index) {
-        painter->setPen(skin.accent);
+        painter->setPen(Colour(Role::Accent));
         painter->drawRect(line.adjusted(0, 0, -1, -1));
     }
     painter->restore();

@@ -131,13 +131,13 @@ void VoyageTreeView::contextMenuEvent(QContextMenuEvent* event) {
     auto* menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("rowMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->setStyleSheet(SkinStyleSheet());
+    menu->setStyleSheet(Skin::StyleSheet());
     for (const SubItem& part : layout(*state, {0, 0, viewport()->width(), 0}, true)) {
         if (!part.clickable || part.toolTip.isEmpty()) {
             continue;
         }
         QAction* action =
-            menu->addAction(MakeIcon(part.icon), part.toolTip, this, [this, row, item = part.name] {
+            menu->addAction(Skin::MakeIcon(part.icon), part.toolTip, this, [this, row, item = part.name] {
                 if (reports_.clicked) {
                     reports_.clicked(row, item);
                 }

@@ -51,7 +51,7 @@ VoyageTreeView::~VoyageTreeView() = default;
 
 void VoyageTreeView::ApplyTexts() {
     setAccessibleName(ViewText(TextId::IDS_VIEW_TREE));
-    Describe(rename_, ViewText(TextId::IDS_VIEW_RENAMEEDITOR));
+    Skin::Describe(rename_, ViewText(TextId::IDS_VIEW_RENAMEEDITOR));
     emptyHint_ = ViewText(TextId::IDS_VIEW_EMPTYTREE);
     viewport()->update();
 }
@@ -170,7 +170,7 @@ void VoyageTreeView::paintEvent(QPaintEvent* event) {
         return;
     }
     QPainter painter(viewport());
-    painter.setPen(Skin().secondary);
+    painter.setPen(Skin::Colour(Skin::Role::Secondary));
     painter.drawText(viewport()->rect().adjusted(16, 24, -16, -16),
                      Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap, emptyHint_);
 }
@@ -217,7 +217,7 @@ void VoyageTreeView::ShowSortPanel(const std::string& ci, int sortKey) {
     delete sortPanel_;
     sortPanel_ = new QFrame(this, Qt::Popup);
     sortPanel_->setObjectName(QStringLiteral("popup"));
-    sortPanel_->setStyleSheet(SkinStyleSheet());
+    sortPanel_->setStyleSheet(Skin::StyleSheet());
     auto* rows = new QVBoxLayout(sortPanel_);
     rows->setContentsMargins(8, 4, 8, 4);
     rows->setSpacing(2);
@@ -226,7 +226,7 @@ void VoyageTreeView::ShowSortPanel(const std::string& ci, int sortKey) {
     for (const auto& [id, key] : choices) {
         auto* radio = new QRadioButton(ViewText(id), sortPanel_);
         radio->setObjectName(key == SortByName ? QStringLiteral("sortByName") : QStringLiteral("sortByDate"));
-        Describe(radio, radio->text());
+        Skin::Describe(radio, radio->text());
         radio->setChecked(key == sortKey);
         QObject::connect(radio, &QRadioButton::clicked, this,
                          [this, ci, chosen = key] { reports_.sortChosen(ci, chosen); });

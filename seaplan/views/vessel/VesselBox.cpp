@@ -52,12 +52,12 @@ VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new QLineEdit(tree)) {
 
 void VesselBox::ApplyTexts() {
     const QString name = QString::fromStdString(Text(TextId::IDS_VIEW_VESSELEDITOR));
-    Describe(box_, name);
+    Skin::Describe(box_, name);
     list_->setAccessibleName(name);
 }
 
 void VesselBox::ApplySkin() {
-    list_->setStyleSheet(SkinStyleSheet());
+    list_->setStyleSheet(Skin::StyleSheet());
 }
 
 void VesselBox::ShowBox(const Rect& inTree, const std::string& text) {

@@ -1,86 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include <QRegularExpression>
+
 #include <tarvik/skin/Palette.h>
 
-namespace Tarvik::Seaplan {
+namespace Tarvik::Skin {
 
 namespace {
 
-Theme theme = Theme::Light;
+Theme themeInForce = Theme::Light;
 
-SkinPalette Light() {
-    SkinPalette p;
-    p.window = "#EEF2F5";
-    p.panel = "#FFFFFF";
-    p.caption = "#89A5B9";
-    p.captionText = "#17222B";
-    p.list = "#C5CFD8";
-    p.border = "#9AA7B1";
-    p.text = "#17222B";
-    p.secondary = "#51626F";
-    p.disabled = "#9AA7B1";
-    p.accent = "#1F6FB2";
-    p.accentText = "#FFFFFF";
-    p.selection = "#E9F1F9";
-    p.history = "#E6EAED";
-    p.highlight = "#FFF1D6";
-    p.plan = "#7A8794";
-    p.underway = "#1E8E5A";
-    p.finished = "#2F6DB5";
-    p.warning = "#B26A00";
-    p.error = "#B3261E";
-    return p;
-}
-
-SkinPalette Dark() {
-    SkinPalette p;
-    p.window = "#141D25";
-    p.panel = "#1B2630";
-    p.caption = "#2A4153";
-    p.captionText = "#E4EBF0";
-    p.list = "#24313C";
-    p.border = "#3A4B59";
-    p.text = "#E4EBF0";
-    p.secondary = "#9FB1BF";
-    p.disabled = "#5F717E";
-    p.accent = "#4BA3E3";
-    p.accentText = "#0E1A25";
-    p.selection = "#203240";
-    p.history = "#17202A";
-    p.highlight = "#3D3420";
-    p.plan = "#8FA0AE";
-    p.underway = "#39B57A";
-    p.finished = "#6CA6EA";
-    p.warning = "#F0A53A";
-    p.error = "#FF6B5E";
-    return p;
-}
-
-/// Red on black, so that eyes keep used to the dark.
-SkinPalette Night() {
-    SkinPalette p;
-    p.window = "#000000";
-    p.panel = "#0A0000";
-    p.caption = "#260505";
-    p.captionText = "#E05A50";
-    p.list = "#1A0404";
-    p.border = "#4A1210";
-    p.text = "#E05A50";
-    p.secondary = "#D2574E";
-    p.disabled = "#6E2A26";
-    p.accent = "#E05A50";
-    p.accentText = "#0A0000";
-    p.selection = "#220505";
-    p.history = "#140303";
-    p.highlight = "#3A1208";
-    p.plan = "#B8504A";
-    p.underway = "#F07060";
-    p.finished = "#D65C53";
-    p.warning = "#F08A50";
-    p.error = "#FF7A6A";
-    return p;
-}
-
-const char* const kSheet = R"(
+constexpr const char* kSheet = R"(
 QFrame[panel="true"] { background: @border; }
 #toolWindow { background: @window; border: 1px solid @border; border-radius: 6px; }
 #captionBar { background: @caption; border-top-left-radius: 5px; border-top-right-radius: 5px; }
@@ -133,45 +62,33 @@ QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 }  // namespace
 
 Theme CurrentTheme() {
-    return theme;
+    return themeInForce;
 }
 
-Theme ThemeNamed(const QString& name) {
-    if (name == QLatin1String("dark")) {
-        return Theme::Dark;
+void SetTheme(Theme theme) {
+    themeInForce = theme;
+}
+
+QColor Colour(Role role) {
+    return QColor::fromRgb(ColourOf(role, themeInForce));
+}
+
+QString Coloured(const QString& sheet) {
+    static const QRegularExpression kName(QStringLiteral("@([A-Za-z]+)"));
+    QString coloured;
+    qsizetype copied = 0;
+    for (auto names = kName.globalMatch(sheet); names.hasNext();) {
+        const QRegularExpressionMatch match = names.next();
+        const auto role = RoleNamed(match.captured(1).toStdString());
+        coloured += sheet.mid(copied, match.capturedStart() - copied);
+        coloured += role ? Colour(*role).name() : match.captured();
+        copied = match.capturedEnd();
     }
-    return name == QLatin1String("night") ? Theme::Night : Theme::Light;
+    return coloured + sheet.mid(copied);
 }
 
-void SetTheme(Theme chosen) {
-    theme = chosen;
+QString StyleSheet() {
+    return Coloured(QString::fromUtf8(kSheet));
 }
 
-const SkinPalette& Skin() {
-    static const SkinPalette palettes[] = {Light(), Dark(), Night()};
-    return palettes[static_cast<int>(theme)];
-}
-
-QString SkinStyleSheet() {
-    const SkinPalette& p = Skin();
-    QString sheet = QString::fromUtf8(kSheet);
-    // Longer names first, as one is the beginning of another.
-    const std::pair<const char*, QColor> names[] = {{"@captionText", p.captionText},
-                                                    {"@caption", p.caption},
-                                                    {"@accentText", p.accentText},
-                                                    {"@accent", p.accent},
-                                                    {"@window", p.window},
-                                                    {"@panel", p.panel},
-                                                    {"@list", p.list},
-                                                    {"@border", p.border},
-                                                    {"@text", p.text},
-                                                    {"@secondary", p.secondary},
-                                                    {"@disabled", p.disabled},
-                                                    {"@selection", p.selection}};
-    for (const auto& [name, colour] : names) {
-        sheet.replace(QLatin1String(name), colour.name());
-    }
-    return sheet;
-}
-
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Skin

@@ -8,7 +8,7 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
-namespace Tarvik::Seaplan {
+namespace Tarvik::Skin {
 
 void Describe(QWidget* widget, const QString& text) {
     widget->setAccessibleName(text);
@@ -19,7 +19,7 @@ void Describe(QWidget* widget, const QString& text) {
 }
 
 ToolWindow::ToolWindow(QWidget* parent, const QString& name)
-    : QFrame(parent, Qt::Tool | Qt::FramelessWindowHint) {
+    : QFrame(parent, Qt::Tool | Qt::FramelessWindowHint), watch_([this] { ApplySkin(); }) {
     setObjectName(name);
     setProperty("panel", true);
     // The look goes by one name for all panels, the object name stays each panel's own.
@@ -50,7 +50,7 @@ ToolWindow::ToolWindow(QWidget* parent, const QString& name)
     body_->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
     body_->setSpacing(2 * kGrid);
     rows->addLayout(body_, 1);
-    setStyleSheet(SkinStyleSheet());
+    setStyleSheet(StyleSheet());
 }
 
 void ToolWindow::SetCaption(const QString& text) {
@@ -79,7 +79,7 @@ void ToolWindow::KeepIcon(QAbstractButton* button, const std::string& icon) {
 }
 
 void ToolWindow::ApplySkin() {
-    setStyleSheet(SkinStyleSheet());
+    setStyleSheet(StyleSheet());
     for (const auto& [button, icon] : icons_) {
         button->setIcon(MakeIcon(icon));
     }
@@ -116,4 +116,4 @@ void ToolWindow::mouseReleaseEvent(QMouseEvent*) {
     dragging_ = false;
 }
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Skin

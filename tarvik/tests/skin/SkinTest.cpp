@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <QApplication>
 #include <QImage>
-#include <QSvgRenderer>
+#include <QPalette>
+#include <QTemporaryFile>
 #include <algorithm>
 #include <cmath>
 
@@ -9,9 +11,7 @@
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
 
-#include "tarvik/src/skin/icons/IconTexts.h"
-
-namespace Tarvik::Seaplan {
+namespace Tarvik::Skin {
 
 namespace {
 
@@ -34,37 +34,37 @@ class EveryTheme : public ::testing::TestWithParam<Theme> {
 }  // namespace
 
 TEST_P(EveryTheme, TextStandsOutFromItsGround) {
-    const SkinPalette& p = Skin();
-    const std::pair<QColor, QColor> pairs[] = {
-        {p.text, p.window},       {p.text, p.panel},          {p.text, p.list},
-        {p.text, p.selection},    {p.text, p.history},        {p.text, p.highlight},
-        {p.secondary, p.window},  {p.secondary, p.panel},     {p.secondary, p.selection},
-        {p.secondary, p.history}, {p.captionText, p.caption}, {p.accentText, p.accent},
-        {p.accent, p.panel},      {p.accent, p.selection},    {p.error, p.panel},
-        {p.error, p.selection}};
+    const std::pair<Role, Role> pairs[] = {
+        {Role::Text, Role::Window},         {Role::Text, Role::Panel},
+        {Role::Text, Role::List},           {Role::Text, Role::Selection},
+        {Role::Text, Role::History},        {Role::Text, Role::Highlight},
+        {Role::Secondary, Role::Window},    {Role::Secondary, Role::Panel},
+        {Role::Secondary, Role::Selection}, {Role::Secondary, Role::History},
+        {Role::CaptionText, Role::Caption}, {Role::AccentText, Role::Accent},
+        {Role::Accent, Role::Panel},        {Role::Accent, Role::Selection},
+        {Role::Error, Role::Panel},         {Role::Error, Role::Selection}};
     for (const auto& [text, ground] : pairs) {
-        EXPECT_GE(contrast(text, ground), 4.5)
-            << text.name().toStdString() << " on " << ground.name().toStdString();
+        EXPECT_GE(contrast(Colour(text), Colour(ground)), 4.5)
+            << Colour(text).name().toStdString() << " on " << Colour(ground).name().toStdString();
     }
 }
 
 TEST_P(EveryTheme, SignsStandOutFromTheirGround) {
-    const SkinPalette& p = Skin();
-    for (const QColor& sign : {p.plan, p.underway, p.finished, p.warning}) {
-        for (const QColor& ground : {p.panel, p.selection}) {
-            EXPECT_GE(contrast(sign, ground), 3.0);
+    for (const Role sign : {Role::Plan, Role::Underway, Role::Finished, Role::Warning}) {
+        for (const Role ground : {Role::Panel, Role::Selection}) {
+            EXPECT_GE(contrast(Colour(sign), Colour(ground)), 3.0);
         }
     }
 }
 
 TEST_P(EveryTheme, TheStyleSheetHasNoGaps) {
-    EXPECT_FALSE(SkinStyleSheet().contains(u'@'));
+    EXPECT_FALSE(StyleSheet().contains(u'@'));
 }
 
 INSTANTIATE_TEST_SUITE_P(Shipped, EveryTheme, ::testing::Values(Theme::Light, Theme::Dark, Theme::Night));
 
 TEST(Icons, EveryIconDrawsSomething) {
-    for (const auto& [name, text] : IconTexts()) {
+    for (const std::string& name : IconNames()) {
         QImage image(kIconSize, kIconSize, QImage::Format_ARGB32);
         image.fill(Qt::transparent);
         QPainter painter(&image);
@@ -85,6 +85,48 @@ TEST(Theme, AnUnknownNameIsTheLightOne) {
     EXPECT_EQ(ThemeNamed("dark"), Theme::Dark);
     EXPECT_EQ(ThemeNamed("night"), Theme::Night);
     EXPECT_EQ(ThemeNamed("else"), Theme::Light);
+    EXPECT_FALSE(FindTheme("else"));
 }
 
-}  // namespace Tarvik::Seaplan
+TEST(Theme, StepsThroughAllAndBack) {
+    EXPECT_EQ(NextTheme(Theme::Light), Theme::Dark);
+    EXPECT_EQ(NextTheme(Theme::Dark), Theme::Night);
+    EXPECT_EQ(NextTheme(Theme::Night), Theme::Light);
+    for (const Theme theme : kThemes) {
+        EXPECT_EQ(FindTheme(ThemeName(theme)), theme);
+    }
+}
+
+TEST(Coloured, TakesTheLongestNameAndLeavesUnknownOnes) {
+    EXPECT_EQ(Coloured("a @captionText b @caption; @nothing @"), "a #17222b b #89a5b9; @nothing @");
+}
+
+TEST(Icons, AFileIsADrawingTooAndAnUnknownNameGivesNone) {
+    EXPECT_TRUE(MakeIcon("no such icon").isNull());
+    QTemporaryFile file("XXXXXX.svg");
+    ASSERT_TRUE(file.open());
+    file.write(
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 2 2"><rect width="2" height="2" fill="currentColor"/></svg>)");
+    file.close();
+    const QIcon icon = MakeIcon(file.fileName().toStdString(), {20, 40});
+    EXPECT_EQ(icon.availableSizes(), (QList<QSize>{{20, 20}, {40, 40}}));
+    const QImage drawn = icon.pixmap(20, 20).toImage();
+    EXPECT_EQ(drawn.pixelColor(10, 10), Colour(Role::Text));
+    EXPECT_EQ(icon.pixmap(20, 20, QIcon::Disabled).toImage().pixelColor(10, 10), Colour(Role::Disabled));
+}
+
+TEST(ThemeWatch, TellsOfAPublishedThemeWhenThePaletteChanges) {
+    int told = 0;
+    const ThemeWatch watch([&told] { ++told; });
+    EXPECT_EQ(told, 0);
+    ThemeWatch::Publish(Theme::Night);
+    QApplication::setPalette(QPalette(Colour(Role::Window)));
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(qApp->property("tarvik.theme").toString(), "night");
+    SetTheme(Theme::Light);
+    const ThemeWatch late([] {});
+    EXPECT_EQ(CurrentTheme(), Theme::Night) << "a window made later takes the theme, too";
+    SetTheme(Theme::Light);
+}
+
+}  // namespace Tarvik::Skin

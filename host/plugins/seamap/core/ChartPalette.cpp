@@ -1,40 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "host/plugins/seamap/core/ChartPalette.h"
 
+#include <array>
+#include <cstddef>
+
 namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr ChartPalette kLight{ChartPalette::Theme::Light,
-                              0xCFE2F0,
-                              0xF2EBD9,
-                              0x8C8269,
-                              0x9DB3C4,
-                              0x17222B,
-                              0x51626F,
-                              0xFFFFFF,
-                              0x1F6FB2,
-                              0xFFFFFF};
-constexpr ChartPalette kDark{ChartPalette::Theme::Dark,
-                             0x0E1A25,
-                             0x25323B,
-                             0x5B6B73,
-                             0x2B3F4F,
-                             0xE4EBF0,
-                             0x9FB1BF,
-                             0x0E1A25,
-                             0x4BA3E3,
-                             0x0E1A25};
-constexpr ChartPalette kNight{ChartPalette::Theme::Night,
-                              0x0A0202,
-                              0x210707,
-                              0x5A1414,
-                              0x330B0B,
-                              0xD64A3A,
-                              0xA83A2E,
-                              0x0A0202,
-                              0xE0503C,
-                              0x0A0202};
+ChartPalette PaletteOf(Skin::Theme theme) {
+    using Skin::Role;
+    const auto colour = [theme](Role role) { return Skin::ColourOf(role, theme); };
+    return {theme,
+            colour(Role::Sea),
+            colour(Role::Land),
+            colour(Role::Coast),
+            colour(Role::Graticule),
+            colour(Role::ChartText),
+            colour(Role::ChartSecondary),
+            colour(Role::ChartHalo),
+            colour(Role::ChartAccent),
+            colour(Role::ChartOutline)};
+}
 
 constexpr std::uint32_t Lighten(std::uint32_t channel) {
     return channel + (255 - channel) * 3 / 10;
@@ -43,28 +30,9 @@ constexpr std::uint32_t Lighten(std::uint32_t channel) {
 }  // namespace
 
 const ChartPalette& ChartPalette::Of(Theme theme) {
-    switch (theme) {
-        case Theme::Dark:
-            return kDark;
-        case Theme::Night:
-            return kNight;
-        case Theme::Light:
-            break;
-    }
-    return kLight;
-}
-
-std::optional<ChartPalette::Theme> ChartPalette::ThemeOf(std::string_view name) {
-    if (name == "light") {
-        return Theme::Light;
-    }
-    if (name == "dark") {
-        return Theme::Dark;
-    }
-    if (name == "night") {
-        return Theme::Night;
-    }
-    return std::nullopt;
+    static const std::array<ChartPalette, Skin::kThemes.size()> kPalettes{
+        PaletteOf(Theme::Light), PaletteOf(Theme::Dark), PaletteOf(Theme::Night)};
+    return kPalettes[static_cast<std::size_t>(theme)];
 }
 
 std::uint32_t ChartPalette::ObjectColour(std::int32_t bgr) const {

@@ -2,14 +2,14 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
-#include <string_view>
+
+#include <tarvik/skin/Colours.h>
 
 namespace Tarvik::Seamap {
 
-/// The chart's colours, each 0x00RRGGBB.
+/// The chart's colours of one theme, each 0x00RRGGBB, out of the list that all windows share.
 struct ChartPalette {
-    enum class Theme { Light, Dark, Night };
+    using Theme = Skin::Theme;
 
     Theme theme = Theme::Light;
     std::uint32_t sea = 0;
@@ -23,8 +23,6 @@ struct ChartPalette {
     std::uint32_t outline = 0;  ///< rim of points
 
     static const ChartPalette& Of(Theme theme);
-    /// "light", "dark" or "night"; empty for anything else.
-    static std::optional<Theme> ThemeOf(std::string_view name);
 
     /// The screen colour 0x00RRGGBB of an object's colour, which comes as 0x00BBGGRR: as it is on the light
     /// chart, lightened on the dark one, in shades of red by night.

@@ -84,7 +84,7 @@ int main(int argc, char** argv) {
     addSample(objects);
     ChartWidget chart(objects);
     chart.setProperty("pictures", true);
-    const auto theme = ChartPalette::ThemeOf(arguments.value(3, "light").toStdString());
+    const auto theme = Tarvik::Skin::FindTheme(arguments.value(3, "light").toStdString());
     if (!theme) {
         return usage();
     }

@@ -192,7 +192,7 @@ void ChartServices::RaiseCursor(double lon, double lat) const {
 bool ChartServices::Run(const std::string& command) {
     constexpr std::string_view kTheme = "theme ";
     if (command.starts_with(kTheme)) {
-        const auto theme = ChartPalette::ThemeOf(std::string_view(command).substr(kTheme.size()));
+        const auto theme = Skin::FindTheme(std::string_view(command).substr(kTheme.size()));
         if (!theme) {
             return false;
         }

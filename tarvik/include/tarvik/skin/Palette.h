@@ -2,45 +2,44 @@
 #pragma once
 
 #include <QColor>
-#include <QPalette>
+#include <QObject>
 #include <QString>
+#include <functional>
 
-namespace Tarvik::Seaplan {
+#include <tarvik/Export.h>
+#include <tarvik/skin/Colours.h>
 
-enum class Theme { Light, Dark, Night };
+namespace Tarvik::Skin {
 
-/// The colours of a theme; no colour is written anywhere else.
-struct SkinPalette {
-    QColor window;
-    QColor panel;
-    QColor caption;
-    QColor captionText;
-    QColor list;
-    QColor border;
-    QColor text;
-    QColor secondary;
-    QColor disabled;
-    QColor accent;
-    QColor accentText;
-    QColor selection;  ///< ground of a selected row
-    QColor history;    ///< ground of rows that cannot be edited
-    QColor highlight;  ///< ground of a ship's position
-    QColor plan;
-    QColor underway;
-    QColor finished;
-    QColor warning;
-    QColor error;
-};
-
-/// Colours in force.
-const SkinPalette& Skin();
+/// The theme in force, one for the whole process; the light one at first.
+TARVIK_API Theme CurrentTheme();
 /// Puts a theme in force for windows made or restyled afterwards.
-void SetTheme(Theme theme);
-Theme CurrentTheme();
-/// "light", "dark" or "night"; any other name is the light theme.
-Theme ThemeNamed(const QString& name);
-/// The one style sheet, in the colours in force.
-QString SkinStyleSheet();
+TARVIK_API void SetTheme(Theme theme);
+/// The colour of a role in the theme in force.
+TARVIK_API QColor Colour(Role role);
+/// A style sheet with every "@role" replaced by the role's colour in force; unknown names stay.
+TARVIK_API QString Coloured(const QString& sheet);
+/// The style sheet of panels and their controls, in the colours in force.
+TARVIK_API QString StyleSheet();
+
+/// Tells a window when the theme changes. ToolWindow has one; a window of another kind keeps its own.
+///
+/// The client leaves the theme's name in the application's property "tarvik.theme" and then changes the
+/// application's palette, whose event the watch sees.
+class TARVIK_API ThemeWatch : public QObject {
+  public:
+    /// Takes the client's theme at once; `changed` is called when another has been put in force.
+    explicit ThemeWatch(std::function<void()> changed);
+
+    /// Client: puts a theme in force and leaves its name; to be followed by a change of the palette.
+    static void Publish(Theme theme);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    std::function<void()> changed_;
+};
 
 /// Measures in pixels.
 inline constexpr int kGrid = 4;
@@ -51,4 +50,4 @@ inline constexpr int kCornerRadius = 6;
 inline constexpr int kTextPixels = 13;
 inline constexpr int kTablePixels = 12;
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Skin

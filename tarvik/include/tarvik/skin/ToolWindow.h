@@ -9,14 +9,16 @@
 #include <utility>
 #include <vector>
 
+#include <tarvik/skin/Palette.h>
+
 class QHBoxLayout;
 class QVBoxLayout;
 
-namespace Tarvik::Seaplan {
+namespace Tarvik::Skin {
 
 /// A floating tool window: caption with title, changed mark and buttons; it moves by dragging any free
 /// surface.
-class ToolWindow : public QFrame {
+class TARVIK_API ToolWindow : public QFrame {
   public:
     ToolWindow(QWidget* parent, const QString& name);
 
@@ -25,7 +27,7 @@ class ToolWindow : public QFrame {
     /// A button at the right end of the caption.
     QToolButton* AddCaptionButton(const char* name, const std::string& icon);
     QVBoxLayout* Body() { return body_; }
-    /// Colours and icons of the theme in force.
+    /// Colours and icons of the theme in force; called at every change of it.
     virtual void ApplySkin();
 
   protected:
@@ -42,6 +44,7 @@ class ToolWindow : public QFrame {
     void KeepIcon(QAbstractButton* button, const std::string& icon);
 
   private:
+    ThemeWatch watch_;
     QHBoxLayout* captionRow_;
     QVBoxLayout* body_;
     QLabel* title_;
@@ -52,6 +55,6 @@ class ToolWindow : public QFrame {
 };
 
 /// Accessible name and tool tip in one; a button's tip tells its key too.
-void Describe(QWidget* widget, const QString& text);
+TARVIK_API void Describe(QWidget* widget, const QString& text);
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Skin

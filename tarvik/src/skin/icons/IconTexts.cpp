@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tarvik/src/skin/icons/IconTexts.h"
 
-namespace Tarvik::Seaplan {
+namespace Tarvik::Skin {
 
 const std::map<std::string, std::string>& IconTexts() {
     static const std::map<std::string, std::string> texts = {
@@ -52,4 +52,4 @@ const std::map<std::string, std::string>& IconTexts() {
     return texts;
 }
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Skin

@@ -4,9 +4,9 @@
 #include <map>
 #include <string>
 
-namespace Tarvik::Seaplan {
+namespace Tarvik::Skin {
 
 /// Inner SVG of each icon on a field of 16 by 16; strokes take the group's colour, fills say "currentColor".
 const std::map<std::string, std::string>& IconTexts();
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Skin

@@ -52,10 +52,10 @@ TEST(ChartPalette, NightHasNoColourBrighterThanItsRed) {
 }
 
 TEST(ChartPalette, ThemesHaveNames) {
-    EXPECT_EQ(ChartPalette::ThemeOf("dark"), ChartPalette::Theme::Dark);
-    EXPECT_EQ(ChartPalette::ThemeOf("night"), ChartPalette::Theme::Night);
-    EXPECT_EQ(ChartPalette::ThemeOf("light"), ChartPalette::Theme::Light);
-    EXPECT_FALSE(ChartPalette::ThemeOf("blue"));
+    EXPECT_EQ(Skin::FindTheme("dark"), ChartPalette::Theme::Dark);
+    EXPECT_EQ(Skin::FindTheme("night"), ChartPalette::Theme::Night);
+    EXPECT_EQ(Skin::FindTheme("light"), ChartPalette::Theme::Light);
+    EXPECT_FALSE(Skin::FindTheme("blue"));
 }
 
 }  // namespace
