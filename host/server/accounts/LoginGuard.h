@@ -7,7 +7,7 @@
 #include <mutex>
 #include <string>
 
-#include "host/server/api/RemarkCommands.h"
+#include "host/server/storage/contract/ServerTime.h"
 
 namespace Tarvik::Server {
 

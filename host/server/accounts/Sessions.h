@@ -9,7 +9,7 @@
 #include "host/server/accounts/LoginGuard.h"
 #include "host/server/accounts/Passwords.h"
 #include "host/server/accounts/SessionMemory.h"
-#include "host/server/api/RemarkCommands.h"
+#include "host/server/storage/contract/ServerTime.h"
 
 namespace Tarvik::Server {
 

@@ -5,8 +5,11 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <tarvik/util/Jsona.h>
+
+#include "host/server/storage/contract/Records.h"
 
 namespace Tarvik::Server {
 
@@ -43,5 +46,15 @@ class RequestFields {
 
 /// Refuses a text that is longer than `most` bytes or holds a zero byte, which not every data base can keep.
 void CheckText(std::string_view text, std::size_t most, std::string_view key);
+
+/// The texts of a request that is an array of texts. Refuses anything else, and an array of fewer than
+/// `least` texts.
+std::vector<std::string> ReadTexts(std::string_view request, std::size_t least);
+
+/// One row "number|port id|port name|purpose|speed|weather factor|hours in port", speed in km/h.
+PortCallRecord ReadPortCall(std::string_view row);
+
+/// One row "number|name|longitude|latitude|sailing|spacing|speed|kind", degrees and km/h.
+BookRowRecord ReadBookRow(std::string_view row);
 
 }  // namespace Tarvik::Server

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/api/RequestRows.h"
-
 #include <limits>
 
 #include <tarvik/util/Jsona.h>

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "host/server/accounts/UserRules.h"
-#include "host/server/api/VoyageService.h"
 #include "host/server/net/service/Databases.h"
+#include "host/server/storage/contract/ServerTime.h"
 #include "host/server/storage/postgres/PostgresTransfer.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 

@@ -6,7 +6,6 @@
 #include "host/server/api/Numbers.h"
 #include "host/server/api/Refusal.h"
 #include "host/server/api/RequestFields.h"
-#include "host/server/api/RequestRows.h"
 
 namespace Tarvik::Server {
 

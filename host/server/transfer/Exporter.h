@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/server/accounts/AccountStorage.h"
-#include "host/server/api/RemarkCommands.h"
+#include "host/server/storage/contract/ServerTime.h"
 #include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/transfer/TransferFile.h"
 #include "host/server/transfer/TransferWriter.h"

@@ -1,27 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/TransferWriter.h"
 
-#include <array>
-#include <ctime>
 #include <utility>
 
 #include <nlohmann/json.hpp>
 
+#include "host/server/storage/contract/ServerTime.h"
 #include "host/server/transfer/CopyJson.h"
 
 namespace Tarvik::Server {
-
-namespace {
-
-std::string UtcText(std::int64_t seconds) {
-    const std::time_t time = seconds;
-    std::tm parts{};
-    gmtime_r(&time, &parts);
-    std::array<char, 64> text{};
-    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &parts)};
-}
-
-}  // namespace
 
 TransferWriter::TransferWriter(Sink sink, std::int64_t made) : sink_(std::move(sink)) {
     const nlohmann::ordered_json head = {

@@ -288,9 +288,10 @@ TEST_F(RefusalTest, UnknownModuleWordsAreRefused) {
         EXPECT_EQ(Eid(service.Handle("ann", module, 3, R"({ui:"ann"})")),
                   static_cast<int>(E::UnknownCommand));
     }
-    EXPECT_EQ(Eid(service.Handle("ann", kRemarkModule, 3, R"({ui:"ann"})")),
+    EXPECT_EQ(Eid(service.Handle("ann", Interface::kRemarkModuleWord, 3, R"({ui:"ann"})")),
               static_cast<int>(E::UnknownCommand));
-    EXPECT_EQ(Eid(service.Handle("", kVoyageModule, 3, R"({ui:""})")), static_cast<int>(E::NoUser));
+    EXPECT_EQ(Eid(service.Handle("", Interface::kVoyageModuleWord, 3, R"({ui:""})")),
+              static_cast<int>(E::NoUser));
 }
 
 }  // namespace

@@ -18,9 +18,9 @@ ServiceTest::ServiceTest() {
 
 std::string ServiceTest::Send(int command, const std::string& text, const std::string& user) {
     if (command == kRemark) {
-        return service_->Handle(user, kRemarkModule, 9, text);
+        return service_->Handle(user, Interface::kRemarkModuleWord, 9, text);
     }
-    return service_->Handle(user, kVoyageModule, static_cast<std::uint16_t>(command), text);
+    return service_->Handle(user, Interface::kVoyageModuleWord, static_cast<std::uint16_t>(command), text);
 }
 
 void ServiceTest::Converse(const std::vector<Step>& steps, const std::string& user) {

@@ -46,7 +46,7 @@ class EmbeddedServerTest : public ::testing::Test {
         return EmbeddedServer::Open(path, std::make_unique<NamedRoutes>(), error_);
     }
     static std::string Ask(EmbeddedServer& server, std::uint16_t command, const std::string& payload,
-                           std::uint16_t moduleWord = kVoyageModule) {
+                           std::uint16_t moduleWord = Interface::kVoyageModuleWord) {
         return server.Exchange("ann", Block(command, moduleWord, payload).Get());
     }
 
@@ -58,9 +58,9 @@ TEST_F(EmbeddedServerTest, PayloadMayEndWithItsNulOrNot) {
     ASSERT_NE(server, nullptr) << error_;
     EXPECT_EQ(Ask(*server, 4, R"({ci:"",cn:"A",type:0})"), R"({"eid":0,"ci":"1000001"})");
     EXPECT_EQ(Ask(*server, 4, std::string(R"({ci:"",cn:"B",type:0})") + '\0'), R"({"eid":0,"ci":"1000002"})");
-    EXPECT_EQ(
-        Ask(*server, 9, std::string(R"({optype:"4",type:"2",objectid:"1000001"})") + '\0', kRemarkModule),
-        "[]");
+    EXPECT_EQ(Ask(*server, 9, std::string(R"({optype:"4",type:"2",objectid:"1000001"})") + '\0',
+                  Interface::kRemarkModuleWord),
+              "[]");
 }
 
 TEST_F(EmbeddedServerTest, OnlyOneNulBelongsToTheEnvelope) {
@@ -78,14 +78,14 @@ TEST_F(EmbeddedServerTest, EmptyPayloadAndNoRequestAreRefused) {
 
 TEST_F(EmbeddedServerTest, LengthBeyondTheLimitIsRefusedUnread) {
     const auto server = Open(":memory:");
-    Block block(3, kVoyageModule, "");
+    Block block(3, Interface::kVoyageModuleWord, "");
     block.Get()->length = Interface::kMaxPayloadBytes + 1;
     EXPECT_EQ(server->Exchange("ann", block.Get()), R"({"eid":14,"emsg":"the request is too long"})");
 }
 
 TEST_F(EmbeddedServerTest, NobodyLoggedInIsRefused) {
     const auto server = Open(":memory:");
-    Block block(3, kVoyageModule, R"({ui:""})");
+    Block block(3, Interface::kVoyageModuleWord, R"({ui:""})");
     EXPECT_EQ(server->Exchange("", block.Get()), R"({"eid":21,"emsg":"nobody is logged in"})");
 }
 

@@ -3,10 +3,11 @@
 
 #include <chrono>
 #include <cstdio>
-#include <ctime>
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
+
+#include "host/server/storage/contract/ServerTime.h"
 
 namespace Tarvik::Server {
 
@@ -54,14 +55,6 @@ void ServerLog::Write(LogLevel level, std::string_view event, std::initializer_l
     const std::string text = line.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
     const std::scoped_lock lock(mutex_);
     sink_(text);
-}
-
-std::string UtcText(std::int64_t seconds) {
-    const std::time_t time = seconds;
-    std::tm parts{};
-    gmtime_r(&time, &parts);
-    return fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}Z", parts.tm_year + 1900, parts.tm_mon + 1,
-                       parts.tm_mday, parts.tm_hour, parts.tm_min, parts.tm_sec);
 }
 
 }  // namespace Tarvik::Server

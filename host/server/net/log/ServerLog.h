@@ -38,7 +38,4 @@ class ServerLog {
     std::mutex mutex_;
 };
 
-/// A time as "2026-11-21T07:30:00Z"; `seconds` since 1970-01-01 00:00:00 UTC.
-std::string UtcText(std::int64_t seconds);
-
 }  // namespace Tarvik::Server

@@ -8,17 +8,6 @@ namespace Tarvik::Server {
 
 namespace {
 
-constexpr std::uint16_t kLastCommand = 14;
-
-std::string NameOf(const Envelope& envelope) {
-    if (envelope.moduleWord == kRemarkModule && envelope.command == 9) {
-        return "remark";
-    }
-    const bool known =
-        envelope.moduleWord == kVoyageModule && envelope.command >= 1 && envelope.command <= kLastCommand;
-    return known ? std::to_string(envelope.command) : "unknown";
-}
-
 /// Replies that refuse begin with their code.
 bool Refuses(std::string_view reply) {
     constexpr std::string_view kCode = "{\"eid\":";
@@ -41,7 +30,7 @@ Answered ExchangeEndpoint::Exchange(const HttpRequest& request) {
         answered.reply = ErrorReply(400, "the body is no envelope, or of another length than its head says");
     } else {
         answered.user = *user.Value();
-        answered.command = NameOf(*envelope);
+        answered.command = CommandLabel(envelope->moduleWord, envelope->command);
         const std::string text =
             service_.Handle(answered.user, envelope->moduleWord, envelope->command, envelope->text);
         answered.reply = {200,

@@ -5,7 +5,7 @@
 
 #include "host/server/accounts/Tokens.h"
 #include "host/server/accounts/UserRules.h"
-#include "host/server/net/log/ServerLog.h"
+#include "host/server/storage/contract/ServerTime.h"
 
 namespace Tarvik::Server {
 

@@ -83,7 +83,7 @@ std::string LoginBody(const std::string& name, const std::string& password) {
 }
 
 std::string EnvelopeBody(std::uint16_t command, const std::string& text) {
-    return WriteEnvelope({command, kVoyageModule, text});
+    return WriteEnvelope({command, Interface::kVoyageModuleWord, text});
 }
 
 std::string EnvelopeText(const std::string& bytes) {

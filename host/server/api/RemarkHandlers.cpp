@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/api/RemarkCommands.h"
-
 #include <limits>
 
+#include "host/server/api/CommandHandlers.h"
 #include "host/server/api/Refusal.h"
 #include "host/server/api/Replies.h"
 #include "host/server/api/RequestFields.h"
@@ -24,24 +23,25 @@ RemarkRecord ReadRemark(const RequestFields& fields, std::int64_t now) {
 
 }  // namespace
 
-std::string RemarkCommands::Handle(const std::string& user, std::string_view text) {
-    const RequestFields fields(text);
+std::string KeepRemarks(const CommandCall& call) {
+    RemarkStorage& remarks = call.storage.Remarks();
+    const RequestFields fields(call.text);
     const int operation = fields.Operation("optype");
     // A port call's object is an id and a name together.
     const RemarkObject object{fields.Number("type", kCategoryRemark, kPortCallRemark),
                               fields.Text("objectid", kMaxNameBytes * 2)};
     switch (operation) {
         case kAdd:
-            ValueOrRefuse(storage_.AddRemark(user, object, ReadRemark(fields, clock_())));
+            ValueOrRefuse(remarks.AddRemark(call.user, object, ReadRemark(fields, call.clock())));
             break;
         case kDelete:
-            ValueOrRefuse(storage_.DeleteRemark(user, object, ReadSeq(fields)));
+            ValueOrRefuse(remarks.DeleteRemark(call.user, object, ReadSeq(fields)));
             break;
         case kChange:
-            ValueOrRefuse(storage_.ChangeRemark(user, object, ReadRemark(fields, clock_())));
+            ValueOrRefuse(remarks.ChangeRemark(call.user, object, ReadRemark(fields, call.clock())));
             break;
         case kList:
-            return Replies::Remarks(ValueOrRefuse(storage_.LoadRemarks(user, object)));
+            return Replies::Remarks(ValueOrRefuse(remarks.LoadRemarks(call.user, object)));
         default:
             throw Refusal(ErrorCode::UnknownOperation, "optype");
     }

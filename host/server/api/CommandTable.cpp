@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/api/CommandTable.h"
+
+#include <algorithm>
+#include <array>
+
+#include "host/server/api/CommandHandlers.h"
+
+namespace Tarvik::Server {
+
+namespace {
+
+using Interface::kRemarkModuleWord;
+using Interface::kVoyageModuleWord;
+using Interface::VoyCommand;
+
+std::string PlanRoute(const CommandCall& call) {
+    return call.routes.Plan(call.text);
+}
+
+std::string FindNearest(const CommandCall& call) {
+    return call.routes.Nearest(call.text);
+}
+
+constexpr std::array kCommands = {
+    CommandEntry{kVoyageModuleWord, VoyCommand::SearchRoute, "finds a route",
+                 R"({"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"40389#40208"})", "1",
+                 &PlanRoute},
+    CommandEntry{kVoyageModuleWord, VoyCommand::NearestRoute, "finds the nearest route point",
+                 R"({"nr_point":[4.05,51.98],"dest_port":40208})", "2", &FindNearest},
+    CommandEntry{kVoyageModuleWord, VoyCommand::LoadCatalog, "loads a user's categories and voyages",
+                 R"({ui:"anna"})", "3", &LoadCatalog},
+    CommandEntry{kVoyageModuleWord, VoyCommand::ChangeCategory, "changes a category",
+                 R"({ci:"",cn:"2026",type:0})", "4", &ChangeCategory},
+    CommandEntry{kVoyageModuleWord, VoyCommand::ChangeVoyage, "changes a voyage",
+                 R"({ci:"7",vi:"",vn:"North",type:"0",vsi:"",vr:"0",va:"0"})", "5", &ChangeVoyage},
+    CommandEntry{kVoyageModuleWord, VoyCommand::SaveFigures, "stores the seven consumption figures",
+                 R"({vi:"9",vfn:"30",vff:"28",vfa:"5",vdn:"2",vda:"2",vwn:"10",vwa:"10"})", "6",
+                 &StoreFigures},
+    CommandEntry{kVoyageModuleWord, VoyCommand::LoadBook, "reads the position book", R"({vi:"9"})", "7",
+                 &LoadBook},
+    CommandEntry{kVoyageModuleWord, VoyCommand::CreateBook, "creates a position book",
+                 R"({vi:"9",dt:"2026-12-01 08:00:00"})", "8", &CreateBook},
+    CommandEntry{kVoyageModuleWord, VoyCommand::SaveBookRows, "writes position book rows",
+                 R"(["12","0","0|Rotterdam|4.050|51.980|GC|2|25.928|1",…])", "9", &WriteBookRows},
+    CommandEntry{kVoyageModuleWord, VoyCommand::LoadPortCalls, "reads the port calls", R"({vi:"9"})", "10",
+                 &LoadPortCalls},
+    CommandEntry{kVoyageModuleWord, VoyCommand::SavePortCalls, "writes the port calls",
+                 R"(["9","0|40389|Rotterdam|L|25.928|0.050|12.0",…])", "11", &ReplacePortCalls},
+    CommandEntry{kVoyageModuleWord, VoyCommand::LoadAisTimes, "reads the AIS correction times", R"({vi:"9"})",
+                 "12", &LoadAisTimes},
+    CommandEntry{kVoyageModuleWord, VoyCommand::AddAisTime, "adds an AIS correction time",
+                 R"({vi:"9",time:"2026-12-03 14:00:00"})", "13", &AddAisTime},
+    CommandEntry{kVoyageModuleWord, VoyCommand::SetBookDate, "changes the date of a position book",
+                 R"({psb:"12",dt:"2026-12-01 08:00:00"})", "14", &SetBookDate},
+    CommandEntry{kRemarkModuleWord, VoyCommand::Remarks, "keeps remarks",
+                 R"({optype:"4",type:"3",objectid:"9"})", "remark", &KeepRemarks},
+};
+
+}  // namespace
+
+std::span<const CommandEntry> CommandTable() {
+    return kCommands;
+}
+
+const CommandEntry* FindCommand(std::uint16_t moduleWord, std::uint16_t number) {
+    const auto* entry = std::find_if(kCommands.begin(), kCommands.end(), [=](const CommandEntry& candidate) {
+        return candidate.moduleWord == moduleWord && candidate.Number() == number;
+    });
+    return entry == kCommands.end() ? nullptr : entry;
+}
+
+std::string_view CommandLabel(std::uint16_t moduleWord, std::uint16_t number) {
+    const CommandEntry* entry = FindCommand(moduleWord, number);
+    return entry == nullptr ? "unknown" : entry->label;
+}
+
+}  // namespace Tarvik::Server
