@@ -35,7 +35,7 @@ function(seaplan_warnings target)
 endfunction()
 
 function(seaplan_common target)
-  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
   seaplan_warnings(${target})
 endfunction()
 

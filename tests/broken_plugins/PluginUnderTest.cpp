@@ -5,8 +5,6 @@
 
 #include <tarvik/core/PluginInfo.h>
 
-#define EXPORTED extern "C" __attribute__((visibility("default")))
-
 namespace {
 
 #if !defined(FAULT_NO_RECORD) && !defined(FAULT_RECORD_THROWS)
@@ -29,7 +27,7 @@ Tarvik::Plugin::CPluginInfo* Record() {
 
 }  // namespace
 
-EXPORTED Tarvik::Plugin::CPluginInfo* PluginInfo() {
+TARVIK_EXPORT Tarvik::Plugin::CPluginInfo* PluginInfo() {
 #if defined(FAULT_NO_RECORD)
     return nullptr;
 #elif defined(FAULT_RECORD_THROWS)
@@ -39,7 +37,7 @@ EXPORTED Tarvik::Plugin::CPluginInfo* PluginInfo() {
 #endif
 }
 
-EXPORTED bool CheckEnvironment() {
+TARVIK_EXPORT bool CheckEnvironment() {
 #if defined(FAULT_REFUSES)
     return false;
 #elif defined(FAULT_CHECK_THROWS)
@@ -49,7 +47,7 @@ EXPORTED bool CheckEnvironment() {
 #endif
 }
 
-EXPORTED bool Load() {
+TARVIK_EXPORT bool Load() {
     Trace("load");
 #if defined(FAULT_THROWS)
     throw std::runtime_error("no fuel");
@@ -61,20 +59,20 @@ EXPORTED bool Load() {
 }
 
 #ifndef FAULT_NO_EXPORT
-EXPORTED bool UnLoad() {
+TARVIK_EXPORT bool UnLoad() {
     Trace("unload");
     return true;
 }
 #endif
 
-EXPORTED void InitPlugin() {
+TARVIK_EXPORT void InitPlugin() {
     Trace("init");
 #ifdef FAULT_INIT_THROWS
     throw 7;
 #endif
 }
 
-EXPORTED void SuiteLoaded() {
+TARVIK_EXPORT void SuiteLoaded() {
     Trace("suite");
 #ifdef FAULT_SUITE_THROWS
     throw std::runtime_error("no wind");

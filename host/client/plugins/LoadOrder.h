@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include <tarvik/Version.h>
 #include <tarvik/core/PluginInfo.h>
 
 namespace Tarvik::Client {
@@ -12,7 +13,7 @@ namespace Tarvik::Client {
 /// Name by which a plug-in's dependency text asks for the host itself.
 inline constexpr const char* kHostName = "TRV";
 /// The host's version as plug-ins see it.
-inline constexpr const char* kHostVersion = "1.1.4";
+inline constexpr const char* kHostVersion = kSdkVersion;
 
 /// What the host knows of a plug-in before it is loaded.
 struct PluginRecord {

@@ -48,7 +48,7 @@ bool UpToDate(const fs::path& source, const fs::path& target) {
 AppFolders::AppFolders(const std::string& programFolder, const std::string& dataFolder) {
     const fs::path program(programFolder);
     share_ = (program / ".." / "share" / "seaplan").lexically_normal().string();
-    const fs::path installed = program / ".." / "lib" / "seaplan" / "plugins";
+    const fs::path installed = program / INSTALLED_PLUGINS;
     std::error_code failed;
     const fs::path plugins = fs::is_directory(installed, failed) ? installed : program / ".." / "lib";
     plugins_ = plugins.lexically_normal().string();

@@ -9,8 +9,6 @@
 #include "host/plugins/seamap/core/PortTable.h"
 #include "host/plugins/seamap/widget/ChartServices.h"
 
-#define SEAMAP_EXPORT extern "C" __attribute__((visibility("default")))
-
 namespace {
 
 using Tarvik::Plugin::CPluginInfo;
@@ -34,7 +32,7 @@ std::unique_ptr<ChartServices> services;
 }  // namespace
 
 /// Offers the chart's services on the bus; a second call changes nothing. False when that failed.
-SEAMAP_EXPORT bool Load() {
+TARVIK_EXPORT bool Load() {
     try {
         if (!services) {
             services = std::make_unique<ChartServices>(
@@ -47,21 +45,21 @@ SEAMAP_EXPORT bool Load() {
 }
 
 /// Takes the services back and closes the chart. To be called while the window system still stands.
-SEAMAP_EXPORT bool UnLoad() {
+TARVIK_EXPORT bool UnLoad() {
     services.reset();
     return true;
 }
 
 /// The plug-in's description; owned by the library, the same at every call.
-SEAMAP_EXPORT CPluginInfo* PluginInfo() {
+TARVIK_EXPORT CPluginInfo* PluginInfo() {
     return &info;
 }
 
-SEAMAP_EXPORT void InitPlugin() {}
+TARVIK_EXPORT void InitPlugin() {}
 
-SEAMAP_EXPORT void SuiteLoaded() {}
+TARVIK_EXPORT void SuiteLoaded() {}
 
 /// Whether the plug-in can work here.
-SEAMAP_EXPORT bool CheckEnvironment() {
+TARVIK_EXPORT bool CheckEnvironment() {
     return Tarvik::Core::TrvKernel::Instance() != nullptr;
 }
