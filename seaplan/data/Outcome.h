@@ -47,7 +47,7 @@ Code(Step, int) -> Code<Step>;
 template <typename Step, std::size_t Size>
 class CodeTable {
   public:
-    /// What a step without a line goes out as: a mistake in the table must not look like success.
+    /// What a step without a line or without a number goes out as: such a mistake must not look like success.
     static constexpr int kUnlisted = -100;
 
     template <typename... Rest>
@@ -65,7 +65,8 @@ class CodeTable {
         }
         for (const Code<Step>& code : codes_) {
             if (code.step == outcome.At()) {
-                return code.number == kOwnNumber ? outcome.Detail() : code.number;
+                const int number = code.number == kOwnNumber ? outcome.Detail() : code.number;
+                return number < 0 ? number : kUnlisted;
             }
         }
         return kUnlisted;
