@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/controllers/PortIds.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include <tarvik/interface/ValueDictionary.h>
+
+namespace Tarvik::Seaplan {
+
+void ResolvePortIds(PortCallRows& rows) {
+    for (VoyPortCall& row : rows) {
+        if (row.ppi.empty()) {
+            row.ppi = Interface::GetNameByValue("/points", row.ppn, 1033);
+        }
+    }
+}
+
+void KeepPortIds(const PortCallRows& before, PortCallRows& rows) {
+    for (std::size_t i = 0; i < std::min(before.size(), rows.size()); ++i) {
+        if (rows[i].ppi.empty() && rows[i].ppn == before[i].ppn) {
+            rows[i].ppi = before[i].ppi;
+        }
+    }
+}
+
+}  // namespace Tarvik::Seaplan

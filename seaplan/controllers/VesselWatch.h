@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "seaplan/data/Outcome.h"
+#include "seaplan/data/VoyageStore.h"
+
+namespace Tarvik::Seaplan {
+
+class VoyCatalogController;
+
+enum class RefreshStep { NoAnswer };
+/// Number of RefreshVesselPositions.
+inline constexpr CodeTable kRefreshPositionsCodes{
+    Code{RefreshStep::NoAnswer, -1},  // no voyage has a vessel, or no position is known
+};
+
+enum class TraceStep { Id, Voyage, Vessel, PortCalls, NoTrack, NoNumbers, Fields, Number };
+/// Numbers of RefreshTrace, and of HideAisTrack.
+inline constexpr CodeTable kRefreshTraceCodes{
+    Code{TraceStep::Id, -1},         // empty id
+    Code{TraceStep::Voyage, -2},     // unknown voyage
+    Code{TraceStep::Vessel, -3},     // it has no vessel
+    Code{TraceStep::PortCalls, -4},  // fewer than two port calls
+    Code{TraceStep::NoTrack, -5},    // no track
+    Code{TraceStep::NoNumbers, -6},  // no numbers in it
+    Code{TraceStep::Fields, -7},     // not four fields
+    Code{TraceStep::Number, -8},     // a first vessel number could not be saved
+};
+
+/// Keeps each voyage's last known vessel position, by the tracking services of the bus. A position counts
+/// when it is later than the one that is known and at another place.
+class VesselWatch {
+  public:
+    VesselWatch(VoyCatalogController* catalog, VoyageStore* store) : catalog_(catalog), store_(store) {}
+
+    /// Takes over newer positions of all voyages' vessels. A vessel number that was unknown is saved first;
+    /// where that fails the voyage is left as it is.
+    Outcome<RefreshStep> RefreshPositions();
+    /// Takes over the last position of the vessel's track between first departure and last arrival, if newer.
+    Outcome<TraceStep> RefreshTrace(const std::string& vi);
+    /// Has the vessel's track hidden; without a vessel there is none.
+    Outcome<TraceStep> HideTrack(const std::string& vi) const;
+
+  private:
+    Outcome<TraceStep> TakeTrack(VoyInfo& voyage, const std::vector<std::string>& fields);
+
+    VoyCatalogController* catalog_;
+    VoyageStore* store_;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/Outcome.h"
+
+namespace Tarvik::Seaplan {
+
+/// How a schedule that was loaded or saved goes onto the chart.
+enum class DrawMode {
+    Nothing,   ///< -1 in the required operations
+    BookLine,  ///< 0: the book as one line, without a ship
+    Progress,  ///< 1: lines sailed and remaining with the ship; remembers the voyage
+};
+/// The mode of the required number; nothing for another one.
+std::optional<DrawMode> DrawModeOf(int number);
+
+enum class DrawStep { Progress, BookLine };
+
+/// Puts voyages onto the chart and takes them off it.
+class VoyageChart {
+  public:
+    explicit VoyageChart(VoyPortCallModule* module) : module_(module) {}
+
+    /// Draws in `mode`; a voyage drawn with its ship counts as the one last drawn.
+    Outcome<DrawStep> Draw(const VoyInfo& voyage, DrawMode mode);
+    /// Takes a voyage's lines and ship off. 0; -1 empty id.
+    int Remove(const std::string& vi) { return vi.empty() ? -1 : module_->Layer().ClearVoyageObjects(vi); }
+    /// Takes off all that the plug-in drew. 0 or -1.
+    int Clear() { return module_->Layer().ClearAllObjects() < 0 ? -1 : 0; }
+
+  private:
+    VoyPortCallModule* module_;
+};
+
+}  // namespace Tarvik::Seaplan
