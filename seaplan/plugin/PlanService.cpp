@@ -45,7 +45,7 @@ std::string ComplaintOf(const PlanPort& port) {
 }
 
 /// Words for a code of CalculatePortCalls.
-std::string CalculationStep(int code) {
+std::string WordsOfCalculation(int code) {
     switch (code) {
         case -1:
             return "the server has no route for these ports";
@@ -157,7 +157,7 @@ int PlanService::CheckNames(const PlanRequest& request) {
 int PlanService::Calculate(const PortCallRows& rows) {
     PortCallRows& scheduled = result_.rows;
     if (const int code = voyages_->CalculatePortCalls(rows, scheduled); code < 0) {
-        return Fail(PlanNotCalculated, CalculationStep(code));
+        return Fail(PlanNotCalculated, WordsOfCalculation(code));
     }
     // A schedule pass makes the first port one of loading and drops the ids; a person may change the purpose
     // afterwards, and the answer tells both.

@@ -88,13 +88,14 @@ TEST_F(BadInputTest, WeatherOfOneEndsACalculationWithTheTableAsItWas) {
 TEST_F(BadInputTest, PortThatTheDictionaryLacksIsSentWithoutIdAndItsRefusalEndsTheCalculation) {
     PortCallRows typed = typedRows();
     typed[1].ppn = "nowhere";
+    typed[1].ppi.clear();
     voyages.ResolvePortIds(typed);
     host.Reply(1, R"({eid:1,emsg:"no such point"})");
     EXPECT_EQ(voyages.CalculatePortCalls(typed, rows), -1);
     EXPECT_EQ(host.TextsOf(1),
               Texts{R"({"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"40001#"})"});
     EXPECT_TRUE(host.chartCalls.empty());
-    EXPECT_FALSE(voyages.HasPendingRoute());
+    EXPECT_FALSE(module.Pending().IsThere());
 }
 
 TEST_F(BadInputTest, NextPortThatTheDictionaryLacksEndsACorrectionWithoutARequest) {

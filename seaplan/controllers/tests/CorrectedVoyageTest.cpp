@@ -128,7 +128,7 @@ TEST_F(CorrectedVoyageTest, IsDrawnWithoutWhatTheRealTrackCovers) {
     const auto ships = host.ChartCallsOf("TRV_MAP_ADD_IMAGE");
     ASSERT_EQ(ships.size(), 1U);
     EXPECT_EQ(ships[0].position, lines[0].points.front());
-    EXPECT_EQ(voyages.CurrentVoyage(), "") << "only the plain drawing remembers the voyage";
+    EXPECT_EQ(module.Pending().DrawnVoyage(), "") << "only the plain drawing remembers the voyage";
 }
 
 TEST_F(CorrectedVoyageTest, NeedsScheduleTimesAndAPlaceForTheShip) {

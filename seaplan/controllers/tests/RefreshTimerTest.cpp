@@ -83,7 +83,7 @@ TEST_F(RefreshTimerTest, FailingVoyageIsSkippedAndTheOthersGoOn) {
     timer.Fire();
     EXPECT_EQ(host.TextsOf(10), (std::vector<std::string>{R"({vi:"1"})", R"({vi:"9"})"}))
         << "the voyage of no category counts as deleted";
-    EXPECT_EQ(voyages.CurrentVoyage(), "9");
+    EXPECT_EQ(module.Pending().DrawnVoyage(), "9");
 }
 
 TEST_F(RefreshTimerTest, ShipMovesWithTheClock) {

@@ -30,6 +30,7 @@ TEST_F(SaveScheduleTest, PortIdsComeFromTheDictionaryAndUnknownNamesGetNone) {
     rows = typedRows();
     rows[0].ppi.clear();
     rows[1].ppn = "nowhere";
+    rows[1].ppi.clear();
     EXPECT_EQ(voyages.ResolvePortIds(rows), 0);
     EXPECT_EQ(rows[0].ppi, "40001");
     EXPECT_EQ(rows[1].ppi, "");
@@ -44,7 +45,7 @@ TEST_F(SaveScheduleTest, CalculationAsksForTheWholeRouteAndTimesTheRows) {
     EXPECT_EQ(rows[0].eta.fmt("%Y-%m-%d %H:%M:%S"), "2024-03-01 08:00:00");
     EXPECT_EQ(rows[0].etd.fmt("%Y-%m-%d %H:%M:%S"), "2024-03-01 14:00:00");
     EXPECT_EQ(rows[1].eta.fmt("%Y-%m-%d %H:%M"), "2024-03-01 20:00");
-    EXPECT_TRUE(voyages.HasPendingRoute());
+    EXPECT_TRUE(module.Pending().IsThere());
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE").size(), 1U);
     EXPECT_TRUE(voyage().portCalls.empty()) << "the store waits for the save";
 }
@@ -62,7 +63,7 @@ TEST_F(SaveScheduleTest, FailedOrShortRouteReplyFailsTheCalculation) {
     host.Reply(1, R"([{point_cd:"40001"}])");
     EXPECT_LT(voyages.CalculatePortCalls(typedRows(), rows), 0);
     EXPECT_TRUE(rows.empty());
-    EXPECT_FALSE(voyages.HasPendingRoute());
+    EXPECT_FALSE(module.Pending().IsThere());
     EXPECT_LT(voyages.CalculatePortCalls({}, rows), 0);
 }
 
@@ -74,7 +75,7 @@ TEST_F(SaveScheduleTest, FailedCalculationLeavesThePendingRouteThatTheTableShows
     host.Reply(1, R"([{point_cd:"40002"},{point_cd:"40001"}])");
     EXPECT_EQ(voyages.CalculatePortCalls(changed, rows), -2) << "the steam time is not finite";
     EXPECT_TRUE(rows.empty());
-    ASSERT_TRUE(voyages.HasPendingRoute());
+    ASSERT_TRUE(module.Pending().IsThere());
     EXPECT_EQ(module.Pending().Stops()[0].point_cd, "40001");
 }
 
@@ -85,7 +86,7 @@ TEST_F(SaveScheduleTest, FailedRecalculationLeavesTheVoyageAsItWas) {
     changed[1].pw = 1.0F;
     host.Reply(1, kRouteAb);
     EXPECT_EQ(voyages.CalculateKeepingLegs("9", changed, rows), -3);
-    EXPECT_FALSE(voyages.HasPendingRoute());
+    EXPECT_FALSE(module.Pending().IsThere());
     EXPECT_EQ(voyage().portCalls[1].pw, 0.0F);
     EXPECT_EQ(voyage().positionBook.points.size(), 3U);
 }
@@ -135,7 +136,7 @@ TEST_F(SaveScheduleTest, NewVoyageSavesPortCallsDateAndRowsInThisOrder) {
     EXPECT_EQ(voyage().positionBook.eta, rows[0].eta);
     EXPECT_EQ(voyage().positionBook.points.size(), 3U);
     EXPECT_EQ(voyage().portCalls.size(), 2U);
-    EXPECT_FALSE(voyages.HasPendingRoute());
+    EXPECT_FALSE(module.Pending().IsThere());
     EXPECT_EQ(voyages.RouteIsCurrent(), 1);
 }
 
@@ -165,7 +166,7 @@ TEST_F(SaveScheduleTest, SavingWithADrawModeRedrawsTheVoyage) {
         EXPECT_EQ(voyages.SaveSchedule("9", rows, mode), 0);
         EXPECT_EQ(host.ChartCallsOf("TRV_MAP_DEL_OBJECTS").size(), 10U);
         EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").size(), static_cast<std::size_t>(mode));
-        EXPECT_EQ(voyages.CurrentVoyage(), mode == 1 ? "9" : "");
+        EXPECT_EQ(module.Pending().DrawnVoyage(), mode == 1 ? "9" : "");
     }
 }
 
@@ -189,7 +190,7 @@ TEST_F(SaveScheduleTest, EveryFailedStepEndsTheSaveAndEarlierStepsStay) {
     host.Reply(11, "{eid:0}");
     host.Reply(14, "{eid:0}");
     EXPECT_EQ(voyages.SaveSchedule("9", rows, -1), -6);
-    EXPECT_TRUE(voyages.HasPendingRoute()) << "the route waits for the next save";
+    EXPECT_TRUE(module.Pending().IsThere()) << "the route waits for the next save";
     EXPECT_TRUE(voyage().positionBook.points.empty());
 }
 
@@ -198,7 +199,7 @@ TEST_F(SaveScheduleTest, ReloadingDropsThePendingRoute) {
     voyages.CalculatePortCalls(typedRows(), rows);
     replySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
-    EXPECT_FALSE(voyages.HasPendingRoute());
+    EXPECT_FALSE(module.Pending().IsThere());
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ TEST_F(VoyControllerTest, LoadReadsPortCallsAndBookAndTimesTheRows) {
     EXPECT_EQ(voyage().portCalls.size(), 2U);
     EXPECT_EQ(voyage().positionBook.pbi, "5");
     EXPECT_EQ(voyages.RouteIsCurrent(), 1);
-    EXPECT_EQ(voyages.CurrentVoyage(), "") << "only drawing it remembers a voyage";
+    EXPECT_EQ(module.Pending().DrawnVoyage(), "") << "only drawing it remembers a voyage";
     EXPECT_TRUE(host.chartCalls.empty());
 }
 
@@ -72,7 +72,7 @@ TEST_F(VoyControllerTest, DrawModeOneShowsTheProgressAndRemembersTheVoyage) {
     clock.SetUtc(2024, 3, 1, 9);
     replySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), 0);
-    EXPECT_EQ(voyages.CurrentVoyage(), "9");
+    EXPECT_EQ(module.Pending().DrawnVoyage(), "9");
     ASSERT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").size(), 1U);
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE")[0].id, "9");
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE")[0].position, "0.000,0.000");
@@ -87,7 +87,7 @@ TEST_F(VoyControllerTest, ScheduleThatCannotBeDrawnIsLoadedButNotTheOneOnShow) {
     host.Reply(7, book);
     EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), -6) << "the book has a port more than the schedule";
     EXPECT_EQ(voyage().portCalls.size(), 2U);
-    EXPECT_EQ(voyages.CurrentVoyage(), "");
+    EXPECT_EQ(module.Pending().DrawnVoyage(), "");
     EXPECT_EQ(voyages.RouteIsCurrent(), -1);
 }
 
@@ -130,7 +130,7 @@ TEST_F(VoyControllerTest, ShipUnderWayCutsTheVoyageInTwoLines) {
 TEST_F(VoyControllerTest, DrawModeZeroShowsTheBookWithoutAShip) {
     replySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, 0), 0);
-    EXPECT_EQ(voyages.CurrentVoyage(), "");
+    EXPECT_EQ(module.Pending().DrawnVoyage(), "");
     EXPECT_TRUE(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").empty());
     ASSERT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE").size(), 1U);
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE")[0].points,
@@ -235,7 +235,7 @@ TEST_F(VoyControllerTest, ShownVoyageIsClearedAndDrawn) {
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_DEL_OBJECTS").size(), 10U);
     replySchedule();
     EXPECT_EQ(voyages.ShowVoyage("9"), 0);
-    EXPECT_EQ(voyages.CurrentVoyage(), "9");
+    EXPECT_EQ(module.Pending().DrawnVoyage(), "9");
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").size(), 1U);
 }
 

@@ -29,6 +29,7 @@ class VoyageReplanTest : public CorrectionFixture {
     void planC() {
         after.push_back(after[0]);
         after[1].ppn = "C";
+        after[1].ppi.clear();
         after[1].psp = 20;
         after[1].pw = 0;
     }
@@ -62,7 +63,7 @@ TEST_F(VoyageReplanTest, PortsBehindTheFirstAreRoutedAnew) {
     EXPECT_NEAR(points[4].psp, 20, 1e-4) << "scaled to the speed planned to C";
     EXPECT_EQ(points[5].psn, "C");
     EXPECT_EQ(nameList(voyage().portCalls), "A B C");
-    EXPECT_FALSE(voyages.HasPendingRoute());
+    EXPECT_FALSE(module.Pending().IsThere());
 }
 
 TEST_F(VoyageReplanTest, PurposesThatAreMissingInThePlanBecomeDischarging) {
@@ -78,11 +79,11 @@ TEST_F(VoyageReplanTest, PendingRouteOfAnotherCalculationIsDropped) {
     host.Reply(1, kRouteAb);
     PortCallRows calculated;
     voyages.CalculatePortCalls(typedRows(), calculated);
-    ASSERT_TRUE(voyages.HasPendingRoute());
+    ASSERT_TRUE(module.Pending().IsThere());
     replyWay();
     EXPECT_EQ(replan(), 0);
     EXPECT_EQ(positions().size(), 4U);
-    EXPECT_FALSE(voyages.HasPendingRoute());
+    EXPECT_FALSE(module.Pending().IsThere());
 }
 
 TEST_F(VoyageReplanTest, EveryFailureHasItsNumberAndLeavesTheVoyageAndThePendingRoute) {
@@ -117,6 +118,7 @@ TEST_F(VoyageReplanTest, EveryFailureHasItsNumberAndLeavesTheVoyageAndThePending
 
 TEST_F(VoyageReplanTest, PortThatTheDictionaryLacksIsNotAskedFor) {
     after[0].ppn = "nowhere";
+    after[0].ppi.clear();
     EXPECT_EQ(replan(), -6);
     EXPECT_TRUE(host.requests.empty());
 }

@@ -94,9 +94,9 @@ class ScheduleControllerCommands final : public ScheduleCommands {
     int DeleteRow(const PortCallRows& rows, int index, PortCallRows& out) override {
         return c_->DeleteRow(rows, index, out);
     }
-    void RouteChanged() override { c_->RouteChanged(); }
-    void ForgetPortList() override { c_->ForgetPortList(); }
-    bool HasPendingRoute() const override { return c_->HasPendingRoute(); }
+    void RouteChanged() override { c_->Module().Pending().NoteRowsChanged(); }
+    void ForgetPortList() override { c_->Module().Pending().Forget(); }
+    bool HasPendingRoute() const override { return c_->Module().Pending().IsThere(); }
     int ClearChart() override { return c_->ClearChart(); }
     int RemoveVoyageObjects(const std::string& vi) override { return c_->RemoveVoyageObjects(vi); }
     int ShowVoyage(const std::string& vi) override { return c_->ShowVoyage(vi); }

@@ -135,8 +135,8 @@ void PanelDesk::SaveCalls(const std::string& vi, PortCallRows calls) {
     if (!known) {
         store.voyages.erase(vi);
     }
-    voyages.ForgetPortList();
-    voyages.RouteChanged();
+    voyages.Module().Pending().Forget();
+    voyages.Module().Pending().NoteRowsChanged();
     voyages.ClearChart();
     ForgetRecords();
 }

@@ -66,7 +66,7 @@ TEST_F(PlanServiceTest, PlanWithoutSavingGivesScheduleBookAndLine) {
     EXPECT_NEAR(result.summary.averageSpeed, 10.0F, 0.01F);
     EXPECT_EQ(result.linePieces, (std::vector<PointTexts>{{"0.000,0.000", "0.500,0.000", "1.000,0.000"}}));
     EXPECT_EQ(result.vi, "");
-    EXPECT_FALSE(voyages.HasPendingRoute()) << "a panel must not save this route as its own";
+    EXPECT_FALSE(module.Pending().IsThere()) << "a panel must not save this route as its own";
     EXPECT_EQ(host.requests.size(), 2U);
 }
 
