@@ -5,55 +5,98 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/protocol/VoyCatalogModule.h"
+#include "seaplan/controllers/CatalogNames.h"
+#include "seaplan/controllers/VoyageChanges.h"
 
 namespace Tarvik::Seaplan {
 
 class VoyController;
 
+enum class SessionStep { Connection, User, Server };
+/// Numbers of Connect.
+inline constexpr CodeTable kConnectCodes{
+    Code{SessionStep::Connection, -1},  // not connected
+    Code{SessionStep::User, -2},        // nobody is logged in
+};
+/// Numbers of Load.
+inline constexpr CodeTable kLoadCodes{
+    Code{SessionStep::User, -1},    // no user, or not the one of Connect; nothing is sent
+    Code{SessionStep::Server, -2},  // the server gives no data
+};
+
 /// Categories, voyages as names, vessels and flags: runs the server's command and brings the store up to date
-/// when the server has said yes. Results: 0 or the negative number of the failed step.
+/// when the server has said yes. Results are 0 or the negative number that the table named at the operation
+/// gives; after a failure the store is as it was, but where a table says that it is done.
 class VoyCatalogController {
   public:
-    VoyCatalogController(VoyCatalogModule* module, VoyageStore* store) : module_(module), store_(store) {}
+    VoyCatalogController(VoyCatalogModule* module, VoyageStore* store)
+        : module_(module), store_(store), categories_(module, store), voyages_(module, store) {}
     static VoyCatalogController* Instance();
     /// Set once by the composition root: positions are refreshed through it after a change of vessel.
-    void SetVoyController(VoyController* controller) { voyController_ = controller; }
+    void SetVoyController(VoyController* controller);
 
+    /// `user` becomes the logged-in user's id: kConnectCodes.
     int Connect(std::string& user);
+    /// Fills an empty store with the data of the user that Connect gave; a user without data is a success:
+    /// kLoadCodes.
     int Load(const std::string& user);
+
+    // Names
+    /// UniqueName.
     void MakeUniqueName(const std::string& base, const std::map<std::string, int>& names,
                         std::string& out) const;
+    /// FillNameMaps.
     void GetNameMaps(std::map<std::string, int>& categoryNames,
                      std::map<std::string, int>& voyageNames) const;
+    /// Names of the categories in use, by id.
     void ListCategories(std::vector<std::string>& names) const;
+
+    // Categories
+    /// kAddCodes.
     int AddCategory(const std::string& name, std::string& ci);
-    int AddVoyage(const std::string& name, const std::string& ci, std::string& vi);
+    /// kChangeCategoryCodes.
     int RenameCategory(const std::string& ci, const std::string& name);
+    /// To the recycle bin: kChangeCategoryCodes.
     int DeleteCategory(const std::string& ci);
+    /// Out of the bin: kChangeCategoryCodes.
     int RecoverCategory(const std::string& ci);
+    /// Away for good: kChangeCategoryCodes.
     int DestroyCategory(const std::string& ci);
+
+    // Voyages
+    /// kAddCodes.
+    int AddVoyage(const std::string& name, const std::string& ci, std::string& vi);
+    /// kChangeVoyageCodes.
     int RenameVoyage(const std::string& vi, const std::string& name);
+    /// To the recycle bin: kVoyageStateCodes.
     int DeleteVoyage(const std::string& ci, const std::string& vi);
+    /// Out of the bin: kVoyageStateCodes.
     int RecoverVoyage(const std::string& ci, const std::string& vi);
+    /// Away for good: kVoyageStateCodes.
     int DestroyVoyage(const std::string& ci, const std::string& vi);
+    /// DeletionState of a voyage; one in no category counts as in the bin. 0; -1 empty id.
+    int GetVoyageState(const std::string& vi, int& state) const;
+
+    // Vessels and flags
+    /// VoyageChanges::SetVessel: kChangeVesselCodes.
     int ChangeVessel(const std::string& vi, const std::string& vsi, const std::string& vsn, int vsmsi);
+    /// kChangeVoyageCodes, as the three below.
     int OpenRoute(const std::string& vi);
     int CloseRoute(const std::string& vi);
     int OpenAis(const std::string& vi);
     int CloseAis(const std::string& vi);
-    int GetVoyageState(const std::string& vi, int& state) const;
+    /// Notes a correction at a time of the plan, "%Y-%m-%d %H:%M:%S": kAddAisTimeCodes.
     int AddAisModTime(const std::string& vi, const std::string& time);
+    /// Times of correction, asked for once: kGetAisTimesCodes.
     int GetAisModTimes(const std::string& vi, std::vector<std::string>& times);
 
   private:
-    int ChangeCategory(const std::string& ci, int type, int state);
-    int ChangeVoyage(const std::string& ci, const std::string& vi, int type, int state);
-    int ChangeFlag(const std::string& vi, bool route, bool on);
+    Outcome<SessionStep> TryConnect(std::string& user);
 
     VoyCatalogModule* module_;
     VoyageStore* store_;
-    VoyController* voyController_ = nullptr;
+    CategoryChanges categories_;
+    VoyageChanges voyages_;
     std::string user_;
 };
 
