@@ -2,8 +2,9 @@
 #include "seaplan/controllers/RouteExchange.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
+
+#include <tarvik/interface/ServerRequest.h>
 
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/RouteReply.h"
@@ -14,8 +15,7 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr std::uint16_t kRouteCommand = 1;
-constexpr std::uint16_t kNearestCommand = 2;
+using Interface::VoyCommand;
 
 bool IsPosition(const std::string& point) {
     Position ignored;
@@ -26,7 +26,7 @@ bool IsPosition(const std::string& point) {
 
 Outcome<RouteStep> AskRoute(const std::string& text, RouteStops& stops) {
     Util::Jsona reply;
-    if (SendText(text, kRouteCommand, reply) < 0) {
+    if (SendText(text, NumberOf(VoyCommand::SearchRoute), reply) < 0) {
         return RouteStep::Send;
     }
     RouteStops parsed;
@@ -44,7 +44,7 @@ Outcome<NearestStep> AskNearestRoute(const std::string& position, const std::str
         return NearestStep::Input;
     }
     Util::Jsona reply;
-    if (SendText(NearestRequestText(position, portId), kNearestCommand, reply) < 0) {
+    if (SendText(NearestRequestText(position, portId), NumberOf(VoyCommand::NearestRoute), reply) < 0) {
         return NearestStep::Send;
     }
     if (reply.size() < 1) {

@@ -5,19 +5,23 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+Outcome<SessionStep> FindUser(VoyCatalogModule& module, std::string& user) {
+    if (module.EnsureConnected() < 0) {
+        return SessionStep::Connection;
+    }
+    return module.GetUser(user) < 0 ? SessionStep::User : Outcome<SessionStep>();
+}
+
+}  // namespace
+
 void VoyCatalogController::SetVoyController(VoyController* controller) {
     voyages_.SetPositionRefresh([controller] { return controller->RefreshVesselPositions(); });
 }
 
-Outcome<SessionStep> VoyCatalogController::TryConnect(std::string& user) {
-    if (module_->EnsureConnected() < 0) {
-        return SessionStep::Connection;
-    }
-    return module_->GetUser(user) < 0 ? SessionStep::User : Outcome<SessionStep>();
-}
-
 int VoyCatalogController::Connect(std::string& user) {
-    const auto connected = TryConnect(user);
+    const auto connected = FindUser(*module_, user);
     if (!connected.Failed()) {
         user_ = user;
     }

@@ -91,8 +91,6 @@ class VoyCatalogController {
     int GetAisModTimes(const std::string& vi, std::vector<std::string>& times);
 
   private:
-    Outcome<SessionStep> TryConnect(std::string& user);
-
     VoyCatalogModule* module_;
     VoyageStore* store_;
     CategoryChanges categories_;
