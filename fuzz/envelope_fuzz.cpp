@@ -10,6 +10,8 @@
 #include <vector>
 
 #include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
 #include "seaplan/protocol/BookCommands.h"

@@ -18,7 +18,7 @@ VoyServerRequest HeadOf(const std::string& bytes) {
     return head;
 }
 
-VoyServerRequest* makeReply(const std::string& json) {
+VoyServerRequest* MakeReply(const std::string& json) {
     auto* reply =
         static_cast<VoyServerRequest*>(Core::AllocateBusBlock(sizeof(VoyServerRequest) + json.size() + 1));
     reply->length = static_cast<std::uint32_t>(json.size() + 1);
@@ -28,13 +28,8 @@ VoyServerRequest* makeReply(const std::string& json) {
     return reply;
 }
 
-template <class T>
-const T& as(void* input) {
-    return *static_cast<const T*>(input);
-}
-
-void* TextOf(const std::optional<std::string>& text) {
-    return text ? const_cast<std::string*>(&*text) : nullptr;
+const std::string* TextOf(const std::optional<std::string>& text) {
+    return text ? &*text : nullptr;
 }
 
 }  // namespace
@@ -55,45 +50,67 @@ std::string RecordedRequest::Text() const {
     return bytes.c_str() + sizeof(VoyServerRequest);
 }
 
-template <auto Method>
-void RecordingHost::bind(const char* name) {
-    auto delegate = std::make_unique<Core::TEvent>();
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->CreateTrvService(name, this, "", "", nullptr);
-    delegate->Set<Method>(this);
-    kernel->BindTrvService(name, delegate.get());
-    bindings_.emplace_back(name, std::move(delegate));
-}
-
 RecordingHost::RecordingHost() {
-    bind<&RecordingHost::OnExchange>(Bus::ServerExchange.name);
-    bind<&RecordingHost::OnConnected>(Bus::IsConnected.name);
-    bind<&RecordingHost::OnLogin>(Bus::Login.name);
-    bind<&RecordingHost::OnUser>(Bus::User.name);
-    bind<&RecordingHost::onZone>(Bus::CurrentTimeZone.name);
-    bind<&RecordingHost::onPositions>(Bus::VesselPositions.name);
-    bind<&RecordingHost::onVesselCard>(Bus::ShowVesselCard.name);
-    bind<&RecordingHost::onTrack>(Bus::VesselTrace.name);
-    bind<&RecordingHost::onHideTrack>(Bus::HideAisTrack.name);
-    bindChart();
+    OfferHost();
+    OfferSiblings();
+    OfferChart();
+    OfferChartDeletion();
 }
 
-void RecordingHost::bindChart() {
-    bind<&RecordingHost::onAddLayer>(Bus::MapAddLayer.name);
-    bind<&RecordingHost::onAddLine>(Bus::MapAddLine.name);
-    bind<&RecordingHost::onAddLabel>(Bus::MapAddPointLabel.name);
-    bind<&RecordingHost::onAddImage>(Bus::MapAddImage.name);
-    bind<&RecordingHost::onRegisterImage>(Bus::MapRegisterImage.name);
-    bind<&RecordingHost::onDeleteObjects>(Bus::MapDeleteObjects.name);
-    bind<&RecordingHost::onDeleteType>(Bus::MapDeleteObjectsByType.name);
-    bind<&RecordingHost::onSetExtent>(Bus::MapSetExtent.name);
+void RecordingHost::OfferHost() {
+    using Interface::Offer;
+    bindings_.Keep(Offer(Bus::ServerExchange, this, &RecordingHost::OnExchange));
+    bindings_.Keep(Offer(Bus::IsConnected, [this] {
+        connectedFlag_ = connected ? 1 : 0;
+        return &connectedFlag_;
+    }));
+    bindings_.Keep(Offer(Bus::Login, [this] { ++logins; }));
+    bindings_.Keep(Offer(Bus::User, [this] { return TextOf(user); }));
+    bindings_.Keep(Offer(Bus::CurrentTimeZone, [this] { return TextOf(zone); }));
 }
 
-RecordingHost::~RecordingHost() {
-    for (auto binding = bindings_.rbegin(); binding != bindings_.rend(); ++binding) {
-        Core::TrvKernel::Instance()->UnBindTrvService(binding->first.c_str(), binding->second.get());
-        Core::TrvKernel::Instance()->DeleteTrvService(binding->first.c_str(), this);
-    }
+void RecordingHost::OfferSiblings() {
+    using Interface::Offer;
+    bindings_.Keep(Offer(Bus::VesselPositions, [this](const std::vector<std::string>& vessels) {
+        positionQueries.push_back(vessels);
+        return positions ? &*positions : nullptr;
+    }));
+    bindings_.Keep(Offer(Bus::ShowVesselCard,
+                         [this](const Interface::VesselCard& card) { vesselCards.push_back(card); }));
+    bindings_.Keep(Offer(Bus::VesselTrace, [this](const Interface::VesselTraceRequest& query) {
+        trackQueries.push_back(query);
+        return TextOf(track);
+    }));
+    bindings_.Keep(
+        Offer(Bus::HideAisTrack, [this](const std::string& vessel) { hiddenTracks.push_back(vessel); }));
+}
+
+void RecordingHost::OfferChart() {
+    using Interface::Offer;
+    bindings_.Keep(Offer(Bus::MapAddLayer, [this](const Interface::TrvMapLayerParams& layer) {
+        chartCalls.push_back({Bus::MapAddLayer.name, layer.layer, "", {}, ""});
+    }));
+    bindings_.Keep(Offer(Bus::MapAddLine, this, &RecordingHost::OnAddLine));
+    bindings_.Keep(Offer(Bus::MapAddPointLabel, [this](const Interface::TrvMapPointParams& label) {
+        chartCalls.push_back(
+            {Bus::MapAddPointLabel.name, label.ref.id, label.ref.type, {label.label}, label.position});
+    }));
+    bindings_.Keep(Offer(Bus::MapAddImage, [this](const Interface::TrvMapImageParams& image) {
+        chartCalls.push_back(
+            {Bus::MapAddImage.name, image.ref.id, image.ref.type, {image.image}, image.position});
+    }));
+    bindings_.Keep(Offer(Bus::MapRegisterImage, [this](const Interface::TrvMapImageReg& image) {
+        chartCalls.push_back({Bus::MapRegisterImage.name, image.name, "", {}, ""});
+    }));
+    bindings_.Keep(Offer(Bus::MapSetExtent, this, &RecordingHost::OnSetExtent));
+}
+
+void RecordingHost::OfferChartDeletion() {
+    using Interface::Offer;
+    bindings_.Keep(Offer(Bus::MapDeleteObjects, this, &RecordingHost::OnDeleteObjects));
+    bindings_.Keep(Offer(Bus::MapDeleteObjectsByType, [this](const Interface::TrvMapObjectRef& ref) {
+        chartCalls.push_back({Bus::MapDeleteObjectsByType.name, "", ref.type, {}, ""});
+    }));
 }
 
 std::vector<std::string> RecordingHost::Texts() const {
@@ -124,10 +141,9 @@ std::vector<ChartCall> RecordingHost::ChartCallsOf(const std::string& service) c
     return calls;
 }
 
-void* RecordingHost::OnExchange(void* input) {
-    const auto& request = as<VoyServerRequest>(input);
+VoyServerRequest* RecordingHost::OnExchange(const VoyServerRequest& request) {
     requests.push_back(
-        {std::string(static_cast<const char*>(input), sizeof(VoyServerRequest) + request.length)});
+        {std::string(reinterpret_cast<const char*>(&request), sizeof(VoyServerRequest) + request.length)});
     auto& queue = replies_[request.command];
     std::optional<std::string> json;
     if (!queue.empty()) {
@@ -136,100 +152,26 @@ void* RecordingHost::OnExchange(void* input) {
     } else if (server) {
         json = server(request);
     }
-    return json ? makeReply(*json) : nullptr;
+    return json ? MakeReply(*json) : nullptr;
 }
 
-void* RecordingHost::OnConnected(void*) {
-    connectedFlag_ = connected ? 1 : 0;
-    return &connectedFlag_;
-}
-
-void* RecordingHost::OnLogin(void*) {
-    ++logins;
-    return nullptr;
-}
-
-void* RecordingHost::OnUser(void*) {
-    return TextOf(user);
-}
-
-void* RecordingHost::onZone(void*) {
-    return TextOf(zone);
-}
-
-void* RecordingHost::onPositions(void* input) {
-    positionQueries.push_back(as<std::vector<std::string>>(input));
-    return positions ? &*positions : nullptr;
-}
-
-void* RecordingHost::onVesselCard(void* input) {
-    vesselCards.push_back(as<Interface::VesselCard>(input));
-    return nullptr;
-}
-
-void* RecordingHost::onTrack(void* input) {
-    trackQueries.push_back(as<Interface::VesselTraceRequest>(input));
-    return TextOf(track);
-}
-
-void* RecordingHost::onHideTrack(void* input) {
-    hiddenTracks.push_back(as<std::string>(input));
-    return nullptr;
-}
-
-void* RecordingHost::onAddLayer(void* input) {
-    chartCalls.push_back({Bus::MapAddLayer.name, as<Interface::TrvMapLayerParams>(input).layer, "", {}, ""});
-    return nullptr;
-}
-
-void* RecordingHost::onAddLine(void* input) {
-    const auto& line = as<Interface::TrvMapLineParams>(input);
+void RecordingHost::OnAddLine(const Interface::TrvMapLineParams& line) {
     chartCalls.push_back({Bus::MapAddLine.name, line.ref.id, line.ref.type, line.points, ""});
-    return nullptr;
 }
 
-void* RecordingHost::onAddLabel(void* input) {
-    const auto& label = as<Interface::TrvMapPointParams>(input);
-    chartCalls.push_back(
-        {Bus::MapAddPointLabel.name, label.ref.id, label.ref.type, {label.label}, label.position});
-    return nullptr;
-}
-
-void* RecordingHost::onAddImage(void* input) {
-    const auto& image = as<Interface::TrvMapImageParams>(input);
-    chartCalls.push_back(
-        {Bus::MapAddImage.name, image.ref.id, image.ref.type, {image.image}, image.position});
-    return nullptr;
-}
-
-void* RecordingHost::onRegisterImage(void* input) {
-    chartCalls.push_back({Bus::MapRegisterImage.name, as<Interface::TrvMapImageReg>(input).name, "", {}, ""});
-    return nullptr;
-}
-
-void* RecordingHost::onDeleteObjects(void* input) {
-    const auto& list = as<Interface::TrvMapObjectList>(input);
+void RecordingHost::OnDeleteObjects(const Interface::TrvMapObjectList& list) {
     ChartCall call{Bus::MapDeleteObjects.name, "", "", {}, ""};
     for (std::int32_t i = 0; i < list.count; ++i) {
         call.type = list.objects[i].type;
         call.points.push_back(list.objects[i].id);
     }
     chartCalls.push_back(call);
-    return nullptr;
 }
 
-void* RecordingHost::onDeleteType(void* input) {
-    chartCalls.push_back(
-        {Bus::MapDeleteObjectsByType.name, "", as<Interface::TrvMapObjectRef>(input).type, {}, ""});
-    return nullptr;
-}
-
-void* RecordingHost::onSetExtent(void* input) {
-    const auto& extent = as<Interface::TrvMapExtent>(input);
+void RecordingHost::OnSetExtent(const Interface::TrvMapExtent& extent) {
     const std::vector<std::string> limits{std::to_string(extent.first), std::to_string(extent.second),
                                           std::to_string(extent.third), std::to_string(extent.fourth)};
     chartCalls.push_back({Bus::MapSetExtent.name, "", "", limits, ""});
-    return nullptr;
 }
 
 }  // namespace Tarvik::TestSupport

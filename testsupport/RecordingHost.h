@@ -5,13 +5,11 @@
 #include <deque>
 #include <functional>
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include <tarvik/core/TEvent.h>
+#include <tarvik/bus/Binding.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/BusContract.h>
 
@@ -42,7 +40,6 @@ struct ChartCall {
 class RecordingHost : public Core::TObject {
   public:
     RecordingHost();
-    ~RecordingHost() override;
     RecordingHost(const RecordingHost&) = delete;
     RecordingHost& operator=(const RecordingHost&) = delete;
 
@@ -75,30 +72,18 @@ class RecordingHost : public Core::TObject {
     int logins = 0;
 
   private:
-    template <auto Method>
-    void bind(const char* name);
-    void bindChart();
-    void* OnExchange(void* input);
-    void* OnConnected(void* input);
-    void* OnLogin(void* input);
-    void* OnUser(void* input);
-    void* onZone(void* input);
-    void* onPositions(void* input);
-    void* onVesselCard(void* input);
-    void* onTrack(void* input);
-    void* onHideTrack(void* input);
-    void* onAddLayer(void* input);
-    void* onAddLine(void* input);
-    void* onAddLabel(void* input);
-    void* onAddImage(void* input);
-    void* onRegisterImage(void* input);
-    void* onDeleteObjects(void* input);
-    void* onDeleteType(void* input);
-    void* onSetExtent(void* input);
+    void OfferHost();
+    void OfferSiblings();
+    void OfferChart();
+    void OfferChartDeletion();
+    Interface::VoyServerRequest* OnExchange(const Interface::VoyServerRequest& request);
+    void OnAddLine(const Interface::TrvMapLineParams& line);
+    void OnDeleteObjects(const Interface::TrvMapObjectList& list);
+    void OnSetExtent(const Interface::TrvMapExtent& extent);
 
     std::map<std::uint16_t, std::deque<std::optional<std::string>>> replies_;
-    std::vector<std::pair<std::string, std::unique_ptr<Core::TEvent>>> bindings_;
     unsigned char connectedFlag_ = 1;
+    Interface::BindingList bindings_;
 };
 
 }  // namespace Tarvik::TestSupport

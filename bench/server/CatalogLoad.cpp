@@ -16,6 +16,7 @@
 #include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
 #include "bench/server/OfficeServer.h"

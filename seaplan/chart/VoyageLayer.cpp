@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/ChartContract.h>
 #include <tarvik/util/FileUtl.h>
 
 #include "seaplan/calculation/Pointset.h"

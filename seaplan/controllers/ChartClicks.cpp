@@ -3,7 +3,8 @@
 
 #include <tuple>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/SiblingContract.h>
 
 #include "seaplan/calculation/RouteRequest.h"
 #include "seaplan/calculation/VesselCards.h"
@@ -15,16 +16,22 @@ namespace {
 
 namespace Bus = Interface::Bus;
 
-/// Answers of click handlers are texts of small numbers; null is success. The bus hands them on untyped and
-/// nobody writes to them.
-void* AnswerOf(int result) {
+/// Answers of click handlers are texts of small numbers; null is success.
+const char* AnswerOf(int result) {
     static const char* const texts[] = {"0", "-1", "-2", "-3", "-4", "-5"};
-    return result == 0 ? nullptr : const_cast<char*>(texts[-result]);
+    return result == 0 ? nullptr : texts[-result];
 }
 
 /// The id that a click brings, empty for none.
-std::string IdOf(const void* id) {
-    return id == nullptr ? "" : *static_cast<const std::string*>(id);
+std::string IdOf(const std::string* id) {
+    return id == nullptr ? "" : *id;
+}
+
+/// The click channels are made as events and taken down as services; the bus keeps both in one table of
+/// names.
+Interface::Binding BindClick(const Interface::ClickEvent& click, ChartClicks* clicks,
+                             const char* (ChartClicks::*handler)(const std::string*)) {
+    return Interface::Announce(click, clicks, handler, Interface::BindingKind::ClickChannel);
 }
 
 /// Alternatives of a route point on the route. A point that lies on the way to several stops has those of the
@@ -45,43 +52,23 @@ std::vector<std::string> AlternativesOf(const RouteStops& stops, const std::stri
 
 ChartClicks::ChartClicks(VoyageStore* store, VoyageLayer& layer, RouteFinder& routes,
                          ProgressDrawing& drawing)
-    : store_(store), layer_(layer), routes_(routes), drawing_(drawing) {
-    routePointClick_.Set<&ChartClicks::OnRoutePoint>(this);
-    alternativeClick_.Set<&ChartClicks::OnAlternative>(this);
-    shipClick_.Set<&ChartClicks::OnShip>(this);
-    Bind(Bus::ClickVoyageType.name, routePointClick_);
-    Bind(Bus::ClickRoutePointType.name, alternativeClick_);
-    Bind(Bus::ClickAisShipType.name, shipClick_);
-}
+    : store_(store),
+      layer_(layer),
+      routes_(routes),
+      drawing_(drawing),
+      routePointClick_(BindClick(Bus::ClickVoyageType, this, &ChartClicks::OnRoutePoint)),
+      alternativeClick_(BindClick(Bus::ClickRoutePointType, this, &ChartClicks::OnAlternative)),
+      shipClick_(BindClick(Bus::ClickAisShipType, this, &ChartClicks::OnShip)) {}
 
-ChartClicks::~ChartClicks() {
-    Unbind(Bus::ClickAisShipType.name, shipClick_);
-    Unbind(Bus::ClickRoutePointType.name, alternativeClick_);
-    Unbind(Bus::ClickVoyageType.name, routePointClick_);
-}
-
-void ChartClicks::Bind(const char* name, Core::TEvent& delegate) {
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->CreateTrvEvent(name, this, "", "", nullptr);
-    kernel->BindTrvEvent(name, &delegate);
-}
-
-// The click channels are made as events and taken down as services; the bus keeps both in one table of names.
-void ChartClicks::Unbind(const char* name, Core::TEvent& delegate) {
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->UnBindTrvService(name, &delegate);
-    kernel->DeleteTrvService(name, this);
-}
-
-void* ChartClicks::OnRoutePoint(void* id) {
+const char* ChartClicks::OnRoutePoint(const std::string* id) {
     return AnswerOf(kRoutePointClickCodes.Of(ShowAlternatives(IdOf(id))));
 }
 
-void* ChartClicks::OnAlternative(void* id) {
+const char* ChartClicks::OnAlternative(const std::string* id) {
     return AnswerOf(kAlternativeClickCodes.Of(id == nullptr ? ClickStep::Id : ChooseAlternative(IdOf(id))));
 }
 
-void* ChartClicks::OnShip(void* vi) {
+const char* ChartClicks::OnShip(const std::string* vi) {
     return AnswerOf(kShipClickCodes.Of(ShowVesselCard(IdOf(vi))));
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include <tarvik/core/TEvent.h>
+#include <tarvik/bus/Binding.h>
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/chart/VoyageLayer.h"
@@ -46,7 +46,6 @@ class ChartClicks : public Core::TObject {
     using CursorSource = std::function<std::pair<int, int>()>;
 
     ChartClicks(VoyageStore* store, VoyageLayer& layer, RouteFinder& routes, ProgressDrawing& drawing);
-    ~ChartClicks() override;
     ChartClicks(const ChartClicks&) = delete;
     ChartClicks& operator=(const ChartClicks&) = delete;
 
@@ -56,11 +55,9 @@ class ChartClicks : public Core::TObject {
     std::function<void()> routeChosen;
 
   private:
-    void Bind(const char* name, Core::TEvent& delegate);
-    void Unbind(const char* name, Core::TEvent& delegate);
-    void* OnRoutePoint(void* id);
-    void* OnAlternative(void* id);
-    void* OnShip(void* vi);
+    const char* OnRoutePoint(const std::string* id);
+    const char* OnAlternative(const std::string* id);
+    const char* OnShip(const std::string* vi);
     Outcome<ClickStep> ShowAlternatives(const std::string& id);
     Outcome<ClickStep> ChooseAlternative(const std::string& id);
     Outcome<ClickStep> ShowVesselCard(const std::string& vi);
@@ -70,9 +67,9 @@ class ChartClicks : public Core::TObject {
     RouteFinder& routes_;
     ProgressDrawing& drawing_;
     std::string clickedRoutePoint_;
-    Core::TEvent routePointClick_;
-    Core::TEvent alternativeClick_;
-    Core::TEvent shipClick_;
+    Interface::Binding routePointClick_;
+    Interface::Binding alternativeClick_;
+    Interface::Binding shipClick_;
 };
 
 }  // namespace Tarvik::Seaplan

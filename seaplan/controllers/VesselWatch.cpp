@@ -7,7 +7,9 @@
 #include <map>
 #include <utility>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/SiblingContract.h>
+#include <tarvik/interface/SiblingRecords.h>
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 

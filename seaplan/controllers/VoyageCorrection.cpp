@@ -6,7 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/calculation/PositionBook.h"
@@ -27,7 +28,7 @@ using Positions = std::vector<std::string>;
 
 /// Time of the last position in the plan's reading: the user's zone, whole seconds. Nothing without a zone.
 std::optional<Util::_datetime_t> FixTimeOf(const VoyInfo& voyage) {
-    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone, nullptr);
+    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone);
     if (zone == nullptr) {
         return std::nullopt;
     }

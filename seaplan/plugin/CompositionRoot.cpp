@@ -18,8 +18,9 @@ CompositionRoot& CompositionRoot::Instance() {
 }
 
 void CompositionRoot::OfferServices() {
-    if (!offered_) {
-        offered_ = bus_.Offer<&PlanService::OnPlan>(kPlanVoyage.name, &planService_);
+    if (!planVoyage_.IsBound()) {
+        planVoyage_ = Interface::Offer(
+            kPlanVoyage, [this](const PlanRequest& request) { return &planService_.Plan(request); });
     }
 }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <tarvik/bus/Binding.h>
+
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
-#include "seaplan/plugin/BusClient.h"
 #include "seaplan/plugin/PlanService.h"
 
 namespace Tarvik::Seaplan {
@@ -28,8 +29,7 @@ class CompositionRoot {
     VoyPortCallModule portCallModule_;
     VoyController voyages_;
     PlanService planService_;
-    BusClient bus_;
-    bool offered_ = false;
+    Interface::Binding planVoyage_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -70,13 +70,6 @@ PointTexts PositionsOf(const BookPoints& book) {
 
 }  // namespace
 
-void* PlanService::OnPlan(void* request) {
-    if (request == nullptr) {
-        return nullptr;
-    }
-    return const_cast<PlanResult*>(&Plan(*static_cast<const PlanRequest*>(request)));
-}
-
 const PlanResult& PlanService::Plan(const PlanRequest& request) {
     const bool loadedBefore = !store_->categories.empty();
     // A panel that saves later must neither take this route for its own nor miss the one it has calculated.

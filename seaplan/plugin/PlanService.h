@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusName.h>
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/chart/LineSplit.h"
@@ -74,8 +74,6 @@ class PlanService {
         : catalog_(catalog), voyages_(voyages), store_(store) {}
 
     const PlanResult& Plan(const PlanRequest& request);
-    /// Handler of kPlanVoyage; null for a null request.
-    void* OnPlan(void* request);
 
   private:
     int Run(const PlanRequest& request);

@@ -5,8 +5,11 @@
 #include <cstring>
 #include <memory>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/ServerContract.h>
 #include <tarvik/core/BusBlock.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ServerRequest.h>
 
 #include "seaplan/data/TimeText.h"
 
@@ -54,19 +57,17 @@ int SendRequest(const Util::CAutoBuffer& text, std::uint16_t command, Util::Json
 }
 
 int EnsureConnected() {
-    void* nothing = nullptr;
-    const unsigned char* connected = Interface::Call(Bus::IsConnected, nothing);
+    const unsigned char* connected = Interface::Call(Bus::IsConnected);
     if (connected != nullptr && *connected != 0) {
         return 0;
     }
-    Interface::Call(Bus::Login, nothing);
+    Interface::Call(Bus::Login);
     return -1;
 }
 
 int GetUser(std::string& user) {
     user.clear();
-    void* nothing = nullptr;
-    const std::string* answer = Interface::Call(Bus::User, nothing);
+    const std::string* answer = Interface::Call(Bus::User);
     if (answer == nullptr) {
         return -1;
     }
@@ -97,8 +98,7 @@ int FromServerTime(const std::string& server, std::string& out) {
         return -1;
     }
     const auto utc = Util::_datetime_t::from_gmt_timer(time->to_gmt_timer());
-    void* nothing = nullptr;
-    const std::string* zone = Interface::Call(Bus::CurrentTimeZone, nothing);
+    const std::string* zone = Interface::Call(Bus::CurrentTimeZone);
     if (zone == nullptr) {
         return -2;
     }

@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <cstring>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/ServerContract.h>
+#include <tarvik/interface/ServerRequest.h>
 #include <tarvik/util/Jsona.h>
 
 namespace Tarvik::Seaplan {

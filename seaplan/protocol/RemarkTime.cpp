@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/protocol/RemarkTime.h"
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/util/DateTimeUtl.h>
 
 namespace Tarvik::Seaplan {
 
 std::string UtcTextToLocal(std::int64_t gmtTimer, const std::string& format) {
-    void* nothing = nullptr;
-    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone, nothing);
+    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone);
     if (zone == nullptr) {
         return {};
     }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
 namespace Tarvik::Interface {
@@ -69,8 +71,8 @@ class Echo : public Core::TObject {
 
 TEST(BusContractTest, AnswerOfAServiceThatNobodyOffersIsNull) {
     Core::TrvKernel::Instance()->Reset();
-    EXPECT_EQ(Call(Bus::IsConnected, nullptr), nullptr);
-    EXPECT_TRUE(Raise(Bus::Logout, nullptr).empty());
+    EXPECT_EQ(Call(Bus::IsConnected), nullptr);
+    EXPECT_EQ(Raise(Bus::Logout), 0U);
 }
 
 TEST(BusContractTest, AnswersOfAllSubscribersComeBack) {
@@ -85,7 +87,7 @@ TEST(BusContractTest, AnswersOfAllSubscribersComeBack) {
     kernel->BindTrvEvent("TRV_MAP_LCLICK_RPOINT", &second);
     const std::string id = "7";
     EXPECT_EQ(Raise(Bus::ClickRPoint, &id).size(), 2U);
-    EXPECT_EQ(Raise(Bus::ClickRPoint, &id)[1], &id);
+    EXPECT_EQ(static_cast<const void*>(Raise(Bus::ClickRPoint, &id)[1]), &id);
     kernel->Reset();
 }
 

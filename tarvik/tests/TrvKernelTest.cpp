@@ -332,8 +332,8 @@ TEST_F(TrvKernelTest, TypedCallAndRaiseCarryTheirPayloads) {
     first.answer = const_cast<std::string*>(&user);
     CreateService("TRV_S_USER");
     kernel->BindTrvService("TRV_S_USER", &first.delegate);
-    EXPECT_EQ(Interface::Call(Interface::Bus::User, nullptr), &user);
-    EXPECT_EQ(Interface::Call(Interface::Bus::CurrentTimeZone, nullptr), nullptr);
+    EXPECT_EQ(Interface::Call(Interface::Bus::User), &user);
+    EXPECT_EQ(Interface::Call(Interface::Bus::CurrentTimeZone), nullptr);
 
     Interface::PanelShow show{3, 0};
     kernel->BindTrvEvent("TRV_MAP_WND_SHOW", &second.delegate);

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include <tarvik/bus/BusCall.h>
+
 #include "host/client/plan/PlanFormats.h"
 
 namespace Tarvik::Client {

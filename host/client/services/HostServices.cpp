@@ -6,9 +6,10 @@
 
 #include <nlohmann/json.hpp>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/ServerContract.h>
 #include <tarvik/core/BusBlock.h>
-#include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 #include <tarvik/util/Clock.h>
 
 namespace Tarvik::Client {
@@ -56,35 +57,16 @@ HostServices::HostServices(ServerLink& link, std::string localUser, std::string 
       complain_(std::move(complain)),
       wasConnected_(link.IsConnected()) {
     Util::Clock::SetLocalZone(timeZone_);
-    connectedEvent_.Set<&HostServices::OnConnected>(this);
-    loginEvent_.Set<&HostServices::OnLogin>(this);
-    userEvent_.Set<&HostServices::OnUser>(this);
-    zoneEvent_.Set<&HostServices::OnTimeZone>(this);
-    exchangeEvent_.Set<&HostServices::OnExchange>(this);
-    Offer(Bus::IsConnected.name, connectedEvent_);
-    Offer(Bus::Login.name, loginEvent_);
-    Offer(Bus::User.name, userEvent_);
-    Offer(Bus::CurrentTimeZone.name, zoneEvent_);
-    Offer(Bus::ServerExchange.name, exchangeEvent_);
+    OfferAll();
 }
 
-void HostServices::Offer(const char* name, Core::TEvent& event) {
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->CreateTrvService(name, this, "", "", nullptr);
-    kernel->BindTrvService(name, &event);
-}
-
-HostServices::~HostServices() {
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    const std::pair<const char*, Core::TEvent*> offered[] = {{Bus::ServerExchange.name, &exchangeEvent_},
-                                                             {Bus::CurrentTimeZone.name, &zoneEvent_},
-                                                             {Bus::User.name, &userEvent_},
-                                                             {Bus::Login.name, &loginEvent_},
-                                                             {Bus::IsConnected.name, &connectedEvent_}};
-    for (const auto& [name, event] : offered) {
-        kernel->UnBindTrvService(name, event);
-        kernel->DeleteTrvService(name, this);
-    }
+void HostServices::OfferAll() {
+    using Interface::Offer;
+    bindings_.Keep(Offer(Bus::IsConnected, this, &HostServices::OnConnected));
+    bindings_.Keep(Offer(Bus::Login, this, &HostServices::OnLogin));
+    bindings_.Keep(Offer(Bus::User, this, &HostServices::OnUser));
+    bindings_.Keep(Offer(Bus::CurrentTimeZone, this, &HostServices::OnTimeZone));
+    bindings_.Keep(Offer(Bus::ServerExchange, this, &HostServices::OnExchange));
 }
 
 void HostServices::SetTimeZone(const std::string& zone) {
@@ -94,14 +76,14 @@ void HostServices::SetTimeZone(const std::string& zone) {
 }
 
 void HostServices::LogOut() {
-    Interface::Raise<void>(Bus::Logout, nullptr);
+    Interface::Raise(Bus::Logout);
     link_->LogOut();
     lastFailure_.clear();
     NoteConnection();
 }
 
 void HostServices::SetLink(ServerLink& link) {
-    Interface::Raise<void>(Bus::Logout, nullptr);
+    Interface::Raise(Bus::Logout);
     link_ = &link;
     lastFailure_.clear();
     NoteConnection();
@@ -121,36 +103,30 @@ void HostServices::NoteConnection() {
     }
 }
 
-void* HostServices::OnConnected(void* /*input*/) {
+const unsigned char* HostServices::OnConnected() {
     connected_ = link_->IsConnected() ? 1 : 0;
     return &connected_;
 }
 
-void* HostServices::OnLogin(void* /*input*/) {
+void HostServices::OnLogin() {
     std::string error;
     NoteFailure(link_->Connect(error) ? std::string() : error);
     NoteConnection();
-    return nullptr;
 }
 
-void* HostServices::OnUser(void* /*input*/) {
+const std::string* HostServices::OnUser() {
     user_ = User();
     return user_.empty() ? nullptr : &user_;
 }
 
-void* HostServices::OnTimeZone(void* /*input*/) {
-    return &timeZone_;
-}
-
-void* HostServices::OnExchange(void* input) {
-    const auto* request = static_cast<const VoyServerRequest*>(input);
-    if (!request || request->length > Interface::kMaxPayloadBytes) {
+VoyServerRequest* HostServices::OnExchange(const VoyServerRequest& request) {
+    if (request.length > Interface::kMaxPayloadBytes) {
         return nullptr;
     }
-    const std::string text = link_->Exchange(User(), *request);
+    const std::string text = link_->Exchange(User(), request);
     NoteFailure(text.empty() ? link_->Failure() : RefusalOf(text));
     NoteConnection();
-    return text.empty() ? nullptr : MakeReply(*request, text);
+    return text.empty() ? nullptr : MakeReply(request, text);
 }
 
 }  // namespace Tarvik::Client

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include <tarvik/core/TEvent.h>
+#include <tarvik/bus/Binding.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/ServerRequest.h>
 
@@ -20,7 +20,6 @@ class HostServices : public Core::TObject {
     /// logins, refusals and missing replies are told to `complain`, one line each.
     HostServices(ServerLink& link, std::string localUser, std::string timeZone,
                  std::function<void(const std::string&)> complain);
-    ~HostServices() override;
     HostServices(const HostServices&) = delete;
     HostServices& operator=(const HostServices&) = delete;
 
@@ -40,14 +39,14 @@ class HostServices : public Core::TObject {
     void OnConnectionChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
   private:
-    void Offer(const char* name, Core::TEvent& event);
+    void OfferAll();
     void NoteFailure(const std::string& failure);
     void NoteConnection();
-    void* OnConnected(void* input);
-    void* OnLogin(void* input);
-    void* OnUser(void* input);
-    void* OnTimeZone(void* input);
-    void* OnExchange(void* input);
+    const unsigned char* OnConnected();
+    void OnLogin();
+    const std::string* OnUser();
+    const std::string* OnTimeZone() { return &timeZone_; }
+    Interface::VoyServerRequest* OnExchange(const Interface::VoyServerRequest& request);
 
     ServerLink* link_;
     std::string localUser_;
@@ -58,11 +57,7 @@ class HostServices : public Core::TObject {
     std::string user_;  ///< what the last asker of the user was given
     unsigned char connected_ = 0;
     bool wasConnected_;
-    Core::TEvent connectedEvent_;
-    Core::TEvent loginEvent_;
-    Core::TEvent userEvent_;
-    Core::TEvent zoneEvent_;
-    Core::TEvent exchangeEvent_;
+    Interface::BindingList bindings_;
 };
 
 }  // namespace Tarvik::Client

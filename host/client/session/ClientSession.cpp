@@ -4,8 +4,9 @@
 #include <cstdlib>
 #include <utility>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/Log.h>
 
@@ -155,7 +156,7 @@ bool ClientSession::Prefer(const Preferences& preferences, std::string& error) {
     preferences_ = preferences;
     if (before.language != preferences_.language) {
         texts_.Load(folders_.Share() + "/lang", preferences_.language);
-        Interface::Raise<void>(Interface::Bus::SwitchLanguage, nullptr);
+        Interface::Raise(Interface::Bus::SwitchLanguage);
     }
     if (before.timeZone != preferences_.timeZone) {
         services_->SetTimeZone(preferences_.timeZone);

@@ -11,9 +11,9 @@
 #include <QToolButton>
 #include <algorithm>
 
-#include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
-#include <tarvik/interface/ChartWindow.h>
+#include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/VoyageContract.h>
 #include <tarvik/interface/HelpRequest.h>
 #include <tarvik/skin/Icons.h>
 
@@ -42,14 +42,13 @@ MainWindow::MainWindow(ClientSession& session) : session_(session) {
         return AskLogin(server, user, failure);
     });
     session_.Services().OnConnectionChange([this] { ShowConnection(); });
-    cursorEvent_.Set<&MainWindow::OnCursor>(this);
-    Core::TrvKernel::Instance()->BindTrvEvent(Seamap::Bus::Cursor.name, &cursorEvent_);
+    cursorMoves_ = Interface::Subscribe(Interface::Bus::ChartCursor, this, &MainWindow::OnCursor);
 }
 
 MainWindow::~MainWindow() {
     session_.SetAsker({});
     session_.Services().OnConnectionChange({});
-    Core::TrvKernel::Instance()->UnBindTrvEvent(Seamap::Bus::Cursor.name, &cursorEvent_);
+    cursorMoves_.Withdraw();
 }
 
 QString MainWindow::Word(const char* key) const {
@@ -176,14 +175,14 @@ void MainWindow::ApplyTheme() {
 void MainWindow::AttachPlugins() {
     for (const Tool& tool : tools_) {
         if (tool.panel == kDistancePanel) {
-            tool.action->setVisible(Core::TrvKernel::Instance()->IsBound(Interface::Bus::AddPortName.name));
+            tool.action->setVisible(Interface::IsOffered(Interface::Bus::AddPortName));
         }
     }
     AttachChart();
 }
 
 void MainWindow::AttachChart() {
-    QWidget* chart = Interface::Call<void, QWidget>(Seamap::Bus::Widget, nullptr);
+    QWidget* chart = Interface::Call(Interface::Bus::ChartWindow);
     if (!chart) {
         auto* gap = new QLabel(Word("NO_CHART"), this);
         gap->setObjectName("noChart");
@@ -202,8 +201,8 @@ void MainWindow::TogglePanel(int panel) {
 }
 
 bool MainWindow::ChartCommand(const std::string& command) {
-    return Core::TrvKernel::Instance()->IsBound(Seamap::Bus::Command.name) &&
-           Interface::Call(Seamap::Bus::Command, &command) != nullptr;
+    return Interface::IsOffered(Interface::Bus::ChartCommand) &&
+           Interface::Call(Interface::Bus::ChartCommand, &command) != nullptr;
 }
 
 void MainWindow::Prefer(const Preferences& preferences) {
@@ -278,14 +277,9 @@ void MainWindow::ShowHelp(const QString& topic, int width) {
     box->show();
 }
 
-void* MainWindow::OnCursor(void* input) {
-    const auto* position = static_cast<const double*>(input);
-    if (!position) {
-        return nullptr;
-    }
+void MainWindow::OnCursor(const Interface::ChartPlace& place) {
     cursorKnown_ = true;
-    cursor_->setText(QString::fromStdString(PositionText(position[0], position[1])));
-    return nullptr;
+    cursor_->setText(QString::fromStdString(PositionText(place.longitude, place.latitude)));
 }
 
 }  // namespace Tarvik::Client

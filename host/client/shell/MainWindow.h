@@ -7,7 +7,8 @@
 #include <string>
 #include <vector>
 
-#include <tarvik/core/TEvent.h>
+#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/TObject.h>
 
 #include "host/client/session/ClientSession.h"
@@ -69,11 +70,11 @@ class MainWindow : public QMainWindow {
     void OpenPreferences();
     void Prefer(const Preferences& preferences);
     QString Word(const char* key) const;
-    void* OnCursor(void* input);
+    void OnCursor(const Interface::ChartPlace& place);
 
     ClientSession& session_;
     Core::TObject busOwner_;
-    Core::TEvent cursorEvent_;
+    Interface::Binding cursorMoves_;
     std::vector<Tool> tools_;
     QLabel* user_ = nullptr;
     QLabel* connection_ = nullptr;

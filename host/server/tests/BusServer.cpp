@@ -6,6 +6,8 @@
 #include <stdexcept>
 
 #include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
 namespace Tarvik::Server {

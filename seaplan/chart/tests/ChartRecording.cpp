@@ -3,6 +3,7 @@
 
 #include <sstream>
 
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
 namespace Tarvik::Seaplan::Testing {

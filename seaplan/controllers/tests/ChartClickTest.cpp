@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/core/TrvKernel.h>
+
 #include "seaplan/controllers/tests/RouteFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -3,8 +3,9 @@
 
 #include <utility>
 
+#include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/BusBlock.h>
-#include <tarvik/interface/BusContract.h>
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/StringUtl.h>
 
@@ -62,20 +63,16 @@ const VoyCalGroup* FindGroup(const std::vector<VoyCalPort>& ports, const std::st
 
 CVoyCal::CVoyCal(const std::string& database, std::string reply)
     : points_(ReadPoints(database)), reply_(std::move(reply)) {
-    BindAll();
+    bindings_.Keep(Interface::Offer(Bus::CalculateVoyage, this, &CVoyCal::OnCalculate));
+    bindings_.Keep(Interface::Announce(Bus::ClickRPoint, this, &CVoyCal::OnPointClicked));
+    bindings_.Keep(Interface::Announce(Bus::ClickRRPoint, this, &CVoyCal::OnAlternativeClicked));
     Interface::TrvMapLayerParams layer;
     layer.layer = kVoyCalLayer;
     Interface::Call(Bus::MapAddLayer, &std::as_const(layer));
 }
 
 CVoyCal::~CVoyCal() {
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->UnBindTrvEvent(Bus::ClickRRPoint.name, &alternativeClick_);
-    kernel->DeleteTrvEvent(Bus::ClickRRPoint.name, this);
-    kernel->UnBindTrvEvent(Bus::ClickRPoint.name, &pointClick_);
-    kernel->DeleteTrvEvent(Bus::ClickRPoint.name, this);
-    kernel->UnBindTrvService(Bus::CalculateVoyage.name, &calculateService_);
-    kernel->DeleteTrvService(Bus::CalculateVoyage.name, this);
+    bindings_.Withdraw();
     const std::string layer = kVoyCalLayer;
     Interface::Call(Bus::MapRemoveLayer, &layer);
 }
@@ -85,23 +82,10 @@ CVoyCal* CVoyCal::Instance() {
     return calculator;
 }
 
-void CVoyCal::BindAll() {
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->CreateTrvService(Bus::CalculateVoyage.name, this, "", "", nullptr);
-    calculateService_.Set<&CVoyCal::OnCalculate>(this);
-    kernel->BindTrvService(Bus::CalculateVoyage.name, &calculateService_);
-    kernel->CreateTrvEvent(Bus::ClickRPoint.name, this, "", "", nullptr);
-    pointClick_.Set<&CVoyCal::OnPointClicked>(this);
-    kernel->BindTrvEvent(Bus::ClickRPoint.name, &pointClick_);
-    kernel->CreateTrvEvent(Bus::ClickRRPoint.name, this, "", "", nullptr);
-    alternativeClick_.Set<&CVoyCal::OnAlternativeClicked>(this);
-    kernel->BindTrvEvent(Bus::ClickRRPoint.name, &alternativeClick_);
-}
-
-void* CVoyCal::OnCalculate(void* text) {
+const VoyCalResult* CVoyCal::OnCalculate(const std::string* text) {
     std::vector<std::string> ids;
     if (text != nullptr) {
-        Util::StringUtl::split(*static_cast<const std::string*>(text), ",", ids);
+        Util::StringUtl::split(*text, ",", ids);
     }
     Calculate(std::move(ids));
     return &result_;
@@ -168,7 +152,7 @@ void CVoyCal::LabelPoints() {
 
 /// The view changes only when something would lie outside it.
 void CVoyCal::SendExtent() {
-    Interface::TrvMapExtent* current = Interface::Call(Bus::MapGetExtent, nullptr);
+    Interface::TrvMapExtent* current = Interface::Call(Bus::MapGetExtent);
     if (current == nullptr) {
         return;
     }
@@ -179,15 +163,11 @@ void CVoyCal::SendExtent() {
     }
 }
 
-void* CVoyCal::OnPointClicked(void* id) {
-    if (id == nullptr) {
-        return nullptr;
-    }
-    const std::string& clicked = *static_cast<const std::string*>(id);
+const char* CVoyCal::OnPointClicked(const std::string& id) {
     if (!selected_.empty()) {
         ClearType(kVoyCalAlternativeType);
     }
-    selected_ = clicked != selected_ && ShowAlternatives(clicked) ? clicked : "";
+    selected_ = id != selected_ && ShowAlternatives(id) ? id : "";
     return nullptr;
 }
 
@@ -206,14 +186,11 @@ bool CVoyCal::ShowAlternatives(const std::string& id) {
     return true;
 }
 
-void* CVoyCal::OnAlternativeClicked(void* id) {
-    if (id == nullptr) {
-        return nullptr;
-    }
+const char* CVoyCal::OnAlternativeClicked(const std::string& id) {
     ClearType(kVoyCalAlternativeType);
     ClearType(kVoyCalPointType);
     ClearType(kVoyCalLineType);
-    ApplyChange(*static_cast<const std::string*>(id));
+    ApplyChange(id);
     selected_.clear();
     return nullptr;
 }

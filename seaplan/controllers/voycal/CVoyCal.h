@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <tarvik/core/TEvent.h>
+#include <tarvik/bus/Binding.h>
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/controllers/voycal/VoyCalChange.h"
@@ -38,10 +38,9 @@ class CVoyCal : public Core::TObject {
     static std::string SiteAddress(const std::string& key, const std::string& fallback);
 
   private:
-    void* OnCalculate(void* text);
-    void* OnPointClicked(void* id);
-    void* OnAlternativeClicked(void* id);
-    void BindAll();
+    const VoyCalResult* OnCalculate(const std::string* text);
+    const char* OnPointClicked(const std::string& id);
+    const char* OnAlternativeClicked(const std::string& id);
     void Reset();
     void Calculate(std::vector<std::string> ids);
     void AskPorts();
@@ -61,9 +60,7 @@ class CVoyCal : public Core::TObject {
     std::string mode_;  ///< "case3" behind a change
     std::string selected_;
     Interface::TrvMapExtent extent_;
-    Core::TEvent calculateService_;
-    Core::TEvent pointClick_;
-    Core::TEvent alternativeClick_;
+    Interface::BindingList bindings_;
 };
 
 }  // namespace Tarvik::Seaplan

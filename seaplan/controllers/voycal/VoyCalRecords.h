@@ -55,12 +55,6 @@ struct VoyCalPort {
     std::string lock_rp_id_str;
 };
 
-/// Answer of the service: two flags, directly followed by the lines as they were drawn.
-struct VoyCalResult {
-    std::uint8_t valid = 0;
-    std::uint8_t crossesDateLine = 0;
-    Interface::TrvMapLineParams mainLine;
-    Interface::TrvMapLineParams eastLine;  ///< the part behind the date line
-};
+using Interface::VoyCalResult;
 
 }  // namespace Tarvik::Seaplan

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 
-#include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/VoyageContract.h>
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
@@ -11,59 +10,35 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr int kVoyagePanelCode = 3;
 constexpr Rect kToggledPlace{150, 240, 460, 700};
 constexpr Rect kServicePlace{250, 240, 560, 700};
 constexpr const char* kHelpTopic = "func033";
 
-/// Texts answered on the bus stay ours.
-void* Answer(const char* text) {
-    return const_cast<char*>(text);
-}
-
 }  // namespace
 
-SeaplanViewDlg::SeaplanViewDlg(const Parts& parts) : p_(parts) {
-    showPanel_.Set<&SeaplanViewDlg::OnShowPanel>(this);
-    switchLanguage_.Set<&SeaplanViewDlg::OnSwitchLanguage>(this);
-    logout_.Set<&SeaplanViewDlg::OnLogout>(this);
-    addVessel_.Set<&SeaplanViewDlg::OnAddVessel>(this);
-}
-
-SeaplanViewDlg::~SeaplanViewDlg() {
-    if (registered_) {
-        UnregisterHost();
-    }
-}
+SeaplanViewDlg::SeaplanViewDlg(const Parts& parts) : p_(parts) {}
 
 void SeaplanViewDlg::RegisterHost() {
     namespace Bus = Interface::Bus;
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->BindTrvEvent(Bus::ShowPanel.name, &showPanel_);
-    kernel->BindTrvEvent(Bus::SwitchLanguage.name, &switchLanguage_);
-    kernel->BindTrvEvent(Bus::Logout.name, &logout_);
-    kernel->CreateTrvService(Bus::AddVessel.name, this, "", "", nullptr);
-    kernel->BindTrvService(Bus::AddVessel.name, &addVessel_);
-    registered_ = true;
+    if (showPanel_.IsBound()) {
+        return;
+    }
+    showPanel_ = Interface::Subscribe(Bus::ShowPanel, this, &SeaplanViewDlg::OnShowPanel);
+    switchLanguage_ = Interface::Subscribe(Bus::SwitchLanguage, this, &SeaplanViewDlg::ApplyLanguage);
+    logout_ = Interface::Subscribe(Bus::Logout, this, &SeaplanViewDlg::OnLogout);
+    addVessel_ = Interface::Offer(Bus::AddVessel, this, &SeaplanViewDlg::OnAddVessel);
 }
 
 void SeaplanViewDlg::UnregisterHost() {
-    namespace Bus = Interface::Bus;
-    Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->UnBindTrvEvent(Bus::ShowPanel.name, &showPanel_);
-    kernel->UnBindTrvEvent(Bus::SwitchLanguage.name, &switchLanguage_);
-    kernel->UnBindTrvEvent(Bus::Logout.name, &logout_);
-    kernel->UnBindTrvService(Bus::AddVessel.name, &addVessel_);
-    kernel->DeleteTrvService(Bus::AddVessel.name, this);
-    registered_ = false;
+    for (Interface::Binding* binding : {&showPanel_, &switchLanguage_, &logout_, &addVessel_}) {
+        binding->Withdraw();
+    }
 }
 
-void* SeaplanViewDlg::OnShowPanel(void* input) {
-    const auto* show = static_cast<const Interface::PanelShow*>(input);
-    if (show != nullptr && show->panel == kVoyagePanelCode) {
+void SeaplanViewDlg::OnShowPanel(const Interface::PanelShow& show) {
+    if (show.panel == Interface::PanelCode::kVoyages) {
         Toggle();
     }
-    return nullptr;
 }
 
 void SeaplanViewDlg::Toggle() {
@@ -89,17 +64,12 @@ void SeaplanViewDlg::Hide() {
     p_.tree.OnViewShown(false);
 }
 
-void* SeaplanViewDlg::OnSwitchLanguage(void*) {
-    ApplyLanguage();
-    return nullptr;
-}
-
 void SeaplanViewDlg::ApplyLanguage() {
     p_.tree.ApplyLanguage();
     p_.window.ApplyTexts();
 }
 
-void* SeaplanViewDlg::OnLogout(void*) {
+void SeaplanViewDlg::OnLogout() {
     p_.schedule.ClearChart();
     p_.tree.Context().tree.DeleteAllItems();
     p_.store.Clear();
@@ -108,21 +78,19 @@ void* SeaplanViewDlg::OnLogout(void*) {
     if (p_.portCalls != nullptr) {
         p_.portCalls->HideAfterLogout();
     }
-    return nullptr;
 }
 
-void* SeaplanViewDlg::OnAddVessel(void* input) {
-    const auto* vi = static_cast<const std::string*>(input);
+const char* SeaplanViewDlg::OnAddVessel(const std::string* vi) {
     if (vi == nullptr || vi->empty()) {
-        return Answer("-1");
+        return "-1";
     }
     if (p_.tree.ReloadTree() != 0) {
-        return Answer("-2");
+        return "-2";
     }
     p_.window.Place(kServicePlace);
     p_.window.Show();
     if (p_.tree.OpenVesselEditor(*vi) != 0) {
-        return Answer("-3");
+        return "-3";
     }
     return nullptr;
 }

@@ -3,7 +3,8 @@
 
 #include <string>
 
-#include <tarvik/core/TEvent.h>
+#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/panels/mainview/MainViewWindow.h"
@@ -26,7 +27,6 @@ class SeaplanViewDlg final : public Core::TObject {
         CPortCallPanelDlg* portCalls;  ///< null while there is none
     };
     explicit SeaplanViewDlg(const Parts& parts);
-    ~SeaplanViewDlg() override;
 
     void RegisterHost();
     void UnregisterHost();
@@ -46,18 +46,16 @@ class SeaplanViewDlg final : public Core::TObject {
     void OnSurfacePressed() { p_.tree.HideEditors(); }
 
   private:
-    void* OnShowPanel(void* input);
-    void* OnSwitchLanguage(void* input);
-    void* OnLogout(void* input);
-    void* OnAddVessel(void* input);
+    void OnShowPanel(const Interface::PanelShow& show);
+    void OnLogout();
+    const char* OnAddVessel(const std::string* vi);
     void Toggle();
 
     Parts p_;
-    bool registered_ = false;
-    Core::TEvent showPanel_;
-    Core::TEvent switchLanguage_;
-    Core::TEvent logout_;
-    Core::TEvent addVessel_;
+    Interface::Binding showPanel_;
+    Interface::Binding switchLanguage_;
+    Interface::Binding logout_;
+    Interface::Binding addVessel_;
 };
 
 }  // namespace Tarvik::Seaplan

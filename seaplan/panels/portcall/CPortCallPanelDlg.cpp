@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 
-#include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
@@ -21,24 +21,12 @@ constexpr const char* kHelpTopic = "func034";
 CPortCallPanelDlg::CPortCallPanelDlg(VoyageStore& store, ScheduleCommands& schedule, PortDictionary ports,
                                      PortCallView& view)
     : store_(store), schedule_(schedule), ports_(std::move(ports)), view_(view) {
-    switchLanguage_.Set<&CPortCallPanelDlg::OnSwitchLanguage>(this);
     ResetState();
 }
 
-CPortCallPanelDlg::~CPortCallPanelDlg() {
-    if (registered_) {
-        Core::TrvKernel::Instance()->UnBindTrvEvent(Interface::Bus::SwitchLanguage.name, &switchLanguage_);
-    }
-}
-
 void CPortCallPanelDlg::RegisterHost() {
-    registered_ =
-        Core::TrvKernel::Instance()->BindTrvEvent(Interface::Bus::SwitchLanguage.name, &switchLanguage_);
-}
-
-void* CPortCallPanelDlg::OnSwitchLanguage(void*) {
-    ApplyLanguage();
-    return nullptr;
+    switchLanguage_ =
+        Interface::Subscribe(Interface::Bus::SwitchLanguage, this, &CPortCallPanelDlg::ApplyLanguage);
 }
 
 void CPortCallPanelDlg::ApplyLanguage() {
@@ -64,7 +52,7 @@ void CPortCallPanelDlg::ResetState() {
     state_ = PortCallState();
     state_.caption = Text(TextId::IDS_PORTCALL_TITLE);
     SetCorrectionPending(false);
-    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone, nullptr);
+    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone);
     if (zone != nullptr) {
         state_.zone = *zone;
     }

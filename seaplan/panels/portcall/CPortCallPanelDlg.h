@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include <tarvik/core/TEvent.h>
+#include <tarvik/bus/Binding.h>
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/calculation/Units.h"
@@ -26,7 +26,6 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
   public:
     CPortCallPanelDlg(VoyageStore& store, ScheduleCommands& schedule, PortDictionary ports,
                       PortCallView& view);
-    ~CPortCallPanelDlg() override;
 
     /// Follows the host's change of language.
     void RegisterHost();
@@ -83,7 +82,6 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     const PortCallState& State() const { return state_; }
 
   private:
-    void* OnSwitchLanguage(void* input);
     void AskUnsaved();
     void ResetState();
     void ClearState();
@@ -153,8 +151,7 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     bool matchesShown_ = false;    ///< the panel's own list of matches
     void* matchWindow_ = nullptr;  ///< a service's window of matches
     std::string lastMatch_;        ///< name that a list of matches moved to
-    bool registered_ = false;
-    Core::TEvent switchLanguage_;
+    Interface::Binding switchLanguage_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -2,7 +2,9 @@
 /// Editors, lists and the calendar over the cells.
 #include <utility>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/SiblingContract.h>
+#include <tarvik/interface/SiblingRecords.h>
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"

@@ -336,7 +336,7 @@ TEST_F(PortCallFixture, ALanguageSwitchRenewsCaptionAndButton) {
     panel.RegisterHost();
     Open("20");
     texts.prefix = u"zh ";
-    Interface::Raise<void>(Interface::Bus::SwitchLanguage, nullptr);
+    Interface::Raise(Interface::Bus::SwitchLanguage);
     EXPECT_EQ(view.state.caption, "zh IDS_PORTCALL_TITLE");
     EXPECT_EQ(view.state.calculateText, "zh IDS_PORTCALL_COMPUTE");
     EXPECT_EQ(view.state.averageSpeed, "8.0");

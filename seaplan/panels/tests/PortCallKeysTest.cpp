@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
 #include "seaplan/panels/tests/PortCallFixture.h"

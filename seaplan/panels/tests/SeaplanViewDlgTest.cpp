@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
@@ -86,7 +87,7 @@ TEST_F(SeaplanViewDlgTest, LogoutClearsTheChartBeforeTheStore) {
     AddCategory("1", "Full");
     Toggle();
     schedule.calls.clear();
-    Interface::Raise<void>(Interface::Bus::Logout, nullptr);
+    Interface::Raise(Interface::Bus::Logout);
     EXPECT_EQ(schedule.calls, (std::vector<std::string>{"ClearChart", "ClearChart"}))
         << "first, and on hiding";
 }
@@ -118,7 +119,7 @@ TEST_F(SeaplanViewDlgTest, AUserWithoutCategoriesGetsOneToName) {
 TEST_F(SeaplanViewDlgTest, LogoutEmptiesTheStoreAndTheNextToggleLoadsAgain) {
     AddCategory("1", "Full");
     Toggle();
-    Interface::Raise<void>(Interface::Bus::Logout, nullptr);
+    Interface::Raise(Interface::Bus::Logout);
     EXPECT_TRUE(store.categories.empty());
     EXPECT_FALSE(window.visible);
     EXPECT_EQ(tree.GetRootItem(), kNoRow);
@@ -185,7 +186,7 @@ TEST_F(SeaplanViewDlgTest, HelpNamesItsTopic) {
 }
 
 TEST_F(SeaplanViewDlgTest, ALanguageSwitchReachesAHiddenPanel) {
-    Interface::Raise<void>(Interface::Bus::SwitchLanguage, nullptr);
+    Interface::Raise(Interface::Bus::SwitchLanguage);
     EXPECT_EQ(window.textsApplied, 1);
 }
 

@@ -5,6 +5,7 @@
 
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"

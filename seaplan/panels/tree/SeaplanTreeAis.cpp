@@ -2,7 +2,8 @@
 /// Correcting a voyage's port calls from its vessel's last position.
 #include <cstdint>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/calculation/NumberForms.h"
@@ -14,7 +15,7 @@ namespace {
 
 /// A GMT timer value in the user's zone; the field counts as unsigned.
 std::string UserTime(int gmtTimer) {
-    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone, nullptr);
+    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone);
     const auto utc = Util::_datetime_t::from_gmt_timer(static_cast<std::uint32_t>(gmtTimer));
     return Util::DateTimeUtl::ConvertFromUTC(utc, zone == nullptr ? std::string() : *zone).fmt(kTimeFormat);
 }

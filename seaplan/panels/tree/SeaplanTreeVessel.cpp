@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 /// The vessel of a voyage: typed, picked, shown and replaced.
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/SiblingContract.h>
+#include <tarvik/interface/SiblingRecords.h>
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/language/Messages.h"
@@ -15,7 +17,7 @@ constexpr const char* kVesselFailed = "Add a vessel failed!";
 constexpr const char* kErrorTitle = "Error";
 
 std::vector<Interface::FleetEntry> Fleet() {
-    const auto* vessels = Interface::Call(Interface::Bus::AllVessels, nullptr);
+    const auto* vessels = Interface::Call(Interface::Bus::AllVessels);
     return vessels == nullptr ? std::vector<Interface::FleetEntry>() : *vessels;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <tarvik/core/TrvKernel.h>
+
 #include "seaplan/plugin/CompositionRoot.h"
 #include "testsupport/RecordingHost.h"
 

@@ -7,7 +7,8 @@
 #include <algorithm>
 #include <cstdio>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/skin/Palette.h>
 
 #include "seaplan/views/VoyageViews.h"

@@ -309,7 +309,7 @@ TEST_F(PortCallWindowTest, AClosingWindowSystemIsAnsweredLikeTheCloseButton) {
 
 TEST_F(PortCallWindowTest, LogoutHidesBothWindows) {
     OpenPortCalls("Far East 12");
-    Interface::Raise<void>(Interface::Bus::Logout, nullptr);
+    Interface::Raise(Interface::Bus::Logout);
     EXPECT_FALSE(Panel().isVisible());
     EXPECT_FALSE(PortCalls().isVisible());
     EXPECT_EQ(Rows().GetRootItem(), kNoRow);

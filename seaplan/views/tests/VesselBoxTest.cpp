@@ -3,6 +3,7 @@
 
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
+#include <tarvik/core/TrvKernel.h>
 
 #include "seaplan/views/tests/ViewsFixture.h"
 

@@ -266,7 +266,7 @@ TEST_F(ViewsFixture, TheWindowsFollowTheClientsTheme) {
 TEST_F(ViewsFixture, ALanguageSwitchReachesEveryText) {
     OpenPortCalls("Far East 12");
     const FileTexts chinese(std::string(SEAPLAN_LANG_DIR) + "/zh-CN.json");
-    Interface::Raise<void>(Interface::Bus::SwitchLanguage, nullptr);
+    Interface::Raise(Interface::Bus::SwitchLanguage);
     EXPECT_EQ(Panel().windowTitle(), "航次");
     EXPECT_EQ(PortCalls().windowTitle(), "挂靠港");
     EXPECT_EQ(Find<QAbstractButton>(PortCalls(), "calculateButton")->text(), "计算");

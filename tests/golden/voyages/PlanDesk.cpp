@@ -29,8 +29,8 @@ constexpr int kZoneHours = 8;
 constexpr double kShorter = 0.995;
 
 /// Whether a click was taken: its one handler answers nothing then.
-bool click(const Interface::Event<const std::string>& event, const std::string& id) {
-    const std::vector<void*> answers = Interface::Raise(event, &id);
+bool click(const Interface::ClickEvent& event, const std::string& id) {
+    const std::vector<const char*> answers = Interface::Raise(event, &id);
     return answers.size() == 1 && answers[0] == nullptr;
 }
 

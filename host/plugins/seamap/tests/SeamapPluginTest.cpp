@@ -5,8 +5,8 @@
 
 #include <tarvik/core/BusBlock.h>
 #include <tarvik/core/PluginInfo.h>
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
-#include <tarvik/interface/ChartWindow.h>
 
 namespace Tarvik {
 
@@ -52,10 +52,10 @@ TEST_F(SeamapPluginTest, OffersItsServicesFromLoadToUnLoadAlsoWithoutAWindowSyst
     call<void>("InitPlugin");
     call<void>("SuiteLoaded");
     EXPECT_TRUE(kernel->IsBound(Interface::Bus::MapAddLine.name));
-    EXPECT_EQ(Interface::Call<void>(Seamap::Bus::Widget, nullptr), nullptr);
+    EXPECT_EQ(Interface::Call(Interface::Bus::ChartWindow), nullptr);
     const Interface::TrvMapExtent asked{10, 20, 30, 40};
     Interface::Call(Interface::Bus::MapSetExtent, &asked);
-    auto* shown = Interface::Call<void>(Interface::Bus::MapGetExtent, nullptr);
+    auto* shown = Interface::Call(Interface::Bus::MapGetExtent);
     ASSERT_NE(shown, nullptr);
     EXPECT_EQ(shown->third, 30);
     Core::FreeBusBlock(shown);

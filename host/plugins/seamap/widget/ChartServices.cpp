@@ -2,51 +2,56 @@
 #include "host/plugins/seamap/widget/ChartServices.h"
 
 #include <QApplication>
-#include <array>
 #include <new>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/BusBlock.h>
-#include <tarvik/interface/ChartWindow.h>
 
 #include "host/plugins/seamap/core/LandFileSource.h"
 
 namespace Tarvik::Seamap {
 
-namespace {
-
-constexpr const char* kClickPrefix = "TRV_MAP_LCLICK_";
-
-/// The payload as the record that the service's name promises.
-template <class Record>
-const Record& RecordOf(void* input) {
-    return *static_cast<const Record*>(input);
-}
-
-}  // namespace
+namespace Bus = Interface::Bus;
 
 ChartServices::ChartServices(Paths paths) : paths_(std::move(paths)), ports_(paths_.ports) {
-    namespace Chart = Interface::Bus;
-    Offer<&ChartServices::AddLayer>(Chart::MapAddLayer.name);
-    Offer<&ChartServices::RemoveLayer>(Chart::MapRemoveLayer.name);
-    Offer<&ChartServices::AddLine>(Chart::MapAddLine.name);
-    Offer<&ChartServices::AddPointLabel>(Chart::MapAddPointLabel.name);
-    Offer<&ChartServices::AddImage>(Chart::MapAddImage.name);
-    Offer<&ChartServices::RegisterImage>(Chart::MapRegisterImage.name);
-    Offer<&ChartServices::DeleteObjects>(Chart::MapDeleteObjects.name);
-    Offer<&ChartServices::DeleteObjectsByType>(Chart::MapDeleteObjectsByType.name);
-    Offer<&ChartServices::GetExtent>(Chart::MapGetExtent.name);
-    Offer<&ChartServices::SetExtent>(Chart::MapSetExtent.name);
-    Offer<&ChartServices::GetPort>(Chart::MapGetPort.name);
-    Offer<&ChartServices::GetWidget>(Bus::Widget.name);
-    Offer<&ChartServices::Command>(Bus::Command.name);
+    OfferObjects();
+    OfferView();
+}
+
+void ChartServices::OfferObjects() {
+    using Interface::Offer;
+    bindings_.Keep(Offer(Bus::MapAddLayer,
+                         [this](const Interface::TrvMapLayerParams& layer) { objects_.AddLayer(layer); }));
+    bindings_.Keep(
+        Offer(Bus::MapRemoveLayer, [this](const std::string& layer) { objects_.RemoveLayer(layer); }));
+    bindings_.Keep(
+        Offer(Bus::MapAddLine, [this](const Interface::TrvMapLineParams& line) { objects_.AddLine(line); }));
+    bindings_.Keep(Offer(Bus::MapAddPointLabel,
+                         [this](const Interface::TrvMapPointParams& point) { objects_.AddLabel(point); }));
+    bindings_.Keep(Offer(Bus::MapAddImage,
+                         [this](const Interface::TrvMapImageParams& image) { objects_.AddImage(image); }));
+    bindings_.Keep(Offer(Bus::MapRegisterImage, [this](const Interface::TrvMapImageReg& image) {
+        objects_.RegisterImage(image.name, image.path);
+    }));
+    bindings_.Keep(Offer(Bus::MapDeleteObjects,
+                         [this](const Interface::TrvMapObjectList& list) { objects_.Remove(list); }));
+    bindings_.Keep(Offer(Bus::MapDeleteObjectsByType, [this](const Interface::TrvMapObjectRef& ref) {
+        objects_.RemoveType(ref.layer, ref.type);
+    }));
+}
+
+void ChartServices::OfferView() {
+    using Interface::Offer;
+    bindings_.Keep(Offer(Bus::MapGetExtent, this, &ChartServices::GetExtent));
+    bindings_.Keep(Offer(Bus::MapSetExtent, this, &ChartServices::SetExtent));
+    bindings_.Keep(Offer(Bus::MapGetPort, [this](const std::string& id) { return ports_.Find(id); }));
+    bindings_.Keep(Offer(Bus::ChartWindow, this, &ChartServices::Widget));
+    bindings_.Keep(Offer(Bus::ChartCommand, this, &ChartServices::Command));
 }
 
 ChartServices::~ChartServices() {
-    auto* kernel = Core::TrvKernel::Instance();
-    for (Binding& binding : bindings_) {
-        kernel->UnBindTrvService(binding.name, &binding.delegate);
-        kernel->DeleteTrvService(binding.name, this);
-    }
+    bindings_.Withdraw();
     // The window draws from the objects held here, so it cannot stay, whoever its parent is. Once the window
     // system is gone it must not be touched any more.
     if (QCoreApplication::instance()) {
@@ -63,74 +68,14 @@ ChartWidget* ChartServices::Widget() {
             widget_->ShowExtent(*asked_);
         }
         QObject::connect(widget_, &ChartWidget::ObjectClicked,
-                         [this](const ObjectKey& key) { RaiseClick(key); });
+                         [](const ObjectKey& key) { Interface::RaiseClick(key.type, key.id); });
         QObject::connect(widget_, &ChartWidget::CursorMoved,
                          [this](double lon, double lat) { RaiseCursor(lon, lat); });
     }
     return widget_;
 }
 
-void* ChartServices::AddLayer(void* input) {
-    if (input) {
-        objects_.AddLayer(RecordOf<Interface::TrvMapLayerParams>(input));
-    }
-    return nullptr;
-}
-
-void* ChartServices::RemoveLayer(void* input) {
-    if (input) {
-        objects_.RemoveLayer(RecordOf<std::string>(input));
-    }
-    return nullptr;
-}
-
-void* ChartServices::AddLine(void* input) {
-    if (input) {
-        objects_.AddLine(RecordOf<Interface::TrvMapLineParams>(input));
-    }
-    return nullptr;
-}
-
-void* ChartServices::AddPointLabel(void* input) {
-    if (input) {
-        objects_.AddLabel(RecordOf<Interface::TrvMapPointParams>(input));
-    }
-    return nullptr;
-}
-
-void* ChartServices::AddImage(void* input) {
-    if (input) {
-        objects_.AddImage(RecordOf<Interface::TrvMapImageParams>(input));
-    }
-    return nullptr;
-}
-
-void* ChartServices::RegisterImage(void* input) {
-    if (!input) {
-        return nullptr;
-    }
-    const auto& image = RecordOf<Interface::TrvMapImageReg>(input);
-    objects_.RegisterImage(image.name, image.path);
-    return nullptr;
-}
-
-void* ChartServices::DeleteObjects(void* input) {
-    if (input) {
-        objects_.Remove(RecordOf<Interface::TrvMapObjectList>(input));
-    }
-    return nullptr;
-}
-
-void* ChartServices::DeleteObjectsByType(void* input) {
-    if (!input) {
-        return nullptr;
-    }
-    const auto& ref = RecordOf<Interface::TrvMapObjectRef>(input);
-    objects_.RemoveType(ref.layer, ref.type);
-    return nullptr;
-}
-
-void* ChartServices::GetExtent(void*) {
+Interface::TrvMapExtent* ChartServices::GetExtent() const {
     void* block = Core::AllocateBusBlock(sizeof(Interface::TrvMapExtent));
     if (!block) {
         return nullptr;
@@ -139,54 +84,24 @@ void* ChartServices::GetExtent(void*) {
     return new (block) Interface::TrvMapExtent(shown.Corners());
 }
 
-void* ChartServices::SetExtent(void* input) {
-    if (!input) {
-        return nullptr;
-    }
-    const auto extent = Extent::FromCorners(RecordOf<Interface::TrvMapExtent>(input));
+void ChartServices::SetExtent(const Interface::TrvMapExtent& corners) {
+    const auto extent = Extent::FromCorners(corners);
     if (!extent) {
-        return nullptr;
+        return;
     }
     asked_ = extent;
     if (widget_) {
         widget_->ShowExtent(*extent);
     }
-    return nullptr;
 }
 
-void* ChartServices::GetPort(void* input) {
-    if (!input) {
-        return nullptr;
-    }
-    return const_cast<Interface::TrvMapPort*>(ports_.Find(RecordOf<std::string>(input)));
-}
-
-void* ChartServices::GetWidget(void*) {
-    return static_cast<QWidget*>(Widget());
-}
-
-void* ChartServices::Command(void* input) {
-    return input && Run(RecordOf<std::string>(input)) ? input : nullptr;
-}
-
-template <auto Method>
-void ChartServices::Offer(const char* name) {
-    Binding& binding = bindings_.emplace_back();
-    binding.name = name;
-    binding.delegate.Set<Method>(this);
-    auto* kernel = Core::TrvKernel::Instance();
-    kernel->CreateTrvService(name, this, "", "", nullptr);
-    kernel->BindTrvService(name, &binding.delegate);
-}
-
-void ChartServices::RaiseClick(const ObjectKey& key) const {
-    const std::string name = kClickPrefix + key.type;
-    Interface::Raise(Interface::Event<const std::string>{name.c_str()}, &key.id);
+const std::string* ChartServices::Command(const std::string& command) {
+    return Run(command) ? &command : nullptr;
 }
 
 void ChartServices::RaiseCursor(double lon, double lat) const {
-    const std::array<double, 2> place{lon, lat};
-    Interface::Raise(Bus::Cursor, place.data());
+    const Interface::ChartPlace place{lon, lat};
+    Interface::Raise(Bus::ChartCursor, &place);
 }
 
 bool ChartServices::Run(const std::string& command) {

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <QPointer>
-#include <deque>
 #include <optional>
 #include <string>
 
+#include <tarvik/bus/Binding.h>
 #include <tarvik/core/TObject.h>
-#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/ChartRecords.h>
 
 #include "host/plugins/seamap/core/ChartObjects.h"
 #include "host/plugins/seamap/core/PortTable.h"
@@ -33,29 +33,12 @@ class ChartServices : public Core::TObject {
     /// The window, made at the first call; null without a window system.
     ChartWidget* Widget();
 
-    // Handlers of the bus, one for each service.
-    void* AddLayer(void* input);
-    void* RemoveLayer(void* input);
-    void* AddLine(void* input);
-    void* AddPointLabel(void* input);
-    void* AddImage(void* input);
-    void* RegisterImage(void* input);
-    void* DeleteObjects(void* input);
-    void* DeleteObjectsByType(void* input);
-    void* GetExtent(void* input);
-    void* SetExtent(void* input);
-    void* GetPort(void* input);
-    void* GetWidget(void* input);
-    void* Command(void* input);
-
   private:
-    struct Binding {
-        const char* name = nullptr;
-        Core::TEvent delegate;
-    };
-    template <auto Method>
-    void Offer(const char* name);
-    void RaiseClick(const ObjectKey& key) const;
+    void OfferObjects();
+    void OfferView();
+    Interface::TrvMapExtent* GetExtent() const;
+    void SetExtent(const Interface::TrvMapExtent& corners);
+    const std::string* Command(const std::string& command);
     void RaiseCursor(double lon, double lat) const;
     bool Run(const std::string& command);
 
@@ -64,8 +47,8 @@ class ChartServices : public Core::TObject {
     PortTable ports_;
     QPointer<ChartWidget> widget_;
     ChartPalette::Theme theme_ = ChartPalette::Theme::Light;
-    std::optional<Extent> asked_;   ///< asked for before there was a window
-    std::deque<Binding> bindings_;  ///< fixed in place, as the bus keeps their addresses
+    std::optional<Extent> asked_;  ///< asked for before there was a window
+    Interface::BindingList bindings_;
 };
 
 }  // namespace Tarvik::Seamap

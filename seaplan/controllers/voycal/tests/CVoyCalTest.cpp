@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/interface/ValueDictionary.h>
 

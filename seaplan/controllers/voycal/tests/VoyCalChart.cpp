@@ -6,6 +6,7 @@
 #include <new>
 
 #include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/StringUtl.h>
 

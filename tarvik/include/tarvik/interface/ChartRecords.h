@@ -91,4 +91,12 @@ struct TrvMapPort {
     double y = 0;
 };
 
+/// Result of TRV_S_CAL_VOYAGE: two flags, directly followed by the lines as they were drawn.
+struct VoyCalResult {
+    std::uint8_t valid = 0;            ///< 1 when there is a route, else the rest says nothing
+    std::uint8_t crossesDateLine = 0;  ///< 1 when the second line is drawn too
+    TrvMapLineParams mainLine;
+    TrvMapLineParams eastLine;  ///< the part behind the date line
+};
+
 }  // namespace Tarvik::Interface

@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <tarvik/core/BusBlock.h>
-#include <tarvik/interface/ChartWindow.h>
+#include <tarvik/core/TEvent.h>
+#include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
 
 #include "host/plugins/seamap/widget/ChartServices.h"
 
@@ -50,7 +52,7 @@ class ChartServicesTest : public ::testing::Test {
         return *widget;
     }
     static Interface::TrvMapExtent extent() {
-        Interface::TrvMapExtent* block = Call<void>(Chart::MapGetExtent, nullptr);
+        Interface::TrvMapExtent* block = Call(Chart::MapGetExtent);
         const Interface::TrvMapExtent copy = *block;
         Core::FreeBusBlock(block);
         return copy;
@@ -61,7 +63,7 @@ class ChartServicesTest : public ::testing::Test {
             {"VOYAGE", id, type}, "Suez", "32,30", 0, "circle", 0x9664FF, 3};
         Call(Chart::MapAddPointLabel, &point);
     }
-    static bool command(const std::string& text) { return Call(Bus::Command, &text) != nullptr; }
+    static bool command(const std::string& text) { return Call(Chart::ChartCommand, &text) != nullptr; }
     static void expectHolds(const Interface::TrvMapExtent& shown, double w, double s, double e, double n) {
         EXPECT_LE(shown.first, w);
         EXPECT_LE(shown.second, s);
@@ -124,14 +126,14 @@ TEST_F(ChartServicesTest, AClickRaisesTheEventOfTheTypeWithTheId) {
 TEST_F(ChartServicesTest, ThePointerRaisesItsPlace) {
     Listener listener;
     listener.delegate.Set<&Listener::HearPlace>(&listener);
-    Core::TrvKernel::Instance()->BindTrvEvent(Bus::Cursor.name, &listener.delegate);
+    Core::TrvKernel::Instance()->BindTrvEvent(Chart::ChartCursor.name, &listener.delegate);
     ChartWidget& widget = chart();
     const GeoPoint place = widget.View().ToGeo({200, 100});
     QTest::mouseMove(&widget, {200, 100});
     ASSERT_FALSE(listener.places.empty());
     EXPECT_NEAR(listener.places.back().lon, place.lon, 1e-9);
     EXPECT_NEAR(listener.places.back().lat, place.lat, 1e-9);
-    Core::TrvKernel::Instance()->UnBindTrvEvent(Bus::Cursor.name, &listener.delegate);
+    Core::TrvKernel::Instance()->UnBindTrvEvent(Chart::ChartCursor.name, &listener.delegate);
 }
 
 TEST_F(ChartServicesTest, TheExtentIsReadInEitherCornerOrder) {
@@ -149,8 +151,8 @@ TEST_F(ChartServicesTest, TheExtentIsReadInEitherCornerOrder) {
 
 TEST_F(ChartServicesTest, TheExtentBlockBelongsToTheCaller) {
     const long before = Core::LiveBusBlocks();
-    Interface::TrvMapExtent* one = Call<void>(Chart::MapGetExtent, nullptr);
-    Interface::TrvMapExtent* two = Call<void>(Chart::MapGetExtent, nullptr);
+    Interface::TrvMapExtent* one = Call(Chart::MapGetExtent);
+    Interface::TrvMapExtent* two = Call(Chart::MapGetExtent);
     EXPECT_NE(one, two);
     EXPECT_EQ(Core::LiveBusBlocks(), before + 2);
     Core::FreeBusBlock(one);
@@ -168,18 +170,18 @@ TEST_F(ChartServicesTest, AnExtentAskedForBeforeTheWindowIsShownThen) {
 }
 
 TEST_F(ChartServicesTest, TheWidgetServiceAnswersTheOneWindow) {
-    QWidget* first = Call<void>(Bus::Widget, nullptr);
+    QWidget* first = Call(Chart::ChartWindow);
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(first->objectName(), "chart");
-    EXPECT_EQ(Call<void>(Bus::Widget, nullptr), first);
+    EXPECT_EQ(Call(Chart::ChartWindow), first);
 }
 
 TEST_F(ChartServicesTest, AWindowClosedByItsParentIsMadeAnew) {
     auto parent = std::make_unique<QWidget>();
-    Call<void>(Bus::Widget, nullptr)->setParent(parent.get());
+    Call(Chart::ChartWindow)->setParent(parent.get());
     parent.reset();
     AddLabel("7", "VOYAGETYPE");
-    QWidget* again = Call<void>(Bus::Widget, nullptr);
+    QWidget* again = Call(Chart::ChartWindow);
     ASSERT_NE(again, nullptr);
     EXPECT_FALSE(again->grab().isNull());
 }
@@ -212,7 +214,7 @@ TEST_F(ChartServicesTest, EmptyPayloadsAndUnknownPortsAreAnsweredWithNothing) {
          {Chart::MapAddLayer.name, Chart::MapRemoveLayer.name, Chart::MapAddLine.name,
           Chart::MapAddPointLabel.name, Chart::MapAddImage.name, Chart::MapRegisterImage.name,
           Chart::MapDeleteObjects.name, Chart::MapDeleteObjectsByType.name, Chart::MapSetExtent.name,
-          Chart::MapGetPort.name, Bus::Command.name}) {
+          Chart::MapGetPort.name, Chart::ChartCommand.name}) {
         void* result = nullptr;
         EXPECT_TRUE(Core::TrvKernel::Instance()->CallTrvService(name, nullptr, result)) << name;
         EXPECT_EQ(result, nullptr) << name;
@@ -229,7 +231,7 @@ TEST_F(ChartServicesTest, TakesEverythingBackAtTheEnd) {
     kernel->SetObserver({});
     EXPECT_TRUE(notices.empty());
     EXPECT_FALSE(kernel->IsBound(Chart::MapAddLine.name));
-    EXPECT_FALSE(kernel->IsBound(Bus::Widget.name));
+    EXPECT_FALSE(kernel->IsBound(Chart::ChartWindow.name));
 }
 
 }  // namespace

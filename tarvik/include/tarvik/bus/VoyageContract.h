@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include <tarvik/bus/BusName.h>
+
+/// What the voyage plug-in offers to the client and to its siblings. Its answers stay its own.
+namespace Tarvik::Interface {
+
+struct VoyCalResult;  // ChartRecords.h
+
+namespace Bus {
+
+/// Opens the choice of a vessel for the voyage with this id. Null on success, else "-1" empty id, "-2" the
+/// voyages could not be loaded, "-3" the choice did not open; valid for ever.
+inline constexpr Service<const std::string, const char> AddVessel{"TRV_S_VOY_ADDVSL"};
+/// Adds a port, by its name, to the port distance table; an empty name is ignored.
+inline constexpr Service<const std::string, None> AddPortName{"TRV_S_VOY_ADDPORTNAME"};
+/// Draws the route through ports whose ids the text holds, joined by ",". Valid until the next call.
+inline constexpr Service<const std::string, const VoyCalResult> CalculateVoyage{"TRV_S_CAL_VOYAGE"};
+
+}  // namespace Bus
+}  // namespace Tarvik::Interface
