@@ -7,8 +7,6 @@
 #include "host/server/accounts/UserRules.h"
 #include "host/server/net/service/Databases.h"
 #include "host/server/storage/contract/ServerTime.h"
-#include "host/server/storage/postgres/PostgresTransfer.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
 
 namespace Tarvik::Server {
 
@@ -16,18 +14,13 @@ namespace {
 
 /// The data bases that a command works on.
 struct Opened {
-    std::unique_ptr<SqliteStorage> file;
-    std::unique_ptr<PostgresTransfer> server;
+    std::unique_ptr<SqlStorage> voyages;
     std::unique_ptr<AccountStorage> accounts;  ///< null in a client's folder
-
-    TransferStorage& Records() { return file ? file->Transfer() : *server; }
 };
 
 bool OpenServer(const Settings& settings, Opened& opened, std::string& error) {
-    std::string reason;
-    opened.server = PostgresTransfer::Open(settings.database, reason);
-    if (opened.server == nullptr) {
-        error = "the data base " + DescribeData(settings) + " cannot be used: " + reason;
+    opened.voyages = OpenVoyages(settings, error);
+    if (opened.voyages == nullptr) {
         return false;
     }
     opened.accounts = OpenAccounts(settings, error);
@@ -35,9 +28,8 @@ bool OpenServer(const Settings& settings, Opened& opened, std::string& error) {
 }
 
 bool OpenFolder(const Settings& settings, bool mayMake, Opened& opened, std::string& error) {
-    const std::string voyages = settings.data + "/voyages.db";
     std::error_code ignored;
-    const bool hasVoyages = std::filesystem::exists(voyages, ignored);
+    const bool hasVoyages = std::filesystem::exists(settings.data + "/voyages.db", ignored);
     const bool hasAccounts = std::filesystem::exists(settings.data + "/accounts.db", ignored);
     if (!hasVoyages && !hasAccounts && !mayMake) {
         error = "there is no data base in " + settings.data;
@@ -52,17 +44,13 @@ bool OpenFolder(const Settings& settings, bool mayMake, Opened& opened, std::str
             return false;
         }
     }
-    std::string reason;
-    opened.file = SqliteStorage::Open(voyages, reason);
-    if (opened.file == nullptr) {
-        error = "the voyages " + voyages + " cannot be used: " + reason;
-    }
-    return opened.file != nullptr;
+    opened.voyages = OpenVoyages(settings, error);
+    return opened.voyages != nullptr;
 }
 
 bool Export(const TransferCommand& command, Opened& opened, std::string& said) {
     TransferContent content;
-    Exporter exporter(opened.Records(), opened.accounts.get(), SystemSeconds);
+    Exporter exporter(opened.voyages->Transfer(), opened.accounts.get(), SystemSeconds);
     if (!exporter.Run(command.exporting, command.file, content, said)) {
         return false;
     }
@@ -76,7 +64,8 @@ bool Import(const TransferCommand& command, Opened& opened, TransferReader& read
         choice.user = kClientUser;
     }
     std::string error;
-    if (Importer(opened.Records(), opened.accounts.get(), IsUserName).Run(choice, reader, said, error)) {
+    if (Importer(opened.voyages->Transfer(), opened.accounts.get(), IsUserName)
+            .Run(choice, reader, said, error)) {
         return true;
     }
     said = error;

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/server/accounts/SqliteAccounts.h"
+#include "host/server/accounts/SqlAccounts.h"
 #include "host/server/accounts/tests/AccountsContract.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
@@ -16,8 +16,8 @@ namespace {
 
 class SqliteAccountsTest : public testing::Test {
   protected:
-    std::unique_ptr<SqliteAccounts> Open() {
-        auto accounts = SqliteAccounts::Open(path_, error_);
+    std::unique_ptr<AccountStorage> Open() {
+        auto accounts = OpenSqliteAccounts(path_, error_);
         EXPECT_NE(accounts, nullptr) << error_;
         return accounts;
     }
@@ -31,7 +31,7 @@ class SqliteBackend : public AccountsBackend {
   public:
     std::unique_ptr<AccountStorage> Open() override {
         std::string error;
-        auto accounts = SqliteAccounts::Open(folder_.File("accounts.db"), error);
+        auto accounts = OpenSqliteAccounts(folder_.File("accounts.db"), error);
         if (accounts == nullptr) {
             throw std::runtime_error(error);
         }
@@ -57,19 +57,19 @@ TEST_F(SqliteAccountsTest, FileIsForItsOwnerOnly) {
 
 TEST_F(SqliteAccountsTest, FilesOfAnotherKindAreRefusedAndLeftAlone) {
     ASSERT_NE(SqliteStorage::Open(path_, error_), nullptr) << error_;
-    EXPECT_EQ(SqliteAccounts::Open(path_, error_), nullptr);
+    EXPECT_EQ(OpenSqliteAccounts(path_, error_), nullptr);
     EXPECT_EQ(error_, "the file is a data base of another kind");
     EXPECT_NE(SqliteStorage::Open(path_, error_), nullptr) << error_;
     const std::string text = folder_.File("text");
     std::ofstream(text) << std::string(5000, 'x');
-    EXPECT_EQ(SqliteAccounts::Open(text, error_), nullptr);
+    EXPECT_EQ(OpenSqliteAccounts(text, error_), nullptr);
     EXPECT_EQ(std::filesystem::file_size(text), 5000U);
 }
 
 TEST_F(SqliteAccountsTest, FileOfANewerProgramIsRefused) {
     Open();
     SqliteDatabase(path_).Execute("PRAGMA user_version=99");
-    EXPECT_EQ(SqliteAccounts::Open(path_, error_), nullptr);
+    EXPECT_EQ(OpenSqliteAccounts(path_, error_), nullptr);
     EXPECT_EQ(error_,
               "the data base has version 99, made by a newer program; this one reads versions up to 1");
 }

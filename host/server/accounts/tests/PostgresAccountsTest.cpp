@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/server/accounts/PostgresAccounts.h"
+#include "host/server/accounts/SqlAccounts.h"
 #include "host/server/accounts/tests/AccountsContract.h"
 #include "host/server/storage/postgres/tests/PostgresServer.h"
 
@@ -16,7 +16,7 @@ class PostgresBackend : public AccountsBackend {
   public:
     std::unique_ptr<AccountStorage> Open() override {
         std::string error;
-        auto accounts = PostgresAccounts::Open(connection_, error);
+        auto accounts = OpenPostgresAccounts(connection_, error);
         if (accounts == nullptr) {
             throw std::runtime_error(error);
         }
@@ -88,7 +88,7 @@ TEST_F(PostgresAccountsTest, LoginsLogoutsAndPasswordsAtTheSameTimeDoNotBlockEac
 
 TEST_F(PostgresAccountsTest, UnusableDataBaseIsToldWithoutItsPassword) {
     std::string error;
-    EXPECT_EQ(PostgresAccounts::Open("host=/none password=q3e7w9", error), nullptr);
+    EXPECT_EQ(OpenPostgresAccounts("host=/none password=q3e7w9", error), nullptr);
     EXPECT_NE(error.find("/none"), std::string::npos) << error;
     EXPECT_EQ(error.find("q3e7w9"), std::string::npos) << error;
 }

@@ -3,8 +3,7 @@
 
 #include <filesystem>
 
-#include "host/server/accounts/PostgresAccounts.h"
-#include "host/server/accounts/SqliteAccounts.h"
+#include "host/server/accounts/SqlAccounts.h"
 #include "host/server/storage/postgres/ConnectionText.h"
 #include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
@@ -49,24 +48,25 @@ bool PrepareDataFolder(const Settings& settings, std::string& error) {
 std::unique_ptr<AccountStorage> OpenAccounts(const Settings& settings, std::string& error) {
     std::string reason;
     if (!settings.database.empty()) {
-        auto accounts = PostgresAccounts::Open(settings.database, reason, PostgresOptionsOf(settings));
+        auto accounts = OpenPostgresAccounts(settings.database, reason, PostgresOptionsOf(settings));
         return Checked<AccountStorage>(std::move(accounts), "the data base " + DescribeData(settings), reason,
                                        error);
     }
     const std::string path = settings.data + "/accounts.db";
-    auto accounts = SqliteAccounts::Open(path, reason);
+    auto accounts = OpenSqliteAccounts(path, reason);
     return Checked<AccountStorage>(std::move(accounts), "the accounts " + path, reason, error);
 }
 
-std::unique_ptr<Storage> OpenVoyages(const Settings& settings, std::string& error) {
+std::unique_ptr<SqlStorage> OpenVoyages(const Settings& settings, std::string& error) {
     std::string reason;
     if (!settings.database.empty()) {
         auto storage = PostgresStorage::Open(settings.database, reason, PostgresOptionsOf(settings));
-        return Checked<Storage>(std::move(storage), "the data base " + DescribeData(settings), reason, error);
+        return Checked<SqlStorage>(std::move(storage), "the data base " + DescribeData(settings), reason,
+                                   error);
     }
     const std::string path = settings.data + "/voyages.db";
     auto storage = SqliteStorage::Open(path, reason);
-    return Checked<Storage>(std::move(storage), "the voyages " + path, reason, error);
+    return Checked<SqlStorage>(std::move(storage), "the voyages " + path, reason, error);
 }
 
 std::string DescribeData(const Settings& settings) {

@@ -6,7 +6,7 @@
 
 #include "host/server/accounts/AccountStorage.h"
 #include "host/server/net/settings/Settings.h"
-#include "host/server/storage/contract/Storage.h"
+#include "host/server/storage/sql/SqlStorage.h"
 
 namespace Tarvik::Server {
 
@@ -18,8 +18,9 @@ bool PrepareDataFolder(const Settings& settings, std::string& error);
 /// which must be there. Null with an English text without passwords in `error`.
 std::unique_ptr<AccountStorage> OpenAccounts(const Settings& settings, std::string& error);
 
-/// The voyages, kept in the same way.
-std::unique_ptr<Storage> OpenVoyages(const Settings& settings, std::string& error);
+/// The voyages, kept in the same way, in a file that is made when it is not there. Null with an English text
+/// without passwords in `error`.
+std::unique_ptr<SqlStorage> OpenVoyages(const Settings& settings, std::string& error);
 
 /// Where the data are, for the log: a folder, or a data base without its password.
 std::string DescribeData(const Settings& settings);

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/server/accounts/SqliteAccounts.h"
+#include "host/server/accounts/SqlAccounts.h"
 #include "host/server/net/service/VoyageServer.h"
 #include "host/server/net/settings/SettingsTable.h"
 #include "host/server/program/PasswordPrompt.h"
@@ -29,9 +29,9 @@ class ProgramTest : public testing::Test {
     }
     std::string Out() const { return out_.str(); }
     std::string Err() const { return err_.str(); }
-    std::unique_ptr<SqliteAccounts> Accounts() const {
+    std::unique_ptr<AccountStorage> Accounts() const {
         std::string error;
-        return SqliteAccounts::Open(folder_.File("data/accounts.db"), error);
+        return OpenSqliteAccounts(folder_.File("data/accounts.db"), error);
     }
 
     TempFolder folder_;

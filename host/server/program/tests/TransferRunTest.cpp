@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/server/accounts/SqliteAccounts.h"
+#include "host/server/accounts/SqlAccounts.h"
 #include "host/server/program/Program.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
@@ -93,8 +93,8 @@ TEST_F(TransferRunTest, WholeServerIsRestoredWithItsAccounts) {
     EXPECT_EQ(Run({"user", "list"}), 0);
     EXPECT_EQ(out_.str(), "anna enabled\nbert disabled\n");
     std::string error;
-    const auto before = SqliteAccounts::Open(server_ + "/accounts.db", error)->ListUsers().Value();
-    const auto after = SqliteAccounts::Open(folder_.File("new/accounts.db"), error)->ListUsers().Value();
+    const auto before = OpenSqliteAccounts(server_ + "/accounts.db", error)->ListUsers().Value();
+    const auto after = OpenSqliteAccounts(folder_.File("new/accounts.db"), error)->ListUsers().Value();
     ASSERT_EQ(after.size(), 2U);
     EXPECT_EQ(after[0].passwordHash, before[0].passwordHash);
     EXPECT_EQ(after[1].passwordHash, before[1].passwordHash);

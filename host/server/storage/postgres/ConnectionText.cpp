@@ -10,7 +10,7 @@
 
 #include <libpq-fe.h>
 
-#include "host/server/storage/postgres/PostgresError.h"
+#include "host/server/storage/sql/SqlConnection.h"
 
 namespace Tarvik::Server {
 
@@ -103,7 +103,7 @@ std::string ComplaintAboutConnection(const std::string& text) {
 std::string CompleteConnection(const std::string& text) {
     const std::string complaint = ComplaintAboutConnection(text);
     if (!complaint.empty()) {
-        throw PostgresError("the connection text " + complaint);
+        throw SqlError("the connection text " + complaint);
     }
     std::vector<Part> parts;
     Parse(text, parts);

@@ -10,7 +10,7 @@ namespace Tarvik::Server {
 std::string ComplaintAboutConnection(const std::string& text);
 
 /// The connection text as `key=value` pairs, with limits of time where it states none, so that a lost network
-/// ends a call. Throws PostgresError for a text that there is a complaint about.
+/// ends a call. Throws SqlError for a text that there is a complaint about.
 std::string CompleteConnection(const std::string& text);
 
 /// Host, port, data base and user of a connection text, as far as it names them, for people to read.

@@ -1,15 +1,52 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/PostgresConnection.h"
 
+#include <array>
 #include <map>
 
 #include <pqxx/pqxx>
 
 #include "host/server/storage/postgres/ConnectionText.h"
+#include "host/server/storage/postgres/PostgresBatch.h"
+#include "host/server/storage/sql/SqlDialect.h"
 
 namespace Tarvik::Server {
 
 namespace {
+
+/// A text of any length has its digest in the index, which is therefore asked for too.
+constexpr std::array<SqlPoint, 5> kPoints = {{
+    {"next id", "SELECT nextval('ids')"},
+    {"hold", "FOR UPDATE OF %"},
+    {"share", "FOR SHARE OF %"},
+    {"free", "FOR UPDATE OF % SKIP LOCKED"},
+    {"object", "md5(objectid) = md5(CAST(% AS text)) AND objectid = %"},
+}};
+
+/// Rows that came all at once, walked one after the other.
+class PostgresWalk final : public SqlRows {
+  public:
+    explicit PostgresWalk(PostgresRows rows) : rows_(std::move(rows)) {}
+
+    bool Next() override { return ++row_ < rows_.Count(); }
+    std::string Text(int column) const override { return rows_.Text(row_, column); }
+    std::int64_t Integer(int column) const override { return rows_.Integer(row_, column); }
+    double Real(int column) const override { return rows_.Real(row_, column); }
+    bool Flag(int column) const override { return rows_.Flag(row_, column); }
+
+  private:
+    PostgresRows rows_;
+    int row_ = -1;
+};
+
+std::vector<std::string> TextsOf(std::span<const SqlValue> values) {
+    std::vector<std::string> texts;
+    texts.reserve(values.size());
+    for (const SqlValue& value : values) {
+        texts.push_back(PostgresText(value));
+    }
+    return texts;
+}
 
 /// Changes are synced to disk even where the data base is set otherwise. The limits end what would hold locks
 /// or threads for ever; a lock is held for one request only, so who waits long waits for something broken.
@@ -51,14 +88,14 @@ auto PostgresConnection::Guarded(Operation&& operation) -> decltype(operation())
     try {
         return operation();
     } catch (const pqxx::sql_error& error) {
-        throw PostgresError(WithoutSecrets(error.what(), connectionText_));
-    } catch (const PostgresError&) {
+        throw SqlError(WithoutSecrets(error.what(), connectionText_));
+    } catch (const SqlError&) {
         throw;
     } catch (const std::exception& error) {
         if (link_ != nullptr) {
             link_->broken = true;
         }
-        throw PostgresError(WithoutSecrets(error.what(), connectionText_));
+        throw SqlError(WithoutSecrets(error.what(), connectionText_));
     }
 }
 
@@ -69,7 +106,7 @@ PostgresConnection::PostgresConnection(const std::string& connectionText) : conn
     const bool utf8 = Execute(kSessionSettings).Flag(0, 0);
     Commit();
     if (!utf8) {
-        throw PostgresError("the data base does not keep its texts in UTF-8");
+        throw SqlError("the data base does not keep its texts in UTF-8");
     }
 }
 
@@ -109,13 +146,45 @@ PostgresRows PostgresConnection::RunTexts(std::string_view sql, const std::vecto
     });
 }
 
+std::unique_ptr<SqlRows> PostgresConnection::QueryWith(std::string_view sql,
+                                                       std::span<const SqlValue> values) {
+    return std::make_unique<PostgresWalk>(RunTexts(sql, TextsOf(values)));
+}
+
+int PostgresConnection::RunWith(std::string_view sql, std::span<const SqlValue> values) {
+    return RunTexts(sql, TextsOf(values)).Changes();
+}
+
+std::optional<std::int32_t> PostgresConnection::Insert(const SqlBatch& batch) {
+    const PostgresBatch made = MakeBatch(batch);
+    return FirstTaken(batch, RunTexts(made.sql, made.values));
+}
+
+std::int64_t PostgresConnection::NextId() {
+    return Execute("SELECT CASE WHEN is_called THEN last_value + 1 ELSE last_value END FROM ids")
+        .Integer(0, 0);
+}
+
+bool PostgresConnection::SkipIds(std::int64_t lowest, std::int64_t highest) {
+    if (NextId() > lowest) {
+        return false;
+    }
+    // Changing the sequence locks it; the id is looked at again under the lock.
+    Execute("ALTER SEQUENCE ids NO CYCLE");
+    if (NextId() > lowest) {
+        return false;
+    }
+    Execute("ALTER SEQUENCE ids RESTART WITH " + std::to_string(highest + 1));
+    return true;
+}
+
 const std::string& PostgresConnection::Prepared(std::string_view sql) {
     const auto known = link_->prepared.find(sql);
     if (known != link_->prepared.end()) {
         return known->second;
     }
     const std::string name = "s" + std::to_string(link_->prepared.size());
-    link_->connection.prepare(name, std::string(sql));
+    link_->connection.prepare(name, WithPoints(sql, kPoints));
     return link_->prepared.emplace(sql, name).first->second;
 }
 

@@ -4,27 +4,22 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "host/server/storage/postgres/PostgresError.h"
-#include "host/server/storage/postgres/PostgresRows.h"
-#include "host/server/storage/postgres/PostgresText.h"
+#include "host/server/storage/postgres/PostgresValues.h"
+#include "host/server/storage/sql/SqlSession.h"
 
 namespace Tarvik::Server {
 
-/// One connection to a data base server, used by one thread at a time. Operations throw PostgresError.
-/// Statements run within a transaction; places for values are $1, $2 and so on.
-class PostgresConnection {
+/// One connection to a data base server. Operations throw SqlError.
+class PostgresConnection : public SqlConnection {
   public:
     /// A writing transaction sees, in each statement, what others have committed before that statement, so
     /// that it reads the present once it holds a lock. A reading one sees one moment throughout.
-    enum class Mode { Read, Write };
+    using Mode = SqlMode;
 
     /// Connects; refuses a data base that does not keep its texts in UTF-8.
     explicit PostgresConnection(const std::string& connectionText);
-    ~PostgresConnection();
-    PostgresConnection(const PostgresConnection&) = delete;
-    PostgresConnection& operator=(const PostgresConnection&) = delete;
+    ~PostgresConnection() override;
 
     void Begin(Mode mode);
     /// The changes are on the server's disk when this returns. When it throws because the connection broke,
@@ -33,15 +28,17 @@ class PostgresConnection {
     /// Undoes what was not committed; without effect when there is no transaction.
     void Rollback() noexcept;
 
-    /// Runs a statement. It is prepared and kept for the next time, so the texts must be few.
-    template <class... Values>
-    PostgresRows Run(std::string_view sql, const Values&... values) {
-        return RunTexts(sql, {PostgresText(values)...});
-    }
-    /// Runs all statements of a text that is used once.
+    /// Runs all statements of a text that is used once, within a transaction.
     PostgresRows Execute(const std::string& sql);
     /// False once the connection is broken; then it can only be ended.
     bool Usable() const noexcept;
+
+    std::optional<std::int32_t> Insert(const SqlBatch& batch) override;
+    bool SkipIds(std::int64_t lowest, std::int64_t highest) override;
+
+  protected:
+    std::unique_ptr<SqlRows> QueryWith(std::string_view sql, std::span<const SqlValue> values) override;
+    int RunWith(std::string_view sql, std::span<const SqlValue> values) override;
 
   private:
     struct Link;
@@ -49,6 +46,7 @@ class PostgresConnection {
     PostgresRows RunTexts(std::string_view sql, const std::vector<std::string>& values);
     /// The name of the prepared statement.
     const std::string& Prepared(std::string_view sql);
+    std::int64_t NextId();
     template <class Operation>
     auto Guarded(Operation&& operation) -> decltype(operation());
 

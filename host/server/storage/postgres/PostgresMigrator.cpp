@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/PostgresMigrator.h"
 
-#include "host/server/storage/postgres/PostgresMigrations.h"
-
 namespace Tarvik::Server {
 
 namespace {
@@ -33,17 +31,17 @@ constexpr const char* kMakeVersion =
 std::int64_t VersionOf(PostgresConnection& connection) {
     const PostgresRows own = connection.Execute(kOwnTable);
     if (!own.Flag(0, 0)) {
-        throw PostgresError("the data base has no schema that the user may use");
+        throw SqlError("the data base has no schema that the user may use");
     }
     if (!own.Flag(0, 1)) {
         if (connection.Execute(kAnyTable).Flag(0, 0)) {
-            throw PostgresError("the data base holds tables of another program");
+            throw SqlError("the data base holds tables of another program");
         }
         return 0;
     }
     const PostgresRows version = connection.Execute("SELECT version FROM schema_version");
     if (version.Count() != 1 || version.Integer(0, 0) < 1) {
-        throw PostgresError("the data base holds tables of another program");
+        throw SqlError("the data base holds tables of another program");
     }
     return version.Integer(0, 0);
 }
@@ -57,9 +55,8 @@ void MigratePostgres(PostgresConnection& connection) {
     const auto newest = static_cast<std::int64_t>(steps.size());
     const std::int64_t version = VersionOf(connection);
     if (version > newest) {
-        throw PostgresError("the data base has version " + std::to_string(version) +
-                            ", made by a newer program; this one reads versions up to " +
-                            std::to_string(newest));
+        throw SqlError("the data base has version " + std::to_string(version) +
+                       ", made by a newer program; this one reads versions up to " + std::to_string(newest));
     }
     if (version == newest) {
         return;

@@ -11,7 +11,7 @@ PostgresPool::PostgresPool(std::string connectionText, int most)
     idle_.reserve(static_cast<std::size_t>(free_));
 }
 
-std::unique_ptr<PostgresConnection> PostgresPool::Take(PostgresConnection::Mode mode) {
+std::unique_ptr<PostgresConnection> PostgresPool::Take(SqlMode mode) {
     {
         std::unique_lock lock(mutex_);
         freed_.wait(lock, [this] { return free_ > 0; });
@@ -25,12 +25,12 @@ std::unique_ptr<PostgresConnection> PostgresPool::Take(PostgresConnection::Mode 
     }
 }
 
-std::unique_ptr<PostgresConnection> PostgresPool::begin(PostgresConnection::Mode mode) {
+std::unique_ptr<PostgresConnection> PostgresPool::begin(SqlMode mode) {
     if (auto idle = TakeIdle()) {
         try {
             idle->Begin(mode);
             return idle;
-        } catch (const PostgresError&) {
+        } catch (const SqlError&) {
             // Nothing was asked of it yet, so a new one can take its place.
             DropIdle();
         }

@@ -18,16 +18,16 @@ class PostgresPool {
     PostgresPool(std::string connectionText, int most);
 
     /// A connection in a transaction of this mode. One that broke while it was idle is replaced, together
-    /// with all idle ones, since what broke it has mostly broken them too. Throws PostgresError when no
+    /// with all idle ones, since what broke it has mostly broken them too. Throws SqlError when no
     /// connection can be made.
-    std::unique_ptr<PostgresConnection> Take(PostgresConnection::Mode mode);
+    std::unique_ptr<PostgresConnection> Take(SqlMode mode);
     /// Takes a connection back, wherever it stands: undoes what was not committed and ends it when it is
     /// broken.
     void GiveBack(std::unique_ptr<PostgresConnection> connection) noexcept;
 
   private:
     std::unique_ptr<PostgresConnection> TakeIdle();
-    std::unique_ptr<PostgresConnection> begin(PostgresConnection::Mode mode);
+    std::unique_ptr<PostgresConnection> begin(SqlMode mode);
     void DropIdle() noexcept;
 
     std::string connectionText_;
@@ -40,8 +40,7 @@ class PostgresPool {
 /// A connection in a transaction for a scope; what was not committed at its end is undone.
 class PostgresLease {
   public:
-    PostgresLease(PostgresPool& pool, PostgresConnection::Mode mode)
-        : pool_(pool), connection_(pool.Take(mode)) {}
+    PostgresLease(PostgresPool& pool, SqlMode mode) : pool_(pool), connection_(pool.Take(mode)) {}
     ~PostgresLease() { pool_.GiveBack(std::move(connection_)); }
     PostgresLease(const PostgresLease&) = delete;
     PostgresLease& operator=(const PostgresLease&) = delete;

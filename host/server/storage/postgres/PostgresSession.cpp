@@ -7,9 +7,16 @@ namespace Tarvik::Server {
 
 PostgresSession::PostgresSession(const std::string& connectionText, const PostgresOptions& options)
     : pool_(connectionText, options.connections) {
-    PostgresLease lease(pool_, PostgresConnection::Mode::Write);
+    PostgresLease lease(pool_, SqlMode::Write);
     MigratePostgres(*lease);
     (*lease).Commit();
+}
+
+void PostgresSession::Transact(SqlMode mode, const Transaction& work) {
+    PostgresLease lease(pool_, mode);
+    if (work(*lease)) {
+        (*lease).Commit();
+    }
 }
 
 }  // namespace Tarvik::Server

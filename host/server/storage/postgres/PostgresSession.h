@@ -2,9 +2,7 @@
 #pragma once
 
 #include <string>
-#include <utility>
 
-#include "host/server/storage/contract/Outcome.h"
 #include "host/server/storage/postgres/PostgresPool.h"
 
 namespace Tarvik::Server {
@@ -14,39 +12,17 @@ struct PostgresOptions {
     int connections = 8;  ///< most at the same time, at least 1
 };
 
-/// Runs each operation as one transaction on a connection of its own and turns what fails into a fault.
-class PostgresSession {
+/// Runs each operation on a connection of its own. When the connection breaks while a change is being
+/// committed, the operation fails although the change may be stored.
+class PostgresSession : public SqlSession {
   public:
-    /// Connects and brings the data base to the present version; throws PostgresError.
+    /// Connects and brings the data base to the present version; throws SqlError.
     PostgresSession(const std::string& connectionText, const PostgresOptions& options);
 
-    /// `work(connection)` gives an Outcome; anything but success undoes what it did.
-    template <class Work>
-    auto Write(Work&& work) -> decltype(work(std::declval<PostgresConnection&>())) {
-        return Transact(PostgresConnection::Mode::Write, work);
-    }
-    /// A reader waits for no writer and sees what was stored when it began.
-    template <class Work>
-    auto Read(Work&& work) -> decltype(work(std::declval<PostgresConnection&>())) {
-        return Transact(PostgresConnection::Mode::Read, work);
-    }
+  protected:
+    void Transact(SqlMode mode, const Transaction& work) override;
 
   private:
-    template <class Work>
-    auto Transact(PostgresConnection::Mode mode, Work& work)
-        -> decltype(work(std::declval<PostgresConnection&>())) {
-        try {
-            PostgresLease lease(pool_, mode);
-            auto outcome = work(*lease);
-            if (outcome.Succeeded()) {
-                (*lease).Commit();
-            }
-            return outcome;
-        } catch (const std::exception& error) {
-            return Fault{FaultReason::StorageFailed, error.what()};
-        }
-    }
-
     PostgresPool pool_;
 };
 

@@ -3,13 +3,11 @@
 
 namespace Tarvik::Server {
 
-PostgresStorage::PostgresStorage(const std::string& connectionText, const PostgresOptions& options)
-    : session_(connectionText, options), catalog_(session_), schedule_(session_), remarks_(session_) {}
-
 std::unique_ptr<PostgresStorage> PostgresStorage::Open(const std::string& connectionText, std::string& error,
                                                        const PostgresOptions& options) {
     try {
-        return std::unique_ptr<PostgresStorage>(new PostgresStorage(connectionText, options));
+        auto session = std::make_unique<PostgresSession>(connectionText, options);
+        return std::unique_ptr<PostgresStorage>(new PostgresStorage(std::move(session)));
     } catch (const std::exception& failure) {
         error = failure.what();
         return nullptr;

@@ -4,18 +4,15 @@
 #include <memory>
 #include <string>
 
-#include "host/server/storage/contract/Storage.h"
-#include "host/server/storage/postgres/PostgresCatalog.h"
-#include "host/server/storage/postgres/PostgresRemarks.h"
-#include "host/server/storage/postgres/PostgresSchedule.h"
 #include "host/server/storage/postgres/PostgresSession.h"
+#include "host/server/storage/sql/SqlStorage.h"
 
 namespace Tarvik::Server {
 
 /// The storage in a PostgreSQL data base, which any number of processes share. Changes of one voyage are made
 /// one after the other, whichever process makes them. When the connection breaks while a change is being
 /// committed, the operation fails although the change may be stored.
-class PostgresStorage : public Storage {
+class PostgresStorage : public SqlStorage {
   public:
     /// Connects and brings an empty or older data base to the present version. `connectionText` is
     /// `key=value` pairs or a `postgresql://` address. Null, with an English text without passwords in
@@ -23,17 +20,8 @@ class PostgresStorage : public Storage {
     static std::unique_ptr<PostgresStorage> Open(const std::string& connectionText, std::string& error,
                                                  const PostgresOptions& options = {});
 
-    CatalogStorage& Catalog() override { return catalog_; }
-    ScheduleStorage& Schedule() override { return schedule_; }
-    RemarkStorage& Remarks() override { return remarks_; }
-
   private:
-    PostgresStorage(const std::string& connectionText, const PostgresOptions& options);
-
-    PostgresSession session_;
-    PostgresCatalog catalog_;
-    PostgresSchedule schedule_;
-    PostgresRemarks remarks_;
+    using SqlStorage::SqlStorage;
 };
 
 }  // namespace Tarvik::Server

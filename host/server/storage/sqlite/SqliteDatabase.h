@@ -7,21 +7,19 @@
 #include <string>
 #include <string_view>
 
-#include "host/server/storage/sqlite/SqliteError.h"
+#include "host/server/storage/sql/SqlSession.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
 
 namespace Tarvik::Server {
 
-/// One open data base file. Operations throw SqliteError with an English text.
-class SqliteDatabase {
+/// One open data base file. Operations throw SqlError with an English text.
+class SqliteDatabase : public SqlConnection {
   public:
     /// Opens the file, which is made when there is none.
     explicit SqliteDatabase(const std::string& path);
-    ~SqliteDatabase();
-    SqliteDatabase(const SqliteDatabase&) = delete;
-    SqliteDatabase& operator=(const SqliteDatabase&) = delete;
+    ~SqliteDatabase() override;
 
     /// Runs every statement of the text.
     void Execute(std::string_view sql);
@@ -29,11 +27,12 @@ class SqliteDatabase {
     std::int64_t QueryInteger(std::string_view sql);
     /// Rows that the last statement touched.
     int Changes() const;
-    bool InTransaction() const;
     bool ReadOnly() const;
     /// Throws what went wrong last, with `doing` before it.
     [[noreturn]] void Throw(std::string_view doing) const;
-    sqlite3* Handle() const { return handle_; }
+
+    std::optional<std::int32_t> Insert(const SqlBatch& batch) override;
+    bool SkipIds(std::int64_t lowest, std::int64_t highest) override;
 
     /// A prepared statement that nobody else holds until it is returned. Statements are kept for the next
     /// one who asks, so their texts must be few.
@@ -41,9 +40,30 @@ class SqliteDatabase {
     /// Takes back a statement, wherever it stands.
     void Return(std::string_view sql, sqlite3_stmt* statement) noexcept;
 
+  protected:
+    std::unique_ptr<SqlRows> QueryWith(std::string_view sql, std::span<const SqlValue> values) override;
+    int RunWith(std::string_view sql, std::span<const SqlValue> values) override;
+
   private:
+    friend class SqliteTransaction;
+
     sqlite3* handle_ = nullptr;
     std::map<std::string, sqlite3_stmt*, std::less<>> statements_;  ///< null while lent
+};
+
+/// A transaction that is undone at the end of its scope unless it was committed.
+class SqliteTransaction {
+  public:
+    /// A writing transaction takes the write lock at once, so that it cannot fail for it half-way.
+    SqliteTransaction(SqliteDatabase& database, SqlMode mode);
+    ~SqliteTransaction();
+    SqliteTransaction(const SqliteTransaction&) = delete;
+    SqliteTransaction& operator=(const SqliteTransaction&) = delete;
+
+    void Commit();
+
+  private:
+    SqliteDatabase& database_;
 };
 
 }  // namespace Tarvik::Server

@@ -4,12 +4,9 @@
 #include <memory>
 #include <mutex>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "host/server/storage/contract/Outcome.h"
-#include "host/server/storage/sqlite/SqliteDatabase.h"
-#include "host/server/storage/sqlite/SqliteTransaction.h"
+#include "host/server/storage/sqlite/SqliteMigrator.h"
 
 namespace Tarvik::Server {
 
@@ -19,33 +16,16 @@ struct SqliteOptions {
 };
 
 /// The connections to one file: one that writes, behind a lock, and as many that read as operations read at
-/// the same time. Runs each operation as one transaction and turns what fails into a fault.
-class SqliteSession {
+/// the same time. A write-ahead log stands beside the file, and every change is synced to disk. Other
+/// processes may have the file open too.
+class SqliteSession : public SqlSession {
   public:
-    /// Opens the file and brings it to the present version; throws SqliteError. An empty path or ":memory:"
-    /// is a data base of this session alone, which ends with it.
-    SqliteSession(const std::string& path, const SqliteOptions& options);
+    /// Opens the file, making it when there is none, and brings it to the present version; throws SqlError.
+    /// An empty path or ":memory:" is a data base of this session alone, which ends with it.
+    SqliteSession(const std::string& path, const SqliteSchema& schema, const SqliteOptions& options = {});
 
-    /// `work(database)` gives an Outcome; anything but success undoes what it did.
-    template <class Work>
-    auto Write(Work&& work) -> decltype(work(std::declval<SqliteDatabase&>())) {
-        return Guarded([&] {
-            const std::scoped_lock lock(writing_);
-            return Transact(writer_, SqliteTransaction::Mode::Write, work);
-        });
-    }
-    /// A reader waits for no writer and sees what was stored when it began.
-    template <class Work>
-    auto Read(Work&& work) -> decltype(work(std::declval<SqliteDatabase&>())) {
-        return Guarded([&] {
-            if (shared_) {
-                Reader reader(*this);
-                return Transact(reader.Get(), SqliteTransaction::Mode::Read, work);
-            }
-            const std::scoped_lock lock(writing_);
-            return Transact(writer_, SqliteTransaction::Mode::Read, work);
-        });
-    }
+  protected:
+    void Transact(SqlMode mode, const Transaction& work) override;
 
   private:
     /// Borrows a reading connection for its scope.
@@ -62,23 +42,6 @@ class SqliteSession {
         std::unique_ptr<SqliteDatabase> database_;
     };
 
-    template <class Work>
-    static auto Transact(SqliteDatabase& database, SqliteTransaction::Mode mode, Work& work) {
-        SqliteTransaction transaction(database, mode);
-        auto outcome = work(database);
-        if (outcome.Succeeded()) {
-            transaction.Commit();
-        }
-        return outcome;
-    }
-    template <class Operation>
-    static auto Guarded(Operation&& operation) -> decltype(operation()) {
-        try {
-            return operation();
-        } catch (const std::exception& error) {
-            return Fault{FaultReason::StorageFailed, error.what()};
-        }
-    }
     std::unique_ptr<SqliteDatabase> TakeReader();
     void GiveBack(std::unique_ptr<SqliteDatabase> reader) noexcept;
 

@@ -12,31 +12,35 @@ SqliteStatement::~SqliteStatement() {
     database_.Return(sql_, handle_);
 }
 
-void SqliteStatement::Reset() {
-    sqlite3_reset(handle_);
-    sqlite3_clear_bindings(handle_);
-}
-
-void SqliteStatement::BindOne(int place, std::string_view text) {
-    const char* bytes = text.data() != nullptr ? text.data() : "";
-    if (sqlite3_bind_text64(handle_, place, bytes, text.size(), SQLITE_TRANSIENT, SQLITE_UTF8) != SQLITE_OK) {
-        database_.Throw("the data base refused a text");
+void SqliteStatement::Bind(std::span<const SqlValue> values) {
+    if (used_) {
+        sqlite3_reset(handle_);
+        sqlite3_clear_bindings(handle_);
+    }
+    used_ = true;
+    int place = 0;
+    for (const SqlValue& value : values) {
+        if (BindOne(++place, value) != SQLITE_OK) {
+            database_.Throw("the data base refused a value");
+        }
     }
 }
 
-void SqliteStatement::BindOne(int place, double number) {
-    if (sqlite3_bind_double(handle_, place, number) != SQLITE_OK) {
-        database_.Throw("the data base refused a number");
+int SqliteStatement::BindOne(int place, const SqlValue& value) {
+    if (const auto* text = std::get_if<std::string_view>(&value.Get())) {
+        const char* bytes = text->data() != nullptr ? text->data() : "";
+        return sqlite3_bind_text64(handle_, place, bytes, text->size(), SQLITE_TRANSIENT, SQLITE_UTF8);
     }
+    if (const auto* number = std::get_if<std::int64_t>(&value.Get())) {
+        return sqlite3_bind_int64(handle_, place, *number);
+    }
+    if (const auto* number = std::get_if<double>(&value.Get())) {
+        return sqlite3_bind_double(handle_, place, *number);
+    }
+    return sqlite3_bind_int64(handle_, place, std::get<bool>(value.Get()) ? 1 : 0);
 }
 
-void SqliteStatement::BindInteger(int place, std::int64_t number) {
-    if (sqlite3_bind_int64(handle_, place, number) != SQLITE_OK) {
-        database_.Throw("the data base refused a number");
-    }
-}
-
-bool SqliteStatement::Step() {
+bool SqliteStatement::Next() {
     used_ = true;
     const int result = sqlite3_step(handle_);
     if (result == SQLITE_ROW) {
@@ -49,7 +53,7 @@ bool SqliteStatement::Step() {
 }
 
 int SqliteStatement::Run() {
-    while (Step()) {
+    while (Next()) {
     }
     return database_.Changes();
 }

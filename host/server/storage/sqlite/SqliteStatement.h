@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <concepts>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -12,44 +12,26 @@ struct sqlite3_stmt;
 
 namespace Tarvik::Server {
 
-/// One prepared statement, whose text outlives it. Columns count from 0; operations throw SqliteError.
-class SqliteStatement {
+/// One prepared statement, whose text outlives it. Operations throw SqlError.
+class SqliteStatement final : public SqlRows {
   public:
     SqliteStatement(SqliteDatabase& database, std::string_view sql);
-    ~SqliteStatement();
-    SqliteStatement(const SqliteStatement&) = delete;
-    SqliteStatement& operator=(const SqliteStatement&) = delete;
+    ~SqliteStatement() override;
 
     /// Binds all values in their order, after a reset.
-    template <class... Values>
-    SqliteStatement& Bind(const Values&... values) {
-        if (used_) {
-            Reset();
-        }
-        used_ = true;
-        int place = 0;
-        (BindOne(++place, values), ...);
-        return *this;
-    }
-    /// Goes to the next row; false when there is none.
-    bool Step();
+    void Bind(std::span<const SqlValue> values);
+    bool Next() override;
     /// Runs a statement that gives no rows; gives the count of rows that it touched.
     int Run();
 
-    std::int64_t Integer(int column) const;
-    std::int32_t Integer32(int column) const { return static_cast<std::int32_t>(Integer(column)); }
-    double Real(int column) const;
-    std::string Text(int column) const;
+    std::string Text(int column) const override;
+    std::int64_t Integer(int column) const override;
+    double Real(int column) const override;
+    bool Flag(int column) const override { return Integer(column) != 0; }
 
   private:
-    void Reset();
-    void BindOne(int place, std::string_view text);
-    void BindOne(int place, double number);
-    void BindInteger(int place, std::int64_t number);
-    template <std::integral Number>
-    void BindOne(int place, Number number) {
-        BindInteger(place, static_cast<std::int64_t>(number));
-    }
+    /// Gives what the library says of it.
+    int BindOne(int place, const SqlValue& value);
 
     SqliteDatabase& database_;
     std::string_view sql_;

@@ -3,17 +3,11 @@
 
 namespace Tarvik::Server {
 
-SqliteStorage::SqliteStorage(const std::string& path, const SqliteOptions& options)
-    : session_(path, options),
-      catalog_(session_),
-      schedule_(session_),
-      remarks_(session_),
-      transfer_(session_) {}
-
 std::unique_ptr<SqliteStorage> SqliteStorage::Open(const std::string& path, std::string& error,
                                                    const SqliteOptions& options) {
     try {
-        return std::unique_ptr<SqliteStorage>(new SqliteStorage(path, options));
+        auto session = std::make_unique<SqliteSession>(path, SqliteSchema{Migrations()}, options);
+        return std::unique_ptr<SqliteStorage>(new SqliteStorage(std::move(session)));
     } catch (const std::exception& failure) {
         error = failure.what();
         return nullptr;

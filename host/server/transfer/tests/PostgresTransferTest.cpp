@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/postgres/PostgresStorage.h"
-#include "host/server/storage/postgres/PostgresTransfer.h"
 #include "host/server/storage/postgres/tests/PostgresServer.h"
 #include "host/server/transfer/tests/SampleOwner.h"
 #include "host/server/transfer/tests/TransferFixture.h"
@@ -14,25 +13,25 @@ class PostgresTransferTest : public TransferTest {
   protected:
     PostgresTransferTest() {
         storage_ = PostgresStorage::Open(connection_, error);
-        transfer_ = PostgresTransfer::Open(connection_, error);
+        transfer_ = PostgresStorage::Open(connection_, error, {1});
         EXPECT_TRUE(storage_ && transfer_) << error;
         MakeSample(*from.storage, "ann");
         EXPECT_TRUE(Export(from, {}));
     }
     bool ImportThere(const ImportChoice& choice = {}) {
         const auto reader = TransferReader::Open(Path(), error);
-        return Importer(*transfer_, nullptr, [](const std::string&) { return true; })
+        return Importer(transfer_->Transfer(), nullptr, [](const std::string&) { return true; })
             .Run(choice, *reader, done, error);
     }
     bool ExportThere() {
         TransferContent content;
-        return Exporter(*transfer_, nullptr, [] { return std::int64_t{1772323200}; })
+        return Exporter(transfer_->Transfer(), nullptr, [] { return std::int64_t{1772323200}; })
             .Run({"ann", false}, Path("again"), content, error);
     }
 
     std::string connection_ = PostgresServer::Instance().MakeDatabase();
     std::unique_ptr<PostgresStorage> storage_;
-    std::unique_ptr<PostgresTransfer> transfer_;
+    std::unique_ptr<PostgresStorage> transfer_;
 };
 
 TEST_F(PostgresTransferTest, UserComesOutAsItWentInToTheByte) {
@@ -55,7 +54,7 @@ TEST_F(PostgresTransferTest, TakenIdsGiveNewOnesToAll) {
     ASSERT_TRUE(ImportThere()) << error;
     EXPECT_NE(done.find("all records got new ones"), std::string::npos);
     const OwnerCopy before = from.storage->Transfer().ReadOwner("ann").Value();
-    const OwnerCopy after = transfer_->ReadOwner("ann").Value();
+    const OwnerCopy after = transfer_->Transfer().ReadOwner("ann").Value();
     ASSERT_EQ(after.categories.size(), 2U);
     const VoyageCopy& voyage = after.categories[1].voyages.at(0);
     EXPECT_NE(voyage.voyage.id, before.categories[1].voyages[0].voyage.id);
@@ -63,7 +62,7 @@ TEST_F(PostgresTransferTest, TakenIdsGiveNewOnesToAll) {
     EXPECT_EQ(voyage.book->rows, before.categories[1].voyages[0].book->rows);
     const RemarkObject port{kPortCallRemark, voyage.voyage.id + "5 Sea \"x\""};
     EXPECT_EQ(storage_->Remarks().LoadRemarks("ann", port).Value().size(), 1U);
-    EXPECT_EQ(transfer_->ListOwners().Value(), (std::vector<std::string>{"ann", "bob"}));
+    EXPECT_EQ(transfer_->Transfer().ListOwners().Value(), (std::vector<std::string>{"ann", "bob"}));
 }
 
 TEST_F(PostgresTransferTest, ExistingRecordsAreRefusedUnlessAdded) {
@@ -81,12 +80,12 @@ TEST_F(PostgresTransferTest, RowThatTheDataBaseRefusesUndoesEverythingBeforeIt) 
     std::vector<OwnerCopy> owners{{"ann", {{"1000001", "A", DeletionState::InUse, {}}}, {}},
                                   {"bert", {{"1000002", "B", DeletionState::InUse, {voyage}}}, {}}};
     std::size_t next = 0;
-    const auto report = transfer_->AddOwners(
+    const auto report = transfer_->Transfer().AddOwners(
         {{"ann", "bert"}, 1000001, 1000003, false}, [&]() -> Outcome<std::optional<OwnerCopy>> {
             return next < owners.size() ? std::optional(owners[next++]) : std::optional<OwnerCopy>();
         });
     ASSERT_FALSE(report.Succeeded());
-    EXPECT_TRUE(transfer_->ListOwners().Value().empty());
+    EXPECT_TRUE(transfer_->Transfer().ListOwners().Value().empty());
     ASSERT_TRUE(ImportThere()) << error;
     EXPECT_EQ(done, "imported 1 user, 2 categories, 3 voyages, 5 remarks") << "the ids are still free";
 }

@@ -7,8 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/server/storage/sqlite/Migrations.h"
 #include "host/server/storage/sqlite/SqliteDatabase.h"
+#include "host/server/storage/sqlite/SqliteMigrator.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "host/server/storage/sql/SqlConnection.h"
+
+namespace pqxx {
+class result;
+}
+
+namespace Tarvik::Server {
+
+/// A value as the data base server reads it, independent of any locale; a number reads back as the same to
+/// the bit. Throws SqlError for a text with a zero byte, behind which the data base would lose the rest.
+std::string PostgresText(const SqlValue& value);
+
+/// Adds one element to the text of an array, which begins as "{" and gets its "}" from the caller.
+void AppendElement(std::string& array, std::string_view element);
+
+/// What a statement gave, all of it. Rows and columns count from 0; a value that is not of the asked type
+/// throws SqlError.
+class PostgresRows {
+  public:
+    explicit PostgresRows(std::shared_ptr<const pqxx::result> result) : result_(std::move(result)) {}
+
+    int Count() const;
+    /// Rows that an INSERT, UPDATE or DELETE touched.
+    int Changes() const;
+
+    std::string Text(int row, int column) const;
+    std::int64_t Integer(int row, int column) const;
+    double Real(int row, int column) const;
+    bool Flag(int row, int column) const;
+
+  private:
+    std::shared_ptr<const pqxx::result> result_;
+};
+
+}  // namespace Tarvik::Server

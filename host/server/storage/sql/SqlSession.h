@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <optional>
+#include <utility>
+
+#include "host/server/storage/contract/Outcome.h"
+#include "host/server/storage/sql/SqlConnection.h"
+
+namespace Tarvik::Server {
+
+/// Whether a transaction changes anything.
+enum class SqlMode { Read, Write };
+
+/// The connections to one data base. Runs each operation as one transaction and turns what fails into a
+/// fault. Safe to call from any thread.
+class SqlSession {
+  public:
+    SqlSession() = default;
+    virtual ~SqlSession() = default;
+    SqlSession(const SqlSession&) = delete;
+    SqlSession& operator=(const SqlSession&) = delete;
+
+    /// `work(connection)` gives an Outcome; anything but success undoes what it did.
+    template <class Work>
+    auto Write(Work&& work) -> decltype(work(std::declval<SqlConnection&>())) {
+        return Guarded(SqlMode::Write, work);
+    }
+    /// The same for work that changes nothing. It waits for no writer and sees what was stored when it began.
+    template <class Work>
+    auto Read(Work&& work) -> decltype(work(std::declval<SqlConnection&>())) {
+        return Guarded(SqlMode::Read, work);
+    }
+
+  protected:
+    /// Gives true when what it did is to be kept.
+    using Transaction = std::function<bool(SqlConnection&)>;
+
+    /// Runs the work in one transaction. What is kept is on disk when this returns; everything else, also
+    /// when the work throws, is undone. Throws SqlError.
+    virtual void Transact(SqlMode mode, const Transaction& work) = 0;
+
+  private:
+    template <class Work>
+    auto Guarded(SqlMode mode, Work& work) -> decltype(work(std::declval<SqlConnection&>())) {
+        try {
+            std::optional<decltype(work(std::declval<SqlConnection&>()))> outcome;
+            Transact(mode, [&outcome, &work](SqlConnection& connection) {
+                outcome.emplace(work(connection));
+                return outcome->Succeeded();
+            });
+            return std::move(*outcome);
+        } catch (const std::exception& error) {
+            return Fault{FaultReason::StorageFailed, error.what()};
+        }
+    }
+};
+
+}  // namespace Tarvik::Server
