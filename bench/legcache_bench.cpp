@@ -31,7 +31,8 @@ void LoadLegCache(benchmark::State& state) {
     const auto count = static_cast<std::size_t>(state.range(0));
     const Tarvik::TestSupport::DataFolder folder;
     VoyageStore store;
-    VoyPortCallModule module(&store);
+    PortDirectory directory;
+    VoyPortCallModule module(&store, &directory);
     if (module.SaveCache("", LegsOf(count)) != 0) {
         state.SkipWithError("no cache file");
     }

@@ -5,10 +5,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-bool LacksPurpose(const VoyPortCall& row) {
-    return row.pp.empty() || row.pp == " ";
-}
-
 bool IsSamePlace(const VoyPortCall& before, const VoyPortCall& row, const SamePortLinks& links) {
     return row.ppn == before.ppn || links.count(before.ppi + "-" + row.ppi) > 0;
 }
@@ -16,8 +12,8 @@ bool IsSamePlace(const VoyPortCall& before, const VoyPortCall& row, const SamePo
 }  // namespace
 
 void PrepareFirstPurpose(PortCallRows& rows) {
-    if (!rows.empty() && LacksPurpose(rows.front())) {
-        rows.front().pp = "L";
+    if (!rows.empty() && IsPurposeMissing(rows.front().pp)) {
+        rows.front().pp = kLoad;
     }
 }
 
@@ -28,8 +24,8 @@ int DropSamePortRows(const PortCallRows& rows, const SamePortLinks& links, PortC
             continue;
         }
         kept.push_back(rows[i]);
-        if (LacksPurpose(kept.back())) {
-            kept.back().pp = "D";
+        if (IsPurposeMissing(kept.back().pp)) {
+            kept.back().pp = kDischarge;
         }
     }
     out.clear();

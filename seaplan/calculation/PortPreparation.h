@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <map>
-#include <string>
-
+#include "seaplan/data/PointTables.h"
 #include "seaplan/data/VoyPortCall.h"
 
 /// What happens to typed rows before a calculation.
 namespace Tarvik::Seaplan {
-
-/// Keys "id-id" of ports that are one place.
-using SamePortLinks = std::map<std::string, std::string>;
 
 /// Gives row 0 the purpose "L" when it has none.
 void PrepareFirstPurpose(PortCallRows& rows);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/PositionBook.h"
 
-#include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/Geodesy.h>
 
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
 
@@ -13,18 +13,13 @@ namespace {
 
 constexpr double kKmPerNauticalMile = 1.852;
 constexpr double kLeastBookSpeed = 0.00001;
-constexpr int kEnglish = 1033;
-
-std::string PortName(const std::string& id) {
-    return Interface::GetValueByName("/points", id, kEnglish);
-}
 
 /// Makes the last point of a segment the named point that the segment leads to.
 int NameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& row) {
     row.pointId = id;
     row.pst = PointKindOfId(id);
     if (row.pst == PortPoint) {
-        row.psn = PortName(id);
+        row.psn = PortNameOf(id);
         return 0;
     }
     const auto found = routePoints.find(id);
@@ -130,7 +125,7 @@ int BookFromStops(const RouteStops& stops, const PointMap& routePoints, BookPoin
     }
     PosBookPoint start;
     start.pointId = stops.front().point_cd;
-    start.psn = PortName(start.pointId);
+    start.psn = PortNameOf(start.pointId);
     start.pst = PortPoint;
     start.psp = 0;
     rows.push_back(std::move(start));

@@ -3,7 +3,7 @@
 
 #include <map>
 
-#include "seaplan/calculation/PointTables.h"
+#include "seaplan/data/PointTables.h"
 #include "seaplan/data/RouteStop.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"

@@ -73,7 +73,7 @@ int BuildSchedule(const Util::_datetime_t& start, const PortCallRows& rows, Port
     for (VoyPortCall row : rows) {
         bool timed = false;
         if (result.empty()) {
-            row.pp = "L";
+            row.pp = kLoad;
             row.pw = 0;
             timed = StartAt(start, row);
         } else {

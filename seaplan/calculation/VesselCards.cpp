@@ -1,23 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/VesselCards.h"
 
-#include <tarvik/interface/ValueDictionary.h>
-
 #include "seaplan/calculation/Pointset.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
-
-namespace {
-
-constexpr int kEnglish = 1033;
-
-/// Rows of a schedule have no port ids, the dictionary has.
-std::string PortIdOf(const VoyPortCall& row) {
-    return Interface::GetNameByValue("/points", row.ppn, kEnglish);
-}
-
-}  // namespace
 
 Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& position,
                                    const Util::_datetime_t& now) {
@@ -31,10 +19,11 @@ Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& pos
     }
     card.vessel.time = GmtTimerOfPlanTime(now);
     if (!voyage.portCalls.empty()) {
+        // Rows of a schedule have no port ids, the dictionary has.
         card.vessel.firstPortName = voyage.portCalls.front().ppn;
-        card.vessel.firstPortId = PortIdOf(voyage.portCalls.front());
+        card.vessel.firstPortId = PortIdOf(voyage.portCalls.front().ppn);
         card.vessel.lastPortName = voyage.portCalls.back().ppn;
-        card.vessel.lastPortId = PortIdOf(voyage.portCalls.back());
+        card.vessel.lastPortId = PortIdOf(voyage.portCalls.back().ppn);
     }
     return card;
 }

@@ -183,7 +183,7 @@ int VoyageLayer::SetExtent(const PointTexts& points) {
     return 0;
 }
 
-int VoyageLayer::DrawRoute(const RouteStops& stops, const std::string& database, PointMap& routePoints) {
+int VoyageLayer::DrawRoute(const RouteStops& stops, PortDirectory& ports) {
     if (stops.size() < 2) {
         return -1;
     }
@@ -204,11 +204,10 @@ int VoyageLayer::DrawRoute(const RouteStops& stops, const std::string& database,
     if (SetExtent(points) != 0) {
         return -6;
     }
-    return DrawRoutePointLabels(stops, database, routePoints) == 0 ? 0 : -7;
+    return DrawRoutePointLabels(stops, ports) == 0 ? 0 : -7;
 }
 
-int VoyageLayer::DrawRoutePointLabels(const RouteStops& stops, const std::string& database,
-                                      PointMap& routePoints) {
+int VoyageLayer::DrawRoutePointLabels(const RouteStops& stops, PortDirectory& ports) {
     if (stops.size() < 2) {
         return -1;
     }
@@ -219,12 +218,13 @@ int VoyageLayer::DrawRoutePointLabels(const RouteStops& stops, const std::string
     if (groups.empty()) {
         return 0;
     }
-    if (LoadRoutePoints(database, routePoints) != 0) {
+    const PointMap* routePoints = ports.RoutePoints();
+    if (routePoints == nullptr) {
         return -2;
     }
     for (const auto& group : groups) {
-        const auto found = routePoints.find(group.rp_id);
-        if (found == routePoints.end()) {
+        const auto found = routePoints->find(group.rp_id);
+        if (found == routePoints->end()) {
             return -3;
         }
         AddLabel(routePointLabel, found->second);

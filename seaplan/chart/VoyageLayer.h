@@ -6,8 +6,8 @@
 
 #include <tarvik/interface/ChartRecords.h>
 
-#include "seaplan/calculation/PointTables.h"
 #include "seaplan/chart/LineSplit.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/RouteStop.h"
 
 namespace Tarvik::Seaplan {
@@ -33,8 +33,8 @@ class VoyageLayer {
     /// Sends the view that shows all points, unless autoExtent is off. 0.
     int SetExtent(const PointTexts& points);
     /// Draws a calculated route with its labels. -1 fewer than two stops; -2 to -7 by step.
-    int DrawRoute(const RouteStops& stops, const std::string& database, PointMap& routePoints);
-    int DrawRoutePointLabels(const RouteStops& stops, const std::string& database, PointMap& routePoints);
+    int DrawRoute(const RouteStops& stops, PortDirectory& ports);
+    int DrawRoutePointLabels(const RouteStops& stops, PortDirectory& ports);
     /// Draws the rows of a position book as the remaining line. -1 fewer than two; -2, -3; -4 empty id; -5,
     /// -6.
     int DrawBook(const std::string& vi, const PointTexts& positions);

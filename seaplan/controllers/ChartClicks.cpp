@@ -73,21 +73,21 @@ const char* ChartClicks::OnShip(const std::string* vi) {
 }
 
 Outcome<ClickStep> ChartClicks::ShowAlternatives(const std::string& id) {
-    const PointMap& points = routes_.RoutePoints();
-    const auto clicked = points.find(id);
-    if (clicked == points.end()) {
+    const PortDirectory& ports = routes_.Ports();
+    const RoutePointRow* clicked = ports.FindReadRoutePoint(id);
+    if (clicked == nullptr) {
         return ClickStep::Id;
     }
-    PointTexts extent{clicked->second.position};
+    PointTexts extent{clicked->position};
     clickedRoutePoint_ = id;
     layer_.ClearAlternatives();
     for (const std::string& alternative : AlternativesOf(routes_.Pending().Stops(), id)) {
-        const auto found = points.find(alternative);
-        if (found == points.end()) {
+        const RoutePointRow* found = ports.FindReadRoutePoint(alternative);
+        if (found == nullptr) {
             return ClickStep::Alternative;
         }
-        extent.push_back(found->second.position);
-        layer_.AddAlternativeLabel(found->second);
+        extent.push_back(found->position);
+        layer_.AddAlternativeLabel(*found);
     }
     return layer_.SetExtent(extent) < 0 ? ClickStep::Extent : Outcome<ClickStep>();
 }
@@ -105,7 +105,7 @@ Outcome<ClickStep> ChartClicks::ChooseAlternative(const std::string& id) {
         return asked.At() == RouteStep::Send ? ClickStep::Send : ClickStep::Parse;
     }
     routes_.Pending().Change(std::move(stops));
-    const int drawn = layer_.DrawRoute(routes_.Pending().Stops(), PointDatabasePath(), routes_.RoutePoints());
+    const int drawn = layer_.DrawRoute(routes_.Pending().Stops(), routes_.Ports());
     if (routeChosen) {
         routeChosen();
     }

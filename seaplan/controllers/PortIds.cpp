@@ -4,14 +4,14 @@
 #include <algorithm>
 #include <cstddef>
 
-#include <tarvik/interface/ValueDictionary.h>
+#include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
 
 void ResolvePortIds(PortCallRows& rows) {
     for (VoyPortCall& row : rows) {
         if (row.ppi.empty()) {
-            row.ppi = Interface::GetNameByValue("/points", row.ppn, 1033);
+            row.ppi = PortIdOf(row.ppn);
         }
     }
 }

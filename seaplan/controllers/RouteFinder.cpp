@@ -3,8 +3,6 @@
 
 #include <utility>
 
-#include <tarvik/interface/ValueDictionary.h>
-
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/RouteRequest.h"
 #include "seaplan/controllers/RouteExchange.h"
@@ -65,22 +63,24 @@ Outcome<FindStep> RouteFinder::Find(const PortCallRows& rows, PortCallRows& resu
 
 Outcome<BookStep> RouteFinder::BookOfRoute(BookPoints& rows) {
     rows.clear();
-    if (LoadRoutePoints(PointDatabasePath(), routePoints_) < 0) {
+    const PointMap* routePoints = ports_.RoutePoints();
+    if (routePoints == nullptr) {
         return BookStep::Points;
     }
-    const int made = BookFromStops(pending_.Stops(), routePoints_, rows);
+    const int made = BookFromStops(pending_.Stops(), *routePoints, rows);
     return made < 0 ? Outcome<BookStep>(BookStep::Rows, made) : Outcome<BookStep>();
 }
 
 Outcome<PlaceStep> RouteFinder::PortPositions(const PortCallRows& rows, std::vector<RoutePointRow>& out) {
     out.clear();
-    if (LoadPortPositions(PointDatabasePath(), portPositions_) < 0) {
+    const PointMap* positions = ports_.PortPositions();
+    if (positions == nullptr) {
         return PlaceStep::Points;
     }
     for (const VoyPortCall& row : rows) {
-        const std::string id = Interface::GetNameByValue("/points", row.ppn, 1033);
-        const auto found = portPositions_.find(id);
-        if (found == portPositions_.end()) {
+        const std::string id = PortIdOf(row.ppn);
+        const auto found = positions->find(id);
+        if (found == positions->end()) {
             return PlaceStep::Unknown;
         }
         out.push_back({id, row.ppn, found->second.position});

@@ -3,10 +3,10 @@
 
 #include <vector>
 
-#include "seaplan/calculation/PointTables.h"
 #include "seaplan/controllers/CachedLegs.h"
 #include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/data/Outcome.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/VoyPositionBook.h"
 
 namespace Tarvik::Seaplan {
@@ -35,11 +35,10 @@ inline constexpr CodeTable kPortPositionsCodes{
     Code{PlaceStep::Unknown, -2},  // a port that it does not hold; the ports before it are in the list
 };
 
-/// Finds the sea route between the rows' ports and keeps it as the pending one. Route points and port
-/// positions are read from the local table once and stay in memory.
+/// Finds the sea route between the rows' ports and keeps it as the pending one.
 class RouteFinder {
   public:
-    explicit RouteFinder(PendingRoute& pending) : pending_(pending) {}
+    RouteFinder(PendingRoute& pending, PortDirectory& ports) : pending_(pending), ports_(ports) {}
 
     /// The route of the rows, by one request for the whole list or leg by leg through the cache. Each result
     /// takes id and distance (NM of a whole list, km of cached legs) from its stop, the rest from its row.
@@ -55,16 +54,15 @@ class RouteFinder {
     }
     /// The route that Find found last, until it is saved or dropped.
     PendingRoute& Pending() { return pending_; }
-    /// Route points by id; empty until a route was drawn or made a book.
-    PointMap& RoutePoints() { return routePoints_; }
+    /// Route points and ports by id.
+    PortDirectory& Ports() { return ports_; }
 
   private:
     Outcome<FindStep> Stops(const PortCallRows& rows, bool wholeList, RouteStops& stops);
 
     PendingRoute& pending_;
+    PortDirectory& ports_;
     CachedLegs legs_;
-    PointMap routePoints_;
-    PointMap portPositions_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -5,8 +5,8 @@
 
 namespace Tarvik::Seaplan {
 
-VoyPortCallModule::VoyPortCallModule(VoyageStore* store)
-    : routes_(pending_), drawing_(layer_), clicks_(store, layer_, routes_, drawing_) {}
+VoyPortCallModule::VoyPortCallModule(VoyageStore* store, PortDirectory* ports)
+    : routes_(pending_, *ports), drawing_(layer_), clicks_(store, layer_, routes_, drawing_) {}
 
 int VoyPortCallModule::GetRoute(const PortCallRows& rows, PortCallRows& results, bool wholeList) {
     return kGetRouteCodes.Of(routes_.Find(rows, results, wholeList));
@@ -35,7 +35,7 @@ int VoyPortCallModule::PortPositions(const PortCallRows& rows, std::vector<Route
 }
 
 int VoyPortCallModule::DrawCurrentRoute() {
-    return layer_.DrawRoute(pending_.Stops(), PointDatabasePath(), routes_.RoutePoints());
+    return layer_.DrawRoute(pending_.Stops(), routes_.Ports());
 }
 
 int VoyPortCallModule::DrawBook(const VoyInfo& voyage) {

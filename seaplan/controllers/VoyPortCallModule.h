@@ -19,7 +19,7 @@ namespace Tarvik::Seaplan {
 /// folder that do the work. Results: 0, or the negative number that the table named at the operation gives.
 class VoyPortCallModule : public Core::TObject {
   public:
-    explicit VoyPortCallModule(VoyageStore* store);
+    VoyPortCallModule(VoyageStore* store, PortDirectory* ports);
     static VoyPortCallModule* Instance();
 
     // Server: the commands of the protocol, with their numbers.

@@ -6,6 +6,7 @@
 
 #include <tarvik/util/DateTime.h>
 
+#include "seaplan/data/Purposes.h"
 #include "seaplan/data/VoyPositionBook.h"
 
 namespace Tarvik::Seaplan {
@@ -34,7 +35,7 @@ struct PosBookRow : PosBookPlace {
 
 /// One port with the waypoints that lead to it from the port before; the port itself is not among them.
 struct PosBookPortRow : PosBookPlace {
-    std::string purpose = "B";
+    std::string purpose = kBallast;
     double portTime = 0;  ///< hours
     std::vector<PosBookRow> rows;
 };

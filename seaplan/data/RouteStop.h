@@ -52,11 +52,4 @@ struct RouteLegCacheEntry {
     Util::_datetime_t stamp;  ///< local time of the server's reply
 };
 
-/// A row of the port table; position is "x,y".
-struct RoutePointRow {
-    std::string id;
-    std::string name;
-    std::string position;
-};
-
 }  // namespace Tarvik::Seaplan

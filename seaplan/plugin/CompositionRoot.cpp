@@ -6,9 +6,9 @@ namespace Tarvik::Seaplan {
 CompositionRoot::CompositionRoot(VoyageStore* store)
     : catalogModule_(store),
       catalog_(&catalogModule_, store),
-      portCallModule_(store),
+      portCallModule_(store, &ports_),
       voyages_(&portCallModule_, &catalog_, store),
-      planService_(&catalog_, &voyages_, store) {
+      planService_(&catalog_, &voyages_, store, &ports_) {
     catalog_.SetVoyController(&voyages_);
 }
 

@@ -5,6 +5,7 @@
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/plugin/PlanService.h"
 
 namespace Tarvik::Seaplan {
@@ -20,10 +21,12 @@ class CompositionRoot {
     VoyCatalogController& Catalog() { return catalog_; }
     VoyPortCallModule& PortCallModule() { return portCallModule_; }
     VoyController& Voyages() { return voyages_; }
+    PortDirectory& Ports() { return ports_; }
     /// Offers what works without a window; a second call changes nothing.
     void OfferServices();
 
   private:
+    PortDirectory ports_;
     VoyCatalogModule catalogModule_;
     VoyCatalogController catalog_;
     VoyPortCallModule portCallModule_;

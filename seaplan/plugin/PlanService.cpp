@@ -3,7 +3,6 @@
 
 #include <cmath>
 
-#include "seaplan/calculation/PointTables.h"
 #include "seaplan/calculation/PortPreparation.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/controllers/VoyCatalogController.h"
@@ -127,10 +126,9 @@ int PlanService::Prepare(const PlanRequest& request, PortCallRows& rows) {
             return Fail(PlanUnknownPort, "unknown port: " + row.ppn);
         }
     }
-    SamePortLinks links;
-    LoadSamePortLinks(PointDatabasePath(), links);
-    return DropSamePortRows(typed, links, rows) < 0 ? Fail(PlanTooFewPorts, "fewer than two different ports")
-                                                    : 0;
+    return DropSamePortRows(typed, ports_->SamePorts(), rows) < 0
+               ? Fail(PlanTooFewPorts, "fewer than two different ports")
+               : 0;
 }
 
 int PlanService::CheckNames(const PlanRequest& request) {

@@ -8,6 +8,7 @@
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/chart/LineSplit.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
 #include "seaplan/data/VoyageStore.h"
@@ -70,8 +71,9 @@ inline constexpr Interface::Service<const PlanRequest, const PlanResult> kPlanVo
 /// of it: their calculated route stays, and a store that was not loaded is left so.
 class PlanService {
   public:
-    PlanService(VoyCatalogController* catalog, VoyController* voyages, VoyageStore* store)
-        : catalog_(catalog), voyages_(voyages), store_(store) {}
+    PlanService(VoyCatalogController* catalog, VoyController* voyages, VoyageStore* store,
+                PortDirectory* ports)
+        : catalog_(catalog), voyages_(voyages), store_(store), ports_(ports) {}
 
     const PlanResult& Plan(const PlanRequest& request);
 
@@ -90,6 +92,7 @@ class PlanService {
     VoyCatalogController* catalog_;
     VoyController* voyages_;
     VoyageStore* store_;
+    PortDirectory* ports_;
     PlanResult result_;
 };
 

@@ -9,8 +9,8 @@ namespace Tarvik::Seaplan {
 
 bool CreateMainView() {
     CompositionRoot& root = CompositionRoot::Instance();
-    if (!CreateViews(
-            {&root.Catalog(), &root.Voyages(), VoyageStore::Instance(), PortDictionary::FromDatabase()})) {
+    root.Ports().ReadNames();
+    if (!CreateViews({&root.Catalog(), &root.Voyages(), VoyageStore::Instance(), &root.Ports()})) {
         return false;
     }
     root.PortCallModule().SetCursorSource([] {

@@ -4,9 +4,9 @@
 #include <map>
 #include <utility>
 
-#include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/protocol/CatalogTexts.h"
 #include "seaplan/protocol/StatusReply.h"
 #include "seaplan/protocol/WireUnits.h"
@@ -86,7 +86,7 @@ int SavePortCalls(const std::string& vi, PortCallRows& rows) {
     }
     for (VoyPortCall& row : rows) {
         if (row.ppi.empty()) {
-            row.ppi = Interface::GetNameByValue("/points", row.ppn, 1033);
+            row.ppi = PortIdOf(row.ppn);
         }
     }
     Util::Jsona reply;

@@ -22,7 +22,7 @@ class ControlledViews {
           catalog_(given.catalog),
           schedule_(given.voyages),
           ais_(given.voyages, given.catalog),
-          views_({*given.store, catalog_, schedule_, given.ports, mainView}) {
+          views_({*given.store, catalog_, schedule_, *given.ports, mainView}) {
         views_.Tree().SetAisCommands(&ais_);
         views_.PortCalls().SetAisCommands(&ais_);
         voyages_->SetTreeVisible([this] { return views_.TreeVisible(); });
@@ -65,7 +65,8 @@ bool CreateViews(const ViewsDependencies& dependencies) {
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
         return false;
     }
-    if (dependencies.catalog == nullptr || dependencies.voyages == nullptr || dependencies.store == nullptr) {
+    if (dependencies.catalog == nullptr || dependencies.voyages == nullptr || dependencies.store == nullptr ||
+        dependencies.ports == nullptr) {
         return false;
     }
     auto* mainView = static_cast<QWidget*>(Core::TrvKernel::MainViewHWnd());

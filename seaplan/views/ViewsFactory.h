@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/VoyageStore.h"
-#include "seaplan/panels/portcall/PortDictionary.h"
 
 namespace Tarvik::Seaplan {
 
@@ -15,7 +15,7 @@ struct ViewsDependencies {
     VoyCatalogController* catalog = nullptr;
     VoyController* voyages = nullptr;
     VoyageStore* store = nullptr;
-    PortDictionary ports{{}, {}, {}};
+    PortDirectory* ports = nullptr;
 };
 
 /// Makes the voyage panel with everything below it and ties it to the bus. False, with nothing made, in a

@@ -18,7 +18,7 @@ class VoyageViews final {
         VoyageStore& store;
         CatalogCommands& catalog;
         ScheduleCommands& schedule;
-        PortDictionary ports;
+        PortDirectory& ports;
         QWidget* mainView;  ///< null for windows of their own
     };
     explicit VoyageViews(Parts parts);

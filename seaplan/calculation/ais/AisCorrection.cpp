@@ -4,17 +4,15 @@
 #include <map>
 #include <utility>
 
-#include <tarvik/interface/ValueDictionary.h>
-
 #include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr int kEnglish = 1033;
 constexpr double kLeastFixSpeed = 0.1;  // knots
 constexpr const char* kFixName = "AIS track point";
 
@@ -112,7 +110,7 @@ int NextPortsAfter(const _datetime_t& fix, const PortCallRows& ports, Positions&
     }
     for (const auto& port : timed) {
         if (port.etd > fix) {
-            ids.push_back(Interface::GetNameByValue("/points", port.ppn, kEnglish));
+            ids.push_back(PortIdOf(port.ppn));
         }
     }
     return 0;

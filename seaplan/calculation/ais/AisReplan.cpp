@@ -81,8 +81,8 @@ PortCallRows JoinHistoryAndPlan(const PortCallRows& history, const PortCallRows&
     std::remove_copy_if(history.begin(), history.end(), std::back_inserter(rows), IsAisRow);
     for (const auto& row : plan) {
         rows.push_back(row);
-        if (IsBlankCell(row.pp)) {
-            rows.back().pp = "D";
+        if (IsPurposeMissing(row.pp)) {
+            rows.back().pp = kDischarge;
         }
     }
     return rows;

@@ -22,7 +22,6 @@ namespace {
 constexpr double kLeastHours = 0.001;
 constexpr double kLeastDistance = 0.001;
 constexpr double kSameMoment = 0.01;  // hours
-constexpr const char* kAisPurpose = " ";
 
 /// Miles and hours of a stretch.
 struct Stretch {

@@ -3,11 +3,11 @@
 
 #include <utility>
 
-#include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
@@ -17,7 +17,6 @@ namespace {
 constexpr double kKmPerNauticalMile = 1.852;
 constexpr double kEastOfLine = 179.0;
 constexpr double kWestOfLine = -179.0;
-constexpr int kEnglish = 1033;
 constexpr int kPortDecimals = 4;
 constexpr int kWaypointDecimals = 3;
 
@@ -57,7 +56,7 @@ bool TakeRow(const PosBookPoint& from, PosBookPlace& to) {
 }
 
 void TakeCall(const VoyPortCall& call, PosBookPortRow& port) {
-    port.id = Interface::GetNameByValue("/points", call.ppn, kEnglish);
+    port.id = PortIdOf(call.ppn);
     port.name = call.ppn;
     port.purpose = call.pp;
     port.weather = static_cast<double>(call.pw);

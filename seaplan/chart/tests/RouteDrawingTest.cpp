@@ -19,7 +19,7 @@ constexpr const char* kNoDatabase = "/nonexistent/points.db";
 struct RouteDrawing : ::testing::Test {
     Testing::ChartRecording chart;
     VoyageLayer layer;
-    PointMap RoutePoints{{"118", {"118", "Cape", "5,5"}}};
+    PortDirectory ports{{}, {}, {}, {{"118", {"118", "Cape", "5,5"}}}};
 };
 
 RouteStops twoLegs() {
@@ -70,7 +70,7 @@ TEST_F(RouteDrawing, RouteIsOneLineWithItsLabels) {
     auto stops = twoLegs();
     stops[2].rp_groups = {{2, "118", "a,b", {}}};
     layer.mainLine.ref.id = "left over";
-    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, RoutePoints), 0);
+    EXPECT_EQ(layer.DrawRoute(stops, ports), 0);
     EXPECT_THAT(chart.calls,
                 ElementsAre("layer VOYAGE", "clear VOYAGE/VOYAGETYPE/", "clear VOYAGE/VOYLINETYPE/",
                             "clear VOYAGE/RPOINTTYPE/", "line VOYAGE/VOYLINETYPE/_0 1,0 2,0 3,0 4,0",
@@ -81,28 +81,28 @@ TEST_F(RouteDrawing, FirstPointOfASegmentIsTakenOnlyAtTheFirstOfEachStop) {
     auto stops = twoLegs();
     stops[1].routes[1].pointset = "9,9|3,0";
     stops[2].routes[0].pointset = "8,8|4,0";
-    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, RoutePoints), 0);
+    EXPECT_EQ(layer.DrawRoute(stops, ports), 0);
     EXPECT_THAT(chart.lines.at(0).points, ElementsAre("1,0", "2,0", "3,0", "8,8", "4,0"));
 }
 
 TEST_F(RouteDrawing, RouteTellsWhichStepFailed) {
-    EXPECT_EQ(layer.DrawRoute(RouteStops(1), kNoDatabase, RoutePoints), -1);
+    EXPECT_EQ(layer.DrawRoute(RouteStops(1), ports), -1);
     EXPECT_THAT(chart.calls, IsEmpty());
-    EXPECT_EQ(layer.DrawRoute(RouteStops(2), kNoDatabase, RoutePoints), -5);
+    EXPECT_EQ(layer.DrawRoute(RouteStops(2), ports), -5);
     auto stops = twoLegs();
     stops[1].rp_groups = {{1, "999", "a,b", {}}};
-    EXPECT_EQ(layer.DrawRoute(stops, kNoDatabase, RoutePoints), -7);
+    EXPECT_EQ(layer.DrawRoute(stops, ports), -7);
     EXPECT_EQ(chart.lines.size(), 1) << "what was drawn stays";
 }
 
 TEST_F(RouteDrawing, LabelsNeedTheRoutePointsOnlyWhenThereAreGroups) {
-    PointMap none;
-    EXPECT_EQ(layer.DrawRoutePointLabels(twoLegs(), kNoDatabase, none), 0);
+    PortDirectory none{kNoDatabase};
+    EXPECT_EQ(layer.DrawRoutePointLabels(twoLegs(), none), 0);
     auto stops = twoLegs();
     stops[1].rp_groups = {{1, "118", "a,b", {}}, {1, "999", "a,b", {}}};
-    EXPECT_EQ(layer.DrawRoutePointLabels(stops, kNoDatabase, none), -2);
-    EXPECT_EQ(layer.DrawRoutePointLabels(RouteStops(1), kNoDatabase, none), -1);
-    EXPECT_EQ(layer.DrawRoutePointLabels(stops, kNoDatabase, RoutePoints), -3);
+    EXPECT_EQ(layer.DrawRoutePointLabels(stops, none), -2);
+    EXPECT_EQ(layer.DrawRoutePointLabels(RouteStops(1), none), -1);
+    EXPECT_EQ(layer.DrawRoutePointLabels(stops, ports), -3);
     EXPECT_EQ(chart.labels.size(), 1);
 }
 

@@ -230,7 +230,8 @@ TEST(ClickChannelTest, ChannelsComeAndGoWithTheModule) {
                                  "TRV_MAP_LCLICK_AISSHIPTYPE"};
     for (int round = 0; round < 2; ++round) {
         {
-            const VoyPortCallModule module(&store);
+            PortDirectory directory;
+            const VoyPortCallModule module(&store, &directory);
             for (const char* name : names) {
                 EXPECT_TRUE(kernel->IsBound(name)) << name;
             }

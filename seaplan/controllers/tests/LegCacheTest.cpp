@@ -135,7 +135,7 @@ TEST_F(LegCacheTest, LegStampedBeforeTheEpochIsFetchedAgainWhateverItsAge) {
     EXPECT_EQ(module.GetStopsByCache(typedRows(), stops), 0);
     EXPECT_TRUE(host.requests.empty());
     writeCache(lineAb("2011-05-31 23:59:59", "0,0|1,0"));
-    VoyPortCallModule fresh(&store);
+    VoyPortCallModule fresh(&store, &directory);
     host.Reply(1, kRouteAb);
     EXPECT_EQ(fresh.GetStopsByCache(typedRows(), stops), 0);
     EXPECT_EQ(host.requests.size(), 1U);
@@ -166,7 +166,7 @@ TEST_F(LegCacheTest, GroupsCarryTheIndexOfTheirRow) {
 TEST_F(LegCacheTest, CachedRouteKeepsItsAlternatives) {
     host.Reply(1, kRouteWithAlternatives);
     module.GetRoute(typedRows(), rows, false);
-    VoyPortCallModule next(&store);
+    VoyPortCallModule next(&store, &directory);
     EXPECT_EQ(next.GetRoute(typedRows(), rows, false), 0);
     ASSERT_EQ(next.Pending().Stops().size(), 2U);
     const RouteStop& end = next.Pending().Stops()[1];

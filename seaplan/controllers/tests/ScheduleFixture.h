@@ -64,9 +64,10 @@ class ScheduleFixture : public testing::Test {
     TestSupport::PortDictionary dictionary{
         TestSupport::PortDictionary::Ports{{"A", "40001"}, {"B", "40002"}, {"C", "40003"}}};
     VoyageStore store;
+    PortDirectory directory;
     VoyCatalogModule catalogModule{&store};
     VoyCatalogController catalog{&catalogModule, &store};
-    VoyPortCallModule module{&store};
+    VoyPortCallModule module{&store, &directory};
     VoyController voyages{&module, &catalog, &store};
     PortCallRows rows;
 };

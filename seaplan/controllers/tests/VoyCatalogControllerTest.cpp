@@ -31,7 +31,8 @@ class VoyCatalogControllerTest : public testing::Test {
     VoyageStore store;
     VoyCatalogModule module{&store};
     VoyCatalogController catalog{&module, &store};
-    VoyPortCallModule portCalls{&store};
+    PortDirectory directory;
+    VoyPortCallModule portCalls{&store, &directory};
     VoyController voyages{&portCalls, &catalog, &store};
     std::string id;
 };

@@ -9,7 +9,6 @@
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/calculation/PointTables.h"
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/controllers/voycal/SampleReply.h"
 #include "seaplan/controllers/voycal/VoyCalDrawing.h"
@@ -26,11 +25,13 @@ constexpr int kEnglish = 1033;
 constexpr int kTraditionalChinese = 1028;
 constexpr int kSimplifiedChinese = 2052;
 
-VoyCalPoints ReadPoints(const std::string& database) {
-    PointMap rows;
-    LoadRoutePoints(database, rows);
+VoyCalPoints PointsOf(PortDirectory& ports) {
     VoyCalPoints points;
-    for (const auto& [id, row] : rows) {
+    const PointMap* rows = ports.RoutePoints();
+    if (rows == nullptr) {
+        return points;
+    }
+    for (const auto& [id, row] : *rows) {
         Position position;
         ReadPosition(row.position, 0, position);
         points[id] = {position.x, position.y, id, row.name};
@@ -61,8 +62,8 @@ const VoyCalGroup* FindGroup(const std::vector<VoyCalPort>& ports, const std::st
 
 }  // namespace
 
-CVoyCal::CVoyCal(const std::string& database, std::string reply)
-    : points_(ReadPoints(database)), reply_(std::move(reply)) {
+CVoyCal::CVoyCal(PortDirectory& ports, std::string reply)
+    : points_(PointsOf(ports)), reply_(std::move(reply)) {
     bindings_.Keep(Interface::Offer(Bus::CalculateVoyage, this, &CVoyCal::OnCalculate));
     bindings_.Keep(Interface::Announce(Bus::ClickRPoint, this, &CVoyCal::OnPointClicked));
     bindings_.Keep(Interface::Announce(Bus::ClickRRPoint, this, &CVoyCal::OnAlternativeClicked));
@@ -78,7 +79,8 @@ CVoyCal::~CVoyCal() {
 }
 
 CVoyCal* CVoyCal::Instance() {
-    static auto* calculator = new CVoyCal(PointDatabasePath(), SampleReply());
+    static auto* ports = new PortDirectory;
+    static auto* calculator = new CVoyCal(*ports, SampleReply());
     return calculator;
 }
 

@@ -9,6 +9,7 @@
 
 #include "seaplan/controllers/voycal/VoyCalChange.h"
 #include "seaplan/controllers/voycal/VoyCalRecords.h"
+#include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
 
@@ -17,8 +18,8 @@ namespace Tarvik::Seaplan {
 /// VoyCalResult that stays the calculator's and holds until the next call.
 class CVoyCal : public Core::TObject {
   public:
-    /// Reads the route points from `database` once; an unreadable one leaves none.
-    CVoyCal(const std::string& database, std::string reply);
+    /// Takes the route points over once; a directory that cannot read them leaves none.
+    CVoyCal(PortDirectory& ports, std::string reply);
     ~CVoyCal() override;
     CVoyCal(const CVoyCal&) = delete;
     CVoyCal& operator=(const CVoyCal&) = delete;

@@ -14,8 +14,8 @@ constexpr double kNoDistance = 0.0001;
 int CPortCallPanelDlg::Prepare(PortCallRows& rows) const {
     const PortCallRows read = [this] {
         PortCallRows list = table_.ReadRows();
-        if (!list.empty() && IsBlankCell(list.front().pp)) {
-            list.front().pp = "L";
+        if (!list.empty() && IsPurposeMissing(list.front().pp)) {
+            list.front().pp = kLoad;
         }
         schedule_.ResolvePortIds(list);
         return list;
@@ -30,8 +30,8 @@ int CPortCallPanelDlg::Prepare(PortCallRows& rows) const {
             continue;
         }
         kept.push_back(read[i]);
-        if (IsBlankCell(kept.back().pp)) {
-            kept.back().pp = "D";
+        if (IsPurposeMissing(kept.back().pp)) {
+            kept.back().pp = kDischarge;
         }
     }
     if (kept.size() < 2) {

@@ -18,9 +18,9 @@ constexpr const char* kHelpTopic = "func034";
 
 }  // namespace
 
-CPortCallPanelDlg::CPortCallPanelDlg(VoyageStore& store, ScheduleCommands& schedule, PortDictionary ports,
+CPortCallPanelDlg::CPortCallPanelDlg(VoyageStore& store, ScheduleCommands& schedule, PortDirectory& ports,
                                      PortCallView& view)
-    : store_(store), schedule_(schedule), ports_(std::move(ports)), view_(view) {
+    : store_(store), schedule_(schedule), ports_(ports), view_(view) {
     ResetState();
 }
 

@@ -8,11 +8,11 @@
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/calculation/Units.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/PortCallView.h"
-#include "seaplan/panels/portcall/PortDictionary.h"
 #include "seaplan/panels/services/AisCommands.h"
 #include "seaplan/panels/services/ScheduleCommands.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
@@ -24,7 +24,7 @@ namespace Tarvik::Seaplan {
 /// are ever shown.
 class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
   public:
-    CPortCallPanelDlg(VoyageStore& store, ScheduleCommands& schedule, PortDictionary ports,
+    CPortCallPanelDlg(VoyageStore& store, ScheduleCommands& schedule, PortDirectory& ports,
                       PortCallView& view);
 
     /// Follows the host's change of language.
@@ -128,7 +128,7 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     VoyageStore& store_;
     ScheduleCommands& schedule_;
     AisCommands* ais_ = nullptr;
-    PortDictionary ports_;
+    PortDirectory& ports_;
     PortCallView& view_;
     std::function<void(const std::string&)> saved_;
 

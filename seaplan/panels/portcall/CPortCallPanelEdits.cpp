@@ -3,9 +3,9 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/Purposes.h"
 #include "seaplan/panels/language/Messages.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
-#include "seaplan/panels/portcall/PurposeList.h"
 
 namespace Tarvik::Seaplan {
 

@@ -118,7 +118,8 @@ class PanelDesk {
     VoyageStore store;
     VoyCatalogModule catalogModule{&store};
     VoyCatalogController catalog{&catalogModule, &store};
-    VoyPortCallModule portCallModule{&store};
+    PortDirectory directory;
+    VoyPortCallModule portCallModule{&store, &directory};
     VoyController voyages{&portCallModule, &catalog, &store};
     DeskRoutes* routes = nullptr;  ///< the server's
 

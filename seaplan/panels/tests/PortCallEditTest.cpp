@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/portcall/PurposeList.h"
+#include "seaplan/data/Purposes.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -26,7 +26,8 @@ class PortCallFixture : public ::testing::Test {
     FakeSchedule schedule{store};
     RecordingPortCallView view;
     std::vector<std::string> saved;
-    CPortCallPanelDlg panel{store, schedule, Ports(), view};
+    PortDirectory ports = Ports();
+    CPortCallPanelDlg panel{store, schedule, ports, view};
 
     PortCallFixture() {
         for (const char* vi : {"10", "20"}) {
@@ -37,7 +38,7 @@ class PortCallFixture : public ::testing::Test {
         panel.SetSavedListener([this](const std::string& vi) { saved.push_back(vi); });
     }
 
-    static PortDictionary Ports() {
+    static PortDirectory Ports() {
         return {{"ROTTERDAM", "ROUEN", "HAMBURG", "GDANSK", "EUROPOORT"},
                 {{"鹿特丹", "ROTTERDAM"}},
                 {{"id-ROTTERDAM-id-EUROPOORT", ""}, {"id-EUROPOORT-id-ROTTERDAM", ""}}};

@@ -5,8 +5,8 @@
 #include <QListWidget>
 #include <algorithm>
 
+#include "seaplan/data/Purposes.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
-#include "seaplan/panels/portcall/PurposeList.h"
 #include "seaplan/views/portcall/MatchEvents.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
 

@@ -75,7 +75,7 @@ void AddSampleVoyages(FakeCatalog& catalog, FakeSchedule& schedule) {
     }
 }
 
-PortDictionary SamplePorts() {
+PortDirectory SamplePorts() {
     return {{"ROTTERDAM", "ROSTOCK", "ROUEN", "HAMBURG", "GDANSK", "SUEZ CANAL", "COLOMBO", "SINGAPORE",
              "SHANGHAI"},
             {{"鹿特丹", "ROTTERDAM"}, {"汉堡", "HAMBURG"}, {"新加坡", "SINGAPORE"}, {"上海", "SHANGHAI"}},

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/VoyageStore.h"
-#include "seaplan/panels/portcall/PortDictionary.h"
 #include "seaplan/panels/tests/FakeCommands.h"
 
 namespace Tarvik::Seaplan {
@@ -10,6 +10,6 @@ namespace Tarvik::Seaplan {
 /// Puts categories, voyages and saved schedules behind the fakes, as a server would hold them.
 void AddSampleVoyages(FakeCatalog& catalog, FakeSchedule& schedule);
 /// A few ports with their local names.
-PortDictionary SamplePorts();
+PortDirectory SamplePorts();
 
 }  // namespace Tarvik::Seaplan

@@ -20,6 +20,7 @@ namespace {
 
 using namespace Tarvik::Seaplan;
 namespace Bus = Tarvik::Interface::Bus;
+namespace Skin = Tarvik::Skin;
 
 int usage() {
     std::fputs(
@@ -158,7 +159,8 @@ int main(int argc, char** argv) {
     if (scene != "empty") {
         AddSampleVoyages(catalog, schedule);
     }
-    VoyageViews views({store, catalog, schedule, SamplePorts(), nullptr});
+    PortDirectory ports = SamplePorts();
+    VoyageViews views({store, catalog, schedule, ports, nullptr});
     play(views, scene);
     if (!arguments.contains("--png")) {
         return QApplication::exec();

@@ -45,7 +45,8 @@ class ViewsFactoryTest : public ::testing::Test {
     VoyageStore store;
     VoyCatalogModule catalogModule{&store};
     VoyCatalogController catalog{&catalogModule, &store};
-    VoyPortCallModule module{&store};
+    PortDirectory ports{{}, {}, {}};
+    VoyPortCallModule module{&store, &ports};
     VoyController voyages{&module, &catalog, &store};
     QWidget mainView;
 
@@ -54,7 +55,7 @@ class ViewsFactoryTest : public ::testing::Test {
         DestroyViews();
         Core::TrvKernel::SetMainView(nullptr, nullptr);
     }
-    bool Create() { return CreateViews({&catalog, &voyages, &store, PortDictionary({}, {}, {})}); }
+    bool Create() { return CreateViews({&catalog, &voyages, &store, &ports}); }
     QWidget* Panel() { return mainView.findChild<QWidget*>("voyagePanel"); }
     static void Toggle() {
         const Interface::PanelShow show{3, 0};
@@ -65,7 +66,7 @@ class ViewsFactoryTest : public ::testing::Test {
 }  // namespace
 
 TEST_F(ViewsFactoryTest, WithoutAllControllersNothingIsMade) {
-    EXPECT_FALSE(CreateViews({&catalog, nullptr, &store, PortDictionary({}, {}, {})}));
+    EXPECT_FALSE(CreateViews({&catalog, nullptr, &store, &ports}));
     EXPECT_EQ(VoyagePanel(), nullptr);
     EXPECT_EQ(Panel(), nullptr);
 }

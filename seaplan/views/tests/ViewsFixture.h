@@ -31,7 +31,8 @@ class ViewsFixture : public ::testing::Test {
     VoyageStore store;
     FakeCatalog catalog{store};
     FakeSchedule schedule{store};
-    VoyageViews views{{store, catalog, schedule, SamplePorts(), nullptr}};
+    PortDirectory ports = SamplePorts();
+    VoyageViews views{{store, catalog, schedule, ports, nullptr}};
 
     ViewsFixture() { AddSampleVoyages(catalog, schedule); }
     ~ViewsFixture() override {

@@ -43,7 +43,8 @@ struct CVoyCalTest : ::testing::Test {
     }
     void Make(const std::string& reply) {
         calculator.reset();
-        calculator.emplace(folder.PointsFile().string(), reply);
+        PortDirectory ports(folder.PointsFile().string());
+        calculator.emplace(ports, reply);
     }
     const VoyCalResult* Calculate(const std::string& ids) {
         chart.calls.clear();
@@ -211,7 +212,8 @@ TEST_F(CVoyCalTest, ClicksWithoutAnIdDoNothing) {
 
 TEST_F(CVoyCalTest, UnreadableDataBaseLeavesNoRoutePoints) {
     calculator.reset();
-    calculator.emplace("/nonexistent/points.db", kReply);
+    PortDirectory none("/nonexistent/points.db");
+    calculator.emplace(none, kReply);
     EXPECT_EQ(Calculate("41,42")->valid, 0) << "the group's point is unknown";
 }
 

@@ -7,7 +7,7 @@
 
 #include <tarvik/util/FileUtl.h>
 
-#include "seaplan/calculation/PointTables.h"
+#include "seaplan/data/PointTables.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/PointTables.h"
+#include "seaplan/data/PointTables.h"
 
 #include <functional>
 
@@ -19,7 +19,7 @@ std::string ColumnText(const Util::CppSQLite3Query& row, int column) {
     return value != nullptr ? value : "";
 }
 
-/// Calls `visit` for each row of a query; false when the data base cannot be read.
+/// Calls `visit` for each row of a query; false when the database cannot be read.
 bool ForEachRow(const std::string& database, const char* sql,
                 const std::function<void(const Util::CppSQLite3Query&)>& visit) {
     try {
@@ -82,8 +82,8 @@ int LoadRoutePoints(const std::string& database, PointMap& map) {
     return 0;
 }
 
-int LoadSamePortLinks(const std::string& database, std::map<std::string, std::string>& links) {
-    std::map<std::string, std::string> loaded;
+int LoadSamePortLinks(const std::string& database, SamePortLinks& links) {
+    SamePortLinks loaded;
     const char* sql = "select id,origid from t_point where isport='1' and origid!='0'";
     const bool read = ForEachRow(database, sql, [&](const auto& row) {
         const std::string id = ColumnText(row, 0);

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "seaplan/data/PortDirectory.h"
+#include "testsupport/DataFolder.h"
+#include "testsupport/PortDictionary.h"
+
+namespace Tarvik::Seaplan {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+
+PortDirectory ports() {
+    return {{"Rouen", "ROTTERDAM", "Rostock", "HAMBURG", "ROTTERDAM"},
+            {{"鹿特丹", "ROTTERDAM"}, {"鹿儿岛", "KAGOSHIMA"}, {"汉堡", "HAMBURG"}},
+            {{"1-2", ""}, {"2-1", ""}}};
+}
+
+}  // namespace
+
+TEST(PortDirectory, MatchesBeginWithTheTypedTextInAnyCase) {
+    EXPECT_THAT(ports().Match("ro", 10), ElementsAre("Rostock", "ROTTERDAM", "Rouen"));
+    EXPECT_THAT(ports().Match("RO", 2), ElementsAre("Rostock", "ROTTERDAM"));
+    EXPECT_THAT(ports().Match("xyz", 10), IsEmpty());
+    EXPECT_THAT(ports().Match("", 10), IsEmpty());
+    EXPECT_THAT(ports().Match("otter", 10), IsEmpty());
+}
+
+TEST(PortDirectory, LocalNamesMatchAndGiveThePortsName) {
+    EXPECT_THAT(ports().Match("鹿", 10), ElementsAre("KAGOSHIMA", "ROTTERDAM"));
+    EXPECT_EQ(ports().NameOf("鹿特丹"), "ROTTERDAM");
+    EXPECT_EQ(ports().NameOf("上海"), "");
+}
+
+TEST(PortDirectory, TheCaseOfATypedNameDoesNotMatter) {
+    EXPECT_EQ(ports().NameOf("rotterdam"), "ROTTERDAM");
+    EXPECT_EQ(ports().NameOf("ROUEN"), "Rouen");
+    EXPECT_EQ(ports().NameOf("Atlantis"), "Atlantis");
+    EXPECT_TRUE(ports().Knows("Rouen"));
+    EXPECT_FALSE(ports().Knows("Atlantis"));
+    EXPECT_TRUE(PortDirectory({}, {}, {}).Knows("Atlantis"));
+}
+
+TEST(PortDirectory, TakesPlacesFromTheTableAndNamesFromTheHost) {
+    const TestSupport::DataFolder folder;
+    folder.WriteSamplePoints();
+    const TestSupport::PortDictionary host(
+        {{"Aberdeen", "40001"}, {"Bergen", "40002"}, {"Elsewhere", "49999"}});
+    PortDirectory read;
+    read.ReadNames();
+    EXPECT_TRUE(read.Knows("Bergen"));
+    EXPECT_FALSE(read.Knows("Elsewhere")) << "the table has no place for it";
+    EXPECT_FALSE(read.Knows(""));
+    EXPECT_THAT(read.Match("a", 10), ElementsAre("Aberdeen"));
+    EXPECT_TRUE(read.IsSamePlace("40003", "40004"));
+}
+
+TEST(PortDirectory, EachPartOfTheTableIsReadOnce) {
+    PortDirectory read;
+    {
+        const TestSupport::DataFolder folder;
+        EXPECT_EQ(read.RoutePoints(), nullptr) << "there is no table yet";
+        EXPECT_EQ(read.PortPositions(), nullptr);
+        EXPECT_FALSE(read.IsSamePlace("40003", "40004"));
+        folder.WriteSamplePoints();
+        EXPECT_EQ(read.FindReadRoutePoint("118"), nullptr) << "nobody has asked for route points";
+        ASSERT_NE(read.RoutePoints(), nullptr);
+        ASSERT_NE(read.PortPositions(), nullptr);
+        EXPECT_TRUE(read.IsSamePlace("40003", "40004"));
+    }
+    // The folder is gone with its table.
+    ASSERT_NE(read.RoutePoints(), nullptr);
+    EXPECT_EQ(read.RoutePoints()->at("118").name, "Mid Cape");
+    ASSERT_NE(read.FindReadRoutePoint("118"), nullptr);
+    EXPECT_EQ(read.FindReadRoutePoint("40001"), nullptr) << "a port is no route point";
+    ASSERT_NE(read.PortPositions(), nullptr);
+    EXPECT_EQ(read.PortPositions()->at("40002").position, "1.0,0.0");
+    EXPECT_TRUE(read.IsSamePlace("40004", "40003"));
+}
+
+TEST(PortDirectory, IdsAndNamesAreTheHosts) {
+    const TestSupport::PortDictionary host(TestSupport::PortDictionary::Ports{{"Bergen", "40002"}});
+    EXPECT_EQ(PortIdOf("Bergen"), "40002");
+    EXPECT_EQ(PortNameOf("40002"), "Bergen");
+    EXPECT_EQ(PortIdOf("Atlantis"), "");
+    EXPECT_EQ(PortNameOf("1"), "");
+}
+
+TEST(PortDirectory, LinkedIdsAreOnePlace) {
+    EXPECT_TRUE(ports().IsSamePlace("1", "2"));
+    EXPECT_FALSE(ports().IsSamePlace("1", "3"));
+}
+
+}  // namespace Tarvik::Seaplan
