@@ -26,7 +26,7 @@ class ControlledViews {
         views_.Tree().SetAisCommands(&ais_);
         views_.PortCalls().SetAisCommands(&ais_);
         voyages_->SetTreeVisible([this] { return views_.TreeVisible(); });
-        voyages_->Module().SetRouteListener([this] { views_.PortCalls().OnRouteChosen(); });
+        voyages_->Module().SetRouteListener([this] { views_.PortCalls().Commands().OnRouteChosen(); });
         // Windows must be gone before the application object is, and panels with their windows.
         qAddPostRoutine(DestroyViews);
         if (mainView != nullptr) {

@@ -7,7 +7,7 @@ VoyageViews::VoyageViews(Parts parts)
     : voyageWindow_(new VoyagePanelWindow(parts.mainView)),
       portCallWindow_(new PortCallWindow(parts.mainView, &voyageWindow_->Tree())),
       tree_(parts.store, parts.catalog, parts.schedule, voyageWindow_->Tree().Widget()),
-      portCalls_(parts.store, parts.schedule, parts.ports, *portCallWindow_),
+      portCalls_({parts.store, parts.schedule, parts.ports, *portCallWindow_}),
       panel_({parts.store, parts.catalog, parts.schedule, *voyageWindow_, tree_, &portCalls_}) {
     tree_.SetPortCallPanel(&portCalls_);
     tree_.SetVesselView(&voyageWindow_->Vessels());

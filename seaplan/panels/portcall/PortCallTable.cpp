@@ -1,19 +1,52 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/PortCallTable.h"
 
+#include <utility>
+
 namespace Tarvik::Seaplan {
 
 namespace {
 
 TableRow MakeRow(const std::string& label, RowClass look) {
+    CellTexts cells;
+    cells.fill(kBlankCell);
+    cells[ColOrder] = label;
     TableRow row;
-    row.cells.fill(kBlankCell);
-    row.cells[ColOrder] = label;
+    row.Commit(cells, {});
     row.look = look;
     return row;
 }
 
 }  // namespace
+
+void TableRow::Commit(const CellTexts& texts, std::string portId) {
+    cells = texts;
+    record = CellsToRow(texts);
+    record.ppi = std::move(portId);
+}
+
+void PortCallTable::SetCell(int row, int column, const std::string& text) {
+    CellTexts texts = rows_[row].cells;
+    texts[column] = text;
+    rows_[row].Commit(texts, rows_[row].record.ppi);
+}
+
+void PortCallTable::SetPort(int row, const std::string& name, const std::string& id) {
+    CellTexts texts = rows_[row].cells;
+    texts[ColPort] = name;
+    rows_[row].Commit(texts, id);
+}
+
+VoyPortCall PortCallTable::ReadRow(int row) const {
+    VoyPortCall value = rows_[row].record;
+    if (IsBlankCell(Cell(row, ColEta))) {
+        value.eta = Util::_datetime_t();
+    }
+    if (IsBlankCell(Cell(row, ColEtd))) {
+        value.etd = Util::_datetime_t();
+    }
+    return value;
+}
 
 void PortCallTable::Rebuild(int numbered, bool closing) {
     rows_.clear();
@@ -55,9 +88,10 @@ int PortCallTable::CompactIndex(int row) const {
 
 void PortCallTable::ClearCells() {
     for (TableRow& row : rows_) {
-        for (int column = ColPort; column < PortCallColumnCount; ++column) {
-            row.cells[column] = kBlankCell;
-        }
+        CellTexts cells;
+        cells.fill(kBlankCell);
+        cells[ColOrder] = row.cells[ColOrder];
+        row.Commit(cells, {});
     }
 }
 
@@ -97,11 +131,13 @@ void PortCallTable::WriteRows(const PortCallRows& rows, bool corrected) {
 }
 
 void PortCallTable::WriteEntered(int row, const VoyPortCall& value) {
-    const CellTexts cells = RowToCells(row, value);
-    for (const int column : {ColPort, ColPurpose, ColWeather, ColPortTime}) {
-        SetCell(row, column, cells[column]);
+    CellTexts cells = RowToCells(row, value);
+    for (int column = ColPort; column < PortCallColumnCount; ++column) {
+        if (!kPortCallColumns[column].entered) {
+            cells[column] = kBlankCell;
+        }
     }
-    SetCell(row, ColSpeed, SpeedText(value.psp));
+    rows_[row].Commit(cells, value.ppi);
 }
 
 void PortCallTable::WritePartial(const PortCallRows& rows, bool corrected) {
@@ -109,7 +145,7 @@ void PortCallTable::WritePartial(const PortCallRows& rows, bool corrected) {
     ClearCells();
     int pivot = -1;
     for (int i = 0; corrected && i < static_cast<int>(rows.size()); ++i) {
-        if (rows[i].pp == kBlankCell && rows[i].distance > kNoDistance) {
+        if (rows[i].pp == kBlankCell && static_cast<double>(rows[i].distance) > kNoDistance) {
             pivot = i;
         }
     }
@@ -135,13 +171,20 @@ void PortCallTable::ShowHistoryAndPlan(const PortCallRows& rows, std::size_t his
 }
 
 void PortCallTable::WriteTotals(const PortCallRows& rows) {
-    TotalsToCells(rows, rows_[rowCount_].cells);
+    CellTexts cells = rows_[rowCount_].cells;
+    if (TotalsToCells(rows, cells)) {
+        rows_[rowCount_].Commit(cells, {});
+    }
 }
 
 void PortCallTable::ClearTotals() {
-    for (int column = ColSteamTime; column < PortCallColumnCount; ++column) {
-        SetCell(rowCount_, column, kBlankCell);
+    CellTexts cells = rows_[rowCount_].cells;
+    for (int column = ColPort; column < PortCallColumnCount; ++column) {
+        if (kPortCallColumns[column].total != nullptr) {
+            cells[column] = kBlankCell;
+        }
     }
+    rows_[rowCount_].Commit(cells, {});
 }
 
 RowActions PortCallTable::ActionsOf(int row) const {

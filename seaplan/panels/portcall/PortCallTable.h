@@ -6,18 +6,27 @@
 #include <vector>
 
 #include "seaplan/calculation/PortCallColumns.h"
-#include "seaplan/calculation/Schedule.h"
 
 namespace Tarvik::Seaplan {
 
 /// How a row is drawn.
 enum class RowClass { Normal, Disabled, Highlighted };
 
-/// One row of cells.
+/// One row: what its cells show, and the record that they tell, with the port's id.
 struct TableRow {
     CellTexts cells;
+    VoyPortCall record;  ///< no more than the cells show; of a blank time see PortCallTable::ReadRow
     RowClass look = RowClass::Normal;
     bool unknownPort = false;  ///< no port has the name in the row
+
+    /// Takes texts for cells, and what they tell for the record: the one place where a figure is rounded to
+    /// what is shown. The id is that of the port named there.
+    void Commit(const CellTexts& texts, std::string portId);
+    /// Whether both look alike.
+    friend bool operator==(const TableRow& a, const TableRow& b) {
+        return a.cells == b.cells && a.record.ppi == b.record.ppi && a.look == b.look &&
+               a.unknownPort == b.unknownPort;
+    }
 };
 
 /// What the images at a row's end can do now.
@@ -27,8 +36,8 @@ struct RowActions {
     bool remove = false;
 };
 
-/// The cells of the port call table: numbered rows, the totals row, and after a reset one closing row.
-/// Numbers stand in the units on show.
+/// The port call table: numbered rows, the totals row, and after a reset one closing row. Numbers stand in
+/// the units on show. A value: copies are independent of each other.
 class PortCallTable {
   public:
     static constexpr int kFirstRows = 6;
@@ -39,18 +48,22 @@ class PortCallTable {
     int RowCount() const { return rowCount_; }
     const std::vector<TableRow>& Rows() const { return rows_; }
     const std::string& Cell(int row, int column) const { return rows_[row].cells[column]; }
-    void SetCell(int row, int column, const std::string& text) { rows_[row].cells[column] = text; }
+    /// Another text in a cell; a port is set by SetPort.
+    void SetCell(int row, int column, const std::string& text);
+    /// A port by name and id; the id is empty for a name that nobody knows.
+    void SetPort(int row, const std::string& name, const std::string& id);
     bool IsNumbered(int row) const { return row >= 0 && row < rowCount_; }
     /// A row without a port.
     bool IsBlank(int row) const { return IsBlankCell(Cell(row, ColPort)); }
 
-    VoyPortCall ReadRow(int row) const { return CellsToRow(rows_[row].cells); }
+    /// The row's record; a time whose cell is blank is the present moment.
+    VoyPortCall ReadRow(int row) const;
     /// The rows with a port; none when row 0 has none.
     PortCallRows ReadRows() const;
     PortCallRows ReadAllRows() const;
     /// Place of a table row among the rows with a port.
     int CompactIndex(int row) const;
-    void WriteRow(int row, const VoyPortCall& value) { rows_[row].cells = RowToCells(row, value); }
+    void WriteRow(int row, const VoyPortCall& value) { rows_[row].Commit(RowToCells(row, value), value.ppi); }
     /// The last row that stands for a position of the ship and has a distance, -1 without one.
     int FindLastAisRow() const;
     /// Rows up to the last position row, and those behind it. False without a position row.
@@ -74,6 +87,7 @@ class PortCallTable {
     void ClearCells();
     /// A free row below the last numbered one, when `row` is that one.
     void GrowIfLast(int row);
+    friend bool operator==(const PortCallTable&, const PortCallTable&) = default;
 
   private:
     void Rebuild(int numbered, bool closing);

@@ -2,19 +2,12 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
+#include "seaplan/calculation/PortCallColumns.h"
+#include "seaplan/panels/portcall/CellsView.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
 
 namespace Tarvik::Seaplan {
-
-/// Place of a text editor among the three.
-constexpr int IndexOf(CellEditor editor) {
-    return static_cast<int>(editor);
-}
-
-/// Keys to which an editor reacts.
-enum class EditorKey { Tab, Enter, Escape };
 
 /// What stands around the table.
 struct PortCallState {
@@ -25,13 +18,13 @@ struct PortCallState {
     bool canOpenBook = false;
     bool canCalculate = false;
     std::string calculateText;
-    std::string averageSpeed;
-    std::string totalDistance;
-    std::string totalTime;
-    std::string speedUnit = "kts";
-    std::string distanceUnit = "NM";
-    std::string timeUnit = "days";
+    SummaryTexts summary;
+    std::string speedUnit;
+    std::string distanceUnit;
+    std::string timeUnit;
     std::string zone;  ///< zone of the times, empty when nobody tells
+
+    friend bool operator==(const PortCallState&, const PortCallState&) = default;
 };
 
 /// The window of the port call panel. It shows what it is given and reports what the person does.
@@ -53,25 +46,8 @@ class PortCallView {
     virtual void SelectRow(int row) = 0;
     virtual void BringRowIntoView(int row) = 0;
 
-    virtual void OpenEditor(CellEditor editor, int row, const std::string& text, bool selectAll) = 0;
-    virtual void HideEditor(CellEditor editor) = 0;
-    virtual bool EditorVisible(CellEditor editor) const = 0;
-    virtual std::string EditorText(CellEditor editor) const = 0;
-    /// Replaces the text of an open editor, caret at its end.
-    virtual void SetEditorText(CellEditor editor, const std::string& text) = 0;
-    /// Opaque handle of an editor's field.
-    virtual void* EditorHandle(CellEditor editor) const = 0;
-    /// The panel's own list of matching ports below the port editor.
-    virtual void ShowMatches(const std::vector<std::string>& names) = 0;
-    virtual void HideMatches() = 0;
-    /// The match window that a service has answered, by its opaque handle: shown 20 pixels below the top of
-    /// the editor's cell, or hidden.
-    virtual void ShowMatchWindow(void* window) = 0;
-    virtual void HideMatchWindow(void* window) = 0;
-    virtual void OpenPurposes(int row) = 0;
-    virtual void HidePurposes() = 0;
-    virtual void OpenPicker(int row, int column, const Util::_datetime_t& time) = 0;
-    virtual void HidePicker() = 0;
+    /// What opens over the cells.
+    virtual CellsView& Cells() = 0;
     virtual void RequestHelp(const std::string& topic) = 0;
     /// Opaque handle as owner of boxes.
     virtual void* Handle() const = 0;

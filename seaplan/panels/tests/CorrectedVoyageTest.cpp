@@ -81,20 +81,20 @@ TEST_F(CorrectedPanelTest, ACorrectionThatCannotBeSplitShowsThePlainVoyage) {
 TEST_F(CorrectedPanelTest, AClickOnAHistoryRowDoesNothing) {
     Open("20");
     for (const int row : {0, 1}) {
-        panel.OnCellClicked(row, ColSpeed);
+        panel.Cells().OnCellClicked(row, ColSpeed);
         EXPECT_FALSE(view.openEditor.has_value()) << row;
     }
-    panel.OnCellClicked(2, ColSpeed);
+    panel.Cells().OnCellClicked(2, ColSpeed);
     EXPECT_TRUE(view.openEditor.has_value());
 }
 
 TEST_F(CorrectedPanelTest, NoPortMovesAboveTheShip) {
     Open("20");
     EXPECT_FALSE(view.table.ActionsOf(2).moveUp);
-    panel.OnItemImage(2, "itemMoveUp");
+    panel.Commands().OnItemImage(2, "itemMoveUp");
     EXPECT_EQ(Cell(2, ColPort), "HAMBURG");
     EXPECT_FALSE(view.state.changed);
-    panel.OnItemImage(3, "itemMoveUp");
+    panel.Commands().OnItemImage(3, "itemMoveUp");
     EXPECT_EQ(Cell(2, ColPort), "GDANSK");
     EXPECT_EQ(Cell(1, ColDistance), "100.00");
     EXPECT_EQ(Cell(2, ColDistance), " ");
@@ -114,7 +114,7 @@ TEST_F(CorrectedPanelTest, CalculatingReplansTheRestAndSaves) {
     Open("20");
     Type(2, ColSpeed, "12");
     panel.SetCorrectionTime("2024-03-02 08:00:00");
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     EXPECT_THAT(ais.calls, Contains("ReplanFromAis 20 2 2"));
     EXPECT_EQ(Calls("SaveSchedule 20 -1"), 1);
     EXPECT_THAT(ais.calls, Contains("AddAisModTime 20 2024-03-02 08:00:00"));
@@ -124,7 +124,7 @@ TEST_F(CorrectedPanelTest, CalculatingReplansTheRestAndSaves) {
     EXPECT_FALSE(view.state.changed);
     EXPECT_FALSE(view.state.canSave);
     EXPECT_TRUE(messages.messages.empty());
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     EXPECT_EQ(std::count(ais.calls.begin(), ais.calls.end(), "AddAisModTime 20 2024-03-02 08:00:00"), 1);
 }
 
@@ -132,10 +132,10 @@ TEST_F(CorrectedPanelTest, AFailedReplanIsToldByTheCalculateButtonOnly) {
     Open("20");
     Type(2, ColSpeed, "12");
     ais.refused = {"ReplanFromAis"};
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_TRUE(messages.messages.empty());
     EXPECT_TRUE(view.state.changed);
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_AISCOMPUTWARN");
 }
 
@@ -150,7 +150,7 @@ TEST_F(CorrectedPanelTest, AFreshCorrectionMustBeRecalculatedOrSaved) {
     texts.prefix = u"zh ";
     panel.ApplyLanguage();
     EXPECT_EQ(view.state.calculateText, "zh IDS_PORTCALL_RECOMPUT_FORAIS");
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_EQ(view.state.calculateText, "zh IDS_PORTCALL_COMPUTE");
     EXPECT_FALSE(view.state.changed);
 }

@@ -35,9 +35,9 @@ TEST_F(PortCallFixture, TotalsRowAndSummaryAreCountedDifferently) {
     EXPECT_EQ(Cell(6, ColDistance), "480.00");
     EXPECT_EQ(Cell(6, ColEta), Cell(0, ColEta));
     EXPECT_EQ(Cell(6, ColEtd), Cell(2, ColEtd));
-    EXPECT_EQ(view.state.totalTime, "2.50");
-    EXPECT_EQ(view.state.totalDistance, "480.0");
-    EXPECT_EQ(view.state.averageSpeed, "8.0");
+    EXPECT_EQ(view.state.summary.totalTime, "2.50");
+    EXPECT_EQ(view.state.summary.totalDistance, "480.0");
+    EXPECT_EQ(view.state.summary.averageSpeed, "8.0");
 }
 
 TEST_F(PortCallFixture, WithoutAVoyageTheFixedTextIsShownAndTheTableStaysReset) {
@@ -54,23 +54,23 @@ TEST_F(PortCallFixture, ChoosingAnotherVoyageLeavesTheOneOnShow) {
     Open("20");
     panel.SetVoyage("10");
     Type(1, ColSpeed, "12");
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_THAT(saved, ElementsAre("20"));
 }
 
 TEST_F(PortCallFixture, CalculatingANewVoyageShowsTheRouteAndWaitsForTheSave) {
     Open("10");
     EnterPorts({"ROTTERDAM", "HAMBURG"});
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     EXPECT_EQ(Cell(0, ColPurpose), "L");
     EXPECT_EQ(Cell(1, ColPurpose), "D");
     EXPECT_EQ(Cell(0, ColEta), "2024-03-01 00:00:00");
     EXPECT_EQ(Cell(1, ColEta), "2024-03-02 00:00:00");
     EXPECT_EQ(Cell(1, ColDistance), "240.00");
-    EXPECT_EQ(view.state.averageSpeed, "10.0");
+    EXPECT_EQ(view.state.summary.averageSpeed, "10.0");
     EXPECT_TRUE(view.state.changed);
     EXPECT_TRUE(saved.empty());
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_THAT(saved, ElementsAre("10"));
     EXPECT_EQ(Calls("Calculate 2"), 1);
     EXPECT_EQ(Calls("SaveSchedule 10 1"), 1);
@@ -86,14 +86,14 @@ TEST_F(PortCallFixture, CalculatingANewVoyageShowsTheRouteAndWaitsForTheSave) {
 TEST_F(PortCallFixture, ARouteChosenOnTheChartBringsItsDistancesAndTimes) {
     Open("10");
     EnterPorts({"ROTTERDAM", "HAMBURG"});
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     view.state.changed = false;
-    EXPECT_EQ(panel.OnRouteChosen(), 0);
+    EXPECT_EQ(panel.Commands().OnRouteChosen(), 0);
     EXPECT_EQ(Cell(1, ColDistance), "480.00");
     EXPECT_EQ(Cell(1, ColEta), "2024-03-03 00:00:00");
-    EXPECT_EQ(view.state.totalDistance, "480.0");
+    EXPECT_EQ(view.state.summary.totalDistance, "480.0");
     EXPECT_TRUE(view.state.changed);
-    panel.OnSave();
+    panel.Commands().OnSave();
     ASSERT_EQ(schedule.savedRows.size(), 2U);
     EXPECT_EQ(schedule.savedRows[1].steamTime, 48.0F);
     EXPECT_EQ(Calls("Calculate 2"), 1) << "the route is not asked for again";
@@ -102,19 +102,19 @@ TEST_F(PortCallFixture, ARouteChosenOnTheChartBringsItsDistancesAndTimes) {
 TEST_F(PortCallFixture, ARouteOfOtherPortsLeavesTheTable) {
     Open("10");
     EnterPorts({"ROTTERDAM", "HAMBURG"});
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     schedule.refused = {"ScheduleCurrentRoute"};
-    EXPECT_EQ(panel.OnRouteChosen(), -2);
+    EXPECT_EQ(panel.Commands().OnRouteChosen(), -2);
     EXPECT_EQ(Cell(1, ColDistance), "240.00");
 }
 
 TEST_F(PortCallFixture, ARouteChosenBesideAClosedPanelLeavesTheTable) {
     Open("10");
     EnterPorts({"ROTTERDAM", "HAMBURG"});
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     view.state.changed = false;
     view.visible = false;
-    EXPECT_LT(panel.OnRouteChosen(), 0);
+    EXPECT_LT(panel.Commands().OnRouteChosen(), 0);
     EXPECT_EQ(Cell(1, ColDistance), "240.00");
     EXPECT_FALSE(view.state.changed);
 }
@@ -123,7 +123,7 @@ TEST_F(PortCallFixture, CalculatingASavedVoyageReloadsAndSavesAtOnce) {
     Open("20");
     Type(1, ColSpeed, "12");
     view.visibility.clear();
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     EXPECT_TRUE(messages.messages.empty());
     EXPECT_THAT(view.visibility, ElementsAre("hide", "show"));
     EXPECT_TRUE(schedule.Called("RemoveVoyageObjects 20"));
@@ -136,7 +136,7 @@ TEST_F(PortCallFixture, CalculatingASavedVoyageReloadsAndSavesAtOnce) {
 TEST_F(PortCallFixture, NeighbouringRowsOfOnePlaceLoseTheSecond) {
     Open("10");
     EnterPorts({"ROTTERDAM", "EUROPOORT", "HAMBURG", "HAMBURG"});
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", " ", " ", " ", " "));
 }
 
@@ -144,7 +144,7 @@ TEST_F(PortCallFixture, AFailedCalculationLeavesTheTableAndShowsNothing) {
     Open("10");
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     schedule.refused = {"Calculate"};
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     EXPECT_EQ(Cell(1, ColEta), " ");
     EXPECT_TRUE(messages.messages.empty());
     EXPECT_EQ(view.busy, 0);
@@ -153,14 +153,14 @@ TEST_F(PortCallFixture, AFailedCalculationLeavesTheTableAndShowsNothing) {
 TEST_F(PortCallFixture, SavingWithoutAChangeSendsNothing) {
     Open("20");
     const auto before = schedule.calls;
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_EQ(schedule.calls, before);
 }
 
 TEST_F(PortCallFixture, SavingRowsWithoutDistancesCalculatesFirst) {
     Open("10");
     EnterPorts({"ROTTERDAM", "HAMBURG"});
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_EQ(Calls("Calculate 2"), 1);
     EXPECT_EQ(Calls("SaveSchedule 10 1"), 1);
     EXPECT_EQ(schedule.savedRows[1].distance, 240.0F);
@@ -170,13 +170,13 @@ TEST_F(PortCallFixture, AFailedSaveIsToldAndKeepsTheChange) {
     Open("20");
     Type(1, ColSpeed, "12");
     schedule.refused = {"SaveSchedule"};
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_SAVEEXCEPTION");
     EXPECT_TRUE(view.state.changed);
     EXPECT_TRUE(view.state.canSave);
     EXPECT_TRUE(saved.empty());
     schedule.refused.clear();
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_THAT(saved, ElementsAre("20"));
 }
 
@@ -209,7 +209,7 @@ TEST_F(PortCallFixture, TheSetPortCallsLinkOpensSixEmptyRowsOfThatVoyage) {
     EXPECT_EQ(Cell(0, ColPort), " ");
     EXPECT_TRUE(schedule.Called("ClearChart"));
     EnterPorts({"ROTTERDAM", "HAMBURG"});
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_THAT(saved, ElementsAre("10"));
 }
 
@@ -217,14 +217,14 @@ TEST_F(PortCallFixture, ClosingWithChangesAsksAndNoKeepsThePanel) {
     Open("20");
     Type(1, ColSpeed, "12");
     messages.Answer(SysMsgHandleRes::No);
-    panel.OnClose();
+    panel.Commands().OnClose();
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_CLOSESAVE");
     EXPECT_TRUE(view.visible);
     EXPECT_TRUE(view.enabled);
     EXPECT_TRUE(view.state.changed);
     EXPECT_EQ(Cell(1, ColSpeed), "12.00");
     messages.Answer(SysMsgHandleRes::Yes);
-    panel.OnClose();
+    panel.Commands().OnClose();
     EXPECT_FALSE(view.visible);
     EXPECT_TRUE(view.enabled);
     EXPECT_TRUE(schedule.Called("DiscardPortCalls 20"));
@@ -233,7 +233,7 @@ TEST_F(PortCallFixture, ClosingWithChangesAsksAndNoKeepsThePanel) {
 
 TEST_F(PortCallFixture, ClosingWithoutChangesAsksNothing) {
     Open("20");
-    panel.OnClose();
+    panel.Commands().OnClose();
     EXPECT_FALSE(view.visible);
     EXPECT_TRUE(messages.messages.empty());
     EXPECT_FALSE(schedule.Called("DiscardPortCalls 20"));
@@ -241,28 +241,28 @@ TEST_F(PortCallFixture, ClosingWithoutChangesAsksNothing) {
 
 TEST_F(PortCallFixture, AnOpenEditorIsCommittedBeforeClosingAsks) {
     Open("20");
-    panel.OnCellClicked(1, ColSpeed);
-    view.editorTexts[CellEditor::Speed] = "12";
+    panel.Cells().OnCellClicked(1, ColSpeed);
+    Retype(CellEditor::Speed, "12");
     messages.Answer(SysMsgHandleRes::No);
-    panel.OnClose();
+    panel.Commands().OnClose();
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_CLOSESAVE");
     EXPECT_EQ(Cell(1, ColSpeed), "12.00");
 }
 
 TEST_F(PortCallFixture, ClearAsksAndEmptiesTheTable) {
     Open("20");
-    panel.ChangeUnit(UnitKind::Speed, "KPH");
+    panel.Commands().OnUnitChosen(UnitKind::Speed, "KPH");
     messages.Answer(SysMsgHandleRes::Cancel);
-    panel.OnClear();
+    panel.Commands().OnClear();
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_CLEARFORBLANK");
     EXPECT_EQ(messages.messages[0].flags, 1);
     EXPECT_EQ(Cell(0, ColPort), "ROTTERDAM");
     EXPECT_TRUE(view.visible);
     messages.Answer(SysMsgHandleRes::Ok);
-    panel.OnClear();
+    panel.Commands().OnClear();
     EXPECT_EQ(Cell(0, ColPort), " ");
     EXPECT_EQ(Cell(6, ColDistance), " ");
-    EXPECT_EQ(view.state.averageSpeed, "");
+    EXPECT_EQ(view.state.summary.averageSpeed, "");
     EXPECT_EQ(view.state.speedUnit, "kts");
     EXPECT_FALSE(view.state.canOpenBook);
     EXPECT_FALSE(view.state.canCalculate);
@@ -273,29 +273,29 @@ TEST_F(PortCallFixture, ClearAsksAndEmptiesTheTable) {
 
 TEST_F(PortCallFixture, UnitsConvertTheCellsAndTheFigures) {
     Open("20");
-    EXPECT_EQ(panel.ChangeUnit(UnitKind::Speed, "KPH"), 0);
+    EXPECT_EQ(panel.Commands().OnUnitChosen(UnitKind::Speed, "KPH"), 0);
     EXPECT_EQ(Cell(1, ColSpeed), "18.52");
     EXPECT_EQ(view.state.speedUnit, "KPH");
-    EXPECT_EQ(panel.ChangeUnit(UnitKind::Speed, "kts"), 0);
+    EXPECT_EQ(panel.Commands().OnUnitChosen(UnitKind::Speed, "kts"), 0);
     EXPECT_EQ(Cell(1, ColSpeed), "10.00");
     const std::string eta = Cell(1, ColEta);
-    EXPECT_EQ(panel.ChangeUnit(UnitKind::Time, "hour"), 0);
+    EXPECT_EQ(panel.Commands().OnUnitChosen(UnitKind::Time, "hour"), 0);
     EXPECT_EQ(Cell(1, ColSteamTime), "24.00");
     EXPECT_EQ(Cell(1, ColPortTime), "12.00");
     EXPECT_EQ(Cell(1, ColEta), eta);
     EXPECT_EQ(Cell(6, ColSteamTime), "48.0");
     EXPECT_EQ(view.state.timeUnit, "hours");
-    EXPECT_EQ(view.state.totalTime, "60.00");
-    EXPECT_EQ(panel.ChangeUnit(UnitKind::Distance, "KM"), 0);
+    EXPECT_EQ(view.state.summary.totalTime, "60.00");
+    EXPECT_EQ(panel.Commands().OnUnitChosen(UnitKind::Distance, "KM"), 0);
     EXPECT_EQ(Cell(1, ColDistance), "444.48");
-    EXPECT_EQ(view.state.totalDistance, "889.0");
+    EXPECT_EQ(view.state.summary.totalDistance, "889.0");
     EXPECT_FALSE(view.state.changed);
 }
 
 TEST_F(PortCallFixture, ChoosingTheUnitInForceLeavesTheCells) {
     Open("20");
     const std::string speed = Cell(1, ColSpeed);
-    EXPECT_LT(panel.ChangeUnit(UnitKind::Speed, "kts"), 0);
+    EXPECT_LT(panel.Commands().OnUnitChosen(UnitKind::Speed, "kts"), 0);
     EXPECT_EQ(Cell(1, ColSpeed), speed);
     EXPECT_EQ(Cell(6, ColDistance), "480.00");
 }
@@ -303,18 +303,18 @@ TEST_F(PortCallFixture, ChoosingTheUnitInForceLeavesTheCells) {
 TEST_F(PortCallFixture, BeforeTheFirstCalculationAUnitOnlyChangesItsLabel) {
     Open("10");
     EnterPorts({"ROTTERDAM", "HAMBURG"});
-    EXPECT_EQ(panel.ChangeUnit(UnitKind::Distance, "KM"), -1);
+    EXPECT_EQ(panel.Commands().OnUnitChosen(UnitKind::Distance, "KM"), -1);
     EXPECT_EQ(view.state.distanceUnit, "KM");
-    panel.OnCalculate();
+    panel.Commands().OnCalculate();
     EXPECT_EQ(Cell(1, ColDistance), "444.48");
 }
 
 TEST_F(PortCallFixture, ARowTypedInAnotherUnitIsSavedInKnotsMilesAndHours) {
     Open("20");
-    panel.ChangeUnit(UnitKind::Speed, "KPH");
+    panel.Commands().OnUnitChosen(UnitKind::Speed, "KPH");
     Type(1, ColSpeed, "37.04");
     EXPECT_EQ(Cell(1, ColSteamTime), "0.50");
-    panel.OnSave();
+    panel.Commands().OnSave();
     EXPECT_NEAR(schedule.savedRows[1].psp, 20.0, 1e-4);
 }
 
@@ -323,12 +323,12 @@ TEST_F(PortCallFixture, AFailedLoadGivesAnEmptyTableWithoutMessage) {
     schedule.refused = {"LoadSchedule"};
     EXPECT_EQ(panel.FillForVoyage(-1), 0);
     EXPECT_EQ(Cell(0, ColPort), " ");
-    EXPECT_EQ(view.state.averageSpeed, "");
+    EXPECT_EQ(view.state.summary.averageSpeed, "");
     EXPECT_TRUE(messages.messages.empty());
 }
 
 TEST_F(PortCallFixture, HelpNamesItsTopic) {
-    panel.OnHelp();
+    panel.Commands().OnHelp();
     EXPECT_EQ(view.help, "func034");
 }
 
@@ -339,12 +339,12 @@ TEST_F(PortCallFixture, ALanguageSwitchRenewsCaptionAndButton) {
     Interface::Raise(Interface::Bus::SwitchLanguage);
     EXPECT_EQ(view.state.caption, "zh IDS_PORTCALL_TITLE");
     EXPECT_EQ(view.state.calculateText, "zh IDS_PORTCALL_COMPUTE");
-    EXPECT_EQ(view.state.averageSpeed, "8.0");
+    EXPECT_EQ(view.state.summary.averageSpeed, "8.0");
 }
 
 TEST_F(PortCallFixture, LogoutHidesThePanelAndItsEditors) {
     Open("20");
-    panel.OnCellClicked(1, ColPort);
+    panel.Cells().OnCellClicked(1, ColPort);
     panel.HideAfterLogout();
     EXPECT_FALSE(view.visible);
     EXPECT_FALSE(view.openEditor.has_value());

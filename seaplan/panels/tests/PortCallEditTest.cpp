@@ -62,8 +62,8 @@ TEST_F(PortCallFixture, ANewPortClearsTheTotals) {
 TEST_F(PortCallFixture, LookingIntoAnEditorChangesNothing) {
     Open("20");
     for (const int column : {ColPort, ColSpeed, ColWeather}) {
-        panel.OnCellClicked(1, column);
-        panel.OnTableLeft();
+        panel.Cells().OnCellClicked(1, column);
+        panel.Cells().CommitEditors();
     }
     EXPECT_FALSE(view.state.changed);
     EXPECT_EQ(Cell(6, ColDistance), "480.00");
@@ -96,11 +96,11 @@ TEST_F(PortCallFixture, ATypedZeroLeavesTheSpeedAndABlankCellTakesTen) {
 TEST_F(PortCallFixture, ARowWithoutPortTakesNoSpeedWeatherOrPurpose) {
     Open("20");
     Type(3, ColSpeed, "12");
-    panel.OnCellClicked(3, ColWeather);
-    view.editorTexts[CellEditor::Weather] = "5";
-    panel.CommitEditors();
-    panel.OnCellClicked(3, ColPurpose);
-    panel.OnPurposeChosen(0);
+    panel.Cells().OnCellClicked(3, ColWeather);
+    Retype(CellEditor::Weather, "5");
+    panel.Cells().CommitEditors();
+    panel.Cells().OnCellClicked(3, ColPurpose);
+    panel.Cells().OnPurposeChosen(0);
     for (const int column : {ColSpeed, ColWeather, ColPurpose}) {
         EXPECT_EQ(Cell(3, column), " ") << column;
     }
@@ -133,13 +133,13 @@ TEST_F(PortCallFixture, AFactorThatLeavesNoSpeedKeepsTheTypedCellAndTheOtherCell
 
 TEST_F(PortCallFixture, APurposeWritesItsCodeAndComputesNothing) {
     Open("20");
-    panel.OnCellClicked(1, ColPurpose);
+    panel.Cells().OnCellClicked(1, ColPurpose);
     EXPECT_EQ(view.purposeRow, 1);
-    panel.OnPurposeChosen(9);
+    panel.Cells().OnPurposeChosen(9);
     EXPECT_EQ(Cell(1, ColPurpose), "Z");
     EXPECT_TRUE(view.state.changed);
-    panel.OnCellClicked(1, ColPurpose);
-    panel.OnPurposeChosen(-1);
+    panel.Cells().OnCellClicked(1, ColPurpose);
+    panel.Cells().OnPurposeChosen(-1);
     EXPECT_EQ(Cell(1, ColPurpose), "Z");
 }
 
@@ -196,10 +196,10 @@ TEST_F(PortCallFixture, ATimeOfAnotherLengthIsDropped) {
 TEST_F(PortCallFixture, ThePickerNeedsAFilledRow) {
     Open("10");
     EnterPorts({"ROTTERDAM", "HAMBURG"});
-    panel.OnCellClicked(1, ColEta);
+    panel.Cells().OnCellClicked(1, ColEta);
     EXPECT_TRUE(view.pickerTime.empty());
-    panel.OnCalculate();
-    panel.OnCellClicked(1, ColEta);
+    panel.Commands().OnCalculate();
+    panel.Cells().OnCellClicked(1, ColEta);
     EXPECT_EQ(view.pickerTime, Cell(1, ColEta));
 }
 
@@ -214,19 +214,19 @@ TEST_F(PortCallFixture, AnEtaOnALegWithoutDistanceStandsAlone) {
 
 TEST_F(PortCallFixture, ClickingTheLastNumberedRowAddsOne) {
     Open("10");
-    panel.OnCellClicked(5, ColSteamTime);
+    panel.Cells().OnCellClicked(5, ColSteamTime);
     EXPECT_EQ(view.table.RowCount(), 7);
     EXPECT_EQ(Cell(7, ColOrder), "RES");
-    panel.OnCellClicked(7, ColPort);
+    panel.Cells().OnCellClicked(7, ColPort);
     EXPECT_FALSE(view.openEditor.has_value());
-    panel.OnCellClicked(-1, ColPort);
+    panel.Cells().OnCellClicked(-1, ColPort);
     EXPECT_FALSE(view.openEditor.has_value());
 }
 
 TEST_F(PortCallFixture, ColumnsThatAreComputedHaveNoEditor) {
     Open("20");
     for (const int column : {ColOrder, ColSteamTime, ColPortTime, ColDistance}) {
-        panel.OnCellClicked(1, column);
+        panel.Cells().OnCellClicked(1, column);
         EXPECT_FALSE(view.openEditor.has_value()) << column;
         EXPECT_TRUE(view.pickerTime.empty()) << column;
     }
@@ -234,7 +234,7 @@ TEST_F(PortCallFixture, ColumnsThatAreComputedHaveNoEditor) {
 
 TEST_F(PortCallFixture, MovingARowBlanksTheFiguresOfAllRows) {
     Open("20");
-    EXPECT_EQ(panel.OnItemImage(2, "itemMoveUp"), 0);
+    EXPECT_EQ(panel.Commands().OnItemImage(2, "itemMoveUp"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "GDANSK", "HAMBURG", " ", " ", " "));
     for (const int column : {ColSteamTime, ColEta, ColEtd, ColDistance}) {
         for (int row = 0; row < 3; ++row) {
@@ -244,27 +244,27 @@ TEST_F(PortCallFixture, MovingARowBlanksTheFiguresOfAllRows) {
     EXPECT_EQ(Cell(2, ColPortTime), "0.50");
     EXPECT_EQ(view.selectedRow, 1);
     EXPECT_TRUE(view.state.changed);
-    EXPECT_EQ(panel.OnItemImage(0, "itemMovedown"), 0);
+    EXPECT_EQ(panel.Commands().OnItemImage(0, "itemMovedown"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("GDANSK", "ROTTERDAM", "HAMBURG", " ", " ", " "));
     EXPECT_EQ(view.selectedRow, 1);
 }
 
 TEST_F(PortCallFixture, TheFirstRowDoesNotMoveUpNorTheLastDown) {
     Open("20");
-    EXPECT_LT(panel.OnItemImage(0, "itemMoveUp"), 0);
-    EXPECT_LT(panel.OnItemImage(2, "itemMovedown"), 0);
-    EXPECT_LT(panel.OnItemImage(4, "itemdel"), 0);
-    EXPECT_LT(panel.OnItemImage(1, "itemElse"), 0);
+    EXPECT_LT(panel.Commands().OnItemImage(0, "itemMoveUp"), 0);
+    EXPECT_LT(panel.Commands().OnItemImage(2, "itemMovedown"), 0);
+    EXPECT_LT(panel.Commands().OnItemImage(4, "itemdel"), 0);
+    EXPECT_LT(panel.Commands().OnItemImage(1, "itemElse"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));
     EXPECT_FALSE(view.state.changed);
 }
 
 TEST_F(PortCallFixture, DeletingARowKeepsTheOthers) {
     Open("20");
-    EXPECT_EQ(panel.OnItemImage(1, "itemdel"), 0);
+    EXPECT_EQ(panel.Commands().OnItemImage(1, "itemdel"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "GDANSK", " ", " ", " ", " "));
     EXPECT_TRUE(view.state.canCalculate);
-    EXPECT_EQ(panel.OnItemImage(1, "itemdel"), 0);
+    EXPECT_EQ(panel.Commands().OnItemImage(1, "itemdel"), 0);
     EXPECT_FALSE(view.state.canCalculate);
 }
 
@@ -272,7 +272,7 @@ TEST_F(PortCallFixture, ARowBelowABlankRowCountsByItsPlaceInTheTable) {
     Open("10");
     Type(0, ColPort, "ROTTERDAM");
     Type(2, ColPort, "HAMBURG");
-    EXPECT_LT(panel.OnItemImage(2, "itemdel"), 0);
+    EXPECT_LT(panel.Commands().OnItemImage(2, "itemdel"), 0);
     EXPECT_EQ(Cell(2, ColPort), "HAMBURG");
 }
 

@@ -27,7 +27,7 @@ class PortCallFixture : public ::testing::Test {
     RecordingPortCallView view;
     std::vector<std::string> saved;
     PortDirectory ports = Ports();
-    CPortCallPanelDlg panel{store, schedule, ports, view};
+    CPortCallPanelDlg panel{{store, schedule, ports, view}};
 
     PortCallFixture() {
         for (const char* vi : {"10", "20"}) {
@@ -63,14 +63,19 @@ class PortCallFixture : public ::testing::Test {
         ASSERT_EQ(panel.FillForVoyage(-1), 0);
         panel.ShowBesideTree();
     }
+    /// The text in an open editor, by the person's hand.
+    void Retype(CellEditor editor, const std::string& text) {
+        view.editorTexts[editor] = text;
+        panel.Cells().OnTyped(editor, text);
+    }
     /// Clicks a cell, types into the editor that opens and presses Enter.
     void Type(int row, int column, const std::string& text) {
-        panel.OnCellClicked(row, column);
+        panel.Cells().OnCellClicked(row, column);
         ASSERT_TRUE(view.openEditor.has_value());
         const CellEditor editor = *view.openEditor;
-        view.editorTexts[editor] = text;
-        panel.OnEditorKey(editor, EditorKey::Enter);
-        panel.CommitEditors();
+        Retype(editor, text);
+        panel.Cells().OnEditorKey(editor, {Key::Enter});
+        panel.Cells().CommitEditors();
     }
     void EnterPorts(std::initializer_list<const char*> names) {
         int row = 0;
@@ -79,9 +84,9 @@ class PortCallFixture : public ::testing::Test {
         }
     }
     void PickTime(int row, int column, const std::string& text) {
-        panel.OnCellClicked(row, column);
+        panel.Cells().OnCellClicked(row, column);
         ASSERT_FALSE(view.pickerTime.empty());
-        panel.OnTimeChosen(text);
+        panel.Cells().OnTimeChosen(text);
     }
     std::string Cell(int row, int column) const { return view.table.Cell(row, column); }
     std::vector<std::string> Column(int column) const {

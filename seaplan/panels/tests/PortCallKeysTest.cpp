@@ -43,9 +43,9 @@ class SearchPlugin final : public Core::TObject {
 
 TEST_F(PortCallFixture, TabLeadsFromTheFirstPortToTheNextPort) {
     Open("10");
-    panel.OnCellClicked(0, ColPort);
-    view.editorTexts[CellEditor::Port] = "ROTTERDAM";
-    panel.OnEditorKey(CellEditor::Port, EditorKey::Tab);
+    panel.Cells().OnCellClicked(0, ColPort);
+    Retype(CellEditor::Port, "ROTTERDAM");
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Tab});
     EXPECT_EQ(view.openEditor, CellEditor::Port);
     EXPECT_EQ(view.editorRow, 1);
 }
@@ -53,17 +53,17 @@ TEST_F(PortCallFixture, TabLeadsFromTheFirstPortToTheNextPort) {
 TEST_F(PortCallFixture, TabLeadsFromALaterPortThroughSpeedAndWeatherToTheNextPort) {
     Open("10");
     Type(0, ColPort, "ROTTERDAM");
-    panel.OnCellClicked(1, ColPort);
-    view.editorTexts[CellEditor::Port] = "HAMBURG";
-    panel.OnEditorKey(CellEditor::Port, EditorKey::Tab);
+    panel.Cells().OnCellClicked(1, ColPort);
+    Retype(CellEditor::Port, "HAMBURG");
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Tab});
     EXPECT_EQ(view.openEditor, CellEditor::Speed);
     EXPECT_TRUE(view.editorSelectsAll);
-    view.editorTexts[CellEditor::Speed] = "14";
-    panel.OnEditorKey(CellEditor::Speed, EditorKey::Tab);
+    Retype(CellEditor::Speed, "14");
+    panel.Cells().OnEditorKey(CellEditor::Speed, {Key::Tab});
     EXPECT_EQ(view.openEditor, CellEditor::Weather);
     EXPECT_EQ(view.editorRow, 1);
-    view.editorTexts[CellEditor::Weather] = "5";
-    panel.OnEditorKey(CellEditor::Weather, EditorKey::Tab);
+    Retype(CellEditor::Weather, "5");
+    panel.Cells().OnEditorKey(CellEditor::Weather, {Key::Tab});
     EXPECT_EQ(view.openEditor, CellEditor::Port);
     EXPECT_EQ(view.editorRow, 2);
     EXPECT_EQ(Cell(1, ColSpeed), "14.00");
@@ -72,132 +72,130 @@ TEST_F(PortCallFixture, TabLeadsFromALaterPortThroughSpeedAndWeatherToTheNextPor
 
 TEST_F(PortCallFixture, EnterTakesThePortAndOpensTheNextEnterInTheSpeedOnlyCloses) {
     Open("20");
-    panel.OnCellClicked(1, ColPort);
-    view.editorTexts[CellEditor::Port] = "ROUEN";
-    panel.OnEditorKey(CellEditor::Port, EditorKey::Enter);
+    panel.Cells().OnCellClicked(1, ColPort);
+    Retype(CellEditor::Port, "ROUEN");
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Enter});
     EXPECT_EQ(view.editorRow, 2);
     EXPECT_EQ(view.openEditor, CellEditor::Port);
-    panel.OnCellClicked(1, ColSpeed);
-    panel.OnEditorKey(CellEditor::Speed, EditorKey::Enter);
+    panel.Cells().OnCellClicked(1, ColSpeed);
+    panel.Cells().OnEditorKey(CellEditor::Speed, {Key::Enter});
     EXPECT_FALSE(view.openEditor.has_value());
-    panel.OnCellClicked(1, ColWeather);
-    panel.OnEditorKey(CellEditor::Weather, EditorKey::Enter);
+    panel.Cells().OnCellClicked(1, ColWeather);
+    panel.Cells().OnEditorKey(CellEditor::Weather, {Key::Enter});
     EXPECT_EQ(view.openEditor, CellEditor::Port);
     EXPECT_EQ(view.editorRow, 2);
 }
 
 TEST_F(PortCallFixture, AnEmptyPortEditorStaysOpen) {
     Open("10");
-    panel.OnCellClicked(0, ColPort);
-    panel.OnEditorKey(CellEditor::Port, EditorKey::Tab);
+    panel.Cells().OnCellClicked(0, ColPort);
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Tab});
     EXPECT_EQ(view.openEditor, CellEditor::Port);
     EXPECT_EQ(view.editorRow, 0);
 }
 
 TEST_F(PortCallFixture, EnterInTheLastRowGrowsTheTable) {
     Open("10");
-    panel.OnCellClicked(4, ColPort);
-    view.editorTexts[CellEditor::Port] = "ROUEN";
-    panel.OnEditorKey(CellEditor::Port, EditorKey::Enter);
+    panel.Cells().OnCellClicked(4, ColPort);
+    Retype(CellEditor::Port, "ROUEN");
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Enter});
     EXPECT_EQ(view.editorRow, 5);
     EXPECT_EQ(view.table.RowCount(), 7);
 }
 
 TEST_F(PortCallFixture, LeavingTheSpeedCommitsLeavingThePortDoesNot) {
     Open("20");
-    panel.OnCellClicked(1, ColSpeed);
-    view.editorTexts[CellEditor::Speed] = "15";
-    panel.OnEditorFocusLost(CellEditor::Speed);
+    panel.Cells().OnCellClicked(1, ColSpeed);
+    Retype(CellEditor::Speed, "15");
+    panel.Cells().OnEditorFocusLost(CellEditor::Speed);
     EXPECT_EQ(Cell(1, ColSpeed), "15.00");
-    panel.OnCellClicked(1, ColPort);
-    view.editorTexts[CellEditor::Port] = "ROUEN";
-    panel.OnEditorFocusLost(CellEditor::Port);
+    panel.Cells().OnCellClicked(1, ColPort);
+    Retype(CellEditor::Port, "ROUEN");
+    panel.Cells().OnEditorFocusLost(CellEditor::Port);
     EXPECT_EQ(view.openEditor, CellEditor::Port);
     EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
-    panel.OnTableLeft();
+    panel.Cells().CommitEditors();
     EXPECT_EQ(Cell(1, ColPort), "ROUEN");
     EXPECT_FALSE(view.openEditor.has_value());
 }
 
 TEST_F(PortCallFixture, EscapeClosesTheListThenAnEditorThatWasNotChanged) {
     Open("20");
-    panel.OnCellClicked(3, ColPort);
-    view.editorTexts[CellEditor::Port] = "RO";
-    panel.OnPortTyped("RO");
+    panel.Cells().OnCellClicked(3, ColPort);
+    Retype(CellEditor::Port, "RO");
     ASSERT_TRUE(view.matchesShown);
-    panel.OnEditorKey(CellEditor::Port, EditorKey::Escape);
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Escape});
     EXPECT_FALSE(view.matchesShown);
-    panel.OnEditorKey(CellEditor::Port, EditorKey::Escape);
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Escape});
     EXPECT_EQ(view.openEditor, CellEditor::Port);
-    view.editorTexts[CellEditor::Port] = "";
-    panel.OnEditorKey(CellEditor::Port, EditorKey::Escape);
+    Retype(CellEditor::Port, "");
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Escape});
     EXPECT_FALSE(view.openEditor.has_value());
     EXPECT_EQ(Cell(3, ColPort), " ");
 }
 
 TEST_F(PortCallFixture, TypingOffersThePortsThatBeginSo) {
     Open("10");
-    panel.OnCellClicked(0, ColPort);
+    panel.Cells().OnCellClicked(0, ColPort);
     EXPECT_FALSE(view.matchesShown);
-    panel.OnPortTyped("ro");
+    Retype(CellEditor::Port, "ro");
     EXPECT_THAT(view.matches, ElementsAre("ROTTERDAM", "ROUEN"));
-    panel.OnPortTyped("rx");
+    Retype(CellEditor::Port, "rx");
     EXPECT_FALSE(view.matchesShown);
-    panel.OnPortTyped("ro");
-    panel.OnPortTyped("");
+    Retype(CellEditor::Port, "ro");
+    Retype(CellEditor::Port, "");
     EXPECT_FALSE(view.matchesShown);
 }
 
 TEST_F(PortCallFixture, AMatchIsTakenWhenItIsChosen) {
     Open("10");
-    panel.OnCellClicked(0, ColPort);
-    panel.OnPortTyped("ro");
-    panel.OnMatchMoved("ROUEN", true);
-    EXPECT_EQ(view.EditorText(CellEditor::Port), "");
-    panel.OnMatchChosen();
+    panel.Cells().OnCellClicked(0, ColPort);
+    Retype(CellEditor::Port, "ro");
+    panel.Cells().OnMatchMoved("ROUEN", true);
+    EXPECT_EQ(view.editorTexts[CellEditor::Port], "ro");
+    panel.Cells().OnMatchChosen();
     EXPECT_EQ(Cell(0, ColPort), " ");
-    panel.OnMatchMoved("ROUEN", false);
-    EXPECT_EQ(view.EditorText(CellEditor::Port), "ROUEN");
-    panel.OnMatchChosen();
+    panel.Cells().OnMatchMoved("ROUEN", false);
+    EXPECT_EQ(view.editorTexts[CellEditor::Port], "ROUEN");
+    panel.Cells().OnMatchChosen();
     EXPECT_EQ(Cell(0, ColPort), "ROUEN");
     EXPECT_FALSE(view.openEditor.has_value());
-    panel.OnMatchMoved("HAMBURG", false);
-    panel.OnMatchChosen();
+    panel.Cells().OnMatchMoved("HAMBURG", false);
+    panel.Cells().OnMatchChosen();
     EXPECT_EQ(Cell(0, ColPort), "ROUEN");
 }
 
 TEST_F(PortCallFixture, TheSearchPluginIsAskedAtEachTextButTheOneSetOnTheWayToTheNextRow) {
     SearchPlugin plugin;
     Open("20");
-    panel.OnCellClicked(1, ColPort);
+    panel.Cells().OnCellClicked(1, ColPort);
     ASSERT_EQ(plugin.queries.size(), 1U);
     EXPECT_EQ(plugin.queries[0].text, "HAMBURG");
     EXPECT_EQ(plugin.queries[0].editor, view.Handle());
     EXPECT_EQ(plugin.queries[0].edit, view.EditorHandle(CellEditor::Port));
     EXPECT_THAT(view.matchWindows, ElementsAre(&plugin.window));
-    view.editorTexts[CellEditor::Port] = "ROUEN";
-    panel.OnEditorKey(CellEditor::Port, EditorKey::Enter);
+    Retype(CellEditor::Port, "ROUEN");
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Enter});
     EXPECT_EQ(view.editorRow, 2);
-    EXPECT_EQ(plugin.queries.size(), 1U);
+    EXPECT_EQ(plugin.queries.size(), 2U) << "one for the opening and one for the typed name";
     EXPECT_TRUE(view.matchWindows.empty());
-    panel.OnPortTyped("G");
-    EXPECT_EQ(plugin.queries.size(), 2U);
+    Retype(CellEditor::Port, "G");
+    EXPECT_EQ(plugin.queries.size(), 3U);
     EXPECT_FALSE(view.matchesShown);
 }
 
 TEST_F(PortCallFixture, AnEmptyTextHidesTheMatchWindowAndBackspaceIsToldOnce) {
     SearchPlugin plugin;
     Open("10");
-    panel.OnCellClicked(0, ColPort);
-    view.editorTexts[CellEditor::Port] = "R";
-    panel.OnPortTyped("R");
+    panel.Cells().OnCellClicked(0, ColPort);
+    Retype(CellEditor::Port, "R");
     EXPECT_FALSE(plugin.queries.back().textRemains);
     EXPECT_FALSE(view.matchWindows.empty());
-    panel.OnPortBackspace();
-    panel.OnPortTyped("");
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Backspace});
+    Retype(CellEditor::Port, "");
     EXPECT_TRUE(plugin.queries.back().textRemains);
     EXPECT_TRUE(view.matchWindows.empty());
-    panel.OnPortTyped("H");
+    Retype(CellEditor::Port, "H");
     EXPECT_FALSE(plugin.queries.back().textRemains);
 }
 

@@ -12,10 +12,12 @@
 namespace Tarvik::Seaplan {
 
 /// A port call window that only remembers what it was told.
-class RecordingPortCallView final : public PortCallView {
+class RecordingPortCallView final : public PortCallView, public CellsView {
   public:
     PortCallTable table;
     PortCallState state;
+    int tablesShown = 0;
+    int statesShown = 0;
     bool visible = false;
     bool enabled = true;
     bool besideTree = false;
@@ -28,14 +30,22 @@ class RecordingPortCallView final : public PortCallView {
     std::set<CellEditor> openEditors;
     std::vector<std::string> matches;
     bool matchesShown = false;
+    int selectedMatch = -1;
     std::set<void*> matchWindows;
     int purposeRow = -1;
+    std::vector<std::string> purposes;
     std::string pickerTime;  ///< empty while the picker is closed
     std::string help;
     std::vector<std::string> visibility;  ///< "show" and "hide" in order
 
-    void ShowTable(const PortCallTable& shown) override { table = shown; }
-    void ShowState(const PortCallState& shown) override { state = shown; }
+    void ShowTable(const PortCallTable& shown) override {
+        table = shown;
+        ++tablesShown;
+    }
+    void ShowState(const PortCallState& shown) override {
+        state = shown;
+        ++statesShown;
+    }
     void ApplyTexts() override {}
     void Show() override {
         visible = true;
@@ -51,12 +61,13 @@ class RecordingPortCallView final : public PortCallView {
     void SetBusy(bool on) override { busy += on ? 1 : -1; }
     void SelectRow(int row) override { selectedRow = row; }
     void BringRowIntoView(int) override {}
-    void OpenEditor(CellEditor editor, int row, const std::string& text, bool selectAll) override {
-        openEditor = editor;
-        openEditors.insert(editor);
-        editorRow = row;
-        editorTexts[editor] = text;
-        editorSelectsAll = selectAll;
+    CellsView& Cells() override { return *this; }
+    void OpenEditor(const OpenedEditor& opened) override {
+        openEditor = opened.editor;
+        openEditors.insert(opened.editor);
+        editorRow = opened.row;
+        editorTexts[opened.editor] = opened.text;
+        editorSelectsAll = opened.selectAll;
     }
     void HideEditor(CellEditor editor) override {
         openEditors.erase(editor);
@@ -65,21 +76,20 @@ class RecordingPortCallView final : public PortCallView {
             openEditor.reset();
         }
     }
-    bool EditorVisible(CellEditor editor) const override { return openEditors.contains(editor); }
-    std::string EditorText(CellEditor editor) const override {
-        const auto text = editorTexts.find(editor);
-        return text == editorTexts.end() ? std::string() : text->second;
-    }
     void SetEditorText(CellEditor editor, const std::string& text) override { editorTexts[editor] = text; }
     void* EditorHandle(CellEditor) const override { return const_cast<std::string*>(&help); }
     void ShowMatches(const std::vector<std::string>& names) override {
         matches = names;
         matchesShown = true;
     }
+    void SelectMatch(int index) override { selectedMatch = index; }
     void HideMatches() override { matchesShown = false; }
     void ShowMatchWindow(void* window) override { matchWindows.insert(window); }
     void HideMatchWindow(void* window) override { matchWindows.erase(window); }
-    void OpenPurposes(int row) override { purposeRow = row; }
+    void OpenPurposes(int row, const std::vector<std::string>& texts, int) override {
+        purposeRow = row;
+        purposes = texts;
+    }
     void HidePurposes() override { purposeRow = -1; }
     void OpenPicker(int, int, const Util::_datetime_t& time) override { pickerTime = time.fmt(kTimeFormat); }
     void HidePicker() override { pickerTime.clear(); }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/portcall/PortCallModel.h"
 
+#include "seaplan/panels/language/LoadText.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -11,6 +13,14 @@ QVariant AlignmentOf(int column) {
                                : entry.kind == CellKind::Number ? Qt::AlignRight
                                                                 : Qt::AlignLeft;
     return static_cast<int>(side | Qt::AlignVCenter);
+}
+
+/// The unit on show of a quantity, null for none.
+const std::string* UnitOf(const PortCallState& state, UnitKind kind) {
+    return kind == UnitKind::Speed      ? &state.speedUnit
+           : kind == UnitKind::Distance ? &state.distanceUnit
+           : kind == UnitKind::Time     ? &state.timeUnit
+                                        : nullptr;
 }
 
 }  // namespace
@@ -27,8 +37,15 @@ void PortCallModel::Show(const PortCallTable& table) {
     emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
-void PortCallModel::SetTitles(const QStringList& titles) {
-    titles_ = titles;
+void PortCallModel::ShowTitles(const PortCallState& state) {
+    titles_.clear();
+    for (const PortCallColumnEntry& column : kPortCallColumns) {
+        QString title = QString::fromStdString(TextOfKey(column.title));
+        if (const std::string* unit = UnitOf(state, column.unit); unit != nullptr) {
+            title += u'\n' + QString::fromStdString(*unit);
+        }
+        titles_.append(title);
+    }
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 

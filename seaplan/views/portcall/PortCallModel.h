@@ -4,7 +4,7 @@
 #include <QAbstractTableModel>
 #include <QStringList>
 
-#include "seaplan/panels/portcall/PortCallTable.h"
+#include "seaplan/panels/portcall/PortCallView.h"
 
 namespace Tarvik::Seaplan {
 
@@ -23,7 +23,8 @@ class PortCallModel final : public QAbstractTableModel {
 
     using QAbstractTableModel::QAbstractTableModel;
     void Show(const PortCallTable& table);
-    void SetTitles(const QStringList& titles);
+    /// Column titles in the language in force, with the units on show.
+    void ShowTitles(const PortCallState& state);
     void SetUnknownPortTip(const QString& tip) { unknownTip_ = tip; }
     RowActions ActionsOf(int row) const { return table_.ActionsOf(row); }
 

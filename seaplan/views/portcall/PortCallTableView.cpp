@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QToolTip>
 
+#include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/portcall/PortCallDelegate.h"
 #include "seaplan/views/portcall/PortCallModel.h"
 
@@ -98,34 +99,8 @@ void PortCallTableView::mousePressEvent(QMouseEvent* event) {
 
 void PortCallTableView::keyPressEvent(QKeyEvent* event) {
     const QModelIndex index = currentIndex();
-    if (!index.isValid()) {
-        return QTableView::keyPressEvent(event);
-    }
-    const bool moves = event->modifiers().testFlag(Qt::AltModifier);
-    switch (event->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_F2:
-            if (reports_.cellClicked) {
-                reports_.cellClicked(index.row(), index.column());
-            }
-            return;
-        case Qt::Key_Delete:
-            return PressImage(index.row(), "itemdel");
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-            if (moves) {
-                return PressImage(index.row(), event->key() == Qt::Key_Up ? "itemMoveUp" : "itemMovedown");
-            }
-            break;
-        case Qt::Key_Escape:
-            // Closes what is open over the cells.
-            if (reports_.left) {
-                reports_.left();
-            }
-            return;
-        default:
-            break;
+    if (index.isValid() && reports_.key && reports_.key(PressOf(*event), index.row(), index.column())) {
+        return;
     }
     QTableView::keyPressEvent(event);
 }

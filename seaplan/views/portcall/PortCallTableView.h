@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "seaplan/panels/editors/Keys.h"
+
 namespace Tarvik::Seaplan {
 
 /// The table with fixed columns and rows; reports clicks on cells and on row images.
@@ -14,6 +16,8 @@ class PortCallTableView final : public QTableView {
     struct Reports {
         std::function<void(int, int)> cellClicked;
         std::function<void(int, const std::string&)> imageClicked;
+        /// A key on the cell in front; false when it means nothing there.
+        std::function<bool(KeyPress, int, int)> key;
         std::function<void()> left;
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }

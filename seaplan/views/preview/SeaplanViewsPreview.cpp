@@ -68,21 +68,20 @@ void click(VoyageViews& views, const std::string& text, const std::string& item)
 void playPortCalls(VoyageViews& views, const std::string& scene) {
     CPortCallPanelDlg& panel = views.PortCalls();
     if (scene == "edit") {
-        panel.OnCellClicked(2, ColSpeed);
+        panel.Cells().OnCellClicked(2, ColSpeed);
     }
     if (scene == "matches") {
-        panel.OnCellClicked(5, ColPort);
+        panel.Cells().OnCellClicked(5, ColPort);
         views.PortCallsWindow()->findChild<QLineEdit*>("portEditor")->setText("RO");
-        panel.OnPortTyped("RO");
     }
     if (scene == "purposes") {
-        panel.OnCellClicked(1, ColPurpose);
+        panel.Cells().OnCellClicked(1, ColPurpose);
     }
     if (scene == "calendar") {
-        panel.OnCellClicked(1, ColEtd);
+        panel.Cells().OnCellClicked(1, ColEtd);
     }
     if (scene == "voyage") {
-        panel.OnItemImage(3, "itemMoveUp");
+        panel.Commands().OnItemImage(3, "itemMoveUp");
     }
 }
 

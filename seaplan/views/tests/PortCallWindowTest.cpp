@@ -267,7 +267,7 @@ TEST_F(PortCallWindowTest, AnUnknownPortTellsSo) {
 TEST_F(PortCallWindowTest, ScrollingEndsTheEditing) {
     OpenPortCalls("Far East 12");
     for (int row = 5; row < 14; ++row) {
-        ClickCell(5, ColSteamTime), views.PortCalls().OnCellClicked(row, ColOrder);
+        ClickCell(5, ColSteamTime), views.PortCalls().Cells().OnCellClicked(row, ColOrder);
     }
     ClickCell(1, ColSpeed);
     ASSERT_TRUE(SpeedEditor().isVisible());

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/CellEditing.h"
+
+#include <vector>
+
+#include <tarvik/util/DateTimeUtl.h>
+
+#include "seaplan/data/Purposes.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr std::size_t kMostCharacters = 30;
+constexpr CellEditor kTextEditors[] = {CellEditor::Port, CellEditor::Speed, CellEditor::Weather};
+
+}  // namespace
+
+CellEditing::CellEditing(PortCallDesk& desk)
+    : desk_(desk),
+      edits_(desk),
+      port_(kMostCharacters),
+      speed_(kMostCharacters),
+      weather_(kMostCharacters),
+      matching_(desk, port_) {}
+
+TextField& CellEditing::Box(CellEditor editor) {
+    return editor == CellEditor::Port ? port_ : editor == CellEditor::Speed ? speed_ : weather_;
+}
+
+bool CellEditing::IsOpen() const {
+    return port_.IsOpen() || speed_.IsOpen() || weather_.IsOpen() || purposes_.IsOpen();
+}
+
+void CellEditing::OnCellClicked(int row, int column) {
+    const PortCallDesk::Report report(desk_);
+    CommitEditors();
+    PortCallTable& table = desk_.Sheet().table;
+    if (!table.IsNumbered(row) || column < 0 || column >= PortCallColumnCount) {
+        return;
+    }
+    table.GrowIfLast(row);
+    // The history of a corrected voyage stays as it is.
+    if (desk_.IsCorrected() && (table.FindLastAisRow() < 0 || row <= table.FindLastAisRow())) {
+        return;
+    }
+    switch (const CellEditor editor = kPortCallColumns[column].editor; editor) {
+        case CellEditor::None:
+            break;
+        case CellEditor::Purpose:
+            OpenPurposes(row);
+            break;
+        case CellEditor::Time:
+            OpenPicker(row, column);
+            break;
+        default:
+            Open(editor, row);
+            if (editor == CellEditor::Port) {
+                matching_.Ask();
+            }
+            break;
+    }
+}
+
+void CellEditing::Open(CellEditor editor, int row) {
+    // A row that has just grown must be there before an editor stands on it, and a table that scrolls takes
+    // what is open.
+    desk_.Show();
+    desk_.View().BringRowIntoView(row);
+    const std::string& text = desk_.Sheet().table.Cell(row, ColumnOf(editor));
+    TextField& box = Box(editor);
+    box.Open(row, IsBlankCell(text) ? std::string() : text);
+    desk_.Cells().OpenEditor(
+        {editor, row, ColumnOf(editor), box.Text(), box.Limit(), editor != CellEditor::Port});
+}
+
+void CellEditing::OpenNextPort(int row) {
+    const int next = row + 1;
+    PortCallTable& table = desk_.Sheet().table;
+    if (!table.IsNumbered(next)) {
+        return;
+    }
+    table.GrowIfLast(next);
+    // Text that the panel sets asks for no matches.
+    Open(CellEditor::Port, next);
+}
+
+void CellEditing::OpenPurposes(int row) {
+    std::vector<std::string> texts;
+    texts.reserve(kPurposes.size());
+    for (const Purpose& purpose : kPurposes) {
+        texts.emplace_back(purpose.text);
+    }
+    purposes_.Open(row, std::move(texts), 0);
+    desk_.Show();
+    desk_.Cells().OpenPurposes(row, purposes_.Texts(), purposes_.Current());
+}
+
+void CellEditing::OpenPicker(int row, int column) {
+    const PortCallTable& table = desk_.Sheet().table;
+    if (table.IsBlank(row) || IsBlankCell(table.Cell(row, ColEta)) || IsBlankCell(table.Cell(row, ColEtd))) {
+        return;
+    }
+    const auto time = Util::DateTimeUtl::Parse(table.Cell(row, column));
+    if (!time) {
+        return;
+    }
+    dateRow_ = row;
+    dateColumn_ = column;
+    desk_.Show();
+    desk_.Cells().OpenPicker(row, column, *time);
+}
+
+void CellEditing::Commit(CellEditor editor) {
+    const TextField& box = Box(editor);
+    // An editor that was only looked into changes nothing; a blank cell takes its default all the same.
+    if (box.Untouched()) {
+        return;
+    }
+    if (editor == CellEditor::Port) {
+        edits_.SetPort(box.Row(), box.Text());
+    } else if (editor == CellEditor::Speed) {
+        edits_.SetSpeed(box.Row(), box.Text());
+    } else {
+        edits_.SetWeather(box.Row(), box.Text());
+    }
+}
+
+void CellEditing::Hide(CellEditor editor) {
+    // A field that is hidden loses the focus, and that must not count as leaving an open one.
+    Box(editor).Close();
+    desk_.Cells().HideEditor(editor);
+}
+
+void CellEditing::ClosePopups() {
+    matching_.Hide();
+    purposes_.Close();
+    desk_.Cells().HidePurposes();
+    desk_.Cells().HidePicker();
+}
+
+void CellEditing::HideEditors() {
+    ClosePopups();
+    for (const CellEditor editor : kTextEditors) {
+        Hide(editor);
+    }
+}
+
+void CellEditing::CommitEditors() {
+    const PortCallDesk::Report report(desk_);
+    for (const CellEditor editor : kTextEditors) {
+        if (Box(editor).IsOpen()) {
+            Commit(editor);
+            Hide(editor);
+        }
+    }
+    ClosePopups();
+    desk_.Sheet().state.canCalculate = desk_.Sheet().PlaceCount(desk_.Ports()) >= 2;
+}
+
+}  // namespace Tarvik::Seaplan

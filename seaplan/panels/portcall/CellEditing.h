@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "seaplan/panels/editors/Keys.h"
+#include "seaplan/panels/editors/ListBox.h"
+#include "seaplan/panels/editors/TextField.h"
+#include "seaplan/panels/portcall/CellEdits.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/portcall/PortMatching.h"
+
+namespace Tarvik::Seaplan {
+
+/// The editors, lists and the calendar over the cells: what opens where, which key leads where, and what is
+/// taken when one closes. At most one editor of a kind is open.
+class CellEditing {
+  public:
+    explicit CellEditing(PortCallDesk& desk);
+
+    /// A press on a cell: what is open is taken, and what the column has opens.
+    void OnCellClicked(int row, int column);
+    /// The text in an editor changed by the person's hand.
+    void OnTyped(CellEditor editor, const std::string& text);
+    /// A key in an editor; false when it means nothing there and the field takes it.
+    bool OnEditorKey(CellEditor editor, KeyPress press);
+    /// A key that begins a command is about to be looked up: the text just typed may make it possible.
+    void OnCommandKey(KeyPress press);
+    void OnEditorFocusLost(CellEditor editor);
+    /// A window of matches moved to a name, or the name last moved to was chosen there.
+    void OnMatchMoved(const std::string& name, bool fieldHasFocus);
+    void OnMatchChosen();
+    /// A press on a match of the panel's own list.
+    void OnMatchPressed(int index);
+    /// A key in the list of purposes; false when it means nothing there.
+    bool OnPurposeKey(KeyPress press, int current);
+    void OnPurposeChosen(int index);
+    /// The picker's time, "%Y-%m-%d %H:%M:%S".
+    void OnTimeChosen(const std::string& text);
+
+    /// Whether anything is open that a press outside ends.
+    bool IsOpen() const;
+    /// Takes what is typed and closes all: the table was scrolled, a press fell outside it, a command begins.
+    void CommitEditors();
+    /// Closes all and drops what is typed.
+    void HideEditors();
+
+  private:
+    TextField& Box(CellEditor editor);
+    void Open(CellEditor editor, int row);
+    void OpenNextPort(int row);
+    void OpenPurposes(int row);
+    void OpenPicker(int row, int column);
+    void Commit(CellEditor editor);
+    void Hide(CellEditor editor);
+    void Finish(CellEditor editor, Key key);
+    void Escape(CellEditor editor);
+    void ClosePopups();
+
+    PortCallDesk& desk_;
+    CellEdits edits_;
+    TextField port_;
+    TextField speed_;
+    TextField weather_;
+    PortMatching matching_;
+    ListBox purposes_;
+    int dateRow_ = -1;
+    int dateColumn_ = ColEta;
+};
+
+}  // namespace Tarvik::Seaplan

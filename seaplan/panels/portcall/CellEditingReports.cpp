@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+/// What the window reports of the editors, and where each key leads.
+#include "seaplan/data/Purposes.h"
+#include "seaplan/panels/portcall/CellEditing.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+/// F9 calculates, Ctrl+S saves.
+bool StartsCommand(KeyPress press) {
+    return press.key == Key::F9 || (press.key == Key::S && press.ctrl);
+}
+
+}  // namespace
+
+void CellEditing::OnTyped(CellEditor editor, const std::string& text) {
+    Box(editor).SetText(text);
+    if (editor == CellEditor::Port) {
+        matching_.Ask();
+    }
+}
+
+bool CellEditing::OnEditorKey(CellEditor editor, KeyPress press) {
+    const PortCallDesk::Report report(desk_);
+    switch (press.key) {
+        case Key::Escape:
+            Escape(editor);
+            return true;
+        case Key::Up:
+        case Key::Down:
+            return editor == CellEditor::Port && matching_.Move(press.key == Key::Down ? 1 : -1);
+        case Key::Backspace:
+            if (editor == CellEditor::Port) {
+                matching_.OnBackspace();
+            }
+            return false;
+        case Key::Tab:
+        case Key::Enter:
+            Finish(editor, press.key);
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// Tab and Enter take the text and lead on: from the first port and from any weather factor to the next port,
+/// else to the next editor of the row; Enter in the speed only closes, in a port it leads to the next one.
+void CellEditing::Finish(CellEditor editor, Key key) {
+    const int row = Box(editor).Row();
+    const bool empty = Box(editor).Text().empty();
+    Commit(editor);
+    if (editor == CellEditor::Port) {
+        matching_.Hide();
+        if (empty) {
+            return;
+        }
+    }
+    Hide(editor);
+    const bool toSpeed = editor == CellEditor::Port && key == Key::Tab && row > 0;
+    if (toSpeed) {
+        Open(CellEditor::Speed, row);
+    } else if (editor != CellEditor::Speed) {
+        OpenNextPort(row);
+    } else if (key == Key::Tab) {
+        Open(CellEditor::Weather, row);
+    }
+}
+
+void CellEditing::Escape(CellEditor editor) {
+    if (matching_.IsShown()) {
+        return matching_.Hide();
+    }
+    const TextField& box = Box(editor);
+    const PortCallTable& table = desk_.Sheet().table;
+    if (!table.IsNumbered(box.Row())) {
+        return;
+    }
+    // What was typed stays; only an editor without a change closes.
+    const std::string& cell = table.Cell(box.Row(), ColumnOf(editor));
+    if (box.Text() == cell || (box.Text().empty() && IsBlankCell(cell))) {
+        Hide(editor);
+    }
+}
+
+void CellEditing::OnCommandKey(KeyPress press) {
+    if (StartsCommand(press)) {
+        CommitEditors();
+    }
+}
+
+void CellEditing::OnEditorFocusLost(CellEditor editor) {
+    // The focus may have gone from the port editor to its match list.
+    if (editor != CellEditor::Port && Box(editor).IsOpen()) {
+        CommitEditors();
+    }
+}
+
+void CellEditing::OnMatchMoved(const std::string& name, bool fieldHasFocus) {
+    matching_.OnMoved(name, fieldHasFocus);
+}
+
+void CellEditing::OnMatchChosen() {
+    const PortCallDesk::Report report(desk_);
+    const std::string name = matching_.Take();
+    if (!name.empty()) {
+        edits_.SetPort(port_.Row(), name);
+        Hide(CellEditor::Port);
+    }
+}
+
+void CellEditing::OnMatchPressed(int index) {
+    matching_.OnPressed(index);
+    OnMatchChosen();
+}
+
+bool CellEditing::OnPurposeKey(KeyPress press, int current) {
+    if (press.key == Key::Enter) {
+        OnPurposeChosen(current);
+    } else if (press.key == Key::Escape) {
+        purposes_.Close();
+        desk_.Cells().HidePurposes();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void CellEditing::OnPurposeChosen(int index) {
+    const PortCallDesk::Report report(desk_);
+    const char* code = PurposeCode(index);
+    if (code == nullptr) {
+        return;
+    }
+    purposes_.Close();
+    desk_.Cells().HidePurposes();
+    edits_.SetPurpose(purposes_.Row(), code);
+}
+
+void CellEditing::OnTimeChosen(const std::string& text) {
+    const PortCallDesk::Report report(desk_);
+    edits_.SetTime(dateRow_, dateColumn_, text);
+    desk_.Cells().HidePicker();
+}
+
+}  // namespace Tarvik::Seaplan

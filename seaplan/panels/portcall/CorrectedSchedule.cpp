@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/CorrectedSchedule.h"
+
+namespace Tarvik::Seaplan {
+
+void CorrectedSchedule::SetTime(const std::string& vi, const std::string& time) {
+    voyageId_ = vi;
+    time_ = time;
+}
+
+int CorrectedSchedule::ShowHistoryAndPlan() {
+    PortCallSheet& sheet = desk_.Sheet();
+    PortCallRows rows;
+    PortCallRows plan;
+    if (desk_.Ais()->SplitAisRows(sheet.voyageId, rows, plan) != 0) {
+        return -1;
+    }
+    const std::size_t history = rows.size();
+    rows.insert(rows.end(), plan.begin(), plan.end());
+    desk_.Schedule().ResolvePortIds(rows);
+    return sheet.ShowHistoryAndPlan(rows, history) == 0 ? 0 : -2;
+}
+
+int CorrectedSchedule::Fill() {
+    if (const int failed = ShowHistoryAndPlan(); failed != 0) {
+        return failed;
+    }
+    PortCallSheet& sheet = desk_.Sheet();
+    desk_.SetCorrectionPending(false);
+    sheet.MarkUnchanged();
+    sheet.state.canClear = false;
+    sheet.state.canOpenBook = true;
+    sheet.state.canCalculate = true;
+    return 0;
+}
+
+void CorrectedSchedule::MarkFresh() {
+    PortCallSheet& sheet = desk_.Sheet();
+    desk_.SetCorrectionPending(true);
+    sheet.editedVoyageId = sheet.voyageId;
+    sheet.state.changed = true;
+    sheet.state.canSave = true;
+    sheet.state.canOpenBook = false;
+}
+
+int CorrectedSchedule::ReplanAndSave() {
+    PortCallSheet& sheet = desk_.Sheet();
+    PortCallRows before;
+    PortCallRows after;
+    if (desk_.Ais() == nullptr || !sheet.table.ReadRowsSplit(before, after)) {
+        return -1;
+    }
+    PortCallRows history;
+    PortCallRows plan;
+    if (ToStandardUnits(before, sheet.Units(), history) != 0 ||
+        ToStandardUnits(after, sheet.Units(), plan) != 0) {
+        return -2;
+    }
+    if (desk_.Ais()->ReplanFromAis(sheet.voyageId, history, plan) != 0) {
+        return -3;
+    }
+    if (ShowHistoryAndPlan() != 0) {
+        return -4;
+    }
+    const VoyInfo* voyage = desk_.Store().FindVoyage(sheet.voyageId);
+    if (voyage == nullptr) {
+        return -5;
+    }
+    const PortCallRows ports = voyage->portCalls;
+    return desk_.Schedule().SaveSchedule(sheet.voyageId, ports, -1) == 0 ? 0 : -6;
+}
+
+int CorrectedSchedule::Calculate() {
+    const int replanned = [this] {
+        const PortCallDesk::Busy busy(desk_);
+        return ReplanAndSave();
+    }();
+    if (replanned != 0) {
+        return replanned;
+    }
+    PortCallSheet& sheet = desk_.Sheet();
+    if (!time_.empty() && voyageId_ == sheet.voyageId) {
+        desk_.Ais()->AddAisModTime(voyageId_, time_);
+        time_.clear();
+    }
+    desk_.Schedule().RemoveVoyageObjects(sheet.voyageId);
+    desk_.Schedule().ShowVoyage(sheet.voyageId);
+    desk_.SetCorrectionPending(false);
+    sheet.MarkUnchanged();
+    sheet.state.canOpenBook = true;
+    desk_.TellSaved(sheet.voyageId);
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/PortCallDesk.h"
+
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/language/Messages.h"
+
+namespace Tarvik::Seaplan {
+
+PortCallDesk::Report::~Report() {
+    if (--desk_.reports_ == 0) {
+        desk_.Show();
+    }
+}
+
+PortCallDesk::Busy::Busy(PortCallDesk& desk) : view_(desk.View()) {
+    desk.Show();
+    view_.SetBusy(true);
+}
+
+void PortCallDesk::Show() {
+    sheet_.table.MarkUnknownPorts([this](const std::string& name) { return p_.ports.Knows(name); });
+    if (!told_ || sheet_.table != shownTable_) {
+        shownTable_ = sheet_.table;
+        p_.view.ShowTable(shownTable_);
+    }
+    if (!told_ || sheet_.state != shownState_) {
+        shownState_ = sheet_.state;
+        p_.view.ShowState(shownState_);
+    }
+    told_ = true;
+}
+
+void PortCallDesk::TellSaved(const std::string& vi) const {
+    if (saved_) {
+        saved_(vi);
+    }
+}
+
+void PortCallDesk::ResetSheet() {
+    sheet_.Reset();
+    ShowTexts();
+    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone);
+    if (zone != nullptr) {
+        sheet_.state.zone = *zone;
+    }
+}
+
+void PortCallDesk::ShowTexts() {
+    sheet_.state.caption = Text(TextId::IDS_PORTCALL_TITLE);
+    SetCorrectionPending(sheet_.aisCorrectionPending);
+}
+
+void PortCallDesk::SetCorrectionPending(bool pending) {
+    sheet_.aisCorrectionPending = pending;
+    sheet_.state.calculateText =
+        Text(pending ? TextId::IDS_PORTCALL_RECOMPUT_FORAIS : TextId::IDS_PORTCALL_COMPUTE);
+}
+
+bool PortCallDesk::IsCorrected() const {
+    int count = 0;
+    return p_.schedule.GetModAis(sheet_.voyageId, count) == 0 && count > 0;
+}
+
+int PortCallDesk::ShowChangedRows(const PortCallRows& standard) {
+    if (sheet_.ShowRows(standard, IsCorrected()) != 0) {
+        return -1;
+    }
+    sheet_.MarkChanged(p_.ports);
+    return 0;
+}
+
+int PortCallDesk::Recompute(const PortCallRows& standard) {
+    PortCallRows rows;
+    if (RecomputeSchedule(standard, rows) != 0) {
+        return -1;
+    }
+    KeepPortIds(standard, rows);
+    return ShowChangedRows(rows);
+}
+
+void PortCallDesk::Tell(TextId id) {
+    Show();
+    Notice(id, p_.view.Handle());
+}
+
+bool PortCallDesk::Ask(TextId id) {
+    Show();
+    p_.view.SetEnabled(false);
+    const bool yes = Question(id, p_.view.Handle());
+    p_.view.SetEnabled(true);
+    return yes;
+}
+
+void KeepPortIds(const PortCallRows& from, PortCallRows& to) {
+    for (std::size_t i = 0; i < to.size() && i < from.size(); ++i) {
+        if (to[i].ppn == from[i].ppn) {
+            to[i].ppi = from[i].ppi;
+        }
+    }
+}
+
+}  // namespace Tarvik::Seaplan

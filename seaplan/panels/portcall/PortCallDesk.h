@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/portcall/PortCallSheet.h"
+#include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/panels/services/AisCommands.h"
+#include "seaplan/panels/services/ScheduleCommands.h"
+
+namespace Tarvik::Seaplan {
+
+/// What the parts of the port call panel share: the sheet, the controllers behind it and the window before
+/// it. A part changes the sheet as it likes; the window is told once, when the report that it began with is
+/// over, and before whatever a person looks at meanwhile: a box, a busy mark, an editor.
+class PortCallDesk {
+  public:
+    struct Parts {
+        VoyageStore& store;
+        ScheduleCommands& schedule;
+        PortDirectory& ports;
+        PortCallView& view;
+    };
+    explicit PortCallDesk(Parts parts) : p_(std::move(parts)) {}
+
+    PortCallSheet& Sheet() { return sheet_; }
+    const PortCallSheet& Sheet() const { return sheet_; }
+    VoyageStore& Store() const { return p_.store; }
+    ScheduleCommands& Schedule() const { return p_.schedule; }
+    /// Without these a corrected voyage cannot be opened.
+    void SetAis(AisCommands* commands) { ais_ = commands; }
+    AisCommands* Ais() const { return ais_; }
+    PortDirectory& Ports() const { return p_.ports; }
+    PortCallView& View() const { return p_.view; }
+    CellsView& Cells() const { return p_.view.Cells(); }
+
+    /// Brings the window up to date; nothing is told that it shows already.
+    void Show();
+    /// The same when the outermost report is over.
+    class Report {
+      public:
+        explicit Report(PortCallDesk& desk) : desk_(desk) { ++desk_.reports_; }
+        ~Report();
+        Report(const Report&) = delete;
+        Report& operator=(const Report&) = delete;
+
+      private:
+        PortCallDesk& desk_;
+    };
+    /// Shows that something goes on, while it lives. Not to be held over a question to the person.
+    class Busy {
+      public:
+        explicit Busy(PortCallDesk& desk);
+        ~Busy() { view_.SetBusy(false); }
+        Busy(const Busy&) = delete;
+        Busy& operator=(const Busy&) = delete;
+
+      private:
+        PortCallView& view_;
+    };
+
+    /// Called with the id of a voyage after its schedule was saved.
+    void SetSavedListener(std::function<void(const std::string&)> listener) { saved_ = std::move(listener); }
+    void TellSaved(const std::string& vi) const;
+
+    /// An empty sheet for the voyage on show, with the caption and zone in force.
+    void ResetSheet();
+    /// Caption and calculate button in the language in force.
+    void ShowTexts();
+    /// A fresh correction waits for its calculation, or none does.
+    void SetCorrectionPending(bool pending);
+    /// Whether the voyage on show was corrected from its vessel's positions.
+    bool IsCorrected() const;
+    /// Shows rows of knots, nautical miles and hours and takes the table for changed. 0 or -1.
+    int ShowChangedRows(const PortCallRows& standard);
+    /// The same over the schedule of such rows, which keep their ids.
+    int Recompute(const PortCallRows& standard);
+
+    void Tell(TextId id);
+    /// Answers to a question, with the window disabled meanwhile.
+    bool Ask(TextId id);
+
+  private:
+    Parts p_;
+    AisCommands* ais_ = nullptr;
+    std::function<void(const std::string&)> saved_;
+    PortCallSheet sheet_;
+    PortCallTable shownTable_;
+    PortCallState shownState_;
+    bool told_ = false;  ///< the window has been told anything yet
+    int reports_ = 0;    ///< reports under way, one inside the other
+};
+
+/// Gives each row the port id of the row at its place, as a schedule pass drops them. The names must agree.
+void KeepPortIds(const PortCallRows& from, PortCallRows& to);
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/PortCallSheet.h"
+
+#include "seaplan/data/PortDirectory.h"
+
+namespace Tarvik::Seaplan {
+
+void PortCallSheet::Reset() {
+    table.Reset();
+    state = PortCallState();
+    aisCorrectionPending = false;
+    ResetUnits();
+}
+
+void PortCallSheet::ResetUnits() {
+    units_ = UnitSet();
+    ShowUnits();
+}
+
+void PortCallSheet::ShowUnits() {
+    state.speedUnit = UnitLabel(units_, UnitKind::Speed);
+    state.distanceUnit = UnitLabel(units_, UnitKind::Distance);
+    state.timeUnit = UnitLabel(units_, UnitKind::Time);
+}
+
+void PortCallSheet::Clear() {
+    table.ClearCells();
+    state.summary = SummaryTexts();
+    ResetUnits();
+    MarkUnchanged();
+    state.canOpenBook = false;
+    state.canCalculate = false;
+}
+
+int PortCallSheet::ReadStandard(PortCallRows& out) const {
+    return ToStandardUnits(table.ReadRows(), units_, out) == 0 ? 0 : -1;
+}
+
+int PortCallSheet::ShowRows(const PortCallRows& standard, bool corrected) {
+    PortCallRows shown;
+    if (standard.size() < 2 || FromStandardUnits(standard, units_, shown) != 0) {
+        return -1;
+    }
+    table.WriteRows(shown, corrected);
+    table.WriteTotals(shown);
+    ShowSummary(standard);
+    return 0;
+}
+
+int PortCallSheet::ShowHistoryAndPlan(const PortCallRows& standard, std::size_t history) {
+    ResetUnits();
+    PortCallRows shown;
+    if (FromStandardUnits(standard, units_, shown) != 0) {
+        return -1;
+    }
+    table.ShowHistoryAndPlan(shown, history);
+    table.WriteTotals(shown);
+    ShowSummary(standard);
+    return 0;
+}
+
+void PortCallSheet::ShowSummary(const PortCallRows& standard) {
+    ScheduleSummary figures;
+    if (SummaryOf(standard, figures)) {
+        SummaryToTexts(figures, units_, state.summary);
+    }
+}
+
+int PortCallSheet::ChangeUnit(UnitKind kind, const std::string& unit, bool corrected) {
+    const PortCallRows rows = table.ReadAllRows();
+    const std::string from = std::exchange(UnitOf(units_, kind), unit);
+    ShowUnits();
+    if (state.summary.averageSpeed.empty() || state.summary.totalDistance.empty() ||
+        state.summary.totalTime.empty()) {
+        return -1;
+    }
+    PortCallRows converted;
+    if (ConvertUnitValue(rows, from, unit, converted) != 0) {
+        return -2;
+    }
+    table.WriteRows(converted, corrected);
+    table.WriteTotals(converted);
+    // The figures follow the cells, with the digits that those have.
+    PortCallRows standard;
+    if (ToStandardUnits(converted, units_, standard) == 0) {
+        ShowSummary(standard);
+    }
+    return 0;
+}
+
+int PortCallSheet::PlaceCount(PortDirectory& ports) const {
+    const PortCallRows rows = table.ReadAllRows();
+    if (rows.empty()) {
+        return 0;
+    }
+    int count = 1;
+    const VoyPortCall* last = &rows.front();
+    for (const VoyPortCall& row : rows) {
+        if (row.ppn == last->ppn || ports.IsSamePlace(last->ppi, row.ppi)) {
+            continue;
+        }
+        ++count;
+        last = &row;
+    }
+    return count;
+}
+
+void PortCallSheet::MarkUnchanged() {
+    state.changed = false;
+    state.canSave = false;
+}
+
+void PortCallSheet::MarkChanged(PortDirectory& ports) {
+    state.canCalculate = PlaceCount(ports) >= 2;
+    if (!state.canCalculate) {
+        return;
+    }
+    editedVoyageId = voyageId;
+    state.changed = true;
+    state.canSave = true;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "seaplan/calculation/Units.h"
+#include "seaplan/panels/portcall/PortCallTable.h"
+#include "seaplan/panels/portcall/PortCallView.h"
+
+namespace Tarvik::Seaplan {
+
+class PortDirectory;
+
+/// All that the port call panel knows of the voyage on show, as one value: the rows with the ids of their
+/// ports, the units, the figures and what the buttons can do. Whoever keeps a copy can bring it back.
+class PortCallSheet {
+  public:
+    PortCallTable table;
+    PortCallState state;
+    std::string voyageId;               ///< voyage on show, empty for none
+    std::string editedVoyageId;         ///< voyage on show at the last edit
+    bool aisCorrectionPending = false;  ///< a fresh correction is shown and not saved
+
+    const UnitSet& Units() const { return units_; }
+    /// Six empty rows in the first units, without figures; nothing is changed and only Clear is possible.
+    /// The voyages stay.
+    void Reset();
+    /// Back to knots, nautical miles and days; the cells stay as they are.
+    void ResetUnits();
+    /// Blanks the rows and figures, and what depends on them.
+    void Clear();
+
+    /// The rows in knots, nautical miles and hours; none when row 0 has no port. 0, or -1 without rows.
+    int ReadStandard(PortCallRows& out) const;
+    /// Shows rows of knots, nautical miles and hours: cells, totals row, summary. 0; -1, with nothing
+    /// changed, for fewer than two rows or a unit that does not exist.
+    int ShowRows(const PortCallRows& standard, bool corrected);
+    /// The table of a corrected voyage in the first units, rows in knots, nautical miles and hours, of which
+    /// the first `history` cannot be edited. 0, or -1 without rows.
+    int ShowHistoryAndPlan(const PortCallRows& standard, std::size_t history);
+    /// Changes the unit of one quantity. The name changes in any case; the cells follow with 0, and stay with
+    /// -1, nothing calculated yet, or -2, the unit in force or none.
+    int ChangeUnit(UnitKind kind, const std::string& unit, bool corrected);
+
+    /// Distinct places, each row counted against the last one that counted.
+    int PlaceCount(PortDirectory& ports) const;
+    /// Nothing is left to save.
+    void MarkUnchanged();
+    /// Takes the table for changed, unless it has fewer than two places: such a table cannot be saved.
+    void MarkChanged(PortDirectory& ports);
+
+  private:
+    void ShowUnits();
+    void ShowSummary(const PortCallRows& standard);
+
+    UnitSet units_;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/VoyageFilling.h"
+
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/panels/language/Messages.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr const char* kNoVoyageText = "数据状态异常，请确认是否已登陆或者掉线？";
+
+}  // namespace
+
+int VoyageFilling::SaveTable(const std::string& vi, int drawMode) {
+    if (vi.empty()) {
+        return -1;
+    }
+    PortCallRows rows;
+    if (desk_.Sheet().ReadStandard(rows) != 0) {
+        return -2;
+    }
+    const bool failed = [&] {
+        const PortCallDesk::Busy busy(desk_);
+        return desk_.Schedule().SaveSchedule(vi, rows, drawMode) != 0;
+    }();
+    if (failed) {
+        return -3;
+    }
+    desk_.TellSaved(vi);
+    return 0;
+}
+
+void VoyageFilling::AskUnsaved() {
+    PortCallSheet& sheet = desk_.Sheet();
+    if (!sheet.state.changed) {
+        return;
+    }
+    // The rows in the table are what is saved, so no cell may have changed since.
+    if (desk_.Ask(TextId::IDS_PORTCALL_SAVENEXT)) {
+        SaveTable(sheet.editedVoyageId, -1);
+    }
+    sheet.state.changed = false;
+}
+
+void VoyageFilling::Clear() {
+    editing_.HideEditors();
+    desk_.ResetSheet();
+    desk_.Schedule().ForgetPortList();
+    desk_.Show();
+    desk_.View().BringRowIntoView(0);
+    desk_.Schedule().ClearChart();
+}
+
+void VoyageFilling::Reset() {
+    const PortCallDesk::Report report(desk_);
+    AskUnsaved();
+    desk_.Sheet().voyageId = next_;
+    Clear();
+}
+
+int VoyageFilling::Open(int mode) {
+    const PortCallDesk::Report report(desk_);
+    int corrected = 0;
+    if (!next_.empty() && desk_.Schedule().GetModAis(next_, corrected) != 0) {
+        return -1;
+    }
+    if (corrected > 0 && desk_.Ais() == nullptr) {
+        return -2;
+    }
+    if (corrected <= 0) {
+        desk_.View().Hide();
+    }
+    AskUnsaved();
+    desk_.Sheet().voyageId = next_;
+    if (corrected > 0) {
+        editing_.HideEditors();
+        if (corrected_.Fill() == 0) {
+            return 0;
+        }
+        // Without a position row the voyage is a plain one again.
+        desk_.Ais()->ClearAisMod(next_);
+    }
+    return Fill(mode);
+}
+
+int VoyageFilling::Fill(int mode) {
+    Clear();
+    if (desk_.Sheet().voyageId.empty()) {
+        NoticeText(kNoVoyageText, desk_.View().Handle());
+        return -3;
+    }
+    return Load(mode);
+}
+
+int VoyageFilling::Load(int mode) {
+    PortCallSheet& sheet = desk_.Sheet();
+    PortCallRows loaded;
+    const bool failed = [&] {
+        const PortCallDesk::Busy busy(desk_);
+        return desk_.Schedule().LoadSchedule(sheet.voyageId, loaded, mode) != 0;
+    }();
+    if (failed) {
+        Clear();
+        return 0;
+    }
+    PortCallRows rows;
+    if (RecomputeSchedule(loaded, rows) != 0) {
+        return -4;
+    }
+    desk_.Schedule().ResolvePortIds(rows);
+    if (sheet.ShowRows(rows, desk_.IsCorrected()) != 0) {
+        return -4;
+    }
+    sheet.state.changed = false;
+    sheet.state.canClear = true;
+    sheet.state.canOpenBook = true;
+    sheet.state.canCalculate = true;
+    return 0;
+}
+
+int VoyageFilling::ShowCorrection() {
+    const PortCallDesk::Report report(desk_);
+    if (const int filled = Open(-1); filled != 0) {
+        return filled;
+    }
+    // A correction that cannot be split has been given up, and the plain voyage is shown.
+    if (!desk_.IsCorrected()) {
+        return -4;
+    }
+    corrected_.MarkFresh();
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

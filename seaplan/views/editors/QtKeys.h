@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QKeyEvent>
+
+#include "seaplan/panels/editors/Keys.h"
+
+namespace Tarvik::Seaplan {
+
+/// The window system's key as panels know keys.
+inline KeyPress PressOf(const QKeyEvent& event) {
+    constexpr struct {
+        int qt;
+        Key key;
+    } kKeys[] = {{Qt::Key_Tab, Key::Tab},
+                 {Qt::Key_Return, Key::Enter},
+                 {Qt::Key_Enter, Key::Enter},
+                 {Qt::Key_Escape, Key::Escape},
+                 {Qt::Key_Up, Key::Up},
+                 {Qt::Key_Down, Key::Down},
+                 {Qt::Key_F2, Key::F2},
+                 {Qt::Key_F9, Key::F9},
+                 {Qt::Key_Delete, Key::Delete},
+                 {Qt::Key_Backspace, Key::Backspace},
+                 {Qt::Key_S, Key::S}};
+    KeyPress press{Key::Other, event.modifiers().testFlag(Qt::AltModifier),
+                   event.modifiers() == Qt::ControlModifier};
+    for (const auto& known : kKeys) {
+        if (known.qt == event.key()) {
+            press.key = known.key;
+        }
+    }
+    return press;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/portcall/PortCallButtons.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QToolButton>
+
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/views/ViewText.h"
+
+namespace Tarvik::Seaplan {
+
+PortCallButtons::PortCallButtons(QWidget* parent)
+    : QWidget(parent),
+      save_(MakeTool("saveButton")),
+      clear_(MakeTool("clearButton")),
+      book_(new QPushButton(this)),
+      calculate_(new QPushButton(this)) {
+    book_->setObjectName(QStringLiteral("positionBookButton"));
+    calculate_->setObjectName(QStringLiteral("calculateButton"));
+    calculate_->setProperty("primary", true);
+    for (QPushButton* button : {book_, calculate_}) {
+        button->setAutoDefault(false);
+        button->setFocusPolicy(Qt::TabFocus);
+    }
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(2 * Skin::kGrid);
+    row->addWidget(save_);
+    row->addWidget(clear_);
+    row->addStretch(1);
+    row->addWidget(book_);
+    row->addWidget(calculate_);
+    save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    ApplySkin();
+}
+
+QToolButton* PortCallButtons::MakeTool(const char* name) {
+    auto* made = new QToolButton(this);
+    made->setObjectName(QString::fromLatin1(name));
+    made->setFixedSize(Skin::kControlHeight + 2, Skin::kControlHeight);
+    made->setFocusPolicy(Qt::TabFocus);
+    return made;
+}
+
+void PortCallButtons::SetReports(const Reports& reports) {
+    QObject::connect(save_, &QToolButton::clicked, this, reports.save);
+    QObject::connect(clear_, &QToolButton::clicked, this, reports.clear);
+    QObject::connect(calculate_, &QPushButton::clicked, this, reports.calculate);
+}
+
+void PortCallButtons::Set(QAbstractButton* button, bool on, TextId tip, TextId whyNot) {
+    button->setEnabled(on);
+    Skin::Describe(button, ViewText(tip));
+    if (!on) {
+        button->setToolTip(ViewText(tip) + QStringLiteral(": ") + ViewText(whyNot));
+    }
+}
+
+void PortCallButtons::ShowState(const PortCallState& state) {
+    calculate_->setText(QString::fromStdString(state.calculateText));
+    // A new text takes the button's shortcut away; the hint tells it.
+    calculate_->setShortcut(QKeySequence(Qt::Key_F9));
+    Set(save_, state.canSave, TextId::IDS_PORTCALL_SAVE, TextId::IDS_VIEW_NOCHANGES);
+    Set(clear_, state.canClear, TextId::IDS_PORTCALL_CLEAR, TextId::IDS_VIEW_CLEAROFF);
+    Set(calculate_, state.canCalculate, TextId::IDS_PORTCALL_COMPUTE, TextId::IDS_VIEW_NEEDTWOPORTS);
+    // The position book has no window yet.
+    Set(book_, false, TextId::IDS_PORTCALL_POSTBOOK,
+        state.canOpenBook ? TextId::IDS_VIEW_NOTYET : TextId::IDS_VIEW_BOOKNEEDSVOYAGE);
+}
+
+void PortCallButtons::ApplyTexts() {
+    book_->setText(ViewText(TextId::IDS_PORTCALL_POSTBOOK));
+}
+
+void PortCallButtons::ApplySkin() {
+    save_->setIcon(Skin::MakeIcon("save"));
+    clear_->setIcon(Skin::MakeIcon("clear"));
+}
+
+}  // namespace Tarvik::Seaplan

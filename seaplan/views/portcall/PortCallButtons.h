@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractButton>
+#include <QWidget>
+#include <functional>
+
+#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/portcall/PortCallView.h"
+
+class QPushButton;
+class QToolButton;
+
+namespace Tarvik::Seaplan {
+
+/// The commands below the table: save, clear, position book, calculate. A button that is off tells why.
+class PortCallButtons final : public QWidget {
+  public:
+    explicit PortCallButtons(QWidget* parent);
+
+    struct Reports {
+        std::function<void()> save;
+        std::function<void()> clear;
+        std::function<void()> calculate;
+    };
+    void SetReports(const Reports& reports);
+    void ShowState(const PortCallState& state);
+    void ApplyTexts();
+    void ApplySkin();
+
+  private:
+    QToolButton* MakeTool(const char* name);
+    static void Set(QAbstractButton* button, bool on, TextId tip, TextId whyNot);
+
+    QToolButton* save_;
+    QToolButton* clear_;
+    QPushButton* book_;
+    QPushButton* calculate_;
+};
+
+}  // namespace Tarvik::Seaplan

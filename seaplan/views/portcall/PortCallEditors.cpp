@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/portcall/PortCallEditors.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <algorithm>
+
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/views/ViewText.h"
+#include "seaplan/views/editors/QtKeys.h"
+#include "seaplan/views/portcall/PortCallTableView.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr CellEditor kEditors[] = {CellEditor::Port, CellEditor::Speed, CellEditor::Weather};
+constexpr const char* kNames[] = {"portEditor", "speedEditor", "weatherEditor"};
+constexpr int kListRow = 23;
+constexpr int kMostRows = 6;
+
+/// Height of so many rows, with the frame.
+int ListHeight(int rows) {
+    return rows * kListRow + 2;
+}
+
+void Fill(QListWidget& list, const std::vector<std::string>& texts, int current) {
+    list.clear();
+    for (const std::string& text : texts) {
+        list.addItem(QString::fromStdString(text));
+    }
+    list.setCurrentRow(current);
+}
+
+}  // namespace
+
+PortCallEditors::PortCallEditors(QWidget& window, PortCallTableView& table)
+    : QObject(&window),
+      window_(window),
+      table_(table),
+      matches_(MakeList("portMatches")),
+      purposes_(MakeList("purposeList")),
+      calendar_(new CalendarPopup(&window)) {
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        fields_[i] = new QLineEdit(table.viewport());
+        fields_[i]->setObjectName(QString::fromLatin1(kNames[i]));
+        fields_[i]->hide();
+        fields_[i]->installEventFilter(this);
+    }
+    matches_->setFocusPolicy(Qt::NoFocus);
+    purposes_->installEventFilter(this);
+}
+
+QListWidget* PortCallEditors::MakeList(const char* name) {
+    auto* list = new QListWidget(&window_);
+    list->setObjectName(QString::fromLatin1(name));
+    list->hide();
+    return list;
+}
+
+QLineEdit* PortCallEditors::Field(CellEditor editor) const {
+    return fields_[static_cast<std::size_t>(std::find(std::begin(kEditors), std::end(kEditors), editor) -
+                                            std::begin(kEditors))];
+}
+
+void PortCallEditors::Attach(CellEditing* panel) {
+    panel_ = panel;
+    for (const CellEditor editor : kEditors) {
+        QObject::connect(Field(editor), &QLineEdit::textChanged, this, [this, editor](const QString& text) {
+            if (!setting_) {
+                panel_->OnTyped(editor, text.toStdString());
+            }
+        });
+    }
+    QObject::connect(matches_, &QListWidget::itemClicked, this,
+                     [this](QListWidgetItem* item) { panel_->OnMatchPressed(matches_->row(item)); });
+    QObject::connect(purposes_, &QListWidget::itemClicked, this,
+                     [this](QListWidgetItem* item) { panel_->OnPurposeChosen(purposes_->row(item)); });
+    calendar_->SetChosen(
+        [this](const Util::_datetime_t& time) { panel_->OnTimeChosen(time.fmt(kTimeFormat)); });
+}
+
+void PortCallEditors::ApplyTexts() {
+    Skin::Describe(Field(CellEditor::Port), ViewText(TextId::IDS_VIEW_PORTEDITOR));
+    Skin::Describe(Field(CellEditor::Speed), ViewText(TextId::IDS_VIEW_SPEEDEDITOR));
+    Skin::Describe(Field(CellEditor::Weather), ViewText(TextId::IDS_VIEW_WEATHEREDITOR));
+    Skin::Describe(purposes_, ViewText(TextId::IDS_VIEW_PURPOSES));
+    Skin::Describe(matches_, ViewText(TextId::IDS_VIEW_RENAMEHINT));
+    calendar_->ApplyTexts();
+}
+
+bool PortCallEditors::PortFieldHasFocus() const {
+    return Field(CellEditor::Port)->hasFocus();
+}
+
+bool PortCallEditors::Holds(const QWidget& widget) const {
+    const QWidget* const parts[] = {&table_, matches_, purposes_, calendar_, matchWindow_.data()};
+    return std::any_of(std::begin(parts), std::end(parts), [&widget](const QWidget* part) {
+        return part != nullptr && (part == &widget || part->isAncestorOf(&widget));
+    });
+}
+
+/// Sets a field's text whole: the limit binds typing only.
+void PortCallEditors::Put(QLineEdit& field, const std::string& text, int limit) {
+    const QString shown = QString::fromStdString(text);
+    setting_ = true;
+    field.setMaxLength(std::max(limit, static_cast<int>(shown.size())));
+    field.setText(shown);
+    field.end(false);
+    setting_ = false;
+}
+
+void PortCallEditors::OpenEditor(const OpenedEditor& opened) {
+    QLineEdit& field = *Field(opened.editor);
+    const QModelIndex cell = table_.model()->index(opened.row, opened.column);
+    table_.scrollTo(cell.siblingAtColumn(ColPort));
+    table_.setCurrentIndex(cell);
+    field.setGeometry(table_.EditorRect(opened.row, opened.column));
+    Put(field, opened.text, static_cast<int>(opened.limit));
+    field.show();
+    field.raise();
+    field.setFocus();
+    if (opened.selectAll) {
+        field.selectAll();
+    }
+}
+
+void PortCallEditors::HideEditor(CellEditor editor) {
+    QLineEdit& field = *Field(editor);
+    if (field.isHidden()) {
+        return;
+    }
+    const bool focused = field.hasFocus();
+    field.hide();
+    Put(field, {}, field.maxLength());
+    if (focused) {
+        table_.setFocus();
+    }
+}
+
+void PortCallEditors::SetEditorText(CellEditor editor, const std::string& text) {
+    QLineEdit& field = *Field(editor);
+    Put(field, text, field.maxLength());
+}
+
+void PortCallEditors::ShowMatches(const std::vector<std::string>& names) {
+    Fill(*matches_, names, -1);
+    const QLineEdit* field = Field(CellEditor::Port);
+    const QPoint place = field->mapTo(&window_, QPoint(0, field->height()));
+    const int rows = std::min(static_cast<int>(names.size()), kMostRows);
+    matches_->setGeometry(place.x(), place.y(), 200, ListHeight(rows));
+    matches_->show();
+    matches_->raise();
+}
+
+void PortCallEditors::ShowMatchWindow(void* window) {
+    constexpr int kBelowCellTop = 20;
+    auto* shown = static_cast<QWidget*>(window);
+    QLineEdit* field = Field(CellEditor::Port);
+    const QPoint place(0, kBelowCellTop);
+    shown->move(shown->isWindow() ? field->mapToGlobal(place) : field->mapTo(shown->parentWidget(), place));
+    shown->show();
+    matchWindow_ = shown;
+    field->end(false);
+}
+
+void PortCallEditors::HideMatchWindow(void* window) {
+    static_cast<QWidget*>(window)->hide();
+    matchWindow_ = nullptr;
+}
+
+void PortCallEditors::OpenPurposes(int row, const std::vector<std::string>& texts, int current) {
+    Fill(*purposes_, texts, current);
+    const QRect cell = table_.EditorRect(row, ColPurpose);
+    const int height = ListHeight(static_cast<int>(texts.size()));
+    const QPoint below = table_.viewport()->mapTo(&window_, cell.bottomLeft() + QPoint(0, 1));
+    // A list that would leave the window's bottom opens as low as it fits.
+    const int top = std::max(0, std::min(below.y(), window_.height() - height - 2));
+    purposes_->setGeometry(below.x(), top, 160, height);
+    purposes_->show();
+    purposes_->raise();
+    purposes_->setFocus();
+}
+
+void PortCallEditors::HidePurposes() {
+    const bool focused = purposes_->hasFocus();
+    purposes_->hide();
+    if (focused) {
+        table_.setFocus();
+    }
+}
+
+void PortCallEditors::OpenPicker(int row, int column, const Util::_datetime_t& time) {
+    const QRect cell = table_.EditorRect(row, column);
+    calendar_->SetValue(time);
+    calendar_->adjustSize();
+    calendar_->move(table_.viewport()->mapToGlobal(cell.topLeft() + QPoint(-10, 25)));
+    calendar_->show();
+}
+
+bool PortCallEditors::FieldEvent(CellEditor editor, QEvent& event) {
+    switch (event.type()) {
+        case QEvent::ShortcutOverride:
+            panel_->OnCommandKey(PressOf(static_cast<QKeyEvent&>(event)));
+            return false;
+        case QEvent::KeyPress:
+            return panel_->OnEditorKey(editor, PressOf(static_cast<QKeyEvent&>(event)));
+        case QEvent::FocusOut:
+            panel_->OnEditorFocusLost(editor);
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool PortCallEditors::eventFilter(QObject* watched, QEvent* event) {
+    if (panel_ == nullptr) {
+        return false;
+    }
+    if (watched == purposes_) {
+        return event->type() == QEvent::KeyPress &&
+               panel_->OnPurposeKey(PressOf(*static_cast<QKeyEvent*>(event)), purposes_->currentRow());
+    }
+    for (const CellEditor editor : kEditors) {
+        if (watched == Field(editor)) {
+            return FieldEvent(editor, *event);
+        }
+    }
+    return false;
+}
+
+}  // namespace Tarvik::Seaplan
