@@ -29,8 +29,9 @@ class CorrectedPanelTest : public PortCallFixture {
 
     CorrectedPanelTest() {
         panel.SetAisCommands(&ais);
-        store.voyages["20"].modais = 1;
-        store.voyages["20"].portCalls = ThreeCalls();
+        store.voyages[kept].modais = 1;
+        PortCallRows rows;
+        schedule.LoadSchedule(kept, rows, -1);
         ais.before = {call("ROTTERDAM", "L", 0, 1), call("52.000,4.100", " ", 100, 2)};
         ais.after = {call("HAMBURG", "D", 140, 3), call("GDANSK", "D", 240, 4)};
     }
@@ -40,7 +41,7 @@ class CorrectedPanelTest : public PortCallFixture {
 }  // namespace
 
 TEST_F(CorrectedPanelTest, HistoryAndPlanStandInOneTable) {
-    Open("20");
+    Open(kept);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "52.000,4.100", "HAMBURG", "GDANSK", " ", " "));
     EXPECT_EQ(Look(0), RowClass::Disabled);
     EXPECT_EQ(Look(1), RowClass::Highlighted);
@@ -61,7 +62,7 @@ TEST_F(CorrectedPanelTest, ManyRowsEndWithOneFreeRowAndTheClosingRow) {
     for (int i = 0; i < 5; ++i) {
         ais.after.push_back(call("ROUEN", "D", 10, 5 + i));
     }
-    Open("20");
+    Open(kept);
     EXPECT_EQ(view.table.RowCount(), 10);
     EXPECT_EQ(Cell(9, ColPort), " ");
     EXPECT_EQ(Cell(10, ColOrder), "RES");
@@ -69,17 +70,17 @@ TEST_F(CorrectedPanelTest, ManyRowsEndWithOneFreeRowAndTheClosingRow) {
 }
 
 TEST_F(CorrectedPanelTest, ACorrectionThatCannotBeSplitShowsThePlainVoyage) {
-    panel.SetVoyage("20");
+    panel.SetVoyage(kept);
     ais.refused = {"SplitAisRows"};
     EXPECT_LT(panel.ShowAisCorrection(), 0);
-    EXPECT_EQ(store.voyages["20"].modais, 0);
+    EXPECT_EQ(store.voyages[kept].modais, 0);
     EXPECT_FALSE(view.state.changed);
     EXPECT_FALSE(view.state.canSave);
     EXPECT_EQ(view.state.calculateText, "IDS_PORTCALL_COMPUTE");
 }
 
 TEST_F(CorrectedPanelTest, AClickOnAHistoryRowDoesNothing) {
-    Open("20");
+    Open(kept);
     for (const int row : {0, 1}) {
         panel.Cells().OnCellClicked(row, ColSpeed);
         EXPECT_FALSE(view.openEditor.has_value()) << row;
@@ -89,7 +90,7 @@ TEST_F(CorrectedPanelTest, AClickOnAHistoryRowDoesNothing) {
 }
 
 TEST_F(CorrectedPanelTest, NoPortMovesAboveTheShip) {
-    Open("20");
+    Open(kept);
     EXPECT_FALSE(view.table.ActionsOf(2).moveUp);
     panel.Commands().OnItemImage(2, "itemMoveUp");
     EXPECT_EQ(Cell(2, ColPort), "HAMBURG");
@@ -104,32 +105,38 @@ TEST_F(CorrectedPanelTest, NoPortMovesAboveTheShip) {
 
 TEST_F(CorrectedPanelTest, WithoutAPositionRowTheVoyageIsAPlainOneAgain) {
     ais.refused = {"SplitAisRows"};
-    Open("20");
-    EXPECT_EQ(store.voyages["20"].modais, 0);
+    Open(kept);
+    EXPECT_EQ(store.voyages[kept].modais, 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));
     EXPECT_TRUE(view.state.canClear);
 }
 
 TEST_F(CorrectedPanelTest, CalculatingReplansTheRestAndSaves) {
-    Open("20");
+    Open(kept);
     Type(2, ColSpeed, "12");
     panel.SetCorrectionTime("2024-03-02 08:00:00");
+    desk.ForgetRecords();
+    desk.voyages.RemoveVoyageObjects(kept);
+    const std::size_t before = Drawn("TRV_MAP_DEL_OBJECT_BY_TYPE") + Drawn("TRV_MAP_DEL_OBJECTS");
+    ASSERT_GT(before, 0U);
+    desk.ForgetRecords();
     panel.Commands().OnCalculate();
-    EXPECT_THAT(ais.calls, Contains("ReplanFromAis 20 2 2"));
-    EXPECT_EQ(Calls("SaveSchedule 20 -1"), 1);
-    EXPECT_THAT(ais.calls, Contains("AddAisModTime 20 2024-03-02 08:00:00"));
-    EXPECT_TRUE(schedule.Called("RemoveVoyageObjects 20"));
-    EXPECT_TRUE(schedule.Called("ShowVoyage 20"));
-    EXPECT_THAT(saved, ElementsAre("20"));
+    EXPECT_THAT(ais.calls, Contains("ReplanFromAis " + kept + " 2 2"));
+    EXPECT_EQ(Saves(), 1);
+    EXPECT_THAT(ais.calls, Contains("AddAisModTime " + kept + " 2024-03-02 08:00:00"));
+    EXPECT_THAT(Drawn("TRV_MAP_DEL_OBJECT_BY_TYPE") + Drawn("TRV_MAP_DEL_OBJECTS"), ::testing::Ge(2 * before))
+        << "taken off the chart, and once more as it is shown anew";
+    EXPECT_THAT(saved, ElementsAre(kept));
     EXPECT_FALSE(view.state.changed);
     EXPECT_FALSE(view.state.canSave);
     EXPECT_TRUE(messages.messages.empty());
     panel.Commands().OnCalculate();
-    EXPECT_EQ(std::count(ais.calls.begin(), ais.calls.end(), "AddAisModTime 20 2024-03-02 08:00:00"), 1);
+    EXPECT_EQ(
+        std::count(ais.calls.begin(), ais.calls.end(), "AddAisModTime " + kept + " 2024-03-02 08:00:00"), 1);
 }
 
 TEST_F(CorrectedPanelTest, AFailedReplanIsToldByTheCalculateButtonOnly) {
-    Open("20");
+    Open(kept);
     Type(2, ColSpeed, "12");
     ais.refused = {"ReplanFromAis"};
     panel.Commands().OnSave();
@@ -140,7 +147,7 @@ TEST_F(CorrectedPanelTest, AFailedReplanIsToldByTheCalculateButtonOnly) {
 }
 
 TEST_F(CorrectedPanelTest, AFreshCorrectionMustBeRecalculatedOrSaved) {
-    panel.SetVoyage("20");
+    panel.SetVoyage(kept);
     ASSERT_EQ(panel.ShowAisCorrection(), 0);
     EXPECT_EQ(view.state.calculateText, "IDS_PORTCALL_RECOMPUT_FORAIS");
     EXPECT_TRUE(view.state.changed);

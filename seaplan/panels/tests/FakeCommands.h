@@ -172,7 +172,6 @@ class FakeSchedule final : public ScheduleCommands {
     std::map<std::string, PortCallRows> onServer;  ///< saved rows by voyage
     PortCallRows savedRows;                        ///< rows of the last SaveSchedule
     int timers = 0;
-    mutable std::vector<std::string> resolved;  ///< names whose ids were asked for, in order
 
     int LoadSchedule(const std::string& vi, PortCallRows& rows, int drawMode) override {
         if (done("LoadSchedule", vi + " " + std::to_string(drawMode)) != 0 || !onServer.contains(vi)) {
@@ -208,7 +207,6 @@ class FakeSchedule final : public ScheduleCommands {
     }
     int ResolvePortIds(PortCallRows& rows) const override {
         for (VoyPortCall& row : rows) {
-            resolved.push_back(row.ppn);
             row.ppi = "id-" + row.ppn;
         }
         return 0;

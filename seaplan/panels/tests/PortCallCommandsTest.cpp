@@ -11,14 +11,14 @@ using Interface::SysMsgHandleRes;
 using ::testing::ElementsAre;
 
 TEST_F(PortCallFixture, ANewVoyageOpensEmptyAndASavedOneFilled) {
-    Open("10");
+    Open(fresh);
     EXPECT_EQ(Cell(0, ColPort), " ");
     EXPECT_TRUE(view.state.canClear);
     EXPECT_FALSE(view.state.canSave);
     EXPECT_FALSE(view.state.canOpenBook);
     EXPECT_FALSE(view.state.canCalculate);
     EXPECT_TRUE(view.besideTree);
-    Open("20");
+    Open(kept);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));
     EXPECT_FALSE(view.state.changed);
     EXPECT_FALSE(view.state.canSave);
@@ -28,8 +28,8 @@ TEST_F(PortCallFixture, ANewVoyageOpensEmptyAndASavedOneFilled) {
 }
 
 TEST_F(PortCallFixture, TotalsRowAndSummaryAreCountedDifferently) {
-    schedule.onServer["20"][0].apt = 24;
-    Open("20");
+    SaveOther([](PortCallRows& calls) { calls[0].apt = 24; });
+    Open(kept);
     EXPECT_EQ(Cell(6, ColPortTime), "1.50");
     EXPECT_EQ(Cell(6, ColSteamTime), "2.0");
     EXPECT_EQ(Cell(6, ColDistance), "480.00");
@@ -51,15 +51,15 @@ TEST_F(PortCallFixture, WithoutAVoyageTheFixedTextIsShownAndTheTableStaysReset) 
 }
 
 TEST_F(PortCallFixture, ChoosingAnotherVoyageLeavesTheOneOnShow) {
-    Open("20");
-    panel.SetVoyage("10");
+    Open(kept);
+    panel.SetVoyage(fresh);
     Type(1, ColSpeed, "12");
     panel.Commands().OnSave();
-    EXPECT_THAT(saved, ElementsAre("20"));
+    EXPECT_THAT(saved, ElementsAre(kept));
 }
 
 TEST_F(PortCallFixture, CalculatingANewVoyageShowsTheRouteAndWaitsForTheSave) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Commands().OnCalculate();
     EXPECT_EQ(Cell(0, ColPurpose), "L");
@@ -71,11 +71,11 @@ TEST_F(PortCallFixture, CalculatingANewVoyageShowsTheRouteAndWaitsForTheSave) {
     EXPECT_TRUE(view.state.changed);
     EXPECT_TRUE(saved.empty());
     panel.Commands().OnSave();
-    EXPECT_THAT(saved, ElementsAre("10"));
-    EXPECT_EQ(Calls("Calculate 2"), 1);
-    EXPECT_EQ(Calls("SaveSchedule 10 1"), 1);
-    ASSERT_EQ(schedule.savedRows.size(), 2U);
-    EXPECT_EQ(schedule.savedRows[1].steamTime, 24.0F);
+    EXPECT_THAT(saved, ElementsAre(fresh));
+    EXPECT_EQ(Calculations(), 1);
+    EXPECT_EQ(Saves(), 1);
+    ASSERT_EQ(SavedRows(fresh).size(), 2U);
+    EXPECT_EQ(SavedRows(fresh)[1].steamTime, 24.0F);
     EXPECT_FALSE(view.state.changed);
     EXPECT_FALSE(view.state.canSave);
     EXPECT_TRUE(view.state.canOpenBook);
@@ -84,9 +84,11 @@ TEST_F(PortCallFixture, CalculatingANewVoyageShowsTheRouteAndWaitsForTheSave) {
 }
 
 TEST_F(PortCallFixture, ARouteChosenOnTheChartBringsItsDistancesAndTimes) {
-    Open("10");
+    Open(fresh);
+    desk.routes->SetPassage("ROTTERDAM", "HAMBURG", 480);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Commands().OnCalculate();
+    ChooseOtherPassage();
     view.state.changed = false;
     EXPECT_EQ(panel.Commands().OnRouteChosen(), 0);
     EXPECT_EQ(Cell(1, ColDistance), "480.00");
@@ -94,22 +96,22 @@ TEST_F(PortCallFixture, ARouteChosenOnTheChartBringsItsDistancesAndTimes) {
     EXPECT_EQ(view.state.summary.totalDistance, "480.0");
     EXPECT_TRUE(view.state.changed);
     panel.Commands().OnSave();
-    ASSERT_EQ(schedule.savedRows.size(), 2U);
-    EXPECT_EQ(schedule.savedRows[1].steamTime, 48.0F);
-    EXPECT_EQ(Calls("Calculate 2"), 1) << "the route is not asked for again";
+    ASSERT_EQ(SavedRows(fresh).size(), 2U);
+    EXPECT_EQ(SavedRows(fresh)[1].steamTime, 48.0F);
+    EXPECT_EQ(Calculations(), 2) << "the route is not asked for again by the save";
 }
 
 TEST_F(PortCallFixture, ARouteOfOtherPortsLeavesTheTable) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Commands().OnCalculate();
-    schedule.refused = {"ScheduleCurrentRoute"};
+    Type(1, ColPort, "GDANSK");
     EXPECT_EQ(panel.Commands().OnRouteChosen(), -2);
     EXPECT_EQ(Cell(1, ColDistance), "240.00");
 }
 
 TEST_F(PortCallFixture, ARouteChosenBesideAClosedPanelLeavesTheTable) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Commands().OnCalculate();
     view.state.changed = false;
@@ -120,30 +122,30 @@ TEST_F(PortCallFixture, ARouteChosenBesideAClosedPanelLeavesTheTable) {
 }
 
 TEST_F(PortCallFixture, CalculatingASavedVoyageReloadsAndSavesAtOnce) {
-    Open("20");
+    Open(kept);
     Type(1, ColSpeed, "12");
     view.visibility.clear();
     panel.Commands().OnCalculate();
     EXPECT_TRUE(messages.messages.empty());
     EXPECT_THAT(view.visibility, ElementsAre("hide", "show"));
-    EXPECT_TRUE(schedule.Called("RemoveVoyageObjects 20"));
-    EXPECT_TRUE(schedule.Called("LoadSchedule 20 1"));
-    EXPECT_EQ(Calls("SaveSchedule 20 -1"), 1);
+    EXPECT_GT(Drawn("TRV_MAP_DEL_OBJECT_BY_TYPE") + Drawn("TRV_MAP_DEL_OBJECTS"), 0U);
+    EXPECT_GT(Drawn("TRV_MAP_ADD_LINE"), 0U);
+    EXPECT_EQ(Saves(), 1);
     EXPECT_EQ(Cell(1, ColSpeed), "12.00");
     EXPECT_FALSE(view.state.changed);
 }
 
 TEST_F(PortCallFixture, NeighbouringRowsOfOnePlaceLoseTheSecond) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "EUROPOORT", "HAMBURG", "HAMBURG"});
     panel.Commands().OnCalculate();
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", " ", " ", " ", " "));
 }
 
 TEST_F(PortCallFixture, AFailedCalculationLeavesTheTableAndShowsNothing) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
-    schedule.refused = {"Calculate"};
+    desk.routes->Close(true);
     panel.Commands().OnCalculate();
     EXPECT_EQ(Cell(1, ColEta), " ");
     EXPECT_TRUE(messages.messages.empty());
@@ -151,70 +153,72 @@ TEST_F(PortCallFixture, AFailedCalculationLeavesTheTableAndShowsNothing) {
 }
 
 TEST_F(PortCallFixture, SavingWithoutAChangeSendsNothing) {
-    Open("20");
-    const auto before = schedule.calls;
+    Open(kept);
+    desk.ForgetRecords();
     panel.Commands().OnSave();
-    EXPECT_EQ(schedule.calls, before);
+    EXPECT_TRUE(desk.host.requests.empty());
+    EXPECT_TRUE(desk.host.chartCalls.empty());
 }
 
 TEST_F(PortCallFixture, SavingRowsWithoutDistancesCalculatesFirst) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Commands().OnSave();
-    EXPECT_EQ(Calls("Calculate 2"), 1);
-    EXPECT_EQ(Calls("SaveSchedule 10 1"), 1);
-    EXPECT_EQ(schedule.savedRows[1].distance, 240.0F);
+    EXPECT_EQ(Calculations(), 1);
+    EXPECT_EQ(Saves(), 1);
+    EXPECT_EQ(SavedRows(fresh)[1].distance, 240.0F);
 }
 
 TEST_F(PortCallFixture, AFailedSaveIsToldAndKeepsTheChange) {
-    Open("20");
+    Open(kept);
     Type(1, ColSpeed, "12");
-    schedule.refused = {"SaveSchedule"};
+    desk.Refuse(Ask::kSavePortCalls);
     panel.Commands().OnSave();
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_SAVEEXCEPTION");
     EXPECT_TRUE(view.state.changed);
     EXPECT_TRUE(view.state.canSave);
     EXPECT_TRUE(saved.empty());
-    schedule.refused.clear();
+    desk.Heal();
     panel.Commands().OnSave();
-    EXPECT_THAT(saved, ElementsAre("20"));
+    EXPECT_THAT(saved, ElementsAre(kept));
 }
 
 TEST_F(PortCallFixture, OpeningAnotherVoyageSavesTheChangesOfTheEditedOne) {
-    Open("20");
+    Open(kept);
     Type(1, ColSpeed, "12");
     messages.Answer(SysMsgHandleRes::Yes);
-    Open("10");
+    Open(fresh);
     EXPECT_EQ(messages.messages[0].text, "IDS_PORTCALL_SAVENEXT");
     EXPECT_EQ(messages.messages[0].flags, 4);
-    EXPECT_EQ(Calls("SaveSchedule 20 -1"), 1);
-    EXPECT_EQ(schedule.savedRows[1].psp, 12.0F);
+    EXPECT_EQ(Saves(), 1);
+    EXPECT_EQ(SavedRows(kept)[1].psp, 12.0F);
     EXPECT_EQ(Cell(0, ColPort), " ");
     EXPECT_TRUE(view.enabled);
 }
 
 TEST_F(PortCallFixture, OpeningAnotherVoyageCanDropTheChanges) {
-    Open("20");
+    Open(kept);
     Type(1, ColSpeed, "12");
     messages.Answer(SysMsgHandleRes::No);
-    Open("10");
-    EXPECT_EQ(Calls("SaveSchedule 20 -1"), 0);
+    Open(fresh);
+    EXPECT_EQ(Saves(), 0);
     EXPECT_FALSE(view.state.changed);
 }
 
 TEST_F(PortCallFixture, TheSetPortCallsLinkOpensSixEmptyRowsOfThatVoyage) {
-    Open("20");
-    panel.SetVoyage("10");
+    Open(kept);
+    panel.SetVoyage(fresh);
+    desk.ForgetRecords();
     panel.Reset();
     EXPECT_EQ(Cell(0, ColPort), " ");
-    EXPECT_TRUE(schedule.Called("ClearChart"));
+    EXPECT_GT(Drawn("TRV_MAP_DEL_OBJECT_BY_TYPE"), 0U);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Commands().OnSave();
-    EXPECT_THAT(saved, ElementsAre("10"));
+    EXPECT_THAT(saved, ElementsAre(fresh));
 }
 
 TEST_F(PortCallFixture, ClosingWithChangesAsksAndNoKeepsThePanel) {
-    Open("20");
+    Open(kept);
     Type(1, ColSpeed, "12");
     messages.Answer(SysMsgHandleRes::No);
     panel.Commands().OnClose();
@@ -224,23 +228,25 @@ TEST_F(PortCallFixture, ClosingWithChangesAsksAndNoKeepsThePanel) {
     EXPECT_TRUE(view.state.changed);
     EXPECT_EQ(Cell(1, ColSpeed), "12.00");
     messages.Answer(SysMsgHandleRes::Yes);
+    desk.ForgetRecords();
     panel.Commands().OnClose();
     EXPECT_FALSE(view.visible);
     EXPECT_TRUE(view.enabled);
-    EXPECT_TRUE(schedule.Called("DiscardPortCalls 20"));
+    EXPECT_EQ(desk.Count(Ask::kLoadPortCalls), 1);
     EXPECT_FALSE(view.state.changed);
 }
 
 TEST_F(PortCallFixture, ClosingWithoutChangesAsksNothing) {
-    Open("20");
+    Open(kept);
+    desk.ForgetRecords();
     panel.Commands().OnClose();
     EXPECT_FALSE(view.visible);
     EXPECT_TRUE(messages.messages.empty());
-    EXPECT_FALSE(schedule.Called("DiscardPortCalls 20"));
+    EXPECT_TRUE(desk.host.requests.empty());
 }
 
 TEST_F(PortCallFixture, AnOpenEditorIsCommittedBeforeClosingAsks) {
-    Open("20");
+    Open(kept);
     panel.Cells().OnCellClicked(1, ColSpeed);
     Retype(CellEditor::Speed, "12");
     messages.Answer(SysMsgHandleRes::No);
@@ -250,7 +256,7 @@ TEST_F(PortCallFixture, AnOpenEditorIsCommittedBeforeClosingAsks) {
 }
 
 TEST_F(PortCallFixture, ClearAsksAndEmptiesTheTable) {
-    Open("20");
+    Open(kept);
     panel.Commands().OnUnitChosen(UnitKind::Speed, "KPH");
     messages.Answer(SysMsgHandleRes::Cancel);
     panel.Commands().OnClear();
@@ -267,12 +273,12 @@ TEST_F(PortCallFixture, ClearAsksAndEmptiesTheTable) {
     EXPECT_FALSE(view.state.canOpenBook);
     EXPECT_FALSE(view.state.canCalculate);
     EXPECT_FALSE(view.state.changed);
-    EXPECT_TRUE(schedule.Called("RouteChanged"));
+    EXPECT_EQ(desk.voyages.RouteIsCurrent(), -1);
     EXPECT_TRUE(view.visible);
 }
 
 TEST_F(PortCallFixture, UnitsConvertTheCellsAndTheFigures) {
-    Open("20");
+    Open(kept);
     EXPECT_EQ(panel.Commands().OnUnitChosen(UnitKind::Speed, "KPH"), 0);
     EXPECT_EQ(Cell(1, ColSpeed), "18.52");
     EXPECT_EQ(view.state.speedUnit, "KPH");
@@ -293,7 +299,7 @@ TEST_F(PortCallFixture, UnitsConvertTheCellsAndTheFigures) {
 }
 
 TEST_F(PortCallFixture, ChoosingTheUnitInForceLeavesTheCells) {
-    Open("20");
+    Open(kept);
     const std::string speed = Cell(1, ColSpeed);
     EXPECT_LT(panel.Commands().OnUnitChosen(UnitKind::Speed, "kts"), 0);
     EXPECT_EQ(Cell(1, ColSpeed), speed);
@@ -301,7 +307,7 @@ TEST_F(PortCallFixture, ChoosingTheUnitInForceLeavesTheCells) {
 }
 
 TEST_F(PortCallFixture, BeforeTheFirstCalculationAUnitOnlyChangesItsLabel) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     EXPECT_EQ(panel.Commands().OnUnitChosen(UnitKind::Distance, "KM"), -1);
     EXPECT_EQ(view.state.distanceUnit, "KM");
@@ -310,17 +316,18 @@ TEST_F(PortCallFixture, BeforeTheFirstCalculationAUnitOnlyChangesItsLabel) {
 }
 
 TEST_F(PortCallFixture, ARowTypedInAnotherUnitIsSavedInKnotsMilesAndHours) {
-    Open("20");
+    Open(kept);
     panel.Commands().OnUnitChosen(UnitKind::Speed, "KPH");
     Type(1, ColSpeed, "37.04");
     EXPECT_EQ(Cell(1, ColSteamTime), "0.50");
     panel.Commands().OnSave();
-    EXPECT_NEAR(schedule.savedRows[1].psp, 20.0, 1e-4);
+    EXPECT_NEAR(SavedRows(kept)[1].psp, 20.0, 1e-4);
 }
 
 TEST_F(PortCallFixture, AFailedLoadGivesAnEmptyTableWithoutMessage) {
-    Open("20");
-    schedule.refused = {"LoadSchedule"};
+    Open(kept);
+    store.voyages[kept].portCalls.clear();
+    desk.Refuse(Ask::kLoadPortCalls);
     EXPECT_EQ(panel.FillForVoyage(-1), 0);
     EXPECT_EQ(Cell(0, ColPort), " ");
     EXPECT_EQ(view.state.summary.averageSpeed, "");
@@ -334,7 +341,7 @@ TEST_F(PortCallFixture, HelpNamesItsTopic) {
 
 TEST_F(PortCallFixture, ALanguageSwitchRenewsCaptionAndButton) {
     panel.RegisterHost();
-    Open("20");
+    Open(kept);
     texts.prefix = u"zh ";
     Interface::Raise(Interface::Bus::SwitchLanguage);
     EXPECT_EQ(view.state.caption, "zh IDS_PORTCALL_TITLE");
@@ -343,7 +350,7 @@ TEST_F(PortCallFixture, ALanguageSwitchRenewsCaptionAndButton) {
 }
 
 TEST_F(PortCallFixture, LogoutHidesThePanelAndItsEditors) {
-    Open("20");
+    Open(kept);
     panel.Cells().OnCellClicked(1, ColPort);
     panel.HideAfterLogout();
     EXPECT_FALSE(view.visible);

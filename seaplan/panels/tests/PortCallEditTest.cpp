@@ -7,7 +7,7 @@ namespace Tarvik::Seaplan {
 using ::testing::ElementsAre;
 
 TEST_F(PortCallFixture, APortInTheFirstRowSetsItsOtherCells) {
-    Open("10");
+    Open(fresh);
     Type(0, ColPort, "ROTTERDAM");
     EXPECT_EQ(Cell(0, ColPort), "ROTTERDAM");
     EXPECT_EQ(Cell(0, ColSpeed), "0.00");
@@ -19,7 +19,7 @@ TEST_F(PortCallFixture, APortInTheFirstRowSetsItsOtherCells) {
 }
 
 TEST_F(PortCallFixture, ATableOfOnePlaceIsNeverMarked) {
-    Open("10");
+    Open(fresh);
     Type(0, ColPort, "ROTTERDAM");
     Type(1, ColPort, "ROTTERDAM");
     Type(2, ColPort, "EUROPOORT");
@@ -33,7 +33,7 @@ TEST_F(PortCallFixture, ATableOfOnePlaceIsNeverMarked) {
 }
 
 TEST_F(PortCallFixture, ALocalNameGivesThePortsNameAndAnUnknownOneIsDropped) {
-    Open("10");
+    Open(fresh);
     Type(0, ColPort, "鹿特丹");
     EXPECT_EQ(Cell(0, ColPort), "ROTTERDAM");
     Type(1, ColPort, "上海");
@@ -41,7 +41,7 @@ TEST_F(PortCallFixture, ALocalNameGivesThePortsNameAndAnUnknownOneIsDropped) {
 }
 
 TEST_F(PortCallFixture, ANameThatNoPortHasIsTakenAndMarked) {
-    Open("10");
+    Open(fresh);
     Type(0, ColPort, "Atlantis");
     EXPECT_EQ(Cell(0, ColPort), "Atlantis");
     EXPECT_TRUE(view.table.Rows()[0].unknownPort);
@@ -51,7 +51,7 @@ TEST_F(PortCallFixture, ANameThatNoPortHasIsTakenAndMarked) {
 }
 
 TEST_F(PortCallFixture, ANewPortClearsTheTotals) {
-    Open("20");
+    Open(kept);
     EXPECT_EQ(Cell(6, ColDistance), "480.00");
     Type(1, ColPort, "ROUEN");
     EXPECT_EQ(Cell(6, ColDistance), " ");
@@ -60,7 +60,7 @@ TEST_F(PortCallFixture, ANewPortClearsTheTotals) {
 }
 
 TEST_F(PortCallFixture, LookingIntoAnEditorChangesNothing) {
-    Open("20");
+    Open(kept);
     for (const int column : {ColPort, ColSpeed, ColWeather}) {
         panel.Cells().OnCellClicked(1, column);
         panel.Cells().CommitEditors();
@@ -70,7 +70,7 @@ TEST_F(PortCallFixture, LookingIntoAnEditorChangesNothing) {
 }
 
 TEST_F(PortCallFixture, ASpeedRecomputesTheSchedule) {
-    Open("20");
+    Open(kept);
     Type(1, ColSpeed, "20");
     EXPECT_EQ(Cell(1, ColSpeed), "20.00");
     EXPECT_EQ(Cell(1, ColSteamTime), "0.50");
@@ -81,12 +81,12 @@ TEST_F(PortCallFixture, ASpeedRecomputesTheSchedule) {
 }
 
 TEST_F(PortCallFixture, ATypedZeroLeavesTheSpeedAndABlankCellTakesTen) {
-    Open("20");
+    Open(kept);
     for (const char* text : {"0", "-4", "fast"}) {
         Type(1, ColSpeed, text);
         EXPECT_EQ(Cell(1, ColSpeed), "10.00") << text;
     }
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     Type(1, ColSpeed, "0");
     EXPECT_EQ(Cell(1, ColSpeed), "10.00");
@@ -94,7 +94,7 @@ TEST_F(PortCallFixture, ATypedZeroLeavesTheSpeedAndABlankCellTakesTen) {
 }
 
 TEST_F(PortCallFixture, ARowWithoutPortTakesNoSpeedWeatherOrPurpose) {
-    Open("20");
+    Open(kept);
     Type(3, ColSpeed, "12");
     panel.Cells().OnCellClicked(3, ColWeather);
     Retype(CellEditor::Weather, "5");
@@ -108,7 +108,7 @@ TEST_F(PortCallFixture, ARowWithoutPortTakesNoSpeedWeatherOrPurpose) {
 }
 
 TEST_F(PortCallFixture, AWeatherFactorIsTypedInPercent) {
-    Open("20");
+    Open(kept);
     Type(1, ColWeather, "20%");
     EXPECT_EQ(Cell(1, ColWeather), "20%");
     EXPECT_EQ(Cell(1, ColSteamTime), "1.25");
@@ -123,7 +123,7 @@ TEST_F(PortCallFixture, AWeatherFactorIsTypedInPercent) {
 }
 
 TEST_F(PortCallFixture, AFactorThatLeavesNoSpeedKeepsTheTypedCellAndTheOtherCells) {
-    Open("20");
+    Open(kept);
     const std::string eta = Cell(1, ColEta);
     Type(1, ColWeather, "99.6");
     EXPECT_EQ(Cell(1, ColWeather), "100%");
@@ -132,7 +132,7 @@ TEST_F(PortCallFixture, AFactorThatLeavesNoSpeedKeepsTheTypedCellAndTheOtherCell
 }
 
 TEST_F(PortCallFixture, APurposeWritesItsCodeAndComputesNothing) {
-    Open("20");
+    Open(kept);
     panel.Cells().OnCellClicked(1, ColPurpose);
     EXPECT_EQ(view.purposeRow, 1);
     panel.Cells().OnPurposeChosen(9);
@@ -144,7 +144,7 @@ TEST_F(PortCallFixture, APurposeWritesItsCodeAndComputesNothing) {
 }
 
 TEST_F(PortCallFixture, ALaterEtaSlowsTheLegDown) {
-    Open("20");
+    Open(kept);
     PickTime(2, ColEta, "2024-03-07 07:00:00");
     EXPECT_EQ(Cell(2, ColEta), "2024-03-07 07:00:00");
     EXPECT_EQ(Cell(2, ColSpeed), "21.82");
@@ -154,7 +154,7 @@ TEST_F(PortCallFixture, ALaterEtaSlowsTheLegDown) {
 }
 
 TEST_F(PortCallFixture, AnEtaMustBeLaterThanThePreviousEtd) {
-    Open("20");
+    Open(kept);
     const std::string etd = Cell(1, ColEtd);
     const std::string eta = Cell(2, ColEta);
     PickTime(2, ColEta, etd);
@@ -164,7 +164,7 @@ TEST_F(PortCallFixture, AnEtaMustBeLaterThanThePreviousEtd) {
 }
 
 TEST_F(PortCallFixture, AnEtdEqualToTheEtaIsAcceptedAnEarlierOneIsNot) {
-    Open("20");
+    Open(kept);
     const std::string eta = Cell(1, ColEta);
     PickTime(1, ColEtd, "2024-03-06 07:00:00");
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_ERRETD");
@@ -176,8 +176,8 @@ TEST_F(PortCallFixture, AnEtdEqualToTheEtaIsAcceptedAnEarlierOneIsNot) {
 }
 
 TEST_F(PortCallFixture, TheFirstEtaMovesTheWholeScheduleAndWipesTheFirstStay) {
-    schedule.onServer["20"][0].apt = 6;
-    Open("20");
+    SaveOther([](PortCallRows& calls) { calls[0].apt = 6; });
+    Open(kept);
     EXPECT_EQ(Cell(0, ColPortTime), "0.25");
     PickTime(0, ColEta, "2024-04-01 00:00:00");
     EXPECT_EQ(Cell(0, ColPortTime), "0.00");
@@ -186,7 +186,7 @@ TEST_F(PortCallFixture, TheFirstEtaMovesTheWholeScheduleAndWipesTheFirstStay) {
 }
 
 TEST_F(PortCallFixture, ATimeOfAnotherLengthIsDropped) {
-    Open("20");
+    Open(kept);
     const auto before = Column(ColEta);
     PickTime(1, ColEta, "2024-03-09");
     EXPECT_EQ(Column(ColEta), before);
@@ -194,7 +194,7 @@ TEST_F(PortCallFixture, ATimeOfAnotherLengthIsDropped) {
 }
 
 TEST_F(PortCallFixture, ThePickerNeedsAFilledRow) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Cells().OnCellClicked(1, ColEta);
     EXPECT_TRUE(view.pickerTime.empty());
@@ -204,16 +204,22 @@ TEST_F(PortCallFixture, ThePickerNeedsAFilledRow) {
 }
 
 TEST_F(PortCallFixture, AnEtaOnALegWithoutDistanceStandsAlone) {
-    schedule.onServer["20"][1].distance = 0;
-    Open("20");
-    PickTime(1, ColEta, "2024-03-08 00:00:00");
-    EXPECT_EQ(Cell(1, ColEta), "2024-03-08 00:00:00");
-    EXPECT_EQ(Cell(2, ColEta), "2024-03-06 20:00:00");
-    EXPECT_FALSE(view.state.changed);
+    Open(kept);
+    PortCallDesk parts({store, schedule, ports, view});
+    PortCallRows rows = SavedRows(kept);
+    rows[1].distance = 0;
+    PortCallRows timed;
+    ASSERT_EQ(RecomputeSchedule(rows, timed), 0);
+    ASSERT_EQ(parts.Sheet().ShowRows(timed, false), 0);
+    CellEdits(parts).SetTime(1, ColEta, "2024-03-08 00:00:00");
+    const PortCallTable& table = parts.Sheet().table;
+    EXPECT_EQ(table.Cell(1, ColEta), "2024-03-08 00:00:00");
+    EXPECT_EQ(table.Cell(2, ColEta), "2024-03-06 20:00:00");
+    EXPECT_FALSE(parts.Sheet().state.changed);
 }
 
 TEST_F(PortCallFixture, ClickingTheLastNumberedRowAddsOne) {
-    Open("10");
+    Open(fresh);
     panel.Cells().OnCellClicked(5, ColSteamTime);
     EXPECT_EQ(view.table.RowCount(), 7);
     EXPECT_EQ(Cell(7, ColOrder), "RES");
@@ -224,7 +230,7 @@ TEST_F(PortCallFixture, ClickingTheLastNumberedRowAddsOne) {
 }
 
 TEST_F(PortCallFixture, ColumnsThatAreComputedHaveNoEditor) {
-    Open("20");
+    Open(kept);
     for (const int column : {ColOrder, ColSteamTime, ColPortTime, ColDistance}) {
         panel.Cells().OnCellClicked(1, column);
         EXPECT_FALSE(view.openEditor.has_value()) << column;
@@ -233,7 +239,7 @@ TEST_F(PortCallFixture, ColumnsThatAreComputedHaveNoEditor) {
 }
 
 TEST_F(PortCallFixture, MovingARowBlanksTheFiguresOfAllRows) {
-    Open("20");
+    Open(kept);
     EXPECT_EQ(panel.Commands().OnItemImage(2, "itemMoveUp"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "GDANSK", "HAMBURG", " ", " ", " "));
     for (const int column : {ColSteamTime, ColEta, ColEtd, ColDistance}) {
@@ -250,7 +256,7 @@ TEST_F(PortCallFixture, MovingARowBlanksTheFiguresOfAllRows) {
 }
 
 TEST_F(PortCallFixture, TheFirstRowDoesNotMoveUpNorTheLastDown) {
-    Open("20");
+    Open(kept);
     EXPECT_LT(panel.Commands().OnItemImage(0, "itemMoveUp"), 0);
     EXPECT_LT(panel.Commands().OnItemImage(2, "itemMovedown"), 0);
     EXPECT_LT(panel.Commands().OnItemImage(4, "itemdel"), 0);
@@ -260,7 +266,7 @@ TEST_F(PortCallFixture, TheFirstRowDoesNotMoveUpNorTheLastDown) {
 }
 
 TEST_F(PortCallFixture, DeletingARowKeepsTheOthers) {
-    Open("20");
+    Open(kept);
     EXPECT_EQ(panel.Commands().OnItemImage(1, "itemdel"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "GDANSK", " ", " ", " ", " "));
     EXPECT_TRUE(view.state.canCalculate);
@@ -269,7 +275,7 @@ TEST_F(PortCallFixture, DeletingARowKeepsTheOthers) {
 }
 
 TEST_F(PortCallFixture, ARowBelowABlankRowCountsByItsPlaceInTheTable) {
-    Open("10");
+    Open(fresh);
     Type(0, ColPort, "ROTTERDAM");
     Type(2, ColPort, "HAMBURG");
     EXPECT_LT(panel.Commands().OnItemImage(2, "itemdel"), 0);

@@ -1,62 +1,73 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
+#include <functional>
 #include <initializer_list>
+#include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
-#include "seaplan/panels/tests/FakeCommands.h"
+#include "seaplan/panels/services/AisControllerCommands.h"
+#include "seaplan/panels/services/ControllerCommands.h"
 #include "seaplan/panels/tests/KeyTexts.h"
+#include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/panels/tests/RecordingPortCallView.h"
-#include "testsupport/ManualClock.h"
-#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 
-/// The port call panel over fakes, with voyage "10" new and voyage "20" saved with three port calls. The
+/// The port call panel on the real server, with a new voyage and one that is saved with three port calls. The
 /// present time is 2024-03-01 00:00:00.
 class PortCallFixture : public ::testing::Test {
   protected:
     KeyTexts texts;
-    TestSupport::ManualClock clock;
-    TestSupport::RecordingMsgSink messages;
-    VoyageStore store;
-    FakeSchedule schedule{store};
+    PanelDesk desk;
+    TestSupport::ManualClock& clock = desk.clock;
+    TestSupport::RecordingMsgSink& messages = desk.messages;
+    VoyageStore& store = desk.store;
+    ScheduleControllerCommands schedule{&desk.voyages};
     RecordingPortCallView view;
     std::vector<std::string> saved;
+    std::string fresh;  ///< id of the new voyage
+    std::string kept;   ///< id of the saved one
     PortDirectory ports = Ports();
     CPortCallPanelDlg panel{{store, schedule, ports, view}};
 
     PortCallFixture() {
-        for (const char* vi : {"10", "20"}) {
-            store.voyages[vi].vi = vi;
+        desk.AddCategory("Plans");
+        fresh = desk.AddVoyage("Plans", {.name = "New"});
+        kept = desk.AddVoyage("Plans", {.name = "Saved", .calls = ThreeCalls()});
+        std::string user;
+        if (desk.catalog.Connect(user) != 0 || desk.catalog.Load(user) != 0) {
+            throw std::runtime_error("the voyages cannot be loaded");
         }
-        schedule.onServer["20"] = ThreeCalls();
-        store.voyages["20"].positionBook.points.resize(3);
+        desk.ForgetRecords();
         panel.SetSavedListener([this](const std::string& vi) { saved.push_back(vi); });
     }
 
     static PortDirectory Ports() {
+        const std::string rotterdam = DeskPortId("ROTTERDAM");
+        const std::string europoort = DeskPortId("EUROPOORT");
         return {{"ROTTERDAM", "ROUEN", "HAMBURG", "GDANSK", "EUROPOORT"},
                 {{"鹿特丹", "ROTTERDAM"}},
-                {{"id-ROTTERDAM-id-EUROPOORT", ""}, {"id-EUROPOORT-id-ROTTERDAM", ""}}};
+                {{rotterdam + "-" + europoort, ""}, {europoort + "-" + rotterdam, ""}}};
     }
     /// Rotterdam, Hamburg, Gdansk from 2024-03-05 08:00:00 with 12 hours in Hamburg; legs of 240 miles.
     static PortCallRows ThreeCalls() {
-        PortCallRows rows(3);
-        rows[0].ppn = "ROTTERDAM";
-        rows[0].pp = "L";
-        rows[1].ppn = "HAMBURG";
+        PortCallRows rows = PanelDesk::Calls(5, 3);
         rows[1].apt = 12;
-        rows[2].ppn = "GDANSK";
-        for (int i : {1, 2}) {
-            rows[i].distance = 240;
-        }
-        PortCallRows out;
-        BuildSchedule(Util::_datetime_t(0, 0, 8, 5, 3, 2024), rows, out);
-        return out;
+        return rows;
+    }
+    /// The saved voyage is another one on the server; what was loaded of it is forgotten.
+    void SaveOther(const std::function<void(PortCallRows&)>& change) {
+        PortCallRows calls = ThreeCalls();
+        change(calls);
+        desk.SaveCalls(kept, calls);
+        store.voyages[kept].portCalls.clear();
+        store.voyages[kept].positionBook.points.clear();
     }
     void Open(const std::string& vi) {
         panel.SetVoyage(vi);
@@ -88,6 +99,13 @@ class PortCallFixture : public ::testing::Test {
         ASSERT_FALSE(view.pickerTime.empty());
         panel.Cells().OnTimeChosen(text);
     }
+    /// On the chart: the passage by the other point from Rotterdam to Hamburg.
+    static void ChooseOtherPassage() {
+        const std::string usual = "118";
+        const std::string other = "105";
+        Interface::Raise(Interface::Bus::ClickVoyageType, &usual);
+        Interface::Raise(Interface::Bus::ClickRoutePointType, &other);
+    }
     std::string Cell(int row, int column) const { return view.table.Cell(row, column); }
     std::vector<std::string> Column(int column) const {
         std::vector<std::string> out;
@@ -98,9 +116,11 @@ class PortCallFixture : public ::testing::Test {
         return out;
     }
     std::string LastMessage() const { return messages.messages.empty() ? "" : messages.messages.back().text; }
-    long Calls(const std::string& call) const {
-        return std::count(schedule.calls.begin(), schedule.calls.end(), call);
-    }
+    /// How often a service of the chart was called.
+    std::size_t Drawn(const char* service) const { return desk.host.ChartCallsOf(service).size(); }
+    long Calculations() const { return desk.Count(Ask::kRoute); }
+    long Saves() const { return desk.Count(Ask::kSavePortCalls); }
+    const PortCallRows& SavedRows(const std::string& vi) { return store.voyages[vi].portCalls; }
 };
 
 }  // namespace Tarvik::Seaplan

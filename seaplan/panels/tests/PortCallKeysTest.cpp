@@ -42,7 +42,7 @@ class SearchPlugin final : public Core::TObject {
 }  // namespace
 
 TEST_F(PortCallFixture, TabLeadsFromTheFirstPortToTheNextPort) {
-    Open("10");
+    Open(fresh);
     panel.Cells().OnCellClicked(0, ColPort);
     Retype(CellEditor::Port, "ROTTERDAM");
     panel.Cells().OnEditorKey(CellEditor::Port, {Key::Tab});
@@ -51,7 +51,7 @@ TEST_F(PortCallFixture, TabLeadsFromTheFirstPortToTheNextPort) {
 }
 
 TEST_F(PortCallFixture, TabLeadsFromALaterPortThroughSpeedAndWeatherToTheNextPort) {
-    Open("10");
+    Open(fresh);
     Type(0, ColPort, "ROTTERDAM");
     panel.Cells().OnCellClicked(1, ColPort);
     Retype(CellEditor::Port, "HAMBURG");
@@ -71,7 +71,7 @@ TEST_F(PortCallFixture, TabLeadsFromALaterPortThroughSpeedAndWeatherToTheNextPor
 }
 
 TEST_F(PortCallFixture, EnterTakesThePortAndOpensTheNextEnterInTheSpeedOnlyCloses) {
-    Open("20");
+    Open(kept);
     panel.Cells().OnCellClicked(1, ColPort);
     Retype(CellEditor::Port, "ROUEN");
     panel.Cells().OnEditorKey(CellEditor::Port, {Key::Enter});
@@ -87,7 +87,7 @@ TEST_F(PortCallFixture, EnterTakesThePortAndOpensTheNextEnterInTheSpeedOnlyClose
 }
 
 TEST_F(PortCallFixture, AnEmptyPortEditorStaysOpen) {
-    Open("10");
+    Open(fresh);
     panel.Cells().OnCellClicked(0, ColPort);
     panel.Cells().OnEditorKey(CellEditor::Port, {Key::Tab});
     EXPECT_EQ(view.openEditor, CellEditor::Port);
@@ -95,7 +95,7 @@ TEST_F(PortCallFixture, AnEmptyPortEditorStaysOpen) {
 }
 
 TEST_F(PortCallFixture, EnterInTheLastRowGrowsTheTable) {
-    Open("10");
+    Open(fresh);
     panel.Cells().OnCellClicked(4, ColPort);
     Retype(CellEditor::Port, "ROUEN");
     panel.Cells().OnEditorKey(CellEditor::Port, {Key::Enter});
@@ -104,7 +104,7 @@ TEST_F(PortCallFixture, EnterInTheLastRowGrowsTheTable) {
 }
 
 TEST_F(PortCallFixture, LeavingTheSpeedCommitsLeavingThePortDoesNot) {
-    Open("20");
+    Open(kept);
     panel.Cells().OnCellClicked(1, ColSpeed);
     Retype(CellEditor::Speed, "15");
     panel.Cells().OnEditorFocusLost(CellEditor::Speed);
@@ -120,7 +120,7 @@ TEST_F(PortCallFixture, LeavingTheSpeedCommitsLeavingThePortDoesNot) {
 }
 
 TEST_F(PortCallFixture, EscapeClosesTheListThenAnEditorThatWasNotChanged) {
-    Open("20");
+    Open(kept);
     panel.Cells().OnCellClicked(3, ColPort);
     Retype(CellEditor::Port, "RO");
     ASSERT_TRUE(view.matchesShown);
@@ -135,7 +135,7 @@ TEST_F(PortCallFixture, EscapeClosesTheListThenAnEditorThatWasNotChanged) {
 }
 
 TEST_F(PortCallFixture, TypingOffersThePortsThatBeginSo) {
-    Open("10");
+    Open(fresh);
     panel.Cells().OnCellClicked(0, ColPort);
     EXPECT_FALSE(view.matchesShown);
     Retype(CellEditor::Port, "ro");
@@ -148,7 +148,7 @@ TEST_F(PortCallFixture, TypingOffersThePortsThatBeginSo) {
 }
 
 TEST_F(PortCallFixture, AMatchIsTakenWhenItIsChosen) {
-    Open("10");
+    Open(fresh);
     panel.Cells().OnCellClicked(0, ColPort);
     Retype(CellEditor::Port, "ro");
     panel.Cells().OnMatchMoved("ROUEN", true);
@@ -167,7 +167,7 @@ TEST_F(PortCallFixture, AMatchIsTakenWhenItIsChosen) {
 
 TEST_F(PortCallFixture, TheSearchPluginIsAskedAtEachTextButTheOneSetOnTheWayToTheNextRow) {
     SearchPlugin plugin;
-    Open("20");
+    Open(kept);
     panel.Cells().OnCellClicked(1, ColPort);
     ASSERT_EQ(plugin.queries.size(), 1U);
     EXPECT_EQ(plugin.queries[0].text, "HAMBURG");
@@ -186,7 +186,7 @@ TEST_F(PortCallFixture, TheSearchPluginIsAskedAtEachTextButTheOneSetOnTheWayToTh
 
 TEST_F(PortCallFixture, AnEmptyTextHidesTheMatchWindowAndBackspaceIsToldOnce) {
     SearchPlugin plugin;
-    Open("10");
+    Open(fresh);
     panel.Cells().OnCellClicked(0, ColPort);
     Retype(CellEditor::Port, "R");
     EXPECT_FALSE(plugin.queries.back().textRemains);

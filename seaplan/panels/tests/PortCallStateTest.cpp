@@ -4,15 +4,40 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+/// The host's port names, with every name whose id was asked for. In force while it lives.
+class CountedNames final : public Interface::ValueDictionary {
+  public:
+    explicit CountedNames(const Interface::ValueDictionary& names) : names_(names) { Set(this); }
+    ~CountedNames() override { Set(&names_); }
+    CountedNames(const CountedNames&) = delete;
+    CountedNames& operator=(const CountedNames&) = delete;
+
+    mutable std::vector<std::string> asked;
+    std::string KeyOfValue(const std::string& path, const std::string& value, int language) const override {
+        asked.push_back(value);
+        return names_.KeyOfValue(path, value, language);
+    }
+    std::string ValueOfKey(const std::string& path, const std::string& key, int language) const override {
+        return names_.ValueOfKey(path, key, language);
+    }
+
+  private:
+    const Interface::ValueDictionary& names_;
+};
+
+}  // namespace
+
 TEST_F(PortCallFixture, AnUnknownLocalNameLeavesAFilledCell) {
-    Open("20");
+    Open(kept);
     Type(1, ColPort, "上海");
     EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
     EXPECT_FALSE(view.state.changed);
 }
 
 TEST_F(PortCallFixture, ABlankSpeedTakesTenAlsoWhenTheScheduleFails) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG", "GDANSK"});
     Type(1, ColWeather, "99.6");
     ASSERT_EQ(Cell(1, ColWeather), "100%");
@@ -21,7 +46,7 @@ TEST_F(PortCallFixture, ABlankSpeedTakesTenAlsoWhenTheScheduleFails) {
 }
 
 TEST_F(PortCallFixture, TheFirstEtaStandsInBothCellsAlsoWhenTheScheduleFails) {
-    Open("20");
+    Open(kept);
     Type(1, ColWeather, "99.6");
     PickTime(0, ColEta, "2024-04-01 00:00:00");
     EXPECT_EQ(Cell(0, ColEta), "2024-04-01 00:00:00");
@@ -30,47 +55,47 @@ TEST_F(PortCallFixture, TheFirstEtaStandsInBothCellsAlsoWhenTheScheduleFails) {
 }
 
 TEST_F(PortCallFixture, SavingAMovedRowCalculatesFirst) {
-    Open("20");
+    Open(kept);
     ASSERT_EQ(panel.Commands().OnItemImage(2, "itemMoveUp"), 0);
     panel.Commands().OnSave();
-    EXPECT_EQ(Calls("Calculate 3"), 1) << "the voyage has a book, but the rows have no distances";
-    EXPECT_EQ(Calls("SaveSchedule 20 1"), 1);
+    EXPECT_EQ(Calculations(), 1) << "the voyage has a book, but the rows have no distances";
+    EXPECT_EQ(Saves(), 2) << "once as the calculation ends, and once with the drawing";
 }
 
 TEST_F(PortCallFixture, SavingWithoutABookOrAPendingRouteCalculatesFirst) {
-    store.voyages["20"].positionBook.points.clear();
-    Open("20");
+    Open(kept);
+    store.voyages[kept].positionBook.points.clear();
     Type(1, ColSpeed, "12");
     panel.Commands().OnSave();
-    EXPECT_EQ(Calls("Calculate 3"), 1);
+    EXPECT_EQ(Calculations(), 1);
 }
 
 TEST_F(PortCallFixture, OpeningAVoyageForgetsTheRouteThatWasPending) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Commands().OnCalculate();
     ASSERT_TRUE(schedule.HasPendingRoute());
     messages.Answer(Interface::SysMsgHandleRes::No);
-    Open("20");
+    Open(kept);
     EXPECT_FALSE(schedule.HasPendingRoute());
 }
 
 TEST_F(PortCallFixture, APortIsLookedUpOnceAndTheWindowIsToldOnlyWhatChanged) {
-    Open("10");
-    schedule.resolved.clear();
+    Open(fresh);
+    CountedNames names(desk.names);
     view.statesShown = 0;
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Commands().OnCalculate();
     panel.Commands().OnSave();
-    EXPECT_THAT(schedule.resolved, ::testing::ElementsAre("ROTTERDAM", "HAMBURG"));
-    ASSERT_EQ(schedule.savedRows.size(), 2U);
-    EXPECT_EQ(schedule.savedRows[1].ppi, "id-HAMBURG");
+    EXPECT_THAT(names.asked, ::testing::ElementsAre("ROTTERDAM", "HAMBURG"));
+    ASSERT_THAT(desk.Sent(Ask::kSavePortCalls), ::testing::SizeIs(1));
+    EXPECT_NE(desk.Sent(Ask::kSavePortCalls)[0].find("|" + DeskPortId("HAMBURG") + "|"), std::string::npos);
     EXPECT_LE(view.statesShown, 3);
     EXPECT_FALSE(view.state.changed);
 }
 
 TEST_F(PortCallFixture, ACopyOfTheSheetKeepsWhatStoodThere) {
-    Open("20");
+    Open(kept);
     const PortCallSheet before = panel.Sheet();
     Type(1, ColSpeed, "12");
     ASSERT_EQ(panel.Sheet().table.Cell(1, ColSpeed), "12.00");
@@ -80,7 +105,7 @@ TEST_F(PortCallFixture, ACopyOfTheSheetKeepsWhatStoodThere) {
 }
 
 TEST_F(PortCallFixture, ARowsRecordTellsNoMoreThanItsCells) {
-    Open("20");
+    Open(kept);
     Type(1, ColWeather, "12.6");
     for (const TableRow& row : panel.Sheet().table.Rows()) {
         const VoyPortCall shown = CellsToRow(row.cells);
@@ -91,11 +116,11 @@ TEST_F(PortCallFixture, ARowsRecordTellsNoMoreThanItsCells) {
         EXPECT_EQ(row.record.distance, shown.distance);
         EXPECT_EQ(row.record.pp, shown.pp);
     }
-    EXPECT_EQ(panel.Sheet().table.ReadRow(1).ppi, "id-HAMBURG");
+    EXPECT_EQ(panel.Sheet().table.ReadRow(1).ppi, DeskPortId("HAMBURG"));
 }
 
 TEST_F(PortCallFixture, ANewVoyageStartsAtTheMomentOfItsCalculation) {
-    Open("10");
+    Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     clock.SetUtc(2024, 3, 2);
     panel.Commands().OnCalculate();
