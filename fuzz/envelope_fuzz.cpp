@@ -66,7 +66,7 @@ class Host : public Core::TObject {
 
 void checkPaths() {
     Util::Jsona reply;
-    const int code = SendText("{}", 5, reply);
+    const int code = SendText("{}", Interface::VoyCommand::ChangeVoyage, reply);
     require(code == 0 || code == -2);
     RemarkBlock request;
     RemarkBlock answer;

@@ -16,8 +16,6 @@ namespace {
 
 using Util::StringUtl;
 
-constexpr double kLeastSpeed = 0.0001;
-
 void append(const BookPoints& rows, PointTexts& list) {
     for (const PosBookPoint& row : rows) {
         list.push_back(row.position);
@@ -84,7 +82,7 @@ class LegWalk {
         if (LegDistance(previous, row.position, row.psr, distance) < 0) {
             return -11;
         }
-        if (row.psp <= kLeastSpeed) {
+        if (row.psp <= kLeastRowKnots) {
             return -12;
         }
         const double speed = (1 - weather_) * row.psp;

@@ -2,6 +2,7 @@
 #include "seaplan/calculation/PositionBook.h"
 
 #include <tarvik/util/Geodesy.h>
+#include <tarvik/util/Units.h>
 
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/Schedule.h"
@@ -11,7 +12,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr double kKmPerNauticalMile = 1.852;
 constexpr double kLeastBookSpeed = 0.00001;
 
 /// Makes the last point of a segment the named point that the segment leads to.
@@ -114,7 +114,7 @@ int LegDistance(const std::string& a, const std::string& b, const std::string& p
         return -1;
     }
     const double km = Util::CircleLineUtl::CalculateDistance(from.x, from.y, to.x, to.y, psr);
-    nm = static_cast<float>(km / kKmPerNauticalMile);
+    nm = static_cast<float>(Util::NmFromKm(km));
     return 0;
 }
 

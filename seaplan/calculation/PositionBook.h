@@ -11,6 +11,9 @@
 /// Making and timing the position book. Speeds in knots, distances in nautical miles.
 namespace Tarvik::Seaplan {
 
+/// Slowest real speed of a row in knots with which its leg's figures and the ship's place are worked out.
+inline constexpr double kLeastRowKnots = 0.0001;
+
 /// Length of the leg between two "x,y" texts in NM, great circle for `psr` "GC", else rhumb line. 0, or -1
 /// for a text whose comma is missing or at its beginning.
 int LegDistance(const std::string& a, const std::string& b, const std::string& psr, float& nm);

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include <tarvik/util/Geodesy.h>
+#include <tarvik/util/Units.h>
 
 #include "seaplan/calculation/BookLegs.h"
 #include "seaplan/calculation/LegCacheText.h"
@@ -13,8 +14,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr double kKmPerNauticalMile = 1.852;
-constexpr double kLeastSpeed = 0.0001;
 constexpr double kLeastLegTime = 0.0001;
 constexpr double kSameSpeed = 0.00001;
 constexpr int kRecomputeFailed = -7;
@@ -37,11 +36,11 @@ int SumLeg(const BookPoints& rows, const BookLeg& leg, LegSums& sums) {
             return -4;
         }
         const auto speed = static_cast<double>(rows[i].psp);
-        if (speed < kLeastSpeed) {
+        if (speed < kLeastRowKnots) {
             return -5;
         }
-        const double step = Util::CircleLineUtl::CalculateDistance(from.x, from.y, to.x, to.y, rows[i].psr) /
-                            kKmPerNauticalMile;
+        const double step =
+            Util::NmFromKm(Util::CircleLineUtl::CalculateDistance(from.x, from.y, to.x, to.y, rows[i].psr));
         sums.distance += step;
         sums.time += step / speed;
     }

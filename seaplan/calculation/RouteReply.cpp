@@ -7,6 +7,7 @@
 
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/StringUtl.h>
+#include <tarvik/util/Units.h>
 
 #include "seaplan/calculation/Pointset.h"
 
@@ -16,8 +17,6 @@ namespace {
 
 using Util::Jsona;
 using Util::StringUtl;
-
-constexpr double kKmPerNauticalMile = 1.852;
 
 /// Ids of the points that a stop's legs pass, in order.
 std::vector<std::string> ChainOf(const RouteStop& stop) {
@@ -121,7 +120,7 @@ int ParseSegments(const Jsona& segments, RouteStop& stop) {
         if (PointsetLength(segment.pointset, km) != 0) {
             return -3;
         }
-        segment.distance = static_cast<float>(static_cast<double>(km) / kKmPerNauticalMile);
+        segment.distance = static_cast<float>(Util::NmFromKm(static_cast<double>(km)));
         stop.distance =
             static_cast<float>(static_cast<double>(stop.distance) + static_cast<double>(segment.distance));
         stop.routes.push_back(std::move(segment));

@@ -15,8 +15,6 @@ using Util::kCsecsPerDay;
 constexpr double kLongestSpan = 1e8;  // hours, more than ten thousand years
 constexpr double kLeastBuildSpeed = 0.000001;
 constexpr float kDefaultSpeed = 10.0F;
-constexpr double kLeastSpeed = 0.01;
-constexpr double kMostWeather = 0.9999999;
 constexpr double kLeastTotalTime = 0.0001;
 
 /// A departure row: no leg ends there.
@@ -51,7 +49,7 @@ int RecomputeRow(const VoyPortCall* previous, VoyPortCall& row) {
     if (previous == nullptr) {
         return StartAt(row.eta, row) ? 0 : -3;
     }
-    if (static_cast<double>(row.psp) < kLeastSpeed) {
+    if (static_cast<double>(row.psp) < kLeastScheduleKnots) {
         return -2;
     }
     return SailFrom(previous->etd, row) ? 0 : -3;

@@ -8,6 +8,10 @@
 /// The arithmetic of the port call table, in knots, nautical miles and hours.
 namespace Tarvik::Seaplan {
 
+/// Slowest speed in knots, and largest weather factor, that a schedule is worked out with after an edit.
+inline constexpr double kLeastScheduleKnots = 0.01;
+inline constexpr double kMostWeather = 0.9999999;
+
 /// Hours for `distance` NM at `speed` knots and weather factor `weather`: d / ((1 - w) * s). Not finite for a
 /// factor of 1 or a speed of 0.
 double SteamTime(double distance, double speed, double weather);

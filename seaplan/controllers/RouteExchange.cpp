@@ -26,7 +26,7 @@ bool IsPosition(const std::string& point) {
 
 Outcome<RouteStep> AskRoute(const std::string& text, RouteStops& stops) {
     Util::Jsona reply;
-    if (SendText(text, NumberOf(VoyCommand::SearchRoute), reply) < 0) {
+    if (SendText(text, VoyCommand::SearchRoute, reply) < 0) {
         return RouteStep::Send;
     }
     RouteStops parsed;
@@ -44,7 +44,7 @@ Outcome<NearestStep> AskNearestRoute(const std::string& position, const std::str
         return NearestStep::Input;
     }
     Util::Jsona reply;
-    if (SendText(NearestRequestText(position, portId), NumberOf(VoyCommand::NearestRoute), reply) < 0) {
+    if (SendText(NearestRequestText(position, portId), VoyCommand::NearestRoute, reply) < 0) {
         return NearestStep::Send;
     }
     if (reply.size() < 1) {

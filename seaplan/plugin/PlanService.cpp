@@ -13,9 +13,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr double kLeastSpeed = 0.01;
-constexpr double kMostWeather = 0.9999999;
-
 PortCallRows RowsOf(const PlanRequest& request) {
     PortCallRows rows;
     for (const PlanPort& port : request.ports) {
@@ -34,7 +31,7 @@ PortCallRows RowsOf(const PlanRequest& request) {
 /// What is wrong with a port's figures, empty when nothing is. The schedule would repair a missing speed,
 /// which a person who typed it does not expect.
 std::string ComplaintOf(const PlanPort& port) {
-    if (!(static_cast<double>(port.speed) >= kLeastSpeed) || !std::isfinite(port.speed)) {
+    if (!(static_cast<double>(port.speed) >= kLeastScheduleKnots) || !std::isfinite(port.speed)) {
         return "the speed must be above 0.01 knots";
     }
     if (!(port.weather >= 0) || static_cast<double>(port.weather) > kMostWeather) {

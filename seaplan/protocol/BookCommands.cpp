@@ -19,7 +19,7 @@ namespace {
 
 using Util::StringUtl;
 
-enum Command : std::uint16_t { CmdReadBook = 7, CmdCreateBook = 8, CmdSaveRows = 9, CmdBookDate = 14 };
+using Interface::VoyCommand;
 
 constexpr int kIntervalOfOldRows = 2;
 constexpr double kNearZero = 0.0001;
@@ -61,7 +61,7 @@ int SendBlock(const std::string& id, const BookPoints& rows, int begin, int end,
         return first;
     }
     Util::Jsona reply;
-    if (SendText(text, CmdSaveRows, reply) < 0) {
+    if (SendText(text, VoyCommand::SaveBookRows, reply) < 0) {
         return first - 1;
     }
     return IsSuccess(reply) ? 0 : first - 2;
@@ -73,7 +73,7 @@ int CreateBook(const std::string& vi, const std::string& date, std::string& id) 
         return -3;
     }
     Util::Jsona reply;
-    if (SendText(CreateBookText(vi, serverTime), CmdCreateBook, reply) < 0) {
+    if (SendText(CreateBookText(vi, serverTime), VoyCommand::CreateBook, reply) < 0) {
         return -4;
     }
     if (!IsSuccess(reply)) {
@@ -140,7 +140,7 @@ int LoadPositionBook(const std::string& vi, VoyPositionBook& book) {
         return -1;
     }
     Util::Jsona reply;
-    if (SendText(VoyageIdText(vi), CmdReadBook, reply) < 0) {
+    if (SendText(VoyageIdText(vi), VoyCommand::LoadBook, reply) < 0) {
         return -2;
     }
     return reply.size() < 1 ? -3 : ReadPositionBook(reply.get(0), book);
@@ -152,7 +152,7 @@ int EnsurePositionBook(const std::string& vi, const std::string& date, std::stri
         return -1;
     }
     Util::Jsona reply;
-    if (SendText(VoyageIdText(vi), CmdReadBook, reply) < 0) {
+    if (SendText(VoyageIdText(vi), VoyCommand::LoadBook, reply) < 0) {
         return -2;
     }
     if (reply.size() > 0) {
@@ -171,7 +171,7 @@ int SetPositionBookDate(const std::string& id, const std::string& date) {
         return -2;
     }
     Util::Jsona reply;
-    if (SendText(BookDateText(id, serverTime), CmdBookDate, reply) < 0) {
+    if (SendText(BookDateText(id, serverTime), VoyCommand::SetBookDate, reply) < 0) {
         return -3;
     }
     return IsSuccess(reply) ? 0 : -4;

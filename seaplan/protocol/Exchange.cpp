@@ -19,7 +19,6 @@ namespace {
 
 namespace Bus = Interface::Bus;
 
-constexpr std::uint16_t kVoyageModule = 5;
 /// Rows stored before these moments hold local time and pass as they stand; the two texts differ by the
 /// zone's offset.
 constexpr const char* kFirstConvertedOnWriting = "2011-10-02 08:00:00";
@@ -40,7 +39,7 @@ Block Exchange(const Util::CAutoBuffer& text, std::uint16_t command) {
     }
     request->length = static_cast<std::uint32_t>(length);
     request->command = command;
-    request->moduleWord = kVoyageModule;
+    request->moduleWord = Interface::kVoyageModuleWord;
     std::memcpy(request->Payload(), text.begin(), length);
     const Interface::VoyServerRequest* input = request.get();
     return Block(Interface::Call(Bus::ServerExchange, input));

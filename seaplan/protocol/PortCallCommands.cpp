@@ -17,7 +17,7 @@ namespace {
 
 using Util::StringUtl;
 
-enum Command : std::uint16_t { CmdSaveFigures = 6, CmdLoadPortCalls = 10, CmdSavePortCalls = 11 };
+using Interface::VoyCommand;
 
 VoyPortCall ReadPortCall(const Util::Jsona& element) {
     VoyPortCall row;
@@ -74,7 +74,7 @@ int LoadPortCalls(const std::string& vi, PortCallRows& rows) {
         return -1;
     }
     Util::Jsona reply;
-    if (SendText(VoyageIdText(vi), CmdLoadPortCalls, reply) < 0) {
+    if (SendText(VoyageIdText(vi), VoyCommand::LoadPortCalls, reply) < 0) {
         return -2;
     }
     return reply.size() < 1 ? -3 : ReadPortCalls(reply, rows);
@@ -90,7 +90,7 @@ int SavePortCalls(const std::string& vi, PortCallRows& rows) {
         }
     }
     Util::Jsona reply;
-    if (SendText(PortCallsText(vi, rows), CmdSavePortCalls, reply) < 0) {
+    if (SendText(PortCallsText(vi, rows), VoyCommand::SavePortCalls, reply) < 0) {
         return -2;
     }
     return IsSuccess(reply) ? 0 : -3;
@@ -101,7 +101,7 @@ int SaveFigures(const std::string& vi, const BunkerFigures& figures) {
         return -1;
     }
     Util::Jsona reply;
-    if (SendText(FiguresText(vi, figures), CmdSaveFigures, reply) < 0) {
+    if (SendText(FiguresText(vi, figures), VoyCommand::SaveFigures, reply) < 0) {
         return -2;
     }
     return IsSuccess(reply) ? 0 : -3;

@@ -11,16 +11,6 @@
 
 namespace Tarvik::Seaplan {
 
-namespace {
-
-constexpr std::uint16_t kRemarkCommand = 9;
-constexpr std::uint16_t kRemarkModule = 2;
-/// Bits 12 and 13 of the module word, told apart from the server module in the low part; 1 on this path.
-constexpr std::uint16_t kModeMask = 0x3000;
-constexpr std::uint16_t kRemarkMode = 1 << 12;
-
-}  // namespace
-
 void SendRemark(const std::string& text, RemarkBlock& request) {
     const std::size_t length = std::strlen(text.c_str()) + 1;
     request.reset(static_cast<Interface::VoyServerRequest*>(
@@ -29,8 +19,8 @@ void SendRemark(const std::string& text, RemarkBlock& request) {
         return;
     }
     request->length = static_cast<std::uint32_t>(length);
-    request->command = kRemarkCommand;
-    request->moduleWord = static_cast<std::uint16_t>((kRemarkModule & ~kModeMask) | kRemarkMode);
+    request->command = Interface::NumberOf(Interface::VoyCommand::Remarks);
+    request->moduleWord = Interface::kRemarkModuleWord;
     std::memcpy(request->Payload(), text.c_str(), length);
 }
 

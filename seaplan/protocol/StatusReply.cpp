@@ -10,17 +10,17 @@ namespace {
 constexpr std::size_t kFirstCapacity = 256;
 }
 
-int SendText(const std::string& text, std::uint16_t command, Util::Jsona& reply) {
+int SendText(const std::string& text, Interface::VoyCommand command, Util::Jsona& reply) {
     Util::CAutoBuffer buffer(kFirstCapacity);
     Util::CBlockBuffer::format0(buffer, "%s", text.c_str());
-    return SendRequest(buffer, command, reply);
+    return SendRequest(buffer, Interface::NumberOf(command), reply);
 }
 
 bool IsSuccess(const Util::Jsona& reply) {
     return reply.getv("eid", -1) == 0;
 }
 
-int SendChange(const std::string& text, std::uint16_t command, int first, Util::Jsona& reply) {
+int SendChange(const std::string& text, Interface::VoyCommand command, int first, Util::Jsona& reply) {
     if (SendText(text, command, reply) < 0) {
         return first;
     }
@@ -30,7 +30,7 @@ int SendChange(const std::string& text, std::uint16_t command, int first, Util::
     return IsSuccess(reply) ? 0 : first - 2;
 }
 
-int SendChange(const std::string& text, std::uint16_t command, int first) {
+int SendChange(const std::string& text, Interface::VoyCommand command, int first) {
     Util::Jsona reply;
     return SendChange(text, command, first, reply);
 }

@@ -12,16 +12,10 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-enum Command : std::uint16_t {
-    CmdLoadAll = 3,
-    CmdChangeCategory = 4,
-    CmdChangeVoyage = 5,
-    CmdReadAisTimes = 12,
-    CmdAddAisTime = 13
-};
+using Interface::VoyCommand;
 
 /// Runs a creating command and takes the new record's id from member `key` of the status.
-int Create(const std::string& text, std::uint16_t command, const char* key, std::string& id) {
+int Create(const std::string& text, VoyCommand command, const char* key, std::string& id) {
     Util::Jsona reply;
     if (const int failed = SendChange(text, command, -2, reply); failed < 0) {
         return failed;
@@ -58,7 +52,7 @@ int VoyCatalogModule::LoadAll(const std::string& user) {
         return -1;
     }
     Util::Jsona reply;
-    if (SendText(LoadAllText(user), CmdLoadAll, reply) < 0) {
+    if (SendText(LoadAllText(user), VoyCommand::LoadCatalog, reply) < 0) {
         return -2;
     }
     if (reply.size() < 1) {
@@ -69,27 +63,28 @@ int VoyCatalogModule::LoadAll(const std::string& user) {
 }
 
 int VoyCatalogModule::CreateCategory(const std::string& name, std::string& ci) {
-    return name.empty() ? -1 : Create(CreateCategoryText(name), CmdChangeCategory, "ci", ci);
+    return name.empty() ? -1 : Create(CreateCategoryText(name), VoyCommand::ChangeCategory, "ci", ci);
 }
 
 int VoyCatalogModule::RenameCategory(const std::string& ci, const std::string& name) {
-    return ci.empty() || name.empty() ? -1 : SendChange(RenameCategoryText(ci, name), CmdChangeCategory);
+    return ci.empty() || name.empty() ? -1
+                                      : SendChange(RenameCategoryText(ci, name), VoyCommand::ChangeCategory);
 }
 
 int VoyCatalogModule::ChangeCategoryState(const std::string& ci, int type) {
-    return ci.empty() ? -1 : SendChange(CategoryStateText(ci, type), CmdChangeCategory);
+    return ci.empty() ? -1 : SendChange(CategoryStateText(ci, type), VoyCommand::ChangeCategory);
 }
 
 int VoyCatalogModule::CreateVoyage(const std::string& name, const std::string& ci, std::string& vi) {
-    return name.empty() ? -1 : Create(CreateVoyageText(ci, name), CmdChangeVoyage, "vi", vi);
+    return name.empty() ? -1 : Create(CreateVoyageText(ci, name), VoyCommand::ChangeVoyage, "vi", vi);
 }
 
 int VoyCatalogModule::RenameVoyage(const std::string& vi, const std::string& name) {
-    return vi.empty() || name.empty() ? -1 : SendChange(RenameVoyageText(vi, name), CmdChangeVoyage);
+    return vi.empty() || name.empty() ? -1 : SendChange(RenameVoyageText(vi, name), VoyCommand::ChangeVoyage);
 }
 
 int VoyCatalogModule::ChangeVoyageState(const std::string& vi, int type) {
-    return vi.empty() ? -1 : SendChange(VoyageStateText(vi, type), CmdChangeVoyage);
+    return vi.empty() ? -1 : SendChange(VoyageStateText(vi, type), VoyCommand::ChangeVoyage);
 }
 
 int VoyCatalogModule::ChangeVessel(const std::string& vi, const std::string& vsi, const std::string& vsn,
@@ -97,7 +92,7 @@ int VoyCatalogModule::ChangeVessel(const std::string& vi, const std::string& vsi
     if (vi.empty() || (vsi.empty() && vsn.empty())) {
         return -1;
     }
-    return SendChange(ChangeVesselText(vi, vsi, vsn, vsmsi), CmdChangeVoyage);
+    return SendChange(ChangeVesselText(vi, vsi, vsn, vsmsi), VoyCommand::ChangeVoyage);
 }
 
 int VoyCatalogModule::SetRouteDisplay(const std::string& vi, const std::string& mode) {
@@ -105,7 +100,7 @@ int VoyCatalogModule::SetRouteDisplay(const std::string& vi, const std::string& 
     if (vi.empty()) {
         return -1;
     }
-    return ReadMode(mode, on) ? SendChange(RouteDisplayText(vi, on), CmdChangeVoyage, -3) : -2;
+    return ReadMode(mode, on) ? SendChange(RouteDisplayText(vi, on), VoyCommand::ChangeVoyage, -3) : -2;
 }
 
 int VoyCatalogModule::SetAisTracing(const std::string& vi, const std::string& mode) {
@@ -113,7 +108,7 @@ int VoyCatalogModule::SetAisTracing(const std::string& vi, const std::string& mo
     if (vi.empty()) {
         return -1;
     }
-    return ReadMode(mode, on) ? SendChange(AisTracingText(vi, on), CmdChangeVoyage, -3) : -2;
+    return ReadMode(mode, on) ? SendChange(AisTracingText(vi, on), VoyCommand::ChangeVoyage, -3) : -2;
 }
 
 int VoyCatalogModule::AddAisModTime(const std::string& vi, const std::string& time) {
@@ -124,7 +119,7 @@ int VoyCatalogModule::AddAisModTime(const std::string& vi, const std::string& ti
     if (ToServerTime(time, serverTime) < 0) {
         return -2;
     }
-    return SendChange(AddAisModTimeText(vi, serverTime), CmdAddAisTime, -3);
+    return SendChange(AddAisModTimeText(vi, serverTime), VoyCommand::AddAisTime, -3);
 }
 
 int VoyCatalogModule::GetAisModTimes(const std::string& vi, std::vector<std::string>& times) {
@@ -133,7 +128,7 @@ int VoyCatalogModule::GetAisModTimes(const std::string& vi, std::vector<std::str
     }
     times.clear();
     Util::Jsona reply;
-    if (SendText(VoyageIdText(vi), CmdReadAisTimes, reply) < 0) {
+    if (SendText(VoyageIdText(vi), VoyCommand::LoadAisTimes, reply) < 0) {
         return -2;
     }
     if (reply.size() < 1) {

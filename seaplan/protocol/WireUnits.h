@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-namespace Tarvik::Seaplan {
+#include <tarvik/util/Units.h>
 
-/// Kilometres in a nautical mile, and so km/h in a knot.
-inline constexpr double kKmPerNauticalMile = 1.852;
+namespace Tarvik::Seaplan {
 
 /// Knots of a speed in km/h, rounded once to the record's 32 bits.
 inline float KnotsFromWire(double kmPerHour) {
-    return static_cast<float>(kmPerHour / kKmPerNauticalMile);
+    return static_cast<float>(Util::KnotsFromKmh(kmPerHour));
 }
 
 /// km/h of a speed in knots, unrounded: the printed text rounds.
 inline double WireFromKnots(float knots) {
-    return static_cast<double>(knots) * kKmPerNauticalMile;
+    return Util::KmhFromKnots(static_cast<double>(knots));
 }
 
 }  // namespace Tarvik::Seaplan

@@ -6,12 +6,12 @@
 
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
+#include <tarvik/util/Units.h>
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr double kKmPerNauticalMile = 1.852;
 constexpr double kMostSpeed = 92.6;  // km/h, 50 knots
 constexpr double kSpeedSlack = 1e-9;
 constexpr double kMostLatitude = 90.0;
@@ -58,7 +58,7 @@ BookRefusal CheckSpeed(const std::string& text, BookSpeedUnit unit, double& valu
         return BookRefusal::NotANumber;
     }
     const double typed = Util::StringUtl::ToDouble(text);
-    const double speed = unit == BookSpeedUnit::Knots ? typed * kKmPerNauticalMile : typed;
+    const double speed = unit == BookSpeedUnit::Knots ? Util::KmhFromKnots(typed) : typed;
     if (!(speed > 0 && speed <= kMostSpeed + kSpeedSlack)) {
         return BookRefusal::Speed;
     }

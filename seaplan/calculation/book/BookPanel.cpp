@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <tarvik/util/StringUtl.h>
+#include <tarvik/util/Units.h>
 
 #include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
@@ -14,7 +15,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr double kKmPerNauticalMile = 1.852;
 constexpr double kEastOfLine = 179.0;
 constexpr double kWestOfLine = -179.0;
 constexpr int kPortDecimals = 4;
@@ -23,11 +23,11 @@ constexpr int kWaypointDecimals = 3;
 using Util::StringUtl;
 
 double KmPerHour(float knots) {
-    return static_cast<double>(knots) * kKmPerNauticalMile;
+    return Util::KmhFromKnots(static_cast<double>(knots));
 }
 
 float Knots(double kmPerHour) {
-    return static_cast<float>(kmPerHour / kKmPerNauticalMile);
+    return static_cast<float>(Util::KnotsFromKmh(kmPerHour));
 }
 
 /// Speeds of the AIS track in order; nothing is left behind the last.

@@ -3,12 +3,12 @@
 
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/Geodesy.h>
+#include <tarvik/util/Units.h>
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr double kKmPerNauticalMile = 1.852;
 constexpr double kHoursPerDay = 24.0;
 
 using Util::CircleLineUtl;
@@ -101,10 +101,10 @@ void SailLeg(std::vector<PosBookRow>& rows, BookWalk& walk) {
 void ShowIn(const BookUnits& units, BookTotals& totals) {
     totals.averageSpeed = totals.totalDistance / totals.totalTime;
     if (units.speed == BookSpeedUnit::Knots) {
-        totals.averageSpeed /= kKmPerNauticalMile;
+        totals.averageSpeed = Util::KnotsFromKmh(totals.averageSpeed);
     }
     if (units.distance == BookDistanceUnit::NauticalMiles) {
-        totals.totalDistance /= kKmPerNauticalMile;
+        totals.totalDistance = Util::NmFromKm(totals.totalDistance);
     }
     if (units.time == BookTimeUnit::Days) {
         totals.totalTime /= kHoursPerDay;

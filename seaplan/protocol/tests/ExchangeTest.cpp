@@ -78,7 +78,7 @@ TEST(SendRequestTest, TextOfMoreThanTheFirstCapacityIsNotCut) {
     host.Reply(4, "{eid:0}");
     const std::string name(5000, 'x');
     Util::Jsona reply;
-    EXPECT_EQ(SendText(name, 4, reply), 0);
+    EXPECT_EQ(SendText(name, Interface::VoyCommand::ChangeCategory, reply), 0);
     EXPECT_EQ(host.requests[0].Text(), name);
     EXPECT_EQ(host.requests[0].Length(), 5001U);
 }
@@ -86,7 +86,7 @@ TEST(SendRequestTest, TextOfMoreThanTheFirstCapacityIsNotCut) {
 TEST(SendTextTest, PercentSignsGoInAsTheyStand) {
     RecordingHost host;
     Util::Jsona reply;
-    SendText("{cn:\"50%s\"}", 4, reply);
+    SendText("{cn:\"50%s\"}", Interface::VoyCommand::ChangeCategory, reply);
     EXPECT_EQ(host.requests[0].Text(), "{cn:\"50%s\"}");
 }
 
@@ -97,11 +97,12 @@ TEST(SendChangeTest, LadderBeginsAtTheGivenStep) {
     host.Reply(4, "{eid:7}");
     host.Reply(4, "{ci:\"1\"}");
     host.Reply(4, "{eid:0}");
-    EXPECT_EQ(SendChange("x", 4, -3), -3);
-    EXPECT_EQ(SendChange("x", 4, -3), -4);
-    EXPECT_EQ(SendChange("x", 4, -3), -5);
-    EXPECT_EQ(SendChange("x", 4, -3), -5) << "a status without eid is a failure";
-    EXPECT_EQ(SendChange("x", 4, -3), 0);
+    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), -3);
+    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), -4);
+    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), -5);
+    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), -5)
+        << "a status without eid is a failure";
+    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), 0);
 }
 
 TEST(SendTextTest, StatusOfAnotherKindThanIntegerIsNoSuccess) {

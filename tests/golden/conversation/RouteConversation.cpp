@@ -17,7 +17,7 @@ class RouteConversation : public Conversation {
     /// Asks and writes down; the result is that of the exchange.
     Util::Jsona Ask(const std::string& what, std::uint16_t command, const std::string& text) {
         Util::Jsona reply;
-        const int result = Seaplan::SendText(text, command, reply);
+        const int result = Seaplan::SendText(text, static_cast<Interface::VoyCommand>(command), reply);
         Note(what, result);
         return reply;
     }
