@@ -10,6 +10,9 @@
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 
+/// Dead reckoning on the plan: whole legs fall to either side of `now`; on the leg under way the rows are
+/// timed one by one from the departure, with the formula of the schedule, until the first one ahead of `now`,
+/// and the place on the way there is in proportion to the time. Cost: one pass over the rows.
 namespace Tarvik::Seaplan {
 
 namespace {

@@ -11,6 +11,9 @@
 
 #include "seaplan/calculation/Pointset.h"
 
+/// Reads the reply of the route engine into stops. Of a route point's variants the one holds whose range
+/// spans the fewest places of the chain of points that its stop passes. Cost: one pass over the reply; a
+/// choice costs the length of the chain for each variant.
 namespace Tarvik::Seaplan {
 
 namespace {

@@ -4,6 +4,9 @@
 #include <algorithm>
 #include <iterator>
 
+/// A line is cut by walking its points once, in order: a point whose text begins with 180 or -180 closes the
+/// piece that has something to close. The test is on text, as the points come from the server, so no
+/// rounding decides where a line ends. Cost: one pass.
 namespace Tarvik::Seaplan {
 
 namespace {
