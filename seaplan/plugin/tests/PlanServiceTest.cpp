@@ -2,6 +2,9 @@
 #include <filesystem>
 #include <limits>
 
+#include <tarvik/bus/Binding.h>
+#include <tarvik/core/TrvKernel.h>
+
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 #include "seaplan/plugin/PlanService.h"
 
@@ -48,7 +51,7 @@ class PlanServiceTest : public ScheduleFixture {
         EXPECT_TRUE(result.linePieces.empty());
     }
 
-    PlanService service{&catalog, &voyages, &store};
+    PlanService service{&catalog, &voyages, &store, &directory};
     PlanRequest request;
 };
 
@@ -324,7 +327,12 @@ TEST_F(PlanServiceTest, FailedSaveLeavesACategoryThatWasThere) {
 }
 
 TEST_F(PlanServiceTest, NullRequestHasNoAnswer) {
-    EXPECT_EQ(service.OnPlan(nullptr), nullptr);
+    const Interface::Binding offered =
+        Interface::Offer(kPlanVoyage, [this](const PlanRequest& asked) { return &service.Plan(asked); });
+    ASSERT_TRUE(offered.IsBound());
+    void* answer = &service;
+    Core::TrvKernel::Instance()->CallTrvService(kPlanVoyage.name, nullptr, answer);
+    EXPECT_EQ(answer, nullptr);
 }
 
 }  // namespace
