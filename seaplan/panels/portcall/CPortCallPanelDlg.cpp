@@ -13,7 +13,8 @@ CPortCallPanelDlg::CPortCallPanelDlg(PortCallDesk::Parts parts)
       editing_(desk_),
       corrected_(desk_),
       filling_(desk_, editing_, corrected_),
-      commands_(desk_, editing_, corrected_, filling_) {
+      commands_(desk_, editing_, corrected_, filling_),
+      rows_(desk_, editing_) {
     desk_.ResetSheet();
 }
 

@@ -8,6 +8,7 @@
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 
 namespace Tarvik::Seaplan {
@@ -41,8 +42,10 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
 
     /// What opens over the cells.
     CellEditing& Cells() { return editing_; }
-    /// The buttons, the images of a row and the keys of the table.
+    /// The buttons around the table.
     PanelCommands& Commands() { return commands_; }
+    /// The images of a row and the keys of the table.
+    RowCommands& Rows() { return rows_; }
     /// All that the window shows, and that the panel would lose.
     const PortCallSheet& Sheet() const { return desk_.Sheet(); }
 
@@ -52,6 +55,7 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     CorrectedSchedule corrected_;
     VoyageFilling filling_;
     PanelCommands commands_;
+    RowCommands rows_;
     Interface::Binding switchLanguage_;
 };
 

@@ -7,7 +7,7 @@
 
 namespace Tarvik::Seaplan {
 
-/// The buttons around the table and the images at a row's end. Each takes what is being typed first.
+/// The buttons around the table. Each takes what is being typed first.
 class PanelCommands {
   public:
     PanelCommands(PortCallDesk& desk, CellEditing& editing, CorrectedSchedule& corrected,
@@ -24,18 +24,11 @@ class PanelCommands {
     void OnHelp();
     /// Results as PortCallSheet::ChangeUnit.
     int OnUnitChosen(UnitKind kind, const std::string& unit);
-    /// A press on "itemMoveUp", "itemMovedown" or "itemdel" of a row. 0; -1 no port there; -2 no such voyage
-    /// or its position; -3 no such image; or what the move gives.
-    int OnItemImage(int row, const std::string& name);
-    /// A key in the table, on the cell in front; false when it means nothing there.
-    bool OnTableKey(KeyPress press, int row, int column);
 
   private:
     int Prepare(PortCallRows& rows) const;
     int Calculate();
     int SavePlain();
-    int Move(int row, const std::string& name);
-    int ShowMoved(int result, const PortCallRows& rows);
 
     PortCallDesk& desk_;
     CellEditing& editing_;

@@ -92,10 +92,10 @@ TEST_F(CorrectedPanelTest, AClickOnAHistoryRowDoesNothing) {
 TEST_F(CorrectedPanelTest, NoPortMovesAboveTheShip) {
     Open(kept);
     EXPECT_FALSE(view.table.ActionsOf(2).moveUp);
-    panel.Commands().OnItemImage(2, "itemMoveUp");
+    panel.Rows().OnItemImage(2, "itemMoveUp");
     EXPECT_EQ(Cell(2, ColPort), "HAMBURG");
     EXPECT_FALSE(view.state.changed);
-    panel.Commands().OnItemImage(3, "itemMoveUp");
+    panel.Rows().OnItemImage(3, "itemMoveUp");
     EXPECT_EQ(Cell(2, ColPort), "GDANSK");
     EXPECT_EQ(Cell(1, ColDistance), "100.00");
     EXPECT_EQ(Cell(2, ColDistance), " ");

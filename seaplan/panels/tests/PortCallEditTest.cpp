@@ -240,7 +240,7 @@ TEST_F(PortCallFixture, ColumnsThatAreComputedHaveNoEditor) {
 
 TEST_F(PortCallFixture, MovingARowBlanksTheFiguresOfAllRows) {
     Open(kept);
-    EXPECT_EQ(panel.Commands().OnItemImage(2, "itemMoveUp"), 0);
+    EXPECT_EQ(panel.Rows().OnItemImage(2, "itemMoveUp"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "GDANSK", "HAMBURG", " ", " ", " "));
     for (const int column : {ColSteamTime, ColEta, ColEtd, ColDistance}) {
         for (int row = 0; row < 3; ++row) {
@@ -250,27 +250,27 @@ TEST_F(PortCallFixture, MovingARowBlanksTheFiguresOfAllRows) {
     EXPECT_EQ(Cell(2, ColPortTime), "0.50");
     EXPECT_EQ(view.selectedRow, 1);
     EXPECT_TRUE(view.state.changed);
-    EXPECT_EQ(panel.Commands().OnItemImage(0, "itemMovedown"), 0);
+    EXPECT_EQ(panel.Rows().OnItemImage(0, "itemMovedown"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("GDANSK", "ROTTERDAM", "HAMBURG", " ", " ", " "));
     EXPECT_EQ(view.selectedRow, 1);
 }
 
 TEST_F(PortCallFixture, TheFirstRowDoesNotMoveUpNorTheLastDown) {
     Open(kept);
-    EXPECT_LT(panel.Commands().OnItemImage(0, "itemMoveUp"), 0);
-    EXPECT_LT(panel.Commands().OnItemImage(2, "itemMovedown"), 0);
-    EXPECT_LT(panel.Commands().OnItemImage(4, "itemdel"), 0);
-    EXPECT_LT(panel.Commands().OnItemImage(1, "itemElse"), 0);
+    EXPECT_LT(panel.Rows().OnItemImage(0, "itemMoveUp"), 0);
+    EXPECT_LT(panel.Rows().OnItemImage(2, "itemMovedown"), 0);
+    EXPECT_LT(panel.Rows().OnItemImage(4, "itemdel"), 0);
+    EXPECT_LT(panel.Rows().OnItemImage(1, "itemElse"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));
     EXPECT_FALSE(view.state.changed);
 }
 
 TEST_F(PortCallFixture, DeletingARowKeepsTheOthers) {
     Open(kept);
-    EXPECT_EQ(panel.Commands().OnItemImage(1, "itemdel"), 0);
+    EXPECT_EQ(panel.Rows().OnItemImage(1, "itemdel"), 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "GDANSK", " ", " ", " ", " "));
     EXPECT_TRUE(view.state.canCalculate);
-    EXPECT_EQ(panel.Commands().OnItemImage(1, "itemdel"), 0);
+    EXPECT_EQ(panel.Rows().OnItemImage(1, "itemdel"), 0);
     EXPECT_FALSE(view.state.canCalculate);
 }
 
@@ -278,7 +278,7 @@ TEST_F(PortCallFixture, ARowBelowABlankRowCountsByItsPlaceInTheTable) {
     Open(fresh);
     Type(0, ColPort, "ROTTERDAM");
     Type(2, ColPort, "HAMBURG");
-    EXPECT_LT(panel.Commands().OnItemImage(2, "itemdel"), 0);
+    EXPECT_LT(panel.Rows().OnItemImage(2, "itemdel"), 0);
     EXPECT_EQ(Cell(2, ColPort), "HAMBURG");
 }
 

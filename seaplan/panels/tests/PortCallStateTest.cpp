@@ -56,7 +56,7 @@ TEST_F(PortCallFixture, TheFirstEtaStandsInBothCellsAlsoWhenTheScheduleFails) {
 
 TEST_F(PortCallFixture, SavingAMovedRowCalculatesFirst) {
     Open(kept);
-    ASSERT_EQ(panel.Commands().OnItemImage(2, "itemMoveUp"), 0);
+    ASSERT_EQ(panel.Rows().OnItemImage(2, "itemMoveUp"), 0);
     panel.Commands().OnSave();
     EXPECT_EQ(Calculations(), 1) << "the voyage has a book, but the rows have no distances";
     EXPECT_EQ(Saves(), 2) << "once as the calculation ends, and once with the drawing";

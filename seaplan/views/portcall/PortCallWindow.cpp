@@ -38,11 +38,12 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
     panel_ = panel;
     CellEditing& cells = panel->Cells();
     PanelCommands& commands = panel->Commands();
+    RowCommands& rows = panel->Rows();
     editors_->Attach(&cells);
     table_->SetReports(
         {[&cells](int row, int column) { cells.OnCellClicked(row, column); },
-         [&commands](int row, const std::string& name) { commands.OnItemImage(row, name); },
-         [&commands](KeyPress press, int row, int column) { return commands.OnTableKey(press, row, column); },
+         [&rows](int row, const std::string& name) { rows.OnItemImage(row, name); },
+         [&rows](KeyPress press, int row, int column) { return rows.OnTableKey(press, row, column); },
          [&cells] { cells.CommitEditors(); }});
     summary_->SetReports(
         {[&cells] { cells.CommitEditors(); },

@@ -81,7 +81,7 @@ void playPortCalls(VoyageViews& views, const std::string& scene) {
         panel.Cells().OnCellClicked(1, ColEtd);
     }
     if (scene == "voyage") {
-        panel.Commands().OnItemImage(3, "itemMoveUp");
+        panel.Rows().OnItemImage(3, "itemMoveUp");
     }
 }
 

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/RowCommands.h"
+
+namespace Tarvik::Seaplan {
+
+int RowCommands::ShowMoved(int result, const PortCallRows& rows) {
+    if (result == 0) {
+        desk_.Sheet().table.WritePartial(rows, desk_.IsCorrected());
+        desk_.Sheet().MarkChanged(desk_.Ports());
+        desk_.Show();
+    }
+    return result;
+}
+
+int RowCommands::Move(int row, const std::string& name) {
+    const PortCallTable& table = desk_.Sheet().table;
+    const PortCallRows rows = table.ReadAllRows();
+    PortCallRows moved;
+    if (name == "itemdel") {
+        return ShowMoved(desk_.Schedule().DeleteRow(rows, row, moved), moved);
+    }
+    if (name != "itemMoveUp" && name != "itemMovedown") {
+        return -3;
+    }
+    const bool up = name == "itemMoveUp";
+    const int result = ShowMoved(
+        up ? desk_.Schedule().MoveRowUp(rows, row, moved) : desk_.Schedule().MoveRowDown(rows, row, moved),
+        moved);
+    const int target = up ? row - 1 : row + 1;
+    if (result == 0 && (up || !table.IsBlank(target))) {
+        desk_.View().SelectRow(target);
+    }
+    return result;
+}
+
+int RowCommands::OnItemImage(int row, const std::string& name) {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    const PortCallTable& table = desk_.Sheet().table;
+    if (!table.IsNumbered(row) || table.IsBlank(row)) {
+        return -1;
+    }
+    int corrected = 0;
+    if (desk_.Schedule().GetModAis(desk_.Sheet().voyageId, corrected) != 0) {
+        return -2;
+    }
+    const int ship = table.FindLastAisRow();
+    if (corrected > 0 && ship < 0) {
+        return -2;
+    }
+    // No port moves above the ship's position.
+    if (name == "itemMoveUp" && corrected > 0 && row - 1 == ship) {
+        return 0;
+    }
+    const int result = Move(row, name);
+    editing_.CommitEditors();
+    return result;
+}
+
+bool RowCommands::OnTableKey(KeyPress press, int row, int column) {
+    switch (press.key) {
+        case Key::Enter:
+        case Key::F2:
+            editing_.OnCellClicked(row, column);
+            return true;
+        case Key::Delete:
+            OnItemImage(row, "itemdel");
+            return true;
+        case Key::Up:
+        case Key::Down:
+            if (press.alt) {
+                OnItemImage(row, press.key == Key::Up ? "itemMoveUp" : "itemMovedown");
+            }
+            return press.alt;
+        case Key::Escape:
+            // Closes what is open over the cells.
+            editing_.CommitEditors();
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace Tarvik::Seaplan
