@@ -11,11 +11,11 @@
 
 namespace Tarvik::Server {
 
-/// How many failed logins are borne.
+/// How many failed logins are borne; Settings.h has the usual numbers.
 struct LoginLimits {
-    int perUser = 10;                  ///< of one user name from all addresses; 0 for no limit
-    int perAddress = 30;               ///< from one address; 0 for no limit
-    std::int64_t windowSeconds = 900;  ///< a count starts with its first failure and is forgotten after this
+    int perUser = 0;                 ///< of one user name from all addresses; 0 for no limit
+    int perAddress = 0;              ///< from one address; 0 for no limit
+    std::int64_t windowSeconds = 0;  ///< a count starts with its first failure and is forgotten after this
 };
 
 /// Counts failed logins by user and by address. Addresses of IPv6 count by their first 64 bits, which are one

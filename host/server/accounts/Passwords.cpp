@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/accounts/Passwords.h"
-
 #include <array>
 
 #include <sodium.h>
+
+#include "host/server/accounts/Credentials.h"
 
 namespace Tarvik::Server {
 

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "host/server/accounts/Tokens.h"
+#include "host/server/accounts/Credentials.h"
 
 namespace Tarvik::Server {
 

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "host/server/accounts/AccountStorage.h"
+#include "host/server/accounts/Credentials.h"
 #include "host/server/accounts/LoginGuard.h"
-#include "host/server/accounts/Passwords.h"
 #include "host/server/accounts/SessionMemory.h"
 #include "host/server/storage/contract/ServerTime.h"
 

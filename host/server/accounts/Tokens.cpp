@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/accounts/Tokens.h"
-
 #include <algorithm>
 #include <array>
 
 #include <sodium.h>
+
+#include "host/server/accounts/Credentials.h"
 
 namespace Tarvik::Server {
 

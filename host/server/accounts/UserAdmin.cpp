@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "host/server/accounts/UserRules.h"
+#include "host/server/accounts/Credentials.h"
 
 namespace Tarvik::Server {
 

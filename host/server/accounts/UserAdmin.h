@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "host/server/accounts/AccountStorage.h"
-#include "host/server/accounts/Passwords.h"
+#include "host/server/accounts/Credentials.h"
 
 namespace Tarvik::Server {
 

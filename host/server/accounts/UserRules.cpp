@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/accounts/UserRules.h"
-
 #include <algorithm>
+
+#include "host/server/accounts/Credentials.h"
 
 namespace Tarvik::Server {
 

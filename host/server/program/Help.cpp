@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/program/Help.h"
-
 #include <fmt/format.h>
 
-#include "host/server/net/settings/SettingsTable.h"
+#include "host/server/net/settings/Settings.h"
+#include "host/server/program/Program.h"
 
 namespace Tarvik::Server {
 

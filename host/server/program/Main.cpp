@@ -2,7 +2,6 @@
 #include <exception>
 #include <iostream>
 
-#include "host/server/program/PasswordPrompt.h"
 #include "host/server/program/Program.h"
 
 int main(int count, char** words) {

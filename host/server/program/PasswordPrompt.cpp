@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/program/PasswordPrompt.h"
-
 #include <iostream>
 #include <termios.h>
 #include <unistd.h>
+
+#include "host/server/program/Program.h"
 
 namespace Tarvik::Server {
 

@@ -6,8 +6,6 @@
 
 #include "host/server/net/routes/OpenRoutes.h"
 #include "host/server/net/service/VoyageServer.h"
-#include "host/server/program/Help.h"
-#include "host/server/program/TransferRun.h"
 
 namespace Tarvik::Server {
 

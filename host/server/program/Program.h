@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <istream>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "host/server/accounts/UserAdmin.h"
+#include "host/server/net/settings/Settings.h"
 #include "host/server/net/settings/SettingsReader.h"
+#include "host/server/transfer/TransferCommand.h"
 
 namespace Tarvik::Server {
 
@@ -21,5 +24,23 @@ struct ProgramParts {
 /// Runs the program's words, without its name. Gives its exit code: 0 success, 1 failure, 2 a wrong word or
 /// setting; every code but 0 comes with one line on the error stream.
 int RunProgram(const std::vector<std::string>& words, const ProgramParts& parts);
+
+/// What `seaplan-server --help` says: commands, exit codes, every setting with its default.
+std::string HelpText();
+
+/// What `seaplan-server --version` says.
+std::string VersionText();
+
+/// Reads a password from the stream: its first line without the line end. False when there is none.
+bool ReadPasswordLine(std::istream& in, std::string& password);
+
+/// Reads a password from standard input. At a terminal it asks for it twice and shows nothing of it; false
+/// when the two differ.
+bool AskPassword(std::string& password);
+
+/// Runs an export or import on the data bases of the settings, or of the folder that the command names. A
+/// folder with voyages but without accounts is a client's: its users need no accounts, and its own user is
+/// meant when none is named. False with an English line in `said`, else what was done.
+bool RunTransfer(const TransferCommand& command, Settings settings, std::string& said);
 
 }  // namespace Tarvik::Server

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/program/TransferRun.h"
-
 #include <filesystem>
 #include <memory>
 
-#include "host/server/accounts/UserRules.h"
+#include "host/server/accounts/Credentials.h"
 #include "host/server/net/service/Databases.h"
+#include "host/server/program/Program.h"
 #include "host/server/storage/contract/ServerTime.h"
 
 namespace Tarvik::Server {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/transfer/Checksum.h"
-
 #include <array>
 
 #include <sodium.h>
+
+#include "host/server/transfer/TransferFile.h"
 
 namespace Tarvik::Server {
 

@@ -7,7 +7,7 @@
 #include <tuple>
 #include <unordered_set>
 
-#include "host/server/storage/contract/CopyIds.h"
+#include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/transfer/TransferFile.h"
 
 namespace Tarvik::Server {

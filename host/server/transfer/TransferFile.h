@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/server/storage/contract/TransferStorage.h"
@@ -59,5 +61,22 @@ struct TransferContent {
 
 /// "2 users, 5 categories, 40 voyages, 3 remarks"
 std::string Summary(const TransferContent& content);
+
+/// SHA-256 over bytes that come piece by piece.
+class Checksum {
+  public:
+    Checksum();
+    ~Checksum();
+    Checksum(const Checksum&) = delete;
+    Checksum& operator=(const Checksum&) = delete;
+
+    void Add(std::string_view bytes);
+    /// 64 hexadecimal digits, of what was added so far; nothing can be added afterwards.
+    std::string Finish();
+
+  private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
 
 }  // namespace Tarvik::Server

@@ -8,7 +8,6 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "host/server/transfer/Checksum.h"
 #include "host/server/transfer/CopyCheck.h"
 #include "host/server/transfer/TransferFile.h"
 

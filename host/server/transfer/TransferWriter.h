@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "host/server/transfer/Checksum.h"
 #include "host/server/transfer/TransferFile.h"
 
 namespace Tarvik::Server {

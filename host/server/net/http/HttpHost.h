@@ -1,15 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <set>
 #include <utility>
 
-#include "host/server/net/http/HttpLimits.h"
-#include "host/server/net/http/HttpPool.h"
+#include <boost/asio/thread_pool.hpp>
+
 #include "host/server/net/http/HttpService.h"
 
 namespace Tarvik::Server {
+
+/// Threads that answer requests, and how many requests are with them or wait for them. The count belongs to
+/// the thread that reads and writes.
+struct HttpPool {
+    explicit HttpPool(std::size_t count) : threads(count) {}
+
+    std::size_t pending = 0;
+    boost::asio::thread_pool threads;
+};
 
 /// A connection as the server knows it.
 class OpenConnection {

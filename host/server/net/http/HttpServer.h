@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 
-#include "host/server/net/http/HttpLimits.h"
 #include "host/server/net/http/HttpService.h"
 
 namespace Tarvik::Server {

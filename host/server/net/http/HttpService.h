@@ -1,12 +1,42 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
-
-#include "host/server/net/http/HttpMessage.h"
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace Tarvik::Server {
+
+/// What the HTTP server grants its clients.
+struct HttpLimits {
+    std::size_t connections = 1000;
+    std::size_t workers = 2;                   ///< threads for exchanges
+    std::size_t queue = 1000;                  ///< requests that may wait for or be in each pool
+    std::chrono::milliseconds idle{60000};     ///< a connection may be silent for between two requests
+    std::chrono::milliseconds request{30000};  ///< for reading a request, and for writing a reply
+    std::chrono::milliseconds stop{20000};     ///< for what was begun when the server is told to stop
+};
+
+/// One request as the service sees it.
+struct HttpRequest {
+    std::string method;
+    std::string target;         ///< path, and a query if there is one
+    std::string authorization;  ///< the field as it stands, empty when there is none
+    std::string body;
+    std::string address;  ///< of the peer, without its port
+};
+
+/// One reply. The server adds length, connection and server fields.
+struct HttpReply {
+    int status = 200;
+    std::string contentType;
+    std::string body;
+    std::vector<std::pair<std::string, std::string>> fields;  ///< further fields by name
+};
 
 /// Where a request is answered: at once on the thread that reads and writes, or in one of the two pools.
 enum class Lane { Inline, Work, Login };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/routes/NoRoutes.h"
-
 #include "host/server/api/Replies.h"
+#include "host/server/net/routes/OpenRoutes.h"
 
 namespace Tarvik::Server {
 

@@ -4,7 +4,6 @@
 #include <filesystem>
 
 #include "host/server/graph/adapter/GraphRouteSource.h"
-#include "host/server/net/routes/NoRoutes.h"
 
 namespace fs = std::filesystem;
 

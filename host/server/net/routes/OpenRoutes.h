@@ -8,6 +8,13 @@
 
 namespace Tarvik::Server {
 
+/// Refuses every request for a route, for a server without a sea network.
+class NoRoutes : public RouteSource {
+  public:
+    std::string Plan(std::string_view requestJson) override;
+    std::string Nearest(std::string_view requestJson) override;
+};
+
 /// The network file that was installed with `program` ("…/bin/seaplan-server":
 /// "…/share/seaplan/network.bin"); empty when there is none.
 std::string NetworkBeside(const std::string& program);

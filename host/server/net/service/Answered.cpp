@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/service/Answered.h"
-
 #include <nlohmann/json.hpp>
+
+#include "host/server/net/service/Endpoints.h"
 
 namespace Tarvik::Server {
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/service/ExchangeEndpoint.h"
-
-#include "host/server/accounts/Tokens.h"
+#include "host/server/accounts/Credentials.h"
+#include "host/server/net/service/Endpoints.h"
 #include "host/server/wire/Envelope.h"
 
 namespace Tarvik::Server {

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/service/LoginEndpoint.h"
-
 #include <nlohmann/json.hpp>
 
-#include "host/server/accounts/Tokens.h"
-#include "host/server/accounts/UserRules.h"
+#include "host/server/accounts/Credentials.h"
+#include "host/server/net/service/Endpoints.h"
 #include "host/server/storage/contract/ServerTime.h"
 
 namespace Tarvik::Server {

@@ -7,7 +7,7 @@
 
 #include <fmt/format.h>
 
-#include "host/server/accounts/Tokens.h"
+#include "host/server/accounts/Credentials.h"
 
 namespace Tarvik::Server {
 

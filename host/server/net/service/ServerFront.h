@@ -7,13 +7,13 @@
 #include "host/server/net/http/HttpService.h"
 #include "host/server/net/log/ServerLog.h"
 #include "host/server/net/metrics/Metrics.h"
-#include "host/server/net/service/ExchangeEndpoint.h"
-#include "host/server/net/service/LoginEndpoint.h"
+#include "host/server/net/service/Endpoints.h"
 
 namespace Tarvik::Server {
 
+/// What Settings.h says of requests.
 struct FrontOptions {
-    std::uint64_t maxBodyBytes = 2U * 1024 * 1024;
+    std::uint64_t maxBodyBytes = 0;
     bool logRequests = true;
 };
 

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace Tarvik::Server {
 
@@ -29,5 +32,18 @@ struct Settings {
     int stopSeconds = 20;
     bool logRequests = true;
 };
+
+/// One key of the settings.
+struct SettingsEntry {
+    std::string_view key;
+    std::string_view meaning;
+    /// Sets the value; gives what it must be when the text is none, else an empty text.
+    std::function<std::string(Settings&, std::string_view)> set;
+    std::function<std::string(const Settings&)> print;
+    bool secret = false;  ///< whether the value must not be shown
+};
+
+/// All keys in the order of the documentation.
+const std::vector<SettingsEntry>& SettingsTable();
 
 }  // namespace Tarvik::Server

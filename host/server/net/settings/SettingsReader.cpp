@@ -10,7 +10,7 @@
 
 #include <fmt/format.h>
 
-#include "host/server/net/settings/SettingsTable.h"
+#include "host/server/net/settings/Settings.h"
 
 namespace Tarvik::Server {
 

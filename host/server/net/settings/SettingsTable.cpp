@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/settings/SettingsTable.h"
-
 #include <arpa/inet.h>
 
 #include "host/server/api/Numbers.h"
+#include "host/server/net/settings/Settings.h"
 #include "host/server/storage/postgres/ConnectionText.h"
 
 namespace Tarvik::Server {

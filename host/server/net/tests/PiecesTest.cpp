@@ -5,8 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/server/accounts/Passwords.h"
-#include "host/server/accounts/Tokens.h"
+#include "host/server/accounts/Credentials.h"
 #include "host/server/net/log/ServerLog.h"
 #include "host/server/net/metrics/Metrics.h"
 #include "host/server/net/routes/OpenRoutes.h"

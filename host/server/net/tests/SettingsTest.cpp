@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "host/server/net/settings/Settings.h"
 #include "host/server/net/settings/SettingsReader.h"
-#include "host/server/net/settings/SettingsTable.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 
 namespace Tarvik::Server {

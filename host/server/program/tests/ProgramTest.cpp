@@ -6,8 +6,7 @@
 
 #include "host/server/accounts/SqlAccounts.h"
 #include "host/server/net/service/VoyageServer.h"
-#include "host/server/net/settings/SettingsTable.h"
-#include "host/server/program/PasswordPrompt.h"
+#include "host/server/net/settings/Settings.h"
 #include "host/server/program/Program.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/contract/CopyIds.h"
-
 #include <algorithm>
+
+#include "host/server/storage/contract/TransferStorage.h"
 
 namespace Tarvik::Server {
 

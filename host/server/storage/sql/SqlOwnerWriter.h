@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "host/server/storage/contract/CopyIds.h"
 #include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/storage/sql/SqlConnection.h"
 

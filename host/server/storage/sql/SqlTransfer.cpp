@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <utility>
 
-#include "host/server/storage/contract/CopyIds.h"
+#include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/storage/sql/SqlOwnerWriter.h"
 #include "host/server/storage/sql/SqlRecords.h"
 #include "host/server/storage/sql/SqlStorage.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include "host/server/transfer/Checksum.h"
+#include "host/server/transfer/TransferFile.h"
 #include "host/server/transfer/tests/SampleOwner.h"
 #include "host/server/transfer/tests/TransferFixture.h"
 

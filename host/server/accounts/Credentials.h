@@ -7,6 +7,12 @@
 
 namespace Tarvik::Server {
 
+inline constexpr std::size_t kLeastPasswordBytes = 8;
+inline constexpr std::size_t kMostPasswordBytes = 1024;
+
+/// Whether a text can be a user's name: 1 to 64 letters, digits, ".", "_", "@" or "-" of ASCII.
+bool IsUserName(const std::string& text);
+
 /// What one password hash costs.
 struct PasswordCost {
     std::uint64_t passes = 2;
@@ -32,5 +38,17 @@ class Passwords {
     PasswordCost cost_;
     std::string decoy_;
 };
+
+/// Length of a token in characters.
+inline constexpr std::size_t kTokenLength = 43;
+
+/// A new token: 32 random bytes in base64url without padding. Empty when the system gives no random bytes.
+std::string MakeToken();
+
+/// What is kept of a token: its SHA-256 in hexadecimal.
+std::string HashToken(const std::string& token);
+
+/// The token of a field "Bearer …"; empty when the field is of another form.
+std::string TokenOf(const std::string& authorization);
 
 }  // namespace Tarvik::Server
