@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/plugin/CompositionRoot.h"
 
+#include <tarvik/bus/VoyageContract.h>
+
 namespace Tarvik::Seaplan {
 
 CompositionRoot::CompositionRoot(VoyageStore* store)
@@ -19,8 +21,9 @@ CompositionRoot& CompositionRoot::Instance() {
 
 void CompositionRoot::OfferServices() {
     if (!planVoyage_.IsBound()) {
-        planVoyage_ = Interface::Offer(
-            kPlanVoyage, [this](const PlanRequest& request) { return &planService_.Plan(request); });
+        planVoyage_ = Interface::Offer(Interface::Bus::PlanVoyage, [this](const PlanRequest& request) {
+            return &planService_.Plan(request);
+        });
     }
 }
 

@@ -5,9 +5,11 @@
 
 #include "seaplan/calculation/PortPreparation.h"
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/tree/NameRules.h"
+#include "seaplan/plugin/PlanAnswer.h"
 
 namespace Tarvik::Seaplan {
 
@@ -56,14 +58,6 @@ std::string WordsOfCalculation(int code) {
     }
 }
 
-PointTexts PositionsOf(const BookPoints& book) {
-    PointTexts positions;
-    for (const PosBookPoint& point : book) {
-        positions.push_back(point.position);
-    }
-    return positions;
-}
-
 }  // namespace
 
 const PlanResult& PlanService::Plan(const PlanRequest& request) {
@@ -95,7 +89,8 @@ int PlanService::Run(const PlanRequest& request) {
     if (Connect() < 0 || Prepare(request, rows) < 0 || CheckNames(request) < 0) {
         return result_.code;
     }
-    if (Calculate(rows) < 0 || FillResult() < 0) {
+    if (Calculate(rows) < 0 ||
+        FillResult({request.units.speed, request.units.distance, request.units.time}) < 0) {
         return result_.code;
     }
     return request.save ? Save(request) : 0;
@@ -104,15 +99,16 @@ int PlanService::Run(const PlanRequest& request) {
 int PlanService::Connect() {
     std::string user;
     if (catalog_->Connect(user) < 0) {
-        return Fail(PlanNotConnected, "not connected to the voyage server");
+        return Fail(Interface::PlanNotConnected, "not connected to the voyage server");
     }
-    return catalog_->Load(user) < 0 ? Fail(PlanNotLoaded, "the user's voyages could not be loaded") : 0;
+    return catalog_->Load(user) < 0 ? Fail(Interface::PlanNotLoaded, "the user's voyages could not be loaded")
+                                    : 0;
 }
 
 int PlanService::Prepare(const PlanRequest& request, PortCallRows& rows) {
     for (const PlanPort& port : request.ports) {
         if (const std::string complaint = ComplaintOf(port); !complaint.empty()) {
-            return Fail(PlanNotCalculated, complaint);
+            return Fail(Interface::PlanNotCalculated, complaint);
         }
     }
     PortCallRows typed = RowsOf(request);
@@ -120,11 +116,11 @@ int PlanService::Prepare(const PlanRequest& request, PortCallRows& rows) {
     voyages_->ResolvePortIds(typed);
     for (const VoyPortCall& row : typed) {
         if (row.ppi.empty()) {
-            return Fail(PlanUnknownPort, "unknown port: " + row.ppn);
+            return Fail(Interface::PlanUnknownPort, "unknown port: " + row.ppn);
         }
     }
     return DropSamePortRows(typed, ports_->SamePorts(), rows) < 0
-               ? Fail(PlanTooFewPorts, "fewer than two different ports")
+               ? Fail(Interface::PlanTooFewPorts, "fewer than two different ports")
                : 0;
 }
 
@@ -134,18 +130,18 @@ int PlanService::CheckNames(const PlanRequest& request) {
     }
     const std::string voyage = NormalizeName(request.voyage);
     if (NormalizeName(request.category).empty() || voyage.empty()) {
-        return Fail(PlanNameMissing, "a saved voyage needs a name and a category");
+        return Fail(Interface::PlanNameMissing, "a saved voyage needs a name and a category");
     }
     std::map<std::string, int> categories;
     std::map<std::string, int> voyages;
     catalog_->GetNameMaps(categories, voyages);
-    return voyages.count(voyage) > 0 ? Fail(PlanNameTaken, "a voyage of this name exists") : 0;
+    return voyages.count(voyage) > 0 ? Fail(Interface::PlanNameTaken, "a voyage of this name exists") : 0;
 }
 
 int PlanService::Calculate(const PortCallRows& rows) {
-    PortCallRows& scheduled = result_.rows;
+    PortCallRows& scheduled = rows_;
     if (const int code = voyages_->CalculatePortCalls(rows, scheduled); code < 0) {
-        return Fail(PlanNotCalculated, WordsOfCalculation(code));
+        return Fail(Interface::PlanNotCalculated, WordsOfCalculation(code));
     }
     // A schedule pass makes the first port one of loading and drops the ids; a person may change the purpose
     // afterwards, and the answer tells both.
@@ -154,21 +150,20 @@ int PlanService::Calculate(const PortCallRows& rows) {
     return 0;
 }
 
-int PlanService::FillResult() {
-    const PortCallRows& rows = result_.rows;
-    BookPoints& book = result_.book;
+int PlanService::FillResult(const UnitSet& units) {
+    BookPoints book;
     if (voyages_->Module().BookFromCurrentStops(book) < 0) {
-        return Fail(PlanNotCalculated, "the route makes no position book");
+        return Fail(Interface::PlanNotCalculated, "the route makes no position book");
     }
-    RescaleBookSpeeds(rows, book);
-    if (ComputeBookTimes(rows.front().eta, rows, book) < 0) {
-        return Fail(PlanNotCalculated, "the position book has no times");
+    RescaleBookSpeeds(rows_, book);
+    if (ComputeBookTimes(rows_.front().eta, rows_, book) < 0) {
+        return Fail(Interface::PlanNotCalculated, "the position book has no times");
     }
-    if (SplitAtDateLine(PositionsOf(book), result_.linePieces) < 0) {
-        return Fail(PlanNotCalculated, "the route has no line");
+    if (!TellRoute(book, result_)) {
+        return Fail(Interface::PlanNotCalculated, "the route has no line");
     }
-    TotalsOf(rows, result_.totals);
-    SummaryOf(rows, result_.summary);
+    TellSchedule(rows_, result_);
+    TellTable(rows_, units, result_);
     return 0;
 }
 
@@ -178,37 +173,37 @@ int PlanService::FindCategory(const std::string& name, bool& made) {
     for (const auto& [ci, category] : store_->categories) {
         const auto state = store_->categoryStates.find(ci);
         if (category.cn == name && state != store_->categoryStates.end() && state->second == InUse) {
-            result_.ci = ci;
+            result_.categoryId = ci;
             return 0;
         }
     }
     made = true;
-    return catalog_->AddCategory(name, result_.ci);
+    return catalog_->AddCategory(name, result_.categoryId);
 }
 
 int PlanService::Save(const PlanRequest& request) {
     bool newCategory = false;
     if (FindCategory(NormalizeName(request.category), newCategory) < 0) {
-        return Fail(PlanNoCategory, "the category could not be made");
+        return Fail(Interface::PlanNoCategory, "the category could not be made");
     }
-    if (catalog_->AddVoyage(NormalizeName(request.voyage), result_.ci, result_.vi) < 0) {
+    if (catalog_->AddVoyage(NormalizeName(request.voyage), result_.categoryId, result_.voyageId) < 0) {
         TakeBack(newCategory);
-        return Fail(PlanNoVoyage, "the voyage could not be made");
+        return Fail(Interface::PlanNoVoyage, "the voyage could not be made");
     }
-    if (voyages_->SaveSchedule(result_.vi, result_.rows, -1) < 0) {
+    if (voyages_->SaveSchedule(result_.voyageId, rows_, -1) < 0) {
         TakeBack(newCategory);
-        return Fail(PlanNotSaved, "the schedule could not be saved");
+        return Fail(Interface::PlanNotSaved, "the schedule could not be saved");
     }
     return 0;
 }
 
 /// Leaves nothing half saved behind. A server that is gone cannot be told.
 void PlanService::TakeBack(bool newCategory) {
-    if (!result_.vi.empty()) {
-        catalog_->DestroyVoyage(result_.ci, result_.vi);
+    if (!result_.voyageId.empty()) {
+        catalog_->DestroyVoyage(result_.categoryId, result_.voyageId);
     }
     if (newCategory) {
-        catalog_->DestroyCategory(result_.ci);
+        catalog_->DestroyCategory(result_.categoryId);
     }
 }
 

@@ -3,8 +3,8 @@
 #include <array>
 
 #include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
 
-#include "seaplan/plugin/PlanService.h"
 #include "tests/integration/FreshPlugin.h"
 
 namespace Tarvik::Integration {
@@ -76,9 +76,9 @@ TEST(ExportCallsTest, LoadWithoutAWindowSystemAcceptsAndMakesNoPanel) {
 
 TEST(ExportCallsTest, LoadAcceptsThoughTheMainViewBreaksDown) {
     EXPECT_TRUE(HoldsForFreshPlugin(SEAPLAN_FAILING_LIBRARY, [](const LoadedPlugin& plugin) {
-        const Seaplan::PlanRequest request;
+        const Interface::PlanRequest request;
         return plugin.load() && !anyBound(kPanelNames) &&
-               Interface::Call(Seaplan::kPlanVoyage, &request) != nullptr;
+               Interface::Call(Interface::Bus::PlanVoyage, &request) != nullptr;
     }));
 }
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/PlanService.h"
+#include <tarvik/interface/BusContract.h>
+
 #include "tests/integration/TinyHost.h"
 
 namespace Tarvik::Integration {
 
 namespace {
 
-using Seaplan::PlanRequest;
-using Seaplan::PlanResult;
+using Interface::PlanRequest;
+using Interface::PlanResult;
 using Texts = std::vector<std::string>;
 
 constexpr const char* kRoute =
@@ -38,7 +39,7 @@ class PlanOverTheBusTest : public TinyHost {
     }
     const PlanResult* plan() {
         const PlanRequest* input = &request;
-        return Interface::Call(Seaplan::kPlanVoyage, input);
+        return Interface::Call(Interface::Bus::PlanVoyage, input);
     }
     PlanRequest request;
 };
@@ -82,13 +83,13 @@ TEST_F(PlanOverTheBusTest, FailureComesBackAsCodeAndWords) {
     host.Reply(3, "[]");
     const PlanResult* result = plan();
     ASSERT_NE(result, nullptr);
-    EXPECT_EQ(result->code, Seaplan::PlanUnknownPort);
+    EXPECT_EQ(result->code, Interface::PlanUnknownPort);
     EXPECT_EQ(result->step, "unknown port: Atlantis");
 }
 
 TEST_F(PlanOverTheBusTest, HostThatIsNotConnectedIsAskedToLogIn) {
     host.connected = false;
-    EXPECT_EQ(plan()->code, Seaplan::PlanNotConnected);
+    EXPECT_EQ(plan()->code, Interface::PlanNotConnected);
     EXPECT_EQ(host.logins, 1);
     EXPECT_TRUE(host.requests.empty());
 }

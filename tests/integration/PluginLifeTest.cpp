@@ -2,8 +2,8 @@
 #include <cstdlib>
 
 #include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/BusContract.h>
 
-#include "seaplan/plugin/PlanService.h"
 #include "tests/integration/TinyHost.h"
 
 namespace Tarvik::Integration {
@@ -49,8 +49,8 @@ TEST_F(PluginLifeTest, LoadingAgainAfterUnloadingBindsNothingTwice) {
     plugin.load();
     Core::TrvKernel::Instance()->SetObserver({});
     EXPECT_EQ(noticed, std::vector<std::string>());
-    const Seaplan::PlanRequest request;
-    EXPECT_NE(Interface::Call(Seaplan::kPlanVoyage, &request), nullptr);
+    const Interface::PlanRequest request;
+    EXPECT_NE(Interface::Call(Interface::Bus::PlanVoyage, &request), nullptr);
 }
 
 TEST_F(PluginLifeTest, HostThatClosesTheLibraryFindsItsServicesAnswering) {
@@ -59,9 +59,9 @@ TEST_F(PluginLifeTest, HostThatClosesTheLibraryFindsItsServicesAnswering) {
         plugin.load();
         plugin.unload();
         plugin.Close();
-        const Seaplan::PlanRequest request;
-        const Seaplan::PlanResult* result = Interface::Call(Seaplan::kPlanVoyage, &request);
-        std::_Exit(result != nullptr && result->code == Seaplan::PlanNotLoaded ? 0 : 1);
+        const Interface::PlanRequest request;
+        const Interface::PlanResult* result = Interface::Call(Interface::Bus::PlanVoyage, &request);
+        std::_Exit(result != nullptr && result->code == Interface::PlanNotLoaded ? 0 : 1);
     };
     EXPECT_EXIT(closeAndCall(), testing::ExitedWithCode(0), "");
 }

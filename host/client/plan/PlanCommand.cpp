@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/VoyageContract.h>
 
 #include "host/client/plan/PlanFormats.h"
 
@@ -31,17 +32,18 @@ std::string MismatchText(const std::string& word, const PortMatch& match) {
     return text + "?";
 }
 
-PlanOutcome FailureOf(const Seaplan::PlanResult& plan, const std::string& reason) {
-    const bool badInput = plan.code == Seaplan::PlanUnknownPort || plan.code == Seaplan::PlanTooFewPorts ||
-                          plan.code == Seaplan::PlanNameMissing || plan.code == Seaplan::PlanNameTaken;
+PlanOutcome FailureOf(const Interface::PlanResult& plan, const std::string& reason) {
+    const bool badInput = plan.code == Interface::PlanUnknownPort ||
+                          plan.code == Interface::PlanTooFewPorts ||
+                          plan.code == Interface::PlanNameMissing || plan.code == Interface::PlanNameTaken;
     const char* advice = "See that the data folder has space and can be written, then try again.";
     if (badInput) {
         advice = "Change the command and try again.";
     }
-    if (plan.code == Seaplan::PlanNotConnected) {
+    if (plan.code == Interface::PlanNotConnected) {
         advice = "Start the server or check its address in the preferences.";
     }
-    if (plan.code == Seaplan::PlanNotCalculated) {
+    if (plan.code == Interface::PlanNotCalculated) {
         advice = "Try other ports, speed or weather.";
     }
     std::string why = plan.step;
@@ -54,7 +56,7 @@ PlanOutcome FailureOf(const Seaplan::PlanResult& plan, const std::string& reason
 }  // namespace
 
 PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lookup,
-                            Seaplan::PlanRequest& request) {
+                            Interface::PlanRequest& request) {
     request = {};
     std::string before;
     for (std::size_t i = 0; i < arguments.ports.size(); ++i) {
@@ -77,36 +79,36 @@ PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lo
     request.save = !arguments.saveVoyage.empty();
     request.category = arguments.saveCategory;
     request.voyage = arguments.saveVoyage;
+    request.units = {arguments.speedUnit, arguments.distanceUnit, arguments.timeUnit};
     return {};
 }
 
-PlanOutcome CallPlanService(const Seaplan::PlanRequest& request, const Seaplan::PlanResult*& result,
+PlanOutcome CallPlanService(const Interface::PlanRequest& request, const Interface::PlanResult*& result,
                             const HostServices* services) {
-    result = Interface::Call(Seaplan::kPlanVoyage, &request);
+    result = Interface::Call(Interface::Bus::PlanVoyage, &request);
     if (!result) {
         return {kExitFailed,
                 "The voyage plug-in is not loaded. Build or install the client again; --verbose tells why."};
     }
-    if (result->code == Seaplan::PlanDone) {
+    if (result->code == Interface::PlanDone) {
         return {};
     }
     return FailureOf(*result, services ? services->LastFailure() : std::string());
 }
 
-std::string FormatPlan(const PlanArguments& arguments, const Seaplan::PlanResult& plan,
+std::string FormatPlan(const PlanArguments& arguments, const Interface::PlanResult& plan,
                        const std::string& zone, const LanguageFiles& texts) {
-    const Seaplan::UnitSet units{arguments.speedUnit, arguments.distanceUnit, arguments.timeUnit};
     switch (arguments.format) {
         case PlanFormat::Json:
             return PlanJson(plan);
         case PlanFormat::GeoJson:
             return PlanGeoJson(plan);
         case PlanFormat::Csv:
-            return PlanCsv(plan, units, texts);
+            return PlanCsv(plan);
         case PlanFormat::Table:
             break;
     }
-    return PlanTable(plan, units, zone, texts);
+    return PlanTable(plan, zone, texts);
 }
 
 }  // namespace Tarvik::Client

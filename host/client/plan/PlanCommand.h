@@ -4,11 +4,12 @@
 #include <string>
 #include <vector>
 
+#include <tarvik/interface/PlanRecords.h>
+
 #include "host/client/plan/PlanArguments.h"
 #include "host/client/plan/PortLookup.h"
 #include "host/client/services/HostServices.h"
 #include "host/client/services/LanguageFiles.h"
-#include "seaplan/plugin/PlanService.h"
 
 namespace Tarvik::Client {
 
@@ -23,15 +24,15 @@ struct PlanOutcome {
 /// Finds the typed ports and makes the request of the planning service. Bad input names the bad word and
 /// candidates.
 PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lookup,
-                            Seaplan::PlanRequest& request);
+                            Interface::PlanRequest& request);
 
 /// Calls the planning service on the bus. `result` stays the plug-in's. When it fails, `services` knows what
 /// the server had to say about it; null when there are none.
-PlanOutcome CallPlanService(const Seaplan::PlanRequest& request, const Seaplan::PlanResult*& result,
+PlanOutcome CallPlanService(const Interface::PlanRequest& request, const Interface::PlanResult*& result,
                             const HostServices* services = nullptr);
 
 /// The result in the asked format.
-std::string FormatPlan(const PlanArguments& arguments, const Seaplan::PlanResult& plan,
+std::string FormatPlan(const PlanArguments& arguments, const Interface::PlanResult& plan,
                        const std::string& zone, const LanguageFiles& texts);
 
 }  // namespace Tarvik::Client

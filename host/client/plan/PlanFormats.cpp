@@ -5,20 +5,19 @@
 
 #include <nlohmann/json.hpp>
 
+#include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
-
-#include "seaplan/calculation/PortCallColumns.h"
 
 namespace Tarvik::Client {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
-using Seaplan::PortCallRows;
+using Interface::WaypointKind;
 using Util::StringUtl;
 
 std::string TimeText(const Util::_datetime_t& time) {
-    return time.fmt(Seaplan::kTimeFormat);
+    return time.fmt(Util::kTimeFormat);
 }
 
 std::string Dump(const Json& json) {
@@ -38,39 +37,22 @@ Json Feature(const char* type, Json coordinates, Json properties) {
             {"properties", std::move(properties)}};
 }
 
-Json PointFeature(const Seaplan::PosBookPoint& point) {
+Json PointFeature(const Interface::PlanWaypoint& point) {
     const auto [x, y] = Position(point.position);
     return Feature("Point", Json::array({x, y}),
-                   {{"kind", point.pst == Seaplan::PortPoint ? "port" : "routePoint"},
-                    {"id", point.pointId},
-                    {"name", point.psn},
+                   {{"kind", point.kind == WaypointKind::Port ? "port" : "routePoint"},
+                    {"id", point.id},
+                    {"name", point.name},
                     {"eta", TimeText(point.eta)},
                     {"etd", TimeText(point.etd)}});
 }
 
-/// Rows in the units on show; those already standard stay as they are.
-PortCallRows Shown(const PortCallRows& rows, const Seaplan::UnitSet& units) {
-    PortCallRows shown;
-    return Seaplan::FromStandardUnits(rows, units, shown) == 0 ? shown : rows;
-}
-
-std::vector<std::string> Header(const Seaplan::UnitSet& units, const LanguageFiles& texts) {
+std::vector<std::string> Header(const Interface::PlanTable& table) {
     std::vector<std::string> header;
-    for (const Seaplan::PortCallColumnEntry& column : Seaplan::kPortCallColumns) {
-        std::string text = texts.Text("Seaplan", column.title);
-        if (const std::string unit = Seaplan::UnitLabel(units, column.unit); !unit.empty()) {
-            text.append(" (").append(unit).append(")");
-        }
-        header.push_back(std::move(text));
+    for (const Interface::PlanColumn& column : table.columns) {
+        header.push_back(column.unit.empty() ? column.title : column.title + " (" + column.unit + ")");
     }
     return header;
-}
-
-std::vector<std::string> TotalsCells(const PortCallRows& shown) {
-    Seaplan::CellTexts cells;
-    cells[Seaplan::ColOrder] = Seaplan::kTotalsLabel;
-    Seaplan::TotalsToCells(shown, cells);
-    return {cells.begin(), cells.end()};
 }
 
 std::string CsvField(const std::string& text) {
@@ -87,49 +69,41 @@ std::string CsvField(const std::string& text) {
     return quoted + "\"";
 }
 
-bool IsNumberColumn(std::size_t column) {
-    return Seaplan::kPortCallColumns[column].kind == Seaplan::CellKind::Number;
-}
-
-/// The summary figures in the units on show.
-std::string SummaryLine(const Seaplan::PlanResult& plan, const Seaplan::UnitSet& units,
-                        const LanguageFiles& texts) {
-    Seaplan::SummaryTexts shown;
-    Seaplan::SummaryToTexts(plan.summary, units, shown);
-    const auto label = [&units](Seaplan::UnitKind kind) { return Seaplan::UnitLabel(units, kind); };
-    return texts.Text("Seaplan", "IDS_PORTCALL_AVARGERSPD") + " " + shown.averageSpeed + " " +
-           label(Seaplan::UnitKind::Speed) + ", " + texts.Text("Seaplan", "IDS_PORTCALL_TOTLEDISTANCE") +
-           " " + shown.totalDistance + " " + label(Seaplan::UnitKind::Distance) + ", " +
-           texts.Text("Seaplan", "IDS_PORTCALL_TOTALTIME") + " " + shown.totalTime + " " +
-           label(Seaplan::UnitKind::Time) + "\n";
+/// The summary figures as one row.
+std::string SummaryLine(const Interface::PlanResult& plan) {
+    std::string line;
+    for (const Interface::PlanFigure& figure : plan.figures) {
+        line += (line.empty() ? "" : ", ") + figure.title + " " + figure.text + " " + figure.unit;
+    }
+    return line + "\n";
 }
 
 }  // namespace
 
-std::string PlanJson(const Seaplan::PlanResult& plan) {
+std::string PlanJson(const Interface::PlanResult& plan) {
     Json rows = Json::array();
-    for (const Seaplan::VoyPortCall& row : plan.rows) {
-        rows.push_back({{"ppi", row.ppi},
-                        {"ppn", row.ppn},
-                        {"pp", row.pp},
-                        {"psp", double{row.psp}},
-                        {"pw", double{row.pw}},
+    for (const Interface::PlanRow& row : plan.rows) {
+        rows.push_back({{"ppi", row.portId},
+                        {"ppn", row.portName},
+                        {"pp", row.purpose},
+                        {"psp", double{row.speed}},
+                        {"pw", double{row.weather}},
                         {"steamTime", double{row.steamTime}},
-                        {"apt", double{row.apt}},
+                        {"apt", double{row.portTime}},
                         {"eta", TimeText(row.eta)},
                         {"etd", TimeText(row.etd)},
                         {"distance", double{row.distance}}});
     }
     Json route = Json::array();
-    for (const Seaplan::PosBookPoint& point : plan.book) {
+    for (const Interface::PlanWaypoint& point : plan.route) {
         const auto [x, y] = Position(point.position);
         route.push_back({{"x", x},
                          {"y", y},
-                         {"kind", point.pst},
-                         {"id", point.pointId},
-                         {"name", point.psn},
-                         {"psr", point.psr},
-                         {"psp", double{point.psp}},
+                         {"kind", static_cast<int>(point.kind)},
+                         {"id", point.id},
+                         {"name", point.name},
+                         {"psr", point.sailing},
+                         {"psp", double{point.speed}},
                          {"eta", TimeText(point.eta)},
                          {"etd", TimeText(point.etd)}});
     }
@@ -144,7 +118,7 @@ std::string PlanJson(const Seaplan::PlanResult& plan) {
     return Dump(Json{{"rows", rows}, {"totals", totals}, {"summary", summary}, {"route", route}});
 }
 
-std::string PlanGeoJson(const Seaplan::PlanResult& plan) {
+std::string PlanGeoJson(const Interface::PlanResult& plan) {
     Json features = Json::array();
     for (std::size_t i = 0; i < plan.linePieces.size(); ++i) {
         Json line = Json::array();
@@ -154,9 +128,9 @@ std::string PlanGeoJson(const Seaplan::PlanResult& plan) {
         }
         features.push_back(Feature("LineString", std::move(line), {{"kind", "route"}, {"piece", i}}));
     }
-    for (const Seaplan::PosBookPoint& point : plan.book) {
-        const bool named = point.pst == Seaplan::PortPoint || point.pst == Seaplan::LongIdRoutePoint ||
-                           point.pst == Seaplan::ShortIdRoutePoint;
+    for (const Interface::PlanWaypoint& point : plan.route) {
+        const bool named = point.kind == WaypointKind::Port || point.kind == WaypointKind::LongIdRoutePoint ||
+                           point.kind == WaypointKind::ShortIdRoutePoint;
         if (named) {
             features.push_back(PointFeature(point));
         }
@@ -164,22 +138,16 @@ std::string PlanGeoJson(const Seaplan::PlanResult& plan) {
     return Dump(Json{{"type", "FeatureCollection"}, {"features", features}});
 }
 
-std::vector<std::vector<std::string>> PlanCells(const Seaplan::PlanResult& plan,
-                                                const Seaplan::UnitSet& units, const LanguageFiles& texts) {
-    const PortCallRows shown = Shown(plan.rows, units);
-    std::vector<std::vector<std::string>> table{Header(units, texts)};
-    for (std::size_t i = 0; i < shown.size(); ++i) {
-        const Seaplan::CellTexts cells = Seaplan::RowToCells(static_cast<int>(i), shown[i]);
-        table.emplace_back(cells.begin(), cells.end());
-    }
-    table.push_back(TotalsCells(shown));
-    return table;
+std::vector<std::vector<std::string>> PlanCells(const Interface::PlanResult& plan) {
+    std::vector<std::vector<std::string>> cells{Header(plan.table)};
+    cells.insert(cells.end(), plan.table.rows.begin(), plan.table.rows.end());
+    cells.push_back(plan.table.totals);
+    return cells;
 }
 
-std::string PlanCsv(const Seaplan::PlanResult& plan, const Seaplan::UnitSet& units,
-                    const LanguageFiles& texts) {
+std::string PlanCsv(const Interface::PlanResult& plan) {
     std::string out;
-    for (const auto& row : PlanCells(plan, units, texts)) {
+    for (const auto& row : PlanCells(plan)) {
         for (std::size_t i = 0; i < row.size(); ++i) {
             out += (i == 0 ? "" : ",") + CsvField(row[i]);
         }
@@ -188,26 +156,27 @@ std::string PlanCsv(const Seaplan::PlanResult& plan, const Seaplan::UnitSet& uni
     return out;
 }
 
-std::string PlanTable(const Seaplan::PlanResult& plan, const Seaplan::UnitSet& units, const std::string& zone,
+std::string PlanTable(const Interface::PlanResult& plan, const std::string& zone,
                       const LanguageFiles& texts) {
-    const auto table = PlanCells(plan, units, texts);
-    std::vector<int> widths(Seaplan::PortCallColumnCount, 0);
-    for (const auto& row : table) {
+    const auto cells = PlanCells(plan);
+    const auto& columns = plan.table.columns;
+    std::vector<int> widths(columns.size(), 0);
+    for (const auto& row : cells) {
         for (std::size_t i = 0; i < row.size(); ++i) {
             widths[i] = std::max(widths[i], StringUtl::Width(row[i]));
         }
     }
     std::string out = texts.Text("Client", "ZONE_NAME") + ": " + zone + "\n";
-    for (const auto& row : table) {
+    for (const auto& row : cells) {
         std::string line;
         for (std::size_t i = 0; i < row.size(); ++i) {
             const std::string pad(static_cast<std::size_t>(widths[i] - StringUtl::Width(row[i])), ' ');
-            line += (i == 0 ? "" : "  ") + (IsNumberColumn(i) ? pad + row[i] : row[i] + pad);
+            line += (i == 0 ? "" : "  ") + (columns[i].right ? pad + row[i] : row[i] + pad);
         }
         line.erase(line.find_last_not_of(' ') + 1);
         out += line + "\n";
     }
-    return out + SummaryLine(plan, units, texts);
+    return out + SummaryLine(plan);
 }
 
 }  // namespace Tarvik::Client

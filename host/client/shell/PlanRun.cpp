@@ -31,8 +31,8 @@ int Print(const std::string& text) {
 }
 
 int PlanAndPrint(ClientSession& session, const PlanArguments& arguments,
-                 const Seaplan::PlanRequest& request) {
-    const Seaplan::PlanResult* plan = nullptr;
+                 const Interface::PlanRequest& request) {
+    const Interface::PlanResult* plan = nullptr;
     const PlanOutcome outcome = CallPlanService(request, plan, &session.Services());
     if (outcome.exitCode != kExitDone) {
         return Tell(outcome);
@@ -41,7 +41,7 @@ int PlanAndPrint(ClientSession& session, const PlanArguments& arguments,
 }
 
 int PlanWithPicture(int argc, char** argv, ClientSession& session, const PlanArguments& arguments,
-                    const Seaplan::PlanRequest& request) {
+                    const Interface::PlanRequest& request) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     Desk::PrepareApplication();
     QApplication application(argc, argv);
@@ -64,7 +64,7 @@ int PlanWithPicture(int argc, char** argv, ClientSession& session, const PlanArg
 }
 
 int PlanWithoutWindow(int argc, char** argv, ClientSession& session, const PlanArguments& arguments,
-                      const Seaplan::PlanRequest& request) {
+                      const Interface::PlanRequest& request) {
     QCoreApplication application(argc, argv);
     session.LoadPlugins();
     for (const std::string& line : session.Plugins().Complaints()) {
@@ -108,7 +108,7 @@ int RunPlan(int argc, char** argv, const CommandLine& line) {
         return Tell({kExitFailed, error});
     }
     const QtLog log(session->Log());
-    Seaplan::PlanRequest request;
+    Interface::PlanRequest request;
     const PlanOutcome checked = MakePlanRequest(parsed.arguments, PortLookup(session->Ports()), request);
     if (checked.exitCode != kExitDone) {
         return Tell(checked);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TrvKernel.h>
 
 #include "host/client/plan/PlanCommand.h"
@@ -29,26 +30,26 @@ class ScriptedPlanner : public Core::TObject {
   public:
     ScriptedPlanner() {
         event_.Set<&ScriptedPlanner::OnPlan>(this);
-        Core::TrvKernel::Instance()->CreateTrvService(Seaplan::kPlanVoyage.name, this, "", "", nullptr);
-        Core::TrvKernel::Instance()->BindTrvService(Seaplan::kPlanVoyage.name, &event_);
+        Core::TrvKernel::Instance()->CreateTrvService(Interface::Bus::PlanVoyage.name, this, "", "", nullptr);
+        Core::TrvKernel::Instance()->BindTrvService(Interface::Bus::PlanVoyage.name, &event_);
     }
     ~ScriptedPlanner() override {
-        Core::TrvKernel::Instance()->UnBindTrvService(Seaplan::kPlanVoyage.name, &event_);
-        Core::TrvKernel::Instance()->DeleteTrvService(Seaplan::kPlanVoyage.name, this);
+        Core::TrvKernel::Instance()->UnBindTrvService(Interface::Bus::PlanVoyage.name, &event_);
+        Core::TrvKernel::Instance()->DeleteTrvService(Interface::Bus::PlanVoyage.name, this);
     }
     void* OnPlan(void* input) {
-        request = *static_cast<const Seaplan::PlanRequest*>(input);
+        request = *static_cast<const Interface::PlanRequest*>(input);
         return &result;
     }
-    Seaplan::PlanRequest request;
-    Seaplan::PlanResult result = SamplePlan();
+    Interface::PlanRequest request;
+    Interface::PlanResult result = SamplePlan();
 
   private:
     Core::TEvent event_;
 };
 
 TEST(PlanRequest, CarriesPortsAndFigures) {
-    Seaplan::PlanRequest request;
+    Interface::PlanRequest request;
     const auto outcome = MakePlanRequest(
         Arguments({"xxalp", "40002", "--speed", "14", "--weather", "5", "--stay", "6,7", "--purpose", "B,C",
                    "--depart", "2026-12-01 08:00", "--save", "Mine/First"}),
@@ -67,14 +68,14 @@ TEST(PlanRequest, CarriesPortsAndFigures) {
 }
 
 TEST(PlanRequest, NamesAnUnknownPortWithTheNearest) {
-    Seaplan::PlanRequest request;
+    Interface::PlanRequest request;
     const auto outcome = MakePlanRequest(Arguments({"Alfa", "Beta"}), Lookup(), request);
     EXPECT_EQ(outcome.exitCode, kExitBadInput);
     EXPECT_THAT(outcome.message, HasSubstr("Unknown port \"Alfa\". Did you mean Alpha (XXALP, 40001)"));
 }
 
 TEST(PlanRequest, NamesAnAmbiguousPortWithItsCandidates) {
-    Seaplan::PlanRequest request;
+    Interface::PlanRequest request;
     const auto outcome = MakePlanRequest(Arguments({"Alpha", "be"}), Lookup(), request);
     EXPECT_EQ(outcome.exitCode, kExitBadInput);
     EXPECT_THAT(outcome.message,
@@ -82,12 +83,12 @@ TEST(PlanRequest, NamesAnAmbiguousPortWithItsCandidates) {
 }
 
 TEST(PlanRequest, RefusesAPortBehindItself) {
-    Seaplan::PlanRequest request;
+    Interface::PlanRequest request;
     EXPECT_EQ(MakePlanRequest(Arguments({"Alpha", "40001"}), Lookup(), request).exitCode, kExitBadInput);
 }
 
 TEST(PlanCall, SaysSoWhenNobodyPlans) {
-    const Seaplan::PlanResult* result = nullptr;
+    const Interface::PlanResult* result = nullptr;
     const auto outcome = CallPlanService({}, result);
     EXPECT_EQ(outcome.exitCode, kExitFailed);
     EXPECT_THAT(outcome.message, HasSubstr("plug-in is not loaded"));
@@ -95,9 +96,9 @@ TEST(PlanCall, SaysSoWhenNobodyPlans) {
 
 TEST(PlanCall, HandsTheRequestOverAndTheResultBack) {
     ScriptedPlanner planner;
-    Seaplan::PlanRequest request;
+    Interface::PlanRequest request;
     request.voyage = "V";
-    const Seaplan::PlanResult* result = nullptr;
+    const Interface::PlanResult* result = nullptr;
     EXPECT_EQ(CallPlanService(request, result).exitCode, kExitDone);
     EXPECT_EQ(planner.request.voyage, "V");
     EXPECT_EQ(result, &planner.result);
@@ -105,15 +106,15 @@ TEST(PlanCall, HandsTheRequestOverAndTheResultBack) {
 
 TEST(PlanCall, TellsBadInputFromAFailedPlan) {
     ScriptedPlanner planner;
-    const Seaplan::PlanResult* result = nullptr;
+    const Interface::PlanResult* result = nullptr;
     planner.result.step = "a voyage of this name exists";
-    planner.result.code = Seaplan::PlanNameTaken;
+    planner.result.code = Interface::PlanNameTaken;
     EXPECT_EQ(CallPlanService({}, result).exitCode, kExitBadInput);
-    planner.result.code = Seaplan::PlanNotConnected;
+    planner.result.code = Interface::PlanNotConnected;
     const auto down = CallPlanService({}, result);
     EXPECT_EQ(down.exitCode, kExitFailed);
     EXPECT_THAT(down.message, HasSubstr("Start the server"));
-    planner.result.code = Seaplan::PlanNotCalculated;
+    planner.result.code = Interface::PlanNotCalculated;
     EXPECT_EQ(CallPlanService({}, result).exitCode, kExitFailed);
 }
 

@@ -15,10 +15,7 @@ using testing::HasSubstr;
 
 LanguageFiles Texts() {
     LanguageFiles texts;
-    texts.Merge(
-        R"({"Client":{"ZONE_NAME":"Time zone"},"Seaplan":{"IDS_PORTCALL_ORDER":"No.","IDS_PORTCALL_PORT":"Port",
-        "IDS_PORTCALL_SPEED":"Speed","IDS_PORTCALL_AVARGERSPD":"Average speed",
-        "IDS_PORTCALL_TOTLEDISTANCE":"Total distance","IDS_PORTCALL_TOTALTIME":"Total time"}})");
+    texts.Merge(R"({"Client":{"ZONE_NAME":"Time zone"}})");
     return texts;
 }
 
@@ -62,7 +59,7 @@ TEST(PlanGeoJson, HasOneLinePerPieceAndThePortsAsPoints) {
 }
 
 TEST(PlanCells, CarryThePanelsTextsAndUnits) {
-    const auto cells = PlanCells(SamplePlan(), {}, Texts());
+    const auto cells = PlanCells(SamplePlan());
     ASSERT_EQ(cells.size(), 4U);
     EXPECT_EQ(cells[0][3], "Speed (kts)");
     EXPECT_EQ(cells[0][5], "IDS_PORTCALL_STEAMTIME (days)");
@@ -72,22 +69,14 @@ TEST(PlanCells, CarryThePanelsTextsAndUnits) {
                                       "2026-12-11 20:00:00", "2400.50"));
 }
 
-TEST(PlanCells, ConvertToOtherUnits) {
-    const auto cells = PlanCells(SamplePlan(), {"KPH", "KM", "hour"}, Texts());
-    EXPECT_EQ(cells[0][3], "Speed (KPH)");
-    EXPECT_EQ(cells[2][3], "18.71");
-    EXPECT_EQ(cells[2][5], "240.00");
-    EXPECT_EQ(cells[2][9], "4445.73");
-}
-
 TEST(PlanCsv, QuotesWhatNeedsIt) {
-    const std::string csv = PlanCsv(SamplePlan(), {}, Texts());
+    const std::string csv = PlanCsv(SamplePlan());
     EXPECT_THAT(csv, HasSubstr("\n1,\"Port, \"\"A\"\"\",L,14.00,0%,0.00,0.50,"));
     EXPECT_EQ(std::count(csv.begin(), csv.end(), '\n'), 4);
 }
 
 TEST(PlanTable, NamesTheZoneAlignsColumnsAndClosesWithTheSummary) {
-    const std::string table = PlanTable(SamplePlan(), {}, "UTC", Texts());
+    const std::string table = PlanTable(SamplePlan(), "UTC", Texts());
     EXPECT_TRUE(table.starts_with("Time zone: UTC\nNo."));
     EXPECT_THAT(table, HasSubstr("\n  2  B "));
     EXPECT_TRUE(

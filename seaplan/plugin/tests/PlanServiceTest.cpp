@@ -3,7 +3,8 @@
 #include <limits>
 
 #include <tarvik/bus/Binding.h>
-#include <tarvik/core/TrvKernel.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/VoyageContract.h>
 
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 #include "seaplan/plugin/PlanService.h"
@@ -58,17 +59,17 @@ class PlanServiceTest : public ScheduleFixture {
 TEST_F(PlanServiceTest, PlanWithoutSavingGivesScheduleBookAndLine) {
     host.Reply(1, kRouteAb);
     const PlanResult& result = service.Plan(request);
-    ASSERT_EQ(result.code, PlanDone) << result.step;
+    ASSERT_EQ(result.code, Interface::PlanDone) << result.step;
     ASSERT_EQ(result.rows.size(), 2U);
-    EXPECT_EQ(result.rows[0].pp, "L");
-    EXPECT_EQ(result.rows[1].pp, "D");
-    ASSERT_EQ(result.book.size(), 3U);
-    EXPECT_EQ(result.book[0].etd, result.rows[0].etd);
-    EXPECT_EQ(result.book[2].eta.fmt("%H:%M"), result.rows[1].eta.fmt("%H:%M"));
+    EXPECT_EQ(result.rows[0].purpose, "L");
+    EXPECT_EQ(result.rows[1].purpose, "D");
+    ASSERT_EQ(result.route.size(), 3U);
+    EXPECT_EQ(result.route[0].etd, result.rows[0].etd);
+    EXPECT_EQ(result.route[2].eta.fmt("%H:%M"), result.rows[1].eta.fmt("%H:%M"));
     EXPECT_NEAR(result.totals.distance, 60.107F, 0.01F);
     EXPECT_NEAR(result.summary.averageSpeed, 10.0F, 0.01F);
     EXPECT_EQ(result.linePieces, (std::vector<PointTexts>{{"0.000,0.000", "0.500,0.000", "1.000,0.000"}}));
-    EXPECT_EQ(result.vi, "");
+    EXPECT_EQ(result.voyageId, "");
     EXPECT_FALSE(module.Pending().IsThere()) << "a panel must not save this route as its own";
     EXPECT_EQ(host.requests.size(), 2U);
 }
@@ -77,13 +78,13 @@ TEST_F(PlanServiceTest, AnswerCarriesIdsPurposesAndFiguresAsAskedFor) {
     host.Reply(1, kRouteAb);
     request.ports = {{"A", "B", 12.0F, 0.5F, 6.0F}, {"B", "O", 12.0F, 0.5F, 24.0F}};
     const PlanResult& result = service.Plan(request);
-    ASSERT_EQ(result.code, PlanDone) << result.step;
-    EXPECT_EQ(result.rows[0].ppi, "40001");
-    EXPECT_EQ(result.rows[1].ppi, "40002");
-    EXPECT_EQ(result.rows[0].pp, "B") << "not turned into loading";
-    EXPECT_EQ(result.rows[1].pp, "O");
-    EXPECT_EQ(result.rows[1].pw, 0.5F);
-    EXPECT_NEAR(result.rows[1].psp, 12.0F, 1e-4F);
+    ASSERT_EQ(result.code, Interface::PlanDone) << result.step;
+    EXPECT_EQ(result.rows[0].portId, "40001");
+    EXPECT_EQ(result.rows[1].portId, "40002");
+    EXPECT_EQ(result.rows[0].purpose, "B") << "not turned into loading";
+    EXPECT_EQ(result.rows[1].purpose, "O");
+    EXPECT_EQ(result.rows[1].weather, 0.5F);
+    EXPECT_NEAR(result.rows[1].speed, 12.0F, 1e-4F);
     EXPECT_NEAR(result.rows[1].steamTime, 60.107F / 6.0F, 1e-3F);
     EXPECT_EQ(result.rows[0].eta.fmt("%Y-%m-%d %H:%M:%S"), "2024-03-01 08:00:00");
     EXPECT_EQ(result.rows[0].etd.fmt("%Y-%m-%d %H:%M:%S"), "2024-03-01 14:00:00");
@@ -96,14 +97,14 @@ TEST_F(PlanServiceTest, BookRowsCarryTheLegsSpeedAndTheirTimes) {
     host.Reply(1, kRouteAb);
     request.ports[1].speed = 15.0F;
     const PlanResult& result = service.Plan(request);
-    ASSERT_EQ(result.code, PlanDone) << result.step;
-    EXPECT_EQ(result.book[0].pointId, "40001");
-    EXPECT_EQ(result.book[0].psn, "A");
-    EXPECT_EQ(result.book[0].pst, PortPoint);
-    EXPECT_NEAR(result.book[1].psp, 15.0F, 1e-4F);
-    EXPECT_EQ(result.book[1].pst, PlainPoint);
-    EXPECT_EQ(result.book[1].eta.fmt("%H:%M"), "16:00") << "half the leg of four hours behind 14:00";
-    EXPECT_EQ(result.book[2].pointId, "40002");
+    ASSERT_EQ(result.code, Interface::PlanDone) << result.step;
+    EXPECT_EQ(result.route[0].id, "40001");
+    EXPECT_EQ(result.route[0].name, "A");
+    EXPECT_EQ(result.route[0].kind, Interface::WaypointKind::Port);
+    EXPECT_NEAR(result.route[1].speed, 15.0F, 1e-4F);
+    EXPECT_EQ(result.route[1].kind, Interface::WaypointKind::Plain);
+    EXPECT_EQ(result.route[1].eta.fmt("%H:%M"), "16:00") << "half the leg of four hours behind 14:00";
+    EXPECT_EQ(result.route[2].id, "40002");
 }
 
 TEST_F(PlanServiceTest, PlanWithoutStartBeginsNow) {
@@ -119,32 +120,32 @@ TEST_F(PlanServiceTest, FiguresThatAllowNoVoyageAreRefusedBeforeAnythingIsAsked)
     const float endless = std::numeric_limits<float>::infinity();
     for (const float speed : {0.0F, -3.0F, 0.001F, nan, endless}) {
         request.ports[1].speed = speed;
-        expectFailure(PlanNotCalculated);
+        expectFailure(Interface::PlanNotCalculated);
         EXPECT_NE(service.Plan(request).step.find("speed"), std::string::npos);
     }
     request.ports[1].speed = 10.0F;
     for (const float weather : {1.0F, 1.5F, -0.01F, nan}) {
         request.ports[1].weather = weather;
-        expectFailure(PlanNotCalculated);
+        expectFailure(Interface::PlanNotCalculated);
         EXPECT_NE(service.Plan(request).step.find("weather"), std::string::npos);
     }
     request.ports[1].weather = 0;
     request.ports[0].portTime = -1;
-    expectFailure(PlanNotCalculated);
+    expectFailure(Interface::PlanNotCalculated);
     EXPECT_TRUE(host.TextsOf(1).empty());
 }
 
 TEST_F(PlanServiceTest, StayBeyondTheCalendarIsToldAsSuch) {
     host.Reply(1, kRouteAb);
     request.ports[0].portTime = 1e30F;
-    expectFailure(PlanNotCalculated);
+    expectFailure(Interface::PlanNotCalculated);
 }
 
 TEST_F(PlanServiceTest, MissingTableOfPointsIsNamed) {
     std::filesystem::remove(folder.PointsFile());
     host.Reply(1, kRouteAb);
     const PlanResult& result = service.Plan(request);
-    EXPECT_EQ(result.code, PlanNotCalculated);
+    EXPECT_EQ(result.code, Interface::PlanNotCalculated);
     EXPECT_NE(result.step.find("table of ports"), std::string::npos);
 }
 
@@ -154,24 +155,24 @@ TEST_F(PlanServiceTest, NamesAreKeptAsTheTreeKeepsTypedOnes) {
     askToSave();
     request.category = " R&D ";
     request.voyage = "say \"V\"";
-    ASSERT_EQ(service.Plan(request).code, PlanDone);
+    ASSERT_EQ(service.Plan(request).code, Interface::PlanDone);
     EXPECT_EQ(host.TextsOf(4)[0],
               "{ci:\"\",cn:\"R\xEF\xBC\x86"
               "D\",type:0}");
     EXPECT_EQ(store.voyages.at("22").vn, "say \xEF\xBC\x82V\xEF\xBC\x82");
     host.Reply(1, kRouteAb);
-    expectFailure(PlanNameTaken);
+    expectFailure(Interface::PlanNameTaken);
     request.voyage = "  ";
-    expectFailure(PlanNameMissing);
+    expectFailure(Interface::PlanNameMissing);
 }
 
 TEST_F(PlanServiceTest, SavedPlanMakesCategoryAndVoyageAndSavesTheSchedule) {
     host.Reply(1, kRouteAb);
     askToSave();
     const PlanResult& result = service.Plan(request);
-    ASSERT_EQ(result.code, PlanDone) << result.step;
-    EXPECT_EQ(result.ci, "11");
-    EXPECT_EQ(result.vi, "22");
+    ASSERT_EQ(result.code, Interface::PlanDone) << result.step;
+    EXPECT_EQ(result.categoryId, "11");
+    EXPECT_EQ(result.voyageId, "22");
     EXPECT_TRUE(store.categories.empty()) << "nothing was loaded before";
     Texts commands;
     for (const auto& sent : host.requests) {
@@ -186,7 +187,7 @@ TEST_F(PlanServiceTest, SavedVoyageIsInAStoreThatWasLoaded) {
     loadStore();
     host.Reply(1, kRouteAb);
     askToSave();
-    ASSERT_EQ(service.Plan(request).code, PlanDone);
+    ASSERT_EQ(service.Plan(request).code, Interface::PlanDone);
     EXPECT_TRUE(host.TextsOf(3).empty()) << "once loaded is enough";
     EXPECT_EQ(store.voyages.at("22").portCalls.size(), 2U);
     EXPECT_EQ(store.categoryVoyages.at("11").at("22"), InUse);
@@ -195,7 +196,7 @@ TEST_F(PlanServiceTest, SavedVoyageIsInAStoreThatWasLoaded) {
 TEST_F(PlanServiceTest, StoreThatWasNotLoadedIsLeftForThePanelToLoad) {
     host.Reply(1, kRouteAb);
     askToSave();
-    ASSERT_EQ(service.Plan(request).code, PlanDone);
+    ASSERT_EQ(service.Plan(request).code, Interface::PlanDone);
     for (int round = 1; round <= 2; ++round) {
         EXPECT_TRUE(store.categories.empty());
         EXPECT_TRUE(store.voyages.empty());
@@ -203,7 +204,7 @@ TEST_F(PlanServiceTest, StoreThatWasNotLoadedIsLeftForThePanelToLoad) {
         EXPECT_TRUE(store.categoryVoyages.empty());
         EXPECT_EQ(host.TextsOf(3).size(), round) << "asked for at every plan";
         host.Reply(4, R"({eid:0,ci:"11"})");
-        expectFailure(PlanNotCalculated);
+        expectFailure(Interface::PlanNotCalculated);
     }
 }
 
@@ -217,7 +218,7 @@ TEST_F(PlanServiceTest, RouteThatAPanelHasCalculatedStaysTheOneItSaves) {
         if (known) {
             host.Reply(1, kRouteAb);
         }
-        EXPECT_EQ(service.Plan(request).code, known ? PlanDone : PlanNotCalculated);
+        EXPECT_EQ(service.Plan(request).code, known ? Interface::PlanDone : Interface::PlanNotCalculated);
         ASSERT_EQ(module.Pending().Stops().size(), 3U) << known;
         EXPECT_EQ(module.Pending().Stops()[0].point_cd, "40003");
     }
@@ -228,7 +229,7 @@ TEST_F(PlanServiceTest, CategoryInUseIsTakenAndOneInTheBinIsNot) {
     store.categoryStates["3"] = InRecycleBin;
     host.Reply(1, kRouteAb);
     askToSave();
-    EXPECT_EQ(service.Plan(request).ci, "11");
+    EXPECT_EQ(service.Plan(request).categoryId, "11");
     request.voyage = "W";
     host.Reply(1, kRouteAb);
     host.Reply(5, R"({eid:0,vi:"23"})");
@@ -236,36 +237,36 @@ TEST_F(PlanServiceTest, CategoryInUseIsTakenAndOneInTheBinIsNot) {
     host.Reply(7, R"([{pbi:"6"}])");
     host.Reply(9, "{eid:0}");
     const PlanResult& result = service.Plan(request);
-    EXPECT_EQ(result.code, PlanDone) << result.step;
-    EXPECT_EQ(result.ci, "11");
+    EXPECT_EQ(result.code, Interface::PlanDone) << result.step;
+    EXPECT_EQ(result.categoryId, "11");
     EXPECT_EQ(host.TextsOf(4).size(), 1U);
 }
 
 TEST_F(PlanServiceTest, UnconnectedOrUnloadedClientPlansNothing) {
     host.connected = false;
-    expectFailure(PlanNotConnected);
+    expectFailure(Interface::PlanNotConnected);
     host.connected = true;
     host.user = "";
-    expectFailure(PlanNotLoaded);
+    expectFailure(Interface::PlanNotLoaded);
 }
 
 TEST_F(PlanServiceTest, UnknownPortIsNamed) {
     request.ports[1].name = "Atlantis";
-    expectFailure(PlanUnknownPort);
+    expectFailure(Interface::PlanUnknownPort);
     EXPECT_NE(service.Plan(request).step.find("Atlantis"), std::string::npos);
     EXPECT_TRUE(host.TextsOf(1).empty());
 }
 
 TEST_F(PlanServiceTest, OnePlaceTwiceIsNoVoyage) {
     request.ports[1].name = "A";
-    expectFailure(PlanTooFewPorts);
+    expectFailure(Interface::PlanTooFewPorts);
     request.ports.clear();
-    expectFailure(PlanTooFewPorts);
+    expectFailure(Interface::PlanTooFewPorts);
 }
 
 TEST_F(PlanServiceTest, MissingRouteMakesNoVoyageOnTheServer) {
     askToSave();
-    expectFailure(PlanNotCalculated);
+    expectFailure(Interface::PlanNotCalculated);
     EXPECT_TRUE(host.TextsOf(4).empty());
     EXPECT_TRUE(host.TextsOf(5).empty());
 }
@@ -273,11 +274,11 @@ TEST_F(PlanServiceTest, MissingRouteMakesNoVoyageOnTheServer) {
 TEST_F(PlanServiceTest, SavingNeedsNamesAndAFreeOne) {
     askToSave();
     request.category.clear();
-    expectFailure(PlanNameMissing);
+    expectFailure(Interface::PlanNameMissing);
     request.category = "Cat";
     store.categories["1"].ci = "1";
     store.voyages["9"].vn = "V";
-    expectFailure(PlanNameTaken);
+    expectFailure(Interface::PlanNameTaken);
 }
 
 TEST_F(PlanServiceTest, RefusedSaveIsToldByItsStep) {
@@ -286,15 +287,15 @@ TEST_F(PlanServiceTest, RefusedSaveIsToldByItsStep) {
     request.category = "Cat";
     request.voyage = "V";
     host.Reply(1, kRouteAb);
-    expectFailure(PlanNoCategory);
+    expectFailure(Interface::PlanNoCategory);
     host.Reply(1, kRouteAb);
     host.Reply(4, R"({eid:0,ci:"11"})");
-    expectFailure(PlanNoVoyage);
+    expectFailure(Interface::PlanNoVoyage);
     host.Reply(1, kRouteAb);
     host.Reply(5, R"({eid:0,vi:"22"})");
     host.Reply(5, "{eid:0}");
     host.Reply(4, "{eid:0}");
-    expectFailure(PlanNotSaved);
+    expectFailure(Interface::PlanNotSaved);
 }
 
 TEST_F(PlanServiceTest, FailedSaveTakesVoyageAndNewCategoryBack) {
@@ -307,7 +308,7 @@ TEST_F(PlanServiceTest, FailedSaveTakesVoyageAndNewCategoryBack) {
     host.Reply(5, R"({eid:0,vi:"22"})");
     host.Reply(5, "{eid:0}");
     host.Reply(4, "{eid:0}");
-    expectFailure(PlanNotSaved);
+    expectFailure(Interface::PlanNotSaved);
     EXPECT_EQ(host.TextsOf(5).back(), R"({vi:"22",type:"4"})");
     EXPECT_EQ(host.TextsOf(4).back(), R"({ci:"11",type:"3"})");
     EXPECT_EQ(store.categoryVoyages.at("11").at("22"), Destroyed);
@@ -321,18 +322,17 @@ TEST_F(PlanServiceTest, FailedSaveLeavesACategoryThatWasThere) {
     request.category = "Cat";
     request.voyage = "V";
     host.Reply(1, kRouteAb);
-    expectFailure(PlanNoVoyage);
+    expectFailure(Interface::PlanNoVoyage);
     EXPECT_TRUE(host.TextsOf(4).empty());
     EXPECT_EQ(store.categoryStates.at("3"), InUse);
 }
 
 TEST_F(PlanServiceTest, NullRequestHasNoAnswer) {
-    const Interface::Binding offered =
-        Interface::Offer(kPlanVoyage, [this](const PlanRequest& asked) { return &service.Plan(asked); });
+    const Interface::Binding offered = Interface::Offer(
+        Interface::Bus::PlanVoyage, [this](const PlanRequest& asked) { return &service.Plan(asked); });
     ASSERT_TRUE(offered.IsBound());
-    void* answer = &service;
-    Core::TrvKernel::Instance()->CallTrvService(kPlanVoyage.name, nullptr, answer);
-    EXPECT_EQ(answer, nullptr);
+    EXPECT_EQ(Interface::Call(Interface::Bus::PlanVoyage, nullptr), nullptr);
+    EXPECT_TRUE(host.requests.empty());
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 namespace Tarvik::Interface {
 
 struct VoyCalResult;  // ChartRecords.h
+struct PlanRequest;   // PlanRecords.h
+struct PlanResult;    // PlanRecords.h
 
 namespace Bus {
 
@@ -19,6 +21,8 @@ inline constexpr Service<const std::string, const char> AddVessel{"TRV_S_VOY_ADD
 inline constexpr Service<const std::string, None> AddPortName{"TRV_S_VOY_ADDPORTNAME"};
 /// Draws the route through ports whose ids the text holds, joined by ",". Valid until the next call.
 inline constexpr Service<const std::string, const VoyCalResult> CalculateVoyage{"TRV_S_CAL_VOYAGE"};
+/// Plans a voyage for a client without a window. Valid until the next call.
+inline constexpr Service<const PlanRequest, const PlanResult> PlanVoyage{"TRV_S_VOY_PLAN"};
 
 }  // namespace Bus
 }  // namespace Tarvik::Interface

@@ -10,5 +10,6 @@
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/interface/ChartRecords.h>
+#include <tarvik/interface/PlanRecords.h>
 #include <tarvik/interface/ServerRequest.h>
 #include <tarvik/interface/SiblingRecords.h>
