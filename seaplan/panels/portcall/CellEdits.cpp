@@ -10,8 +10,8 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr double kLeastSpeed = 0.00001;
-constexpr double kLeastWeather = 0.00001;
-constexpr double kMostWeather = 99.9999;
+constexpr double kLeastWeatherPercent = 0.00001;
+constexpr double kMostWeatherPercent = 99.9999;
 constexpr double kLeastLegHours = 0.00001;
 constexpr double kEarliestDeparture = -0.0001;
 constexpr double kLeastLegSpeed = 0.0001;
@@ -67,7 +67,7 @@ void CellEdits::SetWeather(int row, const std::string& typed) {
     const double percent = Util::StringUtl::ToDouble(typed);
     if (typed == "0" || typed == "0.0") {
         text = "0%";
-    } else if (percent >= kLeastWeather && percent <= kMostWeather) {
+    } else if (percent >= kLeastWeatherPercent && percent <= kMostWeatherPercent) {
         text = PercentText(percent);
     }
     SetFigure(row, ColWeather, text);
