@@ -37,7 +37,7 @@ DISPLAY=:$(cat "$work/display")
 export DISPLAY QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
 
 window() { xdotool search --onlyvisible --name "^$1\$" | head -n 1 | grep .; }
-text() { sed -n "s/.*\"$2\": *\"\([^\"]*\)\".*/\1/p" "seaplan/views/lang/$1.json" | head -n 1; }
+text() { sed -n "s/.*\"$2\": *\"\([^\"]*\)\".*/\1/p" "host/client/lang/seaplan.$1.json" | head -n 1; }
 click() { xdotool mousemove --window "$1" "$2" "$3" click 1; }
 # Drags a window by its caption so that its corner comes to a place on the screen.
 drag() {

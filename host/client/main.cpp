@@ -3,15 +3,18 @@
 
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/plan/PlanHelp.h"
+#include "host/client/services/AppFolders.h"
+#include "host/client/services/ProgramPath.h"
 #include "host/client/session/CommandLine.h"
 #include "host/client/shell/PlanRun.h"
 #include "host/client/shell/WindowRun.h"
 
 int main(int argc, char** argv) {
     using namespace Tarvik::Client;
-    const CommandLine line = ParseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
+    const auto languages = LanguageFiles::In(AppFolders(ProgramFolder(), {}).Languages());
+    const CommandLine line = ParseCommandLine(std::vector<std::string>(argv + 1, argv + argc), languages);
     if (line.help) {
-        std::fputs(kHelpText, stdout);
+        std::fputs(HelpText(LanguageCodes(languages)).c_str(), stdout);
         return kExitDone;
     }
     if (line.version) {

@@ -3,7 +3,11 @@
 
 namespace Tarvik::Client {
 
-const char* const kHelpText =
+namespace {
+
+constexpr const char* kLanguages = "@languages";
+
+constexpr const char* kHelpText =
     R"(Seaplan plans sea voyages.
 
   run [options]                       opens the chart with your voyages
@@ -20,7 +24,7 @@ Options of both
 
 Options of the window
   --theme NAME        light, dark or night
-  --lang NAME         en-US or zh-CN
+  --lang NAME         @languages
   --screenshot FILE   writes a picture of the window to FILE and ends
   --panel CODE        with --screenshot: opens a panel first (3 voyages, 21 port distances)
 
@@ -49,5 +53,17 @@ Examples
   run plan Rotterdam Singapore --speed 14 --depart "2026-12-01 08:00"
   run plan Shanghai "Los Angeles" --speed 14 --stay 24,12 --format json --picture route.png
 )";
+
+}  // namespace
+
+std::string HelpText(const std::vector<std::string>& languages) {
+    std::string names;
+    for (std::size_t i = 0; i < languages.size(); ++i) {
+        names += (i == 0 ? "" : i + 1 == languages.size() ? " or " : ", ") + languages[i];
+    }
+    std::string text = kHelpText;
+    text.replace(text.find(kLanguages), std::string(kLanguages).size(), names);
+    return text;
+}
 
 }  // namespace Tarvik::Client

@@ -14,6 +14,8 @@ class AppFolders {
 
     /// Read-only files shipped with the program.
     const std::string& Share() const { return share_; }
+    /// Folder of the language files.
+    std::string Languages() const { return share_ + "/lang"; }
     /// The person's folder: data base, log, preferences, businessdata.
     const std::string& Data() const { return data_; }
     /// Folder of the plug-ins.

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <string_view>
 
 #include <nlohmann/json.hpp>
 
@@ -14,32 +15,76 @@ namespace fs = std::filesystem;
 
 namespace Tarvik::Client {
 
-const std::vector<std::string>& LanguageFiles::Offered() {
-    static const std::vector<std::string> languages{"en-US", "zh-CN"};
+namespace {
+
+constexpr const char* kNameKey = "LANGUAGE_NAME";
+
+/// All files of a folder in order of their names.
+std::vector<fs::path> FilesOf(const std::string& folder) {
+    std::vector<fs::path> files;
+    std::error_code failed;
+    for (fs::directory_iterator it(folder, failed), end; !failed && it != end; it.increment(failed)) {
+        files.push_back(it->path());
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+std::string ContentOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+}  // namespace
+
+bool IsOffered(const std::vector<Language>& languages, const std::string& code) {
+    return std::any_of(languages.begin(), languages.end(),
+                       [&code](const Language& language) { return language.code == code; });
+}
+
+std::vector<std::string> LanguageCodes(const std::vector<Language>& languages) {
+    std::vector<std::string> codes;
+    for (const Language& language : languages) {
+        codes.push_back(language.code);
+    }
+    return codes;
+}
+
+std::vector<Language> LanguageFiles::In(const std::string& folder) {
+    constexpr std::string_view kHead = "client.";
+    constexpr std::string_view kTail = ".json";
+    std::vector<Language> languages;
+    for (const fs::path& file : FilesOf(folder)) {
+        const std::string name = file.filename().string();
+        if (!name.starts_with(kHead) || !name.ends_with(kTail) ||
+            name.size() <= kHead.size() + kTail.size()) {
+            continue;
+        }
+        LanguageFiles texts;
+        texts.Merge(ContentOf(file));
+        const std::string code = name.substr(kHead.size(), name.size() - kHead.size() - kTail.size());
+        const std::string own = texts.Text("Client", kNameKey);
+        languages.push_back({code, own == kNameKey ? code : own});
+    }
     return languages;
 }
 
 void LanguageFiles::Load(const std::string& folder, const std::string& language) {
     texts_.clear();
     complaints_.clear();
-    language_ = language;
-    std::vector<fs::path> files;
-    std::error_code failed;
-    for (fs::directory_iterator it(folder, failed), end; !failed && it != end; it.increment(failed)) {
-        const std::string name = it->path().filename().string();
-        const std::string tail = "." + language + ".json";
-        if (name.size() > tail.size() && name.ends_with(tail)) {
-            files.push_back(it->path());
-        }
-    }
-    std::sort(files.begin(), files.end());
+    code_ = language;
+    offered_ = In(folder);
+    std::vector<fs::path> files = FilesOf(folder);
+    const std::string tail = "." + language + ".json";
+    std::erase_if(files, [&tail](const fs::path& file) {
+        const std::string name = file.filename().string();
+        return name.size() <= tail.size() || !name.ends_with(tail);
+    });
     if (files.empty()) {
         complaints_.push_back("No language file for " + language + " in " + folder);
     }
     for (const fs::path& file : files) {
-        std::ifstream in(file, std::ios::binary);
-        const std::string json((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-        if (!Merge(json)) {
+        if (!Merge(ContentOf(file))) {
             complaints_.push_back("The language file " + file.string() + " cannot be read");
         }
     }

@@ -10,11 +10,24 @@
 
 namespace Tarvik::Client {
 
+/// A language that the client offers.
+struct Language {
+    std::string code;  ///< its name in file names, as "en-US"
+    std::string name;  ///< what it calls itself
+};
+
+/// Whether `code` is one of the languages.
+bool IsOffered(const std::vector<Language>& languages, const std::string& code);
+
+/// The codes of the languages.
+std::vector<std::string> LanguageCodes(const std::vector<Language>& languages);
+
 /// Texts of one language, merged from files of the form {"Section":{"KEY":"text"}}.
 class LanguageFiles : public Interface::LanguageSource {
   public:
-    /// Languages that the client offers, by their names in file names.
-    static const std::vector<std::string>& Offered();
+    /// The languages of a folder, in order of their codes: each has a file "client.<code>.json" there, whose
+    /// text LANGUAGE_NAME is the language's own name.
+    static std::vector<Language> In(const std::string& folder);
 
     /// Replaces all texts by those of the files "<component>.<language>.json" of a folder. A file that does
     /// not parse is left out and named among the complaints.
@@ -22,7 +35,9 @@ class LanguageFiles : public Interface::LanguageSource {
     /// Adds the texts of one file's content. False for one that is no object of objects of texts.
     bool Merge(const std::string& json);
 
-    const std::string& Language() const { return language_; }
+    const std::string& Code() const { return code_; }
+    /// The languages of the folder loaded last.
+    const std::vector<Language>& Offered() const { return offered_; }
     const std::vector<std::string>& Complaints() const { return complaints_; }
     /// Text of a key; the key itself when there is none, so that a gap is seen.
     std::string Text(const std::string& section, const std::string& key) const;
@@ -32,7 +47,8 @@ class LanguageFiles : public Interface::LanguageSource {
 
   private:
     std::map<std::pair<std::string, std::string>, std::string> texts_;
-    std::string language_;
+    std::string code_;
+    std::vector<Language> offered_;
     std::vector<std::string> complaints_;
 };
 

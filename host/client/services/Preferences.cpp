@@ -1,23 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/services/Preferences.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 
 #include <nlohmann/json.hpp>
 
 #include <tarvik/skin/Colours.h>
 #include <tarvik/util/DateTimeUtl.h>
 
-#include "host/client/services/LanguageFiles.h"
-
 namespace Tarvik::Client {
 
 namespace {
 
 void Take(const nlohmann::json& root, const char* key, std::string& field,
-          bool (*valid)(const std::string&)) {
+          const std::function<bool(const std::string&)>& valid) {
     const auto member = root.find(key);
     if (member == root.end() || !member->is_string()) {
         return;
@@ -30,17 +28,15 @@ void Take(const nlohmann::json& root, const char* key, std::string& field,
 
 }  // namespace
 
-Preferences Preferences::Read(const std::string& file) {
+Preferences Preferences::Read(const std::string& file, const std::vector<Language>& languages) {
     Preferences read;
     std::ifstream in(file, std::ios::binary);
     const auto root = in ? nlohmann::json::parse(in, nullptr, false) : nlohmann::json();
     if (!root.is_object()) {
         return read;
     }
-    Take(root, "language", read.language, [](const std::string& text) {
-        const auto& offered = LanguageFiles::Offered();
-        return std::find(offered.begin(), offered.end(), text) != offered.end();
-    });
+    Take(root, "language", read.language,
+         [&languages](const std::string& text) { return IsOffered(languages, text); });
     Take(root, "timeZone", read.timeZone,
          [](const std::string& text) { return Util::DateTimeUtl::IsKnownZone(text); });
     Take(root, "theme", read.theme,

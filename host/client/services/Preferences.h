@@ -2,6 +2,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "host/client/services/LanguageFiles.h"
 
 namespace Tarvik::Client {
 
@@ -20,8 +23,8 @@ struct Preferences {
     std::string user;
 
     /// What the file says; the usual values for whatever it lacks or says wrongly, and for a file that is
-    /// none.
-    static Preferences Read(const std::string& file);
+    /// none. A language that is not among `languages` is wrong.
+    static Preferences Read(const std::string& file, const std::vector<Language>& languages);
     /// Replaces the file in one step. False with a line that says what to do.
     bool Write(const std::string& file, std::string& error) const;
     bool operator==(const Preferences&) const = default;

@@ -56,7 +56,7 @@ bool ClientSession::Start(const SessionOptions& options, std::string& error) {
     WatchBus();
     Util::FileUtl::SetCurrentAppDirectory(folders_.Data());
     TakeOptions(options);
-    texts_.Load(folders_.Share() + "/lang", preferences_.language);
+    texts_.Load(folders_.Languages(), preferences_.language);
     for (const std::string& line : texts_.Complaints()) {
         log_.Write(line);
     }
@@ -76,7 +76,7 @@ bool ClientSession::Start(const SessionOptions& options, std::string& error) {
 }
 
 void ClientSession::TakeOptions(const SessionOptions& options) {
-    preferences_ = Preferences::Read(PreferencesFile());
+    preferences_ = Preferences::Read(PreferencesFile(), LanguageFiles::In(folders_.Languages()));
     if (!options.language.empty()) {
         preferences_.language = options.language;
     }
@@ -133,7 +133,7 @@ void ClientSession::LoadPlugins() {
 void ClientSession::KeepUser(const std::string& user) {
     preferences_.user = user;
     // Only the name is kept: what the command line chose for this time stays out of the file.
-    Preferences kept = Preferences::Read(PreferencesFile());
+    Preferences kept = Preferences::Read(PreferencesFile(), LanguageFiles::In(folders_.Languages()));
     if (std::exchange(kept.user, user) == user) {
         return;
     }
@@ -155,7 +155,7 @@ bool ClientSession::Prefer(const Preferences& preferences, std::string& error) {
     }
     preferences_ = preferences;
     if (before.language != preferences_.language) {
-        texts_.Load(folders_.Share() + "/lang", preferences_.language);
+        texts_.Load(folders_.Languages(), preferences_.language);
         Interface::Raise(Interface::Bus::SwitchLanguage);
     }
     if (before.timeZone != preferences_.timeZone) {

@@ -5,7 +5,6 @@
 
 #include <tarvik/skin/Colours.h>
 
-#include "host/client/services/LanguageFiles.h"
 #include "host/client/services/Preferences.h"
 
 namespace Tarvik::Client {
@@ -23,7 +22,8 @@ std::vector<std::string> ThemeNames() {
 /// Takes the options that are not the plan's own; everything else goes to the plan.
 class Sorter {
   public:
-    explicit Sorter(const std::vector<std::string>& words) : words_(words) {}
+    Sorter(const std::vector<std::string>& words, const std::vector<Language>& languages)
+        : words_(words), languages_(languages) {}
 
     CommandLine Run() {
         for (at_ = 0; at_ < words_.size() && line_.error.empty(); ++at_) {
@@ -62,7 +62,7 @@ class Sorter {
         if (word == "--theme") {
             line_.session.theme = Choice(word, ThemeNames());
         } else if (word == "--lang") {
-            line_.session.language = Choice(word, LanguageFiles::Offered());
+            line_.session.language = Choice(word, LanguageCodes(languages_));
         } else if (word == "--screenshot") {
             line_.screenshot = Value(word);
         } else if (word == "--panel") {
@@ -114,14 +114,15 @@ class Sorter {
     }
 
     const std::vector<std::string>& words_;
+    const std::vector<Language>& languages_;
     std::size_t at_ = 0;
     CommandLine line_;
 };
 
 }  // namespace
 
-CommandLine ParseCommandLine(const std::vector<std::string>& words) {
-    return Sorter(words).Run();
+CommandLine ParseCommandLine(const std::vector<std::string>& words, const std::vector<Language>& languages) {
+    return Sorter(words, languages).Run();
 }
 
 }  // namespace Tarvik::Client

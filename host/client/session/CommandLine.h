@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "host/client/services/LanguageFiles.h"
 #include "host/client/session/SessionOptions.h"
 
 namespace Tarvik::Client {
@@ -21,7 +22,7 @@ struct CommandLine {
 };
 
 /// Reads the program's words without its name. The options of both ways of running may stand anywhere before
-/// "--".
-CommandLine ParseCommandLine(const std::vector<std::string>& words);
+/// "--". `languages` are those that --lang may name.
+CommandLine ParseCommandLine(const std::vector<std::string>& words, const std::vector<Language>& languages);
 
 }  // namespace Tarvik::Client

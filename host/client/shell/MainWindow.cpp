@@ -223,7 +223,12 @@ void MainWindow::NextTheme() {
 
 void MainWindow::NextLanguage() {
     Preferences preferences = session_.Preferred();
-    preferences.language = preferences.language == "en-US" ? "zh-CN" : "en-US";
+    const std::vector<std::string> codes = LanguageCodes(session_.Texts().Offered());
+    if (codes.empty()) {
+        return;
+    }
+    const auto at = std::find(codes.begin(), codes.end(), preferences.language);
+    preferences.language = at == codes.end() || at + 1 == codes.end() ? codes.front() : *(at + 1);
     Prefer(preferences);
 }
 

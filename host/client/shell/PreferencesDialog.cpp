@@ -45,8 +45,9 @@ void PreferencesDialog::BuildFields(const LanguageFiles& texts) {
     auto* form = new QFormLayout(this);
     form->setSpacing(8);
     language_ = new QComboBox(this);
-    language_->addItem("English", "en-US");
-    language_->addItem(QString::fromUtf8("简体中文"), "zh-CN");
+    for (const Language& language : texts.Offered()) {
+        language_->addItem(QString::fromStdString(language.name), QString::fromStdString(language.code));
+    }
     language_->setCurrentIndex(language_->findData(QString::fromStdString(current_.language)));
     zone_ = new QComboBox(this);
     zone_->setEditable(true);

@@ -7,11 +7,15 @@ namespace Tarvik::Client {
 
 namespace {
 
+CommandLine Parsed(const std::vector<std::string>& words) {
+    return ParseCommandLine(words, {{"en-US", "English"}, {"zh-CN", "简体中文"}});
+}
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 
 TEST(CommandLine, WithoutWordsOpensTheWindow) {
-    const CommandLine line = ParseCommandLine({});
+    const CommandLine line = Parsed({});
     EXPECT_FALSE(line.plan);
     EXPECT_FALSE(line.help);
     EXPECT_EQ(line.error, "");
@@ -19,7 +23,7 @@ TEST(CommandLine, WithoutWordsOpensTheWindow) {
 
 TEST(CommandLine, GivesThePlanItsWordsAndKeepsTheCommonOptions) {
     const CommandLine line =
-        ParseCommandLine({"--data", "/d", "plan", "A", "--speed", "9", "--verbose", "B", "--format=json"});
+        Parsed({"--data", "/d", "plan", "A", "--speed", "9", "--verbose", "B", "--format=json"});
     EXPECT_TRUE(line.plan);
     EXPECT_TRUE(line.session.verbose);
     EXPECT_EQ(line.session.dataFolder, "/d");
@@ -27,18 +31,17 @@ TEST(CommandLine, GivesThePlanItsWordsAndKeepsTheCommonOptions) {
 }
 
 TEST(CommandLine, AValueOfAPlansOptionIsNoOptionOfItsOwn) {
-    EXPECT_THAT(ParseCommandLine({"plan", "A", "B", "--save", "--data"}).planWords,
+    EXPECT_THAT(Parsed({"plan", "A", "B", "--save", "--data"}).planWords,
                 ElementsAre("A", "B", "--save", "--data"));
 }
 
 TEST(CommandLine, LeavesWordsBehindADoubleDashAlone) {
-    EXPECT_THAT(ParseCommandLine({"plan", "A", "--", "--verbose"}).planWords,
-                ElementsAre("A", "--", "--verbose"));
+    EXPECT_THAT(Parsed({"plan", "A", "--", "--verbose"}).planWords, ElementsAre("A", "--", "--verbose"));
 }
 
 TEST(CommandLine, ReadsThePicturesOptions) {
     const CommandLine line =
-        ParseCommandLine({"--screenshot", "a.png", "--theme", "dark", "--lang", "zh-CN", "--panel", "3"});
+        Parsed({"--screenshot", "a.png", "--theme", "dark", "--lang", "zh-CN", "--panel", "3"});
     EXPECT_EQ(line.screenshot, "a.png");
     EXPECT_EQ(line.session.theme, "dark");
     EXPECT_EQ(line.session.language, "zh-CN");
@@ -46,25 +49,26 @@ TEST(CommandLine, ReadsThePicturesOptions) {
 }
 
 TEST(CommandLine, NamesABadWord) {
-    EXPECT_THAT(ParseCommandLine({"plain"}).error, HasSubstr("\"plain\""));
-    EXPECT_THAT(ParseCommandLine({"--theme", "pink"}).error, HasSubstr("\"pink\" of --theme"));
-    EXPECT_THAT(ParseCommandLine({"--data"}).error, HasSubstr("--data needs a value"));
-    EXPECT_THAT(ParseCommandLine({"--panel", "4"}).error, HasSubstr("\"4\" of --panel"));
+    EXPECT_THAT(Parsed({"plain"}).error, HasSubstr("\"plain\""));
+    EXPECT_THAT(Parsed({"--theme", "pink"}).error, HasSubstr("\"pink\" of --theme"));
+    EXPECT_THAT(Parsed({"--lang", "xx"}).error, HasSubstr("\"xx\" of --lang"));
+    EXPECT_THAT(Parsed({"--data"}).error, HasSubstr("--data needs a value"));
+    EXPECT_THAT(Parsed({"--panel", "4"}).error, HasSubstr("\"4\" of --panel"));
 }
 
 TEST(CommandLine, FindsTheVersion) {
-    EXPECT_TRUE(ParseCommandLine({"--version"}).version);
-    EXPECT_FALSE(ParseCommandLine({}).version);
+    EXPECT_TRUE(Parsed({"--version"}).version);
+    EXPECT_FALSE(Parsed({}).version);
 }
 
 TEST(CommandLine, TakesAServersAddressForBothWaysOfRunning) {
-    EXPECT_EQ(ParseCommandLine({"--server", "https://office:8470"}).session.server, "https://office:8470");
-    EXPECT_EQ(ParseCommandLine({"plan", "A", "B", "--server", "embedded"}).session.server, "embedded");
-    EXPECT_THAT(ParseCommandLine({"--server", "office"}).error, HasSubstr("\"office\" of --server"));
+    EXPECT_EQ(Parsed({"--server", "https://office:8470"}).session.server, "https://office:8470");
+    EXPECT_EQ(Parsed({"plan", "A", "B", "--server", "embedded"}).session.server, "embedded");
+    EXPECT_THAT(Parsed({"--server", "office"}).error, HasSubstr("\"office\" of --server"));
 }
 
 TEST(CommandLine, FindsHelpBesideThePlan) {
-    EXPECT_TRUE(ParseCommandLine({"plan", "--help"}).help);
+    EXPECT_TRUE(Parsed({"plan", "--help"}).help);
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ TEST(LanguageFiles, MergesAllComponentsOfTheLanguage) {
     texts.Load(folder.Path(), "zh-CN");
     EXPECT_EQ(texts.Find(u"B", u"B", u"X"), u"港");
     EXPECT_EQ(texts.Find(u"A", u"A", u"X"), std::nullopt);
-    EXPECT_EQ(texts.Language(), "zh-CN");
+    EXPECT_EQ(texts.Code(), "zh-CN");
 }
 
 TEST(LanguageFiles, AnUnknownKeyShowsItself) {
@@ -53,18 +53,38 @@ TEST(LanguageFiles, RefusesAnythingButObjectsOfTexts) {
     }
 }
 
-TEST(ClientTexts, AreCompleteInBothLanguages) {
+TEST(LanguageFiles, AFolderOffersTheLanguagesOfItsFilesByTheirOwnNames) {
+    TemporaryFolder folder;
+    folder.Write("client.nl-NL.json", R"({"Client":{"LANGUAGE_NAME":"Nederlands"}})");
+    folder.Write("client.de-DE.json", R"({"Client":{}})");
+    folder.Write("seaplan.fr-FR.json", "{}");
+    folder.Write("client..json", "{}");
+    const auto languages = LanguageFiles::In(folder.Path());
+    ASSERT_EQ(languages.size(), 2U);
+    EXPECT_EQ(languages[0].name, "de-DE") << "the code stands in for a name that is missing";
+    EXPECT_EQ(languages[1].code, "nl-NL");
+    EXPECT_EQ(languages[1].name, "Nederlands");
+    EXPECT_TRUE(IsOffered(languages, "nl-NL"));
+    EXPECT_FALSE(IsOffered(languages, "fr-FR"));
+    EXPECT_TRUE(LanguageFiles::In(folder.Path("none")).empty());
+}
+
+TEST(ClientTexts, AreCompleteInEveryLanguage) {
     const auto read = [](const std::string& language) {
         std::ifstream in(std::string(CLIENT_LANGUAGES) + "/client." + language + ".json");
         return nlohmann::json::parse(in).at("Client");
     };
     const auto english = read("en-US");
-    const auto chinese = read("zh-CN");
     ASSERT_GT(english.size(), 30U);
-    EXPECT_EQ(english.size(), chinese.size());
-    for (const auto& [key, text] : english.items()) {
-        EXPECT_TRUE(chinese.contains(key)) << key;
-        EXPECT_FALSE(text.get<std::string>().empty()) << key;
+    const auto languages = LanguageFiles::In(CLIENT_LANGUAGES);
+    ASSERT_GE(languages.size(), 2U);
+    for (const Language& language : languages) {
+        const auto texts = read(language.code);
+        EXPECT_EQ(english.size(), texts.size()) << language.code;
+        for (const auto& [key, text] : english.items()) {
+            EXPECT_TRUE(texts.contains(key)) << key;
+            EXPECT_FALSE(text.get<std::string>().empty()) << key;
+        }
     }
 }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "host/client/shell/PreferencesDialog.h"
+#include "host/client/tests/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -14,7 +15,17 @@ namespace {
 
 class PreferencesDialogTest : public testing::Test {
   protected:
-    LanguageFiles texts_;
+    /// Two languages without any text, so that every label shows its key.
+    static LanguageFiles TwoLanguages() {
+        const TemporaryFolder folder;
+        folder.Write("client.en-US.json", R"({"Client":{}})");
+        folder.Write("client.zh-CN.json", R"({"Client":{}})");
+        LanguageFiles texts;
+        texts.Load(folder.Path(), "en-US");
+        return texts;
+    }
+
+    LanguageFiles texts_ = TwoLanguages();
     Preferences current_;
     PreferencesDialog dialog_{nullptr, texts_, current_};
 };

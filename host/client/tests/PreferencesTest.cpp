@@ -8,9 +8,11 @@ namespace Tarvik::Client {
 
 namespace {
 
+const std::vector<Language> kLanguages{{"en-US", "English"}, {"zh-CN", "简体中文"}};
+
 TEST(Preferences, StartWithTheZoneInWhichTimesAreStored) {
     TemporaryFolder folder;
-    const Preferences usual = Preferences::Read(folder.Path("none.json"));
+    const Preferences usual = Preferences::Read(folder.Path("none.json"), kLanguages);
     EXPECT_EQ(usual, Preferences());
     EXPECT_EQ(usual.timeZone, "China Standard Time");
 }
@@ -22,20 +24,20 @@ TEST(Preferences, ComeBackAsTheyWereWritten) {
     written.timeZone = "UTC";
     std::string error;
     ASSERT_TRUE(written.Write(folder.Path("p.json"), error)) << error;
-    EXPECT_EQ(Preferences::Read(folder.Path("p.json")), written);
+    EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages), written);
     EXPECT_FALSE(std::filesystem::exists(folder.Path("p.json.new")));
 }
 
 TEST(Preferences, WrongValuesGiveWayToTheUsualOnes) {
     TemporaryFolder folder;
     folder.Write("p.json", R"({"language":"xx","timeZone":"Middle/Earth","theme":3,"server":"ftp"})");
-    const Preferences read = Preferences::Read(folder.Path("p.json"));
+    const Preferences read = Preferences::Read(folder.Path("p.json"), kLanguages);
     EXPECT_EQ(read.language, "en-US");
     EXPECT_EQ(read.timeZone, "China Standard Time");
     EXPECT_EQ(read.theme, "light");
     EXPECT_EQ(read.server, "");
     folder.Write("p.json", "{\"language\":\"zh-");
-    EXPECT_EQ(Preferences::Read(folder.Path("p.json")), Preferences());
+    EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages), Preferences());
 }
 
 TEST(Preferences, AFailedWriteSaysWhatToDoAndKeepsTheOldFile) {
@@ -45,7 +47,7 @@ TEST(Preferences, AFailedWriteSaysWhatToDoAndKeepsTheOldFile) {
     std::string error;
     EXPECT_FALSE(Preferences().Write(folder.Path("p.json"), error));
     EXPECT_NE(error.find("p.json"), std::string::npos);
-    EXPECT_EQ(Preferences::Read(folder.Path("p.json")).theme, "dark");
+    EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages).theme, "dark");
 }
 
 }  // namespace

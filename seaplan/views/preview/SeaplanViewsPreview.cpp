@@ -145,7 +145,7 @@ int main(int argc, char** argv) {
     font.setPixelSize(Skin::kTextPixels);
     QApplication::setFont(font);
     const std::string language = option(arguments, "--lang", "en-US");
-    const FileTexts texts(std::string(SEAPLAN_LANG_DIR) + "/" + language + ".json");
+    const FileTexts texts(std::string(SEAPLAN_LANG_DIR) + "/seaplan." + language + ".json");
     if (texts.Empty()) {
         return usage();
     }

@@ -15,7 +15,7 @@ namespace {
 
 class CalendarPopupTest : public ::testing::Test {
   protected:
-    FileTexts texts{std::string(SEAPLAN_LANG_DIR) + "/en-US.json"};
+    FileTexts texts{std::string(SEAPLAN_LANG_DIR) + "/seaplan.en-US.json"};
     TestSupport::ManualClock clock;
     CalendarPopup calendar{nullptr};
     std::vector<Util::_datetime_t> chosen;

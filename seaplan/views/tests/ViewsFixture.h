@@ -25,7 +25,7 @@ namespace Tarvik::Seaplan {
 /// Both windows over fakes with the sample voyages, driven as a person does it.
 class ViewsFixture : public ::testing::Test {
   protected:
-    FileTexts texts{std::string(SEAPLAN_LANG_DIR) + "/en-US.json"};
+    FileTexts texts{std::string(SEAPLAN_LANG_DIR) + "/seaplan.en-US.json"};
     TestSupport::ManualClock clock;
     TestSupport::RecordingMsgSink messages;
     VoyageStore store;

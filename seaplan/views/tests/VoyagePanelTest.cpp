@@ -265,7 +265,7 @@ TEST_F(ViewsFixture, TheWindowsFollowTheClientsTheme) {
 
 TEST_F(ViewsFixture, ALanguageSwitchReachesEveryText) {
     OpenPortCalls("Far East 12");
-    const FileTexts chinese(std::string(SEAPLAN_LANG_DIR) + "/zh-CN.json");
+    const FileTexts chinese(std::string(SEAPLAN_LANG_DIR) + "/seaplan.zh-CN.json");
     Interface::Raise(Interface::Bus::SwitchLanguage);
     EXPECT_EQ(Panel().windowTitle(), "航次");
     EXPECT_EQ(PortCalls().windowTitle(), "挂靠港");
