@@ -18,9 +18,9 @@
 #include <tarvik/skin/Icons.h>
 
 #include "host/client/shell/LoginDialog.h"
-#include "host/client/shell/PositionText.h"
 #include "host/client/shell/PreferencesDialog.h"
 #include "host/client/shell/Theme.h"
+#include "host/geo/Position.h"
 
 namespace Tarvik::Client {
 
@@ -284,7 +284,7 @@ void MainWindow::ShowHelp(const QString& topic, int width) {
 
 void MainWindow::OnCursor(const Interface::ChartPlace& place) {
     cursorKnown_ = true;
-    cursor_->setText(QString::fromStdString(PositionText(place.longitude, place.latitude)));
+    cursor_->setText(QString::fromStdString(Server::FormatPosition({place.longitude, place.latitude})));
 }
 
 }  // namespace Tarvik::Client

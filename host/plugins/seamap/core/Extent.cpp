@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/geo/Sphere.h"
+
 namespace Tarvik::Seamap {
 
 std::optional<Extent> Extent::FromCorners(const Interface::TrvMapExtent& corners) {
@@ -31,9 +33,9 @@ std::optional<Extent> Extent::Around(const std::vector<GeoPoint>& points) {
     std::vector<double> lons;
     Extent extent{0, 90, 0, -90};
     for (const GeoPoint& point : points) {
-        lons.push_back(NormaliseLongitude(point.lon));
-        extent.south = std::min(extent.south, point.lat);
-        extent.north = std::max(extent.north, point.lat);
+        lons.push_back(Server::WrapLongitude(point.x));
+        extent.south = std::min(extent.south, point.y);
+        extent.north = std::max(extent.north, point.y);
     }
     std::sort(lons.begin(), lons.end());
     // The widest empty stretch between neighbours stays outside; the extent starts behind it.
@@ -52,11 +54,11 @@ std::optional<Extent> Extent::Around(const std::vector<GeoPoint>& points) {
 }
 
 bool Extent::Contains(GeoPoint point) const {
-    if (point.lat < south || point.lat > north) {
+    if (point.y < south || point.y > north) {
         return false;
     }
-    const double turned = point.lon - 360.0 * std::floor((point.lon - west) / 360.0);
-    return turned <= east || (point.lon >= west && point.lon <= east);
+    const double turned = point.x - 360.0 * std::floor((point.x - west) / 360.0);
+    return turned <= east || (point.x >= west && point.x <= east);
 }
 
 }  // namespace Tarvik::Seamap

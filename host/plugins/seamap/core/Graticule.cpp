@@ -74,7 +74,7 @@ ScaleBar ScaleBar::For(const MercatorView& view, double longestPixels) {
     if (!view.HasSize()) {
         return bar;
     }
-    const double perPixel = view.MilesPerPixel(MercatorView::Unproject(view.Centre()).lat);
+    const double perPixel = view.MilesPerPixel(MercatorView::Unproject(view.Centre()).y);
     const double longest = perPixel * longestPixels;
     const double decade = std::pow(10.0, std::floor(std::log10(longest)));
     for (const double factor : {1.0, 2.0, 5.0}) {

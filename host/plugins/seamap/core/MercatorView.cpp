@@ -5,6 +5,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "host/geo/Sphere.h"
+
 namespace Tarvik::Seamap {
 
 namespace {
@@ -16,13 +18,13 @@ constexpr double kLeastHeightShare = 0.6;
 }  // namespace
 
 WorldPoint MercatorView::Project(GeoPoint point) {
-    const double lat = std::clamp(point.lat, -kDrawLatitude, kDrawLatitude) * kRadians;
-    return {(point.lon + 180.0) / 360.0, 0.5 - std::asinh(std::tan(lat)) / (2.0 * std::numbers::pi)};
+    const double lat = std::clamp(point.y, -kDrawLatitude, kDrawLatitude) * kRadians;
+    return {(point.x + 180.0) / 360.0, 0.5 - std::asinh(std::tan(lat)) / (2.0 * std::numbers::pi)};
 }
 
 GeoPoint MercatorView::Unproject(WorldPoint point) {
     const double lat = std::atan(std::sinh((0.5 - point.y) * 2.0 * std::numbers::pi)) / kRadians;
-    return {NormaliseLongitude(point.x * 360.0 - 180.0), lat};
+    return {Server::WrapLongitude(point.x * 360.0 - 180.0), lat};
 }
 
 std::int64_t MercatorView::StepSize(int step) {
@@ -115,10 +117,10 @@ WorldPoint MercatorView::ToWorld(PixelPoint point) const {
 Extent MercatorView::Visible() const {
     const GeoPoint upper = ToGeo({0, 0});
     const GeoPoint lower = ToGeo({0, static_cast<double>(height_)});
-    Extent extent{-180, lower.lat, 180, upper.lat};
+    Extent extent{-180, lower.y, 180, upper.y};
     if (width_ < size_) {
-        extent.west = upper.lon;
-        extent.east = upper.lon + 360.0 * width_ / static_cast<double>(size_);
+        extent.west = upper.x;
+        extent.east = upper.x + 360.0 * width_ / static_cast<double>(size_);
     }
     return extent;
 }

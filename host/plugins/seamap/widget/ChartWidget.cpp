@@ -266,7 +266,7 @@ void ChartWidget::Point(std::optional<PixelPoint> pixel) {
         return;
     }
     const GeoPoint place = view_.ToGeo(*pixel);
-    emit CursorMoved(place.lon, place.lat);
+    emit CursorMoved(place.x, place.y);
 }
 
 const ChartObject* ChartWidget::ObjectAt(PixelPoint pixel) {

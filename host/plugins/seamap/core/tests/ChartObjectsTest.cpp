@@ -147,7 +147,7 @@ TEST(ChartObjects, PointsCoverEveryKindOfObject) {
     objects.AddImage({{"L", "1", "I"}, "ship", "40,6"});
     const auto points = objects.Points();
     ASSERT_EQ(points.size(), 4u);
-    EXPECT_NEAR(points[0].lon, 10, 1e-9);
+    EXPECT_NEAR(points[0].x, 10, 1e-9);
     EXPECT_EQ(points[3], (GeoPoint{40, 6}));
 }
 

@@ -20,8 +20,8 @@ TEST(MercatorView, ProjectionRoundTripsOverTheWholeWorld) {
     for (double lon = -180; lon < 180; lon += 7.5) {
         for (double lat = -85; lat <= 85; lat += 2.5) {
             const GeoPoint back = MercatorView::Unproject(MercatorView::Project({lon, lat}));
-            EXPECT_NEAR(back.lon, lon, 1e-9);
-            EXPECT_NEAR(back.lat, lat, 1e-9);
+            EXPECT_NEAR(back.x, lon, 1e-9);
+            EXPECT_NEAR(back.y, lat, 1e-9);
         }
     }
 }
@@ -134,8 +134,8 @@ TEST(MercatorView, FitOnOnePointStopsAtTheLargestFit) {
     view.Resize(1000, 700);
     view.Fit({4.5, 51.9, 4.5, 51.9}, 30, 65536);
     EXPECT_EQ(view.WorldSize(), 65536);
-    EXPECT_NEAR(view.ToGeo({500, 350}).lon, 4.5, 0.01);
-    EXPECT_NEAR(view.ToGeo({500, 350}).lat, 51.9, 0.01);
+    EXPECT_NEAR(view.ToGeo({500, 350}).x, 4.5, 0.01);
+    EXPECT_NEAR(view.ToGeo({500, 350}).y, 51.9, 0.01);
 }
 
 TEST(MercatorView, VisibleOverTheDateLineHasAnEastAbove180) {

@@ -131,8 +131,8 @@ TEST_F(ChartServicesTest, ThePointerRaisesItsPlace) {
     const GeoPoint place = widget.View().ToGeo({200, 100});
     QTest::mouseMove(&widget, {200, 100});
     ASSERT_FALSE(listener.places.empty());
-    EXPECT_NEAR(listener.places.back().lon, place.lon, 1e-9);
-    EXPECT_NEAR(listener.places.back().lat, place.lat, 1e-9);
+    EXPECT_NEAR(listener.places.back().x, place.x, 1e-9);
+    EXPECT_NEAR(listener.places.back().y, place.y, 1e-9);
     Core::TrvKernel::Instance()->UnBindTrvEvent(Chart::ChartCursor.name, &listener.delegate);
 }
 

@@ -71,8 +71,8 @@ TEST_F(ChartWidgetTest, DraggingMovesThePlaceWithThePointer) {
     const GeoPoint before = chart_.View().ToGeo({400, 250});
     drag(from, to);
     const GeoPoint after = chart_.View().ToGeo({300, 200});
-    EXPECT_NEAR(after.lon, before.lon, 1e-9);
-    EXPECT_NEAR(after.lat, before.lat, 1e-9);
+    EXPECT_NEAR(after.x, before.x, 1e-9);
+    EXPECT_NEAR(after.y, before.y, 1e-9);
 }
 
 TEST_F(ChartWidgetTest, AFitIsPassedOverWhileAPersonDrags) {
@@ -131,16 +131,16 @@ TEST_F(ChartWidgetTest, KeysZoomAndPan) {
     QTest::keyClick(&chart_, Qt::Key_Minus);
     QTest::keyClick(&chart_, Qt::Key_Minus);
     EXPECT_LT(chart_.View().WorldSize(), start.WorldSize());
-    const double lon = chart_.View().ToGeo({400, 250}).lon;
+    const double lon = chart_.View().ToGeo({400, 250}).x;
     QTest::keyClick(&chart_, Qt::Key_Right);
-    EXPECT_GT(chart_.View().ToGeo({400, 250}).lon, lon);
+    EXPECT_GT(chart_.View().ToGeo({400, 250}).x, lon);
     QTest::keyClick(&chart_, Qt::Key_Left);
-    EXPECT_NEAR(chart_.View().ToGeo({400, 250}).lon, lon, 1e-9);
-    const double lat = chart_.View().ToGeo({400, 250}).lat;
+    EXPECT_NEAR(chart_.View().ToGeo({400, 250}).x, lon, 1e-9);
+    const double lat = chart_.View().ToGeo({400, 250}).y;
     QTest::keyClick(&chart_, Qt::Key_Up);
-    EXPECT_GT(chart_.View().ToGeo({400, 250}).lat, lat);
+    EXPECT_GT(chart_.View().ToGeo({400, 250}).y, lat);
     QTest::keyClick(&chart_, Qt::Key_Down);
-    EXPECT_NEAR(chart_.View().ToGeo({400, 250}).lat, lat, 1e-9);
+    EXPECT_NEAR(chart_.View().ToGeo({400, 250}).y, lat, 1e-9);
 }
 
 TEST_F(ChartWidgetTest, HomeShowsAllObjectsOverTheDateLineToo) {
@@ -185,8 +185,8 @@ TEST_F(ChartWidgetTest, ThePointerTellsItsPlaceAndHighlights) {
     const QImage plain = chart_.grab().toImage();
     QTest::mouseMove(&chart_, at({5, 5}));
     ASSERT_FALSE(places.empty());
-    EXPECT_NEAR(places.back().lon, 5, 0.05);
-    EXPECT_NEAR(places.back().lat, 5, 0.05);
+    EXPECT_NEAR(places.back().x, 5, 0.05);
+    EXPECT_NEAR(places.back().y, 5, 0.05);
     EXPECT_EQ(chart_.cursor().shape(), Qt::PointingHandCursor);
     EXPECT_NE(chart_.grab().toImage(), plain);
     QTest::mouseMove(&chart_, at({-10, -5}));

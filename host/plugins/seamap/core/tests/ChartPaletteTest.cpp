@@ -2,38 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "host/plugins/seamap/core/ChartPalette.h"
-#include "host/plugins/seamap/core/GeoPoint.h"
 
 namespace Tarvik::Seamap {
 
 namespace {
-
-TEST(ParsePosition, ReadsLongitudeFirst) {
-    EXPECT_EQ(ParsePosition("4.5,51.9"), (GeoPoint{4.5, 51.9}));
-    EXPECT_EQ(ParsePosition(" -179.99 , -1e1 "), (GeoPoint{-179.99, -10}));
-    EXPECT_EQ(ParsePosition("+3,0"), (GeoPoint{3, 0}));
-}
-
-TEST(ParsePosition, RefusesEverythingElse) {
-    for (const char* text : {"", ",", "1", "1,", ",1", "1;2", "1,2,3", "a,b", "1,2x", "nan,1", "1,inf",
-                             "0,90.1", "721,0", "+-3,0", "0x10,1"}) {
-        EXPECT_FALSE(ParsePosition(text)) << text;
-    }
-}
-
-TEST(NormaliseLongitude, StaysWithinOneTurn) {
-    EXPECT_DOUBLE_EQ(NormaliseLongitude(180), -180);
-    EXPECT_DOUBLE_EQ(NormaliseLongitude(-180), -180);
-    EXPECT_DOUBLE_EQ(NormaliseLongitude(541), -179);
-    EXPECT_DOUBLE_EQ(NormaliseLongitude(-181), 179);
-    EXPECT_DOUBLE_EQ(NormaliseLongitude(12.25), 12.25);
-}
-
-TEST(FormatPosition, WritesDegreesAndMinutes) {
-    EXPECT_EQ(FormatPosition({4.483333333, 51.908333333}), "51° 54.5' N 004° 29.0' E");
-    EXPECT_EQ(FormatPosition({-122.5, -0.0001}), "00° 00.0' N 122° 30.0' W");
-    EXPECT_EQ(FormatPosition({0.9999999, 59.9999999}), "60° 00.0' N 001° 00.0' E");
-}
 
 TEST(ChartPalette, ObjectColoursComeWithRedInTheLowestByte) {
     EXPECT_EQ(ChartPalette::Of(ChartPalette::Theme::Light).ObjectColour(0x6464E9), 0xE96464u);

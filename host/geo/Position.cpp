@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/GeoPoint.h"
+#include "host/geo/Position.h"
 
 #include <charconv>
 #include <cmath>
 
 #include <fmt/format.h>
 
-namespace Tarvik::Seamap {
+#include "host/geo/Sphere.h"
+
+namespace Tarvik::Server {
 
 namespace {
 
@@ -37,11 +39,6 @@ std::string DegreesAndMinutes(double value, int degreeDigits, char positive, cha
 
 }  // namespace
 
-double NormaliseLongitude(double lon) {
-    const double turned = lon - 360.0 * std::floor((lon + 180.0) / 360.0);
-    return turned >= 180.0 ? turned - 360.0 : turned;
-}
-
 std::optional<GeoPoint> ParsePosition(std::string_view text) {
     const auto comma = text.find(',');
     if (comma == std::string_view::npos) {
@@ -56,8 +53,8 @@ std::optional<GeoPoint> ParsePosition(std::string_view text) {
 }
 
 std::string FormatPosition(GeoPoint point) {
-    return DegreesAndMinutes(point.lat, 2, 'N', 'S') + " " +
-           DegreesAndMinutes(NormaliseLongitude(point.lon), 3, 'E', 'W');
+    return DegreesAndMinutes(point.y, 2, 'N', 'S') + " " +
+           DegreesAndMinutes(WrapLongitude(point.x), 3, 'E', 'W');
 }
 
-}  // namespace Tarvik::Seamap
+}  // namespace Tarvik::Server
