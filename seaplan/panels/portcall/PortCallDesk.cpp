@@ -95,12 +95,4 @@ bool PortCallDesk::Ask(TextId id) {
     return yes;
 }
 
-void KeepPortIds(const PortCallRows& from, PortCallRows& to) {
-    for (std::size_t i = 0; i < to.size() && i < from.size(); ++i) {
-        if (to[i].ppn == from[i].ppn) {
-            to[i].ppi = from[i].ppi;
-        }
-    }
-}
-
 }  // namespace Tarvik::Seaplan

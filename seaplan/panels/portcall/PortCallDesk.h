@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "seaplan/controllers/PortIds.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/TextKeys.h"
@@ -94,8 +95,5 @@ class PortCallDesk {
     bool told_ = false;  ///< the window has been told anything yet
     int reports_ = 0;    ///< reports under way, one inside the other
 };
-
-/// Gives each row the port id of the row at its place, as a schedule pass drops them. The names must agree.
-void KeepPortIds(const PortCallRows& from, PortCallRows& to);
 
 }  // namespace Tarvik::Seaplan
