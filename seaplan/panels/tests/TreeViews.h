@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "seaplan/panels/tree/TreeRows.h"
+#include "seaplan/panels/vessel/VesselView.h"
+#include "seaplan/panels/window/ChoicePopup.h"
+#include "seaplan/panels/window/TextBox.h"
+
+namespace Tarvik::Seaplan {
+
+/// Rows in places that the test sets.
+class RecordingTree final : public TreeRows {
+  public:
+    int rowTop = 40;  ///< top of every row in pixels
+    void* windowAtPointer = nullptr;
+    std::vector<bool> enabled;  ///< every change, in order
+
+    Rect GetItemRect(TreeRow) const override { return {0, rowTop, 290, rowTop + 30}; }
+    void ShowAtPointer(void* window) override { windowAtPointer = window; }
+    void SetEnabled(bool on) override { enabled.push_back(on); }
+    void* Handle() const override { return nullptr; }
+
+    /// Texts of the rows, voyages indented by two blanks.
+    std::vector<std::string> Shown() const {
+        std::vector<std::string> out;
+        for (TreeRow row = GetRootItem(); row != kNoRow; row = GetNextSiblingItem(row)) {
+            out.push_back(GetItemText(row));
+            for (TreeRow child = GetChildItem(row); child != kNoRow; child = GetNextSiblingItem(child)) {
+                out.push_back("  " + GetItemText(child));
+            }
+        }
+        return out;
+    }
+    TreeRow Find(const std::string& text) const {
+        for (TreeRow row = GetRootItem(); row != kNoRow; row = GetNextSiblingItem(row)) {
+            if (GetItemText(row) == text) {
+                return row;
+            }
+            for (TreeRow child = GetChildItem(row); child != kNoRow; child = GetNextSiblingItem(child)) {
+                if (GetItemText(child) == text) {
+                    return child;
+                }
+            }
+        }
+        return kNoRow;
+    }
+};
+
+/// A box in which the test types.
+class RecordingTextBox final : public TextBox {
+  public:
+    std::string text;
+    Rect place;
+    int limit = 0;
+    bool open = false;
+
+    void Show(const Rect& at, const std::string& shown, int maxUnits) override {
+        place = at;
+        text = shown;
+        limit = maxUnits;
+        open = true;
+    }
+    void Hide() override { open = false; }
+    bool IsVisible() const override { return open; }
+    std::string Text() const override { return text; }
+};
+
+/// The vessel box as the test sees it.
+class RecordingVesselView final : public VesselView {
+  public:
+    Rect place;
+    bool box = false;
+    std::string text;
+    bool list = false;
+    std::vector<std::string> names;
+    VesselListSize size;
+    void ShowBox(const Rect& inTree, const std::string& shown) override {
+        place = inTree;
+        text = shown;
+        box = true;
+    }
+    void HideBox() override { box = false; }
+    bool BoxVisible() const override { return box; }
+    std::string BoxText() const override { return text; }
+    void ShowList(const std::vector<std::string>& shown, const VesselListSize& listSize) override {
+        names = shown;
+        size = listSize;
+        list = true;
+    }
+    void HideList() override { list = false; }
+    bool ListVisible() const override { return list; }
+};
+
+/// A popup of choices as the test sees it.
+class RecordingChoices final : public ChoicePopup {
+  public:
+    std::vector<Choice> choices;
+    bool visible = false;
+    int width = 0;
+    int height = 0;
+
+    void SetChoices(const std::vector<Choice>& given) override { choices = given; }
+    void Show(int wide, int high) override {
+        width = wide;
+        height = high;
+        visible = true;
+    }
+    void Hide() override { visible = false; }
+    bool IsVisible() const override { return visible; }
+    /// The ticked line, nothing when none is.
+    std::optional<TextId> Ticked() const {
+        for (const Choice& choice : choices) {
+            if (choice.ticked) {
+                return choice.id;
+            }
+        }
+        return std::nullopt;
+    }
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include <tarvik/interface/SysMsgSink.h>
+
+#include "seaplan/panels/TextKeys.h"
+
+namespace Tarvik::Seaplan {
+
+/// The window behind a box.
+class BoxOwner {
+  public:
+    virtual ~BoxOwner() = default;
+    virtual void SetEnabled(bool enabled) = 0;
+    /// Opaque handle of the window.
+    virtual void* Handle() const = 0;
+};
+
+/// Message boxes of one window: level 1, and no title but a refusal's. The window is disabled while a box is
+/// up.
+class Boxes {
+  public:
+    explicit Boxes(BoxOwner& owner) : owner_(&owner) {}
+
+    void Notice(TextId id);
+    /// A text that is made of more than its key.
+    void NoticeText(const std::string& text);
+    /// True for yes.
+    bool Question(TextId id);
+    /// True for OK.
+    bool Confirm(TextId id);
+    /// Tells that something was not done, in words without a key.
+    void Refusal(const std::string& text, const std::string& title);
+
+  private:
+    Interface::SysMsgHandleRes Ask(const std::string& text, int kind, const std::string& title);
+
+    BoxOwner* owner_;
+    int open_ = 0;
+};
+
+}  // namespace Tarvik::Seaplan

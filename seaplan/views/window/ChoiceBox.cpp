@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/window/ChoiceBox.h"
+
+#include <QCheckBox>
+#include <QCursor>
+#include <QMouseEvent>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <utility>
+
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/views/ViewText.h"
+
+namespace Tarvik::Seaplan {
+
+ChoiceBox::ChoiceBox(QWidget* parent, Kind kind, QWidget* anchor, std::map<TextId, const char*> names)
+    : QFrame(parent, Qt::Popup), kind_(kind), anchor_(anchor), names_(std::move(names)) {
+    setObjectName(QStringLiteral("popup"));
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(8, 4, 8, 4);
+    rows->setSpacing(2);
+    ApplySkin();
+}
+
+void ChoiceBox::ApplySkin() {
+    setStyleSheet(SkinStyleSheet());
+}
+
+QAbstractButton* ChoiceBox::ButtonOf(TextId id) {
+    QAbstractButton*& button = buttons_[id];
+    if (button != nullptr) {
+        return button;
+    }
+    if (kind_ == Kind::Checks) {
+        button = new QCheckBox(this);
+    } else {
+        button = new QRadioButton(this);
+    }
+    const auto name = names_.find(id);
+    button->setObjectName(name == names_.end() ? QString() : QString::fromLatin1(name->second));
+    layout()->addWidget(button);
+    QObject::connect(button, &QAbstractButton::clicked, this, [this, id] {
+        if (chosen_) {
+            chosen_(id);
+        }
+    });
+    return button;
+}
+
+void ChoiceBox::SetChoices(const std::vector<Choice>& choices) {
+    for (const Choice& choice : choices) {
+        QAbstractButton* button = ButtonOf(choice.id);
+        button->setText(ViewText(choice.id));
+        Describe(button, button->text());
+        // Radio buttons would keep one of them ticked.
+        button->setAutoExclusive(false);
+        button->setChecked(choice.ticked);
+    }
+    for (const auto& [id, button] : buttons_) {
+        button->setAutoExclusive(kind_ == Kind::Radios);
+    }
+}
+
+void ChoiceBox::Show(int width, int height) {
+    setFixedSize(width, height);
+    move(anchor_ == nullptr ? QCursor::pos() : anchor_->mapToGlobal(QPoint(0, anchor_->height() + 1)));
+    show();
+}
+
+void ChoiceBox::mousePressEvent(QMouseEvent* event) {
+    const bool onAnchor = anchor_ != nullptr &&
+                          anchor_->rect().contains(anchor_->mapFromGlobal(event->globalPosition().toPoint()));
+    setAttribute(Qt::WA_NoMouseReplay, onAnchor);
+    QFrame::mousePressEvent(event);
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractButton>
+#include <QFrame>
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "seaplan/panels/window/ChoicePopup.h"
+
+namespace Tarvik::Seaplan {
+
+/// A popup of check or radio buttons.
+class ChoiceBox final : public QFrame, public ChoicePopup {
+  public:
+    enum class Kind { Checks, Radios };
+    /// Opens below `anchor`, one pixel apart, or at the pointer without one. `names` are the object names of
+    /// the buttons.
+    ChoiceBox(QWidget* parent, Kind kind, QWidget* anchor, std::map<TextId, const char*> names);
+    /// Told of the line that was pressed.
+    void SetReport(std::function<void(TextId)> chosen) { chosen_ = std::move(chosen); }
+    void ApplySkin();
+
+    void SetChoices(const std::vector<Choice>& choices) override;
+    void Show(int width, int height) override;
+    void Hide() override { hide(); }
+    bool IsVisible() const override { return isVisible(); }
+
+  protected:
+    /// A press on the anchor closes the box and goes no further, or it would open it again.
+    void mousePressEvent(QMouseEvent* event) override;
+
+  private:
+    QAbstractButton* ButtonOf(TextId id);
+
+    Kind kind_;
+    QWidget* anchor_;
+    std::map<TextId, const char*> names_;
+    std::map<TextId, QAbstractButton*> buttons_;
+    std::function<void(TextId)> chosen_;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/window/FloatingPanel.h"
+
+#include <tarvik/interface/HelpRequest.h>
+
+namespace Tarvik::Seaplan {
+
+QRect ToQt(const Rect& rect) {
+    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+}
+
+Rect OnScreen(const QWidget& widget) {
+    const QPoint corner = widget.mapToGlobal(QPoint(0, 0));
+    return {corner.x(), corner.y(), corner.x() + widget.width(), corner.y() + widget.height()};
+}
+
+FloatingPanel::FloatingPanel(QWidget* mainView, const QString& name, const Hints& hints)
+    : ToolWindow(mainView, name), hints_(hints) {}
+
+void FloatingPanel::AddHelpAndClose() {
+    help_ = AddCaptionButton("helpButton", "help");
+    close_ = AddCaptionButton("closeButton", "close");
+    help_->setShortcut(QKeySequence(Qt::Key_F1));
+    close_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
+    QObject::connect(help_, &QToolButton::clicked, this, [this] {
+        if (reports_.help) {
+            reports_.help();
+        }
+    });
+    QObject::connect(close_, &QToolButton::clicked, this, [this] { CloseAsked(); });
+}
+
+void FloatingPanel::DescribeHelpAndClose() {
+    Describe(help_, ViewText(hints_.help));
+    Describe(close_, ViewText(hints_.close));
+}
+
+void FloatingPanel::PlaceAt(const Rect& screen) {
+    setGeometry(ToQt(screen));
+}
+
+void FloatingPanel::MoveCorner(Point corner) {
+    move(corner.x, corner.y);
+}
+
+void FloatingPanel::Raise() {
+    show();
+    raise();
+    FocusFirst();
+}
+
+void FloatingPanel::ShowCaption(const std::string& text, bool changed) {
+    ToolWindow::SetCaption(QString::fromStdString(text));
+    SetChangedMark(changed, ViewText(TextId::IDS_VIEW_CHANGED));
+}
+
+void FloatingPanel::SendHelp(const std::string& topic, int width, int height) {
+    SendHelpRequest(parentWidget(), topic, width, height);
+}
+
+void FloatingPanel::SurfacePressed() {
+    if (reports_.surfacePressed) {
+        reports_.surfacePressed();
+    }
+}
+
+void FloatingPanel::CloseAsked() {
+    if (reports_.close) {
+        reports_.close();
+    }
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/window/Rect.h"
+#include "seaplan/views/ViewText.h"
+
+namespace Tarvik::Seaplan {
+
+QRect ToQt(const Rect& rect);
+/// Where a widget stands on the screen.
+Rect OnScreen(const QWidget& widget);
+
+/// What all floating panels have in common: help and close at the end of the caption, with F1 and Ctrl+W, and
+/// the operations behind PanelWindow.
+class FloatingPanel : public ToolWindow {
+  public:
+    /// Texts of the two buttons.
+    struct Hints {
+        TextId help{};
+        TextId close{};
+    };
+    /// What the person does, set by the owner; a report that is not set is dropped.
+    struct Reports {
+        std::function<void()> help;
+        std::function<void()> close;
+        std::function<void()> surfacePressed;
+    };
+
+    FloatingPanel(QWidget* mainView, const QString& name, const Hints& hints);
+    void SetReports(Reports reports) { reports_ = std::move(reports); }
+    void PlaceAt(const Rect& screen);
+    void MoveCorner(Point corner);
+    void Raise();
+    void ShowCaption(const std::string& text, bool changed);
+    void SendHelp(const std::string& topic, int width, int height);
+
+  protected:
+    /// Called by a panel behind its own caption buttons.
+    void AddHelpAndClose();
+    void DescribeHelpAndClose();
+    /// Puts the keyboard into the window's first control, unless it is in one already.
+    virtual void FocusFirst() = 0;
+    void SurfacePressed() override;
+    void CloseAsked() override;
+
+  private:
+    Hints hints_;
+    Reports reports_;
+    QToolButton* help_ = nullptr;
+    QToolButton* close_ = nullptr;
+};
+
+/// The window of a panel, by its interface: what PanelWindow asks is answered here once.
+template <class View>
+class PanelFrame : public FloatingPanel, public View {
+  public:
+    using FloatingPanel::FloatingPanel;
+
+    bool IsVisible() const override { return isVisible(); }
+    void Show() override { Raise(); }
+    void Hide() override { hide(); }
+    void Place(const Rect& screen) override { PlaceAt(screen); }
+    void MoveTo(Point corner) override { MoveCorner(corner); }
+    Rect PlaceOnScreen() const override { return OnScreen(*this); }
+    void SetEnabled(bool enabled) override { setEnabled(enabled); }
+    void* Handle() const override { return const_cast<PanelFrame*>(this); }
+    void SetCaption(const std::string& text, bool changed) override { ShowCaption(text, changed); }
+    void RequestHelp(const std::string& topic, int width, int height) override {
+        SendHelp(topic, width, height);
+    }
+};
+
+}  // namespace Tarvik::Seaplan
