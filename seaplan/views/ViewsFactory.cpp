@@ -6,8 +6,6 @@
 
 #include <tarvik/core/TrvKernel.h>
 
-#include "seaplan/panels/services/AisControllerCommands.h"
-#include "seaplan/panels/services/ControllerCommands.h"
 #include "seaplan/views/VoyageViews.h"
 
 namespace Tarvik::Seaplan {
@@ -19,12 +17,7 @@ class ControlledViews {
   public:
     ControlledViews(const ViewsDependencies& given, QWidget* mainView)
         : voyages_(given.voyages),
-          catalog_(given.catalog),
-          schedule_(given.voyages),
-          ais_(given.voyages, given.catalog),
-          views_({*given.store, catalog_, schedule_, *given.ports, mainView}) {
-        views_.Tree().SetAisCommands(&ais_);
-        views_.PortCalls().SetAisCommands(&ais_);
+          views_({*given.store, *given.catalog, *given.voyages, *given.ports, mainView}) {
         voyages_->SetTreeVisible([this] { return views_.TreeVisible(); });
         voyages_->Module().SetRouteListener([this] { views_.PortCalls().Commands().OnRouteChosen(); });
         // Windows must be gone before the application object is, and panels with their windows.
@@ -45,9 +38,6 @@ class ControlledViews {
 
   private:
     VoyController* voyages_;
-    CatalogControllerCommands catalog_;
-    ScheduleControllerCommands schedule_;
-    AisControllerCommands ais_;
     VoyageViews views_;
 };
 

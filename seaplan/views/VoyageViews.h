@@ -5,6 +5,8 @@
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/services/AisControllerCommands.h"
+#include "seaplan/panels/services/ControllerCommands.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
 
@@ -16,8 +18,8 @@ class VoyageViews final {
   public:
     struct Parts {
         VoyageStore& store;
-        CatalogCommands& catalog;
-        ScheduleCommands& schedule;
+        VoyCatalogController& catalog;
+        VoyController& voyages;
         PortDirectory& ports;
         QWidget* mainView;  ///< null for windows of their own
     };
@@ -38,6 +40,8 @@ class VoyageViews final {
   private:
     void ShowSaved(const std::string& vi);
 
+    ScheduleControllerCommands schedule_;
+    AisControllerCommands ais_;
     QPointer<VoyagePanelWindow> voyageWindow_;
     QPointer<PortCallWindow> portCallWindow_;
     SeaplanTreeCtrl tree_;

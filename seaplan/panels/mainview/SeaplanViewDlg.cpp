@@ -16,7 +16,8 @@ constexpr const char* kHelpTopic = "func033";
 
 }  // namespace
 
-SeaplanViewDlg::SeaplanViewDlg(const Parts& parts) : p_(parts) {}
+SeaplanViewDlg::SeaplanViewDlg(const Parts& parts)
+    : p_(parts), filter_(parts.filterPopup, parts.tree, [this] { return RecoverAll(); }) {}
 
 void SeaplanViewDlg::RegisterHost() {
     namespace Bus = Interface::Bus;
@@ -44,33 +45,36 @@ void SeaplanViewDlg::OnShowPanel(const Interface::PanelShow& show) {
 void SeaplanViewDlg::Toggle() {
     if (p_.window.IsVisible()) {
         Hide();
-        p_.schedule.StopTimer();
+        p_.voyages.StopTimer();
         return;
     }
     if (p_.store.categories.empty() && p_.tree.ReloadTree() != 0) {
         return;
     }
-    p_.schedule.RefreshVesselPositions();
+    p_.voyages.RefreshVesselPositions();
     p_.tree.OnViewShown(true);
     p_.window.Place(kToggledPlace);
     p_.window.Show();
-    if (p_.tree.EnsureCategory() == 0) {
-        p_.schedule.StartTimer();
+    if (p_.tree.Categories().Ensure() == 0) {
+        p_.voyages.StartTimer();
     }
 }
 
 void SeaplanViewDlg::Hide() {
+    filter_.Hide();
     p_.window.Hide();
     p_.tree.OnViewShown(false);
 }
 
 void SeaplanViewDlg::ApplyLanguage() {
     p_.tree.ApplyLanguage();
+    filter_.ApplyLanguage();
+    p_.window.SetCaption(Text(TextId::IDS_TREE_VOYTITLE), false);
     p_.window.ApplyTexts();
 }
 
 void SeaplanViewDlg::OnLogout() {
-    p_.schedule.ClearChart();
+    p_.voyages.ClearChart();
     p_.tree.Context().tree.DeleteAllItems();
     p_.store.Clear();
     Hide();
@@ -129,18 +133,9 @@ int SeaplanViewDlg::RecoverAll() {
     return p_.tree.ReloadTree() == 0 ? 0 : -3;
 }
 
-void SeaplanViewDlg::ToggleFilter() {
-    if (p_.window.FilterVisible()) {
-        p_.window.HideFilter();
-    } else {
-        p_.window.ShowFilter(p_.tree.ShowsDeleted());
-    }
-}
-
 int SeaplanViewDlg::AddCategory() {
-    const std::string name =
-        p_.catalog.MakeUniqueName(Text(TextId::IDS_TREE_NEWVOYCATEGORY), p_.tree.Context().categoryNames);
-    return p_.tree.AddCategory(name) == 0 ? 0 : -1;
+    CategoryCommands& categories = p_.tree.Categories();
+    return categories.Add(categories.NewName()) == 0 ? 0 : -1;
 }
 
 void SeaplanViewDlg::RequestHelp() {

@@ -7,8 +7,9 @@
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TObject.h>
 
-#include "seaplan/panels/mainview/MainViewWindow.h"
+#include "seaplan/panels/mainview/FltTreeFilterDlg.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/panels/window/PanelWindow.h"
 
 namespace Tarvik::Seaplan {
 
@@ -20,9 +21,10 @@ class SeaplanViewDlg final : public Core::TObject {
   public:
     struct Parts {
         VoyageStore& store;
-        CatalogCommands& catalog;
-        ScheduleCommands& schedule;
-        MainViewWindow& window;
+        VoyCatalogController& catalog;
+        VoyController& voyages;
+        PanelWindow& window;
+        ChoicePopup& filterPopup;
         SeaplanTreeCtrl& tree;
         CPortCallPanelDlg* portCalls;  ///< null while there is none
     };
@@ -36,8 +38,7 @@ class SeaplanViewDlg final : public Core::TObject {
     /// Everything out of the recycle bin. -1 a category, -2 a voyage, -3 the reload failed.
     int RecoverAll();
     void Hide();
-    void ToggleFilter();
-    void SetShowDeleted(bool shown) { p_.tree.SetShowDeleted(shown); }
+    FltTreeFilterDlg& Filter() { return filter_; }
     /// -1 when the category cannot be made.
     int AddCategory();
     void RequestHelp();
@@ -52,6 +53,7 @@ class SeaplanViewDlg final : public Core::TObject {
     void Toggle();
 
     Parts p_;
+    FltTreeFilterDlg filter_;
     Interface::Binding showPanel_;
     Interface::Binding switchLanguage_;
     Interface::Binding logout_;

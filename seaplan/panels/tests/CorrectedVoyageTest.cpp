@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tests/FakeAis.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
-#include "seaplan/panels/tests/TreeFixture.h"
 
 namespace Tarvik::Seaplan {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::Not;
 
 namespace {
 
@@ -160,88 +158,6 @@ TEST_F(CorrectedPanelTest, AFreshCorrectionMustBeRecalculatedOrSaved) {
     panel.Commands().OnSave();
     EXPECT_EQ(view.state.calculateText, "zh IDS_PORTCALL_COMPUTE");
     EXPECT_FALSE(view.state.changed);
-}
-
-namespace {
-
-class CorrectingTreeTest : public TreeFixture {
-  protected:
-    class Panel final : public PortCallOpener {
-      public:
-        std::vector<std::string> calls;
-        void SetVoyage(const std::string& vi) override { calls.push_back("SetVoyage " + vi); }
-        int FillForVoyage(int) override { return 0; }
-        void Reset() override {}
-        void ShowBesideTree() override { calls.emplace_back("Show"); }
-        int ShowAisCorrection() override {
-            calls.emplace_back("Correction");
-            return 0;
-        }
-        void SetCorrectionTime(const std::string& time) override { calls.push_back("Time " + time); }
-    };
-    FakeAis ais{store};
-    Panel panel;
-
-    CorrectingTreeTest() {
-        ctrl.SetAisCommands(&ais);
-        ctrl.SetPortCallPanel(&panel);
-        AddCategory("1", "Full");
-        AddVoyage("1", "10", "A");
-        ctrl.ReloadTree();
-        clock.SetUtc(2024, 3, 1, 20);
-    }
-    VoyInfo& Voyage() { return store.voyages["10"]; }
-    std::string ClickModify() {
-        messages.messages.clear();
-        Click("A", "Voyage_modify");
-        return messages.messages.empty() ? "" : messages.messages.back().text;
-    }
-};
-
-}  // namespace
-
-TEST_F(CorrectingTreeTest, EveryMissingConditionIsNamed) {
-    EXPECT_EQ(ClickModify(), "IDS_TREE_WARNMODAIS");
-    Voyage().vsi = "7";
-    Voyage().vsn = "ANNA";
-    EXPECT_EQ(ClickModify(), "IDS_TREE_AISMODNOPORTINFWARN");
-    Voyage().portCalls = TwoCalls(5);
-    EXPECT_EQ(ClickModify(), "IDS_TREE_NOTSEALFORAISMOD");
-    Voyage().portCalls = TwoCalls(1);
-    EXPECT_EQ(ClickModify(), "IDS_TREE_NOTFINDSHIPFORAISMOD");
-    Voyage().lastPosText = "4.100,52.000";
-    EXPECT_EQ(ClickModify(), "IDS_TREE_NOTUPDATEFORAISMOD");
-    EXPECT_TRUE(ais.calls.empty());
-    Voyage().lastPosTime = 1709294400;
-    ais.refused = {"ApplyAisPosition"};
-    EXPECT_EQ(ClickModify(), "IDS_PORTCALL_AISCOMPUTWARN");
-    EXPECT_THAT(panel.calls, Not(Contains("Correction")));
-}
-
-TEST_F(CorrectingTreeTest, ACorrectionOpensThePanelWithItsTime) {
-    Voyage().vsi = "7";
-    Voyage().vsn = "ANNA";
-    Voyage().portCalls = TwoCalls(1);
-    Voyage().lastPosText = "4.100,52.000";
-    Voyage().lastPosTime = 1709294400;
-    Voyage().vr = 1;
-    ais.applied = 1;
-    ctrl.OnRowPressed(tree.Find("A"));
-    EXPECT_EQ(ClickModify(), "");
-    EXPECT_THAT(panel.calls, ElementsAre("SetVoyage 10", "Time 2024-03-01 12:00:00", "Correction", "Show"));
-    schedule.calls.clear();
-    ctrl.OnRowPressed(tree.Find("A"));
-    EXPECT_FALSE(schedule.Called("ShowVoyage 10")) << "the first press leaves the chart alone";
-    ctrl.OnRowPressed(tree.Find("A"));
-    EXPECT_TRUE(schedule.Called("ShowVoyage 10"));
-}
-
-TEST_F(CorrectingTreeTest, WithoutTheServiceTheItemHasNoCommand) {
-    EXPECT_TRUE(ctrl.HasCommand("Voyage_modify"));
-    ctrl.SetAisCommands(nullptr);
-    EXPECT_FALSE(ctrl.HasCommand("Voyage_modify"));
-    EXPECT_EQ(Click("A", "Voyage_modify"), 1);
-    EXPECT_TRUE(messages.messages.empty());
 }
 
 }  // namespace Tarvik::Seaplan

@@ -3,36 +3,18 @@
 #include <tarvik/interface/BusContract.h>
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/panels/tests/RecordingPanelWindow.h"
 #include "seaplan/panels/tests/TreeFixture.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-class RecordingWindow final : public MainViewWindow {
-  public:
-    bool visible = false;
-    bool filter = false;
-    Rect place;
-    std::string help;
-    bool IsVisible() const override { return visible; }
-    void Place(const Rect& screen) override { place = screen; }
-    void Show() override { visible = true; }
-    void Hide() override { visible = false; }
-    void ApplyTexts() override { ++textsApplied; }
-    bool FilterVisible() const override { return filter; }
-    void ShowFilter(bool) override { filter = true; }
-    void HideFilter() override { filter = false; }
-    void RequestHelp(const std::string& topic, int width, int height) override {
-        help = topic + " " + std::to_string(width) + "x" + std::to_string(height);
-    }
-    int textsApplied = 0;
-};
-
 class SeaplanViewDlgTest : public TreeFixture {
   protected:
-    RecordingWindow window;
-    SeaplanViewDlg panel{{store, catalog, schedule, window, ctrl, nullptr}};
+    RecordingPanelWindow<PanelWindow> window;
+    RecordingChoices filterPopup;
+    SeaplanViewDlg panel{{store, desk.catalog, desk.voyages, window, filterPopup, ctrl, nullptr}};
 
     SeaplanViewDlgTest() { panel.RegisterHost(); }
     void Toggle(int code = 3) {
@@ -43,141 +25,169 @@ class SeaplanViewDlgTest : public TreeFixture {
         const char* answer = Interface::Call(Interface::Bus::AddVessel, &vi);
         return answer == nullptr ? "ok" : answer;
     }
-    long Loads() const { return std::count(catalog.calls.begin(), catalog.calls.end(), "Load"); }
+    long Loads() const { return desk.Count(Ask::kLoad); }
+    std::size_t Timers() const { return desk.timer.Running(); }
 };
 
 }  // namespace
 
 TEST_F(SeaplanViewDlgTest, TheChartsButtonShowsAndHidesThePanelWithItsTimer) {
-    AddCategory("1", "Full");
+    desk.AddCategory("Full");
     Toggle();
     EXPECT_TRUE(window.visible);
     EXPECT_EQ(window.place, (Rect{150, 240, 460, 700}));
-    EXPECT_EQ(schedule.timers, 1);
+    EXPECT_EQ(Timers(), 1U);
     Toggle();
     EXPECT_FALSE(window.visible);
-    EXPECT_EQ(schedule.timers, 0);
-    EXPECT_TRUE(schedule.Called("ClearChart"));
+    EXPECT_EQ(Timers(), 0U);
+    EXPECT_EQ(Clearings(), 1);
 }
 
 TEST_F(SeaplanViewDlgTest, AnotherPanelCodeOrNoPayloadChangesNothing) {
     Toggle(21);
     Interface::Raise<const Interface::PanelShow>(Interface::Bus::ShowPanel, nullptr);
     EXPECT_FALSE(window.visible);
-    EXPECT_TRUE(catalog.calls.empty());
+    EXPECT_TRUE(desk.host.requests.empty());
 }
 
 TEST_F(SeaplanViewDlgTest, AnotherPanelCodeLeavesAVisiblePanel) {
-    AddCategory("1", "Full");
+    desk.AddCategory("Full");
+    desk.AddVoyage("Full", {.name = "A", .vsi = "7", .vsn = "ANNA"});
     Toggle();
-    EXPECT_TRUE(schedule.Called("RefreshVesselPositions"));
+    EXPECT_EQ(desk.host.positionQueries.size(), 1U);
     Toggle(21);
     EXPECT_TRUE(window.visible);
-    EXPECT_EQ(schedule.timers, 1);
+    EXPECT_EQ(Timers(), 1U);
 }
 
 TEST_F(SeaplanViewDlgTest, WithoutACategoryInUseTheTimerStays) {
-    catalog.refused = {"AddCategory"};
+    desk.Refuse(Ask::kAddCategory);
     Toggle();
     EXPECT_TRUE(window.visible);
-    EXPECT_EQ(schedule.timers, 0);
+    EXPECT_EQ(Timers(), 0U);
 }
 
 TEST_F(SeaplanViewDlgTest, LogoutClearsTheChartBeforeTheStore) {
-    AddCategory("1", "Full");
+    desk.AddCategory("Full");
     Toggle();
-    schedule.calls.clear();
+    desk.ForgetRecords();
     Interface::Raise(Interface::Bus::Logout);
-    EXPECT_EQ(schedule.calls, (std::vector<std::string>{"ClearChart", "ClearChart"}))
-        << "first, and on hiding";
+    EXPECT_EQ(Clearings(), 2) << "first, and on hiding";
 }
 
 TEST_F(SeaplanViewDlgTest, ClosingKeepsTheTimerAndTheStore) {
-    AddCategory("1", "Full");
+    desk.AddCategory("Full");
     Toggle();
     panel.Hide();
-    EXPECT_EQ(schedule.timers, 1);
+    EXPECT_EQ(Timers(), 1U);
     Toggle();
     EXPECT_TRUE(window.visible);
     EXPECT_EQ(Loads(), 1);
 }
 
 TEST_F(SeaplanViewDlgTest, AFailedLoadLeavesThePanelHidden) {
-    catalog.refused = {"Connect"};
+    desk.host.connected = false;
     Toggle();
     EXPECT_FALSE(window.visible);
-    EXPECT_EQ(schedule.timers, 0);
+    EXPECT_EQ(Timers(), 0U);
 }
 
 TEST_F(SeaplanViewDlgTest, AUserWithoutCategoriesGetsOneToName) {
     Toggle();
     EXPECT_NE(tree.Find("IDS_TREE_NEWVOYCATEGORY - 0"), kNoRow);
-    EXPECT_TRUE(tree.editorOpen);
-    EXPECT_EQ(schedule.timers, 1);
+    EXPECT_TRUE(box.open);
+    EXPECT_EQ(Timers(), 1U);
 }
 
 TEST_F(SeaplanViewDlgTest, LogoutEmptiesTheStoreAndTheNextToggleLoadsAgain) {
-    AddCategory("1", "Full");
+    desk.AddCategory("Full");
     Toggle();
     Interface::Raise(Interface::Bus::Logout);
     EXPECT_TRUE(store.categories.empty());
     EXPECT_FALSE(window.visible);
     EXPECT_EQ(tree.GetRootItem(), kNoRow);
-    EXPECT_EQ(schedule.timers, 1);
+    EXPECT_EQ(Timers(), 1U);
     Toggle();
     EXPECT_EQ(Loads(), 2);
 }
 
 TEST_F(SeaplanViewDlgTest, TheVesselServiceAnswersByStep) {
-    AddCategory("1", "Full");
-    AddVoyage("1", "10", "A");
+    desk.AddCategory("Full");
+    const std::string vi = desk.AddVoyage("Full", {.name = "A"});
     EXPECT_EQ(AddVessel(""), "-1");
     EXPECT_FALSE(window.visible);
-    EXPECT_TRUE(catalog.calls.empty());
-    catalog.refused = {"Connect"};
-    EXPECT_EQ(AddVessel("10"), "-2");
-    catalog.refused.clear();
+    EXPECT_TRUE(desk.host.requests.empty());
+    desk.host.connected = false;
+    EXPECT_EQ(AddVessel(vi), "-2");
+    desk.host.connected = true;
     EXPECT_EQ(AddVessel("99"), "-3");
-    EXPECT_EQ(AddVessel("10"), "ok");
+    EXPECT_EQ(AddVessel(vi), "ok");
     EXPECT_EQ(window.place, (Rect{250, 240, 560, 700}));
     EXPECT_EQ(tree.Selected(), tree.Find("A"));
-    EXPECT_EQ(schedule.timers, 0);
+    EXPECT_EQ(Timers(), 0U);
 }
 
 TEST_F(SeaplanViewDlgTest, RefreshingARowTellsWhatIsWrong) {
-    AddCategory("1", "Full");
-    AddVoyage("1", "10", "A");
+    desk.AddCategory("Full");
+    desk.AddVoyage("Full", {.name = "A"});
     Toggle();
     EXPECT_EQ(panel.RefreshVoyageRow(""), -1);
     EXPECT_EQ(panel.RefreshVoyageRow("99"), -2);
-    store.voyages["10"].portCalls = TwoCalls(3);
-    EXPECT_EQ(panel.RefreshVoyageRow("10"), 0);
+    Voyage("A").portCalls = TwoCalls(3);
+    EXPECT_EQ(panel.RefreshVoyageRow(Id("A")), 0);
     EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage_Date"));
 }
 
 TEST_F(SeaplanViewDlgTest, RecoverAllLeavesDestroyedCategoriesAlone) {
-    AddCategory("1", "Gone", InRecycleBin);
-    AddVoyage("1", "10", "A", InRecycleBin);
-    AddCategory("2", "Back", InRecycleBin);
-    AddVoyage("2", "20", "B", InRecycleBin);
+    const std::string gone = desk.AddCategory("Gone");
+    const std::string a = desk.AddVoyage("Gone", {.name = "A", .state = InRecycleBin});
+    desk.MoveCategory("Gone", InRecycleBin);
+    const std::string back = desk.AddCategory("Back");
+    const std::string b = desk.AddVoyage("Back", {.name = "B", .state = InRecycleBin});
+    desk.MoveCategory("Back", InRecycleBin);
     Toggle();
-    store.categoryStates["1"] = Destroyed;
+    store.categoryStates[gone] = Destroyed;
     EXPECT_EQ(panel.RecoverAll(), 0);
-    EXPECT_EQ(store.categoryVoyages["2"]["20"], InUse);
-    EXPECT_THAT(catalog.calls, testing::Not(testing::Contains("RecoverVoyage 10")));
-    EXPECT_THAT(catalog.calls, testing::Contains("RecoverVoyage 20"));
+    EXPECT_EQ(store.categoryVoyages[back][b], InUse);
+    EXPECT_EQ(desk.Count(Ask::kRecoverVoyage, a), 0);
+    EXPECT_EQ(desk.Count(Ask::kRecoverVoyage, b), 1);
 }
 
 TEST_F(SeaplanViewDlgTest, RecoverAllTakesEverythingOutOfTheBin) {
-    AddCategory("1", "Gone", InRecycleBin);
-    AddVoyage("1", "10", "A", InRecycleBin);
+    const std::string ci = desk.AddCategory("Gone");
+    const std::string vi = desk.AddVoyage("Gone", {.name = "A", .state = InRecycleBin});
+    desk.MoveCategory("Gone", InRecycleBin);
     Toggle();
-    EXPECT_EQ(panel.RecoverAll(), 0);
-    EXPECT_EQ(store.categoryStates["1"], InUse);
-    EXPECT_EQ(store.categoryVoyages["1"]["10"], InUse);
-    store.categoryStates["1"] = InRecycleBin;
-    catalog.refused = {"RecoverCategory"};
+    EXPECT_EQ(panel.Filter().OnChosen(TextId::IDS_TREEVIEW_RECOVERALL), 0);
+    EXPECT_EQ(store.categoryStates[ci], InUse);
+    EXPECT_EQ(store.categoryVoyages[ci][vi], InUse);
+    store.categoryStates[ci] = InRecycleBin;
+    desk.Refuse(Ask::kRecoverCategory);
     EXPECT_EQ(panel.RecoverAll(), -1);
+}
+
+TEST_F(SeaplanViewDlgTest, TheFilterKeepsItsTickAndShowsTheRecycleBin) {
+    desk.AddCategory("Full");
+    desk.AddCategory("Old");
+    desk.MoveCategory("Old", InRecycleBin);
+    Toggle();
+    EXPECT_EQ(filterPopup.choices, (std::vector<Choice>{{TextId::IDS_TREEVIEW_RECOVER, false}}))
+        << "recovering everything has no line";
+    panel.Filter().Toggle();
+    EXPECT_TRUE(filterPopup.visible);
+    EXPECT_EQ(filterPopup.width, 180);
+    EXPECT_EQ(filterPopup.height, 35);
+    EXPECT_EQ(panel.Filter().OnChosen(TextId::IDS_TREEVIEW_RECOVER), 0);
+    EXPECT_NE(tree.Find("Old"), kNoRow);
+    panel.Filter().Toggle();
+    EXPECT_FALSE(filterPopup.visible);
+    panel.Filter().Toggle();
+    EXPECT_EQ(filterPopup.Ticked(), TextId::IDS_TREEVIEW_RECOVER);
+    desk.host.connected = false;
+    EXPECT_EQ(panel.Filter().OnChosen(TextId::IDS_TREEVIEW_RECOVER), -2);
+    EXPECT_EQ(filterPopup.Ticked(), std::nullopt) << "a failed load leaves the tick as it was pressed";
+    panel.Hide();
+    EXPECT_FALSE(filterPopup.visible);
 }
 
 TEST_F(SeaplanViewDlgTest, HelpNamesItsTopic) {
@@ -188,6 +198,8 @@ TEST_F(SeaplanViewDlgTest, HelpNamesItsTopic) {
 TEST_F(SeaplanViewDlgTest, ALanguageSwitchReachesAHiddenPanel) {
     Interface::Raise(Interface::Bus::SwitchLanguage);
     EXPECT_EQ(window.textsApplied, 1);
+    EXPECT_EQ(window.caption, "IDS_TREE_VOYTITLE");
+    EXPECT_FALSE(window.changed);
 }
 
 TEST_F(SeaplanViewDlgTest, UnregisteringLeavesTheBusFree) {

@@ -12,9 +12,7 @@
 
 namespace Tarvik::Seaplan {
 
-using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::Not;
 
 namespace {
 
@@ -72,13 +70,13 @@ class VesselEditorTest : public TreeFixture {
     FleetPlugin plugin;
 
     VesselEditorTest() {
-        AddCategory("1", "Full");
-        AddVoyage("1", "10", "A");
-        VoyInfo& other = AddVoyage("1", "11", "B");
-        other.vsn = "ANNA";
+        desk.AddCategory("Full");
+        desk.AddVoyage("Full", {.name = "A", .calls = PanelDesk::Calls(1)});
+        desk.AddVoyage("Full", {.name = "B", .vsn = "ANNA"});
         ctrl.ReloadTree();
+        ctrl.ComputeStatus(Id("A"));
     }
-    VoyShipEditDlg& Editor() { return *ctrl.VesselEditor(); }
+    VoyShipEditDlg& Editor() { return ctrl.Vessels().Editor(); }
     void TypeAndEnter(const std::string& text) {
         vessels.text = text;
         Editor().OnTyped(text);
@@ -97,7 +95,7 @@ TEST_F(VesselEditorTest, AssigningOpensAnEmptyBoxWithTheWholeFleet) {
     EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage_ReplaceShip"));
     Click("A", "Voyage_AssignShip");
     EXPECT_FALSE(vessels.box);
-    EXPECT_THAT(catalog.calls, Not(Contains("ChangeVessel ")));
+    EXPECT_EQ(desk.Count(Ask::kChangeVessel), 0);
 }
 
 TEST_F(VesselEditorTest, TypingKeepsTheVesselsThatBeginSoInAnyCase) {
@@ -114,11 +112,11 @@ TEST_F(VesselEditorTest, AChosenVesselIsOfTheFleetAndShowsNoAlert) {
     Click("A", "Voyage_AssignShip");
     Editor().OnTyped("no");
     Editor().OnChosen(1);
-    EXPECT_THAT(catalog.calls, Contains("ChangeVessel Nora"));
-    EXPECT_EQ(store.voyages["10"].vsi, "2");
-    EXPECT_EQ(store.voyages["10"].vsmsi, 212);
-    EXPECT_THAT(catalog.calls, Contains("OpenAis 10"));
-    EXPECT_TRUE(schedule.Called("RefreshTrace 10"));
+    EXPECT_EQ(desk.Count(Ask::kChangeVessel, "Nora"), 1);
+    EXPECT_EQ(Voyage("A").vsi, "2");
+    EXPECT_EQ(Voyage("A").vsmsi, 212);
+    EXPECT_EQ(desk.Count(Ask::kOpenAis, Id("A")), 1);
+    EXPECT_EQ(desk.host.trackQueries.size(), 1U);
     EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage.child.svr10"));
     EXPECT_FALSE(vessels.box);
     const TreeRow row = tree.Find("A");
@@ -130,12 +128,12 @@ TEST_F(VesselEditorTest, AChosenVesselIsOfTheFleetAndShowsNoAlert) {
 TEST_F(VesselEditorTest, EnterTakesTheListsRowOrTheTypedNameWithTheAlert) {
     Click("A", "Voyage_AssignShip");
     TypeAndEnter("anna");
-    EXPECT_EQ(store.voyages["10"].vsn, "ANNA NORD");
+    EXPECT_EQ(Voyage("A").vsn, "ANNA NORD");
     Click("A", "Voyage_ReplaceShip");
     TypeAndEnter("  SEA STAR ");
-    EXPECT_EQ(store.voyages["10"].vsn, "SEA STAR ");
-    EXPECT_EQ(store.voyages["10"].vsi, "");
-    EXPECT_EQ(std::count(catalog.calls.begin(), catalog.calls.end(), "OpenAis 10"), 1);
+    EXPECT_EQ(Voyage("A").vsn, "SEA STAR ");
+    EXPECT_EQ(Voyage("A").vsi, "");
+    EXPECT_EQ(desk.Count(Ask::kOpenAis, Id("A")), 1);
     EXPECT_TRUE(tree.IsItemVisible(tree.Find("A"), "Voyage_Alert"));
     EXPECT_FALSE(vessels.box);
 }
@@ -144,17 +142,17 @@ TEST_F(VesselEditorTest, LeavingTheBoxTakesTheTypedNameAndAnEmptyOneNothing) {
     Click("A", "Voyage_AssignShip");
     vessels.text = " ";
     Editor().OnLeft();
-    EXPECT_EQ(store.voyages["10"].vsn, "");
+    EXPECT_EQ(Voyage("A").vsn, "");
     Click("A", "Voyage_AssignShip");
     EXPECT_FALSE(vessels.box) << "the press that closed it is still under way";
     Editor().OnReleased();
     Click("A", "Voyage_AssignShip");
     vessels.text = "SEA STAR";
     Editor().OnLeft();
-    EXPECT_EQ(store.voyages["10"].vsn, "SEA STAR");
-    const auto calls = catalog.calls;
+    EXPECT_EQ(Voyage("A").vsn, "SEA STAR");
+    const auto calls = desk.host.Texts();
     Editor().OnLeft();
-    EXPECT_EQ(catalog.calls, calls);
+    EXPECT_EQ(desk.host.Texts(), calls);
 }
 
 TEST_F(VesselEditorTest, TheSameVesselSendsNothing) {
@@ -163,26 +161,26 @@ TEST_F(VesselEditorTest, TheSameVesselSendsNothing) {
     EXPECT_THAT(vessels.names, ElementsAre("ANNA NORD"));
     vessels.list = false;
     Editor().OnEnter(-1);
-    EXPECT_THAT(catalog.calls, Not(Contains("ChangeVessel ANNA")));
+    EXPECT_EQ(desk.Count(Ask::kChangeVessel), 0);
 }
 
 TEST_F(VesselEditorTest, ARefusedVesselIsToldInFixedWords) {
-    catalog.refused = {"ChangeVessel"};
+    desk.Refuse(Ask::kChangeVessel);
     Click("A", "Voyage_AssignShip");
     TypeAndEnter("SEA STAR");
     ASSERT_EQ(messages.messages.size(), 1U);
     EXPECT_EQ(messages.messages[0].text, "Add a vessel failed!");
     EXPECT_EQ(messages.messages[0].title, "Error");
-    EXPECT_EQ(store.voyages["10"].vsn, "");
+    EXPECT_EQ(Voyage("A").vsn, "");
 }
 
 TEST_F(VesselEditorTest, AVesselOfACorrectedVoyageCanBeAssignedButNotReplaced) {
-    store.voyages["11"].modais = 1;
+    Voyage("B").modais = 1;
     Click("B", "Voyage_ReplaceShip");
     ASSERT_EQ(messages.messages.size(), 1U);
     EXPECT_EQ(messages.messages[0].text, "IDS_PORTCALL_WARNAISMOD");
     EXPECT_FALSE(vessels.box);
-    store.voyages["10"].modais = 1;
+    Voyage("A").modais = 1;
     Click("A", "Voyage_AssignShip");
     EXPECT_TRUE(vessels.box);
 }
@@ -193,7 +191,7 @@ TEST_F(VesselEditorTest, TheAlertOffersTheNameToTheFleetAndTheInformationNeedsAn
     EXPECT_EQ(tree.windowAtPointer, &plugin.window);
     Click("B", "Voyage_ShipInfo");
     EXPECT_TRUE(plugin.shownIds.empty());
-    store.voyages["11"].vsi = "7";
+    Voyage("B").vsi = "7";
     Click("B", "Voyage_ShipInfo");
     EXPECT_THAT(plugin.shownIds, ElementsAre("7"));
 }

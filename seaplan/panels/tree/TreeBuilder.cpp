@@ -1,25 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/TreeBuilder.h"
 
-#include <map>
-
-#include <tarvik/util/StringUtl.h>
-
 #include "seaplan/calculation/NumberForms.h"
-#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/RowTexts.h"
+#include "seaplan/panels/tree/TreeCounts.h"
 #include "seaplan/panels/tree/VoyageOrder.h"
 
 namespace Tarvik::Seaplan {
-
-namespace {
-
-constexpr const char* kDateFormat = "%Y-%m-%d";
-
-std::string CountText(int count) {
-    return Util::StringUtl::Format("  (%d)", count);
-}
-
-}  // namespace
 
 int TreeBuilder::RebuildAll() {
     c_.tree.DeleteAllItems();
@@ -38,8 +26,8 @@ int TreeBuilder::RebuildAll() {
         }
         const TreeRow row = AddCategoryRow(category->second);
         if (category->second.crk > 0) {
-            c_.tree.SetDrawItemVisibleEx(row, "Voyage.parent.svr2.non", false);
-            c_.tree.SetDrawItemVisibleEx(row, "Voyage.parent.svr2.exist", true);
+            c_.tree.SetDrawItemVisibleEx(row, Item::kCategoryNoRemark, false);
+            c_.tree.SetDrawItemVisibleEx(row, Item::kCategoryRemark, true);
         }
         if (AddVoyages(row, ci, DateSource::PositionBook) != 0) {
             return -2;
@@ -86,7 +74,7 @@ int TreeBuilder::RebuildCategory(const std::string& ci) {
     if (const int result = AddVoyages(row, ci, DateSource::PortCalls); result != 0) {
         return result;
     }
-    ShowStatuses(row, ci);
+    status_.ShowAll(row, ci);
     return 0;
 }
 
@@ -137,8 +125,8 @@ int TreeBuilder::AddVoyages(TreeRow row, const std::string& ci, DateSource sourc
     if (sort == c_.categorySorts.end()) {
         return -6;
     }
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.parent.svr6", sort->second.direction == Ascending);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.parent.svr6.desc", sort->second.direction == Descending);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kAscending, sort->second.direction == Ascending);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kDescending, sort->second.direction == Descending);
     for (const std::string& vi : inUse) {
         if (AddVoyageRow(row, vi) != 0) {
             return -3;
@@ -155,7 +143,7 @@ int TreeBuilder::AddDeletedVoyages(TreeRow row, const std::vector<std::string>& 
         }
         const TreeRow child = c_.tree.InsertItem(voyage->vn, kDeletedVoyageStyle, row);
         c_.tree.SetItemData(child, voyage);
-        ApplyTexts(child);
+        ApplyRowTexts(c_.tree, child);
     }
     return 0;
 }
@@ -163,15 +151,15 @@ int TreeBuilder::AddDeletedVoyages(TreeRow row, const std::vector<std::string>& 
 TreeRow TreeBuilder::AddCategoryRow(VoyCategory& category) {
     const TreeRow row = c_.tree.InsertItem(category.cn, kCategoryStyle, kNoRow);
     c_.tree.SetItemData(row, &category);
-    c_.tree.SetDrawItemValue(row, "cat.statistic", CountText(0));
-    ApplyTexts(row);
+    c_.tree.SetDrawItemValue(row, Item::kCount, CountText(0));
+    ApplyRowTexts(c_.tree, row);
     return row;
 }
 
 TreeRow TreeBuilder::AddDeletedCategoryRow(VoyCategory& category) {
     const TreeRow row = c_.tree.InsertItem(category.cn, kDeletedCategoryStyle, kNoRow);
     c_.tree.SetItemData(row, &category);
-    ApplyTexts(row);
+    ApplyRowTexts(c_.tree, row);
     return row;
 }
 
@@ -185,164 +173,22 @@ int TreeBuilder::AddVoyageRow(TreeRow categoryRow, const std::string& vi) {
     }
     const TreeRow row = c_.tree.InsertItem(voyage->vn, kVoyageStyle, categoryRow);
     c_.tree.SetItemData(row, voyage);
-    ApplyTexts(row);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr3.non", voyage->vrk < 1);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr3.exist", voyage->vrk >= 1);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr1.default", voyage->vr != 1);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr1.auto", voyage->vr == 1);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr8", voyage->va != 1);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr10", voyage->va == 1);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage_ReplaceShip", !voyage->vsn.empty());
+    ApplyRowTexts(c_.tree, row);
+    ShowFlags(row, *voyage);
     if (!voyage->vsn.empty()) {
-        ShowVessel(row, voyage->vsn, voyage->vsi.empty());
+        status_.ShowVessel(row, voyage->vsn, voyage->vsi.empty());
     }
     return 0;
 }
 
-void TreeBuilder::ShowVessel(TreeRow row, const std::string& name, bool alert) {
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage_AssignShip", false);
-    c_.tree.SetDrawItemValueOfEventItem(row, "Voyage_ShipInfo", "ShipName", name);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage_ShipInfo", true);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage_Alert", alert);
-}
-
-void TreeBuilder::MarkVoyage(const VoyInfo& voyage) {
-    if (voyage.vr != 1) {
-        c_.chartMarks[voyage.vi] = {0, OffChart};
-    } else if (c_.schedule.ShowVoyage(voyage.vi) == 0) {
-        c_.chartMarks[voyage.vi] = {1, OnChart};
-    }
-}
-
-int TreeBuilder::CountAndMark() {
-    const bool first = c_.chartMarks.empty();
-    for (TreeRow row = c_.tree.GetRootItem(); row != kNoRow; row = c_.tree.GetNextSiblingItem(row)) {
-        if (c_.tree.GetItemStyle(row) != kCategoryStyle) {
-            continue;
-        }
-        int count = 0;
-        for (TreeRow child = c_.tree.GetChildItem(row); child != kNoRow;
-             child = c_.tree.GetNextSiblingItem(child)) {
-            if (c_.tree.GetItemStyle(child) != kVoyageStyle) {
-                continue;
-            }
-            const VoyInfo* voyage = c_.VoyageOf(child);
-            if (voyage == nullptr || voyage->vi.empty()) {
-                return -1;
-            }
-            if (first) {
-                MarkVoyage(*voyage);
-            }
-            // A pinned voyage that could not be drawn stays uncounted until the next RefreshCounts.
-            if (!first || c_.chartMarks.contains(voyage->vi)) {
-                ++count;
-            }
-        }
-        c_.tree.SetDrawItemValue(row, "cat.statistic", CountText(count));
-    }
-    return 0;
-}
-
-int TreeBuilder::RefreshCounts() {
-    for (TreeRow row = c_.tree.GetRootItem(); row != kNoRow; row = c_.tree.GetNextSiblingItem(row)) {
-        if (c_.tree.GetItemStyle(row) != kCategoryStyle) {
-            continue;
-        }
-        const VoyCategory* category = c_.CategoryOf(row);
-        if (category == nullptr) {
-            return -1;
-        }
-        const auto voyages = c_.store.categoryVoyages.find(category->ci);
-        if (voyages == c_.store.categoryVoyages.end()) {
-            continue;
-        }
-        int count = 0;
-        for (const auto& [vi, state] : voyages->second) {
-            count += state == InUse ? 1 : 0;
-        }
-        c_.tree.SetDrawItemValue(row, "cat.statistic", CountText(count));
-    }
-    return 0;
-}
-
-int TreeBuilder::ComputeStatus(const std::string& vi) {
-    if (vi.empty()) {
-        return -1;
-    }
-    VoyInfo* voyage = c_.store.FindVoyage(vi);
-    if (voyage == nullptr) {
-        return -2;
-    }
-    if (voyage->portCalls.empty()) {
-        // A voyage without port calls has nothing to fetch; it is a plan all the same.
-        PortCallRows rows;
-        c_.schedule.LoadSchedule(vi, rows, -1);
-    }
-    c_.voyageStatuses[vi] = static_cast<int>(StatusAt(voyage->portCalls, Util::_datetime_t()));
-    return 0;
-}
-
-int TreeBuilder::KnowStatus(const std::string& vi) {
-    return c_.voyageStatuses.contains(vi) ? 0 : ComputeStatus(vi);
-}
-
-int TreeBuilder::ShowStatus(const std::string& vi) {
-    if (const int result = KnowStatus(vi); result != 0) {
-        return result;
-    }
-    const TreeRow row = c_.FindVoyageRow(vi);
-    if (row == kNoRow) {
-        return -4;
-    }
-    DrawStatus(row, c_.voyageStatuses.at(vi));
-    return 0;
-}
-
-void TreeBuilder::ShowStatuses(TreeRow categoryRow, const std::string& ci) {
-    const auto voyages = c_.store.categoryVoyages.find(ci);
-    if (voyages == c_.store.categoryVoyages.end()) {
-        return;
-    }
-    // The rows are looked up once: a search for each voyage grows with the square of their number.
-    std::map<std::string, TreeRow> rows;
-    for (TreeRow row = c_.tree.GetChildItem(categoryRow); row != kNoRow;
-         row = c_.tree.GetNextSiblingItem(row)) {
-        if (const VoyInfo* voyage = c_.VoyageOf(row)) {
-            rows.emplace(voyage->vi, row);
-        }
-    }
-    for (const auto& [vi, state] : voyages->second) {
-        const auto row = rows.find(vi);
-        if (KnowStatus(vi) == 0 && row != rows.end()) {
-            DrawStatus(row->second, c_.voyageStatuses.at(vi));
-        }
-    }
-}
-
-void TreeBuilder::DrawStatus(TreeRow row, int status) {
-    const char* image = "#Voyage_status_plan";
-    TextId tip = TextId::IDS_TREESTATUS_BFVOY;
-    if (status == static_cast<int>(VoyageStatus::Underway)) {
-        image = "#Voyage_status_underway";
-        tip = TextId::IDS_TREESTATUS_VOYING;
-    } else if (status == static_cast<int>(VoyageStatus::Finished)) {
-        image = "#Voyage_status_finish";
-        tip = TextId::IDS_TREESTATUS_VOYFINISH;
-    }
-    c_.tree.SetDrawItemValueOfEventItem(row, "Voyage.child.svr2", "Voyage_Status", image);
-    c_.tree.SetToolTipsOfEventItem(row, "Voyage.child.svr2", Text(tip));
-}
-
-int TreeBuilder::ShowDates(TreeRow row, const VoyInfo& voyage) {
-    if (voyage.portCalls.size() < 2) {
-        return -1;
-    }
-    const auto& calls = voyage.portCalls;
-    c_.tree.SetDrawItemValueOfEventItem(row, "Voyage_Date", "Saildate", calls.front().etd.fmt(kDateFormat));
-    c_.tree.SetDrawItemValueOfEventItem(row, "Voyage_Date", "Enddate", calls.back().eta.fmt(kDateFormat));
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage_setPortCall", false);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage_Date", true);
-    return 0;
+void TreeBuilder::ShowFlags(TreeRow row, const VoyInfo& voyage) {
+    c_.tree.SetDrawItemVisibleEx(row, Item::kVoyageNoRemark, voyage.vrk < 1);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kVoyageRemark, voyage.vrk >= 1);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kUnpinned, voyage.vr != 1);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kPinned, voyage.vr == 1);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kAisOff, voyage.va != 1);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kAisOn, voyage.va == 1);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kReplaceShip, !voyage.vsn.empty());
 }
 
 }  // namespace Tarvik::Seaplan

@@ -26,4 +26,10 @@ TreeRow TreeContext::FindVoyageRow(const std::string& vi) const {
     return kNoRow;
 }
 
+void TreeContext::FetchPortCalls(const std::string& vi) const {
+    constexpr int kWithoutDrawing = -1;
+    PortCallRows rows;
+    voyages.LoadSchedule(vi, rows, kWithoutDrawing);
+}
+
 }  // namespace Tarvik::Seaplan

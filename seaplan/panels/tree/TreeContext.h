@@ -4,10 +4,11 @@
 #include <map>
 #include <string>
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/VoyageStore.h"
-#include "seaplan/panels/services/CatalogCommands.h"
-#include "seaplan/panels/services/ScheduleCommands.h"
 #include "seaplan/panels/tree/TreeWidget.h"
+#include "seaplan/panels/window/Boxes.h"
 
 namespace Tarvik::Seaplan {
 
@@ -28,19 +29,27 @@ struct VoyChartMark {
     int drawState = OffChart;
 };
 
-/// Collaborators and view state that the parts of the tree share.
-struct TreeContext {
-    VoyageStore& store;
-    CatalogCommands& catalog;
-    ScheduleCommands& schedule;
-    TreeWidget& tree;
-
+/// What the tree knows beside the store's records.
+struct TreeState {
     bool showDeleted = false;
-    std::map<std::string, TreeSortState> categorySorts{};
-    std::map<std::string, VoyChartMark> chartMarks{};
-    std::map<std::string, int> voyageStatuses{};
-    std::map<std::string, int> categoryNames{};  ///< every name ever seen, with its deletion state
-    std::map<std::string, int> voyageNames{};
+    std::map<std::string, TreeSortState> categorySorts;
+    std::map<std::string, VoyChartMark> chartMarks;
+    std::map<std::string, int> voyageStatuses;
+    std::map<std::string, int> categoryNames;  ///< every name ever seen, with its deletion state
+    std::map<std::string, int> voyageNames;
+};
+
+/// Collaborators and view state that the parts of the tree share.
+struct TreeContext : TreeState {
+    TreeContext(VoyageStore& records, VoyCatalogController& names, VoyController& schedules,
+                TreeWidget& widget)
+        : store(records), catalog(names), voyages(schedules), tree(widget), boxes(widget) {}
+
+    VoyageStore& store;
+    VoyCatalogController& catalog;
+    VoyController& voyages;
+    TreeWidget& tree;
+    Boxes boxes;
 
     VoyCategory* CategoryOf(TreeRow row) const { return static_cast<VoyCategory*>(tree.GetItemData(row)); }
     VoyInfo* VoyageOf(TreeRow row) const { return static_cast<VoyInfo*>(tree.GetItemData(row)); }
@@ -49,6 +58,8 @@ struct TreeContext {
     TreeRow FindCategoryRow(const std::string& ci) const;
     /// Row of a voyage in any category, kNoRow when it has none.
     TreeRow FindVoyageRow(const std::string& vi) const;
+    /// Fetches a voyage's port calls into its record, without drawing; one without any keeps none.
+    void FetchPortCalls(const std::string& vi) const;
 };
 
 }  // namespace Tarvik::Seaplan

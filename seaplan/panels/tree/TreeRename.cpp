@@ -4,7 +4,6 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/language/Messages.h"
 #include "seaplan/panels/tree/NameRules.h"
 
 namespace Tarvik::Seaplan {
@@ -17,6 +16,7 @@ constexpr int kLowestEditorTop = 366;
 }  // namespace
 
 void TreeRename::Begin(TreeRow row, bool isVoyage) {
+    Commit();
     row_ = row;
     isVoyage_ = isVoyage;
     const Rect place = c_.tree.GetItemRect(row);
@@ -29,27 +29,27 @@ void TreeRename::Begin(TreeRow row, bool isVoyage) {
     const int top = place.top + (isVoyage ? 2 : 1);
     const int width = isVoyage ? 180 : 200;
     constexpr int kHeight = 22;
-    c_.tree.ShowRenameEditor({left, top, left + width, top + kHeight}, text,
-                             isVoyage ? kVoyageNameWidth : kCategoryNameWidth);
+    box_.Show({left, top, left + width, top + kHeight}, text,
+              isVoyage ? kVoyageNameWidth : kCategoryNameWidth);
 }
 
 void TreeRename::Abandon() {
     row_ = kNoRow;
-    c_.tree.HideRenameEditor();
+    box_.Hide();
 }
 
 int TreeRename::Commit() {
-    if (!c_.tree.RenameEditorVisible()) {
+    if (!box_.IsVisible()) {
         return 0;
     }
-    const std::string typed = c_.tree.RenameEditorText();
-    c_.tree.HideRenameEditor();
+    const std::string typed = box_.Text();
+    box_.Hide();
     if (typed.empty()) {
         return -1;
     }
     const std::string name = NormalizeName(typed);
     if (name.empty()) {
-        Notice(TextId::IDS_TREE_SHOWVISIBLE, c_.tree.Handle());
+        c_.boxes.Notice(TextId::IDS_TREE_SHOWVISIBLE);
         return -2;
     }
     return isVoyage_ ? CommitVoyage(name) : CommitCategory(name);
@@ -59,7 +59,7 @@ bool TreeRename::WidthAccepted(const std::string& name, int limit) {
     if (Util::StringUtl::Width(name) <= limit) {
         return true;
     }
-    NoticeText(Text(TextId::IDS_TREE_TOOMUCHNUM) + std::to_string(limit), c_.tree.Handle());
+    c_.boxes.NoticeText(Text(TextId::IDS_TREE_TOOMUCHNUM) + std::to_string(limit));
     return false;
 }
 
@@ -70,7 +70,7 @@ bool TreeRename::Taken(const std::map<std::string, int>& names, const std::strin
         return false;
     }
     if (name != present) {
-        Notice(TextId::IDS_TREE_SAMENAMEWARN, c_.tree.Handle());
+        c_.boxes.Notice(TextId::IDS_TREE_SAMENAMEWARN);
     }
     return true;
 }

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <string>
 
 #include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/window/TextBox.h"
 
 namespace Tarvik::Seaplan {
 
@@ -11,16 +14,18 @@ namespace Tarvik::Seaplan {
 class TreeRename {
   public:
     /// `unfold` expands and selects a category and shows the statuses of its voyages; negative on failure.
-    TreeRename(TreeContext& context, std::function<int(TreeRow)> unfold)
-        : c_(context), unfold_(std::move(unfold)) {}
+    TreeRename(TreeContext& context, TextBox& box, std::function<int(TreeRow)> unfold)
+        : c_(context), box_(box), unfold_(std::move(unfold)) {}
 
-    /// Opens the editor over a row. A row below the part of the tree where the editor fits keeps its present
-    /// name.
+    /// Opens the box over a row, after the name in an open one was taken. A row below the part of the tree
+    /// where the box fits keeps its present name.
     void Begin(TreeRow row, bool isVoyage);
-    /// Takes the typed name. 0 also without an open editor; -1 empty; -2 nothing visible; category: -4 too
-    /// wide, -5, -6 no record, -7 name taken, -8 server, -9 unfolding; voyage: -10 to -14 likewise.
+    /// Takes the typed name. 0 also without an open box; -1 empty; -2 nothing visible; category: -4 too wide,
+    /// -5, -6 no record, -7 name taken, -8 server, -9 unfolding; voyage: -10 to -14 likewise.
     int Commit();
-    /// Closes the editor without a change and forgets the row.
+    /// Closes the box without a change.
+    void Hide() { box_.Hide(); }
+    /// The same, and the row is forgotten.
     void Abandon();
 
   private:
@@ -30,6 +35,7 @@ class TreeRename {
     bool Taken(const std::map<std::string, int>& names, const std::string& name, const std::string& present);
 
     TreeContext& c_;
+    TextBox& box_;
     std::function<int(TreeRow)> unfold_;
     TreeRow row_ = kNoRow;
     bool isVoyage_ = false;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "seaplan/panels/tree/ItemNames.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -14,21 +16,20 @@ struct ItemDefault {
 };
 
 constexpr ItemDefault kCategoryItems[] = {
-    {"cat.statistic", true},      {"Voyage_parent_rename", true},     {"Voyage.parent.svr3", true},
-    {"Voyage.parent.svr6", true}, {"Voyage.parent.svr6.desc", false}, {"Voyage.parent.svr9", true},
-    {"Voyage.parent.svr7", true}, {"Voyage.parent.svr2.non", true},   {"Voyage.parent.svr2.exist", false}};
+    {Item::kCount, true},          {Item::kRenameCategory, true},   {Item::kAddVoyage, true},
+    {Item::kAscending, true},      {Item::kDescending, false},      {Item::kSort, true},
+    {Item::kDeleteCategory, true}, {Item::kCategoryNoRemark, true}, {Item::kCategoryRemark, false}};
 constexpr ItemDefault kVoyageItems[] = {
-    {"Voyage_child_rename", true}, {"Voyage.child.svr1.default", true}, {"Voyage.child.svr1.auto", false},
-    {"Voyage.child.svr2", true},   {"Voyage.child.svr3.non", true},     {"Voyage.child.svr3.exist", false},
-    {"Voyage.child.svr4", true},   {"Voyage.child.svr5", true},         {"Voyage.child.svr6", true},
-    {"Voyage.child.svr8", true},   {"Voyage.child.svr10", false},       {"Voyage.child.svr9", true},
-    {"Voyage_modify", true},       {"Voyage_setPortCall", true},        {"Voyage_Date", false},
-    {"Voyage_AssignShip", true},   {"Voyage_ShipInfo", false},          {"Voyage_Alert", false},
-    {"Voyage_ReplaceShip", false}};
-constexpr ItemDefault kDeletedCategoryItems[] = {{"Voyage.parent.svr.recover", true},
-                                                 {"Voyage.parent.svr.clear", true}};
-constexpr ItemDefault kDeletedVoyageItems[] = {{"Voyage.child.svr.recover", true},
-                                               {"Voyage.child.svr.clear", true}};
+    {Item::kRenameVoyage, true}, {Item::kUnpinned, true},       {Item::kPinned, false},
+    {Item::kStatus, true},       {Item::kVoyageNoRemark, true}, {Item::kVoyageRemark, false},
+    {Item::kPortCalls, true},    {Item::kConsumption, true},    {Item::kNoonReport, true},
+    {Item::kAisOff, true},       {Item::kAisOn, false},         {Item::kDeleteVoyage, true},
+    {Item::kModify, true},       {Item::kSetPortCall, true},    {Item::kDates, false},
+    {Item::kAssignShip, true},   {Item::kShipInfo, false},      {Item::kAlert, false},
+    {Item::kReplaceShip, false}};
+constexpr ItemDefault kDeletedCategoryItems[] = {{Item::kRecoverCategory, true},
+                                                 {Item::kClearCategory, true}};
+constexpr ItemDefault kDeletedVoyageItems[] = {{Item::kRecoverVoyage, true}, {Item::kClearVoyage, true}};
 
 template <std::size_t N>
 std::map<std::string, TreeItem> ItemsOf(const ItemDefault (&defaults)[N]) {

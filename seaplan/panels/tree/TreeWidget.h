@@ -3,7 +3,8 @@
 
 #include <string>
 
-#include "seaplan/panels/Rect.h"
+#include "seaplan/panels/window/Boxes.h"
+#include "seaplan/panels/window/Rect.h"
 
 namespace Tarvik::Seaplan {
 
@@ -19,10 +20,8 @@ inline constexpr const char* kDeletedVoyageStyle = "Voyage.tree.child.del";
 
 /// The widget under the voyage tree: rows in two levels, each with named items. It reports presses and clicks
 /// on items to SeaplanTreeCtrl and decides nothing.
-class TreeWidget {
+class TreeWidget : public BoxOwner {
   public:
-    virtual ~TreeWidget() = default;
-
     /// Appends a row below `parent`; kNoRow makes a category row.
     virtual TreeRow InsertItem(const std::string& text, const char* style, TreeRow parent) = 0;
     virtual void DeleteItem(TreeRow row) = 0;
@@ -49,21 +48,9 @@ class TreeWidget {
     virtual void SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) = 0;
     virtual void SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) = 0;
 
-    /// The box for a new name over a row: filled, focused, all selected. It takes at most `maxUnits` UTF-16
-    /// units.
-    virtual void ShowRenameEditor(const Rect& place, const std::string& text, int maxUnits) = 0;
-    virtual void HideRenameEditor() = 0;
-    virtual bool RenameEditorVisible() const = 0;
-    virtual std::string RenameEditorText() const = 0;
-    /// Opens the choice of the sort key at the pointer, `sortKey` marked.
-    virtual void ShowSortPanel(const std::string& ci, int sortKey) = 0;
-    virtual void HidePopups() = 0;
     /// Shows another plug-in's window, by its opaque handle, 18 left of and 5 above the pointer, in its own
     /// size.
     virtual void ShowAtPointer(void* window) = 0;
-    virtual void SetEnabled(bool enabled) = 0;
-    /// Opaque handle as owner of boxes.
-    virtual void* Handle() const = 0;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/VoyagesOnChart.h"
 
-#include "seaplan/panels/language/Messages.h"
+#include "seaplan/panels/tree/ItemNames.h"
 
 namespace Tarvik::Seaplan {
 
@@ -11,10 +11,10 @@ void VoyagesOnChart::TidyOthers(const std::string& vi) {
             continue;
         }
         if (mark.routePinned == 1) {
-            c_.schedule.HideAisTrack(id);
+            c_.voyages.HideAisTrack(id);
             continue;
         }
-        if (c_.schedule.RemoveVoyageObjects(id) != 0 || c_.schedule.HideAisTrack(id) != 0) {
+        if (c_.voyages.RemoveVoyageObjects(id) != 0 || c_.voyages.HideAisTrack(id) != 0) {
             continue;
         }
         mark.drawState = OffChart;
@@ -27,10 +27,10 @@ int VoyagesOnChart::Redraw(const VoyInfo& voyage, VoyChartMark& mark) {
             aisModSkipDone_ = true;
             return 0;
         }
-        if (c_.schedule.RemoveVoyageObjects(voyage.vi) != 0) {
+        if (c_.voyages.RemoveVoyageObjects(voyage.vi) != 0) {
             return -2;
         }
-        if (c_.schedule.ShowVoyage(voyage.vi) != 0) {
+        if (c_.voyages.ShowVoyage(voyage.vi) != 0) {
             return -3;
         }
     }
@@ -47,12 +47,12 @@ int VoyagesOnChart::ActivateVoyage(const VoyInfo& voyage) {
     if (known != c_.chartMarks.end() && known->second.drawState == OnChart) {
         return Redraw(voyage, known->second);
     }
-    if (c_.schedule.RemoveVoyageObjects(voyage.vi) != 0) {
+    if (c_.voyages.RemoveVoyageObjects(voyage.vi) != 0) {
         return -5;
     }
     c_.chartMarks[voyage.vi] = {voyage.vr == 1 ? 1 : 0, OnChart};
     TidyOthers(voyage.vi);
-    if (c_.schedule.ShowVoyage(voyage.vi) != 0) {
+    if (c_.voyages.ShowVoyage(voyage.vi) != 0) {
         TidyOthers(voyage.vi);
         return -6;
     }
@@ -64,34 +64,28 @@ void VoyagesOnChart::LeaveAloneOnce(const std::string& vi) {
     aisModSkipDone_ = false;
 }
 
-void VoyagesOnChart::Notice(TextId id) {
-    c_.tree.SetEnabled(false);
-    Seaplan::Notice(id, c_.tree.Handle());
-    c_.tree.SetEnabled(true);
-}
-
 int VoyagesOnChart::ShowAis(const VoyInfo& voyage, bool warn) {
     if (voyage.vi.empty()) {
         return -1;
     }
     if (voyage.vsi.empty() || voyage.vsn.empty()) {
         if (warn) {
-            Notice(TextId::IDS_TREE_WARNSHOWAIS);
+            c_.boxes.Notice(TextId::IDS_TREE_WARNSHOWAIS);
         }
         return -1;
     }
-    if (c_.schedule.RefreshTrace(voyage.vi) == 0) {
+    if (c_.voyages.RefreshTrace(voyage.vi) == 0) {
         return 0;
     }
     if (warn) {
-        Notice(TextId::IDS_TREE_FAILDSHOWAIS);
+        c_.boxes.Notice(TextId::IDS_TREE_FAILDSHOWAIS);
     }
     return -2;
 }
 
 void VoyagesOnChart::ShowAisItems(TreeRow row, bool on) {
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr8", !on);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr10", on);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kAisOff, !on);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kAisOn, on);
 }
 
 int VoyagesOnChart::SetAisShown(const std::string& vi, bool on) {
@@ -114,7 +108,7 @@ int VoyagesOnChart::SetAisShown(const std::string& vi, bool on) {
             return -5;
         }
     } else {
-        if (c_.schedule.HideAisTrack(vi) != 0) {
+        if (c_.voyages.HideAisTrack(vi) != 0) {
             return -6;
         }
         // The server is told whatever the flag was; its refusal leaves the flag on and the track hidden.
@@ -148,8 +142,8 @@ int VoyagesOnChart::SetPinned(const std::string& vi, bool on) {
     if (!on && c_.catalog.CloseRoute(vi) != 0) {
         return -6;
     }
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr1.default", !on);
-    c_.tree.SetDrawItemVisibleEx(row, "Voyage.child.svr1.auto", on);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kUnpinned, !on);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kPinned, on);
     return ActivateVoyage(*voyage) == 0 ? 0 : -7;
 }
 
@@ -159,7 +153,7 @@ void VoyagesOnChart::MarkAll() {
     }
     for (const auto& [vi, voyage] : c_.store.voyages) {
         if (voyage.vr == 1) {
-            if (c_.schedule.ShowVoyage(vi) == 0) {
+            if (c_.voyages.ShowVoyage(vi) == 0) {
                 c_.chartMarks[vi] = {1, OnChart};
             }
         } else {

@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
@@ -34,7 +33,6 @@ class VoyagesOnChart {
   private:
     void TidyOthers(const std::string& vi);
     int Redraw(const VoyInfo& voyage, VoyChartMark& mark);
-    void Notice(TextId id);
 
     TreeContext& c_;
     std::string aisModVoyage_;  ///< voyage last opened for a correction

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/Rect.h"
+#include "seaplan/panels/window/Rect.h"
 
 namespace Tarvik::Seaplan {
 

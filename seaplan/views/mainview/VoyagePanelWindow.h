@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <tarvik/skin/ToolWindow.h>
-
-#include "seaplan/panels/mainview/MainViewWindow.h"
+#include "seaplan/panels/window/PanelWindow.h"
 #include "seaplan/views/tree/VoyageTreeView.h"
 #include "seaplan/views/vessel/VesselBox.h"
-
-class QCheckBox;
+#include "seaplan/views/window/ChoiceBox.h"
+#include "seaplan/views/window/FloatingPanel.h"
 
 namespace Tarvik::Seaplan {
 
@@ -15,41 +13,27 @@ class SeaplanViewDlg;
 class SeaplanTreeCtrl;
 
 /// The window of the voyage panel.
-class VoyagePanelWindow final : public Skin::ToolWindow, public MainViewWindow {
+class VoyagePanelWindow final : public PanelFrame<PanelWindow> {
   public:
     explicit VoyagePanelWindow(QWidget* mainView);
     /// Ties the controls to the panel; both outlive the window's use.
     void Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree);
     VoyageTreeView& Tree() { return *tree_; }
     VesselBox& Vessels() { return *vessels_; }
+    ChoiceBox& FilterPopup() { return *filter_; }
 
-    bool IsVisible() const override { return isVisible(); }
-    void Place(const Rect& screen) override;
-    void Show() override;
-    void Hide() override;
     void ApplyTexts() override;
-    bool FilterVisible() const override;
-    void ShowFilter(bool showDeleted) override;
-    void HideFilter() override;
-    void RequestHelp(const std::string& topic, int width, int height) override;
     void ApplySkin() override;
 
   protected:
-    void SurfacePressed() override;
-    void CloseAsked() override;
+    void FocusFirst() override;
 
   private:
-    void MakeFilter();
-
     VoyageTreeView* tree_;
     VesselBox* vessels_;
+    ChoiceBox* filter_;
     QToolButton* filterButton_;
     QToolButton* addButton_;
-    QToolButton* helpButton_;
-    QToolButton* closeButton_;
-    QFrame* filter_ = nullptr;
-    QCheckBox* showDeleted_ = nullptr;
-    SeaplanViewDlg* panel_ = nullptr;
 };
 
 }  // namespace Tarvik::Seaplan

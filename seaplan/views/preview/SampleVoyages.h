@@ -2,13 +2,12 @@
 #pragma once
 
 #include "seaplan/data/PortDirectory.h"
-#include "seaplan/data/VoyageStore.h"
-#include "seaplan/panels/tests/FakeCommands.h"
+#include "seaplan/panels/tests/PanelDesk.h"
 
 namespace Tarvik::Seaplan {
 
-/// Puts categories, voyages and saved schedules behind the fakes, as a server would hold them.
-void AddSampleVoyages(FakeCatalog& catalog, FakeSchedule& schedule);
+/// Puts categories, voyages and saved schedules on the server.
+void AddSampleVoyages(PanelDesk& desk);
 /// A few ports with their local names.
 PortDirectory SamplePorts();
 

@@ -14,7 +14,6 @@
 #include "seaplan/views/VoyageViews.h"
 #include "seaplan/views/preview/FileTexts.h"
 #include "seaplan/views/preview/SampleVoyages.h"
-#include "testsupport/ManualClock.h"
 
 namespace {
 
@@ -93,7 +92,7 @@ void play(VoyageViews& views, const std::string& scene) {
         return;
     }
     if (scene == "bin") {
-        views.Panel().SetShowDeleted(true);
+        views.Tree().SetShowDeleted(true);
     }
     press(views, "Container 2024");
     QApplication::processEvents();
@@ -150,16 +149,13 @@ int main(int argc, char** argv) {
         return usage();
     }
     Skin::SetTheme(Skin::ThemeNamed(option(arguments, "--theme", "light")));
-    Tarvik::TestSupport::ManualClock clock;
-    VoyageStore store;
-    FakeCatalog catalog(store);
-    FakeSchedule schedule(store);
+    PanelDesk desk;
     const std::string scene = option(arguments, "--scene", "voyage");
     if (scene != "empty") {
-        AddSampleVoyages(catalog, schedule);
+        AddSampleVoyages(desk);
     }
     PortDirectory ports = SamplePorts();
-    VoyageViews views({store, catalog, schedule, ports, nullptr});
+    VoyageViews views({desk.store, desk.catalog, desk.voyages, ports, nullptr});
     play(views, scene);
     if (!arguments.contains("--png")) {
         return QApplication::exec();

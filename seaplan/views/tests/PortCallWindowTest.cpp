@@ -107,7 +107,8 @@ TEST_F(PortCallWindowTest, AVoyageIsPlannedFromTheKeyboard) {
     EXPECT_TRUE(mark->isVisible());
     Button("saveButton");
     EXPECT_FALSE(mark->isVisible());
-    EXPECT_EQ(schedule.savedRows.size(), 2U);
+    EXPECT_EQ(desk.Count(Ask::kSavePortCalls, "HAMBURG"), 1);
+    EXPECT_EQ(desk.Voyage("North Sea").portCalls.size(), 2U);
     EXPECT_TRUE(Shows("North Sea", "Voyage_Date"));
     EXPECT_TRUE(messages.messages.empty());
 }
@@ -235,8 +236,8 @@ TEST_F(PortCallWindowTest, ACommandsKeyTakesTheTextBeingTypedFirst) {
     ClickCell(1, ColSpeed);
     QTest::keyClicks(&SpeedEditor(), "12");
     QTest::keyClick(&SpeedEditor(), Qt::Key_S, Qt::ControlModifier);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return schedule.savedRows.size() == 2; }));
-    EXPECT_FLOAT_EQ(schedule.savedRows[1].psp, 12.0F);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return desk.Count(Ask::kSavePortCalls) == 1; }));
+    EXPECT_FLOAT_EQ(desk.Voyage("North Sea").portCalls.at(1).psp, 12.0F);
 }
 
 TEST_F(PortCallWindowTest, TheUnitMenusChangeTheTable) {

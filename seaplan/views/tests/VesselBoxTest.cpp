@@ -49,7 +49,7 @@ TEST_F(VesselBoxTest, AVesselIsPickedFromTheList) {
     ASSERT_TRUE(List().isVisible());
     EXPECT_EQ(List().size(), QSize(157, 41));
     QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, List().visualItemRect(List().item(1)).center());
-    EXPECT_EQ(store.voyages["12"].vsn, "NORA");
+    EXPECT_EQ(desk.Voyage("North Sea").vsn, "NORA");
     EXPECT_FALSE(Box().isVisible());
     EXPECT_FALSE(List().isVisible());
     EXPECT_TRUE(Shows("North Sea", "Voyage_ShipInfo"));
@@ -62,13 +62,13 @@ TEST_F(VesselBoxTest, AVesselIsTypedAndArrowsWalkTheList) {
     EXPECT_EQ(List().count(), 2);
     QTest::keyClick(&Box(), Qt::Key_Down);
     QTest::keyClick(&Box(), Qt::Key_Return);
-    EXPECT_EQ(store.voyages["12"].vsn, "NORA");
+    EXPECT_EQ(desk.Voyage("North Sea").vsn, "NORA");
     ClickPart("North Sea", "Voyage_ReplaceShip");
     Box().selectAll();
     QTest::keyClicks(&Box(), "SEA STAR");
     EXPECT_FALSE(List().isVisible());
     QTest::keyClick(&Box(), Qt::Key_Return);
-    EXPECT_EQ(store.voyages["12"].vsn, "SEA STAR");
+    EXPECT_EQ(desk.Voyage("North Sea").vsn, "SEA STAR");
     EXPECT_TRUE(Shows("North Sea", "Voyage_Alert"));
 }
 
@@ -88,7 +88,7 @@ TEST_F(VesselBoxTest, APressElsewhereTakesTheTypedName) {
     QTest::keyClicks(&Box(), "STELLA");
     QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, QPoint(100, 370));
     EXPECT_FALSE(Box().isVisible());
-    EXPECT_EQ(store.voyages["12"].vsn, "STELLA");
+    EXPECT_EQ(desk.Voyage("North Sea").vsn, "STELLA");
 }
 
 }  // namespace Tarvik::Seaplan

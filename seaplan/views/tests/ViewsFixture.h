@@ -13,28 +13,23 @@
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/skin/Palette.h>
 
-#include "seaplan/panels/tests/FakeCommands.h"
+#include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/views/VoyageViews.h"
 #include "seaplan/views/preview/FileTexts.h"
 #include "seaplan/views/preview/SampleVoyages.h"
-#include "testsupport/ManualClock.h"
-#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 
-/// Both windows over fakes with the sample voyages, driven as a person does it.
+/// Both windows over the real server with the sample voyages, driven as a person does it.
 class ViewsFixture : public ::testing::Test {
   protected:
     FileTexts texts{std::string(SEAPLAN_LANG_DIR) + "/seaplan.en-US.json"};
-    TestSupport::ManualClock clock;
-    TestSupport::RecordingMsgSink messages;
-    VoyageStore store;
-    FakeCatalog catalog{store};
-    FakeSchedule schedule{store};
+    PanelDesk desk;
+    TestSupport::RecordingMsgSink& messages = desk.messages;
     PortDirectory ports = SamplePorts();
-    VoyageViews views{{store, catalog, schedule, ports, nullptr}};
+    VoyageViews views{{desk.store, desk.catalog, desk.voyages, ports, nullptr}};
 
-    ViewsFixture() { AddSampleVoyages(catalog, schedule); }
+    ViewsFixture() { AddSampleVoyages(desk); }
     ~ViewsFixture() override {
         Skin::SetTheme(Skin::Theme::Light);
         qApp->setProperty("tarvik.theme", QVariant());

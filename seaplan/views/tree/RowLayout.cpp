@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "seaplan/panels/tree/ItemNames.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -17,24 +19,24 @@ struct IconItem {
     const char* icon;
 };
 
-constexpr IconItem kCategoryButtons[] = {{"Voyage_parent_rename", "rename"},
-                                         {"Voyage.parent.svr3", "add"},
-                                         {"Voyage.parent.svr6", "sort-up"},
-                                         {"Voyage.parent.svr6.desc", "sort-down"},
-                                         {"Voyage.parent.svr9", "sort"},
-                                         {"Voyage.parent.svr2.non", "remark"},
-                                         {"Voyage.parent.svr2.exist", "remark-full"},
-                                         {"Voyage.parent.svr7", "delete"}};
+constexpr IconItem kCategoryButtons[] = {{Item::kRenameCategory, "rename"},
+                                         {Item::kAddVoyage, "add"},
+                                         {Item::kAscending, "sort-up"},
+                                         {Item::kDescending, "sort-down"},
+                                         {Item::kSort, "sort"},
+                                         {Item::kCategoryNoRemark, "remark"},
+                                         {Item::kCategoryRemark, "remark-full"},
+                                         {Item::kDeleteCategory, "delete"}};
 constexpr IconItem kVoyageButtons[] = {
-    {"Voyage.child.svr4", "portcalls"},  {"Voyage.child.svr5", "consumption"},
-    {"Voyage.child.svr6", "noon"},       {"Voyage.child.svr8", "ais"},
-    {"Voyage.child.svr10", "ais-on"},    {"Voyage_modify", "modify"},
-    {"Voyage.child.svr3.non", "remark"}, {"Voyage.child.svr3.exist", "remark-full"},
-    {"Voyage.child.svr9", "delete"}};
-constexpr IconItem kDeletedButtons[] = {{"Voyage.parent.svr.recover", "recover"},
-                                        {"Voyage.parent.svr.clear", "clear"},
-                                        {"Voyage.child.svr.recover", "recover"},
-                                        {"Voyage.child.svr.clear", "clear"}};
+    {Item::kPortCalls, "portcalls"},   {Item::kConsumption, "consumption"},
+    {Item::kNoonReport, "noon"},       {Item::kAisOff, "ais"},
+    {Item::kAisOn, "ais-on"},          {Item::kModify, "modify"},
+    {Item::kVoyageNoRemark, "remark"}, {Item::kVoyageRemark, "remark-full"},
+    {Item::kDeleteVoyage, "delete"}};
+constexpr IconItem kDeletedButtons[] = {{Item::kRecoverCategory, "recover"},
+                                        {Item::kClearCategory, "clear"},
+                                        {Item::kRecoverVoyage, "recover"},
+                                        {Item::kClearVoyage, "clear"}};
 
 QString Qt(const std::string& text) {
     return QString::fromStdString(text);
@@ -114,22 +116,22 @@ void LayoutCategory(Builder& b, bool selected) {
            b.Row().expanded ? "chevron-down" : "chevron-right",
            {},
            false});
-    const TreeItem* count = b.Visible("cat.statistic");
+    const TreeItem* count = b.Visible(Item::kCount);
     const QString counted = count == nullptr ? QString() : Qt(count->text);
     const int right = r.right() - kMargin - b.WidthOf(counted, SubItemKind::Count);
     const int end = b.text("name", SubItemKind::Name, Qt(b.Row().text), r.left() + 24, r.top(), kLine, right,
                            Qt(b.Row().text));
-    b.text("cat.statistic", SubItemKind::Count, counted, end, r.top(), kLine, r.right() - kMargin);
+    b.text(Item::kCount, SubItemKind::Count, counted, end, r.top(), kLine, r.right() - kMargin);
     if (selected) {
         b.Buttons(kCategoryButtons, r.left() + 20, r.top() + kLine + 1);
     }
 }
 
 const char* StatusIcon(const QString& image) {
-    if (image == QLatin1String("#Voyage_status_underway")) {
+    if (image == QLatin1String(ItemValue::kUnderwayImage)) {
         return "underway";
     }
-    return image == QLatin1String("#Voyage_status_finish") ? "finish" : "plan";
+    return image == QLatin1String(ItemValue::kFinishImage) ? "finish" : "plan";
 }
 
 void LayoutVoyageHead(Builder& b, bool selected) {
@@ -137,14 +139,14 @@ void LayoutVoyageHead(Builder& b, bool selected) {
     constexpr int kLine = 30;
     const int left = r.left() + kMargin;
     const QRect pin(left, r.top() + 3, kButton, kButton);
-    b.Icon("Voyage.child.svr1.default", "pin", pin);
-    b.Icon("Voyage.child.svr1.auto", "pinned", pin);
-    const QString image = b.Value("Voyage.child.svr2", "Voyage_Status");
+    b.Icon(Item::kUnpinned, "pin", pin);
+    b.Icon(Item::kPinned, "pinned", pin);
+    const QString image = b.Value(Item::kStatus, ItemValue::kStatusImage);
     int right = r.right() - kMargin;
     if (!image.isEmpty()) {
         right -= 16 + kGap;
-        const TreeItem* item = b.Visible("Voyage.child.svr2");
-        b.Add({"Voyage.child.svr2",
+        const TreeItem* item = b.Visible(Item::kStatus);
+        b.Add({Item::kStatus,
                SubItemKind::Icon,
                {right + kGap, r.top() + 7, 16, 16},
                {},
@@ -156,21 +158,22 @@ void LayoutVoyageHead(Builder& b, bool selected) {
     const int end = b.text("name", SubItemKind::Name, Qt(b.Row().text), pin.right() + kGap, r.top(), kLine,
                            nameRight, Qt(b.Row().text));
     if (selected) {
-        b.Icon("Voyage_child_rename", "rename", {end + kGap, r.top() + 3, kButton, kButton});
+        b.Icon(Item::kRenameVoyage, "rename", {end + kGap, r.top() + 3, kButton, kButton});
     }
 }
 
 void LayoutVoyageDates(Builder& b, int left, int right) {
     constexpr int kLine = 26;
     const int top = b.Rect().top() + 32;
-    if (b.Visible("Voyage_Date") != nullptr) {
-        const QString text = b.Value("Voyage_Date", "Sailing") + u' ' + b.Value("Voyage_Date", "Saildate") +
-                             QStringLiteral("  ") + b.Value("Voyage_Date", "Ending") + u' ' +
-                             b.Value("Voyage_Date", "Enddate");
-        b.text("Voyage_Date", SubItemKind::Text, text, left, top, kLine, right);
-    } else if (b.Visible("Voyage_setPortCall") != nullptr) {
-        const QString text = b.Value("Voyage_setPortCall", "setPortCall");
-        b.text("Voyage_setPortCall", SubItemKind::Link, text, left, top, kLine, right, text);
+    if (b.Visible(Item::kDates) != nullptr) {
+        const QString text = b.Value(Item::kDates, ItemValue::kSailingLabel) + u' ' +
+                             b.Value(Item::kDates, ItemValue::kSailDate) + QStringLiteral("  ") +
+                             b.Value(Item::kDates, ItemValue::kEndingLabel) + u' ' +
+                             b.Value(Item::kDates, ItemValue::kEndDate);
+        b.text(Item::kDates, SubItemKind::Text, text, left, top, kLine, right);
+    } else if (b.Visible(Item::kSetPortCall) != nullptr) {
+        const QString text = b.Value(Item::kSetPortCall, ItemValue::kSetPortCall);
+        b.text(Item::kSetPortCall, SubItemKind::Link, text, left, top, kLine, right, text);
     }
 }
 
@@ -178,20 +181,20 @@ void LayoutVoyageVessel(Builder& b, int left, int right) {
     constexpr int kLine = 26;
     const int top = b.Rect().top() + 60;
     int end = left;
-    if (b.Visible("Voyage_ShipInfo") != nullptr) {
-        const QString text =
-            b.Value("Voyage_ShipInfo", "ShipInfo") + u' ' + b.Value("Voyage_ShipInfo", "ShipName");
-        end = b.text("Voyage_ShipInfo", SubItemKind::Link, text, left, top, kLine,
-                     right - 2 * (kButton + kGap), text);
-    } else if (b.Visible("Voyage_AssignShip") != nullptr) {
-        const QString text = b.Value("Voyage_AssignShip", "AssignShip");
-        end = b.text("Voyage_AssignShip", SubItemKind::Link, text, left, top, kLine, right - kButton, text);
+    if (b.Visible(Item::kShipInfo) != nullptr) {
+        const QString text = b.Value(Item::kShipInfo, ItemValue::kShipLabel) + u' ' +
+                             b.Value(Item::kShipInfo, ItemValue::kShipName);
+        end = b.text(Item::kShipInfo, SubItemKind::Link, text, left, top, kLine, right - 2 * (kButton + kGap),
+                     text);
+    } else if (b.Visible(Item::kAssignShip) != nullptr) {
+        const QString text = b.Value(Item::kAssignShip, ItemValue::kAssignShip);
+        end = b.text(Item::kAssignShip, SubItemKind::Link, text, left, top, kLine, right - kButton, text);
     }
-    if (b.Visible("Voyage_Alert") != nullptr) {
-        b.Icon("Voyage_Alert", "alert", {end + kGap, top + 1, kButton, kButton});
+    if (b.Visible(Item::kAlert) != nullptr) {
+        b.Icon(Item::kAlert, "alert", {end + kGap, top + 1, kButton, kButton});
         end += kButton + kGap;
     }
-    b.Icon("Voyage_ReplaceShip", "replace", {end + kGap, top + 1, kButton, kButton});
+    b.Icon(Item::kReplaceShip, "replace", {end + kGap, top + 1, kButton, kButton});
 }
 
 }  // namespace
@@ -238,7 +241,7 @@ QString AccessibleTextOf(const TreeRowState& row) {
         if (part.kind != SubItemKind::Icon) {
             texts.append(part.text.trimmed());
         }
-        if (part.name == "Voyage.child.svr2") {
+        if (part.name == Item::kStatus) {
             status = part.toolTip;
         }
     }

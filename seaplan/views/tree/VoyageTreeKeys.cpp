@@ -7,6 +7,7 @@
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
 
+#include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/views/tree/VoyageTreeView.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"
 
@@ -59,7 +60,7 @@ void VoyageTreeView::PressKey() {
         if (reports_.clicked) {
             reports_.clicked(rows_->Selected(), part);
         }
-    } else if (!ClickItem(row, {"Voyage.child.svr4"})) {
+    } else if (!ClickItem(row, {Item::kPortCalls})) {
         Press(row, false);
     }
 }
@@ -67,7 +68,7 @@ void VoyageTreeView::PressKey() {
 void VoyageTreeView::InsertKey() {
     const TreeRow row = KeyRow();
     const TreeRow parent = rows_->GetParentItem(row);
-    if (!ClickItem(parent == kNoRow ? row : parent, {"Voyage.parent.svr3"}) && reports_.addCategory) {
+    if (!ClickItem(parent == kNoRow ? row : parent, {Item::kAddVoyage}) && reports_.addCategory) {
         reports_.addCategory();
     }
 }
@@ -103,10 +104,10 @@ bool VoyageTreeView::RowKey(int key) {
             PressKey();
             return true;
         case Qt::Key_F2:
-            return ClickItem(row, {"Voyage_parent_rename", "Voyage_child_rename"});
+            return ClickItem(row, {Item::kRenameCategory, Item::kRenameVoyage});
         case Qt::Key_Delete:
-            return ClickItem(row, {"Voyage.parent.svr7", "Voyage.child.svr9", "Voyage.parent.svr.clear",
-                                   "Voyage.child.svr.clear"});
+            return ClickItem(
+                row, {Item::kDeleteCategory, Item::kDeleteVoyage, Item::kClearCategory, Item::kClearVoyage});
         case Qt::Key_Insert:
             InsertKey();
             return true;

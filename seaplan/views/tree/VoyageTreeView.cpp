@@ -2,26 +2,23 @@
 #include "seaplan/views/tree/VoyageTreeView.h"
 
 #include <QApplication>
-#include <QCursor>
-#include <QFocusEvent>
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QRadioButton>
 #include <QToolTip>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
-#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/views/ViewText.h"
+#include "seaplan/views/tree/RenameField.h"
 #include "seaplan/views/tree/RowDelegate.h"
 #include "seaplan/views/tree/RowModel.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"
+#include "seaplan/views/window/ChoiceBox.h"
 
 namespace Tarvik::Seaplan {
 
@@ -41,10 +38,17 @@ VoyageTreeView::VoyageTreeView(QWidget* parent)
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMouseTracking(true);
-    rename_ = new QLineEdit(viewport());
-    rename_->setObjectName(QStringLiteral("renameEditor"));
-    rename_->hide();
-    rename_->installEventFilter(this);
+    rename_ = new RenameField(viewport());
+    rename_->SetReports(
+        [this] {
+            if (reports_.renameDone) {
+                reports_.renameDone();
+            }
+        },
+        [this] { setFocus(); });
+    sortPopup_ = new ChoiceBox(
+        this, ChoiceBox::Kind::Radios, nullptr,
+        {{TextId::IDS_VOY_SORTBYNAME, "sortByName"}, {TextId::IDS_VOY_SORTBYDATE, "sortByDate"}});
 }
 
 VoyageTreeView::~VoyageTreeView() = default;
@@ -62,6 +66,14 @@ TreeRows& VoyageTreeView::Rows() {
 
 TreeWidget& VoyageTreeView::Widget() {
     return *rows_;
+}
+
+TextBox& VoyageTreeView::RenameBox() {
+    return *rename_;
+}
+
+ChoiceBox& VoyageTreeView::SortPopup() {
+    return *sortPopup_;
 }
 
 TreeRow VoyageTreeView::RowAt(const QPoint& point) const {
@@ -193,48 +205,9 @@ bool VoyageTreeView::viewportEvent(QEvent* event) {
     return true;
 }
 
-bool VoyageTreeView::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == rename_ && reports_.renameDone) {
-        if (event->type() == QEvent::KeyPress) {
-            const int key = static_cast<QKeyEvent*>(event)->key();
-            if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-                reports_.renameDone();
-                setFocus();
-                return true;
-            }
-        } else if (event->type() == QEvent::FocusOut &&
-                   static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
-            reports_.renameDone();
-        }
-    }
-    return QTreeView::eventFilter(watched, event);
-}
-
-void VoyageTreeView::ShowSortPanel(const std::string& ci, int sortKey) {
-    if (sortPanel_ != nullptr && sortPanel_->isVisible()) {
-        return;
-    }
-    delete sortPanel_;
-    sortPanel_ = new QFrame(this, Qt::Popup);
-    sortPanel_->setObjectName(QStringLiteral("popup"));
-    sortPanel_->setStyleSheet(Skin::StyleSheet());
-    auto* rows = new QVBoxLayout(sortPanel_);
-    rows->setContentsMargins(8, 4, 8, 4);
-    rows->setSpacing(2);
-    const std::pair<TextId, int> choices[] = {{TextId::IDS_VOY_SORTBYNAME, SortByName},
-                                              {TextId::IDS_VOY_SORTBYDATE, SortByDate}};
-    for (const auto& [id, key] : choices) {
-        auto* radio = new QRadioButton(ViewText(id), sortPanel_);
-        radio->setObjectName(key == SortByName ? QStringLiteral("sortByName") : QStringLiteral("sortByDate"));
-        Skin::Describe(radio, radio->text());
-        radio->setChecked(key == sortKey);
-        QObject::connect(radio, &QRadioButton::clicked, this,
-                         [this, ci, chosen = key] { reports_.sortChosen(ci, chosen); });
-        rows->addWidget(radio);
-    }
-    sortPanel_->setFixedSize(180, 60);
-    sortPanel_->move(QCursor::pos());
-    sortPanel_->show();
+void VoyageTreeView::ApplySkin() {
+    sortPopup_->ApplySkin();
+    viewport()->update();
 }
 
 }  // namespace Tarvik::Seaplan

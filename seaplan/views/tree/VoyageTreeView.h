@@ -12,9 +12,11 @@
 #include "seaplan/panels/tree/TreeRows.h"
 #include "seaplan/views/tree/RowLayout.h"
 
-class QLineEdit;
-
 namespace Tarvik::Seaplan {
+
+class ChoiceBox;
+class RenameField;
+class TextBox;
 
 /// The rows of the voyage tree as a window sees them; made by VoyageTreeView.
 class VoyageTreeWidget;
@@ -31,15 +33,16 @@ class VoyageTreeView : public QTreeView {
         std::function<void(TreeRow)> pressed;
         std::function<void(TreeRow, const std::string&)> clicked;
         std::function<void()> renameDone;
-        std::function<void(const std::string&, int)> sortChosen;
         std::function<void()> addCategory;
         std::function<bool(const std::string&)> HasCommand;
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }
     TreeRows& Rows();
     TreeWidget& Widget();
+    TextBox& RenameBox();
+    ChoiceBox& SortPopup();
     std::vector<SubItem> PartsOf(TreeRow row) const;
-    void ApplySkin() { viewport()->update(); }
+    void ApplySkin();
     /// Names and hints in the language in force; the rows' texts are the panel's.
     void ApplyTexts();
     /// The item that has the keyboard in the selected row, empty when none has it.
@@ -55,7 +58,6 @@ class VoyageTreeView : public QTreeView {
     void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void drawBranches(QPainter*, const QRect&, const QModelIndex&) const override {}
 
@@ -78,13 +80,12 @@ class VoyageTreeView : public QTreeView {
     void InsertKey();
     std::vector<SubItem> layout(const TreeRowState& state, const QRect& rect, bool selected) const;
     void Relayout();
-    void ShowSortPanel(const std::string& ci, int sortKey);
 
     std::unique_ptr<VoyageTreeWidget> rows_;
     QStandardItemModel* model_;
     Reports reports_;
-    QLineEdit* rename_;
-    QWidget* sortPanel_ = nullptr;
+    RenameField* rename_;
+    ChoiceBox* sortPopup_;
     QString emptyHint_;
     TreeRow pressedRow_ = kNoRow;
     std::string pressedItem_;

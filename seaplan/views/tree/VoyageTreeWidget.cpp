@@ -2,7 +2,6 @@
 #include "seaplan/views/tree/VoyageTreeWidget.h"
 
 #include <QCursor>
-#include <QLineEdit>
 
 #include "seaplan/views/tree/VoyageTreeView.h"
 
@@ -20,38 +19,6 @@ Rect VoyageTreeWidget::GetItemRect(TreeRow row) const {
     }
     const QRect rect = view_.visualRect(item->index());
     return {0, rect.top(), view_.viewport()->width(), rect.bottom() + 1};
-}
-
-void VoyageTreeWidget::ShowRenameEditor(const Rect& place, const std::string& text, int maxUnits) {
-    QLineEdit* editor = view_.rename_;
-    editor->setMaxLength(maxUnits);
-    editor->setText(QString::fromStdString(text));
-    editor->setGeometry(place.left, place.top, place.right - place.left, place.bottom - place.top);
-    renaming_ = true;
-    editor->show();
-    editor->raise();
-    editor->setFocus();
-    editor->selectAll();
-}
-
-void VoyageTreeWidget::HideRenameEditor() {
-    renaming_ = false;
-    view_.rename_->hide();
-    view_.rename_->clear();
-}
-
-std::string VoyageTreeWidget::RenameEditorText() const {
-    return view_.rename_->text().toStdString();
-}
-
-void VoyageTreeWidget::ShowSortPanel(const std::string& ci, int sortKey) {
-    view_.ShowSortPanel(ci, sortKey);
-}
-
-void VoyageTreeWidget::HidePopups() {
-    if (view_.sortPanel_ != nullptr) {
-        view_.sortPanel_->hide();
-    }
 }
 
 void VoyageTreeWidget::ShowAtPointer(void* window) {

@@ -17,12 +17,6 @@ class VoyageTreeWidget final : public TreeRows {
     explicit VoyageTreeWidget(VoyageTreeView& view) : view_(view) {}
 
     Rect GetItemRect(TreeRow row) const override;
-    void ShowRenameEditor(const Rect& place, const std::string& text, int maxUnits) override;
-    void HideRenameEditor() override;
-    bool RenameEditorVisible() const override { return renaming_; }
-    std::string RenameEditorText() const override;
-    void ShowSortPanel(const std::string& ci, int sortKey) override;
-    void HidePopups() override;
     void ShowAtPointer(void* window) override;
     void SetEnabled(bool enabled) override;
     void* Handle() const override;
@@ -40,7 +34,6 @@ class VoyageTreeWidget final : public TreeRows {
   private:
     VoyageTreeView& view_;
     std::map<TreeRow, QStandardItem*> items_;
-    bool renaming_ = false;
 };
 
 }  // namespace Tarvik::Seaplan

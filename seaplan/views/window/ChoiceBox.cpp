@@ -25,7 +25,7 @@ ChoiceBox::ChoiceBox(QWidget* parent, Kind kind, QWidget* anchor, std::map<TextI
 }
 
 void ChoiceBox::ApplySkin() {
-    setStyleSheet(SkinStyleSheet());
+    setStyleSheet(Skin::StyleSheet());
 }
 
 QAbstractButton* ChoiceBox::ButtonOf(TextId id) {
@@ -53,7 +53,7 @@ void ChoiceBox::SetChoices(const std::vector<Choice>& choices) {
     for (const Choice& choice : choices) {
         QAbstractButton* button = ButtonOf(choice.id);
         button->setText(ViewText(choice.id));
-        Describe(button, button->text());
+        Skin::Describe(button, button->text());
         // Radio buttons would keep one of them ticked.
         button->setAutoExclusive(false);
         button->setChecked(choice.ticked);

@@ -15,7 +15,7 @@ Rect OnScreen(const QWidget& widget) {
 }
 
 FloatingPanel::FloatingPanel(QWidget* mainView, const QString& name, const Hints& hints)
-    : ToolWindow(mainView, name), hints_(hints) {}
+    : Skin::ToolWindow(mainView, name), hints_(hints) {}
 
 void FloatingPanel::AddHelpAndClose() {
     help_ = AddCaptionButton("helpButton", "help");
@@ -31,8 +31,8 @@ void FloatingPanel::AddHelpAndClose() {
 }
 
 void FloatingPanel::DescribeHelpAndClose() {
-    Describe(help_, ViewText(hints_.help));
-    Describe(close_, ViewText(hints_.close));
+    Skin::Describe(help_, ViewText(hints_.help));
+    Skin::Describe(close_, ViewText(hints_.close));
 }
 
 void FloatingPanel::PlaceAt(const Rect& screen) {
@@ -50,7 +50,7 @@ void FloatingPanel::Raise() {
 }
 
 void FloatingPanel::ShowCaption(const std::string& text, bool changed) {
-    ToolWindow::SetCaption(QString::fromStdString(text));
+    Skin::ToolWindow::SetCaption(QString::fromStdString(text));
     SetChangedMark(changed, ViewText(TextId::IDS_VIEW_CHANGED));
 }
 

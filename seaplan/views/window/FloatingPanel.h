@@ -18,7 +18,7 @@ Rect OnScreen(const QWidget& widget);
 
 /// What all floating panels have in common: help and close at the end of the caption, with F1 and Ctrl+W, and
 /// the operations behind PanelWindow.
-class FloatingPanel : public ToolWindow {
+class FloatingPanel : public Skin::ToolWindow {
   public:
     /// Texts of the two buttons.
     struct Hints {

@@ -12,4 +12,11 @@ struct Rect {
     bool operator==(const Rect&) const = default;
 };
 
+/// A point in pixels.
+struct Point {
+    int x = 0;
+    int y = 0;
+    bool operator==(const Point&) const = default;
+};
+
 }  // namespace Tarvik::Seaplan

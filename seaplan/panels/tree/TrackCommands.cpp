@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Correcting a voyage's port calls from its vessel's last position.
+#include "seaplan/panels/tree/TrackCommands.h"
+
 #include <cstdint>
 
 #include <tarvik/bus/BusCall.h>
@@ -7,7 +8,7 @@
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/calculation/NumberForms.h"
-#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/panels/tree/ItemNames.h"
 
 namespace Tarvik::Seaplan {
 
@@ -22,8 +23,45 @@ std::string UserTime(int gmtTimer) {
 
 }  // namespace
 
+TreeCommands TrackCommands::Table() {
+    return {{Item::kAisOff, [this] { return Show(); }},
+            {Item::kAisOn, [this] { return Hide(); }},
+            {Item::kModify, [this] { return Modify(); }}};
+}
+
+int TrackCommands::Show() {
+    return p_.chart.SetAisShown(p_.selection.Voyage().vi, true) == 0 ? 0 : -33;
+}
+
+int TrackCommands::Hide() {
+    return p_.chart.SetAisShown(p_.selection.Voyage().vi, false) == 0 ? 0 : -38;
+}
+
+void TrackCommands::MarkAll() {
+    TreeWidget& tree = p_.context.tree;
+    for (TreeRow row = tree.GetRootItem(); row != kNoRow; row = tree.GetNextSiblingItem(row)) {
+        for (TreeRow child = tree.GetChildItem(row); child != kNoRow;
+             child = tree.GetNextSiblingItem(child)) {
+            MarkRow(child);
+        }
+    }
+}
+
+void TrackCommands::MarkRow(TreeRow row) {
+    const VoyInfo* voyage = p_.context.VoyageOf(row);
+    int state = 0;
+    if (voyage == nullptr || voyage->va != 1 || p_.context.catalog.GetVoyageState(voyage->vi, state) != 0 ||
+        state == InRecycleBin) {
+        return;
+    }
+    p_.chart.ShowAisItems(row, true);
+    if (voyage->portCalls.empty()) {
+        p_.context.FetchPortCalls(voyage->vi);
+    }
+}
+
 /// Whether a correction can be tried; tells the person why not.
-bool SeaplanTreeCtrl::Correctable(const VoyInfo& voyage) {
+bool TrackCommands::Correctable(const VoyInfo& voyage) {
     const Util::_datetime_t now;
     TextId why{};
     if (voyage.vsi.empty() || voyage.vsn.empty()) {
@@ -40,18 +78,18 @@ bool SeaplanTreeCtrl::Correctable(const VoyInfo& voyage) {
     } else {
         return true;
     }
-    Notice(why);
+    p_.context.boxes.Notice(why);
     return false;
 }
 
-int SeaplanTreeCtrl::ModifyFromAis() {
-    const VoyInfo& voyage = *context_.VoyageOf(currentVoyageRow_);
+int TrackCommands::Modify() {
+    const VoyInfo& voyage = p_.selection.Voyage();
     if (!Correctable(voyage)) {
         return 0;
     }
     int applied = 0;
-    if (ais_->ApplyAisPosition(voyage.vi, applied) != 0) {
-        Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
+    if (p_.context.voyages.ApplyAisPosition(voyage.vi, applied) != 0) {
+        p_.context.boxes.Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
         return -2;
     }
     if (portCalls_ == nullptr) {
@@ -65,7 +103,7 @@ int SeaplanTreeCtrl::ModifyFromAis() {
     }
     portCalls_->ShowBesideTree();
     if (voyage.vr == 1) {
-        chart_.LeaveAloneOnce(voyage.vi);
+        p_.chart.LeaveAloneOnce(voyage.vi);
     }
     return 0;
 }

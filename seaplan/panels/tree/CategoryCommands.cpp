@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tree/CategoryCommands.h"
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeCounts.h"
+
+namespace Tarvik::Seaplan {
+
+TreeCommands CategoryCommands::Table() {
+    return {{Item::kAddVoyage, [this] { return AddVoyage(); }},
+            {Item::kDeleteCategory, [this] { return Delete(); }},
+            {Item::kRecoverCategory, [this] { return Recover(); }},
+            {Item::kClearCategory, [this] { return Clear(); }},
+            {Item::kSort, [this] { return OpenSortPanel(); }},
+            {Item::kAscending, [this] { return SetDirection(Descending); }},
+            {Item::kDescending, [this] { return SetDirection(Ascending); }},
+            {Item::kRenameCategory, [this] { return Rename(); }}};
+}
+
+std::string CategoryCommands::NewName() const {
+    std::string name;
+    p_.context.catalog.MakeUniqueName(Text(TextId::IDS_TREE_NEWVOYCATEGORY), p_.context.categoryNames, name);
+    return name;
+}
+
+int CategoryCommands::Ensure() {
+    for (const auto& [ci, state] : p_.context.store.categoryStates) {
+        if (state == InUse) {
+            return 0;
+        }
+    }
+    return Add(NewName());
+}
+
+int CategoryCommands::Add(const std::string& name) {
+    TreeContext& c = p_.context;
+    std::string ci;
+    if (c.catalog.AddCategory(name, ci) != 0) {
+        return -1;
+    }
+    const auto category = c.store.categories.find(ci);
+    if (category == c.store.categories.end()) {
+        return -2;
+    }
+    c.categorySorts[ci] = {};
+    c.categoryNames[name] = InUse;
+    p_.rename.Begin(p_.builder.AddCategoryRow(category->second), false);
+    return 0;
+}
+
+int CategoryCommands::AddVoyage() {
+    TreeContext& c = p_.context;
+    std::string name;
+    c.catalog.MakeUniqueName(Text(TextId::IDS_TREE_NEWVOYAGE), c.voyageNames, name);
+    std::string vi;
+    if (c.catalog.AddVoyage(name, p_.selection.Category().ci, vi) != 0) {
+        return -3;
+    }
+    c.voyageNames[name] = InUse;
+    p_.selection.Unfold(p_.selection.CategoryRow());
+    if (p_.builder.AddVoyageRow(p_.selection.CategoryRow(), vi) != 0) {
+        return -4;
+    }
+    p_.rename.Begin(c.FindVoyageRow(vi), true);
+    return RefreshCounts(c) == 0 ? 0 : -5;
+}
+
+/// Takes the voyages of a category off the chart and unpins them, whatever their state.
+void CategoryCommands::TakeOffChart(const std::string& ci) {
+    TreeContext& c = p_.context;
+    const auto voyages = c.store.categoryVoyages.find(ci);
+    if (voyages == c.store.categoryVoyages.end()) {
+        return;
+    }
+    for (const auto& [vi, state] : voyages->second) {
+        if (c.voyages.RemoveVoyageObjects(vi) != 0) {
+            continue;
+        }
+        const VoyInfo* voyage = c.store.FindVoyage(vi);
+        if (voyage != nullptr && voyage->vr == 1) {
+            c.catalog.CloseRoute(vi);
+        }
+    }
+}
+
+int CategoryCommands::Delete() {
+    TreeContext& c = p_.context;
+    VoyCategory& category = p_.selection.Category();
+    if (c.catalog.DeleteCategory(category.ci) != 0) {
+        return -6;
+    }
+    TakeOffChart(category.ci);
+    p_.selection.DropCategoryRow();
+    if (c.showDeleted) {
+        p_.builder.AddDeletedCategoryRow(category);
+    }
+    c.categoryNames[category.cn] = InRecycleBin;
+    return 0;
+}
+
+int CategoryCommands::Recover() {
+    TreeContext& c = p_.context;
+    const VoyCategory category = p_.selection.Category();
+    if (c.catalog.RecoverCategory(category.ci) != 0) {
+        return -7;
+    }
+    c.categoryNames[category.cn] = InUse;
+    return reload_() == 0 ? 0 : -8;
+}
+
+int CategoryCommands::Clear() {
+    TreeContext& c = p_.context;
+    if (!c.boxes.Question(TextId::IDS_TREE_CLEARVOYORCATE)) {
+        return 0;
+    }
+    const VoyCategory category = p_.selection.Category();
+    if (c.catalog.DestroyCategory(category.ci) != 0) {
+        return -9;
+    }
+    c.categoryNames[category.cn] = Destroyed;
+    p_.selection.DropCategoryRow();
+    return 0;
+}
+
+int CategoryCommands::OpenSortPanel() {
+    const std::string ci = p_.selection.Category().ci;
+    const auto sort = p_.context.categorySorts.find(ci);
+    if (sort == p_.context.categorySorts.end()) {
+        return -13;
+    }
+    sortPanel_.Open(ci, sort->second.sortKey);
+    return 0;
+}
+
+int CategoryCommands::SetDirection(int direction) {
+    const std::string ci = p_.selection.Category().ci;
+    const auto sort = p_.context.categorySorts.find(ci);
+    if (sort == p_.context.categorySorts.end()) {
+        return -14;
+    }
+    sort->second.direction = direction;
+    return p_.builder.RebuildCategory(ci) == 0 ? 0 : -15;
+}
+
+int CategoryCommands::Rename() {
+    p_.rename.Begin(p_.selection.CategoryRow(), false);
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tree/RowSelection.h"
+
+namespace Tarvik::Seaplan {
+
+int RowSelection::Take(TreeRow row) {
+    c_.tree.SelectItem(row);
+    const bool isCategory = c_.IsCategoryRow(row);
+    categoryRow_ = isCategory ? row : c_.tree.GetParentItem(row);
+    const VoyCategory* category = c_.CategoryOf(categoryRow_);
+    if (category == nullptr) {
+        return isCategory ? -1 : -19;
+    }
+    if (category->ci.empty()) {
+        return isCategory ? -2 : -20;
+    }
+    if (isCategory) {
+        return 0;
+    }
+    voyageRow_ = row;
+    const VoyInfo* voyage = c_.VoyageOf(row);
+    if (voyage == nullptr) {
+        return -21;
+    }
+    return voyage->vi.empty() ? -22 : 0;
+}
+
+void RowSelection::TakeVoyage(TreeRow row) {
+    c_.tree.Expand(c_.tree.GetParentItem(row));
+    c_.tree.SelectItem(row);
+    categoryRow_ = row;
+    voyageRow_ = row;
+    Press(row);
+}
+
+void RowSelection::Press(TreeRow row) {
+    if (row == kNoRow || c_.tree.GetItemData(row) == nullptr) {
+        return;
+    }
+    if (c_.IsCategoryRow(row)) {
+        if (c_.tree.IsItemExpanded(row)) {
+            Unfold(row);
+        } else {
+            c_.tree.SelectItem(kNoRow);
+        }
+        return;
+    }
+    const VoyInfo& voyage = *c_.VoyageOf(row);
+    if (voyage.vi.empty()) {
+        return;
+    }
+    c_.tree.SelectItem(row);
+    chart_.ActivateVoyage(voyage);
+    if (voyage.portCalls.size() < 2) {
+        c_.FetchPortCalls(voyage.vi);
+    }
+    status_.ShowDates(row, voyage);
+}
+
+int RowSelection::Unfold(TreeRow row) {
+    const VoyCategory* category = c_.CategoryOf(row);
+    if (category == nullptr) {
+        return -1;
+    }
+    c_.tree.Expand(row);
+    c_.tree.SelectItem(row);
+    status_.ShowAll(row, category->ci);
+    return 0;
+}
+
+void RowSelection::Forget() {
+    categoryRow_ = kNoRow;
+    voyageRow_ = kNoRow;
+}
+
+void RowSelection::DropCategoryRow() {
+    c_.tree.DeleteItem(categoryRow_);
+    categoryRow_ = kNoRow;
+}
+
+void RowSelection::DropVoyageRow() {
+    c_.tree.DeleteItem(voyageRow_);
+    voyageRow_ = kNoRow;
+}
+
+}  // namespace Tarvik::Seaplan

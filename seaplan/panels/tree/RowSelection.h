@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeStatus.h"
+#include "seaplan/panels/tree/VoyagesOnChart.h"
+
+namespace Tarvik::Seaplan {
+
+/// The selected row, and the rows of the last click, on which the commands work.
+class RowSelection {
+  public:
+    RowSelection(TreeContext& context, TreeStatus& status, VoyagesOnChart& chart)
+        : c_(context), status_(status), chart_(chart) {}
+
+    /// Selects the row of a click and makes it the current one. -1 to -2 a category without record or id, -19
+    /// to -20 that of a voyage's category, -21 to -22 the voyage.
+    int Take(TreeRow row);
+    /// Unfolds to a voyage's row, makes it the current one in both places and does what a press on it does.
+    void TakeVoyage(TreeRow row);
+    /// A left press on a row, whatever item lies under it.
+    void Press(TreeRow row);
+    /// Expands and selects a category and shows the statuses of its voyages. -1 without a record.
+    int Unfold(TreeRow row);
+    /// The rows are gone.
+    void Forget();
+    void DropCategoryRow();
+    void DropVoyageRow();
+
+    TreeRow CategoryRow() const { return categoryRow_; }
+    TreeRow VoyageRow() const { return voyageRow_; }
+    /// Records of the current rows; only for a command, which a click has made sure of.
+    VoyCategory& Category() const { return *c_.CategoryOf(categoryRow_); }
+    VoyInfo& Voyage() const { return *c_.VoyageOf(voyageRow_); }
+
+  private:
+    TreeContext& c_;
+    TreeStatus& status_;
+    VoyagesOnChart& chart_;
+    TreeRow categoryRow_ = kNoRow;
+    TreeRow voyageRow_ = kNoRow;
+};
+
+}  // namespace Tarvik::Seaplan

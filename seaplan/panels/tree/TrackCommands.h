@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/tree/PortCallOpener.h"
+#include "seaplan/panels/tree/TreeParts.h"
+
+namespace Tarvik::Seaplan {
+
+/// What a voyage's row does with the track of its vessel: showing, hiding, and correcting the port calls by
+/// the last position. Results: 0 or the negative number of the failed step.
+class TrackCommands {
+  public:
+    explicit TrackCommands(TreeParts& parts) : p_(parts) {}
+
+    TreeCommands Table();
+    void SetPortCallPanel(PortCallOpener* panel) { portCalls_ = panel; }
+    /// The rows of a freshly opened view show the tracks that are on.
+    void MarkAll();
+
+  private:
+    int Show();
+    int Hide();
+    int Modify();
+    bool Correctable(const VoyInfo& voyage);
+    void MarkRow(TreeRow row);
+
+    TreeParts& p_;
+    PortCallOpener* portCalls_ = nullptr;
+};
+
+}  // namespace Tarvik::Seaplan

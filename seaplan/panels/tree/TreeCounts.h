@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "seaplan/panels/tree/TreeContext.h"
+
+/// The count of voyages that a category's row shows.
+namespace Tarvik::Seaplan {
+
+/// Text of a count, with two leading blanks.
+std::string CountText(int count);
+/// After all rows were made: counts, and on the first pass, while there are no marks, the marks of the
+/// voyages, with the pinned ones drawn. -1 for a row without a record.
+int CountAndMark(TreeContext& c);
+/// Counts of all categories that have voyages. -1 for a row without a record.
+int RefreshCounts(TreeContext& c);
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tree/TreeStatus.h"
+
+#include <map>
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/tree/ItemNames.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr const char* kDateFormat = "%Y-%m-%d";
+
+}  // namespace
+
+int TreeStatus::Compute(const std::string& vi) {
+    if (vi.empty()) {
+        return -1;
+    }
+    const VoyInfo* voyage = c_.store.FindVoyage(vi);
+    if (voyage == nullptr) {
+        return -2;
+    }
+    if (voyage->portCalls.empty()) {
+        // A voyage without port calls has nothing to fetch; it is a plan all the same.
+        c_.FetchPortCalls(vi);
+    }
+    c_.voyageStatuses[vi] = static_cast<int>(StatusAt(voyage->portCalls, Util::_datetime_t()));
+    return 0;
+}
+
+int TreeStatus::Know(const std::string& vi) {
+    return c_.voyageStatuses.contains(vi) ? 0 : Compute(vi);
+}
+
+int TreeStatus::Show(const std::string& vi) {
+    if (const int result = Know(vi); result != 0) {
+        return result;
+    }
+    const TreeRow row = c_.FindVoyageRow(vi);
+    if (row == kNoRow) {
+        return -4;
+    }
+    Draw(row, c_.voyageStatuses.at(vi));
+    return 0;
+}
+
+void TreeStatus::ShowAll(TreeRow categoryRow, const std::string& ci) {
+    const auto voyages = c_.store.categoryVoyages.find(ci);
+    if (voyages == c_.store.categoryVoyages.end()) {
+        return;
+    }
+    // The rows are looked up once: a search for each voyage grows with the square of their number.
+    std::map<std::string, TreeRow> rows;
+    for (TreeRow row = c_.tree.GetChildItem(categoryRow); row != kNoRow;
+         row = c_.tree.GetNextSiblingItem(row)) {
+        if (const VoyInfo* voyage = c_.VoyageOf(row)) {
+            rows.emplace(voyage->vi, row);
+        }
+    }
+    for (const auto& [vi, state] : voyages->second) {
+        const auto row = rows.find(vi);
+        if (Know(vi) == 0 && row != rows.end()) {
+            Draw(row->second, c_.voyageStatuses.at(vi));
+        }
+    }
+}
+
+void TreeStatus::ShowKnown() {
+    for (const auto& [vi, status] : c_.voyageStatuses) {
+        Show(vi);
+    }
+}
+
+void TreeStatus::Draw(TreeRow row, int status) {
+    const char* image = ItemValue::kPlanImage;
+    TextId tip = TextId::IDS_TREESTATUS_BFVOY;
+    if (status == static_cast<int>(VoyageStatus::Underway)) {
+        image = ItemValue::kUnderwayImage;
+        tip = TextId::IDS_TREESTATUS_VOYING;
+    } else if (status == static_cast<int>(VoyageStatus::Finished)) {
+        image = ItemValue::kFinishImage;
+        tip = TextId::IDS_TREESTATUS_VOYFINISH;
+    }
+    c_.tree.SetDrawItemValueOfEventItem(row, Item::kStatus, ItemValue::kStatusImage, image);
+    c_.tree.SetToolTipsOfEventItem(row, Item::kStatus, Text(tip));
+}
+
+int TreeStatus::ShowDates(TreeRow row, const VoyInfo& voyage) {
+    if (voyage.portCalls.size() < 2) {
+        return -1;
+    }
+    const std::string sails = voyage.portCalls.front().etd.fmt(kDateFormat);
+    const std::string ends = voyage.portCalls.back().eta.fmt(kDateFormat);
+    c_.tree.SetDrawItemValueOfEventItem(row, Item::kDates, ItemValue::kSailDate, sails);
+    c_.tree.SetDrawItemValueOfEventItem(row, Item::kDates, ItemValue::kEndDate, ends);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kSetPortCall, false);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kDates, true);
+    return 0;
+}
+
+void TreeStatus::ShowVessel(TreeRow row, const std::string& name, bool alert) {
+    c_.tree.SetDrawItemVisibleEx(row, Item::kAssignShip, false);
+    c_.tree.SetDrawItemValueOfEventItem(row, Item::kShipInfo, ItemValue::kShipName, name);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kShipInfo, true);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kAlert, alert);
+}
+
+int TreeStatus::RefreshRow(const std::string& vi) {
+    const TreeRow row = c_.FindVoyageRow(vi);
+    if (row == kNoRow) {
+        return 0;
+    }
+    const VoyInfo* voyage = c_.store.FindVoyage(vi);
+    if (voyage == nullptr) {
+        return -3;
+    }
+    c_.tree.SetItemText(row, voyage->vn);
+    return ShowDates(row, *voyage) == 0 ? 0 : -3;
+}
+
+}  // namespace Tarvik::Seaplan

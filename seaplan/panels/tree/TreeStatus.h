@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "seaplan/panels/tree/TreeContext.h"
+
+namespace Tarvik::Seaplan {
+
+/// Status, dates and vessel as a voyage's row shows them. Results: 0 or the negative number of the failed
+/// step.
+class TreeStatus {
+  public:
+    explicit TreeStatus(TreeContext& context) : c_(context) {}
+
+    /// Takes the status of the present time into the cache. -1 empty id, -2 unknown voyage.
+    int Compute(const std::string& vi);
+    /// Draws the cached status, computed when there is none. -4 when the voyage has no row.
+    int Show(const std::string& vi);
+    /// Show for every voyage of a category, failures ignored.
+    void ShowAll(TreeRow categoryRow, const std::string& ci);
+    /// Show for every status in the cache.
+    void ShowKnown();
+    /// First departure and last arrival. -1, with nothing changed, with fewer than two port calls.
+    int ShowDates(TreeRow row, const VoyInfo& voyage);
+    /// The vessel in the place of the link; `alert` marks one that is only a typed name.
+    void ShowVessel(TreeRow row, const std::string& name, bool alert);
+    /// Draws name and dates of the first row that shows the voyage. 0 also without such a row.
+    int RefreshRow(const std::string& vi);
+
+  private:
+    int Know(const std::string& vi);
+    void Draw(TreeRow row, int status);
+
+    TreeContext& c_;
+};
+
+}  // namespace Tarvik::Seaplan

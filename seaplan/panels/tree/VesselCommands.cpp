@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tree/VesselCommands.h"
+
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/SiblingContract.h>
+#include <tarvik/interface/SiblingRecords.h>
+
+#include "seaplan/panels/tree/ItemNames.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+/// These two texts have no key.
+constexpr const char* kVesselFailed = "Add a vessel failed!";
+constexpr const char* kErrorTitle = "Error";
+
+std::vector<Interface::FleetEntry> Fleet() {
+    const auto* vessels = Interface::Call(Interface::Bus::AllVessels);
+    return vessels == nullptr ? std::vector<Interface::FleetEntry>() : *vessels;
+}
+
+}  // namespace
+
+VesselCommands::VesselCommands(TreeParts& parts, VesselView& view)
+    : p_(parts), editor_(view, [this](const Interface::FleetEntry& vessel, bool typedOnly) {
+          Commit(vessel, typedOnly);
+      }) {}
+
+TreeCommands VesselCommands::Table() {
+    return {{Item::kAssignShip, [this] { return Assign(); }},
+            {Item::kReplaceShip, [this] { return Replace(); }},
+            {Item::kShipInfo, [this] { return ShowInfo(); }},
+            {Item::kAlert, [this] { return AddToFleet(); }}};
+}
+
+void VesselCommands::OpenBox(TreeRow row, const std::string& text) {
+    constexpr int kLeft = 50;
+    constexpr int kTop = 55;
+    constexpr int kWidth = 120;
+    constexpr int kHeight = 25;
+    const Rect place = p_.context.tree.GetItemRect(row);
+    const int left = place.left + kLeft;
+    const int top = place.top + kTop;
+    p_.context.tree.SetDrawItemVisibleEx(row, Item::kReplaceShip, true);
+    editor_.Open({left, top, left + kWidth, top + kHeight}, text, Fleet());
+}
+
+int VesselCommands::OpenEditor(const std::string& vi) {
+    const TreeRow row = p_.context.FindVoyageRow(vi);
+    if (row == kNoRow) {
+        return -1;
+    }
+    p_.selection.TakeVoyage(row);
+    OpenBox(row, p_.context.VoyageOf(row)->vsn);
+    return 0;
+}
+
+int VesselCommands::Assign() {
+    if (editor_.IsVisible() || editor_.ClosedByPress()) {
+        editor_.Hide();
+    } else {
+        OpenBox(p_.selection.VoyageRow(), {});
+    }
+    return 0;
+}
+
+int VesselCommands::Replace() {
+    const VoyInfo& voyage = p_.selection.Voyage();
+    if (voyage.modais > 0) {
+        p_.context.boxes.Notice(TextId::IDS_PORTCALL_WARNAISMOD);
+        return 0;
+    }
+    return OpenEditor(voyage.vi) == 0 ? 0 : -37;
+}
+
+int VesselCommands::ShowInfo() {
+    const std::string vsi = p_.selection.Voyage().vsi;
+    if (!vsi.empty()) {
+        Interface::Call(Interface::Bus::ShowVesselInfo, &vsi);
+    }
+    return 0;
+}
+
+int VesselCommands::AddToFleet() {
+    const Interface::FleetEntry vessel{"", p_.selection.Voyage().vsn, 0};
+    void* const* window = Interface::Call(Interface::Bus::ShowAddVessel, &vessel);
+    if (window != nullptr) {
+        p_.context.tree.ShowAtPointer(*window);
+    }
+    return 0;
+}
+
+/// A vessel of the fleet is tracked from the start.
+void VesselCommands::TurnAisOn(const VoyInfo& voyage) {
+    if (voyage.va != 1) {
+        p_.context.catalog.OpenAis(voyage.vi);
+    }
+    p_.chart.ShowAisItems(p_.selection.VoyageRow(), true);
+    p_.chart.ShowAis(voyage, false);
+}
+
+/// A vessel whose position nobody knows is saved all the same.
+bool VesselCommands::Save(const std::string& vi, const Interface::FleetEntry& vessel) {
+    constexpr int kNoPositions = -4;
+    const int result = p_.context.catalog.ChangeVessel(vi, vessel.id, vessel.name, vessel.number);
+    return result == 0 || result == kNoPositions;
+}
+
+int VesselCommands::Commit(const Interface::FleetEntry& vessel, bool typedOnly) {
+    editor_.Hide();
+    const TreeRow row = p_.selection.VoyageRow();
+    VoyInfo* voyage = row == kNoRow ? nullptr : p_.context.VoyageOf(row);
+    if (voyage == nullptr) {
+        return -1;
+    }
+    if (vessel.id == voyage->vsi && vessel.name == voyage->vsn) {
+        return 0;
+    }
+    if (!Save(voyage->vi, vessel)) {
+        p_.context.boxes.Refusal(kVesselFailed, kErrorTitle);
+        return -2;
+    }
+    p_.status.ShowVessel(row, vessel.name, typedOnly);
+    voyage->vsi = vessel.id;
+    voyage->vsn = vessel.name;
+    voyage->vsmsi = vessel.number;
+    if (!voyage->vsi.empty()) {
+        TurnAisOn(*voyage);
+    }
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tree/VoyageCommands.h"
+
+#include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeCounts.h"
+
+namespace Tarvik::Seaplan {
+
+TreeCommands VoyageCommands::Table() {
+    return {{Item::kUnpinned, [this] { return Pin(); }},
+            {Item::kPinned, [this] { return Unpin(); }},
+            {Item::kPortCalls, [this] { return OpenPortCalls(); }},
+            {Item::kSetPortCall, [this] { return OpenEmptyPortCalls(); }},
+            {Item::kNoonReport, [this] { return NoonReport(); }},
+            {Item::kRenameVoyage, [this] { return Rename(); }},
+            {Item::kDeleteVoyage, [this] { return Delete(); }},
+            {Item::kRecoverVoyage, [this] { return Recover(); }},
+            {Item::kClearVoyage, [this] { return Clear(); }}};
+}
+
+int VoyageCommands::Pin() {
+    if (p_.chart.SetPinned(p_.selection.Voyage().vi, true) == 0) {
+        return 0;
+    }
+    p_.context.boxes.Notice(TextId::IDS_TREE_AUTOTRACKWARN);
+    return -23;
+}
+
+int VoyageCommands::Unpin() {
+    return p_.chart.SetPinned(p_.selection.Voyage().vi, false) == 0 ? 0 : -24;
+}
+
+int VoyageCommands::OpenPortCalls() {
+    if (portCalls_ == nullptr || portCalls_->FillForVoyage(-1) < 0) {
+        return -25;
+    }
+    portCalls_->ShowBesideTree();
+    return 0;
+}
+
+int VoyageCommands::OpenEmptyPortCalls() {
+    if (portCalls_ == nullptr) {
+        return -26;
+    }
+    portCalls_->Reset();
+    portCalls_->ShowBesideTree();
+    return 0;
+}
+
+int VoyageCommands::NoonReport() {
+    p_.context.boxes.Notice(TextId::IDS_TREE_NOONREPORTWARN);
+    return 0;
+}
+
+int VoyageCommands::Rename() {
+    p_.rename.Begin(p_.selection.VoyageRow(), true);
+    return 0;
+}
+
+int VoyageCommands::DropRow() {
+    const std::string ci = p_.selection.Category().ci;
+    p_.selection.DropVoyageRow();
+    if (p_.builder.RebuildCategory(ci) != 0) {
+        return -27;
+    }
+    return RefreshCounts(p_.context) == 0 ? 0 : -28;
+}
+
+int VoyageCommands::Delete() {
+    TreeContext& c = p_.context;
+    const VoyInfo& voyage = p_.selection.Voyage();
+    if (c.catalog.DeleteVoyage(p_.selection.Category().ci, voyage.vi) != 0) {
+        return -29;
+    }
+    if (c.voyages.RemoveVoyageObjects(voyage.vi) != 0) {
+        return -30;
+    }
+    if (c.catalog.CloseRoute(voyage.vi) != 0) {
+        return -31;
+    }
+    if (p_.chart.SetAisShown(voyage.vi, false) != 0) {
+        return -32;
+    }
+    const int dropped = DropRow();
+    if (dropped == 0) {
+        c.voyageNames[voyage.vn] = InRecycleBin;
+    }
+    return dropped;
+}
+
+int VoyageCommands::Recover() {
+    const VoyInfo& voyage = p_.selection.Voyage();
+    if (p_.context.catalog.RecoverVoyage(p_.selection.Category().ci, voyage.vi) != 0) {
+        return -34;
+    }
+    p_.context.voyageNames[voyage.vn] = InUse;
+    return DropRow();
+}
+
+int VoyageCommands::Clear() {
+    if (!p_.context.boxes.Question(TextId::IDS_TREE_CLEARVOYORCATE)) {
+        return 0;
+    }
+    const VoyInfo& voyage = p_.selection.Voyage();
+    if (p_.context.catalog.DestroyVoyage(p_.selection.Category().ci, voyage.vi) != 0) {
+        return -35;
+    }
+    p_.context.voyageNames[voyage.vn] = Destroyed;
+    return DropRow();
+}
+
+}  // namespace Tarvik::Seaplan
