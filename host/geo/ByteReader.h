@@ -10,6 +10,9 @@
 
 namespace Tarvik::Server {
 
+/// What a person can do about a data file that is missing or damaged; ends the sentence that says so.
+inline constexpr const char* kReinstallAdvice = ". Build or install the client again.";
+
 /// Reads what `ByteWriter` wrote. Reading past the end gives zeros and makes `ok` false for good.
 class ByteReader {
   public:

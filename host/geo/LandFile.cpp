@@ -18,7 +18,6 @@ using Server::ByteWriter;
 
 constexpr std::string_view kMagic = "LANDV001";
 constexpr std::size_t kHeaderBytes = 16;
-constexpr const char* kAdvice = ". Build or install the client again.";
 
 void Put(ByteWriter& w, const std::vector<LandFile::Cell>& cells) {
     w.Count(cells.size());
@@ -105,13 +104,13 @@ std::optional<LandFile> LandFile::Decode(const std::string& bytes, std::string& 
 std::optional<LandFile> LandFile::Load(const std::string& path, std::string& error) {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        error = "cannot open the land file " + path + kAdvice;
+        error = "cannot open the land file " + path + Server::kReinstallAdvice;
         return std::nullopt;
     }
     const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
     std::optional<LandFile> land = Decode(bytes, error);
     if (!land) {
-        error += ": " + path + kAdvice;
+        error += ": " + path + Server::kReinstallAdvice;
     }
     return land;
 }

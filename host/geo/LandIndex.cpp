@@ -4,26 +4,17 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/geo/DegreeGrid.h"
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {
 
 namespace {
 
-constexpr int kCellsPerDegree = 4;
-constexpr int kColumns = 360 * kCellsPerDegree;
-constexpr int kRows = 180 * kCellsPerDegree;
-
-int ColumnOf(double x) {
-    return std::clamp(static_cast<int>(std::floor((x + 180.0) * kCellsPerDegree)), 0, kColumns - 1);
-}
-
-int RowOf(double y) {
-    return std::clamp(static_cast<int>(std::floor((y + 90.0) * kCellsPerDegree)), 0, kRows - 1);
-}
+using Grid = DegreeGrid<4>;
 
 std::size_t CellOf(int column, int row) {
-    return static_cast<std::size_t>(row) * kColumns + static_cast<std::size_t>(column);
+    return static_cast<std::size_t>(row) * Grid::kColumns + static_cast<std::size_t>(column);
 }
 
 double Side(double ax, double ay, double bx, double by, double px, double py) {
@@ -69,15 +60,15 @@ void LandIndex::AddSegment(GeoPoint a, GeoPoint b) {
 
 template <typename Visit>
 void LandIndex::VisitCells(const Segment& s, Visit visit) const {
-    const int rowFirst = RowOf(std::min(s.y1, s.y2));
-    const int rowLast = RowOf(std::max(s.y1, s.y2));
+    const int rowFirst = Grid::RowOf(std::min(s.y1, s.y2));
+    const int rowLast = Grid::RowOf(std::max(s.y1, s.y2));
     const double slope = s.y2 == s.y1 ? 0.0 : (s.x2 - s.x1) / (s.y2 - s.y1);
     for (int row = rowFirst; row <= rowLast; ++row) {
         double left = std::min(s.x1, s.x2);
         double right = std::max(s.x1, s.x2);
         if (rowFirst != rowLast) {
-            const double bottom = static_cast<double>(row) / kCellsPerDegree - 90.0;
-            const double top = bottom + 1.0 / kCellsPerDegree;
+            const double bottom = static_cast<double>(row) / Grid::kCellsPerDegree - 90.0;
+            const double top = bottom + 1.0 / Grid::kCellsPerDegree;
             const double xa =
                 s.x1 + (std::clamp(bottom, std::min(s.y1, s.y2), std::max(s.y1, s.y2)) - s.y1) * slope;
             const double xb =
@@ -85,8 +76,8 @@ void LandIndex::VisitCells(const Segment& s, Visit visit) const {
             left = std::min(xa, xb);
             right = std::max(xa, xb);
         }
-        const int columnLast = ColumnOf(right + 1e-9);
-        for (int column = ColumnOf(left - 1e-9); column <= columnLast; ++column) {
+        const int columnLast = Grid::ColumnOf(right + 1e-9);
+        for (int column = Grid::ColumnOf(left - 1e-9); column <= columnLast; ++column) {
             if (visit(column, row)) {
                 return;
             }
@@ -95,7 +86,7 @@ void LandIndex::VisitCells(const Segment& s, Visit visit) const {
 }
 
 void LandIndex::FillCells() {
-    cellStart_.assign(static_cast<std::size_t>(kColumns) * kRows + 1, 0);
+    cellStart_.assign(static_cast<std::size_t>(Grid::kColumns) * Grid::kRows + 1, 0);
     for (const Segment& s : segments_) {
         VisitCells(s, [this](int column, int row) {
             ++cellStart_[CellOf(column, row) + 1];
@@ -172,9 +163,9 @@ bool LandIndex::IsLand(GeoPoint p) const {
         return false;
     }
     p.x = WrapLongitude(p.x);
-    const int column = ColumnOf(p.x);
+    const int column = Grid::ColumnOf(p.x);
     bool inside = false;
-    for (int row = RowOf(p.y); row < kRows; ++row) {
+    for (int row = Grid::RowOf(p.y); row < Grid::kRows; ++row) {
         const std::size_t cell = CellOf(column, row);
         for (std::uint32_t k = cellStart_[cell]; k < cellStart_[cell + 1]; ++k) {
             const Segment& o = segments_[cellItems_[k]];
@@ -182,7 +173,7 @@ bool LandIndex::IsLand(GeoPoint p) const {
                 continue;
             }
             const double y = o.y1 + (p.x - o.x1) / (o.x2 - o.x1) * (o.y2 - o.y1);
-            if (y > p.y && RowOf(y) == row) {
+            if (y > p.y && Grid::RowOf(y) == row) {
                 inside = !inside;
             }
         }

@@ -3,6 +3,8 @@
 
 #include <vector>
 
+#include <tarvik/util/Units.h>
+
 #include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Server {
@@ -17,7 +19,7 @@ struct UnitVector {
 inline constexpr double kDegree = 0.017453292519943295;
 /// Nautical miles in one degree of arc of the search sphere.
 inline constexpr double kNmPerDegree = 60.0;
-inline constexpr double kKmPerNm = 1.852;
+inline constexpr double kKmPerNm = Util::kKmPerNauticalMile;
 /// Great circles are broken into straight pieces of at most this many degrees of arc.
 inline constexpr double kChunkDegrees = 1.0;
 

@@ -5,6 +5,8 @@
 #include <array>
 #include <string_view>
 
+#include <tarvik/util/Units.h>
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -12,6 +14,7 @@ namespace {
 constexpr const char* kKnots = "kts";
 constexpr const char* kNauticalMiles = "NM";
 constexpr const char* kHours = "hour";
+constexpr auto kKmPerMile = static_cast<float>(Util::kKmPerNauticalMile);
 
 struct Factor {
     std::string_view from;
@@ -23,14 +26,14 @@ struct Factor {
 
 // The three speed factors are independent of each other: knots to MPH over KPH is not the direct way.
 constexpr std::array<Factor, 10> kFactors{{
-    {"KPH", "kts", 1, 1.852F, UnitKind::Speed},
-    {"kts", "KPH", 1.852F, 1, UnitKind::Speed},
+    {"KPH", "kts", 1, kKmPerMile, UnitKind::Speed},
+    {"kts", "KPH", kKmPerMile, 1, UnitKind::Speed},
     {"KPH", "MPH", 1, 1.61F, UnitKind::Speed},
     {"MPH", "KPH", 1.61F, 1, UnitKind::Speed},
     {"kts", "MPH", 1.15F, 1, UnitKind::Speed},
     {"MPH", "kts", 1, 1.15F, UnitKind::Speed},
-    {"KM", "NM", 1, 1.852F, UnitKind::Distance},
-    {"NM", "KM", 1.852F, 1, UnitKind::Distance},
+    {"KM", "NM", 1, kKmPerMile, UnitKind::Distance},
+    {"NM", "KM", kKmPerMile, 1, UnitKind::Distance},
     {"day", "hour", 24, 1, UnitKind::Time},
     {"hour", "day", 1, 24, UnitKind::Time},
 }};

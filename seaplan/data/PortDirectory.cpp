@@ -11,7 +11,6 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr const char* kPortsPath = "/points";
-constexpr int kEnglish = 1033;
 
 /// ASCII letters in upper case; others stand as they are.
 std::string Fold(const std::string& text) {
@@ -31,11 +30,11 @@ bool IsLocal(const std::string& text) {
 }  // namespace
 
 std::string PortIdOf(const std::string& name) {
-    return Interface::GetNameByValue(kPortsPath, name, kEnglish);
+    return Interface::GetNameByValue(kPortsPath, name, Interface::kEnglishLanguage);
 }
 
 std::string PortNameOf(const std::string& id) {
-    return Interface::GetValueByName(kPortsPath, id, kEnglish);
+    return Interface::GetValueByName(kPortsPath, id, Interface::kEnglishLanguage);
 }
 
 PortDirectory::PortDirectory(std::vector<std::string> names, NamesByLocal byLocal, SamePortLinks samePorts,

@@ -10,11 +10,9 @@
 /// The plan's times: their zone, and their form as text.
 namespace Tarvik::Seaplan {
 
+using Util::kPlanZone;
 using Util::kTimeFormat;
 using Util::kTimeTextLength;
-
-/// Zone of the plan's times wherever they meet UTC, whatever zone the person has chosen.
-inline constexpr const char* kPlanZone = "China Standard Time";
 
 inline Util::_datetime_t UtcOfPlanTime(const Util::_datetime_t& planTime) {
     return Util::DateTimeUtl::ConvertToUTC(planTime, kPlanZone);

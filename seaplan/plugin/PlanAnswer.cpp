@@ -10,6 +10,7 @@
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/chart/LineSplit.h"
+#include "seaplan/panels/language/LoadText.h"
 
 namespace Tarvik::Seaplan {
 
@@ -17,13 +18,12 @@ namespace {
 
 using Util::StringUtl;
 
-constexpr const char16_t* kSection = u"Seaplan";
-
 /// Text of a key in the language in use, the key where there is none, so that a gap is seen.
 std::string TextOf(const char* key) {
     const std::u16string wide = StringUtl::TranslateString(std::string(key));
     char16_t buffer[512];
-    Interface::TrvLoadString(kSection, kSection, wide.c_str(), buffer, wide.c_str(), std::size(buffer));
+    Interface::TrvLoadString(kTextSection, kTextSection, wide.c_str(), buffer, wide.c_str(),
+                             std::size(buffer));
     return StringUtl::TranslateString(std::u16string(buffer));
 }
 

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <tarvik/util/DateTimeUtl.h>
+
 #include "host/client/services/LanguageFiles.h"
 
 namespace Tarvik::Client {
@@ -13,7 +15,7 @@ struct Preferences {
     std::string language = "en-US";
     /// Zone in which times are shown and typed. Plan times are stored in this very zone's reading, so that
     /// with it what was saved comes back as it was.
-    std::string timeZone = "China Standard Time";
+    std::string timeZone = Util::kPlanZone;
     /// "light", "dark" or "night".
     std::string theme = "light";
     /// Address of a voyage server, "https://host:port" or "http://host:port"; empty for the one inside the

@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include <tarvik/util/DateTime.h>
+#include <tarvik/util/DateTimeUtl.h>
 
 namespace Tarvik::Client {
 
@@ -13,7 +14,7 @@ RotatingLog::RotatingLog(std::string file, std::size_t limitBytes, bool verbose)
     : file_(std::move(file)), limit_(limitBytes), verbose_(verbose) {}
 
 void RotatingLog::Write(const std::string& line) {
-    const std::string stamped = Util::_datetime_t::gmt_now().fmt("%Y-%m-%d %H:%M:%S") + "Z " + line + "\n";
+    const std::string stamped = Util::_datetime_t::gmt_now().fmt(Util::kTimeFormat) + "Z " + line + "\n";
     const std::lock_guard<std::mutex> lock(mutex_);
     if (verbose_) {
         std::fputs(stamped.c_str(), stderr);

@@ -13,8 +13,8 @@
 #include "host/client/services/PortDictionary.h"
 #include "host/client/services/Preferences.h"
 #include "host/client/services/RotatingLog.h"
+#include "host/client/services/SessionOptions.h"
 #include "host/client/session/LoginLink.h"
-#include "host/client/session/SessionOptions.h"
 
 namespace Tarvik::Client {
 

@@ -14,7 +14,7 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/VoyageContract.h>
-#include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/HelpRequest.h>
 #include <tarvik/skin/Icons.h>
 
 #include "host/client/shell/LoginDialog.h"

@@ -17,7 +17,7 @@ namespace Tarvik::Client {
 namespace {
 
 QStringList ZoneNames(const std::string& current) {
-    QStringList names{"China Standard Time", "UTC"};
+    QStringList names{Util::kPlanZone, "UTC"};
     for (const QByteArray& id : QTimeZone::availableTimeZoneIds()) {
         const QString name = QString::fromLatin1(id);
         if (name.contains('/') && !name.startsWith("Etc/")) {

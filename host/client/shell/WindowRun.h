@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/client/session/CommandLine.h"
+#include "host/client/services/CommandLine.h"
 
 namespace Tarvik::Client {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
-#include "host/client/session/CommandLine.h"
+#include "host/client/services/CommandLine.h"
 
 namespace Tarvik::Client {
 

@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::string_view kMagic = "SEANET01";
 constexpr std::size_t kHeaderBytes = 24;
-constexpr const char* kAdvice = ". Build or install the client again.";
 
 std::uint64_t Fnv1a(std::string_view bytes) {
     std::uint64_t sum = 14695981039346656037ULL;
@@ -252,13 +251,13 @@ std::string SeaNetworkFile::Write(const std::string& path, const NetworkData& da
 std::optional<NetworkData> SeaNetworkFile::Read(const std::string& path, std::string& error) {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        error = "cannot open the sea network file " + path + kAdvice;
+        error = "cannot open the sea network file " + path + kReinstallAdvice;
         return std::nullopt;
     }
     const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
     std::optional<NetworkData> data = Decode(bytes, error);
     if (!data) {
-        error += ": " + path + kAdvice;
+        error += ": " + path + kReinstallAdvice;
     }
     return data;
 }

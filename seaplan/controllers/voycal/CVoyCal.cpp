@@ -21,7 +21,6 @@ namespace {
 namespace Bus = Interface::Bus;
 
 constexpr const char* kChosen = "case3";
-constexpr int kEnglish = 1033;
 constexpr int kTraditionalChinese = 1028;
 constexpr int kSimplifiedChinese = 2052;
 
@@ -242,7 +241,7 @@ std::string CVoyCal::LanguageCode(int language) {
 }
 
 std::string CVoyCal::SiteAddress(const std::string& key, const std::string& fallback) {
-    const std::string address = Interface::GetValueByName("/trvwebsites", key, kEnglish);
+    const std::string address = Interface::GetValueByName("/trvwebsites", key, Interface::kEnglishLanguage);
     return address.empty() ? fallback : address;
 }
 

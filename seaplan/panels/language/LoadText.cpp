@@ -10,7 +10,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr const char16_t* kSection = u"Seaplan";
 constexpr const char16_t* kMissing = u"_TRV_LOAD_STRING_ERRRES";
 constexpr std::size_t kCapacity = 4096;
 
@@ -41,8 +40,9 @@ namespace {
 /// The text of a key; false, with `out` as it was, when the language file lacks it.
 bool Find(std::string& out, const char* key) {
     std::array<char16_t, kCapacity> buffer{};
-    Interface::TrvLoadString(kSection, kSection, Util::StringUtl::TranslateString(std::string(key)).c_str(),
-                             buffer.data(), kMissing, buffer.size());
+    Interface::TrvLoadString(kTextSection, kTextSection,
+                             Util::StringUtl::TranslateString(std::string(key)).c_str(), buffer.data(),
+                             kMissing, buffer.size());
     const std::u16string text(buffer.data());
     if (text == kMissing) {
         return false;

@@ -7,6 +7,9 @@
 
 namespace Tarvik::Seaplan {
 
+/// Section, and name in it, of the plug-in's texts in the language files.
+inline constexpr const char16_t* kTextSection = u"Seaplan";
+
 /// Text of string `number` in the language in force, UTF-8. False, with `out` the fallback, when the string
 /// table has no such number or the language file no such key.
 bool LoadText(std::string& out, int number, const std::string& fallback);

@@ -13,9 +13,9 @@ namespace {
 enum BoxKind : int { NoticeBox = 0, OkCancelBox = 1, QuestionBox = 4 };
 
 Interface::SysMsgHandleRes Show(const std::string& text, int kind, void* owner, const std::string& title) {
-    constexpr int kLevel = 1;
-    return Interface::SysMsgSink::Instance()->SyncSendMsg(
-        kLevel, Util::StringUtl::TranslateString(text), kind, owner, Util::StringUtl::TranslateString(title));
+    return Interface::SysMsgSink::Instance()->SyncSendMsg(Interface::kMessageLevel,
+                                                          Util::StringUtl::TranslateString(text), kind, owner,
+                                                          Util::StringUtl::TranslateString(title));
 }
 
 }  // namespace

@@ -16,14 +16,13 @@ void FltTreeFilterDlg::ShowChoices() {
 }
 
 void FltTreeFilterDlg::Toggle() {
-    constexpr int kWidth = 180;
     constexpr int kHeight = 35;
     if (popup_.IsVisible()) {
         popup_.Hide();
         return;
     }
     ShowChoices();
-    popup_.Show(kWidth, kHeight);
+    popup_.Show(kChoiceWidth, kHeight);
 }
 
 int FltTreeFilterDlg::OnChosen(TextId id) {

@@ -10,7 +10,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr double kNoDistance = 0.0001;
 constexpr const char* kHelpTopic = "func034";
 
 }  // namespace

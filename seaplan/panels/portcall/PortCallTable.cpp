@@ -141,7 +141,6 @@ void PortCallTable::WriteEntered(int row, const VoyPortCall& value) {
 }
 
 void PortCallTable::WritePartial(const PortCallRows& rows, bool corrected) {
-    constexpr double kNoDistance = 0.0001;
     ClearCells();
     int pivot = -1;
     for (int i = 0; corrected && i < static_cast<int>(rows.size()); ++i) {

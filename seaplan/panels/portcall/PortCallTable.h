@@ -9,6 +9,9 @@
 
 namespace Tarvik::Seaplan {
 
+/// A leg up to this many nautical miles has no distance.
+inline constexpr double kNoDistance = 0.0001;
+
 /// How a row is drawn.
 enum class RowClass { Normal, Disabled, Highlighted };
 

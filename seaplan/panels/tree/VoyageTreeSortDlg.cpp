@@ -19,14 +19,13 @@ void VoyageTreeSortDlg::SetSortKey(int sortKey) {
 }
 
 void VoyageTreeSortDlg::Open(const std::string& ci, int sortKey) {
-    constexpr int kWidth = 180;
     constexpr int kHeight = 60;
     if (popup_.IsVisible()) {
         return;
     }
     SetCategory(ci);
     SetSortKey(sortKey);
-    popup_.Show(kWidth, kHeight);
+    popup_.Show(kChoiceWidth, kHeight);
 }
 
 int VoyageTreeSortDlg::OnChosen(TextId id) {

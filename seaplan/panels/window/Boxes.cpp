@@ -18,13 +18,13 @@ enum BoxKind : int { NoticeBox = 0, OkCancelBox = 1, QuestionBox = 4 };
 }  // namespace
 
 SysMsgHandleRes Boxes::Ask(const std::string& text, int kind, const std::string& title) {
-    constexpr int kLevel = 1;
     // A box that comes up over a box must not enable the window for the first one.
     if (open_++ == 0) {
         owner_->SetEnabled(false);
     }
     const SysMsgHandleRes answer = Interface::SysMsgSink::Instance()->SyncSendMsg(
-        kLevel, StringUtl::TranslateString(text), kind, owner_->Handle(), StringUtl::TranslateString(title));
+        Interface::kMessageLevel, StringUtl::TranslateString(text), kind, owner_->Handle(),
+        StringUtl::TranslateString(title));
     if (--open_ == 0) {
         owner_->SetEnabled(true);
     }

@@ -14,6 +14,9 @@ struct Choice {
     bool operator==(const Choice&) const = default;
 };
 
+/// Width of every choice popup in pixels.
+inline constexpr int kChoiceWidth = 180;
+
 /// A small borderless window with check or radio buttons, in the place that belongs to it: below its button,
 /// or at the pointer. It hides by itself when it loses the activation, and reports what is pressed.
 class ChoicePopup {

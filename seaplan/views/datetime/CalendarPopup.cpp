@@ -12,7 +12,7 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
-#include "seaplan/views/ViewText.h"
+#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 

@@ -8,9 +8,9 @@
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/portcall/CellEditing.h"
-#include "seaplan/views/ViewText.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/portcall/PortCallTableView.h"
+#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,12 +4,12 @@
 #include <QApplication>
 #include <QVBoxLayout>
 
-#include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/HelpRequest.h>
 
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
-#include "seaplan/views/ViewText.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/portcall/MatchEvents.h"
+#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 

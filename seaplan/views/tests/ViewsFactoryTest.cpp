@@ -7,7 +7,7 @@
 
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
-#include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/HelpRequest.h>
 #include <tarvik/skin/Palette.h>
 
 #include "seaplan/controllers/VoyCatalogController.h"

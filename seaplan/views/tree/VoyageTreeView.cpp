@@ -13,12 +13,12 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
-#include "seaplan/views/ViewText.h"
 #include "seaplan/views/tree/RenameField.h"
 #include "seaplan/views/tree/RowDelegate.h"
 #include "seaplan/views/tree/RowModel.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"
 #include "seaplan/views/window/ChoiceBox.h"
+#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 

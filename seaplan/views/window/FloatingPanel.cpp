@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/window/FloatingPanel.h"
 
-#include <tarvik/interface/HelpRequest.h>
+#include <tarvik/skin/HelpRequest.h>
 
 namespace Tarvik::Seaplan {
 

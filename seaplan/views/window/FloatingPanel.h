@@ -8,7 +8,7 @@
 
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/window/Rect.h"
-#include "seaplan/views/ViewText.h"
+#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 

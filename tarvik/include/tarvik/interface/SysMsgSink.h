@@ -10,6 +10,9 @@ namespace Tarvik::Interface {
 /// The person's answer to a message: 0 for a notice, 1 OK, 2 cancel, 4 yes, 5 no.
 enum class SysMsgHandleRes : int { None = 0, Ok = 1, Cancel = 2, Yes = 4, No = 5 };
 
+/// The one level of messages.
+inline constexpr int kMessageLevel = 1;
+
 /// Shows messages to the person and waits for the answer. The host puts its own in force.
 class TARVIK_API SysMsgSink {
   public:

@@ -13,6 +13,8 @@ namespace Tarvik::Util {
 /// Form of a time as text, and the number of its characters.
 inline constexpr const char* kTimeFormat = "%Y-%m-%d %H:%M:%S";
 inline constexpr std::size_t kTimeTextLength = 19;
+/// Zone of plan times wherever they meet UTC, whatever zone the person has chosen; the choice starts with it.
+inline constexpr const char* kPlanZone = "China Standard Time";
 
 /// Zone conversions and arithmetic on date-times. Zones are named as the host names them ("China Standard
 /// Time", or a name of the zone data base); an unknown zone behaves as UTC and is logged once.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/session/CommandLine.h"
+#include "host/client/services/CommandLine.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/client/services/LanguageFiles.h"
-#include "host/client/session/SessionOptions.h"
+#include "host/client/services/SessionOptions.h"
 
 namespace Tarvik::Client {
 

@@ -4,8 +4,8 @@
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/plan/PlanHelp.h"
 #include "host/client/services/AppFolders.h"
+#include "host/client/services/CommandLine.h"
 #include "host/client/services/ProgramPath.h"
-#include "host/client/session/CommandLine.h"
 #include "host/client/shell/PlanRun.h"
 #include "host/client/shell/WindowRun.h"
 
