@@ -47,9 +47,9 @@ class Server {
 
     std::string Ask(const std::string& user, char command, std::string_view text) {
         if (command == 'R') {
-            return service_->Handle(user, Interface::kRemarkModuleWord, 9, text);
+            return service_->Handle(user, Tarvik::Interface::kRemarkModuleWord, 9, text);
         }
-        return service_->Handle(user, Interface::kVoyageModuleWord,
+        return service_->Handle(user, Tarvik::Interface::kVoyageModuleWord,
                                 static_cast<std::uint16_t>(command - 'a' + 1), text);
     }
     /// Everything that the first records and those made since hold.

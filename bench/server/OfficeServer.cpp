@@ -69,7 +69,7 @@ OwnerCopy LargeOwner() {
 }
 
 std::string Request(const std::string& token, std::uint16_t command, const std::string& text) {
-    const std::string body = WriteEnvelope({command, Interface::kVoyageModuleWord, text});
+    const std::string body = WriteEnvelope({command, Tarvik::Interface::kVoyageModuleWord, text});
     return fmt::format(
                "POST /v1/exchange HTTP/1.1\r\nHost: 127.0.0.1\r\nAuthorization: Bearer {}\r\n"
                "Content-Type: application/octet-stream\r\nContent-Length: {}\r\n\r\n",

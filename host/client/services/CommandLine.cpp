@@ -2,6 +2,7 @@
 #include "host/client/services/CommandLine.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <tarvik/skin/Colours.h>
 
@@ -13,6 +14,7 @@ namespace {
 
 std::vector<std::string> ThemeNames() {
     std::vector<std::string> names;
+    names.reserve(std::size(Skin::kThemes));
     for (const Skin::Theme theme : Skin::kThemes) {
         names.emplace_back(Skin::ThemeName(theme));
     }

@@ -44,6 +44,7 @@ bool IsOffered(const std::vector<Language>& languages, const std::string& code) 
 
 std::vector<std::string> LanguageCodes(const std::vector<Language>& languages) {
     std::vector<std::string> codes;
+    codes.reserve(languages.size());
     for (const Language& language : languages) {
         codes.push_back(language.code);
     }

@@ -19,22 +19,32 @@ std::string Degrees(double value) {
     return text;
 }
 
+/// A row of the table, fields named as its columns.
+struct PointRow {
+    std::string id;
+    std::string name;
+    std::string namecn;
+    GeoPoint at;
+    std::string isPort;
+    std::string origid;
+    std::string unlocode;
+};
+
 class Inserter {
   public:
     explicit Inserter(SQLite::Database& database)
         : statement_(
               database,
               "insert into t_point(id,name,namecn,x,y,isport,origid,unlocode) values(?,?,?,?,?,?,?,?)") {}
-    void Add(const std::string& id, const std::string& name, const std::string& namecn, GeoPoint at,
-             const std::string& isPort, const std::string& origid, const std::string& unlocode) {
-        statement_.bind(1, id);
-        statement_.bind(2, name);
-        statement_.bind(3, namecn);
-        statement_.bind(4, Degrees(at.x));
-        statement_.bind(5, Degrees(at.y));
-        statement_.bind(6, isPort);
-        statement_.bind(7, origid);
-        statement_.bind(8, unlocode);
+    void Add(const PointRow& row) {
+        statement_.bind(1, row.id);
+        statement_.bind(2, row.name);
+        statement_.bind(3, row.namecn);
+        statement_.bind(4, Degrees(row.at.x));
+        statement_.bind(5, Degrees(row.at.y));
+        statement_.bind(6, row.isPort);
+        statement_.bind(7, row.origid);
+        statement_.bind(8, row.unlocode);
         statement_.exec();
         statement_.reset();
     }
@@ -56,10 +66,10 @@ std::string WritePointDatabase(const std::string& path, const Sources& sources) 
             "origid text, unlocode text)");
         Inserter inserter(database);
         for (const RoutePointSource& p : sources.routePoints) {
-            inserter.Add(p.id, p.name, p.namecn, p.at, "0", "0", "");
+            inserter.Add({p.id, p.name, p.namecn, p.at, "0", "0", ""});
         }
         for (const PortSource& p : sources.ports) {
-            inserter.Add(p.id, p.name, p.namecn, p.at, "1", p.origid, p.unlocode);
+            inserter.Add({p.id, p.name, p.namecn, p.at, "1", p.origid, p.unlocode});
         }
         transaction.commit();
         return {};

@@ -20,10 +20,10 @@ constexpr double kTangentSlack = 0.3;
 
 SpannerEdges::SpannerEdges(const std::vector<BuildNode>& nodes, const Server::LandIndex& land)
     : nodes_(nodes), land_(land) {
-    extend();
+    Extend();
 }
 
-void SpannerEdges::extend() {
+void SpannerEdges::Extend() {
     for (std::size_t i = vectors_.size(); i < nodes_.size(); ++i) {
         vectors_.push_back(Server::ToVector(nodes_[i].at));
     }
@@ -32,7 +32,7 @@ void SpannerEdges::extend() {
 }
 
 void SpannerEdges::AddFixed(std::uint32_t a, std::uint32_t b, Server::EdgeKind kind) {
-    extend();
+    Extend();
     const auto nm = static_cast<float>(Server::ArcNm(vectors_[a], vectors_[b]));
     neighbours_[a].push_back({b, nm});
     neighbours_[b].push_back({a, nm});
@@ -149,7 +149,7 @@ bool SpannerEdges::SearchDetour(const Pair& pair) {
 }
 
 void SpannerEdges::Connect(std::uint32_t firstNew) {
-    extend();
+    Extend();
     for (const Pair& pair : PairsInReach(firstNew)) {
         if (HasShortDetour(pair) || land_.Blocks(nodes_[pair.a].at, nodes_[pair.b].at) ||
             SearchDetour(pair)) {

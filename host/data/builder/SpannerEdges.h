@@ -55,7 +55,7 @@ class SpannerEdges {
     bool WorthHaving(std::uint32_t node, std::uint32_t other) const;
     bool HasShortDetour(const Pair& pair) const;
     bool SearchDetour(const Pair& pair);
-    void extend();
+    void Extend();
 
     const std::vector<BuildNode>& nodes_;
     const Server::LandIndex& land_;

@@ -70,9 +70,9 @@ bool LegPlanner::Resolve(const RouteChoice& choice, const std::string& fromId, c
     return addEnd(ends[1]);
 }
 
-std::optional<LegPlanner::Stretches> LegPlanner::stretches(const std::string& fromId,
-                                                           const RouteRequestPoint& to,
-                                                           std::string& error) const {
+std::optional<LegPlanner::Stretches> LegPlanner::StretchesOf(const std::string& fromId,
+                                                             const RouteRequestPoint& to,
+                                                             std::string& error) const {
     Stretches result;
     for (const RouteChoice& choice : to.locks) {
         Stretch stretch;
@@ -181,7 +181,7 @@ std::vector<GeoPoint> LegPlanner::Way(std::uint32_t from, std::uint32_t to) cons
 
 std::optional<PlannedStop> LegPlanner::Plan(const std::string& fromId, const RouteRequestPoint& to,
                                             std::string& error) const {
-    const std::optional<Stretches> chosen = stretches(fromId, to, error);
+    const std::optional<Stretches> chosen = StretchesOf(fromId, to, error);
     if (!chosen) {
         return std::nullopt;
     }

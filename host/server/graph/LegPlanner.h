@@ -35,8 +35,8 @@ class LegPlanner {
     };
     using Stretches = std::vector<Stretch>;
 
-    std::optional<Stretches> stretches(const std::string& fromId, const RouteRequestPoint& to,
-                                       std::string& error) const;
+    std::optional<Stretches> StretchesOf(const std::string& fromId, const RouteRequestPoint& to,
+                                         std::string& error) const;
     bool Resolve(const RouteChoice& choice, const std::string& fromId, const std::string& toId,
                  Stretch& out) const;
     GateMask ForbiddenFor(const Stretches& chosen) const;

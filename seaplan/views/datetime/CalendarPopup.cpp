@@ -36,6 +36,16 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(8, 8, 8, 8);
     rows->setSpacing(4);
+    rows->addLayout(MakeHead());
+    rows->addLayout(MakeDays());
+    rows->addLayout(MakeTime());
+    rows->addLayout(MakeButtons());
+    ApplySkin();
+    ApplyTexts();
+    SetValue(Util::_datetime_t());
+}
+
+QLayout* CalendarPopup::MakeHead() {
     auto* head = new QHBoxLayout();
     previousYear_ = Button("previousYear", QStringLiteral("<<"), [this] { model_.StepYear(-1); });
     previousMonth_ = Button("previousMonth", QStringLiteral("<"), [this] { model_.StepMonth(-1); });
@@ -49,7 +59,10 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     head->addWidget(heading_, 1);
     head->addWidget(nextMonth_);
     head->addWidget(nextYear_);
-    rows->addLayout(head);
+    return head;
+}
+
+QLayout* CalendarPopup::MakeDays() {
     auto* grid = new QGridLayout();
     grid->setSpacing(1);
     for (int column = 0; column < kColumns; ++column) {
@@ -67,22 +80,28 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
         group->addButton(cells_[i]);
         grid->addWidget(cells_[i], 1 + i / kColumns, i % kColumns);
     }
-    rows->addLayout(grid);
+    return grid;
+}
+
+QLayout* CalendarPopup::MakeTime() {
     auto* time = new QHBoxLayout();
     hour_ = MakeTimeField("hour", true);
     minute_ = MakeTimeField("minute", false);
+    const auto add = [time](const TimeField& field) {
+        for (QWidget* widget :
+             std::initializer_list<QWidget*>{field.minus, field.shown, field.edit, field.plus}) {
+            time->addWidget(widget);
+        }
+    };
     time->addStretch(1);
-    for (QWidget* widget :
-         std::initializer_list<QWidget*>{hour_.minus, hour_.shown, hour_.edit, hour_.plus}) {
-        time->addWidget(widget);
-    }
+    add(hour_);
     time->addWidget(new QLabel(QStringLiteral(":"), this));
-    for (QWidget* widget :
-         std::initializer_list<QWidget*>{minute_.minus, minute_.shown, minute_.edit, minute_.plus}) {
-        time->addWidget(widget);
-    }
+    add(minute_);
     time->addStretch(1);
-    rows->addLayout(time);
+    return time;
+}
+
+QLayout* CalendarPopup::MakeButtons() {
     auto* buttons = new QHBoxLayout();
     ok_ = new QPushButton(this);
     ok_->setObjectName(QStringLiteral("calendarOk"));
@@ -94,10 +113,7 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     buttons->addStretch(1);
     buttons->addWidget(ok_);
     buttons->addWidget(cancel_);
-    rows->addLayout(buttons);
-    ApplySkin();
-    ApplyTexts();
-    SetValue(Util::_datetime_t());
+    return buttons;
 }
 
 QToolButton* CalendarPopup::Button(const char* name, const QString& label, std::function<void()> action) {

@@ -3,6 +3,7 @@
 
 #include <QFrame>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QToolButton>
 #include <array>
@@ -38,6 +39,10 @@ class CalendarPopup final : public QFrame {
         QToolButton* minus = nullptr;
         QToolButton* plus = nullptr;
     };
+    QLayout* MakeHead();
+    QLayout* MakeDays();
+    QLayout* MakeTime();
+    QLayout* MakeButtons();
     QToolButton* Button(const char* name, const QString& text, std::function<void()> action);
     TimeField MakeTimeField(const char* name, bool hour);
     void BeginTyping(TimeField& field);

@@ -133,7 +133,7 @@ void VoyageTreeView::contextMenuEvent(QContextMenuEvent* event) {
     menu->setObjectName(QStringLiteral("rowMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setStyleSheet(Skin::StyleSheet());
-    for (const SubItem& part : layout(*state, {0, 0, viewport()->width(), 0}, true)) {
+    for (const SubItem& part : LayOut(*state, {0, 0, viewport()->width(), 0}, true)) {
         if (!part.clickable || part.toolTip.isEmpty()) {
             continue;
         }

@@ -88,10 +88,10 @@ std::vector<SubItem> VoyageTreeView::PartsOf(TreeRow row) const {
     }
     const Rect place = rows_->GetItemRect(row);
     const QRect rect(place.left, place.top, place.right - place.left, place.bottom - place.top);
-    return layout(*state, rect, rows_->Selected() == row);
+    return LayOut(*state, rect, rows_->Selected() == row);
 }
 
-std::vector<SubItem> VoyageTreeView::layout(const TreeRowState& state, const QRect& rect,
+std::vector<SubItem> VoyageTreeView::LayOut(const TreeRowState& state, const QRect& rect,
                                             bool selected) const {
     QFont plain = font();
     plain.setBold(state.parent == kNoRow);

@@ -78,7 +78,7 @@ class VoyageTreeView : public QTreeView {
     bool FoldKey(int key);
     void PressKey();
     void InsertKey();
-    std::vector<SubItem> layout(const TreeRowState& state, const QRect& rect, bool selected) const;
+    std::vector<SubItem> LayOut(const TreeRowState& state, const QRect& rect, bool selected) const;
     void Relayout();
 
     std::unique_ptr<VoyageTreeWidget> rows_;

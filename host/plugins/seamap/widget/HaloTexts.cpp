@@ -17,14 +17,14 @@ void HaloTexts::Draw(QPainter& painter, QPointF start, const QString& text, QCol
         if (kept_.size() >= kMostKept) {
             kept_.clear();
         }
-        found = kept_.emplace(key, render(painter, text, colour, halo)).first;
+        found = kept_.emplace(key, Render(painter, text, colour, halo)).first;
     }
     const double ascent = std::ceil(QFontMetricsF(painter.font()).ascent());
     painter.drawPixmap(QPointF(std::round(start.x()) - kRim, std::round(start.y()) - ascent - kRim),
                        found->second);
 }
 
-QPixmap HaloTexts::render(const QPainter& painter, const QString& text, QColor colour, QColor halo) {
+QPixmap HaloTexts::Render(const QPainter& painter, const QString& text, QColor colour, QColor halo) {
     const QFontMetricsF metrics(painter.font());
     const qreal ratio = painter.device()->devicePixelRatioF();
     const QSizeF size(std::ceil(metrics.horizontalAdvance(text)) + 2 * kRim,

@@ -22,7 +22,7 @@ class HaloTexts {
     static constexpr std::size_t kMostKept = 1000;
     static constexpr int kRim = 3;  ///< logical pixels around the text
 
-    static QPixmap render(const QPainter& painter, const QString& text, QColor colour, QColor halo);
+    static QPixmap Render(const QPainter& painter, const QString& text, QColor colour, QColor halo);
 
     std::unordered_map<std::string, QPixmap> kept_;
 };

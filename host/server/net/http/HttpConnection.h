@@ -109,7 +109,7 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
         }
         request.body = std::move(parser.get().body());
         HttpReply reply = co_await Answer(request);
-        co_return co_await send(request, std::move(reply), parser.get().keep_alive());
+        co_return co_await Send(request, std::move(reply), parser.get().keep_alive());
     }
 
     /// False when the peer has closed or the server stops before a byte of a request has come.
@@ -185,12 +185,12 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
     boost::asio::awaitable<bool> Refuse(const HttpRequest& request, HttpReply reply, const Parser& parser) {
         host_.Service().Refused(request, reply.status);
         const bool bare = !parser.chunked() && parser.content_length().value_or(0) == 0;
-        co_return co_await send(request, std::move(reply), bare && parser.get().keep_alive());
+        co_return co_await Send(request, std::move(reply), bare && parser.get().keep_alive());
     }
 
     boost::asio::awaitable<bool> TooLarge(const HttpRequest& request) {
         host_.Service().Refused(request, 413);
-        co_return co_await send(request, Plain(413, "the request is too large"), false);
+        co_return co_await Send(request, Plain(413, "the request is too large"), false);
     }
 
     /// A request that could not be read. What does not speak HTTP is told so; who is gone or too slow is not.
@@ -210,11 +210,11 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
         const bool longHead = failed == http::error::header_limit;
         const int status = longHead ? 431 : 400;
         host_.Service().Refused(request, status);
-        co_return co_await send(
+        co_return co_await Send(
             request, Plain(status, longHead ? "the head is too long" : "the request is malformed"), false);
     }
 
-    boost::asio::awaitable<bool> send(const HttpRequest& request, HttpReply reply, bool keep) {
+    boost::asio::awaitable<bool> Send(const HttpRequest& request, HttpReply reply, bool keep) {
         namespace http = boost::beast::http;
         http::response<http::string_body> response;
         response.version(11);
