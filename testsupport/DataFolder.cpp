@@ -17,7 +17,7 @@ constexpr const char* kCreate =
     "pragma synchronous=off;begin;create table t_point(id text,name text,namecn text,x text,y text,isport "
     "text,origid text);";
 
-std::filesystem::path makeFolder() {
+std::filesystem::path MakeFolder() {
     // mkdtemp puts its own letters in the place of the last six.
     std::string name =
         (std::filesystem::temp_directory_path() / "seaplan-test-").string() + std::string(6, 'X');
@@ -27,20 +27,20 @@ std::filesystem::path makeFolder() {
     return name;
 }
 
-std::string quoted(const std::string& text) {
+std::string Quoted(const std::string& text) {
     const std::unique_ptr<char, void (*)(void*)> made(sqlite3_mprintf("%Q", text.c_str()), sqlite3_free);
     return made.get();
 }
 
-std::string insertText(const PointTableRow& row) {
-    return "insert into t_point values(" + quoted(row.id) + "," + quoted(row.name) + ",null," +
-           quoted(row.x) + "," + quoted(row.y) + "," + quoted(row.isPort ? "1" : "0") + "," +
-           quoted(row.origid) + ");";
+std::string InsertText(const PointTableRow& row) {
+    return "insert into t_point values(" + Quoted(row.id) + "," + Quoted(row.name) + ",null," +
+           Quoted(row.x) + "," + Quoted(row.y) + "," + Quoted(row.isPort ? "1" : "0") + "," +
+           Quoted(row.origid) + ");";
 }
 
 }  // namespace
 
-DataFolder::DataFolder() : path_(makeFolder()) {
+DataFolder::DataFolder() : path_(MakeFolder()) {
     Util::FileUtl::SetCurrentAppDirectory(path_.string());
 }
 
@@ -55,7 +55,7 @@ void DataFolder::WritePoints(const std::vector<PointTableRow>& rows) const {
     std::filesystem::remove(PointsFile());
     std::string sql = kCreate;
     for (const PointTableRow& row : rows) {
-        sql += insertText(row);
+        sql += InsertText(row);
     }
     sql += "commit;";
     sqlite3* opened = nullptr;

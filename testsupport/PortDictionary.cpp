@@ -7,7 +7,7 @@ namespace Tarvik::TestSupport {
 
 namespace {
 
-std::string find(const std::map<std::string, std::string>& map, const std::string& path,
+std::string Find(const std::map<std::string, std::string>& map, const std::string& path,
                  const std::string& key, int language) {
     const auto found = map.find(key);
     return path == "/points" && language == 1033 && found != map.end() ? found->second : std::string();
@@ -24,11 +24,11 @@ PortDictionary::PortDictionary(Ports idsByName) : idsByName_(std::move(idsByName
 
 std::string PortDictionary::KeyOfValue(const std::string& path, const std::string& value,
                                        int language) const {
-    return find(idsByName_, path, value, language);
+    return Find(idsByName_, path, value, language);
 }
 
 std::string PortDictionary::ValueOfKey(const std::string& path, const std::string& key, int language) const {
-    return find(namesById_, path, key, language);
+    return Find(namesById_, path, key, language);
 }
 
 }  // namespace Tarvik::TestSupport

@@ -19,7 +19,7 @@ namespace {
 
 using Util::StringUtl;
 
-void append(const BookPoints& rows, PointTexts& list) {
+void Append(const BookPoints& rows, PointTexts& list) {
     for (const PosBookPoint& row : rows) {
         list.push_back(row.position);
     }
@@ -162,10 +162,10 @@ int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& gro
         if (i == 0) {
             StartAt(ports[i], rows.front(), now, out);
         } else if (now >= ports[i].eta) {
-            append(rows, out.sailed);
+            Append(rows, out.sailed);
             out.current = rows.back().position;
         } else if (now < ports[i - 1].etd) {
-            append(rows, out.remaining);
+            Append(rows, out.remaining);
         } else {
             const int failed = LegWalk(weather, ports[i - 1].etd, now, nullptr, out).Run(rows);
             if (failed < 0) {
@@ -193,7 +193,7 @@ int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>
         if (now >= ports[i].eta) {
             SailCorrected(rows, correction, out);
         } else if (now < ports[i - 1].etd) {
-            append(rows, out.remaining);
+            Append(rows, out.remaining);
         } else {
             const int failed = LegWalk(weather, ports[i - 1].etd, now, &correction, out).Run(rows);
             if (failed < 0) {

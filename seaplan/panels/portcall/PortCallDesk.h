@@ -26,7 +26,7 @@ class PortCallDesk {
         PortDirectory& ports;
         PortCallView& view;
     };
-    explicit PortCallDesk(Parts parts) : p_(std::move(parts)) {}
+    explicit PortCallDesk(Parts parts) : p_(parts) {}
 
     PortCallSheet& Sheet() { return sheet_; }
     const PortCallSheet& Sheet() const { return sheet_; }

@@ -21,7 +21,7 @@ using namespace Tarvik::Seaplan;
 namespace Bus = Tarvik::Interface::Bus;
 namespace Skin = Tarvik::Skin;
 
-int usage() {
+int Usage() {
     std::fputs(
         "seaplan-views-preview [--png OUT.png] [--theme light|dark|night] [--lang en-US|zh-CN]\n"
         "                      [--scene "
@@ -30,7 +30,7 @@ int usage() {
     return 2;
 }
 
-std::string option(const QStringList& arguments, const char* name, const char* fallback) {
+std::string Option(const QStringList& arguments, const char* name, const char* fallback) {
     const auto at = arguments.indexOf(QString::fromLatin1(name));
     return (at < 0 ? QString::fromLatin1(fallback) : arguments.value(at + 1)).toStdString();
 }
@@ -50,7 +50,7 @@ TreeRow RowOf(TreeRows& rows, const std::string& text) {
     return kNoRow;
 }
 
-void press(VoyageViews& views, const std::string& text) {
+void Press(VoyageViews& views, const std::string& text) {
     TreeRows& rows = views.VoyageWindow()->Tree().Rows();
     const TreeRow row = RowOf(rows, text);
     if (rows.GetParentItem(row) == kNoRow) {
@@ -59,12 +59,12 @@ void press(VoyageViews& views, const std::string& text) {
     views.Tree().OnRowPressed(row);
 }
 
-void click(VoyageViews& views, const std::string& text, const std::string& item) {
+void Click(VoyageViews& views, const std::string& text, const std::string& item) {
     views.Tree().OnItemClicked(RowOf(views.VoyageWindow()->Tree().Rows(), text), item);
     QApplication::processEvents();
 }
 
-void playPortCalls(VoyageViews& views, const std::string& scene) {
+void PlayPortCalls(VoyageViews& views, const std::string& scene) {
     CPortCallPanelDlg& panel = views.PortCalls();
     if (scene == "edit") {
         panel.Cells().OnCellClicked(2, ColSpeed);
@@ -84,7 +84,7 @@ void playPortCalls(VoyageViews& views, const std::string& scene) {
     }
 }
 
-void play(VoyageViews& views, const std::string& scene) {
+void Play(VoyageViews& views, const std::string& scene) {
     const Tarvik::Interface::PanelShow show{3, 0};
     Tarvik::Interface::Raise(Bus::ShowPanel, &show);
     QApplication::processEvents();
@@ -94,27 +94,27 @@ void play(VoyageViews& views, const std::string& scene) {
     if (scene == "bin") {
         views.Tree().SetShowDeleted(true);
     }
-    press(views, "Container 2024");
+    Press(views, "Container 2024");
     QApplication::processEvents();
     if (scene == "category") {
         return;
     }
-    press(views, scene == "bin" ? "Baltic feeder" : "Far East 12");
+    Press(views, scene == "bin" ? "Baltic feeder" : "Far East 12");
     QApplication::processEvents();
     if (scene == "rename") {
-        click(views, "Far East 12", "Voyage_child_rename");
+        Click(views, "Far East 12", "Voyage_child_rename");
     }
     if (scene == "vessel") {
-        click(views, "Far East 12", "Voyage_ReplaceShip");
+        Click(views, "Far East 12", "Voyage_ReplaceShip");
     }
     if (scene == "tree" || scene == "bin" || scene == "rename" || scene == "vessel") {
         return;
     }
-    click(views, "Far East 12", "Voyage.child.svr4");
-    playPortCalls(views, scene);
+    Click(views, "Far East 12", "Voyage.child.svr4");
+    PlayPortCalls(views, scene);
 }
 
-QImage picture() {
+QImage Picture() {
     QImage image(1280, 760, QImage::Format_RGB32);
     image.fill(Skin::Colour(Skin::Role::Window));
     QPainter painter(&image);
@@ -138,28 +138,28 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.contains("--help")) {
-        return usage();
+        return Usage();
     }
     QFont font("Noto Sans");
     font.setPixelSize(Skin::kTextPixels);
     QApplication::setFont(font);
-    const std::string language = option(arguments, "--lang", "en-US");
+    const std::string language = Option(arguments, "--lang", "en-US");
     const FileTexts texts(std::string(SEAPLAN_LANG_DIR) + "/seaplan." + language + ".json");
     if (texts.Empty()) {
-        return usage();
+        return Usage();
     }
-    Skin::SetTheme(Skin::ThemeNamed(option(arguments, "--theme", "light")));
+    Skin::SetTheme(Skin::ThemeNamed(Option(arguments, "--theme", "light")));
     PanelDesk desk;
-    const std::string scene = option(arguments, "--scene", "voyage");
+    const std::string scene = Option(arguments, "--scene", "voyage");
     if (scene != "empty") {
         AddSampleVoyages(desk);
     }
     PortDirectory ports = SamplePorts();
     VoyageViews views({desk.store, desk.catalog, desk.voyages, ports, nullptr});
-    play(views, scene);
+    Play(views, scene);
     if (!arguments.contains("--png")) {
         return QApplication::exec();
     }
     QApplication::processEvents();
-    return picture().save(QString::fromStdString(option(arguments, "--png", ""))) ? 0 : 1;
+    return Picture().save(QString::fromStdString(Option(arguments, "--png", ""))) ? 0 : 1;
 }

@@ -22,7 +22,7 @@ bool IsCut(LandPoint a, LandPoint b) {
     return (onDateLine(a) && onDateLine(b)) || (a.lat < -89.0F && b.lat < -89.0F);
 }
 
-void append(CoastData::Level& level, std::vector<CoastData::Shape>& shapes,
+void Append(CoastData::Level& level, std::vector<CoastData::Shape>& shapes,
             std::span<const LandPoint> points) {
     CoastData::Shape shape;
     shape.first = static_cast<std::uint32_t>(level.points.size());
@@ -50,7 +50,7 @@ void AppendCoast(CoastData::Level& level, const LandShape& coast) {
         // A run that goes on shares its last point with the next one.
         const std::size_t last = end ? i : i + 1;
         if (last - first >= 2) {
-            append(level, level.coasts, std::span(coast).subspan(first, last - first));
+            Append(level, level.coasts, std::span(coast).subspan(first, last - first));
         }
         first = i;
     }
@@ -71,7 +71,7 @@ CoastData::CoastData(const std::vector<LandLevel>& levels) {
         level.points.reserve(count);
         for (const LandShape& cell : source.cells) {
             if (cell.size() >= 3) {
-                append(level, level.cells, cell);
+                Append(level, level.cells, cell);
             }
         }
         for (const LandShape& coast : source.coasts) {

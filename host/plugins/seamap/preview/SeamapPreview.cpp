@@ -19,7 +19,7 @@ namespace {
 using namespace Tarvik::Seamap;
 namespace Records = Tarvik::Interface;
 
-void addSample(ChartObjects& objects) {
+void AddSample(ChartObjects& objects) {
     const std::vector<std::string> route{
         "121.95,31.0", "122.8,29.0", "119.5,23.5", "113.0,15.0", "106.0,6.0", "104.4,1.3",
         "100.6,3.0",   "95.3,6.1",   "80.3,5.7",   "60.0,11.0",  "51.6,12.3", "45.0,12.0",
@@ -45,14 +45,14 @@ void addSample(ChartObjects& objects) {
     objects.AddImage({{"VOYAGE", "ship", "AISSHIPTYPE"}, "AIS_Ship", "70.0,8.5"});
 }
 
-int usage() {
+int Usage() {
     std::fputs("seamap-preview OUT.png [WIDTHxHEIGHT] [light|dark|night] [LAND] [WEST,SOUTH,EAST,NORTH]\n",
                stderr);
     return 2;
 }
 
 /// Time of the frames after each of the keys, pressed in turn.
-void report(const char* what, ChartWidget& chart, const std::vector<Qt::Key>& keys) {
+void Report(const char* what, ChartWidget& chart, const std::vector<Qt::Key>& keys) {
     std::vector<double> times;
     QPixmap frame(chart.size());
     for (std::size_t i = 0; i < 40; ++i) {
@@ -74,19 +74,19 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2) {
-        return usage();
+        return Usage();
     }
     int width = 1280, height = 720;
     if (arguments.size() > 2 && std::sscanf(qPrintable(arguments[2]), "%dx%d", &width, &height) != 2) {
-        return usage();
+        return Usage();
     }
     ChartObjects objects;
-    addSample(objects);
+    AddSample(objects);
     ChartWidget chart(objects);
     chart.setProperty("pictures", true);
     const auto theme = Tarvik::Skin::FindTheme(arguments.value(3, "light").toStdString());
     if (!theme) {
-        return usage();
+        return Usage();
     }
     chart.SetTheme(*theme);
     const std::string file =
@@ -100,7 +100,7 @@ int main(int argc, char** argv) {
     Records::TrvMapExtent corners{-20, -15, 150, 60};
     if (arguments.size() > 5 && std::sscanf(qPrintable(arguments[5]), "%lf,%lf,%lf,%lf", &corners.first,
                                             &corners.second, &corners.third, &corners.fourth) != 4) {
-        return usage();
+        return Usage();
     }
     chart.ShowExtent(*Extent::FromCorners(corners));
     timer.restart();
@@ -109,7 +109,7 @@ int main(int argc, char** argv) {
     if (!picture.save(arguments[1])) {
         return 1;
     }
-    report("whole frames", chart, {Qt::Key_Plus, Qt::Key_Minus});
-    report("panning", chart, {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Up});
+    Report("whole frames", chart, {Qt::Key_Plus, Qt::Key_Minus});
+    Report("panning", chart, {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Up});
     return 0;
 }
