@@ -19,7 +19,7 @@ namespace {
 
 using namespace Tarvik::Server;
 
-std::vector<std::string> fields(const std::string& line) {
+std::vector<std::string> Fields(const std::string& line) {
     std::vector<std::string> result(1);
     bool quoted = false;
     for (const char c : line) {
@@ -34,7 +34,7 @@ std::vector<std::string> fields(const std::string& line) {
     return result;
 }
 
-double share(std::vector<double>& values, double part) {
+double Share(std::vector<double>& values, double part) {
     std::sort(values.begin(), values.end());
     return values.empty() ? 0.0
                           : values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
@@ -57,7 +57,7 @@ struct Comparison {
 };
 
 /// The published entry nearest to ours counts where a pair has several (by different passages).
-std::vector<Comparison> compare(const RouteEngine& engine, const SeaNetwork& network, const std::string& path,
+std::vector<Comparison> Compare(const RouteEngine& engine, const SeaNetwork& network, const std::string& path,
                                 std::vector<double>& planTimes) {
     std::map<std::string, std::string> ids;
     for (const NetworkPort& port : network.data().ports) {
@@ -68,12 +68,12 @@ std::vector<Comparison> compare(const RouteEngine& engine, const SeaNetwork& net
     std::string line;
     std::getline(file, line);
     while (std::getline(file, line)) {
-        const std::vector<std::string> f = fields(line);
+        const std::vector<std::string> f = Fields(line);
         if (f.size() < 5 || !ids.contains(f[1]) || !ids.contains(f[3])) {
             continue;
         }
         const Stopwatch watch;
-        const RouteResult result = engine.plan({{ids[f[1]], {}, {}}, {ids[f[3]], {}, {}}});
+        const RouteResult result = engine.Plan({{ids[f[1]], {}, {}}, {ids[f[3]], {}, {}}});
         planTimes.push_back(watch.Milliseconds());
         const double published = std::stod(f[4]);
         const double ours = result.error != 0 ? 0.0 : result.stops[1].distanceKm / kKmPerNm;
@@ -110,7 +110,7 @@ void MeasureRequests(const RouteEngine& engine, const SeaNetwork& network) {
         const NetworkPort& a = ports[next() % ports.size()];
         const NetworkPort& b = ports[next() % ports.size()];
         const Stopwatch watch;
-        const RouteResult result = engine.plan({{a.id, {}, {}}, {b.id, {}, {}}});
+        const RouteResult result = engine.Plan({{a.id, {}, {}}, {b.id, {}, {}}});
         const double ms = watch.Milliseconds();
         if (times.empty() || ms > *std::max_element(times.begin(), times.end())) {
             slowest = a.name + " - " + b.name;
@@ -121,7 +121,7 @@ void MeasureRequests(const RouteEngine& engine, const SeaNetwork& network) {
         }
     }
     fmt::print("{} random pairs: median {:.2f} ms, 99th percentile {:.2f} ms, longest {:.2f} ms ({})\n",
-               kPairs, share(times, 0.5), share(times, 0.99), share(times, 1.0), slowest);
+               kPairs, Share(times, 0.5), Share(times, 0.99), Share(times, 1.0), slowest);
 }
 
 }  // namespace
@@ -132,7 +132,7 @@ int main(int argc, char** argv) {
     }
     std::string error;
     const Stopwatch watch;
-    const auto network = SeaNetwork::load(argv[1], error);
+    const auto network = SeaNetwork::Load(argv[1], error);
     if (!network) {
         fmt::print(stderr, "{}\n", error);
         return 1;
@@ -142,9 +142,9 @@ int main(int argc, char** argv) {
     std::vector<double> times;
     const RouteEngine engine(network);
     MeasureRequests(engine, *network);
-    std::vector<Comparison> all = compare(engine, *network, argv[2], times);
-    fmt::print("plan with alternatives: median {:.1f} ms, 99th percentile {:.1f} ms\n", share(times, 0.5),
-               share(times, 0.99));
+    std::vector<Comparison> all = Compare(engine, *network, argv[2], times);
+    fmt::print("plan with alternatives: median {:.1f} ms, 99th percentile {:.1f} ms\n", Share(times, 0.5),
+               Share(times, 0.99));
     std::vector<double> distant;
     std::size_t within = 0;
     for (const Comparison& c : all) {
@@ -155,7 +155,7 @@ int main(int argc, char** argv) {
         within += std::abs(c.error) <= 0.05 ? 1U : 0U;
     }
     fmt::print("{} pairs above 1000 NM: median {:.2f} %, 90th percentile {:.2f} %, within 5 %: {:.1f} %\n",
-               distant.size(), share(distant, 0.5) * 100.0, share(distant, 0.9) * 100.0,
+               distant.size(), Share(distant, 0.5) * 100.0, Share(distant, 0.9) * 100.0,
                100.0 * static_cast<double>(within) / static_cast<double>(distant.size()));
     std::sort(all.begin(), all.end(), [](const auto& a, const auto& b) {
         const auto size = [](double e) { return std::abs(e > 900.0 ? e - 1000.0 : e); };
