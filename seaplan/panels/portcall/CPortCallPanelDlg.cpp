@@ -9,7 +9,7 @@
 namespace Tarvik::Seaplan {
 
 CPortCallPanelDlg::CPortCallPanelDlg(PortCallDesk::Parts parts)
-    : desk_(std::move(parts)),
+    : desk_(parts),
       editing_(desk_),
       corrected_(desk_),
       filling_(desk_, editing_, corrected_),
