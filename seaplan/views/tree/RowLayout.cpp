@@ -73,14 +73,28 @@ class Builder {
         }
     }
 
-    /// Text of its own width, cut at `right`; gives the right end.
-    int text(const std::string& name, SubItemKind kind, const QString& text, int left, int top, int height,
-             int right, const QString& toolTip = {}) {
-        const int wide = std::max(0, std::min(width_(text, kind), right - left));
+    /// Where a text may stand, in pixels of the tree.
+    struct Band {
+        int left = 0;
+        int top = 0;
+        int height = 0;
+        int right = 0;
+    };
+
+    /// Text of its own width, cut at the band's right end; gives its own right end.
+    int Write(const std::string& name, SubItemKind kind, const QString& text, const Band& band,
+              const QString& toolTip = {}) {
+        const int wide = std::max(0, std::min(width_(text, kind), band.right - band.left));
         const bool link = kind == SubItemKind::Link;
-        parts_.push_back(
-            {name, kind, {left, top, wide, height}, text, {}, toolTip, link, !link || hasCommand_(name)});
-        return left + wide;
+        parts_.push_back({name,
+                          kind,
+                          {band.left, band.top, wide, band.height},
+                          text,
+                          {},
+                          toolTip,
+                          link,
+                          !link || hasCommand_(name)});
+        return band.left + wide;
     }
 
     QString Value(const char* item, const char* name) const {
@@ -119,9 +133,9 @@ void LayoutCategory(Builder& b, bool selected) {
     const TreeItem* count = b.Visible(Item::kCount);
     const QString counted = count == nullptr ? QString() : Qt(count->text);
     const int right = r.right() - kMargin - b.WidthOf(counted, SubItemKind::Count);
-    const int end = b.text("name", SubItemKind::Name, Qt(b.Row().text), r.left() + 24, r.top(), kLine, right,
-                           Qt(b.Row().text));
-    b.text(Item::kCount, SubItemKind::Count, counted, end, r.top(), kLine, r.right() - kMargin);
+    const int end = b.Write("name", SubItemKind::Name, Qt(b.Row().text),
+                            {r.left() + 24, r.top(), kLine, right}, Qt(b.Row().text));
+    b.Write(Item::kCount, SubItemKind::Count, counted, {end, r.top(), kLine, r.right() - kMargin});
     if (selected) {
         b.Buttons(kCategoryButtons, r.left() + 20, r.top() + kLine + 1);
     }
@@ -155,8 +169,8 @@ void LayoutVoyageHead(Builder& b, bool selected) {
                false});
     }
     const int nameRight = selected ? right - kButton - kGap : right;
-    const int end = b.text("name", SubItemKind::Name, Qt(b.Row().text), pin.right() + kGap, r.top(), kLine,
-                           nameRight, Qt(b.Row().text));
+    const int end = b.Write("name", SubItemKind::Name, Qt(b.Row().text),
+                            {pin.right() + kGap, r.top(), kLine, nameRight}, Qt(b.Row().text));
     if (selected) {
         b.Icon(Item::kRenameVoyage, "rename", {end + kGap, r.top() + 3, kButton, kButton});
     }
@@ -170,10 +184,10 @@ void LayoutVoyageDates(Builder& b, int left, int right) {
                              b.Value(Item::kDates, ItemValue::kSailDate) + QStringLiteral("  ") +
                              b.Value(Item::kDates, ItemValue::kEndingLabel) + u' ' +
                              b.Value(Item::kDates, ItemValue::kEndDate);
-        b.text(Item::kDates, SubItemKind::Text, text, left, top, kLine, right);
+        b.Write(Item::kDates, SubItemKind::Text, text, {left, top, kLine, right});
     } else if (b.Visible(Item::kSetPortCall) != nullptr) {
         const QString text = b.Value(Item::kSetPortCall, ItemValue::kSetPortCall);
-        b.text(Item::kSetPortCall, SubItemKind::Link, text, left, top, kLine, right, text);
+        b.Write(Item::kSetPortCall, SubItemKind::Link, text, {left, top, kLine, right}, text);
     }
 }
 
@@ -184,11 +198,11 @@ void LayoutVoyageVessel(Builder& b, int left, int right) {
     if (b.Visible(Item::kShipInfo) != nullptr) {
         const QString text = b.Value(Item::kShipInfo, ItemValue::kShipLabel) + u' ' +
                              b.Value(Item::kShipInfo, ItemValue::kShipName);
-        end = b.text(Item::kShipInfo, SubItemKind::Link, text, left, top, kLine, right - 2 * (kButton + kGap),
-                     text);
+        end = b.Write(Item::kShipInfo, SubItemKind::Link, text,
+                      {left, top, kLine, right - 2 * (kButton + kGap)}, text);
     } else if (b.Visible(Item::kAssignShip) != nullptr) {
         const QString text = b.Value(Item::kAssignShip, ItemValue::kAssignShip);
-        end = b.text(Item::kAssignShip, SubItemKind::Link, text, left, top, kLine, right - kButton, text);
+        end = b.Write(Item::kAssignShip, SubItemKind::Link, text, {left, top, kLine, right - kButton}, text);
     }
     if (b.Visible(Item::kAlert) != nullptr) {
         b.Icon(Item::kAlert, "alert", {end + kGap, top + 1, kButton, kButton});
@@ -227,7 +241,8 @@ std::vector<SubItem> LayoutRow(const TreeRowState& row, const QRect& rect, bool 
     } else {
         const int left = rect.left() + 24;
         const int right = rect.right() - kMargin - 2 * (kButton + kGap);
-        b.text("name", SubItemKind::Name, Qt(row.text), left, rect.top(), rect.height(), right, Qt(row.text));
+        b.Write("name", SubItemKind::Name, Qt(row.text), {left, rect.top(), rect.height(), right},
+                Qt(row.text));
         b.Buttons(kDeletedButtons, right + kGap, rect.top() + 3);
     }
     return b.Take();
