@@ -9,10 +9,12 @@ stamps=.cache/lint
 mkdir -p "$stamps"
 world=$(git ls-files -s '*.h' .clang-tidy | sha256sum | cut -c1-16)
 check() {
-    local stamp
+    local stamp options=()
     stamp=$stamps/$( (echo "$world $1"; cat "$1") | sha256sum | cut -c1-24)
     [ -f "$stamp" ] && return 0
-    clang-tidy-14 --quiet -p "$build" "$1" 2>/dev/null >"$stamp.out" || { cat "$stamp.out"; rm -f "$stamp.out"; return 1; }
+    # Names in tests are not alike yet.
+    case $1 in tests/*) options=("--checks=-readability-identifier-naming,-readability-function-size") ;; esac
+    clang-tidy-14 --quiet "${options[@]}" -p "$build" "$1" 2>/dev/null >"$stamp.out" || { cat "$stamp.out"; rm -f "$stamp.out"; return 1; }
     mv "$stamp.out" "$stamp"
 }
 export -f check
