@@ -32,7 +32,7 @@ std::string PortId(std::size_t stop) {
 }
 
 /// The named point at the end of a stop's segment: two route points, then the port.
-std::string endId(std::size_t stop, std::size_t segment) {
+std::string EndId(std::size_t stop, std::size_t segment) {
     return segment + 1 == kSegments ? PortId(stop) : std::to_string(101 + segment);
 }
 
@@ -84,8 +84,8 @@ RouteStops RouteOf(std::size_t stops, std::size_t points) {
             const std::size_t first = part * (points - 1) / parts;
             const std::size_t last = (part + 1) * (points - 1) / parts;
             route[s].routes.push_back(
-                {std::to_string(k + 1), from, endId(s, k), Joined(track, first, last), 0});
-            from = endId(s, k);
+                {std::to_string(k + 1), from, EndId(s, k), Joined(track, first, last), 0});
+            from = EndId(s, k);
         }
         route[s].rp_id_str = fmt::format("{},101,102,{}", PortId(s - 1), PortId(s));
     }

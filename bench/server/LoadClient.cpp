@@ -38,11 +38,11 @@ class Connection {
         : socket_(io), load_(load), next_(first) {
         socket_.connect({net::ip::address_v4::loopback(), port});
         socket_.set_option(tcp::no_delay(true));
-        send();
+        Send();
     }
 
   private:
-    void send() {
+    void Send() {
         begun_ = Clock::now();
         if (begun_ >= load_.end) {
             return;
@@ -89,7 +89,7 @@ class Connection {
             load_.times.push_back(std::chrono::duration<float, std::milli>(now - begun_).count());
             load_.bytes += length;
         }
-        send();
+        Send();
     }
 
     tcp::socket socket_;

@@ -25,7 +25,7 @@ class Alternatives : public testing::Test {
     void SetUp() override { ASSERT_NE(display_.Name(), ""); }
 
     /// The one patch of the colour that the chart comes to show.
-    Spot awaitSpot(const std::string& window, std::uint32_t colour, const std::string& what) const {
+    Spot AwaitSpot(const std::string& window, std::uint32_t colour, const std::string& what) const {
         std::vector<Spot> spots;
         std::string last;
         const auto still = [&] {
@@ -38,7 +38,7 @@ class Alternatives : public testing::Test {
         AwaitOrThrow(still, "the chart does not show one " + what);
         return spots.front();
     }
-    void await(const std::string& sql, long number) const {
+    void Await(const std::string& sql, long number) const {
         AwaitOrThrow([&] { return client_.Number(sql) == number; }, sql);
     }
 
@@ -58,9 +58,9 @@ TEST_F(Alternatives, AClickOnAnAlternativeChangesRouteAndFigures) {
     person_.Press({"F9"});
     const std::string through = person_.LookForChange(sitting.portCalls, typed);
 
-    const Spot strait = awaitSpot(sitting.main, kRoutePoint, "route point");
+    const Spot strait = AwaitSpot(sitting.main, kRoutePoint, "route point");
     person_.Click(sitting.main, strait.x, strait.y);
-    const Spot outside = awaitSpot(sitting.main, kAlternative, "alternative");
+    const Spot outside = AwaitSpot(sitting.main, kAlternative, "alternative");
     Keep("alternatives.ppm", person_.Look(sitting.main));
     person_.Click(sitting.main, outside.x, outside.y);
 
@@ -68,9 +68,9 @@ TEST_F(Alternatives, AClickOnAnAlternativeChangesRouteAndFigures) {
     EXPECT_NE(SecondRow(around), SecondRow(through)) << "the figures of the leg did not follow";
     person_.Click(sitting.portCalls, 300, 12);
     person_.Press({"ctrl+s"});
-    await("select count(*) from port_calls", 2);
-    await("select count(*) from book_rows where psn='East of Taiwan'", 1);
-    await("select count(*) from book_rows where psn='Taiwan Strait'", 0);
+    Await("select count(*) from port_calls", 2);
+    Await("select count(*) from book_rows where psn='East of Taiwan'", 1);
+    Await("select count(*) from book_rows where psn='Taiwan Strait'", 0);
     EXPECT_EQ(sitting.Leave().exitCode, 0);
 }
 

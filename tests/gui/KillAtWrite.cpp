@@ -46,13 +46,13 @@ class Counter {
     long count_ = 0;
 };
 
-Counter& counter() {
+Counter& WriteCounter() {
     static Counter made;
     return made;
 }
 
 template <class Function>
-Function next(const char* name) {
+Function Next(const char* name) {
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
 }
 
@@ -62,20 +62,20 @@ extern "C" {
 
 __attribute__((visibility("default"))) ssize_t pwrite64(int descriptor, const void* bytes, std::size_t size,
                                                         off64_t place) {
-    static const auto real = next<ssize_t (*)(int, const void*, std::size_t, off64_t)>("pwrite64");
-    counter().Note(descriptor);
+    static const auto real = Next<ssize_t (*)(int, const void*, std::size_t, off64_t)>("pwrite64");
+    WriteCounter().Note(descriptor);
     return real(descriptor, bytes, size, place);
 }
 
 __attribute__((visibility("default"))) int fdatasync(int descriptor) {
-    static const auto real = next<int (*)(int)>("fdatasync");
-    counter().Note(descriptor);
+    static const auto real = Next<int (*)(int)>("fdatasync");
+    WriteCounter().Note(descriptor);
     return real(descriptor);
 }
 
 __attribute__((visibility("default"))) int fsync(int descriptor) {
-    static const auto real = next<int (*)(int)>("fsync");
-    counter().Note(descriptor);
+    static const auto real = Next<int (*)(int)>("fsync");
+    WriteCounter().Note(descriptor);
     return real(descriptor);
 }
 

@@ -57,7 +57,7 @@ class KilledSave : public testing::Test {
     }
 
     /// Kills a save at the given write; what is then found must be whole, and the next save must work.
-    void killAt(long write) const {
+    void KillAt(long write) const {
         SCOPED_TRACE("killed at write " + std::to_string(write) + " of " + std::to_string(writes_));
         const auto client = WithOneVoyage();
         const Ended ended = RunToEnd(WatchedSave(*client, write, {}));
@@ -95,7 +95,7 @@ TEST_F(KilledSave, LeavesTheOldOrTheNewScheduleAtEveryMoment) {
         moments.insert(1 + static_cast<long>(random() % static_cast<unsigned>(writes_)));
     }
     for (const long write : moments) {
-        killAt(write);
+        KillAt(write);
     }
 }
 

@@ -22,7 +22,7 @@ std::string FirstLine(const std::string& text) {
 
 }  // namespace
 
-std::string Person::xdotool(std::vector<std::string> words) const {
+std::string Person::Xdotool(std::vector<std::string> words) const {
     words.insert(words.begin(), XDOTOOL_PROGRAM);
     return RunToEnd(On(display_, std::move(words))).out;
 }
@@ -30,7 +30,7 @@ std::string Person::xdotool(std::vector<std::string> words) const {
 std::string Person::AwaitWindow(const std::string& title) const {
     std::string found;
     const auto look = [&] {
-        found = FirstLine(xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}));
+        found = FirstLine(Xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}));
         return !found.empty();
     };
     AwaitOrThrow(look, "no window " + title);
@@ -40,14 +40,14 @@ std::string Person::AwaitWindow(const std::string& title) const {
 void Person::AwaitGone(const std::string& title) const {
     AwaitOrThrow(
         [&] {
-            return xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}).empty();
+            return Xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}).empty();
         },
         "the window stays: " + title);
 }
 
 void Person::Click(const std::string& window, int x, int y) const {
-    xdotool({"mousemove", "--window", window, std::to_string(x), std::to_string(y), "click", "1"});
-    const auto focused = [&] { return FirstLine(xdotool({"getwindowfocus"})) == window; };
+    Xdotool({"mousemove", "--window", window, std::to_string(x), std::to_string(y), "click", "1"});
+    const auto focused = [&] { return FirstLine(Xdotool({"getwindowfocus"})) == window; };
     AwaitOrThrow(focused,
                  "the window pressed at " + std::to_string(x) + ", " + std::to_string(y) + " takes no keys");
 }
@@ -56,24 +56,24 @@ void Person::Drag(const std::string& window, int x, int y) const {
     constexpr int kGripX = 140;
     constexpr int kGripY = 15;
     const auto text = [](int number) { return std::to_string(number); };
-    xdotool({"mousemove", "--window", window, text(kGripX), text(kGripY), "mousedown", "1", "mousemove",
+    Xdotool({"mousemove", "--window", window, text(kGripX), text(kGripY), "mousedown", "1", "mousemove",
              text(x + kGripX), text(y + kGripY), "mouseup", "1"});
     const std::string wanted = "Position: " + text(x) + "," + text(y) + " ";
     AwaitOrThrow(
         [&] {
-            return xdotool({"getwindowgeometry", window}).find(wanted) != std::string::npos;
+            return Xdotool({"getwindowgeometry", window}).find(wanted) != std::string::npos;
         },
         "the window cannot be dragged");
 }
 
 void Person::Type(const std::string& text) const {
-    xdotool({"type", "--delay", "2", text});
+    Xdotool({"type", "--delay", "2", text});
 }
 
 void Person::Press(const std::vector<std::string>& keys) const {
     std::vector<std::string> words{"key"};
     words.insert(words.end(), keys.begin(), keys.end());
-    xdotool(std::move(words));
+    Xdotool(std::move(words));
 }
 
 std::string Person::Look(const std::string& window) const {

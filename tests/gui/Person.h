@@ -33,7 +33,7 @@ class Person {
     void Photograph(const std::string& file) const;
 
   private:
-    std::string xdotool(std::vector<std::string> words) const;
+    std::string Xdotool(std::vector<std::string> words) const;
 
     std::string display_;
 };

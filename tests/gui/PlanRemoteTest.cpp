@@ -16,9 +16,9 @@ using testing::HasSubstr;
 /// A voyage server with the sea network, as an office has it.
 class PlanRemote : public testing::Test {
   protected:
-    PlanRemote() : server_({}, routes()) { server_.AddUser("anna", "correct horse"); }
+    PlanRemote() : server_({}, Routes()) { server_.AddUser("anna", "correct horse"); }
 
-    static std::unique_ptr<Server::RouteSource> routes() {
+    static std::unique_ptr<Server::RouteSource> Routes() {
         std::string error;
         const auto share =
             std::filesystem::path(CLIENT_PROGRAM).parent_path().parent_path() / "share/seaplan";
@@ -26,7 +26,7 @@ class PlanRemote : public testing::Test {
         EXPECT_NE(source, nullptr) << error;
         return source;
     }
-    Ended plan(const std::string& password, const std::vector<std::string>& words) const {
+    Ended Plan(const std::string& password, const std::vector<std::string>& words) const {
         auto start = client_.Words({"--server", server_.Url(), "plan", "Rotterdam", "Hamburg"});
         start.words.insert(start.words.end(), words.begin(), words.end());
         start.environment["SEAPLAN_USER"] = "anna";
@@ -39,17 +39,17 @@ class PlanRemote : public testing::Test {
 };
 
 TEST_F(PlanRemote, PlansAndSavesAtTheServerAndNotHere) {
-    const Ended ended = plan("correct horse", {"--save", "Trade/First"});
+    const Ended ended = Plan("correct horse", {"--save", "Trade/First"});
     EXPECT_EQ(ended.exitCode, 0) << ended.err;
     EXPECT_THAT(ended.out, HasSubstr("Hamburg"));
     EXPECT_FALSE(std::filesystem::exists(client_.Data("voyages.db")));
-    const Ended again = plan("correct horse", {"--save", "Trade/First"});
+    const Ended again = Plan("correct horse", {"--save", "Trade/First"});
     EXPECT_EQ(again.exitCode, 2);
     EXPECT_THAT(again.err, HasSubstr("a voyage of this name exists"));
 }
 
 TEST_F(PlanRemote, AWrongPasswordIsNamed) {
-    const Ended ended = plan("guessed", {});
+    const Ended ended = Plan("guessed", {});
     EXPECT_EQ(ended.exitCode, 1);
     EXPECT_THAT(ended.err, HasSubstr("refuses the user name or the password of anna"));
 }

@@ -30,7 +30,7 @@ void ExpectTrouble(const Ended& ended, const std::vector<std::string>& parts) {
 class DamagedTree : public testing::Test {
   protected:
     DamagedTree() { client_.CopyTree(); }
-    void cut(const std::string& name) const {
+    void Cut(const std::string& name) const {
         const std::string file = client_.TreeFile(name);
         fs::resize_file(file, fs::file_size(file) / 2);
     }
@@ -51,7 +51,7 @@ TEST_F(DamagedTree, ADataFileThatIsCutShortIsNamed) {
     ASSERT_EQ(client_.Plan({"Rotterdam", "Hamburg"}).exitCode, 0)
         << "a whole copy in the data folder does not hide it";
     for (const char* name : {"network.bin", "land.bin", "trvdb.db"}) {
-        cut(std::string("share/seaplan/") + name);
+        Cut(std::string("share/seaplan/") + name);
         ExpectTrouble(client_.Plan(kPlan), {name, "cut short", "Build or install the client again"});
     }
     EXPECT_EQ(client_.Number("select count(*) from categories"), 0);

@@ -20,7 +20,7 @@ constexpr Place kSetPortCalls{98, 122};
 // The first cell of the port call table.
 constexpr Place kFirstPort{103, 84};
 
-ChildProcess::Start onDisplay(const ClientTree& client, const std::string& display) {
+ChildProcess::Start OnDisplay(const ClientTree& client, const std::string& display) {
     auto start = client.Words({"--lang", "en-US", "--theme", "light"});
     start.environment["DISPLAY"] = display;
     start.environment["QT_QPA_PLATFORM"] = "xcb";
@@ -31,7 +31,7 @@ ChildProcess::Start onDisplay(const ClientTree& client, const std::string& displ
 }  // namespace
 
 Sitting::Sitting(const ClientTree& client, const Person& person, const std::string& display)
-    : client_(client), person_(person), process_(onDisplay(client, display)) {
+    : client_(client), person_(person), process_(OnDisplay(client, display)) {
     main = person.AwaitWindow("Seaplan");
 }
 
@@ -54,11 +54,11 @@ void Sitting::OpenPortCalls(const Place& place) {
     portCalls = person_.AwaitWindow("Port calls");
 }
 
-void Sitting::await(const std::string& sql, long number) const {
+void Sitting::Await(const std::string& sql, long number) const {
     AwaitOrThrow([&] { return client_.Number(sql) == number; }, sql);
 }
 
-void Sitting::rename(const std::string& name) const {
+void Sitting::Rename(const std::string& name) const {
     person_.Press({"ctrl+a"});
     person_.Type(name);
     person_.Press({"Return"});
@@ -66,14 +66,14 @@ void Sitting::rename(const std::string& name) const {
 
 void Sitting::MakeVoyage() {
     OpenVoyages();
-    await("select count(*) from categories", 1);
+    Await("select count(*) from categories", 1);
     ClickVoyages(kRenameEditor);
-    rename("Tankers");
-    await("select count(*) from categories where cn='Tankers'", 1);
+    Rename("Tankers");
+    Await("select count(*) from categories where cn='Tankers'", 1);
     ClickVoyages(kAddVoyage);
-    await("select count(*) from voyages", 1);
-    rename("Winter");
-    await("select count(*) from voyages where vn='Winter'", 1);
+    Await("select count(*) from voyages", 1);
+    Rename("Winter");
+    Await("select count(*) from voyages where vn='Winter'", 1);
 }
 
 void Sitting::OpenEmptyPortCalls() {

@@ -49,8 +49,8 @@ class Sitting {
     std::string portCalls;
 
   private:
-    void rename(const std::string& name) const;
-    void await(const std::string& sql, long number) const;
+    void Rename(const std::string& name) const;
+    void Await(const std::string& sql, long number) const;
 
     const ClientTree& client_;
     const Person& person_;

@@ -25,7 +25,7 @@ struct Mask {
     }
 };
 
-Mask maskOf(const std::string& picture, std::uint32_t colour) {
+Mask MaskOf(const std::string& picture, std::uint32_t colour) {
     Mask mask;
     std::istringstream head(picture);
     std::string kind;
@@ -45,7 +45,7 @@ Mask maskOf(const std::string& picture, std::uint32_t colour) {
 }
 
 /// Takes a patch out of the mask, beginning at a pixel that was in it.
-Spot takePatch(Mask& mask, int x, int y) {
+Spot TakePatch(Mask& mask, int x, int y) {
     std::vector<std::pair<int, int>> open{{x, y}};
     long sumX = 0;
     long sumY = 0;
@@ -70,14 +70,14 @@ Spot takePatch(Mask& mask, int x, int y) {
 }  // namespace
 
 std::vector<Spot> SpotsOf(const std::string& picture, std::uint32_t colour, int least) {
-    Mask mask = maskOf(picture, colour);
+    Mask mask = MaskOf(picture, colour);
     std::vector<Spot> spots;
     for (int y = 0; y < mask.high; ++y) {
         for (int x = 0; x < mask.wide; ++x) {
             if (!mask.Take(x, y)) {
                 continue;
             }
-            const Spot spot = takePatch(mask, x, y);
+            const Spot spot = TakePatch(mask, x, y);
             if (spot.pixels >= least) {
                 spots.push_back(spot);
             }

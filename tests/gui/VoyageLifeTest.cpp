@@ -23,15 +23,15 @@ class VoyageLife : public testing::Test {
     void SetUp() override { ASSERT_NE(display_.Name(), ""); }
 
     /// Waits until a query of the data base answers the number.
-    void await(const std::string& sql, long number) const {
+    void Await(const std::string& sql, long number) const {
         AwaitOrThrow([&] { return client_.Number(sql) == number; }, sql);
     }
     /// Types two ports, calculates and saves.
-    void planAndSave(const Sitting& sitting) const {
+    void PlanAndSave(const Sitting& sitting) const {
         sitting.TypePorts({"Rotterdam", "Hamburg"});
         person_.Press({"F9", "ctrl+s"});
-        await("select count(*) from port_calls", 2);
-        await("select count(*) > 2 from book_rows", 1);
+        Await("select count(*) from port_calls", 2);
+        Await("select count(*) > 2 from book_rows", 1);
     }
 
     Display display_;
@@ -46,7 +46,7 @@ TEST_F(VoyageLife, AVoyageMadeByHandIsThereAfterARestart) {
         sitting.MakeVoyage();
         sitting.OpenEmptyPortCalls();
         const std::string empty = person_.Look(sitting.portCalls);
-        planAndSave(sitting);
+        PlanAndSave(sitting);
         person_.Press({"ctrl+w"});
         person_.AwaitGone("Port calls");
         sitting.OpenPortCalls(kPortCallsButton);
@@ -88,7 +88,7 @@ TEST_F(VoyageLife, LeavingWithUnsavedPortCallsAsksFirstAndCanBeTakenBack) {
     person_.LookForChange(sitting.portCalls, asked);
     person_.Click(sitting.portCalls, 300, 12);
     person_.Press({"ctrl+s"});
-    await("select count(*) from port_calls", 2);
+    Await("select count(*) from port_calls", 2);
     const Ended ended = sitting.Leave();
     EXPECT_EQ(ended.exitCode, 0) << ended.err;
 }

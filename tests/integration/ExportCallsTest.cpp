@@ -19,13 +19,13 @@ constexpr const char* kPanelNames[] = {"TRV_S_VOY_ADDVSL", "TRV_MAP_WND_SHOW", "
                                        "TRV_E_LOGOUT"};
 
 template <std::size_t N>
-bool anyBound(const char* const (&names)[N]) {
+bool AnyBound(const char* const (&names)[N]) {
     return std::any_of(names, names + N,
                        [](const char* n) { return Core::TrvKernel::Instance()->IsBound(n); });
 }
 
 template <std::size_t N>
-bool allBound(const char* const (&names)[N]) {
+bool AllBound(const char* const (&names)[N]) {
     return std::all_of(names, names + N,
                        [](const char* n) { return Core::TrvKernel::Instance()->IsBound(n); });
 }
@@ -37,7 +37,7 @@ TEST(ExportCallsTest, RecordStandsBeforeLoadAndStaysInItsPlace) {
         const bool whole = before->name == "Seaplan" && before->version == "2.0.1.0" && before->flag == 0 &&
                            before->dependencyText == "TRV,1.1.4|PlgSeamap,1.1" &&
                            before->dependencies.Entries().size() == 2;
-        return same && whole && !anyBound(kOwnNames) && plugin.load() && plugin.info() == before;
+        return same && whole && !AnyBound(kOwnNames) && plugin.load() && plugin.info() == before;
     }));
 }
 
@@ -46,7 +46,7 @@ TEST(ExportCallsTest, NothingIsOnTheBusBeforeLoad) {
         plugin.init();
         plugin.suiteLoaded();
         const bool accepted = plugin.checkEnvironment() && plugin.unload();
-        return accepted && !anyBound(kOwnNames) && !anyBound(kPanelNames);
+        return accepted && !AnyBound(kOwnNames) && !AnyBound(kPanelNames);
     }));
 }
 
@@ -62,7 +62,7 @@ TEST(ExportCallsTest, OrderOfTheStartCallsDoesNotMatter) {
                                                 return call == 1 ? plugin.checkEnvironment() : plugin.load();
                                             };
                                             return std::all_of(order.begin(), order.end(), accepts) &&
-                                                   allBound(kOwnNames);
+                                                   AllBound(kOwnNames);
                                         }))
             << order[0] << order[1] << order[2];
     } while (std::next_permutation(order.begin(), order.end()));
@@ -70,21 +70,21 @@ TEST(ExportCallsTest, OrderOfTheStartCallsDoesNotMatter) {
 
 TEST(ExportCallsTest, LoadWithoutAWindowSystemAcceptsAndMakesNoPanel) {
     EXPECT_TRUE(HoldsForFreshPlugin(SEAPLAN_LIBRARY, [](const LoadedPlugin& plugin) {
-        return plugin.load() && allBound(kOwnNames) && !anyBound(kPanelNames);
+        return plugin.load() && AllBound(kOwnNames) && !AnyBound(kPanelNames);
     }));
 }
 
 TEST(ExportCallsTest, LoadAcceptsThoughTheMainViewBreaksDown) {
     EXPECT_TRUE(HoldsForFreshPlugin(SEAPLAN_FAILING_LIBRARY, [](const LoadedPlugin& plugin) {
         const Interface::PlanRequest request;
-        return plugin.load() && !anyBound(kPanelNames) &&
+        return plugin.load() && !AnyBound(kPanelNames) &&
                Interface::Call(Interface::Bus::PlanVoyage, &request) != nullptr;
     }));
 }
 
 TEST(ExportCallsTest, UnLoadTakesNothingBack) {
     EXPECT_TRUE(HoldsForFreshPlugin(SEAPLAN_LIBRARY, [](const LoadedPlugin& plugin) {
-        return plugin.load() && plugin.unload() && plugin.unload() && allBound(kOwnNames);
+        return plugin.load() && plugin.unload() && plugin.unload() && AllBound(kOwnNames);
     }));
 }
 

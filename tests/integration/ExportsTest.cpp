@@ -11,7 +11,7 @@ namespace Tarvik::Integration {
 
 namespace {
 
-std::string outputOf(const std::string& command) {
+std::string OutputOf(const std::string& command) {
     const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
     std::string output;
     char chunk[512];
@@ -23,7 +23,7 @@ std::string outputOf(const std::string& command) {
 
 TEST(ExportsTest, LibraryDefinesTheSixPlainNamesAndNothingElse) {
     std::istringstream lines(
-        outputOf(std::string(SEAPLAN_NM) + " -D --defined-only \"" + SEAPLAN_LIBRARY + "\""));
+        OutputOf(std::string(SEAPLAN_NM) + " -D --defined-only \"" + SEAPLAN_LIBRARY + "\""));
     std::set<std::string> names;
     std::string address;
     std::string kind;

@@ -16,7 +16,7 @@ namespace Tarvik::Integration {
 namespace {
 
 /// A file of another place is another library to the loader, with static objects of its own.
-[[noreturn]] void runOn(const fs::path& copy, const std::function<bool(const LoadedPlugin&)>& check) {
+[[noreturn]] void RunOn(const fs::path& copy, const std::function<bool(const LoadedPlugin&)>& check) {
     Core::TrvKernel::Instance()->SetObserver({});
     Core::TrvKernel::Instance()->Reset();
     const bool holds = check(LoadedPlugin(copy.string()));
@@ -32,7 +32,7 @@ bool HoldsForFreshPlugin(const std::string& file, const std::function<bool(const
     fs::copy_file(file, copy);
     const pid_t child = fork();
     if (child == 0) {
-        runOn(copy, check);
+        RunOn(copy, check);
     }
     int status = 0;
     return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;

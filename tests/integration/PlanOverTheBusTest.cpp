@@ -17,7 +17,7 @@ constexpr const char* kRoute =
 
 /// A request as bytes: length of the payload with its NUL in four, command in two and module word 5 in two
 /// bytes, the lowest first.
-std::string envelope(unsigned command, const std::string& text) {
+std::string Envelope(unsigned command, const std::string& text) {
     const std::size_t length = text.size() + 1;
     std::string bytes;
     for (int shift = 0; shift < 32; shift += 8) {
@@ -37,7 +37,7 @@ class PlanOverTheBusTest : public TinyHost {
         request.start = Util::_datetime_t(0, 0, 8, 1, 3, 2024);
         request.ports = {{"A", "", 10.0F, 0.0F, 6.0F}, {"B", "", 10.0F, 0.0F, 0.0F}};
     }
-    const PlanResult* plan() {
+    const PlanResult* Plan() {
         const PlanRequest* input = &request;
         return Interface::Call(Interface::Bus::PlanVoyage, input);
     }
@@ -56,18 +56,18 @@ TEST_F(PlanOverTheBusTest, PlannedAndSavedVoyageSendsExactlyTheseBytes) {
     request.save = true;
     request.category = "Cat";
     request.voyage = "V";
-    const PlanResult* result = plan();
+    const PlanResult* result = Plan();
     ASSERT_NE(result, nullptr);
     ASSERT_EQ(result->code, 0) << result->step;
     const Texts expected{
-        envelope(3, R"({ui:"1000001"})"),
-        envelope(1, R"({"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"40001#40002"})"),
-        envelope(4, R"({ci:"",cn:"Cat",type:0})"),
-        envelope(5, R"({ci:"11",vi:"",vn:"V",type:"0",vsi:"",vr:"0",va:"0"})"),
-        envelope(11, R"(["22","0|40001|A|L|0.000|0.000|6.0","1|40002|B|D|18.520|0.000|0.0"])"),
-        envelope(7, R"({vi:"22"})"),
-        envelope(8, R"({vi:"22",dt:"2024-03-01 00:00:00"})"),
-        envelope(9, R"(["5","0","0|A|0.000|0.000|GC|5|0.000|5","1||0.500|0.000|GC|5|18.520|0",)"
+        Envelope(3, R"({ui:"1000001"})"),
+        Envelope(1, R"({"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"40001#40002"})"),
+        Envelope(4, R"({ci:"",cn:"Cat",type:0})"),
+        Envelope(5, R"({ci:"11",vi:"",vn:"V",type:"0",vsi:"",vr:"0",va:"0"})"),
+        Envelope(11, R"(["22","0|40001|A|L|0.000|0.000|6.0","1|40002|B|D|18.520|0.000|0.0"])"),
+        Envelope(7, R"({vi:"22"})"),
+        Envelope(8, R"({vi:"22",dt:"2024-03-01 00:00:00"})"),
+        Envelope(9, R"(["5","0","0|A|0.000|0.000|GC|5|0.000|5","1||0.500|0.000|GC|5|18.520|0",)"
                     R"("2|B|1.000|0.000|GC|5|18.520|5"])"),
     };
     ASSERT_EQ(host.requests.size(), expected.size());
@@ -81,7 +81,7 @@ TEST_F(PlanOverTheBusTest, PlannedAndSavedVoyageSendsExactlyTheseBytes) {
 TEST_F(PlanOverTheBusTest, FailureComesBackAsCodeAndWords) {
     request.ports[1].name = "Atlantis";
     host.Reply(3, "[]");
-    const PlanResult* result = plan();
+    const PlanResult* result = Plan();
     ASSERT_NE(result, nullptr);
     EXPECT_EQ(result->code, Interface::PlanUnknownPort);
     EXPECT_EQ(result->step, "unknown port: Atlantis");
@@ -89,7 +89,7 @@ TEST_F(PlanOverTheBusTest, FailureComesBackAsCodeAndWords) {
 
 TEST_F(PlanOverTheBusTest, HostThatIsNotConnectedIsAskedToLogIn) {
     host.connected = false;
-    EXPECT_EQ(plan()->code, Interface::PlanNotConnected);
+    EXPECT_EQ(Plan()->code, Interface::PlanNotConnected);
     EXPECT_EQ(host.logins, 1);
     EXPECT_TRUE(host.requests.empty());
 }

@@ -10,7 +10,7 @@ namespace Tarvik::Integration {
 namespace {
 
 template <class Function>
-void find(void* library, const char* name, Function& function) {
+void Find(void* library, const char* name, Function& function) {
     function = reinterpret_cast<Function>(dlsym(library, name));
 }
 
@@ -21,12 +21,12 @@ LoadedPlugin::LoadedPlugin(const std::string& file) : library_(dlopen(file.c_str
         std::cerr << dlerror() << '\n';
         std::abort();
     }
-    find(library_, "Load", load);
-    find(library_, "UnLoad", unload);
-    find(library_, "PluginInfo", info);
-    find(library_, "InitPlugin", init);
-    find(library_, "SuiteLoaded", suiteLoaded);
-    find(library_, "CheckEnvironment", checkEnvironment);
+    Find(library_, "Load", load);
+    Find(library_, "UnLoad", unload);
+    Find(library_, "PluginInfo", info);
+    Find(library_, "InitPlugin", init);
+    Find(library_, "SuiteLoaded", suiteLoaded);
+    Find(library_, "CheckEnvironment", checkEnvironment);
 }
 
 void LoadedPlugin::Close() const {

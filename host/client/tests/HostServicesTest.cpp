@@ -52,7 +52,7 @@ class HostServicesTest : public testing::Test {
   protected:
     ~HostServicesTest() override { Util::Clock::SetLocalZone(""); }
 
-    VoyServerRequest* exchange(const std::string& text) {
+    VoyServerRequest* Exchange(const std::string& text) {
         std::vector<char> block(sizeof(VoyServerRequest) + text.size());
         auto* request = reinterpret_cast<VoyServerRequest*>(block.data());
         *request = {static_cast<std::uint32_t>(text.size()), 3, 5};
@@ -90,7 +90,7 @@ TEST_F(HostServicesTest, LoginConnectsAndComplainsWhenItCannot) {
 
 TEST_F(HostServicesTest, TheReplyIsABusBlockWithHeadAndClosedText) {
     const long before = Core::LiveBusBlocks();
-    VoyServerRequest* reply = exchange("{a:1}");
+    VoyServerRequest* reply = Exchange("{a:1}");
     ASSERT_NE(reply, nullptr);
     EXPECT_EQ(Core::LiveBusBlocks(), before + 1);
     EXPECT_STREQ(reply->Payload(), "{\"eid\":0}");
@@ -105,7 +105,7 @@ TEST_F(HostServicesTest, TheReplyIsABusBlockWithHeadAndClosedText) {
 
 TEST_F(HostServicesTest, NoReplyNullRequestAndATooLongOneAnswerNull) {
     link_.reply.clear();
-    EXPECT_EQ(exchange("{}"), nullptr);
+    EXPECT_EQ(Exchange("{}"), nullptr);
     EXPECT_EQ(Call<const VoyServerRequest>(Bus::ServerExchange, nullptr), nullptr);
     const VoyServerRequest tooLong{Interface::kMaxPayloadBytes + 1, 3, 5};
     link_.reply = "{}";
@@ -115,25 +115,25 @@ TEST_F(HostServicesTest, NoReplyNullRequestAndATooLongOneAnswerNull) {
 TEST_F(HostServicesTest, TheUserIsTheOneWhoLoggedInWhereTheServerWantsThat) {
     link_.wantsLogin = true;
     EXPECT_EQ(*Call(Bus::User), "office user");
-    Core::FreeBusBlock(exchange("{}"));
+    Core::FreeBusBlock(Exchange("{}"));
     EXPECT_EQ(link_.lastUser, "office user");
     link_.connected = false;
     EXPECT_EQ(Call(Bus::User), nullptr);
 }
 
 TEST_F(HostServicesTest, KeepsAndTellsTheServersWordsUntilTheNextExchange) {
-    Core::FreeBusBlock(exchange("{}"));
+    Core::FreeBusBlock(Exchange("{}"));
     EXPECT_EQ(services_.LastFailure(), "");
     link_.reply = R"({"eid":7,"emsg":"the disk is full"})";
-    Core::FreeBusBlock(exchange("{}"));
+    Core::FreeBusBlock(Exchange("{}"));
     EXPECT_EQ(services_.LastFailure(), "the disk is full");
     link_.reply = "";
     link_.failure = "no answer";
-    EXPECT_EQ(exchange("{}"), nullptr);
+    EXPECT_EQ(Exchange("{}"), nullptr);
     EXPECT_EQ(services_.LastFailure(), "no answer");
     link_.reply = "[]";
     link_.failure = "";
-    Core::FreeBusBlock(exchange("{}"));
+    Core::FreeBusBlock(Exchange("{}"));
     EXPECT_EQ(services_.LastFailure(), "");
     EXPECT_THAT(complaints_, testing::ElementsAre("the disk is full", "no answer"));
 }
@@ -141,10 +141,10 @@ TEST_F(HostServicesTest, KeepsAndTellsTheServersWordsUntilTheNextExchange) {
 TEST_F(HostServicesTest, TellsWhenTheConnectionIsLostAndMade) {
     int changes = 0;
     services_.OnConnectionChange([&] { ++changes; });
-    Core::FreeBusBlock(exchange("{}"));
+    Core::FreeBusBlock(Exchange("{}"));
     EXPECT_EQ(changes, 0);
     link_.connected = false;
-    Core::FreeBusBlock(exchange("{}"));
+    Core::FreeBusBlock(Exchange("{}"));
     EXPECT_EQ(changes, 1);
     Call(Bus::Login);
     EXPECT_EQ(changes, 2);
@@ -183,7 +183,7 @@ TEST_F(HostServicesTest, AnotherServerMeansALogoutAndIsAskedFromThenOn) {
     ScriptedLink other;
     services_.SetLink(other);
     EXPECT_EQ(listener.count, 1);
-    Core::FreeBusBlock(exchange("{b:2}"));
+    Core::FreeBusBlock(Exchange("{b:2}"));
     EXPECT_EQ(other.lastText, "{b:2}");
     EXPECT_EQ(link_.lastText, "");
 }

@@ -18,7 +18,7 @@ class LoginLinkTest : public testing::Test {
     LoginLinkTest() { server_.AddUser("anna", "correct horse"); }
 
     /// Gives the scripted answers one after the other and notes what it was told.
-    AskCredentials asker() {
+    AskCredentials Asker() {
         return [this](const std::string&, const std::string& user,
                       const std::string& failure) -> std::optional<Credentials> {
             offered_.push_back(user);
@@ -41,7 +41,7 @@ class LoginLinkTest : public testing::Test {
 
 TEST_F(LoginLinkTest, AsksAgainUntilTheServerAgrees) {
     answers_ = {{"anna", "guessed"}, {"anna", "correct horse"}};
-    LoginLink link(server_.Url(), "bert", "", asker());
+    LoginLink link(server_.Url(), "bert", "", Asker());
     EXPECT_EQ(link.User("local"), "");
     ASSERT_TRUE(link.Connect(error_)) << error_;
     EXPECT_THAT(offered_, ElementsAre("bert", "anna"));
@@ -51,7 +51,7 @@ TEST_F(LoginLinkTest, AsksAgainUntilTheServerAgrees) {
 }
 
 TEST_F(LoginLinkTest, EndsWhenNobodyLogsIn) {
-    LoginLink link(server_.Url(), "", "", asker());
+    LoginLink link(server_.Url(), "", "", Asker());
     EXPECT_FALSE(link.Connect(error_));
     EXPECT_THAT(error_, HasSubstr("Nobody is logged in at the voyage server " + server_.Url()));
     EXPECT_FALSE(link.IsConnected());
@@ -60,7 +60,7 @@ TEST_F(LoginLinkTest, EndsWhenNobodyLogsIn) {
 
 TEST_F(LoginLinkTest, TellsWhyTheLastTryFailedWhenGivenUp) {
     answers_ = {{"anna", "guessed"}};
-    LoginLink link(server_.Url(), "", "", asker());
+    LoginLink link(server_.Url(), "", "", Asker());
     EXPECT_FALSE(link.Connect(error_));
     EXPECT_THAT(error_, HasSubstr("refuses"));
 }
@@ -68,7 +68,7 @@ TEST_F(LoginLinkTest, TellsWhyTheLastTryFailedWhenGivenUp) {
 TEST_F(LoginLinkTest, AfterALogoutAnotherCanLogIn) {
     server_.AddUser("bert", "correct horse");
     answers_ = {{"anna", "correct horse"}, {"bert", "correct horse"}};
-    LoginLink link(server_.Url(), "", "", asker());
+    LoginLink link(server_.Url(), "", "", Asker());
     ASSERT_TRUE(link.Connect(error_)) << error_;
     link.LogOut();
     EXPECT_FALSE(link.IsConnected());
@@ -81,7 +81,7 @@ TEST_F(LoginLinkTest, AfterALogoutAnotherCanLogIn) {
 
 TEST_F(LoginLinkTest, LogsOutWithItsEnd) {
     answers_ = {{"anna", "correct horse"}};
-    auto link = std::make_unique<LoginLink>(server_.Url(), "", "", asker());
+    auto link = std::make_unique<LoginLink>(server_.Url(), "", "", Asker());
     ASSERT_TRUE(link->Connect(error_)) << error_;
     link.reset();
     EXPECT_THAT(server_.Ask("GET", "/metrics").body,

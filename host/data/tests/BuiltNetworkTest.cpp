@@ -28,7 +28,7 @@ class BuiltNetworkTest : public ::testing::Test {
     }
     static void TearDownTestSuite() { network_.reset(); }
     static const Server::NetworkData& data() { return network_->data(); }
-    static std::string idOf(const std::string& unlocode) {
+    static std::string IdOf(const std::string& unlocode) {
         for (const Server::NetworkPort& port : data().ports) {
             if (port.unlocode == unlocode) {
                 return port.id;
@@ -37,13 +37,13 @@ class BuiltNetworkTest : public ::testing::Test {
         ADD_FAILURE() << "no port " << unlocode;
         return {};
     }
-    static Server::PlannedStop legBetween(const std::string& from, const std::string& to) {
+    static Server::PlannedStop LegBetween(const std::string& from, const std::string& to) {
         const RouteResult result =
-            Server::RouteEngine(network_).Plan({{idOf(from), {}, {}}, {idOf(to), {}, {}}});
+            Server::RouteEngine(network_).Plan({{IdOf(from), {}, {}}, {IdOf(to), {}, {}}});
         EXPECT_EQ(result.error, kRouteOk) << from << " " << to << ": " << result.message;
         return result.error == kRouteOk ? result.stops[1] : Server::PlannedStop{};
     }
-    static std::string pointNamed(const std::string& name) {
+    static std::string PointNamed(const std::string& name) {
         for (const Server::RoutePoint& point : data().routePoints) {
             if (point.name == name) {
                 return point.id;
@@ -64,31 +64,31 @@ TEST_F(BuiltNetworkTest, DistancesAgreeWithPublishedOnes) {
                      {"ZACPT", "SNDKR", 3593}, {"ECGYE", "AUSYD", 7268}, {"SGSIN", "RUVVO", 3004},
                      {"HKHKG", "FJSUV", 4541}};
     for (const auto& [from, to, nm] : published) {
-        EXPECT_NEAR(legBetween(from, to).distanceKm / Server::kKmPerNm, nm, 0.04 * nm) << from << " " << to;
+        EXPECT_NEAR(LegBetween(from, to).distanceKm / Server::kKmPerNm, nm, 0.04 * nm) << from << " " << to;
     }
 }
 
 TEST_F(BuiltNetworkTest, RotterdamToSingaporeLeadsThroughSuezAndOffersTheCape) {
-    const Server::PlannedStop leg = legBetween("NLRTM", "SGSIN");
+    const Server::PlannedStop leg = LegBetween("NLRTM", "SGSIN");
     EXPECT_NEAR(leg.distanceKm / Server::kKmPerNm, 8290, 0.04 * 8290);
-    const std::string suez = pointNamed("Suez Canal");
+    const std::string suez = PointNamed("Suez Canal");
     EXPECT_THAT(leg.passedIds, Contains(suez));
-    EXPECT_THAT(leg.passedIds, Contains(pointNamed("Strait of Gibraltar")));
+    EXPECT_THAT(leg.passedIds, Contains(PointNamed("Strait of Gibraltar")));
     for (const auto& group : leg.groups) {
         if (group.rpId != suez) {
             continue;
         }
-        EXPECT_THAT(group.alternatives, Contains(pointNamed("Cape of Good Hope")));
+        EXPECT_THAT(group.alternatives, Contains(PointNamed("Cape of Good Hope")));
     }
     const RouteResult cape = Server::RouteEngine(network_).Plan(
-        {{idOf("NLRTM"), {}, {}},
-         {idOf("SGSIN"), {}, {{pointNamed("Cape of Good Hope"), idOf("NLRTM") + "," + idOf("SGSIN")}}}});
+        {{IdOf("NLRTM"), {}, {}},
+         {IdOf("SGSIN"), {}, {{PointNamed("Cape of Good Hope"), IdOf("NLRTM") + "," + IdOf("SGSIN")}}}});
     ASSERT_EQ(cape.error, kRouteOk) << cape.message;
     EXPECT_NEAR(cape.stops[1].distanceKm / Server::kKmPerNm, 11750, 0.04 * 11750);
 }
 
 TEST_F(BuiltNetworkTest, ShanghaiToLosAngelesCrossesTheDateLine) {
-    const Server::PlannedStop leg = legBetween("CNSHA", "USLAX");
+    const Server::PlannedStop leg = LegBetween("CNSHA", "USLAX");
     EXPECT_LT(leg.distanceKm / Server::kKmPerNm, 6100);
     std::size_t crossings = 0;
     for (const auto& piece : leg.legs) {
@@ -107,7 +107,7 @@ TEST_F(BuiltNetworkTest, ShanghaiToLosAngelesCrossesTheDateLine) {
 
 TEST_F(BuiltNetworkTest, EveryPortIsReachedFromRotterdam) {
     const Server::RouteEngine engine(network_);
-    const std::string rotterdam = idOf("NLRTM");
+    const std::string rotterdam = IdOf("NLRTM");
     ASSERT_GT(data().ports.size(), 1400u);
     for (const Server::NetworkPort& port : data().ports) {
         const RouteResult result = engine.Plan({{rotterdam, {}, {}}, {port.id, {}, {}}});
@@ -116,7 +116,7 @@ TEST_F(BuiltNetworkTest, EveryPortIsReachedFromRotterdam) {
 }
 
 /// Checks one leg: it is in one piece, and wherever it meets the coast it is on a hand-made way.
-void checkLeg(const Server::PlannedStop& stop, const LineCells& coast, const LineCells& byHand,
+void CheckLeg(const Server::PlannedStop& stop, const LineCells& coast, const LineCells& byHand,
               const std::string& name) {
     GeoPoint before = stop.legs.front().points.front();
     for (const auto& leg : stop.legs) {
@@ -124,9 +124,9 @@ void checkLeg(const Server::PlannedStop& stop, const LineCells& coast, const Lin
         for (const GeoPoint here : leg.points) {
             const bool overDateLine = std::abs(here.x - before.x) >= 180.0;
             const std::vector<GeoPoint> meetings =
-                overDateLine ? std::vector<GeoPoint>{} : coast.meetings(before, here);
+                overDateLine ? std::vector<GeoPoint>{} : coast.Meetings(before, here);
             for (const GeoPoint at : meetings) {
-                EXPECT_TRUE(byHand.passesNear(at, 0.2 / 60.0))
+                EXPECT_TRUE(byHand.PassesNear(at, 0.2 / 60.0))
                     << name << " meets land at " << at.x << " " << at.y;
             }
             before = here;
@@ -135,9 +135,9 @@ void checkLeg(const Server::PlannedStop& stop, const LineCells& coast, const Lin
 }
 
 TEST_F(BuiltNetworkTest, TwoHundredRandomRoutesNeverCrossLand) {
-    const LineCells coast = coastOf(data());
-    const LineCells byHand = handMadeWays(data());
-    ASSERT_FALSE(coast.meetings({-10, 40}, {-3, 40}).empty()) << "a line into Spain must meet its coast";
+    const LineCells coast = CoastOf(data());
+    const LineCells byHand = HandMadeWays(data());
+    ASSERT_FALSE(coast.Meetings({-10, 40}, {-3, 40}).empty()) << "a line into Spain must meet its coast";
     const Server::RouteEngine engine(network_);
     std::uint32_t seed = 20240229;
     const auto next = [&seed] { return (seed = seed * 1664525U + 1013904223U) >> 8; };
@@ -147,7 +147,7 @@ TEST_F(BuiltNetworkTest, TwoHundredRandomRoutesNeverCrossLand) {
         const auto& to = ports[next() % ports.size()];
         const RouteResult result = engine.Plan({{from.id, {}, {}}, {to.id, {}, {}}});
         ASSERT_EQ(result.error, kRouteOk) << result.message;
-        checkLeg(result.stops[1], coast, byHand, from.name + " - " + to.name);
+        CheckLeg(result.stops[1], coast, byHand, from.name + " - " + to.name);
     }
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 using Row = std::vector<std::string>;
 
-std::vector<Row> query(const char* sql) {
+std::vector<Row> Query(const char* sql) {
     std::vector<Row> rows;
     sqlite3* database = nullptr;
     EXPECT_EQ(sqlite3_open_v2(SHARE_FOLDER "/trvdb.db", &database, SQLITE_OPEN_READONLY, nullptr), SQLITE_OK);
@@ -39,7 +39,7 @@ TEST(BuiltPortTable, HoldsTheGreatPortsUnderTheirUsualNames) {
         {"ZACPT", "Cape Town"}, {"USHOU", "Houston"},   {"AEDXB", "Dubai"},    {"AEJEA", "Jebel Ali"},
         {"INBOM", "Mumbai"},    {"HKHKG", "Hong Kong"}, {"CNNGB", "Ningbo"}};
     std::map<std::string, std::string> names;
-    for (const Row& row : query("select unlocode,name from t_point where isport='1'")) {
+    for (const Row& row : Query("select unlocode,name from t_point where isport='1'")) {
         names[row[0]] = row[1];
     }
     for (const auto& [code, name] : expected) {
@@ -48,7 +48,7 @@ TEST(BuiltPortTable, HoldsTheGreatPortsUnderTheirUsualNames) {
 }
 
 TEST(BuiltPortTable, PortIdsHaveFiveDigitsFromFortyThousandAndRoutePointIdsLieBelow) {
-    for (const Row& row : query("select id,isport from t_point")) {
+    for (const Row& row : Query("select id,isport from t_point")) {
         const int id = std::atoi(row[0].c_str());
         EXPECT_EQ(std::to_string(id), row[0]);
         EXPECT_EQ(id >= 40000 && id <= 99999, row[1] == "1") << row[0];
@@ -58,7 +58,7 @@ TEST(BuiltPortTable, PortIdsHaveFiveDigitsFromFortyThousandAndRoutePointIdsLieBe
 
 TEST(BuiltPortTable, HoldsTheGreatCanalsAndStraits) {
     std::set<std::string> names;
-    for (const Row& row : query("select name from t_point where isport='0'")) {
+    for (const Row& row : Query("select name from t_point where isport='0'")) {
         names.insert(row[0]);
     }
     EXPECT_GE(names.size(), 60u);
@@ -73,7 +73,7 @@ TEST(BuiltPortTable, HoldsTheGreatCanalsAndStraits) {
 TEST(BuiltPortTable, NamesAreUniqueAndNothingIsEmpty) {
     std::set<std::string> names;
     std::set<std::string> ids;
-    for (const Row& row : query("select id,name,namecn,x,y from t_point")) {
+    for (const Row& row : Query("select id,name,namecn,x,y from t_point")) {
         EXPECT_TRUE(ids.insert(row[0]).second) << row[0];
         EXPECT_TRUE(names.insert(row[1]).second) << row[1];
         for (const std::string& field : row) {
@@ -85,11 +85,11 @@ TEST(BuiltPortTable, NamesAreUniqueAndNothingIsEmpty) {
 }
 
 TEST(BuiltPortTable, ASecondEntryOfAPortRefersToAnExistingOne) {
-    const auto pairs = query("select id,origid from t_point where isport='1' and origid!='0'");
+    const auto pairs = Query("select id,origid from t_point where isport='1' and origid!='0'");
     EXPECT_GE(pairs.size(), 1u);
     for (const Row& row : pairs) {
         EXPECT_NE(row[0], row[1]);
-        const auto original = query(("select origid from t_point where id='" + row[1] + "'").c_str());
+        const auto original = Query(("select origid from t_point where id='" + row[1] + "'").c_str());
         ASSERT_EQ(original.size(), 1u) << row[1];
         EXPECT_EQ(original[0][0], "0");
     }
@@ -97,7 +97,7 @@ TEST(BuiltPortTable, ASecondEntryOfAPortRefersToAnExistingOne) {
 
 TEST(BuiltPortTable, ChineseNamesStandBesideTheGreatPorts) {
     const auto rows =
-        query("select namecn from t_point where name in ('Shanghai','Rotterdam','Suez Canal') order by id");
+        Query("select namecn from t_point where name in ('Shanghai','Rotterdam','Suez Canal') order by id");
     ASSERT_EQ(rows.size(), 3u);
     for (const Row& row : rows) {
         EXPECT_GT(static_cast<unsigned char>(row[0][0]), 0x7FU) << row[0];

@@ -12,12 +12,12 @@ int CellOf(double degrees) {
     return static_cast<int>(std::floor(degrees));
 }
 
-double cross(GeoPoint a, GeoPoint b, GeoPoint p) {
+double Cross(GeoPoint a, GeoPoint b, GeoPoint p) {
     return (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
 }
 
 /// Distance of a place from a piece, in degrees of latitude.
-double distance(GeoPoint p, GeoPoint a, GeoPoint b) {
+double Distance(GeoPoint p, GeoPoint a, GeoPoint b) {
     const double shrink = std::cos(p.y * M_PI / 180.0);
     const double ux = (b.x - a.x) * shrink;
     const double uy = b.y - a.y;
@@ -30,7 +30,7 @@ double distance(GeoPoint p, GeoPoint a, GeoPoint b) {
 
 }  // namespace
 
-void LineCells::add(GeoPoint a, GeoPoint b) {
+void LineCells::Add(GeoPoint a, GeoPoint b) {
     for (int x = CellOf(std::min(a.x, b.x)); x <= CellOf(std::max(a.x, b.x)); ++x) {
         for (int y = CellOf(std::min(a.y, b.y)); y <= CellOf(std::max(a.y, b.y)); ++y) {
             cells_[{x, y}].emplace_back(a, b);
@@ -38,7 +38,7 @@ void LineCells::add(GeoPoint a, GeoPoint b) {
     }
 }
 
-std::vector<GeoPoint> LineCells::meetings(GeoPoint a, GeoPoint b) const {
+std::vector<GeoPoint> LineCells::Meetings(GeoPoint a, GeoPoint b) const {
     std::vector<GeoPoint> found;
     for (int x = CellOf(std::min(a.x, b.x)); x <= CellOf(std::max(a.x, b.x)); ++x) {
         for (int y = CellOf(std::min(a.y, b.y)); y <= CellOf(std::max(a.y, b.y)); ++y) {
@@ -47,9 +47,9 @@ std::vector<GeoPoint> LineCells::meetings(GeoPoint a, GeoPoint b) const {
                 continue;
             }
             for (const auto& [c, d] : cell->second) {
-                const double sideC = cross(a, b, c);
-                const double sideD = cross(a, b, d);
-                if (sideC * sideD > 0 || cross(c, d, a) * cross(c, d, b) > 0 || sideC == sideD) {
+                const double sideC = Cross(a, b, c);
+                const double sideD = Cross(a, b, d);
+                if (sideC * sideD > 0 || Cross(c, d, a) * Cross(c, d, b) > 0 || sideC == sideD) {
                     continue;
                 }
                 const double t = sideC / (sideC - sideD);
@@ -60,7 +60,7 @@ std::vector<GeoPoint> LineCells::meetings(GeoPoint a, GeoPoint b) const {
     return found;
 }
 
-bool LineCells::passesNear(GeoPoint p, double degrees) const {
+bool LineCells::PassesNear(GeoPoint p, double degrees) const {
     for (int x = CellOf(p.x) - 1; x <= CellOf(p.x) + 1; ++x) {
         for (int y = CellOf(p.y) - 1; y <= CellOf(p.y) + 1; ++y) {
             const auto cell = cells_.find({x, y});
@@ -68,7 +68,7 @@ bool LineCells::passesNear(GeoPoint p, double degrees) const {
                 continue;
             }
             for (const auto& [a, b] : cell->second) {
-                if (distance(p, a, b) <= degrees) {
+                if (Distance(p, a, b) <= degrees) {
                     return true;
                 }
             }
@@ -77,27 +77,27 @@ bool LineCells::passesNear(GeoPoint p, double degrees) const {
     return false;
 }
 
-LineCells coastOf(const Server::NetworkData& data) {
+LineCells CoastOf(const Server::NetworkData& data) {
     LineCells coast;
     for (const auto& ring : data.land) {
         for (std::size_t i = 0; i < ring.size(); ++i) {
             const GeoPoint a = ring[i];
             const GeoPoint b = ring[(i + 1) % ring.size()];
             if (std::abs(a.x - b.x) < 180.0) {
-                coast.add(a, b);
+                coast.Add(a, b);
             }
         }
     }
     return coast;
 }
 
-LineCells handMadeWays(const Server::NetworkData& data) {
+LineCells HandMadeWays(const Server::NetworkData& data) {
     LineCells ways;
     for (const Server::NetworkEdge& e : data.edges) {
         const GeoPoint a = data.nodes[e.a];
         const GeoPoint b = data.nodes[e.b];
         if (e.kind != Server::EdgeKind::Sea && std::abs(a.x - b.x) < 180.0) {
-            ways.add(a, b);
+            ways.Add(a, b);
         }
     }
     return ways;

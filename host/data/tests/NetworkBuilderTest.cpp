@@ -23,7 +23,7 @@ class NetworkBuilderTest : public ::testing::Test {
                           {"40002", "BBBBB", "East", "", {4.95, 1}},
                           {"40003", "CCCCC", "Inland", "", {2, 2.5}}};
     }
-    RouteResult plan(const std::vector<Server::RouteChoice>& choices) {
+    RouteResult Plan(const std::vector<Server::RouteChoice>& choices) {
         const auto network =
             std::make_shared<const Server::SeaNetwork>(NetworkBuilder(sources_, land_).Build());
         return Server::RouteEngine(network).Plan({{"40001", {}, {}}, {"40002", {}, choices}});
@@ -33,7 +33,7 @@ class NetworkBuilderTest : public ::testing::Test {
 };
 
 TEST_F(NetworkBuilderTest, LeadsRoundTheIslandCloseToItsCapes) {
-    const RouteResult result = plan({});
+    const RouteResult result = Plan({});
     ASSERT_EQ(result.error, Server::kRouteOk) << result.message;
     EXPECT_THAT(result.stops[1].passedIds, ElementsAre("40001", "101", "40002"));
     const double round = 2 * 240 + 600;
@@ -41,7 +41,7 @@ TEST_F(NetworkBuilderTest, LeadsRoundTheIslandCloseToItsCapes) {
 }
 
 TEST_F(NetworkBuilderTest, AHandMadeWayLeadsThroughLand) {
-    const RouteResult result = plan({{"102", "40001,40002"}});
+    const RouteResult result = Plan({{"102", "40001,40002"}});
     ASSERT_EQ(result.error, Server::kRouteOk) << result.message;
     EXPECT_THAT(result.stops[1].passedIds, ElementsAre("40001", "102", "40002"));
     EXPECT_LT(result.stops[1].distanceKm / Server::kKmPerNm, 800);

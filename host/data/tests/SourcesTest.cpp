@@ -19,14 +19,14 @@ class SourcesTest : public ::testing::Test {
     SourcesTest() {
         std::string pattern = (std::filesystem::temp_directory_path() / "sources-XXXXXX").string();
         folder_ = mkdtemp(pattern.data());
-        write("route_points.csv",
+        Write("route_points.csv",
               "id,name,namecn,lon,lat,kind,shut,gate,groups\n"
               "101,Canal,运河,1,2,canal,1,0 2;2 2,One;Two\n");
-        write("passages.csv", "name,points\nCanal,0.5 1;@Canal;1.5 3\n");
-        write("port_corrections.csv",
+        Write("passages.csv", "name,points\nCanal,0.5 1;@Canal;1.5 3\n");
+        Write("port_corrections.csv",
               "unlocode,name,lon,lat,reason\nAABBB,Better,5,6,was wrong\nZZZZZ,New,7,8,missing\n");
-        write("port_names_cn.csv", "unlocode,namecn\nAABBB,好\n");
-        write("ports.json",
+        Write("port_names_cn.csv", "unlocode,namecn\nAABBB,好\n");
+        Write("ports.json",
               R"json({"AABBB":{"name":"Bad (ex Worse)","country":"Aa","coordinates":[1,2]},
                   "AACCC":{"name":"Twin","country":"Aa","coordinates":[3,4]},
                   "AADDD":{"name":"Twin","country":"Aa","coordinates":[3.01,4]},
@@ -35,13 +35,13 @@ class SourcesTest : public ::testing::Test {
                   "BBGGG":{"name":"Old (ex Older)","country":"Bb","coordinates":[31,4]}})json");
     }
     ~SourcesTest() override { std::filesystem::remove_all(folder_); }
-    void write(const std::string& name, const std::string& text) const {
+    void Write(const std::string& name, const std::string& text) const {
         std::ofstream(folder_ / name) << text;
     }
-    std::optional<Sources> read() {
+    std::optional<Sources> Read() {
         return ReadSources(folder_.string(), (folder_ / "ports.json").string(), error_);
     }
-    const PortSource& port(const Sources& sources, const std::string& code) const {
+    const PortSource& Port(const Sources& sources, const std::string& code) const {
         for (const PortSource& p : sources.ports) {
             if (p.unlocode == code) {
                 return p;
@@ -55,7 +55,7 @@ class SourcesTest : public ::testing::Test {
 };
 
 TEST_F(SourcesTest, ReadsRoutePointsAndPassages) {
-    const auto sources = read();
+    const auto sources = Read();
     ASSERT_TRUE(sources) << error_;
     ASSERT_EQ(sources->routePoints.size(), 1u);
     const RoutePointSource& canal = sources->routePoints[0];
@@ -68,66 +68,66 @@ TEST_F(SourcesTest, ReadsRoutePointsAndPassages) {
 }
 
 TEST_F(SourcesTest, CorrectionsChangeAndAddPortsAndIdsStayInOrderOfCodes) {
-    const auto sources = read();
+    const auto sources = Read();
     ASSERT_TRUE(sources) << error_;
-    EXPECT_EQ(port(*sources, "AABBB").name, "Better");
-    EXPECT_EQ(port(*sources, "AABBB").at, (GeoPoint{5, 6}));
-    EXPECT_EQ(port(*sources, "AABBB").namecn, "好");
-    EXPECT_EQ(port(*sources, "AABBB").id, "40001");
-    EXPECT_EQ(port(*sources, "BBGGG").id, "40006") << "a port without a place keeps its number free";
-    EXPECT_EQ(port(*sources, "ZZZZZ").id, "40007");
+    EXPECT_EQ(Port(*sources, "AABBB").name, "Better");
+    EXPECT_EQ(Port(*sources, "AABBB").at, (GeoPoint{5, 6}));
+    EXPECT_EQ(Port(*sources, "AABBB").namecn, "好");
+    EXPECT_EQ(Port(*sources, "AABBB").id, "40001");
+    EXPECT_EQ(Port(*sources, "BBGGG").id, "40006") << "a port without a place keeps its number free";
+    EXPECT_EQ(Port(*sources, "ZZZZZ").id, "40007");
     EXPECT_EQ(sources->ports.size(), 6u);
 }
 
 TEST_F(SourcesTest, NamesStandForOnePort) {
-    const auto sources = read();
+    const auto sources = Read();
     ASSERT_TRUE(sources) << error_;
-    EXPECT_EQ(port(*sources, "AACCC").name, "Twin, Aa");
-    EXPECT_EQ(port(*sources, "AADDD").name, "Twin, Aa (AADDD)");
-    EXPECT_EQ(port(*sources, "BBEEE").name, "Twin, Bb");
-    EXPECT_EQ(port(*sources, "BBGGG").name, "Old");
-    EXPECT_EQ(port(*sources, "BBGGG").namecn, "Old") << "without a Chinese name the English one stands in";
+    EXPECT_EQ(Port(*sources, "AACCC").name, "Twin, Aa");
+    EXPECT_EQ(Port(*sources, "AADDD").name, "Twin, Aa (AADDD)");
+    EXPECT_EQ(Port(*sources, "BBEEE").name, "Twin, Bb");
+    EXPECT_EQ(Port(*sources, "BBGGG").name, "Old");
+    EXPECT_EQ(Port(*sources, "BBGGG").namecn, "Old") << "without a Chinese name the English one stands in";
 }
 
 TEST_F(SourcesTest, AnEntryOfTheSamePortRefersToTheFirst) {
-    const auto sources = read();
+    const auto sources = Read();
     ASSERT_TRUE(sources) << error_;
-    EXPECT_EQ(port(*sources, "AACCC").origid, "0");
-    EXPECT_EQ(port(*sources, "AADDD").origid, port(*sources, "AACCC").id);
-    EXPECT_EQ(port(*sources, "BBEEE").origid, "0");
+    EXPECT_EQ(Port(*sources, "AACCC").origid, "0");
+    EXPECT_EQ(Port(*sources, "AADDD").origid, Port(*sources, "AACCC").id);
+    EXPECT_EQ(Port(*sources, "BBEEE").origid, "0");
 }
 
 TEST_F(SourcesTest, ANameGivenByHandIsKeptWhole) {
-    write("port_corrections.csv",
+    Write("port_corrections.csv",
           "unlocode,name,lon,lat,reason\nBBEEE,Twin,,,the name stands for this port\n");
-    const auto sources = read();
+    const auto sources = Read();
     ASSERT_TRUE(sources) << error_;
-    EXPECT_EQ(port(*sources, "BBEEE").name, "Twin");
-    EXPECT_EQ(port(*sources, "AACCC").name, "Twin, Aa");
+    EXPECT_EQ(Port(*sources, "BBEEE").name, "Twin");
+    EXPECT_EQ(Port(*sources, "AACCC").name, "Twin, Aa");
 }
 
 TEST_F(SourcesTest, SaysWhichFileIsWrongAndWhy) {
-    write("passages.csv", "name,points\nCanal,0.5 1;@Nothing\n");
-    EXPECT_FALSE(read());
+    Write("passages.csv", "name,points\nCanal,0.5 1;@Nothing\n");
+    EXPECT_FALSE(Read());
     EXPECT_EQ(error_, "passages.csv: there is no route point Nothing");
-    write("route_points.csv",
+    Write("route_points.csv",
           "id,name,namecn,lon,lat,kind,shut,gate,groups\n101,Canal,,1,x,canal,0,0 2;2 2,\n");
-    EXPECT_FALSE(read());
+    EXPECT_FALSE(Read());
     EXPECT_EQ(error_, "route_points.csv: \"x\" is no number");
     std::filesystem::remove(folder_ / "route_points.csv");
-    EXPECT_FALSE(read());
+    EXPECT_FALSE(Read());
     EXPECT_THAT(error_, StartsWith("route_points.csv: cannot open "));
 }
 
 TEST_F(SourcesTest, RefusesPortsThatCannotBeUsed) {
-    write("port_corrections.csv", "unlocode,name,lon,lat,reason\nZZZZZ,New,,,missing\n");
-    EXPECT_FALSE(read());
+    Write("port_corrections.csv", "unlocode,name,lon,lat,reason\nZZZZZ,New,,,missing\n");
+    EXPECT_FALSE(Read());
     EXPECT_EQ(error_, "ports: ZZZZZ lacks a name or a position");
-    write("port_corrections.csv", "unlocode,name,lon,lat,reason\nAACCC,X,,,a\nAADDD,X,,,b\n");
-    EXPECT_FALSE(read());
+    Write("port_corrections.csv", "unlocode,name,lon,lat,reason\nAACCC,X,,,a\nAADDD,X,,,b\n");
+    EXPECT_FALSE(Read());
     EXPECT_EQ(error_, "ports: two ports are named X");
-    write("ports.json", "{");
-    EXPECT_FALSE(read());
+    Write("ports.json", "{");
+    EXPECT_FALSE(Read());
     EXPECT_THAT(error_, HasSubstr("ports: "));
 }
 

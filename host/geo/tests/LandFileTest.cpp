@@ -10,7 +10,7 @@ namespace Tarvik::Data {
 
 namespace {
 
-LandFile sample() {
+LandFile Sample() {
     LandFile land;
     for (std::size_t level = 0; level < LandFile::kLevels; ++level) {
         const float size = static_cast<float>(level) + 1.0F;
@@ -23,16 +23,16 @@ LandFile sample() {
     return land;
 }
 
-std::string errorOf(const std::string& bytes) {
+std::string ErrorOf(const std::string& bytes) {
     std::string error;
     return LandFile::Decode(bytes, error) ? "none" : error;
 }
 
 TEST(LandFile, ReadsWhatItWroteAndMeasuresEveryCell) {
     std::string error;
-    const auto land = LandFile::Decode(sample().Encode(), error);
+    const auto land = LandFile::Decode(Sample().Encode(), error);
     ASSERT_TRUE(land) << error;
-    EXPECT_EQ(land->Encode(), sample().Encode());
+    EXPECT_EQ(land->Encode(), Sample().Encode());
     const LandFile::Cell& cell = land->levels[2][0];
     EXPECT_EQ(cell.minX, 0);
     EXPECT_EQ(cell.minY, -3);
@@ -41,42 +41,42 @@ TEST(LandFile, ReadsWhatItWroteAndMeasuresEveryCell) {
 }
 
 TEST(LandFile, RefusesAFileCutAnywhere) {
-    const std::string bytes = sample().Encode();
+    const std::string bytes = Sample().Encode();
     for (std::size_t length = 0; length < bytes.size(); ++length) {
-        EXPECT_EQ(errorOf(bytes.substr(0, length)),
+        EXPECT_EQ(ErrorOf(bytes.substr(0, length)),
                   length < 16 ? "this is not a land file" : "the land file is cut or has grown")
             << length;
     }
-    EXPECT_EQ(errorOf(bytes + "x"), "the land file is cut or has grown");
+    EXPECT_EQ(ErrorOf(bytes + "x"), "the land file is cut or has grown");
 }
 
 TEST(LandFile, RefusesListsThatDoNotFitTheLength) {
-    std::string bytes = sample().Encode();
+    std::string bytes = Sample().Encode();
     for (std::size_t length = 16; length < bytes.size(); ++length) {
         std::string cut = bytes.substr(0, length);
         const std::size_t payload = length - 16;
         for (std::size_t i = 0; i < 8; ++i) {
             cut[8 + i] = static_cast<char>((payload >> (8 * i)) & 0xFF);
         }
-        EXPECT_EQ(errorOf(cut), "the land file is damaged") << length;
+        EXPECT_EQ(ErrorOf(cut), "the land file is damaged") << length;
     }
     bytes[19] = '\x7F';  // a count of two thousand million cells
-    EXPECT_EQ(errorOf(bytes), "the land file is damaged");
+    EXPECT_EQ(ErrorOf(bytes), "the land file is damaged");
 }
 
 TEST(LandFile, RefusesAForeignFileAndImpossiblePlaces) {
-    std::string bytes = sample().Encode();
+    std::string bytes = Sample().Encode();
     bytes[0] = 'l';
-    EXPECT_EQ(errorOf(bytes), "this is not a land file");
-    LandFile land = sample();
+    EXPECT_EQ(ErrorOf(bytes), "this is not a land file");
+    LandFile land = Sample();
     land.levels[0][0].points[1].first = 181.0F;
-    EXPECT_EQ(errorOf(land.Encode()), "the land file is damaged");
-    land = sample();
+    EXPECT_EQ(ErrorOf(land.Encode()), "the land file is damaged");
+    land = Sample();
     land.coasts[1][0].points.assign(LandFile::kMaxPoints + 1, {0.0F, 0.0F});
-    EXPECT_EQ(errorOf(land.Encode()), "the land file is damaged");
-    land = sample();
+    EXPECT_EQ(ErrorOf(land.Encode()), "the land file is damaged");
+    land = Sample();
     land.coasts[1][0].points.clear();
-    EXPECT_EQ(errorOf(land.Encode()), "the land file is damaged");
+    EXPECT_EQ(ErrorOf(land.Encode()), "the land file is damaged");
 }
 
 TEST(LandFile, AMissingOrCutFileIsNamedWithWhatToDo) {
@@ -86,12 +86,12 @@ TEST(LandFile, AMissingOrCutFileIsNamedWithWhatToDo) {
     std::string error;
     EXPECT_FALSE(LandFile::Load(path, error));
     EXPECT_EQ(error, "cannot open the land file " + path + ". Build or install the client again.");
-    ASSERT_EQ(sample().Save(path), "");
+    ASSERT_EQ(Sample().Save(path), "");
     EXPECT_TRUE(LandFile::Load(path, error));
     std::filesystem::resize_file(path, 40);
     EXPECT_FALSE(LandFile::Load(path, error));
     EXPECT_EQ(error, "the land file is cut or has grown: " + path + ". Build or install the client again.");
-    EXPECT_EQ(sample().Save(path + "/x"), "cannot write " + path + "/x");
+    EXPECT_EQ(Sample().Save(path + "/x"), "cannot write " + path + "/x");
     std::filesystem::remove_all(folder);
 }
 

@@ -28,7 +28,7 @@ class PortNames : public Interface::ValueDictionary {
     }
 };
 
-RouteStops route() {
+RouteStops Route() {
     RouteStops stops(3);
     stops[0].point_cd = "40389";
     stops[1].point_cd = "40208";
@@ -45,8 +45,8 @@ PointMap RoutePoints() {
 TEST(BookFromStops, NamesPortsAndRoutePoints) {
     const PortNames names;
     BookPoints rows;
-    ASSERT_EQ(BookFromStops(route(), RoutePoints(), rows), 0);
-    EXPECT_EQ(positions(rows), "0,0|1,0|2,0|3,0|4,0|5.50,0");
+    ASSERT_EQ(BookFromStops(Route(), RoutePoints(), rows), 0);
+    EXPECT_EQ(Positions(rows), "0,0|1,0|2,0|3,0|4,0|5.50,0");
     EXPECT_EQ(rows[0].pointId, "40389");
     EXPECT_EQ(rows[0].psn, "port 40389");
     EXPECT_EQ(rows[0].psp, 0);
@@ -73,28 +73,28 @@ TEST(BookFromStops, NeedsTwoStops) {
 TEST(BookFromStops, FailureLeavesNoRows) {
     const PortNames names;
     for (const auto* pointset : {"", "0,0", "0,0|"}) {
-        auto stops = route();
+        auto stops = Route();
         stops[2].routes[1].pointset = pointset;
         BookPoints rows;
         EXPECT_EQ(BookFromStops(stops, RoutePoints(), rows), -4) << pointset;
         EXPECT_TRUE(rows.empty());
     }
     BookPoints rows;
-    EXPECT_EQ(BookFromStops(route(), {}, rows), -5);
-    EXPECT_EQ(BookFromStops(route(), {{"131", {}}}, rows), -6);
+    EXPECT_EQ(BookFromStops(Route(), {}, rows), -5);
+    EXPECT_EQ(BookFromStops(Route(), {{"131", {}}}, rows), -6);
     EXPECT_TRUE(rows.empty());
 }
 
 TEST(LegDistance, IsGreatCircleOrRhumbLineInNauticalMiles) {
-    float GreatCircle = 0;
+    float greatCircle = 0;
     float rhumbLine = 0;
-    ASSERT_EQ(LegDistance("140.5,35", "-125,48.25", "GC", GreatCircle), 0);
+    ASSERT_EQ(LegDistance("140.5,35", "-125,48.25", "GC", greatCircle), 0);
     ASSERT_EQ(LegDistance("140.5,35", "-125,48.25", "RL", rhumbLine), 0);
-    EXPECT_FLOAT_EQ(GreatCircle, static_cast<float>(
+    EXPECT_FLOAT_EQ(greatCircle, static_cast<float>(
                                      Util::CircleLineUtl::CalculateDistance(140.5, 35, -125, 48.25) / 1.852));
     EXPECT_FLOAT_EQ(rhumbLine,
                     static_cast<float>(Util::CircleLineUtl::CalRhumbDist(140.5, 35, -125, 48.25) / 1.852));
-    EXPECT_LT(GreatCircle, rhumbLine);
+    EXPECT_LT(greatCircle, rhumbLine);
 }
 
 TEST(LegDistance, RefusesATextWithoutCommaBehindItsFirstCharacter) {
@@ -107,83 +107,83 @@ TEST(LegDistance, RefusesATextWithoutCommaBehindItsFirstCharacter) {
 }
 
 /// Three ports on the equator with a waypoint before the last.
-BookPoints equatorBook() {
-    return {port("0,0", 0), port("1,0"), point("2,0"), port("3,0", 20)};
+BookPoints EquatorBook() {
+    return {Port("0,0", 0), Port("1,0"), Point("2,0"), Port("3,0", 20)};
 }
 
-double hoursOf(double degrees, double speed, double weather) {
+double HoursOf(double degrees, double speed, double weather) {
     return Util::CircleLineUtl::CalRhumbDist(0, 0, degrees, 0) / 1.852 / ((1 - weather) * speed);
 }
 
-double since(const Util::_datetime_t& start, const Util::_datetime_t& time) {
+double Since(const Util::_datetime_t& start, const Util::_datetime_t& time) {
     return static_cast<double>(time.total_csecs() - start.total_csecs()) / 360000;
 }
 
 TEST(ComputeBookTimes, StaysAndWeatherComeFromThePortAhead) {
-    const PortCallRows ports{call("A", 0, 10, 0.9F, 2), call("B", 0, 10, 0.5F, 3),
-                             call("C", 0, 10, 0.25F, 4)};
-    auto rows = equatorBook();
-    const auto start = at(1, 0);
+    const PortCallRows ports{Call("A", 0, 10, 0.9F, 2), Call("B", 0, 10, 0.5F, 3),
+                             Call("C", 0, 10, 0.25F, 4)};
+    auto rows = EquatorBook();
+    const auto start = At(1, 0);
     ASSERT_EQ(ComputeBookTimes(start, ports, rows), 0);
     EXPECT_EQ(rows[0].eta, start);
-    EXPECT_EQ(rows[0].etd, at(1, 2));
-    double expected = 2 + hoursOf(1, 10, 0.5);
-    EXPECT_NEAR(since(start, rows[1].eta), expected, 1e-4);
+    EXPECT_EQ(rows[0].etd, At(1, 2));
+    double expected = 2 + HoursOf(1, 10, 0.5);
+    EXPECT_NEAR(Since(start, rows[1].eta), expected, 1e-4);
     expected += 3;
-    EXPECT_NEAR(since(start, rows[1].etd), expected, 1e-4);
-    expected += hoursOf(1, 10, 0.25);
-    EXPECT_NEAR(since(start, rows[2].eta), expected, 1e-4);
+    EXPECT_NEAR(Since(start, rows[1].etd), expected, 1e-4);
+    expected += HoursOf(1, 10, 0.25);
+    EXPECT_NEAR(Since(start, rows[2].eta), expected, 1e-4);
     EXPECT_EQ(rows[2].eta, rows[2].etd);
-    expected += hoursOf(1, 20, 0.25);
-    EXPECT_NEAR(since(start, rows[3].eta), expected, 1e-4);
-    EXPECT_NEAR(since(start, rows[3].etd), expected + 4, 1e-4);
+    expected += HoursOf(1, 20, 0.25);
+    EXPECT_NEAR(Since(start, rows[3].eta), expected, 1e-4);
+    EXPECT_NEAR(Since(start, rows[3].etd), expected + 4, 1e-4);
 }
 
 TEST(ComputeBookTimes, OnePortLeavesNoStayBehindIt) {
-    auto rows = equatorBook();
-    ASSERT_EQ(ComputeBookTimes(at(1, 0), {call("A", 0, 10, 0.9F, 2)}, rows), 0);
+    auto rows = EquatorBook();
+    ASSERT_EQ(ComputeBookTimes(At(1, 0), {Call("A", 0, 10, 0.9F, 2)}, rows), 0);
     EXPECT_EQ(rows[1].eta, rows[1].etd);
-    EXPECT_NEAR(since(rows[0].etd, rows[1].eta), hoursOf(1, 10, 0), 1e-4);
+    EXPECT_NEAR(Since(rows[0].etd, rows[1].eta), HoursOf(1, 10, 0), 1e-4);
 }
 
 TEST(ComputeBookTimes, BehindTheLastPortItsStayAndWeatherGoOn) {
-    const PortCallRows ports{call("A", 0, 10, 0, 2), call("B", 0, 10, 0.5F, 3)};
-    auto rows = equatorBook();
-    ASSERT_EQ(ComputeBookTimes(at(1, 0), ports, rows), 0);
-    EXPECT_NEAR(since(rows[1].etd, rows[2].eta), hoursOf(1, 10, 0.5), 1e-4);
-    EXPECT_NEAR(since(rows[3].eta, rows[3].etd), 3, 1e-4) << "a port row that no port call stands for";
+    const PortCallRows ports{Call("A", 0, 10, 0, 2), Call("B", 0, 10, 0.5F, 3)};
+    auto rows = EquatorBook();
+    ASSERT_EQ(ComputeBookTimes(At(1, 0), ports, rows), 0);
+    EXPECT_NEAR(Since(rows[1].etd, rows[2].eta), HoursOf(1, 10, 0.5), 1e-4);
+    EXPECT_NEAR(Since(rows[3].eta, rows[3].etd), 3, 1e-4) << "a port row that no port call stands for";
 }
 
 TEST(ComputeBookTimes, TellsWhichStepFailed) {
     const float infinity = std::numeric_limits<float>::infinity();
-    const PortCallRows ports{call("A", 0), call("B", 0)};
+    const PortCallRows ports{Call("A", 0), Call("B", 0)};
     BookPoints none;
-    EXPECT_EQ(ComputeBookTimes(at(1, 0), ports, none), -1);
-    auto rows = equatorBook();
-    EXPECT_EQ(ComputeBookTimes(at(1, 0), {}, rows), -1);
-    EXPECT_EQ(ComputeBookTimes(at(1, 0), {call("A", 0, 10, 0, infinity)}, rows), -2);
+    EXPECT_EQ(ComputeBookTimes(At(1, 0), ports, none), -1);
+    auto rows = EquatorBook();
+    EXPECT_EQ(ComputeBookTimes(At(1, 0), {}, rows), -1);
+    EXPECT_EQ(ComputeBookTimes(At(1, 0), {Call("A", 0, 10, 0, infinity)}, rows), -2);
     rows[2].position = "nowhere";
-    EXPECT_EQ(ComputeBookTimes(at(1, 0), ports, rows), -3);
-    rows = equatorBook();
+    EXPECT_EQ(ComputeBookTimes(At(1, 0), ports, rows), -3);
+    rows = EquatorBook();
     rows[1].psp = 0.00001F;
-    EXPECT_EQ(ComputeBookTimes(at(1, 0), ports, rows), -4);
-    rows = equatorBook();
-    EXPECT_EQ(ComputeBookTimes(at(1, 0), {call("A", 0), call("B", 0, 10, 1)}, rows), -5);
-    EXPECT_EQ(ComputeBookTimes(at(1, 0), {call("A", 0), call("B", 0, 10, 0, infinity)}, rows), -6);
-    EXPECT_EQ(positions(rows), positions(equatorBook()));
+    EXPECT_EQ(ComputeBookTimes(At(1, 0), ports, rows), -4);
+    rows = EquatorBook();
+    EXPECT_EQ(ComputeBookTimes(At(1, 0), {Call("A", 0), Call("B", 0, 10, 1)}, rows), -5);
+    EXPECT_EQ(ComputeBookTimes(At(1, 0), {Call("A", 0), Call("B", 0, 10, 0, infinity)}, rows), -6);
+    EXPECT_EQ(Positions(rows), Positions(EquatorBook()));
 }
 
 TEST(GroupBookByPort, EndsAGroupBehindEachPort) {
     std::map<int, BookPoints> groups;
-    auto rows = equatorBook();
-    rows.push_back(point("9,0"));
+    auto rows = EquatorBook();
+    rows.push_back(Point("9,0"));
     ASSERT_EQ(GroupBookByPort(rows, groups), 0);
     ASSERT_EQ(groups.size(), 4);
-    EXPECT_EQ(positions(groups[0]), "0,0");
-    EXPECT_EQ(positions(groups[1]), "1,0");
-    EXPECT_EQ(positions(groups[2]), "2,0|3,0");
-    EXPECT_EQ(positions(groups[3]), "9,0");
-    EXPECT_EQ(GroupBookByPort({port("0,0")}, groups), -1);
+    EXPECT_EQ(Positions(groups[0]), "0,0");
+    EXPECT_EQ(Positions(groups[1]), "1,0");
+    EXPECT_EQ(Positions(groups[2]), "2,0|3,0");
+    EXPECT_EQ(Positions(groups[3]), "9,0");
+    EXPECT_EQ(GroupBookByPort({Port("0,0")}, groups), -1);
     EXPECT_TRUE(groups.empty());
 }
 

@@ -18,10 +18,10 @@ using namespace Testing;
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
 TEST(AddHours, LongSpanIsAsExactAsOneAddition) {
-    auto time = at(1, 0);
+    auto time = At(1, 0);
     ASSERT_EQ(AddHours(1200.5F, time), 0);
-    EXPECT_EQ(text(time), "2026-04-20 00:30:00");
-    auto steps = at(1, 0);
+    EXPECT_EQ(Text(time), "2026-04-20 00:30:00");
+    auto steps = At(1, 0);
     for (const float step : {500.0F, 500.0F, 200.5F}) {
         ASSERT_EQ(AddHours(step, steps), 0);
     }
@@ -29,20 +29,20 @@ TEST(AddHours, LongSpanIsAsExactAsOneAddition) {
 }
 
 TEST(AddHours, NothingAndTheLongestChunkAreExact) {
-    auto time = at(1, 0);
+    auto time = At(1, 0);
     ASSERT_EQ(AddHours(0, time), 0);
-    EXPECT_EQ(time, at(1, 0));
+    EXPECT_EQ(time, At(1, 0));
     ASSERT_EQ(AddHours(500, time), 0);
-    EXPECT_EQ(text(time), "2026-03-21 20:00:00");
+    EXPECT_EQ(Text(time), "2026-03-21 20:00:00");
     ASSERT_EQ(AddHours(-500, time), 0);
-    EXPECT_EQ(time, at(1, 0));
+    EXPECT_EQ(time, At(1, 0));
 }
 
 TEST(AddHours, EndsWithTheCalendar) {
     auto time = Util::_datetime_t(0, 0, 23, 31, 12, 9999);
     ASSERT_EQ(AddHours(0.5F, time), 0);
     EXPECT_EQ(AddHours(1, time), -1);
-    EXPECT_EQ(text(time), "9999-12-31 23:30:00");
+    EXPECT_EQ(Text(time), "9999-12-31 23:30:00");
     time = Util::_datetime_t(0, 0, 1, 1, 1, 1);
     ASSERT_EQ(AddHours(-1, time), 0);
     EXPECT_EQ(AddHours(-1, time), -1);
@@ -50,13 +50,13 @@ TEST(AddHours, EndsWithTheCalendar) {
 }
 
 TEST(AddHours, NegativeSpanGoesBack) {
-    auto time = at(1, 0);
+    auto time = At(1, 0);
     ASSERT_EQ(AddHours(-2160, time), 0);
-    EXPECT_EQ(text(time), "2025-12-01 00:00:00");
+    EXPECT_EQ(Text(time), "2025-12-01 00:00:00");
 }
 
 TEST(AddHours, CentisecondsAreTruncatedTowardZero) {
-    const auto start = at(1, 0);
+    const auto start = At(1, 0);
     auto time = start;
     ASSERT_EQ(AddHours(1.9F / 360000, time), 0);
     EXPECT_EQ(time.total_csecs() - start.total_csecs(), 1);
@@ -67,9 +67,9 @@ TEST(AddHours, CentisecondsAreTruncatedTowardZero) {
 
 TEST(AddHours, RefusesWhatIsNoTime) {
     for (const float hours : {kInfinity, -kInfinity, std::nanf(""), 3e38F, -3e38F, 9e7F}) {
-        auto time = at(1, 0);
+        auto time = At(1, 0);
         EXPECT_EQ(AddHours(hours, time), -1) << hours;
-        EXPECT_EQ(time, at(1, 0));
+        EXPECT_EQ(time, At(1, 0));
     }
 }
 
@@ -80,10 +80,10 @@ TEST(AddHours, ForwardAndBackMeetAgain) {
     std::uniform_real_distribution<float> hours(-20000, 20000);
     for (int i = 0; i < 2000; ++i) {
         const float step = hours(random);
-        auto time = at(1, 0);
+        auto time = At(1, 0);
         ASSERT_EQ(AddHours(step, time), 0);
         // Brute force: the same span in the steps that a 32-bit span allows.
-        auto expected = at(1, 0);
+        auto expected = At(1, 0);
         double rest = std::fabs(static_cast<double>(step));
         while (rest > 0) {
             const double chunk = std::min(rest, 500.0);
@@ -93,7 +93,7 @@ TEST(AddHours, ForwardAndBackMeetAgain) {
         }
         ASSERT_EQ(time, expected) << step;
         ASSERT_EQ(AddHours(-step, time), 0);
-        ASSERT_EQ(time, at(1, 0)) << step;
+        ASSERT_EQ(time, At(1, 0)) << step;
     }
 }
 
@@ -135,11 +135,11 @@ TEST(HoursBetween, ThereAndBackDifferOnlyInSign) {
         const auto b = Util::_datetime_t::from_gmt_timer(seconds(random));
         float there = 0;
         float back = 0;
-        ASSERT_EQ(HoursBetween(text(a), text(b), there), 0);
-        ASSERT_EQ(HoursBetween(text(b), text(a), back), 0);
-        ASSERT_EQ(there, -back) << text(a) << " " << text(b);
+        ASSERT_EQ(HoursBetween(Text(a), Text(b), there), 0);
+        ASSERT_EQ(HoursBetween(Text(b), Text(a), back), 0);
+        ASSERT_EQ(there, -back) << Text(a) << " " << Text(b);
         const double exact = static_cast<double>(a.to_gmt_timer() - b.to_gmt_timer()) / 3600;
-        ASSERT_NEAR(there, exact, std::fabs(exact) * 1e-7) << text(a) << " " << text(b);
+        ASSERT_NEAR(there, exact, std::fabs(exact) * 1e-7) << Text(a) << " " << Text(b);
     }
 }
 

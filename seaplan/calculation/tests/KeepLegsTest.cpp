@@ -15,7 +15,7 @@ using namespace Testing;
 PortCallRows PortsOf(const std::string& letters) {
     PortCallRows rows;
     for (const char letter : letters) {
-        rows.push_back(call(std::string(1, letter), 0));
+        rows.push_back(Call(std::string(1, letter), 0));
     }
     return rows;
 }
@@ -27,43 +27,43 @@ BookPoints BookOf(const std::string& letters, const std::string& prefix) {
         const std::string number = std::to_string(i);
         if (i > 0) {
             std::string waypoint = prefix;
-            rows.push_back(point(waypoint.append("w").append(number)));
+            rows.push_back(Point(waypoint.append("w").append(number)));
         }
         std::string name = prefix;
-        rows.push_back(port(name.append(1, letters[i]).append(number)));
+        rows.push_back(Port(name.append(1, letters[i]).append(number)));
     }
     return rows;
 }
 
-std::string joined(const std::string& old, const std::string& fresh) {
+std::string Joined(const std::string& old, const std::string& fresh) {
     BookPoints out;
     EXPECT_EQ(JoinKeepingLegs(PortsOf(old), BookOf(old, "s"), PortsOf(fresh), BookOf(fresh, "n"), out), 0);
-    return positions(out);
+    return Positions(out);
 }
 
 TEST(JoinKeepingLegs, KnownLegComesWithItsEndPortsRow) {
-    EXPECT_EQ(joined("AB", "AB"), "nA0|sw1|sB1") << "the first row is the new route's";
+    EXPECT_EQ(Joined("AB", "AB"), "nA0|sw1|sB1") << "the first row is the new route's";
 }
 
 TEST(JoinKeepingLegs, UnknownLegIsTheNewRoutes) {
-    EXPECT_EQ(joined("AB", "ABC"), "nA0|sw1|sB1|nw2|nC2");
-    EXPECT_EQ(joined("AB", "BA"), "nB0|nw1|nA1") << "direction matters";
+    EXPECT_EQ(Joined("AB", "ABC"), "nA0|sw1|sB1|nw2|nC2");
+    EXPECT_EQ(Joined("AB", "BA"), "nB0|nw1|nA1") << "direction matters";
 }
 
 TEST(JoinKeepingLegs, LegsOfOneKeyAreTakenInTurnAndTheLastAgain) {
-    EXPECT_EQ(joined("ABAB", "ABABAB"), "nA0|sw1|sB1|sw2|sA2|sw3|sB3|sw2|sA2|sw3|sB3");
+    EXPECT_EQ(Joined("ABAB", "ABABAB"), "nA0|sw1|sB1|sw2|sA2|sw3|sB3|sw2|sA2|sw3|sB3");
 }
 
 TEST(JoinKeepingLegs, NamesWithAHyphenMayShareAKey) {
-    PortCallRows old{call("A-B", 0), call("C", 0)};
-    PortCallRows fresh{call("A", 0), call("B-C", 0)};
+    PortCallRows old{Call("A-B", 0), Call("C", 0)};
+    PortCallRows fresh{Call("A", 0), Call("B-C", 0)};
     BookPoints out;
     ASSERT_EQ(JoinKeepingLegs(old, BookOf("XY", "s"), fresh, BookOf("XY", "n"), out), 0);
-    EXPECT_EQ(positions(out), "nX0|sw1|sY1");
+    EXPECT_EQ(Positions(out), "nX0|sw1|sY1");
 }
 
 TEST(JoinKeepingLegs, RefusesShortOrUnmatchedSides) {
-    BookPoints out{port("kept")};
+    BookPoints out{Port("kept")};
     const auto code = [&out](const char* oldPorts, const char* stored, const char* newPorts,
                              const char* fresh) {
         return JoinKeepingLegs(PortsOf(oldPorts), BookOf(stored, "s"), PortsOf(newPorts), BookOf(fresh, "n"),
@@ -72,7 +72,7 @@ TEST(JoinKeepingLegs, RefusesShortOrUnmatchedSides) {
     EXPECT_EQ(code("A", "A", "AB", "AB"), -1);
     EXPECT_EQ(code("AB", "AB", "A", "A"), -1);
     EXPECT_EQ(code("AB", "AB", "ABC", "AB"), -1);
-    EXPECT_EQ(positions(out), "kept");
+    EXPECT_EQ(Positions(out), "kept");
 }
 
 // A save that broke off may leave the port calls of one list and the book of another, or none.
@@ -81,7 +81,7 @@ TEST(JoinKeepingLegs, StoredBookOfOtherPortsGivesNoLegs) {
         BookPoints out;
         EXPECT_EQ(JoinKeepingLegs(PortsOf("AB"), BookOf(stored, "s"), PortsOf("AB"), BookOf("AB", "n"), out),
                   0);
-        EXPECT_EQ(positions(out), "nA0|nw1|nB1") << stored;
+        EXPECT_EQ(Positions(out), "nA0|nw1|nB1") << stored;
     }
 }
 
@@ -90,18 +90,18 @@ TEST(JoinKeepingLegs, SplittingAndJoiningTheSameBookChangesNothing) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     for (int round = 0; round < 300; ++round) {
-        BookPoints rows{port("p0")};
-        PortCallRows ports{call("A", 0)};
+        BookPoints rows{Port("p0")};
+        PortCallRows ports{Call("A", 0)};
         for (int i = 1; i < 30; ++i) {
             const bool isPort = i == 29 || random() % 4 == 0;
-            rows.push_back(point("r" + std::to_string(i), isPort ? PortPoint : PlainPoint));
+            rows.push_back(Point("r" + std::to_string(i), isPort ? PortPoint : PlainPoint));
             if (isPort) {
-                ports.push_back(call(std::string(1, static_cast<char>('A' + random() % 3)), 0));
+                ports.push_back(Call(std::string(1, static_cast<char>('A' + random() % 3)), 0));
             }
         }
         BookPoints out;
         ASSERT_EQ(JoinKeepingLegs(ports, rows, ports, rows, out), 0);
-        ASSERT_EQ(positions(out), positions(rows));
+        ASSERT_EQ(Positions(out), Positions(rows));
     }
 }
 

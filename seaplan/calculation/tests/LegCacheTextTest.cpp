@@ -19,7 +19,7 @@ const std::string kSegments = "1:-:40389:-:131:-:0,0|1,0:--:2:-:131:-:40208:-:1,
 const std::string kGroups = "118:-:40389,40208:-:105::116:--:7:-:a,b:-:";
 const std::string kLine = kHead + ":---:" + kSegments + ":---:" + kGroups + ":---:131,104";
 
-std::string written(const LegCache& cache) {
+std::string Written(const LegCache& cache) {
     std::ostringstream out;
     EXPECT_EQ(WriteCache(out, cache), 0);
     return out.str();
@@ -110,7 +110,7 @@ TEST(LegCacheText, WritesWhatItRead) {
     LegCache cache;
     std::istringstream in(kLine);
     ReadCache(in, cache);
-    EXPECT_EQ(written(cache), kLine + "\n");
+    EXPECT_EQ(Written(cache), kLine + "\n");
 }
 
 TEST(LegCacheText, LegWithoutSegmentsIsWrittenButNotReadAgain) {
@@ -118,8 +118,8 @@ TEST(LegCacheText, LegWithoutSegmentsIsWrittenButNotReadAgain) {
     std::istringstream in(kHead + ":---::---:" + kGroups + ":---:x");
     ReadCache(in, cache);
     ASSERT_EQ(cache.size(), 1);
-    EXPECT_EQ(written(cache), kHead + ":---:" + kGroups + ":---:x\n");
-    std::istringstream again(written(cache));
+    EXPECT_EQ(Written(cache), kHead + ":---:" + kGroups + ":---:x\n");
+    std::istringstream again(Written(cache));
     LegCache second;
     ReadCache(again, second);
     EXPECT_TRUE(second.empty());
@@ -130,7 +130,7 @@ TEST(LegCacheText, PointsetWithASeparatorBreaksItsLine) {
     std::istringstream in(kLine);
     ReadCache(in, cache);
     cache.begin()->second.stops[1].routes[0].pointset = "0,0:-:1,0";
-    std::istringstream again(written(cache));
+    std::istringstream again(Written(cache));
     LegCache second;
     ReadCache(again, second);
     EXPECT_TRUE(second.empty());
@@ -157,19 +157,19 @@ class RandomLegs {
         RouteLegCacheEntry entry;
         entry.from = text(true);
         entry.to = text(true);
-        entry.stamp = {number(60),     number(60),     number(24),
-                       1 + number(28), 1 + number(12), 1990 + number(100)};
+        entry.stamp = {Number(60),     Number(60),     Number(24),
+                       1 + Number(28), 1 + Number(12), 1990 + Number(100)};
         entry.stops.resize(2);
         entry.stops[0].point_cd = text(false);
         auto& end = entry.stops[1];
         end.point_cd = text(false);
         end.rp_id_str = text(false);
-        for (int i = 1 + number(4); i > 0; --i) {
+        for (int i = 1 + Number(4); i > 0; --i) {
             end.routes.push_back({text(false), text(false), text(false), text(false), 0});
         }
-        for (int i = number(4); i > 0; --i) {
+        for (int i = Number(4); i > 0; --i) {
             end.rp_groups.push_back({-1, text(false), text(false), {}});
-            for (int n = number(4); n > 0; --n) {
+            for (int n = Number(4); n > 0; --n) {
                 end.rp_groups.back().alternatives.push_back(text(true));
             }
         }
@@ -177,21 +177,21 @@ class RandomLegs {
     }
 
   private:
-    int number(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
+    int Number(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
     std::string text(bool filled) {
         static const std::string kLetters = "abcXYZ0189,|= .'\xC3\xA9";
         std::string result;
-        for (int i = number(12) + (filled ? 1 : 0); i > 0; --i) {
-            result += kLetters[static_cast<std::size_t>(number(static_cast<int>(kLetters.size())))];
+        for (int i = Number(12) + (filled ? 1 : 0); i > 0; --i) {
+            result += kLetters[static_cast<std::size_t>(Number(static_cast<int>(kLetters.size())))];
         }
         return result;
     }
     std::mt19937 random_;
 };
 
-std::string shown(const RouteLegCacheEntry& entry) {
+std::string Shown(const RouteLegCacheEntry& entry) {
     LegCache one{{"k", entry}};
-    return written(one);
+    return Written(one);
 }
 
 TEST(LegCacheText, WhatIsWrittenIsReadBack) {
@@ -204,14 +204,14 @@ TEST(LegCacheText, WhatIsWrittenIsReadBack) {
             const auto entry = legs.Entry();
             cache[LegCacheKey(entry.from, entry.to)] = entry;
         }
-        std::istringstream in(written(cache));
+        std::istringstream in(Written(cache));
         LegCache back;
         ReadCache(in, back);
         ASSERT_EQ(back.size(), cache.size());
         for (const auto& [key, entry] : cache) {
             ASSERT_TRUE(back.contains(key)) << key;
             const auto& copy = back[key];
-            ASSERT_EQ(shown(copy), shown(entry));
+            ASSERT_EQ(Shown(copy), Shown(entry));
             ASSERT_EQ(copy.stops[1].routes.size(), entry.stops[1].routes.size());
             ASSERT_EQ(copy.stops[1].rp_groups.size(), entry.stops[1].rp_groups.size());
             for (std::size_t g = 0; g < entry.stops[1].rp_groups.size(); ++g) {

@@ -13,10 +13,10 @@ using namespace Testing;
 using ::testing::ElementsAre;
 
 TEST(NumberForms, RowFillsAllTenCells) {
-    auto row = call("Rotterdam", 1234.567F, 12.345F, 0.126F, 6.5F);
+    auto row = Call("Rotterdam", 1234.567F, 12.345F, 0.126F, 6.5F);
     row.steamTime = 100.004F;
-    row.eta = at(4, 5, 6);
-    row.etd = at(4, 11, 36);
+    row.eta = At(4, 5, 6);
+    row.etd = At(4, 11, 36);
     EXPECT_THAT(RowToCells(2, row), ElementsAre("3", "Rotterdam", "D", "12.35", "13%", "100.00", "6.50",
                                                 "2026-03-04 05:06:00", "2026-03-04 11:36:00", "1234.57"));
 }
@@ -36,7 +36,7 @@ TEST(NumberForms, CellsGiveTheRowBack) {
     EXPECT_EQ(row.ppi, "");
     EXPECT_EQ(row.psp, 12.35F);
     EXPECT_EQ(row.pw, 0.13F);
-    EXPECT_EQ(text(row.eta), "2026-03-04 05:06:07");
+    EXPECT_EQ(Text(row.eta), "2026-03-04 05:06:07");
     EXPECT_EQ(RowToCells(2, row), cells);
 }
 
@@ -62,8 +62,8 @@ TEST(NumberForms, BadTimeLeavesTheDefault) {
     cells[ColEtd] = "2026-03-01 00:00";
     const auto row = CellsToRow(cells);
     EXPECT_GT(row.eta.year(), 2000);
-    EXPECT_NE(text(row.eta), cells[ColEta]);
-    EXPECT_NE(text(row.etd).substr(0, 16), cells[ColEtd]);
+    EXPECT_NE(Text(row.eta), cells[ColEta]);
+    EXPECT_NE(Text(row.etd).substr(0, 16), cells[ColEtd]);
 }
 
 TEST(NumberForms, WeatherKeepsOnlyTheShownPercent) {

@@ -10,11 +10,11 @@ namespace {
 
 using Util::_datetime_t;
 
-_datetime_t at(int day, int hour, int minute = 0, int second = 0) {
+_datetime_t At(int day, int hour, int minute = 0, int second = 0) {
     return {second, minute, hour, day, 3, 2024};
 }
 
-PosBookPoint point(const std::string& position, float speed, int kind = PlainPoint) {
+PosBookPoint Point(const std::string& position, float speed, int kind = PlainPoint) {
     PosBookPoint made;
     made.position = position;
     made.psp = speed;
@@ -28,14 +28,14 @@ class PlannedProgressTest : public testing::Test {
   protected:
     PlannedProgressTest() {
         ports.resize(2);
-        ports[0].eta = at(1, 0);
-        ports[0].etd = at(1, 6);
-        ports[1].eta = at(1, 18, 1);
-        ports[1].etd = at(2, 0);
-        groups[0] = {point("0.000,0.000", 0.0F, PortPoint)};
-        groups[1] = {point("1.000,0.000", 10.0F), point("2.000,0.000", 10.0F, PortPoint)};
+        ports[0].eta = At(1, 0);
+        ports[0].etd = At(1, 6);
+        ports[1].eta = At(1, 18, 1);
+        ports[1].etd = At(2, 0);
+        groups[0] = {Point("0.000,0.000", 0.0F, PortPoint)};
+        groups[1] = {Point("1.000,0.000", 10.0F), Point("2.000,0.000", 10.0F, PortPoint)};
     }
-    int run(const _datetime_t& now) { return PlanProgress(ports, groups, now, progress); }
+    int Run(const _datetime_t& now) { return PlanProgress(ports, groups, now, progress); }
 
     TestSupport::ManualClock clock;
     PortCallRows ports;
@@ -44,21 +44,21 @@ class PlannedProgressTest : public testing::Test {
 };
 
 TEST_F(PlannedProgressTest, BeforeDepartureEverythingRemains) {
-    EXPECT_EQ(run(at(1, 5)), 0);
+    EXPECT_EQ(Run(At(1, 5)), 0);
     EXPECT_EQ(progress.current, "0.000,0.000");
     EXPECT_EQ(progress.sailed, PointTexts{"0.000,0.000"});
     EXPECT_EQ(progress.remaining, (PointTexts{"0.000,0.000", "1.000,0.000", "2.000,0.000"}));
 }
 
 TEST_F(PlannedProgressTest, ExactlyAtArrivalTheWholeLegIsSailed) {
-    EXPECT_EQ(run(at(1, 18, 1)), 0);
+    EXPECT_EQ(Run(At(1, 18, 1)), 0);
     EXPECT_EQ(progress.current, "2.000,0.000");
     EXPECT_EQ(progress.sailed, (PointTexts{"0.000,0.000", "1.000,0.000", "2.000,0.000"}));
     EXPECT_TRUE(progress.remaining.empty());
 }
 
 TEST_F(PlannedProgressTest, UnderWayTheShipStandsBetweenTheRows) {
-    EXPECT_EQ(run(at(1, 9)), 0);
+    EXPECT_EQ(Run(At(1, 9)), 0);
     // The first row is 60.107 NM and 6.0107 hours away, reached at 12:00:38. Three whole hours are left,
     // so 30.107 NM are covered.
     EXPECT_EQ(progress.current, "0.501,0.000");
@@ -67,7 +67,7 @@ TEST_F(PlannedProgressTest, UnderWayTheShipStandsBetweenTheRows) {
 }
 
 TEST_F(PlannedProgressTest, RowsPassedBelongToTheSailedPart) {
-    EXPECT_EQ(run(at(1, 15)), 0);
+    EXPECT_EQ(Run(At(1, 15)), 0);
     EXPECT_EQ(progress.sailed.size(), 3U);
     EXPECT_EQ(progress.sailed[1], "1.000,0.000");
     EXPECT_EQ(progress.remaining.size(), 2U);
@@ -75,29 +75,29 @@ TEST_F(PlannedProgressTest, RowsPassedBelongToTheSailedPart) {
 }
 
 TEST_F(PlannedProgressTest, SecondsDoNotMoveTheShip) {
-    EXPECT_EQ(run(at(1, 9, 0, 59)), 0);
+    EXPECT_EQ(Run(At(1, 9, 0, 59)), 0);
     EXPECT_EQ(progress.current, "0.501,0.000");
 }
 
 TEST_F(PlannedProgressTest, WeatherSlowsTheShip) {
     ports[1].pw = 0.5F;
-    ports[1].eta = at(2, 6);
-    EXPECT_EQ(run(at(1, 12)), 0);
+    ports[1].eta = At(2, 6);
+    EXPECT_EQ(Run(At(1, 12)), 0);
     EXPECT_EQ(progress.current, "0.500,0.000");
 }
 
 TEST_F(PlannedProgressTest, LegAcrossTheDateLineIsInterpolatedTheLongWayRound) {
-    groups[0] = {point("179.000,0.000", 0.0F, PortPoint)};
-    groups[1] = {point("-179.000,0.000", 10.0F, PortPoint)};
-    EXPECT_EQ(run(at(1, 12)), 0);
+    groups[0] = {Point("179.000,0.000", 0.0F, PortPoint)};
+    groups[1] = {Point("-179.000,0.000", 10.0F, PortPoint)};
+    EXPECT_EQ(Run(At(1, 12)), 0);
     const double x = std::stod(progress.current);
     EXPECT_GT(x, -1.0);
     EXPECT_LT(x, 1.0);
 }
 
 TEST_F(PlannedProgressTest, LegWithoutLengthHasTheShipAtItsEnd) {
-    groups[1] = {point("0.000,0.000", 10.0F, PortPoint)};
-    EXPECT_EQ(run(at(1, 9)), 0);
+    groups[1] = {Point("0.000,0.000", 10.0F, PortPoint)};
+    EXPECT_EQ(Run(At(1, 9)), 0);
     EXPECT_EQ(progress.current, "0.000,0.000");
     EXPECT_EQ(progress.sailed, (PointTexts{"0.000,0.000", "0.000,0.000"}));
     EXPECT_TRUE(progress.remaining.empty());
@@ -105,23 +105,23 @@ TEST_F(PlannedProgressTest, LegWithoutLengthHasTheShipAtItsEnd) {
 
 TEST_F(PlannedProgressTest, WeatherFactorOfOneEndsTheDrawingAndAboveIsRefused) {
     ports[1].pw = 1.0F;
-    EXPECT_EQ(run(at(1, 9)), -13);
+    EXPECT_EQ(Run(At(1, 9)), -13);
     ports[1].pw = 1.01F;
-    EXPECT_EQ(run(at(1, 9)), -7);
+    EXPECT_EQ(Run(At(1, 9)), -7);
 }
 
 TEST_F(PlannedProgressTest, EveryOtherFailureHasItsNumber) {
     groups[1][0].psp = 0.0001F;
-    EXPECT_EQ(run(at(1, 9)), -12);
+    EXPECT_EQ(Run(At(1, 9)), -12);
     groups[1][0].position = "1.0";
-    EXPECT_EQ(run(at(1, 9)), -10);
+    EXPECT_EQ(Run(At(1, 9)), -10);
     groups[0][0].position = "0";
-    EXPECT_EQ(run(at(1, 9)), -9);
+    EXPECT_EQ(Run(At(1, 9)), -9);
     groups[1][0].position = "1,0";
     groups[0][0].position = ",0";
-    EXPECT_EQ(run(at(1, 9)), -11);
+    EXPECT_EQ(Run(At(1, 9)), -11);
     groups.erase(1);
-    EXPECT_EQ(run(at(1, 9)), -6);
+    EXPECT_EQ(Run(At(1, 9)), -6);
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ PortCallRows RowsOf(const std::vector<std::string>& names, const std::string& pu
     return rows;
 }
 
-std::string namesOf(const PortCallRows& rows) {
+std::string NamesOf(const PortCallRows& rows) {
     std::string names;
     for (const VoyPortCall& row : rows) {
         names += row.ppn;
@@ -30,21 +30,21 @@ std::string namesOf(const PortCallRows& rows) {
 TEST(PortPreparationTest, NeighbouringRowsOfOnePortLoseTheSecond) {
     PortCallRows out;
     EXPECT_EQ(DropSamePortRows(RowsOf({"A", "A", "B", "A"}), {}, out), 0);
-    EXPECT_EQ(namesOf(out), "ABA");
+    EXPECT_EQ(NamesOf(out), "ABA");
 }
 
 TEST(PortPreparationTest, LinkedPortsAreOnePlace) {
     PortCallRows out;
     const SamePortLinks links{{"idB-idA", ""}, {"idA-idB", ""}};
     EXPECT_EQ(DropSamePortRows(RowsOf({"A", "B", "C"}), links, out), 0);
-    EXPECT_EQ(namesOf(out), "AC");
+    EXPECT_EQ(NamesOf(out), "AC");
 }
 
 TEST(PortPreparationTest, EveryRowIsComparedWithTheOneBeforeItAsRead) {
     PortCallRows out;
     const SamePortLinks links{{"idA-idB", ""}, {"idB-idC", ""}};
     EXPECT_EQ(DropSamePortRows(RowsOf({"A", "B", "C", "D"}), links, out), 0);
-    EXPECT_EQ(namesOf(out), "AD") << "C is one place with B, which is dropped itself";
+    EXPECT_EQ(NamesOf(out), "AD") << "C is one place with B, which is dropped itself";
 }
 
 TEST(PortPreparationTest, FewerThanTwoPlacesAreNoCalculation) {

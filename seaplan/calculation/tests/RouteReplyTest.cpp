@@ -12,14 +12,14 @@ namespace {
 
 using ::testing::ElementsAre;
 
-int parse(const std::string& text, RouteStops& stops) {
+int Parse(const std::string& text, RouteStops& stops) {
     Util::Jsona reply;
     EXPECT_TRUE(reply.parse(text)) << text;
     return ParseRouteReply(reply, stops);
 }
 
 /// A stop whose two segments pass the points 105, 104 and 116.
-std::string stopWithGroups(const std::string& groups) {
+std::string StopWithGroups(const std::string& groups) {
     return R"([{point_cd:"40389"},{point_cd:"40208",routes:[{route:"1",from_cd:"105",end_cd:"104",pointset:"0,0|1,0"},)"
            R"({route:"2",from_cd:"104",end_cd:"116",pointset:"1,0|2,0"}],rp_groups:[)" +
            groups + "]}]";
@@ -28,7 +28,7 @@ std::string stopWithGroups(const std::string& groups) {
 TEST(RouteReply, ReadsStopsSegmentsGroupsAndLocks) {
     RouteStops stops;
     ASSERT_EQ(
-        parse(
+        Parse(
             R"([{"point_cd":"40389","distance":0,"routes":[],"rp_groups":[],"rp_id_str":"","lock_rp_id_str":""},
         {"point_cd":"40208","distance":9999.5,"routes":[{"route":"7","from_cd":"40389","end_cd":"131",
         "pointset":"0,0|1,0|1,1","distance":474}],"rp_groups":["","118=40389,40208;105|116"],"rp_id_str":"131,104",
@@ -57,7 +57,7 @@ TEST(RouteReply, ReadsStopsSegmentsGroupsAndLocks) {
 
 TEST(RouteReply, StopDistanceIsTheSumOfItsSegments) {
     RouteStops stops;
-    ASSERT_EQ(parse(stopWithGroups(""), stops), 0);
+    ASSERT_EQ(Parse(StopWithGroups(""), stops), 0);
     EXPECT_FLOAT_EQ(stops[1].distance, stops[1].routes[0].distance + stops[1].routes[1].distance);
     EXPECT_NEAR(stops[1].distance, 120.2, 0.1);
 }
@@ -77,17 +77,17 @@ TEST(RouteReply, FailuresLeaveNoStops) {
           BadReply{R"([{rp_groups:["118=1,2.3,4;5"]}])", -5},
           BadReply{R"([{rp_groups:["118=1,2;3.4,5;6"]}])", -6}}) {
         RouteStops stops(3);
-        EXPECT_EQ(parse(text, stops), code) << text;
+        EXPECT_EQ(Parse(text, stops), code) << text;
         EXPECT_TRUE(stops.empty()) << text;
     }
 }
 
 TEST(RouteReply, ErrorIdOfMinusOneIsNoError) {
     RouteStops stops;
-    EXPECT_EQ(parse(R"({"eid":-1,"first":{"point_cd":"7"}})", stops), 0);
+    EXPECT_EQ(Parse(R"({"eid":-1,"first":{"point_cd":"7"}})", stops), 0);
     ASSERT_EQ(stops.size(), 1) << "an object is walked by its members";
     EXPECT_EQ(stops[0].point_cd, "7");
-    EXPECT_EQ(parse(R"({"eid":"5","first":{"point_cd":"7"}})", stops), 0) << "a text is no error number";
+    EXPECT_EQ(Parse(R"({"eid":"5","first":{"point_cd":"7"}})", stops), 0) << "a text is no error number";
 }
 
 struct VariantCase {
@@ -106,7 +106,7 @@ TEST(RouteReply, ChoosesTheVariantWithTheSmallestSpan) {
              VariantCase{R"("118=105,104;1.118=105,116;2")", "105,104"},
          }) {
         RouteStops stops;
-        ASSERT_EQ(parse(stopWithGroups(group), stops), 0) << group;
+        ASSERT_EQ(Parse(StopWithGroups(group), stops), 0) << group;
         ASSERT_EQ(stops[1].rp_groups.size(), 1) << group;
         EXPECT_EQ(stops[1].rp_groups[0].range, range) << group;
         EXPECT_EQ(stops[1].rp_groups[0].rp_id, "118") << group;
@@ -118,18 +118,18 @@ TEST(RouteReply, NoVariantIsChosenWithoutSpanOrComma) {
     for (const auto* group :
          {R"("118=7,8;1.9,10;2")", R"("118=105;1.104,116;2")", R"("118=105,7;1.8,9;2")"}) {
         RouteStops stops;
-        EXPECT_EQ(parse(stopWithGroups(group), stops), -6) << group;
+        EXPECT_EQ(Parse(StopWithGroups(group), stops), -6) << group;
     }
 }
 
 TEST(RouteReply, StopOfOneSegmentHasNoVariantToChoose) {
     RouteStops stops;
-    EXPECT_EQ(parse(R"([{point_cd:"1"},{routes:[{from_cd:"105",end_cd:"104",pointset:"0,0|1,0"}],)"
+    EXPECT_EQ(Parse(R"([{point_cd:"1"},{routes:[{from_cd:"105",end_cd:"104",pointset:"0,0|1,0"}],)"
                     R"(rp_groups:["118=105,104;1.104,105;2"]}])",
                     stops),
               -6)
         << "though both ends of the variants are on its way";
-    EXPECT_EQ(parse(R"([{point_cd:"1"},{routes:[{from_cd:"105",end_cd:"104",pointset:"0,0|1,0"}],)"
+    EXPECT_EQ(Parse(R"([{point_cd:"1"},{routes:[{from_cd:"105",end_cd:"104",pointset:"0,0|1,0"}],)"
                     R"(rp_groups:["118=105,104;1"]}])",
                     stops),
               0)
@@ -138,7 +138,7 @@ TEST(RouteReply, StopOfOneSegmentHasNoVariantToChoose) {
 
 TEST(RouteReply, VariantThatHoldsAnEqualsSignIsPrefixedAllTheSame) {
     RouteStops stops;
-    ASSERT_EQ(parse(stopWithGroups(R"("118=7,116;1.118=105,104;2")"), stops), 0);
+    ASSERT_EQ(Parse(StopWithGroups(R"("118=7,116;1.118=105,104;2")"), stops), 0);
     EXPECT_EQ(stops[1].rp_groups.at(0).range, "118=105,104") << "116 then 104 span one place";
 }
 

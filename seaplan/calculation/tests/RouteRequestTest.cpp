@@ -7,17 +7,17 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-RouteStop stopOf(const std::string& id, std::vector<RouteSegment> routes) {
+RouteStop StopOf(const std::string& id, std::vector<RouteSegment> routes) {
     RouteStop stop;
     stop.point_cd = id;
     stop.routes = std::move(routes);
     return stop;
 }
 
-RouteStops threeStops() {
-    RouteStops stops{stopOf("40389", {}),
-                     stopOf("40208", {{"1", "40389", "131", "", 0}, {"2", "131", "40208", "", 0}}),
-                     stopOf("40300", {{"3", "40208", "40300", "", 0}})};
+RouteStops ThreeStops() {
+    RouteStops stops{StopOf("40389", {}),
+                     StopOf("40208", {{"1", "40389", "131", "", 0}, {"2", "131", "40208", "", 0}}),
+                     StopOf("40300", {{"3", "40208", "40300", "", 0}})};
     stops[1].rp_groups.push_back({1, "118", "40389,40208", {"105", "116"}});
     stops[1].locks = {{"105", "105=a,b"}, {"7", "7=c,d"}};
     stops[2].rp_groups.push_back({2, "118", "x,y", {}});
@@ -33,21 +33,21 @@ TEST(RouteRequest, JoinsTheIdsOfTheWholeList) {
 
 TEST(AlternativeRequest, PutsTheChoiceBehindItsStop) {
     std::string text;
-    ASSERT_TRUE(AlternativeRequestText(threeStops(), "118", "105", text));
+    ASSERT_TRUE(AlternativeRequestText(ThreeStops(), "118", "105", text));
     EXPECT_EQ(text, R"({"rp_id":"105","orig_rp_id":"118","leg":1,"rp_group":"40389,40208;105|116|118",)"
                     R"("pointList":"40389#40208|40389,131,40208|105=40389,40208.7=c,d#40300"})");
 }
 
 TEST(AlternativeRequest, OtherLocksOfTheStopStay) {
     std::string text;
-    ASSERT_TRUE(AlternativeRequestText(threeStops(), "118", "116", text));
+    ASSERT_TRUE(AlternativeRequestText(ThreeStops(), "118", "116", text));
     EXPECT_NE(text.find("|116=40389,40208.105=a,b.7=c,d#"), std::string::npos) << text;
 }
 
 TEST(AlternativeRequest, FailsWithoutGroupOrSegments) {
     std::string text = "as it was";
-    EXPECT_FALSE(AlternativeRequestText(threeStops(), "999", "105", text));
-    auto stops = threeStops();
+    EXPECT_FALSE(AlternativeRequestText(ThreeStops(), "999", "105", text));
+    auto stops = ThreeStops();
     stops[1].routes.clear();
     EXPECT_FALSE(AlternativeRequestText(stops, "118", "105", text));
     EXPECT_FALSE(AlternativeRequestText({}, "118", "105", text));
@@ -55,14 +55,14 @@ TEST(AlternativeRequest, FailsWithoutGroupOrSegments) {
 }
 
 TEST(AlternativeRequest, GroupWithoutAnIdIsNeverMatched) {
-    auto stops = threeStops();
+    auto stops = ThreeStops();
     stops[1].rp_groups[0].rp_id = "";
     std::string text;
     EXPECT_FALSE(AlternativeRequestText(stops, "", "105", text));
 }
 
 TEST(AlternativeRequest, FirstGroupOfAllStopsIsTheOneThatChanges) {
-    auto stops = threeStops();
+    auto stops = ThreeStops();
     stops[1].rp_groups.push_back({1, "118", "second,group", {"9"}});
     std::string text;
     ASSERT_TRUE(AlternativeRequestText(stops, "118", "105", text));
@@ -71,7 +71,7 @@ TEST(AlternativeRequest, FirstGroupOfAllStopsIsTheOneThatChanges) {
 }
 
 TEST(AlternativeRequest, GroupWithoutAlternativesNamesOnlyTheOldPoint) {
-    auto stops = threeStops();
+    auto stops = ThreeStops();
     stops[1].rp_groups.clear();
     std::string text;
     ASSERT_TRUE(AlternativeRequestText(stops, "118", "105", text));

@@ -10,16 +10,16 @@
 /// Short forms for the tests' input rows.
 namespace Tarvik::Seaplan::Testing {
 
-inline Util::_datetime_t at(int day, int hour, int minute = 0) {
+inline Util::_datetime_t At(int day, int hour, int minute = 0) {
     return {0, minute, hour, day, 3, 2026};
 }
 
-inline std::string text(const Util::_datetime_t& time) {
+inline std::string Text(const Util::_datetime_t& time) {
     return time.fmt("%Y-%m-%d %H:%M:%S");
 }
 
 /// A port call with distance, speed, weather factor and stay.
-inline VoyPortCall call(std::string name, float distance, float speed = 10, float weather = 0,
+inline VoyPortCall Call(std::string name, float distance, float speed = 10, float weather = 0,
                         float stay = 0) {
     VoyPortCall row;
     row.ppi = "4" + name;
@@ -28,13 +28,13 @@ inline VoyPortCall call(std::string name, float distance, float speed = 10, floa
     row.psp = speed;
     row.pw = weather;
     row.apt = stay;
-    row.eta = at(1, 0);
-    row.etd = at(1, 0);
+    row.eta = At(1, 0);
+    row.etd = At(1, 0);
     return row;
 }
 
 /// A book row at a position.
-inline PosBookPoint point(std::string position, int kind = PlainPoint, float speed = 10,
+inline PosBookPoint Point(std::string position, int kind = PlainPoint, float speed = 10,
                           std::string track = "RL") {
     PosBookPoint row;
     row.position = std::move(position);
@@ -44,11 +44,11 @@ inline PosBookPoint point(std::string position, int kind = PlainPoint, float spe
     return row;
 }
 
-inline PosBookPoint port(std::string position, float speed = 10, std::string track = "RL") {
-    return point(std::move(position), PortPoint, speed, std::move(track));
+inline PosBookPoint Port(std::string position, float speed = 10, std::string track = "RL") {
+    return Point(std::move(position), PortPoint, speed, std::move(track));
 }
 
-inline std::string names(const PortCallRows& rows) {
+inline std::string Names(const PortCallRows& rows) {
     std::string joined;
     for (const auto& row : rows) {
         joined += row.ppn;
@@ -56,7 +56,7 @@ inline std::string names(const PortCallRows& rows) {
     return joined;
 }
 
-inline std::string positions(const BookPoints& rows) {
+inline std::string Positions(const BookPoints& rows) {
     std::string joined;
     for (const auto& row : rows) {
         joined += (joined.empty() ? "" : "|") + row.position;

@@ -13,7 +13,7 @@ namespace {
 
 using namespace Testing;
 
-PortCallRows recomputed(const PortCallRows& rows) {
+PortCallRows Recomputed(const PortCallRows& rows) {
     PortCallRows out;
     EXPECT_EQ(RecomputeSchedule(rows, out), 0);
     return out;
@@ -24,19 +24,19 @@ TEST(ScheduleEdits, ArrivalFiveHoursOnAsksForTwentyKnotsWhateverTheSpeedWas) {
     float gap = 0;
     ASSERT_EQ(HoursBetween("2026-03-01 15:00:00", "2026-03-01 10:00:00", gap), 0);
     for (const float before : {3.0F, 10.0F, 20.0F, 40.0F}) {
-        auto rows = PortCallRows{call("A", 0), call("B", 100), call("C", 100, before)};
+        auto rows = PortCallRows{Call("A", 0), Call("B", 100), Call("C", 100, before)};
         rows[2].psp = static_cast<float>(SpeedForSteamTime(rows[2].distance, gap, rows[2].pw));
         EXPECT_EQ(rows[2].psp, 20);
-        EXPECT_EQ(text(recomputed(rows)[2].eta), "2026-03-01 15:00:00");
+        EXPECT_EQ(Text(Recomputed(rows)[2].eta), "2026-03-01 15:00:00");
     }
 }
 
 TEST(ScheduleEdits, LaterRowsShiftWithTheirOwnSpeeds) {
-    const auto before = recomputed({call("A", 0), call("B", 100), call("C", 50, 5, 0, 2), call("D", 60, 12)});
+    const auto before = Recomputed({Call("A", 0), Call("B", 100), Call("C", 50, 5, 0, 2), Call("D", 60, 12)});
     auto rows = before;
     rows[1].psp = static_cast<float>(SpeedForSteamTime(100, 4, 0));
-    const auto after = recomputed(rows);
-    EXPECT_EQ(text(after[1].eta), "2026-03-01 04:00:00");
+    const auto after = Recomputed(rows);
+    EXPECT_EQ(Text(after[1].eta), "2026-03-01 04:00:00");
     for (const std::size_t i : {2U, 3U}) {
         EXPECT_EQ(after[i].psp, before[i].psp);
         EXPECT_EQ(before[i].eta.total_csecs() - after[i].eta.total_csecs(), 6 * 360000);
@@ -68,20 +68,20 @@ TEST(ScheduleEdits, SpeedAndSteamTimeAreEachOthersInverse) {
 TEST(ScheduleEdits, DepartureEqualToTheArrivalIsAStayOfNothing) {
     float stay = -1;
     ASSERT_EQ(HoursBetween("2026-03-01 10:00:00", "2026-03-01 10:00:00", stay), 0);
-    auto rows = PortCallRows{call("A", 0), call("B", 100, 10, 0, 7), call("C", 10)};
+    auto rows = PortCallRows{Call("A", 0), Call("B", 100, 10, 0, 7), Call("C", 10)};
     rows[1].apt = stay;
-    const auto out = recomputed(rows);
+    const auto out = Recomputed(rows);
     EXPECT_EQ(out[1].eta, out[1].etd);
-    EXPECT_EQ(text(out[2].eta), "2026-03-01 11:00:00");
+    EXPECT_EQ(Text(out[2].eta), "2026-03-01 11:00:00");
 }
 
 TEST(ScheduleEdits, NewStartMovesTheWholeScheduleAndWipesTheFirstStay) {
-    auto rows = PortCallRows{call("A", 0, 10, 0, 9), call("B", 100)};
-    rows[0].eta = at(5, 12);
+    auto rows = PortCallRows{Call("A", 0, 10, 0, 9), Call("B", 100)};
+    rows[0].eta = At(5, 12);
     rows[0].apt = 0;
-    const auto out = recomputed(rows);
-    EXPECT_EQ(text(out[0].etd), "2026-03-05 12:00:00");
-    EXPECT_EQ(text(out[1].eta), "2026-03-05 22:00:00");
+    const auto out = Recomputed(rows);
+    EXPECT_EQ(Text(out[0].etd), "2026-03-05 12:00:00");
+    EXPECT_EQ(Text(out[1].eta), "2026-03-05 22:00:00");
 }
 
 // A stored number is the whole expression in double, rounded once: rounding in between gives another number.
@@ -101,16 +101,16 @@ TEST(ScheduleNumbers, SteamTimeIsRoundedOnce) {
         const float inSteps = distance / ((1.0F - w) * speed);
         differing += inSteps != expected ? 1 : 0;
         PortCallRows out;
-        ASSERT_EQ(RecomputeSchedule({call("A", 0), call("B", distance, speed, w)}, out), 0);
+        ASSERT_EQ(RecomputeSchedule({Call("A", 0), Call("B", distance, speed, w)}, out), 0);
         ASSERT_EQ(out[1].steamTime, expected);
-        ASSERT_EQ(BuildSchedule(at(1, 0), {call("A", 0), call("B", distance, speed, w)}, out), 0);
+        ASSERT_EQ(BuildSchedule(At(1, 0), {Call("A", 0), Call("B", distance, speed, w)}, out), 0);
         ASSERT_EQ(out[1].steamTime, expected);
     }
     EXPECT_GT(differing, 0) << "the numbers can tell the two ways apart";
 }
 
 TEST(ScheduleNumbers, SumsRunInDoubleAndAreRoundedOnce) {
-    PortCallRows rows(1000, call("A", 0.1F, 10, 0, 0.1F));
+    PortCallRows rows(1000, Call("A", 0.1F, 10, 0, 0.1F));
     for (auto& row : rows) {
         row.steamTime = 0.1F;
     }

@@ -14,8 +14,8 @@ namespace {
 
 using namespace Testing;
 
-VoyPortCall sample(float value) {
-    auto row = call("A", value, value, 0.5F, value);
+VoyPortCall Sample(float value) {
+    auto row = Call("A", value, value, 0.5F, value);
     row.steamTime = value;
     return row;
 }
@@ -36,20 +36,20 @@ TEST(ConvertRows, ChangesOnlyTheQuantityOfItsUnits) {
           Conversion{"KM", "NM", 10, 10 / 1.852F, 10}, Conversion{"NM", "KM", 10, 18.52F, 10},
           Conversion{"day", "hour", 10, 10, 240}, Conversion{"hour", "day", 10, 10, 10 / 24.0F}}) {
         PortCallRows out;
-        ASSERT_EQ(ConvertRows({sample(10)}, c.from, c.to, out), 0) << c.from << c.to;
+        ASSERT_EQ(ConvertRows({Sample(10)}, c.from, c.to, out), 0) << c.from << c.to;
         EXPECT_FLOAT_EQ(out[0].psp, c.psp) << c.from << c.to;
         EXPECT_FLOAT_EQ(out[0].distance, c.distance) << c.from << c.to;
         EXPECT_FLOAT_EQ(out[0].steamTime, c.time) << c.from << c.to;
         EXPECT_FLOAT_EQ(out[0].apt, c.time) << c.from << c.to;
         EXPECT_EQ(out[0].pw, 0.5F);
-        EXPECT_EQ(out[0].eta, at(1, 0));
-        EXPECT_EQ(out[0].etd, at(1, 0));
+        EXPECT_EQ(out[0].eta, At(1, 0));
+        EXPECT_EQ(out[0].etd, At(1, 0));
     }
 }
 
 TEST(ConvertRows, FactorIsTheNearest32BitFloat) {
     PortCallRows out;
-    ASSERT_EQ(ConvertRows({sample(123456.7F)}, "NM", "KM", out), 0);
+    ASSERT_EQ(ConvertRows({Sample(123456.7F)}, "NM", "KM", out), 0);
     EXPECT_EQ(out[0].distance,
               static_cast<float>(static_cast<double>(123456.7F) * static_cast<double>(1.852F)));
 }
@@ -84,7 +84,7 @@ TEST(ConvertRows, EveryFactorIsExact) {
         for (int i = 0; i < 200; ++i) {
             const float before = value(random);
             PortCallRows out;
-            ASSERT_EQ(ConvertRows({sample(before)}, c.from, c.to, out), 0);
+            ASSERT_EQ(ConvertRows({Sample(before)}, c.from, c.to, out), 0);
             ASSERT_EQ(out[0].*c.field,
                       static_cast<float>(static_cast<double>(before) * c.multiplier / c.divisor))
                 << c.from << " " << c.to << " " << before;
@@ -93,7 +93,7 @@ TEST(ConvertRows, EveryFactorIsExact) {
 }
 
 TEST(ConvertRows, TextsAndWeatherStay) {
-    auto row = sample(10);
+    auto row = Sample(10);
     row.pp = "B";
     PortCallRows out;
     for (const auto& [from, to] :
@@ -106,7 +106,7 @@ TEST(ConvertRows, TextsAndWeatherStay) {
 }
 
 TEST(ConvertRows, InputMayBeTheOutput) {
-    PortCallRows rows{sample(10)};
+    PortCallRows rows{Sample(10)};
     ASSERT_EQ(ConvertRows(rows, "day", "hour", rows), 0);
     EXPECT_EQ(rows[0].apt, 240);
     EXPECT_EQ(ConvertRows(rows, "day", "week", rows), -1);
@@ -122,63 +122,63 @@ TEST(ConvertRows, MphOverKphIsNotTheDirectWay) {
     PortCallRows kph;
     PortCallRows overKph;
     PortCallRows direct;
-    ASSERT_EQ(ConvertRows({sample(10)}, "kts", "KPH", kph), 0);
+    ASSERT_EQ(ConvertRows({Sample(10)}, "kts", "KPH", kph), 0);
     ASSERT_EQ(ConvertRows(kph, "KPH", "MPH", overKph), 0);
-    ASSERT_EQ(ConvertRows({sample(10)}, "kts", "MPH", direct), 0);
+    ASSERT_EQ(ConvertRows({Sample(10)}, "kts", "MPH", direct), 0);
     EXPECT_NE(overKph[0].psp, direct[0].psp);
 }
 
 TEST(ConvertRows, FailuresEmptyTheResult) {
-    PortCallRows out{sample(1)};
-    EXPECT_EQ(ConvertRows({sample(1)}, "kts", "NM", out), -1);
+    PortCallRows out{Sample(1)};
+    EXPECT_EQ(ConvertRows({Sample(1)}, "kts", "NM", out), -1);
     EXPECT_TRUE(out.empty());
-    EXPECT_EQ(ConvertRows({sample(1)}, "kts", "kts", out), -1);
-    EXPECT_EQ(ConvertRows({sample(1)}, "Kts", "KPH", out), -1) << "names are compared as texts";
+    EXPECT_EQ(ConvertRows({Sample(1)}, "kts", "kts", out), -1);
+    EXPECT_EQ(ConvertRows({Sample(1)}, "Kts", "KPH", out), -1) << "names are compared as texts";
     EXPECT_EQ(ConvertRows({}, "kts", "nothing", out), -2) << "the empty input is tested first";
 }
 
 TEST(ConvertUnitValue, GuardsTheConversion) {
-    PortCallRows out{sample(1)};
+    PortCallRows out{Sample(1)};
     EXPECT_EQ(ConvertUnitValue({}, "kts", "kts", out), -1) << "the list is tested before the units";
-    EXPECT_EQ(ConvertUnitValue({sample(1)}, "kts", "kts", out), -2);
+    EXPECT_EQ(ConvertUnitValue({Sample(1)}, "kts", "kts", out), -2);
     EXPECT_TRUE(out.empty());
-    EXPECT_EQ(ConvertUnitValue({sample(1)}, "kts", "KM", out), -3);
-    EXPECT_EQ(ConvertUnitValue({sample(10)}, "kts", "KPH", out), 0);
+    EXPECT_EQ(ConvertUnitValue({Sample(1)}, "kts", "KM", out), -3);
+    EXPECT_EQ(ConvertUnitValue({Sample(10)}, "kts", "KPH", out), 0);
     EXPECT_FLOAT_EQ(out[0].psp, 18.52F);
 }
 
 TEST(StandardUnits, ConvertsEveryQuantityThatIsNotStandard) {
     PortCallRows out;
-    ASSERT_EQ(ToStandardUnits({sample(10)}, {"KPH", "KM", "day"}, out), 0);
+    ASSERT_EQ(ToStandardUnits({Sample(10)}, {"KPH", "KM", "day"}, out), 0);
     EXPECT_FLOAT_EQ(out[0].psp, 10 / 1.852F);
     EXPECT_FLOAT_EQ(out[0].distance, 10 / 1.852F);
     EXPECT_EQ(out[0].steamTime, 240);
     EXPECT_EQ(out[0].apt, 240);
-    ASSERT_EQ(ToStandardUnits({sample(10)}, {"kts", "NM", "hour"}, out), 0);
+    ASSERT_EQ(ToStandardUnits({Sample(10)}, {"kts", "NM", "hour"}, out), 0);
     EXPECT_EQ(out[0].psp, 10);
     EXPECT_EQ(out[0].steamTime, 10);
 }
 
 TEST(StandardUnits, TellsWhichUnitIsBad) {
-    PortCallRows out{sample(1)};
+    PortCallRows out{Sample(1)};
     for (const auto& convert : {ToStandardUnits, FromStandardUnits}) {
         EXPECT_EQ(convert({}, {}, out), -1);
-        EXPECT_EQ(convert({sample(1)}, {"knots", "x", "x"}, out), -2);
-        EXPECT_EQ(convert({sample(1)}, {"kts", "MI", "x"}, out), -3);
-        EXPECT_EQ(convert({sample(1)}, {"kts", "NM", "hours"}, out), -4);
+        EXPECT_EQ(convert({Sample(1)}, {"knots", "x", "x"}, out), -2);
+        EXPECT_EQ(convert({Sample(1)}, {"kts", "MI", "x"}, out), -3);
+        EXPECT_EQ(convert({Sample(1)}, {"kts", "NM", "hours"}, out), -4);
         EXPECT_TRUE(out.empty());
     }
 }
 
 TEST(StandardUnits, OneAndAHalfDaysReadThirtySixHours) {
     PortCallRows hours;
-    ASSERT_EQ(ConvertUnitValue({sample(1.5F)}, "day", "hour", hours), 0);
+    ASSERT_EQ(ConvertUnitValue({Sample(1.5F)}, "day", "hour", hours), 0);
     EXPECT_EQ(RowToCells(0, hours[0])[ColSteamTime], "36.00");
 }
 
 TEST(StandardUnits, TenKnotsComeBackFromTheCellAsTenKnots) {
     PortCallRows shown;
-    ASSERT_EQ(ConvertUnitValue({sample(10)}, "kts", "KPH", shown), 0);
+    ASSERT_EQ(ConvertUnitValue({Sample(10)}, "kts", "KPH", shown), 0);
     const auto cells = RowToCells(0, shown[0]);
     EXPECT_EQ(cells[ColSpeed], "18.52");
     PortCallRows back;
@@ -194,7 +194,7 @@ TEST(StandardUnits, ThereAndBackKeepsEveryValue) {
     for (const auto* speed : {"kts", "KPH", "MPH"}) {
         for (int i = 0; i < 300; ++i) {
             const UnitSet units{speed, i % 2 == 0 ? "KM" : "NM", i % 3 == 0 ? "hour" : "day"};
-            const PortCallRows rows{sample(value(random)), sample(value(random))};
+            const PortCallRows rows{Sample(value(random)), Sample(value(random))};
             PortCallRows shown;
             PortCallRows back;
             ASSERT_EQ(FromStandardUnits(rows, units, shown), 0);

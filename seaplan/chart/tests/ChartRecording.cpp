@@ -11,11 +11,11 @@ namespace Tarvik::Seaplan::Testing {
 namespace {
 
 template <class Record>
-const Record& as(const void* input) {
+const Record& As(const void* input) {
     return *static_cast<const Record*>(input);
 }
 
-std::string refText(const Interface::TrvMapObjectRef& ref) {
+std::string RefText(const Interface::TrvMapObjectRef& ref) {
     return ref.layer + "/" + ref.type + "/" + ref.id;
 }
 
@@ -24,14 +24,14 @@ std::string refText(const Interface::TrvMapObjectRef& ref) {
 ChartRecording::ChartRecording() {
     namespace Bus = Interface::Bus;
     Core::TrvKernel::Instance()->Reset();
-    bind<&ChartRecording::addLayer>(Bus::MapAddLayer.name);
-    bind<&ChartRecording::addLine>(Bus::MapAddLine.name);
-    bind<&ChartRecording::AddLabel>(Bus::MapAddPointLabel.name);
-    bind<&ChartRecording::addImage>(Bus::MapAddImage.name);
-    bind<&ChartRecording::registerImage>(Bus::MapRegisterImage.name);
-    bind<&ChartRecording::deleteObjects>(Bus::MapDeleteObjects.name);
-    bind<&ChartRecording::deleteByType>(Bus::MapDeleteObjectsByType.name);
-    bind<&ChartRecording::setExtent>(Bus::MapSetExtent.name);
+    Bind<&ChartRecording::AddLayer>(Bus::MapAddLayer.name);
+    Bind<&ChartRecording::AddLine>(Bus::MapAddLine.name);
+    Bind<&ChartRecording::AddLabel>(Bus::MapAddPointLabel.name);
+    Bind<&ChartRecording::AddImage>(Bus::MapAddImage.name);
+    Bind<&ChartRecording::RegisterImage>(Bus::MapRegisterImage.name);
+    Bind<&ChartRecording::DeleteObjects>(Bus::MapDeleteObjects.name);
+    Bind<&ChartRecording::DeleteByType>(Bus::MapDeleteObjectsByType.name);
+    Bind<&ChartRecording::SetExtent>(Bus::MapSetExtent.name);
 }
 
 ChartRecording::~ChartRecording() {
@@ -39,21 +39,21 @@ ChartRecording::~ChartRecording() {
 }
 
 template <auto Method>
-void ChartRecording::bind(const char* name) {
+void ChartRecording::Bind(const char* name) {
     auto& delegate = delegates_.emplace_back();
     delegate.Set<Method>(this);
     Core::TrvKernel::Instance()->CreateTrvService(name, this, "", "", &delegate);
 }
 
-void* ChartRecording::addLayer(void* input) {
-    layers.push_back(as<Interface::TrvMapLayerParams>(input));
+void* ChartRecording::AddLayer(void* input) {
+    layers.push_back(As<Interface::TrvMapLayerParams>(input));
     calls.push_back("layer " + layers.back().layer);
     return nullptr;
 }
 
-void* ChartRecording::addLine(void* input) {
-    lines.push_back(as<Interface::TrvMapLineParams>(input));
-    std::string text = "line " + refText(lines.back().ref);
+void* ChartRecording::AddLine(void* input) {
+    lines.push_back(As<Interface::TrvMapLineParams>(input));
+    std::string text = "line " + RefText(lines.back().ref);
     for (const auto& point : lines.back().points) {
         text += " " + point;
     }
@@ -62,41 +62,41 @@ void* ChartRecording::addLine(void* input) {
 }
 
 void* ChartRecording::AddLabel(void* input) {
-    labels.push_back(as<Interface::TrvMapPointParams>(input));
-    calls.push_back("label " + refText(labels.back().ref) + " " + labels.back().label + " " +
+    labels.push_back(As<Interface::TrvMapPointParams>(input));
+    calls.push_back("label " + RefText(labels.back().ref) + " " + labels.back().label + " " +
                     labels.back().position);
     return nullptr;
 }
 
-void* ChartRecording::addImage(void* input) {
-    const auto& image = as<Interface::TrvMapImageParams>(input);
-    calls.push_back("image " + refText(image.ref) + " " + image.image + " " + image.position);
+void* ChartRecording::AddImage(void* input) {
+    const auto& image = As<Interface::TrvMapImageParams>(input);
+    calls.push_back("image " + RefText(image.ref) + " " + image.image + " " + image.position);
     return nullptr;
 }
 
-void* ChartRecording::registerImage(void* input) {
-    const auto& image = as<Interface::TrvMapImageReg>(input);
+void* ChartRecording::RegisterImage(void* input) {
+    const auto& image = As<Interface::TrvMapImageReg>(input);
     calls.push_back("register " + image.name + " " + image.path);
     return nullptr;
 }
 
-void* ChartRecording::deleteObjects(void* input) {
-    const auto& list = as<Interface::TrvMapObjectList>(input);
+void* ChartRecording::DeleteObjects(void* input) {
+    const auto& list = As<Interface::TrvMapObjectList>(input);
     std::string text = "delete " + list.layer;
     for (int i = 0; i < list.count; ++i) {
-        text += " " + refText(list.objects[i]);
+        text += " " + RefText(list.objects[i]);
     }
     calls.push_back(text);
     return nullptr;
 }
 
-void* ChartRecording::deleteByType(void* input) {
-    calls.push_back("clear " + refText(as<Interface::TrvMapObjectRef>(input)));
+void* ChartRecording::DeleteByType(void* input) {
+    calls.push_back("clear " + RefText(As<Interface::TrvMapObjectRef>(input)));
     return nullptr;
 }
 
-void* ChartRecording::setExtent(void* input) {
-    const auto& extent = as<Interface::TrvMapExtent>(input);
+void* ChartRecording::SetExtent(void* input) {
+    const auto& extent = As<Interface::TrvMapExtent>(input);
     std::ostringstream text;
     text << "extent " << extent.first << " " << extent.second << " " << extent.third << " " << extent.fourth;
     calls.push_back(text.str());

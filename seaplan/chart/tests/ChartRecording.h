@@ -27,15 +27,15 @@ class ChartRecording : public Core::TObject {
 
   private:
     template <auto Method>
-    void bind(const char* name);
-    void* addLayer(void* input);
-    void* addLine(void* input);
+    void Bind(const char* name);
+    void* AddLayer(void* input);
+    void* AddLine(void* input);
     void* AddLabel(void* input);
-    void* addImage(void* input);
-    void* registerImage(void* input);
-    void* deleteObjects(void* input);
-    void* deleteByType(void* input);
-    void* setExtent(void* input);
+    void* AddImage(void* input);
+    void* RegisterImage(void* input);
+    void* DeleteObjects(void* input);
+    void* DeleteByType(void* input);
+    void* SetExtent(void* input);
 
     std::deque<Core::TEvent> delegates_;
 };

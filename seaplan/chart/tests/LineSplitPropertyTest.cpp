@@ -12,7 +12,7 @@ namespace Tarvik::Seaplan {
 namespace {
 
 /// A text as it is drawn: at the date line it stands just before it.
-std::string drawn(const std::string& point) {
+std::string Drawn(const std::string& point) {
     const auto comma = point.find(',');
     if (point.rfind("180", 0) == 0) {
         return "179.99" + point.substr(comma);
@@ -20,7 +20,7 @@ std::string drawn(const std::string& point) {
     return point.rfind("-180", 0) == 0 ? "-179.99" + point.substr(comma) : point;
 }
 
-bool isAtLine(const std::string& point) {
+bool IsAtLine(const std::string& point) {
     return point.rfind("179.99", 0) == 0 || point.rfind("-179.99", 0) == 0;
 }
 
@@ -38,13 +38,13 @@ TEST(LineSplitProperty, PiecesOfAnyLineJoinedAgainAreItsPointsLessTheDroppedOnes
         }
         PointTexts expected;
         std::unique_copy(points.begin(), points.end(), std::back_inserter(expected));
-        std::transform(expected.begin(), expected.end(), expected.begin(), drawn);
+        std::transform(expected.begin(), expected.end(), expected.begin(), Drawn);
         std::vector<PointTexts> pieces;
         ASSERT_EQ(SplitAtDateLine(points, pieces), 0);
         PointTexts joined;
         for (const PointTexts& piece : pieces) {
             ASSERT_GE(piece.size(), 2U);
-            ASSERT_TRUE(std::none_of(piece.begin() + 1, piece.end() - 1, isAtLine))
+            ASSERT_TRUE(std::none_of(piece.begin() + 1, piece.end() - 1, IsAtLine))
                 << "only the ends of a piece are at the line";
             joined.insert(joined.end(), piece.begin(), piece.end());
         }

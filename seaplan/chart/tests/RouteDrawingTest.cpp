@@ -22,7 +22,7 @@ struct RouteDrawing : ::testing::Test {
     PortDirectory ports{{}, {}, {}, {{"118", {"118", "Cape", "5,5"}}}};
 };
 
-RouteStops twoLegs() {
+RouteStops TwoLegs() {
     RouteStops stops(3);
     stops[1].routes = {{"1", "", "", "1,0|2,0", 0}, {"2", "", "", "2,0|3,0", 0}};
     stops[2].routes = {{"3", "", "", "3,0|4,0", 0}};
@@ -67,7 +67,7 @@ TEST_F(RouteDrawing, MorePiecesThanTheCleaningReachesAreDrawnAllTheSame) {
 }
 
 TEST_F(RouteDrawing, RouteIsOneLineWithItsLabels) {
-    auto stops = twoLegs();
+    auto stops = TwoLegs();
     stops[2].rp_groups = {{2, "118", "a,b", {}}};
     layer.mainLine.ref.id = "left over";
     EXPECT_EQ(layer.DrawRoute(stops, ports), 0);
@@ -78,7 +78,7 @@ TEST_F(RouteDrawing, RouteIsOneLineWithItsLabels) {
 }
 
 TEST_F(RouteDrawing, FirstPointOfASegmentIsTakenOnlyAtTheFirstOfEachStop) {
-    auto stops = twoLegs();
+    auto stops = TwoLegs();
     stops[1].routes[1].pointset = "9,9|3,0";
     stops[2].routes[0].pointset = "8,8|4,0";
     EXPECT_EQ(layer.DrawRoute(stops, ports), 0);
@@ -89,7 +89,7 @@ TEST_F(RouteDrawing, RouteTellsWhichStepFailed) {
     EXPECT_EQ(layer.DrawRoute(RouteStops(1), ports), -1);
     EXPECT_THAT(chart.calls, IsEmpty());
     EXPECT_EQ(layer.DrawRoute(RouteStops(2), ports), -5);
-    auto stops = twoLegs();
+    auto stops = TwoLegs();
     stops[1].rp_groups = {{1, "999", "a,b", {}}};
     EXPECT_EQ(layer.DrawRoute(stops, ports), -7);
     EXPECT_EQ(chart.lines.size(), 1) << "what was drawn stays";
@@ -97,8 +97,8 @@ TEST_F(RouteDrawing, RouteTellsWhichStepFailed) {
 
 TEST_F(RouteDrawing, LabelsNeedTheRoutePointsOnlyWhenThereAreGroups) {
     PortDirectory none{kNoDatabase};
-    EXPECT_EQ(layer.DrawRoutePointLabels(twoLegs(), none), 0);
-    auto stops = twoLegs();
+    EXPECT_EQ(layer.DrawRoutePointLabels(TwoLegs(), none), 0);
+    auto stops = TwoLegs();
     stops[1].rp_groups = {{1, "118", "a,b", {}}, {1, "999", "a,b", {}}};
     EXPECT_EQ(layer.DrawRoutePointLabels(stops, none), -2);
     EXPECT_EQ(layer.DrawRoutePointLabels(RouteStops(1), none), -1);

@@ -17,32 +17,32 @@ class CorrectionFixture : public ScheduleFixture {
 
     CorrectionFixture() {
         folder.WriteSamplePoints();
-        replySchedule();
+        ReplySchedule();
         voyages.LoadSchedule("9", rows, -1);
-        voyage().vsi = "s";
-        voyage().vsn = "Ship";
-        voyage().vsmsi = 55;
-        seeShipAt(17, 0);
-        voyage().lastPosText = "0.400,0.100";
+        Voyage().vsi = "s";
+        Voyage().vsn = "Ship";
+        Voyage().vsmsi = 55;
+        SeeShipAt(17, 0);
+        Voyage().lastPosText = "0.400,0.100";
         host.requests.clear();
     }
 
     /// Time of the last position, in the plan's zone.
-    void seeShipAt(int hour, int minute, int second = 0) {
+    void SeeShipAt(int hour, int minute, int second = 0) {
         const Util::_datetime_t local(second, minute, hour, 1, 3, 2024);
-        voyage().lastPosTime = static_cast<std::int32_t>(local.to_gmt_timer() - 8 * 3600);
+        Voyage().lastPosTime = static_cast<std::int32_t>(local.to_gmt_timer() - 8 * 3600);
     }
-    void replyWay(const std::string& pointset = "0.4,0.1|0.7,0.05|1,0") {
+    void ReplyWay(const std::string& pointset = "0.4,0.1|0.7,0.05|1,0") {
         host.Reply(2, R"({eid:0,pointset:")" + pointset + R"("})");
     }
-    Texts positions() {
+    Texts Positions() {
         Texts texts;
-        for (const PosBookPoint& point : voyage().positionBook.points) {
+        for (const PosBookPoint& point : Voyage().positionBook.points) {
             texts.push_back(point.position);
         }
         return texts;
     }
-    static std::string nameList(const PortCallRows& list) {
+    static std::string NameList(const PortCallRows& list) {
         std::string text;
         for (const VoyPortCall& row : list) {
             text += (text.empty() ? "" : " ") + row.ppn;

@@ -48,26 +48,26 @@ class PendingRouteOfVoyageTest : public ScheduleFixture {
         store.categoryVoyages["1"]["8"] = InUse;
         int hadPortCalls = 0;
         host.Reply(1, kRouteAb);
-        EXPECT_EQ(voyages.CalculateForVoyage("9", typedRows(), rows, hadPortCalls), 0);
+        EXPECT_EQ(voyages.CalculateForVoyage("9", TypedRows(), rows, hadPortCalls), 0);
     }
 };
 
 TEST_F(PendingRouteOfVoyageTest, LoadingOrShowingAnotherVoyageLeavesIt) {
     PortCallRows others;
-    replySchedule();
+    ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("8", others, -1), 0);
     EXPECT_TRUE(module.Pending().IsFor("9"));
     EXPECT_EQ(module.Pending().PortNames(), (Texts{"A", "B"}));
     EXPECT_EQ(voyages.ShowVoyage("8"), 0);
     EXPECT_TRUE(module.Pending().IsFor("9"));
-    replySchedule();
+    ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", others, -1), 0);
     EXPECT_FALSE(module.Pending().IsThere()) << "its own reload drops it";
 }
 
 TEST_F(PendingRouteOfVoyageTest, SavingAnotherVoyageNeitherTakesNorDropsIt) {
     PortCallRows others;
-    replySchedule();
+    ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("8", others, -1), 0);
     store.voyages["8"].positionBook.points[1].position = "0.500,2.000";
     host.Reply(11, "{eid:0}");

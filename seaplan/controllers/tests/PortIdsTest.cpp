@@ -31,13 +31,13 @@ class PortIdsTest : public ScheduleFixture {
     using Counts = std::map<std::string, int>;
 
     PortIdsTest() { folder.WriteSamplePoints(); }
-    static PortCallRows rowsWithoutIds() {
-        PortCallRows typed = typedRows();
+    static PortCallRows RowsWithoutIds() {
+        PortCallRows typed = TypedRows();
         typed[0].ppi.clear();
         typed[1].ppi.clear();
         return typed;
     }
-    void replySave() {
+    void ReplySave() {
         host.Reply(11, "{eid:0}");
         host.Reply(7, "[]");
         host.Reply(8, R"({eid:0,psb:"5"})");
@@ -49,22 +49,22 @@ class PortIdsTest : public ScheduleFixture {
 
 // What the panel does between two typed ports and the saved, drawn voyage.
 TEST_F(PortIdsTest, TwoTypedPortsAreLookedUpOnceEachFromTheirCalculationToTheirDrawing) {
-    PortCallRows typed = rowsWithoutIds();
+    PortCallRows typed = RowsWithoutIds();
     int hadPortCalls = 1;
     voyages.ResolvePortIds(typed);
     host.Reply(1, kRouteAb);
     ASSERT_EQ(voyages.CalculateForVoyage("9", typed, rows, hadPortCalls), 0);
     EXPECT_EQ(rows[0].ppi + " " + rows[1].ppi, "40001 40002");
     voyages.ResolvePortIds(rows);
-    replySave();
+    ReplySave();
     ASSERT_EQ(voyages.SaveSchedule("9", rows, 1), 0);
     EXPECT_EQ(host.TextsOf(11).at(0).find("0|40001|A|"), 6U) << host.TextsOf(11).at(0);
     EXPECT_EQ(counting.lookups, (Counts{{"A", 1}, {"B", 1}}));
-    EXPECT_EQ(voyage().portCalls[1].ppi, "40002");
+    EXPECT_EQ(Voyage().portCalls[1].ppi, "40002");
 }
 
 TEST_F(PortIdsTest, SavedVoyageIsCalculatedAndSavedAgainWithTheIdsItHas) {
-    replySchedule();
+    ReplySchedule();
     ASSERT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
     int hadPortCalls = 0;
     voyages.ResolvePortIds(rows);
@@ -78,7 +78,7 @@ TEST_F(PortIdsTest, SavedVoyageIsCalculatedAndSavedAgainWithTheIdsItHas) {
 }
 
 TEST_F(PortIdsTest, FollowedRouteKeepsTheIdsItWasFollowedWith) {
-    PortCallRows typed = rowsWithoutIds();
+    PortCallRows typed = RowsWithoutIds();
     voyages.ResolvePortIds(typed);
     host.Reply(1, kRouteAb);
     ASSERT_EQ(voyages.CalculatePortCalls(typed, rows), 0);
@@ -89,7 +89,7 @@ TEST_F(PortIdsTest, FollowedRouteKeepsTheIdsItWasFollowedWith) {
 }
 
 TEST_F(PortIdsTest, RowThatIsRenamedWithoutItsIdIsLookedUpAgain) {
-    PortCallRows typed = rowsWithoutIds();
+    PortCallRows typed = RowsWithoutIds();
     voyages.ResolvePortIds(typed);
     typed[0].ppn = "nowhere";
     typed[0].ppi.clear();

@@ -38,10 +38,10 @@ TEST_F(RefreshTimerTest, WithoutTimersOfTheHostNothingStarts) {
 TEST_F(RefreshTimerTest, TimerRefreshesPositionsAndDrawsShownVoyagesWithoutMovingTheView) {
     bool visible = false;
     voyages.SetTreeVisible([&] { return visible; });
-    voyage().vr = 1;
-    voyage().vsi = "s";
+    Voyage().vr = 1;
+    Voyage().vsi = "s";
     store.voyages["8"].vi = "8";
-    replySchedule();
+    ReplySchedule();
     voyages.StartTimer();
     timer.Fire();
     EXPECT_EQ(host.positionQueries, (std::vector<Texts>{{"s|0"}}));
@@ -54,16 +54,16 @@ TEST_F(RefreshTimerTest, TimerRefreshesPositionsAndDrawsShownVoyagesWithoutMovin
 }
 
 TEST_F(RefreshTimerTest, TimerDrawsWhenNobodyTellsWhetherTheTreeIsVisible) {
-    voyage().vr = 1;
-    replySchedule();
+    Voyage().vr = 1;
+    ReplySchedule();
     voyages.StartTimer();
     timer.Fire();
     EXPECT_FALSE(host.ChartCallsOf("TRV_MAP_ADD_LINE").empty());
 }
 
 TEST_F(RefreshTimerTest, VoyageThatIsNotShownIsNotDrawn) {
-    voyage().vr = 0;
-    replySchedule();
+    Voyage().vr = 0;
+    ReplySchedule();
     voyages.StartTimer();
     timer.Fire();
     EXPECT_TRUE(host.requests.empty());
@@ -76,9 +76,9 @@ TEST_F(RefreshTimerTest, FailingVoyageIsSkippedAndTheOthersGoOn) {
     store.categoryVoyages["1"]["1"] = InUse;
     store.voyages["2"].vi = "2";
     store.voyages["2"].vr = 1;
-    voyage().vr = 1;
+    Voyage().vr = 1;
     host.ReplyNothing(10);
-    replySchedule();
+    ReplySchedule();
     voyages.StartTimer();
     timer.Fire();
     EXPECT_EQ(host.TextsOf(10), (std::vector<std::string>{R"({vi:"1"})", R"({vi:"9"})"}))
@@ -87,9 +87,9 @@ TEST_F(RefreshTimerTest, FailingVoyageIsSkippedAndTheOthersGoOn) {
 }
 
 TEST_F(RefreshTimerTest, ShipMovesWithTheClock) {
-    voyage().vr = 1;
+    Voyage().vr = 1;
     clock.SetUtc(2024, 3, 1, 18);
-    replySchedule();
+    ReplySchedule();
     voyages.StartTimer();
     timer.Fire();
     clock.AdvanceSeconds(3600);

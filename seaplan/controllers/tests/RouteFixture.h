@@ -22,14 +22,14 @@ class RouteFixture : public ScheduleFixture {
 
     RouteFixture() { folder.WriteSamplePoints(); }
     /// The reply to a request for one leg from `from` to `to`, with one segment.
-    static std::string legReply(const std::string& from, const std::string& to, const std::string& pointset) {
+    static std::string LegReply(const std::string& from, const std::string& to, const std::string& pointset) {
         return R"([{point_cd:")" + from + R"(",routes:[],rp_groups:[]},{point_cd:")" + to +
                R"(",routes:[{route:"1",from_cd:")" + from + R"(",end_cd:")" + to + R"(",pointset:")" +
                pointset + R"("}],rp_groups:[]}])";
     }
     /// Typed rows A, B and C.
-    static PortCallRows threeRows() {
-        PortCallRows typed = typedRows();
+    static PortCallRows ThreeRows() {
+        PortCallRows typed = TypedRows();
         typed.push_back(typed[1]);
         typed[2].ppn = "C";
         typed[2].ppi = "40003";

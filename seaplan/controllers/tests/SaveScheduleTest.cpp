@@ -18,7 +18,7 @@ class SaveScheduleTest : public ScheduleFixture {
   protected:
     SaveScheduleTest() { folder.WriteSamplePoints(); }
 
-    void replySave() {
+    void ReplySave() {
         host.Reply(11, "{eid:0}");
         host.Reply(7, "[]");
         host.Reply(8, R"({eid:0,psb:"5"})");
@@ -27,7 +27,7 @@ class SaveScheduleTest : public ScheduleFixture {
 };
 
 TEST_F(SaveScheduleTest, PortIdsComeFromTheDictionaryAndUnknownNamesGetNone) {
-    rows = typedRows();
+    rows = TypedRows();
     rows[0].ppi.clear();
     rows[1].ppn = "nowhere";
     rows[1].ppi.clear();
@@ -38,7 +38,7 @@ TEST_F(SaveScheduleTest, PortIdsComeFromTheDictionaryAndUnknownNamesGetNone) {
 
 TEST_F(SaveScheduleTest, CalculationAsksForTheWholeRouteAndTimesTheRows) {
     host.Reply(1, kRouteAb);
-    EXPECT_EQ(voyages.CalculatePortCalls(typedRows(), rows), 0);
+    EXPECT_EQ(voyages.CalculatePortCalls(TypedRows(), rows), 0);
     EXPECT_EQ(host.Texts(), Texts{std::string("1 ") + kRequestAb});
     ASSERT_EQ(rows.size(), 2U);
     EXPECT_NEAR(rows[1].distance, 60.107F, 0.01F);
@@ -47,21 +47,21 @@ TEST_F(SaveScheduleTest, CalculationAsksForTheWholeRouteAndTimesTheRows) {
     EXPECT_EQ(rows[1].eta.fmt("%Y-%m-%d %H:%M"), "2024-03-01 20:00");
     EXPECT_TRUE(module.Pending().IsThere());
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_LINE").size(), 1U);
-    EXPECT_TRUE(voyage().portCalls.empty()) << "the store waits for the save";
+    EXPECT_TRUE(Voyage().portCalls.empty()) << "the store waits for the save";
 }
 
 TEST_F(SaveScheduleTest, EnteredSpeedOfALegSurvivesTheBook) {
     host.Reply(1, kRouteAb);
-    PortCallRows typed = typedRows();
+    PortCallRows typed = TypedRows();
     typed[1].psp = 15.0F;
     EXPECT_EQ(voyages.CalculatePortCalls(typed, rows), 0);
     EXPECT_NEAR(rows[1].psp, 15.0F, 1e-4F);
 }
 
 TEST_F(SaveScheduleTest, FailedOrShortRouteReplyFailsTheCalculation) {
-    EXPECT_LT(voyages.CalculatePortCalls(typedRows(), rows), 0);
+    EXPECT_LT(voyages.CalculatePortCalls(TypedRows(), rows), 0);
     host.Reply(1, R"([{point_cd:"40001"}])");
-    EXPECT_LT(voyages.CalculatePortCalls(typedRows(), rows), 0);
+    EXPECT_LT(voyages.CalculatePortCalls(TypedRows(), rows), 0);
     EXPECT_TRUE(rows.empty());
     EXPECT_FALSE(module.Pending().IsThere());
     EXPECT_LT(voyages.CalculatePortCalls({}, rows), 0);
@@ -69,8 +69,8 @@ TEST_F(SaveScheduleTest, FailedOrShortRouteReplyFailsTheCalculation) {
 
 TEST_F(SaveScheduleTest, FailedCalculationLeavesThePendingRouteThatTheTableShows) {
     host.Reply(1, kRouteAb);
-    voyages.CalculatePortCalls(typedRows(), rows);
-    PortCallRows changed = typedRows();
+    voyages.CalculatePortCalls(TypedRows(), rows);
+    PortCallRows changed = TypedRows();
     changed[1].pw = 1.0F;
     host.Reply(1, R"([{point_cd:"40002"},{point_cd:"40001"}])");
     EXPECT_EQ(voyages.CalculatePortCalls(changed, rows), -2) << "the steam time is not finite";
@@ -80,68 +80,68 @@ TEST_F(SaveScheduleTest, FailedCalculationLeavesThePendingRouteThatTheTableShows
 }
 
 TEST_F(SaveScheduleTest, FailedRecalculationLeavesTheVoyageAsItWas) {
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
-    PortCallRows changed = typedRows();
+    PortCallRows changed = TypedRows();
     changed[1].pw = 1.0F;
     host.Reply(1, kRouteAb);
     EXPECT_EQ(voyages.CalculateKeepingLegs("9", changed, rows), -3);
     EXPECT_FALSE(module.Pending().IsThere());
-    EXPECT_EQ(voyage().portCalls[1].pw, 0.0F);
-    EXPECT_EQ(voyage().positionBook.points.size(), 3U);
+    EXPECT_EQ(Voyage().portCalls[1].pw, 0.0F);
+    EXPECT_EQ(Voyage().positionBook.points.size(), 3U);
 }
 
 TEST_F(SaveScheduleTest, CalculationForAVoyageTellsWhetherItHadPortCalls) {
     int had = 7;
-    EXPECT_EQ(voyages.CalculateForVoyage("", typedRows(), rows, had), -1);
-    EXPECT_EQ(voyages.CalculateForVoyage("x", typedRows(), rows, had), -2);
+    EXPECT_EQ(voyages.CalculateForVoyage("", TypedRows(), rows, had), -1);
+    EXPECT_EQ(voyages.CalculateForVoyage("x", TypedRows(), rows, had), -2);
     host.Reply(1, kRouteAb);
-    EXPECT_EQ(voyages.CalculateForVoyage("9", typedRows(), rows, had), 0);
+    EXPECT_EQ(voyages.CalculateForVoyage("9", TypedRows(), rows, had), 0);
     EXPECT_EQ(had, 0);
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
     host.Reply(1, kRouteAb);
-    EXPECT_EQ(voyages.CalculateForVoyage("9", typedRows(), rows, had), 0);
+    EXPECT_EQ(voyages.CalculateForVoyage("9", TypedRows(), rows, had), 0);
     EXPECT_EQ(had, 1);
 }
 
 TEST_F(SaveScheduleTest, RecalculationKeepsTheWaypointsOfALegBetweenTheSamePorts) {
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
-    voyage().positionBook.points[1].position = "0.500,2.000";
+    Voyage().positionBook.points[1].position = "0.500,2.000";
     host.Reply(1, kRouteAb);
-    EXPECT_EQ(voyages.CalculateKeepingLegs("9", typedRows(), rows), 0);
-    ASSERT_EQ(voyage().positionBook.points.size(), 3U);
-    EXPECT_EQ(voyage().positionBook.points[1].position, "0.500,2.000");
-    EXPECT_EQ(voyage().portCalls[1].ppi, "40002");
+    EXPECT_EQ(voyages.CalculateKeepingLegs("9", TypedRows(), rows), 0);
+    ASSERT_EQ(Voyage().positionBook.points.size(), 3U);
+    EXPECT_EQ(Voyage().positionBook.points[1].position, "0.500,2.000");
+    EXPECT_EQ(Voyage().portCalls[1].ppi, "40002");
 }
 
 TEST_F(SaveScheduleTest, KeepingLegsNeedsTwoRowsOnBothSides) {
-    EXPECT_EQ(voyages.CalculateKeepingLegs("9", typedRows(), rows), -1);
-    replySchedule();
+    EXPECT_EQ(voyages.CalculateKeepingLegs("9", TypedRows(), rows), -1);
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
     EXPECT_EQ(voyages.CalculateKeepingLegs("9", PortCallRows(1), rows), -1);
 }
 
 TEST_F(SaveScheduleTest, NewVoyageSavesPortCallsDateAndRowsInThisOrder) {
     host.Reply(1, kRouteAb);
-    voyages.CalculatePortCalls(typedRows(), rows);
-    replySave();
+    voyages.CalculatePortCalls(TypedRows(), rows);
+    ReplySave();
     EXPECT_EQ(voyages.SaveSchedule("9", rows, -1), 0);
     EXPECT_EQ(host.Texts(), (Texts{std::string("1 ") + kRequestAb,
                                    R"(11 ["9","0|40001|A|L|0.000|0.000|6.0","1|40002|B|D|18.520|0.000|0.0"])",
                                    R"(7 {vi:"9"})", R"(8 {vi:"9",dt:"2024-03-01 00:00:00"})",
                                    std::string("9 ") + kBookRequestAb}));
-    EXPECT_EQ(voyage().positionBook.pbi, "5");
-    EXPECT_EQ(voyage().positionBook.eta, rows[0].eta);
-    EXPECT_EQ(voyage().positionBook.points.size(), 3U);
-    EXPECT_EQ(voyage().portCalls.size(), 2U);
+    EXPECT_EQ(Voyage().positionBook.pbi, "5");
+    EXPECT_EQ(Voyage().positionBook.eta, rows[0].eta);
+    EXPECT_EQ(Voyage().positionBook.points.size(), 3U);
+    EXPECT_EQ(Voyage().portCalls.size(), 2U);
     EXPECT_FALSE(module.Pending().IsThere());
     EXPECT_EQ(voyages.RouteIsCurrent(), 1);
 }
 
 TEST_F(SaveScheduleTest, SavedVoyageChangesTheDateAndSavesItsOwnBook) {
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
     rows[0].eta = Util::_datetime_t(0, 0, 10, 2, 3, 2024);
     rows[1].psp = 20.0F;
@@ -152,11 +152,11 @@ TEST_F(SaveScheduleTest, SavedVoyageChangesTheDateAndSavesItsOwnBook) {
     EXPECT_EQ(host.TextsOf(14), Texts{R"({psb:"5",dt:"2024-03-02 02:00:00"})"});
     EXPECT_NE(host.TextsOf(9)[0].find("0.500|0.000|GC|2|37.040|0"), std::string::npos)
         << "the row's new speed goes into the rows of its leg";
-    EXPECT_EQ(voyage().portCalls[0].eta, rows[0].eta);
+    EXPECT_EQ(Voyage().portCalls[0].eta, rows[0].eta);
 }
 
 TEST_F(SaveScheduleTest, SavingWithADrawModeRedrawsTheVoyage) {
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
     for (const int mode : {0, 1}) {
         host.Reply(11, "{eid:0}");
@@ -171,33 +171,33 @@ TEST_F(SaveScheduleTest, SavingWithADrawModeRedrawsTheVoyage) {
 }
 
 TEST_F(SaveScheduleTest, SaveNeedsAVoyageAndTwoRows) {
-    EXPECT_EQ(voyages.SaveSchedule("x", typedRows(), -1), -1);
+    EXPECT_EQ(voyages.SaveSchedule("x", TypedRows(), -1), -1);
     EXPECT_EQ(voyages.SaveSchedule("9", PortCallRows(1), -1), -1);
     EXPECT_TRUE(host.requests.empty());
 }
 
 TEST_F(SaveScheduleTest, EveryFailedStepEndsTheSaveAndEarlierStepsStay) {
-    EXPECT_EQ(voyages.SaveSchedule("9", typedRows(), -1), -2);
-    EXPECT_TRUE(voyage().portCalls.empty());
+    EXPECT_EQ(voyages.SaveSchedule("9", TypedRows(), -1), -2);
+    EXPECT_TRUE(Voyage().portCalls.empty());
     host.Reply(11, "{eid:0}");
-    EXPECT_EQ(voyages.SaveSchedule("9", typedRows(), -1), -3);
-    EXPECT_EQ(voyage().portCalls.size(), 2U) << "the port calls are on the server and stay";
+    EXPECT_EQ(voyages.SaveSchedule("9", TypedRows(), -1), -3);
+    EXPECT_EQ(Voyage().portCalls.size(), 2U) << "the port calls are on the server and stay";
     host.Reply(11, "{eid:0}");
     host.Reply(7, R"([{pbi:"5"}])");
-    EXPECT_EQ(voyages.SaveSchedule("9", typedRows(), -1), -5) << "there are no rows to save";
+    EXPECT_EQ(voyages.SaveSchedule("9", TypedRows(), -1), -5) << "there are no rows to save";
     host.Reply(1, kRouteAb);
-    voyages.CalculatePortCalls(typedRows(), rows);
+    voyages.CalculatePortCalls(TypedRows(), rows);
     host.Reply(11, "{eid:0}");
     host.Reply(14, "{eid:0}");
     EXPECT_EQ(voyages.SaveSchedule("9", rows, -1), -6);
     EXPECT_TRUE(module.Pending().IsThere()) << "the route waits for the next save";
-    EXPECT_TRUE(voyage().positionBook.points.empty());
+    EXPECT_TRUE(Voyage().positionBook.points.empty());
 }
 
 TEST_F(SaveScheduleTest, ReloadingDropsThePendingRoute) {
     host.Reply(1, kRouteAb);
-    voyages.CalculatePortCalls(typedRows(), rows);
-    replySchedule();
+    voyages.CalculatePortCalls(TypedRows(), rows);
+    ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
     EXPECT_FALSE(module.Pending().IsThere());
 }

@@ -40,13 +40,13 @@ class ScheduleFixture : public testing::Test {
         voyage.vn = "V";
     }
 
-    VoyInfo& voyage() { return store.voyages.at("9"); }
-    void replySchedule() {
+    VoyInfo& Voyage() { return store.voyages.at("9"); }
+    void ReplySchedule() {
         host.Reply(10, kPortCallsAb);
         host.Reply(7, kBookAb);
     }
     /// Two typed rows, A and B.
-    static PortCallRows typedRows() {
+    static PortCallRows TypedRows() {
         PortCallRows rows(2);
         rows[0].ppi = "40001";
         rows[0].ppn = "A";

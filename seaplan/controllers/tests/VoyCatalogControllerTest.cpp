@@ -18,7 +18,7 @@ class VoyCatalogControllerTest : public testing::Test {
     VoyCatalogControllerTest() { catalog.SetVoyController(&voyages); }
 
     /// Category "1" with voyage "9".
-    void fill() {
+    void Fill() {
         store.categories["1"].cn = "A";
         store.categoryStates["1"] = InUse;
         store.voyages["9"].vi = "9";
@@ -71,7 +71,7 @@ TEST_F(VoyCatalogControllerTest, UniqueNamesCountFromZeroAndNeverTakeThePlainBas
 }
 
 TEST_F(VoyCatalogControllerTest, NameMapsHoldStatesByName) {
-    fill();
+    Fill();
     store.categories["2"].cn = "stateless";
     store.voyages["8"].vn = "homeless";
     Names categories;
@@ -82,7 +82,7 @@ TEST_F(VoyCatalogControllerTest, NameMapsHoldStatesByName) {
 }
 
 TEST_F(VoyCatalogControllerTest, FilledCategoryMapStopsBothTables) {
-    fill();
+    Fill();
     Names categories{{"x", 0}};
     Names names;
     catalog.GetNameMaps(categories, names);
@@ -96,7 +96,7 @@ TEST_F(VoyCatalogControllerTest, FilledCategoryMapStopsBothTables) {
 }
 
 TEST_F(VoyCatalogControllerTest, ListedCategoriesAreThoseInUseInOrderOfId) {
-    fill();
+    Fill();
     store.categories["10"].cn = "B";
     store.categoryStates["10"] = InUse;
     store.categories["2"].cn = "C";
@@ -124,7 +124,7 @@ TEST_F(VoyCatalogControllerTest, AddedCategoryAndVoyageJoinTheStore) {
 }
 
 TEST_F(VoyCatalogControllerTest, IdThatTheStoreKnowsIsRefused) {
-    fill();
+    Fill();
     host.Reply(4, R"({eid:0,ci:"1"})");
     EXPECT_EQ(catalog.AddCategory("B", id), -2);
     EXPECT_EQ(store.categories.at("1").cn, "A");
@@ -134,7 +134,7 @@ TEST_F(VoyCatalogControllerTest, IdThatTheStoreKnowsIsRefused) {
 }
 
 TEST_F(VoyCatalogControllerTest, RenamingFollowsTheServer) {
-    fill();
+    Fill();
     EXPECT_EQ(catalog.RenameCategory("", "B"), -1);
     EXPECT_EQ(catalog.RenameCategory("1", ""), -1);
     EXPECT_EQ(catalog.RenameCategory("1", "B"), -2);
@@ -154,7 +154,7 @@ TEST_F(VoyCatalogControllerTest, RenamingFollowsTheServer) {
 }
 
 TEST_F(VoyCatalogControllerTest, CategoryGoesToTheBinBackAndAway) {
-    fill();
+    Fill();
     EXPECT_EQ(catalog.DeleteCategory(""), -1);
     EXPECT_EQ(catalog.DeleteCategory("1"), -2);
     EXPECT_EQ(store.categoryStates.at("1"), InUse);
@@ -175,7 +175,7 @@ TEST_F(VoyCatalogControllerTest, CategoryGoesToTheBinBackAndAway) {
 }
 
 TEST_F(VoyCatalogControllerTest, VoyageGoesToTheBinBackAndAway) {
-    fill();
+    Fill();
     EXPECT_EQ(catalog.DeleteVoyage("1", ""), -1);
     EXPECT_EQ(catalog.DeleteVoyage("1", "9"), -2);
     for (int i = 0; i < 6; ++i) {
@@ -196,7 +196,7 @@ TEST_F(VoyCatalogControllerTest, VoyageGoesToTheBinBackAndAway) {
 }
 
 TEST_F(VoyCatalogControllerTest, VesselWithoutIdButWithNameGoesThrough) {
-    fill();
+    Fill();
     EXPECT_EQ(catalog.ChangeVessel("9", "", "", 1), -1);
     EXPECT_EQ(catalog.ChangeVessel("9", "", "Ship", 1), -2);
     host.Reply(5, "{eid:0}");
@@ -211,7 +211,7 @@ TEST_F(VoyCatalogControllerTest, VesselWithoutIdButWithNameGoesThrough) {
 }
 
 TEST_F(VoyCatalogControllerTest, FlagsFollowTheServer) {
-    fill();
+    Fill();
     EXPECT_EQ(catalog.OpenRoute(""), -1);
     EXPECT_EQ(catalog.OpenRoute("9"), -2);
     EXPECT_EQ(store.voyages.at("9").vr, 0);
@@ -230,7 +230,7 @@ TEST_F(VoyCatalogControllerTest, FlagsFollowTheServer) {
 }
 
 TEST_F(VoyCatalogControllerTest, VoyageInNoCategoryCountsAsDeleted) {
-    fill();
+    Fill();
     store.categoryVoyages["1"]["9"] = Destroyed;
     store.categoryVoyages["2"]["9"] = InUse;
     int state = 7;
@@ -242,7 +242,7 @@ TEST_F(VoyCatalogControllerTest, VoyageInNoCategoryCountsAsDeleted) {
 }
 
 TEST_F(VoyCatalogControllerTest, AddedAisTimeIsKeptInTheRecord) {
-    fill();
+    Fill();
     EXPECT_EQ(catalog.AddAisModTime("9", "2024-01-01 08:00"), -1) << "seconds are missing";
     EXPECT_EQ(catalog.AddAisModTime("9", ""), -1);
     EXPECT_EQ(catalog.AddAisModTime("", "2024-01-01 08:00:00"), -1);
@@ -259,7 +259,7 @@ TEST_F(VoyCatalogControllerTest, AddedAisTimeIsKeptInTheRecord) {
 }
 
 TEST_F(VoyCatalogControllerTest, AisTimeThatDoesNotParseIsCountedAndKeptBeforeItFails) {
-    fill();
+    Fill();
     host.Reply(13, "{eid:0}");
     EXPECT_EQ(catalog.AddAisModTime("9", "1999-99-99 00:00:00"), -4);
     EXPECT_EQ(store.voyages.at("9").modais, 1);
@@ -268,7 +268,7 @@ TEST_F(VoyCatalogControllerTest, AisTimeThatDoesNotParseIsCountedAndKeptBeforeIt
 }
 
 TEST_F(VoyCatalogControllerTest, AisTimesAreReadOnce) {
-    fill();
+    Fill();
     Texts times;
     EXPECT_EQ(catalog.GetAisModTimes("", times), -1);
     EXPECT_EQ(catalog.GetAisModTimes("x", times), -2);

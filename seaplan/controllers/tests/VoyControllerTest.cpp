@@ -10,7 +10,7 @@ using Texts = std::vector<std::string>;
 class VoyControllerTest : public ScheduleFixture {};
 
 TEST_F(VoyControllerTest, LoadReadsPortCallsAndBookAndTimesTheRows) {
-    replySchedule();
+    ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
     EXPECT_EQ(host.Texts(), (Texts{R"(10 {vi:"9"})", R"(7 {vi:"9"})"}));
     ASSERT_EQ(rows.size(), 2U);
@@ -18,15 +18,15 @@ TEST_F(VoyControllerTest, LoadReadsPortCallsAndBookAndTimesTheRows) {
     EXPECT_EQ(rows[0].etd.fmt("%Y-%m-%d %H:%M:%S"), "2024-03-01 14:00:00");
     EXPECT_NEAR(rows[1].distance, 60.107F, 0.01F);
     EXPECT_NEAR(rows[1].steamTime, 6.0107F, 0.001F);
-    EXPECT_EQ(voyage().portCalls.size(), 2U);
-    EXPECT_EQ(voyage().positionBook.pbi, "5");
+    EXPECT_EQ(Voyage().portCalls.size(), 2U);
+    EXPECT_EQ(Voyage().positionBook.pbi, "5");
     EXPECT_EQ(voyages.RouteIsCurrent(), 1);
     EXPECT_EQ(module.Pending().DrawnVoyage(), "") << "only drawing it remembers a voyage";
     EXPECT_TRUE(host.chartCalls.empty());
 }
 
 TEST_F(VoyControllerTest, LoadedScheduleIsNotReadAgain) {
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
     rows.clear();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
@@ -35,13 +35,13 @@ TEST_F(VoyControllerTest, LoadedScheduleIsNotReadAgain) {
 }
 
 TEST_F(VoyControllerTest, PortCallsWithoutBookAreReadAgainBoth) {
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
-    voyage().positionBook.points.clear();
-    replySchedule();
+    Voyage().positionBook.points.clear();
+    ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
     EXPECT_EQ(host.requests.size(), 4U);
-    EXPECT_EQ(voyage().positionBook.points.size(), 3U);
+    EXPECT_EQ(Voyage().positionBook.points.size(), 3U);
 }
 
 TEST_F(VoyControllerTest, LoadLadder) {
@@ -56,13 +56,13 @@ TEST_F(VoyControllerTest, LoadLadder) {
     host.Reply(10, kPortCallsAb);
     host.Reply(7, R"([{pbi:"5",eta:"2024-03-01 00:00:00",pb:[{lon:0,pst:"5"}]}])");
     EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), -5);
-    EXPECT_TRUE(voyage().portCalls.empty());
-    EXPECT_EQ(voyage().positionBook.pbi, "5") << "the book is in the record before it is applied";
+    EXPECT_TRUE(Voyage().portCalls.empty());
+    EXPECT_EQ(Voyage().positionBook.pbi, "5") << "the book is in the record before it is applied";
     for (const int mode : {2, -2}) {
-        voyage().positionBook.points.clear();
-        replySchedule();
+        Voyage().positionBook.points.clear();
+        ReplySchedule();
         EXPECT_EQ(voyages.LoadSchedule("9", rows, mode), -8) << mode;
-        EXPECT_EQ(voyage().portCalls.size(), 2U) << "the mode is looked at behind the schedule";
+        EXPECT_EQ(Voyage().portCalls.size(), 2U) << "the mode is looked at behind the schedule";
     }
     EXPECT_EQ(voyages.RouteIsCurrent(), -1);
     EXPECT_TRUE(host.chartCalls.empty());
@@ -70,7 +70,7 @@ TEST_F(VoyControllerTest, LoadLadder) {
 
 TEST_F(VoyControllerTest, DrawModeOneShowsTheProgressAndRemembersTheVoyage) {
     clock.SetUtc(2024, 3, 1, 9);
-    replySchedule();
+    ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), 0);
     EXPECT_EQ(module.Pending().DrawnVoyage(), "9");
     ASSERT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").size(), 1U);
@@ -86,34 +86,34 @@ TEST_F(VoyControllerTest, ScheduleThatCannotBeDrawnIsLoadedButNotTheOneOnShow) {
     book.insert(book.find("]}]"), R"(,{lon:3,psn:"C",xc:3.0,yc:0.0,psp:"18.52",pst:"5"})");
     host.Reply(7, book);
     EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), -6) << "the book has a port more than the schedule";
-    EXPECT_EQ(voyage().portCalls.size(), 2U);
+    EXPECT_EQ(Voyage().portCalls.size(), 2U);
     EXPECT_EQ(module.Pending().DrawnVoyage(), "");
     EXPECT_EQ(voyages.RouteIsCurrent(), -1);
 }
 
 TEST_F(VoyControllerTest, DrawnProgressNeedsRowsOnBothSides) {
-    EXPECT_EQ(module.DrawPlannedProgress(voyage()), -1);
-    replySchedule();
+    EXPECT_EQ(module.DrawPlannedProgress(Voyage()), -1);
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
-    VoyInfo other = voyage();
+    VoyInfo other = Voyage();
     other.positionBook.points.resize(1);
     EXPECT_EQ(module.DrawPlannedProgress(other), -1);
-    other = voyage();
+    other = Voyage();
     other.portCalls.push_back(other.portCalls[1]);
     EXPECT_EQ(module.DrawPlannedProgress(other), -5);
-    other = voyage();
+    other = Voyage();
     other.portCalls[1].pw = 1.5F;
     EXPECT_EQ(module.DrawPlannedProgress(other), -7);
-    other = voyage();
+    other = Voyage();
     other.vi.clear();
     EXPECT_EQ(module.DrawPlannedProgress(other), -14);
     EXPECT_TRUE(host.ChartCallsOf("TRV_MAP_ADD_LINE").empty());
-    EXPECT_EQ(module.DrawPlannedProgress(voyage()), 0);
+    EXPECT_EQ(module.DrawPlannedProgress(Voyage()), 0);
 }
 
 TEST_F(VoyControllerTest, ShipUnderWayCutsTheVoyageInTwoLines) {
     clock.SetUtc(2024, 3, 1, 18);
-    replySchedule();
+    ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, 1), 0);
     const auto lines = host.ChartCallsOf("TRV_MAP_ADD_LINE");
     ASSERT_EQ(lines.size(), 2U);
@@ -128,7 +128,7 @@ TEST_F(VoyControllerTest, ShipUnderWayCutsTheVoyageInTwoLines) {
 }
 
 TEST_F(VoyControllerTest, DrawModeZeroShowsTheBookWithoutAShip) {
-    replySchedule();
+    ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, 0), 0);
     EXPECT_EQ(module.Pending().DrawnVoyage(), "");
     EXPECT_TRUE(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").empty());
@@ -155,16 +155,16 @@ TEST_F(VoyControllerTest, FiguresAreWrittenAfterTheServerAgreed) {
 }
 
 TEST_F(VoyControllerTest, ClearingCorrectionsStaysInMemory) {
-    voyage().modais = 2;
-    voyage().aisModTimes = {"a", "b"};
+    Voyage().modais = 2;
+    Voyage().aisModTimes = {"a", "b"};
     int count = 7;
     EXPECT_EQ(voyages.GetModAis("9", count), 0);
     EXPECT_EQ(count, 2);
     EXPECT_EQ(voyages.ClearAisMod(""), -1);
     EXPECT_EQ(voyages.ClearAisMod("x"), -2);
     EXPECT_EQ(voyages.ClearAisMod("9"), 0);
-    EXPECT_EQ(voyage().modais, 0);
-    EXPECT_TRUE(voyage().aisModTimes.empty());
+    EXPECT_EQ(Voyage().modais, 0);
+    EXPECT_TRUE(Voyage().aisModTimes.empty());
     EXPECT_TRUE(host.requests.empty());
 }
 
@@ -176,26 +176,26 @@ TEST_F(VoyControllerTest, DistanceTableHasNoCorrectionsAndLeavesTheCountAlone) {
 }
 
 TEST_F(VoyControllerTest, DiscardedChangesGiveWayToWhatWasSaved) {
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
-    voyage().portCalls[1].ppn = "edited";
-    voyage().modais = 1;
-    replySchedule();
+    Voyage().portCalls[1].ppn = "edited";
+    Voyage().modais = 1;
+    ReplySchedule();
     EXPECT_EQ(voyages.DiscardPortCalls("9"), 0);
-    EXPECT_EQ(voyage().portCalls[1].ppn, "B");
-    EXPECT_EQ(voyage().modais, 0);
+    EXPECT_EQ(Voyage().portCalls[1].ppn, "B");
+    EXPECT_EQ(Voyage().modais, 0);
     EXPECT_LT(voyages.DiscardPortCalls(""), 0);
     EXPECT_LT(voyages.DiscardPortCalls("x"), 0);
 }
 
 TEST_F(VoyControllerTest, DiscardedChangesLeaveACorrectedVoyageCorrected) {
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
-    voyage().modais = 2;
-    voyage().aisModTimes = {"2024-03-01 12:00:00"};
-    replySchedule();
+    Voyage().modais = 2;
+    Voyage().aisModTimes = {"2024-03-01 12:00:00"};
+    ReplySchedule();
     EXPECT_EQ(voyages.DiscardPortCalls("9"), 0);
-    EXPECT_EQ(voyage().modais, 2);
+    EXPECT_EQ(Voyage().modais, 2);
 }
 
 TEST_F(VoyControllerTest, ClearingTheChartRemovesAllFiveTypes) {
@@ -233,14 +233,14 @@ TEST_F(VoyControllerTest, ShownVoyageMustBeInUse) {
 TEST_F(VoyControllerTest, ShownVoyageIsClearedAndDrawn) {
     EXPECT_EQ(voyages.ShowVoyage("9"), -6) << "nothing can be loaded";
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_DEL_OBJECTS").size(), 10U);
-    replySchedule();
+    ReplySchedule();
     EXPECT_EQ(voyages.ShowVoyage("9"), 0);
     EXPECT_EQ(module.Pending().DrawnVoyage(), "9");
     EXPECT_EQ(host.ChartCallsOf("TRV_MAP_ADD_IMAGE").size(), 1U);
 }
 
 TEST_F(VoyControllerTest, MovedAndDeletedRowsMakeTheRouteStale) {
-    replySchedule();
+    ReplySchedule();
     voyages.LoadSchedule("9", rows, -1);
     PortCallRows out;
     EXPECT_LT(voyages.MoveRowUp(rows, 0, out), 0);

@@ -10,29 +10,29 @@ constexpr const char* kWayRequest = R"({"nr_point":[0.400,0.100],"dest_port":400
 class VoyageCorrectionTest : public CorrectionFixture {};
 
 TEST_F(VoyageCorrectionTest, PositionAndTheWayFromItReplaceTheRestOfTheLeg) {
-    replyWay();
+    ReplyWay();
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
     EXPECT_EQ(applied, 1);
-    EXPECT_EQ(voyage().modais, 1);
-    EXPECT_EQ(positions(), (Texts{"0.000,0.000", "0.4,0.1", "0.7,0.05", "1.000,0.000"}));
-    const PosBookPoint& fix = voyage().positionBook.points[1];
+    EXPECT_EQ(Voyage().modais, 1);
+    EXPECT_EQ(Positions(), (Texts{"0.000,0.000", "0.4,0.1", "0.7,0.05", "1.000,0.000"}));
+    const PosBookPoint& fix = Voyage().positionBook.points[1];
     EXPECT_EQ(fix.pst, AisTrackPoint);
     EXPECT_EQ(fix.psn, "AIS track point");
     EXPECT_EQ(fix.etd.fmt("%H:%M:%S"), "17:00:00");
     EXPECT_NEAR(fix.psp, 24.755F / 3, 0.02F) << "three hours since departure";
-    EXPECT_TRUE(voyage().aisModTimes.empty()) << "the time is recorded when the plan is made anew";
+    EXPECT_TRUE(Voyage().aisModTimes.empty()) << "the time is recorded when the plan is made anew";
     EXPECT_TRUE(host.chartCalls.empty());
 }
 
 TEST_F(VoyageCorrectionTest, VoyageCorrectedBeforeCountsFromOneAgain) {
-    voyage().modais = 3;
-    replyWay();
+    Voyage().modais = 3;
+    ReplyWay();
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
-    EXPECT_EQ(voyage().modais, 1);
+    EXPECT_EQ(Voyage().modais, 1);
 }
 
 TEST_F(VoyageCorrectionTest, OneRequestAsksForTheWayToTheNextPort) {
-    replyWay();
+    ReplyWay();
     voyages.ApplyAisPosition("9", applied);
     ASSERT_EQ(host.requests.size(), 1U);
     const std::string text = kWayRequest + std::string(1, '\0');
@@ -41,97 +41,97 @@ TEST_F(VoyageCorrectionTest, OneRequestAsksForTheWayToTheNextPort) {
 }
 
 TEST_F(VoyageCorrectionTest, TimeOfThePositionIsReadInTheUsersZone) {
-    replyWay();
+    ReplyWay();
     host.zone = "UTC";
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -9) << "09:00, and the ship leaves at 14:00";
-    EXPECT_EQ(voyage().modais, 0);
+    EXPECT_EQ(Voyage().modais, 0);
     host.zone = "China Standard Time";
-    replyWay();
+    ReplyWay();
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
 }
 
 TEST_F(VoyageCorrectionTest, BehindTheLastDepartureNothingIsDone) {
-    seeShipAt(22, 0);
+    SeeShipAt(22, 0);
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
     EXPECT_EQ(applied, 0);
-    EXPECT_EQ(voyage().modais, 0);
+    EXPECT_EQ(Voyage().modais, 0);
     EXPECT_TRUE(host.requests.empty());
 }
 
 // The stay at B has not run out, so B is still ahead and the way leads there: the position goes before it,
 // and is measured from the row left last, the port before.
 TEST_F(VoyageCorrectionTest, PositionDuringAStayGoesBetweenThePortLeftLastAndThePort) {
-    voyage().positionBook.points.erase(voyage().positionBook.points.begin() + 1);
-    voyage().portCalls[1].apt = 8;
-    seeShipAt(22, 0);
-    replyWay("0.9,0|1,0");
+    Voyage().positionBook.points.erase(Voyage().positionBook.points.begin() + 1);
+    Voyage().portCalls[1].apt = 8;
+    SeeShipAt(22, 0);
+    ReplyWay("0.9,0|1,0");
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
     EXPECT_EQ(applied, 1);
     EXPECT_EQ(host.TextsOf(2), Texts{kWayRequest});
-    EXPECT_EQ(positions(), (Texts{"0.000,0.000", "0.9,0", "1.000,0.000"}));
-    EXPECT_NEAR(voyage().positionBook.points[1].psp, 0.9F * 60.107F / 8, 0.01F)
+    EXPECT_EQ(Positions(), (Texts{"0.000,0.000", "0.9,0", "1.000,0.000"}));
+    EXPECT_NEAR(Voyage().positionBook.points[1].psp, 0.9F * 60.107F / 8, 0.01F)
         << "eight hours since A, less than B's stay and the way";
 }
 
 TEST_F(VoyageCorrectionTest, ShipThatHardlyMovedGetsNoRowButTheNewWay) {
-    voyage().lastPosText = "0.004,0.000";
-    replyWay("0.004,0|0.7,0.05|1,0");
+    Voyage().lastPosText = "0.004,0.000";
+    ReplyWay("0.004,0|0.7,0.05|1,0");
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
     EXPECT_EQ(applied, 0) << "0.24 miles in three hours";
-    EXPECT_EQ(positions(), (Texts{"0.000,0.000", "0.7,0.05", "1.000,0.000"}));
-    EXPECT_EQ(voyage().modais, 1) << "the voyage counts as corrected all the same";
+    EXPECT_EQ(Positions(), (Texts{"0.000,0.000", "0.7,0.05", "1.000,0.000"}));
+    EXPECT_EQ(Voyage().modais, 1) << "the voyage counts as corrected all the same";
 }
 
 TEST_F(VoyageCorrectionTest, SpeedOfExactlyTheLimitGetsNoRow) {
-    voyage().portCalls[1].pw = 0.5F;
-    replyWay("0.0024,0|1,0");
+    Voyage().portCalls[1].pw = 0.5F;
+    ReplyWay("0.0024,0|1,0");
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
     EXPECT_EQ(applied, 0) << "0.144 miles in three hours are 0.096 knots through the weather";
-    replyWay("0.0026,0|1,0");
+    ReplyWay("0.0026,0|1,0");
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
     EXPECT_EQ(applied, 1) << "0.104 knots";
 }
 
 TEST_F(VoyageCorrectionTest, AnswerWithoutPointsTakesTheRestOfTheLegOut) {
-    replyWay("");
+    ReplyWay("");
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), 0);
     EXPECT_EQ(applied, 1);
-    EXPECT_EQ(positions(), (Texts{"0.000,0.000", "1.000,0.000"}));
+    EXPECT_EQ(Positions(), (Texts{"0.000,0.000", "1.000,0.000"}));
 }
 
 TEST_F(VoyageCorrectionTest, EveryFailureHasItsNumberAndLeavesTheVoyage) {
-    const VoyInfo whole = voyage();
-    const Texts old = positions();
+    const VoyInfo whole = Voyage();
+    const Texts old = Positions();
     EXPECT_EQ(voyages.ApplyAisPosition("", applied), -1);
     EXPECT_EQ(voyages.ApplyAisPosition("x", applied), -2);
-    voyage().vsi.clear();
+    Voyage().vsi.clear();
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -3);
-    voyage() = whole;
-    voyage().lastPosText.clear();
+    Voyage() = whole;
+    Voyage().lastPosText.clear();
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -4);
-    voyage() = whole;
-    voyage().lastPosTime = 0;
+    Voyage() = whole;
+    Voyage().lastPosTime = 0;
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -4);
-    voyage() = whole;
+    Voyage() = whole;
     host.zone.reset();
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -5);
     host.zone = "China Standard Time";
-    voyage().portCalls[1].pw = 1.0F;
+    Voyage().portCalls[1].pw = 1.0F;
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -6);
-    voyage() = whole;
-    voyage().portCalls.resize(1);
+    Voyage() = whole;
+    Voyage().portCalls.resize(1);
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -6);
-    voyage() = whole;
+    Voyage() = whole;
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -7) << "nobody answers";
-    replyWay();
-    voyage().positionBook.points.resize(1);
+    ReplyWay();
+    Voyage().positionBook.points.resize(1);
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -8);
-    voyage() = whole;
-    replyWay();
-    seeShipAt(13, 59, 59);
+    Voyage() = whole;
+    ReplyWay();
+    SeeShipAt(13, 59, 59);
     EXPECT_EQ(voyages.ApplyAisPosition("9", applied), -9) << "the ship had not left";
-    EXPECT_EQ(positions(), old);
-    EXPECT_EQ(voyage().modais, 0);
+    EXPECT_EQ(Positions(), old);
+    EXPECT_EQ(Voyage().modais, 0);
     EXPECT_EQ(applied, 0);
 }
 
@@ -148,9 +148,9 @@ TEST_F(VoyageCorrectionTest, WayFromTheServerHasALadder) {
     EXPECT_EQ(module.RequestNearestRoute("1,2", "40002", way), -3);
     host.Reply(2, R"({eid:1,emsg:"no such port"})");
     EXPECT_EQ(module.RequestNearestRoute("1,2", "40002", way), -4);
-    replyWay("1,2|here|3,4");
+    ReplyWay("1,2|here|3,4");
     EXPECT_EQ(module.RequestNearestRoute("1,2", "40002", way), -5);
-    replyWay("1,2|,4");
+    ReplyWay("1,2|,4");
     EXPECT_EQ(module.RequestNearestRoute("1,2", "40002", way), -5);
     EXPECT_TRUE(way.empty());
     host.Reply(2, R"({pointset:"1,2||3,4"})");
@@ -159,30 +159,30 @@ TEST_F(VoyageCorrectionTest, WayFromTheServerHasALadder) {
 }
 
 TEST_F(VoyageCorrectionTest, CorrectedVoyageSplitsIntoHistoryAndPlan) {
-    replyWay();
+    ReplyWay();
     voyages.ApplyAisPosition("9", applied);
     EXPECT_EQ(voyages.SplitAisRows("9", before, after), 0);
-    EXPECT_EQ(nameList(before), "A 0.100,0.400") << "latitude first";
+    EXPECT_EQ(NameList(before), "A 0.100,0.400") << "latitude first";
     EXPECT_EQ(before[1].pp, " ");
     EXPECT_EQ(before[1].eta.fmt("%H:%M"), "17:00");
     EXPECT_NEAR(before[1].steamTime, 3, 0.001);
-    EXPECT_EQ(nameList(after), "B");
+    EXPECT_EQ(NameList(after), "B");
 }
 
 TEST_F(VoyageCorrectionTest, SplitTellsWhatIsMissing) {
     EXPECT_EQ(voyages.SplitAisRows("", before, after), -1);
     EXPECT_EQ(voyages.SplitAisRows("x", before, after), -2);
     EXPECT_EQ(voyages.SplitAisRows("9", before, after), -5) << "no position in it";
-    voyage().portCalls.push_back(voyage().portCalls[1]);
+    Voyage().portCalls.push_back(Voyage().portCalls[1]);
     EXPECT_EQ(voyages.SplitAisRows("9", before, after), -4);
-    voyage().positionBook.points[1].psp = 0;
+    Voyage().positionBook.points[1].psp = 0;
     EXPECT_EQ(voyages.SplitAisRows("9", before, after), -3);
 }
 
 TEST_F(VoyageCorrectionTest, CorrectedVoyageStaysSoUntilItIsCleared) {
-    replyWay();
+    ReplyWay();
     voyages.ApplyAisPosition("9", applied);
-    voyage().aisModTimes = {"2024-03-01 17:00:00"};
+    Voyage().aisModTimes = {"2024-03-01 17:00:00"};
     int count = 0;
     EXPECT_EQ(voyages.GetModAis("9", count), 0);
     EXPECT_EQ(count, 1);
@@ -190,8 +190,8 @@ TEST_F(VoyageCorrectionTest, CorrectedVoyageStaysSoUntilItIsCleared) {
     EXPECT_EQ(voyages.ClearAisMod("x"), -2);
     host.requests.clear();
     EXPECT_EQ(voyages.ClearAisMod("9"), 0);
-    EXPECT_EQ(voyage().modais, 0);
-    EXPECT_TRUE(voyage().aisModTimes.empty());
+    EXPECT_EQ(Voyage().modais, 0);
+    EXPECT_TRUE(Voyage().aisModTimes.empty());
     EXPECT_TRUE(host.requests.empty()) << "only the memory forgets";
 }
 

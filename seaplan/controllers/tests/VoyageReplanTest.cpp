@@ -17,16 +17,16 @@ constexpr const char* kRouteBc =
 class VoyageReplanTest : public CorrectionFixture {
   protected:
     VoyageReplanTest() {
-        replyWay();
+        ReplyWay();
         voyages.ApplyAisPosition("9", applied);
         voyages.SplitAisRows("9", before, after);
         after.at(0).psp = 12;
         after.at(0).pw = 0.25F;
         host.requests.clear();
     }
-    int replan() { return voyages.ReplanFromAis("9", before, after, rows); }
+    int Replan() { return voyages.ReplanFromAis("9", before, after, rows); }
     /// Plans on to C.
-    void planC() {
+    void PlanC() {
         after.push_back(after[0]);
         after[1].ppn = "C";
         after[1].ppi.clear();
@@ -36,82 +36,82 @@ class VoyageReplanTest : public CorrectionFixture {
 };
 
 TEST_F(VoyageReplanTest, RestOfTheVoyageFollowsTheServersWayAtThePlannedSpeed) {
-    replyWay("0.4,0.1|0.6,0.2|0.8,0.1|1,0");
-    EXPECT_EQ(replan(), 0);
+    ReplyWay("0.4,0.1|0.6,0.2|0.8,0.1|1,0");
+    EXPECT_EQ(Replan(), 0);
     EXPECT_EQ(host.Texts(), Texts{kWayRequest});
-    EXPECT_EQ(positions(), (Texts{"0.000,0.000", "0.4,0.1", "0.6,0.2", "0.8,0.1", "1,0"}));
-    const BookPoints& points = voyage().positionBook.points;
+    EXPECT_EQ(Positions(), (Texts{"0.000,0.000", "0.4,0.1", "0.6,0.2", "0.8,0.1", "1,0"}));
+    const BookPoints& points = Voyage().positionBook.points;
     EXPECT_EQ(points[1].pst, AisTrackPoint) << "the history stays";
     EXPECT_EQ(points[2].psp, 9) << "what the weather leaves of 12 knots";
     EXPECT_EQ(points[4].pst, PortPoint);
     EXPECT_EQ(points[4].psn, "B");
-    EXPECT_EQ(nameList(voyage().portCalls), "A B");
-    EXPECT_EQ(nameList(rows), "A B");
+    EXPECT_EQ(NameList(Voyage().portCalls), "A B");
+    EXPECT_EQ(NameList(rows), "A B");
     EXPECT_GT(rows[1].distance, 60.107F) << "by way of the position";
     EXPECT_GT(rows[1].eta, rows[0].etd);
     EXPECT_TRUE(host.chartCalls.empty()) << "one port ahead needs no route between ports";
 }
 
 TEST_F(VoyageReplanTest, PortsBehindTheFirstAreRoutedAnew) {
-    planC();
-    replyWay();
+    PlanC();
+    ReplyWay();
     host.Reply(1, kRouteBc);
-    EXPECT_EQ(replan(), 0);
+    EXPECT_EQ(Replan(), 0);
     EXPECT_EQ(host.Texts(), (Texts{kWayRequest, kRouteRequestBc}));
-    EXPECT_EQ(positions(), (Texts{"0.000,0.000", "0.4,0.1", "0.7,0.05", "1,0", "2,0.5", "3,0"}));
-    const BookPoints& points = voyage().positionBook.points;
+    EXPECT_EQ(Positions(), (Texts{"0.000,0.000", "0.4,0.1", "0.7,0.05", "1,0", "2,0.5", "3,0"}));
+    const BookPoints& points = Voyage().positionBook.points;
     EXPECT_NEAR(points[4].psp, 20, 1e-4) << "scaled to the speed planned to C";
     EXPECT_EQ(points[5].psn, "C");
-    EXPECT_EQ(nameList(voyage().portCalls), "A B C");
+    EXPECT_EQ(NameList(Voyage().portCalls), "A B C");
     EXPECT_FALSE(module.Pending().IsThere());
 }
 
 TEST_F(VoyageReplanTest, PurposesThatAreMissingInThePlanBecomeDischarging) {
     after[0].pp = " ";
-    replyWay();
-    EXPECT_EQ(replan(), 0);
-    EXPECT_EQ(voyage().portCalls[0].pp, "L");
-    EXPECT_EQ(voyage().portCalls[1].pp, "D");
+    ReplyWay();
+    EXPECT_EQ(Replan(), 0);
+    EXPECT_EQ(Voyage().portCalls[0].pp, "L");
+    EXPECT_EQ(Voyage().portCalls[1].pp, "D");
 }
 
 // A route that was calculated for another table must not become this voyage's book at the next save.
 TEST_F(VoyageReplanTest, PendingRouteOfAnotherCalculationIsDropped) {
     host.Reply(1, kRouteAb);
     PortCallRows calculated;
-    voyages.CalculatePortCalls(typedRows(), calculated);
+    voyages.CalculatePortCalls(TypedRows(), calculated);
     ASSERT_TRUE(module.Pending().IsThere());
-    replyWay();
-    EXPECT_EQ(replan(), 0);
-    EXPECT_EQ(positions().size(), 4U);
+    ReplyWay();
+    EXPECT_EQ(Replan(), 0);
+    EXPECT_EQ(Positions().size(), 4U);
     EXPECT_FALSE(module.Pending().IsThere());
 }
 
 TEST_F(VoyageReplanTest, EveryFailureHasItsNumberAndLeavesTheVoyageAndThePendingRoute) {
     module.Pending().Take(RouteStops(2));
-    const Texts old = positions();
-    const VoyInfo whole = voyage();
+    const Texts old = Positions();
+    const VoyInfo whole = Voyage();
     EXPECT_EQ(voyages.ReplanFromAis("", before, after, rows), -1);
     EXPECT_EQ(voyages.ReplanFromAis("x", before, after, rows), -1);
     EXPECT_EQ(voyages.ReplanFromAis("9", {}, after, rows), -1);
     EXPECT_EQ(voyages.ReplanFromAis("9", before, {}, rows), -1);
     EXPECT_EQ(voyages.ReplanFromAis("9", after, after, rows), -3) << "the history ends in a port";
-    EXPECT_EQ(replan(), -6) << "nobody answers";
-    replyWay();
-    voyage().positionBook.points[1].position = "0.41,0.1";
-    EXPECT_EQ(replan(), -4);
-    voyage() = whole;
-    replyWay("1,0");
-    EXPECT_EQ(replan(), -5);
-    planC();
-    replyWay();
-    EXPECT_EQ(replan(), -7) << "no route between B and C";
+    EXPECT_EQ(Replan(), -6) << "nobody answers";
+    ReplyWay();
+    Voyage().positionBook.points[1].position = "0.41,0.1";
+    EXPECT_EQ(Replan(), -4);
+    Voyage() = whole;
+    ReplyWay("1,0");
+    EXPECT_EQ(Replan(), -5);
+    PlanC();
+    ReplyWay();
+    EXPECT_EQ(Replan(), -7) << "no route between B and C";
     after[0].psp = 0;
     after.resize(1);
-    replyWay();
-    EXPECT_EQ(replan(), -9) << "no speed to sail with";
-    EXPECT_EQ(positions(), old);
-    EXPECT_EQ(nameList(voyage().portCalls), "A B");
-    EXPECT_EQ(voyage().portCalls[1].psp, whole.portCalls[1].psp);
+    ReplyWay();
+    EXPECT_EQ(Replan(), -9) << "no speed to sail with";
+    EXPECT_EQ(Positions(), old);
+    EXPECT_EQ(NameList(Voyage().portCalls), "A B");
+    EXPECT_EQ(Voyage().portCalls[1].psp, whole.portCalls[1].psp);
     EXPECT_TRUE(rows.empty());
     EXPECT_EQ(module.Pending().Stops().size(), 2U);
 }
@@ -119,15 +119,15 @@ TEST_F(VoyageReplanTest, EveryFailureHasItsNumberAndLeavesTheVoyageAndThePending
 TEST_F(VoyageReplanTest, PortThatTheDictionaryLacksIsNotAskedFor) {
     after[0].ppn = "nowhere";
     after[0].ppi.clear();
-    EXPECT_EQ(replan(), -6);
+    EXPECT_EQ(Replan(), -6);
     EXPECT_TRUE(host.requests.empty());
 }
 
 // What the person does: correct, calculate, save, record the time, draw. Every request in order.
 TEST_F(VoyageReplanTest, CorrectionIsPlannedSavedRecordedAndDrawn) {
-    replyWay();
-    ASSERT_EQ(replan(), 0);
-    const PortCallRows saved = voyage().portCalls;
+    ReplyWay();
+    ASSERT_EQ(Replan(), 0);
+    const PortCallRows saved = Voyage().portCalls;
     host.Reply(11, "{eid:0}");
     host.Reply(14, "{eid:0}");
     host.Reply(9, "{eid:0}");
@@ -143,7 +143,7 @@ TEST_F(VoyageReplanTest, CorrectionIsPlannedSavedRecordedAndDrawn) {
                         R"("1|AIS track point|0.4|0.1|GC|5|15.293|4","2||0.7|0.05|GC|5|16.668|0",)"
                         R"("3|B|1|0|GC|5|16.668|5"])");
     EXPECT_EQ(texts[4], R"(13 {vi:"9",time:"2024-03-01 09:00:00"})");
-    EXPECT_EQ(voyage().modais, 2);
+    EXPECT_EQ(Voyage().modais, 2);
     clock.SetUtc(2024, 3, 1, 18);
     host.chartCalls.clear();
     EXPECT_EQ(voyages.ShowVoyage("9"), 0);

@@ -13,7 +13,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-PortDirectory ports() {
+PortDirectory Ports() {
     return {{"Rouen", "ROTTERDAM", "Rostock", "HAMBURG", "ROTTERDAM"},
             {{"鹿特丹", "ROTTERDAM"}, {"鹿儿岛", "KAGOSHIMA"}, {"汉堡", "HAMBURG"}},
             {{"1-2", ""}, {"2-1", ""}}};
@@ -22,25 +22,25 @@ PortDirectory ports() {
 }  // namespace
 
 TEST(PortDirectory, MatchesBeginWithTheTypedTextInAnyCase) {
-    EXPECT_THAT(ports().Match("ro", 10), ElementsAre("Rostock", "ROTTERDAM", "Rouen"));
-    EXPECT_THAT(ports().Match("RO", 2), ElementsAre("Rostock", "ROTTERDAM"));
-    EXPECT_THAT(ports().Match("xyz", 10), IsEmpty());
-    EXPECT_THAT(ports().Match("", 10), IsEmpty());
-    EXPECT_THAT(ports().Match("otter", 10), IsEmpty());
+    EXPECT_THAT(Ports().Match("ro", 10), ElementsAre("Rostock", "ROTTERDAM", "Rouen"));
+    EXPECT_THAT(Ports().Match("RO", 2), ElementsAre("Rostock", "ROTTERDAM"));
+    EXPECT_THAT(Ports().Match("xyz", 10), IsEmpty());
+    EXPECT_THAT(Ports().Match("", 10), IsEmpty());
+    EXPECT_THAT(Ports().Match("otter", 10), IsEmpty());
 }
 
 TEST(PortDirectory, LocalNamesMatchAndGiveThePortsName) {
-    EXPECT_THAT(ports().Match("鹿", 10), ElementsAre("KAGOSHIMA", "ROTTERDAM"));
-    EXPECT_EQ(ports().NameOf("鹿特丹"), "ROTTERDAM");
-    EXPECT_EQ(ports().NameOf("上海"), "");
+    EXPECT_THAT(Ports().Match("鹿", 10), ElementsAre("KAGOSHIMA", "ROTTERDAM"));
+    EXPECT_EQ(Ports().NameOf("鹿特丹"), "ROTTERDAM");
+    EXPECT_EQ(Ports().NameOf("上海"), "");
 }
 
 TEST(PortDirectory, TheCaseOfATypedNameDoesNotMatter) {
-    EXPECT_EQ(ports().NameOf("rotterdam"), "ROTTERDAM");
-    EXPECT_EQ(ports().NameOf("ROUEN"), "Rouen");
-    EXPECT_EQ(ports().NameOf("Atlantis"), "Atlantis");
-    EXPECT_TRUE(ports().Knows("Rouen"));
-    EXPECT_FALSE(ports().Knows("Atlantis"));
+    EXPECT_EQ(Ports().NameOf("rotterdam"), "ROTTERDAM");
+    EXPECT_EQ(Ports().NameOf("ROUEN"), "Rouen");
+    EXPECT_EQ(Ports().NameOf("Atlantis"), "Atlantis");
+    EXPECT_TRUE(Ports().Knows("Rouen"));
+    EXPECT_FALSE(Ports().Knows("Atlantis"));
     EXPECT_TRUE(PortDirectory({}, {}, {}).Knows("Atlantis"));
 }
 
@@ -90,8 +90,8 @@ TEST(PortDirectory, IdsAndNamesAreTheHosts) {
 }
 
 TEST(PortDirectory, LinkedIdsAreOnePlace) {
-    EXPECT_TRUE(ports().IsSamePlace("1", "2"));
-    EXPECT_FALSE(ports().IsSamePlace("1", "3"));
+    EXPECT_TRUE(Ports().IsSamePlace("1", "2"));
+    EXPECT_FALSE(Ports().IsSamePlace("1", "3"));
 }
 
 }  // namespace Tarvik::Seaplan

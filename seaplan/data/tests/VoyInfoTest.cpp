@@ -12,14 +12,14 @@ namespace {
 
 using Util::_datetime_t;
 
-_datetime_t at(int hour) {
+_datetime_t At(int hour) {
     return {0, 0, hour, 1, 12, 2026};
 }
 
-PortCallRows portCalls(int departure, int arrival) {
+PortCallRows PortCalls(int departure, int arrival) {
     PortCallRows rows(2);
-    rows.front().etd = at(departure);
-    rows.back().eta = at(arrival);
+    rows.front().etd = At(departure);
+    rows.back().eta = At(arrival);
     return rows;
 }
 
@@ -139,23 +139,23 @@ TEST(VoyInfo, ACopyIsDeep) {
 }
 
 TEST(VoyInfo, StatusFollowsTheClock) {
-    EXPECT_EQ(StatusAt({}, at(5)), VoyageStatus::Plan);
-    EXPECT_EQ(StatusAt(portCalls(6, 8), at(5)), VoyageStatus::Plan);
-    EXPECT_EQ(StatusAt(portCalls(4, 8), at(5)), VoyageStatus::Underway);
-    EXPECT_EQ(StatusAt(portCalls(2, 4), at(5)), VoyageStatus::Finished);
-    EXPECT_EQ(StatusAt(portCalls(2, 5), at(5)), VoyageStatus::Finished);
+    EXPECT_EQ(StatusAt({}, At(5)), VoyageStatus::Plan);
+    EXPECT_EQ(StatusAt(PortCalls(6, 8), At(5)), VoyageStatus::Plan);
+    EXPECT_EQ(StatusAt(PortCalls(4, 8), At(5)), VoyageStatus::Underway);
+    EXPECT_EQ(StatusAt(PortCalls(2, 4), At(5)), VoyageStatus::Finished);
+    EXPECT_EQ(StatusAt(PortCalls(2, 5), At(5)), VoyageStatus::Finished);
 }
 
 TEST(VoyInfo, StatusOfOnePortCallFollowsItsOwnTimes) {
     PortCallRows one(1);
-    one.front().eta = at(3);
-    one.front().etd = at(6);
-    EXPECT_EQ(StatusAt(one, at(5)), VoyageStatus::Plan);
-    EXPECT_EQ(StatusAt(one, at(7)), VoyageStatus::Finished);
+    one.front().eta = At(3);
+    one.front().etd = At(6);
+    EXPECT_EQ(StatusAt(one, At(5)), VoyageStatus::Plan);
+    EXPECT_EQ(StatusAt(one, At(7)), VoyageStatus::Finished);
 }
 
 TEST(VoyInfo, ADepartureExactlyNowCountsAsFinished) {
-    EXPECT_EQ(StatusAt(portCalls(5, 8), at(5)), VoyageStatus::Finished);
+    EXPECT_EQ(StatusAt(PortCalls(5, 8), At(5)), VoyageStatus::Finished);
 }
 
 }  // namespace

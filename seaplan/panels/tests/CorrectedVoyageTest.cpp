@@ -9,7 +9,7 @@ using ::testing::ElementsAre;
 
 namespace {
 
-VoyPortCall call(const std::string& name, const std::string& purpose, float distance, int day) {
+VoyPortCall Call(const std::string& name, const std::string& purpose, float distance, int day) {
     VoyPortCall row;
     row.ppn = name;
     row.pp = purpose;
@@ -30,8 +30,8 @@ class CorrectedPanelTest : public PortCallFixture {
         store.voyages[kept].modais = 1;
         PortCallRows rows;
         schedule.LoadSchedule(kept, rows, -1);
-        ais.before = {call("ROTTERDAM", "L", 0, 1), call("52.000,4.100", " ", 100, 2)};
-        ais.after = {call("HAMBURG", "D", 140, 3), call("GDANSK", "D", 240, 4)};
+        ais.before = {Call("ROTTERDAM", "L", 0, 1), Call("52.000,4.100", " ", 100, 2)};
+        ais.after = {Call("HAMBURG", "D", 140, 3), Call("GDANSK", "D", 240, 4)};
     }
     RowClass Look(int row) const { return view.table.Rows()[row].look; }
 };
@@ -58,7 +58,7 @@ TEST_F(CorrectedPanelTest, HistoryAndPlanStandInOneTable) {
 
 TEST_F(CorrectedPanelTest, ManyRowsEndWithOneFreeRowAndTheClosingRow) {
     for (int i = 0; i < 5; ++i) {
-        ais.after.push_back(call("ROUEN", "D", 10, 5 + i));
+        ais.after.push_back(Call("ROUEN", "D", 10, 5 + i));
     }
     Open(kept);
     EXPECT_EQ(view.table.RowCount(), 10);

@@ -23,10 +23,10 @@ class FakeAis final : public AisCommands {
 
     int ApplyAisPosition(const std::string& vi, int& count) override {
         count = applied;
-        return done("ApplyAisPosition", vi);
+        return Done("ApplyAisPosition", vi);
     }
     int SplitAisRows(const std::string& vi, PortCallRows& history, PortCallRows& plan) override {
-        if (done("SplitAisRows", vi) != 0) {
+        if (Done("SplitAisRows", vi) != 0) {
             return -5;
         }
         history = before;
@@ -34,19 +34,19 @@ class FakeAis final : public AisCommands {
         return 0;
     }
     int ReplanFromAis(const std::string& vi, const PortCallRows& history, const PortCallRows& plan) override {
-        return done("ReplanFromAis",
+        return Done("ReplanFromAis",
                     vi + " " + std::to_string(history.size()) + " " + std::to_string(plan.size()));
     }
     int ClearAisMod(const std::string& vi) override {
         store_.voyages[vi].modais = 0;
-        return done("ClearAisMod", vi);
+        return Done("ClearAisMod", vi);
     }
     int AddAisModTime(const std::string& vi, const std::string& time) override {
-        return done("AddAisModTime", vi + " " + time);
+        return Done("AddAisModTime", vi + " " + time);
     }
 
   private:
-    int done(const std::string& operation, const std::string& argument) {
+    int Done(const std::string& operation, const std::string& argument) {
         calls.push_back(operation + " " + argument);
         return refused.contains(operation) ? -1 : 0;
     }

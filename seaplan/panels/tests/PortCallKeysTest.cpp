@@ -16,7 +16,7 @@ namespace {
 class SearchPlugin final : public Core::TObject {
   public:
     SearchPlugin() {
-        event_.Set<&SearchPlugin::onQuery>(this);
+        event_.Set<&SearchPlugin::OnQuery>(this);
         auto* kernel = Core::TrvKernel::Instance();
         kernel->CreateTrvService(kName, this, "", "", nullptr);
         kernel->BindTrvService(kName, &event_);
@@ -32,7 +32,7 @@ class SearchPlugin final : public Core::TObject {
 
   private:
     static constexpr const char* kName = Interface::Bus::MatchPorts.name;
-    void* onQuery(void* input) {
+    void* OnQuery(void* input) {
         queries.push_back(*static_cast<const Interface::MatchPortQuery*>(input));
         return &window;
     }

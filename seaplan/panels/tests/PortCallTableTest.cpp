@@ -8,7 +8,7 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-PortCallRows rowsNamed(int count) {
+PortCallRows RowsNamed(int count) {
     PortCallRows rows(count);
     for (int i = 0; i < count; ++i) {
         rows[i].ppn = "P" + std::to_string(i);
@@ -58,10 +58,10 @@ TEST(PortCallTable, TheLastNumberedRowGrowsAFreeOneBelow) {
 
 TEST(PortCallTable, FiveRowsKeepTheShapeSixRebuildItWithoutAClosingRow) {
     PortCallTable table;
-    table.WriteRows(rowsNamed(5));
+    table.WriteRows(RowsNamed(5));
     EXPECT_EQ(table.RowCount(), 6);
     EXPECT_EQ(table.Rows().size(), 8U);
-    table.WriteRows(rowsNamed(6));
+    table.WriteRows(RowsNamed(6));
     EXPECT_EQ(table.RowCount(), 7);
     ASSERT_EQ(table.Rows().size(), 8U);
     EXPECT_EQ(table.Cell(7, ColOrder), "RES");
@@ -70,9 +70,9 @@ TEST(PortCallTable, FiveRowsKeepTheShapeSixRebuildItWithoutAClosingRow) {
 
 TEST(PortCallTable, WritingFewerRowsBlanksTheRest) {
     PortCallTable table;
-    table.WriteRows(rowsNamed(4));
-    table.WriteTotals(rowsNamed(4));
-    table.WriteRows(rowsNamed(2));
+    table.WriteRows(RowsNamed(4));
+    table.WriteTotals(RowsNamed(4));
+    table.WriteRows(RowsNamed(2));
     EXPECT_EQ(table.Cell(1, ColPort), "P1");
     EXPECT_EQ(table.Cell(2, ColPort), " ");
     EXPECT_EQ(table.Cell(6, ColDistance), " ");
@@ -81,7 +81,7 @@ TEST(PortCallTable, WritingFewerRowsBlanksTheRest) {
 
 TEST(PortCallTable, TotalsHaveOneDecimalForTheSteamTimeAndTwoForTheRest) {
     PortCallTable table;
-    table.WriteTotals(rowsNamed(3));
+    table.WriteTotals(RowsNamed(3));
     EXPECT_EQ(table.Cell(6, ColSteamTime), "3.0");
     EXPECT_EQ(table.Cell(6, ColPortTime), "1.50");
     EXPECT_EQ(table.Cell(6, ColDistance), "300.00");
@@ -94,15 +94,15 @@ TEST(PortCallTable, TotalsHaveOneDecimalForTheSteamTimeAndTwoForTheRest) {
 
 TEST(PortCallTable, TotalsOfOneRowAreNotWritten) {
     PortCallTable table;
-    table.WriteTotals(rowsNamed(1));
+    table.WriteTotals(RowsNamed(1));
     EXPECT_EQ(table.Cell(6, ColDistance), " ");
 }
 
 TEST(PortCallTable, ThePartialFormShowsOnlyWhatWasEntered) {
     PortCallTable table;
-    table.WriteRows(rowsNamed(3));
-    table.WriteTotals(rowsNamed(3));
-    table.WritePartial(rowsNamed(2));
+    table.WriteRows(RowsNamed(3));
+    table.WriteTotals(RowsNamed(3));
+    table.WritePartial(RowsNamed(2));
     EXPECT_EQ(table.Cell(1, ColPort), "P1");
     EXPECT_EQ(table.Cell(1, ColPurpose), "D");
     EXPECT_EQ(table.Cell(1, ColSpeed), "10.00");
@@ -117,7 +117,7 @@ TEST(PortCallTable, ThePartialFormShowsOnlyWhatWasEntered) {
 
 TEST(PortCallTable, RowActionsFollowThePlaceAmongTheFilledRows) {
     PortCallTable table;
-    table.WriteRows(rowsNamed(2));
+    table.WriteRows(RowsNamed(2));
     EXPECT_FALSE(table.ActionsOf(0).moveUp);
     EXPECT_TRUE(table.ActionsOf(0).moveDown);
     EXPECT_TRUE(table.ActionsOf(1).moveUp);
@@ -129,7 +129,7 @@ TEST(PortCallTable, RowActionsFollowThePlaceAmongTheFilledRows) {
 
 TEST(PortCallTable, UnknownPortsAreMarked) {
     PortCallTable table;
-    table.WriteRows(rowsNamed(2));
+    table.WriteRows(RowsNamed(2));
     table.MarkUnknownPorts([](const std::string& name) { return name == "P0"; });
     EXPECT_FALSE(table.Rows()[0].unknownPort);
     EXPECT_TRUE(table.Rows()[1].unknownPort);

@@ -22,10 +22,10 @@ class FleetPlugin final : public Core::TObject {
     FleetPlugin() {
         all_.Set<&FleetPlugin::onAll>(this);
         add_.Set<&FleetPlugin::onAdd>(this);
-        info_.Set<&FleetPlugin::onInfo>(this);
-        bind(Interface::Bus::AllVessels.name, all_);
-        bind(Interface::Bus::ShowAddVessel.name, add_);
-        bind(Interface::Bus::ShowVesselInfo.name, info_);
+        info_.Set<&FleetPlugin::OnInfo>(this);
+        Bind(Interface::Bus::AllVessels.name, all_);
+        Bind(Interface::Bus::ShowAddVessel.name, add_);
+        Bind(Interface::Bus::ShowVesselInfo.name, info_);
     }
     ~FleetPlugin() override {
         auto* kernel = Core::TrvKernel::Instance();
@@ -42,7 +42,7 @@ class FleetPlugin final : public Core::TObject {
     int window = 0;
 
   private:
-    void bind(const char* name, Core::TEvent& event) {
+    void Bind(const char* name, Core::TEvent& event) {
         Core::TrvKernel::Instance()->CreateTrvService(name, this, "", "", nullptr);
         Core::TrvKernel::Instance()->BindTrvService(name, &event);
         bound_.emplace_back(name, &event);
@@ -53,7 +53,7 @@ class FleetPlugin final : public Core::TObject {
         handle_ = &window;
         return &handle_;
     }
-    void* onInfo(void* input) {
+    void* OnInfo(void* input) {
         shownIds.push_back(*static_cast<const std::string*>(input));
         return nullptr;
     }

@@ -27,12 +27,12 @@ class PlanServiceTest : public ScheduleFixture {
         request.ports = {{"A", "", 10.0F, 0.0F, 6.0F}, {"B", "", 10.0F, 0.0F, 0.0F}};
     }
     /// The user's voyages have been loaded before; nothing of this user is in use.
-    void loadStore() {
+    void LoadStore() {
         store.categories["1"].ci = "1";
         store.categories["1"].cn = "Old";
         store.categoryStates["1"] = InRecycleBin;
     }
-    void askToSave() {
+    void AskToSave() {
         request.save = true;
         request.category = "Cat";
         request.voyage = "V";
@@ -44,7 +44,7 @@ class PlanServiceTest : public ScheduleFixture {
         host.Reply(9, "{eid:0}");
     }
     /// Plans and expects failure `code`, with nothing but words in the answer.
-    void expectFailure(int code) {
+    void ExpectFailure(int code) {
         const PlanResult& result = service.Plan(request);
         EXPECT_EQ(result.code, code);
         EXPECT_FALSE(result.step.empty());
@@ -120,25 +120,25 @@ TEST_F(PlanServiceTest, FiguresThatAllowNoVoyageAreRefusedBeforeAnythingIsAsked)
     const float endless = std::numeric_limits<float>::infinity();
     for (const float speed : {0.0F, -3.0F, 0.001F, nan, endless}) {
         request.ports[1].speed = speed;
-        expectFailure(Interface::PlanNotCalculated);
+        ExpectFailure(Interface::PlanNotCalculated);
         EXPECT_NE(service.Plan(request).step.find("speed"), std::string::npos);
     }
     request.ports[1].speed = 10.0F;
     for (const float weather : {1.0F, 1.5F, -0.01F, nan}) {
         request.ports[1].weather = weather;
-        expectFailure(Interface::PlanNotCalculated);
+        ExpectFailure(Interface::PlanNotCalculated);
         EXPECT_NE(service.Plan(request).step.find("weather"), std::string::npos);
     }
     request.ports[1].weather = 0;
     request.ports[0].portTime = -1;
-    expectFailure(Interface::PlanNotCalculated);
+    ExpectFailure(Interface::PlanNotCalculated);
     EXPECT_TRUE(host.TextsOf(1).empty());
 }
 
 TEST_F(PlanServiceTest, StayBeyondTheCalendarIsToldAsSuch) {
     host.Reply(1, kRouteAb);
     request.ports[0].portTime = 1e30F;
-    expectFailure(Interface::PlanNotCalculated);
+    ExpectFailure(Interface::PlanNotCalculated);
 }
 
 TEST_F(PlanServiceTest, MissingTableOfPointsIsNamed) {
@@ -150,9 +150,9 @@ TEST_F(PlanServiceTest, MissingTableOfPointsIsNamed) {
 }
 
 TEST_F(PlanServiceTest, NamesAreKeptAsTheTreeKeepsTypedOnes) {
-    loadStore();
+    LoadStore();
     host.Reply(1, kRouteAb);
-    askToSave();
+    AskToSave();
     request.category = " R&D ";
     request.voyage = "say \"V\"";
     ASSERT_EQ(service.Plan(request).code, Interface::PlanDone);
@@ -161,14 +161,14 @@ TEST_F(PlanServiceTest, NamesAreKeptAsTheTreeKeepsTypedOnes) {
               "D\",type:0}");
     EXPECT_EQ(store.voyages.at("22").vn, "say \xEF\xBC\x82V\xEF\xBC\x82");
     host.Reply(1, kRouteAb);
-    expectFailure(Interface::PlanNameTaken);
+    ExpectFailure(Interface::PlanNameTaken);
     request.voyage = "  ";
-    expectFailure(Interface::PlanNameMissing);
+    ExpectFailure(Interface::PlanNameMissing);
 }
 
 TEST_F(PlanServiceTest, SavedPlanMakesCategoryAndVoyageAndSavesTheSchedule) {
     host.Reply(1, kRouteAb);
-    askToSave();
+    AskToSave();
     const PlanResult& result = service.Plan(request);
     ASSERT_EQ(result.code, Interface::PlanDone) << result.step;
     EXPECT_EQ(result.categoryId, "11");
@@ -184,9 +184,9 @@ TEST_F(PlanServiceTest, SavedPlanMakesCategoryAndVoyageAndSavesTheSchedule) {
 }
 
 TEST_F(PlanServiceTest, SavedVoyageIsInAStoreThatWasLoaded) {
-    loadStore();
+    LoadStore();
     host.Reply(1, kRouteAb);
-    askToSave();
+    AskToSave();
     ASSERT_EQ(service.Plan(request).code, Interface::PlanDone);
     EXPECT_TRUE(host.TextsOf(3).empty()) << "once loaded is enough";
     EXPECT_EQ(store.voyages.at("22").portCalls.size(), 2U);
@@ -195,7 +195,7 @@ TEST_F(PlanServiceTest, SavedVoyageIsInAStoreThatWasLoaded) {
 
 TEST_F(PlanServiceTest, StoreThatWasNotLoadedIsLeftForThePanelToLoad) {
     host.Reply(1, kRouteAb);
-    askToSave();
+    AskToSave();
     ASSERT_EQ(service.Plan(request).code, Interface::PlanDone);
     for (int round = 1; round <= 2; ++round) {
         EXPECT_TRUE(store.categories.empty());
@@ -204,12 +204,12 @@ TEST_F(PlanServiceTest, StoreThatWasNotLoadedIsLeftForThePanelToLoad) {
         EXPECT_TRUE(store.categoryVoyages.empty());
         EXPECT_EQ(host.TextsOf(3).size(), round) << "asked for at every plan";
         host.Reply(4, R"({eid:0,ci:"11"})");
-        expectFailure(Interface::PlanNotCalculated);
+        ExpectFailure(Interface::PlanNotCalculated);
     }
 }
 
 TEST_F(PlanServiceTest, RouteThatAPanelHasCalculatedStaysTheOneItSaves) {
-    loadStore();
+    LoadStore();
     request.save = false;
     for (const bool known : {true, false}) {
         RouteStops calculated(3);
@@ -228,7 +228,7 @@ TEST_F(PlanServiceTest, CategoryInUseIsTakenAndOneInTheBinIsNot) {
     store.categories["3"].cn = "Cat";
     store.categoryStates["3"] = InRecycleBin;
     host.Reply(1, kRouteAb);
-    askToSave();
+    AskToSave();
     EXPECT_EQ(service.Plan(request).categoryId, "11");
     request.voyage = "W";
     host.Reply(1, kRouteAb);
@@ -244,62 +244,62 @@ TEST_F(PlanServiceTest, CategoryInUseIsTakenAndOneInTheBinIsNot) {
 
 TEST_F(PlanServiceTest, UnconnectedOrUnloadedClientPlansNothing) {
     host.connected = false;
-    expectFailure(Interface::PlanNotConnected);
+    ExpectFailure(Interface::PlanNotConnected);
     host.connected = true;
     host.user = "";
-    expectFailure(Interface::PlanNotLoaded);
+    ExpectFailure(Interface::PlanNotLoaded);
 }
 
 TEST_F(PlanServiceTest, UnknownPortIsNamed) {
     request.ports[1].name = "Atlantis";
-    expectFailure(Interface::PlanUnknownPort);
+    ExpectFailure(Interface::PlanUnknownPort);
     EXPECT_NE(service.Plan(request).step.find("Atlantis"), std::string::npos);
     EXPECT_TRUE(host.TextsOf(1).empty());
 }
 
 TEST_F(PlanServiceTest, OnePlaceTwiceIsNoVoyage) {
     request.ports[1].name = "A";
-    expectFailure(Interface::PlanTooFewPorts);
+    ExpectFailure(Interface::PlanTooFewPorts);
     request.ports.clear();
-    expectFailure(Interface::PlanTooFewPorts);
+    ExpectFailure(Interface::PlanTooFewPorts);
 }
 
 TEST_F(PlanServiceTest, MissingRouteMakesNoVoyageOnTheServer) {
-    askToSave();
-    expectFailure(Interface::PlanNotCalculated);
+    AskToSave();
+    ExpectFailure(Interface::PlanNotCalculated);
     EXPECT_TRUE(host.TextsOf(4).empty());
     EXPECT_TRUE(host.TextsOf(5).empty());
 }
 
 TEST_F(PlanServiceTest, SavingNeedsNamesAndAFreeOne) {
-    askToSave();
+    AskToSave();
     request.category.clear();
-    expectFailure(Interface::PlanNameMissing);
+    ExpectFailure(Interface::PlanNameMissing);
     request.category = "Cat";
     store.categories["1"].ci = "1";
     store.voyages["9"].vn = "V";
-    expectFailure(Interface::PlanNameTaken);
+    ExpectFailure(Interface::PlanNameTaken);
 }
 
 TEST_F(PlanServiceTest, RefusedSaveIsToldByItsStep) {
-    loadStore();
+    LoadStore();
     request.save = true;
     request.category = "Cat";
     request.voyage = "V";
     host.Reply(1, kRouteAb);
-    expectFailure(Interface::PlanNoCategory);
+    ExpectFailure(Interface::PlanNoCategory);
     host.Reply(1, kRouteAb);
     host.Reply(4, R"({eid:0,ci:"11"})");
-    expectFailure(Interface::PlanNoVoyage);
+    ExpectFailure(Interface::PlanNoVoyage);
     host.Reply(1, kRouteAb);
     host.Reply(5, R"({eid:0,vi:"22"})");
     host.Reply(5, "{eid:0}");
     host.Reply(4, "{eid:0}");
-    expectFailure(Interface::PlanNotSaved);
+    ExpectFailure(Interface::PlanNotSaved);
 }
 
 TEST_F(PlanServiceTest, FailedSaveTakesVoyageAndNewCategoryBack) {
-    loadStore();
+    LoadStore();
     request.save = true;
     request.category = "Cat";
     request.voyage = "V";
@@ -308,7 +308,7 @@ TEST_F(PlanServiceTest, FailedSaveTakesVoyageAndNewCategoryBack) {
     host.Reply(5, R"({eid:0,vi:"22"})");
     host.Reply(5, "{eid:0}");
     host.Reply(4, "{eid:0}");
-    expectFailure(Interface::PlanNotSaved);
+    ExpectFailure(Interface::PlanNotSaved);
     EXPECT_EQ(host.TextsOf(5).back(), R"({vi:"22",type:"4"})");
     EXPECT_EQ(host.TextsOf(4).back(), R"({ci:"11",type:"3"})");
     EXPECT_EQ(store.categoryVoyages.at("11").at("22"), Destroyed);
@@ -322,7 +322,7 @@ TEST_F(PlanServiceTest, FailedSaveLeavesACategoryThatWasThere) {
     request.category = "Cat";
     request.voyage = "V";
     host.Reply(1, kRouteAb);
-    expectFailure(Interface::PlanNoVoyage);
+    ExpectFailure(Interface::PlanNoVoyage);
     EXPECT_TRUE(host.TextsOf(4).empty());
     EXPECT_EQ(store.categoryStates.at("3"), InUse);
 }

@@ -10,7 +10,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-BookPoints pointsOf(std::size_t count) {
+BookPoints PointsOf(std::size_t count) {
     PosBookPoint point;
     point.psn = "P";
     point.position = "120.000,30.500";
@@ -107,7 +107,7 @@ TEST_F(BookCommandsTest, FailedLoadAppendsNoRows) {
 }
 
 TEST_F(BookCommandsTest, RowsComeInOrderAndAreAppendedAndTheLaterOfTwoStays) {
-    book.points = pointsOf(1);
+    book.points = PointsOf(1);
     host.Reply(7, R"([{eta:"2011-01-01 00:00:00",pb:[{lon:10,psn:"C"},{lon:2,psn:"x"},{lon:2,psn:"B"}]}])");
     EXPECT_EQ(LoadPositionBook("77", book), 0);
     ASSERT_EQ(book.points.size(), 3U);
@@ -178,7 +178,7 @@ TEST_F(BookCommandsTest, DateOfABook) {
 }
 
 TEST_F(BookCommandsTest, ShortListIsOneByteExactRequest) {
-    BookPoints rows = pointsOf(2);
+    BookPoints rows = PointsOf(2);
     rows[1].position = "1.5,2.25,9";
     rows[1].psr = "RL";
     rows[1].pli = 2;
@@ -198,10 +198,10 @@ TEST_F(BookCommandsTest, EmptyListSendsTheHeadAlone) {
 
 TEST_F(BookCommandsTest, NinetyNineRowsKeepThreeDecimalsAndAHundredOne) {
     host.Reply(9, "{eid:0}");
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(99)), 0);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(99)), 0);
     EXPECT_NE(host.requests[0].Text().find("|18.520|"), std::string::npos);
     host.Reply(9, "{eid:0}");
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(100)), 0);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(100)), 0);
     ASSERT_EQ(host.requests.size(), 2U) << "a hundred rows are one request";
     EXPECT_NE(host.requests[1].Text().find("|18.5|"), std::string::npos);
     EXPECT_EQ(host.requests[1].Text().find("|18.520|"), std::string::npos);
@@ -210,13 +210,13 @@ TEST_F(BookCommandsTest, NinetyNineRowsKeepThreeDecimalsAndAHundredOne) {
 TEST_F(BookCommandsTest, TwoHundredRowsAreTwoRequests) {
     host.Reply(9, "{eid:0}");
     host.Reply(9, "{eid:0}");
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(200)), 0);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(200)), 0);
     EXPECT_EQ(host.requests.size(), 2U);
 }
 
 TEST_F(BookCommandsTest, OneRowIsTaken) {
     host.Reply(9, "{eid:0}");
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(1)), 0);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(1)), 0);
     EXPECT_EQ(host.Texts(), Texts{R"(9 ["5","0","0|P|120.000|30.500|GC|5|18.520|0"])"});
     EXPECT_EQ(host.requests[0].ModuleWord(), 5);
 }
@@ -225,7 +225,7 @@ TEST_F(BookCommandsTest, LaterBlockThatIsRefusedEndsTheSaving) {
     host.Reply(9, "{eid:0}");
     host.Reply(9, "{eid:4}");
     host.Reply(9, "{eid:0}");
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(250)), -7);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(250)), -7);
     EXPECT_EQ(host.requests.size(), 2U);
 }
 
@@ -233,7 +233,7 @@ TEST_F(BookCommandsTest, LaterBlocksAppendAndTheNumbersRunOn) {
     for (int i = 0; i < 3; ++i) {
         host.Reply(9, "{eid:0}");
     }
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(201)), 0);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(201)), 0);
     ASSERT_EQ(host.requests.size(), 3U);
     EXPECT_EQ(host.requests[0].Text().rfind(R"(["5","0","0|P|)", 0), 0U);
     EXPECT_EQ(host.requests[1].Text().rfind(R"(["5","1","100|P|)", 0), 0U);
@@ -241,25 +241,25 @@ TEST_F(BookCommandsTest, LaterBlocksAppendAndTheNumbersRunOn) {
 }
 
 TEST_F(BookCommandsTest, SaveLadderOfTheShortForm) {
-    BookPoints rows = pointsOf(2);
+    BookPoints rows = PointsOf(2);
     EXPECT_EQ(SavePositionBookRows("", rows), -1);
     rows[1].position = "120";
     EXPECT_EQ(SavePositionBookRows("5", rows), -2);
     EXPECT_TRUE(host.requests.empty());
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(1)), -3);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(1)), -3);
     host.Reply(9, "{eid:1}");
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(1)), -4);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(1)), -4);
 }
 
 TEST_F(BookCommandsTest, SaveLadderOfTheLongFormLeavesEarlierBlocks) {
-    BookPoints rows = pointsOf(150);
+    BookPoints rows = PointsOf(150);
     rows[120].position = "120";
     host.Reply(9, "{eid:0}");
     EXPECT_EQ(SavePositionBookRows("5", rows), -5);
     EXPECT_EQ(host.requests.size(), 1U) << "the first block went out before";
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(100)), -6);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(100)), -6);
     host.Reply(9, "{}");
-    EXPECT_EQ(SavePositionBookRows("5", pointsOf(100)), -7);
+    EXPECT_EQ(SavePositionBookRows("5", PointsOf(100)), -7);
 }
 
 }  // namespace

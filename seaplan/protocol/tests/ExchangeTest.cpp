@@ -13,7 +13,7 @@ namespace {
 
 using TestSupport::RecordingHost;
 
-Util::CAutoBuffer bufferOf(const std::string& text) {
+Util::CAutoBuffer BufferOf(const std::string& text) {
     Util::CAutoBuffer buffer(256);
     Util::CBlockBuffer::format0(buffer, "%s", text.c_str());
     return buffer;
@@ -23,7 +23,7 @@ TEST(SendRequestTest, EnvelopeIsByteExactAndCountsTheTerminatingNul) {
     RecordingHost host;
     host.Reply(3, "[]");
     Util::Jsona reply;
-    EXPECT_EQ(SendRequest(bufferOf("{ui:\"7\"}"), 3, reply), 0);
+    EXPECT_EQ(SendRequest(BufferOf("{ui:\"7\"}"), 3, reply), 0);
     ASSERT_EQ(host.requests.size(), 1U);
     const std::string expected("\x09\x00\x00\x00\x03\x00\x05\x00{ui:\"7\"}\x00", 17);
     EXPECT_EQ(host.requests[0].bytes, expected);
@@ -32,25 +32,25 @@ TEST(SendRequestTest, EnvelopeIsByteExactAndCountsTheTerminatingNul) {
 TEST(SendRequestTest, WithoutReplyFails) {
     RecordingHost host;
     Util::Jsona reply;
-    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -1);
+    EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), -1);
 }
 
 TEST(SendRequestTest, WithoutHostFails) {
     Util::Jsona reply;
-    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -1);
+    EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), -1);
 }
 
 TEST(SendRequestTest, RequestBlockIsFreedWhateverTheHostAnswers) {
     RecordingHost host;
     const long before = Core::LiveBusBlocks();
     Util::Jsona reply;
-    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -1);
+    EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), -1);
     EXPECT_EQ(host.requests.size(), 1U) << "the host was asked and answered nothing";
     EXPECT_EQ(Core::LiveBusBlocks(), before);
     host.Reply(3, "[]");
-    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), 0);
+    EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), 0);
     host.Reply(3, "no json");
-    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -2);
+    EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), -2);
     EXPECT_EQ(Core::LiveBusBlocks(), before);
 }
 
@@ -59,7 +59,7 @@ TEST(SendRequestTest, ReplyThatDoesNotParseFailsAndItsBlockIsFreed) {
     host.Reply(3, "{eid:");
     const long before = Core::LiveBusBlocks();
     Util::Jsona reply;
-    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), -2);
+    EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), -2);
     EXPECT_EQ(Core::LiveBusBlocks(), before);
 }
 
@@ -68,7 +68,7 @@ TEST(SendRequestTest, GoodReplyBlockIsFreedAndItsTextStays) {
     host.Reply(3, "{eid:0,ci:\"12\"}");
     const long before = Core::LiveBusBlocks();
     Util::Jsona reply;
-    EXPECT_EQ(SendRequest(bufferOf("{}"), 3, reply), 0);
+    EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), 0);
     EXPECT_EQ(Core::LiveBusBlocks(), before);
     EXPECT_EQ(reply.getv("ci", ""), "12");
 }

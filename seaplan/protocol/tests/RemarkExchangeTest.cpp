@@ -37,7 +37,7 @@ TEST(SendRemarkTest, TextEndsAtItsFirstNul) {
 
 class SyncServerTest : public testing::Test {
   protected:
-    bool sync(const std::string& json) {
+    bool Sync(const std::string& json) {
         host.Reply(9, json);
         RemarkBlock request;
         SendRemark("{}", request);
@@ -56,28 +56,28 @@ TEST_F(SyncServerTest, WithoutReplyFails) {
 }
 
 TEST_F(SyncServerTest, WithoutRequestNothingIsSent) {
-    EXPECT_TRUE(sync("{}"));
+    EXPECT_TRUE(Sync("{}"));
     EXPECT_FALSE(SyncServer({}, reply));
     EXPECT_EQ(reply, nullptr) << "an older reply does not stay";
     EXPECT_EQ(host.requests.size(), 1U);
 }
 
 TEST_F(SyncServerTest, ErrorNumberOtherThanZeroFails) {
-    EXPECT_FALSE(sync(R"({eid:7,emsg:"no"})"));
-    EXPECT_FALSE(sync("{eid:-1}"));
+    EXPECT_FALSE(Sync(R"({eid:7,emsg:"no"})"));
+    EXPECT_FALSE(Sync("{eid:-1}"));
     EXPECT_STREQ(reply->Payload(), "{eid:-1}") << "the reply is handed out all the same";
 }
 
 TEST_F(SyncServerTest, ErrorNumberThatIsNoIntegerFails) {
-    EXPECT_FALSE(sync(R"({eid:"0"})"));
-    EXPECT_FALSE(sync("{eid:0.0}"));
-    EXPECT_FALSE(sync("{eid:null}"));
+    EXPECT_FALSE(Sync(R"({eid:"0"})"));
+    EXPECT_FALSE(Sync("{eid:0.0}"));
+    EXPECT_FALSE(Sync("{eid:null}"));
 }
 
 TEST_F(SyncServerTest, ZeroMissingOrUnreadableIsSuccess) {
     for (const char* json :
          {"{eid:0}", "{}", R"({emsg:"no"})", "[]", "[{eid:7}]", "7", "no json", "", "{eid:7"}) {
-        EXPECT_TRUE(sync(json)) << json;
+        EXPECT_TRUE(Sync(json)) << json;
         EXPECT_NE(reply, nullptr) << json;
     }
 }

@@ -18,7 +18,7 @@ using Texts = std::vector<std::string>;
 class RemarkListTest : public testing::Test {
   protected:
     /// Fills the list with remarks of voyage 21 that have these numbers.
-    void load(const Texts& numbers) {
+    void Load(const Texts& numbers) {
         std::string json;
         for (const std::string& number : numbers) {
             json += json.empty() ? "" : ",";
@@ -29,10 +29,10 @@ class RemarkListTest : public testing::Test {
         ASSERT_TRUE(list.LoadRemarks(3, "21"));
         host.requests.clear();
     }
-    bool add(const std::string& subject = "T", const std::string& body = "B") {
+    bool Add(const std::string& subject = "T", const std::string& body = "B") {
         return list.AddRemark(3, "21", seq, subject, body);
     }
-    Texts subjects() const {
+    Texts Subjects() const {
         Texts all;
         for (std::size_t i = 0; i < list.Count(); ++i) {
             all.push_back(list.At(i)->subject);
@@ -52,14 +52,14 @@ TEST_F(RemarkListTest, LoadAsksForTheObjectAndKeepsTheReplysOrder) {
     EXPECT_TRUE(list.LoadRemarks(4, "21Hamburg"));
     EXPECT_EQ(host.Texts(), Texts{R"(9 {optype:"4",type:"4",objectid:"21Hamburg"})"});
     EXPECT_EQ(host.requests[0].ModuleWord(), 0x1002);
-    EXPECT_EQ(subjects(), (Texts{"c", "a"}));
+    EXPECT_EQ(Subjects(), (Texts{"c", "a"}));
     EXPECT_EQ(*list.At(0), (CRemark{4, "21Hamburg", 3, "c", "B", "5", "2024-03-01 08:00:00"}));
     EXPECT_EQ(list.At(2), nullptr);
     EXPECT_EQ(Core::LiveBusBlocks(), blocksBefore);
 }
 
 TEST_F(RemarkListTest, EmptyListReplyIsASuccessWithNothingToShow) {
-    load({"1"});
+    Load({"1"});
     host.Reply(9, "[]");
     EXPECT_TRUE(list.LoadRemarks(3, "21"));
     EXPECT_EQ(list.Count(), 0U);
@@ -67,22 +67,22 @@ TEST_F(RemarkListTest, EmptyListReplyIsASuccessWithNothingToShow) {
 
 TEST_F(RemarkListTest, LoadEmptiesTheListWhateverComesAfter) {
     for (const char* json : {"{eid:7}", "no json", ""}) {
-        load({"1", "2"});
+        Load({"1", "2"});
         host.Reply(9, json);
         EXPECT_FALSE(list.LoadRemarks(3, "21")) << json;
         EXPECT_EQ(list.Count(), 0U) << json;
     }
-    load({"1"});
+    Load({"1"});
     EXPECT_FALSE(list.LoadRemarks(3, "21")) << "no reply";
     EXPECT_EQ(list.Count(), 0U);
-    load({"1"});
+    Load({"1"});
     EXPECT_FALSE(list.LoadRemarks(3, std::string(256, 'x'))) << "nothing sent";
     EXPECT_EQ(list.Count(), 0U);
     EXPECT_EQ(Core::LiveBusBlocks(), blocksBefore);
 }
 
 TEST_F(RemarkListTest, ObjectMayBeNamedByARemarkOfTheList) {
-    load({"1"});
+    Load({"1"});
     host.Reply(9, R"([{seq:"2"}])");
     EXPECT_TRUE(list.LoadRemarks(3, list.At(0)->objectid));
     ASSERT_EQ(list.Count(), 1U);
@@ -91,31 +91,31 @@ TEST_F(RemarkListTest, ObjectMayBeNamedByARemarkOfTheList) {
 
 TEST_F(RemarkListTest, WithoutAZoneTheLastChangeIsEmptyAfterALoad) {
     host.zone.reset();
-    load({"1"});
+    Load({"1"});
     EXPECT_EQ(list.At(0)->udate, "");
     EXPECT_EQ(list.At(0)->cdate, "5");
 }
 
 TEST_F(RemarkListTest, NextNumberIsOneWithoutRemarksAndOneAboveTheHighestOfTheObject) {
     EXPECT_EQ(list.NextRemarkSeq(3, "21"), 1);
-    load({"3", "1"});
+    Load({"3", "1"});
     EXPECT_EQ(list.NextRemarkSeq(3, "21"), 4);
     EXPECT_EQ(list.NextRemarkSeq(2, "21"), 1) << "another class";
     EXPECT_EQ(list.NextRemarkSeq(3, "22"), 1) << "another object";
 }
 
 TEST_F(RemarkListTest, NextNumberIsNeverBelowOneAndHasATop) {
-    load({"-5"});
+    Load({"-5"});
     EXPECT_EQ(list.NextRemarkSeq(3, "21"), 1);
-    load({"2147483647"});
+    Load({"2147483647"});
     EXPECT_EQ(list.NextRemarkSeq(3, "21"), std::numeric_limits<int>::max());
 }
 
 TEST_F(RemarkListTest, AddedRemarkComesLastWithLocalTimes) {
-    load({"3", "1"});
+    Load({"3", "1"});
     clock.SetUtc(2024, 5, 6, 7, 8, 9);
     host.Reply(9, "{eid:0}");
-    EXPECT_TRUE(add());
+    EXPECT_TRUE(Add());
     EXPECT_EQ(seq, 4);
     EXPECT_EQ(host.Texts(), Texts{R"(9 {optype:"1",type:"3",objectid:"21",seq:"4",subject:"T",body:"B"})"});
     ASSERT_EQ(list.Count(), 3U);
@@ -124,25 +124,25 @@ TEST_F(RemarkListTest, AddedRemarkComesLastWithLocalTimes) {
 }
 
 TEST_F(RemarkListTest, FailedAddLeavesTheListAndTellsItsNumber) {
-    load({"1"});
+    Load({"1"});
     host.Reply(9, "{eid:7}");
-    EXPECT_FALSE(add());
-    EXPECT_FALSE(add()) << "no reply";
+    EXPECT_FALSE(Add());
+    EXPECT_FALSE(Add()) << "no reply";
     EXPECT_EQ(seq, 2);
     EXPECT_EQ(list.Count(), 1U);
 }
 
 TEST_F(RemarkListTest, NumberOfADeletedHighestRemarkIsTakenAgain) {
-    load({"1", "2"});
+    Load({"1", "2"});
     host.Reply(9, "{eid:0}");
     EXPECT_TRUE(list.DeleteRemark(3, "21", 2));
     host.Reply(9, "{eid:0}");
-    EXPECT_TRUE(add());
+    EXPECT_TRUE(Add());
     EXPECT_EQ(seq, 2);
 }
 
 TEST_F(RemarkListTest, ChangedRemarkKeepsItsCreationDateAndPlace) {
-    load({"1", "2"});
+    Load({"1", "2"});
     const CRemark* place = list.At(0);
     clock.SetUtc(2024, 5, 6, 7, 8, 9);
     host.Reply(9, "{eid:0}");
@@ -155,7 +155,7 @@ TEST_F(RemarkListTest, ChangedRemarkKeepsItsCreationDateAndPlace) {
 }
 
 TEST_F(RemarkListTest, FailedChangeLeavesTheRemark) {
-    load({"1"});
+    Load({"1"});
     const CRemark before = *list.At(0);
     host.Reply(9, "{eid:7}");
     EXPECT_FALSE(list.ChangeRemark(3, "21", 1, "T", "new"));
@@ -164,16 +164,16 @@ TEST_F(RemarkListTest, FailedChangeLeavesTheRemark) {
 }
 
 TEST_F(RemarkListTest, DeletedRemarkLeavesTheOthersInOrder) {
-    load({"1", "2", "3"});
+    Load({"1", "2", "3"});
     host.Reply(9, "{eid:0}");
     EXPECT_TRUE(list.DeleteRemark(3, "21", 2));
     EXPECT_EQ(host.Texts(), Texts{R"(9 {optype:"2",type:"3",objectid:"21",seq:"2"})"});
-    EXPECT_EQ(subjects(), (Texts{"s1", "s3"}));
+    EXPECT_EQ(Subjects(), (Texts{"s1", "s3"}));
     EXPECT_EQ(Core::LiveBusBlocks(), blocksBefore);
 }
 
 TEST_F(RemarkListTest, FailedDeleteLeavesTheRemark) {
-    load({"1"});
+    Load({"1"});
     host.Reply(9, "{eid:7}");
     EXPECT_FALSE(list.DeleteRemark(3, "21", 1));
     EXPECT_FALSE(list.DeleteRemark(3, "21", 1)) << "no reply";
@@ -181,27 +181,27 @@ TEST_F(RemarkListTest, FailedDeleteLeavesTheRemark) {
 }
 
 TEST_F(RemarkListTest, ReplyThatIsNoJsonCountsAsSuccessOfAChangingCommand) {
-    load({"1", "2"});
+    Load({"1", "2"});
     host.Reply(9, "<html>");
     EXPECT_TRUE(list.DeleteRemark(3, "21", 1));
-    EXPECT_EQ(subjects(), Texts{"s2"});
+    EXPECT_EQ(Subjects(), Texts{"s2"});
     host.Reply(9, "<html>");
     EXPECT_TRUE(list.ChangeRemark(3, "21", 2, "T", "B"));
-    EXPECT_EQ(subjects(), Texts{"T"});
+    EXPECT_EQ(Subjects(), Texts{"T"});
     host.Reply(9, "<html>");
-    EXPECT_TRUE(add("U"));
-    EXPECT_EQ(subjects(), (Texts{"T", "U"}));
+    EXPECT_TRUE(Add("U"));
+    EXPECT_EQ(Subjects(), (Texts{"T", "U"}));
 }
 
 TEST_F(RemarkListTest, StatusWithoutErrorNumberIsASuccess) {
-    load({"1"});
+    Load({"1"});
     host.Reply(9, "{}");
     EXPECT_TRUE(list.DeleteRemark(3, "21", 1));
     EXPECT_EQ(list.Count(), 0U);
 }
 
 TEST_F(RemarkListTest, UnknownRemarkIsChangedAndDeletedOnTheServerAlone) {
-    load({"1"});
+    Load({"1"});
     const CRemark before = *list.At(0);
     for (int i = 0; i < 4; ++i) {
         host.Reply(9, "{eid:0}");
@@ -221,18 +221,18 @@ TEST_F(RemarkListTest, FirstOfTwoWithOneNameCounts) {
     EXPECT_EQ(list.Find(3, "21", 1), list.At(0));
     host.Reply(9, "{eid:0}");
     EXPECT_TRUE(list.DeleteRemark(3, "21", 1));
-    EXPECT_EQ(subjects(), Texts{"b"});
+    EXPECT_EQ(Subjects(), Texts{"b"});
     EXPECT_EQ(list.Find(3, "21", 2), nullptr);
 }
 
 TEST_F(RemarkListTest, LongestTextThatFitsIsSentAndOneByteMoreIsNot) {
     const std::size_t frame =
         std::string(R"({optype:"1",type:"3",objectid:"21",seq:"1",subject:"T",body:""})").size();
-    EXPECT_FALSE(add("T", std::string(4098 - frame, 'x')));
+    EXPECT_FALSE(Add("T", std::string(4098 - frame, 'x')));
     EXPECT_TRUE(host.requests.empty());
     EXPECT_EQ(list.Count(), 0U);
     host.Reply(9, "{eid:0}");
-    EXPECT_TRUE(add("T", std::string(4097 - frame, 'x')));
+    EXPECT_TRUE(Add("T", std::string(4097 - frame, 'x')));
     EXPECT_EQ(host.requests[0].Length(), 4098U);
     EXPECT_FALSE(list.ChangeRemark(3, "21", 1, "T", std::string(4098 - frame, 'x')));
     EXPECT_EQ(host.requests.size(), 1U);
@@ -244,7 +244,7 @@ TEST_F(RemarkListTest, BodyOfManyBytesIsRefusedAlsoWhenItsWidthPasses) {
     for (int i = 0; i < 1400; ++i) {
         body += "\xe8\x88\xb9";
     }
-    EXPECT_FALSE(add("T", body));
+    EXPECT_FALSE(Add("T", body));
     EXPECT_TRUE(host.requests.empty());
 }
 
@@ -264,14 +264,14 @@ TEST_F(RemarkListTest, LongestNameThatFitsIsSentAndOneByteMoreIsNot) {
 
 TEST_F(RemarkListTest, QuoteInABodyGoesOutAsItStandsAndTheListKeepsIt) {
     host.Reply(9, "{eid:0}");
-    EXPECT_TRUE(add("a\"b", "line\nbreak\\"));
+    EXPECT_TRUE(Add("a\"b", "line\nbreak\\"));
     EXPECT_EQ(host.requests[0].Text(),
               "{optype:\"1\",type:\"3\",objectid:\"21\",seq:\"1\",subject:\"a\"b\",body:\"line\nbreak\\\"}");
     EXPECT_EQ(list.At(0)->subject, "a\"b");
 }
 
 TEST_F(RemarkListTest, ClearedListIsEmpty) {
-    load({"1", "2"});
+    Load({"1", "2"});
     list.Clear();
     EXPECT_EQ(list.Count(), 0U);
     EXPECT_EQ(list.At(0), nullptr);

@@ -10,7 +10,7 @@ namespace {
 
 class RemarkReplyTest : public testing::Test {
   protected:
-    static std::vector<CRemark> read(const std::string& json) {
+    static std::vector<CRemark> Read(const std::string& json) {
         Util::Jsona reply;
         EXPECT_TRUE(reply.parse(json)) << json;
         return ReadRemarks(reply, 3, "21");
@@ -21,31 +21,31 @@ class RemarkReplyTest : public testing::Test {
 
 TEST_F(RemarkReplyTest, EveryKeyIsRead) {
     const std::vector<CRemark> remarks =
-        read(R"([{seq:"7",cdate:"1709251199",sub:"T",body:"B",udate:"1709251200"}])");
+        Read(R"([{seq:"7",cdate:"1709251199",sub:"T",body:"B",udate:"1709251200"}])");
     EXPECT_EQ(remarks, (std::vector<CRemark>{{3, "21", 7, "T", "B", "1709251199", "2024-03-01 08:00:00"}}));
 }
 
 TEST_F(RemarkReplyTest, MissingKeysAreEmptyAndTheKeysOfRequestsAreNotRead) {
-    EXPECT_EQ(read(R"([{}])"), (std::vector<CRemark>{{3, "21", 0, "", "", "", ""}}));
-    EXPECT_EQ(read(R"([{seq:"1",subject:"T",type:"2",objectid:"9"}])"),
+    EXPECT_EQ(Read(R"([{}])"), (std::vector<CRemark>{{3, "21", 0, "", "", "", ""}}));
+    EXPECT_EQ(Read(R"([{seq:"1",subject:"T",type:"2",objectid:"9"}])"),
               (std::vector<CRemark>{{3, "21", 1, "", "", "", ""}}));
 }
 
 TEST_F(RemarkReplyTest, NumbersAreReadFromTextsOnly) {
-    EXPECT_EQ(read(R"([{seq:7,udate:1709251200}])"), (std::vector<CRemark>{{3, "21", 0, "", "", "", ""}}));
-    EXPECT_EQ(read(R"([{seq:"12x"}])")[0].seq, 12);
+    EXPECT_EQ(Read(R"([{seq:7,udate:1709251200}])"), (std::vector<CRemark>{{3, "21", 0, "", "", "", ""}}));
+    EXPECT_EQ(Read(R"([{seq:"12x"}])")[0].seq, 12);
 }
 
 TEST_F(RemarkReplyTest, OrderIsTheReplysAndEqualNumbersBothStay) {
-    const std::vector<CRemark> remarks = read(R"([{seq:"3",sub:"c"},{seq:"1",sub:"a"},{seq:"3",sub:"d"}])");
+    const std::vector<CRemark> remarks = Read(R"([{seq:"3",sub:"c"},{seq:"1",sub:"a"},{seq:"3",sub:"d"}])");
     ASSERT_EQ(remarks.size(), 3U);
     EXPECT_EQ(remarks[0].subject + remarks[1].subject + remarks[2].subject, "cad");
 }
 
 TEST_F(RemarkReplyTest, ElementThatIsNoObjectIsNoRemark) {
-    EXPECT_TRUE(read("[]").empty());
-    EXPECT_TRUE(read("{eid:0}").empty());
-    EXPECT_TRUE(read(R"([1,"x",null,[]])").empty());
+    EXPECT_TRUE(Read("[]").empty());
+    EXPECT_TRUE(Read("{eid:0}").empty());
+    EXPECT_TRUE(Read(R"([1,"x",null,[]])").empty());
 }
 
 TEST_F(RemarkReplyTest, TimeThatIsNoDecimalTextIsEmpty) {
@@ -60,7 +60,7 @@ TEST_F(RemarkReplyTest, TimeThatIsNoDecimalTextIsEmpty) {
 
 TEST_F(RemarkReplyTest, WithoutAZoneTheLastChangeIsEmptyAndTheRestStands) {
     host.zone.reset();
-    EXPECT_EQ(read(R"([{seq:"7",cdate:"5",sub:"T",body:"B",udate:"1709251200"}])"),
+    EXPECT_EQ(Read(R"([{seq:"7",cdate:"5",sub:"T",body:"B",udate:"1709251200"}])"),
               (std::vector<CRemark>{{3, "21", 7, "T", "B", "5", ""}}));
 }
 

@@ -19,7 +19,7 @@ class VoyCatalogModuleTest : public testing::Test {
     VoyCatalogModule module{&store};
 
     /// Runs a command through the ladder that begins at `first`, then once with success.
-    void expectLadder(std::uint16_t command, int first, const std::function<int()>& run) {
+    void ExpectLadder(std::uint16_t command, int first, const std::function<int()>& run) {
         host.ReplyNothing(command);
         EXPECT_EQ(run(), first);
         host.Reply(command, "no json");
@@ -118,7 +118,7 @@ TEST_F(VoyCatalogModuleTest, ClearedStoreIsAskedAgain) {
 TEST_F(VoyCatalogModuleTest, CreateCategoryLadder) {
     std::string id;
     EXPECT_EQ(module.CreateCategory("", id), -1);
-    expectLadder(4, -2, [&] { return module.CreateCategory("A", id); });
+    ExpectLadder(4, -2, [&] { return module.CreateCategory("A", id); });
     EXPECT_EQ(id, "1");
     EXPECT_EQ(host.Texts().back(), R"(4 {ci:"",cn:"A",type:0})");
     host.Reply(4, "{eid:0,ci:\"\"}");
@@ -130,7 +130,7 @@ TEST_F(VoyCatalogModuleTest, CreateVoyageLadderAndEmptyCategoryGoesOut) {
     std::string id;
     EXPECT_EQ(module.CreateVoyage("", "1", id), -1);
     EXPECT_TRUE(host.requests.empty());
-    expectLadder(5, -2, [&] { return module.CreateVoyage("V", "", id); });
+    ExpectLadder(5, -2, [&] { return module.CreateVoyage("V", "", id); });
     EXPECT_EQ(host.Texts().back(), R"(5 {ci:"",vi:"",vn:"V",type:"0",vsi:"",vr:"0",va:"0"})");
     host.Reply(5, "{eid:0}");
     EXPECT_EQ(module.CreateVoyage("V", "1", id), -5);
@@ -177,17 +177,17 @@ TEST_F(VoyCatalogModuleTest, RenameNeedsIdAndName) {
     EXPECT_EQ(module.RenameVoyage("", "A"), -1);
     EXPECT_EQ(module.RenameVoyage("1", ""), -1);
     EXPECT_TRUE(host.requests.empty());
-    expectLadder(4, -2, [&] { return module.RenameCategory("1", "A"); });
-    expectLadder(5, -2, [&] { return module.RenameVoyage("1", "A"); });
+    ExpectLadder(4, -2, [&] { return module.RenameCategory("1", "A"); });
+    ExpectLadder(5, -2, [&] { return module.RenameVoyage("1", "A"); });
 }
 
 TEST_F(VoyCatalogModuleTest, StateChangeLadders) {
     EXPECT_EQ(module.ChangeCategoryState("", 1), -1);
     EXPECT_EQ(module.ChangeVoyageState("", 2), -1);
     EXPECT_TRUE(host.requests.empty());
-    expectLadder(4, -2, [&] { return module.ChangeCategoryState("1", 2); });
+    ExpectLadder(4, -2, [&] { return module.ChangeCategoryState("1", 2); });
     EXPECT_EQ(host.Texts().back(), R"(4 {ci:"1",type:"2"})");
-    expectLadder(5, -2, [&] { return module.ChangeVoyageState("1", 3); });
+    ExpectLadder(5, -2, [&] { return module.ChangeVoyageState("1", 3); });
     EXPECT_EQ(host.Texts().back(), R"(5 {vi:"1",type:"3"})");
 }
 
@@ -195,7 +195,7 @@ TEST_F(VoyCatalogModuleTest, VesselChangeNeedsOneOfIdAndName) {
     EXPECT_EQ(module.ChangeVessel("", "s", "n", 1), -1);
     EXPECT_EQ(module.ChangeVessel("1", "", "", 1), -1);
     EXPECT_TRUE(host.requests.empty());
-    expectLadder(5, -2, [&] { return module.ChangeVessel("1", "", "Ship", 0); });
+    ExpectLadder(5, -2, [&] { return module.ChangeVessel("1", "", "Ship", 0); });
     EXPECT_EQ(host.Texts().back(), R"(5 {vi:"1",type:"5",vsi:"",vsn:"Ship",vsmsi:"0"})");
 }
 
@@ -207,9 +207,9 @@ TEST_F(VoyCatalogModuleTest, DisplayFlagsTakeTheExactModeWordsOnly) {
     EXPECT_EQ(module.SetRouteDisplay("", "OPEN"), -1);
     EXPECT_EQ(module.SetAisTracing("", "open"), -1);
     EXPECT_TRUE(host.requests.empty());
-    expectLadder(5, -3, [&] { return module.SetRouteDisplay("1", "open"); });
+    ExpectLadder(5, -3, [&] { return module.SetRouteDisplay("1", "open"); });
     EXPECT_EQ(host.Texts().back(), R"(5 {vi:"1",type:"6",vr:"1"})");
-    expectLadder(5, -3, [&] { return module.SetAisTracing("1", "close"); });
+    ExpectLadder(5, -3, [&] { return module.SetAisTracing("1", "close"); });
     EXPECT_EQ(host.Texts().back(), R"(5 {vi:"1",type:"7",va:"0"})");
 }
 
@@ -217,7 +217,7 @@ TEST_F(VoyCatalogModuleTest, AddedAisTimeGoesOutAsServerTime) {
     EXPECT_EQ(module.AddAisModTime("", "2024-01-01 08:00:00"), -1);
     EXPECT_EQ(module.AddAisModTime("1", "2024-01-32 08:00:00"), -2);
     EXPECT_TRUE(host.requests.empty());
-    expectLadder(13, -3, [&] { return module.AddAisModTime("1", "2024-01-01 08:00:00"); });
+    ExpectLadder(13, -3, [&] { return module.AddAisModTime("1", "2024-01-01 08:00:00"); });
     EXPECT_EQ(host.Texts().back(), R"(13 {vi:"1",time:"2024-01-01 00:00:00"})");
 }
 

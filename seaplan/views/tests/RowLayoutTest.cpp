@@ -8,7 +8,7 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-std::vector<std::string> namesOf(const std::vector<SubItem>& parts) {
+std::vector<std::string> NamesOf(const std::vector<SubItem>& parts) {
     std::vector<std::string> out;
     out.reserve(parts.size());
     for (const SubItem& part : parts) {
@@ -57,14 +57,14 @@ TEST_F(ViewsFixture, PartsLieInTheirRowAndBesideEachOther) {
 
 TEST_F(ViewsFixture, HiddenItemsHaveNoPart) {
     OpenVoyage("Far East 12");
-    const auto parts = namesOf(Tree().PartsOf(RowOf("Far East 12")));
+    const auto parts = NamesOf(Tree().PartsOf(RowOf("Far East 12")));
     EXPECT_THAT(parts, Contains("Voyage.child.svr1.auto"));
     EXPECT_THAT(parts, Not(Contains("Voyage.child.svr1.default")));
     EXPECT_THAT(parts, Contains("Voyage_Date"));
     EXPECT_THAT(parts, Not(Contains("Voyage_setPortCall")));
     EXPECT_THAT(parts, Not(Contains("Voyage_AssignShip")));
     ClickRow("North Sea");
-    const auto bare = namesOf(Tree().PartsOf(RowOf("North Sea")));
+    const auto bare = NamesOf(Tree().PartsOf(RowOf("North Sea")));
     EXPECT_THAT(bare, Contains("Voyage_setPortCall"));
     EXPECT_THAT(bare, Contains("Voyage_AssignShip"));
     EXPECT_THAT(bare, Not(Contains("Voyage_Date")));

@@ -15,7 +15,7 @@ namespace {
 class TwoVessels final : public Core::TObject {
   public:
     TwoVessels() {
-        event_.Set<&TwoVessels::onAll>(this);
+        event_.Set<&TwoVessels::OnAll>(this);
         Core::TrvKernel::Instance()->CreateTrvService(kName, this, "", "", nullptr);
         Core::TrvKernel::Instance()->BindTrvService(kName, &event_);
     }
@@ -26,7 +26,7 @@ class TwoVessels final : public Core::TObject {
 
   private:
     static constexpr const char* kName = Interface::Bus::AllVessels.name;
-    void* onAll(void*) { return &fleet_; }
+    void* OnAll(void*) { return &fleet_; }
     std::vector<Interface::FleetEntry> fleet_ = {{"1", "NORTHERN LIGHT", 211}, {"2", "NORA", 212}};
     Core::TEvent event_;
 };

@@ -15,13 +15,13 @@ namespace Tarvik::Skin {
 
 namespace {
 
-double luminance(const QColor& colour) {
+double Luminance(const QColor& colour) {
     const auto part = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
     return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
 }
 
-double contrast(const QColor& a, const QColor& b) {
-    const auto [low, high] = std::minmax({luminance(a), luminance(b)});
+double Contrast(const QColor& a, const QColor& b) {
+    const auto [low, high] = std::minmax({Luminance(a), Luminance(b)});
     return (high + 0.05) / (low + 0.05);
 }
 
@@ -44,7 +44,7 @@ TEST_P(EveryTheme, TextStandsOutFromItsGround) {
         {Role::Accent, Role::Panel},        {Role::Accent, Role::Selection},
         {Role::Error, Role::Panel},         {Role::Error, Role::Selection}};
     for (const auto& [text, ground] : pairs) {
-        EXPECT_GE(contrast(Colour(text), Colour(ground)), 4.5)
+        EXPECT_GE(Contrast(Colour(text), Colour(ground)), 4.5)
             << Colour(text).name().toStdString() << " on " << Colour(ground).name().toStdString();
     }
 }
@@ -52,7 +52,7 @@ TEST_P(EveryTheme, TextStandsOutFromItsGround) {
 TEST_P(EveryTheme, SignsStandOutFromTheirGround) {
     for (const Role sign : {Role::Plan, Role::Underway, Role::Finished, Role::Warning}) {
         for (const Role ground : {Role::Panel, Role::Selection}) {
-            EXPECT_GE(contrast(Colour(sign), Colour(ground)), 3.0);
+            EXPECT_GE(Contrast(Colour(sign), Colour(ground)), 3.0);
         }
     }
 }

@@ -12,7 +12,7 @@ namespace {
 
 class RouteConversation : public Conversation {
   protected:
-    RouteConversation() : Conversation("routes", std::make_unique<GraphRouteSource>(smallNetwork())) {}
+    RouteConversation() : Conversation("routes", std::make_unique<GraphRouteSource>(SmallNetwork())) {}
 
     /// Asks and writes down; the result is that of the exchange.
     Util::Jsona Ask(const std::string& what, std::uint16_t command, const std::string& text) {

@@ -14,18 +14,18 @@ namespace {
 namespace Bus = Interface::Bus;
 
 template <class T>
-const T& as(void* input) {
+const T& As(void* input) {
     return *static_cast<const T*>(input);
 }
 
-std::string refText(const Interface::TrvMapObjectRef& ref) {
+std::string RefText(const Interface::TrvMapObjectRef& ref) {
     return fmt::format("layer={} type={} id={}", ref.layer, ref.type, ref.id);
 }
 
 }  // namespace
 
 template <auto Method>
-void ChartLog::bind(const char* name) {
+void ChartLog::Bind(const char* name) {
     Core::TrvKernel* kernel = Core::TrvKernel::Instance();
     auto event = std::make_unique<Core::TEvent>();
     kernel->CreateTrvService(name, this, "", "", nullptr);
@@ -35,15 +35,15 @@ void ChartLog::bind(const char* name) {
 }
 
 ChartLog::ChartLog() {
-    bind<&ChartLog::onAddLayer>(Bus::MapAddLayer.name);
-    bind<&ChartLog::onRemoveLayer>(Bus::MapRemoveLayer.name);
-    bind<&ChartLog::onAddLine>(Bus::MapAddLine.name);
-    bind<&ChartLog::onAddLabel>(Bus::MapAddPointLabel.name);
-    bind<&ChartLog::onAddImage>(Bus::MapAddImage.name);
-    bind<&ChartLog::onRegisterImage>(Bus::MapRegisterImage.name);
-    bind<&ChartLog::onDeleteObjects>(Bus::MapDeleteObjects.name);
-    bind<&ChartLog::onDeleteType>(Bus::MapDeleteObjectsByType.name);
-    bind<&ChartLog::onSetExtent>(Bus::MapSetExtent.name);
+    Bind<&ChartLog::OnAddLayer>(Bus::MapAddLayer.name);
+    Bind<&ChartLog::OnRemoveLayer>(Bus::MapRemoveLayer.name);
+    Bind<&ChartLog::OnAddLine>(Bus::MapAddLine.name);
+    Bind<&ChartLog::OnAddLabel>(Bus::MapAddPointLabel.name);
+    Bind<&ChartLog::OnAddImage>(Bus::MapAddImage.name);
+    Bind<&ChartLog::OnRegisterImage>(Bus::MapRegisterImage.name);
+    Bind<&ChartLog::OnDeleteObjects>(Bus::MapDeleteObjects.name);
+    Bind<&ChartLog::OnDeleteType>(Bus::MapDeleteObjectsByType.name);
+    Bind<&ChartLog::OnSetExtent>(Bus::MapSetExtent.name);
 }
 
 ChartLog::~ChartLog() {
@@ -58,26 +58,26 @@ void ChartLog::Heading(const std::string& text) {
     text_ += (text_.empty() ? "== " : "\n== ") + text + "\n";
 }
 
-void ChartLog::write(const char* service, const std::string& words) {
+void ChartLog::Write(const char* service, const std::string& words) {
     text_ += service;
     text_ += " " + words + "\n";
 }
 
-void* ChartLog::onAddLayer(void* input) {
-    const auto& layer = as<Interface::TrvMapLayerParams>(input);
-    write(Bus::MapAddLayer.name, fmt::format("layer={}", layer.layer));
+void* ChartLog::OnAddLayer(void* input) {
+    const auto& layer = As<Interface::TrvMapLayerParams>(input);
+    Write(Bus::MapAddLayer.name, fmt::format("layer={}", layer.layer));
     return nullptr;
 }
 
-void* ChartLog::onRemoveLayer(void* input) {
-    write(Bus::MapRemoveLayer.name, fmt::format("layer={}", as<std::string>(input)));
+void* ChartLog::OnRemoveLayer(void* input) {
+    Write(Bus::MapRemoveLayer.name, fmt::format("layer={}", As<std::string>(input)));
     return nullptr;
 }
 
-void* ChartLog::onAddLine(void* input) {
-    const auto& line = as<Interface::TrvMapLineParams>(input);
-    write(Bus::MapAddLine.name,
-          fmt::format("{} colour=0x{:06X} width={} style={} points={}", refText(line.ref), line.colour,
+void* ChartLog::OnAddLine(void* input) {
+    const auto& line = As<Interface::TrvMapLineParams>(input);
+    Write(Bus::MapAddLine.name,
+          fmt::format("{} colour=0x{:06X} width={} style={} points={}", RefText(line.ref), line.colour,
                       line.width, line.style, line.points.size()));
     constexpr std::size_t kInARow = 6;
     for (std::size_t i = 0; i < line.points.size(); ++i) {
@@ -90,49 +90,49 @@ void* ChartLog::onAddLine(void* input) {
     return nullptr;
 }
 
-void* ChartLog::onAddLabel(void* input) {
-    const auto& label = as<Interface::TrvMapPointParams>(input);
-    write(Bus::MapAddPointLabel.name,
-          fmt::format("{} shape={} colour=0x{:06X} size={} at={} \"{}\"", refText(label.ref), label.shape,
+void* ChartLog::OnAddLabel(void* input) {
+    const auto& label = As<Interface::TrvMapPointParams>(input);
+    Write(Bus::MapAddPointLabel.name,
+          fmt::format("{} shape={} colour=0x{:06X} size={} at={} \"{}\"", RefText(label.ref), label.shape,
                       label.colour, label.size, label.position, label.label));
     return nullptr;
 }
 
-void* ChartLog::onAddImage(void* input) {
-    const auto& image = as<Interface::TrvMapImageParams>(input);
-    write(Bus::MapAddImage.name,
-          fmt::format("{} image={} at={}", refText(image.ref), image.image, image.position));
+void* ChartLog::OnAddImage(void* input) {
+    const auto& image = As<Interface::TrvMapImageParams>(input);
+    Write(Bus::MapAddImage.name,
+          fmt::format("{} image={} at={}", RefText(image.ref), image.image, image.position));
     return nullptr;
 }
 
-void* ChartLog::onRegisterImage(void* input) {
-    const auto& image = as<Interface::TrvMapImageReg>(input);
+void* ChartLog::OnRegisterImage(void* input) {
+    const auto& image = As<Interface::TrvMapImageReg>(input);
     const std::string folder = Util::FileUtl::GetCurrentAppDirectory();
     const bool inside = image.path.compare(0, folder.size(), folder) == 0;
-    write(Bus::MapRegisterImage.name,
+    Write(Bus::MapRegisterImage.name,
           fmt::format("name={} path={}", image.name, inside ? image.path.substr(folder.size()) : image.path));
     return nullptr;
 }
 
-void* ChartLog::onDeleteObjects(void* input) {
-    const auto& list = as<Interface::TrvMapObjectList>(input);
+void* ChartLog::OnDeleteObjects(void* input) {
+    const auto& list = As<Interface::TrvMapObjectList>(input);
     std::string words = fmt::format("layer={}", list.layer);
     for (std::int32_t i = 0; i < list.count; ++i) {
         words += fmt::format(" {}:{}", list.objects[i].type, list.objects[i].id);
     }
-    write(Bus::MapDeleteObjects.name, words);
+    Write(Bus::MapDeleteObjects.name, words);
     return nullptr;
 }
 
-void* ChartLog::onDeleteType(void* input) {
-    const auto& ref = as<Interface::TrvMapObjectRef>(input);
-    write(Bus::MapDeleteObjectsByType.name, fmt::format("layer={} type={}", ref.layer, ref.type));
+void* ChartLog::OnDeleteType(void* input) {
+    const auto& ref = As<Interface::TrvMapObjectRef>(input);
+    Write(Bus::MapDeleteObjectsByType.name, fmt::format("layer={} type={}", ref.layer, ref.type));
     return nullptr;
 }
 
-void* ChartLog::onSetExtent(void* input) {
-    const auto& extent = as<Interface::TrvMapExtent>(input);
-    write(Bus::MapSetExtent.name, fmt::format("{:.4f} {:.4f} {:.4f} {:.4f}", extent.first, extent.second,
+void* ChartLog::OnSetExtent(void* input) {
+    const auto& extent = As<Interface::TrvMapExtent>(input);
+    Write(Bus::MapSetExtent.name, fmt::format("{:.4f} {:.4f} {:.4f} {:.4f}", extent.first, extent.second,
                                               extent.third, extent.fourth));
     return nullptr;
 }

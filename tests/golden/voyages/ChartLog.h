@@ -26,17 +26,17 @@ class ChartLog : public Core::TObject {
 
   private:
     template <auto Method>
-    void bind(const char* name);
-    void* onAddLayer(void* input);
-    void* onRemoveLayer(void* input);
-    void* onAddLine(void* input);
-    void* onAddLabel(void* input);
-    void* onAddImage(void* input);
-    void* onRegisterImage(void* input);
-    void* onDeleteObjects(void* input);
-    void* onDeleteType(void* input);
-    void* onSetExtent(void* input);
-    void write(const char* service, const std::string& words);
+    void Bind(const char* name);
+    void* OnAddLayer(void* input);
+    void* OnRemoveLayer(void* input);
+    void* OnAddLine(void* input);
+    void* OnAddLabel(void* input);
+    void* OnAddImage(void* input);
+    void* OnRegisterImage(void* input);
+    void* OnDeleteObjects(void* input);
+    void* OnDeleteType(void* input);
+    void* OnSetExtent(void* input);
+    void Write(const char* service, const std::string& words);
 
     std::string text_;
     std::vector<std::pair<std::string, std::unique_ptr<Core::TEvent>>> bindings_;

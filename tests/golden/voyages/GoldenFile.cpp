@@ -13,7 +13,7 @@ namespace Tarvik::Golden {
 
 namespace {
 
-std::filesystem::path pathOf(const std::string& voyage, const std::string& file) {
+std::filesystem::path PathOf(const std::string& voyage, const std::string& file) {
     return std::filesystem::path(GOLDEN_FOLDER) / voyage / file;
 }
 
@@ -24,7 +24,7 @@ std::string write(const std::filesystem::path& path, const std::string& text) {
     return out.flush() ? "" : path.string() + " cannot be written";
 }
 
-std::string firstDifference(const std::string& expected, const std::string& actual) {
+std::string FirstDifference(const std::string& expected, const std::string& actual) {
     std::istringstream left(expected);
     std::istringstream right(actual);
     std::string a;
@@ -52,7 +52,7 @@ bool Writing() {
 }
 
 std::string CompareOrWrite(const std::string& voyage, const std::string& file, const std::string& text) {
-    const std::filesystem::path path = pathOf(voyage, file);
+    const std::filesystem::path path = PathOf(voyage, file);
     if (Writing()) {
         return write(path, text);
     }
@@ -61,7 +61,7 @@ std::string CompareOrWrite(const std::string& voyage, const std::string& file, c
         return path.string() + " is missing; SEAPLAN_WRITE_GOLDEN=1 writes it";
     }
     const std::string expected((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    return expected == text ? "" : path.string() + " differs in " + firstDifference(expected, text);
+    return expected == text ? "" : path.string() + " differs in " + FirstDifference(expected, text);
 }
 
 }  // namespace Tarvik::Golden

@@ -19,7 +19,7 @@ class GoldenVoyages : public testing::TestWithParam<Voyage> {
   protected:
     void SetUp() override { ASSERT_EQ(desk_.Run(GetParam(), record_), ""); }
 
-    void expectGolden(const std::string& file, const std::string& text) const {
+    void ExpectGolden(const std::string& file, const std::string& text) const {
         EXPECT_EQ(CompareOrWrite(GetParam().name, file, text), "");
     }
 
@@ -28,10 +28,10 @@ class GoldenVoyages : public testing::TestWithParam<Voyage> {
 };
 
 TEST_P(GoldenVoyages, RouteBookScheduleAndChartAreByteForByteThoseOfTheFiles) {
-    expectGolden("route.txt", record_.route);
-    expectGolden("book.txt", record_.book);
-    expectGolden("schedule.txt", record_.schedule);
-    expectGolden("chart.txt", record_.chart);
+    ExpectGolden("route.txt", record_.route);
+    ExpectGolden("book.txt", record_.book);
+    ExpectGolden("schedule.txt", record_.schedule);
+    ExpectGolden("chart.txt", record_.chart);
 }
 
 TEST_P(GoldenVoyages, LegsAreAsLongAsPrintedTablesSay) {

@@ -29,12 +29,12 @@ constexpr int kZoneHours = 8;
 constexpr double kShorter = 0.995;
 
 /// Whether a click was taken: its one handler answers nothing then.
-bool click(const Interface::ClickEvent& event, const std::string& id) {
+bool Click(const Interface::ClickEvent& event, const std::string& id) {
     const std::vector<const char*> answers = Interface::Raise(event, &id);
     return answers.size() == 1 && answers[0] == nullptr;
 }
 
-std::unique_ptr<Client::PortDictionary> shippedPorts() {
+std::unique_ptr<Client::PortDictionary> ShippedPorts() {
     std::vector<Client::Port> ports;
     std::string error;
     if (!Client::ReadPorts(SHARE_FOLDER "/trvdb.db", ports, error)) {
@@ -47,7 +47,7 @@ std::unique_ptr<Client::PortDictionary> shippedPorts() {
 
 PlanDesk::PlanDesk()
     : link_(std::make_unique<SeaServer>()),
-      dictionary_(shippedPorts()),
+      dictionary_(ShippedPorts()),
       services_(std::make_unique<Client::HostServices>(*link_, "local", kZone, [](const std::string&) {})) {
     std::filesystem::create_directories(folder_.PointsFile().parent_path());
     std::filesystem::copy_file(SHARE_FOLDER "/trvdb.db", folder_.PointsFile());
@@ -58,7 +58,7 @@ PlanDesk::~PlanDesk() {
     Interface::ValueDictionary::Set(nullptr);
 }
 
-std::string PlanDesk::prepare(const Voyage& voyage, PortCallRows& rows) {
+std::string PlanDesk::Prepare(const Voyage& voyage, PortCallRows& rows) {
     VoyCatalogController& catalog = root_.Catalog();
     std::string user;
     std::string ci;
@@ -88,14 +88,14 @@ std::string PlanDesk::prepare(const Voyage& voyage, PortCallRows& rows) {
     return "";
 }
 
-std::string PlanDesk::choose(const Voyage& voyage, PortCallRows& rows) {
+std::string PlanDesk::Choose(const Voyage& voyage, PortCallRows& rows) {
     for (const Choice& choice : voyage.choices) {
         chart_.Heading("click on route point " + choice.RoutePoint);
-        if (!click(Bus::ClickVoyageType, choice.RoutePoint)) {
+        if (!Click(Bus::ClickVoyageType, choice.RoutePoint)) {
             return "alternatives of " + choice.RoutePoint;
         }
         chart_.Heading("click on alternative " + choice.alternative);
-        if (!click(Bus::ClickRoutePointType, choice.alternative)) {
+        if (!Click(Bus::ClickRoutePointType, choice.alternative)) {
             return "choice of " + choice.alternative;
         }
         root_.Voyages().ResolvePortIds(rows);
@@ -108,7 +108,7 @@ std::string PlanDesk::choose(const Voyage& voyage, PortCallRows& rows) {
     return "";
 }
 
-std::string PlanDesk::save(const Voyage& voyage, const PortCallRows& rows, VoyageRecord& record) {
+std::string PlanDesk::Save(const Voyage& voyage, const PortCallRows& rows, VoyageRecord& record) {
     chart_.Heading("save, and the ship at " + voyage.drawnAt.fmt("%Y-%m-%d %H:%M"));
     const Util::_datetime_t now = voyage.drawnAt - Util::_time_t(kZoneHours, 0);
     clock_.SetUtc(now.year(), now.month(), now.day(), now.hour());
@@ -130,7 +130,7 @@ std::string PlanDesk::save(const Voyage& voyage, const PortCallRows& rows, Voyag
 }
 
 /// The schedule as the server gives it back, with what its rounded positions and speeds make of it.
-std::string PlanDesk::loadAgain(PortCallRows& rows) {
+std::string PlanDesk::LoadAgain(PortCallRows& rows) {
     if (root_.Voyages().DiscardPortCalls(vi_) < 0) {
         return "load again";
     }
@@ -138,11 +138,11 @@ std::string PlanDesk::loadAgain(PortCallRows& rows) {
     return "";
 }
 
-std::string PlanDesk::tryAlternative(const Offer& offer, const RouteStops& stops) {
+std::string PlanDesk::TryAlternative(const Offer& offer, const RouteStops& stops) {
     VoyPortCallModule& module = root_.PortCallModule();
     module.Pending().Take(stops);
-    if (!click(Bus::ClickVoyageType, offer.RoutePoint) ||
-        !click(Bus::ClickRoutePointType, offer.alternative)) {
+    if (!Click(Bus::ClickVoyageType, offer.RoutePoint) ||
+        !Click(Bus::ClickRoutePointType, offer.alternative)) {
         return "refused";
     }
     const RouteStop& changed = module.Pending().Stops().at(offer.stop);
@@ -172,7 +172,7 @@ std::vector<std::string> PlanDesk::TryAlternatives(const RouteStops& stops) {
                 continue;
             }
             for (const std::string& alternative : group.alternatives) {
-                const std::string failed = tryAlternative({s, group.rp_id, alternative}, stops);
+                const std::string failed = TryAlternative({s, group.rp_id, alternative}, stops);
                 if (!failed.empty()) {
                     complaints.push_back(fmt::format("{} to {}: {}", group.rp_id, alternative, failed));
                 }
@@ -184,7 +184,7 @@ std::vector<std::string> PlanDesk::TryAlternatives(const RouteStops& stops) {
 
 std::string PlanDesk::Run(const Voyage& voyage, VoyageRecord& record) {
     PortCallRows typed;
-    if (std::string failed = prepare(voyage, typed); !failed.empty()) {
+    if (std::string failed = Prepare(voyage, typed); !failed.empty()) {
         return failed;
     }
     chart_.Heading("calculate");
@@ -193,17 +193,17 @@ std::string PlanDesk::Run(const Voyage& voyage, VoyageRecord& record) {
     if (root_.Voyages().CalculateForVoyage(vi_, typed, rows, hadPortCalls) < 0) {
         return "calculate";
     }
-    if (std::string failed = choose(voyage, rows); !failed.empty()) {
+    if (std::string failed = Choose(voyage, rows); !failed.empty()) {
         return failed;
     }
     record.stops = root_.PortCallModule().Pending().Stops();
-    if (std::string failed = save(voyage, rows, record); !failed.empty()) {
+    if (std::string failed = Save(voyage, rows, record); !failed.empty()) {
         return failed;
     }
     record.route = RouteText(record.stops);
     record.book = BookText(record.points);
     PortCallRows loaded;
-    if (std::string failed = loadAgain(loaded); !failed.empty()) {
+    if (std::string failed = LoadAgain(loaded); !failed.empty()) {
         return failed;
     }
     record.schedule = ScheduleText(record.rows) + "\nloaded again:\n" + ScheduleText(loaded);

@@ -50,11 +50,11 @@ class PlanDesk {
         std::string RoutePoint;
         std::string alternative;
     };
-    std::string tryAlternative(const Offer& offer, const Seaplan::RouteStops& stops);
-    std::string prepare(const Voyage& voyage, Seaplan::PortCallRows& rows);
-    std::string choose(const Voyage& voyage, Seaplan::PortCallRows& rows);
-    std::string save(const Voyage& voyage, const Seaplan::PortCallRows& rows, VoyageRecord& record);
-    std::string loadAgain(Seaplan::PortCallRows& rows);
+    std::string TryAlternative(const Offer& offer, const Seaplan::RouteStops& stops);
+    std::string Prepare(const Voyage& voyage, Seaplan::PortCallRows& rows);
+    std::string Choose(const Voyage& voyage, Seaplan::PortCallRows& rows);
+    std::string Save(const Voyage& voyage, const Seaplan::PortCallRows& rows, VoyageRecord& record);
+    std::string LoadAgain(Seaplan::PortCallRows& rows);
 
     TestSupport::DataFolder folder_;
     TestSupport::ManualClock clock_;

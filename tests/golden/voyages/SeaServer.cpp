@@ -9,7 +9,7 @@ namespace Tarvik::Golden {
 
 namespace {
 
-std::shared_ptr<const Server::SeaNetwork> shippedNetwork() {
+std::shared_ptr<const Server::SeaNetwork> ShippedNetwork() {
     static const std::shared_ptr<const Server::SeaNetwork> network = [] {
         std::string error;
         auto read = Server::SeaNetwork::Load(SHARE_FOLDER "/network.bin", error);
@@ -26,7 +26,7 @@ std::shared_ptr<const Server::SeaNetwork> shippedNetwork() {
 SeaServer::SeaServer() {
     std::string error;
     server_ = Server::EmbeddedServer::Open(
-        ":memory:", std::make_unique<Server::GraphRouteSource>(shippedNetwork()), error);
+        ":memory:", std::make_unique<Server::GraphRouteSource>(ShippedNetwork()), error);
     if (!server_) {
         throw std::runtime_error(error);
     }

@@ -20,7 +20,7 @@ std::string PortName(const std::string& id) {
     return Interface::GetValueByName("/points", id, 1033);
 }
 
-std::string segmentText(const RouteSegment& segment) {
+std::string SegmentText(const RouteSegment& segment) {
     std::string points = segment.pointset;
     std::replace(points.begin(), points.end(), '|', '\n');
     std::string indented = "    ";
@@ -39,7 +39,7 @@ std::string GroupText(const RoutePointGroup& group) {
     return text + "\n";
 }
 
-std::string rowText(int index, const VoyPortCall& row) {
+std::string RowText(int index, const VoyPortCall& row) {
     const CellTexts cells = RowToCells(index, row);
     std::string text;
     for (const std::string& cell : cells) {
@@ -56,7 +56,7 @@ std::string RouteText(const RouteStops& stops) {
         text += fmt::format("stop {} {} {} NM passing {}\n", stop.point_cd, PortName(stop.point_cd),
                             TwoDecimals(static_cast<double>(stop.distance)), stop.rp_id_str);
         for (const RouteSegment& segment : stop.routes) {
-            text += segmentText(segment);
+            text += SegmentText(segment);
         }
         for (const RoutePointGroup& group : stop.rp_groups) {
             text += GroupText(group);
@@ -81,7 +81,7 @@ std::string BookText(const BookPoints& rows) {
 std::string ScheduleText(const PortCallRows& rows) {
     std::string text = "no | port | purpose | knots | weather | steam h | port h | ETA | ETD | distance NM\n";
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        text += rowText(static_cast<int>(i), rows[i]);
+        text += RowText(static_cast<int>(i), rows[i]);
     }
     ScheduleTotals totals;
     ScheduleSummary summary;

@@ -19,7 +19,7 @@ class SeamapPluginTest : public ::testing::Test {
         EXPECT_NE(library_, nullptr) << (error ? error : "");
     }
     template <class Result>
-    Result call(const char* name) const {
+    Result Call(const char* name) const {
         auto* function = reinterpret_cast<Result (*)()>(dlsym(library_, name));
         EXPECT_NE(function, nullptr) << name;
         return function();
@@ -28,14 +28,14 @@ class SeamapPluginTest : public ::testing::Test {
 };
 
 TEST_F(SeamapPluginTest, DescribesItself) {
-    const auto* info = call<Plugin::CPluginInfo*>("PluginInfo");
+    const auto* info = Call<Plugin::CPluginInfo*>("PluginInfo");
     ASSERT_NE(info, nullptr);
     EXPECT_EQ(info->name, "PlgSeamap");
     EXPECT_EQ(info->version, "1.1.0.0");
     EXPECT_EQ(info->dependencyText, "TRV,1.1.4");
     ASSERT_EQ(info->dependencies.Entries().size(), 1u);
     EXPECT_EQ(info->dependencies.Entries()[0].name, "TRV");
-    EXPECT_EQ(call<Plugin::CPluginInfo*>("PluginInfo"), info);
+    EXPECT_EQ(Call<Plugin::CPluginInfo*>("PluginInfo"), info);
 }
 
 TEST_F(SeamapPluginTest, ShowsOnlyItsEntryPoints) {
@@ -45,12 +45,12 @@ TEST_F(SeamapPluginTest, ShowsOnlyItsEntryPoints) {
 
 TEST_F(SeamapPluginTest, OffersItsServicesFromLoadToUnLoadAlsoWithoutAWindowSystem) {
     auto* kernel = Core::TrvKernel::Instance();
-    EXPECT_TRUE(call<bool>("CheckEnvironment"));
+    EXPECT_TRUE(Call<bool>("CheckEnvironment"));
     EXPECT_FALSE(kernel->IsBound(Interface::Bus::MapAddLine.name));
-    EXPECT_TRUE(call<bool>("Load"));
-    EXPECT_TRUE(call<bool>("Load"));
-    call<void>("InitPlugin");
-    call<void>("SuiteLoaded");
+    EXPECT_TRUE(Call<bool>("Load"));
+    EXPECT_TRUE(Call<bool>("Load"));
+    Call<void>("InitPlugin");
+    Call<void>("SuiteLoaded");
     EXPECT_TRUE(kernel->IsBound(Interface::Bus::MapAddLine.name));
     EXPECT_EQ(Interface::Call(Interface::Bus::ChartWindow), nullptr);
     const Interface::TrvMapExtent asked{10, 20, 30, 40};
@@ -59,9 +59,9 @@ TEST_F(SeamapPluginTest, OffersItsServicesFromLoadToUnLoadAlsoWithoutAWindowSyst
     ASSERT_NE(shown, nullptr);
     EXPECT_EQ(shown->third, 30);
     Core::FreeBusBlock(shown);
-    EXPECT_TRUE(call<bool>("UnLoad"));
+    EXPECT_TRUE(Call<bool>("UnLoad"));
     EXPECT_FALSE(kernel->IsBound(Interface::Bus::MapAddLine.name));
-    EXPECT_TRUE(call<bool>("UnLoad"));
+    EXPECT_TRUE(Call<bool>("UnLoad"));
 }
 
 }  // namespace

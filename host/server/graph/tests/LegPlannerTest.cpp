@@ -11,7 +11,7 @@ namespace {
 using ::testing::ElementsAre;
 
 TEST(LegPlanner, OpensShutPassagesWhenNothingElseLeadsThere) {
-    NetworkData data = smallSea();
+    NetworkData data = SmallSea();
     std::erase_if(data.edges,
                   [](const NetworkEdge& e) { return e.a != 0 && e.kind == EdgeKind::Sea && e.b == 3; });
     const SeaNetwork network(data);
@@ -22,7 +22,7 @@ TEST(LegPlanner, OpensShutPassagesWhenNothingElseLeadsThere) {
 }
 
 TEST(LegPlanner, OffersOnlyWhatGivesARoute) {
-    NetworkData data = smallSea();
+    NetworkData data = SmallSea();
     std::erase_if(data.edges, [](const NetworkEdge& e) { return e.a == 2 || e.b == 2; });
     const SeaNetwork network(data);
     std::string error;
@@ -33,7 +33,7 @@ TEST(LegPlanner, OffersOnlyWhatGivesARoute) {
 }
 
 TEST(LegPlanner, ARoutePointMayBeAStop) {
-    const SeaNetwork network(smallSea());
+    const SeaNetwork network(SmallSea());
     std::string error;
     const auto stop = LegPlanner(network).Plan("40001", {"1", {}, {}}, error);
     ASSERT_TRUE(stop) << error;
@@ -42,7 +42,7 @@ TEST(LegPlanner, ARoutePointMayBeAStop) {
 }
 
 TEST(LegPlanner, ADenseWayJoinsTwoNodesOrIsEmpty) {
-    const SeaNetwork network(smallSea());
+    const SeaNetwork network(SmallSea());
     const LegPlanner planner(network);
     const auto way = planner.Way(0, 3);
     ASSERT_GT(way.size(), 20u);

@@ -22,7 +22,7 @@ TEST(PathShape, LeavesAWayAwayFromTheDateLineAsItIs) {
 }
 
 TEST(PathShape, ATautWayLeavesOutNodesThatHideNothing) {
-    const SeaNetwork network(smallSea());
+    const SeaNetwork network(SmallSea());
     const PathShape shape(network);
     NodePath path;
     path.nodes = {0, 1, 3};
@@ -30,7 +30,7 @@ TEST(PathShape, ATautWayLeavesOutNodesThatHideNothing) {
     const auto taut = shape.Taut(path, network.ShutGates(), {});
     EXPECT_THAT(taut, ElementsAre(GeoPoint{-10, 0}, GeoPoint{0, 12}, GeoPoint{10, 0}))
         << "the island lies behind the cape";
-    NetworkData open = smallSea();
+    NetworkData open = SmallSea();
     open.land.clear();
     open.routePoints[2].shut = false;
     const SeaNetwork wide(open);
@@ -39,7 +39,7 @@ TEST(PathShape, ATautWayLeavesOutNodesThatHideNothing) {
 }
 
 TEST(PathShape, HandMadeWaysKeepTheirPoints) {
-    const SeaNetwork network(smallSea());
+    const SeaNetwork network(SmallSea());
     NodePath path;
     path.nodes = {0, 4, 3};
     path.edges = {4, 5};

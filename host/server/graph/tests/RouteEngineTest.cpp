@@ -18,14 +18,14 @@ using ::testing::IsEmpty;
 class RouteEngineTest : public ::testing::Test {
   protected:
     RouteResult Plan(const std::vector<RouteRequestPoint>& points) const { return engine_.Plan(points); }
-    RouteResult choose(const std::vector<RouteChoice>& locks) const {
+    RouteResult Choose(const std::vector<RouteChoice>& locks) const {
         return Plan({{"40001", {}, {}}, {"40002", {}, locks}});
     }
-    RouteEngine engine_{smallNetwork()};
+    RouteEngine engine_{SmallNetwork()};
 };
 
 TEST_F(RouteEngineTest, TakesTheShortestOpenWayAndCutsItAtTheRoutePoint) {
-    const RouteResult result = choose({});
+    const RouteResult result = Choose({});
     ASSERT_EQ(result.error, kRouteOk) << result.message;
     ASSERT_EQ(result.stops.size(), 2u);
     EXPECT_EQ(result.stops[0].pointId, "40001");
@@ -44,7 +44,7 @@ TEST_F(RouteEngineTest, TakesTheShortestOpenWayAndCutsItAtTheRoutePoint) {
 }
 
 TEST_F(RouteEngineTest, OffersWhatCanStandInARoutePointsPlace) {
-    const PlannedStop stop = choose({}).stops.at(1);
+    const PlannedStop stop = Choose({}).stops.at(1);
     ASSERT_EQ(stop.groups.size(), 1u);
     EXPECT_EQ(stop.groups[0].rpId, "1");
     EXPECT_EQ(stop.groups[0].rangeFrom, "40001");
@@ -53,7 +53,7 @@ TEST_F(RouteEngineTest, OffersWhatCanStandInARoutePointsPlace) {
 }
 
 TEST_F(RouteEngineTest, AChoiceLeadsThroughItsPassageAndStaysInForce) {
-    const RouteResult south = choose({{"2", "40001,40002"}});
+    const RouteResult south = Choose({{"2", "40001,40002"}});
     ASSERT_EQ(south.error, kRouteOk) << south.message;
     EXPECT_THAT(south.stops[1].passedIds, ElementsAre("40001", "2", "40002"));
     EXPECT_EQ(south.stops[1].locks, "2=40001,40002");
@@ -61,14 +61,14 @@ TEST_F(RouteEngineTest, AChoiceLeadsThroughItsPassageAndStaysInForce) {
 }
 
 TEST_F(RouteEngineTest, AShutPassageOpensWhenChosen) {
-    const RouteResult canal = choose({{"3", "40001,40002"}});
+    const RouteResult canal = Choose({{"3", "40001,40002"}});
     ASSERT_EQ(canal.error, kRouteOk) << canal.message;
     EXPECT_THAT(canal.stops[1].passedIds, ElementsAre("40001", "3", "40002"));
     EXPECT_NEAR(canal.stops[1].distanceKm, GeodesicKm({-10, 0}, {10, 0}), 1.0);
 }
 
 TEST_F(RouteEngineTest, TheNewerChoiceOfAGroupReplacesTheOlder) {
-    const RouteResult result = choose({{"2", "40001,40002"}, {"3", "40001,40002"}});
+    const RouteResult result = Choose({{"2", "40001,40002"}, {"3", "40001,40002"}});
     ASSERT_EQ(result.error, kRouteOk) << result.message;
     EXPECT_THAT(result.stops[1].passedIds, ElementsAre("40001", "2", "40002"));
     EXPECT_EQ(result.stops[1].locks, "2=40001,40002");
@@ -109,10 +109,10 @@ TEST_F(RouteEngineTest, NamesWhatItCannotDo) {
     EXPECT_EQ(apart.error, kRouteNoWay);
     EXPECT_THAT(apart.message, HasSubstr("from 40001 to 40003"));
     EXPECT_THAT(apart.stops, IsEmpty());
-    const RouteResult choice = choose({{"7", "40001,40002"}});
+    const RouteResult choice = Choose({{"7", "40001,40002"}});
     EXPECT_EQ(choice.error, kRouteNoWay);
     EXPECT_THAT(choice.message, HasSubstr("7=40001,40002"));
-    EXPECT_EQ(choose({{"2", "40001"}}).error, kRouteNoWay);
+    EXPECT_EQ(Choose({{"2", "40001"}}).error, kRouteNoWay);
 }
 
 TEST_F(RouteEngineTest, TheNearestWayBeginsAtTheShip) {

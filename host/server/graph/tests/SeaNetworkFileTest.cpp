@@ -18,7 +18,7 @@ using ::testing::HasSubstr;
 constexpr std::size_t kHead = 24;
 
 /// A file around a payload whose length and sum are right.
-std::string sealed(const std::string& payload) {
+std::string Sealed(const std::string& payload) {
     std::uint64_t sum = 14695981039346656037ULL;
     for (const char c : payload) {
         sum = (sum ^ static_cast<std::uint8_t>(c)) * 1099511628211ULL;
@@ -29,18 +29,18 @@ std::string sealed(const std::string& payload) {
     return "SEANET01" + head.Bytes() + payload;
 }
 
-std::string errorOf(const std::string& bytes) {
+std::string ErrorOf(const std::string& bytes) {
     std::string error;
     const bool good = SeaNetworkFile::Decode(bytes, error).has_value();
     return good ? "none" : error;
 }
 
-std::string errorOf(const NetworkData& data) {
-    return errorOf(SeaNetworkFile::Encode(data));
+std::string ErrorOf(const NetworkData& data) {
+    return ErrorOf(SeaNetworkFile::Encode(data));
 }
 
 TEST(SeaNetworkFile, ReadsWhatItWrote) {
-    const NetworkData before = smallSea();
+    const NetworkData before = SmallSea();
     const std::string bytes = SeaNetworkFile::Encode(before);
     std::string error;
     const auto after = SeaNetworkFile::Decode(bytes, error);
@@ -58,65 +58,65 @@ TEST(SeaNetworkFile, ReadsWhatItWrote) {
 }
 
 TEST(SeaNetworkFile, RefusesAFileCutAnywhere) {
-    const std::string bytes = SeaNetworkFile::Encode(smallSea());
+    const std::string bytes = SeaNetworkFile::Encode(SmallSea());
     for (std::size_t length = 0; length < bytes.size(); ++length) {
-        const std::string error = errorOf(bytes.substr(0, length));
+        const std::string error = ErrorOf(bytes.substr(0, length));
         EXPECT_EQ(error, length < kHead ? "this is not a sea network file"
                                         : "the sea network file is cut or has grown")
             << length;
     }
-    EXPECT_EQ(errorOf(bytes + "x"), "the sea network file is cut or has grown");
+    EXPECT_EQ(ErrorOf(bytes + "x"), "the sea network file is cut or has grown");
 }
 
 TEST(SeaNetworkFile, RefusesAPayloadThatEndsInsideAnyOfItsLists) {
-    const std::string payload = SeaNetworkFile::Encode(smallSea()).substr(kHead);
+    const std::string payload = SeaNetworkFile::Encode(SmallSea()).substr(kHead);
     for (std::size_t length = 0; length < payload.size(); ++length) {
-        EXPECT_THAT(errorOf(sealed(payload.substr(0, length))), HasSubstr("inconsistent")) << length;
+        EXPECT_THAT(ErrorOf(Sealed(payload.substr(0, length))), HasSubstr("inconsistent")) << length;
     }
-    EXPECT_EQ(errorOf(sealed(payload)), "none");
-    EXPECT_THAT(errorOf(sealed(payload + "x")), HasSubstr("inconsistent"));
+    EXPECT_EQ(ErrorOf(Sealed(payload)), "none");
+    EXPECT_THAT(ErrorOf(Sealed(payload + "x")), HasSubstr("inconsistent"));
 }
 
 TEST(SeaNetworkFile, AnyDamagedByteOfThePayloadIsFound) {
-    const std::string bytes = SeaNetworkFile::Encode(smallSea());
+    const std::string bytes = SeaNetworkFile::Encode(SmallSea());
     for (std::size_t i = kHead; i < bytes.size(); ++i) {
         std::string damaged = bytes;
         damaged[i] = static_cast<char>(damaged[i] ^ 0x10);
-        EXPECT_EQ(errorOf(damaged), "the sea network file is damaged") << i;
+        EXPECT_EQ(ErrorOf(damaged), "the sea network file is damaged") << i;
     }
 }
 
 TEST(SeaNetworkFile, RefusesAForeignFile) {
-    std::string bytes = SeaNetworkFile::Encode(smallSea());
+    std::string bytes = SeaNetworkFile::Encode(SmallSea());
     bytes[7] = '9';
-    EXPECT_EQ(errorOf(bytes), "this is not a sea network file");
+    EXPECT_EQ(ErrorOf(bytes), "this is not a sea network file");
 }
 
 TEST(SeaNetworkFile, RefusesReferencesToWhatIsNotThere) {
-    NetworkData data = smallSea();
+    NetworkData data = SmallSea();
     data.edges[0].b = 8;
-    EXPECT_THAT(errorOf(data), HasSubstr("an edge names a node that does not exist"));
-    data = smallSea();
+    EXPECT_THAT(ErrorOf(data), HasSubstr("an edge names a node that does not exist"));
+    data = SmallSea();
     data.edges[0].mask = 99;
-    EXPECT_THAT(errorOf(data), HasSubstr("gate mask"));
-    data = smallSea();
+    EXPECT_THAT(ErrorOf(data), HasSubstr("gate mask"));
+    data = SmallSea();
     data.edges[0].nm = -1.0F;
-    EXPECT_THAT(errorOf(data), HasSubstr("impossible length"));
-    data = smallSea();
+    EXPECT_THAT(ErrorOf(data), HasSubstr("impossible length"));
+    data = SmallSea();
     data.edges[0].kind = static_cast<EdgeKind>(7);
-    EXPECT_THAT(errorOf(data), HasSubstr("unknown kind"));
-    data = smallSea();
+    EXPECT_THAT(ErrorOf(data), HasSubstr("unknown kind"));
+    data = SmallSea();
     data.routePoints[0].groups[0][0] = 3;
-    EXPECT_THAT(errorOf(data), HasSubstr("an alternative does not exist"));
-    data = smallSea();
+    EXPECT_THAT(ErrorOf(data), HasSubstr("an alternative does not exist"));
+    data = SmallSea();
     data.routePoints[0].gate.clear();
-    EXPECT_THAT(errorOf(data), HasSubstr("no gate"));
-    data = smallSea();
+    EXPECT_THAT(ErrorOf(data), HasSubstr("no gate"));
+    data = SmallSea();
     data.ports[0].node = 8;
-    EXPECT_THAT(errorOf(data), HasSubstr("a port has no node"));
-    data = smallSea();
+    EXPECT_THAT(ErrorOf(data), HasSubstr("a port has no node"));
+    data = SmallSea();
     data.nodes[0].y = 91;
-    EXPECT_THAT(errorOf(data), HasSubstr("outside the earth"));
+    EXPECT_THAT(ErrorOf(data), HasSubstr("outside the earth"));
 }
 
 class SeaNetworkFileOnDisk : public ::testing::Test {
@@ -132,7 +132,7 @@ class SeaNetworkFileOnDisk : public ::testing::Test {
 };
 
 TEST_F(SeaNetworkFileOnDisk, IsLoadedAsANetwork) {
-    ASSERT_EQ(SeaNetworkFile::Write(path_, smallSea()), "");
+    ASSERT_EQ(SeaNetworkFile::Write(path_, SmallSea()), "");
     std::string error;
     const auto network = SeaNetwork::Load(path_, error);
     ASSERT_TRUE(network) << error;
@@ -145,7 +145,7 @@ TEST_F(SeaNetworkFileOnDisk, AMissingOrCutFileIsNamedWithWhatToDo) {
     std::string error;
     EXPECT_FALSE(SeaNetwork::Load(path_, error));
     EXPECT_EQ(error, "cannot open the sea network file " + path_ + ". Build or install the client again.");
-    ASSERT_EQ(SeaNetworkFile::Write(path_, smallSea()), "");
+    ASSERT_EQ(SeaNetworkFile::Write(path_, SmallSea()), "");
     std::filesystem::resize_file(path_, 100);
     EXPECT_FALSE(SeaNetwork::Load(path_, error));
     EXPECT_EQ(error,
@@ -154,7 +154,7 @@ TEST_F(SeaNetworkFileOnDisk, AMissingOrCutFileIsNamedWithWhatToDo) {
 
 TEST_F(SeaNetworkFileOnDisk, WritingWhereThereIsNoFolderTellsThePath) {
     const std::string path = path_ + "/none/network.bin";
-    EXPECT_EQ(SeaNetworkFile::Write(path, smallSea()), "cannot write " + path);
+    EXPECT_EQ(SeaNetworkFile::Write(path, SmallSea()), "cannot write " + path);
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace Tarvik::Server {
 namespace {
 
 /// A grid of 20 by 20 places a degree apart with some squares missing, the same every time.
-NetworkData grid() {
+NetworkData Grid() {
     constexpr std::uint32_t kSide = 20;
     NetworkData data;
     data.masks.resize(2);
@@ -44,7 +44,7 @@ NetworkData grid() {
     return data;
 }
 
-ArcTable tableOf(const NetworkData& data) {
+ArcTable TableOf(const NetworkData& data) {
     ArcTable table;
     for (std::uint32_t node = 0; node < data.nodes.size(); ++node) {
         table.start.push_back(static_cast<std::uint32_t>(table.arcs.size()));
@@ -63,8 +63,8 @@ ArcTable tableOf(const NetworkData& data) {
 }
 
 TEST(PathSearch, FindsWaysAsShortAsThePlainSearch) {
-    const SeaNetwork network(grid());
-    const ArcTable table = tableOf(network.data());
+    const SeaNetwork network(Grid());
+    const ArcTable table = TableOf(network.data());
     const std::vector<float> all = DistancesFrom(table, 0);
     std::size_t found = 0;
     for (std::uint32_t to = 0; to < all.size(); ++to) {
@@ -83,7 +83,7 @@ TEST(PathSearch, FindsWaysAsShortAsThePlainSearch) {
 }
 
 TEST(PathSearch, NeverCrossesAForbiddenGate) {
-    const SeaNetwork network(grid());
+    const SeaNetwork network(Grid());
     GateMask forbidden;
     forbidden[0] = true;
     EXPECT_TRUE(FindPath(network, 0, 399, GateMask{}));
@@ -97,7 +97,7 @@ TEST(PathSearch, NeverCrossesAForbiddenGate) {
 }
 
 TEST(Basins, AreJoinedAsTheSearchFindsThem) {
-    const SeaNetwork network(grid());
+    const SeaNetwork network(Grid());
     for (const bool shut : {false, true}) {
         GateMask forbidden;
         forbidden[0] = shut;
@@ -109,7 +109,7 @@ TEST(Basins, AreJoinedAsTheSearchFindsThem) {
 }
 
 TEST(Basins, NodesWithoutAGateBetweenThemShareOne) {
-    const SeaNetwork network(smallSea());
+    const SeaNetwork network(SmallSea());
     const Basins& basins = network.Waters();
     EXPECT_EQ(basins.BasinOf(5), basins.BasinOf(6));
     EXPECT_NE(basins.BasinOf(0), basins.BasinOf(7));
@@ -118,8 +118,8 @@ TEST(Basins, NodesWithoutAGateBetweenThemShareOne) {
 }
 
 TEST(Landmarks, NeverExceedTheWay) {
-    const NetworkData data = grid();
-    const ArcTable table = tableOf(data);
+    const NetworkData data = Grid();
+    const ArcTable table = TableOf(data);
     const Landmarks landmarks(table, 4);
     for (std::uint32_t from = 0; from < 400; from += 57) {
         const std::vector<float> all = DistancesFrom(table, from);

@@ -11,7 +11,7 @@ namespace Tarvik::Server {
 /// past it (route point 1) is shorter than the way south (2); a canal through it (3) is shortest, but shut.
 /// Ports 40003 and 40004 lie on both sides of the date line, 40005 lies in a pond of its own; no way joins
 /// these three groups.
-inline NetworkData smallSea() {
+inline NetworkData SmallSea() {
     const GeoPoint places[] = {{-10, 0}, {0, 12},   {0, -14},   {10, 0},
                                {0, 0},   {175, 10}, {-175, 10}, {100, 10}};
     NetworkData data;
@@ -43,8 +43,8 @@ inline NetworkData smallSea() {
     return data;
 }
 
-inline std::shared_ptr<const SeaNetwork> smallNetwork() {
-    return std::make_shared<const SeaNetwork>(smallSea());
+inline std::shared_ptr<const SeaNetwork> SmallNetwork() {
+    return std::make_shared<const SeaNetwork>(SmallSea());
 }
 
 }  // namespace Tarvik::Server

@@ -26,42 +26,42 @@ class RandomVoyages {
     void Make(PortCallRows& ports, VoyPositionBook& book, bool corrected) {
         ports.clear();
         book.points.clear();
-        book.eta = at(1, 0);
-        const int count = 2 + number(7);
+        book.eta = At(1, 0);
+        const int count = 2 + Number(7);
         for (int i = 0; i < count; ++i) {
-            for (int n = i == 0 ? 0 : number(6); n > 0; --n) {
-                const int kind = corrected && number(3) == 0 ? AisTrackPoint : PlainPoint;
-                book.points.push_back(point(position(), kind, 5.0F + static_cast<float>(number(20))));
+            for (int n = i == 0 ? 0 : Number(6); n > 0; --n) {
+                const int kind = corrected && Number(3) == 0 ? AisTrackPoint : PlainPoint;
+                book.points.push_back(Point(Position(), kind, 5.0F + static_cast<float>(Number(20))));
             }
-            book.points.push_back(port(position(), 12));
-            ports.push_back(call("P" + std::to_string(i), 100, 10, 0.1F, static_cast<float>(number(48))));
+            book.points.push_back(Port(Position(), 12));
+            ports.push_back(Call("P" + std::to_string(i), 100, 10, 0.1F, static_cast<float>(Number(48))));
         }
     }
-    int number(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
+    int Number(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
 
   private:
-    std::string position() {
-        return Util::StringUtl::Format("%.3f,%.3f", number(359000) / 1000.0 - 179.5,
-                                       number(160000) / 1000.0 - 80.0);
+    std::string Position() {
+        return Util::StringUtl::Format("%.3f,%.3f", Number(359000) / 1000.0 - 179.5,
+                                       Number(160000) / 1000.0 - 80.0);
     }
     std::mt19937 random_;
 };
 
 /// The name by which the table tells a position: latitude first.
-std::string tableName(const std::string& position) {
+std::string TableName(const std::string& position) {
     const auto comma = position.find(',');
     return position.substr(comma + 1) + "," + position.substr(0, comma);
 }
 
 /// Names of the table's rows that a book must give: its ports by their calls, its positions by themselves.
-std::vector<std::string> expectedNames(const PortCallRows& ports, const BookPoints& points) {
+std::vector<std::string> ExpectedNames(const PortCallRows& ports, const BookPoints& points) {
     std::vector<std::string> expected;
     std::size_t port = 0;
     for (const PosBookPoint& row : points) {
         if (row.pst == PortPoint) {
             expected.push_back(ports[port++].ppn);
         } else if (row.pst == AisTrackPoint) {
-            expected.push_back(tableName(row.position));
+            expected.push_back(TableName(row.position));
         }
     }
     return expected;
@@ -91,16 +91,16 @@ TEST(AisProperties, SplittingACorrectedVoyageLosesNoRow) {
             std::transform(list->begin(), list->end(), std::back_inserter(told),
                            [](const auto& row) { return row.ppn; });
         }
-        ASSERT_EQ(told, expectedNames(ports, book.points));
+        ASSERT_EQ(told, ExpectedNames(ports, book.points));
         ASSERT_TRUE(IsAisRow(history.back()));
         ASSERT_TRUE(std::none_of(plan.begin(), plan.end(), IsAisRow));
-        ASSERT_EQ(names(JoinHistoryAndPlan(history, plan)), names(ports));
+        ASSERT_EQ(Names(JoinHistoryAndPlan(history, plan)), Names(ports));
     }
     EXPECT_GT(split, 100);
 }
 
 /// The rows that stand in both lists, in order.
-bool isPartOf(const BookPoints& part, const BookPoints& whole) {
+bool IsPartOf(const BookPoints& part, const BookPoints& whole) {
     std::size_t at = 0;
     for (const PosBookPoint& row : part) {
         while (at < whole.size() && whole[at].position != row.position) {
@@ -124,7 +124,7 @@ TEST(AisProperties, PuttingAPositionInKeepsEveryPort) {
         VoyPositionBook book;
         random.Make(ports, book, false);
         const BookPoints before = book.points;
-        const auto fix = at(1, 0) + Util::_time_t(random.number(60 * 24), 0);
+        const auto fix = At(1, 0) + Util::_time_t(random.Number(60 * 24), 0);
         int applied = 0;
         const int code = InsertAisPosition(fix, ports, {"0.001,0.001", "0.002,0.002", "9,9"}, book, applied);
         ASSERT_TRUE(code == 0 || code == -5) << code;
@@ -132,7 +132,7 @@ TEST(AisProperties, PuttingAPositionInKeepsEveryPort) {
         std::copy_if(book.points.begin(), book.points.end(), std::back_inserter(kept), [](const auto& row) {
             return row.position != "0.001,0.001" && row.position != "0.002,0.002";
         });
-        ASSERT_TRUE(isPartOf(kept, before));
+        ASSERT_TRUE(IsPartOf(kept, before));
         const auto isPort = [](const auto& row) { return row.pst == PortPoint; };
         ASSERT_EQ(static_cast<std::size_t>(std::count_if(kept.begin(), kept.end(), isPort)), ports.size());
         inserted += kept.size() < book.points.size() ? 1 : 0;

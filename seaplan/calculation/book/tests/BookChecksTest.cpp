@@ -87,7 +87,7 @@ TEST(BookLimits, SpeedGoesUpToFiftyKnotsInWhicheverUnitItWasTyped) {
 }
 
 TEST(BookLimits, DepartureSetsTheStay) {
-    auto port = portAt(1);
+    auto port = PortAt(1);
     port.eta = {0, 0, 12, 1, 3, 2026};
     const Util::_datetime_t later(0, 30, 15, 1, 3, 2026);
     EXPECT_EQ(ChangeDeparture(later, port), BookRefusal::None);
@@ -99,7 +99,7 @@ TEST(BookLimits, DepartureSetsTheStay) {
 }
 
 TEST(BookLimits, DepartureBeforeTheArrivalIsRefused) {
-    auto port = portAt(1);
+    auto port = PortAt(1);
     port.eta = {0, 0, 12, 1, 3, 2026};
     port.etd = {0, 0, 14, 1, 3, 2026};
     port.portTime = 2;
@@ -110,7 +110,7 @@ TEST(BookLimits, DepartureBeforeTheArrivalIsRefused) {
 
 // The first port's stay moves every later row.
 TEST(BookLimits, FirstPortsDepartureIsWhereTheBookStarts) {
-    auto book = BookOf({portAt(0), portAt(1)});
+    auto book = BookOf({PortAt(0), PortAt(1)});
     const auto now = book.ports[0].eta;
     RecomputeBook(book, {}, now);
     const auto before = book.ports[1].eta;

@@ -18,16 +18,16 @@ struct BookPanel : ::testing::Test {
 
     static VoyInfo Voyage() {
         VoyInfo voyage;
-        voyage.portCalls = {call("Dalian", 0, 0, 0.25F, 6), call("Busan", 100, 12, 0.125F, 9)};
+        voyage.portCalls = {Call("Dalian", 0, 0, 0.25F, 6), Call("Busan", 100, 12, 0.125F, 9)};
         voyage.portCalls[0].pp = "L";
-        voyage.portCalls[1].eta = at(3, 4);
-        voyage.portCalls[1].etd = at(3, 13);
-        voyage.positionBook.points = {port("121.65,38.92", 0),
-                                      point("122.5,38", PlainPoint, 10, "GC"),
-                                      point("123,37", AisTrackPoint, 8),
-                                      point("124,36", ShortIdRoutePoint, 11),
-                                      point("125,35.5", AisTrackPoint, 9),
-                                      port("129.05,35.1", 12.5F)};
+        voyage.portCalls[1].eta = At(3, 4);
+        voyage.portCalls[1].etd = At(3, 13);
+        voyage.positionBook.points = {Port("121.65,38.92", 0),
+                                      Point("122.5,38", PlainPoint, 10, "GC"),
+                                      Point("123,37", AisTrackPoint, 8),
+                                      Point("124,36", ShortIdRoutePoint, 11),
+                                      Point("125,35.5", AisTrackPoint, 9),
+                                      Port("129.05,35.1", 12.5F)};
         voyage.positionBook.points[3].pointId = "131";
         voyage.positionBook.points[3].psn = "Cape";
         voyage.positionBook.points[5].pli = 3;
@@ -85,7 +85,7 @@ TEST_F(BookPanel, PortWithoutIdInTheDictionaryHasNone) {
 
 TEST_F(BookPanel, TellsWhatIsMissingAndLeavesTheBook) {
     const auto code = [](const VoyInfo& voyage) {
-        PosBookData book = BookOf({portAt(7)});
+        PosBookData book = BookOf({PortAt(7)});
         const int result = BookToPanel(voyage, book, {});
         EXPECT_EQ(book.ports.size(), 1);
         return result;
@@ -108,26 +108,26 @@ TEST_F(BookPanel, TellsWhatIsMissingAndLeavesTheBook) {
 }
 
 TEST_F(BookPanel, DateLineCountsPortsAndWaypoints) {
-    EXPECT_FALSE(CrossesDateLine(BookOf({portAt(178), portAt(-178)})));
-    EXPECT_FALSE(CrossesDateLine(BookOf({portAt(179), portAt(-179)})));
-    EXPECT_TRUE(CrossesDateLine(BookOf({portAt(179.001), portAt(-179.001)})));
-    EXPECT_TRUE(CrossesDateLine(BookOf({portAt(170), portAt(-179.5, 0, {waypoint(179.5)})})));
-    EXPECT_TRUE(CrossesDateLine(BookOf({portAt(170), portAt(-170, 0, {waypoint(179.5), waypoint(-179.5)})})));
+    EXPECT_FALSE(CrossesDateLine(BookOf({PortAt(178), PortAt(-178)})));
+    EXPECT_FALSE(CrossesDateLine(BookOf({PortAt(179), PortAt(-179)})));
+    EXPECT_TRUE(CrossesDateLine(BookOf({PortAt(179.001), PortAt(-179.001)})));
+    EXPECT_TRUE(CrossesDateLine(BookOf({PortAt(170), PortAt(-179.5, 0, {Waypoint(179.5)})})));
+    EXPECT_TRUE(CrossesDateLine(BookOf({PortAt(170), PortAt(-170, 0, {Waypoint(179.5), Waypoint(-179.5)})})));
     EXPECT_FALSE(CrossesDateLine({}));
 }
 
 TEST_F(BookPanel, PortsKeepFourDecimalsAndWaypointsThree) {
     auto book =
-        BookOf({portAt(0.12345, -1.00005), portAt(2, 3, {waypoint(1.23456, -0.0004, AisTrackPoint)})});
+        BookOf({PortAt(0.12345, -1.00005), PortAt(2, 3, {Waypoint(1.23456, -0.0004, AisTrackPoint)})});
     VoyInfo voyage;
     ASSERT_EQ(PanelToBook(book, voyage), 0);
-    EXPECT_EQ(positions(voyage.positionBook.points), "0.1235,-1.0001|1.235,-0.000|2.0000,3.0000");
+    EXPECT_EQ(Positions(voyage.positionBook.points), "0.1235,-1.0001|1.235,-0.000|2.0000,3.0000");
     EXPECT_EQ(voyage.positionBook.points[1].pst, AisTrackPoint);
     EXPECT_EQ(voyage.positionBook.points[2].pst, PortPoint);
 }
 
 TEST_F(BookPanel, StoredRowsTakeEveryField) {
-    auto book = BookOf({portAt(0), portAt(2, 0, {waypoint(1)})});
+    auto book = BookOf({PortAt(0), PortAt(2, 0, {Waypoint(1)})});
     auto& port = book.ports[1];
     port.id = "40208";
     port.name = "Busan";
@@ -150,8 +150,8 @@ TEST_F(BookPanel, StoredRowsTakeEveryField) {
     EXPECT_EQ(call.psp, static_cast<float>(25 / 1.852));
     EXPECT_EQ(call.pw, 0.1F);
     EXPECT_EQ(call.apt, 7.3F);
-    EXPECT_EQ(text(call.eta), "2026-03-03 04:00:00");
-    EXPECT_EQ(text(call.etd), "2026-03-03 13:00:00");
+    EXPECT_EQ(Text(call.eta), "2026-03-03 04:00:00");
+    EXPECT_EQ(Text(call.etd), "2026-03-03 13:00:00");
     const auto& last = voyage.positionBook.points.at(2);
     EXPECT_EQ(last.pointId + last.psn + last.psr, "40208BusanGC");
     EXPECT_EQ(last.psp, call.psp);
@@ -165,7 +165,7 @@ TEST_F(BookPanel, StoredRowsTakeEveryField) {
 
 TEST_F(BookPanel, OnePortIsNoBook) {
     auto voyage = Voyage();
-    EXPECT_EQ(PanelToBook(BookOf({portAt(1)}), voyage), -1);
+    EXPECT_EQ(PanelToBook(BookOf({PortAt(1)}), voyage), -1);
     EXPECT_EQ(PanelToBook({}, voyage), -1);
     EXPECT_EQ(voyage.portCalls.size(), 2);
     EXPECT_EQ(voyage.positionBook.points.size(), 6);
@@ -207,8 +207,8 @@ TEST(PanelRecords, StartWithTheirDefaults) {
     EXPECT_EQ(row.weather, 0);
     EXPECT_EQ(row.interval, 5);
     EXPECT_EQ(row.track, "GC");
-    EXPECT_EQ(text(row.eta), "2026-03-02 05:30:00") << "the panel's times are UTC";
-    EXPECT_EQ(text(row.etd), "2026-03-02 05:30:00");
+    EXPECT_EQ(Text(row.eta), "2026-03-02 05:30:00") << "the panel's times are UTC";
+    EXPECT_EQ(Text(row.etd), "2026-03-02 05:30:00");
     EXPECT_FALSE(row.expanded);
     EXPECT_EQ(row.kind, 0);
     EXPECT_EQ(row.aisSpeed, 0);

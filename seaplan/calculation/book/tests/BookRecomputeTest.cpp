@@ -18,16 +18,16 @@ using namespace Testing;
 const Util::_datetime_t kBeforeAll(0, 0, 0, 1, 1, 2026);
 const Util::_datetime_t kBehindAll(0, 0, 0, 1, 1, 2027);
 
-double km(double degrees) {
+double Km(double degrees) {
     return Util::CircleLineUtl::CalRhumbDist(0, 0, degrees, 0);
 }
 
-double since(const PosBookData& book, const Util::_datetime_t& time) {
+double Since(const PosBookData& book, const Util::_datetime_t& time) {
     return static_cast<double>(time.total_csecs() - book.ports.front().etd.total_csecs()) / 360000;
 }
 
 TEST(BookRecompute, TimesEveryRowFromTheFirstDeparture) {
-    auto book = BookOf({portAt(0), portAt(3, 0, {waypoint(1), waypoint(2)})});
+    auto book = BookOf({PortAt(0), PortAt(3, 0, {Waypoint(1), Waypoint(2)})});
     book.ports[0].portTime = 5;
     book.ports[0].etd = {0, 0, 17, 1, 3, 2026};
     book.ports[1].portTime = 4;
@@ -36,21 +36,21 @@ TEST(BookRecompute, TimesEveryRowFromTheFirstDeparture) {
     const BookUnits units{BookSpeedUnit::KmPerHour, BookDistanceUnit::Kilometres, BookTimeUnit::Hours};
     const auto totals = RecomputeBook(book, units, kBeforeAll);
     const auto& rows = book.ports[1].rows;
-    const double hour = km(1) / 18.52;
-    EXPECT_NEAR(since(book, rows[0].eta), hour, 1e-5);
+    const double hour = Km(1) / 18.52;
+    EXPECT_NEAR(Since(book, rows[0].eta), hour, 1e-5);
     EXPECT_EQ(rows[0].eta, rows[0].etd);
-    EXPECT_NEAR(since(book, rows[1].etd), 3 * hour, 1e-5);
-    EXPECT_NEAR(since(book, book.ports[1].eta), 5 * hour, 1e-5) << "the port's weather halves its speed";
-    EXPECT_NEAR(since(book, book.ports[1].etd), 5 * hour + 4, 1e-5);
-    EXPECT_NEAR(totals.totalDistance, 3 * km(1), 1e-9);
+    EXPECT_NEAR(Since(book, rows[1].etd), 3 * hour, 1e-5);
+    EXPECT_NEAR(Since(book, book.ports[1].eta), 5 * hour, 1e-5) << "the port's weather halves its speed";
+    EXPECT_NEAR(Since(book, book.ports[1].etd), 5 * hour + 4, 1e-5);
+    EXPECT_NEAR(totals.totalDistance, 3 * Km(1), 1e-9);
     EXPECT_NEAR(totals.totalTime, 5 * hour + 4, 1e-9) << "the stay at the first port does not count";
-    EXPECT_NEAR(totals.averageSpeed, 3 * km(1) / (5 * hour + 4), 1e-9);
+    EXPECT_NEAR(totals.averageSpeed, 3 * Km(1) / (5 * hour + 4), 1e-9);
     EXPECT_DOUBLE_EQ(rows[1].course, 90);
     EXPECT_DOUBLE_EQ(book.ports[1].course, 90);
 }
 
 TEST(BookRecompute, FirstPortKeepsItsTimesAndLosesSpeedAndCourse) {
-    auto book = BookOf({portAt(0), portAt(1)});
+    auto book = BookOf({PortAt(0), PortAt(1)});
     book.ports[0].course = 77;
     const auto before = book.ports[0];
     RecomputeBook(book, {}, kBeforeAll);
@@ -61,7 +61,7 @@ TEST(BookRecompute, FirstPortKeepsItsTimesAndLosesSpeedAndCourse) {
 }
 
 TEST(BookRecompute, TrackTellsHowAWayIsMeasured) {
-    auto book = BookOf({portAt(0, 50), portAt(60, 50)});
+    auto book = BookOf({PortAt(0, 50), PortAt(60, 50)});
     const BookUnits units{BookSpeedUnit::KmPerHour, BookDistanceUnit::Kilometres, BookTimeUnit::Hours};
     EXPECT_DOUBLE_EQ(RecomputeBook(book, units, kBeforeAll).totalDistance,
                      Util::CircleLineUtl::CalRhumbDist(0, 50, 60, 50));
@@ -72,7 +72,7 @@ TEST(BookRecompute, TrackTellsHowAWayIsMeasured) {
 }
 
 TEST(BookRecompute, TotalsFollowTheUnitsAndTheRowsStay) {
-    auto book = BookOf({portAt(0), portAt(3, 0, {waypoint(1)})});
+    auto book = BookOf({PortAt(0), PortAt(3, 0, {Waypoint(1)})});
     const auto metric = RecomputeBook(
         book, {BookSpeedUnit::KmPerHour, BookDistanceUnit::Kilometres, BookTimeUnit::Hours}, kBeforeAll);
     const auto rows = book.ports[1].rows;
@@ -85,33 +85,33 @@ TEST(BookRecompute, TotalsFollowTheUnitsAndTheRowsStay) {
 }
 
 TEST(BookRecompute, SightingBehindAPlainWaypointCountsInNoTotal) {
-    auto book = BookOf({portAt(0), portAt(3, 0, {waypoint(1), waypoint(2, 0, AisTrackPoint)})});
+    auto book = BookOf({PortAt(0), PortAt(3, 0, {Waypoint(1), Waypoint(2, 0, AisTrackPoint)})});
     book.ports[1].rows[1].course = 55;
     const BookUnits units{BookSpeedUnit::KmPerHour, BookDistanceUnit::Kilometres, BookTimeUnit::Hours};
     const auto totals = RecomputeBook(book, units, kBehindAll);
-    EXPECT_NEAR(totals.totalDistance, 2 * km(1), 1e-9);
-    EXPECT_NEAR(totals.totalTime, 2 * km(1) / 18.52, 1e-9);
+    EXPECT_NEAR(totals.totalDistance, 2 * Km(1), 1e-9);
+    EXPECT_NEAR(totals.totalTime, 2 * Km(1) / 18.52, 1e-9);
     EXPECT_EQ(book.ports[1].rows[1].course, 55) << "no course is set";
     EXPECT_EQ(totals.passedSub, 0) << "the sighting is not looked at";
-    EXPECT_NEAR(since(book, book.ports[1].rows[1].eta), 2 * km(1) / 18.52, 1e-5);
-    EXPECT_NEAR(since(book, book.ports[1].eta), 3 * km(1) / 18.52, 1e-5) << "the clock goes on";
+    EXPECT_NEAR(Since(book, book.ports[1].rows[1].eta), 2 * Km(1) / 18.52, 1e-5);
+    EXPECT_NEAR(Since(book, book.ports[1].eta), 3 * Km(1) / 18.52, 1e-5) << "the clock goes on";
 }
 
 TEST(BookRecompute, SightingElsewhereCountsLikeAnyRow) {
     for (const int before : {ShortIdRoutePoint, AisTrackPoint}) {
         auto book =
-            BookOf({portAt(0), portAt(3, 0, {waypoint(1, 0, before), waypoint(2, 0, AisTrackPoint)})});
+            BookOf({PortAt(0), PortAt(3, 0, {Waypoint(1, 0, before), Waypoint(2, 0, AisTrackPoint)})});
         const auto totals = RecomputeBook(book, {}, kBeforeAll);
-        EXPECT_NEAR(totals.totalDistance, km(3) / 1.852, 1e-9) << before;
+        EXPECT_NEAR(totals.totalDistance, Km(3) / 1.852, 1e-9) << before;
         EXPECT_DOUBLE_EQ(book.ports[1].rows[1].course, 90) << before;
     }
-    auto book = BookOf({portAt(0), portAt(2, 0, {waypoint(1, 0, AisTrackPoint)})});
-    EXPECT_NEAR(RecomputeBook(book, {}, kBeforeAll).totalDistance, km(2) / 1.852, 1e-9)
+    auto book = BookOf({PortAt(0), PortAt(2, 0, {Waypoint(1, 0, AisTrackPoint)})});
+    EXPECT_NEAR(RecomputeBook(book, {}, kBeforeAll).totalDistance, Km(2) / 1.852, 1e-9)
         << "the first row of a leg has none before it";
 }
 
 TEST(BookRecompute, AverageOfAVoyageThatTakesNoTimeIsNoNumber) {
-    auto book = BookOf({portAt(5), portAt(5)});
+    auto book = BookOf({PortAt(5), PortAt(5)});
     const auto totals = RecomputeBook(book, {}, kBeforeAll);
     EXPECT_TRUE(std::isnan(totals.averageSpeed));
     EXPECT_EQ(totals.totalDistance, 0);
@@ -119,7 +119,7 @@ TEST(BookRecompute, AverageOfAVoyageThatTakesNoTimeIsNoNumber) {
 }
 
 TEST(BookRecompute, SpeedOfNothingEndsAndAddsNoTime) {
-    auto book = BookOf({portAt(0), portAt(1)});
+    auto book = BookOf({PortAt(0), PortAt(1)});
     book.ports[1].speed = 0;
     RecomputeBook(book, {}, kBeforeAll);
     EXPECT_EQ(book.ports[1].eta, book.ports[0].etd);
@@ -128,9 +128,9 @@ TEST(BookRecompute, SpeedOfNothingEndsAndAddsNoTime) {
 }
 
 /// Three ports, two waypoints to each of the last two.
-PosBookData longBook() {
+PosBookData LongBook() {
     return BookOf(
-        {portAt(0), portAt(3, 0, {waypoint(1), waypoint(2)}), portAt(6, 0, {waypoint(4), waypoint(5)})});
+        {PortAt(0), PortAt(3, 0, {Waypoint(1), Waypoint(2)}), PortAt(6, 0, {Waypoint(4), Waypoint(5)})});
 }
 
 struct PassedCase {
@@ -141,7 +141,7 @@ struct PassedCase {
 };
 
 TEST(BookRecompute, TellsHowFarTheVoyageHasCome) {
-    auto timed = longBook();
+    auto timed = LongBook();
     RecomputeBook(timed, {}, kBeforeAll);
     const auto second = Util::_time_t(0, 0, 1);
     const auto& first = timed.ports[1];
@@ -153,7 +153,7 @@ TEST(BookRecompute, TellsHowFarTheVoyageHasCome) {
                           PassedCase{"at a port", first.eta, 1, 1},
                           PassedCase{"at the next leg's first", last.rows[0].etd, 1, 0},
                           PassedCase{"at the end", last.eta, 2, 1}}) {
-        auto book = longBook();
+        auto book = LongBook();
         const auto totals = RecomputeBook(book, {}, c.now);
         EXPECT_EQ(totals.passedPort, c.port) << c.name;
         EXPECT_EQ(totals.passedSub, c.sub) << c.name;
@@ -161,7 +161,7 @@ TEST(BookRecompute, TellsHowFarTheVoyageHasCome) {
 }
 
 TEST(BookRecompute, StayAtAPortPassesItOnArrival) {
-    auto book = longBook();
+    auto book = LongBook();
     book.ports[1].portTime = 48;
     RecomputeBook(book, {}, kBeforeAll);
     const auto now = book.ports[1].eta + Util::_time_t(1, 0);

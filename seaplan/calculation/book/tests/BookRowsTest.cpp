@@ -16,26 +16,26 @@ using namespace Testing;
 constexpr int kPort = PosBookRowRef::kPort;
 
 PosBookRow GreatCircle(double x, double y = 0, int kind = PlainPoint) {
-    auto row = waypoint(x, y, kind);
+    auto row = Waypoint(x, y, kind);
     row.track = "GC";
     row.expanded = true;
     return row;
 }
 
-PosBookRow expanded(PosBookRow row) {
+PosBookRow Expanded(PosBookRow row) {
     row.expanded = true;
     return row;
 }
 
 /// A port, two shown waypoints, a port, one hidden and one named waypoint, a port.
-PosBookData sampleBook() {
-    auto book = BookOf({portAt(0), portAt(3, 0, {expanded(waypoint(1)), expanded(waypoint(2))}),
-                        portAt(6, 0, {waypoint(4), waypoint(5, 0, ShortIdRoutePoint)})});
+PosBookData SampleBook() {
+    auto book = BookOf({PortAt(0), PortAt(3, 0, {Expanded(Waypoint(1)), Expanded(Waypoint(2))}),
+                        PortAt(6, 0, {Waypoint(4), Waypoint(5, 0, ShortIdRoutePoint)})});
     book.ports[0].expanded = true;
     return book;
 }
 
-std::string longitudes(const std::vector<PosBookRow>& rows) {
+std::string Longitudes(const std::vector<PosBookRow>& rows) {
     std::string texts;
     for (const auto& row : rows) {
         texts += (texts.empty() ? "" : " ") + Util::StringUtl::Format("%g", row.x);
@@ -44,13 +44,13 @@ std::string longitudes(const std::vector<PosBookRow>& rows) {
 }
 
 TEST(BookList, ShowsPortsNamedPointsAndWhatIsExpanded) {
-    EXPECT_EQ(ListBookRows(sampleBook()),
+    EXPECT_EQ(ListBookRows(SampleBook()),
               (BookRowRefs{{0, kPort}, {1, 0}, {1, 1}, {1, kPort}, {2, 1}, {2, kPort}}));
     EXPECT_TRUE(ListBookRows({}).empty());
 }
 
 TEST(BookList, RowsLeadToTheirPlaces) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     EXPECT_EQ(PlaceOf(book, {2, 1}).x, 5);
     EXPECT_EQ(PlaceOf(book, {1, kPort}).x, 3);
     PlaceOf(book, {2, 0}).name = "here";
@@ -58,7 +58,7 @@ TEST(BookList, RowsLeadToTheirPlaces) {
 }
 
 TEST(BookList, TogglingAPortShowsAndHidesTheWaypointsBehindIt) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     EXPECT_TRUE(ToggleBookRow(book, refs, 0));
     EXPECT_FALSE(book.ports[0].expanded);
@@ -67,13 +67,13 @@ TEST(BookList, TogglingAPortShowsAndHidesTheWaypointsBehindIt) {
     EXPECT_EQ(refs, (BookRowRefs{{0, kPort}, {1, kPort}, {2, 0}, {2, 1}, {2, kPort}}));
     EXPECT_TRUE(ToggleBookRow(book, refs, 0));
     EXPECT_TRUE(ToggleBookRow(book, refs, 3));
-    EXPECT_EQ(refs, ListBookRows(sampleBook())) << "twice gives the list back";
+    EXPECT_EQ(refs, ListBookRows(SampleBook())) << "twice gives the list back";
 }
 
 TEST(BookList, TogglingANamedPointReachesToTheNextOne) {
-    auto book = BookOf({portAt(0), portAt(9, 0,
-                                          {waypoint(1, 0, ShortIdRoutePoint), waypoint(2), waypoint(3),
-                                           waypoint(4, 0, AisTrackPoint), waypoint(5)})});
+    auto book = BookOf({PortAt(0), PortAt(9, 0,
+                                          {Waypoint(1, 0, ShortIdRoutePoint), Waypoint(2), Waypoint(3),
+                                           Waypoint(4, 0, AisTrackPoint), Waypoint(5)})});
     auto refs = ListBookRows(book);
     EXPECT_TRUE(ToggleBookRow(book, refs, 1));
     EXPECT_EQ(refs, (BookRowRefs{{0, kPort}, {1, 0}, {1, 1}, {1, 2}, {1, 3}, {1, kPort}}));
@@ -82,17 +82,17 @@ TEST(BookList, TogglingANamedPointReachesToTheNextOne) {
 }
 
 TEST(BookList, PlainWaypointsAndTheLastPortDoNotToggle) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     for (const int row : {-1, 1, 2, 5, 6}) {
         EXPECT_FALSE(ToggleBookRow(book, refs, row)) << row;
     }
-    EXPECT_EQ(refs, ListBookRows(sampleBook()));
+    EXPECT_EQ(refs, ListBookRows(SampleBook()));
     EXPECT_FALSE(book.ports[2].expanded);
 }
 
 TEST(RegenerateLeg, CutsAGreatCircleIntoWaypoints) {
-    auto book = BookOf({portAt(0), portAt(12)});
+    auto book = BookOf({PortAt(0), PortAt(12)});
     book.ports[0].expanded = true;
     auto& to = book.ports[1];
     to.track = "GC";
@@ -120,7 +120,7 @@ TEST(RegenerateLeg, CutsAGreatCircleIntoWaypoints) {
 }
 
 TEST(RegenerateLeg, RhumbLineAndNearPointsNeedNoWaypoint) {
-    auto book = BookOf({portAt(0), portAt(12), portAt(13)});
+    auto book = BookOf({PortAt(0), PortAt(12), PortAt(13)});
     book.ports[2].track = "GC";
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 1, false), 0);
@@ -129,7 +129,7 @@ TEST(RegenerateLeg, RhumbLineAndNearPointsNeedNoWaypoint) {
 }
 
 TEST(RegenerateLeg, MidpointComesOnlyWhereNothingElseDoes) {
-    auto book = BookOf({portAt(0, 1), portAt(1.00005, 2.00003), portAt(14)});
+    auto book = BookOf({PortAt(0, 1), PortAt(1.00005, 2.00003), PortAt(14)});
     book.ports[1].track = "GC";
     book.ports[2].track = "GC";
     auto refs = ListBookRows(book);
@@ -146,7 +146,7 @@ TEST(RegenerateLeg, MidpointComesOnlyWhereNothingElseDoes) {
 }
 
 TEST(RegenerateLeg, MidpointOnARhumbLine) {
-    auto book = BookOf({portAt(0), portAt(20)});
+    auto book = BookOf({PortAt(0), PortAt(20)});
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 1, true), 1);
     EXPECT_EQ(book.ports[1].rows.at(0).x, 10);
@@ -154,40 +154,40 @@ TEST(RegenerateLeg, MidpointOnARhumbLine) {
 }
 
 TEST(RegenerateLeg, NewRowsStandBeforeTheirWaypoint) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 2, true), 1);
-    EXPECT_EQ(longitudes(book.ports[1].rows), "1 1.5 2");
+    EXPECT_EQ(Longitudes(book.ports[1].rows), "1 1.5 2");
     EXPECT_EQ(refs, (BookRowRefs{{0, kPort}, {1, 0}, {1, 1}, {1, 2}, {1, kPort}, {2, 1}, {2, kPort}}));
 }
 
 TEST(RegenerateLeg, FirstWaypointComesBehindThePortBefore) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 1, true), 1);
-    EXPECT_EQ(longitudes(book.ports[1].rows), "0.5 1 2");
+    EXPECT_EQ(Longitudes(book.ports[1].rows), "0.5 1 2");
     EXPECT_EQ(refs[1], (PosBookRowRef{1, 0}));
     EXPECT_EQ(refs[3], (PosBookRowRef{1, 2}));
 }
 
 TEST(RegenerateLeg, PortComesBehindTheLastWaypointOfItsLeg) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 5, true), 1);
-    EXPECT_EQ(longitudes(book.ports[2].rows), "4 5 5.5");
-    EXPECT_EQ(refs, ListBookRows(sampleBook())) << "the row before is not expanded, so the list stays";
+    EXPECT_EQ(Longitudes(book.ports[2].rows), "4 5 5.5");
+    EXPECT_EQ(refs, ListBookRows(SampleBook())) << "the row before is not expanded, so the list stays";
 }
 
 TEST(RegenerateLeg, HiddenRowsShiftTheListAllTheSame) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 4, true), 1) << "between the hidden waypoint and the named one";
-    EXPECT_EQ(longitudes(book.ports[2].rows), "4 4.5 5");
+    EXPECT_EQ(Longitudes(book.ports[2].rows), "4 4.5 5");
     EXPECT_EQ(refs, (BookRowRefs{{0, kPort}, {1, 0}, {1, 1}, {1, kPort}, {2, 2}, {2, kPort}}));
 }
 
 TEST(RegenerateLeg, WaypointsOfAnEarlierTimeStay) {
-    auto book = BookOf({portAt(0), portAt(12)});
+    auto book = BookOf({PortAt(0), PortAt(12)});
     book.ports[1].track = "GC";
     auto refs = ListBookRows(book);
     EXPECT_EQ(RegenerateLeg(book, refs, 1, false), 2);
@@ -196,24 +196,24 @@ TEST(RegenerateLeg, WaypointsOfAnEarlierTimeStay) {
 }
 
 TEST(RegenerateLeg, NothingLeadsToTheFirstPort) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     for (const int row : {0, -1, 6, 99}) {
         EXPECT_EQ(RegenerateLeg(book, refs, row, true), 0) << row;
     }
-    EXPECT_EQ(refs, ListBookRows(sampleBook()));
+    EXPECT_EQ(refs, ListBookRows(SampleBook()));
 }
 
 TEST(DeleteBookRow, TakesAPlainWaypointOut) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     EXPECT_EQ(DeleteBookRow(book, refs, {}, 1), BookDeletion::Recompute);
-    EXPECT_EQ(longitudes(book.ports[1].rows), "2");
+    EXPECT_EQ(Longitudes(book.ports[1].rows), "2");
     EXPECT_EQ(refs, (BookRowRefs{{0, kPort}, {1, 0}, {1, kPort}, {2, 1}, {2, kPort}}));
 }
 
 TEST(DeleteBookRow, RefusesPortsNamedPointsAndWhatIsPassed) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     BookTotals passed;
     passed.passedPort = 0;
@@ -221,12 +221,12 @@ TEST(DeleteBookRow, RefusesPortsNamedPointsAndWhatIsPassed) {
     for (const int row : {-1, 0, 1, 3, 4, 5, 6}) {
         EXPECT_EQ(DeleteBookRow(book, refs, passed, row), BookDeletion::Refused) << row;
     }
-    EXPECT_EQ(refs, ListBookRows(sampleBook()));
+    EXPECT_EQ(refs, ListBookRows(SampleBook()));
     EXPECT_EQ(DeleteBookRow(book, refs, passed, 2), BookDeletion::Recompute);
 }
 
 TEST(DeleteBookRow, GreatCircleBehindItIsCutAnew) {
-    auto book = BookOf({portAt(0), portAt(30, 0, {GreatCircle(8), GreatCircle(16)})});
+    auto book = BookOf({PortAt(0), PortAt(30, 0, {GreatCircle(8), GreatCircle(16)})});
     book.ports[0].expanded = true;
     auto refs = ListBookRows(book);
     EXPECT_EQ(DeleteBookRow(book, refs, {}, 1), BookDeletion::Recompute);
@@ -237,24 +237,24 @@ TEST(DeleteBookRow, GreatCircleBehindItIsCutAnew) {
 }
 
 TEST(DeleteBookRow, ShortGreatCircleIsNotRecomputed) {
-    auto book = BookOf({portAt(0), portAt(3, 0, {expanded(waypoint(1)), GreatCircle(2)})});
+    auto book = BookOf({PortAt(0), PortAt(3, 0, {Expanded(Waypoint(1)), GreatCircle(2)})});
     auto refs = ListBookRows(book);
     EXPECT_EQ(DeleteBookRow(book, refs, {}, 1), BookDeletion::Complete);
-    EXPECT_EQ(longitudes(book.ports[1].rows), "2");
+    EXPECT_EQ(Longitudes(book.ports[1].rows), "2");
 }
 
 TEST(DeleteBookRow, InsertingAndDeletingGivesTheBookBack) {
-    auto book = sampleBook();
+    auto book = SampleBook();
     auto refs = ListBookRows(book);
     ASSERT_EQ(RegenerateLeg(book, refs, 2, true), 1);
     EXPECT_EQ(DeleteBookRow(book, refs, {}, 2), BookDeletion::Recompute);
-    EXPECT_EQ(longitudes(book.ports[1].rows), "1 2");
-    EXPECT_EQ(refs, ListBookRows(sampleBook()));
+    EXPECT_EQ(Longitudes(book.ports[1].rows), "1 2");
+    EXPECT_EQ(refs, ListBookRows(SampleBook()));
 }
 
 // A changed longitude regenerates the way to the row and to the row behind it, on each change.
 TEST(RegenerateLeg, MovedRowGetsWaypointsOnBothSidesEachTime) {
-    auto book = BookOf({portAt(0), portAt(30, 0, {GreatCircle(15)})});
+    auto book = BookOf({PortAt(0), PortAt(30, 0, {GreatCircle(15)})});
     book.ports[0].expanded = true;
     book.ports[1].track = "GC";
     auto refs = ListBookRows(book);

@@ -10,7 +10,7 @@
 namespace Tarvik::Seaplan::Testing {
 
 /// A waypoint on the equator unless a latitude is given, sailed by rhumb line at 18.52 km/h.
-inline PosBookRow waypoint(double x, double y = 0, int kind = PlainPoint) {
+inline PosBookRow Waypoint(double x, double y = 0, int kind = PlainPoint) {
     PosBookRow row;
     row.x = x;
     row.y = y;
@@ -19,7 +19,7 @@ inline PosBookRow waypoint(double x, double y = 0, int kind = PlainPoint) {
     return row;
 }
 
-inline PosBookPortRow portAt(double x, double y = 0, std::vector<PosBookRow> rows = {}) {
+inline PosBookPortRow PortAt(double x, double y = 0, std::vector<PosBookRow> rows = {}) {
     PosBookPortRow port;
     port.x = x;
     port.y = y;

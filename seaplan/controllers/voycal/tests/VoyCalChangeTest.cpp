@@ -7,7 +7,7 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-VoyCalGroup groupOf(const std::string& head, std::map<std::string, std::string> ranges = {}) {
+VoyCalGroup GroupOf(const std::string& head, std::map<std::string, std::string> ranges = {}) {
     VoyCalGroup group;
     group.head.id = head;
     group.ranges = std::move(ranges);
@@ -15,21 +15,21 @@ VoyCalGroup groupOf(const std::string& head, std::map<std::string, std::string> 
 }
 
 /// A port with the groups a to d, of which b has two ranges.
-VoyCalPort portWith(const std::string& locks) {
+VoyCalPort PortWith(const std::string& locks) {
     VoyCalPort port;
     port.point.id = "42";
     port.rp_id_str = "a,b,c,d";
     port.lock_rp_id_str = locks;
-    port.groups = {groupOf("a"), groupOf("b", {{"x,y", "n|m"}, {"k,l", "n"}}), groupOf("c"), groupOf("d")};
+    port.groups = {GroupOf("a"), GroupOf("b", {{"x,y", "n|m"}, {"k,l", "n"}}), GroupOf("c"), GroupOf("d")};
     return port;
 }
 
-VoyCalChange changeTo(const std::string& oldId, const std::string& newId) {
+VoyCalChange ChangeTo(const std::string& oldId, const std::string& newId) {
     return {oldId, newId, 1, "", newId + "=x,y"};
 }
 
 TEST(VoyCalChange, FirstRangeByKeyAnswers) {
-    const auto change = ChangeOf({VoyCalPort{}, portWith("")}, "b", "m");
+    const auto change = ChangeOf({VoyCalPort{}, PortWith("")}, "b", "m");
     ASSERT_TRUE(change);
     EXPECT_EQ(change->port, 1);
     EXPECT_EQ(change->oldId, "b");
@@ -39,26 +39,26 @@ TEST(VoyCalChange, FirstRangeByKeyAnswers) {
 }
 
 TEST(VoyCalChange, FirstPortWithSuchAGroupCounts) {
-    auto second = portWith("");
+    auto second = PortWith("");
     second.groups[1].ranges = {{"later", "z"}};
-    const auto change = ChangeOf({portWith(""), second}, "b", "n");
+    const auto change = ChangeOf({PortWith(""), second}, "b", "n");
     ASSERT_TRUE(change);
     EXPECT_EQ(change->port, 0);
 }
 
 TEST(VoyCalChange, NothingWithoutGroupOrRange) {
-    EXPECT_FALSE(ChangeOf({portWith("")}, "z", "n"));
-    EXPECT_FALSE(ChangeOf({portWith("")}, "a", "n"));
-    EXPECT_FALSE(ChangeOf({portWith("")}, "", "n"));
+    EXPECT_FALSE(ChangeOf({PortWith("")}, "z", "n"));
+    EXPECT_FALSE(ChangeOf({PortWith("")}, "a", "n"));
+    EXPECT_FALSE(ChangeOf({PortWith("")}, "", "n"));
     EXPECT_FALSE(ChangeOf({}, "b", "n"));
 }
 
 TEST(VoyCalEntry, WithoutLocksTheNewOneStandsAlone) {
-    EXPECT_EQ(EntryWithLock(portWith(""), changeTo("b", "n"), true), "42|a,b,c,d|n=x,y");
+    EXPECT_EQ(EntryWithLock(PortWith(""), ChangeTo("b", "n"), true), "42|a,b,c,d|n=x,y");
 }
 
 TEST(VoyCalEntry, NothingWhenTheOldPointHasNoGroup) {
-    EXPECT_FALSE(EntryWithLock(portWith("a=1,2"), changeTo("z", "n"), true));
+    EXPECT_FALSE(EntryWithLock(PortWith("a=1,2"), ChangeTo("z", "n"), true));
 }
 
 struct EntryCase {
@@ -86,7 +86,7 @@ TEST(VoyCalEntry, LocksKeepTheOrderOfTheirGroups) {
              EntryCase{"for the last place all are before", "d", "n", "b=1,2.c=3,4", "b=1,2.c=3,4.n=x,y"},
              EntryCase{"no dots at the ends", "b", "n", "..", "n=x,y"},
          }) {
-        const auto entry = EntryWithLock(portWith(c.locks), changeTo(c.oldId, c.newId), true);
+        const auto entry = EntryWithLock(PortWith(c.locks), ChangeTo(c.oldId, c.newId), true);
         ASSERT_TRUE(entry) << c.name;
         EXPECT_EQ(*entry, std::string("42|a,b,c,d|") + c.text) << c.name;
     }
@@ -94,12 +94,12 @@ TEST(VoyCalEntry, LocksKeepTheOrderOfTheirGroups) {
 
 TEST(VoyCalEntry, LockThatNamesTheOldPointGoesUnlessChosenAmongAlternatives) {
     for (const auto* locks : {"a=1,b", "a=b,1"}) {
-        EXPECT_EQ(EntryWithLock(portWith(locks), changeTo("b", "n"), true),
+        EXPECT_EQ(EntryWithLock(PortWith(locks), ChangeTo("b", "n"), true),
                   std::string("42|a,b,c,d|") + locks + ".n=x,y");
-        EXPECT_EQ(EntryWithLock(portWith(locks), changeTo("b", "n"), false), "42|a,b,c,d|n=x,y");
+        EXPECT_EQ(EntryWithLock(PortWith(locks), ChangeTo("b", "n"), false), "42|a,b,c,d|n=x,y");
     }
-    EXPECT_EQ(EntryWithLock(portWith("b=1,2.c=1,b"), changeTo("b", "n"), false), "42|a,b,c,d|n=x,y");
-    EXPECT_EQ(EntryWithLock(portWith("b=1,2.c=1,bb"), changeTo("b", "n"), false), "42|a,b,c,d|n=x,y.c=1,bb");
+    EXPECT_EQ(EntryWithLock(PortWith("b=1,2.c=1,b"), ChangeTo("b", "n"), false), "42|a,b,c,d|n=x,y");
+    EXPECT_EQ(EntryWithLock(PortWith("b=1,2.c=1,bb"), ChangeTo("b", "n"), false), "42|a,b,c,d|n=x,y.c=1,bb");
 }
 
 TEST(VoyCalEntry, BeginsWithThePortsId) {

@@ -15,7 +15,7 @@ namespace Tarvik::Seaplan::Testing {
 namespace {
 
 template <class Record>
-const Record& as(const void* input) {
+const Record& As(const void* input) {
     return *static_cast<const Record*>(input);
 }
 
@@ -24,14 +24,14 @@ const Record& as(const void* input) {
 VoyCalChart::VoyCalChart() {
     namespace Bus = Interface::Bus;
     Core::TrvKernel::Instance()->Reset();
-    bind<&VoyCalChart::addLayer>(Bus::MapAddLayer.name);
-    bind<&VoyCalChart::removeLayer>(Bus::MapRemoveLayer.name);
-    bind<&VoyCalChart::addLine>(Bus::MapAddLine.name);
-    bind<&VoyCalChart::AddLabel>(Bus::MapAddPointLabel.name);
-    bind<&VoyCalChart::deleteByType>(Bus::MapDeleteObjectsByType.name);
-    bind<&VoyCalChart::getPort>(Bus::MapGetPort.name);
-    bind<&VoyCalChart::getExtent>(Bus::MapGetExtent.name);
-    bind<&VoyCalChart::setExtent>(Bus::MapSetExtent.name);
+    Bind<&VoyCalChart::AddLayer>(Bus::MapAddLayer.name);
+    Bind<&VoyCalChart::RemoveLayer>(Bus::MapRemoveLayer.name);
+    Bind<&VoyCalChart::AddLine>(Bus::MapAddLine.name);
+    Bind<&VoyCalChart::AddLabel>(Bus::MapAddPointLabel.name);
+    Bind<&VoyCalChart::DeleteByType>(Bus::MapDeleteObjectsByType.name);
+    Bind<&VoyCalChart::GetPort>(Bus::MapGetPort.name);
+    Bind<&VoyCalChart::GetExtent>(Bus::MapGetExtent.name);
+    Bind<&VoyCalChart::SetExtent>(Bus::MapSetExtent.name);
 }
 
 VoyCalChart::~VoyCalChart() {
@@ -39,7 +39,7 @@ VoyCalChart::~VoyCalChart() {
 }
 
 template <auto Method>
-void VoyCalChart::bind(const char* name) {
+void VoyCalChart::Bind(const char* name) {
     auto& delegate = delegates_.emplace_back();
     delegate.Set<Method>(this);
     Core::TrvKernel::Instance()->CreateTrvService(name, this, "", "", nullptr);
@@ -53,49 +53,49 @@ std::vector<std::string> VoyCalChart::CallsOf(const std::string& word) const {
     return found;
 }
 
-void* VoyCalChart::addLayer(void* input) {
-    calls.push_back("layer " + as<Interface::TrvMapLayerParams>(input).layer);
+void* VoyCalChart::AddLayer(void* input) {
+    calls.push_back("layer " + As<Interface::TrvMapLayerParams>(input).layer);
     return nullptr;
 }
 
-void* VoyCalChart::removeLayer(void* input) {
-    calls.push_back("remove " + as<std::string>(input));
+void* VoyCalChart::RemoveLayer(void* input) {
+    calls.push_back("remove " + As<std::string>(input));
     return nullptr;
 }
 
-void* VoyCalChart::addLine(void* input) {
-    lines.push_back(as<Interface::TrvMapLineParams>(input));
+void* VoyCalChart::AddLine(void* input) {
+    lines.push_back(As<Interface::TrvMapLineParams>(input));
     calls.push_back("line " + lines.back().ref.layer + "/" + lines.back().ref.type);
     return nullptr;
 }
 
 void* VoyCalChart::AddLabel(void* input) {
-    labels.push_back(as<Interface::TrvMapPointParams>(input));
+    labels.push_back(As<Interface::TrvMapPointParams>(input));
     const auto& label = labels.back();
     calls.push_back("label " + label.ref.layer + "/" + label.ref.type + "/" + label.ref.id + " " +
                     label.label + " " + label.position);
     return nullptr;
 }
 
-void* VoyCalChart::deleteByType(void* input) {
-    const auto& ref = as<Interface::TrvMapObjectRef>(input);
+void* VoyCalChart::DeleteByType(void* input) {
+    const auto& ref = As<Interface::TrvMapObjectRef>(input);
     calls.push_back("clear " + ref.layer + "/" + ref.type);
     return nullptr;
 }
 
-void* VoyCalChart::getPort(void* input) {
-    calls.push_back("port " + as<std::string>(input));
-    const auto found = ports.find(as<std::string>(input));
+void* VoyCalChart::GetPort(void* input) {
+    calls.push_back("port " + As<std::string>(input));
+    const auto found = ports.find(As<std::string>(input));
     return found == ports.end() ? nullptr : &found->second;
 }
 
-void* VoyCalChart::getExtent(void* input) {
+void* VoyCalChart::GetExtent(void* input) {
     calls.push_back(input == nullptr ? "view" : "view of something");
     return view ? new (Core::AllocateBusBlock(sizeof *view)) Interface::TrvMapExtent(*view) : nullptr;
 }
 
-void* VoyCalChart::setExtent(void* input) {
-    const auto& extent = as<Interface::TrvMapExtent>(input);
+void* VoyCalChart::SetExtent(void* input) {
+    const auto& extent = As<Interface::TrvMapExtent>(input);
     calls.push_back(Util::StringUtl::Format("extent %g %g %g %g", extent.first, extent.second, extent.third,
                                             extent.fourth));
     return nullptr;

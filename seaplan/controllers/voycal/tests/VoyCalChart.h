@@ -33,15 +33,15 @@ class VoyCalChart : public Core::TObject {
 
   private:
     template <auto Method>
-    void bind(const char* name);
-    void* addLayer(void* input);
-    void* removeLayer(void* input);
-    void* addLine(void* input);
+    void Bind(const char* name);
+    void* AddLayer(void* input);
+    void* RemoveLayer(void* input);
+    void* AddLine(void* input);
     void* AddLabel(void* input);
-    void* deleteByType(void* input);
-    void* getPort(void* input);
-    void* getExtent(void* input);
-    void* setExtent(void* input);
+    void* DeleteByType(void* input);
+    void* GetPort(void* input);
+    void* GetExtent(void* input);
+    void* SetExtent(void* input);
 
     std::deque<Core::TEvent> delegates_;
 };

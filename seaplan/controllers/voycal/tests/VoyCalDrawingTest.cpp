@@ -12,7 +12,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-VoyCalPort portWith(const std::vector<const char*>& pointsets) {
+VoyCalPort PortWith(const std::vector<const char*>& pointsets) {
     VoyCalPort port;
     for (const auto* pointset : pointsets) {
         VoyCalRoute route;
@@ -24,7 +24,7 @@ VoyCalPort portWith(const std::vector<const char*>& pointsets) {
 
 TEST(VoyCalLines, NeighbouringRoutesShareTheirCorner) {
     const auto lines =
-        LinesOf({{}, portWith({"1,0|2,0", "2,0|3,0"}), portWith({"3,0|4,0", "4,0|5.12345,-6"})});
+        LinesOf({{}, PortWith({"1,0|2,0", "2,0|3,0"}), PortWith({"3,0|4,0", "4,0|5.12345,-6"})});
     EXPECT_THAT(lines.main, ElementsAre("1.0000,0.0000", "2.0000,0.0000", "3.0000,0.0000", "4.0000,0.0000",
                                         "5.1235,-6.0000"));
     EXPECT_THAT(lines.east, IsEmpty());
@@ -36,40 +36,40 @@ TEST(VoyCalLines, NeighbouringRoutesShareTheirCorner) {
 }
 
 TEST(VoyCalLines, FirstPortsOwnRoutesAreNotDrawn) {
-    const auto lines = LinesOf({portWith({"50,50|60,60"}), portWith({"1,0|2,0"})});
+    const auto lines = LinesOf({PortWith({"50,50|60,60"}), PortWith({"1,0|2,0"})});
     EXPECT_EQ(lines.main.size(), 2);
     EXPECT_EQ(lines.extent.third, 2);
 }
 
 TEST(VoyCalLines, RouteWithoutCornersTakesNoneAway) {
-    const auto lines = LinesOf({{}, portWith({"1,0|2,0", "", "2,0|3,0"})});
+    const auto lines = LinesOf({{}, PortWith({"1,0|2,0", "", "2,0|3,0"})});
     EXPECT_THAT(lines.main, ElementsAre("1.0000,0.0000", "2.0000,0.0000", "3.0000,0.0000"));
 }
 
 TEST(VoyCalLines, LineIsCutAtTheDateLine) {
     const auto lines =
-        LinesOf({{}, portWith({"160,0|170,0", "170,0|180,1|-180,1|-170,2"}), portWith({"-170,2|-160,2"})});
+        LinesOf({{}, PortWith({"160,0|170,0", "170,0|180,1|-180,1|-170,2"}), PortWith({"-170,2|-160,2"})});
     EXPECT_TRUE(lines.crosses);
     EXPECT_THAT(lines.main, ElementsAre("160.0000,0.0000", "170.0000,0.0000", "179.9900,1.0000"));
     EXPECT_THAT(lines.east, ElementsAre("-179.9900,1.0000", "-170.0000,2.0000", "-160.0000,2.0000"));
 }
 
 TEST(VoyCalLines, LineIsCutTheOtherWayToo) {
-    const auto lines = LinesOf({{}, portWith({"-170,0|-180,1|180,1|170,2"})});
+    const auto lines = LinesOf({{}, PortWith({"-170,0|-180,1|180,1|170,2"})});
     EXPECT_THAT(lines.main, ElementsAre("-170.0000,0.0000", "-179.9900,1.0000"));
     EXPECT_THAT(lines.east, ElementsAre("179.9900,1.0000", "170.0000,2.0000"));
 }
 
 TEST(VoyCalLines, OnlyTheFirstCrossingCuts) {
     const auto lines = LinesOf({{},
-                                portWith({"170,0|180,1|-180,1|-170,2", "-170,2|-180,3|180,3|170,4"}),
-                                portWith({"170,4|180,5|-180,5|-170,6"})});
+                                PortWith({"170,0|180,1|-180,1|-170,2", "-170,2|-180,3|180,3|170,4"}),
+                                PortWith({"170,4|180,5|-180,5|-170,6"})});
     EXPECT_EQ(lines.main.size(), 2);
     EXPECT_EQ(lines.east.size(), 8);
 }
 
 TEST(VoyCalLines, RouteThatEndsAtTheDateLineLeavesNothingBehind) {
-    const auto lines = LinesOf({{}, portWith({"170,0|180,1"})});
+    const auto lines = LinesOf({{}, PortWith({"170,0|180,1"})});
     EXPECT_TRUE(lines.crosses);
     EXPECT_THAT(lines.main, ElementsAre("170.0000,0.0000", "179.9900,1.0000"));
     EXPECT_THAT(lines.east, IsEmpty());

@@ -7,24 +7,24 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-Interface::TrvMapLineParams lineOf(const std::string& id, std::vector<std::string> points) {
+Interface::TrvMapLineParams LineOf(const std::string& id, std::vector<std::string> points) {
     return {{"L", id, "T"}, std::move(points), 0x6464E9, 2, "solid"};
 }
 
-Interface::TrvMapPointParams labelOf(const std::string& id, const std::string& position,
+Interface::TrvMapPointParams LabelOf(const std::string& id, const std::string& position,
                                      const std::string& text) {
     return {{"L", id, "P"}, text, position, 0, "circle", 0xFF, 3};
 }
 
-const ChartLine& lineAt(const ChartObjects& objects, const std::string& id) {
+const ChartLine& LineAt(const ChartObjects& objects, const std::string& id) {
     return std::get<ChartLine>(objects.Find({"L", "T", id})->shape);
 }
 
 TEST(ChartObjects, AnObjectUnderATakenKeyReplacesTheOldOneInItsPlace) {
     ChartObjects objects;
-    ASSERT_TRUE(objects.AddLabel(labelOf("1", "1,1", "old")));
-    ASSERT_TRUE(objects.AddLabel(labelOf("2", "2,2", "other")));
-    ASSERT_TRUE(objects.AddLabel(labelOf("1", "5,6", "new")));
+    ASSERT_TRUE(objects.AddLabel(LabelOf("1", "1,1", "old")));
+    ASSERT_TRUE(objects.AddLabel(LabelOf("2", "2,2", "other")));
+    ASSERT_TRUE(objects.AddLabel(LabelOf("1", "5,6", "new")));
     ASSERT_EQ(objects.Count(), 2u);
     const auto& first = std::get<ChartLabel>(objects.InOrder().begin()->second.shape);
     EXPECT_EQ(first.text, "new");
@@ -45,44 +45,44 @@ TEST(ChartObjects, LayerTypeAndIdTellObjectsApart) {
 
 TEST(ChartObjects, ALineCarriesItsStyle) {
     ChartObjects objects;
-    auto line = lineOf("1", {"0,0", "10,0"});
+    auto line = LineOf("1", {"0,0", "10,0"});
     line.style = "dashed";
     ASSERT_TRUE(objects.AddLine(line));
-    EXPECT_TRUE(lineAt(objects, "1").dashed);
-    EXPECT_EQ(lineAt(objects, "1").colour, 0x6464E9);
-    EXPECT_EQ(lineAt(objects, "1").width, 2);
+    EXPECT_TRUE(LineAt(objects, "1").dashed);
+    EXPECT_EQ(LineAt(objects, "1").colour, 0x6464E9);
+    EXPECT_EQ(LineAt(objects, "1").width, 2);
 }
 
 TEST(ChartObjects, ALineGoesTheShortWayOverTheDateLine) {
     ChartObjects objects;
-    ASSERT_TRUE(objects.AddLine(lineOf("1", {"179,0", "-179,0", "-170,0"})));
-    const ChartLine& line = lineAt(objects, "1");
+    ASSERT_TRUE(objects.AddLine(LineOf("1", {"179,0", "-179,0", "-170,0"})));
+    const ChartLine& line = LineAt(objects, "1");
     EXPECT_NEAR(line.points[1].x - line.points[0].x, 2 / 360.0, 1e-12);
     EXPECT_NEAR(line.maxX - line.minX, 11 / 360.0, 1e-12);
-    ASSERT_TRUE(objects.AddLine(lineOf("2", {"-179,0", "179,0"})));
-    EXPECT_LT(lineAt(objects, "2").points[1].x, lineAt(objects, "2").points[0].x);
+    ASSERT_TRUE(objects.AddLine(LineOf("2", {"-179,0", "179,0"})));
+    EXPECT_LT(LineAt(objects, "2").points[1].x, LineAt(objects, "2").points[0].x);
 }
 
 TEST(ChartObjects, PointsThatCannotBeReadAreLeftOut) {
     ChartObjects objects;
-    EXPECT_TRUE(objects.AddLine(lineOf("1", {"0,0", "nonsense", "5", "10,0", "1,91"})));
-    EXPECT_EQ(lineAt(objects, "1").points.size(), 2u);
-    EXPECT_FALSE(objects.AddLabel(labelOf("1", "x,y", "bad")));
+    EXPECT_TRUE(objects.AddLine(LineOf("1", {"0,0", "nonsense", "5", "10,0", "1,91"})));
+    EXPECT_EQ(LineAt(objects, "1").points.size(), 2u);
+    EXPECT_FALSE(objects.AddLabel(LabelOf("1", "x,y", "bad")));
     EXPECT_FALSE(objects.AddImage({{"L", "1", "I"}, "ship", ""}));
     EXPECT_EQ(objects.Count(), 1u);
 }
 
 TEST(ChartObjects, ALineWithTooFewPointsTakesTheOldOneAway) {
     ChartObjects objects;
-    ASSERT_TRUE(objects.AddLine(lineOf("1", {"0,0", "1,1"})));
-    EXPECT_FALSE(objects.AddLine(lineOf("1", {"0,0"})));
+    ASSERT_TRUE(objects.AddLine(LineOf("1", {"0,0", "1,1"})));
+    EXPECT_FALSE(objects.AddLine(LineOf("1", {"0,0"})));
     EXPECT_EQ(objects.Count(), 0u);
 }
 
 TEST(ChartObjects, RemovesByList) {
     ChartObjects objects;
     for (const char* id : {"1", "2", "3"}) {
-        objects.AddLine(lineOf(id, {"0,0", "1,1"}));
+        objects.AddLine(LineOf(id, {"0,0", "1,1"}));
     }
     Interface::TrvMapObjectRef refs[] = {
         {"", "1", "T"}, {"", "3", "T"}, {"", "unknown", "T"}, {"", "2", "other"}};
@@ -95,9 +95,9 @@ TEST(ChartObjects, RemovesByList) {
 
 TEST(ChartObjects, RemovesAllOfATypeInOneLayer) {
     ChartObjects objects;
-    objects.AddLine(lineOf("1", {"0,0", "1,1"}));
-    objects.AddLine(lineOf("2", {"0,0", "1,1"}));
-    objects.AddLabel(labelOf("1", "1,1", "stays"));
+    objects.AddLine(LineOf("1", {"0,0", "1,1"}));
+    objects.AddLine(LineOf("2", {"0,0", "1,1"}));
+    objects.AddLabel(LabelOf("1", "1,1", "stays"));
     EXPECT_EQ(objects.RemoveType("L", "T"), 2);
     EXPECT_EQ(objects.RemoveType("L", "T"), 0);
     EXPECT_EQ(objects.RemoveType("M", "P"), 0);
@@ -109,7 +109,7 @@ TEST(ChartObjects, RemovingALayerTakesItsObjects) {
     Interface::TrvMapLayerParams layer;
     layer.layer = "L";
     objects.AddLayer(layer);
-    objects.AddLabel(labelOf("1", "1,1", "goes"));
+    objects.AddLabel(LabelOf("1", "1,1", "goes"));
     objects.AddImage({{"M", "1", "I"}, "ship", "1,1"});
     objects.AddLayer(layer);
     EXPECT_EQ(objects.Count(), 2u) << "adding a layer again keeps its objects";
@@ -131,7 +131,7 @@ TEST(ChartObjects, TellsItsObserverOfChangesOnly) {
     ChartObjects objects;
     int changes = 0;
     objects.SetObserver([&] { ++changes; });
-    objects.AddLabel(labelOf("1", "1,1", "a"));
+    objects.AddLabel(LabelOf("1", "1,1", "a"));
     EXPECT_EQ(changes, 1);
     objects.Remove(ObjectKey{"L", "P", "none"});
     objects.RemoveType("L", "none");
@@ -142,8 +142,8 @@ TEST(ChartObjects, TellsItsObserverOfChangesOnly) {
 
 TEST(ChartObjects, PointsCoverEveryKindOfObject) {
     ChartObjects objects;
-    objects.AddLine(lineOf("1", {"10,0", "20,0"}));
-    objects.AddLabel(labelOf("1", "30,5", "a"));
+    objects.AddLine(LineOf("1", {"10,0", "20,0"}));
+    objects.AddLabel(LabelOf("1", "30,5", "a"));
     objects.AddImage({{"L", "1", "I"}, "ship", "40,6"});
     const auto points = objects.Points();
     ASSERT_EQ(points.size(), 4u);

@@ -7,13 +7,13 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-LandLevel square(float size) {
+LandLevel Square(float size) {
     const LandShape ring{{0, 0}, {size, 0}, {size, size}, {0, size}, {0, 0}};
     return {{ring}, {ring}};
 }
 
 TEST(CoastData, ProjectsAndBoundsEachShape) {
-    const CoastData land({square(36)});
+    const CoastData land({Square(36)});
     ASSERT_EQ(land.LevelCount(), 1);
     const CoastData::Level& level = land.At(0);
     ASSERT_EQ(level.cells.size(), 1u);
@@ -25,11 +25,11 @@ TEST(CoastData, ProjectsAndBoundsEachShape) {
 }
 
 TEST(CoastData, PicksAFinerLevelForALargerWorld) {
-    const CoastData land({square(1), square(2), square(3)});
+    const CoastData land({Square(1), Square(2), Square(3)});
     EXPECT_EQ(&land.For(256), &land.At(0));
     EXPECT_EQ(&land.For(4000), &land.At(1));
     EXPECT_EQ(&land.For(1 << 20), &land.At(2));
-    const CoastData one({square(1)});
+    const CoastData one({Square(1)});
     EXPECT_EQ(&one.For(1 << 20), &one.At(0));
     EXPECT_TRUE(CoastData().IsEmpty());
 }

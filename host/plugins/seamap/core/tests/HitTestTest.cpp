@@ -13,16 +13,16 @@ class HitTestTest : public ::testing::Test {
         view_.Resize(1000, 500);
         view_.Show(MercatorView::Project({0, 0}), 3600);  // ten pixels a degree
     }
-    std::string at(double x, double y) const {
+    std::string At(double x, double y) const {
         const ChartObject* object = HitTest(objects_, view_, [](const std::string&) {
                                         return PixelPoint{12, 8};
                                     }).At({x, y});
         return object ? object->key.id : "";
     }
-    void line(const std::string& id, std::vector<std::string> points) {
+    void Line(const std::string& id, std::vector<std::string> points) {
         objects_.AddLine({{"L", id, "T"}, std::move(points), 0, 2, "solid"});
     }
-    void label(const std::string& id, const std::string& position) {
+    void Label(const std::string& id, const std::string& position) {
         objects_.AddLabel({{"L", id, "P"}, id, position, 0, "circle", 0, 3});
     }
 
@@ -38,48 +38,48 @@ TEST(DistanceToSegment, FromTheSideAndFromTheEnds) {
 }
 
 TEST_F(HitTestTest, MeetsALineWithinTheTolerance) {
-    line("a", {"-10,0", "10,0"});
-    EXPECT_EQ(at(500, 250), "a");
-    EXPECT_EQ(at(500, 255), "a");
-    EXPECT_EQ(at(500, 257), "");
-    EXPECT_EQ(at(610, 250), "");
+    Line("a", {"-10,0", "10,0"});
+    EXPECT_EQ(At(500, 250), "a");
+    EXPECT_EQ(At(500, 255), "a");
+    EXPECT_EQ(At(500, 257), "");
+    EXPECT_EQ(At(610, 250), "");
 }
 
 TEST_F(HitTestTest, APointGoesBeforeANearerLine) {
-    line("line", {"-10,0", "10,0"});
-    label("point", "0,0");
-    line("above", {"-10,0", "10,0"});
-    EXPECT_EQ(at(502, 253), "point");
-    EXPECT_EQ(at(540, 250), "above");
+    Line("line", {"-10,0", "10,0"});
+    Label("point", "0,0");
+    Line("above", {"-10,0", "10,0"});
+    EXPECT_EQ(At(502, 253), "point");
+    EXPECT_EQ(At(540, 250), "above");
 }
 
 TEST_F(HitTestTest, TheNearerOfTwoPointsAndTheUpperOfEquals) {
-    label("left", "-1,0");
-    label("right", "0,0");
-    EXPECT_EQ(at(491, 250), "left");
-    EXPECT_EQ(at(499, 250), "right");
-    label("again", "0,0");
-    EXPECT_EQ(at(500, 250), "again");
+    Label("left", "-1,0");
+    Label("right", "0,0");
+    EXPECT_EQ(At(491, 250), "left");
+    EXPECT_EQ(At(499, 250), "right");
+    Label("again", "0,0");
+    EXPECT_EQ(At(500, 250), "again");
 }
 
 TEST_F(HitTestTest, AnImageIsMetWithinItsRectangle) {
     objects_.AddImage({{"L", "ship", "I"}, "ship", "0,0"});
-    EXPECT_EQ(at(511, 257), "ship");
-    EXPECT_EQ(at(518, 250), "");
-    EXPECT_EQ(at(500, 264), "");
+    EXPECT_EQ(At(511, 257), "ship");
+    EXPECT_EQ(At(518, 250), "");
+    EXPECT_EQ(At(500, 264), "");
 }
 
 TEST_F(HitTestTest, MeetsThingsAcrossTheDateLine) {
     view_.Show(MercatorView::Project({180, 0}), 3600);
-    line("a", {"175,0", "-175,0"});
-    label("b", "-179,5");
-    EXPECT_EQ(at(500, 250), "a");
-    EXPECT_EQ(at(540, 250), "a");
-    EXPECT_EQ(at(510, view_.ToScreen(GeoPoint{-179, 5}).y), "b");
+    Line("a", {"175,0", "-175,0"});
+    Label("b", "-179,5");
+    EXPECT_EQ(At(500, 250), "a");
+    EXPECT_EQ(At(540, 250), "a");
+    EXPECT_EQ(At(510, view_.ToScreen(GeoPoint{-179, 5}).y), "b");
 }
 
 TEST_F(HitTestTest, AnEmptyChartHasNothing) {
-    EXPECT_EQ(at(500, 250), "");
+    EXPECT_EQ(At(500, 250), "");
 }
 
 }  // namespace

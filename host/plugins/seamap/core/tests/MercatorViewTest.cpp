@@ -9,7 +9,7 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-MercatorView viewOf(int width, int height, GeoPoint centre, std::int64_t size) {
+MercatorView ViewOf(int width, int height, GeoPoint centre, std::int64_t size) {
     MercatorView view;
     view.Resize(width, height);
     view.Show(MercatorView::Project(centre), size);
@@ -48,7 +48,7 @@ TEST(MercatorView, PolesStayFinite) {
 }
 
 TEST(MercatorView, ScreenRoundTrips) {
-    const MercatorView view = viewOf(1000, 600, {20, 40}, 4096);
+    const MercatorView view = ViewOf(1000, 600, {20, 40}, 4096);
     for (const PixelPoint pixel : {PixelPoint{0, 0}, {999, 599}, {500, 300}, {12.5, 480.25}}) {
         const PixelPoint back = view.ToScreen(view.ToGeo(pixel));
         EXPECT_NEAR(back.x, pixel.x, 1e-6);
@@ -69,7 +69,7 @@ TEST(MercatorView, ZoomStepsAreWholePixelsAndDoubleEveryFourth) {
 }
 
 TEST(MercatorView, PanningRoundTheWorldComesBackToTheSameView) {
-    const MercatorView start = viewOf(800, 500, {170, 10}, MercatorView::StepSize(13));
+    const MercatorView start = ViewOf(800, 500, {170, 10}, MercatorView::StepSize(13));
     MercatorView view = start;
     std::int64_t panned = 0;
     while (panned < start.WorldSize()) {
@@ -85,7 +85,7 @@ TEST(MercatorView, PanningRoundTheWorldComesBackToTheSameView) {
 }
 
 TEST(MercatorView, StopsAtTheNorthernAndSouthernEdge) {
-    MercatorView view = viewOf(800, 500, {0, 0}, 2048);
+    MercatorView view = ViewOf(800, 500, {0, 0}, 2048);
     view.PanBy(0, -100000);
     EXPECT_EQ(view.Top(), 0);
     view.PanBy(0, 100000);
@@ -94,7 +94,7 @@ TEST(MercatorView, StopsAtTheNorthernAndSouthernEdge) {
 
 TEST(MercatorView, ZoomKeepsThePlaceUnderThePointer) {
     for (const PixelPoint anchor : {PixelPoint{100, 80}, {640, 360}, {1200, 500}}) {
-        MercatorView view = viewOf(1280, 720, {-30, 20}, 4000);
+        MercatorView view = ViewOf(1280, 720, {-30, 20}, 4000);
         const GeoPoint before = view.ToGeo(anchor);
         view.ZoomAt(anchor, 11000);
         const PixelPoint after = view.ToScreen(before);
@@ -104,7 +104,7 @@ TEST(MercatorView, ZoomKeepsThePlaceUnderThePointer) {
 }
 
 TEST(MercatorView, ZoomStaysWithinItsLimits) {
-    MercatorView view = viewOf(1280, 720, {0, 0}, 4000);
+    MercatorView view = ViewOf(1280, 720, {0, 0}, 4000);
     view.ZoomAt({0, 0}, 1);
     EXPECT_EQ(view.WorldSize(), view.SmallestSize());
     EXPECT_GE(view.WorldSize() * 10, 720 * 6);
@@ -139,7 +139,7 @@ TEST(MercatorView, FitOnOnePointStopsAtTheLargestFit) {
 }
 
 TEST(MercatorView, VisibleOverTheDateLineHasAnEastAbove180) {
-    const MercatorView view = viewOf(1000, 500, {175, 0}, 8000);
+    const MercatorView view = ViewOf(1000, 500, {175, 0}, 8000);
     const Extent shown = view.Visible();
     EXPECT_NEAR(shown.west, 175 - 22.5, 0.1);
     EXPECT_NEAR(shown.east, 175 + 22.5, 0.1);
@@ -148,7 +148,7 @@ TEST(MercatorView, VisibleOverTheDateLineHasAnEastAbove180) {
 }
 
 TEST(MercatorView, AWindowWiderThanTheWorldSeesAllLongitudes) {
-    const MercatorView view = viewOf(2000, 500, {0, 0}, 600);
+    const MercatorView view = ViewOf(2000, 500, {0, 0}, 600);
     EXPECT_EQ(view.Visible().west, -180);
     EXPECT_EQ(view.Visible().east, 180);
     const auto turns = view.TurnsOf(0.5, 0.5);
@@ -156,7 +156,7 @@ TEST(MercatorView, AWindowWiderThanTheWorldSeesAllLongitudes) {
 }
 
 TEST(MercatorView, TurnsNameExactlyTheCopiesInTheWindow) {
-    const MercatorView view = viewOf(1000, 500, {179, 0}, 4000);
+    const MercatorView view = ViewOf(1000, 500, {179, 0}, 4000);
     for (double x = -1; x < 2; x += 0.01) {
         const auto turns = view.TurnsOf(x, x);
         for (int turn = -4; turn <= 4; ++turn) {
@@ -171,13 +171,13 @@ TEST(MercatorView, TurnsNameExactlyTheCopiesInTheWindow) {
 }
 
 TEST(MercatorView, APlaceIsDrawnAtTheCopyNearestTheMiddle) {
-    const MercatorView view = viewOf(1000, 500, {179, 0}, 4000);
+    const MercatorView view = ViewOf(1000, 500, {179, 0}, 4000);
     EXPECT_NEAR(view.ToScreen(GeoPoint{-179, 0}).x, 500 + 2 * 4000 / 360.0, 1);
     EXPECT_NEAR(view.ToScreen(GeoPoint{177, 0}).x, 500 - 2 * 4000 / 360.0, 1);
 }
 
 TEST(MercatorView, ResizingKeepsTheMiddle) {
-    MercatorView view = viewOf(1000, 500, {30, 40}, 8000);
+    MercatorView view = ViewOf(1000, 500, {30, 40}, 8000);
     const WorldPoint before = view.Centre();
     view.Resize(600, 900);
     EXPECT_NEAR(view.Centre().x, before.x, 1.0 / 8000);
@@ -185,7 +185,7 @@ TEST(MercatorView, ResizingKeepsTheMiddle) {
 }
 
 TEST(MercatorView, AMinuteOfLatitudeIsAMileEverywhere) {
-    const MercatorView view = viewOf(1000, 500, {0, 50}, 1 << 20);
+    const MercatorView view = ViewOf(1000, 500, {0, 50}, 1 << 20);
     const double perMinute = view.ToScreen(GeoPoint{0, 50}).y - view.ToScreen(GeoPoint{0, 50 + 1 / 60.0}).y;
     EXPECT_NEAR(perMinute * view.MilesPerPixel(50), 1.0, 1e-3);
 }

@@ -16,14 +16,14 @@ class PolylineClipTest : public ::testing::Test {
         view_.Resize(500, 400);
         view_.Show({0.5, 0.5}, 1000);
     }
-    std::vector<PolylineRun> clip(std::vector<WorldPoint> points, double detail = 0) const {
+    std::vector<PolylineRun> Clip(std::vector<WorldPoint> points, double detail = 0) const {
         return ClipPolyline(points, view_, 0, 0, detail);
     }
     MercatorView view_;
 };
 
 TEST_F(PolylineClipTest, ALineInsideStaysWhole) {
-    const auto runs = clip({{0.3, 0.4}, {0.5, 0.5}, {0.6, 0.4}});
+    const auto runs = Clip({{0.3, 0.4}, {0.5, 0.5}, {0.6, 0.4}});
     ASSERT_EQ(runs.size(), 1u);
     EXPECT_EQ(runs[0].points.size(), 3u);
     EXPECT_NEAR(runs[0].points[0].x, 50, 1e-9);
@@ -31,7 +31,7 @@ TEST_F(PolylineClipTest, ALineInsideStaysWhole) {
 }
 
 TEST_F(PolylineClipTest, ALineThroughIsCutAtBothEdges) {
-    const auto runs = clip({{0, 0.5}, {1, 0.5}});
+    const auto runs = Clip({{0, 0.5}, {1, 0.5}});
     ASSERT_EQ(runs.size(), 1u);
     EXPECT_NEAR(runs[0].points.front().x, 0, 1e-9);
     EXPECT_NEAR(runs[0].points.back().x, 500, 1e-9);
@@ -39,7 +39,7 @@ TEST_F(PolylineClipTest, ALineThroughIsCutAtBothEdges) {
 }
 
 TEST_F(PolylineClipTest, LeavingAndComingBackGivesTwoRuns) {
-    const auto runs = clip({{0.5, 0.5}, {0.5, 0.9}, {0.6, 0.9}, {0.6, 0.5}});
+    const auto runs = Clip({{0.5, 0.5}, {0.5, 0.9}, {0.6, 0.9}, {0.6, 0.5}});
     ASSERT_EQ(runs.size(), 2u);
     EXPECT_NEAR(runs[0].points.back().y, 400, 1e-9);
     EXPECT_NEAR(runs[1].points.front().y, 400, 1e-9);
@@ -47,13 +47,13 @@ TEST_F(PolylineClipTest, LeavingAndComingBackGivesTwoRuns) {
 }
 
 TEST_F(PolylineClipTest, ALineThatPassesByGivesNothing) {
-    EXPECT_TRUE(clip({{0.1, 0.1}, {0.9, 0.1}}).empty());
-    EXPECT_TRUE(clip({{0.0, 0.5}, {0.2, 0.5}}).empty());
-    EXPECT_TRUE(clip({{0.5, 0.5}}).empty());
+    EXPECT_TRUE(Clip({{0.1, 0.1}, {0.9, 0.1}}).empty());
+    EXPECT_TRUE(Clip({{0.0, 0.5}, {0.2, 0.5}}).empty());
+    EXPECT_TRUE(Clip({{0.5, 0.5}}).empty());
 }
 
 TEST_F(PolylineClipTest, PointsTooNearToShowAreLeftOutButNeverTheLast) {
-    const auto runs = clip({{0.3, 0.5}, {0.3001, 0.5}, {0.3002, 0.5}, {0.4, 0.5}, {0.4001, 0.5}}, 1);
+    const auto runs = Clip({{0.3, 0.5}, {0.3001, 0.5}, {0.3002, 0.5}, {0.4, 0.5}, {0.4001, 0.5}}, 1);
     ASSERT_EQ(runs.size(), 1u);
     EXPECT_EQ(runs[0].points.size(), 3u);
     EXPECT_NEAR(runs[0].points.back().x, 150.1, 1e-9);

@@ -18,7 +18,7 @@ class PortTableTest : public ::testing::Test {
         path_ = (folder_ / "trvdb.db").string();
     }
     ~PortTableTest() override { std::filesystem::remove_all(folder_); }
-    void fill() const {
+    void Fill() const {
         sqlite3* database = nullptr;
         ASSERT_EQ(sqlite3_open(path_.c_str(), &database), SQLITE_OK);
         EXPECT_EQ(sqlite3_exec(database,
@@ -35,7 +35,7 @@ class PortTableTest : public ::testing::Test {
 };
 
 TEST_F(PortTableTest, FindsPortsAndRoutePointsById) {
-    fill();
+    Fill();
     PortTable ports(path_);
     const auto* rotterdam = ports.Find("1");
     ASSERT_NE(rotterdam, nullptr);
@@ -50,7 +50,7 @@ TEST_F(PortTableTest, FindsPortsAndRoutePointsById) {
 }
 
 TEST_F(PortTableTest, UnknownOrUnreadablePlacesAreNone) {
-    fill();
+    Fill();
     PortTable ports(path_);
     EXPECT_EQ(ports.Find("4"), nullptr);
     EXPECT_EQ(ports.Find(""), nullptr);
@@ -60,7 +60,7 @@ TEST_F(PortTableTest, UnknownOrUnreadablePlacesAreNone) {
 TEST_F(PortTableTest, AMissingDataBaseIsTriedAgain) {
     PortTable ports(path_);
     EXPECT_EQ(ports.Find("1"), nullptr);
-    fill();
+    Fill();
     EXPECT_NE(ports.Find("1"), nullptr);
 }
 

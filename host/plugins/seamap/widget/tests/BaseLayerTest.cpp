@@ -10,12 +10,12 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-const ChartPalette& light() {
+const ChartPalette& Light() {
     return ChartPalette::Of(ChartPalette::Theme::Light);
 }
 
 /// Land from 10 to 60 degrees east and a piece on either side of the date line.
-CoastData land() {
+CoastData Land() {
     LandLevel level;
     const auto box = [&](float west, float south, float east, float north) {
         const LandShape ring{{west, south}, {east, south}, {east, north}, {west, north}, {west, south}};
@@ -33,43 +33,43 @@ CoastData land() {
     return CoastData({level});
 }
 
-MercatorView viewOf(GeoPoint centre, std::int64_t size, int width = 700, int height = 400) {
+MercatorView ViewOf(GeoPoint centre, std::int64_t size, int width = 700, int height = 400) {
     MercatorView view;
     view.Resize(width, height);
     view.Show(MercatorView::Project(centre), size);
     return view;
 }
 
-QImage fresh(const MercatorView& view, const ChartPalette& palette = light()) {
+QImage Fresh(const MercatorView& view, const ChartPalette& palette = Light()) {
     BaseLayer layer;
-    layer.SetLand(land());
+    layer.SetLand(Land());
     return layer.Picture(view, palette, 1).toImage();
 }
 
-QColor at(const QImage& picture, const MercatorView& view, GeoPoint place) {
+QColor At(const QImage& picture, const MercatorView& view, GeoPoint place) {
     const PixelPoint pixel = view.ToScreen(place);
     return picture.pixelColor(static_cast<int>(pixel.x), static_cast<int>(pixel.y));
 }
 
 TEST(BaseLayer, LandAndSeaHaveTheirColours) {
-    const MercatorView view = viewOf({20, 20}, 2000);
-    const QImage picture = fresh(view);
-    EXPECT_EQ(at(picture, view, {33, 33}), QColor(light().land));
-    EXPECT_EQ(at(picture, view, {-12, 7}), QColor(light().sea));
+    const MercatorView view = ViewOf({20, 20}, 2000);
+    const QImage picture = Fresh(view);
+    EXPECT_EQ(At(picture, view, {33, 33}), QColor(Light().land));
+    EXPECT_EQ(At(picture, view, {-12, 7}), QColor(Light().sea));
     const ChartPalette& dark = ChartPalette::Of(ChartPalette::Theme::Dark);
-    EXPECT_EQ(at(fresh(view, dark), view, {33, 33}), QColor(dark.land));
+    EXPECT_EQ(At(Fresh(view, dark), view, {33, 33}), QColor(dark.land));
 }
 
 TEST(BaseLayer, LandIsDrawnOnBothSidesOfTheDateLineWithoutASeam) {
-    const MercatorView view = viewOf({180, 5}, 3000);
-    const QImage picture = fresh(view);
+    const MercatorView view = ViewOf({180, 5}, 3000);
+    const QImage picture = Fresh(view);
     // Between two lines of the net the land goes on as one piece.
     const int y = static_cast<int>(view.ToScreen(GeoPoint{180, 7}).y);
     const int west = static_cast<int>(view.ToScreen(GeoPoint{172, 0}).x);
     const int east = static_cast<int>(view.ToScreen(GeoPoint{-167, 0}).x);
     int otherColours = 0;
     for (int x = west; x < east; ++x) {
-        otherColours += picture.pixelColor(x, y) == QColor(light().land) ? 0 : 1;
+        otherColours += picture.pixelColor(x, y) == QColor(Light().land) ? 0 : 1;
     }
     const Graticule net(view);
     int crossed = 0;
@@ -81,44 +81,44 @@ TEST(BaseLayer, LandIsDrawnOnBothSidesOfTheDateLineWithoutASeam) {
 
 TEST(BaseLayer, AShiftedPictureEqualsAFreshOne) {
     BaseLayer layer;
-    layer.SetLand(land());
-    MercatorView view = viewOf({-50, -30}, 2600);
-    layer.Picture(view, light(), 1);
+    layer.SetLand(Land());
+    MercatorView view = ViewOf({-50, -30}, 2600);
+    layer.Picture(view, Light(), 1);
     for (const auto& [dx, dy] : {std::pair{13, 0}, {0, -9}, {-40, 21}, {250, 100}, {-699, 3}, {900, 0}}) {
         view.PanBy(dx, dy);
-        EXPECT_EQ(layer.Picture(view, light(), 1).toImage(), fresh(view)) << dx << " " << dy;
+        EXPECT_EQ(layer.Picture(view, Light(), 1).toImage(), Fresh(view)) << dx << " " << dy;
     }
 }
 
 TEST(BaseLayer, PanningRoundTheWorldGivesTheSamePicture) {
     BaseLayer layer;
-    layer.SetLand(land());
-    MercatorView view = viewOf({120, 10}, MercatorView::StepSize(12));
-    const QImage start = layer.Picture(view, light(), 1).toImage();
+    layer.SetLand(Land());
+    MercatorView view = ViewOf({120, 10}, MercatorView::StepSize(12));
+    const QImage start = layer.Picture(view, Light(), 1).toImage();
     for (std::int64_t panned = 0; panned < view.WorldSize();) {
         const std::int64_t step = std::min<std::int64_t>(171, view.WorldSize() - panned);
         view.PanBy(step, 0);
-        layer.Picture(view, light(), 1);
+        layer.Picture(view, Light(), 1);
         panned += step;
     }
-    EXPECT_EQ(layer.Picture(view, light(), 1).toImage(), start);
+    EXPECT_EQ(layer.Picture(view, Light(), 1).toImage(), start);
 }
 
 TEST(BaseLayer, ShapesFarLargerThanTheWindowAreStillFilled) {
-    const MercatorView inside = viewOf({33, 33}, MercatorView::kLargestWorld);
-    const QImage picture = fresh(inside);
-    EXPECT_EQ(picture.pixelColor(3, 3), QColor(light().land));
-    const MercatorView corner = viewOf({10, 10}, MercatorView::kLargestWorld);
-    const QImage edge = fresh(corner);
-    EXPECT_EQ(edge.pixelColor(690, 10), QColor(light().land));
-    EXPECT_EQ(edge.pixelColor(10, 390), QColor(light().sea));
+    const MercatorView inside = ViewOf({33, 33}, MercatorView::kLargestWorld);
+    const QImage picture = Fresh(inside);
+    EXPECT_EQ(picture.pixelColor(3, 3), QColor(Light().land));
+    const MercatorView corner = ViewOf({10, 10}, MercatorView::kLargestWorld);
+    const QImage edge = Fresh(corner);
+    EXPECT_EQ(edge.pixelColor(690, 10), QColor(Light().land));
+    EXPECT_EQ(edge.pixelColor(10, 390), QColor(Light().sea));
 }
 
 TEST(BaseLayer, WorksWithoutLandAndAtTwicePixels) {
     BaseLayer layer;
-    const MercatorView view = viewOf({0, 0}, 2000);
-    EXPECT_EQ(layer.Picture(view, light(), 1).toImage().pixelColor(3, 3), QColor(light().sea));
-    EXPECT_EQ(layer.Picture(view, light(), 2).size(), QSize(1400, 800));
+    const MercatorView view = ViewOf({0, 0}, 2000);
+    EXPECT_EQ(layer.Picture(view, Light(), 1).toImage().pixelColor(3, 3), QColor(Light().sea));
+    EXPECT_EQ(layer.Picture(view, Light(), 2).size(), QSize(1400, 800));
 }
 
 }  // namespace

@@ -44,27 +44,27 @@ class ChartServicesTest : public ::testing::Test {
         services_.reset();
         Core::TrvKernel::Instance()->Reset();
     }
-    ChartWidget& chart() {
+    ChartWidget& Chart() {
         ChartWidget* widget = services_->Widget();
         widget->setProperty("pictures", true);
         widget->resize(800, 500);
         widget->show();
         return *widget;
     }
-    static Interface::TrvMapExtent extent() {
+    static Interface::TrvMapExtent Extent() {
         Interface::TrvMapExtent* block = Call(Chart::MapGetExtent);
         const Interface::TrvMapExtent copy = *block;
         Core::FreeBusBlock(block);
         return copy;
     }
-    static void setExtent(const Interface::TrvMapExtent& value) { Call(Chart::MapSetExtent, &value); }
+    static void SetExtent(const Interface::TrvMapExtent& value) { Call(Chart::MapSetExtent, &value); }
     static void AddLabel(const std::string& id, const std::string& type) {
         const Interface::TrvMapPointParams point{
             {"VOYAGE", id, type}, "Suez", "32,30", 0, "circle", 0x9664FF, 3};
         Call(Chart::MapAddPointLabel, &point);
     }
-    static bool command(const std::string& text) { return Call(Chart::ChartCommand, &text) != nullptr; }
-    static void expectHolds(const Interface::TrvMapExtent& shown, double w, double s, double e, double n) {
+    static bool Command(const std::string& text) { return Call(Chart::ChartCommand, &text) != nullptr; }
+    static void ExpectHolds(const Interface::TrvMapExtent& shown, double w, double s, double e, double n) {
         EXPECT_LE(shown.first, w);
         EXPECT_LE(shown.second, s);
         EXPECT_GE(shown.third, e);
@@ -112,7 +112,7 @@ TEST_F(ChartServicesTest, AClickRaisesTheEventOfTheTypeWithTheId) {
     auto* kernel = Core::TrvKernel::Instance();
     kernel->CreateTrvEvent(Chart::ClickVoyageType.name, &listener, "", "", nullptr);
     kernel->BindTrvEvent(Chart::ClickVoyageType.name, &listener.delegate);
-    ChartWidget& widget = chart();
+    ChartWidget& widget = Chart();
     AddLabel("7", "VOYAGETYPE");
     const PixelPoint pixel = widget.View().ToScreen(GeoPoint{32, 30});
     QTest::mouseClick(&widget, Qt::LeftButton, {}, {qRound(pixel.x), qRound(pixel.y)});
@@ -127,7 +127,7 @@ TEST_F(ChartServicesTest, ThePointerRaisesItsPlace) {
     Listener listener;
     listener.delegate.Set<&Listener::HearPlace>(&listener);
     Core::TrvKernel::Instance()->BindTrvEvent(Chart::ChartCursor.name, &listener.delegate);
-    ChartWidget& widget = chart();
+    ChartWidget& widget = Chart();
     const GeoPoint place = widget.View().ToGeo({200, 100});
     QTest::mouseMove(&widget, {200, 100});
     ASSERT_FALSE(listener.places.empty());
@@ -137,16 +137,16 @@ TEST_F(ChartServicesTest, ThePointerRaisesItsPlace) {
 }
 
 TEST_F(ChartServicesTest, TheExtentIsReadInEitherCornerOrder) {
-    chart();
-    setExtent({126, 60, 90, 20});
-    const auto first = extent();
-    expectHolds(first, 90, 20, 126, 60);
-    setExtent({-10, -10, 10, 10});
-    expectHolds(extent(), -10, -10, 10, 10);
-    EXPECT_LT(extent().third, 90);
-    setExtent({90, 20, 126, 60});
-    EXPECT_EQ(extent().first, first.first);
-    EXPECT_EQ(extent().fourth, first.fourth);
+    Chart();
+    SetExtent({126, 60, 90, 20});
+    const auto first = Extent();
+    ExpectHolds(first, 90, 20, 126, 60);
+    SetExtent({-10, -10, 10, 10});
+    ExpectHolds(Extent(), -10, -10, 10, 10);
+    EXPECT_LT(Extent().third, 90);
+    SetExtent({90, 20, 126, 60});
+    EXPECT_EQ(Extent().first, first.first);
+    EXPECT_EQ(Extent().fourth, first.fourth);
 }
 
 TEST_F(ChartServicesTest, TheExtentBlockBelongsToTheCaller) {
@@ -161,11 +161,11 @@ TEST_F(ChartServicesTest, TheExtentBlockBelongsToTheCaller) {
 }
 
 TEST_F(ChartServicesTest, AnExtentAskedForBeforeTheWindowIsShownThen) {
-    EXPECT_EQ(extent().first, -180);
-    setExtent({100, -10, 140, 30});
-    EXPECT_EQ(extent().first, 100);
-    ChartWidget& widget = chart();
-    expectHolds(extent(), 100, -10, 140, 30);
+    EXPECT_EQ(Extent().first, -180);
+    SetExtent({100, -10, 140, 30});
+    EXPECT_EQ(Extent().first, 100);
+    ChartWidget& widget = Chart();
+    ExpectHolds(Extent(), 100, -10, 140, 30);
     EXPECT_LT(widget.Shown().Width(), 180);
 }
 
@@ -187,25 +187,25 @@ TEST_F(ChartServicesTest, AWindowClosedByItsParentIsMadeAnew) {
 }
 
 TEST_F(ChartServicesTest, CommandsZoomFitAndSetTheTheme) {
-    ChartWidget& widget = chart();
+    ChartWidget& widget = Chart();
     const auto size = widget.View().WorldSize();
-    EXPECT_TRUE(command("zoomin"));
+    EXPECT_TRUE(Command("zoomin"));
     EXPECT_GT(widget.View().WorldSize(), size);
-    EXPECT_TRUE(command("zoomout"));
-    EXPECT_TRUE(command("zoomout"));
+    EXPECT_TRUE(Command("zoomout"));
+    EXPECT_TRUE(Command("zoomout"));
     EXPECT_LT(widget.View().WorldSize(), size);
     AddLabel("7", "VOYAGETYPE");
-    EXPECT_TRUE(command("fit"));
+    EXPECT_TRUE(Command("fit"));
     EXPECT_LT(widget.Shown().Width(), 10);
-    EXPECT_TRUE(command("theme night"));
+    EXPECT_TRUE(Command("theme night"));
     EXPECT_EQ(widget.Theme(), ChartPalette::Theme::Night);
     for (const char* unknown : {"", "theme", "theme blue", "zoom", "Fit"}) {
-        EXPECT_FALSE(command(unknown)) << unknown;
+        EXPECT_FALSE(Command(unknown)) << unknown;
     }
 }
 
 TEST_F(ChartServicesTest, AThemeSetBeforeTheWindowHolds) {
-    EXPECT_TRUE(command("theme dark"));
+    EXPECT_TRUE(Command("theme dark"));
     EXPECT_EQ(services_->Widget()->Theme(), ChartPalette::Theme::Dark);
 }
 

@@ -19,20 +19,20 @@ class ChartWidgetTest : public ::testing::Test {
         chart_.show();
         chart_.ShowExtent({-20, -10, 20, 10});
     }
-    QPoint at(GeoPoint place) const {
+    QPoint At(GeoPoint place) const {
         const PixelPoint pixel = chart_.View().ToScreen(place);
         return {qRound(pixel.x), qRound(pixel.y)};
     }
-    void label(const std::string& id, const std::string& position) {
+    void Label(const std::string& id, const std::string& position) {
         objects_.AddLabel({{"L", id, "P"}, id, position, 0, "circle", 0xFF, 3});
     }
-    void drag(QPoint from, QPoint to) {
+    void Drag(QPoint from, QPoint to) {
         QTest::mousePress(&chart_, Qt::LeftButton, {}, from);
         QTest::mouseMove(&chart_, (from + to) / 2);
         QTest::mouseMove(&chart_, to);
         QTest::mouseRelease(&chart_, Qt::LeftButton, {}, to);
     }
-    void wheel(QPoint where, int notches) {
+    void Wheel(QPoint where, int notches) {
         QWheelEvent event(where, chart_.mapToGlobal(where), {}, {0, notches * 120}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&chart_, &event);
@@ -69,7 +69,7 @@ TEST_F(ChartWidgetTest, FitsAgainOnResizeUntilAPersonMovesTheView) {
 TEST_F(ChartWidgetTest, DraggingMovesThePlaceWithThePointer) {
     const QPoint from(400, 250), to(300, 200);
     const GeoPoint before = chart_.View().ToGeo({400, 250});
-    drag(from, to);
+    Drag(from, to);
     const GeoPoint after = chart_.View().ToGeo({300, 200});
     EXPECT_NEAR(after.x, before.x, 1e-9);
     EXPECT_NEAR(after.y, before.y, 1e-9);
@@ -107,11 +107,11 @@ TEST_F(ChartWidgetTest, TheWheelZoomsAroundThePointer) {
     const PixelPoint pointer{150, 400};
     const GeoPoint before = chart_.View().ToGeo(pointer);
     const auto size = chart_.View().WorldSize();
-    wheel({150, 400}, 2);
+    Wheel({150, 400}, 2);
     EXPECT_GT(chart_.View().WorldSize(), size * 3 / 2);
     EXPECT_NEAR(chart_.View().ToScreen(before).x, 150, 1);
     EXPECT_NEAR(chart_.View().ToScreen(before).y, 400, 1);
-    wheel({150, 400}, -4);
+    Wheel({150, 400}, -4);
     EXPECT_LT(chart_.View().WorldSize(), size);
 }
 
@@ -144,8 +144,8 @@ TEST_F(ChartWidgetTest, KeysZoomAndPan) {
 }
 
 TEST_F(ChartWidgetTest, HomeShowsAllObjectsOverTheDateLineToo) {
-    label("a", "150,10");
-    label("b", "-150,-20");
+    Label("a", "150,10");
+    Label("b", "-150,-20");
     QTest::keyClick(&chart_, Qt::Key_Home);
     const Extent shown = chart_.Shown();
     EXPECT_TRUE(shown.Contains({150, 10}));
@@ -154,42 +154,42 @@ TEST_F(ChartWidgetTest, HomeShowsAllObjectsOverTheDateLineToo) {
 }
 
 TEST_F(ChartWidgetTest, AClickOnAnObjectNamesItAndADragDoesNot) {
-    label("here", "5,5");
+    Label("here", "5,5");
     std::vector<std::string> clicked;
     QObject::connect(&chart_, &ChartWidget::ObjectClicked,
                      [&](const ObjectKey& key) { clicked.push_back(key.id); });
-    QTest::mouseClick(&chart_, Qt::LeftButton, {}, at({5, 5}));
+    QTest::mouseClick(&chart_, Qt::LeftButton, {}, At({5, 5}));
     EXPECT_EQ(clicked, std::vector<std::string>{"here"});
-    QTest::mouseClick(&chart_, Qt::RightButton, {}, at({5, 5}));
-    QTest::mouseClick(&chart_, Qt::LeftButton, {}, at({-5, -5}));
-    drag(at({5, 5}), at({5, 5}) + QPoint(60, 0));
+    QTest::mouseClick(&chart_, Qt::RightButton, {}, At({5, 5}));
+    QTest::mouseClick(&chart_, Qt::LeftButton, {}, At({-5, -5}));
+    Drag(At({5, 5}), At({5, 5}) + QPoint(60, 0));
     EXPECT_EQ(clicked.size(), 1u);
 }
 
 TEST_F(ChartWidgetTest, AClickMayRemoveTheObject) {
-    label("here", "5,5");
+    Label("here", "5,5");
     QObject::connect(&chart_, &ChartWidget::ObjectClicked, [&](const ObjectKey& key) {
         objects_.RemoveLayer("L");
         EXPECT_EQ(key.id, "here");
     });
-    QTest::mouseClick(&chart_, Qt::LeftButton, {}, at({5, 5}));
+    QTest::mouseClick(&chart_, Qt::LeftButton, {}, At({5, 5}));
     EXPECT_EQ(objects_.Count(), 0u);
 }
 
 TEST_F(ChartWidgetTest, ThePointerTellsItsPlaceAndHighlights) {
-    label("here", "5,5");
+    Label("here", "5,5");
     std::vector<GeoPoint> places;
     QObject::connect(&chart_, &ChartWidget::CursorMoved, [&](double lon, double lat) {
         places.push_back({lon, lat});
     });
     const QImage plain = chart_.grab().toImage();
-    QTest::mouseMove(&chart_, at({5, 5}));
+    QTest::mouseMove(&chart_, At({5, 5}));
     ASSERT_FALSE(places.empty());
     EXPECT_NEAR(places.back().x, 5, 0.05);
     EXPECT_NEAR(places.back().y, 5, 0.05);
     EXPECT_EQ(chart_.cursor().shape(), Qt::PointingHandCursor);
     EXPECT_NE(chart_.grab().toImage(), plain);
-    QTest::mouseMove(&chart_, at({-10, -5}));
+    QTest::mouseMove(&chart_, At({-10, -5}));
     EXPECT_EQ(chart_.cursor().shape(), Qt::OpenHandCursor);
     EXPECT_EQ(chart_.grab().toImage(), plain);
 }
@@ -198,8 +198,8 @@ TEST_F(ChartWidgetTest, LinesShowInTheirColourSolidOrDashed) {
     const auto coloured = [&] {
         int count = 0;
         const QImage picture = chart_.grab().toImage();
-        const int y = at({0, 3}).y();
-        for (int x = at({-10, 3}).x(); x < at({10, 3}).x(); ++x) {
+        const int y = At({0, 3}).y();
+        for (int x = At({-10, 3}).x(); x < At({10, 3}).x(); ++x) {
             for (int near = y - 1; near <= y + 1; ++near) {
                 if (picture.pixelColor(x, near) == QColor(0xFF0000)) {
                     ++count;
@@ -209,7 +209,7 @@ TEST_F(ChartWidgetTest, LinesShowInTheirColourSolidOrDashed) {
         }
         return count;
     };
-    const int length = at({10, 3}).x() - at({-10, 3}).x();
+    const int length = At({10, 3}).x() - At({-10, 3}).x();
     EXPECT_EQ(coloured(), 0);
     Interface::TrvMapLineParams line{{"L", "1", "T"}, {"-10,3", "10,3"}, 0x0000FF, 3, "solid"};
     objects_.AddLine(line);

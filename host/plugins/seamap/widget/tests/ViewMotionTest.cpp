@@ -7,7 +7,7 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-MercatorView viewOf(GeoPoint centre, std::int64_t size) {
+MercatorView ViewOf(GeoPoint centre, std::int64_t size) {
     MercatorView view;
     view.Resize(1000, 600);
     view.Show(MercatorView::Project(centre), size);
@@ -15,14 +15,14 @@ MercatorView viewOf(GeoPoint centre, std::int64_t size) {
 }
 
 TEST(ViewBetween, EndsExactlyAtTheTarget) {
-    const MercatorView from = viewOf({0, 0}, 4000), to = viewOf({20, 30}, 9000);
+    const MercatorView from = ViewOf({0, 0}, 4000), to = ViewOf({20, 30}, 9000);
     EXPECT_EQ(ViewBetween(from, to, 1), to);
     EXPECT_EQ(ViewBetween(from, to, 0), from);
 }
 
 TEST(ViewBetween, AZoomKeepsThePlaceUnderThePointerAllTheWay) {
     const PixelPoint anchor{120, 480};
-    const MercatorView from = viewOf({10, 40}, 4000);
+    const MercatorView from = ViewOf({10, 40}, 4000);
     MercatorView to = from;
     to.ZoomAt(anchor, 16000);
     const GeoPoint place = from.ToGeo(anchor);
@@ -34,15 +34,15 @@ TEST(ViewBetween, AZoomKeepsThePlaceUnderThePointerAllTheWay) {
 }
 
 TEST(ViewBetween, TakesTheShortWayOverTheDateLine) {
-    const MercatorView half = ViewBetween(viewOf({170, 0}, 4000), viewOf({-170, 0}, 4000), 0.5);
+    const MercatorView half = ViewBetween(ViewOf({170, 0}, 4000), ViewOf({-170, 0}, 4000), 0.5);
     EXPECT_NEAR(std::abs(half.ToGeo({500, 300}).x), 180, 0.2);
 }
 
 TEST(ViewMotion, WithoutAnimationTheTargetIsShownAtOnce) {
     MercatorView shown;
     ViewMotion motion([&](const MercatorView& view) { shown = view; });
-    const MercatorView to = viewOf({20, 30}, 9000);
-    motion.Start(viewOf({0, 0}, 4000), to, false);
+    const MercatorView to = ViewOf({20, 30}, 9000);
+    motion.Start(ViewOf({0, 0}, 4000), to, false);
     EXPECT_EQ(shown, to);
     EXPECT_FALSE(motion.IsRunning());
 }
@@ -50,8 +50,8 @@ TEST(ViewMotion, WithoutAnimationTheTargetIsShownAtOnce) {
 TEST(ViewMotion, AnAnimatedWayKnowsItsTargetAndCanBeStopped) {
     int shown = 0;
     ViewMotion motion([&](const MercatorView&) { ++shown; });
-    const MercatorView to = viewOf({20, 30}, 9000);
-    motion.Start(viewOf({0, 0}, 4000), to, true);
+    const MercatorView to = ViewOf({20, 30}, 9000);
+    motion.Start(ViewOf({0, 0}, 4000), to, true);
     EXPECT_TRUE(motion.IsRunning());
     EXPECT_EQ(motion.Target(), to);
     motion.Stop();

@@ -24,7 +24,7 @@ using Util::Jsona;
 
 class GraphRouteSourceTest : public ::testing::Test {
   protected:
-    RouteStops stopsOf(const std::string& request) {
+    RouteStops StopsOf(const std::string& request) {
         Jsona reply;
         EXPECT_TRUE(reply.parse(source_.Plan(request)));
         RouteStops stops;
@@ -32,18 +32,18 @@ class GraphRouteSourceTest : public ::testing::Test {
         return stops;
     }
     /// "eid emsg" of a refused request, which the plug-in's parser refuses as well.
-    static std::string refusal(const std::string& text) {
+    static std::string Refusal(const std::string& text) {
         Jsona reply;
         EXPECT_TRUE(reply.parse(text)) << text;
         RouteStops stops;
         EXPECT_EQ(Seaplan::ParseRouteReply(reply, stops), -1) << text;
         return std::to_string(reply.getv("eid", 0)) + " " + reply.getv("emsg", "");
     }
-    GraphRouteSource source_{smallNetwork()};
+    GraphRouteSource source_{SmallNetwork()};
 };
 
 TEST_F(GraphRouteSourceTest, AnswersAWholeListWithOneStopForEveryPort) {
-    const RouteStops stops = stopsOf(Seaplan::RouteRequestText({"40001", "40002", "40001"}));
+    const RouteStops stops = StopsOf(Seaplan::RouteRequestText({"40001", "40002", "40001"}));
     ASSERT_EQ(stops.size(), 3u);
     EXPECT_EQ(stops[0].point_cd, "40001");
     EXPECT_TRUE(stops[0].routes.empty());
@@ -90,27 +90,27 @@ TEST_F(GraphRouteSourceTest, TheReplyHasEveryKeyInItsKind) {
 }
 
 TEST_F(GraphRouteSourceTest, AChosenAlternativeIsTakenAndLocked) {
-    RouteStops stops = stopsOf(Seaplan::RouteRequestText({"40001", "40002"}));
+    RouteStops stops = StopsOf(Seaplan::RouteRequestText({"40001", "40002"}));
     std::string request;
     ASSERT_TRUE(Seaplan::AlternativeRequestText(stops, "1", "3", request));
-    stops = stopsOf(request);
+    stops = StopsOf(request);
     EXPECT_EQ(stops.at(1).rp_id_str, "40001,3,40002");
     ASSERT_EQ(stops[1].locks.size(), 1u);
     EXPECT_EQ(stops[1].locks[0].key, "3");
     EXPECT_EQ(stops[1].locks[0].item, "3=40001,40002");
     ASSERT_TRUE(Seaplan::AlternativeRequestText(stops, "3", "2", request));
-    EXPECT_EQ(stopsOf(request).at(1).rp_id_str, "40001,2,40002");
+    EXPECT_EQ(StopsOf(request).at(1).rp_id_str, "40001,2,40002");
 }
 
 TEST_F(GraphRouteSourceTest, TheDateLineIsWrittenWithoutFraction) {
-    const RouteStops stops = stopsOf(Seaplan::RouteRequestText({"40003", "40004"}));
+    const RouteStops stops = StopsOf(Seaplan::RouteRequestText({"40003", "40004"}));
     EXPECT_THAT(stops.at(1).routes.at(0).pointset, HasSubstr("|180,10.0"));
     EXPECT_THAT(stops[1].routes[0].pointset, HasSubstr("|-180,10.0"));
 }
 
 TEST_F(GraphRouteSourceTest, RefusesWhatItCannotAnswerAndSaysWhy) {
     const auto plan = [this](const char* list) {
-        return refusal(source_.Plan(std::string(R"({"pointList":")") + list + "\"}"));
+        return Refusal(source_.Plan(std::string(R"({"pointList":")") + list + "\"}"));
     };
     EXPECT_EQ(plan("40001#49999"), "61 there is no port or route point \"49999\"");
     EXPECT_EQ(plan("40001#40003"), "62 there is no way by sea from 40001 to 40003");
@@ -120,9 +120,9 @@ TEST_F(GraphRouteSourceTest, RefusesWhatItCannotAnswerAndSaysWhy) {
     EXPECT_EQ(plan("40001#40002|a|2"), "1 \"2\" in pointList is no choice of a passage");
     EXPECT_EQ(plan("40001#40002|a|2=b,c|d"), "1 \"40002|a|2=b,c|d\" in pointList is no stop");
     EXPECT_THAT(plan("40001#40002||7=40001,40002"), HasSubstr("the choice 7=40001,40002"));
-    EXPECT_EQ(refusal(source_.Plan("{}")), "1 the request has no text pointList");
-    EXPECT_EQ(refusal(source_.Plan("[]")), "1 the request is not an object");
-    EXPECT_THAT(refusal(source_.Plan("{")), StartsWith("1 the request does not parse: "));
+    EXPECT_EQ(Refusal(source_.Plan("{}")), "1 the request has no text pointList");
+    EXPECT_EQ(Refusal(source_.Plan("[]")), "1 the request is not an object");
+    EXPECT_THAT(Refusal(source_.Plan("{")), StartsWith("1 the request does not parse: "));
     std::string many = "40001";
     for (std::size_t i = 0; i < RouteMessages::kMaxStops; ++i) {
         many += "#40001";
@@ -141,14 +141,14 @@ TEST_F(GraphRouteSourceTest, TheNearestWayTakesThePortAsNumberOrText) {
 }
 
 TEST_F(GraphRouteSourceTest, TheNearestWayNeedsAPositionAndAPort) {
-    EXPECT_EQ(refusal(source_.Nearest(R"({"nr_point":[1],"dest_port":40002})")),
+    EXPECT_EQ(Refusal(source_.Nearest(R"({"nr_point":[1],"dest_port":40002})")),
               "1 nr_point is not a pair of numbers");
-    EXPECT_EQ(refusal(source_.Nearest(R"({"nr_point":["a",2],"dest_port":40002})")),
+    EXPECT_EQ(Refusal(source_.Nearest(R"({"nr_point":["a",2],"dest_port":40002})")),
               "1 nr_point is not a pair of numbers");
-    EXPECT_EQ(refusal(source_.Nearest(R"({"nr_point":[1,2]})")), "1 the request has no dest_port");
-    EXPECT_EQ(refusal(source_.Nearest(R"({"nr_point":[1,95.5],"dest_port":40002})")),
+    EXPECT_EQ(Refusal(source_.Nearest(R"({"nr_point":[1,2]})")), "1 the request has no dest_port");
+    EXPECT_EQ(Refusal(source_.Nearest(R"({"nr_point":[1,95.5],"dest_port":40002})")),
               "63 the position lies outside the earth");
-    EXPECT_EQ(refusal(source_.Nearest(R"({"nr_point":[1,2],"dest_port":"x"})")),
+    EXPECT_EQ(Refusal(source_.Nearest(R"({"nr_point":[1,2],"dest_port":"x"})")),
               "61 there is no port or route point \"x\"");
 }
 

@@ -44,7 +44,7 @@ const passwd* OtherUser() {
 }
 
 /// Starts a program of the data base server's package, with both of its outputs going to `out`.
-pid_t Start(std::vector<std::string> words, const std::string& folder, int out) {
+pid_t StartProgram(std::vector<std::string> words, const std::string& folder, int out) {
     const passwd* user = geteuid() == 0 ? OtherUser() : nullptr;
     words[0] = std::string(SEAPLAN_POSTGRES_PROGRAMS) + "/" + words[0];
     std::vector<char*> raw;
@@ -101,20 +101,20 @@ PostgresServer::PostgresServer(Disk disk) : disk_(disk) {
             throw std::runtime_error("the temporary folder cannot be given away");
         }
     }
-    initialize();
-    start();
+    Initialize();
+    Start();
 }
 
 PostgresServer::~PostgresServer() {
     // Without writing out what is thrown away with the folder.
-    stop(SIGQUIT);
+    Stop(SIGQUIT);
 }
 
-void PostgresServer::initialize() {
+void PostgresServer::Initialize() {
     const auto [in, out] = MakePipe();
-    const pid_t process = Start({"initdb", "--pgdata=" + folder_.File("data"), "--username=seaplan",
-                                 "--auth=trust", "--encoding=UTF8", "--no-locale", "--no-sync"},
-                                folder_.File("."), out);
+    const pid_t process = StartProgram({"initdb", "--pgdata=" + folder_.File("data"), "--username=seaplan",
+                                        "--auth=trust", "--encoding=UTF8", "--no-locale", "--no-sync"},
+                                       folder_.File("."), out);
     close(out);
     std::string said;
     char buffer[4096];
@@ -129,12 +129,12 @@ void PostgresServer::initialize() {
     }
 }
 
-void PostgresServer::start() {
+void PostgresServer::Start() {
     const auto [in, out] = MakePipe();
-    process_ = Start({"postgres", "-D", folder_.File("data"), "-k", folder_.File("."), "-c",
-                      "listen_addresses=", "-c", "shared_buffers=16MB", "-c", "max_connections=80", "-c",
-                      disk_ == Disk::Awaited ? "fsync=on" : "fsync=off"},
-                     folder_.File("."), out);
+    process_ = StartProgram({"postgres", "-D", folder_.File("data"), "-k", folder_.File("."), "-c",
+                             "listen_addresses=", "-c", "shared_buffers=16MB", "-c", "max_connections=80",
+                             "-c", disk_ == Disk::Awaited ? "fsync=on" : "fsync=off"},
+                            folder_.File("."), out);
     close(out);
     std::promise<std::string> begun;
     auto ready = begun.get_future();
@@ -160,12 +160,12 @@ void PostgresServer::start() {
     });
     const std::string failure = ready.get();
     if (!failure.empty()) {
-        stop(SIGQUIT);
+        Stop(SIGQUIT);
         throw std::runtime_error("the data base server did not start: " + failure);
     }
 }
 
-void PostgresServer::stop(int signal) {
+void PostgresServer::Stop(int signal) {
     if (process_ > 0) {
         kill(process_, signal);
         int status = 0;
@@ -190,8 +190,8 @@ std::string PostgresServer::MakeDatabase(const std::string& options) {
 }
 
 void PostgresServer::CrashAndRestart() {
-    stop(SIGQUIT);
-    start();
+    Stop(SIGQUIT);
+    Start();
 }
 
 }  // namespace Tarvik::Server

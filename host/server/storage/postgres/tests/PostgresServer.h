@@ -38,10 +38,10 @@ class PostgresServer {
 
   private:
     explicit PostgresServer(Disk disk);
-    void initialize();
-    void start();
+    void Initialize();
+    void Start();
     /// Waits until the data base server has ended after the signal.
-    void stop(int signal);
+    void Stop(int signal);
 
     Disk disk_;
     TempFolder folder_;
