@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/geo/DegreeGrid.h"
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {

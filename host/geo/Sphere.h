@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include <tarvik/util/Units.h>
@@ -46,5 +48,23 @@ std::vector<GeoPoint> GreatCircle(GeoPoint a, GeoPoint b);
 
 /// The point at a distance (NM) from `from` in a direction (degrees clockwise from north).
 GeoPoint Destination(GeoPoint from, double bearingDegrees, double nm);
+
+/// The globe in square cells of degrees: columns count eastwards from 180 W, rows northwards from the south
+/// pole. `CellsPerDegree` is the number of cells along a degree.
+template <int CellsPerDegree>
+struct DegreeGrid {
+    static constexpr int kCellsPerDegree = CellsPerDegree;
+    static constexpr int kColumns = 360 * CellsPerDegree;
+    static constexpr int kRows = 180 * CellsPerDegree;
+
+    /// Column of a longitude from -180 to 180 degrees; what lies outside belongs to the outermost column.
+    static int ColumnOf(double x) {
+        return std::clamp(static_cast<int>(std::floor((x + 180.0) * CellsPerDegree)), 0, kColumns - 1);
+    }
+    /// Row of a latitude; what lies outside belongs to the outermost row.
+    static int RowOf(double y) {
+        return std::clamp(static_cast<int>(std::floor((y + 90.0) * CellsPerDegree)), 0, kRows - 1);
+    }
+};
 
 }  // namespace Tarvik::Server

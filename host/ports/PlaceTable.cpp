@@ -5,7 +5,7 @@
 
 #include <tarvik/util/CppSQLite3.h>
 
-#include "host/geo/Position.h"
+#include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Ports {
 

@@ -20,7 +20,7 @@
 #include "host/client/shell/LoginDialog.h"
 #include "host/client/shell/PreferencesDialog.h"
 #include "host/client/shell/Theme.h"
-#include "host/geo/Position.h"
+#include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Client {
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/builder/BusyWaters.h"
-
 #include <algorithm>
 #include <cmath>
 
-#include "host/geo/DegreeGrid.h"
+#include "host/data/builder/CoastCorners.h"
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Data {

@@ -3,11 +3,23 @@
 
 #include <vector>
 
-#include "host/data/builder/BusyWaters.h"
-#include "host/data/builder/TopoLand.h"
+#include "host/data/builder/Land.h"
 #include "host/geo/LandIndex.h"
 
 namespace Tarvik::Data {
+
+/// Where ships turn often: half-degree cells around ports and passages. The network is fine there and coarse
+/// elsewhere.
+class BusyWaters {
+  public:
+    /// Marks every cell whose middle lies within `nm` nautical miles of a place.
+    BusyWaters(const std::vector<GeoPoint>& places, double nm);
+
+    bool Contains(GeoPoint p) const;
+
+  private:
+    std::vector<char> cells_;
+};
 
 /// A turning point of ways around land: a cape moved seaward. `toPrevious` and `toNext` point along the coast
 /// (east, north in equal units); ways worth having at this point leave both on one side.

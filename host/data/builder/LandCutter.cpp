@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/builder/LandCutter.h"
-
 #include <algorithm>
 #include <cmath>
+
+#include "host/data/builder/Land.h"
 
 namespace Tarvik::Data {
 

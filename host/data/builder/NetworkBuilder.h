@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "host/data/builder/Land.h"
 #include "host/data/builder/Sources.h"
 #include "host/data/builder/SpannerEdges.h"
-#include "host/data/builder/TopoLand.h"
 
 namespace Tarvik::Data {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/builder/PointDatabase.h"
-
 #include <filesystem>
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <fmt/format.h>
+
+#include "host/data/builder/Sources.h"
 
 namespace Tarvik::Data {
 

@@ -56,4 +56,8 @@ struct Sources {
 std::optional<Sources> ReadSources(const std::string& folder, const std::string& portsJson,
                                    std::string& error);
 
+/// Writes the client's table of ports and route points, `t_point`, into a new SQLite file; returns an error
+/// text, empty on success. An existing file is replaced.
+std::string WritePointDatabase(const std::string& path, const Sources& sources);
+
 }  // namespace Tarvik::Data

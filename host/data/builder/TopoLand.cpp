@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/builder/TopoLand.h"
-
 #include <nlohmann/json.hpp>
 
+#include "host/data/builder/Land.h"
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Data {

@@ -7,10 +7,9 @@
 
 #include <fmt/format.h>
 
-#include "host/data/builder/LandCutter.h"
+#include "host/data/builder/Land.h"
 #include "host/data/builder/NetworkBuilder.h"
-#include "host/data/builder/PointDatabase.h"
-#include "host/data/builder/TopoLand.h"
+#include "host/data/builder/Sources.h"
 #include "host/geo/LandFile.h"
 #include "host/server/graph/SeaNetworkFile.h"
 

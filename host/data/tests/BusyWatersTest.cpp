@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "host/data/builder/BusyWaters.h"
+#include "host/data/builder/CoastCorners.h"
 
 namespace Tarvik::Data {
 

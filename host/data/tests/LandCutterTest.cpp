@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/data/builder/LandCutter.h"
+#include "host/data/builder/Land.h"
 
 namespace Tarvik::Data {
 

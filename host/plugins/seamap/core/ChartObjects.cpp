@@ -31,7 +31,7 @@ std::vector<WorldPoint> Unwrapped(const std::vector<std::string>& texts) {
         if (!position) {
             continue;
         }
-        WorldPoint point = MercatorView::Project(*position);
+        WorldPoint point = Project(*position);
         // A step of more than half a turn is the short way over the date line.
         if (!points.empty()) {
             point.x += std::round(points.back().x - point.x);
@@ -129,7 +129,7 @@ std::vector<GeoPoint> ChartObjects::Points() const {
     for (const auto& [place, object] : objects_) {
         if (const auto* line = std::get_if<ChartLine>(&object.shape)) {
             for (const WorldPoint& point : line->points) {
-                all.push_back(MercatorView::Unproject(point));
+                all.push_back(Unproject(point));
             }
         }
         if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {

@@ -30,7 +30,7 @@ void Append(CoastData::Level& level, std::vector<CoastData::Shape>& shapes,
     shape.minX = shape.minY = 1e9;
     shape.maxX = shape.maxY = -1e9;
     for (const LandPoint& point : points) {
-        const WorldPoint world = MercatorView::Project({point.lon, point.lat});
+        const WorldPoint world = Project({point.lon, point.lat});
         shape.minX = std::min(shape.minX, world.x);
         shape.maxX = std::max(shape.maxX, world.x);
         shape.minY = std::min(shape.minY, world.y);

@@ -5,8 +5,8 @@
 #include <span>
 #include <vector>
 
-#include "host/plugins/seamap/core/GeoPoint.h"
 #include "host/plugins/seamap/core/LandSource.h"
+#include "host/plugins/seamap/core/Projection.h"
 
 namespace Tarvik::Seamap {
 

@@ -6,7 +6,7 @@
 
 #include <tarvik/interface/ChartRecords.h>
 
-#include "host/plugins/seamap/core/GeoPoint.h"
+#include "host/plugins/seamap/core/Projection.h"
 
 namespace Tarvik::Seamap {
 

@@ -62,7 +62,7 @@ Graticule::Graticule(const MercatorView& view) : spacing_(ChooseSpacing(view)) {
     const Extent shown = view.Visible();
     const int south = static_cast<int>(std::ceil(shown.south * 600 / step)) * step;
     for (int at = south; at <= shown.north * 600; at += step) {
-        const double y = view.ToScreen(MercatorView::Project({0, at / 600.0})).y;
+        const double y = view.ToScreen(Project({0, at / 600.0})).y;
         if (std::abs(at) < 89 * 600) {
             parallels_.push_back({y, AngleText(at, spacing_, 2, 'N', 'S')});
         }
@@ -74,7 +74,7 @@ ScaleBar ScaleBar::For(const MercatorView& view, double longestPixels) {
     if (!view.HasSize()) {
         return bar;
     }
-    const double perPixel = view.MilesPerPixel(MercatorView::Unproject(view.Centre()).y);
+    const double perPixel = view.MilesPerPixel(Unproject(view.Centre()).y);
     const double longest = perPixel * longestPixels;
     const double decade = std::pow(10.0, std::floor(std::log10(longest)));
     for (const double factor : {1.0, 2.0, 5.0}) {

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "host/geo/Sphere.h"
 
@@ -11,21 +10,10 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr double kRadians = std::numbers::pi / 180.0;
 constexpr double kWorldMiles = 360.0 * 60.0;
 constexpr double kLeastHeightShare = 0.6;
 
 }  // namespace
-
-WorldPoint MercatorView::Project(GeoPoint point) {
-    const double lat = std::clamp(point.y, -kDrawLatitude, kDrawLatitude) * kRadians;
-    return {(point.x + 180.0) / 360.0, 0.5 - std::asinh(std::tan(lat)) / (2.0 * std::numbers::pi)};
-}
-
-GeoPoint MercatorView::Unproject(WorldPoint point) {
-    const double lat = std::atan(std::sinh((0.5 - point.y) * 2.0 * std::numbers::pi)) / kRadians;
-    return {Server::WrapLongitude(point.x * 360.0 - 180.0), lat};
-}
 
 std::int64_t MercatorView::StepSize(int step) {
     const double size = static_cast<double>(kSmallestWorld) * std::exp2(step / double{kStepsPerOctave});
@@ -133,7 +121,7 @@ MercatorView::Turns MercatorView::TurnsOf(double minX, double maxX, int margin) 
 }
 
 double MercatorView::MilesPerPixel(double lat) const {
-    return kWorldMiles * std::cos(lat * kRadians) / static_cast<double>(size_);
+    return kWorldMiles * std::cos(lat * Server::kDegree) / static_cast<double>(size_);
 }
 
 void MercatorView::Settle() {

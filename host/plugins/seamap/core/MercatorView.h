@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "host/plugins/seamap/core/Extent.h"
-#include "host/plugins/seamap/core/GeoPoint.h"
+#include "host/plugins/seamap/core/Projection.h"
 
 namespace Tarvik::Seamap {
 
@@ -15,15 +15,10 @@ namespace Tarvik::Seamap {
 /// the view stops at the edges of the square, and a window higher than the world shows it in the middle.
 class MercatorView {
   public:
-    static constexpr double kMaxLatitude = 85.0511287798066;  ///< edge of the square world, degrees
-    static constexpr double kDrawLatitude = 89.0;  ///< places nearer to a pole are drawn at this latitude
     static constexpr std::int64_t kSmallestWorld = 256;  ///< pixels
     static constexpr std::int64_t kLargestWorld = std::int64_t{1} << 23;
     static constexpr int kStepsPerOctave = 4;
 
-    static WorldPoint Project(GeoPoint point);
-    /// Longitude -180 to 180, also for an x of several turns.
-    static GeoPoint Unproject(WorldPoint point);
     /// World size of a zoom step: 256 pixels at step 0, twice as large every fourth step, rounded to whole
     /// pixels and kept within the limits.
     static std::int64_t StepSize(int step);

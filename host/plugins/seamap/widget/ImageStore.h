@@ -6,7 +6,7 @@
 #include <string>
 
 #include "host/plugins/seamap/core/ChartPalette.h"
-#include "host/plugins/seamap/core/GeoPoint.h"
+#include "host/plugins/seamap/core/Projection.h"
 
 namespace Tarvik::Seamap {
 

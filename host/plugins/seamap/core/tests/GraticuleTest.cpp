@@ -13,7 +13,7 @@ namespace {
 MercatorView ViewOf(GeoPoint centre, std::int64_t size) {
     MercatorView view;
     view.Resize(1000, 500);
-    view.Show(MercatorView::Project(centre), size);
+    view.Show(Project(centre), size);
     return view;
 }
 

@@ -11,7 +11,7 @@ class HitTestTest : public ::testing::Test {
   protected:
     HitTestTest() {
         view_.Resize(1000, 500);
-        view_.Show(MercatorView::Project({0, 0}), 3600);  // ten pixels a degree
+        view_.Show(Project({0, 0}), 3600);  // ten pixels a degree
     }
     std::string At(double x, double y) const {
         const ChartObject* object = HitTest(objects_, view_, [](const std::string&) {
@@ -70,7 +70,7 @@ TEST_F(HitTestTest, AnImageIsMetWithinItsRectangle) {
 }
 
 TEST_F(HitTestTest, MeetsThingsAcrossTheDateLine) {
-    view_.Show(MercatorView::Project({180, 0}), 3600);
+    view_.Show(Project({180, 0}), 3600);
     Line("a", {"175,0", "-175,0"});
     Label("b", "-179,5");
     EXPECT_EQ(At(500, 250), "a");

@@ -12,14 +12,14 @@ namespace {
 MercatorView ViewOf(int width, int height, GeoPoint centre, std::int64_t size) {
     MercatorView view;
     view.Resize(width, height);
-    view.Show(MercatorView::Project(centre), size);
+    view.Show(Project(centre), size);
     return view;
 }
 
 TEST(MercatorView, ProjectionRoundTripsOverTheWholeWorld) {
     for (double lon = -180; lon < 180; lon += 7.5) {
         for (double lat = -85; lat <= 85; lat += 2.5) {
-            const GeoPoint back = MercatorView::Unproject(MercatorView::Project({lon, lat}));
+            const GeoPoint back = Unproject(Project({lon, lat}));
             EXPECT_NEAR(back.x, lon, 1e-9);
             EXPECT_NEAR(back.y, lat, 1e-9);
         }
@@ -27,24 +27,23 @@ TEST(MercatorView, ProjectionRoundTripsOverTheWholeWorld) {
 }
 
 TEST(MercatorView, TheWorldIsASquare) {
-    const WorldPoint corner = MercatorView::Project({-180, MercatorView::kMaxLatitude});
+    const WorldPoint corner = Project({-180, kMaxLatitude});
     EXPECT_NEAR(corner.x, 0, 1e-12);
     EXPECT_NEAR(corner.y, 0, 1e-12);
-    const WorldPoint middle = MercatorView::Project({0, 0});
+    const WorldPoint middle = Project({0, 0});
     EXPECT_DOUBLE_EQ(middle.x, 0.5);
     EXPECT_DOUBLE_EQ(middle.y, 0.5);
-    EXPECT_NEAR(MercatorView::Project({180, -MercatorView::kMaxLatitude}).y, 1, 1e-12);
+    EXPECT_NEAR(Project({180, -kMaxLatitude}).y, 1, 1e-12);
 }
 
 TEST(MercatorView, AKnownLatitudeLiesWhereTheFormulaPutsIt) {
     // ln(tan(45° + 30°)) / 2 pi for 60° N.
-    EXPECT_NEAR(MercatorView::Project({0, 60}).y, 0.5 - std::log(std::tan(75 * M_PI / 180)) / (2 * M_PI),
-                1e-12);
+    EXPECT_NEAR(Project({0, 60}).y, 0.5 - std::log(std::tan(75 * M_PI / 180)) / (2 * M_PI), 1e-12);
 }
 
 TEST(MercatorView, PolesStayFinite) {
-    EXPECT_TRUE(std::isfinite(MercatorView::Project({0, 90}).y));
-    EXPECT_DOUBLE_EQ(MercatorView::Project({0, -90}).y, MercatorView::Project({0, -89}).y);
+    EXPECT_TRUE(std::isfinite(Project({0, 90}).y));
+    EXPECT_DOUBLE_EQ(Project({0, -90}).y, Project({0, -89}).y);
 }
 
 TEST(MercatorView, ScreenRoundTrips) {

@@ -36,7 +36,7 @@ CoastData Land() {
 MercatorView ViewOf(GeoPoint centre, std::int64_t size, int width = 700, int height = 400) {
     MercatorView view;
     view.Resize(width, height);
-    view.Show(MercatorView::Project(centre), size);
+    view.Show(Project(centre), size);
     return view;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/geo/GeoPoint.h"
+#include "host/geo/LandFile.h"
 
 namespace Tarvik::Data {
 
@@ -17,5 +18,11 @@ using Polygon = std::vector<Ring>;
 /// Reads the object "land" of a TopoJSON text: polygons with positions rounded to 5 decimals, closed
 /// implicitly. Nothing and an error text when the text is not such a file.
 std::optional<std::vector<Polygon>> ReadTopoLand(const std::string& text, std::string& error);
+
+/// Cuts polygons at the date line and into cells small enough to draw; see `LandFile` for what a cell is.
+std::vector<LandFile::Cell> CutIntoCells(const std::vector<Polygon>& land);
+
+/// The coast as polylines, without the closing lines along the date line and the pole.
+std::vector<LandFile::Cell> CutIntoCoasts(const std::vector<Polygon>& land);
 
 }  // namespace Tarvik::Data

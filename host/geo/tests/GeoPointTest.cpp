@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "host/geo/Position.h"
+#include "host/geo/GeoPoint.h"
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/geo/Position.h"
+#include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Seamap {
 
@@ -22,5 +22,13 @@ struct PixelPoint {
     double x = 0;
     double y = 0;
 };
+
+inline constexpr double kMaxLatitude = 85.0511287798066;  ///< edge of the square world, degrees
+inline constexpr double kDrawLatitude = 89.0;  ///< places nearer to a pole are drawn at this latitude
+
+/// Mercator's projection of the sphere.
+WorldPoint Project(GeoPoint point);
+/// Longitude -180 to 180, also for an x of several turns.
+GeoPoint Unproject(WorldPoint point);
 
 }  // namespace Tarvik::Seamap

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/geo/Position.h"
+#include "host/geo/GeoPoint.h"
 
 #include <charconv>
 #include <cmath>
