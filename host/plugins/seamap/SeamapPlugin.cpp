@@ -5,7 +5,7 @@
 #include <tarvik/core/PluginInfo.h>
 #include <tarvik/core/TrvKernel.h>
 
-#include "host/plugins/seamap/core/LandFileSource.h"
+#include "host/plugins/seamap/core/LandSource.h"
 #include "host/plugins/seamap/core/PortTable.h"
 #include "host/plugins/seamap/widget/ChartServices.h"
 

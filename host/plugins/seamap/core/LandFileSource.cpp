@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/LandFileSource.h"
+#include "host/plugins/seamap/core/LandSource.h"
 
 #include <tarvik/util/FileUtl.h>
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
 #include <vector>
 
 namespace Tarvik::Seamap {
@@ -26,6 +27,19 @@ class LandSource {
     virtual ~LandSource() = default;
     /// Levels from the coarsest to the finest; empty when there is no land to be had.
     virtual std::vector<LandLevel> Load() = 0;
+};
+
+/// The land file of the host's data.
+class LandFileSource : public LandSource {
+  public:
+    explicit LandFileSource(std::string path) : path_(std::move(path)) {}
+    /// Empty when the file is missing or damaged: the chart then shows sea and graticule only.
+    std::vector<LandLevel> Load() override;
+    /// "businessdata/land.bin" below the host's folder.
+    static std::string DefaultPath();
+
+  private:
+    std::string path_;
 };
 
 }  // namespace Tarvik::Seamap

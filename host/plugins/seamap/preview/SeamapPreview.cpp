@@ -11,7 +11,7 @@
 
 #include <fmt/format.h>
 
-#include "host/plugins/seamap/core/LandFileSource.h"
+#include "host/plugins/seamap/core/LandSource.h"
 #include "host/plugins/seamap/widget/ChartWidget.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/BusBlock.h>
 
-#include "host/plugins/seamap/core/LandFileSource.h"
+#include "host/plugins/seamap/core/LandSource.h"
 
 namespace Tarvik::Seamap {
 

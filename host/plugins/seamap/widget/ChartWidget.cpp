@@ -8,33 +8,18 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
-#include "host/plugins/seamap/core/HitTest.h"
-#include "host/plugins/seamap/widget/Furniture.h"
-#include "host/plugins/seamap/widget/ObjectPainter.h"
-
 namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr Extent kWorld{-180, -60, 180, 75};   ///< the inhabited world, shown when there is nothing else
-constexpr int kFitMargin = 32;                 ///< pixels
-constexpr std::int64_t kLargestFit = 1 << 17;  ///< a fit on one point still shows its surroundings
-constexpr int kWheelStep = 120;                ///< eighths of a degree of one notch
-constexpr int kStepsPerZoom = 2;               ///< zoom steps of one notch or key: half an octave
-constexpr int kArrowPan = 64;                  ///< pixels
+constexpr int kWheelStep = 120;  ///< eighths of a degree of one notch
+constexpr int kArrowPan = 64;  ///< pixels
 constexpr const char* kPictures = "pictures";
 
 }  // namespace
 
 ChartWidget::ChartWidget(ChartObjects& objects, QWidget* parent)
-    : QWidget(parent),
-      objects_(objects),
-      palette_(&ChartPalette::Of(ChartPalette::Theme::Light)),
-      motion_([this](const MercatorView& view) {
-          view_ = view;
-          update();
-      }),
-      fitted_(kWorld) {
+    : QWidget(parent), objects_(objects), scene_(objects), camera_([this] { update(); }) {
     setObjectName("chart");
     setAccessibleName(tr("Chart"));
     setAccessibleDescription(
@@ -51,75 +36,33 @@ ChartWidget::~ChartWidget() {
 }
 
 void ChartWidget::SetLand(CoastData land) {
-    base_.SetLand(std::move(land));
+    scene_.SetLand(std::move(land));
     update();
 }
 
 void ChartWidget::SetTheme(ChartPalette::Theme theme) {
-    palette_ = &ChartPalette::Of(theme);
-    images_.SetPalette(*palette_);
+    scene_.SetTheme(theme);
     update();
 }
 
-Extent ChartWidget::Shown() const {
-    if (!view_.HasSize()) {
-        return fitted_.value_or(kWorld);
-    }
-    return (motion_.IsRunning() ? motion_.Target() : view_).Visible();
-}
-
 bool ChartWidget::ShowExtent(const Extent& extent) {
-    if (IsPersonMoving()) {
+    if (press_.drags || camera_.IsZooming()) {
         return false;
     }
-    fitted_ = extent;
-    if (view_.HasSize()) {
-        Fit(IsAnimated());
-    }
+    camera_.Show(extent, IsAnimated());
     return true;
 }
 
 void ChartWidget::FitAll() {
-    ShowExtent(Extent::Around(objects_.Points()).value_or(kWorld));
+    ShowExtent(scene_.ExtentOfAll());
 }
 
 void ChartWidget::ZoomSteps(int steps) {
-    ZoomAround({width() / 2.0, height() / 2.0}, steps);
+    camera_.ZoomAround({width() / 2.0, height() / 2.0}, steps, IsAnimated());
 }
 
 bool ChartWidget::IsAnimated() const {
     return isVisible() && !property(kPictures).toBool() && !qApp->property(kPictures).toBool();
-}
-
-bool ChartWidget::IsPersonMoving() const {
-    return dragging_ || (zooming_ && motion_.IsRunning());
-}
-
-void ChartWidget::Fit(bool animated) {
-    MercatorView target = view_;
-    target.Fit(*fitted_, kFitMargin, kLargestFit);
-    zooming_ = false;
-    motion_.Start(view_, target, animated);
-}
-
-void ChartWidget::ZoomAround(PixelPoint anchor, int steps) {
-    if (!view_.HasSize() || steps == 0) {
-        return;
-    }
-    const MercatorView& goal = motion_.IsRunning() ? motion_.Target() : view_;
-    const int step = goal.NearestStep() + steps * kStepsPerZoom;
-    MercatorView target = view_;
-    target.ZoomAt(anchor, MercatorView::StepSize(std::min(step, MercatorView::LargestStep())));
-    fitted_.reset();
-    zooming_ = true;
-    motion_.Start(view_, target, IsAnimated());
-}
-
-void ChartWidget::Pan(int dx, int dy) {
-    motion_.Stop();
-    fitted_.reset();
-    view_.PanBy(dx, dy);
-    update();
 }
 
 bool ChartWidget::event(QEvent* event) {
@@ -127,9 +70,9 @@ bool ChartWidget::event(QEvent* event) {
         return QWidget::event(event);
     }
     const auto* help = static_cast<QHelpEvent*>(event);
-    const ChartObject* object = ObjectAt({double(help->pos().x()), double(help->pos().y())});
+    const ChartObject* object = scene_.At({double(help->pos().x()), double(help->pos().y())}, View(), devicePixelRatioF());
     if (object) {
-        QToolTip::showText(help->globalPos(), TipOf(*object), this);
+        QToolTip::showText(help->globalPos(), ChartScene::TipOf(*object), this);
     } else {
         QToolTip::hideText();
     }
@@ -138,25 +81,18 @@ bool ChartWidget::event(QEvent* event) {
 
 void ChartWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.drawPixmap(0, 0, base_.Picture(view_, *palette_, devicePixelRatioF()));
-    ObjectPainter(painter, view_, *palette_, images_, texts_, devicePixelRatioF())
-        .Draw(objects_, highlighted_ ? &*highlighted_ : nullptr);
-    Furniture(view_, *palette_, texts_).Draw(painter);
+    scene_.Paint(painter, View(), devicePixelRatioF(), highlighted_ ? &*highlighted_ : nullptr);
     if (!byKeyboard_) {
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(palette_->accent), 2));
+    painter.setPen(QPen(QColor(scene_.Palette().accent), 2));
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 void ChartWidget::resizeEvent(QResizeEvent*) {
-    motion_.Stop();
-    view_.Resize(width(), height());
-    if (fitted_ && view_.HasSize()) {
-        Fit(false);
-    }
+    camera_.Resize(width(), height());
 }
 
 void ChartWidget::mousePressEvent(QMouseEvent* event) {
@@ -164,35 +100,36 @@ void ChartWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) {
         return;
     }
-    pressed_ = true;
-    pressedAt_ = draggedFrom_ = event->position().toPoint();
+    const QPoint at = event->position().toPoint();
+    press_ = {at, at, true, press_.drags};
 }
 
 void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
-    if (pressed_ && !dragging_ && (at - pressedAt_).manhattanLength() >= QApplication::startDragDistance()) {
-        dragging_ = true;
+    const int way = (at - press_.start).manhattanLength();
+    if (press_.down && !press_.drags && way >= QApplication::startDragDistance()) {
+        press_.drags = true;
         setCursor(Qt::ClosedHandCursor);
     }
-    if (dragging_) {
-        Pan(draggedFrom_.x() - at.x(), draggedFrom_.y() - at.y());
-        draggedFrom_ = at;
+    if (press_.drags) {
+        camera_.Pan(press_.last.x() - at.x(), press_.last.y() - at.y());
+        press_.last = at;
     }
     Point(PixelPoint{event->position().x(), event->position().y()});
 }
 
 void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || !pressed_) {
+    if (event->button() != Qt::LeftButton || !press_.down) {
         return;
     }
-    const bool click = !dragging_;
-    pressed_ = dragging_ = false;
+    const bool click = !press_.drags;
+    press_.down = press_.drags = false;
     const PixelPoint pixel{event->position().x(), event->position().y()};
     Point(pixel);
     if (!click) {
         return;
     }
-    if (const ChartObject* object = ObjectAt(pixel)) {
+    if (const ChartObject* object = scene_.At(pixel, View(), devicePixelRatioF())) {
         // The one who hears of the click may remove the object.
         const ObjectKey key = object->key;
         emit ObjectClicked(key);
@@ -204,14 +141,14 @@ void ChartWidget::mouseDoubleClickEvent(QMouseEvent* event) {
         return;
     }
     const PixelPoint pixel{event->position().x(), event->position().y()};
-    ZoomAround(pixel, event->modifiers() & Qt::ShiftModifier ? -2 : 2);
+    camera_.ZoomAround(pixel, event->modifiers() & Qt::ShiftModifier ? -2 : 2, IsAnimated());
 }
 
 void ChartWidget::wheelEvent(QWheelEvent* event) {
     wheelRest_ += event->angleDelta().y();
     const int steps = wheelRest_ / kWheelStep;
     wheelRest_ -= steps * kWheelStep;
-    ZoomAround({event->position().x(), event->position().y()}, steps);
+    camera_.ZoomAround({event->position().x(), event->position().y()}, steps, IsAnimated());
     event->accept();
 }
 
@@ -224,13 +161,13 @@ void ChartWidget::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Minus:
             return ZoomSteps(-1);
         case Qt::Key_Left:
-            return Pan(-far, 0);
+            return camera_.Pan(-far, 0);
         case Qt::Key_Right:
-            return Pan(far, 0);
+            return camera_.Pan(far, 0);
         case Qt::Key_Up:
-            return Pan(0, -far);
+            return camera_.Pan(0, -far);
         case Qt::Key_Down:
-            return Pan(0, far);
+            return camera_.Pan(0, far);
         case Qt::Key_Home:
             return FitAll();
         default:
@@ -253,9 +190,9 @@ void ChartWidget::focusOutEvent(QFocusEvent*) {
 }
 
 void ChartWidget::Point(std::optional<PixelPoint> pixel) {
-    const ChartObject* object = pixel && !dragging_ ? ObjectAt(*pixel) : nullptr;
+    const ChartObject* object = pixel && !press_.drags ? scene_.At(*pixel, View(), devicePixelRatioF()) : nullptr;
     const std::optional<ObjectKey> key = object ? std::optional(object->key) : std::nullopt;
-    if (!dragging_) {
+    if (!press_.drags) {
         setCursor(key ? Qt::PointingHandCursor : Qt::OpenHandCursor);
     }
     if (key != highlighted_) {
@@ -265,26 +202,8 @@ void ChartWidget::Point(std::optional<PixelPoint> pixel) {
     if (!pixel) {
         return;
     }
-    const GeoPoint place = view_.ToGeo(*pixel);
+    const GeoPoint place = View().ToGeo(*pixel);
     emit CursorMoved(place.x, place.y);
-}
-
-const ChartObject* ChartWidget::ObjectAt(PixelPoint pixel) {
-    const auto halfSize = [this](const std::string& name) {
-        return images_.HalfSize(name, objects_.ImagePath(name), devicePixelRatioF());
-    };
-    return HitTest(objects_, view_, halfSize).At(pixel);
-}
-
-QString ChartWidget::TipOf(const ChartObject& object) const {
-    if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {
-        const QString place = QString::fromStdString(FormatPosition(label->position));
-        return label->text.empty() ? place : QString::fromStdString(label->text) + "\n" + place;
-    }
-    if (const auto* image = std::get_if<ChartImage>(&object.shape)) {
-        return QString::fromStdString(FormatPosition(image->position));
-    }
-    return {};
 }
 
 }  // namespace Tarvik::Seamap

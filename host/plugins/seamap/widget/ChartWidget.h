@@ -5,17 +5,12 @@
 #include <QWidget>
 #include <optional>
 
-#include "host/plugins/seamap/core/ChartObjects.h"
-#include "host/plugins/seamap/core/ChartPalette.h"
-#include "host/plugins/seamap/core/MercatorView.h"
-#include "host/plugins/seamap/widget/BaseLayer.h"
-#include "host/plugins/seamap/widget/HaloTexts.h"
-#include "host/plugins/seamap/widget/ImageStore.h"
-#include "host/plugins/seamap/widget/ViewMotion.h"
+#include "host/plugins/seamap/widget/ChartCamera.h"
+#include "host/plugins/seamap/widget/ChartScene.h"
 
 namespace Tarvik::Seamap {
 
-/// The chart as a window: draws land and objects and lets a person pan, zoom, point and click.
+/// The chart as a window: shows the scene from the camera and lets a person pan, zoom, point and click.
 ///
 /// Drag pans; the wheel, a double click and + and - zoom; the arrows pan; Home shows all objects. The dynamic
 /// property "pictures" of the widget or of the application, set to true, turns animation off.
@@ -29,11 +24,11 @@ class ChartWidget : public QWidget {
 
     void SetLand(CoastData land);
     void SetTheme(ChartPalette::Theme theme);
-    ChartPalette::Theme Theme() const { return palette_->theme; }
+    ChartPalette::Theme Theme() const { return scene_.Palette().theme; }
 
     /// What is shown, or is about to be while a fit is animated. Before the widget has a size: what it will
     /// fit.
-    Extent Shown() const;
+    Extent Shown() const { return camera_.Shown(); }
     /// Fits the extent with a margin. Does nothing while a person drags or zooms; a widget that is resized
     /// before a person moves the view fits it again. False when it was passed over.
     bool ShowExtent(const Extent& extent);
@@ -41,7 +36,7 @@ class ChartWidget : public QWidget {
     void FitAll();
     /// Zooms half an octave for each step, in when positive, around the middle.
     void ZoomSteps(int steps);
-    const MercatorView& View() const { return view_; }
+    const MercatorView& View() const { return camera_.View(); }
 
     QSize sizeHint() const override { return {960, 600}; }
     QSize minimumSizeHint() const override { return {160, 120}; }
@@ -67,29 +62,21 @@ class ChartWidget : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    /// The left button from its press to its release.
+    struct Press {
+        QPoint start;
+        QPoint last;
+        bool down = false;
+        bool drags = false;
+    };
     bool IsAnimated() const;
-    bool IsPersonMoving() const;
-    void Fit(bool animated);
-    void ZoomAround(PixelPoint anchor, int steps);
-    void Pan(int dx, int dy);
     void Point(std::optional<PixelPoint> pixel);
-    const ChartObject* ObjectAt(PixelPoint pixel);
-    QString TipOf(const ChartObject& object) const;
 
     ChartObjects& objects_;
-    const ChartPalette* palette_;
-    MercatorView view_;
-    BaseLayer base_;
-    ImageStore images_;
-    HaloTexts texts_;
-    ViewMotion motion_;
-    std::optional<Extent> fitted_;  ///< empty once a person has moved the view
+    ChartScene scene_;
+    ChartCamera camera_;
+    Press press_;
     std::optional<ObjectKey> highlighted_;
-    QPoint pressedAt_;
-    QPoint draggedFrom_;
-    bool pressed_ = false;
-    bool dragging_ = false;
-    bool zooming_ = false;  ///< the motion under way was started by a person
     bool byKeyboard_ = false;
     int wheelRest_ = 0;  ///< eighths of a degree of the wheel not yet used
 };

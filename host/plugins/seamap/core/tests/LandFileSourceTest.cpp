@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "host/geo/LandFile.h"
-#include "host/plugins/seamap/core/LandFileSource.h"
+#include "host/plugins/seamap/core/LandSource.h"
 
 namespace Tarvik::Seamap {
 

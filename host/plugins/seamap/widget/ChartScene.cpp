@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "host/plugins/seamap/widget/ChartScene.h"
+
+#include <QPainter>
+
+#include "host/plugins/seamap/core/HitTest.h"
+#include "host/plugins/seamap/widget/ChartCamera.h"
+#include "host/plugins/seamap/widget/Furniture.h"
+#include "host/plugins/seamap/widget/ObjectPainter.h"
+
+namespace Tarvik::Seamap {
+
+void ChartScene::SetTheme(ChartPalette::Theme theme) {
+    palette_ = &ChartPalette::Of(theme);
+    images_.SetPalette(*palette_);
+}
+
+void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelRatio,
+                       const ObjectKey* highlighted) {
+    painter.drawPixmap(0, 0, base_.Picture(view, *palette_, pixelRatio));
+    ObjectPainter(painter, view, *palette_, images_, texts_, pixelRatio).Draw(objects_, highlighted);
+    Furniture(view, *palette_, texts_).Draw(painter);
+}
+
+const ChartObject* ChartScene::At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio) {
+    const auto halfSize = [this, pixelRatio](const std::string& name) {
+        return images_.HalfSize(name, objects_.ImagePath(name), pixelRatio);
+    };
+    return HitTest(objects_, view, halfSize).At(pixel);
+}
+
+QString ChartScene::TipOf(const ChartObject& object) {
+    if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {
+        const QString place = QString::fromStdString(FormatPosition(label->position));
+        return label->text.empty() ? place : QString::fromStdString(label->text) + "\n" + place;
+    }
+    if (const auto* image = std::get_if<ChartImage>(&object.shape)) {
+        return QString::fromStdString(FormatPosition(image->position));
+    }
+    return {};
+}
+
+Extent ChartScene::ExtentOfAll() const {
+    return Extent::Around(objects_.Points()).value_or(kInhabitedWorld);
+}
+
+}  // namespace Tarvik::Seamap

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include "host/plugins/seamap/core/ChartObjects.h"
+#include "host/plugins/seamap/core/ChartPalette.h"
+#include "host/plugins/seamap/core/MercatorView.h"
+#include "host/plugins/seamap/widget/BaseLayer.h"
+#include "host/plugins/seamap/widget/HaloTexts.h"
+#include "host/plugins/seamap/widget/ImageStore.h"
+
+namespace Tarvik::Seamap {
+
+/// What the chart shows, whatever the view: land, objects and furniture in the colours of a theme, and what
+/// lies under a pixel.
+class ChartScene {
+  public:
+    /// The objects must live longer than the scene.
+    explicit ChartScene(const ChartObjects& objects) : objects_(objects) {}
+
+    void SetLand(CoastData land) { base_.SetLand(std::move(land)); }
+    void SetTheme(ChartPalette::Theme theme);
+    const ChartPalette& Palette() const { return *palette_; }
+
+    /// `highlighted` is the object under the pointer, null without one.
+    void Paint(QPainter& painter, const MercatorView& view, qreal pixelRatio, const ObjectKey* highlighted);
+    /// The object under a pixel, null without one.
+    const ChartObject* At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio);
+    /// What is told of an object to someone who points at it; empty for a line.
+    static QString TipOf(const ChartObject& object);
+    /// The extent that holds all objects; the inhabited world without any.
+    Extent ExtentOfAll() const;
+
+  private:
+    const ChartObjects& objects_;
+    const ChartPalette* palette_ = &ChartPalette::Of(ChartPalette::Theme::Light);
+    BaseLayer base_;
+    ImageStore images_;
+    HaloTexts texts_;
+};
+
+}  // namespace Tarvik::Seamap
