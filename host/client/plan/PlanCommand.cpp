@@ -6,8 +6,6 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/VoyageContract.h>
 
-#include "host/client/plan/PlanFormats.h"
-
 namespace Tarvik::Client {
 
 namespace {
@@ -94,21 +92,6 @@ PlanOutcome CallPlanService(const Interface::PlanRequest& request, const Interfa
         return {};
     }
     return FailureOf(*result, services ? services->LastFailure() : std::string());
-}
-
-std::string FormatPlan(const PlanArguments& arguments, const Interface::PlanResult& plan,
-                       const std::string& zone, const LanguageFiles& texts) {
-    switch (arguments.format) {
-        case PlanFormat::Json:
-            return PlanJson(plan);
-        case PlanFormat::GeoJson:
-            return PlanGeoJson(plan);
-        case PlanFormat::Csv:
-            return PlanCsv(plan);
-        case PlanFormat::Table:
-            break;
-    }
-    return PlanTable(plan, zone, texts);
 }
 
 }  // namespace Tarvik::Client

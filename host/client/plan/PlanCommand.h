@@ -9,7 +9,6 @@
 #include "host/client/plan/PlanArguments.h"
 #include "host/client/plan/PortLookup.h"
 #include "host/client/services/HostServices.h"
-#include "host/client/services/LanguageFiles.h"
 
 namespace Tarvik::Client {
 
@@ -30,9 +29,5 @@ PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lo
 /// the server had to say about it; null when there are none.
 PlanOutcome CallPlanService(const Interface::PlanRequest& request, const Interface::PlanResult*& result,
                             const HostServices* services = nullptr);
-
-/// The result in the asked format.
-std::string FormatPlan(const PlanArguments& arguments, const Interface::PlanResult& plan,
-                       const std::string& zone, const LanguageFiles& texts);
 
 }  // namespace Tarvik::Client

@@ -179,4 +179,19 @@ std::string PlanTable(const Interface::PlanResult& plan, const std::string& zone
     return out + SummaryLine(plan);
 }
 
+std::string FormatPlan(const PlanArguments& arguments, const Interface::PlanResult& plan,
+                       const std::string& zone, const LanguageFiles& texts) {
+    switch (arguments.format) {
+        case PlanFormat::Json:
+            return PlanJson(plan);
+        case PlanFormat::GeoJson:
+            return PlanGeoJson(plan);
+        case PlanFormat::Csv:
+            return PlanCsv(plan);
+        case PlanFormat::Table:
+            break;
+    }
+    return PlanTable(plan, zone, texts);
+}
+
 }  // namespace Tarvik::Client

@@ -6,9 +6,14 @@
 
 #include <tarvik/interface/PlanRecords.h>
 
+#include "host/client/plan/PlanArguments.h"
 #include "host/client/services/LanguageFiles.h"
 
 namespace Tarvik::Client {
+
+/// The result in the asked format.
+std::string FormatPlan(const PlanArguments& arguments, const Interface::PlanResult& plan,
+                       const std::string& zone, const LanguageFiles& texts);
 
 /// One object in standard units (knots, NM, hours) with `rows`, `totals`, `summary` and `route`; times as
 /// "%Y-%m-%d %H:%M:%S" in the plan's zone, numbers in full precision.

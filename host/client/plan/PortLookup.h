@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/client/services/PortTable.h"
+#include "host/client/services/PortDictionary.h"
 
 namespace Tarvik::Client {
 

@@ -2,12 +2,9 @@
 #include <cstdio>
 
 #include "host/client/plan/PlanCommand.h"
-#include "host/client/plan/PlanHelp.h"
-#include "host/client/services/AppFolders.h"
 #include "host/client/services/CommandLine.h"
-#include "host/client/services/ProgramPath.h"
-#include "host/client/shell/PlanRun.h"
-#include "host/client/shell/WindowRun.h"
+#include "host/client/services/AppFolders.h"
+#include "host/client/shell/Runs.h"
 
 int main(int argc, char** argv) {
     using namespace Tarvik::Client;

@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <fstream>
 
-#include "host/client/services/DataFiles.h"
 
 namespace fs = std::filesystem;
 

@@ -5,9 +5,18 @@
 #include <vector>
 
 #include "host/client/services/LanguageFiles.h"
-#include "host/client/services/SessionOptions.h"
 
 namespace Tarvik::Client {
+
+/// What the person chose on the command line for every way of running the client.
+struct SessionOptions {
+    std::string dataFolder;  ///< empty for the usual place
+    bool verbose = false;
+    std::string language;  ///< empty: the preference
+    std::string timeZone;  ///< empty: the preference
+    std::string theme;     ///< empty: the preference
+    std::string server;    ///< an address or "embedded"; empty: the preference
+};
 
 /// The program's words, sorted.
 struct CommandLine {
@@ -24,5 +33,8 @@ struct CommandLine {
 /// Reads the program's words without its name. The options of both ways of running may stand anywhere before
 /// "--". `languages` are those that --lang may name.
 CommandLine ParseCommandLine(const std::vector<std::string>& words, const std::vector<Language>& languages);
+
+/// What `--help` prints. `languages` are the codes that --lang may name.
+std::string HelpText(const std::vector<std::string>& languages);
 
 }  // namespace Tarvik::Client

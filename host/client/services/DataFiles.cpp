@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/services/DataFiles.h"
+#include "host/client/services/AppFolders.h"
 
 #include <array>
 #include <cstdint>

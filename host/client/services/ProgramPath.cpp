@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/services/ProgramPath.h"
+#include "host/client/services/AppFolders.h"
 
 #include <filesystem>
 

@@ -5,10 +5,29 @@
 #include <filesystem>
 #include <fstream>
 
+#include <tarvik/core/TrvKernel.h>
 #include <tarvik/util/DateTime.h>
 #include <tarvik/util/DateTimeUtl.h>
 
 namespace Tarvik::Client {
+
+namespace {
+
+const char* NoticeText(Core::KernelNotice notice) {
+    switch (notice) {
+        case Core::KernelNotice::NobodyOffers:
+            return "nobody offers the service ";
+        case Core::KernelNotice::BoundTwice:
+            return "bound twice: ";
+        case Core::KernelNotice::UnknownUnbind:
+            return "unbound without a binding: ";
+        case Core::KernelNotice::UnknownName:
+            return "unknown name: ";
+    }
+    return "";
+}
+
+}  // namespace
 
 RotatingLog::RotatingLog(std::string file, std::size_t limitBytes, bool verbose)
     : file_(std::move(file)), limit_(limitBytes), verbose_(verbose) {}
@@ -25,6 +44,19 @@ void RotatingLog::Write(const std::string& line) {
         std::filesystem::rename(file_, file_ + ".1", failed);
     }
     std::ofstream(file_, std::ios::app | std::ios::binary) << stamped;
+}
+
+BusLog::BusLog(RotatingLog& log) : log_(log) {
+    Core::TrvKernel::Instance()->SetObserver([this](Core::KernelNotice notice, const std::string& name) {
+        const std::string line = std::string("bus: ") + NoticeText(notice) + name;
+        if (told_.insert(line).second) {
+            log_.Write(line);
+        }
+    });
+}
+
+BusLog::~BusLog() {
+    Core::TrvKernel::Instance()->SetObserver({});
 }
 
 }  // namespace Tarvik::Client

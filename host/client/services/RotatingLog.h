@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <mutex>
+#include <set>
 #include <string>
 
 namespace Tarvik::Client {
@@ -20,6 +21,21 @@ class RotatingLog {
     std::size_t limit_;
     bool verbose_;
     std::mutex mutex_;
+};
+
+/// Tells the log what goes wrong on the bus while it lives, each thing once: a service that is missing is asked
+/// for at every key stroke.
+class BusLog {
+  public:
+    /// `log` outlives this.
+    explicit BusLog(RotatingLog& log);
+    ~BusLog();
+    BusLog(const BusLog&) = delete;
+    BusLog& operator=(const BusLog&) = delete;
+
+  private:
+    RotatingLog& log_;
+    std::set<std::string> told_;
 };
 
 }  // namespace Tarvik::Client

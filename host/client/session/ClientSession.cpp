@@ -6,11 +6,10 @@
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
-#include <tarvik/core/TrvKernel.h>
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/Log.h>
 
-#include "host/client/services/ProgramPath.h"
+#include "host/client/services/AppFolders.h"
 #include "host/client/session/EmbeddedLink.h"
 
 namespace Tarvik::Client {
@@ -20,24 +19,10 @@ namespace {
 constexpr std::size_t kLogBytes = 1024 * 1024;
 constexpr const char* kLocalUser = "local";
 
-const char* NoticeText(Core::KernelNotice notice) {
-    switch (notice) {
-        case Core::KernelNotice::NobodyOffers:
-            return "nobody offers the service ";
-        case Core::KernelNotice::BoundTwice:
-            return "bound twice: ";
-        case Core::KernelNotice::UnknownUnbind:
-            return "unbound without a binding: ";
-        case Core::KernelNotice::UnknownName:
-            return "unknown name: ";
-    }
-    return "";
-}
-
 }  // namespace
 
 ClientSession::ClientSession(const AppFolders& folders, const SessionOptions& options)
-    : folders_(folders), log_(folders.Data() + "/seaplan.log", kLogBytes, options.verbose) {}
+    : folders_(folders), log_(folders.Data() + "/seaplan.log", kLogBytes, options.verbose), busLog_(log_) {}
 
 std::unique_ptr<ClientSession> ClientSession::Open(const SessionOptions& options, std::string& error) {
     const AppFolders folders(ProgramFolder(), options.dataFolder);
@@ -53,19 +38,15 @@ std::unique_ptr<ClientSession> ClientSession::Open(const SessionOptions& options
 
 bool ClientSession::Start(const SessionOptions& options, std::string& error) {
     Util::SetLogSink([this](Util::LogLevel, const std::string& text) { log_.Write(text); });
-    WatchBus();
     Util::FileUtl::SetCurrentAppDirectory(folders_.Data());
     TakeOptions(options);
-    texts_.Load(folders_.Languages(), preferences_.language);
-    for (const std::string& line : texts_.Complaints()) {
+    tables_.LoadTexts(folders_.Languages(), preferences_.language);
+    for (const std::string& line : Texts().Complaints()) {
         log_.Write(line);
     }
-    Interface::LanguageSource::Set(&texts_);
-    if (!ReadPorts(folders_.BusinessData("trvdb.db"), ports_, error)) {
+    if (!tables_.LoadPorts(folders_.BusinessData("trvdb.db"), error)) {
         return false;
     }
-    dictionary_ = std::make_unique<PortDictionary>(ports_);
-    Interface::ValueDictionary::Set(dictionary_.get());
     link_ = MakeLink(preferences_.server, error);
     if (!link_) {
         return false;
@@ -112,16 +93,6 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
     return embedded;
 }
 
-void ClientSession::WatchBus() {
-    Core::TrvKernel::Instance()->SetObserver([this](Core::KernelNotice notice, const std::string& name) {
-        const std::string line = std::string("bus: ") + NoticeText(notice) + name;
-        // A service that is missing is asked for at every key stroke: said once, it is said.
-        if (toldOfBus_.insert(line).second) {
-            log_.Write(line);
-        }
-    });
-}
-
 void ClientSession::LoadPlugins() {
     loader_.LoadAll(PluginLoader::FindLibraries(folders_.Plugins()), Core::Version::Parse(kHostVersion));
     for (const LoadedPlugin& plugin : loader_.Plugins()) {
@@ -155,7 +126,7 @@ bool ClientSession::Prefer(const Preferences& preferences, std::string& error) {
     }
     preferences_ = preferences;
     if (before.language != preferences_.language) {
-        texts_.Load(folders_.Languages(), preferences_.language);
+        tables_.LoadTexts(folders_.Languages(), preferences_.language);
         Interface::Raise(Interface::Bus::SwitchLanguage);
     }
     if (before.timeZone != preferences_.timeZone) {
@@ -166,9 +137,6 @@ bool ClientSession::Prefer(const Preferences& preferences, std::string& error) {
 
 ClientSession::~ClientSession() {
     loader_.UnloadAll();
-    Interface::LanguageSource::Set(nullptr);
-    Interface::ValueDictionary::Set(nullptr);
-    Core::TrvKernel::Instance()->SetObserver({});
     Util::SetLogSink({});
 }
 

@@ -2,18 +2,16 @@
 #pragma once
 
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "host/client/plugins/PluginLoader.h"
 #include "host/client/services/AppFolders.h"
 #include "host/client/services/HostServices.h"
-#include "host/client/services/LanguageFiles.h"
-#include "host/client/services/PortDictionary.h"
+#include "host/client/services/HostTables.h"
 #include "host/client/services/Preferences.h"
 #include "host/client/services/RotatingLog.h"
-#include "host/client/services/SessionOptions.h"
+#include "host/client/services/CommandLine.h"
 #include "host/client/session/LoginLink.h"
 
 namespace Tarvik::Client {
@@ -35,9 +33,9 @@ class ClientSession {
     void LoadPlugins();
 
     const AppFolders& Folders() const { return folders_; }
-    const std::vector<Port>& Ports() const { return ports_; }
+    const std::vector<Port>& Ports() const { return tables_.Ports(); }
     const PluginLoader& Plugins() const { return loader_; }
-    const LanguageFiles& Texts() const { return texts_; }
+    const LanguageFiles& Texts() const { return tables_.Texts(); }
     const Preferences& Preferred() const { return preferences_; }
     HostServices& Services() { return *services_; }
     ServerLink& Link() { return *link_; }
@@ -53,7 +51,6 @@ class ClientSession {
   private:
     ClientSession(const AppFolders& folders, const SessionOptions& options);
     bool Start(const SessionOptions& options, std::string& error);
-    void WatchBus();
     void KeepUser(const std::string& user);
     void TakeOptions(const SessionOptions& options);
     std::unique_ptr<ServerLink> MakeLink(const std::string& server, std::string& error);
@@ -61,11 +58,9 @@ class ClientSession {
 
     AppFolders folders_;
     RotatingLog log_;
+    BusLog busLog_;
     Preferences preferences_;
-    LanguageFiles texts_;
-    std::vector<Port> ports_;
-    std::unique_ptr<PortDictionary> dictionary_;
-    std::set<std::string> toldOfBus_;
+    HostTables tables_;
     AskCredentials ask_;
     std::unique_ptr<ServerLink> link_;
     std::unique_ptr<HostServices> services_;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/session/EmbeddedLink.h"
 
-#include "host/client/services/DataFiles.h"
-#include "host/client/session/LateRouteSource.h"
+#include "host/client/services/AppFolders.h"
 
 namespace Tarvik::Client {
 

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "host/client/shell/MainWindow.h"
-#include "host/client/shell/QtMessageSink.h"
-#include "host/client/shell/QtTimerService.h"
+#include "host/client/shell/QtServices.h"
 
 namespace Tarvik::Client {
 

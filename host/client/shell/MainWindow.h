@@ -2,19 +2,13 @@
 #pragma once
 
 #include <QMainWindow>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include <tarvik/bus/Binding.h>
-#include <tarvik/bus/ChartContract.h>
-#include <tarvik/core/TObject.h>
-
 #include "host/client/session/ClientSession.h"
-
-class QAction;
-class QLabel;
+#include "host/client/shell/MainTools.h"
+#include "host/client/shell/StatusLine.h"
 
 namespace Tarvik::Client {
 
@@ -43,23 +37,12 @@ class MainWindow : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    /// One tool: its texts' key, icon, shortcut, the panel that it opens (0 for none) and what it does.
-    struct Tool {
-        const char* key;
-        const char* icon;
-        const char* shortcut;
-        int panel;
-        std::function<void()> run;
-        QAction* action = nullptr;
-    };
-
     /// Closes the panels, the last made before the others. False when one stays, since a person wants to keep
     /// what is not saved.
     bool ClosePanels();
     void LogOut();
     void AttachChart();
-    void BuildTools();
-    void BuildStatusLine();
+    std::vector<MainTools::Tool> Tools();
     void ApplyTexts();
     void ApplyTheme();
     void ShowConnection();
@@ -70,17 +53,10 @@ class MainWindow : public QMainWindow {
     void OpenPreferences();
     void Prefer(const Preferences& preferences);
     QString Word(const char* key) const;
-    void OnCursor(const Interface::ChartPlace& place);
 
     ClientSession& session_;
-    Core::TObject busOwner_;
-    Interface::Binding cursorMoves_;
-    std::vector<Tool> tools_;
-    QLabel* user_ = nullptr;
-    QLabel* connection_ = nullptr;
-    QLabel* cursor_ = nullptr;
-    QLabel* zone_ = nullptr;
-    bool cursorKnown_ = false;
+    MainTools tools_;
+    StatusLine status_;
 };
 
 }  // namespace Tarvik::Client

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/PlanRun.h"
+#include "host/client/shell/Runs.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -8,9 +8,9 @@
 #include <optional>
 
 #include "host/client/plan/PlanCommand.h"
+#include "host/client/plan/PlanFormats.h"
 #include "host/client/shell/Desk.h"
-#include "host/client/shell/QtLog.h"
-#include "host/client/shell/WindowPicture.h"
+#include "host/client/shell/QtServices.h"
 
 namespace Tarvik::Client {
 

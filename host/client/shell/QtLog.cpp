@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/QtLog.h"
+#include "host/client/shell/QtServices.h"
 
 #include <QString>
 #include <QtGlobal>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/QtMessageSink.h"
+#include "host/client/shell/QtServices.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/QtTimerService.h"
+#include "host/client/shell/QtServices.h"
 
 #include <QTimerEvent>
 #include <utility>

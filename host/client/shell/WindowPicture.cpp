@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/WindowPicture.h"
+#include "host/client/shell/Runs.h"
 
 #include <QApplication>
 #include <QEventLoop>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/WindowRun.h"
+#include "host/client/shell/Runs.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -8,8 +8,7 @@
 
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/shell/Desk.h"
-#include "host/client/shell/QtLog.h"
-#include "host/client/shell/WindowPicture.h"
+#include "host/client/shell/QtServices.h"
 
 namespace Tarvik::Client {
 

@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 
 #include "host/client/services/AppFolders.h"
-#include "host/client/services/DataFiles.h"
 #include "host/client/tests/PortDatabase.h"
 #include "host/client/tests/TemporaryFolder.h"
 

@@ -8,8 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/client/shell/QtMessageSink.h"
-#include "host/client/shell/QtTimerService.h"
+#include "host/client/shell/QtServices.h"
 
 namespace Tarvik::Client {
 

@@ -5,6 +5,7 @@
 #include <tarvik/core/TrvKernel.h>
 
 #include "host/client/plan/PlanCommand.h"
+#include "host/client/plan/PlanFormats.h"
 #include "host/client/tests/SamplePlan.h"
 
 namespace Tarvik::Client {

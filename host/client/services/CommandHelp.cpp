@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/plan/PlanHelp.h"
+#include "host/client/services/CommandLine.h"
 
 namespace Tarvik::Client {
 

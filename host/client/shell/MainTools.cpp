@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/shell/MainTools.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QToolBar>
+#include <string>
+#include <utility>
+
+#include <tarvik/skin/Icons.h>
+
+namespace Tarvik::Client {
+
+MainTools::MainTools(QMainWindow& window, std::vector<Tool> tools)
+    : bar_(window.addToolBar("tools")), tools_(std::move(tools)) {
+    bar_->setObjectName("mainToolBar");
+    bar_->setMovable(false);
+    bar_->setIconSize(QSize(20, 20));
+    bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar_->setContextMenuPolicy(Qt::PreventContextMenu);
+    for (Tool& tool : tools_) {
+        tool.action = bar_->addAction(QString());
+        tool.action->setObjectName(QString("action_") + tool.icon);
+        tool.action->setShortcut(QKeySequence(tool.shortcut));
+        QObject::connect(tool.action, &QAction::triggered, &window, tool.run);
+        QWidget* button = bar_->widgetForAction(tool.action);
+        button->setObjectName(QString("button_") + tool.icon);
+        button->setFocusPolicy(Qt::TabFocus);
+        if (tool.endsGroup) {
+            bar_->addSeparator();
+        }
+    }
+}
+
+void MainTools::ApplyTexts(const Words& word) {
+    bar_->setAccessibleName(word("TOOLBAR_NAME"));
+    for (const Tool& tool : tools_) {
+        const QString tip = word((std::string(tool.key) + "_TIP").c_str());
+        tool.action->setText(word(tool.key));
+        tool.action->setToolTip(tip);
+        tool.action->setStatusTip(QString());
+        QWidget* button = bar_->widgetForAction(tool.action);
+        button->setAccessibleName(word(tool.key));
+        button->setAccessibleDescription(tip);
+    }
+}
+
+void MainTools::ApplyIcons() {
+    for (const Tool& tool : tools_) {
+        tool.action->setIcon(Skin::MakeIcon(std::string(":/tarvik/icons/") + tool.icon + ".svg", {20, 40}));
+    }
+}
+
+QAction* MainTools::Action(const char* key) const {
+    for (const Tool& tool : tools_) {
+        if (std::string(tool.key) == key) {
+            return tool.action;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace Tarvik::Client

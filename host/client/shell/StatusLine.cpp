@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/shell/StatusLine.h"
+
+#include <QStatusBar>
+#include <utility>
+
+#include "host/geo/GeoPoint.h"
+
+namespace Tarvik::Client {
+
+namespace {
+
+QLabel* MakeLabel(QStatusBar& line, const char* name) {
+    auto* label = new QLabel(&line);
+    label->setObjectName(name);
+    return label;
+}
+
+}  // namespace
+
+StatusLine::StatusLine(QStatusBar& line, ClientSession& session)
+    : session_(session),
+      user_(MakeLabel(line, "user")),
+      connection_(MakeLabel(line, "connection")),
+      cursor_(MakeLabel(line, "cursorPosition")),
+      zone_(MakeLabel(line, "timeZone")) {
+    line.setObjectName("statusLine");
+    line.setSizeGripEnabled(false);
+    cursor_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    line.addWidget(user_);
+    line.addWidget(connection_);
+    line.addPermanentWidget(cursor_);
+    line.addPermanentWidget(zone_);
+    bindings_.Keep(Interface::Subscribe(Interface::Bus::ChartCursor,
+                                        [this](const Interface::ChartPlace& place) { ShowCursor(place); }));
+    bindings_.Keep(Interface::Subscribe(Interface::Bus::SwitchTimeZone,
+                                        [this](const std::string* zone) { ShowZone(zone); }));
+}
+
+QString StatusLine::Word(const char* key) const {
+    return QString::fromStdString(session_.Texts().Text("Client", key));
+}
+
+void StatusLine::ApplyTexts() {
+    ShowConnection();
+    ShowZone(nullptr);
+    if (!cursorKnown_) {
+        cursor_->setText(Word("NO_POSITION"));
+    }
+    const std::pair<QLabel*, const char*> labels[] = {{user_, "USER_NAME"},
+                                                      {connection_, "CONNECTION_NAME"},
+                                                      {cursor_, "CURSOR_NAME"},
+                                                      {zone_, "ZONE_NAME"}};
+    for (const auto& [shown, key] : labels) {
+        shown->setAccessibleName(Word(key));
+        shown->setToolTip(Word(key));
+    }
+}
+
+void StatusLine::ShowConnection() {
+    const QString user = QString::fromStdString(session_.Services().User());
+    user_->setText(!session_.IsRemote() ? Word("LOCAL_USER") : user.isEmpty() ? Word("NOBODY") : user);
+    connection_->setText(Word(session_.Link().IsConnected() ? "CONNECTED" : "OFFLINE"));
+}
+
+void StatusLine::ShowCursor(const Interface::ChartPlace& place) {
+    cursorKnown_ = true;
+    cursor_->setText(QString::fromStdString(Server::FormatPosition({place.longitude, place.latitude})));
+}
+
+void StatusLine::ShowZone(const std::string* zone) {
+    zone_->setText(QString::fromStdString(zone ? *zone : session_.Services().TimeZone()));
+}
+
+}  // namespace Tarvik::Client

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/HostContract.h>
+
+#include "host/client/session/ClientSession.h"
+
+class QStatusBar;
+
+namespace Tarvik::Client {
+
+/// The line below the chart: user, connection, place under the pointer, zone of the times on show.
+class StatusLine {
+  public:
+    /// Fills `line`, which outlives this.
+    StatusLine(QStatusBar& line, ClientSession& session);
+
+    void ApplyTexts();
+    /// User and connection as they are now.
+    void ShowConnection();
+
+  private:
+    QString Word(const char* key) const;
+    void ShowCursor(const Interface::ChartPlace& place);
+    void ShowZone(const std::string* zone);
+
+    ClientSession& session_;
+    QLabel* user_;
+    QLabel* connection_;
+    QLabel* cursor_;
+    QLabel* zone_;
+    bool cursorKnown_ = false;
+    Interface::BindingList bindings_;
+};
+
+}  // namespace Tarvik::Client
