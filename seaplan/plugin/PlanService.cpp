@@ -143,10 +143,8 @@ int PlanService::Calculate(const PortCallRows& rows) {
     if (const int code = voyages_->CalculatePortCalls(rows, scheduled); code < 0) {
         return Fail(Interface::PlanNotCalculated, WordsOfCalculation(code));
     }
-    // A schedule pass makes the first port one of loading and drops the ids; a person may change the purpose
-    // afterwards, and the answer tells both.
+    // A schedule pass makes the first port one of loading; a person may change the purpose afterwards.
     scheduled.front().pp = rows.front().pp;
-    voyages_->ResolvePortIds(scheduled);
     return 0;
 }
 
