@@ -15,6 +15,7 @@ class CalendarModel {
     enum class CellLook { OutsideMonth, InMonth, Today };
 
     explicit CalendarModel(bool dateOnly = false) : dateOnly_(dateOnly) {}
+    bool IsDateOnly() const { return dateOnly_; }
 
     /// Takes a value and shows its month.
     void SetValue(const Util::_datetime_t& value);
