@@ -22,7 +22,8 @@ CellEditing::CellEditing(PortCallDesk& desk)
       port_(kMostCharacters),
       speed_(kMostCharacters),
       weather_(kMostCharacters),
-      matching_(desk, port_) {}
+      matching_(desk, port_),
+      picker_(desk.Cells().Picker(), [this](const Util::_datetime_t&) { OnTimeChosen(picker_.Text()); }) {}
 
 TextField& CellEditing::Box(CellEditor editor) {
     return editor == CellEditor::Port ? port_ : editor == CellEditor::Speed ? speed_ : weather_;
@@ -108,7 +109,9 @@ void CellEditing::OpenPicker(int row, int column) {
     dateRow_ = row;
     dateColumn_ = column;
     desk_.Show();
-    desk_.Cells().OpenPicker(row, column, *time);
+    desk_.Cells().PutPicker(row, column);
+    picker_.SetValue(*time);
+    picker_.OnPressed();
 }
 
 void CellEditing::Commit(CellEditor editor) {
@@ -136,7 +139,7 @@ void CellEditing::ClosePopups() {
     matching_.Hide();
     purposes_.Close();
     desk_.Cells().HidePurposes();
-    desk_.Cells().HidePicker();
+    picker_.Hide();
 }
 
 void CellEditing::HideEditors() {

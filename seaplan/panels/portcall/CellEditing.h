@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "seaplan/panels/datetime/CTrvCalDlg.h"
 #include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/editors/ListBox.h"
 #include "seaplan/panels/editors/TextField.h"
@@ -44,6 +45,8 @@ class CellEditing {
     void CommitEditors();
     /// Closes all and drops what is typed.
     void HideEditors();
+    /// The date over a cell of the times.
+    CTrvDateTimeCtrl& Picker() { return picker_; }
 
   private:
     TextField& Box(CellEditor editor);
@@ -64,6 +67,7 @@ class CellEditing {
     TextField weather_;
     PortMatching matching_;
     ListBox purposes_;
+    CTrvDateTimeCtrl picker_;
     int dateRow_ = -1;
     int dateColumn_ = ColEta;
 };

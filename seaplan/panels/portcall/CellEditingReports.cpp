@@ -140,7 +140,7 @@ void CellEditing::OnPurposeChosen(int index) {
 void CellEditing::OnTimeChosen(const std::string& text) {
     const PortCallDesk::Report report(desk_);
     edits_.SetTime(dateRow_, dateColumn_, text);
-    desk_.Cells().HidePicker();
+    picker_.Hide();
 }
 
 }  // namespace Tarvik::Seaplan

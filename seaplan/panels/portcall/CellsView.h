@@ -5,9 +5,8 @@
 #include <string>
 #include <vector>
 
-#include <tarvik/util/DateTime.h>
-
 #include "seaplan/calculation/PortCallColumns.h"
+#include "seaplan/panels/datetime/CalendarView.h"
 
 namespace Tarvik::Seaplan {
 
@@ -53,8 +52,9 @@ class CellsView {
     /// The list of purposes below a row's cell, one of them in front.
     virtual void OpenPurposes(int row, const std::vector<std::string>& texts, int current) = 0;
     virtual void HidePurposes() = 0;
-    virtual void OpenPicker(int row, int column, const Util::_datetime_t& time) = 0;
-    virtual void HidePicker() = 0;
+    /// Makes a cell the button of the date that is picked there.
+    virtual void PutPicker(int row, int column) = 0;
+    virtual DateTimeView& Picker() = 0;
 };
 
 }  // namespace Tarvik::Seaplan

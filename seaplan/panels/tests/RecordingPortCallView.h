@@ -12,7 +12,10 @@
 namespace Tarvik::Seaplan {
 
 /// A port call window that only remembers what it was told.
-class RecordingPortCallView final : public PortCallView, public CellsView {
+class RecordingPortCallView final : public PortCallView,
+                                    public CellsView,
+                                    public DateTimeView,
+                                    public CalendarView {
   public:
     PortCallTable table;
     PortCallState state;
@@ -35,6 +38,7 @@ class RecordingPortCallView final : public PortCallView, public CellsView {
     int purposeRow = -1;
     std::vector<std::string> purposes;
     std::string pickerTime;  ///< empty while the picker is closed
+    std::string pickerText;  ///< of the picker's button
     std::string help;
     std::vector<std::string> visibility;  ///< "show" and "hide" in order
 
@@ -91,8 +95,15 @@ class RecordingPortCallView final : public PortCallView, public CellsView {
         purposes = texts;
     }
     void HidePurposes() override { purposeRow = -1; }
-    void OpenPicker(int, int, const Util::_datetime_t& time) override { pickerTime = time.fmt(kTimeFormat); }
-    void HidePicker() override { pickerTime.clear(); }
+    void PutPicker(int, int) override {}
+    DateTimeView& Picker() override { return *this; }
+    void ShowText(const std::string& text) override { pickerText = text; }
+    Rect PlaceOnScreen() const override { return {}; }
+    CalendarView& Calendar() override { return *this; }
+    void ShowState(const CalendarState&) override {}
+    void FillEdit(const std::string&) override {}
+    void Open(Point) override { pickerTime = pickerText; }
+    void Close() override { pickerTime.clear(); }
     void RequestHelp(const std::string& topic) override { help = topic; }
     void* Handle() const override { return const_cast<RecordingPortCallView*>(this); }
 };

@@ -3,66 +3,71 @@
 
 #include <QFrame>
 #include <QLabel>
-#include <QLayout>
-#include <QLineEdit>
-#include <QToolButton>
+#include <QPushButton>
 #include <array>
-#include <functional>
 
-#include "seaplan/panels/datetime/CalendarModel.h"
-
-class QPushButton;
+#include "seaplan/views/datetime/DayGrid.h"
+#include "seaplan/views/datetime/TimeField.h"
 
 namespace Tarvik::Seaplan {
 
-/// The calendar that drops from a date: month grid, hour and minute, OK and Cancel. A press outside hides it
-/// and leaves the value.
-class CalendarPopup final : public QFrame {
+/// The calendar that drops from a date: month grid, hour and minute, OK and Cancel. The window system closes
+/// it at Escape and at a press outside.
+class CalendarPopup final : public QFrame, public CalendarView {
   public:
     explicit CalendarPopup(QWidget* parent);
-    /// Called with the new value when OK has changed it.
-    void SetChosen(std::function<void(const Util::_datetime_t&)> chosen) { chosen_ = std::move(chosen); }
-    void SetValue(const Util::_datetime_t& value);
+    /// What is done goes to this panel, which outlives the popup's use.
+    void Attach(CTrvCalDlg* panel);
+    /// Captions and hints in the language in force.
     void ApplyTexts();
     void ApplySkin();
+
+    void ShowState(const CalendarState& state) override;
+    void FillEdit(const std::string& text) override;
+    void Open(Point corner) override;
+    void Close() override { hide(); }
 
   protected:
     /// A press beside hour and minute ends their typing.
     void mousePressEvent(QMouseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
   private:
-    /// Hour or minute: a text that turns into an editor with two arrows at a click.
-    struct TimeField {
-        QToolButton* shown = nullptr;
-        QLineEdit* edit = nullptr;
-        QToolButton* minus = nullptr;
-        QToolButton* plus = nullptr;
-    };
     QLayout* MakeHead();
-    QLayout* MakeDays();
     QLayout* MakeTime();
     QLayout* MakeButtons();
-    QToolButton* Button(const char* name, const QString& text, std::function<void()> action);
-    TimeField MakeTimeField(const char* name, bool hour);
-    void BeginTyping(TimeField& field);
-    void EndTyping(TimeField& field, bool hour);
-    void Step(TimeField& field, bool hour, int by);
-    void Accept();
-    void ShowModel();
 
-    CalendarModel model_;
-    std::function<void(const Util::_datetime_t&)> chosen_;
-    QToolButton* previousYear_;
-    QToolButton* nextYear_;
-    QToolButton* previousMonth_;
-    QToolButton* nextMonth_;
+    CTrvCalDlg* panel_ = nullptr;
+    std::array<QToolButton*, 4> steps_{};  ///< year and month back, month and year on
     QLabel* heading_;
-    std::array<QToolButton*, CalendarModel::kCells> cells_{};
-    TimeField hour_;
-    TimeField minute_;
+    DayGrid* days_;
+    TimeField* hour_;
+    TimeField* minute_;
+    QLabel* colon_;
     QPushButton* ok_;
     QPushButton* cancel_;
+    bool typingHour_ = true;
+};
+
+/// The cell of a table as the button of a date: it shows the text by itself, and the calendar tells it to
+/// those who cannot see.
+class DateCell final : public DateTimeView {
+  public:
+    /// `surface` is what cells are counted on, `window` owns the calendar.
+    DateCell(QWidget& surface, QWidget& window);
+    /// The cell that is the button from now on.
+    void Put(const QRect& cell) { cell_ = cell; }
+    CalendarPopup& Popup() { return *calendar_; }
+    const CalendarPopup& Popup() const { return *calendar_; }
+
+    void ShowText(const std::string& text) override;
+    Rect PlaceOnScreen() const override;
+    CalendarView& Calendar() override { return *calendar_; }
+
+  private:
+    QWidget& surface_;
+    CalendarPopup* calendar_;
+    QRect cell_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -42,7 +42,7 @@ PortCallEditors::PortCallEditors(QWidget& window, PortCallTableView& table)
       table_(table),
       matches_(MakeList("portMatches")),
       purposes_(MakeList("purposeList")),
-      calendar_(new CalendarPopup(&window)) {
+      date_(*table.viewport(), window) {
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         fields_[i] = new QLineEdit(table.viewport());
         fields_[i]->setObjectName(QString::fromLatin1(kNames[i]));
@@ -78,8 +78,7 @@ void PortCallEditors::Attach(CellEditing* panel) {
                      [this](QListWidgetItem* item) { panel_->OnMatchPressed(matches_->row(item)); });
     QObject::connect(purposes_, &QListWidget::itemClicked, this,
                      [this](QListWidgetItem* item) { panel_->OnPurposeChosen(purposes_->row(item)); });
-    calendar_->SetChosen(
-        [this](const Util::_datetime_t& time) { panel_->OnTimeChosen(time.fmt(kTimeFormat)); });
+    date_.Popup().Attach(&panel_->Picker().Calendar());
 }
 
 void PortCallEditors::ApplyTexts() {
@@ -88,7 +87,7 @@ void PortCallEditors::ApplyTexts() {
     Skin::Describe(Field(CellEditor::Weather), ViewText(TextId::IDS_VIEW_WEATHEREDITOR));
     Skin::Describe(purposes_, ViewText(TextId::IDS_VIEW_PURPOSES));
     Skin::Describe(matches_, ViewText(TextId::IDS_VIEW_RENAMEHINT));
-    calendar_->ApplyTexts();
+    date_.Popup().ApplyTexts();
 }
 
 bool PortCallEditors::PortFieldHasFocus() const {
@@ -96,7 +95,7 @@ bool PortCallEditors::PortFieldHasFocus() const {
 }
 
 bool PortCallEditors::Holds(const QWidget& widget) const {
-    const QWidget* const parts[] = {&table_, matches_, purposes_, calendar_, matchWindow_.data()};
+    const QWidget* const parts[] = {&table_, matches_, purposes_, &date_.Popup(), matchWindow_.data()};
     return std::any_of(std::begin(parts), std::end(parts), [&widget](const QWidget* part) {
         return part != nullptr && (part == &widget || part->isAncestorOf(&widget));
     });
@@ -192,12 +191,8 @@ void PortCallEditors::HidePurposes() {
     }
 }
 
-void PortCallEditors::OpenPicker(int row, int column, const Util::_datetime_t& time) {
-    const QRect cell = table_.EditorRect(row, column);
-    calendar_->SetValue(time);
-    calendar_->adjustSize();
-    calendar_->move(table_.viewport()->mapToGlobal(cell.topLeft() + QPoint(-10, 25)));
-    calendar_->show();
+void PortCallEditors::PutPicker(int row, int column) {
+    date_.Put(table_.EditorRect(row, column));
 }
 
 bool PortCallEditors::FieldEvent(CellEditor editor, QEvent& event) {

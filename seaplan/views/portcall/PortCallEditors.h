@@ -24,7 +24,7 @@ class PortCallEditors final : public QObject, public CellsView {
     PortCallEditors(QWidget& window, PortCallTableView& table);
     void Attach(CellEditing* panel);
     void ApplyTexts();
-    void ApplySkin() { calendar_->ApplySkin(); }
+    void ApplySkin() { date_.Popup().ApplySkin(); }
     bool PortFieldHasFocus() const;
     /// Whether a widget is the table or one of these.
     bool Holds(const QWidget& widget) const;
@@ -40,8 +40,8 @@ class PortCallEditors final : public QObject, public CellsView {
     void HideMatchWindow(void* window) override;
     void OpenPurposes(int row, const std::vector<std::string>& texts, int current) override;
     void HidePurposes() override;
-    void OpenPicker(int row, int column, const Util::_datetime_t& time) override;
-    void HidePicker() override { calendar_->hide(); }
+    void PutPicker(int row, int column) override;
+    DateTimeView& Picker() override { return date_; }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -60,7 +60,7 @@ class PortCallEditors final : public QObject, public CellsView {
     QListWidget* matches_;
     QListWidget* purposes_;
     QPointer<QWidget> matchWindow_;  ///< a search plug-in's, while it is shown
-    CalendarPopup* calendar_;
+    DateCell date_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -19,11 +19,12 @@ class CalendarPopupTest : public ::testing::Test {
     TestSupport::ManualClock clock;
     CalendarPopup calendar{nullptr};
     std::vector<Util::_datetime_t> chosen;
+    CTrvCalDlg panel{calendar, [this](const Util::_datetime_t& value) { chosen.push_back(value); }};
 
     CalendarPopupTest() {
-        calendar.SetChosen([this](const Util::_datetime_t& value) { chosen.push_back(value); });
-        calendar.SetValue(Util::_datetime_t(42, 30, 8, 15, 3, 2024));
-        calendar.show();
+        calendar.Attach(&panel);
+        panel.SetValue(Util::_datetime_t(42, 30, 8, 15, 3, 2024));
+        panel.Open({50, 60});
     }
     QAbstractButton* Button(const char* name) { return calendar.findChild<QAbstractButton*>(name); }
     QLineEdit* Edit(const char* name) { return calendar.findChild<QLineEdit*>(name); }
@@ -50,10 +51,22 @@ TEST_F(CalendarPopupTest, CancelAndEscapeLeaveTheValue) {
     Click("day25");
     Click("calendarCancel");
     EXPECT_FALSE(calendar.isVisible());
-    calendar.show();
+    panel.Open({50, 60});
     QTest::keyClick(&calendar, Qt::Key_Escape);
     EXPECT_FALSE(calendar.isVisible());
     EXPECT_TRUE(chosen.empty());
+    EXPECT_FALSE(panel.IsVisible()) << "the panel knows that it was closed";
+}
+
+TEST_F(CalendarPopupTest, ADateOnlyCalendarHasNoTimeAndTakesADayAtOnce) {
+    panel.Setup(true, Util::_datetime_t(42, 30, 8, 15, 3, 2024));
+    for (const char* name : {"hourShown", "hourEdit", "minuteShown", "calendarOk", "calendarCancel"}) {
+        EXPECT_FALSE(calendar.findChild<QWidget*>(name)->isVisible()) << name;
+    }
+    Click("day25");
+    ASSERT_EQ(chosen.size(), 1U);
+    EXPECT_EQ(chosen[0], Util::_datetime_t(0, 0, 0, 21, 3, 2024));
+    EXPECT_FALSE(calendar.isVisible());
 }
 
 TEST_F(CalendarPopupTest, TheHourIsTypedAndSteppedInPlace) {

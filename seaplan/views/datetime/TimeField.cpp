@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/datetime/TimeField.h"
+
+#include <QKeyEvent>
+
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/views/window/ViewText.h"
+
+namespace Tarvik::Seaplan {
+
+TimeField::TimeField(QWidget* calendar, QBoxLayout* row, const char* name, TimePart part)
+    : QObject(calendar), part_(part) {
+    const QString base = QString::fromLatin1(name);
+    shown_ = MakeButton(calendar, base + QStringLiteral("Shown"), "");
+    minus_ = MakeButton(calendar, base + QStringLiteral("Minus"), "-");
+    plus_ = MakeButton(calendar, base + QStringLiteral("Plus"), "+");
+    edit_ = new QLineEdit(calendar);
+    edit_->setObjectName(base + QStringLiteral("Edit"));
+    edit_->setMaxLength(2);
+    edit_->setFixedWidth(28);
+    edit_->installEventFilter(this);
+    for (QWidget* widget : std::initializer_list<QWidget*>{minus_, shown_, edit_, plus_}) {
+        row->addWidget(widget);
+    }
+    Show({}, true, false);
+    connect(shown_, &QToolButton::clicked, this, [this] { panel_->OnTimePressed(part_); });
+    connect(minus_, &QToolButton::clicked, this, [this] { panel_->OnStep(-1); });
+    connect(plus_, &QToolButton::clicked, this, [this] { panel_->OnStep(1); });
+    connect(edit_, &QLineEdit::textEdited, this,
+            [this](const QString& text) { panel_->OnTyped(text.toStdString()); });
+}
+
+QToolButton* TimeField::MakeButton(QWidget* calendar, const QString& name, const char* label) {
+    auto* button = new QToolButton(calendar);
+    button->setObjectName(name);
+    button->setText(QString::fromLatin1(label));
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+void TimeField::Show(const std::string& text, bool offered, bool typing) {
+    shown_->setText(QString::fromStdString(text));
+    shown_->setVisible(offered && !typing);
+    for (QWidget* widget : std::initializer_list<QWidget*>{minus_, edit_, plus_}) {
+        widget->setVisible(offered && typing);
+    }
+}
+
+void TimeField::FillEdit(const std::string& text) {
+    edit_->setText(QString::fromStdString(text));
+    edit_->selectAll();
+    edit_->setFocus();
+}
+
+void TimeField::ApplyTexts(TextId part, TextId minus, TextId plus) {
+    Skin::Describe(shown_, ViewText(part));
+    Skin::Describe(edit_, ViewText(part));
+    Skin::Describe(minus_, ViewText(minus));
+    Skin::Describe(plus_, ViewText(plus));
+}
+
+bool TimeField::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == edit_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            panel_->OnTypingDone();
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace Tarvik::Seaplan
