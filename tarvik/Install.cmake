@@ -2,8 +2,8 @@
 # The SDK as others find it: find_package(tarvik CONFIG), targets tarvik::tarvik and tarvik::skin.
 include(CMakePackageConfigHelpers)
 
-set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS include/tarvik/Version.h)
-file(STRINGS include/tarvik/Version.h version_line REGEX "kSdkVersion =")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS include/tarvik/core/Exports.h)
+file(STRINGS include/tarvik/core/Exports.h version_line REGEX "kHostVersion =")
 string(REGEX MATCH "[0-9]+\\.[0-9]+\\.[0-9]+" version "${version_line}")
 string(REGEX MATCH "^[0-9]+" generation "${version}")
 
@@ -27,4 +27,5 @@ configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/tarvikConfig.cmake.in 
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/tarvikConfigVersion.cmake VERSION ${version}
   COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tarvikConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/tarvikConfigVersion.cmake
+  ${PROJECT_SOURCE_DIR}/cmake/PluginExports.cmake
   DESTINATION ${SEAPLAN_PACKAGE_DIR} COMPONENT sdk)

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/core/Exports.h>
 #include <tarvik/core/TrvKernel.h>
 
 #include "seaplan/plugin/CompositionRoot.h"
 #include "seaplan/plugin/MainViewFactory.h"
 #include "seaplan/plugin/PluginRecord.h"
 
-/// What the host finds in the library. None of these fails, and nothing depends on their order but `Load`
-/// coming before use.
-extern "C" {
+// None of these fails, and nothing depends on their order but `Load` coming before use.
 
-/// The host is not to see an exception: what was offered before it stays in use.
-__attribute__((visibility("default"))) bool Load() {
+// The host is not to see an exception: what was offered before it stays in use.
+TARVIK_EXPORT bool Load() {
     try {
         Tarvik::Seaplan::CompositionRoot::Instance().OfferServices();
         Tarvik::Seaplan::CreateMainView();
@@ -20,23 +19,21 @@ __attribute__((visibility("default"))) bool Load() {
     return true;
 }
 
-/// Bindings and objects live until the process ends.
-__attribute__((visibility("default"))) bool UnLoad() {
+// Bindings and objects live until the process ends.
+TARVIK_EXPORT bool UnLoad() {
     return true;
 }
 
-__attribute__((visibility("default"))) Tarvik::Plugin::CPluginInfo* PluginInfo() {
+TARVIK_EXPORT Tarvik::Plugin::CPluginInfo* PluginInfo() {
     return Tarvik::Seaplan::PluginRecord();
 }
 
-__attribute__((visibility("default"))) void InitPlugin() {}
+TARVIK_EXPORT void InitPlugin() {}
 
-__attribute__((visibility("default"))) void SuiteLoaded() {}
+TARVIK_EXPORT void SuiteLoaded() {}
 
-/// Touching the kernel makes it exist.
-__attribute__((visibility("default"))) bool CheckEnvironment() {
+// Touching the kernel makes it exist.
+TARVIK_EXPORT bool CheckEnvironment() {
     Tarvik::Core::TrvKernel::Instance();
     return true;
 }
-
-}  // extern "C"

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
-#include <tarvik/core/PluginInfo.h>
+#include <tarvik/core/Exports.h>
 
 namespace {
 

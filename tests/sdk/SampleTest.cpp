@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <tarvik/core/Exports.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
@@ -56,7 +57,7 @@ TEST_F(InstalledSdk, TheSamplesServiceAnswersAndItsPanelOpensAndCloses) {
     char* argv[] = {name, nullptr};
     const QApplication application(argc, argv);
     Client::PluginLoader loader;
-    loader.LoadAll({Tree().Plugins() + "/libanchor.so"}, Core::Version::Parse(Client::kHostVersion));
+    loader.LoadAll({Tree().Plugins() + "/libanchor.so"}, Core::Version::Parse(Plugin::kHostVersion));
     ASSERT_THAT(loader.Complaints(), testing::IsEmpty());
     ASSERT_TRUE(loader.IsRunning("PlgAnchor"));
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <map>
 
+#include <tarvik/core/Exports.h>
+
 namespace Tarvik::Client {
 
 namespace {
@@ -68,7 +70,7 @@ class Resolver {
 
     /// Places what is needed; the reason why it cannot be had, empty when it can.
     std::string Meet(const Plugin::PluginDependency& need) {
-        if (need.name == kHostName) {
+        if (need.name == Plugin::kHostName) {
             return host_.AtLeast(need.version) ? "" : TooOld(need, host_);
         }
         const auto found = byName_.find(need.name);

@@ -5,15 +5,9 @@
 #include <string>
 #include <vector>
 
-#include <tarvik/Version.h>
 #include <tarvik/core/PluginInfo.h>
 
 namespace Tarvik::Client {
-
-/// Name by which a plug-in's dependency text asks for the host itself.
-inline constexpr const char* kHostName = "TRV";
-/// The host's version as plug-ins see it.
-inline constexpr const char* kHostVersion = kSdkVersion;
 
 /// What the host knows of a plug-in before it is loaded.
 struct PluginRecord {

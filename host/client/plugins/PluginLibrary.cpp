@@ -25,12 +25,12 @@ bool Guarded(const char* what, std::string& error, Function call) {
 
 }  // namespace
 
-void* PluginLibrary::Symbol(const char* name, std::string& error) const {
-    void* found = dlsym(handle_, name);
+template <class Function>
+void PluginLibrary::Find(const char* name, Function*& found, std::string& error) const {
+    found = reinterpret_cast<Function*>(dlsym(handle_, name));
     if (!found && error.empty()) {
         error = std::string("the export ") + name + " is missing";
     }
-    return found;
 }
 
 bool PluginLibrary::Open(const std::string& file, std::string& error) {
@@ -44,12 +44,12 @@ bool PluginLibrary::Open(const std::string& file, std::string& error) {
         error = std::string("cannot be opened as a library: ") + (text ? text : file.c_str());
         return false;
     }
-    load_ = reinterpret_cast<bool (*)()>(Symbol("Load", error));
-    unLoad_ = reinterpret_cast<bool (*)()>(Symbol("UnLoad", error));
-    info_ = reinterpret_cast<Plugin::CPluginInfo* (*)()>(Symbol("PluginInfo", error));
-    init_ = reinterpret_cast<void (*)()>(Symbol("InitPlugin", error));
-    suiteLoaded_ = reinterpret_cast<void (*)()>(Symbol("SuiteLoaded", error));
-    checkEnvironment_ = reinterpret_cast<bool (*)()>(Symbol("CheckEnvironment", error));
+    Find("Load", load_, error);
+    Find("UnLoad", unLoad_, error);
+    Find("PluginInfo", info_, error);
+    Find("InitPlugin", init_, error);
+    Find("SuiteLoaded", suiteLoaded_, error);
+    Find("CheckEnvironment", checkEnvironment_, error);
     return error.empty();
 }
 

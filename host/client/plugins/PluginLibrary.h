@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include <tarvik/core/PluginInfo.h>
+#include <tarvik/core/Exports.h>
 
 namespace Tarvik::Client {
 
@@ -32,15 +32,16 @@ class PluginLibrary {
     static const char* Suffix();
 
   private:
-    void* Symbol(const char* name, std::string& error) const;
+    template <class Function>
+    void Find(const char* name, Function*& found, std::string& error) const;
 
     void* handle_ = nullptr;
-    bool (*load_)() = nullptr;
-    bool (*unLoad_)() = nullptr;
-    Plugin::CPluginInfo* (*info_)() = nullptr;
-    void (*init_)() = nullptr;
-    void (*suiteLoaded_)() = nullptr;
-    bool (*checkEnvironment_)() = nullptr;
+    decltype(&::PluginInfo) info_ = nullptr;
+    decltype(&::CheckEnvironment) checkEnvironment_ = nullptr;
+    decltype(&::Load) load_ = nullptr;
+    decltype(&::InitPlugin) init_ = nullptr;
+    decltype(&::SuiteLoaded) suiteLoaded_ = nullptr;
+    decltype(&::UnLoad) unLoad_ = nullptr;
 };
 
 }  // namespace Tarvik::Client

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include <tarvik/core/Exports.h>
+
 namespace fs = std::filesystem;
 
 namespace Tarvik::Client {
@@ -51,7 +53,7 @@ void PluginLoader::Read(const std::string& file) {
 
 std::string PluginLoader::MissingNeed(const LoadedPlugin& plugin) const {
     const auto there = [&](const std::string& name) {
-        return name == kHostName || std::any_of(loaded_.begin(), loaded_.end(), [&](std::size_t i) {
+        return name == Plugin::kHostName || std::any_of(loaded_.begin(), loaded_.end(), [&](std::size_t i) {
                    return plugins_[i].record.name == name && plugins_[i].state != PluginState::Failed;
                });
     };

@@ -6,6 +6,7 @@
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
+#include <tarvik/core/Exports.h>
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/Log.h>
 
@@ -94,7 +95,8 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
 }
 
 void ClientSession::LoadPlugins() {
-    loader_.LoadAll(PluginLoader::FindLibraries(folders_.Plugins()), Core::Version::Parse(kHostVersion));
+    loader_.LoadAll(PluginLoader::FindLibraries(folders_.Plugins()),
+                    Core::Version::Parse(Plugin::kHostVersion));
     for (const LoadedPlugin& plugin : loader_.Plugins()) {
         log_.Write("plug-in " + plugin.record.name + " " + VersionText(plugin.record.version) +
                    (plugin.error.empty() ? " runs" : " is left out: " + plugin.error));

@@ -2,7 +2,7 @@
 #include <exception>
 #include <memory>
 
-#include <tarvik/core/PluginInfo.h>
+#include <tarvik/core/Exports.h>
 #include <tarvik/core/TrvKernel.h>
 
 #include "host/plugins/seamap/core/LandSource.h"
@@ -31,7 +31,7 @@ std::unique_ptr<ChartServices> services;
 
 }  // namespace
 
-/// Offers the chart's services on the bus; a second call changes nothing. False when that failed.
+// Offers the chart's services on the bus; a second call changes nothing. False when that failed.
 TARVIK_EXPORT bool Load() {
     try {
         if (!services) {
@@ -44,13 +44,12 @@ TARVIK_EXPORT bool Load() {
     }
 }
 
-/// Takes the services back and closes the chart. To be called while the window system still stands.
+// Takes the services back and closes the chart. To be called while the window system still stands.
 TARVIK_EXPORT bool UnLoad() {
     services.reset();
     return true;
 }
 
-/// The plug-in's description; owned by the library, the same at every call.
 TARVIK_EXPORT CPluginInfo* PluginInfo() {
     return &info;
 }
@@ -59,7 +58,6 @@ TARVIK_EXPORT void InitPlugin() {}
 
 TARVIK_EXPORT void SuiteLoaded() {}
 
-/// Whether the plug-in can work here.
 TARVIK_EXPORT bool CheckEnvironment() {
     return Tarvik::Core::TrvKernel::Instance() != nullptr;
 }

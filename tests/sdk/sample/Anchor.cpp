@@ -5,9 +5,10 @@
 #include <QVBoxLayout>
 #include <memory>
 
-#include <tarvik/core/PluginInfo.h>
+#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/HostContract.h>
+#include <tarvik/core/Exports.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 #include <tarvik/skin/ToolWindow.h>
 
 namespace {
@@ -38,46 +39,30 @@ class AnchorWindow : public Skin::ToolWindow {
     void CloseAsked() override { hide(); }
 };
 
-/// What the plug-in offers while it is loaded.
+/// What the plug-in offers while it is loaded; each binding ends with its member.
 class Anchor : public Core::TObject {
   public:
-    Anchor() {
-        chainEvent_.Set<&Anchor::OnChain>(this);
-        showEvent_.Set<&Anchor::OnShow>(this);
-        Core::TrvKernel* bus = Core::TrvKernel::Instance();
-        bus->CreateTrvService(kChain.name, this, "", "", &chainEvent_);
-        bus->BindTrvEvent(Interface::Bus::ShowPanel.name, &showEvent_);
-    }
-    ~Anchor() override {
-        Core::TrvKernel* bus = Core::TrvKernel::Instance();
-        bus->UnBindTrvEvent(Interface::Bus::ShowPanel.name, &showEvent_);
-        bus->DeleteTrvService(kChain.name, this);
-        delete window_;
-    }
+    ~Anchor() override { delete window_; }
 
   private:
-    void* OnChain(void* depth) {
-        if (depth == nullptr) {
-            return nullptr;
-        }
-        answer_ = ChainFor(*static_cast<const double*>(depth));
+    const double* OnChain(const double& depth) {
+        answer_ = ChainFor(depth);
         return &answer_;
     }
-    void* OnShow(void* input) {
-        const auto* show = static_cast<const Interface::PanelShow*>(input);
-        if (show != nullptr && show->panel == kAnchorPanel) {
-            if (!window_) {
-                window_ = new AnchorWindow(static_cast<QWidget*>(Core::TrvKernel::MainViewHWnd()));
-            }
-            window_->setVisible(!window_->isVisible());
+    void OnShow(const Interface::PanelShow& show) {
+        if (show.panel != kAnchorPanel) {
+            return;
         }
-        return nullptr;
+        if (!window_) {
+            window_ = new AnchorWindow(static_cast<QWidget*>(Core::TrvKernel::MainViewHWnd()));
+        }
+        window_->setVisible(!window_->isVisible());
     }
 
-    Core::TEvent chainEvent_;
-    Core::TEvent showEvent_;
     QPointer<AnchorWindow> window_;  ///< the main window may delete it first
     double answer_ = 0;              ///< stays valid until the next question
+    Interface::Binding chain_ = Interface::Offer(kChain, this, &Anchor::OnChain);
+    Interface::Binding show_ = Interface::Subscribe(Interface::Bus::ShowPanel, this, &Anchor::OnShow);
 };
 
 std::unique_ptr<Anchor> anchor;

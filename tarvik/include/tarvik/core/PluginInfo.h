@@ -9,9 +9,6 @@
 
 #include <tarvik/Export.h>
 
-/// Stands before each of the six functions that every plug-in exports.
-#define TARVIK_EXPORT extern "C" __attribute__((visibility("default")))
-
 namespace Tarvik::Core {
 
 /// A version text that holds a negative number.
