@@ -21,6 +21,7 @@
 #include "seaplan/protocol/RemarkList.h"
 #include "seaplan/protocol/StatusReply.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
+#include "tarvik/src/core/BusTesting.h"
 
 using namespace Tarvik;
 using namespace Tarvik::Seaplan;
@@ -137,12 +138,12 @@ void checkRemarks() {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static auto* host = new Host;
     host->text.assign(reinterpret_cast<const char*>(data), size);
-    const long blocks = Core::LiveBusBlocks();
+    const long blocks = Core::BusTesting::LiveBlocks();
     checkPaths();
     checkPortCalls();
     checkBook();
     checkCatalog();
     checkRemarks();
-    require(Core::LiveBusBlocks() == blocks);
+    require(Core::BusTesting::LiveBlocks() == blocks);
     return 0;
 }

@@ -8,6 +8,8 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
+#include "tarvik/src/core/BusTesting.h"
+
 namespace Tarvik::Interface {
 
 namespace {
@@ -70,14 +72,14 @@ class Echo : public Core::TObject {
 };
 
 TEST(BusContractTest, AnswerOfAServiceThatNobodyOffersIsNull) {
-    Core::TrvKernel::Instance()->Reset();
+    Core::BusTesting::ForgetAll();
     EXPECT_EQ(Call(Bus::IsConnected), nullptr);
     EXPECT_EQ(Raise(Bus::Logout), 0U);
 }
 
 TEST(BusContractTest, AnswersOfAllSubscribersComeBack) {
     Core::TrvKernel* kernel = Core::TrvKernel::Instance();
-    kernel->Reset();
+    Core::BusTesting::ForgetAll();
     Echo echo;
     Core::TEvent first;
     Core::TEvent second;
@@ -88,7 +90,7 @@ TEST(BusContractTest, AnswersOfAllSubscribersComeBack) {
     const std::string id = "7";
     EXPECT_EQ(Raise(Bus::ClickRPoint, &id).size(), 2U);
     EXPECT_EQ(static_cast<const void*>(Raise(Bus::ClickRPoint, &id)[1]), &id);
-    kernel->Reset();
+    Core::BusTesting::ForgetAll();
 }
 
 }  // namespace

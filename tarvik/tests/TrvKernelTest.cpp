@@ -9,6 +9,8 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
+#include "tarvik/src/core/BusTesting.h"
+
 namespace Tarvik::Core {
 
 namespace {
@@ -42,13 +44,13 @@ class TrvKernelTest : public testing::Test {
     using Notices = std::vector<std::pair<KernelNotice, std::string>>;
 
     void SetUp() override {
-        kernel->Reset();
+        BusTesting::ForgetAll();
         kernel->SetObserver(
             [this](KernelNotice kind, const std::string& name) { notices.emplace_back(kind, name); });
     }
     void TearDown() override {
         kernel->SetObserver({});
-        kernel->Reset();
+        BusTesting::ForgetAll();
         TrvKernel::SetMainView(nullptr, nullptr);
     }
     void CreateService(const char* name) { kernel->CreateTrvService(name, &first, "", "", nullptr); }

@@ -9,6 +9,8 @@
 
 #include <tarvik/core/TrvKernel.h>
 
+#include "tarvik/src/core/BusTesting.h"
+
 namespace fs = std::filesystem;
 
 namespace Tarvik::Integration {
@@ -18,7 +20,7 @@ namespace {
 /// A file of another place is another library to the loader, with static objects of its own.
 [[noreturn]] void RunOn(const fs::path& copy, const std::function<bool(const LoadedPlugin&)>& check) {
     Core::TrvKernel::Instance()->SetObserver({});
-    Core::TrvKernel::Instance()->Reset();
+    Core::BusTesting::ForgetAll();
     const bool holds = check(LoadedPlugin(copy.string()));
     std::cout.flush();
     std::_Exit(holds ? 0 : 1);

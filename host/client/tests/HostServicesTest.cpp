@@ -9,6 +9,7 @@
 #include <tarvik/util/Clock.h>
 
 #include "host/client/services/HostServices.h"
+#include "tarvik/src/core/BusTesting.h"
 
 namespace Tarvik::Client {
 
@@ -89,10 +90,10 @@ TEST_F(HostServicesTest, LoginConnectsAndComplainsWhenItCannot) {
 }
 
 TEST_F(HostServicesTest, TheReplyIsABusBlockWithHeadAndClosedText) {
-    const long before = Core::LiveBusBlocks();
+    const long before = Core::BusTesting::LiveBlocks();
     VoyServerRequest* reply = Exchange("{a:1}");
     ASSERT_NE(reply, nullptr);
-    EXPECT_EQ(Core::LiveBusBlocks(), before + 1);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), before + 1);
     EXPECT_STREQ(reply->Payload(), "{\"eid\":0}");
     EXPECT_EQ(reply->length, 10U);
     EXPECT_EQ(reply->command, 3);
@@ -100,7 +101,7 @@ TEST_F(HostServicesTest, TheReplyIsABusBlockWithHeadAndClosedText) {
     EXPECT_EQ(link_.lastUser, "anna");
     EXPECT_EQ(link_.lastText, "{a:1}");
     Core::FreeBusBlock(reply);
-    EXPECT_EQ(Core::LiveBusBlocks(), before);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), before);
 }
 
 TEST_F(HostServicesTest, NoReplyNullRequestAndATooLongOneAnswerNull) {

@@ -10,6 +10,7 @@
 #include "host/server/tests/BusServer.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
+#include "tarvik/src/core/BusTesting.h"
 
 namespace Tarvik::Server {
 
@@ -17,7 +18,7 @@ namespace Tarvik::Server {
 /// freed at the end.
 class RoundTrip : public ::testing::Test {
   protected:
-    ~RoundTrip() override { EXPECT_EQ(Core::LiveBusBlocks(), blocksBefore_); }
+    ~RoundTrip() override { EXPECT_EQ(Core::BusTesting::LiveBlocks(), blocksBefore_); }
 
     /// What a plug-in knows that has just been started.
     Seaplan::VoyageStore Load() {
@@ -27,7 +28,7 @@ class RoundTrip : public ::testing::Test {
     }
 
   private:
-    const long blocksBefore_ = Core::LiveBusBlocks();
+    const long blocksBefore_ = Core::BusTesting::LiveBlocks();
 
   protected:
     BusServer host;

@@ -6,6 +6,8 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
+#include "tarvik/src/core/BusTesting.h"
+
 namespace Tarvik::Seaplan::Testing {
 
 namespace {
@@ -23,7 +25,7 @@ std::string RefText(const Interface::TrvMapObjectRef& ref) {
 
 ChartRecording::ChartRecording() {
     namespace Bus = Interface::Bus;
-    Core::TrvKernel::Instance()->Reset();
+    Core::BusTesting::ForgetAll();
     Bind<&ChartRecording::AddLayer>(Bus::MapAddLayer.name);
     Bind<&ChartRecording::AddLine>(Bus::MapAddLine.name);
     Bind<&ChartRecording::AddLabel>(Bus::MapAddPointLabel.name);
@@ -35,7 +37,7 @@ ChartRecording::ChartRecording() {
 }
 
 ChartRecording::~ChartRecording() {
-    Core::TrvKernel::Instance()->Reset();
+    Core::BusTesting::ForgetAll();
 }
 
 template <auto Method>

@@ -7,6 +7,7 @@
 
 #include "seaplan/chart/VoyageLayer.h"
 #include "seaplan/chart/tests/ChartRecording.h"
+#include "tarvik/src/core/BusTesting.h"
 
 namespace Tarvik::Seaplan {
 
@@ -132,7 +133,7 @@ TEST_F(VoyageLayerTest, ExtentIsSentUnlessSwitchedOffOrEmpty) {
 }
 
 TEST_F(VoyageLayerTest, DrawingWithoutAChartIsNoFailure) {
-    Core::TrvKernel::Instance()->Reset();
+    Core::BusTesting::ForgetAll();
     EXPECT_EQ(layer.DrawBook("v", {"1,0", "2,0"}), 0);
     EXPECT_EQ(layer.ClearVoyageObjects("v"), 0);
     EXPECT_EQ(layer.PlaceShip(layer.shipIcon, "1,2"), 0);

@@ -5,6 +5,7 @@
 
 #include "seaplan/protocol/Exchange.h"
 #include "seaplan/protocol/StatusReply.h"
+#include "tarvik/src/core/BusTesting.h"
 #include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
@@ -42,34 +43,34 @@ TEST(SendRequestTest, WithoutHostFails) {
 
 TEST(SendRequestTest, RequestBlockIsFreedWhateverTheHostAnswers) {
     RecordingHost host;
-    const long before = Core::LiveBusBlocks();
+    const long before = Core::BusTesting::LiveBlocks();
     Util::Jsona reply;
     EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), -1);
     EXPECT_EQ(host.requests.size(), 1U) << "the host was asked and answered nothing";
-    EXPECT_EQ(Core::LiveBusBlocks(), before);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), before);
     host.Reply(3, "[]");
     EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), 0);
     host.Reply(3, "no json");
     EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), -2);
-    EXPECT_EQ(Core::LiveBusBlocks(), before);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), before);
 }
 
 TEST(SendRequestTest, ReplyThatDoesNotParseFailsAndItsBlockIsFreed) {
     RecordingHost host;
     host.Reply(3, "{eid:");
-    const long before = Core::LiveBusBlocks();
+    const long before = Core::BusTesting::LiveBlocks();
     Util::Jsona reply;
     EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), -2);
-    EXPECT_EQ(Core::LiveBusBlocks(), before);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), before);
 }
 
 TEST(SendRequestTest, GoodReplyBlockIsFreedAndItsTextStays) {
     RecordingHost host;
     host.Reply(3, "{eid:0,ci:\"12\"}");
-    const long before = Core::LiveBusBlocks();
+    const long before = Core::BusTesting::LiveBlocks();
     Util::Jsona reply;
     EXPECT_EQ(SendRequest(BufferOf("{}"), 3, reply), 0);
-    EXPECT_EQ(Core::LiveBusBlocks(), before);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), before);
     EXPECT_EQ(reply.getv("ci", ""), "12");
 }
 

@@ -6,6 +6,7 @@
 #include <tarvik/core/BusBlock.h>
 
 #include "seaplan/protocol/RemarkList.h"
+#include "tarvik/src/core/BusTesting.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingHost.h"
 
@@ -44,7 +45,7 @@ class RemarkListTest : public testing::Test {
     TestSupport::ManualClock clock;
     RemarkList list;
     int seq = 0;
-    const long blocksBefore = Core::LiveBusBlocks();
+    const long blocksBefore = Core::BusTesting::LiveBlocks();
 };
 
 TEST_F(RemarkListTest, LoadAsksForTheObjectAndKeepsTheReplysOrder) {
@@ -55,7 +56,7 @@ TEST_F(RemarkListTest, LoadAsksForTheObjectAndKeepsTheReplysOrder) {
     EXPECT_EQ(Subjects(), (Texts{"c", "a"}));
     EXPECT_EQ(*list.At(0), (CRemark{4, "21Hamburg", 3, "c", "B", "5", "2024-03-01 08:00:00"}));
     EXPECT_EQ(list.At(2), nullptr);
-    EXPECT_EQ(Core::LiveBusBlocks(), blocksBefore);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), blocksBefore);
 }
 
 TEST_F(RemarkListTest, EmptyListReplyIsASuccessWithNothingToShow) {
@@ -78,7 +79,7 @@ TEST_F(RemarkListTest, LoadEmptiesTheListWhateverComesAfter) {
     Load({"1"});
     EXPECT_FALSE(list.LoadRemarks(3, std::string(256, 'x'))) << "nothing sent";
     EXPECT_EQ(list.Count(), 0U);
-    EXPECT_EQ(Core::LiveBusBlocks(), blocksBefore);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), blocksBefore);
 }
 
 TEST_F(RemarkListTest, ObjectMayBeNamedByARemarkOfTheList) {
@@ -120,7 +121,7 @@ TEST_F(RemarkListTest, AddedRemarkComesLastWithLocalTimes) {
     EXPECT_EQ(host.Texts(), Texts{R"(9 {optype:"1",type:"3",objectid:"21",seq:"4",subject:"T",body:"B"})"});
     ASSERT_EQ(list.Count(), 3U);
     EXPECT_EQ(*list.At(2), (CRemark{3, "21", 4, "T", "B", "2024-05-06 07:08:09", "2024-05-06 07:08:09"}));
-    EXPECT_EQ(Core::LiveBusBlocks(), blocksBefore);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), blocksBefore);
 }
 
 TEST_F(RemarkListTest, FailedAddLeavesTheListAndTellsItsNumber) {
@@ -151,7 +152,7 @@ TEST_F(RemarkListTest, ChangedRemarkKeepsItsCreationDateAndPlace) {
     EXPECT_EQ(list.At(0), place);
     EXPECT_EQ(*place, (CRemark{3, "21", 1, "T", "new", "5", "2024-05-06 07:08:09"}));
     EXPECT_EQ(list.At(1)->subject, "s2");
-    EXPECT_EQ(Core::LiveBusBlocks(), blocksBefore);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), blocksBefore);
 }
 
 TEST_F(RemarkListTest, FailedChangeLeavesTheRemark) {
@@ -169,7 +170,7 @@ TEST_F(RemarkListTest, DeletedRemarkLeavesTheOthersInOrder) {
     EXPECT_TRUE(list.DeleteRemark(3, "21", 2));
     EXPECT_EQ(host.Texts(), Texts{R"(9 {optype:"2",type:"3",objectid:"21",seq:"2"})"});
     EXPECT_EQ(Subjects(), (Texts{"s1", "s3"}));
-    EXPECT_EQ(Core::LiveBusBlocks(), blocksBefore);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), blocksBefore);
 }
 
 TEST_F(RemarkListTest, FailedDeleteLeavesTheRemark) {

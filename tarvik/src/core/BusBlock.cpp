@@ -4,12 +4,15 @@
 
 #include <tarvik/core/BusBlock.h>
 
+#include "tarvik/src/core/BusTesting.h"
+
 namespace Tarvik::Core {
 
 namespace {
 
 std::atomic<long> liveBlocks{0};
-}
+
+}  // namespace
 
 void* AllocateBusBlock(std::size_t bytes) {
     void* block = std::malloc(bytes == 0 ? 1 : bytes);
@@ -27,7 +30,7 @@ void FreeBusBlock(void* block) {
     std::free(block);
 }
 
-long LiveBusBlocks() {
+long BusTesting::LiveBlocks() {
     return liveBlocks;
 }
 

@@ -4,6 +4,8 @@
 
 #include <tarvik/core/TrvKernel.h>
 
+#include "tarvik/src/core/BusTesting.h"
+
 namespace Tarvik::Core {
 
 namespace {
@@ -156,8 +158,8 @@ void TrvKernel::SetObserver(std::function<void(KernelNotice, const std::string&)
     observer_ = std::move(observer);
 }
 
-void TrvKernel::Reset() {
-    channels_.clear();
+void BusTesting::ForgetAll() {
+    TrvKernel::Instance()->channels_.clear();
 }
 
 // Creating a name again passes it to the new owner; its subscribers stay.

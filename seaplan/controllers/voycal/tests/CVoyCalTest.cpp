@@ -12,6 +12,7 @@
 #include "seaplan/controllers/voycal/CVoyCal.h"
 #include "seaplan/controllers/voycal/SampleReply.h"
 #include "seaplan/controllers/voycal/tests/VoyCalChart.h"
+#include "tarvik/src/core/BusTesting.h"
 #include "testsupport/DataFolder.h"
 
 namespace Tarvik::Seaplan {
@@ -83,14 +84,14 @@ TEST_F(CVoyCalTest, CalculationDrawsLineAndLabels) {
     EXPECT_EQ(chart.lines.at(0).ref.id, result->mainLine.ref.id);
     EXPECT_THAT(calculator->Ids(), ElementsAre("41", "42"));
     EXPECT_EQ(calculator->Ports().at(1).point.name, "Beta");
-    EXPECT_EQ(Core::LiveBusBlocks(), 0);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), 0);
 }
 
 TEST_F(CVoyCalTest, ViewThatHoldsTheRouteStays) {
     chart.view = Interface::TrvMapExtent{-10, -10, 10, 10};
     Calculate("41,42");
     EXPECT_THAT(chart.CallsOf("extent"), IsEmpty());
-    EXPECT_EQ(Core::LiveBusBlocks(), 0);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), 0);
 }
 
 TEST_F(CVoyCalTest, ChartWithoutViewStillGetsItsLabels) {
@@ -146,7 +147,7 @@ TEST_F(CVoyCalTest, ClickShowsAlternativesAndAnotherHidesThem) {
     Click("7");
     EXPECT_THAT(chart.calls, ElementsAre("clear VOYAGE_LAYER/RRPOINT"));
     EXPECT_EQ(calculator->SelectedPoint(), "");
-    EXPECT_EQ(Core::LiveBusBlocks(), 0);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), 0);
 }
 
 TEST_F(CVoyCalTest, ClickOnAPointWithoutGroupRemovesWhatWasShown) {

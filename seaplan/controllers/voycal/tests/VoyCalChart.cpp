@@ -10,6 +10,8 @@
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/StringUtl.h>
 
+#include "tarvik/src/core/BusTesting.h"
+
 namespace Tarvik::Seaplan::Testing {
 
 namespace {
@@ -23,7 +25,7 @@ const Record& As(const void* input) {
 
 VoyCalChart::VoyCalChart() {
     namespace Bus = Interface::Bus;
-    Core::TrvKernel::Instance()->Reset();
+    Core::BusTesting::ForgetAll();
     Bind<&VoyCalChart::AddLayer>(Bus::MapAddLayer.name);
     Bind<&VoyCalChart::RemoveLayer>(Bus::MapRemoveLayer.name);
     Bind<&VoyCalChart::AddLine>(Bus::MapAddLine.name);
@@ -35,7 +37,7 @@ VoyCalChart::VoyCalChart() {
 }
 
 VoyCalChart::~VoyCalChart() {
-    Core::TrvKernel::Instance()->Reset();
+    Core::BusTesting::ForgetAll();
 }
 
 template <auto Method>

@@ -12,7 +12,5 @@ namespace Tarvik::Core {
 TARVIK_API void* AllocateBusBlock(std::size_t bytes);
 /// Frees a block of AllocateBusBlock; null is allowed.
 TARVIK_API void FreeBusBlock(void* block);
-/// Tests: blocks made and not yet freed.
-TARVIK_API long LiveBusBlocks();
 
 }  // namespace Tarvik::Core

@@ -62,14 +62,18 @@ class TARVIK_API TrvKernel {
     /// returned.
     std::vector<void*> RaiseTrvEvent(const char* name, void* input);
 
-    /// Host side and tests: whether a service has a handler, or an event a subscriber.
+    /// Host side: whether a service has a handler, or an event a subscriber.
     bool IsBound(const char* name) const;
-    /// Host side and tests: told of every notice with the name concerned. An empty function ends it.
+    /// Host side: told of every notice with the name concerned. An empty function ends it.
     void SetObserver(std::function<void(KernelNotice, const std::string&)> observer);
-    /// Tests only: forgets every name and binding.
-    void Reset();
+
+    TrvKernel(const TrvKernel&) = delete;
+    TrvKernel& operator=(const TrvKernel&) = delete;
 
   private:
+    friend struct BusTesting;
+    TrvKernel() = default;
+
     struct Channel {
         bool service = false;
         bool created = false;

@@ -10,6 +10,7 @@
 #include <tarvik/interface/BusContract.h>
 
 #include "host/plugins/seamap/widget/ChartServices.h"
+#include "tarvik/src/core/BusTesting.h"
 
 namespace Tarvik::Seamap {
 
@@ -37,12 +38,12 @@ struct Listener : Core::TObject {
 class ChartServicesTest : public ::testing::Test {
   protected:
     ChartServicesTest() {
-        Core::TrvKernel::Instance()->Reset();
+        Core::BusTesting::ForgetAll();
         services_ = std::make_unique<ChartServices>(ChartServices::Paths{"missing.db", "missing.bin"});
     }
     ~ChartServicesTest() override {
         services_.reset();
-        Core::TrvKernel::Instance()->Reset();
+        Core::BusTesting::ForgetAll();
     }
     ChartWidget& Chart() {
         ChartWidget* widget = services_->Widget();
@@ -150,14 +151,14 @@ TEST_F(ChartServicesTest, TheExtentIsReadInEitherCornerOrder) {
 }
 
 TEST_F(ChartServicesTest, TheExtentBlockBelongsToTheCaller) {
-    const long before = Core::LiveBusBlocks();
+    const long before = Core::BusTesting::LiveBlocks();
     Interface::TrvMapExtent* one = Call(Chart::MapGetExtent);
     Interface::TrvMapExtent* two = Call(Chart::MapGetExtent);
     EXPECT_NE(one, two);
-    EXPECT_EQ(Core::LiveBusBlocks(), before + 2);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), before + 2);
     Core::FreeBusBlock(one);
     Core::FreeBusBlock(two);
-    EXPECT_EQ(Core::LiveBusBlocks(), before);
+    EXPECT_EQ(Core::BusTesting::LiveBlocks(), before);
 }
 
 TEST_F(ChartServicesTest, AnExtentAskedForBeforeTheWindowIsShownThen) {
