@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/skin/Colours.h>
 
 #include "host/client/services/Preferences.h"
@@ -68,11 +70,18 @@ class Sorter {
         } else if (word == "--screenshot") {
             line_.screenshot = Value(word);
         } else if (word == "--panel") {
-            line_.panel = Choice(word, {"3", "21"}) == "3" ? 3 : 21;
+            line_.panel = PanelNumber(word);
         } else {
             return false;
         }
         return true;
+    }
+
+    int PanelNumber(const std::string& word) {
+        const std::string voyages = std::to_string(Interface::PanelCode::kVoyages);
+        const std::string distances = std::to_string(Interface::PanelCode::kDistances);
+        return Choice(word, {voyages, distances}) == voyages ? Interface::PanelCode::kVoyages
+                                                             : Interface::PanelCode::kDistances;
     }
 
     void Rest(const std::string& word) {

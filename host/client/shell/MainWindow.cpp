@@ -13,7 +13,7 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/VoyageContract.h>
-#include <tarvik/skin/HelpRequest.h>
+#include <tarvik/skin/WindowMessages.h>
 
 #include "host/client/shell/LoginDialog.h"
 #include "host/client/shell/PreferencesDialog.h"
@@ -180,10 +180,10 @@ void MainWindow::LogOut() {
 }
 
 bool MainWindow::event(QEvent* event) {
-    if (event->type() != static_cast<QEvent::Type>(Seaplan::HelpRequestEvent::kType)) {
+    if (event->type() != static_cast<QEvent::Type>(Skin::WindowMessage::kHelp)) {
         return QMainWindow::event(event);
     }
-    const auto& block = static_cast<Seaplan::HelpRequestEvent*>(event)->block;
+    const auto& block = static_cast<Skin::HelpRequestEvent*>(event)->block;
     ShowHelp(QString::fromUtf8(block.topic), block.width);
     return true;
 }

@@ -22,7 +22,7 @@ class MainWindow : public QMainWindow {
     /// Puts the chart of the loaded plug-ins in the middle and shows the tools that they answer; call once,
     /// behind ClientSession::LoadPlugins.
     void AttachPlugins();
-    /// Raises the event that shows or hides a panel (3 voyages, 21 port distances).
+    /// Raises the event that shows or hides a panel (a PanelCode).
     void TogglePanel(int panel);
     /// Tells the chart a command of its contract; false when there is no chart or it did not understand.
     bool ChartCommand(const std::string& command);

@@ -4,11 +4,10 @@
 #include <QApplication>
 #include <QVBoxLayout>
 
-#include <tarvik/skin/HelpRequest.h>
+#include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/views/editors/OutsidePress.h"
-#include "seaplan/views/portcall/MatchEvents.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -126,7 +125,7 @@ void PortCallWindow::BringRowIntoView(int row) {
 }
 
 void PortCallWindow::RequestHelp(const std::string& topic) {
-    SendHelpRequest(parentWidget(), topic, 370, 440);
+    Skin::SendHelpRequest(parentWidget(), topic, 370, 440);
 }
 
 void PortCallWindow::ApplySkin() {
@@ -150,12 +149,12 @@ void PortCallWindow::CloseAsked() {
 }
 
 bool PortCallWindow::event(QEvent* event) {
-    if (panel_ != nullptr && event->type() == MatchMovedEvent::kType) {
-        panel_->Cells().OnMatchMoved(static_cast<MatchMovedEvent*>(event)->name.toStdString(),
+    if (panel_ != nullptr && event->type() == Skin::WindowMessage::kMatchMoved) {
+        panel_->Cells().OnMatchMoved(static_cast<Skin::MatchMovedEvent*>(event)->name.toStdString(),
                                      editors_->PortFieldHasFocus());
         return true;
     }
-    if (panel_ != nullptr && event->type() == MatchChosenEvent::kType) {
+    if (panel_ != nullptr && event->type() == Skin::WindowMessage::kMatchChosen) {
         panel_->Cells().OnMatchChosen();
         return true;
     }

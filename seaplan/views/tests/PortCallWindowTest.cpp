@@ -4,7 +4,8 @@
 #include <QScrollBar>
 #include <QWindow>
 
-#include "seaplan/views/portcall/MatchEvents.h"
+#include <tarvik/skin/WindowMessages.h>
+
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {
@@ -136,10 +137,10 @@ TEST_F(PortCallWindowTest, AMatchWindowTellsItsChoice) {
     OpenPortCalls("North Sea");
     ClickCell(0, ColPort);
     PortEditor().clearFocus();
-    MatchMovedEvent moved("GDANSK");
+    Skin::MatchMovedEvent moved("GDANSK");
     QApplication::sendEvent(&PortCalls(), &moved);
     EXPECT_EQ(PortEditor().text(), "GDANSK");
-    MatchChosenEvent chosen;
+    Skin::MatchChosenEvent chosen;
     QApplication::sendEvent(&PortCalls(), &chosen);
     EXPECT_EQ(Cell(0, ColPort), "GDANSK");
     EXPECT_FALSE(PortEditor().isVisible());

@@ -7,8 +7,8 @@
 
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
-#include <tarvik/skin/HelpRequest.h>
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
@@ -32,7 +32,7 @@ class HelpWatcher : public QObject {
         if (event->type() != static_cast<QEvent::Type>(1030)) {
             return false;
         }
-        const auto& block = static_cast<HelpRequestEvent*>(event)->block;
+        const auto& block = static_cast<Skin::HelpRequestEvent*>(event)->block;
         asked = block.topic + (" " + std::to_string(block.width)) + " " + std::to_string(block.height);
         return true;
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/window/FloatingPanel.h"
 
-#include <tarvik/skin/HelpRequest.h>
+#include <tarvik/skin/WindowMessages.h>
 
 namespace Tarvik::Seaplan {
 
@@ -55,7 +55,7 @@ void FloatingPanel::ShowCaption(const std::string& text, bool changed) {
 }
 
 void FloatingPanel::SendHelp(const std::string& topic, int width, int height) {
-    SendHelpRequest(parentWidget(), topic, width, height);
+    Skin::SendHelpRequest(parentWidget(), topic, width, height);
 }
 
 void FloatingPanel::SurfacePressed() {
