@@ -7,7 +7,6 @@
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 
-#include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>

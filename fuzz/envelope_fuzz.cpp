@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 

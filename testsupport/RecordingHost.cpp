@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 
 namespace Tarvik::TestSupport {
 

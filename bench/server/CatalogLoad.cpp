@@ -13,7 +13,6 @@
 
 #include <fmt/format.h>
 
-#include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>

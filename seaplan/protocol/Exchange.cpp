@@ -7,8 +7,7 @@
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
-#include <tarvik/bus/ServerContract.h>
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/interface/ServerRequest.h>
 
 #include "seaplan/data/TimeText.h"

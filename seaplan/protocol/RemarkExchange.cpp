@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include <tarvik/bus/BusCall.h>
-#include <tarvik/bus/ServerContract.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/interface/ServerRequest.h>
 #include <tarvik/util/Jsona.h>
 

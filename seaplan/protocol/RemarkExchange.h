@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/interface/ServerRequest.h>
 
 /// The remark path's own envelope and its own idea of success; the voyage path has neither.

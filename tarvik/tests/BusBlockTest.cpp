@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 
 #include "tarvik/src/core/BusTesting.h"
 

@@ -8,8 +8,7 @@
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
-#include <tarvik/bus/ServerContract.h>
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/util/Clock.h>
 
 namespace Tarvik::Client {

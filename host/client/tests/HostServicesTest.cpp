@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/Clock.h>

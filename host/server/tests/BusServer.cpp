@@ -5,8 +5,8 @@
 #include <new>
 #include <stdexcept>
 
-#include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 
 #include "host/server/tests/BusServer.h"
 #include "seaplan/data/VoyageStore.h"

@@ -5,7 +5,7 @@
 
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/VoyageContract.h>
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/StringUtl.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 
 #include "seaplan/protocol/Exchange.h"
 #include "seaplan/protocol/StatusReply.h"

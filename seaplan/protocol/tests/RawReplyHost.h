@@ -5,7 +5,6 @@
 #include <string>
 #include <utility>
 
-#include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <tarvik/core/BusBlock.h>
 #include <tarvik/core/PluginInfo.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 

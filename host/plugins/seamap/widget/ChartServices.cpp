@@ -6,7 +6,7 @@
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 
 #include "host/plugins/seamap/core/LandSource.h"
 

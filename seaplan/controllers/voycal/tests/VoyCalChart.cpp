@@ -5,7 +5,7 @@
 #include <iterator>
 #include <new>
 
-#include <tarvik/core/BusBlock.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 #include <tarvik/util/StringUtl.h>

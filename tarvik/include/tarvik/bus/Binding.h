@@ -48,6 +48,7 @@ class TARVIK_API BoundHandler : public Core::TObject, public std::enable_shared_
     /// `owner` owns the name on the bus; null lets the handler own it. False when another handler has the
     /// service.
     bool Bind(BindingKind kind, const char* name, Core::TObject* owner);
+    /// Unbinds, and deletes an own name; a second time changes nothing.
     void Withdraw();
 
   private:
@@ -133,7 +134,9 @@ class TypedHandler final : public BoundHandler {
 class TARVIK_API Binding {
   public:
     Binding() = default;
-    Binding(Binding&&) noexcept = default;
+    /// The handler stays bound, and `other` is empty.
+    Binding(Binding&& other) noexcept = default;
+    /// The same, after what this one kept has been taken off the bus.
     Binding& operator=(Binding&& other) noexcept;
     Binding(const Binding&) = delete;
     Binding& operator=(const Binding&) = delete;
@@ -144,6 +147,7 @@ class TARVIK_API Binding {
     /// Takes the handler off the bus; an empty binding stays empty.
     void Withdraw();
 
+    /// What Offer, Announce and Subscribe below make; they check the handler's types.
     template <class In, class Out, class Handler>
     static Binding Make(BindingKind kind, const char* name, Core::TObject* owner, Handler handler) {
         auto bound = std::make_shared<Detail::TypedHandler<In, Out, Handler>>(std::move(handler));
@@ -168,6 +172,7 @@ class TARVIK_API BindingList {
 
     /// Keeps a binding; an empty one is not kept. Gives whether it was bound.
     bool Keep(Binding binding);
+    /// Takes all handlers off the bus.
     void Withdraw();
 
   private:

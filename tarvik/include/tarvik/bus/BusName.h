@@ -16,7 +16,7 @@ struct None {};
 template <class In, class Out>
 struct Service {
     static_assert(!std::is_void_v<In> && !std::is_void_v<Out>, "say None where nothing crosses");
-    const char* name;
+    const char* name;  ///< as the kernel knows it; lives as long as the process
 };
 
 /// An event `name`: carries an `In*`, which may be null, to every subscriber. Where `Out` is not None each
@@ -24,7 +24,7 @@ struct Service {
 template <class In, class Out = None>
 struct Event {
     static_assert(!std::is_void_v<In> && !std::is_void_v<Out>, "say None where nothing crosses");
-    const char* name;
+    const char* name;  ///< as the kernel knows it; lives as long as the process
 };
 
 }  // namespace Tarvik::Interface

@@ -22,10 +22,10 @@ struct TrvMapObjectRef;
 struct TrvMapPointParams;
 struct TrvMapPort;
 
-/// A place on the chart: longitude from -180 to 180 and latitude, in degrees.
+/// A place on the chart: longitude from -180 to 180, latitude from -90 to 90.
 struct ChartPlace {
-    double longitude = 0;
-    double latitude = 0;
+    double longitude = 0;  ///< degrees east
+    double latitude = 0;   ///< degrees north
 };
 
 /// A left click on an object of the chart, named by the object's type; carries the object's id. Subscribers
@@ -38,8 +38,11 @@ namespace Bus {
 inline constexpr Service<const TrvMapLayerParams, None> MapAddLayer{"TRV_MAP_ADDLAYER"};
 /// Removes the layer of this name with its objects.
 inline constexpr Service<const std::string, None> MapRemoveLayer{"TRV_MAP_RMLAYER"};
+/// Draws a line in place of an object of the same name; without two good points that object goes.
 inline constexpr Service<const TrvMapLineParams, None> MapAddLine{"TRV_MAP_ADD_LINE"};
+/// Draws a point with a text beside it; a position that cannot be read changes nothing.
 inline constexpr Service<const TrvMapPointParams, None> MapAddPointLabel{"TRV_MAP_ADD_POINT_LABEL"};
+/// Draws a registered image, or moves it; a position that cannot be read changes nothing.
 inline constexpr Service<const TrvMapImageParams, None> MapAddImage{"TRV_MAP_ADD_IMAGE"};
 /// Makes an image file known under a name.
 inline constexpr Service<const TrvMapImageReg, None> MapRegisterImage{"TRV_MAP_REG_IMAGE"};
@@ -47,8 +50,9 @@ inline constexpr Service<const TrvMapImageReg, None> MapRegisterImage{"TRV_MAP_R
 inline constexpr Service<const TrvMapObjectList, None> MapDeleteObjects{"TRV_MAP_DEL_OBJECTS"};
 /// Deletes a layer's objects of a type; the id is not read.
 inline constexpr Service<const TrvMapObjectRef, None> MapDeleteObjectsByType{"TRV_MAP_DEL_OBJECT_BY_TYPE"};
-/// The limits on show: a bus block (BusBlock.h) that the caller frees.
+/// The limits on show: a bus block (TObject.h) that the caller frees.
 inline constexpr Service<None, TrvMapExtent> MapGetExtent{"TRV_MAP_GET_EXTENT"};
+/// Shows these limits; ones that are no numbers change nothing.
 inline constexpr Service<const TrvMapExtent, None> MapSetExtent{"TRV_MAP_SET_EXTENT"};
 /// The port with this id, null when unknown. The chart's, valid until the next call.
 inline constexpr Service<const std::string, const TrvMapPort> MapGetPort{"TRV_MAP_GET_PORT"};

@@ -5,8 +5,10 @@
 
 #include <tarvik/bus/BusName.h>
 
-/// What the client raises and offers to every plug-in.
+/// What the client raises and offers to every plug-in, the way to the voyage server among it.
 namespace Tarvik::Interface {
+
+struct VoyServerRequest;  // ServerRequest.h
 
 /// The panels that the client asks for by number.
 namespace PanelCode {
@@ -40,6 +42,10 @@ inline constexpr Service<None, None> Login{"TRV_S_LOGIN"};
 inline constexpr Service<None, const std::string> User{"TRV_S_USER"};
 /// Name of the user's zone, "China Standard Time". The client's, valid until the zone changes.
 inline constexpr Service<None, const std::string> CurrentTimeZone{"TRV_S_GETCURTIMEZONE"};
+/// Sends a request to the voyage server and waits for the reply. The request block stays the caller's. The
+/// reply is a bus block (TObject.h) that the caller frees; null when there is no server, or none that
+/// answers.
+inline constexpr Service<const VoyServerRequest, VoyServerRequest> ServerExchange{"TRV_S_SYNCREQBISERVER"};
 
 }  // namespace Bus
 }  // namespace Tarvik::Interface

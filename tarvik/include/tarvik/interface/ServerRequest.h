@@ -7,14 +7,17 @@
 namespace Tarvik::Interface {
 
 /// Head of a request and of a reply on TRV_S_SYNCREQBISERVER, little-endian; the payload follows at offset 8.
-/// The sender makes and frees the request block; the reply is a bus block (BusBlock.h) that the caller frees.
+/// The sender makes and frees the request block; the reply is a bus block (TObject.h) that the caller frees.
 struct VoyServerRequest {
-    std::uint32_t length;
-    std::uint16_t command;
-    std::uint16_t moduleWord;
+    std::uint32_t length;      ///< bytes of the payload, up to kMaxPayloadBytes
+    std::uint16_t command;     ///< a VoyCommand
+    std::uint16_t moduleWord;  ///< kVoyageModuleWord or kRemarkModuleWord
 
+    ///@{
+    /// The payload behind this head, `length` bytes of the same block.
     const char* Payload() const { return reinterpret_cast<const char*>(this + 1); }
     char* Payload() { return reinterpret_cast<char*>(this + 1); }
+    ///@}
 };
 static_assert(sizeof(VoyServerRequest) == 8);
 static_assert(std::endian::native == std::endian::little, "the head is read and written in place");
@@ -44,6 +47,7 @@ enum class VoyCommand : std::uint16_t {
     Remarks = 9          ///< remarks of an object, with kRemarkModuleWord
 };
 
+/// The number that goes over the wire.
 constexpr std::uint16_t NumberOf(VoyCommand command) {
     return static_cast<std::uint16_t>(command);
 }

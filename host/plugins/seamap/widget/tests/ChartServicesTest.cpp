@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <tarvik/core/BusBlock.h>
 #include <tarvik/core/TEvent.h>
+#include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/BusContract.h>
 
