@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes pages of the docstrings in build/docs/html, and names every public operation of the SDK and of the controllers that
-# has none. Usage: scripts/docs.sh [--check]; with --check it fails when there is one.
+# Makes pages of the docstrings in build/docs/html, and names what of the SDK has none, and the controllers' public operations
+# without one. Usage: scripts/docs.sh [--check]; with --check it fails when there is one.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 . scripts/prepare.sh
@@ -16,10 +16,10 @@ mapfile -t headers < <(git ls-files 'tarvik/include/*.h' '*/controllers/*.h' ':!
 version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 { cat docs/Doxyfile; echo "PROJECT_NUMBER = $version"; echo "INPUT = ${headers[*]}"; } | doxygen - >/dev/null ||
     { cat build/docs/warnings.txt >&2; exit 1; }
-sed "s|^$PWD/||" build/docs/warnings.txt | grep '(function).*is not documented' | sort -t: -k1,1 -k2,2n |
+sed "s|^$PWD/||" build/docs/warnings.txt | grep -E '^tarvik/.*is not documented|\(function\).*is not documented' | sort -t: -k1,1 -k2,2n |
     tee build/docs/undocumented.txt
 undocumented=$(wc -l <build/docs/undocumented.txt)
 others=$(grep -vc 'is not documented' build/docs/warnings.txt)
 [ "$others" = 0 ] || grep -v 'is not documented' build/docs/warnings.txt | sed "s|^$PWD/||"
-echo "docs: ${#headers[@]} headers, $undocumented undocumented operations, $others other warnings; build/docs/html/index.html" >&2
+echo "docs: ${#headers[@]} headers, $undocumented without a docstring, $others other warnings; build/docs/html/index.html" >&2
 [ "${1:-}" != --check ] || [ $((undocumented + others)) = 0 ]

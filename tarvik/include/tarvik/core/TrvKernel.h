@@ -36,20 +36,29 @@ class TARVIK_API TrvKernel {
     /// Called once by the host.
     static void SetMainView(void* window, void* appModule);
 
+    /// Makes a service known under `name` for `owner`, and binds `delegate` unless it is null. A service that
+    /// another owner answers stays theirs. The two texts are for the host and are not read. Whoever has the
+    /// types of a name uses Offer of Binding.h, which calls this and the three below in order.
     void CreateTrvService(const char* name, TObject* owner, const char* text1, const char* text2,
                           TEvent* delegate);
     /// Attaches the one handler of a service. False when the service has another handler or the delegate is
     /// null.
     bool BindTrvService(const char* name, TEvent* delegate);
+    /// Takes the handler off the service; one that is not bound changes nothing.
     void UnBindTrvService(const char* name, TEvent* delegate);
+    /// Removes the service with its handler; anybody but its owner changes nothing.
     void DeleteTrvService(const char* name, TObject* owner);
 
+    /// Makes an event known under `name` for `owner`, who may be a new one, and binds `delegate` unless it is
+    /// null; subscribers stay. The two texts are for the host and are not read.
     void CreateTrvEvent(const char* name, TObject* owner, const char* text1, const char* text2,
                         TEvent* delegate);
     /// Subscribes to an event, also before anybody has created it. False for null or for a delegate bound
     /// already.
     bool BindTrvEvent(const char* name, TEvent* delegate);
+    /// Ends a subscription, also from within a handler; one that is not bound changes nothing.
     void UnBindTrvEvent(const char* name, TEvent* delegate);
+    /// Removes the event with its subscriptions; anybody but its owner changes nothing.
     void DeleteTrvEvent(const char* name, TObject* owner);
 
     /// Calls a service without a result. True when somebody answered.

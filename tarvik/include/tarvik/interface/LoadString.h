@@ -13,9 +13,12 @@ namespace Tarvik::Interface {
 class TARVIK_API LanguageSource {
   public:
     virtual ~LanguageSource();
+    /// Text of `key` in the table `name` of `section`; nothing when the language has none.
     virtual std::optional<std::u16string> Find(const std::u16string& section, const std::u16string& name,
                                                const std::u16string& key) const = 0;
+    /// Client: puts a source in force (not owned); null takes it away.
     static void Set(const LanguageSource* source);
+    /// The source in force; null without one.
     static const LanguageSource* Current();
 };
 

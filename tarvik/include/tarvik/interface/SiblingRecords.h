@@ -7,64 +7,63 @@
 /// Records of the services of sibling plug-ins.
 namespace Tarvik::Interface {
 
-/// One vessel's last position; time is a GMT timer value, read as unsigned.
+/// One vessel's last position.
 struct VesselPosition {
-    std::string vesselId;
-    std::int32_t vsmsi = 0;
-    std::int32_t integer = 0;
-    std::int32_t time = 0;
-    double x = 0;
-    double y = 0;
+    std::string vesselId;      ///< of the fleet
+    std::int32_t vsmsi = 0;    ///< MMSI, 0 when unknown
+    std::int32_t integer = 0;  ///< not read
+    std::int32_t time = 0;     ///< GMT timer value, seconds, read as unsigned
+    double x = 0;              ///< longitude in degrees
+    double y = 0;              ///< latitude in degrees
 };
 
-/// Argument of TRV_S_VOYAGE_TRACE; begin and end are GMT timer values.
+/// Argument of TRV_S_VOYAGE_TRACE.
 struct VesselTraceRequest {
-    std::string vsi;
-    std::int32_t vsmsi = 0;
-    std::int32_t begin = 0;
-    std::int32_t end = 0;
+    std::string vsi;         ///< id of the vessel
+    std::int32_t vsmsi = 0;  ///< its MMSI, 0 when unknown
+    std::int32_t begin = 0;  ///< GMT timer value, seconds
+    std::int32_t end = 0;    ///< the same
 };
 
-/// The vessel block of a card; 361 degrees means not known.
+/// The vessel block of a card.
 struct VesselBlock {
-    std::string name;
-    double x = 361.0;
-    double y = 361.0;
-    std::int32_t time = 0;
-    std::string text;
-    std::int32_t integers[2] = {0, 0};
-    std::string lastPortName;
-    std::string lastPortId;
-    std::string firstPortName;
-    std::string firstPortId;
-    std::string furtherTexts[2];
-    std::int32_t zero = 0;
+    std::string name;                   ///< left empty
+    double x = 361.0;                   ///< longitude in degrees; 361 when not known
+    double y = 361.0;                   ///< latitude in degrees; 361 when not known
+    std::int32_t time = 0;              ///< GMT timer value of the position, seconds
+    std::string text;                   ///< left empty
+    std::int32_t integers[2] = {0, 0};  ///< left zero
+    std::string lastPortName;           ///< last port of the voyage
+    std::string lastPortId;             ///< its id
+    std::string firstPortName;          ///< first port of the voyage
+    std::string firstPortId;            ///< its id
+    std::string furtherTexts[2];        ///< left empty
+    std::int32_t zero = 0;              ///< left zero
 };
 
-/// Argument of TRV_S_VOYAGE_SHOWVSL; the cursor is in screen pixels.
+/// Argument of TRV_S_VOYAGE_SHOWVSL.
 struct VesselCard {
-    std::string vi;
-    std::string vsi;
-    std::string vsn;
-    VesselBlock vessel;
-    std::int32_t cursorX = 400;
-    std::int32_t cursorY = 200;
+    std::string vi;              ///< id of the voyage
+    std::string vsi;             ///< id of the vessel
+    std::string vsn;             ///< its name
+    VesselBlock vessel;          ///< what the voyage knows of it
+    std::int32_t cursorX = 400;  ///< pixels of the screen
+    std::int32_t cursorY = 200;  ///< pixels of the screen
 };
 
 /// One vessel of the user's fleet.
 struct FleetEntry {
-    std::string id;
-    std::string name;
-    std::int32_t number = 0;
+    std::string id;           ///< empty for one that is typed by hand
+    std::string name;         ///< as people call it
+    std::int32_t number = 0;  ///< MMSI, 0 when unknown
 };
 
-/// Argument of TRV_S_INFOSEARCH_SHOWMATCHPORTDLG; handles are opaque. Answers an opaque window handle or
-/// null.
+/// Argument of TRV_S_INFOSEARCH_SHOWMATCHPORTDLG.
 struct MatchPortQuery {
-    void* edit = nullptr;
-    void* editor = nullptr;
-    std::string text;
-    bool textRemains = false;
+    void* edit = nullptr;      ///< opaque handle of the field that is typed in
+    void* editor = nullptr;    ///< opaque handle of the window that is told what is chosen
+    std::string text;          ///< what is typed
+    bool textRemains = false;  ///< Backspace was pressed with text in the field
 };
 
 }  // namespace Tarvik::Interface

@@ -14,9 +14,13 @@ inline constexpr int kEnglishLanguage = 1033;
 class TARVIK_API ValueDictionary {
   public:
     virtual ~ValueDictionary();
+    /// What GetNameByValue answers.
     virtual std::string KeyOfValue(const std::string& path, const std::string& value, int language) const = 0;
+    /// What GetValueByName answers.
     virtual std::string ValueOfKey(const std::string& path, const std::string& key, int language) const = 0;
+    /// Client: puts a dictionary in force (not owned); null takes it away.
     static void Set(const ValueDictionary* dictionary);
+    /// The dictionary in force; null without one.
     static const ValueDictionary* Current();
 };
 

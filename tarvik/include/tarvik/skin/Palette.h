@@ -35,19 +35,20 @@ class TARVIK_API ThemeWatch : public QObject {
     static void Publish(Theme theme);
 
   protected:
+    /// Sees the application's palette change.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     std::function<void()> changed_;
 };
 
-/// Measures in pixels.
-inline constexpr int kGrid = 4;
-inline constexpr int kCaptionHeight = 30;
-inline constexpr int kControlHeight = 26;
-inline constexpr int kIconSize = 16;
-inline constexpr int kCornerRadius = 6;
-inline constexpr int kTextPixels = 13;
-inline constexpr int kTablePixels = 12;
+// Measures in pixels.
+inline constexpr int kGrid = 4;            ///< gaps and margins are multiples of it
+inline constexpr int kCaptionHeight = 30;  ///< of a floating window's caption
+inline constexpr int kControlHeight = 26;  ///< of buttons and fields
+inline constexpr int kIconSize = 16;       ///< edge of an icon
+inline constexpr int kCornerRadius = 6;    ///< of windows
+inline constexpr int kTextPixels = 13;     ///< height of texts
+inline constexpr int kTablePixels = 12;    ///< height of texts in tables
 
 }  // namespace Tarvik::Skin

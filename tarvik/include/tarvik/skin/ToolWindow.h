@@ -20,12 +20,17 @@ namespace Tarvik::Skin {
 /// surface.
 class TARVIK_API ToolWindow : public QFrame {
   public:
+    /// Floats above `parent`, which owns it, and is hidden at first; `name` is its object name.
     ToolWindow(QWidget* parent, const QString& name);
 
+    /// Title, and accessible name, of the window.
     void SetCaption(const QString& text);
+    /// Shows or hides the mark behind the title that something is not saved; `tip` explains it.
     void SetChangedMark(bool shown, const QString& tip);
-    /// A button at the right end of the caption.
+    /// A button at the right end of the caption, owned by the window; `name` is its object name, `icon` as
+    /// MakeIcon takes it.
     QToolButton* AddCaptionButton(const char* name, const std::string& icon);
+    /// Where the window's content goes; the window's.
     QVBoxLayout* Body() { return body_; }
     /// Colours and icons of the theme in force; called at every change of it.
     virtual void ApplySkin();
@@ -35,11 +40,14 @@ class TARVIK_API ToolWindow : public QFrame {
     virtual void SurfacePressed() {}
     /// Asked to close by the window system, as by Alt+F4; hides the window or keeps it.
     virtual void CloseAsked() = 0;
+    ///@{
+    /// Keep the window's look and let it be dragged; an override calls them.
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    ///@}
     /// Remembers a button whose icon follows the theme.
     void KeepIcon(QAbstractButton* button, const std::string& icon);
 

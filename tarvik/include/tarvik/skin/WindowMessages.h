@@ -28,7 +28,7 @@ class HelpRequestEvent : public QEvent {
     struct Block {
         char topic[512] = {};  ///< key of the topic, ended by a NUL
         int width = 0;         ///< of the help window, in pixels
-        int height = 0;
+        int height = 0;        ///< the same
     };
 
     /// A topic of more than 511 bytes is cut.
@@ -39,7 +39,7 @@ class HelpRequestEvent : public QEvent {
         block.height = height;
     }
 
-    Block block;
+    Block block;  ///< what is asked for
 };
 
 /// Sends the request and returns when it has been answered; without a main view nothing happens.
@@ -54,6 +54,7 @@ inline void SendHelpRequest(QObject* mainView, const std::string& topic, int wid
 /// A match window has moved to a port; it tells the window that its query named as the editor.
 class MatchMovedEvent : public QEvent {
   public:
+    /// `movedTo` is the port's name.
     explicit MatchMovedEvent(QString movedTo)
         : QEvent(static_cast<Type>(WindowMessage::kMatchMoved)), name(std::move(movedTo)) {}
 

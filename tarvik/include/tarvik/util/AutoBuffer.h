@@ -11,11 +11,18 @@ namespace Tarvik::Util {
 /// Growing byte buffer; `capacity` is only its first size.
 class TARVIK_API CAutoBuffer {
   public:
+    /// An empty buffer with room for `capacity` bytes.
     explicit CAutoBuffer(std::size_t capacity) { bytes_.reserve(capacity); }
+    ///@{
+    /// The content; valid until the buffer changes.
     const char* begin() const { return bytes_.data(); }
     const char* end() const { return bytes_.data() + bytes_.size(); }
+    ///@}
+    /// Bytes of content.
     std::size_t size() const { return bytes_.size(); }
+    /// Drops the content.
     void clear() { bytes_.clear(); }
+    /// Adds `count` bytes, which are copied.
     void append(const char* data, std::size_t count) { bytes_.append(data, count); }
 
   private:

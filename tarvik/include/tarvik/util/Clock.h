@@ -24,6 +24,7 @@ class TARVIK_API Clock {
     /// Zone in which "local" present time is told; empty means the machine's zone. The client sets the user's
     /// zone.
     static void SetLocalZone(const std::string& zone);
+    /// That zone; empty for the machine's.
     static std::string LocalZone();
 };
 
@@ -34,10 +35,12 @@ class TARVIK_API TimerService {
     virtual ~TimerService();
     /// Starts a repeating timer of `periodMs` milliseconds; the id is never 0.
     virtual unsigned Start(int periodMs, std::function<void()> callback) = 0;
+    /// Ends a timer, also from within its callback; an unknown id changes nothing.
     virtual void Stop(unsigned id) = 0;
 
     /// The service in force, null when the host has none.
     static TimerService* Current();
+    /// Puts a service in force (not owned); null takes it away.
     static void Set(TimerService* service);
 };
 

@@ -10,8 +10,9 @@
 
 namespace Tarvik::Util {
 
-/// Form of a time as text, and the number of its characters.
+/// Form of a time as text.
 inline constexpr const char* kTimeFormat = "%Y-%m-%d %H:%M:%S";
+/// Characters of a text of that form.
 inline constexpr std::size_t kTimeTextLength = 19;
 /// Zone of plan times wherever they meet UTC, whatever zone the person has chosen; the choice starts with it.
 inline constexpr const char* kPlanZone = "China Standard Time";
@@ -25,6 +26,7 @@ class TARVIK_API DateTimeUtl {
     static _datetime_t ConvertToUTC(const _datetime_t& local, const std::string& zone);
     /// UTC to local time of `zone`.
     static _datetime_t ConvertFromUTC(const _datetime_t& utc, const std::string& zone);
+    /// _datetime_t::fmt by another name.
     static std::string Format(const _datetime_t& value, const std::string& format);
     /// Reads kTimeTextLength characters in the form kTimeFormat of a date that exists; anything else gives
     /// nothing.

@@ -10,8 +10,8 @@ namespace Tarvik::Util {
 
 /// A position in degrees, longitude first.
 struct _SPointF {
-    float x = 0;
-    float y = 0;
+    float x = 0;  ///< longitude, from -180 to 180
+    float y = 0;  ///< latitude, from -90 to 90
 };
 
 /// Lines on the WGS-84 ellipsoid (Karney, "Algorithms for geodesics", J. Geodesy 87, 2013). Degrees in, km

@@ -8,6 +8,7 @@
 
 namespace Tarvik::Util {
 
+/// How grave a line is.
 enum class LogLevel { Debug, Info, Warning, Error };
 
 /// Takes one line of the SDK's or the host's log; may be called on any thread.

@@ -8,15 +8,19 @@ namespace Tarvik::Util {
 /// Kilometres in a nautical mile, by definition, and so km/h in a knot.
 inline constexpr double kKmPerNauticalMile = 1.852;
 
+/// Nautical miles in kilometres.
 constexpr double KmFromNm(double nauticalMiles) {
     return nauticalMiles * kKmPerNauticalMile;
 }
+/// Kilometres in nautical miles.
 constexpr double NmFromKm(double km) {
     return km / kKmPerNauticalMile;
 }
+/// Knots in kilometres an hour.
 constexpr double KmhFromKnots(double knots) {
     return knots * kKmPerNauticalMile;
 }
+/// Kilometres an hour in knots.
 constexpr double KnotsFromKmh(double kmPerHour) {
     return kmPerHour / kKmPerNauticalMile;
 }
