@@ -18,6 +18,7 @@ TEST(BusContractTest, NamesThatTheVoyagePlugInOwns) {
     EXPECT_STREQ(Bus::AddVessel.name, "TRV_S_VOY_ADDVSL");
     EXPECT_STREQ(Bus::AddPortName.name, "TRV_S_VOY_ADDPORTNAME");
     EXPECT_STREQ(Bus::CalculateVoyage.name, "TRV_S_CAL_VOYAGE");
+    EXPECT_STREQ(Bus::PlanVoyage.name, "TRV_S_VOY_PLAN");
     EXPECT_STREQ(Bus::ClickVoyageType.name, "TRV_MAP_LCLICK_VOYAGETYPE");
     EXPECT_STREQ(Bus::ClickRoutePointType.name, "TRV_MAP_LCLICK_RPOINTTYPE");
     EXPECT_STREQ(Bus::ClickAisShipType.name, "TRV_MAP_LCLICK_AISSHIPTYPE");
@@ -63,6 +64,9 @@ TEST(BusContractTest, ServicesOfTheChart) {
     EXPECT_STREQ(Bus::MapGetExtent.name, "TRV_MAP_GET_EXTENT");
     EXPECT_STREQ(Bus::MapSetExtent.name, "TRV_MAP_SET_EXTENT");
     EXPECT_STREQ(Bus::MapGetPort.name, "TRV_MAP_GET_PORT");
+    EXPECT_STREQ(Bus::ChartWindow.name, "TRV_S_SEAMAP_WIDGET");
+    EXPECT_STREQ(Bus::ChartCommand.name, "TRV_S_SEAMAP_COMMAND");
+    EXPECT_STREQ(Bus::ChartCursor.name, "TRV_E_SEAMAP_CURSOR");
 }
 
 /// Answers each call with its own input.

@@ -61,7 +61,7 @@ inline constexpr Service<const std::string, const TrvMapPort> MapGetPort{"TRV_MA
 /// give it a parent, which then owns it; without one it goes with the chart plug-in.
 inline constexpr Service<None, QWidget> ChartWindow{"TRV_S_SEAMAP_WIDGET"};
 /// "zoomin", "zoomout", "fit" (all objects, the world without any), "theme light", "theme dark", "theme
-/// night". Answers the input when it was understood, null otherwise.
+/// night". Answers the input, which stays the caller's, when it was understood, null otherwise.
 inline constexpr Service<const std::string, const std::string> ChartCommand{"TRV_S_SEAMAP_COMMAND"};
 /// The pointer has moved over the chart.
 inline constexpr Event<const ChartPlace> ChartCursor{"TRV_E_SEAMAP_CURSOR"};

@@ -41,8 +41,9 @@ inline constexpr Service<None, const std::vector<FleetEntry>> AllVessels{"TRV_S_
 inline constexpr Service<const FleetEntry, const WindowHandle> ShowAddVessel{"TRV_S_SHIPPROLL_SHOWADDVSLDLG"};
 /// Shows what is known of the vessel with this id.
 inline constexpr Service<const std::string, None> ShowVesselInfo{"TRV_S_INFOSEARCHSHOWVSL"};
-/// Fills the window of ports that match a text, not shown yet. The window itself, the search plug-in's; null
-/// when it has none. It tells the editor of the query what is chosen (WindowMessages.h).
+/// Fills the window of ports that match a text, not shown yet. The window itself, which stays the search
+/// plug-in's; null when it has none. It tells the editor of the query what is chosen
+/// (tarvik/skin/WindowMessages.h).
 inline constexpr Service<const MatchPortQuery, OpaqueWindow> MatchPorts{"TRV_S_INFOSEARCH_SHOWMATCHPORTDLG"};
 
 }  // namespace Bus

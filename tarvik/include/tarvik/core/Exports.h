@@ -15,10 +15,10 @@
 /// - the compiler's binary interface (the same family, g++ or clang++ on Linux),
 /// - the standard library and its text layout (libstdc++ with its present, C++11, layout),
 /// - the language: C++20,
-/// - the SDK: headers and libraries of one version. A plug-in says in its dependency text from which version
-/// on
-///   it works, "TRV,1.1.4"; the client holds that against kHostVersion before it calls anything but
-///   PluginInfo.
+/// - the SDK: headers and libraries of one version.
+///
+/// A plug-in says in its dependency text from which version of the client on it works, "TRV,1.1.4"; the
+/// client holds that against kHostVersion before it calls anything but PluginInfo.
 ///
 /// The client calls in this order: PluginInfo of all, then CheckEnvironment and Load of each, dependencies
 /// first, InitPlugin of all, SuiteLoaded of all; at the end UnLoad in the opposite order. All calls come on
