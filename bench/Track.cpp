@@ -8,7 +8,7 @@
 
 #include <tarvik/util/Geodesy.h>
 
-#include "seaplan/calculation/Pointset.h"
+#include "seaplan/data/Position.h"
 
 namespace Bench {
 

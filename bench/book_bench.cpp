@@ -7,7 +7,7 @@
 #include "bench/Memory.h"
 #include "bench/Track.h"
 #include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/RouteMessages.h"
 #include "seaplan/calculation/book/BookRecompute.h"
 
 namespace {

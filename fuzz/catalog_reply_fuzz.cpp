@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "seaplan/protocol/CatalogReply.h"
+#include "seaplan/protocol/CatalogMessages.h"
 
 using namespace Tarvik::Seaplan;
 

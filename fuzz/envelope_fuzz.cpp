@@ -17,9 +17,7 @@
 #include "seaplan/protocol/BookCommands.h"
 #include "seaplan/protocol/Exchange.h"
 #include "seaplan/protocol/PortCallCommands.h"
-#include "seaplan/protocol/RemarkExchange.h"
 #include "seaplan/protocol/RemarkList.h"
-#include "seaplan/protocol/StatusReply.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
 #include "tarvik/src/core/BusTesting.h"
 
@@ -69,8 +67,8 @@ void checkPaths() {
     Util::Jsona reply;
     const int code = SendText("{}", Interface::VoyCommand::ChangeVoyage, reply);
     require(code == 0 || code == -2);
-    RemarkBlock request;
-    RemarkBlock answer;
+    ServerBlock request;
+    ServerBlock answer;
     SendRemark("{}", request);
     const bool agreed = SyncServer(request, answer);
     require(answer != nullptr);

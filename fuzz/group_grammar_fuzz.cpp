@@ -6,8 +6,7 @@
 
 #include <tarvik/util/Jsona.h>
 
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/calculation/RouteMessages.h"
 
 using namespace Tarvik::Seaplan;
 

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/RouteMessages.h"
 #include "seaplan/calculation/ais/AisReplan.h"
-#include "seaplan/chart/LineSplit.h"
+#include "seaplan/chart/ChartLines.h"
+#include "seaplan/data/Position.h"
 
 using namespace Tarvik::Seaplan;
 

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/calculation/RouteMessages.h"
+#include "seaplan/data/Position.h"
 
 using namespace Tarvik::Seaplan;
 

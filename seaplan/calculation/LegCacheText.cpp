@@ -6,8 +6,8 @@
 
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/calculation/Units.h"
 #include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {

@@ -4,11 +4,11 @@
 #include <cmath>
 #include <cstdint>
 
-#include <tarvik/util/StringUtl.h>
-
-#include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/Position.h"
+#include "seaplan/data/TimeText.h"
 
 /// Dead reckoning on the plan: whole legs fall to either side of `now`; on the leg under way the rows are
 /// timed one by one from the departure, with the formula of the schedule, until the first one ahead of `now`,
@@ -16,8 +16,6 @@
 namespace Tarvik::Seaplan {
 
 namespace {
-
-using Util::StringUtl;
 
 void Append(const BookPoints& rows, PointTexts& list) {
     for (const PosBookPoint& row : rows) {
@@ -34,11 +32,11 @@ double HoursLeft(const Util::_datetime_t& end, const Util::_datetime_t& now) {
 /// Place after `covered` of the `distance` miles from a to b.
 std::string Interpolate(const Position& a, const Position& b, double covered, double distance) {
     if (distance <= 0) {
-        return StringUtl::Format("%.3f,%.3f", b.x, b.y);
+        return PositionText(b);
     }
     const double x = (b.x - a.x) * covered / distance + a.x;
     const double y = b.y - (distance - covered) * (b.y - a.y) / distance;
-    return StringUtl::Format("%.3f,%.3f", x, y);
+    return PositionText({x, y});
 }
 
 /// How a corrected voyage reads times: to half a minute, and not before its correction.
@@ -202,6 +200,27 @@ int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>
         }
     }
     return 0;
+}
+
+Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& position,
+                                   const Util::_datetime_t& now) {
+    Interface::VesselCard card;
+    card.vi = voyage.vi;
+    card.vsi = voyage.vsi;
+    card.vsn = voyage.vsn;
+    if (Position place; ReadPosition(position, 0, place)) {
+        card.vessel.x = place.x;
+        card.vessel.y = place.y;
+    }
+    card.vessel.time = GmtTimerOfPlanTime(now);
+    if (!voyage.portCalls.empty()) {
+        // Rows of a schedule have no port ids, the dictionary has.
+        card.vessel.firstPortName = voyage.portCalls.front().ppn;
+        card.vessel.firstPortId = PortIdOf(voyage.portCalls.front().ppn);
+        card.vessel.lastPortName = voyage.portCalls.back().ppn;
+        card.vessel.lastPortId = PortIdOf(voyage.portCalls.back().ppn);
+    }
+    return card;
 }
 
 }  // namespace Tarvik::Seaplan

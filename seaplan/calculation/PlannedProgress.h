@@ -4,7 +4,10 @@
 #include <map>
 #include <string>
 
-#include "seaplan/calculation/Pointset.h"
+#include <tarvik/interface/SiblingRecords.h>
+
+#include "seaplan/data/Position.h"
+#include "seaplan/data/VoyInfo.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
 
@@ -33,5 +36,11 @@ int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& gro
 int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
                       const Util::_datetime_t& correction, const Util::_datetime_t& now,
                       PlannedProgress& out);
+
+/// The card that the tracking plug-in shows for a voyage's vessel. `position` is the place of its icon,
+/// "x,y", or empty when it has none; `now` is the present time in the plan's reading. Cursor fields keep
+/// their defaults.
+Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& position,
+                                   const Util::_datetime_t& now);
 
 }  // namespace Tarvik::Seaplan

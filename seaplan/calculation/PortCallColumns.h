@@ -4,7 +4,6 @@
 #include <array>
 #include <string>
 
-#include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/VoyPortCall.h"

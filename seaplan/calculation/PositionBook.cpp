@@ -4,9 +4,9 @@
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/Units.h>
 
-#include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/Position.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <map>
+#include <vector>
 
 #include "seaplan/data/PointTables.h"
 #include "seaplan/data/RouteStop.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
 
-/// Making and timing the position book. Speeds in knots, distances in nautical miles.
+/// Making and timing the position book, and its legs. Speeds in knots, distances in nautical miles.
 namespace Tarvik::Seaplan {
 
 /// Slowest real speed of a row in knots with which its leg's figures and the ship's place are worked out.
@@ -39,5 +41,15 @@ int RescaleBookSpeeds(const PortCallRows& ports, BookPoints& rows);
 /// or -1 when either side has fewer than two ports or the fresh legs do not match theirs.
 int JoinKeepingLegs(const PortCallRows& oldPorts, const BookPoints& stored, const PortCallRows& newPorts,
                     const BookPoints& fresh, BookPoints& out);
+
+/// The rows of one leg by index, both ends included. Leg 0 is the start up to the first port; every later leg
+/// opens with the port row that closes the one before.
+struct BookLeg {
+    std::size_t first = 0;
+    std::size_t last = 0;
+};
+
+/// One leg for each port row of a book; rows behind the last port belong to none.
+std::vector<BookLeg> LegsOf(const BookPoints& rows);
 
 }  // namespace Tarvik::Seaplan

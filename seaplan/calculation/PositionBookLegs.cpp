@@ -4,11 +4,10 @@
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/Units.h>
 
-#include "seaplan/calculation/BookLegs.h"
 #include "seaplan/calculation/LegCacheText.h"
-#include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/Position.h"
 
 /// Figures of the book's legs. A leg's length and time are sums over its pairs of rows, so its speed is the
 /// length over the time, and scaling every row by one factor scales the leg's speed by the same. Kept legs
@@ -94,6 +93,16 @@ const BookLeg* TakeLeg(StoredLegs& stored, const std::string& key) {
 }
 
 }  // namespace
+
+std::vector<BookLeg> LegsOf(const BookPoints& rows) {
+    std::vector<BookLeg> legs;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (rows[i].pst == PortPoint) {
+            legs.push_back({legs.empty() ? 0 : legs.back().last, i});
+        }
+    }
+    return legs;
+}
 
 int LegTotalsFromBook(const VoyPositionBook& book, PortCallRows& ports) {
     if (ports.size() < 2) {

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/RouteReply.h"
-
 #include <cstdlib>
 #include <map>
 #include <optional>
 
-#include <tarvik/util/Geodesy.h>
 #include <tarvik/util/StringUtl.h>
 #include <tarvik/util/Units.h>
 
-#include "seaplan/calculation/Pointset.h"
+#include "seaplan/calculation/RouteMessages.h"
+#include "seaplan/data/Position.h"
 
 /// Reads the reply of the route engine into stops. Of a route point's variants the one holds whose range
 /// spans the fewest places of the chain of points that its stop passes. Cost: one pass over the reply; a
@@ -117,18 +115,10 @@ int ParseGroups(const Jsona& texts, int leg, RouteStop& stop) {
 int ParseSegments(const Jsona& segments, RouteStop& stop) {
     for (int i = 0; i < segments.size(); ++i) {
         const Jsona item = segments.get(i);
-        RouteSegment segment{item.getv("route", ""), item.getv("from_cd", ""), item.getv("end_cd", ""),
-                             item.getv("pointset", ""), 0};
-        float km = 0;
-        if (PointsetLength(segment.pointset, km) != 0) {
-            return -3;
-        }
-        segment.distance = static_cast<float>(Util::NmFromKm(static_cast<double>(km)));
-        stop.distance =
-            static_cast<float>(static_cast<double>(stop.distance) + static_cast<double>(segment.distance));
-        stop.routes.push_back(std::move(segment));
+        stop.routes.push_back({item.getv("route", ""), item.getv("from_cd", ""), item.getv("end_cd", ""),
+                               item.getv("pointset", ""), 0});
     }
-    return 0;
+    return MeasureSegments(stop) ? 0 : -3;
 }
 
 void ParseLocks(const std::string& text, RouteStop& stop) {
@@ -201,29 +191,17 @@ int ParseRoutePointGroup(const std::string& text, RoutePointGroup& out) {
     return 0;
 }
 
-int PointsetLength(const std::string& pointset, float& km) {
-    km = 0;
-    std::vector<std::string> points;
-    if (pointset.empty()) {
-        return 0;
-    }
-    if (!SplitPointset(pointset, points) || points.empty()) {
-        return -2;
-    }
-    Position previous;
-    if (!ReadPosition(points.front(), 0, previous)) {
-        return -3;
-    }
-    for (std::size_t i = 1; i < points.size(); ++i) {
-        Position here;
-        if (!ReadPosition(points[i], 0, here)) {
-            continue;
+bool MeasureSegments(RouteStop& stop) {
+    stop.distance = 0;
+    for (RouteSegment& segment : stop.routes) {
+        float km = 0;
+        if (PointsetLength(segment.pointset, km) != 0) {
+            return false;
         }
-        const double step = Util::CircleLineUtl::CalculateDistance(previous.x, previous.y, here.x, here.y);
-        km = static_cast<float>(static_cast<double>(km) + step);
-        previous = here;
+        segment.distance = static_cast<LengthNm>(Util::NmFromKm(static_cast<double>(km)));
+        stop.distance += segment.distance;
     }
-    return 0;
+    return true;
 }
 
 }  // namespace Tarvik::Seaplan

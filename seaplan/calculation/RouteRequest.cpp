@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/calculation/RouteMessages.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,10 +3,18 @@
 
 #include <string>
 
+#include "seaplan/data/PointTables.h"
 #include "seaplan/data/VoyPortCall.h"
 
-/// The arithmetic of the port call table, in knots, nautical miles and hours.
+/// The arithmetic of the port call table, in knots, nautical miles and hours, and what comes before it.
 namespace Tarvik::Seaplan {
+
+/// Gives row 0 the purpose "L" when it has none.
+void PrepareFirstPurpose(PortCallRows& rows);
+/// Leaves out every row that stands for the same place as the row before it in the list as read, by name or
+/// by link; rows that stay without a purpose take "D". 0, or -1 with `out` empty when fewer than two rows are
+/// left.
+int DropSamePortRows(const PortCallRows& rows, const SamePortLinks& links, PortCallRows& out);
 
 /// Slowest speed in knots, and largest weather factor, that a schedule is worked out with after an edit.
 inline constexpr double kLeastScheduleKnots = 0.01;

@@ -4,8 +4,12 @@
 #include <array>
 #include <string>
 
+#include <tarvik/util/DateTime.h>
+
+#include "seaplan/data/TimeText.h"
 #include "seaplan/data/VoyPortCall.h"
 
+/// Units of the port call table, and the exact texts in which numbers go into it and come back out.
 namespace Tarvik::Seaplan {
 
 /// The unit names of a table: speed "kts", "KPH" or "MPH", distance "NM" or "KM", time "hour" or "day".
@@ -36,5 +40,21 @@ int ConvertUnitValue(const PortCallRows& rows, const std::string& from, const st
 int ToStandardUnits(const PortCallRows& rows, const UnitSet& units, PortCallRows& out);
 /// From knots, nautical miles, hours to the given units; results as ToStandardUnits.
 int FromStandardUnits(const PortCallRows& rows, const UnitSet& units, PortCallRows& out);
+
+inline constexpr const char* kBlankCell = " ";
+
+/// Empty or one blank: no value.
+bool IsBlankCell(const std::string& text);
+/// These leave the field as it is when the cell has no value, and the last one also when it holds no time.
+void ReadTextCell(const std::string& cell, std::string& field);
+void ReadNumberCell(const std::string& cell, float& field);
+/// "12%" as 0.12: the sign at the end goes, whatever it is.
+void ReadPercentCell(const std::string& cell, float& field);
+void ReadTimeCell(const std::string& cell, Util::_datetime_t& field);
+std::string SpeedText(double speed);       ///< "%.2f"
+std::string WeatherText(double fraction);  ///< "%.0f%%" of the fraction times 100
+std::string PercentText(double percent);   ///< "%.0f%%"
+std::string TwoDecimals(double value);     ///< "%.2f"
+std::string OneDecimal(double value);      ///< "%.1f"
 
 }  // namespace Tarvik::Seaplan

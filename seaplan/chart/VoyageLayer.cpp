@@ -7,8 +7,8 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/util/FileUtl.h>
 
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/chart/ViewExtent.h"
+#include "seaplan/chart/ChartLines.h"
+#include "seaplan/data/Position.h"
 
 namespace Tarvik::Seaplan {
 

@@ -6,7 +6,7 @@
 
 #include <tarvik/interface/ChartRecords.h>
 
-#include "seaplan/chart/LineSplit.h"
+#include "seaplan/chart/ChartLines.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/RouteStop.h"
 

@@ -9,8 +9,7 @@
 
 #include <tarvik/util/FileUtl.h>
 
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/calculation/RouteMessages.h"
 #include "seaplan/controllers/RouteExchange.h"
 
 /// Known legs between two ports, by the ports' names and the direction. The whole file is read once, at the
@@ -34,19 +33,6 @@ std::filesystem::path CachePath(const std::string& name) {
     const std::string file = name.empty() ? "Ports.dat" : name;
     return Util::FileUtl::NativePath(Util::FileUtl::GetCurrentAppDirectory() + "\\businessdata\\seaplan\\" +
                                      file);
-}
-
-/// Lengths in km from the point sets; a cached leg stores none. False for points that do not parse.
-bool Measure(RouteStop& stop) {
-    float total = 0;
-    for (RouteSegment& segment : stop.routes) {
-        if (PointsetLength(segment.pointset, segment.distance) < 0) {
-            return false;
-        }
-        total += segment.distance;
-    }
-    stop.distance = total;
-    return true;
 }
 
 }  // namespace
@@ -126,7 +112,7 @@ Outcome<LegStep> CachedLegs::StopsOf(const PortCallRows& rows, RouteStops& out) 
         }
     }
     for (std::size_t i = 1; i < stops.size(); ++i) {
-        if (!Measure(stops[i])) {
+        if (!MeasureSegments(stops[i])) {
             return LegStep::Pointset;
         }
     }

@@ -33,7 +33,7 @@ inline constexpr CodeTable kStopsByCacheCodes{
 /// server.
 class CachedLegs {
   public:
-    /// One stop for each row, distances in km; a leg that is missing or older than 90 days is fetched and the
+    /// One stop for each row; a leg that is missing or older than 90 days is fetched and the
     /// file written at once. After a failure `out` is empty; legs that came before it stay in the file.
     Outcome<LegStep> StopsOf(const PortCallRows& rows, RouteStops& out);
 

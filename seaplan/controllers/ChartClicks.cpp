@@ -6,8 +6,8 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/SiblingContract.h>
 
-#include "seaplan/calculation/RouteRequest.h"
-#include "seaplan/calculation/VesselCards.h"
+#include "seaplan/calculation/PlannedProgress.h"
+#include "seaplan/calculation/RouteMessages.h"
 #include "seaplan/controllers/RouteExchange.h"
 
 namespace Tarvik::Seaplan {

@@ -6,10 +6,9 @@
 
 #include <tarvik/interface/ServerRequest.h>
 
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/RouteRequest.h"
-#include "seaplan/protocol/StatusReply.h"
+#include "seaplan/calculation/RouteMessages.h"
+#include "seaplan/data/Position.h"
+#include "seaplan/protocol/Exchange.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/calculation/RouteMessages.h"
 #include "seaplan/controllers/RouteExchange.h"
 
 namespace Tarvik::Seaplan {

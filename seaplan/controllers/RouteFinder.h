@@ -41,7 +41,7 @@ class RouteFinder {
     RouteFinder(PendingRoute& pending, PortDirectory& ports) : pending_(pending), ports_(ports) {}
 
     /// The route of the rows, by one request for the whole list or leg by leg through the cache. Each result
-    /// takes id and distance (NM of a whole list, km of cached legs) from its stop, the rest from its row.
+    /// takes id and distance from its stop, the rest from its row.
     /// After a failure `results` is empty and the pending route is what it was.
     Outcome<FindStep> Find(const PortCallRows& rows, PortCallRows& results, bool wholeList);
     /// Book rows of the pending route; empty after a failure.

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "seaplan/calculation/PositionBook.h"
-#include "seaplan/controllers/PortIds.h"
 #include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
 

@@ -5,7 +5,7 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
-#include "seaplan/controllers/PortIds.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {

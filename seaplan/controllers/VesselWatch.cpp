@@ -10,10 +10,12 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/interface/SiblingRecords.h>
+#include <tarvik/util/Clock.h>
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/data/Position.h"
 #include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
@@ -55,10 +57,6 @@ PositionMap AskPositions(const std::vector<std::string>& vessels) {
     return positions;
 }
 
-std::string PlaceText(double x, double y) {
-    return Util::StringUtl::Format("%.3f,%.3f", x, y);
-}
-
 bool IsNewer(int time, const std::string& place, const VoyInfo& voyage) {
     return static_cast<std::uint32_t>(time) > static_cast<std::uint32_t>(voyage.lastPosTime) &&
            place != voyage.lastPosText;
@@ -67,7 +65,7 @@ bool IsNewer(int time, const std::string& place, const VoyInfo& voyage) {
 /// Takes a newer position; a first number is saved first. False when that fails. A record without numbers
 /// for its place tells nothing.
 bool TakePosition(const VesselPosition& record, VoyCatalogController& catalog, VoyInfo& voyage) {
-    const std::string text = PlaceText(record.x, record.y);
+    const std::string text = PositionText({record.x, record.y});
     if (!std::isfinite(record.x) || !std::isfinite(record.y) || !IsNewer(record.time, text, voyage)) {
         return true;
     }
@@ -127,6 +125,8 @@ std::string AskTrack(const VoyInfo& voyage) {
     return answer == nullptr ? "" : *answer;
 }
 
+constexpr int kPeriodMs = 100000;
+
 }  // namespace
 
 Outcome<RefreshStep> VesselWatch::RefreshPositions() {
@@ -176,7 +176,7 @@ Outcome<TraceStep> VesselWatch::TakeTrack(VoyInfo& voyage, const std::vector<std
     using Util::StringUtl;
     const int time = static_cast<int>(StringUtl::ToLong(fields[0]));
     const int vsmsi = static_cast<int>(StringUtl::ToLong(fields[3]));
-    const std::string place = PlaceText(StringUtl::ToDouble(fields[1]), StringUtl::ToDouble(fields[2]));
+    const std::string place = PositionText({StringUtl::ToDouble(fields[1]), StringUtl::ToDouble(fields[2])});
     if (IsNewer(time, place, voyage)) {
         voyage.lastPosTime = time;
         voyage.lastPosText = place;
@@ -202,6 +202,21 @@ Outcome<TraceStep> VesselWatch::HideTrack(const std::string& vi) const {
         Interface::Call(Interface::Bus::HideAisTrack, &vessel);
     }
     return {};
+}
+
+void RefreshTimer::Start() {
+    Util::TimerService* timers = Util::TimerService::Current();
+    if (id_ == 0 && timers != nullptr) {
+        id_ = timers->Start(kPeriodMs, work_);
+    }
+}
+
+void RefreshTimer::Stop() {
+    Util::TimerService* timers = Util::TimerService::Current();
+    if (id_ != 0 && timers != nullptr) {
+        timers->Stop(id_);
+    }
+    id_ = 0;
 }
 
 }  // namespace Tarvik::Seaplan

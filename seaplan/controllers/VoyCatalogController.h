@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/controllers/CatalogNames.h"
 #include "seaplan/controllers/VoyageChanges.h"
+#include "seaplan/data/VoyageStore.h"
 
 namespace Tarvik::Seaplan {
 

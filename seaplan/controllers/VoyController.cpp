@@ -2,7 +2,7 @@
 #include "seaplan/controllers/VoyController.h"
 
 #include "seaplan/calculation/Schedule.h"
-#include "seaplan/controllers/PortIds.h"
+#include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
 

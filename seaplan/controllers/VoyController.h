@@ -4,7 +4,6 @@
 #include <functional>
 #include <string>
 
-#include "seaplan/controllers/RefreshTimer.h"
 #include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/controllers/ScheduleLoading.h"
 #include "seaplan/controllers/ScheduleSaving.h"

@@ -44,7 +44,7 @@ class VoyPortCallModule : public Core::TObject {
     // Routes
     /// RouteFinder::Find: kGetRouteCodes.
     int GetRoute(const PortCallRows& rows, PortCallRows& results, bool wholeList);
-    /// A stop for each row, leg by leg, in km; empty after a failure: kStopsByCacheCodes.
+    /// A stop for each row, leg by leg; empty after a failure: kStopsByCacheCodes.
     int GetStopsByCache(const PortCallRows& rows, RouteStops& out);
     /// ReadCacheFile. 0.
     int LoadCache(const std::string& name, LegCache& cache);

@@ -14,7 +14,7 @@
 #include "seaplan/calculation/ais/AisCorrection.h"
 #include "seaplan/calculation/ais/AisReplan.h"
 #include "seaplan/calculation/ais/AisRows.h"
-#include "seaplan/controllers/PortIds.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/TimeText.h"
 
 /// The plan is the measure: a position is put into it on request and never projected onto the route. The leg

@@ -2,12 +2,14 @@
 #include "seaplan/data/PortDirectory.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include <tarvik/interface/ValueDictionary.h>
 
 /// Typed names are found by binary search in a list that is sorted by name in upper case: a question costs
 /// the logarithm of the number of ports, and the names that begin with a text stand side by side.
 namespace Tarvik::Seaplan {
+
 namespace {
 
 constexpr const char* kPortsPath = "/points";
@@ -135,6 +137,22 @@ std::vector<std::string> PortDirectory::Match(const std::string& typed, std::siz
         out.push_back(it->second);
     }
     return out;
+}
+
+void ResolvePortIds(PortCallRows& rows) {
+    for (VoyPortCall& row : rows) {
+        if (row.ppi.empty()) {
+            row.ppi = PortIdOf(row.ppn);
+        }
+    }
+}
+
+void KeepPortIds(const PortCallRows& before, PortCallRows& rows) {
+    for (std::size_t i = 0; i < std::min(before.size(), rows.size()); ++i) {
+        if (rows[i].ppi.empty() && rows[i].ppn == before[i].ppn) {
+            rows[i].ppi = before[i].ppi;
+        }
+    }
 }
 
 }  // namespace Tarvik::Seaplan

@@ -8,7 +8,10 @@
 #include <vector>
 
 #include "seaplan/data/PointTables.h"
+#include "seaplan/data/VoyPortCall.h"
 
+/// Ports by id, name and place, and the ids in rows, which are looked up once, where the port is typed, and
+/// carried from then on. Whoever changes a row's name empties its id.
 namespace Tarvik::Seaplan {
 
 /// Id of a port by its English name, by the host's dictionary; empty when unknown.
@@ -68,5 +71,11 @@ class PortDirectory {
     std::vector<std::pair<std::string, std::string>> names_;  ///< folded name and name, in order
     NamesByLocal byLocal_;
 };
+
+/// Gives the rows that have no id that of their port by the host's dictionary; an unknown name gets none.
+void ResolvePortIds(PortCallRows& rows);
+/// Puts back the ids that a schedule pass left out of its rows; `before` are the rows that went into it. Rows
+/// that are not the same ports get none.
+void KeepPortIds(const PortCallRows& before, PortCallRows& rows);
 
 }  // namespace Tarvik::Seaplan

@@ -7,6 +7,8 @@
 
 #include <tarvik/util/DateTime.h>
 
+#include "seaplan/data/VoyPortCall.h"
+
 namespace Tarvik::Seaplan {
 
 /// One stretch between two named points; `pointset` is "x,y" pairs joined by "|".
@@ -15,7 +17,7 @@ struct RouteSegment {
     std::string from_cd;
     std::string end_cd;
     std::string pointset;
-    float distance = 0;  ///< nautical miles from a reply, km from the leg cache
+    LengthNm distance = 0;  ///< worked out by the reader from `pointset`
 };
 
 /// A route point that has alternatives. The range is the two ends of the stretch that it belongs to, "a,b".
@@ -35,7 +37,7 @@ struct RoutePointLock {
 /// One stop of a calculated route with the legs that end there; the first stop has none.
 struct RouteStop {
     std::string point_cd;
-    float distance = 0;
+    LengthNm distance = 0;  ///< of all its legs
     std::vector<RouteSegment> routes;
     std::vector<RoutePointGroup> rp_groups;
     std::string rp_id_str;

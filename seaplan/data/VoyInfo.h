@@ -1,15 +1,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
-#include "seaplan/data/BunkerFigures.h"
-#include "seaplan/data/VoyCategory.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
 
+/// What the server keeps of a category and of a voyage.
 namespace Tarvik::Seaplan {
+
+/// Id of a record that the server has not named yet.
+inline constexpr const char* kDefaultId = "1000000";
+
+/// Deletion state of a category or a voyage, as the store and the server hold it.
+enum DeletionState : int { InUse = 0, InRecycleBin = 1, Destroyed = 2 };
+
+/// One node of the tree's first level. Its deletion state lives in the store.
+struct VoyCategory {
+    std::string ci = kDefaultId;
+    std::string cn;
+    int crk = 0;  ///< 1 when the category has at least one remark
+};
+
+/// Place of each figure; dialog and wire keep this order.
+enum BunkerIndex : int { Vfn = 0, Vff, Vfa, Vdn, Vda, Vwn, Vwa, BunkerFigureCount };
+
+/// Daily consumption in kg/day: fuel oil in ballast, laden, in port; diesel oil under way, in port; fresh
+/// water under way, in port.
+using BunkerFigures = std::array<int, BunkerFigureCount>;
 
 /// One voyage. Its deletion state lives in the store, per category.
 struct VoyInfo {

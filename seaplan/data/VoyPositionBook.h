@@ -6,6 +6,8 @@
 
 #include <tarvik/util/DateTime.h>
 
+#include "seaplan/data/VoyPortCall.h"
+
 namespace Tarvik::Seaplan {
 
 /// Kind of a position book row, as stored in `pst`.
@@ -23,10 +25,10 @@ struct PosBookPoint {
     std::string psn;       ///< name
     std::string position;  ///< "x,y", longitude first, degrees
     std::string psr =
-        "GC";           ///< how the leg to this row is sailed: "GC" great circle, any other text rhumb line
-    int pli = 5;        ///< degrees of arc between the intermediate points of a great-circle leg
-    float psp = 10.0F;  ///< speed to this row, knots
-    float course = 0;   ///< course from the previous row, degrees
+        "GC";     ///< how the leg to this row is sailed: "GC" great circle, any other text rhumb line
+    int pli = 5;  ///< degrees of arc between the intermediate points of a great-circle leg
+    SpeedKnots psp = 10.0F;  ///< speed to this row
+    float course = 0;        ///< course from the previous row, degrees
     Util::_datetime_t eta;
     Util::_datetime_t etd;
     int pst = PlainPoint;

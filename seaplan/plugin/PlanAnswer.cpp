@@ -9,7 +9,7 @@
 
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/calculation/Schedule.h"
-#include "seaplan/chart/LineSplit.h"
+#include "seaplan/chart/ChartLines.h"
 #include "seaplan/panels/language/LoadText.h"
 
 namespace Tarvik::Seaplan {

@@ -3,7 +3,6 @@
 
 #include <cmath>
 
-#include "seaplan/calculation/PortPreparation.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyCatalogController.h"

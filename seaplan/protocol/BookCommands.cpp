@@ -8,10 +8,9 @@
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/protocol/CatalogTexts.h"
+#include "seaplan/data/Position.h"
+#include "seaplan/protocol/CatalogMessages.h"
 #include "seaplan/protocol/Exchange.h"
-#include "seaplan/protocol/StatusReply.h"
-#include "seaplan/protocol/WireUnits.h"
 
 namespace Tarvik::Seaplan {
 
@@ -54,17 +53,25 @@ bool AppendRow(int index, const PosBookPoint& point, int speedDecimals, std::str
     return true;
 }
 
-/// Sends one block; `first` is the number of its first step.
-int SendBlock(const std::string& id, const BookPoints& rows, int begin, int end, int first) {
+enum class BlockStep { Position, Send, Refused };
+/// Numbers of a book that goes out in one request.
+constexpr CodeTable kOneRequestCodes{Code{BlockStep::Position, -2}, Code{BlockStep::Send, -3},
+                                     Code{BlockStep::Refused, -4}};
+/// Numbers of a book that goes out in blocks.
+constexpr CodeTable kBlocksCodes{Code{BlockStep::Position, -5}, Code{BlockStep::Send, -6},
+                                 Code{BlockStep::Refused, -7}};
+
+/// Sends the rows from `begin` to before `end`.
+Outcome<BlockStep> SendBlock(const std::string& id, const BookPoints& rows, int begin, int end) {
     std::string text;
     if (!BookRowsText(id, rows, begin, end, begin > 0, text)) {
-        return first;
+        return BlockStep::Position;
     }
     Util::Jsona reply;
     if (SendText(text, VoyCommand::SaveBookRows, reply) < 0) {
-        return first - 1;
+        return BlockStep::Send;
     }
-    return IsSuccess(reply) ? 0 : first - 2;
+    return IsSuccess(reply) ? Outcome<BlockStep>() : BlockStep::Refused;
 }
 
 int CreateBook(const std::string& vi, const std::string& date, std::string& id) {
@@ -88,7 +95,7 @@ int CreateBook(const std::string& vi, const std::string& date, std::string& id) 
 std::string PositionText(const Util::Jsona& row) {
     const auto x = static_cast<float>(Coordinate(row, "xc"));
     const auto y = static_cast<float>(Coordinate(row, "yc"));
-    return StringUtl::Format("%.3f,%.3f", static_cast<double>(x), static_cast<double>(y));
+    return PositionText(Position{static_cast<double>(x), static_cast<double>(y)});
 }
 
 int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book) {
@@ -183,12 +190,12 @@ int SavePositionBookRows(const std::string& id, const BookPoints& rows) {
     }
     const int count = static_cast<int>(rows.size());
     if (count < kBookBlockRows) {
-        return SendBlock(id, rows, 0, count, -2);
+        return kOneRequestCodes.Of(SendBlock(id, rows, 0, count));
     }
     for (int begin = 0; begin < count; begin += kBookBlockRows) {
-        const int failed = SendBlock(id, rows, begin, std::min(begin + kBookBlockRows, count), -5);
-        if (failed < 0) {
-            return failed;
+        const auto sent = SendBlock(id, rows, begin, std::min(begin + kBookBlockRows, count));
+        if (sent.Failed()) {
+            return kBlocksCodes.Of(sent);
         }
     }
     return 0;

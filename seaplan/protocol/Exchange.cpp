@@ -2,13 +2,11 @@
 #include "seaplan/protocol/Exchange.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
-#include <memory>
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
-#include <tarvik/core/TObject.h>
-#include <tarvik/interface/ServerRequest.h>
 
 #include "seaplan/data/TimeText.h"
 
@@ -23,31 +21,36 @@ namespace Bus = Interface::Bus;
 constexpr const char* kFirstConvertedOnWriting = "2011-10-02 08:00:00";
 constexpr const char* kFirstConvertedOnReading = "2011-10-02 00:00:00";
 
-struct BlockFree {
-    void operator()(Interface::VoyServerRequest* block) const { Core::FreeBusBlock(block); }
-};
-using Block = std::unique_ptr<Interface::VoyServerRequest, BlockFree>;
+constexpr std::size_t kFirstCapacity = 256;
 
-/// The host's reply, null without one. The request lives as long as the call.
-Block Exchange(const Util::CAutoBuffer& text, std::uint16_t command) {
-    const std::size_t length = text.size();
-    const Block request(static_cast<Interface::VoyServerRequest*>(
+/// A request with `length` bytes of payload; null when there is no memory for it.
+ServerBlock MakeRequest(std::uint16_t moduleWord, std::uint16_t command, const char* payload,
+                        std::size_t length) {
+    ServerBlock request(static_cast<Interface::VoyServerRequest*>(
         Core::AllocateBusBlock(sizeof(Interface::VoyServerRequest) + length)));
+    if (request) {
+        request->length = static_cast<std::uint32_t>(length);
+        request->command = command;
+        request->moduleWord = moduleWord;
+        std::memcpy(request->Payload(), payload, length);
+    }
+    return request;
+}
+
+/// The host's reply, null without one.
+ServerBlock Exchange(const ServerBlock& request) {
     if (!request) {
         return nullptr;
     }
-    request->length = static_cast<std::uint32_t>(length);
-    request->command = command;
-    request->moduleWord = Interface::kVoyageModuleWord;
-    std::memcpy(request->Payload(), text.begin(), length);
     const Interface::VoyServerRequest* input = request.get();
-    return Block(Interface::Call(Bus::ServerExchange, input));
+    return ServerBlock(Interface::Call(Bus::ServerExchange, input));
 }
 
 }  // namespace
 
 int SendRequest(const Util::CAutoBuffer& text, std::uint16_t command, Util::Jsona& reply) {
-    const Block block = Exchange(text, command);
+    const ServerBlock block =
+        Exchange(MakeRequest(Interface::kVoyageModuleWord, command, text.begin(), text.size()));
     if (!block) {
         return -1;
     }
@@ -102,6 +105,45 @@ int FromServerTime(const std::string& server, std::string& out) {
     }
     out = Util::DateTimeUtl::ConvertFromUTC(utc, *zone).fmt(kTimeFormat);
     return 0;
+}
+
+int SendText(const std::string& text, Interface::VoyCommand command, Util::Jsona& reply) {
+    Util::CAutoBuffer buffer(kFirstCapacity);
+    Util::CBlockBuffer::format0(buffer, "%s", text.c_str());
+    return SendRequest(buffer, Interface::NumberOf(command), reply);
+}
+
+bool IsSuccess(const Util::Jsona& reply) {
+    return reply.getv("eid", -1) == 0;
+}
+
+Outcome<CommandStep> SendChange(const std::string& text, Interface::VoyCommand command, Util::Jsona& reply) {
+    if (SendText(text, command, reply) < 0) {
+        return CommandStep::Send;
+    }
+    if (reply.size() < 1) {
+        return CommandStep::Empty;
+    }
+    return IsSuccess(reply) ? Outcome<CommandStep>() : CommandStep::Refused;
+}
+
+Outcome<CommandStep> SendChange(const std::string& text, Interface::VoyCommand command) {
+    Util::Jsona reply;
+    return SendChange(text, command, reply);
+}
+
+void SendRemark(const std::string& text, ServerBlock& request) {
+    request = MakeRequest(Interface::kRemarkModuleWord, Interface::NumberOf(Interface::VoyCommand::Remarks),
+                          text.c_str(), std::strlen(text.c_str()) + 1);
+}
+
+bool SyncServer(const ServerBlock& request, ServerBlock& reply) {
+    reply = Exchange(request);
+    if (!reply) {
+        return false;
+    }
+    Util::Jsona status;
+    return !status.parse(reply->Payload()) || !status.has("eid") || status.getv("eid", -1) == 0;
 }
 
 }  // namespace Tarvik::Seaplan

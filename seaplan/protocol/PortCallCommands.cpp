@@ -7,9 +7,8 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/data/PortDirectory.h"
-#include "seaplan/protocol/CatalogTexts.h"
-#include "seaplan/protocol/StatusReply.h"
-#include "seaplan/protocol/WireUnits.h"
+#include "seaplan/protocol/CatalogMessages.h"
+#include "seaplan/protocol/Exchange.h"
 
 namespace Tarvik::Seaplan {
 

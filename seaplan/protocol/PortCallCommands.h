@@ -5,7 +5,7 @@
 
 #include <tarvik/util/Jsona.h>
 
-#include "seaplan/data/BunkerFigures.h"
+#include "seaplan/data/VoyInfo.h"
 #include "seaplan/data/VoyPortCall.h"
 
 /// Commands of port calls and consumption figures. Speeds are km/h on the wire and knots in memory.

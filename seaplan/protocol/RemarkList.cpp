@@ -6,27 +6,25 @@
 #include <utility>
 
 #include "seaplan/data/TimeText.h"
-#include "seaplan/protocol/RemarkExchange.h"
-#include "seaplan/protocol/RemarkReply.h"
-#include "seaplan/protocol/RemarkTexts.h"
-#include "seaplan/protocol/RemarkTime.h"
+#include "seaplan/protocol/Exchange.h"
+#include "seaplan/protocol/RemarkMessages.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
 /// A text that does not fit `capacity` bytes with its NUL is not sent and counts as failed.
-bool Exchange(const std::string& text, std::size_t capacity, RemarkBlock& reply) {
+bool Exchange(const std::string& text, std::size_t capacity, ServerBlock& reply) {
     if (text.size() >= capacity) {
         return false;
     }
-    RemarkBlock request;
+    ServerBlock request;
     SendRemark(text, request);
     return SyncServer(request, reply);
 }
 
 bool Exchange(const std::string& text, std::size_t capacity) {
-    RemarkBlock reply;
+    ServerBlock reply;
     return Exchange(text, capacity, reply);
 }
 
@@ -39,7 +37,7 @@ bool IsNamed(const CRemark& remark, int type, const std::string& objectid) {
 bool RemarkList::LoadRemarks(int type, const std::string& objectid) {
     // One of the remarks that go may name the object, so they last until the end.
     const auto gone = std::exchange(remarks_, {});
-    RemarkBlock reply;
+    ServerBlock reply;
     if (!Exchange(LoadRemarksText(type, objectid), kRemarkNameBytes, reply)) {
         return false;
     }

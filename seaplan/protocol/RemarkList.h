@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/protocol/CRemark.h"
+#include "seaplan/protocol/RemarkMessages.h"
 
 namespace Tarvik::Seaplan {
 

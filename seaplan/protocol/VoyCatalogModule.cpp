@@ -3,10 +3,8 @@
 
 #include <set>
 
-#include "seaplan/protocol/CatalogReply.h"
-#include "seaplan/protocol/CatalogTexts.h"
+#include "seaplan/protocol/CatalogMessages.h"
 #include "seaplan/protocol/Exchange.h"
-#include "seaplan/protocol/StatusReply.h"
 
 namespace Tarvik::Seaplan {
 
@@ -15,23 +13,44 @@ namespace {
 using Interface::VoyCommand;
 
 /// Runs a creating command and takes the new record's id from member `key` of the status.
-int Create(const std::string& text, VoyCommand command, const char* key, std::string& id) {
+Outcome<CommandStep> Create(const std::string& text, VoyCommand command, const char* key, std::string& id) {
     Util::Jsona reply;
-    if (const int failed = SendChange(text, command, -2, reply); failed < 0) {
+    if (const auto failed = SendChange(text, command, reply); failed.Failed()) {
         return failed;
     }
     const std::string made = reply.getv(key, "");
     if (made.empty()) {
-        return -5;
+        return CommandStep::Id;
     }
     id = made;
-    return 0;
+    return {};
 }
 
-/// True with `on` set for the two mode words that exist.
-bool ReadMode(const std::string& mode, bool& on) {
-    on = mode == "open";
-    return on || mode == "close";
+/// Sends unless something that the command needs is empty.
+Outcome<CommandStep> SendUnless(bool empty, const std::string& text, VoyCommand command) {
+    return empty ? CommandStep::Input : SendChange(text, command);
+}
+
+/// Switches something of a voyage by one of the two mode words that exist.
+Outcome<CommandStep> Switch(const std::string& vi, const std::string& mode,
+                            std::string (*text)(const std::string& vi, bool on)) {
+    const bool on = mode == "open";
+    if (vi.empty()) {
+        return CommandStep::Input;
+    }
+    return on || mode == "close" ? SendChange(text(vi, on), VoyCommand::ChangeVoyage)
+                                 : CommandStep::Preparation;
+}
+
+Outcome<CommandStep> AddTime(const std::string& vi, const std::string& time) {
+    std::string serverTime;
+    if (vi.empty()) {
+        return CommandStep::Input;
+    }
+    if (ToServerTime(time, serverTime) < 0) {
+        return CommandStep::Preparation;
+    }
+    return SendChange(AddAisModTimeText(vi, serverTime), VoyCommand::AddAisTime);
 }
 
 }  // namespace
@@ -63,63 +82,51 @@ int VoyCatalogModule::LoadAll(const std::string& user) {
 }
 
 int VoyCatalogModule::CreateCategory(const std::string& name, std::string& ci) {
-    return name.empty() ? -1 : Create(CreateCategoryText(name), VoyCommand::ChangeCategory, "ci", ci);
+    return kCommandCodes.Of(name.empty()
+                                ? CommandStep::Input
+                                : Create(CreateCategoryText(name), VoyCommand::ChangeCategory, "ci", ci));
 }
 
 int VoyCatalogModule::RenameCategory(const std::string& ci, const std::string& name) {
-    return ci.empty() || name.empty() ? -1
-                                      : SendChange(RenameCategoryText(ci, name), VoyCommand::ChangeCategory);
+    return kCommandCodes.Of(
+        SendUnless(ci.empty() || name.empty(), RenameCategoryText(ci, name), VoyCommand::ChangeCategory));
 }
 
 int VoyCatalogModule::ChangeCategoryState(const std::string& ci, int type) {
-    return ci.empty() ? -1 : SendChange(CategoryStateText(ci, type), VoyCommand::ChangeCategory);
+    return kCommandCodes.Of(SendUnless(ci.empty(), CategoryStateText(ci, type), VoyCommand::ChangeCategory));
 }
 
 int VoyCatalogModule::CreateVoyage(const std::string& name, const std::string& ci, std::string& vi) {
-    return name.empty() ? -1 : Create(CreateVoyageText(ci, name), VoyCommand::ChangeVoyage, "vi", vi);
+    return kCommandCodes.Of(name.empty()
+                                ? CommandStep::Input
+                                : Create(CreateVoyageText(ci, name), VoyCommand::ChangeVoyage, "vi", vi));
 }
 
 int VoyCatalogModule::RenameVoyage(const std::string& vi, const std::string& name) {
-    return vi.empty() || name.empty() ? -1 : SendChange(RenameVoyageText(vi, name), VoyCommand::ChangeVoyage);
+    return kCommandCodes.Of(
+        SendUnless(vi.empty() || name.empty(), RenameVoyageText(vi, name), VoyCommand::ChangeVoyage));
 }
 
 int VoyCatalogModule::ChangeVoyageState(const std::string& vi, int type) {
-    return vi.empty() ? -1 : SendChange(VoyageStateText(vi, type), VoyCommand::ChangeVoyage);
+    return kCommandCodes.Of(SendUnless(vi.empty(), VoyageStateText(vi, type), VoyCommand::ChangeVoyage));
 }
 
 int VoyCatalogModule::ChangeVessel(const std::string& vi, const std::string& vsi, const std::string& vsn,
                                    int vsmsi) {
-    if (vi.empty() || (vsi.empty() && vsn.empty())) {
-        return -1;
-    }
-    return SendChange(ChangeVesselText(vi, vsi, vsn, vsmsi), VoyCommand::ChangeVoyage);
+    return kCommandCodes.Of(SendUnless(vi.empty() || (vsi.empty() && vsn.empty()),
+                                       ChangeVesselText(vi, vsi, vsn, vsmsi), VoyCommand::ChangeVoyage));
 }
 
 int VoyCatalogModule::SetRouteDisplay(const std::string& vi, const std::string& mode) {
-    bool on = false;
-    if (vi.empty()) {
-        return -1;
-    }
-    return ReadMode(mode, on) ? SendChange(RouteDisplayText(vi, on), VoyCommand::ChangeVoyage, -3) : -2;
+    return kPreparedCommandCodes.Of(Switch(vi, mode, RouteDisplayText));
 }
 
 int VoyCatalogModule::SetAisTracing(const std::string& vi, const std::string& mode) {
-    bool on = false;
-    if (vi.empty()) {
-        return -1;
-    }
-    return ReadMode(mode, on) ? SendChange(AisTracingText(vi, on), VoyCommand::ChangeVoyage, -3) : -2;
+    return kPreparedCommandCodes.Of(Switch(vi, mode, AisTracingText));
 }
 
 int VoyCatalogModule::AddAisModTime(const std::string& vi, const std::string& time) {
-    std::string serverTime;
-    if (vi.empty()) {
-        return -1;
-    }
-    if (ToServerTime(time, serverTime) < 0) {
-        return -2;
-    }
-    return SendChange(AddAisModTimeText(vi, serverTime), VoyCommand::AddAisTime, -3);
+    return kPreparedCommandCodes.Of(AddTime(vi, time));
 }
 
 int VoyCatalogModule::GetAisModTimes(const std::string& vi, std::vector<std::string>& times) {

@@ -4,9 +4,9 @@
 #include <map>
 #include <utility>
 
-#include "seaplan/calculation/NumberForms.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/calculation/Units.h"
 #include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {

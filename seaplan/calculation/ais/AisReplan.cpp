@@ -5,12 +5,10 @@
 #include <iterator>
 #include <utility>
 
-#include <tarvik/util/StringUtl.h>
-
-#include "seaplan/calculation/NumberForms.h"
-#include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Units.h"
 #include "seaplan/calculation/ais/AisRows.h"
+#include "seaplan/data/Position.h"
 
 namespace Tarvik::Seaplan {
 
@@ -21,7 +19,7 @@ constexpr float kFirstSpeed = 10.0F;
 /// A position in the three decimals by which the ship's own is told.
 std::string ThreeDecimals(const std::string& text) {
     Position place;
-    return ReadPosition(text, 0, place) ? Util::StringUtl::Format("%.3f,%.3f", place.x, place.y) : text;
+    return ReadPosition(text, 0, place) ? PositionText(place) : text;
 }
 
 /// The way to the first planned port; its last point is the port.

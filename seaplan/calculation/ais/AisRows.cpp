@@ -10,10 +10,10 @@
 
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/calculation/NumberForms.h"
-#include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/calculation/Units.h"
+#include "seaplan/data/Position.h"
 
 namespace Tarvik::Seaplan {
 
@@ -60,7 +60,7 @@ VoyPortCall AisRow(const PosBookPoint& point, const Stretch& stretch) {
     Position place;
     ReadPosition(point.position, 0, place);
     VoyPortCall row;
-    row.ppn = Util::StringUtl::Format("%.3f,%.3f", place.y, place.x);
+    row.ppn = PositionText({place.y, place.x});
     row.pp = kAisPurpose;
     row.eta = point.etd;
     row.etd = point.etd;

@@ -6,9 +6,9 @@
 #include <tarvik/util/StringUtl.h>
 #include <tarvik/util/Units.h>
 
-#include "seaplan/calculation/Pointset.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/Position.h"
 #include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
@@ -92,7 +92,7 @@ PosBookPoint StoredPoint(const PosBookPlace& place, int kind, int decimals) {
     PosBookPoint point;
     point.pointId = place.id;
     point.psn = place.name;
-    point.position = StringUtl::Format("%.*f,%.*f", decimals, place.x, decimals, place.y);
+    point.position = PositionText({place.x, place.y}, decimals);
     point.psr = place.track;
     point.pli = place.interval;
     point.psp = Knots(place.speed);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "seaplan/calculation/PortPreparation.h"
+#include "seaplan/calculation/Schedule.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,7 +4,8 @@
 
 #include <tarvik/util/Geodesy.h>
 
-#include "seaplan/calculation/RouteReply.h"
+#include "seaplan/calculation/RouteMessages.h"
+#include "seaplan/data/Position.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/calculation/RouteMessages.h"
 
 namespace Tarvik::Seaplan {
 

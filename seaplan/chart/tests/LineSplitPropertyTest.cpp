@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "seaplan/chart/LineSplit.h"
+#include "seaplan/chart/ChartLines.h"
 
 namespace Tarvik::Seaplan {
 

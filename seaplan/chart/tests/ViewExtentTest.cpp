@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "seaplan/chart/ViewExtent.h"
+#include "seaplan/chart/ChartLines.h"
 
 namespace Tarvik::Seaplan {
 

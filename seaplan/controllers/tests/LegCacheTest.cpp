@@ -33,15 +33,15 @@ class LegCacheTest : public RouteFixture {
     RouteStops stops;
 };
 
-TEST_F(LegCacheTest, LegIsFetchedOnceAndMeasuredInKilometres) {
+TEST_F(LegCacheTest, LegIsFetchedOnceAndMeasuredInNauticalMiles) {
     host.Reply(1, kRouteAb);
     EXPECT_EQ(module.GetRoute(TypedRows(), rows, false), 0);
-    EXPECT_NEAR(rows[1].distance, 111.319F, 0.01F);
+    EXPECT_NEAR(rows[1].distance, 60.107F, 0.01F);
     EXPECT_EQ(CacheText(),
               "2024-03-01 00:00:00:-:A:-:B:-:40001:-:40002:---:1:-:40001:-:40002:-:"
               "0.000,0.000|0.500,0.000|1.000,0.000:---::---:\n");
     EXPECT_EQ(module.GetRoute(TypedRows(), rows, false), 0);
-    EXPECT_NEAR(rows[1].distance, 111.319F, 0.01F);
+    EXPECT_NEAR(rows[1].distance, 60.107F, 0.01F);
     EXPECT_EQ(host.Texts(),
               Texts{R"(1 {"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"40001#40002"})"});
 }
@@ -50,7 +50,7 @@ TEST_F(LegCacheTest, FileServesTheNextRunWithoutTheServer) {
     WriteCache(LineAb("2024-02-01 00:00:00", "0.000,0.000|1.000,0.000"));
     EXPECT_EQ(module.GetRoute(TypedRows(), rows, false), 0);
     EXPECT_EQ(rows[1].ppi, "40002");
-    EXPECT_NEAR(rows[1].distance, 111.319F, 0.01F);
+    EXPECT_NEAR(rows[1].distance, 60.107F, 0.01F);
     EXPECT_TRUE(host.requests.empty());
 }
 
@@ -111,7 +111,7 @@ TEST_F(LegCacheTest, BadLineIsPassedOver) {
     WriteCache(LineAb("2024-02-01 00:00:0", "0,0|9,0") + LineAb("2024-02-01 00:00:00", "0,0|1,0") +
                LineAb("2024-02-02 00:00:00", "0,0:-:9,0"));
     EXPECT_EQ(module.GetRoute(TypedRows(), rows, false), 0);
-    EXPECT_NEAR(rows[1].distance, 111.319F, 0.01F);
+    EXPECT_NEAR(rows[1].distance, 60.107F, 0.01F);
     EXPECT_TRUE(host.requests.empty());
 }
 

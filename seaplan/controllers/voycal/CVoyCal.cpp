@@ -9,10 +9,9 @@
 #include <tarvik/interface/ValueDictionary.h>
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/calculation/Pointset.h"
-#include "seaplan/controllers/voycal/SampleReply.h"
 #include "seaplan/controllers/voycal/VoyCalDrawing.h"
 #include "seaplan/controllers/voycal/VoyCalReply.h"
+#include "seaplan/data/Position.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "seaplan/calculation/PortPreparation.h"
+#include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/Messages.h"
 
 namespace Tarvik::Seaplan {

@@ -4,7 +4,6 @@
 #include <functional>
 #include <string>
 
-#include "seaplan/controllers/PortIds.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/TextKeys.h"

@@ -7,7 +7,7 @@
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/util/DateTimeUtl.h>
 
-#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/Units.h"
 #include "seaplan/panels/tree/ItemNames.h"
 
 namespace Tarvik::Seaplan {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/TreeBuilder.h"
 
-#include "seaplan/calculation/NumberForms.h"
+#include "seaplan/calculation/Units.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeCounts.h"

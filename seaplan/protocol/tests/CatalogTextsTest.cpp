@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "seaplan/protocol/CatalogTexts.h"
+#include "seaplan/protocol/CatalogMessages.h"
 
 namespace Tarvik::Seaplan {
 

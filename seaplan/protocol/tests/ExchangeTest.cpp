@@ -4,7 +4,6 @@
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/protocol/Exchange.h"
-#include "seaplan/protocol/StatusReply.h"
 #include "tarvik/src/core/BusTesting.h"
 #include "testsupport/RecordingHost.h"
 
@@ -91,19 +90,19 @@ TEST(SendTextTest, PercentSignsGoInAsTheyStand) {
     EXPECT_EQ(host.requests[0].Text(), "{cn:\"50%s\"}");
 }
 
-TEST(SendChangeTest, LadderBeginsAtTheGivenStep) {
+TEST(SendChangeTest, LaddersTellTheStepThatFailed) {
     RecordingHost host;
     host.ReplyNothing(4);
     host.Reply(4, "{}");
     host.Reply(4, "{eid:7}");
     host.Reply(4, "{ci:\"1\"}");
     host.Reply(4, "{eid:0}");
-    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), -3);
-    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), -4);
-    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), -5);
-    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), -5)
+    EXPECT_EQ(kPreparedCommandCodes.Of(SendChange("x", Interface::VoyCommand::ChangeCategory)), -3);
+    EXPECT_EQ(kPreparedCommandCodes.Of(SendChange("x", Interface::VoyCommand::ChangeCategory)), -4);
+    EXPECT_EQ(kPreparedCommandCodes.Of(SendChange("x", Interface::VoyCommand::ChangeCategory)), -5);
+    EXPECT_EQ(kPreparedCommandCodes.Of(SendChange("x", Interface::VoyCommand::ChangeCategory)), -5)
         << "a status without eid is a failure";
-    EXPECT_EQ(SendChange("x", Interface::VoyCommand::ChangeCategory, -3), 0);
+    EXPECT_EQ(kPreparedCommandCodes.Of(SendChange("x", Interface::VoyCommand::ChangeCategory)), 0);
 }
 
 TEST(SendTextTest, StatusOfAnotherKindThanIntegerIsNoSuccess) {

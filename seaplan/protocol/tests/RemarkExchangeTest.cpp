@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "seaplan/protocol/RemarkExchange.h"
+#include "seaplan/protocol/Exchange.h"
 #include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
@@ -10,8 +10,8 @@ namespace {
 
 TEST(SendRemarkTest, EnvelopeIsByteExact) {
     TestSupport::RecordingHost host;
-    RemarkBlock request;
-    RemarkBlock reply;
+    ServerBlock request;
+    ServerBlock reply;
     SendRemark("{optype:\"4\"}", request);
     SyncServer(request, reply);
     ASSERT_EQ(host.requests.size(), 1U);
@@ -21,7 +21,7 @@ TEST(SendRemarkTest, EnvelopeIsByteExact) {
 }
 
 TEST(SendRemarkTest, EmptyTextIsItsNulAlone) {
-    RemarkBlock request;
+    ServerBlock request;
     SendRemark("", request);
     ASSERT_NE(request, nullptr);
     EXPECT_EQ(request->length, 1U);
@@ -29,7 +29,7 @@ TEST(SendRemarkTest, EmptyTextIsItsNulAlone) {
 }
 
 TEST(SendRemarkTest, TextEndsAtItsFirstNul) {
-    RemarkBlock request;
+    ServerBlock request;
     SendRemark(std::string("ab\0cd", 5), request);
     EXPECT_EQ(request->length, 3U);
     EXPECT_STREQ(request->Payload(), "ab");
@@ -39,17 +39,17 @@ class SyncServerTest : public testing::Test {
   protected:
     bool Sync(const std::string& json) {
         host.Reply(9, json);
-        RemarkBlock request;
+        ServerBlock request;
         SendRemark("{}", request);
         return SyncServer(request, reply);
     }
 
     TestSupport::RecordingHost host;
-    RemarkBlock reply;
+    ServerBlock reply;
 };
 
 TEST_F(SyncServerTest, WithoutReplyFails) {
-    RemarkBlock request;
+    ServerBlock request;
     SendRemark("{}", request);
     EXPECT_FALSE(SyncServer(request, reply));
     EXPECT_EQ(reply, nullptr);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "seaplan/protocol/RemarkReply.h"
+#include "seaplan/protocol/RemarkMessages.h"
 #include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "seaplan/protocol/RemarkTexts.h"
+#include "seaplan/protocol/RemarkMessages.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "seaplan/protocol/RemarkTime.h"
+#include "seaplan/protocol/RemarkMessages.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingHost.h"
 

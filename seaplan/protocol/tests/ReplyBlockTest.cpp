@@ -4,8 +4,6 @@
 
 #include "RawReplyHost.h"
 #include "seaplan/protocol/Exchange.h"
-#include "seaplan/protocol/RemarkExchange.h"
-#include "seaplan/protocol/StatusReply.h"
 
 namespace Tarvik::Seaplan {
 
@@ -42,8 +40,8 @@ TEST(ReplyBlockTest, EmptyTextDoesNotParse) {
 
 TEST(ReplyBlockTest, RemarkPathReadsItsTextAtTheSamePlace) {
     const RawReplyHost refused("\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF{eid:7}\0{eid:0}"s);
-    RemarkBlock request;
-    RemarkBlock reply;
+    ServerBlock request;
+    ServerBlock reply;
     SendRemark("{}", request);
     EXPECT_FALSE(SyncServer(request, reply));
     ASSERT_NE(reply, nullptr);

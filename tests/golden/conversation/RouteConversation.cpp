@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/graph/adapter/GraphRouteSource.h"
 #include "host/server/graph/tests/SmallSea.h"
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/RouteRequest.h"
-#include "seaplan/protocol/StatusReply.h"
+#include "seaplan/calculation/RouteMessages.h"
+#include "seaplan/protocol/Exchange.h"
 #include "tests/golden/conversation/Conversation.h"
 
 namespace Tarvik::Server {

@@ -10,8 +10,8 @@
 
 #include <tarvik/interface/BusContract.h>
 
-#include "seaplan/calculation/PortPreparation.h"
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/Schedule.h"
 #include "tests/golden/voyages/SeaServer.h"
 #include "tests/golden/voyages/VoyageTexts.h"
 

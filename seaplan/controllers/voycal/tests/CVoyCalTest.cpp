@@ -10,7 +10,7 @@
 #include <tarvik/interface/ValueDictionary.h>
 
 #include "seaplan/controllers/voycal/CVoyCal.h"
-#include "seaplan/controllers/voycal/SampleReply.h"
+#include "seaplan/controllers/voycal/VoyCalReply.h"
 #include "seaplan/controllers/voycal/tests/VoyCalChart.h"
 #include "tarvik/src/core/BusTesting.h"
 #include "testsupport/DataFolder.h"

@@ -5,7 +5,6 @@
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/Jsona.h>
 
-#include "seaplan/controllers/voycal/SampleReply.h"
 #include "seaplan/controllers/voycal/VoyCalReply.h"
 
 namespace Tarvik::Seaplan {

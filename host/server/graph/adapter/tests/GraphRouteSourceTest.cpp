@@ -9,8 +9,7 @@
 #include "host/server/graph/adapter/GraphRouteSource.h"
 #include "host/server/graph/adapter/RouteMessages.h"
 #include "host/server/graph/tests/SmallSea.h"
-#include "seaplan/calculation/RouteReply.h"
-#include "seaplan/calculation/RouteRequest.h"
+#include "seaplan/calculation/RouteMessages.h"
 
 namespace Tarvik::Server {
 

@@ -4,9 +4,11 @@
 #include <string>
 #include <vector>
 
+#include <tarvik/util/Jsona.h>
+
 #include "seaplan/data/RouteStop.h"
 
-/// Request texts of the route commands.
+/// Request texts of the route commands, and the reply.
 namespace Tarvik::Seaplan {
 
 /// Whole list: {"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"a#b"}.
@@ -17,5 +19,15 @@ bool AlternativeRequestText(const RouteStops& stops, const std::string& oldId, c
                             std::string& text);
 /// {"nr_point":[x,y],"dest_port":id}
 std::string NearestRequestText(const std::string& position, const std::string& portId);
+
+/// Reads a route reply. 0; -1 an error object; -2 no record; -3 a bad pointset; -4 a group that does not
+/// parse; -5 a variant that does not parse; -6 no variant chosen. After a failure `out` is empty. Distances
+/// become nautical miles worked out from the point sets.
+int ParseRouteReply(const Util::Jsona& reply, RouteStops& out);
+/// "rp=a,b;x|y". 0; -2 without "="; -3 without ";".
+int ParseRoutePointGroup(const std::string& text, RoutePointGroup& out);
+/// Works the lengths of a stop's segments, and of the stop, out from the point sets. False for a point set
+/// that does not parse.
+bool MeasureSegments(RouteStop& stop);
 
 }  // namespace Tarvik::Seaplan

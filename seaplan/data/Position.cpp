@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/data/Position.h"
+
+#include <tarvik/util/Geodesy.h>
+#include <tarvik/util/StringUtl.h>
+
+namespace Tarvik::Seaplan {
+
+bool SplitPointset(const std::string& pointset, PointTexts& points) {
+    points.clear();
+    if (!Util::StringUtl::split(pointset, "|", points)) {
+        return false;
+    }
+    std::erase_if(points, [](const std::string& point) { return point.empty(); });
+    return true;
+}
+
+bool ReadPosition(const std::string& text, std::size_t leastComma, Position& out) {
+    const auto comma = text.find(',');
+    if (comma == std::string::npos || comma < leastComma) {
+        return false;
+    }
+    out.x = Util::StringUtl::ToDouble(text.substr(0, comma));
+    out.y = Util::StringUtl::ToDouble(text.substr(comma + 1));
+    return true;
+}
+
+std::string PositionText(const Position& position, int decimals) {
+    return Util::StringUtl::Format("%.*f,%.*f", decimals, position.x, decimals, position.y);
+}
+
+int PointsetLength(const std::string& pointset, float& km) {
+    km = 0;
+    PointTexts points;
+    if (pointset.empty()) {
+        return 0;
+    }
+    if (!SplitPointset(pointset, points) || points.empty()) {
+        return -2;
+    }
+    Position previous;
+    if (!ReadPosition(points.front(), 0, previous)) {
+        return -3;
+    }
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        Position here;
+        if (!ReadPosition(points[i], 0, here)) {
+            continue;
+        }
+        const double step = Util::CircleLineUtl::CalculateDistance(previous.x, previous.y, here.x, here.y);
+        km = static_cast<float>(static_cast<double>(km) + step);
+        previous = here;
+    }
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan
