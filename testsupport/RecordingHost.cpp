@@ -3,7 +3,8 @@
 
 #include <cstring>
 
-#include <tarvik/core/TObject.h>
+#include <tarvik/bus/Binding.h>
+#include <tarvik/interface/BusContract.h>
 
 namespace Tarvik::TestSupport {
 

@@ -9,9 +9,16 @@
 #include <string>
 #include <vector>
 
-#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BindingList.h>
 #include <tarvik/core/TObject.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/SiblingRecords.h>
+
+namespace Tarvik::Interface {
+struct TrvMapExtent;
+struct TrvMapLineParams;
+struct TrvMapObjectList;
+struct VoyServerRequest;
+}  // namespace Tarvik::Interface
 
 namespace Tarvik::TestSupport {
 

@@ -3,6 +3,7 @@
 
 #include <tuple>
 
+#include <tarvik/bus/Binding.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/SiblingContract.h>
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BindingList.h>
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/chart/VoyageLayer.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/plugin/CompositionRoot.h"
 
+#include <tarvik/bus/Binding.h>
 #include <tarvik/bus/VoyageContract.h>
 
 namespace Tarvik::Seaplan {

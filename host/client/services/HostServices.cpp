@@ -6,6 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <tarvik/bus/Binding.h>
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TObject.h>

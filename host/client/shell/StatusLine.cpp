@@ -4,6 +4,8 @@
 #include <QStatusBar>
 #include <utility>
 
+#include <tarvik/bus/Binding.h>
+
 #include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Client {

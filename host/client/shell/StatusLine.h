@@ -3,7 +3,7 @@
 
 #include <QLabel>
 
-#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BindingList.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BindingList.h>
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/controllers/voycal/VoyCalChange.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 
+#include <tarvik/bus/Binding.h>
 #include <tarvik/bus/VoyageContract.h>
 
 #include "seaplan/panels/language/LoadText.h"

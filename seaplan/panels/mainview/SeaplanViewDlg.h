@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BindingList.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TObject.h>
 

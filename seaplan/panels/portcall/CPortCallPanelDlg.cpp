@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include <tarvik/bus/Binding.h>
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BindingList.h>
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/panels/portcall/PanelCommands.h"

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/ChartContract.h>
+
 #include "seaplan/panels/tests/PanelDesk.h"
 
 namespace Tarvik::Seaplan {

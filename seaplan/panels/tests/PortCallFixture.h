@@ -10,6 +10,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/ChartContract.h>
+
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/services/AisControllerCommands.h"
 #include "seaplan/panels/services/ControllerCommands.h"

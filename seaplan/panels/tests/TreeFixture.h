@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/ChartContract.h>
+
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/panels/tests/TreeViews.h"

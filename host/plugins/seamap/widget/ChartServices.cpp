@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <new>
 
+#include <tarvik/bus/Binding.h>
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/TObject.h>

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BindingList.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/ChartRecords.h>
 

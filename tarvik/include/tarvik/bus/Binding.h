@@ -7,9 +7,9 @@
 #include <string>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 #include <tarvik/Export.h>
+#include <tarvik/bus/BindingList.h>
 #include <tarvik/bus/BusName.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
@@ -25,15 +25,6 @@
 /// then not called for a null input. It gives nothing where the name answers None, else an `Out*`. A handler
 /// of other types does not compile.
 namespace Tarvik::Interface {
-
-/// What is taken back when a binding ends. The forms of own names differ only in the bus operations that they
-/// use.
-enum class BindingKind {
-    Service,       ///< an own service: created and bound, unbound and deleted
-    OwnEvent,      ///< an own event: created and bound, unbound and deleted
-    ClickChannel,  ///< an own event that is unbound and deleted by the forms for services
-    Subscription   ///< somebody else's event: bound and unbound
-};
 
 namespace Detail {
 
@@ -128,56 +119,15 @@ class TypedHandler final : public BoundHandler {
 
 }  // namespace Detail
 
-/// One handler on the bus; whoever keeps it keeps the handler bound. What ends it, unbinds the handler and
-/// deletes an own name: the end of its life, Withdraw, or another binding moved into it, which is bound first
-/// and therefore refused while both are of one service.
-class TARVIK_API Binding {
-  public:
-    Binding() = default;
-    /// The handler stays bound, and `other` is empty.
-    Binding(Binding&& other) noexcept = default;
-    /// The same, after what this one kept has been taken off the bus.
-    Binding& operator=(Binding&& other) noexcept;
-    Binding(const Binding&) = delete;
-    Binding& operator=(const Binding&) = delete;
-    ~Binding();
-
-    /// False for an empty one, so also when the bus refused the handler, since another has the service.
-    bool IsBound() const { return handler_ != nullptr; }
-    /// Takes the handler off the bus; an empty binding stays empty.
-    void Withdraw();
-
-    /// What Offer, Announce and Subscribe below make; they check the handler's types.
-    template <class In, class Out, class Handler>
-    static Binding Make(BindingKind kind, const char* name, Core::TObject* owner, Handler handler) {
-        auto bound = std::make_shared<Detail::TypedHandler<In, Out, Handler>>(std::move(handler));
-        Binding binding;
-        if (bound->Bind(kind, name, owner)) {
-            binding.handler_ = std::move(bound);
-        }
-        return binding;
+template <class In, class Out, class Handler>
+Binding Binding::Make(BindingKind kind, const char* name, Core::TObject* owner, Handler handler) {
+    auto bound = std::make_shared<Detail::TypedHandler<In, Out, Handler>>(std::move(handler));
+    Binding binding;
+    if (bound->Bind(kind, name, owner)) {
+        binding.handler_ = std::move(bound);
     }
-
-  private:
-    std::shared_ptr<Detail::BoundHandler> handler_;
-};
-
-/// Bindings of one owner, withdrawn in the opposite order.
-class TARVIK_API BindingList {
-  public:
-    BindingList() = default;
-    BindingList(const BindingList&) = delete;
-    BindingList& operator=(const BindingList&) = delete;
-    ~BindingList();
-
-    /// Keeps a binding; an empty one is not kept. Gives whether it was bound.
-    bool Keep(Binding binding);
-    /// Takes all handlers off the bus.
-    void Withdraw();
-
-  private:
-    std::vector<Binding> bindings_;
-};
+    return binding;
+}
 
 /// Creates the service and answers it with `handler`. Empty when another handler has it.
 template <class In, class Out, class Handler>
