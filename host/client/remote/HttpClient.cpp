@@ -10,6 +10,7 @@
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/co_spawn.hpp>
 #include <boost/asio/io_context.hpp>
+#include <boost/asio/redirect_error.hpp>
 #include <boost/asio/ssl.hpp>
 #include <boost/asio/use_awaitable.hpp>
 #include <boost/beast/core.hpp>
@@ -26,11 +27,67 @@ namespace net = boost::asio;
 namespace beast = boost::beast;
 namespace http = boost::beast::http;
 
-constexpr std::uint64_t kMostAnswerBytes = 64U * 1024 * 1024;
+/// The longest body of an answer; what an answer has beside its body has as much room again.
+constexpr std::uint64_t kMostBodyBytes = 64U * 1024 * 1024;
+/// The most that is kept of an answer before it makes sense: a head, a line of a chunk, a trailer.
+constexpr std::size_t kMostUnreadBytes = 16U * 1024;
+constexpr const char* kTooLong = "its answer is longer than Seaplan reads";
 
 using Deadline = std::chrono::steady_clock::time_point;
 using Request = http::request<http::string_body>;
 using Parser = http::response_parser<http::string_body>;
+
+/// Takes what has come; false when there is more to come. Throws when it cannot be the beginning of an
+/// answer.
+bool TakeArrived(beast::flat_buffer& buffer, Parser& parser) {
+    boost::system::error_code failed;
+    if (buffer.size() > 0) {
+        buffer.consume(parser.put(buffer.data(), failed));
+    }
+    if (failed && failed != http::error::need_more) {
+        throw boost::system::system_error(failed);
+    }
+    if (!parser.is_done() && buffer.size() >= kMostUnreadBytes) {
+        throw std::runtime_error(kTooLong);
+    }
+    return parser.is_done();
+}
+
+/// Reads one answer in pieces. The library's own reading keeps a chunk's line and a trailer of any length,
+/// and throws out of its operation, past the coroutine, when a field of the trailer is too long for it.
+template <class Stream>
+net::awaitable<void> ReadAnswer(Stream& stream, beast::flat_buffer& buffer, Parser& parser) {
+    parser.eager(true);
+    parser.body_limit(kMostBodyBytes);
+    std::uint64_t received = buffer.size();
+    while (!TakeArrived(buffer, parser)) {
+        boost::system::error_code ended;
+        const auto piece = buffer.prepare(kMostUnreadBytes - buffer.size());
+        const std::size_t arrived =
+            co_await stream.async_read_some(piece, net::redirect_error(net::use_awaitable, ended));
+        buffer.commit(arrived);
+        received += arrived;
+        if (ended == net::error::eof && parser.got_some()) {
+            ended = {};
+            parser.put_eof(ended);
+        }
+        if (ended) {
+            throw boost::system::system_error(ended);
+        }
+        if (received > 2 * kMostBodyBytes) {
+            throw std::runtime_error(kTooLong);
+        }
+    }
+}
+
+/// What a person is told of a failed step.
+std::string WordsOf(const boost::system::error_code& failed) {
+    if (failed == beast::error::timeout) {
+        return "the time limit is over";
+    }
+    return failed == http::error::body_limit || failed == http::error::header_limit ? kTooLong
+                                                                                    : failed.message();
+}
 
 }  // namespace
 
@@ -49,7 +106,7 @@ class HttpClient::Core {
 
     void PrepareTls();
     bool IsUsable();
-    void close();
+    void Close();
     net::awaitable<void> Talk(const Request& request, Parser& parser, Deadline deadline);
     net::awaitable<void> Connect(Deadline deadline);
     beast::tcp_stream& Tcp() { return plain_ ? *plain_ : beast::get_lowest_layer(*tls_); }
@@ -99,7 +156,7 @@ bool HttpClient::Core::IsUsable() {
     return state == net::error::would_block;
 }
 
-void HttpClient::Core::close() {
+void HttpClient::Core::Close() {
     plain_.reset();
     tls_.reset();
     buffer_.clear();
@@ -132,34 +189,34 @@ net::awaitable<void> HttpClient::Core::Connect(Deadline deadline) {
 
 net::awaitable<void> HttpClient::Core::Talk(const Request& request, Parser& parser, Deadline deadline) {
     if (!IsUsable()) {
-        close();
+        Close();
         co_await Connect(deadline);
     }
     Tcp().expires_at(deadline);
-    parser.body_limit(kMostAnswerBytes);
     if (tls_) {
         co_await http::async_write(*tls_, request, net::use_awaitable);
-        co_await http::async_read(*tls_, buffer_, parser, net::use_awaitable);
+        co_await ReadAnswer(*tls_, buffer_, parser);
     } else {
         co_await http::async_write(*plain_, request, net::use_awaitable);
-        co_await http::async_read(*plain_, buffer_, parser, net::use_awaitable);
+        co_await ReadAnswer(*plain_, buffer_, parser);
     }
     Tcp().expires_never();
     if (!parser.get().keep_alive()) {
-        close();
+        Close();
     }
 }
 
+/// Never throws for what the server or the network does.
 HttpAnswer HttpClient::Core::Send(const Request& request) {
     const Deadline deadline = std::chrono::steady_clock::now() + limit_;
     HttpAnswer answer;
     Parser parser;
     std::exception_ptr failed;
-    io_.restart();
-    net::co_spawn(io_, Talk(request, parser, deadline),
-                  [&failed](std::exception_ptr thrown) { failed = std::move(thrown); });
-    io_.run();
     try {
+        io_.restart();
+        net::co_spawn(io_, Talk(request, parser, deadline),
+                      [&failed](std::exception_ptr thrown) { failed = std::move(thrown); });
+        io_.run();
         if (failed) {
             std::rethrow_exception(failed);
         }
@@ -168,12 +225,11 @@ HttpAnswer HttpClient::Core::Send(const Request& request) {
         std::from_chars(wait.data(), wait.data() + wait.size(), answer.retryAfterSeconds);
         answer.body = std::move(parser.get().body());
     } catch (const boost::system::system_error& error) {
-        const bool late = error.code() == beast::error::timeout;
-        answer.failure = late ? "the time limit is over" : error.code().message();
-        close();
+        answer.failure = WordsOf(error.code());
+        Close();
     } catch (const std::exception& error) {
         answer.failure = error.what();
-        close();
+        Close();
     }
     return answer;
 }

@@ -28,7 +28,8 @@ class HttpClient {
     HttpClient(const HttpClient&) = delete;
     HttpClient& operator=(const HttpClient&) = delete;
 
-    /// Sends a POST; `token` goes into an Authorization field unless it is empty.
+    /// Sends a POST; `token` goes into an Authorization field unless it is empty. An answer with a body over
+    /// 64 MiB, or with a head, a chunk's line or a trailer over some KiB, is none.
     HttpAnswer Post(const std::string& path, const std::string& contentType, const std::string& body,
                     const std::string& token);
 

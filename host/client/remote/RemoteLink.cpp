@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/remote/RemoteLink.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <nlohmann/json.hpp>
@@ -14,6 +15,14 @@ namespace {
 constexpr const char* kJson = "application/json";
 constexpr const char* kBytes = "application/octet-stream";
 
+/// Longer than any token that a server has a reason to give; it goes into a field of each request.
+constexpr std::size_t kMostTokenBytes = 4096;
+
+bool IsToken(const std::string& text) {
+    return text.size() <= kMostTokenBytes &&
+           std::all_of(text.begin(), text.end(), [](char c) { return c > ' ' && c < 127; });
+}
+
 /// The token of a login's answer; empty when there is none.
 std::string TokenOf(const std::string& body) {
     const nlohmann::json answer = nlohmann::json::parse(body, nullptr, false);
@@ -21,7 +30,11 @@ std::string TokenOf(const std::string& body) {
         return {};
     }
     const auto token = answer.find("token");
-    return token != answer.end() && token->is_string() ? token->get<std::string>() : std::string();
+    if (token == answer.end() || !token->is_string()) {
+        return {};
+    }
+    auto text = token->get<std::string>();
+    return IsToken(text) ? text : std::string();
 }
 
 }  // namespace
