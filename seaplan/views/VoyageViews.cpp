@@ -4,17 +4,14 @@
 namespace Tarvik::Seaplan {
 
 VoyageViews::VoyageViews(Parts parts)
-    : schedule_(&parts.voyages),
-      ais_(&parts.voyages, &parts.catalog),
-      voyageWindow_(new VoyagePanelWindow(parts.mainView)),
+    : voyageWindow_(new VoyagePanelWindow(parts.mainView)),
       portCallWindow_(new PortCallWindow(parts.mainView, &voyageWindow_->Tree())),
       tree_({parts.store, parts.catalog, parts.voyages, voyageWindow_->Tree().Widget(),
              voyageWindow_->Tree().RenameBox(), voyageWindow_->Vessels(), voyageWindow_->Tree().SortPopup()}),
-      portCalls_({parts.store, schedule_, parts.ports, *portCallWindow_}),
+      portCalls_({parts.store, parts.catalog, parts.voyages, parts.ports, *portCallWindow_}),
       panel_({parts.store, parts.catalog, parts.voyages, *voyageWindow_, voyageWindow_->FilterPopup(), tree_,
               &portCalls_}) {
     tree_.SetPortCallPanel(&portCalls_);
-    portCalls_.SetAisCommands(&ais_);
     portCalls_.SetSavedListener([this](const std::string& vi) { ShowSaved(vi); });
     voyageWindow_->Attach(&panel_, &tree_);
     portCallWindow_->Attach(&portCalls_);

@@ -5,8 +5,6 @@
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
-#include "seaplan/panels/services/AisControllerCommands.h"
-#include "seaplan/panels/services/ControllerCommands.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
 
@@ -40,8 +38,6 @@ class VoyageViews final {
   private:
     void ShowSaved(const std::string& vi);
 
-    ScheduleControllerCommands schedule_;
-    AisControllerCommands ais_;
     QPointer<VoyagePanelWindow> voyageWindow_;
     QPointer<PortCallWindow> portCallWindow_;
     SeaplanTreeCtrl tree_;

@@ -27,8 +27,6 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     void SetSavedListener(std::function<void(const std::string&)> listener) {
         desk_.SetSavedListener(std::move(listener));
     }
-    /// Without these a corrected voyage cannot be opened.
-    void SetAisCommands(AisCommands* commands) { desk_.SetAis(commands); }
 
     /// The voyage of the next FillForVoyage or Reset; the one on show stays until then.
     void SetVoyage(const std::string& vi) override { filling_.SetVoyage(vi); }

@@ -34,7 +34,7 @@ void CellEdits::SetPort(int row, const std::string& typed) {
     if (port[0].ppn.empty()) {
         return;
     }
-    desk_.Schedule().ResolvePortIds(port);
+    desk_.Voyages().ResolvePortIds(port);
     table.SetPort(row, port[0].ppn, port[0].ppi);
     if (row == 0) {
         table.SetCell(row, ColSpeed, "0.00");

@@ -12,12 +12,12 @@ int CorrectedSchedule::ShowHistoryAndPlan() {
     PortCallSheet& sheet = desk_.Sheet();
     PortCallRows rows;
     PortCallRows plan;
-    if (desk_.Ais()->SplitAisRows(sheet.voyageId, rows, plan) != 0) {
+    if (desk_.Voyages().SplitAisRows(sheet.voyageId, rows, plan) != 0) {
         return -1;
     }
     const std::size_t history = rows.size();
     rows.insert(rows.end(), plan.begin(), plan.end());
-    desk_.Schedule().ResolvePortIds(rows);
+    desk_.Voyages().ResolvePortIds(rows);
     return sheet.ShowHistoryAndPlan(rows, history) == 0 ? 0 : -2;
 }
 
@@ -47,7 +47,7 @@ int CorrectedSchedule::ReplanAndSave() {
     PortCallSheet& sheet = desk_.Sheet();
     PortCallRows before;
     PortCallRows after;
-    if (desk_.Ais() == nullptr || !sheet.table.ReadRowsSplit(before, after)) {
+    if (!sheet.table.ReadRowsSplit(before, after)) {
         return -1;
     }
     PortCallRows history;
@@ -56,18 +56,14 @@ int CorrectedSchedule::ReplanAndSave() {
         ToStandardUnits(after, sheet.Units(), plan) != 0) {
         return -2;
     }
-    if (desk_.Ais()->ReplanFromAis(sheet.voyageId, history, plan) != 0) {
+    PortCallRows ports;
+    if (desk_.Voyages().ReplanFromAis(sheet.voyageId, history, plan, ports) != 0) {
         return -3;
     }
     if (ShowHistoryAndPlan() != 0) {
         return -4;
     }
-    const VoyInfo* voyage = desk_.Store().FindVoyage(sheet.voyageId);
-    if (voyage == nullptr) {
-        return -5;
-    }
-    const PortCallRows ports = voyage->portCalls;
-    return desk_.Schedule().SaveSchedule(sheet.voyageId, ports, -1) == 0 ? 0 : -6;
+    return desk_.Voyages().SaveSchedule(sheet.voyageId, ports, -1) == 0 ? 0 : -5;
 }
 
 int CorrectedSchedule::Calculate() {
@@ -80,11 +76,11 @@ int CorrectedSchedule::Calculate() {
     }
     PortCallSheet& sheet = desk_.Sheet();
     if (!time_.empty() && voyageId_ == sheet.voyageId) {
-        desk_.Ais()->AddAisModTime(voyageId_, time_);
+        desk_.Catalog().AddAisModTime(voyageId_, time_);
         time_.clear();
     }
-    desk_.Schedule().RemoveVoyageObjects(sheet.voyageId);
-    desk_.Schedule().ShowVoyage(sheet.voyageId);
+    desk_.Voyages().RemoveVoyageObjects(sheet.voyageId);
+    desk_.Voyages().ShowVoyage(sheet.voyageId);
     desk_.SetCorrectionPending(false);
     sheet.MarkUnchanged();
     sheet.state.canOpenBook = true;

@@ -21,7 +21,7 @@ class CorrectedSchedule {
     /// Marks the table as a fresh correction that must be calculated or saved.
     void MarkFresh();
     /// Plans the rest of the voyage anew and saves it. 0; -1 no position row; -2 the units; -3 no plan; -4 it
-    /// cannot be shown; -5 the voyage is gone; -6 not saved.
+    /// cannot be shown; -5 not saved.
     int Calculate();
 
   private:

@@ -34,7 +34,7 @@ int PanelCommands::Calculate() {
     int hadPortCalls = 0;
     const bool failed = [&] {
         const PortCallDesk::Busy busy(desk_);
-        return desk_.Schedule().CalculateForVoyage(sheet.voyageId, rows, result, hadPortCalls) != 0;
+        return desk_.Voyages().CalculateForVoyage(sheet.voyageId, rows, result, hadPortCalls) != 0;
     }();
     if (failed) {
         return -2;
@@ -45,7 +45,7 @@ int PanelCommands::Calculate() {
     }
     // The result stands in the voyage already, with all that was changed here: nothing is left to ask about.
     sheet.MarkUnchanged();
-    desk_.Schedule().RemoveVoyageObjects(sheet.voyageId);
+    desk_.Voyages().RemoveVoyageObjects(sheet.voyageId);
     desk_.View().Hide();
     const int filled = filling_.Fill(1);
     desk_.View().Show();
@@ -63,7 +63,7 @@ void PanelCommands::OnCalculate() {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
     int corrected = 0;
-    if (desk_.Schedule().GetModAis(desk_.Sheet().voyageId, corrected) != 0) {
+    if (desk_.Voyages().GetModAis(desk_.Sheet().voyageId, corrected) != 0) {
         return;
     }
     if (corrected <= 0) {
@@ -85,7 +85,7 @@ int PanelCommands::OnRouteChosen() {
         return -1;
     }
     PortCallRows result;
-    if (desk_.Schedule().ScheduleCurrentRoute(rows, result) != 0) {
+    if (desk_.Voyages().ScheduleCurrentRoute(rows, result) != 0) {
         return -2;
     }
     KeepPortIds(rows, result);
@@ -96,7 +96,7 @@ void PanelCommands::OnSave() {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
     int corrected = 0;
-    if (!desk_.Sheet().state.changed || desk_.Schedule().GetModAis(desk_.Sheet().voyageId, corrected) != 0) {
+    if (!desk_.Sheet().state.changed || desk_.Voyages().GetModAis(desk_.Sheet().voyageId, corrected) != 0) {
         return;
     }
     if (corrected > 0) {
@@ -117,7 +117,7 @@ int PanelCommands::SavePlain() {
     });
     const VoyInfo* voyage = desk_.Store().FindVoyage(sheet.voyageId);
     const bool hasBook = voyage != nullptr && !voyage->positionBook.points.empty();
-    if (missing || (!hasBook && !desk_.Schedule().HasPendingRoute())) {
+    if (missing || (!hasBook && !desk_.Voyages().Module().Pending().IsThere())) {
         Calculate();
     }
     if (filling_.SaveTable(sheet.voyageId, 1) != 0) {
@@ -139,8 +139,8 @@ void PanelCommands::OnClear() {
     view.SetEnabled(true);
     if (empty) {
         desk_.Sheet().Clear();
-        desk_.Schedule().RouteChanged();
-        desk_.Schedule().ClearChart();
+        desk_.Voyages().Module().Pending().NoteRowsChanged();
+        desk_.Voyages().ClearChart();
         desk_.Show();
         view.BringRowIntoView(0);
     }
@@ -155,11 +155,11 @@ void PanelCommands::OnClose() {
         if (!desk_.Ask(TextId::IDS_PORTCALL_CLOSESAVE)) {
             return;
         }
-        desk_.Schedule().DiscardPortCalls(sheet.voyageId);
+        desk_.Voyages().DiscardPortCalls(sheet.voyageId);
     }
     sheet.MarkUnchanged();
     desk_.View().Hide();
-    desk_.Schedule().ClearChart();
+    desk_.Voyages().ClearChart();
 }
 
 void PanelCommands::OnHelp() {

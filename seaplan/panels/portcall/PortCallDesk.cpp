@@ -62,7 +62,7 @@ void PortCallDesk::SetCorrectionPending(bool pending) {
 
 bool PortCallDesk::IsCorrected() const {
     int count = 0;
-    return p_.schedule.GetModAis(sheet_.voyageId, count) == 0 && count > 0;
+    return p_.voyages.GetModAis(sheet_.voyageId, count) == 0 && count > 0;
 }
 
 int PortCallDesk::ShowChangedRows(const PortCallRows& standard) {

@@ -4,13 +4,13 @@
 #include <functional>
 #include <string>
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/portcall/PortCallView.h"
-#include "seaplan/panels/services/AisCommands.h"
-#include "seaplan/panels/services/ScheduleCommands.h"
 
 namespace Tarvik::Seaplan {
 
@@ -21,7 +21,8 @@ class PortCallDesk {
   public:
     struct Parts {
         VoyageStore& store;
-        ScheduleCommands& schedule;
+        VoyCatalogController& catalog;
+        VoyController& voyages;
         PortDirectory& ports;
         PortCallView& view;
     };
@@ -30,10 +31,8 @@ class PortCallDesk {
     PortCallSheet& Sheet() { return sheet_; }
     const PortCallSheet& Sheet() const { return sheet_; }
     VoyageStore& Store() const { return p_.store; }
-    ScheduleCommands& Schedule() const { return p_.schedule; }
-    /// Without these a corrected voyage cannot be opened.
-    void SetAis(AisCommands* commands) { ais_ = commands; }
-    AisCommands* Ais() const { return ais_; }
+    VoyCatalogController& Catalog() const { return p_.catalog; }
+    VoyController& Voyages() const { return p_.voyages; }
     PortDirectory& Ports() const { return p_.ports; }
     PortCallView& View() const { return p_.view; }
     CellsView& Cells() const { return p_.view.Cells(); }
@@ -86,7 +85,6 @@ class PortCallDesk {
 
   private:
     Parts p_;
-    AisCommands* ais_ = nullptr;
     std::function<void(const std::string&)> saved_;
     PortCallSheet sheet_;
     PortCallTable shownTable_;

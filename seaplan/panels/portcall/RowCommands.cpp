@@ -17,14 +17,14 @@ int RowCommands::Move(int row, const std::string& name) {
     const PortCallRows rows = table.ReadAllRows();
     PortCallRows moved;
     if (name == "itemdel") {
-        return ShowMoved(desk_.Schedule().DeleteRow(rows, row, moved), moved);
+        return ShowMoved(desk_.Voyages().DeleteRow(rows, row, moved), moved);
     }
     if (name != "itemMoveUp" && name != "itemMovedown") {
         return -3;
     }
     const bool up = name == "itemMoveUp";
     const int result = ShowMoved(
-        up ? desk_.Schedule().MoveRowUp(rows, row, moved) : desk_.Schedule().MoveRowDown(rows, row, moved),
+        up ? desk_.Voyages().MoveRowUp(rows, row, moved) : desk_.Voyages().MoveRowDown(rows, row, moved),
         moved);
     const int target = up ? row - 1 : row + 1;
     if (result == 0 && (up || !table.IsBlank(target))) {
@@ -41,7 +41,7 @@ int RowCommands::OnItemImage(int row, const std::string& name) {
         return -1;
     }
     int corrected = 0;
-    if (desk_.Schedule().GetModAis(desk_.Sheet().voyageId, corrected) != 0) {
+    if (desk_.Voyages().GetModAis(desk_.Sheet().voyageId, corrected) != 0) {
         return -2;
     }
     const int ship = table.FindLastAisRow();

@@ -22,7 +22,7 @@ int VoyageFilling::SaveTable(const std::string& vi, int drawMode) {
     }
     const bool failed = [&] {
         const PortCallDesk::Busy busy(desk_);
-        return desk_.Schedule().SaveSchedule(vi, rows, drawMode) != 0;
+        return desk_.Voyages().SaveSchedule(vi, rows, drawMode) != 0;
     }();
     if (failed) {
         return -3;
@@ -46,10 +46,10 @@ void VoyageFilling::AskUnsaved() {
 void VoyageFilling::Clear() {
     editing_.HideEditors();
     desk_.ResetSheet();
-    desk_.Schedule().ForgetPortList();
+    desk_.Voyages().Module().Pending().Forget();
     desk_.Show();
     desk_.View().BringRowIntoView(0);
-    desk_.Schedule().ClearChart();
+    desk_.Voyages().ClearChart();
 }
 
 void VoyageFilling::Reset() {
@@ -62,11 +62,8 @@ void VoyageFilling::Reset() {
 int VoyageFilling::Open(int mode) {
     const PortCallDesk::Report report(desk_);
     int corrected = 0;
-    if (!next_.empty() && desk_.Schedule().GetModAis(next_, corrected) != 0) {
+    if (!next_.empty() && desk_.Voyages().GetModAis(next_, corrected) != 0) {
         return -1;
-    }
-    if (corrected > 0 && desk_.Ais() == nullptr) {
-        return -2;
     }
     if (corrected <= 0) {
         desk_.View().Hide();
@@ -79,7 +76,7 @@ int VoyageFilling::Open(int mode) {
             return 0;
         }
         // Without a position row the voyage is a plain one again.
-        desk_.Ais()->ClearAisMod(next_);
+        desk_.Voyages().ClearAisMod(next_);
     }
     return Fill(mode);
 }
@@ -88,7 +85,7 @@ int VoyageFilling::Fill(int mode) {
     Clear();
     if (desk_.Sheet().voyageId.empty()) {
         NoticeText(kNoVoyageText, desk_.View().Handle());
-        return -3;
+        return -2;
     }
     return Load(mode);
 }
@@ -98,7 +95,7 @@ int VoyageFilling::Load(int mode) {
     PortCallRows loaded;
     const bool failed = [&] {
         const PortCallDesk::Busy busy(desk_);
-        return desk_.Schedule().LoadSchedule(sheet.voyageId, loaded, mode) != 0;
+        return desk_.Voyages().LoadSchedule(sheet.voyageId, loaded, mode) != 0;
     }();
     if (failed) {
         Clear();
@@ -106,11 +103,11 @@ int VoyageFilling::Load(int mode) {
     }
     PortCallRows rows;
     if (RecomputeSchedule(loaded, rows) != 0) {
-        return -4;
+        return -3;
     }
-    desk_.Schedule().ResolvePortIds(rows);
+    desk_.Voyages().ResolvePortIds(rows);
     if (sheet.ShowRows(rows, desk_.IsCorrected()) != 0) {
-        return -4;
+        return -3;
     }
     sheet.state.changed = false;
     sheet.state.canClear = true;

@@ -19,8 +19,7 @@ class VoyageFilling {
     /// The voyage of the next Open or Reset; the one on show stays until then.
     void SetVoyage(const std::string& vi) { next_ = vi; }
     /// Shows that voyage. `mode` as VoyController::LoadSchedule draws. 0, also when it cannot be loaded and
-    /// the table stays empty; -1 no such voyage; -2 corrected voyages cannot be had; -3 none at all, which is
-    /// told; -4 its rows cannot be shown.
+    /// the table stays empty; -1 no such voyage; -2 none at all, which is told; -3 its rows cannot be shown.
     int Open(int mode);
     /// Six empty rows of that voyage.
     void Reset();

@@ -1,37 +1,40 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/tests/FakeAis.h"
+/// The port call table of a voyage that was corrected from its vessel's last position.
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {
 
-using ::testing::Contains;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 
 namespace {
 
-VoyPortCall Call(const std::string& name, const std::string& purpose, float distance, int day) {
-    VoyPortCall row;
-    row.ppn = name;
-    row.pp = purpose;
-    row.distance = distance;
-    row.steamTime = 24;
-    row.apt = 12;
-    row.eta = Util::_datetime_t(0, 0, 0, day, 3, 2024);
-    row.etd = Util::_datetime_t(0, 0, 12, day, 3, 2024);
-    return row;
-}
-
+/// The saved voyage half-way from Rotterdam to Hamburg, twelve hours behind its start.
 class CorrectedPanelTest : public PortCallFixture {
   protected:
-    FakeAis ais{store};
+    static constexpr const char* kShip = "0.000,-1.196";  ///< latitude first, as the table tells it
 
-    CorrectedPanelTest() {
-        panel.SetAisCommands(&ais);
-        store.voyages[kept].modais = 1;
+    CorrectedPanelTest() { Correct(); }
+    /// Puts the vessel's position into the voyage's plan.
+    void Correct() {
+        constexpr int kTwelveHoursBehindTheStart = 1709640000;
         PortCallRows rows;
-        schedule.LoadSchedule(kept, rows, -1);
-        ais.before = {Call("ROTTERDAM", "L", 0, 1), Call("52.000,4.100", " ", 100, 2)};
-        ais.after = {Call("HAMBURG", "D", 140, 3), Call("GDANSK", "D", 240, 4)};
+        desk.voyages.LoadSchedule(kept, rows, -1);
+        VoyInfo& voyage = store.voyages[kept];
+        voyage.vsi = "7";
+        voyage.vsn = "ANNA";
+        voyage.lastPosText = "-1.196,0.000";
+        voyage.lastPosTime = kTwelveHoursBehindTheStart;
+        int applied = 0;
+        if (desk.voyages.ApplyAisPosition(kept, applied) != 0 || applied != 1) {
+            throw std::runtime_error("the voyage cannot be corrected");
+        }
+    }
+    /// The voyage counts as corrected, but its book has no position of the ship.
+    void LosePosition() {
+        auto& points = store.voyages[kept].positionBook.points;
+        std::erase_if(points, [](const PosBookPoint& point) { return point.pst == AisTrackPoint; });
     }
     RowClass Look(int row) const { return view.table.Rows()[row].look; }
 };
@@ -40,15 +43,15 @@ class CorrectedPanelTest : public PortCallFixture {
 
 TEST_F(CorrectedPanelTest, HistoryAndPlanStandInOneTable) {
     Open(kept);
-    EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "52.000,4.100", "HAMBURG", "GDANSK", " ", " "));
+    EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", kShip, "HAMBURG", "GDANSK", " ", " "));
     EXPECT_EQ(Look(0), RowClass::Disabled);
     EXPECT_EQ(Look(1), RowClass::Highlighted);
     EXPECT_EQ(Look(2), RowClass::Normal);
     EXPECT_EQ(Cell(6, ColOrder), "RES");
     EXPECT_EQ(Look(7), RowClass::Disabled);
-    EXPECT_EQ(Cell(1, ColSteamTime), "1.00");
-    EXPECT_EQ(Cell(1, ColPortTime), "0.50");
-    EXPECT_EQ(Cell(6, ColDistance), "480.00");
+    EXPECT_EQ(Cell(1, ColSteamTime), "0.50");
+    EXPECT_EQ(Cell(2, ColPortTime), "0.50");
+    EXPECT_EQ(Cell(6, ColDistance), "481.27") << "the ship is a little off the straight way";
     EXPECT_FALSE(view.state.canClear);
     EXPECT_FALSE(view.state.canSave);
     EXPECT_FALSE(view.state.changed);
@@ -57,9 +60,13 @@ TEST_F(CorrectedPanelTest, HistoryAndPlanStandInOneTable) {
 }
 
 TEST_F(CorrectedPanelTest, ManyRowsEndWithOneFreeRowAndTheClosingRow) {
-    for (int i = 0; i < 5; ++i) {
-        ais.after.push_back(Call("ROUEN", "D", 10, 5 + i));
-    }
+    SaveOther([](PortCallRows& calls) {
+        for (const char* port : {"ROSTOCK", "SUEZ CANAL", "COLOMBO", "SINGAPORE", "SHANGHAI"}) {
+            calls.push_back(calls.back());
+            calls.back().ppn = port;
+        }
+    });
+    Correct();
     Open(kept);
     EXPECT_EQ(view.table.RowCount(), 10);
     EXPECT_EQ(Cell(9, ColPort), " ");
@@ -69,7 +76,7 @@ TEST_F(CorrectedPanelTest, ManyRowsEndWithOneFreeRowAndTheClosingRow) {
 
 TEST_F(CorrectedPanelTest, ACorrectionThatCannotBeSplitShowsThePlainVoyage) {
     panel.SetVoyage(kept);
-    ais.refused = {"SplitAisRows"};
+    LosePosition();
     EXPECT_LT(panel.ShowAisCorrection(), 0);
     EXPECT_EQ(store.voyages[kept].modais, 0);
     EXPECT_FALSE(view.state.changed);
@@ -95,14 +102,14 @@ TEST_F(CorrectedPanelTest, NoPortMovesAboveTheShip) {
     EXPECT_FALSE(view.state.changed);
     panel.Rows().OnItemImage(3, "itemMoveUp");
     EXPECT_EQ(Cell(2, ColPort), "GDANSK");
-    EXPECT_EQ(Cell(1, ColDistance), "100.00");
+    EXPECT_EQ(Cell(1, ColDistance), "121.29");
     EXPECT_EQ(Cell(2, ColDistance), " ");
     EXPECT_EQ(Cell(2, ColEta), " ");
     EXPECT_TRUE(view.state.changed);
 }
 
 TEST_F(CorrectedPanelTest, WithoutAPositionRowTheVoyageIsAPlainOneAgain) {
-    ais.refused = {"SplitAisRows"};
+    LosePosition();
     Open(kept);
     EXPECT_EQ(store.voyages[kept].modais, 0);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));
@@ -112,34 +119,38 @@ TEST_F(CorrectedPanelTest, WithoutAPositionRowTheVoyageIsAPlainOneAgain) {
 TEST_F(CorrectedPanelTest, CalculatingReplansTheRestAndSaves) {
     Open(kept);
     Type(2, ColSpeed, "12");
-    panel.SetCorrectionTime("2024-03-02 08:00:00");
+    panel.SetCorrectionTime("2024-03-05 20:00:00");
     desk.ForgetRecords();
     desk.voyages.RemoveVoyageObjects(kept);
     const std::size_t before = Drawn("TRV_MAP_DEL_OBJECT_BY_TYPE") + Drawn("TRV_MAP_DEL_OBJECTS");
     ASSERT_GT(before, 0U);
     desk.ForgetRecords();
     panel.Commands().OnCalculate();
-    EXPECT_THAT(ais.calls, Contains("ReplanFromAis " + kept + " 2 2"));
+    EXPECT_THAT(desk.Sent(Ask::kNearest),
+                ElementsAre(AllOf(HasSubstr("-1.196,0.000"), HasSubstr(DeskPortId("HAMBURG")))));
+    EXPECT_THAT(desk.Sent(Ask::kRoute),
+                ElementsAre(AllOf(HasSubstr(DeskPortId("HAMBURG")), HasSubstr(DeskPortId("GDANSK")))));
     EXPECT_EQ(Saves(), 1);
-    EXPECT_THAT(ais.calls, Contains("AddAisModTime " + kept + " 2024-03-02 08:00:00"));
+    EXPECT_THAT(store.voyages[kept].aisModTimes, ElementsAre("2024-03-05 20:00:00"));
     EXPECT_THAT(Drawn("TRV_MAP_DEL_OBJECT_BY_TYPE") + Drawn("TRV_MAP_DEL_OBJECTS"), ::testing::Ge(2 * before))
         << "taken off the chart, and once more as it is shown anew";
     EXPECT_THAT(saved, ElementsAre(kept));
+    EXPECT_EQ(Cell(2, ColSpeed), "5.45") << "ten hours at 12 knots; twelve hours in port count as well";
     EXPECT_FALSE(view.state.changed);
     EXPECT_FALSE(view.state.canSave);
     EXPECT_TRUE(messages.messages.empty());
     panel.Commands().OnCalculate();
-    EXPECT_EQ(
-        std::count(ais.calls.begin(), ais.calls.end(), "AddAisModTime " + kept + " 2024-03-02 08:00:00"), 1);
+    EXPECT_EQ(desk.Count(Ask::kAddAisTime), 1);
 }
 
 TEST_F(CorrectedPanelTest, AFailedReplanIsToldByTheCalculateButtonOnly) {
     Open(kept);
     Type(2, ColSpeed, "12");
-    ais.refused = {"ReplanFromAis"};
+    desk.Refuse(Ask::kNearest);
     panel.Commands().OnSave();
     EXPECT_TRUE(messages.messages.empty());
     EXPECT_TRUE(view.state.changed);
+    EXPECT_EQ(Saves(), 0);
     panel.Commands().OnCalculate();
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_AISCOMPUTWARN");
 }

@@ -13,8 +13,6 @@
 #include <tarvik/bus/ChartContract.h>
 
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
-#include "seaplan/panels/services/AisControllerCommands.h"
-#include "seaplan/panels/services/ControllerCommands.h"
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/panels/tests/RecordingPortCallView.h"
@@ -30,13 +28,12 @@ class PortCallFixture : public ::testing::Test {
     TestSupport::ManualClock& clock = desk.clock;
     TestSupport::RecordingMsgSink& messages = desk.messages;
     VoyageStore& store = desk.store;
-    ScheduleControllerCommands schedule{&desk.voyages};
     RecordingPortCallView view;
     std::vector<std::string> saved;
     std::string fresh;  ///< id of the new voyage
     std::string kept;   ///< id of the saved one
     PortDirectory ports = Ports();
-    CPortCallPanelDlg panel{{store, schedule, ports, view}};
+    CPortCallPanelDlg panel{{store, desk.catalog, desk.voyages, ports, view}};
 
     PortCallFixture() {
         desk.AddCategory("Plans");

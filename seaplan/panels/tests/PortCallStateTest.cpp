@@ -74,10 +74,10 @@ TEST_F(PortCallFixture, OpeningAVoyageForgetsTheRouteThatWasPending) {
     Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG"});
     panel.Commands().OnCalculate();
-    ASSERT_TRUE(schedule.HasPendingRoute());
+    ASSERT_TRUE(desk.voyages.Module().Pending().IsThere());
     messages.Answer(Interface::SysMsgHandleRes::No);
     Open(kept);
-    EXPECT_FALSE(schedule.HasPendingRoute());
+    EXPECT_FALSE(desk.voyages.Module().Pending().IsThere());
 }
 
 TEST_F(PortCallFixture, APortIsLookedUpOnceAndTheWindowIsToldOnlyWhatChanged) {
