@@ -5,10 +5,11 @@ namespace Tarvik::Seaplan {
 
 VoyageViews::VoyageViews(Parts parts)
     : voyageWindow_(new VoyagePanelWindow(parts.mainView)),
-      portCallWindow_(new PortCallWindow(parts.mainView, &voyageWindow_->Tree())),
+      portCallWindow_(new PortCallWindow(parts.mainView)),
       tree_({parts.store, parts.catalog, parts.voyages, voyageWindow_->Tree().Widget(),
              voyageWindow_->Tree().RenameBox(), voyageWindow_->Vessels(), voyageWindow_->Tree().SortPopup()}),
-      portCalls_({parts.store, parts.catalog, parts.voyages, parts.ports, *portCallWindow_}),
+      portCalls_({parts.store, parts.catalog, parts.voyages, parts.ports, *portCallWindow_,
+                  [this] { return voyageWindow_ ? OnScreen(voyageWindow_->Tree()) : Rect(); }}),
       panel_({parts.store, parts.catalog, parts.voyages, *voyageWindow_, voyageWindow_->FilterPopup(), tree_,
               &portCalls_}) {
     tree_.SetPortCallPanel(&portCalls_);
@@ -16,6 +17,7 @@ VoyageViews::VoyageViews(Parts parts)
     voyageWindow_->Attach(&panel_, &tree_);
     portCallWindow_->Attach(&portCalls_);
     panel_.ApplyLanguage();
+    portCalls_.ApplyLanguage();
     panel_.RegisterHost();
     portCalls_.RegisterHost();
 }

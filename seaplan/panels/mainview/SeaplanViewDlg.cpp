@@ -140,7 +140,7 @@ int SeaplanViewDlg::AddCategory() {
 }
 
 void SeaplanViewDlg::RequestHelp() {
-    p_.window.RequestHelp(kHelpTopic, 370, 440);
+    p_.window.RequestHelp(kHelpTopic, kHelpWidth, kHelpHeight);
 }
 
 }  // namespace Tarvik::Seaplan

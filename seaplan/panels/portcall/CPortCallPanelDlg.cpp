@@ -10,7 +10,7 @@
 namespace Tarvik::Seaplan {
 
 CPortCallPanelDlg::CPortCallPanelDlg(PortCallDesk::Parts parts)
-    : desk_(parts),
+    : desk_(std::move(parts)),
       editing_(desk_),
       corrected_(desk_),
       filling_(desk_, editing_, corrected_),
@@ -26,12 +26,14 @@ void CPortCallPanelDlg::RegisterHost() {
 
 void CPortCallPanelDlg::ApplyLanguage() {
     desk_.ShowTexts();
+    const PortCallState& state = desk_.Sheet().state;
+    desk_.View().SetCaption(state.caption, state.changed);
     desk_.View().ApplyTexts();
     desk_.Show();
 }
 
 void CPortCallPanelDlg::ShowBesideTree() {
-    desk_.View().PlaceBesideTree();
+    desk_.PlaceBesideTree();
     desk_.View().Show();
 }
 

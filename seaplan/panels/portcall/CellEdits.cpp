@@ -122,7 +122,7 @@ void CellEdits::SetEta(int row, const std::string& text) {
         return;
     }
     if (static_cast<double>(hours) < kLeastLegHours) {
-        return desk_.Tell(TextId::IDS_PORTCALL_ERRETA);
+        return desk_.ToPerson().Notice(TextId::IDS_PORTCALL_ERRETA);
     }
     table.SetCell(row, ColEta, text);
     PortCallRows rows;
@@ -147,7 +147,7 @@ void CellEdits::SetEtd(int row, const std::string& text) {
         return;
     }
     if (static_cast<double>(hours) < kEarliestDeparture) {
-        return desk_.Tell(TextId::IDS_PORTCALL_ERRETD);
+        return desk_.ToPerson().Notice(TextId::IDS_PORTCALL_ERRETD);
     }
     table.SetCell(row, ColEtd, text);
     PortCallRows rows;

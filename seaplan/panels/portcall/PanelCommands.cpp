@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "seaplan/calculation/Schedule.h"
-#include "seaplan/panels/language/Messages.h"
 
 namespace Tarvik::Seaplan {
 
@@ -69,7 +68,7 @@ void PanelCommands::OnCalculate() {
     if (corrected <= 0) {
         Calculate();
     } else if (corrected_.Calculate() != 0) {
-        desk_.Tell(TextId::IDS_PORTCALL_AISCOMPUTWARN);
+        desk_.ToPerson().Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
     }
 }
 
@@ -121,7 +120,7 @@ int PanelCommands::SavePlain() {
         Calculate();
     }
     if (filling_.SaveTable(sheet.voyageId, 1) != 0) {
-        desk_.Tell(TextId::IDS_PORTCALL_SAVEEXCEPTION);
+        desk_.ToPerson().Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION);
         return -2;
     }
     sheet.MarkUnchanged();
@@ -134,10 +133,7 @@ void PanelCommands::OnClear() {
     editing_.CommitEditors();
     PortCallView& view = desk_.View();
     view.Hide();
-    view.SetEnabled(false);
-    const bool empty = OkOrCancel(TextId::IDS_PORTCALL_CLEARFORBLANK, view.Handle());
-    view.SetEnabled(true);
-    if (empty) {
+    if (desk_.ToPerson().Confirm(TextId::IDS_PORTCALL_CLEARFORBLANK)) {
         desk_.Sheet().Clear();
         desk_.Voyages().Module().Pending().NoteRowsChanged();
         desk_.Voyages().ClearChart();
@@ -152,7 +148,7 @@ void PanelCommands::OnClose() {
     PortCallSheet& sheet = desk_.Sheet();
     editing_.CommitEditors();
     if (sheet.state.changed) {
-        if (!desk_.Ask(TextId::IDS_PORTCALL_CLOSESAVE)) {
+        if (!desk_.ToPerson().Question(TextId::IDS_PORTCALL_CLOSESAVE)) {
             return;
         }
         desk_.Voyages().DiscardPortCalls(sheet.voyageId);
@@ -163,7 +159,7 @@ void PanelCommands::OnClose() {
 }
 
 void PanelCommands::OnHelp() {
-    desk_.View().RequestHelp(kHelpTopic);
+    desk_.View().RequestHelp(kHelpTopic, kHelpWidth, kHelpHeight);
 }
 
 int PanelCommands::OnUnitChosen(UnitKind kind, const std::string& unit) {

@@ -6,7 +6,6 @@
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/language/Messages.h"
 
 namespace Tarvik::Seaplan {
 
@@ -29,6 +28,7 @@ void PortCallDesk::Show() {
     }
     if (!told_ || sheet_.state != shownState_) {
         shownState_ = sheet_.state;
+        p_.view.SetCaption(shownState_.caption, shownState_.changed);
         p_.view.ShowState(shownState_);
     }
     told_ = true;
@@ -82,17 +82,9 @@ int PortCallDesk::Recompute(const PortCallRows& standard) {
     return ShowChangedRows(rows);
 }
 
-void PortCallDesk::Tell(TextId id) {
+Boxes& PortCallDesk::ToPerson() {
     Show();
-    Notice(id, p_.view.Handle());
-}
-
-bool PortCallDesk::Ask(TextId id) {
-    Show();
-    p_.view.SetEnabled(false);
-    const bool yes = Question(id, p_.view.Handle());
-    p_.view.SetEnabled(true);
-    return yes;
+    return boxes_;
 }
 
 }  // namespace Tarvik::Seaplan

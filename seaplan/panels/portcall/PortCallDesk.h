@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
@@ -25,8 +26,9 @@ class PortCallDesk {
         VoyController& voyages;
         PortDirectory& ports;
         PortCallView& view;
+        std::function<Rect()> treePlace;  ///< where the voyage tree stands on the screen
     };
-    explicit PortCallDesk(Parts parts) : p_(parts) {}
+    explicit PortCallDesk(Parts parts) : p_(std::move(parts)), boxes_(p_.view) {}
 
     PortCallSheet& Sheet() { return sheet_; }
     const PortCallSheet& Sheet() const { return sheet_; }
@@ -79,12 +81,14 @@ class PortCallDesk {
     /// The same over the schedule of such rows, which keep their ids.
     int Recompute(const PortCallRows& standard);
 
-    void Tell(TextId id);
-    /// Answers to a question, with the window disabled meanwhile.
-    bool Ask(TextId id);
+    /// Moves the window to its place beside the tree.
+    void PlaceBesideTree() { p_.view.MoveTo(BesideTree(p_.treePlace())); }
+    /// Boxes to the person, over a window that is up to date.
+    Boxes& ToPerson();
 
   private:
     Parts p_;
+    Boxes boxes_;
     std::function<void(const std::string&)> saved_;
     PortCallSheet sheet_;
     PortCallTable shownTable_;

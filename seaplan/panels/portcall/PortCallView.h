@@ -6,6 +6,7 @@
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/panels/portcall/CellsView.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
+#include "seaplan/panels/window/PanelWindow.h"
 
 namespace Tarvik::Seaplan {
 
@@ -28,29 +29,16 @@ struct PortCallState {
 };
 
 /// The window of the port call panel. It shows what it is given and reports what the person does.
-class PortCallView {
+class PortCallView : public PanelWindow {
   public:
-    virtual ~PortCallView() = default;
     virtual void ShowTable(const PortCallTable& table) = 0;
     virtual void ShowState(const PortCallState& state) = 0;
-    /// Column titles, captions and tool tips in the language in force.
-    virtual void ApplyTexts() = 0;
-
-    virtual void Show() = 0;
-    virtual void Hide() = 0;
-    virtual bool IsVisible() const = 0;
-    virtual void PlaceBesideTree() = 0;
-    virtual void SetEnabled(bool enabled) = 0;
     /// Tells the person that something goes on which takes a while.
     virtual void SetBusy(bool busy) = 0;
     virtual void SelectRow(int row) = 0;
     virtual void BringRowIntoView(int row) = 0;
-
     /// What opens over the cells.
     virtual CellsView& Cells() = 0;
-    virtual void RequestHelp(const std::string& topic) = 0;
-    /// Opaque handle as owner of boxes.
-    virtual void* Handle() const = 0;
 };
 
 }  // namespace Tarvik::Seaplan

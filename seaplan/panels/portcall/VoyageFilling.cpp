@@ -2,7 +2,6 @@
 #include "seaplan/panels/portcall/VoyageFilling.h"
 
 #include "seaplan/calculation/Schedule.h"
-#include "seaplan/panels/language/Messages.h"
 
 namespace Tarvik::Seaplan {
 
@@ -37,7 +36,7 @@ void VoyageFilling::AskUnsaved() {
         return;
     }
     // The rows in the table are what is saved, so no cell may have changed since.
-    if (desk_.Ask(TextId::IDS_PORTCALL_SAVENEXT)) {
+    if (desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT)) {
         SaveTable(sheet.editedVoyageId, -1);
     }
     sheet.state.changed = false;
@@ -84,7 +83,7 @@ int VoyageFilling::Open(int mode) {
 int VoyageFilling::Fill(int mode) {
     Clear();
     if (desk_.Sheet().voyageId.empty()) {
-        NoticeText(kNoVoyageText, desk_.View().Handle());
+        desk_.ToPerson().NoticeText(kNoVoyageText);
         return -2;
     }
     return Load(mode);

@@ -2,13 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/language/Messages.h"
 #include "seaplan/panels/tests/KeyTexts.h"
-#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
-
-using Interface::SysMsgHandleRes;
 
 TEST(LoadText, ANumberWithoutEntryGivesTheFallback) {
     const KeyTexts texts;
@@ -29,30 +25,6 @@ TEST(LoadText, AKeyThatTheLanguageLacksGivesTheFallback) {
     EXPECT_FALSE(LoadText(out, 49, "VoyageManager"));
     EXPECT_EQ(out, "VoyageManager");
     EXPECT_EQ(Text(TextId::IDS_TREE_VOYTITLE), "");
-}
-
-TEST(Messages, KindsAndAnswersAreTheHosts) {
-    const KeyTexts texts;
-    TestSupport::RecordingMsgSink sink;
-    int window = 0;
-    sink.Answer(SysMsgHandleRes::Yes);
-    EXPECT_TRUE(Question(TextId::IDS_PORTCALL_CLOSESAVE, &window));
-    sink.Answer(SysMsgHandleRes::No);
-    EXPECT_FALSE(Question(TextId::IDS_PORTCALL_CLOSESAVE, &window));
-    sink.Answer(SysMsgHandleRes::Ok);
-    EXPECT_TRUE(OkOrCancel(TextId::IDS_PORTCALL_CLEARFORBLANK, &window));
-    sink.Answer(SysMsgHandleRes::Cancel);
-    EXPECT_FALSE(OkOrCancel(TextId::IDS_PORTCALL_CLEARFORBLANK, &window));
-    Notice(TextId::IDS_PORTCALL_ERRETA, &window);
-    ASSERT_EQ(sink.messages.size(), 5U);
-    EXPECT_EQ(sink.messages[0].flags, 4);
-    EXPECT_EQ(sink.messages[2].flags, 1);
-    EXPECT_EQ(sink.messages[4].flags, 0);
-    for (const auto& message : sink.messages) {
-        EXPECT_EQ(message.level, 1);
-        EXPECT_EQ(message.title, "");
-        EXPECT_EQ(message.owner, &window);
-    }
 }
 
 }  // namespace Tarvik::Seaplan

@@ -17,7 +17,8 @@ TEST_F(PortCallFixture, ANewVoyageOpensEmptyAndASavedOneFilled) {
     EXPECT_FALSE(view.state.canSave);
     EXPECT_FALSE(view.state.canOpenBook);
     EXPECT_FALSE(view.state.canCalculate);
-    EXPECT_TRUE(view.besideTree);
+    EXPECT_EQ(view.place.left, kTree.right + 9);
+    EXPECT_EQ(view.place.top, kTree.top + 30);
     Open(kept);
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));
     EXPECT_FALSE(view.state.changed);
@@ -193,7 +194,7 @@ TEST_F(PortCallFixture, OpeningAnotherVoyageSavesTheChangesOfTheEditedOne) {
     EXPECT_EQ(Saves(), 1);
     EXPECT_EQ(SavedRows(kept)[1].psp, 12.0F);
     EXPECT_EQ(Cell(0, ColPort), " ");
-    EXPECT_TRUE(view.enabled);
+    EXPECT_TRUE(view.Enabled());
 }
 
 TEST_F(PortCallFixture, OpeningAnotherVoyageCanDropTheChanges) {
@@ -224,14 +225,14 @@ TEST_F(PortCallFixture, ClosingWithChangesAsksAndNoKeepsThePanel) {
     panel.Commands().OnClose();
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_CLOSESAVE");
     EXPECT_TRUE(view.visible);
-    EXPECT_TRUE(view.enabled);
+    EXPECT_TRUE(view.Enabled());
     EXPECT_TRUE(view.state.changed);
     EXPECT_EQ(Cell(1, ColSpeed), "12.00");
     messages.Answer(SysMsgHandleRes::Yes);
     desk.ForgetRecords();
     panel.Commands().OnClose();
     EXPECT_FALSE(view.visible);
-    EXPECT_TRUE(view.enabled);
+    EXPECT_TRUE(view.Enabled());
     EXPECT_EQ(desk.Count(Ask::kLoadPortCalls), 1);
     EXPECT_FALSE(view.state.changed);
 }
@@ -336,7 +337,7 @@ TEST_F(PortCallFixture, AFailedLoadGivesAnEmptyTableWithoutMessage) {
 
 TEST_F(PortCallFixture, HelpNamesItsTopic) {
     panel.Commands().OnHelp();
-    EXPECT_EQ(view.help, "func034");
+    EXPECT_EQ(view.help, "func034 370x440");
 }
 
 TEST_F(PortCallFixture, ALanguageSwitchRenewsCaptionAndButton) {

@@ -28,12 +28,13 @@ class PortCallFixture : public ::testing::Test {
     TestSupport::ManualClock& clock = desk.clock;
     TestSupport::RecordingMsgSink& messages = desk.messages;
     VoyageStore& store = desk.store;
+    static constexpr Rect kTree{10, 45, 310, 430};  ///< of the screen
     RecordingPortCallView view;
     std::vector<std::string> saved;
     std::string fresh;  ///< id of the new voyage
     std::string kept;   ///< id of the saved one
     PortDirectory ports = Ports();
-    CPortCallPanelDlg panel{{store, desk.catalog, desk.voyages, ports, view}};
+    CPortCallPanelDlg panel{{store, desk.catalog, desk.voyages, ports, view, [] { return kTree; }}};
 
     PortCallFixture() {
         desk.AddCategory("Plans");

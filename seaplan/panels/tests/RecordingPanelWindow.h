@@ -20,6 +20,7 @@ class RecordingPanelWindow : public View {
     std::string help;           ///< "topic WxH" of the last request
     std::vector<bool> enabled;  ///< every change, in order
 
+    bool Enabled() const { return enabled.empty() || enabled.back(); }
     bool IsVisible() const override { return visible; }
     void Show() override { visible = true; }
     void Hide() override { visible = false; }

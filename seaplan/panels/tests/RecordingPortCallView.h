@@ -8,11 +8,12 @@
 #include <vector>
 
 #include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/panels/tests/RecordingPanelWindow.h"
 
 namespace Tarvik::Seaplan {
 
 /// A port call window that only remembers what it was told.
-class RecordingPortCallView final : public PortCallView,
+class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
                                     public CellsView,
                                     public DateTimeView,
                                     public CalendarView {
@@ -21,9 +22,6 @@ class RecordingPortCallView final : public PortCallView,
     PortCallState state;
     int tablesShown = 0;
     int statesShown = 0;
-    bool visible = false;
-    bool enabled = true;
-    bool besideTree = false;
     int busy = 0;
     int selectedRow = -1;
     std::optional<CellEditor> openEditor;  ///< opened last and not hidden since
@@ -37,9 +35,8 @@ class RecordingPortCallView final : public PortCallView,
     std::set<void*> matchWindows;
     int purposeRow = -1;
     std::vector<std::string> purposes;
-    std::string pickerTime;  ///< empty while the picker is closed
-    std::string pickerText;  ///< of the picker's button
-    std::string help;
+    std::string pickerTime;               ///< empty while the picker is closed
+    std::string pickerText;               ///< of the picker's button
     std::vector<std::string> visibility;  ///< "show" and "hide" in order
 
     void ShowTable(const PortCallTable& shown) override {
@@ -50,18 +47,14 @@ class RecordingPortCallView final : public PortCallView,
         state = shown;
         ++statesShown;
     }
-    void ApplyTexts() override {}
     void Show() override {
-        visible = true;
+        RecordingPanelWindow::Show();
         visibility.emplace_back("show");
     }
     void Hide() override {
-        visible = false;
+        RecordingPanelWindow::Hide();
         visibility.emplace_back("hide");
     }
-    bool IsVisible() const override { return visible; }
-    void PlaceBesideTree() override { besideTree = true; }
-    void SetEnabled(bool on) override { enabled = on; }
     void SetBusy(bool on) override { busy += on ? 1 : -1; }
     void SelectRow(int row) override { selectedRow = row; }
     void BringRowIntoView(int) override {}
@@ -98,14 +91,12 @@ class RecordingPortCallView final : public PortCallView,
     void PutPicker(int, int) override {}
     DateTimeView& Picker() override { return *this; }
     void ShowText(const std::string& text) override { pickerText = text; }
-    Rect PlaceOnScreen() const override { return {}; }
+    Rect PlaceOnScreen() const override { return place; }
     CalendarView& Calendar() override { return *this; }
     void ShowState(const CalendarState&) override {}
     void FillEdit(const std::string&) override {}
     void Open(Point) override { pickerTime = pickerText; }
     void Close() override { pickerTime.clear(); }
-    void RequestHelp(const std::string& topic) override { help = topic; }
-    void* Handle() const override { return const_cast<RecordingPortCallView*>(this); }
 };
 
 }  // namespace Tarvik::Seaplan

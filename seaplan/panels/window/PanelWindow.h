@@ -29,6 +29,10 @@ class PanelWindow : public BoxOwner {
     virtual void RequestHelp(const std::string& topic, int width, int height) = 0;
 };
 
+/// Size in pixels of the help window of the voyage panel and of the port call panel.
+inline constexpr int kHelpWidth = 370;
+inline constexpr int kHelpHeight = 440;
+
 /// Where a panel stands that opens beside the tree, which covers `tree` of the screen.
 constexpr Point BesideTree(const Rect& tree) {
     constexpr int kGap = 9;

@@ -12,12 +12,10 @@
 
 namespace Tarvik::Seaplan {
 
-PortCallWindow::PortCallWindow(QWidget* mainView, QWidget* tree)
-    : Skin::ToolWindow(mainView, QStringLiteral("portCallPanel")), tree_(tree) {
-    help_ = AddCaptionButton("helpButton", "help");
-    close_ = AddCaptionButton("closeButton", "close");
-    help_->setShortcut(QKeySequence(Qt::Key_F1));
-    close_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
+PortCallWindow::PortCallWindow(QWidget* mainView)
+    : PanelFrame(mainView, QStringLiteral("portCallPanel"),
+                 {TextId::IDS_PORTCALL_HELP, TextId::IDS_PORTCALL_CLOSE}) {
+    AddHelpAndClose();
     model_ = new PortCallModel(this);
     table_ = new PortCallTableView(this);
     table_->setModel(model_);
@@ -39,6 +37,8 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
     PanelCommands& commands = panel->Commands();
     RowCommands& rows = panel->Rows();
     editors_->Attach(&cells);
+    SetReports({[&commands] { commands.OnHelp(); }, [&commands] { commands.OnClose(); },
+                [&cells] { cells.CommitEditors(); }});
     table_->SetReports(
         {[&cells](int row, int column) { cells.OnCellClicked(row, column); },
          [&rows](int row, const std::string& name) { rows.OnItemImage(row, name); },
@@ -49,8 +49,6 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
          [&commands](UnitKind kind, const std::string& unit) { commands.OnUnitChosen(kind, unit); }});
     buttons_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnClear(); },
                           [&commands] { commands.OnCalculate(); }});
-    QObject::connect(help_, &QToolButton::clicked, this, [&commands] { commands.OnHelp(); });
-    QObject::connect(close_, &QToolButton::clicked, this, [&commands] { commands.OnClose(); });
     // A press anywhere outside the table ends the editing.
     new OutsidePress(
         this, [this](const QWidget& widget) { return editors_->Holds(widget); },
@@ -59,8 +57,6 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
                 cells.CommitEditors();
             }
         });
-    ShowTable(panel->Sheet().table);
-    ShowState(panel->Sheet().state);
 }
 
 void PortCallWindow::ShowTable(const PortCallTable& table) {
@@ -70,16 +66,13 @@ void PortCallWindow::ShowTable(const PortCallTable& table) {
 
 void PortCallWindow::ShowState(const PortCallState& state) {
     state_ = state;
-    SetCaption(QString::fromStdString(state.caption));
-    SetChangedMark(state.changed, ViewText(TextId::IDS_VIEW_CHANGED));
     buttons_->ShowState(state);
     summary_->ShowState(state);
     model_->ShowTitles(state);
 }
 
 void PortCallWindow::ApplyTexts() {
-    Skin::Describe(help_, ViewText(TextId::IDS_PORTCALL_HELP));
-    Skin::Describe(close_, ViewText(TextId::IDS_PORTCALL_CLOSE));
+    DescribeHelpAndClose();
     table_->setAccessibleName(ViewText(TextId::IDS_VIEW_TABLE));
     model_->SetUnknownPortTip(ViewText(TextId::IDS_VIEW_UNKNOWNPORT));
     buttons_->ApplyTexts();
@@ -88,9 +81,7 @@ void PortCallWindow::ApplyTexts() {
     ShowState(state_);
 }
 
-void PortCallWindow::Show() {
-    show();
-    raise();
+void PortCallWindow::FocusFirst() {
     if (focusWidget() != nullptr && focusWidget()->isVisible()) {
         return;
     }
@@ -108,14 +99,6 @@ void PortCallWindow::SetBusy(bool busy) {
     }
 }
 
-void PortCallWindow::PlaceBesideTree() {
-    if (tree_ == nullptr) {
-        return;
-    }
-    const QPoint corner = tree_->mapToGlobal(QPoint(tree_->width(), 0));
-    move(corner.x() + 9, corner.y() + 30);
-}
-
 void PortCallWindow::SelectRow(int row) {
     table_->setCurrentIndex(model_->index(row, ColPort));
 }
@@ -124,28 +107,12 @@ void PortCallWindow::BringRowIntoView(int row) {
     table_->scrollTo(model_->index(row, ColPort));
 }
 
-void PortCallWindow::RequestHelp(const std::string& topic) {
-    Skin::SendHelpRequest(parentWidget(), topic, 370, 440);
-}
-
 void PortCallWindow::ApplySkin() {
     Skin::ToolWindow::ApplySkin();
     buttons_->ApplySkin();
     summary_->ApplySkin();
     editors_->ApplySkin();
     table_->viewport()->update();
-}
-
-void PortCallWindow::SurfacePressed() {
-    if (panel_ != nullptr) {
-        panel_->Cells().CommitEditors();
-    }
-}
-
-void PortCallWindow::CloseAsked() {
-    if (panel_ != nullptr) {
-        panel_->Commands().OnClose();
-    }
 }
 
 bool PortCallWindow::event(QEvent* event) {
