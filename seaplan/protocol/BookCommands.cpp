@@ -147,10 +147,10 @@ int LoadPositionBook(const std::string& vi, VoyPositionBook& book) {
         return -1;
     }
     Util::Jsona reply;
-    if (SendText(VoyageIdText(vi), VoyCommand::LoadBook, reply) < 0) {
+    if (!AskList(VoyageIdText(vi), VoyCommand::LoadBook, reply)) {
         return -2;
     }
-    return reply.size() < 1 ? -3 : ReadPositionBook(reply.get(0), book);
+    return reply.size() < 1 ? kNoBook : ReadPositionBook(reply.get(0), book);
 }
 
 int EnsurePositionBook(const std::string& vi, const std::string& date, std::string& id) {
@@ -159,7 +159,7 @@ int EnsurePositionBook(const std::string& vi, const std::string& date, std::stri
         return -1;
     }
     Util::Jsona reply;
-    if (SendText(VoyageIdText(vi), VoyCommand::LoadBook, reply) < 0) {
+    if (!AskList(VoyageIdText(vi), VoyCommand::LoadBook, reply)) {
         return -2;
     }
     if (reply.size() > 0) {

@@ -26,10 +26,12 @@ bool BookRowsText(const std::string& id, const BookPoints& rows, int first, int 
 std::string CreateBookText(const std::string& vi, const std::string& serverTime);
 std::string BookDateText(const std::string& id, const std::string& serverTime);
 
-/// Command 7. 0; -1 empty id; -2 no exchange; -3 no book; -4, -5 as ReadPositionBook.
+/// What LoadPositionBook gives where the server has no book of the voyage.
+inline constexpr int kNoBook = -3;
+/// Command 7. 0; -1 empty id; -2 no exchange, or no list; -3 no book; -4, -5 as ReadPositionBook.
 int LoadPositionBook(const std::string& vi, VoyPositionBook& book);
-/// Commands 7 and, when there is no book yet, 8. 0; -1 empty voyage id; -2 reading; -3 the date is not
-/// converted; -4 no exchange; -5 refused; -6 no id came back.
+/// Commands 7 and, when there is no book yet, 8. 0; -1 empty voyage id; -2 as LoadPositionBook; -3 the date
+/// is not converted; -4 no exchange; -5 refused; -6 no id came back.
 int EnsurePositionBook(const std::string& vi, const std::string& date, std::string& id);
 /// Command 14. 0; -1 empty id; -2 the date is not converted; -3 no exchange; -4 refused.
 int SetPositionBookDate(const std::string& id, const std::string& date);

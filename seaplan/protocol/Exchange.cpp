@@ -113,6 +113,10 @@ int SendText(const std::string& text, Interface::VoyCommand command, Util::Jsona
     return SendRequest(buffer, Interface::NumberOf(command), reply);
 }
 
+bool AskList(const std::string& text, Interface::VoyCommand command, Util::Jsona& list) {
+    return SendText(text, command, list) == 0 && list.kind() == Util::Jsona::Kind::Array;
+}
+
 bool IsSuccess(const Util::Jsona& reply) {
     return reply.getv("eid", -1) == 0;
 }

@@ -31,6 +31,9 @@ int FromServerTime(const std::string& server, std::string& out);
 
 /// Puts `text` into an envelope as it stands and exchanges it. Results of SendRequest.
 int SendText(const std::string& text, Interface::VoyCommand command, Util::Jsona& reply);
+/// Asks for a list. False without an exchange, and for a reply that is no array: a server that refuses
+/// answers with an object, and what it refused to tell is not empty.
+bool AskList(const std::string& text, Interface::VoyCommand command, Util::Jsona& list);
 /// Whether a status reply says success; one without `eid` does not.
 bool IsSuccess(const Util::Jsona& reply);
 

@@ -73,7 +73,7 @@ int LoadPortCalls(const std::string& vi, PortCallRows& rows) {
         return -1;
     }
     Util::Jsona reply;
-    if (SendText(VoyageIdText(vi), VoyCommand::LoadPortCalls, reply) < 0) {
+    if (!AskList(VoyageIdText(vi), VoyCommand::LoadPortCalls, reply)) {
         return -2;
     }
     return reply.size() < 1 ? -3 : ReadPortCalls(reply, rows);
@@ -83,11 +83,7 @@ int SavePortCalls(const std::string& vi, PortCallRows& rows) {
     if (vi.empty() || rows.size() < 2) {
         return -1;
     }
-    for (VoyPortCall& row : rows) {
-        if (row.ppi.empty()) {
-            row.ppi = PortIdOf(row.ppn);
-        }
-    }
+    ResolvePortIds(rows);
     Util::Jsona reply;
     if (SendText(PortCallsText(vi, rows), VoyCommand::SavePortCalls, reply) < 0) {
         return -2;

@@ -18,7 +18,7 @@ int ReadPortCalls(const Util::Jsona& reply, PortCallRows& rows);
 std::string PortCallsText(const std::string& vi, const PortCallRows& rows);
 std::string FiguresText(const std::string& vi, const BunkerFigures& figures);
 
-/// Command 10. 0; -1 empty id; -2 no exchange; -3 none stored; -4 an element without number.
+/// Command 10. 0; -1 empty id; -2 no exchange, or no list; -3 none stored; -4 an element without number.
 int LoadPortCalls(const std::string& vi, PortCallRows& rows);
 /// Command 11. Rows without port id get it by name first. 0; -1 empty id or fewer than two rows; -2; -3
 /// refused.

@@ -42,7 +42,7 @@ bool RemarkList::LoadRemarks(int type, const std::string& objectid) {
         return false;
     }
     Util::Jsona list;
-    if (!list.parse(reply->Payload())) {
+    if (!list.parse(reply->Payload()) || list.kind() != Util::Jsona::Kind::Array) {
         return false;
     }
     for (CRemark& remark : ReadRemarks(list, type, objectid)) {

@@ -67,9 +67,6 @@ std::vector<CRemark> ReadRemarks(const Util::Jsona& reply, int type, const std::
     std::vector<CRemark> remarks;
     for (int i = 0; i < reply.size(); ++i) {
         const Util::Jsona element = reply.get(i);
-        if (element.kind() != Util::Jsona::Kind::Object) {
-            continue;
-        }
         CRemark remark;
         remark.type = type;
         remark.objectid = objectid;

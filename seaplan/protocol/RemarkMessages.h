@@ -51,7 +51,7 @@ std::string UtcTextToLocal(std::int64_t gmtTimer, const std::string& format);
 /// Local present time; an empty format means "%Y-%m-%d".
 std::string NowText(const std::string& format);
 
-/// The remarks of a list reply, in its order; an element that is no object is left out. Missing texts are
+/// The remarks of a list reply, in its order, one for each element, whatever its kind. Missing texts are
 /// empty, a missing number is 0.
 std::vector<CRemark> ReadRemarks(const Util::Jsona& reply, int type, const std::string& objectid);
 /// Local text of a reply's time, which is a decimal text of seconds after 1970 UTC; empty for anything else.

@@ -71,7 +71,7 @@ int VoyCatalogModule::LoadAll(const std::string& user) {
         return -1;
     }
     Util::Jsona reply;
-    if (SendText(LoadAllText(user), VoyCommand::LoadCatalog, reply) < 0) {
+    if (!AskList(LoadAllText(user), VoyCommand::LoadCatalog, reply)) {
         return -2;
     }
     if (reply.size() < 1) {
@@ -130,19 +130,22 @@ int VoyCatalogModule::AddAisModTime(const std::string& vi, const std::string& ti
 }
 
 int VoyCatalogModule::GetAisModTimes(const std::string& vi, std::vector<std::string>& times) {
+    times.clear();
     if (vi.empty()) {
         return -1;
     }
-    times.clear();
     Util::Jsona reply;
-    if (SendText(VoyageIdText(vi), VoyCommand::LoadAisTimes, reply) < 0) {
+    if (SendText(VoyageIdText(vi), VoyCommand::LoadAisTimes, reply) < 0 || reply.getv("eid", 0) != 0) {
         return -2;
     }
     if (reply.size() < 1) {
         return -3;
     }
-    std::set<std::string> sorted;
     const Util::Jsona list = reply.get("times");
+    if (list.kind() != Util::Jsona::Kind::Array) {
+        return -2;
+    }
+    std::set<std::string> sorted;
     for (int i = 0; i < list.size(); ++i) {
         std::string local;
         const std::string text = list.getv(i, "");

@@ -20,7 +20,7 @@ class VoyCatalogModule {
     /// The logged-in user's id. 0, or -1 (user empty) when nobody is logged in.
     int GetUser(std::string& user);
     /// Command 3: fills an empty store; a filled one asks nothing. 0; 1 the user has nothing yet; -1 empty
-    /// user; -2 the exchange failed.
+    /// user; -2 the exchange failed, or the reply is no list; then the store stays empty.
     int LoadAll(const std::string& user);
 
     /// Command 4. `ci` becomes the new category's id, and stays as it was after a failure: kCommandCodes.
@@ -47,7 +47,7 @@ class VoyCatalogModule {
     /// Command 13, a time of the plan: kPreparedCommandCodes.
     int AddAisModTime(const std::string& vi, const std::string& time);
     /// Command 12: times of correction in the user's zone, in order and each once. 0; -1 empty id; -2 the
-    /// exchange failed; -3 an empty reply. After a failure `times` is empty.
+    /// exchange failed, or the reply holds no list; -3 an empty reply. After a failure `times` is empty.
     int GetAisModTimes(const std::string& vi, std::vector<std::string>& times);
 
   private:

@@ -42,10 +42,13 @@ TEST_F(RemarkReplyTest, OrderIsTheReplysAndEqualNumbersBothStay) {
     EXPECT_EQ(remarks[0].subject + remarks[1].subject + remarks[2].subject, "cad");
 }
 
-TEST_F(RemarkReplyTest, ElementThatIsNoObjectIsNoRemark) {
+TEST_F(RemarkReplyTest, EveryElementIsARemarkWhateverItsKind) {
     EXPECT_TRUE(Read("[]").empty());
-    EXPECT_TRUE(Read("{eid:0}").empty());
-    EXPECT_TRUE(Read(R"([1,"x",null,[]])").empty());
+    const std::vector<CRemark> remarks = Read(R"([1,"x",null,[]])");
+    ASSERT_EQ(remarks.size(), 4U);
+    for (const CRemark& remark : remarks) {
+        EXPECT_EQ(remark, (CRemark{3, "21", 0, "", "", "", ""}));
+    }
 }
 
 TEST_F(RemarkReplyTest, TimeThatIsNoDecimalTextIsEmpty) {

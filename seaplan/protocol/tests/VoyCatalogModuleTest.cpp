@@ -52,10 +52,12 @@ TEST_F(VoyCatalogModuleTest, LoadReportsAReplyThatDoesNotParse) {
 }
 
 TEST_F(VoyCatalogModuleTest, StatusInsteadOfAListLoadsNothing) {
-    host.Reply(3, R"({eid:-1,emsg:"no"})");
-    EXPECT_EQ(module.LoadAll("u"), 0);
-    EXPECT_TRUE(store.categories.empty());
-    EXPECT_TRUE(store.categoryStates.empty());
+    for (const char* reply : {R"({eid:-1,emsg:"no"})", R"({eid:50,emsg:"no"})", "{eid:0}", "{}", "0"}) {
+        host.Reply(3, reply);
+        EXPECT_EQ(module.LoadAll("u"), -2) << reply;
+        EXPECT_TRUE(store.categories.empty());
+        EXPECT_TRUE(store.categoryStates.empty());
+    }
 }
 
 TEST_F(VoyCatalogModuleTest, ConnectionAndUserComeFromTheHost) {
@@ -249,6 +251,7 @@ TEST_F(VoyCatalogModuleTest, AisTimesFromTheCutOverOnAreSkippedWithoutAZone) {
 TEST_F(VoyCatalogModuleTest, ReadingAisTimesLadder) {
     Texts times{"before"};
     EXPECT_EQ(module.GetAisModTimes("", times), -1);
+    EXPECT_TRUE(times.empty()) << "cleared before anything is looked at";
     EXPECT_TRUE(host.requests.empty());
     EXPECT_EQ(module.GetAisModTimes("1", times), -2);
     EXPECT_TRUE(times.empty()) << "cleared before anything is sent";
@@ -256,9 +259,12 @@ TEST_F(VoyCatalogModuleTest, ReadingAisTimesLadder) {
     EXPECT_EQ(module.GetAisModTimes("1", times), -2);
     host.Reply(12, "{}");
     EXPECT_EQ(module.GetAisModTimes("1", times), -3);
-    host.Reply(12, "{eid:0}");
-    EXPECT_EQ(module.GetAisModTimes("1", times), 0) << "a reply without times is an empty list";
-    EXPECT_TRUE(times.empty());
+    for (const char* reply : {"{eid:0}", "{eid:50}", R"({eid:50,times:["2024-03-01 00:00:00"]})", "[1]"}) {
+        host.Reply(12, reply);
+        EXPECT_EQ(module.GetAisModTimes("1", times), -2)
+            << "a reply without times is no empty list: " << reply;
+        EXPECT_TRUE(times.empty());
+    }
 }
 
 }  // namespace
