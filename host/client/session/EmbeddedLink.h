@@ -18,6 +18,8 @@ class LateRouteSource : public Server::RouteSource {
     explicit LateRouteSource(const std::string& networkFile);
     std::string Plan(std::string_view requestJson) override;
     std::string Nearest(std::string_view requestJson) override;
+    /// Without a network every port counts as known, as nothing tells them apart.
+    bool KnowsPort(const std::string& id) override;
 
   private:
     struct Loaded {

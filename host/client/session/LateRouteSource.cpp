@@ -31,4 +31,9 @@ std::string LateRouteSource::Nearest(std::string_view requestJson) {
     return loaded.source ? loaded.source->Nearest(requestJson) : loaded.failure;
 }
 
+bool LateRouteSource::KnowsPort(const std::string& id) {
+    const Loaded& loaded = *loaded_.get();
+    return !loaded.source || loaded.source->KnowsPort(id);
+}
+
 }  // namespace Tarvik::Client

@@ -29,6 +29,7 @@ constexpr ErrorRow kErrors[] = {
     {ErrorCode::NoRows, "the request holds no rows"},
     {ErrorCode::TooManyRows, "the request holds too many rows"},
     {ErrorCode::RequestTooLong, "the request is too long"},
+    {ErrorCode::UnknownPort, "a port call names no known port"},
     {ErrorCode::OtherUser, "the request names another user"},
     {ErrorCode::NoUser, "nobody is logged in"},
     {ErrorCode::UnknownCategory, "there is no such category"},

@@ -25,6 +25,7 @@ enum class ErrorCode : int {
     NoRows = 12,
     TooManyRows = 13,
     RequestTooLong = 14,
+    UnknownPort = 15,
     OtherUser = 20,
     NoUser = 21,
     UnknownCategory = 30,

@@ -59,11 +59,10 @@ class RowFields {
     std::vector<std::string_view> fields_;
 };
 
-/// A purpose may be missing, or blank on a row that stands for a ship's position; otherwise it is one of the
-/// list.
+/// A blank stands for a ship's position in the plug-in's table, which is no port call.
 bool IsPurpose(std::string_view text) {
-    constexpr std::string_view kPurposes = " 12BCDLOWYZ";
-    return text.empty() || (text.size() == 1 && kPurposes.find(text[0]) != std::string_view::npos);
+    constexpr std::string_view kPurposes = "12BCDLOWYZ";
+    return text.size() == 1 && kPurposes.find(text[0]) != std::string_view::npos;
 }
 
 }  // namespace
@@ -104,8 +103,11 @@ PortCallRecord ReadPortCall(std::string_view row) {
     call.portId = fields.Text(1);
     call.portName = fields.Text(2);
     call.purpose = fields.Text(3);
-    if (call.portId.empty() && call.portName.empty()) {
+    if (call.portName.empty()) {
         fields.Refuse(ErrorCode::BadRow);
+    }
+    if (call.portId.empty()) {
+        fields.Refuse(ErrorCode::UnknownPort);
     }
     if (!IsPurpose(call.purpose)) {
         fields.Refuse(ErrorCode::BadPurpose);

@@ -16,6 +16,11 @@ class RouteSource {
     virtual std::string Plan(std::string_view requestJson) = 0;
     /// The points from the route point nearest to a position to a port.
     virtual std::string Nearest(std::string_view requestJson) = 0;
+    /// Whether there is a port of this id. A source without ports of its own cannot tell, and says yes.
+    virtual bool KnowsPort(const std::string& id) {
+        static_cast<void>(id);
+        return true;
+    }
 };
 
 }  // namespace Tarvik::Server

@@ -57,6 +57,9 @@ std::string ReplacePortCalls(const CommandCall& call) {
     calls.reserve(texts.size() - 1);
     for (std::size_t i = 1; i < texts.size(); ++i) {
         calls.push_back(ReadPortCall(texts[i]));
+        if (!call.routes.KnowsPort(calls.back().portId)) {
+            throw Refusal(ErrorCode::UnknownPort, texts[i]);
+        }
     }
     ValueOrRefuse(call.storage.Schedule().ReplacePortCalls(call.user, texts[0], calls));
     return Replies::Success();

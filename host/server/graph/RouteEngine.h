@@ -23,6 +23,9 @@ class RouteEngine {
     /// begins at the position itself.
     NearestResult Nearest(GeoPoint position, const std::string& destPort) const;
 
+    /// Whether there is a port or route point of this id.
+    bool Knows(const std::string& id) const { return network_->NodeOf(id).has_value(); }
+
   private:
     std::vector<std::uint32_t> EntryNodes(GeoPoint position, bool& inSight) const;
 

@@ -151,6 +151,10 @@ PlannedStop DeskRoutes::Way(const std::string& from, const RouteRequestPoint& st
     return way;
 }
 
+bool DeskRoutes::KnowsPort(const std::string& id) {
+    return PortOf(id) != nullptr;
+}
+
 std::string DeskRoutes::Plan(std::string_view requestJson) {
     std::string error;
     const auto request = Messages::ReadPlan(requestJson, error);

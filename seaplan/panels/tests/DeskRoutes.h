@@ -46,6 +46,7 @@ class DeskRoutes final : public Server::RouteSource {
 
     std::string Plan(std::string_view requestJson) override;
     std::string Nearest(std::string_view requestJson) override;
+    bool KnowsPort(const std::string& id) override;
 
   private:
     using Ends = std::pair<std::string, std::string>;

@@ -20,6 +20,9 @@ class EchoRoutes : public RouteSource {
     std::string Nearest(std::string_view requestJson) override {
         return "nearest " + std::string(requestJson);
     }
+    bool KnowsPort(const std::string& id) override { return id != unknownPort; }
+
+    std::string unknownPort;
 };
 
 /// One request text, with the remark module meant by `command` kRemark, and the reply that it must get.
@@ -60,11 +63,11 @@ class ServiceTest : public ::testing::Test {
     static std::string Emsg(const std::string& reply);
 
     std::int64_t now_ = 1772323200;
+    EchoRoutes routes_;
 
   private:
     std::string Create(int command, const std::string& text, const char* key, const std::string& user);
 
-    EchoRoutes routes_;
     std::unique_ptr<SqliteStorage> storage_;
     std::unique_ptr<VoyageService> service_;
 };
