@@ -15,6 +15,16 @@ constexpr int kLineColour = 0x99FF;
 constexpr int kPointColour = 0xFF0000;
 constexpr int kAlternativeColour = 0xFFFF00;
 
+/// Adds a route's corners, without the first where the line ends in it already.
+void AddRoute(const VoyCalRoute& route, const VoyCalCorner* before, VoyCalLines& lines) {
+    const bool isShared = before != nullptr && !route.points.empty() && route.points.front() == *before;
+    for (std::size_t i = isShared ? 1 : 0; i < route.points.size(); ++i) {
+        const VoyCalCorner& corner = route.points[i];
+        Widen(lines.extent, corner.x, corner.y);
+        lines.main.push_back(CornerText(corner.x, corner.y));
+    }
+}
+
 }  // namespace
 
 std::string CornerText(double x, double y) {
@@ -36,24 +46,16 @@ bool Holds(const Interface::TrvMapExtent& current, const Interface::TrvMapExtent
 VoyCalLines LinesOf(const std::vector<VoyCalPort>& ports) {
     VoyCalLines lines;
     std::size_t eastStart = 0;
+    const VoyCalCorner* before = nullptr;
     for (std::size_t p = 1; p < ports.size(); ++p) {
-        const auto& routes = ports[p].routes;
-        for (std::size_t r = 0; r < routes.size(); ++r) {
-            const VoyCalRoute& route = routes[r];
-            for (const auto& corner : route.points) {
-                Widen(lines.extent, corner.x, corner.y);
-                lines.main.push_back(CornerText(corner.x, corner.y));
-            }
+        for (const VoyCalRoute& route : ports[p].routes) {
+            AddRoute(route, before, lines);
             if (!lines.crosses && route.crossing >= 0) {
                 lines.crosses = true;
-                eastStart =
-                    lines.main.size() - (route.points.size() - static_cast<std::size_t>(route.crossing)) + 1;
+                const std::size_t behind = route.points.size() - static_cast<std::size_t>(route.crossing) - 1;
+                eastStart = lines.main.size() - behind;
             }
-            // The next route begins with the corner in which this one ends.
-            const bool isLast = p + 1 == ports.size() && r + 1 == routes.size();
-            if (!isLast && !route.points.empty()) {
-                lines.main.pop_back();
-            }
+            before = route.points.empty() ? before : &route.points.back();
         }
     }
     if (lines.crosses) {

@@ -225,12 +225,12 @@ TEST_F(CVoyCalTest, SampleIsTheRouteOfItsThreePorts) {
     }
     folder.WritePoints(rows);
     Make(SampleReply());
-    for (const auto* id : {"40389", "40208", "40430"}) {
+    for (const auto* id : {"40358", "41117", "40430"}) {
         chart.ports[id] = {"", id, 1, 2};
     }
-    EXPECT_EQ(Calculate("40389,40208")->valid, 0);
-    EXPECT_EQ(Calculate("40208,40389,40430")->valid, 0);
-    const auto* result = Calculate("40389,40208,40430");
+    EXPECT_EQ(Calculate("40358,41117")->valid, 0);
+    EXPECT_EQ(Calculate("41117,40358,40430")->valid, 0);
+    const auto* result = Calculate("40358,41117,40430");
     EXPECT_EQ(result->valid, 1);
     EXPECT_EQ(result->mainLine.points.front(), "117.7500,38.9833");
     EXPECT_EQ(result->mainLine.points.back(), "9.9700,53.5400");

@@ -75,6 +75,20 @@ TEST(VoyCalLines, RouteThatEndsAtTheDateLineLeavesNothingBehind) {
     EXPECT_THAT(lines.east, IsEmpty());
 }
 
+TEST(VoyCalLines, MarkAtARoutesEndCutsBetweenTheRoutes) {
+    for (const char* next : {"-180,1|-170,2", "180,1|-180,1|-170,2"}) {
+        const auto lines = LinesOf({{}, PortWith({"160,0|170,0|180,1", next})});
+        EXPECT_THAT(lines.main, ElementsAre("160.0000,0.0000", "170.0000,0.0000", "179.9900,1.0000")) << next;
+        EXPECT_THAT(lines.east, ElementsAre("-179.9900,1.0000", "-170.0000,2.0000")) << next;
+    }
+}
+
+TEST(VoyCalLines, MarkAtARoutesBeginningCutsBehindIt) {
+    const auto lines = LinesOf({{}, PortWith({"160,0|170,0", "180,1|-180,1|-170,2"})});
+    EXPECT_THAT(lines.main, ElementsAre("160.0000,0.0000", "170.0000,0.0000", "179.9900,1.0000"));
+    EXPECT_THAT(lines.east, ElementsAre("-179.9900,1.0000", "-170.0000,2.0000"));
+}
+
 TEST(VoyCalLines, NothingToDrawKeepsTheStartOfTheExtent) {
     const auto lines = LinesOf({});
     EXPECT_THAT(lines.main, IsEmpty());

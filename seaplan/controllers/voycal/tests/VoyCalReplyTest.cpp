@@ -159,8 +159,8 @@ TEST(VoyCalSample, HasThreeStopsWithThirteenAndFourLegs) {
     Util::Jsona root;
     ASSERT_TRUE(root.parse(SampleReply())) << root.ErrorOffset();
     ASSERT_EQ(root.size(), 3);
-    EXPECT_EQ(root.get(0).getv("point_cd", ""), "40389");
-    EXPECT_EQ(root.get(1).getv("point_cd", ""), "40208");
+    EXPECT_EQ(root.get(0).getv("point_cd", ""), "40358");
+    EXPECT_EQ(root.get(1).getv("point_cd", ""), "41117");
     EXPECT_EQ(root.get(1).getv("distance", 0.0), 20353.5);
     EXPECT_EQ(root.get(1).get("routes").size(), 13);
     EXPECT_EQ(root.get(1).get("rp_groups").size(), 5);
