@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include <tarvik/util/StringUtl.h>
+
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyCatalogController.h"
@@ -39,6 +41,16 @@ std::string ComplaintOf(const PlanPort& port) {
         return "the weather factor must be from 0 to below 100 %";
     }
     return port.portTime >= 0 ? "" : "the hours in port must be 0 or more";
+}
+
+bool IsTooWide(const std::string& name, int limit) {
+    return Util::StringUtl::Width(name) > limit;
+}
+
+std::string WordsOfWidths() {
+    return Util::StringUtl::Format(
+        "a category's name has at most %d characters and a voyage's at most %d, wide ones counted twice",
+        kCategoryNameWidth, kVoyageNameWidth);
 }
 
 /// Words for a code of CalculatePortCalls.
@@ -128,8 +140,12 @@ int PlanService::CheckNames(const PlanRequest& request) {
         return 0;
     }
     const std::string voyage = NormalizeName(request.voyage);
-    if (NormalizeName(request.category).empty() || voyage.empty()) {
+    const std::string category = NormalizeName(request.category);
+    if (category.empty() || voyage.empty()) {
         return Fail(Interface::PlanNameMissing, "a saved voyage needs a name and a category");
+    }
+    if (IsTooWide(category, kCategoryNameWidth) || IsTooWide(voyage, kVoyageNameWidth)) {
+        return Fail(Interface::PlanNameMissing, WordsOfWidths());
     }
     std::map<std::string, int> categories;
     std::map<std::string, int> voyages;
@@ -194,12 +210,15 @@ int PlanService::Save(const PlanRequest& request) {
     return 0;
 }
 
-/// Leaves nothing half saved behind. A server that is gone cannot be told.
+/// Leaves nothing half saved behind: what is in use goes into the recycle bin first, as nothing else is
+/// destroyed. A server that is gone cannot be told.
 void PlanService::TakeBack(bool newCategory) {
     if (!result_.voyageId.empty()) {
+        catalog_->DeleteVoyage(result_.categoryId, result_.voyageId);
         catalog_->DestroyVoyage(result_.categoryId, result_.voyageId);
     }
     if (newCategory) {
+        catalog_->DeleteCategory(result_.categoryId);
         catalog_->DestroyCategory(result_.categoryId);
     }
 }

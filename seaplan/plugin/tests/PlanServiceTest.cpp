@@ -15,6 +15,9 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
+/// A server that is not there would be stood in for by known legs.
+constexpr const char* kNoWay = R"({eid:64,emsg:"no way joins these points"})";
+
 class PlanServiceTest : public ScheduleFixture {
   protected:
     PlanServiceTest() {
@@ -204,6 +207,7 @@ TEST_F(PlanServiceTest, StoreThatWasNotLoadedIsLeftForThePanelToLoad) {
         EXPECT_TRUE(store.categoryVoyages.empty());
         EXPECT_EQ(host.TextsOf(3).size(), round) << "asked for at every plan";
         host.Reply(4, R"({eid:0,ci:"11"})");
+        host.Reply(1, kNoWay);
         ExpectFailure(Interface::PlanNotCalculated);
     }
 }
@@ -215,9 +219,7 @@ TEST_F(PlanServiceTest, RouteThatAPanelHasCalculatedStaysTheOneItSaves) {
         RouteStops calculated(3);
         calculated[0].point_cd = "40003";
         module.Pending().Take(calculated);
-        if (known) {
-            host.Reply(1, kRouteAb);
-        }
+        host.Reply(1, known ? kRouteAb : kNoWay);
         EXPECT_EQ(service.Plan(request).code, known ? Interface::PlanDone : Interface::PlanNotCalculated);
         ASSERT_EQ(module.Pending().Stops().size(), 3U) << known;
         EXPECT_EQ(module.Pending().Stops()[0].point_cd, "40003");
@@ -279,6 +281,20 @@ TEST_F(PlanServiceTest, SavingNeedsNamesAndAFreeOne) {
     store.categories["1"].ci = "1";
     store.voyages["9"].vn = "V";
     ExpectFailure(Interface::PlanNameTaken);
+}
+
+TEST_F(PlanServiceTest, NamesAreAsWideAsThoseOfTheTree) {
+    LoadStore();
+    AskToSave();
+    request.voyage = std::string(21, 'v');
+    ExpectFailure(Interface::PlanNameMissing);
+    EXPECT_NE(service.Plan(request).step.find("20"), std::string::npos);
+    request.voyage = std::string(18, 'v') + "\xE8\x88\xB9";  // a wide character counts twice
+    request.category = std::string(31, 'c');
+    ExpectFailure(Interface::PlanNameMissing);
+    request.category = std::string(30, 'c');
+    host.Reply(1, kRouteAb);
+    EXPECT_EQ(service.Plan(request).code, Interface::PlanDone);
 }
 
 TEST_F(PlanServiceTest, RefusedSaveIsToldByItsStep) {
