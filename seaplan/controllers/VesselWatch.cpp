@@ -73,7 +73,7 @@ bool TakePosition(const VesselPosition& record, VoyCatalogController& catalog, V
         const std::string vi = voyage.vi;
         const std::string vsi = voyage.vsi;
         const std::string vsn = voyage.vsn;
-        if (catalog.ChangeVessel(vi, vsi, vsn, record.vsmsi) < 0) {
+        if (!IsVesselChanged(catalog.ChangeVessel(vi, vsi, vsn, record.vsmsi))) {
             return false;
         }
     }
@@ -186,7 +186,8 @@ Outcome<TraceStep> VesselWatch::TakeTrack(VoyInfo& voyage, const std::vector<std
     }
     const std::string vsi = voyage.vsi;
     const std::string vsn = voyage.vsn;
-    return catalog_->ChangeVessel(voyage.vi, vsi, vsn, vsmsi) < 0 ? TraceStep::Number : Outcome<TraceStep>();
+    return IsVesselChanged(catalog_->ChangeVessel(voyage.vi, vsi, vsn, vsmsi)) ? Outcome<TraceStep>()
+                                                                               : TraceStep::Number;
 }
 
 Outcome<TraceStep> VesselWatch::HideTrack(const std::string& vi) const {

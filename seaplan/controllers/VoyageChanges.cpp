@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/VoyageChanges.h"
 
+#include <algorithm>
+
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/data/TimeText.h"
@@ -91,6 +93,11 @@ Outcome<ChangeStep> VoyageChanges::SetVessel(const std::string& vi, const std::s
     voyage->vsi = vsi;
     voyage->vsn = vsn;
     voyage->vsmsi = vsmsi;
+    const bool nothingToAsk = std::none_of(store_->voyages.begin(), store_->voyages.end(),
+                                           [](const auto& entry) { return !entry.second.vsi.empty(); });
+    if (nothingToAsk) {
+        return {};
+    }
     return !refresh_ || refresh_() < 0 ? ChangeStep::Positions : Outcome<ChangeStep>();
 }
 

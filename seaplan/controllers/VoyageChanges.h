@@ -28,8 +28,13 @@ inline constexpr CodeTable kChangeVesselCodes{
     Code{ChangeStep::Input, -1},   // an empty voyage id, or neither id nor name of a vessel; nothing is sent
     Code{ChangeStep::Server, -2},  // the server refused
     Code{ChangeStep::Voyage, -3},  // it is done, but the store does not know the voyage
-    Code{ChangeStep::Positions, -4},  // it is done, but no vessel's position is known
+    Code{ChangeStep::Positions, -4},  // it is done, but positions were asked for and none is known
 };
+/// Whether ChangeVessel's number says that the vessel is saved and on show: it is told of positions for the
+/// chart only.
+constexpr bool IsVesselChanged(int number) {
+    return number == 0 || number == kChangeVesselCodes.Of(ChangeStep::Positions);
+}
 /// Numbers of AddAisModTime.
 inline constexpr CodeTable kAddAisTimeCodes{
     Code{ChangeStep::Input, -1},   // an empty id, or a text of another length than 19; nothing is sent

@@ -202,7 +202,7 @@ TEST_F(VoyCatalogControllerTest, VesselWithoutIdButWithNameGoesThrough) {
     host.Reply(5, "{eid:0}");
     EXPECT_EQ(catalog.ChangeVessel("x", "s", "Ship", 1), -3);
     host.Reply(5, "{eid:0}");
-    EXPECT_EQ(catalog.ChangeVessel("9", "", "Ship", 1), -4) << "there is no vessel id to ask positions for";
+    EXPECT_EQ(catalog.ChangeVessel("9", "", "Ship", 1), 0) << "there is no vessel id to ask positions for";
     EXPECT_EQ(store.voyages.at("9").vsn, "Ship") << "the store has followed the server all the same";
     host.Reply(5, "{eid:0}");
     host.positions = {{"s", 1, 0, 100, 1.0, 2.0}};

@@ -102,9 +102,7 @@ void VesselCommands::TurnAisOn(const VoyInfo& voyage) {
 
 /// A vessel whose position nobody knows is saved all the same.
 bool VesselCommands::Save(const std::string& vi, const Interface::FleetEntry& vessel) {
-    constexpr int kNoPositions = -4;
-    const int result = p_.context.catalog.ChangeVessel(vi, vessel.id, vessel.name, vessel.number);
-    return result == 0 || result == kNoPositions;
+    return IsVesselChanged(p_.context.catalog.ChangeVessel(vi, vessel.id, vessel.name, vessel.number));
 }
 
 int VesselCommands::Commit(const Interface::FleetEntry& vessel, bool typedOnly) {
