@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/PositionBook.h"
 
+#include <algorithm>
+
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/Units.h>
 
@@ -65,6 +67,13 @@ int AddStops(const RouteStops& stops, const PointMap& routePoints, BookPoints& r
         }
     }
     return 0;
+}
+
+bool IsPortOf(const PosBookPoint& point, const VoyPortCall& row) {
+    if ((point.psn.empty() && point.pointId.empty()) || point.psn == row.ppn) {
+        return true;
+    }
+    return !row.ppi.empty() && (point.pointId == row.ppi || PortIdOf(point.psn) == row.ppi);
 }
 
 /// Stay and weather of the port ahead; they stay as they are behind the last port.
@@ -134,6 +143,18 @@ int BookFromStops(const RouteStops& stops, const PointMap& routePoints, BookPoin
         rows.clear();
     }
     return code;
+}
+
+bool RouteFits(const RouteStops& stops, const PortCallRows& rows) {
+    return std::equal(stops.begin(), stops.end(), rows.begin(), rows.end(),
+                      [](const RouteStop& stop, const VoyPortCall& row) { return stop.point_cd == row.ppi; });
+}
+
+bool BookFits(const BookPoints& book, const PortCallRows& rows) {
+    const std::vector<BookLeg> legs = LegsOf(book);
+    return std::equal(
+        legs.begin(), legs.end(), rows.begin(), rows.end(),
+        [&](const BookLeg& leg, const VoyPortCall& row) { return IsPortOf(book[leg.last], row); });
 }
 
 int ComputeBookTimes(const Util::_datetime_t& start, const PortCallRows& ports, BookPoints& rows) {

@@ -36,9 +36,15 @@ int LegTotalsFromBook(const VoyPositionBook& book, PortCallRows& ports);
 /// ports; -3 the averages of the legs cannot be formed; -4 the ports cannot be recomputed with them. On
 /// failure the rows are untouched.
 int RescaleBookSpeeds(const PortCallRows& ports, BookPoints& rows);
-/// Joins the legs of `fresh` with those of `stored` that run between the same two ports (by name), so that
-/// waypoints that the person worked on stay; a stored book whose legs do not match its ports gives none. 0,
-/// or -1 when either side has fewer than two ports or the fresh legs do not match theirs.
+/// Whether the ports of a route are the rows' ports, in order, by id.
+bool RouteFits(const RouteStops& stops, const PortCallRows& rows);
+/// The same for the ports of a book, by name, or by id where a port is spelt otherwise. A port row that says
+/// nothing of its port fits any.
+bool BookFits(const BookPoints& book, const PortCallRows& rows);
+/// Joins the legs of `fresh` with those of `stored` that run between the same two ports, so that
+/// waypoints that the person worked on stay. A book's own rows name its ports; only a row without a name has
+/// that of its port call, if the book has as many ports as there are calls. 0, or -1 when either side has
+/// fewer than two ports or the fresh legs do not match theirs.
 int JoinKeepingLegs(const PortCallRows& oldPorts, const BookPoints& stored, const PortCallRows& newPorts,
                     const BookPoints& fresh, BookPoints& out);
 

@@ -11,8 +11,8 @@
 
 /// Figures of the book's legs. A leg's length and time are sums over its pairs of rows, so its speed is the
 /// length over the time, and scaling every row by one factor scales the leg's speed by the same. Kept legs
-/// are found by the names of their ports in an ordered map. Cost: one pass over the rows, and one look-up a
-/// leg.
+/// are found by the names that the books give their ports, in an ordered map. Cost: one pass over the rows,
+/// and one look-up a leg.
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -64,15 +64,25 @@ struct StoredLeg {
 
 using StoredLegs = std::map<std::string, std::vector<StoredLeg>>;
 
-/// The stored legs under the names of their ports. A save that broke off may leave port calls without a book,
-/// or with the book of other ports: then nothing tells which leg is whose, and none is stored.
-StoredLegs StoreLegs(const PortCallRows& ports, const std::vector<BookLeg>& legs) {
-    StoredLegs stored;
-    if (legs.size() != ports.size()) {
-        return stored;
+/// Names of a book's ports, one for each leg: its own, or that of the port call where it has none. A book
+/// with another number of ports than there are calls, left by a save that broke off, gets none from them.
+std::vector<std::string> PortNamesOf(const BookPoints& rows, const std::vector<BookLeg>& legs,
+                                     const PortCallRows& calls) {
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < legs.size(); ++i) {
+        const std::string& own = rows[legs[i].last].psn;
+        names.push_back(own.empty() && legs.size() == calls.size() ? calls[i].ppn : own);
     }
+    return names;
+}
+
+/// The stored legs under the names of their ports; a leg of a nameless port is nobody's.
+StoredLegs StoreLegs(const std::vector<std::string>& names, const std::vector<BookLeg>& legs) {
+    StoredLegs stored;
     for (std::size_t i = 1; i < legs.size(); ++i) {
-        stored[LegCacheKey(ports[i - 1].ppn, ports[i].ppn)].push_back({legs[i], false});
+        if (!names[i - 1].empty() && !names[i].empty()) {
+            stored[LegCacheKey(names[i - 1], names[i])].push_back({legs[i], false});
+        }
     }
     return stored;
 }
@@ -164,11 +174,13 @@ int JoinKeepingLegs(const PortCallRows& oldPorts, const BookPoints& stored, cons
     if (oldPorts.size() < 2 || newPorts.size() < 2 || newLegs.size() != newPorts.size()) {
         return -1;
     }
-    auto keptLegs = StoreLegs(oldPorts, LegsOf(stored));
+    const auto oldLegs = LegsOf(stored);
+    auto keptLegs = StoreLegs(PortNamesOf(stored, oldLegs, oldPorts), oldLegs);
+    const auto names = PortNamesOf(fresh, newLegs, newPorts);
     BookPoints joined;
     AppendRows(fresh, newLegs.front().first, newLegs.front().last, joined);
     for (std::size_t i = 1; i < newLegs.size(); ++i) {
-        const BookLeg* kept = TakeLeg(keptLegs, LegCacheKey(newPorts[i - 1].ppn, newPorts[i].ppn));
+        const BookLeg* kept = TakeLeg(keptLegs, LegCacheKey(names[i - 1], names[i]));
         const BookPoints& source = kept != nullptr ? stored : fresh;
         const BookLeg& leg = kept != nullptr ? *kept : newLegs[i];
         AppendRows(source, leg.first + 1, leg.last, joined);

@@ -38,6 +38,15 @@ void PrepareFirstPurpose(PortCallRows& rows) {
     }
 }
 
+void FillMissingPurposes(PortCallRows& rows) {
+    PrepareFirstPurpose(rows);
+    for (VoyPortCall& row : rows) {
+        if (IsPurposeMissing(row.pp)) {
+            row.pp = kDischarge;
+        }
+    }
+}
+
 int DropSamePortRows(const PortCallRows& rows, const SamePortLinks& links, PortCallRows& out) {
     PortCallRows kept;
     for (std::size_t i = 0; i < rows.size(); ++i) {

@@ -11,6 +11,9 @@ namespace Tarvik::Seaplan {
 
 /// Gives row 0 the purpose "L" when it has none.
 void PrepareFirstPurpose(PortCallRows& rows);
+/// Gives every port without a purpose its own: "L" in row 0, "D" behind it. Positions of the ship are no
+/// ports; the caller has none of them among the rows.
+void FillMissingPurposes(PortCallRows& rows);
 /// Leaves out every row that stands for the same place as the row before it in the list as read, by name or
 /// by link; rows that stay without a purpose take "D". 0, or -1 with `out` empty when fewer than two rows are
 /// left.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 #include "seaplan/calculation/LegCacheText.h"
@@ -37,10 +39,20 @@ class CachedLegs {
     /// file written at once. After a failure `out` is empty; legs that came before it stay in the file.
     Outcome<LegStep> StopsOf(const PortCallRows& rows, RouteStops& out);
 
+    /// Keeps the legs of the server's answer to a whole list, with the present time: those that no choice of
+    /// a person has changed. A file that cannot be written is none.
+    void Keep(const PortCallRows& rows, const RouteStops& stops);
+    /// A stop for each row of legs that are known, whatever their age, and the time of the oldest. Nothing,
+    /// with `out` as it was, when one is not known.
+    std::optional<Util::_datetime_t> Known(const PortCallRows& rows, RouteStops& out);
+
   private:
     enum class FetchStep { Ask, Write };
 
     Outcome<FetchStep> Fetch(const VoyPortCall& from, const VoyPortCall& to);
+    void Open();
+    bool KeepLeg(const VoyPortCall& from, const VoyPortCall& to, const RouteStop& start,
+                 const RouteStop& end);
     Outcome<LegStep> Leg(const VoyPortCall& from, const VoyPortCall& to, RouteStops& leg);
 
     LegCache legs_;

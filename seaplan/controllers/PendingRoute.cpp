@@ -19,6 +19,10 @@ void PendingRoute::NoteLoaded(const std::string& vi, const PortCallRows& rows) {
     if (IsFor(vi)) {
         Drop();
     }
+    NoteShown(rows);
+}
+
+void PendingRoute::NoteShown(const PortCallRows& rows) {
     portNames_.clear();
     for (const VoyPortCall& row : rows) {
         portNames_.push_back(row.ppn);

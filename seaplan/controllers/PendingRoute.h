@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,6 +19,7 @@ class PendingRoute {
     struct Route {
         RouteStops stops;
         std::string voyage;
+        std::optional<Util::_datetime_t> knownSince;
     };
 
   public:
@@ -40,16 +42,25 @@ class PendingRoute {
     bool IsThere() const { return !route_.stops.empty(); }
     /// Whether there is a route that a save of this voyage may take.
     bool IsFor(const std::string& vi) const;
-    /// A newly calculated route; it belongs to no voyage until Assign names one.
-    void Take(RouteStops stops) { route_ = {std::move(stops), ""}; }
+    /// A newly calculated route; it belongs to no voyage until Assign names one. `knownSince` is set for a
+    /// route of known legs, which the server was not there to confirm: the time of the oldest.
+    void Take(RouteStops stops, std::optional<Util::_datetime_t> knownSince = std::nullopt) {
+        route_ = {std::move(stops), "", knownSince};
+    }
+    const std::optional<Util::_datetime_t>& KnownSince() const { return route_.knownSince; }
     void Assign(const std::string& vi) { route_.voyage = vi; }
     /// The same route by other points: whose it is stays.
-    void Change(RouteStops stops) { route_.stops = std::move(stops); }
+    void Change(RouteStops stops) {
+        route_.stops = std::move(stops);
+        route_.knownSince.reset();
+    }
     void Drop() { route_ = {}; }
 
     /// The schedule of `vi` was loaded with these rows: its own pending route goes, that of another stays.
     void NoteLoaded(const std::string& vi, const PortCallRows& rows);
     void NoteSaved() { isCurrent_ = 1; }
+    /// The schedule was only drawn, by the timer or a switch in the tree: no route goes.
+    void NoteShown(const PortCallRows& rows);
     /// Rows were moved, deleted or cleared: the route is recalculated before the next save.
     void NoteRowsChanged() { isCurrent_ = -1; }
     void NoteDrawn(const std::string& vi) { drawnVoyage_ = vi; }

@@ -23,6 +23,14 @@ VoyPortCall ResultRow(const VoyPortCall& row, const RouteStop& stop) {
     return result;
 }
 
+PortCallRows ResultRows(const PortCallRows& rows, const RouteStops& stops) {
+    PortCallRows results;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        results.push_back(ResultRow(rows[i], stops[i]));
+    }
+    return results;
+}
+
 }  // namespace
 
 Outcome<FindStep> RouteFinder::Stops(const PortCallRows& rows, bool wholeList, RouteStops& stops) {
@@ -34,15 +42,20 @@ Outcome<FindStep> RouteFinder::Stops(const PortCallRows& rows, bool wholeList, R
     if (rows.size() < 2) {
         return FindStep::TooFewRows;
     }
+    return WholeList(rows, stops);
+}
+
+Outcome<FindStep> RouteFinder::WholeList(const PortCallRows& rows, RouteStops& stops) {
     std::vector<std::string> ids;
     for (const VoyPortCall& row : rows) {
         ids.push_back(row.ppi);
     }
     const auto asked = AskRoute(RouteRequestText(ids), stops);
-    if (asked.Failed()) {
-        return asked.At() == RouteStep::Send ? FindStep::Send : FindStep::Parse;
+    if (!asked.Failed()) {
+        legs_.Keep(rows, stops);
+        return {};
     }
-    return {};
+    return asked.At() == RouteStep::Send ? FindStep::Send : FindStep::Parse;
 }
 
 Outcome<FindStep> RouteFinder::Find(const PortCallRows& rows, PortCallRows& results, bool wholeList) {
@@ -54,20 +67,32 @@ Outcome<FindStep> RouteFinder::Find(const PortCallRows& rows, PortCallRows& resu
     if (stops.size() != rows.size()) {
         return FindStep::Count;
     }
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        results.push_back(ResultRow(rows[i], stops[i]));
-    }
+    results = ResultRows(rows, stops);
     pending_.Take(std::move(stops));
     return {};
 }
 
+bool RouteFinder::FindKnown(const PortCallRows& rows, PortCallRows& results) {
+    results.clear();
+    RouteStops stops;
+    const auto oldest = legs_.Known(rows, stops);
+    if (!oldest) {
+        return false;
+    }
+    results = ResultRows(rows, stops);
+    pending_.Take(std::move(stops), oldest);
+    return true;
+}
+
 Outcome<BookStep> RouteFinder::BookOfRoute(BookPoints& rows) {
     rows.clear();
-    const PointMap* routePoints = ports_.RoutePoints();
-    if (routePoints == nullptr) {
+    // Fewer than two stops need no point, so the table is not asked for.
+    const bool needsPoints = pending_.Stops().size() > 1;
+    const PointMap* routePoints = needsPoints ? ports_.RoutePoints() : nullptr;
+    if (needsPoints && routePoints == nullptr) {
         return BookStep::Points;
     }
-    const int made = BookFromStops(pending_.Stops(), *routePoints, rows);
+    const int made = BookFromStops(pending_.Stops(), needsPoints ? *routePoints : PointMap(), rows);
     return made < 0 ? Outcome<BookStep>(BookStep::Rows, made) : Outcome<BookStep>();
 }
 

@@ -41,9 +41,12 @@ class RouteFinder {
     RouteFinder(PendingRoute& pending, PortDirectory& ports) : pending_(pending), ports_(ports) {}
 
     /// The route of the rows, by one request for the whole list or leg by leg through the cache. Each result
-    /// takes id and distance from its stop, the rest from its row.
-    /// After a failure `results` is empty and the pending route is what it was.
+    /// takes id and distance from its stop, the rest from its row. Legs that the server gave for a whole list
+    /// are kept. After a failure `results` is empty and the pending route is what it was.
     Outcome<FindStep> Find(const PortCallRows& rows, PortCallRows& results, bool wholeList);
+    /// The same of legs that are known, whatever their age, for when the server cannot be reached. False,
+    /// with `results` empty and the pending route as it was, when one is not known.
+    bool FindKnown(const PortCallRows& rows, PortCallRows& results);
     /// Book rows of the pending route; empty after a failure.
     Outcome<BookStep> BookOfRoute(BookPoints& rows);
     /// Id, name and position of the rows' ports, in order.
@@ -59,6 +62,7 @@ class RouteFinder {
 
   private:
     Outcome<FindStep> Stops(const PortCallRows& rows, bool wholeList, RouteStops& stops);
+    Outcome<FindStep> WholeList(const PortCallRows& rows, RouteStops& stops);
 
     PendingRoute& pending_;
     PortDirectory& ports_;

@@ -30,19 +30,12 @@ Outcome<CalculationStep> ScheduleBook(PortCallRows& scheduled, BookPoints points
     return {};
 }
 
-/// Whether the stops are those of the rows' ports, in order; then `routed` are the rows with their distances.
-bool TakeDistances(const RouteStops& stops, const PortCallRows& rows, PortCallRows& routed) {
-    if (rows.empty() || stops.size() != rows.size()) {
-        return false;
+/// The cause of a route that was not found: an unknown port comes first, as no server could route it.
+ScheduleFault FaultOf(FindStep step, const PortCallRows& rows) {
+    if (const auto unknown = FirstUnknownPort(rows)) {
+        return {ScheduleFault::Cause::UnknownPort, *unknown, rows[*unknown].ppn};
     }
-    routed = rows;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (stops[i].point_cd != rows[i].ppi) {
-            return false;
-        }
-        routed[i].distance = stops[i].distance;
-    }
-    return true;
+    return {step == FindStep::Send ? ScheduleFault::Cause::Connection : ScheduleFault::Cause::NoRoute};
 }
 
 }  // namespace
@@ -50,9 +43,15 @@ bool TakeDistances(const RouteStops& stops, const PortCallRows& rows, PortCallRo
 Outcome<CalculationStep> ScheduleCalculator::FindRoute(const PortCallRows& rows, PortCallRows& scheduled,
                                                        BookPoints& book) {
     PortCallRows routed;
-    if (rows.empty() || module_->GetRoute(rows, routed, true) < 0) {
-        return CalculationStep::Route;
+    RouteFinder& routes = module_->Routes();
+    if (const auto found = routes.Find(rows, routed, true); found.Failed()) {
+        fault_ = FaultOf(found.At(), rows);
+        // A voyage over known legs can be planned without the server.
+        if (found.At() != FindStep::Send || !routes.FindKnown(rows, routed)) {
+            return CalculationStep::Route;
+        }
     }
+    fault_ = {ScheduleFault::Cause::Figures};
     if (BuildSchedule(rows.front().eta, routed, scheduled) < 0) {
         return CalculationStep::Times;
     }
@@ -79,15 +78,22 @@ Outcome<CalculationStep> ScheduleCalculator::Calculate(const PortCallRows& rows,
     if (!result.Failed()) {
         before.Keep();
         out = std::move(scheduled);
+        fault_ = {};
     }
     return result;
 }
 
 Outcome<CalculationStep> ScheduleCalculator::RunOverRoute(const PortCallRows& rows, PortCallRows& scheduled) {
-    PortCallRows routed;
-    if (!TakeDistances(module_->Pending().Stops(), rows, routed)) {
+    const RouteStops& stops = module_->Pending().Stops();
+    if (rows.empty() || !RouteFits(stops, rows)) {
+        fault_ = {ScheduleFault::Cause::NotCalculated};
         return CalculationStep::Input;
     }
+    PortCallRows routed = rows;
+    for (std::size_t i = 0; i < routed.size(); ++i) {
+        routed[i].distance = stops[i].distance;
+    }
+    fault_ = {ScheduleFault::Cause::Figures};
     if (BuildSchedule(rows.front().eta, routed, scheduled) < 0) {
         return CalculationStep::Times;
     }
@@ -104,12 +110,14 @@ Outcome<CalculationStep> ScheduleCalculator::FollowRoute(const PortCallRows& row
     out.clear();
     if (!result.Failed()) {
         out = std::move(scheduled);
+        fault_ = {};
     }
     return result;
 }
 
 Outcome<ForVoyageStep> ScheduleCalculator::CalculateFor(const std::string& vi, const PortCallRows& rows,
                                                         PortCallRows& out, int& hadPortCalls) {
+    fault_ = {ScheduleFault::Cause::Figures};
     if (vi.empty()) {
         return ForVoyageStep::Id;
     }
@@ -151,6 +159,7 @@ Outcome<CalculationStep> ScheduleCalculator::CalculateKeepingLegs(const std::str
     VoyInfo* voyage = store_->FindVoyage(vi);
     if (voyage == nullptr || rows.size() < 2 || voyage->portCalls.size() < 2) {
         out.clear();
+        fault_ = {ScheduleFault::Cause::Figures};
         return CalculationStep::Input;
     }
     PendingRoute::Rollback before(module_->Pending());
@@ -161,6 +170,7 @@ Outcome<CalculationStep> ScheduleCalculator::CalculateKeepingLegs(const std::str
         before.Keep();
         module_->Pending().Assign(vi);
         out = std::move(scheduled);
+        fault_ = {};
     }
     return result;
 }

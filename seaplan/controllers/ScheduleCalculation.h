@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "seaplan/controllers/VoyPortCallModule.h"
@@ -42,6 +43,22 @@ inline constexpr CodeTable kCalculateForVoyageCodes{
     Code{ForVoyageStep::Calculation, -3},  // the calculation of its kind failed
 };
 
+/// Why the last calculation or save came to nothing, as a person can mend it.
+struct ScheduleFault {
+    enum class Cause {
+        None,          ///< nothing failed
+        UnknownPort,   ///< `port`, in row `row`, is none that the dictionary knows
+        NoRoute,       ///< the server knows no route between the ports
+        Connection,    ///< the server did not answer
+        Refused,       ///< the server did not take what it was sent
+        Figures,       ///< speeds, weather or times make no schedule
+        NotCalculated  ///< the route or book is not that of the rows' ports
+    };
+    Cause cause = Cause::None;
+    std::size_t row = 0;  ///< counted from 0 among the rows that were handed in
+    std::string port{};
+};
+
 /// Turns rows with ports into a schedule: route, times, book, distances. Rows are in knots, nautical miles
 /// and hours; the ids of their ports stay in the results. After a failure `out` is empty and the pending
 /// route is what it was.
@@ -62,6 +79,9 @@ class ScheduleCalculator {
     Outcome<ForVoyageStep> CalculateFor(const std::string& vi, const PortCallRows& rows, PortCallRows& out,
                                         int& hadPortCalls);
 
+    /// Why the last calculation failed.
+    const ScheduleFault& Fault() const { return fault_; }
+
   private:
     Outcome<CalculationStep> FindRoute(const PortCallRows& rows, PortCallRows& scheduled, BookPoints& book);
     Outcome<CalculationStep> RunNew(const PortCallRows& rows, PortCallRows& out);
@@ -70,6 +90,7 @@ class ScheduleCalculator {
 
     VoyPortCallModule* module_;
     VoyageStore* store_;
+    ScheduleFault fault_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -18,14 +18,29 @@ Outcome<LoadStep> ScheduleLoader::Fetch(VoyInfo& voyage, PortCallRows& rows) {
     if (module_->LoadPortCalls(voyage.vi, rows) < 0) {
         return LoadStep::PortCalls;
     }
-    if (module_->LoadPositionBook(voyage.vi, book) < 0) {
+    const int read = module_->LoadPositionBook(voyage.vi, book);
+    if (read < 0 && read != kNoBook) {
+        rows.clear();
         return LoadStep::Book;
     }
     voyage.positionBook = book;
+    if (read < 0) {
+        return LoadStep::Book;
+    }
+    rows.front().eta = book.eta;
     return {};
 }
 
 Outcome<LoadStep> ScheduleLoader::Load(const std::string& vi, PortCallRows& rows,
+                                       std::optional<DrawMode> mode) {
+    const auto read = Read(vi, rows, mode);
+    if (!read.Failed()) {
+        module_->Pending().NoteLoaded(vi, rows);
+    }
+    return read;
+}
+
+Outcome<LoadStep> ScheduleLoader::Read(const std::string& vi, PortCallRows& rows,
                                        std::optional<DrawMode> mode) {
     if (vi.empty()) {
         return LoadStep::Id;
@@ -38,7 +53,7 @@ Outcome<LoadStep> ScheduleLoader::Load(const std::string& vi, PortCallRows& rows
         return failed;
     }
     const PortCallRows stored = rows;
-    if (LegTotalsFromBook(voyage->positionBook, rows) < 0) {
+    if (!BookFits(voyage->positionBook.points, rows) || LegTotalsFromBook(voyage->positionBook, rows) < 0) {
         return LoadStep::Totals;
     }
     KeepPortIds(stored, rows);
@@ -49,7 +64,7 @@ Outcome<LoadStep> ScheduleLoader::Load(const std::string& vi, PortCallRows& rows
     if (const auto drawn = chart_.Draw(*voyage, *mode); drawn.Failed()) {
         return drawn.At() == DrawStep::Progress ? LoadStep::Progress : LoadStep::BookLine;
     }
-    module_->Pending().NoteLoaded(vi, rows);
+    module_->Pending().NoteShown(rows);
     return {};
 }
 
@@ -90,9 +105,9 @@ Outcome<ShowStep> ScheduleLoader::Show(const std::string& vi) {
     }
     PortCallRows rows;
     if (voyage->modais == 0) {
-        return Load(vi, rows, DrawMode::Progress).Failed() ? ShowStep::LoadDrawn : Outcome<ShowStep>();
+        return Read(vi, rows, DrawMode::Progress).Failed() ? ShowStep::LoadDrawn : Outcome<ShowStep>();
     }
-    if (Load(vi, rows, DrawMode::Nothing).Failed()) {
+    if (Read(vi, rows, DrawMode::Nothing).Failed()) {
         return ShowStep::Load;
     }
     std::vector<std::string> times;

@@ -15,11 +15,12 @@ inline constexpr CodeTable kLoadScheduleCodes{
     Code{LoadStep::Id, -1},         // empty id
     Code{LoadStep::Voyage, -2},     // unknown voyage
     Code{LoadStep::PortCalls, -3},  // the server gives no port calls
-    Code{LoadStep::Book, -4},       // nor a book
-    Code{LoadStep::Totals, -5},     // the book does not fit the port calls
-    Code{LoadStep::Progress, -6},   // it is loaded, but not drawn with its ship
-    Code{LoadStep::BookLine, -7},   // nor as a line
-    Code{LoadStep::Mode, -8},       // it is loaded, the draw mode is none
+    Code{LoadStep::Book, -4},       // nor a book; where none is stored `rows` are as for -5
+    Code{LoadStep::Totals,
+         -5},  // the book is not that of the port calls, which `rows` are; they wait to be calculated
+    Code{LoadStep::Progress, -6},  // it is loaded, but not drawn with its ship
+    Code{LoadStep::BookLine, -7},  // nor as a line
+    Code{LoadStep::Mode, -8},      // it is loaded, the draw mode is none
 };
 
 enum class DiscardStep { Id, Voyage, Load };
@@ -54,12 +55,15 @@ class ScheduleLoader {
         : module_(module), catalog_(catalog), store_(store), chart_(module) {}
 
     /// Loads into `rows` and the record and draws; without a mode it ends behind the loading. The ids that
-    /// the server stored with the ports stay in the rows.
+    /// the server stored with the ports stay in the rows. Its own pending route goes. Rows that have no book,
+    /// or the book of other ports, as a save leaves them that broke off, are in `rows` with the start of the
+    /// book, though the loading has failed; after any other failure to read `rows` is empty.
     Outcome<LoadStep> Load(const std::string& vi, PortCallRows& rows, std::optional<DrawMode> mode);
     /// Drops the working copy of an unsaved voyage and fetches what was saved, without drawing. A voyage
     /// without times of correction becomes a plain one.
     Outcome<DiscardStep> Discard(const std::string& vi);
-    /// Draws a voyage in use with its ship, a corrected one without what its track covers.
+    /// Draws a voyage in use with its ship, a corrected one without what its track covers. Pending routes
+    /// stay.
     Outcome<ShowStep> Show(const std::string& vi);
     /// Draws all voyages whose route is switched on, leaving the person's view of the chart where it is; one
     /// that fails is passed over.
@@ -67,6 +71,7 @@ class ScheduleLoader {
     VoyageChart& Chart() { return chart_; }
 
   private:
+    Outcome<LoadStep> Read(const std::string& vi, PortCallRows& rows, std::optional<DrawMode> mode);
     Outcome<LoadStep> Fetch(VoyInfo& voyage, PortCallRows& rows);
 
     VoyPortCallModule* module_;

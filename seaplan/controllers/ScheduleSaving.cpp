@@ -8,7 +8,29 @@
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/TimeText.h"
 
+/// A save is worked out whole before its first request, since the server takes its three parts apart from one
+/// another: port calls, the book's date, the book's rows. Cost: a few passes over rows and book.
 namespace Tarvik::Seaplan {
+
+ScheduleFault FaultOf(SaveStep step, const PortCallRows& rows) {
+    using Cause = ScheduleFault::Cause;
+    switch (step) {
+        case SaveStep::UnknownPort:
+            if (const auto unknown = FirstUnknownPort(rows)) {
+                return {Cause::UnknownPort, *unknown, rows[*unknown].ppn};
+            }
+            return {Cause::UnknownPort};
+        case SaveStep::NoRows:
+        case SaveStep::OtherPorts:
+            return {Cause::NotCalculated};
+        case SaveStep::PortCalls:
+        case SaveStep::Date:
+        case SaveStep::BookRows:
+            return {Cause::Refused};
+        default:
+            return {Cause::Figures};
+    }
+}
 
 /// The book's date follows the first row; a voyage without book gets one.
 Outcome<SaveStep> ScheduleSaver::SaveDate(VoyInfo& voyage) {
@@ -30,22 +52,60 @@ Outcome<SaveStep> ScheduleSaver::SaveDate(VoyInfo& voyage) {
     return {};
 }
 
-/// Rows of the voyage's pending route, or of the book itself.
-Outcome<SaveStep> ScheduleSaver::SaveBook(VoyInfo& voyage) {
-    BookPoints points = voyage.positionBook.points;
-    const bool calculated = module_->Pending().IsFor(voyage.vi);
-    if (calculated && module_->BookFromCurrentStops(points) < 0) {
-        return SaveStep::Book;
+bool ScheduleSaver::HasRouteFor(const std::string& vi, PortCallRows rows) {
+    const VoyInfo* voyage = store_->FindVoyage(vi);
+    if (voyage == nullptr || rows.empty()) {
+        return false;
     }
-    if (points.empty()) {
+    ResolvePortIds(rows);
+    return module_->Pending().IsFor(vi) ? RouteFits(module_->Pending().Stops(), rows)
+                                        : BookFits(voyage->positionBook.points, rows);
+}
+
+/// A schedule that makes no sense as a whole would be stored and never be opened again.
+Outcome<SaveStep> ScheduleSaver::Prepare(const VoyInfo& voyage, Parts& parts) {
+    ResolvePortIds(parts.rows);
+    if (FirstUnknownPort(parts.rows)) {
+        return SaveStep::UnknownPort;
+    }
+    FillMissingPurposes(parts.rows);
+    parts.calculated = module_->Pending().IsFor(voyage.vi);
+    parts.points = voyage.positionBook.points;
+    if (!parts.calculated && parts.points.empty()) {
         return SaveStep::NoRows;
     }
-    RescaleBookSpeeds(voyage.portCalls, points);
-    if (module_->SavePositionBookRows(voyage.positionBook.pbi, points) < 0) {
+    if (!HasRouteFor(voyage.vi, parts.rows)) {
+        return SaveStep::OtherPorts;
+    }
+    if (parts.calculated && module_->BookFromCurrentStops(parts.points) < 0) {
+        return SaveStep::Book;
+    }
+    RescaleBookSpeeds(parts.rows, parts.points);
+    PortCallRows opened = parts.rows;
+    VoyPositionBook book;
+    book.eta = parts.rows.front().eta;
+    book.points = parts.points;
+    if (LegTotalsFromBook(book, opened) < 0 || RecomputeSchedule(parts.rows, parts.timed) < 0) {
+        return SaveStep::Times;
+    }
+    KeepPortIds(parts.rows, parts.timed);
+    return {};
+}
+
+Outcome<SaveStep> ScheduleSaver::Send(VoyInfo& voyage, Parts& parts) {
+    if (module_->SavePortCalls(voyage.vi, parts.rows) < 0) {
+        return SaveStep::PortCalls;
+    }
+    voyage.portCalls = std::move(parts.rows);
+    if (const auto failed = SaveDate(voyage); failed.Failed()) {
+        return failed;
+    }
+    if (module_->SavePositionBookRows(voyage.positionBook.pbi, parts.points) < 0) {
         return SaveStep::BookRows;
     }
-    voyage.positionBook.points = std::move(points);
-    if (calculated) {
+    voyage.positionBook.points = std::move(parts.points);
+    voyage.portCalls = std::move(parts.timed);
+    if (parts.calculated) {
         module_->Pending().Drop();
     }
     return {};
@@ -70,23 +130,14 @@ Outcome<SaveStep> ScheduleSaver::Save(const std::string& vi, const PortCallRows&
     if (voyage == nullptr || rows.size() < 2) {
         return SaveStep::Input;
     }
-    PortCallRows saved = rows;
-    if (module_->SavePortCalls(vi, saved) < 0) {
-        return SaveStep::PortCalls;
-    }
-    voyage->portCalls = std::move(saved);
-    if (const auto failed = SaveDate(*voyage); failed.Failed()) {
+    Parts parts;
+    parts.rows = rows;
+    if (const auto failed = Prepare(*voyage, parts); failed.Failed()) {
         return failed;
     }
-    if (const auto failed = SaveBook(*voyage); failed.Failed()) {
+    if (const auto failed = Send(*voyage, parts); failed.Failed()) {
         return failed;
     }
-    PortCallRows recomputed;
-    if (RecomputeSchedule(voyage->portCalls, recomputed) < 0) {
-        return SaveStep::Times;
-    }
-    KeepPortIds(voyage->portCalls, recomputed);
-    voyage->portCalls = std::move(recomputed);
     if (const auto failed = Redraw(*voyage, mode); failed.Failed()) {
         return failed;
     }

@@ -53,24 +53,34 @@ int VoyController::ResolvePortIds(PortCallRows& rows) const {
 }
 
 int VoyController::CalculatePortCalls(const PortCallRows& rows, PortCallRows& out) {
-    return kCalculatePortCallsCodes.Of(calculator_.Calculate(rows, out));
+    const auto calculated = calculator_.Calculate(rows, out);
+    fault_ = calculator_.Fault();
+    return kCalculatePortCallsCodes.Of(calculated);
 }
 
 int VoyController::ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& out) {
-    return kScheduleCurrentRouteCodes.Of(calculator_.FollowRoute(rows, out));
+    const auto calculated = calculator_.FollowRoute(rows, out);
+    fault_ = calculator_.Fault();
+    return kScheduleCurrentRouteCodes.Of(calculated);
 }
 
 int VoyController::CalculateForVoyage(const std::string& vi, const PortCallRows& rows, PortCallRows& out,
                                       int& hadPortCalls) {
-    return kCalculateForVoyageCodes.Of(calculator_.CalculateFor(vi, rows, out, hadPortCalls));
+    const auto calculated = calculator_.CalculateFor(vi, rows, out, hadPortCalls);
+    fault_ = calculator_.Fault();
+    return kCalculateForVoyageCodes.Of(calculated);
 }
 
 int VoyController::CalculateKeepingLegs(const std::string& vi, const PortCallRows& rows, PortCallRows& out) {
-    return kCalculateKeepingLegsCodes.Of(calculator_.CalculateKeepingLegs(vi, rows, out));
+    const auto calculated = calculator_.CalculateKeepingLegs(vi, rows, out);
+    fault_ = calculator_.Fault();
+    return kCalculateKeepingLegsCodes.Of(calculated);
 }
 
 int VoyController::SaveSchedule(const std::string& vi, const PortCallRows& rows, int drawMode) {
-    return kSaveScheduleCodes.Of(saver_.Save(vi, rows, DrawModeOf(drawMode).value_or(DrawMode::Nothing)));
+    const auto saved = saver_.Save(vi, rows, DrawModeOf(drawMode).value_or(DrawMode::Nothing));
+    fault_ = saved.Failed() ? FaultOf(saved.At(), rows) : ScheduleFault();
+    return kSaveScheduleCodes.Of(saved);
 }
 
 int VoyController::MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) {

@@ -54,6 +54,11 @@ class VoyController {
     int CalculateKeepingLegs(const std::string& vi, const PortCallRows& rows, PortCallRows& out);
     /// To the server, then into the record; drawn for mode 0 or 1: kSaveScheduleCodes.
     int SaveSchedule(const std::string& vi, const PortCallRows& rows, int drawMode);
+    /// Whether SaveSchedule finds a route or a book of these rows' ports, in their order; else they are to be
+    /// calculated first.
+    bool HasRouteFor(const std::string& vi, const PortCallRows& rows) { return saver_.HasRouteFor(vi, rows); }
+    /// Why the last calculation or save failed.
+    const ScheduleFault& LastFault() const { return fault_; }
     /// A new list. -1 when the insertion, -2 when the removal fails; then `out` is empty.
     int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out);
     /// As MoveRowUp.
@@ -104,6 +109,7 @@ class VoyController {
     ScheduleSaver saver_;
     VoyageCorrection correction_;
     VesselWatch watch_;
+    ScheduleFault fault_;
     std::function<bool()> treeVisible_;
     RefreshTimer timer_;
 };

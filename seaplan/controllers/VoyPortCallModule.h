@@ -51,6 +51,8 @@ class VoyPortCallModule : public Core::TObject {
     /// WriteCacheFile. 0, or -1 for an entry without two stops.
     int SaveCache(const std::string& name, const LegCache& cache) { return WriteCacheFile(name, cache); }
     PendingRoute& Pending() { return pending_; }
+    /// Who finds routes, for those who must know which step failed.
+    RouteFinder& Routes() { return routes_; }
     /// The server's way from a position to a port: kNearestRouteCodes.
     int RequestNearestRoute(const std::string& position, const std::string& portId,
                             std::vector<std::string>& points);

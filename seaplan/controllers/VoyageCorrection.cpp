@@ -150,12 +150,16 @@ Outcome<ReplanStep> VoyageCorrection::Replan(const std::string& vi, const PortCa
     if (voyage == nullptr || history.empty() || plan.empty()) {
         return ReplanStep::Input;
     }
+    // The route of another voyage is only put aside for the calculation here.
+    const bool others = module_->Pending().IsThere() && !module_->Pending().IsFor(vi);
     PendingRoute::Rollback before(module_->Pending());
     Plan anew;
     if (const auto failed = PlanAnew(*voyage, history, plan, anew); failed.Failed()) {
         return failed;
     }
-    before.Keep();
+    if (!others) {
+        before.Keep();
+    }
     voyage->positionBook = std::move(anew.book);
     voyage->portCalls = anew.ports;
     rows = std::move(anew.ports);

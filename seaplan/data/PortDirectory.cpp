@@ -147,6 +147,13 @@ void ResolvePortIds(PortCallRows& rows) {
     }
 }
 
+std::optional<std::size_t> FirstUnknownPort(const PortCallRows& rows) {
+    const auto found = std::find_if(rows.begin(), rows.end(), [](const VoyPortCall& row) {
+        return row.ppi.empty() && PortIdOf(row.ppn).empty();
+    });
+    return found == rows.end() ? std::nullopt : std::optional<std::size_t>(found - rows.begin());
+}
+
 void KeepPortIds(const PortCallRows& before, PortCallRows& rows) {
     for (std::size_t i = 0; i < std::min(before.size(), rows.size()); ++i) {
         if (rows[i].ppi.empty() && rows[i].ppn == before[i].ppn) {

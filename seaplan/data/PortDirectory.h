@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -74,6 +75,9 @@ class PortDirectory {
 
 /// Gives the rows that have no id that of their port by the host's dictionary; an unknown name gets none.
 void ResolvePortIds(PortCallRows& rows);
+/// Index of the first row that has no id, and whose name the host's dictionary does not know; nothing when
+/// all are known.
+std::optional<std::size_t> FirstUnknownPort(const PortCallRows& rows);
 /// Puts back the ids that a schedule pass left out of its rows; `before` are the rows that went into it. Rows
 /// that are not the same ports get none.
 void KeepPortIds(const PortCallRows& before, PortCallRows& rows);

@@ -177,18 +177,17 @@ TEST_F(SaveScheduleTest, SaveNeedsAVoyageAndTwoRows) {
 }
 
 TEST_F(SaveScheduleTest, EveryFailedStepEndsTheSaveAndEarlierStepsStay) {
-    EXPECT_EQ(voyages.SaveSchedule("9", TypedRows(), -1), -2);
+    EXPECT_EQ(voyages.SaveSchedule("9", TypedRows(), -1), -5) << "there are no rows to save";
+    EXPECT_TRUE(host.requests.empty());
+    host.Reply(1, kRouteAb);
+    voyages.CalculatePortCalls(TypedRows(), rows);
+    EXPECT_EQ(voyages.SaveSchedule("9", rows, -1), -2);
     EXPECT_TRUE(Voyage().portCalls.empty());
     host.Reply(11, "{eid:0}");
-    EXPECT_EQ(voyages.SaveSchedule("9", TypedRows(), -1), -3);
+    EXPECT_EQ(voyages.SaveSchedule("9", rows, -1), -3);
     EXPECT_EQ(Voyage().portCalls.size(), 2U) << "the port calls are on the server and stay";
     host.Reply(11, "{eid:0}");
     host.Reply(7, R"([{pbi:"5"}])");
-    EXPECT_EQ(voyages.SaveSchedule("9", TypedRows(), -1), -5) << "there are no rows to save";
-    host.Reply(1, kRouteAb);
-    voyages.CalculatePortCalls(TypedRows(), rows);
-    host.Reply(11, "{eid:0}");
-    host.Reply(14, "{eid:0}");
     EXPECT_EQ(voyages.SaveSchedule("9", rows, -1), -6);
     EXPECT_TRUE(module.Pending().IsThere()) << "the route waits for the next save";
     EXPECT_TRUE(Voyage().positionBook.points.empty());

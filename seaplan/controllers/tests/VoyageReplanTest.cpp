@@ -86,6 +86,19 @@ TEST_F(VoyageReplanTest, PendingRouteOfAnotherCalculationIsDropped) {
     EXPECT_FALSE(module.Pending().IsThere());
 }
 
+TEST_F(VoyageReplanTest, PendingRouteOfAnotherVoyageStays) {
+    host.Reply(1, kRouteAb);
+    PortCallRows calculated;
+    voyages.CalculatePortCalls(TypedRows(), calculated);
+    module.Pending().Assign("8");
+    PlanC();
+    ReplyWay();
+    host.Reply(1, kRouteBc);
+    EXPECT_EQ(Replan(), 0);
+    EXPECT_TRUE(module.Pending().IsFor("8"));
+    EXPECT_EQ(module.Pending().Stops().at(1).point_cd, "40002") << "it is the one that was there";
+}
+
 TEST_F(VoyageReplanTest, EveryFailureHasItsNumberAndLeavesTheVoyageAndThePendingRoute) {
     module.Pending().Take(RouteStops(2));
     const Texts old = Positions();
