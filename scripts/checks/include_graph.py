@@ -7,7 +7,7 @@ from collections import namedtuple
 from checks.sources import production, read, tracked, without_comments
 
 Graph = namedtuple("Graph", "sources includes qt_includes unresolved")
-_INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^">]+)[">]', re.M)
+INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^">]+)[">]', re.M)
 # Where a quoted or <tarvik/...> include is looked for beside the including file's own folder.
 _FOLDERS = ("", "tarvik/include", "tarvik/src")
 _QT_HEADER = re.compile(r"(Qt\w+/)?Q[A-Za-z0-9]+$")
@@ -27,7 +27,7 @@ def read_graph(root):
     known, sources = set(tracked(root, "*.h", "*.cpp")), production(root)
     graph = Graph(sources, [], [], [])
     for source in sources:
-        for bracket, header in _INCLUDE.findall(without_comments(read(root, source))):
+        for bracket, header in INCLUDE.findall(without_comments(read(root, source))):
             if bracket == "<" and not header.startswith("tarvik/"):
                 if _QT_HEADER.match(header):
                     graph.qt_includes.append((source, header))

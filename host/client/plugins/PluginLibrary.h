@@ -8,7 +8,7 @@
 namespace Tarvik::Client {
 
 /// One plug-in's shared library with its six exports. What differs by system about loading stands in this
-/// class alone.
+/// class.
 ///
 /// A library stays in the process once opened: delegates and static objects of a plug-in may be used until
 /// the end.

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+// Dates of the proleptic Gregorian calendar as a count of days, and back, by whole 400-year eras with the
+// year beginning in March (H. Hinnant, "chrono-Compatible Low-Level Date Algorithms"). Constant time, exact
+// over the 32-bit count; sums beyond it stay at its ends.
 #include <algorithm>
 #include <array>
 #include <ctime>

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+// Zones by the offsets of ZoneTable.h, a search among a zone's changes each. Sums are whole centiseconds in
+// 64 bits and stay at the ends of their range.
 #include <algorithm>
 #include <cmath>
 #include <cstdint>

@@ -8,7 +8,7 @@
 namespace Tarvik::Util {
 
 // Moves the nodes behind `mark` into the document and puts their container in their place.
-void JsonaParser::close(Jsona::Kind kind, std::size_t mark) {
+void JsonaParser::Close(Jsona::Kind kind, std::size_t mark) {
     JsonaNode node;
     node.kind = kind;
     node.count = static_cast<std::uint32_t>(stack_.size() - mark);

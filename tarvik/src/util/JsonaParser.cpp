@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+// JSON, also its looser form, by recursive descent: one pass over a copy of the text, 64 levels deep at most.
+// Values are places in that copy; only texts with escapes are copied again. Time and memory are linear in the
+// text, apart from sorting the keys of objects with more than kLinearMembers. The grammar stands at Jsona
+// (Jsona.h).
 #include "JsonaParser.h"
 
 #include <cstring>
@@ -92,7 +96,7 @@ const char* JsonaParser::Array(const char* at, int depth) {
             return Fail(at, "comma or closing bracket expected");
         }
     }
-    close(Jsona::Kind::Array, mark);
+    Close(Jsona::Kind::Array, mark);
     return at + 1;
 }
 
@@ -104,7 +108,7 @@ const char* JsonaParser::Object(const char* at, int depth) {
     at = SkipSpace(at + 1);
     if (*at != '}') {
         for (;;) {
-            at = key(at);
+            at = Key(at);
             if (at == nullptr) {
                 return nullptr;
             }
@@ -126,11 +130,11 @@ const char* JsonaParser::Object(const char* at, int depth) {
             return Fail(at, "comma or closing brace expected");
         }
     }
-    close(Jsona::Kind::Object, mark);
+    Close(Jsona::Kind::Object, mark);
     return at + 1;
 }
 
-const char* JsonaParser::key(const char* at) {
+const char* JsonaParser::Key(const char* at) {
     if (*at == '"') {
         return Quoted(at);
     }

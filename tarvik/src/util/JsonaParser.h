@@ -31,7 +31,7 @@ class JsonaParser {
     const char* Value(const char* at, int depth);
     const char* Array(const char* at, int depth);
     const char* Object(const char* at, int depth);
-    const char* key(const char* at);
+    const char* Key(const char* at);
     const char* Quoted(const char* at);
     const char* Decoded(const char* open, const char* at);
     const char* Escape(const char* at);
@@ -41,7 +41,7 @@ class JsonaParser {
     const char* Fail(const char* at, const char* text);
 
     void Push(Jsona::Kind kind, const char* begin, const char* end);
-    void close(Jsona::Kind kind, std::size_t mark);
+    void Close(Jsona::Kind kind, std::size_t mark);
     std::uint32_t MergeFew(std::size_t mark);
     void MergeMany(std::size_t mark, JsonaNode& object);
     std::string_view Bytes(std::size_t place) const { return document_.Bytes(stack_[place]); }

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+// A zone's offset at a moment, from ICU's zone data base; names of either kind are mapped by ICU too. Zones
+// are opened once and kept, so that a conversion costs a look-up and a binary search among the zone's
+// changes.
 #include "ZoneTable.h"
 
 #include <map>

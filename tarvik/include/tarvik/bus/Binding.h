@@ -86,7 +86,7 @@ struct Member {
     }
 };
 
-/// The one place where an untyped payload becomes what its name promises.
+/// Turns an untyped payload into what its name promises.
 template <class In, class Out, class Handler>
 class TypedHandler final : public BoundHandler {
   public:

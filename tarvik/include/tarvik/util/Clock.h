@@ -9,7 +9,7 @@
 
 namespace Tarvik::Util {
 
-/// The one source of present time. The system's clock by default; tests put their own in its place.
+/// Source of present time. The system's clock by default; tests put their own in its place.
 class TARVIK_API Clock {
   public:
     virtual ~Clock();
