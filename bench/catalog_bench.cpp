@@ -7,10 +7,11 @@
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ServerRequest.h>
 
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/protocol/VoyCatalogModule.h"

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ChartRecords.h>
 
 #include "bench/Memory.h"
 #include "bench/Track.h"

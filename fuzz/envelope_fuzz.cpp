@@ -9,10 +9,11 @@
 #include <string>
 #include <vector>
 
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ServerRequest.h>
 
 #include "seaplan/protocol/BookCommands.h"
 #include "seaplan/protocol/Exchange.h"

@@ -13,10 +13,11 @@
 
 #include <fmt/format.h>
 
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ServerRequest.h>
 
 #include "bench/server/OfficeServer.h"
 #include "host/client/remote/RemoteLink.h"

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdint>
 
+#include <tarvik/interface/SiblingRecords.h>
+
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/data/PortDirectory.h"

@@ -4,12 +4,14 @@
 #include <map>
 #include <string>
 
-#include <tarvik/interface/SiblingRecords.h>
-
 #include "seaplan/data/Position.h"
 #include "seaplan/data/VoyInfo.h"
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/data/VoyPositionBook.h"
+
+namespace Tarvik::Interface {
+struct VesselCard;
+}
 
 namespace Tarvik::Seaplan {
 

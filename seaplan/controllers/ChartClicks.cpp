@@ -6,6 +6,7 @@
 #include <tarvik/bus/Binding.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/SiblingContract.h>
+#include <tarvik/interface/SiblingRecords.h>
 
 #include "seaplan/calculation/PlannedProgress.h"
 #include "seaplan/calculation/RouteMessages.h"

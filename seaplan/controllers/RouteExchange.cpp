@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <tarvik/interface/ServerRequest.h>
+#include <tarvik/util/Jsona.h>
 
 #include "seaplan/calculation/RouteMessages.h"
 #include "seaplan/data/Position.h"

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/Jsona.h>
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/data/Position.h"

@@ -3,9 +3,11 @@
 
 #include <string>
 
-#include <tarvik/util/Jsona.h>
-
 #include "seaplan/data/VoyPositionBook.h"
+
+namespace Tarvik::Util {
+class Jsona;
+}
 
 /// Commands of the position book. Speeds are km/h on the wire and knots in memory; dates pass the time
 /// conversions.

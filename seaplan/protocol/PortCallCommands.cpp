@@ -4,6 +4,7 @@
 #include <map>
 #include <utility>
 
+#include <tarvik/util/Jsona.h>
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/data/PortDirectory.h"

@@ -3,10 +3,12 @@
 
 #include <string>
 
-#include <tarvik/util/Jsona.h>
-
 #include "seaplan/data/VoyInfo.h"
 #include "seaplan/data/VoyPortCall.h"
+
+namespace Tarvik::Util {
+class Jsona;
+}
 
 /// Commands of port calls and consumption figures. Speeds are km/h on the wire and knots in memory.
 namespace Tarvik::Seaplan {

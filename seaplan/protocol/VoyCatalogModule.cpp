@@ -3,6 +3,8 @@
 
 #include <set>
 
+#include <tarvik/util/Jsona.h>
+
 #include "seaplan/protocol/CatalogMessages.h"
 #include "seaplan/protocol/Exchange.h"
 

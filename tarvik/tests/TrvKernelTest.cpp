@@ -6,8 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 
 #include "tarvik/src/core/BusTesting.h"
 

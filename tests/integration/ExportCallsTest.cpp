@@ -2,8 +2,10 @@
 #include <algorithm>
 #include <array>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/PlanRecords.h>
 
 #include "tests/integration/FreshPlugin.h"
 

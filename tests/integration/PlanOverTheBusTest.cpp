@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/VoyageContract.h>
+#include <tarvik/interface/PlanRecords.h>
 
 #include "tests/integration/TinyHost.h"
 

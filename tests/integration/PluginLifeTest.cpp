@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <cstdlib>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/PlanRecords.h>
 
 #include "tests/integration/TinyHost.h"
 

@@ -8,9 +8,10 @@
 
 #include <gmock/gmock.h>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/Exports.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 
 #include "host/client/plugins/PluginLoader.h"
 #include "tests/sdk/InstalledTree.h"

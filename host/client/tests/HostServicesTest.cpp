@@ -3,9 +3,11 @@
 
 #include <gmock/gmock.h>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ServerRequest.h>
 #include <tarvik/util/Clock.h>
 
 #include "host/client/services/HostServices.h"

@@ -5,10 +5,11 @@
 #include <new>
 #include <stdexcept>
 
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ServerRequest.h>
 
 namespace Tarvik::Server {
 

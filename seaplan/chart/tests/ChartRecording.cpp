@@ -3,8 +3,9 @@
 
 #include <sstream>
 
+#include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ChartRecords.h>
 
 #include "tarvik/src/core/BusTesting.h"
 

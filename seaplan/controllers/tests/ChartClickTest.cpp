@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/SiblingRecords.h>
 
 #include "seaplan/controllers/tests/RouteFixture.h"
 

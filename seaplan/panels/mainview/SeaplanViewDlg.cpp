@@ -2,6 +2,7 @@
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 
 #include <tarvik/bus/Binding.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/VoyageContract.h>
 
 #include "seaplan/panels/language/LoadText.h"

@@ -4,12 +4,15 @@
 #include <string>
 
 #include <tarvik/bus/BindingList.h>
-#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/panels/mainview/FltTreeFilterDlg.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/window/PanelWindow.h"
+
+namespace Tarvik::Interface {
+struct PanelShow;
+}
 
 namespace Tarvik::Seaplan {
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
-#include <tarvik/interface/BusContract.h>
 
 #include "seaplan/panels/tests/PortCallFixture.h"
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"

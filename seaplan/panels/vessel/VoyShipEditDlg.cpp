@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <tarvik/interface/SiblingRecords.h>
 #include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <tarvik/util/Jsona.h>
+
 #include "seaplan/protocol/BookCommands.h"
 #include "testsupport/RecordingHost.h"
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <utility>
 
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 
 namespace Tarvik::Seaplan {
 

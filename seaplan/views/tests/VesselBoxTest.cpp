@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <QListWidget>
 
+#include <tarvik/bus/SiblingContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/SiblingRecords.h>
 
 #include "seaplan/views/tests/ViewsFixture.h"
 

@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/WindowMessages.h>
 

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/util/Jsona.h>
+
 #include "host/server/graph/adapter/GraphRouteSource.h"
 #include "host/server/graph/tests/SmallSea.h"
 #include "seaplan/calculation/RouteMessages.h"

@@ -3,8 +3,9 @@
 
 #include <fmt/format.h>
 
+#include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ChartRecords.h>
 #include <tarvik/util/FileUtl.h>
 
 namespace Tarvik::Golden {

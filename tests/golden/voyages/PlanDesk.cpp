@@ -8,7 +8,7 @@
 
 #include <fmt/format.h>
 
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/bus/ChartContract.h>
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"

@@ -3,10 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/PluginInfo.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ChartRecords.h>
 
 namespace Tarvik {
 

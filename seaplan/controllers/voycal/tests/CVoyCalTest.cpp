@@ -4,9 +4,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ChartRecords.h>
 #include <tarvik/interface/ValueDictionary.h>
 
 #include "seaplan/controllers/voycal/CVoyCal.h"

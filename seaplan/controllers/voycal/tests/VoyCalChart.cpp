@@ -5,9 +5,10 @@
 #include <iterator>
 #include <new>
 
+#include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ChartRecords.h>
 #include <tarvik/util/StringUtl.h>
 
 #include "tarvik/src/core/BusTesting.h"

@@ -4,10 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
-#include <tarvik/interface/BusContract.h>
+#include <tarvik/interface/ChartRecords.h>
 
 #include "host/plugins/seamap/widget/ChartServices.h"
 #include "tarvik/src/core/BusTesting.h"
