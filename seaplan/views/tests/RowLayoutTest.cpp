@@ -2,7 +2,6 @@
 #include <tarvik/skin/Icons.h>
 
 #include "seaplan/views/tests/ViewsFixture.h"
-#include "seaplan/views/tree/RowDelegate.h"
 
 namespace Tarvik::Seaplan {
 

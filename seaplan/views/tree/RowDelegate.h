@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFont>
 #include <QStyledItemDelegate>
-
-#include "seaplan/views/tree/RowLayout.h"
 
 namespace Tarvik::Seaplan {
 
 class VoyageTreeView;
 
-/// Font of a part in a row with this font.
-QFont PartFont(const QFont& base, SubItemKind kind);
-
-/// Draws the parts of a row in the colours in force.
+/// Draws the parts of a row in the colours in force, in the row's height.
 class RowDelegate final : public QStyledItemDelegate {
   public:
     explicit RowDelegate(VoyageTreeView* view);

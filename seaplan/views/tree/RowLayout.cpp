@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/tree/RowLayout.h"
 
-#include <QStringList>
 #include <algorithm>
 
 #include "seaplan/panels/tree/ItemNames.h"
@@ -10,16 +9,19 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr int kButton = 24;
-constexpr int kMargin = 6;
-constexpr int kGap = 4;
+using Skin::Role;
 
-struct IconItem {
-    const char* name;
+constexpr int kImage = RowParts::kImage;
+constexpr int kGap = RowParts::kGap;
+constexpr int kMargin = 6;
+
+struct ItemImage {
+    const char* item;
     const char* icon;
+    std::optional<Role> colour{};
 };
 
-constexpr IconItem kCategoryButtons[] = {{Item::kRenameCategory, "rename"},
+constexpr ItemImage kCategoryImages[] = {{Item::kRenameCategory, "rename"},
                                          {Item::kAddVoyage, "add"},
                                          {Item::kAscending, "sort-up"},
                                          {Item::kDescending, "sort-down"},
@@ -27,76 +29,45 @@ constexpr IconItem kCategoryButtons[] = {{Item::kRenameCategory, "rename"},
                                          {Item::kCategoryNoRemark, "remark"},
                                          {Item::kCategoryRemark, "remark-full"},
                                          {Item::kDeleteCategory, "delete"}};
-constexpr IconItem kVoyageButtons[] = {
-    {Item::kPortCalls, "portcalls"},   {Item::kConsumption, "consumption"},
-    {Item::kNoonReport, "noon"},       {Item::kAisOff, "ais"},
-    {Item::kAisOn, "ais-on"},          {Item::kModify, "modify"},
-    {Item::kVoyageNoRemark, "remark"}, {Item::kVoyageRemark, "remark-full"},
-    {Item::kDeleteVoyage, "delete"}};
-constexpr IconItem kDeletedButtons[] = {{Item::kRecoverCategory, "recover"},
+constexpr ItemImage kVoyageImages[] = {{Item::kPortCalls, "portcalls"},
+                                       {Item::kConsumption, "consumption"},
+                                       {Item::kNoonReport, "noon"},
+                                       {Item::kAisOff, "ais"},
+                                       {Item::kAisOn, "ais-on", Role::Accent},
+                                       {Item::kModify, "modify"},
+                                       {Item::kVoyageNoRemark, "remark"},
+                                       {Item::kVoyageRemark, "remark-full"},
+                                       {Item::kDeleteVoyage, "delete"}};
+constexpr ItemImage kDeletedImages[] = {{Item::kRecoverCategory, "recover"},
                                         {Item::kClearCategory, "clear"},
                                         {Item::kRecoverVoyage, "recover"},
                                         {Item::kClearVoyage, "clear"}};
+
+struct StatusImage {
+    const char* value;
+    const char* icon;
+    Role colour;
+};
+
+constexpr StatusImage kStatusImages[] = {{ItemValue::kPlanImage, "plan", Role::Plan},
+                                         {ItemValue::kUnderwayImage, "underway", Role::Underway},
+                                         {ItemValue::kFinishImage, "finish", Role::Finished}};
 
 QString Qt(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-/// Collects the parts of one row.
-class Builder {
+/// Places the visible items of one row.
+class RowItems {
   public:
-    Builder(const TreeRowState& row, const QRect& rect, const TextWidth& width, const ItemCommand& hasCommand)
-        : row_(row), rect_(rect), width_(width), hasCommand_(hasCommand) {}
+    RowItems(const TreeRowState& row, const QRect& rect, const TextWidth& width,
+             const ItemCommand& hasCommand)
+        : row_(row), rect_(rect), hasCommand_(hasCommand), parts_(width) {}
 
     const TreeItem* Visible(const char* name) const {
         const auto it = row_.items.find(name);
         return it == row_.items.end() || !it->second.visible ? nullptr : &it->second;
     }
-
-    void Icon(const char* name, const char* iconName, const QRect& place) {
-        const TreeItem* item = Visible(name);
-        if (item == nullptr) {
-            return;
-        }
-        parts_.push_back(
-            {name, SubItemKind::Icon, place, {}, iconName, Qt(item->toolTip), true, hasCommand_(name)});
-    }
-
-    template <std::size_t N>
-    void Buttons(const IconItem (&items)[N], int left, int top) {
-        for (const IconItem& item : items) {
-            if (Visible(item.name) == nullptr) {
-                continue;
-            }
-            Icon(item.name, item.icon, {left, top, kButton, kButton});
-            left += kButton + kGap;
-        }
-    }
-
-    /// Where a text may stand, in pixels of the tree.
-    struct Band {
-        int left = 0;
-        int top = 0;
-        int height = 0;
-        int right = 0;
-    };
-
-    /// Text of its own width, cut at the band's right end; gives its own right end.
-    int Write(const std::string& name, SubItemKind kind, const QString& text, const Band& band,
-              const QString& toolTip = {}) {
-        const int wide = std::max(0, std::min(width_(text, kind), band.right - band.left));
-        const bool link = kind == SubItemKind::Link;
-        parts_.push_back({name,
-                          kind,
-                          {band.left, band.top, wide, band.height},
-                          text,
-                          {},
-                          toolTip,
-                          link,
-                          !link || hasCommand_(name)});
-        return band.left + wide;
-    }
-
     QString Value(const char* item, const char* name) const {
         const TreeItem* found = Visible(item);
         if (found == nullptr) {
@@ -106,171 +77,164 @@ class Builder {
         return it == found->values.end() ? QString() : Qt(it->second);
     }
 
-    int WidthOf(const QString& text, SubItemKind kind) const { return width_(text, kind); }
+    void Image(const ItemImage& image, const QRect& place) {
+        if (Visible(image.item) != nullptr) {
+            parts_.Image(ImageOf(image), place);
+        }
+    }
+    template <std::size_t N>
+    void Images(const ItemImage (&images)[N], QPoint corner) {
+        std::vector<RowImage> shown;
+        for (const ItemImage& image : images) {
+            if (Visible(image.item) != nullptr) {
+                shown.push_back(ImageOf(image));
+            }
+        }
+        parts_.Images(shown, corner);
+    }
+    /// An image that tells something and cannot be clicked.
+    void Sign(SubItem part) {
+        part.kind = SubItemKind::Icon;
+        parts_.Add(std::move(part));
+    }
+    int Link(const char* item, const QString& text, const TextBand& band) {
+        return parts_.Write({item, SubItemKind::Link, {}, text, {}, text, true, hasCommand_(item)}, band);
+    }
+    int Name(const TextBand& band) {
+        return parts_.Write({"name", SubItemKind::Name, {}, Qt(row_.text), {}, Qt(row_.text)}, band);
+    }
+    int Write(const char* item, SubItemKind kind, const QString& text, const TextBand& band) {
+        return parts_.Write({item, kind, {}, text, {}, {}}, band);
+    }
+
+    int WidthOf(const QString& text, SubItemKind kind) const { return parts_.WidthOf(text, kind); }
     const QRect& Rect() const { return rect_; }
     const TreeRowState& Row() const { return row_; }
-    void Add(SubItem part) { parts_.push_back(std::move(part)); }
-    std::vector<SubItem> Take() { return std::move(parts_); }
+    std::vector<SubItem> Take() { return parts_.Take(); }
 
   private:
+    RowImage ImageOf(const ItemImage& image) const {
+        return {image.item, image.icon, Qt(Visible(image.item)->toolTip), hasCommand_(image.item),
+                image.colour};
+    }
+
     const TreeRowState& row_;
     QRect rect_;
-    const TextWidth& width_;
     const ItemCommand& hasCommand_;
-    std::vector<SubItem> parts_;
+    RowParts parts_;
 };
 
-void LayoutCategory(Builder& b, bool selected) {
-    const QRect& r = b.Rect();
+void LayoutCategory(RowItems& row, bool selected) {
+    const QRect& r = row.Rect();
     constexpr int kLine = 31;
-    b.Add({"fold",
-           SubItemKind::Icon,
-           {r.left() + 4, r.top() + 7, 16, 16},
-           {},
-           b.Row().expanded ? "chevron-down" : "chevron-right",
-           {},
-           false});
-    const TreeItem* count = b.Visible(Item::kCount);
+    row.Sign({.name = "fold",
+              .rect = {r.left() + 4, r.top() + 7, 16, 16},
+              .icon = row.Row().expanded ? "chevron-down" : "chevron-right"});
+    const TreeItem* count = row.Visible(Item::kCount);
     const QString counted = count == nullptr ? QString() : Qt(count->text);
-    const int right = r.right() - kMargin - b.WidthOf(counted, SubItemKind::Count);
-    const int end = b.Write("name", SubItemKind::Name, Qt(b.Row().text),
-                            {r.left() + 24, r.top(), kLine, right}, Qt(b.Row().text));
-    b.Write(Item::kCount, SubItemKind::Count, counted, {end, r.top(), kLine, r.right() - kMargin});
+    const int right = r.right() - kMargin - row.WidthOf(counted, SubItemKind::Count);
+    const int end = row.Name({r.left() + 24, r.top(), kLine, right});
+    row.Write(Item::kCount, SubItemKind::Count, counted, {end, r.top(), kLine, r.right() - kMargin});
     if (selected) {
-        b.Buttons(kCategoryButtons, r.left() + 20, r.top() + kLine + 1);
+        row.Images(kCategoryImages, {r.left() + 20, r.top() + kLine + 1});
     }
 }
 
-const char* StatusIcon(const QString& image) {
-    if (image == QLatin1String(ItemValue::kUnderwayImage)) {
-        return "underway";
+/// The status at the row's right end; gives what is left to the name. Nothing while no status was drawn.
+int LayoutStatus(RowItems& row, int right) {
+    const std::string value = row.Value(Item::kStatus, ItemValue::kStatusImage).toStdString();
+    if (value.empty()) {
+        return right;
     }
-    return image == QLatin1String(ItemValue::kFinishImage) ? "finish" : "plan";
+    const auto* image = std::find_if(std::begin(kStatusImages), std::end(kStatusImages),
+                                     [&value](const StatusImage& known) { return value == known.value; });
+    const StatusImage& shown = image == std::end(kStatusImages) ? kStatusImages[0] : *image;
+    right -= 16 + kGap;
+    row.Sign({.name = Item::kStatus,
+              .rect = {right + kGap, row.Rect().top() + 7, 16, 16},
+              .icon = shown.icon,
+              .toolTip = Qt(row.Visible(Item::kStatus)->toolTip),
+              .colour = shown.colour});
+    return right;
 }
 
-void LayoutVoyageHead(Builder& b, bool selected) {
-    const QRect& r = b.Rect();
+void LayoutVoyageHead(RowItems& row, bool selected) {
+    const QRect& r = row.Rect();
     constexpr int kLine = 30;
-    const int left = r.left() + kMargin;
-    const QRect pin(left, r.top() + 3, kButton, kButton);
-    b.Icon(Item::kUnpinned, "pin", pin);
-    b.Icon(Item::kPinned, "pinned", pin);
-    const QString image = b.Value(Item::kStatus, ItemValue::kStatusImage);
-    int right = r.right() - kMargin;
-    if (!image.isEmpty()) {
-        right -= 16 + kGap;
-        const TreeItem* item = b.Visible(Item::kStatus);
-        b.Add({Item::kStatus,
-               SubItemKind::Icon,
-               {right + kGap, r.top() + 7, 16, 16},
-               {},
-               StatusIcon(image),
-               Qt(item->toolTip),
-               false});
-    }
-    const int nameRight = selected ? right - kButton - kGap : right;
-    const int end = b.Write("name", SubItemKind::Name, Qt(b.Row().text),
-                            {pin.right() + kGap, r.top(), kLine, nameRight}, Qt(b.Row().text));
+    const QRect pin(r.left() + kMargin, r.top() + 3, kImage, kImage);
+    row.Image({Item::kUnpinned, "pin"}, pin);
+    row.Image({Item::kPinned, "pinned", Role::Accent}, pin);
+    const int right = LayoutStatus(row, r.right() - kMargin);
+    const int nameRight = selected ? right - kImage - kGap : right;
+    const int end = row.Name({pin.right() + kGap, r.top(), kLine, nameRight});
     if (selected) {
-        b.Icon(Item::kRenameVoyage, "rename", {end + kGap, r.top() + 3, kButton, kButton});
+        row.Image({Item::kRenameVoyage, "rename"}, {end + kGap, r.top() + 3, kImage, kImage});
     }
 }
 
-void LayoutVoyageDates(Builder& b, int left, int right) {
+void LayoutVoyageDates(RowItems& row, int left, int right) {
     constexpr int kLine = 26;
-    const int top = b.Rect().top() + 32;
-    if (b.Visible(Item::kDates) != nullptr) {
-        const QString text = b.Value(Item::kDates, ItemValue::kSailingLabel) + u' ' +
-                             b.Value(Item::kDates, ItemValue::kSailDate) + QStringLiteral("  ") +
-                             b.Value(Item::kDates, ItemValue::kEndingLabel) + u' ' +
-                             b.Value(Item::kDates, ItemValue::kEndDate);
-        b.Write(Item::kDates, SubItemKind::Text, text, {left, top, kLine, right});
-    } else if (b.Visible(Item::kSetPortCall) != nullptr) {
-        const QString text = b.Value(Item::kSetPortCall, ItemValue::kSetPortCall);
-        b.Write(Item::kSetPortCall, SubItemKind::Link, text, {left, top, kLine, right}, text);
+    const int top = row.Rect().top() + 32;
+    const auto value = [&row](const char* name) { return row.Value(Item::kDates, name); };
+    if (row.Visible(Item::kDates) != nullptr) {
+        const QString text = value(ItemValue::kSailingLabel) + u' ' + value(ItemValue::kSailDate) +
+                             QStringLiteral("  ") + value(ItemValue::kEndingLabel) + u' ' +
+                             value(ItemValue::kEndDate);
+        row.Write(Item::kDates, SubItemKind::Text, text, {left, top, kLine, right});
+    } else if (row.Visible(Item::kSetPortCall) != nullptr) {
+        row.Link(Item::kSetPortCall, row.Value(Item::kSetPortCall, ItemValue::kSetPortCall),
+                 {left, top, kLine, right});
     }
 }
 
-void LayoutVoyageVessel(Builder& b, int left, int right) {
+void LayoutVoyageVessel(RowItems& row, int left, int right) {
     constexpr int kLine = 26;
-    const int top = b.Rect().top() + 60;
+    const int top = row.Rect().top() + 60;
     int end = left;
-    if (b.Visible(Item::kShipInfo) != nullptr) {
-        const QString text = b.Value(Item::kShipInfo, ItemValue::kShipLabel) + u' ' +
-                             b.Value(Item::kShipInfo, ItemValue::kShipName);
-        end = b.Write(Item::kShipInfo, SubItemKind::Link, text,
-                      {left, top, kLine, right - 2 * (kButton + kGap)}, text);
-    } else if (b.Visible(Item::kAssignShip) != nullptr) {
-        const QString text = b.Value(Item::kAssignShip, ItemValue::kAssignShip);
-        end = b.Write(Item::kAssignShip, SubItemKind::Link, text, {left, top, kLine, right - kButton}, text);
+    if (row.Visible(Item::kShipInfo) != nullptr) {
+        const QString text = row.Value(Item::kShipInfo, ItemValue::kShipLabel) + u' ' +
+                             row.Value(Item::kShipInfo, ItemValue::kShipName);
+        end = row.Link(Item::kShipInfo, text, {left, top, kLine, right - 2 * (kImage + kGap)});
+    } else if (row.Visible(Item::kAssignShip) != nullptr) {
+        end = row.Link(Item::kAssignShip, row.Value(Item::kAssignShip, ItemValue::kAssignShip),
+                       {left, top, kLine, right - kImage});
     }
-    if (b.Visible(Item::kAlert) != nullptr) {
-        b.Icon(Item::kAlert, "alert", {end + kGap, top + 1, kButton, kButton});
-        end += kButton + kGap;
+    if (row.Visible(Item::kAlert) != nullptr) {
+        row.Image({Item::kAlert, "alert", Role::Warning}, {end + kGap, top + 1, kImage, kImage});
+        end += kImage + kGap;
     }
-    b.Icon(Item::kReplaceShip, "replace", {end + kGap, top + 1, kButton, kButton});
+    row.Image({Item::kReplaceShip, "replace"}, {end + kGap, top + 1, kImage, kImage});
+}
+
+void LayoutDeleted(RowItems& row) {
+    const QRect& r = row.Rect();
+    const int right = r.right() - kMargin - 2 * (kImage + kGap);
+    row.Name({r.left() + 24, r.top(), r.height(), right});
+    row.Images(kDeletedImages, {right + kGap, r.top() + 3});
 }
 
 }  // namespace
 
-int RowHeight(const TreeRowState& row, bool selected) {
-    if (row.style == kCategoryStyle) {
-        return selected ? 61 : 31;
-    }
-    if (row.style == kVoyageStyle) {
-        return selected ? 123 : 30;
-    }
-    return row.parent == kNoRow ? 31 : 30;
-}
-
-std::vector<SubItem> LayoutRow(const TreeRowState& row, const QRect& rect, bool selected,
+std::vector<SubItem> LayoutRow(const TreeRowState& state, const QRect& rect, bool selected,
                                const TextWidth& width, const ItemCommand& hasCommand) {
-    Builder b(row, rect, width, hasCommand);
-    if (row.style == kCategoryStyle) {
-        LayoutCategory(b, selected);
-    } else if (row.style == kVoyageStyle) {
-        LayoutVoyageHead(b, selected);
-        if (!selected) {
-            return b.Take();
-        }
-        const int left = rect.left() + kMargin + kButton + kGap;
+    RowItems row(state, rect, width, hasCommand);
+    if (state.style == kCategoryStyle) {
+        LayoutCategory(row, selected);
+        return row.Take();
+    }
+    if (state.style != kVoyageStyle) {
+        LayoutDeleted(row);
+        return row.Take();
+    }
+    LayoutVoyageHead(row, selected);
+    if (selected) {
+        const int left = rect.left() + kMargin + kImage + kGap;
         const int right = rect.right() - kMargin;
-        LayoutVoyageDates(b, left, right);
-        LayoutVoyageVessel(b, left, right);
-        b.Buttons(kVoyageButtons, left - 4, rect.top() + 93);
-    } else {
-        const int left = rect.left() + 24;
-        const int right = rect.right() - kMargin - 2 * (kButton + kGap);
-        b.Write("name", SubItemKind::Name, Qt(row.text), {left, rect.top(), rect.height(), right},
-                Qt(row.text));
-        b.Buttons(kDeletedButtons, right + kGap, rect.top() + 3);
+        LayoutVoyageDates(row, left, right);
+        LayoutVoyageVessel(row, left, right);
+        row.Images(kVoyageImages, {left - 4, rect.top() + 93});
     }
-    return b.Take();
-}
-
-QString AccessibleTextOf(const TreeRowState& row) {
-    const auto unbounded = [](const QString&, SubItemKind) { return 0; };
-    QStringList texts;
-    QString status;
-    for (const SubItem& part : LayoutRow(row, {}, true, unbounded, [](const std::string&) { return true; })) {
-        if (part.kind != SubItemKind::Icon) {
-            texts.append(part.text.trimmed());
-        }
-        if (part.name == Item::kStatus) {
-            status = part.toolTip;
-        }
-    }
-    if (!status.isEmpty()) {
-        texts.append(status);
-    }
-    return texts.join(QStringLiteral(", "));
-}
-
-const SubItem* SubItemAt(const std::vector<SubItem>& parts, const QPoint& point) {
-    const auto it = std::find_if(parts.begin(), parts.end(), [&](const SubItem& part) {
-        return part.clickable && part.rect.contains(point);
-    });
-    return it == parts.end() ? nullptr : &*it;
+    return row.Take();
 }
 
 }  // namespace Tarvik::Seaplan
