@@ -4,7 +4,23 @@
 namespace Tarvik::Seaplan {
 
 /// A key that a window reports; what it means, the panel decides.
-enum class Key { Other, Tab, Enter, Escape, Backspace, Delete, Up, Down, F2, F9, S };
+enum class Key {
+    Other,
+    Tab,
+    Enter,
+    Escape,
+    Backspace,
+    Delete,
+    Insert,
+    Space,
+    Up,
+    Down,
+    Left,
+    Right,
+    F2,
+    F9,
+    S
+};
 
 /// A key with the keys held beside it.
 struct KeyPress {

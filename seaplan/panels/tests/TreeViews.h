@@ -17,10 +17,12 @@ class RecordingTree final : public TreeRows {
   public:
     int rowTop = 40;  ///< top of every row in pixels
     void* windowAtPointer = nullptr;
+    TreeRow cursor = kNoRow;
     std::vector<bool> enabled;  ///< every change, in order
 
     Rect GetItemRect(TreeRow) const override { return {0, rowTop, 290, rowTop + 30}; }
     void ShowAtPointer(void* window) override { windowAtPointer = window; }
+    void SetCursor(TreeRow row) override { cursor = row; }
     void SetEnabled(bool on) override { enabled.push_back(on); }
     void* Handle() const override { return nullptr; }
 

@@ -211,7 +211,7 @@ TEST_F(TreeFixture, PressingAFoldedCategoryDeselects) {
     ctrl.ReloadTree();
     Press("Full");
     EXPECT_EQ(tree.Selected(), kNoRow);
-    tree.Expand(tree.Find("Full"));
+    tree.Expand(tree.Find("Full"), true);
     Press("Full");
     EXPECT_EQ(tree.Selected(), tree.Find("Full"));
     EXPECT_TRUE(ctrl.Context().voyageStatuses.contains(Id("A")));

@@ -26,7 +26,7 @@ int RowSelection::Take(TreeRow row) {
 }
 
 void RowSelection::TakeVoyage(TreeRow row) {
-    c_.tree.Expand(c_.tree.GetParentItem(row));
+    c_.tree.Expand(c_.tree.GetParentItem(row), true);
     c_.tree.SelectItem(row);
     categoryRow_ = row;
     voyageRow_ = row;
@@ -62,7 +62,7 @@ int RowSelection::Unfold(TreeRow row) {
     if (category == nullptr) {
         return -1;
     }
-    c_.tree.Expand(row);
+    c_.tree.Expand(row, true);
     c_.tree.SelectItem(row);
     status_.ShowAll(row, category->ci);
     return 0;

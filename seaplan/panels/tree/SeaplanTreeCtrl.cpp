@@ -13,7 +13,10 @@ SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
       voyages_(parts_),
       vessels_(parts_, given.vesselView),
       tracks_(parts_),
-      remark_(parts_.context),
+      keys_(given.tree,
+            {[this](TreeRow row) { OnRowPressed(row); }, [this](TreeRow row) { OnRowPressed(row, true); },
+             [this](TreeRow row, const std::string& item) { OnItemClicked(row, item); },
+             [this] { categories_.Add(categories_.NewName()); }}),
       categoryCommands_(categories_.Table()),
       voyageCommands_(voyages_.Table()) {
     voyageCommands_.merge(vessels_.Table());
@@ -104,6 +107,14 @@ void SeaplanTreeCtrl::ApplyLanguage() {
 
 bool SeaplanTreeCtrl::HasCommand(const std::string& item) const {
     return categoryCommands_.contains(item) || voyageCommands_.contains(item);
+}
+
+void SeaplanTreeCtrl::OnRowPressed(TreeRow row, bool fold) {
+    TreeContext& c = parts_.context;
+    if (fold && c.IsCategoryRow(row)) {
+        c.tree.Expand(row, !c.tree.IsItemExpanded(row));
+    }
+    parts_.selection.Press(row);
 }
 
 int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {

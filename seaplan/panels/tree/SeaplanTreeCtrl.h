@@ -4,8 +4,8 @@
 #include <string>
 
 #include "seaplan/panels/tree/CategoryCommands.h"
-#include "seaplan/panels/tree/RemarkMark.h"
 #include "seaplan/panels/tree/TrackCommands.h"
+#include "seaplan/panels/tree/TreeKeys.h"
 #include "seaplan/panels/tree/VesselCommands.h"
 #include "seaplan/panels/tree/VoyageCommands.h"
 
@@ -28,7 +28,7 @@ class SeaplanTreeCtrl {
     int ComputeStatus(const std::string& vi) { return parts_.status.Compute(vi); }
     int ShowStatus(const std::string& vi) { return parts_.status.Show(vi); }
     int ShowDates(TreeRow row, const VoyInfo& voyage) { return parts_.status.ShowDates(row, voyage); }
-    void SetRemarkMark(TreeRow row, bool on) { remark_.Set(row, on); }
+    void SetRemarkMark(TreeRow row, bool on) { parts_.remark.Set(row, on); }
     void OnViewShown(bool shown);
     /// Redraws the first row that shows the voyage. -3 when that fails; 0 also without such a row.
     int RefreshVoyageRow(const std::string& vi) { return parts_.status.RefreshRow(vi); }
@@ -43,8 +43,11 @@ class SeaplanTreeCtrl {
     void ForgetAfterLogout();
     void ApplyLanguage();
 
-    /// A left press on a row, whatever item lies under it.
-    void OnRowPressed(TreeRow row) { parts_.selection.Press(row); }
+    /// A left press on a row, whatever item lies under it. `fold` folds or unfolds a category first, as a
+    /// press beside its items does.
+    void OnRowPressed(TreeRow row, bool fold = false);
+    /// Keys of the tree's window.
+    TreeKeys& Keys() { return keys_; }
     /// A click on an item, by name.
     int OnItemClicked(TreeRow row, const std::string& item);
     /// Whether a click on an item of this name runs a command.
@@ -52,7 +55,7 @@ class SeaplanTreeCtrl {
 
     CategoryCommands& Categories() { return categories_; }
     TreeRename& Renaming() { return parts_.rename; }
-    RemarkMark& Remarks() { return remark_; }
+    RemarkMark& Remarks() { return parts_.remark; }
     VesselCommands& Vessels() { return vessels_; }
     VoyageTreeSortDlg& SortPanel() { return sortPanel_; }
     TreeContext& Context() { return parts_.context; }
@@ -64,7 +67,7 @@ class SeaplanTreeCtrl {
     VoyageCommands voyages_;
     VesselCommands vessels_;
     TrackCommands tracks_;
-    RemarkMark remark_;
+    TreeKeys keys_;
     TreeCommands categoryCommands_;
     TreeCommands voyageCommands_;
     PortCallOpener* portCalls_ = nullptr;

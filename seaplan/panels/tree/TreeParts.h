@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 
+#include "seaplan/panels/tree/RemarkMark.h"
 #include "seaplan/panels/tree/RowSelection.h"
 #include "seaplan/panels/tree/TreeBuilder.h"
 #include "seaplan/panels/tree/TreeRename.h"
@@ -32,7 +33,8 @@ struct TreeParts {
           builder(context, status),
           chart(context),
           selection(context, status, chart),
-          rename(context, given.renameBox, [this](TreeRow row) { return selection.Unfold(row); }) {}
+          rename(context, given.renameBox, [this](TreeRow row) { return selection.Unfold(row); }),
+          remark(context) {}
 
     TreeContext context;
     TreeStatus status;
@@ -40,6 +42,7 @@ struct TreeParts {
     VoyagesOnChart chart;
     RowSelection selection;
     TreeRename rename;
+    RemarkMark remark;
 };
 
 /// Commands by the name of their item. A command works on the current rows and answers 0 or the negative

@@ -31,6 +31,17 @@ constexpr ItemDefault kDeletedCategoryItems[] = {{Item::kRecoverCategory, true},
                                                  {Item::kClearCategory, true}};
 constexpr ItemDefault kDeletedVoyageItems[] = {{Item::kRecoverVoyage, true}, {Item::kClearVoyage, true}};
 
+struct StyleHeight {
+    const char* style;
+    int plain;
+    int selected;
+};
+
+constexpr StyleHeight kHeights[] = {{kCategoryStyle, 31, 61},
+                                    {kVoyageStyle, 30, 123},
+                                    {kDeletedCategoryStyle, 31, 31},
+                                    {kDeletedVoyageStyle, 30, 30}};
+
 template <std::size_t N>
 std::map<std::string, TreeItem> ItemsOf(const ItemDefault (&defaults)[N]) {
     std::map<std::string, TreeItem> items;
@@ -55,17 +66,26 @@ std::map<std::string, TreeItem> ItemsOfStyle(std::string_view style) {
 
 }  // namespace
 
-TreeRowState* TreeRows::Find(TreeRow row) {
+int RowHeight(const TreeRowState& row, bool selected) {
+    for (const StyleHeight& known : kHeights) {
+        if (row.style == known.style) {
+            return selected ? known.selected : known.plain;
+        }
+    }
+    return kHeights[0].plain;
+}
+
+TreeRowState* TreeShape::Find(TreeRow row) {
     const auto it = rows_.find(row);
     return it == rows_.end() ? nullptr : &it->second;
 }
 
-const TreeRowState* TreeRows::Row(TreeRow row) const {
+const TreeRowState* TreeShape::Row(TreeRow row) const {
     const auto it = rows_.find(row);
     return it == rows_.end() ? nullptr : &it->second;
 }
 
-TreeRow TreeRows::InsertItem(const std::string& text, const char* style, TreeRow parent) {
+TreeRow TreeShape::InsertItem(const std::string& text, const char* style, TreeRow parent) {
     if (parent != kNoRow && Row(parent) == nullptr) {
         return kNoRow;
     }
@@ -84,7 +104,7 @@ TreeRow TreeRows::InsertItem(const std::string& text, const char* style, TreeRow
     return row;
 }
 
-void TreeRows::DeleteItem(TreeRow row) {
+void TreeShape::DeleteItem(TreeRow row) {
     if (Row(row) == nullptr) {
         return;
     }
@@ -104,71 +124,67 @@ void TreeRows::DeleteItem(TreeRow row) {
     rows_.erase(row);
 }
 
-void TreeRows::DeleteChildItems(TreeRow row) {
+void TreeShape::DeleteChildItems(TreeRow row) {
     // From the end, as nothing moves up then.
     while (Row(row) != nullptr && !Row(row)->children.empty()) {
         DeleteItem(Row(row)->children.back());
     }
 }
 
-void TreeRows::DeleteAllItems() {
+void TreeShape::DeleteAllItems() {
     rows_.clear();
     roots_.clear();
     selected_ = kNoRow;
     RowsCleared();
 }
 
-void TreeRows::SetItemData(TreeRow row, void* record) {
+void TreeShape::SetItemData(TreeRow row, void* record) {
     if (TreeRowState* state = Find(row)) {
         state->record = record;
     }
 }
 
-void* TreeRows::GetItemData(TreeRow row) const {
+void* TreeShape::GetItemData(TreeRow row) const {
     const TreeRowState* state = Row(row);
     return state == nullptr ? nullptr : state->record;
 }
 
-TreeRow TreeRows::GetRootItem() const {
+TreeRow TreeShape::GetRootItem() const {
     return roots_.empty() ? kNoRow : roots_.front();
 }
 
-TreeRow TreeRows::GetChildItem(TreeRow row) const {
+TreeRow TreeShape::GetChildItem(TreeRow row) const {
     const TreeRowState* state = Row(row);
     return state == nullptr || state->children.empty() ? kNoRow : state->children.front();
 }
 
-TreeRow TreeRows::GetNextSiblingItem(TreeRow row) const {
+TreeRow TreeShape::GetNextSiblingItem(TreeRow row) const {
     const TreeRowState* state = Row(row);
     return state == nullptr ? kNoRow : state->next;
 }
 
-TreeRow TreeRows::GetParentItem(TreeRow row) const {
+TreeRow TreeShape::GetParentItem(TreeRow row) const {
     const TreeRowState* state = Row(row);
     return state == nullptr ? kNoRow : state->parent;
 }
 
-std::string TreeRows::GetItemStyle(TreeRow row) const {
+std::string TreeShape::GetItemStyle(TreeRow row) const {
     const TreeRowState* state = Row(row);
     return state == nullptr ? std::string() : state->style;
 }
 
-void TreeRows::SelectItem(TreeRow row) {
+void TreeShape::SelectItem(TreeRow row) {
     selected_ = Row(row) == nullptr ? kNoRow : row;
     RowSelected(selected_);
 }
 
-void TreeRows::Expand(TreeRow row) {
-    SetExpanded(row, true);
-}
-
-void TreeRows::SetExpanded(TreeRow row, bool expanded) {
+void TreeRows::Expand(TreeRow row, bool open) {
     TreeRowState* state = Find(row);
-    if (state == nullptr || state->expanded == expanded) {
+    if (state == nullptr || state->expanded == open) {
         return;
     }
-    state->expanded = expanded;
-    RowExpanded(row, expanded);
+    state->expanded = open;
+    RowExpanded(row, open);
 }
 
 bool TreeRows::IsItemExpanded(TreeRow row) const {

@@ -30,9 +30,12 @@ struct TreeRowState {
     std::map<std::string, TreeItem> items;
 };
 
-/// The rows of a tree without any window. A window derives from it and follows the hooks; each is called
-/// after the change, RowRemoving before it.
-class TreeRows : public TreeWidget {
+/// Height of a row in pixels by its style; rows in use grow when they are selected.
+int RowHeight(const TreeRowState& row, bool selected);
+
+/// The rows of a tree without any window: which there are, below which others, and which one is selected. A
+/// window follows the hooks; each is called after the change, RowRemoving before it.
+class TreeShape : public TreeWidget {
   public:
     TreeRow InsertItem(const std::string& text, const char* style, TreeRow parent) override;
     void DeleteItem(TreeRow row) override;
@@ -46,7 +49,28 @@ class TreeRows : public TreeWidget {
     TreeRow GetParentItem(TreeRow row) const override;
     std::string GetItemStyle(TreeRow row) const override;
     void SelectItem(TreeRow row) override;
-    void Expand(TreeRow row) override;
+    TreeRow Selected() const override { return selected_; }
+    /// State of a row, null for an unknown one.
+    const TreeRowState* Row(TreeRow row) const;
+
+  protected:
+    virtual void RowInserted(TreeRow) {}
+    virtual void RowRemoving(TreeRow) {}
+    virtual void RowsCleared() {}
+    virtual void RowSelected(TreeRow) {}
+    TreeRowState* Find(TreeRow row);
+
+  private:
+    std::unordered_map<TreeRow, TreeRowState> rows_;
+    std::vector<TreeRow> roots_;
+    TreeRow next_ = 1;
+    TreeRow selected_ = kNoRow;
+};
+
+/// The same with what the rows show.
+class TreeRows : public TreeShape {
+  public:
+    void Expand(TreeRow row, bool open) override;
     bool IsItemExpanded(TreeRow row) const override;
     std::string GetItemText(TreeRow row) const override;
     void SetItemText(TreeRow row, const std::string& text) override;
@@ -54,31 +78,12 @@ class TreeRows : public TreeWidget {
     void SetDrawItemValueOfEventItem(TreeRow row, const std::string& item, const std::string& value,
                                      const std::string& text) override;
     void SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) override;
+    bool IsItemVisible(TreeRow row, const std::string& item) const override;
     void SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) override;
 
-    /// State of a row, null for an unknown one.
-    const TreeRowState* Row(TreeRow row) const;
-    TreeRow Selected() const { return selected_; }
-    /// The person folded or unfolded a category.
-    void SetExpanded(TreeRow row, bool expanded);
-    /// Whether a row shows an item; an item that the row does not have counts as hidden.
-    bool IsItemVisible(TreeRow row, const std::string& item) const;
-
   protected:
-    virtual void RowInserted(TreeRow) {}
-    virtual void RowRemoving(TreeRow) {}
-    virtual void RowsCleared() {}
     virtual void RowChanged(TreeRow) {}
-    virtual void RowSelected(TreeRow) {}
     virtual void RowExpanded(TreeRow, bool) {}
-
-  private:
-    TreeRowState* Find(TreeRow row);
-
-    std::unordered_map<TreeRow, TreeRowState> rows_;
-    std::vector<TreeRow> roots_;
-    TreeRow next_ = 1;
-    TreeRow selected_ = kNoRow;
 };
 
 }  // namespace Tarvik::Seaplan

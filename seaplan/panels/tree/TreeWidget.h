@@ -36,7 +36,10 @@ class TreeWidget : public BoxOwner {
     virtual TreeRow GetParentItem(TreeRow row) const = 0;
     virtual std::string GetItemStyle(TreeRow row) const = 0;
     virtual void SelectItem(TreeRow row) = 0;
-    virtual void Expand(TreeRow row) = 0;
+    virtual TreeRow Selected() const = 0;
+    /// Puts the keyboard on a row and brings it into view, selected or not.
+    virtual void SetCursor(TreeRow row) = 0;
+    virtual void Expand(TreeRow row, bool open) = 0;
     virtual bool IsItemExpanded(TreeRow row) const = 0;
     /// Rectangle of a row in pixels of the tree's window.
     virtual Rect GetItemRect(TreeRow row) const = 0;
@@ -46,6 +49,8 @@ class TreeWidget : public BoxOwner {
     virtual void SetDrawItemValueOfEventItem(TreeRow row, const std::string& item, const std::string& value,
                                              const std::string& text) = 0;
     virtual void SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) = 0;
+    /// Whether a row shows an item; an item that the row does not have counts as hidden.
+    virtual bool IsItemVisible(TreeRow row, const std::string& item) const = 0;
     virtual void SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) = 0;
 
     /// Shows another plug-in's window, by its opaque handle, 18 left of and 5 above the pointer, in its own

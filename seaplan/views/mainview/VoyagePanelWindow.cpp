@@ -31,10 +31,12 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
     QObject::connect(addButton_, &QToolButton::clicked, this, [panel] { panel->AddCategory(); });
     filter_->SetReport([panel](TextId id) { panel->Filter().OnChosen(id); });
     tree_->SortPopup().SetReport([tree](TextId id) { tree->SortPanel().OnChosen(id); });
-    tree_->SetReports({[tree](TreeRow row) { tree->OnRowPressed(row); },
-                       [tree](TreeRow row, const std::string& item) { tree->OnItemClicked(row, item); },
-                       [tree] { tree->Renaming().Commit(); }, [panel] { panel->AddCategory(); },
-                       [tree](const std::string& item) { return tree->HasCommand(item); }});
+    tree_->SetReports(
+        {[tree](TreeRow row, bool beside) { tree->OnRowPressed(row, beside); },
+         [tree](TreeRow row, const std::string& item) { tree->OnItemClicked(row, item); },
+         [tree](Key key, TreeRow row, const std::string& item) { return tree->Keys().OnKey(key, row, item); },
+         [tree] { tree->Renaming().Commit(); },
+         [tree](const std::string& item) { return tree->HasCommand(item); }});
 }
 
 void VoyagePanelWindow::FocusFirst() {

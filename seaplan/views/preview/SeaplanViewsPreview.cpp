@@ -54,7 +54,7 @@ void Press(VoyageViews& views, const std::string& text) {
     TreeRows& rows = views.VoyageWindow()->Tree().Rows();
     const TreeRow row = RowOf(rows, text);
     if (rows.GetParentItem(row) == kNoRow) {
-        rows.SetExpanded(row, true);
+        rows.Expand(row, true);
     }
     views.Tree().OnRowPressed(row);
 }

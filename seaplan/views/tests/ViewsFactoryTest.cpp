@@ -90,7 +90,7 @@ TEST_F(ViewsFactoryTest, AVoyageCanBeCorrectedByItsShipsPosition) {
     VoyageTreeView& tree = static_cast<VoyagePanelWindow*>(Panel())->Tree();
     const TreeRow voyage = tree.Rows().GetChildItem(tree.Rows().GetRootItem());
     ASSERT_EQ(tree.Rows().GetItemText(voyage), "Winter");
-    tree.Widget().Expand(tree.Rows().GetRootItem());
+    tree.Widget().Expand(tree.Rows().GetRootItem(), true);
     tree.Widget().SelectItem(voyage);
     bool offered = false;
     for (const SubItem& part : tree.PartsOf(voyage)) {

@@ -2,8 +2,10 @@
 #include "seaplan/views/tree/VoyageTreeView.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFontMetrics>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,6 +15,7 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/tree/RenameField.h"
 #include "seaplan/views/tree/RowDelegate.h"
 #include "seaplan/views/tree/RowModel.h"
@@ -77,8 +80,7 @@ ChoiceBox& VoyageTreeView::SortPopup() {
 }
 
 TreeRow VoyageTreeView::RowAt(const QPoint& point) const {
-    const QModelIndex index = indexAt(point);
-    return index.isValid() ? index.data(Qt::UserRole).toInt() : kNoRow;
+    return RowModel::RowOf(indexAt(point));
 }
 
 std::vector<SubItem> VoyageTreeView::PartsOf(TreeRow row) const {
@@ -109,26 +111,10 @@ bool VoyageTreeView::IsCovered(const QRect& part) const {
     });
 }
 
-std::vector<SubItem> VoyageTreeView::ClickableOf(TreeRow row) const {
-    std::vector<SubItem> parts = PartsOf(row);
-    std::erase_if(parts, [](const SubItem& part) { return !part.clickable || !part.enabled; });
-    return parts;
-}
-
 std::string VoyageTreeView::FocusedPart() const {
-    const auto parts = ClickableOf(rows_->Selected());
+    const auto parts = EnabledOf(PartsOf(rows_->Selected()));
     return focusPart_ < 0 || focusPart_ >= static_cast<int>(parts.size()) ? std::string()
                                                                           : parts[focusPart_].name;
-}
-
-void VoyageTreeView::Press(TreeRow row, bool onItem) {
-    const bool category = row != kNoRow && rows_->GetParentItem(row) == kNoRow;
-    if (category && !onItem) {
-        rows_->SetExpanded(row, !rows_->IsItemExpanded(row));
-    }
-    if (reports_.pressed) {
-        reports_.pressed(row);
-    }
 }
 
 void VoyageTreeView::mousePressEvent(QMouseEvent* event) {
@@ -141,7 +127,9 @@ void VoyageTreeView::mousePressEvent(QMouseEvent* event) {
     const auto parts = PartsOf(pressedRow_);
     const SubItem* part = SubItemAt(parts, event->pos());
     pressedItem_ = part == nullptr ? std::string() : part->name;
-    Press(pressedRow_, part != nullptr);
+    if (reports_.pressed) {
+        reports_.pressed(pressedRow_, part == nullptr);
+    }
 }
 
 void VoyageTreeView::mouseReleaseEvent(QMouseEvent* event) {
@@ -158,8 +146,33 @@ void VoyageTreeView::mouseReleaseEvent(QMouseEvent* event) {
     }
 }
 
+void VoyageTreeView::keyPressEvent(QKeyEvent* event) {
+    const TreeRow current = RowModel::RowOf(currentIndex());
+    if (!reports_.key || !reports_.key(PressOf(*event).key, current, FocusedPart())) {
+        event->ignore();
+    }
+}
+
+void VoyageTreeView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const TreeRow current = rows_->Selected() != kNoRow ? rows_->Selected() : RowModel::RowOf(currentIndex());
+    const TreeRow row = byKey ? current : RowAt(event->pos());
+    const TreeRowState* state = rows_->Row(row);
+    if (state == nullptr) {
+        return;
+    }
+    QMenu* menu = MakeRowMenu(this, LayOut(*state, {0, 0, viewport()->width(), 0}, true),
+                              [this, row](const std::string& item) {
+                                  if (reports_.clicked) {
+                                      reports_.clicked(row, item);
+                                  }
+                              });
+    menu->popup(byKey ? viewport()->mapToGlobal(visualRect(rows_->ItemOf(row)->index()).center())
+                      : event->globalPos());
+}
+
 bool VoyageTreeView::focusNextPrevChild(bool next) {
-    const int count = static_cast<int>(ClickableOf(rows_->Selected()).size());
+    const int count = static_cast<int>(EnabledOf(PartsOf(rows_->Selected())).size());
     const int target = focusPart_ + (next ? 1 : -1);
     if (!hasFocus() || target < -1 || target >= count) {
         focusPart_ = -1;
@@ -192,16 +205,14 @@ bool VoyageTreeView::viewportEvent(QEvent* event) {
         return QTreeView::viewportEvent(event);
     }
     const auto* help = static_cast<QHelpEvent*>(event);
-    for (const SubItem& part : PartsOf(RowAt(help->pos()))) {
-        if (!part.rect.contains(help->pos()) || part.toolTip.isEmpty()) {
-            continue;
-        }
-        const QString why =
-            part.enabled ? QString() : QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_NOTYET);
-        QToolTip::showText(help->globalPos(), part.toolTip + why, viewport(), part.rect);
+    const auto parts = PartsOf(RowAt(help->pos()));
+    const SubItem* part = TipAt(parts, help->pos());
+    if (part == nullptr) {
+        QToolTip::hideText();
         return true;
     }
-    QToolTip::hideText();
+    const QString why = part->enabled ? QString() : QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_NOTYET);
+    QToolTip::showText(help->globalPos(), part->toolTip + why, viewport(), part->rect);
     return true;
 }
 

@@ -4,11 +4,10 @@
 #include <QStandardItemModel>
 #include <QTreeView>
 #include <functional>
-#include <initializer_list>
-#include <map>
 #include <memory>
 #include <vector>
 
+#include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/tree/TreeRows.h"
 #include "seaplan/views/tree/RowLayout.h"
 
@@ -21,8 +20,7 @@ class TextBox;
 /// The rows of the voyage tree as a window sees them; made by VoyageTreeView.
 class VoyageTreeWidget;
 
-/// Draws the voyage tree and reports presses and clicks. Tab walks the items of the selected row, Space and
-/// Enter press them; F2 renames, Insert adds a voyage, Delete moves to the recycle bin.
+/// Draws the voyage tree and reports presses, clicks and keys. Tab walks the items of the selected row.
 class VoyageTreeView : public QTreeView {
   public:
     explicit VoyageTreeView(QWidget* parent);
@@ -30,11 +28,12 @@ class VoyageTreeView : public QTreeView {
 
     /// What the person does, set by the owner.
     struct Reports {
-        std::function<void(TreeRow)> pressed;
+        std::function<void(TreeRow, bool beside)> pressed;  ///< `beside` its items
         std::function<void(TreeRow, const std::string&)> clicked;
+        /// A key while the keyboard is on a row and an item; false when it means nothing.
+        std::function<bool(Key, TreeRow, const std::string&)> key;
         std::function<void()> renameDone;
-        std::function<void()> addCategory;
-        std::function<bool(const std::string&)> HasCommand;
+        std::function<bool(const std::string&)> hasCommand;
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }
     TreeRows& Rows();
@@ -64,20 +63,9 @@ class VoyageTreeView : public QTreeView {
   private:
     friend class VoyageTreeWidget;
     TreeRow RowAt(const QPoint& point) const;
-    std::vector<SubItem> ClickableOf(TreeRow row) const;
-    void Press(TreeRow row, bool onItem);
-    void StepRow(int by);
-    /// Row that the keys work on: the selected one, else the current one.
-    TreeRow KeyRow() const;
-    /// Clicks the first of the items that the row shows; false when it shows none.
     bool HasCommand(const std::string& item) const {
-        return reports_.HasCommand && reports_.HasCommand(item);
+        return reports_.hasCommand && reports_.hasCommand(item);
     }
-    bool ClickItem(TreeRow row, std::initializer_list<const char*> items);
-    bool RowKey(int key);
-    bool FoldKey(int key);
-    void PressKey();
-    void InsertKey();
     std::vector<SubItem> LayOut(const TreeRowState& state, const QRect& rect, bool selected) const;
     void Relayout();
 

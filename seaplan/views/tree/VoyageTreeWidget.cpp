@@ -21,6 +21,12 @@ Rect VoyageTreeWidget::GetItemRect(TreeRow row) const {
     return {0, rect.top(), view_.viewport()->width(), rect.bottom() + 1};
 }
 
+void VoyageTreeWidget::SetCursor(TreeRow row) {
+    if (QStandardItem* item = ItemOf(row)) {
+        view_.setCurrentIndex(item->index());
+    }
+}
+
 void VoyageTreeWidget::ShowAtPointer(void* window) {
     auto* shown = static_cast<QWidget*>(window);
     shown->move(QCursor::pos() - QPoint(18, 5));

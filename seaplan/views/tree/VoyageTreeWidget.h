@@ -17,6 +17,7 @@ class VoyageTreeWidget final : public TreeRows {
     explicit VoyageTreeWidget(VoyageTreeView& view) : view_(view) {}
 
     Rect GetItemRect(TreeRow row) const override;
+    void SetCursor(TreeRow row) override;
     void ShowAtPointer(void* window) override;
     void SetEnabled(bool enabled) override;
     void* Handle() const override;

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include "seaplan/panels/tests/TreeFixture.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+class TreeKeysTest : public TreeFixture {
+  protected:
+    TreeKeysTest() {
+        desk.AddCategory("First");
+        desk.AddVoyage("First", {.name = "A"});
+        desk.AddVoyage("First", {.name = "B"});
+        desk.AddCategory("Second");
+        desk.AddVoyage("Second", {.name = "C"});
+        ctrl.ReloadTree();
+    }
+    /// A key on the row where the cursor is.
+    bool Press(Key key, const std::string& focused = {}) {
+        return ctrl.Keys().OnKey(key, tree.cursor, focused);
+    }
+    std::string Cursor() const { return tree.GetItemText(tree.cursor); }
+    std::string SelectedText() const { return tree.GetItemText(tree.Selected()); }
+};
+
+}  // namespace
+
+TEST_F(TreeKeysTest, ArrowsWalkTheRowsThatAreNotFolded) {
+    Press(Key::Down);
+    EXPECT_EQ(Cursor(), "First") << "without a row the first one comes";
+    EXPECT_EQ(SelectedText(), "") << "a folded category is not selected";
+    Press(Key::Down);
+    EXPECT_EQ(Cursor(), "Second");
+    Press(Key::Down);
+    EXPECT_EQ(Cursor(), "Second") << "there is no row below";
+    Press(Key::Up);
+    Press(Key::Right);
+    EXPECT_TRUE(tree.IsItemExpanded(tree.Find("First")));
+    EXPECT_EQ(SelectedText(), "First");
+    Press(Key::Down);
+    EXPECT_EQ(SelectedText(), "A");
+    Press(Key::Down);
+    Press(Key::Down);
+    EXPECT_EQ(Cursor(), "Second");
+}
+
+TEST_F(TreeKeysTest, LeftLeadsToTheCategoryAndThenFoldsIt) {
+    tree.Expand(tree.Find("First"), true);
+    TreeFixture::Press("B");
+    Press(Key::Left);
+    EXPECT_EQ(SelectedText(), "First");
+    EXPECT_TRUE(tree.IsItemExpanded(tree.Find("First")));
+    Press(Key::Left);
+    EXPECT_FALSE(tree.IsItemExpanded(tree.Find("First")));
+    EXPECT_EQ(SelectedText(), "");
+}
+
+TEST_F(TreeKeysTest, AVoyageThatWasFoldedAwayStandsForItsCategory) {
+    tree.Expand(tree.Find("First"), true);
+    TreeFixture::Press("B");
+    tree.cursor = tree.Find("B");
+    ctrl.OnRowPressed(tree.Find("First"), true);
+    ASSERT_FALSE(tree.IsItemExpanded(tree.Find("First")));
+    Press(Key::Down);
+    EXPECT_EQ(Cursor(), "Second");
+}
+
+TEST_F(TreeKeysTest, APressFoldsOnlyBesideTheItems) {
+    ctrl.OnRowPressed(tree.Find("First"), true);
+    EXPECT_TRUE(tree.IsItemExpanded(tree.Find("First")));
+    ctrl.OnRowPressed(tree.Find("First"), false);
+    EXPECT_TRUE(tree.IsItemExpanded(tree.Find("First")));
+    ctrl.OnRowPressed(kNoRow, true);
+    ctrl.OnRowPressed(tree.Find("A"), true);
+    EXPECT_FALSE(tree.IsItemExpanded(tree.Find("A")));
+}
+
+TEST_F(TreeKeysTest, EnterPressesTheItemUnderTheKeyboard) {
+    tree.Expand(tree.Find("First"), true);
+    TreeFixture::Press("A");
+    EXPECT_TRUE(Press(Key::Space, Item::kRenameVoyage));
+    EXPECT_TRUE(box.open);
+    EXPECT_EQ(box.text, "A");
+}
+
+TEST_F(TreeKeysTest, InsertAddsAVoyageToTheCategoryAndACategoryWithoutOne) {
+    tree.Expand(tree.Find("First"), true);
+    TreeFixture::Press("A");
+    Press(Key::Insert);
+    EXPECT_EQ(desk.Count(Ask::kAddVoyage, "IDS_TREE_NEWVOYAGE - 0"), 1);
+    tree.SelectItem(kNoRow);
+    tree.cursor = kNoRow;
+    Press(Key::Insert);
+    EXPECT_EQ(desk.Count(Ask::kAddCategory, "IDS_TREE_NEWVOYCATEGORY - 0"), 1);
+}
+
+TEST_F(TreeKeysTest, KeysWithoutAMeaningAreLeftToTheWindow) {
+    for (const Key key : {Key::Other, Key::Tab, Key::Escape, Key::F9, Key::S}) {
+        EXPECT_FALSE(Press(key));
+    }
+    EXPECT_FALSE(Press(Key::F2)) << "no row";
+    EXPECT_FALSE(Press(Key::Delete));
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <string>
+
+#include "seaplan/panels/editors/Keys.h"
+#include "seaplan/panels/tree/TreeWidget.h"
+
+namespace Tarvik::Seaplan {
+
+/// What the keys do in the tree: Up and Down walk the rows, Right and Left fold, Enter and Space press, F2
+/// renames, Insert adds a voyage or a category, Delete moves to the recycle bin, and out of it for good.
+class TreeKeys {
+  public:
+    /// What the keys lead to.
+    struct Ways {
+        std::function<void(TreeRow)> select;  ///< what a press on a row does, but for folding
+        std::function<void(TreeRow)> press;   ///< a press on a row beside its items
+        std::function<void(TreeRow, const std::string&)> click;
+        std::function<void()> addCategory;
+    };
+    TreeKeys(TreeWidget& tree, Ways ways) : tree_(tree), ways_(std::move(ways)) {}
+
+    /// A key while the keyboard is on the row `current`, kNoRow for none, and on the item `focused` of the
+    /// selected row, empty for none. False when it means nothing here.
+    bool OnKey(Key key, TreeRow current, const std::string& focused);
+
+  private:
+    bool ClickFirst(TreeRow row, std::initializer_list<const char*> items);
+    void Step(TreeRow from, bool down);
+    void Fold(TreeRow row, bool open);
+    void Press(TreeRow row, const std::string& focused);
+    void Insert(TreeRow row);
+
+    TreeWidget& tree_;
+    Ways ways_;
+};
+
+}  // namespace Tarvik::Seaplan
