@@ -27,5 +27,5 @@ configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/tarvikConfig.cmake.in 
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/tarvikConfigVersion.cmake VERSION ${version}
   COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tarvikConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/tarvikConfigVersion.cmake
-  ${PROJECT_SOURCE_DIR}/cmake/PluginExports.cmake
+  ${PROJECT_SOURCE_DIR}/cmake/PluginExports.cmake ${PROJECT_SOURCE_DIR}/cmake/plugin.map
   DESTINATION ${SEAPLAN_PACKAGE_DIR} COMPONENT sdk)
