@@ -322,10 +322,14 @@ TEST_F(PlanServiceTest, FailedSaveTakesVoyageAndNewCategoryBack) {
     host.Reply(1, kRouteAb);
     host.Reply(4, R"({eid:0,ci:"11"})");
     host.Reply(5, R"({eid:0,vi:"22"})");
-    host.Reply(5, "{eid:0}");
-    host.Reply(4, "{eid:0}");
+    for (int step = 0; step < 2; ++step) {  // into the bin, then away
+        host.Reply(5, "{eid:0}");
+        host.Reply(4, "{eid:0}");
+    }
     ExpectFailure(Interface::PlanNotSaved);
+    EXPECT_EQ(host.TextsOf(5).at(1), R"({vi:"22",type:"2"})");
     EXPECT_EQ(host.TextsOf(5).back(), R"({vi:"22",type:"4"})");
+    EXPECT_EQ(host.TextsOf(4).at(1), R"({ci:"11",type:"1"})");
     EXPECT_EQ(host.TextsOf(4).back(), R"({ci:"11",type:"3"})");
     EXPECT_EQ(store.categoryVoyages.at("11").at("22"), Destroyed);
     EXPECT_EQ(store.categoryStates.at("11"), Destroyed);
