@@ -162,6 +162,42 @@ TEST_F(TreeStateTest, ARenamedCategorysNewNameIsTaken) {
     EXPECT_TRUE(ctrl.Context().categoryNames.contains("Full")) << "a name once used stays taken";
 }
 
+TEST_F(TreeStateTest, TheRemarkMarkIsFoundAgainAfterEveryRebuild) {
+    desk.AddCategory("Full");
+    desk.AddVoyage("Full", {.name = "A"});
+    desk.AddVoyage("Full", {.name = "B"});
+    ctrl.ReloadTree();
+    ctrl.Remarks().Open(tree.Find("A"));
+    ctrl.RebuildCategory(CategoryId("Full"));
+    ctrl.SetRemarkMark(kNoRow, true);
+    EXPECT_EQ(Voyage("A").vrk, 1);
+    EXPECT_TRUE(Shows("A", Item::kVoyageRemark));
+    EXPECT_FALSE(Shows("B", Item::kVoyageRemark));
+    ctrl.ReloadTree();
+    ctrl.SetRemarkMark(kNoRow, false);
+    EXPECT_EQ(Voyage("A").vrk, 0);
+    EXPECT_TRUE(Shows("A", Item::kVoyageNoRemark));
+    ctrl.Remarks().Open(tree.Find("Full"));
+    ctrl.ReloadTree();
+    ctrl.SetRemarkMark(kNoRow, true);
+    EXPECT_EQ(desk.Category("Full").crk, 1);
+    EXPECT_TRUE(Shows("Full", Item::kCategoryRemark));
+}
+
+TEST_F(TreeStateTest, TheRemarkMarkIsKeptWhileItsRowIsInTheBin) {
+    desk.AddCategory("Full");
+    desk.AddVoyage("Full", {.name = "A"});
+    ctrl.ReloadTree();
+    ctrl.Remarks().Open(tree.Find("A"));
+    ASSERT_EQ(Click("A", Item::kDeleteVoyage), 1);
+    ctrl.SetRemarkMark(kNoRow, true);
+    EXPECT_EQ(Voyage("A").vrk, 1);
+    ctrl.ForgetAfterLogout();
+    Voyage("A").vrk = 0;
+    ctrl.SetRemarkMark(kNoRow, true);
+    EXPECT_EQ(Voyage("A").vrk, 0) << "another user's voyage of the same id is not meant";
+}
+
 TEST_F(TreeStateTest, AnEmptyCategoryIsStillEmptyAfterTheBin) {
     const std::string empty = desk.AddCategory("Empty", true);
     desk.AddCategory("Full");
