@@ -63,6 +63,9 @@ void SeaplanViewDlg::Toggle() {
 }
 
 void SeaplanViewDlg::Hide() {
+    // The name being typed is taken while its row, and the box that may tell what is wrong with it, can be
+    // seen.
+    p_.tree.CloseEditors();
     filter_.Hide();
     p_.window.Hide();
     p_.tree.OnViewShown(false);
@@ -77,6 +80,8 @@ void SeaplanViewDlg::ApplyLanguage() {
 
 void SeaplanViewDlg::OnLogout() {
     p_.voyages.ClearChart();
+    // What is being typed belongs to the user who goes.
+    p_.tree.Renaming().Abandon();
     p_.tree.Context().tree.DeleteAllItems();
     p_.store.Clear();
     Hide();

@@ -47,7 +47,7 @@ class SeaplanViewDlg final : public Core::TObject {
     void RequestHelp();
     void ApplyLanguage();
     /// A press on the panel's free surface.
-    void OnSurfacePressed() { p_.tree.HideEditors(); }
+    void OnSurfacePressed() { p_.tree.CloseEditors(); }
 
   private:
     void OnShowPanel(const Interface::PanelShow& show);

@@ -12,6 +12,21 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
+/// Notes at each message whether the window is still on show.
+class WatchingSink final : public Interface::SysMsgSink {
+  public:
+    explicit WatchingSink(const RecordingPanelWindow<PanelWindow>& window) : window_(window) { Set(this); }
+    Interface::SysMsgHandleRes SyncSendMsg(int, const std::u16string&, int, void*,
+                                           const std::u16string&) override {
+        visible.push_back(window_.visible);
+        return Interface::SysMsgHandleRes::None;
+    }
+    std::vector<bool> visible;
+
+  private:
+    const RecordingPanelWindow<PanelWindow>& window_;
+};
+
 class SeaplanViewDlgTest : public TreeFixture {
   protected:
     RecordingPanelWindow<PanelWindow> window;
@@ -26,6 +41,18 @@ class SeaplanViewDlgTest : public TreeFixture {
     std::string AddVessel(const std::string& vi) {
         const char* answer = Interface::Call(Interface::Bus::AddVessel, &vi);
         return answer == nullptr ? "ok" : answer;
+    }
+    /// The panel with a category's name under the hand; `typed` stands in the box.
+    void TypeIn(const std::string& category, const std::string& typed) {
+        if (desk.store.categories.empty()) {
+            desk.AddCategory(category);
+        }
+        if (!window.visible) {
+            Toggle();
+        }
+        Click(category, Item::kRenameCategory);
+        ASSERT_TRUE(box.open);
+        Type(typed);
     }
     long Loads() const { return desk.Count(Ask::kLoad); }
     std::size_t Timers() const { return desk.timer.Running(); }
@@ -190,6 +217,44 @@ TEST_F(SeaplanViewDlgTest, TheFilterKeepsItsTickAndShowsTheRecycleBin) {
     EXPECT_EQ(filterPopup.Ticked(), std::nullopt) << "a failed load leaves the tick as it was pressed";
     panel.Hide();
     EXPECT_FALSE(filterPopup.visible);
+}
+
+TEST_F(SeaplanViewDlgTest, APressOnThePanelTakesTheNameBeingTyped) {
+    TypeIn("Full", "Tankers");
+    panel.OnSurfacePressed();
+    EXPECT_FALSE(box.open);
+    EXPECT_EQ(desk.Count(Ask::kRenameCategory, "Tankers"), 1);
+    EXPECT_NE(tree.Find("Tankers"), kNoRow);
+}
+
+TEST_F(SeaplanViewDlgTest, ClosingThePanelTakesTheNameBeingTyped) {
+    TypeIn("Full", "Tankers");
+    panel.Hide();
+    EXPECT_EQ(desk.Count(Ask::kRenameCategory, "Tankers"), 1);
+    TypeIn("Tankers", "Bulkers");
+    Toggle();
+    EXPECT_EQ(desk.Count(Ask::kRenameCategory, "Bulkers"), 1) << "the chart's button closes too";
+    EXPECT_FALSE(window.visible);
+}
+
+TEST_F(SeaplanViewDlgTest, ARefusedNameIsToldWhileThePanelIsStillThere) {
+    desk.AddCategory("Taken");
+    TypeIn("Full", "Taken");
+    WatchingSink sink(window);
+    panel.Hide();
+    Interface::SysMsgSink::Set(&messages);
+    EXPECT_EQ(sink.visible, (std::vector<bool>{true}));
+    EXPECT_FALSE(window.visible);
+}
+
+TEST_F(SeaplanViewDlgTest, LogoutAndReloadDropTheNameBeingTyped) {
+    TypeIn("Full", "Tankers");
+    Interface::Raise(Interface::Bus::Logout);
+    EXPECT_FALSE(box.open);
+    TypeIn("Full", "Tankers");
+    ctrl.ReloadTree();
+    EXPECT_FALSE(box.open);
+    EXPECT_EQ(desk.Count(Ask::kRenameCategory), 0);
 }
 
 TEST_F(SeaplanViewDlgTest, HelpNamesItsTopic) {

@@ -50,9 +50,14 @@ class TreeFixture : public ::testing::Test {
     bool Shows(const std::string& text, const char* item) const {
         return tree.IsItemVisible(tree.Find(text), item);
     }
+    /// Types into the open box.
+    void Type(const std::string& name) {
+        box.text = name;
+        ctrl.Renaming().OnTyped(name);
+    }
     /// Types a name into the open box and commits it.
     int Rename(const std::string& name) {
-        box.text = name;
+        Type(name);
         return ctrl.Renaming().Commit();
     }
     /// How often a voyage's lines were taken off the chart.

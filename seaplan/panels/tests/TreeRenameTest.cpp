@@ -89,12 +89,28 @@ TEST_F(TreeFixture, ARefusedRenameKeepsTheRowsText) {
     EXPECT_NE(tree.Find("Full"), kNoRow);
 }
 
+TEST_F(TreeFixture, ALongNameThatWasOnlyLookedAtStaysWithoutAWord) {
+    const std::string wide = "A name of more than twenty";
+    const std::string quoted = "It's";
+    desk.AddCategory("Full");
+    desk.AddVoyage("Full", {.name = wide});
+    desk.AddVoyage("Full", {.name = quoted});
+    ctrl.ReloadTree();
+    Click(wide, Item::kRenameVoyage);
+    EXPECT_EQ(box.text, wide);
+    EXPECT_EQ(ctrl.Renaming().Commit(), -13);
+    Click(quoted, Item::kRenameVoyage);
+    EXPECT_EQ(ctrl.Renaming().Commit(), -13);
+    EXPECT_TRUE(messages.messages.empty());
+    EXPECT_EQ(desk.Count(Ask::kRenameVoyage), 0);
+}
+
 TEST_F(TreeFixture, ANameStillOpenIsTakenBeforeTheNextBoxOpens) {
     desk.AddCategory("Full");
     desk.AddVoyage("Full", {.name = "A"});
     ctrl.ReloadTree();
     Click("A", Item::kRenameVoyage);
-    box.text = "Atlantic";
+    Type("Atlantic");
     Click("Full", Item::kRenameCategory);
     EXPECT_NE(tree.Find("Atlantic"), kNoRow);
     EXPECT_TRUE(box.open);

@@ -60,15 +60,13 @@ class RecordingTextBox final : public TextBox {
     int limit = 0;
     bool open = false;
 
-    void Show(const Rect& at, const std::string& shown, int maxUnits) override {
+    void Show(const Rect& at, const std::string& shown, std::size_t mostTyped) override {
         place = at;
         text = shown;
-        limit = maxUnits;
+        limit = static_cast<int>(mostTyped);
         open = true;
     }
     void Hide() override { open = false; }
-    bool IsVisible() const override { return open; }
-    std::string Text() const override { return text; }
 };
 
 /// The vessel box as the test sees it.

@@ -62,7 +62,7 @@ void SeaplanTreeCtrl::OnViewShown(bool shown) {
         tracks_.MarkAll();
         return;
     }
-    HideEditors();
+    CloseEditors();
     parts_.context.chartMarks.clear();
     parts_.context.voyages.ClearChart();
 }
@@ -84,8 +84,8 @@ int SeaplanTreeCtrl::SetSortKey(const std::string& ci, int sortKey) {
     return RebuildCategory(ci) == 0 ? 0 : -3;
 }
 
-void SeaplanTreeCtrl::HideEditors() {
-    parts_.rename.Hide();
+void SeaplanTreeCtrl::CloseEditors() {
+    parts_.rename.Commit();
     sortPanel_.Hide();
     vessels_.Editor().Hide();
 }
@@ -94,7 +94,9 @@ void SeaplanTreeCtrl::ForgetAfterLogout() {
     // The records that the rows point to are gone.
     parts_.context.tree.DeleteAllItems();
     parts_.context.categorySorts.clear();
-    HideEditors();
+    parts_.rename.Abandon();
+    parts_.remark.Open(kNoRow);
+    CloseEditors();
     parts_.context.chartMarks.clear();
     parts_.selection.Forget();
 }

@@ -39,7 +39,8 @@ class SeaplanTreeCtrl {
     int SetShowDeleted(bool shown);
     /// -1 empty id; -2 no sort state; -3 rebuild failed.
     int SetSortKey(const std::string& ci, int sortKey);
-    void HideEditors();
+    /// Takes the name being typed, and closes all that is open over the rows.
+    void CloseEditors();
     void ForgetAfterLogout();
     void ApplyLanguage();
 

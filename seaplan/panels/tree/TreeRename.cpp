@@ -17,7 +17,6 @@ constexpr int kLowestEditorTop = 366;
 
 void TreeRename::Begin(TreeRow row, bool isVoyage) {
     Commit();
-    row_ = row;
     isVoyage_ = isVoyage;
     const Rect place = c_.tree.GetItemRect(row);
     const std::string text = c_.tree.GetItemText(row);
@@ -29,30 +28,35 @@ void TreeRename::Begin(TreeRow row, bool isVoyage) {
     const int top = place.top + (isVoyage ? 2 : 1);
     const int width = isVoyage ? 180 : 200;
     constexpr int kHeight = 22;
-    box_.Show({left, top, left + width, top + kHeight}, text,
-              isVoyage ? kVoyageNameWidth : kCategoryNameWidth);
+    field_ = TextField(static_cast<std::size_t>(isVoyage ? kVoyageNameWidth : kCategoryNameWidth));
+    field_.Open(row, text);
+    box_.Show({left, top, left + width, top + kHeight}, text, field_.Limit());
 }
 
 void TreeRename::Abandon() {
-    row_ = kNoRow;
+    field_ = TextField(0);
     box_.Hide();
 }
 
 int TreeRename::Commit() {
-    if (!box_.IsVisible()) {
+    if (!field_.IsOpen()) {
         return 0;
     }
-    const std::string typed = box_.Text();
-    box_.Hide();
-    if (typed.empty()) {
+    const TextField typed = field_;
+    Abandon();
+    if (typed.Text().empty()) {
         return -1;
     }
-    const std::string name = NormalizeName(typed);
+    // A name that was only looked at stays as it is, however wide.
+    if (typed.Untouched()) {
+        return isVoyage_ ? -13 : -7;
+    }
+    const std::string name = NormalizeName(typed.Text());
     if (name.empty()) {
         c_.boxes.Notice(TextId::IDS_TREE_SHOWVISIBLE);
         return -2;
     }
-    return isVoyage_ ? CommitVoyage(name) : CommitCategory(name);
+    return isVoyage_ ? CommitVoyage(typed.Row(), name) : CommitCategory(typed.Row(), name);
 }
 
 bool TreeRename::WidthAccepted(const std::string& name, int limit) {
@@ -75,11 +79,11 @@ bool TreeRename::Taken(const std::map<std::string, int>& names, const std::strin
     return true;
 }
 
-int TreeRename::CommitCategory(const std::string& name) {
+int TreeRename::CommitCategory(TreeRow row, const std::string& name) {
     if (!WidthAccepted(name, kCategoryNameWidth)) {
         return -4;
     }
-    VoyCategory* category = c_.CategoryOf(row_);
+    VoyCategory* category = c_.CategoryOf(row);
     if (category == nullptr) {
         return -5;
     }
@@ -93,15 +97,15 @@ int TreeRename::CommitCategory(const std::string& name) {
         return -8;
     }
     c_.categoryNames[name] = InUse;
-    c_.tree.SetItemText(row_, name);
-    return unfold_(row_) == 0 ? 0 : -9;
+    c_.tree.SetItemText(row, name);
+    return unfold_(row) == 0 ? 0 : -9;
 }
 
-int TreeRename::CommitVoyage(const std::string& name) {
+int TreeRename::CommitVoyage(TreeRow row, const std::string& name) {
     if (!WidthAccepted(name, kVoyageNameWidth)) {
         return -10;
     }
-    VoyInfo* voyage = c_.VoyageOf(row_);
+    VoyInfo* voyage = c_.VoyageOf(row);
     if (voyage == nullptr) {
         return -11;
     }
@@ -115,7 +119,7 @@ int TreeRename::CommitVoyage(const std::string& name) {
         return -14;
     }
     c_.voyageNames[name] = InUse;
-    c_.tree.SetItemText(row_, name);
+    c_.tree.SetItemText(row, name);
     return 0;
 }
 

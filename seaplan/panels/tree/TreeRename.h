@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 
+#include "seaplan/panels/editors/TextField.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/window/TextBox.h"
 
@@ -20,24 +21,25 @@ class TreeRename {
     /// Opens the box over a row, after the name in an open one was taken. A row below the part of the tree
     /// where the box fits keeps its present name.
     void Begin(TreeRow row, bool isVoyage);
-    /// Takes the typed name. 0 also without an open box; -1 empty; -2 nothing visible; category: -4 too wide,
-    /// -5, -6 no record, -7 name taken, -8 server, -9 unfolding; voyage: -10 to -14 likewise.
+    /// The box's text is this now.
+    void OnTyped(const std::string& text) { field_.SetText(text); }
+    /// Takes the typed name and closes the box. 0 also without an open box; -1 empty; -2 nothing visible;
+    /// category: -4 too wide, -5, -6 no record, -7 name taken or untouched, -8 server, -9 unfolding; voyage:
+    /// -10 to -14 likewise.
     int Commit();
-    /// Closes the box without a change.
-    void Hide() { box_.Hide(); }
-    /// The same, and the row is forgotten.
+    /// Closes the box without a change and forgets the row.
     void Abandon();
 
   private:
-    int CommitCategory(const std::string& name);
-    int CommitVoyage(const std::string& name);
+    int CommitCategory(TreeRow row, const std::string& name);
+    int CommitVoyage(TreeRow row, const std::string& name);
     bool WidthAccepted(const std::string& name, int limit);
     bool Taken(const std::map<std::string, int>& names, const std::string& name, const std::string& present);
 
     TreeContext& c_;
     TextBox& box_;
     std::function<int(TreeRow)> unfold_;
-    TreeRow row_ = kNoRow;
+    TextField field_{0};
     bool isVoyage_ = false;
 };
 

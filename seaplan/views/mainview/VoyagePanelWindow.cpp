@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
@@ -26,7 +27,10 @@ VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
 void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
     vessels_->Attach(&tree->Vessels().Editor());
     SetReports({[panel] { panel->RequestHelp(); }, [panel] { panel->Hide(); },
-                [panel] { panel->OnSurfacePressed(); }});
+                [this, panel] {
+                    // Taking a name may put a box up, which must not begin inside the press.
+                    QTimer::singleShot(0, this, [panel] { panel->OnSurfacePressed(); });
+                }});
     QObject::connect(filterButton_, &QToolButton::clicked, this, [panel] { panel->Filter().Toggle(); });
     QObject::connect(addButton_, &QToolButton::clicked, this, [panel] { panel->AddCategory(); });
     filter_->SetReport([panel](TextId id) { panel->Filter().OnChosen(id); });
@@ -35,6 +39,7 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
         {[tree](TreeRow row, bool beside) { tree->OnRowPressed(row, beside); },
          [tree](TreeRow row, const std::string& item) { tree->OnItemClicked(row, item); },
          [tree](Key key, TreeRow row, const std::string& item) { return tree->Keys().OnKey(key, row, item); },
+         [tree](const std::string& text) { tree->Renaming().OnTyped(text); },
          [tree] { tree->Renaming().Commit(); },
          [tree](const std::string& item) { return tree->HasCommand(item); }});
 }

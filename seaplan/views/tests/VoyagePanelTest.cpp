@@ -81,6 +81,34 @@ TEST_F(ViewsFixture, LeavingTheBoxTakesTheName) {
     EXPECT_NE(RowOf("Skagerrak"), kNoRow);
 }
 
+TEST_F(ViewsFixture, ALongNameIsShownWholeAndOnlyTypingIsLimited) {
+    const std::string wide = "A voyage of more than twenty";
+    desk.AddVoyage("Container 2024", {.name = wide});
+    OpenVoyage("North Sea");
+    ClickRow(wide);
+    ClickPart(wide, "Voyage_child_rename");
+    auto* editor = Find<QLineEdit>(Panel(), "renameEditor");
+    ASSERT_TRUE(editor->isVisible());
+    EXPECT_EQ(editor->text().toStdString(), wide);
+    QTest::keyClick(editor, Qt::Key_End);
+    QTest::keyClicks(editor, "x");
+    EXPECT_EQ(editor->text().toStdString(), wide) << "nothing more goes in";
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_EQ(desk.Count(Ask::kRenameVoyage), 0);
+    EXPECT_TRUE(messages.messages.empty());
+}
+
+TEST_F(ViewsFixture, APressOnTheSurfaceTakesTheName) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_child_rename");
+    auto* editor = Find<QLineEdit>(Panel(), "renameEditor");
+    QTest::keyClicks(editor, "Skagerrak");
+    QTest::mouseClick(&Panel(), Qt::LeftButton, {}, QPoint(5, Panel().height() - 5));
+    QApplication::processEvents();
+    EXPECT_FALSE(editor->isVisible());
+    EXPECT_NE(RowOf("Skagerrak"), kNoRow);
+}
+
 TEST_F(ViewsFixture, AClickUnfoldsACategoryAndAnotherFoldsIt) {
     Toggle();
     ClickRow("Container 2024");

@@ -4,27 +4,25 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QTimer>
-#include <utility>
 
 #include "seaplan/views/window/FloatingPanel.h"
+#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 
 RenameField::RenameField(QWidget* surface) : QLineEdit(surface) {
     setObjectName(QStringLiteral("renameEditor"));
     hide();
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
+        if (reports_.typed) {
+            reports_.typed(text.toStdString());
+        }
+    });
 }
 
-void RenameField::SetReports(std::function<void()> done, std::function<void()> leave) {
-    done_ = std::move(done);
-    leave_ = std::move(leave);
-}
-
-void RenameField::Show(const Rect& place, const std::string& text, int maxUnits) {
-    setMaxLength(maxUnits);
-    setText(QString::fromStdString(text));
+void RenameField::Show(const Rect& place, const std::string& text, std::size_t limit) {
+    PutWhole(*this, text, limit);
     setGeometry(ToQt(place));
-    open_ = true;
     ++opening_;
     show();
     raise();
@@ -33,30 +31,29 @@ void RenameField::Show(const Rect& place, const std::string& text, int maxUnits)
 }
 
 void RenameField::Hide() {
-    open_ = false;
     hide();
     clear();
 }
 
 void RenameField::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || !done_) {
+    if (!enter || !reports_.done) {
         QLineEdit::keyPressEvent(event);
         return;
     }
-    done_();
-    leave_();
+    reports_.done();
+    reports_.leave();
 }
 
 void RenameField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (!open_ || !done_ || event->reason() == Qt::PopupFocusReason) {
+    if (isHidden() || !reports_.done || event->reason() == Qt::PopupFocusReason) {
         return;
     }
     // Taking the name may put a message box up, which must not begin while the keyboard is on its way.
     QTimer::singleShot(0, this, [this, opening = opening_] {
-        if (open_ && opening == opening_) {
-            done_();
+        if (!isHidden() && opening == opening_) {
+            reports_.done();
         }
     });
 }

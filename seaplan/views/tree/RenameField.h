@@ -13,22 +13,22 @@ class RenameField final : public QLineEdit, public TextBox {
   public:
     /// `surface` is what the places are counted on.
     explicit RenameField(QWidget* surface);
-    /// Told that the name is to be taken; `leave` then puts the keyboard elsewhere.
-    void SetReports(std::function<void()> done, std::function<void()> leave);
+    struct Reports {
+        std::function<void(const std::string&)> typed;
+        std::function<void()> done;   ///< the name is to be taken
+        std::function<void()> leave;  ///< puts the keyboard elsewhere, after Enter
+    };
+    void SetReports(Reports reports) { reports_ = std::move(reports); }
 
-    void Show(const Rect& place, const std::string& text, int maxUnits) override;
+    void Show(const Rect& place, const std::string& text, std::size_t limit) override;
     void Hide() override;
-    bool IsVisible() const override { return open_; }
-    std::string Text() const override { return text().toStdString(); }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    std::function<void()> done_;
-    std::function<void()> leave_;
-    bool open_ = false;
+    Reports reports_;
     int opening_ = 0;  ///< number of the opening, by which a late report knows its own
 };
 

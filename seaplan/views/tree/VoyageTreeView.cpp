@@ -42,19 +42,17 @@ VoyageTreeView::VoyageTreeView(QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMouseTracking(true);
     rename_ = new RenameField(viewport());
-    rename_->SetReports(
-        [this] {
-            if (reports_.renameDone) {
-                reports_.renameDone();
-            }
-        },
-        [this] { setFocus(); });
     sortPopup_ = new ChoiceBox(
         this, ChoiceBox::Kind::Radios, nullptr,
         {{TextId::IDS_VOY_SORTBYNAME, "sortByName"}, {TextId::IDS_VOY_SORTBYDATE, "sortByDate"}});
 }
 
 VoyageTreeView::~VoyageTreeView() = default;
+
+void VoyageTreeView::SetReports(Reports reports) {
+    reports_ = std::move(reports);
+    rename_->SetReports({reports_.renameTyped, reports_.renameDone, [this] { setFocus(); }});
+}
 
 void VoyageTreeView::ApplyTexts() {
     setAccessibleName(ViewText(TextId::IDS_VIEW_TREE));

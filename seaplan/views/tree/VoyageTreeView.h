@@ -32,10 +32,11 @@ class VoyageTreeView : public QTreeView {
         std::function<void(TreeRow, const std::string&)> clicked;
         /// A key while the keyboard is on a row and an item; false when it means nothing.
         std::function<bool(Key, TreeRow, const std::string&)> key;
+        std::function<void(const std::string&)> renameTyped;
         std::function<void()> renameDone;
         std::function<bool(const std::string&)> hasCommand;
     };
-    void SetReports(Reports reports) { reports_ = std::move(reports); }
+    void SetReports(Reports reports);
     TreeRows& Rows();
     TreeWidget& Widget();
     TextBox& RenameBox();

@@ -13,19 +13,19 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
+#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr int kMostCharacters = 50;
+constexpr std::size_t kMostCharacters = 50;
 constexpr int kListBelowTop = 22;
 
 }  // namespace
 
 VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new QLineEdit(tree)) {
     box_->setObjectName(QStringLiteral("vesselEditor"));
-    box_->setMaxLength(kMostCharacters);
     box_->hide();
     box_->installEventFilter(this);
     // A window of its own, as it may be higher than what is left of the tree; it never takes the keyboard.
@@ -62,7 +62,7 @@ void VesselBox::ApplySkin() {
 
 void VesselBox::ShowBox(const Rect& inTree, const std::string& text) {
     box_->setGeometry(inTree.left, inTree.top, inTree.right - inTree.left, inTree.bottom - inTree.top);
-    box_->setText(QString::fromStdString(text));
+    PutWhole(*box_, text, kMostCharacters);
     open_ = true;
     box_->show();
     box_->raise();
