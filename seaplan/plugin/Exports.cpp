@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/plugin/Exports.h"
+
 #include <tarvik/core/Exports.h>
 #include <tarvik/core/TrvKernel.h>
 
 #include "seaplan/plugin/CompositionRoot.h"
-#include "seaplan/plugin/MainViewFactory.h"
-#include "seaplan/plugin/PluginRecord.h"
 
 // None of these fails, and nothing depends on their order but `Load` coming before use.
 

@@ -9,7 +9,7 @@
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
-#include "seaplan/panels/tree/NameRules.h"
+#include "seaplan/panels/tree/TreeRules.h"
 #include "seaplan/plugin/PlanAnswer.h"
 
 namespace Tarvik::Seaplan {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/PluginRecord.h"
+#include "seaplan/plugin/Exports.h"
 
 namespace Tarvik::Seaplan {
 

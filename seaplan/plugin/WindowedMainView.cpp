@@ -2,7 +2,7 @@
 #include <QCursor>
 
 #include "seaplan/plugin/CompositionRoot.h"
-#include "seaplan/plugin/MainViewFactory.h"
+#include "seaplan/plugin/Exports.h"
 #include "seaplan/views/ViewsFactory.h"
 
 namespace Tarvik::Seaplan {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/plugin/MainViewFactory.h"
+#include "seaplan/plugin/Exports.h"
 
 namespace Tarvik::Seaplan {
 

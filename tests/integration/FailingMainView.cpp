@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <stdexcept>
 
-#include "seaplan/plugin/MainViewFactory.h"
+#include "seaplan/plugin/Exports.h"
 
 namespace Tarvik::Seaplan {
 

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
-#include "seaplan/panels/tree/VoyageOrder.h"
+#include "seaplan/panels/tree/TreeRules.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,7 +3,7 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/tree/ItemNames.h"
-#include "seaplan/panels/tree/TreeCounts.h"
+#include "seaplan/panels/tree/RowTexts.h"
 
 namespace Tarvik::Seaplan {
 

@@ -2,7 +2,6 @@
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 
 #include "seaplan/panels/tree/RowTexts.h"
-#include "seaplan/panels/tree/TreeCounts.h"
 
 namespace Tarvik::Seaplan {
 

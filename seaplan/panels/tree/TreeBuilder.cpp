@@ -4,8 +4,7 @@
 #include "seaplan/calculation/Units.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
-#include "seaplan/panels/tree/TreeCounts.h"
-#include "seaplan/panels/tree/VoyageOrder.h"
+#include "seaplan/panels/tree/TreeRules.h"
 
 namespace Tarvik::Seaplan {
 

@@ -7,19 +7,11 @@
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/VoyageStore.h"
+#include "seaplan/panels/tree/TreeRules.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 #include "seaplan/panels/window/Boxes.h"
 
 namespace Tarvik::Seaplan {
-
-enum SortKey : int { SortByName = 0, SortByDate = 1 };
-enum SortDirection : int { Descending = 0, Ascending = 1 };
-
-/// How the voyages of one category are ordered.
-struct TreeSortState {
-    int sortKey = SortByName;
-    int direction = Ascending;
-};
 
 enum DrawState : int { OnChart = 2, OffChart = 3 };
 

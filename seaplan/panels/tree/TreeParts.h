@@ -14,6 +14,24 @@
 
 namespace Tarvik::Seaplan {
 
+/// What the tree asks of the port call panel.
+class PortCallOpener {
+  public:
+    virtual ~PortCallOpener() = default;
+    /// Every click on a voyage's row sets the voyage of the next opening.
+    virtual void SetVoyage(const std::string& vi) = 0;
+    /// Fills the panel from the voyage; negative on failure.
+    virtual int FillForVoyage(int mode) = 0;
+    /// Empties the panel to six rows.
+    virtual void Reset() = 0;
+    /// Puts the panel beside the tree and shows it.
+    virtual void ShowBesideTree() = 0;
+    /// Fills the panel with a fresh correction from AIS, ready to be recalculated; negative on failure.
+    virtual int ShowAisCorrection() = 0;
+    /// Time of that correction, "%Y-%m-%d %H:%M:%S" in the user's zone.
+    virtual void SetCorrectionTime(const std::string& time) = 0;
+};
+
 /// What the tree stands on; all of it outlives it.
 struct TreeCollaborators {
     VoyageStore& store;

@@ -4,7 +4,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/tree/NameRules.h"
+#include "seaplan/panels/tree/TreeRules.h"
 
 namespace Tarvik::Seaplan {
 

@@ -2,7 +2,7 @@
 #include "seaplan/panels/tree/VoyageCommands.h"
 
 #include "seaplan/panels/tree/ItemNames.h"
-#include "seaplan/panels/tree/TreeCounts.h"
+#include "seaplan/panels/tree/RowTexts.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tree/PortCallOpener.h"
 #include "seaplan/panels/tree/TreeParts.h"
 
 namespace Tarvik::Seaplan {

@@ -3,7 +3,7 @@
 
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/plugin/PluginRecord.h"
+#include "seaplan/plugin/Exports.h"
 
 namespace Tarvik::Seaplan {
 
