@@ -4,6 +4,7 @@
 #include <QRadioButton>
 
 #include "seaplan/views/tests/ViewsFixture.h"
+#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 
@@ -213,6 +214,24 @@ TEST_F(ViewsFixture, TheMenuOfARowHasItsCommands) {
     ASSERT_NE(open, nullptr);
     open->trigger();
     EXPECT_TRUE(PortCalls().isVisible());
+}
+
+TEST_F(ViewsFixture, ARightPressIsFirstAPress) {
+    Toggle();
+    ClickRow("Container 2024");
+    for (const SubItem& part : Tree().PartsOf(RowOf("Far East 12"))) {
+        if (part.name == "name") {
+            QContextMenuEvent event(QContextMenuEvent::Mouse, part.rect.center(),
+                                    Tree().viewport()->mapToGlobal(part.rect.center()));
+            QApplication::sendEvent(Tree().viewport(), &event);
+        }
+    }
+    EXPECT_EQ(Rows().Selected(), RowOf("Far East 12"));
+    auto* menu = Tree().findChild<QMenu*>("rowMenu");
+    ASSERT_NE(menu, nullptr);
+    for (QAction* action : menu->actions()) {
+        EXPECT_NE(action->text(), ViewText(TextId::IDS_TREE_SETPORTCALL)) << "the voyage has port calls";
+    }
 }
 
 TEST_F(ViewsFixture, TheFilterShowsTheRecycleBin) {

@@ -155,6 +155,10 @@ void VoyageTreeView::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     const TreeRow current = rows_->Selected() != kNoRow ? rows_->Selected() : RowModel::RowOf(currentIndex());
     const TreeRow row = byKey ? current : RowAt(event->pos());
+    // The menu offers what the row has once it was pressed: its port calls may not have been fetched yet.
+    if (!byKey && reports_.pressed) {
+        reports_.pressed(row, false);
+    }
     const TreeRowState* state = rows_->Row(row);
     if (state == nullptr) {
         return;
