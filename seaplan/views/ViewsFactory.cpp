@@ -19,7 +19,7 @@ class ControlledViews {
         : voyages_(given.voyages),
           views_({*given.store, *given.catalog, *given.voyages, *given.ports, mainView}) {
         voyages_->SetTreeVisible([this] { return views_.TreeVisible(); });
-        voyages_->Module().SetRouteListener([this] { views_.PortCalls().Commands().OnRouteChosen(); });
+        voyages_->Module().SetRouteListener([this] { views_.OnRouteChosen(); });
         // Windows must be gone before the application object is, and panels with their windows.
         qAddPostRoutine(DestroyViews);
         if (mainView != nullptr) {

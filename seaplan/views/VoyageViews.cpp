@@ -5,26 +5,28 @@ namespace Tarvik::Seaplan {
 
 VoyageViews::VoyageViews(Parts parts)
     : voyageWindow_(new VoyagePanelWindow(parts.mainView)),
-      portCallWindow_(new PortCallWindow(parts.mainView)),
       tree_({parts.store, parts.catalog, parts.voyages, voyageWindow_->Tree().Widget(),
              voyageWindow_->Tree().RenameBox(), voyageWindow_->Vessels(), voyageWindow_->Tree().SortPopup()}),
-      portCalls_({parts.store, parts.catalog, parts.voyages, parts.ports, *portCallWindow_,
-                  [this] { return voyageWindow_ ? OnScreen(voyageWindow_->Tree()) : Rect(); }}),
+      portCalls_({[parts] { return new PortCallWindow(parts.mainView); },
+                  [this, parts](PortCallWindow& window) { return MakePortCalls(parts, window); }}),
       panel_({parts.store, parts.catalog, parts.voyages, *voyageWindow_, voyageWindow_->FilterPopup(), tree_,
-              &portCalls_}) {
-    tree_.SetPortCallPanel(&portCalls_);
-    portCalls_.SetSavedListener([this](const std::string& vi) { ShowSaved(vi); });
+              [this] { return portCalls_.Made(); }}) {
+    tree_.SetPortCallPanel([this] { return &portCalls_.Use(); });
     voyageWindow_->Attach(&panel_, &tree_);
-    portCallWindow_->Attach(&portCalls_);
     panel_.ApplyLanguage();
-    portCalls_.ApplyLanguage();
     panel_.RegisterHost();
-    portCalls_.RegisterHost();
 }
 
 VoyageViews::~VoyageViews() {
-    delete portCallWindow_;
     delete voyageWindow_;
+}
+
+std::unique_ptr<CPortCallPanelDlg> VoyageViews::MakePortCalls(const Parts& parts, PortCallWindow& window) {
+    auto panel = std::make_unique<CPortCallPanelDlg>(
+        PortCallDesk::Parts{parts.store, parts.catalog, parts.voyages, parts.ports, window,
+                            [this] { return voyageWindow_ ? OnScreen(voyageWindow_->Tree()) : Rect(); }});
+    panel->SetSavedListener([this](const std::string& vi) { ShowSaved(vi); });
+    return panel;
 }
 
 void VoyageViews::ShowSaved(const std::string& vi) {
@@ -33,13 +35,22 @@ void VoyageViews::ShowSaved(const std::string& vi) {
     panel_.RefreshVoyageRow(vi);
 }
 
+void VoyageViews::OnRouteChosen() {
+    if (CPortCallPanelDlg* panel = portCalls_.Made()) {
+        panel->Commands().OnRouteChosen();
+    }
+}
+
+PortCallWindow* VoyageViews::PortCallsWindow() {
+    portCalls_.Use();
+    return portCalls_.MadeWindow();
+}
+
 void VoyageViews::Restyle() {
     if (voyageWindow_) {
         voyageWindow_->ApplySkin();
     }
-    if (portCallWindow_) {
-        portCallWindow_->ApplySkin();
-    }
+    portCalls_.Restyle();
 }
 
 }  // namespace Tarvik::Seaplan

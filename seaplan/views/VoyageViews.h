@@ -2,16 +2,19 @@
 #pragma once
 
 #include <QPointer>
+#include <memory>
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
+#include "seaplan/views/window/PanelPlace.h"
 
 namespace Tarvik::Seaplan {
 
-/// All panels with their windows, tied to the bus while it lives. The main window owns the windows, so each
-/// may be gone before the panels.
+/// All panels with their windows, tied to the bus while it lives. The voyage panel is there from the start,
+/// each other one when it is first asked for: a panel with a window is one PanelPlace here. The main window
+/// owns the windows, so each may be gone before the panels.
 class VoyageViews final {
   public:
     struct Parts {
@@ -28,20 +31,23 @@ class VoyageViews final {
 
     SeaplanViewDlg& Panel() { return panel_; }
     SeaplanTreeCtrl& Tree() { return tree_; }
-    CPortCallPanelDlg& PortCalls() { return portCalls_; }
+    CPortCallPanelDlg& PortCalls() { return portCalls_.Use(); }
     VoyagePanelWindow* VoyageWindow() { return voyageWindow_; }
-    PortCallWindow* PortCallsWindow() { return portCallWindow_; }
+    /// Made now when it is not there yet.
+    PortCallWindow* PortCallsWindow();
+    /// Another route was chosen on the chart.
+    void OnRouteChosen();
     bool TreeVisible() const { return voyageWindow_ != nullptr && voyageWindow_->isVisible(); }
     /// Draws every window anew in the theme in force.
     void Restyle();
 
   private:
+    std::unique_ptr<CPortCallPanelDlg> MakePortCalls(const Parts& parts, PortCallWindow& window);
     void ShowSaved(const std::string& vi);
 
     QPointer<VoyagePanelWindow> voyageWindow_;
-    QPointer<PortCallWindow> portCallWindow_;
     SeaplanTreeCtrl tree_;
-    CPortCallPanelDlg portCalls_;
+    PanelPlace<CPortCallPanelDlg, PortCallWindow> portCalls_;
     SeaplanViewDlg panel_;
 };
 

@@ -86,8 +86,8 @@ void SeaplanViewDlg::OnLogout() {
     p_.store.Clear();
     Hide();
     p_.tree.ForgetAfterLogout();
-    if (p_.portCalls != nullptr) {
-        p_.portCalls->HideAfterLogout();
+    if (CPortCallPanelDlg* portCalls = p_.portCalls ? p_.portCalls() : nullptr) {
+        portCalls->HideAfterLogout();
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include <tarvik/bus/BindingList.h>
@@ -29,7 +30,8 @@ class SeaplanViewDlg final : public Core::TObject {
         PanelWindow& window;
         ChoicePopup& filterPopup;
         SeaplanTreeCtrl& tree;
-        CPortCallPanelDlg* portCalls;  ///< null while there is none
+        std::function<CPortCallPanelDlg*()>
+            portCalls;  ///< null while it is not made; empty where there is none
     };
     explicit SeaplanViewDlg(const Parts& parts);
 

@@ -3,10 +3,6 @@
 
 #include <utility>
 
-#include <tarvik/bus/Binding.h>
-#include <tarvik/bus/BusCall.h>
-#include <tarvik/bus/HostContract.h>
-
 namespace Tarvik::Seaplan {
 
 CPortCallPanelDlg::CPortCallPanelDlg(PortCallDesk::Parts parts)
@@ -17,11 +13,6 @@ CPortCallPanelDlg::CPortCallPanelDlg(PortCallDesk::Parts parts)
       commands_(desk_, editing_, corrected_, filling_),
       rows_(desk_, editing_) {
     desk_.ResetSheet();
-}
-
-void CPortCallPanelDlg::RegisterHost() {
-    switchLanguage_ =
-        Interface::Subscribe(Interface::Bus::SwitchLanguage, this, &CPortCallPanelDlg::ApplyLanguage);
 }
 
 void CPortCallPanelDlg::ApplyLanguage() {

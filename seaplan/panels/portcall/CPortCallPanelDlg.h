@@ -21,8 +21,6 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
   public:
     explicit CPortCallPanelDlg(PortCallDesk::Parts parts);
 
-    /// Follows the host's change of language.
-    void RegisterHost();
     /// Called with the id of a voyage after its schedule was saved.
     void SetSavedListener(std::function<void(const std::string&)> listener) {
         desk_.SetSavedListener(std::move(listener));
@@ -54,7 +52,6 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     VoyageFilling filling_;
     PanelCommands commands_;
     RowCommands rows_;
-    Interface::Binding switchLanguage_;
 };
 
 }  // namespace Tarvik::Seaplan

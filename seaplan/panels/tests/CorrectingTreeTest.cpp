@@ -31,7 +31,7 @@ class CorrectingTreeTest : public TreeFixture {
     Panel panel;
 
     CorrectingTreeTest() {
-        ctrl.SetPortCallPanel(&panel);
+        ctrl.SetPortCallPanel([this] { return &panel; });
         desk.AddCategory("Full");
         desk.AddVoyage("Full", {.name = "A", .calls = PanelDesk::Calls(1)});
         ctrl.ReloadTree();

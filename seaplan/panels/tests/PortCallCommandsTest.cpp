@@ -5,6 +5,7 @@
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/panels/tests/PortCallFixture.h"
+#include "seaplan/panels/window/PanelEvents.h"
 
 namespace Tarvik::Seaplan {
 
@@ -342,7 +343,7 @@ TEST_F(PortCallFixture, HelpNamesItsTopic) {
 }
 
 TEST_F(PortCallFixture, ALanguageSwitchRenewsCaptionAndButton) {
-    panel.RegisterHost();
+    const PanelEvents<CPortCallPanelDlg> events(panel);
     Open(kept);
     texts.prefix = u"zh ";
     Interface::Raise(Interface::Bus::SwitchLanguage);

@@ -22,12 +22,6 @@ SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
     voyageCommands_.merge(tracks_.Table());
 }
 
-void SeaplanTreeCtrl::SetPortCallPanel(PortCallOpener* panel) {
-    portCalls_ = panel;
-    voyages_.SetPortCallPanel(panel);
-    tracks_.SetPortCallPanel(panel);
-}
-
 int SeaplanTreeCtrl::ReloadTree() {
     TreeContext& c = parts_.context;
     // The rows point into records that the load replaces.
@@ -123,8 +117,8 @@ int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
         return failed;
     }
     const bool isCategory = parts_.context.IsCategoryRow(row);
-    if (!isCategory && portCalls_ != nullptr) {
-        portCalls_->SetVoyage(parts_.selection.Voyage().vi);
+    if (PortCallOpener* panel = isCategory ? nullptr : parts_.PortCalls()) {
+        panel->SetVoyage(parts_.selection.Voyage().vi);
     }
     const TreeCommands& commands = isCategory ? categoryCommands_ : voyageCommands_;
     const auto command = commands.find(item);

@@ -20,7 +20,7 @@ class SeaplanTreeCtrl {
     SeaplanTreeCtrl& operator=(const SeaplanTreeCtrl&) = delete;
 
     /// Without it the commands that open the panel fail.
-    void SetPortCallPanel(PortCallOpener* panel);
+    void SetPortCallPanel(PortCallSource panel) { parts_.portCalls = std::move(panel); }
 
     /// Loads from the server and makes every row anew. -1 not connected; -2 load; -3 rows; -4 statistics.
     int ReloadTree();
@@ -71,7 +71,6 @@ class SeaplanTreeCtrl {
     TreeKeys keys_;
     TreeCommands categoryCommands_;
     TreeCommands voyageCommands_;
-    PortCallOpener* portCalls_ = nullptr;
 };
 
 }  // namespace Tarvik::Seaplan

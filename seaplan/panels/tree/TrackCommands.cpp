@@ -92,16 +92,17 @@ int TrackCommands::Modify() {
         p_.context.boxes.Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
         return -2;
     }
-    if (portCalls_ == nullptr) {
+    PortCallOpener* panel = p_.PortCalls();
+    if (panel == nullptr) {
         return -39;
     }
     if (applied > 0) {
-        portCalls_->SetCorrectionTime(UserTime(voyage.lastPosTime));
+        panel->SetCorrectionTime(UserTime(voyage.lastPosTime));
     }
-    if (portCalls_->ShowAisCorrection() < 0) {
+    if (panel->ShowAisCorrection() < 0) {
         return -40;
     }
-    portCalls_->ShowBesideTree();
+    panel->ShowBesideTree();
     if (voyage.vr == 1) {
         p_.chart.LeaveAloneOnce(voyage.vi);
     }

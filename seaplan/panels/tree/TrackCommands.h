@@ -12,7 +12,6 @@ class TrackCommands {
     explicit TrackCommands(TreeParts& parts) : p_(parts) {}
 
     TreeCommands Table();
-    void SetPortCallPanel(PortCallOpener* panel) { portCalls_ = panel; }
     /// The rows of a freshly opened view show the tracks that are on.
     void MarkAll();
 
@@ -24,7 +23,6 @@ class TrackCommands {
     void MarkRow(TreeRow row);
 
     TreeParts& p_;
-    PortCallOpener* portCalls_ = nullptr;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -32,6 +32,9 @@ class PortCallOpener {
     virtual void SetCorrectionTime(const std::string& time) = 0;
 };
 
+/// Gives the port call panel, which may be made only then. Empty where there is none.
+using PortCallSource = std::function<PortCallOpener*()>;
+
 /// What the tree stands on; all of it outlives it.
 struct TreeCollaborators {
     VoyageStore& store;
@@ -61,6 +64,10 @@ struct TreeParts {
     RowSelection selection;
     TreeRename rename;
     RemarkMark remark;
+    PortCallSource portCalls;
+
+    /// The port call panel, null where there is none.
+    PortCallOpener* PortCalls() const { return portCalls ? portCalls() : nullptr; }
 };
 
 /// Commands by the name of their item. A command works on the current rows and answers 0 or the negative

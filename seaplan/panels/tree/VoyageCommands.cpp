@@ -31,19 +31,21 @@ int VoyageCommands::Unpin() {
 }
 
 int VoyageCommands::OpenPortCalls() {
-    if (portCalls_ == nullptr || portCalls_->FillForVoyage(-1) < 0) {
+    PortCallOpener* panel = p_.PortCalls();
+    if (panel == nullptr || panel->FillForVoyage(-1) < 0) {
         return -25;
     }
-    portCalls_->ShowBesideTree();
+    panel->ShowBesideTree();
     return 0;
 }
 
 int VoyageCommands::OpenEmptyPortCalls() {
-    if (portCalls_ == nullptr) {
+    PortCallOpener* panel = p_.PortCalls();
+    if (panel == nullptr) {
         return -26;
     }
-    portCalls_->Reset();
-    portCalls_->ShowBesideTree();
+    panel->Reset();
+    panel->ShowBesideTree();
     return 0;
 }
 

@@ -12,7 +12,6 @@ class VoyageCommands {
     explicit VoyageCommands(TreeParts& parts) : p_(parts) {}
 
     TreeCommands Table();
-    void SetPortCallPanel(PortCallOpener* panel) { portCalls_ = panel; }
 
   private:
     int Pin();
@@ -27,7 +26,6 @@ class VoyageCommands {
     int DropRow();
 
     TreeParts& p_;
-    PortCallOpener* portCalls_ = nullptr;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QAbstractButton>
+#include <QTest>
 #include <QWidget>
 #include <string>
 
@@ -80,7 +81,30 @@ TEST_F(ViewsFactoryTest, TheWindowsBelongToTheMainWindowAndStayHidden) {
     ASSERT_NE(Panel(), nullptr);
     EXPECT_TRUE(Panel()->isWindow());
     EXPECT_FALSE(Panel()->isVisible());
-    EXPECT_NE(mainView.findChild<QWidget*>("portCallPanel"), nullptr);
+}
+
+TEST_F(ViewsFactoryTest, ThePortCallWindowIsMadeWhenItIsFirstAskedFor) {
+    ASSERT_TRUE(Create());
+    for (int load = 0; load < 2; ++load) {
+        host.Reply(3, R"([{ci:"1",cn:"Tankers",cd:0,voys:[{vi:"7",vn:"Winter",vd:0}]}])");
+    }
+    Toggle();
+    EXPECT_EQ(mainView.findChild<QWidget*>("portCallPanel"), nullptr);
+    Interface::Raise(Interface::Bus::SwitchLanguage);
+    Interface::Raise(Interface::Bus::Logout);
+    EXPECT_EQ(mainView.findChild<QWidget*>("portCallPanel"), nullptr) << "nobody has asked for it yet";
+    Toggle();
+    VoyageTreeView& tree = static_cast<VoyagePanelWindow*>(Panel())->Tree();
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Down, Qt::Key_Return}) {
+        QTest::keyClick(&tree, key);
+    }
+    auto* portCalls = mainView.findChild<QWidget*>("portCallPanel");
+    ASSERT_NE(portCalls, nullptr);
+    EXPECT_TRUE(portCalls->isWindow());
+    EXPECT_EQ(portCalls->parentWidget(), &mainView);
+    RestyleViews();
+    Interface::Raise(Interface::Bus::Logout);
+    EXPECT_FALSE(portCalls->isVisible());
 }
 
 TEST_F(ViewsFactoryTest, AVoyageCanBeCorrectedByItsShipsPosition) {
