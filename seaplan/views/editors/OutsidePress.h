@@ -14,9 +14,14 @@ namespace Tarvik::Seaplan {
 /// goes on to where it fell.
 class OutsidePress final : public QObject {
   public:
-    /// `inside` is asked of the widget that was pressed; `pressed` hears of every press elsewhere.
-    OutsidePress(QObject* owner, std::function<bool(const QWidget&)> inside, std::function<void()> pressed)
-        : QObject(owner), inside_(std::move(inside)), pressed_(std::move(pressed)) {
+    /// `inside` is asked of the widget that was pressed; `pressed` hears of every press elsewhere, `released`
+    /// of the end of any press, before a click comes of it.
+    OutsidePress(QObject* owner, std::function<bool(const QWidget&)> inside, std::function<void()> pressed,
+                 std::function<void()> released = {})
+        : QObject(owner),
+          inside_(std::move(inside)),
+          pressed_(std::move(pressed)),
+          released_(std::move(released)) {
         qApp->installEventFilter(this);
     }
 
@@ -27,6 +32,8 @@ class OutsidePress final : public QObject {
             if (widget != nullptr && !inside_(*widget)) {
                 pressed_();
             }
+        } else if (event->type() == QEvent::MouseButtonRelease && released_) {
+            released_();
         }
         return false;
     }
@@ -34,6 +41,7 @@ class OutsidePress final : public QObject {
   private:
     std::function<bool(const QWidget&)> inside_;
     std::function<void()> pressed_;
+    std::function<void()> released_;
 };
 
 }  // namespace Tarvik::Seaplan

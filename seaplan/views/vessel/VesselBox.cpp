@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/vessel/VesselBox.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -13,6 +12,7 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
+#include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -46,7 +46,12 @@ VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new QLineEdit(tree)) {
             panel_->OnChosen(list_->row(item));
         }
     });
-    qApp->installEventFilter(this);
+    new OutsidePress(
+        this,
+        [this](const QWidget& widget) {
+            return &widget == box_ || &widget == list_ || list_->isAncestorOf(&widget);
+        },
+        [this] { OnPressedOutside(); }, [this] { OnReleased(); });
     ApplySkin();
 }
 
@@ -130,28 +135,22 @@ bool VesselBox::BoxKey(int key) {
     }
 }
 
-bool VesselBox::eventFilter(QObject* watched, QEvent* event) {
-    if (panel_ == nullptr) {
-        return false;
+void VesselBox::OnPressedOutside() {
+    if (panel_ != nullptr && open_) {
+        panel_->OnLeft();
     }
-    if (event->type() == QEvent::MouseButtonRelease && panel_->ClosedByPress()) {
+}
+
+void VesselBox::OnReleased() {
+    if (panel_ != nullptr && panel_->ClosedByPress()) {
         // The release may still become a click, which is told after it has been delivered.
         QTimer::singleShot(0, this, [this] { panel_->OnReleased(); });
     }
-    if (!open_) {
-        return false;
-    }
-    if (watched == box_ && event->type() == QEvent::KeyPress) {
-        return BoxKey(static_cast<QKeyEvent*>(event)->key());
-    }
-    if (event->type() != QEvent::MouseButtonPress) {
-        return false;
-    }
-    const auto* widget = qobject_cast<const QWidget*>(watched);
-    if (widget != nullptr && widget != box_ && widget != list_ && !list_->isAncestorOf(widget)) {
-        panel_->OnLeft();
-    }
-    return false;
+}
+
+bool VesselBox::eventFilter(QObject* watched, QEvent* event) {
+    return panel_ != nullptr && open_ && watched == box_ && event->type() == QEvent::KeyPress &&
+           BoxKey(static_cast<QKeyEvent*>(event)->key());
 }
 
 }  // namespace Tarvik::Seaplan

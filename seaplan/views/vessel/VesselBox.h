@@ -36,6 +36,8 @@ class VesselBox final : public QObject, public VesselView {
 
   private:
     bool BoxKey(int key);
+    void OnPressedOutside();
+    void OnReleased();
 
     VoyShipEditDlg* panel_ = nullptr;
     QLineEdit* box_;
