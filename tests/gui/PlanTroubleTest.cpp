@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <arpa/inet.h>
+#include <cstddef>
 #include <filesystem>
 #include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <gmock/gmock.h>
@@ -124,6 +127,45 @@ TEST(PlanTrouble, AServerElsewhereAsksForALogin) {
     const ClientTree client;
     auto start = client.Words({"--server", "http://127.0.0.1:1", "plan", "Rotterdam", "Hamburg"});
     ExpectTrouble(RunToEnd(start), {"Nobody is logged in", "SEAPLAN_USER"});
+}
+
+/// The client's window on a display, which cannot come up.
+Ended OpenWindow(const std::string& display) {
+    const ClientTree client;
+    auto start = client.Words({});
+    start.environment["DISPLAY"] = display;
+    start.environment["WAYLAND_DISPLAY"] = "";
+    start.environment["QT_QPA_PLATFORM"] = "xcb";
+    return RunToEnd(start);
+}
+
+/// A number that no display of this machine has.
+int FreeDisplay() {
+    return 10000 + getpid() % 50000;
+}
+
+TEST(DisplayTrouble, ADisplayThatIsNotThereEndsTheClientInOneLine) {
+    const std::string display = ":" + std::to_string(FreeDisplay());
+    const Ended ended = OpenWindow(display);
+    EXPECT_EQ(ended.signal, 0);
+    ExpectTrouble(ended, {"The display cannot be used", display, "plan PORT PORT"});
+}
+
+TEST(DisplayTrouble, ADisplayThatDoesNotAnswerEndsTheClientInOneLine) {
+    const int number = FreeDisplay();
+    const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    // The name is abstract: nothing of it stands in a folder.
+    const std::string name = std::string(1, '\0') + "/tmp/.X11-unix/X" + std::to_string(number);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::copy(name.begin(), name.end(), address.sun_path);
+    const auto size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + name.size());
+    ASSERT_EQ(bind(listener, reinterpret_cast<sockaddr*>(&address), size), 0);
+    ASSERT_EQ(listen(listener, 4), 0);
+    const Ended ended = OpenWindow(":" + std::to_string(number));
+    EXPECT_EQ(ended.signal, 0);
+    ExpectTrouble(ended, {"The display cannot be used", "it does not answer"});
+    close(listener);
 }
 
 }  // namespace

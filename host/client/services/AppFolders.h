@@ -56,4 +56,20 @@ class AppFolders {
     std::string plugins_;
 };
 
+/// Says who has a data folder open: the first claim holds it until its end, whatever ends the program.
+class FolderClaim {
+  public:
+    explicit FolderClaim(const std::string& folder);
+    ~FolderClaim();
+    FolderClaim(const FolderClaim&) = delete;
+    FolderClaim& operator=(const FolderClaim&) = delete;
+
+    /// Whether no other program has the folder open.
+    bool IsAlone() const { return alone_; }
+
+  private:
+    int file_;
+    bool alone_;
+};
+
 }  // namespace Tarvik::Client

@@ -16,6 +16,7 @@ struct SessionOptions {
     std::string timeZone;  ///< empty: the preference
     std::string theme;     ///< empty: the preference
     std::string server;    ///< an address or "embedded"; empty: the preference
+    bool alone = false;    ///< only where no other client has the data folder open
 };
 
 /// The program's words, sorted.

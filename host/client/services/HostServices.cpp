@@ -55,7 +55,7 @@ HostServices::HostServices(ServerLink& link, std::string localUser, std::string 
       localUser_(std::move(localUser)),
       timeZone_(std::move(timeZone)),
       complain_(std::move(complain)),
-      wasConnected_(link.IsConnected()) {
+      watch_(link.IsConnected()) {
     Util::Clock::SetLocalZone(timeZone_);
     OfferAll();
 }
@@ -79,27 +79,20 @@ void HostServices::LogOut() {
     Interface::Raise(Bus::Logout);
     link_->LogOut();
     lastFailure_.clear();
-    NoteConnection();
+    watch_.NoteLogin(link_->IsConnected());
 }
 
 void HostServices::SetLink(ServerLink& link) {
     Interface::Raise(Bus::Logout);
     link_ = &link;
     lastFailure_.clear();
-    NoteConnection();
+    watch_.NoteLogin(link_->IsConnected());
 }
 
 void HostServices::NoteFailure(const std::string& failure) {
     lastFailure_ = failure;
     if (!failure.empty() && complain_) {
         complain_(failure);
-    }
-}
-
-void HostServices::NoteConnection() {
-    const bool now = link_->IsConnected();
-    if (std::exchange(wasConnected_, now) != now && changed_) {
-        changed_();
     }
 }
 
@@ -110,8 +103,11 @@ const unsigned char* HostServices::OnConnected() {
 
 void HostServices::OnLogin() {
     std::string error;
+    const bool before = link_->IsConnected();
     NoteFailure(link_->Connect(error) ? std::string() : error);
-    NoteConnection();
+    if (link_->IsConnected() != before) {
+        watch_.NoteLogin(!before);
+    }
 }
 
 const std::string* HostServices::OnUser() {
@@ -125,7 +121,12 @@ VoyServerRequest* HostServices::OnExchange(const VoyServerRequest& request) {
     }
     const std::string text = link_->Exchange(User(), request);
     NoteFailure(text.empty() ? link_->Failure() : RefusalOf(text));
-    NoteConnection();
+    // A login that is over is an answer too: the server gave it.
+    if (text.empty() && link_->IsConnected()) {
+        watch_.NoteSilence(lastFailure_);
+    } else {
+        watch_.NoteAnswer(link_->IsConnected());
+    }
     return text.empty() ? nullptr : MakeReply(request, text);
 }
 

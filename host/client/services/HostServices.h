@@ -8,6 +8,7 @@
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/ServerRequest.h>
 
+#include "host/client/services/ConnectionWatch.h"
 #include "host/client/services/ServerLink.h"
 
 namespace Tarvik::Client {
@@ -35,13 +36,12 @@ class HostServices : public Core::TObject {
     void LogOut();
     /// Logs all plug-ins out and takes another server into use.
     void SetLink(ServerLink& link);
-    /// `changed` is called when a connection was made or lost.
-    void OnConnectionChange(std::function<void()> changed) { changed_ = std::move(changed); }
+    /// The connection as the last request showed it; tells whoever asks for its changes.
+    ConnectionWatch& Watch() { return watch_; }
 
   private:
     void OfferAll();
     void NoteFailure(const std::string& failure);
-    void NoteConnection();
     const unsigned char* OnConnected();
     void OnLogin();
     const std::string* OnUser();
@@ -52,11 +52,10 @@ class HostServices : public Core::TObject {
     std::string localUser_;
     std::string timeZone_;
     std::function<void(const std::string&)> complain_;
-    std::function<void()> changed_;
     std::string lastFailure_;
     std::string user_;  ///< what the last asker of the user was given
     unsigned char connected_ = 0;
-    bool wasConnected_;
+    ConnectionWatch watch_;
     Interface::BindingList bindings_;
 };
 

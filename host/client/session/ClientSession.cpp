@@ -23,7 +23,10 @@ constexpr const char* kLocalUser = "local";
 }  // namespace
 
 ClientSession::ClientSession(const AppFolders& folders, const SessionOptions& options)
-    : folders_(folders), log_(folders.Data() + "/seaplan.log", kLogBytes, options.verbose), busLog_(log_) {}
+    : folders_(folders),
+      claim_(folders.Data()),
+      log_(folders.Data() + "/seaplan.log", kLogBytes, options.verbose),
+      busLog_(log_) {}
 
 std::unique_ptr<ClientSession> ClientSession::Open(const SessionOptions& options, std::string& error) {
     const AppFolders folders(ProgramFolder(), options.dataFolder);
@@ -31,6 +34,11 @@ std::unique_ptr<ClientSession> ClientSession::Open(const SessionOptions& options
         return nullptr;
     }
     std::unique_ptr<ClientSession> session(new ClientSession(folders, options));
+    if (options.alone && !session->IsAlone()) {
+        error = "Seaplan is open already with the data folder " + folders.Data() +
+                ". Use its window, or name another folder with --data DIR.";
+        return nullptr;
+    }
     if (!session->Start(options, error)) {
         return nullptr;
     }

@@ -7,11 +7,11 @@
 
 #include "host/client/plugins/PluginLoader.h"
 #include "host/client/services/AppFolders.h"
+#include "host/client/services/CommandLine.h"
 #include "host/client/services/HostServices.h"
 #include "host/client/services/HostTables.h"
 #include "host/client/services/Preferences.h"
 #include "host/client/services/RotatingLog.h"
-#include "host/client/services/CommandLine.h"
 #include "host/client/session/LoginLink.h"
 
 namespace Tarvik::Client {
@@ -21,6 +21,7 @@ namespace Tarvik::Client {
 class ClientSession {
   public:
     /// Null, with one line that says what is wrong and what to do, when the client cannot run.
+    /// With `options.alone` that is so too while another client has the data folder open.
     static std::unique_ptr<ClientSession> Open(const SessionOptions& options, std::string& error);
     ~ClientSession();
     ClientSession(const ClientSession&) = delete;
@@ -32,6 +33,8 @@ class ClientSession {
     /// Loads all plug-ins; the main window, if there is one, must be known to the bus before.
     void LoadPlugins();
 
+    /// Whether no other client had the data folder open when this one began.
+    bool IsAlone() const { return claim_.IsAlone(); }
     const AppFolders& Folders() const { return folders_; }
     const std::vector<Port>& Ports() const { return tables_.Ports(); }
     const PluginLoader& Plugins() const { return loader_; }
@@ -57,6 +60,7 @@ class ClientSession {
     std::string PreferencesFile() const { return folders_.Data() + "/preferences.json"; }
 
     AppFolders folders_;
+    FolderClaim claim_;
     RotatingLog log_;
     BusLog busLog_;
     Preferences preferences_;

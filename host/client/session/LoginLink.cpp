@@ -15,6 +15,7 @@ LoginLink::~LoginLink() {
 }
 
 void LoginLink::LogOut() {
+    owner_.clear();
     if (remote_) {
         remote_->Disconnect();
     }
@@ -30,6 +31,11 @@ bool LoginLink::Connect(std::string& error) {
         if (!login) {
             break;
         }
+        if (!owner_.empty() && login->user != owner_) {
+            error = "The login of " + owner_ + " has run out. Log in as " + owner_ +
+                    " again, or cancel and log out first.";
+            continue;
+        }
         user_ = login->user;
         RemoteSettings settings;
         settings.url = server_;
@@ -38,6 +44,7 @@ bool LoginLink::Connect(std::string& error) {
         settings.caFile = caFile_;
         remote_ = std::make_unique<RemoteLink>(std::move(settings));
         if (remote_->Connect(error)) {
+            owner_ = user_;
             return true;
         }
     }

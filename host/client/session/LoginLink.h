@@ -31,7 +31,8 @@ class LoginLink : public ServerLink {
     LoginLink(std::string server, std::string user, std::string caFile, AskCredentials ask);
     ~LoginLink() override;
 
-    /// Asks for credentials until the server takes them or there are no more.
+    /// Asks for credentials until the server takes them or there are no more. While a login has run out
+    /// without a logout, nobody else can take its place: what is on show and not saved yet is that user's.
     bool Connect(std::string& error) override;
     bool IsConnected() const override;
     void LogOut() override;
@@ -42,6 +43,7 @@ class LoginLink : public ServerLink {
   private:
     std::string server_;
     std::string user_;
+    std::string owner_;  ///< whose login it is, from its making to the logout
     std::string caFile_;
     AskCredentials ask_;
     std::unique_ptr<RemoteLink> remote_;

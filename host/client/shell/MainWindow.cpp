@@ -2,6 +2,7 @@
 #include "host/client/shell/MainWindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMessageBox>
@@ -9,6 +10,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <algorithm>
+#include <utility>
 
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
@@ -31,17 +33,23 @@ MainWindow::MainWindow(ClientSession& session)
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
             [this] { ShowHelp("GENERAL", 370); });
     connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, [this] { close(); });
+    for (const auto& [key, step] :
+         {std::pair(QKeySequence("F6"), 1), std::pair(QKeySequence("Shift+F6"), -1)}) {
+        auto* turn = new QShortcut(key, this);
+        turn->setContext(Qt::ApplicationShortcut);
+        connect(turn, &QShortcut::activated, this, [this, turnBy = step] { NextWindow(turnBy); });
+    }
     ApplyTexts();
     ApplyTheme();
     session_.SetAsker([this](const std::string& server, const std::string& user, const std::string& failure) {
         return AskLogin(server, user, failure);
     });
-    session_.Services().OnConnectionChange([this] { ShowConnection(); });
+    session_.Services().Watch().OnChange([this] { ShowConnection(); });
 }
 
 MainWindow::~MainWindow() {
     session_.SetAsker({});
-    session_.Services().OnConnectionChange({});
+    session_.Services().Watch().OnChange({});
 }
 
 QString MainWindow::Word(const char* key) const {
@@ -76,7 +84,6 @@ void MainWindow::ShowConnection() {
     status_.ShowConnection();
     QAction* logout = tools_.Action("LOGOUT");
     logout->setVisible(session_.IsRemote());
-    logout->setEnabled(session_.Link().IsConnected());
 }
 
 std::optional<Credentials> MainWindow::AskLogin(const std::string& server, const std::string& user,
@@ -126,6 +133,12 @@ bool MainWindow::ChartCommand(const std::string& command) {
 }
 
 void MainWindow::Prefer(const Preferences& preferences) {
+    // What is not saved yet belongs to the server that it was begun at, and its times to the zone.
+    const Preferences& now = session_.Preferred();
+    const bool moves = preferences.server != now.server || preferences.timeZone != now.timeZone;
+    if (moves && !ClosePanels()) {
+        return;
+    }
     std::string error;
     const bool kept = session_.Prefer(preferences, error);
     ApplyTexts();
@@ -157,6 +170,20 @@ void MainWindow::OpenPreferences() {
     if (dialog.exec() == QDialog::Accepted) {
         Prefer(dialog.Chosen());
     }
+}
+
+void MainWindow::NextWindow(int step) {
+    QList<QWidget*> windows{this};
+    for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const auto kind = child->windowType();
+        if ((kind == Qt::Tool || kind == Qt::Dialog) && child->isVisible()) {
+            windows.append(child);
+        }
+    }
+    const qsizetype at = windows.indexOf(QApplication::activeWindow());
+    QWidget* next = windows[(std::max<qsizetype>(at, 0) + step + windows.size()) % windows.size()];
+    next->raise();
+    next->activateWindow();
 }
 
 bool MainWindow::ClosePanels() {

@@ -27,6 +27,12 @@ class MainWindow : public QMainWindow {
     /// Tells the chart a command of its contract; false when there is no chart or it did not understand.
     bool ChartCommand(const std::string& command);
 
+    /// Takes new preferences into use. Another server or zone comes only once the panels have closed with
+    /// their questions; when one stays, nothing changes.
+    void Prefer(const Preferences& preferences);
+    /// Gives the keyboard to the next of the client's open windows, or with -1 to the one before.
+    void NextWindow(int step);
+
     /// Shows help on a topic ("func033", …; an unknown one gets the general help) in a window `width` pixels
     /// wide.
     void ShowHelp(const QString& topic, int width);
@@ -51,7 +57,6 @@ class MainWindow : public QMainWindow {
     void NextTheme();
     void NextLanguage();
     void OpenPreferences();
-    void Prefer(const Preferences& preferences);
     QString Word(const char* key) const;
 
     ClientSession& session_;

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/Runs.h"
-
 #include <QApplication>
 #include <QCoreApplication>
 #include <cstdio>
@@ -11,6 +9,7 @@
 #include "host/client/plan/PlanFormats.h"
 #include "host/client/shell/Desk.h"
 #include "host/client/shell/QtServices.h"
+#include "host/client/shell/Runs.h"
 
 namespace Tarvik::Client {
 
@@ -106,6 +105,12 @@ int RunPlan(int argc, char** argv, const CommandLine& line) {
     const auto session = ClientSession::Open(options, error);
     if (!session) {
         return Tell({kExitFailed, error});
+    }
+    if (!session->IsAlone() && !parsed.arguments.saveVoyage.empty()) {
+        std::fprintf(stderr,
+                     "Seaplan's window is open with the data folder %s: it shows what is saved now after its "
+                     "next start.\n",
+                     session->Folders().Data().c_str());
     }
     const QtLog log(session->Log());
     Interface::PlanRequest request;

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/QtServices.h"
-
 #include <QString>
 #include <QtGlobal>
 #include <cstdio>
 
 #include "host/client/services/RotatingLog.h"
+#include "host/client/shell/QtServices.h"
 
 namespace Tarvik::Client {
 

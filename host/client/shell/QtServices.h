@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QObject>
+#include <future>
+#include <thread>
 #include <unordered_map>
 
 #include <tarvik/interface/SysMsgSink.h>
@@ -26,6 +28,21 @@ class QtLog {
 
     /// Keeps the library silent until there is a log.
     static void Silence();
+};
+
+/// While it lives, a display that cannot be used or does not answer ends the program with one line and the
+/// exit code of a failure: the library's own end would be an abort, or none. For the making of the
+/// application object.
+class DisplayStart {
+  public:
+    DisplayStart();
+    ~DisplayStart();
+    DisplayStart(const DisplayStart&) = delete;
+    DisplayStart& operator=(const DisplayStart&) = delete;
+
+  private:
+    std::promise<void> started_;
+    std::thread watch_;
 };
 
 /// Shows messages in a box over the window that they belong to, and waits for the answer.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/QtServices.h"
-
 #include <QTimerEvent>
 #include <utility>
+
+#include "host/client/shell/QtServices.h"
 
 namespace Tarvik::Client {
 

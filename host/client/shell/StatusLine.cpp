@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <tarvik/bus/Binding.h>
+#include <tarvik/util/DateTimeUtl.h>
 
 #include "host/geo/GeoPoint.h"
 
@@ -44,7 +45,6 @@ QString StatusLine::Word(const char* key) const {
 }
 
 void StatusLine::ApplyTexts() {
-    ShowConnection();
     ShowZone(nullptr);
     if (!cursorKnown_) {
         cursor_->setText(Word("NO_POSITION"));
@@ -57,12 +57,28 @@ void StatusLine::ApplyTexts() {
         shown->setAccessibleName(Word(key));
         shown->setToolTip(Word(key));
     }
+    ShowConnection();
 }
 
 void StatusLine::ShowConnection() {
     const QString user = QString::fromStdString(session_.Services().User());
     user_->setText(!session_.IsRemote() ? Word("LOCAL_USER") : user.isEmpty() ? Word("NOBODY") : user);
-    connection_->setText(Word(session_.Link().IsConnected() ? "CONNECTED" : "OFFLINE"));
+    const Connection& now = session_.Services().Watch().Now();
+    const char* key = !now.loggedIn     ? "OFFLINE"
+                      : now.silentSince ? "NO_ANSWER"
+                      : now.backSince   ? "CONNECTED_AGAIN"
+                                        : "CONNECTED";
+    const auto since = now.silentSince ? now.silentSince : now.backSince;
+    connection_->setText(now.loggedIn && since ? Word(key).arg(TimeText(*since)) : Word(key));
+    const QString reason = QString::fromStdString(now.reason);
+    connection_->setToolTip(reason.isEmpty() ? Word("CONNECTION_NAME") : reason);
+}
+
+QString StatusLine::TimeText(const Util::_datetime_t& utc) const {
+    const std::string& zone = session_.Services().TimeZone();
+    const auto local = Util::DateTimeUtl::ConvertFromUTC(utc, zone);
+    const auto today = Util::DateTimeUtl::ConvertFromUTC(Util::_datetime_t::gmt_now(), zone).date();
+    return QString::fromStdString(local.fmt(local.date() == today ? "%H:%M" : "%Y-%m-%d %H:%M"));
 }
 
 void StatusLine::ShowCursor(const Interface::ChartPlace& place) {
@@ -71,6 +87,8 @@ void StatusLine::ShowCursor(const Interface::ChartPlace& place) {
 }
 
 void StatusLine::ShowZone(const std::string* zone) {
+    // Times of the outage are told in the zone too.
+    ShowConnection();
     zone_->setText(QString::fromStdString(zone ? *zone : session_.Services().TimeZone()));
 }
 

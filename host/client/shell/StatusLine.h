@@ -25,6 +25,8 @@ class StatusLine {
 
   private:
     QString Word(const char* key) const;
+    /// The hour, and the day unless it is today, in the zone of the times on show.
+    QString TimeText(const Util::_datetime_t& utc) const;
     void ShowCursor(const Interface::ChartPlace& place);
     void ShowZone(const std::string* zone);
 

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/Runs.h"
-
 #include <QApplication>
 #include <QEventLoop>
 #include <QFileInfo>
@@ -8,6 +6,8 @@
 #include <QMainWindow>
 #include <QPainter>
 #include <QTimer>
+
+#include "host/client/shell/Runs.h"
 
 namespace Tarvik::Client {
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/Runs.h"
-
 #include <QApplication>
 #include <QMessageBox>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/shell/Desk.h"
 #include "host/client/shell/QtServices.h"
+#include "host/client/shell/Runs.h"
 
 namespace Tarvik::Client {
 
@@ -58,9 +58,14 @@ int RunWindow(int argc, char** argv, const CommandLine& line) {
     }
     QtLog::Silence();
     Desk::PrepareApplication();
+    auto start = std::make_unique<DisplayStart>();
     QApplication application(argc, argv);
+    start.reset();
     std::string error;
-    const auto session = ClientSession::Open(line.session, error);
+    SessionOptions options = line.session;
+    // Two windows would each keep a copy of the same voyages and write over one another's changes.
+    options.alone = !picture;
+    const auto session = ClientSession::Open(options, error);
     if (!session) {
         return Complain(error, !picture);
     }

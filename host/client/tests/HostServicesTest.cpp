@@ -143,7 +143,7 @@ TEST_F(HostServicesTest, KeepsAndTellsTheServersWordsUntilTheNextExchange) {
 
 TEST_F(HostServicesTest, TellsWhenTheConnectionIsLostAndMade) {
     int changes = 0;
-    services_.OnConnectionChange([&] { ++changes; });
+    services_.Watch().OnChange([&] { ++changes; });
     Core::FreeBusBlock(Exchange("{}"));
     EXPECT_EQ(changes, 0);
     link_.connected = false;
@@ -151,6 +151,27 @@ TEST_F(HostServicesTest, TellsWhenTheConnectionIsLostAndMade) {
     EXPECT_EQ(changes, 1);
     Call(Bus::Login);
     EXPECT_EQ(changes, 2);
+}
+
+TEST_F(HostServicesTest, ARequestWithoutAnswerBeginsAnOutageAndAnAnswerEndsIt) {
+    link_.reply = "";
+    link_.failure = "no answer";
+    EXPECT_EQ(Exchange("{}"), nullptr);
+    EXPECT_TRUE(services_.Watch().Now().silentSince);
+    EXPECT_EQ(services_.Watch().Now().reason, "no answer");
+    EXPECT_NE(*Call(Bus::IsConnected), 0) << "the login is still there, nobody is asked for another";
+    link_.reply = R"({"eid":7,"emsg":"the disk is full"})";
+    Core::FreeBusBlock(Exchange("{}"));
+    EXPECT_FALSE(services_.Watch().Now().silentSince) << "a refusal is an answer";
+    EXPECT_TRUE(services_.Watch().Now().backSince);
+}
+
+TEST_F(HostServicesTest, ALoginThatIsOverIsNoOutage) {
+    link_.reply = "";
+    link_.failure = "the login is over";
+    link_.connected = false;
+    EXPECT_EQ(Exchange("{}"), nullptr);
+    EXPECT_EQ(services_.Watch().Now(), Connection());
 }
 
 /// Counts the logouts that plug-ins hear of.
@@ -174,7 +195,7 @@ class LogoutListener : public Core::TObject {
 TEST_F(HostServicesTest, ALogoutReachesThePluginsAndTheServer) {
     LogoutListener listener;
     int changes = 0;
-    services_.OnConnectionChange([&] { ++changes; });
+    services_.Watch().OnChange([&] { ++changes; });
     services_.LogOut();
     EXPECT_EQ(listener.count, 1);
     EXPECT_FALSE(link_.connected);

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "host/client/session/LoginLink.h"
+#include "host/server/net/tests/RequestBlock.h"
 #include "host/server/net/tests/TestServer.h"
 
 namespace Tarvik::Client {
@@ -77,6 +78,24 @@ TEST_F(LoginLinkTest, AfterALogoutAnotherCanLogIn) {
                 HasSubstr("seaplan_requests_total{command=\"logout\",result=\"ok\"} 1"));
     ASSERT_TRUE(link.Connect(error_)) << error_;
     EXPECT_EQ(link.User("local"), "bert");
+}
+
+// What is on show and not saved yet would be written to the other one's voyages.
+TEST_F(LoginLinkTest, NobodyElseTakesTheSeatOfALoginThatHasRunOut) {
+    server_.AddUser("bert", "correct horse");
+    answers_ = {{"anna", "correct horse"}};
+    LoginLink link(server_.Url(), "", "", Asker());
+    ASSERT_TRUE(link.Connect(error_)) << error_;
+    server_.AdvanceSeconds(13 * 3600);
+    const Server::RequestBlock load(3, 5, "{ui:\"anna\"}");
+    EXPECT_EQ(link.Exchange("anna", *load), "");
+    EXPECT_FALSE(link.IsConnected());
+    answers_ = {{"bert", "correct horse"}};
+    EXPECT_FALSE(link.Connect(error_));
+    EXPECT_EQ(error_, "The login of anna has run out. Log in as anna again, or cancel and log out first.");
+    answers_ = {{"bert", "correct horse"}, {"anna", "correct horse"}};
+    ASSERT_TRUE(link.Connect(error_)) << error_;
+    EXPECT_EQ(link.User("local"), "anna");
 }
 
 TEST_F(LoginLinkTest, LogsOutWithItsEnd) {

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+
+#include "host/client/shell/MainWindow.h"
+#include "host/client/tests/TemporaryFolder.h"
+
+namespace Tarvik::Client {
+
+namespace {
+
+/// A panel of a plug-in that closes when it may, as after a question.
+class Panel : public QWidget {
+  public:
+    explicit Panel(QWidget* mainView) : QWidget(mainView, Qt::Tool) { show(); }
+    bool mayClose = false;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override { event->setAccepted(mayClose); }
+};
+
+class ShellTest : public testing::Test {
+  protected:
+    ShellTest() {
+        options_.dataFolder = folder_.Path("data");
+        session_ = ClientSession::Open(options_, error_);
+    }
+    void SetUp() override { ASSERT_NE(session_, nullptr) << error_; }
+    static QString Shown(const MainWindow& window, const char* label) {
+        return window.findChild<QLabel*>(label)->text();
+    }
+
+    TemporaryFolder folder_;
+    SessionOptions options_;
+    std::string error_;
+    std::unique_ptr<ClientSession> session_;
+};
+
+TEST_F(ShellTest, TheStatusLineTellsAnOutageAndItsEnd) {
+    const MainWindow window(*session_);
+    EXPECT_EQ(Shown(window, "connection"), "Connected");
+    session_->Services().Watch().NoteSilence("The voyage server does not answer.");
+    EXPECT_TRUE(Shown(window, "connection").startsWith("No answer since "))
+        << Shown(window, "connection").toStdString();
+    EXPECT_EQ(window.findChild<QLabel*>("connection")->toolTip(), "The voyage server does not answer.");
+    session_->Services().Watch().NoteAnswer(true);
+    EXPECT_TRUE(Shown(window, "connection").startsWith("Connected again since "));
+}
+
+TEST_F(ShellTest, TheZoneLabelIsTheZoneOfTheTimesOnShow) {
+    const MainWindow window(*session_);
+    EXPECT_EQ(Shown(window, "timeZone"), "China Standard Time");
+    session_->Services().SetTimeZone("Europe/Rome");
+    EXPECT_EQ(Shown(window, "timeZone"), "Europe/Rome");
+    Interface::Raise(Interface::Bus::SwitchTimeZone, static_cast<const std::string*>(nullptr));
+    EXPECT_EQ(Shown(window, "timeZone"), "Europe/Rome") << "without a text it is asked for";
+}
+
+TEST_F(ShellTest, AnotherServerComesOnlyWhenThePanelsHaveClosed) {
+    MainWindow window(*session_);
+    window.show();
+    auto* panel = new Panel(&window);
+    bool openAtLogout = true;
+    int logouts = 0;
+    const auto listener = Interface::Subscribe(Interface::Bus::Logout, [&] {
+        ++logouts;
+        openAtLogout = panel->isVisible();
+    });
+    Preferences elsewhere = session_->Preferred();
+    elsewhere.server = "http://127.0.0.1:1";
+    window.Prefer(elsewhere);
+    EXPECT_FALSE(session_->IsRemote()) << "the person keeps what is not saved";
+    EXPECT_EQ(logouts, 0);
+    panel->mayClose = true;
+    window.Prefer(elsewhere);
+    EXPECT_TRUE(session_->IsRemote());
+    EXPECT_EQ(logouts, 1);
+    EXPECT_FALSE(openAtLogout);
+}
+
+TEST_F(ShellTest, AnotherZoneComesOnlyWhenThePanelsHaveClosed) {
+    MainWindow window(*session_);
+    window.show();
+    auto* panel = new Panel(&window);
+    Preferences away = session_->Preferred();
+    away.timeZone = "Europe/Rome";
+    window.Prefer(away);
+    EXPECT_EQ(session_->Services().TimeZone(), "China Standard Time") << "its times are read in this zone";
+    panel->mayClose = true;
+    window.Prefer(away);
+    EXPECT_EQ(session_->Services().TimeZone(), "Europe/Rome");
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(ShellTest, NoPanelClosesForAnotherLook) {
+    MainWindow window(*session_);
+    window.show();
+    auto* panel = new Panel(&window);
+    panel->mayClose = true;
+    Preferences dark = session_->Preferred();
+    dark.theme = "dark";
+    window.Prefer(dark);
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(session_->Preferred().theme, "dark");
+}
+
+TEST_F(ShellTest, TheSecondWindowOnOneFolderSaysThatItIsOpen) {
+    EXPECT_TRUE(session_->IsAlone());
+    options_.alone = true;
+    EXPECT_EQ(ClientSession::Open(options_, error_), nullptr);
+    EXPECT_EQ(error_, "Seaplan is open already with the data folder " + folder_.Path("data") +
+                          ". Use its window, or name another folder with --data DIR.");
+    session_.reset();
+    EXPECT_NE(ClientSession::Open(options_, error_), nullptr)
+        << "and it is free again with the first one's end";
+}
+
+TEST_F(ShellTest, TheKeyboardGoesRoundTheWindows) {
+    MainWindow window(*session_);
+    window.show();
+    const Panel first(&window);
+    const Panel second(&window);
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto turn = [](Qt::KeyboardModifier modifier) {
+        QTest::keyClick(QApplication::activeWindow(), Qt::Key_F6, modifier);
+        QApplication::processEvents();
+        return QApplication::activeWindow();
+    };
+    EXPECT_EQ(turn(Qt::NoModifier), &first);
+    EXPECT_EQ(turn(Qt::NoModifier), &second);
+    EXPECT_EQ(turn(Qt::NoModifier), &window);
+    EXPECT_EQ(turn(Qt::ShiftModifier), &second);
+}
+
+}  // namespace
+}  // namespace Tarvik::Client
