@@ -115,6 +115,20 @@ std::string LanguageFiles::Text(const std::string& section, const std::string& k
     return found == texts_.end() ? key : found->second;
 }
 
+QuestionButtons LanguageFiles::ButtonsOf(const std::string& question) const {
+    QuestionButtons buttons;
+    for (const auto& [name, text] : texts_) {
+        const auto part = [&](const char* ending) {
+            const auto found = texts_.find({"Buttons", name.second + ending});
+            return found == texts_.end() ? std::string() : found->second;
+        };
+        if (text == question && !part(".YES").empty()) {
+            buttons = {part(".YES"), part(".NO"), part(".CAREFUL") == "yes"};
+        }
+    }
+    return buttons;
+}
+
 std::optional<std::u16string> LanguageFiles::Find(const std::u16string& section,
                                                   const std::u16string& /*name*/,
                                                   const std::u16string& key) const {

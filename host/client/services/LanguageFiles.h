@@ -22,6 +22,13 @@ bool IsOffered(const std::vector<Language>& languages, const std::string& code);
 /// The codes of the languages.
 std::vector<std::string> LanguageCodes(const std::vector<Language>& languages);
 
+/// What stands on the buttons of a question; empty where no file tells it.
+struct QuestionButtons {
+    std::string yes;
+    std::string no;
+    bool yesIsCareful = false;  ///< yes is the answer that loses nothing
+};
+
 /// Texts of one language, merged from files of the form {"Section":{"KEY":"text"}}.
 class LanguageFiles : public Interface::LanguageSource {
   public:
@@ -41,6 +48,11 @@ class LanguageFiles : public Interface::LanguageSource {
     const std::vector<std::string>& Complaints() const { return complaints_; }
     /// Text of a key; the key itself when there is none, so that a gap is seen.
     std::string Text(const std::string& section, const std::string& key) const;
+
+    /// The buttons of a question by its text. The section "Buttons" of a file names them by the question's
+    /// key:
+    /// "<key>.YES", "<key>.NO", and "<key>.CAREFUL" with the text "yes" where yes is the careful answer.
+    QuestionButtons ButtonsOf(const std::string& question) const;
 
     std::optional<std::u16string> Find(const std::u16string& section, const std::u16string& name,
                                        const std::u16string& key) const override;

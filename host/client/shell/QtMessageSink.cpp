@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/shell/QtServices.h"
-
 #include <QAbstractButton>
 #include <QMessageBox>
 #include <QPushButton>
+
+#include "host/client/shell/QtServices.h"
 
 namespace Tarvik::Client {
 
@@ -20,15 +20,20 @@ Interface::SysMsgHandleRes QtMessageSink::SyncSendMsg(int /*level*/, const std::
     box.setWindowTitle(title.empty() ? word("TITLE") : QString::fromStdU16String(title));
     const bool question = flags == 4;
     box.setIcon(question ? QMessageBox::Question : QMessageBox::Information);
-    QPushButton* agree = box.addButton(word(question ? "YES" : "OK"), QMessageBox::AcceptRole);
+    const QuestionButtons own = texts_.ButtonsOf(QString::fromStdU16String(text).toStdString());
+    const auto button = [&](const std::string& words, const char* key) {
+        return words.empty() ? word(key) : QString::fromStdString(words);
+    };
+    QPushButton* agree = box.addButton(button(own.yes, question ? "YES" : "OK"), QMessageBox::AcceptRole);
     agree->setObjectName(question ? "messageYes" : "messageOk");
     QPushButton* refuse = nullptr;
     if (flags != 0) {
-        refuse = box.addButton(word(question ? "NO" : "CANCEL"), QMessageBox::RejectRole);
+        refuse = box.addButton(button(own.no, question ? "NO" : "CANCEL"), QMessageBox::RejectRole);
         refuse->setObjectName(question ? "messageNo" : "messageCancel");
         box.setEscapeButton(refuse);
     }
-    box.setDefaultButton(agree);
+    // Whoever types on while a box comes up must not lose anything by that.
+    box.setDefaultButton(refuse && !own.yesIsCareful ? refuse : agree);
     box.exec();
     if (flags == 0) {
         return SysMsgHandleRes::None;

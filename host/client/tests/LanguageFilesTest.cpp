@@ -88,5 +88,35 @@ TEST(ClientTexts, AreCompleteInEveryLanguage) {
     }
 }
 
+TEST(QuestionButtonsTest, AreToldForTheSameQuestionsInEveryLanguage) {
+    const auto read = [](const std::string& language) {
+        std::ifstream in(std::string(CLIENT_LANGUAGES) + "/seaplan." + language + ".json");
+        return nlohmann::json::parse(in);
+    };
+    const auto english = read("en-US");
+    ASSERT_GT(english.at("Buttons").size(), 10U);
+    for (const Language& language : LanguageFiles::In(CLIENT_LANGUAGES)) {
+        const auto texts = read(language.code);
+        EXPECT_EQ(texts.at("Buttons").size(), english.at("Buttons").size()) << language.code;
+        for (const auto& [key, words] : english.at("Buttons").items()) {
+            EXPECT_TRUE(texts.at("Buttons").contains(key)) << key;
+            EXPECT_TRUE(texts.at("Seaplan").contains(key.substr(0, key.find('.')))) << key;
+        }
+    }
+}
+
+TEST(QuestionButtonsTest, WhatLosesSomethingIsNotTheCarefulAnswer) {
+    LanguageFiles texts;
+    texts.Load(CLIENT_LANGUAGES, "en-US");
+    const auto buttons = [&texts](const char* key) { return texts.ButtonsOf(texts.Text("Seaplan", key)); };
+    EXPECT_EQ(buttons("IDS_PORTCALL_CLOSESAVE").yes, "Lose them");
+    EXPECT_EQ(buttons("IDS_PORTCALL_CLOSESAVE").no, "Go back");
+    EXPECT_FALSE(buttons("IDS_PORTCALL_CLOSESAVE").yesIsCareful);
+    EXPECT_EQ(buttons("IDS_PORTCALL_SAVENEXT").yes, "Save");
+    EXPECT_TRUE(buttons("IDS_PORTCALL_SAVENEXT").yesIsCareful);
+    EXPECT_FALSE(buttons("IDS_TREE_CLEARVOYORCATE").yesIsCareful);
+    EXPECT_EQ(texts.ButtonsOf("Anything else?").yes, "");
+}
+
 }  // namespace
 }  // namespace Tarvik::Client

@@ -51,6 +51,38 @@ TEST(MessageSink, EscapeIsTheCarefulAnswer) {
     EXPECT_EQ(sink.SyncSendMsg(1, u"Sure?", 4, nullptr, u""), SysMsgHandleRes::No);
 }
 
+/// The words on the button that Enter presses in a box with the text "Sure?".
+QString FocusedAnswer(const LanguageFiles& texts, int flags) {
+    QtMessageSink sink(nullptr, texts);
+    QString words;
+    QTimer::singleShot(0, qApp, [&words] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        for (auto* button : box->findChildren<QPushButton*>()) {
+            words = button->isDefault() ? button->text() : words;
+        }
+        box->reject();
+    });
+    sink.SyncSendMsg(1, u"Sure?", flags, nullptr, u"");
+    return words;
+}
+
+TEST(MessageSink, TheAnswerThatMayLoseSomethingIsNeverTheDefault) {
+    LanguageFiles texts;
+    ASSERT_TRUE(texts.Merge(R"({"Client":{"YES":"Yes","NO":"No","OK":"OK","CANCEL":"Cancel"}})"));
+    EXPECT_EQ(FocusedAnswer(texts, 4), "No");
+    EXPECT_EQ(FocusedAnswer(texts, 1), "Cancel");
+    EXPECT_EQ(FocusedAnswer(texts, 0), "OK");
+}
+
+TEST(MessageSink, AQuestionsOwnButtonsSayWhatTheyDo) {
+    LanguageFiles texts;
+    ASSERT_TRUE(
+        texts.Merge(R"({"Any":{"ASK":"Sure?"},"Buttons":{"ASK.YES":"Lose them","ASK.NO":"Go back"}})"));
+    EXPECT_EQ(FocusedAnswer(texts, 4), "Go back");
+    ASSERT_TRUE(texts.Merge(R"({"Buttons":{"ASK.YES":"Save","ASK.NO":"Lose them","ASK.CAREFUL":"yes"}})"));
+    EXPECT_EQ(FocusedAnswer(texts, 4), "Save");
+}
+
 TEST(TimerService, CallsAgainAndAgainUntilStoppedByItsOwnCallback) {
     QtTimerService timers;
     QEventLoop loop;
