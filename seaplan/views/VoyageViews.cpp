@@ -23,7 +23,7 @@ VoyageViews::~VoyageViews() {
 
 std::unique_ptr<CPortCallPanelDlg> VoyageViews::MakePortCalls(const Parts& parts, PortCallWindow& window) {
     auto panel = std::make_unique<CPortCallPanelDlg>(
-        PortCallDesk::Parts{parts.store, parts.catalog, parts.voyages, parts.ports, window,
+        PortCallDesk::Parts{parts.catalog, parts.voyages, parts.ports, window,
                             [this] { return voyageWindow_ ? OnScreen(voyageWindow_->Tree()) : Rect(); }});
     panel->SetSavedListener([this](const std::string& vi) { ShowSaved(vi); });
     return panel;

@@ -9,7 +9,7 @@ CPortCallPanelDlg::CPortCallPanelDlg(PortCallDesk::Parts parts)
     : desk_(std::move(parts)),
       editing_(desk_),
       corrected_(desk_),
-      filling_(desk_, editing_, corrected_),
+      filling_(desk_, editing_, corrected_, [this] { return commands_.SaveBeforeLeaving(); }),
       commands_(desk_, editing_, corrected_, filling_),
       rows_(desk_, editing_) {
     desk_.ResetSheet();
@@ -26,6 +26,12 @@ void CPortCallPanelDlg::ApplyLanguage() {
 void CPortCallPanelDlg::ShowBesideTree() {
     desk_.PlaceBesideTree();
     desk_.View().Show();
+}
+
+void CPortCallPanelDlg::PutBack(const PortCallSheet& sheet) {
+    const PortCallDesk::Report report(desk_);
+    editing_.HideEditors();
+    desk_.Sheet() = sheet;
 }
 
 void CPortCallPanelDlg::HideAfterLogout() {

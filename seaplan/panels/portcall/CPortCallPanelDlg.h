@@ -44,6 +44,8 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     RowCommands& Rows() { return rows_; }
     /// All that the window shows, and that the panel would lose.
     const PortCallSheet& Sheet() const { return desk_.Sheet(); }
+    /// Shows an earlier copy of that again; what is being typed is dropped.
+    void PutBack(const PortCallSheet& sheet);
 
   private:
     PortCallDesk desk_;

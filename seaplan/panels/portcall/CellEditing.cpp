@@ -29,10 +29,6 @@ TextField& CellEditing::Box(CellEditor editor) {
     return editor == CellEditor::Port ? port_ : editor == CellEditor::Speed ? speed_ : weather_;
 }
 
-bool CellEditing::IsOpen() const {
-    return port_.IsOpen() || speed_.IsOpen() || weather_.IsOpen() || purposes_.IsOpen();
-}
-
 void CellEditing::OnCellClicked(int row, int column) {
     const PortCallDesk::Report report(desk_);
     CommitEditors();

@@ -39,10 +39,10 @@ class CellEditing {
     /// The picker's time, "%Y-%m-%d %H:%M:%S".
     void OnTimeChosen(const std::string& text);
 
-    /// Whether anything is open that a press outside ends.
-    bool IsOpen() const;
     /// Takes what is typed and closes all: the table was scrolled, a press fell outside it, a command begins.
     void CommitEditors();
+    /// A press fell outside the table and what is open over it.
+    void OnPressedOutside();
     /// Closes all and drops what is typed.
     void HideEditors();
     /// The date over a cell of the times.

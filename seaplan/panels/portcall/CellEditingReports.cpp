@@ -96,6 +96,12 @@ void CellEditing::OnEditorFocusLost(CellEditor editor) {
     }
 }
 
+void CellEditing::OnPressedOutside() {
+    if (port_.IsOpen() || speed_.IsOpen() || weather_.IsOpen() || purposes_.IsOpen()) {
+        CommitEditors();
+    }
+}
+
 void CellEditing::OnMatchMoved(const std::string& name, bool fieldHasFocus) {
     matching_.OnMoved(name, fieldHasFocus);
 }

@@ -10,6 +10,8 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr const char* kHelpTopic = "func034";
+/// Result of Calculate for a saved voyage that has its new rows, which the server did not take.
+constexpr int kCalculatedNotSaved = -5;
 
 }  // namespace
 
@@ -55,7 +57,7 @@ int PanelCommands::Calculate() {
         return 0;
     }
     sheet.MarkChanged(desk_.Ports());
-    return -5;
+    return kCalculatedNotSaved;
 }
 
 void PanelCommands::OnCalculate() {
@@ -66,7 +68,9 @@ void PanelCommands::OnCalculate() {
         return;
     }
     if (corrected <= 0) {
-        Calculate();
+        if (Calculate() == kCalculatedNotSaved) {
+            desk_.ToPerson().Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION);
+        }
     } else if (corrected_.Calculate() != 0) {
         desk_.ToPerson().Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
     }
@@ -105,7 +109,9 @@ void PanelCommands::OnSave() {
     }
 }
 
-int PanelCommands::SavePlain() {
+/// Saves the rows, calculated first where they have no distances, or the voyage no book or route of theirs.
+/// 0; -1 fewer than two rows; -2 they cannot be calculated, and nothing was sent; -3 not saved.
+int PanelCommands::SaveRows(int drawMode) {
     PortCallSheet& sheet = desk_.Sheet();
     const PortCallRows rows = sheet.table.ReadRows();
     if (rows.size() < 2) {
@@ -114,18 +120,37 @@ int PanelCommands::SavePlain() {
     const bool missing = std::any_of(rows.begin() + 1, rows.end(), [](const VoyPortCall& row) {
         return static_cast<double>(row.distance) < kNoDistance;
     });
-    const VoyInfo* voyage = desk_.Store().FindVoyage(sheet.voyageId);
-    const bool hasBook = voyage != nullptr && !voyage->positionBook.points.empty();
-    if (missing || (!hasBook && !desk_.Voyages().Module().Pending().IsThere())) {
-        Calculate();
+    if (missing || !desk_.Voyages().HasRouteFor(sheet.voyageId, rows)) {
+        if (Calculate() != 0) {
+            return -2;
+        }
+        // The calculation of a saved voyage has saved it, and only a drawing is left to do.
+        if (!sheet.state.changed && drawMode < 0) {
+            return 0;
+        }
     }
-    if (filling_.SaveTable(sheet.voyageId, 1) != 0) {
+    return filling_.SaveTable(sheet.voyageId, drawMode) == 0 ? 0 : -3;
+}
+
+void PanelCommands::SavePlain() {
+    const int result = SaveRows(1);
+    if (result < -1) {
         desk_.ToPerson().Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION);
-        return -2;
+    } else if (result == 0) {
+        desk_.Sheet().MarkUnchanged();
+        desk_.Sheet().state.canOpenBook = true;
     }
-    sheet.MarkUnchanged();
-    sheet.state.canOpenBook = true;
-    return 0;
+}
+
+int PanelCommands::SaveBeforeLeaving() {
+    int corrected = 0;
+    const bool known = desk_.Voyages().GetModAis(desk_.Sheet().voyageId, corrected) == 0;
+    // Rows of a corrected voyage hold the ship's positions, which are no port calls.
+    if (known && (corrected > 0 ? corrected_.Calculate() : SaveRows(-1)) == 0) {
+        return 0;
+    }
+    desk_.ToPerson().Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION);
+    return -1;
 }
 
 void PanelCommands::OnClear() {
@@ -160,6 +185,12 @@ void PanelCommands::OnClose() {
 
 void PanelCommands::OnHelp() {
     desk_.View().RequestHelp(kHelpTopic, kHelpWidth, kHelpHeight);
+}
+
+std::vector<std::string> PanelCommands::OnUnitsAsked(UnitKind kind) {
+    editing_.CommitEditors();
+    const auto offered = OfferedUnits(kind);
+    return {offered.begin(), offered.end()};
 }
 
 int PanelCommands::OnUnitChosen(UnitKind kind, const std::string& unit) {

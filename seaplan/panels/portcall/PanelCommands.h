@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/portcall/VoyageFilling.h"
 
@@ -19,16 +20,22 @@ class PanelCommands {
     /// open. -1 no rows, -2 a route of other ports, -3 the rows do not fit, -4 no table is open.
     int OnRouteChosen();
     void OnSave();
+    /// Saves the table as the Save button does, but without drawing, since another is about to be shown;
+    /// where that fails it is told. 0 or negative.
+    int SaveBeforeLeaving();
     void OnClear();
     void OnClose();
     void OnHelp();
+    /// The menu of a quantity opens: its units, in order.
+    std::vector<std::string> OnUnitsAsked(UnitKind kind);
     /// Results as PortCallSheet::ChangeUnit.
     int OnUnitChosen(UnitKind kind, const std::string& unit);
 
   private:
     int Prepare(PortCallRows& rows) const;
     int Calculate();
-    int SavePlain();
+    int SaveRows(int drawMode);
+    void SavePlain();
 
     PortCallDesk& desk_;
     CellEditing& editing_;

@@ -8,7 +8,6 @@
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/PortDirectory.h"
-#include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/portcall/PortCallView.h"
@@ -21,7 +20,6 @@ namespace Tarvik::Seaplan {
 class PortCallDesk {
   public:
     struct Parts {
-        VoyageStore& store;
         VoyCatalogController& catalog;
         VoyController& voyages;
         PortDirectory& ports;
@@ -32,7 +30,6 @@ class PortCallDesk {
 
     PortCallSheet& Sheet() { return sheet_; }
     const PortCallSheet& Sheet() const { return sheet_; }
-    VoyageStore& Store() const { return p_.store; }
     VoyCatalogController& Catalog() const { return p_.catalog; }
     VoyController& Voyages() const { return p_.voyages; }
     PortDirectory& Ports() const { return p_.ports; }

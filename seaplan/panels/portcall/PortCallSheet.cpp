@@ -9,6 +9,7 @@ void PortCallSheet::Reset() {
     table.Reset();
     state = PortCallState();
     aisCorrectionPending = false;
+    unread = false;
     ResetUnits();
 }
 
@@ -45,6 +46,15 @@ int PortCallSheet::ShowRows(const PortCallRows& standard, bool corrected) {
     table.WriteTotals(shown);
     ShowSummary(standard);
     return 0;
+}
+
+void PortCallSheet::ShowEntered(const PortCallRows& standard) {
+    PortCallRows shown;
+    if (FromStandardUnits(standard, units_, shown) == 0) {
+        table.WriteRows(shown);
+        table.WritePartial(shown);
+        table.SetCell(0, ColEta, shown.front().eta.fmt(kTimeFormat));
+    }
 }
 
 int PortCallSheet::ShowHistoryAndPlan(const PortCallRows& standard, std::size_t history) {

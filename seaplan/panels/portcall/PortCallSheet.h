@@ -20,6 +20,7 @@ class PortCallSheet {
     std::string voyageId;               ///< voyage on show, empty for none
     std::string editedVoyageId;         ///< voyage on show at the last edit
     bool aisCorrectionPending = false;  ///< a fresh correction is shown and not saved
+    bool unread = false;                ///< it may have port calls on the server that could not be read
 
     const UnitSet& Units() const { return units_; }
     /// Six empty rows in the first units, without figures; nothing is changed and only Clear is possible.
@@ -35,6 +36,9 @@ class PortCallSheet {
     /// Shows rows of knots, nautical miles and hours: cells, totals row, summary. 0; -1, with nothing
     /// changed, for fewer than two rows or a unit that does not exist.
     int ShowRows(const PortCallRows& standard, bool corrected);
+    /// Shows what a person enters of one row or more of knots, nautical miles and hours, and their start; the
+    /// other computed cells stay blank.
+    void ShowEntered(const PortCallRows& standard);
     /// The table of a corrected voyage in the first units, rows in knots, nautical miles and hours, of which
     /// the first `history` cannot be edited. 0, or -1 without rows.
     int ShowHistoryAndPlan(const PortCallRows& standard, std::size_t history);

@@ -186,18 +186,6 @@ void PortCallTable::ClearTotals() {
     rows_[rowCount_].Commit(cells, {});
 }
 
-RowActions PortCallTable::ActionsOf(int row) const {
-    if (!IsNumbered(row) || IsBlank(row)) {
-        return {};
-    }
-    // A row operation takes the row's place in the table as a place among the rows with a port.
-    const int filled = CompactIndex(rowCount_);
-    // No port moves above the ship's position.
-    const bool belowShip =
-        row > 0 && rows_[row - 1].look == RowClass::Highlighted && row - 1 == FindLastAisRow();
-    return {row > 0 && row < filled && !belowShip, row + 1 < filled, row < filled};
-}
-
 void PortCallTable::MarkUnknownPorts(const std::function<bool(const std::string&)>& known) {
     for (int row = 0; row < rowCount_; ++row) {
         rows_[row].unknownPort =
@@ -211,6 +199,18 @@ void PortCallTable::GrowIfLast(int row) {
     }
     rows_.insert(rows_.begin() + rowCount_, MakeRow(std::to_string(rowCount_ + 1), RowClass::Normal));
     ++rowCount_;
+}
+
+RowActions ActionsOf(const PortCallTable& table, int row) {
+    if (!table.IsNumbered(row) || table.IsBlank(row)) {
+        return {};
+    }
+    // A row operation takes the row's place in the table as a place among the rows with a port.
+    const int filled = table.CompactIndex(table.RowCount());
+    // No port moves above the ship's position.
+    const bool belowShip =
+        row > 0 && table.Rows()[row - 1].look == RowClass::Highlighted && row - 1 == table.FindLastAisRow();
+    return {row > 0 && row < filled && !belowShip, row + 1 < filled, row < filled};
 }
 
 }  // namespace Tarvik::Seaplan

@@ -32,12 +32,14 @@ struct TableRow {
     }
 };
 
-/// What the images at a row's end can do now.
-struct RowActions {
-    bool moveUp = false;
-    bool moveDown = false;
-    bool remove = false;
-};
+/// Names of the images at a row's end, as presses on them are reported.
+namespace RowImage {
+
+inline constexpr const char* kMoveUp = "itemMoveUp";
+inline constexpr const char* kMoveDown = "itemMovedown";
+inline constexpr const char* kDelete = "itemdel";
+
+}  // namespace RowImage
 
 /// The port call table: numbered rows, the totals row, and after a reset one closing row. Numbers stand in
 /// the units on show. A value: copies are independent of each other.
@@ -82,8 +84,6 @@ class PortCallTable {
     /// Figures of the totals row; nothing for fewer than two rows.
     void WriteTotals(const PortCallRows& rows);
     void ClearTotals();
-    /// What a row operation on a table row would change.
-    RowActions ActionsOf(int row) const;
     /// Marks the rows whose port nobody knows.
     void MarkUnknownPorts(const std::function<bool(const std::string&)>& known);
     /// Blanks columns 1 to 9 of every row.
@@ -99,5 +99,14 @@ class PortCallTable {
     int rowCount_ = 0;
     std::vector<TableRow> rows_;
 };
+
+/// What the images at a row's end can do now.
+struct RowActions {
+    bool moveUp = false;
+    bool moveDown = false;
+    bool remove = false;
+};
+/// What a row operation on a table row would change.
+RowActions ActionsOf(const PortCallTable& table, int row);
 
 }  // namespace Tarvik::Seaplan

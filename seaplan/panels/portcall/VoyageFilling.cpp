@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/VoyageFilling.h"
 
+#include <utility>
+
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
 
@@ -19,6 +22,9 @@ int VoyageFilling::SaveTable(const std::string& vi, int drawMode) {
     if (desk_.Sheet().ReadStandard(rows) != 0) {
         return -2;
     }
+    if (!MayReplace(vi)) {
+        return -4;
+    }
     const bool failed = [&] {
         const PortCallDesk::Busy busy(desk_);
         return desk_.Voyages().SaveSchedule(vi, rows, drawMode) != 0;
@@ -26,20 +32,34 @@ int VoyageFilling::SaveTable(const std::string& vi, int drawMode) {
     if (failed) {
         return -3;
     }
+    desk_.Sheet().unread = false;
     desk_.TellSaved(vi);
     return 0;
 }
 
-void VoyageFilling::AskUnsaved() {
+/// A table that could not be read must not replace what the server has.
+bool VoyageFilling::MayReplace(const std::string& vi) {
+    constexpr int kNoneStored = -3;
+    PortCallSheet& sheet = desk_.Sheet();
+    if (sheet.unread) {
+        PortCallRows stored;
+        sheet.unread = desk_.Voyages().Module().LoadPortCalls(vi, stored) != kNoneStored;
+    }
+    return !sheet.unread;
+}
+
+/// Asks what becomes of changes while their table is in sight. False when it has to stay.
+bool VoyageFilling::MayLeave() {
     PortCallSheet& sheet = desk_.Sheet();
     if (!sheet.state.changed) {
-        return;
+        return true;
     }
     // The rows in the table are what is saved, so no cell may have changed since.
-    if (desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT)) {
-        SaveTable(sheet.editedVoyageId, -1);
+    if (desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT) && save_() != 0) {
+        return false;
     }
     sheet.state.changed = false;
+    return true;
 }
 
 void VoyageFilling::Clear() {
@@ -53,9 +73,15 @@ void VoyageFilling::Clear() {
 
 void VoyageFilling::Reset() {
     const PortCallDesk::Report report(desk_);
-    AskUnsaved();
+    if (!MayLeave()) {
+        return;
+    }
     desk_.Sheet().voyageId = next_;
-    Clear();
+    if (next_.empty()) {
+        return Clear();
+    }
+    // Whoever asks for empty rows may not know that the voyage has some.
+    Fill(-1);
 }
 
 int VoyageFilling::Open(int mode) {
@@ -64,10 +90,12 @@ int VoyageFilling::Open(int mode) {
     if (!next_.empty() && desk_.Voyages().GetModAis(next_, corrected) != 0) {
         return -1;
     }
+    if (!MayLeave()) {
+        return -4;
+    }
     if (corrected <= 0) {
         desk_.View().Hide();
     }
-    AskUnsaved();
     desk_.Sheet().voyageId = next_;
     if (corrected > 0) {
         editing_.HideEditors();
@@ -89,15 +117,30 @@ int VoyageFilling::Fill(int mode) {
     return Load(mode);
 }
 
+/// Rows that came without a book of theirs, as a save leaves them that broke off: they wait to be calculated.
+/// Without any rows nobody knows whether the voyage has some.
+void VoyageFilling::ShowUnfinished(int code, PortCallRows rows) {
+    PortCallSheet& sheet = desk_.Sheet();
+    const bool without =
+        code == kLoadScheduleCodes.Of(LoadStep::Book) || code == kLoadScheduleCodes.Of(LoadStep::Totals);
+    sheet.unread = !without || rows.empty();
+    if (!sheet.unread) {
+        ResolvePortIds(rows);
+        sheet.ShowEntered(rows);
+        sheet.MarkChanged(desk_.Ports());
+    }
+}
+
 int VoyageFilling::Load(int mode) {
     PortCallSheet& sheet = desk_.Sheet();
     PortCallRows loaded;
-    const bool failed = [&] {
+    const int code = [&] {
         const PortCallDesk::Busy busy(desk_);
-        return desk_.Voyages().LoadSchedule(sheet.voyageId, loaded, mode) != 0;
+        return desk_.Voyages().LoadSchedule(sheet.voyageId, loaded, mode);
     }();
-    if (failed) {
+    if (code != 0) {
         Clear();
+        ShowUnfinished(code, std::move(loaded));
         return 0;
     }
     PortCallRows rows;
@@ -122,7 +165,7 @@ int VoyageFilling::ShowCorrection() {
     }
     // A correction that cannot be split has been given up, and the plain voyage is shown.
     if (!desk_.IsCorrected()) {
-        return -4;
+        return -5;
     }
     corrected_.MarkFresh();
     return 0;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/CorrectedSchedule.h"
@@ -13,34 +15,43 @@ namespace Tarvik::Seaplan {
 /// saved.
 class VoyageFilling {
   public:
-    VoyageFilling(PortCallDesk& desk, CellEditing& editing, CorrectedSchedule& corrected)
-        : desk_(desk), editing_(editing), corrected_(corrected) {}
+    /// `save` saves the table on show for good, without drawing it, and tells the person where that fails; 0
+    /// when it is saved.
+    VoyageFilling(PortCallDesk& desk, CellEditing& editing, CorrectedSchedule& corrected,
+                  std::function<int()> save)
+        : desk_(desk), editing_(editing), corrected_(corrected), save_(std::move(save)) {}
 
     /// The voyage of the next Open or Reset; the one on show stays until then.
     void SetVoyage(const std::string& vi) { next_ = vi; }
     /// Shows that voyage. `mode` as VoyController::LoadSchedule draws. 0, also when it cannot be loaded and
-    /// the table stays empty; -1 no such voyage; -2 none at all, which is told; -3 its rows cannot be shown.
+    /// the table stays empty; -1 no such voyage; -2 none at all, which is told; -3 its rows cannot be shown;
+    /// -4 the changes of the voyage on show were to be saved and could not be, so that it stays with them.
     int Open(int mode);
-    /// Six empty rows of that voyage.
+    /// That voyage's stored rows, or six empty ones when it has none. Nothing where the changes of the voyage
+    /// on show could not be saved.
     void Reset();
     /// Shows that voyage with its fresh correction from AIS, made at a time in the user's zone that SetTime
-    /// has told before. Fails as Open, and with -4 when the correction cannot be split and the plain voyage
+    /// has told before. Fails as Open, and with -5 when the correction cannot be split and the plain voyage
     /// is shown.
     int ShowCorrection();
     void SetCorrectionTime(const std::string& time) { corrected_.SetTime(next_, time); }
     /// The voyage on show anew.
     int Fill(int mode);
-    /// Saves the table's rows as the schedule of a voyage. 0; -1 no voyage; -2 no rows; -3 the save failed.
+    /// Saves the table's rows as the schedule of a voyage. 0; -1 no voyage; -2 no rows; -3 the save failed;
+    /// -4 the voyage has port calls on the server that were never shown here.
     int SaveTable(const std::string& vi, int drawMode);
 
   private:
-    void AskUnsaved();
+    bool MayLeave();
+    bool MayReplace(const std::string& vi);
+    void ShowUnfinished(int code, PortCallRows rows);
     void Clear();
     int Load(int mode);
 
     PortCallDesk& desk_;
     CellEditing& editing_;
     CorrectedSchedule& corrected_;
+    std::function<int()> save_;
     std::string next_;
 };
 

@@ -96,7 +96,7 @@ TEST_F(CorrectedPanelTest, AClickOnAHistoryRowDoesNothing) {
 
 TEST_F(CorrectedPanelTest, NoPortMovesAboveTheShip) {
     Open(kept);
-    EXPECT_FALSE(view.table.ActionsOf(2).moveUp);
+    EXPECT_FALSE(ActionsOf(view.table, 2).moveUp);
     panel.Rows().OnItemImage(2, "itemMoveUp");
     EXPECT_EQ(Cell(2, ColPort), "HAMBURG");
     EXPECT_FALSE(view.state.changed);
@@ -141,6 +141,33 @@ TEST_F(CorrectedPanelTest, CalculatingReplansTheRestAndSaves) {
     EXPECT_TRUE(messages.messages.empty());
     panel.Commands().OnCalculate();
     EXPECT_EQ(desk.Count(Ask::kAddAisTime), 1);
+}
+
+TEST_F(CorrectedPanelTest, YesToTheQuestionPlansTheRestAndStoresNoPositionAsAPort) {
+    panel.SetVoyage(kept);
+    ASSERT_EQ(panel.ShowAisCorrection(), 0);
+    panel.ShowBesideTree();
+    messages.Answer(Interface::SysMsgHandleRes::Yes);
+    Open(fresh);
+    EXPECT_EQ(desk.Count(Ask::kNearest), 2) << "the correction asked for one, its plan for the other";
+    ASSERT_EQ(Saves(), 1);
+    EXPECT_EQ(desk.Count(Ask::kSavePortCalls, kShip), 0);
+    store.voyages[kept].portCalls.clear();
+    store.voyages[kept].positionBook.points.clear();
+    PortCallRows rows;
+    EXPECT_EQ(desk.voyages.LoadSchedule(kept, rows, -1), 0);
+}
+
+TEST_F(CorrectedPanelTest, ARefusedPlanOfTheRestKeepsTheCorrectionOnShow) {
+    panel.SetVoyage(kept);
+    ASSERT_EQ(panel.ShowAisCorrection(), 0);
+    desk.Refuse(Ask::kNearest);
+    messages.Answer(Interface::SysMsgHandleRes::Yes);
+    panel.SetVoyage(fresh);
+    EXPECT_LT(panel.FillForVoyage(-1), 0);
+    EXPECT_EQ(LastMessage(), "IDS_PORTCALL_SAVEEXCEPTION");
+    EXPECT_EQ(Cell(1, ColPort), kShip);
+    EXPECT_TRUE(view.state.changed);
 }
 
 TEST_F(CorrectedPanelTest, AFailedReplanIsToldByTheCalculateButtonOnly) {

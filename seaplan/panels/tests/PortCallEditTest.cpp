@@ -205,7 +205,7 @@ TEST_F(PortCallFixture, ThePickerNeedsAFilledRow) {
 
 TEST_F(PortCallFixture, AnEtaOnALegWithoutDistanceStandsAlone) {
     Open(kept);
-    PortCallDesk parts({store, desk.catalog, desk.voyages, ports, view, {}});
+    PortCallDesk parts({desk.catalog, desk.voyages, ports, view, {}});
     PortCallRows rows = SavedRows(kept);
     rows[1].distance = 0;
     PortCallRows timed;

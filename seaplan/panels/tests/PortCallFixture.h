@@ -34,7 +34,7 @@ class PortCallFixture : public ::testing::Test {
     std::string fresh;  ///< id of the new voyage
     std::string kept;   ///< id of the saved one
     PortDirectory ports = Ports();
-    CPortCallPanelDlg panel{{store, desk.catalog, desk.voyages, ports, view, [] { return kTree; }}};
+    CPortCallPanelDlg panel{{desk.catalog, desk.voyages, ports, view, [] { return kTree; }}};
 
     PortCallFixture() {
         desk.AddCategory("Plans");

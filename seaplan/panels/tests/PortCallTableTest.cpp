@@ -118,13 +118,13 @@ TEST(PortCallTable, ThePartialFormShowsOnlyWhatWasEntered) {
 TEST(PortCallTable, RowActionsFollowThePlaceAmongTheFilledRows) {
     PortCallTable table;
     table.WriteRows(RowsNamed(2));
-    EXPECT_FALSE(table.ActionsOf(0).moveUp);
-    EXPECT_TRUE(table.ActionsOf(0).moveDown);
-    EXPECT_TRUE(table.ActionsOf(1).moveUp);
-    EXPECT_FALSE(table.ActionsOf(1).moveDown);
-    EXPECT_TRUE(table.ActionsOf(1).remove);
-    EXPECT_FALSE(table.ActionsOf(2).remove);
-    EXPECT_FALSE(table.ActionsOf(6).remove);
+    EXPECT_FALSE(ActionsOf(table, 0).moveUp);
+    EXPECT_TRUE(ActionsOf(table, 0).moveDown);
+    EXPECT_TRUE(ActionsOf(table, 1).moveUp);
+    EXPECT_FALSE(ActionsOf(table, 1).moveDown);
+    EXPECT_TRUE(ActionsOf(table, 1).remove);
+    EXPECT_FALSE(ActionsOf(table, 2).remove);
+    EXPECT_FALSE(ActionsOf(table, 6).remove);
 }
 
 TEST(PortCallTable, UnknownPortsAreMarked) {

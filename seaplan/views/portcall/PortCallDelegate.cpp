@@ -17,15 +17,15 @@ namespace {
 using Skin::Colour;
 using Skin::Role;
 
-struct RowImage {
+struct DrawnImage {
     const char* name;
     const char* icon;
     TextId tip;
 };
 
-constexpr RowImage kImages[] = {{"itemMoveUp", "up", TextId::IDS_VIEW_MOVEUP},
-                                {"itemMovedown", "down", TextId::IDS_VIEW_MOVEDOWN},
-                                {"itemdel", "delete", TextId::IDS_VIEW_DELETEROW}};
+constexpr DrawnImage kImages[] = {{RowImage::kMoveUp, "up", TextId::IDS_VIEW_MOVEUP},
+                                  {RowImage::kMoveDown, "down", TextId::IDS_VIEW_MOVEDOWN},
+                                  {RowImage::kDelete, "delete", TextId::IDS_VIEW_DELETEROW}};
 constexpr int kImageSize = 14;
 constexpr int kImageStep = 20;
 
@@ -53,7 +53,7 @@ void PaintImages(QPainter& painter, const QRect& cell, const QModelIndex& index)
         return;
     }
     const auto* model = static_cast<const PortCallModel*>(index.model());
-    const RowActions can = model->ActionsOf(index.row());
+    const RowActions can = model->ActionsAt(index.row());
     const std::array<bool, std::size(kImages)> enabled = {can.moveUp, can.moveDown, can.remove};
     for (int i = 0; i < static_cast<int>(std::size(kImages)); ++i) {
         Skin::PaintIcon(painter, ImageRect(cell, i), kImages[i].icon,
@@ -104,7 +104,7 @@ std::string PortCallDelegate::ImageAt(const QRect& cell, const QPoint& point) {
 }
 
 QString PortCallDelegate::ImageTip(const std::string& name) {
-    for (const RowImage& image : kImages) {
+    for (const DrawnImage& image : kImages) {
         if (name == image.name) {
             return QString::fromStdString(Text(image.tip));
         }

@@ -26,7 +26,7 @@ class PortCallModel final : public QAbstractTableModel {
     /// Column titles in the language in force, with the units on show.
     void ShowTitles(const PortCallState& state);
     void SetUnknownPortTip(const QString& tip) { unknownTip_ = tip; }
-    RowActions ActionsOf(int row) const { return table_.ActionsOf(row); }
+    RowActions ActionsAt(int row) const { return ActionsOf(table_, row); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

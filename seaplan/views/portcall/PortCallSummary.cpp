@@ -53,14 +53,15 @@ PortCallSummary::Figure PortCallSummary::MakeFigure(const char* name, UnitKind k
 }
 
 void PortCallSummary::OpenMenu(const Figure& figure) {
-    if (reports_.menuOpens) {
-        reports_.menuOpens();
+    if (!reports_.menuOpens) {
+        return;
     }
+    const std::vector<std::string> units = reports_.menuOpens(figure.kind);
     auto* menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("unitMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const char* unit : OfferedUnits(figure.kind)) {
-        menu->addAction(QString::fromLatin1(unit), this, [this, kind = figure.kind, unit] {
+    for (const std::string& unit : units) {
+        menu->addAction(QString::fromStdString(unit), this, [this, kind = figure.kind, unit] {
             if (reports_.unitChosen) {
                 reports_.unitChosen(kind, unit);
             }

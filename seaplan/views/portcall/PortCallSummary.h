@@ -7,6 +7,7 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/portcall/PortCallView.h"
 
@@ -19,7 +20,8 @@ class PortCallSummary final : public QWidget {
     explicit PortCallSummary(QWidget* parent);
 
     struct Reports {
-        std::function<void()> menuOpens;
+        /// A menu opens; the units that it offers.
+        std::function<std::vector<std::string>(UnitKind)> menuOpens;
         std::function<void(UnitKind, const std::string&)> unitChosen;
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }

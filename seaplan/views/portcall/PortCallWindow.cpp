@@ -45,18 +45,14 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
          [&rows](KeyPress press, int row, int column) { return rows.OnTableKey(press, row, column); },
          [&cells] { cells.CommitEditors(); }});
     summary_->SetReports(
-        {[&cells] { cells.CommitEditors(); },
+        {[&commands](UnitKind kind) { return commands.OnUnitsAsked(kind); },
          [&commands](UnitKind kind, const std::string& unit) { commands.OnUnitChosen(kind, unit); }});
     buttons_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnClear(); },
                           [&commands] { commands.OnCalculate(); }});
     // A press anywhere outside the table ends the editing.
     new OutsidePress(
         this, [this](const QWidget& widget) { return editors_->Holds(widget); },
-        [&cells] {
-            if (cells.IsOpen()) {
-                cells.CommitEditors();
-            }
-        });
+        [&cells] { cells.OnPressedOutside(); });
 }
 
 void PortCallWindow::ShowTable(const PortCallTable& table) {
