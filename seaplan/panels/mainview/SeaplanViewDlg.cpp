@@ -29,11 +29,12 @@ void SeaplanViewDlg::RegisterHost() {
     showPanel_ = Interface::Subscribe(Bus::ShowPanel, this, &SeaplanViewDlg::OnShowPanel);
     switchLanguage_ = Interface::Subscribe(Bus::SwitchLanguage, this, &SeaplanViewDlg::ApplyLanguage);
     logout_ = Interface::Subscribe(Bus::Logout, this, &SeaplanViewDlg::OnLogout);
+    switchZone_ = Interface::Subscribe(Bus::SwitchTimeZone, this, &SeaplanViewDlg::OnTimeZone);
     addVessel_ = Interface::Offer(Bus::AddVessel, this, &SeaplanViewDlg::OnAddVessel);
 }
 
 void SeaplanViewDlg::UnregisterHost() {
-    for (Interface::Binding* binding : {&showPanel_, &switchLanguage_, &logout_, &addVessel_}) {
+    for (Interface::Binding* binding : {&showPanel_, &switchLanguage_, &logout_, &switchZone_, &addVessel_}) {
         binding->Withdraw();
     }
 }
@@ -88,6 +89,14 @@ void SeaplanViewDlg::OnLogout() {
     p_.tree.ForgetAfterLogout();
     if (CPortCallPanelDlg* portCalls = p_.portCalls ? p_.portCalls() : nullptr) {
         portCalls->HideAfterLogout();
+    }
+}
+
+void SeaplanViewDlg::OnTimeZone(const std::string* /*zone*/) {
+    // Their times were read in the zone before, so schedules and books are loaded anew at their next use.
+    for (auto& [vi, voyage] : p_.store.voyages) {
+        voyage.portCalls.clear();
+        voyage.positionBook.points.clear();
     }
 }
 

@@ -54,6 +54,7 @@ class SeaplanViewDlg final : public Core::TObject {
   private:
     void OnShowPanel(const Interface::PanelShow& show);
     void OnLogout();
+    void OnTimeZone(const std::string* zone);
     const char* OnAddVessel(const std::string* vi);
     void Toggle();
 
@@ -62,6 +63,7 @@ class SeaplanViewDlg final : public Core::TObject {
     Interface::Binding showPanel_;
     Interface::Binding switchLanguage_;
     Interface::Binding logout_;
+    Interface::Binding switchZone_;
     Interface::Binding addVessel_;
 };
 

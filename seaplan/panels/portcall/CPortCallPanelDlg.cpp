@@ -35,7 +35,7 @@ void CPortCallPanelDlg::PutBack(const PortCallSheet& sheet) {
 }
 
 void CPortCallPanelDlg::HideAfterLogout() {
-    editing_.HideEditors();
+    filling_.Forget();
     desk_.View().Hide();
 }
 

@@ -84,6 +84,15 @@ void VoyageFilling::Reset() {
     Fill(-1);
 }
 
+void VoyageFilling::Forget() {
+    next_.clear();
+    PortCallSheet& sheet = desk_.Sheet();
+    sheet.voyageId.clear();
+    sheet.editedVoyageId.clear();
+    sheet.aisCorrectionPending = false;
+    Clear();
+}
+
 int VoyageFilling::Open(int mode) {
     const PortCallDesk::Report report(desk_);
     int corrected = 0;

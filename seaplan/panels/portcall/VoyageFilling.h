@@ -30,6 +30,8 @@ class VoyageFilling {
     /// That voyage's stored rows, or six empty ones when it has none. Nothing where the changes of the voyage
     /// on show could not be saved.
     void Reset();
+    /// Forgets voyages, rows and changes without a question: another user's voyages may have the same ids.
+    void Forget();
     /// Shows that voyage with its fresh correction from AIS, made at a time in the user's zone that SetTime
     /// has told before. Fails as Open, and with -5 when the correction cannot be split and the plain voyage
     /// is shown.

@@ -36,6 +36,24 @@ TEST_F(PortCallFixture, AnUnknownLocalNameLeavesAFilledCell) {
     EXPECT_FALSE(view.state.changed);
 }
 
+// The next user's voyages may have the same ids: what is left here would be written into them.
+TEST_F(PortCallFixture, ALogoutLeavesNeitherRowsNorMarkNorVoyage) {
+    Open(kept);
+    Type(1, ColSpeed, "12");
+    ASSERT_TRUE(view.state.changed);
+    panel.HideAfterLogout();
+    EXPECT_FALSE(view.state.changed);
+    EXPECT_THAT(Column(ColPort), testing::Each(""));
+    EXPECT_TRUE(messages.messages.empty()) << "there is nobody left to answer a question";
+    desk.ForgetRecords();
+    panel.Commands().OnSave();
+    EXPECT_EQ(Saves(), 0);
+    const std::size_t told = messages.messages.size();
+    Open(fresh);
+    EXPECT_EQ(messages.messages.size(), told) << "nothing is left to be saved first";
+    EXPECT_EQ(Saves(), 0);
+}
+
 TEST_F(PortCallFixture, ABlankSpeedTakesTenAlsoWhenTheScheduleFails) {
     Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG", "GDANSK"});

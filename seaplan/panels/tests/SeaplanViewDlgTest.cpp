@@ -3,6 +3,7 @@
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TrvKernel.h>
+#include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
@@ -138,6 +139,23 @@ TEST_F(SeaplanViewDlgTest, LogoutEmptiesTheStoreAndTheNextToggleLoadsAgain) {
     EXPECT_EQ(Timers(), 1U);
     Toggle();
     EXPECT_EQ(Loads(), 2);
+}
+
+TEST_F(SeaplanViewDlgTest, AfterAChangeOfZoneTimesAreReadAnew) {
+    desk.AddCategory("Full");
+    const std::string vi = desk.AddVoyage("Full", {.name = "A", .calls = PanelDesk::Calls(5, 2)});
+    Toggle();
+    const auto start = [&] {
+        PortCallRows rows;
+        EXPECT_EQ(desk.voyages.LoadSchedule(vi, rows, -1), 0);
+        return rows.empty() ? std::string() : rows.front().eta.fmt(Util::kTimeFormat);
+    };
+    const std::string before = start();
+    const std::string rome = "Europe/Rome";
+    desk.host.zone = rome;
+    EXPECT_EQ(start(), before);
+    Interface::Raise(Interface::Bus::SwitchTimeZone, &rome);
+    EXPECT_NE(start(), before);
 }
 
 TEST_F(SeaplanViewDlgTest, TheVesselServiceAnswersByStep) {
