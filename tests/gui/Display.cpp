@@ -16,7 +16,24 @@ constexpr int kStartMs = 60000;
 
 }  // namespace
 
-Display::Display() {
+Display::Display(const std::string& manager) {
+    StartServer();
+    if (!manager.empty() && !name_.empty()) {
+        StartManager(manager);
+    }
+}
+
+void Display::StartManager(const std::string& manager) {
+    ChildProcess::Start start;
+    start.words = {manager};
+    start.environment["DISPLAY"] = name_;
+    manager_ = std::make_unique<ChildProcess>(start);
+    start.words = {XDOTOOL_PROGRAM, "get_num_desktops"};
+    EXPECT_TRUE(Eventually([&] { return std::atoi(RunToEnd(start).out.c_str()) > 0; }))
+        << "the window manager did not start";
+}
+
+void Display::StartServer() {
     int numbers[2];
     if (pipe2(numbers, O_CLOEXEC) != 0) {
         return;

@@ -52,6 +52,11 @@ void Person::Click(const std::string& window, int x, int y) const {
                  "the window pressed at " + std::to_string(x) + ", " + std::to_string(y) + " takes no keys");
 }
 
+void Person::AwaitKeys(const std::string& window) const {
+    AwaitOrThrow([&] { return FirstLine(Xdotool({"getwindowfocus"})) == window; },
+                 "the window takes no keys");
+}
+
 void Person::Drag(const std::string& window, int x, int y) const {
     constexpr int kGripX = 140;
     constexpr int kGripY = 15;

@@ -18,6 +18,8 @@ class Person {
     void AwaitGone(const std::string& title) const;
     /// Presses the left button at a place within a window and waits until the window takes the keys.
     void Click(const std::string& window, int x, int y) const;
+    /// Waits until a window takes the keys.
+    void AwaitKeys(const std::string& window) const;
     /// Drags a panel by its caption until its corner stands at a place of the screen.
     void Drag(const std::string& window, int x, int y) const;
     /// Types into the window that takes the keys.

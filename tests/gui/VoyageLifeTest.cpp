@@ -18,7 +18,9 @@ std::string SecondRow(const std::string& portCalls) {
     return Cut(portCalls, 10, 94, 400, 19);
 }
 
-class VoyageLife : public testing::Test {
+/// Without a window manager and, where the machine has one, with it: only a manager keeps the keyboard from a
+/// window that did not ask for it.
+class VoyageLife : public testing::TestWithParam<std::string> {
   protected:
     void SetUp() override { ASSERT_NE(display_.Name(), ""); }
 
@@ -34,12 +36,12 @@ class VoyageLife : public testing::Test {
         Await("select count(*) > 2 from book_rows", 1);
     }
 
-    Display display_;
+    Display display_{GetParam()};
     Person person_{display_.Name()};
     ClientTree client_;
 };
 
-TEST_F(VoyageLife, AVoyageMadeByHandIsThereAfterARestart) {
+TEST_P(VoyageLife, AVoyageMadeByHandIsThereAfterARestart) {
     std::string shown;
     {
         Sitting sitting(client_, person_, display_.Name());
@@ -74,7 +76,7 @@ TEST_F(VoyageLife, AVoyageMadeByHandIsThereAfterARestart) {
     EXPECT_EQ(again.Leave().exitCode, 0);
 }
 
-TEST_F(VoyageLife, LeavingWithUnsavedPortCallsAsksFirstAndCanBeTakenBack) {
+TEST_P(VoyageLife, LeavingWithUnsavedPortCallsAsksFirstAndCanBeTakenBack) {
     Sitting sitting(client_, person_, display_.Name());
     sitting.MakeVoyage();
     sitting.OpenEmptyPortCalls();
@@ -92,6 +94,42 @@ TEST_F(VoyageLife, LeavingWithUnsavedPortCallsAsksFirstAndCanBeTakenBack) {
     const Ended ended = sitting.Leave();
     EXPECT_EQ(ended.exitCode, 0) << ended.err;
 }
+
+TEST_P(VoyageLife, APanelThatWasAskedForTakesTheKeys) {
+    Sitting sitting(client_, person_, display_.Name());
+    sitting.MakeVoyage();
+    sitting.OpenEmptyPortCalls();
+    person_.AwaitKeys(sitting.portCalls);
+    const std::string empty = person_.Look(sitting.portCalls);
+    person_.Press({"F2"});
+    person_.Type("Rotterdam");
+    person_.Press({"Return"});
+    EXPECT_NE(person_.LookForChange(sitting.portCalls, empty), empty);
+    EXPECT_EQ(client_.Number("select count(*) from voyages where vn='Winter'"), 1);
+    EXPECT_EQ(client_.Number("select count(*) from categories where cn='Tankers'"), 1);
+}
+
+TEST_P(VoyageLife, F6GoesFromWindowToWindow) {
+    Sitting sitting(client_, person_, display_.Name());
+    sitting.MakeVoyage();
+    sitting.OpenEmptyPortCalls();
+    person_.AwaitKeys(sitting.portCalls);
+    person_.Press({"F6"});
+    person_.AwaitKeys(sitting.main);
+    person_.Press({"shift+F6"});
+    person_.AwaitKeys(sitting.portCalls);
+    person_.Press({"shift+F6"});
+    person_.AwaitKeys(sitting.voyages);
+}
+
+std::vector<std::string> Managers() {
+    const std::string manager = WINDOW_MANAGER;
+    return manager.empty() ? std::vector<std::string>{""} : std::vector<std::string>{"", manager};
+}
+
+INSTANTIATE_TEST_SUITE_P(Managers, VoyageLife, testing::ValuesIn(Managers()), [](const auto& info) {
+    return info.param.empty() ? "WithoutManager" : "WithManager";
+});
 
 }  // namespace
 }  // namespace Tarvik::Programs

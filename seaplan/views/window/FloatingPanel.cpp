@@ -46,6 +46,8 @@ void FloatingPanel::MoveCorner(Point corner) {
 void FloatingPanel::Raise() {
     show();
     raise();
+    // A window manager leaves the keyboard where it was unless it is asked.
+    activateWindow();
     FocusFirst();
 }
 
