@@ -2,8 +2,8 @@
 #include <cstdio>
 
 #include "host/client/plan/PlanCommand.h"
-#include "host/client/services/CommandLine.h"
 #include "host/client/services/AppFolders.h"
+#include "host/client/services/CommandLine.h"
 #include "host/client/shell/Runs.h"
 
 int main(int argc, char** argv) {

@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <fstream>
 
-
 namespace fs = std::filesystem;
 
 namespace Tarvik::Client {

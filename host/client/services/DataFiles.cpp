@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/services/AppFolders.h"
-
 #include <array>
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+
+#include "host/client/services/AppFolders.h"
 
 namespace fs = std::filesystem;
 

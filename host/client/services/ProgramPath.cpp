@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/services/AppFolders.h"
-
 #include <filesystem>
+
+#include "host/client/services/AppFolders.h"
 
 namespace Tarvik::Client {
 

@@ -23,8 +23,8 @@ class RotatingLog {
     std::mutex mutex_;
 };
 
-/// Tells the log what goes wrong on the bus while it lives, each thing once: a service that is missing is asked
-/// for at every key stroke.
+/// Tells the log what goes wrong on the bus while it lives, each thing once: a service that is missing is
+/// asked for at every key stroke.
 class BusLog {
   public:
     /// `log` outlives this.

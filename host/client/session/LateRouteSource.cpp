@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/session/EmbeddedLink.h"
-
 #include "host/server/api/Replies.h"
 #include "host/server/graph/adapter/GraphRouteSource.h"
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/seamap/core/LandSource.h"
-
 #include <tarvik/util/FileUtl.h>
 
 #include "host/geo/LandFile.h"
+#include "host/plugins/seamap/core/LandSource.h"
 
 namespace Tarvik::Seamap {
 

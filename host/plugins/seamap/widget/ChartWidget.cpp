@@ -13,7 +13,7 @@ namespace Tarvik::Seamap {
 namespace {
 
 constexpr int kWheelStep = 120;  ///< eighths of a degree of one notch
-constexpr int kArrowPan = 64;  ///< pixels
+constexpr int kArrowPan = 64;    ///< pixels
 constexpr const char* kPictures = "pictures";
 
 }  // namespace
@@ -70,7 +70,8 @@ bool ChartWidget::event(QEvent* event) {
         return QWidget::event(event);
     }
     const auto* help = static_cast<QHelpEvent*>(event);
-    const ChartObject* object = scene_.At({double(help->pos().x()), double(help->pos().y())}, View(), devicePixelRatioF());
+    const ChartObject* object =
+        scene_.At({double(help->pos().x()), double(help->pos().y())}, View(), devicePixelRatioF());
     if (object) {
         QToolTip::showText(help->globalPos(), ChartScene::TipOf(*object), this);
     } else {
@@ -190,7 +191,8 @@ void ChartWidget::focusOutEvent(QFocusEvent*) {
 }
 
 void ChartWidget::Point(std::optional<PixelPoint> pixel) {
-    const ChartObject* object = pixel && !press_.drags ? scene_.At(*pixel, View(), devicePixelRatioF()) : nullptr;
+    const ChartObject* object =
+        pixel && !press_.drags ? scene_.At(*pixel, View(), devicePixelRatioF()) : nullptr;
     const std::optional<ObjectKey> key = object ? std::optional(object->key) : std::nullopt;
     if (!press_.drags) {
         setCursor(key ? Qt::PointingHandCursor : Qt::OpenHandCursor);
