@@ -127,8 +127,8 @@ std::vector<std::string> Managers() {
     return manager.empty() ? std::vector<std::string>{""} : std::vector<std::string>{"", manager};
 }
 
-INSTANTIATE_TEST_SUITE_P(Managers, VoyageLife, testing::ValuesIn(Managers()), [](const auto& info) {
-    return info.param.empty() ? "WithoutManager" : "WithManager";
+INSTANTIATE_TEST_SUITE_P(Managers, VoyageLife, testing::ValuesIn(Managers()), [](const auto& window) {
+    return window.param.empty() ? "WithoutManager" : "WithManager";
 });
 
 }  // namespace

@@ -33,13 +33,13 @@ struct TableRow {
 };
 
 /// Names of the images at a row's end, as presses on them are reported.
-namespace RowImage {
+namespace PortCallImage {
 
 inline constexpr const char* kMoveUp = "itemMoveUp";
 inline constexpr const char* kMoveDown = "itemMovedown";
 inline constexpr const char* kDelete = "itemdel";
 
-}  // namespace RowImage
+}  // namespace PortCallImage
 
 /// The port call table: numbered rows, the totals row, and after a reset one closing row. Numbers stand in
 /// the units on show. A value: copies are independent of each other.

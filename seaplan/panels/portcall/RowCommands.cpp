@@ -16,13 +16,13 @@ int RowCommands::Move(int row, const std::string& name) {
     const PortCallTable& table = desk_.Sheet().table;
     const PortCallRows rows = table.ReadAllRows();
     PortCallRows moved;
-    if (name == RowImage::kDelete) {
+    if (name == PortCallImage::kDelete) {
         return ShowMoved(desk_.Voyages().DeleteRow(rows, row, moved), moved);
     }
-    if (name != RowImage::kMoveUp && name != RowImage::kMoveDown) {
+    if (name != PortCallImage::kMoveUp && name != PortCallImage::kMoveDown) {
         return -3;
     }
-    const bool up = name == RowImage::kMoveUp;
+    const bool up = name == PortCallImage::kMoveUp;
     const int result = ShowMoved(
         up ? desk_.Voyages().MoveRowUp(rows, row, moved) : desk_.Voyages().MoveRowDown(rows, row, moved),
         moved);
@@ -49,7 +49,7 @@ int RowCommands::OnItemImage(int row, const std::string& name) {
         return -2;
     }
     // No port moves above the ship's position.
-    if (name == RowImage::kMoveUp && corrected > 0 && row - 1 == ship) {
+    if (name == PortCallImage::kMoveUp && corrected > 0 && row - 1 == ship) {
         return 0;
     }
     const int result = Move(row, name);
@@ -64,12 +64,12 @@ bool RowCommands::OnTableKey(KeyPress press, int row, int column) {
             editing_.OnCellClicked(row, column);
             return true;
         case Key::Delete:
-            OnItemImage(row, RowImage::kDelete);
+            OnItemImage(row, PortCallImage::kDelete);
             return true;
         case Key::Up:
         case Key::Down:
             if (press.alt) {
-                OnItemImage(row, press.key == Key::Up ? RowImage::kMoveUp : RowImage::kMoveDown);
+                OnItemImage(row, press.key == Key::Up ? PortCallImage::kMoveUp : PortCallImage::kMoveDown);
             }
             return press.alt;
         case Key::Escape:

@@ -23,9 +23,9 @@ struct DrawnImage {
     TextId tip;
 };
 
-constexpr DrawnImage kImages[] = {{RowImage::kMoveUp, "up", TextId::IDS_VIEW_MOVEUP},
-                                  {RowImage::kMoveDown, "down", TextId::IDS_VIEW_MOVEDOWN},
-                                  {RowImage::kDelete, "delete", TextId::IDS_VIEW_DELETEROW}};
+constexpr DrawnImage kImages[] = {{PortCallImage::kMoveUp, "up", TextId::IDS_VIEW_MOVEUP},
+                                  {PortCallImage::kMoveDown, "down", TextId::IDS_VIEW_MOVEDOWN},
+                                  {PortCallImage::kDelete, "delete", TextId::IDS_VIEW_DELETEROW}};
 constexpr int kImageSize = 14;
 constexpr int kImageStep = 20;
 
