@@ -45,8 +45,12 @@ void Person::AwaitGone(const std::string& title) const {
         "the window stays: " + title);
 }
 
-void Person::Click(const std::string& window, int x, int y) const {
+void Person::PressAt(const std::string& window, int x, int y) const {
     Xdotool({"mousemove", "--window", window, std::to_string(x), std::to_string(y), "click", "1"});
+}
+
+void Person::Click(const std::string& window, int x, int y) const {
+    PressAt(window, x, y);
     const auto focused = [&] { return FirstLine(Xdotool({"getwindowfocus"})) == window; };
     AwaitOrThrow(focused,
                  "the window pressed at " + std::to_string(x) + ", " + std::to_string(y) + " takes no keys");

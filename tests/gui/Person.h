@@ -16,7 +16,9 @@ class Person {
     std::string AwaitWindow(const std::string& title) const;
     /// Waits until no visible window has the title.
     void AwaitGone(const std::string& title) const;
-    /// Presses the left button at a place within a window and waits until the window takes the keys.
+    /// Presses the left button at a place within a window.
+    void PressAt(const std::string& window, int x, int y) const;
+    /// The same, and waits until the window takes the keys. Not where the press opens another window.
     void Click(const std::string& window, int x, int y) const;
     /// Waits until a window takes the keys.
     void AwaitKeys(const std::string& window) const;

@@ -45,13 +45,15 @@ Sitting::~Sitting() {
 }
 
 void Sitting::OpenVoyages() {
-    person_.Click(main, kVoyagesTool.x, kVoyagesTool.y);
+    person_.PressAt(main, kVoyagesTool.x, kVoyagesTool.y);
     voyages = person_.AwaitWindow("Voyages");
+    person_.AwaitKeys(voyages);
 }
 
 void Sitting::OpenPortCalls(const Place& place) {
-    person_.Click(voyages, place.x, place.y);
+    person_.PressAt(voyages, place.x, place.y);
     portCalls = person_.AwaitWindow("Port calls");
+    person_.AwaitKeys(portCalls);
 }
 
 void Sitting::Await(const std::string& sql, long number) const {

@@ -127,7 +127,7 @@ TEST_F(CatalogRoundTripTest, OtherUserReachesNothing) {
     EXPECT_EQ(module.AddAisModTime(vi, "2026-03-01 08:00:00"), -5);
     EXPECT_EQ(Seaplan::SaveFigures(vi, {1, 1, 1, 1, 1, 1, 1}), -3);
     VoyageStore annsAsBob;
-    EXPECT_EQ(Seaplan::VoyCatalogModule(&annsAsBob).LoadAll("ann"), 0);
+    EXPECT_EQ(Seaplan::VoyCatalogModule(&annsAsBob).LoadAll("ann"), -2);
     EXPECT_TRUE(annsAsBob.categories.empty());
     host.user = "ann";
     EXPECT_EQ(Load().voyages.at(vi).vn, "New voyage - 0");

@@ -232,6 +232,7 @@ TEST(RestartTest, DataOfAFileAreThereForTheNextStart) {
         ASSERT_EQ(module.CreateVoyage("V", ci, vi), 0);
         PortCallRows rows(2);
         rows[0].ppn = rows[1].ppn = "Oslo";
+        rows[0].ppi = rows[1].ppi = "40001";
         ASSERT_EQ(Seaplan::SavePortCalls(vi, rows), 0);
     }
     {

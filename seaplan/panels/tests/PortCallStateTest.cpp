@@ -43,7 +43,7 @@ TEST_F(PortCallFixture, ALogoutLeavesNeitherRowsNorMarkNorVoyage) {
     ASSERT_TRUE(view.state.changed);
     panel.HideAfterLogout();
     EXPECT_FALSE(view.state.changed);
-    EXPECT_THAT(Column(ColPort), testing::Each(""));
+    EXPECT_THAT(Column(ColPort), testing::Each(" "));
     EXPECT_TRUE(messages.messages.empty()) << "there is nobody left to answer a question";
     desk.ForgetRecords();
     panel.Commands().OnSave();
