@@ -32,6 +32,9 @@ class AccountStorage {
   public:
     virtual ~AccountStorage() = default;
 
+    /// As Storage::GiveUp.
+    virtual void GiveUp() {}
+
     /// Adds a user who may log in. False when there is one of this name.
     virtual Outcome<bool> AddUser(const std::string& name, const std::string& passwordHash) = 0;
     virtual Outcome<std::optional<UserRecord>> FindUser(const std::string& name) = 0;

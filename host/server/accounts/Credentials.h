@@ -39,6 +39,10 @@ class Passwords {
     std::string decoy_;
 };
 
+/// Whether a login with the hash costs at most a few times what this program's hashes do. A text that is no
+/// hash matches no password and costs nothing.
+bool IsBearableHash(const std::string& hash);
+
 /// Length of a token in characters.
 inline constexpr std::size_t kTokenLength = 43;
 

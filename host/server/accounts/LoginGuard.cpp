@@ -12,6 +12,8 @@ namespace {
 
 constexpr std::size_t kMostCounts = 20000;
 
+}  // namespace
+
 std::string AddressKey(const std::string& address) {
     in6_addr wide{};
     if (inet_pton(AF_INET6, address.c_str(), &wide) != 1) {
@@ -21,8 +23,6 @@ std::string AddressKey(const std::string& address) {
     const std::size_t length = IN6_IS_ADDR_V4MAPPED(&wide) ? sizeof(wide) : sizeof(wide) / 2;
     return {bytes, length};
 }
-
-}  // namespace
 
 LoginGuard::LoginGuard(const LoginLimits& limits, ServerClock clock)
     : limits_(limits), clock_(std::move(clock)) {}

@@ -18,8 +18,12 @@ struct LoginLimits {
     std::int64_t windowSeconds = 0;  ///< a count starts with its first failure and is forgotten after this
 };
 
-/// Counts failed logins by user and by address. Addresses of IPv6 count by their first 64 bits, which are one
-/// household's. Counts live in this process. Safe to call from any thread.
+/// What counts as one address: an address of IPv4, the first 64 bits of one of IPv6, which are one
+/// household's.
+std::string AddressKey(const std::string& address);
+
+/// Counts failed logins by user and by address (AddressKey). Counts live in this process. Safe to call
+/// from any thread.
 class LoginGuard {
   public:
     LoginGuard(const LoginLimits& limits, ServerClock clock);

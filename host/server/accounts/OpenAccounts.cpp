@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <fcntl.h>
-#include <unistd.h>
-
 #include "host/server/accounts/SqlAccounts.h"
 #include "host/server/storage/sqlite/SqliteSession.h"
 
@@ -30,14 +27,6 @@ CREATE INDEX sessions_by_expiry ON sessions (expires);
     return all;
 }
 
-/// The data base makes its files with the rights of this one.
-void MakePrivate(const std::string& path) {
-    const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (file >= 0) {
-        ::close(file);
-    }
-}
-
 /// Accounts over the session that `open` makes.
 template <class Open>
 std::unique_ptr<AccountStorage> Opened(std::string& error, Open&& open) {
@@ -53,7 +42,6 @@ std::unique_ptr<AccountStorage> Opened(std::string& error, Open&& open) {
 
 std::unique_ptr<AccountStorage> OpenSqliteAccounts(const std::string& path, std::string& error) {
     return Opened(error, [&path] {
-        MakePrivate(path);
         const SqliteSchema schema{Steps(), kApplicationId, "the file is a data base of another kind"};
         return std::make_unique<SqliteSession>(path, schema);
     });

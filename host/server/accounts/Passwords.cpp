@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <array>
+#include <cinttypes>
+#include <cstdio>
 
 #include <sodium.h>
 
@@ -32,6 +34,24 @@ bool Passwords::Matches(const std::string& hash, const std::string& password) co
 
 void Passwords::Pretend(const std::string& password) const {
     static_cast<void>(Matches(decoy_, password));
+}
+
+bool IsBearableHash(const std::string& hash) {
+    constexpr std::uint64_t kTimes = 4;
+    const PasswordCost usual;
+    std::uint64_t kibibytes = 0;
+    std::uint64_t passes = 0;
+    std::uint64_t lanes = 0;
+    const std::size_t place = hash.find("$m=");
+    if (place == std::string::npos) {
+        return true;
+    }
+    if (std::sscanf(hash.c_str() + place, "$m=%20" SCNu64 ",t=%20" SCNu64 ",p=%20" SCNu64, &kibibytes,
+                    &passes, &lanes) != 3) {
+        return false;
+    }
+    return kibibytes <= kTimes * usual.memoryBytes / 1024 && passes <= kTimes * usual.passes &&
+           lanes <= kTimes;
 }
 
 bool Passwords::IsOutdated(const std::string& hash) const {

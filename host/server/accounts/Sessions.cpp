@@ -89,6 +89,10 @@ Outcome<std::optional<std::string>> Sessions::UserOf(const std::string& token) {
     return found;
 }
 
+std::string Sessions::TurnOf(const std::string& token) {
+    return memory_.UserOf(HashToken(token), clock_()).value_or(token);
+}
+
 Status Sessions::Close(const std::string& token) {
     Status removed = accounts_.RemoveSession(HashToken(token));
     memory_.Forget();

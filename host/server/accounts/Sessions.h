@@ -36,6 +36,8 @@ class Sessions {
     /// The user of a token; nothing for one that is unknown or over. A session that another process has ended
     /// may be taken for open until the second is over.
     Outcome<std::optional<std::string>> UserOf(const std::string& token);
+    /// Whose turn a request of this token is: the user, or, as long as nobody has looked for that, the token.
+    std::string TurnOf(const std::string& token);
     /// Ends the session of a token.
     Status Close(const std::string& token);
 

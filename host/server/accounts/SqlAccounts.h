@@ -17,6 +17,7 @@ class SqlAccounts : public AccountStorage {
     /// The tables of the session's data base are of the present version.
     explicit SqlAccounts(std::unique_ptr<SqlSession> session) : session_(std::move(session)) {}
 
+    void GiveUp() override { session_->GiveUp(); }
     Outcome<bool> AddUser(const std::string& name, const std::string& passwordHash) override;
     Outcome<std::optional<UserRecord>> FindUser(const std::string& name) override;
     Outcome<std::vector<UserRecord>> ListUsers() override;

@@ -22,6 +22,8 @@ enum class FaultReason {
     CategoryNotInUse,
     BookExists,
     NothingToAppendTo,
+    BookTakenOver,
+    TooManyRows,
     RowExists,
     RemarkExists,
     StorageFailed,

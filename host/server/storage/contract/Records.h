@@ -71,6 +71,9 @@ struct BookRowRecord {
     bool operator==(const BookRowRecord&) const = default;
 };
 
+/// Most port calls of a voyage, and most rows of its position book.
+inline constexpr std::size_t kMostRows = 100000;
+
 /// The position book of a voyage; a voyage has at most one.
 struct BookRecord {
     std::string id;

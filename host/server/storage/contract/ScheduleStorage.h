@@ -30,12 +30,15 @@ class ScheduleStorage {
                                             const std::string& date) = 0;
     virtual Status SetBookDate(const std::string& owner, const std::string& bookId,
                                const std::string& date) = 0;
-    /// Puts `rows`, which may be none, in the place of all rows; two of one sequence number are refused.
+    /// Puts `rows`, which may be none, in the place of all rows; two of one sequence number are refused. From
+    /// now on `writer`, a text that tells clients apart, may append.
     virtual Status ReplaceBookRows(const std::string& owner, const std::string& bookId,
-                                   const std::vector<BookRowRecord>& rows) = 0;
-    /// Adds rows to a book that has some; a sequence number that is taken is refused.
+                                   const std::string& writer, const std::vector<BookRowRecord>& rows) = 0;
+    /// Adds rows to a book that has some, if `writer` is who replaced them last: of two who write at once,
+    /// the last who began wins, and the other is refused. Refused too: a sequence number that is taken, and
+    /// rows that would be more than kMostRows with those that are there.
     virtual Status AppendBookRows(const std::string& owner, const std::string& bookId,
-                                  const std::vector<BookRowRecord>& rows) = 0;
+                                  const std::string& writer, const std::vector<BookRowRecord>& rows) = 0;
 
     /// In the order of their addition.
     virtual Outcome<std::vector<std::string>> LoadAisTimes(const std::string& owner,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/contract/ServerTime.h"
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
 
@@ -11,6 +12,22 @@ namespace Tarvik::Server {
 std::int64_t SystemSeconds() {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     return std::chrono::duration_cast<std::chrono::seconds>(now).count();
+}
+
+std::int64_t ForwardClock::Now() {
+    const std::scoped_lock lock(mutex_);
+    const std::int64_t steady = steady_();
+    last_ = std::max(followed_(), last_ + steady - lastSteady_);
+    lastSteady_ = steady;
+    return last_;
+}
+
+std::int64_t ForwardSeconds() {
+    static ForwardClock clock(SystemSeconds, [] {
+        const auto now = std::chrono::steady_clock::now().time_since_epoch();
+        return std::int64_t{std::chrono::duration_cast<std::chrono::seconds>(now).count()};
+    });
+    return clock.Now();
 }
 
 std::string UtcText(std::int64_t seconds) {

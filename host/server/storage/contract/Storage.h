@@ -38,6 +38,12 @@ class Storage {
   public:
     virtual ~Storage() = default;
 
+    /// Whether changes can be stored now: makes one that changes nothing, through to the disk.
+    virtual Status Check() = 0;
+    /// From now on no operation waits for others or for a data base that is silent: it fails instead. For the
+    /// end of a process.
+    virtual void GiveUp() = 0;
+
     virtual CatalogStorage& Catalog() = 0;
     virtual ScheduleStorage& Schedule() = 0;
     virtual RemarkStorage& Remarks() = 0;

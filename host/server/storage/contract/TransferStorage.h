@@ -44,6 +44,10 @@ struct OwnerCopy {
     std::vector<RemarkCopy> remarks;
 };
 
+/// Ids beyond this are not kept when they are added: those that are given out behind them would soon be too
+/// high for a file of exported users.
+inline constexpr std::int64_t kMostKeptId = 1'000'000'000'000;
+
 /// What is about to be added.
 struct CopyManifest {
     std::vector<std::string> owners;
@@ -72,7 +76,8 @@ class TransferStorage {
     /// What the owner had at one moment.
     virtual Outcome<OwnerCopy> ReadOwner(const std::string& owner) = 0;
     /// Adds all that the source hands out, or nothing. Ids stay as they are when all of them are beyond
-    /// those given out here; else every record gets a new one, and remarks follow their objects.
+    /// those given out here and none is beyond kMostKeptId; else every record gets a new one, and remarks
+    /// follow their objects.
     virtual Outcome<AddReport> AddOwners(const CopyManifest& manifest, const OwnerSource& source) = 0;
 };
 

@@ -15,8 +15,9 @@ namespace Tarvik::Server {
 namespace {
 
 /// A text of any length has its digest in the index, which is therefore asked for too.
-constexpr std::array<SqlPoint, 5> kPoints = {{
+constexpr std::array<SqlPoint, 6> kPoints = {{
     {"next id", "SELECT nextval('ids')"},
+    {"touch", "UPDATE schema_version SET version = version"},
     {"hold", "FOR UPDATE OF %"},
     {"share", "FOR SHARE OF %"},
     {"free", "FOR UPDATE OF % SKIP LOCKED"},
@@ -54,7 +55,7 @@ constexpr const char* kSessionSettings =
     "SELECT current_setting('server_encoding') = 'UTF8', "
     "set_config('synchronous_commit', CASE current_setting('synchronous_commit') WHEN 'off' THEN 'on' "
     "ELSE current_setting('synchronous_commit') END, false), "
-    "set_config('lock_timeout', '10s', false), set_config('statement_timeout', '30s', false), "
+    "set_config('lock_timeout', '10s', false), set_config('statement_timeout', '14s', false), "
     "set_config('idle_in_transaction_session_timeout', '30s', false), "
     "set_config('client_min_messages', 'warning', false), set_config('extra_float_digits', '1', false)";
 
@@ -69,8 +70,32 @@ void ForbidReconnecting(pqxx::connection& connection) {
 
 }  // namespace
 
+namespace {
+
+/// Lets the connection be watched for its scope.
+class Asking {
+  public:
+    explicit Asking(PostgresWatch::Line* line) : line_(line) {
+        if (line_ != nullptr) {
+            line_->Begin();
+        }
+    }
+    ~Asking() {
+        if (line_ != nullptr) {
+            line_->End();
+        }
+    }
+    Asking(const Asking&) = delete;
+    Asking& operator=(const Asking&) = delete;
+
+  private:
+    PostgresWatch::Line* line_;
+};
+
+}  // namespace
+
 struct PostgresConnection::Link {
-    explicit Link(const std::string& text) : connection(text) {
+    Link(const std::string& text, PostgresWatch* watch) : connection(text), line(watch, connection.sock()) {
         ForbidReconnecting(connection);
         // Details cite values, which are nobody else's business.
         connection.set_verbosity(pqxx::connection_base::terse);
@@ -80,12 +105,14 @@ struct PostgresConnection::Link {
     pqxx::quiet_errorhandler quiet{connection};
     std::unique_ptr<pqxx::transaction_base> transaction;
     std::map<std::string, std::string, std::less<>> prepared;
+    PostgresWatch::Line line;
     bool broken = false;
 };
 
 template <class Operation>
 auto PostgresConnection::Guarded(Operation&& operation) -> decltype(operation()) {
     try {
+        const Asking asking(link_ != nullptr ? &link_->line : nullptr);
         return operation();
     } catch (const pqxx::sql_error& error) {
         throw SqlError(WithoutSecrets(error.what(), connectionText_));
@@ -95,13 +122,17 @@ auto PostgresConnection::Guarded(Operation&& operation) -> decltype(operation())
         if (link_ != nullptr) {
             link_->broken = true;
         }
+        if (TimedOut()) {
+            throw SqlError("the data base did not answer in time");
+        }
         throw SqlError(WithoutSecrets(error.what(), connectionText_));
     }
 }
 
-PostgresConnection::PostgresConnection(const std::string& connectionText) : connectionText_(connectionText) {
+PostgresConnection::PostgresConnection(const std::string& connectionText, PostgresWatch* watch)
+    : connectionText_(connectionText) {
     const std::string complete = CompleteConnection(connectionText_);
-    Guarded([&] { link_ = std::make_unique<Link>(complete); });
+    Guarded([&] { link_ = std::make_unique<Link>(complete, watch); });
     Begin(Mode::Write);
     const bool utf8 = Execute(kSessionSettings).Flag(0, 0);
     Commit();
@@ -131,6 +162,7 @@ void PostgresConnection::Commit() {
 }
 
 void PostgresConnection::Rollback() noexcept {
+    const Asking asking(&link_->line);
     link_->transaction.reset();
 }
 
@@ -186,6 +218,14 @@ const std::string& PostgresConnection::Prepared(std::string_view sql) {
     const std::string name = "s" + std::to_string(link_->prepared.size());
     link_->connection.prepare(name, WithPoints(sql, kPoints));
     return link_->prepared.emplace(sql, name).first->second;
+}
+
+void PostgresConnection::AllowAnyTime() {
+    link_->line.AllowAnyTime();
+}
+
+bool PostgresConnection::TimedOut() const noexcept {
+    return link_ != nullptr && link_->line.TimedOut();
 }
 
 bool PostgresConnection::Usable() const noexcept {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "host/server/storage/postgres/PostgresValues.h"
+#include "host/server/storage/postgres/PostgresWatch.h"
 #include "host/server/storage/sql/SqlSession.h"
 
 namespace Tarvik::Server {
@@ -18,7 +19,8 @@ class PostgresConnection : public SqlConnection {
     using Mode = SqlMode;
 
     /// Connects; refuses a data base that does not keep its texts in UTF-8.
-    explicit PostgresConnection(const std::string& connectionText);
+    /// `watch` outlives the connection; null for none, and then a data base may hang for ever.
+    explicit PostgresConnection(const std::string& connectionText, PostgresWatch* watch = nullptr);
     ~PostgresConnection() override;
 
     void Begin(Mode mode);
@@ -30,6 +32,10 @@ class PostgresConnection : public SqlConnection {
 
     /// Runs all statements of a text that is used once, within a transaction.
     PostgresRows Execute(const std::string& sql);
+    /// From now on the data base may take any time for an answer.
+    void AllowAnyTime();
+    /// Whether the connection was broken because the data base was silent for too long.
+    bool TimedOut() const noexcept;
     /// False once the connection is broken; then it can only be ended.
     bool Usable() const noexcept;
 

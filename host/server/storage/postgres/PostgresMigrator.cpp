@@ -49,6 +49,7 @@ std::int64_t VersionOf(PostgresConnection& connection) {
 }  // namespace
 
 void MigratePostgres(PostgresConnection& connection) {
+    connection.AllowAnyTime();
     connection.Execute(kNoLimits);
     connection.Execute("SELECT pg_advisory_xact_lock(" + std::to_string(kMigrationLock) + ")");
     const auto& steps = PostgresMigrations();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -15,7 +16,8 @@ namespace Tarvik::Server {
 class PostgresPool {
   public:
     /// At most `most` connections, at least one; who needs another waits for one.
-    PostgresPool(std::string connectionText, int most);
+    /// A data base that is silent for `patience` is given up.
+    PostgresPool(std::string connectionText, int most, std::chrono::milliseconds patience);
 
     /// A connection in a transaction of this mode. One that broke while it was idle is replaced, together
     /// with all idle ones, since what broke it has mostly broken them too. Throws SqlError when no
@@ -24,14 +26,19 @@ class PostgresPool {
     /// Takes a connection back, wherever it stands: undoes what was not committed and ends it when it is
     /// broken.
     void GiveBack(std::unique_ptr<PostgresConnection> connection) noexcept;
+    /// Breaks every connection; nobody gets one any more.
+    void GiveUp();
 
   private:
     std::unique_ptr<PostgresConnection> TakeIdle();
-    std::unique_ptr<PostgresConnection> begin(SqlMode mode);
+    std::unique_ptr<PostgresConnection> Begin(SqlMode mode);
+    std::unique_ptr<PostgresConnection> BeginIdle(SqlMode mode);
     void DropIdle() noexcept;
 
     std::string connectionText_;
+    PostgresWatch watch_;
     std::mutex mutex_;
+    bool givenUp_ = false;
     std::condition_variable freed_;
     int free_;  ///< connections that may still be taken
     std::vector<std::unique_ptr<PostgresConnection>> idle_;

@@ -6,7 +6,7 @@
 namespace Tarvik::Server {
 
 PostgresSession::PostgresSession(const std::string& connectionText, const PostgresOptions& options)
-    : pool_(connectionText, options.connections) {
+    : pool_(connectionText, options.connections, options.patience) {
     PostgresLease lease(pool_, SqlMode::Write);
     MigratePostgres(*lease);
     (*lease).Commit();

@@ -9,7 +9,8 @@ namespace Tarvik::Server {
 
 /// Limits of the use of a data base server.
 struct PostgresOptions {
-    int connections = 8;  ///< most at the same time, at least 1
+    int connections = 8;                        ///< most at the same time, at least 1
+    std::chrono::milliseconds patience{15000};  ///< a data base that is silent for longer is given up
 };
 
 /// Runs each operation on a connection of its own. When the connection breaks while a change is being
@@ -18,6 +19,8 @@ class PostgresSession : public SqlSession {
   public:
     /// Connects and brings the data base to the present version; throws SqlError.
     PostgresSession(const std::string& connectionText, const PostgresOptions& options);
+
+    void GiveUp() override { pool_.GiveUp(); }
 
   protected:
     void Transact(SqlMode mode, const Transaction& work) override;

@@ -12,6 +12,7 @@ namespace Tarvik::Server {
 /// `{name}` or `{name:argument}`, and each kind of data base has one table of what stands there for it.
 ///
 ///   {next id}     a whole statement that takes the next id and gives it
+///   {touch}       a whole statement that writes a row as it is
 ///   {hold:t}      keeps the found rows of table t from everybody else until the transaction ends
 ///   {share:t}     lets others share them, and nobody change them
 ///   {free:t}      as {hold:t}, passing over the rows that others hold

@@ -65,25 +65,38 @@ Status SqlSchedule::SetBookDate(const std::string& owner, const std::string& boo
 }
 
 Status SqlSchedule::ReplaceBookRows(const std::string& owner, const std::string& bookId,
-                                    const std::vector<BookRowRecord>& rows) {
+                                    const std::string& writer, const std::vector<BookRowRecord>& rows) {
     return session_.Write([&](SqlConnection& connection) -> Status {
         if (!BookKnown(connection, owner, bookId, RowLock::Hold)) {
             return FaultReason::UnknownBook;
         }
         connection.Run("DELETE FROM book_rows WHERE owner = $1 AND pbi = $2", owner, bookId);
+        connection.Run("UPDATE position_books SET writer = $3 WHERE owner = $1 AND pbi = $2", owner, bookId,
+                       writer);
         return InsertBookRows(connection, owner, bookId, rows);
     });
 }
 
 Status SqlSchedule::AppendBookRows(const std::string& owner, const std::string& bookId,
-                                   const std::vector<BookRowRecord>& rows) {
+                                   const std::string& writer, const std::vector<BookRowRecord>& rows) {
     return session_.Write([&](SqlConnection& connection) -> Status {
         if (!BookKnown(connection, owner, bookId, RowLock::Hold)) {
             return FaultReason::UnknownBook;
         }
-        if (!connection.Query("SELECT 1 FROM book_rows WHERE owner = $1 AND pbi = $2 LIMIT 1", owner, bookId)
-                 ->Next()) {
+        const auto mine = connection.Query(
+            "SELECT 1 FROM position_books WHERE owner = $1 AND pbi = $2 AND writer IN ('', $3)", owner,
+            bookId, writer);
+        if (!mine->Next()) {
+            return FaultReason::BookTakenOver;
+        }
+        const auto counted =
+            connection.Query("SELECT count(*) FROM book_rows WHERE owner = $1 AND pbi = $2", owner, bookId);
+        const auto count = static_cast<std::size_t>(counted->Next() ? counted->Integer(0) : 0);
+        if (count == 0) {
             return FaultReason::NothingToAppendTo;
+        }
+        if (count + rows.size() > kMostRows) {
+            return FaultReason::TooManyRows;
         }
         return InsertBookRows(connection, owner, bookId, rows);
     });

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <exception>
 #include <functional>
 #include <optional>
@@ -10,6 +11,9 @@
 #include "host/server/storage/sql/SqlConnection.h"
 
 namespace Tarvik::Server {
+
+/// Who waits longer than this for a lock or a connection waits for something broken, and is told so.
+inline constexpr std::chrono::seconds kLockPatience{10};
 
 /// Whether a transaction changes anything.
 enum class SqlMode { Read, Write };
@@ -33,6 +37,9 @@ class SqlSession {
     auto Read(Work&& work) -> decltype(work(std::declval<SqlConnection&>())) {
         return Guarded(SqlMode::Read, work);
     }
+
+    /// Ends every wait for a lock, a connection or an answer, now and from now on, with a fault.
+    virtual void GiveUp() = 0;
 
   protected:
     /// Gives true when what it did is to be kept.

@@ -55,9 +55,9 @@ class SqlSchedule : public ScheduleStorage {
     Outcome<std::string> CreateBook(const std::string& owner, const std::string& voyageId,
                                     const std::string& date) override;
     Status SetBookDate(const std::string& owner, const std::string& bookId, const std::string& date) override;
-    Status ReplaceBookRows(const std::string& owner, const std::string& bookId,
+    Status ReplaceBookRows(const std::string& owner, const std::string& bookId, const std::string& writer,
                            const std::vector<BookRowRecord>& rows) override;
-    Status AppendBookRows(const std::string& owner, const std::string& bookId,
+    Status AppendBookRows(const std::string& owner, const std::string& bookId, const std::string& writer,
                           const std::vector<BookRowRecord>& rows) override;
     Outcome<std::vector<std::string>> LoadAisTimes(const std::string& owner,
                                                    const std::string& voyageId) override;
@@ -101,6 +101,13 @@ class SqlTransfer : public TransferStorage {
 /// All of it over one session. What opens a data base derives from it.
 class SqlStorage : public Storage {
   public:
+    Status Check() override {
+        return session_->Write([](SqlConnection& connection) -> Status {
+            connection.Run("{touch}");
+            return Done{};
+        });
+    }
+    void GiveUp() override { session_->GiveUp(); }
     CatalogStorage& Catalog() override { return catalog_; }
     ScheduleStorage& Schedule() override { return schedule_; }
     RemarkStorage& Remarks() override { return remarks_; }

@@ -43,7 +43,8 @@ bool HasRecords(SqlConnection& connection, const std::string& owner) {
 
 /// Whether the records can keep their ids; then nobody else is given these.
 bool KeepIds(SqlConnection& connection, const CopyManifest& manifest) {
-    return manifest.highestId == 0 || connection.SkipIds(manifest.lowestId, manifest.highestId);
+    return manifest.highestId == 0 ||
+           (manifest.highestId <= kMostKeptId && connection.SkipIds(manifest.lowestId, manifest.highestId));
 }
 
 }  // namespace

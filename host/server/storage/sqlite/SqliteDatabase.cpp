@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/SqliteDatabase.h"
 
+#include <algorithm>
 #include <array>
+#include <thread>
 #include <utility>
 
 #include <sqlite3.h>
@@ -13,11 +15,10 @@ namespace Tarvik::Server {
 
 namespace {
 
-constexpr int kBusyMilliseconds = 10000;
-
 /// A file has one writer, so nobody can take away what a writing transaction has found.
-constexpr std::array<SqlPoint, 5> kPoints = {{
+constexpr std::array<SqlPoint, 6> kPoints = {{
     {"next id", "UPDATE next_id SET value = value + 1 RETURNING value - 1"},
+    {"touch", "UPDATE next_id SET value = value"},
     {"hold", ""},
     {"share", ""},
     {"free", ""},
@@ -60,12 +61,26 @@ SqliteDatabase::SqliteDatabase(const std::string& path) {
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
     if (sqlite3_open_v2(path.c_str(), &handle_, flags, nullptr) == SQLITE_OK) {
         sqlite3_extended_result_codes(handle_, 1);
-        sqlite3_busy_timeout(handle_, kBusyMilliseconds);
+        sqlite3_busy_handler(handle_, &SqliteDatabase::MayWait, this);
         return;
     }
     const std::string text = handle_ != nullptr ? sqlite3_errmsg(handle_) : "out of memory";
     sqlite3_close_v2(handle_);
     throw SqlError("cannot open the data base: " + text);
+}
+
+int SqliteDatabase::MayWait(void* self, int times) {
+    constexpr int kMostPause = 10;
+    auto& database = *static_cast<SqliteDatabase*>(self);
+    const auto now = std::chrono::steady_clock::now();
+    if (times == 0) {
+        database.waiting_ = now;
+    }
+    if (database.givenUp_ || now - database.waiting_ >= database.patience_) {
+        return 0;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(std::min(times + 1, kMostPause)));
+    return 1;
 }
 
 SqliteDatabase::~SqliteDatabase() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -20,6 +22,11 @@ class SqliteDatabase : public SqlConnection {
     /// Opens the file, which is made when there is none.
     explicit SqliteDatabase(const std::string& path);
     ~SqliteDatabase() override;
+
+    /// How long a statement waits for a lock of another connection; kLockPatience unless set.
+    void SetPatience(std::chrono::steady_clock::duration patience) { patience_ = patience; }
+    /// Ends waiting for locks, now and from now on. From any thread.
+    void GiveUp() { givenUp_ = true; }
 
     /// Runs every statement of the text.
     void Execute(std::string_view sql);
@@ -47,7 +54,13 @@ class SqliteDatabase : public SqlConnection {
   private:
     friend class SqliteTransaction;
 
+    /// Waits a little for a lock; 0 when that was long enough.
+    static int MayWait(void* self, int times);
+
     sqlite3* handle_ = nullptr;
+    std::chrono::steady_clock::duration patience_ = kLockPatience;
+    std::chrono::steady_clock::time_point waiting_;  ///< since when
+    std::atomic<bool> givenUp_{false};
     std::map<std::string, sqlite3_stmt*, std::less<>> statements_;  ///< null while lent
 };
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/SqliteSession.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 namespace Tarvik::Server {
@@ -9,6 +12,21 @@ namespace {
 
 /// Reading connections that are kept when nobody reads.
 constexpr std::size_t kMostIdle = 8;
+
+bool IsShared(const std::string& path) {
+    return !path.empty() && path != ":memory:";
+}
+
+/// The path, behind which stands a file now, made for its owner only if there was none; those beside it get
+/// the same rights from the library. One that is there is not even opened: closing it would end the locks
+/// that this process has on it.
+const std::string& MadePrivate(const std::string& path) {
+    const int file = IsShared(path) ? ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600) : -1;
+    if (file >= 0) {
+        ::close(file);
+    }
+    return path;
+}
 
 void RunIn(SqliteDatabase& database, SqlMode mode, const std::function<bool(SqlConnection&)>& work) {
     SqliteTransaction transaction(database, mode);
@@ -21,7 +39,7 @@ void RunIn(SqliteDatabase& database, SqlMode mode, const std::function<bool(SqlC
 
 SqliteSession::SqliteSession(const std::string& path, const SqliteSchema& schema,
                              const SqliteOptions& options)
-    : path_(path), shared_(!path.empty() && path != ":memory:"), writer_(path) {
+    : path_(MadePrivate(path)), shared_(IsShared(path)), writer_(path) {
     if (writer_.ReadOnly()) {
         throw SqlError("the data base is read-only: " + path);
     }
@@ -31,6 +49,12 @@ SqliteSession::SqliteSession(const std::string& path, const SqliteSchema& schema
     CheckVersion(writer_, schema);
     writer_.Execute("PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON");
     Migrate(writer_, schema);
+    if (shared_) {
+        // Files of earlier programs had the rights that the user's mask gave them.
+        for (const char* file : {"", "-wal", "-shm"}) {
+            ::chmod((path + file).c_str(), 0600);
+        }
+    }
     idle_.reserve(kMostIdle);
 }
 
@@ -39,9 +63,20 @@ void SqliteSession::Transact(SqlMode mode, const Transaction& work) {
         Reader reader(*this);
         RunIn(reader.Get(), mode, work);
     } else {
-        const std::scoped_lock lock(writing_);
+        // Both waits together have one limit: for who writes here, then for who writes elsewhere.
+        const auto end = std::chrono::steady_clock::now() + kLockPatience;
+        const std::unique_lock lock(writing_, end);
+        if (!lock || givenUp_) {
+            throw SqlError(givenUp_ ? "the server ends" : "the data base is locked by others");
+        }
+        writer_.SetPatience(end - std::chrono::steady_clock::now());
         RunIn(writer_, mode, work);
     }
+}
+
+void SqliteSession::GiveUp() {
+    givenUp_ = true;
+    writer_.GiveUp();
 }
 
 std::unique_ptr<SqliteDatabase> SqliteSession::TakeReader() {

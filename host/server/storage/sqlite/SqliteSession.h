@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -20,9 +21,11 @@ struct SqliteOptions {
 /// processes may have the file open too.
 class SqliteSession : public SqlSession {
   public:
-    /// Opens the file, making it when there is none, and brings it to the present version; throws SqlError.
-    /// An empty path or ":memory:" is a data base of this session alone, which ends with it.
+    /// Opens the file, making it for its owner only when there is none, and brings it to the present version;
+    /// throws SqlError. An empty path or ":memory:" is a data base of this session alone, which ends with it.
     SqliteSession(const std::string& path, const SqliteSchema& schema, const SqliteOptions& options = {});
+
+    void GiveUp() override;
 
   protected:
     void Transact(SqlMode mode, const Transaction& work) override;
@@ -47,8 +50,9 @@ class SqliteSession : public SqlSession {
 
     std::string path_;
     bool shared_;  ///< whether other connections see the same data
-    std::mutex writing_;
+    std::timed_mutex writing_;
     SqliteDatabase writer_;
+    std::atomic<bool> givenUp_{false};
     std::mutex pooling_;
     std::vector<std::unique_ptr<SqliteDatabase>> idle_;
 };

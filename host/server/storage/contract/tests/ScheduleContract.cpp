@@ -56,21 +56,37 @@ TEST_P(StorageContract, BookDateIsChanged) {
 TEST_P(StorageContract, BookRowsAreReplacedAndAppended) {
     const std::string voyage = MakeVoyage();
     const std::string book = Schedule().CreateBook("ann", voyage, kDate).Value();
-    EXPECT_EQ(ReasonOf(Schedule().AppendBookRows("ann", book, {Row(0)})), FaultReason::NothingToAppendTo);
-    ASSERT_TRUE(Schedule().ReplaceBookRows("ann", book, {Row(1), Row(0)}));
-    ASSERT_TRUE(Schedule().AppendBookRows("ann", book, {Row(2)}));
+    EXPECT_EQ(ReasonOf(Schedule().AppendBookRows("ann", book, "w", {Row(0)})),
+              FaultReason::NothingToAppendTo);
+    ASSERT_TRUE(Schedule().ReplaceBookRows("ann", book, "w", {Row(1), Row(0)}));
+    ASSERT_TRUE(Schedule().AppendBookRows("ann", book, "w", {Row(2)}));
     Reopen();
     EXPECT_EQ(Schedule().LoadBook("ann", voyage).Value()->rows, (std::vector{Row(0), Row(1), Row(2)}));
-    ASSERT_TRUE(Schedule().ReplaceBookRows("ann", book, {}));
+    ASSERT_TRUE(Schedule().ReplaceBookRows("ann", book, "w", {}));
     EXPECT_TRUE(Schedule().LoadBook("ann", voyage).Value()->rows.empty());
+}
+
+TEST_P(StorageContract, OfTwoWhoWriteABookAtOnceTheLastWhoBeganWins) {
+    const std::string voyage = MakeVoyage();
+    const std::string book = Schedule().CreateBook("ann", voyage, kDate).Value();
+    ASSERT_TRUE(Schedule().ReplaceBookRows("ann", book, "one", {Row(0)}));
+    ASSERT_TRUE(Schedule().AppendBookRows("ann", book, "one", {Row(1)}));
+    ASSERT_TRUE(Schedule().ReplaceBookRows("ann", book, "two", {Row(10)}));
+    EXPECT_EQ(ReasonOf(Schedule().AppendBookRows("ann", book, "one", {Row(2)})), FaultReason::BookTakenOver);
+    ASSERT_TRUE(Schedule().AppendBookRows("ann", book, "two", {Row(11)}));
+    Reopen();
+    EXPECT_EQ(Schedule().LoadBook("ann", voyage).Value()->rows, (std::vector{Row(10), Row(11)}));
+    EXPECT_EQ(ReasonOf(Schedule().AppendBookRows("ann", book, "one", {Row(12)})), FaultReason::BookTakenOver);
 }
 
 TEST_P(StorageContract, BookRowOfATakenNumberIsRefusedAndNothingOfTheRequestStays) {
     const std::string voyage = MakeVoyage();
     const std::string book = Schedule().CreateBook("ann", voyage, kDate).Value();
-    ASSERT_TRUE(Schedule().ReplaceBookRows("ann", book, {Row(0), Row(1)}));
-    EXPECT_EQ(ReasonOf(Schedule().AppendBookRows("ann", book, {Row(2), Row(1)})), FaultReason::RowExists);
-    EXPECT_EQ(ReasonOf(Schedule().ReplaceBookRows("ann", book, {Row(5), Row(5)})), FaultReason::RowExists);
+    ASSERT_TRUE(Schedule().ReplaceBookRows("ann", book, "w", {Row(0), Row(1)}));
+    EXPECT_EQ(ReasonOf(Schedule().AppendBookRows("ann", book, "w", {Row(2), Row(1)})),
+              FaultReason::RowExists);
+    EXPECT_EQ(ReasonOf(Schedule().ReplaceBookRows("ann", book, "w", {Row(5), Row(5)})),
+              FaultReason::RowExists);
     EXPECT_EQ(Schedule().LoadBook("ann", voyage).Value()->rows, (std::vector{Row(0), Row(1)}));
 }
 
@@ -93,8 +109,8 @@ TEST_P(StorageContract, ScheduleOfAnotherOwnerIsUnknown) {
     EXPECT_EQ(ReasonOf(Schedule().LoadBook("bob", voyage)), FaultReason::UnknownVoyage);
     EXPECT_EQ(ReasonOf(Schedule().CreateBook("bob", voyage, kDate)), FaultReason::UnknownVoyage);
     EXPECT_EQ(ReasonOf(Schedule().SetBookDate("bob", book, kDate)), FaultReason::UnknownBook);
-    EXPECT_EQ(ReasonOf(Schedule().ReplaceBookRows("bob", book, {Row(0)})), FaultReason::UnknownBook);
-    EXPECT_EQ(ReasonOf(Schedule().AppendBookRows("bob", book, {Row(0)})), FaultReason::UnknownBook);
+    EXPECT_EQ(ReasonOf(Schedule().ReplaceBookRows("bob", book, "w", {Row(0)})), FaultReason::UnknownBook);
+    EXPECT_EQ(ReasonOf(Schedule().AppendBookRows("bob", book, "w", {Row(0)})), FaultReason::UnknownBook);
     EXPECT_EQ(ReasonOf(Schedule().LoadAisTimes("bob", voyage)), FaultReason::UnknownVoyage);
     EXPECT_EQ(ReasonOf(Schedule().AddAisTime("bob", voyage, kDate)), FaultReason::UnknownVoyage);
 }

@@ -48,9 +48,9 @@ bool Write(Storage& storage, int number) {
         case kCalls:
             return storage.Schedule().ReplacePortCalls(kOwner, kVoyage, CallsOf(number)).Succeeded();
         case kReplaceRows:
-            return storage.Schedule().ReplaceBookRows(kOwner, kBook, RowsOf(number, 0)).Succeeded();
+            return storage.Schedule().ReplaceBookRows(kOwner, kBook, {}, RowsOf(number, 0)).Succeeded();
         case kAppendRows:
-            return storage.Schedule().AppendBookRows(kOwner, kBook, RowsOf(number, kBlock)).Succeeded();
+            return storage.Schedule().AppendBookRows(kOwner, kBook, {}, RowsOf(number, kBlock)).Succeeded();
         default:
             return storage.Catalog().CreateCategory(kOwner, std::to_string(number)).Succeeded();
     }

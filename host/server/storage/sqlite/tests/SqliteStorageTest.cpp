@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <atomic>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sys/stat.h>
 #include <thread>
 
 #include <gmock/gmock.h>
@@ -38,6 +40,29 @@ TEST_F(SqliteStorageTest, NewFileHasTheNewestVersionAndSyncsEveryChange) {
     SqliteDatabase database(path_);
     EXPECT_EQ(database.QueryInteger("PRAGMA user_version"), static_cast<std::int64_t>(Migrations().size()));
     EXPECT_EQ(database.QueryInteger("SELECT 'wal' = (SELECT journal_mode FROM pragma_journal_mode)"), 1);
+}
+
+TEST_F(SqliteStorageTest, FilesAreForTheirOwnerOnly) {
+    constexpr auto kOwner = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
+    const mode_t before = ::umask(0);
+    for (int round = 0; round < 2; ++round) {
+        const auto storage = Open();
+        ASSERT_NE(storage, nullptr) << error_;
+        ASSERT_TRUE(storage->Catalog().CreateCategory("ann", "A"));
+        EXPECT_EQ(std::filesystem::status(path_).permissions(), kOwner);
+        EXPECT_EQ(std::filesystem::status(path_ + "-wal").permissions(), kOwner);
+        // As an earlier program left it.
+        std::filesystem::permissions(path_, std::filesystem::perms::all);
+    }
+    ::umask(before);
+}
+
+TEST_F(SqliteStorageTest, CheckFindsAFileThatTakesNoChanges) {
+    const auto storage = Open();
+    ASSERT_NE(storage, nullptr) << error_;
+    EXPECT_TRUE(storage->Check());
+    SqliteDatabase(path_).Execute("ALTER TABLE next_id RENAME TO gone");
+    EXPECT_FALSE(storage->Check());
 }
 
 TEST_F(SqliteStorageTest, OlderFileIsBroughtToTheNewestVersionWithItsData) {
