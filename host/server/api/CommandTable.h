@@ -21,10 +21,18 @@ struct CommandCall {
     const ServerClock& clock;
     const std::string& user;
     std::string_view text;
+    const std::string& writer;  ///< tells the clients of one user apart
 };
 
 /// Gives the reply of a success; throws Refusal, having changed nothing.
 using CommandHandler = std::string (*)(const CommandCall& call);
+
+/// What a command keeps busy: what waits for a lock or searches long must not keep readers waiting.
+enum class CommandKind {
+    Read,
+    Change,  ///< also where only some of its operations change anything
+    Route,
+};
 
 /// One command of the protocol. A new one is an entry of the table with its handler in CommandHandlers.h.
 struct CommandEntry {
@@ -33,6 +41,7 @@ struct CommandEntry {
     std::string_view name;     ///< what it does, as docs/wire-format.md says it
     std::string_view request;  ///< an example of its request, also from there
     std::string_view label;    ///< in metrics and log
+    CommandKind kind;
     CommandHandler handle;
 
     constexpr std::uint16_t Number() const { return Interface::NumberOf(command); }

@@ -30,6 +30,7 @@ constexpr ErrorRow kErrors[] = {
     {ErrorCode::TooManyRows, "the request holds too many rows"},
     {ErrorCode::RequestTooLong, "the request is too long"},
     {ErrorCode::UnknownPort, "a port call names no known port"},
+    {ErrorCode::ReplyTooLong, "the reply would be too long"},
     {ErrorCode::OtherUser, "the request names another user"},
     {ErrorCode::NoUser, "nobody is logged in"},
     {ErrorCode::UnknownCategory, "there is no such category"},
@@ -44,8 +45,13 @@ constexpr ErrorRow kErrors[] = {
     {ErrorCode::NothingToAppendTo, "the position book has no rows to append to"},
     {ErrorCode::RowExists, "a row's number is taken"},
     {ErrorCode::RemarkExists, "a remark of this number exists already"},
+    {ErrorCode::BookTakenOver, "another client has begun to write the position book"},
     {ErrorCode::StorageFailed, "the data could not be stored or read"},
     {ErrorCode::Internal, "the server failed"},
+    {ErrorCode::TooFewStops, "a route needs two stops"},
+    {ErrorCode::UnknownStop, "there is no such stop"},
+    {ErrorCode::NoWay, "there is no way between two stops"},
+    {ErrorCode::BadPosition, "a position is none"},
 };
 
 /// In the order of FaultReason.
@@ -53,8 +59,8 @@ constexpr std::array kFaultCodes = {
     ErrorCode::UnknownCategory,   ErrorCode::UnknownVoyage,    ErrorCode::UnknownBook,
     ErrorCode::UnknownRemark,     ErrorCode::UnknownObject,    ErrorCode::NotInUse,
     ErrorCode::NotInBin,          ErrorCode::CategoryNotInUse, ErrorCode::BookExists,
-    ErrorCode::NothingToAppendTo, ErrorCode::RowExists,        ErrorCode::RemarkExists,
-    ErrorCode::StorageFailed,
+    ErrorCode::NothingToAppendTo, ErrorCode::BookTakenOver,    ErrorCode::TooManyRows,
+    ErrorCode::RowExists,         ErrorCode::RemarkExists,     ErrorCode::StorageFailed,
 };
 static_assert(kFaultCodes.size() == static_cast<std::size_t>(FaultReason::StorageFailed) + 1);
 

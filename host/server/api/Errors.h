@@ -26,6 +26,7 @@ enum class ErrorCode : int {
     TooManyRows = 13,
     RequestTooLong = 14,
     UnknownPort = 15,
+    ReplyTooLong = 16,
     OtherUser = 20,
     NoUser = 21,
     UnknownCategory = 30,
@@ -40,8 +41,13 @@ enum class ErrorCode : int {
     NothingToAppendTo = 44,
     RowExists = 45,
     RemarkExists = 46,
+    BookTakenOver = 47,
     StorageFailed = 50,
     Internal = 51,
+    TooFewStops = 60,  ///< of the search for routes, as the next one
+    UnknownStop = 61,
+    NoWay = 62,
+    BadPosition = 63,
 };
 
 /// What the code says, in English, without a full stop.

@@ -29,7 +29,7 @@ std::string KeepRemarks(const CommandCall& call) {
     const int operation = fields.Operation("optype");
     // A port call's object is an id and a name together.
     const RemarkObject object{fields.Number("type", kCategoryRemark, kPortCallRemark),
-                              fields.Text("objectid", kMaxNameBytes * 2)};
+                              fields.Text("objectid", kMaxObjectBytes)};
     switch (operation) {
         case kAdd:
             ValueOrRefuse(remarks.AddRemark(call.user, object, ReadRemark(fields, call.clock())));

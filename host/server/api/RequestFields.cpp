@@ -64,11 +64,8 @@ int RequestFields::Operation(std::string_view key) const {
 }
 
 void CheckText(std::string_view text, std::size_t most, std::string_view key) {
-    if (text.size() > most) {
-        throw Refusal(ErrorCode::TextTooLong, std::string(key));
-    }
-    if (text.find('\0') != std::string_view::npos) {
-        throw Refusal(ErrorCode::BadText, std::string(key));
+    if (const auto fault = FaultOf(text, most)) {
+        throw Refusal(*fault, std::string(key));
     }
 }
 

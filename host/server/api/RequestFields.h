@@ -9,16 +9,13 @@
 
 #include <tarvik/util/Jsona.h>
 
-#include "host/server/storage/contract/Records.h"
+#include "host/server/api/RecordRules.h"
 
 namespace Tarvik::Server {
 
 /// Keys of the consumption figures in their order on the wire.
 inline constexpr std::array<std::string_view, 7> kFigureKeys = {"vfn", "vff", "vfa", "vdn",
                                                                 "vda", "vwn", "vwa"};
-
-inline constexpr std::size_t kMaxNameBytes = 4096;
-inline constexpr std::size_t kMaxBodyBytes = 65536;
 
 /// The members of a request object. A member that is not there or not of the form asked for refuses the
 /// request.

@@ -26,9 +26,9 @@ std::string WriteBookRows(const CommandCall& call) {
         rows.push_back(ReadBookRow(texts[i]));
     }
     if (texts[1] == "0") {
-        ValueOrRefuse(call.storage.Schedule().ReplaceBookRows(call.user, texts[0], rows));
+        ValueOrRefuse(call.storage.Schedule().ReplaceBookRows(call.user, texts[0], call.writer, rows));
     } else if (texts[1] == "1") {
-        ValueOrRefuse(call.storage.Schedule().AppendBookRows(call.user, texts[0], rows));
+        ValueOrRefuse(call.storage.Schedule().AppendBookRows(call.user, texts[0], call.writer, rows));
     } else {
         throw Refusal(ErrorCode::UnknownOperation, "item 1");
     }

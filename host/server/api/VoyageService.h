@@ -6,8 +6,22 @@
 #include <string_view>
 
 #include "host/server/api/CommandTable.h"
+#include "host/server/api/Errors.h"
 
 namespace Tarvik::Server {
+
+/// A reply text with what it means.
+struct VoyageReply {
+    std::string text;
+    bool refused = false;                  ///< `eid` is not 0
+    ErrorCode code = ErrorCode::Internal;  ///< when it is refused
+    std::string failure;                   ///< what the server could not do, for whoever runs it
+
+    /// Whether the server is at fault, and not the request.
+    bool Failed() const {
+        return refused && (code == ErrorCode::StorageFailed || code == ErrorCode::Internal);
+    }
+};
 
 /// Answers every command of the protocol for one storage and one source of routes, which both outlive it.
 ///
@@ -18,7 +32,11 @@ class VoyageService {
   public:
     VoyageService(Storage& storage, RouteSource& routes, ServerClock clock = SystemSeconds);
 
-    /// The reply text to one request text of a logged-in user.
+    /// The reply to one request text of a logged-in user. Its text tells nothing of the data base behind the
+    /// server; `failure` does. `writer` tells the clients of one user apart.
+    VoyageReply Answer(const std::string& user, std::uint16_t moduleWord, std::uint16_t command,
+                       std::string_view text, const std::string& writer = {});
+    /// The text of that reply alone.
     std::string Handle(const std::string& user, std::uint16_t moduleWord, std::uint16_t command,
                        std::string_view text);
 

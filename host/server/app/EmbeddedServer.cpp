@@ -37,7 +37,9 @@ std::string EmbeddedServer::Exchange(const std::string& user, const Interface::V
     if (text.ends_with('\0')) {
         text.remove_suffix(1);
     }
-    return service_.Handle(user, request->moduleWord, request->command, text);
+    VoyageReply reply = service_.Answer(user, request->moduleWord, request->command, text);
+    // Who asks is who runs it.
+    return reply.Failed() ? Replies::Error(reply.code, reply.failure) : std::move(reply.text);
 }
 
 }  // namespace Tarvik::Server

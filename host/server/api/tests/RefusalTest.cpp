@@ -282,6 +282,28 @@ TEST_F(RefusalTest, DestroyedRecordsAreUnknownToEveryCommand) {
     ExpectRefusals(cases);
 }
 
+TEST_F(RefusalTest, MoreRowsThanABookHolds) {
+    std::string rows = "[\"" + world_.book + "\",\"0\"";
+    for (std::size_t i = 0; i < kMostRows; ++i) {
+        rows += ",\"" + std::to_string(i) + "||1|2|GC|5|1|0\"";
+    }
+    ASSERT_EQ(Eid(Send(9, rows + "]")), 0);
+    const std::string more =
+        "[\"" + world_.book + "\",\"1\",\"" + std::to_string(kMostRows) + "||1|2|GC|5|1|0\"]";
+    EXPECT_EQ(Eid(Send(9, more)), static_cast<int>(E::TooManyRows));
+}
+
+TEST_F(RefusalTest, ReplyThatNoEnvelopeHolds) {
+    const std::string body(65536, 'b');
+    for (int seq = 2; seq < 260; ++seq) {
+        const std::string text = "{optype:\"1\",type:\"3\",objectid:\"" + world_.voyage + "\",seq:\"" +
+                                 std::to_string(seq) + "\",subject:\"\",body:\"" + body + "\"}";
+        ASSERT_EQ(Eid(Send(kRemark, text)), 0);
+    }
+    const std::string list = "{optype:\"4\",type:\"3\",objectid:\"" + world_.voyage + "\"}";
+    EXPECT_EQ(Send(kRemark, list), R"({"eid":16,"emsg":"the reply would be too long"})");
+}
+
 TEST_F(RefusalTest, UnknownModuleWordsAreRefused) {
     EchoRoutes routes;
     std::string error;

@@ -3,9 +3,16 @@
 
 #include <utility>
 
+#include "host/server/api/Errors.h"
 #include "host/server/graph/adapter/RouteMessages.h"
 
 namespace Tarvik::Server {
+
+// The protocol's one list of numbers has those of the search.
+static_assert(static_cast<int>(ErrorCode::TooFewStops) == kRouteTooFewPoints);
+static_assert(static_cast<int>(ErrorCode::UnknownStop) == kRouteUnknownPoint);
+static_assert(static_cast<int>(ErrorCode::NoWay) == kRouteNoWay);
+static_assert(static_cast<int>(ErrorCode::BadPosition) == kRouteBadPosition);
 
 std::unique_ptr<GraphRouteSource> GraphRouteSource::Open(const std::string& networkFile, std::string& error) {
     std::shared_ptr<const SeaNetwork> network = SeaNetwork::Load(networkFile, error);

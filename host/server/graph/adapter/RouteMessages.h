@@ -12,7 +12,7 @@
 namespace Tarvik::Server::RouteMessages {
 
 /// The most stops that one request may name.
-inline constexpr std::size_t kMaxStops = 1000;
+inline constexpr std::size_t kMaxStops = 200;
 
 struct NearestRequest {
     GeoPoint position;

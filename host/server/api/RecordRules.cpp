@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "host/server/api/RecordRules.h"
+
+#include <initializer_list>
+#include <string>
+
+namespace Tarvik::Server {
+
+namespace {
+
+constexpr std::int32_t kMostOrder = 1000000;
+// Far beyond any ship: a speed between two fixes close in time is what it is, and a save must not fail for
+// it.
+constexpr double kMostSpeedKmh = 1e9;
+constexpr double kMostHours = 1000000;
+// A line that crosses the date line may go on beyond 180 degrees.
+constexpr double kMostLongitude = 360;
+constexpr double kMostLatitude = 90;
+constexpr std::int32_t kMostSpacing = 360;
+constexpr std::int32_t kMostKind = 9;
+
+/// False for what is no number, too.
+template <class Number>
+bool IsWithin(Number number, Number least, Number most) {
+    return number >= least && number <= most;
+}
+
+/// A text of a row, whose fields are parted by bars.
+std::optional<ErrorCode> FaultOfFields(std::initializer_list<std::string_view> fields) {
+    for (const std::string_view field : fields) {
+        if (const auto fault = FaultOf(field, kMaxNameBytes)) {
+            return fault;
+        }
+        if (field.find('|') != std::string_view::npos) {
+            return ErrorCode::BadRow;
+        }
+    }
+    return std::nullopt;
+}
+
+/// A purpose may be missing, or blank on a row that stands for a ship's position; otherwise it is one of the
+/// list.
+bool IsPurpose(std::string_view text) {
+    constexpr std::string_view kPurposes = " 12BCDLOWYZ";
+    return text.empty() || (text.size() == 1 && kPurposes.find(text[0]) != std::string_view::npos);
+}
+
+}  // namespace
+
+std::optional<ErrorCode> FaultOf(std::string_view text, std::size_t most) {
+    if (text.size() > most) {
+        return ErrorCode::TextTooLong;
+    }
+    if (text.find('\0') != std::string_view::npos) {
+        return ErrorCode::BadText;
+    }
+    return std::nullopt;
+}
+
+std::optional<ErrorCode> FaultOf(const PortCallRecord& call) {
+    if (const auto fault = FaultOfFields({call.portId, call.portName, call.purpose})) {
+        return fault;
+    }
+    if (call.portId.empty() && call.portName.empty()) {
+        return ErrorCode::BadRow;
+    }
+    if (!IsPurpose(call.purpose)) {
+        return ErrorCode::BadPurpose;
+    }
+    // The client rounds to three decimals, so that its greatest factor below 1 arrives as 1.
+    const bool good = IsWithin(call.order, 0, kMostOrder) && IsWithin(call.speedKmh, 0.0, kMostSpeedKmh) &&
+                      IsWithin(call.weatherFactor, 0.0, 1.0) && IsWithin(call.hoursInPort, 0.0, kMostHours);
+    return good ? std::nullopt : std::optional(ErrorCode::BadNumber);
+}
+
+std::optional<ErrorCode> FaultOf(const BookRowRecord& row) {
+    if (const auto fault = FaultOfFields({row.name, row.sailing})) {
+        return fault;
+    }
+    const bool good =
+        IsWithin(row.order, 0, kMostOrder) && IsWithin(row.longitude, -kMostLongitude, kMostLongitude) &&
+        IsWithin(row.latitude, -kMostLatitude, kMostLatitude) && IsWithin(row.spacing, 0, kMostSpacing) &&
+        IsWithin(row.speedKmh, 0.0, kMostSpeedKmh) && IsWithin(row.kind, 0, kMostKind);
+    return good ? std::nullopt : std::optional(ErrorCode::BadNumber);
+}
+
+std::optional<ErrorCode> FaultOfNew(const PortCallRecord& call) {
+    if (const auto fault = FaultOf(call)) {
+        return fault;
+    }
+    if (call.portName.empty()) {
+        return ErrorCode::BadRow;
+    }
+    if (call.portId.empty()) {
+        return ErrorCode::UnknownPort;
+    }
+    // A blank stands for a ship's position in the plug-in's table, which is no port call.
+    const bool purposeless = call.purpose.empty() || call.purpose == " ";
+    return purposeless ? std::optional(ErrorCode::BadPurpose) : std::nullopt;
+}
+
+}  // namespace Tarvik::Server
