@@ -3,7 +3,7 @@
 
 #include <stdexcept>
 
-#include "host/server/net/http/HttpServer.h"
+#include "host/server/net/service/VoyageServer.h"
 
 namespace Bench {
 
@@ -11,7 +11,7 @@ using namespace Tarvik::Server;
 
 void ServeEchoes(Lane lane, const ChildProcess::Ready& ready) {
     EchoService service(lane);
-    HttpServer server(service, HttpLimits());
+    HttpServer server(service, HttpLimitsOf(Settings()));
     std::string error;
     if (!server.Listen("127.0.0.1", 0, {}, error)) {
         throw std::runtime_error(error);

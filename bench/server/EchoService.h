@@ -16,13 +16,18 @@ class EchoService : public Tarvik::Server::HttpService {
         return std::nullopt;
     }
     std::uint64_t BodyLimit(const Tarvik::Server::HttpRequest&) const override { return 1U << 20U; }
-    Tarvik::Server::Lane LaneOf(const Tarvik::Server::HttpRequest&) const override { return lane_; }
+    std::optional<Tarvik::Server::HttpReply> RefuseLarge(const Tarvik::Server::HttpRequest&) override {
+        return std::nullopt;
+    }
+    Tarvik::Server::Place PlaceOf(const Tarvik::Server::HttpRequest&) override { return {lane_, {}}; }
     Tarvik::Server::HttpReply Answer(const Tarvik::Server::HttpRequest& request) override {
         return {200, "application/octet-stream", request.body, {}};
     }
     void Refused(const Tarvik::Server::HttpRequest&, int) override {}
     void ConnectionsChanged(std::size_t) override {}
     void ConnectionRefused(const std::string&) override {}
+    void Failed(const std::string&) override {}
+    void CutShort() override {}
 
   private:
     Tarvik::Server::Lane lane_;

@@ -109,6 +109,7 @@ void OfficeServer::Serve(const std::string& folder, bool logRequests, const Chil
     settings.port = 0;
     settings.logRequests = logRequests;
     settings.maxConnections = 6000;
+    settings.maxConnectionsPerAddress = 0;
     settings.idleSeconds = 3600;
     ServerParts parts;
     parts.routes = std::make_unique<NoRoutes>();

@@ -78,7 +78,7 @@ void MeasureReads() {
     std::array<Contestant, 4> all = {
         Contestant("echo, by the thread that reads",
                    [](const auto& ready) { ServeEchoes(Lane::Inline, ready); }),
-        Contestant("echo, by the pool", [](const auto& ready) { ServeEchoes(Lane::Work, ready); }),
+        Contestant("echo, by the pool", [](const auto& ready) { ServeEchoes(Lane::Read, ready); }),
         Contestant("small reads, without request log",
                    [&](const auto& ready) { OfficeServer::Serve(quiet.File("."), false, ready); }),
         Contestant("small reads, with request log",

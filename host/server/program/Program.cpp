@@ -2,7 +2,10 @@
 #include "host/server/program/Program.h"
 
 #include <algorithm>
+#include <chrono>
+#include <cstdlib>
 #include <filesystem>
+#include <thread>
 
 #include "host/server/net/routes/OpenRoutes.h"
 #include "host/server/net/service/VoyageServer.h"
@@ -50,6 +53,15 @@ std::string NetworkOf(const Settings& settings) {
     return NetworkBeside(std::filesystem::read_symlink("/proc/self/exe", failed).string());
 }
 
+/// Ends the process although a thread may still work: what that has begun is there whole or not at all, as
+/// after a loss of power.
+void EndSoon() {
+    std::thread([] {
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+        std::_Exit(0);
+    }).detach();
+}
+
 int Serve(const Settings& settings, const ProgramParts& parts) {
     std::string error;
     ServerParts serverParts;
@@ -57,6 +69,7 @@ int Serve(const Settings& settings, const ProgramParts& parts) {
     if (serverParts.routes == nullptr) {
         return Say(parts, kFailed, error);
     }
+    serverParts.cutShort = EndSoon;
     const auto server = VoyageServer::Open(settings, std::move(serverParts), error);
     if (server == nullptr) {
         return Say(parts, kFailed, error);

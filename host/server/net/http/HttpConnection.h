@@ -8,31 +8,26 @@
 #include <type_traits>
 #include <utility>
 
-#include <boost/asio/awaitable.hpp>
-#include <boost/asio/co_spawn.hpp>
 #include <boost/asio/redirect_error.hpp>
-#include <boost/asio/ssl.hpp>
-#include <boost/asio/use_awaitable.hpp>
 #include <boost/beast/core.hpp>
 #include <boost/beast/http.hpp>
-#include <boost/beast/ssl.hpp>
 
 #include "host/server/net/http/HttpHost.h"
+#include "host/server/net/http/HttpRules.h"
+#include "host/server/net/http/HttpStreams.h"
 
 namespace Tarvik::Server {
 
-using PlainStream = boost::beast::tcp_stream;
-using TlsStream = boost::beast::ssl_stream<boost::beast::tcp_stream>;
-
-/// One connection from its first byte to its last. Lives on the thread that reads and writes.
+/// One connection from its first byte to its last. Lives on the thread that reads and writes. What it keeps
+/// of a peer who is not known is bounded: a buffer, a head, and kMostStrangersBytes of a body.
 template <class Stream>
 class HttpConnection : public OpenConnection, public std::enable_shared_from_this<HttpConnection<Stream>> {
   public:
     HttpConnection(std::shared_ptr<HttpHost> host, Stream stream, std::string address)
         : owner_(std::move(host)), host_(*owner_), stream_(std::move(stream)), address_(std::move(address)) {
-        host_.Add(this);
+        host_.Add(this, address_);
     }
-    ~HttpConnection() override { host_.Remove(this); }
+    ~HttpConnection() override { host_.Remove(this, address_); }
     HttpConnection(const HttpConnection&) = delete;
     HttpConnection& operator=(const HttpConnection&) = delete;
 
@@ -45,7 +40,8 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
     boost::asio::awaitable<void> Serve() {
         const auto self = this->shared_from_this();
         try {
-            co_await Handshake();
+            Allow(host_.Limits().request);
+            co_await ShakeHands(stream_);
             bool open = true;
             while (open) {
                 open = co_await ServeOne();
@@ -59,20 +55,10 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
     }
 
   private:
-    using Parser = boost::beast::http::request_parser<boost::beast::http::string_body>;
-    static constexpr bool kTls = std::is_same_v<Stream, TlsStream>;
     static constexpr auto kAwait = boost::asio::use_awaitable;
 
     boost::beast::tcp_stream& Tcp() { return boost::beast::get_lowest_layer(stream_); }
     void Allow(std::chrono::milliseconds time) { Tcp().expires_after(time); }
-
-    boost::asio::awaitable<void> Handshake() {
-        if constexpr (kTls) {
-            Allow(host_.Limits().request);
-            co_await stream_.async_handshake(boost::asio::ssl::stream_base::server, kAwait);
-        }
-        co_return;
-    }
 
     /// Reads and answers one request; false when the connection is to end.
     boost::asio::awaitable<bool> ServeOne() {
@@ -80,32 +66,25 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
             co_return false;
         }
         Allow(host_.Limits().request);
-        Parser parser;
-        parser.header_limit(16 * 1024);
+        RequestParser parser;
+        parser.header_limit(kMostHeadBytes);
         parser.body_limit(boost::none);
         boost::system::error_code failed;
         co_await boost::beast::http::async_read_header(stream_, buffer_, parser,
                                                        boost::asio::redirect_error(kAwait, failed));
-        HttpRequest request = HeadOf(parser);
+        HttpRequest request = HeadOf(parser, address_);
         if (failed) {
-            co_return co_await GiveUp(request, failed);
+            co_return co_await GiveUp(request, StatusOfFailure(failed), failed);
         }
-        if (auto refusal = host_.Service().RefuseHead(request)) {
+        if (auto refusal = co_await RefusalOf(request, parser)) {
             co_return co_await Refuse(request, std::move(*refusal), parser);
-        }
-        const std::uint64_t limit = host_.Service().BodyLimit(request);
-        parser.body_limit(limit);
-        const auto announced = parser.content_length();
-        if (announced && *announced > limit) {
-            co_return co_await TooLarge(request);
         }
         if (parser.get()[boost::beast::http::field::expect] == "100-continue") {
             co_await SayContinue();
         }
-        co_await boost::beast::http::async_read(stream_, buffer_, parser,
-                                                boost::asio::redirect_error(kAwait, failed));
+        co_await ReadBody(parser, host_.Service().BodyLimit(request), failed);
         if (failed) {
-            co_return co_await GiveUp(request, failed);
+            co_return co_await GiveUp(request, StatusOfFailure(failed), failed);
         }
         request.body = std::move(parser.get().body());
         HttpReply reply = co_await Answer(request);
@@ -130,14 +109,28 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
         co_return !failed;
     }
 
-    HttpRequest HeadOf(const Parser& parser) const {
-        const auto& head = parser.get();
-        HttpRequest request;
-        request.method = std::string(head.method_string());
-        request.target = std::string(head.target());
-        request.authorization = std::string(head[boost::beast::http::field::authorization]);
-        request.address = address_;
-        return request;
+    /// What speaks against reading the body: the head, the announced size, or a sender whom nobody knows.
+    boost::asio::awaitable<std::optional<HttpReply>> RefusalOf(const HttpRequest& request,
+                                                               RequestParser& parser) {
+        if (!HasOneFraming(parser)) {
+            co_return PlainReply(400);
+        }
+        if (auto refusal = host_.Service().RefuseHead(request)) {
+            co_return refusal;
+        }
+        const std::uint64_t limit = host_.Service().BodyLimit(request);
+        parser.body_limit(limit);
+        const std::uint64_t size = parser.chunked() ? limit : parser.content_length().value_or(0);
+        if (size > limit) {
+            co_return PlainReply(413);
+        }
+        if (size <= kMostStrangersBytes) {
+            co_return std::nullopt;
+        }
+        auto known = co_await InLane({Lane::Read, {}},
+                                     [this, &request] { return host_.Service().RefuseLarge(request); });
+        Allow(host_.Limits().request);
+        co_return known ? std::move(*known) : PlainReply(503);
     }
 
     boost::asio::awaitable<void> SayContinue() {
@@ -146,113 +139,93 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
         co_await boost::beast::http::async_write(stream_, go, kAwait);
     }
 
+    boost::asio::awaitable<void> ReadBody(RequestParser& parser, std::uint64_t limit,
+                                          boost::system::error_code& failed) {
+        if (!parser.chunked()) {
+            co_await boost::beast::http::async_read(stream_, buffer_, parser,
+                                                    boost::asio::redirect_error(kAwait, failed));
+            co_return;
+        }
+        const std::size_t most = MostChunkedBytes(limit);
+        std::size_t total = 0;
+        while (!failed && !parser.is_done()) {
+            total += co_await boost::beast::http::async_read_some(
+                stream_, buffer_, parser, boost::asio::redirect_error(kAwait, failed));
+            if (!failed && total > most) {
+                failed = boost::beast::http::error::body_limit;
+            }
+        }
+    }
+
     boost::asio::awaitable<HttpReply> Answer(const HttpRequest& request) {
-        const Lane lane = host_.Service().LaneOf(request);
-        if (lane == Lane::Inline) {
+        Place place = host_.Service().PlaceOf(request);
+        if (place.lane == Lane::Inline) {
             co_return host_.Service().Answer(request);
         }
-        HttpPool& pool = host_.Pool(lane);
-        if (pool.pending >= host_.Limits().queue) {
+        auto reply =
+            co_await InLane(std::move(place), [this, &request] { return host_.Service().Answer(request); });
+        if (!reply) {
             host_.Service().Refused(request, 503);
-            co_return Plain(503, "the server is busy", {{"Retry-After", "1"}});
+            co_return PlainReply(503);
         }
-        ++pool.pending;
-        // The time for reading is over; nothing is read or written while the pool works.
+        co_return std::move(*reply);
+    }
+
+    /// What the work gives, done by the threads of the place's lane; nothing when too much waits there.
+    template <class Work, class Result = std::invoke_result_t<Work&>>
+    boost::asio::awaitable<std::optional<Result>> InLane(Place place, Work work) {
+        HttpLane& lane = host_.LaneOf(place.lane);
+        if (host_.Pending() >= host_.Limits().queue) {
+            co_return std::nullopt;
+        }
+        // The time for reading is over; nothing is read or written while the threads work.
         Tcp().expires_never();
-        auto work = [this, &request]() -> boost::asio::awaitable<HttpReply> {
-            co_return host_.Service().Answer(request);
-        };
-        std::exception_ptr failed;
-        HttpReply reply;
-        try {
-            reply = co_await boost::asio::co_spawn(pool.threads, std::move(work), kAwait);
-        } catch (...) {
-            failed = std::current_exception();
+        LaneStay stay(lane, host_.Pending());
+        if (lane.line) {
+            stay.hasTurn = co_await lane.line->Enter(std::move(place.turn));
+            if (!stay.hasTurn) {
+                co_return std::nullopt;
+            }
         }
-        --pool.pending;
-        if (failed) {
-            std::rethrow_exception(failed);
-        }
-        co_return reply;
+        co_return co_await RunOn(*lane.threads, std::move(work));
     }
 
-    static HttpReply Plain(int status, const std::string& reason,
-                           std::vector<std::pair<std::string, std::string>> fields = {}) {
-        return {status, "application/json", "{\"error\":\"" + reason + "\"}", std::move(fields)};
-    }
-
-    /// A head that the service refuses: the connection can stay only when no body follows.
-    boost::asio::awaitable<bool> Refuse(const HttpRequest& request, HttpReply reply, const Parser& parser) {
+    /// A head that is refused: the connection can stay only when no body follows.
+    boost::asio::awaitable<bool> Refuse(const HttpRequest& request, HttpReply reply,
+                                        const RequestParser& parser) {
         host_.Service().Refused(request, reply.status);
-        const bool bare = !parser.chunked() && parser.content_length().value_or(0) == 0;
+        const bool bare =
+            HasOneFraming(parser) && !parser.chunked() && parser.content_length().value_or(0) == 0;
         co_return co_await Send(request, std::move(reply), bare && parser.get().keep_alive());
     }
 
-    boost::asio::awaitable<bool> TooLarge(const HttpRequest& request) {
-        host_.Service().Refused(request, 413);
-        co_return co_await Send(request, Plain(413, "the request is too large"), false);
-    }
-
     /// A request that could not be read. What does not speak HTTP is told so; who is gone or too slow is not.
-    boost::asio::awaitable<bool> GiveUp(const HttpRequest& request, boost::system::error_code failed) {
-        namespace http = boost::beast::http;
-        if (failed == http::error::body_limit) {
-            co_return co_await TooLarge(request);
+    boost::asio::awaitable<bool> GiveUp(const HttpRequest& request, int status,
+                                        boost::system::error_code failed) {
+        if (status != 0) {
+            host_.Service().Refused(request, status);
         }
-        if (failed == boost::beast::error::timeout) {
-            host_.Service().Refused(request, 408);
-        }
-        const bool spoken = failed.category() == http::make_error_code(http::error::bad_version).category() &&
-                            failed != http::error::end_of_stream && failed != http::error::partial_message;
-        if (!spoken) {
+        if (status == 0 || status == 408) {
             throw boost::system::system_error(failed);
         }
-        const bool longHead = failed == http::error::header_limit;
-        const int status = longHead ? 431 : 400;
-        host_.Service().Refused(request, status);
-        co_return co_await Send(
-            request, Plain(status, longHead ? "the head is too long" : "the request is malformed"), false);
+        co_return co_await Send(request, PlainReply(status), false);
     }
 
     boost::asio::awaitable<bool> Send(const HttpRequest& request, HttpReply reply, bool keep) {
-        namespace http = boost::beast::http;
-        http::response<http::string_body> response;
-        response.version(11);
-        response.result(static_cast<unsigned>(reply.status));
-        response.set(http::field::content_type, reply.contentType);
-        response.set(http::field::cache_control, "no-store");
-        for (const auto& [name, value] : reply.fields) {
-            response.set(name, value);
-        }
-        if (request.method != "HEAD") {
-            response.body() = std::move(reply.body);
-        }
         const bool stay = keep && !host_.Stopping();
-        response.keep_alive(stay);
-        response.prepare_payload();
+        const HttpResponse response = ResponseOf(request, std::move(reply), stay);
         Allow(host_.Limits().request);
-        co_await http::async_write(stream_, response, kAwait);
+        co_await boost::beast::http::async_write(stream_, response, kAwait);
         co_return stay;
     }
 
     /// Says goodbye and takes what the peer still sends, so that it sees the reply and no reset.
     boost::asio::awaitable<void> Finish() {
-        constexpr std::size_t kMostUnread = 64U * 1024 * 1024;
-        boost::system::error_code failed;
         Allow(host_.Limits().request);
-        if constexpr (kTls) {
-            co_await stream_.async_shutdown(boost::asio::redirect_error(kAwait, failed));
-        }
-        Tcp().socket().shutdown(boost::asio::ip::tcp::socket::shutdown_send, failed);
+        co_await SayGoodbye(stream_);
         idle_ = true;
-        if (host_.Stopping()) {
-            co_return;
-        }
-        std::string unread(16 * 1024, '\0');
-        std::size_t total = 0;
-        while (!failed && total < kMostUnread) {
-            total += co_await Tcp().async_read_some(boost::asio::buffer(unread),
-                                                    boost::asio::redirect_error(kAwait, failed));
+        if (!host_.Stopping()) {
+            co_await DropRest(Tcp());
         }
     }
 
@@ -260,7 +233,7 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
     HttpHost& host_;
     Stream stream_;
     std::string address_;
-    boost::beast::flat_buffer buffer_;
+    boost::beast::flat_buffer buffer_{kMostUnreadBytes};
     bool idle_ = false;
 };
 

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/http/HttpServer.h"
 
+#include <algorithm>
+#include <array>
 #include <csignal>
 
+#include <boost/asio/co_spawn.hpp>
 #include <boost/asio/detached.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
@@ -10,12 +13,55 @@
 #include <boost/asio/steady_timer.hpp>
 
 #include "host/server/net/http/HttpConnection.h"
-#include "host/server/net/http/TlsContext.h"
 
 namespace Tarvik::Server {
 
 namespace net = boost::asio;
 using net::ip::tcp;
+
+namespace {
+
+/// Logins that may wait: a hash takes a tenth of a second or less, and who waits longer is better told.
+constexpr std::size_t kMostLogins = 256;
+
+/// Before the time for what was begun is over, it is told that it will be.
+constexpr std::chrono::milliseconds kLastWords{1000};
+
+/// The threads of all lanes. Routes have threads of their own, so that a long search keeps nobody from
+/// loading; logins have one, since a password hash takes much memory.
+class HttpThreads {
+  public:
+    HttpThreads(HttpHost& host, std::size_t workers)
+        : routes_(std::max<std::size_t>(1, workers / 2)), pools_{{{workers}, {workers}, {routes_}, {1}}} {
+        for (const Lane lane : {Lane::Read, Lane::Write, Lane::Route, Lane::Login}) {
+            host.LaneOf(lane).threads = &pools_[static_cast<std::size_t>(lane) - 1].threads;
+        }
+        host.LaneOf(Lane::Route).line.emplace(routes_, host.Limits().queue / 2);
+        host.LaneOf(Lane::Login).line.emplace(1, kMostLogins);
+    }
+
+    void Stop() {
+        for (Pool& pool : pools_) {
+            pool.threads.stop();
+        }
+    }
+    void Join() {
+        for (Pool& pool : pools_) {
+            pool.threads.join();
+        }
+    }
+
+  private:
+    struct Pool {
+        Pool(std::size_t count) : threads(count) {}
+        net::thread_pool threads;
+    };
+
+    std::size_t routes_;
+    std::array<Pool, kPooledLanes> pools_;
+};
+
+}  // namespace
 
 /// Everything that needs the network library, kept out of the header.
 class HttpServer::Core {
@@ -25,9 +71,8 @@ class HttpServer::Core {
           signals_(io_),
           grace_(io_),
           pause_(io_),
-          host_(std::make_shared<HttpHost>(service, limits, work_, login_)),
-          work_(limits.workers),
-          login_(1) {}
+          host_(std::make_shared<HttpHost>(service, limits)),
+          threads_(*host_, limits.workers) {}
     ~Core() { host_->Abandon(); }
     Core(const Core&) = delete;
     Core& operator=(const Core&) = delete;
@@ -47,9 +92,11 @@ class HttpServer::Core {
   private:
     void WaitForSignal();
     void StopNow();
+    void GiveGrace(std::chrono::milliseconds time, void (Core::*then)());
+    void CutShort();
     void EndGrace();
     net::awaitable<void> Accept();
-    void open(tcp::socket socket);
+    void Open(tcp::socket socket);
     template <class Stream>
     void Serve(Stream stream, std::string address);
 
@@ -61,10 +108,7 @@ class HttpServer::Core {
     std::unique_ptr<net::ssl::context> tls_;
     std::uint16_t port_ = 0;
     std::shared_ptr<HttpHost> host_;
-    // The pools go first: what still lies in them holds on to sockets of io_. Logins have one thread, since a
-    // password hash takes much memory.
-    HttpPool work_;
-    HttpPool login_;
+    HttpThreads threads_;  ///< go first: what still lies in them holds on to sockets of io_
 };
 
 bool HttpServer::Core::Listen(const std::string& address, std::uint16_t port, const TlsFiles& files,
@@ -103,12 +147,18 @@ bool HttpServer::Core::Listen(const std::string& address, std::uint16_t port, co
 }
 
 void HttpServer::Core::Run() {
-    io_.run();
-    // A change that a thread has begun is brought to its end even when nobody waits for its reply any more.
-    for (HttpPool* pool : {&work_, &login_}) {
-        pool->threads.stop();
-        pool->threads.join();
+    // What a connection's bytes make a library throw ends that connection, never the server.
+    for (bool served = false; !served;) {
+        try {
+            io_.run();
+            served = true;
+        } catch (const std::exception& failure) {
+            host_->Service().Failed(failure.what());
+        }
     }
+    // A change that a thread has begun is brought to its end even when nobody waits for its reply any more.
+    threads_.Stop();
+    threads_.Join();
 }
 
 void HttpServer::Core::WaitForSignal() {
@@ -117,6 +167,7 @@ void HttpServer::Core::WaitForSignal() {
             return;
         }
         if (host_->Stopping()) {
+            CutShort();
             return EndGrace();
         }
         WaitForSignal();
@@ -131,12 +182,8 @@ void HttpServer::Core::StopNow() {
     boost::system::error_code ignored;
     acceptor_.close(ignored);
     pause_.cancel();
-    grace_.expires_after(host_->Limits().stop);
-    grace_.async_wait([this](boost::system::error_code failed) {
-        if (!failed) {
-            EndGrace();
-        }
-    });
+    const std::chrono::milliseconds time = host_->Limits().stop;
+    GiveGrace(time - std::min(time, kLastWords), &Core::CutShort);
     host_->Stop([this] {
         grace_.cancel();
         boost::system::error_code nothing;
@@ -144,9 +191,22 @@ void HttpServer::Core::StopNow() {
     });
 }
 
+void HttpServer::Core::GiveGrace(std::chrono::milliseconds time, void (Core::*then)()) {
+    grace_.expires_after(time);
+    grace_.async_wait([this, then](boost::system::error_code failed) {
+        if (!failed) {
+            (this->*then)();
+        }
+    });
+}
+
+void HttpServer::Core::CutShort() {
+    host_->Service().CutShort();
+    GiveGrace(std::min(host_->Limits().stop, kLastWords), &Core::EndGrace);
+}
+
 void HttpServer::Core::EndGrace() {
-    work_.threads.stop();
-    login_.threads.stop();
+    threads_.Stop();
     io_.stop();
 }
 
@@ -156,7 +216,11 @@ net::awaitable<void> HttpServer::Core::Accept() {
         boost::system::error_code failed;
         tcp::socket socket = co_await acceptor_.async_accept(net::redirect_error(net::use_awaitable, failed));
         if (!failed) {
-            open(std::move(socket));
+            try {
+                Open(std::move(socket));
+            } catch (const std::exception& failure) {
+                host_->Service().Failed(failure.what());
+            }
         } else if (!host_->Stopping()) {
             // Out of file handles, most likely: wait for connections to end instead of spinning.
             pause_.expires_after(kPause);
@@ -165,13 +229,13 @@ net::awaitable<void> HttpServer::Core::Accept() {
     }
 }
 
-void HttpServer::Core::open(tcp::socket socket) {
+void HttpServer::Core::Open(tcp::socket socket) {
     boost::system::error_code failed;
     std::string address = socket.remote_endpoint(failed).address().to_string();
     if (failed) {
         return;
     }
-    if (host_->OpenCount() >= host_->Limits().connections) {
+    if (!host_->HasRoom(address)) {
         host_->Service().ConnectionRefused(address);
         return;
     }

@@ -15,8 +15,8 @@ struct TlsFiles {
     std::string key;
 };
 
-/// HTTP/1.1 with keep-alive, over TCP or TLS. One thread reads and writes; two pools answer, so that slow
-/// requests hold up no connection.
+/// HTTP/1.1 with keep-alive, over TCP or TLS. One thread reads and writes; the threads of the lanes answer,
+/// so that slow requests hold up no connection and no others.
 class HttpServer {
   public:
     /// `service` is not owned and outlives this.

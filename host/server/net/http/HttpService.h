@@ -11,14 +11,15 @@
 
 namespace Tarvik::Server {
 
-/// What the HTTP server grants its clients.
+/// What the HTTP server grants its clients; Settings.h has the usual numbers.
 struct HttpLimits {
-    std::size_t connections = 1000;
-    std::size_t workers = 2;                   ///< threads for exchanges
-    std::size_t queue = 1000;                  ///< requests that may wait for or be in each pool
-    std::chrono::milliseconds idle{60000};     ///< a connection may be silent for between two requests
-    std::chrono::milliseconds request{30000};  ///< for reading a request, and for writing a reply
-    std::chrono::milliseconds stop{20000};     ///< for what was begun when the server is told to stop
+    std::size_t connections = 0;
+    std::size_t connectionsPerAddress = 0;  ///< of IPv6: its first 64 bits; 0 for no limit
+    std::size_t workers = 0;                ///< threads that read, and as many that write
+    std::size_t queue = 0;                  ///< requests that may be with threads or wait for them
+    std::chrono::milliseconds idle{};       ///< a connection may be silent for between two requests
+    std::chrono::milliseconds request{};    ///< for reading a request, and for writing a reply
+    std::chrono::milliseconds stop{};       ///< for what was begun when the server is told to stop
 };
 
 /// One request as the service sees it.
@@ -38,8 +39,16 @@ struct HttpReply {
     std::vector<std::pair<std::string, std::string>> fields;  ///< further fields by name
 };
 
-/// Where a request is answered: at once on the thread that reads and writes, or in one of the two pools.
-enum class Lane { Inline, Work, Login };
+/// Where a request is answered: at once on the thread that reads and writes, or by threads of its lane, so
+/// that who waits for a lock, a password hash or a long search keeps no thread from the others.
+enum class Lane { Inline, Read, Write, Route, Login };
+inline constexpr std::size_t kPooledLanes = 4;
+
+/// A lane, and whose turn the request counts as where requests take turns (routes and logins).
+struct Place {
+    Lane lane = Lane::Inline;
+    std::string turn;
+};
 
 /// What stands behind the HTTP server.
 class HttpService {
@@ -50,17 +59,25 @@ class HttpService {
     virtual std::optional<HttpReply> RefuseHead(const HttpRequest& head) const = 0;
     /// Most bytes of body that this request may have.
     virtual std::uint64_t BodyLimit(const HttpRequest& head) const = 0;
-    virtual Lane LaneOf(const HttpRequest& head) const = 0;
+    /// Looks once more before a large body is read, and may ask who sends it. Called on a thread of
+    /// Lane::Read.
+    virtual std::optional<HttpReply> RefuseLarge(const HttpRequest& head) = 0;
+    /// Where a whole request is answered.
+    virtual Place PlaceOf(const HttpRequest& request) = 0;
     /// Answers a whole request. Called from several threads at once; never throws.
     virtual HttpReply Answer(const HttpRequest& request) = 0;
 
     /// Told of every reply that the server gave without asking Answer: refused heads, malformed or oversized
-    /// requests, a full queue. Called on the thread that reads and writes.
+    /// requests, a full lane. Called on the thread that reads and writes.
     virtual void Refused(const HttpRequest& request, int status) = 0;
     /// Told how many connections are open now.
     virtual void ConnectionsChanged(std::size_t open) = 0;
     /// Told of a connection that was closed because there were too many.
     virtual void ConnectionRefused(const std::string& address) = 0;
+    /// Told of what ended one connection, and nothing else, although nothing should have.
+    virtual void Failed(const std::string& detail) = 0;
+    /// Told when the time for what was begun is nearly over: who waits for others is to give up.
+    virtual void CutShort() = 0;
 };
 
 }  // namespace Tarvik::Server

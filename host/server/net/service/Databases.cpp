@@ -14,7 +14,9 @@ namespace {
 
 /// Every thread that answers may have a connection, and the one for logins too.
 PostgresOptions PostgresOptionsOf(const Settings& settings) {
-    return {settings.workers + 1};
+    PostgresOptions options;
+    options.connections = 2 * settings.workers + 1;
+    return options;
 }
 
 /// The opened one as what it implements; null with the reason behind `what` in `error`.

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
+#include <mutex>
+#include <optional>
 #include <string>
 
 #include "host/server/accounts/Sessions.h"
@@ -35,6 +38,10 @@ class ExchangeEndpoint {
     /// A reply of the voyage service has status 200 also when it refuses (`eid` not 0); other statuses mean
     /// that the service was not asked.
     Answered Exchange(const HttpRequest& request);
+    /// The refusal of a request whose token is unknown or over, or cannot be looked up now.
+    std::optional<HttpReply> RefuseStranger(const HttpRequest& head);
+    /// Where the request's command is answered; routes take turns by user.
+    Place PlaceOf(const HttpRequest& request);
 
   private:
     VoyageService& service_;
@@ -56,6 +63,25 @@ class LoginEndpoint {
 
     Sessions& sessions_;
     std::int64_t life_;
+};
+
+/// Whether the data bases answer and take changes.
+class HealthEndpoint {
+  public:
+    HealthEndpoint(Storage& storage, AccountStorage& accounts) : storage_(storage), accounts_(accounts) {}
+
+    /// Status 200, or 503 with the reason as its detail. What was found holds for a second, so that nobody
+    /// makes the disk work by asking.
+    Answered Health();
+
+  private:
+    std::string Look();
+
+    Storage& storage_;
+    AccountStorage& accounts_;
+    std::mutex mutex_;
+    std::optional<std::chrono::steady_clock::time_point> looked_;
+    std::string trouble_;  ///< what was found then; empty when all was well
 };
 
 }  // namespace Tarvik::Server

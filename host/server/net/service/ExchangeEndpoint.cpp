@@ -7,10 +7,23 @@ namespace Tarvik::Server {
 
 namespace {
 
-/// Replies that refuse begin with their code.
-bool Refuses(std::string_view reply) {
-    constexpr std::string_view kCode = "{\"eid\":";
-    return reply.starts_with(kCode) && reply.size() > kCode.size() && reply[kCode.size()] != '0';
+Lane LaneOf(CommandKind kind) {
+    switch (kind) {
+        case CommandKind::Change:
+            return Lane::Write;
+        case CommandKind::Route:
+            return Lane::Route;
+        case CommandKind::Read:
+            break;
+    }
+    return Lane::Read;
+}
+
+/// What tells the clients of one user apart: each has logged in by itself. Of the token no more goes to the
+/// storage than that takes.
+std::string WriterOf(const HttpRequest& request) {
+    constexpr std::size_t kEnough = 16;
+    return HashToken(TokenOf(request.authorization)).substr(0, kEnough);
 }
 
 }  // namespace
@@ -30,17 +43,36 @@ Answered ExchangeEndpoint::Exchange(const HttpRequest& request) {
     } else {
         answered.user = *user.Value();
         answered.command = CommandLabel(envelope->moduleWord, envelope->command);
-        const std::string text =
-            service_.Handle(answered.user, envelope->moduleWord, envelope->command, envelope->text);
+        VoyageReply reply = service_.Answer(answered.user, envelope->moduleWord, envelope->command,
+                                            envelope->text, WriterOf(request));
         answered.reply = {200,
                           "application/octet-stream",
-                          WriteEnvelope({envelope->command, envelope->moduleWord, text}),
+                          WriteEnvelope({envelope->command, envelope->moduleWord, reply.text}),
                           {}};
-        answered.result = Refuses(text) ? "refused" : "ok";
+        answered.result = reply.Failed() ? "failed" : reply.refused ? "refused" : "ok";
+        answered.detail = std::move(reply.failure);
         return answered;
     }
     answered.result = ResultOf(answered.reply.status);
     return answered;
+}
+
+std::optional<HttpReply> ExchangeEndpoint::RefuseStranger(const HttpRequest& head) {
+    const auto user = sessions_.UserOf(TokenOf(head.authorization));
+    if (!user) {
+        return ErrorReply(503, "the server cannot read its data base now");
+    }
+    return user.Value() ? std::nullopt : std::optional(UnauthorizedReply("the token is unknown or over"));
+}
+
+Place ExchangeEndpoint::PlaceOf(const HttpRequest& request) {
+    const auto envelope = ReadEnvelope(request.body);
+    if (!envelope) {
+        return {Lane::Read, {}};
+    }
+    const CommandEntry* entry = FindCommand(envelope->moduleWord, envelope->command);
+    const Lane lane = entry == nullptr ? Lane::Read : LaneOf(entry->kind);
+    return {lane, lane == Lane::Route ? sessions_.TurnOf(TokenOf(request.authorization)) : std::string()};
 }
 
 }  // namespace Tarvik::Server

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "host/server/accounts/Credentials.h"
+#include "host/server/accounts/LoginGuard.h"
 
 namespace Tarvik::Server {
 
@@ -24,10 +25,10 @@ struct PathEntry {
 };
 
 constexpr std::array<PathEntry, 5> kPaths = {{
-    {"/v1/exchange", "POST", Path::Exchange, Lane::Work, "exchange"},
+    {"/v1/exchange", "POST", Path::Exchange, Lane::Read, "exchange"},
     {"/v1/login", "POST", Path::LogIn, Lane::Login, "login"},
-    {"/v1/logout", "POST", Path::LogOut, Lane::Work, "logout"},
-    {"/health", "GET", Path::Health, Lane::Work, "health"},
+    {"/v1/logout", "POST", Path::LogOut, Lane::Write, "logout"},
+    {"/health", "GET", Path::Health, Lane::Write, "health"},
     {"/metrics", "GET", Path::Metrics, Lane::Inline, "metrics"},
 }};
 
@@ -45,14 +46,12 @@ const PathEntry* Find(const std::string& target) {
 
 }  // namespace
 
-ServerFront::ServerFront(LoginEndpoint& logins, ExchangeEndpoint& exchange, std::function<bool()> healthy,
-                         Metrics& metrics, ServerLog& log, const FrontOptions& options)
-    : logins_(logins),
-      exchange_(exchange),
-      healthy_(std::move(healthy)),
-      metrics_(metrics),
-      log_(log),
-      options_(options) {}
+ServerFront::ServerFront(const FrontParts& parts, const FrontOptions& options)
+    : parts_(parts),
+      options_(options),
+      logins_(parts.sessions, options.sessionSeconds),
+      exchange_(parts.service, parts.sessions),
+      health_(parts.storage, parts.accounts) {}
 
 std::optional<HttpReply> ServerFront::RefuseHead(const HttpRequest& head) const {
     const PathEntry* entry = Find(head.target);
@@ -77,9 +76,19 @@ std::uint64_t ServerFront::BodyLimit(const HttpRequest& head) const {
     return exchange ? options_.maxBodyBytes : kSmallBodyBytes;
 }
 
-Lane ServerFront::LaneOf(const HttpRequest& head) const {
-    const PathEntry* entry = Find(head.target);
-    return entry != nullptr ? entry->lane : Lane::Inline;
+std::optional<HttpReply> ServerFront::RefuseLarge(const HttpRequest& head) {
+    return exchange_.RefuseStranger(head);
+}
+
+Place ServerFront::PlaceOf(const HttpRequest& request) {
+    const PathEntry* entry = Find(request.target);
+    if (entry == nullptr) {
+        return {};
+    }
+    if (entry->which == Path::Exchange) {
+        return exchange_.PlaceOf(request);
+    }
+    return {entry->lane, entry->lane == Lane::Login ? AddressKey(request.address) : std::string()};
 }
 
 HttpReply ServerFront::Answer(const HttpRequest& request) {
@@ -113,33 +122,31 @@ Answered ServerFront::Dispatch(const HttpRequest& request) {
         case Path::Exchange:
             return exchange_.Exchange(request);
         case Path::Health:
-            return Health();
+            return health_.Health();
         case Path::Metrics:
             break;
     }
-    return {{200, "text/plain; version=0.0.4; charset=utf-8", metrics_.Print(), {}}, "metrics", "ok", {}, {}};
-}
-
-Answered ServerFront::Health() {
-    const bool well = healthy_();
-    const char* text = well ? "{\"status\":\"ok\"}" : "{\"status\":\"the data base does not answer\"}";
-    return {{well ? 200 : 503, "application/json", text, {}}, "health", well ? "ok" : "failed", {}, {}};
+    return {{200, "text/plain; version=0.0.4; charset=utf-8", parts_.metrics.Print(), {}},
+            "metrics",
+            "ok",
+            {},
+            {}};
 }
 
 void ServerFront::Note(const HttpRequest& request, const Answered& answered, double seconds) {
-    metrics_.CountRequest(answered.command, answered.result, seconds);
+    parts_.metrics.CountRequest(answered.command, answered.result, seconds);
     const bool failed = answered.result == "failed";
     if (!failed && !options_.logRequests) {
         return;
     }
-    log_.Write(failed ? LogLevel::Error : LogLevel::Info, "request",
-               {{"command", answered.command},
-                {"result", answered.result},
-                {"status", std::to_string(answered.reply.status)},
-                {"user", answered.user},
-                {"address", request.address},
-                {"ms", fmt::format("{:.1f}", seconds * 1000)},
-                {"detail", answered.detail}});
+    parts_.log.Write(failed ? LogLevel::Error : LogLevel::Info, "request",
+                     {{"command", answered.command},
+                      {"result", answered.result},
+                      {"status", std::to_string(answered.reply.status)},
+                      {"user", answered.user},
+                      {"address", request.address},
+                      {"ms", fmt::format("{:.1f}", seconds * 1000)},
+                      {"detail", answered.detail}});
 }
 
 void ServerFront::Refused(const HttpRequest& request, int status) {
@@ -150,8 +157,12 @@ void ServerFront::Refused(const HttpRequest& request, int status) {
 }
 
 void ServerFront::ConnectionRefused(const std::string& address) {
-    metrics_.CountRefusedConnection();
-    log_.Write(LogLevel::Warning, "connection refused", {{"address", address}, {"reason", "too many"}});
+    parts_.metrics.CountRefusedConnection();
+    parts_.log.Write(LogLevel::Warning, "connection refused", {{"address", address}, {"reason", "too many"}});
+}
+
+void ServerFront::Failed(const std::string& detail) {
+    parts_.log.Write(LogLevel::Error, "connection failed", {{"detail", detail}});
 }
 
 }  // namespace Tarvik::Server

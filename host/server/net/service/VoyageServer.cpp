@@ -7,17 +7,6 @@ namespace Tarvik::Server {
 
 namespace {
 
-HttpLimits HttpLimitsOf(const Settings& settings) {
-    HttpLimits limits;
-    limits.connections = static_cast<std::size_t>(settings.maxConnections);
-    limits.workers = static_cast<std::size_t>(settings.workers);
-    limits.queue = static_cast<std::size_t>(settings.maxQueue);
-    limits.idle = std::chrono::seconds(settings.idleSeconds);
-    limits.request = std::chrono::seconds(settings.requestSeconds);
-    limits.stop = std::chrono::seconds(settings.stopSeconds);
-    return limits;
-}
-
 LoginLimits LoginLimitsOf(const Settings& settings) {
     return {settings.loginAttemptsPerUser, settings.loginAttemptsPerAddress,
             std::int64_t{60} * settings.loginWindowMinutes};
@@ -29,7 +18,7 @@ std::int64_t SessionSeconds(const Settings& settings) {
 
 FrontOptions FrontOptionsOf(const Settings& settings) {
     return {std::uint64_t{1024} * static_cast<std::uint64_t>(settings.maxBodyKilobytes),
-            settings.logRequests};
+            SessionSeconds(settings), settings.logRequests};
 }
 
 ServerLog MakeLog(ServerLog::Sink sink) {
@@ -37,6 +26,18 @@ ServerLog MakeLog(ServerLog::Sink sink) {
 }
 
 }  // namespace
+
+HttpLimits HttpLimitsOf(const Settings& settings) {
+    HttpLimits limits;
+    limits.connections = static_cast<std::size_t>(settings.maxConnections);
+    limits.connectionsPerAddress = static_cast<std::size_t>(settings.maxConnectionsPerAddress);
+    limits.workers = static_cast<std::size_t>(settings.workers);
+    limits.queue = static_cast<std::size_t>(settings.maxQueue);
+    limits.idle = std::chrono::seconds(settings.idleSeconds);
+    limits.request = std::chrono::seconds(settings.requestSeconds);
+    limits.stop = std::chrono::seconds(settings.stopSeconds);
+    return limits;
+}
 
 VoyageServer::VoyageServer(const Settings& settings, ServerParts parts, std::unique_ptr<Storage> storage,
                            std::unique_ptr<AccountStorage> accounts)
@@ -46,12 +47,11 @@ VoyageServer::VoyageServer(const Settings& settings, ServerParts parts, std::uni
       storage_(std::move(storage)),
       accounts_(std::move(accounts)),
       service_(*storage_, *routes_, parts.clock),
-      passwords_(parts.passwordCost),
-      sessions_(*accounts_, passwords_, LoginLimitsOf(settings), SessionSeconds(settings), parts.clock),
-      logins_(sessions_, SessionSeconds(settings)),
-      exchange_(service_, sessions_),
-      front_(
-          logins_, exchange_, [this] { return Healthy(); }, metrics_, log_, FrontOptionsOf(settings)),
+      sessions_(*accounts_, Passwords(parts.passwordCost), LoginLimitsOf(settings), SessionSeconds(settings),
+                parts.sessionClock),
+      front_({service_, sessions_, *storage_, *accounts_, metrics_, log_,
+              [this, tell = std::move(parts.cutShort)] { CutShort(tell); }},
+             FrontOptionsOf(settings)),
       http_(front_, HttpLimitsOf(settings)) {}
 
 std::unique_ptr<VoyageServer> VoyageServer::Open(const Settings& settings, ServerParts parts,
@@ -69,6 +69,11 @@ std::unique_ptr<VoyageServer> VoyageServer::Open(const Settings& settings, Serve
     }
     auto storage = OpenVoyages(settings, error);
     if (storage == nullptr) {
+        return nullptr;
+    }
+    if (const Status writable = storage->Check(); !writable) {
+        error =
+            "the data base " + DescribeData(settings) + " takes no changes: " + writable.GetFault().detail;
         return nullptr;
     }
     std::unique_ptr<VoyageServer> server(
@@ -90,8 +95,13 @@ void VoyageServer::Run() {
     log_.Write(LogLevel::Info, "stopped");
 }
 
-bool VoyageServer::Healthy() {
-    return accounts_->FindUser({}).Succeeded() && storage_->Catalog().LoadCatalog({}).Succeeded();
+void VoyageServer::CutShort(const std::function<void()>& tell) {
+    log_.Write(LogLevel::Warning, "cut short");
+    accounts_->GiveUp();
+    storage_->GiveUp();
+    if (tell) {
+        tell();
+    }
 }
 
 }  // namespace Tarvik::Server

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -14,10 +15,16 @@ namespace Tarvik::Server {
 /// What a server is given besides its settings.
 struct ServerParts {
     std::unique_ptr<RouteSource> routes;
-    ServerClock clock = SystemSeconds;
+    ServerClock clock = SystemSeconds;          ///< dates remarks
+    ServerClock sessionClock = ForwardSeconds;  ///< ends sessions and waits for logins; never goes back
     PasswordCost passwordCost;
+    std::function<void()>
+        cutShort;             ///< told, from any thread, when the time for what was begun is nearly over
     ServerLog::Sink logSink;  ///< empty: standard error
 };
+
+/// What the settings grant the clients of the HTTP server.
+HttpLimits HttpLimitsOf(const Settings& settings);
 
 /// The whole server: data bases, voyage service, sessions, HTTP.
 class VoyageServer {
@@ -41,7 +48,7 @@ class VoyageServer {
   private:
     VoyageServer(const Settings& settings, ServerParts parts, std::unique_ptr<Storage> storage,
                  std::unique_ptr<AccountStorage> accounts);
-    bool Healthy();
+    void CutShort(const std::function<void()>& tell);
 
     Settings settings_;
     ServerLog log_;
@@ -50,10 +57,7 @@ class VoyageServer {
     std::unique_ptr<Storage> storage_;
     std::unique_ptr<AccountStorage> accounts_;
     VoyageService service_;
-    Passwords passwords_;
     Sessions sessions_;
-    LoginEndpoint logins_;
-    ExchangeEndpoint exchange_;
     ServerFront front_;
     HttpServer http_;
 };

@@ -26,6 +26,7 @@ struct Settings {
     int loginWindowMinutes = 15;
     int maxBodyKilobytes = 2048;
     int maxConnections = 1000;
+    int maxConnectionsPerAddress = 64;
     int maxQueue = 1000;
     int idleSeconds = 60;
     int requestSeconds = 30;

@@ -95,6 +95,8 @@ std::vector<SettingsEntry> MakeTable() {
               "failed logins are forgotten after this"),
         Whole("max_body_kilobytes", &Settings::maxBodyKilobytes, 1, 16384, "largest request body"),
         Whole("max_connections", &Settings::maxConnections, 1, 100000, "open connections"),
+        Whole("max_connections_per_address", &Settings::maxConnectionsPerAddress, 0, 100000,
+              "open connections from one address; 0: no limit"),
         Whole("max_queue", &Settings::maxQueue, 1, 100000, "requests that may wait for a thread"),
         Whole("idle_seconds", &Settings::idleSeconds, 1, 3600, "a connection may be silent between requests"),
         Whole("request_seconds", &Settings::requestSeconds, 1, 3600,
