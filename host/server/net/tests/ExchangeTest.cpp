@@ -78,6 +78,22 @@ TEST_F(ExchangeTest, UserReachesOnlyWhatIsTheirs) {
     EXPECT_EQ(nlohmann::json::parse(Exchange(anna_, 3, "{ui:\"anna\"}"))[0]["cn"], "Hers");
 }
 
+TEST_F(ExchangeTest, OfTwoClientsWhoWriteABookAtOnceTheLastWhoBeganWins) {
+    const std::string other = server_.Token("anna", "correct horse");
+    const std::string success = R"({"eid":0})";
+    Exchange(anna_, 4, R"({ci:"",cn:"A",type:0})");
+    Exchange(anna_, 5, R"({ci:"1000001",vi:"",vn:"V",type:"0",vsi:"",vr:"0",va:"0"})");
+    Exchange(anna_, 8, R"({vi:"1000002",dt:"2026-03-01 00:00:00"})");
+    EXPECT_EQ(Exchange(anna_, 9, R"(["1000003","0","0|one|1|2|GC|5|1|0"])"), success);
+    EXPECT_EQ(Exchange(other, 9, R"(["1000003","0","0|two|1|2|GC|5|1|0"])"), success);
+    EXPECT_EQ(nlohmann::json::parse(Exchange(anna_, 9, R"(["1000003","1","1|one|1|2|GC|5|1|0"])"))["eid"],
+              47);
+    EXPECT_EQ(Exchange(other, 9, R"(["1000003","1","1|two|1|2|GC|5|1|0"])"), success);
+    const auto rows = nlohmann::json::parse(Exchange(anna_, 7, R"({vi:"1000002"})"))[0]["pb"];
+    EXPECT_EQ(rows.size(), 2U);
+    EXPECT_EQ(rows[1]["psn"], "two");
+}
+
 TEST_F(ExchangeTest, NeedsAToken) {
     const std::string body = EnvelopeBody(3, "{ui:\"anna\"}");
     EXPECT_EQ(server_.Ask("POST", "/v1/exchange", body).status, 401);

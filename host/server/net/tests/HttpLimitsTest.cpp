@@ -109,6 +109,22 @@ TEST(HttpLimits, ConnectionsBeyondTheLimitAreClosedAndCounted) {
     EXPECT_NE(metrics.find("seaplan_connections_refused_total 1\n"), std::string::npos);
 }
 
+TEST(HttpLimits, ConnectionsOfOneAddressHaveALimitOfTheirOwn) {
+    EXPECT_EQ(Settings().maxConnectionsPerAddress, 64);
+    TestServer server([](Settings& settings) { settings.maxConnectionsPerAddress = 1; });
+    {
+        RawClient first(server.Port());
+        ASSERT_EQ(first.Ask("GET", "/health").status, 200);
+        EXPECT_TRUE(RawClient(server.Port()).SeesEnd());
+    }
+    // The place is free again once the server has seen the end.
+    int status = 0;
+    for (int i = 0; i < 1000 && status == 0; ++i) {
+        status = server.Ask("GET", "/health").status;
+    }
+    EXPECT_EQ(status, 200);
+}
+
 TEST(HttpLimits, SilentConnectionIsEnded) {
     TestServer server([](Settings& settings) { settings.idleSeconds = 1; });
     RawClient client(server.Port());

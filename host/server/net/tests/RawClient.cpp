@@ -8,6 +8,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <openssl/ssl.h>
+
 namespace Tarvik::Server {
 
 namespace {
@@ -38,7 +40,26 @@ RawReply ParseHead(const std::string& head) {
 
 }  // namespace
 
-RawClient::RawClient(std::uint16_t port) : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+/// The client's side of TLS over a connected socket.
+struct RawClient::Tls {
+    explicit Tls(int socket, const char* suites = nullptr)
+        : context(SSL_CTX_new(TLS_client_method()), &SSL_CTX_free), session(nullptr, &SSL_free) {
+        if (suites != nullptr) {
+            SSL_CTX_set_max_proto_version(context.get(), TLS1_2_VERSION);
+            SSL_CTX_set_cipher_list(context.get(), suites);
+        }
+        session.reset(SSL_new(context.get()));
+        SSL_set_fd(session.get(), socket);
+        open = SSL_connect(session.get()) == 1;
+    }
+
+    std::unique_ptr<SSL_CTX, decltype(&SSL_CTX_free)> context;
+    std::unique_ptr<SSL, decltype(&SSL_free)> session;
+    bool open = false;
+};
+
+RawClient::RawClient(std::uint16_t port, Wire wire)
+    : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_port = htons(port);
@@ -47,6 +68,9 @@ RawClient::RawClient(std::uint16_t port) : socket_(::socket(AF_INET, SOCK_STREAM
     const timeval limit{20, 0};
     setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof(limit));
     if (::connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof(address)) == 0) {
+        if (wire == Wire::Tls) {
+            tls_ = std::make_unique<Tls>(socket_);
+        }
         return;
     }
     ::close(socket_);
@@ -59,10 +83,29 @@ RawClient::~RawClient() {
     }
 }
 
+bool RawClient::TakesSuites(std::uint16_t port, const char* suites) {
+    const RawClient plain(port);
+    return Tls(plain.socket_, suites).open;
+}
+
+long RawClient::Put(const char* bytes, std::size_t size) {
+    if (tls_ != nullptr) {
+        return tls_->open ? SSL_write(tls_->session.get(), bytes, static_cast<int>(size)) : 0;
+    }
+    return ::send(socket_, bytes, size, MSG_NOSIGNAL);
+}
+
+long RawClient::Take(char* bytes, std::size_t size) {
+    if (tls_ != nullptr) {
+        return tls_->open ? SSL_read(tls_->session.get(), bytes, static_cast<int>(size)) : 0;
+    }
+    return ::recv(socket_, bytes, size, 0);
+}
+
 bool RawClient::Send(const std::string& bytes) {
     std::size_t sent = 0;
     while (sent < bytes.size()) {
-        const ssize_t count = ::send(socket_, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
+        const long count = Put(bytes.data() + sent, bytes.size() - sent);
         if (count <= 0) {
             return false;
         }
@@ -73,7 +116,7 @@ bool RawClient::Send(const std::string& bytes) {
 
 bool RawClient::Fill() {
     std::array<char, 65536> bytes{};
-    const ssize_t count = ::recv(socket_, bytes.data(), bytes.size(), 0);
+    const long count = Take(bytes.data(), bytes.size());
     if (count <= 0) {
         return false;
     }
@@ -105,7 +148,7 @@ RawReply RawClient::Read() {
 
 bool RawClient::SeesEnd() {
     char byte = 0;
-    return received_.empty() && ::recv(socket_, &byte, 1, 0) == 0;
+    return received_.empty() && Take(&byte, 1) == 0;
 }
 
 std::string RawClient::Request(const std::string& method, const std::string& path, const std::string& body,

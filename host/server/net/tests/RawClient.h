@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
 
 namespace Tarvik::Server {
@@ -14,10 +15,13 @@ struct RawReply {
     std::string body;
 };
 
-/// A plain TCP connection that sends exactly the bytes it is given.
+/// What a connection goes through.
+enum class Wire { Plain, Tls };
+
+/// A connection that sends exactly the bytes it is given. Of a certificate it takes any.
 class RawClient {
   public:
-    explicit RawClient(std::uint16_t port);
+    explicit RawClient(std::uint16_t port, Wire wire = Wire::Plain);
     ~RawClient();
     RawClient(const RawClient&) = delete;
     RawClient& operator=(const RawClient&) = delete;
@@ -25,6 +29,8 @@ class RawClient {
     bool IsConnected() const { return socket_ >= 0; }
     bool Send(const std::string& bytes);
     RawReply Read();
+    /// The least that tells whether a server speaks TLS 1.2 with these suites (of OpenSSL's names).
+    static bool TakesSuites(std::uint16_t port, const char* suites);
     /// Whether the server ends the connection without another byte.
     bool SeesEnd();
 
@@ -35,9 +41,15 @@ class RawClient {
                                const std::string& token);
 
   private:
+    struct Tls;
+
     bool Fill();
+    /// Bytes that went through; 0 or less when the connection has ended.
+    long Put(const char* bytes, std::size_t size);
+    long Take(char* bytes, std::size_t size);
 
     int socket_ = -1;
+    std::unique_ptr<Tls> tls_;  ///< null on a plain one
     std::string received_;
 };
 

@@ -8,6 +8,22 @@ namespace Tarvik::Server {
 
 namespace {
 
+TEST(ForwardClock, FollowsForwardAndNeverGoesBack) {
+    std::int64_t system = 1000;
+    std::int64_t steady = 5;
+    ForwardClock clock([&] { return system; }, [&] { return steady; });
+    EXPECT_EQ(clock.Now(), 1000);
+    system = 1100;
+    steady = 7;
+    EXPECT_EQ(clock.Now(), 1100);
+    system = 50;
+    EXPECT_EQ(clock.Now(), 1100);
+    steady = 17;
+    EXPECT_EQ(clock.Now(), 1110);
+    system = 1111;
+    EXPECT_EQ(clock.Now(), 1111);
+}
+
 TEST(SessionMemory, HoldsWhatWasFoundUntilTheSecondIsOver) {
     SessionMemory memory;
     EXPECT_FALSE(memory.UserOf("h", 7));

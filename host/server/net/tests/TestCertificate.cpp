@@ -31,15 +31,16 @@ void AddExtension(X509* certificate, int kind, const char* value) {
 
 }  // namespace
 
-void WriteTestCertificate(const std::string& certificateFile, const std::string& keyFile) {
-    constexpr long kTenYears = 10L * 365 * 24 * 3600;
+void WriteTestCertificate(const std::string& certificateFile, const std::string& keyFile,
+                          const CertificateKind& kind) {
+    constexpr long kDay = 24L * 3600;
     const Key key(EVP_EC_gen("P-256"), &EVP_PKEY_free);
     const Certificate certificate(X509_new(), &X509_free);
     Require(key && certificate);
     X509_set_version(certificate.get(), 2);
     ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), 1);
-    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), -kTenYears);
-    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), kTenYears);
+    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), kDay * kind.fromDays);
+    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), kDay * kind.toDays);
     X509_set_pubkey(certificate.get(), key.get());
     X509_NAME* name = X509_get_subject_name(certificate.get());
     const auto* text = reinterpret_cast<const unsigned char*>("voyage server under test");
@@ -51,8 +52,10 @@ void WriteTestCertificate(const std::string& certificateFile, const std::string&
     const File out(std::fopen(certificateFile.c_str(), "wb"), &std::fclose);
     const File secret(std::fopen(keyFile.c_str(), "wb"), &std::fclose);
     Require(out && PEM_write_X509(out.get(), certificate.get()) == 1);
-    Require(secret &&
-            PEM_write_PrivateKey(secret.get(), key.get(), nullptr, nullptr, 0, nullptr, nullptr) == 1);
+    const EVP_CIPHER* cipher = kind.password.empty() ? nullptr : EVP_aes_256_cbc();
+    const auto* password = reinterpret_cast<const unsigned char*>(kind.password.data());
+    Require(secret && PEM_write_PrivateKey(secret.get(), key.get(), cipher, cipher ? password : nullptr,
+                                           static_cast<int>(kind.password.size()), nullptr, nullptr) == 1);
 }
 
 }  // namespace Tarvik::Server

@@ -5,7 +5,15 @@
 
 namespace Tarvik::Server {
 
+/// What a certificate is like.
+struct CertificateKind {
+    int fromDays = -3650;  ///< from now, where it begins and
+    int toDays = 3650;     ///< where it ends
+    std::string password;  ///< that its key is encrypted with; empty for none
+};
+
 /// Writes a self-signed certificate for 127.0.0.1 and its new key as PEM files. Throws when that fails.
-void WriteTestCertificate(const std::string& certificateFile, const std::string& keyFile);
+void WriteTestCertificate(const std::string& certificateFile, const std::string& keyFile,
+                          const CertificateKind& kind = {});
 
 }  // namespace Tarvik::Server

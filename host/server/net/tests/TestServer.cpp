@@ -21,6 +21,7 @@ TestServer::TestServer(const Change& change, std::unique_ptr<RouteSource> routes
     ServerParts parts;
     parts.routes = routes ? std::move(routes) : std::make_unique<NoRoutes>();
     parts.clock = [this] { return now_.load(); };
+    parts.sessionClock = parts.clock;
     parts.passwordCost = kCheap;
     parts.logSink = [this](const std::string& line) {
         const std::scoped_lock lock(logMutex_);
