@@ -18,9 +18,10 @@ commands:
   user list           prints every user, one a line, with "enabled" or "disabled"
   export [--user NAME | --all] FILE
                       writes one user's voyages, or all users with their accounts, into a file
-  import [--user NAME] [--add] FILE
+  import [--user NAME] [--add] [--skip-bad] FILE
                       reads such a file, wholly or not at all; --user gives the one user's voyages to NAME,
-                      --add puts them beside those that are there
+                      --add puts them beside those that are there, --skip-bad leaves out, by name, the records
+                      that cannot be kept
                       both take --data FOLDER, as of a client, instead of the settings' data
   --help              prints this
   --version           prints the version

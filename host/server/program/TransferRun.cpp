@@ -82,7 +82,7 @@ bool RunTransfer(const TransferCommand& command, Settings settings, std::string&
     std::unique_ptr<TransferReader> reader;
     TransferContent content;
     if (command.import) {
-        reader = TransferReader::Open(command.file, said);
+        reader = TransferReader::Open(command.file, said, command.importing.skipBad);
         if (reader == nullptr || !reader->ReadContent(content, said)) {
             return false;
         }

@@ -42,7 +42,23 @@ AtomicFile::~AtomicFile() {
     }
 }
 
+bool AtomicFile::MayReplace(std::string& error) const {
+    std::error_code failed;
+    const std::filesystem::file_status status = std::filesystem::symlink_status(path_, failed);
+    // That a folder cannot be replaced the system says itself.
+    if (!std::filesystem::exists(status) || std::filesystem::is_regular_file(status) ||
+        std::filesystem::is_directory(status)) {
+        return true;
+    }
+    error = "cannot write " + path_ + ": it is " +
+            (std::filesystem::is_symlink(status) ? "a link" : "no file") + "; name a file of its own";
+    return false;
+}
+
 bool AtomicFile::Open(std::string& error) {
+    if (!MayReplace(error)) {
+        return false;
+    }
     std::string pattern = path_ + ".XXXXXX";
     file_ = ::mkostemp(pattern.data(), O_CLOEXEC);
     if (file_ < 0) {
@@ -69,6 +85,9 @@ bool AtomicFile::Commit(std::string& error) {
         failure_ = errno;
     }
     file_ = -1;
+    if (failure_ == 0 && !MayReplace(error)) {
+        return false;
+    }
     if (failure_ == 0 && std::rename(draft_.c_str(), path_.c_str()) != 0) {
         failure_ = errno;
     }

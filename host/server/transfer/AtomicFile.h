@@ -16,7 +16,8 @@ class AtomicFile {
     AtomicFile(const AtomicFile&) = delete;
     AtomicFile& operator=(const AtomicFile&) = delete;
 
-    /// False, with an English text in `error`, when the folder takes no file.
+    /// False, with an English text in `error`, when the folder takes no file, or when something else than a
+    /// file stands there: a link or a device is not replaced.
     bool Open(std::string& error);
     /// A failure is kept and told by Commit.
     void Write(std::string_view bytes);
@@ -26,6 +27,8 @@ class AtomicFile {
     void Flush();
     void WriteAll(std::string_view bytes);
     bool Fail(std::string& error) const;
+    /// Whether what stands at the path, if anything, may be replaced.
+    bool MayReplace(std::string& error) const;
 
     std::string path_;
     std::string draft_;  ///< its name until it is committed; empty when there is none

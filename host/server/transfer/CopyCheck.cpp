@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
+#include "host/server/accounts/Credentials.h"
 #include "host/server/api/Numbers.h"
-#include "host/server/api/Refusal.h"
-#include "host/server/api/RequestFields.h"
+#include "host/server/api/RecordRules.h"
 
 namespace Tarvik::Server {
 
@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t kMostIdDigits = 15;
 
 bool IsText(const std::string& text, std::size_t most = kMaxNameBytes) {
-    return text.size() <= most && text.find('\0') == std::string::npos;
+    return !FaultOf(text, most);
 }
 
 bool IsName(const std::string& text) {
@@ -27,46 +27,17 @@ bool IsId(const std::string& text) {
            text.find_first_not_of("0123456789") == std::string::npos;
 }
 
-std::string Joined(std::initializer_list<std::string> fields) {
-    std::string row;
-    for (const std::string& field : fields) {
-        row.append(row.empty() ? 0 : 1, '|').append(field);
-    }
-    return row;
-}
-
-std::string Printed(double number) {
-    return PrintDecimal(number, 1);
-}
-
-/// Whether a request could have stored the row: its text, read as a request is, gives it again.
-bool IsGood(const PortCallRecord& call) {
-    return ReadPortCall(Joined({std::to_string(call.order), call.portId, call.portName, call.purpose,
-                                Printed(call.speedKmh), Printed(call.weatherFactor),
-                                Printed(call.hoursInPort)})) == call;
-}
-
-bool IsGood(const BookRowRecord& row) {
-    return ReadBookRow(Joined({std::to_string(row.order), row.name, Printed(row.longitude),
-                               Printed(row.latitude), row.sailing, std::to_string(row.spacing),
-                               Printed(row.speedKmh), std::to_string(row.kind)})) == row;
-}
-
-/// Whether every row is good and comes behind the one before by its number.
+/// Whether every row can be kept, and comes behind the one before by its number.
 template <class Row>
 bool AreGood(const std::vector<Row>& rows) {
-    try {
-        std::int32_t before = -1;
-        for (const Row& row : rows) {
-            if (row.order <= before || !IsGood(row)) {
-                return false;
-            }
-            before = row.order;
+    std::int32_t before = -1;
+    for (const Row& row : rows) {
+        if (row.order <= before || FaultOf(row)) {
+            return false;
         }
-        return true;
-    } catch (const Refusal&) {
-        return false;
+        before = row.order;
     }
+    return rows.size() <= kMostRows;
 }
 
 bool AreTimes(std::vector<std::string> times) {
@@ -86,6 +57,9 @@ bool IsVessel(const VesselRecord& vessel) {
 std::string CopyCheck::User(const UserCopy& user) {
     if (!IsName(user.records.owner)) {
         return "the user has no name";
+    }
+    if (user.account && !IsBearableHash(user.account->passwordHash)) {
+        return "the password's hash would cost more than a login may";
     }
     if (!users_.insert(user.records.owner).second) {
         return "the user is there twice";
@@ -140,7 +114,7 @@ std::string CopyCheck::Voyage(const VoyageCopy& copy) {
 }
 
 std::string CopyCheck::Remark(const RemarkCopy& copy) {
-    if (!IsText(copy.object.id, kMaxNameBytes * 2) || !known_.Knows(copy.object)) {
+    if (!IsText(copy.object.id, kMaxObjectBytes) || !known_.Knows(copy.object)) {
         return "the remark is of nothing that the user has";
     }
     if (copy.remark.seq < 1) {

@@ -42,6 +42,9 @@ bool Importer::Run(const ImportChoice& choice, TransferReader& reader, std::stri
     if (!idsKept && content.highestId > 0) {
         done += "; ids of the file are taken here, so all records got new ones";
     }
+    for (const std::string& record : reader.LeftOut()) {
+        done += "\nleft out: " + record;
+    }
     return true;
 }
 

@@ -14,6 +14,7 @@ namespace Tarvik::Server {
 struct ImportChoice {
     std::string user;  ///< who gets the records of a file of one user; empty: the user whom the file names
     bool add = false;  ///< whether users may have records already
+    bool skipBad = false;  ///< whether the reader leaves out records that cannot be kept
 };
 
 /// Whether a text can be a user's name.

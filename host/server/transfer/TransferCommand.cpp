@@ -55,6 +55,8 @@ std::optional<TransferCommand> TransferCommand::Parse(const std::vector<std::str
             command.exporting.all = true;
         } else if (word == "--add" && command.import) {
             command.importing.add = true;
+        } else if (word == "--skip-bad" && command.import) {
+            command.importing.skipBad = true;
         } else if (!word.starts_with("-") && !word.empty() && command.file.empty()) {
             command.file = word;
         } else {

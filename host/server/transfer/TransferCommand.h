@@ -20,9 +20,9 @@ struct TransferCommand {
 
     /// Whether the words begin with "export" or "import".
     static bool IsMeant(const std::vector<std::string>& words);
-    /// `export [--user NAME | --all] [--data FOLDER] FILE` or `import [--user NAME] [--add] [--data FOLDER]
-    /// FILE`, options anywhere behind the first word, also as "--user=NAME". Nothing for words of another
-    /// form.
+    /// `export [--user NAME | --all] [--data FOLDER] FILE` or `import [--user NAME] [--add] [--skip-bad]
+    /// [--data FOLDER] FILE`, options anywhere behind the first word, also as "--user=NAME". Nothing for
+    /// words of another form.
     static std::optional<TransferCommand> Parse(const std::vector<std::string>& words);
 };
 

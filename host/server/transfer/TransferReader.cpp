@@ -15,12 +15,14 @@ using Json = nlohmann::ordered_json;
 
 }  // namespace
 
-TransferReader::TransferReader(const std::string& path) : path_(path), in_(path, std::ios::binary) {
+TransferReader::TransferReader(const std::string& path, bool skipBad)
+    : path_(path), skipBad_(skipBad), in_(path, std::ios::binary) {
     Rewind();
 }
 
-std::unique_ptr<TransferReader> TransferReader::Open(const std::string& path, std::string& error) {
-    std::unique_ptr<TransferReader> reader(new TransferReader(path));
+std::unique_ptr<TransferReader> TransferReader::Open(const std::string& path, std::string& error,
+                                                     bool skipBad) {
+    std::unique_ptr<TransferReader> reader(new TransferReader(path, skipBad));
     // A folder opens but does not read.
     if (reader->in_ && reader->in_.peek() != std::ifstream::traits_type::eof()) {
         reader->Rewind();
@@ -101,40 +103,91 @@ std::string TransferReader::Take(const std::string& line, std::optional<UserCopy
         if (kind == "end") {
             return TakeEnd(object);
         }
-        if (kind != "user") {
-            return TakeRecord(kind, object);
-        }
-        UserCopy next = CopyJson::ReadUser(object);
-        std::string wrong = progress_->check.User(next);
-        done = std::exchange(progress_->open, std::move(next));
-        return wrong;
+        return kind == "user" ? TakeUser(object, done) : TakeRecord(kind, object);
     } catch (const std::exception& failure) {
-        return std::string("this record is damaged: ") + failure.what();
+        return Skip(kind, object, std::string("this record is damaged: ") + failure.what());
     }
 }
 
+std::string TransferReader::TakeUser(const Json& object, std::optional<UserCopy>& done) {
+    done = std::exchange(progress_->open, std::nullopt);
+    progress_->skipUser = true;
+    UserCopy next = CopyJson::ReadUser(object);
+    std::string wrong = progress_->check.User(next);
+    if (!wrong.empty()) {
+        return Skip("user", object, std::move(wrong));
+    }
+    progress_->open = std::move(next);
+    progress_->skipUser = false;
+    progress_->skipCategory = false;
+    return {};
+}
+
 std::string TransferReader::TakeRecord(const std::string& kind, const Json& object) {
+    if (kind != "category" && kind != "voyage" && kind != "remark") {
+        return "there are no such records";
+    }
+    if (progress_->skipUser) {
+        return Skip(kind, object, "its user was left out");
+    }
     if (!progress_->open) {
         return "there is no user before this record";
     }
-    OwnerCopy& records = progress_->open->records;
-    CopyCheck& check = progress_->check;
     if (kind == "category") {
-        records.categories.push_back(CopyJson::ReadCategory(object));
-        return check.Category(records.categories.back());
+        return TakeCategory(object);
     }
-    if (kind == "voyage") {
-        if (records.categories.empty()) {
-            return "there is no category before this voyage";
-        }
-        records.categories.back().voyages.push_back(CopyJson::ReadVoyage(object));
-        return check.Voyage(records.categories.back().voyages.back());
+    return kind == "voyage" ? TakeVoyage(object) : TakeRemark(object);
+}
+
+std::string TransferReader::TakeCategory(const Json& object) {
+    progress_->skipCategory = true;
+    CategoryCopy category = CopyJson::ReadCategory(object);
+    std::string wrong = progress_->check.Category(category);
+    if (!wrong.empty()) {
+        return Skip("category", object, std::move(wrong));
     }
-    if (kind == "remark") {
-        records.remarks.push_back(CopyJson::ReadRemark(object));
-        return check.Remark(records.remarks.back());
+    progress_->skipCategory = false;
+    progress_->open->records.categories.push_back(std::move(category));
+    return {};
+}
+
+std::string TransferReader::TakeVoyage(const Json& object) {
+    if (progress_->skipCategory) {
+        return Skip("voyage", object, "its category was left out");
     }
-    return "there are no such records";
+    std::vector<CategoryCopy>& categories = progress_->open->records.categories;
+    if (categories.empty()) {
+        return "there is no category before this voyage";
+    }
+    VoyageCopy voyage = CopyJson::ReadVoyage(object);
+    std::string wrong = progress_->check.Voyage(voyage);
+    if (!wrong.empty()) {
+        return Skip("voyage", object, std::move(wrong));
+    }
+    categories.back().voyages.push_back(std::move(voyage));
+    return {};
+}
+
+std::string TransferReader::TakeRemark(const Json& object) {
+    RemarkCopy remark = CopyJson::ReadRemark(object);
+    std::string wrong = progress_->check.Remark(remark);
+    if (!wrong.empty()) {
+        return Skip("remark", object, std::move(wrong));
+    }
+    progress_->open->records.remarks.push_back(std::move(remark));
+    return {};
+}
+
+std::string TransferReader::Skip(const std::string& kind, const Json& object, std::string wrong) {
+    const bool known = kind == "user" || kind == "category" || kind == "voyage" || kind == "remark";
+    if (!skipBad_ || !known) {
+        return wrong;
+    }
+    const auto name = object.find("name");
+    progress_->leftOut.push_back(kind + " " + object.at(kind).dump() +
+                                 (name == object.end() ? std::string() : " " + name->dump()) + " of line " +
+                                 std::to_string(progress_->lines + 1) + ": " + wrong);
+    return {};
 }
 
 std::string TransferReader::TakeHead(const Json& object) const {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <nlohmann/json_fwd.hpp>
 
@@ -17,13 +18,17 @@ namespace Tarvik::Server {
 /// holds what no server stores is refused.
 class TransferReader {
   public:
-    /// Null, with an English text in `error`, when the file cannot be read.
-    static std::unique_ptr<TransferReader> Open(const std::string& path, std::string& error);
+    /// Null, with an English text in `error`, when the file cannot be read. With `skipBad` a record that no
+    /// server stores is left out, and what stands under it, and the rest is read.
+    static std::unique_ptr<TransferReader> Open(const std::string& path, std::string& error,
+                                                bool skipBad = false);
 
     /// Reads the whole file once and checks all of it.
     bool ReadContent(TransferContent& content, std::string& error);
     /// Begins anew.
     void Rewind();
+    /// What was left out since the beginning, one line each: the record by its name, and why.
+    const std::vector<std::string>& LeftOut() const { return progress_->leftOut; }
     /// Gives the next user, or nothing behind the last, when the end was found to be right.
     bool Next(std::optional<UserCopy>& user, std::string& error);
 
@@ -34,18 +39,28 @@ class TransferReader {
         Checksum checksum;
         CopyCheck check;
         std::optional<UserCopy> open;  ///< the user whose lines are being read
+        bool skipUser = false;         ///< whether the user of these lines was left out
+        bool skipCategory = false;     ///< the same of the category
+        std::vector<std::string> leftOut;
         bool ended = false;
     };
 
-    explicit TransferReader(const std::string& path);
+    TransferReader(const std::string& path, bool skipBad);
     bool ReadLine(std::string& line, std::string& error);
     /// Takes a line; the user that it ends goes into `done`. Gives why not, empty when all is well.
     std::string Take(const std::string& line, std::optional<UserCopy>& done);
+    std::string TakeUser(const nlohmann::ordered_json& object, std::optional<UserCopy>& done);
     std::string TakeRecord(const std::string& kind, const nlohmann::ordered_json& object);
+    std::string TakeCategory(const nlohmann::ordered_json& object);
+    std::string TakeVoyage(const nlohmann::ordered_json& object);
+    std::string TakeRemark(const nlohmann::ordered_json& object);
+    /// Leaves the record out where that is wished. Gives `wrong` where it is not.
+    std::string Skip(const std::string& kind, const nlohmann::ordered_json& object, std::string wrong);
     std::string TakeHead(const nlohmann::ordered_json& object) const;
     std::string TakeEnd(const nlohmann::ordered_json& object);
 
     std::string path_;
+    bool skipBad_;
     std::ifstream in_;
     std::unique_ptr<Progress> progress_;
 };

@@ -55,6 +55,29 @@ TEST_F(AtomicFileTest, FileThatIsNotCommittedLeavesNothing) {
     EXPECT_EQ(Files(), 1U);
 }
 
+TEST_F(AtomicFileTest, LinksAndDevicesAreNotReplaced) {
+    const std::string target = folder_.File("target");
+    std::ofstream(target) << "before";
+    fs::create_symlink(target, path_);
+    for (const std::string& place : {path_, std::string("/dev/null"), std::string("/dev/stdout")}) {
+        AtomicFile file(place);
+        EXPECT_FALSE(file.Open(error_));
+        EXPECT_TRUE(error_.starts_with("cannot write " + place + ": it is ")) << error_;
+    }
+    EXPECT_TRUE(fs::is_symlink(path_));
+    EXPECT_EQ(Bytes(), "before");
+    EXPECT_EQ(Files(), 2U);
+}
+
+TEST_F(AtomicFileTest, LinkThatComesMeanwhileIsNotReplaced) {
+    AtomicFile file(path_);
+    ASSERT_TRUE(file.Open(error_));
+    file.Write("x");
+    fs::create_symlink(folder_.File("target"), path_);
+    EXPECT_FALSE(file.Commit(error_));
+    EXPECT_TRUE(fs::is_symlink(path_));
+}
+
 TEST_F(AtomicFileTest, MissingFolderIsToldByName) {
     const std::string nowhere = folder_.File("none/users");
     AtomicFile file(nowhere);

@@ -161,6 +161,43 @@ TEST_F(BrokenFileTest, RemarksThatNoRequestStoresAreRefused) {
     ExpectRefused(Ended(before + Remark(R"([3,"1000002",1])", "\\u0000")), "text is too long");
 }
 
+TEST_F(BrokenFileTest, BadRecordsAreLeftOutByNameWhenThatIsWished) {
+    std::string second = Voyage();
+    for (const char* id : {"1000002", "1000003"}) {
+        second.replace(second.find(id), 7, std::string(id) == "1000002" ? "1000004" : "1000005");
+    }
+    WriteBytes(Ended(Head() + User() + Category() + Voyage(R"("P","L")", R"("P","Q")") + second + Remark() +
+                     Remark(R"([3,"1000004",1])") + Category("x") +
+                     "{\"voyage\":\"1000008\",\"name\":\"Lost\"}\n"));
+    EXPECT_FALSE(Import(to));
+    ASSERT_TRUE(Import(to, {"", false, true})) << error;
+    EXPECT_EQ(done,
+              "imported 1 user, 1 category, 1 voyage, 1 remark\n"
+              "left out: voyage \"1000002\" \"V\" of line 4: a port call is none, or out of its order\n"
+              "left out: remark [3,\"1000002\",1] of line 6: the remark is of nothing that the user has\n"
+              "left out: category \"x\" \"A\" of line 8: the id is none, or is there twice\n"
+              "left out: voyage \"1000008\" \"Lost\" of line 9: its category was left out");
+    EXPECT_EQ(to.storage->Catalog().LoadCatalog("ann").Value().at(0).voyages.at(0).id, "1000004");
+}
+
+TEST_F(BrokenFileTest, BadUsersAreLeftOutWithAllTheyHave) {
+    const std::string bad =
+        "{\"user\":\"bob\",\"password\":\"$argon2id$v=19$m=9999999,t=2,p=1$a$b\",\"disabled\":false}\n";
+    ExpectRefused(Ended(Head() + bad), "line 2: the password's hash would cost more than a login may");
+    WriteBytes(Ended(Head() + bad + Category("1000009") + User() + Category()));
+    ASSERT_TRUE(Import(to, {"", false, true})) << error;
+    EXPECT_EQ(done.substr(0, done.find('\n')), "imported 1 user, 1 category, 0 voyages, 0 remarks");
+    EXPECT_TRUE(to.accounts.users.contains("ann"));
+    EXPECT_FALSE(to.accounts.users.contains("bob"));
+}
+
+TEST_F(BrokenFileTest, IdsTooHighToBeCountedOnFromAreGivenAnew) {
+    WriteBytes(Ended(Head() + User() + Category("999999999999999")));
+    ASSERT_TRUE(Import(to)) << error;
+    const std::string next = to.storage->Catalog().CreateCategory("ann", "B").Value();
+    EXPECT_LT(next.size(), 10U);
+}
+
 TEST_F(BrokenFileTest, MissingFileAndFolderAreRefused) {
     EXPECT_EQ(TransferReader::Open(Path("none"), error), nullptr);
     EXPECT_EQ(TransferReader::Open(std::filesystem::path(Path()).parent_path().string(), error), nullptr);

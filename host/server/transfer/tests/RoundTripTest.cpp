@@ -146,7 +146,7 @@ TEST_F(TransferRoundTripTest, BigBookGoesWhole) {
     }
     const std::string vi = from.storage->Catalog().LoadCatalog("ann").Value()[0].voyages.at(0).id;
     const std::string book = from.storage->Schedule().LoadBook("ann", vi).Value()->id;
-    ASSERT_TRUE(from.storage->Schedule().ReplaceBookRows("ann", book, rows).Succeeded());
+    ASSERT_TRUE(from.storage->Schedule().ReplaceBookRows("ann", book, {}, rows).Succeeded());
     ASSERT_TRUE(Export(from, {"ann", false}));
     ASSERT_TRUE(Import(to)) << error;
     EXPECT_EQ(to.storage->Schedule().LoadBook("ann", vi).Value()->rows, rows);

@@ -30,7 +30,7 @@ void FillSchedule(Storage& storage, const std::string& user, const std::string& 
                                       {7, "", "5 Sea \"x\"", "", 1.0 / 3.0, 1, 1e6},
                                       {8, "40208", "上海", " ", 0, 0, 5e-324}}));
     const std::string book = schedule.CreateBook(user, vi, "2011-10-02 00:00:00").Value();
-    Expect(schedule.ReplaceBookRows(user, book,
+    Expect(schedule.ReplaceBookRows(user, book, {},
                                     {{0, "", 120, -30.123456789012345, "GC", 5, 25.928, 5},
                                      {1, kOddName, -360, 90, "", 0, 1e9, 0},
                                      {999999, "RL", 0.1 + 0.2, 0, "RL", 360, 0, 9}}));

@@ -31,6 +31,9 @@ TEST(TransferCommandTest, ImportTakesAUserAndAdd) {
     EXPECT_EQ(command->importing.user, "anna");
     EXPECT_EQ(command->data, "folder");
     EXPECT_FALSE(TransferCommand::Parse({"import", "file"})->importing.add);
+    EXPECT_FALSE(command->importing.skipBad);
+    EXPECT_TRUE(TransferCommand::Parse({"import", "--skip-bad", "file"})->importing.skipBad);
+    EXPECT_FALSE(TransferCommand::Parse({"export", "--skip-bad", "file"}));
 }
 
 TEST(TransferCommandTest, OtherFormsAreNone) {

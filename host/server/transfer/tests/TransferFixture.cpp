@@ -107,7 +107,7 @@ bool TransferTest::Export(Place& place, const ExportChoice& choice, const std::s
 bool TransferTest::Import(Place& place, const ImportChoice& choice, const std::string& name) {
     done.clear();
     error.clear();
-    const auto reader = TransferReader::Open(Path(name), error);
+    const auto reader = TransferReader::Open(Path(name), error, choice.skipBad);
     if (reader == nullptr) {
         return false;
     }
