@@ -22,7 +22,7 @@
 #include "bench/server/OfficeServer.h"
 #include "host/client/remote/RemoteLink.h"
 #include "host/server/app/EmbeddedServer.h"
-#include "host/server/net/routes/OpenRoutes.h"
+#include "host/server/net/service/Resources.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
 

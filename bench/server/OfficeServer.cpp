@@ -11,7 +11,7 @@
 #include <fmt/format.h>
 
 #include "host/client/remote/HttpClient.h"
-#include "host/server/net/routes/OpenRoutes.h"
+#include "host/server/net/service/Resources.h"
 #include "host/server/net/service/VoyageServer.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/wire/Envelope.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/accounts/SqlAccounts.h"
-#include "host/server/storage/sqlite/SqliteSession.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
 
 namespace Tarvik::Server {
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "host/server/accounts/AccountStorage.h"
-#include "host/server/storage/postgres/PostgresSession.h"
+#include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/sql/SqlSession.h"
 
 namespace Tarvik::Server {

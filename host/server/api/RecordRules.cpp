@@ -14,8 +14,8 @@ constexpr std::int32_t kMostOrder = 1000000;
 constexpr double kMostSpeedKmh = 1e9;
 constexpr double kMostHours = 1000000;
 // A line that crosses the date line may go on beyond 180 degrees.
-constexpr double kMostLongitude = 360;
-constexpr double kMostLatitude = 90;
+constexpr double kLongitudeLimit = 360;
+constexpr double kLatitudeLimit = 90;
 constexpr std::int32_t kMostSpacing = 360;
 constexpr std::int32_t kMostKind = 9;
 
@@ -78,8 +78,8 @@ std::optional<ErrorCode> FaultOf(const BookRowRecord& row) {
         return fault;
     }
     const bool good =
-        IsWithin(row.order, 0, kMostOrder) && IsWithin(row.longitude, -kMostLongitude, kMostLongitude) &&
-        IsWithin(row.latitude, -kMostLatitude, kMostLatitude) && IsWithin(row.spacing, 0, kMostSpacing) &&
+        IsWithin(row.order, 0, kMostOrder) && IsWithin(row.longitude, -kLongitudeLimit, kLongitudeLimit) &&
+        IsWithin(row.latitude, -kLatitudeLimit, kLatitudeLimit) && IsWithin(row.spacing, 0, kMostSpacing) &&
         IsWithin(row.speedKmh, 0.0, kMostSpeedKmh) && IsWithin(row.kind, 0, kMostKind);
     return good ? std::nullopt : std::optional(ErrorCode::BadNumber);
 }

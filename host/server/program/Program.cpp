@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <thread>
 
-#include "host/server/net/routes/OpenRoutes.h"
+#include "host/server/net/service/Resources.h"
 #include "host/server/net/service/VoyageServer.h"
 
 namespace Tarvik::Server {

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "host/server/accounts/Credentials.h"
-#include "host/server/net/service/Databases.h"
+#include "host/server/net/service/Resources.h"
 #include "host/server/program/Program.h"
 #include "host/server/storage/contract/ServerTime.h"
 

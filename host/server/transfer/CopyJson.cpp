@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/transfer/CopyJson.h"
-
 #include <cstdint>
 #include <stdexcept>
 #include <utility>
 
 #include <nlohmann/json.hpp>
+
+#include "host/server/transfer/TransferFile.h"
 
 namespace Tarvik::Server::CopyJson {
 

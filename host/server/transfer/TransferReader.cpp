@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/server/transfer/CopyJson.h"
+#include "host/server/transfer/TransferFile.h"
 
 namespace Tarvik::Server {
 

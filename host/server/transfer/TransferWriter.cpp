@@ -6,7 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/server/storage/contract/ServerTime.h"
-#include "host/server/transfer/CopyJson.h"
+#include "host/server/transfer/TransferFile.h"
 
 namespace Tarvik::Server {
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/api/Replies.h"
-#include "host/server/net/routes/OpenRoutes.h"
+#include "host/server/net/service/Resources.h"
 
 namespace Tarvik::Server {
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/routes/OpenRoutes.h"
-
 #include <filesystem>
 
 #include "host/server/graph/adapter/GraphRouteSource.h"
+#include "host/server/net/service/Resources.h"
 
 namespace fs = std::filesystem;
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/net/service/Databases.h"
-
 #include <filesystem>
 
 #include "host/server/accounts/SqlAccounts.h"
-#include "host/server/storage/postgres/ConnectionText.h"
+#include "host/server/net/service/Resources.h"
+#include "host/server/storage/postgres/PostgresConnection.h"
 #include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "host/server/net/http/HttpServer.h"
-#include "host/server/net/service/Databases.h"
+#include "host/server/net/service/Resources.h"
 #include "host/server/net/service/ServerFront.h"
 #include "host/server/net/settings/Settings.h"
 

@@ -3,7 +3,7 @@
 
 #include "host/server/api/Numbers.h"
 #include "host/server/net/settings/Settings.h"
-#include "host/server/storage/postgres/ConnectionText.h"
+#include "host/server/storage/postgres/PostgresConnection.h"
 
 namespace Tarvik::Server {
 

@@ -8,7 +8,7 @@
 #include "host/server/accounts/Credentials.h"
 #include "host/server/net/log/ServerLog.h"
 #include "host/server/net/metrics/Metrics.h"
-#include "host/server/net/routes/OpenRoutes.h"
+#include "host/server/net/service/Resources.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 #include "host/server/wire/Envelope.h"
 

@@ -6,7 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/server/net/routes/OpenRoutes.h"
+#include "host/server/net/service/Resources.h"
 #include "host/server/wire/Envelope.h"
 
 namespace Tarvik::Server {

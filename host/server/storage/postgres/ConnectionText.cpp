@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/postgres/ConnectionText.h"
-
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -10,6 +8,7 @@
 
 #include <libpq-fe.h>
 
+#include "host/server/storage/postgres/PostgresConnection.h"
 #include "host/server/storage/sql/SqlConnection.h"
 
 namespace Tarvik::Server {

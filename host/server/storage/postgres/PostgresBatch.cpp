@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/postgres/PostgresBatch.h"
-
 #include <algorithm>
 #include <numeric>
 #include <set>
+
+#include "host/server/storage/postgres/PostgresValues.h"
 
 namespace Tarvik::Server {
 

@@ -6,8 +6,7 @@
 
 #include <pqxx/pqxx>
 
-#include "host/server/storage/postgres/ConnectionText.h"
-#include "host/server/storage/postgres/PostgresBatch.h"
+#include "host/server/storage/postgres/PostgresValues.h"
 #include "host/server/storage/sql/SqlDialect.h"
 
 namespace Tarvik::Server {

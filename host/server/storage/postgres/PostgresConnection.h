@@ -4,12 +4,27 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/server/storage/postgres/PostgresValues.h"
 #include "host/server/storage/postgres/PostgresWatch.h"
 #include "host/server/storage/sql/SqlSession.h"
 
 namespace Tarvik::Server {
+
+/// What is wrong with the text that says where a data base is: `key=value` pairs or a `postgresql://`
+/// address. Empty when nothing is. Never cites the text, since that may hold a password.
+std::string ComplaintAboutConnection(const std::string& text);
+
+/// The connection text as `key=value` pairs, with limits of time where it states none, so that a lost network
+/// ends a call. Throws SqlError for a text that there is a complaint about.
+std::string CompleteConnection(const std::string& text);
+
+/// Host, port, data base and user of a connection text, as far as it names them, for people to read.
+std::string DescribeConnection(const std::string& text);
+
+/// `message` as one line in which every secret of the connection text is replaced.
+std::string WithoutSecrets(std::string message, const std::string& text);
 
 /// One connection to a data base server. Operations throw SqlError.
 class PostgresConnection : public SqlConnection {
@@ -59,5 +74,14 @@ class PostgresConnection : public SqlConnection {
     std::string connectionText_;
     std::unique_ptr<Link> link_;
 };
+
+/// The steps that lead from an empty schema to the present tables, made from the numbered files in
+/// migrations/; step i leads from version i to version i + 1. A step that was released never changes.
+const std::vector<std::string_view>& PostgresMigrations();
+
+/// Brings the tables of the connection's schema to the present version, within its writing transaction.
+/// Processes that start at the same time do so one after the other. Throws SqlError, with nothing changed,
+/// when the data base is of a newer version than this program or holds another program's tables.
+void MigratePostgres(PostgresConnection& connection);
 
 }  // namespace Tarvik::Server

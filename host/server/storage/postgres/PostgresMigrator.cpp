@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/postgres/PostgresMigrator.h"
+#include "host/server/storage/postgres/PostgresConnection.h"
 
 namespace Tarvik::Server {
 

@@ -41,7 +41,7 @@ std::unique_ptr<PostgresConnection> PostgresPool::Take(SqlMode mode) {
 }
 
 std::unique_ptr<PostgresConnection> PostgresPool::Begin(SqlMode mode) {
-    constexpr std::chrono::milliseconds kPause{100};
+    constexpr std::chrono::milliseconds kBeforeNextTry{100};
     const auto end = std::chrono::steady_clock::now() + kLockPatience;
     while (true) {
         if (auto idle = BeginIdle(mode)) {
@@ -58,7 +58,7 @@ std::unique_ptr<PostgresConnection> PostgresPool::Begin(SqlMode mode) {
         }
         // Others hold what the data base grants; one of this process may come back before they do.
         std::unique_lock lock(mutex_);
-        freed_.wait_for(lock, kPause, [this] { return !idle_.empty() || givenUp_; });
+        freed_.wait_for(lock, kBeforeNextTry, [this] { return !idle_.empty() || givenUp_; });
         if (givenUp_) {
             throw SqlError("the server ends");
         }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/postgres/PostgresSession.h"
-
-#include "host/server/storage/postgres/PostgresMigrator.h"
+#include "host/server/storage/postgres/PostgresConnection.h"
+#include "host/server/storage/postgres/PostgresStorage.h"
 
 namespace Tarvik::Server {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/storage/sqlite/SqliteSession.h"
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
+
+#include "host/server/storage/sqlite/SqliteStorage.h"
 
 namespace Tarvik::Server {
 

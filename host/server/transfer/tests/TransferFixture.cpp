@@ -5,7 +5,7 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "host/server/transfer/CopyJson.h"
+#include "host/server/transfer/TransferFile.h"
 #include "host/server/transfer/TransferWriter.h"
 
 namespace Tarvik::Server {

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/server/storage/postgres/PostgresMigrator.h"
+#include "host/server/storage/postgres/PostgresConnection.h"
 #include "host/server/storage/postgres/tests/PostgresTest.h"
 
 namespace Tarvik::Server {

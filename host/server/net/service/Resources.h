@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/server/accounts/AccountStorage.h"
+#include "host/server/api/RouteSource.h"
 #include "host/server/net/settings/Settings.h"
 #include "host/server/storage/sql/SqlStorage.h"
 
@@ -24,5 +25,20 @@ std::unique_ptr<SqlStorage> OpenVoyages(const Settings& settings, std::string& e
 
 /// Where the data are, for the log: a folder, or a data base without its password.
 std::string DescribeData(const Settings& settings);
+
+/// Refuses every request for a route, for a server without a sea network.
+class NoRoutes : public RouteSource {
+  public:
+    std::string Plan(std::string_view requestJson) override;
+    std::string Nearest(std::string_view requestJson) override;
+};
+
+/// The network file that was installed with `program` ("…/bin/seaplan-server":
+/// "…/share/seaplan/network.bin"); empty when there is none.
+std::string NetworkBeside(const std::string& program);
+
+/// The source of routes over a network file; for an empty name and for "none" one that refuses every request.
+/// Null, with an English text in `error`, when the file cannot be used.
+std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, std::string& error);
 
 }  // namespace Tarvik::Server
