@@ -34,7 +34,8 @@ class FairLine {
         if (waiting_ >= most_) {
             co_return false;
         }
-        Waiter waiter(*this, std::move(key), co_await boost::asio::this_coro::executor);
+        const auto executor = co_await boost::asio::this_coro::executor;
+        Waiter waiter(*this, std::move(key), executor);
         boost::system::error_code called;
         co_await waiter.timer.async_wait(boost::asio::redirect_error(boost::asio::use_awaitable, called));
         co_return true;

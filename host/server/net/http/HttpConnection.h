@@ -127,7 +127,9 @@ class HttpConnection : public OpenConnection, public std::enable_shared_from_thi
         if (size <= kMostStrangersBytes) {
             co_return std::nullopt;
         }
-        auto known = co_await InLane({Lane::Read, {}},
+        // By name: the compiler would copy a list in the call bit by bit.
+        Place place{Lane::Read, {}};
+        auto known = co_await InLane(std::move(place),
                                      [this, &request] { return host_.Service().RefuseLarge(request); });
         Allow(host_.Limits().request);
         co_return known ? std::move(*known) : PlainReply(503);
