@@ -70,7 +70,7 @@ std::vector<std::string> ReadTexts(std::string_view request, std::size_t least) 
         throw Refusal(ErrorCode::BadJson, "an array is expected");
     }
     const auto count = static_cast<std::size_t>(root.size());
-    if (count > kMostRows + 2) {
+    if (count > kMostRows) {
         throw Refusal(ErrorCode::TooManyRows, std::to_string(count));
     }
     std::vector<std::string> texts;
