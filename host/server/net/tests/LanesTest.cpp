@@ -28,7 +28,9 @@ net::awaitable<void> PassThrough(FairLine& line, std::string key, std::string& s
         co_return;
     }
     said += key + " ";
-    co_await net::post(co_await net::this_coro::executor, net::use_awaitable);
+    // By name: with a wait within a wait and one in a condition the compiler mixes the frame's places up.
+    const auto executor = co_await net::this_coro::executor;
+    co_await net::post(executor, net::use_awaitable);
     line.Leave();
 }
 
