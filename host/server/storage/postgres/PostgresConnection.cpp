@@ -143,6 +143,7 @@ PostgresConnection::PostgresConnection(const std::string& connectionText, Postgr
 PostgresConnection::~PostgresConnection() = default;
 
 void PostgresConnection::Begin(Mode mode) {
+    link_->line.AllowAnyTime(false);
     Guarded([&] {
         using Reading = pqxx::transaction<pqxx::repeatable_read, pqxx::read_only>;
         if (mode == Mode::Write) {
@@ -220,7 +221,7 @@ const std::string& PostgresConnection::Prepared(std::string_view sql) {
 }
 
 void PostgresConnection::AllowAnyTime() {
-    link_->line.AllowAnyTime();
+    link_->line.AllowAnyTime(true);
 }
 
 bool PostgresConnection::TimedOut() const noexcept {

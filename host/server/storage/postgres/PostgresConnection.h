@@ -47,7 +47,7 @@ class PostgresConnection : public SqlConnection {
 
     /// Runs all statements of a text that is used once, within a transaction.
     PostgresRows Execute(const std::string& sql);
-    /// From now on the data base may take any time for an answer.
+    /// In the rest of the transaction the data base may take any time for an answer.
     void AllowAnyTime();
     /// Whether the connection was broken because the data base was silent for too long.
     bool TimedOut() const noexcept;

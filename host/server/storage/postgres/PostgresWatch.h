@@ -32,8 +32,8 @@ class PostgresWatch {
         /// The data base is asked something, or has answered.
         void Begin();
         void End() { since_ = 0; }
-        /// From now on an answer may take any time.
-        void AllowAnyTime() { patient_ = true; }
+        /// Whether an answer may take any time from the next question on.
+        void AllowAnyTime(bool allow) { patient_ = allow; }
         /// Whether the connection was broken for its silence.
         bool TimedOut() const { return timedOut_; }
 
