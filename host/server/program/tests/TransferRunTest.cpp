@@ -119,8 +119,8 @@ TEST_F(TransferRunTest, WrongWordsGetCode2) {
 
 TEST_F(TransferRunTest, HelpTellsBothCommands) {
     EXPECT_EQ(Run({"--help"}), 0);
-    for (const char* word :
-         {"export [--user NAME | --all] FILE", "import [--user NAME] [--add] FILE", "--data FOLDER"}) {
+    for (const char* word : {"export [--user NAME | --all] FILE",
+                             "import [--user NAME] [--add] [--skip-bad] FILE", "--data FOLDER"}) {
         EXPECT_NE(out_.str().find(word), std::string::npos) << word;
     }
 }
