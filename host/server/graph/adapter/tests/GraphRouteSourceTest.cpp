@@ -126,7 +126,7 @@ TEST_F(GraphRouteSourceTest, RefusesWhatItCannotAnswerAndSaysWhy) {
     for (std::size_t i = 0; i < RouteMessages::kMaxStops; ++i) {
         many += "#40001";
     }
-    EXPECT_EQ(plan(many.c_str()), "1 the request names more than 1000 stops");
+    EXPECT_EQ(plan(many.c_str()), "1 the request names more than 200 stops");
 }
 
 TEST_F(GraphRouteSourceTest, TheNearestWayTakesThePortAsNumberOrText) {
