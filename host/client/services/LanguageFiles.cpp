@@ -117,12 +117,12 @@ std::string LanguageFiles::Text(const std::string& section, const std::string& k
 
 QuestionButtons LanguageFiles::ButtonsOf(const std::string& question) const {
     QuestionButtons buttons;
-    for (const auto& [name, text] : texts_) {
+    for (const auto& entry : texts_) {
         const auto part = [&](const char* ending) {
-            const auto found = texts_.find({"Buttons", name.second + ending});
+            const auto found = texts_.find({"Buttons", entry.first.second + ending});
             return found == texts_.end() ? std::string() : found->second;
         };
-        if (text == question && !part(".YES").empty()) {
+        if (entry.second == question && !part(".YES").empty()) {
             buttons = {part(".YES"), part(".NO"), part(".CAREFUL") == "yes"};
         }
     }

@@ -20,8 +20,6 @@ constexpr double kWestOfLine = -179.0;
 constexpr int kPortDecimals = 4;
 constexpr int kWaypointDecimals = 3;
 
-using Util::StringUtl;
-
 double KmPerHour(float knots) {
     return Util::KmhFromKnots(static_cast<double>(knots));
 }
