@@ -21,8 +21,8 @@ namespace {
 class FleetPlugin final : public Core::TObject {
   public:
     FleetPlugin() {
-        all_.Set<&FleetPlugin::onAll>(this);
-        add_.Set<&FleetPlugin::onAdd>(this);
+        all_.Set<&FleetPlugin::OnAll>(this);
+        add_.Set<&FleetPlugin::OnAdd>(this);
         info_.Set<&FleetPlugin::OnInfo>(this);
         Bind(Interface::Bus::AllVessels.name, all_);
         Bind(Interface::Bus::ShowAddVessel.name, add_);
@@ -48,8 +48,8 @@ class FleetPlugin final : public Core::TObject {
         Core::TrvKernel::Instance()->BindTrvService(name, &event);
         bound_.emplace_back(name, &event);
     }
-    void* onAll(void*) { return &fleet; }
-    void* onAdd(void* input) {
+    void* OnAll(void*) { return &fleet; }
+    void* OnAdd(void* input) {
         offered.push_back(static_cast<const Interface::FleetEntry*>(input)->name);
         handle_ = &window;
         return &handle_;
