@@ -74,6 +74,7 @@ class VesselEditorTest : public TreeFixture {
         desk.AddCategory("Full");
         desk.AddVoyage("Full", {.name = "A", .calls = PanelDesk::Calls(1)});
         desk.AddVoyage("Full", {.name = "B", .vsn = "ANNA"});
+        desk.AddVoyage("Full", {.name = "C", .vsi = "7001", .vsn = "Nora", .vsmsi = 211000001});
         ctrl.ReloadTree();
         ctrl.ComputeStatus(Id("A"));
     }
@@ -163,6 +164,21 @@ TEST_F(VesselEditorTest, TheSameVesselSendsNothing) {
     vessels.list = false;
     Editor().OnEnter(-1);
     EXPECT_EQ(desk.Count(Ask::kChangeVessel), 0);
+}
+
+// The typed name would go without the fleet's id and number, and tracking and correction with them.
+TEST_F(VesselEditorTest, AVesselThatWasOnlyLookedAtKeepsItsIdAndNumber) {
+    ctrl.ComputeStatus(Id("C"));
+    Click("C", "Voyage_ReplaceShip");
+    ASSERT_EQ(vessels.text, "Nora");
+    Editor().OnLeft();
+    EXPECT_FALSE(vessels.box);
+    Click("C", "Voyage_ReplaceShip");
+    vessels.list = false;
+    Editor().OnEnter(-1);
+    EXPECT_FALSE(vessels.box);
+    EXPECT_EQ(desk.Count(Ask::kChangeVessel), 0);
+    EXPECT_TRUE(messages.messages.empty());
 }
 
 TEST_F(VesselEditorTest, ARefusedVesselIsToldInFixedWords) {

@@ -40,6 +40,7 @@ VesselListSize VoyShipEditDlg::SizeOf(std::size_t vessels) {
 void VoyShipEditDlg::Open(const Rect& inTree, const std::string& text,
                           std::vector<Interface::FleetEntry> fleet) {
     fleet_ = std::move(fleet);
+    opened_ = text;
     view_.ShowBox(inTree, text);
     OnTyped(text);
 }
@@ -92,6 +93,10 @@ void VoyShipEditDlg::OnLeft() {
 }
 
 void VoyShipEditDlg::CommitTyped() {
+    // A typed name has no id and no number: committing what was only looked at would take both away.
+    if (view_.BoxText() == opened_) {
+        return;
+    }
     const std::u16string name = StringUtl::TrimLeft(StringUtl::TranslateString(view_.BoxText()));
     if (!name.empty()) {
         commit_({"", StringUtl::TranslateString(name), 0}, true);

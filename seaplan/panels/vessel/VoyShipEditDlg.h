@@ -31,7 +31,7 @@ class VoyShipEditDlg {
     void OnEnter(int selectedRow);
     /// A row of the list was clicked.
     void OnChosen(int row);
-    /// A press outside the box and the list: the typed name is taken.
+    /// A press outside the box and the list: the typed name is taken, an untouched one is left as it is.
     void OnLeft();
     /// The press is over.
     void OnReleased() { closedByPress_ = false; }
@@ -46,6 +46,7 @@ class VoyShipEditDlg {
     Commit commit_;
     std::vector<Interface::FleetEntry> fleet_;
     std::vector<Interface::FleetEntry> shown_;
+    std::string opened_;  ///< what stood in the box when it opened
     bool closedByPress_ = false;
 };
 
