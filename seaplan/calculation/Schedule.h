@@ -39,7 +39,7 @@ int RecomputeSchedule(const PortCallRows& rows, PortCallRows& out);
 /// not finite or leads out of the years 1 to 9999; the passes above then fail as for a steam time that is not
 /// finite.
 int AddHours(float hours, Util::_datetime_t& time);
-/// Hours from text b to text a, both 19 characters "%Y-%m-%d %H:%M:%S" read by position. 0, or -1 for another
+/// Hours from text b to text a, both 19 characters `kTimeFormat` read by position. 0, or -1 for another
 /// length.
 int HoursBetween(const std::string& a, const std::string& b, float& hours);
 

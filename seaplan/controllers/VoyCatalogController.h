@@ -85,7 +85,7 @@ class VoyCatalogController {
     int CloseRoute(const std::string& vi);
     int OpenAis(const std::string& vi);
     int CloseAis(const std::string& vi);
-    /// Notes a correction at a time of the plan, "%Y-%m-%d %H:%M:%S": kAddAisTimeCodes.
+    /// Notes a correction at a time of the plan, `kTimeFormat`: kAddAisTimeCodes.
     int AddAisModTime(const std::string& vi, const std::string& time);
     /// Times of correction, asked for once: kGetAisTimesCodes.
     int GetAisModTimes(const std::string& vi, std::vector<std::string>& times);

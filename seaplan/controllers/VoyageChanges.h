@@ -71,7 +71,7 @@ class VoyageChanges {
     Outcome<ChangeStep> SwitchRoute(const std::string& vi, bool on);
     /// Tracing of the vessel, on or off.
     Outcome<ChangeStep> SwitchAis(const std::string& vi, bool on);
-    /// Notes a correction at a time of the plan, "%Y-%m-%d %H:%M:%S".
+    /// Notes a correction at a time of the plan, `kTimeFormat`.
     Outcome<ChangeStep> AddAisTime(const std::string& vi, const std::string& time);
     /// Times of correction; asked for once and then kept in the record.
     Outcome<ChangeStep> GetAisTimes(const std::string& vi, std::vector<std::string>& times);

@@ -25,9 +25,9 @@ struct CRemark {
     int seq = 0;
     std::string subject;
     std::string body;
-    /// Creation date as the server gave it; local "%Y-%m-%d %H:%M:%S" for one that was added here.
+    /// Creation date as the server gave it; local `kTimeFormat` for one that was added here.
     std::string cdate;
-    /// Last change, local text "%Y-%m-%d %H:%M:%S"; empty when the server gave none or no zone is known.
+    /// Last change, local text `kTimeFormat`; empty when the server gave none or no zone is known.
     std::string udate;
 
     bool operator==(const CRemark&) const = default;

@@ -16,7 +16,7 @@ std::string FormatPlan(const PlanArguments& arguments, const Interface::PlanResu
                        const std::string& zone, const LanguageFiles& texts);
 
 /// One object in standard units (knots, NM, hours) with `rows`, `totals`, `summary` and `route`; times as
-/// "%Y-%m-%d %H:%M:%S" in the plan's zone, numbers in full precision.
+/// `kTimeFormat` in the plan's zone, numbers in full precision.
 std::string PlanJson(const Interface::PlanResult& plan);
 /// A FeatureCollection: the drawn line pieces, then ports and route points. Degrees, longitude first.
 std::string PlanGeoJson(const Interface::PlanResult& plan);

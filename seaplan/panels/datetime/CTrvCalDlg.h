@@ -68,7 +68,7 @@ class CTrvDateTimeCtrl {
 
     void SetValue(const Util::_datetime_t& value);
     const Util::_datetime_t& Value() const { return value_; }
-    /// How the value is printed, at first "%Y-%m-%d %H:%M:%S".
+    /// How the value is printed, at first `kTimeFormat`.
     void SetFormat(const std::string& format);
     /// The calendar offers days without a time.
     void SetDateOnly(bool dateOnly) { dateOnly_ = dateOnly; }

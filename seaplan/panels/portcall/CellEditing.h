@@ -36,7 +36,7 @@ class CellEditing {
     /// A key in the list of purposes; false when it means nothing there.
     bool OnPurposeKey(KeyPress press, int current);
     void OnPurposeChosen(int index);
-    /// The picker's time, "%Y-%m-%d %H:%M:%S".
+    /// The picker's time, `kTimeFormat`.
     void OnTimeChosen(const std::string& text);
 
     /// Takes what is typed and closes all: the table was scrolled, a press fell outside it, a command begins.

@@ -21,7 +21,7 @@ class CellEdits {
     void SetWeather(int row, const std::string& typed);
     /// A purpose code.
     void SetPurpose(int row, const std::string& code);
-    /// ETA or ETD, 19 characters "%Y-%m-%d %H:%M:%S".
+    /// ETA or ETD, 19 characters `kTimeFormat`.
     void SetTime(int row, int column, const std::string& text);
 
   private:

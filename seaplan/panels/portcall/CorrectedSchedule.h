@@ -13,7 +13,7 @@ class CorrectedSchedule {
   public:
     explicit CorrectedSchedule(PortCallDesk& desk) : desk_(desk) {}
 
-    /// Time of a correction, "%Y-%m-%d %H:%M:%S" in the user's zone, and the voyage that it belongs to.
+    /// Time of a correction, `kTimeFormat` in the user's zone, and the voyage that it belongs to.
     void SetTime(const std::string& vi, const std::string& time);
     /// Shows the voyage on show as history and plan, with nothing to save. 0; -1 it cannot be split, -2 it
     /// has no rows.

@@ -28,7 +28,7 @@ class PortCallOpener {
     virtual void ShowBesideTree() = 0;
     /// Fills the panel with a fresh correction from AIS, ready to be recalculated; negative on failure.
     virtual int ShowAisCorrection() = 0;
-    /// Time of that correction, "%Y-%m-%d %H:%M:%S" in the user's zone.
+    /// Time of that correction, `kTimeFormat` in the user's zone.
     virtual void SetCorrectionTime(const std::string& time) = 0;
 };
 

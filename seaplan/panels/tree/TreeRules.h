@@ -28,7 +28,7 @@ struct TreeSortState {
 struct VoyageKeys {
     std::string vi;
     std::string name;
-    std::string date;  ///< "%Y-%m-%d %H:%M:%S", or "0" and a running number for a voyage without a date
+    std::string date;  ///< `kTimeFormat`, or "0" and a running number for a voyage without a date
 };
 
 /// Ids in the order of the rows, by plain byte order of both keys. Of voyages with both keys equal the last
