@@ -30,6 +30,17 @@ std::vector<fs::path> FilesOf(const std::string& folder) {
     return files;
 }
 
+/// The files "<component>.<language>.json" of a folder, in order of their names.
+std::vector<fs::path> FilesOf(const std::string& folder, const std::string& language) {
+    std::vector<fs::path> files = FilesOf(folder);
+    const std::string tail = "." + language + ".json";
+    std::erase_if(files, [&tail](const fs::path& file) {
+        const std::string name = file.filename().string();
+        return name.size() <= tail.size() || !name.ends_with(tail);
+    });
+    return files;
+}
+
 std::string ContentOf(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
@@ -75,15 +86,17 @@ void LanguageFiles::Load(const std::string& folder, const std::string& language)
     complaints_.clear();
     code_ = language;
     offered_ = In(folder);
-    std::vector<fs::path> files = FilesOf(folder);
-    const std::string tail = "." + language + ".json";
-    std::erase_if(files, [&tail](const fs::path& file) {
-        const std::string name = file.filename().string();
-        return name.size() <= tail.size() || !name.ends_with(tail);
-    });
+    if (language != kReferenceLanguage) {
+        MergeFiles(FilesOf(folder, kReferenceLanguage));
+    }
+    const std::vector<fs::path> files = FilesOf(folder, language);
     if (files.empty()) {
         complaints_.push_back("No language file for " + language + " in " + folder);
     }
+    MergeFiles(files);
+}
+
+void LanguageFiles::MergeFiles(const std::vector<fs::path>& files) {
     for (const fs::path& file : files) {
         if (!Merge(ContentOf(file))) {
             complaints_.push_back("The language file " + file.string() + " cannot be read");
@@ -108,6 +121,15 @@ bool LanguageFiles::Merge(const std::string& json) {
         }
     }
     return true;
+}
+
+const Language* LanguageFiles::Next() const {
+    if (offered_.empty()) {
+        return nullptr;
+    }
+    const auto at = std::find_if(offered_.begin(), offered_.end(),
+                                 [this](const Language& language) { return language.code == code_; });
+    return at == offered_.end() || at + 1 == offered_.end() ? &offered_.front() : &*(at + 1);
 }
 
 std::string LanguageFiles::Text(const std::string& section, const std::string& key) const {

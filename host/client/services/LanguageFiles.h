@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <filesystem>
 #include <map>
 #include <string>
 #include <utility>
@@ -9,6 +10,9 @@
 #include <tarvik/interface/LoadString.h>
 
 namespace Tarvik::Client {
+
+/// The language that has every text: what another one lacks is shown in it.
+inline constexpr const char* kReferenceLanguage = "en-US";
 
 /// A language that the client offers.
 struct Language {
@@ -36,8 +40,8 @@ class LanguageFiles : public Interface::LanguageSource {
     /// text LANGUAGE_NAME is the language's own name.
     static std::vector<Language> In(const std::string& folder);
 
-    /// Replaces all texts by those of the files "<component>.<language>.json" of a folder. A file that does
-    /// not parse is left out and named among the complaints.
+    /// Replaces all texts by those of the files "<component>.<language>.json" of a folder; what they lack is
+    /// in the reference language. A file that does not parse is left out and named among the complaints.
     void Load(const std::string& folder, const std::string& language);
     /// Adds the texts of one file's content. False for one that is no object of objects of texts.
     bool Merge(const std::string& json);
@@ -45,6 +49,8 @@ class LanguageFiles : public Interface::LanguageSource {
     const std::string& Code() const { return code_; }
     /// The languages of the folder loaded last.
     const std::vector<Language>& Offered() const { return offered_; }
+    /// The language offered behind the one in force, behind the last the first; null when none is offered.
+    const Language* Next() const;
     const std::vector<std::string>& Complaints() const { return complaints_; }
     /// Text of a key; the key itself when there is none, so that a gap is seen.
     std::string Text(const std::string& section, const std::string& key) const;
@@ -58,6 +64,8 @@ class LanguageFiles : public Interface::LanguageSource {
                                        const std::u16string& key) const override;
 
   private:
+    void MergeFiles(const std::vector<std::filesystem::path>& files);
+
     std::map<std::pair<std::string, std::string>, std::string> texts_;
     std::string code_;
     std::vector<Language> offered_;

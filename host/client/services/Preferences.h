@@ -12,7 +12,7 @@ namespace Tarvik::Client {
 
 /// What the person chose; kept in one JSON file of the data folder.
 struct Preferences {
-    std::string language = "en-US";
+    std::string language = kReferenceLanguage;
     /// Zone in which times are shown and typed. Plan times are stored in this very zone's reading, so that
     /// with it what was saved comes back as it was.
     std::string timeZone = Util::kPlanZone;

@@ -10,6 +10,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include <tarvik/bus/ChartContract.h>
@@ -56,6 +57,13 @@ QString MainWindow::Word(const char* key) const {
     return QString::fromStdString(session_.Texts().Text("Client", key));
 }
 
+QString MainWindow::ToolWord(const char* key) const {
+    const Language* next = session_.Texts().Next();
+    const QString name = next == nullptr ? QString() : QString::fromStdString(next->name);
+    // The button that changes the language is named by the next one, in its own words.
+    return std::string_view(key) == "LANGUAGE" ? name : Word(key).replace("%1", name);
+}
+
 std::vector<MainTools::Tool> MainWindow::Tools() {
     return {
         {"VOYAGES", "voyages", "Ctrl+L", [this] { TogglePanel(kVoyages); }},
@@ -72,7 +80,7 @@ std::vector<MainTools::Tool> MainWindow::Tools() {
 
 void MainWindow::ApplyTexts() {
     setWindowTitle(Word("TITLE"));
-    tools_.ApplyTexts([this](const char* key) { return Word(key); });
+    tools_.ApplyTexts([this](const char* key) { return ToolWord(key); });
     ShowConnection();
     status_.ApplyTexts();
     if (centralWidget()) {
@@ -156,13 +164,10 @@ void MainWindow::NextTheme() {
 
 void MainWindow::NextLanguage() {
     Preferences preferences = session_.Preferred();
-    const std::vector<std::string> codes = LanguageCodes(session_.Texts().Offered());
-    if (codes.empty()) {
-        return;
+    if (const Language* next = session_.Texts().Next()) {
+        preferences.language = next->code;
+        Prefer(preferences);
     }
-    const auto at = std::find(codes.begin(), codes.end(), preferences.language);
-    preferences.language = at == codes.end() || at + 1 == codes.end() ? codes.front() : *(at + 1);
-    Prefer(preferences);
 }
 
 void MainWindow::OpenPreferences() {

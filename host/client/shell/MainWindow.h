@@ -58,6 +58,8 @@ class MainWindow : public QMainWindow {
     void NextLanguage();
     void OpenPreferences();
     QString Word(const char* key) const;
+    /// Text of a tool's key; the names of languages come from their files.
+    QString ToolWord(const char* key) const;
 
     ClientSession& session_;
     MainTools tools_;

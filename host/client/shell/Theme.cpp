@@ -66,7 +66,8 @@ QString ClientStyleSheet() {
 
 void ApplyTheme(Skin::Theme theme) {
     QFont font("Noto Sans");
-    font.setFamilies({"Noto Sans", "WenQuanYi Micro Hei", "Noto Sans CJK SC", "DejaVu Sans"});
+    font.setFamilies(
+        {"Noto Sans", "WenQuanYi Micro Hei", "Noto Sans CJK SC", "Noto Sans CJK TC", "DejaVu Sans"});
     font.setPixelSize(Skin::kTextPixels);
     QApplication::setFont(font);
     // The theme first: plug-ins' windows take it when the change of the palette reaches them.

@@ -20,7 +20,8 @@ TEST(LanguageFiles, MergesAllComponentsOfTheLanguage) {
     EXPECT_TRUE(texts.Complaints().empty());
     texts.Load(folder.Path(), "zh-CN");
     EXPECT_EQ(texts.Find(u"B", u"B", u"X"), u"港");
-    EXPECT_EQ(texts.Find(u"A", u"A", u"X"), std::nullopt);
+    EXPECT_EQ(texts.Find(u"A", u"A", u"X"), u"ax") << "what is missing shows in English";
+    EXPECT_EQ(texts.Find(u"A", u"A", u"Z"), std::nullopt);
     EXPECT_EQ(texts.Code(), "zh-CN");
 }
 
@@ -44,6 +45,36 @@ TEST(LanguageFiles, ALanguageWithoutFilesIsNamed) {
     LanguageFiles texts;
     texts.Load(folder.Path(), "zh-CN");
     EXPECT_EQ(texts.Complaints().size(), 1U);
+}
+
+TEST(LanguageFiles, AMissingTextShowsInEnglishAndNeverInTheLanguageBefore) {
+    TemporaryFolder folder;
+    folder.Write("a.en-US.json", R"({"A":{"X":"ship","Y":"port"}})");
+    folder.Write("a.zh-CN.json", R"({"A":{"X":"船","Y":"港口"}})");
+    folder.Write("a.zh-TW.json", R"({"A":{"X":"船舶"}})");
+    LanguageFiles texts;
+    texts.Load(folder.Path(), "zh-CN");
+    texts.Load(folder.Path(), "zh-TW");
+    EXPECT_EQ(texts.Text("A", "X") + texts.Text("A", "Y"), "船舶port");
+    EXPECT_TRUE(texts.Complaints().empty());
+}
+
+TEST(LanguageFiles, TheNextLanguageStandsBehindTheOneInForceAndTheFirstBehindTheLast) {
+    TemporaryFolder folder;
+    LanguageFiles texts;
+    texts.Load(folder.Path(), "en-US");
+    EXPECT_EQ(texts.Next(), nullptr);
+    for (const char* code : {"en-US", "zh-CN", "zh-TW"}) {
+        folder.Write(std::string("client.") + code + ".json", R"({"Client":{}})");
+    }
+    const auto next = [&](const char* code) {
+        texts.Load(folder.Path(), code);
+        return texts.Next()->code;
+    };
+    EXPECT_EQ(next("en-US"), "zh-CN");
+    EXPECT_EQ(next("zh-CN"), "zh-TW");
+    EXPECT_EQ(next("zh-TW"), "en-US");
+    EXPECT_EQ(next("nl-NL"), "en-US");
 }
 
 TEST(LanguageFiles, RefusesAnythingButObjectsOfTexts) {
@@ -84,6 +115,47 @@ TEST(ClientTexts, AreCompleteInEveryLanguage) {
         for (const auto& [key, text] : english.items()) {
             EXPECT_TRUE(texts.contains(key)) << key;
             EXPECT_FALSE(text.get<std::string>().empty()) << key;
+        }
+    }
+}
+
+/// All keys of a component's file, as "section key", in order.
+std::vector<std::string> KeysOf(const std::string& component, const std::string& language) {
+    std::ifstream in(std::string(CLIENT_LANGUAGES) + "/" + component + "." + language + ".json");
+    std::vector<std::string> keys;
+    for (const auto& [section, texts] : nlohmann::json::parse(in).items()) {
+        for (const auto& [key, text] : texts.items()) {
+            keys.emplace_back(section).append(" ").append(key);
+        }
+    }
+    return keys;
+}
+
+TEST(ShippedLanguages, AreEnglishAndBothFormsOfChinese) {
+    EXPECT_THAT(LanguageCodes(LanguageFiles::In(CLIENT_LANGUAGES)),
+                testing::ElementsAre("en-US", "zh-CN", "zh-TW"));
+}
+
+TEST(ShippedLanguages, HaveTheKeysOfTheEnglishFilesAndNoOthers) {
+    for (const Language& language : LanguageFiles::In(CLIENT_LANGUAGES)) {
+        for (const char* component : {"client", "seaplan"}) {
+            EXPECT_EQ(KeysOf(component, language.code), KeysOf(component, kReferenceLanguage))
+                << component << " " << language.code;
+        }
+    }
+}
+
+/// A character that Traditional Chinese writes otherwise gives away a text that was copied.
+TEST(ShippedLanguages, TraditionalChineseHoldsNoSimplifiedForms) {
+    constexpr const char* kSimplified[] = {"们", "这", "为", "时", "显", "录", "设", "选",
+                                           "处", "删", "备", "类", "进", "请", "复", "给",
+                                           "开", "关", "总", "间", "预", "离", "经", "纬"};
+    for (const char* component : {"client", "seaplan"}) {
+        std::ifstream in(std::string(CLIENT_LANGUAGES) + "/" + component + ".zh-TW.json");
+        const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        ASSERT_FALSE(text.empty());
+        for (const char* form : kSimplified) {
+            EXPECT_EQ(text.find(form), std::string::npos) << component << " " << form;
         }
     }
 }

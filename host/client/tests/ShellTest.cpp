@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
@@ -110,6 +111,21 @@ TEST_F(ShellTest, NoPanelClosesForAnotherLook) {
     window.Prefer(dark);
     EXPECT_TRUE(panel->isVisible());
     EXPECT_EQ(session_->Preferred().theme, "dark");
+}
+
+TEST_F(ShellTest, TheLanguageButtonGoesThroughAllLanguagesByTheirOwnNames) {
+    const MainWindow window(*session_);
+    auto* language = window.findChild<QAction*>("action_language");
+    ASSERT_NE(language, nullptr);
+    EXPECT_EQ(language->text(), "简体中文");
+    EXPECT_EQ(language->toolTip(), "Show the client in 简体中文 (Ctrl+G)");
+    language->trigger();
+    EXPECT_EQ(language->text(), "繁體中文");
+    language->trigger();
+    EXPECT_EQ(session_->Preferred().language, "zh-TW");
+    EXPECT_EQ(window.findChild<QAction*>("action_voyages")->toolTip(), "顯示或隱藏航次 (Ctrl+L)");
+    language->trigger();
+    EXPECT_EQ(session_->Preferred().language, "en-US");
 }
 
 TEST_F(ShellTest, TheSecondWindowOnOneFolderSaysThatItIsOpen) {

@@ -23,7 +23,7 @@ namespace Skin = Tarvik::Skin;
 
 int Usage() {
     std::fputs(
-        "seaplan-views-preview [--png OUT.png] [--theme light|dark|night] [--lang en-US|zh-CN]\n"
+        "seaplan-views-preview [--png OUT.png] [--theme light|dark|night] [--lang en-US|zh-CN|zh-TW]\n"
         "                      [--scene "
         "tree|category|empty|voyage|edit|matches|purposes|calendar|rename|bin|vessel]\n",
         stderr);
