@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// Decoding a feed as a busy shore station has it: seven position reports of class A and two of class B to one
+// type 5 of two sentences. Aim: 5 million sentences/s on one core. AIS_BENCH_LOG=FILE writes the same feed
+// for other decoders.
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <random>
+#include <string>
+
+#include <benchmark/benchmark.h>
+
+#include "host/plugins/ais/core/Decoder.h"
+#include "host/plugins/ais/core/tests/SentenceWriter.h"
+
+namespace Tarvik::Ais {
+
+namespace {
+
+constexpr int kMessages = 100'000;
+constexpr std::size_t kChunk = 65536;
+
+std::string MakeFeed() {
+    std::mt19937 random(1);
+    const auto from = [&random](int first, int last) {
+        return std::uniform_int_distribution<int>(first, last)(random);
+    };
+    std::string feed;
+    for (int i = 0; i < kMessages; ++i) {
+        RawMovement raw{1, from(200'000'000, 799'999'999)};
+        raw.longitude = from(-108'000'000, 108'000'000);
+        raw.latitude = from(-48'000'000, 48'000'000);
+        raw.speed = from(0, 250);
+        raw.course = from(0, 3599);
+        raw.heading = from(0, 359);
+        const BitWriter bits = i % 10 < 7   ? ClassA(raw)
+                               : i % 10 < 9 ? ClassB(raw)
+                                            : VoyageData(raw.mmsi, "SAMPLE SHIP", "CALLSGN", "ROTTERDAM");
+        for (const std::string& line : Sentences(bits, i % 10 < 9 ? -1 : i / 10 % 10)) {
+            feed += line + "\r\n";
+        }
+    }
+    return feed;
+}
+
+void DecodeFeed(benchmark::State& state) {
+    const std::string feed = MakeFeed();
+    if (const char* file = std::getenv("AIS_BENCH_LOG")) {
+        std::ofstream(file, std::ios::binary) << feed;
+    }
+    const auto lines = std::count(feed.begin(), feed.end(), '\n');
+    std::uint64_t sum = 0;
+    for (auto turn : state) {
+        int messages = 0;
+        Decoder decoder([&](const Message& message) {
+            sum += message.mmsi;
+            ++messages;
+        });
+        for (std::size_t at = 0; at < feed.size(); at += kChunk) {
+            decoder.Take(std::string_view(feed).substr(at, kChunk), 0);
+        }
+        if (messages != kMessages) {
+            state.SkipWithError("messages are missing");
+        }
+    }
+    benchmark::DoNotOptimize(sum);
+    state.SetItemsProcessed(state.iterations() * lines);
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(feed.size()));
+}
+BENCHMARK(DecodeFeed)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace Tarvik::Ais
