@@ -117,7 +117,7 @@ inline constexpr auto kPortCallColumns = std::to_array<PortCallColumnEntry>({
      .total = [](const ScheduleTotals& sum) { return TwoDecimals(static_cast<double>(sum.distance)); }},
 });
 
-inline constexpr int PortCallColumnCount = static_cast<int>(kPortCallColumns.size());
+inline constexpr int kPortCallColumnCount = static_cast<int>(kPortCallColumns.size());
 /// Order cell of the totals row.
 inline constexpr const char* kTotalsLabel = "RES";
 

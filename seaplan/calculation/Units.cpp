@@ -5,6 +5,7 @@
 #include <array>
 #include <string_view>
 
+#include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/StringUtl.h>
 #include <tarvik/util/Units.h>
 
@@ -26,7 +27,7 @@ struct Factor {
 };
 
 // The three speed factors are independent of each other: knots to MPH over KPH is not the direct way.
-constexpr std::array<Factor, 10> kFactors{{
+constexpr auto kFactors = std::to_array<Factor>({
     {"KPH", "kts", 1, kKmPerMile, UnitKind::Speed},
     {"kts", "KPH", kKmPerMile, 1, UnitKind::Speed},
     {"KPH", "MPH", 1, 1.61F, UnitKind::Speed},
@@ -37,7 +38,7 @@ constexpr std::array<Factor, 10> kFactors{{
     {"NM", "KM", kKmPerMile, 1, UnitKind::Distance},
     {"day", "hour", 24, 1, UnitKind::Time},
     {"hour", "day", 1, 24, UnitKind::Time},
-}};
+});
 
 float Changed(float value, const Factor& factor) {
     return static_cast<float>(static_cast<double>(value) * static_cast<double>(factor.multiplier) /
@@ -115,14 +116,14 @@ std::string UnitLabel(const UnitSet& units, UnitKind kind) {
     return UnitOf(units, kind) + (kind == UnitKind::Time ? "s" : "");
 }
 
-std::array<const char*, 2> OfferedUnits(UnitKind kind) {
+std::span<const char* const> OfferedUnits(UnitKind kind) {
     switch (kind) {
         case UnitKind::Speed:
-            return {"kts", "KPH"};
+            return Interface::kSpeedUnits;
         case UnitKind::Distance:
-            return {"NM", "KM"};
+            return Interface::kDistanceUnits;
         default:
-            return {"day", "hour"};
+            return Interface::kTimeUnits;
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
+#include <span>
 #include <string>
 
 #include <tarvik/util/DateTime.h>
@@ -28,7 +28,7 @@ const std::string& UnitOf(const UnitSet& units, UnitKind kind);
 /// What stands beside a figure: the unit's name, of a time its plural; empty for None.
 std::string UnitLabel(const UnitSet& units, UnitKind kind);
 /// The names that a person can choose from for a quantity, which is not None.
-std::array<const char*, 2> OfferedUnits(UnitKind kind);
+std::span<const char* const> OfferedUnits(UnitKind kind);
 
 /// Changes one quantity of every row as value * multiplier / divisor. 0; -1 for a pair of units without a
 /// factor (out cleared); -2 for no rows. The empty input is tested first.

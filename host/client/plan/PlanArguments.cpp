@@ -4,8 +4,10 @@
 #include <charconv>
 #include <cmath>
 #include <map>
+#include <span>
 #include <string_view>
 
+#include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
@@ -15,7 +17,6 @@ namespace Tarvik::Client {
 
 namespace {
 
-constexpr std::string_view kPurposeCodes = "12BCDLOWYZ";
 constexpr double kMinSpeedKnots = 0.01;
 constexpr double kMaxSpeedKnots = 1000.0;
 constexpr double kMaxStayHours = 10000.0;
@@ -55,7 +56,7 @@ class Reader {
         static const std::map<std::string, Handler> handlers{
             {"--depart", &Reader::Depart},   {"--zone", &Reader::Zone},     {"--speed", &Reader::Speed},
             {"--weather", &Reader::Weather}, {"--stay", &Reader::Stay},     {"--purpose", &Reader::Purpose},
-            {"--units", &Reader::Units},     {"--format", &Reader::format}, {"--save", &Reader::Save},
+            {"--units", &Reader::Units},     {"--format", &Reader::Format}, {"--save", &Reader::Save},
             {"--picture", &Reader::Picture}};
         const std::size_t equals = word.find('=');
         const auto handler = handlers.find(word.substr(0, equals));
@@ -129,37 +130,42 @@ class Reader {
             if (piece.size() == 1 && piece[0] >= 'a' && piece[0] <= 'z') {
                 piece[0] = static_cast<char>(piece[0] - 32);
             }
-            if (piece.size() != 1 || kPurposeCodes.find(piece[0]) == std::string_view::npos) {
-                return Bad("--purpose", piece, "codes out of 1, 2, B, C, D, L, O, W, Y, Z");
+            if (!Interface::IsPurposeCode(piece)) {
+                return Bad("--purpose", piece, "codes out of " + Interface::PurposeCodes(", "));
             }
             parsed_.arguments.purposes.push_back(piece);
         }
         if (pieces.empty()) {
-            Bad("--purpose", value, "codes out of 1, 2, B, C, D, L, O, W, Y, Z");
+            Bad("--purpose", value, "codes out of " + Interface::PurposeCodes(", "));
         }
     }
 
     void Units(const std::string& value) {
         PlanArguments& to = parsed_.arguments;
-        const std::map<std::string, std::pair<std::string*, const char*>> known{
-            {"kts", {&to.speedUnit, "kts"}},  {"kph", {&to.speedUnit, "KPH"}},
-            {"nm", {&to.distanceUnit, "NM"}}, {"km", {&to.distanceUnit, "KM"}},
-            {"hour", {&to.timeUnit, "hour"}}, {"day", {&to.timeUnit, "day"}}};
+        std::map<std::string, std::pair<std::string*, const char*>> known;
+        const auto offer = [&known](std::string& field, std::span<const char* const> units) {
+            for (const char* unit : units) {
+                known[FoldCase(unit)] = {&field, unit};
+            }
+        };
+        offer(to.speedUnit, Interface::kSpeedUnits);
+        offer(to.distanceUnit, Interface::kDistanceUnits);
+        offer(to.timeUnit, Interface::kTimeUnits);
         std::vector<std::string> pieces;
         Util::StringUtl::split(value, ",", pieces);
         for (const std::string& piece : pieces) {
             const auto unit = known.find(FoldCase(piece));
             if (unit == known.end()) {
-                return Bad("--units", piece, "any of kts or kph, nm or km, hour or day");
+                return Bad("--units", piece, "any of " + Interface::UnitChoices(" or ", ", "));
             }
             *unit->second.first = unit->second.second;
         }
         if (pieces.empty()) {
-            Bad("--units", value, "any of kts or kph, nm or km, hour or day");
+            Bad("--units", value, "any of " + Interface::UnitChoices(" or ", ", "));
         }
     }
 
-    void format(const std::string& value) {
+    void Format(const std::string& value) {
         static const std::map<std::string, PlanFormat> known{{"table", PlanFormat::Table},
                                                              {"json", PlanFormat::Json},
                                                              {"csv", PlanFormat::Csv},

@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: MIT
+#include <string_view>
+
+#include <tarvik/interface/PlanTerms.h>
+
 #include "host/client/services/CommandLine.h"
 
 namespace Tarvik::Client {
 
 namespace {
 
-constexpr const char* kLanguages = "@languages";
+/// What a person chooses from stands in the text where its lists are filled in.
+void Fill(std::string& text, std::string_view place, const std::string& list) {
+    text.replace(text.find(place), place.size(), list);
+}
 
 constexpr const char* kHelpText =
     R"(Seaplan plans sea voyages.
@@ -39,9 +46,9 @@ Options of plan
   --speed KNOTS                       speed at sea, above 0; without it, 10
   --weather PERCENT                   weather factor, from 0 to below 100, by which the speed is reduced; without it, 0
   --stay HOURS[,HOURS...]             hours in port: one figure for all ports, or one for each in order; without it, 0
-  --purpose CODE[,CODE...]            1 2 B C D L O W Y Z: one for all ports, or one for each in order; without it, L
+  --purpose CODE[,CODE...]            @purposes: one for all ports, or one for each in order; without it, L
                                       for the first port and D for the others
-  --units kts|kph,nm|km,hour|day      units of table and csv; without it, kts,nm,day
+  --units @units      units of table and csv; without it, kts,nm,day
   --format table|json|csv|geojson     without it, table; json is in knots, nautical miles and hours
   --save CATEGORY/VOYAGE              keeps the voyage; the category is made when it is new, the voyage must be
   --picture FILE.png                  writes the client's window with the route on the chart
@@ -62,7 +69,9 @@ std::string HelpText(const std::vector<std::string>& languages) {
         names += (i == 0 ? "" : i + 1 == languages.size() ? " or " : ", ") + languages[i];
     }
     std::string text = kHelpText;
-    text.replace(text.find(kLanguages), std::string(kLanguages).size(), names);
+    Fill(text, "@languages", names);
+    Fill(text, "@purposes", Interface::PurposeCodes(" "));
+    Fill(text, "@units", Interface::UnitChoices("|", ","));
     return text;
 }
 

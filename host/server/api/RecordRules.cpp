@@ -4,6 +4,8 @@
 #include <initializer_list>
 #include <string>
 
+#include <tarvik/interface/PlanTerms.h>
+
 namespace Tarvik::Server {
 
 namespace {
@@ -41,8 +43,7 @@ std::optional<ErrorCode> FaultOfFields(std::initializer_list<std::string_view> f
 /// A purpose may be missing, or blank on a row that stands for a ship's position; otherwise it is one of the
 /// list.
 bool IsPurpose(std::string_view text) {
-    constexpr std::string_view kPurposes = " 12BCDLOWYZ";
-    return text.empty() || (text.size() == 1 && kPurposes.find(text[0]) != std::string_view::npos);
+    return text.empty() || text == " " || Interface::IsPurposeCode(text);
 }
 
 }  // namespace

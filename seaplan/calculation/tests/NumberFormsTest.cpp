@@ -12,13 +12,19 @@ namespace {
 using namespace Testing;
 using ::testing::ElementsAre;
 
+/// The cells of the columns that rules name; what stands behind them is computed from these.
+std::vector<std::string> Named(const CellTexts& cells) {
+    return {cells.begin(), cells.begin() + ColDistance + 1};
+}
+
 TEST(NumberForms, RowFillsAllTenCells) {
     auto row = Call("Rotterdam", 1234.567F, 12.345F, 0.126F, 6.5F);
     row.steamTime = 100.004F;
     row.eta = At(4, 5, 6);
     row.etd = At(4, 11, 36);
-    EXPECT_THAT(RowToCells(2, row), ElementsAre("3", "Rotterdam", "D", "12.35", "13%", "100.00", "6.50",
-                                                "2026-03-04 05:06:00", "2026-03-04 11:36:00", "1234.57"));
+    EXPECT_THAT(Named(RowToCells(2, row)),
+                ElementsAre("3", "Rotterdam", "D", "12.35", "13%", "100.00", "6.50", "2026-03-04 05:06:00",
+                            "2026-03-04 11:36:00", "1234.57"));
 }
 
 TEST(NumberForms, CellsGiveTheRowBack) {
@@ -37,7 +43,7 @@ TEST(NumberForms, CellsGiveTheRowBack) {
     EXPECT_EQ(row.psp, 12.35F);
     EXPECT_EQ(row.pw, 0.13F);
     EXPECT_EQ(Text(row.eta), "2026-03-04 05:06:07");
-    EXPECT_EQ(RowToCells(2, row), cells);
+    EXPECT_EQ(Named(RowToCells(2, row)), Named(cells));
 }
 
 TEST(NumberForms, BlankCellsLeaveTheDefaults) {

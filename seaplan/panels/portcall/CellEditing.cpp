@@ -3,9 +3,8 @@
 
 #include <vector>
 
+#include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/DateTimeUtl.h>
-
-#include "seaplan/data/Purposes.h"
 
 namespace Tarvik::Seaplan {
 
@@ -33,7 +32,7 @@ void CellEditing::OnCellClicked(int row, int column) {
     const PortCallDesk::Report report(desk_);
     CommitEditors();
     PortCallTable& table = desk_.Sheet().table;
-    if (!table.IsNumbered(row) || column < 0 || column >= PortCallColumnCount) {
+    if (!table.IsNumbered(row) || column < 0 || column >= kPortCallColumnCount) {
         return;
     }
     table.GrowIfLast(row);
@@ -84,8 +83,8 @@ void CellEditing::OpenNextPort(int row) {
 
 void CellEditing::OpenPurposes(int row) {
     std::vector<std::string> texts;
-    texts.reserve(kPurposes.size());
-    for (const Purpose& purpose : kPurposes) {
+    texts.reserve(Interface::kPurposes.size());
+    for (const Interface::Purpose& purpose : Interface::kPurposes) {
         texts.emplace_back(purpose.text);
     }
     purposes_.Open(row, std::move(texts), 0);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// What the window reports of the editors, and where each key leads.
-#include "seaplan/data/Purposes.h"
+#include <tarvik/interface/PlanTerms.h>
+
 #include "seaplan/panels/portcall/CellEditing.h"
 
 namespace Tarvik::Seaplan {
@@ -134,13 +135,12 @@ bool CellEditing::OnPurposeKey(KeyPress press, int current) {
 
 void CellEditing::OnPurposeChosen(int index) {
     const PortCallDesk::Report report(desk_);
-    const char* code = PurposeCode(index);
-    if (code == nullptr) {
+    if (index < 0 || index >= static_cast<int>(Interface::kPurposes.size())) {
         return;
     }
     purposes_.Close();
     desk_.Cells().HidePurposes();
-    edits_.SetPurpose(purposes_.Row(), code);
+    edits_.SetPurpose(purposes_.Row(), Interface::kPurposes[static_cast<std::size_t>(index)].code);
 }
 
 void CellEditing::OnTimeChosen(const std::string& text) {

@@ -13,7 +13,7 @@ namespace Tarvik::Seaplan {
 /// The column over which an editor opens; the first for a kind that several have.
 constexpr int ColumnOf(CellEditor editor) {
     int column = 0;
-    while (column < PortCallColumnCount && kPortCallColumns[column].editor != editor) {
+    while (column < kPortCallColumnCount && kPortCallColumns[column].editor != editor) {
         ++column;
     }
     return column;

@@ -132,7 +132,7 @@ void PortCallTable::WriteRows(const PortCallRows& rows, bool corrected) {
 
 void PortCallTable::WriteEntered(int row, const VoyPortCall& value) {
     CellTexts cells = RowToCells(row, value);
-    for (int column = ColPort; column < PortCallColumnCount; ++column) {
+    for (int column = ColPort; column < kPortCallColumnCount; ++column) {
         if (!kPortCallColumns[column].entered) {
             cells[column] = kBlankCell;
         }
@@ -178,7 +178,7 @@ void PortCallTable::WriteTotals(const PortCallRows& rows) {
 
 void PortCallTable::ClearTotals() {
     CellTexts cells = rows_[rowCount_].cells;
-    for (int column = ColPort; column < PortCallColumnCount; ++column) {
+    for (int column = ColPort; column < kPortCallColumnCount; ++column) {
         if (kPortCallColumns[column].total != nullptr) {
             cells[column] = kBlankCell;
         }

@@ -54,7 +54,7 @@ int PortCallModel::rowCount(const QModelIndex& parent) const {
 }
 
 int PortCallModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : PortCallColumnCount + 1;
+    return parent.isValid() ? 0 : kPortCallColumnCount + 1;
 }
 
 QString PortCallModel::TextOf(int row, int column) const {
@@ -79,7 +79,7 @@ QVariant PortCallModel::data(const QModelIndex& index, int role) const {
         default:
             break;
     }
-    if (column >= PortCallColumnCount) {
+    if (column >= kPortCallColumnCount) {
         return {};
     }
     switch (role) {

@@ -11,7 +11,7 @@ namespace Tarvik::Seaplan {
 /// A copy of the table's cells for the window, with one more column for the row's images.
 class PortCallModel final : public QAbstractTableModel {
   public:
-    static constexpr int kImageColumn = PortCallColumnCount;
+    static constexpr int kImageColumn = kPortCallColumnCount;
     /// Role of a row's RowClass.
     static constexpr int kLookRole = Qt::UserRole;
     /// Role that tells whether a row has images.

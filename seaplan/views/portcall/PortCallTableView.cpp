@@ -56,8 +56,8 @@ PortCallTableView::PortCallTableView(QWidget* parent) : QTableView(parent) {
 
 void PortCallTableView::ApplyWidths() {
     int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    for (int column = 0; column <= PortCallColumnCount; ++column) {
-        const int width = column < PortCallColumnCount ? kPortCallColumns[column].width : kImagesWidth;
+    for (int column = 0; column <= kPortCallColumnCount; ++column) {
+        const int width = column < kPortCallColumnCount ? kPortCallColumns[column].width : kImagesWidth;
         setColumnWidth(column, width);
         total += width;
     }

@@ -52,7 +52,7 @@ TEST_F(PortCallWindowTest, ItOpensBesideTheTreeWithTheVoyagesRows) {
     EXPECT_EQ(Cell(6, ColOrder), "RES");
     EXPECT_EQ(Find<QLabel>(PortCalls(), "totalDistance")->text(), "10507.0");
     const int widths[] = {35, 120, 40, 45, 55, 55, 55, 125, 125, 60};
-    for (int column = 0; column < PortCallColumnCount; ++column) {
+    for (int column = 0; column < kPortCallColumnCount; ++column) {
         EXPECT_EQ(Table().columnWidth(column), widths[column]) << column;
     }
     EXPECT_EQ(Table().rowHeight(0), 20);
