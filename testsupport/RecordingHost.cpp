@@ -91,6 +91,9 @@ void RecordingHost::OfferChart() {
     bindings_.Keep(Offer(Bus::MapAddLayer, [this](const Interface::TrvMapLayerParams& layer) {
         chartCalls.push_back({Bus::MapAddLayer.name, layer.layer, "", {}, ""});
     }));
+    bindings_.Keep(Offer(Bus::MapRemoveLayer, [this](const std::string& layer) {
+        chartCalls.push_back({Bus::MapRemoveLayer.name, layer, "", {}, ""});
+    }));
     bindings_.Keep(Offer(Bus::MapAddLine, this, &RecordingHost::OnAddLine));
     bindings_.Keep(Offer(Bus::MapAddPointLabel, [this](const Interface::TrvMapPointParams& label) {
         chartCalls.push_back(

@@ -4,6 +4,8 @@
 #include <tarvik/bus/Binding.h>
 #include <tarvik/bus/VoyageContract.h>
 
+#include "seaplan/controllers/voycal/VoyCalReply.h"
+
 namespace Tarvik::Seaplan {
 
 CompositionRoot::CompositionRoot(VoyageStore* store)
@@ -26,6 +28,14 @@ void CompositionRoot::OfferServices() {
             return &planService_.Plan(request);
         });
     }
+    Calculator();
+}
+
+CVoyCal& CompositionRoot::Calculator() {
+    if (!calculator_) {
+        calculator_.emplace(ports_, SampleReply());
+    }
+    return *calculator_;
 }
 
 VoyCatalogModule* VoyCatalogModule::Instance() {
@@ -38,6 +48,10 @@ VoyCatalogController* VoyCatalogController::Instance() {
 
 VoyPortCallModule* VoyPortCallModule::Instance() {
     return &CompositionRoot::Instance().PortCallModule();
+}
+
+CVoyCal* CVoyCal::Instance() {
+    return &CompositionRoot::Instance().Calculator();
 }
 
 VoyController* VoyController::Instance() {

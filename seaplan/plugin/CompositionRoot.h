@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 #include <tarvik/bus/BindingList.h>
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/voycal/CVoyCal.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/plugin/PlanService.h"
 
@@ -22,6 +25,8 @@ class CompositionRoot {
     VoyPortCallModule& PortCallModule() { return portCallModule_; }
     VoyController& Voyages() { return voyages_; }
     PortDirectory& Ports() { return ports_; }
+    /// The route calculator, made and bound on first use.
+    CVoyCal& Calculator();
     /// Offers what works without a window; a second call changes nothing.
     void OfferServices();
 
@@ -32,6 +37,7 @@ class CompositionRoot {
     VoyPortCallModule portCallModule_;
     VoyController voyages_;
     PlanService planService_;
+    std::optional<CVoyCal> calculator_;
     Interface::Binding planVoyage_;
 };
 

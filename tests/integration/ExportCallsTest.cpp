@@ -14,8 +14,13 @@ namespace Tarvik::Integration {
 namespace {
 
 /// The names that the plug-in owns or listens to without a window.
-constexpr const char* kOwnNames[] = {"TRV_S_VOY_PLAN", "TRV_MAP_LCLICK_VOYAGETYPE",
-                                     "TRV_MAP_LCLICK_RPOINTTYPE", "TRV_MAP_LCLICK_AISSHIPTYPE"};
+constexpr const char* kOwnNames[] = {"TRV_S_VOY_PLAN",
+                                     "TRV_S_CAL_VOYAGE",
+                                     "TRV_MAP_LCLICK_RPOINT",
+                                     "TRV_MAP_LCLICK_RRPOINT",
+                                     "TRV_MAP_LCLICK_VOYAGETYPE",
+                                     "TRV_MAP_LCLICK_RPOINTTYPE",
+                                     "TRV_MAP_LCLICK_AISSHIPTYPE"};
 /// The names of the voyage panel.
 constexpr const char* kPanelNames[] = {"TRV_S_VOY_ADDVSL", "TRV_MAP_WND_SHOW", "TRV_E_SWITCHLANGUAGE",
                                        "TRV_E_LOGOUT"};

@@ -77,12 +77,6 @@ CVoyCal::~CVoyCal() {
     Interface::Call(Bus::MapRemoveLayer, &layer);
 }
 
-CVoyCal* CVoyCal::Instance() {
-    static auto* ports = new PortDirectory;
-    static auto* calculator = new CVoyCal(*ports, SampleReply());
-    return calculator;
-}
-
 const VoyCalResult* CVoyCal::OnCalculate(const std::string* text) {
     std::vector<std::string> ids;
     if (text != nullptr) {

@@ -23,12 +23,14 @@ class CVoyCal : public Core::TObject {
     ~CVoyCal() override;
     CVoyCal(const CVoyCal&) = delete;
     CVoyCal& operator=(const CVoyCal&) = delete;
-    /// The calculator over the host's data and the stored sample, made on first use.
+    /// The plug-in's calculator over the host's data and the stored sample. The composition root makes it.
     static CVoyCal* Instance();
 
+    /// What the last calculation gave; `valid` is 0 before the first.
     const VoyCalResult& Result() const { return result_; }
     /// One entry a port: its id, or "id|points passed|locks" behind a change. Empty without a calculation.
     const std::vector<std::string>& Ids() const { return ids_; }
+    /// The ports with the ways between them; empty without a calculation.
     const std::vector<VoyCalPort>& Ports() const { return ports_; }
     /// The route point whose alternatives are shown, empty for none.
     const std::string& SelectedPoint() const { return selected_; }

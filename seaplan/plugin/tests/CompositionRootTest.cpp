@@ -34,10 +34,16 @@ TEST(CompositionRootTest, ControllersShareTheStore) {
 }
 
 TEST(CompositionRootTest, EveryNameGoesWithItsOwner) {
+    const TestSupport::RecordingHost chart;
     auto* kernel = Core::TrvKernel::Instance();
     int notices = 0;
     kernel->SetObserver([&](Core::KernelNotice, const std::string&) { ++notices; });
-    const char* const names[] = {"TRV_S_VOY_PLAN", "TRV_MAP_LCLICK_VOYAGETYPE", "TRV_MAP_LCLICK_RPOINTTYPE",
+    const char* const names[] = {"TRV_S_VOY_PLAN",
+                                 "TRV_S_CAL_VOYAGE",
+                                 "TRV_MAP_LCLICK_RPOINT",
+                                 "TRV_MAP_LCLICK_RRPOINT",
+                                 "TRV_MAP_LCLICK_VOYAGETYPE",
+                                 "TRV_MAP_LCLICK_RPOINTTYPE",
                                  "TRV_MAP_LCLICK_AISSHIPTYPE"};
     for (int round = 0; round < 2; ++round) {
         {
@@ -57,6 +63,7 @@ TEST(CompositionRootTest, EveryNameGoesWithItsOwner) {
 }
 
 TEST(CompositionRootTest, ServicesAreOfferedOnce) {
+    const TestSupport::RecordingHost chart;
     VoyageStore store;
     CompositionRoot root(&store);
     int notices = 0;
