@@ -25,10 +25,12 @@ inline constexpr CodeTable kChangeCategoryCodes{
 /// Runs the server's commands on categories and brings the store up to date when the server has said yes.
 class CategoryChanges {
   public:
+    /// Keeps its collaborators, which outlive it.
     CategoryChanges(VoyCatalogModule* module, VoyageStore* store) : module_(module), store_(store) {}
 
-    /// `ci` becomes the new category's id.
+    /// `ci` becomes the new category's id; kAddCodes tells what fails.
     Outcome<ChangeStep> Add(const std::string& name, std::string& ci);
+    /// On the server, then in the store. Fails as kChangeCategoryCodes tells.
     Outcome<ChangeStep> Rename(const std::string& ci, const std::string& name);
     /// To the bin (InRecycleBin), out of it (InUse), or away for good (Destroyed); the record stays in the
     /// store.

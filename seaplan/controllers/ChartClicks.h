@@ -45,6 +45,7 @@ class ChartClicks : public Core::TObject {
   public:
     using CursorSource = std::function<std::pair<int, int>()>;
 
+    /// Binds to the three click events; the collaborators outlive it.
     ChartClicks(VoyageStore* store, VoyageLayer& layer, RouteFinder& routes, ProgressDrawing& drawing);
     ChartClicks(const ChartClicks&) = delete;
     ChartClicks& operator=(const ChartClicks&) = delete;

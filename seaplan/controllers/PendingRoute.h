@@ -26,10 +26,12 @@ class PendingRoute {
     /// Leaves the route as it was at this object's making, unless Keep was called.
     class Rollback {
       public:
+        /// Remembers the route that is pending now.
         explicit Rollback(PendingRoute& pending) : pending_(pending), before_(pending.route_) {}
         ~Rollback();
         Rollback(const Rollback&) = delete;
         Rollback& operator=(const Rollback&) = delete;
+        /// The route that is pending at the end stays.
         void Keep() { kept_ = true; }
 
       private:
@@ -38,7 +40,9 @@ class PendingRoute {
         bool kept_ = false;
     };
 
+    /// A stop for each port; empty without a route.
     const RouteStops& Stops() const { return route_.stops; }
+    /// Whether there is a route at all.
     bool IsThere() const { return !route_.stops.empty(); }
     /// Whether there is a route that a save of this voyage may take.
     bool IsFor(const std::string& vi) const;
@@ -47,22 +51,27 @@ class PendingRoute {
     void Take(RouteStops stops, std::optional<Util::_datetime_t> knownSince = std::nullopt) {
         route_ = {std::move(stops), "", knownSince};
     }
+    /// As Take was told; nothing for a route that the server gave.
     const std::optional<Util::_datetime_t>& KnownSince() const { return route_.knownSince; }
+    /// The route is that of voyage `vi` from now on.
     void Assign(const std::string& vi) { route_.voyage = vi; }
     /// The same route by other points: whose it is stays.
     void Change(RouteStops stops) {
         route_.stops = std::move(stops);
         route_.knownSince.reset();
     }
+    /// There is no route any more.
     void Drop() { route_ = {}; }
 
     /// The schedule of `vi` was loaded with these rows: its own pending route goes, that of another stays.
     void NoteLoaded(const std::string& vi, const PortCallRows& rows);
+    /// The rows on show are those of the route: it need not be calculated before the next save.
     void NoteSaved() { isCurrent_ = 1; }
     /// The schedule was only drawn, by the timer or a switch in the tree: no route goes.
     void NoteShown(const PortCallRows& rows);
     /// Rows were moved, deleted or cleared: the route is recalculated before the next save.
     void NoteRowsChanged() { isCurrent_ = -1; }
+    /// `vi` is the voyage last drawn with its ship.
     void NoteDrawn(const std::string& vi) { drawnVoyage_ = vi; }
     /// Forgets the route and the ports of the schedule last loaded.
     void Forget();

@@ -54,11 +54,12 @@ inline constexpr CodeTable kAisProgressCodes{
 /// Draws a voyage as lines sailed and remaining with the ship where the plan has it now.
 class ProgressDrawing {
   public:
+    /// Draws on `layer`, which outlives it.
     explicit ProgressDrawing(VoyageLayer& layer) : layer_(layer) {}
 
-    /// By the clock and the plan alone.
+    /// By the clock and the plan alone: kPlannedProgressCodes.
     Outcome<ProgressStep> DrawPlanned(const VoyInfo& voyage);
-    /// For a voyage corrected from AIS, without what the real track covers.
+    /// For a voyage corrected from AIS, without what the real track covers: kAisProgressCodes.
     Outcome<ProgressStep> DrawCorrected(const VoyInfo& voyage);
     /// "x,y" of the ship's icon, empty while the voyage has none.
     std::string ShipPosition(const std::string& vi) const;

@@ -38,6 +38,7 @@ inline constexpr CodeTable kPortPositionsCodes{
 /// Finds the sea route between the rows' ports and keeps it as the pending one.
 class RouteFinder {
   public:
+    /// Keeps its collaborators, which outlive it.
     RouteFinder(PendingRoute& pending, PortDirectory& ports) : pending_(pending), ports_(ports) {}
 
     /// The route of the rows, by one request for the whole list or leg by leg through the cache. Each result

@@ -64,6 +64,7 @@ struct ScheduleFault {
 /// route is what it was.
 class ScheduleCalculator {
   public:
+    /// Keeps its collaborators, which outlive it.
     ScheduleCalculator(VoyPortCallModule* module, VoyageStore* store) : module_(module), store_(store) {}
 
     /// Rows that are not saved yet: the route stays pending, for no voyage, and is drawn.

@@ -51,6 +51,7 @@ class VoyCatalogController;
 /// holds is not asked for again.
 class ScheduleLoader {
   public:
+    /// Keeps its collaborators, which outlive it.
     ScheduleLoader(VoyPortCallModule* module, VoyCatalogController* catalog, VoyageStore* store)
         : module_(module), catalog_(catalog), store_(store), chart_(module) {}
 
@@ -68,6 +69,7 @@ class ScheduleLoader {
     /// Draws all voyages whose route is switched on, leaving the person's view of the chart where it is; one
     /// that fails is passed over.
     void ShowSwitchedOn();
+    /// What draws the voyages, for those who only draw.
     VoyageChart& Chart() { return chart_; }
 
   private:

@@ -46,6 +46,7 @@ ScheduleFault FaultOf(SaveStep step, const PortCallRows& rows);
 /// Writes a schedule to the server and then into its voyage's record.
 class ScheduleSaver {
   public:
+    /// Keeps its collaborators, which outlive it.
     ScheduleSaver(VoyPortCallModule* module, VoyageStore* store, VoyageChart& chart)
         : module_(module), store_(store), chart_(chart) {}
 

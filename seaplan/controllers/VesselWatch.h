@@ -36,14 +36,16 @@ inline constexpr CodeTable kRefreshTraceCodes{
 /// when it is later than the one that is known and at another place.
 class VesselWatch {
   public:
+    /// Keeps its collaborators, which outlive it.
     VesselWatch(VoyCatalogController* catalog, VoyageStore* store) : catalog_(catalog), store_(store) {}
 
     /// Takes over newer positions of all voyages' vessels. A vessel number that was unknown is saved first;
-    /// where that fails the voyage is left as it is.
+    /// where that fails the voyage is left as it is. kRefreshPositionsCodes.
     Outcome<RefreshStep> RefreshPositions();
-    /// Takes over the last position of the vessel's track between first departure and last arrival, if newer.
+    /// Takes over the last position of the vessel's track between first departure and last arrival, if newer:
+    /// kRefreshTraceCodes.
     Outcome<TraceStep> RefreshTrace(const std::string& vi);
-    /// Has the vessel's track hidden; without a vessel there is none.
+    /// Has the vessel's track hidden; without a vessel there is none. kRefreshTraceCodes, of which -1 and -2.
     Outcome<TraceStep> HideTrack(const std::string& vi) const;
 
   private:
@@ -57,6 +59,7 @@ class VesselWatch {
 /// timers of the host nothing starts. It ends with its owner.
 class RefreshTimer {
   public:
+    /// Does not start it; `work` runs at each tick.
     explicit RefreshTimer(std::function<void()> work) : work_(std::move(work)) {}
     ~RefreshTimer() { Stop(); }
     RefreshTimer(const RefreshTimer&) = delete;
@@ -64,6 +67,7 @@ class RefreshTimer {
 
     /// One timer at most; a second call changes nothing.
     void Start();
+    /// No tick comes any more; without a running timer nothing changes.
     void Stop();
 
   private:

@@ -29,8 +29,10 @@ inline constexpr CodeTable kLoadCodes{
 /// gives; after a failure the store is as it was, but where a table says that it is done.
 class VoyCatalogController {
   public:
+    /// Keeps its collaborators, which outlive it.
     VoyCatalogController(VoyCatalogModule* module, VoyageStore* store)
         : module_(module), store_(store), categories_(module, store), voyages_(module, store) {}
+    /// The one of the plug-in; CompositionRoot makes it.
     static VoyCatalogController* Instance();
     /// Set once by the composition root: positions are refreshed through it after a change of vessel.
     void SetVoyController(VoyController* controller);
@@ -52,9 +54,9 @@ class VoyCatalogController {
     void ListCategories(std::vector<std::string>& names) const;
 
     // Categories
-    /// kAddCodes.
+    /// A new category in use; `ci` becomes its id: kAddCodes.
     int AddCategory(const std::string& name, std::string& ci);
-    /// kChangeCategoryCodes.
+    /// On the server, then here: kChangeCategoryCodes.
     int RenameCategory(const std::string& ci, const std::string& name);
     /// To the recycle bin: kChangeCategoryCodes.
     int DeleteCategory(const std::string& ci);
@@ -64,9 +66,9 @@ class VoyCatalogController {
     int DestroyCategory(const std::string& ci);
 
     // Voyages
-    /// kAddCodes.
+    /// A new voyage in use in category `ci`; `vi` becomes its id: kAddCodes.
     int AddVoyage(const std::string& name, const std::string& ci, std::string& vi);
-    /// kChangeVoyageCodes.
+    /// On the server, then here: kChangeVoyageCodes.
     int RenameVoyage(const std::string& vi, const std::string& name);
     /// To the recycle bin: kVoyageStateCodes.
     int DeleteVoyage(const std::string& ci, const std::string& vi);
@@ -80,10 +82,14 @@ class VoyCatalogController {
     // Vessels and flags
     /// VoyageChanges::SetVessel: kChangeVesselCodes.
     int ChangeVessel(const std::string& vi, const std::string& vsi, const std::string& vsn, int vsmsi);
-    /// kChangeVoyageCodes, as the three below.
+    /// The voyage's route is shown on the chart from now on; this sets the switch, it does not draw:
+    /// kChangeVoyageCodes.
     int OpenRoute(const std::string& vi);
+    /// Switches the route off, without taking it off the chart: kChangeVoyageCodes.
     int CloseRoute(const std::string& vi);
+    /// The voyage's vessel is traced from now on: kChangeVoyageCodes.
     int OpenAis(const std::string& vi);
+    /// Its vessel is traced no more: kChangeVoyageCodes.
     int CloseAis(const std::string& vi);
     /// Notes a correction at a time of the plan, `kTimeFormat`: kAddAisTimeCodes.
     int AddAisModTime(const std::string& vi, const std::string& time);

@@ -21,7 +21,9 @@ namespace Tarvik::Seaplan {
 /// It has more than 25 operations because the panels' contract asks for 27 by name on this one class.
 class VoyController {
   public:
+    /// Keeps its collaborators, which outlive it.
     VoyController(VoyPortCallModule* module, VoyCatalogController* catalog, VoyageStore* store);
+    /// The one of the plug-in; CompositionRoot makes it.
     static VoyController* Instance();
 
     // A voyage's record
@@ -30,13 +32,14 @@ class VoyController {
     /// Drops the working copy of an unsaved voyage and fetches what was saved, without drawing:
     /// kDiscardCodes.
     int DiscardPortCalls(const std::string& vi);
-    /// kReadRecordCodes.
+    /// The seven consumption figures of the record, in kg/day: kReadRecordCodes.
     int GetFigures(const std::string& vi, BunkerFigures& figures) const;
-    /// kSaveFiguresCodes.
+    /// The same to the server, then into the record: kSaveFiguresCodes.
     int SaveFigures(const std::string& vi, const BunkerFigures& figures);
-    /// kReadRecordCodes.
+    /// Makes a corrected voyage a plain one, in memory: kReadRecordCodes.
     int ClearAisMod(const std::string& vi);
-    /// kReadRecordCodes.
+    /// How often the voyage was corrected from AIS; `count` is left alone for the distance table, which is
+    /// none: kReadRecordCodes.
     int GetModAis(const std::string& vi, int& count) const;
 
     // Calculating and saving
@@ -71,27 +74,32 @@ class VoyController {
     // Chart and vessels
     /// Takes off all that the plug-in drew. 0 or -1.
     int ClearChart() { return loader_.Chart().Clear(); }
-    /// 0; -1 empty id.
+    /// Takes one voyage's lines and ship off. 0; -1 empty id.
     int RemoveVoyageObjects(const std::string& vi) { return loader_.Chart().Remove(vi); }
-    /// kShowVoyageCodes.
+    /// Draws a voyage in use with its ship: kShowVoyageCodes.
     int ShowVoyage(const std::string& vi);
+    /// Every 100 seconds positions are refreshed and the voyages switched on are drawn; a second call changes
+    /// nothing.
     void StartTimer() { timer_.Start(); }
+    /// Stops what StartTimer began.
     void StopTimer() { timer_.Stop(); }
     /// The timer draws voyages only while the tree's window is visible; not told otherwise, it counts as
     /// visible, for the panel stops the timer when it hides.
     void SetTreeVisible(std::function<bool()> visible) { treeVisible_ = std::move(visible); }
-    /// kRefreshPositionsCodes.
+    /// Takes over newer positions of all vessels: kRefreshPositionsCodes.
     int RefreshVesselPositions();
-    /// kRefreshTraceCodes.
+    /// Takes over the last position of the vessel's track, if newer: kRefreshTraceCodes.
     int RefreshTrace(const std::string& vi);
-    /// kRefreshTraceCodes, of which -1 and -2.
+    /// Has the vessel's track hidden: kRefreshTraceCodes, of which -1 and -2.
     int HideAisTrack(const std::string& vi);
 
     // Correction from AIS
+    /// Puts the vessel's last position into the book; `applied` is 1 when it got a row, else 0:
     /// kApplyAisCodes.
     int ApplyAisPosition(const std::string& vi, int& applied);
-    /// kSplitAisCodes.
+    /// A corrected voyage as rows: up to its last position of the ship, and behind it: kSplitAisCodes.
     int SplitAisRows(const std::string& vi, PortCallRows& before, PortCallRows& after) const;
+    /// Plans what lies behind the last row of `history` anew; `rows` are the voyage's new ports:
     /// kReplanCodes.
     int ReplanFromAis(const std::string& vi, const PortCallRows& history, const PortCallRows& plan,
                       PortCallRows& rows);

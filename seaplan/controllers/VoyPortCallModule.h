@@ -19,24 +19,39 @@ namespace Tarvik::Seaplan {
 /// folder that do the work. Results: 0, or the negative number that the table named at the operation gives.
 class VoyPortCallModule : public Core::TObject {
   public:
+    /// Keeps its collaborators, which outlive it, and binds to the chart's clicks.
     VoyPortCallModule(VoyageStore* store, PortDirectory* ports);
+    /// The one of the plug-in; CompositionRoot makes it.
     static VoyPortCallModule* Instance();
 
     // Server: the commands of the protocol, with their numbers.
+    /// Command 10: rows in the order of their numbers, speeds in knots. 0; -1 empty id; -2 no exchange, or no
+    /// list; -3 none stored; -4 an element without number.
     int LoadPortCalls(const std::string& vi, PortCallRows& rows) { return Seaplan::LoadPortCalls(vi, rows); }
+    /// Command 7: appends the stored rows. 0; -1 empty id; -2 no exchange, or no list; -3 no book (kNoBook);
+    /// -4 the date is not converted; -5 a row does not parse.
     int LoadPositionBook(const std::string& vi, VoyPositionBook& book) {
         return Seaplan::LoadPositionBook(vi, book);
     }
+    /// Command 7, and 8 where there is no book yet; `id` becomes the book's. 0; -1 empty voyage id; -2 no
+    /// exchange, or no list; -3 the date is not converted; -4 no exchange; -5 refused; -6 no id came back.
     int EnsurePositionBook(const std::string& vi, const std::string& date, std::string& id) {
         return Seaplan::EnsurePositionBook(vi, date, id);
     }
+    /// Command 14: the start of a book, by its id. 0; -1 empty id; -2 the date is not converted; -3 no
+    /// exchange; -4 refused.
     int SetPositionBookDate(const std::string& id, const std::string& date) {
         return Seaplan::SetPositionBookDate(id, date);
     }
+    /// Command 9, from 100 rows on in blocks; blocks sent before a failure stay on the server. 0; -1 empty
+    /// id; in one request -2 a bad position, -3 no exchange, -4 refused; in blocks -5, -6, -7.
     int SavePositionBookRows(const std::string& id, const BookPoints& rows) {
         return Seaplan::SavePositionBookRows(id, rows);
     }
+    /// Command 11; rows without port id get it by name first. 0; -1 empty id or fewer than two rows; -2 no
+    /// exchange; -3 refused.
     int SavePortCalls(const std::string& vi, PortCallRows& rows) { return Seaplan::SavePortCalls(vi, rows); }
+    /// Command 6: the seven consumption figures in kg/day. 0; -1 empty id; -2 no exchange; -3 refused.
     int SaveFigures(const std::string& vi, const BunkerFigures& figures) {
         return Seaplan::SaveFigures(vi, figures);
     }
@@ -50,6 +65,7 @@ class VoyPortCallModule : public Core::TObject {
     int LoadCache(const std::string& name, LegCache& cache);
     /// WriteCacheFile. 0, or -1 for an entry without two stops.
     int SaveCache(const std::string& name, const LegCache& cache) { return WriteCacheFile(name, cache); }
+    /// The route calculated last, until it is saved or dropped.
     PendingRoute& Pending() { return pending_; }
     /// Who finds routes, for those who must know which step failed.
     RouteFinder& Routes() { return routes_; }
@@ -62,6 +78,7 @@ class VoyPortCallModule : public Core::TObject {
     int PortPositions(const PortCallRows& rows, std::vector<RoutePointRow>& out);
 
     // Chart
+    /// The plug-in's layer on the chart.
     VoyageLayer& Layer() { return layer_; }
     /// The pending route with its labels; numbers of VoyageLayer::DrawRoute.
     int DrawCurrentRoute();

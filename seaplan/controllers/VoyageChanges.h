@@ -55,11 +55,14 @@ class VoyageChanges {
     /// Refreshes the vessels' positions after a change of vessel; negative when none is known.
     using PositionRefresh = std::function<int()>;
 
+    /// Keeps its collaborators, which outlive it.
     VoyageChanges(VoyCatalogModule* module, VoyageStore* store) : module_(module), store_(store) {}
+    /// Set once, before the first change of vessel.
     void SetPositionRefresh(PositionRefresh refresh) { refresh_ = std::move(refresh); }
 
-    /// `vi` becomes the new voyage's id.
+    /// `vi` becomes the new voyage's id: kAddCodes.
     Outcome<ChangeStep> Add(const std::string& name, const std::string& ci, std::string& vi);
+    /// On the server, then in the store: kChangeVoyageCodes.
     Outcome<ChangeStep> Rename(const std::string& vi, const std::string& name);
     /// To the bin, out of it, or away for good, in one category; the record stays in the store.
     Outcome<ChangeStep> SetState(const std::string& ci, const std::string& vi, DeletionState state);

@@ -23,6 +23,7 @@ enum class DrawStep { Progress, BookLine };
 /// Puts voyages onto the chart and takes them off it.
 class VoyageChart {
   public:
+    /// Draws on the layer of `module`, which outlives it.
     explicit VoyageChart(VoyPortCallModule* module) : module_(module) {}
 
     /// Draws in `mode`; a voyage drawn with its ship counts as the one last drawn.

@@ -46,6 +46,7 @@ inline constexpr CodeTable kReplanCodes{
 /// route are as they were.
 class VoyageCorrection {
   public:
+    /// Keeps its collaborators, which outlive it.
     VoyageCorrection(VoyPortCallModule* module, VoyageStore* store, ScheduleCalculator& calculator)
         : module_(module), store_(store), calculator_(calculator) {}
 

@@ -25,14 +25,17 @@ inline constexpr CodeTable kSaveFiguresCodes{
 /// The consumption figures in a voyage's record, and the count of its corrections from AIS.
 class VoyageRecords {
   public:
+    /// Keeps its collaborators, which outlive it.
     VoyageRecords(VoyPortCallModule* module, VoyageStore* store) : module_(module), store_(store) {}
 
+    /// Of the record, in kg/day: kReadRecordCodes.
     Outcome<RecordStep> GetFigures(const std::string& vi, BunkerFigures& figures) const;
-    /// To the server, then into the record.
+    /// To the server, then into the record: kSaveFiguresCodes.
     Outcome<RecordStep> SaveFigures(const std::string& vi, const BunkerFigures& figures);
-    /// Makes a corrected voyage a plain one, in memory.
+    /// Makes a corrected voyage a plain one, in memory: kReadRecordCodes.
     Outcome<RecordStep> ClearCorrections(const std::string& vi);
-    /// The distance table stands for a voyage without corrections; `count` is left alone for it.
+    /// The distance table stands for a voyage without corrections; `count` is left alone for it:
+    /// kReadRecordCodes.
     Outcome<RecordStep> CountCorrections(const std::string& vi, int& count) const;
 
   private:

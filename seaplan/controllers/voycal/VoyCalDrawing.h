@@ -18,6 +18,7 @@ struct VoyCalLines {
     Interface::TrvMapExtent extent;
 };
 
+/// The lines of all ways, cut at the date line.
 VoyCalLines LinesOf(const std::vector<VoyCalPort>& ports);
 /// Widens an extent of western, southern, eastern, northern limit.
 void Widen(Interface::TrvMapExtent& extent, double x, double y);

@@ -25,6 +25,7 @@ using VoyCalPoints = std::map<std::string, VoyCalPoint>;
 struct VoyCalCorner {
     double x = 0;
     double y = 0;
+    /// Exact: corners are compared as they were read.
     bool operator==(const VoyCalCorner&) const = default;
 };
 
