@@ -10,13 +10,13 @@
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/co_spawn.hpp>
 #include <boost/asio/io_context.hpp>
-#include <boost/asio/redirect_error.hpp>
 #include <boost/asio/ssl.hpp>
 #include <boost/asio/use_awaitable.hpp>
 #include <boost/beast/core.hpp>
 #include <boost/beast/http.hpp>
 #include <boost/beast/ssl.hpp>
 
+#include "host/client/remote/AnswerReading.h"
 #include "host/client/remote/HostLookup.h"
 
 namespace Tarvik::Client {
@@ -27,58 +27,8 @@ namespace net = boost::asio;
 namespace beast = boost::beast;
 namespace http = boost::beast::http;
 
-/// The longest body of an answer; what an answer has beside its body has as much room again.
-constexpr std::uint64_t kMostBodyBytes = 64U * 1024 * 1024;
-/// The most that is kept of an answer before it makes sense: a head, a line of a chunk, a trailer.
-constexpr std::size_t kMostUnreadBytes = 16U * 1024;
-constexpr const char* kTooLong = "its answer is longer than Seaplan reads";
-
 using Deadline = std::chrono::steady_clock::time_point;
 using Request = http::request<http::string_body>;
-using Parser = http::response_parser<http::string_body>;
-
-/// Takes what has come; false when there is more to come. Throws when it cannot be the beginning of an
-/// answer.
-bool TakeArrived(beast::flat_buffer& buffer, Parser& parser) {
-    boost::system::error_code failed;
-    if (buffer.size() > 0) {
-        buffer.consume(parser.put(buffer.data(), failed));
-    }
-    if (failed && failed != http::error::need_more) {
-        throw boost::system::system_error(failed);
-    }
-    if (!parser.is_done() && buffer.size() >= kMostUnreadBytes) {
-        throw std::runtime_error(kTooLong);
-    }
-    return parser.is_done();
-}
-
-/// Reads one answer in pieces. The library's own reading keeps a chunk's line and a trailer of any length,
-/// and throws out of its operation, past the coroutine, when a field of the trailer is too long for it.
-template <class Stream>
-net::awaitable<void> ReadAnswer(Stream& stream, beast::flat_buffer& buffer, Parser& parser) {
-    parser.eager(true);
-    parser.body_limit(kMostBodyBytes);
-    std::uint64_t received = buffer.size();
-    while (!TakeArrived(buffer, parser)) {
-        boost::system::error_code ended;
-        const auto piece = buffer.prepare(kMostUnreadBytes - buffer.size());
-        const std::size_t arrived =
-            co_await stream.async_read_some(piece, net::redirect_error(net::use_awaitable, ended));
-        buffer.commit(arrived);
-        received += arrived;
-        if (ended == net::error::eof && parser.got_some()) {
-            ended = {};
-            parser.put_eof(ended);
-        }
-        if (ended) {
-            throw boost::system::system_error(ended);
-        }
-        if (received > 2 * kMostBodyBytes) {
-            throw std::runtime_error(kTooLong);
-        }
-    }
-}
 
 /// What a person is told of a failed step.
 std::string WordsOf(const boost::system::error_code& failed) {
@@ -107,7 +57,7 @@ class HttpClient::Core {
     void PrepareTls();
     bool IsUsable();
     void Close();
-    net::awaitable<void> Talk(const Request& request, Parser& parser, Deadline deadline);
+    net::awaitable<void> Talk(const Request& request, AnswerParser& parser, Deadline deadline);
     net::awaitable<void> Connect(Deadline deadline);
     beast::tcp_stream& Tcp() { return plain_ ? *plain_ : beast::get_lowest_layer(*tls_); }
 
@@ -187,7 +137,7 @@ net::awaitable<void> HttpClient::Core::Connect(Deadline deadline) {
     }
 }
 
-net::awaitable<void> HttpClient::Core::Talk(const Request& request, Parser& parser, Deadline deadline) {
+net::awaitable<void> HttpClient::Core::Talk(const Request& request, AnswerParser& parser, Deadline deadline) {
     if (!IsUsable()) {
         Close();
         co_await Connect(deadline);
@@ -210,7 +160,7 @@ net::awaitable<void> HttpClient::Core::Talk(const Request& request, Parser& pars
 HttpAnswer HttpClient::Core::Send(const Request& request) {
     const Deadline deadline = std::chrono::steady_clock::now() + limit_;
     HttpAnswer answer;
-    Parser parser;
+    AnswerParser parser;
     std::exception_ptr failed;
     try {
         io_.restart();

@@ -1,7 +1,52 @@
 // SPDX-License-Identifier: MIT
 #include "host/data/builder/CsvTable.h"
 
+#include <charconv>
+#include <cmath>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+#include "host/geo/Sphere.h"
+
 namespace Tarvik::Data {
+
+namespace {
+
+double ToNumber(const std::string& text) {
+    double value = 0.0;
+    const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (code != std::errc() || end != text.data() + text.size()) {
+        throw std::runtime_error("\"" + text + "\" is no number");
+    }
+    return value;
+}
+
+}  // namespace
+
+std::string ReadFile(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        throw std::runtime_error("cannot open " + path);
+    }
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+GeoPoint ToPoint(const std::string& x, const std::string& y) {
+    const GeoPoint p = Server::RoundPoint({ToNumber(x), ToNumber(y)});
+    if (std::abs(p.x) > 360.0 || std::abs(p.y) > 90.0) {
+        throw std::runtime_error(x + " " + y + " is no position");
+    }
+    return p;
+}
+
+GeoPoint ToPoint(const std::string& text) {
+    const std::vector<std::string> parts = SplitText(text, ' ');
+    if (parts.size() != 2) {
+        throw std::runtime_error("\"" + text + "\" is no position");
+    }
+    return ToPoint(parts[0], parts[1]);
+}
 
 std::vector<std::string> SplitText(const std::string& text, char separator) {
     std::vector<std::string> pieces;

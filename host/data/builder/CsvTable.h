@@ -5,9 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "host/geo/GeoPoint.h"
+
 namespace Tarvik::Data {
 
-/// A comma-separated file with a head line. Fields in double quotes may hold commas and doubled quotes, no
+using Server::GeoPoint;
+
+/// A comma-separated text with a head line. Fields in double quotes may hold commas and doubled quotes, no
 /// line breaks.
 class CsvTable {
   public:
@@ -26,5 +30,15 @@ class CsvTable {
 
 /// Pieces of a text between separators; an empty text has none.
 std::vector<std::string> SplitText(const std::string& text, char separator);
+
+// These throw std::runtime_error, with what is wrong as a person can mend it.
+
+/// The bytes of a file.
+std::string ReadFile(const std::string& path);
+///@{
+/// A position of two numbers, or of a text "lon lat": degrees, rounded as the network keeps them.
+GeoPoint ToPoint(const std::string& x, const std::string& y);
+GeoPoint ToPoint(const std::string& text);
+///@}
 
 }  // namespace Tarvik::Data

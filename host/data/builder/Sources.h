@@ -51,6 +51,10 @@ struct Sources {
     std::vector<PortSource> ports;
 };
 
+/// The ports of the fetched JSON file with what the hand-made files of `folder` put right. Throws
+/// std::runtime_error, or what the JSON library throws, for a file that is missing or wrong.
+std::vector<PortSource> ReadPorts(const std::string& folder, const std::string& portsJson);
+
 /// Reads the hand-made files of `folder` and the ports of the fetched JSON file; nothing and an error text
 /// naming file and line when one of them is missing or wrong.
 std::optional<Sources> ReadSources(const std::string& folder, const std::string& portsJson,

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/graph/SeaNetworkFile.h"
 
-#include <cmath>
 #include <fstream>
 #include <iterator>
 
@@ -41,8 +40,8 @@ void PutMask(ByteWriter& w, const GateMask& mask) {
 }
 
 void PutRoutePoint(ByteWriter& w, const RoutePoint& p) {
-    w.text(p.id);
-    w.text(p.name);
+    w.Text(p.id);
+    w.Text(p.name);
     w.U32(p.node);
     w.U8(p.shut ? 1 : 0);
     PutPoints(w, p.gate);
@@ -76,8 +75,8 @@ GateMask GetMask(ByteReader& r) {
 
 RoutePoint GetRoutePoint(ByteReader& r) {
     RoutePoint p;
-    p.id = r.text();
-    p.name = r.text();
+    p.id = r.Text();
+    p.name = r.Text();
     p.node = r.U32();
     p.shut = r.U8() != 0;
     p.gate = GetPoints(r);
@@ -112,63 +111,13 @@ NetworkData GetPayload(ByteReader& r) {
     }
     data.ports.resize(r.Count(16));
     for (NetworkPort& p : data.ports) {
-        p = {r.text(), r.text(), r.text(), r.U32()};
+        p = {r.Text(), r.Text(), r.Text(), r.U32()};
     }
     data.land.resize(r.Count(4));
     for (auto& ring : data.land) {
         ring = GetPoints(r);
     }
     return data;
-}
-
-std::string CheckEdges(const NetworkData& d) {
-    for (const NetworkEdge& e : d.edges) {
-        if (e.a >= d.nodes.size() || e.b >= d.nodes.size()) {
-            return "an edge names a node that does not exist";
-        }
-        if (e.mask >= d.masks.size()) {
-            return "an edge names a gate mask that does not exist";
-        }
-        if (!std::isfinite(e.nm) || e.nm < 0.0F) {
-            return "an edge has an impossible length";
-        }
-        if (e.kind > EdgeKind::Link) {
-            return "an edge has an unknown kind";
-        }
-    }
-    return {};
-}
-
-std::string CheckPoints(const NetworkData& d) {
-    for (const GeoPoint p : d.nodes) {
-        if (std::abs(p.x) > 180.0 || std::abs(p.y) > 90.0) {
-            return "a node lies outside the earth";
-        }
-    }
-    if (d.routePoints.size() > kMaxRoutePoints) {
-        return "there are too many route points";
-    }
-    for (const RoutePoint& p : d.routePoints) {
-        if (p.node >= d.nodes.size()) {
-            return "a route point has no node";
-        }
-        if (p.gate.size() < 2) {
-            return "a route point has no gate";
-        }
-        for (const AlternativeGroup& group : p.groups) {
-            for (const std::uint16_t i : group) {
-                if (i >= d.routePoints.size()) {
-                    return "an alternative does not exist";
-                }
-            }
-        }
-    }
-    for (const NetworkPort& p : d.ports) {
-        if (p.node >= d.nodes.size()) {
-            return "a port has no node";
-        }
-    }
-    return {};
 }
 
 }  // namespace
@@ -194,9 +143,9 @@ std::string SeaNetworkFile::Encode(const NetworkData& data) {
     }
     w.Count(data.ports.size());
     for (const NetworkPort& p : data.ports) {
-        w.text(p.id);
-        w.text(p.unlocode);
-        w.text(p.name);
+        w.Text(p.id);
+        w.Text(p.unlocode);
+        w.Text(p.name);
         w.U32(p.node);
     }
     w.Count(data.land.size());
@@ -229,10 +178,7 @@ std::optional<NetworkData> SeaNetworkFile::Decode(const std::string& bytes, std:
     }
     ByteReader r(payload);
     NetworkData data = GetPayload(r);
-    error = !r.Ok() || !r.AtEnd() ? "its lists do not fit its length" : CheckEdges(data);
-    if (error.empty()) {
-        error = CheckPoints(data);
-    }
+    error = !r.Ok() || !r.AtEnd() ? "its lists do not fit its length" : FaultOf(data);
     if (error.empty()) {
         return data;
     }

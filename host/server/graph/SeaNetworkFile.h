@@ -8,6 +8,9 @@
 
 namespace Tarvik::Server {
 
+/// What in a network names something that is not there or cannot be; empty when all fits.
+std::string FaultOf(const NetworkData& data);
+
 /// Reads and writes the sea network's file.
 ///
 /// Layout, little-endian: the 8 bytes "SEANET01", the payload's length (u64), its FNV-1a sum (u64), the

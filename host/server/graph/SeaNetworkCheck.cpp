@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// Whether the parts of a network that was read fit together, so that nothing behind it has to ask again.
+#include <cmath>
+
+#include "host/server/graph/SeaNetworkFile.h"
+
+namespace Tarvik::Server {
+
+namespace {
+
+std::string CheckEdges(const NetworkData& d) {
+    for (const NetworkEdge& e : d.edges) {
+        if (e.a >= d.nodes.size() || e.b >= d.nodes.size()) {
+            return "an edge names a node that does not exist";
+        }
+        if (e.mask >= d.masks.size()) {
+            return "an edge names a gate mask that does not exist";
+        }
+        if (!std::isfinite(e.nm) || e.nm < 0.0F) {
+            return "an edge has an impossible length";
+        }
+        if (e.kind > EdgeKind::Link) {
+            return "an edge has an unknown kind";
+        }
+    }
+    return {};
+}
+
+std::string CheckPoints(const NetworkData& d) {
+    for (const GeoPoint p : d.nodes) {
+        if (std::abs(p.x) > 180.0 || std::abs(p.y) > 90.0) {
+            return "a node lies outside the earth";
+        }
+    }
+    if (d.routePoints.size() > kMaxRoutePoints) {
+        return "there are too many route points";
+    }
+    for (const RoutePoint& p : d.routePoints) {
+        if (p.node >= d.nodes.size()) {
+            return "a route point has no node";
+        }
+        if (p.gate.size() < 2) {
+            return "a route point has no gate";
+        }
+        for (const AlternativeGroup& group : p.groups) {
+            for (const std::uint16_t i : group) {
+                if (i >= d.routePoints.size()) {
+                    return "an alternative does not exist";
+                }
+            }
+        }
+    }
+    for (const NetworkPort& p : d.ports) {
+        if (p.node >= d.nodes.size()) {
+            return "a port has no node";
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+std::string FaultOf(const NetworkData& data) {
+    const std::string fault = CheckEdges(data);
+    return fault.empty() ? CheckPoints(data) : fault;
+}
+
+}  // namespace Tarvik::Server
