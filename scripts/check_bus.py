@@ -8,12 +8,10 @@ Breaches: the text of a bus name ("TRV_S_...", "TRV_E_...", "TRV_MAP_...") in an
 contract without a docstring; two constants of one name; a service that answers something and whose docstring does not tell
 whose the answer is; an include of the SDK's private headers (tarvik/src) from outside tarvik.
 """
-import argparse
-import os
 import re
 import sys
 
-from checks.sources import production, read, without_comments
+from checks.sources import sources_of_command_line, without_comments
 
 CONTRACT = "tarvik/include/tarvik/bus/"
 PRIVATE = "tarvik/src/"
@@ -61,11 +59,7 @@ def use_breaches(sources):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    root = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
-    parser.add_argument("--root", default=root, help="another checkout")
-    options = parser.parse_args()
-    sources = [(path, read(options.root, path)) for path in production(options.root)]
+    _, sources = sources_of_command_line(__doc__)
     contract = [source for source in sources if source[0].startswith(CONTRACT)]
     others = [source for source in sources if not source[0].startswith(CONTRACT)]
     found = list(contract_breaches(contract)) + list(use_breaches(others))

@@ -6,12 +6,10 @@
 
 scripts/constants.txt holds the watched literals and what may stand twice, each with a reason. Only production sources count.
 """
-import argparse
-import os
 import sys
 
 from checks.constants import named_constants, number, watched_literals
-from checks.sources import production, read
+from checks.sources import read, sources_of_command_line
 
 RULES = "scripts/constants.txt"
 
@@ -56,16 +54,12 @@ def breaches(sources, watched, allowed):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    root = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
-    parser.add_argument("--root", default=root, help="another checkout")
-    options = parser.parse_args()
+    root, sources = sources_of_command_line(__doc__)
     try:
-        watched, allowed = read_rules(read(options.root, RULES))
+        watched, allowed = read_rules(read(root, RULES))
     except ValueError as error:
         print(f"constants: {RULES}: {error}", file=sys.stderr)
         return 2
-    sources = [(path, read(options.root, path)) for path in production(options.root)]
     found = list(breaches(sources, watched, allowed))
     for line in found:
         print(f"constants: {line}", file=sys.stderr)

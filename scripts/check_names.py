@@ -34,7 +34,7 @@ def overridden(records, texts):
     for record in records:
         if record["kind"] in ("function", "prototype") and record["path"].endswith(".h"):
             statement = " ".join(texts[record["path"]].split("\n")[record["line"] - 1:record["line"] + 2])
-            if re.search(r"\b(override|final)\b", re.split(r"[;{]", statement)[0]):
+            if re.search(r"\b(override|final)\b", re.split(r";|(?<!=\s){", statement)[0]):
                 found.add((record.get("scope", ""), record["name"]))
     return found
 

@@ -35,7 +35,7 @@ class ByteReader {
         }
         return ok_ ? n : 0;
     }
-    std::string text() {
+    std::string Text() {
         const std::size_t n = Count(1);
         std::string result(bytes_.substr(at_, n));
         at_ += n;

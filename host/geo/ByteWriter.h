@@ -19,7 +19,7 @@ class ByteWriter {
     void U64(std::uint64_t v) { Number(v, 8); }
     void F32(float v) { U32(std::bit_cast<std::uint32_t>(v)); }
     void Count(std::size_t n) { U32(static_cast<std::uint32_t>(n)); }
-    void text(const std::string& t) {
+    void Text(const std::string& t) {
         Count(t.size());
         bytes_ += t;
     }

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """The C++ sources of the repository, and their texts without what is not code."""
+import argparse
 import os
 import re
 import subprocess
@@ -25,6 +26,15 @@ def production(root):
 def read(root, path):
     with open(os.path.join(root, path), encoding="utf-8", errors="replace") as file:
         return file.read()
+
+
+def sources_of_command_line(description):
+    """(root, pairs of path and text of the production sources) of a check that takes --root and nothing else."""
+    parser = argparse.ArgumentParser(description=description, formatter_class=argparse.RawDescriptionHelpFormatter)
+    here = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+    parser.add_argument("--root", default=here, help="another checkout")
+    root = parser.parse_args().root
+    return root, [(path, read(root, path)) for path in production(root)]
 
 
 _TOKEN = re.compile(r'R"(?P<mark>[^()\\\s]{0,16})\(.*?\)(?P=mark)"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])*\'|'

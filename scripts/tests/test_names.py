@@ -16,6 +16,7 @@ class Table : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    int rowCount(const QModelIndex& parent = {}) const override;
 
   private:
     static constexpr int kWidth = 4;

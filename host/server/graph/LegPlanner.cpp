@@ -204,7 +204,7 @@ std::optional<PlannedStop> LegPlanner::Plan(const std::string& fromId, const Rou
         pinned.insert(pinned.end(), stretch.nodes.begin(), stretch.nodes.end());
         stop.locks += (stop.locks.empty() ? "" : ".") + stretch.text;
     }
-    stop.legs = shape_.split(PathShape::Densify(shape_.Taut(*path, forbidden, pinned)), fromId, to.id);
+    stop.legs = shape_.Split(PathShape::Densify(shape_.Taut(*path, forbidden, pinned)), fromId, to.id);
     stop.passedIds.push_back(fromId);
     for (const RouteLeg& leg : stop.legs) {
         stop.distanceKm += leg.distanceKm;

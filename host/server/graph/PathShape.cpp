@@ -52,7 +52,7 @@ RouteLeg Finished(std::string from, std::string end, std::vector<GeoPoint> point
 
 }  // namespace
 
-bool PathShape::open(GeoPoint a, GeoPoint b, const GateMask& forbidden) const {
+bool PathShape::IsOpen(GeoPoint a, GeoPoint b, const GateMask& forbidden) const {
     return !network_.Land().Blocks(a, b) && (network_.GatesCrossed(a, b) & forbidden).none();
 }
 
@@ -63,7 +63,7 @@ void PathShape::AppendTaut(const std::vector<GeoPoint>& run, const GateMask& for
         std::size_t next = at + 1;
         std::size_t hidden = 0;
         for (std::size_t j = at + 2; j < run.size() && hidden < kPatience; ++j) {
-            if (open(run[at], run[j], forbidden)) {
+            if (IsOpen(run[at], run[j], forbidden)) {
                 next = j;
                 hidden = 0;
             } else {
@@ -116,7 +116,7 @@ std::vector<GeoPoint> PathShape::Densify(const std::vector<GeoPoint>& corners) {
     return way;
 }
 
-std::vector<RouteLeg> PathShape::split(const std::vector<GeoPoint>& way, const std::string& fromId,
+std::vector<RouteLeg> PathShape::Split(const std::vector<GeoPoint>& way, const std::string& fromId,
                                        const std::string& endId) const {
     std::vector<RouteLeg> legs;
     std::string from = fromId;

@@ -23,7 +23,7 @@ class PathShape {
     static std::vector<GeoPoint> Densify(const std::vector<GeoPoint>& corners);
 
     /// A dense way cut at every route point whose gate it passes, from `fromId` to `endId`.
-    std::vector<RouteLeg> split(const std::vector<GeoPoint>& way, const std::string& fromId,
+    std::vector<RouteLeg> Split(const std::vector<GeoPoint>& way, const std::string& fromId,
                                 const std::string& endId) const;
 
     /// Longitudes brought back to ±180, with the two points at the date line put in.
@@ -33,7 +33,7 @@ class PathShape {
     static double LengthKm(const std::vector<GeoPoint>& way);
 
   private:
-    bool open(GeoPoint a, GeoPoint b, const GateMask& forbidden) const;
+    bool IsOpen(GeoPoint a, GeoPoint b, const GateMask& forbidden) const;
     void AppendTaut(const std::vector<GeoPoint>& run, const GateMask& forbidden,
                     std::vector<GeoPoint>& out) const;
 
