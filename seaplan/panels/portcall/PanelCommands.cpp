@@ -159,6 +159,9 @@ void PanelCommands::OnClear() {
     PortCallView& view = desk_.View();
     view.Hide();
     if (desk_.ToPerson().Confirm(TextId::IDS_PORTCALL_CLEARFORBLANK)) {
+        if (desk_.Sheet().state.changed) {
+            filling_.GiveUp();
+        }
         desk_.Sheet().Clear();
         desk_.Voyages().Module().Pending().NoteRowsChanged();
         desk_.Voyages().ClearChart();
@@ -176,7 +179,7 @@ void PanelCommands::OnClose() {
         if (!desk_.ToPerson().Question(TextId::IDS_PORTCALL_CLOSESAVE)) {
             return;
         }
-        desk_.Voyages().DiscardPortCalls(sheet.voyageId);
+        filling_.GiveUp();
     }
     sheet.MarkUnchanged();
     desk_.View().Hide();

@@ -50,16 +50,25 @@ bool VoyageFilling::MayReplace(const std::string& vi) {
 
 /// Asks what becomes of changes while their table is in sight. False when it has to stay.
 bool VoyageFilling::MayLeave() {
+    // Whoever comes by the keyboard has pressed nowhere that would have taken what is being typed.
+    editing_.CommitEditors();
     PortCallSheet& sheet = desk_.Sheet();
     if (!sheet.state.changed) {
         return true;
     }
     // The rows in the table are what is saved, so no cell may have changed since.
-    if (desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT) && save_() != 0) {
+    if (!desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT)) {
+        GiveUp();
+    } else if (save_() != 0) {
         return false;
     }
     sheet.state.changed = false;
     return true;
+}
+
+// The calculation of a saved voyage, or a correction, may stand in its record already.
+void VoyageFilling::GiveUp() {
+    desk_.Voyages().DiscardPortCalls(desk_.Sheet().voyageId);
 }
 
 void VoyageFilling::Clear() {

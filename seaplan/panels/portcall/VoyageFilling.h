@@ -37,6 +37,8 @@ class VoyageFilling {
     /// is shown.
     int ShowCorrection();
     void SetCorrectionTime(const std::string& time) { corrected_.SetTime(next_, time); }
+    /// The person gave up the changes of the voyage on show: what was saved counts again.
+    void GiveUp();
     /// The voyage on show anew.
     int Fill(int mode);
     /// Saves the table's rows as the schedule of a voyage. 0; -1 no voyage; -2 no rows; -3 the save failed;

@@ -108,6 +108,36 @@ TEST_F(PortCallLossTest, AFailedSaveBehindACalculationIsTold) {
     EXPECT_TRUE(view.state.canSave);
 }
 
+TEST_F(PortCallLossTest, ACalculationThatWasGivenUpIsNotShownAsWhatIsStored) {
+    Open(kept);
+    for (const bool byClearing : {false, true}) {
+        Type(1, ColSpeed, "12");
+        desk.Refuse(Ask::kSavePortCalls);
+        panel.Commands().OnCalculate();
+        desk.Heal();
+        ASSERT_TRUE(view.state.changed);
+        messages.Answer(byClearing ? SysMsgHandleRes::Ok : SysMsgHandleRes::No);
+        if (byClearing) {
+            panel.Commands().OnClear();
+        } else {
+            Leave();
+        }
+        Open(kept);
+        EXPECT_EQ(Cell(1, ColSpeed), "10.00");
+        EXPECT_FALSE(view.state.changed);
+    }
+}
+
+TEST_F(PortCallLossTest, AnotherVoyageIsNotShownOverAPortThatIsBeingTyped) {
+    Open(kept);
+    panel.Cells().OnCellClicked(2, ColPort);
+    Retype(CellEditor::Port, "ROUEN");
+    messages.Answer(SysMsgHandleRes::Yes);
+    EXPECT_EQ(Leave(), 0);
+    EXPECT_EQ(LastMessage(), "IDS_PORTCALL_SAVENEXT");
+    EXPECT_THAT(Stored(), ElementsAre("ROTTERDAM", "HAMBURG", "ROUEN"));
+}
+
 TEST_F(PortCallLossTest, APortThatWasTypedOverIsSavedWithItsOwnRoute) {
     desk.routes->SetLeg("HAMBURG", "ROUEN", 100);
     Open(kept);
