@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/plugins/seamap/core/PortTable.h"
 
-#include <vector>
-
 #include <tarvik/util/FileUtl.h>
-
-#include "host/ports/PlaceTable.h"
 
 namespace Tarvik::Seamap {
 
@@ -17,15 +13,21 @@ const Interface::TrvMapPort* PortTable::Find(const std::string& id) {
     return found == ports_.end() ? nullptr : &found->second;
 }
 
+const std::vector<Ports::Place>& PortTable::Places() {
+    if (!loaded_) {
+        Load();
+    }
+    return places_;
+}
+
 std::string PortTable::DefaultPath() {
     return Util::FileUtl::GetCurrentAppDirectory() + "/businessdata/trvdb.db";
 }
 
 void PortTable::Load() {
-    std::vector<Ports::Place> places;
     std::string error;
-    loaded_ = Ports::ReadPlaces(path_, places, error);
-    for (const Ports::Place& place : places) {
+    loaded_ = Ports::ReadPlaces(path_, places_, error);
+    for (const Ports::Place& place : places_) {
         // A row without a readable position is no place that could be shown.
         if (place.position) {
             ports_.try_emplace(

@@ -3,8 +3,11 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 #include <tarvik/interface/ChartRecords.h>
+
+#include "host/ports/PlaceTable.h"
 
 namespace Tarvik::Seamap {
 
@@ -16,6 +19,8 @@ class PortTable {
     /// The record with its id in `text`; null when the id is unknown or the data base cannot be read. Stays
     /// valid as long as the table.
     const Interface::TrvMapPort* Find(const std::string& id);
+    /// All rows of the table, in order of their names; empty when the data base cannot be read.
+    const std::vector<Ports::Place>& Places();
     /// "businessdata/trvdb.db" below the host's folder.
     static std::string DefaultPath();
 
@@ -24,6 +29,7 @@ class PortTable {
 
     std::string path_;
     bool loaded_ = false;
+    std::vector<Ports::Place> places_;
     std::map<std::string, Interface::TrvMapPort> ports_;
 };
 

@@ -93,7 +93,7 @@ int main(int argc, char** argv) {
         arguments.value(4, QString::fromStdString(LandFileSource::DefaultPath())).toStdString();
     QElapsedTimer timer;
     timer.start();
-    chart.SetLand(CoastData(LandFileSource(file).Load()));
+    chart.Change([&file](ChartScene& scene) { scene.SetLand(CoastData(LandFileSource(file).Load())); });
     fmt::print("land {} ms\n", timer.elapsed());
     chart.resize(width, height);
     chart.show();

@@ -18,8 +18,12 @@ void ChartScene::SetTheme(ChartPalette::Theme theme) {
 void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelRatio,
                        const ObjectKey* highlighted) {
     painter.drawPixmap(0, 0, base_.Picture(view, *palette_, pixelRatio));
-    ObjectPainter(painter, view, *palette_, images_, texts_, pixelRatio).Draw(objects_, highlighted);
-    Furniture(view, *palette_, texts_).Draw(painter);
+    const Furniture furniture(view, *palette_, texts_);
+    LabelRoom room;
+    ObjectPainter(painter, view, *palette_, images_, texts_, room, pixelRatio).Draw(objects_, highlighted);
+    furniture.Reserve(room);
+    names_.Draw(painter, view, *palette_, texts_, room);
+    furniture.Draw(painter);
 }
 
 const ChartObject* ChartScene::At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio) {

@@ -9,17 +9,20 @@
 #include "host/plugins/seamap/widget/BaseLayer.h"
 #include "host/plugins/seamap/widget/HaloTexts.h"
 #include "host/plugins/seamap/widget/ImageStore.h"
+#include "host/plugins/seamap/widget/NameLayer.h"
 
 namespace Tarvik::Seamap {
 
-/// What the chart shows, whatever the view: land, objects and furniture in the colours of a theme, and what
-/// lies under a pixel.
+/// What the chart shows, whatever the view: land, objects, names and furniture in the colours of a theme, and
+/// what lies under a pixel.
 class ChartScene {
   public:
     /// The objects must live longer than the scene.
     explicit ChartScene(const ChartObjects& objects) : objects_(objects) {}
 
     void SetLand(CoastData land) { base_.SetLand(std::move(land)); }
+    /// Names of waters and ports, in the order in which they find room.
+    void SetNames(const std::vector<ChartName>& names) { names_.SetNames(names); }
     void SetTheme(ChartPalette::Theme theme);
     const ChartPalette& Palette() const { return *palette_; }
 
@@ -38,6 +41,7 @@ class ChartScene {
     BaseLayer base_;
     ImageStore images_;
     HaloTexts texts_;
+    NameLayer names_;
 };
 
 }  // namespace Tarvik::Seamap

@@ -7,13 +7,31 @@
 #include <tarvik/bus/Binding.h>
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TObject.h>
+#include <tarvik/interface/LoadString.h>
+#include <tarvik/util/StringUtl.h>
 
 #include "host/plugins/seamap/core/LandSource.h"
 
 namespace Tarvik::Seamap {
 
 namespace Bus = Interface::Bus;
+
+namespace {
+
+/// A text of the language in force; empty when it has none.
+std::string TextOf(const char* section, const char* key) {
+    const Interface::LanguageSource* texts = Interface::LanguageSource::Current();
+    if (texts == nullptr) {
+        return {};
+    }
+    const std::u16string table = Util::StringUtl::TranslateString(std::string(section));
+    const auto text = texts->Find(table, table, Util::StringUtl::TranslateString(std::string(key)));
+    return text ? Util::StringUtl::TranslateString(*text) : std::string();
+}
+
+}  // namespace
 
 ChartServices::ChartServices(Paths paths) : paths_(std::move(paths)), ports_(paths_.ports) {
     OfferObjects();
@@ -49,6 +67,7 @@ void ChartServices::OfferView() {
     bindings_.Keep(Offer(Bus::MapGetPort, [this](const std::string& id) { return ports_.Find(id); }));
     bindings_.Keep(Offer(Bus::ChartWindow, this, &ChartServices::Widget));
     bindings_.Keep(Offer(Bus::ChartCommand, this, &ChartServices::Command));
+    bindings_.Keep(Interface::Subscribe(Bus::SwitchLanguage, this, &ChartServices::ShowNames));
 }
 
 ChartServices::~ChartServices() {
@@ -64,7 +83,9 @@ ChartWidget* ChartServices::Widget() {
     if (!widget_ && qobject_cast<QApplication*>(QCoreApplication::instance())) {
         widget_ = new ChartWidget(objects_);
         widget_->SetTheme(theme_);
-        widget_->SetLand(CoastData(LandFileSource(paths_.land).Load()));
+        widget_->Change(
+            [this](ChartScene& scene) { scene.SetLand(CoastData(LandFileSource(paths_.land).Load())); });
+        ShowNames();
         if (asked_) {
             widget_->ShowExtent(*asked_);
         }
@@ -93,6 +114,12 @@ void ChartServices::SetExtent(const Interface::TrvMapExtent& corners) {
     asked_ = extent;
     if (widget_) {
         widget_->ShowExtent(*extent);
+    }
+}
+
+void ChartServices::ShowNames() {
+    if (widget_) {
+        widget_->Change([this](ChartScene& scene) { scene.SetNames(NamesOfChart(TextOf, ports_.Places())); });
     }
 }
 

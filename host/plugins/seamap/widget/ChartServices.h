@@ -38,6 +38,8 @@ class ChartServices : public Core::TObject {
     void OfferView();
     Interface::TrvMapExtent* GetExtent() const;
     void SetExtent(const Interface::TrvMapExtent& corners);
+    /// Gives the window the names of the language in force.
+    void ShowNames();
     const std::string* Command(const std::string& command);
     void RaiseCursor(double lon, double lat) const;
     bool Run(const std::string& command);

@@ -35,8 +35,8 @@ ChartWidget::~ChartWidget() {
     objects_.SetObserver({});
 }
 
-void ChartWidget::SetLand(CoastData land) {
-    scene_.SetLand(std::move(land));
+void ChartWidget::Change(const std::function<void(ChartScene&)>& change) {
+    change(scene_);
     update();
 }
 

@@ -3,6 +3,7 @@
 
 #include <QPoint>
 #include <QWidget>
+#include <functional>
 #include <optional>
 
 #include "host/plugins/seamap/widget/ChartCamera.h"
@@ -22,7 +23,8 @@ class ChartWidget : public QWidget {
     explicit ChartWidget(ChartObjects& objects, QWidget* parent = nullptr);
     ~ChartWidget() override;
 
-    void SetLand(CoastData land);
+    /// Changes what is shown, land or names, and draws it anew.
+    void Change(const std::function<void(ChartScene&)>& change);
     void SetTheme(ChartPalette::Theme theme);
     ChartPalette::Theme Theme() const { return scene_.Palette().theme; }
 

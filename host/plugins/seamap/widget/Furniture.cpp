@@ -18,8 +18,18 @@ constexpr int kBarLength = 140;
 constexpr int kBarHeight = 4;
 constexpr int kBarInset = 16;
 constexpr int kPlateHeight = 32;
+constexpr int kPlateWidth = kBarLength + 32;  ///< at most
+constexpr int kNamesWidth = 58;               ///< of the parallels
 
 }  // namespace
+
+void Furniture::Reserve(LabelRoom& room) const {
+    const double width = view_.Width();
+    const double height = view_.Height();
+    room.Take({0, 0, width, kTextSize + 2.0 * kEdge});
+    room.Take({0, 0, kNamesWidth, height});
+    room.Take({0, height - kBarInset - kPlateHeight, kPlateWidth, kBarInset + kPlateHeight});
+}
 
 void Furniture::Draw(QPainter& painter) const {
     QFont font = painter.font();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/plugins/seamap/core/ChartPalette.h"
+#include "host/plugins/seamap/core/LabelRoom.h"
 #include "host/plugins/seamap/core/MercatorView.h"
 
 class QPainter;
@@ -17,6 +18,8 @@ class Furniture {
     Furniture(const MercatorView& view, const ChartPalette& palette, HaloTexts& texts)
         : view_(view), palette_(palette), texts_(texts) {}
     void Draw(QPainter& painter) const;
+    /// Takes the places along the edges where it will be drawn.
+    void Reserve(LabelRoom& room) const;
 
   private:
     void DrawNames(QPainter& painter) const;

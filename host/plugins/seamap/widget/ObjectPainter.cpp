@@ -127,7 +127,7 @@ void ObjectPainter::DrawPoint(const ChartLabel& label, bool highlighted) {
     painter_.setPen(QPen(QColor(highlighted ? palette_.accent : palette_.outline), highlighted ? 2 : 1.5));
     painter_.setBrush(QColor(palette_.ObjectColour(label.colour)));
     painter_.drawEllipse(middle, radius, radius);
-    taken_.emplace_back(centre.x - radius, centre.y - radius, 2 * radius, 2 * radius);
+    room_.Take({centre.x - radius, centre.y - radius, 2 * radius, 2 * radius});
 }
 
 void ObjectPainter::DrawImage(const ChartObjects& objects, const ChartImage& image, bool highlighted) {
@@ -145,9 +145,7 @@ void ObjectPainter::DrawImage(const ChartObjects& objects, const ChartImage& ima
         painter_.drawEllipse(QPointF(centre.x, centre.y), radius, radius);
     }
     painter_.drawPixmap(corner, picture);
-    if (taken_.size() < 500) {
-        taken_.emplace_back(corner, size);
-    }
+    room_.Take({corner.x(), corner.y(), size.width(), size.height()});
 }
 
 void ObjectPainter::DrawText(const ChartLabel& label, bool always) {
@@ -159,17 +157,18 @@ void ObjectPainter::DrawText(const ChartLabel& label, bool always) {
     const QString text = QString::fromStdString(label.text);
     const double width = metrics.horizontalAdvance(text), height = metrics.height();
     const double away = label.size + kTextGap;
-    const std::array<QPointF, 4> places{QPointF(away, -height / 2), QPointF(-away - width, -height / 2),
-                                        QPointF(-width / 2, -away - height), QPointF(-width / 2, away)};
-    for (const QPointF& place : places) {
-        const QRectF room(std::round(centre.x + place.x()), std::round(centre.y + place.y()), width, height);
-        const auto meets = [&](const QRectF& other) { return other.intersects(room); };
-        if (!always && std::any_of(taken_.begin(), taken_.end(), meets)) {
+    const std::array<PixelPoint, 4> corners{{{away, -height / 2},
+                                             {-away - width, -height / 2},
+                                             {-width / 2, -away - height},
+                                             {-width / 2, away}}};
+    for (const PixelPoint& corner : corners) {
+        const LabelBox box{std::round(centre.x + corner.x), std::round(centre.y + corner.y), width, height};
+        if (!always && !room_.IsFree(box)) {
             continue;
         }
-        taken_.push_back(room);
-        texts_.Draw(painter_, {room.left(), room.top() + std::round(metrics.ascent())}, text,
-                    QColor(palette_.text), QColor(palette_.halo));
+        room_.Take(box);
+        texts_.Draw(painter_, {box.left, box.top + std::round(metrics.ascent())}, text, QColor(palette_.text),
+                    QColor(palette_.halo));
         return;
     }
 }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QRectF>
+#include <QtGlobal>
 #include <vector>
 
 #include "host/plugins/seamap/core/ChartObjects.h"
 #include "host/plugins/seamap/core/ChartPalette.h"
+#include "host/plugins/seamap/core/LabelRoom.h"
 #include "host/plugins/seamap/core/MercatorView.h"
 
 class QPainter;
@@ -15,16 +16,18 @@ namespace Tarvik::Seamap {
 class HaloTexts;
 class ImageStore;
 
-/// Draws the objects of the chart: lines below, then points and images, then the texts that find room.
+/// Draws the objects of the chart: lines below, then points and images, then the texts that find room. What
+/// they take is told to `room`.
 class ObjectPainter {
   public:
     ObjectPainter(QPainter& painter, const MercatorView& view, const ChartPalette& palette,
-                  ImageStore& images, HaloTexts& texts, qreal pixelRatio)
+                  ImageStore& images, HaloTexts& texts, LabelRoom& room, qreal pixelRatio)
         : painter_(painter),
           view_(view),
           palette_(palette),
           images_(images),
           texts_(texts),
+          room_(room),
           pixelRatio_(pixelRatio) {}
 
     /// `highlighted` is the object under the pointer, null without one.
@@ -48,8 +51,8 @@ class ObjectPainter {
     const ChartPalette& palette_;
     ImageStore& images_;
     HaloTexts& texts_;
+    LabelRoom& room_;
     qreal pixelRatio_;
-    std::vector<QRectF> taken_;  ///< where points, images and texts stand
 };
 
 }  // namespace Tarvik::Seamap

@@ -5,10 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/ChartRecords.h>
+#include <tarvik/interface/LoadString.h>
 
 #include "host/plugins/seamap/widget/ChartServices.h"
 #include "tarvik/src/core/BusTesting.h"
@@ -34,6 +36,21 @@ struct Listener : Core::TObject {
     std::vector<std::string> ids;
     std::vector<GeoPoint> places;
     Core::TEvent delegate;
+};
+
+/// A language that names one water. In force while it lives.
+class OneWater final : public Interface::LanguageSource {
+  public:
+    OneWater() { Set(this); }
+    ~OneWater() override { Set(nullptr); }
+    OneWater(const OneWater&) = delete;
+    OneWater& operator=(const OneWater&) = delete;
+
+    std::u16string text = u"North Sea";
+    std::optional<std::u16string> Find(const std::u16string& section, const std::u16string&,
+                                       const std::u16string& key) const override {
+        return section == u"Waters" && key == u"NORTH_SEA" ? std::optional(text) : std::nullopt;
+    }
 };
 
 class ChartServicesTest : public ::testing::Test {
@@ -237,4 +254,19 @@ TEST_F(ChartServicesTest, TakesEverythingBackAtTheEnd) {
 }
 
 }  // namespace
+TEST_F(ChartServicesTest, NamesOfWatersFollowTheLanguage) {
+    OneWater language;
+    ChartWidget& chart = Chart();
+    SetExtent({-5, 50, 12, 62});
+    const QImage english = chart.grab().toImage();
+    language.text = u"北海";
+    EXPECT_EQ(chart.grab().toImage(), english);
+    Interface::Raise(Chart::SwitchLanguage);
+    const QImage chinese = chart.grab().toImage();
+    EXPECT_NE(chinese, english);
+    language.text = u"";
+    Interface::Raise(Chart::SwitchLanguage);
+    EXPECT_NE(chart.grab().toImage(), chinese);
+}
+
 }  // namespace Tarvik::Seamap
