@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include <tarvik/bus/ChartContract.h>
+
 #include "seaplan/data/Position.h"
 
 /// A line is cut by walking its points once, in order: a point whose text begins with 180 or -180 closes the
@@ -109,8 +111,8 @@ std::optional<Interface::TrvMapExtent> ExtentOf(const PointTexts& points) {
     }
     AddMargins(*limits);
     if (IsAroundTheWorld(*limits)) {
-        limits->east = 126.0;
-        limits->west = -90.0;
+        limits->east = Interface::Bus::kAroundTheWorldFrom;
+        limits->west = Interface::Bus::kAroundTheWorldTo;
     }
     return Interface::TrvMapExtent{limits->east, limits->north, limits->west, limits->south};
 }

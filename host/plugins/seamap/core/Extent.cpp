@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <tarvik/bus/ChartContract.h>
+
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Seamap {
@@ -15,8 +17,15 @@ std::optional<Extent> Extent::FromCorners(const Interface::TrvMapExtent& corners
         }
     }
     Extent extent;
-    extent.west = std::min(corners.first, corners.third);
-    extent.east = std::min(std::max(corners.first, corners.third), extent.west + 360.0);
+    const bool isOverDateLine = corners.first == Interface::Bus::kAroundTheWorldFrom &&
+                                corners.third == Interface::Bus::kAroundTheWorldTo;
+    if (isOverDateLine) {
+        extent.west = corners.first;
+        extent.east = corners.third + 360.0;
+    } else {
+        extent.west = std::min(corners.first, corners.third);
+        extent.east = std::min(std::max(corners.first, corners.third), extent.west + 360.0);
+    }
     extent.south = std::clamp(std::min(corners.second, corners.fourth), -90.0, 90.0);
     extent.north = std::clamp(std::max(corners.second, corners.fourth), -90.0, 90.0);
     return extent;

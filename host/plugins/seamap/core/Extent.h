@@ -19,8 +19,9 @@ struct Extent {
     bool operator==(const Extent&) const = default;
 
     /// Reads two corners given in either order: the greater longitude is the eastern limit, the greater
-    /// latitude the northern one. Latitudes are brought into ±90, the width to one turn at most. Empty when a
-    /// number is not finite or beyond 720 either way.
+    /// latitude the northern one; the pair around the world (ChartContract.h) lies over the date line.
+    /// Latitudes are brought into ±90, the width to one turn at most. Empty when a number is not finite or
+    /// beyond 720 either way.
     static std::optional<Extent> FromCorners(const Interface::TrvMapExtent& corners);
     /// The corners in the order west, south, east, north.
     Interface::TrvMapExtent Corners() const;

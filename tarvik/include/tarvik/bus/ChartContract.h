@@ -52,7 +52,12 @@ inline constexpr Service<const TrvMapObjectList, None> MapDeleteObjects{"TRV_MAP
 inline constexpr Service<const TrvMapObjectRef, None> MapDeleteObjectsByType{"TRV_MAP_DEL_OBJECT_BY_TYPE"};
 /// The limits on show: a bus block (TObject.h) that the caller frees.
 inline constexpr Service<None, TrvMapExtent> MapGetExtent{"TRV_MAP_GET_EXTENT"};
-/// Shows these limits; ones that are no numbers change nothing.
+/// The longitudes of the limits for what lies around the world, in their first and third place: they are
+/// meant over the date line, from the first to the east until the second.
+inline constexpr double kAroundTheWorldFrom = 126.0;
+inline constexpr double kAroundTheWorldTo = -90.0;
+/// Shows these limits; ones that are no numbers change nothing. Corners come in either order: the narrow way
+/// between two longitudes is never over the date line, but for the pair around the world.
 inline constexpr Service<const TrvMapExtent, None> MapSetExtent{"TRV_MAP_SET_EXTENT"};
 /// The port with this id, null when unknown. The chart's, valid until the next call.
 inline constexpr Service<const std::string, const TrvMapPort> MapGetPort{"TRV_MAP_GET_PORT"};

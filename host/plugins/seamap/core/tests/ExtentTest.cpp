@@ -16,6 +16,11 @@ TEST(Extent, ReadsTheCornersInEitherOrder) {
     EXPECT_EQ(Extent::FromCorners({-10, 60, 126, 20}), expected);
 }
 
+TEST(Extent, ThePairAroundTheWorldLiesOverTheDateLine) {
+    EXPECT_EQ(Extent::FromCorners({126, 52, -90, 30}), (Extent{126, 30, 270, 52}));
+    EXPECT_EQ(Extent::FromCorners({-90, 52, 126, 30}), (Extent{-90, 30, 126, 52})) << "only in this order";
+}
+
 TEST(Extent, TheInitialRecordIsTheWholeWorld) {
     EXPECT_EQ(Extent::FromCorners({}), (Extent{-180, -90, 180, 90}));
 }
