@@ -138,7 +138,7 @@ TEST(ShippedLanguages, AreEnglishAndBothFormsOfChinese) {
 
 TEST(ShippedLanguages, HaveTheKeysOfTheEnglishFilesAndNoOthers) {
     for (const Language& language : LanguageFiles::In(CLIENT_LANGUAGES)) {
-        for (const char* component : {"client", "seaplan"}) {
+        for (const char* component : {"ais", "client", "seaplan"}) {
             EXPECT_EQ(KeysOf(component, language.code), KeysOf(component, kReferenceLanguage))
                 << component << " " << language.code;
         }
@@ -150,7 +150,7 @@ TEST(ShippedLanguages, TraditionalChineseHoldsNoSimplifiedForms) {
     constexpr const char* kSimplified[] = {"们", "这", "为", "时", "显", "录", "设", "选",
                                            "处", "删", "备", "类", "进", "请", "复", "给",
                                            "开", "关", "总", "间", "预", "离", "经", "纬"};
-    for (const char* component : {"client", "seaplan"}) {
+    for (const char* component : {"ais", "client", "seaplan"}) {
         std::ifstream in(std::string(CLIENT_LANGUAGES) + "/" + component + ".zh-TW.json");
         const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
         ASSERT_FALSE(text.empty());

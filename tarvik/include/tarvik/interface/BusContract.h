@@ -6,6 +6,7 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/interface/ChartRecords.h>
