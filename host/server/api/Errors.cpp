@@ -48,6 +48,7 @@ constexpr ErrorRow kErrors[] = {
     {ErrorCode::BookTakenOver, "another client has begun to write the position book"},
     {ErrorCode::StorageFailed, "the data could not be stored or read"},
     {ErrorCode::Internal, "the server failed"},
+    {ErrorCode::MaybeStored, "the change may be stored or not, look again"},
     {ErrorCode::TooFewStops, "a route needs two stops"},
     {ErrorCode::UnknownStop, "there is no such stop"},
     {ErrorCode::NoWay, "there is no way between two stops"},
@@ -61,8 +62,9 @@ constexpr std::array kFaultCodes = {
     ErrorCode::NotInBin,          ErrorCode::CategoryNotInUse, ErrorCode::BookExists,
     ErrorCode::NothingToAppendTo, ErrorCode::BookTakenOver,    ErrorCode::TooManyRows,
     ErrorCode::RowExists,         ErrorCode::RemarkExists,     ErrorCode::StorageFailed,
+    ErrorCode::MaybeStored,
 };
-static_assert(kFaultCodes.size() == static_cast<std::size_t>(FaultReason::StorageFailed) + 1);
+static_assert(kFaultCodes.size() == static_cast<std::size_t>(FaultReason::MaybeStored) + 1);
 
 }  // namespace
 

@@ -44,6 +44,7 @@ enum class ErrorCode : int {
     BookTakenOver = 47,
     StorageFailed = 50,
     Internal = 51,
+    MaybeStored = 52,
     TooFewStops = 60,  ///< of the search for routes, as the next one
     UnknownStop = 61,
     NoWay = 62,

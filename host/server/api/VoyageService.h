@@ -19,7 +19,8 @@ struct VoyageReply {
 
     /// Whether the server is at fault, and not the request.
     bool Failed() const {
-        return refused && (code == ErrorCode::StorageFailed || code == ErrorCode::Internal);
+        return refused && (code == ErrorCode::StorageFailed || code == ErrorCode::Internal ||
+                           code == ErrorCode::MaybeStored);
     }
 };
 

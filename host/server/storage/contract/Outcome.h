@@ -27,6 +27,7 @@ enum class FaultReason {
     RowExists,
     RemarkExists,
     StorageFailed,
+    MaybeStored,  ///< the connection to the data base broke while it confirmed the change
 };
 
 /// The kind that a reason belongs to.
@@ -34,7 +35,7 @@ constexpr FaultKind KindOf(FaultReason reason) {
     if (reason <= FaultReason::UnknownObject) {
         return FaultKind::NotFound;
     }
-    return reason == FaultReason::StorageFailed ? FaultKind::Failed : FaultKind::Refused;
+    return reason >= FaultReason::StorageFailed ? FaultKind::Failed : FaultKind::Refused;
 }
 
 /// A reason with, where there is more to say, a detail in English.
@@ -45,7 +46,8 @@ struct Fault {
     FaultKind Kind() const { return KindOf(reason); }
 };
 
-/// The value of an operation that succeeded, or the fault of one that did not; a fault has changed nothing.
+/// The value of an operation that succeeded, or the fault of one that did not; a fault other than MaybeStored
+/// has changed nothing.
 template <class T>
 class [[nodiscard]] Outcome {
   public:

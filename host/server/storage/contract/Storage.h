@@ -31,7 +31,8 @@ class RemarkStorage {
 /// Everything that the voyage server keeps.
 ///
 /// Every operation takes the owner first and reaches nothing of anybody else. An operation is one
-/// transaction: it is on disk when it succeeds and has changed nothing when it does not. Ids are decimal
+/// transaction: it is on disk when it succeeds and has changed nothing when it does not, unless its fault is
+/// MaybeStored: then who asked is to look. Ids are decimal
 /// texts from 1000001 upward, unique over all owners and kinds of record, and never given out twice.
 /// Operations may be called from any thread and never throw.
 class Storage {

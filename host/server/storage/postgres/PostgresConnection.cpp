@@ -58,6 +58,11 @@ constexpr const char* kSessionSettings =
     "set_config('idle_in_transaction_session_timeout', '30s', false), "
     "set_config('client_min_messages', 'warning', false), set_config('extra_float_digits', '1', false)";
 
+/// Whether the data base ends the connection behind this error: its last words come before its end is seen.
+bool EndsConnection(const pqxx::sql_error& error) {
+    return error.sqlstate().starts_with("57P") || error.sqlstate().starts_with("08");
+}
+
 /// A connection that broke must be made anew by its owner, who also knows what was lost with it; by itself
 /// the library would connect again within the next call.
 void ForbidReconnecting(pqxx::connection& connection) {
@@ -114,6 +119,9 @@ auto PostgresConnection::Guarded(Operation&& operation) -> decltype(operation())
         const Asking asking(link_ != nullptr ? &link_->line : nullptr);
         return operation();
     } catch (const pqxx::sql_error& error) {
+        if (EndsConnection(error)) {
+            link_->broken = true;
+        }
         throw SqlError(WithoutSecrets(error.what(), connectionText_));
     } catch (const SqlError&) {
         throw;
@@ -146,19 +154,26 @@ void PostgresConnection::Begin(Mode mode) {
     link_->line.AllowAnyTime(false);
     Guarded([&] {
         using Reading = pqxx::transaction<pqxx::repeatable_read, pqxx::read_only>;
-        if (mode == Mode::Write) {
-            link_->transaction = std::make_unique<pqxx::work>(link_->connection);
-        } else {
+        if (mode == Mode::Read) {
             link_->transaction = std::make_unique<Reading>(link_->connection);
+        } else {
+            link_->transaction = std::make_unique<pqxx::work>(link_->connection);
         }
     });
 }
 
 void PostgresConnection::Commit() {
-    Guarded([&] {
-        link_->transaction->commit();
-        link_->transaction.reset();
-    });
+    try {
+        Guarded([&] {
+            link_->transaction->commit();
+            link_->transaction.reset();
+        });
+    } catch (const SqlError& failure) {
+        if (!Usable()) {
+            throw SqlDoubt(failure.what());
+        }
+        throw;
+    }
 }
 
 void PostgresConnection::Rollback() noexcept {

@@ -39,7 +39,7 @@ class PostgresConnection : public SqlConnection {
     ~PostgresConnection() override;
 
     void Begin(Mode mode);
-    /// The changes are on the server's disk when this returns. When it throws because the connection broke,
+    /// The changes are on the server's disk when this returns. Throws SqlDoubt when the connection broke:
     /// they may be there or not.
     void Commit();
     /// Undoes what was not committed; without effect when there is no transaction.

@@ -16,7 +16,7 @@ struct PostgresOptions {
 };
 
 /// Runs each operation on a connection of its own. When the connection breaks while a change is being
-/// committed, the operation fails although the change may be stored.
+/// committed, the operation fails with FaultReason::MaybeStored.
 class PostgresSession : public SqlSession {
   public:
     /// Connects and brings the data base to the present version; throws SqlError.
@@ -33,7 +33,7 @@ class PostgresSession : public SqlSession {
 
 /// The storage in a PostgreSQL data base, which any number of processes share. Changes of one voyage are made
 /// one after the other, whichever process makes them. When the connection breaks while a change is being
-/// committed, the operation fails although the change may be stored.
+/// committed, the operation fails with FaultReason::MaybeStored.
 class PostgresStorage : public SqlStorage {
   public:
     /// Connects and brings an empty or older data base to the present version. `connectionText` is

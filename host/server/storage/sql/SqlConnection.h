@@ -21,6 +21,12 @@ class SqlError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// The connection broke while a change was being confirmed: it may be stored or not.
+class SqlDoubt : public SqlError {
+  public:
+    using SqlError::SqlError;
+};
+
 /// A value for a place of a statement. A text is not copied: it must outlive the call that takes the value.
 class SqlValue {
   public:

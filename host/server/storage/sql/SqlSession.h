@@ -15,8 +15,12 @@ namespace Tarvik::Server {
 /// Who waits longer than this for a lock or a connection waits for something broken, and is told so.
 inline constexpr std::chrono::seconds kLockPatience{10};
 
-/// Whether a transaction changes anything.
-enum class SqlMode { Read, Write };
+/// Whether a transaction changes anything, and how often its work can be run.
+enum class SqlMode {
+    Read,
+    Write,  ///< work that may be run again after it was undone
+    Once,   ///< changes too, by work that can be run only once
+};
 
 /// The connections to one data base. Runs each operation as one transaction and turns what fails into a
 /// fault. Safe to call from any thread.
@@ -27,10 +31,16 @@ class SqlSession {
     SqlSession(const SqlSession&) = delete;
     SqlSession& operator=(const SqlSession&) = delete;
 
-    /// `work(connection)` gives an Outcome; anything but success undoes what it did.
+    /// `work(connection)` gives an Outcome; anything but success undoes what it did. It may be run more than
+    /// once, by another thread while this one waits; what an earlier run did was undone.
     template <class Work>
     auto Write(Work&& work) -> decltype(work(std::declval<SqlConnection&>())) {
         return Guarded(SqlMode::Write, work);
+    }
+    /// The same for work that is run once only, since it uses up what it stores.
+    template <class Work>
+    auto WriteOnce(Work&& work) -> decltype(work(std::declval<SqlConnection&>())) {
+        return Guarded(SqlMode::Once, work);
     }
     /// The same for work that changes nothing. It waits for no writer and sees what was stored when it began.
     template <class Work>
@@ -46,7 +56,7 @@ class SqlSession {
     using Transaction = std::function<bool(SqlConnection&)>;
 
     /// Runs the work in one transaction. What is kept is on disk when this returns; everything else, also
-    /// when the work throws, is undone. Throws SqlError.
+    /// when the work throws, is undone. Throws SqlError, and SqlDoubt when it may be kept or not.
     virtual void Transact(SqlMode mode, const Transaction& work) = 0;
 
   private:
@@ -59,6 +69,8 @@ class SqlSession {
                 return outcome->Succeeded();
             });
             return std::move(*outcome);
+        } catch (const SqlDoubt& doubt) {
+            return Fault{FaultReason::MaybeStored, doubt.what()};
         } catch (const std::exception& error) {
             return Fault{FaultReason::StorageFailed, error.what()};
         }

@@ -79,7 +79,7 @@ Outcome<OwnerCopy> SqlTransfer::ReadOwner(const std::string& owner) {
 }
 
 Outcome<AddReport> SqlTransfer::AddOwners(const CopyManifest& manifest, const OwnerSource& source) {
-    return session_.Write([&](SqlConnection& connection) -> Outcome<AddReport> {
+    return session_.WriteOnce([&](SqlConnection& connection) -> Outcome<AddReport> {
         for (const std::string& owner : manifest.owners) {
             if (!manifest.besideOthers && HasRecords(connection, owner)) {
                 return AddReport{false, owner};

@@ -179,12 +179,19 @@ void SqliteDatabase::Throw(std::string_view doing) const {
 
 SqliteTransaction::SqliteTransaction(SqliteDatabase& database, SqlMode mode) : database_(database) {
     // Prepared and kept like every other statement, so that a small read does not parse these texts anew.
-    database_.Run(mode == SqlMode::Write ? "BEGIN IMMEDIATE" : "BEGIN DEFERRED");
+    database_.Run(mode == SqlMode::Read ? "BEGIN DEFERRED" : "BEGIN IMMEDIATE");
+}
+
+bool SqliteTransaction::UnderWay() const {
+    return sqlite3_get_autocommit(database_.handle_) == 0;
 }
 
 SqliteTransaction::~SqliteTransaction() {
-    // A full disk may have undone the transaction already.
-    if (sqlite3_get_autocommit(database_.handle_) == 0) {
+    Undo();
+}
+
+void SqliteTransaction::Undo() noexcept {
+    if (UnderWay()) {
         sqlite3_exec(database_.handle_, "ROLLBACK", nullptr, nullptr, nullptr);
     }
 }

@@ -74,6 +74,10 @@ class SqliteTransaction {
     SqliteTransaction& operator=(const SqliteTransaction&) = delete;
 
     void Commit();
+    /// Undoes it now; without effect when it is over.
+    void Undo() noexcept;
+    /// False once it was committed or undone, which a full disk may have done.
+    bool UnderWay() const;
 
   private:
     SqliteDatabase& database_;

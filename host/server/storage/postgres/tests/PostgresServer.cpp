@@ -112,9 +112,10 @@ PostgresServer::~PostgresServer() {
 
 void PostgresServer::Initialize() {
     const auto [in, out] = MakePipe();
-    const pid_t process = StartProgram({"initdb", "--pgdata=" + folder_.File("data"), "--username=seaplan",
-                                        "--auth=trust", "--encoding=UTF8", "--no-locale", "--no-sync"},
-                                       folder_.File("."), out);
+    const pid_t process =
+        StartProgram({"initdb", "--pgdata=" + folder_.File("data"), "--username=seaplan", "--auth=trust",
+                      "--encoding=UTF8", "--no-locale", "--no-sync", "--wal-segsize=1"},
+                     folder_.File("."), out);
     close(out);
     std::string said;
     char buffer[4096];
