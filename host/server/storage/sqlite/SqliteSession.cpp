@@ -28,13 +28,6 @@ const std::string& MadePrivate(const std::string& path) {
     return path;
 }
 
-void RunIn(SqliteDatabase& database, SqlMode mode, const std::function<bool(SqlConnection&)>& work) {
-    SqliteTransaction transaction(database, mode);
-    if (work(database)) {
-        transaction.Commit();
-    }
-}
-
 }  // namespace
 
 SqliteSession::SqliteSession(const std::string& path, const SqliteSchema& schema,
@@ -61,22 +54,13 @@ SqliteSession::SqliteSession(const std::string& path, const SqliteSchema& schema
 void SqliteSession::Transact(SqlMode mode, const Transaction& work) {
     if (mode == SqlMode::Read && shared_) {
         Reader reader(*this);
-        RunIn(reader.Get(), mode, work);
-    } else {
-        // Both waits together have one limit: for who writes here, then for who writes elsewhere.
-        const auto end = std::chrono::steady_clock::now() + kLockPatience;
-        const std::unique_lock lock(writing_, end);
-        if (!lock || givenUp_) {
-            throw SqlError(givenUp_ ? "the server ends" : "the data base is locked by others");
+        SqliteTransaction transaction(reader.Get(), mode);
+        if (work(reader.Get())) {
+            transaction.Commit();
         }
-        writer_.SetPatience(end - std::chrono::steady_clock::now());
-        RunIn(writer_, mode, work);
+    } else {
+        changes_.Run(mode, work);
     }
-}
-
-void SqliteSession::GiveUp() {
-    givenUp_ = true;
-    writer_.GiveUp();
 }
 
 std::unique_ptr<SqliteDatabase> SqliteSession::TakeReader() {

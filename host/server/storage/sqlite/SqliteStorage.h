@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <atomic>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
 
 #include "host/server/storage/sql/SqlStorage.h"
+#include "host/server/storage/sqlite/SqliteChanges.h"
 #include "host/server/storage/sqlite/SqliteMigrator.h"
 
 namespace Tarvik::Server {
@@ -17,16 +17,16 @@ struct SqliteOptions {
     int maxPages = 0;  ///< quota in pages of 4096 bytes; 0 for none
 };
 
-/// The connections to one file: one that writes, behind a lock, and as many that read as operations read at
-/// the same time. A write-ahead log stands beside the file, and every change is synced to disk. Other
-/// processes may have the file open too.
+/// The connections to one file: one that writes, for all changes that wait at once, and as many that read as
+/// operations read at the same time. A write-ahead log stands beside the file, and every change is synced to
+/// disk. Other processes may have the file open too.
 class SqliteSession : public SqlSession {
   public:
     /// Opens the file, making it for its owner only when there is none, and brings it to the present version;
     /// throws SqlError. An empty path or ":memory:" is a data base of this session alone, which ends with it.
     SqliteSession(const std::string& path, const SqliteSchema& schema, const SqliteOptions& options = {});
 
-    void GiveUp() override;
+    void GiveUp() override { changes_.GiveUp(); }
 
   protected:
     void Transact(SqlMode mode, const Transaction& work) override;
@@ -51,9 +51,8 @@ class SqliteSession : public SqlSession {
 
     std::string path_;
     bool shared_;  ///< whether other connections see the same data
-    std::timed_mutex writing_;
     SqliteDatabase writer_;
-    std::atomic<bool> givenUp_{false};
+    SqliteChanges changes_{writer_};
     std::mutex pooling_;
     std::vector<std::unique_ptr<SqliteDatabase>> idle_;
 };

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/contract/tests/KilledWriter.h"
 
+#include <array>
 #include <csignal>
 #include <random>
+#include <set>
+#include <string>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -107,7 +112,88 @@ void KillOne(const StorageOpener& open, const std::function<void()>& settled, st
     ASSERT_EQ(stored, progress.expected) << "write " << progress.number;
 }
 
+/// Many that write at the same time: which of them made a category, and how many it has made.
+constexpr int kTogether = 8;
+
+std::string NameOf(int thread, int number) {
+    return std::to_string(thread) + "-" + std::to_string(number);
+}
+
+/// The life of the process in which many write: each tells by its number what was confirmed.
+[[noreturn]] void WriteTogetherForEver(const StorageOpener& open, int round, int out) {
+    const auto storage = open();
+    std::vector<std::thread> threads;
+    for (int t = 0; storage != nullptr && t < kTogether; ++t) {
+        threads.emplace_back([&, t] {
+            const std::string owner = "round" + std::to_string(round);
+            const char word = static_cast<char>(t);
+            for (int i = 0; storage->Catalog().CreateCategory(owner, NameOf(t, i)); ++i) {
+                if (write(out, &word, 1) != 1) {
+                    break;
+                }
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    _exit(1);
+}
+
+using Confirmed = std::array<int, kTogether>;
+
+/// How many writes of each were confirmed until the process was killed.
+Confirmed WriteTogetherAndKill(const StorageOpener& open, int round, std::mt19937& random) {
+    Confirmed confirmed{};
+    int ends[2];
+    EXPECT_EQ(pipe(ends), 0);
+    const pid_t writer = fork();
+    if (writer == 0) {
+        close(ends[0]);
+        WriteTogetherForEver(open, round, ends[1]);
+    }
+    close(ends[1]);
+    const int before = 20 + static_cast<int>(random() % 60);
+    char word = 0;
+    for (int count = 0; read(ends[0], &word, 1) == 1; ++count) {
+        ++confirmed.at(static_cast<std::size_t>(word));
+        if (count == before) {
+            kill(writer, SIGKILL);
+        }
+    }
+    close(ends[0]);
+    int status = 0;
+    waitpid(writer, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status)) << "the writers ended by themselves";
+    return confirmed;
+}
+
 }  // namespace
+
+void ExpectKilledGroupsLoseNothingConfirmed(const StorageOpener& open, const std::function<void()>& settled) {
+    std::mt19937 random{20260302};
+    constexpr int kRounds = 12;
+    for (int round = 0; round < kRounds; ++round) {
+        const Confirmed confirmed = WriteTogetherAndKill(open, round, random);
+        settled();
+        const auto storage = open();
+        ASSERT_NE(storage, nullptr);
+        std::set<std::string> stored;
+        const auto catalog = storage->Catalog().LoadCatalog("round" + std::to_string(round));
+        ASSERT_TRUE(catalog) << catalog.GetFault().detail;
+        for (const CategoryRecord& category : catalog.Value()) {
+            EXPECT_TRUE(stored.insert(category.name).second) << category.name << " twice";
+        }
+        std::size_t unconfirmed = stored.size();
+        for (int t = 0; t < kTogether; ++t) {
+            for (int i = 0; i < confirmed.at(static_cast<std::size_t>(t)); ++i, --unconfirmed) {
+                ASSERT_TRUE(stored.contains(NameOf(t, i))) << NameOf(t, i) << " in round " << round;
+            }
+        }
+        // Each had asked for one more at most.
+        EXPECT_LE(unconfirmed, static_cast<std::size_t>(kTogether));
+    }
+}
 
 void ExpectKilledWritersLeaveNoHalfChange(const StorageOpener& open, const std::function<void()>& settled) {
     {

@@ -16,4 +16,8 @@ using StorageOpener = std::function<std::unique_ptr<Storage>()>;
 /// dead process is on its way any more.
 void ExpectKilledWritersLeaveNoHalfChange(const StorageOpener& open, const std::function<void()>& settled);
 
+/// The same with many that write at the same time in each process: all that was confirmed to any of them is
+/// there.
+void ExpectKilledGroupsLoseNothingConfirmed(const StorageOpener& open, const std::function<void()>& settled);
+
 }  // namespace Tarvik::Server

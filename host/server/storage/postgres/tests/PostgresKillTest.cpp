@@ -29,5 +29,9 @@ TEST_F(PostgresKillTest, KilledWriterLeavesEveryConfirmedChangeAndNoHalfOne) {
     ExpectKilledWritersLeaveNoHalfChange([this] { return Open(); }, [this] { WaitForItsTransactions(); });
 }
 
+TEST_F(PostgresKillTest, KilledGroupsLoseNothingConfirmed) {
+    ExpectKilledGroupsLoseNothingConfirmed([this] { return Open(); }, [this] { WaitForItsTransactions(); });
+}
+
 }  // namespace
 }  // namespace Tarvik::Server

@@ -21,5 +21,12 @@ TEST(KillTest, KilledWriterLeavesEveryConfirmedChangeAndNoHalfOne) {
         << error;
 }
 
+TEST(KillTest, KilledGroupsLoseNothingConfirmed) {
+    const TempFolder folder;
+    std::string error;
+    ExpectKilledGroupsLoseNothingConfirmed(
+        [&] { return SqliteStorage::Open(folder.File("voyages.db"), error); }, [] {});
+}
+
 }  // namespace
 }  // namespace Tarvik::Server
