@@ -35,7 +35,7 @@ class HttpServer::Core {
           grace_(io_),
           pause_(io_),
           host_(std::make_shared<HttpHost>(service, limits)),
-          threads_(*host_, limits.workers) {}
+          threads_(*host_) {}
     ~Core() { host_->Abandon(); }
     Core(const Core&) = delete;
     Core& operator=(const Core&) = delete;

@@ -15,7 +15,8 @@ namespace Tarvik::Server {
 struct HttpLimits {
     std::size_t connections = 0;
     std::size_t connectionsPerAddress = 0;  ///< of IPv6: its first 64 bits; 0 for no limit
-    std::size_t workers = 0;                ///< threads that read, and as many that write
+    std::size_t workers = 1;                ///< threads that read
+    std::size_t writers = 1;                ///< threads that change
     std::size_t queue = 0;                  ///< requests that may be with threads or wait for them
     std::chrono::milliseconds idle{};       ///< a connection may be silent for between two requests
     std::chrono::milliseconds request{};    ///< for reading a request, and for writing a reply

@@ -18,8 +18,9 @@ inline constexpr std::size_t kMostLogins = 256;
 /// loading; logins have one, since a password hash takes much memory.
 class HttpThreads {
   public:
-    HttpThreads(HttpHost& host, std::size_t workers)
-        : routes_(std::max<std::size_t>(1, workers / 2)), pools_{{{workers}, {workers}, {routes_}, {1}}} {
+    explicit HttpThreads(HttpHost& host)
+        : routes_(std::max<std::size_t>(1, host.Limits().workers / 2)),
+          pools_{{{host.Limits().workers}, {host.Limits().writers}, {routes_}, {1}}} {
         for (const Lane lane : {Lane::Read, Lane::Write, Lane::Route, Lane::Login}) {
             host.LaneOf(lane).threads = &pools_[static_cast<std::size_t>(lane) - 1].threads;
         }

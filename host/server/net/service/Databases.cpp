@@ -11,8 +11,15 @@ namespace Tarvik::Server {
 
 namespace {
 
-/// Every thread that answers may have a connection, and the one for logins too.
-PostgresOptions PostgresOptionsOf(const Settings& settings) {
+/// Every thread that reads or changes may have a connection.
+PostgresOptions VoyageOptions(const Settings& settings) {
+    PostgresOptions options;
+    options.connections = settings.workers + WritersOf(settings);
+    return options;
+}
+
+/// Of users and sessions the most is known without the data base, so that some wait for a connection.
+PostgresOptions AccountOptions(const Settings& settings) {
     PostgresOptions options;
     options.connections = 2 * settings.workers + 1;
     return options;
@@ -49,7 +56,7 @@ bool PrepareDataFolder(const Settings& settings, std::string& error) {
 std::unique_ptr<AccountStorage> OpenAccounts(const Settings& settings, std::string& error) {
     std::string reason;
     if (!settings.database.empty()) {
-        auto accounts = OpenPostgresAccounts(settings.database, reason, PostgresOptionsOf(settings));
+        auto accounts = OpenPostgresAccounts(settings.database, reason, AccountOptions(settings));
         return Checked<AccountStorage>(std::move(accounts), "the data base " + DescribeData(settings), reason,
                                        error);
     }
@@ -61,7 +68,7 @@ std::unique_ptr<AccountStorage> OpenAccounts(const Settings& settings, std::stri
 std::unique_ptr<SqlStorage> OpenVoyages(const Settings& settings, std::string& error) {
     std::string reason;
     if (!settings.database.empty()) {
-        auto storage = PostgresStorage::Open(settings.database, reason, PostgresOptionsOf(settings));
+        auto storage = PostgresStorage::Open(settings.database, reason, VoyageOptions(settings));
         return Checked<SqlStorage>(std::move(storage), "the data base " + DescribeData(settings), reason,
                                    error);
     }

@@ -32,6 +32,7 @@ HttpLimits HttpLimitsOf(const Settings& settings) {
     limits.connections = static_cast<std::size_t>(settings.maxConnections);
     limits.connectionsPerAddress = static_cast<std::size_t>(settings.maxConnectionsPerAddress);
     limits.workers = static_cast<std::size_t>(settings.workers);
+    limits.writers = static_cast<std::size_t>(WritersOf(settings));
     limits.queue = static_cast<std::size_t>(settings.maxQueue);
     limits.idle = std::chrono::seconds(settings.idleSeconds);
     limits.request = std::chrono::seconds(settings.requestSeconds);

@@ -9,6 +9,9 @@
 
 namespace Tarvik::Server {
 
+/// Threads that read where nothing else is set: one a core, at least two.
+int DefaultWorkers();
+
 /// Everything that an operator sets. The texts of the keys stand in SettingsTable.cpp.
 struct Settings {
     std::string data = "/var/lib/seaplan-server";
@@ -19,7 +22,8 @@ struct Settings {
     std::string tlsCertificate;
     std::string tlsKey;
     bool allowPlain = false;
-    int workers = 2;
+    int workers = DefaultWorkers();
+    int writers = 0;  ///< 0: as WritersOf says
     int sessionHours = 12;
     int loginAttemptsPerUser = 10;
     int loginAttemptsPerAddress = 30;
@@ -33,6 +37,11 @@ struct Settings {
     int stopSeconds = 20;
     bool logRequests = true;
 };
+
+/// Threads that change: as set, else what the storage can use. With files all wait for one disk, whose syncs
+/// they share, so that the more of them may wait the better; with PostgreSQL each has a connection and a
+/// process of the data base.
+int WritersOf(const Settings& settings);
 
 /// One key of the settings.
 struct SettingsEntry {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <arpa/inet.h>
+#include <thread>
 
 #include "host/server/api/Numbers.h"
 #include "host/server/net/settings/Settings.h"
@@ -8,6 +10,8 @@
 namespace Tarvik::Server {
 
 namespace {
+
+constexpr int kMostThreads = 64;
 
 SettingsEntry Text(std::string_view key, std::string Settings::*field, std::string_view meaning) {
     return {key, meaning,
@@ -85,7 +89,9 @@ std::vector<SettingsEntry> MakeTable() {
         Text("tls_key", &Settings::tlsKey, "PEM file of the certificate's key"),
         YesNo("allow_plain", &Settings::allowPlain,
               "listen beyond this machine without TLS, behind a proxy that has it"),
-        Whole("workers", &Settings::workers, 1, 64, "threads that answer exchanges"),
+        Whole("workers", &Settings::workers, 1, kMostThreads, "threads that read for exchanges"),
+        Whole("writers", &Settings::writers, 0, kMostThreads,
+              "threads that change; 0: as many as the storage can use"),
         Whole("session_hours", &Settings::sessionHours, 1, 8760, "a login lasts this long"),
         Whole("login_attempts_per_user", &Settings::loginAttemptsPerUser, 0, 1000000,
               "failed logins of a user name before it has to wait; 0: no limit"),
@@ -107,6 +113,22 @@ std::vector<SettingsEntry> MakeTable() {
 }
 
 }  // namespace
+
+int DefaultWorkers() {
+    constexpr int kLeast = 2;
+    return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), kLeast, kMostThreads);
+}
+
+int WritersOf(const Settings& settings) {
+    constexpr int kWithFiles = 32;
+    constexpr int kLeast = 16;
+    constexpr int kPerCore = 8;
+    if (settings.writers > 0) {
+        return settings.writers;
+    }
+    return settings.database.empty() ? kWithFiles
+                                     : std::clamp(kPerCore * DefaultWorkers(), kLeast, kMostThreads);
+}
 
 const std::vector<SettingsEntry>& SettingsTable() {
     static const std::vector<SettingsEntry> table = MakeTable();
