@@ -55,6 +55,7 @@ class HttpClient::Core {
     using Tls = beast::ssl_stream<beast::tcp_stream>;
 
     void PrepareTls();
+    bool Verify(bool good, net::ssl::verify_context& shown);
     bool IsUsable();
     void Close();
     net::awaitable<void> Talk(const Request& request, AnswerParser& parser, Deadline deadline);
@@ -64,6 +65,7 @@ class HttpClient::Core {
     ServerUrl url_;
     std::chrono::milliseconds limit_;
     std::string caFile_;
+    CertificateFault certificate_ = CertificateFault::None;  ///< of the connection that is made
     net::io_context io_{1};
     std::optional<net::ssl::context> context_;
     std::optional<Plain> plain_;
@@ -79,7 +81,8 @@ void HttpClient::Core::PrepareTls() {
     net::ssl::context context(net::ssl::context::tls_client);
     boost::system::error_code failed;
     context.set_verify_mode(net::ssl::verify_peer);
-    context.set_verify_callback(net::ssl::host_name_verification(url_.host));
+    context.set_verify_callback(
+        [this](bool good, net::ssl::verify_context& shown) { return Verify(good, shown); });
     if (caFile_.empty()) {
         context.set_default_verify_paths(failed);
     } else {
@@ -89,6 +92,22 @@ void HttpClient::Core::PrepareTls() {
         throw std::runtime_error("the trusted certificates " + caFile_ + " cannot be read");
     }
     context_.emplace(std::move(context));
+}
+
+/// Whether a certificate of the chain is taken: the library's judgement, and the host's name at the end of
+/// it. Keeps the first fault.
+bool HttpClient::Core::Verify(bool good, net::ssl::verify_context& shown) {
+    const int error = X509_STORE_CTX_get_error(shown.native_handle());
+    CertificateFault fault = CertificateFault::None;
+    if (!good) {
+        fault = FaultOfVerification(error);
+    } else if (!net::ssl::host_name_verification(url_.host)(good, shown)) {
+        fault = CertificateFault::OtherHost;
+    }
+    if (certificate_ == CertificateFault::None) {
+        certificate_ = fault;
+    }
+    return fault == CertificateFault::None;
 }
 
 /// Between two requests a server has nothing to say: anything to be read is the end of the connection.
@@ -119,6 +138,7 @@ net::awaitable<void> HttpClient::Core::Connect(Deadline deadline) {
         throw std::runtime_error(error);
     }
     if (url_.tls) {
+        certificate_ = CertificateFault::None;
         PrepareTls();
         tls_.emplace(io_, *context_);
         boost::system::error_code named;
@@ -176,6 +196,7 @@ HttpAnswer HttpClient::Core::Send(const Request& request) {
         answer.body = std::move(parser.get().body());
     } catch (const boost::system::system_error& error) {
         answer.failure = WordsOf(error.code());
+        answer.certificate = certificate_;
         Close();
     } catch (const std::exception& error) {
         answer.failure = error.what();

@@ -5,16 +5,18 @@
 #include <memory>
 #include <string>
 
+#include "host/client/remote/CertificateFault.h"
 #include "host/client/remote/ServerUrl.h"
 
 namespace Tarvik::Client {
 
 /// What came of one request.
 struct HttpAnswer {
-    int status = 0;             ///< 0 when there was no answer
-    std::string body;           ///< of an answer
-    std::string failure;        ///< without an answer: why, in English, without a full stop
-    int retryAfterSeconds = 0;  ///< what the server asks to wait, 0 for nothing
+    int status = 0;       ///< 0 when there was no answer
+    std::string body;     ///< of an answer
+    std::string failure;  ///< without an answer: why, in English, without a full stop
+    CertificateFault certificate = CertificateFault::None;  ///< without one: what was wrong with the server's
+    int retryAfterSeconds = 0;                              ///< what the server asks to wait, 0 for nothing
 };
 
 /// One kept connection to a server. A request opens it when it is not open or the server has closed it since;

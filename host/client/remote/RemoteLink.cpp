@@ -71,6 +71,9 @@ bool RemoteLink::Connect(std::string& error) {
 
 std::string RemoteLink::LoginFailure(const HttpAnswer& answer) const {
     const std::string server = "The voyage server " + settings_.url;
+    if (answer.certificate != CertificateFault::None) {
+        return CertificateFailure(answer);
+    }
     if (answer.status == 0) {
         return server + " does not answer (" + answer.failure + "). Check the address and the network.";
     }
@@ -83,6 +86,12 @@ std::string RemoteLink::LoginFailure(const HttpAnswer& answer) const {
     }
     return server + " answers a login with the status " + std::to_string(answer.status) +
            ". Check that the address is one of a voyage server.";
+}
+
+std::string RemoteLink::CertificateFailure(const HttpAnswer& answer) const {
+    const auto url = ServerUrl::Parse(settings_.url);
+    return "The voyage server " + settings_.url + " is not trusted (" + answer.failure + "). " +
+           WordsOf(answer.certificate, url.value_or(ServerUrl()));
 }
 
 std::string RemoteLink::Exchange(const std::string& /*user*/, const Interface::VoyServerRequest& request) {
@@ -101,6 +110,10 @@ std::string RemoteLink::Exchange(const std::string& /*user*/, const Interface::V
 
 std::string RemoteLink::ReadReply(const HttpAnswer& answer) {
     const std::string server = "The voyage server " + settings_.url;
+    if (answer.certificate != CertificateFault::None) {
+        failure_ = CertificateFailure(answer);
+        return {};
+    }
     if (answer.status == 0) {
         failure_ = server + " does not answer (" + answer.failure + ").";
         return {};

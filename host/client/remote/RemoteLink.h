@@ -42,6 +42,7 @@ class RemoteLink : public ServerLink {
 
   private:
     std::string LoginFailure(const HttpAnswer& answer) const;
+    std::string CertificateFailure(const HttpAnswer& answer) const;
     std::string ReadReply(const HttpAnswer& answer);
 
     RemoteSettings settings_;

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <chrono>
+#include <thread>
+
 #include <gtest/gtest.h>
+#include <openssl/x509_vfy.h>
 
 #include "host/client/remote/RemoteLink.h"
 #include "host/server/net/tests/RequestBlock.h"
@@ -13,8 +17,11 @@ namespace {
 class TlsTest : public testing::Test {
   protected:
     TlsTest() {
-        WriteTestCertificate(folder_.File("c.pem"), folder_.File("k.pem"));
         WriteTestCertificate(folder_.File("other.pem"), folder_.File("other-key.pem"));
+        Start({});
+    }
+    void Start(const CertificateKind& kind) {
+        WriteTestCertificate(folder_.File("c.pem"), folder_.File("k.pem"), kind);
         server_ = std::make_unique<TestServer>([this](Settings& settings) {
             settings.tlsCertificate = folder_.File("c.pem");
             settings.tlsKey = folder_.File("k.pem");
@@ -55,6 +62,46 @@ TEST_F(TlsTest, CertificateOfAnotherHostIsRefused) {
     Client::RemoteLink link(SettingsFor("https://localhost", "c.pem"));
     EXPECT_FALSE(link.Connect(error_));
     EXPECT_NE(error_.find("certificate verify failed"), std::string::npos) << error_;
+}
+
+TEST_F(TlsTest, ReasonNamesTheHostAndWhatToDo) {
+    const auto reason = [&](const std::string& host, const std::string& trusted) {
+        Client::RemoteLink link(SettingsFor(host, trusted));
+        EXPECT_FALSE(link.Connect(error_));
+        const std::size_t place = error_.find("). ");
+        return place == std::string::npos ? error_ : error_.substr(place + 3);
+    };
+    EXPECT_EQ(reason("https://localhost", "c.pem"),
+              "The certificate is not one for localhost. Write the address with the name that the server's "
+              "certificate bears.");
+    EXPECT_EQ(reason("https://127.0.0.1", "other.pem"),
+              "The certificate of 127.0.0.1 comes from an authority that this computer does not know. Have "
+              "that authority's certificate added to those that are trusted here, or name its file in "
+              "SEAPLAN_CA_FILE.");
+    Start({-10, 0, {}, 2});
+    std::this_thread::sleep_for(std::chrono::milliseconds(3100));
+    EXPECT_EQ(reason("https://127.0.0.1", "c.pem"),
+              "The certificate of 127.0.0.1 has expired. Check the date of this computer, or have the "
+              "certificate renewed.");
+}
+
+TEST_F(TlsTest, CertificateThatExpiresEndsNoConnectionButTheNext) {
+    Start({-10, 0, {}, 2});
+    Client::RemoteLink link(SettingsFor("https://127.0.0.1", "c.pem"));
+    ASSERT_TRUE(link.Connect(error_)) << error_;
+    std::this_thread::sleep_for(std::chrono::milliseconds(3100));
+    const RequestBlock load(3, 5, "{ui:\"anna\"}");
+    EXPECT_EQ(link.Exchange("anna", *load), "[]") << link.LastFailure();
+    Client::RemoteLink next(SettingsFor("https://127.0.0.1", "c.pem"));
+    EXPECT_FALSE(next.Connect(error_));
+}
+
+TEST(CertificateFault, EveryErrorHasAReason) {
+    const Client::ServerUrl url{true, "office.example", 443};
+    EXPECT_EQ(Client::WordsOf(Client::FaultOfVerification(X509_V_ERR_CERT_NOT_YET_VALID), url),
+              "The certificate of office.example is not valid yet. Check the date of this computer.");
+    EXPECT_EQ(Client::WordsOf(Client::FaultOfVerification(X509_V_ERR_INVALID_PURPOSE), url),
+              "The certificate of office.example is not one to be trusted. Ask whoever runs the server.");
 }
 
 TEST_F(TlsTest, PlainRequestsAreNotAnswered) {

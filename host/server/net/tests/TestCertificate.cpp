@@ -40,7 +40,7 @@ void WriteTestCertificate(const std::string& certificateFile, const std::string&
     X509_set_version(certificate.get(), 2);
     ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), 1);
     X509_gmtime_adj(X509_getm_notBefore(certificate.get()), kDay * kind.fromDays);
-    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), kDay * kind.toDays);
+    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), kDay * kind.toDays + kind.toSeconds);
     X509_set_pubkey(certificate.get(), key.get());
     X509_NAME* name = X509_get_subject_name(certificate.get());
     const auto* text = reinterpret_cast<const unsigned char*>("voyage server under test");

@@ -10,6 +10,7 @@ struct CertificateKind {
     int fromDays = -3650;  ///< from now, where it begins and
     int toDays = 3650;     ///< where it ends
     std::string password;  ///< that its key is encrypted with; empty for none
+    int toSeconds = 0;     ///< more than the days
 };
 
 /// Writes a self-signed certificate for 127.0.0.1 and its new key as PEM files. Throws when that fails.
