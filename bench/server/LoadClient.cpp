@@ -7,10 +7,12 @@
 #include <memory>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 #include <boost/asio/buffer.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/ssl.hpp>
 #include <boost/asio/write.hpp>
 
 namespace Bench {
@@ -31,13 +33,24 @@ struct Load {
     std::size_t answered = 0;
 };
 
+void Connect(tcp::socket& socket, std::uint16_t port) {
+    socket.connect({net::ip::address_v4::loopback(), port});
+    socket.set_option(tcp::no_delay(true));
+}
+
+void Connect(net::ssl::stream<tcp::socket>& stream, std::uint16_t port) {
+    Connect(stream.next_layer(), port);
+    stream.handshake(net::ssl::stream_base::client);
+}
+
 /// One connection. Reads heads by hand: a client that parses more would take the server's processor.
+template <class Stream>
 class Connection {
   public:
-    Connection(net::io_context& io, std::uint16_t port, Load& load, std::size_t first)
-        : socket_(io), load_(load), next_(first) {
-        socket_.connect({net::ip::address_v4::loopback(), port});
-        socket_.set_option(tcp::no_delay(true));
+    template <class... Args>
+    Connection(std::uint16_t port, Load& load, std::size_t first, Args&&... args)
+        : socket_(std::forward<Args>(args)...), load_(load), next_(first) {
+        Connect(socket_, port);
         Send();
     }
 
@@ -83,6 +96,11 @@ class Connection {
         if (have_ < head + 4 + length) {
             return Read();
         }
+        constexpr std::string_view kRefusal = "{\"eid\":";
+        const std::size_t refusal = text.find(kRefusal, head);
+        if (refusal != std::string_view::npos && text[refusal + kRefusal.size()] != '0') {
+            throw std::runtime_error(std::string(text.substr(refusal)));
+        }
         const Clock::time_point now = Clock::now();
         ++load_.answered;
         if (now >= load_.counted) {
@@ -92,7 +110,7 @@ class Connection {
         Send();
     }
 
-    tcp::socket socket_;
+    Stream socket_;
     Load& load_;
     std::size_t next_;
     std::size_t have_ = 0;
@@ -103,15 +121,22 @@ class Connection {
 }  // namespace
 
 LoadResult RunLoad(std::uint16_t port, const std::vector<std::string>& requests, int connections,
-                   std::chrono::milliseconds time) {
+                   std::chrono::milliseconds time, Speech speech) {
+    net::io_context io(1);
+    net::ssl::context tls(net::ssl::context::tls_client);
+    std::vector<std::unique_ptr<Connection<tcp::socket>>> plain;
+    std::vector<std::unique_ptr<Connection<net::ssl::stream<tcp::socket>>>> secret;
     const Clock::time_point begin = Clock::now();
     Load load{requests, begin + time / 4, begin + time, {}, 0, 0};
     load.times.reserve(4'000'000);
-    net::io_context io(1);
-    std::vector<std::unique_ptr<Connection>> all;
-    all.reserve(static_cast<std::size_t>(connections));
     for (int i = 0; i < connections; ++i) {
-        all.push_back(std::make_unique<Connection>(io, port, load, static_cast<std::size_t>(i)));
+        const auto first = static_cast<std::size_t>(i);
+        if (speech == Speech::Plain) {
+            plain.push_back(std::make_unique<Connection<tcp::socket>>(port, load, first, io));
+        } else {
+            secret.push_back(
+                std::make_unique<Connection<net::ssl::stream<tcp::socket>>>(port, load, first, io, tls));
+        }
     }
     io.run();
     if (load.times.empty()) {

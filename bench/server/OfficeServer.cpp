@@ -13,7 +13,6 @@
 #include "host/client/remote/HttpClient.h"
 #include "host/server/net/service/Resources.h"
 #include "host/server/net/service/VoyageServer.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
 #include "host/server/wire/Envelope.h"
 
 namespace Bench {
@@ -77,40 +76,45 @@ std::string Request(const std::string& token, std::uint16_t command, const std::
            body;
 }
 
-}  // namespace
-
-void OfficeServer::Fill(const std::string& database) {
+void Fill(const Settings& settings) {
     std::string error;
-    const auto storage = SqliteStorage::Open(database, error);
+    const auto storage = OpenVoyages(settings, error);
     if (storage == nullptr) {
         throw std::runtime_error(error);
     }
     int next = 0;
-    const auto added =
-        storage->Transfer().AddOwners({{kSmallUser, kLargeUser}, kFirstId, kFirstId + 2 * kVoyages, false},
-                                      [&]() -> Outcome<std::optional<OwnerCopy>> {
-                                          const int place = next++;
-                                          if (place > 1) {
-                                              return std::optional<OwnerCopy>();
-                                          }
-                                          return std::optional(place == 0 ? SmallOwner() : LargeOwner());
-                                      });
+    const CopyManifest manifest{{OfficeServer::kSmallUser, OfficeServer::kLargeUser},
+                                kFirstId,
+                                kFirstId + 2 * OfficeServer::kVoyages,
+                                false};
+    const auto added = storage->Transfer().AddOwners(manifest, [&]() -> Outcome<std::optional<OwnerCopy>> {
+        const int place = next++;
+        if (place > 1) {
+            return std::optional<OwnerCopy>();
+        }
+        return std::optional(place == 0 ? SmallOwner() : LargeOwner());
+    });
     if (!added || !added.Value().idsKept) {
         throw std::runtime_error("the data base cannot be filled");
     }
 }
 
-void OfficeServer::Serve(const std::string& folder, bool logRequests, const ChildProcess::Ready& ready) {
+}  // namespace
+
+void OfficeServer::Serve(const OfficePlace& place, const ChildProcess::Ready& ready) {
     const int nowhere = ::open("/dev/null", O_WRONLY);
     ::dup2(nowhere, STDERR_FILENO);
-    Fill(folder + "/voyages.db");
     Settings settings;
-    settings.data = folder;
+    settings.data = place.folder;
+    settings.database = place.database;
+    settings.tlsCertificate = place.certificate;
+    settings.tlsKey = place.key;
     settings.port = 0;
-    settings.logRequests = logRequests;
+    settings.logRequests = place.logRequests;
     settings.maxConnections = 6000;
     settings.maxConnectionsPerAddress = 0;
     settings.idleSeconds = 3600;
+    Fill(settings);
     ServerParts parts;
     parts.routes = std::make_unique<NoRoutes>();
     parts.passwordCost = kCheap;
@@ -129,12 +133,13 @@ void OfficeServer::Serve(const std::string& folder, bool logRequests, const Chil
     server->Run();
 }
 
-std::string OfficeServer::LogIn(std::uint16_t port, const std::string& user) {
-    const auto parsed = Tarvik::Client::ServerUrl::Parse(fmt::format("http://127.0.0.1:{}", port));
+std::string OfficeServer::LogIn(std::uint16_t port, const std::string& user, const std::string& certificate) {
+    const char* scheme = certificate.empty() ? "http" : "https";
+    const auto parsed = Tarvik::Client::ServerUrl::Parse(fmt::format("{}://127.0.0.1:{}", scheme, port));
     if (!parsed) {
         throw std::runtime_error("no address");
     }
-    Tarvik::Client::HttpClient http(*parsed, std::chrono::seconds(15), {});
+    Tarvik::Client::HttpClient http(*parsed, std::chrono::seconds(15), certificate);
     const std::string body = fmt::format(R"({{"user":"{}","password":"{}"}})", user, kPassword);
     const auto answer = http.Post("/v1/login", "application/json", body, {});
     const std::string mark = "\"token\":\"";
@@ -150,6 +155,21 @@ std::vector<std::string> OfficeServer::SmallReads(const std::string& token) {
     const std::string voyage = fmt::format("{{vi:\"{}\"}}", kFirstId + 1);
     return {Request(token, 3, fmt::format("{{ui:\"{}\"}}", kSmallUser)), Request(token, 10, voyage),
             Request(token, 12, voyage), Request(token, 7, voyage)};
+}
+
+std::int64_t OfficeServer::FirstVoyage() {
+    return kFirstId + 7;
+}
+
+std::vector<std::string> OfficeServer::SmallWrites(const std::string& token) {
+    std::vector<std::string> requests;
+    for (int i = 0; i < kVoyagesInARow; ++i) {
+        const std::string figures =
+            fmt::format(R"({{vi:"{}",vfn:"30",vff:"28",vfa:"5",vdn:"2",vda:"2",vwn:"{}",vwa:"10"}})",
+                        FirstVoyage() + i, i);
+        requests.push_back(Request(token, 6, figures));
+    }
+    return requests;
 }
 
 }  // namespace Bench

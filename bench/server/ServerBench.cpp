@@ -7,6 +7,7 @@
 #include <exception>
 #include <functional>
 #include <iostream>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -18,6 +19,7 @@
 #include "bench/server/IdleClients.h"
 #include "bench/server/LoadClient.h"
 #include "bench/server/OfficeServer.h"
+#include "bench/server/WriteBench.h"
 #include "host/server/storage/sqlite/tests/TempFolder.h"
 
 namespace {
@@ -80,9 +82,10 @@ void MeasureReads() {
                    [](const auto& ready) { ServeEchoes(Lane::Inline, ready); }),
         Contestant("echo, by the pool", [](const auto& ready) { ServeEchoes(Lane::Read, ready); }),
         Contestant("small reads, without request log",
-                   [&](const auto& ready) { OfficeServer::Serve(quiet.File("."), false, ready); }),
-        Contestant("small reads, with request log",
-                   [&](const auto& ready) { OfficeServer::Serve(logged.File("."), true, ready); })};
+                   [&](const auto& ready) { OfficeServer::Serve({quiet.File(".")}, ready); }),
+        Contestant("small reads, with request log", [&](const auto& ready) {
+            OfficeServer::Serve({logged.File("."), true}, ready);
+        })};
     for (std::size_t i = 0; i < all.size(); ++i) {
         const std::string token =
             i < 2 ? std::string(43, 'x') : OfficeServer::LogIn(all[i].Port(), OfficeServer::kSmallUser);
@@ -109,8 +112,7 @@ void MeasureIdleClients() {
         return;
     }
     const TempFolder folder;
-    const ChildProcess server(
-        [&](const auto& ready) { OfficeServer::Serve(folder.File("."), false, ready); });
+    const ChildProcess server([&](const auto& ready) { OfficeServer::Serve({folder.File(".")}, ready); });
     const std::string token = OfficeServer::LogIn(server.Port(), OfficeServer::kSmallUser);
     const std::string request = OfficeServer::SmallReads(token)[1];
     const std::size_t before = server.ResidentBytes();
@@ -126,8 +128,7 @@ void MeasureCatalog() {
     const TempFolder folder;
     CatalogTimes remote;
     {
-        const ChildProcess server(
-            [&](const auto& ready) { OfficeServer::Serve(folder.File("."), false, ready); });
+        const ChildProcess server([&](const auto& ready) { OfficeServer::Serve({folder.File(".")}, ready); });
         remote = LoadFromServer(server.Port(), 15);
     }
     const CatalogTimes embedded = LoadFromFile(folder.File("voyages.db"), 15);
@@ -141,11 +142,22 @@ void MeasureCatalog() {
 
 }  // namespace
 
-int main() {
+/// Without words measures all, else what they name: reads, idle, catalog, writes, tls.
+int main(int count, char** words) {
+    const std::vector<std::pair<std::string_view, void (*)()>> all = {{"reads", MeasureReads},
+                                                                      {"idle", MeasureIdleClients},
+                                                                      {"catalog", MeasureCatalog},
+                                                                      {"writes", MeasureWrites},
+                                                                      {"tls", MeasureTls}};
+    // The benchmarks beside this one take options, which are given to all.
+    std::vector<std::string_view> named(words + 1, words + count);
+    std::erase_if(named, [](std::string_view word) { return word.starts_with("-"); });
     try {
-        MeasureReads();
-        MeasureIdleClients();
-        MeasureCatalog();
+        for (const auto& [name, measure] : all) {
+            if (named.empty() || std::find(named.begin(), named.end(), name) != named.end()) {
+                measure();
+            }
+        }
         return 0;
     } catch (const std::exception& failure) {
         std::cerr << "server_bench: " << failure.what() << "\n";
