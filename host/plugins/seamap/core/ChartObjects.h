@@ -11,6 +11,7 @@
 
 #include <tarvik/interface/ChartRecords.h>
 
+#include "host/plugins/seamap/core/ChartShips.h"
 #include "host/plugins/seamap/core/Projection.h"
 
 namespace Tarvik::Seamap {
@@ -85,8 +86,15 @@ class ChartObjects {
     /// All points of all objects.
     std::vector<GeoPoint> Points() const;
 
-    /// Called after each change; an empty function ends it.
-    void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
+    /// The ships, which are drawn below all objects.
+    ChartShips& Ships() { return ships_; }
+    const ChartShips& Ships() const { return ships_; }
+
+    /// Called after each change, of ships too; an empty function ends it.
+    void SetObserver(std::function<void()> observer) {
+        ships_.SetObserver(observer);
+        observer_ = std::move(observer);
+    }
 
   private:
     void Put(const Interface::TrvMapObjectRef& ref, std::variant<ChartLine, ChartLabel, ChartImage> shape);
@@ -98,6 +106,7 @@ class ChartObjects {
     std::map<ObjectKey, std::uint64_t> places_;
     std::map<std::uint64_t, ChartObject> objects_;
     std::uint64_t next_ = 0;
+    ChartShips ships_;
     std::function<void()> observer_;
 };
 

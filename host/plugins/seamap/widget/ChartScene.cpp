@@ -20,17 +20,27 @@ void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelR
     painter.drawPixmap(0, 0, base_.Picture(view, *palette_, pixelRatio));
     const Furniture furniture(view, *palette_, texts_);
     LabelRoom room;
+    shipPainter_.Draw(
+        painter, objects_.Ships(), view, *palette_, pixelRatio,
+        highlighted ? std::pair(highlighted->type, highlighted->id) : std::pair<std::string, std::string>());
     ObjectPainter(painter, view, *palette_, images_, texts_, room, pixelRatio).Draw(objects_, highlighted);
     furniture.Reserve(room);
     names_.Draw(painter, view, *palette_, texts_, room);
     furniture.Draw(painter);
 }
 
-const ChartObject* ChartScene::At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio) {
+std::optional<ChartScene::Met> ChartScene::At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio) {
     const auto halfSize = [this, pixelRatio](const std::string& name) {
         return images_.HalfSize(name, objects_.ImagePath(name), pixelRatio);
     };
-    return HitTest(objects_, view, halfSize).At(pixel);
+    const ChartObject* object = HitTest(objects_, view, halfSize).At(pixel);
+    if (!object || std::holds_alternative<ChartLine>(object->shape)) {
+        if (const ChartShip* ship = objects_.Ships().At(pixel, view)) {
+            return Met{{"", ship->type, ship->id},
+                       QString::fromStdString(ship->tip + "\n" + FormatPosition(ship->position))};
+        }
+    }
+    return object ? std::optional(Met{object->key, TipOf(*object)}) : std::nullopt;
 }
 
 QString ChartScene::TipOf(const ChartObject& object) {

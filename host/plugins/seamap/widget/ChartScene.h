@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "host/plugins/seamap/core/ChartObjects.h"
 #include "host/plugins/seamap/core/ChartPalette.h"
@@ -10,6 +11,7 @@
 #include "host/plugins/seamap/widget/HaloTexts.h"
 #include "host/plugins/seamap/widget/ImageStore.h"
 #include "host/plugins/seamap/widget/NameLayer.h"
+#include "host/plugins/seamap/widget/ShipPainter.h"
 
 namespace Tarvik::Seamap {
 
@@ -28,20 +30,26 @@ class ChartScene {
 
     /// `highlighted` is the object under the pointer, null without one.
     void Paint(QPainter& painter, const MercatorView& view, qreal pixelRatio, const ObjectKey* highlighted);
-    /// The object under a pixel, null without one.
-    const ChartObject* At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio);
-    /// What is told of an object to someone who points at it; empty for a line.
-    static QString TipOf(const ChartObject& object);
+    /// What lies under a pixel.
+    struct Met {
+        ObjectKey key;
+        QString tip;  ///< what is told of it to someone who points at it; empty for a line
+    };
+    /// The object or ship under a pixel: points and images before ships, ships before lines.
+    std::optional<Met> At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio);
     /// The extent that holds all objects; the inhabited world without any.
     Extent ExtentOfAll() const;
 
   private:
+    static QString TipOf(const ChartObject& object);
+
     const ChartObjects& objects_;
     const ChartPalette* palette_ = &ChartPalette::Of(ChartPalette::Theme::Light);
     BaseLayer base_;
     ImageStore images_;
     HaloTexts texts_;
     NameLayer names_;
+    ShipPainter shipPainter_;
 };
 
 }  // namespace Tarvik::Seamap

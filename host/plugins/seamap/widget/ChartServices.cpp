@@ -8,6 +8,7 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/LoadString.h>
 #include <tarvik/util/StringUtl.h>
@@ -53,6 +54,8 @@ void ChartServices::OfferObjects() {
     bindings_.Keep(Offer(Bus::MapRegisterImage, [this](const Interface::TrvMapImageReg& image) {
         objects_.RegisterImage(image.name, image.path);
     }));
+    bindings_.Keep(Offer(Bus::MapSetShips,
+                         [this](const Interface::TrvMapShips& ships) { objects_.Ships().Set(ships); }));
     bindings_.Keep(Offer(Bus::MapDeleteObjects,
                          [this](const Interface::TrvMapObjectList& list) { objects_.Remove(list); }));
     bindings_.Keep(Offer(Bus::MapDeleteObjectsByType, [this](const Interface::TrvMapObjectRef& ref) {

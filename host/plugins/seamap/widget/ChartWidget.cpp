@@ -70,10 +70,10 @@ bool ChartWidget::event(QEvent* event) {
         return QWidget::event(event);
     }
     const auto* help = static_cast<QHelpEvent*>(event);
-    const ChartObject* object =
+    const auto met =
         scene_.At({double(help->pos().x()), double(help->pos().y())}, View(), devicePixelRatioF());
-    if (object) {
-        QToolTip::showText(help->globalPos(), ChartScene::TipOf(*object), this);
+    if (met) {
+        QToolTip::showText(help->globalPos(), met->tip, this);
     } else {
         QToolTip::hideText();
     }
@@ -130,10 +130,8 @@ void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (!click) {
         return;
     }
-    if (const ChartObject* object = scene_.At(pixel, View(), devicePixelRatioF())) {
-        // The one who hears of the click may remove the object.
-        const ObjectKey key = object->key;
-        emit ObjectClicked(key);
+    if (const auto met = scene_.At(pixel, View(), devicePixelRatioF())) {
+        emit ObjectClicked(met->key);
     }
 }
 
@@ -191,9 +189,12 @@ void ChartWidget::focusOutEvent(QFocusEvent*) {
 }
 
 void ChartWidget::Point(std::optional<PixelPoint> pixel) {
-    const ChartObject* object =
-        pixel && !press_.drags ? scene_.At(*pixel, View(), devicePixelRatioF()) : nullptr;
-    const std::optional<ObjectKey> key = object ? std::optional(object->key) : std::nullopt;
+    std::optional<ObjectKey> key;
+    if (pixel && !press_.drags) {
+        if (const auto met = scene_.At(*pixel, View(), devicePixelRatioF())) {
+            key = met->key;
+        }
+    }
     if (!press_.drags) {
         setCursor(key ? Qt::PointingHandCursor : Qt::OpenHandCursor);
     }

@@ -27,7 +27,7 @@ struct TrvMapShip {
 /// Argument of TRV_MAP_SET_SHIPS: all ships of one kind.
 struct TrvMapShips {
     std::string type;               ///< behind "TRV_MAP_LCLICK_" it names the event of a click
-    std::vector<TrvMapShip> ships;  ///< later ones above earlier ones
+    std::vector<TrvMapShip> ships;  ///< where many stand at one place, one is drawn
 };
 
 /// A page that a plug-in adds to the client's preferences.

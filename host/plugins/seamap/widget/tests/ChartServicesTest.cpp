@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 #include <memory>
 
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/Binding.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/core/TrvKernel.h>
@@ -123,6 +128,45 @@ TEST_F(ChartServicesTest, ObjectsComeAndGoOverTheBus) {
     Call(Chart::MapRemoveLayer, &name);
     EXPECT_EQ(objects.Count(), 0u);
     EXPECT_FALSE(objects.HasLayer("VOYAGE"));
+}
+
+TEST_F(ChartServicesTest, ShipsAreDrawnMetAndTakenAway) {
+    ChartWidget& widget = Chart();
+    const PixelPoint pixel = widget.View().ToScreen(GeoPoint{32, 30});
+    const QPoint at(qRound(pixel.x), qRound(pixel.y));
+    const QRgb sea = widget.grab().toImage().pixel(at);
+    const Interface::TrvMapShips ships{"AISFEEDTYPE", {{"123456789", "ALPHA", 32, 30, 90, 0x2828B4}}};
+    Call(Chart::MapSetShips, &ships);
+    EXPECT_NE(widget.grab().toImage().pixel(at), sea);
+    std::vector<std::string> ids;
+    const auto clicks =
+        Interface::Subscribe(Chart::ClickFeedShip, [&ids](const std::string& id) -> const char* {
+            ids.push_back(id);
+            return nullptr;
+        });
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, at);
+    EXPECT_EQ(ids, std::vector<std::string>{"123456789"});
+    QHelpEvent help(QEvent::ToolTip, at, widget.mapToGlobal(at));
+    QApplication::sendEvent(&widget, &help);
+    EXPECT_TRUE(QToolTip::text().startsWith("ALPHA\n")) << QToolTip::text().toStdString();
+    const Interface::TrvMapShips none{"AISFEEDTYPE", {}};
+    Call(Chart::MapSetShips, &none);
+    QTest::mouseMove(&widget, {1, 1});
+    EXPECT_EQ(widget.grab().toImage().pixel(at), sea);
+}
+
+TEST_F(ChartServicesTest, PointIsMetBeforeAShip) {
+    Listener listener;
+    listener.delegate.Set<&Listener::Hear>(&listener);
+    Core::TrvKernel::Instance()->BindTrvEvent(Chart::ClickVoyageType.name, &listener.delegate);
+    ChartWidget& widget = Chart();
+    const Interface::TrvMapShips ships{"AISFEEDTYPE", {{"1", "", 32, 30, 90, 0}}};
+    Call(Chart::MapSetShips, &ships);
+    AddLabel("7", "VOYAGETYPE");
+    const PixelPoint pixel = widget.View().ToScreen(GeoPoint{32, 30});
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, {qRound(pixel.x), qRound(pixel.y)});
+    EXPECT_EQ(listener.ids, std::vector<std::string>{"7"});
+    Core::TrvKernel::Instance()->UnBindTrvEvent(Chart::ClickVoyageType.name, &listener.delegate);
 }
 
 TEST_F(ChartServicesTest, AClickRaisesTheEventOfTheTypeWithTheId) {
