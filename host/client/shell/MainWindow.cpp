@@ -15,6 +15,7 @@
 
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/skin/WindowMessages.h>
 
@@ -68,6 +69,7 @@ std::vector<MainTools::Tool> MainWindow::Tools() {
     return {
         {"VOYAGES", "voyages", "Ctrl+L", [this] { TogglePanel(kVoyages); }},
         {"DISTANCES", "distances", "Ctrl+D", [this] { TogglePanel(kDistances); }, true},
+        {"SHIPS", "ships", "Ctrl+B", [] { ToggleShips(); }},
         {"ZOOM_IN", "zoomin", "Ctrl++", [this] { ChartCommand("zoomin"); }},
         {"ZOOM_OUT", "zoomout", "Ctrl+-", [this] { ChartCommand("zoomout"); }},
         {"FIT", "fit", "Ctrl+0", [this] { ChartCommand("fit"); }, true},
@@ -113,6 +115,7 @@ void MainWindow::ApplyTheme() {
 
 void MainWindow::AttachPlugins() {
     tools_.Action("DISTANCES")->setVisible(Interface::IsOffered(Interface::Bus::AddPortName));
+    tools_.Action("SHIPS")->setVisible(Interface::IsOffered(Interface::Bus::ShowShips));
     AttachChart();
 }
 
@@ -174,6 +177,15 @@ void MainWindow::OpenPreferences() {
     PreferencesDialog dialog(this, session_.Texts(), session_.Preferred());
     if (dialog.exec() == QDialog::Accepted) {
         Prefer(dialog.Chosen());
+        dialog.TakePages();
+    }
+}
+
+void MainWindow::ToggleShips() {
+    const bool* shown = Interface::Call(Interface::Bus::ShowShips, nullptr);
+    if (shown) {
+        const bool other = !*shown;
+        Interface::Call(Interface::Bus::ShowShips, &other);
     }
 }
 

@@ -57,6 +57,8 @@ class MainWindow : public QMainWindow {
     void NextTheme();
     void NextLanguage();
     void OpenPreferences();
+    /// Shows the ships of the feed, or hides them.
+    static void ToggleShips();
     QString Word(const char* key) const;
     /// Text of a tool's key; the names of languages come from their files.
     QString ToolWord(const char* key) const;

@@ -8,8 +8,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTimeZone>
+#include <QVBoxLayout>
+#include <utility>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/util/DateTimeUtl.h>
 
 namespace Tarvik::Client {
@@ -37,12 +41,22 @@ PreferencesDialog::PreferencesDialog(QWidget* parent, const LanguageFiles& texts
     setObjectName("preferences");
     setWindowTitle(QString::fromStdString(texts.Text("Client", "PREFERENCES")));
     setMinimumWidth(420);
+    auto* column = new QVBoxLayout(this);
+    tabs_ = new QTabWidget(this);
+    tabs_->setObjectName("preferencesTabs");
+    tabs_->setTabBarAutoHide(true);
+    tabs_->setDocumentMode(true);
+    column->addWidget(tabs_);
     BuildFields(texts);
+    AddPages();
+    AddButtons(texts);
 }
 
 void PreferencesDialog::BuildFields(const LanguageFiles& texts) {
     const auto word = [&texts](const char* key) { return QString::fromStdString(texts.Text("Client", key)); };
-    auto* form = new QFormLayout(this);
+    auto* general = new QWidget(this);
+    tabs_->addTab(general, word("PREF_GENERAL"));
+    auto* form = new QFormLayout(general);
     form->setSpacing(8);
     language_ = new QComboBox(this);
     for (const Language& language : texts.Offered()) {
@@ -74,6 +88,25 @@ void PreferencesDialog::BuildFields(const LanguageFiles& texts) {
     note("PREF_ZONE_NOTE", "zoneNote");
     row("PREF_SERVER", "serverAddress", server_);
     note("PREF_SERVER_NOTE", "serverNote");
+}
+
+void PreferencesDialog::AddPages() {
+    Interface::PreferencePages asked{this, {}};
+    Interface::Raise(Interface::Bus::OpenPreferences, &asked);
+    pages_ = std::move(asked.pages);
+    for (const Interface::PreferencePage& page : pages_) {
+        tabs_->addTab(page.page, QString::fromStdString(page.title));
+    }
+    fault_ = new QLabel(this);
+    fault_->setObjectName("pageFault");
+    fault_->setWordWrap(true);
+    fault_->setTextFormat(Qt::PlainText);
+    fault_->hide();
+    layout()->addWidget(fault_);
+}
+
+void PreferencesDialog::AddButtons(const LanguageFiles& texts) {
+    const auto word = [&texts](const char* key) { return QString::fromStdString(texts.Text("Client", key)); };
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setText(word("OK"));
     buttons->button(QDialogButtonBox::Ok)->setObjectName("preferencesOk");
@@ -81,7 +114,7 @@ void PreferencesDialog::BuildFields(const LanguageFiles& texts) {
     buttons->button(QDialogButtonBox::Cancel)->setObjectName("preferencesCancel");
     connect(buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::Agree);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    form->addRow(buttons);
+    layout()->addWidget(buttons);
 }
 
 void PreferencesDialog::Agree() {
@@ -94,10 +127,33 @@ void PreferencesDialog::Agree() {
     if (!server.empty() && !IsServerAddress(server)) {
         return AskAgain(server_);
     }
-    accept();
+    if (ArePagesRight()) {
+        accept();
+    }
+}
+
+bool PreferencesDialog::ArePagesRight() {
+    for (const Interface::PreferencePage& page : pages_) {
+        const QString fault = QString::fromStdString(page.check());
+        if (!fault.isEmpty()) {
+            tabs_->setCurrentWidget(page.page);
+            fault_->setText(fault);
+            fault_->show();
+            return false;
+        }
+    }
+    fault_->hide();
+    return true;
+}
+
+void PreferencesDialog::TakePages() const {
+    for (const Interface::PreferencePage& page : pages_) {
+        page.take();
+    }
 }
 
 void PreferencesDialog::AskAgain(QLineEdit* field) {
+    tabs_->setCurrentIndex(0);
     field->setFocus();
     field->selectAll();
 }

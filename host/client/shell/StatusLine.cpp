@@ -13,6 +13,8 @@ namespace Tarvik::Client {
 
 namespace {
 
+constexpr int kOnTheLeft = 2;  ///< labels there: user and connection
+
 QLabel* MakeLabel(QStatusBar& line, const char* name) {
     auto* label = new QLabel(&line);
     label->setObjectName(name);
@@ -22,7 +24,8 @@ QLabel* MakeLabel(QStatusBar& line, const char* name) {
 }  // namespace
 
 StatusLine::StatusLine(QStatusBar& line, ClientSession& session)
-    : session_(session),
+    : line_(line),
+      session_(session),
       user_(MakeLabel(line, "user")),
       connection_(MakeLabel(line, "connection")),
       cursor_(MakeLabel(line, "cursorPosition")),
@@ -38,6 +41,8 @@ StatusLine::StatusLine(QStatusBar& line, ClientSession& session)
                                         [this](const Interface::ChartPlace& place) { ShowCursor(place); }));
     bindings_.Keep(Interface::Subscribe(Interface::Bus::SwitchTimeZone,
                                         [this](const std::string* zone) { ShowZone(zone); }));
+    bindings_.Keep(Interface::Subscribe(Interface::Bus::TellStatus,
+                                        [this](const Interface::StatusWord& word) { ShowWord(word); }));
 }
 
 QString StatusLine::Word(const char* key) const {
@@ -90,6 +95,18 @@ void StatusLine::ShowZone(const std::string* zone) {
     // Times of the outage are told in the zone too.
     ShowConnection();
     zone_->setText(QString::fromStdString(zone ? *zone : session_.Services().TimeZone()));
+}
+
+void StatusLine::ShowWord(const Interface::StatusWord& word) {
+    QLabel*& label = words_[word.owner];
+    if (label == nullptr) {
+        label = MakeLabel(line_, ("word_" + word.owner).c_str());
+        label->setTextFormat(Qt::PlainText);
+        line_.insertPermanentWidget(kOnTheLeft, label);
+    }
+    label->setText(QString::fromStdString(word.text));
+    label->setToolTip(QString::fromStdString(word.tip));
+    label->setVisible(!word.text.empty());
 }
 
 }  // namespace Tarvik::Client

@@ -2,10 +2,13 @@
 #pragma once
 
 #include <QLabel>
+#include <map>
+#include <string>
 
 #include <tarvik/bus/BindingList.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/PlacesContract.h>
 
 #include "host/client/session/ClientSession.h"
 
@@ -29,12 +32,16 @@ class StatusLine {
     QString TimeText(const Util::_datetime_t& utc) const;
     void ShowCursor(const Interface::ChartPlace& place);
     void ShowZone(const std::string* zone);
+    /// A plug-in's word; each plug-in has one label, made with its first word.
+    void ShowWord(const Interface::StatusWord& word);
 
+    QStatusBar& line_;
     ClientSession& session_;
     QLabel* user_;
     QLabel* connection_;
     QLabel* cursor_;
     QLabel* zone_;
+    std::map<std::string, QLabel*> words_;  ///< by owner
     bool cursorKnown_ = false;
     Interface::BindingList bindings_;
 };

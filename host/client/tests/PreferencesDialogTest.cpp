@@ -3,8 +3,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <string>
 
 #include <gtest/gtest.h>
+
+#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/PlacesContract.h>
 
 #include "host/client/shell/PreferencesDialog.h"
 #include "host/client/tests/TemporaryFolder.h"
@@ -73,6 +79,50 @@ TEST_F(PreferencesDialogTest, SaysWhatTheServersFieldTakes) {
 
 TEST_F(PreferencesDialogTest, SaysWhatAnotherZoneDoes) {
     EXPECT_EQ(dialog_.findChild<QLabel*>("zoneNote")->text(), "PREF_ZONE_NOTE");
+}
+
+/// A plug-in with one page on which a word is typed.
+class PageOfAPlugin {
+  public:
+    std::string taken;
+
+  private:
+    void Add(Interface::PreferencePages& pages) {
+        auto* field = new QLineEdit(pages.parent);
+        field->setObjectName("pluginField");
+        pages.pages.push_back(
+            {"Plug-in", field,
+             [field] { return field->text() == "bad" ? std::string("This is bad") : std::string(); },
+             [this, field] { taken = field->text().toStdString(); }});
+    }
+    Interface::Binding binding_ =
+        Interface::Subscribe(Interface::Bus::OpenPreferences, this, &PageOfAPlugin::Add);
+};
+
+TEST_F(PreferencesDialogTest, PageOfAPluginHasATabAndIsTakenWhenThePersonAgreed) {
+    PageOfAPlugin plugin;
+    PreferencesDialog dialog(nullptr, texts_, current_);
+    dialog.show();
+    const auto* tabs = dialog.findChild<QTabWidget*>("preferencesTabs");
+    ASSERT_EQ(tabs->count(), 2);
+    EXPECT_EQ(tabs->tabText(1), "Plug-in");
+    auto* field = dialog.findChild<QLineEdit*>("pluginField");
+    field->setText("bad");
+    dialog.findChild<QPushButton*>("preferencesOk")->click();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(tabs->currentWidget(), field);
+    EXPECT_EQ(dialog.findChild<QLabel*>("pageFault")->text(), "This is bad");
+    field->setText("good");
+    dialog.findChild<QPushButton*>("preferencesOk")->click();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(plugin.taken, "") << "the caller says when";
+    dialog.TakePages();
+    EXPECT_EQ(plugin.taken, "good");
+}
+
+TEST_F(PreferencesDialogTest, WithoutPagesThereAreNoTabs) {
+    dialog_.show();
+    EXPECT_FALSE(dialog_.findChild<QTabBar*>()->isVisible());
 }
 
 }  // namespace

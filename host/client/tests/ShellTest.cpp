@@ -10,6 +10,7 @@
 #include <tarvik/bus/Binding.h>
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/PlacesContract.h>
 
 #include "host/client/shell/MainWindow.h"
 #include "host/client/tests/TemporaryFolder.h"
@@ -54,6 +55,39 @@ TEST_F(ShellTest, TheStatusLineTellsAnOutageAndItsEnd) {
     EXPECT_EQ(window.findChild<QLabel*>("connection")->toolTip(), "The voyage server does not answer.");
     session_->Services().Watch().NoteAnswer(true);
     EXPECT_TRUE(Shown(window, "connection").startsWith("Connected again since "));
+}
+
+TEST_F(ShellTest, TheStatusLineHasAWordOfEachPlugin) {
+    const MainWindow window(*session_);
+    const auto tell = [](const Interface::StatusWord& word) {
+        Interface::Raise(Interface::Bus::TellStatus, &word);
+    };
+    tell({"ais", "AIS 5/min", "more"});
+    tell({"fleet", "6 ships", ""});
+    tell({"ais", "AIS <b>6/min", "still more"});
+    EXPECT_EQ(Shown(window, "word_ais"), "AIS <b>6/min");
+    EXPECT_EQ(window.findChild<QLabel*>("word_ais")->toolTip(), "still more");
+    EXPECT_EQ(Shown(window, "word_fleet"), "6 ships");
+    tell({"ais", "", ""});
+    EXPECT_TRUE(window.findChild<QLabel*>("word_ais")->isHidden());
+}
+
+TEST_F(ShellTest, TheShipsToolIsThereForAPluginThatHasShipsAndTurnsThem) {
+    MainWindow window(*session_);
+    const auto* tool = window.findChild<QAction*>("action_ships");
+    window.AttachPlugins();
+    EXPECT_FALSE(tool->isVisible());
+    bool shown = true;
+    const auto ships = Interface::Offer(Interface::Bus::ShowShips, [&shown](const bool* wanted) {
+        shown = wanted ? *wanted : shown;
+        return &shown;
+    });
+    window.AttachPlugins();
+    EXPECT_TRUE(tool->isVisible());
+    window.findChild<QAction*>("action_ships")->trigger();
+    EXPECT_FALSE(shown);
+    window.findChild<QAction*>("action_ships")->trigger();
+    EXPECT_TRUE(shown);
 }
 
 TEST_F(ShellTest, TheZoneLabelIsTheZoneOfTheTimesOnShow) {
