@@ -12,6 +12,7 @@ VoyController::VoyController(VoyPortCallModule* module, VoyCatalogController* ca
       loader_(module, catalog, store),
       calculator_(module, store),
       saver_(module, store, loader_.Chart()),
+      books_(module, store, loader_),
       correction_(module, store, calculator_),
       watch_(catalog, store),
       timer_([this] { OnTimer(); }) {}
@@ -81,6 +82,14 @@ int VoyController::SaveSchedule(const std::string& vi, const PortCallRows& rows,
     const auto saved = saver_.Save(vi, rows, DrawModeOf(drawMode).value_or(DrawMode::Nothing));
     fault_ = saved.Failed() ? FaultOf(saved.At(), rows) : ScheduleFault();
     return kSaveScheduleCodes.Of(saved);
+}
+
+int VoyController::GetPosBookData(const std::string& vi, PosBookData& out) {
+    return kGetPosBookCodes.Of(books_.Get(vi, out));
+}
+
+int VoyController::SavePositionBook(const std::string& vi, const PosBookData& book) {
+    return kSavePosBookCodes.Of(books_.Save(vi, book));
 }
 
 int VoyController::MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) {

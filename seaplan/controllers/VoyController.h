@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "seaplan/controllers/PositionBooks.h"
 #include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/controllers/ScheduleLoading.h"
 #include "seaplan/controllers/ScheduleSaving.h"
@@ -18,7 +19,7 @@ namespace Tarvik::Seaplan {
 /// at the operation gives; the store changes only after the server agreed. Rows are in knots, nautical miles
 /// and hours.
 ///
-/// It has more than 25 operations because the panels' contract asks for 27 by name on this one class.
+/// It has more than 25 operations because the panels' contract asks for 29 by name on this one class.
 class VoyController {
   public:
     /// Keeps its collaborators, which outlive it.
@@ -60,6 +61,11 @@ class VoyController {
     /// Whether SaveSchedule finds a route or a book of these rows' ports, in their order; else they are to be
     /// calculated first.
     bool HasRouteFor(const std::string& vi, const PortCallRows& rows) { return saver_.HasRouteFor(vi, rows); }
+    /// A voyage's position book by port, in km/h and UTC: kGetPosBookCodes.
+    int GetPosBookData(const std::string& vi, PosBookData& out);
+    /// The shaped book with its port calls to the server, then into the record, without drawing:
+    /// kSavePosBookCodes.
+    int SavePositionBook(const std::string& vi, const PosBookData& book);
     /// Why the last calculation or save failed.
     const ScheduleFault& LastFault() const { return fault_; }
     /// A new list. -1 when the insertion, -2 when the removal fails; then `out` is empty.
@@ -115,6 +121,7 @@ class VoyController {
     ScheduleLoader loader_;
     ScheduleCalculator calculator_;
     ScheduleSaver saver_;
+    PositionBooks books_;
     VoyageCorrection correction_;
     VesselWatch watch_;
     ScheduleFault fault_;
