@@ -2,7 +2,9 @@
 #include "seaplan/calculation/book/BookChecks.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
@@ -18,17 +20,9 @@ constexpr double kMostLatitude = 90.0;
 constexpr double kMostLongitude = 180.0;
 constexpr std::size_t kLongestNumber = 1023;
 
-/// A number strictly between -limit and limit.
-BookRefusal CheckDegrees(const std::string& text, double limit, BookRefusal refusal, double& value) {
-    if (!IsNumberText(text)) {
-        return BookRefusal::NotANumber;
-    }
-    const double degrees = Util::StringUtl::ToDouble(text);
-    if (!(degrees > -limit && degrees < limit)) {
-        return refusal;
-    }
-    value = degrees;
-    return BookRefusal::None;
+/// A number, read as it says, or else a coordinate as people write it.
+std::optional<double> ReadDegrees(const std::string& text, Axis axis) {
+    return IsNumberText(text) ? Util::StringUtl::ToDouble(text) : ReadTypedDegrees(text, axis);
 }
 
 }  // namespace
@@ -44,12 +38,39 @@ bool IsNumberText(const std::string& text) {
            std::count(rest.begin(), rest.end(), '.') <= 1;
 }
 
-BookRefusal CheckLatitude(const std::string& text, double& value) {
-    return CheckDegrees(text, kMostLatitude, BookRefusal::Latitude, value);
+BookRefusal CheckDegrees(double degrees, Axis axis) {
+    const bool latitude = axis == Axis::Latitude;
+    const double limit = latitude ? kMostLatitude : kMostLongitude;
+    const bool isWithin = degrees > -limit && degrees < limit;
+    return isWithin ? BookRefusal::None : latitude ? BookRefusal::Latitude : BookRefusal::Longitude;
 }
 
-BookRefusal CheckLongitude(const std::string& text, double& value) {
-    return CheckDegrees(text, kMostLongitude, BookRefusal::Longitude, value);
+BookRefusal CheckDegreesText(const std::string& text, Axis axis, double& value) {
+    const std::optional<double> degrees = ReadDegrees(text, axis);
+    if (!degrees) {
+        return BookRefusal::NotANumber;
+    }
+    const BookRefusal refusal = CheckDegrees(*degrees, axis);
+    value = refusal == BookRefusal::None ? *degrees : value;
+    return refusal;
+}
+
+BookRefusal CheckPosition(const std::string& text, Axis axis, Position& position) {
+    double& typed = axis == Axis::Latitude ? position.y : position.x;
+    const BookRefusal refusal = CheckDegreesText(text, axis, typed);
+    const auto pair =
+        refusal == BookRefusal::NotANumber ? ReadTypedPosition(text) : std::optional<Position>();
+    if (!pair) {
+        return refusal;
+    }
+    for (const auto& [degrees, of] :
+         {std::pair(pair->y, Axis::Latitude), std::pair(pair->x, Axis::Longitude)}) {
+        if (const BookRefusal why = CheckDegrees(degrees, of); why != BookRefusal::None) {
+            return why;
+        }
+    }
+    position = *pair;
+    return BookRefusal::None;
 }
 
 // Fifty knots times 1.852 is a hair above 92.6 in double, hence the slack.

@@ -5,6 +5,7 @@
 
 #include "seaplan/calculation/book/BookRecompute.h"
 #include "seaplan/data/PosBookData.h"
+#include "seaplan/data/TypedPosition.h"
 
 /// Checks of what a person types into the position book.
 namespace Tarvik::Seaplan {
@@ -16,10 +17,14 @@ enum class BookRefusal { None, NotANumber, Latitude, Longitude, Speed, Date };
 /// "-1.5", "1,5" (which reads as 1). Illegal: ".", "-.", "1.2.3", " 1", "1e3", "+1", 1024 characters behind
 /// the sign or more.
 bool IsNumberText(const std::string& text);
-/// Degrees above -90 and below 90; `value` is set when nothing is wrong.
-BookRefusal CheckLatitude(const std::string& text, double& value);
-/// Degrees above -180 and below 180.
-BookRefusal CheckLongitude(const std::string& text, double& value);
+/// Degrees above -90 and below 90 of latitude, above -180 and below 180 of longitude.
+BookRefusal CheckDegrees(double degrees, Axis axis);
+/// The same of a text: what counts as a number is read as it says, another one as ReadTypedDegrees does;
+/// `value` is set when nothing is wrong.
+BookRefusal CheckDegreesText(const std::string& text, Axis axis, double& value);
+/// A text typed into one coordinate of a position, or a whole position there; the other coordinate stays
+/// where only one is told. `position` is set when nothing is wrong.
+BookRefusal CheckPosition(const std::string& text, Axis axis, Position& position);
 /// A speed in the unit on show, above 0 and up to 50 knots or 92.6 km/h; `value` is in km/h.
 BookRefusal CheckSpeed(const std::string& text, BookSpeedUnit unit, double& value);
 /// Takes `time` (UTC) as the port's departure: its stay becomes what lies between arrival and `time`.

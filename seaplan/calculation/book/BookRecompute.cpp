@@ -9,8 +9,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr double kHoursPerDay = 24.0;
-
 using Util::CircleLineUtl;
 using Util::DateTimeUtl;
 

@@ -6,6 +6,8 @@
 /// Courses, times and totals of the position book on show.
 namespace Tarvik::Seaplan {
 
+inline constexpr double kHoursPerDay = 24.0;
+
 enum class BookSpeedUnit : int { Knots = 0, KmPerHour = 1 };
 enum class BookDistanceUnit : int { NauticalMiles = 0, Kilometres = 1 };
 enum class BookTimeUnit : int { Days = 0, Hours = 1 };

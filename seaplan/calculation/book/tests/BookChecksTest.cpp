@@ -48,18 +48,41 @@ TEST(BookLimits, DegreesLieStrictlyWithin) {
           DegreesCase{"180", R::Latitude, R::Longitude}, DegreesCase{"-180", R::Latitude, R::Longitude},
           DegreesCase{"x", R::NotANumber, R::NotANumber}, DegreesCase{"", R::None, R::None}}) {
         double value = 77;
-        EXPECT_EQ(CheckLatitude(c.text, value), c.latitude) << c.text;
+        EXPECT_EQ(CheckDegreesText(c.text, Axis::Latitude, value), c.latitude) << c.text;
         EXPECT_EQ(value, c.latitude == R::None ? Util::StringUtl::ToDouble(c.text) : 77) << c.text;
         value = 77;
-        EXPECT_EQ(CheckLongitude(c.text, value), c.longitude) << c.text;
+        EXPECT_EQ(CheckDegreesText(c.text, Axis::Longitude, value), c.longitude) << c.text;
         EXPECT_EQ(value, c.longitude == R::None ? Util::StringUtl::ToDouble(c.text) : 77) << c.text;
     }
 }
 
 TEST(BookLimits, CommaPassesTheCheckAndEndsTheNumber) {
     double value = 77;
-    EXPECT_EQ(CheckLatitude("12,9", value), BookRefusal::None);
+    EXPECT_EQ(CheckDegreesText("12,9", Axis::Latitude, value), BookRefusal::None);
     EXPECT_EQ(value, 12);
+}
+
+TEST(BookLimits, CoordinatesAreReadWhereATextIsNoNumber) {
+    using R = BookRefusal;
+    Position position{4, 51};
+    EXPECT_EQ(CheckPosition("51 30N", Axis::Latitude, position), R::None);
+    EXPECT_EQ(position.y, 51.5);
+    EXPECT_EQ(position.x, 4) << "the other one stays";
+    EXPECT_EQ(CheckPosition("12,9", Axis::Latitude, position), R::None);
+    EXPECT_EQ(position.y, 12) << "a number is read as it says";
+    EXPECT_EQ(CheckPosition("4 30 W", Axis::Longitude, position), R::None);
+    EXPECT_EQ(position.x, -4.5);
+    EXPECT_EQ(CheckPosition("10 30N 20 15E", Axis::Longitude, position), R::None);
+    EXPECT_EQ(position.y, 10.5);
+    EXPECT_EQ(position.x, 20.25);
+    EXPECT_EQ(CheckPosition("90N", Axis::Latitude, position), R::Latitude);
+    EXPECT_EQ(CheckPosition("180E", Axis::Longitude, position), R::Longitude);
+    EXPECT_EQ(CheckPosition("90N 4E", Axis::Latitude, position), R::Latitude);
+    EXPECT_EQ(CheckPosition("4N 180E", Axis::Latitude, position), R::Longitude);
+    EXPECT_EQ(CheckPosition("10E", Axis::Latitude, position), R::NotANumber);
+    EXPECT_EQ(CheckPosition("200", Axis::Longitude, position), R::Longitude);
+    EXPECT_EQ(position.y, 10.5);
+    EXPECT_EQ(position.x, 20.25);
 }
 
 struct SpeedCase {
