@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "seaplan/calculation/book/BookChecks.h"
+#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/book/BookHistory.h"
+#include "seaplan/panels/book/BookView.h"
+
+namespace Tarvik::Seaplan {
+
+/// What the parts of the position book share: the sheet with its history, the window before it and the panel
+/// that opened it. A part changes the sheet as it likes; the window is told once, when the report that it
+/// began with is over, and before whatever a person looks at meanwhile.
+class BookDesk {
+  public:
+    struct Parts {
+        BookView& view;
+        std::function<BookOwner*()> owner;
+        std::function<Rect()> mainPlace;  ///< where the main view stands on the screen
+    };
+    explicit BookDesk(Parts parts) : p_(std::move(parts)), boxes_(p_.view) {}
+
+    BookSheet& Sheet() { return sheet_; }
+    const BookSheet& Sheet() const { return sheet_; }
+    BookView& View() const { return p_.view; }
+    BookOwner& Owner() const { return *p_.owner(); }
+    Rect MainPlace() const { return p_.mainPlace(); }
+
+    /// Brings the window up to date.
+    void Show();
+    /// The same when the outermost report is over.
+    class Report {
+      public:
+        explicit Report(BookDesk& desk) : desk_(desk) { ++desk_.reports_; }
+        ~Report();
+        Report(const Report&) = delete;
+        Report& operator=(const Report&) = delete;
+
+      private:
+        BookDesk& desk_;
+    };
+
+    /// A book that is saved, in place of the one before; units stay.
+    void Take(const PosBookData& book);
+    /// Courses, times and totals anew.
+    void Recompute();
+    /// The book was edited: all is computed anew and the edit can be taken back.
+    void TakeEdit();
+    /// The state before the last edit, or behind it again. False where there is none.
+    bool GoBack();
+    bool GoForward();
+    /// All edits since the last save are taken back, as one edit.
+    void DropEdits();
+    /// What is on show is saved.
+    void NoteSaved();
+    /// Cuts the way to a row into waypoints; the row in front stays the same place. Returns how many came.
+    int Regenerate(int row, bool addMidpoint);
+
+    /// The person's zone; asked of the host where no text is given.
+    void TakeZone(const std::string& zone);
+    /// Boxes to the person, over a window that is up to date.
+    Boxes& ToPerson();
+    /// The text that tells why a value is not taken, which it is not.
+    static TextId TextOf(BookRefusal refusal);
+    /// Tells it; nothing for None.
+    void Refuse(BookRefusal refusal);
+
+  private:
+    void ShowState(const PosBookData& book);
+    void NoteHistory();
+
+    Parts p_;
+    Boxes boxes_;
+    BookSheet sheet_;
+    BookHistory history_;
+    int reports_ = 0;  ///< reports under way, one inside the other
+};
+
+}  // namespace Tarvik::Seaplan

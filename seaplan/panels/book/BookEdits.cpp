@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/book/BookEdits.h"
+
+#include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/StringUtl.h>
+#include <tarvik/util/Units.h>
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/tree/TreeRules.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr const char* kGreatCircle = "GC";
+
+/// A name as it goes to the server: beside the characters that no name may have the one that parts a row.
+std::string WaypointName(const std::string& typed) {
+    std::u16string name = Util::StringUtl::TranslateString(NormalizeName(typed));
+    for (char16_t& unit : name) {
+        unit = unit == u'|' ? u'\uFF5C' : unit;
+    }
+    return Util::StringUtl::TranslateString(name);
+}
+
+}  // namespace
+
+std::string BookEdits::TextToEdit(int row, int column) const {
+    const BookSheet& sheet = desk_.Sheet();
+    if (column != BookSpeed) {
+        return sheet.Cell(row, column);
+    }
+    // The cell of an AIS point tells the speed that the ship had; what can be changed is the plan's.
+    const double kmh = sheet.PlaceAt(row).speed;
+    return TwoDecimals(sheet.units.speed == BookSpeedUnit::Knots ? Util::KnotsFromKmh(kmh) : kmh);
+}
+
+BookRefusal BookEdits::TakeText(int row, int column, const std::string& typed) {
+    switch (column) {
+        case BookName:
+            SetName(row, typed);
+            return BookRefusal::None;
+        case BookLatitude:
+            return SetPosition(row, Axis::Latitude, typed);
+        case BookLongitude:
+            return SetPosition(row, Axis::Longitude, typed);
+        case BookSpeed:
+            return SetSpeed(row, typed);
+        default:
+            return BookRefusal::None;
+    }
+}
+
+std::string BookEdits::EchoOf(int row, int column, const std::string& typed) const {
+    if ((column != BookLatitude && column != BookLongitude) || typed.empty()) {
+        return {};
+    }
+    const Axis axis = column == BookLatitude ? Axis::Latitude : Axis::Longitude;
+    const PosBookPlace& place = desk_.Sheet().PlaceAt(row);
+    Position position{place.x, place.y};
+    const BookRefusal refusal = CheckPosition(typed, axis, position);
+    if (refusal == BookRefusal::NotANumber) {
+        return Text(TextId::IDS_VIEW_NOTREAD);
+    }
+    if (refusal != BookRefusal::None) {
+        return Text(BookDesk::TextOf(refusal));
+    }
+    const bool pair = axis == Axis::Latitude ? position.x != place.x : position.y != place.y;
+    std::string told = Text(TextId::IDS_VIEW_READAS);
+    if (pair || axis == Axis::Latitude) {
+        told += ' ' + DegreesText(position.y, Axis::Latitude);
+    }
+    if (pair || axis == Axis::Longitude) {
+        told += ' ' + DegreesText(position.x, Axis::Longitude);
+    }
+    return told;
+}
+
+void BookEdits::SetName(int row, const std::string& typed) {
+    std::string& name = desk_.Sheet().PlaceAt(row).name;
+    if (std::string kept = WaypointName(typed); kept != name) {
+        name = std::move(kept);
+        desk_.TakeEdit();
+    }
+}
+
+BookRefusal BookEdits::SetPosition(int row, Axis axis, const std::string& typed) {
+    const PosBookPlace& place = desk_.Sheet().PlaceAt(row);
+    Position position{place.x, place.y};
+    const BookRefusal refusal = CheckPosition(typed, axis, position);
+    if (refusal == BookRefusal::None) {
+        MoveTo(row, position);
+    }
+    return refusal;
+}
+
+void BookEdits::CutGreatCircle(int row) {
+    if (desk_.Sheet().IsRow(row) && desk_.Sheet().PlaceAt(row).track == kGreatCircle) {
+        desk_.Regenerate(row, false);
+    }
+}
+
+/// Another longitude cuts the great circles on both sides anew, and waypoints of an earlier cut stay; a
+/// latitude alone cuts none.
+void BookEdits::MoveTo(int row, const Position& position) {
+    BookSheet& sheet = desk_.Sheet();
+    PosBookPlace& place = sheet.PlaceAt(row);
+    const bool sameX = place.x == position.x;
+    if (sameX && place.y == position.y) {
+        return;
+    }
+    place.x = position.x;
+    place.y = position.y;
+    if (!sameX) {
+        const int before = sheet.RowCount();
+        CutGreatCircle(row);
+        // The rows that came into the list stand before this one.
+        CutGreatCircle(row + sheet.RowCount() - before + 1);
+    }
+    desk_.TakeEdit();
+}
+
+BookRefusal BookEdits::SetSpeed(int row, const std::string& typed) {
+    double& speed = desk_.Sheet().PlaceAt(row).speed;
+    double kmh = speed;
+    const BookRefusal refusal = CheckSpeed(typed, desk_.Sheet().units.speed, kmh);
+    if (refusal == BookRefusal::None && kmh != speed) {
+        speed = kmh;
+        desk_.TakeEdit();
+    }
+    return refusal;
+}
+
+void BookEdits::SetTrack(int row, const std::string& track) {
+    std::string& kept = desk_.Sheet().PlaceAt(row).track;
+    if (track == kept) {
+        return;
+    }
+    kept = track;
+    CutGreatCircle(row);
+    desk_.TakeEdit();
+}
+
+void BookEdits::SetInterval(int row, int interval) {
+    int& kept = desk_.Sheet().PlaceAt(row).interval;
+    if (interval == kept) {
+        return;
+    }
+    kept = interval;
+    CutGreatCircle(row);
+    desk_.TakeEdit();
+}
+
+BookRefusal BookEdits::SetTime(int row, const Util::_datetime_t& local) {
+    BookSheet& sheet = desk_.Sheet();
+    PosBookPortRow& port = sheet.data.ports[static_cast<std::size_t>(sheet.RefOf(row).port)];
+    const double before = port.portTime;
+    const BookRefusal refusal = ChangeDeparture(Util::DateTimeUtl::ConvertToUTC(local, sheet.zone), port);
+    if (refusal == BookRefusal::None && port.portTime != before) {
+        desk_.TakeEdit();
+    }
+    return refusal;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "seaplan/panels/book/BookDesk.h"
+
+namespace Tarvik::Seaplan {
+
+/// What an edit of a cell does. A value that is refused, or that stands there already, changes nothing and
+/// marks nothing. Rows count from 0 in the list and are rows that the cell's column lets be edited.
+class BookEdits {
+  public:
+    explicit BookEdits(BookDesk& desk) : desk_(desk) {}
+
+    /// A typed name, position or speed. Why it is refused, None where it is taken.
+    BookRefusal TakeText(int row, int column, const std::string& typed);
+    /// A waypoint stands there now, as when its position is typed; both within CheckDegrees.
+    void MoveTo(int row, const Position& position);
+    /// The text that the editor of such a cell opens with.
+    std::string TextToEdit(int row, int column) const;
+    /// How a text that is being typed into a position is understood, or why it is not; empty in other
+    /// columns and for an empty text.
+    std::string EchoOf(int row, int column, const std::string& typed) const;
+    /// "GC" cuts the way to the row into the waypoints of a great circle.
+    void SetTrack(int row, const std::string& track);
+    /// Degrees between the waypoints of a great circle; the way to the row is cut anew.
+    void SetInterval(int row, int interval);
+    /// A time in the person's zone as the departure of the row's port: its stay becomes what lies between its
+    /// arrival and that.
+    BookRefusal SetTime(int row, const Util::_datetime_t& local);
+
+  private:
+    void SetName(int row, const std::string& typed);
+    BookRefusal SetPosition(int row, Axis axis, const std::string& typed);
+    BookRefusal SetSpeed(int row, const std::string& typed);
+    void CutGreatCircle(int row);
+
+    BookDesk& desk_;
+};
+
+}  // namespace Tarvik::Seaplan
