@@ -17,7 +17,7 @@ namespace Tarvik::Seaplan {
 /// recomputes the schedule. This class ties the panel's parts together; what a person does in the window goes
 /// to the part that it concerns. Results are 0 or the negative number of the failed step; only the messages
 /// told at a command are ever shown.
-class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
+class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener, public BookOwner {
   public:
     explicit CPortCallPanelDlg(PortCallDesk::Parts parts);
 
@@ -33,6 +33,9 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener {
     void ShowBesideTree() override;
     int ShowAisCorrection() override { return filling_.ShowCorrection(); }
     void SetCorrectionTime(const std::string& time) override { filling_.SetCorrectionTime(time); }
+    int SavePositionBook(const PosBookData& book) override { return commands_.SavePositionBook(book); }
+    void SetBookOpen(bool open) override { desk_.SetBookOpen(open); }
+    std::string TableZone() const override { return desk_.Sheet().state.zone; }
     void HideAfterLogout();
     void ApplyLanguage();
 

@@ -186,6 +186,46 @@ void PanelCommands::OnClose() {
     desk_.Voyages().ClearChart();
 }
 
+void PanelCommands::OnPositionBook() {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    const PortCallSheet& sheet = desk_.Sheet();
+    CPosBookDlg* dialog = desk_.Book();
+    if (dialog == nullptr || !sheet.state.canOpenBook) {
+        return;
+    }
+    if (sheet.state.changed && !desk_.ToPerson().Confirm(TextId::IDS_PORTCALL_WARNSAVEFORPSBK)) {
+        return;
+    }
+    PosBookData book;
+    if (desk_.Voyages().GetPosBookData(sheet.voyageId, book) == 0) {
+        bookVoyage_ = sheet.voyageId;
+        dialog->ShowBook(book);
+    }
+}
+
+int PanelCommands::SavePositionBook(const PosBookData& book) {
+    const PortCallDesk::Report report(desk_);
+    const int code = [&] {
+        const PortCallDesk::Busy busy(desk_);
+        return desk_.Voyages().SavePositionBook(bookVoyage_, book);
+    }();
+    if (code != 0) {
+        desk_.ToPerson().Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION);
+        return code;
+    }
+    desk_.TellSaved(bookVoyage_);
+    // The tree may have opened another voyage meanwhile, which stays on show.
+    if (desk_.Sheet().voyageId == bookVoyage_) {
+        filling_.SetVoyage(bookVoyage_);
+        filling_.Open(-1);
+        desk_.View().Show();
+    }
+    desk_.Voyages().RemoveVoyageObjects(bookVoyage_);
+    desk_.Voyages().ShowVoyage(bookVoyage_);
+    return 0;
+}
+
 void PanelCommands::OnHelp() {
     desk_.View().RequestHelp(kHelpTopic, kHelpWidth, kHelpHeight);
 }

@@ -25,6 +25,11 @@ class PanelCommands {
     int SaveBeforeLeaving();
     void OnClear();
     void OnClose();
+    /// Opens the position book as it is saved, over unsaved changes only where the person says so.
+    void OnPositionBook();
+    /// Saves the book that was opened last for its voyage, shows the voyage's rows anew and draws it. 0, or
+    /// the number of VoyController::SavePositionBook, which is told.
+    int SavePositionBook(const PosBookData& book);
     void OnHelp();
     /// The menu of a quantity opens: its units, in order.
     std::vector<std::string> OnUnitsAsked(UnitKind kind);
@@ -41,6 +46,7 @@ class PanelCommands {
     CellEditing& editing_;
     CorrectedSchedule& corrected_;
     VoyageFilling& filling_;
+    std::string bookVoyage_;  ///< the voyage whose book was opened last
 };
 
 }  // namespace Tarvik::Seaplan

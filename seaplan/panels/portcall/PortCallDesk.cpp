@@ -32,6 +32,15 @@ void PortCallDesk::Show() {
         p_.view.ShowState(shownState_);
     }
     told_ = true;
+    if (bookOpen_) {
+        // A box that was up meanwhile has given the window back.
+        p_.view.SetEnabled(false);
+    }
+}
+
+void PortCallDesk::SetBookOpen(bool open) {
+    bookOpen_ = open;
+    p_.view.SetEnabled(!open);
 }
 
 void PortCallDesk::TellSaved(const std::string& vi) const {

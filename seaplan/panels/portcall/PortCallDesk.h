@@ -9,6 +9,7 @@
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/portcall/PortCallView.h"
 
@@ -24,7 +25,8 @@ class PortCallDesk {
         VoyController& voyages;
         PortDirectory& ports;
         PortCallView& view;
-        std::function<Rect()> treePlace;  ///< where the voyage tree stands on the screen
+        std::function<Rect()> treePlace;          ///< where the voyage tree stands on the screen
+        std::function<CPosBookDlg*()> book = {};  ///< the position book, made when it is asked for
     };
     explicit PortCallDesk(Parts parts) : p_(std::move(parts)), boxes_(p_.view) {}
 
@@ -78,6 +80,11 @@ class PortCallDesk {
     /// The same over the schedule of such rows, which keep their ids.
     int Recompute(const PortCallRows& standard);
 
+    /// The position book; null where there is none.
+    CPosBookDlg* Book() const { return p_.book ? p_.book() : nullptr; }
+    /// The window cannot be used while the position book is open.
+    void SetBookOpen(bool open);
+
     /// Moves the window to its place beside the tree.
     void PlaceBesideTree() { p_.view.MoveTo(BesideTree(p_.treePlace())); }
     /// Boxes to the person, over a window that is up to date.
@@ -91,7 +98,8 @@ class PortCallDesk {
     PortCallTable shownTable_;
     PortCallState shownState_;
     bool told_ = false;  ///< the window has been told anything yet
-    int reports_ = 0;    ///< reports under way, one inside the other
+    bool bookOpen_ = false;
+    int reports_ = 0;  ///< reports under way, one inside the other
 };
 
 }  // namespace Tarvik::Seaplan

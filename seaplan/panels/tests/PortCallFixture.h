@@ -34,7 +34,9 @@ class PortCallFixture : public ::testing::Test {
     std::string fresh;  ///< id of the new voyage
     std::string kept;   ///< id of the saved one
     PortDirectory ports = Ports();
-    CPortCallPanelDlg panel{{desk.catalog, desk.voyages, ports, view, [] { return kTree; }}};
+    CPosBookDlg* positionBook = nullptr;  ///< where a test has one
+    CPortCallPanelDlg panel{
+        {desk.catalog, desk.voyages, ports, view, [] { return kTree; }, [this] { return positionBook; }}};
 
     PortCallFixture() {
         desk.AddCategory("Plans");

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "seaplan/panels/book/BookEdits.h"
+#include "seaplan/panels/datetime/CTrvCalDlg.h"
+#include "seaplan/panels/editors/Keys.h"
+#include "seaplan/panels/editors/ListBox.h"
+#include "seaplan/panels/editors/TextField.h"
+
+namespace Tarvik::Seaplan {
+
+/// The text editor, the list and the calendar over the cells of the book: what opens where, and what is taken
+/// when one closes. At most one of them is open.
+class BookEditing {
+  public:
+    explicit BookEditing(BookDesk& desk);
+
+    /// A press on a cell: what is open is taken, the row comes to the front, and what the column has opens. A
+    /// second press on the cell of an open list closes it.
+    void OnCellClicked(int row, int column);
+    /// Another row came to the front, by the keyboard.
+    void OnRowSelected(int row);
+    /// The text in the editor changed by the person's hand.
+    void OnTyped(const std::string& text);
+    /// A key in the editor; false when it means nothing there and the field takes it.
+    bool OnTextKey(KeyPress press);
+    void OnTextFocusLost();
+    /// A key in the list; false when it means nothing there.
+    bool OnChoiceKey(KeyPress press, int current);
+    void OnChosen(int index);
+
+    /// Takes what is typed and closes all. False when it was refused.
+    bool CommitEditors();
+    /// Takes what is typed and leaves its editor open. False when it was refused, which closes it.
+    bool CommitText();
+    /// Closes all and drops what is typed.
+    void HideEditors();
+    /// The date over a cell of the times.
+    CTrvDateTimeCtrl& Picker() { return picker_; }
+
+  private:
+    void Open(int row, int column);
+    void OpenText(int row, int column);
+    void OpenChoices(int row, int column);
+    void OpenPicker(int row, int column);
+    void OpenNextText();
+    bool TakeText();
+    void OnTimeChosen(const Util::_datetime_t& time);
+    void CloseText();
+
+    BookDesk& desk_;
+    BookEdits edits_;
+    TextField text_;
+    ListBox choices_;
+    CTrvDateTimeCtrl picker_;
+    int column_ = 0;
+    int dateRow_ = -1;
+};
+
+}  // namespace Tarvik::Seaplan

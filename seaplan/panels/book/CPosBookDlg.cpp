@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/book/CPosBookDlg.h"
+
+#include <utility>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+/// Left top corner of a window of this size in the middle of a place.
+Point Centred(const Rect& place, const Rect& window) {
+    return {place.left + (place.right - place.left - (window.right - window.left)) / 2,
+            place.top + (place.bottom - place.top - (window.bottom - window.top)) / 2};
+}
+
+}  // namespace
+
+CPosBookDlg::CPosBookDlg(BookDesk::Parts parts)
+    : desk_(std::move(parts)), editing_(desk_), commands_(desk_, editing_) {
+    desk_.TakeZone({});
+}
+
+void CPosBookDlg::ShowBook(const PosBookData& book) {
+    const BookDesk::Report report(desk_);
+    BookView& view = desk_.View();
+    editing_.HideEditors();
+    desk_.Sheet().tableZone = desk_.Owner().TableZone();
+    desk_.Take(book);
+    desk_.Show();
+    view.MoveTo(Centred(desk_.MainPlace(), view.PlaceOnScreen()));
+    view.Show();
+    desk_.Owner().SetBookOpen(true);
+}
+
+void CPosBookDlg::Recompute() {
+    const BookDesk::Report report(desk_);
+    desk_.Recompute();
+}
+
+void CPosBookDlg::ApplyLanguage() {
+    desk_.View().ApplyTexts();
+    desk_.Show();
+}
+
+void CPosBookDlg::OnLogout() {
+    if (desk_.View().IsVisible()) {
+        commands_.Hide();
+    }
+    const BookDesk::Report report(desk_);
+    desk_.Take({});
+}
+
+void CPosBookDlg::OnTimeZone(const std::string& zone) {
+    if (zone == desk_.Sheet().zone) {
+        return;
+    }
+    const BookDesk::Report report(desk_);
+    // A date over a cell is one in the old zone.
+    editing_.Picker().Hide();
+    desk_.TakeZone(zone);
+}
+
+}  // namespace Tarvik::Seaplan
