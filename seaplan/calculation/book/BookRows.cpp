@@ -12,7 +12,6 @@ namespace {
 
 using Rows = std::vector<PosBookRow>;
 
-constexpr int kDecimals = 4;
 constexpr const char* kNewWaypoint = "A new wp";
 
 bool IsInList(const BookRowRefs& refs, int listRow) {
@@ -41,8 +40,8 @@ const PosBookPlace* PlaceBefore(const PosBookData& book, const PosBookRowRef& re
 /// A waypoint between two places, sailed as the way to the second is.
 PosBookRow RowBetween(const PosBookPlace& before, const PosBookPlace& to, double x, double y) {
     PosBookRow row;
-    row.x = Util::UnitUtl::DataFormat(x, kDecimals);
-    row.y = Util::UnitUtl::DataFormat(y, kDecimals);
+    row.x = Util::UnitUtl::DataFormat(x, kBookDecimals);
+    row.y = Util::UnitUtl::DataFormat(y, kBookDecimals);
     row.speed = to.speed;
     row.weather = to.weather;
     row.interval = to.interval;

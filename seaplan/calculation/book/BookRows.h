@@ -10,6 +10,9 @@
 /// The rows of the book's list, and the edits that add and remove waypoints.
 namespace Tarvik::Seaplan {
 
+/// Decimals of degrees that the book tells.
+inline constexpr int kBookDecimals = 4;
+
 /// What a row of the list shows: a port, or one waypoint of the leg that leads to it.
 struct PosBookRowRef {
     static constexpr int kPort = -1;

@@ -20,6 +20,11 @@ BookDesk::Report::~Report() {
 void BookDesk::Show() {
     p_.view.SetCaption(Text(TextId::IDC_WP_T_TITLE), sheet_.changed);
     p_.view.ShowSheet(sheet_);
+    if (p_.view.IsVisible()) {
+        chart_.Show(sheet_.data, sheet_.refs, sheet_.selected);
+    } else {
+        chart_.Hide();
+    }
 }
 
 void BookDesk::NoteHistory() {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "seaplan/calculation/book/BookChecks.h"
+#include "seaplan/controllers/BookOnChart.h"
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/book/BookHistory.h"
 #include "seaplan/panels/book/BookView.h"
@@ -30,7 +31,7 @@ class BookDesk {
     BookOwner& Owner() const { return *p_.owner(); }
     Rect MainPlace() const { return p_.mainPlace(); }
 
-    /// Brings the window up to date.
+    /// Brings the window up to date, and the chart while it is open.
     void Show();
     /// The same when the outermost report is over.
     class Report {
@@ -77,6 +78,7 @@ class BookDesk {
     Boxes boxes_;
     BookSheet sheet_;
     BookHistory history_;
+    BookOnChart chart_;
     int reports_ = 0;  ///< reports under way, one inside the other
 };
 

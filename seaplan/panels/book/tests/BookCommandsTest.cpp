@@ -429,6 +429,32 @@ TEST_F(BookCommandsTest, CloseAsksAboutChanges) {
     EXPECT_TRUE(view.Enabled());
 }
 
+TEST_F(BookCommandsTest, TheOpenBookStandsOnTheChartWithNumberedRowsAndTheOneInFront) {
+    OpenExpanded();
+    const auto drawn = [&](const std::string& type) {
+        std::vector<std::string> marks;
+        for (const auto& call : desk.host.ChartCallsOf("TRV_MAP_ADD_POINT_LABEL")) {
+            if (call.type == type) {
+                marks.push_back(call.id + " " + call.position);
+            }
+        }
+        desk.ForgetRecords();
+        return marks;
+    };
+    EXPECT_THAT(drawn("BOOKPOINTTYPE"), SizeIs(5)) << "the rows after one was expanded";
+    Click(2, BookCourse);
+    EXPECT_THAT(drawn("BOOKFRONTTYPE"), ElementsAre("3 0.4000,1.0000"));
+    Type(2, BookLatitude, "2.5");
+    const auto lines = desk.host.ChartCallsOf("TRV_MAP_ADD_LINE");
+    ASSERT_THAT(lines, SizeIs(1));
+    EXPECT_EQ(lines[0].type, "BOOKLINETYPE");
+    EXPECT_EQ(lines[0].points[2], "0.4000,2.5000") << "the line follows before anything is saved";
+    EXPECT_THAT(drawn("BOOKFRONTTYPE"), ElementsAre("3 0.4000,2.5000"));
+    messages.Answer(Interface::SysMsgHandleRes::No);
+    book.Commands().OnClose();
+    EXPECT_THAT(desk.host.ChartCallsOf("TRV_MAP_DEL_OBJECT_BY_TYPE"), SizeIs(3));
+}
+
 TEST_F(BookCommandsTest, HelpHasItsOwnTopicAndSize) {
     book.Commands().OnHelp();
     EXPECT_EQ(bookView.help, "func035 350x370");
