@@ -4,8 +4,10 @@
 #include <QPointer>
 #include <memory>
 
+#include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/views/book/BookWindow.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/window/PanelPlace.h"
@@ -35,6 +37,9 @@ class VoyageViews final {
     VoyagePanelWindow* VoyageWindow() { return voyageWindow_; }
     /// Made now when it is not there yet.
     PortCallWindow* PortCallsWindow();
+    CPosBookDlg& Book() { return book_.Use(); }
+    /// The position book's window, null while nobody has asked for it.
+    BookWindow* BookWindowMade() { return book_.MadeWindow(); }
     /// Another route was chosen on the chart.
     void OnRouteChosen();
     bool TreeVisible() const { return voyageWindow_ != nullptr && voyageWindow_->isVisible(); }
@@ -43,11 +48,13 @@ class VoyageViews final {
 
   private:
     std::unique_ptr<CPortCallPanelDlg> MakePortCalls(const Parts& parts, PortCallWindow& window);
+    std::unique_ptr<CPosBookDlg> MakeBook(const Parts& parts, BookWindow& window);
     void ShowSaved(const std::string& vi);
 
     QPointer<VoyagePanelWindow> voyageWindow_;
     SeaplanTreeCtrl tree_;
     PanelPlace<CPortCallPanelDlg, PortCallWindow> portCalls_;
+    PanelPlace<CPosBookDlg, BookWindow> book_;
     SeaplanViewDlg panel_;
 };
 

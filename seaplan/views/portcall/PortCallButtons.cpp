@@ -49,6 +49,7 @@ QToolButton* PortCallButtons::MakeTool(const char* name) {
 void PortCallButtons::SetReports(const Reports& reports) {
     QObject::connect(save_, &QToolButton::clicked, this, reports.save);
     QObject::connect(clear_, &QToolButton::clicked, this, reports.clear);
+    QObject::connect(book_, &QPushButton::clicked, this, reports.book);
     QObject::connect(calculate_, &QPushButton::clicked, this, reports.calculate);
 }
 
@@ -67,13 +68,13 @@ void PortCallButtons::ShowState(const PortCallState& state) {
     Set(save_, state.canSave, TextId::IDS_PORTCALL_SAVE, TextId::IDS_VIEW_NOCHANGES);
     Set(clear_, state.canClear, TextId::IDS_PORTCALL_CLEAR, TextId::IDS_VIEW_CLEAROFF);
     Set(calculate_, state.canCalculate, TextId::IDS_PORTCALL_COMPUTE, TextId::IDS_VIEW_NEEDTWOPORTS);
-    // The position book has no window yet.
-    Set(book_, false, TextId::IDS_PORTCALL_POSTBOOK,
-        state.canOpenBook ? TextId::IDS_VIEW_NOTYET : TextId::IDS_VIEW_BOOKNEEDSVOYAGE);
+    Set(book_, state.canOpenBook, TextId::IDS_PORTCALL_POSTBOOK, TextId::IDS_VIEW_BOOKNEEDSVOYAGE);
 }
 
 void PortCallButtons::ApplyTexts() {
     book_->setText(ViewText(TextId::IDS_PORTCALL_POSTBOOK));
+    // A new text takes the button's shortcut away.
+    book_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_B));
 }
 
 void PortCallButtons::ApplySkin() {

@@ -21,6 +21,7 @@ class PortCallButtons final : public QWidget {
     struct Reports {
         std::function<void()> save;
         std::function<void()> clear;
+        std::function<void()> book;
         std::function<void()> calculate;
     };
     void SetReports(const Reports& reports);

@@ -9,6 +9,7 @@
 
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/views/editors/QtKeys.h"
+#include "seaplan/views/editors/TableMeasures.h"
 #include "seaplan/views/portcall/PortCallTableView.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -18,12 +19,11 @@ namespace {
 
 constexpr CellEditor kEditors[] = {CellEditor::Port, CellEditor::Speed, CellEditor::Weather};
 constexpr const char* kNames[] = {"portEditor", "speedEditor", "weatherEditor"};
-constexpr int kListRow = 23;
 constexpr int kMostRows = 6;
 
 /// Height of so many rows, with the frame.
 int ListHeight(int rows) {
-    return rows * kListRow + 2;
+    return rows * kDroppedRow + 2;
 }
 
 void Fill(QListWidget& list, const std::vector<std::string>& texts, int current) {

@@ -8,6 +8,7 @@
 #include <QToolTip>
 
 #include "seaplan/views/editors/QtKeys.h"
+#include "seaplan/views/editors/TableMeasures.h"
 #include "seaplan/views/portcall/PortCallDelegate.h"
 #include "seaplan/views/portcall/PortCallModel.h"
 
@@ -15,8 +16,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr int kRowHeight = 20;
-constexpr int kHeaderHeight = 34;
 constexpr int kImagesWidth = 66;
 
 }  // namespace
@@ -33,10 +32,10 @@ PortCallTableView::PortCallTableView(QWidget* parent) : QTableView(parent) {
     setTabKeyNavigation(false);
     setMouseTracking(true);
     verticalHeader()->hide();
-    verticalHeader()->setMinimumSectionSize(kRowHeight);
-    verticalHeader()->setDefaultSectionSize(kRowHeight);
+    verticalHeader()->setMinimumSectionSize(kTableRow);
+    verticalHeader()->setDefaultSectionSize(kTableRow);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setFixedHeight(kHeaderHeight);
+    horizontalHeader()->setFixedHeight(kTableHeader);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -67,7 +66,7 @@ void PortCallTableView::ApplyWidths() {
 QRect PortCallTableView::EditorRect(int row, int column) const {
     QRect rect = visualRect(model()->index(row, column));
     if (rect.bottom() >= viewport()->height()) {
-        rect.translate(0, -kRowHeight);
+        rect.translate(0, -kTableRow);
     }
     return rect;
 }

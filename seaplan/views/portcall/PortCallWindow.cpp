@@ -48,6 +48,7 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
         {[&commands](UnitKind kind) { return commands.OnUnitsAsked(kind); },
          [&commands](UnitKind kind, const std::string& unit) { commands.OnUnitChosen(kind, unit); }});
     buttons_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnClear(); },
+                          [&commands] { commands.OnPositionBook(); },
                           [&commands] { commands.OnCalculate(); }});
     // A press anywhere outside the table ends the editing.
     new OutsidePress(

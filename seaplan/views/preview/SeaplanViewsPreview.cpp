@@ -25,7 +25,8 @@ int Usage() {
     std::fputs(
         "seaplan-views-preview [--png OUT.png] [--theme light|dark|night] [--lang en-US|zh-CN|zh-TW]\n"
         "                      [--scene "
-        "tree|category|empty|voyage|edit|matches|purposes|calendar|rename|bin|vessel]\n",
+        "tree|category|empty|voyage|edit|matches|purposes|calendar|rename|bin|vessel|book|book-typing|\n"
+        "                      book-track|book-calendar|book-passed]\n",
         stderr);
     return 2;
 }
@@ -84,6 +85,25 @@ void PlayPortCalls(VoyageViews& views, const std::string& scene) {
     }
 }
 
+/// The position book with its first leg cut into a great circle, and what the scene is about.
+void PlayBook(VoyageViews& views, const std::string& scene) {
+    views.PortCalls().Commands().OnPositionBook();
+    CPosBookDlg& book = views.Book();
+    book.Commands().OnExpand(0);
+    book.Cells().OnCellClicked(2, BookCourse);
+    book.Commands().OnInsert();
+    if (scene == "book-typing") {
+        book.Cells().OnCellClicked(1, BookLatitude);
+        views.BookWindowMade()->findChild<QLineEdit*>("bookEditor")->setText("51 54.5N");
+    }
+    if (scene == "book-track") {
+        book.Cells().OnCellClicked(2, BookTrack);
+    }
+    if (scene == "book-calendar") {
+        book.Cells().OnCellClicked(book.Sheet().RowCount() - 1, BookEtd);
+    }
+}
+
 void Play(VoyageViews& views, const std::string& scene) {
     const Tarvik::Interface::PanelShow show{3, 0};
     Tarvik::Interface::Raise(Bus::ShowPanel, &show);
@@ -111,6 +131,9 @@ void Play(VoyageViews& views, const std::string& scene) {
         return;
     }
     Click(views, "Far East 12", "Voyage.child.svr4");
+    if (scene.starts_with("book")) {
+        return PlayBook(views, scene);
+    }
     PlayPortCalls(views, scene);
 }
 
@@ -119,10 +142,12 @@ QImage Picture() {
     image.fill(Skin::Colour(Skin::Role::Window));
     QPainter painter(&image);
     QWidgetList windows = QApplication::topLevelWidgets();
-    // Pop-ups lie on top.
-    std::stable_sort(windows.begin(), windows.end(), [](const QWidget* a, const QWidget* b) {
-        return a->windowType() != Qt::Popup && b->windowType() == Qt::Popup;
-    });
+    // Pop-ups lie on top, and what cannot be used behind what it waits for.
+    const auto level = [](const QWidget* window) {
+        return window->windowType() == Qt::Popup ? 2 : window->isEnabled() ? 1 : 0;
+    };
+    std::stable_sort(windows.begin(), windows.end(),
+                     [&level](const QWidget* a, const QWidget* b) { return level(a) < level(b); });
     for (QWidget* window : windows) {
         if (window->isVisible()) {
             painter.drawPixmap(window->pos() - QPoint(60, 120), window->grab());
@@ -153,6 +178,10 @@ int main(int argc, char** argv) {
     const std::string scene = Option(arguments, "--scene", "voyage");
     if (scene != "empty") {
         AddSampleVoyages(desk);
+    }
+    if (scene == "book-passed") {
+        constexpr int kSecondsAtSea = 30 * 86400;
+        desk.clock.AdvanceSeconds(kSecondsAtSea);
     }
     PortDirectory ports = SamplePorts();
     VoyageViews views({desk.store, desk.catalog, desk.voyages, ports, nullptr});

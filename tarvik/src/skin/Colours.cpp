@@ -19,6 +19,7 @@ constexpr Row kRows[] = {
     {Role::Caption, "caption", {0x89A5B9, 0x2A4153, 0x260505}},
     {Role::CaptionText, "captionText", {0x17222B, 0xE4EBF0, 0xE05A50}},
     {Role::List, "list", {0xC5CFD8, 0x24313C, 0x1A0404}},
+    {Role::Book, "book", {0xA1BACE, 0x20303D, 0x140303}},
     {Role::Border, "border", {0x9AA7B1, 0x3A4B59, 0x4A1210}},
     {Role::Text, "text", {0x17222B, 0xE4EBF0, 0xE05A50}},
     {Role::Secondary, "secondary", {0x51626F, 0x9FB1BF, 0xD2574E}},

@@ -25,6 +25,7 @@ enum class Role {
     Caption,
     CaptionText,
     List,
+    Book,  ///< ground of the position book's list
     Border,
     Text,
     Secondary,

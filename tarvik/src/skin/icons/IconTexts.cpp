@@ -6,6 +6,8 @@ namespace Tarvik::Skin {
 const std::map<std::string, std::string>& IconTexts() {
     static const std::map<std::string, std::string> texts = {
         {"add", R"(<path d="M8 3v10M3 8h10"/>)"},
+        {"undo", R"(<path d="M6 3L3 6l3 3M3 6h6a3 3 0 0 1 0 6H6"/>)"},
+        {"redo", R"(<path d="M10 3l3 3-3 3M13 6H7a3 3 0 0 0 0 6h3"/>)"},
         {"close", R"(<path d="M4 4l8 8M12 4l-8 8"/>)"},
         {"help", R"(<path d="M5.5 6a2.5 2.5 0 1 1 3.7 2.2C8.3 8.7 8 9.2 8 10.2"/><path d="M8 12.6v.4"/>)"},
         {"filter", R"(<path d="M2.5 3.5h11L9.5 8.5v4l-3 1.5V8.5z"/>)"},

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QObject>
+#include <string>
+#include <vector>
+
+#include "seaplan/panels/book/BookView.h"
+#include "seaplan/views/datetime/CalendarPopup.h"
+
+namespace Tarvik::Seaplan {
+
+class BookEditing;
+class BookTableView;
+
+/// The field, the list and the calendar over the cells of the position book. What a person does in them goes
+/// to the panel as it is.
+class BookEditors final : public QObject {
+  public:
+    /// `window` is the table's window, over which the list drops.
+    BookEditors(QWidget& window, BookTableView& table);
+    void Attach(BookEditing* panel);
+    void ApplyTexts();
+    void ApplySkin();
+    /// Whether a widget is the table or one of these.
+    bool Holds(const QWidget& widget) const;
+
+    void OpenText(const BookCellPlace& cell, const std::string& text, std::size_t limit);
+    void HideText();
+    void ShowEcho(const std::string& text);
+    void OpenChoices(const BookCellPlace& cell, const std::vector<std::string>& texts, int current);
+    void HideChoices();
+    void PutPicker(const BookCellPlace& cell);
+    DateTimeView& Picker() { return date_; }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    bool FieldEvent(QEvent& event);
+
+    QWidget& window_;
+    BookTableView& table_;
+    BookEditing* panel_ = nullptr;
+    QLineEdit* field_;
+    QLabel* echo_;
+    QListWidget* choices_;
+    bool setting_ = false;  ///< the program sets the field's text
+    DateCell date_;
+};
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/book/BookFrame.h"
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QShortcut>
+
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/views/window/ViewText.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+struct ButtonLook {
+    const char* name;
+    const char* icon;
+    const char* keys = "";
+};
+constexpr ButtonLook kLooks[] = {{"saveButton", "save", "Ctrl+S"}, {"cancelButton", "recover"},
+                                 {"undoButton", "undo", "Ctrl+Z"}, {"redoButton", "redo", "Ctrl+Y"},
+                                 {"insertButton", "add", "Ins"},   {"deleteButton", "delete", "Del"}};
+
+}  // namespace
+
+BookHead::BookHead(QWidget* parent) : QWidget(parent), zone_(new QLabel(this)) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Skin::kGrid);
+    for (int part = Save; part < PartCount; ++part) {
+        auto* made = new QToolButton(this);
+        made->setObjectName(QString::fromLatin1(kLooks[part].name));
+        made->setFixedSize(Skin::kControlHeight + 2, Skin::kControlHeight);
+        made->setFocusPolicy(Qt::TabFocus);
+        row->addWidget(made);
+        if (part == Cancel || part == Redo) {
+            row->addSpacing(2 * Skin::kGrid);
+        }
+        buttons_.at(static_cast<std::size_t>(part)) = made;
+    }
+    buttons_[Save]->setProperty("primary", true);
+    row->addStretch(1);
+    zone_->setObjectName(QStringLiteral("bookZone"));
+    zone_->setProperty("secondary", true);
+    row->addWidget(zone_);
+    ApplySkin();
+}
+
+void BookHead::SetReports(const Reports& reports) {
+    const std::function<void()> pressed[] = {reports.save, reports.cancel, reports.undo,
+                                             reports.redo, reports.insert, reports.remove};
+    for (std::size_t part = 0; part < buttons_.size(); ++part) {
+        QObject::connect(buttons_.at(part), &QToolButton::clicked, this, pressed[part]);
+    }
+    // The keys are the window's: a button takes two quick presses of its own for one.
+    const std::pair<QKeySequence, const std::function<void()>&> keys[] = {
+        {Qt::CTRL | Qt::Key_S, reports.saveKey},
+        {Qt::CTRL | Qt::Key_Z, reports.undo},
+        {Qt::CTRL | Qt::Key_Y, reports.redo},
+        {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, reports.redo}};
+    for (const auto& [sequence, report] : keys) {
+        auto* shortcut = new QShortcut(sequence, window());
+        QObject::connect(shortcut, &QShortcut::activated, this, report);
+    }
+}
+
+void BookHead::Set(Part part, bool on, TextId tip, TextId whyNot) {
+    QToolButton* button = buttons_.at(static_cast<std::size_t>(part));
+    button->setEnabled(on);
+    Skin::Describe(button, ViewText(tip));
+    const QString keys = QString::fromLatin1(kLooks[part].keys);
+    if (!on) {
+        button->setToolTip(ViewText(tip) + QStringLiteral(": ") + ViewText(whyNot));
+    } else if (!keys.isEmpty()) {
+        button->setToolTip(QStringLiteral("%1 (%2)").arg(ViewText(tip), keys));
+    }
+}
+
+void BookHead::ShowSheet(const BookSheet& sheet) {
+    Set(Save, sheet.changed, TextId::IDC_WP_BT_SAVE, TextId::IDS_VIEW_NOCHANGES);
+    Set(Cancel, sheet.changed, TextId::IDC_WP_BT_CANCEL, TextId::IDS_VIEW_NOCHANGES);
+    Set(Undo, sheet.canUndo, TextId::IDS_VIEW_UNDO, TextId::IDS_VIEW_NOUNDO);
+    Set(Redo, sheet.canRedo, TextId::IDS_VIEW_REDO, TextId::IDS_VIEW_NOREDO);
+    Set(Insert, sheet.CanInsert(), TextId::IDC_WP_BT_DOWN, TextId::IDS_VIEW_NOINSERT);
+    Set(Remove, sheet.CanDelete(), TextId::IDC_WP_BT_DELETE, TextId::IDS_VIEW_NODELETE);
+    QString zone = sheet.zone.empty()
+                       ? QString()
+                       : ViewText(TextId::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(sheet.zone);
+    if (!zone.isEmpty() && !sheet.tableZone.empty() && sheet.tableZone != sheet.zone) {
+        zone += QStringLiteral(" (") + ViewText(TextId::IDS_VIEW_TABLEZONE) + u' ' +
+                QString::fromStdString(sheet.tableZone) + u')';
+    }
+    zone_->setText(zone);
+    zone_->setAccessibleName(zone);
+}
+
+void BookHead::ApplySkin() {
+    for (std::size_t part = 0; part < buttons_.size(); ++part) {
+        buttons_.at(part)->setIcon(Skin::MakeIcon(kLooks[part].icon));
+    }
+}
+
+BookFoot::BookFoot(QWidget* parent)
+    : QWidget(parent),
+      figures_{MakeFigure("bookSpeed", UnitKind::Speed), MakeFigure("bookDistance", UnitKind::Distance),
+               MakeFigure("bookTime", UnitKind::Time)} {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Skin::kGrid);
+    for (const Figure& figure : figures_) {
+        row->addWidget(figure.caption);
+        row->addWidget(figure.value);
+        row->addWidget(figure.unit);
+        row->addSpacing(5 * Skin::kGrid);
+        QObject::connect(figure.unit, &QToolButton::clicked, this, [this, figure] { OpenMenu(figure); });
+    }
+    row->addStretch(1);
+    ApplySkin();
+}
+
+BookFoot::Figure BookFoot::MakeFigure(const char* name, UnitKind kind) {
+    Figure figure;
+    figure.kind = kind;
+    figure.caption = new QLabel(this);
+    figure.caption->setProperty("secondary", true);
+    figure.value = new QLabel(this);
+    figure.value->setObjectName(QString::fromLatin1(name));
+    figure.value->setMinimumWidth(64);
+    figure.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    figure.unit = new QToolButton(this);
+    figure.unit->setObjectName(QString::fromLatin1(name) + QStringLiteral("Unit"));
+    figure.unit->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    // The arrow stands behind the unit.
+    figure.unit->setLayoutDirection(Qt::RightToLeft);
+    figure.unit->setFocusPolicy(Qt::TabFocus);
+    return figure;
+}
+
+void BookFoot::OpenMenu(const Figure& figure) {
+    if (!reports_.menuOpens) {
+        return;
+    }
+    reports_.menuOpens();
+    auto* menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("unitMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const int index : {0, 1}) {
+        menu->addAction(QString::fromStdString(BookUnitText(figure.kind, index)), this,
+                        [this, kind = figure.kind, index] { reports_.unitChosen(kind, index); });
+    }
+    menu->popup(figure.unit->mapToGlobal(QPoint(0, figure.unit->height())));
+}
+
+void BookFoot::ShowSheet(const BookSheet& sheet) {
+    for (const Figure& figure : figures_) {
+        figure.value->setText(QString::fromStdString(sheet.Total(figure.kind)));
+        figure.unit->setText(QString::fromStdString(sheet.UnitText(figure.kind)));
+    }
+}
+
+void BookFoot::ApplyTexts() {
+    constexpr std::pair<TextId, TextId> kTexts[] = {{TextId::IDC_WP_T_SPD, TextId::IDS_VIEW_AVERAGEHINT},
+                                                    {TextId::IDC_WP_T_DIST, TextId::IDS_VIEW_DISTANCEHINT},
+                                                    {TextId::IDC_WP_T_TIME, TextId::IDS_VIEW_TIMEHINT}};
+    for (std::size_t i = 0; i < figures_.size(); ++i) {
+        const QString caption = ViewText(kTexts[i].first);
+        figures_.at(i).caption->setText(caption);
+        Skin::Describe(figures_.at(i).value, caption);
+        Skin::Describe(figures_.at(i).unit, ViewText(kTexts[i].second));
+    }
+}
+
+void BookFoot::ApplySkin() {
+    for (const Figure& figure : figures_) {
+        figure.unit->setIcon(Skin::MakeIcon("chevron-down"));
+    }
+}
+
+}  // namespace Tarvik::Seaplan

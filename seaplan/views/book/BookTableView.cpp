@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/book/BookTableView.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
+
+#include "seaplan/views/book/BookModel.h"
+#include "seaplan/views/editors/QtKeys.h"
+#include "seaplan/views/editors/TableMeasures.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+using Skin::Colour;
+using Skin::Role;
+
+constexpr int kImageSize = 12;
+constexpr int kNameIndent = 16;
+constexpr int kWaypointIndent = 24;
+
+QColor GroundOf(const QStyleOptionViewItem& option, const QModelIndex& index) {
+    if (!index.data(BookModel::kIsRowRole).toBool()) {
+        return Colour(Role::Book);
+    }
+    if ((option.state & QStyle::State_Selected) != 0) {
+        return Colour(Role::Selection);
+    }
+    return index.data(BookModel::kPassedRole).toBool() ? Colour(Role::History) : Colour(Role::Panel);
+}
+
+QRect ExpanderRect(const QRect& cell) {
+    return {cell.left() + 2, cell.center().y() - kImageSize / 2, kImageSize, kImageSize};
+}
+
+QRect TextRect(const QRect& cell, const QModelIndex& index) {
+    if (index.column() != BookName) {
+        // A time and a course of three digits fill their columns.
+        return cell.adjusted(1, 0, index.column() < BookSpeed ? -3 : -1, 0);
+    }
+    const bool plain = index.data(BookModel::kPlainRole).toBool();
+    return cell.adjusted(plain ? kWaypointIndent : kNameIndent, 0, -3, 0);
+}
+
+void PaintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
+    QFont font = option.font;
+    font.setPixelSize(Skin::kTablePixels);
+    font.setBold(index.column() == BookName && index.data(BookModel::kPortRole).toBool());
+    painter.setFont(font);
+    painter.setPen(index.data(BookModel::kPassedRole).toBool() ? Colour(Role::Secondary)
+                                                               : Colour(Role::Text));
+    const QRect inner = TextRect(option.rect, index);
+    const QString text =
+        QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, inner.width());
+    painter.drawText(inner, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine, text);
+}
+
+}  // namespace
+
+void BookDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+    painter->save();
+    painter->fillRect(option.rect, GroundOf(option, index));
+    const auto expander = static_cast<BookExpander>(index.data(BookModel::kExpanderRole).toInt());
+    if (index.column() == BookName && expander != BookExpander::None) {
+        Skin::PaintIcon(*painter, ExpanderRect(option.rect),
+                        expander == BookExpander::Open ? "chevron-down" : "chevron-right",
+                        Colour(Role::Text));
+    }
+    PaintText(*painter, option, index);
+    if ((option.state & QStyle::State_HasFocus) != 0) {
+        painter->setPen(Colour(Role::Accent));
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
+    painter->restore();
+}
+
+bool BookDelegate::IsOnExpander(const QRect& cell, const QPoint& point) {
+    return ExpanderRect(cell).adjusted(-2, -4, 3, 4).contains(point);
+}
+
+BookTableView::BookTableView(QWidget* parent) : QTableView(parent) {
+    setObjectName(QStringLiteral("positionBookTable"));
+    setItemDelegate(new BookDelegate(this));
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setTabKeyNavigation(false);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(kTableRow);
+    verticalHeader()->setDefaultSectionSize(kTableRow);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setFixedHeight(kTableHeader);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setMinimumSectionSize(20);
+    horizontalHeader()->setStretchLastSection(true);
+    setMinimumHeight(kTableHeader + BookSheet::kLeastLines * kTableRow + 4);
+    ApplySkin();
+    QObject::connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { TellLeft(); });
+    QObject::connect(horizontalHeader(), &QHeaderView::sectionPressed, this, [this] { TellLeft(); });
+}
+
+void BookTableView::TellLeft() {
+    if (reports_.left && !setting_) {
+        reports_.left();
+    }
+}
+
+void BookTableView::ApplyWidths() {
+    int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < static_cast<int>(kBookColumns.size()); ++column) {
+        const int width = kBookColumns.at(static_cast<std::size_t>(column)).width;
+        setColumnWidth(column, width);
+        total += width;
+    }
+    setMinimumWidth(total + 4);
+}
+
+void BookTableView::ApplySkin() {
+    setStyleSheet(QStringLiteral("#positionBookTable { background: %1; } "
+                                 "QHeaderView::section { padding: 0; font-size: 11px; }")
+                      .arg(Colour(Role::Book).name()));
+}
+
+QRect BookTableView::EditorRect(int row, int column) const {
+    QRect rect = visualRect(model()->index(row, column));
+    if (rect.bottom() >= viewport()->height()) {
+        rect.translate(0, -kTableRow);
+    }
+    return rect;
+}
+
+void BookTableView::PutFront(int row) {
+    setting_ = true;
+    if (row < 0) {
+        setCurrentIndex({});
+        clearSelection();
+    } else if (currentIndex().row() != row) {
+        setCurrentIndex(model()->index(row, currentIndex().isValid() ? currentIndex().column() : BookName));
+    } else {
+        // QTableView::selectRow would take the front to the first column.
+        selectionModel()->select(currentIndex(),
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+    setting_ = false;
+}
+
+void BookTableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (!setting_ && current.isValid() && current.row() != previous.row() && reports_.rowSelected) {
+        reports_.rowSelected(current.row());
+    }
+}
+
+void BookTableView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    setFocus(Qt::MouseFocusReason);
+    const QModelIndex index = indexAt(event->pos());
+    if (!index.isValid()) {
+        return TellLeft();
+    }
+    setting_ = true;
+    setCurrentIndex(index);
+    setting_ = false;
+    const bool expands = index.data(BookModel::kExpanderRole).toInt() != static_cast<int>(BookExpander::None);
+    if (index.column() == BookName && expands &&
+        BookDelegate::IsOnExpander(visualRect(index), event->pos())) {
+        if (reports_.expand) {
+            reports_.expand(index.row());
+        }
+    } else if (reports_.cellClicked) {
+        reports_.cellClicked(index.row(), index.column());
+    }
+}
+
+void BookTableView::keyPressEvent(QKeyEvent* event) {
+    const QModelIndex index = currentIndex();
+    if (index.isValid() && reports_.key && reports_.key(PressOf(*event), index.row(), index.column())) {
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/book/BookWindow.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QVBoxLayout>
+
+#include <tarvik/skin/WindowMessages.h>
+
+#include "seaplan/panels/book/CPosBookDlg.h"
+#include "seaplan/views/editors/OutsidePress.h"
+#include "seaplan/views/window/ViewText.h"
+
+namespace Tarvik::Seaplan {
+
+BookWindow::BookWindow(QWidget* mainView)
+    : PanelFrame(mainView, QStringLiteral("positionBook"),
+                 {TextId::IDC_WP_BT_HELP, TextId::IDC_WP_BT_CLOSE}) {
+    AddHelpAndClose();
+    model_ = new BookModel(this);
+    head_ = new BookHead(this);
+    table_ = new BookTableView(this);
+    table_->setModel(model_);
+    table_->ApplyWidths();
+    foot_ = new BookFoot(this);
+    editors_ = new BookEditors(*this, *table_);
+    Body()->addWidget(head_);
+    Body()->addWidget(table_, 1);
+    Body()->addWidget(foot_);
+    ApplyTexts();
+    adjustSize();
+}
+
+void BookWindow::Attach(CPosBookDlg* panel) {
+    BookEditing& cells = panel->Cells();
+    BookCommands& commands = panel->Commands();
+    editors_->Attach(&cells);
+    SetReports({[&commands] { commands.OnHelp(); }, [&commands] { commands.OnClose(); },
+                [&cells] { cells.CommitEditors(); }});
+    table_->SetReports(
+        {[&cells](int row, int column) { cells.OnCellClicked(row, column); },
+         [&cells](int row) { cells.OnRowSelected(row); },
+         [this, &commands](int row) { commands.OnItemImage(row, model_->Sheet().ImageAt(row)); },
+         [&commands](KeyPress press, int row, int column) { return commands.OnTableKey(press, row, column); },
+         [&cells] { cells.CommitEditors(); }});
+    head_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnSaveKey(); },
+                       [&commands] { commands.OnCancel(); }, [&commands] { commands.OnUndo(); },
+                       [&commands] { commands.OnRedo(); }, [&commands] { commands.OnInsert(); },
+                       [&commands] { commands.OnDelete(); }});
+    foot_->SetReports({[&cells] { cells.CommitEditors(); },
+                       [&commands](UnitKind kind, int index) { commands.OnUnitChosen(kind, index); }});
+    // A press anywhere outside the table ends the editing.
+    new OutsidePress(
+        this, [this](const QWidget& widget) { return !isVisible() || editors_->Holds(widget); },
+        [&cells] { cells.CommitEditors(); });
+}
+
+void BookWindow::ShowSheet(const BookSheet& sheet) {
+    model_->Show(sheet);
+    table_->PutFront(sheet.selected);
+    head_->ShowSheet(sheet);
+    foot_->ShowSheet(sheet);
+}
+
+void BookWindow::BringRowIntoView(int row) {
+    table_->scrollTo(model_->index(row, BookName));
+}
+
+void BookWindow::TellClosed() {
+    if (parentWidget() != nullptr) {
+        constexpr auto kClosed = static_cast<QEvent::Type>(Skin::WindowMessage::kPositionBookClosed);
+        QCoreApplication::postEvent(parentWidget(), new QEvent(kClosed));
+    }
+}
+
+void BookWindow::ApplyTexts() {
+    DescribeHelpAndClose();
+    table_->setAccessibleName(ViewText(TextId::IDS_VIEW_BOOKTABLE));
+    model_->ApplyTexts();
+    editors_->ApplyTexts();
+    foot_->ApplyTexts();
+    ShowSheet(BookSheet(model_->Sheet()));
+}
+
+void BookWindow::ApplySkin() {
+    Skin::ToolWindow::ApplySkin();
+    head_->ApplySkin();
+    table_->ApplySkin();
+    foot_->ApplySkin();
+    editors_->ApplySkin();
+    table_->viewport()->update();
+}
+
+void BookWindow::FocusFirst() {
+    if (focusWidget() != nullptr && focusWidget()->isVisible()) {
+        return;
+    }
+    if (!table_->currentIndex().isValid()) {
+        table_->setCurrentIndex(model_->index(0, BookName));
+    }
+    table_->setFocus();
+}
+
+}  // namespace Tarvik::Seaplan
