@@ -11,7 +11,7 @@
 #include <benchmark/benchmark.h>
 
 #include "host/plugins/ais/core/Decoder.h"
-#include "host/plugins/ais/core/tests/SentenceWriter.h"
+#include "host/plugins/ais/core/SentenceWriter.h"
 
 namespace Tarvik::Ais {
 

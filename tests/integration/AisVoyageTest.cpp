@@ -11,7 +11,7 @@
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/write.hpp>
 
-#include "host/plugins/ais/core/tests/SentenceWriter.h"
+#include "host/plugins/ais/core/SentenceWriter.h"
 #include "host/plugins/ais/input/Feed.h"
 #include "host/plugins/ais/services/VesselServices.h"
 #include "seaplan/controllers/tests/ScheduleFixture.h"

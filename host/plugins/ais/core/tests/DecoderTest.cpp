@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "host/plugins/ais/core/Decoder.h"
-#include "host/plugins/ais/core/tests/SentenceWriter.h"
+#include "host/plugins/ais/core/SentenceWriter.h"
 
 namespace Tarvik::Ais {
 

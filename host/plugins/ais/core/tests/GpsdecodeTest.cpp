@@ -15,7 +15,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/plugins/ais/core/Decoder.h"
-#include "host/plugins/ais/core/tests/SentenceWriter.h"
+#include "host/plugins/ais/core/SentenceWriter.h"
 
 namespace Tarvik::Ais {
 

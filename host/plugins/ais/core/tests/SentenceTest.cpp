@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "host/plugins/ais/core/Sentence.h"
-#include "host/plugins/ais/core/tests/SentenceWriter.h"
+#include "host/plugins/ais/core/SentenceWriter.h"
 
 namespace Tarvik::Ais {
 

@@ -14,7 +14,7 @@
 #include <boost/asio/write.hpp>
 #include <gtest/gtest.h>
 
-#include "host/plugins/ais/core/tests/SentenceWriter.h"
+#include "host/plugins/ais/core/SentenceWriter.h"
 #include "host/plugins/ais/input/Feed.h"
 #include "testsupport/DataFolder.h"
 

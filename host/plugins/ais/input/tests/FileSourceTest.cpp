@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/plugins/ais/core/tests/SentenceWriter.h"
+#include "host/plugins/ais/core/SentenceWriter.h"
 #include "host/plugins/ais/input/FileSource.h"
 #include "testsupport/DataFolder.h"
 

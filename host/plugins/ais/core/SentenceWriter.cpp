@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/ais/core/tests/SentenceWriter.h"
+#include "host/plugins/ais/core/SentenceWriter.h"
 
 #include <algorithm>
 #include <cstdio>
