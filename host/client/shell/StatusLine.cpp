@@ -102,6 +102,8 @@ void StatusLine::ShowWord(const Interface::StatusWord& word) {
     if (label == nullptr) {
         label = MakeLabel(line_, ("word_" + word.owner).c_str());
         label->setTextFormat(Qt::PlainText);
+        // The others took theirs before the theme's came.
+        label->setFont(connection_->font());
         line_.insertPermanentWidget(kOnTheLeft, label);
     }
     label->setText(QString::fromStdString(word.text));

@@ -124,7 +124,7 @@ TEST_F(FeedTest, FloodAndGarbageLeaveTheAskingThreadFree) {
     EXPECT_GT(feed.Status().faults, 0U);
     RecordProperty("longestMs",
                    static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(longest).count()));
-    EXPECT_LT(longest, std::chrono::seconds(2)) << "the bound of a question on a machine that does much else";
+    EXPECT_LT(longest, std::chrono::seconds(10)) << "a bound for a machine that does much else";
 }
 
 TEST_F(FeedTest, OtherInputsReplaceThoseBefore) {
