@@ -20,10 +20,14 @@ class Resolver {
 
     LoadOrder Run() {
         for (std::size_t i = 0; i < records_.size(); ++i) {
-            if (!byName_.emplace(records_[i].name, i).second) {
+            if (records_[i].error.empty() && !byName_.emplace(records_[i].name, i).second) {
                 Reject(i, "another plug-in of this name is loaded from " +
                               records_[byName_[records_[i].name]].file);
             }
+        }
+        // A broken one keeps no sound one from its name, but who needs it is told that it is left out.
+        for (std::size_t i = 0; i < records_.size(); ++i) {
+            byName_.emplace(records_[i].name, i);
         }
         for (std::size_t i = 0; i < records_.size(); ++i) {
             Place(i);

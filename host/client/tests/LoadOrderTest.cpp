@@ -73,6 +73,16 @@ TEST(LoadOrder, ABrokenOneTakesItsFollowersAlong) {
     EXPECT_EQ(plan.rejected[0].reason, "torn");
 }
 
+TEST(LoadOrder, ABrokenOneDoesNotTakeASoundOnesName) {
+    PluginRecord broken = Record("A", "1");
+    broken.error = "torn";
+    const auto plan = ResolveLoadOrder({broken, Record("A", "2"), Record("B", "1", "A,2")}, kHost);
+    EXPECT_THAT(plan.order, ElementsAre(1, 2));
+    ASSERT_EQ(plan.rejected.size(), 1U);
+    EXPECT_EQ(plan.rejected[0].index, 0U);
+    EXPECT_EQ(plan.rejected[0].reason, "torn");
+}
+
 TEST(LoadOrder, TheSecondOfOneNameIsLeftOut) {
     const auto plan = ResolveLoadOrder({Record("A", "1"), Record("A", "2")}, kHost);
     EXPECT_THAT(plan.order, ElementsAre(0));
