@@ -167,7 +167,7 @@ TEST_F(TreeStateTest, TheRemarkMarkIsFoundAgainAfterEveryRebuild) {
     desk.AddVoyage("Full", {.name = "A"});
     desk.AddVoyage("Full", {.name = "B"});
     ctrl.ReloadTree();
-    ctrl.Remarks().Open(tree.Find("A"));
+    ctrl.Notes().Mark().Open(tree.Find("A"));
     ctrl.RebuildCategory(CategoryId("Full"));
     ctrl.SetRemarkMark(kNoRow, true);
     EXPECT_EQ(Voyage("A").vrk, 1);
@@ -177,7 +177,7 @@ TEST_F(TreeStateTest, TheRemarkMarkIsFoundAgainAfterEveryRebuild) {
     ctrl.SetRemarkMark(kNoRow, false);
     EXPECT_EQ(Voyage("A").vrk, 0);
     EXPECT_TRUE(Shows("A", Item::kVoyageNoRemark));
-    ctrl.Remarks().Open(tree.Find("Full"));
+    ctrl.Notes().Mark().Open(tree.Find("Full"));
     ctrl.ReloadTree();
     ctrl.SetRemarkMark(kNoRow, true);
     EXPECT_EQ(desk.Category("Full").crk, 1);
@@ -188,7 +188,7 @@ TEST_F(TreeStateTest, TheRemarkMarkIsKeptWhileItsRowIsInTheBin) {
     desk.AddCategory("Full");
     desk.AddVoyage("Full", {.name = "A"});
     ctrl.ReloadTree();
-    ctrl.Remarks().Open(tree.Find("A"));
+    ctrl.Notes().Mark().Open(tree.Find("A"));
     ASSERT_EQ(Click("A", Item::kDeleteVoyage), 1);
     ctrl.SetRemarkMark(kNoRow, true);
     EXPECT_EQ(Voyage("A").vrk, 1);

@@ -129,7 +129,7 @@ TEST_F(TreeFixture, ARemarkMarkFollowsOnlyWhileRemarksAreOpen) {
     ctrl.ReloadTree();
     ctrl.SetRemarkMark(tree.Find("A"), true);
     EXPECT_EQ(Voyage("A").vrk, 0);
-    ctrl.Remarks().Open(tree.Find("Full"));
+    ctrl.Notes().Mark().Open(tree.Find("Full"));
     ctrl.SetRemarkMark(kNoRow, true);
     EXPECT_EQ(desk.Category("Full").crk, 1);
     EXPECT_TRUE(Shows("Full", "Voyage.parent.svr2.exist"));

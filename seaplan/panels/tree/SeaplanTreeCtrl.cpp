@@ -5,6 +5,21 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+/// The command behind an item, null when neither table has one.
+const TreeCommand* CommandOf(const std::string& item, const TreeCommands& one, const TreeCommands& other) {
+    for (const TreeCommands* commands : {&one, &other}) {
+        const auto found = commands->find(item);
+        if (found != commands->end()) {
+            return &found->second;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
 SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
     : parts_(given),
       sortPanel_(given.sortPopup, [this](const std::string& ci, int key) { return SetSortKey(ci, key); }),
@@ -12,6 +27,7 @@ SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
       voyages_(parts_),
       vessels_(parts_, given.vesselView),
       tracks_(parts_),
+      notes_(parts_),
       keys_(given.tree,
             {[this](TreeRow row) { OnRowPressed(row); }, [this](TreeRow row) { OnRowPressed(row, true); },
              [this](TreeRow row, const std::string& item) { OnItemClicked(row, item); },
@@ -101,7 +117,8 @@ void SeaplanTreeCtrl::ApplyLanguage() {
 }
 
 bool SeaplanTreeCtrl::HasCommand(const std::string& item) const {
-    return categoryCommands_.contains(item) || voyageCommands_.contains(item);
+    return CommandOf(item, categoryCommands_, voyageCommands_) != nullptr ||
+           CommandOf(item, notes_.OfCategory(), notes_.OfVoyage()) != nullptr;
 }
 
 void SeaplanTreeCtrl::OnRowPressed(TreeRow row, bool fold) {
@@ -120,12 +137,12 @@ int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
     if (PortCallOpener* panel = isCategory ? nullptr : parts_.PortCalls()) {
         panel->SetVoyage(parts_.selection.Voyage().vi);
     }
-    const TreeCommands& commands = isCategory ? categoryCommands_ : voyageCommands_;
-    const auto command = commands.find(item);
-    if (command == commands.end()) {
+    const TreeCommand* command = isCategory ? CommandOf(item, categoryCommands_, notes_.OfCategory())
+                                            : CommandOf(item, voyageCommands_, notes_.OfVoyage());
+    if (command == nullptr) {
         return 1;
     }
-    const int result = command->second();
+    const int result = (*command)();
     return result < 0 ? result : 1;
 }
 

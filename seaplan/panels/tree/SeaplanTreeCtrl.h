@@ -4,6 +4,7 @@
 #include <string>
 
 #include "seaplan/panels/tree/CategoryCommands.h"
+#include "seaplan/panels/tree/NoteCommands.h"
 #include "seaplan/panels/tree/TrackCommands.h"
 #include "seaplan/panels/tree/TreeKeys.h"
 #include "seaplan/panels/tree/VesselCommands.h"
@@ -56,7 +57,8 @@ class SeaplanTreeCtrl {
 
     CategoryCommands& Categories() { return categories_; }
     TreeRename& Renaming() { return parts_.rename; }
-    RemarkMark& Remarks() { return parts_.remark; }
+    /// Remarks and consumption; a panel for them is set here.
+    NoteCommands& Notes() { return notes_; }
     VesselCommands& Vessels() { return vessels_; }
     VoyageTreeSortDlg& SortPanel() { return sortPanel_; }
     TreeContext& Context() { return parts_.context; }
@@ -68,6 +70,7 @@ class SeaplanTreeCtrl {
     VoyageCommands voyages_;
     VesselCommands vessels_;
     TrackCommands tracks_;
+    NoteCommands notes_;
     TreeKeys keys_;
     TreeCommands categoryCommands_;
     TreeCommands voyageCommands_;

@@ -72,6 +72,7 @@ struct TreeParts {
 
 /// Commands by the name of their item. A command works on the current rows and answers 0 or the negative
 /// number of the failed step.
-using TreeCommands = std::map<std::string, std::function<int()>>;
+using TreeCommand = std::function<int()>;
+using TreeCommands = std::map<std::string, TreeCommand>;
 
 }  // namespace Tarvik::Seaplan

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+/// A port distance table kept as a voyage.
+#include <gmock/gmock.h>
+
+#include "seaplan/panels/tests/KeyTexts.h"
+#include "seaplan/panels/tests/PanelDesk.h"
+#include "seaplan/panels/tests/TreeViews.h"
+#include "seaplan/panels/tree/TableVoyage.h"
+
+namespace Tarvik::Seaplan {
+
+using ::testing::ElementsAre;
+
+namespace {
+
+class TableVoyageTest : public ::testing::Test {
+  protected:
+    TableVoyageTest() {
+        desk.AddCategory("Bulk");
+        desk.AddVoyage("Bulk", {.name = "Used"});
+        desk.AddVoyage("Bulk", {.name = "Binned", .state = InRecycleBin});
+        desk.AddVoyage("Bulk", {.name = "Gone", .state = Destroyed});
+        std::string user;
+        desk.catalog.Connect(user);
+        desk.catalog.Load(user);
+        for (const auto& [ci, category] : desk.store.categories) {
+            parts.context.categorySorts[ci] = {};
+        }
+        parts.builder.RebuildAll();
+        desk.catalog.GetNameMaps(parts.context.categoryNames, parts.context.voyageNames);
+        desk.ForgetRecords();
+    }
+    int Create(const std::string& category, const std::string& voyage) {
+        return CreateVoyageFromTable(parts, category, voyage, made);
+    }
+    std::string LastNotice() const {
+        return desk.messages.messages.empty() ? std::string() : desk.messages.messages.back().text;
+    }
+
+    KeyTexts texts;
+    PanelDesk desk;
+    RecordingTree tree;
+    RecordingTextBox box;
+    RecordingVesselView vessels;
+    RecordingChoices sortPopup;
+    TreeParts parts{{desk.store, desk.catalog, desk.voyages, tree, box, vessels, sortPopup}};
+    TableVoyage made{"old", "old"};
+};
+
+}  // namespace
+
+TEST_F(TableVoyageTest, AnEmptyNameIsToldAndNothingIsSent) {
+    for (const auto& [category, voyage] : {std::pair("", "A"), std::pair("Bulk", ""), std::pair("", "")}) {
+        EXPECT_EQ(Create(category, voyage), -1);
+        EXPECT_EQ(LastNotice(), "IDS_PORTDISTAB_NOINFWARN");
+        EXPECT_EQ(made.ci + made.vi, "");
+    }
+    EXPECT_TRUE(desk.host.requests.empty());
+}
+
+TEST_F(TableVoyageTest, ATakenNameIsToldInTheWordsOfTheLanguage) {
+    EXPECT_EQ(Create("Bulk", "Used"), -2);
+    EXPECT_EQ(LastNotice(), "IDS_VOYTREE_SAMENAME_WARN_FORDISTAB");
+    EXPECT_EQ(Create("Bulk", "Binned"), -2);
+    EXPECT_EQ(LastNotice(), "IDS_VOYTREE_SAMENAME_WARN_FORDISTAB(已被删除)");
+    texts.prefix = u"This ";
+    EXPECT_EQ(Create("Bulk", "Binned"), -2);
+    EXPECT_EQ(LastNotice(), "This IDS_VOYTREE_SAMENAME_WARN_FORDISTAB(have been delete)");
+    EXPECT_EQ(Create("Bulk", "Used"), -2);
+    EXPECT_EQ(LastNotice(), "This IDS_VOYTREE_SAMENAME_WARN_FORDISTAB");
+    EXPECT_TRUE(desk.host.requests.empty());
+}
+
+TEST_F(TableVoyageTest, AVoyageGoesIntoTheCategoryOfThisName) {
+    EXPECT_EQ(Create("Bulk", "Kept"), 0);
+    EXPECT_EQ(made.ci, desk.Category("Bulk").ci);
+    EXPECT_EQ(made.vi, desk.Voyage("Kept").vi);
+    EXPECT_EQ(desk.Count(Ask::kAddCategory), 0);
+    EXPECT_EQ(parts.context.voyageNames.at("Kept"), InUse);
+    EXPECT_THAT(tree.Shown(), ElementsAre("Bulk", "  Used", "  Kept"));
+    EXPECT_EQ(tree.Row(tree.Find("Bulk"))->items.at("cat.statistic").text, "  (2)");
+    EXPECT_EQ(Create("Bulk", "Gone"), 0) << "the name of a destroyed voyage is free";
+}
+
+TEST_F(TableVoyageTest, ACategoryThatIsNotThereIsMade) {
+    EXPECT_EQ(Create("Tankers", "Kept"), 0);
+    EXPECT_EQ(made.ci, desk.Category("Tankers").ci);
+    EXPECT_EQ(parts.context.categoryNames.at("Tankers"), InUse);
+    EXPECT_THAT(tree.Shown(), ElementsAre("Bulk", "  Used", "Tankers", "  Kept"));
+    EXPECT_FALSE(box.open) << "its name was given";
+    EXPECT_EQ(parts.builder.RebuildCategory(made.ci), 0) << "it can be sorted";
+}
+
+TEST_F(TableVoyageTest, ARefusalOfTheServerEndsItWhereItStands) {
+    desk.Refuse(Ask::kAddCategory);
+    EXPECT_EQ(Create("Tankers", "Kept"), -3);
+    desk.Heal();
+    desk.Refuse(Ask::kAddVoyage);
+    EXPECT_EQ(Create("Tankers", "Kept"), -4);
+    EXPECT_THAT(tree.Shown(), ElementsAre("Bulk", "  Used", "Tankers")) << "what was done stays done";
+    EXPECT_FALSE(parts.context.voyageNames.contains("Kept"));
+}
+
+}  // namespace Tarvik::Seaplan

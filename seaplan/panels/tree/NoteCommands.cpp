@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tree/NoteCommands.h"
+
+#include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/protocol/RemarkMessages.h"
+
+namespace Tarvik::Seaplan {
+
+void NoteCommands::SetRemarks(OpenRemarks open) {
+    openRemarks_ = std::move(open);
+    for (const char* item : {Item::kCategoryNoRemark, Item::kCategoryRemark}) {
+        ofCategory_[item] = [this] { return CategoryRemarks(); };
+    }
+    for (const char* item : {Item::kVoyageNoRemark, Item::kVoyageRemark}) {
+        ofVoyage_[item] = [this] { return VoyageRemarks(); };
+    }
+}
+
+void NoteCommands::SetConsumption(OpenConsumption open) {
+    openConsumption_ = std::move(open);
+    ofVoyage_[Item::kConsumption] = [this] { return Consumption(); };
+}
+
+int NoteCommands::CategoryRemarks() {
+    const VoyCategory category = p_.selection.Category();
+    return Show(p_.selection.CategoryRow(), CategoryRemark, category.ci, category.cn);
+}
+
+int NoteCommands::VoyageRemarks() {
+    const VoyInfo& voyage = p_.selection.Voyage();
+    return Show(p_.selection.VoyageRow(), VoyageRemark, voyage.vi, voyage.vn);
+}
+
+int NoteCommands::Show(TreeRow row, int type, const std::string& id, const std::string& name) {
+    if (openRemarks_(row, type, id, name) < 0) {
+        return -41;
+    }
+    // Only now: while the panel leaves the object before, a mark without a row is still that one's.
+    p_.remark.Open(row);
+    return 0;
+}
+
+int NoteCommands::Consumption() {
+    const VoyInfo& voyage = p_.selection.Voyage();
+    BunkerFigures figures{};
+    if (p_.context.voyages.GetFigures(voyage.vi, figures) != 0) {
+        return -42;
+    }
+    if (voyage.portCalls.empty()) {
+        p_.context.boxes.Notice(TextId::IDS_TREE_WARNCOUSUMNOVOY);
+        return 0;
+    }
+    // What a finished voyage has burnt can be read and not changed.
+    const Util::_datetime_t now;
+    openConsumption_(figures, voyage.portCalls.back().eta > now);
+    return 0;
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tree/TableVoyage.h"
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/tree/RowTexts.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+/// Why a name is taken. Its first letter tells an English text from the others, whose addition is Chinese.
+std::string TakenText(int state) {
+    std::string text = Text(TextId::IDS_VOYTREE_SAMENAME_WARN_FORDISTAB);
+    if (state == InRecycleBin) {
+        text += text.starts_with('T') ? "(have been delete)" : "(已被删除)";
+    }
+    return text;
+}
+
+TreeRow RowOfCategory(const TreeContext& c, const std::string& name) {
+    for (TreeRow row = c.tree.GetRootItem(); row != kNoRow; row = c.tree.GetNextSiblingItem(row)) {
+        const VoyCategory* category = c.CategoryOf(row);
+        if (category != nullptr && category->cn == name && c.tree.GetItemStyle(row) == kCategoryStyle) {
+            return row;
+        }
+    }
+    return kNoRow;
+}
+
+/// A new category's row, kNoRow when the server does not make it.
+TreeRow NewCategory(TreeParts& parts, const std::string& name) {
+    TreeContext& c = parts.context;
+    std::string ci;
+    if (c.catalog.AddCategory(name, ci) != 0) {
+        return kNoRow;
+    }
+    const auto made = c.store.categories.find(ci);
+    if (made == c.store.categories.end()) {
+        return kNoRow;
+    }
+    c.categorySorts[ci] = {};
+    c.categoryNames[name] = InUse;
+    return parts.builder.AddCategoryRow(made->second);
+}
+
+}  // namespace
+
+int CreateVoyageFromTable(TreeParts& parts, const std::string& category, const std::string& voyage,
+                          TableVoyage& out) {
+    TreeContext& c = parts.context;
+    out = {};
+    if (category.empty() || voyage.empty()) {
+        c.boxes.Notice(TextId::IDS_PORTDISTAB_NOINFWARN);
+        return -1;
+    }
+    const auto known = c.voyageNames.find(voyage);
+    if (known != c.voyageNames.end() && known->second != Destroyed) {
+        c.boxes.NoticeText(TakenText(known->second));
+        return -2;
+    }
+    TreeRow row = RowOfCategory(c, category);
+    row = row == kNoRow ? NewCategory(parts, category) : row;
+    if (row == kNoRow) {
+        return -3;
+    }
+    out.ci = c.CategoryOf(row)->ci;
+    if (c.catalog.AddVoyage(voyage, out.ci, out.vi) != 0) {
+        return -4;
+    }
+    c.voyageNames[voyage] = InUse;
+    parts.builder.AddVoyageRow(row, out.vi);
+    return RefreshCounts(c) == 0 ? 0 : -5;
+}
+
+}  // namespace Tarvik::Seaplan
