@@ -18,10 +18,11 @@ class NoteCommandsTest : public TreeFixture {
         desk.AddVoyage("Full", {.name = "A", .calls = PanelDesk::Calls(5)});
         desk.AddVoyage("Full", {.name = "B"});
         ctrl.ReloadTree();
-        ctrl.Notes().SetRemarks([this](TreeRow row, int type, const std::string& id, const std::string& name) {
-            opened.push_back(tree.GetItemText(row) + " " + std::to_string(type) + " " + id + " " + name);
-            return answer;
-        });
+        ctrl.Notes().SetRemarks(
+            [this](TreeRow row, int type, const std::string& id, const std::string& name) {
+                opened.push_back(tree.GetItemText(row) + " " + std::to_string(type) + " " + id + " " + name);
+                return answer;
+            });
         ctrl.Notes().SetConsumption([this](const BunkerFigures& figures, bool editable) {
             shown.push_back(std::to_string(figures.front()) + (editable ? " editable" : " fixed"));
         });
