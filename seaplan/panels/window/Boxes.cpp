@@ -43,6 +43,10 @@ bool Boxes::Question(TextId id) {
     return Ask(Text(id), QuestionBox, {}) == SysMsgHandleRes::Yes;
 }
 
+bool Boxes::Denied(TextId id) {
+    return Ask(Text(id), QuestionBox, {}) == SysMsgHandleRes::No;
+}
+
 bool Boxes::Confirm(TextId id) {
     return Ask(Text(id), OkCancelBox, {}) == SysMsgHandleRes::Ok;
 }

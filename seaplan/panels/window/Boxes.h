@@ -29,6 +29,8 @@ class Boxes {
     void NoticeText(const std::string& text);
     /// True for yes.
     bool Question(TextId id);
+    /// The same question; true for no.
+    bool Denied(TextId id);
     /// True for OK.
     bool Confirm(TextId id);
     /// Tells that something was not done, in words without a key.
