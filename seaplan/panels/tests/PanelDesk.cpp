@@ -40,12 +40,12 @@ void AddRemark(int type, const std::string& id) {
 
 }  // namespace
 
-PanelDesk::PanelDesk() : names(IdsByName()) {
+PanelDesk::PanelDesk(const std::string& database) : names(IdsByName()) {
     folder.WritePoints(DeskPoints());
     auto ways = std::make_unique<DeskRoutes>();
     routes = ways.get();
     std::string error;
-    server_ = Server::EmbeddedServer::Open(":memory:", std::move(ways), error, [] { return kServerTime; });
+    server_ = Server::EmbeddedServer::Open(database, std::move(ways), error, [] { return kServerTime; });
     Require(server_ != nullptr, error);
     host.server = [this](const Interface::VoyServerRequest& request) { return Answer(request); };
     catalog.SetVoyController(&voyages);

@@ -46,8 +46,13 @@ inline constexpr DeskRequest kOpenRoute{5, "type:\"6\",vr:\"1\""};
 inline constexpr DeskRequest kCloseRoute{5, "type:\"6\",vr:\"0\""};
 inline constexpr DeskRequest kOpenAis{5, "type:\"7\",va:\"1\""};
 inline constexpr DeskRequest kCloseAis{5, "type:\"7\",va:\"0\""};
+inline constexpr DeskRequest kSaveFigures{6};
 inline constexpr DeskRequest kLoadBook{7};
 inline constexpr DeskRequest kSaveBook{9};
+inline constexpr DeskRequest kAddRemark{9, "optype:\"1\""};
+inline constexpr DeskRequest kDeleteRemark{9, "optype:\"2\""};
+inline constexpr DeskRequest kChangeRemark{9, "optype:\"3\""};
+inline constexpr DeskRequest kLoadRemarks{9, "optype:\"4\""};
 inline constexpr DeskRequest kLoadPortCalls{10};
 inline constexpr DeskRequest kSavePortCalls{11};
 inline constexpr DeskRequest kAddAisTime{13};
@@ -75,7 +80,8 @@ struct DeskVoyage {
 /// 2024-03-01 00:00:00 UTC, the user's zone UTC+8. Arranging throws where it fails, and leaves no record.
 class PanelDesk {
   public:
-    PanelDesk();
+    /// On a data base that goes with the desk, or on one that is kept in a file.
+    explicit PanelDesk(const std::string& database = ":memory:");
     ~PanelDesk();
     PanelDesk(const PanelDesk&) = delete;
     PanelDesk& operator=(const PanelDesk&) = delete;
