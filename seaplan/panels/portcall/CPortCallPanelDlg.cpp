@@ -15,6 +15,13 @@ CPortCallPanelDlg::CPortCallPanelDlg(PortCallDesk::Parts parts)
     desk_.ResetSheet();
 }
 
+void CPortCallPanelDlg::SetVoyage(const std::string& vi) {
+    filling_.SetVoyage(vi);
+    if (voyageSet_) {
+        voyageSet_();
+    }
+}
+
 void CPortCallPanelDlg::ApplyLanguage() {
     desk_.ShowTexts();
     const PortCallState& state = desk_.Sheet().state;

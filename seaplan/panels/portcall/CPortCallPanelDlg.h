@@ -27,7 +27,15 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener, pub
     }
 
     /// The voyage of the next FillForVoyage or Reset; the one on show stays until then.
-    void SetVoyage(const std::string& vi) override { filling_.SetVoyage(vi); }
+    void SetVoyage(const std::string& vi) override;
+    /// Called when SetVoyage has set another voyage or the same one again.
+    void SetVoyageListener(std::function<void()> listener) { voyageSet_ = std::move(listener); }
+    /// The voyage of the last SetVoyage.
+    const std::string& NextVoyage() const { return filling_.NextVoyage(); }
+    /// Saves consumption figures for that voyage. 0 or negative.
+    int SaveFigures(const BunkerFigures& figures) {
+        return desk_.Voyages().SaveFigures(NextVoyage(), figures);
+    }
     int FillForVoyage(int mode) override { return filling_.Open(mode); }
     void Reset() override { filling_.Reset(); }
     void ShowBesideTree() override;
@@ -57,6 +65,7 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener, pub
     VoyageFilling filling_;
     PanelCommands commands_;
     RowCommands rows_;
+    std::function<void()> voyageSet_;
 };
 
 }  // namespace Tarvik::Seaplan

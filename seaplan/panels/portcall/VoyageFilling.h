@@ -23,6 +23,7 @@ class VoyageFilling {
 
     /// The voyage of the next Open or Reset; the one on show stays until then.
     void SetVoyage(const std::string& vi) { next_ = vi; }
+    const std::string& NextVoyage() const { return next_; }
     /// Shows that voyage. `mode` as VoyController::LoadSchedule draws. 0, also when it cannot be loaded and
     /// the table stays empty; -1 no such voyage; -2 none at all, which is told; -3 its rows cannot be shown;
     /// -4 the changes of the voyage on show were to be saved and could not be, so that it stays with them.

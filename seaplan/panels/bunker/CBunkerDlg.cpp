@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/bunker/CBunkerDlg.h"
+
+#include <utility>
+
+#include <tarvik/util/StringUtl.h>
+
+#include "seaplan/panels/language/LoadText.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+using Util::StringUtl;
+
+constexpr unsigned kMost = 500000;
+/// So many letters of a field are read.
+constexpr std::size_t kLettersRead = 128;
+
+int NumberOf(const std::string& text) {
+    const std::u16string wide = StringUtl::TranslateString(text);
+    return StringUtl::ToInt(StringUtl::TranslateString(wide.substr(0, kLettersRead)));
+}
+
+}  // namespace
+
+CBunkerDlg::CBunkerDlg(Parts parts) : p_(std::move(parts)), boxes_(p_.view) {}
+
+void CBunkerDlg::Open(const BunkerFigures& figures, bool editable) {
+    current_ = figures;
+    saved_ = figures;
+    p_.view.ShowFigures(current_);
+    SetState(false, editable);
+    p_.view.MoveTo(BesideTree(p_.treePlace()));
+    p_.view.Show();
+}
+
+void CBunkerDlg::SetState(bool dirty, bool editable) {
+    dirty_ = dirty;
+    p_.view.ShowState(dirty, editable);
+    ShowTitle();
+}
+
+void CBunkerDlg::ShowTitle() {
+    const std::string name = p_.voyageName();
+    const std::string title = Text(TextId::IDC_BK_T_TITLE);
+    p_.view.SetCaption(name.empty() ? title : title + " - " + name, dirty_);
+}
+
+void CBunkerDlg::OnVoyageSet() {
+    ShowTitle();
+}
+
+void CBunkerDlg::OnTyped(std::size_t field, const std::string& text) {
+    const int value = NumberOf(text);
+    if (value == current_.at(field)) {
+        return;
+    }
+    // A negative number is a huge one here, and is refused like one.
+    if (static_cast<unsigned>(value) <= kMost) {
+        current_.at(field) = value;
+        SetState(true, true);
+        return;
+    }
+    boxes_.Notice(TextId::IDS_BK_ERR_INPUT);
+    p_.view.ShowFigures(current_);
+}
+
+void CBunkerDlg::Save() {
+    SetState(false, true);
+    saved_ = current_;
+    p_.save(saved_);
+}
+
+void CBunkerDlg::OnSave() {
+    if (IsDirty()) {
+        Save();
+    }
+    // What was read of a text like "12 kg" is what stands there now.
+    p_.view.ShowFigures(current_);
+    SetState(false, true);
+}
+
+void CBunkerDlg::OnUndo() {
+    current_ = saved_;
+    p_.view.ShowFigures(current_);
+    SetState(false, true);
+}
+
+void CBunkerDlg::OnClose() {
+    if (IsDirty() && boxes_.Question(TextId::IDS_BK_TIP_SAVE)) {
+        Save();
+    }
+    SetState(false, true);
+    p_.view.Hide();
+}
+
+void CBunkerDlg::ApplyLanguage() {
+    p_.view.ApplyTexts();
+    ShowTitle();
+}
+
+void CBunkerDlg::OnLogout() {
+    p_.view.Hide();
+    current_ = saved_ = {};
+    SetState(false, false);
+}
+
+}  // namespace Tarvik::Seaplan
