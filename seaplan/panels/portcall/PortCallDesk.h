@@ -12,6 +12,7 @@
 #include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/panels/remark/CRemarkPanel.h"
 
 namespace Tarvik::Seaplan {
 
@@ -27,6 +28,8 @@ class PortCallDesk {
         PortCallView& view;
         std::function<Rect()> treePlace;          ///< where the voyage tree stands on the screen
         std::function<CPosBookDlg*()> book = {};  ///< the position book, made when it is asked for
+        /// The remark panel of the port calls, made at its first use; empty where there is none.
+        std::function<CRemarkPanel*()> remarks{};
     };
     explicit PortCallDesk(Parts parts) : p_(std::move(parts)), boxes_(p_.view) {}
 
@@ -36,6 +39,8 @@ class PortCallDesk {
     VoyController& Voyages() const { return p_.voyages; }
     PortDirectory& Ports() const { return p_.ports; }
     PortCallView& View() const { return p_.view; }
+    /// Null where there is none.
+    CRemarkPanel* Remarks() const { return p_.remarks ? p_.remarks() : nullptr; }
     CellsView& Cells() const { return p_.view.Cells(); }
 
     /// Brings the window up to date; nothing is told that it shows already.

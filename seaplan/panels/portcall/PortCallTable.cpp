@@ -210,7 +210,7 @@ RowActions ActionsOf(const PortCallTable& table, int row) {
     // No port moves above the ship's position.
     const bool belowShip =
         row > 0 && table.Rows()[row - 1].look == RowClass::Highlighted && row - 1 == table.FindLastAisRow();
-    return {row > 0 && row < filled && !belowShip, row + 1 < filled, row < filled};
+    return {row > 0 && row < filled && !belowShip, row + 1 < filled, row < filled, true};
 }
 
 }  // namespace Tarvik::Seaplan

@@ -38,6 +38,7 @@ namespace PortCallImage {
 inline constexpr const char* kMoveUp = "itemMoveUp";
 inline constexpr const char* kMoveDown = "itemMovedown";
 inline constexpr const char* kDelete = "itemdel";
+inline constexpr const char* kRemark = "itemRemark";
 
 }  // namespace PortCallImage
 
@@ -105,6 +106,7 @@ struct RowActions {
     bool moveUp = false;
     bool moveDown = false;
     bool remove = false;
+    bool remark = false;
 };
 /// What a row operation on a table row would change.
 RowActions ActionsOf(const PortCallTable& table, int row);

@@ -33,6 +33,15 @@ int RowCommands::Move(int row, const std::string& name) {
     return result;
 }
 
+/// The remarks of a port belong to the voyage's id with the port's name behind it.
+int RowCommands::OpenRemarks(int row) {
+    const std::string port = desk_.Sheet().table.ReadRow(row).ppn;
+    if (CRemarkPanel* remarks = desk_.Remarks()) {
+        remarks->Open(0, PortCallRemark, desk_.Sheet().voyageId + port, port);
+    }
+    return 0;
+}
+
 int RowCommands::OnItemImage(int row, const std::string& name) {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
@@ -52,7 +61,7 @@ int RowCommands::OnItemImage(int row, const std::string& name) {
     if (name == PortCallImage::kMoveUp && corrected > 0 && row - 1 == ship) {
         return 0;
     }
-    const int result = Move(row, name);
+    const int result = name == PortCallImage::kRemark ? OpenRemarks(row) : Move(row, name);
     editing_.CommitEditors();
     return result;
 }

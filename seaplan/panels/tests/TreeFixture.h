@@ -28,7 +28,10 @@ class TreeFixture : public ::testing::Test {
     RecordingTextBox box;
     RecordingVesselView vessels;
     RecordingChoices sortPopup;
-    SeaplanTreeCtrl ctrl{{desk.store, desk.catalog, desk.voyages, tree, box, vessels, sortPopup}};
+    CRemarkPanel* remarkPanel = nullptr;  ///< the tree's, where the test has one
+    CBunkerDlg* bunkers = nullptr;
+    SeaplanTreeCtrl ctrl{{desk.store, desk.catalog, desk.voyages, tree, box, vessels, sortPopup,
+                          [this] { return remarkPanel; }, [this] { return bunkers; }}};
 
     /// Two port calls a day apart, for a record.
     static PortCallRows TwoCalls(int day) {

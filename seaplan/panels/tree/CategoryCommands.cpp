@@ -15,7 +15,9 @@ TreeCommands CategoryCommands::Table() {
             {Item::kSort, [this] { return OpenSortPanel(); }},
             {Item::kAscending, [this] { return SetDirection(Descending); }},
             {Item::kDescending, [this] { return SetDirection(Ascending); }},
-            {Item::kRenameCategory, [this] { return Rename(); }}};
+            {Item::kRenameCategory, [this] { return Rename(); }},
+            {Item::kCategoryNoRemark, [this] { return OpenRemarks(); }},
+            {Item::kCategoryRemark, [this] { return OpenRemarks(); }}};
 }
 
 std::string CategoryCommands::NewName() const {
@@ -141,6 +143,12 @@ int CategoryCommands::SetDirection(int direction) {
     }
     sort->second.direction = direction;
     return p_.builder.RebuildCategory(ci) == 0 ? 0 : -15;
+}
+
+int CategoryCommands::OpenRemarks() {
+    const VoyCategory& category = p_.selection.Category();
+    return p_.OpenRemarks(p_.selection.CategoryRow(), CategoryRemark, category.ci, category.cn) == 0 ? 0
+                                                                                                     : -16;
 }
 
 int CategoryCommands::Rename() {

@@ -32,6 +32,7 @@ class CategoryCommands {
     int OpenSortPanel();
     int SetDirection(int direction);
     int Rename();
+    int OpenRemarks();
     void TakeOffChart(const std::string& ci);
 
     TreeParts& p_;
