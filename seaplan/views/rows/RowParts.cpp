@@ -40,7 +40,7 @@ void PaintText(QPainter& painter, const SubItem& part, const RowLook& look) {
     font.setStrikeOut(look.deleted && part.kind == SubItemKind::Name);
     font.setUnderline(part.kind == SubItemKind::Link && part.enabled);
     painter.setFont(font);
-    painter.setPen(TextColour(part, look.deleted));
+    painter.setPen(look.ink ? Colour(*look.ink) : TextColour(part, look.deleted));
     const QString text = QFontMetrics(font).elidedText(part.text, Qt::ElideRight, part.rect.width());
     painter.drawText(part.rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
 }
@@ -123,7 +123,7 @@ void PaintPart(QPainter& painter, const SubItem& part, const RowLook& look) {
     if (part.kind == SubItemKind::Icon) {
         QRect place(0, 0, Skin::kIconSize, Skin::kIconSize);
         place.moveCenter(part.rect.center());
-        Skin::PaintIcon(painter, place, part.icon, IconColour(part));
+        Skin::PaintIcon(painter, place, part.icon, look.ink ? Colour(*look.ink) : IconColour(part));
     } else {
         PaintText(painter, part, look);
     }

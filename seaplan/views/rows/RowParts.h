@@ -93,6 +93,8 @@ struct RowLook {
     QFont font;
     bool deleted = false;   ///< dim, the name struck out
     std::string focused{};  ///< name of the part that has the keyboard, empty for none
+    /// Colour of all texts and images, on a ground of its own.
+    std::optional<Skin::Role> ink{};
 };
 
 /// Font of a part in a row with this font.

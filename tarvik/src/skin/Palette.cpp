@@ -38,6 +38,12 @@ QHeaderView::section { background: @list; color: @text; border: 0; border-right:
   padding: 1px 2px; }
 QLineEdit { background: @panel; color: @text; border: 1px solid @accent; font-size: 12px; padding: 0 2px;
   selection-background-color: @accent; selection-color: @accentText; }
+QLineEdit[field="true"], QPlainTextEdit { background: @panel; color: @text; border: 1px solid @border; font-size: 13px;
+  padding: 0 4px; selection-background-color: @accent; selection-color: @accentText; }
+QLineEdit[field="true"]:focus, QPlainTextEdit:focus { border: 1px solid @accent; }
+QLineEdit[field="true"]:disabled, QPlainTextEdit:disabled { background: @window; color: @secondary; }
+QListView[caption="true"] { background: @caption; border: 1px solid @border; outline: 0; }
+QListView[caption="true"]:focus { border: 1px solid @accent; }
 #popup { background: @panel; border: 1px solid @border; }
 QListWidget { background: @list; color: @text; border: 1px solid @border; font-size: 12px; outline: 0; }
 QListWidget::item { height: 23px; padding: 0 4px; }

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/remark/RemarkWindow.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <algorithm>
+
+#include <tarvik/skin/Icons.h>
+
+#include "seaplan/panels/remark/CRemarkPanel.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr int kFieldWidth = 292;
+constexpr int kBodyHeight = 278;
+
+QLabel* TitleOf(const QWidget& window) {
+    return window.findChild<QLabel*>(QStringLiteral("captionLabel"));
+}
+
+}  // namespace
+
+RemarkWindow::RemarkWindow(QWidget* mainView, const QString& name)
+    : PanelFrame(mainView, name, {TextId::IDC_BT_HELP2, TextId::IDC_BT_CLOSE2}) {
+    AddHelpAndClose();
+    list_ = new RemarkListView(this);
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(2 * Skin::kGrid);
+    columns->addWidget(list_);
+    columns->addWidget(MakeFields());
+    Body()->addLayout(columns, 1);
+    Body()->addWidget(MakeButtons());
+    ApplySkin();
+    ApplyTexts();
+    adjustSize();
+}
+
+QWidget* RemarkWindow::MakeFields() {
+    auto* fields = new QWidget(this);
+    subject_ = new QLineEdit(fields);
+    subject_->setObjectName(QStringLiteral("remarkSubject"));
+    subject_->setProperty("field", true);
+    subject_->setFixedSize(kFieldWidth, Skin::kControlHeight);
+    body_ = new QPlainTextEdit(fields);
+    body_->setObjectName(QStringLiteral("remarkBody"));
+    body_->setTabChangesFocus(true);
+    body_->setFixedWidth(kFieldWidth);
+    body_->setMinimumHeight(kBodyHeight);
+    auto* rows = new QVBoxLayout(fields);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(Skin::kGrid);
+    rows->addWidget(subject_);
+    rows->addWidget(body_, 1);
+    return fields;
+}
+
+QToolButton* RemarkWindow::MakeTool(const char* name, const QKeySequence& key) {
+    auto* made = new QToolButton(this);
+    made->setObjectName(QString::fromLatin1(name));
+    made->setFixedSize(Skin::kControlHeight + 2, Skin::kControlHeight);
+    made->setFocusPolicy(Qt::TabFocus);
+    made->setShortcut(key);
+    return made;
+}
+
+QWidget* RemarkWindow::MakeButtons() {
+    auto* buttons = new QWidget(this);
+    add_ = MakeTool("addRemarkButton", QKeySequence(Qt::CTRL | Qt::Key_N));
+    sort_ = MakeTool("sortRemarksButton", QKeySequence(Qt::CTRL | Qt::Key_R));
+    sort_->setCheckable(true);
+    save_ = new QPushButton(this);
+    save_->setObjectName(QStringLiteral("saveRemarkButton"));
+    save_->setProperty("primary", true);
+    save_->setAutoDefault(false);
+    save_->setFocusPolicy(Qt::TabFocus);
+    auto* row = new QHBoxLayout(buttons);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(2 * Skin::kGrid);
+    row->addWidget(add_);
+    row->addWidget(sort_);
+    row->addStretch(1);
+    row->addWidget(save_);
+    return buttons;
+}
+
+void RemarkWindow::Attach(CRemarkPanel* panel) {
+    SetReports({[panel] { panel->OnHelp(); }, [panel] { panel->OnClose(); }, {}});
+    RemarkEditing& editing = panel->Editing();
+    list_->SetReports({[panel](int kind, std::uint32_t position, const std::string& item) {
+                           panel->List().OnItemEvent(kind, position, item);
+                       },
+                       [&editing](int row) { editing.Select(row); }});
+    QObject::connect(subject_, &QLineEdit::textEdited, this,
+                     [&editing](const QString& text) { editing.OnSubjectTyped(text.toStdString()); });
+    QObject::connect(subject_, &QLineEdit::returnPressed, this, [this] { body_->setFocus(); });
+    QObject::connect(body_, &QPlainTextEdit::textChanged, this,
+                     [this, &editing] { editing.OnBodyTyped(body_->toPlainText().toStdString()); });
+    QObject::connect(add_, &QToolButton::clicked, this, [panel] { panel->New(); });
+    QObject::connect(sort_, &QToolButton::clicked, this, [panel] { panel->OnSort(); });
+    QObject::connect(save_, &QPushButton::clicked, this, [&editing] { editing.SaveClick(); });
+}
+
+void RemarkWindow::MoveTo(Point corner) {
+    const QRect area = screen()->availableGeometry();
+    const int right = std::max(area.left(), area.right() + 1 - width());
+    const int bottom = std::max(area.top(), area.bottom() + 1 - height());
+    MoveCorner({std::min(corner.x, right), std::min(corner.y, bottom)});
+}
+
+void RemarkWindow::ShowRows(const std::vector<RemarkRow>& rows, int current) {
+    list_->ShowRows(rows, current);
+}
+
+void RemarkWindow::ShowState(const RemarkState& state) {
+    state_ = state;
+    for (QWidget* field : std::initializer_list<QWidget*>{subject_, body_}) {
+        field->setEnabled(state.canEdit);
+    }
+    add_->setEnabled(state.canAdd);
+    save_->setEnabled(state.canSave);
+    sort_->setChecked(state.newestFirst);
+    sort_->setIcon(Skin::MakeIcon(state.newestFirst ? "sort-down" : "sort-up"));
+    Skin::Describe(add_, ViewText(TextId::IDC_BTN_ADD));
+    if (!state.canAdd) {
+        add_->setToolTip(add_->toolTip() + QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_REMARKADDING));
+    }
+    Skin::Describe(save_, ViewText(TextId::IDS_VIEW_REMARKSAVE));
+    if (!state.canSave) {
+        save_->setToolTip(save_->toolTip() + QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_NOCHANGES));
+    }
+}
+
+void RemarkWindow::ShowTexts(const std::string& subject, const std::string& body) {
+    const QSignalBlocker silent(body_);
+    subject_->setText(QString::fromStdString(subject));
+    body_->setPlainText(QString::fromStdString(body));
+}
+
+int RemarkWindow::TitleWidth(const std::string& text) const {
+    return TitleOf(*this)->fontMetrics().horizontalAdvance(QString::fromStdString(text));
+}
+
+void RemarkWindow::ShowTitle(const RemarkTitle& title) {
+    ShowCaption(title.text, false);
+    TitleOf(*this)->setFixedSize(title.width, title.height);
+}
+
+void RemarkWindow::BringRowIntoView(int row) {
+    list_->scrollTo(list_->model()->index(row, 0));
+}
+
+void RemarkWindow::FocusSubject() {
+    subject_->setFocus();
+}
+
+void RemarkWindow::FocusFirst() {
+    if (focusWidget() == nullptr || !focusWidget()->isEnabled()) {
+        list_->setFocus();
+    }
+}
+
+void RemarkWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) {
+        return PanelFrame::keyPressEvent(event);
+    }
+    // The question about an unsaved text must not come up inside the key.
+    QTimer::singleShot(0, this, [this] { CloseAsked(); });
+}
+
+void RemarkWindow::ApplyTexts() {
+    DescribeHelpAndClose();
+    list_->ApplyTexts();
+    Skin::Describe(sort_, ViewText(TextId::IDC_BTN_SORT));
+    Skin::Describe(subject_, ViewText(TextId::IDS_VIEW_REMARKSUBJECT));
+    subject_->setPlaceholderText(ViewText(TextId::IDS_VIEW_REMARKSUBJECT));
+    Skin::Describe(body_, ViewText(TextId::IDS_VIEW_REMARKBODY));
+    body_->setPlaceholderText(ViewText(TextId::IDS_VIEW_REMARKBODY));
+    save_->setText(ViewText(TextId::IDS_VIEW_REMARKSAVE));
+    // A new text takes the button's shortcut away; the hint tells it.
+    save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    ShowState(state_);
+}
+
+void RemarkWindow::ApplySkin() {
+    Skin::ToolWindow::ApplySkin();
+    add_->setIcon(Skin::MakeIcon("add"));
+    ShowState(state_);
+    list_->viewport()->update();
+}
+
+}  // namespace Tarvik::Seaplan
