@@ -3,14 +3,39 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+/// A panel beside another window: its left edge on the other's right one, the tops in one line.
+Point RightOf(const QWidget* window) {
+    const Rect place = window != nullptr ? OnScreen(*window) : Rect();
+    return {place.right, place.top};
+}
+
+}  // namespace
+
 VoyageViews::VoyageViews(Parts parts)
     : voyageWindow_(new VoyagePanelWindow(parts.mainView)),
       tree_({parts.store, parts.catalog, parts.voyages, voyageWindow_->Tree().Widget(),
-             voyageWindow_->Tree().RenameBox(), voyageWindow_->Vessels(), voyageWindow_->Tree().SortPopup()}),
+             voyageWindow_->Tree().RenameBox(), voyageWindow_->Vessels(), voyageWindow_->Tree().SortPopup(),
+             [this] { return &remarks_.Use(); }, [this] { return &bunkers_.Use(); }}),
+      portCallRemarks_({[parts] { return new RemarkWindow(parts.mainView, "portCallRemarkPanel"); },
+                        [this](RemarkWindow& window) {
+                            return std::make_unique<CRemarkPanel>(CRemarkPanel::Parts{
+                                window, [this] { return RightOf(portCalls_.MadeWindow()); }});
+                        }}),
       portCalls_({[parts] { return new PortCallWindow(parts.mainView); },
                   [this, parts](PortCallWindow& window) { return MakePortCalls(parts, window); }}),
       book_({[parts] { return new BookWindow(parts.mainView); },
              [this, parts](BookWindow& window) { return MakeBook(parts, window); }}),
+      remarks_({[parts] { return new RemarkWindow(parts.mainView, "remarkPanel"); },
+                [this](RemarkWindow& window) {
+                    // The rows may have been made anew since the opening, so the mark goes by the object.
+                    return std::make_unique<CRemarkPanel>(CRemarkPanel::Parts{
+                        window, [this] { return RightOf(voyageWindow_); },
+                        [this](RemarkOwnerRow, bool on) { tree_.SetRemarkMark(kNoRow, on); }});
+                }}),
+      bunkers_({[parts] { return new BunkerWindow(parts.mainView); },
+                [this, parts](BunkerWindow& window) { return MakeBunkers(parts.store, window); }}),
       panel_({parts.store, parts.catalog, parts.voyages, *voyageWindow_, voyageWindow_->FilterPopup(), tree_,
               [this] { return portCalls_.Made(); }}) {
     tree_.SetPortCallPanel([this] { return &portCalls_.Use(); });
@@ -25,10 +50,14 @@ VoyageViews::~VoyageViews() {
 
 std::unique_ptr<CPortCallPanelDlg> VoyageViews::MakePortCalls(const Parts& parts, PortCallWindow& window) {
     auto panel = std::make_unique<CPortCallPanelDlg>(
-        PortCallDesk::Parts{parts.catalog, parts.voyages, parts.ports, window,
-                            [this] { return voyageWindow_ ? OnScreen(voyageWindow_->Tree()) : Rect(); },
-                            [this] { return &book_.Use(); }});
+        PortCallDesk::Parts{parts.catalog, parts.voyages, parts.ports, window, [this] { return TreePlace(); },
+                            [this] { return &book_.Use(); }, [this] { return &portCallRemarks_.Use(); }});
     panel->SetSavedListener([this](const std::string& vi) { ShowSaved(vi); });
+    panel->SetVoyageListener([this] {
+        if (CBunkerDlg* bunkers = bunkers_.Made()) {
+            bunkers->OnVoyageSet();
+        }
+    });
     return panel;
 }
 
@@ -41,6 +70,16 @@ std::unique_ptr<CPosBookDlg> VoyageViews::MakeBook(const Parts& parts, BookWindo
                             below = below == nullptr ? portCalls_.MadeWindow() : below;
                             return below == nullptr ? Rect() : OnScreen(*below);
                         }});
+}
+
+std::unique_ptr<CBunkerDlg> VoyageViews::MakeBunkers(VoyageStore& store, BunkerWindow& window) {
+    return std::make_unique<CBunkerDlg>(CBunkerDlg::Parts{
+        window, [this](const BunkerFigures& figures) { portCalls_.Use().SaveFigures(figures); },
+        [this, &store] {
+            const VoyInfo* voyage = store.FindVoyage(portCalls_.Use().NextVoyage());
+            return voyage == nullptr ? std::string() : voyage->vn;
+        },
+        [this] { return TreePlace(); }});
 }
 
 void VoyageViews::ShowSaved(const std::string& vi) {
@@ -66,6 +105,9 @@ void VoyageViews::Restyle() {
     }
     portCalls_.Restyle();
     book_.Restyle();
+    portCallRemarks_.Restyle();
+    remarks_.Restyle();
+    bunkers_.Restyle();
 }
 
 }  // namespace Tarvik::Seaplan

@@ -8,8 +8,10 @@
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/views/book/BookWindow.h"
+#include "seaplan/views/bunker/BunkerWindow.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
+#include "seaplan/views/remark/RemarkWindow.h"
 #include "seaplan/views/window/PanelPlace.h"
 
 namespace Tarvik::Seaplan {
@@ -40,6 +42,11 @@ class VoyageViews final {
     CPosBookDlg& Book() { return book_.Use(); }
     /// The position book's window, null while nobody has asked for it.
     BookWindow* BookWindowMade() { return book_.MadeWindow(); }
+    /// Null until the panel was first asked for: of the tree's remarks, of the port calls', of the
+    /// consumption.
+    RemarkWindow* RemarksWindow() const { return remarks_.MadeWindow(); }
+    RemarkWindow* PortCallRemarksWindow() const { return portCallRemarks_.MadeWindow(); }
+    BunkerWindow* FiguresWindow() const { return bunkers_.MadeWindow(); }
     /// Another route was chosen on the chart.
     void OnRouteChosen();
     bool TreeVisible() const { return voyageWindow_ != nullptr && voyageWindow_->isVisible(); }
@@ -49,12 +56,18 @@ class VoyageViews final {
   private:
     std::unique_ptr<CPortCallPanelDlg> MakePortCalls(const Parts& parts, PortCallWindow& window);
     std::unique_ptr<CPosBookDlg> MakeBook(const Parts& parts, BookWindow& window);
+    std::unique_ptr<CBunkerDlg> MakeBunkers(VoyageStore& store, BunkerWindow& window);
+    /// Where the tree stands on the screen; nowhere when its window is gone.
+    Rect TreePlace() const { return voyageWindow_ ? OnScreen(voyageWindow_->Tree()) : Rect(); }
     void ShowSaved(const std::string& vi);
 
     QPointer<VoyagePanelWindow> voyageWindow_;
     SeaplanTreeCtrl tree_;
+    PanelPlace<CRemarkPanel, RemarkWindow> portCallRemarks_;
     PanelPlace<CPortCallPanelDlg, PortCallWindow> portCalls_;
     PanelPlace<CPosBookDlg, BookWindow> book_;
+    PanelPlace<CRemarkPanel, RemarkWindow> remarks_;
+    PanelPlace<CBunkerDlg, BunkerWindow> bunkers_;
     SeaplanViewDlg panel_;
 };
 

@@ -25,7 +25,8 @@ struct DrawnImage {
 
 constexpr DrawnImage kImages[] = {{PortCallImage::kMoveUp, "up", TextId::IDS_VIEW_MOVEUP},
                                   {PortCallImage::kMoveDown, "down", TextId::IDS_VIEW_MOVEDOWN},
-                                  {PortCallImage::kDelete, "delete", TextId::IDS_VIEW_DELETEROW}};
+                                  {PortCallImage::kDelete, "delete", TextId::IDS_VIEW_DELETEROW},
+                                  {PortCallImage::kRemark, "remark", TextId::IDS_VIEW_REMARKROW}};
 constexpr int kImageSize = 14;
 constexpr int kImageStep = 20;
 
@@ -54,7 +55,7 @@ void PaintImages(QPainter& painter, const QRect& cell, const QModelIndex& index)
     }
     const auto* model = static_cast<const PortCallModel*>(index.model());
     const RowActions can = model->ActionsAt(index.row());
-    const std::array<bool, std::size(kImages)> enabled = {can.moveUp, can.moveDown, can.remove};
+    const std::array<bool, std::size(kImages)> enabled = {can.moveUp, can.moveDown, can.remove, can.remark};
     for (int i = 0; i < static_cast<int>(std::size(kImages)); ++i) {
         Skin::PaintIcon(painter, ImageRect(cell, i), kImages[i].icon,
                         enabled[i] ? Colour(Role::Text) : Colour(Role::Disabled));

@@ -16,7 +16,7 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr int kImagesWidth = 66;
+constexpr int kImagesWidth = 86;
 
 }  // namespace
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Shows the panels with sample voyages, or draws them into a picture, to look at them without client and
 // server.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <algorithm>
 #include <cstdio>
 
@@ -26,7 +28,7 @@ int Usage() {
         "seaplan-views-preview [--png OUT.png] [--theme light|dark|night] [--lang en-US|zh-CN|zh-TW]\n"
         "                      [--scene "
         "tree|category|empty|voyage|edit|matches|purposes|calendar|rename|bin|vessel|book|book-typing|\n"
-        "                      book-track|book-calendar|book-passed]\n",
+        "                      book-track|book-calendar|book-passed|remarks|figures]\n",
         stderr);
     return 2;
 }
@@ -104,6 +106,31 @@ void PlayBook(VoyageViews& views, const std::string& scene) {
     }
 }
 
+/// One remark more, and a third one under way.
+void PlayRemarks(QWidget& window) {
+    auto* subject = window.findChild<QLineEdit*>("remarkSubject");
+    auto* body = window.findChild<QPlainTextEdit*>("remarkBody");
+    auto* add = window.findChild<QAbstractButton*>("addRemarkButton");
+    for (const char* text :
+         {"Draft at Shanghai \xE5\x90\x83\xE6\xB0\xB4", "A title that does not fit the list"}) {
+        add->click();
+        subject->setText(QString::fromUtf8(text));
+        emit subject->textEdited(subject->text());
+        body->setPlainText("11.5 m at high water.\nAsk the agent again two days before arrival.");
+        if (subject->text().startsWith("Draft")) {
+            window.findChild<QAbstractButton*>("saveRemarkButton")->click();
+        }
+    }
+}
+
+void PlayFigures(QWidget& window) {
+    auto* field = window.findChild<QLineEdit*>("fuelLaden");
+    field->selectAll();
+    field->insert("28500");
+    emit field->textEdited(field->text());
+    QApplication::processEvents();
+}
+
 void Play(VoyageViews& views, const std::string& scene) {
     const Tarvik::Interface::PanelShow show{3, 0};
     Tarvik::Interface::Raise(Bus::ShowPanel, &show);
@@ -126,6 +153,16 @@ void Play(VoyageViews& views, const std::string& scene) {
     }
     if (scene == "vessel") {
         Click(views, "Far East 12", "Voyage_ReplaceShip");
+    }
+    if (scene == "remarks") {
+        Click(views, "Far East 12", "Voyage.child.svr3.exist");
+        PlayRemarks(*views.RemarksWindow());
+        return;
+    }
+    if (scene == "figures") {
+        Click(views, "Far East 12", "Voyage.child.svr5");
+        PlayFigures(*views.FiguresWindow());
+        return;
     }
     if (scene == "tree" || scene == "bin" || scene == "rename" || scene == "vessel") {
         return;

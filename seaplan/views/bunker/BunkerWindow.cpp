@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/bunker/BunkerWindow.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include <tarvik/skin/Icons.h>
+
+#include "seaplan/panels/bunker/CBunkerDlg.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr int kFieldWidth = 60;
+constexpr int kLettersTyped = 128;
+
+struct FigureField {
+    const char* name;
+    TextId tip;
+    int row;
+    int column;
+};
+
+/// In the order of the figures.
+constexpr std::array<FigureField, BunkerFigureCount> kFields = {
+    {{"fuelBallast", TextId::IDS_VIEW_BALLAST, 0, 1},
+     {"fuelLaden", TextId::IDS_VIEW_LADEN, 0, 2},
+     {"fuelInPort", TextId::IDS_VIEW_FUELINPORT, 0, 3},
+     {"dieselUnderWay", TextId::IDS_VIEW_DIESELATSEA, 1, 1},
+     {"dieselInPort", TextId::IDS_VIEW_DIESELINPORT, 1, 2},
+     {"waterUnderWay", TextId::IDS_VIEW_WATERATSEA, 2, 1},
+     {"waterInPort", TextId::IDS_VIEW_WATERINPORT, 2, 2}}};
+
+struct FigureRow {
+    TextId label;
+    TextId unit;
+};
+
+constexpr std::array<FigureRow, 3> kRows = {{{TextId::IDC_BK_T_FO, TextId::IDC_BK_T_UNIT1},
+                                             {TextId::IDC_BK_T_DO, TextId::IDC_BK_T_UNIT2},
+                                             {TextId::IDC_BK_T_FW, TextId::IDC_BK_T_UNIT3}}};
+
+}  // namespace
+
+BunkerWindow::BunkerWindow(QWidget* mainView)
+    : PanelFrame(mainView, QStringLiteral("bunkerPanel"), {TextId::IDC_BK_BT_HELP, TextId::IDC_BK_BT_CLOSE}) {
+    AddHelpAndClose();
+    MakeRows();
+    MakeButtons();
+    ApplySkin();
+    ApplyTexts();
+    adjustSize();
+}
+
+void BunkerWindow::MakeRows() {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(2 * Skin::kGrid);
+    grid->setVerticalSpacing(Skin::kGrid);
+    for (std::size_t i = 0; i < kRows.size(); ++i) {
+        labels_[i] = new QLabel(this);
+        units_[i] = new QLabel(this);
+        units_[i]->setProperty("secondary", true);
+        grid->addWidget(labels_[i], static_cast<int>(i), 0);
+        grid->addWidget(units_[i], static_cast<int>(i), 4);
+    }
+    for (std::size_t i = 0; i < kFields.size(); ++i) {
+        auto* field = new QLineEdit(this);
+        field->setObjectName(QString::fromLatin1(kFields[i].name));
+        field->setProperty("field", true);
+        field->setFixedSize(kFieldWidth, Skin::kControlHeight);
+        field->setAlignment(Qt::AlignRight);
+        field->setMaxLength(kLettersTyped);
+        grid->addWidget(field, kFields[i].row, kFields[i].column);
+        fields_[i] = field;
+    }
+    Body()->addLayout(grid);
+}
+
+void BunkerWindow::MakeButtons() {
+    undo_ = new QToolButton(this);
+    undo_->setObjectName(QStringLiteral("undoFiguresButton"));
+    undo_->setFixedSize(Skin::kControlHeight + 2, Skin::kControlHeight);
+    undo_->setFocusPolicy(Qt::TabFocus);
+    undo_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    save_ = new QPushButton(this);
+    save_->setObjectName(QStringLiteral("saveFiguresButton"));
+    save_->setProperty("primary", true);
+    save_->setAutoDefault(false);
+    save_->setFocusPolicy(Qt::TabFocus);
+    auto* row = new QHBoxLayout;
+    row->addWidget(undo_);
+    row->addStretch(1);
+    row->addWidget(save_);
+    Body()->addLayout(row);
+}
+
+void BunkerWindow::Attach(CBunkerDlg* panel) {
+    SetReports({[panel] { panel->OnHelp(); }, [panel] { panel->OnClose(); }, {}});
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        QLineEdit* field = fields_[i];
+        // A number that is not allowed puts a box up, which must not begin inside the key.
+        QObject::connect(field, &QLineEdit::textEdited, this, [panel, i, field] {
+            QTimer::singleShot(0, field,
+                               [panel, i, field] { panel->OnTyped(i, field->text().toStdString()); });
+        });
+        QObject::connect(field, &QLineEdit::returnPressed, this, [this] { save_->click(); });
+    }
+    QObject::connect(undo_, &QToolButton::clicked, this, [panel] { panel->OnUndo(); });
+    QObject::connect(save_, &QPushButton::clicked, this, [panel] { panel->OnSave(); });
+}
+
+void BunkerWindow::ShowFigures(const BunkerFigures& figures) {
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        const QString text = QString::number(figures[i]);
+        if (fields_[i]->text() != text) {
+            fields_[i]->setText(text);
+        }
+    }
+}
+
+void BunkerWindow::ShowState(bool dirty, bool editable) {
+    dirty_ = dirty;
+    editable_ = editable;
+    undo_->setEnabled(dirty);
+    save_->setEnabled(dirty);
+    Skin::Describe(undo_, ViewText(TextId::IDC_BK_BT_CANCEL));
+    Skin::Describe(save_, ViewText(TextId::IDC_BK_BT_SAVE));
+    if (!dirty) {
+        const QString why = QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_NOCHANGES);
+        undo_->setToolTip(undo_->toolTip() + why);
+        save_->setToolTip(save_->toolTip() + why);
+    }
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        fields_[i]->setEnabled(editable);
+        Skin::Describe(fields_[i], ViewText(kFields[i].tip));
+        if (!editable) {
+            fields_[i]->setToolTip(ViewText(TextId::IDS_VIEW_FIGURESOFF));
+        }
+    }
+}
+
+void BunkerWindow::ApplyTexts() {
+    DescribeHelpAndClose();
+    for (std::size_t i = 0; i < kRows.size(); ++i) {
+        labels_[i]->setText(ViewText(kRows[i].label));
+        units_[i]->setText(ViewText(kRows[i].unit));
+    }
+    save_->setText(ViewText(TextId::IDC_BK_BT_SAVE));
+    // A new text takes the button's shortcut away; the hint tells it.
+    save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    ShowState(dirty_, editable_);
+    adjustSize();
+}
+
+void BunkerWindow::ApplySkin() {
+    Skin::ToolWindow::ApplySkin();
+    undo_->setIcon(Skin::MakeIcon("recover"));
+}
+
+void BunkerWindow::FocusFirst() {
+    if (fields_[0]->isEnabled()) {
+        fields_[0]->setFocus();
+        fields_[0]->selectAll();
+    }
+}
+
+void BunkerWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) {
+        return PanelFrame::keyPressEvent(event);
+    }
+    // The question about unsaved figures must not come up inside the key.
+    QTimer::singleShot(0, this, [this] { CloseAsked(); });
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+
+#include "seaplan/panels/bunker/BunkerView.h"
+#include "seaplan/views/window/FloatingPanel.h"
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QToolButton;
+
+namespace Tarvik::Seaplan {
+
+class CBunkerDlg;
+
+/// The window of the consumption dialog: a row of fields for each of fuel oil, diesel oil and fresh water.
+class BunkerWindow final : public PanelFrame<BunkerView> {
+  public:
+    explicit BunkerWindow(QWidget* mainView);
+    void Attach(CBunkerDlg* panel);
+
+    void ShowFigures(const BunkerFigures& figures) override;
+    void ShowState(bool dirty, bool editable) override;
+    void ApplyTexts() override;
+    void ApplySkin() override;
+
+  protected:
+    void FocusFirst() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void MakeRows();
+    void MakeButtons();
+
+    std::array<QLineEdit*, BunkerFigureCount> fields_{};
+    std::array<QLabel*, 3> labels_{};
+    std::array<QLabel*, 3> units_{};
+    QToolButton* undo_;
+    QPushButton* save_;
+    bool dirty_ = false;
+    bool editable_ = false;
+};
+
+}  // namespace Tarvik::Seaplan
