@@ -16,8 +16,7 @@ Point RightOf(const QWidget* window) {
 VoyageViews::VoyageViews(Parts parts)
     : voyageWindow_(new VoyagePanelWindow(parts.mainView)),
       tree_({parts.store, parts.catalog, parts.voyages, voyageWindow_->Tree().Widget(),
-             voyageWindow_->Tree().RenameBox(), voyageWindow_->Vessels(), voyageWindow_->Tree().SortPopup(),
-             [this] { return &remarks_.Use(); }, [this] { return &bunkers_.Use(); }}),
+             voyageWindow_->Tree().RenameBox(), voyageWindow_->Vessels(), voyageWindow_->Tree().SortPopup()}),
       portCallRemarks_({[parts] { return new RemarkWindow(parts.mainView, "portCallRemarkPanel"); },
                         [this](RemarkWindow& window) {
                             return std::make_unique<CRemarkPanel>(CRemarkPanel::Parts{
@@ -39,6 +38,11 @@ VoyageViews::VoyageViews(Parts parts)
       panel_({parts.store, parts.catalog, parts.voyages, *voyageWindow_, voyageWindow_->FilterPopup(), tree_,
               [this] { return portCalls_.Made(); }}) {
     tree_.SetPortCallPanel([this] { return &portCalls_.Use(); });
+    tree_.Notes().SetRemarks([this](TreeRow row, int type, const std::string& id, const std::string& name) {
+        return remarks_.Use().Open(row, type, id, name);
+    });
+    tree_.Notes().SetConsumption(
+        [this](const BunkerFigures& figures, bool editable) { bunkers_.Use().Open(figures, editable); });
     voyageWindow_->Attach(&panel_, &tree_);
     panel_.ApplyLanguage();
     panel_.RegisterHost();

@@ -5,8 +5,10 @@
 #include <memory>
 
 #include "seaplan/panels/book/CPosBookDlg.h"
+#include "seaplan/panels/bunker/CBunkerDlg.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/remark/CRemarkPanel.h"
 #include "seaplan/views/book/BookWindow.h"
 #include "seaplan/views/bunker/BunkerWindow.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"

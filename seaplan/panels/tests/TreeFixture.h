@@ -28,10 +28,7 @@ class TreeFixture : public ::testing::Test {
     RecordingTextBox box;
     RecordingVesselView vessels;
     RecordingChoices sortPopup;
-    CRemarkPanel* remarkPanel = nullptr;  ///< the tree's, where the test has one
-    CBunkerDlg* bunkers = nullptr;
-    SeaplanTreeCtrl ctrl{{desk.store, desk.catalog, desk.voyages, tree, box, vessels, sortPopup,
-                          [this] { return remarkPanel; }, [this] { return bunkers; }}};
+    SeaplanTreeCtrl ctrl{{desk.store, desk.catalog, desk.voyages, tree, box, vessels, sortPopup}};
 
     /// Two port calls a day apart, for a record.
     static PortCallRows TwoCalls(int day) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Remarks and consumption as they open from the tree's items and from the rows of the port call table.
+#include "seaplan/panels/bunker/CBunkerDlg.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 #include "seaplan/panels/tests/RemarkFixture.h"
 #include "seaplan/panels/tests/TreeFixture.h"
@@ -36,8 +37,12 @@ class TreePanelsTest : public TreeFixture {
                         }}};
 
     TreePanelsTest() {
-        remarkPanel = &remarks;
-        bunkers = &figures;
+        ctrl.Notes().SetRemarks(
+            [this](TreeRow row, int type, const std::string& id, const std::string& name) {
+                return remarks.Open(row, type, id, name);
+            });
+        ctrl.Notes().SetConsumption(
+            [this](const BunkerFigures& set, bool editable) { figures.Open(set, editable); });
         desk.AddCategory("Full");
         desk.AddVoyage("Full", {.name = "North", .calls = PanelDesk::Calls(1)});
         desk.AddVoyage("Full", {.name = "South"});

@@ -15,9 +15,7 @@ TreeCommands CategoryCommands::Table() {
             {Item::kSort, [this] { return OpenSortPanel(); }},
             {Item::kAscending, [this] { return SetDirection(Descending); }},
             {Item::kDescending, [this] { return SetDirection(Ascending); }},
-            {Item::kRenameCategory, [this] { return Rename(); }},
-            {Item::kCategoryNoRemark, [this] { return OpenRemarks(); }},
-            {Item::kCategoryRemark, [this] { return OpenRemarks(); }}};
+            {Item::kRenameCategory, [this] { return Rename(); }}};
 }
 
 std::string CategoryCommands::NewName() const {
@@ -143,12 +141,6 @@ int CategoryCommands::SetDirection(int direction) {
     }
     sort->second.direction = direction;
     return p_.builder.RebuildCategory(ci) == 0 ? 0 : -15;
-}
-
-int CategoryCommands::OpenRemarks() {
-    const VoyCategory& category = p_.selection.Category();
-    return p_.OpenRemarks(p_.selection.CategoryRow(), CategoryRemark, category.ci, category.cn) == 0 ? 0
-                                                                                                     : -16;
 }
 
 int CategoryCommands::Rename() {

@@ -32,7 +32,6 @@ class CategoryCommands {
     int OpenSortPanel();
     int SetDirection(int direction);
     int Rename();
-    int OpenRemarks();
     void TakeOffChart(const std::string& ci);
 
     TreeParts& p_;

@@ -5,8 +5,6 @@
 #include <map>
 #include <string>
 
-#include "seaplan/panels/bunker/CBunkerDlg.h"
-#include "seaplan/panels/remark/CRemarkPanel.h"
 #include "seaplan/panels/tree/RemarkMark.h"
 #include "seaplan/panels/tree/RowSelection.h"
 #include "seaplan/panels/tree/TreeBuilder.h"
@@ -36,9 +34,6 @@ class PortCallOpener {
 
 /// Gives the port call panel, which may be made only then. Empty where there is none.
 using PortCallSource = std::function<PortCallOpener*()>;
-/// The same for the tree's remark panel and for the consumption dialog.
-using RemarkSource = std::function<CRemarkPanel*()>;
-using BunkerSource = std::function<CBunkerDlg*()>;
 
 /// What the tree stands on; all of it outlives it.
 struct TreeCollaborators {
@@ -49,8 +44,6 @@ struct TreeCollaborators {
     TextBox& renameBox;
     VesselView& vesselView;
     ChoicePopup& sortPopup;
-    RemarkSource remarkPanel{};
-    BunkerSource bunkers{};
 };
 
 /// What the commands of the tree work with.
@@ -62,9 +55,7 @@ struct TreeParts {
           chart(context),
           selection(context, status, chart),
           rename(context, given.renameBox, [this](TreeRow row) { return selection.Unfold(row); }),
-          remark(context),
-          remarkPanel(given.remarkPanel),
-          bunkers(given.bunkers) {}
+          remark(context) {}
 
     TreeContext context;
     TreeStatus status;
@@ -73,23 +64,10 @@ struct TreeParts {
     RowSelection selection;
     TreeRename rename;
     RemarkMark remark;
-    RemarkSource remarkPanel;
-    BunkerSource bunkers;
     PortCallSource portCalls;
 
     /// The port call panel, null where there is none.
     PortCallOpener* PortCalls() const { return portCalls ? portCalls() : nullptr; }
-    /// Opens the remarks of a row's record. -1 without a panel, or when what is typed there was to be saved
-    /// first and could not be.
-    int OpenRemarks(TreeRow row, int type, const std::string& id, const std::string& name) {
-        CRemarkPanel* panel = remarkPanel ? remarkPanel() : nullptr;
-        // Until the panel has left the object before, the mark is that object's.
-        if (panel == nullptr || panel->Open(row, type, id, name) != 0) {
-            return -1;
-        }
-        remark.Open(row);
-        return 0;
-    }
 };
 
 /// Commands by the name of their item. A command works on the current rows and answers 0 or the negative

@@ -13,9 +13,6 @@ TreeCommands VoyageCommands::Table() {
             {Item::kSetPortCall, [this] { return OpenEmptyPortCalls(); }},
             {Item::kNoonReport, [this] { return NoonReport(); }},
             {Item::kRenameVoyage, [this] { return Rename(); }},
-            {Item::kVoyageNoRemark, [this] { return OpenRemarks(); }},
-            {Item::kVoyageRemark, [this] { return OpenRemarks(); }},
-            {Item::kConsumption, [this] { return OpenFigures(); }},
             {Item::kDeleteVoyage, [this] { return Delete(); }},
             {Item::kRecoverVoyage, [this] { return Recover(); }},
             {Item::kClearVoyage, [this] { return Clear(); }}};
@@ -54,30 +51,6 @@ int VoyageCommands::OpenEmptyPortCalls() {
 
 int VoyageCommands::NoonReport() {
     p_.context.boxes.Notice(TextId::IDS_TREE_NOONREPORTWARN);
-    return 0;
-}
-
-int VoyageCommands::OpenRemarks() {
-    const VoyInfo& voyage = p_.selection.Voyage();
-    return p_.OpenRemarks(p_.selection.VoyageRow(), VoyageRemark, voyage.vi, voyage.vn) == 0 ? 0 : -36;
-}
-
-int VoyageCommands::OpenFigures() {
-    const VoyInfo& voyage = p_.selection.Voyage();
-    BunkerFigures figures{};
-    if (p_.context.voyages.GetFigures(voyage.vi, figures) != 0) {
-        return -37;
-    }
-    if (voyage.portCalls.empty()) {
-        p_.context.boxes.Notice(TextId::IDS_TREE_WARNCOUSUMNOVOY);
-        return 0;
-    }
-    CBunkerDlg* dialog = p_.bunkers ? p_.bunkers() : nullptr;
-    if (dialog == nullptr) {
-        return -38;
-    }
-    // The figures of a finished voyage can be read but not changed.
-    dialog->Open(figures, voyage.portCalls.back().eta > Util::_datetime_t());
     return 0;
 }
 

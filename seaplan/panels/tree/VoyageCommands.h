@@ -20,8 +20,6 @@ class VoyageCommands {
     int OpenEmptyPortCalls();
     int NoonReport();
     int Rename();
-    int OpenRemarks();
-    int OpenFigures();
     int Delete();
     int Recover();
     int Clear();
