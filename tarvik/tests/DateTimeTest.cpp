@@ -26,6 +26,16 @@ TEST(TimeSpanTest, CountsCentiseconds) {
     EXPECT_EQ(_time_t::from_csecs(std::numeric_limits<std::int32_t>::max()).hour(), 5965);
 }
 
+TEST(TimeSpanTest, PartsOfAnySizeDoNotOverflow) {
+    constexpr int kMost = std::numeric_limits<int>::max();
+    constexpr int kLeast = std::numeric_limits<int>::min();
+    EXPECT_EQ(_time_t(0, kMost).to_csecs(), std::int64_t{6000} * kMost);
+    EXPECT_EQ(_time_t(0, kMost, kMost).to_csecs(), std::int64_t{6100} * kMost);
+    EXPECT_EQ(_time_t(kMost, kMost, kMost).to_csecs(), std::int64_t{366100} * kMost);
+    EXPECT_EQ(_time_t(kLeast, kLeast, kLeast).to_csecs(), std::int64_t{366100} * kLeast);
+    EXPECT_EQ(_time_t(kMost, 0).hour(), kMost);
+}
+
 TEST(DateTest, DayZeroIsTheFirstOf1970) {
     EXPECT_EQ(_date_t(1, 1, 1970).to_days(), 0);
     EXPECT_EQ(_date_t(31, 12, 1969).to_days(), -1);

@@ -15,7 +15,7 @@ class TARVIK_API _time_t {
     _time_t() = default;
     /// Hours may exceed a day, and each part may be negative.
     _time_t(int hours, int minutes, int seconds = 0)
-        : csecs_((static_cast<std::int64_t>(hours) * 3600 + minutes * 60 + seconds) * 100) {}
+        : csecs_((hours * std::int64_t{3600} + minutes * std::int64_t{60} + seconds) * 100) {}
     /// A span of whole centiseconds; the argument is 32 bits wide, about 248 days.
     static _time_t from_csecs(std::int32_t csecs);
     /// Whole span in centiseconds.
