@@ -35,8 +35,8 @@ VoyageViews::VoyageViews(Parts parts)
                 }}),
       bunkers_({[parts] { return new BunkerWindow(parts.mainView); },
                 [this, parts](BunkerWindow& window) { return MakeBunkers(parts.store, window); }}),
-      panel_({parts.store, parts.catalog, parts.voyages, *voyageWindow_, voyageWindow_->FilterPopup(), tree_,
-              [this] { return portCalls_.Made(); }}) {
+      panel_({parts.store, parts.catalog, parts.voyages, *voyageWindow_, voyageWindow_->FilterPopup(),
+              voyageWindow_->Search(), tree_, [this] { return portCalls_.Made(); }}) {
     tree_.SetPortCallPanel([this] { return &portCalls_.Use(); });
     tree_.Notes().SetRemarks([this](TreeRow row, int type, const std::string& id, const std::string& name) {
         return remarks_.Use().Open(row, type, id, name);

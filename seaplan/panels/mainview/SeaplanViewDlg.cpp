@@ -19,7 +19,9 @@ constexpr const char* kHelpTopic = "func033";
 }  // namespace
 
 SeaplanViewDlg::SeaplanViewDlg(const Parts& parts)
-    : p_(parts), filter_(parts.filterPopup, parts.tree, [this] { return RecoverAll(); }) {}
+    : p_(parts),
+      filter_(parts.filterPopup, parts.tree, [this] { return RecoverAll(); }),
+      search_(parts.tree.Context(), parts.searchView) {}
 
 void SeaplanViewDlg::RegisterHost() {
     namespace Bus = Interface::Bus;
@@ -67,6 +69,7 @@ void SeaplanViewDlg::Hide() {
     // The name being typed is taken while its row, and the box that may tell what is wrong with it, can be
     // seen.
     p_.tree.CloseEditors();
+    search_.Close();
     filter_.Hide();
     p_.window.Hide();
     p_.tree.OnViewShown(false);
@@ -83,6 +86,8 @@ void SeaplanViewDlg::OnLogout() {
     p_.voyages.ClearChart();
     // What is being typed belongs to the user who goes.
     p_.tree.Renaming().Abandon();
+    search_.Close();
+    search_.ForgetRead();
     p_.tree.Context().tree.DeleteAllItems();
     p_.store.Clear();
     Hide();
@@ -98,6 +103,7 @@ void SeaplanViewDlg::OnTimeZone(const std::string* /*zone*/) {
         voyage.portCalls.clear();
         voyage.positionBook.points.clear();
     }
+    search_.ForgetRead();
 }
 
 const char* SeaplanViewDlg::OnAddVessel(const std::string* vi) {

@@ -9,6 +9,7 @@
 
 #include "seaplan/panels/mainview/FltTreeFilterDlg.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/panels/tree/search/TreeSearch.h"
 #include "seaplan/panels/window/PanelWindow.h"
 
 namespace Tarvik::Interface {
@@ -29,6 +30,7 @@ class SeaplanViewDlg final : public Core::TObject {
         VoyController& voyages;
         PanelWindow& window;
         ChoicePopup& filterPopup;
+        SearchView& searchView;
         SeaplanTreeCtrl& tree;
         std::function<CPortCallPanelDlg*()>
             portCalls;  ///< null while it is not made; empty where there is none
@@ -44,6 +46,7 @@ class SeaplanViewDlg final : public Core::TObject {
     int RecoverAll();
     void Hide();
     FltTreeFilterDlg& Filter() { return filter_; }
+    TreeSearch& Search() { return search_; }
     /// -1 when the category cannot be made.
     int AddCategory();
     void RequestHelp();
@@ -60,6 +63,7 @@ class SeaplanViewDlg final : public Core::TObject {
 
     Parts p_;
     FltTreeFilterDlg filter_;
+    TreeSearch search_;
     Interface::Binding showPanel_;
     Interface::Binding switchLanguage_;
     Interface::Binding logout_;

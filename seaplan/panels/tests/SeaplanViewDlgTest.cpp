@@ -32,7 +32,8 @@ class SeaplanViewDlgTest : public TreeFixture {
   protected:
     RecordingPanelWindow<PanelWindow> window;
     RecordingChoices filterPopup;
-    SeaplanViewDlg panel{{store, desk.catalog, desk.voyages, window, filterPopup, ctrl, nullptr}};
+    RecordingSearch searchView;
+    SeaplanViewDlg panel{{store, desk.catalog, desk.voyages, window, filterPopup, searchView, ctrl, nullptr}};
 
     SeaplanViewDlgTest() { panel.RegisterHost(); }
     void Toggle(int code = 3) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "seaplan/panels/tree/TreeRows.h"
+#include "seaplan/panels/tree/search/SearchView.h"
 #include "seaplan/panels/vessel/VesselView.h"
 #include "seaplan/panels/window/ChoicePopup.h"
 #include "seaplan/panels/window/TextBox.h"
@@ -93,6 +94,24 @@ class RecordingVesselView final : public VesselView {
     }
     void HideList() override { list = false; }
     bool ListVisible() const override { return list; }
+};
+
+/// The search line as the test sees it.
+class RecordingSearch final : public SearchView {
+  public:
+    bool open = false;
+    int opened = 0;
+    int asked = 0;  ///< how often time was asked for
+    SearchState state;
+
+    void OpenSearch(const SearchState& shown) override {
+        state = shown;
+        open = true;
+        ++opened;
+    }
+    void ShowSearch(const SearchState& shown) override { state = shown; }
+    void CloseSearch() override { open = false; }
+    void AskForTime() override { ++asked; }
 };
 
 /// A popup of choices as the test sees it.

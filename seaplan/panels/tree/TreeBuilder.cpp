@@ -9,6 +9,18 @@
 namespace Tarvik::Seaplan {
 
 int TreeBuilder::RebuildAll() {
+    const int result = MakeAll();
+    TellMade();
+    return result;
+}
+
+void TreeBuilder::TellMade() const {
+    if (c_.rowsMade) {
+        c_.rowsMade();
+    }
+}
+
+int TreeBuilder::MakeAll() {
     c_.tree.DeleteAllItems();
     std::vector<VoyCategory*> deleted;
     for (const auto& [ci, voyages] : c_.store.categoryVoyages) {
@@ -70,11 +82,12 @@ int TreeBuilder::RebuildCategory(const std::string& ci) {
         return -1;
     }
     c_.tree.DeleteChildItems(row);
-    if (const int result = AddVoyages(row, ci, DateSource::PortCalls); result != 0) {
-        return result;
+    const int result = AddVoyages(row, ci, DateSource::PortCalls);
+    if (result == 0) {
+        status_.ShowAll(row, ci);
     }
-    status_.ShowAll(row, ci);
-    return 0;
+    TellMade();
+    return result;
 }
 
 int TreeBuilder::SortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,

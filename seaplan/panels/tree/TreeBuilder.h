@@ -26,6 +26,8 @@ class TreeBuilder {
 
   private:
     enum class DateSource { PositionBook, PortCalls };
+    int MakeAll();
+    void TellMade() const;
     int AddVoyages(TreeRow row, const std::string& ci, DateSource source);
     int SortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,
                     std::vector<std::string>& deleted) const;

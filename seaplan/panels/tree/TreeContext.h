@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -42,6 +43,7 @@ struct TreeContext : TreeState {
     VoyController& voyages;
     TreeWidget& tree;
     Boxes boxes;
+    std::function<void()> rowsMade;  ///< hears that rows were made anew; empty where nobody cares
 
     VoyCategory* CategoryOf(TreeRow row) const { return static_cast<VoyCategory*>(tree.GetItemData(row)); }
     VoyInfo* VoyageOf(TreeRow row) const { return static_cast<VoyInfo*>(tree.GetItemData(row)); }

@@ -11,17 +11,22 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-/// Rows in the order on the screen, without those that are folded away.
+/// Rows in the order on the screen, without those that are folded away or put aside by a search.
 std::vector<TreeRow> ShownRows(const TreeWidget& tree) {
     std::vector<TreeRow> rows;
+    const auto add = [&](TreeRow row) {
+        if (tree.GetRowFinding(row) != RowFinding::Aside) {
+            rows.push_back(row);
+        }
+    };
     for (TreeRow row = tree.GetRootItem(); row != kNoRow; row = tree.GetNextSiblingItem(row)) {
-        rows.push_back(row);
+        add(row);
         if (!tree.IsItemExpanded(row)) {
             continue;
         }
         for (TreeRow child = tree.GetChildItem(row); child != kNoRow;
              child = tree.GetNextSiblingItem(child)) {
-            rows.push_back(child);
+            add(child);
         }
     }
     return rows;

@@ -192,6 +192,20 @@ bool TreeRows::IsItemExpanded(TreeRow row) const {
     return state != nullptr && state->expanded;
 }
 
+void TreeRows::SetRowFinding(TreeRow row, RowFinding finding) {
+    TreeRowState* state = Find(row);
+    if (state == nullptr || state->finding == finding) {
+        return;
+    }
+    state->finding = finding;
+    RowFindingSet(row, finding);
+}
+
+RowFinding TreeRows::GetRowFinding(TreeRow row) const {
+    const TreeRowState* state = Row(row);
+    return state == nullptr ? RowFinding::None : state->finding;
+}
+
 std::string TreeRows::GetItemText(TreeRow row) const {
     const TreeRowState* state = Row(row);
     return state == nullptr ? std::string() : state->text;

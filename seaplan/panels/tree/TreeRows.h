@@ -26,6 +26,7 @@ struct TreeRowState {
     TreeRow next = kNoRow;  ///< next sibling
     void* record = nullptr;
     bool expanded = false;
+    RowFinding finding = RowFinding::None;
     std::vector<TreeRow> children;
     std::map<std::string, TreeItem> items;
 };
@@ -72,6 +73,8 @@ class TreeRows : public TreeShape {
   public:
     void Expand(TreeRow row, bool open) override;
     bool IsItemExpanded(TreeRow row) const override;
+    void SetRowFinding(TreeRow row, RowFinding finding) override;
+    RowFinding GetRowFinding(TreeRow row) const override;
     std::string GetItemText(TreeRow row) const override;
     void SetItemText(TreeRow row, const std::string& text) override;
     void SetDrawItemValue(TreeRow row, const std::string& item, const std::string& text) override;
@@ -84,6 +87,7 @@ class TreeRows : public TreeShape {
   protected:
     virtual void RowChanged(TreeRow) {}
     virtual void RowExpanded(TreeRow, bool) {}
+    virtual void RowFindingSet(TreeRow, RowFinding) {}
 };
 
 }  // namespace Tarvik::Seaplan

@@ -18,6 +18,10 @@ inline constexpr const char* kVoyageStyle = "Voyage.tree.child";
 inline constexpr const char* kDeletedCategoryStyle = "Voyage.tree.parent.del";
 inline constexpr const char* kDeletedVoyageStyle = "Voyage.tree.child.del";
 
+/// How a row stands to what is looked for: nothing is looked for or it only leads there, it is what is looked
+/// for, or it is put aside and not shown.
+enum class RowFinding { None, Found, Aside };
+
 /// The widget under the voyage tree: rows in two levels, each with named items. It reports presses and clicks
 /// on items to SeaplanTreeCtrl and decides nothing.
 class TreeWidget : public BoxOwner {
@@ -41,6 +45,8 @@ class TreeWidget : public BoxOwner {
     virtual void SetCursor(TreeRow row) = 0;
     virtual void Expand(TreeRow row, bool open) = 0;
     virtual bool IsItemExpanded(TreeRow row) const = 0;
+    virtual void SetRowFinding(TreeRow row, RowFinding finding) = 0;
+    virtual RowFinding GetRowFinding(TreeRow row) const = 0;
     /// Rectangle of a row in pixels of the tree's window.
     virtual Rect GetItemRect(TreeRow row) const = 0;
     virtual std::string GetItemText(TreeRow row) const = 0;

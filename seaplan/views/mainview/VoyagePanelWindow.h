@@ -2,6 +2,7 @@
 #pragma once
 
 #include "seaplan/panels/window/PanelWindow.h"
+#include "seaplan/views/mainview/SearchBar.h"
 #include "seaplan/views/tree/VoyageTreeView.h"
 #include "seaplan/views/vessel/VesselBox.h"
 #include "seaplan/views/window/ChoiceBox.h"
@@ -21,19 +22,25 @@ class VoyagePanelWindow final : public PanelFrame<PanelWindow> {
     VoyageTreeView& Tree() { return *tree_; }
     VesselBox& Vessels() { return *vessels_; }
     ChoiceBox& FilterPopup() { return *filter_; }
+    SearchBar& Search() { return *search_; }
 
     void ApplyTexts() override;
     void ApplySkin() override;
 
   protected:
     void FocusFirst() override;
+    /// Escape ends a search also from the tree.
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     VoyageTreeView* tree_;
     VesselBox* vessels_;
     ChoiceBox* filter_;
+    SearchBar* search_;
+    QToolButton* findButton_;
     QToolButton* filterButton_;
     QToolButton* addButton_;
+    SeaplanViewDlg* panel_ = nullptr;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -28,7 +28,7 @@ int Usage() {
         "seaplan-views-preview [--png OUT.png] [--theme light|dark|night] [--lang en-US|zh-CN|zh-TW]\n"
         "                      [--scene "
         "tree|category|empty|voyage|edit|matches|purposes|calendar|rename|bin|vessel|book|book-typing|\n"
-        "                      book-track|book-calendar|book-passed|remarks|figures]\n",
+        "                      book-track|book-calendar|book-passed|remarks|figures|search]\n",
         stderr);
     return 2;
 }
@@ -136,6 +136,13 @@ void Play(VoyageViews& views, const std::string& scene) {
     Tarvik::Interface::Raise(Bus::ShowPanel, &show);
     QApplication::processEvents();
     if (scene == "empty") {
+        return;
+    }
+    if (scene == "search") {
+        views.Panel().Search().Open();
+        views.VoyageWindow()->findChild<QLineEdit*>("searchField")->setText("rotterdam");
+        QApplication::processEvents();
+        views.Panel().Search().OnStep(1);
         return;
     }
     if (scene == "bin") {

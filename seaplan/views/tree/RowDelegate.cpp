@@ -13,12 +13,15 @@ namespace {
 using Skin::Colour;
 using Skin::Role;
 
-void PaintGround(QPainter& painter, const QRect& line, bool selected, bool category) {
+void PaintGround(QPainter& painter, const QRect& line, bool selected, const TreeRowState& state) {
+    const bool category = state.parent == kNoRow;
     painter.fillRect(line, selected   ? Colour(Role::Selection)
                            : category ? Colour(Role::Window)
                                       : Colour(Role::Panel));
-    if (selected) {
-        painter.fillRect(QRect(line.left(), line.top(), 3, line.height()), Colour(Role::Accent));
+    const bool found = state.finding == RowFinding::Found;
+    if (selected || found) {
+        const Role edge = found ? Role::Warning : Role::Accent;
+        painter.fillRect(QRect(line.left(), line.top(), 3, line.height()), Colour(edge));
     }
 }
 
@@ -37,7 +40,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const bool category = state->parent == kNoRow;
     const QRect line(0, option.rect.top(), view_->viewport()->width(), option.rect.height());
     painter->save();
-    PaintGround(*painter, line, selected, category);
+    PaintGround(*painter, line, selected, *state);
     RowLook look{.font = option.font};
     look.font.setBold(category);
     look.deleted = state->style == kDeletedCategoryStyle || state->style == kDeletedVoyageStyle;

@@ -87,6 +87,14 @@ void VoyageTreeWidget::RowSelected(TreeRow row) {
     view_.Relayout();
 }
 
+void VoyageTreeWidget::RowFindingSet(TreeRow row, RowFinding finding) {
+    if (QStandardItem* item = ItemOf(row)) {
+        const QModelIndex index = item->index();
+        view_.setRowHidden(index.row(), index.parent(), finding == RowFinding::Aside);
+        view_.viewport()->update();
+    }
+}
+
 void VoyageTreeWidget::RowExpanded(TreeRow row, bool expanded) {
     QStandardItem* item = ItemOf(row);
     if (item != nullptr) {

@@ -31,6 +31,7 @@ class VoyageTreeWidget final : public TreeRows {
     void RowChanged(TreeRow row) override;
     void RowSelected(TreeRow row) override;
     void RowExpanded(TreeRow row, bool expanded) override;
+    void RowFindingSet(TreeRow row, RowFinding finding) override;
 
   private:
     VoyageTreeView& view_;

@@ -10,6 +10,7 @@ const std::map<std::string, std::string>& IconTexts() {
         {"redo", R"(<path d="M10 3l3 3-3 3M13 6H7a3 3 0 0 0 0 6h3"/>)"},
         {"close", R"(<path d="M4 4l8 8M12 4l-8 8"/>)"},
         {"help", R"(<path d="M5.5 6a2.5 2.5 0 1 1 3.7 2.2C8.3 8.7 8 9.2 8 10.2"/><path d="M8 12.6v.4"/>)"},
+        {"search", R"(<circle cx="7" cy="7" r="4.2"/><path d="M10.2 10.2l3.6 3.6"/>)"},
         {"filter", R"(<path d="M2.5 3.5h11L9.5 8.5v4l-3 1.5V8.5z"/>)"},
         {"rename", R"(<path d="M3 13l.8-3L10.5 3.3l2.2 2.2L6 12.2z"/><path d="M9 4.8L11.2 7"/>)"},
         {"delete", R"(<path d="M3 4.5h10M6.2 4.5V3h3.6v1.5M4.3 4.5l.6 8.8h6.2l.6-8.8M6.8 7v4M9.2 7v4"/>)"},

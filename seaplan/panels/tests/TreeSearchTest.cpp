@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+/// Finding voyages among the rows of the tree.
+#include <gmock/gmock.h>
+
+#include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/search/TreeSearch.h"
+
+namespace Tarvik::Seaplan {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+
+class TreeSearchTest : public TreeFixture {
+  protected:
+    TreeSearchTest() {
+        desk.AddCategory("Bulk");
+        desk.AddVoyage("Bulk", {.name = "Autumn", .vsn = "ANNA", .calls = PanelDesk::Calls(5)});
+        desk.AddVoyage("Bulk", {.name = "Winter"});
+        desk.AddCategory("Tankers");
+        desk.AddVoyage("Tankers", {.name = "Anna's", .calls = PanelDesk::Calls(1, 3)});
+        desk.AddVoyage("Tankers", {.name = "Summer"});
+        desk.AddCategory("Empty");
+        ctrl.ReloadTree();
+        desk.ForgetRecords();
+    }
+    /// Rows that are not put aside, found ones with "*", voyages of open categories indented.
+    std::vector<std::string> Rows() const {
+        std::vector<std::string> rows;
+        const auto add = [&](TreeRow row, const char* indent) {
+            if (tree.GetRowFinding(row) != RowFinding::Aside) {
+                const char* mark = tree.GetRowFinding(row) == RowFinding::Found ? "*" : "";
+                rows.push_back(indent + tree.GetItemText(row) + mark);
+            }
+        };
+        for (TreeRow row = tree.GetRootItem(); row != kNoRow; row = tree.GetNextSiblingItem(row)) {
+            add(row, "");
+            TreeRow child = tree.IsItemExpanded(row) ? tree.GetChildItem(row) : kNoRow;
+            for (; child != kNoRow; child = tree.GetNextSiblingItem(child)) {
+                add(child, "  ");
+            }
+        }
+        return rows;
+    }
+    void Search(const std::string& text) {
+        search.Open();
+        search.OnTyped(text);
+    }
+    /// Gives the search all the time that it asks for.
+    void ReadAll() {
+        while (search.State().unread > 0) {
+            search.OnIdle();
+        }
+    }
+    std::string SelectedText() const { return tree.GetItemText(tree.Selected()); }
+
+    RecordingSearch view;
+    TreeSearch search{ctrl.Context(), view};
+};
+
+}  // namespace
+
+TEST_F(TreeSearchTest, WhatAnswersIsMarkedAndTheRestPutAside) {
+    Search("ann");
+    EXPECT_THAT(Rows(), ElementsAre("Bulk", "  Autumn*", "Tankers", "  Anna's*"));
+    EXPECT_EQ(view.state.found, 2);
+    EXPECT_EQ(view.state.current, 0);
+    search.OnTyped("ann autumn");
+    EXPECT_THAT(Rows(), ElementsAre("Bulk", "  Autumn*"));
+    search.OnTyped("nothing at all");
+    EXPECT_THAT(Rows(), IsEmpty());
+    EXPECT_EQ(view.state.found, 0);
+}
+
+TEST_F(TreeSearchTest, ACategoryThatAnswersAloneKeepsItsVoyagesFoldedAsTheyWere) {
+    Search("tank");
+    EXPECT_THAT(Rows(), ElementsAre("Tankers*"));
+    EXPECT_EQ(tree.GetRowFinding(tree.Find("Summer")), RowFinding::None);
+    search.Close();
+    tree.Expand(tree.Find("Tankers"), true);
+    Search("tank");
+    EXPECT_THAT(Rows(), ElementsAre("Tankers*", "  Anna's", "  Summer"));
+}
+
+TEST_F(TreeSearchTest, ABlankTextShowsAllAsItWas) {
+    tree.Expand(tree.Find("Bulk"), true);
+    const auto before = Rows();
+    Search("summer");
+    EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Summer*"));
+    search.OnTyped("  ");
+    EXPECT_EQ(Rows(), before);
+    EXPECT_FALSE(view.state.asks);
+}
+
+TEST_F(TreeSearchTest, EndingItRestoresTheFolding) {
+    tree.Expand(tree.Find("Bulk"), true);
+    const auto before = Rows();
+    Search("summer");
+    search.Close();
+    EXPECT_EQ(Rows(), before);
+    EXPECT_FALSE(view.open);
+    EXPECT_FALSE(search.IsOpen());
+    search.Open();
+    EXPECT_EQ(view.state.text, "") << "the next search begins empty";
+    EXPECT_FALSE(view.state.asks);
+    EXPECT_EQ(view.state.found, 0);
+}
+
+TEST_F(TreeSearchTest, EnterGoesRoundTheAnswersAndAsksTheServerNothing) {
+    Search("ann");
+    EXPECT_EQ(tree.Selected(), kNoRow);
+    std::vector<std::string> way;
+    for (const int by : {1, 1, 1, -1, -1}) {
+        search.OnStep(by);
+        way.push_back(SelectedText() + " " + std::to_string(view.state.current));
+        EXPECT_EQ(tree.cursor, tree.Selected());
+    }
+    EXPECT_THAT(way, ElementsAre("Autumn 1", "Anna's 2", "Autumn 1", "Anna's 2", "Autumn 1"));
+    EXPECT_TRUE(desk.host.requests.empty());
+    search.OnTyped("nothing");
+    search.OnStep(1);
+    EXPECT_EQ(SelectedText(), "Autumn");
+}
+
+TEST_F(TreeSearchTest, BackwardsFromNoAnswerLeadsToTheLast) {
+    Search("ann");
+    search.OnStep(-1);
+    EXPECT_EQ(SelectedText(), "Anna's");
+}
+
+TEST_F(TreeSearchTest, PortsAreFoundOnceTheyHaveBeenRead) {
+    Search("gdansk");
+    EXPECT_THAT(Rows(), IsEmpty());
+    EXPECT_EQ(view.state.unread, 4);
+    EXPECT_EQ(view.asked, 1);
+    ReadAll();
+    EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Anna's*"));
+    search.OnTyped("2024-03-05");
+    EXPECT_THAT(Rows(), ElementsAre("Bulk", "  Autumn*"));
+}
+
+TEST_F(TreeSearchTest, NothingIsAskedFromTheServerTwice) {
+    Search("gdansk");
+    ReadAll();
+    EXPECT_EQ(desk.Count(Ask::kLoadPortCalls), 4);
+    search.Close();
+    desk.ForgetRecords();
+    Search("hamburg");
+    search.OnFilter(VoyageFilter::UnderWay);
+    EXPECT_EQ(view.state.unread, 0) << "also a voyage without port calls is known now";
+    search.OnIdle();
+    EXPECT_TRUE(desk.host.requests.empty());
+    search.ForgetRead();
+    search.Close();
+    Search("hamburg");
+    EXPECT_EQ(view.state.unread, 2) << "what has port calls keeps them";
+}
+
+TEST_F(TreeSearchTest, NothingIsReadWhileNothingIsAsked) {
+    search.Open();
+    search.OnIdle();
+    EXPECT_EQ(view.asked, 0);
+    EXPECT_TRUE(desk.host.requests.empty());
+    search.OnTyped("x");
+    search.Close();
+    search.OnIdle();
+    EXPECT_TRUE(desk.host.requests.empty());
+}
+
+TEST_F(TreeSearchTest, TheReadyQuestionsReadWhatTheyNeed) {
+    desk.clock.SetUtc(2024, 3, 1, 20);
+    search.Open();
+    search.OnFilter(VoyageFilter::UnderWay);
+    ReadAll();
+    EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Anna's*"));
+    search.OnFilter(VoyageFilter::ArrivingSoon);
+    EXPECT_THAT(Rows(), ElementsAre("Bulk", "  Autumn*", "Tankers", "  Anna's*"));
+    search.OnTyped("autumn");
+    EXPECT_THAT(Rows(), ElementsAre("Bulk", "  Autumn*")) << "words and question together";
+    search.OnTyped("");
+    search.OnFilter(VoyageFilter::WithoutRoute);
+    EXPECT_THAT(Rows(), ElementsAre("Bulk", "  Winter*", "Tankers", "  Summer*"));
+    search.OnFilter(VoyageFilter::All);
+    EXPECT_THAT(Rows(), ElementsAre("Bulk", "Tankers", "Empty"));
+}
+
+TEST_F(TreeSearchTest, RowsMadeAnewAreSearchedToo) {
+    tree.Expand(tree.Find("Bulk"), true);
+    Search("ann");
+    const auto found = Rows();
+    Click("Bulk", "Voyage.parent.svr6");
+    EXPECT_EQ(Rows(), found);
+    Click("Autumn", "Voyage.child.svr9");
+    EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Anna's*"));
+    ctrl.ReloadTree();
+    EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Anna's*"));
+    search.Close();
+    EXPECT_THAT(Rows(), ElementsAre("Bulk", "Tankers", "Empty")) << "a reload folds all";
+}
+
+TEST_F(TreeSearchTest, ARowThatIsGoneIsPassedOver) {
+    Search("an");
+    Click("Tankers", "Voyage.parent.svr7");
+    search.OnStep(1);
+    search.OnStep(1);
+    EXPECT_EQ(SelectedText(), "Autumn");
+    ReadAll();
+}
+
+TEST_F(TreeSearchTest, TheRecycleBinIsFoundByNameAndAnswersNoReadyQuestion) {
+    Click("Winter", "Voyage.child.svr9");
+    ctrl.SetShowDeleted(true);
+    Search("winter");
+    EXPECT_THAT(Rows(), ElementsAre("Bulk", "  Winter*"));
+    search.OnTyped("");
+    search.OnFilter(VoyageFilter::WithoutRoute);
+    ReadAll();
+    EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Summer*"));
+}
+
+TEST_F(TreeSearchTest, RemarksThatHaveBeenReadAreSearched) {
+    search.SetRemarkText([this](const std::string& id) {
+        return id == Id("Summer") ? std::string("Draft SURVEY") : std::string();
+    });
+    Search("survey");
+    EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Summer*"));
+}
+
+TEST_F(TreeSearchTest, ArrowKeysWalkOnlyWhatIsShown) {
+    Search("ann");
+    ctrl.OnRowPressed(tree.Find("Bulk"));
+    std::vector<std::string> way;
+    for (int i = 0; i < 4; ++i) {
+        ctrl.Keys().OnKey(Key::Down, tree.cursor, {});
+        way.push_back(tree.GetItemText(tree.cursor));
+    }
+    EXPECT_THAT(way, ElementsAre("Autumn", "Tankers", "Anna's", "Anna's"));
+}
+
+TEST_F(TreeSearchTest, OpeningItAgainGivesTheKeyboardBack) {
+    Search("ann");
+    search.Open();
+    EXPECT_EQ(view.opened, 2);
+    EXPECT_EQ(view.state.text, "ann");
+}
+
+}  // namespace Tarvik::Seaplan

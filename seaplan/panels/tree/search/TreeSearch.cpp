@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/tree/search/TreeSearch.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace Tarvik::Seaplan {
+
+TreeSearch::TreeSearch(TreeContext& context, SearchView& view) : c_(context), view_(view) {
+    c_.rowsMade = [this] {
+        if (open_) {
+            Collect();
+            Apply();
+        }
+    };
+}
+
+void TreeSearch::Open() {
+    if (!open_) {
+        open_ = true;
+        state_ = {};
+        unfolded_.clear();
+        for (TreeRow row = c_.tree.GetRootItem(); row != kNoRow; row = c_.tree.GetNextSiblingItem(row)) {
+            if (c_.tree.IsItemExpanded(row)) {
+                unfolded_.insert(row);
+            }
+        }
+        Collect();
+        Apply();
+    }
+    view_.OpenSearch(state_);
+}
+
+void TreeSearch::OnTyped(const std::string& text) {
+    if (open_ && text != state_.text) {
+        state_.text = text;
+        Apply();
+    }
+}
+
+void TreeSearch::OnFilter(VoyageFilter filter) {
+    if (open_ && filter != state_.filter) {
+        state_.filter = filter;
+        Apply();
+    }
+}
+
+void TreeSearch::Close() {
+    if (!open_) {
+        return;
+    }
+    open_ = false;
+    state_ = {};
+    ShowAll();
+    entries_.clear();
+    unread_.clear();
+    view_.CloseSearch();
+}
+
+std::string TreeSearch::TextOf(const VoyInfo& voyage) const {
+    std::string text = SearchTextOf(voyage);
+    if (remarkText_) {
+        text.append("\n").append(FoldSearch(remarkText_(voyage.vi)));
+    }
+    return text;
+}
+
+/// Rows as they are now. Their records may have changed at any row that was made anew.
+void TreeSearch::Collect() {
+    entries_.clear();
+    unread_.clear();
+    for (TreeRow row = c_.tree.GetRootItem(); row != kNoRow; row = c_.tree.GetNextSiblingItem(row)) {
+        const VoyCategory* category = c_.CategoryOf(row);
+        std::string text = FoldSearch(c_.tree.GetItemText(row));
+        if (remarkText_ && category != nullptr) {
+            text.append("\n").append(FoldSearch(remarkText_(category->ci)));
+        }
+        entries_.push_back({row, kNoRow, {}, std::move(text)});
+        CollectVoyages(row);
+    }
+}
+
+void TreeSearch::CollectVoyages(TreeRow category) {
+    for (TreeRow row = c_.tree.GetChildItem(category); row != kNoRow; row = c_.tree.GetNextSiblingItem(row)) {
+        const VoyInfo* voyage = c_.VoyageOf(row);
+        Entry entry{row, category};
+        entry.text = voyage == nullptr ? FoldSearch(c_.tree.GetItemText(row)) : TextOf(*voyage);
+        if (voyage != nullptr && c_.tree.GetItemStyle(row) == kVoyageStyle) {
+            entry.vi = voyage->vi;
+            if (voyage->portCalls.empty() && !read_.contains(voyage->vi)) {
+                unread_.push_back(entries_.size());
+            }
+        }
+        entries_.push_back(std::move(entry));
+    }
+}
+
+bool TreeSearch::Answers(const Entry& entry) const {
+    if (!state_.asks || !HoldsAll(entry.text, words_)) {
+        return false;
+    }
+    if (state_.filter == VoyageFilter::All) {
+        return true;
+    }
+    const VoyInfo* voyage = entry.vi.empty() ? nullptr : c_.store.FindVoyage(entry.vi);
+    return voyage != nullptr && Passes(*voyage, state_.filter, Util::_datetime_t());
+}
+
+void TreeSearch::Apply() {
+    words_ = SearchWords(state_.text);
+    state_.asks = !words_.empty() || state_.filter != VoyageFilter::All;
+    for (Entry& entry : entries_) {
+        entry.answers = Answers(entry);
+    }
+    if (state_.asks) {
+        for (std::size_t at = 0; at < entries_.size();) {
+            at = ShowCategory(at);
+        }
+    } else {
+        ShowAll();
+    }
+    Count();
+    if (state_.asks && !unread_.empty()) {
+        view_.AskForTime();
+    }
+}
+
+/// Shows a category with what answers in it, and gives the place behind it. A category that answers alone
+/// keeps its voyages, folded as they were.
+std::size_t TreeSearch::ShowCategory(std::size_t at) {
+    const Entry& category = entries_[at];
+    std::size_t end = at + 1;
+    bool any = false;
+    while (end < entries_.size() && entries_[end].category == category.row) {
+        any = any || entries_[end].answers;
+        ++end;
+    }
+    for (std::size_t i = at + 1; i < end; ++i) {
+        const RowFinding aside = any || !category.answers ? RowFinding::Aside : RowFinding::None;
+        c_.tree.SetRowFinding(entries_[i].row, entries_[i].answers ? RowFinding::Found : aside);
+    }
+    const RowFinding with = any ? RowFinding::None : RowFinding::Aside;
+    c_.tree.SetRowFinding(category.row, category.answers ? RowFinding::Found : with);
+    c_.tree.Expand(category.row, any || unfolded_.contains(category.row));
+    return end;
+}
+
+void TreeSearch::ShowAll() {
+    for (const Entry& entry : entries_) {
+        c_.tree.SetRowFinding(entry.row, RowFinding::None);
+        if (entry.category == kNoRow) {
+            c_.tree.Expand(entry.row, unfolded_.contains(entry.row));
+        }
+    }
+}
+
+void TreeSearch::Count() {
+    state_.found = 0;
+    state_.current = 0;
+    for (const Entry& entry : entries_) {
+        if (entry.answers) {
+            ++state_.found;
+            state_.current = entry.row == c_.tree.Selected() ? state_.found : state_.current;
+        }
+    }
+    state_.unread = static_cast<int>(unread_.size());
+    view_.ShowSearch(state_);
+}
+
+void TreeSearch::OnStep(int by) {
+    std::vector<TreeRow> answers;
+    for (const Entry& entry : entries_) {
+        if (entry.answers && c_.tree.GetItemData(entry.row) != nullptr) {
+            answers.push_back(entry.row);
+        }
+    }
+    if (!open_ || answers.empty()) {
+        return;
+    }
+    const int count = static_cast<int>(answers.size());
+    const auto now = std::find(answers.begin(), answers.end(), c_.tree.Selected());
+    // From no answer on, the first one is next and the last one is before.
+    const int from = now == answers.end() ? (by > 0 ? -1 : count) : static_cast<int>(now - answers.begin());
+    const TreeRow next = answers[static_cast<std::size_t>((from + by + count) % count)];
+    c_.tree.SelectItem(next);
+    c_.tree.SetCursor(next);
+    Count();
+}
+
+/// Reads for as long as nobody notices. A server that makes the person wait is asked no more.
+void TreeSearch::ReadSome() {
+    using Clock = std::chrono::steady_clock;
+    constexpr auto kUnnoticed = std::chrono::milliseconds(20);
+    constexpr auto kPatience = std::chrono::seconds(1);
+    const auto begin = Clock::now();
+    auto used = Clock::duration::zero();
+    while (!unread_.empty() && used < kUnnoticed) {
+        Entry& entry = entries_[unread_.back()];
+        unread_.pop_back();
+        read_.insert(entry.vi);
+        c_.FetchPortCalls(entry.vi);
+        if (const VoyInfo* voyage = c_.store.FindVoyage(entry.vi)) {
+            entry.text = TextOf(*voyage);
+        }
+        used = Clock::now() - begin;
+    }
+    if (used > kPatience) {
+        unread_.clear();
+    }
+}
+
+void TreeSearch::OnIdle() {
+    if (!open_ || !state_.asks || unread_.empty()) {
+        return;
+    }
+    ReadSome();
+    Apply();
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/search/SearchView.h"
+
+namespace Tarvik::Seaplan {
+
+/// Finds categories and voyages among the rows of the tree. What answers is marked, what does not is put
+/// aside; at the end the categories are folded as they were. A voyage's port calls are read while the person
+/// waits for nothing, each once.
+class TreeSearch {
+  public:
+    /// Text of the remarks of an object that have been read, empty for none.
+    using RemarkText = std::function<std::string(const std::string& objectid)>;
+
+    TreeSearch(TreeContext& context, SearchView& view);
+    ~TreeSearch() { c_.rowsMade = {}; }
+    TreeSearch(const TreeSearch&) = delete;
+    TreeSearch& operator=(const TreeSearch&) = delete;
+
+    /// Where remarks are looked for; nowhere without it.
+    void SetRemarkText(RemarkText text) { remarkText_ = std::move(text); }
+    bool IsOpen() const { return open_; }
+    const SearchState& State() const { return state_; }
+
+    /// Begins, or gives the keyboard back to the field.
+    void Open();
+    void OnTyped(const std::string& text);
+    void OnFilter(VoyageFilter filter);
+    /// Selects the next answer in the order of the rows, with -1 the one before; around at both ends.
+    void OnStep(int by);
+    /// Ends the search, with all rows and the folding as before.
+    void Close();
+    /// There is time to read port calls.
+    void OnIdle();
+    /// What has been read is worth nothing: another user, another zone.
+    void ForgetRead() { read_.clear(); }
+
+  private:
+    struct Entry {
+        TreeRow row = kNoRow;
+        TreeRow category = kNoRow;  ///< kNoRow for a category
+        std::string vi{};           ///< empty for a category and for what lies in the recycle bin
+        std::string text{};         ///< folded
+        bool answers = false;
+    };
+
+    void Collect();
+    void CollectVoyages(TreeRow category);
+    std::string TextOf(const VoyInfo& voyage) const;
+    bool Answers(const Entry& entry) const;
+    void Apply();
+    std::size_t ShowCategory(std::size_t at);
+    void ShowAll();
+    void Count();
+    void ReadSome();
+
+    TreeContext& c_;
+    SearchView& view_;
+    RemarkText remarkText_;
+    SearchState state_;
+    bool open_ = false;
+    std::set<TreeRow> unfolded_;  ///< categories that were open at the beginning
+    std::vector<Entry> entries_;  ///< each category with its voyages behind it
+    std::vector<std::string> words_;
+    std::vector<std::size_t> unread_;  ///< places of voyages to be read
+    std::set<std::string> read_;       ///< voyages that were asked for
+};
+
+}  // namespace Tarvik::Seaplan
