@@ -39,6 +39,7 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener, pub
     int FillForVoyage(int mode) override { return filling_.Open(mode); }
     void Reset() override { filling_.Reset(); }
     void ShowBesideTree() override;
+    bool AskToLeave() override { return filling_.AskToLeave(); }
     int ShowAisCorrection() override { return filling_.ShowCorrection(); }
     void SetCorrectionTime(const std::string& time) override { filling_.SetCorrectionTime(time); }
     int SavePositionBook(const PosBookData& book) override { return commands_.SavePositionBook(book); }

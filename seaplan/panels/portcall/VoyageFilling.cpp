@@ -48,7 +48,6 @@ bool VoyageFilling::MayReplace(const std::string& vi) {
     return !sheet.unread;
 }
 
-/// Asks what becomes of changes while their table is in sight. False when it has to stay.
 bool VoyageFilling::MayLeave() {
     // Whoever comes by the keyboard has pressed nowhere that would have taken what is being typed.
     editing_.CommitEditors();
@@ -62,12 +61,27 @@ bool VoyageFilling::MayLeave() {
     } else if (save_() != 0) {
         return false;
     }
-    sheet.state.changed = false;
+    sheet.MarkUnchanged();
+    return true;
+}
+
+bool VoyageFilling::AskToLeave() {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    const bool changed = desk_.Sheet().state.changed;
+    if (!MayLeave()) {
+        return false;
+    }
+    // What was given up does not stay in sight where nothing else comes.
+    if (changed && (!desk_.IsCorrected() || corrected_.Fill() != 0)) {
+        Fill(-1);
+    }
     return true;
 }
 
 // The calculation of a saved voyage, or a correction, may stand in its record already.
 void VoyageFilling::GiveUp() {
+    corrected_.ForgetTime();
     desk_.Voyages().DiscardPortCalls(desk_.Sheet().voyageId);
 }
 

@@ -38,6 +38,9 @@ class VoyageFilling {
     /// is shown.
     int ShowCorrection();
     void SetCorrectionTime(const std::string& time) { corrected_.SetTime(next_, time); }
+    /// Asks what becomes of changes that are not saved, and shows the voyage on show as it is stored then.
+    /// False when it has to stay with them.
+    bool AskToLeave();
     /// The person gave up the changes of the voyage on show: what was saved counts again.
     void GiveUp();
     /// The voyage on show anew.

@@ -170,6 +170,21 @@ TEST_F(CorrectedPanelTest, ARefusedPlanOfTheRestKeepsTheCorrectionOnShow) {
     EXPECT_TRUE(view.state.changed);
 }
 
+TEST_F(CorrectedPanelTest, ACorrectionThatWasGivenUpIsNoPartOfTheVoyageAndLeavesNoTime) {
+    panel.SetVoyage(kept);
+    panel.SetCorrectionTime("2024-03-05 20:00:00");
+    ASSERT_EQ(panel.ShowAisCorrection(), 0);
+    messages.Answer(Interface::SysMsgHandleRes::No);
+    Open(kept);
+    EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));
+    EXPECT_EQ(store.voyages[kept].modais, 0);
+    Correct();
+    Open(kept);
+    panel.Commands().OnCalculate();
+    EXPECT_EQ(Saves(), 1);
+    EXPECT_EQ(desk.Count(Ask::kAddAisTime), 0);
+}
+
 TEST_F(CorrectedPanelTest, AFailedReplanIsToldByTheCalculateButtonOnly) {
     Open(kept);
     Type(2, ColSpeed, "12");

@@ -18,10 +18,12 @@ class CorrectingTreeTest : public TreeFixture {
     class Panel final : public PortCallOpener {
       public:
         std::vector<std::string> calls;
+        bool mayLeave = true;
         void SetVoyage(const std::string& vi) override { calls.push_back("SetVoyage " + vi); }
         int FillForVoyage(int) override { return 0; }
         void Reset() override {}
         void ShowBesideTree() override { calls.emplace_back("Show"); }
+        bool AskToLeave() override { return mayLeave; }
         int ShowAisCorrection() override {
             calls.emplace_back("Correction");
             return 0;
@@ -70,6 +72,18 @@ TEST_F(CorrectingTreeTest, EveryMissingConditionIsNamed) {
     desk.routes->Close(true);
     EXPECT_EQ(ClickModify(), "IDS_PORTCALL_AISCOMPUTWARN");
     EXPECT_EQ(desk.Count(Ask::kNearest), 1);
+    EXPECT_THAT(panel.calls, Not(Contains("Correction")));
+}
+
+TEST_F(CorrectingTreeTest, NothingIsCorrectedWhereChangesHaveToStay) {
+    Voyage("A").vsi = "7";
+    Voyage("A").vsn = "ANNA";
+    Press("A");
+    SeeShip(Voyage("A"));
+    panel.mayLeave = false;
+    EXPECT_EQ(ClickModify(), "");
+    EXPECT_EQ(desk.Count(Ask::kNearest), 0);
+    EXPECT_EQ(Voyage("A").modais, 0);
     EXPECT_THAT(panel.calls, Not(Contains("Correction")));
 }
 

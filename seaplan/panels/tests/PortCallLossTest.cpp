@@ -138,6 +138,16 @@ TEST_F(PortCallLossTest, AnotherVoyageIsNotShownOverAPortThatIsBeingTyped) {
     EXPECT_THAT(Stored(), ElementsAre("ROTTERDAM", "HAMBURG", "ROUEN"));
 }
 
+TEST_F(PortCallLossTest, ChangesThatWereGivenUpAreGoneFromSight) {
+    Open(kept);
+    Type(1, ColSpeed, "12");
+    messages.Answer(SysMsgHandleRes::No);
+    EXPECT_TRUE(panel.AskToLeave());
+    EXPECT_EQ(Cell(1, ColSpeed), "10.00");
+    EXPECT_FALSE(view.state.changed);
+    EXPECT_FALSE(view.state.canSave);
+}
+
 TEST_F(PortCallLossTest, APortThatWasTypedOverIsSavedWithItsOwnRoute) {
     desk.routes->SetLeg("HAMBURG", "ROUEN", 100);
     Open(kept);

@@ -87,14 +87,18 @@ int TrackCommands::Modify() {
     if (!Correctable(voyage)) {
         return 0;
     }
+    PortCallOpener* panel = p_.PortCalls();
+    if (panel == nullptr) {
+        return -39;
+    }
+    // The changes on show may be this voyage's own, and what becomes of them decides what is corrected.
+    if (!panel->AskToLeave() || !Correctable(voyage)) {
+        return 0;
+    }
     int applied = 0;
     if (p_.context.voyages.ApplyAisPosition(voyage.vi, applied) != 0) {
         p_.context.boxes.Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
         return -2;
-    }
-    PortCallOpener* panel = p_.PortCalls();
-    if (panel == nullptr) {
-        return -39;
     }
     if (applied > 0) {
         panel->SetCorrectionTime(UserTime(voyage.lastPosTime));

@@ -26,6 +26,8 @@ class PortCallOpener {
     virtual void Reset() = 0;
     /// Puts the panel beside the tree and shows it.
     virtual void ShowBesideTree() = 0;
+    /// Asks what becomes of changes that are not saved; false when the voyage on show has to stay with them.
+    virtual bool AskToLeave() = 0;
     /// Fills the panel with a fresh correction from AIS, ready to be recalculated; negative on failure.
     virtual int ShowAisCorrection() = 0;
     /// Time of that correction, `kTimeFormat` in the user's zone.
