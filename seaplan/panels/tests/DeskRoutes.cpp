@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <utility>
 
 #include <tarvik/util/Geodesy.h>
@@ -39,7 +40,7 @@ double KmOver(double from, const Server::GeoPoint& turn, double to) {
 
 /// Where a way turns that is hardly longer than this. The server keeps three decimals of a position, so the
 /// best of some turning points with three decimals is taken.
-Server::GeoPoint TurnOf(double from, double to, double miles) {
+Server::GeoPoint SearchTurn(double from, double to, double miles) {
     constexpr double kStep = 0.001;
     constexpr int kTries = 60;
     constexpr int kMostSteps = 4096;
@@ -63,6 +64,16 @@ Server::GeoPoint TurnOf(double from, double to, double miles) {
         }
     }
     return best;
+}
+
+/// The same, searched for once in a process: it takes thousands of geodesics.
+Server::GeoPoint TurnOf(double from, double to, double miles) {
+    static std::map<std::tuple<double, double, double>, Server::GeoPoint> known;
+    const auto [entry, added] = known.try_emplace({from, to, miles});
+    if (added) {
+        entry->second = SearchTurn(from, to, miles);
+    }
+    return entry->second;
 }
 
 Server::RouteLeg LegOf(const std::string& fromId, const std::string& toId,
