@@ -57,7 +57,7 @@ bool Export(const TransferCommand& command, Opened& opened, std::string& said) {
     return true;
 }
 
-bool Import(const TransferCommand& command, Opened& opened, TransferReader& reader, std::string& said) {
+bool Import(const TransferCommand& command, Opened& opened, TransferSource& reader, std::string& said) {
     ImportChoice choice = command.importing;
     if (opened.accounts == nullptr && choice.user.empty()) {
         choice.user = kClientUser;
@@ -79,10 +79,10 @@ bool RunTransfer(const TransferCommand& command, Settings settings, std::string&
         settings.database.clear();
     }
     // Looked at first, so that a wrong file makes no data base.
-    std::unique_ptr<TransferReader> reader;
+    std::unique_ptr<TransferSource> reader;
     TransferContent content;
     if (command.import) {
-        reader = TransferReader::Open(command.file, said, command.importing.skipBad);
+        reader = OpenTransferSource(command.file, command.importing.skipBad, said);
         if (reader == nullptr || !reader->ReadContent(content, said)) {
             return false;
         }

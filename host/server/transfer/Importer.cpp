@@ -17,10 +17,10 @@ std::string Occupied(const std::string& user) {
 
 }  // namespace
 
-bool Importer::Run(const ImportChoice& choice, TransferReader& reader, std::string& done,
+bool Importer::Run(const ImportChoice& choice, TransferSource& source, std::string& done,
                    std::string& error) {
     TransferContent content;
-    if (!reader.ReadContent(content, error)) {
+    if (!source.ReadContent(content, error)) {
         return false;
     }
     std::vector<TransferContent::User> missing;
@@ -35,14 +35,14 @@ bool Importer::Run(const ImportChoice& choice, TransferReader& reader, std::stri
         }
     }
     bool idsKept = false;
-    if (!AddRecords(choice, content, reader, idsKept, error)) {
+    if (!AddRecords(choice, content, source, idsKept, error)) {
         return false;
     }
     done = "imported " + Summary(content);
     if (!idsKept && content.highestId > 0) {
         done += "; ids of the file are taken here, so all records got new ones";
     }
-    for (const std::string& record : reader.LeftOut()) {
+    for (const std::string& record : source.LeftOut()) {
         done += "\nleft out: " + record;
     }
     return true;
@@ -124,7 +124,7 @@ bool Importer::AddAccount(const TransferContent::User& user, std::string& error)
     return false;
 }
 
-bool Importer::AddRecords(const ImportChoice& choice, const TransferContent& content, TransferReader& reader,
+bool Importer::AddRecords(const ImportChoice& choice, const TransferContent& content, TransferSource& source,
                           bool& idsKept, std::string& error) {
     CopyManifest manifest;
     for (const TransferContent::User& user : content.users) {
@@ -133,11 +133,11 @@ bool Importer::AddRecords(const ImportChoice& choice, const TransferContent& con
     manifest.lowestId = content.lowestId;
     manifest.highestId = content.highestId;
     manifest.besideOthers = choice.add;
-    reader.Rewind();
+    source.Rewind();
     const auto next = [&]() -> Outcome<std::optional<OwnerCopy>> {
         std::optional<UserCopy> user;
         std::string reason;
-        if (!reader.Next(user, reason)) {
+        if (!source.Next(user, reason)) {
             return Fault{FaultReason::StorageFailed, reason};
         }
         if (!user) {

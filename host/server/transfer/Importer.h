@@ -29,7 +29,7 @@ class Importer {
 
     /// Every user must have an account here, unless the file brings one; an account that is here stays as it
     /// is. False, with an English text in `error`, when nothing was read in. `done` says what was.
-    bool Run(const ImportChoice& choice, TransferReader& reader, std::string& done, std::string& error);
+    bool Run(const ImportChoice& choice, TransferSource& source, std::string& done, std::string& error);
 
   private:
     bool Rename(const ImportChoice& choice, TransferContent& content, std::string& error) const;
@@ -37,7 +37,7 @@ class Importer {
     bool CheckAccounts(const TransferContent& content, std::vector<TransferContent::User>& missing,
                        std::string& error);
     bool AddAccount(const TransferContent::User& user, std::string& error);
-    bool AddRecords(const ImportChoice& choice, const TransferContent& content, TransferReader& reader,
+    bool AddRecords(const ImportChoice& choice, const TransferContent& content, TransferSource& source,
                     bool& idsKept, std::string& error);
 
     TransferStorage& records_;

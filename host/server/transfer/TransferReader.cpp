@@ -20,6 +20,11 @@ TransferReader::TransferReader(const std::string& path, bool skipBad)
     Rewind();
 }
 
+std::unique_ptr<TransferSource> OpenTransferSource(const std::string& path, bool skipBad,
+                                                   std::string& error) {
+    return TransferReader::Open(path, error, skipBad);
+}
+
 std::unique_ptr<TransferReader> TransferReader::Open(const std::string& path, std::string& error,
                                                      bool skipBad) {
     std::unique_ptr<TransferReader> reader(new TransferReader(path, skipBad));

@@ -14,23 +14,39 @@
 
 namespace Tarvik::Server {
 
+/// Where an import takes its users from. A further form of file is one more class of this kind, and a line in
+/// OpenTransferSource.
+class TransferSource {
+  public:
+    virtual ~TransferSource() = default;
+
+    /// Reads everything once and checks all of it. False, with an English text in `error`, when it cannot be
+    /// taken.
+    virtual bool ReadContent(TransferContent& content, std::string& error) = 0;
+    /// Begins anew.
+    virtual void Rewind() = 0;
+    /// What was left out since the beginning, one line each: the record by its name, and why.
+    virtual const std::vector<std::string>& LeftOut() const = 0;
+    /// Gives the next user, or nothing behind the last, when the end was found to be right.
+    virtual bool Next(std::optional<UserCopy>& user, std::string& error) = 0;
+};
+
+/// The source of a file, by its form. Null, with an English text in `error`, when the file cannot be read.
+/// With `skipBad` a record that no server stores is left out, and what stands under it, and the rest is read.
+std::unique_ptr<TransferSource> OpenTransferSource(const std::string& path, bool skipBad, std::string& error);
+
 /// Reads a file of exported users. A file that is cut short, altered, of another form or version, or that
 /// holds what no server stores is refused.
-class TransferReader {
+class TransferReader : public TransferSource {
   public:
-    /// Null, with an English text in `error`, when the file cannot be read. With `skipBad` a record that no
-    /// server stores is left out, and what stands under it, and the rest is read.
+    /// As OpenTransferSource.
     static std::unique_ptr<TransferReader> Open(const std::string& path, std::string& error,
                                                 bool skipBad = false);
 
-    /// Reads the whole file once and checks all of it.
-    bool ReadContent(TransferContent& content, std::string& error);
-    /// Begins anew.
-    void Rewind();
-    /// What was left out since the beginning, one line each: the record by its name, and why.
-    const std::vector<std::string>& LeftOut() const { return progress_->leftOut; }
-    /// Gives the next user, or nothing behind the last, when the end was found to be right.
-    bool Next(std::optional<UserCopy>& user, std::string& error);
+    bool ReadContent(TransferContent& content, std::string& error) override;
+    void Rewind() override;
+    const std::vector<std::string>& LeftOut() const override { return progress_->leftOut; }
+    bool Next(std::optional<UserCopy>& user, std::string& error) override;
 
   private:
     /// What was read since the beginning.
