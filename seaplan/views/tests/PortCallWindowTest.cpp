@@ -4,6 +4,7 @@
 #include <QScrollBar>
 #include <QWindow>
 
+#include <tarvik/interface/PlanTerms.h>
 #include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/views/tests/ViewsFixture.h"
@@ -52,7 +53,7 @@ TEST_F(PortCallWindowTest, ItOpensBesideTheTreeWithTheVoyagesRows) {
     EXPECT_EQ(Cell(6, ColOrder), "RES");
     EXPECT_EQ(Find<QLabel>(PortCalls(), "totalDistance")->text(), "10507.0");
     const int widths[] = {35, 120, 40, 45, 55, 55, 55, 125, 125, 60};
-    for (int column = 0; column < kPortCallColumnCount; ++column) {
+    for (int column = 0; column <= ColDistance; ++column) {
         EXPECT_EQ(Table().columnWidth(column), widths[column]) << column;
     }
     EXPECT_EQ(Table().rowHeight(0), 20);
@@ -150,7 +151,7 @@ TEST_F(PortCallWindowTest, APurposeIsChosenByMouseOrKeyboard) {
     OpenPortCalls("Far East 12");
     ClickCell(1, ColPurpose);
     ASSERT_TRUE(Purposes().isVisible());
-    EXPECT_EQ(Purposes().count(), 10);
+    EXPECT_EQ(Purposes().count(), static_cast<int>(Interface::kPurposes.size()));
     ClickItem(Purposes(), 9);
     EXPECT_EQ(Cell(1, ColPurpose), "Z");
     EXPECT_FALSE(Purposes().isVisible());
