@@ -79,8 +79,11 @@ class RecordingVesselView final : public VesselView {
     bool list = false;
     std::vector<std::string> names;
     VesselListSize size;
-    void ShowBox(const Rect& inTree, const std::string& shown) override {
+    std::size_t limit = 0;
+    int selected = -1;
+    void ShowBox(const Rect& inTree, const std::string& shown, std::size_t mostTyped) override {
         place = inTree;
+        limit = mostTyped;
         text = shown;
         box = true;
     }
@@ -91,7 +94,9 @@ class RecordingVesselView final : public VesselView {
         names = shown;
         size = listSize;
         list = true;
+        selected = 0;
     }
+    void SelectRow(int row) override { selected = row; }
     void HideList() override { list = false; }
     bool ListVisible() const override { return list; }
 };

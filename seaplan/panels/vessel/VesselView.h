@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -20,13 +21,16 @@ struct VesselListSize {
 class VesselView {
   public:
     virtual ~VesselView() = default;
-    /// Shows the box at a place of the tree's window with the keyboard in it, nothing selected.
-    virtual void ShowBox(const Rect& inTree, const std::string& text) = 0;
+    /// Shows the box at a place of the tree's window with the keyboard in it, nothing selected. At most
+    /// `limit` UTF-16 units can be typed; a longer text is shown whole.
+    virtual void ShowBox(const Rect& inTree, const std::string& text, std::size_t limit) = 0;
     virtual void HideBox() = 0;
     virtual bool BoxVisible() const = 0;
     virtual std::string BoxText() const = 0;
     /// Shows the list 22 pixels below the box's top, row 0 selected; the keyboard stays in the box.
     virtual void ShowList(const std::vector<std::string>& names, const VesselListSize& size) = 0;
+    /// Another row selected, which is then in sight.
+    virtual void SelectRow(int row) = 0;
     virtual void HideList() = 0;
     virtual bool ListVisible() const = 0;
 };

@@ -13,6 +13,8 @@ namespace {
 
 using Util::StringUtl;
 
+constexpr std::size_t kMostCharacters = 50;
+
 std::u16string Fold(const std::string& text) {
     std::u16string out = StringUtl::TranslateString(text);
     for (char16_t& unit : out) {
@@ -41,7 +43,7 @@ void VoyShipEditDlg::Open(const Rect& inTree, const std::string& text,
                           std::vector<Interface::FleetEntry> fleet) {
     fleet_ = std::move(fleet);
     opened_ = text;
-    view_.ShowBox(inTree, text);
+    view_.ShowBox(inTree, text, kMostCharacters);
     OnTyped(text);
 }
 
@@ -62,7 +64,34 @@ void VoyShipEditDlg::OnTyped(const std::string& text) {
     for (const Interface::FleetEntry& vessel : shown_) {
         names.push_back(vessel.name);
     }
+    current_ = 0;
     view_.ShowList(names, SizeOf(names.size()));
+}
+
+bool VoyShipEditDlg::OnKey(KeyPress press) {
+    switch (press.key) {
+        case Key::Enter:
+            OnEnter(current_);
+            return true;
+        case Key::Down:
+            return Walk(1);
+        case Key::Up:
+            return Walk(-1);
+        case Key::Escape:
+            view_.HideList();
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool VoyShipEditDlg::Walk(int by) {
+    if (!view_.ListVisible()) {
+        return false;
+    }
+    current_ = std::clamp(current_ + by, 0, static_cast<int>(shown_.size()) - 1);
+    view_.SelectRow(current_);
+    return true;
 }
 
 void VoyShipEditDlg::OnEnter(int selectedRow) {

@@ -7,6 +7,7 @@
 
 #include <tarvik/interface/SiblingRecords.h>
 
+#include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/vessel/VesselView.h"
 
 namespace Tarvik::Seaplan {
@@ -27,6 +28,9 @@ class VoyShipEditDlg {
     bool ClosedByPress() const { return closedByPress_; }
 
     void OnTyped(const std::string& text);
+    /// A key in the box: Enter takes, the arrows walk the list, Escape closes it. False when the box itself
+    /// is to act on the key.
+    bool OnKey(KeyPress press);
     /// Enter in the box: takes the list's selected row while the list shows, else the typed name.
     void OnEnter(int selectedRow);
     /// A row of the list was clicked.
@@ -40,12 +44,14 @@ class VoyShipEditDlg {
     static VesselListSize SizeOf(std::size_t vessels);
 
   private:
+    bool Walk(int by);
     void CommitTyped();
 
     VesselView& view_;
     Commit commit_;
     std::vector<Interface::FleetEntry> fleet_;
     std::vector<Interface::FleetEntry> shown_;
+    int current_ = 0;     ///< row of the list that is selected
     std::string opened_;  ///< what stood in the box when it opened
     bool closedByPress_ = false;
 };

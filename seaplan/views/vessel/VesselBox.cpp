@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/vessel/VesselBox.h"
 
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTimer>
-#include <algorithm>
 
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
@@ -13,13 +11,13 @@
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
 #include "seaplan/views/editors/OutsidePress.h"
+#include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr std::size_t kMostCharacters = 50;
 constexpr int kListBelowTop = 22;
 
 }  // namespace
@@ -65,9 +63,9 @@ void VesselBox::ApplySkin() {
     list_->setStyleSheet(Skin::StyleSheet());
 }
 
-void VesselBox::ShowBox(const Rect& inTree, const std::string& text) {
+void VesselBox::ShowBox(const Rect& inTree, const std::string& text, std::size_t limit) {
     box_->setGeometry(inTree.left, inTree.top, inTree.right - inTree.left, inTree.bottom - inTree.top);
-    PutWhole(*box_, text, kMostCharacters);
+    PutWhole(*box_, text, limit);
     open_ = true;
     box_->show();
     box_->raise();
@@ -105,34 +103,16 @@ void VesselBox::ShowList(const std::vector<std::string>& names, const VesselList
     list_->show();
 }
 
+void VesselBox::SelectRow(int row) {
+    list_->setCurrentRow(row);
+}
+
 void VesselBox::HideList() {
     list_->hide();
 }
 
 bool VesselBox::ListVisible() const {
     return list_->isVisible();
-}
-
-bool VesselBox::BoxKey(int key) {
-    switch (key) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            panel_->OnEnter(list_->currentRow());
-            return true;
-        case Qt::Key_Down:
-        case Qt::Key_Up:
-            if (!ListVisible()) {
-                return false;
-            }
-            list_->setCurrentRow(
-                std::clamp(list_->currentRow() + (key == Qt::Key_Down ? 1 : -1), 0, list_->count() - 1));
-            return true;
-        case Qt::Key_Escape:
-            HideList();
-            return true;
-        default:
-            return false;
-    }
 }
 
 void VesselBox::OnPressedOutside() {
@@ -150,7 +130,7 @@ void VesselBox::OnReleased() {
 
 bool VesselBox::eventFilter(QObject* watched, QEvent* event) {
     return panel_ != nullptr && open_ && watched == box_ && event->type() == QEvent::KeyPress &&
-           BoxKey(static_cast<QKeyEvent*>(event)->key());
+           panel_->OnKey(PressOf(*static_cast<QKeyEvent*>(event)));
 }
 
 }  // namespace Tarvik::Seaplan

@@ -23,11 +23,12 @@ class VesselBox final : public QObject, public VesselView {
     void ApplyTexts();
     void ApplySkin();
 
-    void ShowBox(const Rect& inTree, const std::string& text) override;
+    void ShowBox(const Rect& inTree, const std::string& text, std::size_t limit) override;
     void HideBox() override;
     bool BoxVisible() const override { return open_; }
     std::string BoxText() const override;
     void ShowList(const std::vector<std::string>& names, const VesselListSize& size) override;
+    void SelectRow(int row) override;
     void HideList() override;
     bool ListVisible() const override;
 
@@ -35,7 +36,6 @@ class VesselBox final : public QObject, public VesselView {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    bool BoxKey(int key);
     void OnPressedOutside();
     void OnReleased();
 
