@@ -66,7 +66,7 @@ void VoyagePanelWindow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void VoyagePanelWindow::ApplyTexts() {
+void VoyagePanelWindow::ApplyClassTexts(QWidget& /*window*/) {
     Skin::Describe(findButton_, ViewText(TextId::IDS_VIEW_FIND));
     search_->ApplyTexts();
     Skin::Describe(filterButton_, ViewText(TextId::IDS_TREE_DELOPERATER));
@@ -74,7 +74,6 @@ void VoyagePanelWindow::ApplyTexts() {
     DescribeHelpAndClose();
     tree_->ApplyTexts();
     vessels_->ApplyTexts();
-    update();
 }
 
 void VoyagePanelWindow::ApplySkin() {

@@ -24,11 +24,11 @@ class VoyagePanelWindow final : public PanelFrame<PanelWindow> {
     ChoiceBox& FilterPopup() { return *filter_; }
     SearchBar& Search() { return *search_; }
 
-    void ApplyTexts() override;
     void ApplySkin() override;
 
   protected:
     void FocusFirst() override;
+    void ApplyClassTexts(QWidget& window) override;
     /// Escape ends a search also from the tree.
     void keyPressEvent(QKeyEvent* event) override;
 

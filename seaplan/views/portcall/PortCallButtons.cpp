@@ -9,6 +9,7 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/views/window/DialogTexts.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -21,6 +22,7 @@ PortCallButtons::PortCallButtons(QWidget* parent)
       calculate_(new QPushButton(this)) {
     book_->setObjectName(QStringLiteral("positionBookButton"));
     calculate_->setObjectName(QStringLiteral("calculateButton"));
+    TieText(*book_, TextId::IDS_PORTCALL_POSTBOOK);
     calculate_->setProperty("primary", true);
     for (QPushButton* button : {book_, calculate_}) {
         button->setAutoDefault(false);
@@ -72,7 +74,6 @@ void PortCallButtons::ShowState(const PortCallState& state) {
 }
 
 void PortCallButtons::ApplyTexts() {
-    book_->setText(ViewText(TextId::IDS_PORTCALL_POSTBOOK));
     // A new text takes the button's shortcut away.
     book_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_B));
 }

@@ -26,6 +26,7 @@ class PortCallButtons final : public QWidget {
     };
     void SetReports(const Reports& reports);
     void ShowState(const PortCallState& state);
+    /// Behind a new text of a button.
     void ApplyTexts();
     void ApplySkin();
 

@@ -68,7 +68,7 @@ void PortCallWindow::ShowState(const PortCallState& state) {
     model_->ShowTitles(state);
 }
 
-void PortCallWindow::ApplyTexts() {
+void PortCallWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
     table_->setAccessibleName(ViewText(TextId::IDS_VIEW_TABLE));
     model_->SetUnknownPortTip(ViewText(TextId::IDS_VIEW_UNKNOWNPORT));

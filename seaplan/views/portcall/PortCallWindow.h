@@ -21,7 +21,6 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
 
     void ShowTable(const PortCallTable& table) override;
     void ShowState(const PortCallState& state) override;
-    void ApplyTexts() override;
     void SetBusy(bool busy) override;
     void SelectRow(int row) override;
     void BringRowIntoView(int row) override;
@@ -30,6 +29,7 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
 
   protected:
     void FocusFirst() override;
+    void ApplyClassTexts(QWidget& window) override;
     /// Takes what a match window tells.
     bool event(QEvent* event) override;
 

@@ -8,6 +8,7 @@
 
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/window/Rect.h"
+#include "seaplan/views/window/DialogTexts.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -18,7 +19,7 @@ Rect OnScreen(const QWidget& widget);
 
 /// What all floating panels have in common: help and close at the end of the caption, with F1 and Ctrl+W, and
 /// the operations behind PanelWindow.
-class FloatingPanel : public Skin::ToolWindow {
+class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
   public:
     /// Texts of the two buttons.
     struct Hints {
@@ -69,6 +70,7 @@ class PanelFrame : public FloatingPanel, public View {
     void MoveTo(Point corner) override { MoveCorner(corner); }
     Rect PlaceOnScreen() const override { return OnScreen(*this); }
     void SetEnabled(bool enabled) override { setEnabled(enabled); }
+    void ApplyTexts() override { ApplyLanguage(*this); }
     void* Handle() const override { return const_cast<PanelFrame*>(this); }
     void SetCaption(const std::string& text, bool changed) override { ShowCaption(text, changed); }
     void RequestHelp(const std::string& topic, int width, int height) override {

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/window/DialogTexts.h"
+
+#include <QAction>
+#include <QMenu>
+#include <optional>
+
+#include "seaplan/views/window/ViewText.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr const char* kNumber = "textNumber";
+
+/// The text that a control, title or entry of a menu is tied to; nothing for one that keeps its own.
+std::optional<QString> TiedText(const QObject& object) {
+    const QVariant number = object.property(kNumber);
+    const char* key = number.isValid() ? TextKeyOf(number.toInt()) : nullptr;
+    return key == nullptr ? std::nullopt : std::optional(QString::fromStdString(TextOfKey(key)));
+}
+
+/// Entries keep their places; a sub-menu's own title is the text of its entry.
+void ApplyTo(const QList<QAction*>& entries) {
+    for (QAction* entry : entries) {
+        if (const auto text = TiedText(*entry)) {
+            entry->setText(*text);
+        }
+        if (entry->menu() != nullptr) {
+            ApplyTo(entry->menu()->actions());
+        }
+    }
+}
+
+}  // namespace
+
+void TieText(QWidget& control, TextId id) {
+    control.setProperty(kNumber, static_cast<int>(id));
+}
+
+void DialogTexts::ApplyLanguage(QWidget& window) {
+    ApplyDialogTexts(window);
+    ApplyMenuTexts(window);
+    ApplyReservedTexts(window);
+    ApplyReservedLooks(window);
+    ApplyClassTexts(window);
+    window.update();
+    for (QWidget* child : window.findChildren<QWidget*>()) {
+        child->update();
+    }
+}
+
+void DialogTexts::ApplyDialogTexts(QWidget& window) {
+    if (const auto title = TiedText(window)) {
+        window.setWindowTitle(*title);
+    }
+    // Labels, buttons and boxes of this window system keep what they show in a property of this name.
+    for (QWidget* child : window.findChildren<QWidget*>()) {
+        if (const auto text = TiedText(*child)) {
+            child->setProperty("text", *text);
+        }
+    }
+}
+
+void DialogTexts::ApplyMenuTexts(QWidget& window) {
+    ApplyTo(window.actions());
+}
+
+}  // namespace Tarvik::Seaplan
