@@ -91,7 +91,7 @@ void checkBook() {
     require(code == 0 || (code <= -2 && code >= -5));
     require(code == 0 || book.points.empty());
     std::string text;
-    require(BookRowsText("1", book.points, 0, static_cast<int>(book.points.size()), false, text));
+    require(BookRowsText("1", book.points, {0, static_cast<int>(book.points.size())}, text));
     static_cast<void>(SavePositionBookRows("1", book.points));
     std::string id;
     const int ensured = EnsurePositionBook("1", "2024-01-01 00:00:00", id);

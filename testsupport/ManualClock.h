@@ -23,7 +23,8 @@ class ManualClock final : public Util::Clock {
     ManualClock& operator=(const ManualClock&) = delete;
 
     std::int64_t NowUtcCsecs() const override { return csecs_; }
-    /// Sets the present moment, told in UTC.
+    /// Sets the present moment, told in UTC by its six parts.
+    // NOLINTNEXTLINE(readability-function-size)
     void SetUtc(int year, int month, int day, int hour = 0, int minute = 0, int second = 0) {
         csecs_ = Util::_datetime_t(second, minute, hour, day, month, year).to_gmt_timer() * 100;
     }

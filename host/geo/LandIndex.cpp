@@ -16,8 +16,9 @@ std::size_t CellOf(int column, int row) {
     return static_cast<std::size_t>(row) * Grid::kColumns + static_cast<std::size_t>(column);
 }
 
-double Side(double ax, double ay, double bx, double by, double px, double py) {
-    return (bx - ax) * (py - ay) - (by - ay) * (px - ax);
+template <class Segment>
+double Side(const Segment& line, double px, double py) {
+    return (line.x2 - line.x1) * (py - line.y1) - (line.y2 - line.y1) * (px - line.x1);
 }
 
 double CrossingAt180(GeoPoint a, GeoPoint b, double border) {
@@ -115,10 +116,10 @@ bool LandIndex::CellBlocks(int column, int row, const Segment& s) const {
         if (std::max(o.y1, o.y2) < std::min(s.y1, s.y2) || std::min(o.y1, o.y2) > std::max(s.y1, s.y2)) {
             continue;
         }
-        const double d1 = Side(s.x1, s.y1, s.x2, s.y2, o.x1, o.y1);
-        const double d2 = Side(s.x1, s.y1, s.x2, s.y2, o.x2, o.y2);
-        const double d3 = Side(o.x1, o.y1, o.x2, o.y2, s.x1, s.y1);
-        const double d4 = Side(o.x1, o.y1, o.x2, o.y2, s.x2, s.y2);
+        const double d1 = Side(s, o.x1, o.y1);
+        const double d2 = Side(s, o.x2, o.y2);
+        const double d3 = Side(o, s.x1, s.y1);
+        const double d4 = Side(o, s.x2, s.y2);
         if (d1 * d2 <= 0.0 && d3 * d4 <= 0.0) {
             return true;
         }

@@ -72,6 +72,15 @@ class LegWalk {
     }
 
   private:
+    /// The way to one row of the book: nautical miles, knots through the weather, hours.
+    struct Stretch {
+        Position from;
+        Position to;
+        double distance;
+        double speed;
+        double steam;
+    };
+
     int Step(const std::string& previous, const PosBookPoint& row) {
         Position from;
         Position to;
@@ -96,12 +105,11 @@ class LegWalk {
         if (AddHours(static_cast<float>(steam), reached_) < 0) {
             return correction_ == nullptr ? -13 : -14;
         }
-        Place(row, from, to, distance, speed, steam);
+        Place(row, {from, to, distance, speed, steam});
         return 0;
     }
 
-    void Place(const PosBookPoint& row, const Position& from, const Position& to, double distance,
-               double speed, double steam) {
+    void Place(const PosBookPoint& row, const Stretch& stretch) {
         if (correction_ == nullptr ? now_ >= reached_ : IsOlder(reached_, now_)) {
             out_.current = row.position;
             out_.sailed.push_back(row.position);
@@ -109,8 +117,8 @@ class LegWalk {
         }
         if (!crossed_) {
             crossed_ = true;
-            const double covered = speed * (steam - HoursLeft(reached_, now_));
-            out_.current = Interpolate(from, to, covered, distance);
+            const double covered = stretch.speed * (stretch.steam - HoursLeft(reached_, now_));
+            out_.current = Interpolate(stretch.from, stretch.to, covered, stretch.distance);
             out_.sailed.push_back(out_.current);
             out_.remaining.push_back(out_.current);
         }

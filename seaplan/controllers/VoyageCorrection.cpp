@@ -130,7 +130,8 @@ Outcome<ReplanStep> VoyageCorrection::PlanAnew(const VoyInfo& voyage, const Port
         return failed;
     }
     out.book = voyage.positionBook;
-    const int code = ReplanBook(voyage.positionBook.points, ship, way, plan, ahead, out.book.points);
+    const int code =
+        ReplanBook(voyage.positionBook.points, ship, {way, plan, std::move(ahead)}, out.book.points);
     if (code < 0) {
         return {ReplanStep::Rebuild, code};
     }

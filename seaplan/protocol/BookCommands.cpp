@@ -65,7 +65,7 @@ constexpr CodeTable kBlocksCodes{Code{BlockStep::Position, -5}, Code{BlockStep::
 /// Sends the rows from `begin` to before `end`.
 Outcome<BlockStep> SendBlock(const std::string& id, const BookPoints& rows, int begin, int end) {
     std::string text;
-    if (!BookRowsText(id, rows, begin, end, begin > 0, text)) {
+    if (!BookRowsText(id, rows, {begin, end, begin > 0}, text)) {
         return BlockStep::Position;
     }
     Util::Jsona reply;
@@ -122,11 +122,10 @@ int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book) {
     return 0;
 }
 
-bool BookRowsText(const std::string& id, const BookPoints& rows, int first, int end, bool append,
-                  std::string& text) {
+bool BookRowsText(const std::string& id, const BookPoints& rows, const BookBlock& block, std::string& text) {
     const int speedDecimals = static_cast<int>(rows.size()) < kBookBlockRows ? 3 : 1;
-    std::string made = "[\"" + id + (append ? "\",\"1\"" : "\",\"0\"");
-    for (int i = first; i < end; ++i) {
+    std::string made = "[\"" + id + (block.append ? "\",\"1\"" : "\",\"0\"");
+    for (int i = block.first; i < block.end; ++i) {
         if (!AppendRow(i, rows[static_cast<std::size_t>(i)], speedDecimals, made)) {
             return false;
         }

@@ -21,10 +21,14 @@ inline constexpr int kBookBlockRows = 100;
 int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book);
 /// A row's "x,y" from the two numbers, which may be written with or without fraction.
 std::string PositionText(const Util::Jsona& row);
-/// Rows `first` to before `end` of `rows` behind the book's id; "0" replaces what is stored, "1" (`append`)
-/// adds to it. False for a position without comma.
-bool BookRowsText(const std::string& id, const BookPoints& rows, int first, int end, bool append,
-                  std::string& text);
+/// Rows of a book that one request carries, counted from 0.
+struct BookBlock {
+    int first;
+    int end;              ///< behind the last
+    bool append = false;  ///< "1" adds to what is stored; otherwise "0" replaces it
+};
+/// The rows of a block behind the book's id. False for a position without comma.
+bool BookRowsText(const std::string& id, const BookPoints& rows, const BookBlock& block, std::string& text);
 std::string CreateBookText(const std::string& vi, const std::string& serverTime);
 std::string BookDateText(const std::string& id, const std::string& serverTime);
 

@@ -11,6 +11,7 @@ namespace {
 
 constexpr const char* kForm = "%Y-%m-%d %H:%M:%S";
 
+// A time has six parts.  NOLINTNEXTLINE(readability-function-size)
 _datetime_t At(int year, int month, int day, int hour = 0, int minute = 0, int second = 0) {
     return {second, minute, hour, day, month, year};
 }

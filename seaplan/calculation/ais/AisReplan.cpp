@@ -50,8 +50,7 @@ int ShipPositionOf(const PortCallRows& history, std::string& position) {
     return 0;
 }
 
-int ReplanBook(const BookPoints& stored, const std::string& position, const std::vector<std::string>& nearest,
-               const PortCallRows& plan, const BookPoints& ahead, BookPoints& out) {
+int ReplanBook(const BookPoints& stored, const std::string& position, NewCourse course, BookPoints& out) {
     const std::string ship = ThreeDecimals(position);
     const auto at = std::find_if(stored.begin(), stored.end(), [&](const PosBookPoint& row) {
         return ThreeDecimals(row.position) == ship;
@@ -59,15 +58,14 @@ int ReplanBook(const BookPoints& stored, const std::string& position, const std:
     if (at == stored.end()) {
         return -4;
     }
-    if (nearest.size() < 2 || plan.empty()) {
+    if (course.nearest.size() < 2 || course.plan.empty()) {
         return -5;
     }
     BookPoints rows(stored.begin(), at + 1);
-    AddWay(nearest, plan.front(), rows);
-    if (!ahead.empty()) {
-        BookPoints scaled = ahead;
+    AddWay(course.nearest, course.plan.front(), rows);
+    if (BookPoints& scaled = course.ahead; !scaled.empty()) {
         scaled.front().psp = kFirstSpeed;
-        RescaleBookSpeeds(plan, scaled);
+        RescaleBookSpeeds(course.plan, scaled);
         rows.insert(rows.end(), scaled.begin() + 1, scaled.end());
     }
     out = std::move(rows);

@@ -82,13 +82,13 @@ void ShiftRefs(BookRowRefs& refs, int listRow, int port, int by) {
 }
 
 /// Plain waypoints show only where their leg is expanded; the row before in the list tells.
-void ListNewRows(const PosBookData& book, BookRowRefs& refs, int listRow, int port, int first, int count) {
+void ListNewRows(const PosBookData& book, BookRowRefs& refs, int listRow, PosBookRowRef first, int count) {
     if (listRow == 0 || !PlaceOf(book, refs[static_cast<std::size_t>(listRow) - 1]).expanded) {
         return;
     }
     BookRowRefs added;
     for (int k = 0; k < count; ++k) {
-        added.push_back({port, first + k});
+        added.push_back({first.port, first.sub + k});
     }
     refs.insert(refs.begin() + listRow, added.begin(), added.end());
 }
@@ -161,7 +161,7 @@ int RegenerateLeg(PosBookData& book, BookRowRefs& refs, int listRow, bool addMid
     leg.insert(leg.begin() + first, std::make_move_iterator(added.begin()),
                std::make_move_iterator(added.end()));
     ShiftRefs(refs, listRow, ref.port, count);
-    ListNewRows(book, refs, listRow, ref.port, first, count);
+    ListNewRows(book, refs, listRow, {ref.port, first}, count);
     return count;
 }
 

@@ -73,7 +73,7 @@ void BookWindow::TellClosed() {
     }
 }
 
-void BookWindow::ApplyTexts() {
+void BookWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
     table_->setAccessibleName(ViewText(TextId::IDS_VIEW_BOOKTABLE));
     model_->ApplyTexts();

@@ -32,7 +32,7 @@ class BookWindow final : public PanelFrame<BookView> {
     void PutPicker(const BookCellPlace& cell) override { editors_->PutPicker(cell); }
     DateTimeView& Picker() override { return editors_->Picker(); }
     void TellClosed() override;
-    void ApplyTexts() override;
+    void ApplyClassTexts(QWidget& window) override;
     void ApplySkin() override;
 
   protected:

@@ -25,6 +25,7 @@ const LanguageSource* LanguageSource::Current() {
     return currentSource;
 }
 
+// The contract with hosts gives it six.  NOLINTNEXTLINE(readability-function-size)
 void TrvLoadString(const char16_t* section, const char16_t* name, const char16_t* key, char16_t* buffer,
                    const char16_t* fallback, std::size_t capacity) {
     if (buffer == nullptr || capacity == 0) {

@@ -20,10 +20,11 @@ void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelR
     painter.drawPixmap(0, 0, base_.Picture(view, *palette_, pixelRatio));
     const Furniture furniture(view, *palette_, texts_);
     LabelRoom room;
+    shipPainter_.Adopt(*palette_, pixelRatio);
     shipPainter_.Draw(
-        painter, objects_.Ships(), view, *palette_, pixelRatio,
+        painter, objects_.Ships(), view,
         highlighted ? std::pair(highlighted->type, highlighted->id) : std::pair<std::string, std::string>());
-    ObjectPainter(painter, view, *palette_, images_, texts_, room, pixelRatio).Draw(objects_, highlighted);
+    ObjectPainter(painter, view, {*palette_, images_, texts_, pixelRatio}, room).Draw(objects_, highlighted);
     furniture.Reserve(room);
     names_.Draw(painter, view, *palette_, texts_, room);
     furniture.Draw(painter);

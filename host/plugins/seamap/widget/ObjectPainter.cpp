@@ -75,9 +75,9 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
     const ChartLine& line = *stroke.line;
     const double width = line.width + (stroke.highlighted ? 1 : 0);
     const auto turns = view_.TurnsOf(line.minX, line.maxX, line.width);
-    QPen pen(QColor(palette_.ObjectColour(line.colour)), thin ? 1 : width, Qt::SolidLine,
+    QPen pen(QColor(look_.palette.ObjectColour(line.colour)), thin ? 1 : width, Qt::SolidLine,
              line.dashed ? Qt::FlatCap : Qt::RoundCap, Qt::RoundJoin);
-    QColor rim(palette_.halo);
+    QColor rim(look_.palette.halo);
     rim.setAlpha(stroke.highlighted ? 255 : 140);
     const QPen under(rim, width + (stroke.highlighted ? 4 : 2), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     if (line.dashed) {
@@ -124,8 +124,9 @@ void ObjectPainter::DrawPoint(const ChartLabel& label, bool highlighted) {
     }
     const double radius = label.size + (highlighted ? 2.5 : 1);
     const QPointF middle(centre.x, centre.y);
-    painter_.setPen(QPen(QColor(highlighted ? palette_.accent : palette_.outline), highlighted ? 2 : 1.5));
-    painter_.setBrush(QColor(palette_.ObjectColour(label.colour)));
+    painter_.setPen(
+        QPen(QColor(highlighted ? look_.palette.accent : look_.palette.outline), highlighted ? 2 : 1.5));
+    painter_.setBrush(QColor(look_.palette.ObjectColour(label.colour)));
     painter_.drawEllipse(middle, radius, radius);
     room_.Take({centre.x - radius, centre.y - radius, 2 * radius, 2 * radius});
 }
@@ -135,11 +136,12 @@ void ObjectPainter::DrawImage(const ChartObjects& objects, const ChartImage& ima
     if (!IsSeen(centre)) {
         return;
     }
-    const QPixmap& picture = images_.Picture(image.image, objects.ImagePath(image.image), pixelRatio_);
+    const QPixmap& picture =
+        look_.images.Picture(image.image, objects.ImagePath(image.image), look_.pixelRatio);
     const QSizeF size = picture.deviceIndependentSize();
     const QPointF corner(std::round(centre.x - size.width() / 2), std::round(centre.y - size.height() / 2));
     if (highlighted) {
-        painter_.setPen(QPen(QColor(palette_.accent), 2));
+        painter_.setPen(QPen(QColor(look_.palette.accent), 2));
         painter_.setBrush(Qt::NoBrush);
         const double radius = std::max(size.width(), size.height()) / 2 + 2;
         painter_.drawEllipse(QPointF(centre.x, centre.y), radius, radius);
@@ -167,8 +169,8 @@ void ObjectPainter::DrawText(const ChartLabel& label, bool always) {
             continue;
         }
         room_.Take(box);
-        texts_.Draw(painter_, {box.left, box.top + std::round(metrics.ascent())}, text, QColor(palette_.text),
-                    QColor(palette_.halo));
+        look_.texts.Draw(painter_, {box.left, box.top + std::round(metrics.ascent())}, text,
+                         QColor(look_.palette.text), QColor(look_.palette.halo));
         return;
     }
 }

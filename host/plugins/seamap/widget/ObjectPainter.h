@@ -16,19 +16,20 @@ namespace Tarvik::Seamap {
 class HaloTexts;
 class ImageStore;
 
+/// What objects are drawn with, whatever the view.
+struct ChartLook {
+    const ChartPalette& palette;
+    ImageStore& images;
+    HaloTexts& texts;
+    qreal pixelRatio;
+};
+
 /// Draws the objects of the chart: lines below, then points and images, then the texts that find room. What
 /// they take is told to `room`.
 class ObjectPainter {
   public:
-    ObjectPainter(QPainter& painter, const MercatorView& view, const ChartPalette& palette,
-                  ImageStore& images, HaloTexts& texts, LabelRoom& room, qreal pixelRatio)
-        : painter_(painter),
-          view_(view),
-          palette_(palette),
-          images_(images),
-          texts_(texts),
-          room_(room),
-          pixelRatio_(pixelRatio) {}
+    ObjectPainter(QPainter& painter, const MercatorView& view, const ChartLook& look, LabelRoom& room)
+        : painter_(painter), view_(view), look_(look), room_(room) {}
 
     /// `highlighted` is the object under the pointer, null without one.
     void Draw(const ChartObjects& objects, const ObjectKey* highlighted);
@@ -48,11 +49,8 @@ class ObjectPainter {
 
     QPainter& painter_;
     const MercatorView& view_;
-    const ChartPalette& palette_;
-    ImageStore& images_;
-    HaloTexts& texts_;
+    ChartLook look_;
     LabelRoom& room_;
-    qreal pixelRatio_;
 };
 
 }  // namespace Tarvik::Seamap

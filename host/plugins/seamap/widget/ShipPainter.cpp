@@ -20,9 +20,7 @@ constexpr double kRing = 11;               ///< radius of the ring around the on
 }  // namespace
 
 void ShipPainter::Draw(QPainter& painter, const ChartShips& ships, const MercatorView& view,
-                       const ChartPalette& palette, qreal pixelRatio,
                        const std::pair<std::string, std::string>& highlighted) {
-    Adopt(palette, pixelRatio);
     small_ = AreMany(ships, view);
     const auto columns = static_cast<std::size_t>(view.Width() / kCell + 2);
     cells_.assign(columns * static_cast<std::size_t>(view.Height() / kCell + 2), 0);
@@ -33,7 +31,7 @@ void ShipPainter::Draw(QPainter& painter, const ChartShips& ships, const Mercato
             for (int turn = turns.first; turn <= turns.last; ++turn) {
                 const PixelPoint at = view.ToScreen(ship.world, turn);
                 if (marked) {
-                    painter.setPen(QPen(QColor(palette.accent), 2));
+                    painter.setPen(QPen(QColor(palette_->accent), 2));
                     painter.setBrush(Qt::NoBrush);
                     painter.drawEllipse(QPointF(at.x, at.y), kRing, kRing);
                 }

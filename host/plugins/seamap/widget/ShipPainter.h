@@ -21,9 +21,10 @@ namespace Tarvik::Seamap {
 /// where ships stand so close that one hides the other, one is drawn. Cost: some 0.2 µs a ship in view.
 class ShipPainter {
   public:
+    /// What the ships are drawn with from now on; the pictures are made anew for another look.
+    void Adopt(const ChartPalette& palette, qreal pixelRatio);
     /// `type` and `id` name the ship under the pointer; empty without one.
     void Draw(QPainter& painter, const ChartShips& ships, const MercatorView& view,
-              const ChartPalette& palette, qreal pixelRatio,
               const std::pair<std::string, std::string>& highlighted);
 
   private:
@@ -31,7 +32,6 @@ class ShipPainter {
     using Pictures = std::array<QPixmap, 2 * 73>;
     void DrawShip(QPainter& painter, PixelPoint at, const ChartShip& ship);
     const QPixmap& Picture(std::int32_t colour, double heading);
-    void Adopt(const ChartPalette& palette, qreal pixelRatio);
     static bool AreMany(const ChartShips& ships, const MercatorView& view);
     /// Whether nothing was drawn at this pixel yet; marks it.
     bool TakeCell(PixelPoint at, const MercatorView& view);

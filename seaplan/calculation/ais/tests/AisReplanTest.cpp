@@ -38,7 +38,7 @@ TEST_F(ReplanTest, HistoryThatEndsInAPortHasNoShipsPosition) {
 }
 
 TEST_F(ReplanTest, BookGoesOnFromTheShipToThePlannedPort) {
-    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {"1.5,0.25", "2,1", "3,2"}, plan, {}, out), 0);
+    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {{"1.5,0.25", "2,1", "3,2"}, plan, {}}, out), 0);
     EXPECT_EQ(Positions(out), "0,0|1.5,0.25|2,1|3,2");
     EXPECT_EQ(out[2].psp, 9) << "weather slows the planned speed";
     EXPECT_EQ(out[2].pst, PlainPoint);
@@ -50,14 +50,14 @@ TEST_F(ReplanTest, BookGoesOnFromTheShipToThePlannedPort) {
 
 TEST_F(ReplanTest, FirstRowAtThePositionCounts) {
     stored.insert(stored.begin() + 1, Point("1.5001,0.2501"));
-    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {"", "3,2"}, plan, {}, out), 0);
+    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {{"", "3,2"}, plan, {}}, out), 0);
     EXPECT_EQ(Positions(out), "0,0|1.5001,0.2501|3,2") << "positions are told with three decimals";
 }
 
 TEST_F(ReplanTest, RouteBetweenPlannedPortsFollowsWithoutItsFirstRow) {
     plan.push_back(Call("C", 0, 20));
     const BookPoints ahead{Port("3,2", 0), Point("4,2"), Port("5,2")};
-    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {"1.5,0.25", "3,2"}, plan, ahead, out), 0);
+    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {{"1.5,0.25", "3,2"}, plan, ahead}, out), 0);
     EXPECT_EQ(Positions(out), "0,0|1.5,0.25|3,2|4,2|5,2");
     EXPECT_FLOAT_EQ(out[3].psp, 20) << "scaled to the plan's speed";
     EXPECT_FLOAT_EQ(out[4].psp, 20);
@@ -65,16 +65,16 @@ TEST_F(ReplanTest, RouteBetweenPlannedPortsFollowsWithoutItsFirstRow) {
 
 TEST_F(ReplanTest, RouteThatCannotBeScaledIsTakenAsItStands) {
     const BookPoints ahead{Port("3,2", 0), Point("4,2"), Port("5,2")};
-    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {"1.5,0.25", "3,2"}, plan, ahead, out), 0);
+    ASSERT_EQ(ReplanBook(stored, "1.500,0.250", {{"1.5,0.25", "3,2"}, plan, ahead}, out), 0);
     EXPECT_EQ(out[4].psp, 10);
 }
 
 TEST_F(ReplanTest, FailuresLeaveTheBook) {
-    EXPECT_EQ(ReplanBook(stored, "9.000,9.000", {"a", "b"}, plan, {}, out), -4);
-    EXPECT_EQ(ReplanBook({}, "1.500,0.250", {"a", "b"}, plan, {}, out), -4);
-    EXPECT_EQ(ReplanBook(stored, "1.500,0.250", {"1,2"}, plan, {}, out), -5);
-    EXPECT_EQ(ReplanBook(stored, "1.500,0.250", {}, plan, {}, out), -5);
-    EXPECT_EQ(ReplanBook(stored, "1.500,0.250", {"1,2", "3,4"}, {}, {}, out), -5);
+    EXPECT_EQ(ReplanBook(stored, "9.000,9.000", {{"a", "b"}, plan, {}}, out), -4);
+    EXPECT_EQ(ReplanBook({}, "1.500,0.250", {{"a", "b"}, plan, {}}, out), -4);
+    EXPECT_EQ(ReplanBook(stored, "1.500,0.250", {{"1,2"}, plan, {}}, out), -5);
+    EXPECT_EQ(ReplanBook(stored, "1.500,0.250", {{}, plan, {}}, out), -5);
+    EXPECT_EQ(ReplanBook(stored, "1.500,0.250", {{"1,2", "3,4"}, {}, {}}, out), -5);
     EXPECT_EQ(Positions(out), "kept");
 }
 
@@ -97,7 +97,7 @@ TEST_F(ReplanTest, ReplannedVoyageHasTotals) {
     ASSERT_EQ(SplitCorrectedVoyage(book, ports, history, plan), 0);
     std::string ship;
     ASSERT_EQ(ShipPositionOf(history, ship), 0);
-    ASSERT_EQ(ReplanBook(book.points, ship, {"1.5,0.25", "3,2"}, plan, {}, book.points), 0);
+    ASSERT_EQ(ReplanBook(book.points, ship, {{"1.5,0.25", "3,2"}, plan, {}}, book.points), 0);
     ports = JoinHistoryAndPlan(history, plan);
     ASSERT_EQ(LegTotalsFromBook(book, ports), 0);
     EXPECT_EQ(Names(ports), "AB");

@@ -19,8 +19,8 @@ std::string TextOf(const PosBookData& book) {
     EXPECT_EQ(PanelToBook(book, voyage), 0);
     std::string text = PortCallsText("v", voyage.portCalls);
     std::string rows;
-    EXPECT_TRUE(BookRowsText("b", voyage.positionBook.points, 0,
-                             static_cast<int>(voyage.positionBook.points.size()), false, rows));
+    EXPECT_TRUE(BookRowsText("b", voyage.positionBook.points,
+                             {0, static_cast<int>(voyage.positionBook.points.size())}, rows));
     for (const PosBookPortRow& port : book.ports) {
         text += port.eta.fmt(Util::kTimeFormat) + port.etd.fmt(Util::kTimeFormat);
     }
