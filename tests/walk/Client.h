@@ -65,10 +65,12 @@ class Client {
     RecordingVesselView vesselBox;
     RecordingChoices sortPopup;
     RecordingChoices filterPopup;
+    RecordingSearch searchView;
     RecordingPortCallView view;
     SeaplanTreeCtrl ctrl{{store, catalog, voyages, tree, nameBox, vesselBox, sortPopup}};
     CPortCallPanelDlg panel{{catalog, voyages, directory, view, [] { return Rect(); }}};
-    SeaplanViewDlg mainView{{store, catalog, voyages, window, filterPopup, ctrl, [this] { return &panel; }}};
+    SeaplanViewDlg mainView{
+        {store, catalog, voyages, window, filterPopup, searchView, ctrl, [this] { return &panel; }}};
 
   private:
     void ShowSaved(const std::string& vi);
