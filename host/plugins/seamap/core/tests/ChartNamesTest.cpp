@@ -37,7 +37,7 @@ std::vector<std::string> PortTexts(const std::vector<ChartName>& names) {
 }
 
 nlohmann::json TextsOf(const std::string& language) {
-    std::ifstream file(std::string(SEAMAP_LANGUAGES) + "/seamap." + language + ".json");
+    std::ifstream file(std::string(SEAMAP_LANGUAGES) + "/client." + language + ".json");
     return nlohmann::json::parse(file).at("Waters");
 }
 
