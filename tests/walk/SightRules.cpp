@@ -97,6 +97,8 @@ void Rules::NoteShown(const Happened& step) {
     if (another || (IsOpening(step.step.act) && step.client.window.visible && !stayed)) {
         seen_ = !step.after.rows.empty();
     }
+    // A correction brings its own table, also over one that could not be read.
+    seen_ = seen_ || (step.step.act == Act::Correct && !step.after.rows.empty());
     seen_ = seen_ || step.person.Answered("IDS_PORTCALL_CLEARFORBLANK", true) || WasWritten(step);
 }
 

@@ -33,7 +33,9 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
     panel_ = panel;
     vessels_->Attach(&tree->Vessels().Editor());
     search_->Attach(&panel->Search());
-    QObject::connect(findButton_, &QToolButton::clicked, this, [panel] { panel->Search().Open(); });
+    // Its key is followed by typing at once, which must not go to the tree: a click by key comes a tenth of a
+    // second later.
+    QObject::connect(findButton_, &QToolButton::pressed, this, [panel] { panel->Search().Open(); });
     SetReports({[panel] { panel->RequestHelp(); }, [panel] { panel->Hide(); },
                 [this, panel] {
                     // Taking a name may put a box up, which must not begin inside the press.
