@@ -22,8 +22,9 @@ constexpr double kRing = 11;               ///< radius of the ring around the on
 void ShipPainter::Draw(QPainter& painter, const ChartShips& ships, const MercatorView& view,
                        const std::pair<std::string, std::string>& highlighted) {
     small_ = AreMany(ships, view);
-    const auto columns = static_cast<std::size_t>(view.Width() / kCell + 2);
-    cells_.assign(columns * static_cast<std::size_t>(view.Height() / kCell + 2), 0);
+    const int columns = view.Width() / kCell + 2;
+    const int rows = view.Height() / kCell + 2;
+    cells_.assign(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), 0);
     for (const auto& [type, list] : ships.ByType()) {
         for (const ChartShip& ship : list) {
             const bool marked = ship.id == highlighted.second && type == highlighted.first;
@@ -91,7 +92,8 @@ bool ShipPainter::TakeCell(PixelPoint at, const MercatorView& view) {
 const QPixmap& ShipPainter::Picture(std::int32_t colour, double heading) {
     const int index =
         heading < 0 ? kRound : static_cast<int>(std::lround(heading / (360.0 / kHeadings))) % kHeadings;
-    QPixmap& picture = pictures_[colour][static_cast<std::size_t>(index + (small_ ? kHeadings + 1 : 0))];
+    const int place = small_ ? index + kHeadings + 1 : index;
+    QPixmap& picture = pictures_[colour][static_cast<std::size_t>(place)];
     if (!picture.isNull()) {
         return picture;
     }
