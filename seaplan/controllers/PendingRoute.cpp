@@ -10,7 +10,7 @@ PendingRoute::Rollback::~Rollback() {
 }
 
 bool PendingRoute::IsFor(const std::string& vi) const {
-    return IsThere() && (route_.voyage.empty() || route_.voyage == vi);
+    return IsThere() && route_.voyage == vi;
 }
 
 // The timer loads every voyage that is on the chart; a person's unsaved route of another one must outlive
@@ -28,6 +28,13 @@ void PendingRoute::NoteShown(const PortCallRows& rows) {
         portNames_.push_back(row.ppn);
     }
     isCurrent_ = 1;
+}
+
+void PendingRoute::ForgetFor(const std::string& vi) {
+    if (IsFor(vi)) {
+        Drop();
+    }
+    portNames_.clear();
 }
 
 void PendingRoute::Forget() {

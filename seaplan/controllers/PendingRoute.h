@@ -13,8 +13,8 @@ namespace Tarvik::Seaplan {
 
 /// The calculated route that no save has taken yet, with the voyage that it was calculated for, and what is
 /// known of the schedule on show: its ports, whether its rows still are those of its route, and the voyage
-/// last drawn with its ship. A route of no voyage is the distance table's, or of a caller that names none,
-/// and fits whoever asks.
+/// last drawn with its ship. A route of no voyage is that of a table without one, and no voyage's save takes
+/// it; whoever calculates for a voyage that is not there yet assigns the route when it is.
 class PendingRoute {
     struct Route {
         RouteStops stops;
@@ -44,7 +44,7 @@ class PendingRoute {
     const RouteStops& Stops() const { return route_.stops; }
     /// Whether there is a route at all.
     bool IsThere() const { return !route_.stops.empty(); }
-    /// Whether there is a route that a save of this voyage may take.
+    /// Whether there is a route that a save of this voyage may take; an empty id asks for that of no voyage.
     bool IsFor(const std::string& vi) const;
     /// A newly calculated route; it belongs to no voyage until Assign names one. `knownSince` is set for a
     /// route of known legs, which the server was not there to confirm: the time of the oldest.
@@ -75,6 +75,8 @@ class PendingRoute {
     void NoteDrawn(const std::string& vi) { drawnVoyage_ = vi; }
     /// Forgets the route and the ports of the schedule last loaded.
     void Forget();
+    /// The table of this voyage is emptied: the ports go, and the route if it is its own.
+    void ForgetFor(const std::string& vi);
     /// 1 after a schedule was loaded or saved, -1 at the start and after NoteRowsChanged.
     int IsCurrent() const { return isCurrent_; }
     /// Names of the ports of the schedule last loaded.

@@ -67,7 +67,8 @@ class ScheduleCalculator {
     /// Keeps its collaborators, which outlive it.
     ScheduleCalculator(VoyPortCallModule* module, VoyageStore* store) : module_(module), store_(store) {}
 
-    /// Rows that are not saved yet: the route stays pending, for no voyage, and is drawn.
+    /// Rows that are not saved yet: the route stays pending, for no voyage until one is assigned, and is
+    /// drawn.
     Outcome<CalculationStep> Calculate(const PortCallRows& rows, PortCallRows& out);
     /// The schedule of the rows over the pending route, whose way a click on the chart may have changed.
     Outcome<CalculationStep> FollowRoute(const PortCallRows& rows, PortCallRows& out);

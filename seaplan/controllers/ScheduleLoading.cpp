@@ -34,7 +34,7 @@ Outcome<LoadStep> ScheduleLoader::Fetch(VoyInfo& voyage, PortCallRows& rows) {
 Outcome<LoadStep> ScheduleLoader::Load(const std::string& vi, PortCallRows& rows,
                                        std::optional<DrawMode> mode) {
     const auto read = Read(vi, rows, mode);
-    if (!read.Failed()) {
+    if (IsScheduleLoaded(kLoadScheduleCodes.Of(read))) {
         module_->Pending().NoteLoaded(vi, rows);
     }
     return read;

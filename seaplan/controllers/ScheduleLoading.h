@@ -23,6 +23,12 @@ inline constexpr CodeTable kLoadScheduleCodes{
     Code{LoadStep::Mode, -8},      // it is loaded, the draw mode is none
 };
 
+/// Whether a LoadSchedule with this result has loaded: a failure to draw comes after it.
+constexpr bool IsScheduleLoaded(int code) {
+    return code == 0 || code == kLoadScheduleCodes.Of(LoadStep::Progress) ||
+           code == kLoadScheduleCodes.Of(LoadStep::BookLine);
+}
+
 enum class DiscardStep { Id, Voyage, Load };
 /// Numbers of DiscardPortCalls.
 inline constexpr CodeTable kDiscardCodes{

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/ScheduleSaving.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "seaplan/calculation/PositionBook.h"
@@ -12,9 +13,31 @@
 /// another: port calls, the book's date, the book's rows. Cost: a few passes over rows and book.
 namespace Tarvik::Seaplan {
 
-ScheduleFault FaultOf(SaveStep step, const PortCallRows& rows) {
+namespace {
+
+/// Detail of a step that the server left without an answer.
+constexpr int kNoAnswer = -1;
+/// Numbers of the protocol's commands for that.
+constexpr int kPortCallsNotSent = -2;
+constexpr int kBookListNotSent = -2;
+constexpr int kBookNotSent = -3;
+constexpr int kBookBlockNotSent = -6;
+
+constexpr int Detail(bool sent) {
+    return sent ? 0 : kNoAnswer;
+}
+
+}  // namespace
+
+bool IsScheduleSaved(int code) {
+    return code == 0 || code == kSaveScheduleCodes.Of(SaveStep::Remove) ||
+           code == kSaveScheduleCodes.Of(SaveStep::Progress) ||
+           code == kSaveScheduleCodes.Of(SaveStep::BookLine);
+}
+
+ScheduleFault FaultOf(const Outcome<SaveStep>& failed, const PortCallRows& rows) {
     using Cause = ScheduleFault::Cause;
-    switch (step) {
+    switch (failed.At()) {
         case SaveStep::UnknownPort:
             if (const auto unknown = FirstUnknownPort(rows)) {
                 return {Cause::UnknownPort, *unknown, rows[*unknown].ppn};
@@ -26,7 +49,7 @@ ScheduleFault FaultOf(SaveStep step, const PortCallRows& rows) {
         case SaveStep::PortCalls:
         case SaveStep::Date:
         case SaveStep::BookRows:
-            return {Cause::Refused};
+            return {failed.Detail() == kNoAnswer ? Cause::Connection : Cause::Refused};
         default:
             return {Cause::Figures};
     }
@@ -38,13 +61,13 @@ Outcome<SaveStep> ScheduleSaver::SaveDate(VoyInfo& voyage) {
     const std::string date = start.fmt(kTimeFormat);
     VoyPositionBook& book = voyage.positionBook;
     if (!book.pbi.empty()) {
-        if (module_->SetPositionBookDate(book.pbi, date) < 0) {
-            return SaveStep::Date;
+        if (const int code = module_->SetPositionBookDate(book.pbi, date); code < 0) {
+            return {SaveStep::Date, Detail(code != kBookNotSent)};
         }
     } else {
         std::string id;
-        if (module_->EnsurePositionBook(voyage.vi, date, id) < 0) {
-            return SaveStep::Date;
+        if (const int code = module_->EnsurePositionBook(voyage.vi, date, id); code < 0) {
+            return {SaveStep::Date, Detail(code != kBookListNotSent)};
         }
         book.pbi = id;
     }
@@ -67,6 +90,12 @@ Outcome<SaveStep> ScheduleSaver::Prepare(const VoyInfo& voyage, Parts& parts) {
     ResolvePortIds(parts.rows);
     if (FirstUnknownPort(parts.rows)) {
         return SaveStep::UnknownPort;
+    }
+    const auto stops = [](const VoyPortCall& row) {
+        return static_cast<double>(row.pw) >= kLeastFullWeather;
+    };
+    if (std::any_of(parts.rows.begin(), parts.rows.end(), stops)) {
+        return SaveStep::Times;
     }
     FillMissingPurposes(parts.rows);
     parts.calculated = module_->Pending().IsFor(voyage.vi);
@@ -93,15 +122,16 @@ Outcome<SaveStep> ScheduleSaver::Prepare(const VoyInfo& voyage, Parts& parts) {
 }
 
 Outcome<SaveStep> ScheduleSaver::Send(VoyInfo& voyage, Parts& parts) {
-    if (module_->SavePortCalls(voyage.vi, parts.rows) < 0) {
-        return SaveStep::PortCalls;
+    if (const int code = module_->SavePortCalls(voyage.vi, parts.rows); code < 0) {
+        return {SaveStep::PortCalls, Detail(code != kPortCallsNotSent)};
     }
     voyage.portCalls = std::move(parts.rows);
     if (const auto failed = SaveDate(voyage); failed.Failed()) {
         return failed;
     }
-    if (module_->SavePositionBookRows(voyage.positionBook.pbi, parts.points) < 0) {
-        return SaveStep::BookRows;
+    const int code = module_->SavePositionBookRows(voyage.positionBook.pbi, parts.points);
+    if (code < 0) {
+        return {SaveStep::BookRows, Detail(code != kBookNotSent && code != kBookBlockNotSent)};
     }
     voyage.positionBook.points = std::move(parts.points);
     voyage.portCalls = std::move(parts.timed);
@@ -138,11 +168,8 @@ Outcome<SaveStep> ScheduleSaver::Save(const std::string& vi, const PortCallRows&
     if (const auto failed = Send(*voyage, parts); failed.Failed()) {
         return failed;
     }
-    if (const auto failed = Redraw(*voyage, mode); failed.Failed()) {
-        return failed;
-    }
     module_->Pending().NoteSaved();
-    return {};
+    return Redraw(*voyage, mode);
 }
 
 }  // namespace Tarvik::Seaplan

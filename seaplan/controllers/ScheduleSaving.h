@@ -40,8 +40,15 @@ inline constexpr CodeTable kSaveScheduleCodes{
          -12},  // the route or book is not of these ports, in this order; nothing is sent
 };
 
-/// The cause of a save of these rows that failed at a step.
-ScheduleFault FaultOf(SaveStep step, const PortCallRows& rows);
+/// A weather factor above this one is sent, and read again, as 1, at which no ship moves. A row's factor is a
+/// float, and the one next to the boundary itself counts as above, whichever way it rounds.
+inline constexpr double kLeastFullWeather = static_cast<double>(0.9995F);
+
+/// Whether a SaveSchedule with this result is saved: a failure to draw comes after it.
+bool IsScheduleSaved(int code);
+
+/// The cause of a save of these rows that failed.
+ScheduleFault FaultOf(const Outcome<SaveStep>& failed, const PortCallRows& rows);
 
 /// Writes a schedule to the server and then into its voyage's record.
 class ScheduleSaver {

@@ -80,7 +80,7 @@ int VoyController::CalculateKeepingLegs(const std::string& vi, const PortCallRow
 
 int VoyController::SaveSchedule(const std::string& vi, const PortCallRows& rows, int drawMode) {
     const auto saved = saver_.Save(vi, rows, DrawModeOf(drawMode).value_or(DrawMode::Nothing));
-    fault_ = saved.Failed() ? FaultOf(saved.At(), rows) : ScheduleFault();
+    fault_ = saved.Failed() ? FaultOf(saved, rows) : ScheduleFault();
     return kSaveScheduleCodes.Of(saved);
 }
 
@@ -142,7 +142,9 @@ int VoyController::SplitAisRows(const std::string& vi, PortCallRows& before, Por
 
 int VoyController::ReplanFromAis(const std::string& vi, const PortCallRows& history, const PortCallRows& plan,
                                  PortCallRows& rows) {
-    return kReplanCodes.Of(correction_.Replan(vi, history, plan, rows));
+    const auto planned = correction_.Replan(vi, history, plan, rows);
+    fault_ = planned.Failed() ? correction_.FaultOf(planned, plan) : ScheduleFault();
+    return kReplanCodes.Of(planned);
 }
 
 }  // namespace Tarvik::Seaplan

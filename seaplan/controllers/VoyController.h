@@ -39,6 +39,8 @@ class VoyController {
     int SaveFigures(const std::string& vi, const BunkerFigures& figures);
     /// Makes a corrected voyage a plain one, in memory: kReadRecordCodes.
     int ClearAisMod(const std::string& vi);
+    /// Name of a voyage, empty for an unknown one.
+    std::string NameOf(const std::string& vi) const { return records_.NameOf(vi); }
     /// How often the voyage was corrected from AIS; `count` is left alone for the distance table, which is
     /// none: kReadRecordCodes.
     int GetModAis(const std::string& vi, int& count) const;

@@ -14,6 +14,7 @@
 #include "seaplan/calculation/ais/AisCorrection.h"
 #include "seaplan/calculation/ais/AisReplan.h"
 #include "seaplan/calculation/ais/AisRows.h"
+#include "seaplan/controllers/RouteExchange.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/TimeText.h"
 
@@ -122,8 +123,8 @@ Outcome<ReplanStep> VoyageCorrection::PlanAnew(const VoyInfo& voyage, const Port
         return {ReplanStep::Ship, code};
     }
     Positions way;
-    if (module_->RequestNearestRoute(ship, plan.front().ppi, way) < 0) {
-        return ReplanStep::Way;
+    if (const int code = module_->RequestNearestRoute(ship, plan.front().ppi, way); code < 0) {
+        return {ReplanStep::Way, code};
     }
     BookPoints ahead;
     if (const auto failed = RouteAhead(plan, ahead); failed.Failed()) {
@@ -142,6 +143,23 @@ Outcome<ReplanStep> VoyageCorrection::PlanAnew(const VoyInfo& voyage, const Port
     }
     KeepPortIds(joined, out.ports);
     return {};
+}
+
+ScheduleFault VoyageCorrection::FaultOf(const Outcome<ReplanStep>& failed, PortCallRows plan) const {
+    using Cause = ScheduleFault::Cause;
+    ResolvePortIds(plan);
+    if (const auto unknown = FirstUnknownPort(plan)) {
+        return {Cause::UnknownPort, *unknown, plan[*unknown].ppn};
+    }
+    switch (failed.At()) {
+        case ReplanStep::Way:
+            return {failed.Detail() == kNearestRouteCodes.Of(NearestStep::Send) ? Cause::Connection
+                                                                                : Cause::NoRoute};
+        case ReplanStep::Route:
+            return calculator_.Fault();
+        default:
+            return {Cause::Figures};
+    }
 }
 
 Outcome<ReplanStep> VoyageCorrection::Replan(const std::string& vi, const PortCallRows& history,

@@ -61,6 +61,9 @@ class VoyageCorrection {
     Outcome<ReplanStep> Replan(const std::string& vi, const PortCallRows& history, const PortCallRows& plan,
                                PortCallRows& rows);
 
+    /// The cause of a Replan of this plan that failed.
+    ScheduleFault FaultOf(const Outcome<ReplanStep>& failed, PortCallRows plan) const;
+
   private:
     /// What a new plan makes of a voyage.
     struct Plan {

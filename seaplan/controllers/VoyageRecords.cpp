@@ -27,6 +27,11 @@ Outcome<RecordStep> VoyageRecords::GetFigures(const std::string& vi, BunkerFigur
     return found;
 }
 
+std::string VoyageRecords::NameOf(const std::string& vi) const {
+    const VoyInfo* voyage = store_->FindVoyage(vi);
+    return voyage == nullptr ? std::string() : voyage->vn;
+}
+
 Outcome<RecordStep> VoyageRecords::SaveFigures(const std::string& vi, const BunkerFigures& figures) {
     if (vi.empty()) {
         return RecordStep::Id;

@@ -30,6 +30,8 @@ class VoyageRecords {
 
     /// Of the record, in kg/day: kReadRecordCodes.
     Outcome<RecordStep> GetFigures(const std::string& vi, BunkerFigures& figures) const;
+    /// Name of a voyage, empty for an unknown one.
+    std::string NameOf(const std::string& vi) const;
     /// To the server, then into the record: kSaveFiguresCodes.
     Outcome<RecordStep> SaveFigures(const std::string& vi, const BunkerFigures& figures);
     /// Makes a corrected voyage a plain one, in memory: kReadRecordCodes.

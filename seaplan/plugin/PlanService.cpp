@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/plugin/PlanService.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <tarvik/util/StringUtl.h>
@@ -37,7 +38,7 @@ std::string ComplaintOf(const PlanPort& port) {
     if (!(static_cast<double>(port.speed) >= kLeastScheduleKnots) || !std::isfinite(port.speed)) {
         return "the speed must be above 0.01 knots";
     }
-    if (!(port.weather >= 0) || static_cast<double>(port.weather) > kMostWeather) {
+    if (!(port.weather >= 0) || static_cast<double>(port.weather) >= kLeastFullWeather) {
         return "the weather factor must be from 0 to below 100 %";
     }
     return port.portTime >= 0 ? "" : "the hours in port must be 0 or more";
@@ -147,10 +148,16 @@ int PlanService::CheckNames(const PlanRequest& request) {
     if (IsTooWide(category, kCategoryNameWidth) || IsTooWide(voyage, kVoyageNameWidth)) {
         return Fail(Interface::PlanNameMissing, WordsOfWidths());
     }
-    std::map<std::string, int> categories;
-    std::map<std::string, int> voyages;
-    catalog_->GetNameMaps(categories, voyages);
-    return voyages.count(voyage) > 0 ? Fail(Interface::PlanNameTaken, "a voyage of this name exists") : 0;
+    return IsTaken(voyage) ? Fail(Interface::PlanNameTaken, "a voyage of this name exists") : 0;
+}
+
+/// A destroyed voyage has given its name back, and one of the same name may stand beside it.
+bool PlanService::IsTaken(const std::string& name) const {
+    return std::any_of(store_->voyages.begin(), store_->voyages.end(), [&](const auto& entry) {
+        int state = Destroyed;
+        catalog_->GetVoyageState(entry.first, state);
+        return entry.second.vn == name && state != Destroyed;
+    });
 }
 
 int PlanService::Calculate(const PortCallRows& rows) {
@@ -203,6 +210,7 @@ int PlanService::Save(const PlanRequest& request) {
         TakeBack(newCategory);
         return Fail(Interface::PlanNoVoyage, "the voyage could not be made");
     }
+    voyages_->Module().Pending().Assign(result_.voyageId);
     if (voyages_->SaveSchedule(result_.voyageId, rows_, -1) < 0) {
         TakeBack(newCategory);
         return Fail(Interface::PlanNotSaved, "the schedule could not be saved");

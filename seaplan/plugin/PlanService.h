@@ -35,6 +35,7 @@ class PlanService {
     int Connect();
     int Prepare(const PlanRequest& request, PortCallRows& rows);
     int CheckNames(const PlanRequest& request);
+    bool IsTaken(const std::string& name) const;
     int Calculate(const PortCallRows& rows);
     int FillResult(const UnitSet& units);
     int Save(const PlanRequest& request);

@@ -26,17 +26,33 @@ TEST(PendingRoute, RollbackPutsTheRouteBackUnlessItIsKept) {
     EXPECT_FALSE(pending.IsThere());
 }
 
-TEST(PendingRoute, BelongsToItsVoyageOrToWhoeverAsks) {
+TEST(PendingRoute, BelongsToItsVoyageOrToNone) {
     PendingRoute pending;
     EXPECT_FALSE(pending.IsFor("9")) << "there is none";
+    EXPECT_FALSE(pending.IsFor(""));
     pending.Take(RouteStops(2));
+    EXPECT_FALSE(pending.IsFor("9")) << "it was calculated for another table";
+    EXPECT_TRUE(pending.IsFor(""));
+    pending.Assign("9");
     EXPECT_TRUE(pending.IsFor("9"));
     pending.Assign("8");
     EXPECT_FALSE(pending.IsFor("9"));
     pending.Change(RouteStops(2));
     EXPECT_FALSE(pending.IsFor("9")) << "another way is still the same voyage's";
     pending.Take(RouteStops(2));
-    EXPECT_TRUE(pending.IsFor("9")) << "a new route is nobody's";
+    EXPECT_TRUE(pending.IsFor("")) << "a new route is nobody's";
+}
+
+TEST(PendingRoute, EmptyingOneTableLeavesAnothersRoute) {
+    PendingRoute pending;
+    pending.Take(RouteStops(2));
+    pending.Assign("9");
+    pending.NoteShown(PortCallRows(1));
+    pending.ForgetFor("8");
+    EXPECT_TRUE(pending.IsFor("9"));
+    EXPECT_TRUE(pending.PortNames().empty());
+    pending.ForgetFor("9");
+    EXPECT_FALSE(pending.IsThere());
 }
 
 /// Voyage 9 with a route that was calculated for it, and voyage 8 on the server.

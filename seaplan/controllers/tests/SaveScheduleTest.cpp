@@ -126,6 +126,7 @@ TEST_F(SaveScheduleTest, KeepingLegsNeedsTwoRowsOnBothSides) {
 TEST_F(SaveScheduleTest, NewVoyageSavesPortCallsDateAndRowsInThisOrder) {
     host.Reply(1, kRouteAb);
     voyages.CalculatePortCalls(TypedRows(), rows);
+    module.Pending().Assign("9");
     ReplySave();
     EXPECT_EQ(voyages.SaveSchedule("9", rows, -1), 0);
     EXPECT_EQ(host.Texts(), (Texts{std::string("1 ") + kRequestAb,
@@ -181,6 +182,7 @@ TEST_F(SaveScheduleTest, EveryFailedStepEndsTheSaveAndEarlierStepsStay) {
     EXPECT_TRUE(host.requests.empty());
     host.Reply(1, kRouteAb);
     voyages.CalculatePortCalls(TypedRows(), rows);
+    module.Pending().Assign("9");
     EXPECT_EQ(voyages.SaveSchedule("9", rows, -1), -2);
     EXPECT_TRUE(Voyage().portCalls.empty());
     host.Reply(11, "{eid:0}");
@@ -196,6 +198,7 @@ TEST_F(SaveScheduleTest, EveryFailedStepEndsTheSaveAndEarlierStepsStay) {
 TEST_F(SaveScheduleTest, ReloadingDropsThePendingRoute) {
     host.Reply(1, kRouteAb);
     voyages.CalculatePortCalls(TypedRows(), rows);
+    module.Pending().Assign("9");
     ReplySchedule();
     EXPECT_EQ(voyages.LoadSchedule("9", rows, -1), 0);
     EXPECT_FALSE(module.Pending().IsThere());

@@ -60,9 +60,15 @@ TEST_F(ScheduleFaultsTest, AnUnknownPortIsNeverStored) {
 TEST_F(ScheduleFaultsTest, ScheduleThatCouldNotBeOpenedAgainIsNotSaved) {
     const std::string vi = Voyage({});
     PortCallRows rows = Calculated(vi, {"ROTTERDAM", "GDANSK"});
-    rows[1].pw = 2;
-    EXPECT_LT(desk.voyages.SaveSchedule(vi, rows, -1), 0);
+    for (const float weather : {2.0F, 0.9995F, 0.99999F}) {
+        rows[1].pw = weather;
+        EXPECT_EQ(desk.voyages.SaveSchedule(vi, rows, -1), -7) << weather;
+    }
     EXPECT_FALSE(SentAChange());
+    rows[1].pw = 0.999F;
+    EXPECT_EQ(desk.voyages.SaveSchedule(vi, rows, -1), 0);
+    desk.store.FindVoyage(vi)->portCalls.clear();
+    EXPECT_EQ(desk.voyages.LoadSchedule(vi, rows, -1), 0) << "what is stored opens";
 }
 
 TEST_F(ScheduleFaultsTest, PortCallsWithoutNameOrPurposeAreRefusedByTheServer) {
@@ -109,6 +115,34 @@ TEST_F(ScheduleFaultsTest, VesselThatIsSavedIsNoFailureWhereNothingIsToBeAsked) 
     EXPECT_EQ(desk.store.FindVoyage(vi)->vsn, "Known");
 }
 
+TEST(ScheduleCodes, FailureToDrawIsNoFailureToSaveOrLoad) {
+    for (const int code : {0, -8, -9, -10}) {
+        EXPECT_TRUE(IsScheduleSaved(code)) << code;
+    }
+    for (const int code : {-1, -2, -3, -4, -5, -6, -7, -11, -12}) {
+        EXPECT_FALSE(IsScheduleSaved(code)) << code;
+    }
+    for (const int code : {0, -6, -7}) {
+        EXPECT_TRUE(IsScheduleLoaded(code)) << code;
+    }
+    for (const int code : {-1, -2, -3, -4, -5, -8}) {
+        EXPECT_FALSE(IsScheduleLoaded(code)) << code;
+    }
+}
+
+TEST_F(ScheduleFaultsTest, RouteOfNoVoyageIsNotTakenByTheNextSave) {
+    const std::string vi = Voyage({});
+    PortCallRows rows = Rows({"ROTTERDAM", "GDANSK"});
+    PortCallRows out;
+    desk.voyages.ResolvePortIds(rows);
+    ASSERT_EQ(desk.voyages.CalculatePortCalls(rows, out), 0);
+    EXPECT_LT(desk.voyages.SaveSchedule(vi, out, -1), 0);
+    EXPECT_FALSE(SentAChange());
+    EXPECT_TRUE(desk.voyages.Module().Pending().IsFor(""));
+    desk.voyages.Module().Pending().Assign(vi);
+    EXPECT_EQ(desk.voyages.SaveSchedule(vi, out, -1), 0);
+}
+
 TEST_F(ScheduleFaultsTest, CauseOfAFailureIsTold) {
     using Cause = ScheduleFault::Cause;
     const std::string vi = Voyage({});
@@ -136,6 +170,10 @@ TEST_F(ScheduleFaultsTest, CauseOfAFailureIsTold) {
     desk.Refuse(Ask::kSavePortCalls);
     EXPECT_LT(desk.voyages.SaveSchedule(vi, mine, -1), 0);
     EXPECT_EQ(desk.voyages.LastFault().cause, Cause::Refused);
+    desk.Heal();
+    desk.Lose(Ask::kSavePortCalls);
+    EXPECT_LT(desk.voyages.SaveSchedule(vi, mine, -1), 0);
+    EXPECT_EQ(desk.voyages.LastFault().cause, Cause::Connection);
 }
 
 TEST_F(ScheduleFaultsTest, PanelCanAskWhetherARowsRouteIsThere) {

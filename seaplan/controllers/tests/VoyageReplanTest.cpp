@@ -74,11 +74,12 @@ TEST_F(VoyageReplanTest, PurposesThatAreMissingInThePlanBecomeDischarging) {
     EXPECT_EQ(Voyage().portCalls[1].pp, "D");
 }
 
-// A route that was calculated for another table must not become this voyage's book at the next save.
+// A route that was calculated before must not become this voyage's book at the next save.
 TEST_F(VoyageReplanTest, PendingRouteOfAnotherCalculationIsDropped) {
     host.Reply(1, kRouteAb);
     PortCallRows calculated;
     voyages.CalculatePortCalls(TypedRows(), calculated);
+    module.Pending().Assign("9");
     ASSERT_TRUE(module.Pending().IsThere());
     ReplyWay();
     EXPECT_EQ(Replan(), 0);

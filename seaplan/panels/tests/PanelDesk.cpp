@@ -131,6 +131,7 @@ void PanelDesk::SaveCalls(const std::string& vi, PortCallRows calls) {
     PortCallRows planned;
     voyages.ResolvePortIds(calls);
     Require(voyages.CalculatePortCalls(calls, planned) == 0, "the way");
+    voyages.Module().Pending().Assign(vi);
     Require(voyages.SaveSchedule(vi, planned, -1) == 0, "the port calls");
     if (!known) {
         store.voyages.erase(vi);

@@ -23,7 +23,7 @@ class PlanServiceTest : public ScheduleFixture {
     PlanServiceTest() {
         folder.WriteSamplePoints();
         store.Clear();
-        for (int i = 0; i < 20; ++i) {
+        for (int i = 0; i < 30; ++i) {
             host.Reply(3, "[]");  // an empty catalog is asked for at every plan
         }
         request.start = Util::_datetime_t(0, 0, 8, 1, 3, 2024);
@@ -77,6 +77,20 @@ TEST_F(PlanServiceTest, PlanWithoutSavingGivesScheduleBookAndLine) {
     EXPECT_EQ(host.requests.size(), 2U);
 }
 
+TEST_F(PlanServiceTest, NameOfADestroyedVoyageIsFreeAgain) {
+    LoadStore();
+    for (const auto& [vi, state] : {std::pair("7", Destroyed), std::pair("8", InRecycleBin)}) {
+        store.voyages[vi].vi = vi;
+        store.voyages[vi].vn = "V";
+        store.categoryVoyages["1"][vi] = state;
+    }
+    AskToSave();
+    ExpectFailure(Interface::PlanNameTaken);
+    store.categoryVoyages["1"]["8"] = Destroyed;
+    host.Reply(1, kRouteAb);
+    EXPECT_EQ(service.Plan(request).code, Interface::PlanDone);
+}
+
 TEST_F(PlanServiceTest, AnswerCarriesIdsPurposesAndFiguresAsAskedFor) {
     host.Reply(1, kRouteAb);
     request.ports = {{"A", "B", 12.0F, 0.5F, 6.0F}, {"B", "O", 12.0F, 0.5F, 24.0F}};
@@ -127,7 +141,7 @@ TEST_F(PlanServiceTest, FiguresThatAllowNoVoyageAreRefusedBeforeAnythingIsAsked)
         EXPECT_NE(service.Plan(request).step.find("speed"), std::string::npos);
     }
     request.ports[1].speed = 10.0F;
-    for (const float weather : {1.0F, 1.5F, -0.01F, nan}) {
+    for (const float weather : {1.0F, 0.9995F, 0.99999F, 1.5F, -0.01F, nan}) {
         request.ports[1].weather = weather;
         ExpectFailure(Interface::PlanNotCalculated);
         EXPECT_NE(service.Plan(request).step.find("weather"), std::string::npos);
