@@ -84,15 +84,14 @@ void ClientSession::TakeOptions(const SessionOptions& options) {
 std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, std::string& error) {
     if (!server.empty()) {
         const char* trusted = std::getenv("SEAPLAN_CA_FILE");
-        return std::make_unique<LoginLink>(
+        auto link = std::make_unique<LoginLink>(
             server, preferences_.user, trusted ? trusted : "",
             [this](const std::string& at, const std::string& user, const std::string& failure) {
-                auto login = ask_ ? ask_(at, user, failure) : std::nullopt;
-                if (login) {
-                    KeepUser(login->user);
-                }
-                return login;
+                return ask_ ? ask_(at, user, failure) : std::nullopt;
             });
+        // A name that the server refused is nobody's, and would be offered at the next start.
+        link->SetWelcome([this](const std::string& user) { KeepUser(user); });
+        return link;
     }
     auto embedded =
         std::make_unique<EmbeddedLink>(folders_.Data() + "/voyages.db", folders_.ShareFile("network.bin"));

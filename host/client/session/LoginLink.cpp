@@ -45,6 +45,9 @@ bool LoginLink::Connect(std::string& error) {
         remote_ = std::make_unique<RemoteLink>(std::move(settings));
         if (remote_->Connect(error)) {
             owner_ = user_;
+            if (welcome_) {
+                welcome_(user_);
+            }
             return true;
         }
     }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "host/client/services/ServerLink.h"
 
@@ -31,6 +32,8 @@ class LoginLink : public ServerLink {
     LoginLink(std::string server, std::string user, std::string caFile, AskCredentials ask);
     ~LoginLink() override;
 
+    /// Called with the name of a user whom the server has let in.
+    void SetWelcome(std::function<void(const std::string& user)> welcome) { welcome_ = std::move(welcome); }
     /// Asks for credentials until the server takes them or there are no more. While a login has run out
     /// without a logout, nobody else can take its place: what is on show and not saved yet is that user's.
     bool Connect(std::string& error) override;
@@ -46,6 +49,7 @@ class LoginLink : public ServerLink {
     std::string owner_;  ///< whose login it is, from its making to the logout
     std::string caFile_;
     AskCredentials ask_;
+    std::function<void(const std::string&)> welcome_;
     std::unique_ptr<RemoteLink> remote_;
 };
 

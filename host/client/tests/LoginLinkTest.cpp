@@ -51,6 +51,15 @@ TEST_F(LoginLinkTest, AsksAgainUntilTheServerAgrees) {
     EXPECT_EQ(link.User("local"), "anna");
 }
 
+TEST_F(LoginLinkTest, WelcomesOnlyWhomTheServerLetsIn) {
+    answers_ = {{"berta", "guessed"}, {"anna", "correct horse"}};
+    LoginLink link(server_.Url(), "", "", Asker());
+    std::vector<std::string> welcomed;
+    link.SetWelcome([&](const std::string& user) { welcomed.push_back(user); });
+    ASSERT_TRUE(link.Connect(error_)) << error_;
+    EXPECT_THAT(welcomed, ElementsAre("anna"));
+}
+
 TEST_F(LoginLinkTest, EndsWhenNobodyLogsIn) {
     LoginLink link(server_.Url(), "", "", Asker());
     EXPECT_FALSE(link.Connect(error_));
