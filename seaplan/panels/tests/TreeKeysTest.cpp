@@ -46,6 +46,19 @@ TEST_F(TreeKeysTest, ArrowsWalkTheRowsThatAreNotFolded) {
     EXPECT_EQ(Cursor(), "Second");
 }
 
+TEST_F(TreeKeysTest, TheMenuKeyTakesTheSelectedRowOrPressesTheOneWithTheKeyboard) {
+    EXPECT_EQ(ctrl.Keys().OnMenuKey(kNoRow), kNoRow);
+    tree.Expand(tree.Find("First"), true);
+    desk.SaveCalls(Id("A"), PanelDesk::Calls(5));
+    store.voyages[Id("A")].portCalls.clear();
+    EXPECT_EQ(ctrl.Keys().OnMenuKey(tree.Find("A")), tree.Find("A"));
+    EXPECT_EQ(SelectedText(), "A");
+    EXPECT_FALSE(Shows("A", Item::kSetPortCall)) << "its menu must not offer to set what it has";
+    desk.ForgetRecords();
+    EXPECT_EQ(ctrl.Keys().OnMenuKey(tree.Find("B")), tree.Find("A")) << "the selected row goes first";
+    EXPECT_TRUE(desk.host.chartCalls.empty()) << "and is not pressed again";
+}
+
 TEST_F(TreeKeysTest, LeftLeadsToTheCategoryAndThenFoldsIt) {
     tree.Expand(tree.Find("First"), true);
     TreeFixture::Press("B");

@@ -117,6 +117,20 @@ TEST_F(TreeFixture, ANameStillOpenIsTakenBeforeTheNextBoxOpens) {
     EXPECT_EQ(box.text, "Full");
 }
 
+TEST_F(TreeFixture, AnApostropheComesBackFromTheServerAsItsFullwidthForm) {
+    desk.AddCategory("Full");
+    desk.AddVoyage("Full", {.name = "A"});
+    ctrl.ReloadTree();
+    Click("A", Item::kRenameVoyage);
+    ASSERT_EQ(Rename("Anna's \"B&C\\"), 0);
+    Click("Full", Item::kRenameCategory);
+    ASSERT_EQ(Rename("It's"), 0);
+    store.Clear();
+    ASSERT_EQ(ctrl.ReloadTree(), 0);
+    EXPECT_EQ(tree.Shown(), (std::vector<std::string>{"It\uFF07s", "  Anna\uFF07s \uFF02B\uFF06C\uFF3C"}));
+    EXPECT_TRUE(messages.messages.empty());
+}
+
 TEST(NameRules, FourCharactersBecomeFullwidth) {
     EXPECT_EQ(NormalizeName("  a'b\"c\\d&e\u3000"), "a\uFF07b\uFF02c\uFF3Cd\uFF06e");
 }

@@ -22,6 +22,8 @@ class RecordingTree final : public TreeRows {
     std::vector<bool> enabled;  ///< every change, in order
 
     Rect GetItemRect(TreeRow) const override { return {0, rowTop, 290, rowTop + 30}; }
+    bool busy = false;
+    void SetBusy(bool on) override { busy = on; }
     void ShowAtPointer(void* window) override { windowAtPointer = window; }
     void SetCursor(TreeRow row) override { cursor = row; }
     void SetEnabled(bool on) override { enabled.push_back(on); }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <functional>
 #include <memory>
 
 #include <gmock/gmock.h>
@@ -38,6 +39,7 @@ class FleetPlugin final : public Core::TObject {
 
     std::vector<Interface::FleetEntry> fleet = {
         {"1", "NORTHERN LIGHT", 211}, {"2", "Nora", 212}, {"3", "ANNA NORD", 213}};
+    std::function<void()> asked = [] {};  ///< called when the fleet is asked for
     std::vector<std::string> offered;
     std::vector<std::string> shownIds;
     int window = 0;
@@ -48,7 +50,10 @@ class FleetPlugin final : public Core::TObject {
         Core::TrvKernel::Instance()->BindTrvService(name, &event);
         bound_.emplace_back(name, &event);
     }
-    void* OnAll(void*) { return &fleet; }
+    void* OnAll(void*) {
+        asked();
+        return &fleet;
+    }
     void* OnAdd(void* input) {
         offered.push_back(static_cast<const Interface::FleetEntry*>(input)->name);
         handle_ = &window;
@@ -225,6 +230,30 @@ TEST(VesselList, ItsSizeFollowsTheNumberOfVessels) {
     EXPECT_EQ(VoyShipEditDlg::SizeOf(2), (VesselListSize{157, 41, 152}));
     EXPECT_EQ(VoyShipEditDlg::SizeOf(11), (VesselListSize{157, 203, 152}));
     EXPECT_EQ(VoyShipEditDlg::SizeOf(12), (VesselListSize{157, 203, 136}));
+}
+
+TEST_F(VesselEditorTest, TheFleetIsAskedForFirstAndTheRowPressedLast) {
+    desk.ForgetRecords();
+    bool asked = false;
+    plugin.asked = [&] {
+        asked = true;
+        EXPECT_EQ(tree.Selected(), tree.Find("C")) << "its row is as high as it will be";
+        EXPECT_FALSE(vessels.box);
+        EXPECT_TRUE(desk.host.chartCalls.empty());
+    };
+    ASSERT_EQ(ctrl.OpenVesselEditor(Id("C")), 0);
+    EXPECT_TRUE(asked);
+    EXPECT_TRUE(vessels.box);
+    EXPECT_EQ(vessels.text, "Nora");
+    EXPECT_FALSE(desk.host.chartCalls.empty()) << "the press took other voyages off the chart";
+}
+
+TEST_F(VesselEditorTest, TheTreeWaitsForTheBoxOfAVesselThatIsRefused) {
+    ASSERT_EQ(ctrl.OpenVesselEditor(Id("C")), 0);
+    desk.Refuse(Ask::kChangeVessel);
+    EXPECT_EQ(ctrl.Vessels().Commit({"1", "NORTHERN LIGHT", 211}, false), -2);
+    EXPECT_EQ(messages.messages.size(), 1U);
+    EXPECT_EQ(tree.enabled, (std::vector<bool>{false, true}));
 }
 
 }  // namespace Tarvik::Seaplan

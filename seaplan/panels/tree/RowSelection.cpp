@@ -30,7 +30,6 @@ void RowSelection::TakeVoyage(TreeRow row) {
     c_.tree.SelectItem(row);
     categoryRow_ = row;
     voyageRow_ = row;
-    Press(row);
 }
 
 void RowSelection::Press(TreeRow row) {

@@ -18,7 +18,7 @@ class RowSelection {
     /// Selects the row of a click and makes it the current one. -1 to -2 a category without record or id, -19
     /// to -20 that of a voyage's category, -21 to -22 the voyage.
     int Take(TreeRow row);
-    /// Unfolds to a voyage's row, makes it the current one in both places and does what a press on it does.
+    /// Unfolds to a voyage's row, selects it and makes it the current one in both places.
     void TakeVoyage(TreeRow row);
     /// A left press on a row, whatever item lies under it.
     void Press(TreeRow row);

@@ -94,8 +94,20 @@ void TreeKeys::Insert(TreeRow row) {
     }
 }
 
+TreeRow TreeKeys::RowOfKey(TreeRow current) const {
+    return tree_.Selected() != kNoRow ? tree_.Selected() : current;
+}
+
+TreeRow TreeKeys::OnMenuKey(TreeRow current) {
+    const TreeRow row = RowOfKey(current);
+    if (row != kNoRow && row != tree_.Selected()) {
+        ways_.select(row);
+    }
+    return row;
+}
+
 bool TreeKeys::OnKey(Key key, TreeRow current, const std::string& focused) {
-    const TreeRow row = tree_.Selected() != kNoRow ? tree_.Selected() : current;
+    const TreeRow row = RowOfKey(current);
     switch (key) {
         case Key::Down:
         case Key::Up:

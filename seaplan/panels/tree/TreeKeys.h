@@ -27,7 +27,12 @@ class TreeKeys {
     /// selected row, empty for none. False when it means nothing here.
     bool OnKey(Key key, TreeRow current, const std::string& focused);
 
+    /// The row whose menu opens by the key: the selected one, else the one with the keyboard. One that was
+    /// not selected is pressed first, as by the mouse, so that the menu offers what the row has.
+    TreeRow OnMenuKey(TreeRow current);
+
   private:
+    TreeRow RowOfKey(TreeRow current) const;
     bool ClickFirst(TreeRow row, std::initializer_list<const char*> items);
     void Step(TreeRow from, bool down);
     void Fold(TreeRow row, bool open);

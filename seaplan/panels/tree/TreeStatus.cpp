@@ -51,7 +51,7 @@ void TreeStatus::ShowAll(TreeRow categoryRow, const std::string& ci) {
     if (voyages == c_.store.categoryVoyages.end()) {
         return;
     }
-    // The rows are looked up once: a search for each voyage grows with the square of their number.
+    // Rows are walked once: a search for each voyage grows with the square of their number.
     std::map<std::string, TreeRow> rows;
     for (TreeRow row = c_.tree.GetChildItem(categoryRow); row != kNoRow;
          row = c_.tree.GetNextSiblingItem(row)) {
@@ -61,9 +61,24 @@ void TreeStatus::ShowAll(TreeRow categoryRow, const std::string& ci) {
     }
     for (const auto& [vi, state] : voyages->second) {
         const auto row = rows.find(vi);
-        if (Know(vi) == 0 && row != rows.end()) {
-            Draw(row->second, c_.voyageStatuses.at(vi));
+        const TreeRow shown = row == rows.end() ? kNoRow : row->second;
+        if (c_.voyageStatuses.contains(vi)) {
+            Find(vi, shown);
+        } else {
+            queue_.Add(vi, shown);
         }
+    }
+    queue_.Run();
+}
+
+/// The row may have gone while the voyage waited.
+void TreeStatus::Find(const std::string& vi, TreeRow row) {
+    if (Know(vi) != 0) {
+        return;
+    }
+    const VoyInfo* voyage = row == kNoRow ? nullptr : c_.VoyageOf(row);
+    if (voyage != nullptr && voyage->vi == vi) {
+        Draw(row, c_.voyageStatuses.at(vi));
     }
 }
 

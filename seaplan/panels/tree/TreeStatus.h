@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "seaplan/panels/tree/StatusQueue.h"
 #include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
@@ -11,13 +12,15 @@ namespace Tarvik::Seaplan {
 /// step.
 class TreeStatus {
   public:
-    explicit TreeStatus(TreeContext& context) : c_(context) {}
+    explicit TreeStatus(TreeContext& context)
+        : c_(context), queue_(context.tree, [this](const std::string& vi, TreeRow row) { Find(vi, row); }) {}
 
     /// Takes the status of the present time into the cache. -1 empty id, -2 unknown voyage.
     int Compute(const std::string& vi);
     /// Draws the cached status, computed when there is none. -4 when the voyage has no row.
     int Show(const std::string& vi);
-    /// Show for every voyage of a category, failures ignored.
+    /// Show for every voyage of a category, failures ignored. Many that must be asked for come in pieces
+    /// between events.
     void ShowAll(TreeRow categoryRow, const std::string& ci);
     /// Show for every status in the cache.
     void ShowKnown();
@@ -30,9 +33,11 @@ class TreeStatus {
 
   private:
     int Know(const std::string& vi);
+    void Find(const std::string& vi, TreeRow row);
     void Draw(TreeRow row, int status);
 
     TreeContext& c_;
+    StatusQueue queue_;
 };
 
 }  // namespace Tarvik::Seaplan

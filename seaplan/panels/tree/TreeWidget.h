@@ -22,9 +22,16 @@ inline constexpr const char* kDeletedVoyageStyle = "Voyage.tree.child.del";
 /// for, or it is put aside and not shown.
 enum class RowFinding { None, Found, Aside };
 
+/// Where a person sees that something goes on which takes a while.
+class BusySign {
+  public:
+    virtual ~BusySign() = default;
+    virtual void SetBusy(bool busy) = 0;
+};
+
 /// The widget under the voyage tree: rows in two levels, each with named items. It reports presses and clicks
 /// on items to SeaplanTreeCtrl and decides nothing.
-class TreeWidget : public BoxOwner {
+class TreeWidget : public BoxOwner, public BusySign {
   public:
     /// Appends a row below `parent`; kNoRow makes a category row.
     virtual TreeRow InsertItem(const std::string& text, const char* style, TreeRow parent) = 0;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/VesselCommands.h"
 
+#include <utility>
+#include <vector>
+
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/interface/SiblingRecords.h>
@@ -39,11 +42,12 @@ void VesselCommands::OpenBox(TreeRow row, const std::string& text) {
     constexpr int kTop = 55;
     constexpr int kWidth = 120;
     constexpr int kHeight = 25;
+    std::vector<Interface::FleetEntry> fleet = Fleet();
     const Rect place = p_.context.tree.GetItemRect(row);
     const int left = place.left + kLeft;
     const int top = place.top + kTop;
     p_.context.tree.SetDrawItemVisibleEx(row, Item::kReplaceShip, true);
-    editor_.Open({left, top, left + kWidth, top + kHeight}, text, Fleet());
+    editor_.Open({left, top, left + kWidth, top + kHeight}, text, std::move(fleet));
 }
 
 int VesselCommands::OpenEditor(const std::string& vi) {
@@ -53,6 +57,8 @@ int VesselCommands::OpenEditor(const std::string& vi) {
     }
     p_.selection.TakeVoyage(row);
     OpenBox(row, p_.context.VoyageOf(row)->vsn);
+    // The press draws and asks for port calls: by then the person sees the box.
+    p_.selection.Press(row);
     return 0;
 }
 

@@ -51,7 +51,8 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
          [tree](Key key, TreeRow row, const std::string& item) { return tree->Keys().OnKey(key, row, item); },
          [tree](const std::string& text) { tree->Renaming().OnTyped(text); },
          [tree] { tree->Renaming().Commit(); },
-         [tree](const std::string& item) { return tree->HasCommand(item); }});
+         [tree](const std::string& item) { return tree->HasCommand(item); },
+         [tree](TreeRow row) { return tree->Keys().OnMenuKey(row); }});
 }
 
 void VoyagePanelWindow::FocusFirst() {

@@ -153,8 +153,8 @@ void VoyageTreeView::keyPressEvent(QKeyEvent* event) {
 
 void VoyageTreeView::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    const TreeRow current = rows_->Selected() != kNoRow ? rows_->Selected() : RowModel::RowOf(currentIndex());
-    const TreeRow row = byKey ? current : RowAt(event->pos());
+    const TreeRow current = RowModel::RowOf(currentIndex());
+    const TreeRow row = !byKey ? RowAt(event->pos()) : reports_.menuKey ? reports_.menuKey(current) : current;
     // The menu offers what the row has once it was pressed: its port calls may not have been fetched yet.
     if (!byKey && reports_.pressed) {
         reports_.pressed(row, false);

@@ -35,6 +35,7 @@ class VoyageTreeView : public QTreeView {
         std::function<void(const std::string&)> renameTyped;
         std::function<void()> renameDone;
         std::function<bool(const std::string&)> hasCommand;
+        std::function<TreeRow(TreeRow)> menuKey;  ///< the row whose menu a key opens on this one
     };
     void SetReports(Reports reports);
     TreeRows& Rows();

@@ -27,6 +27,14 @@ void VoyageTreeWidget::SetCursor(TreeRow row) {
     }
 }
 
+void VoyageTreeWidget::SetBusy(bool busy) {
+    if (busy) {
+        view_.viewport()->setCursor(Qt::BusyCursor);
+    } else {
+        view_.viewport()->unsetCursor();
+    }
+}
+
 void VoyageTreeWidget::ShowAtPointer(void* window) {
     auto* shown = static_cast<QWidget*>(window);
     shown->move(QCursor::pos() - QPoint(18, 5));

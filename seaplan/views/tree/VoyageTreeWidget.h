@@ -18,6 +18,7 @@ class VoyageTreeWidget final : public TreeRows {
 
     Rect GetItemRect(TreeRow row) const override;
     void SetCursor(TreeRow row) override;
+    void SetBusy(bool busy) override;
     void ShowAtPointer(void* window) override;
     void SetEnabled(bool enabled) override;
     void* Handle() const override;
