@@ -13,8 +13,8 @@ TimeField::TimeField(QWidget* calendar, QBoxLayout* row, const char* name, TimeP
     : QObject(calendar), part_(part) {
     const QString base = QString::fromLatin1(name);
     shown_ = MakeButton(calendar, base + QStringLiteral("Shown"), "");
-    minus_ = MakeButton(calendar, base + QStringLiteral("Minus"), "-");
-    plus_ = MakeButton(calendar, base + QStringLiteral("Plus"), "+");
+    minus_ = MakeButton(calendar, base + QStringLiteral("Minus"), "up");
+    plus_ = MakeButton(calendar, base + QStringLiteral("Plus"), "down");
     edit_ = new QLineEdit(calendar);
     edit_->setObjectName(base + QStringLiteral("Edit"));
     edit_->setMaxLength(2);

@@ -8,7 +8,9 @@
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/views/editors/QtKeys.h"
+#include "seaplan/views/editors/RowField.h"
 #include "seaplan/views/editors/TableMeasures.h"
 #include "seaplan/views/portcall/PortCallTableView.h"
 #include "seaplan/views/window/ViewText.h"
@@ -44,7 +46,7 @@ PortCallEditors::PortCallEditors(QWidget& window, PortCallTableView& table)
       purposes_(MakeList("purposeList")),
       date_(*table.viewport(), window) {
     for (std::size_t i = 0; i < fields_.size(); ++i) {
-        fields_[i] = new QLineEdit(table.viewport());
+        fields_[i] = new RowField(table.viewport());
         fields_[i]->setObjectName(QString::fromLatin1(kNames[i]));
         fields_[i]->hide();
         fields_[i]->installEventFilter(this);
@@ -97,7 +99,7 @@ bool PortCallEditors::PortFieldHasFocus() const {
 bool PortCallEditors::Holds(const QWidget& widget) const {
     const QWidget* const parts[] = {&table_, matches_, purposes_, &date_.Popup(), matchWindow_.data()};
     return std::any_of(std::begin(parts), std::end(parts), [&widget](const QWidget* part) {
-        return part != nullptr && (part == &widget || part->isAncestorOf(&widget));
+        return part != nullptr && BelongsTo(*part, widget);
     });
 }
 
@@ -203,7 +205,9 @@ bool PortCallEditors::FieldEvent(CellEditor editor, QEvent& event) {
         case QEvent::KeyPress:
             return panel_->OnEditorKey(editor, PressOf(static_cast<QKeyEvent&>(event)));
         case QEvent::FocusOut:
-            panel_->OnEditorFocusLost(editor);
+            if (!LeftForItsMenu(*Field(editor), static_cast<QFocusEvent&>(event))) {
+                panel_->OnEditorFocusLost(editor);
+            }
             return false;
         default:
             return false;
@@ -211,7 +215,8 @@ bool PortCallEditors::FieldEvent(CellEditor editor, QEvent& event) {
 }
 
 bool PortCallEditors::eventFilter(QObject* watched, QEvent* event) {
-    if (panel_ == nullptr) {
+    // A window that is going hides an open editor, when there is nobody left to report it to.
+    if (panel_ == nullptr || dynamic_cast<PortCallView*>(&window_) == nullptr) {
         return false;
     }
     if (watched == purposes_) {

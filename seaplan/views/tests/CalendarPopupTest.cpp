@@ -74,6 +74,10 @@ TEST_F(CalendarPopupTest, TheHourIsTypedAndSteppedInPlace) {
     Click("hourShown");
     ASSERT_TRUE(Edit("hourEdit")->isVisible());
     EXPECT_EQ(Edit("hourEdit")->selectedText(), "08");
+    for (const char* part : {"hour", "minute"}) {
+        EXPECT_EQ(Button((std::string(part) + "Minus").c_str())->text(), "up") << part;
+        EXPECT_EQ(Button((std::string(part) + "Plus").c_str())->text(), "down") << part;
+    }
     QTest::keyClicks(Edit("hourEdit"), "23");
     Click("hourPlus");
     EXPECT_EQ(Edit("hourEdit")->text(), "00");

@@ -84,6 +84,19 @@ TEST_F(VesselBoxTest, ASecondClickClosesTheBox) {
     EXPECT_TRUE(Box().isVisible());
 }
 
+TEST_F(VesselBoxTest, APressInTheBoxHidesItsList) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_AssignShip");
+    QTest::keyClicks(&Box(), "nor");
+    ASSERT_TRUE(List().isVisible());
+    QTest::mouseClick(&Box(), Qt::RightButton);
+    EXPECT_TRUE(List().isVisible());
+    QTest::mouseClick(&Box(), Qt::LeftButton);
+    EXPECT_FALSE(List().isVisible());
+    EXPECT_TRUE(Box().isVisible());
+    EXPECT_EQ(Box().text(), "nor");
+}
+
 TEST_F(VesselBoxTest, APressElsewhereTakesTheTypedName) {
     OpenVoyage("North Sea");
     ClickPart("North Sea", "Voyage_AssignShip");

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/tree/RenameField.h"
 
-#include <QFocusEvent>
-#include <QKeyEvent>
 #include <QTimer>
 
 #include "seaplan/views/window/FloatingPanel.h"
@@ -10,7 +8,7 @@
 
 namespace Tarvik::Seaplan {
 
-RenameField::RenameField(QWidget* surface) : QLineEdit(surface) {
+RenameField::RenameField(QWidget* surface) : RowField(surface) {
     setObjectName(QStringLiteral("renameEditor"));
     hide();
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
@@ -38,7 +36,7 @@ void RenameField::Hide() {
 void RenameField::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter || !reports_.done) {
-        QLineEdit::keyPressEvent(event);
+        RowField::keyPressEvent(event);
         return;
     }
     reports_.done();
@@ -47,7 +45,7 @@ void RenameField::keyPressEvent(QKeyEvent* event) {
 
 void RenameField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (isHidden() || !reports_.done || event->reason() == Qt::PopupFocusReason) {
+    if (isHidden() || !reports_.done || LeftForItsMenu(*this, *event)) {
         return;
     }
     // Taking the name may put a message box up, which must not begin while the keyboard is on its way.

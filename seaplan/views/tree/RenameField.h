@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLineEdit>
 #include <functional>
 
 #include "seaplan/panels/window/TextBox.h"
+#include "seaplan/views/editors/RowField.h"
 
 namespace Tarvik::Seaplan {
 
 /// The box over a row in which it is renamed.
-class RenameField final : public QLineEdit, public TextBox {
+class RenameField final : public RowField, public TextBox {
   public:
     /// `surface` is what the places are counted on.
     explicit RenameField(QWidget* surface);

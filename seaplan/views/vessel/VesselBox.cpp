@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QTimer>
 
 #include <tarvik/skin/Palette.h>
@@ -12,6 +13,7 @@
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/editors/QtKeys.h"
+#include "seaplan/views/editors/RowField.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -22,7 +24,7 @@ constexpr int kListBelowTop = 22;
 
 }  // namespace
 
-VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new QLineEdit(tree)) {
+VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new RowField(tree)) {
     box_->setObjectName(QStringLiteral("vesselEditor"));
     box_->hide();
     box_->installEventFilter(this);
@@ -45,10 +47,7 @@ VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new QLineEdit(tree)) {
         }
     });
     new OutsidePress(
-        this,
-        [this](const QWidget& widget) {
-            return &widget == box_ || &widget == list_ || list_->isAncestorOf(&widget);
-        },
+        this, [this](const QWidget& widget) { return BelongsTo(*box_, widget) || BelongsTo(*list_, widget); },
         [this] { OnPressedOutside(); }, [this] { OnReleased(); });
     ApplySkin();
 }
@@ -129,8 +128,15 @@ void VesselBox::OnReleased() {
 }
 
 bool VesselBox::eventFilter(QObject* watched, QEvent* event) {
-    return panel_ != nullptr && open_ && watched == box_ && event->type() == QEvent::KeyPress &&
-           panel_->OnKey(PressOf(*static_cast<QKeyEvent*>(event)));
+    if (panel_ == nullptr || !open_ || watched != box_) {
+        return false;
+    }
+    // Of the list a press in the box is one beside it.
+    if (event->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        HideList();
+    }
+    return event->type() == QEvent::KeyPress && panel_->OnKey(PressOf(*static_cast<QKeyEvent*>(event)));
 }
 
 }  // namespace Tarvik::Seaplan
