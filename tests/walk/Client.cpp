@@ -19,7 +19,8 @@ enum BoxKind : int { kNotice = 0, kOkCancel = 1 };
 
 SysMsgHandleRes Person::SyncSendMsg(int, const std::u16string& text, int flags, void*,
                                     const std::u16string&) {
-    asked.push_back({Util::StringUtl::TranslateString(text), flags != kNotice, yes});
+    const std::string told = Util::StringUtl::TranslateString(text);
+    asked.push_back({told.substr(0, told.find('\n')), flags != kNotice, yes});
     if (flags == kNotice) {
         return SysMsgHandleRes::None;
     }

@@ -18,7 +18,7 @@ namespace Tarvik::Seaplan::Walk {
 class Person final : public Interface::SysMsgSink {
   public:
     struct Asked {
-        std::string text;
+        std::string text;  ///< without the line below it, which tells a cause or a loss
         bool question = false;
         bool yes = false;  ///< the answer, yes or OK
     };

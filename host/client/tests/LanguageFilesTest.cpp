@@ -187,6 +187,8 @@ TEST(QuestionButtonsTest, WhatLosesSomethingIsNotTheCarefulAnswer) {
     EXPECT_EQ(buttons("IDS_PORTCALL_SAVENEXT").yes, "Save");
     EXPECT_TRUE(buttons("IDS_PORTCALL_SAVENEXT").yesIsCareful);
     EXPECT_FALSE(buttons("IDS_TREE_CLEARVOYORCATE").yesIsCareful);
+    const std::string close = texts.Text("Seaplan", "IDS_PORTCALL_CLOSESAVE");
+    EXPECT_EQ(texts.ButtonsOf(close + "\nVoyage \"A\"").yes, "Lose them") << "with what is lost below it";
     EXPECT_EQ(texts.ButtonsOf("Anything else?").yes, "");
 }
 

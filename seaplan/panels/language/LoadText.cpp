@@ -71,4 +71,22 @@ std::string Text(TextId id) {
     return text;
 }
 
+std::string Text(TextId id, const std::vector<std::string>& values) {
+    const std::string pattern = Text(id);
+    std::string text;
+    for (std::size_t at = 0; at < pattern.size(); ++at) {
+        // A value is never read as a pattern: names come from people.
+        const std::size_t value = pattern[at] == '%' && at + 1 < pattern.size()
+                                      ? static_cast<std::size_t>(pattern[at + 1]) - '1'
+                                      : values.size();
+        if (value < values.size()) {
+            text += values[value];
+            ++at;
+        } else {
+            text += pattern[at];
+        }
+    }
+    return text;
+}
+
 }  // namespace Tarvik::Seaplan

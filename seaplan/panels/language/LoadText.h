@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/TextKeys.h"
 
@@ -15,6 +16,8 @@ inline constexpr const char16_t* kTextSection = u"Seaplan";
 bool LoadText(std::string& out, int number, const std::string& fallback);
 /// The text of `id`, or an empty text when the language file lacks it.
 std::string Text(TextId id);
+/// The same with "%1", "%2" and on replaced by these values.
+std::string Text(TextId id, const std::vector<std::string>& values);
 /// The same by the key itself, as "IDS_PORTCALL_PORT".
 std::string TextOfKey(const char* key);
 

@@ -46,6 +46,8 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener, pub
     void SetBookOpen(bool open) override { desk_.SetBookOpen(open); }
     std::string TableZone() const override { return desk_.Sheet().state.zone; }
     void HideAfterLogout();
+    /// The user's zone is another one now: the table is loaded anew, after the question about its changes.
+    void OnTimeZone(const std::string& zone) { filling_.OnTimeZone(zone); }
     void ApplyLanguage();
 
     /// What opens over the cells.

@@ -12,6 +12,7 @@ namespace {
 constexpr double kLeastSpeed = 0.00001;
 constexpr double kLeastWeatherPercent = 0.00001;
 constexpr double kMostWeatherPercent = 99.9999;
+constexpr double kNoHeadway = 100;
 constexpr double kLeastLegHours = 0.00001;
 constexpr double kEarliestDeparture = -0.0001;
 constexpr double kLeastLegSpeed = 0.0001;
@@ -67,7 +68,9 @@ void CellEdits::SetWeather(int row, const std::string& typed) {
     const double percent = Util::StringUtl::ToDouble(typed);
     if (typed == "0" || typed == "0.0") {
         text = "0%";
-    } else if (percent >= kLeastWeatherPercent && percent <= kMostWeatherPercent) {
+    } else if (percent >= kLeastWeatherPercent && percent <= kMostWeatherPercent &&
+               PercentText(percent) != PercentText(kNoHeadway)) {
+        // The cell is what counts from here on, and a factor that it tells as whole leaves no speed.
         text = PercentText(percent);
     }
     SetFigure(row, ColWeather, text);

@@ -8,6 +8,11 @@ void CorrectedSchedule::SetTime(const std::string& vi, const std::string& time) 
     time_ = time;
 }
 
+void CorrectedSchedule::GiveUp() {
+    time_.clear();
+    desk_.SetCorrectionPending(false);
+}
+
 int CorrectedSchedule::ShowHistoryAndPlan() {
     PortCallSheet& sheet = desk_.Sheet();
     PortCallRows rows;
@@ -45,6 +50,7 @@ void CorrectedSchedule::MarkFresh() {
 
 int CorrectedSchedule::ReplanAndSave() {
     PortCallSheet& sheet = desk_.Sheet();
+    desk_.Sheet().cause.clear();
     PortCallRows before;
     PortCallRows after;
     if (!sheet.table.ReadRowsSplit(before, after)) {
@@ -58,12 +64,17 @@ int CorrectedSchedule::ReplanAndSave() {
     }
     PortCallRows ports;
     if (desk_.Voyages().ReplanFromAis(sheet.voyageId, history, plan, ports) != 0) {
+        desk_.SetCauseOfFault();
         return -3;
     }
     if (ShowHistoryAndPlan() != 0) {
         return -4;
     }
-    return desk_.Voyages().SaveSchedule(sheet.voyageId, ports, -1) == 0 ? 0 : -5;
+    if (desk_.Voyages().SaveSchedule(sheet.voyageId, ports, -1) != 0) {
+        desk_.SetCauseOfFault();
+        return -5;
+    }
+    return 0;
 }
 
 int CorrectedSchedule::Calculate() {

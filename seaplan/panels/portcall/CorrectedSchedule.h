@@ -15,8 +15,8 @@ class CorrectedSchedule {
 
     /// Time of a correction, `kTimeFormat` in the user's zone, and the voyage that it belongs to.
     void SetTime(const std::string& vi, const std::string& time);
-    /// The correction was given up.
-    void ForgetTime() { time_.clear(); }
+    /// The correction on show is given up: its time is noted nowhere.
+    void GiveUp();
     /// Shows the voyage on show as history and plan, with nothing to save. 0; -1 it cannot be split, -2 it
     /// has no rows.
     int Fill();

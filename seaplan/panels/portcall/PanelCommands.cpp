@@ -2,8 +2,10 @@
 #include "seaplan/panels/portcall/PanelCommands.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/panels/language/LoadText.h"
 
 namespace Tarvik::Seaplan {
 
@@ -12,6 +14,11 @@ namespace {
 constexpr const char* kHelpTopic = "func034";
 /// Result of Calculate for a saved voyage that has its new rows, which the server did not take.
 constexpr int kCalculatedNotSaved = -5;
+
+/// A notice with the cause of the last failure as its second line.
+void TellFailure(PortCallDesk& desk, TextId id) {
+    desk.ToPerson().Notice(id, desk.Sheet().cause);
+}
 
 }  // namespace
 
@@ -29,6 +36,7 @@ int PanelCommands::Calculate() {
     PortCallSheet& sheet = desk_.Sheet();
     PortCallRows rows;
     if (Prepare(rows) != 0) {
+        desk_.Sheet().cause = Text(TextId::IDS_VIEW_NEEDTWOPORTS);
         return -1;
     }
     PortCallRows result;
@@ -38,14 +46,31 @@ int PanelCommands::Calculate() {
         return desk_.Voyages().CalculateForVoyage(sheet.voyageId, rows, result, hadPortCalls) != 0;
     }();
     if (failed) {
+        desk_.SetCauseOfFault();
         return -2;
     }
-    if (hadPortCalls == 0) {
-        KeepPortIds(rows, result);
-        return desk_.ShowChangedRows(result) == 0 ? 0 : -3;
-    }
-    // The result stands in the voyage already, with all that was changed here: nothing is left to ask about.
-    sheet.MarkUnchanged();
+    const PortCallNote note = NoteOfRoute();
+    const int shown = hadPortCalls == 0 ? ShowCalculated(rows, std::move(result)) : ShowAndSave();
+    desk_.SetNote(note);
+    return shown;
+}
+
+/// Known legs are told with the day of the oldest, for as long as the rows stand there.
+PortCallNote PanelCommands::NoteOfRoute() const {
+    const auto& since = desk_.Voyages().Module().Pending().KnownSince();
+    return since ? PortCallNote{PortCallNote::Kind::KnownLegs, since->fmt("%Y-%m-%d")} : PortCallNote{};
+}
+
+int PanelCommands::ShowCalculated(const PortCallRows& rows, PortCallRows result) {
+    KeepPortIds(rows, result);
+    return desk_.ShowChangedRows(result) == 0 ? 0 : -3;
+}
+
+/// The result stands in the voyage already, with all that was changed here: nothing is left to ask about.
+int PanelCommands::ShowAndSave() {
+    PortCallSheet& sheet = desk_.Sheet();
+    const auto stored = sheet.stored;
+    sheet.state.changed = false;
     desk_.Voyages().RemoveVoyageObjects(sheet.voyageId);
     desk_.View().Hide();
     const int filled = filling_.Fill(1);
@@ -56,6 +81,7 @@ int PanelCommands::Calculate() {
     if (filling_.SaveTable(sheet.voyageId, -1) == 0) {
         return 0;
     }
+    sheet.stored = stored;
     sheet.MarkChanged(desk_.Ports());
     return kCalculatedNotSaved;
 }
@@ -69,10 +95,10 @@ void PanelCommands::OnCalculate() {
     }
     if (corrected <= 0) {
         if (Calculate() == kCalculatedNotSaved) {
-            desk_.ToPerson().Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION);
+            TellFailure(desk_, TextId::IDS_PORTCALL_SAVEEXCEPTION);
         }
     } else if (corrected_.Calculate() != 0) {
-        desk_.ToPerson().Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
+        TellFailure(desk_, TextId::IDS_PORTCALL_AISCOMPUTWARN);
     }
 }
 
@@ -88,11 +114,12 @@ int PanelCommands::OnRouteChosen() {
         return -1;
     }
     PortCallRows result;
-    if (desk_.Voyages().ScheduleCurrentRoute(rows, result) != 0) {
+    if (!desk_.Voyages().Module().Pending().IsFor(desk_.Sheet().voyageId) ||
+        desk_.Voyages().ScheduleCurrentRoute(rows, result) != 0) {
         return -2;
     }
-    KeepPortIds(rows, result);
-    return desk_.ShowChangedRows(result) == 0 ? 0 : -3;
+    desk_.SetNote(NoteOfRoute());
+    return ShowCalculated(rows, std::move(result));
 }
 
 void PanelCommands::OnSave() {
@@ -115,6 +142,7 @@ int PanelCommands::SaveRows(int drawMode) {
     PortCallSheet& sheet = desk_.Sheet();
     const PortCallRows rows = sheet.table.ReadRows();
     if (rows.size() < 2) {
+        desk_.Sheet().cause = Text(TextId::IDS_VIEW_NEEDTWOPORTS);
         return -1;
     }
     const bool missing = std::any_of(rows.begin() + 1, rows.end(), [](const VoyPortCall& row) {
@@ -135,7 +163,7 @@ int PanelCommands::SaveRows(int drawMode) {
 void PanelCommands::SavePlain() {
     const int result = SaveRows(1);
     if (result < -1) {
-        desk_.ToPerson().Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION);
+        TellFailure(desk_, TextId::IDS_PORTCALL_SAVEEXCEPTION);
     } else if (result == 0) {
         desk_.Sheet().MarkUnchanged();
         desk_.Sheet().state.canOpenBook = true;
@@ -149,7 +177,7 @@ int PanelCommands::SaveBeforeLeaving() {
     if (known && (corrected > 0 ? corrected_.Calculate() : SaveRows(-1)) == 0) {
         return 0;
     }
-    desk_.ToPerson().Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION);
+    TellFailure(desk_, TextId::IDS_PORTCALL_SAVEEXCEPTION);
     return -1;
 }
 
@@ -158,7 +186,7 @@ void PanelCommands::OnClear() {
     editing_.CommitEditors();
     PortCallView& view = desk_.View();
     view.Hide();
-    if (desk_.ToPerson().Confirm(TextId::IDS_PORTCALL_CLEARFORBLANK)) {
+    if (desk_.ToPerson().Confirm(TextId::IDS_PORTCALL_CLEARFORBLANK, desk_.LossWords())) {
         if (desk_.Sheet().state.changed) {
             filling_.GiveUp();
         }
@@ -176,7 +204,7 @@ void PanelCommands::OnClose() {
     PortCallSheet& sheet = desk_.Sheet();
     editing_.CommitEditors();
     if (sheet.state.changed) {
-        if (!desk_.ToPerson().Question(TextId::IDS_PORTCALL_CLOSESAVE)) {
+        if (!desk_.ToPerson().Question(TextId::IDS_PORTCALL_CLOSESAVE, desk_.LossWords())) {
             return;
         }
         filling_.GiveUp();

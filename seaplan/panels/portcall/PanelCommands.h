@@ -39,6 +39,9 @@ class PanelCommands {
   private:
     int Prepare(PortCallRows& rows) const;
     int Calculate();
+    PortCallNote NoteOfRoute() const;
+    int ShowCalculated(const PortCallRows& rows, PortCallRows result);
+    int ShowAndSave();
     int SaveRows(int drawMode);
     void SavePlain();
 

@@ -6,6 +6,7 @@
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/PortCallWords.h"
 
 namespace Tarvik::Seaplan {
 
@@ -52,14 +53,15 @@ void PortCallDesk::TellSaved(const std::string& vi) const {
 void PortCallDesk::ResetSheet() {
     sheet_.Reset();
     ShowTexts();
-    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone);
-    if (zone != nullptr) {
-        sheet_.state.zone = *zone;
+    const std::string* asked = Interface::Call(Interface::Bus::CurrentTimeZone);
+    if (!zone_.empty() || asked != nullptr) {
+        sheet_.state.zone = zone_.empty() ? *asked : zone_;
     }
 }
 
 void PortCallDesk::ShowTexts() {
     sheet_.state.caption = Text(TextId::IDS_PORTCALL_TITLE);
+    sheet_.state.note = NoteText(sheet_.note);
     SetCorrectionPending(sheet_.aisCorrectionPending);
 }
 
@@ -89,6 +91,19 @@ int PortCallDesk::Recompute(const PortCallRows& standard) {
     }
     KeepPortIds(standard, rows);
     return ShowChangedRows(rows);
+}
+
+void PortCallDesk::SetCauseOfFault() {
+    sheet_.cause = CauseText(p_.voyages.LastFault(), sheet_.table);
+}
+
+std::string PortCallDesk::LossWords() const {
+    return LossText(sheet_, p_.voyages.NameOf(sheet_.voyageId));
+}
+
+void PortCallDesk::SetNote(PortCallNote note) {
+    sheet_.note = std::move(note);
+    sheet_.state.note = NoteText(sheet_.note);
 }
 
 Boxes& PortCallDesk::ToPerson() {

@@ -89,6 +89,14 @@ class PortCallDesk {
     CPosBookDlg* Book() const { return p_.book ? p_.book() : nullptr; }
     /// The window cannot be used while the position book is open.
     void SetBookOpen(bool open);
+    /// The sheet's cause is that of the controllers' last failure.
+    void SetCauseOfFault();
+    /// What the changes in the table are, as a question about losing them tells it.
+    std::string LossWords() const;
+    /// The zone in which times are read from the next filling on; without one the host is asked for it.
+    void SetZone(std::string zone) { zone_ = std::move(zone); }
+    /// Another line about the rows on show.
+    void SetNote(PortCallNote note);
 
     /// Moves the window to its place beside the tree.
     void PlaceBesideTree() { p_.view.MoveTo(BesideTree(p_.treePlace())); }
@@ -99,6 +107,7 @@ class PortCallDesk {
     Parts p_;
     Boxes boxes_;
     std::function<void(const std::string&)> saved_;
+    std::string zone_;
     PortCallSheet sheet_;
     PortCallTable shownTable_;
     PortCallState shownState_;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "seaplan/calculation/Units.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
@@ -10,6 +11,17 @@
 namespace Tarvik::Seaplan {
 
 class PortDirectory;
+
+/// What is to be told of the rows on show.
+struct PortCallNote {
+    enum class Kind {
+        None,
+        Unfinished,  ///< they have no route of theirs, as a save leaves them that broke off
+        KnownLegs    ///< their legs are known ones, since the server was not there to ask
+    };
+    Kind kind = Kind::None;
+    std::string since{};  ///< day of the oldest of these legs
+};
 
 /// All that the port call panel knows of the voyage on show, as one value: the rows with the ids of their
 /// ports, the units, the figures and what the buttons can do. Whoever keeps a copy can bring it back.
@@ -21,6 +33,9 @@ class PortCallSheet {
     std::string editedVoyageId;         ///< voyage on show at the last edit
     bool aisCorrectionPending = false;  ///< a fresh correction is shown and not saved
     bool unread = false;                ///< it may have port calls on the server that could not be read
+    std::string cause;  ///< why the last save or calculation failed, in words; empty for none that is known
+    PortCallNote note;
+    std::vector<CellTexts> stored;  ///< the rows as they were last loaded or saved, in the units on show
 
     const UnitSet& Units() const { return units_; }
     /// Six empty rows in the first units, without figures; nothing is changed and only Clear is possible.
@@ -48,12 +63,16 @@ class PortCallSheet {
 
     /// Distinct places, each row counted against the last one that counted.
     int PlaceCount(PortDirectory& ports) const;
-    /// Nothing is left to save.
+    /// How many rows a person has changed, added or taken away since they were loaded or saved.
+    int ChangedRows() const;
+    /// Nothing is left to save: the rows are those that are stored.
     void MarkUnchanged();
     /// Takes the table for changed, unless it has fewer than two places: such a table cannot be saved.
     void MarkChanged(PortDirectory& ports);
 
   private:
+    std::vector<CellTexts> FilledRows() const;
+    void ConvertStored(const std::string& from, const std::string& to);
     void ShowUnits();
     void ShowSummary(const PortCallRows& standard);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/PortCallTable.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Tarvik::Seaplan {
@@ -15,6 +16,16 @@ TableRow MakeRow(const std::string& label, RowClass look) {
     row.Commit(cells, {});
     row.look = look;
     return row;
+}
+
+/// Gives the numbered rows of a corrected voyage's table their looks; the first `history` are sailed.
+void LookSailed(std::vector<TableRow>& table, int numbered, const PortCallRows& rows, std::size_t history) {
+    for (int i = 0; i < numbered; ++i) {
+        const bool sailed = i < static_cast<int>(std::min(history, rows.size()));
+        table[i].look = !sailed                    ? RowClass::Normal
+                        : rows[i].pp == kBlankCell ? RowClass::Highlighted
+                                                   : RowClass::Disabled;
+    }
 }
 
 }  // namespace
@@ -155,6 +166,9 @@ void PortCallTable::WritePartial(const PortCallRows& rows, bool corrected) {
             WriteEntered(i, rows[i]);
         }
     }
+    if (corrected) {
+        LookSailed(rows_, rowCount_, rows, static_cast<std::size_t>(pivot + 1));
+    }
 }
 
 void PortCallTable::ShowHistoryAndPlan(const PortCallRows& rows, std::size_t history) {
@@ -162,11 +176,8 @@ void PortCallTable::ShowHistoryAndPlan(const PortCallRows& rows, std::size_t his
     Rebuild(filled < kFirstRows ? kFirstRows : filled + 1, true);
     for (int i = 0; i < filled; ++i) {
         WriteRow(i, rows[i]);
-        if (i >= static_cast<int>(history)) {
-            continue;
-        }
-        rows_[i].look = rows[i].pp == kBlankCell ? RowClass::Highlighted : RowClass::Disabled;
     }
+    LookSailed(rows_, rowCount_, rows, history);
 }
 
 void PortCallTable::WriteTotals(const PortCallRows& rows) {

@@ -24,6 +24,7 @@ struct PortCallState {
     std::string distanceUnit;
     std::string timeUnit;
     std::string zone;  ///< zone of the times, empty when nobody tells
+    std::string note;  ///< one line about the rows on show, mostly empty
 
     friend bool operator==(const PortCallState&, const PortCallState&) = default;
 };

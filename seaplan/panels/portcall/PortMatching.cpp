@@ -20,7 +20,7 @@ void PortMatching::Ask() {
     CellsView& view = desk_.Cells();
     const std::string& text = field_.Text();
     const Interface::MatchPortQuery query{view.EditorHandle(CellEditor::Port), desk_.View().Handle(), text,
-                                          std::exchange(textRemains_, false)};
+                                          std::exchange(backspace_, false) && !text.empty()};
     void* window = Interface::Call(Interface::Bus::MatchPorts, &query);
     if (window != nullptr) {
         window_ = window;

@@ -19,7 +19,7 @@ class PortMatching {
     /// Asks for the ports that fit the field's text.
     void Ask();
     /// Backspace in the field, before its text changes.
-    void OnBackspace() { textRemains_ = !field_.Text().empty(); }
+    void OnBackspace() { backspace_ = !field_.Text().empty(); }
     /// A window of matches moved to a name; told while the field itself has the keyboard it changes nothing.
     void OnMoved(const std::string& name, bool fieldHasFocus);
     /// The next or previous match of the panel's own list goes into the field. False without a list.
@@ -37,9 +37,9 @@ class PortMatching {
     PortCallDesk& desk_;
     TextField& field_;
     ListBox list_;
-    void* window_ = nullptr;    ///< a service's window of matches
-    bool textRemains_ = false;  ///< Backspace was pressed with text in the field
-    std::string moved_;         ///< name that a list of matches moved to
+    void* window_ = nullptr;  ///< a service's window of matches
+    bool backspace_ = false;  ///< Backspace takes text away, which comes next
+    std::string moved_;       ///< name that a list of matches moved to
 };
 
 }  // namespace Tarvik::Seaplan

@@ -5,6 +5,7 @@
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/language/LoadText.h"
 
 namespace Tarvik::Seaplan {
 
@@ -19,17 +20,19 @@ int VoyageFilling::SaveTable(const std::string& vi, int drawMode) {
         return -1;
     }
     PortCallRows rows;
+    desk_.Sheet().cause.clear();
     if (desk_.Sheet().ReadStandard(rows) != 0) {
         return -2;
     }
     if (!MayReplace(vi)) {
         return -4;
     }
-    const bool failed = [&] {
+    const bool done = [&] {
         const PortCallDesk::Busy busy(desk_);
-        return desk_.Voyages().SaveSchedule(vi, rows, drawMode) != 0;
+        return IsScheduleSaved(desk_.Voyages().SaveSchedule(vi, rows, drawMode));
     }();
-    if (failed) {
+    if (!done) {
+        desk_.SetCauseOfFault();
         return -3;
     }
     desk_.Sheet().unread = false;
@@ -39,11 +42,15 @@ int VoyageFilling::SaveTable(const std::string& vi, int drawMode) {
 
 /// A table that could not be read must not replace what the server has.
 bool VoyageFilling::MayReplace(const std::string& vi) {
+    constexpr int kNoList = -2;
     constexpr int kNoneStored = -3;
     PortCallSheet& sheet = desk_.Sheet();
     if (sheet.unread) {
         PortCallRows stored;
-        sheet.unread = desk_.Voyages().Module().LoadPortCalls(vi, stored) != kNoneStored;
+        const int read = desk_.Voyages().Module().LoadPortCalls(vi, stored);
+        sheet.unread = read != kNoneStored;
+        desk_.Sheet().cause =
+            Text(read == kNoList ? TextId::IDS_VIEW_FAULTCONNECTION : TextId::IDS_VIEW_FAULTUNREAD);
     }
     return !sheet.unread;
 }
@@ -56,7 +63,7 @@ bool VoyageFilling::MayLeave() {
         return true;
     }
     // The rows in the table are what is saved, so no cell may have changed since.
-    if (!desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT)) {
+    if (!desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT, desk_.LossWords())) {
         GiveUp();
     } else if (save_() != 0) {
         return false;
@@ -73,22 +80,24 @@ bool VoyageFilling::AskToLeave() {
         return false;
     }
     // What was given up does not stay in sight where nothing else comes.
-    if (changed && (!desk_.IsCorrected() || corrected_.Fill() != 0)) {
-        Fill(-1);
+    if (changed) {
+        Show(-1);
     }
     return true;
 }
 
-// The calculation of a saved voyage, or a correction, may stand in its record already.
+/// A calculation over a saved voyage, and a correction, have gone into its record already.
 void VoyageFilling::GiveUp() {
-    corrected_.ForgetTime();
-    desk_.Voyages().DiscardPortCalls(desk_.Sheet().voyageId);
+    const std::string& vi = desk_.Sheet().voyageId;
+    desk_.Voyages().DiscardPortCalls(vi);
+    desk_.Voyages().Module().Pending().ForgetFor(vi);
+    corrected_.GiveUp();
 }
 
 void VoyageFilling::Clear() {
     editing_.HideEditors();
     desk_.ResetSheet();
-    desk_.Voyages().Module().Pending().Forget();
+    desk_.Voyages().Module().Pending().ForgetFor(desk_.Sheet().voyageId);
     desk_.Show();
     desk_.View().BringRowIntoView(0);
     desk_.Voyages().ClearChart();
@@ -99,7 +108,7 @@ void VoyageFilling::Reset() {
     if (!MayLeave()) {
         return;
     }
-    desk_.Sheet().voyageId = next_;
+    TakeNext();
     if (next_.empty()) {
         return Clear();
     }
@@ -107,12 +116,30 @@ void VoyageFilling::Reset() {
     Fill(-1);
 }
 
+void VoyageFilling::OnTimeZone(const std::string& zone) {
+    const PortCallDesk::Report report(desk_);
+    desk_.SetZone(zone);
+    // A closed panel is filled when it opens.
+    if (desk_.View().IsVisible() && MayLeave()) {
+        desk_.Sheet().state.zone = zone;
+        Show(-1);
+    }
+}
+
+/// The table of the voyage on show goes, and a route that nobody saved goes with it.
+void VoyageFilling::TakeNext() {
+    std::string& shown = desk_.Sheet().voyageId;
+    desk_.Voyages().Module().Pending().ForgetFor(shown);
+    shown = next_;
+}
+
 void VoyageFilling::Forget() {
+    desk_.Voyages().Module().Pending().Forget();
+    corrected_.GiveUp();
     next_.clear();
     PortCallSheet& sheet = desk_.Sheet();
     sheet.voyageId.clear();
     sheet.editedVoyageId.clear();
-    sheet.aisCorrectionPending = false;
     Clear();
 }
 
@@ -128,14 +155,19 @@ int VoyageFilling::Open(int mode) {
     if (corrected <= 0) {
         desk_.View().Hide();
     }
-    desk_.Sheet().voyageId = next_;
-    if (corrected > 0) {
+    TakeNext();
+    return Show(mode);
+}
+
+/// The voyage on show in the form that it has now.
+int VoyageFilling::Show(int mode) {
+    if (desk_.IsCorrected()) {
         editing_.HideEditors();
         if (corrected_.Fill() == 0) {
             return 0;
         }
         // Without a position row the voyage is a plain one again.
-        desk_.Voyages().ClearAisMod(next_);
+        desk_.Voyages().ClearAisMod(desk_.Sheet().voyageId);
     }
     return Fill(mode);
 }
@@ -159,7 +191,9 @@ void VoyageFilling::ShowUnfinished(int code, PortCallRows rows) {
     if (!sheet.unread) {
         ResolvePortIds(rows);
         sheet.ShowEntered(rows);
+        sheet.MarkUnchanged();
         sheet.MarkChanged(desk_.Ports());
+        desk_.SetNote({PortCallNote::Kind::Unfinished});
     }
 }
 
@@ -170,7 +204,7 @@ int VoyageFilling::Load(int mode) {
         const PortCallDesk::Busy busy(desk_);
         return desk_.Voyages().LoadSchedule(sheet.voyageId, loaded, mode);
     }();
-    if (code != 0) {
+    if (!IsScheduleLoaded(code)) {
         Clear();
         ShowUnfinished(code, std::move(loaded));
         return 0;
@@ -183,7 +217,7 @@ int VoyageFilling::Load(int mode) {
     if (sheet.ShowRows(rows, desk_.IsCorrected()) != 0) {
         return -3;
     }
-    sheet.state.changed = false;
+    sheet.MarkUnchanged();
     sheet.state.canClear = true;
     sheet.state.canOpenBook = true;
     sheet.state.canCalculate = true;

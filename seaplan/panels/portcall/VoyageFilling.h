@@ -31,6 +31,8 @@ class VoyageFilling {
     /// That voyage's stored rows, or six empty ones when it has none. Nothing where the changes of the voyage
     /// on show could not be saved.
     void Reset();
+    /// The user's zone changed: the times on show are read anew in it, unless their changes have to stay.
+    void OnTimeZone(const std::string& zone);
     /// Forgets voyages, rows and changes without a question: another user's voyages may have the same ids.
     void Forget();
     /// Shows that voyage with its fresh correction from AIS, made at a time in the user's zone that SetTime
@@ -51,6 +53,8 @@ class VoyageFilling {
 
   private:
     bool MayLeave();
+    void TakeNext();
+    int Show(int mode);
     bool MayReplace(const std::string& vi);
     void ShowUnfinished(int code, PortCallRows rows);
     void Clear();

@@ -108,6 +108,17 @@ TEST_F(CorrectedPanelTest, NoPortMovesAboveTheShip) {
     EXPECT_TRUE(view.state.changed);
 }
 
+TEST_F(CorrectedPanelTest, RowsKeepTheirLooksWhenOthersMoveOrGo) {
+    Open(kept);
+    ASSERT_EQ(panel.Rows().OnItemImage(2, "itemMovedown"), 0);
+    EXPECT_EQ(Look(1), RowClass::Highlighted);
+    EXPECT_EQ(Look(2), RowClass::Normal);
+    ASSERT_EQ(panel.Rows().OnItemImage(0, "itemdel"), 0);
+    EXPECT_EQ(Cell(0, ColPort), kShip);
+    EXPECT_EQ(Look(0), RowClass::Highlighted) << "the ship's own row, one place higher";
+    EXPECT_EQ(Look(1), RowClass::Normal);
+}
+
 TEST_F(CorrectedPanelTest, WithoutAPositionRowTheVoyageIsAPlainOneAgain) {
     LosePosition();
     Open(kept);
@@ -195,6 +206,45 @@ TEST_F(CorrectedPanelTest, AFailedReplanIsToldByTheCalculateButtonOnly) {
     EXPECT_EQ(Saves(), 0);
     panel.Commands().OnCalculate();
     EXPECT_EQ(LastMessage(), "IDS_PORTCALL_AISCOMPUTWARN");
+}
+
+TEST_F(CorrectedPanelTest, AFreshCorrectionThatIsGivenUpLeavesNothingBehind) {
+    texts.given[u"IDS_VIEW_LOSTFIX"] = u"%1 loses its correction";
+    for (const bool byClosing : {true, false}) {
+        Correct();
+        panel.SetVoyage(kept);
+        panel.SetCorrectionTime("2024-03-05 20:00:00");
+        ASSERT_EQ(panel.ShowAisCorrection(), 0);
+        messages.Answer(byClosing ? Interface::SysMsgHandleRes::Yes : Interface::SysMsgHandleRes::No);
+        byClosing ? panel.Commands().OnClose() : Open(fresh);
+        EXPECT_EQ(LastDetail(), "Saved loses its correction");
+        EXPECT_EQ(store.voyages[kept].modais, 0);
+        Open(kept);
+        EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));
+        EXPECT_EQ(view.state.calculateText, "IDS_PORTCALL_COMPUTE");
+    }
+    Type(1, ColSpeed, "12");
+    panel.Commands().OnCalculate();
+    EXPECT_EQ(desk.Count(Ask::kAddAisTime), 0) << "the time of a correction that nobody kept";
+}
+
+TEST_F(CorrectedPanelTest, AVoyageIsLeftBeforeItIsCorrectedAnew) {
+    store.voyages[kept].modais = 0;
+    SaveOther([](PortCallRows&) {});
+    Open(kept);
+    Type(1, ColSpeed, "12");
+    desk.Refuse(Ask::kSavePortCalls);
+    messages.Answer(Interface::SysMsgHandleRes::Yes);
+    EXPECT_FALSE(panel.AskToLeave()) << "what could not be saved stays on show";
+    EXPECT_EQ(Cell(1, ColSpeed), "12.00");
+    EXPECT_TRUE(view.state.changed);
+    messages.Answer(Interface::SysMsgHandleRes::No);
+    EXPECT_TRUE(panel.AskToLeave());
+    EXPECT_EQ(Cell(1, ColSpeed), "10.00") << "what was given up does not stand there as if it were stored";
+    EXPECT_FALSE(view.state.changed);
+    const std::size_t asked = messages.messages.size();
+    EXPECT_TRUE(panel.AskToLeave());
+    EXPECT_EQ(messages.messages.size(), asked) << "there is nothing to ask about";
 }
 
 TEST_F(CorrectedPanelTest, AFreshCorrectionMustBeRecalculatedOrSaved) {

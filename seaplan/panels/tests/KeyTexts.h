@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <set>
 
 #include <tarvik/interface/LoadString.h>
@@ -17,13 +18,15 @@ class KeyTexts final : public Interface::LanguageSource {
 
     std::set<std::u16string> missing;
     std::u16string prefix;
+    std::map<std::u16string, std::u16string> given;  ///< keys that have texts of their own
 
     std::optional<std::u16string> Find(const std::u16string& section, const std::u16string&,
                                        const std::u16string& key) const override {
         if (section != u"Seaplan" || missing.contains(key)) {
             return std::nullopt;
         }
-        return prefix + key;
+        const auto own = given.find(key);
+        return own == given.end() ? prefix + key : own->second;
     }
 };
 

@@ -191,7 +191,7 @@ TEST_F(PortCallFixture, OpeningAnotherVoyageSavesTheChangesOfTheEditedOne) {
     Type(1, ColSpeed, "12");
     messages.Answer(SysMsgHandleRes::Yes);
     Open(fresh);
-    EXPECT_EQ(messages.messages[0].text, "IDS_PORTCALL_SAVENEXT");
+    EXPECT_EQ(Line(1, true), "IDS_PORTCALL_SAVENEXT");
     EXPECT_EQ(messages.messages[0].flags, 4);
     EXPECT_EQ(Saves(), 1);
     EXPECT_EQ(SavedRows(kept)[1].psp, 12.0F);

@@ -122,10 +122,22 @@ TEST_F(PortCallFixture, AWeatherFactorIsTypedInPercent) {
     EXPECT_EQ(Cell(1, ColWeather), "0%");
 }
 
+TEST_F(PortCallFixture, AFactorThatPrintsAsWholeIsNotTaken) {
+    Open(kept);
+    for (const char* whole : {"99.5", "99.6", "99.9999", "100"}) {
+        Type(1, ColWeather, whole);
+        EXPECT_EQ(Cell(1, ColWeather), "0%") << whole;
+    }
+    Type(1, ColWeather, "99.4");
+    EXPECT_EQ(Cell(1, ColWeather), "99%");
+}
+
 TEST_F(PortCallFixture, AFactorThatLeavesNoSpeedKeepsTheTypedCellAndTheOtherCells) {
     Open(kept);
     const std::string eta = Cell(1, ColEta);
-    Type(1, ColWeather, "99.6");
+    ShowFullWeather(1);
+    Type(1, ColSpeed, "12");
+    EXPECT_EQ(Cell(1, ColSpeed), "12.00");
     EXPECT_EQ(Cell(1, ColWeather), "100%");
     EXPECT_EQ(Cell(1, ColEta), eta);
     EXPECT_FALSE(view.state.changed);

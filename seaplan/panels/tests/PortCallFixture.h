@@ -90,6 +90,12 @@ class PortCallFixture : public ::testing::Test {
         panel.Cells().OnEditorKey(editor, {Key::Enter});
         panel.Cells().CommitEditors();
     }
+    /// A weather factor that leaves no speed, as an older plan may have it: the schedule fails.
+    void ShowFullWeather(int row) {
+        PortCallSheet sheet = panel.Sheet();
+        sheet.table.SetCell(row, ColWeather, "100%");
+        panel.PutBack(sheet);
+    }
     void EnterPorts(std::initializer_list<const char*> names) {
         int row = 0;
         for (const char* name : names) {
@@ -117,7 +123,19 @@ class PortCallFixture : public ::testing::Test {
         }
         return out;
     }
-    std::string LastMessage() const { return messages.messages.empty() ? "" : messages.messages.back().text; }
+    /// The text of the last message, without the line below it.
+    std::string LastMessage() const { return Line(messages.messages.size(), true); }
+    /// The line below it: a cause, or what would be lost.
+    std::string LastDetail() const { return Line(messages.messages.size(), false); }
+    /// A line of the message told as this one, counted from 1; empty before the first.
+    std::string Line(std::size_t number, bool first) const {
+        if (number == 0) {
+            return "";
+        }
+        const std::string& text = messages.messages[number - 1].text;
+        const std::size_t end = text.find('\n');
+        return first ? text.substr(0, end) : end == std::string::npos ? "" : text.substr(end + 1);
+    }
     /// How often a service of the chart was called.
     std::size_t Drawn(const char* service) const { return desk.host.ChartCallsOf(service).size(); }
     long Calculations() const { return desk.Count(Ask::kRoute); }

@@ -185,16 +185,20 @@ TEST_F(PortCallFixture, TheSearchPluginIsAskedAtEachTextButTheOneSetOnTheWayToTh
     EXPECT_FALSE(view.matchesShown);
 }
 
-TEST_F(PortCallFixture, AnEmptyTextHidesTheMatchWindowAndBackspaceIsToldOnce) {
+TEST_F(PortCallFixture, AnEmptyTextHidesTheMatchWindowAndTextLeftByBackspaceIsToldOnce) {
     SearchPlugin plugin;
     Open(fresh);
     panel.Cells().OnCellClicked(0, ColPort);
     Retype(CellEditor::Port, "R");
     EXPECT_FALSE(plugin.queries.back().textRemains);
     EXPECT_FALSE(view.matchWindows.empty());
+    Retype(CellEditor::Port, "RO");
+    panel.Cells().OnEditorKey(CellEditor::Port, {Key::Backspace});
+    Retype(CellEditor::Port, "R");
+    EXPECT_TRUE(plugin.queries.back().textRemains);
     panel.Cells().OnEditorKey(CellEditor::Port, {Key::Backspace});
     Retype(CellEditor::Port, "");
-    EXPECT_TRUE(plugin.queries.back().textRemains);
+    EXPECT_FALSE(plugin.queries.back().textRemains) << "nothing is left";
     EXPECT_TRUE(view.matchWindows.empty());
     Retype(CellEditor::Port, "H");
     EXPECT_FALSE(plugin.queries.back().textRemains);

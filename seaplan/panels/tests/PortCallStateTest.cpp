@@ -57,7 +57,7 @@ TEST_F(PortCallFixture, ALogoutLeavesNeitherRowsNorMarkNorVoyage) {
 TEST_F(PortCallFixture, ABlankSpeedTakesTenAlsoWhenTheScheduleFails) {
     Open(fresh);
     EnterPorts({"ROTTERDAM", "HAMBURG", "GDANSK"});
-    Type(1, ColWeather, "99.6");
+    ShowFullWeather(1);
     ASSERT_EQ(Cell(1, ColWeather), "100%");
     Type(2, ColSpeed, "0");
     EXPECT_EQ(Cell(2, ColSpeed), "10.0");
@@ -65,7 +65,7 @@ TEST_F(PortCallFixture, ABlankSpeedTakesTenAlsoWhenTheScheduleFails) {
 
 TEST_F(PortCallFixture, TheFirstEtaStandsInBothCellsAlsoWhenTheScheduleFails) {
     Open(kept);
-    Type(1, ColWeather, "99.6");
+    ShowFullWeather(1);
     PickTime(0, ColEta, "2024-04-01 00:00:00");
     EXPECT_EQ(Cell(0, ColEta), "2024-04-01 00:00:00");
     EXPECT_EQ(Cell(0, ColEtd), "2024-04-01 00:00:00");

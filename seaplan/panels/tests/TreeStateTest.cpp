@@ -209,4 +209,35 @@ TEST_F(TreeStateTest, AnEmptyCategoryIsStillEmptyAfterTheBin) {
     EXPECT_THAT(tree.Shown(), ElementsAre("Full", "  North", "Empty"));
 }
 
+TEST_F(TreeStateTest, RecoveringACategoryForgetsAllSortChoicesRecoveringAVoyageNone) {
+    for (const char* name : {"Full", "Gone"}) {
+        desk.AddCategory(name);
+    }
+    desk.AddVoyage("Full", {.name = "A"});
+    desk.AddVoyage("Full", {.name = "B", .state = InRecycleBin});
+    desk.MoveCategory("Gone", InRecycleBin);
+    ctrl.SetShowDeleted(true);
+    ASSERT_EQ(ctrl.SetSortKey(CategoryId("Full"), SortByDate), 0);
+    const auto key = [&] { return ctrl.Context().categorySorts[CategoryId("Full")].sortKey; };
+    ASSERT_EQ(Click("B", Item::kRecoverVoyage), 1);
+    EXPECT_EQ(key(), SortByDate);
+    ASSERT_EQ(Click("Gone", Item::kRecoverCategory), 1);
+    EXPECT_EQ(key(), SortByName);
+}
+
+TEST_F(TreeStateTest, TheQuestionBeforeTheEndNamesWhatGoes) {
+    texts.given[u"IDS_VIEW_LOSTVOYAGE"] = u"voyage %1";
+    texts.given[u"IDS_VIEW_LOSTCATEGORY"] = u"category %1 with %2";
+    desk.AddCategory("Full");
+    desk.AddVoyage("Full", {.name = "A"});
+    desk.AddVoyage("Full", {.name = "B", .state = InRecycleBin});
+    ctrl.SetShowDeleted(true);
+    Click("B", Item::kClearVoyage);
+    EXPECT_EQ(messages.messages.back().text, "IDS_TREE_CLEARVOYORCATE\nvoyage B");
+    Click("Full", Item::kDeleteCategory);
+    Click("Full", Item::kClearCategory);
+    EXPECT_EQ(messages.messages.back().text, "IDS_TREE_CLEARVOYORCATE\ncategory Full with 2");
+    EXPECT_EQ(desk.Count(Ask::kDestroyVoyage) + desk.Count(Ask::kDestroyCategory), 0);
+}
+
 }  // namespace Tarvik::Seaplan

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/CategoryCommands.h"
 
+#include <algorithm>
+#include <string>
+
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
@@ -111,10 +114,16 @@ int CategoryCommands::Recover() {
 
 int CategoryCommands::Clear() {
     TreeContext& c = p_.context;
-    if (!c.boxes.Question(TextId::IDS_TREE_CLEARVOYORCATE)) {
+    const VoyCategory category = p_.selection.Category();
+    const auto voyages = c.store.categoryVoyages.find(category.ci);
+    const auto isThere = [](const auto& voyage) { return voyage.second != Destroyed; };
+    const auto count = voyages == c.store.categoryVoyages.end()
+                           ? 0
+                           : std::count_if(voyages->second.begin(), voyages->second.end(), isThere);
+    if (!c.boxes.Question(TextId::IDS_TREE_CLEARVOYORCATE,
+                          Text(TextId::IDS_VIEW_LOSTCATEGORY, {category.cn, std::to_string(count)}))) {
         return 0;
     }
-    const VoyCategory category = p_.selection.Category();
     if (c.catalog.DestroyCategory(category.ci) != 0) {
         return -9;
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/VoyageCommands.h"
 
+#include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
 
@@ -100,10 +101,11 @@ int VoyageCommands::Recover() {
 }
 
 int VoyageCommands::Clear() {
-    if (!p_.context.boxes.Question(TextId::IDS_TREE_CLEARVOYORCATE)) {
+    const VoyInfo& voyage = p_.selection.Voyage();
+    if (!p_.context.boxes.Question(TextId::IDS_TREE_CLEARVOYORCATE,
+                                   Text(TextId::IDS_VIEW_LOSTVOYAGE, {voyage.vn}))) {
         return 0;
     }
-    const VoyInfo& voyage = p_.selection.Voyage();
     if (p_.context.catalog.DestroyVoyage(p_.selection.Category().ci, voyage.vi) != 0) {
         return -35;
     }

@@ -15,6 +15,10 @@ using Util::StringUtl;
 
 enum BoxKind : int { NoticeBox = 0, OkCancelBox = 1, QuestionBox = 4 };
 
+std::string Lines(TextId id, const std::string& detail) {
+    return detail.empty() ? Text(id) : Text(id) + '\n' + detail;
+}
+
 }  // namespace
 
 SysMsgHandleRes Boxes::Ask(const std::string& text, int kind, const std::string& title) {
@@ -31,24 +35,24 @@ SysMsgHandleRes Boxes::Ask(const std::string& text, int kind, const std::string&
     return answer;
 }
 
-void Boxes::Notice(TextId id) {
-    Ask(Text(id), NoticeBox, {});
+void Boxes::Notice(TextId id, const std::string& detail) {
+    Ask(Lines(id, detail), NoticeBox, {});
 }
 
 void Boxes::NoticeText(const std::string& text) {
     Ask(text, NoticeBox, {});
 }
 
-bool Boxes::Question(TextId id) {
-    return Ask(Text(id), QuestionBox, {}) == SysMsgHandleRes::Yes;
+bool Boxes::Question(TextId id, const std::string& detail) {
+    return Ask(Lines(id, detail), QuestionBox, {}) == SysMsgHandleRes::Yes;
 }
 
 bool Boxes::Denied(TextId id) {
     return Ask(Text(id), QuestionBox, {}) == SysMsgHandleRes::No;
 }
 
-bool Boxes::Confirm(TextId id) {
-    return Ask(Text(id), OkCancelBox, {}) == SysMsgHandleRes::Ok;
+bool Boxes::Confirm(TextId id, const std::string& detail) {
+    return Ask(Lines(id, detail), OkCancelBox, {}) == SysMsgHandleRes::Ok;
 }
 
 void Boxes::Refusal(const std::string& text, const std::string& title) {

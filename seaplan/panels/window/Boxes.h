@@ -24,15 +24,16 @@ class Boxes {
   public:
     explicit Boxes(BoxOwner& owner) : owner_(&owner) {}
 
-    void Notice(TextId id);
+    /// `detail` is one more line below the text: a cause, or what an answer would lose.
+    void Notice(TextId id, const std::string& detail = {});
     /// A text that is made of more than its key.
     void NoticeText(const std::string& text);
     /// True for yes.
-    bool Question(TextId id);
+    bool Question(TextId id, const std::string& detail = {});
     /// The same question; true for no.
     bool Denied(TextId id);
     /// True for OK.
-    bool Confirm(TextId id);
+    bool Confirm(TextId id, const std::string& detail = {});
     /// Tells that something was not done, in words without a key.
     void Refusal(const std::string& text, const std::string& title);
 

@@ -2,7 +2,7 @@
 #include "seaplan/views/portcall/PortCallDelegate.h"
 
 #include <QPainter>
-#include <array>
+#include <optional>
 
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
@@ -21,12 +21,17 @@ struct DrawnImage {
     const char* name;
     const char* icon;
     TextId tip;
+    std::optional<TextId> whyNot;  ///< where it is disabled, none for a row without a port
+    bool RowActions::*enabled;
 };
 
-constexpr DrawnImage kImages[] = {{PortCallImage::kMoveUp, "up", TextId::IDS_VIEW_MOVEUP},
-                                  {PortCallImage::kMoveDown, "down", TextId::IDS_VIEW_MOVEDOWN},
-                                  {PortCallImage::kDelete, "delete", TextId::IDS_VIEW_DELETEROW},
-                                  {PortCallImage::kRemark, "remark", TextId::IDS_VIEW_REMARKROW}};
+constexpr DrawnImage kImages[] = {
+    {PortCallImage::kMoveUp, "up", TextId::IDS_VIEW_MOVEUP, TextId::IDS_VIEW_NOTUP, &RowActions::moveUp},
+    {PortCallImage::kMoveDown, "down", TextId::IDS_VIEW_MOVEDOWN, TextId::IDS_VIEW_NOTDOWN,
+     &RowActions::moveDown},
+    {PortCallImage::kDelete, "delete", TextId::IDS_VIEW_DELETEROW, TextId::IDS_VIEW_NOTDELETE,
+     &RowActions::remove},
+    {PortCallImage::kRemark, "remark", TextId::IDS_VIEW_REMARKROW, std::nullopt, &RowActions::remark}};
 constexpr int kImageSize = 14;
 constexpr int kImageStep = 20;
 
@@ -55,10 +60,9 @@ void PaintImages(QPainter& painter, const QRect& cell, const QModelIndex& index)
     }
     const auto* model = static_cast<const PortCallModel*>(index.model());
     const RowActions can = model->ActionsAt(index.row());
-    const std::array<bool, std::size(kImages)> enabled = {can.moveUp, can.moveDown, can.remove, can.remark};
     for (int i = 0; i < static_cast<int>(std::size(kImages)); ++i) {
         Skin::PaintIcon(painter, ImageRect(cell, i), kImages[i].icon,
-                        enabled[i] ? Colour(Role::Text) : Colour(Role::Disabled));
+                        can.*kImages[i].enabled ? Colour(Role::Text) : Colour(Role::Disabled));
     }
 }
 
@@ -104,10 +108,12 @@ std::string PortCallDelegate::ImageAt(const QRect& cell, const QPoint& point) {
     return {};
 }
 
-QString PortCallDelegate::ImageTip(const std::string& name) {
+QString PortCallDelegate::ImageTip(const std::string& name, const RowActions& can) {
     for (const DrawnImage& image : kImages) {
         if (name == image.name) {
-            return QString::fromStdString(Text(image.tip));
+            const bool tellsWhy = !(can.*image.enabled) && image.whyNot;
+            const std::string why = tellsWhy ? ": " + Text(*image.whyNot) : std::string();
+            return QString::fromStdString(Text(image.tip) + why);
         }
     }
     return {};

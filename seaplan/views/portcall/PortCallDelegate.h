@@ -4,6 +4,8 @@
 #include <QStyledItemDelegate>
 #include <string>
 
+#include "seaplan/panels/portcall/PortCallTable.h"
+
 namespace Tarvik::Seaplan {
 
 /// Draws cells by the class of their row, and the images at a row's end.
@@ -14,7 +16,8 @@ class PortCallDelegate final : public QStyledItemDelegate {
                const QModelIndex& index) const override;
     /// Name of the image at a point inside the image cell, empty between them.
     static std::string ImageAt(const QRect& cell, const QPoint& point);
-    static QString ImageTip(const std::string& name);
+    /// What an image does, and why it does nothing now where it is disabled.
+    static QString ImageTip(const std::string& name, const RowActions& can);
 };
 
 }  // namespace Tarvik::Seaplan

@@ -20,16 +20,20 @@ PortCallSummary::PortCallSummary(QWidget* parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Skin::kGrid);
     for (const Figure& figure : figures_) {
+        if (&figure != figures_.data()) {
+            row->addSpacing(4 * Skin::kGrid);
+        }
         row->addWidget(figure.caption);
         row->addWidget(figure.value);
         row->addWidget(figure.unit);
-        row->addSpacing(5 * Skin::kGrid);
         QObject::connect(figure.unit, &QToolButton::clicked, this, [this, figure] { OpenMenu(figure); });
     }
     row->addStretch(1);
     zone_ = new QLabel(this);
     zone_->setObjectName(QStringLiteral("zoneLabel"));
     zone_->setProperty("secondary", true);
+    // The table gives the window its width; a zone with a long name tells it whole in its hint.
+    zone_->setMinimumWidth(1);
     row->addWidget(zone_);
     ApplySkin();
 }
@@ -82,6 +86,7 @@ void PortCallSummary::ShowState(const PortCallState& state) {
     zone_->setText(state.zone.empty()
                        ? QString()
                        : ViewText(TextId::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(state.zone));
+    zone_->setToolTip(zone_->text());
 }
 
 void PortCallSummary::ApplyTexts() {

@@ -117,7 +117,10 @@ bool PortCallTableView::viewportEvent(QEvent* event) {
         if (index.isValid() && index.column() == PortCallModel::kImageColumn) {
             const std::string image = PortCallDelegate::ImageAt(visualRect(index), help->pos());
             if (index.data(PortCallModel::kImagesRole).toBool()) {
-                QToolTip::showText(help->globalPos(), PortCallDelegate::ImageTip(image), viewport());
+                const auto* rows = static_cast<const PortCallModel*>(index.model());
+                QToolTip::showText(help->globalPos(),
+                                   PortCallDelegate::ImageTip(image, rows->ActionsAt(index.row())),
+                                   viewport());
             }
             return true;
         }

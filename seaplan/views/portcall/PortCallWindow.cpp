@@ -23,8 +23,15 @@ PortCallWindow::PortCallWindow(QWidget* mainView)
     table_->setMinimumHeight(34 + 9 * 20 + 4);
     summary_ = new PortCallSummary(this);
     buttons_ = new PortCallButtons(this);
+    note_ = new QLabel(this);
+    note_->setObjectName(QStringLiteral("noteLabel"));
+    note_->setProperty("secondary", true);
+    // A long line must not widen the window; its hint tells it whole.
+    note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    note_->hide();
     editors_ = new PortCallEditors(*this, *table_);
     Body()->addWidget(table_, 1);
+    Body()->addWidget(note_);
     Body()->addWidget(summary_);
     Body()->addWidget(buttons_);
     ApplyTexts();
@@ -65,6 +72,10 @@ void PortCallWindow::ShowState(const PortCallState& state) {
     state_ = state;
     buttons_->ShowState(state);
     summary_->ShowState(state);
+    const QString note = QString::fromStdString(state.note);
+    note_->setText(note);
+    note_->setToolTip(note);
+    note_->setVisible(!note.isEmpty());
     model_->ShowTitles(state);
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLabel>
+
 #include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/views/portcall/PortCallButtons.h"
 #include "seaplan/views/portcall/PortCallEditors.h"
@@ -40,6 +42,7 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
     PortCallEditors* editors_;
     PortCallSummary* summary_;
     PortCallButtons* buttons_;
+    QLabel* note_;  ///< what is to be told of the rows, hidden while there is nothing
     PortCallState state_;
 };
 

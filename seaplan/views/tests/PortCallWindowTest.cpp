@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include <QHelpEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QWindow>
 
 #include <tarvik/interface/PlanTerms.h>
 #include <tarvik/skin/WindowMessages.h>
 
+#include "seaplan/views/portcall/PortCallDelegate.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {
@@ -316,6 +320,119 @@ TEST_F(PortCallWindowTest, LogoutHidesBothWindows) {
     EXPECT_FALSE(Panel().isVisible());
     EXPECT_FALSE(PortCalls().isVisible());
     EXPECT_EQ(Rows().GetRootItem(), kNoRow);
+}
+
+TEST_F(PortCallWindowTest, AnEditorStaysOpenWhileItsOwnMenuIs) {
+    OpenPortCalls("Far East 12");
+    for (QLineEdit* editor : {&SpeedEditor(), &WeatherEditor()}) {
+        ClickCell(1, editor == &SpeedEditor() ? ColSpeed : ColWeather);
+        ASSERT_TRUE(editor->isVisible());
+        QFocusEvent toMenu(QEvent::FocusOut, Qt::PopupFocusReason);
+        QApplication::sendEvent(editor, &toMenu);
+        EXPECT_TRUE(editor->isVisible()) << editor->objectName().toStdString();
+        QMenu menu(editor);
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&menu, &press);
+        EXPECT_TRUE(editor->isVisible()) << editor->objectName().toStdString();
+        QFocusEvent away(QEvent::FocusOut, Qt::OtherFocusReason);
+        QApplication::sendEvent(editor, &away);
+        QApplication::processEvents();
+        EXPECT_FALSE(editor->isVisible()) << "left for good";
+    }
+}
+
+TEST_F(PortCallWindowTest, KeysWithoutUseInAnEditorStayThere) {
+    OpenPortCalls("Far East 12");
+    for (QLineEdit* editor : {&SpeedEditor(), &WeatherEditor()}) {
+        ClickCell(2, editor == &SpeedEditor() ? ColSpeed : ColWeather);
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Insert}) {
+            QTest::keyClick(editor, key);
+            EXPECT_TRUE(editor->isVisible()) << key;
+            EXPECT_EQ(Table().currentIndex().row(), 2) << key;
+        }
+    }
+}
+
+TEST_F(PortCallWindowTest, ADisabledImageTellsWhy) {
+    const RowActions none;
+    EXPECT_TRUE(PortCallDelegate::ImageTip("itemMoveUp", none).contains("first row"));
+    EXPECT_TRUE(PortCallDelegate::ImageTip("itemMovedown", none).contains("last port"));
+    EXPECT_FALSE(PortCallDelegate::ImageTip("itemMoveUp", {true, true, true}).contains("first row"));
+    OpenPortCalls("Far East 12");
+    const QRect cell = Table().visualRect(Table().model()->index(0, PortCallModel::kImageColumn));
+    const QPoint up(cell.left() + 12, cell.center().y());
+    QHelpEvent help(QEvent::ToolTip, up, Table().viewport()->mapToGlobal(up));
+    QApplication::sendEvent(Table().viewport(), &help);
+    EXPECT_TRUE(QToolTip::text().contains("first row")) << QToolTip::text().toStdString();
+    QToolTip::hideText();
+}
+
+TEST_F(PortCallWindowTest, OneLineTellsOfRowsWithoutTheirRoute) {
+    OpenPortCalls("Far East 12");
+    auto* note = Find<QLabel>(PortCalls(), "noteLabel");
+    ASSERT_NE(note, nullptr);
+    EXPECT_FALSE(note->isVisible());
+    const int width = PortCalls().width();
+    PortCallRows other = PanelDesk::Calls(5, 3);
+    desk.voyages.ResolvePortIds(other);
+    VoyInfo& voyage = desk.Voyage("North Sea");
+    ASSERT_EQ(desk.portCallModule.SavePortCalls(voyage.vi, other), 0)
+        << "as a save that broke off behind this";
+    ClickRow("North Sea");
+    ClickPart("North Sea", "Voyage.child.svr4");
+    EXPECT_TRUE(note->isVisible());
+    EXPECT_TRUE(note->text().contains("broke off")) << note->text().toStdString();
+    EXPECT_EQ(PortCalls().width(), width) << "a long line widens nothing";
+    auto* zone = Find<QLabel>(PortCalls(), "zoneLabel");
+    EXPECT_GE(zone->width(), zone->sizeHint().width()) << "and the zone is told whole";
+    EXPECT_TRUE(Find<QLabel>(PortCalls(), "changedMark")->isVisible());
+}
+
+TEST_F(PortCallWindowTest, ClearIsImpossibleOnACorrectedVoyage) {
+    constexpr int kTwelveHoursBehindTheStart = 1709640000;
+    desk.AddVoyage("Container 2024", {.name = "Corrected", .calls = PanelDesk::Calls(5, 3)});
+    OpenVoyage("Corrected");
+    VoyInfo& voyage = desk.Voyage("Corrected");
+    voyage.vsi = "7";
+    voyage.vsn = "ANNA";
+    voyage.lastPosText = "-1.196,0.000";
+    voyage.lastPosTime = kTwelveHoursBehindTheStart;
+    int applied = 0;
+    ASSERT_EQ(desk.voyages.ApplyAisPosition(voyage.vi, applied), 0);
+    ClickPart("Corrected", "Voyage.child.svr4");
+    auto* clear = Find<QAbstractButton>(PortCalls(), "clearButton");
+    EXPECT_FALSE(clear->isEnabled());
+    EXPECT_TRUE(clear->toolTip().contains("AIS")) << clear->toolTip().toStdString();
+    QTest::mouseClick(clear, Qt::LeftButton);
+    EXPECT_TRUE(messages.messages.empty());
+    EXPECT_EQ(Cell(0, ColPort), "ROTTERDAM");
+}
+
+TEST_F(PortCallWindowTest, TheZoneLabelFollowsTheZone) {
+    OpenPortCalls("Far East 12");
+    const QString eta = Cell(0, ColEta);
+    desk.host.zone = "UTC";
+    const std::string zone = "UTC";
+    Interface::Raise(Interface::Bus::SwitchTimeZone, &zone);
+    EXPECT_TRUE(Find<QLabel>(PortCalls(), "zoneLabel")->text().endsWith(" UTC"));
+    EXPECT_NE(Cell(0, ColEta), eta) << "the same moment in the other zone";
+    desk.host.zone = "China Standard Time";
+    Interface::Raise<const std::string>(Interface::Bus::SwitchTimeZone, nullptr);
+    EXPECT_TRUE(Find<QLabel>(PortCalls(), "zoneLabel")->text().endsWith("China Standard Time"));
+    EXPECT_EQ(Cell(0, ColEta), eta);
+}
+
+TEST_F(PortCallWindowTest, ALanguageThatIsSwitchedWhileItIsHiddenIsTheOneItShows) {
+    OpenPortCalls("Far East 12");
+    Button("closeButton");
+    ASSERT_FALSE(PortCalls().isVisible());
+    const FileTexts chinese(std::string(SEAPLAN_LANG_DIR) + "/seaplan.zh-CN.json");
+    Interface::Raise(Interface::Bus::SwitchLanguage);
+    EXPECT_FALSE(PortCalls().isVisible());
+    ClickPart("Far East 12", "Voyage.child.svr4");
+    EXPECT_EQ(PortCalls().windowTitle(), "挂靠港");
+    EXPECT_EQ(Find<QAbstractButton>(PortCalls(), "calculateButton")->text(), "计算");
 }
 
 }  // namespace Tarvik::Seaplan

@@ -2,6 +2,7 @@
 #include <QCheckBox>
 #include <QContextMenuEvent>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "seaplan/views/window/ViewText.h"
@@ -214,6 +215,42 @@ TEST_F(ViewsFixture, TheMenuOfARowHasItsCommands) {
     ASSERT_NE(open, nullptr);
     open->trigger();
     EXPECT_TRUE(PortCalls().isVisible());
+}
+
+TEST_F(ViewsFixture, KeysWithoutUseInTheBoxesDoNotReachTheTree) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_child_rename");
+    auto* rename = Find<QLineEdit>(Panel(), "renameEditor");
+    ASSERT_TRUE(rename->isVisible());
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Insert, Qt::Key_F2, Qt::Key_PageUp}) {
+        QTest::keyClick(rename, key);
+        EXPECT_TRUE(rename->isVisible()) << key;
+        EXPECT_EQ(Rows().Selected(), RowOf("North Sea")) << key;
+    }
+    QTest::keyClick(rename, Qt::Key_Return);
+    ClickPart("North Sea", "Voyage_AssignShip");
+    auto* vessel = Find<QLineEdit>(Panel(), "vesselEditor");
+    ASSERT_TRUE(vessel->isVisible());
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Insert, Qt::Key_F2, Qt::Key_PageUp}) {
+        QTest::keyClick(vessel, key);
+        EXPECT_TRUE(vessel->isVisible()) << key;
+        EXPECT_FALSE(rename->isVisible()) << key;
+        EXPECT_EQ(Rows().Selected(), RowOf("North Sea")) << key;
+    }
+    EXPECT_EQ(desk.Count(Ask::kAddVoyage), 0);
+}
+
+TEST_F(ViewsFixture, TheMenuKeyOpensTheMenuOfTheRowThatThePanelPicks) {
+    OpenVoyage("Far East 12");
+    Tree().setCurrentIndex(Tree().model()->index(0, 0));
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(Tree().viewport(), &event);
+    auto* menu = Tree().findChild<QMenu*>("rowMenu");
+    ASSERT_NE(menu, nullptr);
+    const auto actions = menu->actions();
+    EXPECT_TRUE(std::any_of(actions.begin(), actions.end(), [](const QAction* action) {
+        return action->text() == "Port calls";
+    })) << "the selected voyage's, not that of the category with the keyboard";
 }
 
 TEST_F(ViewsFixture, ARightPressIsFirstAPress) {

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/PortCallWords.h"
+
+#include "seaplan/panels/language/LoadText.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+/// Number of the first row with this port, as its order cell tells it; empty without one.
+std::string RowNumber(const PortCallTable& table, const std::string& port) {
+    for (int row = 0; row < table.RowCount(); ++row) {
+        if (table.Cell(row, ColPort) == port) {
+            return table.Cell(row, ColOrder);
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+std::string CauseText(const ScheduleFault& fault, const PortCallTable& table) {
+    using Cause = ScheduleFault::Cause;
+    switch (fault.cause) {
+        case Cause::None:
+            return {};
+        case Cause::UnknownPort:
+            return Text(TextId::IDS_VIEW_FAULTPORT, {RowNumber(table, fault.port), fault.port});
+        case Cause::NoRoute:
+            return Text(TextId::IDS_VIEW_FAULTROUTE);
+        case Cause::Connection:
+            return Text(TextId::IDS_VIEW_FAULTCONNECTION);
+        case Cause::Refused:
+            return Text(TextId::IDS_VIEW_FAULTREFUSED);
+        case Cause::Figures:
+            return Text(TextId::IDS_VIEW_FAULTFIGURES);
+        case Cause::NotCalculated:
+            return Text(TextId::IDS_VIEW_FAULTOTHERROUTE);
+    }
+    return {};
+}
+
+std::string LossText(const PortCallSheet& sheet, const std::string& voyage) {
+    if (sheet.aisCorrectionPending) {
+        return Text(TextId::IDS_VIEW_LOSTFIX, {voyage});
+    }
+    if (const int rows = sheet.ChangedRows(); rows > 0) {
+        return Text(TextId::IDS_VIEW_LOSTROWS, {voyage, std::to_string(rows)});
+    }
+    // Nothing typed differs from what is stored: what is lost is a route, unless it is still to be found.
+    const bool route = sheet.state.changed && sheet.note.kind != PortCallNote::Kind::Unfinished;
+    return Text(route ? TextId::IDS_VIEW_LOSTROUTE : TextId::IDS_VIEW_LOSTVOYAGE, {voyage});
+}
+
+std::string NoteText(const PortCallNote& note) {
+    switch (note.kind) {
+        case PortCallNote::Kind::None:
+            return {};
+        case PortCallNote::Kind::Unfinished:
+            return Text(TextId::IDS_VIEW_UNFINISHED);
+        case PortCallNote::Kind::KnownLegs:
+            return Text(TextId::IDS_VIEW_KNOWNLEGS, {note.since});
+    }
+    return {};
+}
+
+}  // namespace Tarvik::Seaplan

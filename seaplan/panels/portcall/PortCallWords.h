@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "seaplan/controllers/ScheduleCalculation.h"
+#include "seaplan/panels/portcall/PortCallSheet.h"
+
+/// What the port call panel tells in whole sentences, in the language in force.
+namespace Tarvik::Seaplan {
+
+/// Why a calculation or a save came to nothing; empty when nothing failed. A port is told with its row of the
+/// table.
+std::string CauseText(const ScheduleFault& fault, const PortCallTable& table);
+/// What is lost with the changes in the sheet, with the name of its voyage.
+std::string LossText(const PortCallSheet& sheet, const std::string& voyage);
+/// The one line about the rows on show, empty when there is nothing to tell of them.
+std::string NoteText(const PortCallNote& note);
+
+}  // namespace Tarvik::Seaplan
