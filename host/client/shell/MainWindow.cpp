@@ -69,7 +69,7 @@ std::vector<MainTools::Tool> MainWindow::Tools() {
     return {
         {"VOYAGES", "voyages", "Ctrl+L", [this] { TogglePanel(kVoyages); }},
         {"DISTANCES", "distances", "Ctrl+D", [this] { TogglePanel(kDistances); }, true},
-        {"SHIPS", "ships", "Ctrl+B", [] { ToggleShips(); }},
+        {"SHIPS", "ships", "Ctrl+H", [] { ToggleShips(); }},
         {"ZOOM_IN", "zoomin", "Ctrl++", [this] { ChartCommand("zoomin"); }},
         {"ZOOM_OUT", "zoomout", "Ctrl+-", [this] { ChartCommand("zoomout"); }},
         {"FIT", "fit", "Ctrl+0", [this] { ChartCommand("fit"); }, true},

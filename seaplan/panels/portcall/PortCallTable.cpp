@@ -167,7 +167,7 @@ void PortCallTable::WritePartial(const PortCallRows& rows, bool corrected) {
         }
     }
     if (corrected) {
-        LookSailed(rows_, rowCount_, rows, static_cast<std::size_t>(pivot + 1));
+        LookSailed(rows_, rowCount_, rows, static_cast<std::size_t>(pivot) + 1);
     }
 }
 
