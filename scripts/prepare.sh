@@ -3,7 +3,7 @@
 # Usage: . scripts/prepare.sh; install_missing [-test]: with -test also what tests, checks and benchmarks need.
 
 # One cache serves every checkout: paths count from its root, and precompiled headers by their content.
-export CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+export CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 

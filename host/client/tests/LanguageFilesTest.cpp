@@ -122,8 +122,9 @@ TEST(ClientTexts, AreCompleteInEveryLanguage) {
 /// All keys of a component's file, as "section key", in order.
 std::vector<std::string> KeysOf(const std::string& component, const std::string& language) {
     std::ifstream in(std::string(CLIENT_LANGUAGES) + "/" + component + "." + language + ".json");
+    const nlohmann::json sections = nlohmann::json::parse(in);
     std::vector<std::string> keys;
-    for (const auto& [section, texts] : nlohmann::json::parse(in).items()) {
+    for (const auto& [section, texts] : sections.items()) {
         for (const auto& [key, text] : texts.items()) {
             keys.emplace_back(section).append(" ").append(key);
         }
