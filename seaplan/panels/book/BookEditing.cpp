@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/BookEditing.h"
 
+#include <algorithm>
 #include <vector>
 
 #include <tarvik/util/DateTimeUtl.h>
@@ -11,6 +12,8 @@ namespace {
 
 constexpr std::size_t kMostCharacters = 60;
 constexpr int kMostInterval = 5;
+/// A coordinate with its signs needs more than its column has.
+constexpr int kLeastCoordinateWidth = 150;
 
 /// The lists of a cell. A list of two offers ways of sailing, a longer one the waypoints' spacing.
 std::vector<std::string> ChoicesOf(BookEditor editor) {
@@ -24,17 +27,24 @@ std::vector<std::string> ChoicesOf(BookEditor editor) {
     return texts;
 }
 
+BookEditor EditorOf(int column) {
+    return kBookColumns.at(static_cast<std::size_t>(column)).editor;
+}
+
 }  // namespace
 
 BookEditing::BookEditing(BookDesk& desk)
     : desk_(desk),
       edits_(desk),
-      text_(kMostCharacters),
+      text_(desk.View().TextOver(), kMostCharacters, [this](const std::string& text) { TakeText(text); }),
+      choices_(desk.View().ChoicesOver(),
+               {[this](const std::string& track) { edits_.SetTrack(cell_.row, track); },
+                [this](int step) { edits_.SetInterval(cell_.row, step); }}),
       picker_(desk.View().Picker(), [this](const Util::_datetime_t& time) { OnTimeChosen(time); }) {}
 
 void BookEditing::OnCellClicked(int row, int column) {
     const BookDesk::Report report(desk_);
-    const bool again = choices_.IsOpen() && choices_.Row() == row && column_ == column;
+    const bool again = choices_.IsVisible() && cell_ == BookCellPlace{row, column};
     // In front it stays the same place, though what was typed may bring rows into the list above it.
     OnRowSelected(row);
     if (!CommitEditors()) {
@@ -42,7 +52,7 @@ void BookEditing::OnCellClicked(int row, int column) {
     }
     row = desk_.Sheet().selected;
     if (!again && desk_.Sheet().IsEdited(row, column)) {
-        Open(row, column);
+        Open({row, column});
     }
 }
 
@@ -51,99 +61,110 @@ void BookEditing::OnRowSelected(int row) {
     desk_.Sheet().selected = desk_.Sheet().IsRow(row) ? row : -1;
 }
 
-void BookEditing::Open(int row, int column) {
+void BookEditing::Open(const BookCellPlace& cell) {
+    cell_ = cell;
     desk_.Show();
-    desk_.View().BringRowIntoView(row);
-    column_ = column;
-    switch (kBookColumns.at(static_cast<std::size_t>(column)).editor) {
+    desk_.View().BringRowIntoView(cell.row);
+    switch (EditorOf(cell.column)) {
         case BookEditor::Text:
-            return OpenText(row, column);
+            return OpenText();
         case BookEditor::Track:
         case BookEditor::Interval:
-            return OpenChoices(row, column);
+            return OpenChoices();
         case BookEditor::Time:
-            return OpenPicker(row, column);
+            return OpenPicker();
         case BookEditor::None:
             break;
     }
 }
 
-void BookEditing::OpenText(int row, int column) {
-    text_.Open(row, edits_.TextToEdit(row, column));
-    desk_.View().OpenText({row, column}, text_.Text(), text_.Limit());
+void BookEditing::OpenText() {
+    Rect place = desk_.View().PlaceOf(cell_);
+    if (cell_.column == BookLatitude || cell_.column == BookLongitude) {
+        place.right = std::max(place.right, place.left + kLeastCoordinateWidth);
+    }
+    text_.Put(place);
+    text_.SetText(edits_.TextToEdit(cell_.row, cell_.column));
+    if (!text_.IsVisible()) {
+        text_.Show(true);
+    }
 }
 
-void BookEditing::OpenChoices(int row, int column) {
-    std::vector<std::string> texts = ChoicesOf(kBookColumns.at(static_cast<std::size_t>(column)).editor);
-    const PosBookPlace& place = desk_.Sheet().PlaceAt(row);
+void BookEditing::OpenChoices() {
+    const std::vector<std::string> texts = ChoicesOf(EditorOf(cell_.column));
+    const PosBookPlace& waypoint = desk_.Sheet().PlaceAt(cell_.row);
     // Whatever is no great circle is sailed as a rhumb line.
-    const int current = column == BookTrack ? (place.track == texts.front() ? 0 : 1) : place.interval - 1;
-    choices_.Open(row, std::move(texts), current);
-    desk_.View().OpenChoices({row, column}, choices_.Texts(), choices_.Current());
+    const int current =
+        cell_.column == BookTrack ? (waypoint.track == texts.front() ? 0 : 1) : waypoint.interval - 1;
+    choices_.Clear();
+    for (const std::string& text : texts) {
+        choices_.Add(text);
+    }
+    Rect place = desk_.View().PlaceOf(cell_);
+    place.top = place.bottom;
+    place.bottom += static_cast<int>(texts.size()) * kDroppedRow;
+    choices_.Put(place, current);
+    choices_.Show(true);
+    choices_.TakeKeyboard();
 }
 
-void BookEditing::OpenPicker(int row, int column) {
+void BookEditing::OpenPicker() {
     const BookSheet& sheet = desk_.Sheet();
-    const PosBookPlace& place = sheet.PlaceAt(row);
-    dateRow_ = row;
-    desk_.View().PutPicker({row, column});
+    const PosBookPlace& place = sheet.PlaceAt(cell_.row);
+    desk_.View().PutPicker(cell_);
     picker_.SetValue(
-        Util::DateTimeUtl::ConvertFromUTC(column == BookEta ? place.eta : place.etd, sheet.zone));
+        Util::DateTimeUtl::ConvertFromUTC(cell_.column == BookEta ? place.eta : place.etd, sheet.zone));
     picker_.OnPressed();
 }
 
 void BookEditing::CloseText() {
-    // A field that is hidden loses the focus, and that must not count as leaving an open one.
-    text_.Close();
-    desk_.View().ShowEcho({});
-    desk_.View().HideText();
+    if (text_.IsVisible()) {
+        desk_.View().ShowEcho({});
+        text_.Show(false);
+    }
 }
 
-bool BookEditing::TakeText() {
-    if (!text_.IsOpen() || text_.Untouched()) {
-        return true;
+void BookEditing::TakeText(const std::string& text) {
+    const BookRefusal refusal = edits_.TakeText(cell_.row, cell_.column, text);
+    refused_ = refusal != BookRefusal::None;
+    if (refused_) {
+        CloseText();
+        desk_.Refuse(refusal);
     }
-    const BookRefusal refusal = edits_.TakeText(text_.Row(), column_, text_.Text());
-    if (refusal == BookRefusal::None) {
-        return true;
-    }
-    CloseText();
-    desk_.Refuse(refusal);
-    return false;
 }
 
 bool BookEditing::CommitText() {
     const BookDesk::Report report(desk_);
-    const bool taken = TakeText();
-    if (taken && text_.IsOpen()) {
-        const int row = desk_.Sheet().selected;
-        text_.Open(row, edits_.TextToEdit(row, column_));
-        desk_.View().OpenText({row, column_}, text_.Text(), text_.Limit());
+    refused_ = false;
+    if (text_.IsVisible() && !text_.Field().Untouched()) {
+        TakeText(text_.Field().Text());
     }
-    return taken;
+    if (text_.IsVisible()) {
+        Open({desk_.Sheet().selected, cell_.column});
+    }
+    return !refused_;
 }
 
 bool BookEditing::CommitEditors() {
     const BookDesk::Report report(desk_);
-    const bool taken = TakeText();
+    refused_ = false;
+    if (text_.IsVisible()) {
+        desk_.View().ShowEcho({});
+    }
+    text_.OnDone();
     HideEditors();
-    return taken;
+    return !refused_;
 }
 
 void BookEditing::HideEditors() {
-    if (text_.IsOpen()) {
-        CloseText();
-    }
-    if (choices_.IsOpen()) {
-        choices_.Close();
-        desk_.View().HideChoices();
-    }
+    CloseText();
+    choices_.Show(false);
     picker_.Hide();
 }
 
 void BookEditing::OnTyped(const std::string& text) {
-    text_.SetText(text);
-    desk_.View().ShowEcho(edits_.EchoOf(text_.Row(), column_, text));
+    text_.OnTyped(text);
+    desk_.View().ShowEcho(edits_.EchoOf(cell_.row, cell_.column, text));
 }
 
 bool BookEditing::OnTextKey(KeyPress press) {
@@ -159,7 +180,7 @@ bool BookEditing::OnTextKey(KeyPress press) {
             return true;
         case Key::Escape:
             // What was typed stays; only an editor without a change closes.
-            if (text_.Untouched() || text_.Text().empty()) {
+            if (text_.Field().Untouched() || text_.Field().Text().empty()) {
                 HideEditors();
             }
             return true;
@@ -171,16 +192,15 @@ bool BookEditing::OnTextKey(KeyPress press) {
 /// The next cell of the row that takes a text.
 void BookEditing::OpenNextText() {
     const int row = desk_.Sheet().selected;
-    for (int column = column_ + 1; column < static_cast<int>(kBookColumns.size()); ++column) {
-        if (kBookColumns.at(static_cast<std::size_t>(column)).editor == BookEditor::Text &&
-            desk_.Sheet().IsEdited(row, column)) {
-            return Open(row, column);
+    for (int column = cell_.column + 1; column < static_cast<int>(kBookColumns.size()); ++column) {
+        if (EditorOf(column) == BookEditor::Text && desk_.Sheet().IsEdited(row, column)) {
+            return Open({row, column});
         }
     }
 }
 
 void BookEditing::OnTextFocusLost() {
-    if (text_.IsOpen()) {
+    if (text_.IsVisible()) {
         CommitEditors();
     }
 }
@@ -198,24 +218,13 @@ bool BookEditing::OnChoiceKey(KeyPress press, int current) {
 
 void BookEditing::OnChosen(int index) {
     const BookDesk::Report report(desk_);
-    if (!choices_.IsOpen() || index < 0 || index >= static_cast<int>(choices_.Texts().size())) {
-        return;
-    }
-    const int row = choices_.Row();
-    const bool tracks = choices_.Texts().size() <= 2;
-    const std::string track = index == 0 ? "GC" : "RL";
-    HideEditors();
-    if (tracks) {
-        edits_.SetTrack(row, track);
-    } else {
-        edits_.SetInterval(row, index + 1);
-    }
+    choices_.OnChosen(index);
 }
 
 void BookEditing::OnTimeChosen(const Util::_datetime_t& time) {
     const BookDesk::Report report(desk_);
     picker_.Hide();
-    desk_.Refuse(edits_.SetTime(dateRow_, time));
+    desk_.Refuse(edits_.SetTime(cell_.row, time));
 }
 
 }  // namespace Tarvik::Seaplan

@@ -5,9 +5,8 @@
 
 #include "seaplan/panels/book/BookEdits.h"
 #include "seaplan/panels/datetime/CTrvCalDlg.h"
+#include "seaplan/panels/editors/BookEditors.h"
 #include "seaplan/panels/editors/Keys.h"
-#include "seaplan/panels/editors/ListBox.h"
-#include "seaplan/panels/editors/TextField.h"
 
 namespace Tarvik::Seaplan {
 
@@ -41,22 +40,22 @@ class BookEditing {
     CTrvDateTimeCtrl& Picker() { return picker_; }
 
   private:
-    void Open(int row, int column);
-    void OpenText(int row, int column);
-    void OpenChoices(int row, int column);
-    void OpenPicker(int row, int column);
+    void Open(const BookCellPlace& cell);
+    void OpenText();
+    void OpenChoices();
+    void OpenPicker();
     void OpenNextText();
-    bool TakeText();
+    void TakeText(const std::string& text);
     void OnTimeChosen(const Util::_datetime_t& time);
     void CloseText();
 
     BookDesk& desk_;
     BookEdits edits_;
-    TextField text_;
-    ListBox choices_;
+    CEditDlg text_;
+    CComboxDlg choices_;
     CTrvDateTimeCtrl picker_;
-    int column_ = 0;
-    int dateRow_ = -1;
+    BookCellPlace cell_{-1, 0};  ///< over which an editor opened last
+    bool refused_ = false;       ///< the text that was handed over last
 };
 
 }  // namespace Tarvik::Seaplan

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstddef>
 #include <string>
-#include <vector>
 
 #include "seaplan/data/PosBookData.h"
 #include "seaplan/panels/book/BookSheet.h"
 #include "seaplan/panels/datetime/CalendarView.h"
+#include "seaplan/panels/editors/DropList.h"
 #include "seaplan/panels/window/PanelWindow.h"
+#include "seaplan/panels/window/TextBox.h"
 
 namespace Tarvik::Seaplan {
 
@@ -24,15 +24,14 @@ class BookView : public PanelWindow {
   public:
     virtual void ShowSheet(const BookSheet& sheet) = 0;
     virtual void BringRowIntoView(int row) = 0;
-    /// The text editor over a cell, all selected; at most `limit` UTF-16 units can be typed.
-    virtual void OpenText(const BookCellPlace& cell, const std::string& text, std::size_t limit) = 0;
-    virtual void HideText() = 0;
+    /// Where a cell of the sheet on show stands on the screen; one below the table's bottom edge a row
+    /// higher.
+    virtual Rect PlaceOf(const BookCellPlace& cell) const = 0;
+    /// The box and the list over a cell; both take places of the screen.
+    virtual TextBox& TextOver() = 0;
+    virtual DropList& ChoicesOver() = 0;
     /// Tells below the open editor how its text is understood; an empty text tells nothing.
     virtual void ShowEcho(const std::string& text) = 0;
-    /// The list of texts over a cell, one of them in front.
-    virtual void OpenChoices(const BookCellPlace& cell, const std::vector<std::string>& texts,
-                             int current) = 0;
-    virtual void HideChoices() = 0;
     /// Makes a cell the button of the date that is picked there.
     virtual void PutPicker(const BookCellPlace& cell) = 0;
     virtual DateTimeView& Picker() = 0;

@@ -21,6 +21,12 @@ void CComboxDlg::Show(bool on) {
     }
 }
 
+void CComboxDlg::TakeKeyboard() {
+    if (open_) {
+        view_.FocusList(current_);
+    }
+}
+
 void CComboxDlg::OnChosen(int row) {
     constexpr std::size_t kMostTracks = 2;
     if (!open_ || row < 0 || row >= static_cast<int>(texts_.size())) {
@@ -56,9 +62,12 @@ void CEditDlg::OnDone() {
         return;
     }
     // Hiding takes the keyboard away, which is reported too.
+    const bool untouched = field_.Untouched();
     const std::string text = field_.Text();
     Show(false);
-    commit_(text);
+    if (!untouched) {
+        commit_(text);
+    }
 }
 
 }  // namespace Tarvik::Seaplan

@@ -32,6 +32,8 @@ class CComboxDlg {
     /// Shows or hides it; a list without texts stays hidden.
     void Show(bool on);
     bool IsVisible() const { return open_; }
+    /// The keyboard goes to the list on show, and its row in front stays there.
+    void TakeKeyboard();
     /// A click on a row, or Enter in the list with this row in front: it is told, and the list hides. A row
     /// that is none does nothing.
     void OnChosen(int row);
@@ -54,15 +56,17 @@ class CEditDlg {
     CEditDlg(TextBox& view, std::size_t limit, Commit commit)
         : view_(view), field_(limit), commit_(std::move(commit)) {}
 
-    /// Where it shows next in its window.
+    /// Where it shows next.
     void Put(const Rect& place) { place_ = place; }
     /// Shows it with its text, or hides it without taking that.
     void Show(bool on);
     /// The text of the cell; shown whole and all selected.
     void SetText(const std::string& text);
     bool IsVisible() const { return field_.IsOpen(); }
+    const TextField& Field() const { return field_; }
     void OnTyped(const std::string& text) { field_.SetText(text); }
-    /// Enter, or the keyboard has left: hides it and hands the text over, once.
+    /// Enter, or the keyboard has left: hides it and hands the text over, once. A text that was shown and
+    /// stands there still stays where it is.
     void OnDone();
 
   private:

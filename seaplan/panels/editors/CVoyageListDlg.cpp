@@ -14,9 +14,8 @@ std::vector<std::string> NamesBeginning(const std::vector<std::string>& names, c
 }
 
 int CVoyageListDlg::HeightOf(std::size_t names) {
-    constexpr int kRow = 23;
     constexpr std::size_t kFullHeightRows = 6;
-    return static_cast<int>(std::min(names, kFullHeightRows)) * kRow;
+    return static_cast<int>(std::min(names, kFullHeightRows)) * kDroppedRow;
 }
 
 int CVoyageListDlg::ShowNames(const std::vector<std::string>& names, const Rect& rect) {

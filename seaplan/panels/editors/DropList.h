@@ -10,6 +10,8 @@ namespace Tarvik::Seaplan {
 
 /// Width of the one column of a list that drops from a field or a cell, in pixels.
 inline constexpr int kDropListColumn = 130;
+/// Height of one of its rows.
+inline constexpr int kDroppedRow = 23;
 
 /// A small borderless list of one column without a heading, which drops from a field or a cell. It never
 /// takes the keyboard by itself. What it holds its panel class tells; it reports a click on a row, and Enter.

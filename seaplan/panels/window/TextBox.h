@@ -13,8 +13,8 @@ namespace Tarvik::Seaplan {
 class TextBox {
   public:
     virtual ~TextBox() = default;
-    /// Opens the box at a place of its window: filled with the whole text, focused, all selected. At most
-    /// `limit` UTF-16 units can be typed.
+    /// Opens the box at a place, of its window where its owner tells no other: filled with the whole text,
+    /// focused, all selected. At most `limit` UTF-16 units can be typed.
     virtual void Show(const Rect& place, const std::string& text, std::size_t limit) = 0;
     /// Closes it without a report.
     virtual void Hide() = 0;

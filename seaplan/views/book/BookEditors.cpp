@@ -10,30 +10,21 @@
 #include "seaplan/panels/book/BookEditing.h"
 #include "seaplan/views/book/BookTableView.h"
 #include "seaplan/views/editors/QtKeys.h"
-#include "seaplan/views/editors/TableMeasures.h"
-#include "seaplan/views/window/ViewText.h"
+#include "seaplan/views/editors/RowField.h"
+#include "seaplan/views/window/FloatingPanel.h"
 
 namespace Tarvik::Seaplan {
-
-namespace {
-
-constexpr int kLeastListWidth = 43;
-/// A coordinate with its signs needs more than its column has.
-constexpr int kLeastFieldWidth = 150;
-
-}  // namespace
 
 BookEditors::BookEditors(QWidget& window, BookTableView& table)
     : QObject(&window),
       window_(window),
       table_(table),
-      field_(new QLineEdit(table.viewport())),
+      field_(new RowField(table.viewport())),
       echo_(new QLabel(&window)),
-      choices_(new QListWidget(&window)),
+      choices_(new DroppedList(window, table, "bookChoices")),
       date_(*table.viewport(), window) {
     field_->setObjectName(QStringLiteral("bookEditor"));
     echo_->setObjectName(QStringLiteral("bookEcho"));
-    choices_->setObjectName(QStringLiteral("bookChoices"));
     choices_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     choices_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     echo_->setFocusPolicy(Qt::NoFocus);
@@ -74,18 +65,13 @@ void BookEditors::ApplySkin() {
 
 bool BookEditors::Holds(const QWidget& widget) const {
     const QWidget* const parts[] = {&table_, choices_, &date_.Popup()};
-    return std::any_of(std::begin(parts), std::end(parts), [&widget](const QWidget* part) {
-        return part == &widget || part->isAncestorOf(&widget);
-    });
+    return std::any_of(std::begin(parts), std::end(parts),
+                       [&widget](const QWidget* part) { return BelongsTo(*part, widget); });
 }
 
-void BookEditors::OpenText(const BookCellPlace& cell, const std::string& text, std::size_t limit) {
-    table_.PutFront(cell.row);
-    QRect place = table_.EditorRect(cell.row, cell.column);
-    if (cell.column == BookLatitude || cell.column == BookLongitude) {
-        place.setWidth(std::max(place.width(), kLeastFieldWidth));
-    }
-    field_->setGeometry(place);
+void BookEditors::Show(const Rect& place, const std::string& text, std::size_t limit) {
+    const QRect screen = ToQt(place);
+    field_->setGeometry({table_.viewport()->mapFromGlobal(screen.topLeft()), screen.size()});
     setting_ = true;
     PutWhole(*field_, text, limit);
     setting_ = false;
@@ -95,7 +81,7 @@ void BookEditors::OpenText(const BookCellPlace& cell, const std::string& text, s
     field_->selectAll();
 }
 
-void BookEditors::HideText() {
+void BookEditors::Hide() {
     if (field_->isHidden()) {
         return;
     }
@@ -119,32 +105,6 @@ void BookEditors::ShowEcho(const std::string& text) {
     echo_->raise();
 }
 
-void BookEditors::OpenChoices(const BookCellPlace& cell, const std::vector<std::string>& texts, int current) {
-    table_.PutFront(cell.row);
-    choices_->clear();
-    for (const std::string& text : texts) {
-        choices_->addItem(QString::fromStdString(text));
-    }
-    choices_->setCurrentRow(current);
-    const QRect place = table_.EditorRect(cell.row, cell.column);
-    const int height = static_cast<int>(texts.size()) * kDroppedRow + 2;
-    const QPoint below = table_.viewport()->mapTo(&window_, place.bottomLeft() + QPoint(0, 1));
-    // A list that would leave the window's bottom opens as low as it fits.
-    const int top = std::max(0, std::min(below.y(), window_.height() - height - 2));
-    choices_->setGeometry(below.x(), top, std::max(place.width(), kLeastListWidth), height);
-    choices_->show();
-    choices_->raise();
-    choices_->setFocus();
-}
-
-void BookEditors::HideChoices() {
-    const bool focused = choices_->hasFocus();
-    choices_->hide();
-    if (focused) {
-        table_.setFocus();
-    }
-}
-
 void BookEditors::PutPicker(const BookCellPlace& cell) {
     table_.PutFront(cell.row);
     date_.Put(table_.EditorRect(cell.row, cell.column));
@@ -155,6 +115,9 @@ bool BookEditors::FieldEvent(QEvent& event) {
         case QEvent::KeyPress:
             return panel_->OnTextKey(PressOf(static_cast<QKeyEvent&>(event)));
         case QEvent::FocusOut:
+            if (LeftForItsMenu(*field_, static_cast<QFocusEvent&>(event))) {
+                return false;
+            }
             // A refusal puts a box up, which must not come up inside the change of the focus.
             QMetaObject::invokeMethod(
                 this,

@@ -3,13 +3,12 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QObject>
 #include <string>
-#include <vector>
 
 #include "seaplan/panels/book/BookView.h"
 #include "seaplan/views/datetime/CalendarPopup.h"
+#include "seaplan/views/editors/DroppedList.h"
 
 namespace Tarvik::Seaplan {
 
@@ -18,7 +17,7 @@ class BookTableView;
 
 /// The field, the list and the calendar over the cells of the position book. What a person does in them goes
 /// to the panel as it is.
-class BookEditors final : public QObject {
+class BookEditors final : public QObject, public TextBox {
   public:
     /// `window` is the table's window, over which the list drops.
     BookEditors(QWidget& window, BookTableView& table);
@@ -28,11 +27,10 @@ class BookEditors final : public QObject {
     /// Whether a widget is the table or one of these.
     bool Holds(const QWidget& widget) const;
 
-    void OpenText(const BookCellPlace& cell, const std::string& text, std::size_t limit);
-    void HideText();
+    void Show(const Rect& place, const std::string& text, std::size_t limit) override;
+    void Hide() override;
     void ShowEcho(const std::string& text);
-    void OpenChoices(const BookCellPlace& cell, const std::vector<std::string>& texts, int current);
-    void HideChoices();
+    DropList& Choices() { return *choices_; }
     void PutPicker(const BookCellPlace& cell);
     DateTimeView& Picker() { return date_; }
 
@@ -47,7 +45,7 @@ class BookEditors final : public QObject {
     BookEditing* panel_ = nullptr;
     QLineEdit* field_;
     QLabel* echo_;
-    QListWidget* choices_;
+    DroppedList* choices_;
     bool setting_ = false;  ///< the program sets the field's text
     DateCell date_;
 };

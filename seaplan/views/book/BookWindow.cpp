@@ -66,6 +66,12 @@ void BookWindow::BringRowIntoView(int row) {
     table_->scrollTo(model_->index(row, BookName));
 }
 
+Rect BookWindow::PlaceOf(const BookCellPlace& cell) const {
+    const QRect place = table_->EditorRect(cell.row, cell.column);
+    const QPoint corner = table_->viewport()->mapToGlobal(place.topLeft());
+    return {corner.x(), corner.y(), corner.x() + place.width(), corner.y() + place.height()};
+}
+
 void BookWindow::TellClosed() {
     if (parentWidget() != nullptr) {
         constexpr auto kClosed = static_cast<QEvent::Type>(Skin::WindowMessage::kPositionBookClosed);

@@ -20,15 +20,10 @@ class BookWindow final : public PanelFrame<BookView> {
 
     void ShowSheet(const BookSheet& sheet) override;
     void BringRowIntoView(int row) override;
-    void OpenText(const BookCellPlace& cell, const std::string& text, std::size_t limit) override {
-        editors_->OpenText(cell, text, limit);
-    }
-    void HideText() override { editors_->HideText(); }
+    Rect PlaceOf(const BookCellPlace& cell) const override;
+    TextBox& TextOver() override { return *editors_; }
+    DropList& ChoicesOver() override { return editors_->Choices(); }
     void ShowEcho(const std::string& text) override { editors_->ShowEcho(text); }
-    void OpenChoices(const BookCellPlace& cell, const std::vector<std::string>& texts, int current) override {
-        editors_->OpenChoices(cell, texts, current);
-    }
-    void HideChoices() override { editors_->HideChoices(); }
     void PutPicker(const BookCellPlace& cell) override { editors_->PutPicker(cell); }
     DateTimeView& Picker() override { return editors_->Picker(); }
     void TellClosed() override;

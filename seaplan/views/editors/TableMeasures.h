@@ -6,6 +6,5 @@ namespace Tarvik::Seaplan {
 
 inline constexpr int kTableRow = 20;     ///< height of a row
 inline constexpr int kTableHeader = 34;  ///< height of the titles
-inline constexpr int kDroppedRow = 23;   ///< height of a row in a list over a cell
 
 }  // namespace Tarvik::Seaplan

@@ -11,7 +11,6 @@
 #include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/editors/RowField.h"
-#include "seaplan/views/editors/TableMeasures.h"
 #include "seaplan/views/portcall/PortCallTableView.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -23,27 +22,14 @@ constexpr CellEditor kEditors[] = {CellEditor::Port, CellEditor::Speed, CellEdit
 constexpr const char* kNames[] = {"portEditor", "speedEditor", "weatherEditor"};
 constexpr int kMostRows = 6;
 
-/// Height of so many rows, with the frame.
-int ListHeight(int rows) {
-    return rows * kDroppedRow + 2;
-}
-
-void Fill(QListWidget& list, const std::vector<std::string>& texts, int current) {
-    list.clear();
-    for (const std::string& text : texts) {
-        list.addItem(QString::fromStdString(text));
-    }
-    list.setCurrentRow(current);
-}
-
 }  // namespace
 
 PortCallEditors::PortCallEditors(QWidget& window, PortCallTableView& table)
     : QObject(&window),
       window_(window),
       table_(table),
-      matches_(MakeList("portMatches")),
-      purposes_(MakeList("purposeList")),
+      matches_(new QListWidget(&window)),
+      purposes_(new DroppedList(window, table, "purposeList")),
       date_(*table.viewport(), window) {
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         fields_[i] = new RowField(table.viewport());
@@ -51,15 +37,10 @@ PortCallEditors::PortCallEditors(QWidget& window, PortCallTableView& table)
         fields_[i]->hide();
         fields_[i]->installEventFilter(this);
     }
+    matches_->setObjectName(QStringLiteral("portMatches"));
+    matches_->hide();
     matches_->setFocusPolicy(Qt::NoFocus);
     purposes_->installEventFilter(this);
-}
-
-QListWidget* PortCallEditors::MakeList(const char* name) {
-    auto* list = new QListWidget(&window_);
-    list->setObjectName(QString::fromLatin1(name));
-    list->hide();
-    return list;
 }
 
 QLineEdit* PortCallEditors::Field(CellEditor editor) const {
@@ -147,11 +128,11 @@ void PortCallEditors::SetEditorText(CellEditor editor, const std::string& text) 
 }
 
 void PortCallEditors::ShowMatches(const std::vector<std::string>& names) {
-    Fill(*matches_, names, -1);
+    FillList(*matches_, names, -1);
     const QLineEdit* field = Field(CellEditor::Port);
     const QPoint place = field->mapTo(&window_, QPoint(0, field->height()));
     const int rows = std::min(static_cast<int>(names.size()), kMostRows);
-    matches_->setGeometry(place.x(), place.y(), 200, ListHeight(rows));
+    matches_->setGeometry(place.x(), place.y(), 200, rows * kDroppedRow + 2);
     matches_->show();
     matches_->raise();
 }
@@ -173,24 +154,16 @@ void PortCallEditors::HideMatchWindow(void* window) {
 }
 
 void PortCallEditors::OpenPurposes(int row, const std::vector<std::string>& texts, int current) {
-    Fill(*purposes_, texts, current);
+    constexpr int kWidth = 160;
     const QRect cell = table_.EditorRect(row, ColPurpose);
-    const int height = ListHeight(static_cast<int>(texts.size()));
-    const QPoint below = table_.viewport()->mapTo(&window_, cell.bottomLeft() + QPoint(0, 1));
-    // A list that would leave the window's bottom opens as low as it fits.
-    const int top = std::max(0, std::min(below.y(), window_.height() - height - 2));
-    purposes_->setGeometry(below.x(), top, 160, height);
-    purposes_->show();
-    purposes_->raise();
-    purposes_->setFocus();
+    const QPoint below = table_.viewport()->mapToGlobal(cell.bottomLeft() + QPoint(0, 1));
+    const int height = static_cast<int>(texts.size()) * kDroppedRow;
+    purposes_->ShowList({below.x(), below.y(), below.x() + kWidth, below.y() + height}, texts, current);
+    purposes_->FocusList(current);
 }
 
 void PortCallEditors::HidePurposes() {
-    const bool focused = purposes_->hasFocus();
-    purposes_->hide();
-    if (focused) {
-        table_.setFocus();
-    }
+    purposes_->HideList();
 }
 
 void PortCallEditors::PutPicker(int row, int column) {

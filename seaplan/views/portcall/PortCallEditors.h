@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QListWidget>
 #include <QObject>
 #include <QPointer>
 #include <array>
 
 #include "seaplan/panels/portcall/CellsView.h"
 #include "seaplan/views/datetime/CalendarPopup.h"
+#include "seaplan/views/editors/DroppedList.h"
 
 class QLineEdit;
 
@@ -50,7 +50,6 @@ class PortCallEditors final : public QObject, public CellsView {
     QLineEdit* Field(CellEditor editor) const;
     void Put(QLineEdit& field, const std::string& text, int limit);
     bool FieldEvent(CellEditor editor, QEvent& event);
-    QListWidget* MakeList(const char* name);
 
     QWidget& window_;
     PortCallTableView& table_;
@@ -58,7 +57,7 @@ class PortCallEditors final : public QObject, public CellsView {
     std::array<QLineEdit*, 3> fields_{};
     bool setting_ = false;  ///< the program sets a field's text
     QListWidget* matches_;
-    QListWidget* purposes_;
+    DroppedList* purposes_;
     QPointer<QWidget> matchWindow_;  ///< a search plug-in's, while it is shown
     DateCell date_;
 };

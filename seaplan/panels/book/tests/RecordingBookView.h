@@ -11,7 +11,7 @@
 
 namespace Tarvik::Seaplan {
 
-/// A position book's window that only remembers what it was told.
+/// A position book's window that only remembers what it was told. Its cells are places of one pixel.
 class RecordingBookView final : public RecordingPanelWindow<BookView> {
   public:
     BookSheet sheet;
@@ -27,21 +27,46 @@ class RecordingBookView final : public RecordingPanelWindow<BookView> {
 
     void ShowSheet(const BookSheet& shown) override { sheet = shown; }
     void BringRowIntoView(int) override {}
-    void OpenText(const BookCellPlace& cell, const std::string& filled, std::size_t) override {
-        textCell = cell;
-        text = filled;
+    Rect PlaceOf(const BookCellPlace& cell) const override {
+        return {cell.column, cell.row, cell.column + 1, cell.row + 1};
     }
-    void HideText() override { textCell.reset(); }
+    TextBox& TextOver() override { return box_; }
+    DropList& ChoicesOver() override { return list_; }
     void ShowEcho(const std::string& shown) override { echo = shown; }
-    void OpenChoices(const BookCellPlace& cell, const std::vector<std::string>& texts, int current) override {
-        choiceCell = cell;
-        choices = texts;
-        choice = current;
-    }
-    void HideChoices() override { choiceCell.reset(); }
     void PutPicker(const BookCellPlace& cell) override { pickerCell = cell; }
     DateTimeView& Picker() override { return calendar; }
     void TellClosed() override { ++toldClosed; }
+
+  private:
+    class Box final : public TextBox {
+      public:
+        explicit Box(RecordingBookView& view) : view_(view) {}
+        void Show(const Rect& place, const std::string& filled, std::size_t) override {
+            view_.textCell = {place.top, place.left};
+            view_.text = filled;
+        }
+        void Hide() override { view_.textCell.reset(); }
+
+      private:
+        RecordingBookView& view_;
+    };
+    class List final : public DropList {
+      public:
+        explicit List(RecordingBookView& view) : view_(view) {}
+        void ShowList(const Rect& place, const std::vector<std::string>& texts, int current) override {
+            // It drops below its cell.
+            view_.choiceCell = {place.top - 1, place.left};
+            view_.choices = texts;
+            view_.choice = current;
+        }
+        void HideList() override { view_.choiceCell.reset(); }
+        void FocusList(int row) override { view_.choice = row; }
+
+      private:
+        RecordingBookView& view_;
+    };
+    Box box_{*this};
+    List list_{*this};
 };
 
 }  // namespace Tarvik::Seaplan
