@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/CorrectedSchedule.h"
 
+#include <utility>
+
 namespace Tarvik::Seaplan {
 
 void CorrectedSchedule::SetTime(const std::string& vi, const std::string& time) {
@@ -67,10 +69,14 @@ int CorrectedSchedule::ReplanAndSave() {
         desk_.SetCauseOfFault();
         return -3;
     }
+    PortCallSheet entered = sheet;
     if (ShowHistoryAndPlan() != 0) {
+        sheet = std::move(entered);
         return -4;
     }
     if (desk_.Voyages().SaveSchedule(sheet.voyageId, ports, -1) != 0) {
+        // What was to be saved stays with the person, and not what a save would have made of it.
+        sheet = std::move(entered);
         desk_.SetCauseOfFault();
         return -5;
     }

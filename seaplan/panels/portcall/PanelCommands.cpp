@@ -70,6 +70,7 @@ int PanelCommands::ShowCalculated(const PortCallRows& rows, PortCallRows result)
 int PanelCommands::ShowAndSave() {
     PortCallSheet& sheet = desk_.Sheet();
     const auto stored = sheet.stored;
+    const bool unread = sheet.unread;
     sheet.state.changed = false;
     desk_.Voyages().RemoveVoyageObjects(sheet.voyageId);
     desk_.View().Hide();
@@ -78,6 +79,8 @@ int PanelCommands::ShowAndSave() {
     if (filled != 0) {
         return -4;
     }
+    // What stands there now was calculated, and tells nothing of the port calls that the server has.
+    sheet.unread = unread;
     if (filling_.SaveTable(sheet.voyageId, -1) == 0) {
         return 0;
     }

@@ -181,6 +181,25 @@ TEST_F(CorrectedPanelTest, ARefusedPlanOfTheRestKeepsTheCorrectionOnShow) {
     EXPECT_TRUE(view.state.changed);
 }
 
+TEST_F(CorrectedPanelTest, ARefusedSaveOfThePlannedRestKeepsTheTableAsItWas) {
+    Open(kept);
+    Type(3, ColSpeed, "12");
+    ASSERT_EQ(panel.Rows().OnItemImage(0, "itemdel"), 0);
+    const PortCallTable before = view.table;
+    desk.Refuse(Ask::kSavePortCalls);
+    for (const bool byLeaving : {true, false}) {
+        messages.Answer(Interface::SysMsgHandleRes::Yes);
+        if (byLeaving) {
+            EXPECT_FALSE(panel.AskToLeave());
+        } else {
+            panel.Commands().OnSave();
+        }
+        EXPECT_EQ(view.table, before);
+        EXPECT_TRUE(view.state.changed);
+        EXPECT_TRUE(view.state.canSave);
+    }
+}
+
 TEST_F(CorrectedPanelTest, ACorrectionThatWasGivenUpIsNoPartOfTheVoyageAndLeavesNoTime) {
     panel.SetVoyage(kept);
     panel.SetCorrectionTime("2024-03-05 20:00:00");

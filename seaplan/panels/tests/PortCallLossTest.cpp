@@ -189,6 +189,24 @@ TEST_F(PortCallLossTest, ATableThatCouldNotBeReadIsNotSavedOverTheServersPlan) {
     EXPECT_THAT(Stored(), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK"));
 }
 
+TEST_F(PortCallLossTest, ATableThatCouldNotBeReadIsNotSavedOnceTheVoyageWasReadForTheChart) {
+    desk.Lose(Ask::kLoadPortCalls);
+    Open(kept);
+    ASSERT_EQ(Cell(0, ColPort), " ");
+    desk.Heal();
+    ASSERT_EQ(desk.voyages.ShowVoyage(kept), 0) << "as a tick of the timer does, or a press in the tree";
+    EnterPorts({"ROUEN", "GDANSK"});
+    for (const bool bySaving : {false, true}) {
+        bySaving ? panel.Commands().OnSave() : panel.Commands().OnCalculate();
+        EXPECT_EQ(LastMessage(), "IDS_PORTCALL_SAVEEXCEPTION");
+        EXPECT_EQ(LastDetail(), "IDS_VIEW_FAULTUNREAD");
+        EXPECT_TRUE(view.state.changed);
+        EXPECT_EQ(Cell(0, ColPort), "ROUEN");
+    }
+    EXPECT_EQ(Saves(), 0);
+    EXPECT_THAT(Stored(), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK"));
+}
+
 TEST_F(PortCallLossTest, RowsWithoutTheirBookOpenMarkedAndCanBeCalculated) {
     PortCallRows other = PanelDesk::Calls(5, 4);
     desk.voyages.ResolvePortIds(other);
