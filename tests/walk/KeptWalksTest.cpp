@@ -56,6 +56,32 @@ correct 44 418 no
 movedown 26 669 yes
 correct 41 113 yes
 )"},
+    {"ATableThatCouldNotBeReadWasSavedOnceItsVoyageWasKnownForTheChart", R"(
+cut 54 208 yes
+rightpress 15 645 yes
+heal 46 705 yes
+press 43 291 yes
+typeport 6 509 yes
+calculate 25 51 yes
+)"},
+    {"AnswerYesOverATableThatCouldNotBeReadReplacedThePortCalls", R"(
+refuse 1 102 no
+openbykey 27 57 yes
+typeport 57 45 no
+typeport 31 618 no
+open 47 240 yes
+)"},
+    {"ARefusedSaveOfACorrectionChangedTheRowsThatItWasToSave", R"(
+ship 48 574 yes
+correct 26 189 yes
+save 41 653 no
+ship 48 389 no
+correct 41 230 no
+calculate 49 537 no
+delete 5 782 no
+moveup 1 374 no
+open 16 831 yes
+)"},
 };
 
 class KeptWalkTest : public ::testing::TestWithParam<KeptWalk> {};

@@ -80,8 +80,8 @@ class Rules {
     std::set<std::string> torn_;       ///< a save broke off, by a fault
     std::set<std::string> uncertain_;  ///< the client was not told of a write
     std::set<std::string> corrected_;  ///< from the ship's positions
-    bool seen_ = false;       ///< the person has seen, or emptied, the stored rows of the voyage on show
-    bool treeLoose_ = false;  ///< a command of the tree broke off
+    bool seen_ = false;                ///< the person has seen the stored rows of the voyage on show
+    bool treeLoose_ = false;           ///< a command of the tree broke off
 };
 
 }  // namespace Tarvik::Seaplan::Walk

@@ -37,6 +37,11 @@ std::vector<std::string> PortsOf(const PortCallRows& rows) {
     return ports;
 }
 
+/// Rows of the ship have its place in the place of a port.
+bool IsPosition(const std::string& port) {
+    return port.find(',') != std::string::npos;
+}
+
 bool IsEdit(Act act) {
     return (act >= Act::TypePort && act <= Act::Delete) || act == Act::Alternative;
 }
@@ -98,8 +103,12 @@ void Rules::NoteShown(const Happened& step) {
         seen_ = !step.after.rows.empty();
     }
     // A correction brings its own table, also over one that could not be read.
-    seen_ = seen_ || (step.step.act == Act::Correct && !step.after.rows.empty());
-    seen_ = seen_ || step.person.Answered("IDS_PORTCALL_CLEARFORBLANK", true) || WasWritten(step);
+    const std::vector<std::string> ports = step.after.Ports();
+    const bool corrected =
+        step.step.act == Act::Correct && std::any_of(ports.begin(), ports.end(), IsPosition);
+    const auto stored = step.stored.find(step.after.voyage);
+    const bool same = stored != step.stored.end() && DifferenceOf(step.after, stored->second).empty();
+    seen_ = seen_ || corrected || same || WasWritten(step);
 }
 
 /// Port calls that the server has are replaced only by a person who knows of them.
