@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 """What each CMake target of the project compiles and links, as its CMakeLists.txt says.
 
-Reads the project's own functions (seaplan_library, seaplan_program, seaplan_test) and add_library, add_executable and
-target_link_libraries. Conditions count as true; a source behind a variable is left out, but ${PROJECT_SOURCE_DIR}.
+Reads the project's own functions (seaplan_library, seaplan_plugin, seaplan_program, seaplan_test) and add_library,
+add_executable and target_link_libraries. Conditions count as true; a source behind a variable is left out, but ${PROJECT_SOURCE_DIR}.
 """
 import os
 import re
@@ -12,7 +12,7 @@ from checks.sources import read, tracked
 
 Target = namedtuple("Target", "name file sources links")
 _COMMAND = re.compile(r"^[ \t]*(\w+)[ \t]*\(((?:[^()\"]|\"[^\"]*\"|\([^()]*\))*)\)", re.M)
-_MAKERS = {"seaplan_library", "seaplan_program", "seaplan_test", "add_library", "add_executable"}
+_MAKERS = {"seaplan_library", "seaplan_plugin", "seaplan_program", "seaplan_test", "add_library", "add_executable"}
 _KINDS = {"STATIC", "SHARED", "MODULE", "OBJECT", "INTERFACE", "EXCLUDE_FROM_ALL", "SOURCES"}
 
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <dlfcn.h>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -11,6 +10,7 @@
 #include <tarvik/core/TrvKernel.h>
 
 #include "testsupport/DataFolder.h"
+#include "testsupport/LoadedPlugin.h"
 #include "testsupport/ManualTimer.h"
 
 namespace Tarvik {
@@ -19,19 +19,13 @@ namespace {
 
 class AisPluginTest : public ::testing::Test {
   protected:
-    AisPluginTest() : library_(dlopen(AIS_LIBRARY, RTLD_NOW | RTLD_LOCAL)) {
-        const char* error = library_ != nullptr ? nullptr : dlerror();
-        EXPECT_NE(library_, nullptr) << (error != nullptr ? error : "");
-    }
     template <class Result>
     Result Call(const char* name) const {
-        auto* function = reinterpret_cast<Result (*)()>(dlsym(library_, name));
-        EXPECT_NE(function, nullptr) << name;
-        return function();
+        return plugin_.Call<Result>(name);
     }
     TestSupport::DataFolder folder_;
     TestSupport::ManualTimer timer_;
-    void* library_;
+    TestSupport::LoadedPlugin plugin_{AIS_LIBRARY};
 };
 
 TEST_F(AisPluginTest, DescribesItself) {

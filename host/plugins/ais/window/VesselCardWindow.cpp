@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/plugins/ais/window/VesselCardWindow.h"
 
-#include <QFormLayout>
-#include <QGuiApplication>
-#include <QLabel>
-#include <QScreen>
-#include <QVBoxLayout>
-#include <algorithm>
+#include <vector>
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
@@ -18,9 +13,6 @@
 namespace Tarvik::Ais {
 
 namespace {
-
-constexpr int kWidth = 300;        ///< pixels
-constexpr int kBesideCursor = 16;  ///< pixels
 
 QString Text(const std::string& text) {
     return QString::fromStdString(text);
@@ -34,73 +26,41 @@ QString TimeText(std::int64_t utc) {
     return Text(std::string(local.fmt(Util::kTimeFormat)) + " " + zone);
 }
 
+/// A fact of that key; its value's object name is "ais" and the key.
+Skin::Fact FactOf(const char* key, const QString& value) {
+    return {QString("ais") + key, Word(key), value};
+}
+
+std::vector<Skin::Fact> FixFacts(const CardFacts& facts) {
+    if (!facts.hasFix) {
+        return {FactOf("POSITION", Word("NOT_KNOWN"))};
+    }
+    const Fix& fix = facts.fix;
+    return {
+        FactOf("POSITION", Text(Server::FormatPosition({fix.longitude, fix.latitude}))),
+        FactOf("COURSE", fix.course < 0 ? QString() : QString("%1°").arg(fix.course, 5, 'f', 1, QChar('0'))),
+        FactOf("SPEED", fix.speed < 0 ? QString() : QString("%1 kn").arg(fix.speed, 0, 'f', 1)),
+        FactOf("TIME", TimeText(fix.time)),
+        FactOf("SOURCE", facts.planned ? Word("SOURCE_PLAN") : Word("SOURCE_AIS"))};
+}
+
 }  // namespace
 
-VesselCardWindow::VesselCardWindow(QWidget* mainWindow) : ToolWindow(mainWindow, "aisVesselCard") {
-    QToolButton* close = AddCaptionButton("aisCardClose", "close");
-    Skin::Describe(close, Word("CLOSE"));
-    connect(close, &QToolButton::clicked, this, &QWidget::hide);
-    setFixedWidth(kWidth);
-}
+VesselCardWindow::VesselCardWindow(QWidget* mainWindow)
+    : FactsWindow(mainWindow, "aisVesselCard", "aisCardClose", Word("CLOSE")) {}
 
 void VesselCardWindow::Show(const CardFacts& facts) {
-    SetCaption(facts.name.empty() ? QString::number(facts.mmsi) : Text(facts.name));
-    delete rows_;
-    rows_ = new QWidget(this);
-    form_ = new QFormLayout(rows_);
-    form_->setContentsMargins(2 * Skin::kGrid, Skin::kGrid, 2 * Skin::kGrid, 2 * Skin::kGrid);
-    Fill(facts);
-    Body()->addWidget(rows_);
-    rows_->show();
-    adjustSize();
-    PlaceAt({facts.cursorX, facts.cursorY});
-    show();
-    raise();
-}
-
-void VesselCardWindow::Fill(const CardFacts& facts) {
-    Row("NAME", Text(facts.name));
-    Row("MMSI", facts.mmsi == 0 ? QString() : QString("%1").arg(facts.mmsi, 9, 10, QChar('0')));
-    Row("CALLSIGN", Text(facts.callSign));
-    if (facts.hasFix) {
-        const Fix& fix = facts.fix;
-        Row("POSITION", Text(Server::FormatPosition({fix.longitude, fix.latitude})));
-        Row("COURSE", fix.course < 0 ? QString() : QString("%1°").arg(fix.course, 5, 'f', 1, QChar('0')));
-        Row("SPEED", fix.speed < 0 ? QString() : QString("%1 kn").arg(fix.speed, 0, 'f', 1));
-        Row("TIME", TimeText(fix.time));
-        Row("SOURCE", facts.planned ? Word("SOURCE_PLAN") : Word("SOURCE_AIS"));
-    } else {
-        Row("POSITION", Word("NOT_KNOWN"));
-    }
-    Row("DESTINATION", Text(facts.destination));
-    Row("FIRST_PORT", Text(facts.firstPort));
-    Row("LAST_PORT", Text(facts.lastPort));
-}
-
-void VesselCardWindow::Row(const char* key, const QString& text) {
-    if (text.isEmpty()) {
-        return;
-    }
-    auto* value = new QLabel(text, rows_);
-    value->setObjectName(QString("ais") + key);
-    value->setAccessibleName(Word(key));
-    value->setTextFormat(Qt::PlainText);
-    value->setWordWrap(true);
-    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    form_->addRow(Word(key), value);
-}
-
-void VesselCardWindow::PlaceAt(const QPoint& cursor) {
-    const QScreen* screen = QGuiApplication::screenAt(cursor);
-    if (screen == nullptr) {
-        screen = QGuiApplication::primaryScreen();
-    }
-    const QRect room = screen->availableGeometry();
-    const int x =
-        std::clamp(cursor.x() + kBesideCursor, room.left(), std::max(room.left(), room.right() - width()));
-    const int y =
-        std::clamp(cursor.y() + kBesideCursor, room.top(), std::max(room.top(), room.bottom() - height()));
-    move(x, y);
+    std::vector<Skin::Fact> rows{
+        FactOf("NAME", Text(facts.name)),
+        FactOf("MMSI", facts.mmsi == 0 ? QString() : QString("%1").arg(facts.mmsi, 9, 10, QChar('0'))),
+        FactOf("CALLSIGN", Text(facts.callSign))};
+    const std::vector<Skin::Fact> fix = FixFacts(facts);
+    rows.insert(rows.end(), fix.begin(), fix.end());
+    rows.push_back(FactOf("DESTINATION", Text(facts.destination)));
+    rows.push_back(FactOf("FIRST_PORT", Text(facts.firstPort)));
+    rows.push_back(FactOf("LAST_PORT", Text(facts.lastPort)));
+    ShowFacts(facts.name.empty() ? QString::number(facts.mmsi) : Text(facts.name), rows,
+              {facts.cursorX, facts.cursorY});
 }
 
 }  // namespace Tarvik::Ais

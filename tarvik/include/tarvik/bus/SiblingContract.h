@@ -12,6 +12,7 @@ namespace Tarvik::Interface {
 
 // SiblingRecords.h
 struct FleetEntry;
+struct FleetVessel;
 struct MatchPortQuery;
 struct VesselCard;
 struct VesselPosition;
@@ -36,6 +37,9 @@ inline constexpr Service<const std::string, None> HideAisTrack{"TRV_S_VOYAGE_HID
 inline constexpr Service<const VesselCard, None> ShowVesselCard{"TRV_S_VOYAGE_SHOWVSL"};
 /// The vessels of the user's fleet. The fleet plug-in's, valid until the next call.
 inline constexpr Service<None, const std::vector<FleetEntry>> AllVessels{"TRV_S_SHIPROLL_GETALL"};
+/// All that the fleet keeps of the vessel with this id; null when it has none. The fleet plug-in's, valid
+/// until the next call.
+inline constexpr Service<const std::string, const FleetVessel> VesselDetails{"TRV_S_SHIPROLL_GETVESSEL"};
 /// Makes the window in which a vessel is added to the fleet, not shown yet. A pointer to its handle, which
 /// stays the fleet plug-in's, as the window does.
 inline constexpr Service<const FleetEntry, const WindowHandle> ShowAddVessel{"TRV_S_SHIPPROLL_SHOWADDVSLDLG"};

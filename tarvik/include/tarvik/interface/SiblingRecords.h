@@ -58,6 +58,20 @@ struct FleetEntry {
     std::int32_t number = 0;  ///< MMSI, 0 when unknown
 };
 
+/// All that the fleet keeps of a vessel. What is not known is empty or 0.
+struct FleetVessel {
+    std::string id;           ///< of the fleet
+    std::string name;         ///< as people call it
+    std::int32_t mmsi = 0;    ///< nine digits
+    std::int32_t imo = 0;     ///< seven digits
+    std::string callSign;     ///< of its radio
+    std::string type;         ///< kind of ship, in the person's words
+    double length = 0;        ///< over all, metres
+    double serviceSpeed = 0;  ///< knots
+
+    friend bool operator==(const FleetVessel&, const FleetVessel&) = default;
+};
+
 /// Argument of TRV_S_INFOSEARCH_SHOWMATCHPORTDLG.
 struct MatchPortQuery {
     void* edit = nullptr;      ///< opaque handle of the field that is typed in

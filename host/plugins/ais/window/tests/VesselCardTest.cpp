@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "host/plugins/ais/window/VesselCardWindow.h"
-#include "host/plugins/ais/window/tests/EnglishTexts.h"
+#include "testsupport/PluginTexts.h"
 
 namespace Tarvik::Ais {
 
@@ -31,7 +31,7 @@ class VesselCardTest : public testing::Test {
         facts.lastPort = "Shanghai";
         return facts;
     }
-    EnglishTexts texts;
+    TestSupport::PluginTexts texts{AIS_LANGUAGES "/ais.en-US.json"};
     QMainWindow window;
     VesselCardWindow* card = new VesselCardWindow(&window);
 };

@@ -20,9 +20,9 @@
 
 #include "host/plugins/ais/window/InputsPage.h"
 #include "host/plugins/ais/window/Watch.h"
-#include "host/plugins/ais/window/tests/EnglishTexts.h"
 #include "testsupport/DataFolder.h"
 #include "testsupport/ManualTimer.h"
+#include "testsupport/PluginTexts.h"
 
 namespace Tarvik::Ais {
 
@@ -68,7 +68,7 @@ class WatchTest : public testing::Test {
         EXPECT_TRUE(holds());
     }
 
-    EnglishTexts texts;
+    TestSupport::PluginTexts texts{AIS_LANGUAGES "/ais.en-US.json"};
     TestSupport::DataFolder folder;
     TestSupport::ManualTimer timer;
     asio::io_context io;

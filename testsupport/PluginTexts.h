@@ -10,17 +10,18 @@
 #include <tarvik/interface/LoadString.h>
 #include <tarvik/util/StringUtl.h>
 
-namespace Tarvik::Ais {
+namespace Tarvik::TestSupport {
 
-/// The plug-in's English texts, in force while it lives.
-class EnglishTexts final : public Interface::LanguageSource {
+/// The texts of one of a plug-in's language files, in force while it lives.
+class PluginTexts final : public Interface::LanguageSource {
   public:
-    EnglishTexts() : texts_(nlohmann::json::parse(std::ifstream(AIS_LANGUAGES "/ais.en-US.json"))) {
+    /// `file` is the language file.
+    explicit PluginTexts(const std::string& file) : texts_(nlohmann::json::parse(std::ifstream(file))) {
         Set(this);
     }
-    ~EnglishTexts() override { Set(nullptr); }
-    EnglishTexts(const EnglishTexts&) = delete;
-    EnglishTexts& operator=(const EnglishTexts&) = delete;
+    ~PluginTexts() override { Set(nullptr); }
+    PluginTexts(const PluginTexts&) = delete;
+    PluginTexts& operator=(const PluginTexts&) = delete;
 
     std::optional<std::u16string> Find(const std::u16string& section, const std::u16string& /*name*/,
                                        const std::u16string& key) const override {
@@ -35,4 +36,4 @@ class EnglishTexts final : public Interface::LanguageSource {
     nlohmann::json texts_;
 };
 
-}  // namespace Tarvik::Ais
+}  // namespace Tarvik::TestSupport
