@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <tarvik/interface/PlanTerms.h>
+
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/data/PortDirectory.h"
@@ -92,7 +94,7 @@ Outcome<SaveStep> ScheduleSaver::Prepare(const VoyInfo& voyage, Parts& parts) {
         return SaveStep::UnknownPort;
     }
     const auto stops = [](const VoyPortCall& row) {
-        return static_cast<double>(row.pw) >= kLeastFullWeather;
+        return static_cast<double>(row.pw) >= Interface::kLeastFullWeather;
     };
     if (std::any_of(parts.rows.begin(), parts.rows.end(), stops)) {
         return SaveStep::Times;

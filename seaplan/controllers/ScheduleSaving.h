@@ -40,10 +40,6 @@ inline constexpr CodeTable kSaveScheduleCodes{
          -12},  // the route or book is not of these ports, in this order; nothing is sent
 };
 
-/// A weather factor above this one is sent, and read again, as 1, at which no ship moves. A row's factor is a
-/// float, and the one next to the boundary itself counts as above, whichever way it rounds.
-inline constexpr double kLeastFullWeather = static_cast<double>(0.9995F);
-
 /// Whether a SaveSchedule with this result is saved: a failure to draw comes after it.
 bool IsScheduleSaved(int code);
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/PositionBook.h"
@@ -38,7 +39,7 @@ std::string ComplaintOf(const PlanPort& port) {
     if (!(static_cast<double>(port.speed) >= kLeastScheduleKnots) || !std::isfinite(port.speed)) {
         return "the speed must be above 0.01 knots";
     }
-    if (!(port.weather >= 0) || static_cast<double>(port.weather) >= kLeastFullWeather) {
+    if (!(port.weather >= 0) || static_cast<double>(port.weather) >= Interface::kLeastFullWeather) {
         return "the weather factor must be from 0 to below 100 %";
     }
     return port.portTime >= 0 ? "" : "the hours in port must be 0 or more";

@@ -68,7 +68,6 @@ std::optional<ErrorCode> FaultOf(const PortCallRecord& call) {
     if (!IsPurpose(call.purpose)) {
         return ErrorCode::BadPurpose;
     }
-    // The client rounds to three decimals, so that its greatest factor below 1 arrives as 1.
     const bool good = IsWithin(call.order, 0, kMostOrder) && IsWithin(call.speedKmh, 0.0, kMostSpeedKmh) &&
                       IsWithin(call.weatherFactor, 0.0, 1.0) && IsWithin(call.hoursInPort, 0.0, kMostHours);
     return good ? std::nullopt : std::optional(ErrorCode::BadNumber);
@@ -94,6 +93,9 @@ std::optional<ErrorCode> FaultOfNew(const PortCallRecord& call) {
     }
     if (call.portId.empty()) {
         return ErrorCode::UnknownPort;
+    }
+    if (call.weatherFactor >= Interface::kLeastFullWeather) {
+        return ErrorCode::BadNumber;
     }
     // A blank stands for a ship's position in the plug-in's table, which is no port call.
     const bool purposeless = call.purpose.empty() || call.purpose == " ";

@@ -27,8 +27,9 @@ std::optional<ErrorCode> FaultOf(const PortCallRecord& call);
 /// What is wrong with a row of a position book; nothing when it can be kept.
 std::optional<ErrorCode> FaultOf(const BookRowRecord& row);
 
-/// The same of a port call that is about to be saved, which says where and for what. Rows that earlier
-/// programs have stored may lack a port's id or a purpose and come back from a backup as they are.
+/// The same of a port call that is about to be saved, which says where and for what and lets the ship move.
+/// Rows that earlier programs have stored may lack a port's id or a purpose, or have a weather factor of 1,
+/// and come back from a backup as they are.
 std::optional<ErrorCode> FaultOfNew(const PortCallRecord& call);
 
 }  // namespace Tarvik::Server

@@ -182,6 +182,8 @@ const Case kBadPortCalls[] = {
     {11, R"(["@V","0|1|A|L|-1.000|0.000|0.0"])", E::BadNumber, nullptr},
     {11, R"(["@V","0|1|A|L|1,000|0.000|0.0"])", E::BadNumber, nullptr},
     {11, R"(["@V","0|1|A|L|1.000|1.001|0.0"])", E::BadNumber, nullptr},
+    {11, R"(["@V","0|1|A|L|1.000|1.000|0.0"])", E::BadNumber, "0|1|A|L|1.000|1.000|0.0"},
+    {11, R"(["@V","0|1|A|L|1.000|0.9995|0.0"])", E::BadNumber, nullptr},
     {11, R"(["@V","0|1|A|L|1.000|0.000|-0.1"])", E::BadNumber, nullptr},
     {11, R"(["@V","0|1|A|L|1.000|0.000|0.0","1|2|B|D|1.000|0.000|x"])", E::BadNumber,
      "1|2|B|D|1.000|0.000|x"},
@@ -261,6 +263,12 @@ TEST_F(RefusalTest, EmptyNamesBadNumbersAndBadTimes) {
 TEST_F(RefusalTest, BadPortCallRowsKeepTheOldOnes) {
     ExpectRefusals(kBadPortCalls);
 }
+TEST_F(RefusalTest, WeatherThatLetsTheShipMoveIsTaken) {
+    for (const char* factor : {"0", "0.999", "0.9994"}) {
+        EXPECT_EQ(Eid(Send(11, Fill(R"(["@V","0|1|A|L|1.000|)") + factor + "|0.0\"]")), 0) << factor;
+    }
+}
+
 TEST_F(RefusalTest, BadBookRowsKeepTheOldOnes) {
     ExpectRefusals(kBadBookRows);
 }

@@ -37,12 +37,12 @@ TEST_F(ScheduleCommandsTest, PortCallsAreReadAsTheyWereWritten) {
         {{10, R"({vi:"1000002"})", "[]"},
          {11,
           R"(["1000002","0|40389|Tianjin|L|18.520|0.000|0.0","1|40208|Rotterdam|D|27.780|0.125|24.5",)"
-          R"("2|40002|上海|Z|0.000|1.000|0.0"])",
+          R"("2|40002|上海|Z|0.000|0.999|0.0"])",
           kSuccess},
          {10, R"({vi:"1000002"})",
           R"([{"lon":"0","ppi":"40389","ppn":"Tianjin","pp":"L","psp":"18.520","pw":"0.000","apt":"0.0"},)"
           R"({"lon":"1","ppi":"40208","ppn":"Rotterdam","pp":"D","psp":"27.780","pw":"0.125","apt":"24.5"},)"
-          R"({"lon":"2","ppi":"40002","ppn":"上海","pp":"Z","psp":"0.000","pw":"1.000","apt":"0.0"}])"}});
+          R"({"lon":"2","ppi":"40002","ppn":"上海","pp":"Z","psp":"0.000","pw":"0.999","apt":"0.0"}])"}});
 }
 
 TEST_F(ScheduleCommandsTest, PortCallsAreReplacedAsAWhole) {

@@ -46,6 +46,11 @@ inline std::string PurposeCodes(std::string_view between) {
     return codes;
 }
 
+/// A weather factor from this one on is sent, and read again, as 1, at which no ship moves: neither client
+/// nor server takes it. A row's factor is a float, and the one next to the boundary itself counts as above,
+/// whichever way it rounds.
+inline constexpr double kLeastFullWeather = static_cast<double>(0.9995F);
+
 /// The units as they are typed in small letters, "kts or kph, nm or km, day or hour", with `inner` between
 /// the units of one quantity and `outer` between quantities.
 inline std::string UnitChoices(std::string_view inner, std::string_view outer) {
