@@ -9,6 +9,7 @@
 #include <tarvik/interface/ChartRecords.h>
 #include <tarvik/interface/ServerRequest.h>
 #include <tarvik/interface/SiblingRecords.h>
+#include <tarvik/interface/VesselNumbers.h>
 
 namespace Tarvik::Interface {
 
@@ -31,10 +32,29 @@ TEST(ServerRequestTest, CommandsHaveTheServersNumbers) {
     EXPECT_EQ(NumberOf(VoyCommand::LoadCatalog), 3);
     EXPECT_EQ(NumberOf(VoyCommand::SaveBookRows), 9);
     EXPECT_EQ(NumberOf(VoyCommand::SetBookDate), 14);
+    EXPECT_EQ(NumberOf(VoyCommand::ChangeFleet), 16);
     EXPECT_EQ(VoyCommand::Remarks, VoyCommand::SaveBookRows) << "told apart by the module word";
     constexpr std::uint16_t kModeBits = 0x3000;
     EXPECT_EQ(kRemarkModuleWord & kModeBits, 1 << 12);
     EXPECT_EQ(kRemarkModuleWord & ~kModeBits, 2);
+}
+
+TEST(VesselNumbersTest, MmsiOfAShipHasACountry) {
+    for (const int good : {201000000, 477123456, 775999999}) {
+        EXPECT_TRUE(IsShipMmsi(good)) << good;
+    }
+    for (const int bad : {0, -477123456, 47712345, 200999999, 776000000, 970123456, 1477123456}) {
+        EXPECT_FALSE(IsShipMmsi(bad)) << bad;
+    }
+}
+
+TEST(VesselNumbersTest, ImoNumberHasItsCheckDigit) {
+    for (const int good : {9074729, 9134270, 8814275, 1000007}) {
+        EXPECT_TRUE(IsImoNumber(good)) << good;
+    }
+    for (const int bad : {0, -9074729, 9074728, 9047729, 907472, 90747290, 10000074}) {
+        EXPECT_FALSE(IsImoNumber(bad)) << bad;
+    }
 }
 
 TEST(ChartRecordsTest, LayerDefaults) {

@@ -51,9 +51,7 @@ VesselRecord ReadVessel(const RequestFields& fields) {
 }  // namespace
 
 std::string LoadCatalog(const CommandCall& call) {
-    if (RequestFields(call.text).Text("ui") != call.user) {
-        throw Refusal(ErrorCode::OtherUser);
-    }
+    CheckUser(call.text, call.user);
     return Replies::Catalog(ValueOrRefuse(call.storage.Catalog().LoadCatalog(call.user)));
 }
 

@@ -36,6 +36,11 @@ std::string LoadAisTimes(const CommandCall& call);
 /// Adds an AIS modification time.
 std::string AddAisTime(const CommandCall& call);
 
+/// The vessels of the user that the request names, who must be the caller.
+std::string LoadFleet(const CommandCall& call);
+/// `type` 0 add, 1 change, 2 remove.
+std::string ChangeFleet(const CommandCall& call);
+
 /// The remarks of one object: `optype` 1 add, 2 delete one, 3 change, 4 list.
 std::string KeepRemarks(const CommandCall& call);
 

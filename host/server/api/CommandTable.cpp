@@ -56,6 +56,12 @@ constexpr std::array kCommands = {
                  R"({vi:"9",time:"2026-12-03 14:00:00"})", "13", CommandKind::Change, &AddAisTime},
     CommandEntry{kVoyageModuleWord, VoyCommand::SetBookDate, "changes the date of a position book",
                  R"({psb:"12",dt:"2026-12-01 08:00:00"})", "14", CommandKind::Change, &SetBookDate},
+    CommandEntry{kVoyageModuleWord, VoyCommand::LoadFleet, "loads a user's fleet", R"({ui:"anna"})", "15",
+                 CommandKind::Read, &LoadFleet},
+    CommandEntry{
+        kVoyageModuleWord, VoyCommand::ChangeFleet, "changes a vessel of the fleet",
+        R"({vsi:"",type:"0",vsn:"Meridian",vsmsi:"477123456",vsimo:"9134270",vscs:"VRAB2",vst:"Tanker",vsl:"229.0",vsp:"25.928"})",
+        "16", CommandKind::Change, &ChangeFleet},
     CommandEntry{kRemarkModuleWord, VoyCommand::Remarks, "keeps remarks",
                  R"({optype:"4",type:"3",objectid:"9"})", "remark", CommandKind::Change, &KeepRemarks},
 };

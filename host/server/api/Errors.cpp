@@ -31,6 +31,8 @@ constexpr ErrorRow kErrors[] = {
     {ErrorCode::RequestTooLong, "the request is too long"},
     {ErrorCode::UnknownPort, "a port call names no known port"},
     {ErrorCode::ReplyTooLong, "the reply would be too long"},
+    {ErrorCode::BadMmsi, "this is no MMSI of a ship"},
+    {ErrorCode::BadImo, "this is no IMO number, or its check digit is wrong"},
     {ErrorCode::OtherUser, "the request names another user"},
     {ErrorCode::NoUser, "nobody is logged in"},
     {ErrorCode::UnknownCategory, "there is no such category"},
@@ -38,6 +40,7 @@ constexpr ErrorRow kErrors[] = {
     {ErrorCode::UnknownBook, "there is no such position book"},
     {ErrorCode::UnknownRemark, "there is no such remark"},
     {ErrorCode::UnknownObject, "there is no such object"},
+    {ErrorCode::UnknownVessel, "there is no such vessel"},
     {ErrorCode::NotInUse, "only what is in use can go to the recycle bin"},
     {ErrorCode::NotInBin, "only what is in the recycle bin can be recovered or destroyed"},
     {ErrorCode::CategoryNotInUse, "the category is in the recycle bin"},
@@ -46,6 +49,7 @@ constexpr ErrorRow kErrors[] = {
     {ErrorCode::RowExists, "a row's number is taken"},
     {ErrorCode::RemarkExists, "a remark of this number exists already"},
     {ErrorCode::BookTakenOver, "another client has begun to write the position book"},
+    {ErrorCode::ListFull, "the list is full"},
     {ErrorCode::StorageFailed, "the data could not be stored or read"},
     {ErrorCode::Internal, "the server failed"},
     {ErrorCode::MaybeStored, "the change may be stored or not, look again"},
@@ -57,12 +61,12 @@ constexpr ErrorRow kErrors[] = {
 
 /// In the order of FaultReason.
 constexpr std::array kFaultCodes = {
-    ErrorCode::UnknownCategory,   ErrorCode::UnknownVoyage,    ErrorCode::UnknownBook,
-    ErrorCode::UnknownRemark,     ErrorCode::UnknownObject,    ErrorCode::NotInUse,
-    ErrorCode::NotInBin,          ErrorCode::CategoryNotInUse, ErrorCode::BookExists,
-    ErrorCode::NothingToAppendTo, ErrorCode::BookTakenOver,    ErrorCode::TooManyRows,
-    ErrorCode::RowExists,         ErrorCode::RemarkExists,     ErrorCode::StorageFailed,
-    ErrorCode::MaybeStored,
+    ErrorCode::UnknownCategory, ErrorCode::UnknownVoyage,     ErrorCode::UnknownBook,
+    ErrorCode::UnknownRemark,   ErrorCode::UnknownVessel,     ErrorCode::UnknownObject,
+    ErrorCode::NotInUse,        ErrorCode::NotInBin,          ErrorCode::CategoryNotInUse,
+    ErrorCode::BookExists,      ErrorCode::NothingToAppendTo, ErrorCode::BookTakenOver,
+    ErrorCode::TooManyRows,     ErrorCode::RowExists,         ErrorCode::RemarkExists,
+    ErrorCode::ListFull,        ErrorCode::StorageFailed,     ErrorCode::MaybeStored,
 };
 static_assert(kFaultCodes.size() == static_cast<std::size_t>(FaultReason::MaybeStored) + 1);
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include <tarvik/interface/PlanTerms.h>
+#include <tarvik/interface/VesselNumbers.h>
 
 namespace Tarvik::Server {
 
@@ -20,6 +21,8 @@ constexpr double kLongitudeLimit = 360;
 constexpr double kLatitudeLimit = 90;
 constexpr std::int32_t kMostSpacing = 360;
 constexpr std::int32_t kMostKind = 9;
+constexpr double kMostLengthMetres = 1000;
+constexpr double kMostServiceKmh = 200;
 
 /// False for what is no number, too.
 template <class Number>
@@ -81,6 +84,29 @@ std::optional<ErrorCode> FaultOf(const BookRowRecord& row) {
         IsWithin(row.order, 0, kMostOrder) && IsWithin(row.longitude, -kLongitudeLimit, kLongitudeLimit) &&
         IsWithin(row.latitude, -kLatitudeLimit, kLatitudeLimit) && IsWithin(row.spacing, 0, kMostSpacing) &&
         IsWithin(row.speedKmh, 0.0, kMostSpeedKmh) && IsWithin(row.kind, 0, kMostKind);
+    return good ? std::nullopt : std::optional(ErrorCode::BadNumber);
+}
+
+std::optional<ErrorCode> FaultOf(const FleetRecord& vessel) {
+    if (vessel.name.empty()) {
+        return ErrorCode::EmptyName;
+    }
+    for (const std::string_view text : {std::string_view(vessel.name), std::string_view(vessel.type)}) {
+        if (const auto fault = FaultOf(text, kMaxListTextBytes)) {
+            return fault;
+        }
+    }
+    if (const auto fault = FaultOf(vessel.callSign, kMaxCallSignBytes)) {
+        return fault;
+    }
+    if (vessel.mmsi != 0 && !Interface::IsShipMmsi(vessel.mmsi)) {
+        return ErrorCode::BadMmsi;
+    }
+    if (vessel.imo != 0 && !Interface::IsImoNumber(vessel.imo)) {
+        return ErrorCode::BadImo;
+    }
+    const bool good = IsWithin(vessel.lengthMetres, 0.0, kMostLengthMetres) &&
+                      IsWithin(vessel.speedKmh, 0.0, kMostServiceKmh);
     return good ? std::nullopt : std::optional(ErrorCode::BadNumber);
 }
 

@@ -17,6 +17,10 @@ inline constexpr std::size_t kMaxBodyBytes = 65536;
 /// A remark's object is an id and a port's name together; a row on the wire is not much more than two names.
 inline constexpr std::size_t kMaxObjectBytes = kMaxNameBytes * 2;
 
+/// Most bytes of a text in a list of which each user has one.
+inline constexpr std::size_t kMaxListTextBytes = 256;
+inline constexpr std::size_t kMaxCallSignBytes = 16;
+
 /// What is wrong with a text that may have `most` bytes: TextTooLong, or BadText for a zero byte, which not
 /// every data base can keep.
 std::optional<ErrorCode> FaultOf(std::string_view text, std::size_t most);
@@ -26,6 +30,9 @@ std::optional<ErrorCode> FaultOf(const PortCallRecord& call);
 
 /// What is wrong with a row of a position book; nothing when it can be kept.
 std::optional<ErrorCode> FaultOf(const BookRowRecord& row);
+
+/// What is wrong with a vessel of a fleet; nothing when it can be kept.
+std::optional<ErrorCode> FaultOf(const FleetRecord& vessel);
 
 /// The same of a port call that is about to be saved, which says where and for what and lets the ship move.
 /// Rows that earlier programs have stored may lack a port's id or a purpose, or have a weather factor of 1,

@@ -108,6 +108,20 @@ std::string PortCalls(const std::vector<PortCallRecord>& calls) {
     return out.Take();
 }
 
+std::string Fleet(const std::vector<FleetRecord>& fleet) {
+    JsonWriter out;
+    out.BeginArray();
+    for (const FleetRecord& vessel : fleet) {
+        out.BeginObject().TextMember("vsi", vessel.id).TextMember("vsn", vessel.name);
+        out.NumberMember("vsmsi", vessel.mmsi).NumberMember("vsimo", vessel.imo);
+        out.TextMember("vscs", vessel.callSign).TextMember("vst", vessel.type);
+        out.TextMember("vsl", PrintDecimal(vessel.lengthMetres, 1));
+        out.TextMember("vsp", PrintDecimal(vessel.speedKmh, 3)).EndObject();
+    }
+    out.EndArray();
+    return out.Take();
+}
+
 std::string AisTimes(const std::vector<std::string>& times) {
     JsonWriter out;
     out.BeginObject().Key("times").BeginArray();

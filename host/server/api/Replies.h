@@ -24,6 +24,8 @@ std::string Catalog(const std::vector<CategoryRecord>& categories);
 std::string Book(const std::optional<BookRecord>& book);
 /// Array of port calls; every number is a text.
 std::string PortCalls(const std::vector<PortCallRecord>& calls);
+/// Array of vessels; every number is a text.
+std::string Fleet(const std::vector<FleetRecord>& fleet);
 /// {"times":[...]}
 std::string AisTimes(const std::vector<std::string>& times);
 /// Array of remarks; both dates are GMT timer values as texts.

@@ -46,6 +46,15 @@ std::int32_t RequestFields::Number(std::string_view key, std::int32_t least, std
     return *number;
 }
 
+double RequestFields::Decimal(std::string_view key) const {
+    using Limits = std::numeric_limits<double>;
+    const auto number = ParseDecimal(Text(key), Limits::lowest(), Limits::max());
+    if (!number) {
+        throw Refusal(ErrorCode::BadNumber, std::string(key));
+    }
+    return *number;
+}
+
 std::string RequestFields::Time(std::string_view key) const {
     std::string text = Text(key);
     if (!IsTimeText(text)) {
@@ -61,6 +70,12 @@ int RequestFields::Operation(std::string_view key) const {
     }
     const auto number = ParseInteger(Text(key), 0, std::numeric_limits<std::int32_t>::max());
     return number.value_or(-1);
+}
+
+void CheckUser(std::string_view request, const std::string& user) {
+    if (RequestFields(request).Text("ui") != user) {
+        throw Refusal(ErrorCode::OtherUser);
+    }
 }
 
 void CheckText(std::string_view text, std::size_t most, std::string_view key) {

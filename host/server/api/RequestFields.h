@@ -30,6 +30,8 @@ class RequestFields {
     std::string Name(std::string_view key) const;
     /// A text that holds a whole number between the limits.
     std::int32_t Number(std::string_view key, std::int32_t least, std::int32_t most) const;
+    /// A text that holds a number with or without a fraction.
+    double Decimal(std::string_view key) const;
     /// A text "0" or "1".
     bool Flag(std::string_view key) const { return Number(key, 0, 1) == 1; }
     /// A time text.
@@ -40,6 +42,9 @@ class RequestFields {
   private:
     Util::Jsona root_;
 };
+
+/// Refuses a request of everything that a user has, `{ui:"anna"}`, of whoever is not that user.
+void CheckUser(std::string_view request, const std::string& user);
 
 /// Refuses a text that is longer than `most` bytes or holds a zero byte, which not every data base can keep.
 void CheckText(std::string_view text, std::size_t most, std::string_view key);

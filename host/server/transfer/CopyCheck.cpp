@@ -66,6 +66,7 @@ std::string CopyCheck::User(const UserCopy& user) {
     }
     known_ = CopyIds();
     remarks_.clear();
+    vessels_ = 0;
     return {};
 }
 
@@ -127,6 +128,16 @@ std::string CopyCheck::Remark(const RemarkCopy& copy) {
         return "the remark's text is too long";
     }
     return {};
+}
+
+std::string CopyCheck::Vessel(const FleetRecord& vessel) {
+    if (!TakeId(vessel.id)) {
+        return "the id is none, or is there twice";
+    }
+    if (const auto fault = FaultOf(vessel)) {
+        return std::string(TextOf(*fault));
+    }
+    return ++vessels_ > kMostVessels ? std::string(TextOf(ErrorCode::ListFull)) : std::string();
 }
 
 bool CopyCheck::TakeId(const std::string& id) {

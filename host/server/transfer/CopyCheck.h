@@ -20,6 +20,7 @@ class CopyCheck {
     std::string Category(const CategoryCopy& category);
     std::string Voyage(const VoyageCopy& copy);
     std::string Remark(const RemarkCopy& copy);
+    std::string Vessel(const FleetRecord& vessel);
 
     /// The ids that were seen; 0 when there was none.
     std::int64_t LowestId() const { return lowestId_; }
@@ -33,7 +34,8 @@ class CopyCheck {
     std::unordered_set<std::string> seen_;
     std::int64_t lowestId_ = 0;
     std::int64_t highestId_ = 0;
-    CopyIds known_;                                        ///< of the present user
+    std::size_t vessels_ = 0;                              ///< of the present user
+    CopyIds known_;                                        ///< the same
     std::set<std::tuple<int, std::string, int>> remarks_;  ///< of the present user
 };
 

@@ -141,6 +141,14 @@ std::string RemarkLine(const RemarkCopy& copy) {
     return line.dump();
 }
 
+std::string VesselLine(const FleetRecord& vessel) {
+    return Json{{"vessel", vessel.id},           {"name", vessel.name},
+                {"mmsi", vessel.mmsi},           {"imo", vessel.imo},
+                {"callsign", vessel.callSign},   {"type", vessel.type},
+                {"length", vessel.lengthMetres}, {"speed", vessel.speedKmh}}
+        .dump();
+}
+
 UserCopy ReadUser(const Json& line) {
     UserCopy user;
     user.records.owner = Text(line.at("user"));
@@ -182,6 +190,17 @@ RemarkCopy ReadRemark(const Json& line) {
     return {{Whole<int>(name[0]), Text(name[1])},
             {Whole<std::int32_t>(name[2]), Text(line.at("subject")), Text(line.at("body")),
              Whole<std::int64_t>(line.at("created")), Whole<std::int64_t>(line.at("updated"))}};
+}
+
+FleetRecord ReadVessel(const Json& line) {
+    return {Text(line.at("vessel")),
+            Text(line.at("name")),
+            Whole<std::int32_t>(line.at("mmsi")),
+            Whole<std::int32_t>(line.at("imo")),
+            Text(line.at("callsign")),
+            Text(line.at("type")),
+            Real(line.at("length")),
+            Real(line.at("speed"))};
 }
 
 }  // namespace Tarvik::Server::CopyJson

@@ -115,11 +115,7 @@ bool Exporter::WriteUsers(const std::vector<UserCopy>& users, TransferWriter& wr
         const UserCopy user{chosen.account, std::move(records.Value())};
         writer.User(user);
         content.users.push_back({user.records.owner, user.account});
-        content.categories += user.records.categories.size();
-        for (const CategoryCopy& category : user.records.categories) {
-            content.voyages += category.voyages.size();
-        }
-        content.remarks += user.records.remarks.size();
+        Count(user.records, content);
     }
     return true;
 }

@@ -13,6 +13,11 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+/// Whether lines of this kind stand behind a user's.
+bool IsOfUser(const std::string& kind) {
+    return kind == "category" || kind == "voyage" || kind == "remark" || kind == "vessel";
+}
+
 }  // namespace
 
 TransferReader::TransferReader(const std::string& path, bool skipBad)
@@ -48,11 +53,7 @@ bool TransferReader::ReadContent(TransferContent& content, std::string& error) {
             return true;
         }
         content.users.push_back({user->records.owner, user->account});
-        content.categories += user->records.categories.size();
-        for (const CategoryCopy& category : user->records.categories) {
-            content.voyages += category.voyages.size();
-        }
-        content.remarks += user->records.remarks.size();
+        Count(user->records, content);
     }
     return false;
 }
@@ -129,7 +130,7 @@ std::string TransferReader::TakeUser(const Json& object, std::optional<UserCopy>
 }
 
 std::string TransferReader::TakeRecord(const std::string& kind, const Json& object) {
-    if (kind != "category" && kind != "voyage" && kind != "remark") {
+    if (!IsOfUser(kind)) {
         return "there are no such records";
     }
     if (progress_->skipUser) {
@@ -140,6 +141,9 @@ std::string TransferReader::TakeRecord(const std::string& kind, const Json& obje
     }
     if (kind == "category") {
         return TakeCategory(object);
+    }
+    if (kind == "vessel") {
+        return TakeVessel(object);
     }
     return kind == "voyage" ? TakeVoyage(object) : TakeRemark(object);
 }
@@ -183,9 +187,18 @@ std::string TransferReader::TakeRemark(const Json& object) {
     return {};
 }
 
+std::string TransferReader::TakeVessel(const Json& object) {
+    FleetRecord vessel = CopyJson::ReadVessel(object);
+    std::string wrong = progress_->check.Vessel(vessel);
+    if (!wrong.empty()) {
+        return Skip("vessel", object, std::move(wrong));
+    }
+    progress_->open->records.fleet.push_back(std::move(vessel));
+    return {};
+}
+
 std::string TransferReader::Skip(const std::string& kind, const Json& object, std::string wrong) {
-    const bool known = kind == "user" || kind == "category" || kind == "voyage" || kind == "remark";
-    if (!skipBad_ || !known) {
+    if (!skipBad_ || (kind != "user" && !IsOfUser(kind))) {
         return wrong;
     }
     const auto name = object.find("name");

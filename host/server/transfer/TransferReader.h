@@ -70,6 +70,7 @@ class TransferReader : public TransferSource {
     std::string TakeCategory(const nlohmann::ordered_json& object);
     std::string TakeVoyage(const nlohmann::ordered_json& object);
     std::string TakeRemark(const nlohmann::ordered_json& object);
+    std::string TakeVessel(const nlohmann::ordered_json& object);
     /// Leaves the record out where that is wished. Gives `wrong` where it is not.
     std::string Skip(const std::string& kind, const nlohmann::ordered_json& object, std::string wrong);
     std::string TakeHead(const nlohmann::ordered_json& object) const;

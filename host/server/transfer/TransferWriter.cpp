@@ -18,6 +18,9 @@ TransferWriter::TransferWriter(Sink sink, std::int64_t made) : sink_(std::move(s
 
 void TransferWriter::User(const UserCopy& user) {
     Write(CopyJson::UserLine(user));
+    for (const FleetRecord& vessel : user.records.fleet) {
+        Write(CopyJson::VesselLine(vessel));
+    }
     for (const CategoryCopy& category : user.records.categories) {
         Write(CopyJson::CategoryLine(category));
         for (const VoyageCopy& voyage : category.voyages) {

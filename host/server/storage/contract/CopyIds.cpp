@@ -33,4 +33,9 @@ RemarkObject CopyIds::Renamed(const RemarkObject& object) const {
     return {object.type, ids.at(object.id.substr(0, length)) + object.id.substr(length)};
 }
 
+std::string CopyIds::RenamedVessel(const std::string& id) const {
+    const auto vessel = vessels_.find(id);
+    return vessel == vessels_.end() ? id : vessel->second;
+}
+
 }  // namespace Tarvik::Server

@@ -16,6 +16,7 @@ enum class FaultReason {
     UnknownVoyage,
     UnknownBook,
     UnknownRemark,
+    UnknownVessel,
     UnknownObject,
     NotInUse,
     NotInBin,
@@ -26,6 +27,7 @@ enum class FaultReason {
     TooManyRows,
     RowExists,
     RemarkExists,
+    ListFull,
     StorageFailed,
     MaybeStored,  ///< the connection to the data base broke while it confirmed the change
 };

@@ -101,4 +101,21 @@ struct RemarkRecord {
     std::int64_t updated = 0;  ///< the same
 };
 
+/// One vessel of a user's fleet.
+struct FleetRecord {
+    std::string id;
+    std::string name;
+    std::int32_t mmsi = 0;  ///< 0 when unknown
+    std::int32_t imo = 0;   ///< the same
+    std::string callSign;
+    std::string type;         ///< as people call it
+    double lengthMetres = 0;  ///< 0 when unknown
+    double speedKmh = 0;      ///< in service; 0 when unknown
+
+    bool operator==(const FleetRecord&) const = default;
+};
+
+/// Most vessels of a fleet. With the longest texts the reply that lists them still fits an envelope.
+inline constexpr std::size_t kMostVessels = 2000;
+
 }  // namespace Tarvik::Server

@@ -28,6 +28,21 @@ class RemarkStorage {
     virtual Status DeleteRemark(const std::string& owner, const RemarkObject& object, std::int32_t seq) = 0;
 };
 
+/// Each user's fleet.
+class FleetStorage {
+  public:
+    virtual ~FleetStorage() = default;
+
+    /// In the order of their addition.
+    virtual Outcome<std::vector<FleetRecord>> LoadFleet(const std::string& owner) = 0;
+    /// Gives the id of the new vessel; its own is ignored. Refused when the fleet has kMostVessels.
+    virtual Outcome<std::string> AddVessel(const std::string& owner, const FleetRecord& vessel) = 0;
+    /// Puts the record in the place of the one of its id.
+    virtual Status SetVessel(const std::string& owner, const FleetRecord& vessel) = 0;
+    /// Voyages that it sails keep its name and numbers.
+    virtual Status RemoveVessel(const std::string& owner, const std::string& id) = 0;
+};
+
 /// Everything that the voyage server keeps.
 ///
 /// Every operation takes the owner first and reaches nothing of anybody else. An operation is one
@@ -48,6 +63,7 @@ class Storage {
     virtual CatalogStorage& Catalog() = 0;
     virtual ScheduleStorage& Schedule() = 0;
     virtual RemarkStorage& Remarks() = 0;
+    virtual FleetStorage& Fleet() = 0;
 };
 
 }  // namespace Tarvik::Server

@@ -9,6 +9,14 @@ namespace Tarvik::Server {
 Status SqlOwnerWriter::Write(const OwnerCopy& copy) {
     owner_ = copy.owner;
     ids_ = CopyIds();
+    for (const FleetRecord& vessel : copy.fleet) {
+        const std::string vesselId = NewId(vessel.id);
+        ids_.PutVessel(vessel.id, vesselId);
+        Status written = InsertVessel(connection_, owner_, vesselId, vessel);
+        if (!written) {
+            return written;
+        }
+    }
     for (const CategoryCopy& category : copy.categories) {
         const std::string categoryId = NewId(category.id);
         ids_.PutCategory(category.id, categoryId);
@@ -35,7 +43,9 @@ std::string SqlOwnerWriter::NewId(const std::string& before) {
 Status SqlOwnerWriter::WriteVoyage(const VoyageCopy& copy, const std::string& categoryId) {
     const std::string voyageId = NewId(copy.voyage.id);
     ids_.PutVoyage(copy.voyage.id, voyageId);
-    InsertVoyage(connection_, owner_, voyageId, categoryId, copy.voyage);
+    VoyageRecord voyage = copy.voyage;
+    voyage.vessel.id = ids_.RenamedVessel(voyage.vessel.id);
+    InsertVoyage(connection_, owner_, voyageId, categoryId, voyage);
     return WriteSchedule(copy, voyageId);
 }
 

@@ -14,7 +14,8 @@ class SqlOwnerWriter {
     /// `keepIds`: the records keep their ids, none of which may be taken.
     SqlOwnerWriter(SqlConnection& connection, bool keepIds) : connection_(connection), keepIds_(keepIds) {}
 
-    /// Refuses a number that two rows of a voyage or two remarks of an object have.
+    /// Refuses a number that two rows of a voyage or two remarks of an object have, and a fleet that would be
+    /// too large.
     Status Write(const OwnerCopy& copy);
 
   private:

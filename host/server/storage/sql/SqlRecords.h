@@ -53,4 +53,12 @@ Status InsertBookRows(SqlConnection& connection, const std::string& owner, const
 bool InsertRemark(SqlConnection& connection, const std::string& owner, const RemarkObject& object,
                   const RemarkRecord& remark);
 
+/// The owner's fleet in the order of the ids as numbers.
+std::vector<FleetRecord> ReadFleet(SqlConnection& connection, const std::string& owner);
+
+/// Adds a vessel under this id; its own is ignored. Refused when the fleet is full. Nobody else changes the
+/// owner's fleet from then until the end of the transaction.
+Status InsertVessel(SqlConnection& connection, const std::string& owner, const std::string& id,
+                    const FleetRecord& vessel);
+
 }  // namespace Tarvik::Server

@@ -11,7 +11,7 @@
 #include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/storage/sql/SqlSession.h"
 
-/// The storage in a data base that speaks SQL, in its four parts. None of them owns its session.
+/// The storage in a data base that speaks SQL, in its parts. None of them owns its session.
 namespace Tarvik::Server {
 
 /// Categories and voyages.
@@ -85,6 +85,20 @@ class SqlRemarks : public RemarkStorage {
     SqlSession& session_;
 };
 
+/// Fleets.
+class SqlFleet : public FleetStorage {
+  public:
+    explicit SqlFleet(SqlSession& session) : session_(session) {}
+
+    Outcome<std::vector<FleetRecord>> LoadFleet(const std::string& owner) override;
+    Outcome<std::string> AddVessel(const std::string& owner, const FleetRecord& vessel) override;
+    Status SetVessel(const std::string& owner, const FleetRecord& vessel) override;
+    Status RemoveVessel(const std::string& owner, const std::string& id) override;
+
+  private:
+    SqlSession& session_;
+};
+
 /// Whole owners, taken out and put in.
 class SqlTransfer : public TransferStorage {
   public:
@@ -111,6 +125,7 @@ class SqlStorage : public Storage {
     CatalogStorage& Catalog() override { return catalog_; }
     ScheduleStorage& Schedule() override { return schedule_; }
     RemarkStorage& Remarks() override { return remarks_; }
+    FleetStorage& Fleet() override { return fleet_; }
     /// Takes owners out and puts them in, as export and import do.
     TransferStorage& Transfer() { return transfer_; }
 
@@ -121,6 +136,7 @@ class SqlStorage : public Storage {
           catalog_(*session_),
           schedule_(*session_),
           remarks_(*session_),
+          fleet_(*session_),
           transfer_(*session_) {}
 
   private:
@@ -128,6 +144,7 @@ class SqlStorage : public Storage {
     SqlCatalog catalog_;
     SqlSchedule schedule_;
     SqlRemarks remarks_;
+    SqlFleet fleet_;
     SqlTransfer transfer_;
 };
 

@@ -38,7 +38,12 @@ VoyageCopy ReadVoyage(SqlConnection& connection, const std::string& owner, Voyag
 }
 
 bool HasRecords(SqlConnection& connection, const std::string& owner) {
-    return connection.Query("SELECT 1 FROM categories WHERE owner = $1 AND cd <> 2 LIMIT 1", owner)->Next();
+    return connection
+        .Query(
+            "SELECT 1 FROM categories WHERE owner = $1 AND cd <> 2 "
+            "UNION ALL SELECT 1 FROM fleet WHERE owner = $1 LIMIT 1",
+            owner)
+        ->Next();
 }
 
 /// Whether the records can keep their ids; then nobody else is given these.
@@ -52,8 +57,8 @@ bool KeepIds(SqlConnection& connection, const CopyManifest& manifest) {
 Outcome<std::vector<std::string>> SqlTransfer::ListOwners() {
     return session_.Read([](SqlConnection& connection) -> Outcome<std::vector<std::string>> {
         std::vector<std::string> owners;
-        const auto row =
-            connection.Query("SELECT DISTINCT owner FROM categories WHERE cd <> 2 ORDER BY owner");
+        const auto row = connection.Query(
+            "SELECT owner FROM categories WHERE cd <> 2 UNION SELECT owner FROM fleet ORDER BY owner");
         while (row->Next()) {
             owners.push_back(row->Text(0));
         }
@@ -63,7 +68,7 @@ Outcome<std::vector<std::string>> SqlTransfer::ListOwners() {
 
 Outcome<OwnerCopy> SqlTransfer::ReadOwner(const std::string& owner) {
     return session_.Read([&](SqlConnection& connection) -> Outcome<OwnerCopy> {
-        OwnerCopy copy{owner, {}, {}};
+        OwnerCopy copy{owner, {}, {}, {}};
         CopyIds known;
         for (CategoryRecord& category : ReadCatalog(connection, owner)) {
             known.PutCategory(category.id, category.id);
@@ -74,6 +79,7 @@ Outcome<OwnerCopy> SqlTransfer::ReadOwner(const std::string& owner) {
             }
         }
         copy.remarks = ReadRemarks(connection, owner, known);
+        copy.fleet = ReadFleet(connection, owner);
         return copy;
     });
 }

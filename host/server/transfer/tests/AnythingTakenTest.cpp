@@ -119,6 +119,11 @@ TEST_F(AnythingTakenTest, RandomRequests) {
                           "\"]");
         taken += Takes(13, R"({vi:"1000002",time:")" + odd.Time() + "\"}");
         taken += Takes(14, R"({psb:"1000003",dt:")" + odd.Time() + "\"}");
+        taken +=
+            Takes(16, R"({vsi:"",type:"0",vsn:")" + odd.Text() + R"(",vsmsi:")" + odd.Number() +
+                          R"(",vsimo:")" + odd.Pick({"0", "9134270", "9134271"}) + R"(",vscs:")" +
+                          odd.Pick({"", "VRAB2", "\\u0001", "longer than sixteen"}) + R"(",vst:")" +
+                          odd.Text() + R"(",vsl:")" + odd.Number() + R"(",vsp:")" + odd.Number() + "\"}");
         const std::string object = "1000002" + odd.Text();
         taken += service_
                      .Handle("ann", Interface::kRemarkModuleWord, 9,

@@ -49,6 +49,15 @@ class BrokenFileTest : public TransferTest {
         }
         return line + "\n";
     }
+    static std::string Vessel(const std::string& from = "", const std::string& into = "") {
+        std::string line =
+            R"({"vessel":"1000007","name":"M","mmsi":477123456,"imo":9134270,"callsign":"VRAB2","type":"Tanker",)"
+            R"("length":229.5,"speed":25.928})";
+        if (!from.empty()) {
+            line.replace(line.find(from), from.size(), into);
+        }
+        return line + "\n";
+    }
     static std::string Remark(const std::string& name = R"([3,"1000002",1])",
                               const std::string& subject = "s") {
         return R"({"remark":)" + name + R"(,"subject":")" + subject +
@@ -159,6 +168,38 @@ TEST_F(BrokenFileTest, RemarksThatNoRequestStoresAreRefused) {
     ExpectRefused(Ended(before + Remark(R"([3,"1000002",0])")), "the remark's number is below 1");
     ExpectRefused(Ended(before + Remark(R"([3,"1000002",1])", std::string(65537, 's'))), "text is too long");
     ExpectRefused(Ended(before + Remark(R"([3,"1000002",1])", "\\u0000")), "text is too long");
+}
+
+TEST_F(BrokenFileTest, VesselsThatNoRequestStoresAreRefused) {
+    const struct {
+        const char* from;
+        const char* into;
+        const char* reason;
+    } cases[] = {
+        {"1000007", "x", "line 3: the id is none, or is there twice"},
+        {R"("M")", R"("")", "line 3: a name must not be empty"},
+        {"477123456", "47712345", "line 3: this is no MMSI of a ship"},
+        {"9134270", "9134271", "line 3: this is no IMO number, or its check digit is wrong"},
+        {"VRAB2", "longer than sixteen", "line 3: a text is too long"},
+        {"229.5", "1000.5", "line 3: a number does not parse or is out of range"},
+        {"229.5", "\"long\"", "line 3: this record is damaged: a number is expected"},
+        {R"(,"imo":9134270)", "", "line 3: this record is damaged"},
+    };
+    for (const auto& [before, after, reason] : cases) {
+        SCOPED_TRACE(after);
+        ExpectRefused(Ended(Head() + User() + Vessel(before, after)), reason);
+    }
+    ExpectRefused(Ended(Head() + User() + Vessel() + Vessel()), "line 4: the id is none, or is there twice");
+    std::string fleet = Head() + User();
+    for (std::size_t i = 0; i <= kMostVessels; ++i) {
+        fleet += Vessel("1000007", std::to_string(2000000 + i));
+    }
+    ExpectRefused(Ended(fleet), "line " + std::to_string(kMostVessels + 3) + ": the list is full");
+    WriteBytes(Ended(Head() + User() + Vessel("477123456", "1") + Vessel("1000007", "1000008")));
+    ASSERT_TRUE(Import(to, {"", false, true})) << error;
+    EXPECT_EQ(done,
+              "imported 1 user, 0 categories, 0 voyages, 0 remarks, 1 vessel\n"
+              "left out: vessel \"1000007\" \"M\" of line 3: this is no MMSI of a ship");
 }
 
 TEST_F(BrokenFileTest, BadRecordsAreLeftOutByNameWhenThatIsWished) {

@@ -44,6 +44,10 @@ enum class VoyCommand : std::uint16_t {
     LoadAisTimes = 12,   ///< times of correction from AIS
     AddAisTime = 13,     ///< one more of them
     SetBookDate = 14,    ///< start of a position book
+    LoadFleet = 15,      ///< vessels of a user
+    ChangeFleet = 16,    ///< add, change, remove one of them
+    LoadPlaces = 17,     ///< own ports of a user
+    ChangePlace = 18,    ///< add, change, remove one of them
     Remarks = 9          ///< remarks of an object, with kRemarkModuleWord
 };
 

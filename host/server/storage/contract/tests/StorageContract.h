@@ -29,6 +29,7 @@ class StorageContract : public ::testing::TestWithParam<BackendMaker> {
     CatalogStorage& Catalog() { return backend_->Get().Catalog(); }
     ScheduleStorage& Schedule() { return backend_->Get().Schedule(); }
     RemarkStorage& Remarks() { return backend_->Get().Remarks(); }
+    FleetStorage& Fleet() { return backend_->Get().Fleet(); }
     void Reopen() { backend_->Reopen(); }
 
     std::string MakeCategory(const std::string& owner = "ann", const std::string& name = "Atlantic") {
