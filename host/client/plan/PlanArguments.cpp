@@ -86,7 +86,7 @@ class Reader {
     void Zone(const std::string& value) {
         if (!Util::DateTimeUtl::IsKnownZone(value)) {
             Bad("--zone", value,
-                "a time zone's name, as \"China Standard Time\", \"Europe/Rotterdam\" or \"UTC\"");
+                "a time zone's name, as " + Quoted(Util::kPlanZone) + ", \"Europe/Rotterdam\" or \"UTC\"");
         }
         parsed_.arguments.zone = value;
     }

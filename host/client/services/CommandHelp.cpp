@@ -2,6 +2,7 @@
 #include <string_view>
 
 #include <tarvik/interface/PlanTerms.h>
+#include <tarvik/util/DateTimeUtl.h>
 
 #include "host/client/services/CommandLine.h"
 
@@ -41,7 +42,7 @@ Ports of plan
 
 Options of plan
   --depart "YYYY-MM-DD HH:MM[:SS]"    arrival at the first port; without it, now
-  --zone NAME                         zone of all times ("China Standard Time", Europe/Rotterdam, UTC); without it,
+  --zone NAME                         zone of all times ("@zone", Europe/Rotterdam, UTC); without it,
                                       the zone of your preferences
   --speed KNOTS                       speed at sea, above 0; without it, 10
   --weather PERCENT                   weather factor, from 0 to below 100, by which the speed is reduced; without it, 0
@@ -71,6 +72,7 @@ std::string HelpText(const std::vector<std::string>& languages) {
     std::string text = kHelpText;
     Fill(text, "@languages", names);
     Fill(text, "@purposes", Interface::PurposeCodes(" "));
+    Fill(text, "@zone", Util::kPlanZone);
     Fill(text, "@units", Interface::UnitChoices("|", ","));
     return text;
 }

@@ -159,10 +159,6 @@ void BookCommands::OnHelp() {
 
 bool BookCommands::OnTableKey(KeyPress press, int row, int column) {
     switch (press.key) {
-        case Key::Enter:
-        case Key::F2:
-            editing_.OnCellClicked(row, column);
-            return true;
         case Key::Insert:
             OnInsert();
             return true;
@@ -172,11 +168,8 @@ bool BookCommands::OnTableKey(KeyPress press, int row, int column) {
         case Key::Space:
             OnExpand(row);
             return true;
-        case Key::Escape:
-            editing_.CommitEditors();
-            return true;
         default:
-            return false;
+            return OnCellKey(editing_, press, row, column);
     }
 }
 

@@ -29,4 +29,21 @@ struct KeyPress {
     bool ctrl = false;
 };
 
+/// Keys that mean the same over the cells of every table: Enter and F2 press the cell in front, Escape takes
+/// what is typed and closes what is open. False for any other key.
+template <class Editing>
+bool OnCellKey(Editing& editing, KeyPress press, int row, int column) {
+    switch (press.key) {
+        case Key::Enter:
+        case Key::F2:
+            editing.OnCellClicked(row, column);
+            return true;
+        case Key::Escape:
+            editing.CommitEditors();
+            return true;
+        default:
+            return false;
+    }
+}
+
 }  // namespace Tarvik::Seaplan

@@ -68,10 +68,6 @@ int RowCommands::OnItemImage(int row, const std::string& name) {
 
 bool RowCommands::OnTableKey(KeyPress press, int row, int column) {
     switch (press.key) {
-        case Key::Enter:
-        case Key::F2:
-            editing_.OnCellClicked(row, column);
-            return true;
         case Key::Delete:
             OnItemImage(row, PortCallImage::kDelete);
             return true;
@@ -81,12 +77,8 @@ bool RowCommands::OnTableKey(KeyPress press, int row, int column) {
                 OnItemImage(row, press.key == Key::Up ? PortCallImage::kMoveUp : PortCallImage::kMoveDown);
             }
             return press.alt;
-        case Key::Escape:
-            // Closes what is open over the cells.
-            editing_.CommitEditors();
-            return true;
         default:
-            return false;
+            return OnCellKey(editing_, press, row, column);
     }
 }
 

@@ -2,7 +2,6 @@
 #include "seaplan/views/book/BookFrame.h"
 
 #include <QHBoxLayout>
-#include <QMenu>
 #include <QShortcut>
 
 #include <tarvik/skin/Icons.h>
@@ -104,78 +103,16 @@ void BookHead::ApplySkin() {
 }
 
 BookFoot::BookFoot(QWidget* parent)
-    : QWidget(parent),
-      figures_{MakeFigure("bookSpeed", UnitKind::Speed), MakeFigure("bookDistance", UnitKind::Distance),
-               MakeFigure("bookTime", UnitKind::Time)} {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Skin::kGrid);
-    for (const Figure& figure : figures_) {
-        row->addWidget(figure.caption);
-        row->addWidget(figure.value);
-        row->addWidget(figure.unit);
-        row->addSpacing(5 * Skin::kGrid);
-        QObject::connect(figure.unit, &QToolButton::clicked, this, [this, figure] { OpenMenu(figure); });
-    }
-    row->addStretch(1);
-    ApplySkin();
-}
-
-BookFoot::Figure BookFoot::MakeFigure(const char* name, UnitKind kind) {
-    Figure figure;
-    figure.kind = kind;
-    figure.caption = new QLabel(this);
-    figure.caption->setProperty("secondary", true);
-    figure.value = new QLabel(this);
-    figure.value->setObjectName(QString::fromLatin1(name));
-    figure.value->setMinimumWidth(64);
-    figure.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    figure.unit = new QToolButton(this);
-    figure.unit->setObjectName(QString::fromLatin1(name) + QStringLiteral("Unit"));
-    figure.unit->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    // The arrow stands behind the unit.
-    figure.unit->setLayoutDirection(Qt::RightToLeft);
-    figure.unit->setFocusPolicy(Qt::TabFocus);
-    return figure;
-}
-
-void BookFoot::OpenMenu(const Figure& figure) {
-    if (!reports_.menuOpens) {
-        return;
-    }
-    reports_.menuOpens();
-    auto* menu = new QMenu(this);
-    menu->setObjectName(QStringLiteral("unitMenu"));
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const int index : {0, 1}) {
-        menu->addAction(QString::fromStdString(BookUnitText(figure.kind, index)), this,
-                        [this, kind = figure.kind, index] { reports_.unitChosen(kind, index); });
-    }
-    menu->popup(figure.unit->mapToGlobal(QPoint(0, figure.unit->height())));
-}
+    : UnitFigures(
+          parent,
+          {{{"bookSpeed", UnitKind::Speed, TextId::IDC_WP_T_SPD, TextId::IDS_VIEW_AVERAGEHINT},
+            {"bookDistance", UnitKind::Distance, TextId::IDC_WP_T_DIST, TextId::IDS_VIEW_DISTANCEHINT},
+            {"bookTime", UnitKind::Time, TextId::IDC_WP_T_TIME, TextId::IDS_VIEW_TIMEHINT}}},
+          {.valueWidth = 64, .gap = 5 * Skin::kGrid}) {}
 
 void BookFoot::ShowSheet(const BookSheet& sheet) {
-    for (const Figure& figure : figures_) {
-        figure.value->setText(QString::fromStdString(sheet.Total(figure.kind)));
-        figure.unit->setText(QString::fromStdString(sheet.UnitText(figure.kind)));
-    }
-}
-
-void BookFoot::ApplyTexts() {
-    constexpr std::pair<TextId, TextId> kTexts[] = {{TextId::IDC_WP_T_SPD, TextId::IDS_VIEW_AVERAGEHINT},
-                                                    {TextId::IDC_WP_T_DIST, TextId::IDS_VIEW_DISTANCEHINT},
-                                                    {TextId::IDC_WP_T_TIME, TextId::IDS_VIEW_TIMEHINT}};
-    for (std::size_t i = 0; i < figures_.size(); ++i) {
-        const QString caption = ViewText(kTexts[i].first);
-        figures_.at(i).caption->setText(caption);
-        Skin::Describe(figures_.at(i).value, caption);
-        Skin::Describe(figures_.at(i).unit, ViewText(kTexts[i].second));
-    }
-}
-
-void BookFoot::ApplySkin() {
-    for (const Figure& figure : figures_) {
-        figure.unit->setIcon(Skin::MakeIcon("chevron-down"));
+    for (const UnitKind kind : {UnitKind::Speed, UnitKind::Distance, UnitKind::Time}) {
+        ShowFigure(kind, sheet.Total(kind), sheet.UnitText(kind));
     }
 }
 

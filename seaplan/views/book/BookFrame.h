@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QAbstractButton>
 #include <QLabel>
 #include <QToolButton>
 #include <QWidget>
 #include <array>
 #include <functional>
 
-#include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/book/BookSheet.h"
+#include "seaplan/views/editors/UnitFigures.h"
 
 namespace Tarvik::Seaplan {
 
@@ -41,33 +40,11 @@ class BookHead final : public QWidget {
     QLabel* zone_;
 };
 
-/// The line below the table: average speed, total distance and time, each with a button that opens a menu of
-/// its units.
-class BookFoot final : public QWidget {
+/// The line of totals below the table.
+class BookFoot final : public UnitFigures {
   public:
     explicit BookFoot(QWidget* parent);
-
-    struct Reports {
-        std::function<void()> menuOpens;
-        std::function<void(UnitKind, int)> unitChosen;
-    };
-    void SetReports(Reports reports) { reports_ = std::move(reports); }
     void ShowSheet(const BookSheet& sheet);
-    void ApplyTexts();
-    void ApplySkin();
-
-  private:
-    struct Figure {
-        UnitKind kind = UnitKind::None;
-        QLabel* caption = nullptr;
-        QLabel* value = nullptr;
-        QToolButton* unit = nullptr;
-    };
-    Figure MakeFigure(const char* name, UnitKind kind);
-    void OpenMenu(const Figure& figure);
-
-    Reports reports_;
-    std::array<Figure, 3> figures_;  ///< speed, distance, time
 };
 
 }  // namespace Tarvik::Seaplan

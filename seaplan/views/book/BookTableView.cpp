@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/book/BookTableView.h"
 
-#include <QHeaderView>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QScrollBar>
 
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
 
 #include "seaplan/views/book/BookModel.h"
-#include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/editors/TableMeasures.h"
 
 namespace Tarvik::Seaplan {
@@ -84,60 +80,24 @@ bool BookDelegate::IsOnExpander(const QRect& cell, const QPoint& point) {
     return ExpanderRect(cell).adjusted(-2, -4, 3, 4).contains(point);
 }
 
-BookTableView::BookTableView(QWidget* parent) : QTableView(parent) {
-    setObjectName(QStringLiteral("positionBookTable"));
+BookTableView::BookTableView(QWidget* parent) : PanelTable(parent, "positionBookTable") {
     setItemDelegate(new BookDelegate(this));
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setSelectionBehavior(QAbstractItemView::SelectRows);
-    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    setTabKeyNavigation(false);
-    verticalHeader()->hide();
-    verticalHeader()->setMinimumSectionSize(kTableRow);
-    verticalHeader()->setDefaultSectionSize(kTableRow);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setFixedHeight(kTableHeader);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(true);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setMinimumSectionSize(20);
-    horizontalHeader()->setStretchLastSection(true);
     setMinimumHeight(kTableHeader + BookSheet::kLeastLines * kTableRow + 4);
     ApplySkin();
-    QObject::connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { TellLeft(); });
-    QObject::connect(horizontalHeader(), &QHeaderView::sectionPressed, this, [this] { TellLeft(); });
-}
-
-void BookTableView::TellLeft() {
-    if (reports_.left && !setting_) {
-        reports_.left();
-    }
 }
 
 void BookTableView::ApplyWidths() {
-    int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    for (int column = 0; column < static_cast<int>(kBookColumns.size()); ++column) {
-        const int width = kBookColumns.at(static_cast<std::size_t>(column)).width;
-        setColumnWidth(column, width);
-        total += width;
+    std::vector<int> widths;
+    for (const auto& column : kBookColumns) {
+        widths.push_back(column.width);
     }
-    setMinimumWidth(total + 4);
+    FixWidths(widths);
 }
 
 void BookTableView::ApplySkin() {
     setStyleSheet(QStringLiteral("#positionBookTable { background: %1; } "
                                  "QHeaderView::section { padding: 0; font-size: 11px; }")
                       .arg(Colour(Role::Book).name()));
-}
-
-QRect BookTableView::EditorRect(int row, int column) const {
-    QRect rect = visualRect(model()->index(row, column));
-    if (rect.bottom() >= viewport()->height()) {
-        rect.translate(0, -kTableRow);
-    }
-    return rect;
 }
 
 void BookTableView::PutFront(int row) {
@@ -155,42 +115,15 @@ void BookTableView::PutFront(int row) {
     setting_ = false;
 }
 
-void BookTableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
-    if (!setting_ && current.isValid() && current.row() != previous.row() && reports_.rowSelected) {
-        reports_.rowSelected(current.row());
-    }
-}
-
-void BookTableView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) {
-        return;
-    }
-    setFocus(Qt::MouseFocusReason);
-    const QModelIndex index = indexAt(event->pos());
-    if (!index.isValid()) {
-        return TellLeft();
-    }
+void BookTableView::PutPressed(const QModelIndex& index) {
     setting_ = true;
     setCurrentIndex(index);
     setting_ = false;
-    const bool expands = index.data(BookModel::kExpanderRole).toInt() != static_cast<int>(BookExpander::None);
-    if (index.column() == BookName && expands &&
-        BookDelegate::IsOnExpander(visualRect(index), event->pos())) {
-        if (reports_.expand) {
-            reports_.expand(index.row());
-        }
-    } else if (reports_.cellClicked) {
-        reports_.cellClicked(index.row(), index.column());
-    }
 }
 
-void BookTableView::keyPressEvent(QKeyEvent* event) {
-    const QModelIndex index = currentIndex();
-    if (index.isValid() && reports_.key && reports_.key(PressOf(*event), index.row(), index.column())) {
-        return;
-    }
-    QTableView::keyPressEvent(event);
+std::string BookTableView::ImageAt(const QModelIndex& index, const QPoint& point) const {
+    const bool hit = index.column() == BookName && BookDelegate::IsOnExpander(visualRect(index), point);
+    return hit ? static_cast<const BookModel*>(index.model())->Sheet().ImageAt(index.row()) : std::string();
 }
 
 }  // namespace Tarvik::Seaplan

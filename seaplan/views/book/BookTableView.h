@@ -2,10 +2,8 @@
 #pragma once
 
 #include <QStyledItemDelegate>
-#include <QTableView>
-#include <functional>
 
-#include "seaplan/panels/editors/Keys.h"
+#include "seaplan/views/editors/PanelTable.h"
 
 namespace Tarvik::Seaplan {
 
@@ -21,35 +19,21 @@ class BookDelegate final : public QStyledItemDelegate {
 };
 
 /// The table of waypoints, with fixed columns and rows.
-class BookTableView final : public QTableView {
+class BookTableView final : public PanelTable {
   public:
     explicit BookTableView(QWidget* parent);
-    struct Reports {
-        std::function<void(int, int)> cellClicked;
-        std::function<void(int)> rowSelected;
-        std::function<void(int)> expand;
-        /// A key on the cell in front; false when it means nothing there.
-        std::function<bool(KeyPress, int, int)> key;
-        std::function<void()> left;
-    };
-    void SetReports(Reports reports) { reports_ = std::move(reports); }
     /// Widths need the model's columns.
     void ApplyWidths();
     void ApplySkin();
-    /// Rectangle of a cell in the viewport; a cell below the bottom edge moves up by one row.
-    QRect EditorRect(int row, int column) const;
     /// Puts a row in front, none for -1, without a report.
     void PutFront(int row);
 
   protected:
-    void mousePressEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    std::string ImageAt(const QModelIndex& index, const QPoint& point) const override;
+    void PutPressed(const QModelIndex& index) override;
+    bool IsSetting() const override { return setting_; }
 
   private:
-    void TellLeft();
-
-    Reports reports_;
     bool setting_ = false;  ///< the program puts a row in front
 };
 

@@ -39,16 +39,19 @@ void BookWindow::Attach(CPosBookDlg* panel) {
                 [&cells] { cells.CommitEditors(); }});
     table_->SetReports(
         {[&cells](int row, int column) { cells.OnCellClicked(row, column); },
-         [&cells](int row) { cells.OnRowSelected(row); },
-         [this, &commands](int row) { commands.OnItemImage(row, model_->Sheet().ImageAt(row)); },
+         [&commands](int row, const std::string& image) { commands.OnItemImage(row, image); },
          [&commands](KeyPress press, int row, int column) { return commands.OnTableKey(press, row, column); },
-         [&cells] { cells.CommitEditors(); }});
+         [&cells] { cells.CommitEditors(); }, [&cells](int row) { cells.OnRowSelected(row); }});
     head_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnSaveKey(); },
                        [&commands] { commands.OnCancel(); }, [&commands] { commands.OnUndo(); },
                        [&commands] { commands.OnRedo(); }, [&commands] { commands.OnInsert(); },
                        [&commands] { commands.OnDelete(); }});
-    foot_->SetReports({[&cells] { cells.CommitEditors(); },
-                       [&commands](UnitKind kind, int index) { commands.OnUnitChosen(kind, index); }});
+    foot_->SetReports(
+        {[&cells](UnitKind kind) {
+             cells.CommitEditors();
+             return std::vector{BookUnitText(kind, 0), BookUnitText(kind, 1)};
+         },
+         [&commands](UnitKind kind, int index, const std::string&) { commands.OnUnitChosen(kind, index); }});
     // A press anywhere outside the table ends the editing.
     new OutsidePress(
         this, [this](const QWidget& widget) { return !isVisible() || editors_->Holds(widget); },

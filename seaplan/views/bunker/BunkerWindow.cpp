@@ -63,11 +63,13 @@ void BunkerWindow::MakeRows() {
     grid->setHorizontalSpacing(2 * Skin::kGrid);
     grid->setVerticalSpacing(Skin::kGrid);
     for (std::size_t i = 0; i < kRows.size(); ++i) {
-        labels_[i] = new QLabel(this);
-        units_[i] = new QLabel(this);
-        units_[i]->setProperty("secondary", true);
-        grid->addWidget(labels_[i], static_cast<int>(i), 0);
-        grid->addWidget(units_[i], static_cast<int>(i), 4);
+        auto* label = new QLabel(this);
+        TieText(*label, kRows[i].label);
+        auto* unit = new QLabel(this);
+        TieText(*unit, kRows[i].unit);
+        unit->setProperty("secondary", true);
+        grid->addWidget(label, static_cast<int>(i), 0);
+        grid->addWidget(unit, static_cast<int>(i), 4);
     }
     for (std::size_t i = 0; i < kFields.size(); ++i) {
         auto* field = new QLineEdit(this);
@@ -90,6 +92,7 @@ void BunkerWindow::MakeButtons() {
     undo_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
     save_ = new QPushButton(this);
     save_->setObjectName(QStringLiteral("saveFiguresButton"));
+    TieText(*save_, TextId::IDC_BK_BT_SAVE);
     save_->setProperty("primary", true);
     save_->setAutoDefault(false);
     save_->setFocusPolicy(Qt::TabFocus);
@@ -145,13 +148,8 @@ void BunkerWindow::ShowState(bool dirty, bool editable) {
     }
 }
 
-void BunkerWindow::ApplyTexts() {
+void BunkerWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
-    for (std::size_t i = 0; i < kRows.size(); ++i) {
-        labels_[i]->setText(ViewText(kRows[i].label));
-        units_[i]->setText(ViewText(kRows[i].unit));
-    }
-    save_->setText(ViewText(TextId::IDC_BK_BT_SAVE));
     // A new text takes the button's shortcut away; the hint tells it.
     save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
     ShowState(dirty_, editable_);

@@ -6,7 +6,6 @@
 #include "seaplan/panels/bunker/BunkerView.h"
 #include "seaplan/views/window/FloatingPanel.h"
 
-class QLabel;
 class QLineEdit;
 class QPushButton;
 class QToolButton;
@@ -23,10 +22,10 @@ class BunkerWindow final : public PanelFrame<BunkerView> {
 
     void ShowFigures(const BunkerFigures& figures) override;
     void ShowState(bool dirty, bool editable) override;
-    void ApplyTexts() override;
     void ApplySkin() override;
 
   protected:
+    void ApplyClassTexts(QWidget& window) override;
     void FocusFirst() override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -35,8 +34,6 @@ class BunkerWindow final : public PanelFrame<BunkerView> {
     void MakeButtons();
 
     std::array<QLineEdit*, BunkerFigureCount> fields_{};
-    std::array<QLabel*, 3> labels_{};
-    std::array<QLabel*, 3> units_{};
     QToolButton* undo_;
     QPushButton* save_;
     bool dirty_ = false;

@@ -50,10 +50,11 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
         {[&cells](int row, int column) { cells.OnCellClicked(row, column); },
          [&rows](int row, const std::string& name) { rows.OnItemImage(row, name); },
          [&rows](KeyPress press, int row, int column) { return rows.OnTableKey(press, row, column); },
-         [&cells] { cells.CommitEditors(); }});
+         [&cells] { cells.CommitEditors(); },
+         {}});
     summary_->SetReports(
         {[&commands](UnitKind kind) { return commands.OnUnitsAsked(kind); },
-         [&commands](UnitKind kind, const std::string& unit) { commands.OnUnitChosen(kind, unit); }});
+         [&commands](UnitKind kind, int, const std::string& unit) { commands.OnUnitChosen(kind, unit); }});
     buttons_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnClear(); },
                           [&commands] { commands.OnPositionBook(); },
                           [&commands] { commands.OnCalculate(); }});

@@ -14,6 +14,7 @@
 
 #include <tarvik/skin/Palette.h>
 
+#include "seaplan/views/editors/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -83,11 +84,7 @@ RemarkListView::RemarkListView(QWidget* parent) : QListView(parent), model_(new 
     setModel(model_);
     setItemDelegate(new RemarkDelegate(this));
     setUniformItemSizes(true);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    SetUpRows(*this);
     setMouseTracking(true);
     ensurePolished();
     setFixedWidth(kColumnWidth + verticalScrollBar()->sizeHint().width() + 2);

@@ -79,6 +79,7 @@ QWidget* RemarkWindow::MakeButtons() {
     sort_->setCheckable(true);
     save_ = new QPushButton(this);
     save_->setObjectName(QStringLiteral("saveRemarkButton"));
+    TieText(*save_, TextId::IDS_VIEW_REMARKSAVE);
     save_->setProperty("primary", true);
     save_->setAutoDefault(false);
     save_->setFocusPolicy(Qt::TabFocus);
@@ -176,7 +177,7 @@ void RemarkWindow::keyPressEvent(QKeyEvent* event) {
     QTimer::singleShot(0, this, [this] { CloseAsked(); });
 }
 
-void RemarkWindow::ApplyTexts() {
+void RemarkWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
     list_->ApplyTexts();
     Skin::Describe(sort_, ViewText(TextId::IDC_BTN_SORT));
@@ -184,7 +185,6 @@ void RemarkWindow::ApplyTexts() {
     subject_->setPlaceholderText(ViewText(TextId::IDS_VIEW_REMARKSUBJECT));
     Skin::Describe(body_, ViewText(TextId::IDS_VIEW_REMARKBODY));
     body_->setPlaceholderText(ViewText(TextId::IDS_VIEW_REMARKBODY));
-    save_->setText(ViewText(TextId::IDS_VIEW_REMARKSAVE));
     // A new text takes the button's shortcut away; the hint tells it.
     save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
     ShowState(state_);

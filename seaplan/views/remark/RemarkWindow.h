@@ -30,10 +30,10 @@ class RemarkWindow final : public PanelFrame<RemarkView> {
     void ShowTitle(const RemarkTitle& title) override;
     void BringRowIntoView(int row) override;
     void FocusSubject() override;
-    void ApplyTexts() override;
     void ApplySkin() override;
 
   protected:
+    void ApplyClassTexts(QWidget& window) override;
     void FocusFirst() override;
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/util/StringUtl.h>
-
-#include "seaplan/calculation/book/BookPanel.h"
 #include "seaplan/panels/book/tests/BookFixture.h"
 
 /// Opening, rows, units and events of the position book.
