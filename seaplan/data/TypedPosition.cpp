@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-/// A text is cut into numbers, letters of a hemisphere and separators; whatever else stands in it makes it no
-/// position. Of one coordinate there are one to three numbers, of which only the last has a fraction. A
-/// number without separators holds degrees with minutes, or with seconds too, where it is too long or too
-/// great for degrees alone. A pair is tried at every place where it can be cut, and must be legal in one way
-/// only, or in reading order. Cost: the square of the length, for texts of a few dozen characters.
+/// A text is cut into its parts (CoordinateParts.h). Of one coordinate there are one to three numbers, of
+/// which only the last has a fraction. A number without separators holds degrees with minutes, or with
+/// seconds too, where it is too long or too great for degrees alone. A pair is tried at every place where it
+/// can be cut, and must be legal in one way only, or in reading order. Cost: the square of the length, for
+/// texts of a few dozen characters.
 #include "seaplan/data/TypedPosition.h"
 
 #include <algorithm>
@@ -13,6 +13,8 @@
 #include <vector>
 
 #include <tarvik/util/StringUtl.h>
+
+#include "seaplan/data/CoordinateParts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -24,105 +26,6 @@ constexpr std::size_t kLongestText = 200;
 
 double MostOf(Axis axis) {
     return axis == Axis::Latitude ? 90 : 180;
-}
-
-/// What stands in for what in typed and pasted texts; longer ones first.
-struct Spelling {
-    std::string_view typed;
-    std::string_view meant;
-};
-constexpr Spelling kSpellings[] = {
-    {"degrees", " "}, {"minutes", " "}, {"seconds", " "}, {"deg", " "},    {"min", " "},    {"sec", " "},
-    {"north", "N"},   {"south", "S"},   {"east", "E"},    {"west", "W"},   {"°", " "},      {"º", " "},
-    {"˚", " "},       {"′", " "},       {"″", " "},       {"’", " "},      {"‘", " "},      {"“", " "},
-    {"”", " "},       {"＇", " "},      {"＂", " "},      {"\u00A0", " "}, {"\u3000", " "}, {"\u2212", "-"},
-    {"\u2013", "-"},  {"'", " "},       {"\"", " "},      {":", " "},      {"北纬", "N"},   {"南纬", "S"},
-    {"东经", "E"},    {"西经", "W"},    {"北緯", "N"},    {"南緯", "S"},   {"東經", "E"},   {"西經", "W"},
-    {"度", " "},      {"分", " "},      {"秒", " "}};
-
-/// The text in capital letters, with blanks for signs of degrees, minutes and seconds.
-std::string Plain(const std::string& text) {
-    std::string plain;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto known =
-            std::find_if(std::begin(kSpellings), std::end(kSpellings), [&](const Spelling& one) {
-                return text.size() - i >= one.typed.size() &&
-                       std::equal(one.typed.begin(), one.typed.end(),
-                                  text.begin() + static_cast<std::ptrdiff_t>(i),
-                                  [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); });
-            });
-        if (known != std::end(kSpellings)) {
-            plain += known->meant;
-            i += known->typed.size();
-            continue;
-        }
-        const char c = text[i++];
-        plain += c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c == '\n' || c == '\r' ? '\t' : c;
-    }
-    return plain;
-}
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-bool IsLetter(char c) {
-    return c == 'N' || c == 'S' || c == 'E' || c == 'W';
-}
-
-/// One coordinate cut into its parts.
-struct Parts {
-    std::vector<std::string> numbers;  ///< digits, at most one "." in each
-    char letter = 0;                   ///< of the hemisphere, 0 for none
-    bool negative = false;
-};
-
-std::string_view Trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    const auto last = text.find_last_not_of(" \t");
-    return first == std::string_view::npos ? std::string_view() : text.substr(first, last - first + 1);
-}
-
-/// Takes the letter at one end, which stands there once.
-bool TakeLetter(std::string_view& text, Parts& parts) {
-    for (const bool front : {true, false}) {
-        if (!text.empty() && IsLetter(front ? text.front() : text.back())) {
-            if (parts.letter != 0) {
-                return false;
-            }
-            parts.letter = front ? text.front() : text.back();
-            text = Trimmed(front ? text.substr(1) : text.substr(0, text.size() - 1));
-        }
-    }
-    return true;
-}
-
-std::optional<Parts> Cut(std::string_view text) {
-    Parts parts;
-    text = Trimmed(text);
-    if (!TakeLetter(text, parts)) {
-        return std::nullopt;
-    }
-    if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
-        parts.negative = text.front() == '-';
-        text.remove_prefix(1);
-    }
-    bool open = false;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        if (IsDigit(c) || c == '.' || c == ',') {
-            if (!open) {
-                parts.numbers.emplace_back();
-                open = true;
-            }
-            parts.numbers.back() += c == ',' ? '.' : c;
-        } else if (c == ' ' || (c == '-' && open && i + 1 < text.size() && IsDigit(text[i + 1]))) {
-            open = false;
-        } else {
-            return std::nullopt;
-        }
-    }
-    return parts;
 }
 
 bool IsNumber(const std::string& number) {
@@ -161,7 +64,7 @@ std::vector<std::string> Split(const std::string& number, Axis axis) {
 }
 
 /// Degrees without sign, at most those of the axis.
-std::optional<double> Magnitude(const Parts& parts, Axis axis) {
+std::optional<double> Magnitude(const CoordinateParts& parts, Axis axis) {
     if (parts.numbers.empty() || parts.numbers.size() > 3) {
         return std::nullopt;
     }
@@ -180,7 +83,7 @@ std::optional<double> Magnitude(const Parts& parts, Axis axis) {
     return split && *split <= MostOf(axis) ? split : std::nullopt;
 }
 
-std::optional<double> ReadParts(const Parts& parts, Axis axis) {
+std::optional<double> ReadParts(const CoordinateParts& parts, Axis axis) {
     const bool northSouth = parts.letter == 'N' || parts.letter == 'S';
     if (parts.letter != 0 && (northSouth != (axis == Axis::Latitude) || parts.negative)) {
         return std::nullopt;
@@ -191,8 +94,8 @@ std::optional<double> ReadParts(const Parts& parts, Axis axis) {
 }
 
 std::optional<Position> ReadPair(std::string_view first, std::string_view second) {
-    const auto one = Cut(first);
-    const auto two = Cut(second);
+    const auto one = CutCoordinate(first);
+    const auto two = CutCoordinate(second);
     if (!one || !two || (one->letter == 0) != (two->letter == 0)) {
         return std::nullopt;
     }
@@ -204,11 +107,11 @@ std::optional<Position> ReadPair(std::string_view first, std::string_view second
 
 /// Where a pair with letters is cut: behind the first letter, or before the second where they lead.
 std::optional<Position> ReadByLetters(const std::string& plain) {
-    const auto first = std::find_if(plain.begin(), plain.end(), IsLetter);
+    const auto first = std::find_if(plain.begin(), plain.end(), IsHemisphere);
     if (first == plain.end()) {
         return std::nullopt;
     }
-    const auto second = std::find_if(first + 1, plain.end(), IsLetter);
+    const auto second = std::find_if(first + 1, plain.end(), IsHemisphere);
     if (second == plain.end()) {
         return std::nullopt;
     }
@@ -232,7 +135,7 @@ std::optional<double> ReadTypedDegrees(const std::string& text, Axis axis) {
     if (text.size() > kLongestText) {
         return std::nullopt;
     }
-    const auto parts = Cut(Plain(text));
+    const auto parts = CutCoordinate(PlainSigns(text));
     return parts ? ReadParts(*parts, axis) : std::nullopt;
 }
 
@@ -240,8 +143,8 @@ std::optional<Position> ReadTypedPosition(const std::string& text) {
     if (text.size() > kLongestText) {
         return std::nullopt;
     }
-    const std::string plain = Plain(text);
-    if (std::any_of(plain.begin(), plain.end(), IsLetter)) {
+    const std::string plain = PlainSigns(text);
+    if (std::any_of(plain.begin(), plain.end(), IsHemisphere)) {
         return ReadByLetters(plain);
     }
     const std::string_view whole = Trimmed(plain);

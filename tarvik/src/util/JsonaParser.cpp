@@ -163,7 +163,7 @@ const char* JsonaParser::Quoted(const char* open) {
         }
         if (*at == '\0') {
             if (at == end_) {
-                return Fail(end_, "text without closing quote");
+                return Fail(end_, kOpenText);
             }
             ++at;
             continue;
@@ -171,7 +171,7 @@ const char* JsonaParser::Quoted(const char* open) {
         do {
             const int length = Utf8SequenceLength(at);
             if (length == 0) {
-                return Fail(at, "bad UTF-8");
+                return Fail(at, kBadUtf8);
             }
             at += length;
         } while (static_cast<signed char>(*at) < 0);
@@ -181,32 +181,10 @@ const char* JsonaParser::Quoted(const char* open) {
 // Goes on from the first backslash, `at`; the text is put together in the arena.
 const char* JsonaParser::Decoded(const char* open, const char* at) {
     const std::size_t start = document_.arena.size();
-    const char* pending = open + 1;
-    for (;;) {
-        if (*at == '"' || *at == '\\') {
-            document_.arena.append(pending, at);
-        }
-        if (*at == '"') {
-            break;
-        }
-        if (*at == '\\') {
-            at = pending = Escape(at);
-            if (at == nullptr) {
-                return nullptr;
-            }
-        } else if (*at == '\0') {
-            if (at == end_) {
-                return Fail(end_, "text without closing quote");
-            }
-            ++at;
-        } else {
-            const int length = Utf8SequenceLength(at);
-            if (length == 0) {
-                return Fail(at, "bad UTF-8");
-            }
-            at += length;
-        }
-        at = FindTextStop(at);
+    JsonaFault fault;
+    at = DecodeText({open + 1, end_}, at, document_.arena, fault);
+    if (at == nullptr) {
+        return Fail(fault.at, fault.text);
     }
     JsonaNode node;
     node.start = static_cast<std::uint32_t>(start);
@@ -215,56 +193,6 @@ const char* JsonaParser::Decoded(const char* open, const char* at) {
     node.decoded = true;
     stack_.push_back(node);
     return at + 1;
-}
-
-const char* JsonaParser::Escape(const char* at) {
-    char c = 0;
-    switch (at[1]) {
-        case '"':
-        case '\\':
-        case '/':
-            c = at[1];
-            break;
-        case 'b':
-            c = '\b';
-            break;
-        case 'f':
-            c = '\f';
-            break;
-        case 'n':
-            c = '\n';
-            break;
-        case 'r':
-            c = '\r';
-            break;
-        case 't':
-            c = '\t';
-            break;
-        case 'u':
-            return Unicode(at);
-        default:
-            return Fail(at, "bad escape");
-    }
-    document_.arena += c;
-    return at + 2;
-}
-
-const char* JsonaParser::Unicode(const char* at) {
-    const int unit = HexUnit(at + 2);
-    if (unit < 0) {
-        return Fail(at, "bad escape");
-    }
-    if (unit < 0xD800 || unit > 0xDFFF) {
-        AppendUtf8(document_.arena, static_cast<std::uint32_t>(unit));
-        return at + 6;
-    }
-    const int low = unit < 0xDC00 && at[6] == '\\' && at[7] == 'u' ? HexUnit(at + 8) : -1;
-    if (low < 0xDC00 || low > 0xDFFF) {
-        return Fail(at, "lone surrogate");
-    }
-    AppendUtf8(document_.arena, 0x10000U + (static_cast<std::uint32_t>(unit - 0xD800) << 10) +
-                                    static_cast<std::uint32_t>(low - 0xDC00));
-    return at + 12;
 }
 
 // The digits are read when somebody asks for them.

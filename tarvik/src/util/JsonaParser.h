@@ -34,8 +34,6 @@ class JsonaParser {
     const char* Key(const char* at);
     const char* Quoted(const char* at);
     const char* Decoded(const char* open, const char* at);
-    const char* Escape(const char* at);
-    const char* Unicode(const char* at);
     const char* Number(const char* at);
     const char* Word(const char* at, std::string_view text, Jsona::Kind kind);
     const char* Fail(const char* at, const char* text);

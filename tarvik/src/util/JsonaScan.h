@@ -158,4 +158,24 @@ inline int Utf8SequenceLength(const char* at) {
     return 4;
 }
 
+/// Why a text of JSON is bad.
+inline constexpr const char* kOpenText = "text without closing quote";
+inline constexpr const char* kBadUtf8 = "bad UTF-8";
+
+/// Where a text is bad, and why.
+struct JsonaFault {
+    const char* at = nullptr;
+    const char* text = "";
+};
+
+/// From where a text of JSON begins, behind its opening quote, to where the source ends in zero bytes.
+struct JsonaTextRange {
+    const char* begin;
+    const char* end;
+};
+
+/// Appends to `arena` what a text with escapes means, whose first backslash is at `at`. The place of its
+/// closing quote; null, with `fault` set and the arena of no use, for a text that is bad.
+const char* DecodeText(const JsonaTextRange& range, const char* at, std::string& arena, JsonaFault& fault);
+
 }  // namespace Tarvik::Util::Scan
