@@ -7,7 +7,6 @@
 #include <tarvik/skin/Palette.h>
 
 #include "seaplan/views/book/BookModel.h"
-#include "seaplan/views/editors/TableMeasures.h"
 
 namespace Tarvik::Seaplan {
 

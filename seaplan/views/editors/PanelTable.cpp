@@ -6,7 +6,6 @@
 #include <QScrollBar>
 
 #include "seaplan/views/editors/QtKeys.h"
-#include "seaplan/views/editors/TableMeasures.h"
 
 namespace Tarvik::Seaplan {
 

@@ -10,6 +10,9 @@
 
 namespace Tarvik::Seaplan {
 
+inline constexpr int kTableRow = 20;     ///< height of a row of every table, in pixels
+inline constexpr int kTableHeader = 34;  ///< height of its titles
+
 /// How rows are shown in all panels: one of them at a time in front, scrolled by pixels beside a bar that is
 /// always there, and edited only by what the panel opens over them.
 void SetUpRows(QAbstractItemView& rows);

@@ -20,7 +20,7 @@ PortCallWindow::PortCallWindow(QWidget* mainView)
     table_ = new PortCallTableView(this);
     table_->setModel(model_);
     table_->ApplyWidths();
-    table_->setMinimumHeight(34 + 9 * 20 + 4);
+    table_->setMinimumHeight(kTableHeader + 9 * kTableRow + 4);
     summary_ = new PortCallSummary(this);
     buttons_ = new PortCallButtons(this);
     note_ = new QLabel(this);

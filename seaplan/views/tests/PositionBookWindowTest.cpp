@@ -205,6 +205,17 @@ TEST_F(PositionBookWindowTest, AWaypointIsInsertedAndDeletedFromTheKeyboardAndUn
     EXPECT_FALSE(Changed());
 }
 
+TEST_F(PositionBookWindowTest, AKeyThatTheEditorHasNoUseForGoesNoFurther) {
+    OpenBook();
+    ClickCell(1, BookSpeed);
+    ASSERT_TRUE(Editor().isVisible());
+    const QString below = Cell(1, BookName);
+    QTest::keyClick(&Editor(), Qt::Key_Insert);
+    EXPECT_TRUE(Editor().isVisible());
+    EXPECT_EQ(Cell(1, BookName), below) << "in the table it means a new waypoint";
+    EXPECT_FALSE(Changed());
+}
+
 TEST_F(PositionBookWindowTest, AnEditorOpensByF2AndTabGoesOnInTheRow) {
     OpenBook();
     ClickExpander(0);
