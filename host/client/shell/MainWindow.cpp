@@ -16,6 +16,7 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>
+#include <tarvik/bus/SiblingContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/skin/WindowMessages.h>
 
@@ -26,6 +27,7 @@
 namespace Tarvik::Client {
 
 using Interface::PanelCode::kDistances;
+using Interface::PanelCode::kFleet;
 using Interface::PanelCode::kVoyages;
 
 MainWindow::MainWindow(ClientSession& session)
@@ -70,6 +72,7 @@ std::vector<MainTools::Tool> MainWindow::Tools() {
         {"VOYAGES", "voyages", "Ctrl+L", [this] { TogglePanel(kVoyages); }},
         {"DISTANCES", "distances", "Ctrl+D", [this] { TogglePanel(kDistances); }, true},
         {"SHIPS", "ships", "Ctrl+H", [] { ToggleShips(); }},
+        {"FLEET", "fleet", "Ctrl+E", [this] { TogglePanel(kFleet); }},
         {"ZOOM_IN", "zoomin", "Ctrl++", [this] { ChartCommand("zoomin"); }},
         {"ZOOM_OUT", "zoomout", "Ctrl+-", [this] { ChartCommand("zoomout"); }},
         {"FIT", "fit", "Ctrl+0", [this] { ChartCommand("fit"); }, true},
@@ -116,6 +119,7 @@ void MainWindow::ApplyTheme() {
 void MainWindow::AttachPlugins() {
     tools_.Action("DISTANCES")->setVisible(Interface::IsOffered(Interface::Bus::AddPortName));
     tools_.Action("SHIPS")->setVisible(Interface::IsOffered(Interface::Bus::ShowShips));
+    tools_.Action("FLEET")->setVisible(Interface::IsOffered(Interface::Bus::AllVessels));
     AttachChart();
 }
 

@@ -139,7 +139,7 @@ TEST(ShippedLanguages, AreAtLeastEnglishAndBothFormsOfChinese) {
 
 TEST(ShippedLanguages, HaveTheKeysOfTheEnglishFilesAndNoOthers) {
     for (const Language& language : LanguageFiles::In(CLIENT_LANGUAGES)) {
-        for (const char* component : {"ais", "client", "seaplan"}) {
+        for (const char* component : {"ais", "client", "fleet", "infosearch", "seaplan"}) {
             EXPECT_EQ(KeysOf(component, language.code), KeysOf(component, kReferenceLanguage))
                 << component << " " << language.code;
         }

@@ -11,6 +11,8 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>
+#include <tarvik/bus/SiblingContract.h>
+#include <tarvik/interface/SiblingRecords.h>
 
 #include "host/client/shell/MainWindow.h"
 #include "host/client/tests/TemporaryFolder.h"
@@ -88,6 +90,22 @@ TEST_F(ShellTest, TheShipsToolIsThereForAPluginThatHasShipsAndTurnsThem) {
     EXPECT_FALSE(shown);
     window.findChild<QAction*>("action_ships")->trigger();
     EXPECT_TRUE(shown);
+}
+
+TEST_F(ShellTest, TheFleetToolIsThereForAPluginThatHasVesselsAndAsksForItsPanel) {
+    MainWindow window(*session_);
+    const auto* tool = window.findChild<QAction*>("action_fleet");
+    window.AttachPlugins();
+    EXPECT_FALSE(tool->isVisible());
+    const std::vector<Interface::FleetEntry> vessels;
+    const auto fleet = Interface::Offer(Interface::Bus::AllVessels, [&vessels] { return &vessels; });
+    int asked = 0;
+    const auto panels = Interface::Subscribe(
+        Interface::Bus::ShowPanel, [&asked](const Interface::PanelShow& show) { asked = show.panel; });
+    window.AttachPlugins();
+    EXPECT_TRUE(tool->isVisible());
+    window.findChild<QAction*>("action_fleet")->trigger();
+    EXPECT_EQ(asked, Interface::PanelCode::kFleet);
 }
 
 TEST_F(ShellTest, TheZoneLabelIsTheZoneOfTheTimesOnShow) {

@@ -15,7 +15,7 @@ namespace {
 
 using namespace Tarvik;
 
-/// The panel's number in the event that opens panels; 3 and 21 are taken.
+/// The panel's number in the event that opens panels; 3, 21 and 22 are taken.
 constexpr int kAnchorPanel = 100;
 /// Takes a depth in metres, answers the length of chain in metres.
 constexpr Interface::Service<const double, const double> kChain{"ANCHOR_S_CHAIN"};

@@ -14,6 +14,7 @@ struct VoyServerRequest;  // ServerRequest.h
 namespace PanelCode {
 inline constexpr int kVoyages = 3;     ///< the voyage panel
 inline constexpr int kDistances = 21;  ///< the port distance table
+inline constexpr int kFleet = 22;      ///< the user's vessels
 }  // namespace PanelCode
 
 /// Payload of TRV_MAP_WND_SHOW.
