@@ -19,6 +19,8 @@ constexpr const char* kHelpText =
     R"(Seaplan plans sea voyages.
 
   run [options]                       opens the chart with your voyages
+  run --demo [options]                the same with sample voyages whose ships sail, in a data folder of its own
+                                      that goes when it ends (with the sources only)
   run plan PORT PORT [PORT...] [...]  plans a voyage without a window and prints its schedule
 
 Options of both

@@ -12,13 +12,13 @@
 
 #include "host/client/services/AppFolders.h"
 #include "host/client/session/EmbeddedLink.h"
+#include "host/server/app/EmbeddedServer.h"
 
 namespace Tarvik::Client {
 
 namespace {
 
 constexpr std::size_t kLogBytes = 1024 * 1024;
-constexpr const char* kLocalUser = "local";
 
 }  // namespace
 
@@ -60,7 +60,7 @@ bool ClientSession::Start(const SessionOptions& options, std::string& error) {
     if (!link_) {
         return false;
     }
-    services_ = std::make_unique<HostServices>(*link_, kLocalUser, preferences_.timeZone,
+    services_ = std::make_unique<HostServices>(*link_, Server::kLocalUser, preferences_.timeZone,
                                                [this](const std::string& line) { log_.Write(line); });
     return true;
 }

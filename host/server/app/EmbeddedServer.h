@@ -11,6 +11,9 @@
 
 namespace Tarvik::Server {
 
+/// The user of a client that keeps its voyages by itself.
+inline constexpr const char* kLocalUser = "local";
+
 /// The whole voyage server inside one process, on one data base file.
 class EmbeddedServer {
   public:
