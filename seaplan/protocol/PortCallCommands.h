@@ -20,7 +20,9 @@ int ReadPortCalls(const Util::Jsona& reply, PortCallRows& rows);
 std::string PortCallsText(const std::string& vi, const PortCallRows& rows);
 std::string FiguresText(const std::string& vi, const BunkerFigures& figures);
 
-/// Command 10. 0; -1 empty id; -2 no exchange, or no list; -3 none stored; -4 an element without number.
+/// What LoadPortCalls gives for a voyage that has none.
+inline constexpr int kNoPortCalls = -3;
+/// Command 10. 0; -1 empty id; -2 no exchange, or no list; kNoPortCalls; -4 an element without number.
 int LoadPortCalls(const std::string& vi, PortCallRows& rows);
 /// Command 11. Rows without port id get it by name first. 0; -1 empty id or fewer than two rows; -2; -3
 /// refused.

@@ -43,12 +43,11 @@ int VoyageFilling::SaveTable(const std::string& vi, int drawMode) {
 /// A table that could not be read must not replace what the server has.
 bool VoyageFilling::MayReplace(const std::string& vi) {
     constexpr int kNoList = -2;
-    constexpr int kNoneStored = -3;
     PortCallSheet& sheet = desk_.Sheet();
     if (sheet.unread) {
         PortCallRows stored;
         const int read = desk_.Voyages().Module().LoadPortCalls(vi, stored);
-        sheet.unread = read != kNoneStored;
+        sheet.unread = read != kNoPortCalls;
         desk_.Sheet().cause =
             Text(read == kNoList ? TextId::IDS_VIEW_FAULTCONNECTION : TextId::IDS_VIEW_FAULTUNREAD);
     }

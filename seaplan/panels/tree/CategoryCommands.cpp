@@ -69,6 +69,21 @@ int CategoryCommands::AddVoyage() {
     return RefreshCounts(c) == 0 ? 0 : -5;
 }
 
+/// Voyages of a category whose routes are kept on the chart, whatever their state.
+std::set<std::string> CategoryCommands::OnChartOf(const std::string& ci) const {
+    std::set<std::string> kept;
+    const auto voyages = p_.context.store.categoryVoyages.find(ci);
+    if (voyages != p_.context.store.categoryVoyages.end()) {
+        for (const auto& [vi, state] : voyages->second) {
+            const VoyInfo* voyage = p_.context.store.FindVoyage(vi);
+            if (voyage != nullptr && voyage->vr == 1) {
+                kept.insert(vi);
+            }
+        }
+    }
+    return kept;
+}
+
 /// Takes the voyages of a category off the chart and unpins them, whatever their state.
 void CategoryCommands::TakeOffChart(const std::string& ci) {
     TreeContext& c = p_.context;
@@ -93,12 +108,15 @@ int CategoryCommands::Delete() {
     if (c.catalog.DeleteCategory(category.ci) != 0) {
         return -6;
     }
+    TreeStep step{TreeStep::Kind::Delete, false, category.ci, {}, category.cn, OnChartOf(category.ci)};
+    c.steps.Note(std::move(step));
     TakeOffChart(category.ci);
     p_.selection.DropCategoryRow();
     if (c.showDeleted) {
         p_.builder.AddDeletedCategoryRow(category);
     }
     c.categoryNames[category.cn] = InRecycleBin;
+    c.Say(Text(TextId::IDS_VIEW_CANUNDELETE, {category.cn}));
     return 0;
 }
 
@@ -109,6 +127,7 @@ int CategoryCommands::Recover() {
         return -7;
     }
     c.categoryNames[category.cn] = InUse;
+    c.steps.Note({TreeStep::Kind::Recover, false, category.ci, {}, category.cn});
     return reload_() == 0 ? 0 : -8;
 }
 
@@ -128,6 +147,7 @@ int CategoryCommands::Clear() {
         return -9;
     }
     c.categoryNames[category.cn] = Destroyed;
+    c.steps.Forget(category.ci, false);
     p_.selection.DropCategoryRow();
     return 0;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 
 #include "seaplan/panels/tree/TreeParts.h"
@@ -32,6 +33,7 @@ class CategoryCommands {
     int OpenSortPanel();
     int SetDirection(int direction);
     int Rename();
+    std::set<std::string> OnChartOf(const std::string& ci) const;
     void TakeOffChart(const std::string& ci);
 
     TreeParts& p_;

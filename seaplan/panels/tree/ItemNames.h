@@ -39,6 +39,8 @@ inline constexpr const char* kAlert = "Voyage_Alert";
 inline constexpr const char* kReplaceShip = "Voyage_ReplaceShip";
 inline constexpr const char* kRecoverVoyage = "Voyage.child.svr.recover";
 inline constexpr const char* kClearVoyage = "Voyage.child.svr.clear";
+/// No item of a row: a command of the row's menu and of a key.
+inline constexpr const char* kDuplicate = "Voyage_duplicate";
 
 }  // namespace Tarvik::Seaplan::Item
 

@@ -1,7 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/RowSelection.h"
 
+#include "seaplan/panels/language/LoadText.h"
+
 namespace Tarvik::Seaplan {
+
+namespace {
+
+/// What a voyage lacks first, as the next step to take; empty when it has ports and a vessel.
+std::string NextStep(const VoyInfo& voyage) {
+    if (voyage.portCalls.size() < 2) {
+        return Text(TextId::IDS_VIEW_HINTPORTS);
+    }
+    return voyage.vsn.empty() ? Text(TextId::IDS_VIEW_HINTVESSEL) : std::string();
+}
+
+}  // namespace
 
 int RowSelection::Take(TreeRow row) {
     c_.tree.SelectItem(row);
@@ -54,6 +68,7 @@ void RowSelection::Press(TreeRow row) {
         c_.FetchPortCalls(voyage.vi);
     }
     status_.ShowDates(row, voyage);
+    c_.Say(NextStep(voyage));
 }
 
 int RowSelection::Unfold(TreeRow row) {
@@ -64,6 +79,7 @@ int RowSelection::Unfold(TreeRow row) {
     c_.tree.Expand(row, true);
     c_.tree.SelectItem(row);
     status_.ShowAll(row, category->ci);
+    c_.Say(c_.tree.GetChildItem(row) == kNoRow ? Text(TextId::IDS_VIEW_HINTVOYAGE) : std::string());
     return 0;
 }
 

@@ -30,12 +30,13 @@ SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
       notes_(parts_),
       keys_(given.tree,
             {[this](TreeRow row) { OnRowPressed(row); }, [this](TreeRow row) { OnRowPressed(row, true); },
-             [this](TreeRow row, const std::string& item) { OnItemClicked(row, item); },
-             [this] { categories_.Add(categories_.NewName()); }}),
-      categoryCommands_(categories_.Table()),
-      voyageCommands_(voyages_.Table()) {
-    voyageCommands_.merge(vessels_.Table());
-    voyageCommands_.merge(tracks_.Table());
+             [this](TreeRow row, const std::string& item) { return OnItemClicked(row, item); },
+             [this] { categories_.Add(categories_.NewName()); }, [this] { return undo_.Undo(); }}),
+      undo_(parts_, {[this] { return ReloadTree(); },
+                     [this](TreeRow row, const std::string& item) { return OnItemClicked(row, item); }}),
+      commands_{categories_.Table(), voyages_.Table()} {
+    commands_.ofVoyage.merge(vessels_.Table());
+    commands_.ofVoyage.merge(tracks_.Table());
 }
 
 int SeaplanTreeCtrl::ReloadTree() {
@@ -107,6 +108,8 @@ void SeaplanTreeCtrl::ForgetAfterLogout() {
     parts_.remark.Open(kNoRow);
     CloseEditors();
     parts_.context.chartMarks.clear();
+    parts_.context.steps.Clear();
+    parts_.context.Say({});
     parts_.selection.Forget();
 }
 
@@ -117,7 +120,7 @@ void SeaplanTreeCtrl::ApplyLanguage() {
 }
 
 bool SeaplanTreeCtrl::HasCommand(const std::string& item) const {
-    return CommandOf(item, categoryCommands_, voyageCommands_) != nullptr ||
+    return CommandOf(item, commands_.ofCategory, commands_.ofVoyage) != nullptr ||
            CommandOf(item, notes_.OfCategory(), notes_.OfVoyage()) != nullptr;
 }
 
@@ -137,8 +140,8 @@ int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
     if (PortCallOpener* panel = isCategory ? nullptr : parts_.PortCalls()) {
         panel->SetVoyage(parts_.selection.Voyage().vi);
     }
-    const TreeCommand* command = isCategory ? CommandOf(item, categoryCommands_, notes_.OfCategory())
-                                            : CommandOf(item, voyageCommands_, notes_.OfVoyage());
+    const TreeCommand* command = isCategory ? CommandOf(item, commands_.ofCategory, notes_.OfCategory())
+                                            : CommandOf(item, commands_.ofVoyage, notes_.OfVoyage());
     if (command == nullptr) {
         return 1;
     }

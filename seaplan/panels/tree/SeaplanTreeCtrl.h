@@ -7,6 +7,7 @@
 #include "seaplan/panels/tree/NoteCommands.h"
 #include "seaplan/panels/tree/TrackCommands.h"
 #include "seaplan/panels/tree/TreeKeys.h"
+#include "seaplan/panels/tree/TreeUndo.h"
 #include "seaplan/panels/tree/VesselCommands.h"
 #include "seaplan/panels/tree/VoyageCommands.h"
 
@@ -72,8 +73,11 @@ class SeaplanTreeCtrl {
     TrackCommands tracks_;
     NoteCommands notes_;
     TreeKeys keys_;
-    TreeCommands categoryCommands_;
-    TreeCommands voyageCommands_;
+    TreeUndo undo_;
+    struct Commands {
+        TreeCommands ofCategory;
+        TreeCommands ofVoyage;
+    } commands_;
 };
 
 }  // namespace Tarvik::Seaplan

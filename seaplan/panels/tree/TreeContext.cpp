@@ -27,7 +27,6 @@ TreeRow TreeContext::FindVoyageRow(const std::string& vi) const {
 }
 
 void TreeContext::FetchPortCalls(const std::string& vi) const {
-    constexpr int kWithoutDrawing = -1;
     PortCallRows rows;
     voyages.LoadSchedule(vi, rows, kWithoutDrawing);
 }

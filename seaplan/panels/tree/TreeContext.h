@@ -9,10 +9,14 @@
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/tree/TreeRules.h"
+#include "seaplan/panels/tree/TreeSteps.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 #include "seaplan/panels/window/Boxes.h"
 
 namespace Tarvik::Seaplan {
+
+/// Draw mode of a schedule that is only read.
+inline constexpr int kWithoutDrawing = -1;
 
 enum DrawState : int { OnChart = 2, OffChart = 3 };
 
@@ -44,6 +48,15 @@ struct TreeContext : TreeState {
     TreeWidget& tree;
     Boxes boxes;
     std::function<void()> rowsMade;  ///< hears that rows were made anew; empty where nobody cares
+    std::function<void(const std::string&)> line;  ///< shows one line below the rows; empty without a window
+    TreeSteps steps;
+
+    /// Says in one line what was done, or what can be done next; an empty text ends what was said.
+    void Say(const std::string& text) const {
+        if (line) {
+            line(text);
+        }
+    }
 
     VoyCategory* CategoryOf(TreeRow row) const { return static_cast<VoyCategory*>(tree.GetItemData(row)); }
     VoyInfo* VoyageOf(TreeRow row) const { return static_cast<VoyInfo*>(tree.GetItemData(row)); }

@@ -94,6 +94,11 @@ void TreeKeys::Insert(TreeRow row) {
     }
 }
 
+int TreeKeys::Duplicate() {
+    const TreeRow row = tree_.Selected();
+    return row != kNoRow && tree_.GetItemStyle(row) == kVoyageStyle ? ways_.click(row, Item::kDuplicate) : 1;
+}
+
 TreeRow TreeKeys::RowOfKey(TreeRow current) const {
     return tree_.Selected() != kNoRow ? tree_.Selected() : current;
 }

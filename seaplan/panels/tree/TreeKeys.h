@@ -18,14 +18,20 @@ class TreeKeys {
     struct Ways {
         std::function<void(TreeRow)> select;  ///< what a press on a row does, but for folding
         std::function<void(TreeRow)> press;   ///< a press on a row beside its items
-        std::function<void(TreeRow, const std::string&)> click;
+        std::function<int(TreeRow, const std::string&)> click;
         std::function<void()> addCategory;
+        std::function<int()> undo;
     };
     TreeKeys(TreeWidget& tree, Ways ways) : tree_(tree), ways_(std::move(ways)) {}
 
     /// A key while the keyboard is on the row `current`, kNoRow for none, and on the item `focused` of the
     /// selected row, empty for none. False when it means nothing here.
     bool OnKey(Key key, TreeRow current, const std::string& focused);
+
+    /// TreeUndo::Undo.
+    int Undo() { return ways_.undo(); }
+    /// The selected voyage once more; without one nothing is done. Results as of a click.
+    int Duplicate();
 
     /// The row whose menu opens by the key: the selected one, else the one with the keyboard. One that was
     /// not selected is pressed first, as by the mouse, so that the menu offers what the row has.

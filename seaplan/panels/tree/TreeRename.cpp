@@ -93,9 +93,11 @@ int TreeRename::CommitCategory(TreeRow row, const std::string& name) {
     if (Taken(c_.categoryNames, name, category->cn)) {
         return -7;
     }
+    TreeStep step{TreeStep::Kind::Rename, false, category->ci, {}, category->cn};
     if (c_.catalog.RenameCategory(category->ci, name) != 0) {
         return -8;
     }
+    c_.steps.Note(std::move(step));
     c_.categoryNames[name] = InUse;
     c_.tree.SetItemText(row, name);
     return unfold_(row) == 0 ? 0 : -9;
@@ -115,9 +117,11 @@ int TreeRename::CommitVoyage(TreeRow row, const std::string& name) {
     if (Taken(c_.voyageNames, name, voyage->vn)) {
         return -13;
     }
+    TreeStep step{TreeStep::Kind::Rename, true, voyage->vi, {}, voyage->vn};
     if (c_.catalog.RenameVoyage(voyage->vi, name) != 0) {
         return -14;
     }
+    c_.steps.Note(std::move(step));
     c_.voyageNames[name] = InUse;
     c_.tree.SetItemText(row, name);
     return 0;

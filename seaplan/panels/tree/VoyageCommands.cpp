@@ -2,6 +2,7 @@
 #include "seaplan/panels/tree/VoyageCommands.h"
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/tree/DuplicateVoyage.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
 
@@ -16,7 +17,8 @@ TreeCommands VoyageCommands::Table() {
             {Item::kRenameVoyage, [this] { return Rename(); }},
             {Item::kDeleteVoyage, [this] { return Delete(); }},
             {Item::kRecoverVoyage, [this] { return Recover(); }},
-            {Item::kClearVoyage, [this] { return Clear(); }}};
+            {Item::kClearVoyage, [this] { return Clear(); }},
+            {Item::kDuplicate, [this] { return Duplicate(); }}};
 }
 
 int VoyageCommands::Pin() {
@@ -60,6 +62,35 @@ int VoyageCommands::Rename() {
     return 0;
 }
 
+int VoyageCommands::Duplicate() {
+    // What is copied is what was saved, so changes on show are saved or given up first.
+    PortCallOpener* panel = p_.PortCalls();
+    if (panel != nullptr && !panel->AskToLeave()) {
+        return 0;
+    }
+    TreeContext& c = p_.context;
+    const std::string ci = p_.selection.Category().ci;
+    const std::string name = p_.selection.Voyage().vn;
+    std::string vi;
+    const CopyFault fault = DuplicateVoyage(c, ci, p_.selection.Voyage().vi, vi);
+    if (fault != CopyFault::None) {
+        c.boxes.Notice(
+            TextId::IDS_VIEW_COPYFAILED,
+            Text(fault == CopyFault::NotRead ? TextId::IDS_VIEW_COPYNOTREAD : TextId::IDS_VIEW_COPYNOTSAVED,
+                 {name}));
+        return -43;
+    }
+    if (p_.builder.RebuildCategory(ci) != 0) {
+        return -44;
+    }
+    RefreshCounts(c);
+    const TreeRow row = c.FindVoyageRow(vi);
+    c.tree.SetCursor(row);
+    p_.selection.Press(row);
+    p_.rename.Begin(row, true);
+    return 0;
+}
+
 int VoyageCommands::DropRow() {
     const std::string ci = p_.selection.Category().ci;
     p_.selection.DropVoyageRow();
@@ -72,9 +103,15 @@ int VoyageCommands::DropRow() {
 int VoyageCommands::Delete() {
     TreeContext& c = p_.context;
     const VoyInfo& voyage = p_.selection.Voyage();
-    if (c.catalog.DeleteVoyage(p_.selection.Category().ci, voyage.vi) != 0) {
+    TreeStep step{TreeStep::Kind::Delete, true, voyage.vi, p_.selection.Category().ci, voyage.vn};
+    step.traced = voyage.va == 1;
+    if (voyage.vr == 1) {
+        step.onChart.insert(voyage.vi);
+    }
+    if (c.catalog.DeleteVoyage(step.category, voyage.vi) != 0) {
         return -29;
     }
+    c.steps.Note(std::move(step));
     if (c.voyages.RemoveVoyageObjects(voyage.vi) != 0) {
         return -30;
     }
@@ -87,6 +124,7 @@ int VoyageCommands::Delete() {
     const int dropped = DropRow();
     if (dropped == 0) {
         c.voyageNames[voyage.vn] = InRecycleBin;
+        c.Say(Text(TextId::IDS_VIEW_CANUNDELETE, {voyage.vn}));
     }
     return dropped;
 }
@@ -97,6 +135,7 @@ int VoyageCommands::Recover() {
         return -34;
     }
     p_.context.voyageNames[voyage.vn] = InUse;
+    p_.context.steps.Note({TreeStep::Kind::Recover, true, voyage.vi, p_.selection.Category().ci, voyage.vn});
     return DropRow();
 }
 
@@ -110,6 +149,7 @@ int VoyageCommands::Clear() {
         return -35;
     }
     p_.context.voyageNames[voyage.vn] = Destroyed;
+    p_.context.steps.Forget(voyage.vi, true);
     return DropRow();
 }
 

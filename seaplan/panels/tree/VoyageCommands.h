@@ -23,6 +23,7 @@ class VoyageCommands {
     int Delete();
     int Recover();
     int Clear();
+    int Duplicate();
     int DropRow();
 
     TreeParts& p_;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 
@@ -26,6 +29,13 @@ VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
     Body()->setContentsMargins(9, 14, 7, 29);
     Body()->addWidget(search_);
     Body()->addWidget(tree_);
+    line_ = new QLabel(this);
+    line_->setObjectName(QStringLiteral("treeLine"));
+    line_->setWordWrap(true);
+    line_->setTextFormat(Qt::PlainText);
+    line_->setProperty("secondary", true);
+    line_->setAutoFillBackground(true);
+    line_->hide();
     resize(310, 460);
 }
 
@@ -52,7 +62,46 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
          [tree](const std::string& text) { tree->Renaming().OnTyped(text); },
          [tree] { tree->Renaming().Commit(); },
          [tree](const std::string& item) { return tree->HasCommand(item); },
-         [tree](TreeRow row) { return tree->Keys().OnMenuKey(row); }});
+         [tree](TreeRow row) { return tree->Keys().OnMenuKey(row); }, [tree] { tree->Keys().Undo(); }});
+    tree->Context().line = [this](const std::string& text) { ShowLine(QString::fromStdString(text)); };
+    AddKeys(tree);
+}
+
+/// Keys of the tree alone: in a field of this window the same keys are the field's.
+void VoyagePanelWindow::AddKeys(SeaplanTreeCtrl* tree) {
+    const auto add = [this](const QKeySequence& keys, auto act) {
+        auto* shortcut = new QShortcut(keys, tree_);
+        shortcut->setContext(Qt::WidgetShortcut);
+        shortcut->setAutoRepeat(false);
+        QObject::connect(shortcut, &QShortcut::activated, this, act);
+    };
+    add(QKeySequence::Undo, [tree] { tree->Keys().Undo(); });
+    add(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D), [tree] { tree->Keys().Duplicate(); });
+}
+
+/// In the strip below the tree, which is free; a text of more lines covers as much of the tree as it needs.
+void VoyagePanelWindow::ShowLine(const QString& text) {
+    line_->setText(text);
+    line_->setToolTip(text);
+    line_->setVisible(!text.isEmpty());
+    if (!text.isEmpty()) {
+        PlaceLine();
+        QAccessibleEvent told(line_, QAccessible::Alert);
+        QAccessible::updateAccessibility(&told);
+    }
+}
+
+void VoyagePanelWindow::PlaceLine() {
+    const QRect tree = tree_->geometry();
+    const int bottom = height() - 1;
+    const int needed = std::max(bottom - tree.bottom() - 1, line_->heightForWidth(tree.width()));
+    line_->setGeometry(tree.left(), bottom - needed, tree.width(), needed);
+    line_->raise();
+}
+
+void VoyagePanelWindow::resizeEvent(QResizeEvent* event) {
+    PanelFrame::resizeEvent(event);
+    PlaceLine();
 }
 
 void VoyagePanelWindow::FocusFirst() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLabel>
+
 #include "seaplan/panels/window/PanelWindow.h"
 #include "seaplan/views/mainview/SearchBar.h"
 #include "seaplan/views/tree/VoyageTreeView.h"
@@ -31,12 +33,18 @@ class VoyagePanelWindow final : public PanelFrame<PanelWindow> {
     void ApplyClassTexts(QWidget& window) override;
     /// Escape ends a search also from the tree.
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void ShowLine(const QString& text);
+    void PlaceLine();
+    void AddKeys(SeaplanTreeCtrl* tree);
+
     VoyageTreeView* tree_;
     VesselBox* vessels_;
     ChoiceBox* filter_;
     SearchBar* search_;
+    QLabel* line_;  ///< what was done in the tree, or what can be done next
     QToolButton* findButton_;
     QToolButton* filterButton_;
     QToolButton* addButton_;

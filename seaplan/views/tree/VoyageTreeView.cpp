@@ -15,6 +15,7 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/tree/RenameField.h"
 #include "seaplan/views/tree/RowDelegate.h"
@@ -169,8 +170,21 @@ void VoyageTreeView::contextMenuEvent(QContextMenuEvent* event) {
                                       reports_.clicked(row, item);
                                   }
                               });
+    AddToMenu(menu, row);
     menu->popup(byKey ? viewport()->mapToGlobal(visualRect(rows_->ItemOf(row)->index()).center())
                       : event->globalPos());
+}
+
+/// What has no image in the row.
+void VoyageTreeView::AddToMenu(QMenu* menu, TreeRow row) {
+    menu->addSeparator();
+    if (rows_->GetItemStyle(row) == kVoyageStyle && HasCommand(Item::kDuplicate)) {
+        menu->addAction(ViewText(TextId::IDS_VIEW_DUPLICATE), this,
+                        [this, row] { reports_.clicked(row, Item::kDuplicate); });
+    }
+    if (reports_.undo) {
+        menu->addAction(ViewText(TextId::IDS_VIEW_TREEUNDO), this, reports_.undo);
+    }
 }
 
 bool VoyageTreeView::focusNextPrevChild(bool next) {

@@ -36,6 +36,7 @@ class VoyageTreeView : public QTreeView {
         std::function<void()> renameDone;
         std::function<bool(const std::string&)> hasCommand;
         std::function<TreeRow(TreeRow)> menuKey;  ///< the row whose menu a key opens on this one
+        std::function<void()> undo;
     };
     void SetReports(Reports reports);
     TreeRows& Rows();
@@ -69,6 +70,7 @@ class VoyageTreeView : public QTreeView {
         return reports_.hasCommand && reports_.hasCommand(item);
     }
     std::vector<SubItem> LayOut(const TreeRowState& state, const QRect& rect, bool selected) const;
+    void AddToMenu(QMenu* menu, TreeRow row);
     void Relayout();
 
     std::unique_ptr<VoyageTreeWidget> rows_;

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+#include "seaplan/panels/tree/TreeParts.h"
+
+namespace Tarvik::Seaplan {
+
+/// Takes back what was done in the tree, the last change first, and says in one line what came back. What the
+/// server does not take stays to be tried again.
+class TreeUndo {
+  public:
+    struct Ways {
+        std::function<int()> reload;  ///< loads all rows anew; negative on failure
+        std::function<int(TreeRow, const std::string&)> click;
+    };
+    TreeUndo(TreeParts& parts, Ways ways) : p_(parts), ways_(std::move(ways)) {}
+
+    /// 0; -51 there is nothing to take back; -52 the server, or a person who was asked, did not want it.
+    int Undo();
+
+  private:
+    bool TakeBack(const TreeStep& step);
+    bool Rename(const TreeStep& step);
+    bool BringVoyage(const TreeStep& step);
+    bool BringCategory(const TreeStep& step);
+    bool DeleteAgain(const TreeStep& step);
+    std::string NameOf(const TreeStep& step) const;
+    std::string ReportOf(const TreeStep& step, const std::string& nameBefore) const;
+
+    TreeParts& p_;
+    Ways ways_;
+};
+
+}  // namespace Tarvik::Seaplan
