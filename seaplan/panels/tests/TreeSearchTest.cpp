@@ -4,6 +4,7 @@
 
 #include "seaplan/panels/tests/TreeFixture.h"
 #include "seaplan/panels/tree/search/TreeSearch.h"
+#include "seaplan/protocol/RemarkList.h"
 
 namespace Tarvik::Seaplan {
 
@@ -219,11 +220,37 @@ TEST_F(TreeSearchTest, TheRecycleBinIsFoundByNameAndAnswersNoReadyQuestion) {
     EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Summer*"));
 }
 
-TEST_F(TreeSearchTest, RemarksThatHaveBeenReadAreSearched) {
-    search.SetRemarkText([this](const std::string& id) {
-        return id == Id("Summer") ? std::string("Draft SURVEY") : std::string();
-    });
+TEST_F(TreeSearchTest, RemarksOfMarkedRowsAreReadBetweenEventsAndSearched) {
+    RemarkList remarks;
+    int seq = 0;
+    ASSERT_TRUE(remarks.AddRemark(VoyageRemark, Id("Summer"), seq, "Draft", "SURVEY at the anchorage"));
+    ASSERT_TRUE(remarks.AddRemark(CategoryRemark, CategoryId("Bulk"), seq, "Survey reports", "none"));
+    Voyage("Summer").vrk = 1;
+    desk.Category("Bulk").crk = 1;
+    desk.ForgetRecords();
     Search("survey");
+    EXPECT_THAT(Rows(), IsEmpty()) << "nothing is read at the key itself";
+    ReadAll();
+    EXPECT_THAT(Rows(), ElementsAre("Bulk*", "Tankers", "  Summer*"));
+    EXPECT_EQ(desk.Count(Ask::kLoadRemarks), 2);
+    search.OnTyped("anchorage");
+    EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Summer*"));
+    search.Close();
+    Search("survey");
+    ReadAll();
+    EXPECT_EQ(desk.Count(Ask::kLoadRemarks), 4) << "each search reads them anew";
+}
+
+TEST_F(TreeSearchTest, RemarksThatCannotBeReadAreNotFoundAndSendNobodyAway) {
+    RemarkList remarks;
+    int seq = 0;
+    ASSERT_TRUE(remarks.AddRemark(VoyageRemark, Id("Summer"), seq, "Survey", "x"));
+    Voyage("Summer").vrk = 1;
+    desk.Lose(Ask::kLoadRemarks);
+    Search("survey");
+    ReadAll();
+    EXPECT_THAT(Rows(), IsEmpty());
+    search.OnTyped("summer");
     EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Summer*"));
 }
 

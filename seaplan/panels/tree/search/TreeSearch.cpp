@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <chrono>
 
+#include "seaplan/protocol/RemarkList.h"
+
 namespace Tarvik::Seaplan {
 
 TreeSearch::TreeSearch(TreeContext& context, SearchView& view) : c_(context), view_(view) {
@@ -57,25 +59,38 @@ void TreeSearch::Close() {
     view_.CloseSearch();
 }
 
-std::string TreeSearch::TextOf(const VoyInfo& voyage) const {
-    std::string text = SearchTextOf(voyage);
-    if (remarkText_) {
-        text.append("\n").append(FoldSearch(remarkText_(voyage.vi)));
+/// What a row is found by, as far as it is known.
+std::string TreeSearch::TextOf(const Entry& entry) const {
+    const VoyInfo* voyage = entry.category == kNoRow ? nullptr : c_.VoyageOf(entry.row);
+    std::string text = voyage == nullptr ? FoldSearch(c_.tree.GetItemText(entry.row)) : SearchTextOf(*voyage);
+    const auto notes = notes_.find(entry.row);
+    return notes == notes_.end() ? text : text.append("\n").append(notes->second);
+}
+
+/// Whether the row's mark says that there are remarks.
+bool TreeSearch::Marked(const Entry& entry) const {
+    if (entry.category == kNoRow) {
+        const VoyCategory* category = c_.CategoryOf(entry.row);
+        return category != nullptr && category->crk > 0;
     }
-    return text;
+    const VoyInfo* voyage = c_.VoyageOf(entry.row);
+    return voyage != nullptr && voyage->vrk > 0;
 }
 
 /// Rows as they are now. Their records may have changed at any row that was made anew.
 void TreeSearch::Collect() {
     entries_.clear();
     unread_.clear();
+    notes_.clear();
     for (TreeRow row = c_.tree.GetRootItem(); row != kNoRow; row = c_.tree.GetNextSiblingItem(row)) {
+        Entry entry{row, kNoRow};
         const VoyCategory* category = c_.CategoryOf(row);
-        std::string text = FoldSearch(c_.tree.GetItemText(row));
-        if (remarkText_ && category != nullptr) {
-            text.append("\n").append(FoldSearch(remarkText_(category->ci)));
+        entry.ci = category == nullptr ? std::string() : category->ci;
+        entry.text = TextOf(entry);
+        if (Marked(entry)) {
+            unread_.push_back(entries_.size());
         }
-        entries_.push_back({row, kNoRow, {}, std::move(text)});
+        entries_.push_back(std::move(entry));
         CollectVoyages(row);
     }
 }
@@ -84,10 +99,10 @@ void TreeSearch::CollectVoyages(TreeRow category) {
     for (TreeRow row = c_.tree.GetChildItem(category); row != kNoRow; row = c_.tree.GetNextSiblingItem(row)) {
         const VoyInfo* voyage = c_.VoyageOf(row);
         Entry entry{row, category};
-        entry.text = voyage == nullptr ? FoldSearch(c_.tree.GetItemText(row)) : TextOf(*voyage);
+        entry.text = TextOf(entry);
         if (voyage != nullptr && c_.tree.GetItemStyle(row) == kVoyageStyle) {
             entry.vi = voyage->vi;
-            if (voyage->portCalls.empty() && !read_.contains(voyage->vi)) {
+            if ((voyage->portCalls.empty() && !read_.contains(voyage->vi)) || Marked(entry)) {
                 unread_.push_back(entries_.size());
             }
         }
@@ -187,6 +202,26 @@ void TreeSearch::OnStep(int by) {
     Count();
 }
 
+/// Port calls of a voyage that were not asked for yet, then remarks.
+void TreeSearch::Read(Entry& entry) {
+    if (c_.tree.GetItemData(entry.row) == nullptr) {
+        return;
+    }
+    if (!entry.vi.empty() && read_.insert(entry.vi).second && c_.VoyageOf(entry.row)->portCalls.empty()) {
+        c_.FetchPortCalls(entry.vi);
+    }
+    if (Marked(entry)) {
+        RemarkList remarks;
+        const bool voyage = entry.category != kNoRow;
+        remarks.LoadRemarks(voyage ? VoyageRemark : CategoryRemark, voyage ? entry.vi : entry.ci);
+        std::string& notes = notes_[entry.row];
+        for (std::size_t i = 0; i < remarks.Count(); ++i) {
+            notes += FoldSearch(remarks.At(i)->subject + "\n" + remarks.At(i)->body) + "\n";
+        }
+    }
+    entry.text = TextOf(entry);
+}
+
 /// Reads for as long as nobody notices. A server that makes the person wait is asked no more.
 void TreeSearch::ReadSome() {
     using Clock = std::chrono::steady_clock;
@@ -197,11 +232,7 @@ void TreeSearch::ReadSome() {
     while (!unread_.empty() && used < kUnnoticed) {
         Entry& entry = entries_[unread_.back()];
         unread_.pop_back();
-        read_.insert(entry.vi);
-        c_.FetchPortCalls(entry.vi);
-        if (const VoyInfo* voyage = c_.store.FindVoyage(entry.vi)) {
-            entry.text = TextOf(*voyage);
-        }
+        Read(entry);
         used = Clock::now() - begin;
     }
     if (used > kPatience) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -13,20 +13,16 @@
 namespace Tarvik::Seaplan {
 
 /// Finds categories and voyages among the rows of the tree. What answers is marked, what does not is put
-/// aside; at the end the categories are folded as they were. A voyage's port calls are read while the person
-/// waits for nothing, each once.
+/// aside; at the end the categories are folded as they were. A voyage's port calls, and the remarks of what
+/// is marked to have some, are read while the person waits for nothing: port calls once, remarks anew in each
+/// search, since they change without a report.
 class TreeSearch {
   public:
-    /// Text of the remarks of an object that have been read, empty for none.
-    using RemarkText = std::function<std::string(const std::string& objectid)>;
-
     TreeSearch(TreeContext& context, SearchView& view);
     ~TreeSearch() { c_.rowsMade = {}; }
     TreeSearch(const TreeSearch&) = delete;
     TreeSearch& operator=(const TreeSearch&) = delete;
 
-    /// Where remarks are looked for; nowhere without it.
-    void SetRemarkText(RemarkText text) { remarkText_ = std::move(text); }
     bool IsOpen() const { return open_; }
     const SearchState& State() const { return state_; }
 
@@ -48,13 +44,16 @@ class TreeSearch {
         TreeRow row = kNoRow;
         TreeRow category = kNoRow;  ///< kNoRow for a category
         std::string vi{};           ///< empty for a category and for what lies in the recycle bin
+        std::string ci{};           ///< of a category
         std::string text{};         ///< folded
         bool answers = false;
     };
 
     void Collect();
     void CollectVoyages(TreeRow category);
-    std::string TextOf(const VoyInfo& voyage) const;
+    std::string TextOf(const Entry& entry) const;
+    bool Marked(const Entry& entry) const;
+    void Read(Entry& entry);
     bool Answers(const Entry& entry) const;
     void Apply();
     std::size_t ShowCategory(std::size_t at);
@@ -64,14 +63,14 @@ class TreeSearch {
 
     TreeContext& c_;
     SearchView& view_;
-    RemarkText remarkText_;
     SearchState state_;
     bool open_ = false;
     std::set<TreeRow> unfolded_;  ///< categories that were open at the beginning
     std::vector<Entry> entries_;  ///< each category with its voyages behind it
     std::vector<std::string> words_;
-    std::vector<std::size_t> unread_;  ///< places of voyages to be read
-    std::set<std::string> read_;       ///< voyages that were asked for
+    std::vector<std::size_t> unread_;       ///< places of rows to be read
+    std::set<std::string> read_;            ///< voyages that were asked for
+    std::map<TreeRow, std::string> notes_;  ///< remarks that were read in this search, folded
 };
 
 }  // namespace Tarvik::Seaplan
