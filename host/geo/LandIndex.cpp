@@ -21,6 +21,23 @@ double Side(const Segment& line, double px, double py) {
     return (line.x2 - line.x1) * (py - line.y1) - (line.y2 - line.y1) * (px - line.x1);
 }
 
+/// Column of a longitude; those past ±180 run on.
+int ColumnAt(double x) {
+    return static_cast<int>(std::floor((x + 180.0) * Grid::kCellsPerDegree));
+}
+
+/// Distance in NM of a place from a piece, in the plane at the place.
+template <class Segment>
+double Off(const Segment& s, double px, double py, double shrink) {
+    const double ux = (s.x2 - s.x1) * shrink;
+    const double uy = s.y2 - s.y1;
+    const double wx = (px - s.x1) * shrink;
+    const double wy = py - s.y1;
+    const double square = ux * ux + uy * uy;
+    const double t = square == 0.0 ? 0.0 : std::clamp((ux * wx + uy * wy) / square, 0.0, 1.0);
+    return std::hypot(wx - t * ux, wy - t * uy) * kNmPerDegree;
+}
+
 double CrossingAt180(GeoPoint a, GeoPoint b, double border) {
     const double t = (border - a.x) / (b.x - a.x);
     return a.y + t * (b.y - a.y);
@@ -28,18 +45,45 @@ double CrossingAt180(GeoPoint a, GeoPoint b, double border) {
 
 }  // namespace
 
-LandIndex::LandIndex(const std::vector<std::vector<GeoPoint>>& rings) {
+/// A table of what `visitAll(i, visit)` visits for every i below `count`.
+template <typename VisitAll>
+LandIndex::CellTable LandIndex::TableOf(std::size_t count, VisitAll visitAll) {
+    CellTable table;
+    table.start.assign(static_cast<std::size_t>(Grid::kColumns) * Grid::kRows + 1, 0);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        visitAll(i, [&](int column, int row) { ++table.start[CellOf(column, row) + 1]; });
+    }
+    for (std::size_t i = 1; i < table.start.size(); ++i) {
+        table.start[i] += table.start[i - 1];
+    }
+    table.items.resize(table.start.back());
+    std::vector<std::uint32_t> next(table.start.begin(), table.start.end() - 1);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        visitAll(i, [&](int column, int row) { table.items[next[CellOf(column, row)]++] = i; });
+    }
+    return table;
+}
+
+LandIndex::LandIndex(const std::vector<std::vector<GeoPoint>>& rings,
+                     const std::vector<std::vector<GeoPoint>>& areas) {
     std::size_t total = 0;
     for (const auto& ring : rings) {
         total += ring.size();
     }
     segments_.reserve(total + rings.size());
+    AddRings(rings);
+    landSegments_ = segments_.size();
+    AddRings(areas);
+    FillCells();
+    FillNearCells();
+}
+
+void LandIndex::AddRings(const std::vector<std::vector<GeoPoint>>& rings) {
     for (const auto& ring : rings) {
         for (std::size_t i = 0; i < ring.size(); ++i) {
             AddSegment(ring[i], ring[(i + 1) % ring.size()]);
         }
     }
-    FillCells();
 }
 
 void LandIndex::AddSegment(GeoPoint a, GeoPoint b) {
@@ -86,30 +130,35 @@ void LandIndex::VisitCells(const Segment& s, Visit visit) const {
 }
 
 void LandIndex::FillCells() {
-    cellStart_.assign(static_cast<std::size_t>(Grid::kColumns) * Grid::kRows + 1, 0);
-    for (const Segment& s : segments_) {
-        VisitCells(s, [this](int column, int row) {
-            ++cellStart_[CellOf(column, row) + 1];
-            return false;
-        });
-    }
-    for (std::size_t i = 1; i < cellStart_.size(); ++i) {
-        cellStart_[i] += cellStart_[i - 1];
-    }
-    cellItems_.resize(cellStart_.back());
-    std::vector<std::uint32_t> next(cellStart_.begin(), cellStart_.end() - 1);
-    for (std::uint32_t i = 0; i < segments_.size(); ++i) {
+    cells_ = TableOf(segments_.size(), [this](std::uint32_t i, const auto& visit) {
         VisitCells(segments_[i], [&](int column, int row) {
-            cellItems_[next[CellOf(column, row)]++] = i;
+            visit(column, row);
             return false;
         });
-    }
+    });
+}
+
+void LandIndex::FillNearCells() {
+    constexpr double kRise = kMaxMarginNm / kNmPerDegree;
+    near_ = TableOf(landSegments_, [this](std::uint32_t i, const auto& visit) {
+        const Segment& s = segments_[i];
+        const double north = std::max(s.y1, s.y2) + kRise;
+        const double south = std::min(s.y1, s.y2) - kRise;
+        const double wide =
+            kRise / std::max(0.05, std::cos(std::max(std::abs(north), std::abs(south)) * kDegree));
+        const int last = ColumnAt(std::max(s.x1, s.x2) + wide);
+        for (int row = Grid::RowOf(south); row <= Grid::RowOf(north); ++row) {
+            for (int column = ColumnAt(std::min(s.x1, s.x2) - wide); column <= last; ++column) {
+                visit((column + Grid::kColumns) % Grid::kColumns, row);
+            }
+        }
+    });
 }
 
 bool LandIndex::CellBlocks(int column, int row, const Segment& s) const {
     const std::size_t cell = CellOf(column, row);
-    for (std::uint32_t k = cellStart_[cell]; k < cellStart_[cell + 1]; ++k) {
-        const Segment& o = segments_[cellItems_[k]];
+    for (std::uint32_t k = cells_.start[cell]; k < cells_.start[cell + 1]; ++k) {
+        const Segment& o = segments_[cells_.items[k]];
         if (std::max(o.x1, o.x2) < std::min(s.x1, s.x2) || std::min(o.x1, o.x2) > std::max(s.x1, s.x2)) {
             continue;
         }
@@ -127,25 +176,64 @@ bool LandIndex::CellBlocks(int column, int row, const Segment& s) const {
     return false;
 }
 
+bool LandIndex::CellGrazes(int column, int row, const Segment& s, double nm) const {
+    const std::size_t cell = CellOf(column, row);
+    for (std::uint32_t k = near_.start[cell]; k < near_.start[cell + 1]; ++k) {
+        Segment o = segments_[near_.items[k]];
+        const double shift = 360.0 * std::round((s.x1 - o.x1) / 360.0);
+        o.x1 += shift;
+        o.x2 += shift;
+        const double shrink = std::cos(0.5 * (s.y1 + s.y2) * kDegree);
+        if (Off(s, o.x1, o.y1, shrink) < nm || Off(o, s.x1, s.y1, shrink) < nm ||
+            Off(o, s.x2, s.y2, shrink) < nm) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool LandIndex::Walk(const Segment& s) const {
     bool blocked = false;
     VisitCells(s, [&](int column, int row) { return blocked = CellBlocks(column, row, s); });
     return blocked;
 }
 
-bool LandIndex::BlocksStraight(GeoPoint a, GeoPoint b) const {
-    if (cellStart_.empty()) {
-        return false;
-    }
+bool LandIndex::WalkNear(const Segment& s, double nm) const {
+    bool grazes = false;
+    VisitCells(s, [&](int column, int row) { return grazes = CellGrazes(column, row, s, nm); });
+    return grazes;
+}
+
+template <typename Walker>
+bool LandIndex::OverDateLine(GeoPoint a, GeoPoint b, Walker walk) {
     const double shift = 360.0 * std::floor((a.x + 180.0) / 360.0);
     a.x -= shift;
     b.x -= shift;
     if (b.x >= -180.0 && b.x <= 180.0) {
-        return Walk({a.x, a.y, b.x, b.y});
+        return walk(Segment{a.x, a.y, b.x, b.y});
     }
     const double border = b.x > 180.0 ? 180.0 : -180.0;
     const double y = CrossingAt180(a, b, border);
-    return Walk({a.x, a.y, border, y}) || Walk({-border, y, b.x - 2.0 * border, b.y});
+    return walk(Segment{a.x, a.y, border, y}) || walk(Segment{-border, y, b.x - 2.0 * border, b.y});
+}
+
+bool LandIndex::BlocksStraight(GeoPoint a, GeoPoint b) const {
+    return !cells_.start.empty() && OverDateLine(a, b, [this](const Segment& s) { return Walk(s); });
+}
+
+bool LandIndex::Grazes(GeoPoint a, GeoPoint b, double nm, double trimNm) const {
+    const double whole = ArcNm(a, b);
+    if (cells_.start.empty() || whole <= 2.0 * trimNm) {
+        return false;
+    }
+    const std::vector<GeoPoint> points =
+        GreatCircle(Between(a, b, trimNm / whole), Between(a, b, 1.0 - trimNm / whole));
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (OverDateLine(points[i - 1], points[i], [&](const Segment& s) { return WalkNear(s, nm); })) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool LandIndex::Blocks(GeoPoint a, GeoPoint b) const {
@@ -159,7 +247,7 @@ bool LandIndex::Blocks(GeoPoint a, GeoPoint b) const {
 }
 
 bool LandIndex::IsLand(GeoPoint p) const {
-    if (cellStart_.empty()) {
+    if (cells_.start.empty()) {
         return false;
     }
     p.x = WrapLongitude(p.x);
@@ -167,8 +255,11 @@ bool LandIndex::IsLand(GeoPoint p) const {
     bool inside = false;
     for (int row = Grid::RowOf(p.y); row < Grid::kRows; ++row) {
         const std::size_t cell = CellOf(column, row);
-        for (std::uint32_t k = cellStart_[cell]; k < cellStart_[cell + 1]; ++k) {
-            const Segment& o = segments_[cellItems_[k]];
+        for (std::uint32_t k = cells_.start[cell]; k < cells_.start[cell + 1]; ++k) {
+            if (cells_.items[k] >= landSegments_) {
+                continue;
+            }
+            const Segment& o = segments_[cells_.items[k]];
             if ((o.x1 <= p.x) == (o.x2 <= p.x)) {
                 continue;
             }

@@ -17,13 +17,23 @@ namespace Tarvik::Server {
 class LandIndex {
   public:
     LandIndex() = default;
-    explicit LandIndex(const std::vector<std::vector<GeoPoint>>& rings);
+    /// `areas` are closed to ways as land is, but are no land.
+    explicit LandIndex(const std::vector<std::vector<GeoPoint>>& rings,
+                       const std::vector<std::vector<GeoPoint>>& areas = {});
 
-    /// True when the great circle from a to b, drawn in pieces of at most a degree, meets the coast.
+    /// True when the great circle from a to b, drawn in pieces of at most a degree, meets the coast or the
+    /// edge of an area.
     bool Blocks(GeoPoint a, GeoPoint b) const;
 
-    /// True when one straight piece in longitude and latitude meets the coast; longitudes may run past ±180.
+    /// True when one straight piece in longitude and latitude meets one; longitudes may run past ±180.
     bool BlocksStraight(GeoPoint a, GeoPoint b) const;
+
+    /// True when the great circle from a to b, without its first and last `trimNm`, comes nearer than `nm`
+    /// (at most `kMaxMarginNm`) to a coast.
+    bool Grazes(GeoPoint a, GeoPoint b, double nm, double trimNm) const;
+    static constexpr double kMaxMarginNm = 4.0;
+    /// How long the beginning and the end of a way are that may come near: there are ports and straits.
+    static constexpr double kApproachNm = 6.0;
 
     /// True for a place inside a ring.
     bool IsLand(GeoPoint p) const;
@@ -37,16 +47,31 @@ class LandIndex {
     struct Segment {
         double x1, y1, x2, y2;
     };
+    /// Which segments may concern what lies in a cell: numbers, cell after cell.
+    struct CellTable {
+        std::vector<std::uint32_t> start;
+        std::vector<std::uint32_t> items;
+    };
+    template <typename VisitAll>
+    static CellTable TableOf(std::size_t count, VisitAll visitAll);
+    void AddRings(const std::vector<std::vector<GeoPoint>>& rings);
     void AddSegment(GeoPoint a, GeoPoint b);
     void FillCells();
+    void FillNearCells();
     bool CellBlocks(int column, int row, const Segment& s) const;
+    bool CellGrazes(int column, int row, const Segment& s, double nm) const;
     bool Walk(const Segment& s) const;
+    bool WalkNear(const Segment& s, double nm) const;
+    /// Calls `walk` with the piece, in two where it crosses the date line, until it says true.
+    template <typename Walker>
+    static bool OverDateLine(GeoPoint a, GeoPoint b, Walker walk);
     template <typename Visit>
     void VisitCells(const Segment& s, Visit visit) const;
 
     std::vector<Segment> segments_;
-    std::vector<std::uint32_t> cellStart_;
-    std::vector<std::uint32_t> cellItems_;
+    std::size_t landSegments_ = 0;  ///< the areas' come behind
+    CellTable cells_;               ///< the segments that touch a cell
+    CellTable near_;                ///< those of the land within `kMaxMarginNm` of it
 };
 
 }  // namespace Tarvik::Server

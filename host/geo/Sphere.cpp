@@ -72,6 +72,18 @@ std::vector<GeoPoint> GreatCircle(GeoPoint a, GeoPoint b) {
     return points;
 }
 
+GeoPoint Between(GeoPoint a, GeoPoint b, double share) {
+    const UnitVector va = ToVector(a);
+    const UnitVector vb = ToVector(b);
+    const double angle = ArcNm(va, vb) / kNmPerDegree * kDegree;
+    if (angle == 0.0) {
+        return a;
+    }
+    const double fa = std::sin((1.0 - share) * angle) / std::sin(angle);
+    const double fb = std::sin(share * angle) / std::sin(angle);
+    return ToPoint(UnitVector{fa * va.x + fb * vb.x, fa * va.y + fb * vb.y, fa * va.z + fb * vb.z});
+}
+
 GeoPoint Destination(GeoPoint from, double bearingDegrees, double nm) {
     const double d = nm / kNmPerDegree * kDegree;
     const double b = bearingDegrees * kDegree;

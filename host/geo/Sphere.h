@@ -46,6 +46,9 @@ GeoPoint RoundPoint(GeoPoint p);
 /// past ±180 where the way crosses the date line, so that neighbours never lie more than 180 degrees apart.
 std::vector<GeoPoint> GreatCircle(GeoPoint a, GeoPoint b);
 
+/// The point at a share (0..1) of the great circle from a to b; longitude within ±180.
+GeoPoint Between(GeoPoint a, GeoPoint b, double share);
+
 /// The point at a distance (NM) from `from` in a direction (degrees clockwise from north).
 GeoPoint Destination(GeoPoint from, double bearingDegrees, double nm);
 

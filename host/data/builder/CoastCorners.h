@@ -36,12 +36,9 @@ struct Waters {
     BusyWaters used;  ///< every cape with room to pass; elsewhere only the great ones
 };
 
-/// The capes of the land, 3 nautical miles off in open water, 0.2 to 0.8 in narrow water.
+/// The capes of the land: 12 nautical miles off in open water, 6 on coasts in use, 0.2 to 0.8 in narrow
+/// water, half as far where there is no room, and those between them that would hide one from the next.
 std::vector<Corner> FindCorners(const std::vector<Polygon>& land, const Server::LandIndex& index,
                                 const Waters& waters);
-
-/// A closed ring with only those points that matter at a tolerance in nautical miles (Douglas and Peucker's
-/// method).
-Ring SimplifyRing(const Ring& ring, double toleranceNm);
 
 }  // namespace Tarvik::Data

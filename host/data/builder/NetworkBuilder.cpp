@@ -7,6 +7,7 @@
 
 #include "host/data/builder/CoastCorners.h"
 #include "host/data/builder/PortLinker.h"
+#include "host/data/builder/RingShape.h"
 #include "host/geo/Sphere.h"
 #include "host/server/graph/SeaNetwork.h"
 
@@ -17,6 +18,12 @@ namespace {
 constexpr double kLatticeStep = 5.0;
 constexpr double kLatticeNorth = 75.0;
 constexpr double kLatticeSouth = -55.0;
+/// How many degrees of longitude lie between the nodes along the southern limit.
+constexpr double kLimitStep = 3.0;
+/// How far off a closed area's corners ships turn.
+constexpr double kAreaOffsetNm = 0.15;
+/// How far ways along a coast keep off it.
+constexpr double kMarginNm = 3.0;
 /// How far around ports and hand-made ways the coast is followed closely.
 constexpr double kBusyNm = 30.0;
 constexpr double kUsedNm = 40.0;
@@ -28,6 +35,15 @@ std::vector<std::vector<GeoPoint>> RingsOf(const std::vector<Polygon>& land) {
     std::vector<std::vector<GeoPoint>> rings;
     for (const Polygon& polygon : land) {
         rings.insert(rings.end(), polygon.begin(), polygon.end());
+    }
+    return rings;
+}
+
+std::vector<std::vector<GeoPoint>> RingsOf(const std::vector<AreaSource>& areas) {
+    std::vector<std::vector<GeoPoint>> rings;
+    rings.reserve(areas.size());
+    for (const AreaSource& area : areas) {
+        rings.push_back(area.ring);
     }
     return rings;
 }
@@ -47,7 +63,11 @@ std::vector<GeoPoint> Steps(GeoPoint a, GeoPoint b) {
 }  // namespace
 
 NetworkBuilder::NetworkBuilder(const Sources& sources, const std::vector<Polygon>& land)
-    : sources_(sources), land_(land), rings_(RingsOf(land)), index_(rings_) {}
+    : sources_(sources),
+      land_(land),
+      rings_(RingsOf(land)),
+      areas_(RingsOf(sources.areas)),
+      index_(rings_, areas_) {}
 
 std::uint32_t NetworkBuilder::NodeAt(GeoPoint at) {
     at.x = Server::RoundPoint({Server::WrapLongitude(at.x), at.y}).x;
@@ -89,7 +109,9 @@ void NetworkBuilder::AddCapes() {
     }
     const Waters waters{BusyWaters(places, kBusyNm), BusyWaters(places, kUsedNm)};
     for (const Corner& corner : FindCorners(land_, index_, waters)) {
-        nodes_.push_back({corner.at, true, !corner.shared, corner.toPrevious, corner.toNext});
+        if (!InArea(corner.at)) {
+            nodes_.push_back({corner.at, true, !corner.shared, corner.toPrevious, corner.toNext});
+        }
     }
 }
 
@@ -98,11 +120,44 @@ void NetworkBuilder::AddLattice() {
         const int count = static_cast<int>(std::round(360.0 / kLatticeStep * std::cos(y * Server::kDegree)));
         for (int i = 0; i < count; ++i) {
             const GeoPoint at = Server::RoundPoint({Server::WrapLongitude(2.5 + 360.0 / count * i), y});
-            if (!index_.IsLand(at) && index_.IsClear(at, kLatticeClearNm)) {
+            if (!index_.IsLand(at) && !InArea(at) && at.y >= Server::SouthLimit(at.x) &&
+                index_.IsClear(at, kLatticeClearNm)) {
                 nodes_.push_back({at, true, false, {}, {}});
             }
         }
     }
+}
+
+void NetworkBuilder::AddAreas() {
+    for (const std::vector<GeoPoint>& ring : areas_) {
+        const bool left = RunsLeft(ring);
+        for (std::size_t i = 0; i < ring.size(); ++i) {
+            const GeoPoint before = DirectionTo(ring[(i + ring.size() - 1) % ring.size()], ring[i]);
+            const GeoPoint after = DirectionTo(ring[i], ring[(i + 1) % ring.size()]);
+            // Outwards lies to the right of a ring that has its inside to the left.
+            const double side = left ? 1.0 : -1.0;
+            const double bearing =
+                std::atan2(side * (before.y + after.y), -side * (before.x + after.x)) / Server::kDegree;
+            const GeoPoint at = Server::RoundPoint(Server::Destination(ring[i], bearing, kAreaOffsetNm));
+            if (!index_.IsLand(at) && !InArea(at)) {
+                nodes_.push_back({at, true, false, {}, {}});
+            }
+        }
+    }
+}
+
+void NetworkBuilder::AddSouthLimit() {
+    for (double x = -180.0; x < 180.0; x += kLimitStep) {
+        const GeoPoint at{x, Server::SouthLimit(x)};
+        if (!index_.IsLand(at)) {
+            nodes_.push_back({at, true, false, {}, {}});
+        }
+    }
+}
+
+bool NetworkBuilder::InArea(GeoPoint p) const {
+    return std::any_of(areas_.begin(), areas_.end(),
+                       [p](const std::vector<GeoPoint>& ring) { return IsInside(p, ring); });
 }
 
 void NetworkBuilder::AddGroups(Server::NetworkData& data) const {
@@ -140,12 +195,14 @@ Server::NetworkData NetworkBuilder::Build() {
     SpannerEdges edges(nodes_, index_);
     Server::NetworkData data;
     for (const RoutePointSource& p : sources_.routePoints) {
-        data.routePoints.push_back({p.id, p.name, NodeAt(p.at), p.shut, p.gate, {}});
+        data.routePoints.push_back({p.id, p.name, NodeAt(p.at), p.shut, p.gate, {}, p.cost});
     }
     AddPassages(edges);
     AddCapes();
+    AddAreas();
     AddLattice();
-    edges.Connect(0);
+    AddSouthLimit();
+    edges.Connect(0, kMarginNm);
     PortLinker linker(nodes_, edges, index_);
     const std::vector<std::optional<std::uint32_t>> portNodes = linker.Link(sources_.ports);
     for (std::size_t i = 0; i < sources_.ports.size(); ++i) {
@@ -159,6 +216,7 @@ Server::NetworkData NetworkBuilder::Build() {
     }
     data.edges = edges.Edges();
     data.land = rings_;
+    data.areas = areas_;
     AddGroups(data);
     AddMasks(data);
     std::vector<std::uint32_t> sizes;
@@ -175,6 +233,7 @@ Server::NetworkData NetworkBuilder::Build() {
             remarks_.push_back("port " + p.unlocode + " " + p.name + " is not joined to the oceans");
         }
     }
+    data.reach = Server::SeaNetwork(data).data().reach;
     return data;
 }
 

@@ -26,13 +26,17 @@ class NetworkBuilder {
     std::uint32_t NodeAt(GeoPoint at);
     void AddPassages(SpannerEdges& edges);
     void AddCapes();
+    void AddAreas();
     void AddLattice();
+    void AddSouthLimit();
+    bool InArea(GeoPoint p) const;
     void AddGroups(Server::NetworkData& data) const;
     void AddMasks(Server::NetworkData& data) const;
 
     const Sources& sources_;
     const std::vector<Polygon>& land_;
     std::vector<std::vector<GeoPoint>> rings_;
+    std::vector<std::vector<GeoPoint>> areas_;
     Server::LandIndex index_;
     std::vector<BuildNode> nodes_;
     std::map<std::pair<double, double>, std::uint32_t> named_;

@@ -143,7 +143,7 @@ std::vector<std::optional<std::uint32_t>> PortLinker::Link(const std::vector<Por
     for (const PortSource& port : ports) {
         result.push_back(LinkOne(port.at));
     }
-    edges_.Connect(first);
+    edges_.Connect(first, 0.0);
     return result;
 }
 

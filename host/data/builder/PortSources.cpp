@@ -7,8 +7,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/data/builder/CsvTable.h"
 #include "host/data/builder/Sources.h"
+#include "host/geo/CsvTable.h"
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Data {

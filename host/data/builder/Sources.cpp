@@ -4,7 +4,7 @@
 #include <map>
 #include <stdexcept>
 
-#include "host/data/builder/CsvTable.h"
+#include "host/geo/CsvTable.h"
 
 namespace Tarvik::Data {
 
@@ -19,6 +19,8 @@ std::vector<RoutePointSource> ReadRoutePoints(const CsvTable& table) {
         p.namecn = table.At(i, "namecn");
         p.at = ToPoint(table.At(i, "lon"), table.At(i, "lat"));
         p.shut = table.At(i, "shut") == "1";
+        const std::string cost = table.At(i, "cost");
+        p.cost = cost.empty() ? 0.0F : std::stof(cost);
         for (const std::string& end : SplitText(table.At(i, "gate"), ';')) {
             p.gate.push_back(ToPoint(end));
         }
@@ -56,6 +58,21 @@ std::vector<PassageSource> ReadPassages(const CsvTable& table,
     return passages;
 }
 
+std::vector<AreaSource> ReadAreas(const CsvTable& table) {
+    std::vector<AreaSource> areas;
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        AreaSource area{table.At(i, "name"), {}};
+        for (const std::string& corner : SplitText(table.At(i, "ring"), ';')) {
+            area.ring.push_back(ToPoint(corner));
+        }
+        if (area.ring.size() < 3) {
+            throw std::runtime_error(area.name + " has less than three corners");
+        }
+        areas.push_back(std::move(area));
+    }
+    return areas;
+}
+
 }  // namespace
 
 std::optional<Sources> ReadSources(const std::string& folder, const std::string& portsJson,
@@ -67,6 +84,8 @@ std::optional<Sources> ReadSources(const std::string& folder, const std::string&
         sources.routePoints = ReadRoutePoints(CsvTable(ReadFile(folder + "/route_points.csv")));
         file = "passages.csv";
         sources.passages = ReadPassages(CsvTable(ReadFile(folder + "/passages.csv")), sources.routePoints);
+        file = "areas.csv";
+        sources.areas = ReadAreas(CsvTable(ReadFile(folder + "/areas.csv")));
         file = "ports";
         sources.ports = ReadPorts(folder, portsJson);
         return sources;

@@ -20,6 +20,7 @@ struct RoutePointSource {
     bool shut = false;
     std::vector<GeoPoint> gate;
     std::vector<std::string> groups;  ///< names of the groups of passages that can replace one another
+    float cost = 0.0F;                ///< miles that the search adds and the distance does not
 };
 
 /// A vertex of a hand-made way; `routePoint` names the route point it is, or is empty.
@@ -32,6 +33,12 @@ struct PassageVertex {
 struct PassageSource {
     std::string name;
     std::vector<PassageVertex> vertices;
+};
+
+/// A line of areas.csv: a water that ships keep out of, at sea; rivers' and canals' ways may run through it.
+struct AreaSource {
+    std::string name;
+    std::vector<GeoPoint> ring;
 };
 
 /// A port with its corrected position; ids have five digits and begin with 4.
@@ -49,6 +56,7 @@ struct Sources {
     std::vector<RoutePointSource> routePoints;
     std::vector<PassageSource> passages;
     std::vector<PortSource> ports;
+    std::vector<AreaSource> areas;
 };
 
 /// The ports of the fetched JSON file with what the hand-made files of `folder` put right. Throws

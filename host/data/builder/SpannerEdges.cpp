@@ -13,6 +13,8 @@ namespace {
 
 constexpr double kReachNm = 600.0;
 constexpr float kStretch = 1.01F;
+/// Shorter ways are held to nothing but to keep off the land itself.
+constexpr double kFreeHandNm = 15.0;
 /// How far a way may point into a cape's land before it is held useless, as a sine.
 constexpr double kTangentSlack = 0.3;
 
@@ -83,10 +85,12 @@ std::vector<SpannerEdges::Pair> SpannerEdges::PairsInReach(std::uint32_t firstNe
             if (Server::Dot(vectors_[a], vectors_[b]) < limit) {
                 continue;
             }
-            if (!WorthHaving(a, b) || !WorthHaving(b, a)) {
+            const auto nm = static_cast<float>(Server::ArcNm(vectors_[a], vectors_[b]));
+            // In harbours ways bend round moles that no cape stands for.
+            if (nm > kFreeHandNm && (!WorthHaving(a, b) || !WorthHaving(b, a))) {
                 continue;
             }
-            pairs.push_back({static_cast<float>(Server::ArcNm(vectors_[a], vectors_[b])), a, b});
+            pairs.push_back({nm, a, b});
         }
     }
     std::sort(pairs.begin(), pairs.end(), [](const Pair& l, const Pair& r) {
@@ -148,11 +152,13 @@ bool SpannerEdges::SearchDetour(const Pair& pair) {
     return found;
 }
 
-void SpannerEdges::Connect(std::uint32_t firstNew) {
+void SpannerEdges::Connect(std::uint32_t firstNew, double marginNm) {
     Extend();
     for (const Pair& pair : PairsInReach(firstNew)) {
         if (HasShortDetour(pair) || land_.Blocks(nodes_[pair.a].at, nodes_[pair.b].at) ||
-            SearchDetour(pair)) {
+            SearchDetour(pair) ||
+            (pair.nm > kFreeHandNm &&
+             land_.Grazes(nodes_[pair.a].at, nodes_[pair.b].at, marginNm, Server::LandIndex::kApproachNm))) {
             continue;
         }
         AddFixed(pair.a, pair.b, Server::EdgeKind::Sea);

@@ -35,7 +35,8 @@ class SpannerEdges {
     void AddFixed(std::uint32_t a, std::uint32_t b, Server::EdgeKind kind);
 
     /// Joins all nodes in reach of each other of which at least one has a number from `firstNew` on.
-    void Connect(std::uint32_t firstNew);
+    /// Ways keep `marginNm` off the land but for their beginning and end; short ones need not.
+    void Connect(std::uint32_t firstNew, double marginNm);
 
     const std::vector<Server::NetworkEdge>& Edges() const { return edges_; }
     /// For every node the number of its connected part, and the sizes of the parts.

@@ -36,8 +36,9 @@ TEST_F(NetworkBuilderTest, LeadsRoundTheIslandCloseToItsCapes) {
     const RouteResult result = Plan({});
     ASSERT_EQ(result.error, Server::kRouteOk) << result.message;
     EXPECT_THAT(result.stops[1].passedIds, ElementsAre("40001", "101", "40002"));
-    const double round = 2 * 240 + 600;
-    EXPECT_NEAR(result.stops[1].distanceKm / Server::kKmPerNm, round, 0.03 * round);
+    // Twelve miles off the capes, along the bisector: eight and a half north and as many to the side.
+    const double round = 2 * (240 + 8.5) + 600 + 17;
+    EXPECT_NEAR(result.stops[1].distanceKm / Server::kKmPerNm, round, 0.01 * round);
 }
 
 TEST_F(NetworkBuilderTest, AHandMadeWayLeadsThroughLand) {

@@ -20,8 +20,9 @@ class SourcesTest : public ::testing::Test {
         std::string pattern = (std::filesystem::temp_directory_path() / "sources-XXXXXX").string();
         folder_ = mkdtemp(pattern.data());
         Write("route_points.csv",
-              "id,name,namecn,lon,lat,kind,shut,gate,groups\n"
-              "101,Canal,运河,1,2,canal,1,0 2;2 2,One;Two\n");
+              "id,name,namecn,lon,lat,kind,shut,gate,groups,cost\n"
+              "101,Canal,运河,1,2,canal,1,0 2;2 2,One;Two,30\n");
+        Write("areas.csv", "name,ring,reason\nShoals,5 5;6 5;6 6,sands\n");
         Write("passages.csv", "name,points\nCanal,0.5 1;@Canal;1.5 3\n");
         Write("port_corrections.csv",
               "unlocode,name,lon,lat,reason\nAABBB,Better,5,6,was wrong\nZZZZZ,New,7,8,missing\n");
@@ -54,7 +55,7 @@ class SourcesTest : public ::testing::Test {
     std::string error_;
 };
 
-TEST_F(SourcesTest, ReadsRoutePointsAndPassages) {
+TEST_F(SourcesTest, ReadsRoutePointsPassagesAndAreas) {
     const auto sources = Read();
     ASSERT_TRUE(sources) << error_;
     ASSERT_EQ(sources->routePoints.size(), 1u);
@@ -63,6 +64,9 @@ TEST_F(SourcesTest, ReadsRoutePointsAndPassages) {
     EXPECT_EQ(canal.namecn, "运河");
     EXPECT_EQ(canal.gate[1], (GeoPoint{2, 2}));
     EXPECT_EQ(canal.groups.size(), 2u);
+    EXPECT_EQ(canal.cost, 30.0F);
+    ASSERT_EQ(sources->areas.size(), 1u);
+    EXPECT_EQ(sources->areas[0].ring, (std::vector<GeoPoint>{{5, 5}, {6, 5}, {6, 6}}));
     ASSERT_EQ(sources->passages.at(0).vertices.size(), 3u);
     EXPECT_EQ(sources->passages[0].vertices[1].at, (GeoPoint{1, 2}));
 }
@@ -107,6 +111,9 @@ TEST_F(SourcesTest, ANameGivenByHandIsKeptWhole) {
 }
 
 TEST_F(SourcesTest, SaysWhichFileIsWrongAndWhy) {
+    Write("areas.csv", "name,ring,reason\nLine,5 5;6 5,none\n");
+    EXPECT_FALSE(Read());
+    EXPECT_EQ(error_, "areas.csv: Line has less than three corners");
     Write("passages.csv", "name,points\nCanal,0.5 1;@Nothing\n");
     EXPECT_FALSE(Read());
     EXPECT_EQ(error_, "passages.csv: there is no route point Nothing");

@@ -10,29 +10,14 @@ namespace {
 
 /// More choices on one leg than this are tried in the order given only.
 constexpr std::size_t kMaxPermuted = 4;
-/// Passages north of this latitude that are shut are shut for ice.
-constexpr double kIceLatitude = 65.0;
+/// A passage that makes the way this many times as long is no alternative.
+constexpr double kFarthestOffer = 2.0;
 
 bool ShareGroup(const NetworkData& data, std::uint16_t a, std::uint16_t b) {
     const auto& groups = data.routePoints[a].groups;
     return std::any_of(groups.begin(), groups.end(), [b](const AlternativeGroup& group) {
         return std::find(group.begin(), group.end(), b) != group.end();
     });
-}
-
-bool IsIce(const SeaNetwork& network, std::uint16_t point) {
-    const RoutePoint& p = network.data().routePoints[point];
-    return p.shut && network.data().nodes[p.node].y > kIceLatitude;
-}
-
-/// One passage in the ice is of no use without its neighbours, so that all of them open together.
-void OpenIce(const SeaNetwork& network, GateMask& forbidden) {
-    for (std::size_t i = 0; i < network.data().routePoints.size(); ++i) {
-        if (IsIce(network, static_cast<std::uint16_t>(i))) {
-            forbidden[i] = false;
-        }
-    }
-    forbidden[kIceBit] = false;
 }
 
 void Join(NodePath& path, const NodePath& more) {
@@ -42,6 +27,24 @@ void Join(NodePath& path, const NodePath& more) {
 }
 
 }  // namespace
+
+LegPlanner::LegPlanner(const SeaNetwork& network, const RouteLimits& limits)
+    : network_(network), shape_(network), closed_(network.ShutGates()) {
+    for (const std::string& id : limits.forbidden) {
+        if (const auto point = network.RoutePointIndex(id)) {
+            never_[*point] = true;
+        }
+    }
+    for (const std::string& id : limits.opened) {
+        const auto point = network.RoutePointIndex(id);
+        if (point && network.IsIce(*point)) {
+            network.OpenIce(closed_);
+        } else if (point) {
+            closed_[*point] = false;
+        }
+    }
+    closed_ |= never_;
+}
 
 bool LegPlanner::Resolve(const RouteChoice& choice, const std::string& fromId, const std::string& toId,
                          Stretch& out) const {
@@ -93,7 +96,7 @@ std::optional<LegPlanner::Stretches> LegPlanner::StretchesOf(const std::string& 
 }
 
 GateMask LegPlanner::ForbiddenFor(const Stretches& chosen) const {
-    GateMask forbidden = network_.ShutGates();
+    GateMask forbidden = closed_;
     for (const Stretch& stretch : chosen) {
         for (const AlternativeGroup& group : network_.data().routePoints[stretch.chosen].groups) {
             for (const std::uint16_t other : group) {
@@ -102,12 +105,12 @@ GateMask LegPlanner::ForbiddenFor(const Stretches& chosen) const {
         }
     }
     for (const Stretch& stretch : chosen) {
-        if (IsIce(network_, stretch.chosen)) {
-            OpenIce(network_, forbidden);
+        if (network_.IsIce(stretch.chosen)) {
+            network_.OpenIce(forbidden);
         }
         forbidden[stretch.chosen] = false;
     }
-    return forbidden;
+    return forbidden | never_;
 }
 
 std::optional<NodePath> LegPlanner::PathThrough(const std::vector<std::uint32_t>& stations,
@@ -115,9 +118,15 @@ std::optional<NodePath> LegPlanner::PathThrough(const std::vector<std::uint32_t>
     NodePath path;
     path.nodes.push_back(stations.front());
     for (std::size_t i = 1; i < stations.size(); ++i) {
-        const std::optional<NodePath> more = FindPath(network_, stations[i - 1], stations[i], forbidden);
+        // Looked for from one end whichever way the ship goes, so that both ways are one.
+        const auto [low, high] = std::minmax(stations[i - 1], stations[i]);
+        std::optional<NodePath> more = FindPath(network_, low, high, forbidden);
         if (!more) {
             return std::nullopt;
+        }
+        if (low != stations[i - 1]) {
+            std::reverse(more->nodes.begin(), more->nodes.end());
+            std::reverse(more->edges.begin(), more->edges.end());
         }
         Join(path, *more);
     }
@@ -143,10 +152,9 @@ std::optional<NodePath> LegPlanner::BestOrder(std::uint32_t from, std::uint32_t 
     return best;
 }
 
-std::vector<std::string> LegPlanner::Offers(std::uint32_t from, std::uint32_t to,
-                                            std::uint16_t passed) const {
+std::vector<std::string> LegPlanner::Offers(const std::string& from, const std::string& to,
+                                            std::uint16_t passed, double nm) const {
     const NetworkData& data = network_.data();
-    const Basins& basins = network_.Waters();
     std::vector<std::uint16_t> candidates;
     for (const AlternativeGroup& group : data.routePoints[passed].groups) {
         for (const std::uint16_t other : group) {
@@ -157,22 +165,43 @@ std::vector<std::string> LegPlanner::Offers(std::uint32_t from, std::uint32_t to
     }
     std::vector<std::string> ids;
     for (const std::uint16_t other : candidates) {
-        const std::uint32_t node = data.routePoints[other].node;
-        const std::vector<char> reached = basins.Reached(node, ForbiddenFor({{other, {node}, {}}}));
-        if (reached[basins.BasinOf(from)] != 0 && reached[basins.BasinOf(to)] != 0) {
+        const ReachEntry& before = network_.Reach(other, from);
+        const ReachEntry& behind = network_.Reach(other, to);
+        const bool turnsBack = before.side == behind.side && before.side != 0;
+        if (!turnsBack && before.nm + behind.nm <= kFarthestOffer * nm && !never_[other]) {
             ids.push_back(data.routePoints[other].id);
         }
     }
     return ids;
 }
 
-std::vector<GeoPoint> LegPlanner::Way(std::uint32_t from, std::uint32_t to) const {
-    GateMask forbidden = network_.ShutGates();
-    std::optional<NodePath> path = FindPath(network_, from, to, forbidden);
-    if (!path) {
-        forbidden.reset();
-        path = FindPath(network_, from, to, forbidden);
+template <typename Search>
+auto LegPlanner::OpeningBySteps(GateMask& forbidden, Search search) const {
+    auto found = search();
+    if (found) {
+        return found;
     }
+    const GateMask before = forbidden;
+    network_.OpenIce(forbidden);
+    forbidden |= never_;
+    found = search();
+    for (std::size_t i = 0; !found && i < network_.data().routePoints.size(); ++i) {
+        if (before[i] && network_.data().routePoints[i].shut && !never_[i]) {
+            forbidden = before;
+            forbidden[i] = false;
+            found = search();
+        }
+    }
+    if (!found) {
+        forbidden = never_;
+        found = search();
+    }
+    return found;
+}
+
+std::vector<GeoPoint> LegPlanner::Way(std::uint32_t from, std::uint32_t to) const {
+    GateMask forbidden = closed_;
+    const auto path = OpeningBySteps(forbidden, [&] { return PathThrough({from, to}, forbidden); });
     if (!path) {
         return {};
     }
@@ -188,11 +217,8 @@ std::optional<PlannedStop> LegPlanner::Plan(const std::string& fromId, const Rou
     const std::uint32_t fromNode = *network_.NodeOf(fromId);
     const std::uint32_t toNode = *network_.NodeOf(to.id);
     GateMask forbidden = ForbiddenFor(*chosen);
-    std::optional<NodePath> path = BestOrder(fromNode, toNode, *chosen, forbidden);
-    if (!path) {
-        forbidden.reset();
-        path = BestOrder(fromNode, toNode, *chosen, forbidden);
-    }
+    const std::optional<NodePath> path =
+        OpeningBySteps(forbidden, [&] { return BestOrder(fromNode, toNode, *chosen, forbidden); });
     if (!path) {
         error = "there is no way by sea from " + fromId + " to " + to.id;
         return std::nullopt;
@@ -213,7 +239,7 @@ std::optional<PlannedStop> LegPlanner::Plan(const std::string& fromId, const Rou
         if (!passed || leg.endId == to.id) {
             continue;
         }
-        std::vector<std::string> alternatives = Offers(fromNode, toNode, *passed);
+        std::vector<std::string> alternatives = Offers(fromId, to.id, *passed, path->nm);
         if (!alternatives.empty()) {
             stop.groups.push_back({leg.endId, fromId, to.id, std::move(alternatives)});
         }

@@ -16,7 +16,7 @@ namespace Tarvik::Server {
 /// reached otherwise.
 class LegPlanner {
   public:
-    explicit LegPlanner(const SeaNetwork& network) : network_(network), shape_(network) {}
+    explicit LegPlanner(const SeaNetwork& network, const RouteLimits& limits = {});
 
     /// The stop at `toId` with legs, groups and locks; nothing and `error` set when there is no way or an id
     /// in the choices is unknown. Both stops must be known.
@@ -44,10 +44,19 @@ class LegPlanner {
                                         const GateMask& forbidden) const;
     std::optional<NodePath> BestOrder(std::uint32_t from, std::uint32_t to, Stretches chosen,
                                       const GateMask& forbidden) const;
-    std::vector<std::string> Offers(std::uint32_t from, std::uint32_t to, std::uint16_t passed) const;
+    /// What may be chosen in place of a passage: a passage beside it that the way would pass and not only
+    /// touch, and that does not lead far round a way of `nm` miles.
+    std::vector<std::string> Offers(const std::string& from, const std::string& to, std::uint16_t passed,
+                                    double nm) const;
+    /// What `search` finds; where it finds nothing, passages that are shut are opened: the ice, then one
+    /// after the other, at last all. `forbidden` tells afterwards what was shut.
+    template <typename Search>
+    auto OpeningBySteps(GateMask& forbidden, Search search) const;
 
     const SeaNetwork& network_;
     PathShape shape_;
+    GateMask closed_;  ///< what no choice has opened
+    GateMask never_;   ///< what the request forbids, choices or not
 };
 
 }  // namespace Tarvik::Server

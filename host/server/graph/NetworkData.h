@@ -43,6 +43,7 @@ struct RoutePoint {
     bool shut = false;                     ///< used only when asked for
     std::vector<GeoPoint> gate;            ///< line across the passage; longitudes may run past ±180
     std::vector<AlternativeGroup> groups;  ///< what may be used in its place, one list per group
+    float cost = 0.0F;                     ///< miles that the search adds here and the distance does not
 };
 
 /// A port and its node.
@@ -53,6 +54,12 @@ struct NetworkPort {
     std::uint32_t node = 0;
 };
 
+/// How a route point leads to a port or another route point while the passages beside it are forbidden.
+struct ReachEntry {
+    float nm = 0.0F;        ///< infinite where there is no way
+    std::uint8_t side = 0;  ///< side of the gate on which the way leaves: 1 or 2, 0 for the point itself
+};
+
 /// Everything the network file holds. Positions have 5 decimals.
 struct NetworkData {
     std::vector<GeoPoint> nodes;
@@ -60,7 +67,9 @@ struct NetworkData {
     std::vector<GateMask> masks;
     std::vector<RoutePoint> routePoints;
     std::vector<NetworkPort> ports;
-    std::vector<std::vector<GeoPoint>> land;  ///< rings, closed implicitly
+    std::vector<std::vector<GeoPoint>> land;     ///< rings, closed implicitly
+    std::vector<std::vector<ReachEntry>> reach;  ///< for every route point: to all ports, then route points
+    std::vector<std::vector<GeoPoint>> areas;    ///< waters closed to ways in open sea, rings as the land's
 };
 
 }  // namespace Tarvik::Server

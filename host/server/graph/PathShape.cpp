@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <tuple>
 
 #include "host/server/graph/Gate.h"
@@ -13,6 +14,13 @@ namespace {
 
 /// How many nodes in a row may be hidden before the view ahead is given up.
 constexpr std::size_t kPatience = 3;
+/// How many other places to turn are tried, and what one must save.
+constexpr std::size_t kTurnsTried = 12;
+constexpr double kWorthNm = 0.05;
+
+/// Longer lines than the first keep off the coast, but for their beginning and end.
+constexpr double kFreeHandNm = 14.0;
+constexpr double kOffCoastNm = 4.0;
 
 struct Pass {
     std::size_t index = 0;
@@ -53,11 +61,40 @@ RouteLeg Finished(std::string from, std::string end, std::vector<GeoPoint> point
 }  // namespace
 
 bool PathShape::IsOpen(GeoPoint a, GeoPoint b, const GateMask& forbidden) const {
-    return !network_.Land().Blocks(a, b) && (network_.GatesCrossed(a, b) & forbidden).none();
+    return !network_.Land().Blocks(a, b) && (network_.GatesCrossed(a, b) & forbidden).none() &&
+           (ArcNm(a, b) <= kFreeHandNm || !network_.Land().Grazes(a, b, kOffCoastNm, LandIndex::kApproachNm));
 }
 
-void PathShape::AppendTaut(const std::vector<GeoPoint>& run, const GateMask& forbidden,
+std::size_t PathShape::BetterTurn(const std::vector<GeoPoint>& run, std::size_t before, std::size_t turn,
+                                  std::size_t behind, const GateMask& forbidden) const {
+    const auto by = [&](std::size_t i) { return ArcNm(run[before], run[i]) + ArcNm(run[i], run[behind]); };
+    const double present = by(turn) - kWorthNm;
+    std::vector<std::pair<double, std::size_t>> shorter;
+    for (std::size_t i = before + 1; i < behind; ++i) {
+        const double nm = by(i);
+        if (nm < present) {
+            shorter.emplace_back(nm, i);
+        }
+    }
+    std::sort(shorter.begin(), shorter.end());
+    for (std::size_t k = 0; k < shorter.size() && k < kTurnsTried; ++k) {
+        const std::size_t i = shorter[k].second;
+        const bool first = i == before + 1 || IsOpen(run[before], run[i], forbidden);
+        if (first && (i + 1 == behind || IsOpen(run[i], run[behind], forbidden))) {
+            return i;
+        }
+    }
+    return turn;
+}
+
+void PathShape::AppendTaut(std::vector<GeoPoint> run, const GateMask& forbidden,
                            std::vector<GeoPoint>& out) const {
+    // What is left out depends on the end to begin at: it is the same one whichever way the ship goes.
+    const bool turned = std::tie(run.back().x, run.back().y) < std::tie(run.front().x, run.front().y);
+    if (turned) {
+        std::reverse(run.begin(), run.end());
+    }
+    std::vector<std::size_t> kept{0};
     std::size_t at = 0;
     while (at + 1 < run.size()) {
         std::size_t next = at + 1;
@@ -70,18 +107,32 @@ void PathShape::AppendTaut(const std::vector<GeoPoint>& run, const GateMask& for
                 ++hidden;
             }
         }
-        out.push_back(run[next]);
+        kept.push_back(next);
         at = next;
     }
+    for (std::size_t i = 1; i + 1 < kept.size(); ++i) {
+        kept[i] = BetterTurn(run, kept[i - 1], kept[i], kept[i + 1], forbidden);
+    }
+    if (turned) {
+        std::reverse(kept.begin(), kept.end());
+    }
+    std::transform(kept.begin() + 1, kept.end(), std::back_inserter(out),
+                   [&run](std::size_t i) { return run[i]; });
 }
 
 std::vector<GeoPoint> PathShape::Taut(const NodePath& path, const GateMask& forbidden,
                                       const std::vector<std::uint32_t>& pinned) const {
     const NetworkData& data = network_.data();
+    // The search kept away from costly passages, and so must the short cut.
+    GateMask barred = network_.CostlyGates();
+    for (const std::uint32_t edge : path.edges) {
+        barred &= ~data.masks[data.edges[edge].mask];
+    }
+    barred |= forbidden;
     std::vector<GeoPoint> corners{data.nodes[path.nodes.front()]};
     std::vector<GeoPoint> run{corners.front()};
     const auto flush = [&] {
-        AppendTaut(run, forbidden, corners);
+        AppendTaut(run, barred, corners);
         run = {corners.back()};
     };
     for (std::size_t i = 0; i < path.edges.size(); ++i) {

@@ -34,8 +34,11 @@ class PathShape {
 
   private:
     bool IsOpen(GeoPoint a, GeoPoint b, const GateMask& forbidden) const;
-    void AppendTaut(const std::vector<GeoPoint>& run, const GateMask& forbidden,
-                    std::vector<GeoPoint>& out) const;
+    /// The place of a run at which to turn between two of its places: the one that makes the way shortest,
+    /// where the farthest in sight often leads too far.
+    std::size_t BetterTurn(const std::vector<GeoPoint>& run, std::size_t before, std::size_t turn,
+                           std::size_t behind, const GateMask& forbidden) const;
+    void AppendTaut(std::vector<GeoPoint> run, const GateMask& forbidden, std::vector<GeoPoint>& out) const;
 
     const SeaNetwork& network_;
 };

@@ -24,7 +24,7 @@ RouteResult Failed(int error, std::string message) {
 
 RouteEngine::RouteEngine(std::shared_ptr<const SeaNetwork> network) : network_(std::move(network)) {}
 
-RouteResult RouteEngine::Plan(const std::vector<RouteRequestPoint>& points) const {
+RouteResult RouteEngine::Plan(const std::vector<RouteRequestPoint>& points, const RouteLimits& limits) const {
     if (points.size() < 2) {
         return Failed(kRouteTooFewPoints, "a route needs at least two points");
     }
@@ -33,7 +33,7 @@ RouteResult RouteEngine::Plan(const std::vector<RouteRequestPoint>& points) cons
             return Failed(kRouteUnknownPoint, "there is no port or route point \"" + point.id + "\"");
         }
     }
-    const LegPlanner planner(*network_);
+    const LegPlanner planner(*network_, limits);
     RouteResult result;
     result.stops.push_back({points.front().id, 0.0, {}, {}, {points.front().id}, {}});
     for (std::size_t i = 1; i < points.size(); ++i) {

@@ -17,7 +17,7 @@ class RouteEngine {
     explicit RouteEngine(std::shared_ptr<const SeaNetwork> network);
 
     /// The ways along a list of at least two stops. The first stop of the answer has no legs.
-    RouteResult Plan(const std::vector<RouteRequestPoint>& points) const;
+    RouteResult Plan(const std::vector<RouteRequestPoint>& points, const RouteLimits& limits = {}) const;
 
     /// The way from a position (degrees; on the water, in port or on a river) to a port or route point. It
     /// begins at the position itself.

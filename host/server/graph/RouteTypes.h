@@ -50,6 +50,13 @@ struct RouteRequestPoint {
     std::vector<RouteChoice> locks;
 };
 
+/// What a request may not or may use beside what the network says, by ids of route points; unknown ids are
+/// passed over.
+struct RouteLimits {
+    std::vector<std::string> forbidden;
+    std::vector<std::string> opened;  ///< passages that are shut unless asked for
+};
+
 /// What can be wrong with a request; the numbers go to the client as `eid` and never change their meaning.
 enum RouteError : int {
     kRouteOk = 0,

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/graph/SeaNetwork.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "host/server/graph/Gate.h"
+#include "host/server/graph/PassageReach.h"
 #include "host/server/graph/SeaNetworkFile.h"
 
 namespace Tarvik::Server {
@@ -12,7 +15,25 @@ namespace {
 
 constexpr std::size_t kLandmarkCount = 16;
 
+/// Where ships turn to sail along a parallel: Cape Horn needs 57 degrees, tables of distances sail the South
+/// Pacific and the Indian Ocean along 46 to 52.
+constexpr GeoPoint kSouthLimits[] = {{-180, -52}, {-100, -52}, {-82, -57}, {-78, -60}, {-50, -60}, {-45, -52},
+                                     {15, -48},   {25, -46},   {140, -47}, {160, -52}, {180, -52}};
+/// Great circles between places on the limit bend a little beyond it.
+constexpr double kSouthSlack = 0.35;
+
 }  // namespace
+
+double SouthLimit(double longitude) {
+    const double x = WrapLongitude(longitude);
+    const auto* east = std::upper_bound(std::begin(kSouthLimits), std::end(kSouthLimits), x,
+                                        [](double value, GeoPoint limit) { return value < limit.x; });
+    if (east == std::end(kSouthLimits)) {
+        return std::prev(east)->y;
+    }
+    const GeoPoint west = *std::prev(east);
+    return west.y + (x - west.x) / (east->x - west.x) * (east->y - west.y);
+}
 
 std::shared_ptr<const SeaNetwork> SeaNetwork::Load(const std::string& path, std::string& error) {
     std::optional<NetworkData> data = SeaNetworkFile::Read(path, error);
@@ -22,23 +43,79 @@ std::shared_ptr<const SeaNetwork> SeaNetwork::Load(const std::string& path, std:
     return std::make_shared<const SeaNetwork>(std::move(*data));
 }
 
-SeaNetwork::SeaNetwork(NetworkData data) : data_(std::move(data)), land_(data_.land), basins_(data_) {
+SeaNetwork::SeaNetwork(NetworkData data)
+    : data_(std::move(data)), land_(data_.land, data_.areas), basins_(data_) {
     BuildArcs();
     vectors_.reserve(data_.nodes.size());
     for (const GeoPoint p : data_.nodes) {
         vectors_.push_back(ToVector(p));
     }
     for (const NetworkPort& port : data_.ports) {
-        nodeById_.emplace(port.id, port.node);
+        AddNamed(port.id, port.node);
     }
     for (std::size_t i = 0; i < data_.routePoints.size(); ++i) {
         const RoutePoint& point = data_.routePoints[i];
-        nodeById_.emplace(point.id, point.node);
+        AddNamed(point.id, point.node);
         routePointById_.emplace(point.id, static_cast<std::uint16_t>(i));
         shut_[i] = point.shut;
+        costly_[i] = point.cost > 0.0F;
     }
     shut_[kIceBit] = true;
     landmarks_ = Landmarks(OpenArcs(), kLandmarkCount);
+    if (data_.reach.empty()) {
+        FillReach();
+    }
+}
+
+void SeaNetwork::AddNamed(const std::string& id, std::uint32_t node) {
+    named_.emplace(id, Named{node, static_cast<std::uint32_t>(named_.size())});
+}
+
+void SeaNetwork::FillReach() {
+    std::vector<std::uint32_t> targets;
+    for (const NetworkPort& port : data_.ports) {
+        targets.push_back(port.node);
+    }
+    for (const RoutePoint& point : data_.routePoints) {
+        targets.push_back(point.node);
+    }
+    for (std::size_t i = 0; i < data_.routePoints.size(); ++i) {
+        data_.reach.push_back(ReachFrom(data_, table_, data_.routePoints[i],
+                                        ForbiddenBy(static_cast<std::uint16_t>(i)), targets));
+    }
+}
+
+const ReachEntry& SeaNetwork::Reach(std::uint16_t routePoint, const std::string& id) const {
+    return data_.reach[routePoint][named_.at(id).column];
+}
+
+GateMask SeaNetwork::ForbiddenBy(std::uint16_t routePoint) const {
+    GateMask forbidden = shut_;
+    const RoutePoint& chosen = data_.routePoints[routePoint];
+    for (const AlternativeGroup& group : chosen.groups) {
+        for (const std::uint16_t other : group) {
+            forbidden[other] = true;
+        }
+    }
+    if (IsIce(routePoint)) {
+        OpenIce(forbidden);
+    }
+    forbidden[routePoint] = false;
+    return forbidden;
+}
+
+bool SeaNetwork::IsIce(std::uint16_t routePoint) const {
+    const RoutePoint& point = data_.routePoints[routePoint];
+    return point.shut && data_.nodes[point.node].y > kIceLatitude;
+}
+
+void SeaNetwork::OpenIce(GateMask& forbidden) const {
+    for (std::size_t i = 0; i < data_.routePoints.size(); ++i) {
+        if (IsIce(static_cast<std::uint16_t>(i))) {
+            forbidden[i] = false;
+        }
+    }
+    forbidden[kIceBit] = false;
 }
 
 ArcTable SeaNetwork::OpenArcs() const {
@@ -56,6 +133,13 @@ ArcTable SeaNetwork::OpenArcs() const {
 }
 
 void SeaNetwork::BuildArcs() {
+    std::vector<float> cost;
+    for (const GateMask& mask : data_.masks) {
+        cost.push_back(0.0F);
+        for (std::size_t i = 0; i < data_.routePoints.size(); ++i) {
+            cost.back() += mask[i] ? data_.routePoints[i].cost : 0.0F;
+        }
+    }
     table_.start.assign(data_.nodes.size() + 1, 0);
     for (const NetworkEdge& e : data_.edges) {
         ++table_.start[e.a + 1];
@@ -68,8 +152,9 @@ void SeaNetwork::BuildArcs() {
     std::vector<std::uint32_t> next(table_.start.begin(), table_.start.end() - 1);
     for (std::uint32_t i = 0; i < data_.edges.size(); ++i) {
         const NetworkEdge& e = data_.edges[i];
-        table_.arcs[next[e.a]++] = {e.b, i, e.nm};
-        table_.arcs[next[e.b]++] = {e.a, i, e.nm};
+        const float nm = e.nm + cost[e.mask];
+        table_.arcs[next[e.a]++] = {e.b, i, nm};
+        table_.arcs[next[e.b]++] = {e.a, i, nm};
     }
 }
 
@@ -78,8 +163,8 @@ std::span<const Arc> SeaNetwork::Arcs(std::uint32_t node) const {
 }
 
 std::optional<std::uint32_t> SeaNetwork::NodeOf(const std::string& id) const {
-    const auto it = nodeById_.find(id);
-    return it == nodeById_.end() ? std::nullopt : std::optional(it->second);
+    const auto it = named_.find(id);
+    return it == named_.end() ? std::nullopt : std::optional(it->second.node);
 }
 
 std::optional<std::uint16_t> SeaNetwork::RoutePointIndex(const std::string& id) const {
@@ -99,7 +184,7 @@ GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RouteP
         mask[i] = MayMeet(bounds, BoundsOf(gate)) && FirstCrossing(way, gate).has_value();
     }
     for (const GeoPoint p : way) {
-        if (p.y > kNorthLimit || p.y < kSouthLimit) {
+        if (p.y > kNorthLimit || p.y < SouthLimit(p.x) - kSouthSlack) {
             mask[kIceBit] = true;
         }
     }

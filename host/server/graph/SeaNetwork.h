@@ -15,10 +15,17 @@
 
 namespace Tarvik::Server {
 
-/// The bit of ways north of `kNorthLimit` or south of `kSouthLimit`; no route point owns it.
+/// The bit of ways north of `kNorthLimit` or south of `SouthLimit`; no route point owns it.
 inline constexpr std::size_t kIceBit = kMaxRoutePoints - 1;
 inline constexpr double kNorthLimit = 72.5;
+/// Passages north of this latitude that are shut are shut for ice.
+inline constexpr double kIceLatitude = 65.0;
+/// No ship goes farther south than this in any ocean.
 inline constexpr double kSouthLimit = -60.0;
+
+/// The latitude that ships keep north of at a longitude: ice and storms end the great circle there, and they
+/// sail along it. It is that of each ocean, with straight lines between.
+double SouthLimit(double longitude);
 
 /// The sea network in memory: nodes, ways, named route points, ports and the land. Never changes once made,
 /// so any number of threads may ask it.
@@ -34,6 +41,8 @@ class SeaNetwork {
     const LandIndex& Land() const { return land_; }
     /// Bounds over the edges that are open unless asked for; of no use once a shut gate is open.
     const Landmarks& Bounds() const { return landmarks_; }
+    /// The gates at which the search adds miles.
+    const GateMask& CostlyGates() const { return costly_; }
     const Basins& Waters() const { return basins_; }
     std::span<const Arc> Arcs(std::uint32_t node) const;
     const UnitVector& Vector(std::uint32_t node) const { return vectors_[node]; }
@@ -42,13 +51,29 @@ class SeaNetwork {
     std::optional<std::uint32_t> NodeOf(const std::string& id) const;
     /// The index of a route point.
     std::optional<std::uint16_t> RoutePointIndex(const std::string& id) const;
+    /// How a route point leads to the port or route point of an id, which must exist.
+    const ReachEntry& Reach(std::uint16_t routePoint, const std::string& id) const;
+    /// What choosing a route point forbids: the passages beside it, and what is shut unless asked for.
+    GateMask ForbiddenBy(std::uint16_t routePoint) const;
     /// The gates that stay shut unless asked for.
     const GateMask& ShutGates() const { return shut_; }
+    /// Whether a route point is shut for ice.
+    bool IsIce(std::uint16_t routePoint) const;
+    /// Opens the ice: one passage in it is of no use without its neighbours, so that all of them open
+    /// together.
+    void OpenIce(GateMask& forbidden) const;
     /// The gates that a straight great-circle way crosses, the ice bit included.
     GateMask GatesCrossed(GeoPoint a, GeoPoint b) const;
 
   private:
+    /// A port or route point.
+    struct Named {
+        std::uint32_t node = 0;
+        std::uint32_t column = 0;  ///< in the rows of the reach
+    };
+    void AddNamed(const std::string& id, std::uint32_t node);
     void BuildArcs();
+    void FillReach();
     ArcTable OpenArcs() const;
 
     NetworkData data_;
@@ -57,9 +82,10 @@ class SeaNetwork {
     ArcTable table_;
     Landmarks landmarks_;
     std::vector<UnitVector> vectors_;
-    std::unordered_map<std::string, std::uint32_t> nodeById_;
+    std::unordered_map<std::string, Named> named_;
     std::unordered_map<std::string, std::uint16_t> routePointById_;
     GateMask shut_;
+    GateMask costly_;
 };
 
 /// The gates that a drawn way crosses, and the ice bit where it leaves the latitudes open to all.

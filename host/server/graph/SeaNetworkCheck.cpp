@@ -42,6 +42,9 @@ std::string CheckPoints(const NetworkData& d) {
         if (p.gate.size() < 2) {
             return "a route point has no gate";
         }
+        if (!std::isfinite(p.cost) || p.cost < 0.0F) {
+            return "a route point has an impossible cost";
+        }
         for (const AlternativeGroup& group : p.groups) {
             for (const std::uint16_t i : group) {
                 if (i >= d.routePoints.size()) {
@@ -58,11 +61,31 @@ std::string CheckPoints(const NetworkData& d) {
     return {};
 }
 
+/// A network without any tells it when it is loaded.
+std::string CheckReach(const NetworkData& d) {
+    if (d.reach.empty()) {
+        return {};
+    }
+    if (d.reach.size() != d.routePoints.size()) {
+        return "it does not tell what every route point reaches";
+    }
+    for (const auto& row : d.reach) {
+        if (row.size() != d.ports.size() + d.routePoints.size()) {
+            return "it does not tell the reach to every port";
+        }
+    }
+    return {};
+}
+
 }  // namespace
 
 std::string FaultOf(const NetworkData& data) {
-    const std::string fault = CheckEdges(data);
-    return fault.empty() ? CheckPoints(data) : fault;
+    for (const std::string& fault : {CheckEdges(data), CheckPoints(data), CheckReach(data)}) {
+        if (!fault.empty()) {
+            return fault;
+        }
+    }
+    return {};
 }
 
 }  // namespace Tarvik::Server

@@ -11,7 +11,7 @@ namespace Tarvik::Server {
 
 namespace {
 
-constexpr std::string_view kMagic = "SEANET01";
+constexpr std::string_view kMagic = "SEANET02";
 constexpr std::size_t kHeaderBytes = 24;
 
 std::uint64_t Fnv1a(std::string_view bytes) {
@@ -26,6 +26,13 @@ void PutPoints(ByteWriter& w, const std::vector<GeoPoint>& points) {
     w.Count(points.size());
     for (const GeoPoint p : points) {
         w.Point(p);
+    }
+}
+
+void PutRings(ByteWriter& w, const std::vector<std::vector<GeoPoint>>& rings) {
+    w.Count(rings.size());
+    for (const auto& ring : rings) {
+        PutPoints(w, ring);
     }
 }
 
@@ -44,6 +51,7 @@ void PutRoutePoint(ByteWriter& w, const RoutePoint& p) {
     w.Text(p.name);
     w.U32(p.node);
     w.U8(p.shut ? 1 : 0);
+    w.F32(p.cost);
     PutPoints(w, p.gate);
     w.Count(p.groups.size());
     for (const AlternativeGroup& group : p.groups) {
@@ -60,6 +68,14 @@ std::vector<GeoPoint> GetPoints(ByteReader& r) {
         p = r.Point();
     }
     return points;
+}
+
+std::vector<std::vector<GeoPoint>> GetRings(ByteReader& r) {
+    std::vector<std::vector<GeoPoint>> rings(r.Count(4));
+    for (auto& ring : rings) {
+        ring = GetPoints(r);
+    }
+    return rings;
 }
 
 GateMask GetMask(ByteReader& r) {
@@ -79,6 +95,7 @@ RoutePoint GetRoutePoint(ByteReader& r) {
     p.name = r.Text();
     p.node = r.U32();
     p.shut = r.U8() != 0;
+    p.cost = r.F32();
     p.gate = GetPoints(r);
     p.groups.resize(r.Count(4));
     for (AlternativeGroup& group : p.groups) {
@@ -105,7 +122,7 @@ NetworkData GetPayload(ByteReader& r) {
     for (GateMask& mask : data.masks) {
         mask = GetMask(r);
     }
-    data.routePoints.resize(r.Count(21));
+    data.routePoints.resize(r.Count(25));
     for (RoutePoint& p : data.routePoints) {
         p = GetRoutePoint(r);
     }
@@ -113,9 +130,15 @@ NetworkData GetPayload(ByteReader& r) {
     for (NetworkPort& p : data.ports) {
         p = {r.Text(), r.Text(), r.Text(), r.U32()};
     }
-    data.land.resize(r.Count(4));
-    for (auto& ring : data.land) {
-        ring = GetPoints(r);
+    data.land = GetRings(r);
+    data.areas = GetRings(r);
+    data.reach.resize(r.Count(4));
+    for (auto& row : data.reach) {
+        row.resize(r.Count(5));
+        for (ReachEntry& entry : row) {
+            entry.nm = r.F32();
+            entry.side = r.U8();
+        }
     }
     return data;
 }
@@ -148,9 +171,15 @@ std::string SeaNetworkFile::Encode(const NetworkData& data) {
         w.Text(p.name);
         w.U32(p.node);
     }
-    w.Count(data.land.size());
-    for (const auto& ring : data.land) {
-        PutPoints(w, ring);
+    PutRings(w, data.land);
+    PutRings(w, data.areas);
+    w.Count(data.reach.size());
+    for (const auto& row : data.reach) {
+        w.Count(row.size());
+        for (const ReachEntry& entry : row) {
+            w.F32(entry.nm);
+            w.U8(entry.side);
+        }
     }
     ByteWriter head;
     head.U64(w.Bytes().size());

@@ -153,9 +153,10 @@ std::string PlanDesk::TryAlternative(const Offer& offer, const RouteStops& stops
     if (passed.find("," + offer.RoutePoint + ",") != std::string::npos) {
         return "old one passed";
     }
-    // A route without choices is the shortest there is, but for the roundness of coasts.
+    // A route without choices is the shortest there is, but for the roundness of coasts and for passages that
+    // are used only when asked for.
     const RouteStop& before = stops[offer.stop];
-    if (before.locks.empty() &&
+    if (before.locks.empty() && !IsShutUnlessAsked(offer.alternative) &&
         static_cast<double>(changed.distance) < kShorter * static_cast<double>(before.distance)) {
         return "shorter";
     }

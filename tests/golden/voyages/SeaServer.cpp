@@ -23,6 +23,12 @@ std::shared_ptr<const Server::SeaNetwork> ShippedNetwork() {
 
 }  // namespace
 
+bool IsShutUnlessAsked(const std::string& routePoint) {
+    const auto network = ShippedNetwork();
+    const auto index = network->RoutePointIndex(routePoint);
+    return index && network->data().routePoints[*index].shut;
+}
+
 SeaServer::SeaServer() {
     std::string error;
     server_ = Server::EmbeddedServer::Open(

@@ -23,4 +23,8 @@ class SeaServer : public Client::ServerLink {
     std::unique_ptr<Server::EmbeddedServer> server_;
 };
 
+/// Whether the shipped network uses a route point only when it is asked for, as the canals of Kiel and
+/// Corinth.
+bool IsShutUnlessAsked(const std::string& routePoint);
+
 }  // namespace Tarvik::Golden

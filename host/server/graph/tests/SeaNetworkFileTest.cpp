@@ -26,7 +26,7 @@ std::string Sealed(const std::string& payload) {
     ByteWriter head;
     head.U64(payload.size());
     head.U64(sum);
-    return "SEANET01" + head.Bytes() + payload;
+    return "SEANET02" + head.Bytes() + payload;
 }
 
 std::string ErrorOf(const std::string& bytes) {
@@ -40,7 +40,10 @@ std::string ErrorOf(const NetworkData& data) {
 }
 
 TEST(SeaNetworkFile, ReadsWhatItWrote) {
-    const NetworkData before = SmallSea();
+    NetworkData before = SmallSea();
+    before.areas = {{{1, 1}, {2, 1}, {2, 2}}};
+    before.routePoints[1].cost = 30.0F;
+    before.reach.assign(3, std::vector<ReachEntry>(8, {12.5F, 2}));
     const std::string bytes = SeaNetworkFile::Encode(before);
     std::string error;
     const auto after = SeaNetworkFile::Decode(bytes, error);
@@ -49,6 +52,10 @@ TEST(SeaNetworkFile, ReadsWhatItWrote) {
     EXPECT_EQ(after->nodes, before.nodes);
     EXPECT_EQ(after->masks, before.masks);
     EXPECT_EQ(after->land, before.land);
+    EXPECT_EQ(after->areas, before.areas);
+    EXPECT_EQ(after->routePoints[1].cost, 30.0F);
+    EXPECT_EQ(after->reach[2][7].nm, 12.5F);
+    EXPECT_EQ(after->reach[2][7].side, 2);
     ASSERT_EQ(after->routePoints.size(), 3u);
     EXPECT_EQ(after->routePoints[2].name, "Canal");
     EXPECT_TRUE(after->routePoints[2].shut);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/builder/CsvTable.h"
+#include "host/geo/CsvTable.h"
 
 #include <charconv>
 #include <cmath>

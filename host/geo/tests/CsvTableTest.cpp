@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
-#include "host/data/builder/CsvTable.h"
+#include "host/geo/CsvTable.h"
 
 namespace Tarvik::Data {
 
