@@ -102,6 +102,15 @@ int Transfer(const TransferCommand& command, const Settings& settings, const Pro
     return 0;
 }
 
+int AnswerRoute(const std::vector<std::string>& words, const Settings& settings, const ProgramParts& parts) {
+    std::string said;
+    if (!RunRouteCommand(words, NetworkOf(settings), said)) {
+        return Say(parts, kFailed, said);
+    }
+    parts.out << said;
+    return 0;
+}
+
 }  // namespace
 
 int RunProgram(const std::vector<std::string>& words, const ProgramParts& parts) {
@@ -123,13 +132,17 @@ int RunProgram(const std::vector<std::string>& words, const ProgramParts& parts)
     if (user) {
         command.erase(command.begin());
     }
-    if (!serve && !transfer && !(user && UserAdmin::IsCommand(command))) {
+    const bool route = IsRouteCommand(command);
+    if (!serve && !transfer && !route && !(user && UserAdmin::IsCommand(command))) {
         return Say(parts, kWrong, "there is no such command; seaplan-server --help tells all");
     }
     Settings settings;
     std::string error;
     if (!ReadSettings(file, parts.environment, settings, error)) {
         return Say(parts, kWrong, error);
+    }
+    if (route) {
+        return AnswerRoute(command, settings, parts);
     }
     if (transfer) {
         return Transfer(*transfer, settings, parts);

@@ -43,4 +43,12 @@ bool AskPassword(std::string& password);
 /// meant when none is named. False with an English line in `said`, else what was done.
 bool RunTransfer(const TransferCommand& command, Settings settings, std::string& said);
 
+/// Whether the words are "route ..." or "distances FILE".
+bool IsRouteCommand(const std::vector<std::string>& words);
+
+/// Answers such words from the network of a file. False with an English line in `said`, else the answer, with
+/// its line ends.
+bool RunRouteCommand(const std::vector<std::string>& words, const std::string& networkFile,
+                     std::string& said);
+
 }  // namespace Tarvik::Server

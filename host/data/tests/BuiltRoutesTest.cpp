@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+// Ways of the shipped network that a navigator would frown at, each of which was once wrong.
+#include <cmath>
+
+#include <gmock/gmock.h>
+
+#include "host/server/graph/RouteEngine.h"
+#include "host/server/graph/report/Places.h"
+
+namespace Tarvik::Data {
+
+namespace {
+
+using Server::GeoPoint;
+using Server::PlannedStop;
+using ::testing::Contains;
+using ::testing::Not;
+
+class BuiltRoutesTest : public ::testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        std::string error;
+        network_ = Server::SeaNetwork::Load(SHARE_FOLDER "/network.bin", error);
+        ASSERT_TRUE(network_) << error;
+    }
+    static void TearDownTestSuite() { network_.reset(); }
+    PlannedStop Way(const std::string& from, const std::string& to,
+                    const std::vector<std::string>& by = {}) const {
+        const std::string a = places_.PortId(from);
+        const std::string b = places_.PortId(to);
+        const auto result = Server::RouteEngine(network_).Plan({{a, {}, {}}, places_.StopBy(by, a, b)});
+        EXPECT_EQ(result.error, Server::kRouteOk) << from << " " << to << ": " << result.message;
+        return result.error == Server::kRouteOk ? result.stops[1] : PlannedStop{};
+    }
+    double Miles(const std::string& from, const std::string& to,
+                 const std::vector<std::string>& by = {}) const {
+        return Way(from, to, by).distanceKm / Server::kKmPerNm;
+    }
+    /// The farthest of a way to one side: the largest value that `of` has on it.
+    template <typename Of>
+    static double Farthest(const PlannedStop& way, Of of) {
+        double most = -1e9;
+        for (const auto& leg : way.legs) {
+            for (const GeoPoint p : leg.points) {
+                most = std::max(most, of(p));
+            }
+        }
+        return most;
+    }
+    static inline std::shared_ptr<const Server::SeaNetwork> network_;
+    Server::Places places_{*network_};
+};
+
+TEST_F(BuiltRoutesTest, LagosIsEnteredFromTheSeaAndNotThroughTheLagoon) {
+    EXPECT_NEAR(Miles("USORF", "NGLOS"), 4941, 0.03 * 4941);
+    EXPECT_LT(Farthest(Way("NGLOS", "CIABJ"), [](GeoPoint p) { return p.x; }), 3.6) << "sails east first";
+}
+
+TEST_F(BuiltRoutesTest, BangkokLeavesTheGulfByItsMiddle) {
+    EXPECT_NEAR(Miles("THBKK", "KRPUS"), 2533, 0.03 * 2533);
+    EXPECT_GT(-Farthest(Way("THBKK", "KRPUS"), [](GeoPoint p) { return -p.x; }), 100.0);
+}
+
+TEST_F(BuiltRoutesTest, CorinthIsJoinedToItsGulf) {
+    EXPECT_NEAR(Miles("ITTRS", "TRIST", {"Corinth Canal"}), 1063, 0.04 * 1063);
+}
+
+TEST_F(BuiltRoutesTest, PassagesInARowAreNotOfferedForEachOther) {
+    const std::string malta = places_.PassageId("Malta Channel");
+    for (const auto& group : Way("TNSFA", "DZSKI").groups) {
+        EXPECT_THAT(group.alternatives, Not(Contains(malta)));
+    }
+    const PlannedStop colon = Way("USSAV", "PAONX");
+    for (const auto& group : colon.groups) {
+        for (const std::string& other : group.alternatives) {
+            EXPECT_LE(Way("USSAV", "PAONX", {other}).distanceKm, 2.0 * colon.distanceKm) << other;
+        }
+    }
+}
+
+TEST_F(BuiltRoutesTest, NoOfferTurnsBackOrDoublesTheWay) {
+    const auto& ports = network_->data().ports;
+    std::uint32_t seed = 77;
+    const auto next = [&seed] { return (seed = seed * 1664525U + 1013904223U) >> 8; };
+    const Server::RouteEngine engine(network_);
+    int offers = 0;
+    for (int i = 0; i < 40; ++i) {
+        const std::string a = ports[next() % ports.size()].id;
+        const std::string b = ports[next() % ports.size()].id;
+        const PlannedStop way = Way(a, b);
+        for (const auto& group : way.groups) {
+            for (const std::string& other : group.alternatives) {
+                const auto result = engine.Plan({{a, {}, {}}, places_.StopBy({other}, a, b)});
+                ASSERT_EQ(result.error, Server::kRouteOk) << result.message;
+                EXPECT_LE(result.stops[1].distanceKm, 2.05 * way.distanceKm) << a << " " << b << " " << other;
+                ++offers;
+            }
+        }
+    }
+    EXPECT_GT(offers, 100);
+}
+
+TEST_F(BuiltRoutesTest, ThereAndBackAreOneWay) {
+    const auto& ports = network_->data().ports;
+    std::uint32_t seed = 4711;
+    const auto next = [&seed] { return (seed = seed * 1664525U + 1013904223U) >> 8; };
+    for (int i = 0; i < 150; ++i) {
+        const std::string a = ports[next() % ports.size()].id;
+        const std::string b = ports[next() % ports.size()].id;
+        const double there = Way(a, b).distanceKm;
+        EXPECT_NEAR(Way(b, a).distanceKm, there, 1e-4 * there + 0.01) << a << " " << b;
+    }
+}
+
+TEST_F(BuiltRoutesTest, NoOceanIsCrossedFartherSouthThanItsLimit) {
+    const char* const pairs[][2] = {{"CLVAP", "AUSYD"}, {"CLPUQ", "NZWLG"}, {"USNYC", "AUFRE"}};
+    for (const auto& [from, to] : pairs) {
+        const double beyond =
+            Farthest(Way(from, to), [](GeoPoint p) { return Server::SouthLimit(p.x) - p.y; });
+        EXPECT_LT(beyond, 0.4) << from << " " << to;
+    }
+}
+
+TEST_F(BuiltRoutesTest, PortsWithMistakenPositionsStandWhereTheyAre) {
+    const struct {
+        const char* code;
+        GeoPoint at;
+    } known[] = {{"ANGSB", {-68.449, 12.169}},  {"ARDDC", {-59.2, -34.045}},   {"CLJRL", {-73.227, -36.972}},
+                 {"CLPGO", {-71.504, -31.886}}, {"CLPPD", {-70.842, -27.052}}, {"VEGUB", {-70.215, 11.666}},
+                 {"ISESK", {-14.054, 65.073}},  {"REPDG", {55.286, -20.924}},  {"TNJAR", {11.1, 33.5}},
+                 {"CLCAP", {-73.13, -36.73}}};
+    for (const auto& [code, at] : known) {
+        const auto node = network_->NodeOf(places_.PortId(code));
+        ASSERT_TRUE(node) << code;
+        EXPECT_LT(Server::ArcNm(network_->data().nodes[*node], at), 1.0) << code;
+    }
+}
+
+}  // namespace
+}  // namespace Tarvik::Data

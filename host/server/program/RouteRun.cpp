@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// The commands about routes: they read the network's file and need neither data bases nor a running server.
+#include <stdexcept>
+
+#include "host/server/graph/report/DistanceTable.h"
+#include "host/server/graph/report/RouteReport.h"
+#include "host/server/program/Program.h"
+
+namespace Tarvik::Server {
+
+bool IsRouteCommand(const std::vector<std::string>& words) {
+    return !words.empty() && (words[0] == "route" || (words[0] == "distances" && words.size() == 2));
+}
+
+bool RunRouteCommand(const std::vector<std::string>& words, const std::string& networkFile,
+                     std::string& said) {
+    const auto network = SeaNetwork::Load(networkFile, said);
+    if (network == nullptr) {
+        return false;
+    }
+    if (words[0] == "distances") {
+        try {
+            const Data::CsvTable table(Data::ReadFile(words[1]));
+            const auto lines = MeasureDistances(*network, RouteEngine(network), table);
+            said = DistanceText(lines) + DistanceStatistics(lines);
+            return true;
+        } catch (const std::runtime_error& error) {
+            said = error.what();
+            return false;
+        }
+    }
+    const auto question = ReadRouteQuestion({words.begin() + 1, words.end()}, said);
+    const auto text = question ? RouteText(*network, *question, said) : std::nullopt;
+    if (text) {
+        said = *text;
+    }
+    return text.has_value();
+}
+
+}  // namespace Tarvik::Server
