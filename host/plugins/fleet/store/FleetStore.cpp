@@ -84,6 +84,16 @@ const Interface::FleetVessel* FleetStore::Find(const std::string& id) {
     return found == vessels.end() ? nullptr : &*found;
 }
 
+const Interface::FleetVessel* FleetStore::WithSameNumber(const Interface::FleetVessel& vessel) {
+    const auto& vessels = Vessels();
+    const auto found = std::find_if(vessels.begin(), vessels.end(), [&vessel](const auto& other) {
+        const bool isSame =
+            (vessel.mmsi != 0 && other.mmsi == vessel.mmsi) || (vessel.imo != 0 && other.imo == vessel.imo);
+        return other.id != vessel.id && isSame;
+    });
+    return found == vessels.end() ? nullptr : &*found;
+}
+
 bool FleetStore::Reload() {
     const auto user = User();
     if (!user || *user != user_) {

@@ -30,6 +30,8 @@ class FleetStore {
     const std::vector<Interface::FleetVessel>& Vessels();
     /// The vessel of an id; null when there is none.
     const Interface::FleetVessel* Find(const std::string& id);
+    /// Another vessel of the same MMSI or IMO number; null when there is none.
+    const Interface::FleetVessel* WithSameNumber(const Interface::FleetVessel& vessel);
     /// Asks the server now. False when it did not answer.
     bool Reload();
     /// Forgets everything, as at a logout.

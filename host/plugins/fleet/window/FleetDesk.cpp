@@ -170,6 +170,12 @@ void FleetDesk::OpenForm(const Interface::FleetVessel& vessel) {
 }
 
 QString FleetDesk::Save(Interface::FleetVessel vessel) {
+    if (const Interface::FleetVessel* other = store_.WithSameNumber(vessel)) {
+        const QString name = QString::fromStdString(other->name);
+        if (!Agreed(Word("TWICE").arg(name), &Form())) {
+            return Word("NOT_TWICE").arg(name);
+        }
+    }
     const bool isNew = vessel.id.empty();
     const Outcome outcome = store_.Change(isNew ? Operation::Add : Operation::Set, vessel);
     Refresh();

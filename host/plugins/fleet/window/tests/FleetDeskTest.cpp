@@ -120,6 +120,24 @@ TEST_F(FleetDeskTest, AFaultIsToldBelowTheFieldsAndNothingIsSent) {
     EXPECT_TRUE(Form().isVisible());
 }
 
+TEST_F(FleetDeskTest, ANumberThatTheFleetHasAlreadyIsAskedAbout) {
+    Toggle();
+    for (const char* name : {"Far Star", "Near Star"}) {
+        Press("fleetAdd");
+        Type("fleetName", name);
+        Type("fleetImo", "9074729");
+        if (Table().rowCount() > 0) {
+            sink.Answer(Interface::SysMsgHandleRes::No);
+        }
+        Save();
+    }
+    EXPECT_EQ(Fault(), "Not saved: Far Star of the fleet has this MMSI or IMO number.");
+    EXPECT_EQ(Table().rowCount(), 1);
+    sink.Answer(Interface::SysMsgHandleRes::Yes);
+    Save();
+    EXPECT_EQ(Table().rowCount(), 2);
+}
+
 TEST_F(FleetDeskTest, TheWindowForAVesselOfAVoyageIsFilledAndNotShown) {
     const Interface::FleetEntry entry{"", "Typed Star", 0};
     void* const* handle = Interface::Call(Bus::ShowAddVessel, &entry);
