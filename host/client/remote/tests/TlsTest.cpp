@@ -3,10 +3,12 @@
 #include <thread>
 
 #include <gtest/gtest.h>
+#include <openssl/ssl.h>
 #include <openssl/x509_vfy.h>
 
 #include "host/client/remote/RemoteLink.h"
 #include "host/server/net/tests/RequestBlock.h"
+#include "host/server/net/tests/SilentListener.h"
 #include "host/server/net/tests/TestCertificate.h"
 #include "host/server/net/tests/TestServer.h"
 
@@ -94,6 +96,52 @@ TEST_F(TlsTest, CertificateThatExpiresEndsNoConnectionButTheNext) {
     EXPECT_EQ(link.Exchange("anna", *load), "[]") << link.LastFailure();
     Client::RemoteLink next(SettingsFor("https://127.0.0.1", "c.pem"));
     EXPECT_FALSE(next.Connect(error_));
+}
+
+/// A server of another make, which shows whatever certificate it has: it shakes hands with one client.
+class CarelessServer {
+  public:
+    CarelessServer(const std::string& certificate, const std::string& key)
+        : context_(SSL_CTX_new(TLS_server_method()), &SSL_CTX_free) {
+        const bool ready =
+            SSL_CTX_use_certificate_file(context_.get(), certificate.c_str(), SSL_FILETYPE_PEM) == 1 &&
+            SSL_CTX_use_PrivateKey_file(context_.get(), key.c_str(), SSL_FILETYPE_PEM) == 1;
+        EXPECT_TRUE(ready);
+        thread_ = std::thread([this] {
+            const int socket = listener_.Accept();
+            const std::unique_ptr<SSL, decltype(&SSL_free)> session(SSL_new(context_.get()), &SSL_free);
+            SSL_set_fd(session.get(), socket);
+            agreed_ = SSL_accept(session.get()) == 1;
+            ::close(socket);
+        });
+    }
+    /// After its client.
+    ~CarelessServer() {
+        thread_.join();
+        EXPECT_FALSE(agreed_);
+    }
+    CarelessServer(const CarelessServer&) = delete;
+    CarelessServer& operator=(const CarelessServer&) = delete;
+
+    std::string Url() const { return "https://127.0.0.1:" + std::to_string(listener_.Port()); }
+
+  private:
+    SilentListener listener_;
+    std::unique_ptr<SSL_CTX, decltype(&SSL_CTX_free)> context_;
+    std::thread thread_;
+    bool agreed_ = false;
+};
+
+TEST_F(TlsTest, CertificateOfTheFutureIsRefusedAndTheReasonSaysSo) {
+    WriteTestCertificate(folder_.File("f.pem"), folder_.File("fk.pem"), {1, 100, {}});
+    const CarelessServer server(folder_.File("f.pem"), folder_.File("fk.pem"));
+    Client::RemoteSettings settings = SettingsFor("https://127.0.0.1", "f.pem");
+    settings.url = server.Url();
+    Client::RemoteLink link(settings);
+    EXPECT_FALSE(link.Connect(error_));
+    EXPECT_NE(error_.find("The certificate of 127.0.0.1 is not valid yet. Check the date of this computer."),
+              std::string::npos)
+        << error_;
 }
 
 TEST(CertificateFault, EveryErrorHasAReason) {

@@ -9,7 +9,7 @@
 
 namespace Tarvik::Server {
 
-/// A port whose connections are taken by the system and never answered.
+/// A port whose connections are taken by the system and answered only by who accepts them.
 class SilentListener {
   public:
     SilentListener() : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
@@ -29,6 +29,8 @@ class SilentListener {
     SilentListener& operator=(const SilentListener&) = delete;
 
     std::uint16_t Port() const { return port_; }
+    /// Waits for the next connection; the caller closes its socket.
+    int Accept() const { return ::accept4(socket_, nullptr, nullptr, SOCK_CLOEXEC); }
 
   private:
     int socket_;
