@@ -87,6 +87,7 @@ BookTableView::BookTableView(QWidget* parent) : PanelTable(parent, "positionBook
 
 void BookTableView::ApplyWidths() {
     std::vector<int> widths;
+    widths.reserve(kBookColumns.size());
     for (const auto& column : kBookColumns) {
         widths.push_back(column.width);
     }

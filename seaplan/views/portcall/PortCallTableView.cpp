@@ -22,6 +22,7 @@ PortCallTableView::PortCallTableView(QWidget* parent) : PanelTable(parent, "port
 
 void PortCallTableView::ApplyWidths() {
     std::vector<int> widths;
+    widths.reserve(kPortCallColumns.size() + 1);
     for (const auto& column : kPortCallColumns) {
         widths.push_back(column.width);
     }
