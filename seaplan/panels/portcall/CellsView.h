@@ -45,10 +45,11 @@ class CellsView {
     /// Brings one of them to the front.
     virtual void SelectMatch(int index) = 0;
     virtual void HideMatches() = 0;
-    /// The match window that a service has answered, by its opaque handle: shown 20 pixels below the top of
-    /// the editor's cell, or hidden.
+    /// Shows the match window that a service has just answered, by its opaque handle, 20 pixels below the top
+    /// of the editor's cell; one that was shown before goes.
     virtual void ShowMatchWindow(void* window) = 0;
-    virtual void HideMatchWindow(void* window) = 0;
+    /// Hides that window, where its owner has not destroyed it.
+    virtual void HideMatchWindow() = 0;
     /// The list of purposes below a row's cell, one of them in front.
     virtual void OpenPurposes(int row, const std::vector<std::string>& texts, int current) = 0;
     virtual void HidePurposes() = 0;

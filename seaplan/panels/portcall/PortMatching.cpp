@@ -23,7 +23,7 @@ void PortMatching::Ask() {
                                           std::exchange(backspace_, false) && !text.empty()};
     void* window = Interface::Call(Interface::Bus::MatchPorts, &query);
     if (window != nullptr) {
-        window_ = window;
+        hasWindow_ = true;
         moved_.clear();
         return text.empty() ? Hide() : view.ShowMatchWindow(window);
     }
@@ -79,10 +79,8 @@ std::string PortMatching::Take() {
 void PortMatching::Hide() {
     desk_.Cells().HideMatches();
     list_.Close();
-    if (window_ != nullptr) {
-        desk_.Cells().HideMatchWindow(window_);
-    }
-    window_ = nullptr;
+    desk_.Cells().HideMatchWindow();
+    hasWindow_ = false;
     moved_.clear();
 }
 

@@ -29,7 +29,7 @@ class PortMatching {
     /// The name last moved to, which leaves the list; empty when nothing was.
     std::string Take();
     void Hide();
-    bool IsShown() const { return list_.IsOpen() || window_ != nullptr; }
+    bool IsShown() const { return list_.IsOpen() || hasWindow_; }
 
   private:
     void Put(const std::string& name);
@@ -37,7 +37,7 @@ class PortMatching {
     PortCallDesk& desk_;
     TextField& field_;
     ListBox list_;
-    void* window_ = nullptr;  ///< a service's window of matches
+    bool hasWindow_ = false;  ///< a service shows its own window of matches
     bool backspace_ = false;  ///< Backspace takes text away, which comes next
     std::string moved_;       ///< name that a list of matches moved to
 };

@@ -174,12 +174,12 @@ TEST_F(PortCallFixture, TheSearchPluginIsAskedAtEachTextButTheOneSetOnTheWayToTh
     EXPECT_EQ(plugin.queries[0].text, "HAMBURG");
     EXPECT_EQ(plugin.queries[0].editor, view.Handle());
     EXPECT_EQ(plugin.queries[0].edit, view.EditorHandle(CellEditor::Port));
-    EXPECT_THAT(view.matchWindows, ElementsAre(&plugin.window));
+    EXPECT_EQ(view.matchWindow, &plugin.window);
     Retype(CellEditor::Port, "ROUEN");
     panel.Cells().OnEditorKey(CellEditor::Port, {Key::Enter});
     EXPECT_EQ(view.editorRow, 2);
     EXPECT_EQ(plugin.queries.size(), 2U) << "one for the opening and one for the typed name";
-    EXPECT_TRUE(view.matchWindows.empty());
+    EXPECT_EQ(view.matchWindow, nullptr);
     Retype(CellEditor::Port, "G");
     EXPECT_EQ(plugin.queries.size(), 3U);
     EXPECT_FALSE(view.matchesShown);
@@ -191,7 +191,7 @@ TEST_F(PortCallFixture, AnEmptyTextHidesTheMatchWindowAndTextLeftByBackspaceIsTo
     panel.Cells().OnCellClicked(0, ColPort);
     Retype(CellEditor::Port, "R");
     EXPECT_FALSE(plugin.queries.back().textRemains);
-    EXPECT_FALSE(view.matchWindows.empty());
+    EXPECT_NE(view.matchWindow, nullptr);
     Retype(CellEditor::Port, "RO");
     panel.Cells().OnEditorKey(CellEditor::Port, {Key::Backspace});
     Retype(CellEditor::Port, "R");
@@ -199,7 +199,7 @@ TEST_F(PortCallFixture, AnEmptyTextHidesTheMatchWindowAndTextLeftByBackspaceIsTo
     panel.Cells().OnEditorKey(CellEditor::Port, {Key::Backspace});
     Retype(CellEditor::Port, "");
     EXPECT_FALSE(plugin.queries.back().textRemains) << "nothing is left";
-    EXPECT_TRUE(view.matchWindows.empty());
+    EXPECT_EQ(view.matchWindow, nullptr);
     Retype(CellEditor::Port, "H");
     EXPECT_FALSE(plugin.queries.back().textRemains);
 }

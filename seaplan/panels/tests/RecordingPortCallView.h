@@ -32,7 +32,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     std::vector<std::string> matches;
     bool matchesShown = false;
     int selectedMatch = -1;
-    std::set<void*> matchWindows;
+    void* matchWindow = nullptr;
     int purposeRow = -1;
     std::vector<std::string> purposes;
     std::string pickerTime;               ///< empty while the picker is closed
@@ -81,8 +81,8 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     }
     void SelectMatch(int index) override { selectedMatch = index; }
     void HideMatches() override { matchesShown = false; }
-    void ShowMatchWindow(void* window) override { matchWindows.insert(window); }
-    void HideMatchWindow(void* window) override { matchWindows.erase(window); }
+    void ShowMatchWindow(void* window) override { matchWindow = window; }
+    void HideMatchWindow() override { matchWindow = nullptr; }
     void OpenPurposes(int row, const std::vector<std::string>& texts, int) override {
         purposeRow = row;
         purposes = texts;

@@ -17,14 +17,14 @@ namespace Tarvik::Seaplan {
 class RecordingTree final : public TreeRows {
   public:
     int rowTop = 40;  ///< top of every row in pixels
-    void* windowAtPointer = nullptr;
+    std::vector<void*> windowsAtPointer;
     TreeRow cursor = kNoRow;
     std::vector<bool> enabled;  ///< every change, in order
 
     Rect GetItemRect(TreeRow) const override { return {0, rowTop, 290, rowTop + 30}; }
     bool busy = false;
     void SetBusy(bool on) override { busy = on; }
-    void ShowAtPointer(void* window) override { windowAtPointer = window; }
+    void ShowAtPointer(void* window) override { windowsAtPointer.push_back(window); }
     void SetCursor(TreeRow row) override { cursor = row; }
     void SetEnabled(bool on) override { enabled.push_back(on); }
     void* Handle() const override { return nullptr; }

@@ -42,6 +42,7 @@ class FleetPlugin final : public Core::TObject {
     std::function<void()> asked = [] {};  ///< called when the fleet is asked for
     std::vector<std::string> offered;
     std::vector<std::string> shownIds;
+    bool hasWindow = true;
     int window = 0;
 
   private:
@@ -56,7 +57,7 @@ class FleetPlugin final : public Core::TObject {
     }
     void* OnAdd(void* input) {
         offered.push_back(static_cast<const Interface::FleetEntry*>(input)->name);
-        handle_ = &window;
+        handle_ = hasWindow ? &window : nullptr;
         return &handle_;
     }
     void* OnInfo(void* input) {
@@ -210,7 +211,10 @@ TEST_F(VesselEditorTest, AVesselOfACorrectedVoyageCanBeAssignedButNotReplaced) {
 TEST_F(VesselEditorTest, TheAlertOffersTheNameToTheFleetAndTheInformationNeedsAnId) {
     Click("B", "Voyage_Alert");
     EXPECT_THAT(plugin.offered, ElementsAre("ANNA"));
-    EXPECT_EQ(tree.windowAtPointer, &plugin.window);
+    EXPECT_EQ(tree.windowsAtPointer, std::vector<void*>{&plugin.window});
+    plugin.hasWindow = false;
+    Click("B", "Voyage_Alert");
+    EXPECT_EQ(tree.windowsAtPointer.size(), 1U) << "the fleet has no window to show";
     Click("B", "Voyage_ShipInfo");
     EXPECT_TRUE(plugin.shownIds.empty());
     Voyage("B").vsi = "7";

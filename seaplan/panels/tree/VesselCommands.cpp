@@ -91,7 +91,7 @@ int VesselCommands::ShowInfo() {
 int VesselCommands::AddToFleet() {
     const Interface::FleetEntry vessel{"", p_.selection.Voyage().vsn, 0};
     void* const* window = Interface::Call(Interface::Bus::ShowAddVessel, &vessel);
-    if (window != nullptr) {
+    if (window != nullptr && *window != nullptr) {
         p_.context.tree.ShowAtPointer(*window);
     }
     return 0;

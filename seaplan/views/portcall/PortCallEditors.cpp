@@ -140,6 +140,9 @@ void PortCallEditors::ShowMatches(const std::vector<std::string>& names) {
 void PortCallEditors::ShowMatchWindow(void* window) {
     constexpr int kBelowCellTop = 20;
     auto* shown = static_cast<QWidget*>(window);
+    if (shown != matchWindow_) {
+        HideMatchWindow();
+    }
     QLineEdit* field = Field(CellEditor::Port);
     const QPoint place(0, kBelowCellTop);
     shown->move(shown->isWindow() ? field->mapToGlobal(place) : field->mapTo(shown->parentWidget(), place));
@@ -148,8 +151,10 @@ void PortCallEditors::ShowMatchWindow(void* window) {
     field->end(false);
 }
 
-void PortCallEditors::HideMatchWindow(void* window) {
-    static_cast<QWidget*>(window)->hide();
+void PortCallEditors::HideMatchWindow() {
+    if (matchWindow_ != nullptr) {
+        matchWindow_->hide();
+    }
     matchWindow_ = nullptr;
 }
 

@@ -37,7 +37,7 @@ class PortCallEditors final : public QObject, public CellsView {
     void SelectMatch(int index) override { matches_->setCurrentRow(index); }
     void HideMatches() override { matches_->hide(); }
     void ShowMatchWindow(void* window) override;
-    void HideMatchWindow(void* window) override;
+    void HideMatchWindow() override;
     void OpenPurposes(int row, const std::vector<std::string>& texts, int current) override;
     void HidePurposes() override;
     void PutPicker(int row, int column) override;
