@@ -89,7 +89,7 @@ void BunkerWindow::MakeButtons() {
     undo_->setObjectName(QStringLiteral("undoFiguresButton"));
     undo_->setFixedSize(Skin::kControlHeight + 2, Skin::kControlHeight);
     undo_->setFocusPolicy(Qt::TabFocus);
-    undo_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    TieKey(*undo_, QKeySequence(Qt::CTRL | Qt::Key_R));
     save_ = new QPushButton(this);
     save_->setObjectName(QStringLiteral("saveFiguresButton"));
     TieText(*save_, TextId::IDC_BK_BT_SAVE);
@@ -151,7 +151,7 @@ void BunkerWindow::ShowState(bool dirty, bool editable) {
 void BunkerWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
     // A new text takes the button's shortcut away; the hint tells it.
-    save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
     ShowState(dirty_, editable_);
     adjustSize();
 }

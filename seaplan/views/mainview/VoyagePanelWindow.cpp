@@ -15,10 +15,10 @@ namespace Tarvik::Seaplan {
 VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("voyagePanel"), {TextId::IDS_VOY_HELP, TextId::IDS_TREE_CLOSE}) {
     findButton_ = AddCaptionButton("findButton", "search");
-    findButton_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
+    TieKey(*findButton_, QKeySequence(Qt::CTRL | Qt::Key_F));
     filterButton_ = AddCaptionButton("filterButton", "filter");
     addButton_ = AddCaptionButton("addCategoryButton", "add");
-    addButton_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
+    TieKey(*addButton_, QKeySequence(Qt::CTRL | Qt::Key_N));
     AddHelpAndClose();
     tree_ = new VoyageTreeView(this);
     search_ = new SearchBar(this, tree_);
@@ -43,9 +43,7 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
     panel_ = panel;
     vessels_->Attach(&tree->Vessels().Editor());
     search_->Attach(&panel->Search());
-    // Its key is followed by typing at once, which must not go to the tree: a click by key comes a tenth of a
-    // second later.
-    QObject::connect(findButton_, &QToolButton::pressed, this, [panel] { panel->Search().Open(); });
+    QObject::connect(findButton_, &QToolButton::clicked, this, [panel] { panel->Search().Open(); });
     SetReports({[panel] { panel->RequestHelp(); }, [panel] { panel->Hide(); },
                 [this, panel] {
                     // Taking a name may put a box up, which must not begin inside the press.

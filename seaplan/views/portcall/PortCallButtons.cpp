@@ -36,7 +36,7 @@ PortCallButtons::PortCallButtons(QWidget* parent)
     row->addStretch(1);
     row->addWidget(book_);
     row->addWidget(calculate_);
-    save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
     ApplySkin();
 }
 
@@ -66,7 +66,7 @@ void PortCallButtons::Set(QAbstractButton* button, bool on, TextId tip, TextId w
 void PortCallButtons::ShowState(const PortCallState& state) {
     calculate_->setText(QString::fromStdString(state.calculateText));
     // A new text takes the button's shortcut away; the hint tells it.
-    calculate_->setShortcut(QKeySequence(Qt::Key_F9));
+    TieKey(*calculate_, QKeySequence(Qt::Key_F9));
     Set(save_, state.canSave, TextId::IDS_PORTCALL_SAVE, TextId::IDS_VIEW_NOCHANGES);
     Set(clear_, state.canClear, TextId::IDS_PORTCALL_CLEAR, TextId::IDS_VIEW_CLEAROFF);
     Set(calculate_, state.canCalculate, TextId::IDS_PORTCALL_COMPUTE, TextId::IDS_VIEW_NEEDTWOPORTS);
@@ -75,7 +75,7 @@ void PortCallButtons::ShowState(const PortCallState& state) {
 
 void PortCallButtons::ApplyTexts() {
     // A new text takes the button's shortcut away.
-    book_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_B));
+    TieKey(*book_, QKeySequence(Qt::CTRL | Qt::Key_B));
 }
 
 void PortCallButtons::ApplySkin() {

@@ -68,7 +68,7 @@ QToolButton* RemarkWindow::MakeTool(const char* name, const QKeySequence& key) {
     made->setObjectName(QString::fromLatin1(name));
     made->setFixedSize(Skin::kControlHeight + 2, Skin::kControlHeight);
     made->setFocusPolicy(Qt::TabFocus);
-    made->setShortcut(key);
+    TieKey(*made, key);
     return made;
 }
 
@@ -186,7 +186,7 @@ void RemarkWindow::ApplyClassTexts(QWidget& /*window*/) {
     Skin::Describe(body_, ViewText(TextId::IDS_VIEW_REMARKBODY));
     body_->setPlaceholderText(ViewText(TextId::IDS_VIEW_REMARKBODY));
     // A new text takes the button's shortcut away; the hint tells it.
-    save_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
     ShowState(state_);
 }
 

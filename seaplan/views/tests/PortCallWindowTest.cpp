@@ -6,8 +6,13 @@
 #include <QScrollBar>
 #include <QToolTip>
 #include <QWindow>
+#include <memory>
+#include <utility>
 
+#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/SiblingContract.h>
 #include <tarvik/interface/PlanTerms.h>
+#include <tarvik/interface/SiblingRecords.h>
 #include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/views/portcall/PortCallDelegate.h"
@@ -151,6 +156,29 @@ TEST_F(PortCallWindowTest, AMatchWindowTellsItsChoice) {
     EXPECT_FALSE(PortEditor().isVisible());
 }
 
+TEST_F(PortCallWindowTest, AMatchWindowThatItsOwnerDestroysIsForgotten) {
+    auto window = std::make_unique<QWidget>();
+    const auto search = Interface::Offer(
+        Interface::Bus::MatchPorts, [&window](const Interface::MatchPortQuery&) -> Interface::OpaqueWindow* {
+            return reinterpret_cast<Interface::OpaqueWindow*>(window.get());
+        });
+    OpenPortCalls("North Sea");
+    ClickCell(0, ColPort);
+    QTest::keyClicks(&PortEditor(), "ro");
+    ASSERT_TRUE(window->isVisible());
+    const auto first = std::move(window);
+    window = std::make_unique<QWidget>();
+    QTest::keyClicks(&PortEditor(), "t");
+    EXPECT_FALSE(first->isVisible()) << "one window of matches at a time";
+    EXPECT_TRUE(window->isVisible());
+    window.reset();
+    QTest::keyClick(&PortEditor(), Qt::Key_Escape);
+    PortEditor().selectAll();
+    QTest::keyClicks(&PortEditor(), "ROUEN");
+    QTest::keyClick(&PortEditor(), Qt::Key_Return);
+    EXPECT_EQ(Cell(0, ColPort), "ROUEN");
+}
+
 TEST_F(PortCallWindowTest, APurposeIsChosenByMouseOrKeyboard) {
     OpenPortCalls("Far East 12");
     ClickCell(1, ColPurpose);
@@ -237,13 +265,37 @@ TEST_F(PortCallWindowTest, ACommandsKeyTakesTheTextBeingTypedFirst) {
     ASSERT_FALSE(Find<QAbstractButton>(PortCalls(), "calculateButton")->isEnabled());
     QTest::keyClick(&PortEditor(), Qt::Key_F9);
     EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
-    // A button shows for a moment that it is down before it acts.
-    EXPECT_TRUE(QTest::qWaitFor([this] { return Cell(1, ColSteamTime) == "1.00"; }));
+    EXPECT_EQ(Cell(1, ColSteamTime), "1.00");
     ClickCell(1, ColSpeed);
     QTest::keyClicks(&SpeedEditor(), "12");
     QTest::keyClick(&SpeedEditor(), Qt::Key_S, Qt::ControlModifier);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return desk.Count(Ask::kSavePortCalls) == 1; }));
+    ASSERT_EQ(desk.Count(Ask::kSavePortCalls), 1);
     EXPECT_FLOAT_EQ(desk.Voyage("North Sea").portCalls.at(1).psp, 12.0F);
+}
+
+TEST_F(PortCallWindowTest, AKeyActsAtOnceAndEachTime) {
+    OpenPortCalls("North Sea");
+    PortCalls().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&PortCalls()));
+    ClickCell(0, ColPort);
+    QTest::keyClicks(&PortEditor(), "ROTTERDAM");
+    QTest::keyClick(&PortEditor(), Qt::Key_Return);
+    QTest::keyClicks(&PortEditor(), "HAMBURG");
+    QTest::keyClick(&PortEditor(), Qt::Key_Return);
+    desk.ForgetRecords();
+    for (int pressed = 1; pressed <= 3; ++pressed) {
+        QTest::keyClick(&PortCalls(), Qt::Key_F9);
+        EXPECT_EQ(desk.Count(Ask::kRoute), pressed);
+    }
+    auto* save = Find<QAbstractButton>(PortCalls(), "saveButton");
+    QTest::keyClick(&PortCalls(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(desk.Count(Ask::kSavePortCalls), 1);
+    EXPECT_FALSE(save->isEnabled());
+    QTest::keyClick(&PortCalls(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(desk.Count(Ask::kSavePortCalls), 1) << "a button that is off has no key";
+    EXPECT_TRUE(Find<QAbstractButton>(PortCalls(), "closeButton")->toolTip().endsWith("(Ctrl+W)"));
+    QTest::keyClick(&PortCalls(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(PortCalls().isVisible());
 }
 
 TEST_F(PortCallWindowTest, TheUnitMenusChangeTheTable) {

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <optional>
 
+#include "seaplan/views/window/KeyAtOnce.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -36,6 +37,13 @@ void ApplyTo(const QList<QAction*>& entries) {
 
 void TieText(QWidget& control, TextId id) {
     control.setProperty(kNumber, static_cast<int>(id));
+}
+
+void TieKey(QAbstractButton& button, const QKeySequence& key) {
+    button.setShortcut(key);
+    if (button.findChild<QObject*>(QString::fromLatin1(KeyAtOnce::kName)) == nullptr) {
+        new KeyAtOnce(button);
+    }
 }
 
 void DialogTexts::ApplyLanguage(QWidget& window) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAbstractButton>
+#include <QKeySequence>
 #include <QWidget>
 
 #include "seaplan/panels/TextKeys.h"
@@ -10,6 +12,9 @@ namespace Tarvik::Seaplan {
 /// Ties a control's own text, or a window's title, to a number of the string table, by which the chain finds
 /// it. A control that is not tied keeps the text that it was made with.
 void TieText(QWidget& control, TextId id);
+
+/// The key of a button, which acts in the moment that it is pressed, and each time. A new text takes it away.
+void TieKey(QAbstractButton& button, const QKeySequence& key);
 
 /// How a window takes its texts: a chain of five operations, run when the window is made and after each
 /// switch of language, whether it is visible or not. A window overrides what it needs beyond the default.

@@ -20,8 +20,8 @@ FloatingPanel::FloatingPanel(QWidget* mainView, const QString& name, const Hints
 void FloatingPanel::AddHelpAndClose() {
     help_ = AddCaptionButton("helpButton", "help");
     close_ = AddCaptionButton("closeButton", "close");
-    help_->setShortcut(QKeySequence(Qt::Key_F1));
-    close_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
+    TieKey(*help_, QKeySequence(Qt::Key_F1));
+    TieKey(*close_, QKeySequence(Qt::CTRL | Qt::Key_W));
     QObject::connect(help_, &QToolButton::clicked, this, [this] {
         if (reports_.help) {
             reports_.help();
