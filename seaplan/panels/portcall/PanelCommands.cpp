@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <tarvik/util/DateTimeUtl.h>
+
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
 
@@ -55,10 +57,14 @@ int PanelCommands::Calculate() {
     return shown;
 }
 
-/// Known legs are told with the day of the oldest, for as long as the rows stand there.
+/// Known legs are told with the day of the oldest, in the zone of the rows, for as long as these stand there.
 PortCallNote PanelCommands::NoteOfRoute() const {
     const auto& since = desk_.Voyages().Module().Pending().KnownSince();
-    return since ? PortCallNote{PortCallNote::Kind::KnownLegs, since->fmt("%Y-%m-%d")} : PortCallNote{};
+    if (!since) {
+        return {};
+    }
+    const auto there = Util::DateTimeUtl::ConvertFromUTC(*since, desk_.Sheet().state.zone);
+    return {PortCallNote::Kind::KnownLegs, there.fmt("%Y-%m-%d")};
 }
 
 int PanelCommands::ShowCalculated(const PortCallRows& rows, PortCallRows result) {

@@ -20,7 +20,7 @@ struct PortCallNote {
         KnownLegs    ///< their legs are known ones, since the server was not there to ask
     };
     Kind kind = Kind::None;
-    std::string since{};  ///< day of the oldest of these legs
+    std::string since{};  ///< day of the oldest of these legs, in the zone of the rows
 };
 
 /// All that the port call panel knows of the voyage on show, as one value: the rows with the ids of their

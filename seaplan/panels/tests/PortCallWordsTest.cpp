@@ -122,6 +122,16 @@ TEST_F(PortCallWordsTest, KnownLegsAreToldWithTheDayOfTheOldest) {
     EXPECT_EQ(view.state.note, "");
 }
 
+TEST_F(PortCallWordsTest, TheDayOfTheOldestLegIsThatOfTheZoneOnShow) {
+    panel.OnTimeZone("Eastern Standard Time");
+    Open(fresh);
+    EnterPorts({"ROTTERDAM", "HAMBURG"});
+    panel.Commands().OnCalculate();
+    desk.Lose(Ask::kRoute);
+    panel.Commands().OnCalculate();
+    EXPECT_EQ(view.state.note, "oldest of 2024-02-29") << "the evening before, where it is midnight in UTC";
+}
+
 TEST_F(PortCallWordsTest, KnownLegsOfASavedVoyageAreToldAsWell) {
     SaveOther([](PortCallRows&) {});
     Open(kept);
