@@ -188,6 +188,10 @@ TEST(QuestionButtonsTest, WhatLosesSomethingIsNotTheCarefulAnswer) {
     EXPECT_EQ(buttons("IDS_PORTCALL_SAVENEXT").yes, "Save");
     EXPECT_TRUE(buttons("IDS_PORTCALL_SAVENEXT").yesIsCareful);
     EXPECT_FALSE(buttons("IDS_TREE_CLEARVOYORCATE").yesIsCareful);
+    for (const char* key : {"IDS_REMARKSAVETIP", "IDS_BK_TIP_SAVE", "IDS_WP_TIP_SAVE"}) {
+        EXPECT_EQ(buttons(key).yes, "Save") << key;
+        EXPECT_TRUE(buttons(key).yesIsCareful) << key << ": whoever types on must not lose the changes";
+    }
     const std::string close = texts.Text("Seaplan", "IDS_PORTCALL_CLOSESAVE");
     EXPECT_EQ(texts.ButtonsOf(close + "\nVoyage \"A\"").yes, "Lose them") << "with what is lost below it";
     EXPECT_EQ(texts.ButtonsOf("Anything else?").yes, "");
