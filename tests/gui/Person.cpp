@@ -20,6 +20,13 @@ std::string FirstLine(const std::string& text) {
     return text.substr(0, text.find('\n'));
 }
 
+/// What stands behind "name=" in one of the lines, empty without such a line.
+std::string FieldOf(const std::string& lines, const std::string& name) {
+    const std::string before = name + "=";
+    const std::size_t at = ("\n" + lines).find("\n" + before);
+    return at == std::string::npos ? "" : FirstLine(lines.substr(at + before.size()));
+}
+
 }  // namespace
 
 std::string Person::Xdotool(std::vector<std::string> words) const {
@@ -54,6 +61,27 @@ void Person::Click(const std::string& window, int x, int y) const {
     const auto focused = [&] { return FirstLine(Xdotool({"getwindowfocus"})) == window; };
     AwaitOrThrow(focused,
                  "the window pressed at " + std::to_string(x) + ", " + std::to_string(y) + " takes no keys");
+}
+
+std::string Person::WindowAtPointer() const {
+    return FieldOf(Xdotool({"getmouselocation", "--shell"}), "WINDOW");
+}
+
+void Person::ChooseInMenu(const std::string& window, int x, int y, double part) const {
+    constexpr const char* kIntoTheMenu = "5";
+    Xdotool({"mousemove", "--window", window, std::to_string(x), std::to_string(y)});
+    const std::string below = WindowAtPointer();
+    Xdotool({"click", "3", "mousemove_relative", kIntoTheMenu, kIntoTheMenu});
+    std::string menu;
+    const auto opened = [&] {
+        menu = WindowAtPointer();
+        return menu != below;
+    };
+    AwaitOrThrow(opened, "no menu opens");
+    const std::string place = Xdotool({"getwindowgeometry", "--shell", menu});
+    const int height = std::stoi("0" + FieldOf(place, "HEIGHT"));
+    const int width = std::stoi("0" + FieldOf(place, "WIDTH"));
+    PressAt(menu, width / 2, static_cast<int>(part * height));
 }
 
 void Person::AwaitKeys(const std::string& window) const {

@@ -20,6 +20,9 @@ class Person {
     void PressAt(const std::string& window, int x, int y) const;
     /// The same, and waits until the window takes the keys. Not where the press opens another window.
     void Click(const std::string& window, int x, int y) const;
+    /// Opens the menu of what is at a place within a window with the right button, and presses the left one
+    /// at a part of the menu's height.
+    void ChooseInMenu(const std::string& window, int x, int y, double part) const;
     /// Waits until a window takes the keys.
     void AwaitKeys(const std::string& window) const;
     /// Drags a panel by its caption until its corner stands at a place of the screen.
@@ -38,6 +41,7 @@ class Person {
 
   private:
     std::string Xdotool(std::vector<std::string> words) const;
+    std::string WindowAtPointer() const;
 
     std::string display_;
 };

@@ -109,6 +109,31 @@ TEST_P(VoyageLife, APanelThatWasAskedForTakesTheKeys) {
     EXPECT_EQ(client_.Number("select count(*) from categories where cn='Tankers'"), 1);
 }
 
+TEST_P(VoyageLife, ANameIsCutAndPastedByTheMouseMenuOfItsEditor) {
+    // Undo, redo, cut, copy, paste, delete and select all, in three groups.
+    constexpr double kCut = 0.37;
+    constexpr double kPaste = 0.64;
+    constexpr Place kEditor{130, 58};
+    Sitting sitting(client_, person_, display_.Name());
+    sitting.OpenVoyages();
+    Await("select count(*) from categories", 1);
+    sitting.ClickVoyages(kEditor);
+    person_.Press({"ctrl+a"});
+    person_.Type("Bulkers");
+    person_.Press({"ctrl+a"});
+    const std::string typed = person_.Look(sitting.voyages);
+    person_.ChooseInMenu(sitting.voyages, kEditor.x, kEditor.y, kCut);
+    person_.LookForChange(sitting.voyages, typed);
+    person_.Type("Our ");
+    person_.ChooseInMenu(sitting.voyages, kEditor.x, kEditor.y, kPaste);
+    person_.Type(" and more");
+    EXPECT_EQ(client_.Number("select count(*) from categories where cn like '%Bulkers%'"), 0)
+        << "the menu took the name before it was whole";
+    person_.Press({"Return"});
+    Await("select count(*) from categories where cn='Our Bulkers and more'", 1);
+    EXPECT_EQ(sitting.Leave().exitCode, 0);
+}
+
 TEST_P(VoyageLife, F6GoesFromWindowToWindow) {
     Sitting sitting(client_, person_, display_.Name());
     sitting.MakeVoyage();
