@@ -6,7 +6,6 @@ namespace Tarvik::Seaplan {
 namespace {
 
 /// Stands in the place of a voyage id while the panel works as the port distance table.
-constexpr const char* kDistanceTable = "DISTANCE TABLE USE";
 
 Outcome<RecordStep> Find(VoyageStore& store, const std::string& vi, VoyInfo*& voyage) {
     if (vi.empty()) {
@@ -58,7 +57,7 @@ Outcome<RecordStep> VoyageRecords::ClearCorrections(const std::string& vi) {
 }
 
 Outcome<RecordStep> VoyageRecords::CountCorrections(const std::string& vi, int& count) const {
-    if (vi == kDistanceTable) {
+    if (vi == kDistanceTableId) {
         return {};
     }
     VoyInfo* voyage = nullptr;

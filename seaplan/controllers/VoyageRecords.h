@@ -9,6 +9,9 @@
 
 namespace Tarvik::Seaplan {
 
+/// Stands for a voyage's id while the port distance table is on show, which is none.
+inline constexpr const char* kDistanceTableId = "DISTANCE TABLE USE";
+
 enum class RecordStep { Id, Server, Voyage };
 /// Numbers of GetFigures, ClearAisMod and GetModAis.
 inline constexpr CodeTable kReadRecordCodes{

@@ -35,6 +35,8 @@ VoyageViews::VoyageViews(Parts parts)
                 }}),
       bunkers_({[parts] { return new BunkerWindow(parts.mainView); },
                 [this, parts](BunkerWindow& window) { return MakeBunkers(parts.store, window); }}),
+      distances_({[parts] { return new KeepTableWindow(parts.mainView); },
+                  [this](KeepTableWindow& window) { return MakeDistances(window); }}),
       panel_({parts.store, parts.catalog, parts.voyages, *voyageWindow_, voyageWindow_->FilterPopup(),
               voyageWindow_->Search(), tree_, [this] { return portCalls_.Made(); }}) {
     tree_.SetPortCallPanel([this] { return &portCalls_.Use(); });
@@ -46,6 +48,8 @@ VoyageViews::VoyageViews(Parts parts)
     voyageWindow_->Attach(&panel_, &tree_);
     panel_.ApplyLanguage();
     panel_.RegisterHost();
+    // Ports come by its services before anybody has asked for a table.
+    distances_.Use();
 }
 
 VoyageViews::~VoyageViews() {
@@ -55,7 +59,8 @@ VoyageViews::~VoyageViews() {
 std::unique_ptr<CPortCallPanelDlg> VoyageViews::MakePortCalls(const Parts& parts, PortCallWindow& window) {
     auto panel = std::make_unique<CPortCallPanelDlg>(
         PortCallDesk::Parts{parts.catalog, parts.voyages, parts.ports, window, [this] { return TreePlace(); },
-                            [this] { return &book_.Use(); }, [this] { return &portCallRemarks_.Use(); }});
+                            [this] { return &book_.Use(); }, [this] { return &portCallRemarks_.Use(); },
+                            [this] { distances_.Use().Open(); }});
     panel->SetSavedListener([this](const std::string& vi) { ShowSaved(vi); });
     panel->SetVoyageListener([this] {
         if (CBunkerDlg* bunkers = bunkers_.Made()) {
@@ -74,6 +79,15 @@ std::unique_ptr<CPosBookDlg> VoyageViews::MakeBook(const Parts& parts, BookWindo
                             below = below == nullptr ? portCalls_.MadeWindow() : below;
                             return below == nullptr ? Rect() : OnScreen(*below);
                         }});
+}
+
+std::unique_ptr<CPortDistTabDlg> VoyageViews::MakeDistances(KeepTableWindow& window) {
+    return std::make_unique<CPortDistTabDlg>(CPortDistTabDlg::Parts{
+        window, tree_, [this](bool make) { return make ? &portCalls_.Use() : portCalls_.Made(); },
+        [this] {
+            const QWidget* panel = portCalls_.MadeWindow();
+            return panel == nullptr ? Rect() : OnScreen(*panel);
+        }});
 }
 
 std::unique_ptr<CBunkerDlg> VoyageViews::MakeBunkers(VoyageStore& store, BunkerWindow& window) {
@@ -112,6 +126,7 @@ void VoyageViews::Restyle() {
     portCallRemarks_.Restyle();
     remarks_.Restyle();
     bunkers_.Restyle();
+    distances_.Restyle();
 }
 
 }  // namespace Tarvik::Seaplan

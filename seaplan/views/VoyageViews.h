@@ -6,11 +6,13 @@
 
 #include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/bunker/CBunkerDlg.h"
+#include "seaplan/panels/distances/CPortDistTabDlg.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/remark/CRemarkPanel.h"
 #include "seaplan/views/book/BookWindow.h"
 #include "seaplan/views/bunker/BunkerWindow.h"
+#include "seaplan/views/distances/KeepTableWindow.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/remark/RemarkWindow.h"
@@ -47,6 +49,8 @@ class VoyageViews final {
     /// Null until the panel was first asked for: of the tree's remarks, of the port calls', of the
     /// consumption.
     RemarkWindow* RemarksWindow() const { return remarks_.MadeWindow(); }
+    /// The dialog in which the port distance table is kept; it is there from the start.
+    KeepTableWindow* KeepWindow() const { return distances_.MadeWindow(); }
     RemarkWindow* PortCallRemarksWindow() const { return portCallRemarks_.MadeWindow(); }
     BunkerWindow* FiguresWindow() const { return bunkers_.MadeWindow(); }
     /// Another route was chosen on the chart.
@@ -58,6 +62,7 @@ class VoyageViews final {
   private:
     std::unique_ptr<CPortCallPanelDlg> MakePortCalls(const Parts& parts, PortCallWindow& window);
     std::unique_ptr<CPosBookDlg> MakeBook(const Parts& parts, BookWindow& window);
+    std::unique_ptr<CPortDistTabDlg> MakeDistances(KeepTableWindow& window);
     std::unique_ptr<CBunkerDlg> MakeBunkers(VoyageStore& store, BunkerWindow& window);
     /// Where the tree stands on the screen; nowhere when its window is gone.
     Rect TreePlace() const { return voyageWindow_ ? OnScreen(voyageWindow_->Tree()) : Rect(); }
@@ -70,6 +75,7 @@ class VoyageViews final {
     PanelPlace<CPosBookDlg, BookWindow> book_;
     PanelPlace<CRemarkPanel, RemarkWindow> remarks_;
     PanelPlace<CBunkerDlg, BunkerWindow> bunkers_;
+    PanelPlace<CPortDistTabDlg, KeepTableWindow> distances_;
     SeaplanViewDlg panel_;
 };
 

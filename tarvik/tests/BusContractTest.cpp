@@ -17,6 +17,7 @@ namespace {
 TEST(BusContractTest, NamesThatTheVoyagePlugInOwns) {
     EXPECT_STREQ(Bus::AddVessel.name, "TRV_S_VOY_ADDVSL");
     EXPECT_STREQ(Bus::AddPortName.name, "TRV_S_VOY_ADDPORTNAME");
+    EXPECT_STREQ(Bus::TakesPortNames.name, "TRV_S_VOY_TAKESPORTNAMES");
     EXPECT_STREQ(Bus::CalculateVoyage.name, "TRV_S_CAL_VOYAGE");
     EXPECT_STREQ(Bus::PlanVoyage.name, "TRV_S_VOY_PLAN");
     EXPECT_STREQ(Bus::ClickVoyageType.name, "TRV_MAP_LCLICK_VOYAGETYPE");

@@ -5,16 +5,6 @@
 
 namespace Tarvik::Seaplan {
 
-namespace {
-
-/// Left top corner of a window of this size in the middle of a place.
-Point Centred(const Rect& place, const Rect& window) {
-    return {place.left + (place.right - place.left - (window.right - window.left)) / 2,
-            place.top + (place.bottom - place.top - (window.bottom - window.top)) / 2};
-}
-
-}  // namespace
-
 CPosBookDlg::CPosBookDlg(BookDesk::Parts parts)
     : desk_(std::move(parts)), editing_(desk_), commands_(desk_, editing_) {
     desk_.TakeZone({});

@@ -11,7 +11,8 @@ CPortCallPanelDlg::CPortCallPanelDlg(PortCallDesk::Parts parts)
       corrected_(desk_),
       filling_(desk_, editing_, corrected_, [this] { return commands_.SaveBeforeLeaving(); }),
       commands_(desk_, editing_, corrected_, filling_),
-      rows_(desk_, editing_) {
+      rows_(desk_, editing_),
+      distances_(desk_, editing_, filling_, commands_) {
     desk_.ResetSheet();
 }
 

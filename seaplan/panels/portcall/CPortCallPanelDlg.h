@@ -7,6 +7,7 @@
 #include <tarvik/bus/BindingList.h>
 #include <tarvik/core/TObject.h>
 
+#include "seaplan/panels/portcall/DistanceTable.h"
 #include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
@@ -50,6 +51,13 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener, pub
     void OnTimeZone(const std::string& zone) { filling_.OnTimeZone(zone); }
     void ApplyLanguage();
 
+    /// Begins a port distance table in place of what is on show, and shows the panel: DistanceTable::Open.
+    int OpenDistanceTable() { return distances_.Open(); }
+    /// Puts a port into the distance table: DistanceTable::AddPort.
+    int AddPortByName(const std::string& name) { return distances_.AddPort(name); }
+    /// The panel as the port distance table.
+    DistanceTable& Distances() { return distances_; }
+
     /// What opens over the cells.
     CellEditing& Cells() { return editing_; }
     /// The buttons around the table.
@@ -68,6 +76,7 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener, pub
     VoyageFilling filling_;
     PanelCommands commands_;
     RowCommands rows_;
+    DistanceTable distances_;
     std::function<void()> voyageSet_;
 };
 

@@ -34,8 +34,22 @@ int PanelCommands::Prepare(PortCallRows& rows) const {
     return ToStandardUnits(kept, desk_.Sheet().Units(), rows) == 0 ? 0 : -2;
 }
 
+/// The schedule of new rows. A distance table has no voyage whose legs could be kept; its route waits for the
+/// one that it may become.
+int PanelCommands::Schedule(const PortCallRows& rows, PortCallRows& result, int& hadPortCalls) {
+    VoyController& voyages = desk_.Voyages();
+    const PortCallSheet& sheet = desk_.Sheet();
+    if (!sheet.state.distanceTable) {
+        return voyages.CalculateForVoyage(sheet.voyageId, rows, result, hadPortCalls);
+    }
+    const int code = voyages.CalculatePortCalls(rows, result);
+    if (code == 0) {
+        voyages.Module().Pending().Assign(sheet.voyageId);
+    }
+    return code;
+}
+
 int PanelCommands::Calculate() {
-    PortCallSheet& sheet = desk_.Sheet();
     PortCallRows rows;
     if (Prepare(rows) != 0) {
         desk_.Sheet().cause = Text(TextId::IDS_VIEW_NEEDTWOPORTS);
@@ -45,7 +59,7 @@ int PanelCommands::Calculate() {
     int hadPortCalls = 0;
     const bool failed = [&] {
         const PortCallDesk::Busy busy(desk_);
-        return desk_.Voyages().CalculateForVoyage(sheet.voyageId, rows, result, hadPortCalls) != 0;
+        return Schedule(rows, result, hadPortCalls) != 0;
     }();
     if (failed) {
         desk_.SetCauseOfFault();
@@ -134,8 +148,12 @@ int PanelCommands::OnRouteChosen() {
 void PanelCommands::OnSave() {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
+    const PortCallSheet& sheet = desk_.Sheet();
+    if (sheet.state.changed && sheet.IsUnkeptTable()) {
+        return desk_.AskToKeepTable();
+    }
     int corrected = 0;
-    if (!desk_.Sheet().state.changed || desk_.Voyages().GetModAis(desk_.Sheet().voyageId, corrected) != 0) {
+    if (!sheet.state.changed || desk_.Voyages().GetModAis(sheet.voyageId, corrected) != 0) {
         return;
     }
     if (corrected > 0) {
@@ -170,6 +188,7 @@ int PanelCommands::SaveRows(int drawMode) {
 }
 
 void PanelCommands::SavePlain() {
+    const PortCallDesk::Report report(desk_);
     const int result = SaveRows(1);
     if (result < -1) {
         TellFailure(desk_, TextId::IDS_PORTCALL_SAVEEXCEPTION);
@@ -217,6 +236,10 @@ void PanelCommands::OnClose() {
             return;
         }
         filling_.GiveUp();
+    }
+    // Nothing brings the rows of a distance table back, which begins anew when it opens.
+    if (sheet.IsUnkeptTable()) {
+        sheet.Clear();
     }
     sheet.MarkUnchanged();
     desk_.View().Hide();

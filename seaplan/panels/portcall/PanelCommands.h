@@ -20,6 +20,9 @@ class PanelCommands {
     /// open. -1 no rows, -2 a route of other ports, -3 the rows do not fit, -4 no table is open.
     int OnRouteChosen();
     void OnSave();
+    /// Saves the rows of a plain voyage, calculated first where they have no distances, and tells where that
+    /// fails.
+    void SavePlain();
     /// Saves the table as the Save button does, but without drawing, since another is about to be shown;
     /// where that fails it is told. 0 or negative.
     int SaveBeforeLeaving();
@@ -38,12 +41,12 @@ class PanelCommands {
 
   private:
     int Prepare(PortCallRows& rows) const;
+    int Schedule(const PortCallRows& rows, PortCallRows& result, int& hadPortCalls);
     int Calculate();
     PortCallNote NoteOfRoute() const;
     int ShowCalculated(const PortCallRows& rows, PortCallRows result);
     int ShowAndSave();
     int SaveRows(int drawMode);
-    void SavePlain();
 
     PortCallDesk& desk_;
     CellEditing& editing_;

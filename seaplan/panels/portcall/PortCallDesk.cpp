@@ -60,9 +60,21 @@ void PortCallDesk::ResetSheet() {
 }
 
 void PortCallDesk::ShowTexts() {
-    sheet_.state.caption = Text(TextId::IDS_PORTCALL_TITLE);
+    sheet_.state.caption =
+        Text(sheet_.state.distanceTable ? TextId::IDS_PORTCALL_DISTTABTITLE : TextId::IDS_PORTCALL_TITLE);
     sheet_.state.note = NoteText(sheet_.note);
     SetCorrectionPending(sheet_.aisCorrectionPending);
+}
+
+void PortCallDesk::BeDistanceTable() {
+    sheet_.state.distanceTable = true;
+    ShowTexts();
+}
+
+void PortCallDesk::AskToKeepTable() const {
+    if (p_.keepTable) {
+        p_.keepTable();
+    }
 }
 
 void PortCallDesk::SetCorrectionPending(bool pending) {

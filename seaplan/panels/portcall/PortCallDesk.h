@@ -30,6 +30,8 @@ class PortCallDesk {
         std::function<CPosBookDlg*()> book = {};  ///< the position book, made when it is asked for
         /// The remark panel of the port calls, made at its first use; empty where there is none.
         std::function<CRemarkPanel*()> remarks{};
+        /// Asks under which name the distance table is to be kept as a voyage; empty where nobody can.
+        std::function<void()> keepTable{};
     };
     explicit PortCallDesk(Parts parts) : p_(std::move(parts)), boxes_(p_.view) {}
 
@@ -85,6 +87,10 @@ class PortCallDesk {
     /// The same over the schedule of such rows, which keep their ids.
     int Recompute(const PortCallRows& standard);
 
+    /// The panel serves as the port distance table from now on, until its next reset.
+    void BeDistanceTable();
+    /// Asks for a name to keep the table by.
+    void AskToKeepTable() const;
     /// The position book; null where there is none.
     CPosBookDlg* Book() const { return p_.book ? p_.book() : nullptr; }
     /// The window cannot be used while the position book is open.

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "seaplan/calculation/Units.h"
+#include "seaplan/controllers/VoyageRecords.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/PortCallView.h"
 
@@ -38,6 +39,8 @@ class PortCallSheet {
     std::vector<CellTexts> stored;  ///< the rows as they were last loaded or saved, in the units on show
 
     const UnitSet& Units() const { return units_; }
+    /// Whether the rows are a port distance table that no voyage has been made of: no save takes them.
+    bool IsUnkeptTable() const { return voyageId == kDistanceTableId; }
     /// Six empty rows in the first units, without figures; nothing is changed and only Clear is possible.
     /// The voyages stay.
     void Reset();

@@ -23,8 +23,9 @@ struct PortCallState {
     std::string speedUnit;
     std::string distanceUnit;
     std::string timeUnit;
-    std::string zone;  ///< zone of the times, empty when nobody tells
-    std::string note;  ///< one line about the rows on show, mostly empty
+    std::string zone;            ///< zone of the times, empty when nobody tells
+    std::string note;            ///< one line about the rows on show, mostly empty
+    bool distanceTable = false;  ///< the panel serves as the port distance table
 
     friend bool operator==(const PortCallState&, const PortCallState&) = default;
 };

@@ -41,6 +41,9 @@ std::string CauseText(const ScheduleFault& fault, const PortCallTable& table) {
 }
 
 std::string LossText(const PortCallSheet& sheet, const std::string& voyage) {
+    if (sheet.IsUnkeptTable()) {
+        return Text(TextId::IDS_VIEW_LOSTTABLE, {std::to_string(sheet.table.ReadAllRows().size())});
+    }
     if (sheet.aisCorrectionPending) {
         return Text(TextId::IDS_VIEW_LOSTFIX, {voyage});
     }

@@ -62,7 +62,9 @@ bool VoyageFilling::MayLeave() {
         return true;
     }
     // The rows in the table are what is saved, so no cell may have changed since.
-    if (!desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT, desk_.LossWords())) {
+    const bool save = desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT, desk_.LossWords());
+    // A distance table belongs to no voyage that a save could go to.
+    if (!save || sheet.IsUnkeptTable()) {
         GiveUp();
     } else if (save_() != 0) {
         return false;
@@ -107,7 +109,7 @@ void VoyageFilling::Reset() {
     if (!MayLeave()) {
         return;
     }
-    TakeNext();
+    TakeOver(next_);
     if (next_.empty()) {
         return Clear();
     }
@@ -115,9 +117,33 @@ void VoyageFilling::Reset() {
     Fill(-1);
 }
 
+int VoyageFilling::OpenDistanceTable() {
+    const PortCallDesk::Report report(desk_);
+    if (!MayLeave()) {
+        return -1;
+    }
+    TakeOver(kDistanceTableId);
+    return Fill(-1);
+}
+
+void VoyageFilling::Adopt(const std::string& vi) {
+    PortCallSheet& sheet = desk_.Sheet();
+    PendingRoute& route = desk_.Voyages().Module().Pending();
+    if (route.IsFor(sheet.voyageId)) {
+        route.Assign(vi);
+    }
+    sheet.voyageId = vi;
+    sheet.editedVoyageId = vi;
+}
+
 void VoyageFilling::OnTimeZone(const std::string& zone) {
     const PortCallDesk::Report report(desk_);
     desk_.SetZone(zone);
+    if (desk_.Sheet().IsUnkeptTable()) {
+        // What was typed is nowhere else; it is read in the new zone from now on, as its head tells.
+        desk_.Sheet().state.zone = zone;
+        return;
+    }
     // A closed panel is filled when it opens.
     if (desk_.View().IsVisible() && MayLeave()) {
         desk_.Sheet().state.zone = zone;
@@ -126,10 +152,12 @@ void VoyageFilling::OnTimeZone(const std::string& zone) {
 }
 
 /// The table of the voyage on show goes, and a route that nobody saved goes with it.
-void VoyageFilling::TakeNext() {
+void VoyageFilling::TakeOver(const std::string& vi) {
     std::string& shown = desk_.Sheet().voyageId;
     desk_.Voyages().Module().Pending().ForgetFor(shown);
-    shown = next_;
+    shown = vi;
+    desk_.Sheet().state.distanceTable = false;
+    desk_.ShowTexts();
 }
 
 void VoyageFilling::Forget() {
@@ -154,7 +182,7 @@ int VoyageFilling::Open(int mode) {
     if (corrected <= 0) {
         desk_.View().Hide();
     }
-    TakeNext();
+    TakeOver(next_);
     return Show(mode);
 }
 
@@ -176,6 +204,10 @@ int VoyageFilling::Fill(int mode) {
     if (desk_.Sheet().voyageId.empty()) {
         desk_.ToPerson().NoticeText(kNoVoyageText);
         return -2;
+    }
+    if (desk_.Sheet().IsUnkeptTable()) {
+        desk_.BeDistanceTable();
+        return 0;
     }
     return Load(mode);
 }

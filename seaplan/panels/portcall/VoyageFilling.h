@@ -31,6 +31,10 @@ class VoyageFilling {
     /// That voyage's stored rows, or six empty ones when it has none. Nothing where the changes of the voyage
     /// on show could not be saved.
     void Reset();
+    /// An empty port distance table. 0, or -1 where the changes of the voyage on show could not be saved.
+    int OpenDistanceTable();
+    /// The rows on show are those of this voyage from now on, with their route; the table stays as it is.
+    void Adopt(const std::string& vi);
     /// The user's zone changed: the times on show are read anew in it, unless their changes have to stay.
     void OnTimeZone(const std::string& zone);
     /// Forgets voyages, rows and changes without a question: another user's voyages may have the same ids.
@@ -53,7 +57,7 @@ class VoyageFilling {
 
   private:
     bool MayLeave();
-    void TakeNext();
+    void TakeOver(const std::string& vi);
     int Show(int mode);
     bool MayReplace(const std::string& vi);
     void ShowUnfinished(int code, PortCallRows rows);

@@ -34,9 +34,16 @@ class PortCallFixture : public ::testing::Test {
     std::string fresh;  ///< id of the new voyage
     std::string kept;   ///< id of the saved one
     PortDirectory ports = Ports();
-    CPosBookDlg* positionBook = nullptr;  ///< where a test has one
-    CPortCallPanelDlg panel{
-        {desk.catalog, desk.voyages, ports, view, [] { return kTree; }, [this] { return positionBook; }}};
+    CPosBookDlg* positionBook = nullptr;      ///< where a test has one
+    std::function<void()> keepTable = [] {};  ///< what the panel asks to keep a distance table
+    CPortCallPanelDlg panel{{desk.catalog,
+                             desk.voyages,
+                             ports,
+                             view,
+                             [] { return kTree; },
+                             [this] { return positionBook; },
+                             {},
+                             [this] { keepTable(); }}};
 
     PortCallFixture() {
         desk.AddCategory("Plans");

@@ -5,6 +5,7 @@
 
 #include "seaplan/panels/tree/CategoryCommands.h"
 #include "seaplan/panels/tree/NoteCommands.h"
+#include "seaplan/panels/tree/TableVoyage.h"
 #include "seaplan/panels/tree/TrackCommands.h"
 #include "seaplan/panels/tree/TreeKeys.h"
 #include "seaplan/panels/tree/TreeUndo.h"
@@ -41,6 +42,11 @@ class SeaplanTreeCtrl {
     int SetShowDeleted(bool shown);
     /// -1 empty id; -2 no sort state; -3 rebuild failed.
     int SetSortKey(const std::string& ci, int sortKey);
+    /// A voyage for a port distance table, with its row, and its category where that is new: results of
+    /// Seaplan::CreateVoyageFromTable.
+    int CreateVoyageFromTable(const std::string& category, const std::string& voyage, TableVoyage& out) {
+        return Seaplan::CreateVoyageFromTable(parts_, category, voyage, out);
+    }
     /// Takes the name being typed, and closes all that is open over the rows.
     void CloseEditors();
     void ForgetAfterLogout();

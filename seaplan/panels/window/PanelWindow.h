@@ -40,4 +40,10 @@ constexpr Point BesideTree(const Rect& tree) {
     return {tree.right + kGap, tree.top + kBelowTop};
 }
 
+/// Left top corner of a window of this size in the middle of a place.
+constexpr Point Centred(const Rect& place, const Rect& window) {
+    return {place.left + (place.right - place.left - (window.right - window.left)) / 2,
+            place.top + (place.bottom - place.top - (window.bottom - window.top)) / 2};
+}
+
 }  // namespace Tarvik::Seaplan

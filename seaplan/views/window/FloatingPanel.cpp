@@ -19,19 +19,25 @@ FloatingPanel::FloatingPanel(QWidget* mainView, const QString& name, const Hints
 
 void FloatingPanel::AddHelpAndClose() {
     help_ = AddCaptionButton("helpButton", "help");
-    close_ = AddCaptionButton("closeButton", "close");
     TieKey(*help_, QKeySequence(Qt::Key_F1));
-    TieKey(*close_, QKeySequence(Qt::CTRL | Qt::Key_W));
     QObject::connect(help_, &QToolButton::clicked, this, [this] {
         if (reports_.help) {
             reports_.help();
         }
     });
+    AddClose();
+}
+
+void FloatingPanel::AddClose() {
+    close_ = AddCaptionButton("closeButton", "close");
+    TieKey(*close_, QKeySequence(Qt::CTRL | Qt::Key_W));
     QObject::connect(close_, &QToolButton::clicked, this, [this] { CloseAsked(); });
 }
 
 void FloatingPanel::DescribeHelpAndClose() {
-    Skin::Describe(help_, ViewText(hints_.help));
+    if (help_ != nullptr) {
+        Skin::Describe(help_, ViewText(hints_.help));
+    }
     Skin::Describe(close_, ViewText(hints_.close));
 }
 

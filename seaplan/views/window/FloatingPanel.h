@@ -42,8 +42,9 @@ class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
     void SendHelp(const std::string& topic, int width, int height);
 
   protected:
-    /// Called by a panel behind its own caption buttons.
+    /// Called by a panel behind its own caption buttons; a small dialog has no help.
     void AddHelpAndClose();
+    void AddClose();
     void DescribeHelpAndClose();
     /// Puts the keyboard into the window's first control, unless it is in one already.
     virtual void FocusFirst() = 0;

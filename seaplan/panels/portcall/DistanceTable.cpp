@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/DistanceTable.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+int FirstBlankRow(const PortCallTable& table) {
+    int row = 0;
+    while (row < table.RowCount() && !table.IsBlank(row)) {
+        ++row;
+    }
+    return row;
+}
+
+}  // namespace
+
+int DistanceTable::Open() {
+    if (filling_.OpenDistanceTable() != 0) {
+        return -1;
+    }
+    desk_.PlaceBesideTree();
+    desk_.View().Show();
+    return 0;
+}
+
+int DistanceTable::AddPort(const std::string& name) {
+    if (name.empty()) {
+        return -1;
+    }
+    if (!IsOpen() && Open() != 0) {
+        return -2;
+    }
+    const PortCallDesk::Report report(desk_);
+    // A name that is being typed takes its row first.
+    editing_.CommitEditors();
+    PortCallTable& table = desk_.Sheet().table;
+    table.GrowIfLast(FirstBlankRow(table) - 1);
+    const int row = FirstBlankRow(table);
+    const std::string spelled = desk_.Ports().NameOf(name);
+    PortCallRows port(1);
+    port[0].ppn = spelled.empty() ? name : spelled;
+    desk_.Voyages().ResolvePortIds(port);
+    table.SetPort(row, port[0].ppn, port[0].ppi);
+    table.GrowIfLast(row);
+    desk_.Sheet().MarkChanged(desk_.Ports());
+    desk_.Show();
+    desk_.View().BringRowIntoView(row);
+    return 0;
+}
+
+int DistanceTable::CountPlaces() {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    return desk_.Sheet().PlaceCount(desk_.Ports());
+}
+
+void DistanceTable::KeepAs(const std::string& vi) {
+    const PortCallDesk::Report report(desk_);
+    filling_.Adopt(vi);
+    commands_.SavePlain();
+}
+
+}  // namespace Tarvik::Seaplan
