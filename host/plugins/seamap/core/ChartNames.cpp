@@ -19,6 +19,7 @@ ChartName NameOf(const Ports::Place& port, bool isChinese) {
         name.text = port.nameCn;
     }
     name.code = port.unlocode;
+    name.port = port.name;
     // The ports that the trade knows have a Chinese name, the others their English one again.
     name.isMajor = !port.nameCn.empty() && port.nameCn != port.name;
     return name;

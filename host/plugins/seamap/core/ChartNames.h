@@ -29,6 +29,7 @@ struct ChartName {
     GeoPoint position{};  ///< the middle of a water's name, the place of a port
     std::string text{};
     std::string code{};    ///< UN/LOCODE of a port, empty when it has none
+    std::string port{};    ///< a port's name in the dictionary, whatever the language
     double miles = 0;      ///< a water's width
     bool isMajor = false;  ///< a port that is named before the others
 

@@ -44,6 +44,12 @@ std::optional<ChartScene::Met> ChartScene::At(PixelPoint pixel, const MercatorVi
     return object ? std::optional(Met{object->key, TipOf(*object)}) : std::nullopt;
 }
 
+const ChartName* ChartScene::PortAt(PixelPoint pixel, const MercatorView& view, qreal pixelRatio) {
+    const auto met = At(pixel, view, pixelRatio);
+    const bool isLine = met && met->tip.isEmpty();
+    return met && !isLine ? nullptr : names_.PortAt(pixel);
+}
+
 QString ChartScene::TipOf(const ChartObject& object) {
     if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {
         const QString place = QString::fromStdString(FormatPosition(label->position));

@@ -37,6 +37,9 @@ class ChartScene {
     };
     /// The object or ship under a pixel: points and images before ships, ships before lines.
     std::optional<Met> At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio);
+    /// A port of the chart itself under a pixel, null without one: below points, images and ships, above
+    /// lines.
+    const ChartName* PortAt(PixelPoint pixel, const MercatorView& view, qreal pixelRatio);
     /// The extent that holds all objects; the inhabited world without any.
     Extent ExtentOfAll() const;
 

@@ -9,6 +9,7 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>
+#include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/LoadString.h>
 #include <tarvik/util/StringUtl.h>
@@ -94,6 +95,8 @@ ChartWidget* ChartServices::Widget() {
         }
         QObject::connect(widget_, &ChartWidget::ObjectClicked,
                          [](const ObjectKey& key) { Interface::RaiseClick(key.type, key.id); });
+        QObject::connect(widget_, &ChartWidget::PortClicked, widget_,
+                         [this](const ChartName& port) { TakePort(port); });
         QObject::connect(widget_, &ChartWidget::CursorMoved,
                          [this](double lon, double lat) { RaiseCursor(lon, lat); });
     }
@@ -128,6 +131,16 @@ void ChartServices::ShowNames() {
 
 const std::string* ChartServices::Command(const std::string& command) {
     return Run(command) ? &command : nullptr;
+}
+
+/// A port goes into the distance table while that is open; otherwise its card tells of it.
+void ChartServices::TakePort(const ChartName& port) {
+    const bool* takes = Interface::Call(Bus::TakesPortNames);
+    if (takes != nullptr && *takes) {
+        Interface::Call(Bus::AddPortName, &port.port);
+    } else {
+        widget_->ShowCard(port);
+    }
 }
 
 void ChartServices::RaiseCursor(double lon, double lat) const {

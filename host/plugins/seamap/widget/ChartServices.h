@@ -41,6 +41,7 @@ class ChartServices : public Core::TObject {
     /// Gives the window the names of the language in force.
     void ShowNames();
     const std::string* Command(const std::string& command);
+    void TakePort(const ChartName& port);
     void RaiseCursor(double lon, double lat) const;
     bool Run(const std::string& command);
 

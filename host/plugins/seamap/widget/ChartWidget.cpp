@@ -8,6 +8,8 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include "host/plugins/seamap/widget/PortCard.h"
+
 namespace Tarvik::Seamap {
 
 namespace {
@@ -19,7 +21,11 @@ constexpr const char* kPictures = "pictures";
 }  // namespace
 
 ChartWidget::ChartWidget(ChartObjects& objects, QWidget* parent)
-    : QWidget(parent), objects_(objects), scene_(objects), camera_([this] { update(); }) {
+    : QWidget(parent),
+      objects_(objects),
+      scene_(objects),
+      camera_([this] { OnMoved(); }),
+      card_(new PortCard(this)) {
     setObjectName("chart");
     setAccessibleName(tr("Chart"));
     setAccessibleDescription(
@@ -40,8 +46,18 @@ void ChartWidget::Change(const std::function<void(ChartScene&)>& change) {
     update();
 }
 
+void ChartWidget::OnMoved() {
+    card_->hide();
+    update();
+}
+
+void ChartWidget::ShowCard(const ChartName& port) {
+    card_->ShowPort(port, View().ToScreen(port.position));
+}
+
 void ChartWidget::SetTheme(ChartPalette::Theme theme) {
     scene_.SetTheme(theme);
+    card_->ApplyTheme(scene_.Palette());
     update();
 }
 
@@ -72,7 +88,10 @@ bool ChartWidget::event(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const auto met =
         scene_.At({double(help->pos().x()), double(help->pos().y())}, View(), devicePixelRatioF());
-    if (met) {
+    const PixelPoint pixel{double(help->pos().x()), double(help->pos().y())};
+    if (const ChartName* port = scene_.PortAt(pixel, View(), devicePixelRatioF())) {
+        QToolTip::showText(help->globalPos(), PortCard::TextOf(*port), this);
+    } else if (met) {
         QToolTip::showText(help->globalPos(), met->tip, this);
     } else {
         QToolTip::hideText();
@@ -98,6 +117,7 @@ void ChartWidget::resizeEvent(QResizeEvent*) {
 
 void ChartWidget::mousePressEvent(QMouseEvent* event) {
     byKeyboard_ = false;
+    card_->hide();
     if (event->button() != Qt::LeftButton) {
         return;
     }
@@ -130,7 +150,9 @@ void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (!click) {
         return;
     }
-    if (const auto met = scene_.At(pixel, View(), devicePixelRatioF())) {
+    if (const ChartName* port = scene_.PortAt(pixel, View(), devicePixelRatioF())) {
+        emit PortClicked(*port);
+    } else if (const auto met = scene_.At(pixel, View(), devicePixelRatioF())) {
         emit ObjectClicked(met->key);
     }
 }
@@ -169,6 +191,8 @@ void ChartWidget::keyPressEvent(QKeyEvent* event) {
             return camera_.Pan(0, far);
         case Qt::Key_Home:
             return FitAll();
+        case Qt::Key_Escape:
+            return card_->hide();
         default:
             QWidget::keyPressEvent(event);
     }
@@ -195,8 +219,10 @@ void ChartWidget::Point(std::optional<PixelPoint> pixel) {
             key = met->key;
         }
     }
+    const bool atPort =
+        pixel && !press_.drags && scene_.PortAt(*pixel, View(), devicePixelRatioF()) != nullptr;
     if (!press_.drags) {
-        setCursor(key ? Qt::PointingHandCursor : Qt::OpenHandCursor);
+        setCursor(key || atPort ? Qt::PointingHandCursor : Qt::OpenHandCursor);
     }
     if (key != highlighted_) {
         highlighted_ = key;

@@ -11,6 +11,8 @@
 
 namespace Tarvik::Seamap {
 
+class PortCard;
+
 /// The chart as a window: shows the scene from the camera and lets a person pan, zoom, point and click.
 ///
 /// Drag pans; the wheel, a double click and + and - zoom; the arrows pan; Home shows all objects. The dynamic
@@ -39,6 +41,8 @@ class ChartWidget : public QWidget {
     /// Zooms half an octave for each step, in when positive, around the middle.
     void ZoomSteps(int steps);
     const MercatorView& View() const { return camera_.View(); }
+    /// Tells what is known of a port beside its place, until the chart is pressed or moved.
+    void ShowCard(const ChartName& port);
 
     QSize sizeHint() const override { return {960, 600}; }
     QSize minimumSizeHint() const override { return {160, 120}; }
@@ -48,6 +52,8 @@ class ChartWidget : public QWidget {
     void CursorMoved(double lon, double lat);
     /// A left click met an object.
     void ObjectClicked(const Tarvik::Seamap::ObjectKey& key);
+    /// A left click met a port of the chart itself.
+    void PortClicked(const Tarvik::Seamap::ChartName& port);
 
   protected:
     bool event(QEvent* event) override;
@@ -73,10 +79,12 @@ class ChartWidget : public QWidget {
     };
     bool IsAnimated() const;
     void Point(std::optional<PixelPoint> pixel);
+    void OnMoved();
 
     ChartObjects& objects_;
     ChartScene scene_;
     ChartCamera camera_;
+    PortCard* card_;
     Press press_;
     std::optional<ObjectKey> highlighted_;
     bool byKeyboard_ = false;

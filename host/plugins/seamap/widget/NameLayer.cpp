@@ -16,10 +16,11 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr double kEdge = 4;     ///< pixels that a name keeps off the window's edge
-constexpr double kDot = 2.5;    ///< radius of a port's dot
-constexpr double kDotGap = 4;   ///< between a dot and its name
-constexpr double kBetween = 3;  ///< pixels around a name in which nothing else is written
+constexpr double kEdge = 4;      ///< pixels that a name keeps off the window's edge
+constexpr double kDot = 2.5;     ///< radius of a port's dot
+constexpr double kDotReach = 6;  ///< from a dot's middle, where a click still meets its port
+constexpr double kDotGap = 4;    ///< between a dot and its name
+constexpr double kBetween = 3;   ///< pixels around a name in which nothing else is written
 constexpr int kOceanSize = 15, kWaterSize = 12, kPortSize = 11;
 constexpr double kOceanSpacing = 3;
 
@@ -48,6 +49,7 @@ QFont NameLayer::FontOf(ChartName::Kind kind) {
 }
 
 void NameLayer::SetNames(const std::vector<ChartName>& names) {
+    drawn_.clear();
     entries_.clear();
     entries_.reserve(names.size());
     for (const ChartName& name : names) {
@@ -112,13 +114,31 @@ std::vector<NameLayer::Placed> NameLayer::Place(const MercatorView& view, LabelR
     return all;
 }
 
+const ChartName* NameLayer::PortAt(PixelPoint pixel) const {
+    const ChartName* named = nullptr;
+    for (const Placed& placed : drawn_) {
+        if (placed.name->kind != ChartName::Kind::Port) {
+            continue;
+        }
+        // A dot lies closer to its port than a name that runs over it.
+        if (std::hypot(pixel.x - placed.place.x, pixel.y - placed.place.y) <= kDotReach) {
+            return placed.name;
+        }
+        if (placed.box.Holds({pixel.x, pixel.y, 0, 0})) {
+            named = placed.name;
+        }
+    }
+    return named;
+}
+
 void NameLayer::Draw(QPainter& painter, const MercatorView& view, const ChartPalette& palette,
-                     HaloTexts& texts, LabelRoom& room) const {
+                     HaloTexts& texts, LabelRoom& room) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
     const QColor quiet(palette.secondaryText);
     const QColor halo(palette.halo);
-    for (const Placed& placed : Place(view, room)) {
+    drawn_ = Place(view, room);
+    for (const Placed& placed : drawn_) {
         painter.setFont(FontOf(placed.name->kind));
         if (placed.name->kind == ChartName::Kind::Port) {
             painter.setPen(QPen(QColor(palette.outline), 1));

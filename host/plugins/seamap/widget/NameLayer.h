@@ -23,7 +23,9 @@ class NameLayer {
     void SetNames(const std::vector<ChartName>& names);
     /// Draws the names that find room in the window and takes it.
     void Draw(QPainter& painter, const MercatorView& view, const ChartPalette& palette, HaloTexts& texts,
-              LabelRoom& room) const;
+              LabelRoom& room);
+    /// The port whose dot or name was drawn last under a pixel, null without one.
+    const ChartName* PortAt(PixelPoint pixel) const;
     /// The names that would be drawn, in order, with their boxes: what Draw draws, without a painter.
     struct Placed {
         const ChartName* name = nullptr;
@@ -45,6 +47,7 @@ class NameLayer {
     static bool PlacePort(const Entry& entry, const MercatorView& view, LabelRoom& room, Placed& placed);
 
     std::vector<Entry> entries_;
+    std::vector<Placed> drawn_;
 };
 
 }  // namespace Tarvik::Seamap
