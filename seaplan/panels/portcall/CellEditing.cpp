@@ -22,7 +22,8 @@ CellEditing::CellEditing(PortCallDesk& desk)
       speed_(kMostCharacters),
       weather_(kMostCharacters),
       matching_(desk, port_),
-      picker_(desk.Cells().Picker(), [this](const Util::_datetime_t&) { OnTimeChosen(picker_.Text()); }) {}
+      picker_(desk.View().Cells().Picker(),
+              [this](const Util::_datetime_t&) { OnTimeChosen(picker_.Text()); }) {}
 
 TextField& CellEditing::Box(CellEditor editor) {
     return editor == CellEditor::Port ? port_ : editor == CellEditor::Speed ? speed_ : weather_;
@@ -66,7 +67,7 @@ void CellEditing::Open(CellEditor editor, int row) {
     const std::string& text = desk_.Sheet().table.Cell(row, ColumnOf(editor));
     TextField& box = Box(editor);
     box.Open(row, IsBlankCell(text) ? std::string() : text);
-    desk_.Cells().OpenEditor(
+    desk_.View().Cells().OpenEditor(
         {editor, row, ColumnOf(editor), box.Text(), box.Limit(), editor != CellEditor::Port});
 }
 
@@ -89,7 +90,7 @@ void CellEditing::OpenPurposes(int row) {
     }
     purposes_.Open(row, std::move(texts), 0);
     desk_.Show();
-    desk_.Cells().OpenPurposes(row, purposes_.Texts(), purposes_.Current());
+    desk_.View().Cells().OpenPurposes(row, purposes_.Texts(), purposes_.Current());
 }
 
 void CellEditing::OpenPicker(int row, int column) {
@@ -104,7 +105,7 @@ void CellEditing::OpenPicker(int row, int column) {
     dateRow_ = row;
     dateColumn_ = column;
     desk_.Show();
-    desk_.Cells().PutPicker(row, column);
+    desk_.View().Cells().PutPicker(row, column);
     picker_.SetValue(*time);
     picker_.OnPressed();
 }
@@ -127,13 +128,13 @@ void CellEditing::Commit(CellEditor editor) {
 void CellEditing::Hide(CellEditor editor) {
     // A field that is hidden loses the focus, and that must not count as leaving an open one.
     Box(editor).Close();
-    desk_.Cells().HideEditor(editor);
+    desk_.View().Cells().HideEditor(editor);
 }
 
 void CellEditing::ClosePopups() {
     matching_.Hide();
     purposes_.Close();
-    desk_.Cells().HidePurposes();
+    desk_.View().Cells().HidePurposes();
     picker_.Hide();
 }
 

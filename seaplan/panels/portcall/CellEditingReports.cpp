@@ -126,7 +126,7 @@ bool CellEditing::OnPurposeKey(KeyPress press, int current) {
         OnPurposeChosen(current);
     } else if (press.key == Key::Escape) {
         purposes_.Close();
-        desk_.Cells().HidePurposes();
+        desk_.View().Cells().HidePurposes();
     } else {
         return false;
     }
@@ -139,7 +139,7 @@ void CellEditing::OnPurposeChosen(int index) {
         return;
     }
     purposes_.Close();
-    desk_.Cells().HidePurposes();
+    desk_.View().Cells().HidePurposes();
     edits_.SetPurpose(purposes_.Row(), Interface::kPurposes[static_cast<std::size_t>(index)].code);
 }
 

@@ -66,11 +66,6 @@ void PortCallDesk::ShowTexts() {
     SetCorrectionPending(sheet_.aisCorrectionPending);
 }
 
-void PortCallDesk::BeDistanceTable() {
-    sheet_.state.distanceTable = true;
-    ShowTexts();
-}
-
 void PortCallDesk::AskToKeepTable() const {
     if (p_.keepTable) {
         p_.keepTable();

@@ -43,7 +43,6 @@ class PortCallDesk {
     PortCallView& View() const { return p_.view; }
     /// Null where there is none.
     CRemarkPanel* Remarks() const { return p_.remarks ? p_.remarks() : nullptr; }
-    CellsView& Cells() const { return p_.view.Cells(); }
 
     /// Brings the window up to date; nothing is told that it shows already.
     void Show();
@@ -87,8 +86,6 @@ class PortCallDesk {
     /// The same over the schedule of such rows, which keep their ids.
     int Recompute(const PortCallRows& standard);
 
-    /// The panel serves as the port distance table from now on, until its next reset.
-    void BeDistanceTable();
     /// Asks for a name to keep the table by.
     void AskToKeepTable() const;
     /// The position book; null where there is none.

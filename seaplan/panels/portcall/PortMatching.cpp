@@ -17,7 +17,7 @@ constexpr std::size_t kMostMatches = 50;
 }  // namespace
 
 void PortMatching::Ask() {
-    CellsView& view = desk_.Cells();
+    CellsView& view = desk_.View().Cells();
     const std::string& text = field_.Text();
     const Interface::MatchPortQuery query{view.EditorHandle(CellEditor::Port), desk_.View().Handle(), text,
                                           std::exchange(backspace_, false) && !text.empty()};
@@ -41,7 +41,7 @@ void PortMatching::Ask() {
 
 void PortMatching::Put(const std::string& name) {
     field_.SetText(name);
-    desk_.Cells().SetEditorText(CellEditor::Port, name);
+    desk_.View().Cells().SetEditorText(CellEditor::Port, name);
     moved_ = name;
 }
 
@@ -56,7 +56,7 @@ bool PortMatching::Move(int by) {
         return false;
     }
     list_.Move(by);
-    desk_.Cells().SelectMatch(list_.Current());
+    desk_.View().Cells().SelectMatch(list_.Current());
     Put(list_.CurrentText());
     return true;
 }
@@ -77,9 +77,9 @@ std::string PortMatching::Take() {
 }
 
 void PortMatching::Hide() {
-    desk_.Cells().HideMatches();
+    desk_.View().Cells().HideMatches();
     list_.Close();
-    desk_.Cells().HideMatchWindow();
+    desk_.View().Cells().HideMatchWindow();
     hasWindow_ = false;
     moved_.clear();
 }

@@ -206,7 +206,8 @@ int VoyageFilling::Fill(int mode) {
         return -2;
     }
     if (desk_.Sheet().IsUnkeptTable()) {
-        desk_.BeDistanceTable();
+        desk_.Sheet().state.distanceTable = true;
+        desk_.ShowTexts();
         return 0;
     }
     return Load(mode);
