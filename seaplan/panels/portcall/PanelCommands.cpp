@@ -277,8 +277,11 @@ int PanelCommands::SavePositionBook(const PosBookData& book) {
     desk_.TellSaved(bookVoyage_);
     // The tree may have opened another voyage meanwhile, which stays on show.
     if (desk_.Sheet().voyageId == bookVoyage_) {
+        // The tree's last click stays what it was: consumption goes to that voyage.
+        const std::string clicked = filling_.NextVoyage();
         filling_.SetVoyage(bookVoyage_);
         filling_.Open(-1);
+        filling_.SetVoyage(clicked);
         desk_.View().Show();
     }
     desk_.Voyages().RemoveVoyageObjects(bookVoyage_);

@@ -128,6 +128,16 @@ TEST_F(BookSavingTest, TheBookIsSavedForItsVoyageThoughTheTreeHasOpenedAnother) 
     EXPECT_EQ(PortCallFixture::Cell(0, ColPort), " ");
 }
 
+TEST_F(BookSavingTest, ASaveLeavesTheVoyageOfTheTreesLastClickForItsConsumption) {
+    OpenBook();
+    panel.SetVoyage(fresh);
+    Type(MidCape, BookSpeed, "12.5");
+    book.Commands().OnSave();
+    ASSERT_EQ(desk.Count(Ask::kSaveBook), 1);
+    EXPECT_EQ(panel.Sheet().voyageId, kept);
+    EXPECT_EQ(panel.NextVoyage(), fresh);
+}
+
 TEST_F(BookSavingTest, CancelBringsBackWhatWasSaved) {
     OpenExpanded();
     const std::string distance = bookView.sheet.Total(UnitKind::Distance);
