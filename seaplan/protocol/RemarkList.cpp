@@ -88,6 +88,12 @@ bool RemarkList::DeleteRemark(int type, const std::string& objectid, int seq) {
     return true;
 }
 
+bool RemarkList::Fits(const CRemark& remark) {
+    // Adding and changing name the same things in the same number of bytes.
+    return AddRemarkText(remark.type, remark.objectid, remark.seq, remark.subject, remark.body).size() <
+           kRemarkTextBytes;
+}
+
 int RemarkList::NextRemarkSeq(int type, const std::string& objectid) const {
     int highest = 0;
     for (const auto& remark : remarks_) {

@@ -18,6 +18,9 @@ class RemarkList {
     RemarkList() = default;
     RemarkList(const RemarkList&) = delete;
     RemarkList& operator=(const RemarkList&) = delete;
+    RemarkList(RemarkList&&) = default;
+    RemarkList& operator=(RemarkList&&) = default;
+    ~RemarkList() = default;
 
     /// Reads the remarks of an object, in the order of the reply; what was here before goes first, whatever
     /// comes after.
@@ -29,6 +32,9 @@ class RemarkList {
     bool ChangeRemark(int type, const std::string& objectid, int seq, const std::string& subject,
                       const std::string& body);
     bool DeleteRemark(int type, const std::string& objectid, int seq);
+
+    /// Whether a remark with these texts fits a request; one that does not is never sent.
+    static bool Fits(const CRemark& remark);
 
     /// One above the object's highest number, 1 without remarks.
     int NextRemarkSeq(int type, const std::string& objectid) const;

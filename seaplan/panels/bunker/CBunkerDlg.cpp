@@ -13,6 +13,8 @@ namespace {
 
 using Util::StringUtl;
 
+/// Of a language file without a title.
+constexpr const char* kTitle = "消耗设置";
 constexpr unsigned kMost = 500000;
 /// So many letters of a field are read.
 constexpr std::size_t kLettersRead = 128;
@@ -43,7 +45,8 @@ void CBunkerDlg::SetState(bool dirty, bool editable) {
 
 void CBunkerDlg::ShowTitle() {
     const std::string name = p_.voyageName();
-    const std::string title = Text(TextId::IDC_BK_T_TITLE);
+    std::string title;
+    LoadText(title, static_cast<int>(TextId::IDC_BK_T_TITLE), kTitle);
     p_.view.SetCaption(name.empty() ? title : title + " - " + name, dirty_);
 }
 
@@ -52,16 +55,26 @@ void CBunkerDlg::OnVoyageSet() {
 }
 
 void CBunkerDlg::OnTyped(std::size_t field, const std::string& text) {
+    if (!Take(field, text)) {
+        Refuse();
+    }
+}
+
+bool CBunkerDlg::Take(std::size_t field, const std::string& text) {
     const int value = NumberOf(text);
     if (value == current_.at(field)) {
-        return;
+        return true;
     }
     // A negative number is a huge one here, and is refused like one.
-    if (static_cast<unsigned>(value) <= kMost) {
-        current_.at(field) = value;
-        SetState(true, true);
-        return;
+    if (static_cast<unsigned>(value) > kMost) {
+        return false;
     }
+    current_.at(field) = value;
+    SetState(true, true);
+    return true;
+}
+
+void CBunkerDlg::Refuse() {
     boxes_.Notice(TextId::IDS_BK_ERR_INPUT);
     p_.view.ShowFigures(current_);
 }

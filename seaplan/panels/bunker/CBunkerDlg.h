@@ -34,6 +34,10 @@ class CBunkerDlg {
     /// The text of a field, by BunkerFigure, is now this. A number that is not allowed is told, and all
     /// fields show again what they had.
     void OnTyped(std::size_t field, const std::string& text);
+    /// The part of OnTyped that puts no box up. False for a number that is not allowed; then Refuse follows.
+    bool Take(std::size_t field, const std::string& text);
+    /// Tells that a number is not allowed; all fields show again what they had.
+    void Refuse();
     void OnSave();
     /// Back to what was opened or saved last.
     void OnUndo();

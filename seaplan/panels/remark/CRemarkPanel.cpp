@@ -2,6 +2,7 @@
 #include "seaplan/panels/remark/CRemarkPanel.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "seaplan/data/TimeText.h"
 #include "seaplan/panels/language/LoadText.h"
@@ -31,7 +32,7 @@ int CRemarkPanel::Open(RemarkOwnerRow row, int type, const std::string& objectid
     }
     Reset();
     if (type != d_.object.type || objectid != d_.object.id || objectid.empty()) {
-        loaded_ = false;
+        d_.loaded = false;
     }
     d_.object = {row, type, objectid, name};
     SetTitle();
@@ -49,13 +50,10 @@ void CRemarkPanel::Reset() {
 }
 
 void CRemarkPanel::Load() {
-    if (!loaded_) {
-        loaded_ = d_.remarks.LoadRemarks(d_.object.type, d_.object.id);
+    if (!d_.loaded) {
+        d_.loaded = d_.remarks.LoadRemarks(d_.object.type, d_.object.id);
     }
-    for (std::size_t i = 0; i < d_.remarks.Count(); ++i) {
-        const CRemark* remark = d_.remarks.At(i);
-        d_.list.Append({remark->subject, remark->udate, false, remark});
-    }
+    d_.AppendRows();
 }
 
 void CRemarkPanel::ShowObject() {
@@ -151,11 +149,8 @@ void CRemarkPanel::DropNew() {
 void CRemarkPanel::SetTitle() {
     std::string format;
     LoadText(format, static_cast<int>(TextId::IDS_RMK_TITLE), kTitle);
-    const RemarkTitle title =
-        MakeRemarkTitle(format.empty() ? kTitle : format, d_.object.name, title_,
-                        [this](const std::string& text) { return d_.view.TitleWidth(text); });
-    title_ = title.text;
-    d_.view.ShowTitle(title);
+    d_.view.ShowTitle(MakeRemarkTitle(format.empty() ? kTitle : format, d_.object.name,
+                                      [this](const std::string& text) { return d_.view.TitleWidth(text); }));
 }
 
 void CRemarkPanel::ApplyLanguage() {
@@ -169,18 +164,25 @@ void CRemarkPanel::OnLogout() {
     Reset();
     d_.remarks.Clear();
     d_.object = {};
-    loaded_ = false;
+    d_.loaded = false;
     d_.Show();
 }
 
 void CRemarkPanel::OnTimeZone(const std::string& /*zone*/) {
-    loaded_ = false;
+    d_.loaded = false;
     // What is being written stays as it is; the times are right at the next opening.
-    if (d_.view.IsVisible() && !editing_.IsDirty() && !d_.adding) {
-        Reset();
-        Load();
-        ShowObject();
+    if (!d_.view.IsVisible() || editing_.IsDirty() || d_.adding) {
+        return;
     }
+    RemarkList fresh;
+    if (!fresh.LoadRemarks(d_.object.type, d_.object.id)) {
+        return;
+    }
+    Reset();
+    d_.remarks = std::move(fresh);
+    d_.loaded = true;
+    d_.AppendRows();
+    Sort();
 }
 
 }  // namespace Tarvik::Seaplan

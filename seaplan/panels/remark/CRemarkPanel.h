@@ -42,7 +42,7 @@ class CRemarkPanel {
     void ApplyLanguage();
     /// Forgets object and remarks without a question: another user's objects may have the same ids.
     void OnLogout();
-    /// The times on show were read in the zone before.
+    /// The times on show were read in the zone before. Where they cannot be read anew, they stay.
     void OnTimeZone(const std::string& zone);
 
   private:
@@ -58,8 +58,6 @@ class CRemarkPanel {
     RemarkDesk d_;
     std::function<Point()> corner_;
     RemarkEditing editing_;
-    bool loaded_ = false;  ///< the remarks in memory are the object's
-    std::string title_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -37,8 +37,16 @@ struct RemarkDesk {
     ClistCtrlViewEx list;
     RemarkedObject object;
     RemarkState state;
+    bool loaded = false;  ///< the remarks in memory are the object's
     bool adding = false;  ///< row 0 is a new remark that is not sent
 
+    /// A row for each remark in memory, behind what the list has.
+    void AppendRows() {
+        for (std::size_t i = 0; i < remarks.Count(); ++i) {
+            const CRemark* remark = remarks.At(i);
+            list.Append({remark->subject, remark->udate, false, remark});
+        }
+    }
     /// Brings the window up to date.
     void Show() {
         state.canAdd = !adding;

@@ -65,10 +65,21 @@ void RemarkEditing::Save() {
     }
 }
 
+/// A new remark's number is one above the others', so that they must be known; their rows come behind its.
+bool RemarkEditing::LoadFirst() {
+    if (d_.loaded || d_.remarks.Count() > 0) {
+        return true;
+    }
+    d_.loaded = d_.remarks.LoadRemarks(d_.object.type, d_.object.id);
+    d_.AppendRows();
+    d_.list.SortByTime(!d_.state.newestFirst);
+    return d_.loaded;
+}
+
 const CRemark* RemarkEditing::SendNew() {
     int seq = 0;
-    if (!d_.remarks.AddRemark(d_.object.type, d_.object.id, seq, subject_, body_)) {
-        Tell(TextId::IDS_TIP_ADDRMKFAIL, kNotAdded);
+    if (!LoadFirst() || !d_.remarks.AddRemark(d_.object.type, d_.object.id, seq, subject_, body_)) {
+        Tell(TextId::IDS_TIP_ADDRMKFAIL, kNotAdded, WhyNotSent(seq));
         return nullptr;
     }
     d_.adding = false;
@@ -81,7 +92,7 @@ const CRemark* RemarkEditing::SendChange() {
         return nullptr;
     }
     if (!d_.remarks.ChangeRemark(remark->type, remark->objectid, remark->seq, subject_, body_)) {
-        Tell(TextId::IDS_TIP_MODIFYRMKFAIL, kNotChanged);
+        Tell(TextId::IDS_TIP_MODIFYRMKFAIL, kNotChanged, WhyNotSent(remark->seq));
         return nullptr;
     }
     return d_.remarks.Find(remark->type, remark->objectid, remark->seq);
@@ -95,10 +106,17 @@ bool RemarkEditing::IsTooLong(const std::string& text, int mostWidth, const char
     return true;
 }
 
-void RemarkEditing::Tell(TextId id, const char* fallback) {
+/// What the person can do about a text that trying again does not help; empty for any other.
+std::string RemarkEditing::WhyNotSent(int seq) const {
+    return RemarkList::Fits({d_.object.type, d_.object.id, seq, subject_, body_, {}, {}})
+               ? std::string()
+               : Text(TextId::IDS_TIP_SUBJECT_LEN);
+}
+
+void RemarkEditing::Tell(TextId id, const char* fallback, const std::string& detail) {
     std::string text;
     LoadText(text, static_cast<int>(id), fallback);
-    d_.ToPerson().NoticeText(text);
+    d_.ToPerson().NoticeText(detail.empty() ? text : text + '\n' + detail);
 }
 
 void RemarkEditing::OnSubjectTyped(const std::string& text) {

@@ -39,7 +39,9 @@ class RemarkEditing {
     const CRemark* SendNew();
     const CRemark* SendChange();
     bool IsTooLong(const std::string& text, int mostWidth, const char* fallback);
-    void Tell(TextId id, const char* fallback);
+    bool LoadFirst();
+    void Tell(TextId id, const char* fallback, const std::string& detail = {});
+    std::string WhyNotSent(int seq) const;
 
     RemarkDesk& d_;
     std::string subject_;

@@ -43,7 +43,7 @@ std::string Printed(const std::string& format, const std::string& name) {
 
 }  // namespace
 
-RemarkTitle MakeRemarkTitle(const std::string& format, const std::string& name, const std::string& shown,
+RemarkTitle MakeRemarkTitle(const std::string& format, const std::string& name,
                             const std::function<int(const std::string&)>& widthOf) {
     const std::string whole = Printed(format, name);
     const int width = widthOf(whole);
@@ -53,7 +53,7 @@ RemarkTitle MakeRemarkTitle(const std::string& format, const std::string& name, 
     const std::u16string wide = Util::StringUtl::TranslateString(whole);
     const auto fitting = static_cast<std::size_t>(static_cast<double>(wide.size()) * kMostWidth / width);
     if (fitting <= kDots) {
-        return {shown, kMostWidth, kTitleHeight};
+        return {whole, kMostWidth, kTitleHeight};
     }
     return {Util::StringUtl::TranslateString(FirstUnits(wide, fitting - kDots)) + "...", kMostWidth,
             kTitleHeight};

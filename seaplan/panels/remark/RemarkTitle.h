@@ -15,9 +15,9 @@ struct RemarkTitle {
 };
 
 /// The title of the remarks of an object: its name at the "%s" of `format`, cut to less than 200 bytes. A
-/// title wider than 400 pixels loses its end for "...", unless it has hardly any letters; then `shown`, the
-/// one before, stays. `widthOf` measures a text in pixels.
-RemarkTitle MakeRemarkTitle(const std::string& format, const std::string& name, const std::string& shown,
+/// title wider than 400 pixels loses its end for "...", unless it has hardly any letters; then it stays
+/// whole. `widthOf` measures a text in pixels.
+RemarkTitle MakeRemarkTitle(const std::string& format, const std::string& name,
                             const std::function<int(const std::string&)>& widthOf);
 
 }  // namespace Tarvik::Seaplan

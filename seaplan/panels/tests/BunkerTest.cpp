@@ -209,4 +209,10 @@ TEST_F(BunkerTest, FiguresOutliveALoadButForFuelInPort) {
     EXPECT_EQ(desk.Voyage("Saved").figures, (BunkerFigures{11, 20, 0, 40, 50, 60, 70}));
 }
 
+TEST_F(BunkerTest, ALanguageWithoutATitleHasTheOneOfTheProgram) {
+    texts.missing.insert(u"IDC_BK_T_TITLE");
+    dialog.ApplyLanguage();
+    EXPECT_EQ(window.caption, "消耗设置 - Saved");
+}
+
 }  // namespace Tarvik::Seaplan

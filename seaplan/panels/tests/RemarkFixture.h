@@ -29,7 +29,12 @@ class RecordingRemarkView final : public RecordingPanelWindow<RemarkView> {
     int letterWidth = 8;
     std::vector<int> broughtIntoView;
     int focusedSubject = 0;
+    int raised = 0;
 
+    void Show() override {
+        ++raised;
+        RecordingPanelWindow::Show();
+    }
     void ShowRows(const std::vector<RemarkRow>& shown, int selected) override {
         rows = shown;
         current = selected;

@@ -18,8 +18,8 @@ int EightALetter(const std::string& text) {
     return 8 * static_cast<int>(Util::StringUtl::TranslateString(text).size());
 }
 
-RemarkTitle Title(const std::string& name, const std::string& shown = "Before") {
-    return MakeRemarkTitle("Remark of %s", name, shown, EightALetter);
+RemarkTitle Title(const std::string& name) {
+    return MakeRemarkTitle("Remark of %s", name, EightALetter);
 }
 
 }  // namespace
@@ -91,9 +91,9 @@ TEST(RemarkTitleTest, NoPairOfUnitsIsParted) {
     EXPECT_EQ(title.text, "Remark of " + std::string(36, 'x') + "...") << "a half ship would be left";
 }
 
-TEST(RemarkTitleTest, ATextOfHugeLettersLeavesTheTitleAsItWas) {
+TEST(RemarkTitleTest, ATextOfHugeLettersStaysWhole) {
     const auto huge = [](const std::string&) { return 1000000; };
-    EXPECT_EQ(MakeRemarkTitle("%s", "Name", "Before", huge), (RemarkTitle{"Before", 400, 25}));
+    EXPECT_EQ(MakeRemarkTitle("%s", "Name", huge), (RemarkTitle{"Name", 400, 25}));
 }
 
 TEST(RemarkTitleTest, ANameOfManyBytesIsCutToWholeLettersBelow200) {
@@ -102,7 +102,7 @@ TEST(RemarkTitleTest, ANameOfManyBytesIsCutToWholeLettersBelow200) {
         name += "船";
     }
     const auto narrow = [](const std::string&) { return 10; };
-    const RemarkTitle title = MakeRemarkTitle("%s", name, "", narrow);
+    const RemarkTitle title = MakeRemarkTitle("%s", name, narrow);
     EXPECT_EQ(title.text.size(), 198U);
 }
 

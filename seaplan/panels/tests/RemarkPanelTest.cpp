@@ -294,4 +294,19 @@ TEST_F(RemarkPanelTest, AnotherZoneReadsTheTimesAnew) {
     EXPECT_EQ(view.rows[0].time, "2024-03-01 00:00:00");
 }
 
+TEST_F(RemarkPanelTest, AnotherZoneTakesNeitherTheKeyboardNorRowsThatCannotBeReadAnew) {
+    OpenWith({"One"});
+    const int raised = view.raised;
+    const int focused = view.focusedSubject;
+    desk.Lose(Ask::kLoadRemarks);
+    panel.OnTimeZone("China Standard Time");
+    EXPECT_THAT(view.Names(), ElementsAre("One"));
+    desk.Heal();
+    panel.OnTimeZone("China Standard Time");
+    EXPECT_THAT(view.Names(), ElementsAre("One"));
+    EXPECT_EQ(view.rows[0].time, "2024-03-01 08:00:00");
+    EXPECT_EQ(view.raised, raised);
+    EXPECT_EQ(view.focusedSubject, focused);
+}
+
 }  // namespace Tarvik::Seaplan

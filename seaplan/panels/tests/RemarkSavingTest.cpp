@@ -104,7 +104,7 @@ TEST_F(RemarkSavingTest, ATextThatDoesNotFitARequestIsToldAndKept) {
     TypeBody(wide);
     Save();
     EXPECT_EQ(desk.Count(Ask::kAddRemark), 0) << "4200 bytes";
-    EXPECT_EQ(LastMessage(), "IDS_TIP_ADDRMKFAIL");
+    EXPECT_EQ(LastMessage(), "IDS_TIP_ADDRMKFAIL\nIDS_TIP_SUBJECT_LEN") << "the second line says what to do";
     EXPECT_EQ(view.body, wide);
     EXPECT_TRUE(view.rows[0].unsaved);
     EXPECT_FALSE(view.state.canAdd);
@@ -115,7 +115,7 @@ TEST_F(RemarkSavingTest, ATextThatDoesNotFitARequestIsToldAndKept) {
     EXPECT_THAT(marks, ElementsAre(Pair(7, true)));
     TypeBody(wide);
     Save();
-    EXPECT_EQ(LastMessage(), "IDS_TIP_MODIFYRMKFAIL");
+    EXPECT_EQ(LastMessage(), "IDS_TIP_MODIFYRMKFAIL\nIDS_TIP_SUBJECT_LEN");
     EXPECT_EQ(view.body, wide);
     EXPECT_THAT(Stored(), ElementsAre("Depths|" + Letters(1300)));
 }
@@ -129,7 +129,7 @@ TEST_F(RemarkSavingTest, ARequestMayHave4097BytesAndItsEnd) {
     const std::string rest(4097 - frame - wide.size(), 'x');
     TypeBody(wide + rest + "x");
     Save();
-    EXPECT_EQ(LastMessage(), "IDS_TIP_ADDRMKFAIL");
+    EXPECT_EQ(LastMessage(), "IDS_TIP_ADDRMKFAIL\nIDS_TIP_SUBJECT_LEN");
     TypeBody(wide + rest);
     Save();
     ASSERT_EQ(desk.Count(Ask::kAddRemark), 1);
@@ -250,6 +250,29 @@ TEST_F(RemarkSavingTest, AnotherObjectWaitsWhereTheOldTextCannotBeSaved) {
     desk.Heal();
     Save();
     EXPECT_THAT(Stored(), ElementsAre("One|Changed"));
+}
+
+TEST_F(RemarkSavingTest, AfterAFailedLoadANewRemarkIsNumberedBehindTheOnesOfTheServer) {
+    OpenWith({"Old", "Young"});
+    panel.Open(8, CategoryRemark, ci, "Full");
+    desk.Lose(Ask::kLoadRemarks);
+    Open();
+    TypeSubject("Third");
+    Save();
+    EXPECT_EQ(LastMessage(), "IDS_TIP_ADDRMKFAIL") << "without the others' numbers it has none";
+    EXPECT_EQ(desk.Count(Ask::kAddRemark), 0);
+    EXPECT_EQ(view.subject, "Third");
+    EXPECT_TRUE(view.rows[0].unsaved);
+    desk.Heal();
+    messages.messages.clear();
+    Save();
+    EXPECT_THAT(messages.messages, IsEmpty());
+    EXPECT_THAT(Stored(), ElementsAre("Old|About Old", "Young|About Young", "Third|"));
+    EXPECT_THAT(view.Names(), ::testing::UnorderedElementsAre("Third", "Young", "Old"));
+    EXPECT_EQ(view.rows[0].name, "Third");
+    EXPECT_GE(view.rows[1].time, view.rows[2].time);
+    EXPECT_EQ(view.current, 0);
+    EXPECT_THAT(marks, IsEmpty()) << "it is not the first one";
 }
 
 }  // namespace Tarvik::Seaplan

@@ -104,18 +104,44 @@ void BunkerWindow::MakeButtons() {
 }
 
 void BunkerWindow::Attach(CBunkerDlg* panel) {
-    SetReports({[panel] { panel->OnHelp(); }, [panel] { panel->OnClose(); }, {}});
+    panel_ = panel;
+    // What was refused just before is told before the window goes.
+    SetReports({[panel] { panel->OnHelp(); },
+                [this, panel] {
+                    if (refusing_) {
+                        QTimer::singleShot(0, this, [panel] { panel->OnClose(); });
+                    } else {
+                        panel->OnClose();
+                    }
+                },
+                {}});
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         QLineEdit* field = fields_[i];
-        // A number that is not allowed puts a box up, which must not begin inside the key.
-        QObject::connect(field, &QLineEdit::textEdited, this, [panel, i, field] {
-            QTimer::singleShot(0, field,
-                               [panel, i, field] { panel->OnTyped(i, field->text().toStdString()); });
-        });
+        QObject::connect(field, &QLineEdit::textEdited, this, [this, i] { TakeTyped(i); });
         QObject::connect(field, &QLineEdit::returnPressed, this, [this] { save_->click(); });
     }
     QObject::connect(undo_, &QToolButton::clicked, this, [panel] { panel->OnUndo(); });
-    QObject::connect(save_, &QPushButton::clicked, this, [panel] { panel->OnSave(); });
+    QObject::connect(save_, &QPushButton::clicked, this, [this] { Save(); });
+}
+
+void BunkerWindow::TakeTyped(std::size_t field) {
+    // The number counts at once, as the next key may be the one that saves it.
+    if (panel_->Take(field, fields_.at(field)->text().toStdString()) || refusing_) {
+        return;
+    }
+    // The box must not begin inside the key.
+    refusing_ = true;
+    QTimer::singleShot(0, this, [this] {
+        refusing_ = false;
+        panel_->Refuse();
+    });
+}
+
+void BunkerWindow::Save() {
+    // Of a refused number the first letters may have been allowed; they are not what was meant.
+    if (!refusing_) {
+        panel_->OnSave();
+    }
 }
 
 void BunkerWindow::ShowFigures(const BunkerFigures& figures) {

@@ -32,12 +32,16 @@ class BunkerWindow final : public PanelFrame<BunkerView> {
   private:
     void MakeRows();
     void MakeButtons();
+    void TakeTyped(std::size_t field);
+    void Save();
 
+    CBunkerDlg* panel_ = nullptr;
     std::array<QLineEdit*, BunkerFigureCount> fields_{};
     QToolButton* undo_;
     QPushButton* save_;
     bool dirty_ = false;
     bool editable_ = false;
+    bool refusing_ = false;  ///< a refused number is about to be told
 };
 
 }  // namespace Tarvik::Seaplan

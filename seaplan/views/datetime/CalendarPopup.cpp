@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/datetime/CalendarPopup.h"
 
+#include <QMouseEvent>
 #include <QVBoxLayout>
 
 #include <tarvik/interface/LoadString.h>
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/views/window/FloatingPanel.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -104,6 +106,7 @@ void CalendarPopup::mousePressEvent(QMouseEvent* event) {
     if (panel_ != nullptr) {
         panel_->OnTypingDone();
     }
+    setAttribute(Qt::WA_NoMouseReplay, anchor_.contains(event->globalPosition().toPoint()));
     QFrame::mousePressEvent(event);
 }
 
@@ -132,7 +135,8 @@ void CalendarPopup::FillEdit(const std::string& text) {
 
 void CalendarPopup::Open(Point corner) {
     adjustSize();
-    move(corner.x, corner.y);
+    const Point kept = KeptOnScreen(corner, size());
+    move(kept.x, kept.y);
     show();
 }
 
@@ -164,6 +168,7 @@ void DateCell::ShowText(const std::string& text) {
 
 Rect DateCell::PlaceOnScreen() const {
     const QPoint corner = surface_.mapToGlobal(cell_.topLeft());
+    calendar_->SetAnchor({corner, cell_.size()});
     return {corner.x(), corner.y(), corner.x() + cell_.width(), corner.y() + cell_.height()};
 }
 

@@ -18,6 +18,9 @@ class CalendarPopup final : public QFrame, public CalendarView {
     explicit CalendarPopup(QWidget* parent);
     /// What is done goes to this panel, which outlives the popup's use.
     void Attach(CTrvCalDlg* panel);
+    /// The place on the screen that opens the calendar. A press there closes it and goes no further, or it
+    /// would open it again.
+    void SetAnchor(const QRect& screen) { anchor_ = screen; }
     /// Captions and hints in the language in force.
     void ApplyTexts();
     void ApplySkin();
@@ -28,7 +31,7 @@ class CalendarPopup final : public QFrame, public CalendarView {
     void Close() override { hide(); }
 
   protected:
-    /// A press beside hour and minute ends their typing.
+    /// A press beside hour and minute ends their typing; one beside the calendar closes it.
     void mousePressEvent(QMouseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
@@ -47,6 +50,7 @@ class CalendarPopup final : public QFrame, public CalendarView {
     QPushButton* ok_;
     QPushButton* cancel_;
     bool typingHour_ = true;
+    QRect anchor_;
 };
 
 /// The cell of a table as the button of a date: it shows the text by itself, and the calendar tells it to

@@ -7,10 +7,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QSignalBlocker>
 #include <QTimer>
-#include <algorithm>
 
 #include <tarvik/skin/Icons.h>
 
@@ -110,13 +108,6 @@ void RemarkWindow::Attach(CRemarkPanel* panel) {
     QObject::connect(save_, &QPushButton::clicked, this, [&editing] { editing.SaveClick(); });
 }
 
-void RemarkWindow::MoveTo(Point corner) {
-    const QRect area = screen()->availableGeometry();
-    const int right = std::max(area.left(), area.right() + 1 - width());
-    const int bottom = std::max(area.top(), area.bottom() + 1 - height());
-    MoveCorner({std::min(corner.x, right), std::min(corner.y, bottom)});
-}
-
 void RemarkWindow::ShowRows(const std::vector<RemarkRow>& rows, int current) {
     list_->ShowRows(rows, current);
 }
@@ -147,7 +138,10 @@ void RemarkWindow::ShowTexts(const std::string& subject, const std::string& body
 }
 
 int RemarkWindow::TitleWidth(const std::string& text) const {
-    return TitleOf(*this)->fontMetrics().horizontalAdvance(QString::fromStdString(text));
+    QLabel* title = TitleOf(*this);
+    // Before the first showing it has not the font of its style yet.
+    title->ensurePolished();
+    return title->fontMetrics().horizontalAdvance(QString::fromStdString(text));
 }
 
 void RemarkWindow::ShowTitle(const RemarkTitle& title) {

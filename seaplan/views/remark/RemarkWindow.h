@@ -22,7 +22,7 @@ class RemarkWindow final : public PanelFrame<RemarkView> {
     void Attach(CRemarkPanel* panel);
 
     /// Keeps the window on its screen.
-    void MoveTo(Point corner) override;
+    void MoveTo(Point corner) override { MoveCorner(KeptOnScreen(corner, size())); }
     void ShowRows(const std::vector<RemarkRow>& rows, int current) override;
     void ShowState(const RemarkState& state) override;
     void ShowTexts(const std::string& subject, const std::string& body) override;

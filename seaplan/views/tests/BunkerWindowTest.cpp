@@ -114,4 +114,50 @@ TEST_F(BunkerWindowTest, EveryButtonHasANameATipAndAReasonWhenItIsOff) {
     EXPECT_TRUE(Button("saveFiguresButton").toolTip().contains("nothing to save"));
 }
 
+TEST_F(BunkerWindowTest, KeysThatComeInOneBatchSaveTheWholeNumber) {
+    OpenFigures("Far East 12");
+    // No event is delivered between the keys.
+    QTest::keyClicks(&Field("fuelBallast"), "37");
+    QTest::keyClick(&Field("fuelBallast"), Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return desk.Count(Ask::kSaveFigures, R"(vfn:"37")") == 1; }));
+    EXPECT_FALSE(Button("saveFiguresButton").isEnabled());
+    EXPECT_TRUE(messages.messages.empty());
+}
+
+TEST_F(BunkerWindowTest, AKeyBeforeThePressOfTheCloseButtonIsAskedAbout) {
+    OpenFigures("Far East 12");
+    QTest::keyClicks(&Field("fuelBallast"), "37");
+    messages.Answer(Interface::SysMsgHandleRes::Yes);
+    Press(Window(), "closeButton");
+    ASSERT_EQ(messages.messages.size(), 1U);
+    EXPECT_FALSE(Window().isVisible());
+    EXPECT_EQ(desk.Count(Ask::kSaveFigures, R"(vfn:"37")"), 1);
+}
+
+TEST_F(BunkerWindowTest, OfARefusedNumberNotEvenTheFirstLettersAreSaved) {
+    OpenFigures("Far East 12");
+    QTest::keyClicks(&Field("fuelBallast"), "5000012");
+    QTest::keyClick(&Field("fuelBallast"), Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(messages.messages.size(), 1U);
+    EXPECT_EQ(desk.Count(Ask::kSaveFigures), 0);
+}
+
+TEST_F(BunkerWindowTest, ABoxLeavesTheKeyboardInItsField) {
+    OpenFigures("Far East 12");
+    Type(Field("fuelLaden"), "5000012");
+    ASSERT_FALSE(messages.messages.empty());
+    EXPECT_EQ(QApplication::focusWidget(), &Field("fuelLaden"));
+}
+
+TEST_F(BunkerWindowTest, ASwitchOfLanguageChangesItWhileItIsHidden) {
+    OpenFigures("Far East 12");
+    Window().hide();
+    const FileTexts chinese(std::string(SEAPLAN_LANG_DIR) + "/seaplan.zh-CN.json");
+    Interface::Raise(Interface::Bus::SwitchLanguage);
+    EXPECT_EQ(Title(), "消耗设置 - Far East 12");
+    EXPECT_EQ(Button("saveFiguresButton").text(), "保存");
+    EXPECT_FALSE(Window().isVisible());
+}
+
 }  // namespace Tarvik::Seaplan

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QAbstractButton>
+#include <QScreen>
 #include <QTest>
 #include <vector>
 
@@ -118,6 +119,13 @@ TEST_F(CalendarPopupTest, EveryControlHasAnAccessibleName) {
     for (QAbstractButton* button : calendar.findChildren<QAbstractButton*>()) {
         EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
     }
+}
+
+TEST_F(CalendarPopupTest, ItStaysOnTheScreen) {
+    const QRect area = calendar.screen()->availableGeometry();
+    panel.Hide();
+    panel.Open({area.right() - 10, area.bottom() - 10});
+    EXPECT_TRUE(area.contains(calendar.geometry()));
 }
 
 }  // namespace Tarvik::Seaplan

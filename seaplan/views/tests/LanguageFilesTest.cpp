@@ -88,4 +88,10 @@ TEST_P(LanguageFile, PlacesForNamesAreTheSameAsInEnglish) {
     }
 }
 
+// The words for a name that a deleted voyage has end by the language, which is known by this letter.
+TEST_P(LanguageFile, OnlyTheEnglishWordsForATakenNameBeginWithTheLetterOfEnglish) {
+    const std::string& words = texts.All().at({"Seaplan", "IDS_VOYTREE_SAMENAME_WARN_FORDISTAB"});
+    EXPECT_EQ(words.starts_with('T'), GetParam() == "en-US") << words;
+}
+
 }  // namespace Tarvik::Seaplan

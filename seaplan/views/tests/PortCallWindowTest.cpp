@@ -210,6 +210,18 @@ TEST_F(PortCallWindowTest, APressOutsideTheTableEndsTheEditing) {
     EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
 }
 
+TEST_F(PortCallWindowTest, ASecondPressOnATimeClosesItsCalendar) {
+    OpenPortCalls("Far East 12");
+    ClickCell(1, ColEtd);
+    ASSERT_TRUE(Calendar().isVisible());
+    const QPoint cell =
+        Table().viewport()->mapToGlobal(Table().visualRect(Table().model()->index(1, ColEtd)).center());
+    // Through the window system, which gives a press outside to what lies there.
+    QTest::mouseClick(Calendar().windowHandle(), Qt::LeftButton, {}, Calendar().mapFromGlobal(cell));
+    QApplication::processEvents();
+    EXPECT_FALSE(Calendar().isVisible());
+}
+
 TEST_F(PortCallWindowTest, TheCalendarChangesATime) {
     OpenPortCalls("Far East 12");
     ClickCell(1, ColEtd);

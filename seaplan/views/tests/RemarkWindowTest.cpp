@@ -157,6 +157,32 @@ TEST_F(RemarkWindowTest, ALogoutHidesItAndTheThemeReachesIt) {
     EXPECT_TRUE(messages.messages.empty());
 }
 
+TEST_F(RemarkWindowTest, ABoxLeavesTheKeyboardInItsField) {
+    OpenRemarks("North Sea");
+    Subject().setText(QString(64, QChar(0x8239)));
+    QTest::keyClicks(&Subject(), "x");
+    QTest::keyClick(&Subject(), Qt::Key_S, Qt::ControlModifier);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !messages.messages.empty(); }));
+    EXPECT_EQ(QApplication::focusWidget(), &Subject());
+}
+
+TEST_F(RemarkWindowTest, TheTitleIsMeasuredInItsOwnFontAtTheFirstOpening) {
+    OpenRemarks("North Sea");
+    const auto* title = Find<QLabel>(Remarks(), "captionLabel");
+    EXPECT_EQ(title->width(), title->fontMetrics().horizontalAdvance(title->text()) + 20);
+}
+
+TEST_F(RemarkWindowTest, ASwitchOfLanguageChangesItWhileItIsHidden) {
+    OpenRemarks("North Sea");
+    Remarks().hide();
+    const FileTexts chinese(std::string(SEAPLAN_LANG_DIR) + "/seaplan.zh-CN.json");
+    Interface::Raise(Interface::Bus::SwitchLanguage);
+    EXPECT_EQ(Find<QLabel>(Remarks(), "captionLabel")->text(), "North Sea 的备注");
+    EXPECT_EQ(Save().text(), "保存");
+    EXPECT_TRUE(Find<QAbstractButton>(Remarks(), "addRemarkButton")->toolTip().startsWith("新建备注"));
+    EXPECT_FALSE(Remarks().isVisible());
+}
+
 TEST(RemarkLayoutTest, TheUnsavedMarkStandsBeforeTheDeleteImage) {
     const TextWidth width = [](const QString& text, SubItemKind) {
         return 7 * static_cast<int>(text.size());

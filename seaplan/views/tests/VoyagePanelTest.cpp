@@ -192,6 +192,21 @@ TEST_F(ViewsFixture, TabWalksTheItemsOfTheSelectedRow) {
     EXPECT_TRUE(Find<QLineEdit>(Panel(), "renameEditor")->isVisible());
 }
 
+TEST_F(ViewsFixture, ABoxLeavesTheKeyboardOnTheItemThatPutItUp) {
+    OpenVoyage("North Sea");
+    Tree().activateWindow();
+    Tree().setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Panel()));
+    QTest::keyClick(&Tree(), Qt::Key_Tab);
+    // A voyage without a book cannot be pinned.
+    ASSERT_EQ(Tree().FocusedPart(), "Voyage.child.svr1.default");
+    QTest::keyClick(&Tree(), Qt::Key_Return);
+    QApplication::processEvents();
+    ASSERT_EQ(messages.messages.size(), 1U);
+    EXPECT_EQ(QApplication::focusWidget(), &Tree());
+    EXPECT_EQ(Tree().FocusedPart(), "Voyage.child.svr1.default");
+}
+
 TEST_F(ViewsFixture, TheMenuOfARowHasItsCommands) {
     OpenVoyage("Far East 12");
     for (const SubItem& part : Tree().PartsOf(RowOf("Far East 12"))) {

@@ -188,6 +188,10 @@ void VoyageTreeView::AddToMenu(QMenu* menu, TreeRow row) {
 }
 
 bool VoyageTreeView::focusNextPrevChild(bool next) {
+    // While a box is up the keyboard only goes away for a while; its item keeps it.
+    if (!isEnabled()) {
+        return QTreeView::focusNextPrevChild(next);
+    }
     const int count = static_cast<int>(EnabledOf(PartsOf(rows_->Selected())).size());
     const int target = focusPart_ + (next ? 1 : -1);
     if (!hasFocus() || target < -1 || target >= count) {

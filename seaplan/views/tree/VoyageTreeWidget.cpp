@@ -42,7 +42,9 @@ void VoyageTreeWidget::ShowAtPointer(void* window) {
 }
 
 void VoyageTreeWidget::SetEnabled(bool enabled) {
-    view_.setEnabled(enabled);
+    if (!keyboard_.SetEnabled(view_, enabled)) {
+        view_.setFocus();
+    }
 }
 
 void* VoyageTreeWidget::Handle() const {

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "seaplan/panels/tree/TreeRows.h"
+#include "seaplan/views/window/KeptFocus.h"
 
 class QStandardItem;
 
@@ -37,6 +38,7 @@ class VoyageTreeWidget final : public TreeRows {
   private:
     VoyageTreeView& view_;
     std::map<TreeRow, QStandardItem*> items_;
+    KeptFocus keyboard_;
 };
 
 }  // namespace Tarvik::Seaplan

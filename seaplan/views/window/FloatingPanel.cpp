@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/window/FloatingPanel.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+
 #include <tarvik/skin/WindowMessages.h>
 
 namespace Tarvik::Seaplan {
@@ -12,6 +16,14 @@ QRect ToQt(const Rect& rect) {
 Rect OnScreen(const QWidget& widget) {
     const QPoint corner = widget.mapToGlobal(QPoint(0, 0));
     return {corner.x(), corner.y(), corner.x() + widget.width(), corner.y() + widget.height()};
+}
+
+Point KeptOnScreen(Point corner, const QSize& size) {
+    const QScreen* screen = QGuiApplication::screenAt({corner.x, corner.y});
+    const QRect area = (screen == nullptr ? QGuiApplication::primaryScreen() : screen)->availableGeometry();
+    const int right = std::max(area.left(), area.right() + 1 - size.width());
+    const int bottom = std::max(area.top(), area.bottom() + 1 - size.height());
+    return {std::min(corner.x, right), std::min(corner.y, bottom)};
 }
 
 FloatingPanel::FloatingPanel(QWidget* mainView, const QString& name, const Hints& hints)
@@ -64,6 +76,12 @@ void FloatingPanel::ShowCaption(const std::string& text, bool changed) {
 
 void FloatingPanel::SendHelp(const std::string& topic, int width, int height) {
     Skin::SendHelpRequest(parentWidget(), topic, width, height);
+}
+
+void FloatingPanel::Enable(bool enabled) {
+    if (!keyboard_.SetEnabled(*this, enabled)) {
+        FocusFirst();
+    }
 }
 
 void FloatingPanel::SurfacePressed() {

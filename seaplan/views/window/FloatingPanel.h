@@ -9,6 +9,7 @@
 #include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/window/Rect.h"
 #include "seaplan/views/window/DialogTexts.h"
+#include "seaplan/views/window/KeptFocus.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -16,6 +17,8 @@ namespace Tarvik::Seaplan {
 QRect ToQt(const Rect& rect);
 /// Where a widget stands on the screen.
 Rect OnScreen(const QWidget& widget);
+/// The corner next to this one at which all of a window of this size is on the screen.
+Point KeptOnScreen(Point corner, const QSize& size);
 
 /// What all floating panels have in common: help and close at the end of the caption, with F1 and Ctrl+W, and
 /// the operations behind PanelWindow.
@@ -40,6 +43,8 @@ class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
     void Raise();
     void ShowCaption(const std::string& text, bool changed);
     void SendHelp(const std::string& topic, int width, int height);
+    /// Off while a box is up; then the keyboard is where it was, or in the first control.
+    void Enable(bool enabled);
 
   protected:
     /// Called by a panel behind its own caption buttons; a small dialog has no help.
@@ -56,6 +61,7 @@ class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
     Reports reports_;
     QToolButton* help_ = nullptr;
     QToolButton* close_ = nullptr;
+    KeptFocus keyboard_;
 };
 
 /// The window of a panel, by its interface: what PanelWindow asks is answered here once.
@@ -70,7 +76,7 @@ class PanelFrame : public FloatingPanel, public View {
     void Place(const Rect& screen) override { PlaceAt(screen); }
     void MoveTo(Point corner) override { MoveCorner(corner); }
     Rect PlaceOnScreen() const override { return OnScreen(*this); }
-    void SetEnabled(bool enabled) override { setEnabled(enabled); }
+    void SetEnabled(bool enabled) override { Enable(enabled); }
     void ApplyTexts() override { ApplyLanguage(*this); }
     void* Handle() const override { return const_cast<PanelFrame*>(this); }
     void SetCaption(const std::string& text, bool changed) override { ShowCaption(text, changed); }
