@@ -78,14 +78,14 @@ QLayout* CalendarPopup::MakeTime() {
 
 QLayout* CalendarPopup::MakeButtons() {
     auto* buttons = new QHBoxLayout();
-    ok_ = new QPushButton(this);
-    ok_->setObjectName(QStringLiteral("calendarOk"));
-    ok_->setProperty("primary", true);
-    cancel_ = new QPushButton(this);
-    cancel_->setObjectName(QStringLiteral("calendarCancel"));
+    end_.ok = new QPushButton(this);
+    end_.ok->setObjectName(QStringLiteral("calendarOk"));
+    end_.ok->setProperty("primary", true);
+    end_.cancel = new QPushButton(this);
+    end_.cancel->setObjectName(QStringLiteral("calendarCancel"));
     buttons->addStretch(1);
-    buttons->addWidget(ok_);
-    buttons->addWidget(cancel_);
+    buttons->addWidget(end_.ok);
+    buttons->addWidget(end_.cancel);
     return buttons;
 }
 
@@ -98,8 +98,8 @@ void CalendarPopup::Attach(CTrvCalDlg* panel) {
     connect(steps_[PreviousMonth], &QToolButton::clicked, this, [panel] { panel->OnMonth(-1); });
     connect(steps_[NextMonth], &QToolButton::clicked, this, [panel] { panel->OnMonth(1); });
     connect(steps_[NextYear], &QToolButton::clicked, this, [panel] { panel->OnYear(1); });
-    connect(ok_, &QPushButton::clicked, this, [panel] { panel->OnOk(); });
-    connect(cancel_, &QPushButton::clicked, this, [panel] { panel->Hide(); });
+    connect(end_.ok, &QPushButton::clicked, this, [panel] { panel->OnOk(); });
+    connect(end_.cancel, &QPushButton::clicked, this, [panel] { panel->Hide(); });
 }
 
 void CalendarPopup::mousePressEvent(QMouseEvent* event) {
@@ -124,7 +124,7 @@ void CalendarPopup::ShowState(const CalendarState& state) {
     typingHour_ = state.typing == TimePart::Hour;
     hour_->Show(state.hour, timed, typingHour_);
     minute_->Show(state.minute, timed, state.typing == TimePart::Minute);
-    for (QWidget* widget : std::initializer_list<QWidget*>{colon_, ok_, cancel_}) {
+    for (QWidget* widget : std::initializer_list<QWidget*>{colon_, end_.ok, end_.cancel}) {
         widget->setVisible(timed);
     }
 }
@@ -141,10 +141,10 @@ void CalendarPopup::Open(Point corner) {
 }
 
 void CalendarPopup::ApplyTexts() {
-    ok_->setText(HostLabel(u"IDOK", u"OK"));
-    cancel_->setText(HostLabel(u"IDCANCEL", u"Cancel"));
-    Skin::Describe(ok_, ok_->text());
-    Skin::Describe(cancel_, cancel_->text());
+    end_.ok->setText(HostLabel(u"IDOK", u"OK"));
+    end_.cancel->setText(HostLabel(u"IDCANCEL", u"Cancel"));
+    Skin::Describe(end_.ok, end_.ok->text());
+    Skin::Describe(end_.cancel, end_.cancel->text());
     Skin::Describe(steps_[PreviousYear], ViewText(TextId::IDS_VIEW_PREVYEAR));
     Skin::Describe(steps_[NextYear], ViewText(TextId::IDS_VIEW_NEXTYEAR));
     Skin::Describe(steps_[PreviousMonth], ViewText(TextId::IDS_VIEW_PREVMONTH));

@@ -47,8 +47,10 @@ class CalendarPopup final : public QFrame, public CalendarView {
     TimeField* hour_;
     TimeField* minute_;
     QLabel* colon_;
-    QPushButton* ok_;
-    QPushButton* cancel_;
+    struct {
+        QPushButton* ok;
+        QPushButton* cancel;
+    } end_{};
     bool typingHour_ = true;
     QRect anchor_;
 };

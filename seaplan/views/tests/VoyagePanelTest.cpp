@@ -4,6 +4,7 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include "seaplan/panels/window/Boxes.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -192,19 +193,19 @@ TEST_F(ViewsFixture, TabWalksTheItemsOfTheSelectedRow) {
     EXPECT_TRUE(Find<QLineEdit>(Panel(), "renameEditor")->isVisible());
 }
 
-TEST_F(ViewsFixture, ABoxLeavesTheKeyboardOnTheItemThatPutItUp) {
-    OpenVoyage("North Sea");
+TEST_F(ViewsFixture, ABoxLeavesTheKeyboardOnTheItemOfTheRow) {
+    OpenVoyage("Far East 12");
     Tree().activateWindow();
     Tree().setFocus();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Panel()));
     QTest::keyClick(&Tree(), Qt::Key_Tab);
-    // A voyage without a book cannot be pinned.
-    ASSERT_EQ(Tree().FocusedPart(), "Voyage.child.svr1.default");
-    QTest::keyClick(&Tree(), Qt::Key_Return);
-    QApplication::processEvents();
+    QTest::keyClick(&Tree(), Qt::Key_Tab);
+    ASSERT_EQ(Tree().FocusedPart(), "Voyage_child_rename");
+    Boxes(Tree().Widget()).Notice(TextId::IDS_TREE_NOONREPORTWARN);
     ASSERT_EQ(messages.messages.size(), 1U);
+    EXPECT_TRUE(Tree().isEnabled());
     EXPECT_EQ(QApplication::focusWidget(), &Tree());
-    EXPECT_EQ(Tree().FocusedPart(), "Voyage.child.svr1.default");
+    EXPECT_EQ(Tree().FocusedPart(), "Voyage_child_rename");
 }
 
 TEST_F(ViewsFixture, TheMenuOfARowHasItsCommands) {
