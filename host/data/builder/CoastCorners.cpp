@@ -75,17 +75,16 @@ Ring PointsAt(const Ring& ring, const std::vector<std::size_t>& indices) {
 
 /// Capes with room to pass; only those in busy waters when `busy` is given. `outline` names the capes by
 /// their index on the ring.
-std::vector<PlacedCorner> AddOpenCorners(const Ring& ring, const std::vector<std::size_t>& outline,
-                                         const Server::LandIndex& index, double offsetNm,
+std::vector<PlacedCorner> AddOpenCorners(const Coast& coast, const std::vector<std::size_t>& outline,
                                          const BusyWaters* busy, CornerSet& found) {
-    const Ring shape = PointsAt(ring, outline);
+    const Ring shape = PointsAt(coast.ring, outline);
     std::vector<PlacedCorner> placed;
     for (std::size_t i = 0; i < shape.size(); ++i) {
         if (busy != nullptr && !busy->Contains(shape[i])) {
             continue;
         }
-        for (const double nm : {offsetNm, 0.5 * offsetNm}) {
-            const auto at = MoveSeaward(shape, i, nm, index);
+        for (const double nm : {coast.offsetNm, 0.5 * coast.offsetNm}) {
+            const auto at = MoveSeaward(shape, i, nm, coast.land);
             if (!at) {
                 continue;
             }
@@ -138,9 +137,10 @@ std::vector<Corner> FindCorners(const std::vector<Polygon>& land, const Server::
             const bool landToTheLeft = RunsLeft(ring) == (&raw == &polygon.front());
             const bool ice = ring.front().y > Server::kNorthLimit;
             const auto follow = [&](const Measure& measure, const BusyWaters* busy) {
-                const std::vector<PlacedCorner> placed = AddOpenCorners(
-                    ring, OutlineOf(ring, measure.toleranceNm), index, measure.offsetNm, busy, found);
-                AddHiddenCapes(ring, landToTheLeft, placed, measure.offsetNm, index, found);
+                const Coast coast{ring, landToTheLeft, measure.offsetNm, index};
+                const std::vector<PlacedCorner> placed =
+                    AddOpenCorners(coast, OutlineOf(ring, measure.toleranceNm), busy, found);
+                AddHiddenCapes(coast, placed, found);
             };
             follow(ice ? kIce : kWild, nullptr);
             if (ice) {

@@ -52,10 +52,17 @@ struct PlacedCorner {
     GeoPoint at;
 };
 
+/// A coast whose corners are looked for, and how far off ships pass it.
+struct Coast {
+    const Ring& ring;
+    bool landToTheLeft = false;  ///< of the ring's direction
+    double offsetNm = 0;
+    const Server::LandIndex& land;
+};
+
 /// Adds the capes between successive corners of a ring that hide them from each other: the point that stands
 /// out farthest to sea is moved off at right angles to the line between them, and both halves are looked at
 /// again. Without these a ship makes a detour wherever two corners just miss each other's sight.
-void AddHiddenCapes(const Ring& ring, bool landToTheLeft, const std::vector<PlacedCorner>& placed,
-                    double offsetNm, const Server::LandIndex& index, CornerSet& found);
+void AddHiddenCapes(const Coast& coast, const std::vector<PlacedCorner>& placed, CornerSet& found);
 
 }  // namespace Tarvik::Data

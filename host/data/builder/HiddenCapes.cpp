@@ -15,12 +15,11 @@ constexpr double kFarthestNm = 250.0;
 /// One coast while its gaps are filled.
 class GapFiller {
   public:
-    GapFiller(const Ring& ring, bool landToTheLeft, double offsetNm, const Server::LandIndex& index,
-              CornerSet& found)
-        : ring_(ring),
-          seaSide_(landToTheLeft ? -1.0 : 1.0),
-          offsetNm_(offsetNm),
-          index_(index),
+    GapFiller(const Coast& coast, CornerSet& found)
+        : ring_(coast.ring),
+          seaSide_(coast.landToTheLeft ? -1.0 : 1.0),
+          offsetNm_(coast.offsetNm),
+          index_(coast.land),
           found_(found) {}
 
     void Fill(const PlacedCorner& a, const PlacedCorner& b, int depth) {
@@ -92,9 +91,8 @@ class GapFiller {
 
 }  // namespace
 
-void AddHiddenCapes(const Ring& ring, bool landToTheLeft, const std::vector<PlacedCorner>& placed,
-                    double offsetNm, const Server::LandIndex& index, CornerSet& found) {
-    GapFiller filler(ring, landToTheLeft, offsetNm, index, found);
+void AddHiddenCapes(const Coast& coast, const std::vector<PlacedCorner>& placed, CornerSet& found) {
+    GapFiller filler(coast, found);
     for (std::size_t i = 0; i < placed.size(); ++i) {
         const PlacedCorner& next = placed[(i + 1) % placed.size()];
         if (next.index != placed[i].index) {
