@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/gui/Person.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "tests/gui/ChildProcess.h"
@@ -44,12 +45,12 @@ std::string Person::AwaitWindow(const std::string& title) const {
     return found;
 }
 
-void Person::AwaitGone(const std::string& title) const {
-    AwaitOrThrow(
-        [&] {
-            return Xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}).empty();
-        },
-        "the window stays: " + title);
+void Person::AwaitWindows(const std::string& title, long count) const {
+    const auto counted = [&] {
+        const std::string found = Xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"});
+        return std::count(found.begin(), found.end(), '\n') == count;
+    };
+    AwaitOrThrow(counted, "there are not " + std::to_string(count) + " windows " + title);
 }
 
 void Person::PressAt(const std::string& window, int x, int y) const {

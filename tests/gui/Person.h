@@ -14,8 +14,10 @@ class Person {
 
     /// The number of the visible window of a given title once it is there.
     std::string AwaitWindow(const std::string& title) const;
+    /// Waits until so many visible windows have the title.
+    void AwaitWindows(const std::string& title, long count) const;
     /// Waits until no visible window has the title.
-    void AwaitGone(const std::string& title) const;
+    void AwaitGone(const std::string& title) const { AwaitWindows(title, 0); }
     /// Presses the left button at a place within a window.
     void PressAt(const std::string& window, int x, int y) const;
     /// The same, and waits until the window takes the keys. Not where the press opens another window.

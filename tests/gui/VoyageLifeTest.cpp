@@ -83,11 +83,12 @@ TEST_P(VoyageLife, LeavingWithUnsavedPortCallsAsksFirstAndCanBeTakenBack) {
     sitting.TypePorts({"Rotterdam", "Hamburg"});
     const std::string typed = person_.Look(sitting.portCalls);
     person_.Press({"F9"});
-    const std::string planned = person_.LookForChange(sitting.portCalls, typed);
+    person_.LookForChange(sitting.portCalls, typed);
     sitting.AskToLeave();
-    const std::string asked = person_.LookForChange(sitting.portCalls, planned);
+    // The question has the main window's title.
+    person_.AwaitWindows("Seaplan", 2);
     person_.Press({"Escape"});
-    person_.LookForChange(sitting.portCalls, asked);
+    person_.AwaitWindows("Seaplan", 1);
     person_.Click(sitting.portCalls, 300, 12);
     person_.Press({"ctrl+s"});
     Await("select count(*) from port_calls", 2);

@@ -45,8 +45,9 @@ std::string Places::PassageId(const std::string& text) const {
 RouteRequestPoint Places::StopBy(const std::vector<std::string>& passages, const std::string& from,
                                  const std::string& to) const {
     RouteRequestPoint stop{to, {}, {}};
+    const std::string leg = std::string(from).append(",").append(to);
     for (const std::string& passage : passages) {
-        stop.locks.push_back({PassageId(passage), from + "," + to});
+        stop.locks.push_back({PassageId(passage), leg});
     }
     return stop;
 }

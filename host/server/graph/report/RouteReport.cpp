@@ -170,7 +170,7 @@ std::optional<RouteQuestion> ReadRouteQuestion(const std::vector<std::string>& w
                      : word == "--open"    ? &question.open
                                            : nullptr;
         if (value.empty() || (list == nullptr && !format)) {
-            error = "route does not know " + word + " " + value;
+            error = std::string("route does not know ").append(word).append(" ").append(value);
             return std::nullopt;
         }
         if (list != nullptr) {
