@@ -19,8 +19,8 @@ namespace Bus {
 inline constexpr Service<const std::string, const char> AddVessel{"TRV_S_VOY_ADDVSL"};
 /// Adds a port, by its name, to the port distance table; an empty name is ignored.
 inline constexpr Service<const std::string, None> AddPortName{"TRV_S_VOY_ADDPORTNAME"};
-/// Whether the port distance table is in sight, so that a port that is pointed at belongs into it. Valid until
-/// the next call.
+/// Whether the port distance table is in sight, so that a port that is pointed at belongs into it. Valid
+/// until the next call.
 inline constexpr Service<None, const bool> TakesPortNames{"TRV_S_VOY_TAKESPORTNAMES"};
 /// Draws the route through ports whose ids the text holds, joined by ",". Valid until the next call. The
 /// calculator knows the route of one stored reply (40358,41117,40430); of other ports `valid` is 0.
