@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QListWidget>
+
+#include "seaplan/views/portcall/PortCallDelegate.h"
+#include "seaplan/views/tests/ViewsFixture.h"
+
+namespace Tarvik::Seaplan {
+
+/// The window of the port calls, its controls by their names.
+class PortCallWindowTest : public ViewsFixture {
+  protected:
+    PortCallTableView& Table() { return *Find<PortCallTableView>(PortCalls(), "portCallTable"); }
+    QLineEdit& PortEditor() { return *Find<QLineEdit>(PortCalls(), "portEditor"); }
+    QLineEdit& SpeedEditor() { return *Find<QLineEdit>(PortCalls(), "speedEditor"); }
+    QLineEdit& WeatherEditor() { return *Find<QLineEdit>(PortCalls(), "weatherEditor"); }
+    QListWidget& Purposes() { return *Find<QListWidget>(PortCalls(), "purposeList"); }
+    QListWidget& Matches() { return *Find<QListWidget>(PortCalls(), "portMatches"); }
+    QWidget& Calendar() { return *Find<QWidget>(PortCalls(), "calendarPopup"); }
+    QString Cell(int row, int column) { return Table().model()->index(row, column).data().toString(); }
+    void ClickCell(int row, int column) {
+        const QRect cell = Table().visualRect(Table().model()->index(row, column));
+        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, cell.center());
+        QApplication::processEvents();
+    }
+    /// Clicks one of the images at a row's end.
+    void ClickImage(int row, int image) {
+        const QRect cell = Table().visualRect(Table().model()->index(row, PortCallModel::kImageColumn));
+        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {},
+                          QPoint(cell.left() + 12 + 20 * image, cell.center().y()));
+    }
+    static void ClickItem(QListWidget& list, int row) {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
+        QApplication::processEvents();
+    }
+    void Button(const char* name) { Press(PortCalls(), name); }
+};
+
+}  // namespace Tarvik::Seaplan
