@@ -11,7 +11,6 @@
 
 #include "host/geo/Sphere.h"
 #include "host/server/graph/report/Places.h"
-#include "host/server/graph/report/StatedPassages.h"
 
 namespace Tarvik::Server {
 

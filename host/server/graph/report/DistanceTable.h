@@ -10,6 +10,16 @@
 
 namespace Tarvik::Server {
 
+/// Passages by the names that route points have.
+struct StatedPassages {
+    std::vector<std::string> through;
+    std::vector<std::string> without;
+};
+
+/// The passages that a remark in a table of distances names, as in "via Tsugaru-Kaikyo and south of Aleutian
+/// Islands". Words that name no passage of ours are passed over.
+StatedPassages PassagesOf(const std::string& remark);
+
 /// A pair of ports with our distance, and the published one where the table has it.
 struct DistanceLine {
     std::string from;

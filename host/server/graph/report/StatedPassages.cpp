@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/graph/report/StatedPassages.h"
-
 #include <algorithm>
 #include <cctype>
 #include <string_view>
+
+#include "host/server/graph/report/DistanceTable.h"
 
 namespace Tarvik::Server {
 

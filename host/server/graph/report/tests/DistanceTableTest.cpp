@@ -3,7 +3,6 @@
 
 #include "host/server/graph/report/DistanceTable.h"
 #include "host/server/graph/report/RouteReport.h"
-#include "host/server/graph/report/StatedPassages.h"
 #include "host/server/graph/tests/SmallSea.h"
 
 namespace Tarvik::Server {
