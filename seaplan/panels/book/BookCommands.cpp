@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "seaplan/panels/texts/BookTexts.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -146,7 +148,7 @@ void BookCommands::OnClose() {
     if (!editing_.CommitEditors()) {
         return;
     }
-    if (desk_.Sheet().changed && desk_.ToPerson().Question(TextId::IDS_WP_TIP_SAVE) && !Save()) {
+    if (desk_.Sheet().changed && desk_.ToPerson().Question(TextIds::IDS_WP_TIP_SAVE) && !Save()) {
         return;
     }
     Hide();

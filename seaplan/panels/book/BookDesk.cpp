@@ -8,6 +8,7 @@
 
 #include "seaplan/calculation/book/BookPanel.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/BookTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -18,7 +19,7 @@ BookDesk::Report::~Report() {
 }
 
 void BookDesk::Show() {
-    p_.view.SetCaption(Text(TextId::IDC_WP_T_TITLE), sheet_.changed);
+    p_.view.SetCaption(Text(TextIds::IDC_WP_T_TITLE), sheet_.changed);
     p_.view.ShowSheet(sheet_);
     if (p_.view.IsVisible()) {
         chart_.Show(sheet_.data, sheet_.refs, sheet_.selected);
@@ -113,15 +114,15 @@ Boxes& BookDesk::ToPerson() {
 TextId BookDesk::TextOf(BookRefusal refusal) {
     switch (refusal) {
         case BookRefusal::Latitude:
-            return TextId::IDS_WP_LAT_ERR;
+            return TextIds::IDS_WP_LAT_ERR;
         case BookRefusal::Longitude:
-            return TextId::IDS_WP_LON_ERR;
+            return TextIds::IDS_WP_LON_ERR;
         case BookRefusal::Speed:
-            return TextId::IDS_WP_SPD_ERR;
+            return TextIds::IDS_WP_SPD_ERR;
         case BookRefusal::Date:
-            return TextId::IDS_WP_DT_ERR;
+            return TextIds::IDS_WP_DT_ERR;
         default:
-            return TextId::IDS_WP_NUM_ERR;
+            return TextIds::IDS_WP_NUM_ERR;
     }
 }
 

@@ -7,9 +7,9 @@
 
 #include "seaplan/calculation/book/BookChecks.h"
 #include "seaplan/controllers/BookOnChart.h"
-#include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/book/BookHistory.h"
 #include "seaplan/panels/book/BookView.h"
+#include "seaplan/panels/texts/TextId.h"
 
 namespace Tarvik::Seaplan {
 

@@ -6,6 +6,7 @@
 #include <tarvik/util/Units.h>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/panels/tree/TreeRules.h"
 
 namespace Tarvik::Seaplan {
@@ -60,13 +61,13 @@ std::string BookEdits::EchoOf(int row, int column, const std::string& typed) con
     Position position{place.x, place.y};
     const BookRefusal refusal = CheckPosition(typed, axis, position);
     if (refusal == BookRefusal::NotANumber) {
-        return Text(TextId::IDS_VIEW_NOTREAD);
+        return Text(TextIds::IDS_VIEW_NOTREAD);
     }
     if (refusal != BookRefusal::None) {
         return Text(BookDesk::TextOf(refusal));
     }
     const bool pair = axis == Axis::Latitude ? position.x != place.x : position.y != place.y;
-    std::string told = Text(TextId::IDS_VIEW_READAS);
+    std::string told = Text(TextIds::IDS_VIEW_READAS);
     if (pair || axis == Axis::Latitude) {
         told += ' ' + DegreesText(position.y, Axis::Latitude);
     }

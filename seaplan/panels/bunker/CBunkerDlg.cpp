@@ -6,6 +6,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/NoteTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -46,7 +47,7 @@ void CBunkerDlg::SetState(bool dirty, bool editable) {
 void CBunkerDlg::ShowTitle() {
     const std::string name = p_.voyageName();
     std::string title;
-    LoadText(title, static_cast<int>(TextId::IDC_BK_T_TITLE), kTitle);
+    LoadText(title, static_cast<int>(TextIds::IDC_BK_T_TITLE), kTitle);
     p_.view.SetCaption(name.empty() ? title : title + " - " + name, dirty_);
 }
 
@@ -75,7 +76,7 @@ bool CBunkerDlg::Take(std::size_t field, const std::string& text) {
 }
 
 void CBunkerDlg::Refuse() {
-    boxes_.Notice(TextId::IDS_BK_ERR_INPUT);
+    boxes_.Notice(TextIds::IDS_BK_ERR_INPUT);
     p_.view.ShowFigures(current_);
 }
 
@@ -101,7 +102,7 @@ void CBunkerDlg::OnUndo() {
 }
 
 void CBunkerDlg::OnClose() {
-    if (IsDirty() && boxes_.Question(TextId::IDS_BK_TIP_SAVE)) {
+    if (IsDirty() && boxes_.Question(TextIds::IDS_BK_TIP_SAVE)) {
         Save();
     }
     SetState(false, true);

@@ -9,6 +9,8 @@
 #include <tarvik/bus/VoyageContract.h>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -76,7 +78,7 @@ void CPortDistTabDlg::Open() {
 }
 
 void CPortDistTabDlg::ApplyLanguage() {
-    p_.view.SetCaption(Text(TextId::IDS_PORTDISTAB_TITLE), false);
+    p_.view.SetCaption(Text(TextIds::IDS_PORTDISTAB_TITLE), false);
     p_.view.ApplyTexts();
 }
 
@@ -121,7 +123,7 @@ bool CPortDistTabDlg::OnCategoryKey(KeyPress press) {
 
 void CPortDistTabDlg::OnCategoryLeft() {
     const TreeContext& tree = p_.tree.Context();
-    tree.catalog.MakeUniqueName(Text(TextId::IDS_TREE_NEWVOYAGE), tree.voyageNames, voyage_);
+    tree.catalog.MakeUniqueName(Text(TextIds::IDS_TREE_NEWVOYAGE), tree.voyageNames, voyage_);
     p_.view.SetVoyageName(voyage_);
 }
 
@@ -139,12 +141,12 @@ void CPortDistTabDlg::OnOk() {
     LoadTree();
     DistanceTable& table = p_.portCalls(true)->Distances();
     if (table.CountPlaces() < 2) {
-        return boxes_.Notice(TextId::IDS_PORTDISTAB_SAVEPORTWARN);
+        return boxes_.Notice(TextIds::IDS_PORTDISTAB_SAVEPORTWARN);
     }
     TableVoyage made;
     if (const int code = p_.tree.CreateVoyageFromTable(category_, voyage_, made); code != 0) {
         if (code < kNameTaken) {
-            p_.view.ShowNote(Text(TextId::IDS_VIEW_TABLENOTKEPT));
+            p_.view.ShowNote(Text(TextIds::IDS_VIEW_TABLENOTKEPT));
         }
         return;
     }

@@ -6,6 +6,8 @@
 #include <tarvik/interface/LoadString.h>
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/panels/texts/AllTexts.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {

@@ -4,13 +4,15 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/texts/TextId.h"
 
 namespace Tarvik::Seaplan {
 
 /// Section, and name in it, of the plug-in's texts in the language files.
 inline constexpr const char16_t* kTextSection = u"Seaplan";
 
+/// Key of a number of the string table, null when the number has no entry.
+const char* TextKeyOf(int number);
 /// Text of string `number` in the language in force, UTF-8. False, with `out` the fallback, when the string
 /// table has no such number or the language file no such key.
 bool LoadText(std::string& out, int number, const std::string& fallback);

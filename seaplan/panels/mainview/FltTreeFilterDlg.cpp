@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "seaplan/panels/texts/TreeTexts.h"
+
 namespace Tarvik::Seaplan {
 
 FltTreeFilterDlg::FltTreeFilterDlg(ChoicePopup& popup, SeaplanTreeCtrl& tree, std::function<int()> recoverAll)
@@ -12,7 +14,7 @@ FltTreeFilterDlg::FltTreeFilterDlg(ChoicePopup& popup, SeaplanTreeCtrl& tree, st
 
 /// Recovering everything has its action, but no line until one is wanted.
 void FltTreeFilterDlg::ShowChoices() {
-    popup_.SetChoices({{TextId::IDS_TREEVIEW_RECOVER, showDeleted_}});
+    popup_.SetChoices({{TextIds::IDS_TREEVIEW_RECOVER, showDeleted_}});
 }
 
 void FltTreeFilterDlg::Toggle() {
@@ -26,7 +28,7 @@ void FltTreeFilterDlg::Toggle() {
 }
 
 int FltTreeFilterDlg::OnChosen(TextId id) {
-    if (id == TextId::IDS_TREEVIEW_RECOVERALL) {
+    if (id == TextIds::IDS_TREEVIEW_RECOVERALL) {
         return recoverAll_();
     }
     showDeleted_ = !showDeleted_;

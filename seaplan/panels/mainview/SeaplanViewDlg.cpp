@@ -7,6 +7,7 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -78,7 +79,7 @@ void SeaplanViewDlg::Hide() {
 void SeaplanViewDlg::ApplyLanguage() {
     p_.tree.ApplyLanguage();
     filter_.ApplyLanguage();
-    p_.window.SetCaption(Text(TextId::IDS_TREE_VOYTITLE), false);
+    p_.window.SetCaption(Text(TextIds::IDS_TREE_VOYTITLE), false);
     p_.window.ApplyTexts();
 }
 

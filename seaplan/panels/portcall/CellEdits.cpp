@@ -4,6 +4,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -125,7 +126,7 @@ void CellEdits::SetEta(int row, const std::string& text) {
         return;
     }
     if (static_cast<double>(hours) < kLeastLegHours) {
-        return desk_.ToPerson().Notice(TextId::IDS_PORTCALL_ERRETA);
+        return desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_ERRETA);
     }
     table.SetCell(row, ColEta, text);
     PortCallRows rows;
@@ -150,7 +151,7 @@ void CellEdits::SetEtd(int row, const std::string& text) {
         return;
     }
     if (static_cast<double>(hours) < kEarliestDeparture) {
-        return desk_.ToPerson().Notice(TextId::IDS_PORTCALL_ERRETD);
+        return desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_ERRETD);
     }
     table.SetCell(row, ColEtd, text);
     PortCallRows rows;

@@ -8,6 +8,7 @@
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -52,7 +53,7 @@ int PanelCommands::Schedule(const PortCallRows& rows, PortCallRows& result, int&
 int PanelCommands::Calculate() {
     PortCallRows rows;
     if (Prepare(rows) != 0) {
-        desk_.Sheet().cause = Text(TextId::IDS_VIEW_NEEDTWOPORTS);
+        desk_.Sheet().cause = Text(TextIds::IDS_VIEW_NEEDTWOPORTS);
         return -1;
     }
     PortCallRows result;
@@ -118,10 +119,10 @@ void PanelCommands::OnCalculate() {
     }
     if (corrected <= 0) {
         if (Calculate() == kCalculatedNotSaved) {
-            TellFailure(desk_, TextId::IDS_PORTCALL_SAVEEXCEPTION);
+            TellFailure(desk_, TextIds::IDS_PORTCALL_SAVEEXCEPTION);
         }
     } else if (corrected_.Calculate() != 0) {
-        TellFailure(desk_, TextId::IDS_PORTCALL_AISCOMPUTWARN);
+        TellFailure(desk_, TextIds::IDS_PORTCALL_AISCOMPUTWARN);
     }
 }
 
@@ -169,7 +170,7 @@ int PanelCommands::SaveRows(int drawMode) {
     PortCallSheet& sheet = desk_.Sheet();
     const PortCallRows rows = sheet.table.ReadRows();
     if (rows.size() < 2) {
-        desk_.Sheet().cause = Text(TextId::IDS_VIEW_NEEDTWOPORTS);
+        desk_.Sheet().cause = Text(TextIds::IDS_VIEW_NEEDTWOPORTS);
         return -1;
     }
     const bool missing = std::any_of(rows.begin() + 1, rows.end(), [](const VoyPortCall& row) {
@@ -191,7 +192,7 @@ void PanelCommands::SavePlain() {
     const PortCallDesk::Report report(desk_);
     const int result = SaveRows(1);
     if (result < -1) {
-        TellFailure(desk_, TextId::IDS_PORTCALL_SAVEEXCEPTION);
+        TellFailure(desk_, TextIds::IDS_PORTCALL_SAVEEXCEPTION);
     } else if (result == 0) {
         desk_.Sheet().MarkUnchanged();
         desk_.Sheet().state.canOpenBook = true;
@@ -205,7 +206,7 @@ int PanelCommands::SaveBeforeLeaving() {
     if (known && (corrected > 0 ? corrected_.Calculate() : SaveRows(-1)) == 0) {
         return 0;
     }
-    TellFailure(desk_, TextId::IDS_PORTCALL_SAVEEXCEPTION);
+    TellFailure(desk_, TextIds::IDS_PORTCALL_SAVEEXCEPTION);
     return -1;
 }
 
@@ -214,7 +215,7 @@ void PanelCommands::OnClear() {
     editing_.CommitEditors();
     PortCallView& view = desk_.View();
     view.Hide();
-    if (desk_.ToPerson().Confirm(TextId::IDS_PORTCALL_CLEARFORBLANK, desk_.LossWords())) {
+    if (desk_.ToPerson().Confirm(TextIds::IDS_PORTCALL_CLEARFORBLANK, desk_.LossWords())) {
         if (desk_.Sheet().state.changed) {
             filling_.GiveUp();
         }
@@ -232,7 +233,7 @@ void PanelCommands::OnClose() {
     PortCallSheet& sheet = desk_.Sheet();
     editing_.CommitEditors();
     if (sheet.state.changed) {
-        if (!desk_.ToPerson().Question(TextId::IDS_PORTCALL_CLOSESAVE, desk_.LossWords())) {
+        if (!desk_.ToPerson().Question(TextIds::IDS_PORTCALL_CLOSESAVE, desk_.LossWords())) {
             return;
         }
         filling_.GiveUp();
@@ -254,7 +255,7 @@ void PanelCommands::OnPositionBook() {
     if (dialog == nullptr || !sheet.state.canOpenBook) {
         return;
     }
-    if (sheet.state.changed && !desk_.ToPerson().Confirm(TextId::IDS_PORTCALL_WARNSAVEFORPSBK)) {
+    if (sheet.state.changed && !desk_.ToPerson().Confirm(TextIds::IDS_PORTCALL_WARNSAVEFORPSBK)) {
         return;
     }
     PosBookData book;
@@ -271,7 +272,7 @@ int PanelCommands::SavePositionBook(const PosBookData& book) {
         return desk_.Voyages().SavePositionBook(bookVoyage_, book);
     }();
     if (code != 0) {
-        desk_.ToPerson().Notice(TextId::IDS_PORTCALL_SAVEEXCEPTION);
+        desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_SAVEEXCEPTION);
         return code;
     }
     desk_.TellSaved(bookVoyage_);

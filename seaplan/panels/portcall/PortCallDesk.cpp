@@ -7,6 +7,7 @@
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -61,7 +62,7 @@ void PortCallDesk::ResetSheet() {
 
 void PortCallDesk::ShowTexts() {
     sheet_.state.caption =
-        Text(sheet_.state.distanceTable ? TextId::IDS_PORTCALL_DISTTABTITLE : TextId::IDS_PORTCALL_TITLE);
+        Text(sheet_.state.distanceTable ? TextIds::IDS_PORTCALL_DISTTABTITLE : TextIds::IDS_PORTCALL_TITLE);
     sheet_.state.note = NoteText(sheet_.note);
     SetCorrectionPending(sheet_.aisCorrectionPending);
 }
@@ -75,7 +76,7 @@ void PortCallDesk::AskToKeepTable() const {
 void PortCallDesk::SetCorrectionPending(bool pending) {
     sheet_.aisCorrectionPending = pending;
     sheet_.state.calculateText =
-        Text(pending ? TextId::IDS_PORTCALL_RECOMPUT_FORAIS : TextId::IDS_PORTCALL_COMPUTE);
+        Text(pending ? TextIds::IDS_PORTCALL_RECOMPUT_FORAIS : TextIds::IDS_PORTCALL_COMPUTE);
 }
 
 bool PortCallDesk::IsCorrected() const {

@@ -8,7 +8,6 @@
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/PortDirectory.h"
-#include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/portcall/PortCallView.h"

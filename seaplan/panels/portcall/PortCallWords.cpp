@@ -2,6 +2,7 @@
 #include "seaplan/panels/portcall/PortCallWords.h"
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -25,34 +26,34 @@ std::string CauseText(const ScheduleFault& fault, const PortCallTable& table) {
         case Cause::None:
             return {};
         case Cause::UnknownPort:
-            return Text(TextId::IDS_VIEW_FAULTPORT, {RowNumber(table, fault.port), fault.port});
+            return Text(TextIds::IDS_VIEW_FAULTPORT, {RowNumber(table, fault.port), fault.port});
         case Cause::NoRoute:
-            return Text(TextId::IDS_VIEW_FAULTROUTE);
+            return Text(TextIds::IDS_VIEW_FAULTROUTE);
         case Cause::Connection:
-            return Text(TextId::IDS_VIEW_FAULTCONNECTION);
+            return Text(TextIds::IDS_VIEW_FAULTCONNECTION);
         case Cause::Refused:
-            return Text(TextId::IDS_VIEW_FAULTREFUSED);
+            return Text(TextIds::IDS_VIEW_FAULTREFUSED);
         case Cause::Figures:
-            return Text(TextId::IDS_VIEW_FAULTFIGURES);
+            return Text(TextIds::IDS_VIEW_FAULTFIGURES);
         case Cause::NotCalculated:
-            return Text(TextId::IDS_VIEW_FAULTOTHERROUTE);
+            return Text(TextIds::IDS_VIEW_FAULTOTHERROUTE);
     }
     return {};
 }
 
 std::string LossText(const PortCallSheet& sheet, const std::string& voyage) {
     if (sheet.IsUnkeptTable()) {
-        return Text(TextId::IDS_VIEW_LOSTTABLE, {std::to_string(sheet.table.ReadAllRows().size())});
+        return Text(TextIds::IDS_VIEW_LOSTTABLE, {std::to_string(sheet.table.ReadAllRows().size())});
     }
     if (sheet.aisCorrectionPending) {
-        return Text(TextId::IDS_VIEW_LOSTFIX, {voyage});
+        return Text(TextIds::IDS_VIEW_LOSTFIX, {voyage});
     }
     if (const int rows = sheet.ChangedRows(); rows > 0) {
-        return Text(TextId::IDS_VIEW_LOSTROWS, {voyage, std::to_string(rows)});
+        return Text(TextIds::IDS_VIEW_LOSTROWS, {voyage, std::to_string(rows)});
     }
     // Nothing typed differs from what is stored: what is lost is a route, unless it is still to be found.
     const bool route = sheet.state.changed && sheet.note.kind != PortCallNote::Kind::Unfinished;
-    return Text(route ? TextId::IDS_VIEW_LOSTROUTE : TextId::IDS_VIEW_LOSTVOYAGE, {voyage});
+    return Text(route ? TextIds::IDS_VIEW_LOSTROUTE : TextIds::IDS_VIEW_LOSTVOYAGE, {voyage});
 }
 
 std::string NoteText(const PortCallNote& note) {
@@ -60,9 +61,9 @@ std::string NoteText(const PortCallNote& note) {
         case PortCallNote::Kind::None:
             return {};
         case PortCallNote::Kind::Unfinished:
-            return Text(TextId::IDS_VIEW_UNFINISHED);
+            return Text(TextIds::IDS_VIEW_UNFINISHED);
         case PortCallNote::Kind::KnownLegs:
-            return Text(TextId::IDS_VIEW_KNOWNLEGS, {note.since});
+            return Text(TextIds::IDS_VIEW_KNOWNLEGS, {note.since});
     }
     return {};
 }

@@ -6,6 +6,7 @@
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -49,7 +50,7 @@ bool VoyageFilling::MayReplace(const std::string& vi) {
         const int read = desk_.Voyages().Module().LoadPortCalls(vi, stored);
         sheet.unread = read != kNoPortCalls;
         desk_.Sheet().cause =
-            Text(read == kNoList ? TextId::IDS_VIEW_FAULTCONNECTION : TextId::IDS_VIEW_FAULTUNREAD);
+            Text(read == kNoList ? TextIds::IDS_VIEW_FAULTCONNECTION : TextIds::IDS_VIEW_FAULTUNREAD);
     }
     return !sheet.unread;
 }
@@ -62,7 +63,7 @@ bool VoyageFilling::MayLeave() {
         return true;
     }
     // The rows in the table are what is saved, so no cell may have changed since.
-    const bool save = desk_.ToPerson().Question(TextId::IDS_PORTCALL_SAVENEXT, desk_.LossWords());
+    const bool save = desk_.ToPerson().Question(TextIds::IDS_PORTCALL_SAVENEXT, desk_.LossWords());
     // A distance table belongs to no voyage that a save could go to.
     if (!save || sheet.IsUnkeptTable()) {
         GiveUp();

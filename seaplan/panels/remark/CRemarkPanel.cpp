@@ -6,6 +6,7 @@
 
 #include "seaplan/data/TimeText.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/NoteTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -71,7 +72,7 @@ void CRemarkPanel::New() {
         if (!editing_.AskSave()) {
             return d_.Show();
         }
-        d_.list.InsertFirst({Text(TextId::IDS_NEW_REMARK), NowText(kTimeFormat)});
+        d_.list.InsertFirst({Text(TextIds::IDS_NEW_REMARK), NowText(kTimeFormat)});
         d_.adding = true;
     }
     d_.Show();
@@ -118,7 +119,7 @@ void CRemarkPanel::OnItemClicked(int row, const std::string& item) {
 
 void CRemarkPanel::Delete(int row) {
     const CRemark* remark = d_.list.Row(row).remark;
-    if (!d_.ToPerson().Question(TextId::IDS_DELREMARKTIP) ||
+    if (!d_.ToPerson().Question(TextIds::IDS_DELREMARKTIP) ||
         !d_.remarks.DeleteRemark(remark->type, remark->objectid, remark->seq)) {
         return;
     }
@@ -135,7 +136,7 @@ void CRemarkPanel::Delete(int row) {
 
 void CRemarkPanel::DropNew() {
     if (editing_.IsDirty() && d_.list.Current() == 0) {
-        if (!d_.ToPerson().Denied(TextId::IDS_REMARKSAVETIP)) {
+        if (!d_.ToPerson().Denied(TextIds::IDS_REMARKSAVETIP)) {
             editing_.Save();
             return d_.Show();
         }
@@ -148,7 +149,7 @@ void CRemarkPanel::DropNew() {
 
 void CRemarkPanel::SetTitle() {
     std::string format;
-    LoadText(format, static_cast<int>(TextId::IDS_RMK_TITLE), kTitle);
+    LoadText(format, static_cast<int>(TextIds::IDS_RMK_TITLE), kTitle);
     d_.view.ShowTitle(MakeRemarkTitle(format.empty() ? kTitle : format, d_.object.name,
                                       [this](const std::string& text) { return d_.view.TitleWidth(text); }));
 }

@@ -4,6 +4,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/NoteTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -24,7 +25,7 @@ bool RemarkEditing::AskSave() {
     if (!dirty_) {
         return true;
     }
-    if (d_.ToPerson().Denied(TextId::IDS_REMARKSAVETIP)) {
+    if (d_.ToPerson().Denied(TextIds::IDS_REMARKSAVETIP)) {
         Drop();
     } else {
         Save();
@@ -79,7 +80,7 @@ bool RemarkEditing::LoadFirst() {
 const CRemark* RemarkEditing::SendNew() {
     int seq = 0;
     if (!LoadFirst() || !d_.remarks.AddRemark(d_.object.type, d_.object.id, seq, subject_, body_)) {
-        Tell(TextId::IDS_TIP_ADDRMKFAIL, kNotAdded, WhyNotSent(seq));
+        Tell(TextIds::IDS_TIP_ADDRMKFAIL, kNotAdded, WhyNotSent(seq));
         return nullptr;
     }
     d_.adding = false;
@@ -92,7 +93,7 @@ const CRemark* RemarkEditing::SendChange() {
         return nullptr;
     }
     if (!d_.remarks.ChangeRemark(remark->type, remark->objectid, remark->seq, subject_, body_)) {
-        Tell(TextId::IDS_TIP_MODIFYRMKFAIL, kNotChanged, WhyNotSent(remark->seq));
+        Tell(TextIds::IDS_TIP_MODIFYRMKFAIL, kNotChanged, WhyNotSent(remark->seq));
         return nullptr;
     }
     return d_.remarks.Find(remark->type, remark->objectid, remark->seq);
@@ -102,7 +103,7 @@ bool RemarkEditing::IsTooLong(const std::string& text, int mostWidth, const char
     if (Util::StringUtl::Width(text) <= mostWidth) {
         return false;
     }
-    Tell(TextId::IDS_TIP_SUBJECT_LEN, fallback);
+    Tell(TextIds::IDS_TIP_SUBJECT_LEN, fallback);
     return true;
 }
 
@@ -110,7 +111,7 @@ bool RemarkEditing::IsTooLong(const std::string& text, int mostWidth, const char
 std::string RemarkEditing::WhyNotSent(int seq) const {
     return RemarkList::Fits({d_.object.type, d_.object.id, seq, subject_, body_, {}, {}})
                ? std::string()
-               : Text(TextId::IDS_TIP_SUBJECT_LEN);
+               : Text(TextIds::IDS_TIP_SUBJECT_LEN);
 }
 
 void RemarkEditing::Tell(TextId id, const char* fallback, const std::string& detail) {

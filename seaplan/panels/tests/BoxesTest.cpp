@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "seaplan/panels/tests/KeyTexts.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/window/Boxes.h"
 #include "testsupport/RecordingMsgSink.h"
 
@@ -30,7 +31,7 @@ class NestingSink final : public Interface::SysMsgSink {
 
     SysMsgHandleRes SyncSendMsg(int, const std::u16string&, int, void*, const std::u16string&) override {
         if (++depth_ == 1) {
-            boxes_.Notice(TextId::IDS_PORTCALL_ERRETA);
+            boxes_.Notice(TextIds::IDS_PORTCALL_ERRETA);
         }
         return SysMsgHandleRes::None;
     }
@@ -48,14 +49,14 @@ TEST(Boxes, KindsAndAnswersAreTheHosts) {
     Owner owner;
     Boxes boxes(owner);
     sink.Answer(SysMsgHandleRes::Yes);
-    EXPECT_TRUE(boxes.Question(TextId::IDS_PORTCALL_CLOSESAVE));
+    EXPECT_TRUE(boxes.Question(TextIds::IDS_PORTCALL_CLOSESAVE));
     sink.Answer(SysMsgHandleRes::No);
-    EXPECT_FALSE(boxes.Question(TextId::IDS_PORTCALL_CLOSESAVE));
+    EXPECT_FALSE(boxes.Question(TextIds::IDS_PORTCALL_CLOSESAVE));
     sink.Answer(SysMsgHandleRes::Ok);
-    EXPECT_TRUE(boxes.Confirm(TextId::IDS_PORTCALL_CLEARFORBLANK));
+    EXPECT_TRUE(boxes.Confirm(TextIds::IDS_PORTCALL_CLEARFORBLANK));
     sink.Answer(SysMsgHandleRes::Cancel);
-    EXPECT_FALSE(boxes.Confirm(TextId::IDS_PORTCALL_CLEARFORBLANK));
-    boxes.Notice(TextId::IDS_PORTCALL_ERRETA);
+    EXPECT_FALSE(boxes.Confirm(TextIds::IDS_PORTCALL_CLEARFORBLANK));
+    boxes.Notice(TextIds::IDS_PORTCALL_ERRETA);
     boxes.NoticeText("In words");
     ASSERT_EQ(sink.messages.size(), 6U);
     EXPECT_EQ(sink.messages[0].flags, 4);
@@ -84,7 +85,7 @@ TEST(Boxes, TheWindowIsDisabledUntilTheLastBoxIsGone) {
     Owner owner;
     Boxes boxes(owner);
     const NestingSink sink(boxes);
-    boxes.Notice(TextId::IDS_PORTCALL_ERRETA);
+    boxes.Notice(TextIds::IDS_PORTCALL_ERRETA);
     EXPECT_EQ(owner.enabled, (std::vector<bool>{false, true}));
 }
 

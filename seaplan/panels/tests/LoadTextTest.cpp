@@ -3,6 +3,7 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/tests/KeyTexts.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -24,7 +25,7 @@ TEST(LoadText, AKeyThatTheLanguageLacksGivesTheFallback) {
     std::string out;
     EXPECT_FALSE(LoadText(out, 49, "VoyageManager"));
     EXPECT_EQ(out, "VoyageManager");
-    EXPECT_EQ(Text(TextId::IDS_TREE_VOYTITLE), "");
+    EXPECT_EQ(Text(TextIds::IDS_TREE_VOYTITLE), "");
 }
 
 }  // namespace Tarvik::Seaplan

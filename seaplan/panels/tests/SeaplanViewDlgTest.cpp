@@ -8,6 +8,7 @@
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -206,7 +207,7 @@ TEST_F(SeaplanViewDlgTest, RecoverAllTakesEverythingOutOfTheBin) {
     const std::string vi = desk.AddVoyage("Gone", {.name = "A", .state = InRecycleBin});
     desk.MoveCategory("Gone", InRecycleBin);
     Toggle();
-    EXPECT_EQ(panel.Filter().OnChosen(TextId::IDS_TREEVIEW_RECOVERALL), 0);
+    EXPECT_EQ(panel.Filter().OnChosen(TextIds::IDS_TREEVIEW_RECOVERALL), 0);
     EXPECT_EQ(store.categoryStates[ci], InUse);
     EXPECT_EQ(store.categoryVoyages[ci][vi], InUse);
     store.categoryStates[ci] = InRecycleBin;
@@ -219,20 +220,20 @@ TEST_F(SeaplanViewDlgTest, TheFilterKeepsItsTickAndShowsTheRecycleBin) {
     desk.AddCategory("Old");
     desk.MoveCategory("Old", InRecycleBin);
     Toggle();
-    EXPECT_EQ(filterPopup.choices, (std::vector<Choice>{{TextId::IDS_TREEVIEW_RECOVER, false}}))
+    EXPECT_EQ(filterPopup.choices, (std::vector<Choice>{{TextIds::IDS_TREEVIEW_RECOVER, false}}))
         << "recovering everything has no line";
     panel.Filter().Toggle();
     EXPECT_TRUE(filterPopup.visible);
     EXPECT_EQ(filterPopup.width, 180);
     EXPECT_EQ(filterPopup.height, 35);
-    EXPECT_EQ(panel.Filter().OnChosen(TextId::IDS_TREEVIEW_RECOVER), 0);
+    EXPECT_EQ(panel.Filter().OnChosen(TextIds::IDS_TREEVIEW_RECOVER), 0);
     EXPECT_NE(tree.Find("Old"), kNoRow);
     panel.Filter().Toggle();
     EXPECT_FALSE(filterPopup.visible);
     panel.Filter().Toggle();
-    EXPECT_EQ(filterPopup.Ticked(), TextId::IDS_TREEVIEW_RECOVER);
+    EXPECT_EQ(filterPopup.Ticked(), TextIds::IDS_TREEVIEW_RECOVER);
     desk.host.connected = false;
-    EXPECT_EQ(panel.Filter().OnChosen(TextId::IDS_TREEVIEW_RECOVER), -2);
+    EXPECT_EQ(panel.Filter().OnChosen(TextIds::IDS_TREEVIEW_RECOVER), -2);
     EXPECT_EQ(filterPopup.Ticked(), std::nullopt) << "a failed load leaves the tick as it was pressed";
     panel.Hide();
     EXPECT_FALSE(filterPopup.visible);

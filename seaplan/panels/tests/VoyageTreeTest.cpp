@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/TreeRules.h"
 
 namespace Tarvik::Seaplan {
@@ -361,23 +362,23 @@ TEST_F(TreeFixture, TheSortPanelShowsTheKeyAndHidesWhenItHasSorted) {
     desk.AddCategory("Full");
     desk.AddVoyage("Full", {.name = "A"});
     ctrl.ReloadTree();
-    EXPECT_EQ(sortPopup.Ticked(), TextId::IDS_VOY_SORTBYNAME) << "ticked from the start";
+    EXPECT_EQ(sortPopup.Ticked(), TextIds::IDS_VOY_SORTBYNAME) << "ticked from the start";
     EXPECT_EQ(Click("Full", Item::kSort), 1);
     EXPECT_TRUE(sortPopup.visible);
     EXPECT_EQ(sortPopup.width, 180);
     EXPECT_EQ(sortPopup.height, 60);
-    EXPECT_EQ(ctrl.SortPanel().OnChosen(TextId::IDS_VOY_SORTBYDATE), 0);
+    EXPECT_EQ(ctrl.SortPanel().OnChosen(TextIds::IDS_VOY_SORTBYDATE), 0);
     EXPECT_FALSE(sortPopup.visible);
     EXPECT_EQ(ctrl.Context().categorySorts[CategoryId("Full")].sortKey, SortByDate);
     Click("Full", Item::kSort);
-    EXPECT_EQ(sortPopup.Ticked(), TextId::IDS_VOY_SORTBYDATE);
+    EXPECT_EQ(sortPopup.Ticked(), TextIds::IDS_VOY_SORTBYDATE);
 }
 
 TEST_F(TreeFixture, ASortPanelThatFailsToRebuildStaysOpen) {
     desk.AddCategory("Empty");
     ctrl.ReloadTree();
     Click("Empty", Item::kSort);
-    EXPECT_EQ(ctrl.SortPanel().OnChosen(TextId::IDS_VOY_SORTBYDATE), -3);
+    EXPECT_EQ(ctrl.SortPanel().OnChosen(TextIds::IDS_VOY_SORTBYDATE), -3);
     EXPECT_TRUE(sortPopup.visible);
     ctrl.SortPanel().SetSortKey(7);
     EXPECT_EQ(sortPopup.Ticked(), std::nullopt);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
 
@@ -23,7 +24,7 @@ TreeCommands CategoryCommands::Table() {
 
 std::string CategoryCommands::NewName() const {
     std::string name;
-    p_.context.catalog.MakeUniqueName(Text(TextId::IDS_TREE_NEWVOYCATEGORY), p_.context.categoryNames, name);
+    p_.context.catalog.MakeUniqueName(Text(TextIds::IDS_TREE_NEWVOYCATEGORY), p_.context.categoryNames, name);
     return name;
 }
 
@@ -55,7 +56,7 @@ int CategoryCommands::Add(const std::string& name) {
 int CategoryCommands::AddVoyage() {
     TreeContext& c = p_.context;
     std::string name;
-    c.catalog.MakeUniqueName(Text(TextId::IDS_TREE_NEWVOYAGE), c.voyageNames, name);
+    c.catalog.MakeUniqueName(Text(TextIds::IDS_TREE_NEWVOYAGE), c.voyageNames, name);
     std::string vi;
     if (c.catalog.AddVoyage(name, p_.selection.Category().ci, vi) != 0) {
         return -3;
@@ -116,7 +117,7 @@ int CategoryCommands::Delete() {
         p_.builder.AddDeletedCategoryRow(category);
     }
     c.categoryNames[category.cn] = InRecycleBin;
-    c.Say(Text(TextId::IDS_VIEW_CANUNDELETE, {category.cn}));
+    c.Say(Text(TextIds::IDS_VIEW_CANUNDELETE, {category.cn}));
     return 0;
 }
 
@@ -139,8 +140,8 @@ int CategoryCommands::Clear() {
     const auto count = voyages == c.store.categoryVoyages.end()
                            ? 0
                            : std::count_if(voyages->second.begin(), voyages->second.end(), isThere);
-    if (!c.boxes.Question(TextId::IDS_TREE_CLEARVOYORCATE,
-                          Text(TextId::IDS_VIEW_LOSTCATEGORY, {category.cn, std::to_string(count)}))) {
+    if (!c.boxes.Question(TextIds::IDS_TREE_CLEARVOYORCATE,
+                          Text(TextIds::IDS_VIEW_LOSTCATEGORY, {category.cn, std::to_string(count)}))) {
         return 0;
     }
     if (c.catalog.DestroyCategory(category.ci) != 0) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/NoteCommands.h"
 
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/protocol/RemarkMessages.h"
 
@@ -47,7 +48,7 @@ int NoteCommands::Consumption() {
         return -42;
     }
     if (voyage.portCalls.empty()) {
-        p_.context.boxes.Notice(TextId::IDS_TREE_WARNCOUSUMNOVOY);
+        p_.context.boxes.Notice(TextIds::IDS_TREE_WARNCOUSUMNOVOY);
         return 0;
     }
     // What a finished voyage has burnt can be read and not changed.

@@ -2,6 +2,7 @@
 #include "seaplan/panels/tree/RowSelection.h"
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -10,9 +11,9 @@ namespace {
 /// What a voyage lacks first, as the next step to take; empty when it has ports and a vessel.
 std::string NextStep(const VoyInfo& voyage) {
     if (voyage.portCalls.size() < 2) {
-        return Text(TextId::IDS_VIEW_HINTPORTS);
+        return Text(TextIds::IDS_VIEW_HINTPORTS);
     }
-    return voyage.vsn.empty() ? Text(TextId::IDS_VIEW_HINTVESSEL) : std::string();
+    return voyage.vsn.empty() ? Text(TextIds::IDS_VIEW_HINTVESSEL) : std::string();
 }
 
 }  // namespace
@@ -79,7 +80,7 @@ int RowSelection::Unfold(TreeRow row) {
     c_.tree.Expand(row, true);
     c_.tree.SelectItem(row);
     status_.ShowAll(row, category->ci);
-    c_.Say(c_.tree.GetChildItem(row) == kNoRow ? Text(TextId::IDS_VIEW_HINTVOYAGE) : std::string());
+    c_.Say(c_.tree.GetChildItem(row) == kNoRow ? Text(TextIds::IDS_VIEW_HINTVOYAGE) : std::string());
     return 0;
 }
 

@@ -4,6 +4,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 
 namespace Tarvik::Seaplan {
@@ -21,32 +22,32 @@ struct ItemLabel {
     TextId text;
 };
 
-constexpr ItemTip kCategoryTips[] = {{Item::kRenameCategory, TextId::IDS_TREE_MODVOTCATENAME},
-                                     {Item::kAddVoyage, TextId::IDS_ADDVOYAGE},
-                                     {Item::kAscending, TextId::IDS_TREE_SORT},
-                                     {Item::kDescending, TextId::IDS_TREE_SORT},
-                                     {Item::kSort, TextId::IDS_VIEW_SORTBY},
-                                     {Item::kDeleteCategory, TextId::IDS_TREE_CATEGORYDEL},
-                                     {Item::kCategoryNoRemark, TextId::IDS_TREE_CATEGORYDEST},
-                                     {Item::kCategoryRemark, TextId::IDS_TREE_CATEGORYDEST}};
+constexpr ItemTip kCategoryTips[] = {{Item::kRenameCategory, TextIds::IDS_TREE_MODVOTCATENAME},
+                                     {Item::kAddVoyage, TextIds::IDS_ADDVOYAGE},
+                                     {Item::kAscending, TextIds::IDS_TREE_SORT},
+                                     {Item::kDescending, TextIds::IDS_TREE_SORT},
+                                     {Item::kSort, TextIds::IDS_VIEW_SORTBY},
+                                     {Item::kDeleteCategory, TextIds::IDS_TREE_CATEGORYDEL},
+                                     {Item::kCategoryNoRemark, TextIds::IDS_TREE_CATEGORYDEST},
+                                     {Item::kCategoryRemark, TextIds::IDS_TREE_CATEGORYDEST}};
 constexpr ItemTip kVoyageTips[] = {
-    {Item::kRenameVoyage, TextId::IDS_TREE_MODVOYNAME}, {Item::kUnpinned, TextId::IDS_TREE_VOYAUTOPOS},
-    {Item::kPinned, TextId::IDS_TREE_VOYAUTOPOS},       {Item::kVoyageNoRemark, TextId::IDS_TREE_VOYDEST},
-    {Item::kVoyageRemark, TextId::IDS_TREE_VOYDEST},    {Item::kPortCalls, TextId::IDS_TREE_VOYPORTCALL},
-    {Item::kConsumption, TextId::IDS_TREE_VOYCONSUM},   {Item::kNoonReport, TextId::IDS_TREE_VOYNOONREPORT},
-    {Item::kAisOff, TextId::IDS_TREE_VOYSHOWAIS},       {Item::kAisOn, TextId::IDS_TREE_VOYSHOWAIS},
-    {Item::kDeleteVoyage, TextId::IDS_TREE_VOYDEL},     {Item::kModify, TextId::IDS_TREE_MODAISTRAC},
-    {Item::kReplaceShip, TextId::IDS_TREE_REPLACESHIP}, {Item::kAlert, TextId::IDS_VIEW_ALERT}};
-constexpr ItemTip kDeletedCategoryTips[] = {{Item::kRecoverCategory, TextId::IDS_TREE_CATEGORYRECOVER},
-                                            {Item::kClearCategory, TextId::IDS_TREE_CATEGORYCLEAR}};
-constexpr ItemTip kDeletedVoyageTips[] = {{Item::kRecoverVoyage, TextId::IDS_TREE_VOYRECOVER},
-                                          {Item::kClearVoyage, TextId::IDS_TREE_VOYCLEAR}};
+    {Item::kRenameVoyage, TextIds::IDS_TREE_MODVOYNAME}, {Item::kUnpinned, TextIds::IDS_TREE_VOYAUTOPOS},
+    {Item::kPinned, TextIds::IDS_TREE_VOYAUTOPOS},       {Item::kVoyageNoRemark, TextIds::IDS_TREE_VOYDEST},
+    {Item::kVoyageRemark, TextIds::IDS_TREE_VOYDEST},    {Item::kPortCalls, TextIds::IDS_TREE_VOYPORTCALL},
+    {Item::kConsumption, TextIds::IDS_TREE_VOYCONSUM},   {Item::kNoonReport, TextIds::IDS_TREE_VOYNOONREPORT},
+    {Item::kAisOff, TextIds::IDS_TREE_VOYSHOWAIS},       {Item::kAisOn, TextIds::IDS_TREE_VOYSHOWAIS},
+    {Item::kDeleteVoyage, TextIds::IDS_TREE_VOYDEL},     {Item::kModify, TextIds::IDS_TREE_MODAISTRAC},
+    {Item::kReplaceShip, TextIds::IDS_TREE_REPLACESHIP}, {Item::kAlert, TextIds::IDS_VIEW_ALERT}};
+constexpr ItemTip kDeletedCategoryTips[] = {{Item::kRecoverCategory, TextIds::IDS_TREE_CATEGORYRECOVER},
+                                            {Item::kClearCategory, TextIds::IDS_TREE_CATEGORYCLEAR}};
+constexpr ItemTip kDeletedVoyageTips[] = {{Item::kRecoverVoyage, TextIds::IDS_TREE_VOYRECOVER},
+                                          {Item::kClearVoyage, TextIds::IDS_TREE_VOYCLEAR}};
 constexpr ItemLabel kVoyageLabels[] = {
-    {Item::kSetPortCall, ItemValue::kSetPortCall, TextId::IDS_TREE_SETPORTCALL},
-    {Item::kDates, ItemValue::kSailingLabel, TextId::IDS_TREE_VOYSTARTDATA},
-    {Item::kDates, ItemValue::kEndingLabel, TextId::IDS_TREE_VOYENDDATA},
-    {Item::kAssignShip, ItemValue::kAssignShip, TextId::IDS_TREE_ADDSHIP},
-    {Item::kShipInfo, ItemValue::kShipLabel, TextId::IDS_TREE_VOYSHIP}};
+    {Item::kSetPortCall, ItemValue::kSetPortCall, TextIds::IDS_TREE_SETPORTCALL},
+    {Item::kDates, ItemValue::kSailingLabel, TextIds::IDS_TREE_VOYSTARTDATA},
+    {Item::kDates, ItemValue::kEndingLabel, TextIds::IDS_TREE_VOYENDDATA},
+    {Item::kAssignShip, ItemValue::kAssignShip, TextIds::IDS_TREE_ADDSHIP},
+    {Item::kShipInfo, ItemValue::kShipLabel, TextIds::IDS_TREE_VOYSHIP}};
 
 template <std::size_t N>
 void ApplyTips(TreeWidget& tree, TreeRow row, const ItemTip (&tips)[N]) {

@@ -2,6 +2,7 @@
 #include "seaplan/panels/tree/TableVoyage.h"
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/RowTexts.h"
 
 namespace Tarvik::Seaplan {
@@ -10,7 +11,7 @@ namespace {
 
 /// Why a name is taken. Its first letter tells an English text from the others, whose addition is Chinese.
 std::string TakenText(int state) {
-    std::string text = Text(TextId::IDS_VOYTREE_SAMENAME_WARN_FORDISTAB);
+    std::string text = Text(TextIds::IDS_VOYTREE_SAMENAME_WARN_FORDISTAB);
     if (state == InRecycleBin) {
         text += text.starts_with('T') ? "(have been delete)" : "(已被删除)";
     }
@@ -50,7 +51,7 @@ int CreateVoyageFromTable(TreeParts& parts, const std::string& category, const s
     TreeContext& c = parts.context;
     out = {};
     if (category.empty() || voyage.empty()) {
-        c.boxes.Notice(TextId::IDS_PORTDISTAB_NOINFWARN);
+        c.boxes.Notice(TextIds::IDS_PORTDISTAB_NOINFWARN);
         return -1;
     }
     const auto known = c.voyageNames.find(voyage);

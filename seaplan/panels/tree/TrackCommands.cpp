@@ -8,6 +8,8 @@
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/calculation/Units.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 
 namespace Tarvik::Seaplan {
@@ -65,16 +67,16 @@ bool TrackCommands::Correctable(const VoyInfo& voyage) {
     const Util::_datetime_t now;
     TextId why{};
     if (voyage.vsi.empty() || voyage.vsn.empty()) {
-        why = TextId::IDS_TREE_WARNMODAIS;
+        why = TextIds::IDS_TREE_WARNMODAIS;
     } else if (voyage.portCalls.size() < 2) {
-        why = TextId::IDS_TREE_AISMODNOPORTINFWARN;
+        why = TextIds::IDS_TREE_AISMODNOPORTINFWARN;
     } else if (now < voyage.portCalls.front().etd || now > voyage.portCalls.back().eta) {
-        why = TextId::IDS_TREE_NOTSEALFORAISMOD;
+        why = TextIds::IDS_TREE_NOTSEALFORAISMOD;
     } else if (voyage.lastPosText.empty()) {
-        why = TextId::IDS_TREE_NOTFINDSHIPFORAISMOD;
+        why = TextIds::IDS_TREE_NOTFINDSHIPFORAISMOD;
     } else if (static_cast<std::uint32_t>(voyage.lastAisModTime) >=
                static_cast<std::uint32_t>(voyage.lastPosTime)) {
-        why = TextId::IDS_TREE_NOTUPDATEFORAISMOD;
+        why = TextIds::IDS_TREE_NOTUPDATEFORAISMOD;
     } else {
         return true;
     }
@@ -97,7 +99,7 @@ int TrackCommands::Modify() {
     }
     int applied = 0;
     if (p_.context.voyages.ApplyAisPosition(voyage.vi, applied) != 0) {
-        p_.context.boxes.Notice(TextId::IDS_PORTCALL_AISCOMPUTWARN);
+        p_.context.boxes.Notice(TextIds::IDS_PORTCALL_AISCOMPUTWARN);
         return -2;
     }
     if (applied > 0) {

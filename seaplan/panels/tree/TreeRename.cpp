@@ -4,6 +4,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/TreeRules.h"
 
 namespace Tarvik::Seaplan {
@@ -53,7 +54,7 @@ int TreeRename::Commit() {
     }
     const std::string name = NormalizeName(typed.Text());
     if (name.empty()) {
-        c_.boxes.Notice(TextId::IDS_TREE_SHOWVISIBLE);
+        c_.boxes.Notice(TextIds::IDS_TREE_SHOWVISIBLE);
         return -2;
     }
     return isVoyage_ ? CommitVoyage(typed.Row(), name) : CommitCategory(typed.Row(), name);
@@ -63,7 +64,7 @@ bool TreeRename::WidthAccepted(const std::string& name, int limit) {
     if (Util::StringUtl::Width(name) <= limit) {
         return true;
     }
-    c_.boxes.NoticeText(Text(TextId::IDS_TREE_TOOMUCHNUM) + std::to_string(limit));
+    c_.boxes.NoticeText(Text(TextIds::IDS_TREE_TOOMUCHNUM) + std::to_string(limit));
     return false;
 }
 
@@ -74,7 +75,7 @@ bool TreeRename::Taken(const std::map<std::string, int>& names, const std::strin
         return false;
     }
     if (name != present) {
-        c_.boxes.Notice(TextId::IDS_TREE_SAMENAMEWARN);
+        c_.boxes.Notice(TextIds::IDS_TREE_SAMENAMEWARN);
     }
     return true;
 }

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 
 namespace Tarvik::Seaplan {
@@ -90,13 +91,13 @@ void TreeStatus::ShowKnown() {
 
 void TreeStatus::Draw(TreeRow row, int status) {
     const char* image = ItemValue::kPlanImage;
-    TextId tip = TextId::IDS_TREESTATUS_BFVOY;
+    TextId tip = TextIds::IDS_TREESTATUS_BFVOY;
     if (status == static_cast<int>(VoyageStatus::Underway)) {
         image = ItemValue::kUnderwayImage;
-        tip = TextId::IDS_TREESTATUS_VOYING;
+        tip = TextIds::IDS_TREESTATUS_VOYING;
     } else if (status == static_cast<int>(VoyageStatus::Finished)) {
         image = ItemValue::kFinishImage;
-        tip = TextId::IDS_TREESTATUS_VOYFINISH;
+        tip = TextIds::IDS_TREESTATUS_VOYFINISH;
     }
     c_.tree.SetDrawItemValueOfEventItem(row, Item::kStatus, ItemValue::kStatusImage, image);
     c_.tree.SetToolTipsOfEventItem(row, Item::kStatus, Text(tip));

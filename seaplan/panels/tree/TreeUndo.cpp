@@ -2,6 +2,7 @@
 #include "seaplan/panels/tree/TreeUndo.h"
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
 
@@ -22,7 +23,7 @@ int TreeUndo::Undo() {
     // A name being typed is no change yet, and its box stands over a row that may go.
     p_.rename.Commit();
     if (c.steps.IsEmpty()) {
-        c.Say(Text(TextId::IDS_VIEW_TREENOUNDO));
+        c.Say(Text(TextIds::IDS_VIEW_TREENOUNDO));
         return -51;
     }
     const TreeStep step = c.steps.Last();
@@ -30,7 +31,7 @@ int TreeUndo::Undo() {
     c.steps.DropLast();
     if (!TakeBack(step)) {
         c.steps.Note(step);
-        c.Say(Text(TextId::IDS_VIEW_UNDOFAILED, {before}));
+        c.Say(Text(TextIds::IDS_VIEW_UNDOFAILED, {before}));
         return -52;
     }
     c.Say(ReportOf(step, before));
@@ -51,17 +52,17 @@ bool TreeUndo::TakeBack(const TreeStep& step) {
 
 std::string TreeUndo::ReportOf(const TreeStep& step, const std::string& nameBefore) const {
     if (step.kind == TreeStep::Kind::Rename) {
-        return Text(TextId::IDS_VIEW_UNDONERENAME, {nameBefore, step.name});
+        return Text(TextIds::IDS_VIEW_UNDONERENAME, {nameBefore, step.name});
     }
     if (step.kind == TreeStep::Kind::Recover) {
-        return Text(TextId::IDS_VIEW_UNDONERECOVER, {nameBefore});
+        return Text(TextIds::IDS_VIEW_UNDONERECOVER, {nameBefore});
     }
-    std::string report = Text(TextId::IDS_VIEW_UNDONEDELETE, {nameBefore});
+    std::string report = Text(TextIds::IDS_VIEW_UNDONEDELETE, {nameBefore});
     if (!step.onChart.empty()) {
-        report += Text(TextId::IDS_VIEW_UNDONEROUTE);
+        report += Text(TextIds::IDS_VIEW_UNDONEROUTE);
     }
     if (step.traced) {
-        report += Text(TextId::IDS_VIEW_UNDONETRACK);
+        report += Text(TextIds::IDS_VIEW_UNDONETRACK);
     }
     return report;
 }

@@ -8,6 +8,7 @@
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/interface/SiblingRecords.h>
 
+#include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 
 namespace Tarvik::Seaplan {
@@ -74,7 +75,7 @@ int VesselCommands::Assign() {
 int VesselCommands::Replace() {
     const VoyInfo& voyage = p_.selection.Voyage();
     if (voyage.modais > 0) {
-        p_.context.boxes.Notice(TextId::IDS_PORTCALL_WARNAISMOD);
+        p_.context.boxes.Notice(TextIds::IDS_PORTCALL_WARNAISMOD);
         return 0;
     }
     return OpenEditor(voyage.vi) == 0 ? 0 : -37;

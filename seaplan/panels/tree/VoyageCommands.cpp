@@ -2,6 +2,8 @@
 #include "seaplan/panels/tree/VoyageCommands.h"
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/DuplicateVoyage.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
@@ -25,7 +27,7 @@ int VoyageCommands::Pin() {
     if (p_.chart.SetPinned(p_.selection.Voyage().vi, true) == 0) {
         return 0;
     }
-    p_.context.boxes.Notice(TextId::IDS_TREE_AUTOTRACKWARN);
+    p_.context.boxes.Notice(TextIds::IDS_TREE_AUTOTRACKWARN);
     return -23;
 }
 
@@ -53,7 +55,7 @@ int VoyageCommands::OpenEmptyPortCalls() {
 }
 
 int VoyageCommands::NoonReport() {
-    p_.context.boxes.Notice(TextId::IDS_TREE_NOONREPORTWARN);
+    p_.context.boxes.Notice(TextIds::IDS_TREE_NOONREPORTWARN);
     return 0;
 }
 
@@ -75,8 +77,8 @@ int VoyageCommands::Duplicate() {
     const CopyFault fault = DuplicateVoyage(c, ci, p_.selection.Voyage().vi, vi);
     if (fault != CopyFault::None) {
         c.boxes.Notice(
-            TextId::IDS_VIEW_COPYFAILED,
-            Text(fault == CopyFault::NotRead ? TextId::IDS_VIEW_COPYNOTREAD : TextId::IDS_VIEW_COPYNOTSAVED,
+            TextIds::IDS_VIEW_COPYFAILED,
+            Text(fault == CopyFault::NotRead ? TextIds::IDS_VIEW_COPYNOTREAD : TextIds::IDS_VIEW_COPYNOTSAVED,
                  {name}));
         return -43;
     }
@@ -124,7 +126,7 @@ int VoyageCommands::Delete() {
     const int dropped = DropRow();
     if (dropped == 0) {
         c.voyageNames[voyage.vn] = InRecycleBin;
-        c.Say(Text(TextId::IDS_VIEW_CANUNDELETE, {voyage.vn}));
+        c.Say(Text(TextIds::IDS_VIEW_CANUNDELETE, {voyage.vn}));
     }
     return dropped;
 }
@@ -141,8 +143,8 @@ int VoyageCommands::Recover() {
 
 int VoyageCommands::Clear() {
     const VoyInfo& voyage = p_.selection.Voyage();
-    if (!p_.context.boxes.Question(TextId::IDS_TREE_CLEARVOYORCATE,
-                                   Text(TextId::IDS_VIEW_LOSTVOYAGE, {voyage.vn}))) {
+    if (!p_.context.boxes.Question(TextIds::IDS_TREE_CLEARVOYORCATE,
+                                   Text(TextIds::IDS_VIEW_LOSTVOYAGE, {voyage.vn}))) {
         return 0;
     }
     if (p_.context.catalog.DestroyVoyage(p_.selection.Category().ci, voyage.vi) != 0) {

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
@@ -14,8 +15,8 @@ VoyageTreeSortDlg::VoyageTreeSortDlg(ChoicePopup& popup, Apply apply)
 
 void VoyageTreeSortDlg::SetSortKey(int sortKey) {
     sortKey_ = sortKey;
-    popup_.SetChoices({{TextId::IDS_VOY_SORTBYNAME, sortKey == SortByName},
-                       {TextId::IDS_VOY_SORTBYDATE, sortKey == SortByDate}});
+    popup_.SetChoices({{TextIds::IDS_VOY_SORTBYNAME, sortKey == SortByName},
+                       {TextIds::IDS_VOY_SORTBYDATE, sortKey == SortByDate}});
 }
 
 void VoyageTreeSortDlg::Open(const std::string& ci, int sortKey) {
@@ -29,7 +30,7 @@ void VoyageTreeSortDlg::Open(const std::string& ci, int sortKey) {
 }
 
 int VoyageTreeSortDlg::OnChosen(TextId id) {
-    const int sortKey = id == TextId::IDS_VOY_SORTBYNAME ? SortByName : SortByDate;
+    const int sortKey = id == TextIds::IDS_VOY_SORTBYNAME ? SortByName : SortByDate;
     const int result = apply_(ci_, sortKey);
     if (result == 0) {
         popup_.Hide();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/VoyagesOnChart.h"
 
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 
 namespace Tarvik::Seaplan {
@@ -70,7 +71,7 @@ int VoyagesOnChart::ShowAis(const VoyInfo& voyage, bool warn) {
     }
     if (voyage.vsi.empty() || voyage.vsn.empty()) {
         if (warn) {
-            c_.boxes.Notice(TextId::IDS_TREE_WARNSHOWAIS);
+            c_.boxes.Notice(TextIds::IDS_TREE_WARNSHOWAIS);
         }
         return -1;
     }
@@ -78,7 +79,7 @@ int VoyagesOnChart::ShowAis(const VoyInfo& voyage, bool warn) {
         return 0;
     }
     if (warn) {
-        c_.boxes.Notice(TextId::IDS_TREE_FAILDSHOWAIS);
+        c_.boxes.Notice(TextIds::IDS_TREE_FAILDSHOWAIS);
     }
     return -2;
 }

@@ -5,7 +5,7 @@
 
 #include <tarvik/interface/SysMsgSink.h>
 
-#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/texts/TextId.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/texts/TextId.h"
 
 namespace Tarvik::Seaplan {
 

@@ -8,6 +8,7 @@
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/book/BookEditing.h"
+#include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/views/book/BookTableView.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/editors/RowField.h"
@@ -49,8 +50,8 @@ void BookEditors::Attach(BookEditing* panel) {
 }
 
 void BookEditors::ApplyTexts() {
-    Skin::Describe(field_, ViewText(TextId::IDS_VIEW_BOOKTEXT));
-    Skin::Describe(choices_, ViewText(TextId::IDS_VIEW_BOOKCHOICES));
+    Skin::Describe(field_, ViewText(TextIds::IDS_VIEW_BOOKTEXT));
+    Skin::Describe(choices_, ViewText(TextIds::IDS_VIEW_BOOKCHOICES));
     date_.Popup().ApplyTexts();
 }
 

@@ -8,6 +8,8 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/panels/texts/BookTexts.h"
+#include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -79,17 +81,17 @@ void BookHead::Set(Part part, bool on, TextId tip, TextId whyNot) {
 }
 
 void BookHead::ShowSheet(const BookSheet& sheet) {
-    Set(Save, sheet.changed, TextId::IDC_WP_BT_SAVE, TextId::IDS_VIEW_NOCHANGES);
-    Set(Cancel, sheet.changed, TextId::IDC_WP_BT_CANCEL, TextId::IDS_VIEW_NOCHANGES);
-    Set(Undo, sheet.canUndo, TextId::IDS_VIEW_UNDO, TextId::IDS_VIEW_NOUNDO);
-    Set(Redo, sheet.canRedo, TextId::IDS_VIEW_REDO, TextId::IDS_VIEW_NOREDO);
-    Set(Insert, sheet.CanInsert(), TextId::IDC_WP_BT_DOWN, TextId::IDS_VIEW_NOINSERT);
-    Set(Remove, sheet.CanDelete(), TextId::IDC_WP_BT_DELETE, TextId::IDS_VIEW_NODELETE);
+    Set(Save, sheet.changed, TextIds::IDC_WP_BT_SAVE, TextIds::IDS_VIEW_NOCHANGES);
+    Set(Cancel, sheet.changed, TextIds::IDC_WP_BT_CANCEL, TextIds::IDS_VIEW_NOCHANGES);
+    Set(Undo, sheet.canUndo, TextIds::IDS_VIEW_UNDO, TextIds::IDS_VIEW_NOUNDO);
+    Set(Redo, sheet.canRedo, TextIds::IDS_VIEW_REDO, TextIds::IDS_VIEW_NOREDO);
+    Set(Insert, sheet.CanInsert(), TextIds::IDC_WP_BT_DOWN, TextIds::IDS_VIEW_NOINSERT);
+    Set(Remove, sheet.CanDelete(), TextIds::IDC_WP_BT_DELETE, TextIds::IDS_VIEW_NODELETE);
     QString zone = sheet.zone.empty()
                        ? QString()
-                       : ViewText(TextId::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(sheet.zone);
+                       : ViewText(TextIds::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(sheet.zone);
     if (!zone.isEmpty() && !sheet.tableZone.empty() && sheet.tableZone != sheet.zone) {
-        zone += QStringLiteral(" (") + ViewText(TextId::IDS_VIEW_TABLEZONE) + u' ' +
+        zone += QStringLiteral(" (") + ViewText(TextIds::IDS_VIEW_TABLEZONE) + u' ' +
                 QString::fromStdString(sheet.tableZone) + u')';
     }
     zone_->setText(zone);
@@ -105,9 +107,9 @@ void BookHead::ApplySkin() {
 BookFoot::BookFoot(QWidget* parent)
     : UnitFigures(
           parent,
-          {{{"bookSpeed", UnitKind::Speed, TextId::IDC_WP_T_SPD, TextId::IDS_VIEW_AVERAGEHINT},
-            {"bookDistance", UnitKind::Distance, TextId::IDC_WP_T_DIST, TextId::IDS_VIEW_DISTANCEHINT},
-            {"bookTime", UnitKind::Time, TextId::IDC_WP_T_TIME, TextId::IDS_VIEW_TIMEHINT}}},
+          {{{"bookSpeed", UnitKind::Speed, TextIds::IDC_WP_T_SPD, TextIds::IDS_VIEW_AVERAGEHINT},
+            {"bookDistance", UnitKind::Distance, TextIds::IDC_WP_T_DIST, TextIds::IDS_VIEW_DISTANCEHINT},
+            {"bookTime", UnitKind::Time, TextIds::IDC_WP_T_TIME, TextIds::IDS_VIEW_TIMEHINT}}},
           {.valueWidth = 64, .gap = 5 * Skin::kGrid}) {}
 
 void BookFoot::ShowSheet(const BookSheet& sheet) {

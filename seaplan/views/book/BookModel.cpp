@@ -3,6 +3,7 @@
 
 #include "seaplan/data/TypedPosition.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -40,8 +41,8 @@ void BookModel::ApplyTexts() {
     for (const BookColumnEntry& column : kBookColumns) {
         titles_.append(QString::fromStdString(TextOfKey(column.title)));
     }
-    passedTip_ = ViewText(TextId::IDS_VIEW_PASSED);
-    expandTip_ = ViewText(TextId::IDS_VIEW_BOOKEXPAND);
+    passedTip_ = ViewText(TextIds::IDS_VIEW_PASSED);
+    expandTip_ = ViewText(TextIds::IDS_VIEW_BOOKEXPAND);
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 

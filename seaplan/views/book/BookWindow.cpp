@@ -8,6 +8,7 @@
 #include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/panels/book/CPosBookDlg.h"
+#include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -15,7 +16,7 @@ namespace Tarvik::Seaplan {
 
 BookWindow::BookWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("positionBook"),
-                 {TextId::IDC_WP_BT_HELP, TextId::IDC_WP_BT_CLOSE}) {
+                 {TextIds::IDC_WP_BT_HELP, TextIds::IDC_WP_BT_CLOSE}) {
     AddHelpAndClose();
     model_ = new BookModel(this);
     head_ = new BookHead(this);
@@ -84,7 +85,7 @@ void BookWindow::TellClosed() {
 
 void BookWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
-    table_->setAccessibleName(ViewText(TextId::IDS_VIEW_BOOKTABLE));
+    table_->setAccessibleName(ViewText(TextIds::IDS_VIEW_BOOKTABLE));
     model_->ApplyTexts();
     editors_->ApplyTexts();
     foot_->ApplyTexts();

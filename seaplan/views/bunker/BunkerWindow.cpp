@@ -12,6 +12,8 @@
 #include <tarvik/skin/Icons.h>
 
 #include "seaplan/panels/bunker/CBunkerDlg.h"
+#include "seaplan/panels/texts/CommonTexts.h"
+#include "seaplan/panels/texts/NoteTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -29,27 +31,28 @@ struct FigureField {
 
 /// In the order of the figures.
 constexpr std::array<FigureField, BunkerFigureCount> kFields = {
-    {{"fuelBallast", TextId::IDS_VIEW_BALLAST, 0, 1},
-     {"fuelLaden", TextId::IDS_VIEW_LADEN, 0, 2},
-     {"fuelInPort", TextId::IDS_VIEW_FUELINPORT, 0, 3},
-     {"dieselUnderWay", TextId::IDS_VIEW_DIESELATSEA, 1, 1},
-     {"dieselInPort", TextId::IDS_VIEW_DIESELINPORT, 1, 2},
-     {"waterUnderWay", TextId::IDS_VIEW_WATERATSEA, 2, 1},
-     {"waterInPort", TextId::IDS_VIEW_WATERINPORT, 2, 2}}};
+    {{"fuelBallast", TextIds::IDS_VIEW_BALLAST, 0, 1},
+     {"fuelLaden", TextIds::IDS_VIEW_LADEN, 0, 2},
+     {"fuelInPort", TextIds::IDS_VIEW_FUELINPORT, 0, 3},
+     {"dieselUnderWay", TextIds::IDS_VIEW_DIESELATSEA, 1, 1},
+     {"dieselInPort", TextIds::IDS_VIEW_DIESELINPORT, 1, 2},
+     {"waterUnderWay", TextIds::IDS_VIEW_WATERATSEA, 2, 1},
+     {"waterInPort", TextIds::IDS_VIEW_WATERINPORT, 2, 2}}};
 
 struct FigureRow {
     TextId label;
     TextId unit;
 };
 
-constexpr std::array<FigureRow, 3> kRows = {{{TextId::IDC_BK_T_FO, TextId::IDC_BK_T_UNIT1},
-                                             {TextId::IDC_BK_T_DO, TextId::IDC_BK_T_UNIT2},
-                                             {TextId::IDC_BK_T_FW, TextId::IDC_BK_T_UNIT3}}};
+constexpr std::array<FigureRow, 3> kRows = {{{TextIds::IDC_BK_T_FO, TextIds::IDC_BK_T_UNIT1},
+                                             {TextIds::IDC_BK_T_DO, TextIds::IDC_BK_T_UNIT2},
+                                             {TextIds::IDC_BK_T_FW, TextIds::IDC_BK_T_UNIT3}}};
 
 }  // namespace
 
 BunkerWindow::BunkerWindow(QWidget* mainView)
-    : PanelFrame(mainView, QStringLiteral("bunkerPanel"), {TextId::IDC_BK_BT_HELP, TextId::IDC_BK_BT_CLOSE}) {
+    : PanelFrame(mainView, QStringLiteral("bunkerPanel"),
+                 {TextIds::IDC_BK_BT_HELP, TextIds::IDC_BK_BT_CLOSE}) {
     AddHelpAndClose();
     MakeRows();
     MakeButtons();
@@ -92,7 +95,7 @@ void BunkerWindow::MakeButtons() {
     TieKey(*undo_, QKeySequence(Qt::CTRL | Qt::Key_R));
     save_ = new QPushButton(this);
     save_->setObjectName(QStringLiteral("saveFiguresButton"));
-    TieText(*save_, TextId::IDC_BK_BT_SAVE);
+    TieText(*save_, TextIds::IDC_BK_BT_SAVE);
     save_->setProperty("primary", true);
     save_->setAutoDefault(false);
     save_->setFocusPolicy(Qt::TabFocus);
@@ -158,10 +161,10 @@ void BunkerWindow::ShowState(bool dirty, bool editable) {
     editable_ = editable;
     undo_->setEnabled(dirty);
     save_->setEnabled(dirty);
-    Skin::Describe(undo_, ViewText(TextId::IDC_BK_BT_CANCEL));
-    Skin::Describe(save_, ViewText(TextId::IDC_BK_BT_SAVE));
+    Skin::Describe(undo_, ViewText(TextIds::IDC_BK_BT_CANCEL));
+    Skin::Describe(save_, ViewText(TextIds::IDC_BK_BT_SAVE));
     if (!dirty) {
-        const QString why = QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_NOCHANGES);
+        const QString why = QStringLiteral(": ") + ViewText(TextIds::IDS_VIEW_NOCHANGES);
         undo_->setToolTip(undo_->toolTip() + why);
         save_->setToolTip(save_->toolTip() + why);
     }
@@ -169,7 +172,7 @@ void BunkerWindow::ShowState(bool dirty, bool editable) {
         fields_[i]->setEnabled(editable);
         Skin::Describe(fields_[i], ViewText(kFields[i].tip));
         if (!editable) {
-            fields_[i]->setToolTip(ViewText(TextId::IDS_VIEW_FIGURESOFF));
+            fields_[i]->setToolTip(ViewText(TextIds::IDS_VIEW_FIGURESOFF));
         }
     }
 }

@@ -8,6 +8,7 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/views/window/FloatingPanel.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -145,12 +146,12 @@ void CalendarPopup::ApplyTexts() {
     end_.cancel->setText(HostLabel(u"IDCANCEL", u"Cancel"));
     Skin::Describe(end_.ok, end_.ok->text());
     Skin::Describe(end_.cancel, end_.cancel->text());
-    Skin::Describe(steps_[PreviousYear], ViewText(TextId::IDS_VIEW_PREVYEAR));
-    Skin::Describe(steps_[NextYear], ViewText(TextId::IDS_VIEW_NEXTYEAR));
-    Skin::Describe(steps_[PreviousMonth], ViewText(TextId::IDS_VIEW_PREVMONTH));
-    Skin::Describe(steps_[NextMonth], ViewText(TextId::IDS_VIEW_NEXTMONTH));
-    hour_->ApplyTexts(TextId::IDS_VIEW_HOUR, TextId::IDS_VIEW_HOURUP, TextId::IDS_VIEW_HOURDOWN);
-    minute_->ApplyTexts(TextId::IDS_VIEW_MINUTE, TextId::IDS_VIEW_MINUTEUP, TextId::IDS_VIEW_MINUTEDOWN);
+    Skin::Describe(steps_[PreviousYear], ViewText(TextIds::IDS_VIEW_PREVYEAR));
+    Skin::Describe(steps_[NextYear], ViewText(TextIds::IDS_VIEW_NEXTYEAR));
+    Skin::Describe(steps_[PreviousMonth], ViewText(TextIds::IDS_VIEW_PREVMONTH));
+    Skin::Describe(steps_[NextMonth], ViewText(TextIds::IDS_VIEW_NEXTMONTH));
+    hour_->ApplyTexts(TextIds::IDS_VIEW_HOUR, TextIds::IDS_VIEW_HOURUP, TextIds::IDS_VIEW_HOURDOWN);
+    minute_->ApplyTexts(TextIds::IDS_VIEW_MINUTE, TextIds::IDS_VIEW_MINUTEUP, TextIds::IDS_VIEW_MINUTEDOWN);
 }
 
 void CalendarPopup::ApplySkin() {

@@ -7,8 +7,8 @@
 #include <QToolButton>
 #include <string>
 
-#include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/datetime/CTrvCalDlg.h"
+#include "seaplan/panels/texts/TextId.h"
 
 namespace Tarvik::Seaplan {
 

@@ -11,6 +11,7 @@
 #include <tarvik/skin/Icons.h>
 
 #include "seaplan/panels/distances/CPortDistTabDlg.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/editors/RowField.h"
@@ -40,7 +41,7 @@ QLabel* MakeLabel(QWidget* window, TextId text) {
 
 KeepTableWindow::KeepTableWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("keepTableDialog"),
-                 {TextId::IDS_PORTCALL_HELP, TextId::IDS_PORTCALL_CLOSE}) {
+                 {TextIds::IDS_PORTCALL_HELP, TextIds::IDS_PORTCALL_CLOSE}) {
     AddClose();
     MakeFields();
     MakeButtons();
@@ -75,9 +76,9 @@ void KeepTableWindow::MakeFields() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(2 * Skin::kGrid);
     grid->setVerticalSpacing(2 * Skin::kGrid);
-    grid->addWidget(MakeLabel(this, TextId::IDS_PORTDISTAB_CATENAME), 0, 0);
+    grid->addWidget(MakeLabel(this, TextIds::IDS_PORTDISTAB_CATENAME), 0, 0);
     grid->addLayout(top, 0, 1);
-    grid->addWidget(MakeLabel(this, TextId::IDS_PORTDISTAB_VOYNAME), 1, 0);
+    grid->addWidget(MakeLabel(this, TextIds::IDS_PORTDISTAB_VOYNAME), 1, 0);
     grid->addWidget(voyage_, 1, 1);
     Body()->addLayout(grid);
     Body()->addWidget(note_);
@@ -89,8 +90,8 @@ void KeepTableWindow::MakeButtons() {
     ok_->setProperty("primary", true);
     cancel_ = new QPushButton(this);
     cancel_->setObjectName(QStringLiteral("keepCancelButton"));
-    TieText(*ok_, TextId::IDS_PORTDISTAB_OK);
-    TieText(*cancel_, TextId::IDS_PORTDISTAB_CANCEL);
+    TieText(*ok_, TextIds::IDS_PORTDISTAB_OK);
+    TieText(*cancel_, TextIds::IDS_PORTDISTAB_CANCEL);
     auto* row = new QHBoxLayout;
     row->setSpacing(2 * Skin::kGrid);
     row->addStretch(1);
@@ -171,12 +172,12 @@ void KeepTableWindow::FocusList(int row) {
 
 void KeepTableWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
-    Skin::Describe(category_, ViewText(TextId::IDS_PORTDISTAB_CATENAME));
-    Skin::Describe(voyage_, ViewText(TextId::IDS_PORTDISTAB_VOYNAME));
-    Skin::Describe(arrow_, ViewText(TextId::IDS_VIEW_CATEGORIES));
-    Skin::Describe(ok_, ViewText(TextId::IDS_PORTDISTAB_OK));
-    Skin::Describe(cancel_, ViewText(TextId::IDS_PORTDISTAB_CANCEL));
-    list_->setAccessibleName(ViewText(TextId::IDS_PORTDISTAB_CATENAME));
+    Skin::Describe(category_, ViewText(TextIds::IDS_PORTDISTAB_CATENAME));
+    Skin::Describe(voyage_, ViewText(TextIds::IDS_PORTDISTAB_VOYNAME));
+    Skin::Describe(arrow_, ViewText(TextIds::IDS_VIEW_CATEGORIES));
+    Skin::Describe(ok_, ViewText(TextIds::IDS_PORTDISTAB_OK));
+    Skin::Describe(cancel_, ViewText(TextIds::IDS_PORTDISTAB_CANCEL));
+    list_->setAccessibleName(ViewText(TextIds::IDS_PORTDISTAB_CATENAME));
     adjustSize();
 }
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/texts/TextId.h"
 
 class QHBoxLayout;
 class QLabel;

@@ -10,6 +10,7 @@
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/search/TreeSearch.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -24,10 +25,10 @@ struct FilterLine {
 };
 
 constexpr FilterLine kFilters[] = {
-    {VoyageFilter::All, TextId::IDS_VIEW_FINDALL, "findAll"},
-    {VoyageFilter::UnderWay, TextId::IDS_VIEW_FINDUNDERWAY, "findUnderWay"},
-    {VoyageFilter::ArrivingSoon, TextId::IDS_VIEW_FINDARRIVING, "findArriving"},
-    {VoyageFilter::WithoutRoute, TextId::IDS_VIEW_FINDNOROUTE, "findWithoutRoute"}};
+    {VoyageFilter::All, TextIds::IDS_VIEW_FINDALL, "findAll"},
+    {VoyageFilter::UnderWay, TextIds::IDS_VIEW_FINDUNDERWAY, "findUnderWay"},
+    {VoyageFilter::ArrivingSoon, TextIds::IDS_VIEW_FINDARRIVING, "findArriving"},
+    {VoyageFilter::WithoutRoute, TextIds::IDS_VIEW_FINDNOROUTE, "findWithoutRoute"}};
 
 std::map<TextId, const char*> FilterNames() {
     std::map<TextId, const char*> names;
@@ -54,14 +55,14 @@ QString ReportOf(const SearchState& state) {
         }
     }
     if (state.current > 0) {
-        parts.append(ViewText(TextId::IDS_VIEW_FINDPLACE).arg(state.current).arg(state.found));
+        parts.append(ViewText(TextIds::IDS_VIEW_FINDPLACE).arg(state.current).arg(state.found));
     } else if (state.found > 0) {
-        parts.append(ViewText(TextId::IDS_VIEW_FINDCOUNT).arg(state.found));
+        parts.append(ViewText(TextIds::IDS_VIEW_FINDCOUNT).arg(state.found));
     } else if (state.unread == 0) {
-        parts.append(ViewText(TextId::IDS_VIEW_FINDNONE));
+        parts.append(ViewText(TextIds::IDS_VIEW_FINDNONE));
     }
     if (state.unread > 0) {
-        parts.append(ViewText(TextId::IDS_VIEW_FINDREADING).arg(state.unread));
+        parts.append(ViewText(TextIds::IDS_VIEW_FINDREADING).arg(state.unread));
     }
     return state.asks ? parts.join(QStringLiteral(" · ")) : QString();
 }
@@ -117,9 +118,9 @@ void SearchBar::Attach(TreeSearch* panel) {
 }
 
 void SearchBar::ApplyTexts() {
-    Skin::Describe(field_, ViewText(TextId::IDS_VIEW_FINDHINT));
-    field_->setPlaceholderText(ViewText(TextId::IDS_VIEW_FINDHINT));
-    Skin::Describe(filterButton_, ViewText(TextId::IDS_VIEW_FINDFILTER));
+    Skin::Describe(field_, ViewText(TextIds::IDS_VIEW_FINDHINT));
+    field_->setPlaceholderText(ViewText(TextIds::IDS_VIEW_FINDHINT));
+    Skin::Describe(filterButton_, ViewText(TextIds::IDS_VIEW_FINDFILTER));
     Report();
 }
 

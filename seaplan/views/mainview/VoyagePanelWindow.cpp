@@ -9,11 +9,12 @@
 #include <algorithm>
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 
 namespace Tarvik::Seaplan {
 
 VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
-    : PanelFrame(mainView, QStringLiteral("voyagePanel"), {TextId::IDS_VOY_HELP, TextId::IDS_TREE_CLOSE}) {
+    : PanelFrame(mainView, QStringLiteral("voyagePanel"), {TextIds::IDS_VOY_HELP, TextIds::IDS_TREE_CLOSE}) {
     findButton_ = AddCaptionButton("findButton", "search");
     TieKey(*findButton_, QKeySequence(Qt::CTRL | Qt::Key_F));
     filterButton_ = AddCaptionButton("filterButton", "filter");
@@ -24,7 +25,7 @@ VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
     search_ = new SearchBar(this, tree_);
     vessels_ = new VesselBox(tree_->viewport());
     filter_ = new ChoiceBox(this, ChoiceBox::Kind::Checks, filterButton_,
-                            {{TextId::IDS_TREEVIEW_RECOVER, "showDeletedCheck"}});
+                            {{TextIds::IDS_TREEVIEW_RECOVER, "showDeletedCheck"}});
     // With the border of one pixel and the caption the tree stands at 10, 45, width - 8, height - 30.
     Body()->setContentsMargins(9, 14, 7, 29);
     Body()->addWidget(search_);
@@ -117,10 +118,10 @@ void VoyagePanelWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void VoyagePanelWindow::ApplyClassTexts(QWidget& /*window*/) {
-    Skin::Describe(findButton_, ViewText(TextId::IDS_VIEW_FIND));
+    Skin::Describe(findButton_, ViewText(TextIds::IDS_VIEW_FIND));
     search_->ApplyTexts();
-    Skin::Describe(filterButton_, ViewText(TextId::IDS_TREE_DELOPERATER));
-    Skin::Describe(addButton_, ViewText(TextId::IDS_TREE_ADDCATEGORY));
+    Skin::Describe(filterButton_, ViewText(TextIds::IDS_TREE_DELOPERATER));
+    Skin::Describe(addButton_, ViewText(TextIds::IDS_TREE_ADDCATEGORY));
     DescribeHelpAndClose();
     tree_->ApplyTexts();
     vessels_->ApplyTexts();

@@ -9,6 +9,8 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/panels/texts/CommonTexts.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/window/DialogTexts.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -22,7 +24,7 @@ PortCallButtons::PortCallButtons(QWidget* parent)
       calculate_(new QPushButton(this)) {
     book_->setObjectName(QStringLiteral("positionBookButton"));
     calculate_->setObjectName(QStringLiteral("calculateButton"));
-    TieText(*book_, TextId::IDS_PORTCALL_POSTBOOK);
+    TieText(*book_, TextIds::IDS_PORTCALL_POSTBOOK);
     calculate_->setProperty("primary", true);
     for (QPushButton* button : {book_, calculate_}) {
         button->setAutoDefault(false);
@@ -67,10 +69,10 @@ void PortCallButtons::ShowState(const PortCallState& state) {
     calculate_->setText(QString::fromStdString(state.calculateText));
     // A new text takes the button's shortcut away; the hint tells it.
     TieKey(*calculate_, QKeySequence(Qt::Key_F9));
-    Set(save_, state.canSave, TextId::IDS_PORTCALL_SAVE, TextId::IDS_VIEW_NOCHANGES);
-    Set(clear_, state.canClear, TextId::IDS_PORTCALL_CLEAR, TextId::IDS_VIEW_CLEAROFF);
-    Set(calculate_, state.canCalculate, TextId::IDS_PORTCALL_COMPUTE, TextId::IDS_VIEW_NEEDTWOPORTS);
-    Set(book_, state.canOpenBook, TextId::IDS_PORTCALL_POSTBOOK, TextId::IDS_VIEW_BOOKNEEDSVOYAGE);
+    Set(save_, state.canSave, TextIds::IDS_PORTCALL_SAVE, TextIds::IDS_VIEW_NOCHANGES);
+    Set(clear_, state.canClear, TextIds::IDS_PORTCALL_CLEAR, TextIds::IDS_VIEW_CLEAROFF);
+    Set(calculate_, state.canCalculate, TextIds::IDS_PORTCALL_COMPUTE, TextIds::IDS_VIEW_NEEDTWOPORTS);
+    Set(book_, state.canOpenBook, TextIds::IDS_PORTCALL_POSTBOOK, TextIds::IDS_VIEW_BOOKNEEDSVOYAGE);
 }
 
 void PortCallButtons::ApplyTexts() {

@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "seaplan/panels/TextKeys.h"
 #include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/panels/texts/TextId.h"
 
 class QPushButton;
 class QToolButton;

@@ -8,6 +8,7 @@
 #include <tarvik/skin/Palette.h>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/portcall/PortCallModel.h"
 
 namespace Tarvik::Seaplan {
@@ -26,12 +27,12 @@ struct DrawnImage {
 };
 
 constexpr DrawnImage kImages[] = {
-    {PortCallImage::kMoveUp, "up", TextId::IDS_VIEW_MOVEUP, TextId::IDS_VIEW_NOTUP, &RowActions::moveUp},
-    {PortCallImage::kMoveDown, "down", TextId::IDS_VIEW_MOVEDOWN, TextId::IDS_VIEW_NOTDOWN,
+    {PortCallImage::kMoveUp, "up", TextIds::IDS_VIEW_MOVEUP, TextIds::IDS_VIEW_NOTUP, &RowActions::moveUp},
+    {PortCallImage::kMoveDown, "down", TextIds::IDS_VIEW_MOVEDOWN, TextIds::IDS_VIEW_NOTDOWN,
      &RowActions::moveDown},
-    {PortCallImage::kDelete, "delete", TextId::IDS_VIEW_DELETEROW, TextId::IDS_VIEW_NOTDELETE,
+    {PortCallImage::kDelete, "delete", TextIds::IDS_VIEW_DELETEROW, TextIds::IDS_VIEW_NOTDELETE,
      &RowActions::remove},
-    {PortCallImage::kRemark, "remark", TextId::IDS_VIEW_REMARKROW, std::nullopt, &RowActions::remark}};
+    {PortCallImage::kRemark, "remark", TextIds::IDS_VIEW_REMARKROW, std::nullopt, &RowActions::remark}};
 constexpr int kImageSize = 14;
 constexpr int kImageStep = 20;
 

@@ -9,6 +9,7 @@
 
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/editors/RowField.h"
 #include "seaplan/views/portcall/PortCallTableView.h"
@@ -65,11 +66,11 @@ void PortCallEditors::Attach(CellEditing* panel) {
 }
 
 void PortCallEditors::ApplyTexts() {
-    Skin::Describe(Field(CellEditor::Port), ViewText(TextId::IDS_VIEW_PORTEDITOR));
-    Skin::Describe(Field(CellEditor::Speed), ViewText(TextId::IDS_VIEW_SPEEDEDITOR));
-    Skin::Describe(Field(CellEditor::Weather), ViewText(TextId::IDS_VIEW_WEATHEREDITOR));
-    Skin::Describe(purposes_, ViewText(TextId::IDS_VIEW_PURPOSES));
-    Skin::Describe(matches_, ViewText(TextId::IDS_VIEW_RENAMEHINT));
+    Skin::Describe(Field(CellEditor::Port), ViewText(TextIds::IDS_VIEW_PORTEDITOR));
+    Skin::Describe(Field(CellEditor::Speed), ViewText(TextIds::IDS_VIEW_SPEEDEDITOR));
+    Skin::Describe(Field(CellEditor::Weather), ViewText(TextIds::IDS_VIEW_WEATHEREDITOR));
+    Skin::Describe(purposes_, ViewText(TextIds::IDS_VIEW_PURPOSES));
+    Skin::Describe(matches_, ViewText(TextIds::IDS_VIEW_RENAMEHINT));
     date_.Popup().ApplyTexts();
 }
 

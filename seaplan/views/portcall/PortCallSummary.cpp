@@ -6,6 +6,8 @@
 
 #include <tarvik/skin/Palette.h>
 
+#include "seaplan/panels/texts/CommonTexts.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -13,10 +15,11 @@ namespace Tarvik::Seaplan {
 PortCallSummary::PortCallSummary(QWidget* parent)
     : UnitFigures(
           parent,
-          {{{"averageSpeed", UnitKind::Speed, TextId::IDS_PORTCALL_AVARGERSPD, TextId::IDS_VIEW_AVERAGEHINT},
-            {"totalDistance", UnitKind::Distance, TextId::IDS_PORTCALL_TOTLEDISTANCE,
-             TextId::IDS_VIEW_DISTANCEHINT},
-            {"totalTime", UnitKind::Time, TextId::IDS_PORTCALL_TOTALTIME, TextId::IDS_VIEW_TIMEHINT}}},
+          {{{"averageSpeed", UnitKind::Speed, TextIds::IDS_PORTCALL_AVARGERSPD,
+             TextIds::IDS_VIEW_AVERAGEHINT},
+            {"totalDistance", UnitKind::Distance, TextIds::IDS_PORTCALL_TOTLEDISTANCE,
+             TextIds::IDS_VIEW_DISTANCEHINT},
+            {"totalTime", UnitKind::Time, TextIds::IDS_PORTCALL_TOTALTIME, TextIds::IDS_VIEW_TIMEHINT}}},
           {.valueWidth = 56, .gap = 4 * Skin::kGrid}),
       zone_(new QLabel(this)) {
     zone_->setObjectName(QStringLiteral("zoneLabel"));
@@ -32,7 +35,7 @@ void PortCallSummary::ShowState(const PortCallState& state) {
     ShowFigure(UnitKind::Time, state.summary.totalTime, state.timeUnit);
     zone_->setText(state.zone.empty()
                        ? QString()
-                       : ViewText(TextId::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(state.zone));
+                       : ViewText(TextIds::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(state.zone));
     zone_->setToolTip(zone_->text());
 }
 

@@ -7,6 +7,7 @@
 #include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -14,7 +15,7 @@ namespace Tarvik::Seaplan {
 
 PortCallWindow::PortCallWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("portCallPanel"),
-                 {TextId::IDS_PORTCALL_HELP, TextId::IDS_PORTCALL_CLOSE}) {
+                 {TextIds::IDS_PORTCALL_HELP, TextIds::IDS_PORTCALL_CLOSE}) {
     AddHelpAndClose();
     model_ = new PortCallModel(this);
     table_ = new PortCallTableView(this);
@@ -82,8 +83,8 @@ void PortCallWindow::ShowState(const PortCallState& state) {
 
 void PortCallWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
-    table_->setAccessibleName(ViewText(TextId::IDS_VIEW_TABLE));
-    model_->SetUnknownPortTip(ViewText(TextId::IDS_VIEW_UNKNOWNPORT));
+    table_->setAccessibleName(ViewText(TextIds::IDS_VIEW_TABLE));
+    model_->SetUnknownPortTip(ViewText(TextIds::IDS_VIEW_UNKNOWNPORT));
     buttons_->ApplyTexts();
     summary_->ApplyTexts();
     editors_->ApplyTexts();

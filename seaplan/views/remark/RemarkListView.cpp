@@ -14,6 +14,8 @@
 
 #include <tarvik/skin/Palette.h>
 
+#include "seaplan/panels/texts/CommonTexts.h"
+#include "seaplan/panels/texts/NoteTexts.h"
 #include "seaplan/views/editors/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -112,8 +114,8 @@ void RemarkListView::ShowRows(const std::vector<RemarkRow>& rows, int current) {
 }
 
 void RemarkListView::ApplyTexts() {
-    setAccessibleName(ViewText(TextId::IDS_VIEW_REMARKLIST));
-    tips_ = {ViewText(TextId::IDS_VIEW_CHANGED), ViewText(TextId::IDS_VIEW_REMARKDELETE)};
+    setAccessibleName(ViewText(TextIds::IDS_VIEW_REMARKLIST));
+    tips_ = {ViewText(TextIds::IDS_VIEW_CHANGED), ViewText(TextIds::IDS_VIEW_REMARKDELETE)};
 }
 
 std::vector<SubItem> RemarkListView::PartsOf(const QModelIndex& index) const {

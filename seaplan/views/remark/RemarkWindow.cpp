@@ -13,6 +13,8 @@
 #include <tarvik/skin/Icons.h>
 
 #include "seaplan/panels/remark/CRemarkPanel.h"
+#include "seaplan/panels/texts/CommonTexts.h"
+#include "seaplan/panels/texts/NoteTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -28,7 +30,7 @@ QLabel* TitleOf(const QWidget& window) {
 }  // namespace
 
 RemarkWindow::RemarkWindow(QWidget* mainView, const QString& name)
-    : PanelFrame(mainView, name, {TextId::IDC_BT_HELP2, TextId::IDC_BT_CLOSE2}) {
+    : PanelFrame(mainView, name, {TextIds::IDC_BT_HELP2, TextIds::IDC_BT_CLOSE2}) {
     AddHelpAndClose();
     list_ = new RemarkListView(this);
     auto* columns = new QHBoxLayout;
@@ -77,7 +79,7 @@ QWidget* RemarkWindow::MakeButtons() {
     sort_->setCheckable(true);
     save_ = new QPushButton(this);
     save_->setObjectName(QStringLiteral("saveRemarkButton"));
-    TieText(*save_, TextId::IDS_VIEW_REMARKSAVE);
+    TieText(*save_, TextIds::IDS_VIEW_REMARKSAVE);
     save_->setProperty("primary", true);
     save_->setAutoDefault(false);
     save_->setFocusPolicy(Qt::TabFocus);
@@ -121,13 +123,13 @@ void RemarkWindow::ShowState(const RemarkState& state) {
     save_->setEnabled(state.canSave);
     sort_->setChecked(state.newestFirst);
     sort_->setIcon(Skin::MakeIcon(state.newestFirst ? "sort-down" : "sort-up"));
-    Skin::Describe(add_, ViewText(TextId::IDC_BTN_ADD));
+    Skin::Describe(add_, ViewText(TextIds::IDC_BTN_ADD));
     if (!state.canAdd) {
-        add_->setToolTip(add_->toolTip() + QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_REMARKADDING));
+        add_->setToolTip(add_->toolTip() + QStringLiteral(": ") + ViewText(TextIds::IDS_VIEW_REMARKADDING));
     }
-    Skin::Describe(save_, ViewText(TextId::IDS_VIEW_REMARKSAVE));
+    Skin::Describe(save_, ViewText(TextIds::IDS_VIEW_REMARKSAVE));
     if (!state.canSave) {
-        save_->setToolTip(save_->toolTip() + QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_NOCHANGES));
+        save_->setToolTip(save_->toolTip() + QStringLiteral(": ") + ViewText(TextIds::IDS_VIEW_NOCHANGES));
     }
 }
 
@@ -174,11 +176,11 @@ void RemarkWindow::keyPressEvent(QKeyEvent* event) {
 void RemarkWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
     list_->ApplyTexts();
-    Skin::Describe(sort_, ViewText(TextId::IDC_BTN_SORT));
-    Skin::Describe(subject_, ViewText(TextId::IDS_VIEW_REMARKSUBJECT));
-    subject_->setPlaceholderText(ViewText(TextId::IDS_VIEW_REMARKSUBJECT));
-    Skin::Describe(body_, ViewText(TextId::IDS_VIEW_REMARKBODY));
-    body_->setPlaceholderText(ViewText(TextId::IDS_VIEW_REMARKBODY));
+    Skin::Describe(sort_, ViewText(TextIds::IDC_BTN_SORT));
+    Skin::Describe(subject_, ViewText(TextIds::IDS_VIEW_REMARKSUBJECT));
+    subject_->setPlaceholderText(ViewText(TextIds::IDS_VIEW_REMARKSUBJECT));
+    Skin::Describe(body_, ViewText(TextIds::IDS_VIEW_REMARKBODY));
+    body_->setPlaceholderText(ViewText(TextIds::IDS_VIEW_REMARKBODY));
     // A new text takes the button's shortcut away; the hint tells it.
     TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
     ShowState(state_);

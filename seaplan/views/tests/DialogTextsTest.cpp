@@ -12,6 +12,8 @@
 #include <tarvik/interface/LoadString.h>
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/views/window/DialogTexts.h"
 
 namespace Tarvik::Seaplan {
@@ -67,9 +69,9 @@ TEST(DialogTextsTest, TitleAndControlsTakeTheTextsOfTheirNumbers) {
     auto* inner = new QWidget(&window);
     auto* button = new QPushButton("old", inner);
     auto* label = new QLabel("old", &window);
-    TieText(window, TextId::IDS_TREE_VOYTITLE);
-    TieText(*button, TextId::IDS_PORTCALL_POSTBOOK);
-    TieText(*label, TextId::IDS_PORTCALL_PORT);
+    TieText(window, TextIds::IDS_TREE_VOYTITLE);
+    TieText(*button, TextIds::IDS_PORTCALL_POSTBOOK);
+    TieText(*label, TextIds::IDS_PORTCALL_PORT);
     DialogTexts().ApplyLanguage(window);
     EXPECT_EQ(window.windowTitle(), "Voyages");
     EXPECT_EQ(button->text(), "Book") << "a child of a child is found";
@@ -93,7 +95,7 @@ TEST(DialogTextsTest, AKeyThatTheLanguageLacksBlanksTheControl) {
     FewWords words;
     QWidget window;
     auto* button = new QPushButton("old", &window);
-    TieText(*button, TextId::IDS_PORTCALL_POSTBOOK);
+    TieText(*button, TextIds::IDS_PORTCALL_POSTBOOK);
     words.words.clear();
     DialogTexts().ApplyLanguage(window);
     EXPECT_EQ(button->text(), "");
@@ -104,9 +106,9 @@ TEST(DialogTextsTest, MenusAreWalkedIntoTheirSubMenus) {
     QWidget window;
     QMenu menu;
     QMenu* sub = menu.addMenu("old");
-    sub->menuAction()->setProperty("textNumber", static_cast<int>(TextId::IDS_TREE_VOYTITLE));
+    sub->menuAction()->setProperty("textNumber", static_cast<int>(TextIds::IDS_TREE_VOYTITLE));
     QAction* entry = sub->addAction("old");
-    entry->setProperty("textNumber", static_cast<int>(TextId::IDS_PORTCALL_PORT));
+    entry->setProperty("textNumber", static_cast<int>(TextIds::IDS_PORTCALL_PORT));
     QAction* own = sub->addAction("Mine");
     window.addAction(menu.menuAction());
     DialogTexts().ApplyLanguage(window);
@@ -119,7 +121,7 @@ TEST(DialogTextsTest, AHiddenWindowChangesToo) {
     FewWords words;
     QWidget window;
     auto* button = new QPushButton(&window);
-    TieText(*button, TextId::IDS_PORTCALL_POSTBOOK);
+    TieText(*button, TextIds::IDS_PORTCALL_POSTBOOK);
     DialogTexts().ApplyLanguage(window);
     words.words["IDS_PORTCALL_POSTBOOK"] = u"Buch";
     window.hide();

@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "seaplan/calculation/PortCallColumns.h"
-#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/texts/AllTexts.h"
 #include "seaplan/views/preview/FileTexts.h"
 
 namespace Tarvik::Seaplan {

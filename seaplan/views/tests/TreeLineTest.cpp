@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <algorithm>
 
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "seaplan/views/window/ViewText.h"
@@ -64,9 +65,9 @@ TEST_F(TreeLineTest, TheMenuOfAVoyageDuplicatesItAndOffersTheWayBack) {
                                         [id](const QAction* each) { return each->text() == ViewText(id); });
         return found == actions.end() ? nullptr : *found;
     };
-    EXPECT_NE(action(TextId::IDS_VIEW_TREEUNDO), nullptr);
-    ASSERT_NE(action(TextId::IDS_VIEW_DUPLICATE), nullptr);
-    action(TextId::IDS_VIEW_DUPLICATE)->trigger();
+    EXPECT_NE(action(TextIds::IDS_VIEW_TREEUNDO), nullptr);
+    ASSERT_NE(action(TextIds::IDS_VIEW_DUPLICATE), nullptr);
+    action(TextIds::IDS_VIEW_DUPLICATE)->trigger();
     EXPECT_NE(RowOf("North Sea (2)"), kNoRow);
 }
 

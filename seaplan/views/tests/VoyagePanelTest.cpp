@@ -4,6 +4,7 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/window/Boxes.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "seaplan/views/window/ViewText.h"
@@ -201,7 +202,7 @@ TEST_F(ViewsFixture, ABoxLeavesTheKeyboardOnTheItemOfTheRow) {
     QTest::keyClick(&Tree(), Qt::Key_Tab);
     QTest::keyClick(&Tree(), Qt::Key_Tab);
     ASSERT_EQ(Tree().FocusedPart(), "Voyage_child_rename");
-    Boxes(Tree().Widget()).Notice(TextId::IDS_TREE_NOONREPORTWARN);
+    Boxes(Tree().Widget()).Notice(TextIds::IDS_TREE_NOONREPORTWARN);
     ASSERT_EQ(messages.messages.size(), 1U);
     EXPECT_TRUE(Tree().isEnabled());
     EXPECT_EQ(QApplication::focusWidget(), &Tree());
@@ -283,7 +284,7 @@ TEST_F(ViewsFixture, ARightPressIsFirstAPress) {
     auto* menu = Tree().findChild<QMenu*>("rowMenu");
     ASSERT_NE(menu, nullptr);
     for (QAction* action : menu->actions()) {
-        EXPECT_NE(action->text(), ViewText(TextId::IDS_TREE_SETPORTCALL)) << "the voyage has port calls";
+        EXPECT_NE(action->text(), ViewText(TextIds::IDS_TREE_SETPORTCALL)) << "the voyage has port calls";
     }
 }
 

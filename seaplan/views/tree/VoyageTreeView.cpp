@@ -15,6 +15,7 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/tree/RenameField.h"
@@ -45,7 +46,7 @@ VoyageTreeView::VoyageTreeView(QWidget* parent)
     rename_ = new RenameField(viewport());
     sortPopup_ = new ChoiceBox(
         this, ChoiceBox::Kind::Radios, nullptr,
-        {{TextId::IDS_VOY_SORTBYNAME, "sortByName"}, {TextId::IDS_VOY_SORTBYDATE, "sortByDate"}});
+        {{TextIds::IDS_VOY_SORTBYNAME, "sortByName"}, {TextIds::IDS_VOY_SORTBYDATE, "sortByDate"}});
 }
 
 VoyageTreeView::~VoyageTreeView() = default;
@@ -56,9 +57,9 @@ void VoyageTreeView::SetReports(Reports reports) {
 }
 
 void VoyageTreeView::ApplyTexts() {
-    setAccessibleName(ViewText(TextId::IDS_VIEW_TREE));
-    Skin::Describe(rename_, ViewText(TextId::IDS_VIEW_RENAMEEDITOR));
-    emptyHint_ = ViewText(TextId::IDS_VIEW_EMPTYTREE);
+    setAccessibleName(ViewText(TextIds::IDS_VIEW_TREE));
+    Skin::Describe(rename_, ViewText(TextIds::IDS_VIEW_RENAMEEDITOR));
+    emptyHint_ = ViewText(TextIds::IDS_VIEW_EMPTYTREE);
     viewport()->update();
 }
 
@@ -179,11 +180,11 @@ void VoyageTreeView::contextMenuEvent(QContextMenuEvent* event) {
 void VoyageTreeView::AddToMenu(QMenu* menu, TreeRow row) {
     menu->addSeparator();
     if (rows_->GetItemStyle(row) == kVoyageStyle && HasCommand(Item::kDuplicate)) {
-        menu->addAction(ViewText(TextId::IDS_VIEW_DUPLICATE), this,
+        menu->addAction(ViewText(TextIds::IDS_VIEW_DUPLICATE), this,
                         [this, row] { reports_.clicked(row, Item::kDuplicate); });
     }
     if (reports_.undo) {
-        menu->addAction(ViewText(TextId::IDS_VIEW_TREEUNDO), this, reports_.undo);
+        menu->addAction(ViewText(TextIds::IDS_VIEW_TREEUNDO), this, reports_.undo);
     }
 }
 
@@ -231,7 +232,7 @@ bool VoyageTreeView::viewportEvent(QEvent* event) {
         QToolTip::hideText();
         return true;
     }
-    const QString why = part->enabled ? QString() : QStringLiteral(": ") + ViewText(TextId::IDS_VIEW_NOTYET);
+    const QString why = part->enabled ? QString() : QStringLiteral(": ") + ViewText(TextIds::IDS_VIEW_NOTYET);
     QToolTip::showText(help->globalPos(), part->toolTip + why, viewport(), part->rect);
     return true;
 }

@@ -10,6 +10,7 @@
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/editors/QtKeys.h"
@@ -53,7 +54,7 @@ VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new RowField(tree)) {
 }
 
 void VesselBox::ApplyTexts() {
-    const QString name = QString::fromStdString(Text(TextId::IDS_VIEW_VESSELEDITOR));
+    const QString name = QString::fromStdString(Text(TextIds::IDS_VIEW_VESSELEDITOR));
     Skin::Describe(box_, name);
     list_->setAccessibleName(name);
 }

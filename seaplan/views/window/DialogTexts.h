@@ -5,7 +5,7 @@
 #include <QKeySequence>
 #include <QWidget>
 
-#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/texts/TextId.h"
 
 namespace Tarvik::Seaplan {
 

@@ -7,6 +7,8 @@
 
 #include <tarvik/skin/WindowMessages.h>
 
+#include "seaplan/panels/texts/CommonTexts.h"
+
 namespace Tarvik::Seaplan {
 
 QRect ToQt(const Rect& rect) {
@@ -71,7 +73,7 @@ void FloatingPanel::Raise() {
 
 void FloatingPanel::ShowCaption(const std::string& text, bool changed) {
     Skin::ToolWindow::SetCaption(QString::fromStdString(text));
-    SetChangedMark(changed, ViewText(TextId::IDS_VIEW_CHANGED));
+    SetChangedMark(changed, ViewText(TextIds::IDS_VIEW_CHANGED));
 }
 
 void FloatingPanel::SendHelp(const std::string& topic, int width, int height) {

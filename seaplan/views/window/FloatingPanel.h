@@ -6,7 +6,7 @@
 
 #include <tarvik/skin/ToolWindow.h>
 
-#include "seaplan/panels/TextKeys.h"
+#include "seaplan/panels/texts/TextId.h"
 #include "seaplan/panels/window/Rect.h"
 #include "seaplan/views/window/DialogTexts.h"
 #include "seaplan/views/window/KeptFocus.h"

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/texts/BookTexts.h"
+#include "seaplan/panels/texts/CommonTexts.h"
+#include "seaplan/panels/texts/NoteTexts.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/texts/TreeTexts.h"
+
+/// The whole string table, for the search by number and for the tests of the language files.
+#define SEAPLAN_TEXT_KEYS(KEY)   \
+    SEAPLAN_TREE_TEXTS(KEY)      \
+    SEAPLAN_PORT_CALL_TEXTS(KEY) \
+    SEAPLAN_BOOK_TEXTS(KEY)      \
+    SEAPLAN_NOTE_TEXTS(KEY)      \
+    SEAPLAN_COMMON_TEXTS(KEY)

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/texts/TextId.h"
+
+/// The position book.
+// clang-format off
+#define SEAPLAN_BOOK_TEXTS(KEY) \
+    KEY(380, IDS_WP_COL_SEQ) \
+    KEY(381, IDS_WP_COL_NAME) \
+    KEY(382, IDS_WP_COL_LAT) \
+    KEY(383, IDS_WP_COL_LON) \
+    KEY(384, IDS_WP_COL_TRACK) \
+    KEY(385, IDS_WP_COL_INTERVAL) \
+    KEY(386, IDS_WP_COL_SPD) \
+    KEY(387, IDS_WP_COL_COURSE) \
+    KEY(388, IDS_WP_COL_ETA) \
+    KEY(389, IDS_WP_COL_ETD) \
+    KEY(390, IDS_WP_SPD_ERR) \
+    KEY(391, IDS_WP_LAT_ERR) \
+    KEY(392, IDS_WP_LON_ERR) \
+    KEY(393, IDS_WP_DT_ERR) \
+    KEY(394, IDS_WP_NUM_ERR) \
+    KEY(395, IDS_WP_TIP_SAVE) \
+    KEY(1153, IDC_WP_T_TITLE) \
+    KEY(1154, IDC_WP_BT_CLOSE) \
+    KEY(1155, IDC_WP_BT_DOWN) \
+    KEY(1156, IDC_WP_BT_DELETE) \
+    KEY(5019, IDC_WP_BT_HELP) \
+    KEY(5021, IDC_WP_BT_SAVE) \
+    KEY(5022, IDC_WP_T_SPD) \
+    KEY(5023, IDC_WP_T_DIST) \
+    KEY(5024, IDC_WP_T_TIME) \
+    KEY(5027, IDC_WP_BT_CANCEL) \
+    KEY(9100, IDS_VIEW_BOOKTABLE) \
+    KEY(9101, IDS_VIEW_TABLEZONE) \
+    KEY(9102, IDS_VIEW_BOOKTEXT) \
+    KEY(9103, IDS_VIEW_BOOKCHOICES) \
+    KEY(9104, IDS_VIEW_NOINSERT) \
+    KEY(9105, IDS_VIEW_NODELETE) \
+    KEY(9106, IDS_VIEW_BOOKEXPAND) \
+    KEY(9107, IDS_VIEW_READAS) \
+    KEY(9108, IDS_VIEW_NOTREAD) \
+    KEY(9109, IDS_VIEW_PASSED) \
+    KEY(9110, IDS_VIEW_UNDO) \
+    KEY(9111, IDS_VIEW_REDO) \
+    KEY(9112, IDS_VIEW_NOUNDO) \
+    KEY(9113, IDS_VIEW_NOREDO)
+// clang-format on
+
+namespace Tarvik::Seaplan::TextIds {
+
+SEAPLAN_BOOK_TEXTS(SEAPLAN_TEXT_ID)
+
+}  // namespace Tarvik::Seaplan::TextIds
