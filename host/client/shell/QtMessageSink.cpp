@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QAbstractButton>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 #include "host/client/shell/QtServices.h"
@@ -12,33 +13,37 @@ using Interface::SysMsgHandleRes;
 Interface::SysMsgHandleRes QtMessageSink::SyncSendMsg(int /*level*/, const std::u16string& text, int flags,
                                                       void* owner, const std::u16string& title) {
     QWidget* parent = owner ? static_cast<QWidget*>(owner) : mainWindow_;
-    QMessageBox box(parent);
+    // The owner may be destroyed while the box is up, and takes the box with it.
+    const QPointer<QMessageBox> box(new QMessageBox(parent));
     const auto word = [this](const char* key) { return QString::fromStdString(texts_.Text("Client", key)); };
-    box.setObjectName("message");
-    box.setTextFormat(Qt::PlainText);
-    box.setText(QString::fromStdU16String(text));
-    box.setWindowTitle(title.empty() ? word("TITLE") : QString::fromStdU16String(title));
+    box->setObjectName("message");
+    box->setTextFormat(Qt::PlainText);
+    box->setText(QString::fromStdU16String(text));
+    box->setWindowTitle(title.empty() ? word("TITLE") : QString::fromStdU16String(title));
     const bool question = flags == 4;
-    box.setIcon(question ? QMessageBox::Question : QMessageBox::Information);
+    box->setIcon(question ? QMessageBox::Question : QMessageBox::Information);
     const QuestionButtons own = texts_.ButtonsOf(QString::fromStdU16String(text).toStdString());
     const auto button = [&](const std::string& words, const char* key) {
         return words.empty() ? word(key) : QString::fromStdString(words);
     };
-    QPushButton* agree = box.addButton(button(own.yes, question ? "YES" : "OK"), QMessageBox::AcceptRole);
+    QPushButton* agree = box->addButton(button(own.yes, question ? "YES" : "OK"), QMessageBox::AcceptRole);
     agree->setObjectName(question ? "messageYes" : "messageOk");
     QPushButton* refuse = nullptr;
     if (flags != 0) {
-        refuse = box.addButton(button(own.no, question ? "NO" : "CANCEL"), QMessageBox::RejectRole);
+        refuse = box->addButton(button(own.no, question ? "NO" : "CANCEL"), QMessageBox::RejectRole);
         refuse->setObjectName(question ? "messageNo" : "messageCancel");
-        box.setEscapeButton(refuse);
+        box->setEscapeButton(refuse);
     }
     // Whoever types on while a box comes up must not lose anything by that.
-    box.setDefaultButton(refuse && !own.yesIsCareful ? refuse : agree);
-    box.exec();
-    if (flags == 0) {
+    box->setDefaultButton(refuse && !own.yesIsCareful ? refuse : agree);
+    box->exec();
+    const bool gone = box.isNull();
+    const bool agreed = !gone && box->clickedButton() == agree;
+    delete box;
+    if (flags == 0 || gone) {
         return SysMsgHandleRes::None;
     }
-    if (box.clickedButton() == agree) {
+    if (agreed) {
         return question ? SysMsgHandleRes::Yes : SysMsgHandleRes::Ok;
     }
     return question ? SysMsgHandleRes::No : SysMsgHandleRes::Cancel;

@@ -4,6 +4,7 @@
 
 #include "host/client/services/LanguageFiles.h"
 #include "host/client/tests/TemporaryFolder.h"
+#include "seaplan/panels/texts/AllTexts.h"
 
 namespace Tarvik::Client {
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -49,6 +50,18 @@ TEST(MessageSink, EscapeIsTheCarefulAnswer) {
     QTimer::singleShot(0, qApp,
                        [] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->reject(); });
     EXPECT_EQ(sink.SyncSendMsg(1, u"Sure?", 4, nullptr, u""), SysMsgHandleRes::No);
+}
+
+TEST(MessageSink, AnOwnerThatGoesWhileItsBoxIsUpGivesNoAnswer) {
+    const LanguageFiles texts;
+    QtMessageSink sink(nullptr, texts);
+    for (const int flags : {0, 1, 4}) {
+        auto* owner = new QWidget;
+        const QPointer<QWidget> lives(owner);
+        QTimer::singleShot(0, owner, [owner] { delete owner; });
+        EXPECT_EQ(sink.SyncSendMsg(1, u"Sure?", flags, owner, u""), SysMsgHandleRes::None);
+        EXPECT_TRUE(lives.isNull());
+    }
 }
 
 /// The words on the button that Enter presses in a box with the text "Sure?".
