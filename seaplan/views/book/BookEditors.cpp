@@ -9,14 +9,14 @@
 
 #include "seaplan/panels/book/BookEditing.h"
 #include "seaplan/panels/texts/BookTexts.h"
-#include "seaplan/views/book/BookTableView.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/editors/RowField.h"
+#include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/FloatingPanel.h"
 
 namespace Tarvik::Seaplan {
 
-BookEditors::BookEditors(QWidget& window, BookTableView& table)
+BookEditors::BookEditors(QWidget& window, PanelTable& table)
     : QObject(&window),
       window_(window),
       table_(table),
@@ -107,7 +107,7 @@ void BookEditors::ShowEcho(const std::string& text) {
 }
 
 void BookEditors::PutPicker(const BookCellPlace& cell) {
-    table_.PutFront(cell.row);
+    table_.PutFront(cell.row, BookName);
     date_.Put(table_.EditorRect(cell.row, cell.column));
 }
 

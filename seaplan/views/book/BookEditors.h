@@ -13,14 +13,14 @@
 namespace Tarvik::Seaplan {
 
 class BookEditing;
-class BookTableView;
+class PanelTable;
 
 /// The field, the list and the calendar over the cells of the position book. What a person does in them goes
 /// to the panel as it is.
 class BookEditors final : public QObject, public TextBox {
   public:
     /// `window` is the table's window, over which the list drops.
-    BookEditors(QWidget& window, BookTableView& table);
+    BookEditors(QWidget& window, PanelTable& table);
     void Attach(BookEditing* panel);
     void ApplyTexts();
     void ApplySkin();
@@ -41,7 +41,7 @@ class BookEditors final : public QObject, public TextBox {
     bool FieldEvent(QEvent& event);
 
     QWidget& window_;
-    BookTableView& table_;
+    PanelTable& table_;
     BookEditing* panel_ = nullptr;
     QLineEdit* field_;
     QLabel* echo_;

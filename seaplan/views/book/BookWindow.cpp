@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QVBoxLayout>
 
+#include <tarvik/skin/Palette.h>
 #include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/panels/book/CPosBookDlg.h"
@@ -14,15 +15,23 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+void SkinTable(PanelTable& table) {
+    table.setStyleSheet(QStringLiteral("#positionBookTable { background: %1; } "
+                                       "QHeaderView::section { padding: 0; font-size: 11px; }")
+                            .arg(Skin::Colour(Skin::Role::Book).name()));
+}
+
+}  // namespace
+
 BookWindow::BookWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("positionBook"),
                  {TextIds::IDC_WP_BT_HELP, TextIds::IDC_WP_BT_CLOSE}) {
     AddHelpAndClose();
-    model_ = new BookModel(this);
     head_ = new BookHead(this);
-    table_ = new BookTableView(this);
-    table_->setModel(model_);
-    table_->ApplyWidths();
+    table_ = new PanelTable(this, "positionBookTable", BookSheet::kLeastLines);
+    SkinTable(*table_);
     foot_ = new BookFoot(this);
     editors_ = new BookEditors(*this, *table_);
     Body()->addWidget(head_);
@@ -60,14 +69,19 @@ void BookWindow::Attach(CPosBookDlg* panel) {
 }
 
 void BookWindow::ShowSheet(const BookSheet& sheet) {
-    model_->Show(sheet);
-    table_->PutFront(sheet.selected);
+    const bool otherUnit = sheet.units.speed != sheet_.units.speed;
+    sheet_ = sheet;
+    if (otherUnit) {
+        table_->ShowColumns(BookColumnsOf(sheet_));
+    }
+    table_->ShowLines(std::make_shared<BookLines>(sheet_));
+    table_->PutFront(sheet.selected, BookName);
     head_->ShowSheet(sheet);
     foot_->ShowSheet(sheet);
 }
 
 void BookWindow::BringRowIntoView(int row) {
-    table_->scrollTo(model_->index(row, BookName));
+    table_->scrollTo(table_->model()->index(row, BookName));
 }
 
 Rect BookWindow::PlaceOf(const BookCellPlace& cell) const {
@@ -86,16 +100,16 @@ void BookWindow::TellClosed() {
 void BookWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
     table_->setAccessibleName(ViewText(TextIds::IDS_VIEW_BOOKTABLE));
-    model_->ApplyTexts();
+    table_->ShowColumns(BookColumnsOf(sheet_));
     editors_->ApplyTexts();
     foot_->ApplyTexts();
-    ShowSheet(BookSheet(model_->Sheet()));
+    ShowSheet(BookSheet(sheet_));
 }
 
 void BookWindow::ApplySkin() {
     Skin::ToolWindow::ApplySkin();
     head_->ApplySkin();
-    table_->ApplySkin();
+    SkinTable(*table_);
     foot_->ApplySkin();
     editors_->ApplySkin();
     table_->viewport()->update();
@@ -106,7 +120,7 @@ void BookWindow::FocusFirst() {
         return;
     }
     if (!table_->currentIndex().isValid()) {
-        table_->setCurrentIndex(model_->index(0, BookName));
+        table_->setCurrentIndex(table_->model()->index(0, BookName));
     }
     table_->setFocus();
 }

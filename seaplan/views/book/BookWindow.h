@@ -4,8 +4,8 @@
 #include "seaplan/panels/book/BookView.h"
 #include "seaplan/views/book/BookEditors.h"
 #include "seaplan/views/book/BookFrame.h"
-#include "seaplan/views/book/BookModel.h"
-#include "seaplan/views/book/BookTableView.h"
+#include "seaplan/views/book/BookLines.h"
+#include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/FloatingPanel.h"
 
 namespace Tarvik::Seaplan {
@@ -34,11 +34,11 @@ class BookWindow final : public PanelFrame<BookView> {
     void FocusFirst() override;
 
   private:
-    BookModel* model_;
     BookHead* head_;
-    BookTableView* table_;
+    PanelTable* table_;
     BookFoot* foot_;
     BookEditors* editors_;
+    BookSheet sheet_;  ///< on show
 };
 
 }  // namespace Tarvik::Seaplan

@@ -12,7 +12,7 @@
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/editors/RowField.h"
-#include "seaplan/views/portcall/PortCallTableView.h"
+#include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -25,7 +25,7 @@ constexpr int kMostRows = 6;
 
 }  // namespace
 
-PortCallEditors::PortCallEditors(QWidget& window, PortCallTableView& table)
+PortCallEditors::PortCallEditors(QWidget& window, PanelTable& table)
     : QObject(&window),
       window_(window),
       table_(table),

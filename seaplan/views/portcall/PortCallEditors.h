@@ -14,14 +14,14 @@ class QLineEdit;
 namespace Tarvik::Seaplan {
 
 class CellEditing;
-class PortCallTableView;
+class PanelTable;
 
 /// The fields, lists and the calendar over the cells of the port call table. What a person does in them goes
 /// to the panel as it is.
 class PortCallEditors final : public QObject, public CellsView {
   public:
     /// `window` is the table's window, over which lists drop.
-    PortCallEditors(QWidget& window, PortCallTableView& table);
+    PortCallEditors(QWidget& window, PanelTable& table);
     void Attach(CellEditing* panel);
     void ApplyTexts();
     void ApplySkin() { date_.Popup().ApplySkin(); }
@@ -52,7 +52,7 @@ class PortCallEditors final : public QObject, public CellsView {
     bool FieldEvent(CellEditor editor, QEvent& event);
 
     QWidget& window_;
-    PortCallTableView& table_;
+    PanelTable& table_;
     CellEditing* panel_ = nullptr;
     std::array<QLineEdit*, 3> fields_{};
     bool setting_ = false;  ///< the program sets a field's text

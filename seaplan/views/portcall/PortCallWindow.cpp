@@ -9,19 +9,22 @@
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
+#include "seaplan/views/portcall/PortCallLines.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr int kLeastLines = 9;
+
+}  // namespace
 
 PortCallWindow::PortCallWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("portCallPanel"),
                  {TextIds::IDS_PORTCALL_HELP, TextIds::IDS_PORTCALL_CLOSE}) {
     AddHelpAndClose();
-    model_ = new PortCallModel(this);
-    table_ = new PortCallTableView(this);
-    table_->setModel(model_);
-    table_->ApplyWidths();
-    table_->setMinimumHeight(kTableHeader + 9 * kTableRow + 4);
+    table_ = new PanelTable(this, "portCallTable", kLeastLines);
     summary_ = new PortCallSummary(this);
     buttons_ = new PortCallButtons(this);
     note_ = new QLabel(this);
@@ -66,8 +69,7 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
 }
 
 void PortCallWindow::ShowTable(const PortCallTable& table) {
-    model_->Show(table);
-    table_->ApplyWidths();
+    table_->ShowLines(std::make_shared<PortCallLines>(table));
 }
 
 void PortCallWindow::ShowState(const PortCallState& state) {
@@ -78,13 +80,12 @@ void PortCallWindow::ShowState(const PortCallState& state) {
     note_->setText(note);
     note_->setToolTip(note);
     note_->setVisible(!note.isEmpty());
-    model_->ShowTitles(state);
+    table_->ShowColumns(PortCallColumnsOf(state));
 }
 
 void PortCallWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
     table_->setAccessibleName(ViewText(TextIds::IDS_VIEW_TABLE));
-    model_->SetUnknownPortTip(ViewText(TextIds::IDS_VIEW_UNKNOWNPORT));
     buttons_->ApplyTexts();
     summary_->ApplyTexts();
     editors_->ApplyTexts();
@@ -96,7 +97,7 @@ void PortCallWindow::FocusFirst() {
         return;
     }
     if (!table_->currentIndex().isValid()) {
-        table_->setCurrentIndex(model_->index(0, ColPort));
+        table_->setCurrentIndex(table_->model()->index(0, ColPort));
     }
     table_->setFocus();
 }
@@ -110,11 +111,11 @@ void PortCallWindow::SetBusy(bool busy) {
 }
 
 void PortCallWindow::SelectRow(int row) {
-    table_->setCurrentIndex(model_->index(row, ColPort));
+    table_->setCurrentIndex(table_->model()->index(row, ColPort));
 }
 
 void PortCallWindow::BringRowIntoView(int row) {
-    table_->scrollTo(model_->index(row, ColPort));
+    table_->scrollTo(table_->model()->index(row, ColPort));
 }
 
 void PortCallWindow::ApplySkin() {

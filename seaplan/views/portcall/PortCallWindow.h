@@ -6,9 +6,8 @@
 #include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/views/portcall/PortCallButtons.h"
 #include "seaplan/views/portcall/PortCallEditors.h"
-#include "seaplan/views/portcall/PortCallModel.h"
 #include "seaplan/views/portcall/PortCallSummary.h"
-#include "seaplan/views/portcall/PortCallTableView.h"
+#include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/FloatingPanel.h"
 
 namespace Tarvik::Seaplan {
@@ -37,8 +36,7 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
 
   private:
     CPortCallPanelDlg* panel_ = nullptr;
-    PortCallModel* model_;
-    PortCallTableView* table_;
+    PanelTable* table_;
     PortCallEditors* editors_;
     PortCallSummary* summary_;
     PortCallButtons* buttons_;

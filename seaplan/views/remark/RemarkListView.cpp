@@ -16,7 +16,7 @@
 
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/NoteTexts.h"
-#include "seaplan/views/editors/PanelTable.h"
+#include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {

@@ -3,7 +3,7 @@
 
 #include <QListWidget>
 
-#include "seaplan/views/portcall/PortCallDelegate.h"
+#include "seaplan/views/portcall/PortCallLines.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {
@@ -11,7 +11,7 @@ namespace Tarvik::Seaplan {
 /// The window of the port calls, its controls by their names.
 class PortCallWindowTest : public ViewsFixture {
   protected:
-    PortCallTableView& Table() { return *Find<PortCallTableView>(PortCalls(), "portCallTable"); }
+    PanelTable& Table() { return *Find<PanelTable>(PortCalls(), "portCallTable"); }
     QLineEdit& PortEditor() { return *Find<QLineEdit>(PortCalls(), "portEditor"); }
     QLineEdit& SpeedEditor() { return *Find<QLineEdit>(PortCalls(), "speedEditor"); }
     QLineEdit& WeatherEditor() { return *Find<QLineEdit>(PortCalls(), "weatherEditor"); }
@@ -26,7 +26,7 @@ class PortCallWindowTest : public ViewsFixture {
     }
     /// Clicks one of the images at a row's end.
     void ClickImage(int row, int image) {
-        const QRect cell = Table().visualRect(Table().model()->index(row, PortCallModel::kImageColumn));
+        const QRect cell = Table().visualRect(Table().model()->index(row, kPortCallImageColumn));
         QTest::mouseClick(Table().viewport(), Qt::LeftButton, {},
                           QPoint(cell.left() + 12 + 20 * image, cell.center().y()));
     }

@@ -156,12 +156,20 @@ TEST_F(PortCallWindowTest, LogoutHidesBothWindows) {
 }
 
 TEST_F(PortCallWindowTest, ADisabledImageTellsWhy) {
-    const RowActions none;
-    EXPECT_TRUE(PortCallDelegate::ImageTip("itemMoveUp", none).contains("first row"));
-    EXPECT_TRUE(PortCallDelegate::ImageTip("itemMovedown", none).contains("last port"));
-    EXPECT_FALSE(PortCallDelegate::ImageTip("itemMoveUp", {true, true, true}).contains("first row"));
     OpenPortCalls("Far East 12");
-    const QRect cell = Table().visualRect(Table().model()->index(0, PortCallModel::kImageColumn));
+    const auto tip = [this](int row, const char* image) {
+        const auto* rows = static_cast<const TableModel*>(Table().model());
+        return rows->ImageTipAt(rows->index(row, kPortCallImageColumn), image);
+    };
+    EXPECT_TRUE(tip(0, "itemMoveUp").contains("first row"));
+    EXPECT_FALSE(tip(1, "itemMoveUp").contains("first row"));
+    int last = 0;
+    while (!Cell(last + 1, ColPort).isEmpty()) {
+        ++last;
+    }
+    EXPECT_TRUE(tip(last, "itemMovedown").contains("last port"));
+    EXPECT_FALSE(tip(last - 1, "itemMovedown").contains("last port"));
+    const QRect cell = Table().visualRect(Table().model()->index(0, kPortCallImageColumn));
     const QPoint up(cell.left() + 12, cell.center().y());
     QHelpEvent help(QEvent::ToolTip, up, Table().viewport()->mapToGlobal(up));
     QApplication::sendEvent(Table().viewport(), &help);

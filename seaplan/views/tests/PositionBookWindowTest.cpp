@@ -20,7 +20,7 @@ class PositionBookWindowTest : public ViewsFixture {
         ASSERT_TRUE(Book().isVisible());
     }
     BookWindow& Book() { return *views.BookWindowMade(); }
-    BookTableView& Table() { return *Find<BookTableView>(Book(), "positionBookTable"); }
+    PanelTable& Table() { return *Find<PanelTable>(Book(), "positionBookTable"); }
     QLineEdit& Editor() { return *Find<QLineEdit>(Book(), "bookEditor"); }
     QListWidget& Choices() { return *Find<QListWidget>(Book(), "bookChoices"); }
     QLabel& Echo() { return *Find<QLabel>(Book(), "bookEcho"); }

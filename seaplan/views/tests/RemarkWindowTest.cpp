@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 
 #include "seaplan/protocol/RemarkMessages.h"
+#include "seaplan/views/portcall/PortCallLines.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {
@@ -117,8 +118,8 @@ TEST_F(RemarkWindowTest, RowsAreChosenAndDeletedByMouseAndKeyboard) {
 
 TEST_F(RemarkWindowTest, APortsRemarksOpenInAPanelOfTheirOwn) {
     OpenPortCalls("Far East 12");
-    auto* table = Find<PortCallTableView>(PortCalls(), "portCallTable");
-    const QRect cell = table->visualRect(table->model()->index(1, PortCallModel::kImageColumn));
+    auto* table = Find<PanelTable>(PortCalls(), "portCallTable");
+    const QRect cell = table->visualRect(table->model()->index(1, kPortCallImageColumn));
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
                       QPoint(cell.left() + 12 + 60, cell.center().y()));
     QApplication::processEvents();

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/editors/PanelTable.h"
+#include "seaplan/views/table/PanelTable.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include "seaplan/views/editors/QtKeys.h"
+#include "seaplan/views/table/TableDelegate.h"
 
 namespace Tarvik::Seaplan {
 
@@ -17,7 +20,11 @@ void SetUpRows(QAbstractItemView& rows) {
     rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
-PanelTable::PanelTable(QWidget* parent, const char* name) : QTableView(parent) {
+PanelTable::PanelTable(QWidget* parent, const char* name, int leastLines) : QTableView(parent) {
+    setModel(&model_);
+    setItemDelegate(new TableDelegate(this));
+    setMouseTracking(true);
+    setMinimumHeight(kTableHeader + leastLines * kTableRow + 4);
     setObjectName(QString::fromLatin1(name));
     SetUpRows(*this);
     setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -37,18 +44,42 @@ PanelTable::PanelTable(QWidget* parent, const char* name) : QTableView(parent) {
 }
 
 void PanelTable::TellLeft() {
-    if (reports_.left && !IsSetting()) {
+    if (reports_.left && !setting_) {
         reports_.left();
     }
 }
 
-void PanelTable::FixWidths(const std::vector<int>& widths) {
+void PanelTable::ShowColumns(std::vector<TableColumn> columns) {
+    model_.ShowColumns(std::move(columns));
     int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    for (std::size_t column = 0; column < widths.size(); ++column) {
-        setColumnWidth(static_cast<int>(column), widths[column]);
-        total += widths[column];
+    for (std::size_t column = 0; column < model_.Columns().size(); ++column) {
+        setColumnWidth(static_cast<int>(column), model_.Columns()[column].width);
+        total += model_.Columns()[column].width;
     }
     setMinimumWidth(total + 4);
+}
+
+void PanelTable::PutFront(int row, int column) {
+    setting_ = true;
+    if (row < 0) {
+        setCurrentIndex({});
+        clearSelection();
+    } else if (currentIndex().row() != row) {
+        setCurrentIndex(model_.index(row, currentIndex().isValid() ? currentIndex().column() : column));
+    } else {
+        // QTableView::selectRow would take the front to the first column.
+        selectionModel()->select(currentIndex(),
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+    setting_ = false;
+}
+
+bool PanelTable::IsCell(const QModelIndex& index) const {
+    return model_.Columns()[static_cast<std::size_t>(index.column())].cells;
+}
+
+std::string PanelTable::ImageAt(const QModelIndex& index, const QPoint& point) const {
+    return TableDelegate::ImageAt(model_.CellAt(index).images, visualRect(index), point);
 }
 
 QRect PanelTable::EditorRect(int row, int column) const {
@@ -68,13 +99,17 @@ void PanelTable::mousePressEvent(QMouseEvent* event) {
     if (!index.isValid()) {
         return TellLeft();
     }
-    PutPressed(index);
+    setting_ = true;
+    setCurrentIndex(index);
+    setting_ = false;
     const std::string image = ImageAt(index, event->pos());
     if (!image.empty()) {
         if (reports_.imageClicked) {
             reports_.imageClicked(index.row(), image);
         }
-    } else if (IsCell(index) && reports_.cellClicked) {
+    } else if (!IsCell(index)) {
+        TellLeft();
+    } else if (reports_.cellClicked) {
         reports_.cellClicked(index.row(), index.column());
     }
 }
@@ -89,9 +124,23 @@ void PanelTable::keyPressEvent(QKeyEvent* event) {
 
 void PanelTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
-    if (!IsSetting() && current.isValid() && current.row() != previous.row() && reports_.rowSelected) {
+    if (!setting_ && current.isValid() && current.row() != previous.row() && reports_.rowSelected) {
         reports_.rowSelected(current.row());
     }
+}
+
+bool PanelTable::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QModelIndex index = indexAt(help->pos());
+        const std::string image = index.isValid() ? ImageAt(index, help->pos()) : std::string();
+        const QString tip = image.empty() ? QString() : model_.ImageTipAt(index, image);
+        if (!tip.isEmpty()) {
+            QToolTip::showText(help->globalPos(), tip, viewport());
+            return true;
+        }
+    }
+    return QTableView::viewportEvent(event);
 }
 
 }  // namespace Tarvik::Seaplan

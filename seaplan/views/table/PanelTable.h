@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "seaplan/panels/editors/Keys.h"
+#include "seaplan/views/table/TableModel.h"
 
 namespace Tarvik::Seaplan {
 
@@ -17,11 +18,12 @@ inline constexpr int kTableHeader = 34;  ///< height of its titles
 /// always there, and edited only by what the panel opens over them.
 void SetUpRows(QAbstractItemView& rows);
 
-/// A table with fixed columns and rows over whose cells its panel opens editors. It reports clicks on cells
-/// and on the images of rows.
-class PanelTable : public QTableView {
+/// A table with fixed columns and rows over whose cells its panel opens editors. It shows columns and lines
+/// that its panel makes, and reports clicks on cells and on the images of rows.
+class PanelTable final : public QTableView {
   public:
-    PanelTable(QWidget* parent, const char* name);
+    /// A table of this object name that is never less than so many lines high.
+    PanelTable(QWidget* parent, const char* name, int leastLines);
     struct Reports {
         std::function<void(int, int)> cellClicked;
         std::function<void(int, const std::string&)> imageClicked;
@@ -32,27 +34,30 @@ class PanelTable : public QTableView {
         std::function<void(int)> rowSelected;
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }
+    void ShowColumns(std::vector<TableColumn> columns);
+    void ShowLines(std::shared_ptr<const TableLines> lines) { model_.ShowLines(std::move(lines)); }
+    /// Puts a row in front, none for -1, without a report; the column in front stays, or else becomes
+    /// `column`.
+    void PutFront(int row, int column);
     /// Rectangle of a cell in the viewport; a cell below the bottom edge moves up by one row.
     QRect EditorRect(int row, int column) const;
 
   protected:
-    /// One width a column of the model; the table never gets narrower than all of them.
-    void FixWidths(const std::vector<int>& widths);
-    /// Name of the row's image under a point of a cell, empty for none.
-    virtual std::string ImageAt(const QModelIndex& index, const QPoint& point) const = 0;
-    /// Whether a click on this place is one on a cell.
-    virtual bool IsCell(const QModelIndex& /*index*/) const { return true; }
-    virtual void PutPressed(const QModelIndex& index) { setCurrentIndex(index); }
-    /// Whether the program moves the rows or the front, which is reported to nobody.
-    virtual bool IsSetting() const { return false; }
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    bool viewportEvent(QEvent* event) override;
 
   private:
     void TellLeft();
+    /// Name of the row's image under a point of a cell, empty for none.
+    std::string ImageAt(const QModelIndex& index, const QPoint& point) const;
+    /// Whether a click on this place is one on a cell.
+    bool IsCell(const QModelIndex& index) const;
 
+    TableModel model_;
     Reports reports_;
+    bool setting_ = false;  ///< the program puts a row in front, which is reported to nobody
 };
 
 }  // namespace Tarvik::Seaplan

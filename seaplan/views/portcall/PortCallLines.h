@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/views/table/TableLines.h"
+
+namespace Tarvik::Seaplan {
+
+/// The column behind those of the port calls, where the images of the rows stand.
+inline constexpr int kPortCallImageColumn = kPortCallColumnCount;
+
+/// The columns in the language in force, with the units on show.
+std::vector<TableColumn> PortCallColumnsOf(const PortCallState& state);
+
+/// The rows of the port calls as the table shows them: by the class of the row, with the images behind it.
+class PortCallLines final : public TableLines {
+  public:
+    explicit PortCallLines(const PortCallTable& table) : table_(table) {}
+    int Count() const override { return static_cast<int>(table_.Rows().size()); }
+    TableCell CellAt(int line, int column) const override;
+    QString TipAt(int line, int column) const override;
+    QString ImageTipAt(int line, const std::string& image) const override;
+
+  private:
+    PortCallTable table_;
+};
+
+}  // namespace Tarvik::Seaplan

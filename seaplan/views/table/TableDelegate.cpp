@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/table/TableDelegate.h"
+
+#include <QPainter>
+
+#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/Palette.h>
+
+#include "seaplan/views/table/TableModel.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+using Skin::Colour;
+using Skin::Role;
+
+QRect ImageRect(const TableImages& images, const QRect& place, std::size_t image) {
+    QRect rect(0, 0, images.edge, images.edge);
+    rect.moveCenter(
+        {place.left() + 2 + images.step / 2 + static_cast<int>(image) * images.step, place.center().y()});
+    return rect;
+}
+
+void PaintImages(QPainter& painter, const TableImages& images, const QRect& place) {
+    for (std::size_t i = 0; i < images.images.size(); ++i) {
+        const TableImage& image = images.images[i];
+        Skin::PaintIcon(painter, ImageRect(images, place, i), image.icon,
+                        Colour(image.enabled ? Role::Text : Role::Disabled));
+    }
+}
+
+void PaintText(QPainter& painter, const QStyleOptionViewItem& option, const TableCell& cell, int alignment) {
+    QFont font = option.font;
+    font.setPixelSize(Skin::kTablePixels);
+    font.setBold(cell.bold);
+    painter.setFont(font);
+    painter.setPen(Colour(cell.ink));
+    const QRect inner = option.rect.adjusted(cell.left, 0, -cell.right, 0);
+    painter.drawText(inner, alignment | Qt::TextSingleLine,
+                     QFontMetrics(font).elidedText(cell.text, Qt::ElideRight, inner.width()));
+}
+
+}  // namespace
+
+void TableDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const {
+    const TableCell cell = static_cast<const TableModel*>(index.model())->CellAt(index);
+    const bool front = cell.canBeFront && (option.state & QStyle::State_Selected) != 0;
+    painter->save();
+    painter->fillRect(option.rect, Colour(front ? Role::Selection : cell.ground));
+    PaintImages(*painter, cell.images, option.rect);
+    PaintText(*painter, option, cell, index.data(Qt::TextAlignmentRole).toInt());
+    if ((option.state & QStyle::State_HasFocus) != 0) {
+        painter->setPen(Colour(Role::Accent));
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
+    painter->restore();
+}
+
+std::string TableDelegate::ImageAt(const TableImages& images, const QRect& place, const QPoint& point) {
+    for (std::size_t i = 0; i < images.images.size(); ++i) {
+        if (ImageRect(images, place, i).adjusted(-3, -4, 3, 4).contains(point)) {
+            return images.images[i].name;
+        }
+    }
+    return {};
+}
+
+}  // namespace Tarvik::Seaplan

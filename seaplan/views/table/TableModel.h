@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractTableModel>
+#include <memory>
+
+#include "seaplan/views/table/TableLines.h"
+
+namespace Tarvik::Seaplan {
+
+/// Hands columns and lines of a panel to the table view.
+class TableModel final : public QAbstractTableModel {
+  public:
+    using QAbstractTableModel::QAbstractTableModel;
+    void ShowColumns(std::vector<TableColumn> columns);
+    /// Other lines; what is in front stays so where as many lines stand as before.
+    void ShowLines(std::shared_ptr<const TableLines> lines);
+    const std::vector<TableColumn>& Columns() const { return columns_; }
+    /// The cell at a valid index of this model.
+    TableCell CellAt(const QModelIndex& index) const;
+    QString ImageTipAt(const QModelIndex& index, const std::string& image) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  private:
+    std::vector<TableColumn> columns_;
+    std::shared_ptr<const TableLines> lines_;
+};
+
+}  // namespace Tarvik::Seaplan
