@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include <tarvik/skin/Words.h>
 
 namespace Tarvik::Ais {
 
-/// The plug-in's text of a key, as "NAME", in the language that the person chose; the key itself where no
-/// language has it, so that a gap is seen.
-QString Word(const char* key);
+/// The plug-in's text of a key.
+inline QString Word(const char* key) {
+    return Skin::Word("Ais", key);
+}
 
 }  // namespace Tarvik::Ais
