@@ -5,12 +5,18 @@
 #include <utility>
 
 #include "host/server/api/Replies.h"
+#include "host/server/api/VoyageService.h"
+#include "host/server/storage/sqlite/SqliteStorage.h"
 
 namespace Tarvik::Server {
 
 EmbeddedServer::EmbeddedServer(std::unique_ptr<SqliteStorage> storage, std::unique_ptr<RouteSource> routes,
                                const ServerClock& clock)
-    : storage_(std::move(storage)), routes_(std::move(routes)), service_(*storage_, *routes_, clock) {}
+    : storage_(std::move(storage)),
+      routes_(std::move(routes)),
+      service_(std::make_unique<VoyageService>(*storage_, *routes_, clock)) {}
+
+EmbeddedServer::~EmbeddedServer() = default;
 
 std::unique_ptr<EmbeddedServer> EmbeddedServer::Open(const std::string& dbPath,
                                                      std::unique_ptr<RouteSource> routes, std::string& error,
@@ -37,7 +43,7 @@ std::string EmbeddedServer::Exchange(const std::string& user, const Interface::V
     if (text.ends_with('\0')) {
         text.remove_suffix(1);
     }
-    VoyageReply reply = service_.Answer(user, request->moduleWord, request->command, text);
+    VoyageReply reply = service_->Answer(user, request->moduleWord, request->command, text);
     // Who asks is who runs it.
     return reply.Failed() ? Replies::Error(reply.code, reply.failure) : std::move(reply.text);
 }

@@ -6,10 +6,13 @@
 
 #include <tarvik/interface/ServerRequest.h>
 
-#include "host/server/api/VoyageService.h"
-#include "host/server/storage/sqlite/SqliteStorage.h"
+#include "host/server/api/RouteSource.h"
+#include "host/server/storage/contract/ServerTime.h"
 
 namespace Tarvik::Server {
+
+class SqliteStorage;
+class VoyageService;
 
 /// The user of a client that keeps its voyages by itself.
 inline constexpr const char* kLocalUser = "local";
@@ -17,6 +20,7 @@ inline constexpr const char* kLocalUser = "local";
 /// The whole voyage server inside one process, on one data base file.
 class EmbeddedServer {
   public:
+    ~EmbeddedServer();
     /// Opens or makes the data base; ":memory:" makes one that ends with the server. Null, with an English
     /// text in `error`, when that fails or `routes` is null. `clock` dates remarks.
     static std::unique_ptr<EmbeddedServer> Open(const std::string& dbPath,
@@ -28,16 +32,13 @@ class EmbeddedServer {
     /// never throws.
     std::string Exchange(const std::string& user, const Interface::VoyServerRequest* request);
 
-    /// The service without the envelope.
-    VoyageService& Service() { return service_; }
-
   private:
     EmbeddedServer(std::unique_ptr<SqliteStorage> storage, std::unique_ptr<RouteSource> routes,
                    const ServerClock& clock);
 
     std::unique_ptr<SqliteStorage> storage_;
     std::unique_ptr<RouteSource> routes_;
-    VoyageService service_;
+    std::unique_ptr<VoyageService> service_;
 };
 
 }  // namespace Tarvik::Server
