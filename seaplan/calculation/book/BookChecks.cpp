@@ -22,7 +22,7 @@ constexpr std::size_t kLongestNumber = 1023;
 
 /// A number, read as it says, or else a coordinate as people write it.
 std::optional<double> ReadDegrees(const std::string& text, Axis axis) {
-    return IsNumberText(text) ? Util::StringUtl::ToDouble(text) : ReadTypedDegrees(text, axis);
+    return IsNumberText(text) ? Util::StringUtl::ToDouble(text) : Util::ReadTypedDegrees(text, axis);
 }
 
 }  // namespace
@@ -58,8 +58,8 @@ BookRefusal CheckDegreesText(const std::string& text, Axis axis, double& value) 
 BookRefusal CheckPosition(const std::string& text, Axis axis, Position& position) {
     double& typed = axis == Axis::Latitude ? position.y : position.x;
     const BookRefusal refusal = CheckDegreesText(text, axis, typed);
-    const auto pair =
-        refusal == BookRefusal::NotANumber ? ReadTypedPosition(text) : std::optional<Position>();
+    const auto pair = refusal == BookRefusal::NotANumber ? Util::ReadTypedPosition(text)
+                                                         : std::optional<Util::TypedPosition>();
     if (!pair) {
         return refusal;
     }
@@ -69,7 +69,7 @@ BookRefusal CheckPosition(const std::string& text, Axis axis, Position& position
             return why;
         }
     }
-    position = *pair;
+    position = {pair->x, pair->y};
     return BookRefusal::None;
 }
 

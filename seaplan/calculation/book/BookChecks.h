@@ -3,12 +3,16 @@
 
 #include <string>
 
+#include <tarvik/util/TypedPosition.h>
+
 #include "seaplan/calculation/book/BookRecompute.h"
 #include "seaplan/data/PosBookData.h"
-#include "seaplan/data/TypedPosition.h"
+#include "seaplan/data/Position.h"
 
 /// Checks of what a person types into the position book.
 namespace Tarvik::Seaplan {
+
+using Util::Axis;
 
 /// Why a value is refused; each has a message of its own.
 enum class BookRefusal { None, NotANumber, Latitude, Longitude, Speed, Date };

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/book/BookLines.h"
 
-#include "seaplan/data/TypedPosition.h"
+#include <tarvik/util/TypedPosition.h>
+
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/views/window/ViewText.h"
@@ -87,9 +88,9 @@ QString BookLines::TipAt(int line, int column) const {
     QString tip = QString::fromStdString(sheet_.Cell(line, column));
     const PosBookPlace& place = sheet_.PlaceAt(line);
     if (column == BookLatitude) {
-        tip = QString::fromStdString(DegreesText(place.y, Axis::Latitude));
+        tip = QString::fromStdString(Util::DegreesText(place.y, Util::Axis::Latitude));
     } else if (column == BookLongitude) {
-        tip = QString::fromStdString(DegreesText(place.x, Axis::Longitude));
+        tip = QString::fromStdString(Util::DegreesText(place.x, Util::Axis::Longitude));
     } else if (column == BookName && sheet_.ExpanderAt(line) != BookExpander::None) {
         tip += u'\n' + ViewText(TextIds::IDS_VIEW_BOOKEXPAND);
     }

@@ -4,12 +4,18 @@
 #include <optional>
 #include <string>
 
-#include "seaplan/data/Position.h"
+#include <tarvik/Export.h>
 
 /// Positions as people type and paste them.
-namespace Tarvik::Seaplan {
+namespace Tarvik::Util {
 
 enum class Axis { Latitude, Longitude };
+
+/// What was typed, in degrees: `x` is the longitude, `y` the latitude.
+struct TypedPosition {
+    double x = 0;
+    double y = 0;
+};
 
 /// One coordinate in degrees, north and east positive. Nothing for a text that is none, or that lies outside
 /// -90 to 90 or -180 to 180.
@@ -18,11 +24,11 @@ enum class Axis { Latitude, Longitude };
 /// "51 deg 54 min 30 sec N", "429.0E" (degrees and minutes, since 429 degrees are none).
 /// Illegal: "", "51 60 N" (minutes go to 59.99), "51.5 30", "N51S", "51E" as a latitude, "-51S", "51 54 30
 /// 1".
-std::optional<double> ReadTypedDegrees(const std::string& text, Axis axis);
+TARVIK_API std::optional<double> ReadTypedDegrees(const std::string& text, Axis axis);
 /// Two coordinates at once, parted by a comma, a semicolon, a slash, a tab, blanks or by their letters: the
 /// first is the latitude unless letters say otherwise.
-std::optional<Position> ReadTypedPosition(const std::string& text);
+TARVIK_API std::optional<TypedPosition> ReadTypedPosition(const std::string& text);
 /// "51° 54.50' N", with three digits of longitude: what people read back.
-std::string DegreesText(double degrees, Axis axis);
+TARVIK_API std::string DegreesText(double degrees, Axis axis);
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Util

@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "seaplan/data/TypedPosition.h"
+#include <tarvik/util/TypedPosition.h>
 
-namespace Tarvik::Seaplan {
+namespace Tarvik::Util {
 
 namespace {
 
@@ -129,4 +129,4 @@ TEST(TypedDegrees, AreToldWithDegreesAndMinutes) {
 
 }  // namespace
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Util

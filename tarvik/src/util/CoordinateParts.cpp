@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 /// A text is cut into numbers, letters of a hemisphere and separators; whatever else stands in it makes it no
 /// coordinate. Signs and words are told from a table, longer ones first. Cost: the length times the table's.
-#include "seaplan/data/CoordinateParts.h"
+#include "CoordinateParts.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace Tarvik::Seaplan {
+namespace Tarvik::Util {
 
 namespace {
 
@@ -95,4 +95,4 @@ std::optional<CoordinateParts> CutCoordinate(std::string_view text) {
     return parts;
 }
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Util

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// What people write in coordinates, cut into its parts.
-namespace Tarvik::Seaplan {
+namespace Tarvik::Util {
 
 inline bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -31,4 +31,4 @@ std::string_view Trimmed(std::string_view text);
 /// A plain text of one coordinate in its parts; nothing where anything else stands in it, or two letters.
 std::optional<CoordinateParts> CutCoordinate(std::string_view text);
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Util

@@ -4,8 +4,6 @@
 /// seconds too, where it is too long or too great for degrees alone. A pair is tried at every place where it
 /// can be cut, and must be legal in one way only, or in reading order. Cost: the square of the length, for
 /// texts of a few dozen characters.
-#include "seaplan/data/TypedPosition.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -13,10 +11,11 @@
 #include <vector>
 
 #include <tarvik/util/StringUtl.h>
+#include <tarvik/util/TypedPosition.h>
 
-#include "seaplan/data/CoordinateParts.h"
+#include "CoordinateParts.h"
 
-namespace Tarvik::Seaplan {
+namespace Tarvik::Util {
 
 namespace {
 
@@ -38,7 +37,7 @@ std::optional<double> Sum(const std::vector<std::string>& numbers) {
     double degrees = 0;
     for (std::size_t i = 0; i < numbers.size(); ++i) {
         const bool last = i + 1 == numbers.size();
-        const double value = Util::StringUtl::ToDouble(numbers[i]);
+        const double value = StringUtl::ToDouble(numbers[i]);
         if (!IsNumber(numbers[i]) || (!last && numbers[i].find('.') != std::string::npos) ||
             (i > 0 && value >= kMinutesPerDegree)) {
             return std::nullopt;
@@ -93,7 +92,7 @@ std::optional<double> ReadParts(const CoordinateParts& parts, Axis axis) {
     return degrees ? std::optional(negative && *degrees != 0 ? -*degrees : *degrees) : std::nullopt;
 }
 
-std::optional<Position> ReadPair(std::string_view first, std::string_view second) {
+std::optional<TypedPosition> ReadPair(std::string_view first, std::string_view second) {
     const auto one = CutCoordinate(first);
     const auto two = CutCoordinate(second);
     if (!one || !two || (one->letter == 0) != (two->letter == 0)) {
@@ -102,11 +101,11 @@ std::optional<Position> ReadPair(std::string_view first, std::string_view second
     const bool turned = one->letter == 'E' || one->letter == 'W';
     const auto y = ReadParts(turned ? *two : *one, Axis::Latitude);
     const auto x = ReadParts(turned ? *one : *two, Axis::Longitude);
-    return y && x ? std::optional(Position{*x, *y}) : std::nullopt;
+    return y && x ? std::optional(TypedPosition{*x, *y}) : std::nullopt;
 }
 
 /// Where a pair with letters is cut: behind the first letter, or before the second where they lead.
-std::optional<Position> ReadByLetters(const std::string& plain) {
+std::optional<TypedPosition> ReadByLetters(const std::string& plain) {
     const auto first = std::find_if(plain.begin(), plain.end(), IsHemisphere);
     if (first == plain.end()) {
         return std::nullopt;
@@ -139,7 +138,7 @@ std::optional<double> ReadTypedDegrees(const std::string& text, Axis axis) {
     return parts ? ReadParts(*parts, axis) : std::nullopt;
 }
 
-std::optional<Position> ReadTypedPosition(const std::string& text) {
+std::optional<TypedPosition> ReadTypedPosition(const std::string& text) {
     if (text.size() > kLongestText) {
         return std::nullopt;
     }
@@ -173,8 +172,8 @@ std::string DegreesText(double degrees, Axis axis) {
     const char letter = axis == Axis::Latitude ? (degrees < 0 ? 'S' : 'N') : (degrees < 0 ? 'W' : 'E');
     const auto all = std::llround(std::fabs(degrees) * kMinutesPerDegree * kHundredths);
     const long long perDegree = static_cast<long long>(kMinutesPerDegree) * kHundredths;
-    return Util::StringUtl::Format("%0*lld° %05.2f' %c", axis == Axis::Latitude ? 2 : 3, all / perDegree,
-                                   static_cast<double>(all % perDegree) / kHundredths, letter);
+    return StringUtl::Format("%0*lld° %05.2f' %c", axis == Axis::Latitude ? 2 : 3, all / perDegree,
+                             static_cast<double>(all % perDegree) / kHundredths, letter);
 }
 
-}  // namespace Tarvik::Seaplan
+}  // namespace Tarvik::Util
