@@ -64,6 +64,17 @@ TEST(CourseTest, EqualPointsGiveZero) {
     EXPECT_FALSE(std::signbit(CCourse::CalCourse(0, 10, 0, 20)));
 }
 
+TEST(CourseTest, AGreatCircleStartsTowardsThePoleOfItsHemisphere) {
+    EXPECT_DOUBLE_EQ(CCourse::CalCourse(0, 0, 10, 0, "GC"), 90);
+    EXPECT_DOUBLE_EQ(CCourse::CalCourse(10, 20, 10, 10, "GC"), 180);
+    EXPECT_DOUBLE_EQ(CCourse::CalCourse(10, 0, 0, 0, "GC"), 270);
+    EXPECT_DOUBLE_EQ(CCourse::CalCourse(5, 5, 5, 5, "GC"), 0);
+    // Along 50 N over 60 degrees the circle starts half the convergence, 23.8 degrees, to the north.
+    EXPECT_NEAR(CCourse::CalCourse(-60, 50, 0, 50, "GC"), 66.2, 0.2);
+    EXPECT_NEAR(CCourse::CalCourse(-60, 50, 0, 50, "RL"), 90, 1e-9);
+    EXPECT_NEAR(CCourse::CalCourse(170, -30, -170, -30, "GC"), 95.0, 0.2) << "over the date line";
+}
+
 TEST(CaculateTest, KeepsBothEnds) {
     const _SPointF from{121.5F, 31.25F};
     const _SPointF to{-118.25F, 33.75F};

@@ -17,15 +17,32 @@ namespace {
 
 constexpr double kMetresPerKm = 1000.0;
 
-struct RhumbLeg {
+struct Leg {
     double metres = 0;
     double course = 0;
 };
 
-RhumbLeg Rhumb(double x1, double y1, double x2, double y2) {
-    RhumbLeg leg;
+Leg Rhumb(double x1, double y1, double x2, double y2) {
+    Leg leg;
     GeographicLib::Rhumb::WGS84().Inverse(y1, x1, y2, x2, leg.metres, leg.course);
     return leg;
+}
+
+Leg Geodesic(double x1, double y1, double x2, double y2) {
+    Leg leg;
+    double arrives = 0;
+    GeographicLib::Geodesic::WGS84().Inverse(y1, x1, y2, x2, leg.metres, leg.course, arrives);
+    return leg;
+}
+
+/// At least 0 and below 360 degrees; 0 for a leg without a length.
+double CourseOf(const Leg& leg) {
+    if (leg.metres == 0 || !std::isfinite(leg.course)) {
+        return 0;
+    }
+    const double course = leg.course < 0 ? leg.course + 360.0 : leg.course;
+    // A course a hair west of north rounds up to 360.
+    return course >= 360.0 || course == 0 ? 0 : course;
 }
 
 }  // namespace
@@ -62,13 +79,11 @@ std::vector<_SPointF> CircleLineUtl::Caculate(const _SPointF& from, const _SPoin
 }
 
 double CCourse::CalCourse(double x1, double y1, double x2, double y2) {
-    const RhumbLeg leg = Rhumb(x1, y1, x2, y2);
-    if (leg.metres == 0 || !std::isfinite(leg.course)) {
-        return 0;
-    }
-    const double course = leg.course < 0 ? leg.course + 360.0 : leg.course;
-    // A course a hair west of north rounds up to 360.
-    return course >= 360.0 || course == 0 ? 0 : course;
+    return CourseOf(Rhumb(x1, y1, x2, y2));
+}
+
+double CCourse::CalCourse(double x1, double y1, double x2, double y2, const std::string& track) {
+    return track == "GC" ? CourseOf(Geodesic(x1, y1, x2, y2)) : CalCourse(x1, y1, x2, y2);
 }
 
 double UnitUtl::DataFormat(double value, int digits) {

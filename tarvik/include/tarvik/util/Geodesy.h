@@ -34,6 +34,8 @@ class TARVIK_API CCourse {
   public:
     /// Course of the rhumb line, at least 0 and below 360 degrees; 0 for two equal points.
     static double CalCourse(double x1, double y1, double x2, double y2);
+    /// Course in which the geodesic starts for track "GC", the rhumb line's for any other.
+    static double CalCourse(double x1, double y1, double x2, double y2, const std::string& track);
 };
 
 /// Number helpers of the host.
