@@ -68,6 +68,7 @@ TEST(BusContractTest, ServicesOfTheChart) {
     EXPECT_STREQ(Bus::ChartWindow.name, "TRV_S_SEAMAP_WIDGET");
     EXPECT_STREQ(Bus::ChartCommand.name, "TRV_S_SEAMAP_COMMAND");
     EXPECT_STREQ(Bus::ChartCursor.name, "TRV_E_SEAMAP_CURSOR");
+    EXPECT_STREQ(Bus::ChartPartTurned.name, "TRV_E_SEAMAP_PART");
 }
 
 /// Answers each call with its own input.

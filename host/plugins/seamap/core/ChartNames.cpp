@@ -20,6 +20,7 @@ ChartName NameOf(const Ports::Place& port, bool isChinese) {
     }
     name.code = port.unlocode;
     name.port = port.name;
+    name.local = port.nameCn;
     // The ports that the trade knows have a Chinese name, the others their English one again.
     name.isMajor = !port.nameCn.empty() && port.nameCn != port.name;
     return name;

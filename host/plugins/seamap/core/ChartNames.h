@@ -30,6 +30,7 @@ struct ChartName {
     std::string text{};
     std::string code{};    ///< UN/LOCODE of a port, empty when it has none
     std::string port{};    ///< a port's name in the dictionary, whatever the language
+    std::string local{};   ///< its Chinese name, whatever the language; may be empty or the English one
     double miles = 0;      ///< a water's width
     bool isMajor = false;  ///< a port that is named before the others
 

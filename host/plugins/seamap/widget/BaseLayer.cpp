@@ -41,6 +41,11 @@ void BaseLayer::SetLand(CoastData land) {
     picture_ = QPixmap();
 }
 
+void BaseLayer::ShowGraticule(bool shown) {
+    graticule_ = shown;
+    picture_ = QPixmap();
+}
+
 const QPixmap& BaseLayer::Picture(const MercatorView& view, const ChartPalette& palette, qreal pixelRatio) {
     const QSize size = QSize(view.Width(), view.Height()) * pixelRatio;
     QRegion missing(0, 0, view.Width(), view.Height());
@@ -89,7 +94,9 @@ void BaseLayer::Draw(QPainter& painter, const QRegion& region) {
         painter.setClipRect(rectangle);
         painter.fillRect(rectangle, QColor(palette_->sea));
         DrawLand(painter);
-        DrawGraticule(painter, rectangle);
+        if (graticule_) {
+            DrawGraticule(painter, rectangle);
+        }
     }
 }
 

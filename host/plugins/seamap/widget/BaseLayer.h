@@ -19,6 +19,7 @@ namespace Tarvik::Seamap {
 class BaseLayer {
   public:
     void SetLand(CoastData land);
+    void ShowGraticule(bool shown);
     /// The picture of the view; drawn anew as far as needed.
     const QPixmap& Picture(const MercatorView& view, const ChartPalette& palette, qreal pixelRatio);
 
@@ -36,6 +37,7 @@ class BaseLayer {
     void DrawGraticule(QPainter& painter, const QRect& bounds) const;
 
     CoastData land_;
+    bool graticule_ = true;
     MercatorView view_;
     const ChartPalette* palette_ = nullptr;
     QPixmap picture_;

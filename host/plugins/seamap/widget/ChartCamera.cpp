@@ -62,6 +62,16 @@ void ChartCamera::ZoomAround(PixelPoint anchor, int steps, bool animated) {
     motion_.Start(view_, target, animated);
 }
 
+void ChartCamera::CentreOn(GeoPoint place, std::int64_t leastWorld) {
+    if (!view_.HasSize()) {
+        return;
+    }
+    motion_.Stop();
+    fitted_.reset();
+    view_.Show(Project(place), std::max(view_.WorldSize(), leastWorld));
+    changed_();
+}
+
 void ChartCamera::Pan(int dx, int dy) {
     motion_.Stop();
     fitted_.reset();

@@ -28,6 +28,8 @@ class ChartCamera {
 
     /// Fits the extent with a margin, again after every change of size, until a person moves the view.
     void Show(const Extent& extent, bool animated);
+    /// Brings a place into the middle, with a world of at least so many pixels, at once.
+    void CentreOn(GeoPoint place, std::int64_t leastWorld);
     void Resize(int width, int height);
     /// Zooms half an octave for each step, in when positive, and keeps the place under the anchor.
     void ZoomAround(PixelPoint anchor, int steps, bool animated);

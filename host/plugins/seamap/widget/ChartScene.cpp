@@ -2,13 +2,32 @@
 #include "host/plugins/seamap/widget/ChartScene.h"
 
 #include <QPainter>
+#include <QPolygonF>
 
+#include <tarvik/util/Clock.h>
+
+#include "host/plugins/seamap/core/Daylight.h"
 #include "host/plugins/seamap/core/HitTest.h"
 #include "host/plugins/seamap/widget/ChartCamera.h"
 #include "host/plugins/seamap/widget/Furniture.h"
 #include "host/plugins/seamap/widget/ObjectPainter.h"
 
 namespace Tarvik::Seamap {
+
+namespace {
+
+// How far the night darkens the chart, of 255; a dark chart needs more to show it.
+constexpr int kShade = 56;
+constexpr int kDarkShade = 110;
+
+}  // namespace
+
+void ChartScene::ShowParts(const ChartParts& parts) {
+    if (parts.graticule != parts_.graticule) {
+        base_.ShowGraticule(parts.graticule);
+    }
+    parts_ = parts;
+}
 
 void ChartScene::SetTheme(ChartPalette::Theme theme) {
     palette_ = &ChartPalette::Of(theme);
@@ -18,7 +37,8 @@ void ChartScene::SetTheme(ChartPalette::Theme theme) {
 void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelRatio,
                        const ObjectKey* highlighted) {
     painter.drawPixmap(0, 0, base_.Picture(view, *palette_, pixelRatio));
-    const Furniture furniture(view, *palette_, texts_);
+    PaintNight(painter, view);
+    const Furniture furniture(view, *palette_, texts_, parts_.graticule);
     LabelRoom room;
     shipPainter_.Adopt(*palette_, pixelRatio);
     shipPainter_.Draw(
@@ -26,8 +46,26 @@ void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelR
         highlighted ? std::pair(highlighted->type, highlighted->id) : std::pair<std::string, std::string>());
     ObjectPainter(painter, view, {*palette_, images_, texts_, pixelRatio}, room).Draw(objects_, highlighted);
     furniture.Reserve(room);
-    names_.Draw(painter, view, *palette_, texts_, room);
+    if (parts_.names) {
+        names_.Draw(painter, view, *palette_, texts_, room);
+    } else {
+        names_.Hide();
+    }
     furniture.Draw(painter);
+}
+
+void ChartScene::PaintNight(QPainter& painter, const MercatorView& view) const {
+    if (!parts_.daylight) {
+        return;
+    }
+    QPolygonF edge;
+    for (const PixelPoint& point : NightIn(view, SunAt(Util::Clock::Current().NowUtcCsecs()))) {
+        edge.append(QPointF(point.x, point.y));
+    }
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, palette_->theme == ChartPalette::Theme::Light ? kShade : kDarkShade));
+    painter.drawPolygon(edge);
 }
 
 std::optional<ChartScene::Met> ChartScene::At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio) {

@@ -6,6 +6,7 @@
 
 #include "host/plugins/seamap/core/ChartObjects.h"
 #include "host/plugins/seamap/core/ChartPalette.h"
+#include "host/plugins/seamap/core/ChartParts.h"
 #include "host/plugins/seamap/core/MercatorView.h"
 #include "host/plugins/seamap/widget/BaseLayer.h"
 #include "host/plugins/seamap/widget/HaloTexts.h"
@@ -25,6 +26,9 @@ class ChartScene {
     void SetLand(CoastData land) { base_.SetLand(std::move(land)); }
     /// Names of waters and ports, in the order in which they find room.
     void SetNames(const std::vector<ChartName>& names) { names_.SetNames(names); }
+    /// What is drawn of it from now on.
+    void ShowParts(const ChartParts& parts);
+    const ChartParts& Parts() const { return parts_; }
     void SetTheme(ChartPalette::Theme theme);
     const ChartPalette& Palette() const { return *palette_; }
 
@@ -44,10 +48,12 @@ class ChartScene {
     Extent ExtentOfAll() const;
 
   private:
+    void PaintNight(QPainter& painter, const MercatorView& view) const;
     static QString TipOf(const ChartObject& object);
 
     const ChartObjects& objects_;
     const ChartPalette* palette_ = &ChartPalette::Of(ChartPalette::Theme::Light);
+    ChartParts parts_;
     BaseLayer base_;
     ImageStore images_;
     HaloTexts texts_;

@@ -2,7 +2,10 @@
 #include "host/plugins/seamap/widget/ChartServices.h"
 
 #include <QApplication>
+#include <array>
+#include <functional>
 #include <new>
+#include <utility>
 
 #include <tarvik/bus/Binding.h>
 #include <tarvik/bus/BusCall.h>
@@ -15,6 +18,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "host/plugins/seamap/core/LandSource.h"
+#include "host/plugins/seamap/widget/ChartTools.h"
 
 namespace Tarvik::Seamap {
 
@@ -87,6 +91,7 @@ ChartWidget* ChartServices::Widget() {
     if (!widget_ && qobject_cast<QApplication*>(QCoreApplication::instance())) {
         widget_ = new ChartWidget(objects_);
         widget_->SetTheme(theme_);
+        widget_->ShowParts(parts_);
         widget_->Change(
             [this](ChartScene& scene) { scene.SetLand(CoastData(LandFileSource(paths_.land).Load())); });
         ShowNames();
@@ -97,6 +102,10 @@ ChartWidget* ChartServices::Widget() {
                          [](const ObjectKey& key) { Interface::RaiseClick(key.type, key.id); });
         QObject::connect(widget_, &ChartWidget::PortClicked, widget_,
                          [this](const ChartName& port) { TakePort(port); });
+        QObject::connect(widget_, &ChartWidget::PartTurned, [](const std::string& part, bool shown) {
+            const Interface::ChartPart turned{part, shown};
+            Interface::Raise(Bus::ChartPartTurned, &turned);
+        });
         QObject::connect(widget_, &ChartWidget::CursorMoved,
                          [this](double lon, double lat) { RaiseCursor(lon, lat); });
     }
@@ -125,7 +134,7 @@ void ChartServices::SetExtent(const Interface::TrvMapExtent& corners) {
 
 void ChartServices::ShowNames() {
     if (widget_) {
-        widget_->Change([this](ChartScene& scene) { scene.SetNames(NamesOfChart(TextOf, ports_.Places())); });
+        widget_->SetNames(NamesOfChart(TextOf, ports_.Places()));
     }
 }
 
@@ -149,30 +158,60 @@ void ChartServices::RaiseCursor(double lon, double lat) const {
 }
 
 bool ChartServices::Run(const std::string& command) {
-    constexpr std::string_view kTheme = "theme ";
-    if (command.starts_with(kTheme)) {
-        const auto theme = Skin::FindTheme(std::string_view(command).substr(kTheme.size()));
-        if (!theme) {
-            return false;
-        }
-        theme_ = *theme;
-        if (widget_) {
-            widget_->SetTheme(theme_);
-        }
-        return true;
+    const std::size_t blank = command.find(' ');
+    const std::string_view verb = std::string_view(command).substr(0, blank);
+    if (blank == std::string::npos) {
+        return RunOnWindow(verb);
     }
-    if (command != "zoomin" && command != "zoomout" && command != "fit") {
+    const std::string_view what = std::string_view(command).substr(blank + 1);
+    if (verb == "theme") {
+        return TakeTheme(what);
+    }
+    return (verb == "show" || verb == "hide") && TakePart(what, verb == "show");
+}
+
+bool ChartServices::TakeTheme(std::string_view name) {
+    const auto theme = Skin::FindTheme(name);
+    if (!theme) {
         return false;
     }
-    if (!widget_) {
-        return true;
-    }
-    if (command == "fit") {
-        widget_->FitAll();
-    } else {
-        widget_->ZoomSteps(command == "zoomin" ? 1 : -1);
+    theme_ = *theme;
+    if (widget_) {
+        widget_->SetTheme(theme_);
     }
     return true;
+}
+
+bool ChartServices::TakePart(std::string_view name, bool shown) {
+    const auto part = FindChartPart(name);
+    if (!part) {
+        return false;
+    }
+    if (widget_) {
+        parts_ = widget_->Parts();
+    }
+    parts_.*part->part = shown;
+    if (widget_) {
+        widget_->ShowParts(parts_);
+    }
+    return true;
+}
+
+bool ChartServices::RunOnWindow(std::string_view command) {
+    const std::array<std::pair<std::string_view, std::function<void(ChartWidget&)>>, 4> known{
+        {{"fit", [](ChartWidget& chart) { chart.FitAll(); }},
+         {"zoomin", [](ChartWidget& chart) { chart.ZoomSteps(1); }},
+         {"zoomout", [](ChartWidget& chart) { chart.ZoomSteps(-1); }},
+         {"goto", [](ChartWidget& chart) { chart.Tools().OpenGoTo(); }}}};
+    for (const auto& [name, run] : known) {
+        if (name == command) {
+            if (widget_) {
+                run(*widget_);
+            }
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace Tarvik::Seamap

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include <tarvik/bus/BindingList.h>
 #include <tarvik/core/TObject.h>
@@ -44,12 +45,16 @@ class ChartServices : public Core::TObject {
     void TakePort(const ChartName& port);
     void RaiseCursor(double lon, double lat) const;
     bool Run(const std::string& command);
+    bool TakeTheme(std::string_view name);
+    bool TakePart(std::string_view name, bool shown);
+    bool RunOnWindow(std::string_view command);
 
     Paths paths_;
     ChartObjects objects_;
     PortTable ports_;
     QPointer<ChartWidget> widget_;
     ChartPalette::Theme theme_ = ChartPalette::Theme::Light;
+    ChartParts parts_;             ///< of the window before there is one
     std::optional<Extent> asked_;  ///< asked for before there was a window
     Interface::BindingList bindings_;
 };

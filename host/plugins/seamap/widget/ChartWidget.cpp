@@ -3,20 +3,18 @@
 
 #include <QApplication>
 #include <QHelpEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
-#include <QWheelEvent>
 
+#include "host/plugins/seamap/widget/ChartTools.h"
 #include "host/plugins/seamap/widget/PortCard.h"
 
 namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr int kWheelStep = 120;  ///< eighths of a degree of one notch
-constexpr int kArrowPan = 64;    ///< pixels
 constexpr const char* kPictures = "pictures";
+constexpr int kNightfallMs = 60000;  ///< in which the shadow of the night moves by a quarter of a degree
 
 }  // namespace
 
@@ -25,7 +23,8 @@ ChartWidget::ChartWidget(ChartObjects& objects, QWidget* parent)
       objects_(objects),
       scene_(objects),
       camera_([this] { OnMoved(); }),
-      card_(new PortCard(this)) {
+      card_(new PortCard(this)),
+      tools_(new ChartTools(*this)) {
     setObjectName("chart");
     setAccessibleName(tr("Chart"));
     setAccessibleDescription(
@@ -46,6 +45,27 @@ void ChartWidget::Change(const std::function<void(ChartScene&)>& change) {
     update();
 }
 
+void ChartWidget::SetNames(const std::vector<ChartName>& names) {
+    Change([&names](ChartScene& scene) { scene.SetNames(names); });
+    tools_->SetNames(names);
+}
+
+void ChartWidget::ShowParts(const ChartParts& parts) {
+    Change([&parts](ChartScene& scene) { scene.ShowParts(parts); });
+    nightfall_.stop();
+    if (parts.daylight) {
+        nightfall_.start(kNightfallMs, this);
+    }
+}
+
+void ChartWidget::CentreOn(GeoPoint place, std::int64_t leastWorld) {
+    camera_.CentreOn(place, leastWorld);
+}
+
+void ChartWidget::timerEvent(QTimerEvent*) {
+    update();
+}
+
 void ChartWidget::OnMoved() {
     card_->hide();
     update();
@@ -58,6 +78,7 @@ void ChartWidget::ShowCard(const ChartName& port) {
 void ChartWidget::SetTheme(ChartPalette::Theme theme) {
     scene_.SetTheme(theme);
     card_->ApplyTheme(scene_.Palette());
+    tools_->ApplyTheme();
     update();
 }
 
@@ -102,6 +123,7 @@ bool ChartWidget::event(QEvent* event) {
 void ChartWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     scene_.Paint(painter, View(), devicePixelRatioF(), highlighted_ ? &*highlighted_ : nullptr);
+    tools_->Draw(painter);
     if (!byKeyboard_) {
         return;
     }
@@ -113,93 +135,7 @@ void ChartWidget::paintEvent(QPaintEvent*) {
 
 void ChartWidget::resizeEvent(QResizeEvent*) {
     camera_.Resize(width(), height());
-}
-
-void ChartWidget::mousePressEvent(QMouseEvent* event) {
-    byKeyboard_ = false;
-    card_->hide();
-    if (event->button() != Qt::LeftButton) {
-        return;
-    }
-    const QPoint at = event->position().toPoint();
-    press_ = {at, at, true, press_.drags};
-}
-
-void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint at = event->position().toPoint();
-    const int way = (at - press_.start).manhattanLength();
-    if (press_.down && !press_.drags && way >= QApplication::startDragDistance()) {
-        press_.drags = true;
-        setCursor(Qt::ClosedHandCursor);
-    }
-    if (press_.drags) {
-        camera_.Pan(press_.last.x() - at.x(), press_.last.y() - at.y());
-        press_.last = at;
-    }
-    Point(PixelPoint{event->position().x(), event->position().y()});
-}
-
-void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || !press_.down) {
-        return;
-    }
-    const bool click = !press_.drags;
-    press_.down = press_.drags = false;
-    const PixelPoint pixel{event->position().x(), event->position().y()};
-    Point(pixel);
-    if (!click) {
-        return;
-    }
-    if (const ChartName* port = scene_.PortAt(pixel, View(), devicePixelRatioF())) {
-        emit PortClicked(*port);
-    } else if (const auto met = scene_.At(pixel, View(), devicePixelRatioF())) {
-        emit ObjectClicked(met->key);
-    }
-}
-
-void ChartWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) {
-        return;
-    }
-    const PixelPoint pixel{event->position().x(), event->position().y()};
-    camera_.ZoomAround(pixel, event->modifiers() & Qt::ShiftModifier ? -2 : 2, IsAnimated());
-}
-
-void ChartWidget::wheelEvent(QWheelEvent* event) {
-    wheelRest_ += event->angleDelta().y();
-    const int steps = wheelRest_ / kWheelStep;
-    wheelRest_ -= steps * kWheelStep;
-    camera_.ZoomAround({event->position().x(), event->position().y()}, steps, IsAnimated());
-    event->accept();
-}
-
-void ChartWidget::keyPressEvent(QKeyEvent* event) {
-    const int far = event->modifiers() & Qt::ShiftModifier ? 4 * kArrowPan : kArrowPan;
-    switch (event->key()) {
-        case Qt::Key_Plus:
-        case Qt::Key_Equal:
-            return ZoomSteps(1);
-        case Qt::Key_Minus:
-            return ZoomSteps(-1);
-        case Qt::Key_Left:
-            return camera_.Pan(-far, 0);
-        case Qt::Key_Right:
-            return camera_.Pan(far, 0);
-        case Qt::Key_Up:
-            return camera_.Pan(0, -far);
-        case Qt::Key_Down:
-            return camera_.Pan(0, far);
-        case Qt::Key_Home:
-            return FitAll();
-        case Qt::Key_Escape:
-            return card_->hide();
-        default:
-            QWidget::keyPressEvent(event);
-    }
-}
-
-void ChartWidget::leaveEvent(QEvent*) {
-    Point(std::nullopt);
+    tools_->Place();
 }
 
 void ChartWidget::focusInEvent(QFocusEvent* event) {
@@ -210,29 +146,6 @@ void ChartWidget::focusInEvent(QFocusEvent* event) {
 void ChartWidget::focusOutEvent(QFocusEvent*) {
     byKeyboard_ = false;
     update();
-}
-
-void ChartWidget::Point(std::optional<PixelPoint> pixel) {
-    std::optional<ObjectKey> key;
-    if (pixel && !press_.drags) {
-        if (const auto met = scene_.At(*pixel, View(), devicePixelRatioF())) {
-            key = met->key;
-        }
-    }
-    const bool atPort =
-        pixel && !press_.drags && scene_.PortAt(*pixel, View(), devicePixelRatioF()) != nullptr;
-    if (!press_.drags) {
-        setCursor(key || atPort ? Qt::PointingHandCursor : Qt::OpenHandCursor);
-    }
-    if (key != highlighted_) {
-        highlighted_ = key;
-        update();
-    }
-    if (!pixel) {
-        return;
-    }
-    const GeoPoint place = View().ToGeo(*pixel);
-    emit CursorMoved(place.x, place.y);
 }
 
 }  // namespace Tarvik::Seamap

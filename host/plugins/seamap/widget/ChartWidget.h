@@ -1,22 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QBasicTimer>
 #include <QPoint>
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "host/plugins/seamap/widget/ChartCamera.h"
 #include "host/plugins/seamap/widget/ChartScene.h"
 
 namespace Tarvik::Seamap {
 
+class ChartTools;
 class PortCard;
 
 /// The chart as a window: shows the scene from the camera and lets a person pan, zoom, point and click.
 ///
-/// Drag pans; the wheel, a double click and + and - zoom; the arrows pan; Home shows all objects. The dynamic
-/// property "pictures" of the widget or of the application, set to true, turns animation off.
+/// Drag pans; the wheel, a double click and + and - zoom; the arrows pan; Home shows all objects; a right
+/// click or the menu key opens the menu of a place. The dynamic property "pictures" of the widget or of the
+/// application, set to true, turns animation off.
 class ChartWidget : public QWidget {
     Q_OBJECT
 
@@ -29,6 +34,13 @@ class ChartWidget : public QWidget {
     void Change(const std::function<void(ChartScene&)>& change);
     void SetTheme(ChartPalette::Theme theme);
     ChartPalette::Theme Theme() const { return scene_.Palette().theme; }
+    const ChartPalette& Palette() const { return scene_.Palette(); }
+    /// Names of waters and ports, in the order in which they find room, also for what is gone to.
+    void SetNames(const std::vector<ChartName>& names);
+    /// Shows and hides parts of the chart.
+    void ShowParts(const ChartParts& parts);
+    const ChartParts& Parts() const { return scene_.Parts(); }
+    ChartTools& Tools() { return *tools_; }
 
     /// What is shown, or is about to be while a fit is animated. Before the widget has a size: what it will
     /// fit.
@@ -40,6 +52,8 @@ class ChartWidget : public QWidget {
     void FitAll();
     /// Zooms half an octave for each step, in when positive, around the middle.
     void ZoomSteps(int steps);
+    /// Brings a place into the middle, near enough for a world of so many pixels.
+    void CentreOn(GeoPoint place, std::int64_t leastWorld = 0);
     const MercatorView& View() const { return camera_.View(); }
     /// Tells what is known of a port beside its place, until the chart is pressed or moved.
     void ShowCard(const ChartName& port);
@@ -54,9 +68,12 @@ class ChartWidget : public QWidget {
     void ObjectClicked(const Tarvik::Seamap::ObjectKey& key);
     /// A left click met a port of the chart itself.
     void PortClicked(const Tarvik::Seamap::ChartName& port);
+    /// A person has shown or hidden a part of the chart.
+    void PartTurned(const std::string& part, bool shown);
 
   protected:
     bool event(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -64,6 +81,7 @@ class ChartWidget : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -85,9 +103,11 @@ class ChartWidget : public QWidget {
     ChartScene scene_;
     ChartCamera camera_;
     PortCard* card_;
+    ChartTools* tools_;
     Press press_;
     std::optional<ObjectKey> highlighted_;
     bool byKeyboard_ = false;
+    QBasicTimer nightfall_;
     int wheelRest_ = 0;  ///< eighths of a degree of the wheel not yet used
 };
 

@@ -24,10 +24,11 @@ constexpr int kNamesWidth = 58;               ///< of the parallels
 }  // namespace
 
 void Furniture::Reserve(LabelRoom& room) const {
-    const double width = view_.Width();
     const double height = view_.Height();
-    room.Take({0, 0, width, kTextSize + 2.0 * kEdge});
-    room.Take({0, 0, kNamesWidth, height});
+    if (graticule_) {
+        room.Take({0, 0, double(view_.Width()), kTextSize + 2.0 * kEdge});
+        room.Take({0, 0, kNamesWidth, height});
+    }
     room.Take({0, height - kBarInset - kPlateHeight, kPlateWidth, kBarInset + kPlateHeight});
 }
 
@@ -35,7 +36,9 @@ void Furniture::Draw(QPainter& painter) const {
     QFont font = painter.font();
     font.setPixelSize(kTextSize);
     painter.setFont(font);
-    DrawNames(painter);
+    if (graticule_) {
+        DrawNames(painter);
+    }
     DrawScaleBar(painter);
 }
 

@@ -15,8 +15,9 @@ class HaloTexts;
 /// scale bar.
 class Furniture {
   public:
-    Furniture(const MercatorView& view, const ChartPalette& palette, HaloTexts& texts)
-        : view_(view), palette_(palette), texts_(texts) {}
+    /// `graticule` tells whether the names of its lines are drawn.
+    Furniture(const MercatorView& view, const ChartPalette& palette, HaloTexts& texts, bool graticule)
+        : view_(view), palette_(palette), texts_(texts), graticule_(graticule) {}
     void Draw(QPainter& painter) const;
     /// Takes the places along the edges where it will be drawn.
     void Reserve(LabelRoom& room) const;
@@ -28,6 +29,7 @@ class Furniture {
     const MercatorView& view_;
     const ChartPalette& palette_;
     HaloTexts& texts_;
+    bool graticule_;
 };
 
 }  // namespace Tarvik::Seamap

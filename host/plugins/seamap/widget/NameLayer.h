@@ -24,6 +24,8 @@ class NameLayer {
     /// Draws the names that find room in the window and takes it.
     void Draw(QPainter& painter, const MercatorView& view, const ChartPalette& palette, HaloTexts& texts,
               LabelRoom& room);
+    /// Draws none, and so none is met.
+    void Hide() { drawn_.clear(); }
     /// The port whose dot or name was drawn last under a pixel, null without one.
     const ChartName* PortAt(PixelPoint pixel) const;
     /// The names that would be drawn, in order, with their boxes: what Draw draws, without a painter.

@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "host/plugins/seamap/widget/CardLook.h"
+
 namespace Tarvik::Seamap {
 
 namespace {
@@ -57,10 +59,7 @@ void PortCard::ShowPort(const ChartName& port, PixelPoint place) {
 }
 
 void PortCard::ApplyTheme(const ChartPalette& palette) {
-    const auto name = [](const auto& colour) { return QColor(colour).name(); };
-    setStyleSheet(QStringLiteral("#portCard { background: %1; color: %2; border: 1px solid %3; "
-                                 "border-radius: 6px; padding: 6px 10px; font-size: 12px; }")
-                      .arg(name(palette.halo), name(palette.text), name(palette.outline)));
+    setStyleSheet(CardSheet(objectName(), palette));
 }
 
 void PortCard::mousePressEvent(QMouseEvent* event) {

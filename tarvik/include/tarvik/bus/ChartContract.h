@@ -28,6 +28,13 @@ struct ChartPlace {
     double latitude = 0;   ///< degrees north
 };
 
+/// A part of the chart that people show and hide: "graticule", "names" (of waters and ports) or "daylight"
+/// (the shadow of the night).
+struct ChartPart {
+    std::string name;    ///< as commands know it
+    bool shown = false;  ///< whether it is on show
+};
+
 /// A left click on an object of the chart, named by the object's type; carries the object's id. Subscribers
 /// answer null on success, else the failure as a small number in text form, which stays theirs.
 using ClickEvent = Event<const std::string, const char>;
@@ -65,11 +72,14 @@ inline constexpr Service<const std::string, const TrvMapPort> MapGetPort{"TRV_MA
 /// The chart's window, made at the first call; null while the process has no window system. The caller may
 /// give it a parent, which then owns it; without one it goes with the chart plug-in.
 inline constexpr Service<None, QWidget> ChartWindow{"TRV_S_SEAMAP_WIDGET"};
-/// "zoomin", "zoomout", "fit" (all objects, the world without any), "theme light", "theme dark", "theme
-/// night". Answers the input, which stays the caller's, when it was understood, null otherwise.
+/// "zoomin", "zoomout", "fit" (all objects, the world without any), "goto" (a field for a position or a
+/// port), "theme light", "theme dark", "theme night", "show graticule", "hide graticule", and so each
+/// ChartPart. Answers the input, which stays the caller's, when it was understood, null otherwise.
 inline constexpr Service<const std::string, const std::string> ChartCommand{"TRV_S_SEAMAP_COMMAND"};
 /// The pointer has moved over the chart.
 inline constexpr Event<const ChartPlace> ChartCursor{"TRV_E_SEAMAP_CURSOR"};
+/// A person has shown or hidden a part of the chart.
+inline constexpr Event<const ChartPart> ChartPartTurned{"TRV_E_SEAMAP_PART"};
 
 // Clicks on objects of the voyage plug-in, which owns these events.
 inline constexpr ClickEvent ClickVoyageType{"TRV_MAP_LCLICK_VOYAGETYPE"};  ///< route points with alternatives

@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "host/plugins/seamap/widget/ChartTools.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QPainter>
+#include <cstdint>
+#include <utility>
+
+#include <tarvik/skin/Words.h>
+
+#include "host/plugins/seamap/widget/ChartWidget.h"
+#include "host/plugins/seamap/widget/GoToBar.h"
+#include "host/plugins/seamap/widget/MeasureCard.h"
+
+namespace Tarvik::Seamap {
+
+namespace {
+
+/// A place that was gone to is shown with the ports around it.
+constexpr std::int64_t kNearWorld = 1 << 15;
+
+QString Word(const char* key) {
+    return Skin::Word("Chart", key);
+}
+
+/// The word of a part: the key is its name in capitals.
+QString PartWord(std::string_view name) {
+    return Word(QByteArray(name.data(), static_cast<qsizetype>(name.size())).toUpper().constData());
+}
+
+}  // namespace
+
+ChartTools::ChartTools(ChartWidget& chart)
+    : QObject(&chart),
+      chart_(chart),
+      finder_(std::make_unique<PortFinder>(std::vector<ChartName>())),
+      card_(new MeasureCard(&chart)),
+      goTo_(new GoToBar(&chart, [this](const std::string& typed, std::size_t limit) {
+          return finder_->Find(typed, limit);
+      })) {
+    connect(card_, &MeasureCard::Chosen, this, [this](Track track, double knots) {
+        measure_.track = track;
+        measure_.knots = knots;
+        Refresh();
+    });
+    connect(goTo_, &GoToBar::Chosen, this, &ChartTools::GoTo);
+}
+
+ChartTools::~ChartTools() = default;
+
+void ChartTools::SetNames(const std::vector<ChartName>& names) {
+    goTo_->hide();  // what it has on offer are the old finder's
+    finder_ = std::make_unique<PortFinder>(names);
+    card_->ApplyTexts();
+}
+
+void ChartTools::ApplyTheme() {
+    card_->ApplyTheme(chart_.Palette());
+    goTo_->ApplyTheme(chart_.Palette());
+}
+
+void ChartTools::OpenMenu(GeoPoint place, QPoint at) {
+    auto* menu = new QMenu(&chart_);
+    menu->setObjectName("chartMenu");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    AddCopies(*menu->addMenu(Word("COPY_POSITION")), place);
+    menu->addAction(Word("MEASURE_FROM_HERE"), &chart_, [this, place] { MeasureFrom(place); })
+        ->setObjectName("measureFromHere");
+    menu->addAction(Word("CENTRE_HERE"), &chart_, [this, place] { chart_.CentreOn(place); })
+        ->setObjectName("centreHere");
+    AddNearest(*menu, place);
+    menu->addSeparator();
+    menu->addAction(Word("GO_TO") + "…\tCtrl+G", &chart_, [this] { OpenGoTo(); })->setObjectName("goTo");
+    menu->addSeparator();
+    AddParts(*menu);
+    menu->popup(at);
+}
+
+void ChartTools::AddCopies(QMenu& menu, GeoPoint place) {
+    const PositionForms forms = PositionForms::Of(place);
+    for (const auto& [name, form] :
+         {std::pair("copyMinutes", forms.minutes), std::pair("copySeconds", forms.seconds),
+          std::pair("copyDecimal", forms.decimal)}) {
+        const QString text = QString::fromStdString(form);
+        menu.addAction(text, &chart_, [text] { QApplication::clipboard()->setText(text); })
+            ->setObjectName(name);
+    }
+}
+
+void ChartTools::AddNearest(QMenu& menu, GeoPoint place) {
+    const ChartName* port = finder_->Nearest(place);
+    if (port == nullptr) {
+        return;
+    }
+    const QString miles =
+        QString::number(MeasureLeg(place, port->position, Track::GreatCircle).miles, 'f', 1);
+    const QString text =
+        Word("NEAREST_PORT").replace("%1", QString::fromStdString(port->text)).replace("%2", miles);
+    menu.addAction(text, &chart_,
+                   [this, found = *port] {
+                       GoTo({found.position, found.text, &found});
+                   })
+        ->setObjectName("nearestPort");
+}
+
+void ChartTools::AddParts(QMenu& menu) {
+    for (const ChartPartName& part : kChartPartNames) {
+        QAction* action = menu.addAction(PartWord(part.name), &chart_, [this, part] {
+            ChartParts parts = chart_.Parts();
+            parts.*part.part = !(parts.*part.part);
+            chart_.ShowParts(parts);
+            emit chart_.PartTurned(std::string(part.name), parts.*part.part);
+        });
+        action->setObjectName(
+            QString::fromLatin1(part.name.data(), static_cast<qsizetype>(part.name.size())));
+        action->setCheckable(true);
+        action->setChecked(chart_.Parts().*part.part);
+    }
+}
+
+void ChartTools::OpenGoTo() {
+    goTo_->Open();
+}
+
+void ChartTools::GoTo(const Destination& place) {
+    chart_.CentreOn(place.position, kNearWorld);
+    mark_ = place.port == nullptr ? std::optional(place.position) : std::nullopt;
+    if (place.port != nullptr) {
+        chart_.ShowCard(*place.port);
+    }
+}
+
+void ChartTools::MeasureFrom(GeoPoint place) {
+    measure_.Begin(place);
+    pointer_.reset();
+    chart_.setFocus();
+    Refresh();
+}
+
+bool ChartTools::TakeClick(GeoPoint place) {
+    if (!measure_.IsRunning()) {
+        return false;
+    }
+    measure_.Add(place);
+    Refresh();
+    return true;
+}
+
+void ChartTools::TakePointer(std::optional<GeoPoint> place) {
+    pointer_ = place;
+    if (measure_.IsRunning()) {
+        chart_.update();
+    }
+}
+
+bool ChartTools::TakeKey(int key) {
+    if (key == Qt::Key_Escape && (measure_.IsRunning() || mark_)) {
+        measure_.End();
+        mark_.reset();
+    } else if (key != Qt::Key_Backspace || !measure_.IsRunning()) {
+        return false;
+    } else {
+        measure_.TakeBack();
+    }
+    Refresh();
+    return true;
+}
+
+void ChartTools::Draw(QPainter& painter) {
+    layer_.Draw(painter, chart_.View(), chart_.Palette(), measure_, pointer_);
+    if (mark_) {
+        layer_.DrawMark(painter, chart_.View(), chart_.Palette(), *mark_);
+    }
+}
+
+void ChartTools::Place() {
+    card_->ShowMeasure(measure_);
+    goTo_->Place();
+}
+
+void ChartTools::Refresh() {
+    card_->ShowMeasure(measure_);
+    chart_.update();
+}
+
+}  // namespace Tarvik::Seamap
