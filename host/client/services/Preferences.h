@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,9 @@ struct Preferences {
     std::string server;
     /// Who logged in at that server last.
     std::string user;
+    /// Parts of the chart that a person showed or hid, by the chart's names; the others are as the chart has
+    /// them.
+    std::map<std::string, bool> chartParts{};
 
     /// What the file says; the usual values for whatever it lacks or says wrongly, and for a file that is
     /// none. A language that is not among `languages` is wrong.

@@ -90,7 +90,8 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
                 return ask_ ? ask_(at, user, failure) : std::nullopt;
             });
         // A name that the server refused is nobody's, and would be offered at the next start.
-        link->SetWelcome([this](const std::string& user) { KeepUser(user); });
+        link->SetWelcome(
+            [this](const std::string& user) { Keep([&user](Preferences& kept) { kept.user = user; }); });
         return link;
     }
     auto embedded =
@@ -110,15 +111,14 @@ void ClientSession::LoadPlugins() {
     }
 }
 
-void ClientSession::KeepUser(const std::string& user) {
-    preferences_.user = user;
-    // Only the name is kept: what the command line chose for this time stays out of the file.
-    Preferences kept = Preferences::Read(PreferencesFile(), LanguageFiles::In(folders_.Languages()));
-    if (std::exchange(kept.user, user) == user) {
-        return;
-    }
+void ClientSession::Keep(const std::function<void(Preferences&)>& change) {
+    change(preferences_);
+    // Only this is kept: what the command line chose for this time stays out of the file.
+    const Preferences before = Preferences::Read(PreferencesFile(), LanguageFiles::In(folders_.Languages()));
+    Preferences kept = before;
+    change(kept);
     std::string error;
-    if (!kept.Write(PreferencesFile(), error)) {
+    if (kept != before && !kept.Write(PreferencesFile(), error)) {
         log_.Write(error);
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -50,11 +51,13 @@ class ClientSession {
     /// when the file could not be written, they are in use all the same; or when the server inside the client
     /// cannot be opened, nothing is changed then.
     bool Prefer(const Preferences& preferences, std::string& error);
+    /// Changes what plug-ins need not be told of, and keeps that alone; a file that cannot be written is
+    /// logged.
+    void Keep(const std::function<void(Preferences&)>& change);
 
   private:
     ClientSession(const AppFolders& folders, const SessionOptions& options);
     bool Start(const SessionOptions& options, std::string& error);
-    void KeepUser(const std::string& user);
     void TakeOptions(const SessionOptions& options);
     std::unique_ptr<ServerLink> MakeLink(const std::string& server, std::string& error);
     std::string PreferencesFile() const { return folders_.Data() + "/preferences.json"; }

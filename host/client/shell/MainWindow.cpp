@@ -13,7 +13,6 @@
 #include <string_view>
 #include <utility>
 
-#include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>
 #include <tarvik/bus/SiblingContract.h>
@@ -31,11 +30,13 @@ using Interface::PanelCode::kFleet;
 using Interface::PanelCode::kVoyages;
 
 MainWindow::MainWindow(ClientSession& session)
-    : session_(session), tools_(*this, Tools()), status_(*statusBar(), session) {
+    : session_(session), chart_(session), tools_(*this, Tools()), status_(*statusBar(), session) {
     setObjectName("mainWindow");
     resize(1280, 800);
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
             [this] { ShowHelp("GENERAL", 370); });
+    connect(new QShortcut(QKeySequence("Ctrl+G"), this), &QShortcut::activated, this,
+            [this] { ChartCommand("goto"); });
     connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, [this] { close(); });
     for (const auto& [key, step] :
          {std::pair(QKeySequence("F6"), 1), std::pair(QKeySequence("Shift+F6"), -1)}) {
@@ -77,7 +78,7 @@ std::vector<MainTools::Tool> MainWindow::Tools() {
         {"ZOOM_OUT", "zoomout", "Ctrl+-", [this] { ChartCommand("zoomout"); }},
         {"FIT", "fit", "Ctrl+0", [this] { ChartCommand("fit"); }, true},
         {"THEME", "theme", "Ctrl+T", [this] { NextTheme(); }},
-        {"LANGUAGE", "language", "Ctrl+G", [this] { NextLanguage(); }},
+        {"LANGUAGE", "language", "Ctrl+Shift+G", [this] { NextLanguage(); }},
         {"PREFERENCES", "preferences", "Ctrl+,", [this] { OpenPreferences(); }},
         {"LOGOUT", "logout", "Ctrl+Shift+Q", [this] { LogOut(); }},
     };
@@ -124,7 +125,7 @@ void MainWindow::AttachPlugins() {
 }
 
 void MainWindow::AttachChart() {
-    QWidget* chart = Interface::Call(Interface::Bus::ChartWindow);
+    QWidget* chart = chart_.Open();
     if (!chart) {
         auto* gap = new QLabel(Word("NO_CHART"), this);
         gap->setObjectName("noChart");
@@ -133,7 +134,6 @@ void MainWindow::AttachChart() {
     }
     setCentralWidget(chart);
     chart->setAccessibleName(Word("CHART_NAME"));
-    ChartCommand("theme " + session_.Preferred().theme);
     chart->setFocus();
 }
 
@@ -143,8 +143,7 @@ void MainWindow::TogglePanel(int panel) {
 }
 
 bool MainWindow::ChartCommand(const std::string& command) {
-    return Interface::IsOffered(Interface::Bus::ChartCommand) &&
-           Interface::Call(Interface::Bus::ChartCommand, &command) != nullptr;
+    return chart_.Command(command);
 }
 
 void MainWindow::Prefer(const Preferences& preferences) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/client/session/ClientSession.h"
+#include "host/client/shell/ChartLink.h"
 #include "host/client/shell/MainTools.h"
 #include "host/client/shell/StatusLine.h"
 
@@ -64,6 +65,7 @@ class MainWindow : public QMainWindow {
     QString ToolWord(const char* key) const;
 
     ClientSession& session_;
+    ChartLink chart_;
     MainTools tools_;
     StatusLine status_;
 };

@@ -22,6 +22,7 @@ TEST(Preferences, ComeBackAsTheyWereWritten) {
     const Preferences chosen{"zh-CN", "Europe/Rotterdam", "night", "http://10.0.0.1:80", "anna"};
     Preferences written = chosen;
     written.timeZone = "UTC";
+    written.chartParts = {{"names", false}, {"daylight", true}};
     std::string error;
     ASSERT_TRUE(written.Write(folder.Path("p.json"), error)) << error;
     EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages), written);
@@ -36,6 +37,9 @@ TEST(Preferences, WrongValuesGiveWayToTheUsualOnes) {
     EXPECT_EQ(read.timeZone, "China Standard Time");
     EXPECT_EQ(read.theme, "light");
     EXPECT_EQ(read.server, "");
+    folder.Write("p.json", R"({"chart":{"names":false,"graticule":"no"}})");
+    const std::map<std::string, bool> parts{{"names", false}};
+    EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages).chartParts, parts);
     folder.Write("p.json", "{\"language\":\"zh-");
     EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages), Preferences());
 }

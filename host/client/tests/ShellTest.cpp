@@ -170,7 +170,7 @@ TEST_F(ShellTest, TheLanguageButtonGoesThroughAllLanguagesByTheirOwnNames) {
     auto* language = window.findChild<QAction*>("action_language");
     ASSERT_NE(language, nullptr);
     EXPECT_EQ(language->text(), "简体中文");
-    EXPECT_EQ(language->toolTip(), "Show the client in 简体中文 (Ctrl+G)");
+    EXPECT_EQ(language->toolTip(), "Show the client in 简体中文 (Ctrl+Shift+G)");
     language->trigger();
     EXPECT_EQ(language->text(), "繁體中文");
     language->trigger();
