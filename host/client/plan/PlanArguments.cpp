@@ -76,10 +76,11 @@ class Reader {
     }
 
     void Depart(const std::string& value) {
-        parsed_.arguments.depart = Util::DateTimeUtl::Parse(value.size() == 16 ? value + ":00" : value);
+        parsed_.arguments.depart = ReadDepart(value);
         if (!parsed_.arguments.depart) {
             Bad("--depart", value,
-                "a date and time that exist, as \"2026-12-01 08:00\" or \"2026-12-01 08:00:00\"");
+                "a date, or a date and time, that exist, as 2026-12-01, \"2026-12-01 08:00\" or "
+                "2026-12-01T08:00Z");
         }
     }
 
@@ -193,21 +194,22 @@ class Reader {
         parsed_.arguments.picture = value;
     }
 
-    /// One value counts for all ports; several belong to the ports in order, the rest takes `rest`.
+    /// One value counts for all ports; of several each port has its own. Without any the first port takes
+    /// `first`, the others `rest`.
     template <class T>
     void Spread(std::vector<T>& values, const char* option, const T& first, const T& rest) {
         const std::size_t ports = parsed_.arguments.ports.size();
-        if (values.size() > ports) {
-            error_ = std::string("There are more values of ") + option + " than ports.";
-            return;
-        }
         if (values.size() == 1) {
             values.resize(ports, T(values.front()));
         }
         if (values.empty()) {
             values.push_back(first);
+            values.resize(ports, rest);
         }
-        values.resize(ports, rest);
+        if (values.size() != ports) {
+            error_ = std::to_string(values.size()) + " values of " + option + " for " +
+                     std::to_string(ports) + " ports: give one for all, or one for each.";
+        }
     }
 
     void Finish() {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include <tarvik/util/DateTime.h>
+#include "host/client/plan/DepartText.h"
 
 namespace Tarvik::Client {
 
@@ -13,16 +13,16 @@ enum class PlanFormat { Table, Json, Csv, GeoJson };
 
 /// What the person asked `plan` for, checked as far as it can be without the ports.
 struct PlanArguments {
-    std::vector<std::string> ports;           ///< words as typed, at least two
-    std::optional<Util::_datetime_t> depart;  ///< in the zone's reading
-    std::string zone;                         ///< empty: the person's preference
-    double speed = 10.0;                      ///< knots, 0.01 to 1000
-    double weather = 0;                       ///< fraction, from 0 to below 1
-    std::vector<double> stays;                ///< hours in port, one for each port
-    std::vector<std::string> purposes;        ///< codes, one for each port
-    std::string speedUnit = "kts";            ///< "kts" or "KPH"
-    std::string distanceUnit = "NM";          ///< "NM" or "KM"
-    std::string timeUnit = "day";             ///< "day" or "hour"
+    std::vector<std::string> ports;     ///< words as typed, at least two
+    std::optional<DepartTime> depart;   ///< empty: now
+    std::string zone;                   ///< empty: the person's preference
+    double speed = 10.0;                ///< knots, 0.01 to 1000
+    double weather = 0;                 ///< fraction, from 0 to below 1
+    std::vector<double> stays;          ///< hours in port, one for each port
+    std::vector<std::string> purposes;  ///< codes, one for each port
+    std::string speedUnit = "kts";      ///< "kts" or "KPH"
+    std::string distanceUnit = "NM";    ///< "NM" or "KM"
+    std::string timeUnit = "day";       ///< "day" or "hour"
     PlanFormat format = PlanFormat::Table;
     std::string saveCategory;  ///< empty: nothing is saved
     std::string saveVoyage;

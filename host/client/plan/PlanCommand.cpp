@@ -53,7 +53,7 @@ PlanOutcome FailureOf(const Interface::PlanResult& plan, const std::string& reas
 
 }  // namespace
 
-PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lookup,
+PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lookup, const std::string& zone,
                             Interface::PlanRequest& request) {
     request = {};
     std::string before;
@@ -72,7 +72,7 @@ PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lo
                                  static_cast<float>(arguments.stays[i])});
     }
     if (arguments.depart) {
-        request.start = *arguments.depart;
+        request.start = arguments.depart->In(zone);
     }
     request.save = !arguments.saveVoyage.empty();
     request.category = arguments.saveCategory;

@@ -22,7 +22,7 @@ struct PlanOutcome {
 
 /// Finds the typed ports and makes the request of the planning service. Bad input names the bad word and
 /// candidates.
-PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lookup,
+PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lookup, const std::string& zone,
                             Interface::PlanRequest& request);
 
 /// Calls the planning service on the bus. `result` stays the plug-in's. When it fails, `services` knows what

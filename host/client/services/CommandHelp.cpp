@@ -28,13 +28,13 @@ Options of both
   --server ADDRESS    voyage server for this time, as https://seaplan.example:8470, or embedded; without it, the one
                       of your preferences. plan logs in with $SEAPLAN_USER and $SEAPLAN_PASSWORD; $SEAPLAN_CA_FILE
                       names certificates to trust beside the system's
+  --theme NAME        light, dark or night, of the window or of the plan's picture
+  --lang NAME         @languages
   --verbose           repeats the log on standard error
   --help              this text
   --version           the version
 
 Options of the window
-  --theme NAME        light, dark or night
-  --lang NAME         @languages
   --screenshot FILE   writes a picture of the window to FILE and ends
   --panel CODE        with --screenshot: opens a panel first (3 voyages, 21 port distances)
 
@@ -43,7 +43,8 @@ Ports of plan
   name the busy one is meant. Quote names of several words. A word behind "--" is a port even when it begins with "--".
 
 Options of plan
-  --depart "YYYY-MM-DD HH:MM[:SS]"    arrival at the first port; without it, now
+  --depart "YYYY-MM-DD [HH:MM[:SS]]"  arrival at the first port, a date alone at midnight; also 2026-12-01T08:00, and
+                                      with Z or +08:00 whatever the zone; without it, now
   --zone NAME                         zone of all times ("@zone", Europe/Rotterdam, UTC); without it,
                                       the zone of your preferences
   --speed KNOTS                       speed at sea, above 0; without it, 10
@@ -54,7 +55,7 @@ Options of plan
   --units @units      units of table and csv; without it, kts,nm,day
   --format table|json|csv|geojson     without it, table; json is in knots, nautical miles and hours
   --save CATEGORY/VOYAGE              keeps the voyage; the category is made when it is new, the voyage must be
-  --picture FILE.png                  writes the client's window with the route on the chart
+  --picture FILE                      writes the client's window with the route on the chart, as .png or .jpg
 
 Results go to standard output, everything else to standard error.
 Exit code 0: done; 2: bad input; 1: the plan failed.

@@ -56,6 +56,10 @@ class Sorter {
             line_.session.dataFolder = Value(word);
         } else if (word == "--server") {
             line_.session.server = ServerAddress(word);
+        } else if (word == "--theme") {
+            line_.session.theme = Choice(word, ThemeNames());
+        } else if (word == "--lang") {
+            line_.session.language = Choice(word, LanguageCodes(languages_));
         } else {
             return !line_.plan && TakeWindowOption(word);
         }
@@ -63,11 +67,7 @@ class Sorter {
     }
 
     bool TakeWindowOption(const std::string& word) {
-        if (word == "--theme") {
-            line_.session.theme = Choice(word, ThemeNames());
-        } else if (word == "--lang") {
-            line_.session.language = Choice(word, LanguageCodes(languages_));
-        } else if (word == "--screenshot") {
+        if (word == "--screenshot") {
             line_.screenshot = Value(word);
         } else if (word == "--panel") {
             line_.panel = PanelNumber(word);

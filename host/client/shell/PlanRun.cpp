@@ -114,7 +114,8 @@ int RunPlan(int argc, char** argv, const CommandLine& line) {
     }
     const QtLog log(session->Log());
     Interface::PlanRequest request;
-    const PlanOutcome checked = MakePlanRequest(parsed.arguments, PortLookup(session->Ports()), request);
+    const PlanOutcome checked = MakePlanRequest(parsed.arguments, PortLookup(session->Ports()),
+                                                session->Services().TimeZone(), request);
     if (checked.exitCode != kExitDone) {
         return Tell(checked);
     }

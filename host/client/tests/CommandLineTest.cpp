@@ -48,6 +48,14 @@ TEST(CommandLine, ReadsThePicturesOptions) {
     EXPECT_EQ(line.panel, 3);
 }
 
+TEST(CommandLine, LooksAndLanguageAreThePlansToo) {
+    const CommandLine line = Parsed({"plan", "A", "B", "--theme", "night", "--lang", "zh-CN"});
+    EXPECT_EQ(line.session.theme, "night");
+    EXPECT_EQ(line.session.language, "zh-CN");
+    EXPECT_THAT(line.planWords, ElementsAre("A", "B"));
+    EXPECT_THAT(Parsed({"plan", "A", "B", "--theme", "pink"}).error, HasSubstr("\"pink\" of --theme"));
+}
+
 TEST(CommandLine, NamesABadWord) {
     EXPECT_THAT(Parsed({"plain"}).error, HasSubstr("\"plain\""));
     EXPECT_THAT(Parsed({"--theme", "pink"}).error, HasSubstr("\"pink\" of --theme"));

@@ -33,8 +33,10 @@ TEST(PlanArguments, HasTheUsualValues) {
 }
 
 TEST(PlanArguments, ReadsDepartWithAndWithoutSeconds) {
-    EXPECT_EQ(Good({"--depart", "2026-12-01 08:00"}).depart->fmt("%Y-%m-%d %H:%M:%S"), "2026-12-01 08:00:00");
-    EXPECT_EQ(Good({"--depart=2028-02-29 23:59:58"}).depart->fmt("%Y-%m-%d %H:%M:%S"), "2028-02-29 23:59:58");
+    EXPECT_EQ(Good({"--depart", "2026-12-01 08:00"}).depart->time.fmt("%Y-%m-%d %H:%M:%S"),
+              "2026-12-01 08:00:00");
+    EXPECT_EQ(Good({"--depart=2028-02-29 23:59:58"}).depart->time.fmt("%Y-%m-%d %H:%M:%S"),
+              "2028-02-29 23:59:58");
 }
 
 TEST(PlanArguments, ReadsNumbersUnitsFormatAndNames) {
@@ -53,9 +55,9 @@ TEST(PlanArguments, ReadsNumbersUnitsFormatAndNames) {
 
 TEST(PlanArguments, OneStayCountsForAllSeveralGoByPort) {
     EXPECT_THAT(Good({"--stay", "24"}).stays, ElementsAre(24, 24, 24));
-    EXPECT_THAT(Good({"--stay", "24,12.5"}).stays, ElementsAre(24, 12.5, 0));
+    EXPECT_THAT(Good({"--stay", "24,12.5,0"}).stays, ElementsAre(24, 12.5, 0));
     EXPECT_THAT(Good({"--purpose", "c"}).purposes, ElementsAre("C", "C", "C"));
-    EXPECT_THAT(Good({"--purpose", "B,L"}).purposes, ElementsAre("B", "L", "D"));
+    EXPECT_THAT(Good({"--purpose", "B,L,D"}).purposes, ElementsAre("B", "L", "D"));
 }
 
 TEST(PlanArguments, ADoubleDashEndsTheOptions) {
@@ -88,11 +90,13 @@ INSTANTIATE_TEST_SUITE_P(
                     BadCase{{"A", "B", "--weather", "-1"}, "\"-1\" of --weather"},
                     BadCase{{"A", "B", "--depart", "2026-02-30 08:00"}, "\"2026-02-30 08:00\" of --depart"},
                     BadCase{{"A", "B", "--depart", "tomorrow"}, "\"tomorrow\" of --depart"},
-                    BadCase{{"A", "B", "--depart", "2026-12-01"}, "of --depart"},
+                    BadCase{{"A", "B", "--depart", "2026-12-01T"}, "of --depart"},
                     BadCase{{"A", "B", "--zone", "Middle/Earth"}, "\"Middle/Earth\" of --zone"},
                     BadCase{{"A", "B", "--stay", "1,x"}, "\"x\" of --stay"},
                     BadCase{{"A", "B", "--stay", ""}, "of --stay"},
-                    BadCase{{"A", "B", "--stay", "1,2,3"}, "more values of --stay than ports"},
+                    BadCase{{"A", "B", "--stay", "1,2,3"}, "3 values of --stay for 2 ports"},
+                    BadCase{{"A", "B", "C", "--stay", "1,2"}, "2 values of --stay for 3 ports"},
+                    BadCase{{"A", "B", "C", "--purpose", "L,D"}, "2 values of --purpose for 3 ports"},
                     BadCase{{"A", "B", "--purpose", "Q"}, "\"Q\" of --purpose"},
                     BadCase{{"A", "B", "--units", "kts,ell"}, "\"ell\" of --units"},
                     BadCase{{"A", "B", "--format", "xml"}, "\"xml\" of --format"},

@@ -54,7 +54,7 @@ TEST(PlanRequest, CarriesPortsAndFigures) {
     const auto outcome = MakePlanRequest(
         Arguments({"xxalp", "40002", "--speed", "14", "--weather", "5", "--stay", "6,7", "--purpose", "B,C",
                    "--depart", "2026-12-01 08:00", "--save", "Mine/First"}),
-        Lookup(), request);
+        Lookup(), "UTC", request);
     EXPECT_EQ(outcome.exitCode, kExitDone);
     ASSERT_EQ(request.ports.size(), 2U);
     EXPECT_EQ(request.ports[0].name, "Alpha");
@@ -70,14 +70,14 @@ TEST(PlanRequest, CarriesPortsAndFigures) {
 
 TEST(PlanRequest, NamesAnUnknownPortWithTheNearest) {
     Interface::PlanRequest request;
-    const auto outcome = MakePlanRequest(Arguments({"Alfa", "Beta"}), Lookup(), request);
+    const auto outcome = MakePlanRequest(Arguments({"Alfa", "Beta"}), Lookup(), "UTC", request);
     EXPECT_EQ(outcome.exitCode, kExitBadInput);
     EXPECT_THAT(outcome.message, HasSubstr("Unknown port \"Alfa\". Did you mean Alpha (XXALP, 40001)"));
 }
 
 TEST(PlanRequest, NamesAnAmbiguousPortWithItsCandidates) {
     Interface::PlanRequest request;
-    const auto outcome = MakePlanRequest(Arguments({"Alpha", "be"}), Lookup(), request);
+    const auto outcome = MakePlanRequest(Arguments({"Alpha", "be"}), Lookup(), "UTC", request);
     EXPECT_EQ(outcome.exitCode, kExitBadInput);
     EXPECT_THAT(outcome.message,
                 HasSubstr("\"be\" is ambiguous. Did you mean Beta (40002) or Bert (40003)?"));
@@ -85,7 +85,8 @@ TEST(PlanRequest, NamesAnAmbiguousPortWithItsCandidates) {
 
 TEST(PlanRequest, RefusesAPortBehindItself) {
     Interface::PlanRequest request;
-    EXPECT_EQ(MakePlanRequest(Arguments({"Alpha", "40001"}), Lookup(), request).exitCode, kExitBadInput);
+    EXPECT_EQ(MakePlanRequest(Arguments({"Alpha", "40001"}), Lookup(), "UTC", request).exitCode,
+              kExitBadInput);
 }
 
 TEST(PlanCall, SaysSoWhenNobodyPlans) {
