@@ -19,6 +19,23 @@ double DistanceToSegment(PixelPoint point, PixelPoint from, PixelPoint to) {
     return std::hypot(point.x - from.x - share * dx, point.y - from.y - share * dy);
 }
 
+std::size_t LegNear(const ChartLine& line, PixelPoint pixel, const MercatorView& view) {
+    std::size_t leg = 1;
+    double nearest = std::numeric_limits<double>::infinity();
+    const auto turns = view.TurnsOf(line.minX, line.maxX, line.width);
+    for (int turn = turns.first; turn <= turns.last; ++turn) {
+        for (std::size_t i = 1; i < line.points.size(); ++i) {
+            const double away = DistanceToSegment(pixel, view.ToScreen(line.points[i - 1], turn),
+                                                  view.ToScreen(line.points[i], turn));
+            if (away < nearest) {
+                nearest = away;
+                leg = i;
+            }
+        }
+    }
+    return leg;
+}
+
 const ChartObject* HitTest::At(PixelPoint pixel) const {
     const ChartObject* best = nullptr;
     double nearest = kTolerance;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <functional>
 
 #include "host/plugins/seamap/core/ChartObjects.h"
@@ -10,6 +11,9 @@ namespace Tarvik::Seamap {
 
 /// Distance in pixels from a point to a segment.
 double DistanceToSegment(PixelPoint point, PixelPoint from, PixelPoint to);
+
+/// The leg of a line that is nearest to a pixel: the index of the point at its end, from 1.
+std::size_t LegNear(const ChartLine& line, PixelPoint pixel, const MercatorView& view);
 
 /// Finds the object under a pixel.
 class HitTest {

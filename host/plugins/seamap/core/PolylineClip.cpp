@@ -2,6 +2,7 @@
 #include "host/plugins/seamap/core/PolylineClip.h"
 
 #include <cmath>
+#include <numbers>
 #include <utility>
 
 namespace Tarvik::Seamap {
@@ -91,6 +92,26 @@ std::vector<PolylineRun> ClipPolyline(std::span<const WorldPoint> points, const 
         last = here;
     }
     return runs;
+}
+
+std::vector<CourseMark> CourseMarks(const PolylineRun& run, double spacing) {
+    constexpr double kDegreesPerRadian = 180 / std::numbers::pi;
+    constexpr double kHalf = 0.5;
+    std::vector<CourseMark> marks;
+    double passed = run.start;
+    double next = (std::ceil(passed / spacing - kHalf) + kHalf) * spacing;
+    for (std::size_t i = 1; i < run.points.size(); ++i) {
+        const double dx = run.points[i].x - run.points[i - 1].x;
+        const double dy = run.points[i].y - run.points[i - 1].y;
+        const double length = std::hypot(dx, dy);
+        for (; length > 0 && next <= passed + length; next += spacing) {
+            const double share = (next - passed) / length;
+            marks.push_back({{run.points[i - 1].x + share * dx, run.points[i - 1].y + share * dy},
+                             std::atan2(dx, -dy) * kDegreesPerRadian});
+        }
+        passed += length;
+    }
+    return marks;
 }
 
 std::vector<PixelPoint> ClipPolygon(std::vector<PixelPoint> points, double width, double height,

@@ -20,6 +20,14 @@ struct PolylineRun {
 std::vector<PolylineRun> ClipPolyline(std::span<const WorldPoint> points, const MercatorView& view, int turn,
                                       double margin, double detail);
 
+/// A place on a run where an arrow tells the way.
+struct CourseMark {
+    PixelPoint at;
+    double degrees = 0;  ///< clockwise from upwards
+};
+/// Marks along a run, `spacing` pixels apart, at places of the line that stay while the view moves.
+std::vector<CourseMark> CourseMarks(const PolylineRun& run, double spacing);
+
 /// A polygon cut at the window widened by `margin` pixels; what lies outside runs along the edge. Empty when
 /// nothing of it lies inside.
 std::vector<PixelPoint> ClipPolygon(std::vector<PixelPoint> points, double width, double height,

@@ -20,7 +20,7 @@ inline QString CardSheet(const QString& name, const ChartPalette& palette) {
                "4px; } "
                "#%1 QLineEdit:focus, #%1 QDoubleSpinBox:focus { border-color: %6; } "
                "#%1 QListView { border: 0; } #%1 QListView::item:selected { background: %6; color: %2; }")
-        .arg(name, colour(palette.halo), colour(palette.text), colour(palette.outline),
+        .arg(name, colour(palette.halo), colour(palette.text), colour(palette.graticule),
              colour(palette.secondaryText), colour(palette.accent));
 }
 

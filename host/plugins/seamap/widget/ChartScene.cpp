@@ -8,6 +8,7 @@
 
 #include "host/plugins/seamap/core/Daylight.h"
 #include "host/plugins/seamap/core/HitTest.h"
+#include "host/plugins/seamap/core/Measure.h"
 #include "host/plugins/seamap/widget/ChartCamera.h"
 #include "host/plugins/seamap/widget/Furniture.h"
 #include "host/plugins/seamap/widget/ObjectPainter.h"
@@ -79,22 +80,32 @@ std::optional<ChartScene::Met> ChartScene::At(PixelPoint pixel, const MercatorVi
                        QString::fromStdString(ship->tip + "\n" + FormatPosition(ship->position))};
         }
     }
-    return object ? std::optional(Met{object->key, TipOf(*object)}) : std::nullopt;
+    if (object == nullptr) {
+        return std::nullopt;
+    }
+    return Met{object->key, TipOf(*object, pixel, view), std::holds_alternative<ChartLine>(object->shape)};
 }
 
 const ChartName* ChartScene::PortAt(PixelPoint pixel, const MercatorView& view, qreal pixelRatio) {
     const auto met = At(pixel, view, pixelRatio);
-    const bool isLine = met && met->tip.isEmpty();
-    return met && !isLine ? nullptr : names_.PortAt(pixel);
+    return met && !met->isLine ? nullptr : names_.PortAt(pixel);
 }
 
-QString ChartScene::TipOf(const ChartObject& object) {
+QString ChartScene::TipOf(const ChartObject& object, PixelPoint pixel, const MercatorView& view) {
     if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {
         const QString place = QString::fromStdString(FormatPosition(label->position));
         return label->text.empty() ? place : QString::fromStdString(label->text) + "\n" + place;
     }
     if (const auto* image = std::get_if<ChartImage>(&object.shape)) {
         return QString::fromStdString(FormatPosition(image->position));
+    }
+    if (const auto* line = std::get_if<ChartLine>(&object.shape)) {
+        const std::size_t to = LegNear(*line, pixel, view);
+        // As it is drawn: straight on this chart.
+        const MeasuredLeg leg =
+            MeasureLeg(Unproject(line->points[to - 1]), Unproject(line->points[to]), Track::RhumbLine);
+        return QString::fromStdString(FormatPosition(leg.from) + "\n" + FormatPosition(leg.to) + "\n" +
+                                      LegText(leg));
     }
     return {};
 }

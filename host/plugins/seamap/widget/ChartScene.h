@@ -37,7 +37,8 @@ class ChartScene {
     /// What lies under a pixel.
     struct Met {
         ObjectKey key;
-        QString tip;  ///< what is told of it to someone who points at it; empty for a line
+        QString tip;  ///< what is told of it to someone who points at it; of a line the leg there
+        bool isLine = false;
     };
     /// The object or ship under a pixel: points and images before ships, ships before lines.
     std::optional<Met> At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio);
@@ -49,7 +50,7 @@ class ChartScene {
 
   private:
     void PaintNight(QPainter& painter, const MercatorView& view) const;
-    static QString TipOf(const ChartObject& object);
+    static QString TipOf(const ChartObject& object, PixelPoint pixel, const MercatorView& view);
 
     const ChartObjects& objects_;
     const ChartPalette* palette_ = &ChartPalette::Of(ChartPalette::Theme::Light);

@@ -55,6 +55,7 @@ MeasureCard::MeasureCard(QWidget* chart)
     knots_->setRange(kLeast, kMost);
     knots_->setDecimals(1);
     knots_->setSuffix(" kn");
+    knots_->setButtonSymbols(QAbstractSpinBox::NoButtons);  // the arrow keys and the wheel turn it
     knots_->setValue(Measure::kUsualKnots);
     auto* column = new QVBoxLayout(this);
     column->addWidget(title_);

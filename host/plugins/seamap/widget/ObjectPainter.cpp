@@ -8,7 +8,6 @@
 #include <array>
 #include <cmath>
 
-#include "host/plugins/seamap/core/PolylineClip.h"
 #include "host/plugins/seamap/widget/HaloTexts.h"
 #include "host/plugins/seamap/widget/ImageStore.h"
 
@@ -19,6 +18,7 @@ namespace {
 constexpr double kMargin = 32;          ///< pixels around the window in which things are still drawn
 constexpr double kDetail = 0.7;         ///< pixels between the points of a line that are told apart
 constexpr std::size_t kManyLines = 50;  ///< from here on wide pens are too slow
+constexpr double kArrowSpacing = 140;   ///< pixels between the arrows of a line
 constexpr int kTextSize = 12;
 constexpr double kTextGap = 4;
 constexpr double kDash = 6, kGap = 4;  ///< pixels
@@ -96,6 +96,9 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
             painter_.setPen(pen);
             if (!thin || line.width == 1) {
                 DrawRun(run.points);
+                if (!thin) {
+                    DrawArrows(run, pen.color());
+                }
                 continue;
             }
             // Two fine lines side by side look like a wide one and stay on the fast path.
@@ -106,6 +109,20 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
             painter_.translate(-0.33, -0.33);
         }
     }
+}
+
+void ObjectPainter::DrawArrows(const PolylineRun& run, const QColor& colour) {
+    static const QPolygonF kArrow({{0, -5.5}, {4.5, 4.5}, {0, 2}, {-4.5, 4.5}});
+    painter_.setPen(QPen(QColor(look_.palette.halo), 1));
+    painter_.setBrush(colour);
+    for (const CourseMark& mark : CourseMarks(run, kArrowSpacing)) {
+        painter_.save();
+        painter_.translate(mark.at.x, mark.at.y);
+        painter_.rotate(mark.degrees);
+        painter_.drawPolygon(kArrow);
+        painter_.restore();
+    }
+    painter_.setBrush(Qt::NoBrush);
 }
 
 void ObjectPainter::DrawRun(const std::vector<PixelPoint>& points) {

@@ -8,7 +8,9 @@
 #include "host/plugins/seamap/core/ChartPalette.h"
 #include "host/plugins/seamap/core/LabelRoom.h"
 #include "host/plugins/seamap/core/MercatorView.h"
+#include "host/plugins/seamap/core/PolylineClip.h"
 
+class QColor;
 class QPainter;
 
 namespace Tarvik::Seamap {
@@ -41,6 +43,7 @@ class ObjectPainter {
     };
     void DrawLines(const std::vector<Stroke>& lines);
     void DrawLine(const Stroke& stroke, bool thin);
+    void DrawArrows(const PolylineRun& run, const QColor& colour);
     void DrawRun(const std::vector<PixelPoint>& points);
     void DrawPoint(const ChartLabel& label, bool highlighted);
     void DrawImage(const ChartObjects& objects, const ChartImage& image, bool highlighted);

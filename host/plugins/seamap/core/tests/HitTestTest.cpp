@@ -82,5 +82,18 @@ TEST_F(HitTestTest, AnEmptyChartHasNothing) {
     EXPECT_EQ(At(500, 250), "");
 }
 
+TEST_F(HitTestTest, TheLegOfALineIsTheOneBesideThePixel) {
+    Line("a", {"-10,0", "10,0", "10,10", "-5,10"});
+    const auto& line = std::get<ChartLine>(objects_.Find({"L", "T", "a"})->shape);
+    EXPECT_EQ(LegNear(line, view_.ToScreen(GeoPoint{0, 0}), view_), 1U);
+    EXPECT_EQ(LegNear(line, view_.ToScreen(GeoPoint{9.9, 6}), view_), 2U);
+    EXPECT_EQ(LegNear(line, view_.ToScreen(GeoPoint{-8, 10}), view_), 3U);
+    view_.Show(Project({180, 0}), 3600);
+    Line("b", {"170,0", "-170,0", "-160,0"});
+    const auto& over = std::get<ChartLine>(objects_.Find({"L", "T", "b"})->shape);
+    EXPECT_EQ(LegNear(over, view_.ToScreen(GeoPoint{-175, 0}), view_), 1U) << "over the date line";
+    EXPECT_EQ(LegNear(over, view_.ToScreen(GeoPoint{-165, 0}), view_), 2U);
+}
+
 }  // namespace
 }  // namespace Tarvik::Seamap

@@ -70,5 +70,21 @@ TEST(ClipPolygon, KeepsWhatIsInside) {
     EXPECT_EQ(ClipPolygon({{10, 10}, {20, 10}, {20, 20}}, 100, 50, 10).size(), 3u);
 }
 
+TEST(CourseMarks, PointAlongTheWayAndStayAtTheirPlacesOfTheLine) {
+    const PolylineRun run{{{0, 0}, {100, 0}, {100, 300}}, 0};
+    const auto marks = CourseMarks(run, 100);
+    ASSERT_EQ(marks.size(), 4U);
+    EXPECT_DOUBLE_EQ(marks[0].at.x, 50);
+    EXPECT_DOUBLE_EQ(marks[0].degrees, 90) << "to the right";
+    EXPECT_DOUBLE_EQ(marks[1].at.y, 50);
+    EXPECT_DOUBLE_EQ(marks[1].degrees, 180) << "downwards";
+    const PolylineRun later{{{30, 0}, {100, 0}}, 30};
+    ASSERT_EQ(CourseMarks(later, 100).size(), 1U);
+    EXPECT_DOUBLE_EQ(CourseMarks(later, 100)[0].at.x, 50) << "the same place, though the run begins later";
+    const PolylineRun behind{{{60, 0}, {100, 0}}, 60};
+    EXPECT_TRUE(CourseMarks(behind, 100).empty());
+    EXPECT_TRUE(CourseMarks({{{5, 5}, {5, 5}}, 0}, 100).empty());
+}
+
 }  // namespace
 }  // namespace Tarvik::Seamap

@@ -4,10 +4,12 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDoubleSpinBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -172,6 +174,16 @@ TEST_F(ChartToolsTest, TheNightLiesOverTheChartByTheClock) {
     clock.now += 15 * 360000;
     EXPECT_LT(qGray(chart_.grab().toImage().pixel(200, 420)), qGray(plain));
     Util::Clock::Set(nullptr);
+}
+
+TEST_F(ChartToolsTest, ALineTellsItsLegToWhoPointsAtIt) {
+    objects_.AddLine({{"L", "1", "ROUTE"}, {"2.5,52", "4,52", "5,52.5"}, 0, 2, "solid"});
+    QHelpEvent first(QEvent::ToolTip, At({3.2, 52}), chart_.mapToGlobal(At({3.2, 52})));
+    QApplication::sendEvent(&chart_, &first);
+    const MeasuredLeg leg = MeasureLeg({2.5, 52}, {4, 52}, Track::RhumbLine);
+    EXPECT_EQ(QToolTip::text().toStdString(),
+              FormatPosition(leg.from) + "\n" + FormatPosition(leg.to) + "\n" + LegText(leg));
+    EXPECT_TRUE(QToolTip::text().contains(QString::fromUtf8("090°")));
 }
 
 }  // namespace
