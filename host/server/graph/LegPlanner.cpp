@@ -2,14 +2,15 @@
 #include "host/server/graph/LegPlanner.h"
 
 #include <algorithm>
-#include <numeric>
+#include <limits>
+#include <utility>
+
+#include "host/server/graph/PassageReach.h"
 
 namespace Tarvik::Server {
 
 namespace {
 
-/// More choices on one leg than this are tried in the order given only.
-constexpr std::size_t kMaxPermuted = 4;
 /// A passage that makes the way this many times as long is no alternative.
 constexpr double kFarthestOffer = 2.0;
 
@@ -18,12 +19,6 @@ bool ShareGroup(const NetworkData& data, std::uint16_t a, std::uint16_t b) {
     return std::any_of(groups.begin(), groups.end(), [b](const AlternativeGroup& group) {
         return std::find(group.begin(), group.end(), b) != group.end();
     });
-}
-
-void Join(NodePath& path, const NodePath& more) {
-    path.nodes.insert(path.nodes.end(), more.nodes.begin() + 1, more.nodes.end());
-    path.edges.insert(path.edges.end(), more.edges.begin(), more.edges.end());
-    path.nm += more.nm;
 }
 
 }  // namespace
@@ -113,47 +108,8 @@ GateMask LegPlanner::ForbiddenFor(const Stretches& chosen) const {
     return forbidden | never_;
 }
 
-std::optional<NodePath> LegPlanner::PathThrough(const std::vector<std::uint32_t>& stations,
-                                                const GateMask& forbidden) const {
-    NodePath path;
-    path.nodes.push_back(stations.front());
-    for (std::size_t i = 1; i < stations.size(); ++i) {
-        // Looked for from one end whichever way the ship goes, so that both ways are one.
-        const auto [low, high] = std::minmax(stations[i - 1], stations[i]);
-        std::optional<NodePath> more = FindPath(network_, low, high, forbidden);
-        if (!more) {
-            return std::nullopt;
-        }
-        if (low != stations[i - 1]) {
-            std::reverse(more->nodes.begin(), more->nodes.end());
-            std::reverse(more->edges.begin(), more->edges.end());
-        }
-        Join(path, *more);
-    }
-    return path;
-}
-
-std::optional<NodePath> LegPlanner::BestOrder(std::uint32_t from, std::uint32_t to, Stretches chosen,
-                                              const GateMask& forbidden) const {
-    std::vector<std::size_t> order(chosen.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::optional<NodePath> best;
-    do {
-        std::vector<std::uint32_t> stations{from};
-        for (const std::size_t i : order) {
-            stations.insert(stations.end(), chosen[i].nodes.begin(), chosen[i].nodes.end());
-        }
-        stations.push_back(to);
-        std::optional<NodePath> path = PathThrough(stations, forbidden);
-        if (path && (!best || path->nm < best->nm)) {
-            best = std::move(path);
-        }
-    } while (chosen.size() <= kMaxPermuted && std::next_permutation(order.begin(), order.end()));
-    return best;
-}
-
-std::vector<std::string> LegPlanner::Offers(const std::string& from, const std::string& to,
-                                            std::uint16_t passed, double nm) const {
+std::vector<std::string> LegPlanner::Offers(const RouteEnd& from, const RouteEnd& to, std::uint16_t passed,
+                                            double nm) const {
     const NetworkData& data = network_.data();
     std::vector<std::uint16_t> candidates;
     for (const AlternativeGroup& group : data.routePoints[passed].groups) {
@@ -165,8 +121,8 @@ std::vector<std::string> LegPlanner::Offers(const std::string& from, const std::
     }
     std::vector<std::string> ids;
     for (const std::uint16_t other : candidates) {
-        const ReachEntry& before = network_.Reach(other, from);
-        const ReachEntry& behind = network_.Reach(other, to);
+        const ReachEntry before = ReachOf(other, from);
+        const ReachEntry behind = ReachOf(other, to);
         const bool turnsBack = before.side == behind.side && before.side != 0;
         if (!turnsBack && before.nm + behind.nm <= kFarthestOffer * nm && !never_[other]) {
             ids.push_back(data.routePoints[other].id);
@@ -175,63 +131,46 @@ std::vector<std::string> LegPlanner::Offers(const std::string& from, const std::
     return ids;
 }
 
-template <typename Search>
-auto LegPlanner::OpeningBySteps(GateMask& forbidden, Search search) const {
-    auto found = search();
-    if (found) {
-        return found;
+ReachEntry LegPlanner::ReachOf(std::uint16_t passage, const RouteEnd& end) const {
+    if (!end.beside) {
+        return network_.Reach(passage, end.id);
     }
-    const GateMask before = forbidden;
-    network_.OpenIce(forbidden);
-    forbidden |= never_;
-    found = search();
-    for (std::size_t i = 0; !found && i < network_.data().routePoints.size(); ++i) {
-        if (before[i] && network_.data().routePoints[i].shut && !never_[i]) {
-            forbidden = before;
-            forbidden[i] = false;
-            found = search();
-        }
-    }
-    if (!found) {
-        forbidden = never_;
-        found = search();
-    }
-    return found;
-}
-
-std::vector<GeoPoint> LegPlanner::Way(std::uint32_t from, std::uint32_t to) const {
-    GateMask forbidden = closed_;
-    const auto path = OpeningBySteps(forbidden, [&] { return PathThrough({from, to}, forbidden); });
+    const RoutePoint& point = network_.data().routePoints[passage];
+    const std::uint32_t node = end.nodes.front();
+    const auto path = FindPath(network_, point.node, node, network_.ForbiddenBy(passage));
     if (!path) {
-        return {};
+        return {std::numeric_limits<float>::infinity(), 0};
     }
-    return PathShape::Densify(shape_.Taut(*path, forbidden, {}));
+    const auto nm = static_cast<float>(path->nm + NmAside(end, node));
+    const auto& nodes = network_.data().nodes;
+    const bool leaves = path->nodes.size() > 1;
+    return {nm, leaves ? SideOfGate(point, nodes[path->nodes[0]], nodes[path->nodes[1]]) : std::uint8_t{0}};
 }
 
 std::optional<PlannedStop> LegPlanner::Plan(const std::string& fromId, const RouteRequestPoint& to,
                                             std::string& error) const {
-    const std::optional<Stretches> chosen = StretchesOf(fromId, to, error);
+    return Plan({fromId, {*network_.NodeOf(fromId)}, std::nullopt},
+                {to.id, {*network_.NodeOf(to.id)}, std::nullopt}, to, error);
+}
+
+std::optional<PlannedStop> LegPlanner::Plan(const RouteEnd& from, const RouteEnd& to,
+                                            const RouteRequestPoint& request, std::string& error) const {
+    const std::optional<Stretches> chosen = StretchesOf(from.id, request, error);
     if (!chosen) {
         return std::nullopt;
     }
-    const std::uint32_t fromNode = *network_.NodeOf(fromId);
-    const std::uint32_t toNode = *network_.NodeOf(to.id);
-    GateMask forbidden = ForbiddenFor(*chosen);
-    const std::optional<NodePath> path =
-        OpeningBySteps(forbidden, [&] { return BestOrder(fromNode, toNode, *chosen, forbidden); });
-    if (!path) {
-        error = "there is no way by sea from " + fromId + " to " + to.id;
+    const std::optional<Drawn> way = Corners(from, to, *chosen);
+    if (!way) {
+        error = "there is no way by sea from " + from.id + " to " + to.id;
         return std::nullopt;
     }
-    std::vector<std::uint32_t> pinned;
     PlannedStop stop;
     stop.pointId = to.id;
     for (const Stretch& stretch : *chosen) {
-        pinned.insert(pinned.end(), stretch.nodes.begin(), stretch.nodes.end());
         stop.locks += (stop.locks.empty() ? "" : ".") + stretch.text;
     }
-    stop.legs = shape_.Split(PathShape::Densify(shape_.Taut(*path, forbidden, pinned)), fromId, to.id);
-    stop.passedIds.push_back(fromId);
+    stop.legs = shape_.Split(PathShape::Densify(way->corners), from.id, to.id);
+    stop.passedIds.push_back(from.id);
     for (const RouteLeg& leg : stop.legs) {
         stop.distanceKm += leg.distanceKm;
         stop.passedIds.push_back(leg.endId);
@@ -239,9 +178,9 @@ std::optional<PlannedStop> LegPlanner::Plan(const std::string& fromId, const Rou
         if (!passed || leg.endId == to.id) {
             continue;
         }
-        std::vector<std::string> alternatives = Offers(fromId, to.id, *passed, path->nm);
+        std::vector<std::string> alternatives = Offers(from, to, *passed, way->nm);
         if (!alternatives.empty()) {
-            stop.groups.push_back({leg.endId, fromId, to.id, std::move(alternatives)});
+            stop.groups.push_back({leg.endId, from.id, to.id, std::move(alternatives)});
         }
     }
     return stop;

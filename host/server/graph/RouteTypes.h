@@ -57,6 +57,12 @@ struct RouteLimits {
     std::vector<std::string> opened;  ///< passages that are shut unless asked for
 };
 
+/// A place that may be a stop and is not in the network.
+struct OwnPort {
+    std::string id;
+    GeoPoint position;  ///< degrees
+};
+
 /// What can be wrong with a request; the numbers go to the client as `eid` and never change their meaning.
 enum RouteError : int {
     kRouteOk = 0,

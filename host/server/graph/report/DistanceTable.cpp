@@ -34,7 +34,7 @@ void Measure(const Places& places, const RouteEngine& engine, DistanceLine& line
     }
     const auto miles = [&](const StatedPassages& passages) {
         const RouteResult result = engine.Plan({{from, {}, {}}, places.StopBy(passages.through, from, to)},
-                                               places.WithoutPassages(passages.without));
+                                               {}, places.WithoutPassages(passages.without));
         line.fault = result.message;
         return result.error == kRouteOk ? result.stops[1].distanceKm / kKmPerNm : 0.0;
     };

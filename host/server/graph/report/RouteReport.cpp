@@ -94,7 +94,7 @@ class RouteAnswer {
 
   private:
     RouteResult Plan(const std::vector<std::string>& via) const {
-        return engine_.Plan({{from_, {}, {}}, places_.StopBy(via, from_, to_)}, limits_);
+        return engine_.Plan({{from_, {}, {}}, places_.StopBy(via, from_, to_)}, {}, limits_);
     }
     std::string NameOf(const std::string& id) const {
         const auto point = network_.RoutePointIndex(id);
