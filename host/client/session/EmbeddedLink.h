@@ -18,6 +18,9 @@ class LateRouteSource : public Server::RouteSource {
     explicit LateRouteSource(const std::string& networkFile);
     std::string Plan(std::string_view requestJson) override;
     std::string Nearest(std::string_view requestJson) override;
+    std::string PlanWith(std::string_view requestJson, const std::vector<Server::PlaceRecord>& own) override;
+    std::string NearestWith(std::string_view requestJson,
+                            const std::vector<Server::PlaceRecord>& own) override;
     /// Without a network every port counts as known, as nothing tells them apart.
     bool KnowsPort(const std::string& id) override;
 

@@ -30,6 +30,18 @@ std::string LateRouteSource::Nearest(std::string_view requestJson) {
     return loaded.source ? loaded.source->Nearest(requestJson) : loaded.failure;
 }
 
+std::string LateRouteSource::PlanWith(std::string_view requestJson,
+                                      const std::vector<Server::PlaceRecord>& own) {
+    const Loaded& loaded = *loaded_.get();
+    return loaded.source ? loaded.source->PlanWith(requestJson, own) : loaded.failure;
+}
+
+std::string LateRouteSource::NearestWith(std::string_view requestJson,
+                                         const std::vector<Server::PlaceRecord>& own) {
+    const Loaded& loaded = *loaded_.get();
+    return loaded.source ? loaded.source->NearestWith(requestJson, own) : loaded.failure;
+}
+
 bool LateRouteSource::KnowsPort(const std::string& id) {
     const Loaded& loaded = *loaded_.get();
     return !loaded.source || loaded.source->KnowsPort(id);

@@ -41,6 +41,15 @@ std::string LoadFleet(const CommandCall& call);
 /// `type` 0 add, 1 change, 2 remove.
 std::string ChangeFleet(const CommandCall& call);
 
+/// The own ports of the user that the request names, who must be the caller.
+std::string LoadPlaces(const CommandCall& call);
+/// `type` 0 add, 1 change, 2 remove.
+std::string ChangePlace(const CommandCall& call);
+/// The sea route along stops, which may be own ports of the user's.
+std::string PlanRoute(const CommandCall& call);
+/// The way from a position to a port, which may be one of the user's own.
+std::string FindNearest(const CommandCall& call);
+
 /// The remarks of one object: `optype` 1 add, 2 delete one, 3 change, 4 list.
 std::string KeepRemarks(const CommandCall& call);
 

@@ -14,14 +14,6 @@ using Interface::kRemarkModuleWord;
 using Interface::kVoyageModuleWord;
 using Interface::VoyCommand;
 
-std::string PlanRoute(const CommandCall& call) {
-    return call.routes.Plan(call.text);
-}
-
-std::string FindNearest(const CommandCall& call) {
-    return call.routes.Nearest(call.text);
-}
-
 constexpr std::array kCommands = {
     CommandEntry{kVoyageModuleWord, VoyCommand::SearchRoute, "finds a route",
                  R"({"rp_id":"","orig_rp_id":"","leg":-1,"rp_group":"","pointList":"40389#40208"})", "1",
@@ -62,6 +54,11 @@ constexpr std::array kCommands = {
         kVoyageModuleWord, VoyCommand::ChangeFleet, "changes a vessel of the fleet",
         R"({vsi:"",type:"0",vsn:"Meridian",vsmsi:"477123456",vsimo:"9134270",vscs:"VRAB2",vst:"Tanker",vsl:"229.0",vsp:"25.928"})",
         "16", CommandKind::Change, &ChangeFleet},
+    CommandEntry{kVoyageModuleWord, VoyCommand::LoadPlaces, "loads a user's own ports", R"({ui:"anna"})",
+                 "17", CommandKind::Read, &LoadPlaces},
+    CommandEntry{kVoyageModuleWord, VoyCommand::ChangePlace, "changes an own port",
+                 R"({ppi:"",type:"0",ppn:"Berth 7",xc:"4.050",yc:"51.980"})", "18", CommandKind::Change,
+                 &ChangePlace},
     CommandEntry{kRemarkModuleWord, VoyCommand::Remarks, "keeps remarks",
                  R"({optype:"4",type:"3",objectid:"9"})", "remark", CommandKind::Change, &KeepRemarks},
 };

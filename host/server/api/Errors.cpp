@@ -33,6 +33,7 @@ constexpr ErrorRow kErrors[] = {
     {ErrorCode::ReplyTooLong, "the reply would be too long"},
     {ErrorCode::BadMmsi, "this is no MMSI of a ship"},
     {ErrorCode::BadImo, "this is no IMO number, or its check digit is wrong"},
+    {ErrorCode::BadName, "a port's name holds a bar"},
     {ErrorCode::OtherUser, "the request names another user"},
     {ErrorCode::NoUser, "nobody is logged in"},
     {ErrorCode::UnknownCategory, "there is no such category"},
@@ -41,6 +42,7 @@ constexpr ErrorRow kErrors[] = {
     {ErrorCode::UnknownRemark, "there is no such remark"},
     {ErrorCode::UnknownObject, "there is no such object"},
     {ErrorCode::UnknownVessel, "there is no such vessel"},
+    {ErrorCode::UnknownPlace, "there is no such port of your own"},
     {ErrorCode::NotInUse, "only what is in use can go to the recycle bin"},
     {ErrorCode::NotInBin, "only what is in the recycle bin can be recovered or destroyed"},
     {ErrorCode::CategoryNotInUse, "the category is in the recycle bin"},
@@ -61,12 +63,13 @@ constexpr ErrorRow kErrors[] = {
 
 /// In the order of FaultReason.
 constexpr std::array kFaultCodes = {
-    ErrorCode::UnknownCategory, ErrorCode::UnknownVoyage,     ErrorCode::UnknownBook,
-    ErrorCode::UnknownRemark,   ErrorCode::UnknownVessel,     ErrorCode::UnknownObject,
-    ErrorCode::NotInUse,        ErrorCode::NotInBin,          ErrorCode::CategoryNotInUse,
-    ErrorCode::BookExists,      ErrorCode::NothingToAppendTo, ErrorCode::BookTakenOver,
-    ErrorCode::TooManyRows,     ErrorCode::RowExists,         ErrorCode::RemarkExists,
-    ErrorCode::ListFull,        ErrorCode::StorageFailed,     ErrorCode::MaybeStored,
+    ErrorCode::UnknownCategory,  ErrorCode::UnknownVoyage, ErrorCode::UnknownBook,
+    ErrorCode::UnknownRemark,    ErrorCode::UnknownVessel, ErrorCode::UnknownPlace,
+    ErrorCode::UnknownObject,    ErrorCode::NotInUse,      ErrorCode::NotInBin,
+    ErrorCode::CategoryNotInUse, ErrorCode::BookExists,    ErrorCode::NothingToAppendTo,
+    ErrorCode::BookTakenOver,    ErrorCode::TooManyRows,   ErrorCode::RowExists,
+    ErrorCode::RemarkExists,     ErrorCode::ListFull,      ErrorCode::StorageFailed,
+    ErrorCode::MaybeStored,
 };
 static_assert(kFaultCodes.size() == static_cast<std::size_t>(FaultReason::MaybeStored) + 1);
 

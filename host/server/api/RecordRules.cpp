@@ -110,6 +110,23 @@ std::optional<ErrorCode> FaultOf(const FleetRecord& vessel) {
     return good ? std::nullopt : std::optional(ErrorCode::BadNumber);
 }
 
+std::optional<ErrorCode> FaultOf(const PlaceRecord& place) {
+    constexpr double kFarthestEast = 180;
+    if (place.name.empty()) {
+        return ErrorCode::EmptyName;
+    }
+    if (const auto fault = FaultOf(place.name, kMaxListTextBytes)) {
+        return fault;
+    }
+    // It goes into the rows of port calls, whose fields are parted by bars.
+    if (place.name.find('|') != std::string::npos) {
+        return ErrorCode::BadName;
+    }
+    const bool good = IsWithin(place.longitude, -kFarthestEast, kFarthestEast) &&
+                      IsWithin(place.latitude, -kLatitudeLimit, kLatitudeLimit);
+    return good ? std::nullopt : std::optional(ErrorCode::BadPosition);
+}
+
 std::optional<ErrorCode> FaultOfNew(const PortCallRecord& call) {
     if (const auto fault = FaultOf(call)) {
         return fault;

@@ -34,6 +34,9 @@ std::optional<ErrorCode> FaultOf(const BookRowRecord& row);
 /// What is wrong with a vessel of a fleet; nothing when it can be kept.
 std::optional<ErrorCode> FaultOf(const FleetRecord& vessel);
 
+/// What is wrong with a port of a user's own; nothing when it can be kept.
+std::optional<ErrorCode> FaultOf(const PlaceRecord& place);
+
 /// The same of a port call that is about to be saved, which says where and for what and lets the ship move.
 /// Rows that earlier programs have stored may lack a port's id or a purpose, or have a weather factor of 1,
 /// and come back from a backup as they are.

@@ -122,6 +122,17 @@ std::string Fleet(const std::vector<FleetRecord>& fleet) {
     return out.Take();
 }
 
+std::string Places(const std::vector<PlaceRecord>& places) {
+    JsonWriter out;
+    out.BeginArray();
+    for (const PlaceRecord& place : places) {
+        out.BeginObject().TextMember("ppi", place.id).TextMember("ppn", place.name);
+        out.Key("xc").Fraction(place.longitude).Key("yc").Fraction(place.latitude).EndObject();
+    }
+    out.EndArray();
+    return out.Take();
+}
+
 std::string AisTimes(const std::vector<std::string>& times) {
     JsonWriter out;
     out.BeginObject().Key("times").BeginArray();

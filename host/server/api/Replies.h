@@ -26,6 +26,8 @@ std::string Book(const std::optional<BookRecord>& book);
 std::string PortCalls(const std::vector<PortCallRecord>& calls);
 /// Array of vessels; every number is a text.
 std::string Fleet(const std::vector<FleetRecord>& fleet);
+/// Array of own ports, positions as numbers with a fraction.
+std::string Places(const std::vector<PlaceRecord>& places);
 /// {"times":[...]}
 std::string AisTimes(const std::vector<std::string>& times);
 /// Array of remarks; both dates are GMT timer values as texts.

@@ -3,6 +3,9 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "host/server/storage/contract/Records.h"
 
 namespace Tarvik::Server {
 
@@ -16,6 +19,18 @@ class RouteSource {
     virtual std::string Plan(std::string_view requestJson) = 0;
     /// The points from the route point nearest to a position to a port.
     virtual std::string Nearest(std::string_view requestJson) = 0;
+    ///@{
+    /// The same where stops may also be these ports of the user's own. A source without a network of its own
+    /// knows none of them.
+    virtual std::string PlanWith(std::string_view requestJson, const std::vector<PlaceRecord>& own) {
+        static_cast<void>(own);
+        return Plan(requestJson);
+    }
+    virtual std::string NearestWith(std::string_view requestJson, const std::vector<PlaceRecord>& own) {
+        static_cast<void>(own);
+        return Nearest(requestJson);
+    }
+    ///@}
     /// Whether there is a port of this id. A source without ports of its own cannot tell, and says yes.
     virtual bool KnowsPort(const std::string& id) {
         static_cast<void>(id);

@@ -1,10 +1,33 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "host/server/api/CommandHandlers.h"
 #include "host/server/api/Refusal.h"
 #include "host/server/api/Replies.h"
 #include "host/server/api/RequestFields.h"
 
 namespace Tarvik::Server {
+
+namespace {
+
+/// The ports that a voyage of the caller's may call at.
+class KnownPorts {
+  public:
+    explicit KnownPorts(const CommandCall& call)
+        : routes_(call.routes), own_(ValueOrRefuse(call.storage.Places().LoadPlaces(call.user))) {}
+
+    bool Know(const std::string& id) const {
+        return routes_.KnowsPort(id) ||
+               std::any_of(own_.begin(), own_.end(),
+                           [&id](const PlaceRecord& place) { return place.id == id; });
+    }
+
+  private:
+    RouteSource& routes_;
+    std::vector<PlaceRecord> own_;
+};
+
+}  // namespace
 
 std::string LoadBook(const CommandCall& call) {
     return Replies::Book(
@@ -53,11 +76,12 @@ std::string ReplacePortCalls(const CommandCall& call) {
     if (texts.size() < 2) {
         throw Refusal(ErrorCode::NoRows);
     }
+    const KnownPorts ports(call);
     std::vector<PortCallRecord> calls;
     calls.reserve(texts.size() - 1);
     for (std::size_t i = 1; i < texts.size(); ++i) {
         calls.push_back(ReadPortCall(texts[i]));
-        if (!call.routes.KnowsPort(calls.back().portId)) {
+        if (!ports.Know(calls.back().portId)) {
             throw Refusal(ErrorCode::UnknownPort, texts[i]);
         }
     }

@@ -67,6 +67,7 @@ std::string CopyCheck::User(const UserCopy& user) {
     known_ = CopyIds();
     remarks_.clear();
     vessels_ = 0;
+    places_ = 0;
     return {};
 }
 
@@ -130,14 +131,23 @@ std::string CopyCheck::Remark(const RemarkCopy& copy) {
     return {};
 }
 
-std::string CopyCheck::Vessel(const FleetRecord& vessel) {
-    if (!TakeId(vessel.id)) {
+template <class Record>
+std::string CopyCheck::ListRecord(const Record& record, std::size_t most, std::size_t& seen) {
+    if (!TakeId(record.id)) {
         return "the id is none, or is there twice";
     }
-    if (const auto fault = FaultOf(vessel)) {
+    if (const auto fault = FaultOf(record)) {
         return std::string(TextOf(*fault));
     }
-    return ++vessels_ > kMostVessels ? std::string(TextOf(ErrorCode::ListFull)) : std::string();
+    return ++seen > most ? std::string(TextOf(ErrorCode::ListFull)) : std::string();
+}
+
+std::string CopyCheck::Vessel(const FleetRecord& vessel) {
+    return ListRecord(vessel, kMostVessels, vessels_);
+}
+
+std::string CopyCheck::Place(const PlaceRecord& place) {
+    return ListRecord(place, kMostPlaces, places_);
 }
 
 bool CopyCheck::TakeId(const std::string& id) {

@@ -21,12 +21,16 @@ class CopyCheck {
     std::string Voyage(const VoyageCopy& copy);
     std::string Remark(const RemarkCopy& copy);
     std::string Vessel(const FleetRecord& vessel);
+    std::string Place(const PlaceRecord& place);
 
     /// The ids that were seen; 0 when there was none.
     std::int64_t LowestId() const { return lowestId_; }
     std::int64_t HighestId() const { return highestId_; }
 
   private:
+    /// The same of a record of a list, which may have so many; `seen` counts them.
+    template <class Record>
+    std::string ListRecord(const Record& record, std::size_t most, std::size_t& seen);
     /// Notes an id; false when it is none or was seen before.
     bool TakeId(const std::string& id);
 
@@ -35,6 +39,7 @@ class CopyCheck {
     std::int64_t lowestId_ = 0;
     std::int64_t highestId_ = 0;
     std::size_t vessels_ = 0;                              ///< of the present user
+    std::size_t places_ = 0;                               ///< the same
     CopyIds known_;                                        ///< the same
     std::set<std::tuple<int, std::string, int>> remarks_;  ///< of the present user
 };

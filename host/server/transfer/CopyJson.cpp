@@ -149,6 +149,12 @@ std::string VesselLine(const FleetRecord& vessel) {
         .dump();
 }
 
+std::string PlaceLine(const PlaceRecord& place) {
+    Json line = {{"place", place.id}, {"name", place.name}};
+    line["position"] = Json::array({place.longitude, place.latitude});
+    return line.dump();
+}
+
 UserCopy ReadUser(const Json& line) {
     UserCopy user;
     user.records.owner = Text(line.at("user"));
@@ -201,6 +207,11 @@ FleetRecord ReadVessel(const Json& line) {
             Text(line.at("type")),
             Real(line.at("length")),
             Real(line.at("speed"))};
+}
+
+PlaceRecord ReadPlace(const Json& line) {
+    const Json& position = Row(line.at("position"), 2);
+    return {Text(line.at("place")), Text(line.at("name")), Real(position[0]), Real(position[1])};
 }
 
 }  // namespace Tarvik::Server::CopyJson

@@ -18,6 +18,7 @@ void Count(const OwnerCopy& records, TransferContent& content) {
     }
     content.remarks += records.remarks.size();
     content.vessels += records.fleet.size();
+    content.places += records.places.size();
 }
 
 std::string Summary(const TransferContent& content) {
@@ -27,6 +28,9 @@ std::string Summary(const TransferContent& content) {
                        Told(content.remarks, "remark", "remarks");
     if (content.vessels > 0) {
         text += ", " + Told(content.vessels, "vessel", "vessels");
+    }
+    if (content.places > 0) {
+        text += ", " + Told(content.places, "own port", "own ports");
     }
     return text;
 }

@@ -15,7 +15,7 @@ using Json = nlohmann::ordered_json;
 
 /// Whether lines of this kind stand behind a user's.
 bool IsOfUser(const std::string& kind) {
-    return kind == "category" || kind == "voyage" || kind == "remark" || kind == "vessel";
+    return kind == "category" || kind == "voyage" || kind == "remark" || kind == "vessel" || kind == "place";
 }
 
 }  // namespace
@@ -145,6 +145,9 @@ std::string TransferReader::TakeRecord(const std::string& kind, const Json& obje
     if (kind == "vessel") {
         return TakeVessel(object);
     }
+    if (kind == "place") {
+        return TakePlace(object);
+    }
     return kind == "voyage" ? TakeVoyage(object) : TakeRemark(object);
 }
 
@@ -194,6 +197,16 @@ std::string TransferReader::TakeVessel(const Json& object) {
         return Skip("vessel", object, std::move(wrong));
     }
     progress_->open->records.fleet.push_back(std::move(vessel));
+    return {};
+}
+
+std::string TransferReader::TakePlace(const Json& object) {
+    PlaceRecord place = CopyJson::ReadPlace(object);
+    std::string wrong = progress_->check.Place(place);
+    if (!wrong.empty()) {
+        return Skip("place", object, std::move(wrong));
+    }
+    progress_->open->records.places.push_back(std::move(place));
     return {};
 }
 

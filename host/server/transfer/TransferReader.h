@@ -71,6 +71,7 @@ class TransferReader : public TransferSource {
     std::string TakeVoyage(const nlohmann::ordered_json& object);
     std::string TakeRemark(const nlohmann::ordered_json& object);
     std::string TakeVessel(const nlohmann::ordered_json& object);
+    std::string TakePlace(const nlohmann::ordered_json& object);
     /// Leaves the record out where that is wished. Gives `wrong` where it is not.
     std::string Skip(const std::string& kind, const nlohmann::ordered_json& object, std::string wrong);
     std::string TakeHead(const nlohmann::ordered_json& object) const;

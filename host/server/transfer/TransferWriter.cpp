@@ -21,6 +21,9 @@ void TransferWriter::User(const UserCopy& user) {
     for (const FleetRecord& vessel : user.records.fleet) {
         Write(CopyJson::VesselLine(vessel));
     }
+    for (const PlaceRecord& place : user.records.places) {
+        Write(CopyJson::PlaceLine(place));
+    }
     for (const CategoryCopy& category : user.records.categories) {
         Write(CopyJson::CategoryLine(category));
         for (const VoyageCopy& voyage : category.voyages) {

@@ -20,9 +20,24 @@ class EchoRoutes : public RouteSource {
     std::string Nearest(std::string_view requestJson) override {
         return "nearest " + std::string(requestJson);
     }
+    std::string PlanWith(std::string_view requestJson, const std::vector<PlaceRecord>& own) override {
+        return Plan(requestJson) + NamesOf(own);
+    }
+    std::string NearestWith(std::string_view requestJson, const std::vector<PlaceRecord>& own) override {
+        return Nearest(requestJson) + NamesOf(own);
+    }
     bool KnowsPort(const std::string& id) override { return id != unknownPort; }
 
     std::string unknownPort;
+
+  private:
+    static std::string NamesOf(const std::vector<PlaceRecord>& own) {
+        std::string names;
+        for (const PlaceRecord& place : own) {
+            names += " of " + place.name;
+        }
+        return names;
+    }
 };
 
 /// One request text, with the remark module meant by `command` kRemark, and the reply that it must get.

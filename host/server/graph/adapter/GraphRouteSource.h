@@ -24,6 +24,8 @@ class GraphRouteSource : public RouteSource {
     std::string Plan(std::string_view requestJson) override;
     /// {"eid":0,"pointset":"x,y|x,y"}, beginning at the position asked for, or a status object as above.
     std::string Nearest(std::string_view requestJson) override;
+    std::string PlanWith(std::string_view requestJson, const std::vector<PlaceRecord>& own) override;
+    std::string NearestWith(std::string_view requestJson, const std::vector<PlaceRecord>& own) override;
     bool KnowsPort(const std::string& id) override { return engine_.Knows(id); }
 
   private:

@@ -33,9 +33,9 @@ RemarkObject CopyIds::Renamed(const RemarkObject& object) const {
     return {object.type, ids.at(object.id.substr(0, length)) + object.id.substr(length)};
 }
 
-std::string CopyIds::RenamedVessel(const std::string& id) const {
-    const auto vessel = vessels_.find(id);
-    return vessel == vessels_.end() ? id : vessel->second;
+std::string CopyIds::RenamedIn(const Renames& renames, const std::string& id) {
+    const auto renamed = renames.find(id);
+    return renamed == renames.end() ? id : renamed->second;
 }
 
 }  // namespace Tarvik::Server

@@ -17,6 +17,7 @@ enum class FaultReason {
     UnknownBook,
     UnknownRemark,
     UnknownVessel,
+    UnknownPlace,
     UnknownObject,
     NotInUse,
     NotInBin,

@@ -118,4 +118,17 @@ struct FleetRecord {
 /// Most vessels of a fleet. With the longest texts the reply that lists them still fits an envelope.
 inline constexpr std::size_t kMostVessels = 2000;
 
+/// A port of a user's own. Its id is one of this server's, which begin beyond all of the sea network's.
+struct PlaceRecord {
+    std::string id;
+    std::string name;
+    double longitude = 0;  ///< degrees
+    double latitude = 0;   ///< degrees
+
+    bool operator==(const PlaceRecord&) const = default;
+};
+
+/// Most ports of a user's own.
+inline constexpr std::size_t kMostPlaces = 1000;
+
 }  // namespace Tarvik::Server

@@ -43,6 +43,21 @@ class FleetStorage {
     virtual Status RemoveVessel(const std::string& owner, const std::string& id) = 0;
 };
 
+/// Each user's own ports.
+class PlaceStorage {
+  public:
+    virtual ~PlaceStorage() = default;
+
+    /// In the order of their addition.
+    virtual Outcome<std::vector<PlaceRecord>> LoadPlaces(const std::string& owner) = 0;
+    /// Gives the id of the new port; its own is ignored. Refused when the owner has kMostPlaces.
+    virtual Outcome<std::string> AddPlace(const std::string& owner, const PlaceRecord& place) = 0;
+    /// Puts the record in the place of the one of its id.
+    virtual Status SetPlace(const std::string& owner, const PlaceRecord& place) = 0;
+    /// Port calls there stay as they are.
+    virtual Status RemovePlace(const std::string& owner, const std::string& id) = 0;
+};
+
 /// Everything that the voyage server keeps.
 ///
 /// Every operation takes the owner first and reaches nothing of anybody else. An operation is one
@@ -64,6 +79,7 @@ class Storage {
     virtual ScheduleStorage& Schedule() = 0;
     virtual RemarkStorage& Remarks() = 0;
     virtual FleetStorage& Fleet() = 0;
+    virtual PlaceStorage& Places() = 0;
 };
 
 }  // namespace Tarvik::Server

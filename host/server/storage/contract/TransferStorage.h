@@ -43,6 +43,7 @@ struct OwnerCopy {
     std::vector<CategoryCopy> categories;
     std::vector<RemarkCopy> remarks;
     std::vector<FleetRecord> fleet{};
+    std::vector<PlaceRecord> places{};
 };
 
 /// Ids beyond this are not kept when they are added: those that are given out behind them would soon be too
@@ -52,7 +53,8 @@ inline constexpr std::int64_t kMostKeptId = 1'000'000'000'000;
 /// What is about to be added.
 struct CopyManifest {
     std::vector<std::string> owners;
-    std::int64_t lowestId = 0;   ///< of all categories, voyages, books and vessels; 0 when there are none
+    std::int64_t lowestId =
+        0;  ///< of all categories, voyages, books, vessels and own ports; 0 when there are none
     std::int64_t highestId = 0;  ///< the same
     bool besideOthers = false;   ///< whether an owner may have records already
 };
@@ -72,13 +74,13 @@ class TransferStorage {
   public:
     virtual ~TransferStorage() = default;
 
-    /// Every owner of a category that is not destroyed or of a vessel, in the order of their bytes.
+    /// Every owner of a category that is not destroyed or of a list, in the order of their bytes.
     virtual Outcome<std::vector<std::string>> ListOwners() = 0;
     /// What the owner had at one moment.
     virtual Outcome<OwnerCopy> ReadOwner(const std::string& owner) = 0;
     /// Adds all that the source hands out, or nothing. Ids stay as they are when all of them are beyond
     /// those given out here and none is beyond kMostKeptId; else every record gets a new one; remarks follow
-    /// their objects, and voyages their vessels.
+    /// their objects, voyages their vessels, and port calls their own ports.
     virtual Outcome<AddReport> AddOwners(const CopyManifest& manifest, const OwnerSource& source) = 0;
 };
 
@@ -88,20 +90,28 @@ class CopyIds {
     void PutCategory(const std::string& before, std::string after) { categories_[before] = std::move(after); }
     void PutVoyage(const std::string& before, std::string after) { voyages_[before] = std::move(after); }
     void PutVessel(const std::string& before, std::string after) { vessels_[before] = std::move(after); }
+    void PutPlace(const std::string& before, std::string after) { places_[before] = std::move(after); }
     /// Whether the object is one of these categories and voyages, or a port call of one.
     bool Knows(const RemarkObject& object) const { return LengthOfId(object) > 0; }
     /// The object where it is added; the same for one that is not known here.
     RemarkObject Renamed(const RemarkObject& object) const;
     /// The same of a vessel of the fleet, by its id.
-    std::string RenamedVessel(const std::string& id) const;
+    std::string RenamedVessel(const std::string& id) const { return RenamedIn(vessels_, id); }
+    /// The same of an own port.
+    std::string RenamedPlace(const std::string& id) const { return RenamedIn(places_, id); }
 
   private:
     /// How much of the object's text is an id; 0 when none is known.
     std::size_t LengthOfId(const RemarkObject& object) const;
 
-    std::unordered_map<std::string, std::string> categories_;
-    std::unordered_map<std::string, std::string> voyages_;
-    std::unordered_map<std::string, std::string> vessels_;
+    using Renames = std::unordered_map<std::string, std::string>;
+
+    static std::string RenamedIn(const Renames& renames, const std::string& id);
+
+    Renames categories_;
+    Renames voyages_;
+    Renames vessels_;
+    Renames places_;
 };
 
 }  // namespace Tarvik::Server

@@ -5,16 +5,6 @@
 
 namespace Tarvik::Server {
 
-namespace {
-
-/// Keeps the owner's list from everybody else until the transaction ends.
-void HoldList(SqlConnection& connection, const std::string& owner) {
-    connection.Run("INSERT INTO own_lists (owner) VALUES ($1) ON CONFLICT DO NOTHING", owner);
-    connection.Query("SELECT 1 FROM own_lists l WHERE l.owner = $1 {hold:l}", owner)->Next();
-}
-
-}  // namespace
-
 std::vector<FleetRecord> ReadFleet(SqlConnection& connection, const std::string& owner) {
     std::vector<FleetRecord> fleet;
     const auto row = connection.Query(

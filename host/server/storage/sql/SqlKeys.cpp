@@ -74,6 +74,11 @@ bool BookKnown(SqlConnection& connection, const std::string& owner, const std::s
     return book->Next() && VoyageState(connection, owner, book->Text(0), lock).has_value();
 }
 
+void HoldList(SqlConnection& connection, const std::string& owner) {
+    connection.Run("INSERT INTO own_lists (owner) VALUES ($1) ON CONFLICT DO NOTHING", owner);
+    connection.Query("SELECT 1 FROM own_lists l WHERE l.owner = $1 {hold:l}", owner)->Next();
+}
+
 bool ObjectKnown(SqlConnection& connection, const std::string& owner, const RemarkObject& object,
                  RowLock lock) {
     if (object.id.empty()) {

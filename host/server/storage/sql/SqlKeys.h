@@ -38,4 +38,7 @@ bool BookKnown(SqlConnection& connection, const std::string& owner, const std::s
 bool ObjectKnown(SqlConnection& connection, const std::string& owner, const RemarkObject& object,
                  RowLock lock);
 
+/// Keeps the owner's fleet and own ports from everybody else until the transaction ends.
+void HoldList(SqlConnection& connection, const std::string& owner);
+
 }  // namespace Tarvik::Server

@@ -9,13 +9,9 @@ namespace Tarvik::Server {
 Status SqlOwnerWriter::Write(const OwnerCopy& copy) {
     owner_ = copy.owner;
     ids_ = CopyIds();
-    for (const FleetRecord& vessel : copy.fleet) {
-        const std::string vesselId = NewId(vessel.id);
-        ids_.PutVessel(vessel.id, vesselId);
-        Status written = InsertVessel(connection_, owner_, vesselId, vessel);
-        if (!written) {
-            return written;
-        }
+    Status lists = WriteLists(copy);
+    if (!lists) {
+        return lists;
     }
     for (const CategoryCopy& category : copy.categories) {
         const std::string categoryId = NewId(category.id);
@@ -31,6 +27,26 @@ Status SqlOwnerWriter::Write(const OwnerCopy& copy) {
     for (const RemarkCopy& copied : copy.remarks) {
         if (!InsertRemark(connection_, owner_, ids_.Renamed(copied.object), copied.remark)) {
             return FaultReason::RemarkExists;
+        }
+    }
+    return Done{};
+}
+
+Status SqlOwnerWriter::WriteLists(const OwnerCopy& copy) {
+    for (const FleetRecord& vessel : copy.fleet) {
+        const std::string id = NewId(vessel.id);
+        ids_.PutVessel(vessel.id, id);
+        Status written = InsertVessel(connection_, owner_, id, vessel);
+        if (!written) {
+            return written;
+        }
+    }
+    for (const PlaceRecord& place : copy.places) {
+        const std::string id = NewId(place.id);
+        ids_.PutPlace(place.id, id);
+        Status written = InsertPlace(connection_, owner_, id, place);
+        if (!written) {
+            return written;
         }
     }
     return Done{};
@@ -55,9 +71,13 @@ Status SqlOwnerWriter::WriteSchedule(const VoyageCopy& copy, const std::string& 
         connection_.Run("INSERT INTO ais_times (owner, vi, place, time) VALUES ($1, $2, $3, $4)", owner_,
                         voyageId, ++place, time);
     }
-    Status calls = InsertPortCalls(connection_, owner_, voyageId, copy.calls);
-    if (!calls || !copy.book) {
-        return calls;
+    std::vector<PortCallRecord> calls = copy.calls;
+    for (PortCallRecord& call : calls) {
+        call.portId = ids_.RenamedPlace(call.portId);
+    }
+    Status written = InsertPortCalls(connection_, owner_, voyageId, calls);
+    if (!written || !copy.book) {
+        return written;
     }
     const std::string bookId = NewId(copy.book->id);
     InsertBook(connection_, owner_, bookId, voyageId, copy.book->date);

@@ -61,4 +61,11 @@ std::vector<FleetRecord> ReadFleet(SqlConnection& connection, const std::string&
 Status InsertVessel(SqlConnection& connection, const std::string& owner, const std::string& id,
                     const FleetRecord& vessel);
 
+/// The owner's own ports in the order of the ids as numbers.
+std::vector<PlaceRecord> ReadPlaces(SqlConnection& connection, const std::string& owner);
+
+/// Adds an own port as InsertVessel adds a vessel.
+Status InsertPlace(SqlConnection& connection, const std::string& owner, const std::string& id,
+                   const PlaceRecord& place);
+
 }  // namespace Tarvik::Server

@@ -99,6 +99,20 @@ class SqlFleet : public FleetStorage {
     SqlSession& session_;
 };
 
+/// Ports of users' own.
+class SqlPlaces : public PlaceStorage {
+  public:
+    explicit SqlPlaces(SqlSession& session) : session_(session) {}
+
+    Outcome<std::vector<PlaceRecord>> LoadPlaces(const std::string& owner) override;
+    Outcome<std::string> AddPlace(const std::string& owner, const PlaceRecord& place) override;
+    Status SetPlace(const std::string& owner, const PlaceRecord& place) override;
+    Status RemovePlace(const std::string& owner, const std::string& id) override;
+
+  private:
+    SqlSession& session_;
+};
+
 /// Whole owners, taken out and put in.
 class SqlTransfer : public TransferStorage {
   public:
@@ -126,6 +140,7 @@ class SqlStorage : public Storage {
     ScheduleStorage& Schedule() override { return schedule_; }
     RemarkStorage& Remarks() override { return remarks_; }
     FleetStorage& Fleet() override { return fleet_; }
+    PlaceStorage& Places() override { return places_; }
     /// Takes owners out and puts them in, as export and import do.
     TransferStorage& Transfer() { return transfer_; }
 
@@ -137,6 +152,7 @@ class SqlStorage : public Storage {
           schedule_(*session_),
           remarks_(*session_),
           fleet_(*session_),
+          places_(*session_),
           transfer_(*session_) {}
 
   private:
@@ -145,6 +161,7 @@ class SqlStorage : public Storage {
     SqlSchedule schedule_;
     SqlRemarks remarks_;
     SqlFleet fleet_;
+    SqlPlaces places_;
     SqlTransfer transfer_;
 };
 

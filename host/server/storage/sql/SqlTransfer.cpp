@@ -41,7 +41,8 @@ bool HasRecords(SqlConnection& connection, const std::string& owner) {
     return connection
         .Query(
             "SELECT 1 FROM categories WHERE owner = $1 AND cd <> 2 "
-            "UNION ALL SELECT 1 FROM fleet WHERE owner = $1 LIMIT 1",
+            "UNION ALL SELECT 1 FROM fleet WHERE owner = $1 "
+            "UNION ALL SELECT 1 FROM own_places WHERE owner = $1 LIMIT 1",
             owner)
         ->Next();
 }
@@ -58,7 +59,8 @@ Outcome<std::vector<std::string>> SqlTransfer::ListOwners() {
     return session_.Read([](SqlConnection& connection) -> Outcome<std::vector<std::string>> {
         std::vector<std::string> owners;
         const auto row = connection.Query(
-            "SELECT owner FROM categories WHERE cd <> 2 UNION SELECT owner FROM fleet ORDER BY owner");
+            "SELECT owner FROM categories WHERE cd <> 2 UNION SELECT owner FROM fleet "
+            "UNION SELECT owner FROM own_places ORDER BY owner");
         while (row->Next()) {
             owners.push_back(row->Text(0));
         }
@@ -68,7 +70,7 @@ Outcome<std::vector<std::string>> SqlTransfer::ListOwners() {
 
 Outcome<OwnerCopy> SqlTransfer::ReadOwner(const std::string& owner) {
     return session_.Read([&](SqlConnection& connection) -> Outcome<OwnerCopy> {
-        OwnerCopy copy{owner, {}, {}, {}};
+        OwnerCopy copy{owner, {}, {}, {}, {}};
         CopyIds known;
         for (CategoryRecord& category : ReadCatalog(connection, owner)) {
             known.PutCategory(category.id, category.id);
@@ -80,6 +82,7 @@ Outcome<OwnerCopy> SqlTransfer::ReadOwner(const std::string& owner) {
         }
         copy.remarks = ReadRemarks(connection, owner, known);
         copy.fleet = ReadFleet(connection, owner);
+        copy.places = ReadPlaces(connection, owner);
         return copy;
     });
 }

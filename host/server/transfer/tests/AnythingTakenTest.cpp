@@ -124,6 +124,8 @@ TEST_F(AnythingTakenTest, RandomRequests) {
                           R"(",vsimo:")" + odd.Pick({"0", "9134270", "9134271"}) + R"(",vscs:")" +
                           odd.Pick({"", "VRAB2", "\\u0001", "longer than sixteen"}) + R"(",vst:")" +
                           odd.Text() + R"(",vsl:")" + odd.Number() + R"(",vsp:")" + odd.Number() + "\"}");
+        taken += Takes(18, R"({ppi:"",type:"0",ppn:")" + odd.Text() + R"(",xc:")" + odd.Number() +
+                               R"(",yc:")" + odd.Number() + "\"}");
         const std::string object = "1000002" + odd.Text();
         taken += service_
                      .Handle("ann", Interface::kRemarkModuleWord, 9,

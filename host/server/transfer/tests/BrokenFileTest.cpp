@@ -202,6 +202,18 @@ TEST_F(BrokenFileTest, VesselsThatNoRequestStoresAreRefused) {
               "left out: vessel \"1000007\" \"M\" of line 3: this is no MMSI of a ship");
 }
 
+TEST_F(BrokenFileTest, OwnPortsThatNoRequestStoresAreRefused) {
+    const auto place = [](const std::string& id, const std::string& name, const std::string& position) {
+        return R"({"place":")" + id + R"(","name":")" + name + R"(","position":)" + position + "}\n";
+    };
+    const std::string before = Head() + User();
+    ExpectRefused(Ended(before + place("x", "A", "[1,2]")), "line 3: the id is none, or is there twice");
+    ExpectRefused(Ended(before + place("1000007", "", "[1,2]")), "line 3: a name must not be empty");
+    ExpectRefused(Ended(before + place("1000007", "a|b", "[1,2]")), "line 3: a port's name holds a bar");
+    ExpectRefused(Ended(before + place("1000007", "A", "[181,2]")), "line 3: a position is none");
+    ExpectRefused(Ended(before + place("1000007", "A", "[1]")), "line 3: this record is damaged");
+}
+
 TEST_F(BrokenFileTest, BadRecordsAreLeftOutByNameWhenThatIsWished) {
     std::string second = Voyage();
     for (const char* id : {"1000002", "1000003"}) {

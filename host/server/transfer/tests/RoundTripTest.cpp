@@ -165,50 +165,6 @@ TEST_F(TransferRoundTripTest, SmallUserLooksLikeThis) {
         "{\"end\":4,\"sha256\":\"dc1bffe493d520c251c587acf41ae2bb2901fc2a440187138631527a8c8dd270\"}\n");
 }
 
-FleetRecord Meridian() {
-    return {{}, "Meridian \"x\"", 477123456, 9134270, "VRAB2", "油轮", 229.5, 1.0 / 3.0};
-}
-
-TEST_F(TransferRoundTripTest, FleetGoesToTheByte) {
-    ASSERT_TRUE(from.storage->Fleet().AddVessel("ann", Meridian()).Succeeded());
-    ASSERT_TRUE(from.storage->Fleet().AddVessel("ann", {{}, "Raft", 0, 0, "", "", 0, 0}).Succeeded());
-    ASSERT_TRUE(Export(from, {"ann", false}));
-    ASSERT_TRUE(Import(to)) << error;
-    EXPECT_EQ(done, "imported 1 user, 2 categories, 3 voyages, 5 remarks, 2 vessels");
-    ASSERT_TRUE(Export(to, {"ann", false}, "again"));
-    EXPECT_EQ(Bytes("again"), Bytes());
-    EXPECT_EQ(to.storage->Fleet().LoadFleet("ann").Value(), from.storage->Fleet().LoadFleet("ann").Value());
-    const auto last = std::stoll(from.storage->Fleet().LoadFleet("ann").Value().back().id);
-    EXPECT_GT(std::stoll(to.storage->Catalog().CreateCategory("ann", "x").Value()), last);
-}
-
-TEST_F(TransferRoundTripTest, VoyagesFollowTheirVesselsToNewIds) {
-    MakeSmall(*to.storage, "bob");
-    const std::string vessel = from.storage->Fleet().AddVessel("ann", Meridian()).Value();
-    auto& catalog = from.storage->Catalog();
-    const auto voyages = catalog.LoadCatalog("ann").Value().at(0).voyages;
-    ASSERT_TRUE(catalog.ChangeVessel("ann", voyages.at(0).id, {vessel, "Meridian", 477123456}).Succeeded());
-    ASSERT_TRUE(catalog.ChangeVessel("ann", voyages.at(1).id, {"v7", "Stranger", 0}).Succeeded());
-    ASSERT_TRUE(Export(from, {"ann", false}));
-    ASSERT_TRUE(Import(to)) << error;
-    const std::string after = to.storage->Fleet().LoadFleet("ann").Value().at(0).id;
-    EXPECT_NE(after, vessel);
-    const auto moved = to.storage->Catalog().LoadCatalog("ann").Value().at(0).voyages;
-    EXPECT_EQ(moved.at(0).vessel.id, after);
-    EXPECT_EQ(moved.at(1).vessel.id, "v7") << "one that is not of the fleet keeps its name";
-}
-
-TEST_F(TransferRoundTripTest, UserOfNothingButAFleetIsAUser) {
-    ASSERT_TRUE(to.storage->Fleet().AddVessel("zoe", Meridian()).Succeeded());
-    EXPECT_EQ(to.storage->Transfer().ListOwners().Value(), std::vector<std::string>{"zoe"});
-    ASSERT_TRUE(Export(to, {"zoe", false}));
-    from.accounts.users["zoe"] = {"zoe", "hash", false};
-    ASSERT_TRUE(Import(from)) << error;
-    EXPECT_FALSE(Import(from)) << "there is a fleet already";
-    ASSERT_TRUE(Import(from, {"", true})) << error;
-    EXPECT_EQ(from.storage->Fleet().LoadFleet("zoe").Value().size(), 2U);
-}
-
 TEST_F(TransferRoundTripTest, ChoiceThatNamesNobodyOrTooManyIsRefused) {
     EXPECT_FALSE(Export(from, {"ANN", false}));
     EXPECT_EQ(error, "there is no user ANN");

@@ -30,6 +30,7 @@ class StorageContract : public ::testing::TestWithParam<BackendMaker> {
     ScheduleStorage& Schedule() { return backend_->Get().Schedule(); }
     RemarkStorage& Remarks() { return backend_->Get().Remarks(); }
     FleetStorage& Fleet() { return backend_->Get().Fleet(); }
+    PlaceStorage& Places() { return backend_->Get().Places(); }
     void Reopen() { backend_->Reopen(); }
 
     std::string MakeCategory(const std::string& owner = "ann", const std::string& name = "Atlantic") {
