@@ -36,7 +36,7 @@ bool ReadPlaces(const std::string& databaseFile, std::vector<Place>& places, std
             return columns.contains(name) ? std::string(name) : "''";
         };
         const std::string sql = "select id,name," + column("namecn") + "," + column("unlocode") +
-                                ",x,y,isport from t_point order by name,id";
+                                ",x,y,isport from t_point order by name,length(id),id";
         for (auto row = database.execQuery(sql.c_str()); !row.eof(); row.nextRow()) {
             places.push_back({Field(row, 0), Field(row, 1), Field(row, 2), Field(row, 3),
                               Server::ParsePosition(Field(row, 4) + "," + Field(row, 5)),

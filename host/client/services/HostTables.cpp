@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/services/HostTables.h"
 
+#include <utility>
+
 namespace Tarvik::Client {
 
 HostTables::~HostTables() {
@@ -14,11 +16,14 @@ void HostTables::LoadTexts(const std::string& folder, const std::string& languag
 }
 
 bool HostTables::LoadPorts(const std::string& databaseFile, std::string& error) {
-    if (!ReadPorts(databaseFile, ports_, error)) {
+    std::vector<Port> ports;
+    if (!ReadPorts(databaseFile, ports, error)) {
         return false;
     }
-    dictionary_ = std::make_unique<PortDictionary>(ports_);
-    Interface::ValueDictionary::Set(dictionary_.get());
+    auto dictionary = std::make_unique<PortDictionary>(ports);
+    Interface::ValueDictionary::Set(dictionary.get());
+    dictionary_ = std::move(dictionary);
+    ports_ = std::move(ports);
     return true;
 }
 

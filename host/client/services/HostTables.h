@@ -21,7 +21,7 @@ class HostTables {
 
     /// Takes the texts of a language into use; what is wrong with the files stands among their complaints.
     void LoadTexts(const std::string& folder, const std::string& language);
-    /// Takes the ports of a data base into use. False with one line that says what to do.
+    /// Takes the ports of a data base into use. False with one line that says what to do; those in use stay.
     bool LoadPorts(const std::string& databaseFile, std::string& error);
 
     const LanguageFiles& Texts() const { return texts_; }

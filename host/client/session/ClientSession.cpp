@@ -12,6 +12,7 @@
 
 #include "host/client/services/AppFolders.h"
 #include "host/client/session/EmbeddedLink.h"
+#include "host/client/session/OwnPorts.h"
 #include "host/server/app/EmbeddedServer.h"
 
 namespace Tarvik::Client {
@@ -90,8 +91,10 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
                 return ask_ ? ask_(at, user, failure) : std::nullopt;
             });
         // A name that the server refused is nobody's, and would be offered at the next start.
-        link->SetWelcome(
-            [this](const std::string& user) { Keep([&user](Preferences& kept) { kept.user = user; }); });
+        link->SetWelcome([this, &at = *link](const std::string& user) {
+            Keep([&user](Preferences& kept) { kept.user = user; });
+            TakeOwnPorts(at);
+        });
         return link;
     }
     auto embedded =
@@ -99,7 +102,18 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
     if (!embedded->Connect(error)) {
         return nullptr;
     }
+    TakeOwnPorts(*embedded);
     return embedded;
+}
+
+void ClientSession::TakeOwnPorts(ServerLink& link) {
+    const std::string table = folders_.BusinessData("trvdb.db");
+    std::string error;
+    if (!WritePortTable(folders_.ShareFile("trvdb.db"), table,
+                        LoadOwnPorts(link, link.User(Server::kLocalUser)), error) ||
+        !tables_.LoadPorts(table, error)) {
+        log_.Write(error);
+    }
 }
 
 void ClientSession::LoadPlugins() {

@@ -59,6 +59,9 @@ class ClientSession {
     ClientSession(const AppFolders& folders, const SessionOptions& options);
     bool Start(const SessionOptions& options, std::string& error);
     void TakeOptions(const SessionOptions& options);
+    /// Puts the ports of the user's own, whom the link has let in, into the table of points and the
+    /// dictionary. Without them the shipped ports stay in use.
+    void TakeOwnPorts(ServerLink& link);
     std::unique_ptr<ServerLink> MakeLink(const std::string& server, std::string& error);
     std::string PreferencesFile() const { return folders_.Data() + "/preferences.json"; }
 

@@ -3,8 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include "host/client/services/RequestBlock.h"
 #include "host/client/session/LoginLink.h"
-#include "host/server/net/tests/RequestBlock.h"
 #include "host/server/net/tests/TestServer.h"
 
 namespace Tarvik::Client {
@@ -96,7 +96,7 @@ TEST_F(LoginLinkTest, NobodyElseTakesTheSeatOfALoginThatHasRunOut) {
     LoginLink link(server_.Url(), "", "", Asker());
     ASSERT_TRUE(link.Connect(error_)) << error_;
     server_.AdvanceSeconds(13 * 3600);
-    const Server::RequestBlock load(3, 5, "{ui:\"anna\"}");
+    const RequestBlock load(3, 5, "{ui:\"anna\"}");
     EXPECT_EQ(link.Exchange("anna", *load), "");
     EXPECT_FALSE(link.IsConnected());
     answers_ = {{"bert", "correct horse"}};

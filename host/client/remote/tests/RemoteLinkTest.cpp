@@ -3,7 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/client/remote/RemoteLink.h"
-#include "host/server/net/tests/RequestBlock.h"
+#include "host/client/services/RequestBlock.h"
 #include "host/server/net/tests/SilentListener.h"
 #include "host/server/net/tests/TestServer.h"
 
@@ -11,7 +11,6 @@ namespace Tarvik::Client {
 
 namespace {
 
-using Server::RequestBlock;
 using Server::SilentListener;
 using Server::TestServer;
 

@@ -7,7 +7,7 @@
 #include <openssl/x509_vfy.h>
 
 #include "host/client/remote/RemoteLink.h"
-#include "host/server/net/tests/RequestBlock.h"
+#include "host/client/services/RequestBlock.h"
 #include "host/server/net/tests/SilentListener.h"
 #include "host/server/net/tests/TestCertificate.h"
 #include "host/server/net/tests/TestServer.h"
@@ -47,7 +47,7 @@ class TlsTest : public testing::Test {
 TEST_F(TlsTest, ExchangesOverOneKeptConnection) {
     Client::RemoteLink link(SettingsFor("https://127.0.0.1", "c.pem"));
     ASSERT_TRUE(link.Connect(error_)) << error_;
-    const RequestBlock load(3, 5, "{ui:\"anna\"}");
+    const Client::RequestBlock load(3, 5, "{ui:\"anna\"}");
     for (int i = 0; i < 10; ++i) {
         EXPECT_EQ(link.Exchange("anna", *load), "[]") << link.LastFailure();
     }
@@ -92,7 +92,7 @@ TEST_F(TlsTest, CertificateThatExpiresEndsNoConnectionButTheNext) {
     Client::RemoteLink link(SettingsFor("https://127.0.0.1", "c.pem"));
     ASSERT_TRUE(link.Connect(error_)) << error_;
     std::this_thread::sleep_for(std::chrono::milliseconds(3100));
-    const RequestBlock load(3, 5, "{ui:\"anna\"}");
+    const Client::RequestBlock load(3, 5, "{ui:\"anna\"}");
     EXPECT_EQ(link.Exchange("anna", *load), "[]") << link.LastFailure();
     Client::RemoteLink next(SettingsFor("https://127.0.0.1", "c.pem"));
     EXPECT_FALSE(next.Connect(error_));

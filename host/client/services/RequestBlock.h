@@ -7,7 +7,7 @@
 
 #include <tarvik/interface/ServerRequest.h>
 
-namespace Tarvik::Server {
+namespace Tarvik::Client {
 
 /// A request in memory as a caller of the exchange makes it.
 class RequestBlock {
@@ -26,4 +26,4 @@ class RequestBlock {
     std::vector<std::uint64_t> words_;
 };
 
-}  // namespace Tarvik::Server
+}  // namespace Tarvik::Client
