@@ -60,6 +60,12 @@ class PendingRoute {
         route_.stops = std::move(stops);
         route_.knownSince.reset();
     }
+    /// The route is again what it was in a copy, for voyage `vi`.
+    void PutBack(const PendingRoute& earlier, const std::string& vi) {
+        route_ = earlier.route_;
+        route_.voyage = vi;
+        isCurrent_ = earlier.isCurrent_;
+    }
     /// There is no route any more.
     void Drop() { route_ = {}; }
 

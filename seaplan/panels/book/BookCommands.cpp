@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "seaplan/panels/texts/BookTexts.h"
+#include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -23,8 +24,16 @@ void BookCommands::OnItemImage(int row, const std::string& name) {
 
 void BookCommands::OnExpand(int row) {
     const BookDesk::Report report(desk_);
-    editing_.CommitEditors();
     BookSheet& sheet = desk_.Sheet();
+    // What is taken may bring rows into the list beside the one that was edited, which is in front.
+    const int edited = sheet.selected;
+    const int before = sheet.RowCount();
+    editing_.CommitEditors();
+    if (row == edited) {
+        row = sheet.selected;
+    } else if (edited >= 0 && edited < row) {
+        row += sheet.RowCount() - before;
+    }
     const PosBookRowRef front = sheet.IsRow(sheet.selected) ? sheet.RefOf(sheet.selected) : PosBookRowRef{};
     if (ToggleBookRow(sheet.data, sheet.refs, row) && sheet.selected >= 0) {
         // Where the row in front was hidden, the one that hid it comes there.
@@ -37,7 +46,7 @@ int BookCommands::RegenerateLeg(int listRow, bool addMidpoint) {
     const BookDesk::Report report(desk_);
     const int count = desk_.Regenerate(listRow, addMidpoint);
     if (count > 0) {
-        desk_.TakeEdit();
+        desk_.TakeEdit({TextIds::IDS_VIEW_EDITINSERT, listRow});
     }
     return count;
 }
@@ -65,7 +74,7 @@ bool BookCommands::DeleteRow(int listRow) {
         return false;
     }
     sheet.selected = std::min(sheet.selected, sheet.RowCount() - 1);
-    desk_.TakeEdit();
+    desk_.TakeEdit({TextIds::IDS_VIEW_EDITDELETE, listRow});
     return true;
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/BookDesk.h"
 
-#include <algorithm>
+#include <utility>
+#include <vector>
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
@@ -9,8 +10,44 @@
 #include "seaplan/calculation/book/BookPanel.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/BookTexts.h"
+#include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
+
+namespace {
+
+/// Legs that are unfolded on show stay so in another state of the same book: its ports and named points are
+/// the same ones in every state, and the waypoints behind them follow.
+void KeepUnfolded(const PosBookData& shown, PosBookData& state) {
+    std::vector<unsigned char> flags;
+    for (const PosBookPortRow& port : shown.ports) {
+        for (const PosBookRow& row : port.rows) {
+            if (row.kind != PlainPoint) {
+                flags.push_back(row.expanded);
+            }
+        }
+        flags.push_back(port.expanded);
+    }
+    std::size_t next = 0;
+    unsigned char flag = 0;
+    const auto take = [&](unsigned char old) { return next < flags.size() ? flags[next++] : old; };
+    for (PosBookPortRow& port : state.ports) {
+        for (PosBookRow& row : port.rows) {
+            flag = row.kind == PlainPoint ? flag : take(row.expanded);
+            row.expanded = flag;
+        }
+        flag = take(port.expanded);
+        port.expanded = flag;
+    }
+}
+
+}  // namespace
+
+BookDesk::Report::Report(BookDesk& desk) : desk_(desk) {
+    if (desk_.reports_++ == 0) {
+        desk_.before_ = desk_.Front();
+    }
+}
 
 BookDesk::Report::~Report() {
     if (--desk_.reports_ == 0) {
@@ -18,7 +55,24 @@ BookDesk::Report::~Report() {
     }
 }
 
+PosBookRowRef BookDesk::Front() const {
+    return sheet_.IsRow(sheet_.selected) ? sheet_.RefOf(sheet_.selected)
+                                         : PosBookRowRef{kNoPort, PosBookRowRef::kPort};
+}
+
+/// The list's row of a place, or of the one behind which it is folded away; -1 for none.
+int BookDesk::RowShowing(PosBookRowRef ref) const {
+    while (ref.port >= 0 && sheet_.RowOf(ref) < 0) {
+        // In front of a leg's first waypoint stands the port before it.
+        ref = ref.sub > 0 ? PosBookRowRef{ref.port, ref.sub - 1} : PosBookRowRef{ref.port - 1};
+    }
+    return ref.port < 0 ? -1 : sheet_.RowOf(ref);
+}
+
 void BookDesk::Show() {
+    if (history_.IsThere()) {
+        NoteHistory();
+    }
     p_.view.SetCaption(Text(TextIds::IDC_WP_T_TITLE), sheet_.changed);
     p_.view.ShowSheet(sheet_);
     if (p_.view.IsVisible()) {
@@ -30,63 +84,65 @@ void BookDesk::Show() {
 
 void BookDesk::NoteHistory() {
     sheet_.changed = !history_.IsSaved();
-    sheet_.canUndo = history_.CanGoBack();
-    sheet_.canRedo = history_.CanGoForward();
+    sheet_.edits = history_.Texts();
 }
 
-/// Another state of the book: its rows are listed anew, and the row in front stays one of them.
-void BookDesk::ShowState(const PosBookData& book) {
-    sheet_.data = book;
+/// Another state of the book: its rows are listed anew.
+void BookDesk::ShowState(PosBookData book, const PosBookRowRef& front) {
+    sheet_.data = std::move(book);
     Recompute();
     sheet_.refs = ListBookRows(sheet_.data);
-    sheet_.selected = std::min(sheet_.selected, sheet_.RowCount() - 1);
+    sheet_.selected = RowShowing(front);
     NoteHistory();
 }
 
 void BookDesk::Take(const PosBookData& book) {
     history_.Start(book);
-    sheet_.selected = -1;
-    ShowState(book);
+    ShowState(book, {kNoPort, PosBookRowRef::kPort});
 }
 
 void BookDesk::Recompute() {
     sheet_.totals = RecomputeBook(sheet_.data, sheet_.units, Util::_datetime_t::gmt_now());
 }
 
-void BookDesk::TakeEdit() {
+void BookDesk::TakeEdit(const EditName& name) {
     sheet_.data.crossesDateLine = CrossesDateLine(sheet_.data);
     Recompute();
-    history_.Push(sheet_.data);
+    history_.Push(sheet_.data, name, {before_, Front()});
+    before_ = Front();
     NoteHistory();
 }
 
 bool BookDesk::GoBack() {
-    const PosBookData* state = history_.Back();
-    if (state == nullptr) {
+    if (!history_.CanGoBack()) {
         return false;
     }
-    ShowState(*state);
+    const PosBookRowRef front = history_.Now().extra.before;
+    PosBookData state = *history_.Back();
+    KeepUnfolded(sheet_.data, state);
+    ShowState(std::move(state), front);
     return true;
 }
 
 bool BookDesk::GoForward() {
-    const PosBookData* state = history_.Forward();
-    if (state == nullptr) {
+    if (!history_.CanGoForward()) {
         return false;
     }
-    ShowState(*state);
+    PosBookData state = *history_.Forward();
+    KeepUnfolded(sheet_.data, state);
+    ShowState(std::move(state), history_.Now().extra.after);
     return true;
 }
 
 void BookDesk::DropEdits() {
-    const PosBookData saved = history_.Backup();
-    history_.Push(saved);
+    PosBookData saved = history_.Backup();
+    history_.Push(saved, {TextIds::IDS_VIEW_EDITCANCEL}, {Front(), Front()});
     history_.MarkSaved();
-    ShowState(saved);
+    ShowState(std::move(saved), Front());
 }
 
 void BookDesk::NoteSaved() {
-    history_.MarkSaved();
+    history_.MarkSaved(sheet_.data);
     NoteHistory();
 }
 

@@ -36,7 +36,7 @@ class BookDesk {
     /// The same when the outermost report is over.
     class Report {
       public:
-        explicit Report(BookDesk& desk) : desk_(desk) { ++desk_.reports_; }
+        explicit Report(BookDesk& desk);
         ~Report();
         Report(const Report&) = delete;
         Report& operator=(const Report&) = delete;
@@ -49,8 +49,8 @@ class BookDesk {
     void Take(const PosBookData& book);
     /// Courses, times and totals anew.
     void Recompute();
-    /// The book was edited: all is computed anew and the edit can be taken back.
-    void TakeEdit();
+    /// The book was edited: all is computed anew and the edit can be taken back by its name.
+    void TakeEdit(const EditName& name = {});
     /// The state before the last edit, or behind it again. False where there is none.
     bool GoBack();
     bool GoForward();
@@ -71,15 +71,20 @@ class BookDesk {
     void Refuse(BookRefusal refusal);
 
   private:
-    void ShowState(const PosBookData& book);
+    static constexpr int kNoPort = -1;  ///< of a place in front that is none
+
+    void ShowState(PosBookData book, const PosBookRowRef& front);
     void NoteHistory();
+    PosBookRowRef Front() const;
+    int RowShowing(PosBookRowRef ref) const;
 
     Parts p_;
     Boxes boxes_;
     BookSheet sheet_;
     BookHistory history_;
     BookOnChart chart_;
-    int reports_ = 0;  ///< reports under way, one inside the other
+    PosBookRowRef before_{kNoPort, PosBookRowRef::kPort};  ///< place in front when the edit under way began
+    int reports_ = 0;                                      ///< reports under way, one inside the other
 };
 
 }  // namespace Tarvik::Seaplan

@@ -7,6 +7,7 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/BookTexts.h"
+#include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/tree/TreeRules.h"
 
 namespace Tarvik::Seaplan {
@@ -81,7 +82,7 @@ void BookEdits::SetName(int row, const std::string& typed) {
     std::string& name = desk_.Sheet().PlaceAt(row).name;
     if (std::string kept = WaypointName(typed); kept != name) {
         name = std::move(kept);
-        desk_.TakeEdit();
+        desk_.TakeEdit({TextIds::IDS_VIEW_EDITNAME, row});
     }
 }
 
@@ -118,7 +119,7 @@ void BookEdits::MoveTo(int row, const Position& position) {
         // The rows that came into the list stand before this one.
         CutGreatCircle(row + sheet.RowCount() - before + 1);
     }
-    desk_.TakeEdit();
+    desk_.TakeEdit({TextIds::IDS_VIEW_EDITPLACE, row});
 }
 
 BookRefusal BookEdits::SetSpeed(int row, const std::string& typed) {
@@ -127,7 +128,7 @@ BookRefusal BookEdits::SetSpeed(int row, const std::string& typed) {
     const BookRefusal refusal = CheckSpeed(typed, desk_.Sheet().units.speed, kmh);
     if (refusal == BookRefusal::None && kmh != speed) {
         speed = kmh;
-        desk_.TakeEdit();
+        desk_.TakeEdit({TextIds::IDS_VIEW_EDITSPEED, row});
     }
     return refusal;
 }
@@ -139,7 +140,7 @@ void BookEdits::SetTrack(int row, const std::string& track) {
     }
     kept = track;
     CutGreatCircle(row);
-    desk_.TakeEdit();
+    desk_.TakeEdit({TextIds::IDS_VIEW_EDITTRACK, row});
 }
 
 void BookEdits::SetInterval(int row, int interval) {
@@ -149,7 +150,7 @@ void BookEdits::SetInterval(int row, int interval) {
     }
     kept = interval;
     CutGreatCircle(row);
-    desk_.TakeEdit();
+    desk_.TakeEdit({TextIds::IDS_VIEW_EDITINTERVAL, row});
 }
 
 BookRefusal BookEdits::SetTime(int row, const Util::_datetime_t& local) {
@@ -158,7 +159,7 @@ BookRefusal BookEdits::SetTime(int row, const Util::_datetime_t& local) {
     const double before = port.portTime;
     const BookRefusal refusal = ChangeDeparture(Util::DateTimeUtl::ConvertToUTC(local, sheet.zone), port);
     if (refusal == BookRefusal::None && port.portTime != before) {
-        desk_.TakeEdit();
+        desk_.TakeEdit({TextIds::IDS_VIEW_EDITETD, row});
     }
     return refusal;
 }

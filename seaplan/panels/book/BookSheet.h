@@ -7,6 +7,7 @@
 #include "seaplan/calculation/book/BookColumns.h"
 #include "seaplan/calculation/book/BookRecompute.h"
 #include "seaplan/calculation/book/BookRows.h"
+#include "seaplan/panels/editors/EditWords.h"
 
 namespace Tarvik::Seaplan {
 
@@ -15,9 +16,8 @@ enum class BookExpander { None, Closed, Open };
 
 /// What stands around the table.
 struct BookState {
-    bool changed = false;   ///< there is something to save
-    bool canUndo = false;   ///< there is an edit to take back
-    bool canRedo = false;   ///< there is one to make again
+    bool changed = false;  ///< there is something to save
+    UndoTexts edits;
     int selected = -1;      ///< row in front, -1 for none
     std::string zone;       ///< the person's
     std::string tableZone;  ///< of the times in the port call table

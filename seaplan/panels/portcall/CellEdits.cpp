@@ -4,6 +4,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 
 namespace Tarvik::Seaplan {
@@ -45,6 +46,7 @@ void CellEdits::SetPort(int row, const std::string& typed) {
     }
     table.ClearTotals();
     desk_.Sheet().MarkChanged(desk_.Ports());
+    desk_.History().Take({TextIds::IDS_VIEW_EDITPORT, row});
 }
 
 void CellEdits::SetSpeed(int row, const std::string& typed) {
@@ -58,6 +60,7 @@ void CellEdits::SetSpeed(int row, const std::string& typed) {
         text = SpeedText(speed);
     }
     SetFigure(row, ColSpeed, text);
+    desk_.History().Take({TextIds::IDS_VIEW_EDITSPEED, row});
 }
 
 void CellEdits::SetWeather(int row, const std::string& typed) {
@@ -75,6 +78,7 @@ void CellEdits::SetWeather(int row, const std::string& typed) {
         text = PercentText(percent);
     }
     SetFigure(row, ColWeather, text);
+    desk_.History().Take({TextIds::IDS_VIEW_EDITWEATHER, row});
 }
 
 void CellEdits::SetFigure(int row, int column, const std::string& text) {
@@ -91,6 +95,7 @@ void CellEdits::SetPurpose(int row, const std::string& code) {
     }
     desk_.Sheet().table.SetCell(row, ColPurpose, code);
     desk_.Sheet().MarkChanged(desk_.Ports());
+    desk_.History().Take({TextIds::IDS_VIEW_EDITPURPOSE, row});
 }
 
 void CellEdits::SetTime(int row, int column, const std::string& text) {
@@ -104,6 +109,7 @@ void CellEdits::SetTime(int row, int column, const std::string& text) {
     } else {
         SetEta(row, text);
     }
+    desk_.History().Take({column == ColEtd ? TextIds::IDS_VIEW_EDITETD : TextIds::IDS_VIEW_EDITETA, row});
 }
 
 void CellEdits::SetFirstEta(const std::string& text) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/DistanceTable.h"
 
+#include "seaplan/panels/texts/EditTexts.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -44,6 +46,7 @@ int DistanceTable::AddPort(const std::string& name) {
     table.SetPort(row, port[0].ppn, port[0].ppi);
     table.GrowIfLast(row);
     desk_.Sheet().MarkChanged(desk_.Ports());
+    desk_.History().Take({TextIds::IDS_VIEW_EDITPORT, row});
     desk_.Show();
     desk_.View().BringRowIntoView(row);
     return 0;

@@ -8,6 +8,7 @@
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 
 namespace Tarvik::Seaplan {
@@ -124,6 +125,7 @@ void PanelCommands::OnCalculate() {
     } else if (corrected_.Calculate() != 0) {
         TellFailure(desk_, TextIds::IDS_PORTCALL_AISCOMPUTWARN);
     }
+    desk_.History().Take({TextIds::IDS_VIEW_EDITCALCULATE});
 }
 
 int PanelCommands::OnRouteChosen() {
@@ -143,7 +145,9 @@ int PanelCommands::OnRouteChosen() {
         return -2;
     }
     desk_.SetNote(NoteOfRoute());
-    return ShowCalculated(rows, std::move(result));
+    const int shown = ShowCalculated(rows, std::move(result));
+    desk_.History().Take({TextIds::IDS_VIEW_EDITROUTE});
+    return shown;
 }
 
 void PanelCommands::OnSave() {
@@ -151,7 +155,10 @@ void PanelCommands::OnSave() {
     editing_.CommitEditors();
     const PortCallSheet& sheet = desk_.Sheet();
     if (sheet.state.changed && sheet.IsUnkeptTable()) {
-        return desk_.AskToKeepTable();
+        if (desk_.Given().keepTable) {
+            desk_.Given().keepTable();
+        }
+        return;
     }
     int corrected = 0;
     if (!sheet.state.changed || desk_.Voyages().GetModAis(sheet.voyageId, corrected) != 0) {
@@ -197,6 +204,8 @@ void PanelCommands::SavePlain() {
         desk_.Sheet().MarkUnchanged();
         desk_.Sheet().state.canOpenBook = true;
     }
+    // A save may have calculated first.
+    desk_.History().Take({TextIds::IDS_VIEW_EDITCALCULATE});
 }
 
 int PanelCommands::SaveBeforeLeaving() {
@@ -220,6 +229,7 @@ void PanelCommands::OnClear() {
             filling_.GiveUp();
         }
         desk_.Sheet().Clear();
+        desk_.History().Take({TextIds::IDS_VIEW_EDITCLEAR});
         desk_.Voyages().Module().Pending().NoteRowsChanged();
         desk_.Voyages().ClearChart();
         desk_.Show();
@@ -251,7 +261,7 @@ void PanelCommands::OnPositionBook() {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
     const PortCallSheet& sheet = desk_.Sheet();
-    CPosBookDlg* dialog = desk_.Book();
+    CPosBookDlg* dialog = desk_.Given().book ? desk_.Given().book() : nullptr;
     if (dialog == nullptr || !sheet.state.canOpenBook) {
         return;
     }
@@ -278,11 +288,7 @@ int PanelCommands::SavePositionBook(const PosBookData& book) {
     desk_.TellSaved(bookVoyage_);
     // The tree may have opened another voyage meanwhile, which stays on show.
     if (desk_.Sheet().voyageId == bookVoyage_) {
-        // The tree's last click stays what it was: consumption goes to that voyage.
-        const std::string clicked = filling_.NextVoyage();
-        filling_.SetVoyage(bookVoyage_);
-        filling_.Open(-1);
-        filling_.SetVoyage(clicked);
+        filling_.Refill();
         desk_.View().Show();
     }
     desk_.Voyages().RemoveVoyageObjects(bookVoyage_);
@@ -302,7 +308,21 @@ std::vector<std::string> PanelCommands::OnUnitsAsked(UnitKind kind) {
 
 int PanelCommands::OnUnitChosen(UnitKind kind, const std::string& unit) {
     const PortCallDesk::Report report(desk_);
-    return desk_.Sheet().ChangeUnit(kind, unit, desk_.IsCorrected());
+    const int changed = desk_.Sheet().ChangeUnit(kind, unit, desk_.IsCorrected());
+    desk_.History().Take({TextIds::IDS_VIEW_EDITUNIT});
+    return changed;
+}
+
+void PanelCommands::OnUndo() {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    desk_.History().GoBack();
+}
+
+void PanelCommands::OnRedo() {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    desk_.History().GoForward();
 }
 
 }  // namespace Tarvik::Seaplan

@@ -34,6 +34,10 @@ class PanelCommands {
     /// the number of VoyController::SavePositionBook, which is told.
     int SavePositionBook(const PosBookData& book);
     void OnHelp();
+    /// The table as it was before the last edit, or behind it again, with the route that it had; nothing
+    /// where there is none.
+    void OnUndo();
+    void OnRedo();
     /// The menu of a quantity opens: its units, in order.
     std::vector<std::string> OnUnitsAsked(UnitKind kind);
     /// Results as PortCallSheet::ChangeUnit.

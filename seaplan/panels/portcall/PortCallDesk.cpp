@@ -13,6 +13,7 @@ namespace Tarvik::Seaplan {
 
 PortCallDesk::Report::~Report() {
     if (--desk_.reports_ == 0) {
+        desk_.history_.Take();
         desk_.Show();
     }
 }
@@ -24,16 +25,18 @@ PortCallDesk::Busy::Busy(PortCallDesk& desk) : view_(desk.View()) {
 
 void PortCallDesk::Show() {
     sheet_.table.MarkUnknownPorts([this](const std::string& name) { return p_.ports.Knows(name); });
-    if (!told_ || sheet_.table != shownTable_) {
-        shownTable_ = sheet_.table;
-        p_.view.ShowTable(shownTable_);
+    if (!shown_ || sheet_.table != shown_->table) {
+        p_.view.ShowTable(sheet_.table);
     }
-    if (!told_ || sheet_.state != shownState_) {
-        shownState_ = sheet_.state;
-        p_.view.SetCaption(shownState_.caption, shownState_.changed);
-        p_.view.ShowState(shownState_);
+    if (!shown_ || sheet_.state != shown_->state) {
+        p_.view.SetCaption(sheet_.state.caption, sheet_.state.changed);
+        p_.view.ShowState(sheet_.state);
     }
-    told_ = true;
+    const UndoTexts edits = history_.Texts();
+    if (!shown_ || edits != shown_->edits) {
+        p_.view.ShowEdits(edits);
+    }
+    shown_ = Shown{sheet_.table, sheet_.state, edits};
     if (bookOpen_) {
         // A box that was up meanwhile has given the window back.
         p_.view.SetEnabled(false);
@@ -65,12 +68,6 @@ void PortCallDesk::ShowTexts() {
         Text(sheet_.state.distanceTable ? TextIds::IDS_PORTCALL_DISTTABTITLE : TextIds::IDS_PORTCALL_TITLE);
     sheet_.state.note = NoteText(sheet_.note);
     SetCorrectionPending(sheet_.aisCorrectionPending);
-}
-
-void PortCallDesk::AskToKeepTable() const {
-    if (p_.keepTable) {
-        p_.keepTable();
-    }
 }
 
 void PortCallDesk::SetCorrectionPending(bool pending) {

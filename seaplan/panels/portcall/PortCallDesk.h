@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -11,6 +12,7 @@
 #include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/panels/portcall/TableHistory.h"
 #include "seaplan/panels/remark/CRemarkPanel.h"
 
 namespace Tarvik::Seaplan {
@@ -32,7 +34,8 @@ class PortCallDesk {
         /// Asks under which name the distance table is to be kept as a voyage; empty where nobody can.
         std::function<void()> keepTable{};
     };
-    explicit PortCallDesk(Parts parts) : p_(std::move(parts)), boxes_(p_.view) {}
+    explicit PortCallDesk(Parts parts)
+        : p_(std::move(parts)), boxes_(p_.view), history_(sheet_, p_.voyages, p_.ports) {}
 
     PortCallSheet& Sheet() { return sheet_; }
     const PortCallSheet& Sheet() const { return sheet_; }
@@ -40,8 +43,10 @@ class PortCallDesk {
     VoyController& Voyages() const { return p_.voyages; }
     PortDirectory& Ports() const { return p_.ports; }
     PortCallView& View() const { return p_.view; }
-    /// Null where there is none.
-    CRemarkPanel* Remarks() const { return p_.remarks ? p_.remarks() : nullptr; }
+    /// What it was made with; each function there may be empty.
+    const Parts& Given() const { return p_; }
+    /// The edits of the table on show.
+    TableHistory& History() { return history_; }
 
     /// Brings the window up to date; nothing is told that it shows already.
     void Show();
@@ -85,10 +90,6 @@ class PortCallDesk {
     /// The same over the schedule of such rows, which keep their ids.
     int Recompute(const PortCallRows& standard);
 
-    /// Asks for a name to keep the table by.
-    void AskToKeepTable() const;
-    /// The position book; null where there is none.
-    CPosBookDlg* Book() const { return p_.book ? p_.book() : nullptr; }
     /// The window cannot be used while the position book is open.
     void SetBookOpen(bool open);
     /// The sheet's cause is that of the controllers' last failure.
@@ -111,9 +112,14 @@ class PortCallDesk {
     std::function<void(const std::string&)> saved_;
     std::string zone_;
     PortCallSheet sheet_;
-    PortCallTable shownTable_;
-    PortCallState shownState_;
-    bool told_ = false;  ///< the window has been told anything yet
+    TableHistory history_;
+    /// What the window was told last.
+    struct Shown {
+        PortCallTable table;
+        PortCallState state;
+        UndoTexts edits;
+    };
+    std::optional<Shown> shown_;
     bool bookOpen_ = false;
     int reports_ = 0;  ///< reports under way, one inside the other
 };

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "seaplan/calculation/PortCallColumns.h"
+#include "seaplan/panels/editors/EditWords.h"
 #include "seaplan/panels/portcall/CellsView.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/window/PanelWindow.h"
@@ -35,6 +36,7 @@ class PortCallView : public PanelWindow {
   public:
     virtual void ShowTable(const PortCallTable& table) = 0;
     virtual void ShowState(const PortCallState& state) = 0;
+    virtual void ShowEdits(const UndoTexts& edits) = 0;
     /// Tells the person that something goes on which takes a while.
     virtual void SetBusy(bool busy) = 0;
     virtual void SelectRow(int row) = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/RowCommands.h"
 
+#include "seaplan/panels/texts/EditTexts.h"
+
 namespace Tarvik::Seaplan {
 
 int RowCommands::ShowMoved(int result, const PortCallRows& rows) {
@@ -17,7 +19,9 @@ int RowCommands::Move(int row, const std::string& name) {
     const PortCallRows rows = table.ReadAllRows();
     PortCallRows moved;
     if (name == PortCallImage::kDelete) {
-        return ShowMoved(desk_.Voyages().DeleteRow(rows, row, moved), moved);
+        const int deleted = ShowMoved(desk_.Voyages().DeleteRow(rows, row, moved), moved);
+        desk_.History().Take({TextIds::IDS_VIEW_EDITDELETE, row});
+        return deleted;
     }
     if (name != PortCallImage::kMoveUp && name != PortCallImage::kMoveDown) {
         return -3;
@@ -26,6 +30,7 @@ int RowCommands::Move(int row, const std::string& name) {
     const int result = ShowMoved(
         up ? desk_.Voyages().MoveRowUp(rows, row, moved) : desk_.Voyages().MoveRowDown(rows, row, moved),
         moved);
+    desk_.History().Take({TextIds::IDS_VIEW_EDITMOVE, row});
     const int target = up ? row - 1 : row + 1;
     if (result == 0 && (up || !table.IsBlank(target))) {
         desk_.View().SelectRow(target);
@@ -36,7 +41,7 @@ int RowCommands::Move(int row, const std::string& name) {
 /// The remarks of a port belong to the voyage's id with the port's name behind it.
 int RowCommands::OpenRemarks(int row) {
     const std::string port = desk_.Sheet().table.ReadRow(row).ppn;
-    if (CRemarkPanel* remarks = desk_.Remarks()) {
+    if (CRemarkPanel* remarks = desk_.Given().remarks ? desk_.Given().remarks() : nullptr) {
         remarks->Open(0, PortCallRemark, desk_.Sheet().voyageId + port, port);
     }
     return 0;

@@ -83,6 +83,7 @@ bool VoyageFilling::AskToLeave() {
     }
     // What was given up does not stay in sight where nothing else comes.
     if (changed) {
+        desk_.History().Begin();
         Show(-1);
     }
     return true;
@@ -111,6 +112,7 @@ void VoyageFilling::Reset() {
         return;
     }
     TakeOver(next_);
+    desk_.History().Begin();
     if (next_.empty()) {
         return Clear();
     }
@@ -124,6 +126,7 @@ int VoyageFilling::OpenDistanceTable() {
         return -1;
     }
     TakeOver(kDistanceTableId);
+    desk_.History().Begin();
     return Fill(-1);
 }
 
@@ -148,6 +151,7 @@ void VoyageFilling::OnTimeZone(const std::string& zone) {
     // A closed panel is filled when it opens.
     if (desk_.View().IsVisible() && MayLeave()) {
         desk_.Sheet().state.zone = zone;
+        desk_.History().Begin();
         Show(-1);
     }
 }
@@ -168,7 +172,16 @@ void VoyageFilling::Forget() {
     PortCallSheet& sheet = desk_.Sheet();
     sheet.voyageId.clear();
     sheet.editedVoyageId.clear();
+    desk_.History().Begin();
     Clear();
+}
+
+int VoyageFilling::Refill() {
+    // Whoever chose another voyage meanwhile, as for its consumption, means that one still.
+    const std::string next = std::exchange(next_, desk_.Sheet().voyageId);
+    const int opened = Open(-1);
+    next_ = next;
+    return opened;
 }
 
 int VoyageFilling::Open(int mode) {
@@ -184,6 +197,7 @@ int VoyageFilling::Open(int mode) {
         desk_.View().Hide();
     }
     TakeOver(next_);
+    desk_.History().Begin();
     return Show(mode);
 }
 

@@ -31,6 +31,8 @@ class VoyageFilling {
     /// That voyage's stored rows, or six empty ones when it has none. Nothing where the changes of the voyage
     /// on show could not be saved.
     void Reset();
+    /// The voyage on show anew, as Open shows the next one, which stays the next. Results of Open.
+    int Refill();
     /// An empty port distance table. 0, or -1 where the changes of the voyage on show could not be saved.
     int OpenDistanceTable();
     /// The rows on show are those of this voyage from now on, with their route; the table stays as it is.

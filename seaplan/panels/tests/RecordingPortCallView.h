@@ -20,6 +20,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
   public:
     PortCallTable table;
     PortCallState state;
+    UndoTexts edits;
     int tablesShown = 0;
     int statesShown = 0;
     int busy = 0;
@@ -47,6 +48,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
         state = shown;
         ++statesShown;
     }
+    void ShowEdits(const UndoTexts& shown) override { edits = shown; }
     void Show() override {
         RecordingPanelWindow::Show();
         visibility.emplace_back("show");

@@ -3,6 +3,7 @@
 
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/panels/texts/CommonTexts.h"
+#include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/NoteTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/TreeTexts.h"
@@ -12,5 +13,6 @@
     SEAPLAN_TREE_TEXTS(KEY)      \
     SEAPLAN_PORT_CALL_TEXTS(KEY) \
     SEAPLAN_BOOK_TEXTS(KEY)      \
+    SEAPLAN_EDIT_TEXTS(KEY)      \
     SEAPLAN_NOTE_TEXTS(KEY)      \
     SEAPLAN_COMMON_TEXTS(KEY)

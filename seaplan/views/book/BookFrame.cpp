@@ -21,13 +21,14 @@ struct ButtonLook {
     const char* icon;
     const char* keys = "";
 };
-constexpr ButtonLook kLooks[] = {{"saveButton", "save", "Ctrl+S"}, {"cancelButton", "recover"},
-                                 {"undoButton", "undo", "Ctrl+Z"}, {"redoButton", "redo", "Ctrl+Y"},
-                                 {"insertButton", "add", "Ins"},   {"deleteButton", "delete", "Del"}};
+constexpr ButtonLook kLooks[] = {{"saveButton", "save", "Ctrl+S"},
+                                 {"cancelButton", "recover"},
+                                 {"insertButton", "add", "Ins"},
+                                 {"deleteButton", "delete", "Del"}};
 
 }  // namespace
 
-BookHead::BookHead(QWidget* parent) : QWidget(parent), zone_(new QLabel(this)) {
+BookHead::BookHead(QWidget* parent) : QWidget(parent), undo_(new UndoButtons(this)), zone_(new QLabel(this)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Skin::kGrid);
@@ -37,7 +38,9 @@ BookHead::BookHead(QWidget* parent) : QWidget(parent), zone_(new QLabel(this)) {
         made->setFixedSize(Skin::kControlHeight + 2, Skin::kControlHeight);
         made->setFocusPolicy(Qt::TabFocus);
         row->addWidget(made);
-        if (part == Cancel || part == Redo) {
+        if (part == Cancel) {
+            row->addSpacing(2 * Skin::kGrid);
+            row->addWidget(undo_);
             row->addSpacing(2 * Skin::kGrid);
         }
         buttons_.at(static_cast<std::size_t>(part)) = made;
@@ -51,21 +54,14 @@ BookHead::BookHead(QWidget* parent) : QWidget(parent), zone_(new QLabel(this)) {
 }
 
 void BookHead::SetReports(const Reports& reports) {
-    const std::function<void()> pressed[] = {reports.save, reports.cancel, reports.undo,
-                                             reports.redo, reports.insert, reports.remove};
+    const std::function<void()> pressed[] = {reports.save, reports.cancel, reports.insert, reports.remove};
     for (std::size_t part = 0; part < buttons_.size(); ++part) {
         QObject::connect(buttons_.at(part), &QToolButton::clicked, this, pressed[part]);
     }
-    // The keys are the window's: a button takes two quick presses of its own for one.
-    const std::pair<QKeySequence, const std::function<void()>&> keys[] = {
-        {Qt::CTRL | Qt::Key_S, reports.saveKey},
-        {Qt::CTRL | Qt::Key_Z, reports.undo},
-        {Qt::CTRL | Qt::Key_Y, reports.redo},
-        {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, reports.redo}};
-    for (const auto& [sequence, report] : keys) {
-        auto* shortcut = new QShortcut(sequence, window());
-        QObject::connect(shortcut, &QShortcut::activated, this, report);
-    }
+    // The key is the window's: a button takes two quick presses of its own for one.
+    auto* save = new QShortcut(Qt::CTRL | Qt::Key_S, window());
+    QObject::connect(save, &QShortcut::activated, this, reports.saveKey);
+    undo_->SetReports(reports.undo, reports.redo);
 }
 
 void BookHead::Set(Part part, bool on, TextId tip, TextId whyNot) {
@@ -83,8 +79,7 @@ void BookHead::Set(Part part, bool on, TextId tip, TextId whyNot) {
 void BookHead::ShowSheet(const BookSheet& sheet) {
     Set(Save, sheet.changed, TextIds::IDC_WP_BT_SAVE, TextIds::IDS_VIEW_NOCHANGES);
     Set(Cancel, sheet.changed, TextIds::IDC_WP_BT_CANCEL, TextIds::IDS_VIEW_NOCHANGES);
-    Set(Undo, sheet.canUndo, TextIds::IDS_VIEW_UNDO, TextIds::IDS_VIEW_NOUNDO);
-    Set(Redo, sheet.canRedo, TextIds::IDS_VIEW_REDO, TextIds::IDS_VIEW_NOREDO);
+    undo_->ShowTexts(sheet.edits);
     Set(Insert, sheet.CanInsert(), TextIds::IDC_WP_BT_DOWN, TextIds::IDS_VIEW_NOINSERT);
     Set(Remove, sheet.CanDelete(), TextIds::IDC_WP_BT_DELETE, TextIds::IDS_VIEW_NODELETE);
     QString zone = sheet.zone.empty()
@@ -102,6 +97,7 @@ void BookHead::ApplySkin() {
     for (std::size_t part = 0; part < buttons_.size(); ++part) {
         buttons_.at(part)->setIcon(Skin::MakeIcon(kLooks[part].icon));
     }
+    undo_->ApplySkin();
 }
 
 BookFoot::BookFoot(QWidget* parent)

@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "seaplan/panels/book/BookSheet.h"
+#include "seaplan/views/editors/UndoButtons.h"
 #include "seaplan/views/editors/UnitFigures.h"
 
 namespace Tarvik::Seaplan {
@@ -32,11 +33,12 @@ class BookHead final : public QWidget {
     void ApplySkin();
 
   private:
-    enum Part { Save, Cancel, Undo, Redo, Insert, Remove, PartCount };
+    enum Part { Save, Cancel, Insert, Remove, PartCount };
 
     void Set(Part part, bool on, TextId tip, TextId whyNot);
 
     std::array<QToolButton*, PartCount> buttons_{};
+    UndoButtons* undo_;
     QLabel* zone_;
 };
 

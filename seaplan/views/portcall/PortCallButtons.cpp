@@ -20,6 +20,7 @@ PortCallButtons::PortCallButtons(QWidget* parent)
     : QWidget(parent),
       save_(MakeTool("saveButton")),
       clear_(MakeTool("clearButton")),
+      undo_(new UndoButtons(this)),
       book_(new QPushButton(this)),
       calculate_(new QPushButton(this)) {
     book_->setObjectName(QStringLiteral("positionBookButton"));
@@ -35,6 +36,8 @@ PortCallButtons::PortCallButtons(QWidget* parent)
     row->setSpacing(2 * Skin::kGrid);
     row->addWidget(save_);
     row->addWidget(clear_);
+    row->addSpacing(2 * Skin::kGrid);
+    row->addWidget(undo_);
     row->addStretch(1);
     row->addWidget(book_);
     row->addWidget(calculate_);
@@ -55,6 +58,7 @@ void PortCallButtons::SetReports(const Reports& reports) {
     QObject::connect(clear_, &QToolButton::clicked, this, reports.clear);
     QObject::connect(book_, &QPushButton::clicked, this, reports.book);
     QObject::connect(calculate_, &QPushButton::clicked, this, reports.calculate);
+    undo_->SetReports(reports.undo, reports.redo);
 }
 
 void PortCallButtons::Set(QAbstractButton* button, bool on, TextId tip, TextId whyNot) {
@@ -83,6 +87,7 @@ void PortCallButtons::ApplyTexts() {
 void PortCallButtons::ApplySkin() {
     save_->setIcon(Skin::MakeIcon("save"));
     clear_->setIcon(Skin::MakeIcon("clear"));
+    undo_->ApplySkin();
 }
 
 }  // namespace Tarvik::Seaplan

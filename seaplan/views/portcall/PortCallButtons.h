@@ -7,13 +7,15 @@
 
 #include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/panels/texts/TextId.h"
+#include "seaplan/views/editors/UndoButtons.h"
 
 class QPushButton;
 class QToolButton;
 
 namespace Tarvik::Seaplan {
 
-/// The commands below the table: save, clear, position book, calculate. A button that is off tells why.
+/// The commands below the table: save, clear, undo, redo, position book, calculate. A button that is off
+/// tells why.
 class PortCallButtons final : public QWidget {
   public:
     explicit PortCallButtons(QWidget* parent);
@@ -23,9 +25,12 @@ class PortCallButtons final : public QWidget {
         std::function<void()> clear;
         std::function<void()> book;
         std::function<void()> calculate;
+        std::function<void()> undo;
+        std::function<void()> redo;
     };
     void SetReports(const Reports& reports);
     void ShowState(const PortCallState& state);
+    void ShowEdits(const UndoTexts& edits) { undo_->ShowTexts(edits); }
     /// Behind a new text of a button.
     void ApplyTexts();
     void ApplySkin();
@@ -36,6 +41,7 @@ class PortCallButtons final : public QWidget {
 
     QToolButton* save_;
     QToolButton* clear_;
+    UndoButtons* undo_;
     QPushButton* book_;
     QPushButton* calculate_;
 };

@@ -60,8 +60,8 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
         {[&commands](UnitKind kind) { return commands.OnUnitsAsked(kind); },
          [&commands](UnitKind kind, int, const std::string& unit) { commands.OnUnitChosen(kind, unit); }});
     buttons_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnClear(); },
-                          [&commands] { commands.OnPositionBook(); },
-                          [&commands] { commands.OnCalculate(); }});
+                          [&commands] { commands.OnPositionBook(); }, [&commands] { commands.OnCalculate(); },
+                          [&commands] { commands.OnUndo(); }, [&commands] { commands.OnRedo(); }});
     // A press anywhere outside the table ends the editing.
     new OutsidePress(
         this, [this](const QWidget& widget) { return editors_->Holds(widget); },

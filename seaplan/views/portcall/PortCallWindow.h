@@ -22,6 +22,7 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
 
     void ShowTable(const PortCallTable& table) override;
     void ShowState(const PortCallState& state) override;
+    void ShowEdits(const UndoTexts& edits) override { buttons_->ShowEdits(edits); }
     void SetBusy(bool busy) override;
     void SelectRow(int row) override;
     void BringRowIntoView(int row) override;

@@ -61,6 +61,21 @@ TEST_F(DistanceTableWindowTest, TheTableIsKeptByTheKeyboardAlone) {
     EXPECT_EQ(desk.Voyage("New voyage - 0").portCalls.size(), 2U);
 }
 
+TEST_F(DistanceTableWindowTest, TheUndoButtonTellsWhatItWouldTakeBack) {
+    OpenTable();
+    SendPorts({"ROTTERDAM", "SINGAPORE"});
+    auto* undo = Find<QAbstractButton>(PortCalls(), "undoButton");
+    EXPECT_EQ(undo->toolTip(), "Undo port of row 2 (Ctrl+Z)");
+    EXPECT_EQ(undo->accessibleName(), "Undo port of row 2");
+    QTest::keyClick(&PortCalls(), Qt::Key_Z, Qt::ControlModifier);
+    QApplication::processEvents();
+    EXPECT_EQ(undo->toolTip(), "Undo port of row 1 (Ctrl+Z)");
+    EXPECT_EQ(Find<QAbstractButton>(PortCalls(), "redoButton")->toolTip(), "Redo port of row 2 (Ctrl+Y)");
+    QTest::keyClick(&PortCalls(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QApplication::processEvents();
+    EXPECT_EQ(undo->toolTip(), "Undo port of row 2 (Ctrl+Z)");
+}
+
 TEST_F(DistanceTableWindowTest, TheArrowShowsAllNamesAndAPressElsewhereHidesThem) {
     OpenTable();
     SendPorts({"ROTTERDAM", "SINGAPORE"});

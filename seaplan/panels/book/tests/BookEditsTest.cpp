@@ -62,7 +62,7 @@ TEST_F(BookEditsTest, AValueThatStandsThereMarksNothing) {
     Choose(2, BookInterval, 4);
     Pick(3, BookEtd, Cell(3, BookEtd));
     EXPECT_FALSE(Changed());
-    EXPECT_FALSE(bookView.sheet.canUndo);
+    EXPECT_TRUE(bookView.sheet.edits.undo.empty());
     EXPECT_TRUE(messages.messages.empty());
 }
 

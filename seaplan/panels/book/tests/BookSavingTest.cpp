@@ -172,7 +172,7 @@ TEST_F(BookSavingTest, EveryEditIsUndoneAndMadeAgain) {
     book.Commands().OnDelete();
     const std::vector<std::string> last = Column(BookEta);
     int undone = 0;
-    while (bookView.sheet.canUndo) {
+    while (!bookView.sheet.edits.undo.empty()) {
         book.Commands().OnUndo();
         ++undone;
     }
@@ -188,7 +188,7 @@ TEST_F(BookSavingTest, EveryEditIsUndoneAndMadeAgain) {
         EXPECT_EQ(before.positionBook.points[i].psn, now.positionBook.points[i].psn);
         EXPECT_EQ(before.positionBook.points[i].psr, now.positionBook.points[i].psr);
     }
-    while (bookView.sheet.canRedo) {
+    while (!bookView.sheet.edits.redo.empty()) {
         book.Commands().OnRedo();
     }
     EXPECT_EQ(Column(BookEta), last);

@@ -126,17 +126,17 @@ TEST_P(BookWalkTest, AnyEditsUndoneGiveTheFirstStateBack) {
     for (int step = 0; step < 60; ++step) {
         Step();
     }
-    while (book.Sheet().canRedo) {
+    while (!book.Sheet().edits.redo.empty()) {
         book.Commands().OnRedo();
     }
     const std::string last = TextOf(Data());
-    while (book.Sheet().canUndo) {
+    while (!book.Sheet().edits.undo.empty()) {
         book.Commands().OnUndo();
         ExpectSound();
     }
     EXPECT_EQ(TextOf(Data()), first);
     EXPECT_FALSE(Changed());
-    while (book.Sheet().canRedo) {
+    while (!book.Sheet().edits.redo.empty()) {
         book.Commands().OnRedo();
     }
     EXPECT_EQ(TextOf(Data()), last);

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/EditTexts.h"
+
+namespace Tarvik::Seaplan {
+
+/// What an edit is called.
+struct EditName {
+    TextId text = TextIds::IDS_VIEW_EDITOTHER;  ///< takes a row's number
+    int row = 0;                                ///< counted from 0
+};
+
+/// What undo and redo of a window would do now, as "Undo speed of row 3"; empty where they can do nothing.
+struct UndoTexts {
+    std::string undo;
+    std::string redo;
+    bool operator==(const UndoTexts&) const = default;
+};
+
+/// What a command does with an edit; `form` takes the edit's name.
+inline std::string EditText(TextId form, const EditName& name) {
+    return Text(form, {Text(name.text, {std::to_string(name.row + 1)})});
+}
+
+}  // namespace Tarvik::Seaplan

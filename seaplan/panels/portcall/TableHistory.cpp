@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/TableHistory.h"
+
+#include <algorithm>
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+/// Whether all cells but the row's number are blank; a row beyond the table's end is.
+bool IsEmptyRow(const PortCallTable& table, int row) {
+    return !table.IsNumbered(row) ||
+           std::all_of(table.Rows()[row].cells.begin() + ColPort, table.Rows()[row].cells.end(), IsBlankCell);
+}
+
+bool SameUnits(const PortCallState& a, const PortCallState& b) {
+    return a.speedUnit == b.speedUnit && a.distanceUnit == b.distanceUnit && a.timeUnit == b.timeUnit;
+}
+
+/// Whether a person would see no edit between the two: a free row more at the end is none.
+bool SameContent(const PortCallSheet& a, const PortCallSheet& b) {
+    const int rows = std::max(a.table.RowCount(), b.table.RowCount());
+    for (int row = 0; row < rows; ++row) {
+        const bool empty = IsEmptyRow(a.table, row);
+        if (empty != IsEmptyRow(b.table, row)) {
+            return false;
+        }
+        if (!empty && (a.table.Rows()[row].cells != b.table.Rows()[row].cells ||
+                       a.table.Rows()[row].look != b.table.Rows()[row].look)) {
+            return false;
+        }
+    }
+    return SameUnits(a.state, b.state);
+}
+
+}  // namespace
+
+/// A corrected voyage's history is rebuilt by its save, and cannot be taken back any more.
+bool TableHistory::BeginsAnew() const {
+    int corrected = 0;
+    return begins_ || !history_.IsThere() ||
+           (!sheet_.state.changed && voyages_.GetModAis(sheet_.voyageId, corrected) == 0 && corrected > 0);
+}
+
+void TableHistory::Take(const EditName& name) {
+    const PendingRoute& route = voyages_.Module().Pending();
+    if (BeginsAnew()) {
+        begins_ = false;
+        history_.Start({sheet_, route});
+        if (sheet_.state.changed) {
+            history_.MarkUnsaved();
+        }
+    } else if (!SameContent(history_.Now().state.sheet, sheet_)) {
+        history_.Push({sheet_, route}, name);
+    }
+    if (!sheet_.state.changed && !history_.IsSaved()) {
+        history_.MarkSaved({sheet_, route});
+    }
+}
+
+void TableHistory::ShowState(const TableState& to) {
+    const PortCallSheet now = sheet_;
+    sheet_ = to.sheet;
+    sheet_.voyageId = now.voyageId;
+    sheet_.editedVoyageId = now.editedVoyageId;
+    sheet_.aisCorrectionPending = now.aisCorrectionPending;
+    sheet_.unread = now.unread;
+    sheet_.cause = now.cause;
+    PortCallState& state = sheet_.state;
+    if (SameUnits(now.state, state)) {
+        sheet_.stored = now.stored;
+    }
+    state.caption = now.state.caption;
+    state.zone = now.state.zone;
+    state.distanceTable = now.state.distanceTable;
+    state.calculateText = now.state.calculateText;
+    state.canClear = now.state.canClear;
+    state.canOpenBook = now.state.canOpenBook;
+    state.canCalculate = sheet_.PlaceCount(ports_) >= 2;
+    state.changed = !history_.IsSaved() && (to.sheet.state.changed || state.canCalculate);
+    state.canSave = state.changed;
+    if (state.changed) {
+        sheet_.editedVoyageId = sheet_.voyageId;
+    }
+    ShowRoute(to);
+}
+
+/// The route goes with the rows that it was calculated for, in the module and on the chart.
+void TableHistory::ShowRoute(const TableState& to) {
+    PendingRoute& route = voyages_.Module().Pending();
+    if (to.route.IsFor(to.sheet.voyageId)) {
+        route.PutBack(to.route, sheet_.voyageId);
+        voyages_.Module().DrawCurrentRoute();
+    } else if (route.IsFor(sheet_.voyageId)) {
+        route.Drop();
+        voyages_.ClearChart();
+    }
+}
+
+bool TableHistory::GoBack() {
+    const TableState* to = history_.Back();
+    if (to != nullptr) {
+        ShowState(*to);
+    }
+    return to != nullptr;
+}
+
+bool TableHistory::GoForward() {
+    const TableState* to = history_.Forward();
+    if (to != nullptr) {
+        ShowState(*to);
+    }
+    return to != nullptr;
+}
+
+}  // namespace Tarvik::Seaplan
