@@ -2,6 +2,7 @@
 #include "host/plugins/seamap/core/LabelRoom.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace Tarvik::Seamap {
@@ -51,6 +52,28 @@ bool LabelRoom::IsFree(const LabelBox& box) const {
                std::any_of(found->second.begin(), found->second.end(),
                            [&box](const LabelBox& other) { return other.Meets(box); });
     });
+}
+
+LabelBox FreeRoom(const LabelBox& window, const std::vector<LabelBox>& covers) {
+    constexpr double kLeastShare = 0.25;
+    LabelBox room = window;
+    for (const LabelBox& cover : covers) {
+        if (!room.Meets(cover)) {
+            continue;
+        }
+        const double right = std::min(cover.Right(), room.Right());
+        const double bottom = std::min(cover.Bottom(), room.Bottom());
+        const double left = std::max(cover.left, room.left);
+        const double top = std::max(cover.top, room.top);
+        const std::array<LabelBox, 4> sides{{{room.left, room.top, left - room.left, room.height},
+                                             {right, room.top, room.Right() - right, room.height},
+                                             {room.left, room.top, room.width, top - room.top},
+                                             {room.left, bottom, room.width, room.Bottom() - bottom}}};
+        room = *std::max_element(sides.begin(), sides.end(), [](const LabelBox& a, const LabelBox& b) {
+            return a.width * a.height < b.width * b.height;
+        });
+    }
+    return room.width * room.height < kLeastShare * window.width * window.height ? window : room;
 }
 
 }  // namespace Tarvik::Seamap

@@ -21,6 +21,10 @@ struct LabelBox {
     bool Holds(const LabelBox& other) const;
 };
 
+/// The largest part of a window that none of the boxes covers, beside, above or below all of them; the whole
+/// window when less than a quarter of it is left free that way.
+LabelBox FreeRoom(const LabelBox& window, const std::vector<LabelBox>& covers);
+
 /// The places of a window at which something stands already, so that texts keep off each other. Boxes are
 /// sorted into cells of the window: a question looks only at its neighbours, however much is on the chart.
 class LabelRoom {

@@ -2,6 +2,7 @@
 #include "host/plugins/seamap/widget/ChartCamera.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Tarvik::Seamap {
@@ -35,8 +36,16 @@ void ChartCamera::Show(const Extent& extent, bool animated) {
 }
 
 void ChartCamera::Fit(bool animated) {
+    const double width = view_.Width();
+    const double height = view_.Height();
+    const LabelBox room = room_ ? room_() : LabelBox{0, 0, width, height};
+    MercatorView inside;
+    inside.Resize(static_cast<int>(room.width), static_cast<int>(room.height));
+    inside.Fit(*fitted_, kFitMargin, kLargestFit);
     MercatorView target = view_;
-    target.Fit(*fitted_, kFitMargin, kLargestFit);
+    target.Show(inside.Centre(), inside.WorldSize());
+    target.PanBy(std::lround(width / 2 - room.left - room.width / 2),
+                 std::lround(height / 2 - room.top - room.height / 2));
     zooming_ = false;
     motion_.Start(view_, target, animated);
 }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 
+#include "host/plugins/seamap/core/LabelRoom.h"
 #include "host/plugins/seamap/core/MercatorView.h"
 #include "host/plugins/seamap/widget/ViewMotion.h"
 
@@ -28,6 +29,8 @@ class ChartCamera {
 
     /// Fits the extent with a margin, again after every change of size, until a person moves the view.
     void Show(const Extent& extent, bool animated);
+    /// Where a fit finds its place, asked at each fit; the whole window without one.
+    void SetRoom(std::function<LabelBox()> room) { room_ = std::move(room); }
     /// Brings a place into the middle, with a world of at least so many pixels, at once.
     void CentreOn(GeoPoint place, std::int64_t leastWorld);
     void Resize(int width, int height);
@@ -40,6 +43,7 @@ class ChartCamera {
     void Fit(bool animated);
 
     std::function<void()> changed_;
+    std::function<LabelBox()> room_;
     MercatorView view_;
     ViewMotion motion_;
     std::optional<Extent> fitted_ = kInhabitedWorld;  ///< empty once a person has moved the view

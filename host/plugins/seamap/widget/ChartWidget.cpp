@@ -34,6 +34,7 @@ ChartWidget::ChartWidget(ChartObjects& objects, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setCursor(Qt::OpenHandCursor);
     objects_.SetObserver([this] { update(); });
+    camera_.SetRoom([this] { return FreeOfPanels(); });
 }
 
 ChartWidget::~ChartWidget() {
@@ -88,6 +89,18 @@ bool ChartWidget::ShowExtent(const Extent& extent) {
     }
     camera_.Show(extent, IsAnimated());
     return true;
+}
+
+LabelBox ChartWidget::FreeOfPanels() const {
+    std::vector<LabelBox> covers;
+    for (const QWidget* panel : window()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const bool floats = panel->windowType() == Qt::Tool || panel->windowType() == Qt::Dialog;
+        if (floats && panel->isVisible()) {
+            const QRect at = panel->frameGeometry().translated(-mapToGlobal(QPoint()));
+            covers.push_back({double(at.x()), double(at.y()), double(at.width()), double(at.height())});
+        }
+    }
+    return FreeRoom({0, 0, double(width()), double(height())}, covers);
 }
 
 void ChartWidget::FitAll() {

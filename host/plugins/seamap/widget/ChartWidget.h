@@ -98,6 +98,8 @@ class ChartWidget : public QWidget {
     bool IsAnimated() const;
     void Point(std::optional<PixelPoint> pixel);
     void OnMoved();
+    /// The part of the chart that no panel covers.
+    LabelBox FreeOfPanels() const;
 
     ChartObjects& objects_;
     ChartScene scene_;

@@ -182,7 +182,8 @@ void ObjectPainter::DrawText(const ChartLabel& label, bool always) {
                                              {-width / 2, away}}};
     for (const PixelPoint& corner : corners) {
         const LabelBox box{std::round(centre.x + corner.x), std::round(centre.y + corner.y), width, height};
-        if (!always && !room_.IsFree(box)) {
+        const bool whole = LabelBox{0, 0, double(view_.Width()), double(view_.Height())}.Holds(box);
+        if (!whole || (!always && !room_.IsFree(box))) {
             continue;
         }
         room_.Take(box);

@@ -44,6 +44,23 @@ TEST(LabelRoom, ABoxHoldsWhatLiesWholeInIt) {
     EXPECT_FALSE(window.Holds({0, 45, 10, 10}));
 }
 
+TEST(FreeRoom, IsTheLargestSideThatNoPanelCovers) {
+    const LabelBox window{0, 0, 1000, 600};
+    const auto expect = [](const LabelBox& room, double left, double top, double width, double height) {
+        EXPECT_EQ(room.left, left);
+        EXPECT_EQ(room.top, top);
+        EXPECT_EQ(room.width, width);
+        EXPECT_EQ(room.height, height);
+    };
+    expect(FreeRoom(window, {}), 0, 0, 1000, 600);
+    expect(FreeRoom(window, {{150, 240, 200, 300}}), 350, 0, 650, 600);
+    expect(FreeRoom(window, {{-50, -20, 300, 700}}), 250, 0, 750, 600);
+    expect(FreeRoom(window, {{100, 400, 800, 300}}), 0, 0, 1000, 400);
+    expect(FreeRoom(window, {{0, 0, 200, 600}, {200, 400, 800, 200}}), 200, 0, 800, 400);
+    expect(FreeRoom(window, {{2000, 0, 100, 100}}), 0, 0, 1000, 600);
+    expect(FreeRoom(window, {{100, 100, 800, 400}}), 0, 0, 1000, 600);
+}
+
 }  // namespace
 
 }  // namespace Tarvik::Seamap

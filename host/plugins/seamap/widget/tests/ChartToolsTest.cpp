@@ -186,6 +186,24 @@ TEST_F(ChartToolsTest, ALineTellsItsLegToWhoPointsAtIt) {
     EXPECT_TRUE(QToolTip::text().contains(QString::fromUtf8("090°")));
 }
 
+TEST_F(ChartToolsTest, AFitKeepsClearOfAPanelOverTheChart) {
+    QWidget panel(&chart_, Qt::Tool);
+    panel.setGeometry(QRect(chart_.mapToGlobal(QPoint(0, 0)), QSize(300, 500)));
+    panel.show();
+    chart_.ShowExtent({-20, -10, 20, 10});
+    EXPECT_GE(chart_.View().ToScreen(GeoPoint{-20, 0}).x, panel.frameGeometry().width());
+    EXPECT_LT(chart_.View().ToScreen(GeoPoint{20, 0}).x, 800);
+    panel.hide();
+    chart_.ShowExtent({-20, -10, 20, 10});
+    EXPECT_NEAR(chart_.View().ToScreen(GeoPoint{0, 0}).x, 400, 1) << "in the middle again";
+}
+
+TEST_F(ChartToolsTest, AVoyageAroundTheWorldIsSeenFrom126EastTo90West) {
+    chart_.ShowExtent(*Extent::FromCorners({126, 60, -90, -50}));
+    EXPECT_TRUE(chart_.Shown().Contains({180, 0}));
+    EXPECT_FALSE(chart_.Shown().Contains({0, 0})) << "not the side of Greenwich";
+}
+
 }  // namespace
 
 }  // namespace Tarvik::Seamap
