@@ -51,6 +51,17 @@ void MainTools::ApplyIcons() {
     }
 }
 
+std::vector<std::pair<QString, QString>> MainTools::Keys() const {
+    std::vector<std::pair<QString, QString>> keys;
+    for (const Tool& tool : tools_) {
+        if (tool.action->isVisible()) {
+            keys.emplace_back(tool.action->shortcut().toString(QKeySequence::NativeText),
+                              tool.action->text());
+        }
+    }
+    return keys;
+}
+
 QAction* MainTools::Action(const char* key) const {
     for (const Tool& tool : tools_) {
         if (std::string(tool.key) == key) {

@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <functional>
+#include <utility>
 #include <vector>
 
 class QAction;
@@ -32,6 +33,8 @@ class MainTools {
     void ApplyTexts(const Words& word);
     /// Icons in the colours of the theme in force.
     void ApplyIcons();
+    /// The keys of the tools on show, each with its tool's text, in their order.
+    std::vector<std::pair<QString, QString>> Keys() const;
     /// The tool of a key, null when there is none.
     QAction* Action(const char* key) const;
 

@@ -6,7 +6,6 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
 #include <algorithm>
@@ -19,6 +18,7 @@
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/skin/WindowMessages.h>
 
+#include "host/client/shell/HelpWindow.h"
 #include "host/client/shell/LoginDialog.h"
 #include "host/client/shell/PreferencesDialog.h"
 #include "host/client/shell/Theme.h"
@@ -29,10 +29,17 @@ using Interface::PanelCode::kDistances;
 using Interface::PanelCode::kFleet;
 using Interface::PanelCode::kVoyages;
 
+namespace {
+
+constexpr QSize kUsualSize(1280, 800);
+constexpr QSize kFrame(8, 40);  ///< what a window manager may put around the window
+
+}  // namespace
+
 MainWindow::MainWindow(ClientSession& session)
     : session_(session), chart_(session), tools_(*this, Tools()), status_(*statusBar(), session) {
     setObjectName("mainWindow");
-    resize(1280, 800);
+    resize(kUsualSize);
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
             [this] { ShowHelp("GENERAL", 370); });
     connect(new QShortcut(QKeySequence("Ctrl+G"), this), &QShortcut::activated, this,
@@ -137,6 +144,15 @@ void MainWindow::AttachChart() {
     chart->setFocus();
 }
 
+void MainWindow::FitScreen(const QRect& room) {
+    // A frame has its place too, above and at the sides.
+    const QSize most = room.size() - kFrame;
+    if (kUsualSize.width() > most.width() || kUsualSize.height() > most.height()) {
+        resize(kUsualSize.boundedTo(most));
+        move(room.topLeft());
+    }
+}
+
 void MainWindow::TogglePanel(int panel) {
     const Interface::PanelShow show{panel, 0};
     Interface::Raise(Interface::Bus::ShowPanel, &show);
@@ -236,17 +252,12 @@ bool MainWindow::event(QEvent* event) {
 }
 
 void MainWindow::ShowHelp(const QString& topic, int width) {
-    const QByteArray key = "HELP_" + topic.toUtf8();
-    const QString text = Word(key.constData());
-    auto* box =
-        new QMessageBox(QMessageBox::NoIcon, Word("HELP_TITLE"),
-                        text == QString::fromUtf8(key) ? Word("HELP_GENERAL") : text, QMessageBox::Ok, this);
-    box->setObjectName("help");
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setModal(false);
-    box->setMinimumWidth(width);
-    box->button(QMessageBox::Ok)->setText(Word("OK"));
-    box->show();
+    if (help_ == nullptr) {
+        help_ = new HelpWindow(this, [this](const char* section, const char* key) {
+            return QString::fromStdString(session_.Texts().Text(section, key));
+        });
+    }
+    help_->ShowTopic(topic, tools_.Keys(), width);
 }
 
 }  // namespace Tarvik::Client

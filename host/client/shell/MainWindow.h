@@ -13,6 +13,8 @@
 
 namespace Tarvik::Client {
 
+class HelpWindow;
+
 /// The client's window: the chart in the middle, tools above, status line below.
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -23,6 +25,8 @@ class MainWindow : public QMainWindow {
     /// Puts the chart of the loaded plug-ins in the middle and shows the tools that they answer; call once,
     /// behind ClientSession::LoadPlugins.
     void AttachPlugins();
+    /// Before it is shown: makes it small enough for a screen's room where that is smaller than it is.
+    void FitScreen(const QRect& room);
     /// Raises the event that shows or hides a panel (a PanelCode).
     void TogglePanel(int panel);
     /// Tells the chart a command of its contract; false when there is no chart or it did not understand.
@@ -68,6 +72,7 @@ class MainWindow : public QMainWindow {
     ChartLink chart_;
     MainTools tools_;
     StatusLine status_;
+    HelpWindow* help_ = nullptr;  ///< made when it is first asked for
 };
 
 }  // namespace Tarvik::Client

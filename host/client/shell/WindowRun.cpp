@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QMessageBox>
+#include <QScreen>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -74,6 +75,7 @@ int RunWindow(int argc, char** argv, const CommandLine& line) {
     if (picture) {
         return TakePicture(desk, line);
     }
+    desk.Window().FitScreen(desk.Window().screen()->availableGeometry());
     desk.Window().show();
     desk.TellComplaints();
     return QApplication::exec();

@@ -92,6 +92,20 @@ TEST_F(ChartLinkTest, CtrlGOpensTheFieldForAPlace) {
     EXPECT_EQ(session_->Preferred().language, "en-US") << "the language has a key of its own";
 }
 
+TEST_F(ChartLinkTest, TheWindowIsNeverLargerThanItsScreen) {
+    MainWindow window(*session_);
+    window.AttachPlugins();
+    const QSize usual = window.size();
+    window.FitScreen({0, 0, 1920, 1080});
+    EXPECT_EQ(window.size(), usual);
+    for (const QRect& room : {QRect(0, 0, 1366, 768), QRect(0, 24, 910, 488), QRect(1920, 0, 640, 480)}) {
+        window.FitScreen(room);
+        window.show();
+        EXPECT_TRUE(room.contains(QRect(window.pos(), window.size()))) << room.width();
+        window.hide();
+    }
+}
+
 }  // namespace
 
 }  // namespace Tarvik::Client
