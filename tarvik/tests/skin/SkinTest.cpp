@@ -34,15 +34,30 @@ class EveryTheme : public ::testing::TestWithParam<Theme> {
 }  // namespace
 
 TEST_P(EveryTheme, TextStandsOutFromItsGround) {
-    const std::pair<Role, Role> pairs[] = {
-        {Role::Text, Role::Window},         {Role::Text, Role::Panel},
-        {Role::Text, Role::List},           {Role::Text, Role::Selection},
-        {Role::Text, Role::History},        {Role::Text, Role::Highlight},
-        {Role::Secondary, Role::Window},    {Role::Secondary, Role::Panel},
-        {Role::Secondary, Role::Selection}, {Role::Secondary, Role::History},
-        {Role::CaptionText, Role::Caption}, {Role::AccentText, Role::Accent},
-        {Role::Accent, Role::Panel},        {Role::Accent, Role::Selection},
-        {Role::Error, Role::Panel},         {Role::Error, Role::Selection}};
+    const std::pair<Role, Role> pairs[] = {{Role::Text, Role::Window},
+                                           {Role::Text, Role::Panel},
+                                           {Role::Text, Role::List},
+                                           {Role::Text, Role::Selection},
+                                           {Role::Text, Role::History},
+                                           {Role::Text, Role::Highlight},
+                                           {Role::Secondary, Role::Window},
+                                           {Role::Secondary, Role::Panel},
+                                           {Role::Secondary, Role::Selection},
+                                           {Role::Secondary, Role::History},
+                                           {Role::CaptionText, Role::Caption},
+                                           {Role::AccentText, Role::Accent},
+                                           {Role::Accent, Role::Panel},
+                                           {Role::Accent, Role::Selection},
+                                           {Role::Error, Role::Panel},
+                                           {Role::Error, Role::Selection},
+                                           {Role::Text, Role::Book},
+                                           {Role::ChartText, Role::ChartHalo},
+                                           {Role::ChartText, Role::Sea},
+                                           {Role::ChartText, Role::Land},
+                                           {Role::ChartSecondary, Role::Sea},
+                                           {Role::ChartSecondary, Role::Land},
+                                           {Role::ChartHalo, Role::ChartAccent},
+                                           {Role::ChartSecondary, Role::ChartHalo}};
     for (const auto& [text, ground] : pairs) {
         EXPECT_GE(Contrast(Colour(text), Colour(ground)), 4.5)
             << Colour(text).name().toStdString() << " on " << Colour(ground).name().toStdString();
