@@ -29,6 +29,17 @@ double ArcNm(const UnitVector& a, const UnitVector& b) {
     return 2.0 * std::asin(std::min(1.0, half)) / kDegree * kNmPerDegree;
 }
 
+double ArcNmAtMost(const UnitVector& a, const UnitVector& b) {
+    const double dx = a.x - b.x;
+    const double dy = a.y - b.y;
+    const double dz = a.z - b.z;
+    const double square = 0.25 * (dx * dx + dy * dy + dz * dz);
+    // asin(h) / h grows with h: this is above it up to h = 0.5, and pi / 2 everywhere.
+    constexpr double kHalfPi = 90.0 * kDegree;
+    const double factor = square <= 0.25 ? 1.0 + 0.19 * square : kHalfPi;
+    return 2.0 * std::sqrt(square) * factor / kDegree * kNmPerDegree;
+}
+
 double ArcNm(GeoPoint a, GeoPoint b) {
     return ArcNm(ToVector(a), ToVector(b));
 }

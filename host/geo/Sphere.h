@@ -32,6 +32,8 @@ double Dot(const UnitVector& a, const UnitVector& b);
 /// Angle between two directions in nautical miles, exact for near and for far points.
 double ArcNm(const UnitVector& a, const UnitVector& b);
 double ArcNm(GeoPoint a, GeoPoint b);
+/// No less than `ArcNm`, at most 0.2 % more where the angle is below 60 degrees, and quicker.
+double ArcNmAtMost(const UnitVector& a, const UnitVector& b);
 
 /// Length of the WGS-84 geodesic in km.
 double GeodesicKm(GeoPoint a, GeoPoint b);

@@ -2,6 +2,7 @@
 #include "host/server/graph/Landmarks.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -68,14 +69,25 @@ Landmarks::Landmarks(const ArcTable& table, std::size_t count) {
 }
 
 float Landmarks::Bound(std::uint32_t a, std::uint32_t b) const {
-    float best = 0.0F;
-    for (std::size_t k = 0; k < count_; ++k) {
-        const float difference = std::abs(distances_[a * count_ + k] - distances_[b * count_ + k]);
-        if (difference > best) {
-            best = difference;  // false for infinity minus infinity
+    // Four at a time, which the machine does in one step.
+    constexpr std::size_t kLanes = 4;
+    std::array<float, kLanes> best{};
+    const float* fromA = distances_.data() + a * count_;
+    const float* fromB = distances_.data() + b * count_;
+    std::size_t k = 0;
+    const auto take = [](float& most, float x, float y) {
+        const float difference = std::abs(x - y);
+        most = difference > most ? difference : most;  // false for infinity minus infinity
+    };
+    for (; k + kLanes <= count_; k += kLanes) {
+        for (std::size_t lane = 0; lane < kLanes; ++lane) {
+            take(best[lane], fromA[k + lane], fromB[k + lane]);
         }
     }
-    return best;
+    for (; k < count_; ++k) {
+        take(best[0], fromA[k], fromB[k]);
+    }
+    return *std::max_element(best.begin(), best.end());
 }
 
 }  // namespace Tarvik::Server

@@ -12,6 +12,7 @@ struct Arc {
     std::uint32_t to = 0;
     std::uint32_t edge = 0;
     float nm = 0.0F;
+    std::uint16_t mask = 0;  ///< the edge's
 };
 
 /// The arcs of every node, packed.

@@ -71,7 +71,7 @@ std::vector<ReachEntry> ReachFrom(const NetworkData& data, const ArcTable& table
         }
         for (std::uint32_t k = table.start[at]; k < table.start[at + 1]; ++k) {
             const Arc& arc = table.arcs[k];
-            if (nm + arc.nm >= best[arc.to].nm || blocked[data.edges[arc.edge].mask] != 0) {
+            if (nm + arc.nm >= best[arc.to].nm || blocked[arc.mask] != 0) {
                 continue;
             }
             const std::uint8_t side =

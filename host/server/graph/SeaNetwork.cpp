@@ -123,7 +123,7 @@ ArcTable SeaNetwork::OpenArcs() const {
     open.start.push_back(0);
     for (std::uint32_t node = 0; node < data_.nodes.size(); ++node) {
         for (const Arc& arc : Arcs(node)) {
-            if ((data_.masks[data_.edges[arc.edge].mask] & shut_).none()) {
+            if ((data_.masks[arc.mask] & shut_).none()) {
                 open.arcs.push_back(arc);
             }
         }
@@ -153,8 +153,8 @@ void SeaNetwork::BuildArcs() {
     for (std::uint32_t i = 0; i < data_.edges.size(); ++i) {
         const NetworkEdge& e = data_.edges[i];
         const float nm = e.nm + cost[e.mask];
-        table_.arcs[next[e.a]++] = {e.b, i, nm};
-        table_.arcs[next[e.b]++] = {e.a, i, nm};
+        table_.arcs[next[e.a]++] = {e.b, i, nm, e.mask};
+        table_.arcs[next[e.b]++] = {e.a, i, nm, e.mask};
     }
 }
 
