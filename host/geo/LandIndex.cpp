@@ -178,12 +178,23 @@ bool LandIndex::CellBlocks(int column, int row, const Segment& s) const {
 
 bool LandIndex::CellGrazes(int column, int row, const Segment& s, double nm) const {
     const std::size_t cell = CellOf(column, row);
+    const double shrink = std::cos(0.5 * (s.y1 + s.y2) * kDegree);
+    const double rise = nm / kNmPerDegree;
+    const double north = std::max(s.y1, s.y2) + rise;
+    const double south = std::min(s.y1, s.y2) - rise;
     for (std::uint32_t k = near_.start[cell]; k < near_.start[cell + 1]; ++k) {
         Segment o = segments_[near_.items[k]];
+        if (std::min(o.y1, o.y2) > north || std::max(o.y1, o.y2) < south) {
+            continue;
+        }
         const double shift = 360.0 * std::round((s.x1 - o.x1) / 360.0);
         o.x1 += shift;
         o.x2 += shift;
-        const double shrink = std::cos(0.5 * (s.y1 + s.y2) * kDegree);
+        const double wide = rise / shrink;
+        if (std::min(o.x1, o.x2) > std::max(s.x1, s.x2) + wide ||
+            std::max(o.x1, o.x2) < std::min(s.x1, s.x2) - wide) {
+            continue;
+        }
         if (Off(s, o.x1, o.y1, shrink) < nm || Off(o, s.x1, s.y1, shrink) < nm ||
             Off(o, s.x2, s.y2, shrink) < nm) {
             return true;

@@ -58,7 +58,13 @@ bool MayMeet(const Bounds& a, const Bounds& b) {
 
 std::optional<GateCrossing> FirstCrossing(const std::vector<GeoPoint>& way,
                                           const std::vector<GeoPoint>& gate) {
+    const auto [low, high] =
+        std::minmax_element(gate.begin(), gate.end(), [](GeoPoint a, GeoPoint b) { return a.y < b.y; });
     for (std::size_t i = 1; i < way.size(); ++i) {
+        // Most pieces of a long way lie in other latitudes, whatever turns lie between the longitudes.
+        if (std::max(way[i - 1].y, way[i].y) < low->y || std::min(way[i - 1].y, way[i].y) > high->y) {
+            continue;
+        }
         std::optional<double> best;
         for (std::size_t g = 1; g < gate.size(); ++g) {
             const std::optional<double> t = Crossing(way[i - 1], way[i], gate[g - 1], gate[g]);

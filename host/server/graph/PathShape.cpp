@@ -7,6 +7,7 @@
 #include <tuple>
 
 #include "host/server/graph/Gate.h"
+#include "host/server/graph/SightLine.h"
 
 namespace Tarvik::Server {
 
@@ -17,10 +18,6 @@ constexpr std::size_t kPatience = 3;
 /// How many other places to turn are tried, and what one must save.
 constexpr std::size_t kTurnsTried = 12;
 constexpr double kWorthNm = 0.05;
-
-/// Longer lines than the first keep off the coast, but for their beginning and end.
-constexpr double kFreeHandNm = 14.0;
-constexpr double kOffCoastNm = 4.0;
 
 struct Pass {
     std::size_t index = 0;
@@ -61,8 +58,8 @@ RouteLeg Finished(std::string from, std::string end, std::vector<GeoPoint> point
 }  // namespace
 
 bool PathShape::IsOpen(GeoPoint a, GeoPoint b, const GateMask& forbidden) const {
-    return !network_.Land().Blocks(a, b) && (network_.GatesCrossed(a, b) & forbidden).none() &&
-           (ArcNm(a, b) <= kFreeHandNm || !network_.Land().Grazes(a, b, kOffCoastNm, LandIndex::kApproachNm));
+    const SightLine& line = SightLineOf(network_, a, b);
+    return line.clear && (line.crossed & forbidden).none();
 }
 
 std::size_t PathShape::BetterTurn(const std::vector<GeoPoint>& run, std::size_t before, std::size_t turn,

@@ -2,10 +2,10 @@
 #include "host/server/graph/SeaNetwork.h"
 
 #include <algorithm>
+#include <atomic>
 #include <iterator>
 #include <utility>
 
-#include "host/server/graph/Gate.h"
 #include "host/server/graph/PassageReach.h"
 #include "host/server/graph/SeaNetworkFile.h"
 
@@ -14,6 +14,11 @@ namespace Tarvik::Server {
 namespace {
 
 constexpr std::size_t kLandmarkCount = 16;
+
+std::uint64_t NextNumber() {
+    static std::atomic<std::uint64_t> last{0};
+    return ++last;
+}
 
 /// Where ships turn to sail along a parallel: Cape Horn needs 57 degrees, tables of distances sail the South
 /// Pacific and the Indian Ocean along 46 to 52.
@@ -44,7 +49,11 @@ std::shared_ptr<const SeaNetwork> SeaNetwork::Load(const std::string& path, std:
 }
 
 SeaNetwork::SeaNetwork(NetworkData data)
-    : data_(std::move(data)), land_(data_.land, data_.areas), basins_(data_) {
+    : number_(NextNumber()),
+      data_(std::move(data)),
+      land_(data_.land, data_.areas),
+      basins_(data_),
+      gateBounds_(GateBounds(data_.routePoints)) {
     BuildArcs();
     vectors_.reserve(data_.nodes.size());
     for (const GeoPoint p : data_.nodes) {
@@ -173,15 +182,24 @@ std::optional<std::uint16_t> SeaNetwork::RoutePointIndex(const std::string& id) 
 }
 
 GateMask SeaNetwork::GatesCrossed(GeoPoint a, GeoPoint b) const {
-    return Server::GatesCrossed(GreatCircle(a, b), data_.routePoints);
+    return Server::GatesCrossed(GreatCircle(a, b), data_.routePoints, gateBounds_);
 }
 
-GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints) {
+std::vector<Bounds> GateBounds(const std::vector<RoutePoint>& routePoints) {
+    std::vector<Bounds> bounds;
+    bounds.reserve(routePoints.size());
+    for (const RoutePoint& point : routePoints) {
+        bounds.push_back(BoundsOf(point.gate));
+    }
+    return bounds;
+}
+
+GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints,
+                      const std::vector<Bounds>& gateBounds) {
     GateMask mask;
     const Bounds bounds = BoundsOf(way);
     for (std::size_t i = 0; i < routePoints.size(); ++i) {
-        const std::vector<GeoPoint>& gate = routePoints[i].gate;
-        mask[i] = MayMeet(bounds, BoundsOf(gate)) && FirstCrossing(way, gate).has_value();
+        mask[i] = MayMeet(bounds, gateBounds[i]) && FirstCrossing(way, routePoints[i].gate).has_value();
     }
     for (const GeoPoint p : way) {
         if (p.y > kNorthLimit || p.y < SouthLimit(p.x) - kSouthSlack) {
@@ -189,6 +207,10 @@ GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RouteP
         }
     }
     return mask;
+}
+
+GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints) {
+    return GatesCrossed(way, routePoints, GateBounds(routePoints));
 }
 
 }  // namespace Tarvik::Server

@@ -10,6 +10,7 @@
 #include "host/geo/LandIndex.h"
 #include "host/geo/Sphere.h"
 #include "host/server/graph/Basins.h"
+#include "host/server/graph/Gate.h"
 #include "host/server/graph/Landmarks.h"
 #include "host/server/graph/NetworkData.h"
 
@@ -38,6 +39,8 @@ class SeaNetwork {
     explicit SeaNetwork(NetworkData data);
 
     const NetworkData& data() const { return data_; }
+    /// A number from 1 on that no other network of this program has or had.
+    std::uint64_t Number() const { return number_; }
     const LandIndex& Land() const { return land_; }
     /// Bounds over the edges that are open unless asked for; of no use once a shut gate is open.
     const Landmarks& Bounds() const { return landmarks_; }
@@ -76,6 +79,7 @@ class SeaNetwork {
     void FillReach();
     ArcTable OpenArcs() const;
 
+    std::uint64_t number_;
     NetworkData data_;
     LandIndex land_;
     Basins basins_;
@@ -84,11 +88,20 @@ class SeaNetwork {
     std::vector<UnitVector> vectors_;
     std::unordered_map<std::string, Named> named_;
     std::unordered_map<std::string, std::uint16_t> routePointById_;
+    std::vector<Server::Bounds> gateBounds_;
     GateMask shut_;
     GateMask costly_;
 };
 
+/// The bounds of every point's gate.
+std::vector<Bounds> GateBounds(const std::vector<RoutePoint>& routePoints);
+
+///@{
 /// The gates that a drawn way crosses, and the ice bit where it leaves the latitudes open to all.
+/// `gateBounds` spares reckoning them for each way.
 GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints);
+GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints,
+                      const std::vector<Bounds>& gateBounds);
+///@}
 
 }  // namespace Tarvik::Server
