@@ -49,11 +49,8 @@ std::shared_ptr<const SeaNetwork> SeaNetwork::Load(const std::string& path, std:
 }
 
 SeaNetwork::SeaNetwork(NetworkData data)
-    : number_(NextNumber()),
-      data_(std::move(data)),
-      land_(data_.land, data_.areas),
-      basins_(data_),
-      gateBounds_(GateBounds(data_.routePoints)) {
+    : number_(NextNumber()), data_(std::move(data)), land_(data_.land, data_.areas), basins_(data_) {
+    gates_.bounds = GateBounds(data_.routePoints);
     BuildArcs();
     vectors_.reserve(data_.nodes.size());
     for (const GeoPoint p : data_.nodes) {
@@ -66,10 +63,10 @@ SeaNetwork::SeaNetwork(NetworkData data)
         const RoutePoint& point = data_.routePoints[i];
         AddNamed(point.id, point.node);
         routePointById_.emplace(point.id, static_cast<std::uint16_t>(i));
-        shut_[i] = point.shut;
-        costly_[i] = point.cost > 0.0F;
+        gates_.shut[i] = point.shut;
+        gates_.costly[i] = point.cost > 0.0F;
     }
-    shut_[kIceBit] = true;
+    gates_.shut[kIceBit] = true;
     landmarks_ = Landmarks(OpenArcs(), kLandmarkCount);
     if (data_.reach.empty()) {
         FillReach();
@@ -99,7 +96,7 @@ const ReachEntry& SeaNetwork::Reach(std::uint16_t routePoint, const std::string&
 }
 
 GateMask SeaNetwork::ForbiddenBy(std::uint16_t routePoint) const {
-    GateMask forbidden = shut_;
+    GateMask forbidden = gates_.shut;
     const RoutePoint& chosen = data_.routePoints[routePoint];
     for (const AlternativeGroup& group : chosen.groups) {
         for (const std::uint16_t other : group) {
@@ -132,7 +129,7 @@ ArcTable SeaNetwork::OpenArcs() const {
     open.start.push_back(0);
     for (std::uint32_t node = 0; node < data_.nodes.size(); ++node) {
         for (const Arc& arc : Arcs(node)) {
-            if ((data_.masks[arc.mask] & shut_).none()) {
+            if ((data_.masks[arc.mask] & gates_.shut).none()) {
                 open.arcs.push_back(arc);
             }
         }
@@ -167,10 +164,6 @@ void SeaNetwork::BuildArcs() {
     }
 }
 
-std::span<const Arc> SeaNetwork::Arcs(std::uint32_t node) const {
-    return {table_.arcs.data() + table_.start[node], table_.start[node + 1] - table_.start[node]};
-}
-
 std::optional<std::uint32_t> SeaNetwork::NodeOf(const std::string& id) const {
     const auto it = named_.find(id);
     return it == named_.end() ? std::nullopt : std::optional(it->second.node);
@@ -182,7 +175,7 @@ std::optional<std::uint16_t> SeaNetwork::RoutePointIndex(const std::string& id) 
 }
 
 GateMask SeaNetwork::GatesCrossed(GeoPoint a, GeoPoint b) const {
-    return Server::GatesCrossed(GreatCircle(a, b), data_.routePoints, gateBounds_);
+    return Server::GatesCrossed(GreatCircle(a, b), data_.routePoints, gates_.bounds);
 }
 
 std::vector<Bounds> GateBounds(const std::vector<RoutePoint>& routePoints) {

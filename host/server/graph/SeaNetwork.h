@@ -45,9 +45,11 @@ class SeaNetwork {
     /// Bounds over the edges that are open unless asked for; of no use once a shut gate is open.
     const Landmarks& Bounds() const { return landmarks_; }
     /// The gates at which the search adds miles.
-    const GateMask& CostlyGates() const { return costly_; }
+    const GateMask& CostlyGates() const { return gates_.costly; }
     const Basins& Waters() const { return basins_; }
-    std::span<const Arc> Arcs(std::uint32_t node) const;
+    std::span<const Arc> Arcs(std::uint32_t node) const {
+        return {table_.arcs.data() + table_.start[node], table_.start[node + 1] - table_.start[node]};
+    }
     const UnitVector& Vector(std::uint32_t node) const { return vectors_[node]; }
 
     /// The node of a port or route point.
@@ -59,7 +61,7 @@ class SeaNetwork {
     /// What choosing a route point forbids: the passages beside it, and what is shut unless asked for.
     GateMask ForbiddenBy(std::uint16_t routePoint) const;
     /// The gates that stay shut unless asked for.
-    const GateMask& ShutGates() const { return shut_; }
+    const GateMask& ShutGates() const { return gates_.shut; }
     /// Whether a route point is shut for ice.
     bool IsIce(std::uint16_t routePoint) const;
     /// Opens the ice: one passage in it is of no use without its neighbours, so that all of them open
@@ -73,6 +75,12 @@ class SeaNetwork {
     struct Named {
         std::uint32_t node = 0;
         std::uint32_t column = 0;  ///< in the rows of the reach
+    };
+    /// Of the route points, in their order.
+    struct Gates {
+        std::vector<Server::Bounds> bounds;
+        GateMask shut;
+        GateMask costly;
     };
     void AddNamed(const std::string& id, std::uint32_t node);
     void BuildArcs();
@@ -88,9 +96,7 @@ class SeaNetwork {
     std::vector<UnitVector> vectors_;
     std::unordered_map<std::string, Named> named_;
     std::unordered_map<std::string, std::uint16_t> routePointById_;
-    std::vector<Server::Bounds> gateBounds_;
-    GateMask shut_;
-    GateMask costly_;
+    Gates gates_;
 };
 
 /// The bounds of every point's gate.
