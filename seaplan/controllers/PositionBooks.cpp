@@ -6,6 +6,7 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/book/BookPanel.h"
+#include "seaplan/controllers/SaveAnswers.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/TimeText.h"
 
@@ -25,6 +26,17 @@ std::vector<float> AisSpeedsOf(const BookPoints& points) {
 }
 
 }  // namespace
+
+ScheduleFault FaultOf(const Outcome<SaveBookStep>& failed) {
+    switch (failed.At()) {
+        case SaveBookStep::PortCalls:
+        case SaveBookStep::Date:
+        case SaveBookStep::Rows:
+            return {SaveAnswers::CauseOf(failed.Detail())};
+        default:
+            return {ScheduleFault::Cause::Figures};
+    }
+}
 
 Outcome<GetBookStep> PositionBooks::Get(const std::string& vi, PosBookData& out) {
     if (vi.empty()) {
@@ -48,19 +60,23 @@ Outcome<GetBookStep> PositionBooks::Get(const std::string& vi, PosBookData& out)
 
 Outcome<SaveBookStep> PositionBooks::Send(VoyInfo& changed, const Util::_datetime_t& startBefore) {
     VoyPositionBook& book = changed.positionBook;
-    if (module_->SavePortCalls(changed.vi, changed.portCalls) < 0) {
-        return SaveBookStep::PortCalls;
+    if (const int code = module_->SavePortCalls(changed.vi, changed.portCalls); code < 0) {
+        return {SaveBookStep::PortCalls, SaveAnswers::OfPortCalls(code)};
     }
     const std::string date = book.eta.fmt(kTimeFormat);
     if (book.pbi.empty()) {
-        if (module_->EnsurePositionBook(changed.vi, date, book.pbi) < 0) {
-            return SaveBookStep::Date;
+        if (const int code = module_->EnsurePositionBook(changed.vi, date, book.pbi); code < 0) {
+            return {SaveBookStep::Date, SaveAnswers::OfNewBook(code)};
         }
-    } else if (book.eta != startBefore && module_->SetPositionBookDate(book.pbi, date) < 0) {
-        return SaveBookStep::Date;
+    } else if (book.eta != startBefore) {
+        if (const int code = module_->SetPositionBookDate(book.pbi, date); code < 0) {
+            return {SaveBookStep::Date, SaveAnswers::OfBookDate(code)};
+        }
     }
-    return module_->SavePositionBookRows(book.pbi, book.points) < 0 ? SaveBookStep::Rows
-                                                                    : Outcome<SaveBookStep>();
+    if (const int code = module_->SavePositionBookRows(book.pbi, book.points); code < 0) {
+        return {SaveBookStep::Rows, SaveAnswers::OfBookRows(code)};
+    }
+    return {};
 }
 
 Outcome<SaveBookStep> PositionBooks::Save(const std::string& vi, const PosBookData& book) {
@@ -76,7 +92,8 @@ Outcome<SaveBookStep> PositionBooks::Save(const std::string& vi, const PosBookDa
         return SaveBookStep::Panel;
     }
     changed.positionBook.eta = changed.portCalls.front().eta;
-    const PortCallRows named = changed.portCalls;
+    PortCallRows named = changed.portCalls;
+    KeepPortIds(voyage->portCalls, named);
     if (LegTotalsFromBook(changed.positionBook, changed.portCalls) != 0) {
         return SaveBookStep::Totals;
     }

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/controllers/ScheduleLoading.h"
 #include "seaplan/data/PosBookData.h"
 
@@ -29,6 +30,9 @@ inline constexpr CodeTable kSavePosBookCodes{
     Code{SaveBookStep::Rows, -7},       // nor its rows
 };
 
+/// The cause of a save of a book that failed.
+ScheduleFault FaultOf(const Outcome<SaveBookStep>& failed);
+
 /// A voyage's position book as a panel shapes it, and back.
 class PositionBooks {
   public:
@@ -40,7 +44,8 @@ class PositionBooks {
     Outcome<GetBookStep> Get(const std::string& vi, PosBookData& out);
     /// Port calls, the book's date where the start has changed, and its rows, in this order, go to the
     /// server; then the record takes them, and stays as it was after a failure. The ports' distances and
-    /// speeds are those of the book, so that the speed of each waypoint stays as it was typed.
+    /// speeds are those of the book, so that the speed of each waypoint stays as it was typed. A port keeps
+    /// the id that the record has where the dictionary does not know its name.
     Outcome<SaveBookStep> Save(const std::string& vi, const PosBookData& book);
 
   private:

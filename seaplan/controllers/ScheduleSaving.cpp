@@ -8,28 +8,13 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/SaveAnswers.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/TimeText.h"
 
 /// A save is worked out whole before its first request, since the server takes its three parts apart from one
 /// another: port calls, the book's date, the book's rows. Cost: a few passes over rows and book.
 namespace Tarvik::Seaplan {
-
-namespace {
-
-/// Detail of a step that the server left without an answer.
-constexpr int kNoAnswer = -1;
-/// Numbers of the protocol's commands for that.
-constexpr int kPortCallsNotSent = -2;
-constexpr int kBookListNotSent = -2;
-constexpr int kBookNotSent = -3;
-constexpr int kBookBlockNotSent = -6;
-
-constexpr int Detail(bool sent) {
-    return sent ? 0 : kNoAnswer;
-}
-
-}  // namespace
 
 bool IsScheduleSaved(int code) {
     return code == 0 || code == kSaveScheduleCodes.Of(SaveStep::Remove) ||
@@ -51,7 +36,7 @@ ScheduleFault FaultOf(const Outcome<SaveStep>& failed, const PortCallRows& rows)
         case SaveStep::PortCalls:
         case SaveStep::Date:
         case SaveStep::BookRows:
-            return {failed.Detail() == kNoAnswer ? Cause::Connection : Cause::Refused};
+            return {SaveAnswers::CauseOf(failed.Detail())};
         default:
             return {Cause::Figures};
     }
@@ -64,12 +49,12 @@ Outcome<SaveStep> ScheduleSaver::SaveDate(VoyInfo& voyage) {
     VoyPositionBook& book = voyage.positionBook;
     if (!book.pbi.empty()) {
         if (const int code = module_->SetPositionBookDate(book.pbi, date); code < 0) {
-            return {SaveStep::Date, Detail(code != kBookNotSent)};
+            return {SaveStep::Date, SaveAnswers::OfBookDate(code)};
         }
     } else {
         std::string id;
         if (const int code = module_->EnsurePositionBook(voyage.vi, date, id); code < 0) {
-            return {SaveStep::Date, Detail(code != kBookListNotSent)};
+            return {SaveStep::Date, SaveAnswers::OfNewBook(code)};
         }
         book.pbi = id;
     }
@@ -125,7 +110,7 @@ Outcome<SaveStep> ScheduleSaver::Prepare(const VoyInfo& voyage, Parts& parts) {
 
 Outcome<SaveStep> ScheduleSaver::Send(VoyInfo& voyage, Parts& parts) {
     if (const int code = module_->SavePortCalls(voyage.vi, parts.rows); code < 0) {
-        return {SaveStep::PortCalls, Detail(code != kPortCallsNotSent)};
+        return {SaveStep::PortCalls, SaveAnswers::OfPortCalls(code)};
     }
     voyage.portCalls = std::move(parts.rows);
     if (const auto failed = SaveDate(voyage); failed.Failed()) {
@@ -133,7 +118,7 @@ Outcome<SaveStep> ScheduleSaver::Send(VoyInfo& voyage, Parts& parts) {
     }
     const int code = module_->SavePositionBookRows(voyage.positionBook.pbi, parts.points);
     if (code < 0) {
-        return {SaveStep::BookRows, Detail(code != kBookNotSent && code != kBookBlockNotSent)};
+        return {SaveStep::BookRows, SaveAnswers::OfBookRows(code)};
     }
     voyage.positionBook.points = std::move(parts.points);
     voyage.portCalls = std::move(parts.timed);

@@ -89,7 +89,9 @@ int VoyController::GetPosBookData(const std::string& vi, PosBookData& out) {
 }
 
 int VoyController::SavePositionBook(const std::string& vi, const PosBookData& book) {
-    return kSavePosBookCodes.Of(books_.Save(vi, book));
+    const auto saved = books_.Save(vi, book);
+    fault_ = saved.Failed() ? FaultOf(saved) : ScheduleFault();
+    return kSavePosBookCodes.Of(saved);
 }
 
 int VoyController::MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) {

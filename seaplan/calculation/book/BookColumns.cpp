@@ -64,7 +64,8 @@ const std::array<BookColumnEntry, 10> kBookColumns = {{
      .width = 40,
      .editor = BookEditor::Track,
      .edited = BookEdited::AllButTheFirst,
-     .text = [](const BookCell& cell) { return Place(cell).track; }},
+     // Whatever is no great circle is sailed as a rhumb line.
+     .text = [](const BookCell& cell) { return std::string(Place(cell).track == "GC" ? "GC" : "RL"); }},
     {.title = "IDS_WP_COL_INTERVAL",
      .width = 64,
      .editor = BookEditor::Interval,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/book/BookRows.h"
 
+#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -54,6 +55,17 @@ Util::_SPointF PointOf(const PosBookPlace& place) {
     return {static_cast<float>(place.x), static_cast<float>(place.y)};
 }
 
+/// Half way between two longitudes by the short way round: what is sailed across the date line never has its
+/// middle on the other side of the world.
+double LongitudeBetween(double x1, double x2) {
+    constexpr double kHalfTurn = 180.0;
+    const double middle = (x1 + x2) / 2.0;
+    if (std::abs(x2 - x1) <= kHalfTurn) {
+        return middle;
+    }
+    return middle > 0 ? middle - kHalfTurn : middle + kHalfTurn;
+}
+
 /// What lies between two places: the waypoints of a great circle, or one half way when there are none and it
 /// is wanted.
 Rows RowsBetween(const PosBookPlace& before, const PosBookPlace& to, bool addMidpoint) {
@@ -66,7 +78,7 @@ Rows RowsBetween(const PosBookPlace& before, const PosBookPlace& to, bool addMid
         }
     }
     if (rows.empty() && addMidpoint) {
-        rows.push_back(RowBetween(before, to, (before.x + to.x) / 2.0, (before.y + to.y) / 2.0));
+        rows.push_back(RowBetween(before, to, LongitudeBetween(before.x, to.x), (before.y + to.y) / 2.0));
         rows.back().name = kNewWaypoint;
     }
     return rows;
@@ -120,6 +132,23 @@ const PosBookPlace& PlaceOf(const PosBookData& book, const PosBookRowRef& ref) {
 
 PosBookPlace& PlaceOf(PosBookData& book, const PosBookRowRef& ref) {
     return const_cast<PosBookPlace&>(PlaceOf(std::as_const(book), ref));
+}
+
+int FirstSlowerRow(const PosBookData& book, double kmh) {
+    int row = 0;
+    for (std::size_t port = 1; port < book.ports.size(); ++port) {
+        for (const PosBookRow& waypoint : book.ports[port].rows) {
+            row += waypoint.kind != PlainPoint || waypoint.expanded ? 1 : 0;
+            if (waypoint.speed < kmh) {
+                return row;
+            }
+        }
+        ++row;
+        if (book.ports[port].speed < kmh) {
+            return row;
+        }
+    }
+    return -1;
 }
 
 bool ToggleBookRow(PosBookData& book, BookRowRefs& refs, int listRow) {

@@ -30,6 +30,10 @@ BookRowRefs ListBookRows(const PosBookData& book);
 PosBookPlace& PlaceOf(PosBookData& book, const PosBookRowRef& ref);
 const PosBookPlace& PlaceOf(const PosBookData& book, const PosBookRowRef& ref);
 
+/// List row of the first place behind the start with less than a speed (km/h), or of the row behind which it
+/// is folded away; -1 where there is none.
+int FirstSlowerRow(const PosBookData& book, double kmh);
+
 /// Shows or hides the plain waypoints right behind a port or named point of the list. False, with nothing
 /// changed, for a plain waypoint and for the last port, which has none behind it.
 bool ToggleBookRow(PosBookData& book, BookRowRefs& refs, int listRow);

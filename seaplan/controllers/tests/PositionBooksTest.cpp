@@ -158,6 +158,37 @@ TEST_F(PositionBooksTest, TheRecordStaysAsItWasWhereTheServerTakesAPartOnly) {
     EXPECT_THAT(Record().positionBook.points[1].position, testing::EndsWith(",1.000"));
 }
 
+TEST_F(PositionBooksTest, APortThatTheDictionaryDoesNotKnowKeepsTheIdOfItsRecord) {
+    Record().portCalls[1].ppn = "Hamburg Waltershof";
+    Record().portCalls[1].ppi = DeskPortId("HAMBURG");
+    ASSERT_EQ(desk.voyages.GetPosBookData(vi, book), 0);
+    ASSERT_EQ(book.ports[1].id, "") << "the dictionary alone gives the book its ids";
+    ASSERT_EQ(desk.voyages.SavePositionBook(vi, book), 0);
+    EXPECT_THAT(desk.Sent(Ask::kSavePortCalls, "\"1|" + DeskPortId("HAMBURG") + "|Hamburg Waltershof|"),
+                SizeIs(1));
+    EXPECT_EQ(Record().portCalls[1].ppi, DeskPortId("HAMBURG"));
+}
+
+TEST_F(PositionBooksTest, ASaveThatFailsTellsItsCause) {
+    using Cause = ScheduleFault::Cause;
+    book.ports[0].eta = Util::_datetime_t(0, 0, 6, 2, 3, 2024);
+    for (const auto lost : {Ask::kSavePortCalls, Ask::kBookDate, Ask::kSaveBook}) {
+        desk.Refuse(lost);
+        EXPECT_LT(desk.voyages.SavePositionBook(vi, book), 0);
+        EXPECT_EQ(desk.voyages.LastFault().cause, Cause::Refused);
+        desk.Heal();
+        desk.Lose(lost);
+        EXPECT_LT(desk.voyages.SavePositionBook(vi, book), 0);
+        EXPECT_EQ(desk.voyages.LastFault().cause, Cause::Connection);
+        desk.Heal();
+    }
+    EXPECT_EQ(desk.voyages.SavePositionBook(vi, book), 0);
+    EXPECT_EQ(desk.voyages.LastFault().cause, Cause::None);
+    book.ports[1].speed = 0;
+    EXPECT_EQ(desk.voyages.SavePositionBook(vi, book), -4);
+    EXPECT_EQ(desk.voyages.LastFault().cause, Cause::Figures);
+}
+
 TEST_F(PositionBooksTest, WaypointsKeepThreeDecimalsAndPortsFour) {
     book.ports[1].rows[0].x = -0.12345;
     book.ports[1].x = 0.81236;

@@ -73,6 +73,10 @@ void BookDesk::Show() {
     if (history_.IsThere()) {
         NoteHistory();
     }
+    // The table is filled anew by a change of zone and by a save, so its zone is asked for late.
+    if (const BookOwner* owner = p_.owner()) {
+        sheet_.tableZone = owner->TableZone();
+    }
     p_.view.SetCaption(Text(TextIds::IDC_WP_T_TITLE), sheet_.changed);
     p_.view.ShowSheet(sheet_);
     if (p_.view.IsVisible()) {

@@ -134,11 +134,11 @@ BookRefusal BookEdits::SetSpeed(int row, const std::string& typed) {
 }
 
 void BookEdits::SetTrack(int row, const std::string& track) {
-    std::string& kept = desk_.Sheet().PlaceAt(row).track;
-    if (track == kept) {
+    // What is stored may be neither of the two texts; it counts as the one that is shown.
+    if (track == desk_.Sheet().Cell(row, BookTrack)) {
         return;
     }
-    kept = track;
+    desk_.Sheet().PlaceAt(row).track = track;
     CutGreatCircle(row);
     desk_.TakeEdit({TextIds::IDS_VIEW_EDITTRACK, row});
 }

@@ -14,7 +14,6 @@ void CPosBookDlg::ShowBook(const PosBookData& book) {
     const BookDesk::Report report(desk_);
     BookView& view = desk_.View();
     editing_.HideEditors();
-    desk_.Sheet().tableZone = desk_.Owner().TableZone();
     desk_.Take(book);
     desk_.Show();
     view.MoveTo(Centred(desk_.MainPlace(), view.PlaceOnScreen()));
@@ -41,10 +40,10 @@ void CPosBookDlg::OnLogout() {
 }
 
 void CPosBookDlg::OnTimeZone(const std::string& zone) {
+    const BookDesk::Report report(desk_);
     if (zone == desk_.Sheet().zone) {
         return;
     }
-    const BookDesk::Report report(desk_);
     // A date over a cell is one in the old zone.
     editing_.Picker().Hide();
     desk_.TakeZone(zone);

@@ -8,6 +8,7 @@
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 
@@ -282,7 +283,8 @@ int PanelCommands::SavePositionBook(const PosBookData& book) {
         return desk_.Voyages().SavePositionBook(bookVoyage_, book);
     }();
     if (code != 0) {
-        desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_SAVEEXCEPTION);
+        desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_SAVEEXCEPTION,
+                                BookCauseText(desk_.Voyages().LastFault(), book, desk_.Sheet().table));
         return code;
     }
     desk_.TellSaved(bookVoyage_);

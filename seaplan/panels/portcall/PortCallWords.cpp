@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/PortCallWords.h"
 
+#include <tarvik/util/Units.h>
+
+#include "seaplan/calculation/PositionBook.h"
+#include "seaplan/calculation/book/BookRows.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 
 namespace Tarvik::Seaplan {
@@ -39,6 +44,13 @@ std::string CauseText(const ScheduleFault& fault, const PortCallTable& table) {
             return Text(TextIds::IDS_VIEW_FAULTOTHERROUTE);
     }
     return {};
+}
+
+std::string BookCauseText(const ScheduleFault& fault, const PosBookData& book, const PortCallTable& table) {
+    const int slow = FirstSlowerRow(book, Util::KmhFromKnots(kLeastRowKnots));
+    return fault.cause == ScheduleFault::Cause::Figures && slow >= 0
+               ? Text(TextIds::IDS_VIEW_FAULTBOOKSPEED, {std::to_string(slow + 1)})
+               : CauseText(fault, table);
 }
 
 std::string LossText(const PortCallSheet& sheet, const std::string& voyage) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "seaplan/controllers/ScheduleCalculation.h"
+#include "seaplan/data/PosBookData.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 
 /// What the port call panel tells in whole sentences, in the language in force.
@@ -12,6 +13,8 @@ namespace Tarvik::Seaplan {
 /// Why a calculation or a save came to nothing; empty when nothing failed. A port is told with its row of the
 /// table.
 std::string CauseText(const ScheduleFault& fault, const PortCallTable& table);
+/// The same of a position book, with the row of its list whose speed makes no schedule.
+std::string BookCauseText(const ScheduleFault& fault, const PosBookData& book, const PortCallTable& table);
 /// What is lost with the changes in the sheet, with the name of its voyage.
 std::string LossText(const PortCallSheet& sheet, const std::string& voyage);
 /// The one line about the rows on show, empty when there is nothing to tell of them.

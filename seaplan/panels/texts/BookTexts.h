@@ -41,7 +41,8 @@
     KEY(9106, IDS_VIEW_BOOKEXPAND) \
     KEY(9107, IDS_VIEW_READAS) \
     KEY(9108, IDS_VIEW_NOTREAD) \
-    KEY(9109, IDS_VIEW_PASSED)
+    KEY(9109, IDS_VIEW_PASSED) \
+    KEY(9221, IDS_VIEW_FAULTBOOKSPEED)
 // clang-format on
 
 namespace Tarvik::Seaplan::TextIds {

@@ -58,6 +58,10 @@ TEST_F(BookColumnsTest, CellsHaveTheirForms) {
     EXPECT_EQ(Text(BookLatitude, cell), "1,234.5679");
     EXPECT_EQ(Text(BookLongitude, cell), "-179.5000");
     EXPECT_EQ(Text(BookTrack, cell), "GC");
+    for (const char* other : {"RL", "", "gc", "X"}) {
+        book.ports[1].rows[0].track = other;
+        EXPECT_EQ(Text(BookTrack, cell), "RL") << "stored as \"" << other << '"';
+    }
     EXPECT_EQ(Text(BookInterval, cell), "5");
     EXPECT_EQ(Text(BookSpeed, cell), "10.00");
     EXPECT_EQ(Text(BookSpeed, Cell(1, BookSpeedUnit::KmPerHour)), "18.52");

@@ -57,6 +57,21 @@ TEST(BookList, RowsLeadToTheirPlaces) {
     EXPECT_EQ(book.ports[2].rows[0].name, "here");
 }
 
+TEST(BookList, TheFirstRowThatIsTooSlowIsFoundByTheRowInSight) {
+    auto book = SampleBook();
+    EXPECT_EQ(FirstSlowerRow(book, 0.001), -1);
+    book.ports[0].speed = 0;
+    EXPECT_EQ(FirstSlowerRow(book, 0.001), -1) << "nothing leads to the start";
+    book.ports[2].speed = 0;
+    EXPECT_EQ(FirstSlowerRow(book, 0.001), 5);
+    book.ports[2].rows[1].speed = 0;
+    EXPECT_EQ(FirstSlowerRow(book, 0.001), 4);
+    book.ports[2].rows[0].speed = 0;
+    EXPECT_EQ(FirstSlowerRow(book, 0.001), 3) << "it is folded away behind the port";
+    book.ports[1].rows[1].speed = 0.0005;
+    EXPECT_EQ(FirstSlowerRow(book, 0.001), 2);
+}
+
 TEST(BookList, TogglingAPortShowsAndHidesTheWaypointsBehindIt) {
     auto book = SampleBook();
     auto refs = ListBookRows(book);
@@ -151,6 +166,30 @@ TEST(RegenerateLeg, MidpointOnARhumbLine) {
     EXPECT_EQ(RegenerateLeg(book, refs, 1, true), 1);
     EXPECT_EQ(book.ports[1].rows.at(0).x, 10);
     EXPECT_EQ(book.ports[1].rows.at(0).track, "RL");
+}
+
+TEST(RegenerateLeg, AcrossTheDateLineTheMidpointStaysInThePacific) {
+    struct Case {
+        double from, to, middle;
+    };
+    for (const Case& of :
+         {Case{179, -179, 180}, Case{-179, 179, 180}, Case{170, -160, -175}, Case{-160, 170, -175},
+          Case{150, -170, 170}, Case{-90, 90, 0}, Case{-100, 70, -15}}) {
+        auto book = BookOf({PortAt(of.from), PortAt(of.to)});
+        auto refs = ListBookRows(book);
+        ASSERT_EQ(RegenerateLeg(book, refs, 1, true), 1);
+        EXPECT_DOUBLE_EQ(book.ports[1].rows.at(0).x, of.middle) << of.from << " to " << of.to;
+    }
+}
+
+TEST(RegenerateLeg, AGreatCircleAcrossTheDateLineIsCutOnIt) {
+    auto book = BookOf({PortAt(165), PortAt(-165)});
+    book.ports[1].track = "GC";
+    auto refs = ListBookRows(book);
+    ASSERT_GT(RegenerateLeg(book, refs, 1, false), 3);
+    for (const PosBookRow& row : book.ports[1].rows) {
+        EXPECT_GT(std::abs(row.x), 165) << "nothing of it lies off Africa";
+    }
 }
 
 TEST(RegenerateLeg, NewRowsStandBeforeTheirWaypoint) {
