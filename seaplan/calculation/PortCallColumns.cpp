@@ -3,6 +3,16 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+/// The figures of the summary, held as those of a row.
+SummaryTexts FigureTexts(const VoyPortCall& figures) {
+    return {OneDecimal(static_cast<double>(figures.psp)), OneDecimal(static_cast<double>(figures.distance)),
+            TwoDecimals(static_cast<double>(figures.steamTime))};
+}
+
+}  // namespace
+
 CellTexts RowToCells(int index, const VoyPortCall& row) {
     CellTexts cells;
     for (std::size_t column = 0; column < cells.size(); ++column) {
@@ -43,10 +53,19 @@ bool SummaryToTexts(const ScheduleSummary& summary, const UnitSet& units, Summar
     if (FromStandardUnits({figures}, units, shown) != 0) {
         return false;
     }
-    out.averageSpeed = OneDecimal(static_cast<double>(shown[0].psp));
-    out.totalDistance = OneDecimal(static_cast<double>(shown[0].distance));
-    out.totalTime = TwoDecimals(static_cast<double>(shown[0].steamTime));
+    out = FigureTexts(shown[0]);
     return true;
+}
+
+void ConvertSummary(const std::string& from, const std::string& to, SummaryTexts& texts) {
+    VoyPortCall figures;
+    ReadNumberCell(texts.averageSpeed, figures.psp);
+    ReadNumberCell(texts.totalTime, figures.steamTime);
+    ReadNumberCell(texts.totalDistance, figures.distance);
+    PortCallRows converted;
+    if (ConvertRows({figures}, from, to, converted) == 0) {
+        texts = FigureTexts(converted[0]);
+    }
 }
 
 }  // namespace Tarvik::Seaplan

@@ -142,5 +142,7 @@ struct SummaryTexts {
 };
 /// The figures in the units on show. False, with `out` as it was, for a unit that does not exist.
 bool SummaryToTexts(const ScheduleSummary& summary, const UnitSet& units, SummaryTexts& out);
+/// The figures in another unit of one quantity; a pair of units without a factor leaves them.
+void ConvertSummary(const std::string& from, const std::string& to, SummaryTexts& texts);
 
 }  // namespace Tarvik::Seaplan

@@ -28,13 +28,12 @@ void TellFailure(PortCallDesk& desk, TextId id) {
 }  // namespace
 
 int PanelCommands::Prepare(PortCallRows& rows) const {
-    PortCallRows read = desk_.Sheet().table.ReadRows();
-    PrepareFirstPurpose(read);
-    PortCallRows kept;
-    if (DropSamePortRows(read, desk_.Ports().SamePorts(), kept) != 0) {
+    PortCallRows read;
+    if (desk_.Sheet().ReadUnrounded(read) != 0) {
         return -1;
     }
-    return ToStandardUnits(kept, desk_.Sheet().Units(), rows) == 0 ? 0 : -2;
+    PrepareFirstPurpose(read);
+    return DropSamePortRows(read, desk_.Ports().SamePorts(), rows) == 0 ? 0 : -1;
 }
 
 /// The schedule of new rows. A distance table has no voyage whose legs could be kept; its route waits for the

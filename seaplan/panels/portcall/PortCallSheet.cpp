@@ -10,15 +10,21 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-/// Whether a person entered the same into both rows; the start is that of the first one.
-bool SameEntered(const CellTexts& a, const CellTexts& b, bool first) {
-    for (int column = 0; column < kPortCallColumnCount; ++column) {
-        const bool counts = kPortCallColumns[column].entered || (first && column == ColEta);
-        if (counts && a[column] != b[column]) {
-            return false;
+/// Blanks what was blank before the rows were written anew from what their cells told.
+void KeepBlanks(const PortCallTable& before, PortCallTable& table) {
+    const auto keep = [&](int from, int to) {
+        for (int column = ColPort; column < kPortCallColumnCount; ++column) {
+            if (IsBlankCell(before.Cell(from, column))) {
+                table.SetCell(to, column, kBlankCell);
+            }
+        }
+    };
+    for (int row = 0; row < before.RowCount(); ++row) {
+        if (!before.IsBlank(row)) {
+            keep(row, before.CompactIndex(row));
         }
     }
-    return true;
+    keep(before.RowCount(), table.RowCount());
 }
 
 }  // namespace
@@ -29,7 +35,7 @@ void PortCallSheet::Reset() {
     aisCorrectionPending = false;
     unread = false;
     note = {};
-    stored.clear();
+    stored.Clear();
     ResetUnits();
 }
 
@@ -47,6 +53,8 @@ void PortCallSheet::ShowUnits() {
 void PortCallSheet::Clear() {
     table.ClearCells();
     state.summary = SummaryTexts();
+    note = {};
+    state.note.clear();
     ResetUnits();
     MarkUnchanged();
     state.canOpenBook = false;
@@ -55,6 +63,14 @@ void PortCallSheet::Clear() {
 
 int PortCallSheet::ReadStandard(PortCallRows& out) const {
     return ToStandardUnits(table.ReadRows(), units_, out) == 0 ? 0 : -1;
+}
+
+int PortCallSheet::ReadUnrounded(PortCallRows& out) const {
+    if (ReadStandard(out) != 0) {
+        return -1;
+    }
+    stored.RestoreSpeeds(table, out);
+    return 0;
 }
 
 int PortCallSheet::ShowRows(const PortCallRows& standard, bool corrected) {
@@ -108,12 +124,17 @@ int PortCallSheet::ChangeUnit(UnitKind kind, const std::string& unit, bool corre
     if (ConvertUnitValue(rows, from, unit, converted) != 0) {
         return -2;
     }
+    const PortCallTable before = table;
     table.WriteRows(converted, corrected);
     table.WriteTotals(converted);
-    ConvertStored(from, unit);
-    // The figures follow the cells, with the digits that those have.
+    KeepBlanks(before, table);
+    stored.Convert(from, unit);
+    // The figures follow the cells, with the digits that those have; over blank cells they can only follow
+    // themselves.
     PortCallRows standard;
-    if (ToStandardUnits(converted, units_, standard) == 0) {
+    if (IsBlankCell(table.Cell(table.RowCount(), ColDistance))) {
+        ConvertSummary(from, unit, state.summary);
+    } else if (ToStandardUnits(converted, units_, standard) == 0) {
         ShowSummary(standard);
     }
     return 0;
@@ -136,53 +157,19 @@ int PortCallSheet::PlaceCount(PortDirectory& ports) const {
     return count;
 }
 
-std::vector<CellTexts> PortCallSheet::FilledRows() const {
-    std::vector<CellTexts> rows;
-    for (int row = 0; row < table.RowCount(); ++row) {
-        if (!table.IsBlank(row)) {
-            rows.push_back(table.Rows()[row].cells);
-        }
-    }
-    return rows;
-}
-
-/// The stored rows go the way of the table's cells, so that rounding makes no change of them.
-void PortCallSheet::ConvertStored(const std::string& from, const std::string& to) {
-    PortCallRows rows;
-    for (const CellTexts& cells : stored) {
-        rows.push_back(CellsToRow(cells));
-    }
-    PortCallRows converted;
-    if (ConvertUnitValue(rows, from, to, converted) != 0) {
-        return;
-    }
-    for (std::size_t i = 0; i < stored.size(); ++i) {
-        const std::string eta = stored[i][ColEta];
-        stored[i] = RowToCells(static_cast<int>(i), converted[i]);
-        stored[i][ColEta] = eta;
-    }
-}
-
-/// Rows that are the same at both ends are left out, so that one that was taken away counts as one.
-int PortCallSheet::ChangedRows() const {
-    const std::vector<CellTexts> now = FilledRows();
-    const std::size_t common = std::min(now.size(), stored.size());
-    std::size_t head = 0;
-    while (head < common && SameEntered(now[head], stored[head], head == 0)) {
-        ++head;
-    }
-    std::size_t tail = 0;
-    while (tail < common - head &&
-           SameEntered(now[now.size() - 1 - tail], stored[stored.size() - 1 - tail], false)) {
-        ++tail;
-    }
-    return static_cast<int>(std::max(now.size(), stored.size()) - head - tail);
-}
-
 void PortCallSheet::MarkUnchanged() {
     state.changed = false;
     state.canSave = false;
-    stored = FilledRows();
+    PortCallRows standard;
+    if (ToStandardUnits(table.ReadAllRows(), units_, standard) == 0) {
+        stored.RestoreSpeeds(table, standard);
+    }
+    stored.Store(table, standard);
+}
+
+void PortCallSheet::MarkLoaded(const PortCallRows& standard) {
+    MarkUnchanged();
+    stored.Store(table, standard);
 }
 
 void PortCallSheet::MarkChanged(PortDirectory& ports) {

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "seaplan/calculation/Units.h"
 #include "seaplan/controllers/VoyageRecords.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/panels/portcall/StoredRows.h"
 
 namespace Tarvik::Seaplan {
 
@@ -36,7 +36,7 @@ class PortCallSheet {
     bool unread = false;                ///< it may have port calls on the server that could not be read
     std::string cause;  ///< why the last save or calculation failed, in words; empty for none that is known
     PortCallNote note;
-    std::vector<CellTexts> stored;  ///< the rows as they were last loaded or saved, in the units on show
+    StoredRows stored;  ///< the rows as they were last loaded or saved, in the units on show
 
     const UnitSet& Units() const { return units_; }
     /// Whether the rows are a port distance table that no voyage has been made of: no save takes them.
@@ -51,6 +51,9 @@ class PortCallSheet {
 
     /// The rows in knots, nautical miles and hours; none when row 0 has no port. 0, or -1 without rows.
     int ReadStandard(PortCallRows& out) const;
+    /// The same for a calculation or a save, which changes no leg whose speed nobody has touched: it has the
+    /// digits that its cell does not show.
+    int ReadUnrounded(PortCallRows& out) const;
     /// Shows rows of knots, nautical miles and hours: cells, totals row, summary. 0; -1, with nothing
     /// changed, for fewer than two rows or a unit that does not exist.
     int ShowRows(const PortCallRows& standard, bool corrected);
@@ -67,15 +70,15 @@ class PortCallSheet {
     /// Distinct places, each row counted against the last one that counted.
     int PlaceCount(PortDirectory& ports) const;
     /// How many rows a person has changed, added or taken away since they were loaded or saved.
-    int ChangedRows() const;
+    int ChangedRows() const { return stored.ChangedIn(table); }
     /// Nothing is left to save: the rows are those that are stored.
     void MarkUnchanged();
+    /// The same for rows on show that were just loaded, given in knots, nautical miles and hours.
+    void MarkLoaded(const PortCallRows& standard);
     /// Takes the table for changed, unless it has fewer than two places: such a table cannot be saved.
     void MarkChanged(PortDirectory& ports);
 
   private:
-    std::vector<CellTexts> FilledRows() const;
-    void ConvertStored(const std::string& from, const std::string& to);
     void ShowUnits();
     void ShowSummary(const PortCallRows& standard);
 

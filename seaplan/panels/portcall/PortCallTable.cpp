@@ -18,6 +18,15 @@ TableRow MakeRow(const std::string& label, RowClass look) {
     return row;
 }
 
+void BlankCells(std::vector<TableRow>& table) {
+    for (TableRow& row : table) {
+        CellTexts cells;
+        cells.fill(kBlankCell);
+        cells[ColOrder] = row.cells[ColOrder];
+        row.Commit(cells, {});
+    }
+}
+
 /// Gives the numbered rows of a corrected voyage's table their looks; the first `history` are sailed.
 void LookSailed(std::vector<TableRow>& table, int numbered, const PortCallRows& rows, std::size_t history) {
     for (int i = 0; i < numbered; ++i) {
@@ -52,6 +61,7 @@ VoyPortCall PortCallTable::ReadRow(int row) const {
     VoyPortCall value = rows_[row].record;
     if (IsBlankCell(Cell(row, ColEta))) {
         value.eta = Util::_datetime_t();
+        ReadTimeCell(row == 0 ? start_ : kBlankCell, value.eta);
     }
     if (IsBlankCell(Cell(row, ColEtd))) {
         value.etd = Util::_datetime_t();
@@ -73,6 +83,7 @@ void PortCallTable::Rebuild(int numbered, bool closing) {
 
 void PortCallTable::Reset() {
     Rebuild(kFirstRows, true);
+    start_.clear();
 }
 
 PortCallRows PortCallTable::ReadRows() const {
@@ -98,12 +109,8 @@ int PortCallTable::CompactIndex(int row) const {
 }
 
 void PortCallTable::ClearCells() {
-    for (TableRow& row : rows_) {
-        CellTexts cells;
-        cells.fill(kBlankCell);
-        cells[ColOrder] = row.cells[ColOrder];
-        row.Commit(cells, {});
-    }
+    BlankCells(rows_);
+    start_.clear();
 }
 
 int PortCallTable::FindLastAisRow() const {
@@ -135,7 +142,7 @@ void PortCallTable::WriteRows(const PortCallRows& rows, bool corrected) {
     if (!corrected && rows.size() > kMostWithoutRebuild) {
         Rebuild(static_cast<int>(rows.size()) + 1, false);
     }
-    ClearCells();
+    BlankCells(rows_);
     for (int i = 0; i < static_cast<int>(rows.size()) && i < rowCount_; ++i) {
         WriteRow(i, rows[i]);
     }
@@ -152,7 +159,10 @@ void PortCallTable::WriteEntered(int row, const VoyPortCall& value) {
 }
 
 void PortCallTable::WritePartial(const PortCallRows& rows, bool corrected) {
-    ClearCells();
+    if (!IsBlankCell(Cell(0, ColEta))) {
+        start_ = Cell(0, ColEta);
+    }
+    BlankCells(rows_);
     int pivot = -1;
     for (int i = 0; corrected && i < static_cast<int>(rows.size()); ++i) {
         if (rows[i].pp == kBlankCell && static_cast<double>(rows[i].distance) > kNoDistance) {
@@ -216,12 +226,14 @@ RowActions ActionsOf(const PortCallTable& table, int row) {
     if (!table.IsNumbered(row) || table.IsBlank(row)) {
         return {};
     }
-    // A row operation takes the row's place in the table as a place among the rows with a port.
+    // A row operation takes the row's place in the table as a place among the rows with a port: below a blank
+    // row it would mean another row.
+    const bool meant = table.CompactIndex(row) == row;
     const int filled = table.CompactIndex(table.RowCount());
     // No port moves above the ship's position.
     const bool belowShip =
         row > 0 && table.Rows()[row - 1].look == RowClass::Highlighted && row - 1 == table.FindLastAisRow();
-    return {row > 0 && row < filled && !belowShip, row + 1 < filled, row < filled, true};
+    return {meant && row > 0 && !belowShip, meant && row + 1 < filled, meant, true};
 }
 
 }  // namespace Tarvik::Seaplan

@@ -62,7 +62,8 @@ class PortCallTable {
     /// A row without a port.
     bool IsBlank(int row) const { return IsBlankCell(Cell(row, ColPort)); }
 
-    /// The row's record; a time whose cell is blank is the present moment.
+    /// The row's record; a time whose cell is blank is the present moment, and the first row's ETA the start
+    /// that stood there before the last row operation.
     VoyPortCall ReadRow(int row) const;
     /// The rows with a port; none when row 0 has none.
     PortCallRows ReadRows() const;
@@ -87,7 +88,7 @@ class PortCallTable {
     void ClearTotals();
     /// Marks the rows whose port nobody knows.
     void MarkUnknownPorts(const std::function<bool(const std::string&)>& known);
-    /// Blanks columns 1 to 9 of every row.
+    /// Blanks columns 1 to 9 of every row, and forgets the start.
     void ClearCells();
     /// A free row below the last numbered one, when `row` is that one.
     void GrowIfLast(int row);
@@ -99,6 +100,7 @@ class PortCallTable {
 
     int rowCount_ = 0;
     std::vector<TableRow> rows_;
+    std::string start_;  ///< ETA of the first row before a row operation blanked it
 };
 
 /// What the images at a row's end can do now.

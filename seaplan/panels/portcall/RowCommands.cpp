@@ -16,6 +16,10 @@ int RowCommands::ShowMoved(int result, const PortCallRows& rows) {
 
 int RowCommands::Move(int row, const std::string& name) {
     const PortCallTable& table = desk_.Sheet().table;
+    if (table.CompactIndex(row) != row) {
+        // Below a blank row the controller would take another row for this one.
+        return -4;
+    }
     const PortCallRows rows = table.ReadAllRows();
     PortCallRows moved;
     if (name == PortCallImage::kDelete) {
@@ -47,10 +51,32 @@ int RowCommands::OpenRemarks(int row) {
     return 0;
 }
 
+/// Takes what is being typed and tells where a row stands then: a schedule that follows closes the blank rows
+/// above it.
+int RowCommands::CommitBefore(int row) {
+    const PortCallTable& table = desk_.Sheet().table;
+    if (!table.IsNumbered(row) || table.IsBlank(row)) {
+        editing_.CommitEditors();
+        return row;
+    }
+    const int place = table.CompactIndex(row);
+    const int filled = table.CompactIndex(table.RowCount());
+    editing_.CommitEditors();
+    if (table.CompactIndex(table.RowCount()) != filled) {
+        // A port was typed into a blank row, and nothing moved.
+        return row;
+    }
+    int now = 0;
+    while (now < table.RowCount() - 1 && (table.IsBlank(now) || table.CompactIndex(now) != place)) {
+        ++now;
+    }
+    return now;
+}
+
 int RowCommands::OnItemImage(int row, const std::string& name) {
     const PortCallDesk::Report report(desk_);
-    editing_.CommitEditors();
     const PortCallTable& table = desk_.Sheet().table;
+    row = CommitBefore(row);
     if (!table.IsNumbered(row) || table.IsBlank(row)) {
         return -1;
     }

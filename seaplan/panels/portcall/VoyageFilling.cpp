@@ -22,7 +22,7 @@ int VoyageFilling::SaveTable(const std::string& vi, int drawMode) {
     }
     PortCallRows rows;
     desk_.Sheet().cause.clear();
-    if (desk_.Sheet().ReadStandard(rows) != 0) {
+    if (desk_.Sheet().ReadUnrounded(rows) != 0) {
         return -2;
     }
     if (!MayReplace(vi)) {
@@ -264,7 +264,7 @@ int VoyageFilling::Load(int mode) {
     if (sheet.ShowRows(rows, desk_.IsCorrected()) != 0) {
         return -3;
     }
-    sheet.MarkUnchanged();
+    sheet.MarkLoaded(rows);
     sheet.state.canClear = true;
     sheet.state.canOpenBook = true;
     sheet.state.canCalculate = true;

@@ -25,6 +25,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     int statesShown = 0;
     int busy = 0;
     int selectedRow = -1;
+    int rowInView = -1;
     std::optional<CellEditor> openEditor;  ///< opened last and not hidden since
     int editorRow = -1;
     bool editorSelectsAll = false;
@@ -59,7 +60,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     }
     void SetBusy(bool on) override { busy += on ? 1 : -1; }
     void SelectRow(int row) override { selectedRow = row; }
-    void BringRowIntoView(int) override {}
+    void BringRowIntoView(int row) override { rowInView = row; }
     CellsView& Cells() override { return *this; }
     void OpenEditor(const OpenedEditor& opened) override {
         openEditor = opened.editor;

@@ -107,7 +107,9 @@ QString PortCallLines::ImageTipAt(int line, const std::string& name) const {
     for (const RowImageEntry& image : kImages) {
         if (name == image.name) {
             const bool tellsWhy = !(can.*image.enabled) && image.whyNot;
-            const std::string why = tellsWhy ? ": " + Text(*image.whyNot) : std::string();
+            // What keeps a row from being removed keeps it from being moved as well.
+            const TextId reason = can.remove ? image.whyNot.value_or(image.tip) : TextIds::IDS_VIEW_NOTDELETE;
+            const std::string why = tellsWhy ? ": " + Text(reason) : std::string();
             return QString::fromStdString(Text(image.tip) + why);
         }
     }

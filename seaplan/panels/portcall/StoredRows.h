@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "seaplan/panels/portcall/PortCallTable.h"
+
+namespace Tarvik::Seaplan {
+
+/// The rows of the table as they were last loaded or saved: what changes are counted against, and what a
+/// leg's speed was before its cell rounded it.
+class StoredRows {
+  public:
+    /// Takes the rows with a port of a table; `standard` are the same rows in knots, nautical miles and
+    /// hours, with the digits that the cells do not show. Where these are others the cells alone count.
+    void Store(const PortCallTable& table, const PortCallRows& standard);
+    void Clear() { rows_.clear(); }
+    /// How many rows of the table a person has changed, added or taken away since.
+    int ChangedIn(const PortCallTable& table) const;
+    /// Another unit on show. The rows go the way of the table's cells, so that rounding makes no change of
+    /// them; the unrounded speeds stay.
+    void Convert(const std::string& from, const std::string& to);
+    /// Gives the rows with a port of a table, in knots, nautical miles and hours, the unrounded speed of each
+    /// leg that runs between the same two ports as then and has the same speed cell.
+    void RestoreSpeeds(const PortCallTable& table, PortCallRows& standard) const;
+
+  private:
+    struct Row {
+        CellTexts cells;
+        SpeedKnots speed = 0;  ///< unrounded
+    };
+
+    std::vector<Row> rows_;
+};
+
+}  // namespace Tarvik::Seaplan
