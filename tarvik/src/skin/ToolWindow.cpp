@@ -6,6 +6,7 @@
 
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
 namespace Tarvik::Skin {
@@ -69,7 +70,10 @@ QToolButton* ToolWindow::AddCaptionButton(const char* name, const std::string& i
     button->setObjectName(QString::fromLatin1(name));
     button->setFocusPolicy(Qt::TabFocus);
     captionRow_->addWidget(button);
-    KeepIcon(button, icon);
+    // A button without one is dressed by a name.
+    if (!icon.empty()) {
+        KeepIcon(button, icon);
+    }
     return button;
 }
 
@@ -83,6 +87,7 @@ void ToolWindow::ApplySkin() {
     for (const auto& [button, icon] : icons_) {
         button->setIcon(MakeIcon(icon));
     }
+    DressAgain(*this);
 }
 
 void ToolWindow::resizeEvent(QResizeEvent* event) {
