@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -101,6 +102,7 @@ class RecordingVesselView final : public VesselView {
     void SelectRow(int row) override { selected = row; }
     void HideList() override { list = false; }
     bool ListVisible() const override { return list; }
+    void Later(std::function<void()> act) override { act(); }
 };
 
 /// The search line as the test sees it.

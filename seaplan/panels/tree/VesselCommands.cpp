@@ -26,10 +26,7 @@ std::vector<Interface::FleetEntry> Fleet() {
 
 }  // namespace
 
-VesselCommands::VesselCommands(TreeParts& parts, VesselView& view)
-    : p_(parts), editor_(view, [this](const Interface::FleetEntry& vessel, bool typedOnly) {
-          Commit(vessel, typedOnly);
-      }) {}
+VesselCommands::VesselCommands(TreeParts& parts, VesselView& view) : p_(parts), editor_(view) {}
 
 TreeCommands VesselCommands::Table() {
     return {{Item::kAssignShip, [this] { return Assign(); }},
@@ -48,7 +45,10 @@ void VesselCommands::OpenBox(TreeRow row, const std::string& text) {
     const int left = place.left + kLeft;
     const int top = place.top + kTop;
     p_.context.tree.SetDrawItemVisibleEx(row, Item::kReplaceShip, true);
-    editor_.Open({left, top, left + kWidth, top + kHeight}, text, std::move(fleet));
+    editor_.Open({left, top, left + kWidth, top + kHeight}, text, std::move(fleet),
+                 [this, row](const Interface::FleetEntry& vessel, bool typedOnly) {
+                     CommitTo(row, vessel, typedOnly);
+                 });
 }
 
 int VesselCommands::OpenEditor(const std::string& vi) {
@@ -99,11 +99,11 @@ int VesselCommands::AddToFleet() {
 }
 
 /// A vessel of the fleet is tracked from the start.
-void VesselCommands::TurnAisOn(const VoyInfo& voyage) {
+void VesselCommands::TurnAisOn(TreeRow row, const VoyInfo& voyage) {
     if (voyage.va != 1) {
         p_.context.catalog.OpenAis(voyage.vi);
     }
-    p_.chart.ShowAisItems(p_.selection.VoyageRow(), true);
+    p_.chart.ShowAisItems(row, true);
     p_.chart.ShowAis(voyage, false);
 }
 
@@ -114,7 +114,10 @@ bool VesselCommands::Save(const std::string& vi, const Interface::FleetEntry& ve
 
 int VesselCommands::Commit(const Interface::FleetEntry& vessel, bool typedOnly) {
     editor_.Hide();
-    const TreeRow row = p_.selection.VoyageRow();
+    return CommitTo(p_.selection.VoyageRow(), vessel, typedOnly);
+}
+
+int VesselCommands::CommitTo(TreeRow row, const Interface::FleetEntry& vessel, bool typedOnly) {
     VoyInfo* voyage = row == kNoRow ? nullptr : p_.context.VoyageOf(row);
     if (voyage == nullptr) {
         return -1;
@@ -131,7 +134,7 @@ int VesselCommands::Commit(const Interface::FleetEntry& vessel, bool typedOnly) 
     voyage->vsn = vessel.name;
     voyage->vsmsi = vessel.number;
     if (!voyage->vsi.empty()) {
-        TurnAisOn(*voyage);
+        TurnAisOn(row, *voyage);
     }
     return 0;
 }

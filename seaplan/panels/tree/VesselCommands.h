@@ -28,7 +28,8 @@ class VesselCommands {
     int AddToFleet();
     void OpenBox(TreeRow row, const std::string& text);
     bool Save(const std::string& vi, const Interface::FleetEntry& vessel);
-    void TurnAisOn(const VoyInfo& voyage);
+    int CommitTo(TreeRow row, const Interface::FleetEntry& vessel, bool typedOnly);
+    void TurnAisOn(TreeRow row, const VoyInfo& voyage);
 
     TreeParts& p_;
     VoyShipEditDlg editor_;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,8 @@ class VesselView {
     virtual void SelectRow(int row) = 0;
     virtual void HideList() = 0;
     virtual bool ListVisible() const = 0;
+    /// Acts once the press that is under way has been delivered to where it fell.
+    virtual void Later(std::function<void()> act) = 0;
 };
 
 }  // namespace Tarvik::Seaplan

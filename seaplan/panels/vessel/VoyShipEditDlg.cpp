@@ -40,8 +40,9 @@ VesselListSize VoyShipEditDlg::SizeOf(std::size_t vessels) {
 }
 
 void VoyShipEditDlg::Open(const Rect& inTree, const std::string& text,
-                          std::vector<Interface::FleetEntry> fleet) {
+                          std::vector<Interface::FleetEntry> fleet, Commit commit) {
     fleet_ = std::move(fleet);
+    commit_ = std::move(commit);
     opened_ = text;
     view_.ShowBox(inTree, text, kMostCharacters);
     OnTyped(text);
@@ -98,8 +99,17 @@ void VoyShipEditDlg::OnEnter(int selectedRow) {
     if (view_.ListVisible()) {
         return OnChosen(selectedRow);
     }
-    CommitTyped();
+    const auto typed = Typed();
     Hide();
+    if (typed) {
+        Take(*typed, true);
+    }
+}
+
+/// A box that comes up meanwhile lets the next row's box open.
+void VoyShipEditDlg::Take(const Interface::FleetEntry& vessel, bool typedOnly) {
+    const Commit commit = commit_;
+    commit(vessel, typedOnly);
 }
 
 void VoyShipEditDlg::OnChosen(int row) {
@@ -107,8 +117,8 @@ void VoyShipEditDlg::OnChosen(int row) {
         return;
     }
     const Interface::FleetEntry vessel = shown_[row];
-    view_.HideList();
-    commit_(vessel, false);
+    Hide();
+    Take(vessel, false);
 }
 
 void VoyShipEditDlg::OnLeft() {
@@ -116,20 +126,25 @@ void VoyShipEditDlg::OnLeft() {
         return;
     }
     closedByPress_ = true;
-    view_.HideList();
-    CommitTyped();
+    const auto typed = Typed();
     Hide();
+    if (typed) {
+        // Saving may put a box up, which must not begin inside the press. The press may open the box over
+        // another row meanwhile.
+        view_.Later([commit = commit_, vessel = *typed] { commit(vessel, true); });
+    }
 }
 
-void VoyShipEditDlg::CommitTyped() {
+std::optional<Interface::FleetEntry> VoyShipEditDlg::Typed() const {
     // A typed name has no id and no number: committing what was only looked at would take both away.
     if (view_.BoxText() == opened_) {
-        return;
+        return std::nullopt;
     }
     const std::u16string name = StringUtl::TrimLeft(StringUtl::TranslateString(view_.BoxText()));
-    if (!name.empty()) {
-        commit_({"", StringUtl::TranslateString(name), 0}, true);
+    if (name.empty()) {
+        return std::nullopt;
     }
+    return Interface::FleetEntry{"", StringUtl::TranslateString(name), 0};
 }
 
 }  // namespace Tarvik::Seaplan

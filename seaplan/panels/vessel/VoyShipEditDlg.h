@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,10 +19,12 @@ class VoyShipEditDlg {
     /// Called with a vessel and whether it is only a typed name.
     using Commit = std::function<void(const Interface::FleetEntry&, bool typedOnly)>;
 
-    VoyShipEditDlg(VesselView& view, Commit commit) : view_(view), commit_(std::move(commit)) {}
+    explicit VoyShipEditDlg(VesselView& view) : view_(view) {}
 
-    /// Shows the box with this text and the vessels of the fleet that begin so.
-    void Open(const Rect& inTree, const std::string& text, std::vector<Interface::FleetEntry> fleet);
+    /// Shows the box with this text and the vessels of the fleet that begin so; what is taken goes to
+    /// `commit`.
+    void Open(const Rect& inTree, const std::string& text, std::vector<Interface::FleetEntry> fleet,
+              Commit commit);
     void Hide();
     bool IsVisible() const { return view_.BoxVisible(); }
     /// Whether the press that is under way closed the box: a click that it becomes does not open it again.
@@ -35,7 +38,8 @@ class VoyShipEditDlg {
     void OnEnter(int selectedRow);
     /// A row of the list was clicked.
     void OnChosen(int row);
-    /// A press outside the box and the list: the typed name is taken, an untouched one is left as it is.
+    /// A left press outside the box and the list: both close at once, and the typed name is taken when the
+    /// press has been delivered; an untouched one is left as it is.
     void OnLeft();
     /// The press is over.
     void OnReleased() { closedByPress_ = false; }
@@ -45,7 +49,9 @@ class VoyShipEditDlg {
 
   private:
     bool Walk(int by);
-    void CommitTyped();
+    void Take(const Interface::FleetEntry& vessel, bool typedOnly);
+    /// The vessel that was typed; nothing for an untouched or a blank name.
+    std::optional<Interface::FleetEntry> Typed() const;
 
     VesselView& view_;
     Commit commit_;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QApplication>
-#include <QEvent>
+#include <QMouseEvent>
 #include <QObject>
 #include <QWidget>
 #include <functional>
@@ -14,14 +14,15 @@ namespace Tarvik::Seaplan {
 /// goes on to where it fell.
 class OutsidePress final : public QObject {
   public:
-    /// `inside` is asked of the widget that was pressed; `pressed` hears of every press elsewhere, `released`
-    /// of the end of any press, before a click comes of it.
+    /// `inside` is asked of the widget that was pressed; `pressed` hears of every press elsewhere that is
+    /// made with one of `buttons`, `released` of the end of any press, before a click comes of it.
     OutsidePress(QObject* owner, std::function<bool(const QWidget&)> inside, std::function<void()> pressed,
-                 std::function<void()> released = {})
+                 std::function<void()> released = {}, Qt::MouseButtons buttons = Qt::AllButtons)
         : QObject(owner),
           inside_(std::move(inside)),
           pressed_(std::move(pressed)),
-          released_(std::move(released)) {
+          released_(std::move(released)),
+          buttons_(buttons) {
         qApp->installEventFilter(this);
     }
 
@@ -29,7 +30,8 @@ class OutsidePress final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::MouseButtonPress) {
             const auto* widget = qobject_cast<const QWidget*>(watched);
-            if (widget != nullptr && !inside_(*widget)) {
+            const Qt::MouseButton button = static_cast<QMouseEvent*>(event)->button();
+            if (widget != nullptr && buttons_.testFlag(button) && !inside_(*widget)) {
                 pressed_();
             }
         } else if (event->type() == QEvent::MouseButtonRelease && released_) {
@@ -42,6 +44,7 @@ class OutsidePress final : public QObject {
     std::function<bool(const QWidget&)> inside_;
     std::function<void()> pressed_;
     std::function<void()> released_;
+    Qt::MouseButtons buttons_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -103,7 +103,52 @@ TEST_F(VesselBoxTest, APressElsewhereTakesTheTypedName) {
     QTest::keyClicks(&Box(), "STELLA");
     QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, QPoint(100, 370));
     EXPECT_FALSE(Box().isVisible());
+    QApplication::processEvents();
     EXPECT_EQ(desk.Voyage("North Sea").vsn, "STELLA");
+}
+
+TEST_F(VesselBoxTest, OnlyTheLeftButtonTakesTheTypedName) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_AssignShip");
+    QTest::keyClicks(&Box(), "STELLA");
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mouseClick(Tree().viewport(), button, {}, QPoint(100, 370));
+        QApplication::processEvents();
+        EXPECT_TRUE(Box().isVisible()) << button;
+        EXPECT_EQ(desk.Count(Ask::kChangeVessel), 0) << button;
+    }
+}
+
+// A box inside the press would swallow its release, and the row that was pressed would act behind it.
+TEST_F(VesselBoxTest, ARefusedNameIsToldWhenThePressHasBeenDelivered) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_AssignShip");
+    QTest::keyClicks(&Box(), "STELLA");
+    desk.Refuse(Ask::kChangeVessel);
+    const QPoint other = Tree().visualRect(Tree().model()->index(0, 0)).center();
+    QTest::mousePress(Tree().viewport(), Qt::LeftButton, {}, other);
+    EXPECT_FALSE(Box().isVisible());
+    EXPECT_FALSE(List().isVisible());
+    EXPECT_EQ(desk.Count(Ask::kChangeVessel), 0);
+    EXPECT_NE(Rows().Selected(), RowOf("North Sea")) << "the press has arrived at its row";
+    QTest::mouseRelease(Tree().viewport(), Qt::LeftButton, {}, other);
+    QApplication::processEvents();
+    EXPECT_EQ(desk.Count(Ask::kChangeVessel, "STELLA"), 1);
+    ASSERT_EQ(messages.messages.size(), 1U);
+    EXPECT_EQ(messages.messages[0].text, "Add a vessel failed!");
+}
+
+TEST_F(VesselBoxTest, TheNameGoesToTheRowThatTheBoxStoodOverWhateverIsPressedNext) {
+    OpenVoyage("North Sea");
+    ClickPart("North Sea", "Voyage_AssignShip");
+    QTest::keyClicks(&Box(), "STELLA");
+    const std::string before = desk.Voyage("Baltic feeder").vsn;
+    // Click and command before the event loop turns, as with a slow machine.
+    QTest::mousePress(Tree().viewport(), Qt::LeftButton, {}, QPoint(100, 370));
+    views.Tree().OnItemClicked(RowOf("Baltic feeder"), "Voyage.child.svr10");
+    QApplication::processEvents();
+    EXPECT_EQ(desk.Voyage("North Sea").vsn, "STELLA");
+    EXPECT_EQ(desk.Voyage("Baltic feeder").vsn, before);
 }
 
 }  // namespace Tarvik::Seaplan

@@ -5,8 +5,10 @@
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QTimer>
+#include <utility>
 
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/language/LoadText.h"
@@ -36,6 +38,7 @@ VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new RowField(tree)) {
     list_->setObjectName(QStringLiteral("vesselList"));
     list_->setFocusPolicy(Qt::NoFocus);
     list_->setProperty("dense", true);
+    Skin::SkinWindow(*list_, Skin::ControlClass::ListView, "info.portlistctrl");
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(box_, &QLineEdit::textEdited, this, [this](const QString& text) {
         if (panel_ != nullptr) {
@@ -49,7 +52,7 @@ VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new RowField(tree)) {
     });
     new OutsidePress(
         this, [this](const QWidget& widget) { return BelongsTo(*box_, widget) || BelongsTo(*list_, widget); },
-        [this] { OnPressedOutside(); }, [this] { OnReleased(); });
+        [this] { OnPressedOutside(); }, [this] { OnReleased(); }, Qt::LeftButton);
     ApplySkin();
 }
 
@@ -113,6 +116,10 @@ void VesselBox::HideList() {
 
 bool VesselBox::ListVisible() const {
     return list_->isVisible();
+}
+
+void VesselBox::Later(std::function<void()> act) {
+    QTimer::singleShot(0, this, std::move(act));
 }
 
 void VesselBox::OnPressedOutside() {

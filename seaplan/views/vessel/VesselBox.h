@@ -31,6 +31,7 @@ class VesselBox final : public QObject, public VesselView {
     void SelectRow(int row) override;
     void HideList() override;
     bool ListVisible() const override;
+    void Later(std::function<void()> act) override;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
