@@ -13,7 +13,9 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr const char16_t* kMissing = u"_TRV_LOAD_STRING_ERRRES";
-constexpr std::size_t kCapacity = 4096;
+/// UTF-16 units of a text, its end included: of one that a panel asks for, and of a control's own.
+constexpr std::size_t kTextCapacity = 4096;
+constexpr std::size_t kControlCapacity = 2048;
 
 struct TableEntry {
     int number;
@@ -40,8 +42,9 @@ const char* TextKeyOf(int number) {
 namespace {
 
 /// The text of a key; false, with `out` as it was, when the language file lacks it.
+template <std::size_t capacity>
 bool Find(std::string& out, const char* key) {
-    std::array<char16_t, kCapacity> buffer{};
+    std::array<char16_t, capacity> buffer{};
     Interface::TrvLoadString(kTextSection, kTextSection,
                              Util::StringUtl::TranslateString(std::string(key)).c_str(), buffer.data(),
                              kMissing, buffer.size());
@@ -58,12 +61,12 @@ bool Find(std::string& out, const char* key) {
 bool LoadText(std::string& out, int number, const std::string& fallback) {
     out = fallback;
     const char* key = TextKeyOf(number);
-    return key != nullptr && Find(out, key);
+    return key != nullptr && Find<kTextCapacity>(out, key);
 }
 
 std::string TextOfKey(const char* key) {
     std::string text;
-    Find(text, key);
+    Find<kControlCapacity>(text, key);
     return text;
 }
 

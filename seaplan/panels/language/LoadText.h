@@ -20,7 +20,8 @@ bool LoadText(std::string& out, int number, const std::string& fallback);
 std::string Text(TextId id);
 /// The same with "%1", "%2" and on replaced by these values.
 std::string Text(TextId id, const std::vector<std::string>& values);
-/// The same by the key itself, as "IDS_PORTCALL_PORT".
+/// The text of a control or of a column's title by its key, as "IDS_PORTCALL_PORT": at most 2047 UTF-16
+/// units, empty when the language file lacks the key.
 std::string TextOfKey(const char* key);
 
 }  // namespace Tarvik::Seaplan

@@ -15,6 +15,8 @@ namespace {
 
 constexpr Rect kToggledPlace{150, 240, 460, 700};
 constexpr Rect kServicePlace{250, 240, 560, 700};
+/// Of a language file without a title.
+constexpr const char* kTitle = "VoyageManager";
 constexpr const char* kHelpTopic = "func033";
 
 }  // namespace
@@ -79,7 +81,9 @@ void SeaplanViewDlg::Hide() {
 void SeaplanViewDlg::ApplyLanguage() {
     p_.tree.ApplyLanguage();
     filter_.ApplyLanguage();
-    p_.window.SetCaption(Text(TextIds::IDS_TREE_VOYTITLE), false);
+    std::string title;
+    LoadText(title, static_cast<int>(TextIds::IDS_TREE_VOYTITLE), kTitle);
+    p_.window.SetCaption(title, false);
     p_.window.ApplyTexts();
 }
 

@@ -28,4 +28,11 @@ TEST(LoadText, AKeyThatTheLanguageLacksGivesTheFallback) {
     EXPECT_EQ(Text(TextIds::IDS_TREE_VOYTITLE), "");
 }
 
+TEST(LoadText, APanelsTextMayBeTwiceAsLongAsAControls) {
+    KeyTexts texts;
+    texts.given[u"IDS_TREE_VOYTITLE"] = std::u16string(5000, u'a');
+    EXPECT_EQ(Text(TextIds::IDS_TREE_VOYTITLE).size(), 4095U);
+    EXPECT_EQ(TextOfKey("IDS_TREE_VOYTITLE").size(), 2047U);
+}
+
 }  // namespace Tarvik::Seaplan

@@ -6,6 +6,7 @@
 
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/texts/BookTexts.h"
@@ -44,6 +45,13 @@ BookHead::BookHead(QWidget* parent) : QWidget(parent), undo_(new UndoButtons(thi
             row->addSpacing(2 * Skin::kGrid);
         }
         buttons_.at(static_cast<std::size_t>(part)) = made;
+    }
+    const std::pair<Part, const char*> skins[] = {{Save, "trv_btn_59"},
+                                                  {Cancel, "position_cancelBtn"},
+                                                  {Insert, "VoyInsertBtn"},
+                                                  {Remove, "trv_voyage_btn"}};
+    for (const auto& [part, skin] : skins) {
+        Skin::SkinWindow(*buttons_.at(part), Skin::ControlClass::PushButton, skin);
     }
     buttons_[Save]->setProperty("primary", true);
     row->addStretch(1);

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/panels/book/CPosBookDlg.h"
@@ -31,6 +32,8 @@ BookWindow::BookWindow(QWidget* mainView)
     AddHelpAndClose();
     head_ = new BookHead(this);
     table_ = new PanelTable(this, "positionBookTable", BookSheet::kLeastLines);
+    SkinPanel("TRV_PositionDlg", 1, "Caption_static");
+    Skin::SkinWindow(*table_, Skin::ControlClass::ListView, "VoyagePositionList");
     SkinTable(*table_);
     foot_ = new BookFoot(this);
     editors_ = new BookEditors(*this, *table_);

@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/SkinNames.h>
 
 #include "seaplan/panels/bunker/CBunkerDlg.h"
 #include "seaplan/panels/texts/CommonTexts.h"
@@ -21,6 +21,9 @@ namespace {
 
 constexpr int kFieldWidth = 60;
 constexpr int kLettersTyped = 128;
+/// Of a language file without these texts.
+constexpr const char* kSaveText = "保存";
+constexpr const char* kUndoText = "<==";
 
 struct FigureField {
     const char* name;
@@ -53,7 +56,10 @@ constexpr std::array<FigureRow, 3> kRows = {{{TextIds::IDC_BK_T_FO, TextIds::IDC
 BunkerWindow::BunkerWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("bunkerPanel"),
                  {TextIds::IDC_BK_BT_HELP, TextIds::IDC_BK_BT_CLOSE}) {
+    SkinPanel("TRV_BurnDlg", 1, "Caption_static");
     AddHelpAndClose();
+    TieText(*this, TextIds::IDC_BK_T_TITLE);
+    TieText(*findChild<QLabel*>(QStringLiteral("captionLabel")), TextIds::IDC_BK_T_TITLE);
     MakeRows();
     MakeButtons();
     ApplySkin();
@@ -71,13 +77,16 @@ void BunkerWindow::MakeRows() {
         auto* unit = new QLabel(this);
         TieText(*unit, kRows[i].unit);
         unit->setProperty("secondary", true);
+        for (QLabel* text : {label, unit}) {
+            Skin::SkinWindow(*text, Skin::ControlClass::StaticText, "static_font11");
+        }
         grid->addWidget(label, static_cast<int>(i), 0);
         grid->addWidget(unit, static_cast<int>(i), 4);
     }
     for (std::size_t i = 0; i < kFields.size(); ++i) {
         auto* field = new QLineEdit(this);
         field->setObjectName(QString::fromLatin1(kFields[i].name));
-        field->setProperty("field", true);
+        Skin::SkinWindow(*field, Skin::ControlClass::EditField, "trv_edit_60");
         field->setFixedSize(kFieldWidth, Skin::kControlHeight);
         field->setAlignment(Qt::AlignRight);
         field->setMaxLength(kLettersTyped);
@@ -92,10 +101,14 @@ void BunkerWindow::MakeButtons() {
     undo_->setObjectName(QStringLiteral("undoFiguresButton"));
     undo_->setFixedSize(Skin::kControlHeight + 2, Skin::kControlHeight);
     undo_->setFocusPolicy(Qt::TabFocus);
+    TieText(*undo_, TextIds::IDC_BK_BT_CANCEL);
+    Skin::SkinWindow(*undo_, Skin::ControlClass::PushButton, "position_cancelBtn");
     TieKey(*undo_, QKeySequence(Qt::CTRL | Qt::Key_R));
     save_ = new QPushButton(this);
     save_->setObjectName(QStringLiteral("saveFiguresButton"));
     TieText(*save_, TextIds::IDC_BK_BT_SAVE);
+    TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
+    Skin::SkinWindow(*save_, Skin::ControlClass::PushButton, "trv_btn_59");
     save_->setProperty("primary", true);
     save_->setAutoDefault(false);
     save_->setFocusPolicy(Qt::TabFocus);
@@ -161,8 +174,8 @@ void BunkerWindow::ShowState(bool dirty, bool editable) {
     editable_ = editable;
     undo_->setEnabled(dirty);
     save_->setEnabled(dirty);
-    Skin::Describe(undo_, ViewText(TextIds::IDC_BK_BT_CANCEL));
-    Skin::Describe(save_, ViewText(TextIds::IDC_BK_BT_SAVE));
+    Skin::Describe(undo_, undo_->text());
+    Skin::Describe(save_, save_->text());
     if (!dirty) {
         const QString why = QStringLiteral(": ") + ViewText(TextIds::IDS_VIEW_NOCHANGES);
         undo_->setToolTip(undo_->toolTip() + why);
@@ -179,15 +192,16 @@ void BunkerWindow::ShowState(bool dirty, bool editable) {
 
 void BunkerWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
-    // A new text takes the button's shortcut away; the hint tells it.
-    TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
+    if (save_->text().isEmpty()) {
+        save_->setText(QString::fromUtf8(kSaveText));
+        TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
+    }
+    if (undo_->text().isEmpty()) {
+        undo_->setText(QString::fromLatin1(kUndoText));
+        TieKey(*undo_, QKeySequence(Qt::CTRL | Qt::Key_R));
+    }
     ShowState(dirty_, editable_);
     adjustSize();
-}
-
-void BunkerWindow::ApplySkin() {
-    Skin::ToolWindow::ApplySkin();
-    undo_->setIcon(Skin::MakeIcon("recover"));
 }
 
 void BunkerWindow::FocusFirst() {

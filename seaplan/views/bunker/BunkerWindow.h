@@ -22,7 +22,6 @@ class BunkerWindow final : public PanelFrame<BunkerView> {
 
     void ShowFigures(const BunkerFigures& figures) override;
     void ShowState(bool dirty, bool editable) override;
-    void ApplySkin() override;
 
   protected:
     void ApplyClassTexts(QWidget& window) override;

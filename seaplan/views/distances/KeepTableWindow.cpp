@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <tarvik/skin/Icons.h>
+#include <tarvik/skin/SkinNames.h>
 
 #include "seaplan/panels/distances/CPortDistTabDlg.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
@@ -26,7 +26,6 @@ constexpr int kButtonWidth = 76;
 QLineEdit* MakeField(QWidget* window, const char* name, int width) {
     auto* field = new QLineEdit(window);
     field->setObjectName(QString::fromLatin1(name));
-    field->setProperty("field", true);
     field->setFixedSize(width, Skin::kControlHeight);
     return field;
 }
@@ -34,6 +33,7 @@ QLineEdit* MakeField(QWidget* window, const char* name, int width) {
 QLabel* MakeLabel(QWidget* window, TextId text) {
     auto* label = new QLabel(window);
     TieText(*label, text);
+    Skin::SkinWindow(*label, Skin::ControlClass::StaticText, "VoyPortCallStatic");
     return label;
 }
 
@@ -42,6 +42,7 @@ QLabel* MakeLabel(QWidget* window, TextId text) {
 KeepTableWindow::KeepTableWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("keepTableDialog"),
                  {TextIds::IDS_PORTCALL_HELP, TextIds::IDS_PORTCALL_CLOSE}) {
+    SkinPanel("TRV_PortDistSaveDlg", 1, "Caption_static");
     AddClose();
     MakeFields();
     MakeButtons();
@@ -65,6 +66,9 @@ void KeepTableWindow::MakeFields() {
     arrow_->setFixedSize(Skin::kControlHeight, Skin::kControlHeight);
     arrow_->setFocusPolicy(Qt::NoFocus);
     voyage_ = MakeField(this, "voyageField", kFieldWidth);
+    Skin::SkinWindow(*category_, Skin::ControlClass::EditField, "TRV_PortDistSaveDlg.CateEdit", 1);
+    Skin::SkinWindow(*voyage_, Skin::ControlClass::EditField, "TRV_PortDistSaveDlg.VoyEdit");
+    Skin::SkinWindow(*arrow_, Skin::ControlClass::PushButton, "TRV_PortDistSaveDlg.CateList");
     note_ = new QLabel(this);
     note_->setObjectName(QStringLiteral("keepNote"));
     note_->setWordWrap(true);
@@ -96,6 +100,7 @@ void KeepTableWindow::MakeButtons() {
     row->setSpacing(2 * Skin::kGrid);
     row->addStretch(1);
     for (QPushButton* button : {ok_, cancel_}) {
+        Skin::SkinWindow(*button, Skin::ControlClass::PushButton, "trv_btn_59");
         button->setAutoDefault(false);
         button->setFocusPolicy(Qt::TabFocus);
         button->setMinimumWidth(kButtonWidth);
@@ -183,7 +188,6 @@ void KeepTableWindow::ApplyClassTexts(QWidget& /*window*/) {
 
 void KeepTableWindow::ApplySkin() {
     Skin::ToolWindow::ApplySkin();
-    arrow_->setIcon(Skin::MakeIcon("chevron-down"));
     list_->setStyleSheet(Skin::StyleSheet());
 }
 

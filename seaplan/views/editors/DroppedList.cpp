@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include <tarvik/skin/SkinNames.h>
+
 namespace Tarvik::Seaplan {
 
 void FillList(QListWidget& list, const std::vector<std::string>& texts, int current) {
@@ -16,6 +18,7 @@ void FillList(QListWidget& list, const std::vector<std::string>& texts, int curr
 DroppedList::DroppedList(QWidget& window, QWidget& home, const char* name)
     : QListWidget(&window), window_(window), home_(home) {
     setObjectName(QString::fromLatin1(name));
+    Skin::SkinWindow(*this, Skin::ControlClass::ListView, "info.portlistctrl");
     hide();
 }
 

@@ -6,13 +6,17 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <tarvik/skin/SkinNames.h>
+
 namespace Tarvik::Seaplan {
 
 /// A field that opens over a row of a table or a tree. A key that it has no use for goes no further: to the
 /// rows below it the same key means another row, a new one or the end of this one.
 class RowField : public QLineEdit {
   public:
-    using QLineEdit::QLineEdit;
+    explicit RowField(QWidget* surface) : QLineEdit(surface) {
+        Skin::SkinWindow(*this, Skin::ControlClass::EditField, "voyageEdit");
+    }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {

@@ -8,6 +8,7 @@
 
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/views/window/ViewText.h"
@@ -43,6 +44,10 @@ UnitFigures::Figure UnitFigures::MakeFigure(const Look& look, int valueWidth) {
     figure.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     figure.unit = new QToolButton(this);
     figure.unit->setObjectName(QString::fromLatin1(look.name) + QStringLiteral("Unit"));
+    for (QLabel* text : {figure.caption, figure.value}) {
+        Skin::SkinWindow(*text, Skin::ControlClass::StaticText, "VoyPortCallStatic");
+    }
+    Skin::SkinWindow(*figure.unit, Skin::ControlClass::PushButton, "trv_down_arrow_btn");
     figure.unit->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     // The arrow stands behind the unit.
     figure.unit->setLayoutDirection(Qt::RightToLeft);

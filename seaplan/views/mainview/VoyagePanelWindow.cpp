@@ -15,10 +15,11 @@ namespace Tarvik::Seaplan {
 
 VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("voyagePanel"), {TextIds::IDS_VOY_HELP, TextIds::IDS_TREE_CLOSE}) {
+    SkinPanel("flt.leftmaindlg", 1, "Caption_static");
     findButton_ = AddCaptionButton("findButton", "search");
     TieKey(*findButton_, QKeySequence(Qt::CTRL | Qt::Key_F));
-    filterButton_ = AddCaptionButton("filterButton", "filter");
-    addButton_ = AddCaptionButton("addCategoryButton", "add");
+    filterButton_ = AddSkinButton("filterButton", "flt.btn.viewset");
+    addButton_ = AddSkinButton("addCategoryButton", "Voyage_addvoyage");
     TieKey(*addButton_, QKeySequence(Qt::CTRL | Qt::Key_N));
     AddHelpAndClose();
     tree_ = new VoyageTreeView(this);

@@ -7,6 +7,7 @@
 
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/texts/CommonTexts.h"
@@ -26,7 +27,11 @@ PortCallButtons::PortCallButtons(QWidget* parent)
     book_->setObjectName(QStringLiteral("positionBookButton"));
     calculate_->setObjectName(QStringLiteral("calculateButton"));
     TieText(*book_, TextIds::IDS_PORTCALL_POSTBOOK);
-    calculate_->setProperty("primary", true);
+    TieKey(*book_, QKeySequence(Qt::CTRL | Qt::Key_B));
+    Skin::SkinWindow(*save_, Skin::ControlClass::PushButton, "VoySaveBtn");
+    Skin::SkinWindow(*clear_, Skin::ControlClass::PushButton, "VoyDelAllBtn");
+    Skin::SkinWindow(*calculate_, Skin::ControlClass::PushButton, "VoyCalculateBtn");
+    Skin::SkinWindow(*book_, Skin::ControlClass::PushButton, "VoyPostionBookBtn");
     for (QPushButton* button : {book_, calculate_}) {
         button->setAutoDefault(false);
         button->setFocusPolicy(Qt::TabFocus);
@@ -77,11 +82,6 @@ void PortCallButtons::ShowState(const PortCallState& state) {
     Set(clear_, state.canClear, TextIds::IDS_PORTCALL_CLEAR, TextIds::IDS_VIEW_CLEAROFF);
     Set(calculate_, state.canCalculate, TextIds::IDS_PORTCALL_COMPUTE, TextIds::IDS_VIEW_NEEDTWOPORTS);
     Set(book_, state.canOpenBook, TextIds::IDS_PORTCALL_POSTBOOK, TextIds::IDS_VIEW_BOOKNEEDSVOYAGE);
-}
-
-void PortCallButtons::ApplyTexts() {
-    // A new text takes the button's shortcut away.
-    TieKey(*book_, QKeySequence(Qt::CTRL | Qt::Key_B));
 }
 
 void PortCallButtons::ApplySkin() {

@@ -31,8 +31,6 @@ class PortCallButtons final : public QWidget {
     void SetReports(const Reports& reports);
     void ShowState(const PortCallState& state);
     void ShowEdits(const UndoTexts& edits) { undo_->ShowTexts(edits); }
-    /// Behind a new text of a button.
-    void ApplyTexts();
     void ApplySkin();
 
   private:

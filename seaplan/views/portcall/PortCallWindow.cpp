@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QVBoxLayout>
 
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
@@ -25,6 +26,8 @@ PortCallWindow::PortCallWindow(QWidget* mainView)
                  {TextIds::IDS_PORTCALL_HELP, TextIds::IDS_PORTCALL_CLOSE}) {
     AddHelpAndClose();
     table_ = new PanelTable(this, "portCallTable", kLeastLines);
+    SkinPanel("TRV_portCallDlg", 0, "Caption_static");
+    Skin::SkinWindow(*table_, Skin::ControlClass::ListView, "VoyageDemoList");
     summary_ = new PortCallSummary(this);
     buttons_ = new PortCallButtons(this);
     note_ = new QLabel(this);
@@ -86,7 +89,6 @@ void PortCallWindow::ShowState(const PortCallState& state) {
 void PortCallWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
     table_->setAccessibleName(ViewText(TextIds::IDS_VIEW_TABLE));
-    buttons_->ApplyTexts();
     summary_->ApplyTexts();
     editors_->ApplyTexts();
     ShowState(state_);

@@ -13,6 +13,7 @@
 #include <QtMath>
 
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/SkinNames.h>
 
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/NoteTexts.h"
@@ -82,7 +83,7 @@ std::vector<SubItem> LayOutRemark(const RemarkRow& row, const QRect& place, cons
 
 RemarkListView::RemarkListView(QWidget* parent) : QListView(parent), model_(new QStandardItemModel(this)) {
     setObjectName(QStringLiteral("remarkList"));
-    setProperty("caption", true);
+    Skin::SkinWindow(*this, Skin::ControlClass::ListView, "flt.list.remark");
     setModel(model_);
     setItemDelegate(new RemarkDelegate(this));
     setUniformItemSizes(true);

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <tarvik/skin/Icons.h>
+#include <tarvik/skin/SkinNames.h>
 
 #include "seaplan/panels/remark/CRemarkPanel.h"
 #include "seaplan/panels/texts/CommonTexts.h"
@@ -31,6 +32,7 @@ QLabel* TitleOf(const QWidget& window) {
 
 RemarkWindow::RemarkWindow(QWidget* mainView, const QString& name)
     : PanelFrame(mainView, name, {TextIds::IDC_BT_HELP2, TextIds::IDC_BT_CLOSE2}) {
+    SkinPanel("flt.fleetrremarkdlg", 1, "trv.static.title");
     AddHelpAndClose();
     list_ = new RemarkListView(this);
     auto* columns = new QHBoxLayout;
@@ -48,10 +50,11 @@ QWidget* RemarkWindow::MakeFields() {
     auto* fields = new QWidget(this);
     subject_ = new QLineEdit(fields);
     subject_->setObjectName(QStringLiteral("remarkSubject"));
-    subject_->setProperty("field", true);
+    Skin::SkinWindow(*subject_, Skin::ControlClass::EditField, "flt.edit_292");
     subject_->setFixedSize(kFieldWidth, Skin::kControlHeight);
     body_ = new QPlainTextEdit(fields);
     body_->setObjectName(QStringLiteral("remarkBody"));
+    Skin::SkinWindow(*body_, Skin::ControlClass::EditField, "flt.edit_292_278");
     body_->setTabChangesFocus(true);
     body_->setFixedWidth(kFieldWidth);
     body_->setMinimumHeight(kBodyHeight);
@@ -75,11 +78,17 @@ QToolButton* RemarkWindow::MakeTool(const char* name, const QKeySequence& key) {
 QWidget* RemarkWindow::MakeButtons() {
     auto* buttons = new QWidget(this);
     add_ = MakeTool("addRemarkButton", QKeySequence(Qt::CTRL | Qt::Key_N));
+    TieText(*add_, TextIds::IDC_BTN_ADD);
+    Skin::SkinWindow(*add_, Skin::ControlClass::PushButton, "flt.btn.add");
     sort_ = MakeTool("sortRemarksButton", QKeySequence(Qt::CTRL | Qt::Key_R));
+    TieText(*sort_, TextIds::IDC_BTN_SORT);
+    Skin::SkinWindow(*sort_, Skin::ControlClass::PushButton, "flt.btn.sort");
     sort_->setCheckable(true);
     save_ = new QPushButton(this);
     save_->setObjectName(QStringLiteral("saveRemarkButton"));
     TieText(*save_, TextIds::IDS_VIEW_REMARKSAVE);
+    TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
+    Skin::SkinWindow(*save_, Skin::ControlClass::PushButton, "trv_btn_59");
     save_->setProperty("primary", true);
     save_->setAutoDefault(false);
     save_->setFocusPolicy(Qt::TabFocus);
@@ -181,14 +190,11 @@ void RemarkWindow::ApplyClassTexts(QWidget& /*window*/) {
     subject_->setPlaceholderText(ViewText(TextIds::IDS_VIEW_REMARKSUBJECT));
     Skin::Describe(body_, ViewText(TextIds::IDS_VIEW_REMARKBODY));
     body_->setPlaceholderText(ViewText(TextIds::IDS_VIEW_REMARKBODY));
-    // A new text takes the button's shortcut away; the hint tells it.
-    TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
     ShowState(state_);
 }
 
 void RemarkWindow::ApplySkin() {
     Skin::ToolWindow::ApplySkin();
-    add_->setIcon(Skin::MakeIcon("add"));
     ShowState(state_);
     list_->viewport()->update();
 }

@@ -14,6 +14,7 @@
 
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/views/window/ChoiceBox.h"
 #include "seaplan/views/window/DialogTexts.h"
 
 namespace Tarvik::Seaplan {
@@ -99,6 +100,32 @@ TEST(DialogTextsTest, AKeyThatTheLanguageLacksBlanksTheControl) {
     words.words.clear();
     DialogTexts().ApplyLanguage(window);
     EXPECT_EQ(button->text(), "");
+}
+
+TEST(DialogTextsTest, AButtonKeepsItsKeyOverANewText) {
+    const FewWords words;
+    QWidget window;
+    auto* button = new QPushButton("old", &window);
+    TieText(*button, TextIds::IDS_PORTCALL_POSTBOOK);
+    TieKey(*button, QKeySequence(Qt::CTRL | Qt::Key_B));
+    DialogTexts().ApplyLanguage(window);
+    EXPECT_EQ(button->text(), "Book");
+    EXPECT_EQ(button->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_B));
+}
+
+TEST(DialogTextsTest, APopupOfChoicesTakesItsTextsByTheChain) {
+    FewWords words;
+    words.words["IDS_VOY_SORTBYNAME"] = u"Name";
+    ChoiceBox box(nullptr, ChoiceBox::Kind::Radios, nullptr, {{TextIds::IDS_VOY_SORTBYNAME, "byName"}});
+    box.SetChoices({{TextIds::IDS_VOY_SORTBYNAME, true}});
+    auto* button = box.findChild<QAbstractButton*>("byName");
+    EXPECT_EQ(button->text(), "Name");
+    EXPECT_EQ(button->accessibleName(), "Name");
+    words.words["IDS_VOY_SORTBYNAME"] = u"Nom";
+    box.ApplyLanguage(box);
+    EXPECT_EQ(button->text(), "Nom") << "hidden, and told by its number alone";
+    EXPECT_EQ(button->accessibleName(), "Nom");
+    EXPECT_TRUE(button->isChecked());
 }
 
 TEST(DialogTextsTest, MenusAreWalkedIntoTheirSubMenus) {

@@ -9,15 +9,15 @@
 #include <utility>
 
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
-
-#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 
 ChoiceBox::ChoiceBox(QWidget* parent, Kind kind, QWidget* anchor, std::map<TextId, const char*> names)
     : QFrame(parent, Qt::Popup), kind_(kind), anchor_(anchor), names_(std::move(names)) {
     setObjectName(QStringLiteral("popup"));
+    Skin::SkinWindow(*this, Skin::ControlClass::Dialog, "flt.filter_sortDlg", 1);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(8, 4, 8, 4);
     rows->setSpacing(2);
@@ -35,9 +35,12 @@ QAbstractButton* ChoiceBox::ButtonOf(TextId id) {
     }
     if (kind_ == Kind::Checks) {
         button = new QCheckBox(this);
+        Skin::SkinWindow(*button, Skin::ControlClass::CheckBox, "trv_check_white");
     } else {
         button = new QRadioButton(this);
+        Skin::SkinWindow(*button, Skin::ControlClass::RadioButton, "trv_radio");
     }
+    TieText(*button, id);
     const auto name = names_.find(id);
     button->setObjectName(name == names_.end() ? QString() : QString::fromLatin1(name->second));
     layout()->addWidget(button);
@@ -52,14 +55,19 @@ QAbstractButton* ChoiceBox::ButtonOf(TextId id) {
 void ChoiceBox::SetChoices(const std::vector<Choice>& choices) {
     for (const Choice& choice : choices) {
         QAbstractButton* button = ButtonOf(choice.id);
-        button->setText(ViewText(choice.id));
-        Skin::Describe(button, button->text());
         // Radio buttons would keep one of them ticked.
         button->setAutoExclusive(false);
         button->setChecked(choice.ticked);
     }
     for (const auto& [id, button] : buttons_) {
         button->setAutoExclusive(kind_ == Kind::Radios);
+    }
+    ApplyLanguage(*this);
+}
+
+void ChoiceBox::ApplyClassTexts(QWidget& /*window*/) {
+    for (const auto& [id, button] : buttons_) {
+        Skin::Describe(button, button->text());
     }
 }
 

@@ -8,11 +8,12 @@
 #include <vector>
 
 #include "seaplan/panels/window/ChoicePopup.h"
+#include "seaplan/views/window/DialogTexts.h"
 
 namespace Tarvik::Seaplan {
 
 /// A popup of check or radio buttons.
-class ChoiceBox final : public QFrame, public ChoicePopup {
+class ChoiceBox final : public QFrame, public ChoicePopup, public DialogTexts {
   public:
     enum class Kind { Checks, Radios };
     /// Opens below `anchor`, one pixel apart, or at the pointer without one. `names` are the object names of
@@ -28,6 +29,7 @@ class ChoiceBox final : public QFrame, public ChoicePopup {
     bool IsVisible() const override { return isVisible(); }
 
   protected:
+    void ApplyClassTexts(QWidget& window) override;
     /// A press on the anchor closes the box and goes no further, or it would open it again.
     void mousePressEvent(QMouseEvent* event) override;
 

@@ -21,6 +21,17 @@ std::optional<QString> TiedText(const QObject& object) {
     return key == nullptr ? std::nullopt : std::optional(QString::fromStdString(TextOfKey(key)));
 }
 
+/// Labels, buttons and boxes of this window system keep what they show in a property of this name. A new text
+/// takes a button's key away, which it gets back.
+void PutText(QWidget& control, const QString& text) {
+    auto* button = qobject_cast<QAbstractButton*>(&control);
+    const QKeySequence key = button == nullptr ? QKeySequence() : button->shortcut();
+    control.setProperty("text", text);
+    if (!key.isEmpty()) {
+        button->setShortcut(key);
+    }
+}
+
 /// Entries keep their places; a sub-menu's own title is the text of its entry.
 void ApplyTo(const QList<QAction*>& entries) {
     for (QAction* entry : entries) {
@@ -62,10 +73,9 @@ void DialogTexts::ApplyDialogTexts(QWidget& window) {
     if (const auto title = TiedText(window)) {
         window.setWindowTitle(*title);
     }
-    // Labels, buttons and boxes of this window system keep what they show in a property of this name.
     for (QWidget* child : window.findChildren<QWidget*>()) {
         if (const auto text = TiedText(*child)) {
-            child->setProperty("text", *text);
+            PutText(*child, *text);
         }
     }
 }

@@ -13,7 +13,8 @@ namespace Tarvik::Seaplan {
 /// it. A control that is not tied keeps the text that it was made with.
 void TieText(QWidget& control, TextId id);
 
-/// The key of a button, which acts in the moment that it is pressed, and each time. A new text takes it away.
+/// The key of a button, which acts in the moment that it is pressed, and each time. A text that is set
+/// directly takes it away; the chain keeps it.
 void TieKey(QAbstractButton& button, const QKeySequence& key);
 
 /// How a window takes its texts: a chain of five operations, run when the window is made and after each

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <algorithm>
 
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/WindowMessages.h>
 
 #include "seaplan/panels/texts/CommonTexts.h"
@@ -31,8 +32,25 @@ Point KeptOnScreen(Point corner, const QSize& size) {
 FloatingPanel::FloatingPanel(QWidget* mainView, const QString& name, const Hints& hints)
     : Skin::ToolWindow(mainView, name), hints_(hints) {}
 
+void FloatingPanel::SkinPanel(const char* dialog, int flag, const char* title) {
+    Skin::SkinWindow(*this, Skin::ControlClass::Dialog, dialog, flag);
+    const std::pair<const char*, const char*> labels[] = {{"captionLabel", title},
+                                                          {"changedMark", "Caption_static"}};
+    for (const auto& [name, skin] : labels) {
+        Skin::SkinWindow(*findChild<QLabel*>(QString::fromLatin1(name)), Skin::ControlClass::StaticText,
+                         skin);
+    }
+}
+
+QToolButton* FloatingPanel::AddSkinButton(const char* name, const char* skin) {
+    QToolButton* button = AddCaptionButton(name, {});
+    Skin::SkinWindow(*button, Skin::ControlClass::PushButton, skin);
+    return button;
+}
+
 void FloatingPanel::AddHelpAndClose() {
-    help_ = AddCaptionButton("helpButton", "help");
+    help_ = AddSkinButton("helpButton", "trv_help_btn");
+    TieText(*help_, hints_.help);
     TieKey(*help_, QKeySequence(Qt::Key_F1));
     QObject::connect(help_, &QToolButton::clicked, this, [this] {
         if (reports_.help) {
@@ -43,7 +61,8 @@ void FloatingPanel::AddHelpAndClose() {
 }
 
 void FloatingPanel::AddClose() {
-    close_ = AddCaptionButton("closeButton", "close");
+    close_ = AddSkinButton("closeButton", "trv_close_btn");
+    TieText(*close_, hints_.close);
     TieKey(*close_, QKeySequence(Qt::CTRL | Qt::Key_W));
     QObject::connect(close_, &QToolButton::clicked, this, [this] { CloseAsked(); });
 }

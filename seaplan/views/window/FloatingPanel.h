@@ -47,6 +47,10 @@ class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
     void Enable(bool enabled);
 
   protected:
+    /// Ties the window and its title to their looks.
+    void SkinPanel(const char* dialog, int flag, const char* title);
+    /// A button of the caption with the look of this name.
+    QToolButton* AddSkinButton(const char* name, const char* skin);
     /// Called by a panel behind its own caption buttons; a small dialog has no help.
     void AddHelpAndClose();
     void AddClose();
