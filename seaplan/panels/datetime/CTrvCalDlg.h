@@ -72,6 +72,9 @@ class CTrvDateTimeCtrl {
     void SetFormat(const std::string& format);
     /// The calendar offers days without a time.
     void SetDateOnly(bool dateOnly) { dateOnly_ = dateOnly; }
+    /// The button's look: 0, as at first, a date with its time, anything else the time of a track. It counts
+    /// until the button is made.
+    void SetTimeStyle(int timeStyle) { view_.SetTimeStyle(timeStyle); }
     /// The text on the button.
     std::string Text() const;
     /// Closes the calendar without a choice.

@@ -50,6 +50,8 @@ class DateTimeView {
   public:
     virtual ~DateTimeView() = default;
     virtual void ShowText(const std::string& text) = 0;
+    /// Which look the button gets when it is made: 0 a date with its time, anything else the time of a track.
+    virtual void SetTimeStyle(int timeStyle) = 0;
     virtual Rect PlaceOnScreen() const = 0;
     /// What drops from the button.
     virtual CalendarView& Calendar() = 0;

@@ -26,6 +26,8 @@ class RecordingCalendar final : public CalendarView, public DateTimeView {
         ++closed;
     }
     void ShowText(const std::string& shown) override { text = shown; }
+    int timeStyle = 0;
+    void SetTimeStyle(int style) override { timeStyle = style; }
     Rect PlaceOnScreen() const override { return button; }
     CalendarView& Calendar() override { return *this; }
 };

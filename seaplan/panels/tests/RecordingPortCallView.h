@@ -93,6 +93,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     void HidePurposes() override { purposeRow = -1; }
     void PutPicker(int, int) override {}
     DateTimeView& Picker() override { return *this; }
+    void SetTimeStyle(int) override {}
     void ShowText(const std::string& text) override { pickerText = text; }
     Rect PlaceOnScreen() const override { return place; }
     CalendarView& Calendar() override { return *this; }

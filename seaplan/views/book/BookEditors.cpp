@@ -46,7 +46,7 @@ void BookEditors::Attach(BookEditing* panel) {
     });
     QObject::connect(choices_, &QListWidget::itemClicked, this,
                      [this](QListWidgetItem* item) { panel_->OnChosen(choices_->row(item)); });
-    date_.Popup().Attach(&panel_->Picker().Calendar());
+    date_.Attach(panel_->Picker());
 }
 
 void BookEditors::ApplyTexts() {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "seaplan/panels/book/BookView.h"
-#include "seaplan/views/datetime/CalendarPopup.h"
+#include "seaplan/views/datetime/DateCell.h"
 #include "seaplan/views/editors/DroppedList.h"
 
 namespace Tarvik::Seaplan {

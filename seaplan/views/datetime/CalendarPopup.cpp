@@ -6,6 +6,7 @@
 
 #include <tarvik/interface/LoadString.h>
 #include <tarvik/skin/Palette.h>
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/texts/CommonTexts.h"
@@ -30,6 +31,7 @@ QString HostLabel(const char16_t* key, const char16_t* fallback) {
 CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     setObjectName(QStringLiteral("calendarPopup"));
     setFrameShape(QFrame::Box);
+    Skin::SkinWindow(*this, Skin::ControlClass::Dialog, "Trv_DateDlg");
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(8, 8, 8, 8);
     rows->setSpacing(4);
@@ -46,18 +48,23 @@ QLayout* CalendarPopup::MakeHead() {
     struct Named {
         const char* name;
         const char* label;
+        const char* skin;
     };
-    constexpr Named kSteps[] = {
-        {"previousYear", "<<"}, {"previousMonth", "<"}, {"nextMonth", ">"}, {"nextYear", ">>"}};
+    constexpr Named kSteps[] = {{"previousYear", "<<", "Date_year_prev"},
+                                {"previousMonth", "<", "Date_month_prev"},
+                                {"nextMonth", ">", "Date_month_next"},
+                                {"nextYear", ">>", "Date_year_next"}};
     auto* head = new QHBoxLayout();
     for (std::size_t i = 0; i < steps_.size(); ++i) {
         steps_[i] = new QToolButton(this);
         steps_[i]->setObjectName(QString::fromLatin1(kSteps[i].name));
         steps_[i]->setText(QString::fromLatin1(kSteps[i].label));
+        Skin::SkinWindow(*steps_[i], Skin::ControlClass::PushButton, kSteps[i].skin);
     }
     heading_ = new QLabel(this);
     heading_->setObjectName(QStringLiteral("calendarHeading"));
     heading_->setAlignment(Qt::AlignCenter);
+    Skin::SkinWindow(*heading_, Skin::ControlClass::StaticText, "trv_date_13");
     head->addWidget(steps_[PreviousYear]);
     head->addWidget(steps_[PreviousMonth]);
     head->addWidget(heading_, 1);
@@ -84,6 +91,9 @@ QLayout* CalendarPopup::MakeButtons() {
     end_.ok->setProperty("primary", true);
     end_.cancel = new QPushButton(this);
     end_.cancel->setObjectName(QStringLiteral("calendarCancel"));
+    for (QPushButton* button : {end_.ok, end_.cancel}) {
+        Skin::SkinWindow(*button, Skin::ControlClass::PushButton, "trv.btn.default");
+    }
     buttons->addStretch(1);
     buttons->addWidget(end_.ok);
     buttons->addWidget(end_.cancel);
@@ -116,6 +126,9 @@ void CalendarPopup::hideEvent(QHideEvent* event) {
     if (panel_ != nullptr) {
         panel_->OnClosed();
     }
+    if (shown_) {
+        shown_(false);
+    }
 }
 
 void CalendarPopup::ShowState(const CalendarState& state) {
@@ -138,6 +151,9 @@ void CalendarPopup::Open(Point corner) {
     adjustSize();
     const Point kept = KeptOnScreen(corner, size());
     move(kept.x, kept.y);
+    if (shown_) {
+        shown_(true);
+    }
     show();
 }
 
@@ -158,19 +174,6 @@ void CalendarPopup::ApplySkin() {
     setStyleSheet(Skin::StyleSheet() +
                   QStringLiteral("#calendarPopup { background: %1; border: 1px solid %2; }")
                       .arg(Skin::Colour(Skin::Role::Panel).name(), Skin::Colour(Skin::Role::Border).name()));
-}
-
-DateCell::DateCell(QWidget& surface, QWidget& window)
-    : surface_(surface), calendar_(new CalendarPopup(&window)) {}
-
-void DateCell::ShowText(const std::string& text) {
-    calendar_->setAccessibleName(QString::fromStdString(text));
-}
-
-Rect DateCell::PlaceOnScreen() const {
-    const QPoint corner = surface_.mapToGlobal(cell_.topLeft());
-    calendar_->SetAnchor({corner, cell_.size()});
-    return {corner.x(), corner.y(), corner.x() + cell_.width(), corner.y() + cell_.height()};
 }
 
 }  // namespace Tarvik::Seaplan

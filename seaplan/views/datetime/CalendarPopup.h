@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <array>
+#include <functional>
+#include <utility>
 
 #include "seaplan/views/datetime/DayGrid.h"
 #include "seaplan/views/datetime/TimeField.h"
@@ -21,6 +23,8 @@ class CalendarPopup final : public QFrame, public CalendarView {
     /// The place on the screen that opens the calendar. A press there closes it and goes no further, or it
     /// would open it again.
     void SetAnchor(const QRect& screen) { anchor_ = screen; }
+    /// Told when the calendar has opened, and when it has closed for whatever reason.
+    void SetShown(std::function<void(bool)> shown) { shown_ = std::move(shown); }
     /// Captions and hints in the language in force.
     void ApplyTexts();
     void ApplySkin();
@@ -53,27 +57,7 @@ class CalendarPopup final : public QFrame, public CalendarView {
     } end_{};
     bool typingHour_ = true;
     QRect anchor_;
-};
-
-/// The cell of a table as the button of a date: it shows the text by itself, and the calendar tells it to
-/// those who cannot see.
-class DateCell final : public DateTimeView {
-  public:
-    /// `surface` is what cells are counted on, `window` owns the calendar.
-    DateCell(QWidget& surface, QWidget& window);
-    /// The cell that is the button from now on.
-    void Put(const QRect& cell) { cell_ = cell; }
-    CalendarPopup& Popup() { return *calendar_; }
-    const CalendarPopup& Popup() const { return *calendar_; }
-
-    void ShowText(const std::string& text) override;
-    Rect PlaceOnScreen() const override;
-    CalendarView& Calendar() override { return *calendar_; }
-
-  private:
-    QWidget& surface_;
-    CalendarPopup* calendar_;
-    QRect cell_;
+    std::function<void(bool)> shown_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -3,8 +3,8 @@
 
 #include <QButtonGroup>
 #include <QLabel>
-#include <QStyle>
 
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
 namespace Tarvik::Seaplan {
@@ -17,13 +17,13 @@ constexpr int kColumns = 7;
 const char* StyleOf(CalendarModel::CellLook look) {
     switch (look) {
         case CalendarModel::CellLook::Today:
-            return "today";
+            return "DateToday";
         case CalendarModel::CellLook::InMonth:
-            return "inside";
+            return "DateInMonth";
         case CalendarModel::CellLook::OutsideMonth:
             break;
     }
-    return "outside";
+    return "DateOutMonth";
 }
 
 }  // namespace
@@ -33,7 +33,7 @@ DayGrid::DayGrid(QWidget* calendar) {
     for (int column = 0; column < kColumns; ++column) {
         auto* day = new QLabel(QString::fromLatin1(kWeekDays[column]), calendar);
         day->setAlignment(Qt::AlignCenter);
-        day->setProperty("secondary", true);
+        Skin::SkinWindow(*day, Skin::ControlClass::StaticText, "trv_date_10");
         addWidget(day, 0, column);
     }
     auto* group = new QButtonGroup(calendar);
@@ -54,11 +54,8 @@ void DayGrid::Show(const CalendarState& state) {
         QToolButton* cell = cells_[i];
         cell->setText(QString::number(state.cells[i].day));
         cell->setChecked(static_cast<int>(i) == state.selectedCell);
-        cell->setProperty("look", StyleOf(state.cells[i].look));
+        Skin::SkinWindow(*cell, Skin::ControlClass::RadioButton, StyleOf(state.cells[i].look));
         Skin::Describe(cell, QString::fromStdString(state.cells[i].date));
-        // The style sheet reads the look only then.
-        cell->style()->unpolish(cell);
-        cell->style()->polish(cell);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 
+#include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/views/window/ViewText.h"
@@ -20,6 +21,11 @@ TimeField::TimeField(QWidget* calendar, QBoxLayout* row, const char* name, TimeP
     edit_->setMaxLength(2);
     edit_->setFixedWidth(28);
     edit_->installEventFilter(this);
+    Skin::SkinWindow(*edit_, Skin::ControlClass::EditField,
+                     part == TimePart::Hour ? "trv_pagenum_edit" : "Date_time_edit");
+    Skin::SkinWindow(*shown_, Skin::ControlClass::StaticText, "trv_date_12");
+    Skin::SkinWindow(*minus_, Skin::ControlClass::PushButton, "Date_time_prev");
+    Skin::SkinWindow(*plus_, Skin::ControlClass::PushButton, "Date_time_next");
     for (QWidget* widget : std::initializer_list<QWidget*>{minus_, shown_, edit_, plus_}) {
         row->addWidget(widget);
     }

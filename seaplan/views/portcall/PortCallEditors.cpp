@@ -62,7 +62,7 @@ void PortCallEditors::Attach(CellEditing* panel) {
                      [this](QListWidgetItem* item) { panel_->OnMatchPressed(matches_->row(item)); });
     QObject::connect(purposes_, &QListWidget::itemClicked, this,
                      [this](QListWidgetItem* item) { panel_->OnPurposeChosen(purposes_->row(item)); });
-    date_.Popup().Attach(&panel_->Picker().Calendar());
+    date_.Attach(panel_->Picker());
 }
 
 void PortCallEditors::ApplyTexts() {

@@ -6,7 +6,7 @@
 #include <array>
 
 #include "seaplan/panels/portcall/CellsView.h"
-#include "seaplan/views/datetime/CalendarPopup.h"
+#include "seaplan/views/datetime/DateCell.h"
 #include "seaplan/views/editors/DroppedList.h"
 
 class QLineEdit;
