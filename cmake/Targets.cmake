@@ -68,6 +68,9 @@ function(seaplan_test target)
   target_link_libraries(${target} PRIVATE ${arg_DEPS} GTest::gtest_main GTest::gmock)
   set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${target} COMMAND ${target})
+  # A home of the tests' own: caches and settings of fonts and windows are not to touch the person's.
+  set(home ${CMAKE_BINARY_DIR}/tests/home)
+  file(MAKE_DIRECTORY ${home})
   set_tests_properties(${target} PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=America/St_Johns;LC_ALL=C.UTF-8;QT_SCALE_FACTOR=1")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=America/St_Johns;LC_ALL=C.UTF-8;QT_SCALE_FACTOR=1;HOME=${home};XDG_CACHE_HOME=${home}/.cache;XDG_CONFIG_HOME=${home}/.config;XDG_DATA_HOME=${home}/.local/share")
 endfunction()

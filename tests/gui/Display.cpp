@@ -59,4 +59,9 @@ void Display::StartServer() {
     EXPECT_NE(name_, "") << "the X server did not start";
 }
 
+std::vector<std::string> Managers() {
+    const std::string manager = WINDOW_MANAGER;
+    return manager.empty() ? std::vector<std::string>{""} : std::vector<std::string>{"", manager};
+}
+
 }  // namespace Tarvik::Programs

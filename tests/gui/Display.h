@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "tests/gui/ChildProcess.h"
 
@@ -24,5 +25,14 @@ class Display {
     std::unique_ptr<ChildProcess> server_;
     std::unique_ptr<ChildProcess> manager_;
 };
+
+/// The window managers under which a person's way is tried: none and, where the machine has one, that one. A
+/// manager keeps the keyboard from a window that did not ask for it.
+std::vector<std::string> Managers();
+
+/// Name of a test under a manager.
+inline std::string ManagerName(const std::string& manager) {
+    return manager.empty() ? "WithoutManager" : "WithManager";
+}
 
 }  // namespace Tarvik::Programs

@@ -9,8 +9,10 @@ namespace Tarvik::Programs {
 
 namespace {
 
-TEST(PortSearch, AnAliasIsFoundTakenByTheArrowsAndSavedByThePortsName) {
-    const Display display{""};
+class PortSearch : public testing::TestWithParam<std::string> {};
+
+TEST_P(PortSearch, AnAliasIsFoundTakenByTheArrowsAndSavedByThePortsName) {
+    const Display display{GetParam()};
     ASSERT_NE(display.Name(), "");
     const Person person{display.Name()};
     const ClientTree client;
@@ -28,6 +30,9 @@ TEST(PortSearch, AnAliasIsFoundTakenByTheArrowsAndSavedByThePortsName) {
                  "the port is saved by its name");
     EXPECT_EQ(sitting.Leave().exitCode, 0);
 }
+
+INSTANTIATE_TEST_SUITE_P(Managers, PortSearch, testing::ValuesIn(Managers()),
+                         [](const auto& window) { return ManagerName(window.param); });
 
 }  // namespace
 }  // namespace Tarvik::Programs

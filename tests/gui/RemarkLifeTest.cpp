@@ -13,7 +13,7 @@ constexpr Place kConsumptionButton{83, 181};
 constexpr Place kRemarkButton{195, 181};
 
 /// A person notes remarks and consumption at the items of a voyage's row.
-class RemarkLife : public testing::Test {
+class RemarkLife : public testing::TestWithParam<std::string> {
   protected:
     void SetUp() override { ASSERT_NE(display_.Name(), ""); }
 
@@ -32,14 +32,14 @@ class RemarkLife : public testing::Test {
         person_.AwaitGone(title);
     }
 
-    Display display_{""};
+    Display display_{GetParam()};
     Person person_{display_.Name()};
     ClientTree client_;
 };
 
 }  // namespace
 
-TEST_F(RemarkLife, ARemarkIsWrittenClosedAndOpenedAgain) {
+TEST_P(RemarkLife, ARemarkIsWrittenClosedAndOpenedAgain) {
     constexpr const char* kTitle = "Remarks of Winter";
     Sitting sitting(client_, person_, display_.Name());
     sitting.MakeVoyage();
@@ -58,7 +58,7 @@ TEST_F(RemarkLife, ARemarkIsWrittenClosedAndOpenedAgain) {
     EXPECT_EQ(ended.exitCode, 0) << ended.err;
 }
 
-TEST_F(RemarkLife, ATypedRemarkIsAskedAboutWhenThePanelCloses) {
+TEST_P(RemarkLife, ATypedRemarkIsAskedAboutWhenThePanelCloses) {
     constexpr const char* kTitle = "Remarks of Winter";
     Sitting sitting(client_, person_, display_.Name());
     sitting.MakeVoyage();
@@ -75,7 +75,7 @@ TEST_F(RemarkLife, ATypedRemarkIsAskedAboutWhenThePanelCloses) {
     EXPECT_EQ(sitting.Leave().exitCode, 0);
 }
 
-TEST_F(RemarkLife, ConsumptionIsKeptForAVoyageWithPortCalls) {
+TEST_P(RemarkLife, ConsumptionIsKeptForAVoyageWithPortCalls) {
     constexpr const char* kTitle = "Consumption - Winter";
     Sitting sitting(client_, person_, display_.Name());
     sitting.MakeVoyage();
@@ -94,5 +94,8 @@ TEST_F(RemarkLife, ConsumptionIsKeptForAVoyageWithPortCalls) {
     Close(kTitle);
     EXPECT_EQ(sitting.Leave().exitCode, 0);
 }
+
+INSTANTIATE_TEST_SUITE_P(Managers, RemarkLife, testing::ValuesIn(Managers()),
+                         [](const auto& window) { return ManagerName(window.param); });
 
 }  // namespace Tarvik::Programs

@@ -18,8 +18,7 @@ std::string SecondRow(const std::string& portCalls) {
     return Cut(portCalls, 10, 94, 400, 19);
 }
 
-/// Without a window manager and, where the machine has one, with it: only a manager keeps the keyboard from a
-/// window that did not ask for it.
+/// A voyage by hand, from its making to the next start.
 class VoyageLife : public testing::TestWithParam<std::string> {
   protected:
     void SetUp() override { ASSERT_NE(display_.Name(), ""); }
@@ -148,14 +147,8 @@ TEST_P(VoyageLife, F6GoesFromWindowToWindow) {
     person_.AwaitKeys(sitting.voyages);
 }
 
-std::vector<std::string> Managers() {
-    const std::string manager = WINDOW_MANAGER;
-    return manager.empty() ? std::vector<std::string>{""} : std::vector<std::string>{"", manager};
-}
-
-INSTANTIATE_TEST_SUITE_P(Managers, VoyageLife, testing::ValuesIn(Managers()), [](const auto& window) {
-    return window.param.empty() ? "WithoutManager" : "WithManager";
-});
+INSTANTIATE_TEST_SUITE_P(Managers, VoyageLife, testing::ValuesIn(Managers()),
+                         [](const auto& window) { return ManagerName(window.param); });
 
 }  // namespace
 }  // namespace Tarvik::Programs

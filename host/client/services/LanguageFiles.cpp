@@ -140,13 +140,14 @@ std::string LanguageFiles::Text(const std::string& section, const std::string& k
 QuestionButtons LanguageFiles::ButtonsOf(const std::string& question) const {
     QuestionButtons buttons;
     // The lines below the first tell what a question is about.
-    const std::string key = question.substr(0, question.find('\n'));
+    const auto firstLine = [](const std::string& text) { return text.substr(0, text.find('\n')); };
+    const std::string key = firstLine(question);
     for (const auto& entry : texts_) {
         const auto part = [&](const char* ending) {
             const auto found = texts_.find({"Buttons", entry.first.second + ending});
             return found == texts_.end() ? std::string() : found->second;
         };
-        if (entry.second == key && !part(".YES").empty()) {
+        if (firstLine(entry.second) == key && !part(".YES").empty()) {
             buttons = {part(".YES"), part(".NO"), part(".CAREFUL") == "yes"};
         }
     }

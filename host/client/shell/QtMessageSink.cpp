@@ -32,7 +32,7 @@ Interface::SysMsgHandleRes QtMessageSink::SyncSendMsg(int /*level*/, const std::
     if (flags != 0) {
         refuse = box->addButton(button(own.no, question ? "NO" : "CANCEL"), QMessageBox::RejectRole);
         refuse->setObjectName(question ? "messageNo" : "messageCancel");
-        box->setEscapeButton(refuse);
+        box->setEscapeButton(own.yesIsCareful ? agree : refuse);
     }
     // Whoever types on while a box comes up must not lose anything by that.
     box->setDefaultButton(refuse && !own.yesIsCareful ? refuse : agree);

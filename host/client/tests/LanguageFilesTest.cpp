@@ -152,7 +152,7 @@ TEST(ShippedLanguages, TraditionalChineseHoldsNoSimplifiedForms) {
     constexpr const char* kSimplified[] = {"们", "这", "为", "时", "显", "录", "设", "选",
                                            "处", "删", "备", "类", "进", "请", "复", "给",
                                            "开", "关", "总", "间", "预", "离", "经", "纬"};
-    for (const char* component : {"ais", "client", "seaplan"}) {
+    for (const char* component : {"ais", "client", "fleet", "infosearch", "seaplan"}) {
         std::ifstream in(std::string(CLIENT_LANGUAGES) + "/" + component + ".zh-TW.json");
         const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
         ASSERT_FALSE(text.empty());
@@ -163,18 +163,20 @@ TEST(ShippedLanguages, TraditionalChineseHoldsNoSimplifiedForms) {
 }
 
 TEST(QuestionButtonsTest, AreToldForTheSameQuestionsInEveryLanguage) {
-    const auto read = [](const std::string& language) {
-        std::ifstream in(std::string(CLIENT_LANGUAGES) + "/seaplan." + language + ".json");
+    const auto read = [](const std::string& component, const std::string& language) {
+        std::ifstream in(std::string(CLIENT_LANGUAGES) + "/" + component + "." + language + ".json");
         return nlohmann::json::parse(in);
     };
-    const auto english = read("en-US");
-    ASSERT_GT(english.at("Buttons").size(), 10U);
-    for (const Language& language : LanguageFiles::In(CLIENT_LANGUAGES)) {
-        const auto texts = read(language.code);
-        EXPECT_EQ(texts.at("Buttons").size(), english.at("Buttons").size()) << language.code;
-        for (const auto& [key, words] : english.at("Buttons").items()) {
-            EXPECT_TRUE(texts.at("Buttons").contains(key)) << key;
-            EXPECT_TRUE(texts.at("Seaplan").contains(key.substr(0, key.find('.')))) << key;
+    for (const auto& [component, section] : {std::pair{"seaplan", "Seaplan"}, {"fleet", "Fleet"}}) {
+        const auto english = read(component, "en-US");
+        ASSERT_GT(english.at("Buttons").size(), 5U);
+        for (const Language& language : LanguageFiles::In(CLIENT_LANGUAGES)) {
+            const auto texts = read(component, language.code);
+            EXPECT_EQ(texts.at("Buttons").size(), english.at("Buttons").size()) << language.code;
+            for (const auto& [key, words] : english.at("Buttons").items()) {
+                EXPECT_TRUE(texts.at("Buttons").contains(key)) << key;
+                EXPECT_TRUE(texts.at(section).contains(key.substr(0, key.find('.')))) << key;
+            }
         }
     }
 }
@@ -195,6 +197,9 @@ TEST(QuestionButtonsTest, WhatLosesSomethingIsNotTheCarefulAnswer) {
     }
     const std::string close = texts.Text("Seaplan", "IDS_PORTCALL_CLOSESAVE");
     EXPECT_EQ(texts.ButtonsOf(close + "\nVoyage \"A\"").yes, "Lose them") << "with what is lost below it";
+    std::string removal = texts.Text("Fleet", "REMOVE_QUESTION");
+    removal.replace(removal.find("%1"), 2, "FAR STAR");
+    EXPECT_EQ(texts.ButtonsOf(removal).yes, "Remove") << "with the vessel's name below it";
     EXPECT_EQ(texts.ButtonsOf("Anything else?").yes, "");
 }
 

@@ -45,11 +45,17 @@ TEST(MessageSink, AnswersWhatThePersonPressed) {
 }
 
 TEST(MessageSink, EscapeIsTheCarefulAnswer) {
-    const LanguageFiles texts;
+    LanguageFiles texts;
     QtMessageSink sink(nullptr, texts);
-    QTimer::singleShot(0, qApp,
-                       [] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->reject(); });
-    EXPECT_EQ(sink.SyncSendMsg(1, u"Sure?", 4, nullptr, u""), SysMsgHandleRes::No);
+    const auto escape = [&sink] {
+        QTimer::singleShot(0, qApp,
+                           [] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->reject(); });
+        return sink.SyncSendMsg(1, u"Sure?", 4, nullptr, u"");
+    };
+    EXPECT_EQ(escape(), SysMsgHandleRes::No);
+    ASSERT_TRUE(texts.Merge(
+        R"({"Any":{"ASK":"Sure?"},"Buttons":{"ASK.YES":"Save","ASK.NO":"Lose them","ASK.CAREFUL":"yes"}})"));
+    EXPECT_EQ(escape(), SysMsgHandleRes::Yes) << "what was typed is not lost by leaving the box";
 }
 
 TEST(MessageSink, AnOwnerThatGoesWhileItsBoxIsUpGivesNoAnswer) {
