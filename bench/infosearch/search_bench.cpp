@@ -7,8 +7,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include "host/plugins/infosearch/core/Aliases.h"
-#include "host/plugins/infosearch/core/PortIndex.h"
+#include "host/ports/search/Aliases.h"
+#include "host/ports/search/PortIndex.h"
 #include "host/ports/PlaceTable.h"
 
 namespace Tarvik::InfoSearch {

@@ -118,6 +118,8 @@ TEST(TypedDegrees, AreToldWithDegreesAndMinutes) {
     EXPECT_EQ(DegreesText(kRotterdam, kLat), "51° 54.50' N");
     EXPECT_EQ(DegreesText(-4.5, kLon), "004° 30.00' W");
     EXPECT_EQ(DegreesText(0, kLat), "00° 00.00' N");
+    EXPECT_EQ(SecondsText(kRotterdam, kLat), "51°54'30\"N");
+    EXPECT_EQ(SecondsText(-4.5, kLon), "004°30'00\"W");
     EXPECT_EQ(DegreesText(-0.5, kLat), "00° 30.00' S");
     EXPECT_EQ(DegreesText(9.99999999, kLat), "10° 00.00' N") << "no sixty minutes";
     for (double degrees = -89.75; degrees < 90; degrees += 3.25) {

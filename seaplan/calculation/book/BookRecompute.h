@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <tarvik/util/Units.h>
+
 #include "seaplan/data/PosBookData.h"
 
 /// Courses, times and totals of the position book on show.
 namespace Tarvik::Seaplan {
 
-inline constexpr double kHoursPerDay = 24.0;
+using Util::kHoursPerDay;
 
 enum class BookSpeedUnit : int { Knots = 0, KmPerHour = 1 };
 enum class BookDistanceUnit : int { NauticalMiles = 0, Kilometres = 1 };

@@ -21,15 +21,11 @@ class DateCellTest : public ViewsFixture {
         QTest::mouseClick(found->viewport(), Qt::LeftButton, {}, cell.center());
         QApplication::processEvents();
     }
-    void ClickEtd(int row) { ClickCell<PortCallTableView>(PortCalls(), "portCallTable", row, ColEtd); }
+    void ClickEtd(int row) { ClickCell<PanelTable>(PortCalls(), "portCallTable", row, ColEtd); }
     QToolButton& Button(QWidget& window) { return *Find<QToolButton>(window, "dateButton"); }
     QWidget& Calendar(QWidget& window) { return *Find<QWidget>(window, "calendarPopup"); }
     QString Cell(int row, int column) {
-        return Find<PortCallTableView>(PortCalls(), "portCallTable")
-            ->model()
-            ->index(row, column)
-            .data()
-            .toString();
+        return Find<PanelTable>(PortCalls(), "portCallTable")->model()->index(row, column).data().toString();
     }
     void OpenBook() {
         OpenPortCalls("Far East 12");
@@ -44,7 +40,7 @@ TEST_F(DateCellTest, TheButtonCoversTheCellWithItsDateWhileTheCalendarIsOpen) {
     OpenPortCalls("Far East 12");
     ClickEtd(1);
     ASSERT_TRUE(Button(PortCalls()).isVisible());
-    auto& table = *Find<PortCallTableView>(PortCalls(), "portCallTable");
+    auto& table = *Find<PanelTable>(PortCalls(), "portCallTable");
     EXPECT_EQ(Button(PortCalls()).geometry(), table.EditorRect(1, ColEtd));
     EXPECT_EQ(Button(PortCalls()).text(), Cell(1, ColEtd));
     EXPECT_EQ(Button(PortCalls()).accessibleName(), Cell(1, ColEtd));
@@ -101,11 +97,11 @@ TEST_F(DateCellTest, TheStyleIsChosenWhenTheButtonIsMade) {
 TEST_F(DateCellTest, ThePositionBookHasTheSameButton) {
     OpenBook();
     BookWindow& book = *views.BookWindowMade();
-    ClickCell<BookTableView>(book, "positionBookTable", 1, BookEtd);
+    ClickCell<PanelTable>(book, "positionBookTable", 1, BookEtd);
     ASSERT_TRUE(Button(book).isVisible());
     EXPECT_EQ(Skin::SkinOf(Button(book)), "Date_Select_full");
     EXPECT_EQ(Button(book).text(),
-              Find<BookTableView>(book, "positionBookTable")->model()->index(1, BookEtd).data().toString());
+              Find<PanelTable>(book, "positionBookTable")->model()->index(1, BookEtd).data().toString());
     Press(book, "dateButton");
     EXPECT_FALSE(Calendar(book).isVisible());
 }

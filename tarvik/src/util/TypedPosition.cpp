@@ -27,6 +27,10 @@ double MostOf(Axis axis) {
     return axis == Axis::Latitude ? 90 : 180;
 }
 
+char LetterOf(double degrees, Axis axis) {
+    return axis == Axis::Latitude ? (degrees < 0 ? 'S' : 'N') : (degrees < 0 ? 'W' : 'E');
+}
+
 bool IsNumber(const std::string& number) {
     return number != "." && std::count(number.begin(), number.end(), '.') <= 1;
 }
@@ -169,11 +173,18 @@ std::optional<TypedPosition> ReadTypedPosition(const std::string& text) {
 
 std::string DegreesText(double degrees, Axis axis) {
     constexpr int kHundredths = 100;
-    const char letter = axis == Axis::Latitude ? (degrees < 0 ? 'S' : 'N') : (degrees < 0 ? 'W' : 'E');
     const auto all = std::llround(std::fabs(degrees) * kMinutesPerDegree * kHundredths);
     const long long perDegree = static_cast<long long>(kMinutesPerDegree) * kHundredths;
     return StringUtl::Format("%0*lld° %05.2f' %c", axis == Axis::Latitude ? 2 : 3, all / perDegree,
-                             static_cast<double>(all % perDegree) / kHundredths, letter);
+                             static_cast<double>(all % perDegree) / kHundredths, LetterOf(degrees, axis));
+}
+
+std::string SecondsText(double degrees, Axis axis) {
+    constexpr auto kPerDegree = static_cast<long long>(kSecondsPerDegree);
+    constexpr auto kPerMinute = static_cast<long long>(kSecondsPerDegree / kMinutesPerDegree);
+    const auto all = std::llround(std::fabs(degrees) * kSecondsPerDegree);
+    return StringUtl::Format("%0*lld°%02lld'%02lld\"%c", axis == Axis::Latitude ? 2 : 3, all / kPerDegree,
+                             all % kPerDegree / kPerMinute, all % kPerMinute, LetterOf(degrees, axis));
 }
 
 }  // namespace Tarvik::Util

@@ -5,7 +5,7 @@
 #include <QTreeWidget>
 #include <vector>
 
-#include "host/plugins/infosearch/core/PortIndex.h"
+#include "host/ports/search/PortIndex.h"
 
 namespace Tarvik::InfoSearch {
 

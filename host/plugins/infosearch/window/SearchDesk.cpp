@@ -11,7 +11,7 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/util/Log.h>
 
-#include "host/plugins/infosearch/core/Aliases.h"
+#include "host/ports/search/Aliases.h"
 #include "host/plugins/infosearch/window/VesselFacts.h"
 #include "host/plugins/infosearch/window/Words.h"
 #include "host/ports/PlaceTable.h"

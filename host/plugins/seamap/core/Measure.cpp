@@ -14,7 +14,7 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr double kHoursPerDay = 24;
+using Util::kHoursPerDay;
 constexpr int kWholeTurn = 360;
 
 /// How the kit calls a track.

@@ -14,6 +14,9 @@ struct PolylineRun {
     double start = 0;                ///< length of the line in pixels before the first point, for the dashes
 };
 
+/// Pixels between the points of a line that are told apart on the screen.
+inline constexpr double kLineDetail = 0.7;
+
 /// The stretches of a line that cross the window widened by `margin` pixels, with the line moved `turn` turns
 /// to the east. Segments are cut at the widened window, and points less than `detail` pixels behind the last
 /// one kept are left out.

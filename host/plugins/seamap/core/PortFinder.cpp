@@ -10,20 +10,11 @@
 #include <tarvik/util/TypedPosition.h>
 
 #include "host/geo/Sphere.h"
-#include "host/plugins/infosearch/core/Aliases.h"
+#include "host/ports/search/Aliases.h"
 
 namespace Tarvik::Seamap {
 
 namespace {
-
-std::string SecondsText(double degrees, int width, const char* letters) {
-    constexpr long kSecondsPerDegree = 3600;
-    constexpr long kSecondsPerMinute = 60;
-    const long all = std::lround(std::fabs(degrees) * kSecondsPerDegree);
-    return fmt::format("{:0{}}°{:02}'{:02}\"{}", all / kSecondsPerDegree, width,
-                       all % kSecondsPerDegree / kSecondsPerMinute, all % kSecondsPerMinute,
-                       letters[degrees < 0 ? 1 : 0]);
-}
 
 std::string TextOf(const ChartName& port, const std::string& by) {
     std::string text = port.text;
@@ -37,7 +28,9 @@ std::string TextOf(const ChartName& port, const std::string& by) {
 }  // namespace
 
 PositionForms PositionForms::Of(GeoPoint place) {
-    return {FormatPosition(place), SecondsText(place.y, 2, "NS") + " " + SecondsText(place.x, 3, "EW"),
+    return {FormatPosition(place),
+            Util::SecondsText(place.y, Util::Axis::Latitude) + " " +
+                Util::SecondsText(place.x, Util::Axis::Longitude),
             fmt::format("{:.5f}, {:.5f}", place.y, place.x)};
 }
 

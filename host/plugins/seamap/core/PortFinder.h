@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "host/plugins/infosearch/core/PortIndex.h"
 #include "host/plugins/seamap/core/ChartNames.h"
+#include "host/ports/search/PortIndex.h"
 
 namespace Tarvik::Seamap {
 

@@ -11,6 +11,9 @@ class QPainter;
 
 namespace Tarvik::Seamap {
 
+/// Height of the texts along lines, in pixels.
+inline constexpr int kLineTextPixels = 12;
+
 /// Texts with a rim, so that they can be read over land, sea and lines. Drawing the rim is slow, so each text
 /// is drawn once and kept as a picture.
 class HaloTexts {

@@ -11,12 +11,10 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr double kMargin = 16;   ///< pixels around the window in which ways are still drawn
-constexpr double kDetail = 0.7;  ///< pixels between the points that are told apart
+constexpr double kMargin = 16;  ///< pixels around the window in which ways are still drawn
 constexpr double kDot = 3.5;
 constexpr double kAway = 8;  ///< pixels from a place to its text
 constexpr double kRing = 9;  ///< radius of the mark
-constexpr int kTextSize = 12;
 
 /// The place in the middle of a leg's way.
 GeoPoint MiddleOf(const std::vector<GeoPoint>& way) {
@@ -39,7 +37,7 @@ void MeasureLayer::DrawLeg(QPainter& painter, const MercatorView& view, const Me
         points.begin(), points.end(), [](const WorldPoint& a, const WorldPoint& b) { return a.x < b.x; });
     const auto turns = view.TurnsOf(west->x, east->x, 2);
     for (int turn = turns.first; turn <= turns.last; ++turn) {
-        for (const PolylineRun& run : ClipPolyline(points, view, turn, kMargin, kDetail)) {
+        for (const PolylineRun& run : ClipPolyline(points, view, turn, kMargin, kLineDetail)) {
             QPolygonF line;
             for (const PixelPoint& point : run.points) {
                 line.append(QPointF(point.x, point.y));
@@ -52,7 +50,7 @@ void MeasureLayer::DrawLeg(QPainter& painter, const MercatorView& view, const Me
 void MeasureLayer::DrawText(QPainter& painter, QPointF start, const std::string& text,
                             const ChartPalette& palette) {
     QFont font = painter.font();
-    font.setPixelSize(kTextSize);
+    font.setPixelSize(kLineTextPixels);
     painter.setFont(font);
     texts_.Draw(painter, start, QString::fromStdString(text), QColor(palette.text), QColor(palette.halo));
 }
@@ -103,7 +101,8 @@ void MeasureLayer::DrawMark(QPainter& painter, const MercatorView& view, const C
     }
     painter.setBrush(QColor(palette.accent));
     painter.drawEllipse(middle, 1.5, 1.5);
-    DrawText(painter, {at.x + kRing + kAway, at.y + kTextSize / 2.0 - 2}, FormatPosition(place), palette);
+    DrawText(painter, {at.x + kRing + kAway, at.y + kLineTextPixels / 2.0 - 2}, FormatPosition(place),
+             palette);
     painter.restore();
 }
 

@@ -16,10 +16,8 @@ namespace Tarvik::Seamap {
 namespace {
 
 constexpr double kMargin = 32;          ///< pixels around the window in which things are still drawn
-constexpr double kDetail = 0.7;         ///< pixels between the points of a line that are told apart
 constexpr std::size_t kManyLines = 50;  ///< from here on wide pens are too slow
 constexpr double kArrowSpacing = 140;   ///< pixels between the arrows of a line
-constexpr int kTextSize = 12;
 constexpr double kTextGap = 4;
 constexpr double kDash = 6, kGap = 4;  ///< pixels
 
@@ -49,7 +47,7 @@ void ObjectPainter::Draw(const ChartObjects& objects, const ObjectKey* highlight
         }
     }
     QFont font = painter_.font();
-    font.setPixelSize(kTextSize);
+    font.setPixelSize(kLineTextPixels);
     painter_.setFont(font);
     if (marked) {
         DrawText(*marked, true);
@@ -84,7 +82,7 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
         pen.setDashPattern({kDash / pen.widthF(), kGap / pen.widthF()});
     }
     for (int turn = turns.first; turn <= turns.last; ++turn) {
-        for (const PolylineRun& run : ClipPolyline(line.points, view_, turn, kMargin, kDetail)) {
+        for (const PolylineRun& run : ClipPolyline(line.points, view_, turn, kMargin, kLineDetail)) {
             if (!thin) {
                 painter_.setPen(under);
                 DrawRun(run.points);

@@ -30,5 +30,7 @@ TARVIK_API std::optional<double> ReadTypedDegrees(const std::string& text, Axis 
 TARVIK_API std::optional<TypedPosition> ReadTypedPosition(const std::string& text);
 /// "51° 54.50' N", with three digits of longitude: what people read back.
 TARVIK_API std::string DegreesText(double degrees, Axis axis);
+/// The same to the second: "51°54'30\"N".
+TARVIK_API std::string SecondsText(double degrees, Axis axis);
 
 }  // namespace Tarvik::Util

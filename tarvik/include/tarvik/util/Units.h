@@ -8,6 +8,9 @@ namespace Tarvik::Util {
 /// Kilometres in a nautical mile, by definition, and so km/h in a knot.
 inline constexpr double kKmPerNauticalMile = 1.852;
 
+/// Hours in a day, for spans that are told in either.
+inline constexpr double kHoursPerDay = 24;
+
 /// Nautical miles in kilometres.
 constexpr double KmFromNm(double nauticalMiles) {
     return nauticalMiles * kKmPerNauticalMile;

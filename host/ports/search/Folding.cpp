@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/infosearch/core/Folding.h"
+#include "host/ports/search/Folding.h"
 
 #include <unicode/locid.h>
 #include <unicode/normalizer2.h>

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/plugins/infosearch/core/Folding.h"
+#include "host/ports/search/Folding.h"
 
 namespace Tarvik::InfoSearch {
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/plugins/infosearch/core/TypingDistance.h"
+#include "host/ports/search/TypingDistance.h"
 
 namespace Tarvik::InfoSearch {
 

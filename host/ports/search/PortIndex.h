@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/plugins/infosearch/core/Folding.h"
+#include "host/ports/search/Folding.h"
 
 namespace Tarvik::InfoSearch {
 

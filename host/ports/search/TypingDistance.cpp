@@ -2,7 +2,7 @@
 /// The table of edit distances by columns, a column as bits of one machine word: H. Hyyrö, "A bit-vector
 /// algorithm for computing Levenshtein and Damerau edit distances", Nordic Journal of Computing 10 (2003).
 /// A dozen operations for each character of the compared text, whatever was typed.
-#include "host/plugins/infosearch/core/TypingDistance.h"
+#include "host/ports/search/TypingDistance.h"
 
 #include <algorithm>
 

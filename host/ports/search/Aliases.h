@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/plugins/infosearch/core/PortIndex.h"
+#include "host/ports/search/PortIndex.h"
 #include "host/ports/PlaceTable.h"
 
 namespace Tarvik::InfoSearch {

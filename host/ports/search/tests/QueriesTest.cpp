@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/plugins/infosearch/core/Aliases.h"
-#include "host/plugins/infosearch/core/PortIndex.h"
+#include "host/ports/search/Aliases.h"
+#include "host/ports/search/PortIndex.h"
 #include "host/ports/PlaceTable.h"
 
 namespace Tarvik::InfoSearch {

@@ -2,7 +2,7 @@
 /// Every name is folded once; a search compares what was typed with each of them: beginnings and words first,
 /// and only where these leave room the bit-parallel distance (TypingDistance.h). No tree or table of pieces:
 /// two thousand ports are compared in a fraction of a millisecond, and the order is told by one rank.
-#include "host/plugins/infosearch/core/PortIndex.h"
+#include "host/ports/search/PortIndex.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +10,7 @@
 #include <tuple>
 #include <utility>
 
-#include "host/plugins/infosearch/core/TypingDistance.h"
+#include "host/ports/search/TypingDistance.h"
 
 namespace Tarvik::InfoSearch {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/plugins/infosearch/core/Aliases.h"
+#include "host/ports/search/Aliases.h"
 
 #include <string_view>
 

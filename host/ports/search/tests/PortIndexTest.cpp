@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/plugins/infosearch/core/PortIndex.h"
+#include "host/ports/search/PortIndex.h"
 
 namespace Tarvik::InfoSearch {
 
