@@ -46,7 +46,7 @@ constexpr Mistake kMistakes[] = {
     {"Kernel", 1, "a bus of one's own", "private"},
     {"Kernel", 2, "a bus made by new", "private"},
     {"Kernel", 3, "a copy of the bus", "deleted"},
-    {"Kernel", 4, "what only tests may do", "Reset"},
+    {"Kernel", 4, "what only tests may do", "BusTesting.h"},
 };
 
 /// Lets the compiler look at a snippet with the SDK's public headers alone.

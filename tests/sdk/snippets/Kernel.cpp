@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The bus, had by its accessor.
 #include <tarvik/core/TrvKernel.h>
+#if WRONG == 4
+#include <tarvik/core/BusTesting.h>
+#endif
 
 using Tarvik::Core::TrvKernel;
 
@@ -15,9 +18,6 @@ bool Ask() {
     TrvKernel* kernel = &copy;
 #else
     TrvKernel* kernel = TrvKernel::Instance();
-#endif
-#if WRONG == 4
-    kernel->Reset();
 #endif
     return kernel->IsBound("TRV_S_USER");
 }
