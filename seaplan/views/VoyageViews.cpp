@@ -92,7 +92,7 @@ std::unique_ptr<CPortDistTabDlg> VoyageViews::MakeDistances(KeepTableWindow& win
 
 std::unique_ptr<CBunkerDlg> VoyageViews::MakeBunkers(VoyageStore& store, BunkerWindow& window) {
     return std::make_unique<CBunkerDlg>(CBunkerDlg::Parts{
-        window, [this](const BunkerFigures& figures) { portCalls_.Use().SaveFigures(figures); },
+        window, [this](const BunkerFigures& figures) { return portCalls_.Use().SaveFigures(figures); },
         [this, &store] {
             const VoyInfo* voyage = store.FindVoyage(portCalls_.Use().NextVoyage());
             return voyage == nullptr ? std::string() : voyage->vn;

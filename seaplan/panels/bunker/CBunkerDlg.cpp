@@ -7,6 +7,7 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/NoteTexts.h"
+#include "seaplan/panels/window/StatusWords.h"
 
 namespace Tarvik::Seaplan {
 
@@ -83,7 +84,9 @@ void CBunkerDlg::Refuse() {
 void CBunkerDlg::Save() {
     SetState(false, true);
     saved_ = current_;
-    p_.save(saved_);
+    // There is no box for it, and the figures stay as they are typed.
+    const bool failed = p_.save(saved_) != 0;
+    TellInStatusLine(failed ? Text(TextIds::IDS_VIEW_FIGURESNOTSAVED, {p_.voyageName()}) : std::string());
 }
 
 void CBunkerDlg::OnSave() {

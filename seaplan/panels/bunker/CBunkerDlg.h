@@ -16,9 +16,9 @@ class CBunkerDlg {
   public:
     struct Parts {
         BunkerView& view;
-        std::function<void(const BunkerFigures&)> save;  ///< for the voyage of the title
-        std::function<std::string()> voyageName;         ///< its name, empty for none
-        std::function<Rect()> treePlace;                 ///< where the voyage tree stands on the screen
+        std::function<int(const BunkerFigures&)> save;  ///< for the voyage of the title; 0, or it failed
+        std::function<std::string()> voyageName;        ///< its name, empty for none
+        std::function<Rect()> treePlace;                ///< where the voyage tree stands on the screen
     };
     explicit CBunkerDlg(Parts parts);
     CBunkerDlg(const CBunkerDlg&) = delete;

@@ -11,6 +11,7 @@
 #include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/window/StatusWords.h"
 
 namespace Tarvik::Seaplan {
 
@@ -165,7 +166,10 @@ void PanelCommands::OnSave() {
         return;
     }
     if (corrected > 0) {
-        corrected_.Calculate();
+        // There is no box for it.
+        const bool failed = corrected_.Calculate() != 0;
+        TellInStatusLine(failed ? Text(TextIds::IDS_VIEW_CORRECTIONNOTSAVED, {desk_.Sheet().cause})
+                                : std::string());
     } else {
         SavePlain();
     }

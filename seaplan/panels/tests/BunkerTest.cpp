@@ -38,7 +38,7 @@ class BunkerTest : public PortCallFixture {
     static constexpr BunkerFigures kFigures{10, 20, 30, 40, 50, 60, 70};
 
     RecordingBunkerView window;
-    CBunkerDlg dialog{{window, [this](const BunkerFigures& figures) { panel.SaveFigures(figures); },
+    CBunkerDlg dialog{{window, [this](const BunkerFigures& figures) { return panel.SaveFigures(figures); },
                        [this] {
                            const VoyInfo* voyage = store.FindVoyage(panel.NextVoyage());
                            return voyage == nullptr ? std::string() : voyage->vn;
@@ -140,15 +140,20 @@ TEST_F(BunkerTest, FiguresGoToTheVoyageThatThePanelWasSetToLast) {
     EXPECT_THAT(desk.Sent(Ask::kSaveFigures), ElementsAre(FiguresText(fresh, "11")));
 }
 
-TEST_F(BunkerTest, AFailedSaveIsNotShown) {
+TEST_F(BunkerTest, AFailedSaveIsToldByTheStatusLineAlone) {
     desk.Refuse(Ask::kSaveFigures);
     dialog.OnTyped(Vfn, "11");
     dialog.OnSave();
     EXPECT_THAT(messages.messages, IsEmpty());
+    EXPECT_EQ(statusWord, "IDS_VIEW_FIGURESNOTSAVED");
     EXPECT_FALSE(window.changed);
     EXPECT_EQ(store.voyages[kept].figures[Vfn], 0);
     dialog.OnUndo();
     EXPECT_EQ(window.figures[Vfn], 11) << "the saved set stays";
+    desk.Heal();
+    dialog.OnTyped(Vfn, "12");
+    dialog.OnSave();
+    EXPECT_EQ(statusWord, "") << "a save that was taken takes the words away";
 }
 
 TEST_F(BunkerTest, ClosingAsksForChangesAndYesSavesThem) {

@@ -215,12 +215,13 @@ TEST_F(CorrectedPanelTest, ACorrectionThatWasGivenUpIsNoPartOfTheVoyageAndLeaves
     EXPECT_EQ(desk.Count(Ask::kAddAisTime), 0);
 }
 
-TEST_F(CorrectedPanelTest, AFailedReplanIsToldByTheCalculateButtonOnly) {
+TEST_F(CorrectedPanelTest, AFailedReplanIsToldInABoxByTheCalculateButtonAlone) {
     Open(kept);
     Type(2, ColSpeed, "12");
     desk.Refuse(Ask::kNearest);
     panel.Commands().OnSave();
     EXPECT_TRUE(messages.messages.empty());
+    EXPECT_EQ(statusWord, "IDS_VIEW_CORRECTIONNOTSAVED");
     EXPECT_TRUE(view.state.changed);
     EXPECT_EQ(Saves(), 0);
     panel.Commands().OnCalculate();

@@ -10,7 +10,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/PlacesContract.h>
 
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/tests/KeyTexts.h"
@@ -44,6 +47,10 @@ class PortCallFixture : public ::testing::Test {
                              [this] { return positionBook; },
                              {},
                              [this] { keepTable(); }}};
+
+    std::string statusWord;  ///< what the panels said last in the client's status line
+    Interface::Binding statusWords = Interface::Subscribe(
+        Interface::Bus::TellStatus, [this](const Interface::StatusWord& word) { statusWord = word.text; });
 
     PortCallFixture() {
         desk.AddCategory("Plans");

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace Tarvik::Seaplan {
+
+/// Says in the client's status line what is told nowhere else, as a failure for which there is no box. It
+/// stands there until the next words, or until empty ones take it away.
+void TellInStatusLine(const std::string& words);
+
+}  // namespace Tarvik::Seaplan
