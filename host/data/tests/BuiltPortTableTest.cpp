@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
@@ -45,6 +46,14 @@ TEST(BuiltPortTable, HoldsTheGreatPortsUnderTheirUsualNames) {
     for (const auto& [code, name] : expected) {
         EXPECT_EQ(names[code], name) << code;
     }
+}
+
+TEST(BuiltPortTable, HoldsThePortsOfTheCalculatorsStoredRoute) {
+    using ::testing::ElementsAre;
+    EXPECT_THAT(Query("select id,name from t_point where isport='1' and cast(x as real)<>0 and "
+                      "id in ('40358','41117','40430') order by id"),
+                ElementsAre(ElementsAre("40358", "Tianjin"), ElementsAre("40430", "Hamburg"),
+                            ElementsAre("41117", "Rotterdam")));
 }
 
 TEST(BuiltPortTable, PortIdsHaveFiveDigitsFromFortyThousandAndRoutePointIdsLieBelow) {
