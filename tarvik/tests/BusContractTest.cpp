@@ -25,6 +25,10 @@ TEST(BusContractTest, NamesThatTheVoyagePlugInOwns) {
     EXPECT_STREQ(Bus::ClickAisShipType.name, "TRV_MAP_LCLICK_AISSHIPTYPE");
     EXPECT_STREQ(Bus::ClickRPoint.name, "TRV_MAP_LCLICK_RPOINT");
     EXPECT_STREQ(Bus::ClickRRPoint.name, "TRV_MAP_LCLICK_RRPOINT");
+    EXPECT_STREQ(Bus::ClickBookPoint.name, "TRV_MAP_LCLICK_BOOKPOINTTYPE");
+    EXPECT_STREQ(Bus::DragBookPoint.name, "TRV_MAP_LDRAG_BOOKPOINTTYPE");
+    EXPECT_STREQ(Bus::DragBookFront.name, "TRV_MAP_LDRAG_BOOKFRONTTYPE");
+    EXPECT_STREQ(Bus::DragBookWay.name, "TRV_MAP_LDRAG_BOOKLINETYPE");
 }
 
 TEST(BusContractTest, EventsOfTheHost) {

@@ -105,6 +105,19 @@ void ListNewRows(const PosBookData& book, BookRowRefs& refs, int listRow, PosBoo
     refs.insert(refs.begin() + listRow, added.begin(), added.end());
 }
 
+/// Puts rows into the way to a list row. Returns how many.
+int AddRows(PosBookData& book, BookRowRefs& refs, int listRow, Rows added) {
+    const PosBookRowRef ref = refs[static_cast<std::size_t>(listRow)];
+    const int count = static_cast<int>(added.size());
+    Rows& leg = PortOf(book, ref).rows;
+    const int first = ref.sub == PosBookRowRef::kPort ? static_cast<int>(leg.size()) : ref.sub;
+    leg.insert(leg.begin() + first, std::make_move_iterator(added.begin()),
+               std::make_move_iterator(added.end()));
+    ShiftRefs(refs, listRow, ref.port, count);
+    ListNewRows(book, refs, listRow, {ref.port, first}, count);
+    return count;
+}
+
 }  // namespace
 
 BookRowRefs ListBookRows(const PosBookData& book) {
@@ -184,14 +197,20 @@ int RegenerateLeg(PosBookData& book, BookRowRefs& refs, int listRow, bool addMid
     if (added.empty()) {
         return 0;
     }
-    const int count = static_cast<int>(added.size());
-    Rows& leg = PortOf(book, ref).rows;
-    const int first = ref.sub == PosBookRowRef::kPort ? static_cast<int>(leg.size()) : ref.sub;
-    leg.insert(leg.begin() + first, std::make_move_iterator(added.begin()),
-               std::make_move_iterator(added.end()));
-    ShiftRefs(refs, listRow, ref.port, count);
-    ListNewRows(book, refs, listRow, {ref.port, first}, count);
-    return count;
+    return AddRows(book, refs, listRow, std::move(added));
+}
+
+bool InsertBookRow(PosBookData& book, BookRowRefs& refs, int listRow, const Position& position) {
+    const PosBookPlace* before =
+        IsInList(refs, listRow) ? PlaceBefore(book, refs[static_cast<std::size_t>(listRow)]) : nullptr;
+    if (before == nullptr) {
+        return false;
+    }
+    const PosBookPlace& to = PlaceOf(book, refs[static_cast<std::size_t>(listRow)]);
+    Rows added{RowBetween(*before, to, position.x, position.y)};
+    added.back().name = kNewWaypoint;
+    AddRows(book, refs, listRow, std::move(added));
+    return true;
 }
 
 BookDeletion DeleteBookRow(PosBookData& book, BookRowRefs& refs, const BookTotals& totals, int listRow) {

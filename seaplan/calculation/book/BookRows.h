@@ -6,6 +6,7 @@
 
 #include "seaplan/calculation/book/BookRecompute.h"
 #include "seaplan/data/PosBookData.h"
+#include "seaplan/data/Position.h"
 
 /// The rows of the book's list, and the edits that add and remove waypoints.
 namespace Tarvik::Seaplan {
@@ -41,6 +42,14 @@ bool ToggleBookRow(PosBookData& book, BookRowRefs& refs, int listRow);
 /// needs none gets one half way, "A new wp". Waypoints of an earlier time stay. Returns how many came; times
 /// and totals are the caller's to recompute when any did.
 int RegenerateLeg(PosBookData& book, BookRowRefs& refs, int listRow, bool addMidpoint);
+
+/// Puts a plain waypoint, "A new wp", into the way to list row `listRow`, which is sailed as before on both
+/// sides of it. It takes that row's place in the list where the waypoints before it show. False, with nothing
+/// changed, for the first port and no row.
+bool InsertBookRow(PosBookData& book, BookRowRefs& refs, int listRow, const Position& position);
+/// The end of the leg on which a place lies, or to which it is nearest; nothing in a book without legs. Cost:
+/// a few distances a place of the book.
+std::optional<PosBookRowRef> LegAt(const PosBookData& book, const Position& position);
 
 /// What has to follow after a waypoint was deleted.
 enum class BookDeletion {

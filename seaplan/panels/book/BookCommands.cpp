@@ -146,6 +146,40 @@ void BookCommands::OnRedo() {
     }
 }
 
+/// Whether a waypoint may come there; what is being typed is taken first.
+bool BookCommands::MayMoveTo(const Position& to) {
+    if (!editing_.CommitEditors()) {
+        return false;
+    }
+    const BookRefusal latitude = CheckDegrees(to.y, Axis::Latitude);
+    const BookRefusal refusal =
+        latitude == BookRefusal::None ? CheckDegrees(to.x, Axis::Longitude) : latitude;
+    desk_.Refuse(refusal);
+    return refusal == BookRefusal::None;
+}
+
+void BookCommands::OnDragged(int row, const Position& to) {
+    const BookDesk::Report report(desk_);
+    BookSheet& sheet = desk_.Sheet();
+    const int before = sheet.RowCount();
+    if (!sheet.IsRow(row) || !MayMoveTo(to) || sheet.RowCount() != before) {
+        return;
+    }
+    sheet.selected = row;
+    if (sheet.IsEdited(row, BookLongitude)) {
+        BookEdits(desk_).MoveTo(row, to);
+    } else {
+        desk_.ToPerson().Notice(TextIds::IDS_VIEW_NOTDRAGGED);
+    }
+}
+
+void BookCommands::OnPulled(const Position& from, const Position& to) {
+    const BookDesk::Report report(desk_);
+    if (MayMoveTo(to) && !BookEdits(desk_).PullLeg(from, to)) {
+        desk_.ToPerson().Notice(TextIds::IDS_VIEW_NOTDRAGGED);
+    }
+}
+
 void BookCommands::Hide() {
     editing_.HideEditors();
     desk_.View().Hide();

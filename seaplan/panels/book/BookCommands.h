@@ -36,6 +36,11 @@ class BookCommands {
     /// A key in the table, on the cell in front; false when it means nothing there.
     bool OnTableKey(KeyPress press, int row, int column);
 
+    /// On the chart: a waypoint is dragged, which is the same edit as typing its position, or a leg is
+    /// pulled, which puts a waypoint into it.
+    void OnDragged(int row, const Position& to);
+    void OnPulled(const Position& from, const Position& to);
+
     /// Saves what is on show. False when it was not saved, which has been told; the changes stay.
     bool Save();
     /// Cuts the way to a list row into waypoints. Returns how many came.
@@ -46,6 +51,8 @@ class BookCommands {
     void Hide();
 
   private:
+    bool MayMoveTo(const Position& to);
+
     BookDesk& desk_;
     BookEditing& editing_;
 };

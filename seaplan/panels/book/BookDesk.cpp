@@ -55,6 +55,13 @@ BookDesk::Report::~Report() {
     }
 }
 
+/// The place before another one on the way.
+PosBookRowRef BookDesk::Before(const PosBookRowRef& ref) const {
+    const auto& leg = sheet_.data.ports[static_cast<std::size_t>(ref.port)].rows;
+    const int sub = ref.sub == PosBookRowRef::kPort ? static_cast<int>(leg.size()) : ref.sub;
+    return sub > 0 ? PosBookRowRef{ref.port, sub - 1} : PosBookRowRef{ref.port - 1};
+}
+
 PosBookRowRef BookDesk::Front() const {
     return sheet_.IsRow(sheet_.selected) ? sheet_.RefOf(sheet_.selected)
                                          : PosBookRowRef{kNoPort, PosBookRowRef::kPort};
@@ -63,10 +70,16 @@ PosBookRowRef BookDesk::Front() const {
 /// The list's row of a place, or of the one behind which it is folded away; -1 for none.
 int BookDesk::RowShowing(PosBookRowRef ref) const {
     while (ref.port >= 0 && sheet_.RowOf(ref) < 0) {
-        // In front of a leg's first waypoint stands the port before it.
-        ref = ref.sub > 0 ? PosBookRowRef{ref.port, ref.sub - 1} : PosBookRowRef{ref.port - 1};
+        ref = Before(ref);
     }
     return ref.port < 0 ? -1 : sheet_.RowOf(ref);
+}
+
+void BookDesk::UnfoldBefore(const PosBookRowRef& ref) {
+    const int row = RowShowing(Before(ref));
+    if (row >= 0 && !sheet_.PlaceAt(row).expanded) {
+        ToggleBookRow(sheet_.data, sheet_.refs, row);
+    }
 }
 
 void BookDesk::Show() {

@@ -30,6 +30,7 @@ class BookDesk {
     BookView& View() const { return p_.view; }
     BookOwner& Owner() const { return *p_.owner(); }
     Rect MainPlace() const { return p_.mainPlace(); }
+    BookOnChart& Chart() { return chart_; }
 
     /// Brings the window up to date, and the chart while it is open.
     void Show();
@@ -58,6 +59,8 @@ class BookDesk {
     void DropEdits();
     /// What is on show is saved.
     void NoteSaved();
+    /// The plain waypoints before a place behind the first port show, and it does too.
+    void UnfoldBefore(const PosBookRowRef& ref);
     /// Cuts the way to a row into waypoints; the row in front stays the same place. Returns how many came.
     int Regenerate(int row, bool addMidpoint);
 
@@ -75,6 +78,7 @@ class BookDesk {
 
     void ShowState(PosBookData book, const PosBookRowRef& front);
     void NoteHistory();
+    PosBookRowRef Before(const PosBookRowRef& ref) const;
     PosBookRowRef Front() const;
     int RowShowing(PosBookRowRef ref) const;
 

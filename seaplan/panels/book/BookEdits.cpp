@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/BookEdits.h"
 
+#include <optional>
+
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 #include <tarvik/util/Units.h>
@@ -114,12 +116,33 @@ void BookEdits::MoveTo(int row, const Position& position) {
     place.x = position.x;
     place.y = position.y;
     if (!sameX) {
-        const int before = sheet.RowCount();
-        CutGreatCircle(row);
-        // The rows that came into the list stand before this one.
-        CutGreatCircle(row + sheet.RowCount() - before + 1);
+        CutBothSides(row);
     }
     desk_.TakeEdit({TextIds::IDS_VIEW_EDITPLACE, row});
+}
+
+void BookEdits::CutBothSides(int row) {
+    const int before = desk_.Sheet().RowCount();
+    CutGreatCircle(row);
+    // The rows that came into the list stand before this one.
+    CutGreatCircle(row + desk_.Sheet().RowCount() - before + 1);
+}
+
+bool BookEdits::PullLeg(const Position& from, const Position& to) {
+    BookSheet& sheet = desk_.Sheet();
+    const std::optional<PosBookRowRef> end = LegAt(sheet.data, from);
+    if (!end || IsPassed(sheet.totals, end->port, end->sub)) {
+        return false;
+    }
+    desk_.UnfoldBefore(*end);
+    const int row = sheet.RowOf(*end);
+    if (!InsertBookRow(sheet.data, sheet.refs, row, to)) {
+        return false;
+    }
+    sheet.selected = row;
+    CutBothSides(row);
+    desk_.TakeEdit({TextIds::IDS_VIEW_EDITINSERT, sheet.selected});
+    return true;
 }
 
 BookRefusal BookEdits::SetSpeed(int row, const std::string& typed) {

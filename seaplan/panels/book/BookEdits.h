@@ -17,6 +17,9 @@ class BookEdits {
     BookRefusal TakeText(int row, int column, const std::string& typed);
     /// A waypoint stands there now, as when its position is typed; both within CheckDegrees.
     void MoveTo(int row, const Position& position);
+    /// A waypoint comes into the leg on which `from` lies, at `to`, which is within CheckDegrees. False where
+    /// the ship has passed the leg.
+    bool PullLeg(const Position& from, const Position& to);
     /// The text that the editor of such a cell opens with.
     std::string TextToEdit(int row, int column) const;
     /// How a text that is being typed into a position is understood, or why it is not; empty in other
@@ -34,6 +37,7 @@ class BookEdits {
     void SetName(int row, const std::string& typed);
     BookRefusal SetPosition(int row, Axis axis, const std::string& typed);
     BookRefusal SetSpeed(int row, const std::string& typed);
+    void CutBothSides(int row);
     void CutGreatCircle(int row);
 
     BookDesk& desk_;

@@ -8,6 +8,14 @@ namespace Tarvik::Seaplan {
 CPosBookDlg::CPosBookDlg(BookDesk::Parts parts)
     : desk_(std::move(parts)), editing_(desk_), commands_(desk_, editing_) {
     desk_.TakeZone({});
+    desk_.Chart().SetReports(
+        {[this](int row) {
+             if (desk_.Sheet().IsRow(row)) {
+                 editing_.OnRowSelected(row);
+             }
+         },
+         [this](int row, const Position& to) { commands_.OnDragged(row, to); },
+         [this](const Position& from, const Position& to) { commands_.OnPulled(from, to); }});
 }
 
 void CPosBookDlg::ShowBook(const PosBookData& book) {

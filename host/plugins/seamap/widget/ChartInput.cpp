@@ -28,14 +28,37 @@ void ChartWidget::mousePressEvent(QMouseEvent* event) {
     press_ = {at, at, true, press_.drags};
 }
 
+void ChartWidget::BeginDrag() {
+    press_.drags = true;
+    const PixelPoint pixel{double(press_.start.x()), double(press_.start.y())};
+    const auto met = scene_.At(pixel, View(), devicePixelRatioF());
+    const bool object = drag_.Begin(met ? std::optional(met->key) : std::nullopt, press_.start);
+    setCursor(object ? Qt::SizeAllCursor : Qt::ClosedHandCursor);
+}
+
+void ChartWidget::EndObjectDrag(bool tell) {
+    const ObjectKey key = drag_.Key();
+    const QPoint from = drag_.Start();
+    drag_.End();
+    press_.down = press_.drags = false;
+    update();
+    if (tell) {
+        emit ObjectDragged(key, View().ToGeo({double(from.x()), double(from.y())}),
+                           View().ToGeo({double(press_.last.x()), double(press_.last.y())}));
+    }
+}
+
 void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
     const int way = (at - press_.start).manhattanLength();
     if (press_.down && !press_.drags && way >= QApplication::startDragDistance()) {
-        press_.drags = true;
-        setCursor(Qt::ClosedHandCursor);
+        BeginDrag();
     }
-    if (press_.drags) {
+    if (drag_.IsUnderWay()) {
+        drag_.MoveTo(at);
+        press_.last = at;
+        update();
+    } else if (press_.drags) {
         camera_.Pan(press_.last.x() - at.x(), press_.last.y() - at.y());
         press_.last = at;
     }
@@ -45,6 +68,10 @@ void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
 void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !press_.down) {
         return;
+    }
+    if (drag_.IsUnderWay()) {
+        press_.last = event->position().toPoint();
+        return EndObjectDrag(true);
     }
     const bool click = !press_.drags;
     press_.down = press_.drags = false;
@@ -87,6 +114,9 @@ void ChartWidget::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void ChartWidget::keyPressEvent(QKeyEvent* event) {
+    if (drag_.IsUnderWay() && event->key() == Qt::Key_Escape) {
+        return EndObjectDrag(false);
+    }
     if (tools_->TakeKey(event->key())) {
         return;
     }

@@ -10,6 +10,7 @@
 #include <tarvik/bus/Binding.h>
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/DragContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>
 #include <tarvik/bus/VoyageContract.h>
@@ -35,6 +36,10 @@ std::string TextOf(const char* section, const char* key) {
     const std::u16string table = Util::StringUtl::TranslateString(std::string(section));
     const auto text = texts->Find(table, table, Util::StringUtl::TranslateString(std::string(key)));
     return text ? Util::StringUtl::TranslateString(*text) : std::string();
+}
+
+Interface::ChartPlace PlaceOnBus(const GeoPoint& point) {
+    return {point.x, point.y};
 }
 
 }  // namespace
@@ -100,6 +105,11 @@ ChartWidget* ChartServices::Widget() {
         }
         QObject::connect(widget_, &ChartWidget::ObjectClicked,
                          [](const ObjectKey& key) { Interface::RaiseClick(key.type, key.id); });
+        widget_->SetDragged([](const ObjectKey& key) { return Interface::IsDragged(key.type); });
+        QObject::connect(widget_, &ChartWidget::ObjectDragged,
+                         [](const ObjectKey& key, const GeoPoint& from, const GeoPoint& to) {
+                             Interface::TellDrag(key.type, {key.id, PlaceOnBus(from), PlaceOnBus(to)});
+                         });
         QObject::connect(widget_, &ChartWidget::PortClicked, widget_,
                          [this](const ChartName& port) { TakePort(port); });
         QObject::connect(widget_, &ChartWidget::PartTurned, [](const std::string& part, bool shown) {

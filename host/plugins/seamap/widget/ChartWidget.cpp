@@ -137,6 +137,7 @@ void ChartWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     scene_.Paint(painter, View(), devicePixelRatioF(), highlighted_ ? &*highlighted_ : nullptr);
     tools_->Draw(painter);
+    drag_.Paint(painter, QColor(scene_.Palette().accent));
     if (!byKeyboard_) {
         return;
     }

@@ -7,10 +7,12 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/plugins/seamap/widget/ChartCamera.h"
 #include "host/plugins/seamap/widget/ChartScene.h"
+#include "host/plugins/seamap/widget/ObjectDrag.h"
 
 namespace Tarvik::Seamap {
 
@@ -19,9 +21,9 @@ class PortCard;
 
 /// The chart as a window: shows the scene from the camera and lets a person pan, zoom, point and click.
 ///
-/// Drag pans; the wheel, a double click and + and - zoom; the arrows pan; Home shows all objects; a right
-/// click or the menu key opens the menu of a place. The dynamic property "pictures" of the widget or of the
-/// application, set to true, turns animation off.
+/// Drag pans, or moves an object that is dragged; the wheel, a double click and + and - zoom; the arrows pan;
+/// Home shows all objects; a right click or the menu key opens the menu of a place. The dynamic property
+/// "pictures" of the widget or of the application, set to true, turns animation off.
 class ChartWidget : public QWidget {
     Q_OBJECT
 
@@ -61,11 +63,19 @@ class ChartWidget : public QWidget {
     QSize sizeHint() const override { return {960, 600}; }
     QSize minimumSizeHint() const override { return {160, 120}; }
 
+    /// Asked when a drag begins on an object: whether the object is dragged, and not the chart.
+    void SetDragged(std::function<bool(const ObjectKey&)> isDragged) {
+        drag_.isDragged = std::move(isDragged);
+    }
+
   signals:
     /// The pointer moved: longitude -180 to 180 and latitude in degrees.
     void CursorMoved(double lon, double lat);
     /// A left click met an object.
     void ObjectClicked(const Tarvik::Seamap::ObjectKey& key);
+    /// An object was dragged from where it was pressed to where the button was let go; Escape takes it back.
+    void ObjectDragged(const Tarvik::Seamap::ObjectKey& key, const Tarvik::Seamap::GeoPoint& from,
+                       const Tarvik::Seamap::GeoPoint& to);
     /// A left click met a port of the chart itself.
     void PortClicked(const Tarvik::Seamap::ChartName& port);
     /// A person has shown or hidden a part of the chart.
@@ -95,6 +105,8 @@ class ChartWidget : public QWidget {
         bool down = false;
         bool drags = false;
     };
+    void BeginDrag();
+    void EndObjectDrag(bool tell);
     bool IsAnimated() const;
     void Point(std::optional<PixelPoint> pixel);
     void OnMoved();
@@ -106,6 +118,7 @@ class ChartWidget : public QWidget {
     ChartCamera camera_;
     PortCard* card_;
     ChartTools* tools_;
+    ObjectDrag drag_;
     Press press_;
     std::optional<ObjectKey> highlighted_;
     bool byKeyboard_ = false;

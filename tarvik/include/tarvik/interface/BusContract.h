@@ -5,6 +5,7 @@
 /// records that it fills.
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/DragContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>
 #include <tarvik/bus/SiblingContract.h>
