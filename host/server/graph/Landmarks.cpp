@@ -1,35 +1,42 @@
 // SPDX-License-Identifier: MIT
+// Dijkstra's search with slices of the distance in place of a heap: what a slice holds is taken in any order,
+// and again when it got nearer, which costs less than keeping all of it in order.
 #include "host/server/graph/Landmarks.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
 #include <limits>
-#include <queue>
 #include <utility>
 
 namespace Tarvik::Server {
 
 std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node) {
-    std::vector<float> best(table.start.size() - 1, std::numeric_limits<float>::infinity());
-    using Item = std::pair<float, std::uint32_t>;
-    std::priority_queue<Item, std::vector<Item>, std::greater<>> open;
+    constexpr float kSliceNm = 16.0F;
+    constexpr float kFar = std::numeric_limits<float>::infinity();
+    const auto sliceOf = [](float nm) { return static_cast<std::size_t>(nm / kSliceNm); };
+    std::vector<float> best(table.start.size() - 1, kFar);
+    std::vector<float> passedOn(best.size(), kFar);
+    std::vector<std::vector<std::uint32_t>> slices(1, {node});
     best[node] = 0.0F;
-    open.emplace(0.0F, node);
-    while (!open.empty()) {
-        const auto [nm, at] = open.top();
-        open.pop();
-        if (nm > best[at]) {
-            continue;
-        }
-        for (std::uint32_t k = table.start[at]; k < table.start[at + 1]; ++k) {
-            const Arc& arc = table.arcs[k];
-            if (nm + arc.nm >= best[arc.to]) {
+    for (std::size_t slice = 0; slice < slices.size(); ++slice) {
+        for (std::size_t i = 0; i < slices[slice].size(); ++i) {
+            const std::uint32_t at = slices[slice][i];
+            const float nm = best[at];
+            if (passedOn[at] <= nm) {
                 continue;
             }
-            best[arc.to] = nm + arc.nm;
-            open.emplace(best[arc.to], arc.to);
+            passedOn[at] = nm;
+            for (std::uint32_t k = table.start[at]; k < table.start[at + 1]; ++k) {
+                const Arc& arc = table.arcs[k];
+                if (nm + arc.nm >= best[arc.to]) {
+                    continue;
+                }
+                best[arc.to] = nm + arc.nm;
+                const std::size_t there = sliceOf(best[arc.to]);
+                slices.resize(std::max(slices.size(), there + 1));
+                slices[there].push_back(arc.to);
+            }
         }
     }
     return best;
