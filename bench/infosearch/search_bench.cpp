@@ -7,11 +7,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include "host/ports/PlaceTable.h"
 #include "host/ports/search/Aliases.h"
 #include "host/ports/search/PortIndex.h"
-#include "host/ports/PlaceTable.h"
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 namespace {
 
@@ -41,4 +41,4 @@ void Search(benchmark::State& state) {
 
 BENCHMARK(Search)->DenseRange(0, std::size(kTyped) - 1)->Unit(benchmark::kMicrosecond);
 
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 namespace {
 
@@ -140,4 +140,4 @@ std::vector<Port> PortsOf(const std::vector<Ports::Place>& places) {
     return ports;
 }
 
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

@@ -7,7 +7,7 @@
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 namespace {
 
@@ -125,4 +125,4 @@ std::string CountryName(const std::string& code, const std::string& language) {
     return text.empty() ? code : text;
 }
 
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

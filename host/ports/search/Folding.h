@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 /// Words of a name as they are compared: small letters without marks, simplified characters.
 using Words = std::vector<std::u32string>;
@@ -39,4 +39,4 @@ std::u32string Joined(const Words& words);
 /// it is not known.
 std::string CountryName(const std::string& code, const std::string& language);
 
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

@@ -12,7 +12,7 @@
 
 #include "host/ports/search/TypingDistance.h"
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 namespace {
 
@@ -220,4 +220,4 @@ PortHit PortIndex::HitOf(const Rank& rank) const {
                                   : std::string()};
 }
 
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

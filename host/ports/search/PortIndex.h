@@ -9,7 +9,7 @@
 
 #include "host/ports/search/Folding.h"
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 /// A port that can be found.
 struct Port {
@@ -73,4 +73,4 @@ class PortIndex {
     std::vector<Words> countries_;  ///< words that go with each port's names: its country, and "port"
 };
 
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 TypingDistance::TypingDistance(std::u32string_view typed) : length_(std::min(typed.size(), kLongest)) {
     for (std::size_t i = 0; i < length_; ++i) {
@@ -68,4 +68,4 @@ std::size_t TypingDistance::To(std::u32string_view text) const {
     return fewest;
 }
 
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

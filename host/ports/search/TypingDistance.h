@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 /// How many typing errors lie between what was typed and the beginning of a word. An error is one character
 /// too many, one missing, one wrong, or two neighbours in the wrong order.
@@ -32,4 +32,4 @@ class TypingDistance {
     std::vector<std::pair<char32_t, std::uint64_t>> others_;  ///< the same of other characters
 };
 
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

@@ -86,7 +86,8 @@ void MatchWindow::Fill(const std::vector<PortHit>& hits) {
     clear();
     for (const PortHit& hit : hits) {
         const Port& port = *hit.port;
-        const QString country = QString::fromStdString(CountryName(port.unlocode.substr(0, 2), language));
+        const QString country =
+            QString::fromStdString(Ports::CountryName(port.unlocode.substr(0, 2), language));
         auto* row = new QTreeWidgetItem(
             this, {TitleOf(hit, chinese), country, QString::fromStdString(port.unlocode)});
         row->setData(0, Qt::UserRole, QString::fromStdString(port.name));

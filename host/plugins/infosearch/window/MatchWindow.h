@@ -9,6 +9,10 @@
 
 namespace Tarvik::InfoSearch {
 
+using Ports::Port;
+using Ports::PortHit;
+using Ports::PortIndex;
+
 /// The ports that fit what is typed, below the field of a port editor; a part of the editor's window. Arrows
 /// in the field lead into it. It tells the editor the name that it stands on and that one was chosen
 /// (tarvik/skin/WindowMessages.h); every other key goes on to the field.

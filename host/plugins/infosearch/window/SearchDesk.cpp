@@ -11,10 +11,10 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/util/Log.h>
 
-#include "host/ports/search/Aliases.h"
 #include "host/plugins/infosearch/window/VesselFacts.h"
 #include "host/plugins/infosearch/window/Words.h"
 #include "host/ports/PlaceTable.h"
+#include "host/ports/search/Aliases.h"
 
 namespace Tarvik::InfoSearch {
 
@@ -33,7 +33,7 @@ std::vector<Port> ReadPorts(const std::string& databaseFile) {
         Util::Log(Util::LogLevel::Error,
                   "Port search: " + databaseFile + " cannot be read (" + reason + "), no port is found.");
     }
-    return PortsOf(places);
+    return Ports::PortsOf(places);
 }
 
 }  // namespace

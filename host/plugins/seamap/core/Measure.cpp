@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include <tarvik/util/DateTime.h>
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/Units.h>
 
@@ -14,7 +15,6 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-using Util::kHoursPerDay;
 constexpr int kWholeTurn = 360;
 
 /// How the kit calls a track.
@@ -46,9 +46,10 @@ std::string HoursText(double miles, double knots) {
     if (!(knots > 0)) {
         return {};
     }
+    constexpr double hoursPerDay = double(Util::kCsecsPerDay) / Util::kCsecsPerHour;
     const double hours = miles / knots;
     const std::string text = fmt::format("{:.1f} h", hours);
-    return hours < kHoursPerDay ? text : text + fmt::format(" ({:.1f} d)", hours / kHoursPerDay);
+    return hours < hoursPerDay ? text : text + fmt::format(" ({:.1f} d)", hours / hoursPerDay);
 }
 
 void Measure::Add(GeoPoint place) {

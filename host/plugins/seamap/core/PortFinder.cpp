@@ -16,6 +16,13 @@ namespace Tarvik::Seamap {
 
 namespace {
 
+std::string SecondsText(double degrees, int width, const char* letters) {
+    constexpr long kSixty = 60;  // minutes of a degree, seconds of a minute
+    const long all = std::lround(std::fabs(degrees) * kSixty * kSixty);
+    return fmt::format("{:0{}}°{:02}'{:02}\"{}", all / (kSixty * kSixty), width, all / kSixty % kSixty,
+                       all % kSixty, letters[degrees < 0 ? 1 : 0]);
+}
+
 std::string TextOf(const ChartName& port, const std::string& by) {
     std::string text = port.text;
     const std::string& other = by.empty() ? port.port : by;
@@ -39,20 +46,20 @@ PortFinder::PortFinder(const std::vector<ChartName>& names) {
                  [](const ChartName& name) { return name.kind == ChartName::Kind::Port; });
 }
 
-const InfoSearch::PortIndex& PortFinder::Index() const {
+const Ports::PortIndex& PortFinder::Index() const {
     if (!index_) {
-        std::vector<InfoSearch::Port> ports;
+        std::vector<Ports::Port> ports;
         ports.reserve(ports_.size());
         for (const ChartName& port : ports_) {
             ports.push_back({port.port, port.local, port.code, port.position.x, port.position.y,
-                             InfoSearch::AliasesOf(port.code)});
+                             Ports::AliasesOf(port.code)});
         }
-        index_ = std::make_unique<InfoSearch::PortIndex>(ports);
+        index_ = std::make_unique<Ports::PortIndex>(ports);
     }
     return *index_;
 }
 
-const ChartName* PortFinder::PortOf(const InfoSearch::Port& found) const {
+const ChartName* PortFinder::PortOf(const Ports::Port& found) const {
     const auto port = std::find_if(ports_.begin(), ports_.end(), [&](const ChartName& name) {
         return name.port == found.name && name.code == found.unlocode;
     });
@@ -65,7 +72,7 @@ std::vector<Destination> PortFinder::Find(const std::string& typed, std::size_t 
         return {{position, FormatPosition(position), nullptr}};
     }
     std::vector<Destination> found;
-    for (const InfoSearch::PortHit& hit : Index().Search(typed, limit)) {
+    for (const Ports::PortHit& hit : Index().Search(typed, limit)) {
         if (const ChartName* port = PortOf(*hit.port)) {
             found.push_back({port->position, TextOf(*port, hit.by), port});
         }

@@ -40,11 +40,11 @@ class PortFinder {
     const ChartName* Nearest(GeoPoint place) const;
 
   private:
-    const InfoSearch::PortIndex& Index() const;
-    const ChartName* PortOf(const InfoSearch::Port& found) const;
+    const Ports::PortIndex& Index() const;
+    const ChartName* PortOf(const Ports::Port& found) const;
 
     std::vector<ChartName> ports_;
-    mutable std::unique_ptr<InfoSearch::PortIndex> index_;  ///< made at the first question
+    mutable std::unique_ptr<Ports::PortIndex> index_;  ///< made at the first question
 };
 
 }  // namespace Tarvik::Seamap

@@ -18,7 +18,6 @@ constexpr double kCutMargin = 16;
 constexpr int kGraticuleAlpha = 150;
 /// Pixels between points that are told apart.
 constexpr double kFillDetail = 0;  ///< leaving points out would tear open the seams between cells
-constexpr double kCoastDetail = 0.7;
 
 bool IsSeen(const CoastData::Shape& shape, const MercatorView& view, int turn, const QRect& clip) {
     const PixelPoint upper = view.ToScreen(WorldPoint{shape.minX, shape.minY}, turn);
@@ -142,14 +141,14 @@ void BaseLayer::DrawCoasts(QPainter& painter, const CoastData::Level& level) {
                 DrawLongCoast(painter, level.PointsOf(shape), turn);
                 continue;
             }
-            Trace(level.PointsOf(shape), turn, kCoastDetail);
+            Trace(level.PointsOf(shape), turn, kLineDetail);
             painter.drawPolyline(trace_.data(), static_cast<int>(trace_.size()));
         }
     }
 }
 
 void BaseLayer::DrawLongCoast(QPainter& painter, std::span<const WorldPoint> points, int turn) {
-    for (const PolylineRun& run : ClipPolyline(points, view_, turn, kCutMargin, kCoastDetail)) {
+    for (const PolylineRun& run : ClipPolyline(points, view_, turn, kCutMargin, kLineDetail)) {
         trace_.clear();
         for (const PixelPoint& point : run.points) {
             trace_.emplace_back(point.x, point.y);

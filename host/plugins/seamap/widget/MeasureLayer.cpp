@@ -5,6 +5,8 @@
 #include <QPolygonF>
 #include <algorithm>
 
+#include <tarvik/skin/Palette.h>
+
 #include "host/plugins/seamap/core/PolylineClip.h"
 
 namespace Tarvik::Seamap {
@@ -50,7 +52,7 @@ void MeasureLayer::DrawLeg(QPainter& painter, const MercatorView& view, const Me
 void MeasureLayer::DrawText(QPainter& painter, QPointF start, const std::string& text,
                             const ChartPalette& palette) {
     QFont font = painter.font();
-    font.setPixelSize(kLineTextPixels);
+    font.setPixelSize(Skin::kTablePixels);
     painter.setFont(font);
     texts_.Draw(painter, start, QString::fromStdString(text), QColor(palette.text), QColor(palette.halo));
 }
@@ -101,7 +103,7 @@ void MeasureLayer::DrawMark(QPainter& painter, const MercatorView& view, const C
     }
     painter.setBrush(QColor(palette.accent));
     painter.drawEllipse(middle, 1.5, 1.5);
-    DrawText(painter, {at.x + kRing + kAway, at.y + kLineTextPixels / 2.0 - 2}, FormatPosition(place),
+    DrawText(painter, {at.x + kRing + kAway, at.y + Skin::kTablePixels / 2.0 - 2}, FormatPosition(place),
              palette);
     painter.restore();
 }

@@ -5,7 +5,7 @@
 
 #include "host/ports/search/Folding.h"
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 namespace {
 
@@ -47,4 +47,4 @@ TEST(Folding, CountriesAreNamedInTheLanguageAskedFor) {
 }
 
 }  // namespace
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

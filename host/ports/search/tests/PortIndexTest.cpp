@@ -7,7 +7,7 @@
 
 #include "host/ports/search/PortIndex.h"
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -85,4 +85,4 @@ TEST_F(PortIndexTest, KeepsToTheLimitAndAnswersNothingToNothing) {
 }
 
 }  // namespace
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

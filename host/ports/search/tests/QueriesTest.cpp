@@ -6,11 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include "host/ports/PlaceTable.h"
 #include "host/ports/search/Aliases.h"
 #include "host/ports/search/PortIndex.h"
-#include "host/ports/PlaceTable.h"
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 namespace {
 
@@ -55,4 +55,4 @@ TEST(Queries, PortsAreFoundByTheirWholeNamesAndCodes) {
 }
 
 }  // namespace
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

@@ -8,7 +8,7 @@
 
 #include "host/ports/search/TypingDistance.h"
 
-namespace Tarvik::InfoSearch {
+namespace Tarvik::Ports {
 
 namespace {
 
@@ -64,4 +64,4 @@ TEST(TypingDistance, LongerTextsAreCut) {
 }
 
 }  // namespace
-}  // namespace Tarvik::InfoSearch
+}  // namespace Tarvik::Ports

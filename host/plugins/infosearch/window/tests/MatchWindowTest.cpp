@@ -139,14 +139,14 @@ TEST(MatchRows, TellTheOtherNameThatFitsAndInChineseAlwaysTheChineseOne) {
     MatchWindow window(&editor);
     {
         const TestSupport::PluginTexts english(LANGUAGES "/infosearch.en-US.json");
-        window.Fill({{&busan, Fit::Whole, "Pusan"}, {&busan, Fit::Whole, ""}});
+        window.Fill({{&busan, Ports::Fit::Whole, "Pusan"}, {&busan, Ports::Fit::Whole, ""}});
         EXPECT_EQ(window.topLevelItem(0)->text(0), "Busan (Pusan)");
         EXPECT_EQ(window.topLevelItem(1)->text(0), "Busan");
         EXPECT_EQ(window.topLevelItem(1)->text(1), "South Korea");
         EXPECT_EQ(window.topLevelItem(1)->text(2), "KRPUS");
     }
     const TestSupport::PluginTexts chinese(LANGUAGES "/infosearch.zh-TW.json");
-    window.Fill({{&busan, Fit::Whole, ""}});
+    window.Fill({{&busan, Ports::Fit::Whole, ""}});
     EXPECT_EQ(window.topLevelItem(0)->text(0), "Busan (釜山)");
     EXPECT_EQ(window.topLevelItem(0)->text(1), "南韓");
 }
