@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/VoyagesOnChart.h"
 
+#include <tarvik/bus/ChartContract.h>
+
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 
@@ -44,6 +46,7 @@ int VoyagesOnChart::ActivateVoyage(const VoyInfo& voyage) {
     if (voyage.vi.empty()) {
         return -1;
     }
+    Interface::Call(Interface::Bus::MapStandOut, &voyage.vi);
     const auto known = c_.chartMarks.find(voyage.vi);
     if (known != c_.chartMarks.end() && known->second.drawState == OnChart) {
         return Redraw(voyage, known->second);

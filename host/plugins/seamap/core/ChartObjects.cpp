@@ -170,6 +170,35 @@ int ChartObjects::RemoveIf(const std::function<bool(const ObjectKey&)>& test) {
     return removed;
 }
 
+void ChartObjects::StandOut(const std::string& id) {
+    standsOut_ = id;
+    Changed();
+}
+
+bool ChartObjects::StandsOut(const ObjectKey& key) const {
+    return !standsOut_.empty() && key.id.starts_with(standsOut_) &&
+           (key.id.size() == standsOut_.size() || key.id[standsOut_.size()] == '_');
+}
+
+ChartObjects::Tone ChartObjects::ToneOf(const ObjectKey& key) const {
+    if (standsOut_.empty()) {
+        return Tone::Plain;
+    }
+    if (StandsOut(key)) {
+        return Tone::Loud;
+    }
+    // Objects are sorted by layer, type and id: those of the voyage follow its own name.
+    for (auto at = places_.lower_bound({key.layer, key.type, standsOut_});
+         at != places_.end() && at->first.layer == key.layer && at->first.type == key.type &&
+         at->first.id.starts_with(standsOut_);
+         ++at) {
+        if (StandsOut(at->first)) {
+            return Tone::Quiet;
+        }
+    }
+    return Tone::Plain;
+}
+
 void ChartObjects::Changed() const {
     if (observer_) {
         observer_();

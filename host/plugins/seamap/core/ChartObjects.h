@@ -86,6 +86,12 @@ class ChartObjects {
     /// All points of all objects.
     std::vector<GeoPoint> Points() const;
 
+    /// Lets the lines of a voyage stand out, by its id; an empty one leaves all alike.
+    void StandOut(const std::string& id);
+    /// How a line stands among those of its layer and type.
+    enum class Tone { Plain, Quiet, Loud };
+    Tone ToneOf(const ObjectKey& key) const;
+
     /// The ships, which are drawn below all objects.
     ChartShips& Ships() { return ships_; }
     const ChartShips& Ships() const { return ships_; }
@@ -99,6 +105,7 @@ class ChartObjects {
   private:
     void Put(const Interface::TrvMapObjectRef& ref, std::variant<ChartLine, ChartLabel, ChartImage> shape);
     int RemoveIf(const std::function<bool(const ObjectKey&)>& test);
+    bool StandsOut(const ObjectKey& key) const;
     void Changed() const;
 
     std::map<std::string, Interface::TrvMapLayerParams> layers_;
@@ -106,6 +113,7 @@ class ChartObjects {
     std::map<ObjectKey, std::uint64_t> places_;
     std::map<std::uint64_t, ChartObject> objects_;
     std::uint64_t next_ = 0;
+    std::string standsOut_;
     ChartShips ships_;
     std::function<void()> observer_;
 };

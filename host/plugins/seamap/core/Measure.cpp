@@ -46,10 +46,10 @@ std::string HoursText(double miles, double knots) {
     if (!(knots > 0)) {
         return {};
     }
-    constexpr double hoursPerDay = double(Util::kCsecsPerDay) / Util::kCsecsPerHour;
+    constexpr double kHoursInADay = double(Util::kCsecsPerDay) / Util::kCsecsPerHour;
     const double hours = miles / knots;
     const std::string text = fmt::format("{:.1f} h", hours);
-    return hours < hoursPerDay ? text : text + fmt::format(" ({:.1f} d)", hours / hoursPerDay);
+    return hours < kHoursInADay ? text : text + fmt::format(" ({:.1f} d)", hours / kHoursInADay);
 }
 
 void Measure::Add(GeoPoint place) {

@@ -8,9 +8,6 @@
 
 namespace Tarvik::Seamap {
 
-/// Pixels between the points of a line that are told apart.
-inline constexpr double kLineDetail = 0.7;
-
 /// A stretch of a line that may be seen in the window.
 struct PolylineRun {
     std::vector<PixelPoint> points;  ///< at least two

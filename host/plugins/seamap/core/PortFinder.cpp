@@ -16,13 +16,6 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-std::string SecondsText(double degrees, int width, const char* letters) {
-    constexpr long kSixty = 60;  // minutes of a degree, seconds of a minute
-    const long all = std::lround(std::fabs(degrees) * kSixty * kSixty);
-    return fmt::format("{:0{}}°{:02}'{:02}\"{}", all / (kSixty * kSixty), width, all / kSixty % kSixty,
-                       all % kSixty, letters[degrees < 0 ? 1 : 0]);
-}
-
 std::string TextOf(const ChartName& port, const std::string& by) {
     std::string text = port.text;
     const std::string& other = by.empty() ? port.port : by;

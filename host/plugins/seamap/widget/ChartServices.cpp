@@ -75,6 +75,7 @@ void ChartServices::OfferObjects() {
 
 void ChartServices::OfferView() {
     using Interface::Offer;
+    bindings_.Keep(Offer(Bus::MapStandOut, [this](const std::string& id) { objects_.StandOut(id); }));
     bindings_.Keep(Offer(Bus::MapGetExtent, this, &ChartServices::GetExtent));
     bindings_.Keep(Offer(Bus::MapSetExtent, this, &ChartServices::SetExtent));
     bindings_.Keep(Offer(Bus::MapGetPort, [this](const std::string& id) { return ports_.Find(id); }));

@@ -17,7 +17,8 @@ namespace {
 
 constexpr double kMargin = 32;          ///< pixels around the window in which things are still drawn
 constexpr std::size_t kManyLines = 50;  ///< from here on wide pens are too slow
-constexpr double kArrowSpacing = 140;   ///< pixels between the arrows of a line
+constexpr int kRim = 140, kQuietRim = 50, kQuietAlpha = 110;  ///< of 255
+constexpr double kArrowSpacing = 140;                         ///< pixels between the arrows of a line
 constexpr double kTextGap = 4;
 constexpr double kDash = 6, kGap = 4;  ///< pixels
 
@@ -31,9 +32,17 @@ void ObjectPainter::Draw(const ChartObjects& objects, const ObjectKey* highlight
     };
     for (const auto& [place, object] : objects.InOrder()) {
         if (const auto* line = std::get_if<ChartLine>(&object.shape)) {
-            lines.push_back({line, isMarked(object)});
+            lines.push_back({line, isMarked(object), objects.ToneOf(object.key)});
         }
     }
+    // Quiet lines below, the voyage that stands out above all.
+    const auto rank = [](const Stroke& stroke) {
+        return stroke.tone == ChartObjects::Tone::Quiet   ? 0
+               : stroke.tone == ChartObjects::Tone::Plain ? 1
+                                                          : 2;
+    };
+    std::stable_sort(lines.begin(), lines.end(),
+                     [rank](const Stroke& a, const Stroke& b) { return rank(a) < rank(b); });
     DrawLines(lines);
     for (const auto& [place, object] : objects.InOrder()) {
         if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {
@@ -65,7 +74,7 @@ void ObjectPainter::DrawLines(const std::vector<Stroke>& lines) {
     painter_.setBrush(Qt::NoBrush);
     const bool thin = lines.size() >= kManyLines;
     for (const Stroke& stroke : lines) {
-        DrawLine(stroke, thin);
+        DrawLine(stroke, thin && stroke.tone != ChartObjects::Tone::Loud);
     }
 }
 
@@ -75,8 +84,14 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
     const auto turns = view_.TurnsOf(line.minX, line.maxX, line.width);
     QPen pen(QColor(look_.palette.ObjectColour(line.colour)), thin ? 1 : width, Qt::SolidLine,
              line.dashed ? Qt::FlatCap : Qt::RoundCap, Qt::RoundJoin);
+    const bool quiet = stroke.tone == ChartObjects::Tone::Quiet && !stroke.highlighted;
+    if (quiet) {
+        QColor faint = pen.color();
+        faint.setAlpha(kQuietAlpha);
+        pen.setColor(faint);
+    }
     QColor rim(look_.palette.halo);
-    rim.setAlpha(stroke.highlighted ? 255 : 140);
+    rim.setAlpha(stroke.highlighted ? 255 : quiet ? kQuietRim : kRim);
     const QPen under(rim, width + (stroke.highlighted ? 4 : 2), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     if (line.dashed) {
         pen.setDashPattern({kDash / pen.widthF(), kGap / pen.widthF()});
@@ -94,7 +109,7 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
             painter_.setPen(pen);
             if (!thin || line.width == 1) {
                 DrawRun(run.points);
-                if (!thin) {
+                if (!thin && !quiet) {
                     DrawArrows(run, pen.color());
                 }
                 continue;

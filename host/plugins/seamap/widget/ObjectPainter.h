@@ -40,6 +40,7 @@ class ObjectPainter {
     struct Stroke {
         const ChartLine* line;
         bool highlighted;
+        ChartObjects::Tone tone;
     };
     void DrawLines(const std::vector<Stroke>& lines);
     void DrawLine(const Stroke& stroke, bool thin);

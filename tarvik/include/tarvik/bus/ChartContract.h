@@ -57,6 +57,10 @@ inline constexpr Service<const TrvMapImageReg, None> MapRegisterImage{"TRV_MAP_R
 inline constexpr Service<const TrvMapObjectList, None> MapDeleteObjects{"TRV_MAP_DEL_OBJECTS"};
 /// Deletes a layer's objects of a type; the id is not read.
 inline constexpr Service<const TrvMapObjectRef, None> MapDeleteObjectsByType{"TRV_MAP_DEL_OBJECT_BY_TYPE"};
+/// Lets the lines of the voyage with this id stand out from those of the same layer and type, which become
+/// quiet: the lines that bear the id, or the id, "_" and a number. An empty id, or one without a line, leaves
+/// all alike.
+inline constexpr Service<const std::string, None> MapStandOut{"TRV_MAP_STAND_OUT"};
 /// The limits on show: a bus block (TObject.h) that the caller frees.
 inline constexpr Service<None, TrvMapExtent> MapGetExtent{"TRV_MAP_GET_EXTENT"};
 /// The longitudes of the limits for what lies around the world, in their first and third place: they are

@@ -151,5 +151,30 @@ TEST(ChartObjects, PointsCoverEveryKindOfObject) {
     EXPECT_EQ(points[3], (GeoPoint{40, 6}));
 }
 
+TEST(StandOut, TheVoyagesLinesAreLoudAndTheOthersOfTheirTypeQuiet) {
+    using Tone = ChartObjects::Tone;
+    ChartObjects objects;
+    const auto add = [&objects](const char* type, const char* id) {
+        objects.AddLine({{"VOYAGE", id, type}, {"0,0", "1,1"}, 0, 2, "solid"});
+    };
+    add("BOOK", "7_5");
+    add("BOOK", "70_5");
+    add("BOOK", "8_5");
+    add("ROUTE", "_0");
+    const auto tone = [&objects](const char* type, const char* id) {
+        return objects.ToneOf({"VOYAGE", type, id});
+    };
+    EXPECT_EQ(tone("BOOK", "7_5"), Tone::Plain);
+    objects.StandOut("7");
+    EXPECT_EQ(tone("BOOK", "7_5"), Tone::Loud);
+    EXPECT_EQ(tone("BOOK", "70_5"), Tone::Quiet) << "another voyage whose id begins alike";
+    EXPECT_EQ(tone("BOOK", "8_5"), Tone::Quiet);
+    EXPECT_EQ(tone("ROUTE", "_0"), Tone::Plain) << "what is being calculated is no voyage yet";
+    objects.StandOut("9");
+    EXPECT_EQ(tone("BOOK", "8_5"), Tone::Plain) << "nothing of it is on the chart";
+    objects.StandOut("");
+    EXPECT_EQ(tone("BOOK", "7_5"), Tone::Plain);
+}
+
 }  // namespace
 }  // namespace Tarvik::Seamap
