@@ -16,11 +16,21 @@ namespace Tarvik::Seamap {
 namespace {
 
 constexpr double kMargin = 32;          ///< pixels around the window in which things are still drawn
+constexpr double kManyDetail = 1.5;     ///< the same where there are many lines
 constexpr std::size_t kManyLines = 50;  ///< from here on wide pens are too slow
 constexpr int kRim = 140, kQuietRim = 50, kQuietAlpha = 110;  ///< of 255
 constexpr double kArrowSpacing = 140;                         ///< pixels between the arrows of a line
 constexpr double kTextGap = 4;
 constexpr double kDash = 6, kGap = 4;  ///< pixels
+
+QPolygonF PolygonOf(const PolylineRun& run) {
+    QPolygonF polygon;
+    polygon.reserve(static_cast<qsizetype>(run.points.size()));
+    for (const PixelPoint& point : run.points) {
+        polygon.append(QPointF(point.x, point.y));
+    }
+    return polygon;
+}
 
 }  // namespace
 
@@ -97,10 +107,12 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
         pen.setDashPattern({kDash / pen.widthF(), kGap / pen.widthF()});
     }
     for (int turn = turns.first; turn <= turns.last; ++turn) {
-        for (const PolylineRun& run : ClipPolyline(line.points, view_, turn, kMargin, kLineDetail)) {
+        for (const PolylineRun& run :
+             ClipPolyline(line.points, view_, turn, kMargin, thin ? kManyDetail : kLineDetail)) {
+            const QPolygonF way = PolygonOf(run);
             if (!thin) {
                 painter_.setPen(under);
-                DrawRun(run.points);
+                painter_.drawPolyline(way);
             }
             // Dashes belong to the line and not to the window: they stay in place while the view moves.
             if (line.dashed) {
@@ -108,7 +120,7 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
             }
             painter_.setPen(pen);
             if (!thin || line.width == 1) {
-                DrawRun(run.points);
+                painter_.drawPolyline(way);
                 if (!thin && !quiet) {
                     DrawArrows(run, pen.color());
                 }
@@ -116,9 +128,9 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
             }
             // Two fine lines side by side look like a wide one and stay on the fast path.
             painter_.translate(-0.33, -0.33);
-            DrawRun(run.points);
+            painter_.drawPolyline(way);
             painter_.translate(0.66, 0.66);
-            DrawRun(run.points);
+            painter_.drawPolyline(way);
             painter_.translate(-0.33, -0.33);
         }
     }
@@ -136,15 +148,6 @@ void ObjectPainter::DrawArrows(const PolylineRun& run, const QColor& colour) {
         painter_.restore();
     }
     painter_.setBrush(Qt::NoBrush);
-}
-
-void ObjectPainter::DrawRun(const std::vector<PixelPoint>& points) {
-    QPolygonF polygon;
-    polygon.reserve(static_cast<qsizetype>(points.size()));
-    for (const PixelPoint& point : points) {
-        polygon.append(QPointF(point.x, point.y));
-    }
-    painter_.drawPolyline(polygon);
 }
 
 void ObjectPainter::DrawPoint(const ChartLabel& label, bool highlighted) {

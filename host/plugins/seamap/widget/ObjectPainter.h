@@ -45,7 +45,6 @@ class ObjectPainter {
     void DrawLines(const std::vector<Stroke>& lines);
     void DrawLine(const Stroke& stroke, bool thin);
     void DrawArrows(const PolylineRun& run, const QColor& colour);
-    void DrawRun(const std::vector<PixelPoint>& points);
     void DrawPoint(const ChartLabel& label, bool highlighted);
     void DrawImage(const ChartObjects& objects, const ChartImage& image, bool highlighted);
     void DrawText(const ChartLabel& label, bool always);
