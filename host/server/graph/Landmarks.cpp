@@ -13,10 +13,10 @@ namespace Tarvik::Server {
 
 std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node) {
     constexpr float kSliceNm = 16.0F;
-    constexpr float kFar = std::numeric_limits<float>::infinity();
+    constexpr float kNotReached = std::numeric_limits<float>::infinity();
     const auto sliceOf = [](float nm) { return static_cast<std::size_t>(nm / kSliceNm); };
-    std::vector<float> best(table.start.size() - 1, kFar);
-    std::vector<float> passedOn(best.size(), kFar);
+    std::vector<float> best(table.start.size() - 1, kNotReached);
+    std::vector<float> passedOn(best.size(), kNotReached);
     std::vector<std::vector<std::uint32_t>> slices(1, {node});
     best[node] = 0.0F;
     for (std::size_t slice = 0; slice < slices.size(); ++slice) {
