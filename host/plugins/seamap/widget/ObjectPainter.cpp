@@ -119,7 +119,7 @@ void ObjectPainter::DrawLine(const Stroke& stroke, bool thin) {
                 pen.setDashOffset(std::fmod(run.start, kDash + kGap) / pen.widthF());
             }
             painter_.setPen(pen);
-            if (!thin || line.width == 1) {
+            if (!thin || line.width == 1 || quiet) {
                 painter_.drawPolyline(way);
                 if (!thin && !quiet) {
                     DrawArrows(run, pen.color());
