@@ -95,6 +95,8 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
             Keep([&user](Preferences& kept) { kept.user = user; });
             TakeOwnPorts(at);
         });
+        // Until then nobody's are shown: the table may still have those of the login before.
+        TakeOwnPorts(*link);
         return link;
     }
     auto embedded =
@@ -108,9 +110,10 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
 
 void ClientSession::TakeOwnPorts(ServerLink& link) {
     const std::string table = folders_.BusinessData("trvdb.db");
+    const std::string user = link.User(Server::kLocalUser);
+    const auto own = user.empty() ? std::vector<Ports::Place>() : LoadOwnPorts(link, user);
     std::string error;
-    if (!WritePortTable(folders_.ShareFile("trvdb.db"), table,
-                        LoadOwnPorts(link, link.User(Server::kLocalUser)), error) ||
+    if (!WritePortTable(folders_.ShareFile("trvdb.db"), table, own, error) ||
         !tables_.LoadPorts(table, error)) {
         log_.Write(error);
     }

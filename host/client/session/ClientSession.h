@@ -59,8 +59,8 @@ class ClientSession {
     ClientSession(const AppFolders& folders, const SessionOptions& options);
     bool Start(const SessionOptions& options, std::string& error);
     void TakeOptions(const SessionOptions& options);
-    /// Puts the ports of the user's own, whom the link has let in, into the table of points and the
-    /// dictionary. Without them the shipped ports stay in use.
+    /// Puts the own ports of the user whom the link has let in into the table of points and the dictionary;
+    /// none while nobody is let in. Where they cannot be put there, the ports in use stay.
     void TakeOwnPorts(ServerLink& link);
     std::unique_ptr<ServerLink> MakeLink(const std::string& server, std::string& error);
     std::string PreferencesFile() const { return folders_.Data() + "/preferences.json"; }

@@ -114,8 +114,16 @@ int RunPlan(int argc, char** argv, const CommandLine& line) {
     }
     const QtLog log(session->Log());
     Interface::PlanRequest request;
-    const PlanOutcome checked = MakePlanRequest(parsed.arguments, PortLookup(session->Ports()),
-                                                session->Services().TimeZone(), request);
+    const auto read = [&] {
+        request = {};
+        return MakePlanRequest(parsed.arguments, PortLookup(session->Ports()), session->Services().TimeZone(),
+                               request);
+    };
+    PlanOutcome checked = read();
+    if (checked.exitCode != kExitDone && session->IsRemote() && ConnectUnattended(*session, error)) {
+        // The port may be one of the user's own, which the login has brought.
+        checked = read();
+    }
     if (checked.exitCode != kExitDone) {
         return Tell(checked);
     }

@@ -113,9 +113,13 @@ TEST_F(OwnPortsTest, AreThoseOfWhoeverLogsIn) {
     link.LogOut();
     ASSERT_TRUE(link.Connect(error_)) << error_;
     EXPECT_NE(IdOf("Berth 7"), "");
-    link.LogOut();
+    Open();
+    EXPECT_EQ(IdOf("Berth 7"), "") << "nobody is logged in yet";
     user = "bert";
-    ASSERT_TRUE(link.Connect(error_)) << error_;
+    session_->SetAsker([&user](const std::string&, const std::string&, const std::string&) {
+        return std::optional(Credentials{user, "correct horse"});
+    });
+    ASSERT_TRUE(session_->Link().Connect(error_)) << error_;
     EXPECT_EQ(IdOf("Berth 7"), "");
 }
 
