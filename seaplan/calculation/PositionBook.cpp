@@ -16,6 +16,9 @@ namespace {
 
 constexpr double kLeastBookSpeed = 0.00001;
 
+/// Ports and route points of the host's table have at most this many digits, a user's own have more.
+constexpr std::size_t kShippedIdDigits = 5;
+
 /// Makes the last point of a segment the named point that the segment leads to.
 int NameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& row) {
     row.pointId = id;
@@ -26,7 +29,13 @@ int NameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& ro
     }
     const auto found = routePoints.find(id);
     if (found == routePoints.end()) {
-        return row.pst == ShortIdRoutePoint ? -5 : -6;
+        // A port of the user's own is in the dictionary, whatever digit its long id begins with.
+        row.psn = id.size() > kShippedIdDigits ? PortNameOf(id) : std::string();
+        if (row.psn.empty()) {
+            return row.pst == ShortIdRoutePoint ? -5 : -6;
+        }
+        row.pst = PortPoint;
+        return 0;
     }
     row.psn = found->second.name;
     return 0;
