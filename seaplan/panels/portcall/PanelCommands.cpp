@@ -86,7 +86,11 @@ PortCallNote PanelCommands::NoteOfRoute() const {
 
 int PanelCommands::ShowCalculated(const PortCallRows& rows, PortCallRows result) {
     KeepPortIds(rows, result);
-    return desk_.ShowChangedRows(result) == 0 ? 0 : -3;
+    if (desk_.ShowChangedRows(result) != 0) {
+        return -3;
+    }
+    desk_.Sheet().stored.NoteRoute(desk_.Sheet().table);
+    return 0;
 }
 
 /// The result stands in the voyage already, with all that was changed here: nothing is left to ask about.
@@ -108,6 +112,7 @@ int PanelCommands::ShowAndSave() {
         return 0;
     }
     sheet.stored = stored;
+    sheet.stored.NoteRoute(sheet.table);
     sheet.MarkChanged(desk_.Ports());
     return kCalculatedNotSaved;
 }

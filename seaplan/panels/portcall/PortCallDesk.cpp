@@ -24,7 +24,11 @@ PortCallDesk::Busy::Busy(PortCallDesk& desk) : view_(desk.View()) {
 }
 
 void PortCallDesk::Show() {
-    sheet_.table.MarkUnknownPorts([this](const std::string& name) { return p_.ports.Knows(name); });
+    sheet_.table.MarkPorts([this](const std::string& name) { return p_.ports.Knows(name); },
+                           sheet_.stored.RoutedPorts(sheet_.table));
+    sheet_.state.staleSummary =
+        !sheet_.state.summary.averageSpeed.empty() && !sheet_.stored.IsRouteOf(sheet_.table);
+    sheet_.state.voyage = p_.voyages.NameOf(sheet_.voyageId);
     if (!shown_ || sheet_.table != shown_->table) {
         p_.view.ShowTable(sheet_.table);
     }

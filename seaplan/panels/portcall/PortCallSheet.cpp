@@ -53,6 +53,7 @@ void PortCallSheet::ShowUnits() {
 void PortCallSheet::Clear() {
     table.ClearCells();
     state.summary = SummaryTexts();
+    stored.Clear();
     note = {};
     state.note.clear();
     ResetUnits();
@@ -100,6 +101,7 @@ int PortCallSheet::ShowHistoryAndPlan(const PortCallRows& standard, std::size_t 
         return -1;
     }
     table.ShowHistoryAndPlan(shown, history);
+    stored.NoteRoute(table);
     table.WriteTotals(shown);
     ShowSummary(standard);
     return 0;
@@ -170,6 +172,7 @@ void PortCallSheet::MarkUnchanged() {
 void PortCallSheet::MarkLoaded(const PortCallRows& standard) {
     MarkUnchanged();
     stored.Store(table, standard);
+    stored.NoteRoute(table);
 }
 
 void PortCallSheet::MarkChanged(PortDirectory& ports) {

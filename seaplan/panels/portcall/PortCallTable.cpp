@@ -207,8 +207,9 @@ void PortCallTable::ClearTotals() {
     rows_[rowCount_].Commit(cells, {});
 }
 
-void PortCallTable::MarkUnknownPorts(const std::function<bool(const std::string&)>& known) {
+void PortCallTable::MarkPorts(const std::function<bool(const std::string&)>& known, int routed) {
     for (int row = 0; row < rowCount_; ++row) {
+        rows_[row].stale = !IsBlank(row) && CompactIndex(row) >= routed;
         rows_[row].unknownPort =
             !IsBlank(row) && rows_[row].look != RowClass::Highlighted && !known(Cell(row, ColPort));
     }

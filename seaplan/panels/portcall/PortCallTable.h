@@ -21,6 +21,7 @@ struct TableRow {
     VoyPortCall record;  ///< no more than the cells show; of a blank time see PortCallTable::ReadRow
     RowClass look = RowClass::Normal;
     bool unknownPort = false;  ///< no port has the name in the row
+    bool stale = false;        ///< its computed figures are those of other ports
 
     /// Takes texts for cells, and what they tell for the record: the one place where a figure is rounded to
     /// what is shown. The id is that of the port named there.
@@ -28,7 +29,7 @@ struct TableRow {
     /// Whether both look alike.
     friend bool operator==(const TableRow& a, const TableRow& b) {
         return a.cells == b.cells && a.record.ppi == b.record.ppi && a.look == b.look &&
-               a.unknownPort == b.unknownPort;
+               a.unknownPort == b.unknownPort && a.stale == b.stale;
     }
 };
 
@@ -86,8 +87,9 @@ class PortCallTable {
     /// Figures of the totals row; nothing for fewer than two rows.
     void WriteTotals(const PortCallRows& rows);
     void ClearTotals();
-    /// Marks the rows whose port nobody knows.
-    void MarkUnknownPorts(const std::function<bool(const std::string&)>& known);
+    /// Marks the rows whose port nobody knows, and those behind the first `routed` ports, whose figures are
+    /// none of theirs.
+    void MarkPorts(const std::function<bool(const std::string&)>& known, int routed);
     /// Blanks columns 1 to 9 of every row, and forgets the start.
     void ClearCells();
     /// A free row below the last numbered one, when `row` is that one.

@@ -14,6 +14,7 @@ namespace Tarvik::Seaplan {
 /// What stands around the table.
 struct PortCallState {
     std::string caption;
+    std::string voyage{};  ///< name of the voyage on show, which stands behind the caption
     bool changed = false;
     bool canSave = false;
     bool canClear = true;
@@ -21,6 +22,7 @@ struct PortCallState {
     bool canCalculate = false;
     std::string calculateText;
     SummaryTexts summary;
+    bool staleSummary = false;  ///< the figures are those of other ports
     std::string speedUnit;
     std::string distanceUnit;
     std::string timeUnit;

@@ -40,6 +40,31 @@ void StoredRows::Store(const PortCallTable& table, const PortCallRows& standard)
     }
 }
 
+void StoredRows::Clear() {
+    rows_.clear();
+    route_.clear();
+}
+
+void StoredRows::NoteRoute(const PortCallTable& table) {
+    route_.clear();
+    for (const CellTexts& cells : FilledRows(table)) {
+        route_.push_back(cells[ColPort]);
+    }
+}
+
+int StoredRows::RoutedPorts(const PortCallTable& table) const {
+    const std::vector<CellTexts> now = FilledRows(table);
+    std::size_t same = 0;
+    while (same < now.size() && same < route_.size() && now[same][ColPort] == route_[same]) {
+        ++same;
+    }
+    return static_cast<int>(same);
+}
+
+bool StoredRows::IsRouteOf(const PortCallTable& table) const {
+    return FilledRows(table).size() == route_.size() && RoutedPorts(table) == static_cast<int>(route_.size());
+}
+
 void StoredRows::Convert(const std::string& from, const std::string& to) {
     PortCallRows rows;
     for (const Row& row : rows_) {

@@ -130,10 +130,19 @@ TEST(PortCallTable, RowActionsFollowThePlaceAmongTheFilledRows) {
 TEST(PortCallTable, UnknownPortsAreMarked) {
     PortCallTable table;
     table.WriteRows(RowsNamed(2));
-    table.MarkUnknownPorts([](const std::string& name) { return name == "P0"; });
+    table.MarkPorts([](const std::string& name) { return name == "P0"; }, 2);
     EXPECT_FALSE(table.Rows()[0].unknownPort);
     EXPECT_TRUE(table.Rows()[1].unknownPort);
     EXPECT_FALSE(table.Rows()[2].unknownPort);
+}
+
+TEST(PortCallTable, RowsBehindTheRoutesPortsAreStale) {
+    PortCallTable table;
+    table.WriteRows(RowsNamed(3));
+    table.MarkPorts([](const std::string&) { return true; }, 2);
+    EXPECT_FALSE(table.Rows()[1].stale);
+    EXPECT_TRUE(table.Rows()[2].stale);
+    EXPECT_FALSE(table.Rows()[3].stale) << "it has no port";
 }
 
 }  // namespace Tarvik::Seaplan

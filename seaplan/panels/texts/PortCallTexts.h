@@ -84,7 +84,8 @@
     KEY(9179, IDS_VIEW_CATEGORIES) \
     KEY(9174, IDS_VIEW_NOTUP) \
     KEY(9175, IDS_VIEW_NOTDOWN) \
-    KEY(9176, IDS_VIEW_NOTDELETE)
+    KEY(9176, IDS_VIEW_NOTDELETE) \
+    KEY(9230, IDS_VIEW_STALE)
 // clang-format on
 
 namespace Tarvik::Seaplan::TextIds {

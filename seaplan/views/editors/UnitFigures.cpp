@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QStyle>
 #include <QToolButton>
 
 #include <tarvik/skin/Icons.h>
@@ -83,11 +84,20 @@ void UnitFigures::ShowFigure(UnitKind kind, const std::string& value, const std:
     }
 }
 
+void UnitFigures::ShowStale(const QString& why) {
+    stale_ = why;
+    ApplyTexts();
+    for (const Figure& figure : figures_) {
+        figure.value->setProperty("warning", !why.isEmpty());
+        figure.value->style()->polish(figure.value);
+    }
+}
+
 void UnitFigures::ApplyTexts() {
     for (const Figure& figure : figures_) {
         const QString caption = ViewText(figure.look.caption);
         figure.caption->setText(caption);
-        Skin::Describe(figure.value, caption);
+        Skin::Describe(figure.value, stale_.isEmpty() ? caption : caption + QStringLiteral(": ") + stale_);
         Skin::Describe(figure.unit, ViewText(figure.look.hint));
     }
 }

@@ -42,6 +42,8 @@ class UnitFigures : public QWidget {
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }
     void ShowFigure(UnitKind kind, const std::string& value, const std::string& unit);
+    /// Puts the figures into the warning colour with this hint, or back without one.
+    void ShowStale(const QString& why);
     void ApplyTexts();
     void ApplySkin();
 
@@ -62,6 +64,7 @@ class UnitFigures : public QWidget {
     Reports reports_;
     QHBoxLayout* line_;
     std::vector<Figure> figures_;
+    QString stale_;  ///< why the figures are out of date, empty when they are not
 };
 
 }  // namespace Tarvik::Seaplan

@@ -87,19 +87,34 @@ TableCell PortCallLines::CellAt(int line, int column) const {
     }
     cell.text = QString::fromStdString(table_.Cell(line, column)).trimmed();
     cell.ink = column == ColPort && row.unknownPort ? Role::Error
+               : IsStale(line, column)              ? Role::Warning
                : row.look == RowClass::Disabled     ? Role::Secondary
                                                     : Role::Text;
     cell.bold = column == ColOrder && totals;
     return cell;
 }
 
+bool PortCallLines::IsStale(int line, int column) const {
+    const bool figure =
+        column > ColPort && column < kPortCallColumnCount && !kPortCallColumns[column].entered;
+    return figure && table_.Rows()[static_cast<std::size_t>(line)].stale &&
+           !QString::fromStdString(table_.Cell(line, column)).trimmed().isEmpty();
+}
+
 QString PortCallLines::TipAt(int line, int column) const {
     if (column == kPortCallImageColumn) {
         return {};
     }
-    return column == ColPort && table_.Rows()[static_cast<std::size_t>(line)].unknownPort
-               ? ViewText(TextIds::IDS_VIEW_UNKNOWNPORT)
-               : QString::fromStdString(table_.Cell(line, column)).trimmed();
+    if (column == ColPort && table_.Rows()[static_cast<std::size_t>(line)].unknownPort) {
+        return ViewText(TextIds::IDS_VIEW_UNKNOWNPORT);
+    }
+    const QString text = QString::fromStdString(table_.Cell(line, column)).trimmed();
+    const QString words = WordsAt(line, column);
+    return words.isEmpty() ? text : text + u'\n' + words;
+}
+
+QString PortCallLines::WordsAt(int line, int column) const {
+    return IsStale(line, column) ? ViewText(TextIds::IDS_VIEW_STALE) : QString();
 }
 
 QString PortCallLines::ImageTipAt(int line, const std::string& name) const {
@@ -107,8 +122,9 @@ QString PortCallLines::ImageTipAt(int line, const std::string& name) const {
     for (const RowImageEntry& image : kImages) {
         if (name == image.name) {
             const bool tellsWhy = !(can.*image.enabled) && image.whyNot;
-            // What keeps a row from being removed keeps it from being moved as well.
-            const TextId reason = can.remove ? image.whyNot.value_or(image.tip) : TextIds::IDS_VIEW_NOTDELETE;
+            // What keeps a row with a port from being removed keeps it from being moved as well.
+            const bool belowBlank = can.remark && !can.remove;
+            const TextId reason = belowBlank ? TextIds::IDS_VIEW_NOTDELETE : image.whyNot.value_or(image.tip);
             const std::string why = tellsWhy ? ": " + Text(reason) : std::string();
             return QString::fromStdString(Text(image.tip) + why);
         }

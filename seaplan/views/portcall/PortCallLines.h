@@ -19,9 +19,13 @@ class PortCallLines final : public TableLines {
     int Count() const override { return static_cast<int>(table_.Rows().size()); }
     TableCell CellAt(int line, int column) const override;
     QString TipAt(int line, int column) const override;
+    QString WordsAt(int line, int column) const override;
     QString ImageTipAt(int line, const std::string& image) const override;
 
   private:
+    /// Whether a cell shows a figure that belongs to other ports.
+    bool IsStale(int line, int column) const;
+
     PortCallTable table_;
 };
 

@@ -33,6 +33,7 @@ void PortCallSummary::ShowState(const PortCallState& state) {
     ShowFigure(UnitKind::Speed, state.summary.averageSpeed, state.speedUnit);
     ShowFigure(UnitKind::Distance, state.summary.totalDistance, state.distanceUnit);
     ShowFigure(UnitKind::Time, state.summary.totalTime, state.timeUnit);
+    ShowStale(state.staleSummary ? ViewText(TextIds::IDS_VIEW_STALE) : QString());
     zone_->setText(state.zone.empty()
                        ? QString()
                        : ViewText(TextIds::IDS_VIEW_ZONE) + u' ' + QString::fromStdString(state.zone));

@@ -77,6 +77,9 @@ void PortCallWindow::ShowTable(const PortCallTable& table) {
 
 void PortCallWindow::ShowState(const PortCallState& state) {
     state_ = state;
+    ShowCaption(state.voyage.empty() ? state.caption : state.caption + " - " + state.voyage, state.changed);
+    // The window system knows the window by its plain title, whatever voyage is on show.
+    setWindowTitle(QString::fromStdString(state.caption));
     buttons_->ShowState(state);
     summary_->ShowState(state);
     const QString note = QString::fromStdString(state.note);

@@ -54,6 +54,8 @@ class TableLines {
     virtual TableCell CellAt(int line, int column) const = 0;
     /// What a cell tells beyond its text; empty for none.
     virtual QString TipAt(int line, int column) const = 0;
+    /// What a cell says to a screen reader behind its title and text; mostly nothing.
+    virtual QString WordsAt(int /*line*/, int /*column*/) const { return {}; }
     /// What an image does, or why it does nothing now.
     virtual QString ImageTipAt(int /*line*/, const std::string& /*image*/) const { return {}; }
 };

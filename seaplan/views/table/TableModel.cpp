@@ -43,6 +43,13 @@ int TableModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
 
+QString TableModel::AccessibleText(const QModelIndex& index) const {
+    const QString title = headerData(index.column(), Qt::Horizontal, Qt::ToolTipRole).toString();
+    const QString words = lines_->WordsAt(index.row(), index.column());
+    const QString text = title + u' ' + CellAt(index).text;
+    return words.isEmpty() ? text : text + u' ' + words;
+}
+
 QVariant TableModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rowCount()) {
         return {};
@@ -54,8 +61,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
         case Qt::ToolTipRole:
             return lines_->TipAt(index.row(), index.column());
         case Qt::AccessibleTextRole:
-            return QString(headerData(index.column(), Qt::Horizontal, Qt::ToolTipRole).toString() + u' ' +
-                           CellAt(index).text);
+            return AccessibleText(index);
         case Qt::TextAlignmentRole:
             return static_cast<int>(column.alignment | Qt::AlignVCenter);
         default:

@@ -26,6 +26,8 @@ class TableModel final : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    QString AccessibleText(const QModelIndex& index) const;
+
     std::vector<TableColumn> columns_;
     std::shared_ptr<const TableLines> lines_;
 };

@@ -17,6 +17,7 @@ QFrame[panel="true"] { background: @border; }
 #changedMark { color: @captionText; }
 QLabel { color: @text; font-size: 13px; }
 QLabel[secondary="true"] { color: @secondary; font-size: 12px; }
+QLabel[warning="true"] { color: @warning; }
 QToolButton { border: 1px solid transparent; border-radius: 3px; padding: 2px; color: @text; font-size: 13px;
   background: transparent; }
 QToolButton:hover { background: @selection; }

@@ -116,6 +116,17 @@ TEST_F(TableAfterBookTest, ASaveThatFailsLeavesThemForTheNextOne) {
     EXPECT_THAT(Speeds(), AsTyped());
 }
 
+TEST_F(TableAfterBookTest, ABookThatCannotBeShownOpensNothing) {
+    OpenBook();
+    book.Commands().OnClose();
+    ASSERT_FALSE(bookView.visible);
+    store.voyages[kept].positionBook.points.front().pst = PlainPoint;
+    panel.Commands().OnPositionBook();
+    EXPECT_FALSE(bookView.visible);
+    EXPECT_TRUE(view.Enabled());
+    EXPECT_TRUE(messages.messages.empty());
+}
+
 }  // namespace
 
 }  // namespace Tarvik::Seaplan
