@@ -18,6 +18,7 @@ class BookLines final : public TableLines {
     int Count() const override { return sheet_.LineCount(); }
     TableCell CellAt(int line, int column) const override;
     QString TipAt(int line, int column) const override;
+    bool IsCopied(int line) const override { return sheet_.IsRow(line); }
 
   private:
     BookSheet sheet_;

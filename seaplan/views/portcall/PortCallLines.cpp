@@ -80,7 +80,7 @@ TableCell PortCallLines::CellAt(int line, int column) const {
     TableCell cell;
     cell.ground = GroundOf(row.look, totals);
     if (column == kPortCallImageColumn) {
-        if (table_.IsNumbered(line) && !table_.IsBlank(line)) {
+        if (IsCopied(line)) {
             cell.images = ImagesOf(ActionsOf(table_, line));
         }
         return cell;

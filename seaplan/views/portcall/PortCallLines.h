@@ -20,6 +20,7 @@ class PortCallLines final : public TableLines {
     TableCell CellAt(int line, int column) const override;
     QString TipAt(int line, int column) const override;
     QString WordsAt(int line, int column) const override;
+    bool IsCopied(int line) const override { return table_.IsNumbered(line) && !table_.IsBlank(line); }
     QString ImageTipAt(int line, const std::string& image) const override;
 
   private:

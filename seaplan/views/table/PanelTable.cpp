@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/table/PanelTable.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -8,6 +10,7 @@
 #include <QToolTip>
 
 #include "seaplan/views/editors/QtKeys.h"
+#include "seaplan/views/table/CopiedRows.h"
 #include "seaplan/views/table/TableDelegate.h"
 
 namespace Tarvik::Seaplan {
@@ -115,6 +118,13 @@ void PanelTable::mousePressEvent(QMouseEvent* event) {
 }
 
 void PanelTable::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        const QString rows = RowsAsText(model_);
+        if (!rows.isEmpty()) {
+            QApplication::clipboard()->setText(rows);
+        }
+        return;
+    }
     const QModelIndex index = currentIndex();
     if (index.isValid() && reports_.key && reports_.key(PressOf(*event), index.row(), index.column())) {
         return;

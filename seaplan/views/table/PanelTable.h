@@ -19,7 +19,7 @@ inline constexpr int kTableHeader = 34;  ///< height of its titles
 void SetUpRows(QAbstractItemView& rows);
 
 /// A table with fixed columns and rows over whose cells its panel opens editors. It shows columns and lines
-/// that its panel makes, and reports clicks on cells and on the images of rows.
+/// that its panel makes, and reports clicks on cells and on the images of rows. Ctrl+C copies its lines.
 class PanelTable final : public QTableView {
   public:
     /// A table of this object name that is never less than so many lines high.

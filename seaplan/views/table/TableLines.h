@@ -56,6 +56,8 @@ class TableLines {
     virtual QString TipAt(int line, int column) const = 0;
     /// What a cell says to a screen reader behind its title and text; mostly nothing.
     virtual QString WordsAt(int /*line*/, int /*column*/) const { return {}; }
+    /// Whether a line is one of those that are copied, and no blank one or one of totals.
+    virtual bool IsCopied(int line) const = 0;
     /// What an image does, or why it does nothing now.
     virtual QString ImageTipAt(int /*line*/, const std::string& /*image*/) const { return {}; }
 };

@@ -19,6 +19,7 @@ class TableModel final : public QAbstractTableModel {
     /// The cell at a valid index of this model.
     TableCell CellAt(const QModelIndex& index) const;
     QString ImageTipAt(const QModelIndex& index, const std::string& image) const;
+    bool IsCopied(int row) const { return lines_->IsCopied(row); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

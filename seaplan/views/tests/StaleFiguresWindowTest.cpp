@@ -22,7 +22,10 @@ class StaleFiguresWindowTest : public PortCallWindowTest {
         QApplication::processEvents();
     }
     QModelIndex At(int row, int column) { return Table().model()->index(row, column); }
-    bool IsStale(int row, int column) { return At(row, column).data(PortCallModel::kStaleRole).toBool(); }
+    bool IsStale(int row, int column) {
+        return static_cast<const TableModel*>(Table().model())->CellAt(At(row, column)).ink ==
+               Skin::Role::Warning;
+    }
     QColor SummaryColour() {
         auto* value = Find<QLabel>(PortCalls(), "totalDistance");
         value->ensurePolished();
@@ -61,12 +64,14 @@ TEST_F(StaleFiguresWindowTest, TheCaptionNamesTheVoyageInAnyLanguage) {
 }
 
 TEST_F(StaleFiguresWindowTest, AnImageBelowABlankRowTellsToFillIt) {
-    RowActions below;
-    below.remark = true;
+    PortCallTable table;
+    table.SetPort(0, "ROTTERDAM", "1");
+    table.SetPort(2, "HAMBURG", "2");
+    const PortCallLines lines(table);
     for (const char* image : {PortCallImage::kMoveUp, PortCallImage::kMoveDown, PortCallImage::kDelete}) {
-        EXPECT_TRUE(PortCallDelegate::ImageTip(image, below).contains("blank row")) << image;
+        EXPECT_TRUE(lines.ImageTipAt(2, image).contains("blank row")) << image;
     }
-    EXPECT_FALSE(PortCallDelegate::ImageTip(PortCallImage::kRemark, below).contains("blank row"));
+    EXPECT_FALSE(lines.ImageTipAt(2, PortCallImage::kRemark).contains("blank row"));
 }
 
 }  // namespace
