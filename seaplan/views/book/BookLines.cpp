@@ -64,7 +64,8 @@ TableCell BookLines::CellAt(int line, int column) const {
         cell.canBeFront = false;
         return cell;
     }
-    if (sheet_.IsLocked(line)) {
+    // The number is the list's own, which no ship passes.
+    if (sheet_.IsLocked(line) && column != BookOrder) {
         cell.ground = Role::History;
         cell.ink = Role::Secondary;
     }
