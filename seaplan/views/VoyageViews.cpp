@@ -38,7 +38,8 @@ VoyageViews::VoyageViews(Parts parts)
       distances_({[parts] { return new KeepTableWindow(parts.mainView); },
                   [this](KeepTableWindow& window) { return MakeDistances(window); }}),
       panel_({parts.store, parts.catalog, parts.voyages, *voyageWindow_, voyageWindow_->FilterPopup(),
-              voyageWindow_->Search(), tree_, [this] { return portCalls_.Made(); }}) {
+              voyageWindow_->Search(), tree_, [this] { return portCalls_.Made(); },
+              [this] { HideAfterPortCalls(); }}) {
     tree_.SetPortCallPanel([this] { return &portCalls_.Use(); });
     tree_.Notes().SetRemarks([this](TreeRow row, int type, const std::string& id, const std::string& name) {
         return remarks_.Use().Open(row, type, id, name);
@@ -98,6 +99,17 @@ std::unique_ptr<CBunkerDlg> VoyageViews::MakeBunkers(VoyageStore& store, BunkerW
             return voyage == nullptr ? std::string() : voyage->vn;
         },
         [this] { return TreePlace(); }});
+}
+
+void VoyageViews::HideAfterPortCalls() {
+    for (PanelPlace<CRemarkPanel, RemarkWindow>* remarks : {&remarks_, &portCallRemarks_}) {
+        if (CRemarkPanel* panel = remarks->Made()) {
+            panel->OnLogout();
+        }
+    }
+    if (CPortDistTabDlg* panel = distances_.Made()) {
+        panel->OnLogout();
+    }
 }
 
 void VoyageViews::ShowSaved(const std::string& vi) {

@@ -66,6 +66,7 @@ class VoyageViews final {
     std::unique_ptr<CBunkerDlg> MakeBunkers(VoyageStore& store, BunkerWindow& window);
     /// Where the tree stands on the screen; nowhere when its window is gone.
     Rect TreePlace() const { return voyageWindow_ ? OnScreen(voyageWindow_->Tree()) : Rect(); }
+    void HideAfterPortCalls();
     void ShowSaved(const std::string& vi);
 
     QPointer<VoyagePanelWindow> voyageWindow_;

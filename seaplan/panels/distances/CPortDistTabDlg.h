@@ -51,6 +51,7 @@ class CPortDistTabDlg final : public Core::TObject {
     void OnClose();
 
     void ApplyLanguage();
+    using LogoutByMainView = void;
     void OnLogout() { OnClose(); }
 
   private:

@@ -100,6 +100,9 @@ void SeaplanViewDlg::OnLogout() {
     if (CPortCallPanelDlg* portCalls = p_.portCalls ? p_.portCalls() : nullptr) {
         portCalls->HideAfterLogout();
     }
+    if (p_.hideAfterPortCalls) {
+        p_.hideAfterPortCalls();
+    }
 }
 
 void SeaplanViewDlg::OnTimeZone(const std::string* /*zone*/) {

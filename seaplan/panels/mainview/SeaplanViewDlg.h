@@ -34,6 +34,8 @@ class SeaplanViewDlg final : public Core::TObject {
         SeaplanTreeCtrl& tree;
         std::function<CPortCallPanelDlg*()>
             portCalls;  ///< null while it is not made; empty where there is none
+        /// Hides the remarks and then the port distance table at a logout; empty where there are none.
+        std::function<void()> hideAfterPortCalls{};
     };
     explicit SeaplanViewDlg(const Parts& parts);
 

@@ -41,6 +41,7 @@ class CRemarkPanel {
 
     void ApplyLanguage();
     /// Forgets object and remarks without a question: another user's objects may have the same ids.
+    using LogoutByMainView = void;
     void OnLogout();
     /// The times on show were read in the zone before. Where they cannot be read anew, they stay.
     void OnTimeZone(const std::string& zone);

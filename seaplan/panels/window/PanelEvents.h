@@ -11,7 +11,8 @@ namespace Tarvik::Seaplan {
 
 /// What the client tells every panel, bound by the one line that makes this: a change of language goes to the
 /// panel's ApplyLanguage(), a logout to OnLogout(), a change of the user's zone to OnTimeZone(zone). A panel
-/// without one of them does not hear of it. The panel outlives this.
+/// without one of them does not hear of it, and one whose LogoutByMainView is a type leaves the logout to the
+/// main view, which hides the panels in their order. The panel outlives this.
 template <class Panel>
 class PanelEvents {
   public:
@@ -20,7 +21,8 @@ class PanelEvents {
         if constexpr (requires { panel.ApplyLanguage(); }) {
             bindings_.Keep(Interface::Subscribe(Bus::SwitchLanguage, [&panel] { panel.ApplyLanguage(); }));
         }
-        if constexpr (requires { panel.OnLogout(); }) {
+        if constexpr (
+            requires { panel.OnLogout(); } && !requires { typename Panel::LogoutByMainView; }) {
             bindings_.Keep(Interface::Subscribe(Bus::Logout, [&panel] { panel.OnLogout(); }));
         }
         if constexpr (requires(const std::string& zone) { panel.OnTimeZone(zone); }) {
