@@ -46,6 +46,11 @@ VoyageViews::VoyageViews(Parts parts)
     });
     tree_.Notes().SetConsumption(
         [this](const BunkerFigures& figures, bool editable) { bunkers_.Use().Open(figures, editable); });
+    tree_.Context().namesChanged = [this] {
+        if (CBunkerDlg* figures = bunkers_.Made()) {
+            figures->OnVoyageSet();
+        }
+    };
     voyageWindow_->Attach(&panel_, &tree_);
     panel_.ApplyLanguage();
     panel_.RegisterHost();
@@ -95,8 +100,10 @@ std::unique_ptr<CBunkerDlg> VoyageViews::MakeBunkers(VoyageStore& store, BunkerW
     return std::make_unique<CBunkerDlg>(CBunkerDlg::Parts{
         window, [this](const BunkerFigures& figures) { return portCalls_.Use().SaveFigures(figures); },
         [this, &store] {
-            const VoyInfo* voyage = store.FindVoyage(portCalls_.Use().NextVoyage());
-            return voyage == nullptr ? std::string() : voyage->vn;
+            const std::string& vi = portCalls_.Use().NextVoyage();
+            const VoyInfo* voyage = store.FindVoyage(vi);
+            // The record of a destroyed voyage stays until the logout.
+            return voyage == nullptr || StateOfVoyage(store, vi) == Destroyed ? std::string() : voyage->vn;
         },
         [this] { return TreePlace(); }});
 }

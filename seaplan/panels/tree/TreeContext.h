@@ -47,6 +47,8 @@ struct TreeContext : TreeState {
     VoyController& voyages;
     TreeWidget& tree;
     Boxes boxes;
+    std::function<void()>
+        namesChanged;                ///< hears that a voyage was renamed or is gone; empty where nobody cares
     std::function<void()> rowsMade;  ///< hears that rows were made anew; empty where nobody cares
     std::function<void(const std::string&)> line;  ///< shows one line below the rows; empty without a window
     TreeSteps steps;
@@ -55,6 +57,13 @@ struct TreeContext : TreeState {
     void Say(const std::string& text) const {
         if (line) {
             line(text);
+        }
+    }
+
+    /// Tells those who show a voyage's name that it may have changed.
+    void TellNames() const {
+        if (namesChanged) {
+            namesChanged();
         }
     }
 

@@ -125,6 +125,7 @@ int TreeRename::CommitVoyage(TreeRow row, const std::string& name) {
     c_.steps.Note(std::move(step));
     c_.voyageNames[name] = InUse;
     c_.tree.SetItemText(row, name);
+    c_.TellNames();
     return 0;
 }
 

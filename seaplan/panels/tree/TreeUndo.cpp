@@ -80,6 +80,7 @@ bool TreeUndo::Rename(const TreeStep& step) {
         c.tree.SetItemText(row, step.name);
         c.tree.SetCursor(row);
     }
+    c.TellNames();
     return true;
 }
 

@@ -152,6 +152,7 @@ int VoyageCommands::Clear() {
     }
     p_.context.voyageNames[voyage.vn] = Destroyed;
     p_.context.steps.Forget(voyage.vi, true);
+    p_.context.TellNames();
     return DropRow();
 }
 
