@@ -9,10 +9,7 @@
 
 namespace Tarvik::Seaplan {
 
-namespace {
-
-/// Rows in the order on the screen, without those that are folded away or put aside by a search.
-std::vector<TreeRow> ShownRows(const TreeWidget& tree) {
+std::vector<TreeRow> RowsOnScreen(const TreeWidget& tree) {
     std::vector<TreeRow> rows;
     const auto add = [&](TreeRow row) {
         if (tree.GetRowFinding(row) != RowFinding::Aside) {
@@ -32,8 +29,6 @@ std::vector<TreeRow> ShownRows(const TreeWidget& tree) {
     return rows;
 }
 
-}  // namespace
-
 bool TreeKeys::ClickFirst(TreeRow row, std::initializer_list<const char*> items) {
     for (const char* item : items) {
         if (tree_.IsItemVisible(row, item)) {
@@ -45,7 +40,7 @@ bool TreeKeys::ClickFirst(TreeRow row, std::initializer_list<const char*> items)
 }
 
 void TreeKeys::Step(TreeRow from, bool down) {
-    const std::vector<TreeRow> rows = ShownRows(tree_);
+    const std::vector<TreeRow> rows = RowsOnScreen(tree_);
     if (rows.empty()) {
         return;
     }

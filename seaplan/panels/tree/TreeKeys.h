@@ -4,11 +4,15 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+/// Rows in the order on the screen, without those that are folded away or put aside by a search.
+std::vector<TreeRow> RowsOnScreen(const TreeWidget& tree);
 
 /// What the keys do in the tree: Up and Down walk the rows, Right and Left fold, Enter and Space press, F2
 /// renames, Insert adds a voyage or a category, Delete moves to the recycle bin, and out of it for good.

@@ -21,6 +21,7 @@
 #include "seaplan/views/tree/RenameField.h"
 #include "seaplan/views/tree/RowDelegate.h"
 #include "seaplan/views/tree/RowModel.h"
+#include "seaplan/views/tree/TreeReach.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"
 #include "seaplan/views/window/ChoiceBox.h"
 #include "seaplan/views/window/ViewText.h"
@@ -122,24 +123,24 @@ void VoyageTreeView::mousePressEvent(QMouseEvent* event) {
         return;
     }
     setFocus(Qt::MouseFocusReason);
-    pressedRow_ = RowAt(event->pos());
-    pressedPoint_ = event->pos();
-    const auto parts = PartsOf(pressedRow_);
+    pressed_.row = RowAt(event->pos());
+    pressed_.point = event->pos();
+    const auto parts = PartsOf(pressed_.row);
     const SubItem* part = SubItemAt(parts, event->pos());
-    pressedItem_ = part == nullptr ? std::string() : part->name;
+    pressed_.item = part == nullptr ? std::string() : part->name;
     if (reports_.pressed) {
-        reports_.pressed(pressedRow_, part == nullptr);
+        reports_.pressed(pressed_.row, part == nullptr);
     }
 }
 
 void VoyageTreeView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || pressedItem_.empty()) {
+    if (event->button() != Qt::LeftButton || pressed_.item.empty()) {
         return;
     }
-    const TreeRow row = pressedRow_;
-    const std::string item = std::exchange(pressedItem_, {});
+    const TreeRow row = pressed_.row;
+    const std::string item = std::exchange(pressed_.item, {});
     // The press may have changed heights, so that another row lies under a pointer that has not moved.
-    const bool still = (event->pos() - pressedPoint_).manhattanLength() < QApplication::startDragDistance();
+    const bool still = (event->pos() - pressed_.point).manhattanLength() < QApplication::startDragDistance();
     if (rows_->Row(row) != nullptr && (still || RowAt(event->pos()) == row) && HasCommand(item) &&
         reports_.clicked) {
         reports_.clicked(row, item);
@@ -202,6 +203,7 @@ bool VoyageTreeView::focusNextPrevChild(bool next) {
     }
     focusPart_ = target;
     viewport()->update();
+    TellFocus(*this);
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/tree/TreeRows.h"
 #include "seaplan/views/tree/RowLayout.h"
+#include "seaplan/views/tree/TreeAccessFactory.h"
 
 namespace Tarvik::Seaplan {
 
@@ -65,6 +66,7 @@ class VoyageTreeView : public QTreeView {
 
   private:
     friend class VoyageTreeWidget;
+    friend class TreeReach;
     TreeRow RowAt(const QPoint& point) const;
     bool HasCommand(const std::string& item) const {
         return reports_.hasCommand && reports_.hasCommand(item);
@@ -79,10 +81,13 @@ class VoyageTreeView : public QTreeView {
     RenameField* rename_;
     ChoiceBox* sortPopup_;
     QString emptyHint_;
-    TreeRow pressedRow_ = kNoRow;
-    std::string pressedItem_;
-    QPoint pressedPoint_;
+    struct {
+        TreeRow row = kNoRow;
+        std::string item{};
+        QPoint point{};
+    } pressed_;
     int focusPart_ = -1;
+    TreeAccessFactory access_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -3,13 +3,22 @@
 
 #include <QCursor>
 
+#include "seaplan/panels/tree/TreeKeys.h"
 #include "seaplan/views/tree/VoyageTreeView.h"
 
 namespace Tarvik::Seaplan {
 
 QStandardItem* VoyageTreeWidget::ItemOf(TreeRow row) const {
     const auto it = items_.find(row);
-    return it == items_.end() ? nullptr : it->second;
+    return it == items_.end() ? nullptr : it->second.item;
+}
+
+const std::vector<TreeRow>& VoyageTreeWidget::ShownRows() const {
+    if (!shownKnown_) {
+        shown_ = RowsOnScreen(*this);
+        shownKnown_ = true;
+    }
+    return shown_;
 }
 
 Rect VoyageTreeWidget::GetItemRect(TreeRow row) const {
@@ -52,15 +61,17 @@ void* VoyageTreeWidget::Handle() const {
 }
 
 void VoyageTreeWidget::RowInserted(TreeRow row) {
+    shownKnown_ = false;
     auto* item = new QStandardItem(QString::fromStdString(GetItemText(row)));
     item->setData(row, Qt::UserRole);
     item->setEditable(false);
     QStandardItem* parent = ItemOf(GetParentItem(row));
     (parent == nullptr ? view_.model_->invisibleRootItem() : parent)->appendRow(item);
-    items_[row] = item;
+    items_[row] = {item, GetItemText(row)};
 }
 
 void VoyageTreeWidget::RowRemoving(TreeRow row) {
+    shownKnown_ = false;
     QStandardItem* item = ItemOf(row);
     if (item == nullptr) {
         return;
@@ -71,19 +82,22 @@ void VoyageTreeWidget::RowRemoving(TreeRow row) {
 }
 
 void VoyageTreeWidget::RowsCleared() {
+    shownKnown_ = false;
     items_.clear();
     view_.model_->removeRows(0, view_.model_->rowCount());
     view_.focusPart_ = -1;
 }
 
 void VoyageTreeWidget::RowChanged(TreeRow row) {
-    QStandardItem* item = ItemOf(row);
-    if (item == nullptr) {
+    const auto shown = items_.find(row);
+    const TreeRowState* state = Row(row);
+    if (shown == items_.end() || state == nullptr) {
         return;
     }
-    const QString text = QString::fromStdString(GetItemText(row));
-    if (item->text() != text) {
-        item->setText(text);
+    // Called many times a row while rows are made, seldom for its text.
+    if (shown->second.text != state->text) {
+        shown->second.text = state->text;
+        shown->second.item->setText(QString::fromStdString(state->text));
     }
     view_.viewport()->update();
 }
@@ -98,6 +112,7 @@ void VoyageTreeWidget::RowSelected(TreeRow row) {
 }
 
 void VoyageTreeWidget::RowFindingSet(TreeRow row, RowFinding finding) {
+    shownKnown_ = false;
     if (QStandardItem* item = ItemOf(row)) {
         const QModelIndex index = item->index();
         view_.setRowHidden(index.row(), index.parent(), finding == RowFinding::Aside);
@@ -106,6 +121,7 @@ void VoyageTreeWidget::RowFindingSet(TreeRow row, RowFinding finding) {
 }
 
 void VoyageTreeWidget::RowExpanded(TreeRow row, bool expanded) {
+    shownKnown_ = false;
     QStandardItem* item = ItemOf(row);
     if (item != nullptr) {
         view_.setExpanded(item->index(), expanded);

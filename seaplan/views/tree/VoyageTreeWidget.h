@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <map>
+#include <string>
+#include <unordered_map>
+#include <vector>
 
 #include "seaplan/panels/tree/TreeRows.h"
 #include "seaplan/views/window/KeptFocus.h"
@@ -25,6 +27,8 @@ class VoyageTreeWidget final : public TreeRows {
     void* Handle() const override;
 
     QStandardItem* ItemOf(TreeRow row) const;
+    /// Rows in the order on the screen, without those that are folded away or put aside.
+    const std::vector<TreeRow>& ShownRows() const;
 
   protected:
     void RowInserted(TreeRow row) override;
@@ -37,8 +41,15 @@ class VoyageTreeWidget final : public TreeRows {
 
   private:
     VoyageTreeView& view_;
-    std::map<TreeRow, QStandardItem*> items_;
+    /// A row's item with the text that it shows, to be compared without asking the item.
+    struct ShownItem {
+        QStandardItem* item = nullptr;
+        std::string text{};
+    };
+    std::unordered_map<TreeRow, ShownItem> items_;
     KeptFocus keyboard_;
+    mutable std::vector<TreeRow> shown_;
+    mutable bool shownKnown_ = false;
 };
 
 }  // namespace Tarvik::Seaplan
