@@ -5,7 +5,6 @@
 #include <utility>
 
 #include <benchmark/benchmark.h>
-#include <fmt/format.h>
 
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/core/TEvent.h>
@@ -13,29 +12,13 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/ServerRequest.h>
 
+#include "bench/CatalogText.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
 
 namespace {
 
 using namespace Tarvik;
-
-/// A server's answer to command 3: categories of a hundred voyages each.
-std::string CatalogOf(std::int64_t voyages) {
-    std::string text = "[";
-    for (std::int64_t i = 0; i < voyages; ++i) {
-        if (i % 100 == 0) {
-            text += fmt::format(R"({}{{"ci":"{}","cn":"Category {}","crk":"0","cd":"0","voys":[)",
-                                i > 0 ? "]}," : "", i / 100 + 1, i / 100 + 1);
-        }
-        text += fmt::format(
-            R"({}{{"vi":"{}","vn":"Voyage {}","vsi":"9{}","vsn":"Northern Light","vsmsi":"257000001",)"
-            R"("vr":"1","va":"0","vfn":"30","vff":"28","vfa":"5","vdn":"2","vda":"2","vwn":"10","vwa":"10",)"
-            R"("vrk":"0","modais":[],"vd":"0"}})",
-            i % 100 == 0 ? "" : ",", i + 100000, i, i);
-    }
-    return text + "]}]";
-}
 
 /// Hands out one prepared reply, however often it is asked.
 class ReplyingHost : public Core::TObject {
@@ -67,7 +50,7 @@ class ReplyingHost : public Core::TObject {
 
 /// From the reply at hand to the filled store.
 void LoadAll(benchmark::State& state) {
-    const ReplyingHost host(CatalogOf(state.range(0)));
+    const ReplyingHost host(CatalogText(state.range(0)));
     for (auto _ : state) {
         Seaplan::VoyageStore store;
         Seaplan::VoyCatalogModule module(&store);

@@ -50,10 +50,20 @@ constexpr ItemLabel kVoyageLabels[] = {
     {Item::kShipInfo, ItemValue::kShipLabel, TextIds::IDS_TREE_VOYSHIP}};
 
 template <std::size_t N>
-void ApplyTips(TreeWidget& tree, TreeRow row, const ItemTip (&tips)[N]) {
+std::vector<RowTexts::Tip> TipsOf(const ItemTip (&tips)[N]) {
+    std::vector<RowTexts::Tip> texts;
     for (const ItemTip& tip : tips) {
-        tree.SetToolTipsOfEventItem(row, tip.item, Text(tip.text));
+        texts.push_back({tip.item, Text(tip.text)});
     }
+    return texts;
+}
+
+std::vector<RowTexts::Label> LabelsOfVoyages() {
+    std::vector<RowTexts::Label> texts;
+    for (const ItemLabel& label : kVoyageLabels) {
+        texts.push_back({label.item, label.value, Text(label.text)});
+    }
+    return texts;
 }
 
 void MarkVoyage(TreeContext& c, const VoyInfo& voyage) {
@@ -90,28 +100,36 @@ int CountRows(TreeContext& c, TreeRow categoryRow, bool first) {
 
 }  // namespace
 
-void ApplyRowTexts(TreeWidget& tree, TreeRow row) {
+RowTexts::RowTexts()
+    : tips_{{kCategoryStyle, TipsOf(kCategoryTips)},
+            {kVoyageStyle, TipsOf(kVoyageTips)},
+            {kDeletedCategoryStyle, TipsOf(kDeletedCategoryTips)},
+            {kDeletedVoyageStyle, TipsOf(kDeletedVoyageTips)}},
+      labels_(LabelsOfVoyages()) {}
+
+void RowTexts::Apply(TreeWidget& tree, TreeRow row) const {
     const std::string style = tree.GetItemStyle(row);
-    if (style == kCategoryStyle) {
-        ApplyTips(tree, row, kCategoryTips);
-    } else if (style == kDeletedCategoryStyle) {
-        ApplyTips(tree, row, kDeletedCategoryTips);
-    } else if (style == kDeletedVoyageStyle) {
-        ApplyTips(tree, row, kDeletedVoyageTips);
-    } else {
-        ApplyTips(tree, row, kVoyageTips);
-        for (const ItemLabel& label : kVoyageLabels) {
-            tree.SetDrawItemValueOfEventItem(row, label.item, label.value, Text(label.text));
+    const auto tips = tips_.find(style);
+    if (tips == tips_.end()) {
+        return;
+    }
+    for (const Tip& tip : tips->second) {
+        tree.SetToolTipsOfEventItem(row, tip.item, tip.text);
+    }
+    if (style == kVoyageStyle) {
+        for (const Label& label : labels_) {
+            tree.SetDrawItemValueOfEventItem(row, label.item, label.value, label.text);
         }
     }
 }
 
 void ApplyAllRowTexts(TreeWidget& tree) {
+    const RowTexts texts;
     for (TreeRow row = tree.GetRootItem(); row != kNoRow; row = tree.GetNextSiblingItem(row)) {
-        ApplyRowTexts(tree, row);
+        texts.Apply(tree, row);
         for (TreeRow child = tree.GetChildItem(row); child != kNoRow;
              child = tree.GetNextSiblingItem(child)) {
-            ApplyRowTexts(tree, child);
+            texts.Apply(tree, child);
         }
     }
 }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/tree/TreeContext.h"
 
@@ -9,9 +11,30 @@
 /// category has.
 namespace Tarvik::Seaplan {
 
-/// Labels and tips of one row, by its style.
-void ApplyRowTexts(TreeWidget& tree, TreeRow row);
-/// Of every row.
+/// Labels and tips of rows in the language in force when this is made: asking for each row costs more than
+/// the row itself, so whoever makes many rows keeps it as long as that takes.
+class RowTexts {
+  public:
+    struct Tip {
+        const char* item;
+        std::string text;
+    };
+    struct Label {
+        const char* item;
+        const char* value;
+        std::string text;
+    };
+
+    RowTexts();
+    /// Gives a row the texts of its style.
+    void Apply(TreeWidget& tree, TreeRow row) const;
+
+  private:
+    std::map<std::string, std::vector<Tip>> tips_;  ///< by the row's style
+    std::vector<Label> labels_;                     ///< of voyages in use
+};
+
+/// The texts of every row.
 void ApplyAllRowTexts(TreeWidget& tree);
 
 /// Text of a count, with two leading blanks.

@@ -9,8 +9,9 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-/// A person takes this for at once; whatever lasts longer gets the busy sign.
-constexpr int kFirstPieceMs = 200;
+/// A person takes this for at once, with the rows' being drawn behind it; whatever lasts longer gets the busy
+/// sign.
+constexpr int kFirstPieceMs = 80;
 /// Pieces behind it, which must not be felt, and the rest for other events between them.
 constexpr int kPieceMs = 50;
 constexpr int kPauseMs = 20;

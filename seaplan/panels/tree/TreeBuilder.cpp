@@ -3,13 +3,14 @@
 
 #include "seaplan/calculation/Units.h"
 #include "seaplan/panels/tree/ItemNames.h"
-#include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeRules.h"
 
 namespace Tarvik::Seaplan {
 
 int TreeBuilder::RebuildAll() {
+    texts_.emplace();
     const int result = MakeAll();
+    texts_.reset();
     TellMade();
     return result;
 }
@@ -17,6 +18,14 @@ int TreeBuilder::RebuildAll() {
 void TreeBuilder::TellMade() const {
     if (c_.rowsMade) {
         c_.rowsMade();
+    }
+}
+
+void TreeBuilder::ApplyTexts(TreeRow row) const {
+    if (texts_) {
+        texts_->Apply(c_.tree, row);
+    } else {
+        RowTexts().Apply(c_.tree, row);
     }
 }
 
@@ -82,7 +91,9 @@ int TreeBuilder::RebuildCategory(const std::string& ci) {
         return -1;
     }
     c_.tree.DeleteChildItems(row);
+    texts_.emplace();
     const int result = AddVoyages(row, ci, DateSource::PortCalls);
+    texts_.reset();
     if (result == 0) {
         status_.ShowAll(row, ci);
     }
@@ -155,7 +166,7 @@ int TreeBuilder::AddDeletedVoyages(TreeRow row, const std::vector<std::string>& 
         }
         const TreeRow child = c_.tree.InsertItem(voyage->vn, kDeletedVoyageStyle, row);
         c_.tree.SetItemData(child, voyage);
-        ApplyRowTexts(c_.tree, child);
+        ApplyTexts(child);
     }
     return 0;
 }
@@ -164,14 +175,14 @@ TreeRow TreeBuilder::AddCategoryRow(VoyCategory& category) {
     const TreeRow row = c_.tree.InsertItem(category.cn, kCategoryStyle, kNoRow);
     c_.tree.SetItemData(row, &category);
     c_.tree.SetDrawItemValue(row, Item::kCount, CountText(0));
-    ApplyRowTexts(c_.tree, row);
+    ApplyTexts(row);
     return row;
 }
 
 TreeRow TreeBuilder::AddDeletedCategoryRow(VoyCategory& category) {
     const TreeRow row = c_.tree.InsertItem(category.cn, kDeletedCategoryStyle, kNoRow);
     c_.tree.SetItemData(row, &category);
-    ApplyRowTexts(c_.tree, row);
+    ApplyTexts(row);
     return row;
 }
 
@@ -185,7 +196,7 @@ int TreeBuilder::AddVoyageRow(TreeRow categoryRow, const std::string& vi) {
     }
     const TreeRow row = c_.tree.InsertItem(voyage->vn, kVoyageStyle, categoryRow);
     c_.tree.SetItemData(row, voyage);
-    ApplyRowTexts(c_.tree, row);
+    ApplyTexts(row);
     ShowFlags(row, *voyage);
     if (!voyage->vsn.empty()) {
         status_.ShowVessel(row, voyage->vsn, voyage->vsi.empty());

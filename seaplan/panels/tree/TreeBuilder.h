@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeStatus.h"
 
@@ -34,9 +36,11 @@ class TreeBuilder {
     int AddDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
     int AddEmptyCategories(const std::vector<VoyCategory*>& deleted);
     void ShowFlags(TreeRow row, const VoyInfo& voyage);
+    void ApplyTexts(TreeRow row) const;
 
     TreeContext& c_;
     TreeStatus& status_;
+    std::optional<RowTexts> texts_;  ///< while many rows are made
 };
 
 }  // namespace Tarvik::Seaplan

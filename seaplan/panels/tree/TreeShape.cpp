@@ -39,17 +39,19 @@ std::map<std::string, TreeItem> ItemsOf(const ItemDefault (&defaults)[N]) {
     return items;
 }
 
-std::map<std::string, TreeItem> ItemsOfStyle(std::string_view style) {
+/// Made once: a copy costs less than naming every item of every row anew.
+const std::map<std::string, TreeItem>& ItemsOfStyle(std::string_view style) {
+    static const std::map<std::string, TreeItem> kOfCategory = ItemsOf(kCategoryItems);
+    static const std::map<std::string, TreeItem> kOfVoyage = ItemsOf(kVoyageItems);
+    static const std::map<std::string, TreeItem> kOfDeletedCategory = ItemsOf(kDeletedCategoryItems);
+    static const std::map<std::string, TreeItem> kOfDeletedVoyage = ItemsOf(kDeletedVoyageItems);
     if (style == kCategoryStyle) {
-        return ItemsOf(kCategoryItems);
+        return kOfCategory;
     }
     if (style == kVoyageStyle) {
-        return ItemsOf(kVoyageItems);
+        return kOfVoyage;
     }
-    if (style == kDeletedCategoryStyle) {
-        return ItemsOf(kDeletedCategoryItems);
-    }
-    return ItemsOf(kDeletedVoyageItems);
+    return style == kDeletedCategoryStyle ? kOfDeletedCategory : kOfDeletedVoyage;
 }
 
 }  // namespace
