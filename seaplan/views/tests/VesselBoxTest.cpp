@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <QListWidget>
+#include <QScrollBar>
+#include <string>
+#include <vector>
 
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/core/TEvent.h>
@@ -13,29 +16,29 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-/// A fleet of two vessels on the bus.
-class TwoVessels final : public Core::TObject {
+/// A fleet on the bus.
+class Vessels final : public Core::TObject {
   public:
-    TwoVessels() {
-        event_.Set<&TwoVessels::OnAll>(this);
+    Vessels() {
+        event_.Set<&Vessels::OnAll>(this);
         Core::TrvKernel::Instance()->CreateTrvService(kName, this, "", "", nullptr);
         Core::TrvKernel::Instance()->BindTrvService(kName, &event_);
     }
-    ~TwoVessels() override {
+    ~Vessels() override {
         Core::TrvKernel::Instance()->UnBindTrvService(kName, &event_);
         Core::TrvKernel::Instance()->DeleteTrvService(kName, this);
     }
+    std::vector<Interface::FleetEntry> all = {{"1", "NORTHERN LIGHT", 211}, {"2", "NORA", 212}};
 
   private:
     static constexpr const char* kName = Interface::Bus::AllVessels.name;
-    void* OnAll(void*) { return &fleet_; }
-    std::vector<Interface::FleetEntry> fleet_ = {{"1", "NORTHERN LIGHT", 211}, {"2", "NORA", 212}};
+    void* OnAll(void*) { return &all; }
     Core::TEvent event_;
 };
 
 class VesselBoxTest : public ViewsFixture {
   protected:
-    TwoVessels fleet;
+    Vessels fleet;
     QLineEdit& Box() { return *Find<QLineEdit>(Panel(), "vesselEditor"); }
     QListWidget& List() { return *Find<QListWidget>(Panel(), "vesselList"); }
 };
@@ -72,6 +75,32 @@ TEST_F(VesselBoxTest, AVesselIsTypedAndArrowsWalkTheList) {
     QTest::keyClick(&Box(), Qt::Key_Return);
     EXPECT_EQ(desk.Voyage("North Sea").vsn, "SEA STAR");
     EXPECT_TRUE(Shows("North Sea", "Voyage_Alert"));
+}
+
+TEST_F(VesselBoxTest, AListOfManyStandsAtItsTopWithRoomForItsBar) {
+    OpenVoyage("North Sea");
+    for (const int count : {11, 12, 16}) {
+        fleet.all.clear();
+        for (int i = 0; i < count; ++i) {
+            fleet.all.push_back({std::to_string(i), "SHIP " + std::to_string(i), 300 + i});
+        }
+        ClickPart("North Sea", "Voyage_AssignShip");
+        ASSERT_TRUE(List().isVisible()) << count;
+        EXPECT_EQ(List().size(), QSize(157, 203)) << count;
+        EXPECT_EQ(List().count(), count);
+        EXPECT_EQ(List().item(0)->sizeHint(), QSize(count == 11 ? 152 : 136, 18)) << count;
+        EXPECT_EQ(List().currentRow(), 0) << count;
+        EXPECT_EQ(List().verticalScrollBar()->value(), 0) << count;
+        ClickPart("North Sea", "Voyage_AssignShip");
+    }
+}
+
+TEST_F(VesselBoxTest, AFleetWithoutVesselsOpensTheBoxAlone) {
+    OpenVoyage("North Sea");
+    fleet.all.clear();
+    ClickPart("North Sea", "Voyage_AssignShip");
+    EXPECT_TRUE(Box().isVisible());
+    EXPECT_FALSE(List().isVisible());
 }
 
 TEST_F(VesselBoxTest, ASecondClickClosesTheBox) {

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// What the answers to the remark panel's questions lead to, and the mark that follows the remarks.
+#include "seaplan/panels/tests/RemarkFixture.h"
+
+namespace Tarvik::Seaplan {
+
+using ::testing::ElementsAre;
+using ::testing::Pair;
+
+namespace {
+
+class RemarkAnswersTest : public RemarkFixture {};
+
+}  // namespace
+
+TEST_F(RemarkAnswersTest, AQuestionThatIsClosedWithoutAnAnswerSavesAtARowChange) {
+    OpenWith({"Old", "Young"});
+    TypeSubject("Younger");
+    Select(1);
+    EXPECT_EQ(LastMessage(), "IDS_REMARKSAVETIP");
+    EXPECT_EQ(messages.messages.back().flags, 4);
+    EXPECT_EQ(messages.messages.back().owner, view.Handle());
+    EXPECT_EQ(desk.Count(Ask::kChangeRemark, "Younger"), 1);
+    EXPECT_EQ(view.current, 1);
+}
+
+TEST_F(RemarkAnswersTest, AQuestionThatIsClosedWithoutAnAnswerSavesAtClosing) {
+    OpenWith({"One"});
+    TypeSubject("Two");
+    panel.OnClose();
+    EXPECT_EQ(LastMessage(), "IDS_REMARKSAVETIP");
+    EXPECT_EQ(desk.Count(Ask::kChangeRemark, "Two"), 1);
+    EXPECT_FALSE(view.visible);
+    EXPECT_THAT(Stored(), ElementsAre("Two|About One"));
+}
+
+TEST_F(RemarkAnswersTest, TheMarkGoesOffWithTheLastRemarkAndOnAgainWithTheNext) {
+    OpenWith({"One"});
+    messages.Answer(Answer::Yes);
+    ClickDelete(0);
+    Add("Another");
+    EXPECT_THAT(marks, ElementsAre(Pair(7, false), Pair(7, true)));
+}
+
+TEST_F(RemarkAnswersTest, ClosingKeepsWhatWasReadForTheNextOpening) {
+    OpenWith({"One", "Two"});
+    panel.OnClose();
+    EXPECT_FALSE(view.visible);
+    desk.ForgetRecords();
+    Open();
+    EXPECT_EQ(desk.Count(Ask::kLoadRemarks), 0);
+    EXPECT_THAT(view.Names(), ElementsAre("Two", "One"));
+}
+
+TEST_F(RemarkAnswersTest, APortsRemarksAreAskedForByItsOwner) {
+    ASSERT_EQ(panel.Open(0, PortCallRemark, vi + "ROTTERDAM", "ROTTERDAM"), 0);
+    EXPECT_THAT(desk.Sent(Ask::kLoadRemarks),
+                ElementsAre("{optype:\"4\",type:\"4\",objectid:\"" + vi + "ROTTERDAM\"}"));
+}
+
+}  // namespace Tarvik::Seaplan
