@@ -56,9 +56,7 @@ void UndoButtons::SetReports(const std::function<void()>& undo, const std::funct
     QObject::connect(redo_, &QToolButton::clicked, this, redo);
     // The keys are the window's: a button takes two quick presses of its own for one.
     const std::pair<QKeySequence, const std::function<void()>&> keys[] = {
-        {Qt::CTRL | Qt::Key_Z, undo},
-        {Qt::CTRL | Qt::Key_Y, redo},
-        {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, redo}};
+        {Qt::CTRL | Qt::Key_Z, undo}, {Qt::CTRL | Qt::Key_Y, redo}, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, redo}};
     for (const auto& [sequence, report] : keys) {
         auto* shortcut = new QShortcut(sequence, window());
         QObject::connect(shortcut, &QShortcut::activated, this, report);
