@@ -30,7 +30,11 @@ class TreePanelsTest : public TreeFixture {
                           [this](RemarkOwnerRow, bool on) { ctrl.SetRemarkMark(kNoRow, on); }}};
     FiguresView figuresView;
     std::vector<BunkerFigures> savedFigures;
-    CBunkerDlg figures{{figuresView, [this](const BunkerFigures& set) { savedFigures.push_back(set); },
+    CBunkerDlg figures{{figuresView,
+                        [this](const BunkerFigures& set) {
+                            savedFigures.push_back(set);
+                            return 0;
+                        },
                         [] { return std::string("North"); },
                         [] {
                             return Rect{0, 0, 100, 100};
