@@ -18,6 +18,12 @@ std::optional<std::string> SessionMemory::UserOf(const std::string& hash, std::i
     return found == userOfHash_.end() ? std::nullopt : std::optional(found->second);
 }
 
+std::string SessionMemory::LastUserOf(const std::string& hash) {
+    const std::lock_guard lock(mutex_);
+    const auto found = lastUserOfHash_.find(hash);
+    return found == lastUserOfHash_.end() ? std::string() : found->second;
+}
+
 std::uint64_t SessionMemory::Generation() {
     const std::lock_guard lock(mutex_);
     return generation_;
@@ -27,9 +33,14 @@ void SessionMemory::Keep(const std::string& hash, const std::string& user, std::
                          std::uint64_t generation) {
     const std::lock_guard lock(mutex_);
     Enter(now);
-    if (generation == generation_) {
-        userOfHash_[hash] = user;
+    if (generation != generation_) {
+        return;
     }
+    userOfHash_[hash] = user;
+    if (lastUserOfHash_.size() >= kMostLastUsers) {
+        lastUserOfHash_.clear();
+    }
+    lastUserOfHash_[hash] = user;
 }
 
 void SessionMemory::Forget() {

@@ -90,7 +90,8 @@ Outcome<std::optional<std::string>> Sessions::UserOf(const std::string& token) {
 }
 
 std::string Sessions::TurnOf(const std::string& token) {
-    return memory_.UserOf(HashToken(token), clock_()).value_or(token);
+    const std::string user = memory_.LastUserOf(HashToken(token));
+    return user.empty() ? token : user;
 }
 
 Status Sessions::Close(const std::string& token) {

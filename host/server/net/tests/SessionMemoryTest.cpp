@@ -33,6 +33,14 @@ TEST(SessionMemory, HoldsWhatWasFoundUntilTheSecondIsOver) {
     EXPECT_FALSE(memory.UserOf("h", 7));
 }
 
+TEST(SessionMemory, KnowsWhoseTurnARequestIsBehindTheSecond) {
+    SessionMemory memory;
+    EXPECT_EQ(memory.LastUserOf("hash"), "");
+    memory.Keep("hash", "anna", 10, memory.Generation());
+    EXPECT_FALSE(memory.UserOf("hash", 11));
+    EXPECT_EQ(memory.LastUserOf("hash"), "anna");
+}
+
 TEST(SessionMemory, DoesNotKeepWhatWasSearchedBeforeASessionEnded) {
     SessionMemory memory;
     memory.Keep("other", "bert", 7, memory.Generation());

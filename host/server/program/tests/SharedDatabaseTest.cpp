@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <csignal>
 #include <set>
 #include <thread>
@@ -8,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/server/program/tests/SharedDatabase.h"
+#include "host/server/storage/postgres/PostgresConnection.h"
 
 namespace Tarvik::Server {
 
@@ -49,6 +51,23 @@ TEST_F(SharedDatabaseTest, PasswordOfTheDataBaseIsNeverWritten) {
         EXPECT_TRUE(end.output.starts_with("seaplan-server: ") && end.output.ends_with("\n")) << end.output;
         EXPECT_EQ(end.output.find(kSecret), std::string::npos) << end.output;
     }
+}
+
+TEST_F(SharedDatabaseTest, ServerOfARoleThatMayOnlyReadDoesNotStart) {
+    PostgresConnection(connection_)
+        .Execute(
+            "CREATE ROLE looker LOGIN; GRANT SELECT ON ALL TABLES IN SCHEMA public TO looker; "
+            "GRANT USAGE ON SCHEMA public TO looker");
+    constexpr std::string_view kOwner = "user=seaplan";
+    std::string looker = connection_;
+    looker.replace(looker.find(kOwner), kOwner.size(), "user=looker");
+    std::vector<std::string> variables = variables_;
+    variables[0] = "SEAPLAN_SERVER_DATABASE=" + looker;
+    const ProgramEnd end = RunServerProgram({"serve"}, variables);
+    EXPECT_EQ(end.code, 1);
+    EXPECT_TRUE(end.output.starts_with("seaplan-server: ")) << end.output;
+    EXPECT_NE(end.output.find("takes no changes"), std::string::npos) << end.output;
+    EXPECT_EQ(std::count(end.output.begin(), end.output.end(), '\n'), 1) << end.output;
 }
 
 /// One save of client `number`: number + 1 rows that all bear its number, and additions of its own.
