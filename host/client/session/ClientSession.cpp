@@ -6,6 +6,7 @@
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/core/Exports.h>
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/Log.h>
@@ -108,14 +109,30 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
     return embedded;
 }
 
+void ClientSession::TellPorts(const std::string& trouble) {
+    if (!trouble.empty()) {
+        log_.Write(trouble);
+    }
+    const std::string text = trouble.empty() ? trouble : Texts().Text("Client", "OWN_PORTS_MISSING");
+    const Interface::StatusWord word{"Ports", text, trouble};
+    Interface::Raise(Interface::Bus::TellStatus, &word);
+}
+
 void ClientSession::TakeOwnPorts(ServerLink& link) {
     const std::string table = folders_.BusinessData("trvdb.db");
     const std::string user = link.User(Server::kLocalUser);
     const auto own = user.empty() ? std::vector<Ports::Place>() : LoadOwnPorts(link, user);
     std::string error;
-    if (!WritePortTable(folders_.ShareFile("trvdb.db"), table, own, error) ||
+    if (!own) {
+        error = "The server gave no list of the user's own ports.";
+        TellPorts(error);
+    }
+    if (!WritePortTable(folders_.ShareFile("trvdb.db"), table, own.value_or(std::vector<Ports::Place>()),
+                        error) ||
         !tables_.LoadPorts(table, error)) {
-        log_.Write(error);
+        TellPorts(error);
+    } else if (own) {
+        TellPorts({});
     }
 }
 

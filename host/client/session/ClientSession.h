@@ -62,6 +62,8 @@ class ClientSession {
     /// Puts the own ports of the user whom the link has let in into the table of points and the dictionary;
     /// none while nobody is let in. Where they cannot be put there, the ports in use stay.
     void TakeOwnPorts(ServerLink& link);
+    /// Says trouble with the own ports in the status line and in the log; empty takes the words away.
+    void TellPorts(const std::string& trouble);
     std::unique_ptr<ServerLink> MakeLink(const std::string& server, std::string& error);
     std::string PreferencesFile() const { return folders_.Data() + "/preferences.json"; }
 

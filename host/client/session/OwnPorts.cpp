@@ -34,19 +34,24 @@ void Insert(const std::string& file, const std::vector<Ports::Place>& own) {
 
 }  // namespace
 
-std::vector<Ports::Place> LoadOwnPorts(ServerLink& link, const std::string& user) {
+std::optional<std::vector<Ports::Place>> LoadOwnPorts(ServerLink& link, const std::string& user) {
     try {
         const RequestBlock request(Interface::NumberOf(Interface::VoyCommand::LoadPlaces),
                                    Interface::kVoyageModuleWord, nlohmann::json{{"ui", user}}.dump());
         const auto reply = nlohmann::json::parse(link.Exchange(user, *request));
         std::vector<Ports::Place> own;
-        for (const nlohmann::json& port : reply.is_array() ? reply : nlohmann::json::array()) {
+        if (!reply.is_array()) {
+            // A server from before this command keeps none.
+            constexpr int kUnknownCommand = 3;
+            return reply.value("eid", 0) == kUnknownCommand ? std::optional(own) : std::nullopt;
+        }
+        for (const nlohmann::json& port : reply) {
             own.push_back({port.at("ppi"), port.at("ppn"), "", "",
                            Server::GeoPoint{port.at("xc"), port.at("yc")}, true});
         }
         return own;
     } catch (const nlohmann::json::exception&) {
-        return {};
+        return std::nullopt;
     }
 }
 

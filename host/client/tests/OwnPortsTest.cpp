@@ -137,11 +137,20 @@ class OneAnswer : public ServerLink {
     std::string text_;
 };
 
-TEST(OwnPortsReply, OddRepliesGiveNone) {
+TEST(OwnPortsReply, OddRepliesAreNoList) {
     for (const char* text :
-         {"", "[]", R"({"eid":5,"eno":"unknown command"})", R"([{"ppi":1}])", "[3]", "{"}) {
+         {"", R"({"eid":50,"emsg":"the data could not be stored or read"})", R"([{"ppi":1}])", "[3]", "{"}) {
         OneAnswer link(text);
-        EXPECT_TRUE(LoadOwnPorts(link, "anna").empty()) << text;
+        EXPECT_FALSE(LoadOwnPorts(link, "anna").has_value()) << text;
+    }
+}
+
+TEST(OwnPortsReply, AServerWithoutTheCommandKeepsNone) {
+    for (const char* text : {"[]", R"({"eid":3,"emsg":"unknown command"})"}) {
+        OneAnswer link(text);
+        const auto own = LoadOwnPorts(link, "anna");
+        ASSERT_TRUE(own.has_value()) << text;
+        EXPECT_TRUE(own->empty()) << text;
     }
 }
 
