@@ -64,8 +64,8 @@ TEST_P(SdkMistake, DoesNotCompile) {
     const Mistake& mistake = GetParam();
     const Programs::Ended ended = Compile(mistake.snippet, mistake.wrong);
     EXPECT_NE(ended.exitCode, 0);
-    const std::regex complaint(std::string("/") + mistake.snippet + R"(\.cpp:\d+:\d+: error: .*(?:)" +
-                               mistake.told + ")");
+    const std::regex complaint(std::string("/") + mistake.snippet +
+                               R"(\.cpp:\d+:\d+: (?:fatal )?error: .*(?:)" + mistake.told + ")");
     EXPECT_TRUE(std::regex_search(ended.err, complaint)) << ended.err;
 }
 INSTANTIATE_TEST_SUITE_P(All, SdkMistake, testing::ValuesIn(kMistakes));

@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -48,8 +49,10 @@ TEST(MessageSink, EscapeIsTheCarefulAnswer) {
     LanguageFiles texts;
     QtMessageSink sink(nullptr, texts);
     const auto escape = [&sink] {
-        QTimer::singleShot(0, qApp,
-                           [] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->reject(); });
+        QTimer::singleShot(0, qApp, [] {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QApplication::sendEvent(QApplication::activeModalWidget(), &press);
+        });
         return sink.SyncSendMsg(1, u"Sure?", 4, nullptr, u"");
     };
     EXPECT_EQ(escape(), SysMsgHandleRes::No);

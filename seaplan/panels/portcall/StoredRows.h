@@ -27,6 +27,8 @@ class StoredRows {
 
     /// The figures on show are those of the ports in the table, in their order.
     void NoteRoute(const PortCallTable& table);
+    /// The same ports as another's figures are of.
+    void TakeRoute(const StoredRows& other) { route_ = other.route_; }
     /// How many ports from the first on are those that the figures are of.
     int RoutedPorts(const PortCallTable& table) const;
     /// Whether all of them are, and the figures of no others.

@@ -68,7 +68,9 @@ void TableHistory::ShowState(const TableState& to) {
     sheet_.cause = now.cause;
     PortCallState& state = sheet_.state;
     if (SameUnits(now.state, state)) {
+        // What the server has is not taken back, but of which ports the figures are.
         sheet_.stored = now.stored;
+        sheet_.stored.TakeRoute(to.sheet.stored);
     }
     state.caption = now.state.caption;
     state.zone = now.state.zone;

@@ -54,10 +54,14 @@ TEST_F(SharedDatabaseTest, PasswordOfTheDataBaseIsNeverWritten) {
 }
 
 TEST_F(SharedDatabaseTest, ServerOfARoleThatMayOnlyReadDoesNotStart) {
-    PostgresConnection(connection_)
-        .Execute(
+    {
+        PostgresConnection owner(connection_);
+        owner.Begin(PostgresConnection::Mode::Write);
+        owner.Execute(
             "CREATE ROLE looker LOGIN; GRANT SELECT ON ALL TABLES IN SCHEMA public TO looker; "
             "GRANT USAGE ON SCHEMA public TO looker");
+        owner.Commit();
+    }
     constexpr std::string_view kOwner = "user=seaplan";
     std::string looker = connection_;
     looker.replace(looker.find(kOwner), kOwner.size(), "user=looker");
