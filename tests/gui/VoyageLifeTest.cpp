@@ -134,6 +134,25 @@ TEST_P(VoyageLife, ANameIsCutAndPastedByTheMouseMenuOfItsEditor) {
     EXPECT_EQ(sitting.Leave().exitCode, 0);
 }
 
+TEST_P(VoyageLife, F1HelpsWithTheWindowThatHasTheKeys) {
+    Sitting sitting(client_, person_, display_.Name());
+    person_.Press({"F1"});
+    std::string help = person_.AwaitWindow("Help");
+    person_.AwaitKeys(help);
+    const std::string general = person_.Look(help);
+    person_.Press({"Escape"});
+    person_.AwaitGone("Help");
+    sitting.MakeVoyage();
+    sitting.OpenEmptyPortCalls();
+    person_.AwaitKeys(sitting.portCalls);
+    person_.Press({"F1"});
+    help = person_.AwaitWindow("Help");
+    person_.AwaitKeys(help);
+    EXPECT_NE(person_.Look(help), general);
+    person_.Press({"Escape"});
+    person_.AwaitGone("Help");
+}
+
 TEST_P(VoyageLife, F6GoesFromWindowToWindow) {
     Sitting sitting(client_, person_, display_.Name());
     sitting.MakeVoyage();

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QShortcut>
@@ -40,8 +41,6 @@ MainWindow::MainWindow(ClientSession& session)
     : session_(session), chart_(session), tools_(*this, Tools()), status_(*statusBar(), session) {
     setObjectName("mainWindow");
     resize(kUsualSize);
-    connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
-            [this] { ShowHelp("GENERAL", 370); });
     connect(new QShortcut(QKeySequence("Ctrl+G"), this), &QShortcut::activated, this,
             [this] { ChartCommand("goto"); });
     connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, [this] { close(); });
@@ -227,6 +226,14 @@ bool MainWindow::ClosePanels() {
     return std::all_of(children.rbegin(), children.rend(), [](QWidget* child) {
         return !child->isWindow() || !child->isVisible() || child->close();
     });
+}
+
+/// No shortcut: those of this window count in its floating panels too, where F1 is the panel's own.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_F1) {
+        return QMainWindow::keyPressEvent(event);
+    }
+    ShowHelp("GENERAL", 370);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -46,6 +46,7 @@ class MainWindow : public QMainWindow {
     /// Takes the help requests that plug-ins send to the main window.
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     /// Closes the panels, the last made before the others. False when one stays, since a person wants to keep
