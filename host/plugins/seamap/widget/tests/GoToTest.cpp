@@ -4,7 +4,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
-#include <memory>
 
 #include <gtest/gtest.h>
 
@@ -12,9 +11,8 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 
-#include "host/plugins/seamap/widget/ChartServices.h"
 #include "host/plugins/seamap/widget/GoToBar.h"
-#include "tarvik/src/core/BusTesting.h"
+#include "host/plugins/seamap/widget/tests/ChartFixture.h"
 
 namespace Tarvik::Seamap {
 
@@ -24,20 +22,10 @@ ChartName Port(const char* name, const char* code, GeoPoint position) {
     return {.kind = ChartName::Kind::Port, .position = position, .text = name, .code = code, .port = name};
 }
 
-class GoToTest : public ::testing::Test {
+class GoToTest : public ChartFixture {
   protected:
     GoToTest() {
-        Core::BusTesting::ForgetAll();
-        services_ = std::make_unique<ChartServices>(ChartServices::Paths{"missing.db", "missing.bin"});
-        chart_ = services_->Widget();
-        chart_->setProperty("pictures", true);
-        chart_->resize(800, 500);
-        chart_->show();
         chart_->SetNames({Port("SANTOS", "BRSSZ", {-46.3, -24}), Port("SANTANDER", "ESSDR", {-3.8, 43.4})});
-    }
-    ~GoToTest() override {
-        services_.reset();
-        Core::BusTesting::ForgetAll();
     }
     static bool Command(const std::string& command) {
         return Interface::Call(Interface::Bus::ChartCommand, &command) != nullptr;
@@ -49,9 +37,6 @@ class GoToTest : public ::testing::Test {
         Command("goto");
         QTest::keyClicks(&Field(), text);
     }
-
-    std::unique_ptr<ChartServices> services_;
-    ChartWidget* chart_ = nullptr;
 };
 
 TEST_F(GoToTest, ATypedPositionIsReadBackAndGoneTo) {

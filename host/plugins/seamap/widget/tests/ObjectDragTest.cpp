@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Drags of objects whose owner takes them, and of all others.
 #include <QTest>
-#include <memory>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,8 +9,7 @@
 #include <tarvik/bus/DragContract.h>
 #include <tarvik/interface/ChartRecords.h>
 
-#include "host/plugins/seamap/widget/ChartServices.h"
-#include "tarvik/src/core/BusTesting.h"
+#include "host/plugins/seamap/widget/tests/ChartFixture.h"
 
 namespace Tarvik::Seamap {
 
@@ -20,15 +18,9 @@ using ::testing::IsEmpty;
 
 namespace {
 
-class ObjectDragTest : public ::testing::Test {
+class ObjectDragTest : public ChartFixture {
   protected:
     ObjectDragTest() {
-        Core::BusTesting::ForgetAll();
-        services_ = std::make_unique<ChartServices>(ChartServices::Paths{"missing.db", "missing.bin"});
-        chart_ = services_->Widget();
-        chart_->setProperty("pictures", true);
-        chart_->resize(800, 500);
-        chart_->show();
         chart_->ShowExtent({-10, -10, 10, 10});
         Interface::TrvMapPointParams point;
         point.ref = {"L", "7", "BOOKPOINTTYPE"};
@@ -44,19 +36,11 @@ class ObjectDragTest : public ::testing::Test {
                                            return nullptr;
                                        });
     }
-    ~ObjectDragTest() override {
-        services_.reset();
-        Core::BusTesting::ForgetAll();
-    }
     void OfferDrags() {
         for (const auto& service : {Interface::Bus::DragBookPoint, Interface::Bus::DragBookWay}) {
             offers_.Keep(Interface::Offer(
                 service, [this](const Interface::ChartDrag& drag) { drags_.push_back(drag); }));
         }
-    }
-    QPoint At(GeoPoint place) const {
-        const PixelPoint pixel = chart_->View().ToScreen(place);
-        return {qRound(pixel.x), qRound(pixel.y)};
     }
     void PressAndMove(GeoPoint from, GeoPoint to) {
         QTest::mousePress(chart_, Qt::LeftButton, {}, At(from));
@@ -69,8 +53,6 @@ class ObjectDragTest : public ::testing::Test {
         QTest::mouseRelease(chart_, Qt::LeftButton, {}, end);
     }
 
-    std::unique_ptr<ChartServices> services_;
-    ChartWidget* chart_ = nullptr;
     std::vector<Interface::ChartDrag> drags_;
     std::vector<std::string> clicked_;
     Interface::BindingList offers_;

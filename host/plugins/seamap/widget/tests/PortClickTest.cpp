@@ -3,7 +3,6 @@
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
-#include <memory>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,9 +12,8 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/VoyageContract.h>
 
-#include "host/plugins/seamap/widget/ChartServices.h"
 #include "host/plugins/seamap/widget/PortCard.h"
-#include "tarvik/src/core/BusTesting.h"
+#include "host/plugins/seamap/widget/tests/ChartFixture.h"
 
 namespace Tarvik::Seamap {
 
@@ -35,26 +33,12 @@ ChartName Port(const char* text, GeoPoint position) {
             .isMajor = true};
 }
 
-class PortClickTest : public ::testing::Test {
+class PortClickTest : public ChartFixture {
   protected:
     PortClickTest() {
-        Core::BusTesting::ForgetAll();
-        services_ = std::make_unique<ChartServices>(ChartServices::Paths{"missing.db", "missing.bin"});
-        chart_ = services_->Widget();
-        chart_->setProperty("pictures", true);
-        chart_->resize(800, 500);
-        chart_->show();
         chart_->ShowExtent({2, 51, 6, 53});
         chart_->Change([](ChartScene& scene) { scene.SetNames({Port("鹿特丹", kRotterdam)}); });
         chart_->grab();
-    }
-    ~PortClickTest() override {
-        services_.reset();
-        Core::BusTesting::ForgetAll();
-    }
-    QPoint At(GeoPoint place) const {
-        const PixelPoint pixel = chart_->View().ToScreen(place);
-        return {qRound(pixel.x), qRound(pixel.y)};
     }
     void Click(QPoint at) { QTest::mouseClick(chart_, Qt::LeftButton, {}, at); }
     QLabel& Card() const { return *chart_->findChild<QLabel*>("portCard"); }
@@ -65,8 +49,6 @@ class PortClickTest : public ::testing::Test {
                                         [this](const std::string& name) { added_.push_back(name); }));
     }
 
-    std::unique_ptr<ChartServices> services_;
-    ChartWidget* chart_ = nullptr;
     bool open_ = true;
     std::vector<std::string> added_;
     Interface::BindingList bindings_;

@@ -2,7 +2,6 @@
 /// The voyage that stands out among those on the chart, as it is drawn.
 #include <QImage>
 #include <QTest>
-#include <memory>
 
 #include <gtest/gtest.h>
 
@@ -10,8 +9,7 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/interface/ChartRecords.h>
 
-#include "host/plugins/seamap/widget/ChartServices.h"
-#include "tarvik/src/core/BusTesting.h"
+#include "host/plugins/seamap/widget/tests/ChartFixture.h"
 
 namespace Tarvik::Seamap {
 
@@ -19,23 +17,13 @@ namespace {
 
 constexpr int kColour = 0xC832E9;
 
-class StandOutTest : public ::testing::Test {
+class StandOutTest : public ChartFixture {
   protected:
     StandOutTest() {
-        Core::BusTesting::ForgetAll();
-        services_ = std::make_unique<ChartServices>(ChartServices::Paths{"missing.db", "missing.bin"});
-        chart_ = services_->Widget();
-        chart_->setProperty("pictures", true);
-        chart_->resize(800, 500);
-        chart_->show();
         chart_->ShowParts({.graticule = false});
         AddLine("7_5", "2");
         AddLine("8_5", "-2");
         chart_->ShowExtent({-10, -6, 10, 6});
-    }
-    ~StandOutTest() override {
-        services_.reset();
-        Core::BusTesting::ForgetAll();
     }
     static void AddLine(const std::string& id, const std::string& lat) {
         Interface::TrvMapLineParams line;
@@ -57,9 +45,6 @@ class StandOutTest : public ::testing::Test {
         }
         return most;
     }
-
-    std::unique_ptr<ChartServices> services_;
-    ChartWidget* chart_ = nullptr;
 };
 
 TEST_F(StandOutTest, TheOthersBecomeFainterAndComeBack) {
