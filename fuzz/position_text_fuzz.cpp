@@ -8,7 +8,7 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/RouteMessages.h"
-#include "seaplan/calculation/ais/AisReplan.h"
+#include "seaplan/calculation/ais/AisCorrection.h"
 #include "seaplan/chart/ChartLines.h"
 #include "seaplan/data/Position.h"
 

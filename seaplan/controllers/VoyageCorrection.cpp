@@ -12,7 +12,6 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/ais/AisCorrection.h"
-#include "seaplan/calculation/ais/AisReplan.h"
 #include "seaplan/calculation/ais/AisRows.h"
 #include "seaplan/controllers/RouteExchange.h"
 #include "seaplan/data/PortDirectory.h"

@@ -4,7 +4,6 @@
 #include "tests/gui/Display.h"
 #include "tests/gui/Picture.h"
 #include "tests/gui/Sitting.h"
-#include "tests/gui/Spots.h"
 
 namespace Tarvik::Programs {
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Tarvik::Programs {
 
@@ -11,5 +13,16 @@ std::string Cut(const std::string& picture, int left, int top, int width, int he
 
 /// Writes a picture to the folder that the environment's SEAPLAN_TEST_PICTURES names, if it does.
 void Keep(const std::string& name, const std::string& picture);
+
+/// A patch of one colour in a picture.
+struct Spot {
+    int x = 0;  ///< middle of the patch
+    int y = 0;
+    int pixels = 0;
+};
+
+/// The patches of at least `least` joined pixels of exactly the colour 0x00RRGGBB, in the form that
+/// Person::Look gives, from left to right.
+std::vector<Spot> SpotsOf(const std::string& picture, std::uint32_t colour, int least);
 
 }  // namespace Tarvik::Programs

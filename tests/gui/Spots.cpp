@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "tests/gui/Spots.h"
-
 #include <algorithm>
 #include <sstream>
 #include <utility>
+
+#include "tests/gui/Picture.h"
 
 namespace Tarvik::Programs {
 

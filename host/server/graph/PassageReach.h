@@ -6,8 +6,23 @@
 
 #include "host/server/graph/Landmarks.h"
 #include "host/server/graph/NetworkData.h"
+#include "host/server/graph/SeaNetwork.h"
 
 namespace Tarvik::Server {
+
+/// Lines longer than the first keep the second off the coast, but for their beginning and end.
+inline constexpr double kFreeHandNm = 14.0;
+inline constexpr double kOffCoastNm = 4.0;
+
+/// What a ship meets that sails straight from one place to another.
+struct SightLine {
+    bool clear = false;  ///< neither land nor a closed area, and the coast no nearer than it may be
+    GateMask crossed;    ///< the gates on the way, when it is clear
+};
+
+/// The line from a to b. Ways share most of their lines: each thread keeps some ten thousands of those it was
+/// asked for last.
+const SightLine& SightLineOf(const SeaNetwork& network, GeoPoint a, GeoPoint b);
 
 /// On which side of its own gate a direction leaves a route point: 1 or 2.
 std::uint8_t SideOfGate(const RoutePoint& point, GeoPoint at, GeoPoint next);

@@ -7,7 +7,7 @@
 #include <tuple>
 
 #include "host/server/graph/Gate.h"
-#include "host/server/graph/SightLine.h"
+#include "host/server/graph/PassageReach.h"
 
 namespace Tarvik::Server {
 

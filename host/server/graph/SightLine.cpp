@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Lines asked for before, per thread: a table in which a line has one place, so that a newer one takes it. An
 // answer from it costs some 10 ns, one reckoned anew some 5 us and more.
-#include "host/server/graph/SightLine.h"
-
 #include <bit>
 #include <cstdint>
 #include <vector>
+
+#include "host/server/graph/PassageReach.h"
 
 namespace Tarvik::Server {
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/calculation/ais/AisReplan.h"
-
 #include <algorithm>
 #include <iterator>
 #include <utility>
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Units.h"
+#include "seaplan/calculation/ais/AisCorrection.h"
 #include "seaplan/calculation/ais/AisRows.h"
 #include "seaplan/data/Position.h"
 

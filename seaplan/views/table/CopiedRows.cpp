@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/table/CopiedRows.h"
-
 #include <vector>
 
 #include "seaplan/views/table/TableModel.h"

@@ -10,8 +10,7 @@
 #include <QToolTip>
 
 #include "seaplan/views/editors/QtKeys.h"
-#include "seaplan/views/table/CopiedRows.h"
-#include "seaplan/views/table/TableDelegate.h"
+#include "seaplan/views/table/TableModel.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/table/TableDelegate.h"
-
 #include <QPainter>
 
 #include <tarvik/skin/Icons.h>

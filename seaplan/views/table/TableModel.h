@@ -2,7 +2,10 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QString>
+#include <QStyledItemDelegate>
 #include <memory>
+#include <string>
 
 #include "seaplan/views/table/TableLines.h"
 
@@ -31,6 +34,20 @@ class TableModel final : public QAbstractTableModel {
 
     std::vector<TableColumn> columns_;
     std::shared_ptr<const TableLines> lines_;
+};
+
+/// The lines of a table that are copied as a spreadsheet takes them: a line of heads, each with the unit on
+/// show, and a line for each, with a tab between two cells. Empty without such a line.
+QString RowsAsText(const TableModel& table);
+
+/// Draws the cells of a TableModel: ground, images, text and the frame of the cell in front.
+class TableDelegate final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    /// Name of the image at a point of a cell that takes `place`, empty between them.
+    static std::string ImageAt(const TableImages& images, const QRect& place, const QPoint& point);
 };
 
 }  // namespace Tarvik::Seaplan

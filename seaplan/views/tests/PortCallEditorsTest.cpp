@@ -148,13 +148,7 @@ TEST_F(PortCallWindowTest, KeysMoveDeleteAndOpen) {
 }
 
 TEST_F(PortCallWindowTest, ACommandsKeyTakesTheTextBeingTypedFirst) {
-    OpenPortCalls("North Sea");
-    PortCalls().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&PortCalls()));
-    ClickCell(0, ColPort);
-    QTest::keyClicks(&PortEditor(), "ROTTERDAM");
-    QTest::keyClick(&PortEditor(), Qt::Key_Return);
-    QTest::keyClicks(&PortEditor(), "HAMBURG");
+    ASSERT_NO_FATAL_FAILURE(TypeTwoPorts());
     ASSERT_FALSE(Find<QAbstractButton>(PortCalls(), "calculateButton")->isEnabled());
     QTest::keyClick(&PortEditor(), Qt::Key_F9);
     EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
@@ -167,13 +161,7 @@ TEST_F(PortCallWindowTest, ACommandsKeyTakesTheTextBeingTypedFirst) {
 }
 
 TEST_F(PortCallWindowTest, AKeyActsAtOnceAndEachTime) {
-    OpenPortCalls("North Sea");
-    PortCalls().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&PortCalls()));
-    ClickCell(0, ColPort);
-    QTest::keyClicks(&PortEditor(), "ROTTERDAM");
-    QTest::keyClick(&PortEditor(), Qt::Key_Return);
-    QTest::keyClicks(&PortEditor(), "HAMBURG");
+    ASSERT_NO_FATAL_FAILURE(TypeTwoPorts());
     QTest::keyClick(&PortEditor(), Qt::Key_Return);
     desk.ForgetRecords();
     for (int pressed = 1; pressed <= 3; ++pressed) {

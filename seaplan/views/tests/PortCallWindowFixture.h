@@ -30,6 +30,16 @@ class PortCallWindowTest : public ViewsFixture {
         QTest::mouseClick(Table().viewport(), Qt::LeftButton, {},
                           QPoint(cell.left() + 12 + 20 * image, cell.center().y()));
     }
+    /// Opens a voyage without port calls and types two; the second is still in its editor.
+    void TypeTwoPorts() {
+        OpenPortCalls("North Sea");
+        PortCalls().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&PortCalls()));
+        ClickCell(0, ColPort);
+        QTest::keyClicks(&PortEditor(), "ROTTERDAM");
+        QTest::keyClick(&PortEditor(), Qt::Key_Return);
+        QTest::keyClicks(&PortEditor(), "HAMBURG");
+    }
     static void ClickItem(QListWidget& list, int row) {
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
         QApplication::processEvents();

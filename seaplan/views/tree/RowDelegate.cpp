@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/tree/RowDelegate.h"
-
 #include <tarvik/skin/Palette.h>
 
 #include "seaplan/views/tree/RowModel.h"

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/tree/RowLayout.h"
-
 #include <algorithm>
 
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/views/tree/RowModel.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,7 +4,6 @@
 #include <QStringList>
 
 #include "seaplan/panels/tree/ItemNames.h"
-#include "seaplan/views/tree/RowLayout.h"
 
 namespace Tarvik::Seaplan {
 

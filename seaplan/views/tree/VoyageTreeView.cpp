@@ -19,7 +19,6 @@
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/tree/RenameField.h"
-#include "seaplan/views/tree/RowDelegate.h"
 #include "seaplan/views/tree/RowModel.h"
 #include "seaplan/views/tree/TreeReach.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"

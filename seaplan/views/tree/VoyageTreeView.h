@@ -9,7 +9,7 @@
 
 #include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/tree/TreeRows.h"
-#include "seaplan/views/tree/RowLayout.h"
+#include "seaplan/views/tree/RowModel.h"
 #include "seaplan/views/tree/TreeAccessFactory.h"
 
 namespace Tarvik::Seaplan {

@@ -12,8 +12,8 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "tests/golden/voyages/GoldenFile.h"
 #include "tests/golden/voyages/SeaServer.h"
-#include "tests/golden/voyages/VoyageTexts.h"
 
 namespace Tarvik::Golden {
 

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "tests/golden/voyages/VoyageTexts.h"
-
 #include <algorithm>
 
 #include <fmt/format.h>
@@ -9,6 +7,7 @@
 
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/calculation/Schedule.h"
+#include "tests/golden/voyages/GoldenFile.h"
 
 namespace Tarvik::Golden {
 

@@ -13,7 +13,6 @@
 #include <tarvik/core/TrvKernel.h>
 
 #include "host/plugins/fleet/store/FleetImport.h"
-#include "host/plugins/fleet/window/Question.h"
 #include "host/plugins/fleet/window/Words.h"
 
 namespace Tarvik::Fleet {

@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <utility>
 
-#include "host/plugins/fleet/window/Question.h"
 #include "host/plugins/fleet/window/Words.h"
 
 namespace Tarvik::Fleet {

@@ -10,7 +10,7 @@
 
 #include <tarvik/skin/Words.h>
 
-#include "host/plugins/seamap/widget/CardLook.h"
+#include "host/plugins/seamap/widget/PortCard.h"
 
 namespace Tarvik::Seamap {
 

@@ -6,8 +6,6 @@
 #include <QStringList>
 #include <algorithm>
 
-#include "host/plugins/seamap/widget/CardLook.h"
-
 namespace Tarvik::Seamap {
 
 namespace {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QLabel>
 #include <QString>
 
@@ -9,6 +10,22 @@
 #include "host/plugins/seamap/core/MercatorView.h"
 
 namespace Tarvik::Seamap {
+
+/// The sheet of a card on the chart, by its object name, in the chart's colours. One look for all cards, so
+/// that none is told apart from another.
+inline QString CardSheet(const QString& name, const ChartPalette& palette) {
+    const auto colour = [](const auto& of) { return QColor(of).name(); };
+    return QStringLiteral(
+               "#%1 { background: %2; color: %3; border: 1px solid %4; border-radius: 6px; padding: 6px "
+               "10px; "
+               "font-size: 12px; } #%1 QWidget { color: %3; background: %2; font-size: 12px; } "
+               "#%1 QLineEdit, #%1 QDoubleSpinBox { border: 1px solid %5; border-radius: 3px; padding: 2px "
+               "4px; } "
+               "#%1 QLineEdit:focus, #%1 QDoubleSpinBox:focus { border-color: %6; } "
+               "#%1 QListView { border: 0; } #%1 QListView::item:selected { background: %6; color: %2; }")
+        .arg(name, colour(palette.halo), colour(palette.text), colour(palette.graticule),
+             colour(palette.secondaryText), colour(palette.accent));
+}
 
 /// What is known of a port, on a small card beside its place on the chart.
 class PortCard final : public QLabel {

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "host/server/graph/PassageReach.h"
-#include "host/server/graph/SightLine.h"
 #include "host/server/graph/tests/SmallSea.h"
 
 namespace Tarvik::Server {

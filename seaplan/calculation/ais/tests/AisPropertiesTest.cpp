@@ -8,7 +8,6 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/ais/AisCorrection.h"
-#include "seaplan/calculation/ais/AisReplan.h"
 #include "seaplan/calculation/ais/AisRows.h"
 #include "seaplan/calculation/tests/Rows.h"
 

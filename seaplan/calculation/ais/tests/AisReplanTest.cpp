@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "seaplan/calculation/PositionBook.h"
-#include "seaplan/calculation/ais/AisReplan.h"
+#include "seaplan/calculation/ais/AisCorrection.h"
 #include "seaplan/calculation/ais/AisRows.h"
 #include "seaplan/calculation/tests/Rows.h"
 
