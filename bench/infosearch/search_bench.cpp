@@ -8,7 +8,6 @@
 #include <benchmark/benchmark.h>
 
 #include "host/ports/PlaceTable.h"
-#include "host/ports/search/Aliases.h"
 #include "host/ports/search/PortIndex.h"
 
 namespace Tarvik::Ports {

@@ -2,6 +2,7 @@
 #include "host/ports/PlaceTable.h"
 
 #include <set>
+#include <sstream>
 
 #include <tarvik/util/CppSQLite3.h>
 
@@ -24,6 +25,16 @@ std::set<std::string> ColumnsOf(Util::CppSQLite3DB& database) {
     return columns;
 }
 
+/// "Pusan;Pusan Port" in its parts.
+std::vector<std::string> Parts(const std::string& text) {
+    std::vector<std::string> parts;
+    std::istringstream in(text);
+    for (std::string part; std::getline(in, part, ';');) {
+        parts.push_back(part);
+    }
+    return parts;
+}
+
 }  // namespace
 
 bool ReadPlaces(const std::string& databaseFile, std::vector<Place>& places, std::string& error) {
@@ -36,11 +47,12 @@ bool ReadPlaces(const std::string& databaseFile, std::vector<Place>& places, std
             return columns.contains(name) ? std::string(name) : "''";
         };
         const std::string sql = "select id,name," + column("namecn") + "," + column("unlocode") +
-                                ",x,y,isport from t_point order by name,length(id),id";
+                                ",x,y,isport," + column("aliases") +
+                                " from t_point order by name,length(id),id";
         for (auto row = database.execQuery(sql.c_str()); !row.eof(); row.nextRow()) {
             places.push_back({Field(row, 0), Field(row, 1), Field(row, 2), Field(row, 3),
                               Server::ParsePosition(Field(row, 4) + "," + Field(row, 5)),
-                              Field(row, 6) == "1"});
+                              Field(row, 6) == "1", Parts(Field(row, 7))});
         }
     } catch (const Util::CppSQLite3Exception& failed) {
         error = failed.what();

@@ -3,6 +3,7 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include "host/data/builder/Sources.h"
 
@@ -28,14 +29,15 @@ struct PointRow {
     std::string isPort;
     std::string origid;
     std::string unlocode;
+    std::string aliases{};  ///< apart by ";"
 };
 
 class Inserter {
   public:
     explicit Inserter(SQLite::Database& database)
-        : statement_(
-              database,
-              "insert into t_point(id,name,namecn,x,y,isport,origid,unlocode) values(?,?,?,?,?,?,?,?)") {}
+        : statement_(database,
+                     "insert into t_point(id,name,namecn,x,y,isport,origid,unlocode,aliases) "
+                     "values(?,?,?,?,?,?,?,?,?)") {}
     void Add(const PointRow& row) {
         statement_.bind(1, row.id);
         statement_.bind(2, row.name);
@@ -45,6 +47,7 @@ class Inserter {
         statement_.bind(6, row.isPort);
         statement_.bind(7, row.origid);
         statement_.bind(8, row.unlocode);
+        statement_.bind(9, row.aliases);
         statement_.exec();
         statement_.reset();
     }
@@ -63,13 +66,14 @@ std::string WritePointDatabase(const std::string& path, const Sources& sources) 
         SQLite::Transaction transaction(database);
         database.exec(
             "create table t_point(id text primary key, name text, namecn text, x text, y text, isport text, "
-            "origid text, unlocode text)");
+            "origid text, unlocode text, aliases text)");
         Inserter inserter(database);
         for (const RoutePointSource& p : sources.routePoints) {
             inserter.Add({p.id, p.name, p.namecn, p.at, "0", "0", ""});
         }
         for (const PortSource& p : sources.ports) {
-            inserter.Add({p.id, p.name, p.namecn, p.at, "1", p.origid, p.unlocode});
+            inserter.Add({p.id, p.name, p.namecn, p.at, "1", p.origid, p.unlocode,
+                          fmt::format("{}", fmt::join(p.aliases, ";"))});
         }
         transaction.commit();
         return {};

@@ -4,6 +4,7 @@
 #include <map>
 #include <set>
 #include <stdexcept>
+#include <string_view>
 
 #include <nlohmann/json.hpp>
 
@@ -17,6 +18,10 @@ namespace {
 
 constexpr int kFirstPortId = 40001;
 constexpr double kSamePortNm = 30.0;
+/// In the place of a longitude: the entry of the list is no port and is left out.
+constexpr std::string_view kNoPort = "none";
+/// Begins a key of ours for a place whose UN/LOCODE is not known; it is not shipped.
+constexpr char kOwnKey = '~';
 
 using PortMap = std::map<std::string, PortSource>;
 
@@ -53,13 +58,14 @@ Corrections Correct(const CsvTable& table, PortMap& ports) {
         const std::string code = table.At(i, "unlocode");
         const std::string name = table.At(i, "name");
         const std::string x = table.At(i, "lon");
-        const GeoPoint at = x.empty() ? GeoPoint{NAN, NAN} : ToPoint(x, table.At(i, "lat"));
+        const bool none = x.empty() || x == kNoPort;
+        const GeoPoint at = none ? GeoPoint{NAN, NAN} : ToPoint(x, table.At(i, "lat"));
         if (!name.empty()) {
             result.named.insert(code);
         }
         const auto it = ports.find(code);
         if (it == ports.end()) {
-            if (x.empty() || name.empty()) {
+            if (none || name.empty()) {
                 throw std::runtime_error(code + " lacks a name or a position");
             }
             result.added.push_back({{}, code, name, {}, at, "0"});
@@ -101,6 +107,37 @@ void MakeNamesUnique(std::vector<PortSource>& ports, const std::set<std::string>
     }
 }
 
+/// The names of a file with the columns "unlocode" and `column`, by code.
+std::multimap<std::string, std::string> NamesByCode(const std::string& file, const std::string& column) {
+    const CsvTable table(ReadFile(file));
+    std::multimap<std::string, std::string> names;
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        names.emplace(table.At(i, "unlocode"), table.At(i, column));
+    }
+    return names;
+}
+
+/// Chinese names and aliases. A name for a code that no port has is a slip of whoever wrote it.
+void GiveOtherNames(std::vector<PortSource>& ports, const std::string& folder) {
+    const auto chinese = NamesByCode(folder + "/port_names_cn.csv", "namecn");
+    auto aliases = NamesByCode(folder + "/port_aliases.csv", "alias");
+    for (PortSource& port : ports) {
+        const auto local = chinese.find(port.unlocode);
+        port.namecn = local == chinese.end() ? port.name : local->second;
+        const auto [first, last] = aliases.equal_range(port.unlocode);
+        for (auto alias = first; alias != last; ++alias) {
+            port.aliases.push_back(alias->second);
+        }
+        aliases.erase(first, last);
+        if (port.unlocode.starts_with(kOwnKey)) {
+            port.unlocode.clear();
+        }
+    }
+    if (!aliases.empty()) {
+        throw std::runtime_error("port_aliases.csv: there is no port " + aliases.begin()->first);
+    }
+}
+
 /// Some ports stand in the list under two codes: the later one refers to the earlier.
 void LinkDoubles(std::vector<PortSource>& ports) {
     for (std::size_t i = 0; i < ports.size(); ++i) {
@@ -137,14 +174,7 @@ std::vector<PortSource> ReadPorts(const std::string& folder, const std::string& 
     }
     LinkDoubles(ports);
     MakeNamesUnique(ports, corrections.named, countries);
-    const CsvTable chinese(ReadFile(folder + "/port_names_cn.csv"));
-    std::map<std::string, std::string> names;
-    for (std::size_t i = 0; i < chinese.size(); ++i) {
-        names[chinese.At(i, "unlocode")] = chinese.At(i, "namecn");
-    }
-    for (PortSource& port : ports) {
-        port.namecn = names.contains(port.unlocode) ? names[port.unlocode] : port.name;
-    }
+    GiveOtherNames(ports, folder);
     return ports;
 }
 

@@ -48,7 +48,8 @@ struct PortSource {
     std::string name;
     std::string namecn;
     GeoPoint at;
-    std::string origid = "0";  ///< the port that this one is another entry of, "0" for none
+    std::string origid = "0";            ///< the port that this one is another entry of, "0" for none
+    std::vector<std::string> aliases{};  ///< other names that people use
 };
 
 /// Everything that is made by hand or fetched, apart from the land.

@@ -11,6 +11,7 @@ namespace Tarvik::Data {
 
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
@@ -27,6 +28,7 @@ class SourcesTest : public ::testing::Test {
         Write("port_corrections.csv",
               "unlocode,name,lon,lat,reason\nAABBB,Better,5,6,was wrong\nZZZZZ,New,7,8,missing\n");
         Write("port_names_cn.csv", "unlocode,namecn\nAABBB,好\n");
+        Write("port_aliases.csv", "unlocode,alias\nAABBB,Best\nAABBB,\"Good, old\"\n");
         Write("ports.json",
               R"json({"AABBB":{"name":"Bad (ex Worse)","country":"Aa","coordinates":[1,2]},
                   "AACCC":{"name":"Twin","country":"Aa","coordinates":[3,4]},
@@ -110,6 +112,36 @@ TEST_F(SourcesTest, ANameGivenByHandIsKeptWhole) {
     EXPECT_EQ(Port(*sources, "AACCC").name, "Twin, Aa");
 }
 
+TEST_F(SourcesTest, PortsHaveTheirOtherNames) {
+    const auto sources = Read();
+    ASSERT_TRUE(sources) << error_;
+    EXPECT_THAT(Port(*sources, "AABBB").aliases, ElementsAre("Best", "Good, old"));
+    EXPECT_TRUE(Port(*sources, "BBGGG").aliases.empty());
+}
+
+TEST_F(SourcesTest, AnEntryThatIsNoPortIsLeftOut) {
+    Write("port_corrections.csv", "unlocode,name,lon,lat,reason\nAADDD,,none,none,an airport\n");
+    Write("port_aliases.csv", "unlocode,alias\n");
+    const auto sources = Read();
+    ASSERT_TRUE(sources) << error_;
+    for (const PortSource& port : sources->ports) {
+        EXPECT_NE(port.unlocode, "AADDD");
+    }
+    EXPECT_EQ(Port(*sources, "BBGGG").id, "40006") << "ids stay what they are";
+}
+
+TEST_F(SourcesTest, APlaceWithoutAKnownCodeHasNone) {
+    Write("port_corrections.csv", "unlocode,name,lon,lat,reason\n~OURS,Terminal,7,8,missing\n");
+    Write("port_aliases.csv", "unlocode,alias\n~OURS,Jetty\n");
+    Write("port_names_cn.csv", "unlocode,namecn\n~OURS,码头\n");
+    const auto sources = Read();
+    ASSERT_TRUE(sources) << error_;
+    const PortSource& added = Port(*sources, "");
+    EXPECT_EQ(added.name, "Terminal");
+    EXPECT_EQ(added.namecn, "码头");
+    EXPECT_THAT(added.aliases, ElementsAre("Jetty"));
+}
+
 TEST_F(SourcesTest, SaysWhichFileIsWrongAndWhy) {
     Write("areas.csv", "name,ring,reason\nLine,5 5;6 5,none\n");
     EXPECT_FALSE(Read());
@@ -127,6 +159,9 @@ TEST_F(SourcesTest, SaysWhichFileIsWrongAndWhy) {
 }
 
 TEST_F(SourcesTest, RefusesPortsThatCannotBeUsed) {
+    Write("port_aliases.csv", "unlocode,alias\nXXXXX,Nowhere\n");
+    EXPECT_FALSE(Read());
+    EXPECT_EQ(error_, "ports: port_aliases.csv: there is no port XXXXX");
     Write("port_corrections.csv", "unlocode,name,lon,lat,reason\nZZZZZ,New,,,missing\n");
     EXPECT_FALSE(Read());
     EXPECT_EQ(error_, "ports: ZZZZZ lacks a name or a position");

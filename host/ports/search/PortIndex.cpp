@@ -69,6 +69,17 @@ std::size_t SlipsAllowed(const std::u32string& typed) {
 
 }  // namespace
 
+std::vector<Port> PortsOf(const std::vector<Place>& places) {
+    std::vector<Port> ports;
+    for (const Place& place : places) {
+        if (place.isPort) {
+            const auto at = place.position.value_or(Server::GeoPoint());
+            ports.push_back({place.name, place.nameCn, place.unlocode, at.x, at.y, place.aliases});
+        }
+    }
+    return ports;
+}
+
 struct PortIndex::Query {
     Words words;
     std::u32string whole;

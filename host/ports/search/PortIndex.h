@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/ports/PlaceTable.h"
 #include "host/ports/search/Folding.h"
 
 namespace Tarvik::Ports {
@@ -20,6 +21,9 @@ struct Port {
     double y = 0;                      ///< latitude in degrees
     std::vector<std::string> aliases;  ///< other names that people use
 };
+
+/// The ports among the places; one without a position stands at 0, 0.
+std::vector<Port> PortsOf(const std::vector<Place>& places);
 
 /// How a port fits what was typed; better ones first.
 enum class Fit : std::uint8_t { Whole, Beginning, Code, Word, Slip };

@@ -14,7 +14,6 @@
 #include "host/plugins/infosearch/window/VesselFacts.h"
 #include "host/plugins/infosearch/window/Words.h"
 #include "host/ports/PlaceTable.h"
-#include "host/ports/search/Aliases.h"
 
 namespace Tarvik::InfoSearch {
 

@@ -21,6 +21,7 @@ ChartName NameOf(const Ports::Place& port, bool isChinese) {
     name.code = port.unlocode;
     name.port = port.name;
     name.local = port.nameCn;
+    name.aliases = port.aliases;
     // The ports that the trade knows have a Chinese name, the others their English one again.
     name.isMajor = !port.nameCn.empty() && port.nameCn != port.name;
     return name;

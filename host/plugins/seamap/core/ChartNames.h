@@ -28,11 +28,12 @@ struct ChartName {
     Kind kind = Kind::Water;
     GeoPoint position{};  ///< the middle of a water's name, the place of a port
     std::string text{};
-    std::string code{};    ///< UN/LOCODE of a port, empty when it has none
-    std::string port{};    ///< a port's name in the dictionary, whatever the language
-    std::string local{};   ///< its Chinese name, whatever the language; may be empty or the English one
-    double miles = 0;      ///< a water's width
-    bool isMajor = false;  ///< a port that is named before the others
+    std::string code{};   ///< UN/LOCODE of a port, empty when it has none
+    std::string port{};   ///< a port's name in the dictionary, whatever the language
+    std::string local{};  ///< its Chinese name, whatever the language; may be empty or the English one
+    std::vector<std::string> aliases{};  ///< other names of a port, in no order
+    double miles = 0;                    ///< a water's width
+    bool isMajor = false;                ///< a port that is named before the others
 
     /// Whether the name is shown at all where a pixel is so many nautical miles wide: a water whose name fits
     /// into it, a port from some zoom on. `width` is the text's in pixels.

@@ -10,7 +10,6 @@
 #include <tarvik/util/TypedPosition.h>
 
 #include "host/geo/Sphere.h"
-#include "host/ports/search/Aliases.h"
 
 namespace Tarvik::Seamap {
 
@@ -45,7 +44,7 @@ const Ports::PortIndex& PortFinder::Index() const {
         ports.reserve(ports_.size());
         for (const ChartName& port : ports_) {
             ports.push_back({port.port, port.local, port.code, port.position.x, port.position.y,
-                             Ports::AliasesOf(port.code)});
+                             port.aliases});
         }
         index_ = std::make_unique<Ports::PortIndex>(ports);
     }
