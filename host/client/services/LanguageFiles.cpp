@@ -18,6 +18,7 @@ namespace Tarvik::Client {
 namespace {
 
 constexpr const char* kNameKey = "LANGUAGE_NAME";
+constexpr const char* kButtons = "Buttons";
 
 /// All files of a folder in order of their names.
 std::vector<fs::path> FilesOf(const std::string& folder) {
@@ -138,20 +139,47 @@ std::string LanguageFiles::Text(const std::string& section, const std::string& k
 }
 
 QuestionButtons LanguageFiles::ButtonsOf(const std::string& question) const {
+    constexpr std::string_view kYes = ".YES";
+    const std::size_t end = question.find('\n');
+    const std::string detail = end == std::string::npos ? std::string() : question.substr(end + 1);
     QuestionButtons buttons;
-    // The lines below the first tell what a question is about.
-    const auto firstLine = [](const std::string& text) { return text.substr(0, text.find('\n')); };
-    const std::string key = firstLine(question);
-    for (const auto& entry : texts_) {
+    bool ofDetail = false;
+    for (const auto& [where, yes] : texts_) {
+        if (where.first != kButtons || !where.second.ends_with(kYes)) {
+            continue;
+        }
+        const std::string key = where.second.substr(0, where.second.size() - kYes.size());
+        const std::size_t dot = key.find('.');
+        const bool special = dot != std::string::npos;
+        if (!IsAsked(key.substr(0, dot), question.substr(0, end)) ||
+            (special ? !IsTold(key.substr(dot + 1), detail) : ofDetail)) {
+            continue;
+        }
+        ofDetail = special;
         const auto part = [&](const char* ending) {
-            const auto found = texts_.find({"Buttons", entry.first.second + ending});
+            const auto found = texts_.find({kButtons, key + ending});
             return found == texts_.end() ? std::string() : found->second;
         };
-        if (firstLine(entry.second) == key && !part(".YES").empty()) {
-            buttons = {part(".YES"), part(".NO"), part(".CAREFUL") == "yes"};
-        }
+        buttons = {yes, part(".NO"), part(".CAREFUL") == "yes"};
     }
     return buttons;
+}
+
+/// Whether the first line of a key's text is this one; the lines below tell what a question is about.
+bool LanguageFiles::IsAsked(const std::string& key, const std::string& line) const {
+    return std::any_of(texts_.begin(), texts_.end(), [&](const auto& entry) {
+        return entry.first.first != kButtons && entry.first.second == key &&
+               entry.second.substr(0, entry.second.find('\n')) == line;
+    });
+}
+
+/// Whether a line begins as a key's text does before its first value.
+bool LanguageFiles::IsTold(const std::string& key, const std::string& line) const {
+    return std::any_of(texts_.begin(), texts_.end(), [&](const auto& entry) {
+        const std::string begin = entry.second.substr(0, entry.second.find('%'));
+        return entry.first.first != kButtons && entry.first.second == key && !begin.empty() &&
+               line.starts_with(begin);
+    });
 }
 
 std::optional<std::u16string> LanguageFiles::Find(const std::u16string& section,

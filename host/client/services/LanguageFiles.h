@@ -56,8 +56,8 @@ class LanguageFiles : public Interface::LanguageSource {
     std::string Text(const std::string& section, const std::string& key) const;
 
     /// The buttons of a question by its text. The section "Buttons" of a file names them by the question's
-    /// key:
-    /// "<key>.YES", "<key>.NO", and "<key>.CAREFUL" with the text "yes" where yes is the careful answer.
+    /// key: "<key>.YES", "<key>.NO", and "<key>.CAREFUL" with the text "yes" where yes is the careful answer.
+    /// "<key>.<key of a line>.YES" and so on go before these where that line stands below the question.
     QuestionButtons ButtonsOf(const std::string& question) const;
 
     std::optional<std::u16string> Find(const std::u16string& section, const std::u16string& name,
@@ -65,6 +65,8 @@ class LanguageFiles : public Interface::LanguageSource {
 
   private:
     void MergeFiles(const std::vector<std::filesystem::path>& files);
+    bool IsAsked(const std::string& key, const std::string& line) const;
+    bool IsTold(const std::string& key, const std::string& line) const;
 
     std::map<std::pair<std::string, std::string>, std::string> texts_;
     std::string code_;

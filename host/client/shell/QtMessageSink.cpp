@@ -18,11 +18,14 @@ Interface::SysMsgHandleRes QtMessageSink::SyncSendMsg(int /*level*/, const std::
     const auto word = [this](const char* key) { return QString::fromStdString(texts_.Text("Client", key)); };
     box->setObjectName("message");
     box->setTextFormat(Qt::PlainText);
-    box->setText(QString::fromStdU16String(text));
+    const QString told = QString::fromStdU16String(text);
+    box->setText(told.section('\n', 0, 0));
+    // What is below the text tells what it is about, and stands apart from it.
+    box->setInformativeText(told.section('\n', 1));
     box->setWindowTitle(title.empty() ? word("TITLE") : QString::fromStdU16String(title));
     const bool question = flags == 4;
     box->setIcon(question ? QMessageBox::Question : QMessageBox::Information);
-    const QuestionButtons own = texts_.ButtonsOf(QString::fromStdU16String(text).toStdString());
+    const QuestionButtons own = texts_.ButtonsOf(told.toStdString());
     const auto button = [&](const std::string& words, const char* key) {
         return words.empty() ? word(key) : QString::fromStdString(words);
     };

@@ -190,6 +190,15 @@ TEST(QuestionButtonsTest, WhatLosesSomethingIsNotTheCarefulAnswer) {
     EXPECT_FALSE(buttons("IDS_PORTCALL_CLOSESAVE").yesIsCareful);
     EXPECT_EQ(buttons("IDS_PORTCALL_SAVENEXT").yes, "Save");
     EXPECT_TRUE(buttons("IDS_PORTCALL_SAVENEXT").yesIsCareful);
+    const auto leaving = [&texts](const char* detail) {
+        return texts.ButtonsOf(texts.Text("Seaplan", "IDS_PORTCALL_SAVENEXT") + '\n' + detail);
+    };
+    const QuestionButtons table =
+        leaving("Port distance table, rows: 3. They are kept only under a name, as a voyage.");
+    EXPECT_EQ(table.yes, "Save as voyage") << "it has no voyage that a plain save could go to";
+    EXPECT_EQ(table.no, "Lose the table");
+    EXPECT_TRUE(table.yesIsCareful);
+    EXPECT_EQ(leaving("Voyage \"A\", changed rows: 2").yes, "Save");
     EXPECT_FALSE(buttons("IDS_TREE_CLEARVOYORCATE").yesIsCareful);
     for (const char* key : {"IDS_REMARKSAVETIP", "IDS_BK_TIP_SAVE", "IDS_WP_TIP_SAVE"}) {
         EXPECT_EQ(buttons(key).yes, "Save") << key;

@@ -105,6 +105,19 @@ TEST(MessageSink, AQuestionsOwnButtonsSayWhatTheyDo) {
     EXPECT_EQ(FocusedAnswer(texts, 4), "Save");
 }
 
+TEST(MessageSink, WhatAQuestionIsAboutStandsBelowItsText) {
+    const LanguageFiles texts;
+    QtMessageSink sink(nullptr, texts);
+    QStringList shown;
+    QTimer::singleShot(0, qApp, [&shown] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        shown = {box->text(), box->informativeText()};
+        box->reject();
+    });
+    sink.SyncSendMsg(1, u"Sure?\nVoyage \"A\"\nVoyage \"B\"", 4, nullptr, u"");
+    EXPECT_EQ(shown, QStringList({"Sure?", "Voyage \"A\"\nVoyage \"B\""}));
+}
+
 TEST(TimerService, CallsAgainAndAgainUntilStoppedByItsOwnCallback) {
     QtTimerService timers;
     QEventLoop loop;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/panels/texts/EditTexts.h"
 
@@ -191,7 +192,8 @@ void BookCommands::OnClose() {
     if (!editing_.CommitEditors()) {
         return;
     }
-    if (desk_.Sheet().changed && desk_.ToPerson().Question(TextIds::IDS_WP_TIP_SAVE) && !Save()) {
+    const auto lost = [this] { return Text(TextIds::IDS_VIEW_LOSTBOOK, {desk_.Owner().Origin().voyage}); };
+    if (desk_.Sheet().changed && desk_.ToPerson().Question(TextIds::IDS_WP_TIP_SAVE, lost()) && !Save()) {
         return;
     }
     Hide();

@@ -88,7 +88,7 @@ void BookDesk::Show() {
     }
     // The table is filled anew by a change of zone and by a save, so its zone is asked for late.
     if (const BookOwner* owner = p_.owner()) {
-        sheet_.tableZone = owner->TableZone();
+        sheet_.tableZone = owner->Origin().tableZone;
     }
     p_.view.SetCaption(Text(TextIds::IDC_WP_T_TITLE), sheet_.changed);
     p_.view.ShowSheet(sheet_);

@@ -39,6 +39,12 @@ class BookView : public PanelWindow {
     virtual void TellClosed() = 0;
 };
 
+/// Where a book comes from.
+struct BookOrigin {
+    std::string voyage;     ///< name of the voyage that it was opened for
+    std::string tableZone;  ///< zone of the times that the port calls show, empty when nobody told
+};
+
 /// Who opened the book, and cannot be used while it is open.
 class BookOwner {
   public:
@@ -46,8 +52,7 @@ class BookOwner {
     /// Saves the shaped book of the voyage that it was opened for. 0 when it is saved; otherwise it is told.
     virtual int SavePositionBook(const PosBookData& book) = 0;
     virtual void SetBookOpen(bool open) = 0;
-    /// Zone of the times that it shows, empty when nobody told.
-    virtual std::string TableZone() const = 0;
+    virtual BookOrigin Origin() const = 0;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -105,7 +105,8 @@ void CBunkerDlg::OnUndo() {
 }
 
 void CBunkerDlg::OnClose() {
-    if (IsDirty() && boxes_.Question(TextIds::IDS_BK_TIP_SAVE)) {
+    if (IsDirty() &&
+        boxes_.Question(TextIds::IDS_BK_TIP_SAVE, Text(TextIds::IDS_VIEW_LOSTFIGURES, {p_.voyageName()}))) {
         Save();
     }
     SetState(false, true);

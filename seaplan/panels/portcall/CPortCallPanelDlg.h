@@ -45,7 +45,7 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener, pub
     void SetCorrectionTime(const std::string& time) override { filling_.SetCorrectionTime(time); }
     int SavePositionBook(const PosBookData& book) override { return commands_.SavePositionBook(book); }
     void SetBookOpen(bool open) override { desk_.SetBookOpen(open); }
-    std::string TableZone() const override { return desk_.Sheet().state.zone; }
+    BookOrigin Origin() const override { return {commands_.BookVoyage(), desk_.Sheet().state.zone}; }
     void HideAfterLogout();
     /// The user's zone is another one now: the table is loaded anew, after the question about its changes.
     void OnTimeZone(const std::string& zone) { filling_.OnTimeZone(zone); }

@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <tarvik/util/DateTimeUtl.h>
-
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
@@ -76,12 +74,7 @@ int PanelCommands::Calculate() {
 
 /// Known legs are told with the day of the oldest, in the zone of the rows, for as long as these stand there.
 PortCallNote PanelCommands::NoteOfRoute() const {
-    const auto& since = desk_.Voyages().Module().Pending().KnownSince();
-    if (!since) {
-        return {};
-    }
-    const auto there = Util::DateTimeUtl::ConvertFromUTC(*since, desk_.Sheet().state.zone);
-    return {PortCallNote::Kind::KnownLegs, there.fmt("%Y-%m-%d")};
+    return NoteOfKnownLegs(desk_.Voyages().Module().Pending().KnownSince(), desk_.Sheet().state.zone);
 }
 
 int PanelCommands::ShowCalculated(const PortCallRows& rows, PortCallRows result) {
@@ -161,10 +154,7 @@ void PanelCommands::OnSave() {
     editing_.CommitEditors();
     const PortCallSheet& sheet = desk_.Sheet();
     if (sheet.state.changed && sheet.IsUnkeptTable()) {
-        if (desk_.Given().keepTable) {
-            desk_.Given().keepTable();
-        }
-        return;
+        return desk_.AskToKeepTable();
     }
     int corrected = 0;
     if (!sheet.state.changed || desk_.Voyages().GetModAis(sheet.voyageId, corrected) != 0) {

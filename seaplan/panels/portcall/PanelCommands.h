@@ -33,6 +33,8 @@ class PanelCommands {
     /// Saves the book that was opened last for its voyage, shows the voyage's rows anew and draws it. 0, or
     /// the number of VoyController::SavePositionBook, which is told.
     int SavePositionBook(const PosBookData& book);
+    /// Name of the voyage whose book was opened last.
+    std::string BookVoyage() const { return desk_.Voyages().NameOf(bookVoyage_); }
     void OnHelp();
     /// The table as it was before the last edit, or behind it again, with the route that it had; nothing
     /// where there is none.

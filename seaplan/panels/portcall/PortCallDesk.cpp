@@ -58,6 +58,12 @@ void PortCallDesk::TellSaved(const std::string& vi) const {
     }
 }
 
+void PortCallDesk::AskToKeepTable() const {
+    if (p_.keepTable) {
+        p_.keepTable();
+    }
+}
+
 void PortCallDesk::ResetSheet() {
     sheet_.Reset();
     ShowTexts();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/PortCallWords.h"
 
+#include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/Units.h>
 
 #include "seaplan/calculation/PositionBook.h"
@@ -66,6 +67,14 @@ std::string LossText(const PortCallSheet& sheet, const std::string& voyage) {
     // Nothing typed differs from what is stored: what is lost is a route, unless it is still to be found.
     const bool route = sheet.state.changed && sheet.note.kind != PortCallNote::Kind::Unfinished;
     return Text(route ? TextIds::IDS_VIEW_LOSTROUTE : TextIds::IDS_VIEW_LOSTVOYAGE, {voyage});
+}
+
+PortCallNote NoteOfKnownLegs(const std::optional<Util::_datetime_t>& since, const std::string& zone) {
+    if (!since) {
+        return {};
+    }
+    const auto there = Util::DateTimeUtl::ConvertFromUTC(*since, zone);
+    return {PortCallNote::Kind::KnownLegs, there.fmt("%Y-%m-%d")};
 }
 
 std::string NoteText(const PortCallNote& note) {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include <tarvik/util/DateTime.h>
 
 #include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/data/PosBookData.h"
@@ -17,6 +20,9 @@ std::string CauseText(const ScheduleFault& fault, const PortCallTable& table);
 std::string BookCauseText(const ScheduleFault& fault, const PosBookData& book, const PortCallTable& table);
 /// What is lost with the changes in the sheet, with the name of its voyage.
 std::string LossText(const PortCallSheet& sheet, const std::string& voyage);
+/// What is to be known of rows some of whose legs are the known ones of this time (UTC) and later, in the
+/// person's zone; nothing without a time.
+PortCallNote NoteOfKnownLegs(const std::optional<Util::_datetime_t>& since, const std::string& zone);
 /// The one line about the rows on show, empty when there is nothing to tell of them.
 std::string NoteText(const PortCallNote& note);
 

@@ -64,8 +64,12 @@ bool VoyageFilling::MayLeave() {
     }
     // The rows in the table are what is saved, so no cell may have changed since.
     const bool save = desk_.ToPerson().Question(TextIds::IDS_PORTCALL_SAVENEXT, desk_.LossWords());
-    // A distance table belongs to no voyage that a save could go to.
-    if (!save || sheet.IsUnkeptTable()) {
+    if (save && sheet.IsUnkeptTable()) {
+        // It belongs to no voyage that a save could go to: it gets one first, and stays until then.
+        desk_.AskToKeepTable();
+        return false;
+    }
+    if (!save) {
         GiveUp();
     } else if (save_() != 0) {
         return false;

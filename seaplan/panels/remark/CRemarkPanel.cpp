@@ -119,7 +119,7 @@ void CRemarkPanel::OnItemClicked(int row, const std::string& item) {
 
 void CRemarkPanel::Delete(int row) {
     const CRemark* remark = d_.list.Row(row).remark;
-    if (!d_.ToPerson().Question(TextIds::IDS_DELREMARKTIP) ||
+    if (!d_.ToPerson().Question(TextIds::IDS_DELREMARKTIP, d_.NameOf(remark->subject)) ||
         !d_.remarks.DeleteRemark(remark->type, remark->objectid, remark->seq)) {
         return;
     }
@@ -136,7 +136,7 @@ void CRemarkPanel::Delete(int row) {
 
 void CRemarkPanel::DropNew() {
     if (editing_.IsDirty() && d_.list.Current() == 0) {
-        if (!d_.ToPerson().Denied(TextIds::IDS_REMARKSAVETIP)) {
+        if (!editing_.IsDenied()) {
             editing_.Save();
             return d_.Show();
         }

@@ -4,8 +4,10 @@
 #include <functional>
 #include <string>
 
+#include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/remark/ClistCtrlViewEx.h"
 #include "seaplan/panels/remark/RemarkView.h"
+#include "seaplan/panels/texts/NoteTexts.h"
 #include "seaplan/panels/window/Boxes.h"
 #include "seaplan/protocol/RemarkList.h"
 
@@ -57,6 +59,10 @@ struct RemarkDesk {
     Boxes& ToPerson() {
         Show();
         return boxes;
+    }
+    /// A remark as questions tell it.
+    std::string NameOf(const std::string& subject) const {
+        return Text(TextIds::IDS_VIEW_LOSTREMARK, {subject, object.name});
     }
     /// The object has a remark, or none any more.
     void Mark(bool on) const {

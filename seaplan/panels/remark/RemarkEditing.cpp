@@ -25,12 +25,16 @@ bool RemarkEditing::AskSave() {
     if (!dirty_) {
         return true;
     }
-    if (d_.ToPerson().Denied(TextIds::IDS_REMARKSAVETIP)) {
+    if (IsDenied()) {
         Drop();
     } else {
         Save();
     }
     return !dirty_;
+}
+
+bool RemarkEditing::IsDenied() {
+    return d_.ToPerson().Denied(TextIds::IDS_REMARKSAVETIP, d_.NameOf(subject_));
 }
 
 void RemarkEditing::SaveClick() {

@@ -18,6 +18,8 @@ class RemarkEditing {
     /// Asks what becomes of a changed text: no drops the change, anything else saves it. False when there is
     /// one still, as the save failed.
     bool AskSave();
+    /// The question itself: whether the person gives the change up.
+    bool IsDenied();
     /// The save button.
     void SaveClick();
     /// Sends the text: of the new remark in row 0, or of a changed one.

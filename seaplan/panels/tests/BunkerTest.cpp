@@ -157,10 +157,12 @@ TEST_F(BunkerTest, AFailedSaveIsToldByTheStatusLineAlone) {
 }
 
 TEST_F(BunkerTest, ClosingAsksForChangesAndYesSavesThem) {
+    texts.given[u"IDS_VIEW_LOSTFIGURES"] = u"consumption of %1";
     dialog.OnTyped(Vfn, "11");
     messages.Answer(Answer::Yes);
     dialog.OnClose();
     EXPECT_EQ(LastMessage(), "IDS_BK_TIP_SAVE");
+    EXPECT_EQ(LastDetail(), "consumption of Saved") << "the question names what would be lost";
     EXPECT_EQ(messages.messages.back().flags, 4);
     EXPECT_EQ(messages.messages.back().owner, window.Handle());
     EXPECT_FALSE(window.visible);

@@ -220,22 +220,50 @@ TEST_F(DistanceTableTest, AClearedTableIsStillTheDistanceTable) {
     EXPECT_EQ(Cell(0, ColPort), "GDANSK");
 }
 
-TEST_F(DistanceTableTest, LeavingForAVoyageAsksAndLosesTheRowsWhateverTheAnswer) {
-    for (const SysMsgHandleRes answer : {SysMsgHandleRes::Yes, SysMsgHandleRes::No}) {
-        AddPorts({"ROTTERDAM", "HAMBURG"});
+TEST_F(DistanceTableTest, LeavingForAVoyageAsksAndNoLosesTheRows) {
+    AddPorts({"ROTTERDAM", "HAMBURG"});
+    messages.Answer(SysMsgHandleRes::No);
+    EXPECT_EQ(LeaveFor(kept), 0);
+    ASSERT_EQ(messages.messages.size(), 1U) << "one question, and no word about a save";
+    EXPECT_EQ(LastMessage(), "IDS_PORTCALL_SAVENEXT");
+    EXPECT_EQ(LastDetail(), "IDS_VIEW_LOSTTABLE") << "it names what would be lost";
+    EXPECT_EQ(kept_, 0);
+    EXPECT_EQ(Changes(), 0);
+    EXPECT_EQ(view.caption, "IDS_PORTCALL_TITLE");
+    EXPECT_FALSE(view.state.distanceTable);
+    EXPECT_EQ(Cell(2, ColPort), "GDANSK") << "the voyage is on show";
+    EXPECT_FALSE(view.state.changed);
+}
+
+TEST_F(DistanceTableTest, YesToLeavingAsksForANameAndTheTableStaysUntilThen) {
+    AddPorts({"ROTTERDAM", "HAMBURG", "GDANSK"});
+    panel.Commands().OnCalculate();
+    desk.ForgetRecords();
+    const auto leave = [this] {
         messages.messages.clear();
-        desk.ForgetRecords();
-        messages.Answer(answer);
-        EXPECT_EQ(LeaveFor(kept), 0);
+        messages.Answer(SysMsgHandleRes::Yes);
+    };
+    const auto expectTable = [this](int asked) {
         ASSERT_EQ(messages.messages.size(), 1U) << "one question, and no word about a save";
         EXPECT_EQ(LastMessage(), "IDS_PORTCALL_SAVENEXT");
-        EXPECT_EQ(LastDetail(), "IDS_VIEW_LOSTTABLE") << "it says that neither answer keeps the rows";
-        EXPECT_EQ(Changes(), 0);
-        EXPECT_EQ(view.caption, "IDS_PORTCALL_TITLE");
-        EXPECT_FALSE(view.state.distanceTable);
-        EXPECT_EQ(Cell(2, ColPort), "GDANSK") << "the voyage is on show";
-        EXPECT_FALSE(view.state.changed);
-    }
+        EXPECT_EQ(kept_, asked);
+        EXPECT_TRUE(view.visible);
+        EXPECT_EQ(view.caption, kTableCaption);
+        EXPECT_THAT(Column(ColDistance), ElementsAre("0.00", "240.00", "240.00", " ", " ", " "));
+        EXPECT_TRUE(view.state.changed);
+        EXPECT_TRUE(desk.portCallModule.Pending().IsFor("DISTANCE TABLE USE")) << "its route stays with it";
+    };
+    leave();
+    EXPECT_EQ(LeaveFor(kept), -4);
+    expectTable(1);
+    leave();
+    panel.SetVoyage(fresh);
+    panel.Reset();
+    expectTable(2);
+    leave();
+    EXPECT_FALSE(panel.AskToLeave());
+    expectTable(3);
+    EXPECT_THAT(desk.host.requests, IsEmpty());
 }
 
 TEST_F(DistanceTableTest, AnUnchangedTableIsLeftWithoutAQuestion) {

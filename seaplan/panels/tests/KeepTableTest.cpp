@@ -362,6 +362,22 @@ TEST_F(KeepTableTest, LeavingAKeptTableThatWasChangedSavesItsVoyageOnYes) {
     EXPECT_EQ(view.caption, "IDS_PORTCALL_TITLE");
 }
 
+TEST_F(KeepTableTest, YesToLeavingATableOpensTheDialogAndNothingOfItIsLost) {
+    for (const char* name : {"ROTTERDAM", "HAMBURG", "GDANSK"}) {
+        SendPort(name);
+    }
+    messages.Answer(SysMsgHandleRes::Yes);
+    panel.SetVoyage(kept);
+    EXPECT_EQ(panel.FillForVoyage(-1), -4);
+    EXPECT_TRUE(keep.visible);
+    EXPECT_TRUE(view.state.distanceTable);
+    KeepAs("Plans", "V1");
+    EXPECT_EQ(desk.Voyage("V1").portCalls.size(), 3U);
+    Open(kept);
+    EXPECT_EQ(messages.messages.size(), 1U) << "it was saved, and is left without a question";
+    EXPECT_EQ(view.caption, "IDS_PORTCALL_TITLE");
+}
+
 TEST_F(KeepTableTest, AFailedSaveIsToldAndLeavesTheVoyageWithoutPortCalls) {
     AskToKeep();
     desk.Refuse(Ask::kSavePortCalls);

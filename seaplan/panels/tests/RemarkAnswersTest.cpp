@@ -34,6 +34,26 @@ TEST_F(RemarkAnswersTest, AQuestionThatIsClosedWithoutAnAnswerSavesAtClosing) {
     EXPECT_THAT(Stored(), ElementsAre("Two|About One"));
 }
 
+TEST_F(RemarkAnswersTest, QuestionsNameTheRemarkThatWouldBeLost) {
+    texts.given[u"IDS_VIEW_LOSTREMARK"] = u"%1 of %2";
+    OpenWith({"Old", "Young"});
+    TypeSubject("Younger");
+    messages.Answer(Answer::No);
+    Select(1);
+    EXPECT_EQ(LastMessage(), "IDS_REMARKSAVETIP");
+    EXPECT_EQ(LastDetail(), "Younger of North");
+    messages.Answer(Answer::No);
+    ClickDelete(1);
+    EXPECT_EQ(LastMessage(), "IDS_DELREMARKTIP");
+    EXPECT_EQ(LastDetail(), "Old of North");
+    panel.New();
+    TypeSubject("Newest");
+    messages.Answer(Answer::No);
+    ClickDelete(0);
+    EXPECT_EQ(LastMessage(), "IDS_REMARKSAVETIP");
+    EXPECT_EQ(LastDetail(), "Newest of North");
+}
+
 TEST_F(RemarkAnswersTest, TheMarkGoesOffWithTheLastRemarkAndOnAgainWithTheNext) {
     OpenWith({"One"});
     messages.Answer(Answer::Yes);

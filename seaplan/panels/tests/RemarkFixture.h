@@ -119,7 +119,15 @@ class RemarkFixture : public ::testing::Test {
         messages.messages.clear();
         desk.ForgetRecords();
     }
-    std::string LastMessage() const { return messages.messages.empty() ? "" : messages.messages.back().text; }
+    /// The text of the last message, without the line below it.
+    std::string LastMessage() const { return Line(true); }
+    /// The line below it.
+    std::string LastDetail() const { return Line(false); }
+    std::string Line(bool first) const {
+        const std::string text = messages.messages.empty() ? "" : messages.messages.back().text;
+        const std::size_t end = text.find('\n');
+        return first ? text.substr(0, end) : end == std::string::npos ? "" : text.substr(end + 1);
+    }
     /// What the server has of the voyage, "subject|body".
     std::vector<std::string> Stored() {
         RemarkList list;

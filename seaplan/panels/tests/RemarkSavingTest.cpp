@@ -104,7 +104,8 @@ TEST_F(RemarkSavingTest, ATextThatDoesNotFitARequestIsToldAndKept) {
     TypeBody(wide);
     Save();
     EXPECT_EQ(desk.Count(Ask::kAddRemark), 0) << "4200 bytes";
-    EXPECT_EQ(LastMessage(), "IDS_TIP_ADDRMKFAIL\nIDS_TIP_SUBJECT_LEN") << "the second line says what to do";
+    EXPECT_EQ(LastMessage(), "IDS_TIP_ADDRMKFAIL");
+    EXPECT_EQ(LastDetail(), "IDS_TIP_SUBJECT_LEN") << "the second line says what to do";
     EXPECT_EQ(view.body, wide);
     EXPECT_TRUE(view.rows[0].unsaved);
     EXPECT_FALSE(view.state.canAdd);
@@ -115,7 +116,8 @@ TEST_F(RemarkSavingTest, ATextThatDoesNotFitARequestIsToldAndKept) {
     EXPECT_THAT(marks, ElementsAre(Pair(7, true)));
     TypeBody(wide);
     Save();
-    EXPECT_EQ(LastMessage(), "IDS_TIP_MODIFYRMKFAIL\nIDS_TIP_SUBJECT_LEN");
+    EXPECT_EQ(LastMessage(), "IDS_TIP_MODIFYRMKFAIL");
+    EXPECT_EQ(LastDetail(), "IDS_TIP_SUBJECT_LEN");
     EXPECT_EQ(view.body, wide);
     EXPECT_THAT(Stored(), ElementsAre("Depths|" + Letters(1300)));
 }
@@ -129,7 +131,8 @@ TEST_F(RemarkSavingTest, ARequestMayHave4097BytesAndItsEnd) {
     const std::string rest(4097 - frame - wide.size(), 'x');
     TypeBody(wide + rest + "x");
     Save();
-    EXPECT_EQ(LastMessage(), "IDS_TIP_ADDRMKFAIL\nIDS_TIP_SUBJECT_LEN");
+    EXPECT_EQ(LastMessage(), "IDS_TIP_ADDRMKFAIL");
+    EXPECT_EQ(LastDetail(), "IDS_TIP_SUBJECT_LEN");
     TypeBody(wide + rest);
     Save();
     ASSERT_EQ(desk.Count(Ask::kAddRemark), 1);

@@ -47,8 +47,8 @@ bool Boxes::Question(TextId id, const std::string& detail) {
     return Ask(Lines(id, detail), QuestionBox, {}) == SysMsgHandleRes::Yes;
 }
 
-bool Boxes::Denied(TextId id) {
-    return Ask(Text(id), QuestionBox, {}) == SysMsgHandleRes::No;
+bool Boxes::Denied(TextId id, const std::string& detail) {
+    return Ask(Lines(id, detail), QuestionBox, {}) == SysMsgHandleRes::No;
 }
 
 bool Boxes::Confirm(TextId id, const std::string& detail) {

@@ -31,7 +31,7 @@ class Boxes {
     /// True for yes.
     bool Question(TextId id, const std::string& detail = {});
     /// The same question; true for no.
-    bool Denied(TextId id);
+    bool Denied(TextId id, const std::string& detail = {});
     /// True for OK.
     bool Confirm(TextId id, const std::string& detail = {});
     /// Tells that something was not done, in words without a key.

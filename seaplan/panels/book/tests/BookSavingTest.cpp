@@ -208,6 +208,7 @@ TEST_F(BookSavingTest, EveryEditIsUndoneAndMadeAgain) {
 }
 
 TEST_F(BookSavingTest, CloseAsksAboutChanges) {
+    texts.given[u"IDS_VIEW_LOSTBOOK"] = u"book of %1";
     OpenBook();
     book.Commands().OnClose();
     EXPECT_THAT(messages.messages, IsEmpty());
@@ -220,6 +221,7 @@ TEST_F(BookSavingTest, CloseAsksAboutChanges) {
     messages.Answer(Interface::SysMsgHandleRes::No);
     book.Commands().OnClose();
     EXPECT_EQ(LastMessage(), "IDS_WP_TIP_SAVE") << "what is being typed counts";
+    EXPECT_EQ(LastDetail(), "book of Saved") << "it names what would be lost";
     EXPECT_EQ(messages.messages.back().flags, 4);
     EXPECT_FALSE(bookView.visible);
     EXPECT_EQ(desk.Count(Ask::kSaveBook), 0);
