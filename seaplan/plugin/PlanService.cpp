@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/StringUtl.h>
 
@@ -11,6 +13,7 @@
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/tree/TreeRules.h"
 #include "seaplan/plugin/PlanAnswer.h"
 
@@ -166,6 +169,12 @@ int PlanService::Calculate(const PortCallRows& rows) {
     if (const int code = voyages_->CalculatePortCalls(rows, scheduled); code < 0) {
         return Fail(Interface::PlanNotCalculated, WordsOfCalculation(code));
     }
+    const std::string* zone = Interface::Call(Interface::Bus::CurrentTimeZone);
+    const auto known =
+        NoteOfKnownLegs(voyages_->Module().Pending().KnownSince(), zone == nullptr ? std::string() : *zone);
+    if (const std::string note = NoteText(known); !note.empty()) {
+        result_.notes.push_back(note);
+    }
     // A schedule pass makes the first port one of loading; a person may change the purpose afterwards.
     scheduled.front().pp = rows.front().pp;
     return 0;
@@ -208,28 +217,36 @@ int PlanService::Save(const PlanRequest& request) {
         return Fail(Interface::PlanNoCategory, "the category could not be made");
     }
     if (catalog_->AddVoyage(NormalizeName(request.voyage), result_.categoryId, result_.voyageId) < 0) {
-        TakeBack(newCategory);
-        return Fail(Interface::PlanNoVoyage, "the voyage could not be made");
+        return Fail(Interface::PlanNoVoyage, "the voyage could not be made" + TakeBack(newCategory));
     }
     voyages_->Module().Pending().Assign(result_.voyageId);
     if (voyages_->SaveSchedule(result_.voyageId, rows_, -1) < 0) {
-        TakeBack(newCategory);
-        return Fail(Interface::PlanNotSaved, "the schedule could not be saved");
+        return Fail(Interface::PlanNotSaved, "the schedule could not be saved" + TakeBack(newCategory));
     }
     return 0;
 }
 
 /// Leaves nothing half saved behind: what is in use goes into the recycle bin first, as nothing else is
-/// destroyed. A server that is gone cannot be told.
-void PlanService::TakeBack(bool newCategory) {
-    if (!result_.voyageId.empty()) {
-        catalog_->DeleteVoyage(result_.categoryId, result_.voyageId);
-        catalog_->DestroyVoyage(result_.categoryId, result_.voyageId);
+/// destroyed. Empty, or words for what stays, since a server that is gone cannot be told.
+std::string PlanService::TakeBack(bool newCategory) {
+    const std::string& ci = result_.categoryId;
+    const std::string& vi = result_.voyageId;
+    // A step whose answer was lost may have been done all the same: only the last one tells.
+    bool voyageGone = vi.empty();
+    if (!voyageGone) {
+        catalog_->DeleteVoyage(ci, vi);
+        voyageGone = catalog_->DestroyVoyage(ci, vi) == 0;
     }
+    bool categoryGone = false;
     if (newCategory) {
-        catalog_->DeleteCategory(result_.categoryId);
-        catalog_->DestroyCategory(result_.categoryId);
+        catalog_->DeleteCategory(ci);
+        categoryGone = catalog_->DestroyCategory(ci) == 0;
     }
+    // A category takes its voyages with it.
+    if (!voyageGone && !categoryGone) {
+        return ", and its new voyage may be left without one: delete it in the voyage panel";
+    }
+    return newCategory && !categoryGone ? ", and its new category may be left empty" : "";
 }
 
 }  // namespace Tarvik::Seaplan

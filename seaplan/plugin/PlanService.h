@@ -40,7 +40,7 @@ class PlanService {
     int FillResult(const UnitSet& units);
     int Save(const PlanRequest& request);
     int FindCategory(const std::string& name, bool& made);
-    void TakeBack(bool newCategory);
+    std::string TakeBack(bool newCategory);
     int Fail(int code, const std::string& step);
 
     VoyCatalogController* catalog_;

@@ -51,6 +51,14 @@ PlanOutcome FailureOf(const Interface::PlanResult& plan, const std::string& reas
     return {badInput ? kExitBadInput : kExitFailed, "The voyage was not planned: " + why + ". " + advice};
 }
 
+std::string LinesOf(const std::vector<std::string>& notes) {
+    std::string lines;
+    for (const std::string& note : notes) {
+        lines += (lines.empty() ? "" : "\n") + note;
+    }
+    return lines;
+}
+
 }  // namespace
 
 PlanOutcome MakePlanRequest(const PlanArguments& arguments, const PortLookup& lookup, const std::string& zone,
@@ -89,7 +97,7 @@ PlanOutcome CallPlanService(const Interface::PlanRequest& request, const Interfa
                 "The voyage plug-in is not loaded. Build or install the client again; --verbose tells why."};
     }
     if (result->code == Interface::PlanDone) {
-        return {};
+        return {kExitDone, LinesOf(result->notes)};
     }
     return FailureOf(*result, services ? services->LastFailure() : std::string());
 }

@@ -14,7 +14,8 @@ namespace Tarvik::Client {
 
 enum ExitCode : int { kExitDone = 0, kExitFailed = 1, kExitBadInput = 2 };
 
-/// What came of a step of `plan`: its exit code and, unless that is 0, one line for the person.
+/// What came of a step of `plan`: its exit code and one line for the person; where that is 0, none or what is
+/// to be known all the same, a line each.
 struct PlanOutcome {
     int exitCode = kExitDone;
     std::string message;

@@ -7,6 +7,7 @@
 
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/plan/PlanFormats.h"
+#include "host/client/plan/StatusEcho.h"
 #include "host/client/shell/Desk.h"
 #include "host/client/shell/QtServices.h"
 #include "host/client/shell/Runs.h"
@@ -29,12 +30,16 @@ int Print(const std::string& text) {
     return Tell({kExitFailed, "The result could not be written to standard output."});
 }
 
+/// Plans with the plug-ins that are loaded, and tells of those that are not.
 int PlanAndPrint(ClientSession& session, const PlanArguments& arguments,
                  const Interface::PlanRequest& request) {
+    for (const std::string& line : session.Plugins().Complaints()) {
+        std::fprintf(stderr, "%s\n", line.c_str());
+    }
     const Interface::PlanResult* plan = nullptr;
     const PlanOutcome outcome = CallPlanService(request, plan, &session.Services());
-    if (outcome.exitCode != kExitDone) {
-        return Tell(outcome);
+    if (Tell(outcome) != kExitDone) {
+        return outcome.exitCode;
     }
     return Print(FormatPlan(arguments, *plan, session.Services().TimeZone(), session.Texts()));
 }
@@ -66,9 +71,6 @@ int PlanWithoutWindow(int argc, char** argv, ClientSession& session, const PlanA
                       const Interface::PlanRequest& request) {
     QCoreApplication application(argc, argv);
     session.LoadPlugins();
-    for (const std::string& line : session.Plugins().Complaints()) {
-        std::fprintf(stderr, "%s\n", line.c_str());
-    }
     return PlanAndPrint(session, arguments, request);
 }
 
@@ -102,6 +104,9 @@ int RunPlan(int argc, char** argv, const CommandLine& line) {
     SessionOptions options = line.session;
     options.timeZone = parsed.arguments.zone;
     std::string error;
+    // What the session has to say; what the plug-ins follow is nothing to a plan.
+    std::optional<StatusEcho> echo(
+        [](const std::string& words) { std::fprintf(stderr, "%s\n", words.c_str()); });
     const auto session = ClientSession::Open(options, error);
     if (!session) {
         return Tell({kExitFailed, error});
@@ -130,6 +135,7 @@ int RunPlan(int argc, char** argv, const CommandLine& line) {
     if (!ConnectUnattended(*session, error)) {
         return Tell({kExitFailed, error});
     }
+    echo.reset();
     return parsed.arguments.picture.empty()
                ? PlanWithoutWindow(argc, argv, *session, parsed.arguments, request)
                : PlanWithPicture(argc, argv, *session, parsed.arguments, request);

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TrvKernel.h>
 
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/plan/PlanFormats.h"
+#include "host/client/plan/StatusEcho.h"
 #include "host/client/tests/SamplePlan.h"
 
 namespace Tarvik::Client {
@@ -104,6 +106,35 @@ TEST(PlanCall, HandsTheRequestOverAndTheResultBack) {
     EXPECT_EQ(CallPlanService(request, result).exitCode, kExitDone);
     EXPECT_EQ(planner.request.voyage, "V");
     EXPECT_EQ(result, &planner.result);
+}
+
+TEST(PlanCall, WhatIsToBeKnownOfAPlanIsToldALineEach) {
+    ScriptedPlanner planner;
+    const Interface::PlanResult* result = nullptr;
+    EXPECT_EQ(CallPlanService({}, result).message, "");
+    planner.result.notes = {"Known legs since 2024-03-01", "Another"};
+    const auto noted = CallPlanService({}, result);
+    EXPECT_EQ(noted.exitCode, kExitDone);
+    EXPECT_EQ(noted.message, "Known legs since 2024-03-01\nAnother");
+}
+
+TEST(StatusEchoTest, EachOwnersWordsAreToldWhenTheyChange) {
+    std::vector<std::string> told;
+    const auto say = [](const char* owner, const char* text) {
+        const Interface::StatusWord word{owner, text, "tip"};
+        Interface::Raise(Interface::Bus::TellStatus, &word);
+    };
+    {
+        const StatusEcho echo([&told](const std::string& words) { told.push_back(words); });
+        say("Ports", "");
+        say("Ports", "no own ports");
+        say("Ports", "no own ports");
+        say("Voyages", "not saved");
+        say("Ports", "");
+        say("Ports", "no own ports");
+    }
+    say("Ports", "to nobody");
+    EXPECT_EQ(told, (std::vector<std::string>{"no own ports", "not saved", "no own ports"}));
 }
 
 TEST(PlanCall, TellsBadInputFromAFailedPlan) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/plugin/PlanService.h"
 
@@ -48,6 +49,39 @@ TEST_F(PlanTakenBackTest, FailedSaveLeavesNothingAndCanBeRepeated) {
     const PlanResult& result = service.Plan(request);
     EXPECT_EQ(result.code, Interface::PlanDone) << result.step;
     EXPECT_EQ(OnServer(), "Cat;V;");
+}
+
+TEST_F(PlanTakenBackTest, WhatAServerThatIsGoneKeepsIsTold) {
+    desk.AddCategory("Cat");
+    desk.Lose(Ask::kSaveBook);
+    desk.Lose(Ask::kDeleteVoyage);
+    const std::string step = service.Plan(request).step;
+    EXPECT_NE(step.find("may be left"), std::string::npos) << step;
+    desk.Heal();
+    EXPECT_EQ(OnServer(), "Cat;V;");
+    request.voyage = "W";
+    request.category = "Other";
+    desk.Lose(Ask::kSaveBook);
+    desk.Lose(Ask::kDeleteCategory);
+    const std::string empty = service.Plan(request).step;
+    EXPECT_NE(empty.find("category may be left empty"), std::string::npos) << empty;
+    EXPECT_EQ(service.Plan(request).step.find("left"), std::string::npos) << "that one was there";
+}
+
+TEST_F(PlanTakenBackTest, KnownLegsThatStandInAreToldWithTheDayOfTheOldest) {
+    KeyTexts texts;
+    texts.given[u"IDS_VIEW_KNOWNLEGS"] = u"known since %1";
+    request.save = false;
+    EXPECT_TRUE(service.Plan(request).notes.empty());
+    desk.clock.AdvanceSeconds(200 * 24 * 3600);
+    desk.Lose(Ask::kRoute);
+    const PlanResult& known = service.Plan(request);
+    EXPECT_EQ(known.code, Interface::PlanDone) << known.step;
+    EXPECT_EQ(known.notes, std::vector<std::string>{"known since 2024-03-01"});
+    std::swap(request.ports[0], request.ports[1]);
+    const PlanResult& failed = service.Plan(request);
+    EXPECT_EQ(failed.code, Interface::PlanNotCalculated);
+    EXPECT_TRUE(failed.notes.empty());
 }
 
 TEST_F(PlanTakenBackTest, FailedSaveLeavesACategoryThatWasThere) {

@@ -138,6 +138,8 @@ struct PlanResult {
     std::vector<PlanFigure> figures;                   ///< in the units asked for
     std::string categoryId;                            ///< where it was stored, empty without saving
     std::string voyageId;                              ///< the same of the voyage
+    std::vector<std::string>
+        notes;  ///< what is to be known of this plan, a line each, in the language in use
 };
 
 }  // namespace Tarvik::Interface
