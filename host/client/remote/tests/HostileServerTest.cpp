@@ -1,101 +1,72 @@
 // SPDX-License-Identifier: MIT
-#include <atomic>
-#include <functional>
-#include <netinet/in.h>
+#include <fstream>
 #include <string>
-#include <sys/resource.h>
-#include <sys/socket.h>
-#include <thread>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
 #include "host/client/remote/RemoteLink.h"
+#include "host/client/remote/tests/ScriptedServer.h"
+#include "host/server/net/tests/TestCertificate.h"
+#include "host/server/net/tests/TestServer.h"
 
 namespace Tarvik::Client {
 
 namespace {
 
-/// A server that takes one connection, reads what comes first, and sends what the test tells it to.
-class ScriptedServer {
+/// Largest memory that this program has had since it was told to begin anew, in MiB.
+class MostMemory {
   public:
-    /// Sends a text; false when the other side has gone.
-    using Send = std::function<bool(const std::string&)>;
-
-    explicit ScriptedServer(std::function<void(const Send&)> script)
-        : listener_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof(address);
-        auto* where = reinterpret_cast<sockaddr*>(&address);
-        EXPECT_EQ(::bind(listener_, where, size), 0);
-        EXPECT_EQ(::listen(listener_, 1), 0);
-        EXPECT_EQ(::getsockname(listener_, where, &size), 0);
-        port_ = ntohs(address.sin_port);
-        thread_ = std::thread([this, script = std::move(script)] { Serve(script); });
+    MostMemory() {
+        // The kernel forgets the largest size so far.
+        std::ofstream("/proc/self/clear_refs") << "5";
+        before_ = Now();
     }
-    ~ScriptedServer() {
-        ::shutdown(listener_, SHUT_RDWR);
-        thread_.join();
-        ::close(listener_);
-    }
-    ScriptedServer(const ScriptedServer&) = delete;
-    ScriptedServer& operator=(const ScriptedServer&) = delete;
-
-    std::string Url() const { return "http://127.0.0.1:" + std::to_string(port_); }
+    long Growth() const { return Now() - before_; }
 
   private:
-    void Serve(const std::function<void(const Send&)>& script) const {
-        const int connection = ::accept(listener_, nullptr, nullptr);
-        char first[4096];
-        if (connection < 0 || ::recv(connection, first, sizeof(first), 0) <= 0) {
-            return;
+    static long Now() {
+        std::ifstream status("/proc/self/status");
+        std::string word;
+        long kibibytes = 0;
+        while (status >> word && word != "VmHWM:") {
         }
-        script([connection](const std::string& text) {
-            std::size_t sent = 0;
-            while (sent < text.size()) {
-                const auto done = ::send(connection, text.data() + sent, text.size() - sent, MSG_NOSIGNAL);
-                if (done <= 0) {
-                    return false;
-                }
-                sent += static_cast<std::size_t>(done);
-            }
-            return true;
-        });
-        ::shutdown(connection, SHUT_WR);
-        while (::recv(connection, first, sizeof(first), 0) > 0) {
-        }
-        ::close(connection);
+        status >> kibibytes;
+        EXPECT_GT(kibibytes, 0);
+        return kibibytes / 1024;
     }
-
-    int listener_;
-    std::uint16_t port_ = 0;
-    std::thread thread_;
+    long before_ = 0;
 };
 
-/// Largest memory that this program has had, in MiB.
-long MostMemory() {
-    rusage usage{};
-    ::getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss / 1024;
-}
+enum class Transport { Plain, Tls };
 
-/// What the client says about a login that is answered by the script.
-std::string LoginFailure(std::function<void(const ScriptedServer::Send&)> script) {
-    const ScriptedServer server(std::move(script));
-    RemoteSettings settings;
-    settings.url = server.Url();
-    settings.user = "anna";
-    settings.password = "correct horse";
-    settings.limit = std::chrono::milliseconds(5000);
-    RemoteLink link(settings);
-    std::string error;
-    EXPECT_FALSE(link.Connect(error));
-    EXPECT_FALSE(link.IsConnected());
-    const std::size_t at = error.find(server.Url());
-    return at == std::string::npos ? error : error.substr(at + server.Url().size());
-}
+class HostileServer : public testing::TestWithParam<Transport> {
+  protected:
+    HostileServer() {
+        if (GetParam() == Transport::Tls) {
+            shown_ = {folder_.File("c.pem"), folder_.File("k.pem")};
+            Server::WriteTestCertificate(shown_.certificate, shown_.key);
+        }
+        settings_.user = "anna";
+        settings_.password = "correct horse";
+        settings_.limit = std::chrono::milliseconds(5000);
+        settings_.caFile = shown_.certificate;
+    }
+    /// What the client says about a login that is answered by the script.
+    std::string LoginFailure(ScriptedServer::Script script) {
+        const ScriptedServer server(std::move(script), shown_);
+        settings_.url = server.Url();
+        RemoteLink link(settings_);
+        std::string error;
+        EXPECT_FALSE(link.Connect(error));
+        EXPECT_FALSE(link.IsConnected());
+        const std::size_t at = error.find(server.Url());
+        return at == std::string::npos ? error : error.substr(at + server.Url().size());
+    }
+
+    Server::TempFolder folder_;
+    ShownCertificate shown_;
+    RemoteSettings settings_;
+};
 
 constexpr const char* kTooLong =
     " does not answer (its answer is longer than Seaplan reads). Check the address and the network.";
@@ -104,39 +75,39 @@ constexpr const char* kChunkedHead = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chun
 const std::string kEndless(64 * 1024, 'a');
 
 /// Sends 'a' until the other side has gone, at most 2 GiB.
-void SendEndlessly(const ScriptedServer::Send& send) {
+void SendEndlessly(const Peer& send) {
     for (int i = 0; i < 32 * 1024 && send(kEndless); ++i) {
     }
 }
 
-TEST(HostileServer, AChunkTrailerThatIsTooLongEndsTheCallNotTheClient) {
+TEST_P(HostileServer, AChunkTrailerThatIsTooLongEndsTheCallNotTheClient) {
     EXPECT_EQ(LoginFailure([](const auto& send) {
                   send(kChunkedHead + std::string("0\r\nX: ") + std::string(66'000, 'a') + "\r\n\r\n");
               }),
               kTooLong);
 }
 
-TEST(HostileServer, AnEndlessChunkTrailerEndsTheCall) {
-    const long before = MostMemory();
+TEST_P(HostileServer, AnEndlessChunkTrailerEndsTheCall) {
+    const MostMemory memory;
     EXPECT_EQ(LoginFailure([](const auto& send) {
                   send(kChunkedHead + std::string("0\r\nX: "));
                   SendEndlessly(send);
               }),
               kTooLong);
-    EXPECT_LT(MostMemory() - before, 16);
+    EXPECT_LT(memory.Growth(), 16);
 }
 
-TEST(HostileServer, AnEndlessChunkExtensionEndsTheCall) {
-    const long before = MostMemory();
+TEST_P(HostileServer, AnEndlessChunkExtensionEndsTheCall) {
+    const MostMemory memory;
     EXPECT_EQ(LoginFailure([](const auto& send) {
                   send(kChunkedHead + std::string("5;x="));
                   SendEndlessly(send);
               }),
               kTooLong);
-    EXPECT_LT(MostMemory() - before, 16);
+    EXPECT_LT(memory.Growth(), 16);
 }
 
-TEST(HostileServer, SmallChunksWithLongExtensionsEndTheCall) {
+TEST_P(HostileServer, SmallChunksWithLongExtensionsEndTheCall) {
     const std::string chunk = "1;x=" + std::string(16'000, 'a') + "\r\n \r\n";
     EXPECT_EQ(LoginFailure([&chunk](const auto& send) {
                   send(kChunkedHead);
@@ -146,7 +117,7 @@ TEST(HostileServer, SmallChunksWithLongExtensionsEndTheCall) {
               kTooLong);
 }
 
-TEST(HostileServer, AnEndlessHeadEndsTheCall) {
+TEST_P(HostileServer, AnEndlessHeadEndsTheCall) {
     EXPECT_EQ(LoginFailure([](const auto& send) {
                   send("HTTP/1.1 200 OK\r\nX: ");
                   SendEndlessly(send);
@@ -154,27 +125,27 @@ TEST(HostileServer, AnEndlessHeadEndsTheCall) {
               kTooLong);
 }
 
-TEST(HostileServer, AnEndlessBodyEndsTheCall) {
-    const long before = MostMemory();
+TEST_P(HostileServer, AnEndlessBodyEndsTheCall) {
+    const MostMemory memory;
     EXPECT_EQ(LoginFailure([](const auto& send) {
                   send("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n");
                   SendEndlessly(send);
               }),
               kTooLong);
-    EXPECT_LT(MostMemory() - before, 400);
+    EXPECT_LT(memory.Growth(), 400);
 }
 
-TEST(HostileServer, ABodyThatIsAnnouncedTooLongIsNotRead) {
-    const long before = MostMemory();
+TEST_P(HostileServer, ABodyThatIsAnnouncedTooLongIsNotRead) {
+    const MostMemory memory;
     EXPECT_EQ(LoginFailure([](const auto& send) {
                   send("HTTP/1.1 200 OK\r\nContent-Length: 99999999999\r\n\r\n");
                   SendEndlessly(send);
               }),
               kTooLong);
-    EXPECT_LT(MostMemory() - before, 16);
+    EXPECT_LT(memory.Growth(), 16);
 }
 
-TEST(HostileServer, AnAnswerThatIsNoneIsTold) {
+TEST_P(HostileServer, AnAnswerThatIsNoneIsTold) {
     for (const std::string answer :
          {"SSH-2.0-OpenSSH_9.2\r\n", "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nzz\r\n",
           "\r\n\r\n", "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nabc"}) {
@@ -185,7 +156,7 @@ TEST(HostileServer, AnAnswerThatIsNoneIsTold) {
 }
 
 // The token goes into a field of every request, where it must have room.
-TEST(HostileServer, ATokenThatCannotBeOneIsNoLogin) {
+TEST_P(HostileServer, ATokenThatCannotBeOneIsNoLogin) {
     for (const std::string& token : {std::string(70'000, 'a'), std::string("a\\r\\nX: y"), std::string()}) {
         const std::string body = "{\"token\":\"" + token + "\"}";
         const std::string said = LoginFailure([&body](const auto& send) {
@@ -195,6 +166,47 @@ TEST(HostileServer, ATokenThatCannotBeOneIsNoLogin) {
                   " answers a login with the status 200. Check that the address is one of a voyage server.");
     }
 }
+
+/// Sends a byte at a time, for so long that only a limit on the whole answer ends it, and no limit on a wait.
+void Trickle(const Peer& send) {
+    constexpr int kBytes = 500;
+    constexpr int kPauseMs = 10;
+    for (int i = 0; i < kBytes && send("a") && !send.IsGoneWithin(kPauseMs); ++i) {
+    }
+}
+
+TEST_P(HostileServer, AnAnswerThatTricklesEndsAtTheLimitWhereverItIs) {
+    settings_.limit = std::chrono::milliseconds(300);
+    for (const std::string& begin :
+         {std::string("HTTP/1.1 200 OK\r\nX: "),
+          std::string("HTTP/1.1 200 OK\r\nContent-Length: 400\r\n\r\n"),
+          std::string("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n"), kChunkedHead + std::string("5;x="),
+          kChunkedHead + std::string("190\r\n"), kChunkedHead + std::string("0\r\nX: ")}) {
+        EXPECT_EQ(LoginFailure([&begin](const auto& send) {
+                      send(begin);
+                      Trickle(send);
+                  }),
+                  " does not answer (the time limit is over). Check the address and the network.")
+            << begin;
+    }
+}
+
+// A body that only the connection's end bounds could be any part of one.
+TEST_P(HostileServer, AnAnswerThatIsCutOffIsNone) {
+    for (const std::string begin :
+         {"HTTP/1.1 200 OK\r\nContent-Length: 50\r\n\r\n{\"token\":", "HTTP/1.1 200",
+          "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n50\r\n{"}) {
+        EXPECT_NE(LoginFailure([&begin](const auto& send) {
+                      send(begin);
+                      send.Cut();
+                  }).find(" does not answer ("),
+                  std::string::npos)
+            << begin;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Over, HostileServer, testing::Values(Transport::Plain, Transport::Tls),
+                         [](const auto& over) { return over.param == Transport::Tls ? "Tls" : "Plain"; });
 
 }  // namespace
 }  // namespace Tarvik::Client

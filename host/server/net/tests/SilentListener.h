@@ -31,6 +31,8 @@ class SilentListener {
     std::uint16_t Port() const { return port_; }
     /// Waits for the next connection; the caller closes its socket.
     int Accept() const { return ::accept4(socket_, nullptr, nullptr, SOCK_CLOEXEC); }
+    /// Whoever waits in Accept, now or later, gets no connection.
+    void Shut() const { ::shutdown(socket_, SHUT_RDWR); }
 
   private:
     int socket_;
