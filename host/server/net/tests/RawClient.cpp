@@ -67,6 +67,7 @@ RawClient::RawClient(std::uint16_t port, Wire wire)
     // A test that waits for nothing fails instead of hanging.
     const timeval limit{20, 0};
     setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof(limit));
+    setsockopt(socket_, SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof(limit));
     if (::connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof(address)) == 0) {
         if (wire == Wire::Tls) {
             tls_ = std::make_unique<Tls>(socket_);
@@ -86,6 +87,18 @@ RawClient::~RawClient() {
 bool RawClient::TakesSuites(std::uint16_t port, const char* suites) {
     const RawClient plain(port);
     return Tls(plain.socket_, suites).open;
+}
+
+std::string RawClient::Hello() {
+    const std::unique_ptr<SSL_CTX, decltype(&SSL_CTX_free)> context(SSL_CTX_new(TLS_client_method()),
+                                                                    &SSL_CTX_free);
+    const std::unique_ptr<SSL, decltype(&SSL_free)> session(SSL_new(context.get()), &SSL_free);
+    BIO* out = BIO_new(BIO_s_mem());
+    SSL_set_bio(session.get(), BIO_new(BIO_s_mem()), out);
+    SSL_connect(session.get());
+    std::string bytes(BIO_ctrl_pending(out), '\0');
+    BIO_read(out, bytes.data(), static_cast<int>(bytes.size()));
+    return bytes;
 }
 
 long RawClient::Put(const char* bytes, std::size_t size) {
@@ -149,6 +162,13 @@ RawReply RawClient::Read() {
 bool RawClient::SeesEnd() {
     char byte = 0;
     return received_.empty() && Take(&byte, 1) == 0;
+}
+
+bool RawClient::SeesEndBehindWhatComes() {
+    while (Fill()) {
+    }
+    char byte = 0;
+    return Take(&byte, 1) == 0;
 }
 
 std::string RawClient::Request(const std::string& method, const std::string& path, const std::string& body,

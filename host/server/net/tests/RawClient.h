@@ -31,8 +31,12 @@ class RawClient {
     RawReply Read();
     /// The least that tells whether a server speaks TLS 1.2 with these suites (of OpenSSL's names).
     static bool TakesSuites(std::uint16_t port, const char* suites);
+    /// What a client of TLS says first, to be sent over a plain connection.
+    static std::string Hello();
     /// Whether the server ends the connection without another byte.
     bool SeesEnd();
+    /// Whether it ends the connection, whatever it says before.
+    bool SeesEndBehindWhatComes();
 
     /// Sends a request with a Content-Length and reads the reply.
     RawReply Ask(const std::string& method, const std::string& path, const std::string& body = {},
