@@ -50,13 +50,19 @@ std::vector<std::string> TextsOf(std::span<const SqlValue> values) {
 
 /// Changes are synced to disk even where the data base is set otherwise. The limits end what would hold locks
 /// or threads for ever; a lock is held for one request only, so who waits long waits for something broken.
-constexpr const char* kSessionSettings =
-    "SELECT current_setting('server_encoding') = 'UTF8', "
-    "set_config('synchronous_commit', CASE current_setting('synchronous_commit') WHEN 'off' THEN 'on' "
-    "ELSE current_setting('synchronous_commit') END, false), "
-    "set_config('lock_timeout', '10s', false), set_config('statement_timeout', '14s', false), "
-    "set_config('idle_in_transaction_session_timeout', '30s', false), "
-    "set_config('client_min_messages', 'warning', false), set_config('extra_float_digits', '1', false)";
+std::string SessionSettings() {
+    const auto seconds = [](std::chrono::seconds time) { return std::to_string(time.count()) + "s"; };
+    return "SELECT current_setting('server_encoding') = 'UTF8', "
+           "set_config('synchronous_commit', CASE current_setting('synchronous_commit') WHEN 'off' THEN 'on' "
+           "ELSE current_setting('synchronous_commit') END, false), "
+           "set_config('lock_timeout', '" +
+           seconds(kLockPatience) + "', false), set_config('statement_timeout', '" +
+           seconds(kStatementPatience) +
+           "', false), "
+           "set_config('idle_in_transaction_session_timeout', '30s', false), "
+           "set_config('client_min_messages', 'warning', false), set_config('extra_float_digits', '1', "
+           "false)";
+}
 
 /// Whether the data base ends the connection behind this error: its last words come before its end is seen.
 bool EndsConnection(const pqxx::sql_error& error) {
@@ -141,7 +147,7 @@ PostgresConnection::PostgresConnection(const std::string& connectionText, Postgr
     const std::string complete = CompleteConnection(connectionText_);
     Guarded([&] { link_ = std::make_unique<Link>(complete, watch); });
     Begin(Mode::Write);
-    const bool utf8 = Execute(kSessionSettings).Flag(0, 0);
+    const bool utf8 = Execute(SessionSettings()).Flag(0, 0);
     Commit();
     if (!utf8) {
         throw SqlError("the data base does not keep its texts in UTF-8");

@@ -11,8 +11,9 @@ namespace Tarvik::Server {
 
 /// Limits of the use of a data base server.
 struct PostgresOptions {
-    int connections = 8;                        ///< most at the same time, at least 1
-    std::chrono::milliseconds patience{15000};  ///< a data base that is silent for longer is given up
+    int connections = 8;  ///< most at the same time, at least 1
+    std::chrono::milliseconds patience =
+        kSilencePatience;  ///< a data base that is silent for longer is given up
 };
 
 /// Runs each operation on a connection of its own. When the connection breaks while a change is being

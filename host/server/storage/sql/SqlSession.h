@@ -14,6 +14,12 @@ namespace Tarvik::Server {
 
 /// Who waits longer than this for a lock or a connection waits for something broken, and is told so.
 inline constexpr std::chrono::seconds kLockPatience{10};
+/// What a data base server ends a statement after, locks that it waits for included.
+inline constexpr std::chrono::seconds kStatementPatience{14};
+/// A data base server that is silent for longer than it may work is given up.
+inline constexpr std::chrono::seconds kSilencePatience{15};
+static_assert(kLockPatience < kStatementPatience && kStatementPatience < kSilencePatience,
+              "the one who knows best what is wrong gives up first");
 
 /// Whether a transaction changes anything, and how often its work can be run.
 enum class SqlMode {

@@ -36,7 +36,7 @@ struct SqliteChanges::Change {
 };
 
 void SqliteChanges::Run(SqlMode mode, const Work& work) {
-    Change change{mode, work, Clock::now() + kLockPatience};
+    Change change{mode, work, Clock::now() + patience_};
     std::unique_lock lock(mutex_);
     if (givenUp_) {
         ThrowWaitedTooLong(true);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <deque>
 #include <functional>
 #include <mutex>
@@ -20,10 +21,11 @@ class SqliteChanges {
     using Work = std::function<bool(SqlConnection&)>;
 
     /// `writer` is not owned, and used by nobody else meanwhile.
-    explicit SqliteChanges(SqliteDatabase& writer) : writer_(writer) {}
+    SqliteChanges(SqliteDatabase& writer, std::chrono::milliseconds patience)
+        : writer_(writer), patience_(patience) {}
 
     /// Runs the work as SqlSession::Transact says; returns when what it did is on disk, or throws what went
-    /// wrong. Waits kLockPatience for who writes here and elsewhere, both together.
+    /// wrong. Waits its patience for who writes here and elsewhere, both together.
     void Run(SqlMode mode, const Work& work);
     /// Ends all waiting, now and from now on.
     void GiveUp();
@@ -43,6 +45,7 @@ class SqliteChanges {
     void PassOn();
 
     SqliteDatabase& writer_;
+    std::chrono::milliseconds patience_;
     std::atomic<bool> givenUp_{false};
     std::mutex mutex_;
     bool led_ = false;             ///< whether somebody leads

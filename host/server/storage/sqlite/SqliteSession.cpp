@@ -32,7 +32,7 @@ const std::string& MadePrivate(const std::string& path) {
 
 SqliteSession::SqliteSession(const std::string& path, const SqliteSchema& schema,
                              const SqliteOptions& options)
-    : path_(MadePrivate(path)), shared_(IsShared(path)), writer_(path) {
+    : path_(MadePrivate(path)), shared_(IsShared(path)), writer_(path), changes_(writer_, options.patience) {
     if (writer_.ReadOnly()) {
         throw SqlError("the data base is read-only: " + path);
     }

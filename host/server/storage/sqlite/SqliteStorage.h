@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -14,7 +15,8 @@ namespace Tarvik::Server {
 
 /// Limits of a data base file.
 struct SqliteOptions {
-    int maxPages = 0;  ///< quota in pages of 4096 bytes; 0 for none
+    int maxPages = 0;                                    ///< quota in pages of 4096 bytes; 0 for none
+    std::chrono::milliseconds patience = kLockPatience;  ///< for who writes here or elsewhere
 };
 
 /// The connections to one file: one that writes, for all changes that wait at once, and as many that read as
@@ -52,7 +54,7 @@ class SqliteSession : public SqlSession {
     std::string path_;
     bool shared_;  ///< whether other connections see the same data
     SqliteDatabase writer_;
-    SqliteChanges changes_{writer_};
+    SqliteChanges changes_;
     std::mutex pooling_;
     std::vector<std::unique_ptr<SqliteDatabase>> idle_;
 };

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-// A data base that is cut off, killed, full or silent: what was confirmed is there, what is not known is told
+// A data base that is cut off, full or silent: what was confirmed is there, what is not known is told
 // to be unknown, and the storage goes on by itself.
 #include <algorithm>
-#include <atomic>
 #include <chrono>
 #include <random>
-#include <set>
 #include <string>
 
 #include <fmt/format.h>
@@ -25,7 +23,7 @@ using Cut = PostgresProxy::Cut;
 class PostgresChaosTest : public PostgresTest {
   protected:
     /// The storage behind the proxy, with one connection, which the test cuts.
-    std::unique_ptr<PostgresStorage> OpenBehindProxy(milliseconds patience = milliseconds(15000)) {
+    std::unique_ptr<PostgresStorage> OpenBehindProxy(milliseconds patience = kSilencePatience) {
         std::string text = connection_;
         const std::string folder = PostgresServer::Instance().SocketFolder();
         text.replace(text.find(folder), folder.size(), proxy_.SocketFolder());
@@ -110,6 +108,44 @@ TEST_F(PostgresChaosTest, CutInCommitOfACreationLeavesOneOrNone) {
     }
 }
 
+/// A data base that says nothing any more within COMMIT, before or behind its own decision.
+class SilentInCommit : public PostgresChaosTest, public testing::WithParamInterface<Cut> {};
+
+TEST_P(SilentInCommit, IsToldAsUnknownInItsTimeAndARepetitionDoesNoHarm) {
+    const auto storage = OpenBehindProxy(milliseconds(1000));
+    ASSERT_NE(storage, nullptr) << error_;
+    const std::string voyage = MakeVoyage(*storage);
+    const std::string book = storage->Schedule().CreateBook("ann", voyage, "2026-03-01 08:00:00").Value();
+    const std::vector<PortCallRecord> calls = {{0, "1", "New", "L", 1, 0, 0}};
+    const std::vector<BookRowRecord> rows = {{0, "Row", 1, 2, "GC", 5, 18.52, 0}};
+    const std::vector<std::function<Status()>> changes = {
+        [&] { return storage->Schedule().ReplacePortCalls("ann", voyage, calls); },
+        [&] { return storage->Schedule().ReplaceBookRows("ann", book, "w", rows); }};
+    for (const auto& change : changes) {
+        proxy_.Next(GetParam());
+        const auto begin = steady_clock::now();
+        const Status unknown = change();
+        EXPECT_LT(steady_clock::now() - begin, milliseconds(6000));
+        ASSERT_FALSE(unknown);
+        EXPECT_EQ(unknown.GetFault().reason, FaultReason::MaybeStored);
+        EXPECT_EQ(unknown.GetFault().detail, "the data base did not answer in time");
+        EXPECT_TRUE(change());
+    }
+    EXPECT_EQ(storage->Schedule().LoadPortCalls("ann", voyage).Value(), calls);
+    EXPECT_EQ(storage->Schedule().LoadBook("ann", voyage).Value()->rows, rows);
+    proxy_.Next(GetParam());
+    const auto made = storage->Catalog().CreateCategory("ann", "B");
+    ASSERT_FALSE(made);
+    EXPECT_EQ(made.GetFault().reason, FaultReason::MaybeStored);
+    const std::size_t stored = GetParam() == Cut::SilentAtCommit ? 2 : 1;
+    EXPECT_EQ(storage->Catalog().LoadCatalog("ann").Value().size(), stored);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sides, SilentInCommit, testing::Values(Cut::SilentBeforeCommit, Cut::SilentAtCommit),
+                         [](const auto& side) {
+                             return side.param == Cut::SilentBeforeCommit ? "Before" : "At";
+                         });
+
 TEST_F(PostgresChaosTest, SilenceBehindTheProxyIsGivenUpInItsTime) {
     const auto storage = OpenBehindProxy(milliseconds(400));
     ASSERT_NE(storage, nullptr) << error_;
@@ -159,95 +195,6 @@ TEST_F(PostgresChaosTest, FullDiskFailsWhatDoesNotFitAndNothingElse) {
     LimitFiles("unlimited");
     EXPECT_TRUE(storage->Schedule().ReplacePortCalls("ann", voyage, many));
     EXPECT_EQ(storage->Schedule().LoadPortCalls("ann", voyage).Value().size(), many.size());
-}
-
-/// Eight that write at the same time while something happens to the data base; each goes on until the end.
-class WritersInChaos : public PostgresChaosTest {
-  protected:
-    static constexpr int kWriters = 8;
-
-    void WriteWhile(Storage& storage, const std::function<void()>& happening) {
-        std::atomic<bool> over = false;
-        std::thread writers([&] {
-            Together(kWriters, [&](int writer) {
-                for (int number = 0; !over; ++number) {
-                    Write(storage, fmt::format("{}-{}", writer, number));
-                }
-            });
-        });
-        // On this thread: a data base server ends with the one that started it.
-        happening();
-        over = true;
-        writers.join();
-    }
-    void Write(Storage& storage, const std::string& name) {
-        const auto made = storage.Catalog().CreateCategory("ann", name);
-        const std::scoped_lock lock(mutex_);
-        if (made) {
-            confirmed_.insert(name);
-        } else if (made.GetFault().reason == FaultReason::MaybeStored) {
-            unknown_.insert(name);
-        }
-    }
-    void ExpectWhatWasTold(Storage& storage) {
-        std::set<std::string> stored;
-        const auto catalog = storage.Catalog().LoadCatalog("ann");
-        ASSERT_TRUE(catalog) << catalog.GetFault().detail;
-        for (const CategoryRecord& category : catalog.Value()) {
-            EXPECT_TRUE(stored.insert(category.name).second) << category.name;
-        }
-        for (const std::string& name : confirmed_) {
-            EXPECT_TRUE(stored.contains(name)) << name << " was confirmed";
-        }
-        for (const std::string& name : stored) {
-            EXPECT_TRUE(confirmed_.contains(name) || unknown_.contains(name)) << name << " was refused";
-        }
-    }
-    void WaitForConfirmed(std::size_t more) {
-        const auto end = steady_clock::now() + std::chrono::seconds(20);
-        std::size_t wanted = 0;
-        for (bool first = true; steady_clock::now() < end; first = false) {
-            {
-                const std::scoped_lock lock(mutex_);
-                wanted = first ? confirmed_.size() + more : wanted;
-                if (confirmed_.size() >= wanted) {
-                    return;
-                }
-            }
-            std::this_thread::sleep_for(milliseconds(2));
-        }
-        ADD_FAILURE() << "the storage does not go on";
-    }
-
-    std::mutex mutex_;
-    std::set<std::string> confirmed_;
-    std::set<std::string> unknown_;
-};
-
-TEST_F(WritersInChaos, KillsOfTheDataBaseLoseNothingConfirmed) {
-    const auto storage = Open();
-    ASSERT_NE(storage, nullptr) << error_;
-    WriteWhile(*storage, [&] {
-        for (int round = 0; round < 4; ++round) {
-            WaitForConfirmed(40);
-            PostgresServer::Instance().CrashAndRestart();
-        }
-        WaitForConfirmed(40);
-    });
-    ExpectWhatWasTold(*storage);
-}
-
-TEST_F(WritersInChaos, KillsOfSingleConnectionsAreToldAsWhatTheyWere) {
-    const auto storage = Open();
-    ASSERT_NE(storage, nullptr) << error_;
-    WriteWhile(*storage, [&] {
-        for (int round = 0; round < 10; ++round) {
-            WaitForConfirmed(20);
-            BreakConnections();
-        }
-        WaitForConfirmed(20);
-    });
-    ExpectWhatWasTold(*storage);
 }
 
 }  // namespace

@@ -37,6 +37,14 @@ class PostgresLimitsTest : public PostgresTest {
     }
 };
 
+TEST_F(PostgresLimitsTest, EveryConnectionHasTheLimitsThatAreDocumented) {
+    PostgresConnection connection(connection_);
+    connection.Begin(PostgresConnection::Mode::Read);
+    EXPECT_EQ(connection.Execute("SHOW lock_timeout").Text(0, 0), "10s");
+    EXPECT_EQ(connection.Execute("SHOW statement_timeout").Text(0, 0), "14s");
+    EXPECT_EQ(PostgresOptions().patience, milliseconds(15000));
+}
+
 TEST_F(PostgresLimitsTest, SilentDataBaseIsGivenUpAndTheNextRequestIsAnswered) {
     const auto storage = OpenWith(1, milliseconds(500));
     ASSERT_NE(storage, nullptr) << error_;

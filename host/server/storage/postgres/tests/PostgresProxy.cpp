@@ -97,18 +97,25 @@ bool PostgresProxy::Pass(int from, int to) {
     }
     const std::string_view text(bytes.data(), static_cast<std::size_t>(count));
     const bool commit = text.starts_with('Q') && text.find("COMMIT") != std::string_view::npos;
-    if (commit && cut_ == Cut::BeforeCommit) {
-        cut_ = Cut::Never;
-        return false;
+    if (commit && cut_ != Cut::Never && cut_ != Cut::Silent) {
+        return Spoil(from, to, text);
     }
-    const bool passed = ::send(to, bytes.data(), text.size(), MSG_NOSIGNAL) == count;
-    if (commit && cut_ == Cut::AfterCommit) {
+    return ::send(to, bytes.data(), text.size(), MSG_NOSIGNAL) == count;
+}
+
+bool PostgresProxy::Spoil(int client, int server, std::string_view commit) {
+    const Cut cut = cut_.exchange(Cut::Never);
+    if (cut == Cut::AfterCommit || cut == Cut::SilentAtCommit) {
+        std::array<char, 16384> answer{};
+        static_cast<void>(::send(server, commit.data(), commit.size(), MSG_NOSIGNAL));
         // Its answer tells that it is done, and goes nowhere.
-        static_cast<void>(::recv(to, bytes.data(), bytes.size(), 0));
-        cut_ = Cut::Never;
-        return false;
+        static_cast<void>(::recv(server, answer.data(), answer.size(), 0));
     }
-    return passed;
+    const bool silent = cut == Cut::SilentBeforeCommit || cut == Cut::SilentAtCommit;
+    // Whoever is not answered ends the connection at last.
+    while (silent && !ended_ && !WaitFor(client)) {
+    }
+    return false;
 }
 
 }  // namespace Tarvik::Server

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <list>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include "host/server/storage/sqlite/tests/TempFolder.h"
@@ -16,9 +17,11 @@ class PostgresProxy {
   public:
     enum class Cut {
         Never,
-        BeforeCommit,  ///< the data base never hears of the commit
-        AfterCommit,   ///< the data base has committed, and nobody is told
-        Silent,        ///< nothing goes on, in either direction, and nothing is cut
+        BeforeCommit,        ///< the data base never hears of the commit
+        AfterCommit,         ///< the data base has committed, and nobody is told
+        SilentBeforeCommit,  ///< as BeforeCommit, but the connection stays, and nothing comes any more
+        SilentAtCommit,      ///< as AfterCommit, but the connection stays, and nothing comes any more
+        Silent,              ///< nothing goes on, in either direction, and nothing is cut
     };
 
     /// `folder` is that of the data base server's socket.
@@ -29,7 +32,7 @@ class PostgresProxy {
 
     /// The folder to name in a connection text.
     std::string SocketFolder() const { return folder_.File("."); }
-    /// What comes next. A cut is made once, and then everything passes again.
+    /// What comes next. A cut is made once, and then everything passes again, on other connections.
     void Next(Cut cut) { cut_ = cut; }
 
   private:
@@ -37,6 +40,8 @@ class PostgresProxy {
     void Carry(int client);
     /// False when the connection is to end.
     bool Pass(int from, int to);
+    /// What becomes of a commit that is not to be answered; always false.
+    bool Spoil(int client, int server, std::string_view commit);
 
     TempFolder folder_;
     std::string target_;

@@ -170,6 +170,31 @@ TEST_F(GroupedChangesTest, ALossOfPowerLosesNothingConfirmed) {
     EXPECT_EQ(Names(), before);
 }
 
+TEST_F(GroupedChangesTest, WaitForALockHasOneLimitWhereverItIsSpent) {
+    EXPECT_EQ(SqliteOptions().patience, std::chrono::seconds(10));
+    constexpr std::chrono::milliseconds kPatience{300};
+    Open({0, kPatience});
+    SqliteDatabase other(folder_.File("voyages.db"));
+    other.Execute("BEGIN IMMEDIATE");
+    const auto begin = std::chrono::steady_clock::now();
+    std::vector<std::thread> threads;
+    for (int i = 0; i < kChanges; ++i) {
+        threads.emplace_back([&] {
+            const auto made = storage_->Catalog().CreateCategory("ann", "A");
+            ASSERT_FALSE(made);
+            EXPECT_THAT(made.GetFault().detail, HasSubstr("locked"));
+            EXPECT_GE(std::chrono::steady_clock::now() - begin, kPatience);
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    // One after the other they would have waited for longer.
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 6 * kPatience);
+    other.Execute("ROLLBACK");
+    EXPECT_TRUE(storage_->Catalog().CreateCategory("ann", "A"));
+}
+
 TEST_F(GroupedChangesTest, GivingUpEndsAllThatWait) {
     Open();
     SqliteDatabase other(folder_.File("voyages.db"));
