@@ -140,6 +140,10 @@ void CPortDistTabDlg::OnOk() {
     p_.view.ShowNote("");
     LoadTree();
     DistanceTable& table = p_.portCalls(true)->Distances();
+    // The dialog stays when the panel goes on to a voyage, whose rows are not the ones to be kept.
+    if (!table.IsUnkept()) {
+        return p_.view.ShowNote(Text(TextIds::IDS_VIEW_TABLEGONE));
+    }
     if (table.CountPlaces() < 2) {
         return boxes_.Notice(TextIds::IDS_PORTDISTAB_SAVEPORTWARN);
     }

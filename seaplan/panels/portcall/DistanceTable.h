@@ -16,6 +16,8 @@ class DistanceTable {
 
     /// Whether the panel is in sight as the distance table.
     bool IsOpen() const { return desk_.View().IsVisible() && desk_.Sheet().state.distanceTable; }
+    /// Whether the rows on show are a distance table's that has not become a voyage.
+    bool IsUnkept() const { return desk_.Sheet().IsUnkeptTable(); }
     /// Begins an empty table in place of what is on show, and shows the panel. 0, or -1 where the changes of
     /// the voyage on show could not be saved and stay.
     int Open();

@@ -6,6 +6,7 @@
 
 #include "seaplan/panels/distances/CPortDistTabDlg.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
+#include "seaplan/panels/tests/RecordingKeepView.h"
 #include "seaplan/panels/tests/TreeViews.h"
 
 namespace Tarvik::Seaplan {
@@ -16,35 +17,6 @@ using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAre;
 
 namespace {
-
-/// The dialog's window and its list, which only remember what they were told.
-class RecordingKeepView final : public RecordingPanelWindow<KeepTableView>, public DropList {
-  public:
-    std::string category = "old";
-    std::string voyage = "old";
-    bool selected = false;
-    std::string note;
-    bool listShown = false;
-    Rect listPlace;
-    std::vector<std::string> names;
-    int focusedRow = -1;
-
-    void SetCategory(const std::string& text, bool all) override {
-        category = text;
-        selected = all;
-    }
-    void SetVoyageName(const std::string& text) override { voyage = text; }
-    Rect CategoryPlace() const override { return {100, 50, 260, 76}; }
-    DropList& Names() override { return *this; }
-    void ShowNote(const std::string& text) override { note = text; }
-    void ShowList(const Rect& screen, const std::vector<std::string>& texts, int) override {
-        listShown = true;
-        listPlace = screen;
-        names = texts;
-    }
-    void HideList() override { listShown = false; }
-    void FocusList(int row) override { focusedRow = row; }
-};
 
 class KeepTableTest : public PortCallFixture {
   protected:
@@ -376,6 +348,20 @@ TEST_F(KeepTableTest, YesToLeavingATableOpensTheDialogAndNothingOfItIsLost) {
     Open(kept);
     EXPECT_EQ(messages.messages.size(), 1U) << "it was saved, and is left without a question";
     EXPECT_EQ(view.caption, "IDS_PORTCALL_TITLE");
+}
+
+TEST_F(KeepTableTest, ADialogWhoseTableWasLeftMeanwhileKeepsNothing) {
+    AskToKeep();
+    messages.Answer(SysMsgHandleRes::No);
+    Open(kept);
+    Type(1, ColSpeed, "12");
+    desk.ForgetRecords();
+    KeepAs("Plans", "V1");
+    EXPECT_EQ(keep.note, "IDS_VIEW_TABLEGONE");
+    EXPECT_EQ(desk.Count(Ask::kAddVoyage) + desk.Count(Ask::kSavePortCalls), 0)
+        << "the rows on show are another voyage's";
+    EXPECT_EQ(panel.Sheet().voyageId, kept);
+    EXPECT_TRUE(view.state.changed);
 }
 
 TEST_F(KeepTableTest, AFailedSaveIsToldAndLeavesTheVoyageWithoutPortCalls) {
