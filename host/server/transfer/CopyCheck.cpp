@@ -11,7 +11,7 @@ namespace Tarvik::Server {
 
 namespace {
 
-/// Beyond any counter, and still a number that can be counted on from.
+/// More is no number that any counter has.
 constexpr std::size_t kMostIdDigits = 15;
 
 bool IsText(const std::string& text, std::size_t most = kMaxNameBytes) {
@@ -72,8 +72,8 @@ std::string CopyCheck::User(const UserCopy& user) {
 }
 
 std::string CopyCheck::Category(const CategoryCopy& category) {
-    if (!TakeId(category.id)) {
-        return "the id is none, or is there twice";
+    if (const std::string wrong = TakeId(category.id); !wrong.empty()) {
+        return "the id " + wrong;
     }
     if (!IsName(category.name)) {
         return "the name is empty or too long";
@@ -84,8 +84,8 @@ std::string CopyCheck::Category(const CategoryCopy& category) {
 
 std::string CopyCheck::Voyage(const VoyageCopy& copy) {
     const VoyageRecord& voyage = copy.voyage;
-    if (!TakeId(voyage.id)) {
-        return "the id is none, or is there twice";
+    if (const std::string wrong = TakeId(voyage.id); !wrong.empty()) {
+        return "the id " + wrong;
     }
     if (!IsName(voyage.name)) {
         return "the name is empty or too long";
@@ -102,8 +102,8 @@ std::string CopyCheck::Voyage(const VoyageCopy& copy) {
     if (!AreGood(copy.calls)) {
         return "a port call is none, or out of its order";
     }
-    if (copy.book && !TakeId(copy.book->id)) {
-        return "the book's id is none, or is there twice";
+    if (const std::string wrong = copy.book ? TakeId(copy.book->id) : ""; !wrong.empty()) {
+        return "the book's id " + wrong;
     }
     if (copy.book && !IsTimeText(copy.book->date)) {
         return "the book's date is none";
@@ -133,8 +133,8 @@ std::string CopyCheck::Remark(const RemarkCopy& copy) {
 
 template <class Record>
 std::string CopyCheck::ListRecord(const Record& record, std::size_t most, std::size_t& seen) {
-    if (!TakeId(record.id)) {
-        return "the id is none, or is there twice";
+    if (const std::string wrong = TakeId(record.id); !wrong.empty()) {
+        return "the id " + wrong;
     }
     if (const auto fault = FaultOf(record)) {
         return std::string(TextOf(*fault));
@@ -150,14 +150,17 @@ std::string CopyCheck::Place(const PlaceRecord& place) {
     return ListRecord(place, kMostPlaces, places_);
 }
 
-bool CopyCheck::TakeId(const std::string& id) {
+std::string CopyCheck::TakeId(const std::string& id) {
     if (!IsId(id) || !seen_.insert(id).second) {
-        return false;
+        return "is none, or is there twice";
     }
     const std::int64_t number = std::stoll(id);
+    if (number > kMostCopiedId) {
+        return "is so high that a later backup would fail";
+    }
     lowestId_ = lowestId_ == 0 ? number : std::min(lowestId_, number);
     highestId_ = std::max(highestId_, number);
-    return true;
+    return {};
 }
 
 }  // namespace Tarvik::Server

@@ -31,8 +31,8 @@ class CopyCheck {
     /// The same of a record of a list, which may have so many; `seen` counts them.
     template <class Record>
     std::string ListRecord(const Record& record, std::size_t most, std::size_t& seen);
-    /// Notes an id; false when it is none or was seen before.
-    bool TakeId(const std::string& id);
+    /// Notes an id; says what is wrong with it.
+    std::string TakeId(const std::string& id);
 
     std::unordered_set<std::string> users_;
     std::unordered_set<std::string> seen_;

@@ -49,6 +49,8 @@ struct OwnerCopy {
 /// Ids beyond this are not kept when they are added: those that are given out behind them would soon be too
 /// high for a file of exported users.
 inline constexpr std::int64_t kMostKeptId = 1'000'000'000'000;
+/// Ids beyond this are in no file: no server that counts on from the one above ever gets there.
+inline constexpr std::int64_t kMostCopiedId = 10 * kMostKeptId;
 
 /// What is about to be added.
 struct CopyManifest {

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
-
-#include "host/server/transfer/TransferFile.h"
 #include "host/server/transfer/tests/SampleOwner.h"
 #include "host/server/transfer/tests/TransferFixture.h"
 
@@ -25,18 +22,6 @@ class BrokenFileTest : public TransferTest {
         EXPECT_NE(error.find(Path()), std::string::npos) << error;
         EXPECT_TRUE(to.storage->Transfer().ListOwners().Value().empty());
         EXPECT_TRUE(to.accounts.users.empty());
-    }
-    /// The lines with an end that fits them.
-    static std::string Ended(const std::string& lines) {
-        Checksum sum;
-        sum.Add(lines);
-        return lines + R"({"end":)" + std::to_string(std::count(lines.begin(), lines.end(), '\n')) +
-               R"(,"sha256":")" + sum.Finish() + "\"}\n";
-    }
-    static std::string Head() { return "{\"format\":\"seaplan-users\",\"version\":1,\"made\":\"\"}\n"; }
-    static std::string User() { return "{\"user\":\"ann\",\"password\":\"x\",\"disabled\":false}\n"; }
-    static std::string Category(const std::string& id = "1000001") {
-        return "{\"category\":\"" + id + "\",\"name\":\"A\",\"state\":0}\n";
     }
     static std::string Voyage(const std::string& from = "", const std::string& into = "") {
         std::string line =
@@ -242,13 +227,6 @@ TEST_F(BrokenFileTest, BadUsersAreLeftOutWithAllTheyHave) {
     EXPECT_EQ(done.substr(0, done.find('\n')), "imported 1 user, 1 category, 0 voyages, 0 remarks");
     EXPECT_TRUE(to.accounts.users.contains("ann"));
     EXPECT_FALSE(to.accounts.users.contains("bob"));
-}
-
-TEST_F(BrokenFileTest, IdsTooHighToBeCountedOnFromAreGivenAnew) {
-    WriteBytes(Ended(Head() + User() + Category("999999999999999")));
-    ASSERT_TRUE(Import(to)) << error;
-    const std::string next = to.storage->Catalog().CreateCategory("ann", "B").Value();
-    EXPECT_LT(next.size(), 10U);
 }
 
 TEST_F(BrokenFileTest, MissingFileAndFolderAreRefused) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/transfer/tests/TransferFixture.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -122,6 +123,13 @@ bool TransferTest::Import(Place& place, const ImportChoice& choice, const std::s
 std::string TransferTest::Bytes(const std::string& name) const {
     std::ifstream in(Path(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::string TransferTest::Ended(const std::string& lines) {
+    Checksum sum;
+    sum.Add(lines);
+    return lines + R"({"end":)" + std::to_string(std::count(lines.begin(), lines.end(), '\n')) +
+           R"(,"sha256":")" + sum.Finish() + "\"}\n";
 }
 
 void TransferTest::WriteBytes(const std::string& bytes, const std::string& name) const {

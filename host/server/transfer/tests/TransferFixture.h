@@ -51,6 +51,14 @@ class TransferTest : public ::testing::Test {
     std::string Path(const std::string& name = "users") const { return folder.File(name); }
     std::string Bytes(const std::string& name = "users") const;
     void WriteBytes(const std::string& bytes, const std::string& name = "users") const;
+    /// Lines of a file that is made by hand.
+    static std::string Head() { return "{\"format\":\"seaplan-users\",\"version\":1,\"made\":\"\"}\n"; }
+    static std::string User() { return "{\"user\":\"ann\",\"password\":\"x\",\"disabled\":false}\n"; }
+    static std::string Category(const std::string& id = "1000001") {
+        return "{\"category\":\"" + id + "\",\"name\":\"A\",\"state\":0}\n";
+    }
+    /// The lines with an end that fits them.
+    static std::string Ended(const std::string& lines);
 
     TempFolder folder;
     Place from;
