@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <fstream>
 #include <set>
 
@@ -121,6 +122,17 @@ TEST(SettingsFile, MissingFileIsTold) {
     std::string error;
     EXPECT_FALSE(ReadSettings(folder.File("none.conf"), {}, settings, error));
     EXPECT_EQ(error, "the settings file " + folder.File("none.conf") + " cannot be read");
+}
+
+TEST(SettingsTogether, WritersFollowStorageAndCores) {
+    Settings settings;
+    EXPECT_EQ(settings.workers, DefaultWorkers());
+    EXPECT_GE(DefaultWorkers(), 2);
+    EXPECT_EQ(WritersOf(settings), 32) << "with files all share one sync";
+    settings.database = "dbname=seaplan";
+    EXPECT_EQ(WritersOf(settings), std::clamp(8 * DefaultWorkers(), 16, 64));
+    settings.writers = 3;
+    EXPECT_EQ(WritersOf(settings), 3);
 }
 
 TEST(SettingsTogether, PasswordsCrossNoNetworkInTheClearUnasked) {

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "host/server/net/http/HttpServer.h"
+#include "host/server/net/http/HttpThreads.h"
 #include "host/server/net/tests/RawClient.h"
 
 namespace Tarvik::Server {
@@ -87,7 +88,7 @@ class WaitingTest : public testing::TestWithParam<Lane> {
     }
     static HttpLimits Limits() {
         HttpLimits limits;
-        limits.connections = limits.queue = 2 * kRequests;
+        limits.connections = limits.queue = 2 * kMostLogins;
         limits.idle = limits.request = limits.stop = kPatience;
         return limits;
     }
@@ -122,6 +123,26 @@ TEST_P(WaitingTest, EachOfTwentyIsAnsweredWhenItsWorkIsDoneWhileAllOthersWait) {
         const RawReply reply = clients[came[i]]->Read();
         ASSERT_EQ(reply.status, 200) << i;
         EXPECT_EQ(reply.body, came[i]);
+    }
+}
+
+using LoginLineTest = WaitingTest;
+
+INSTANTIATE_TEST_SUITE_P(Lanes, LoginLineTest, testing::Values(Lane::Login), NameOf);
+
+TEST_P(LoginLineTest, OneMoreThanMayWaitIsRefusedAtOnceAndAllOthersAreAnswered) {
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (std::size_t i = 0; i < 1 + kMostLogins; ++i) {
+        clients.push_back(std::make_unique<RawClient>(http_.Port()));
+        ASSERT_TRUE(clients.back()->Send(RawClient::Request("GET", "/", {}, {})));
+    }
+    ASSERT_EQ(service_.Came(clients.size()).size(), clients.size());
+    EXPECT_EQ(RawClient(http_.Port()).Ask("GET", "/one-more").status, 503);
+    for (std::size_t i = 0; i < clients.size(); ++i) {
+        service_.Permit();
+    }
+    for (const auto& client : clients) {
+        ASSERT_EQ(client->Read().status, 200);
     }
 }
 
