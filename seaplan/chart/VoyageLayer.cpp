@@ -22,7 +22,7 @@ constexpr const char* kRoutePointType = "VOYAGETYPE";
 constexpr const char* kAlternativeType = "RPOINTTYPE";
 constexpr const char* kShipType = "AISSHIPTYPE";
 constexpr const char* kShipImage = "AIS_Ship";
-constexpr const char* kShipFile = "\\businessdata\\seaplan\\ship.png";
+constexpr const char* kShipFile = "seaplan/ship.png";
 constexpr int kRouteColour = 0x6464E9;
 constexpr int kBookColour = 0xC832E9;
 constexpr int kRoutePointColour = 0x9664FF;
@@ -120,8 +120,7 @@ int VoyageLayer::PlaceShip(Interface::TrvMapImageParams& record, const std::stri
     if (position.empty()) {
         return -1;
     }
-    const Interface::TrvMapImageReg image{
-        kShipImage, Util::FileUtl::GetCurrentAppDirectory() + Util::FileUtl::NativePath(kShipFile)};
+    const Interface::TrvMapImageReg image{kShipImage, Util::FileUtl::BusinessData(kShipFile)};
     Interface::Call(Bus::MapRegisterImage, &image);
     record.position = position;
     Interface::Call(Bus::MapAddImage, &std::as_const(record));

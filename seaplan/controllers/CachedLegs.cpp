@@ -34,9 +34,8 @@ Util::_datetime_t Epoch() {
 }
 
 std::filesystem::path CachePath(const std::string& name) {
-    const std::string file = name.empty() ? "Ports.dat" : name;
-    return Util::FileUtl::NativePath(Util::FileUtl::GetCurrentAppDirectory() + "\\businessdata\\seaplan\\" +
-                                     file);
+    return Util::FileUtl::NativePath(
+        Util::FileUtl::BusinessData("seaplan/" + (name.empty() ? "Ports.dat" : name)));
 }
 
 /// Appends a leg to the stops before it; its groups belong to the stop that they then are.

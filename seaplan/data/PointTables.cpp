@@ -45,7 +45,7 @@ std::string PositionText(const Util::CppSQLite3Query& row, int column) {
 }  // namespace
 
 std::string PointDatabasePath() {
-    return Util::FileUtl::GetCurrentAppDirectory() + Util::FileUtl::NativePath("\\businessdata\\trvdb.db");
+    return Util::FileUtl::BusinessData(Util::kPointTableFile);
 }
 
 int LoadPortPositions(const std::string& database, PointMap& map) {

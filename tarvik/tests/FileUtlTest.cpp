@@ -24,6 +24,13 @@ TEST(FileUtlTest, FolderThatTheHostSetsHasNoSeparatorAtItsEnd) {
     FileUtl::SetCurrentAppDirectory("");
 }
 
+TEST(FileUtlTest, TheSharedFilesLieBelowTheHostsFolder) {
+    FileUtl::SetCurrentAppDirectory("/data/app/");
+    EXPECT_EQ(FileUtl::BusinessData(kPointTableFile), "/data/app/businessdata/trvdb.db");
+    EXPECT_EQ(FileUtl::BusinessData("ais"), "/data/app/businessdata/ais");
+    FileUtl::SetCurrentAppDirectory("");
+}
+
 TEST(FileUtlTest, BackslashesBecomeTheSystemsSeparator) {
     EXPECT_EQ(FileUtl::NativePath("\\businessdata\\trvdb.db"), "/businessdata/trvdb.db");
     EXPECT_EQ(FileUtl::NativePath("a/b"), "a/b");

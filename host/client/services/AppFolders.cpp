@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include <tarvik/util/FileUtl.h>
+
 namespace fs = std::filesystem;
 
 namespace Tarvik::Client {
@@ -56,12 +58,12 @@ AppFolders::AppFolders(const std::string& programFolder, const std::string& data
 
 std::string AppFolders::ShareFile(const std::string& name) const {
     std::error_code failed;
-    const fs::path nested = fs::path(share_) / "businessdata" / name;
+    const fs::path nested = fs::path(share_) / Util::kBusinessDataFolder / name;
     return fs::exists(nested, failed) ? nested.string() : (fs::path(share_) / name).string();
 }
 
 std::string AppFolders::BusinessData(const std::string& name) const {
-    return (fs::path(data_) / "businessdata" / name).string();
+    return (fs::path(data_) / Util::kBusinessDataFolder / name).string();
 }
 
 bool AppFolders::Probe(std::string& error) const {
@@ -112,7 +114,7 @@ bool AppFolders::Refresh(const std::string& name, const std::string& target, std
 
 bool AppFolders::Prepare(std::string& error) const {
     std::error_code failed;
-    fs::create_directories(fs::path(data_) / "businessdata" / "seaplan", failed);
+    fs::create_directories(fs::path(data_) / Util::kBusinessDataFolder / "seaplan", failed);
     if (failed) {
         error = "The data folder " + data_ + " cannot be made (" + failed.message() +
                 "). Make its place writable, or name another folder with --data DIR.";
@@ -121,9 +123,10 @@ bool AppFolders::Prepare(std::string& error) const {
     if (!Probe(error)) {
         return false;
     }
-    return CheckDatabaseFile(ShareFile("trvdb.db"), error) && CheckLandFile(ShareFile("land.bin"), error) &&
-           Refresh("trvdb.db", "trvdb.db", error) && Refresh("land.bin", "land.bin", error) &&
-           Refresh("ship.png", "seaplan/ship.png", error);
+    return CheckDatabaseFile(ShareFile(Util::kPointTableFile), error) &&
+           CheckLandFile(ShareFile(Util::kLandFile), error) &&
+           Refresh(Util::kPointTableFile, Util::kPointTableFile, error) &&
+           Refresh(Util::kLandFile, Util::kLandFile, error) && Refresh("ship.png", "seaplan/ship.png", error);
 }
 
 }  // namespace Tarvik::Client

@@ -55,7 +55,7 @@ bool ClientSession::Start(const SessionOptions& options, std::string& error) {
     for (const std::string& line : Texts().Complaints()) {
         log_.Write(line);
     }
-    if (!tables_.LoadPorts(folders_.BusinessData("trvdb.db"), error)) {
+    if (!tables_.LoadPorts(folders_.BusinessData(Util::kPointTableFile), error)) {
         return false;
     }
     link_ = MakeLink(preferences_.server, error);
@@ -119,7 +119,7 @@ void ClientSession::TellPorts(const std::string& trouble) {
 }
 
 void ClientSession::TakeOwnPorts(ServerLink& link) {
-    const std::string table = folders_.BusinessData("trvdb.db");
+    const std::string table = folders_.BusinessData(Util::kPointTableFile);
     const std::string user = link.User(Server::kLocalUser);
     const auto own = user.empty() ? std::vector<Ports::Place>() : LoadOwnPorts(link, user);
     std::string error;
@@ -127,8 +127,8 @@ void ClientSession::TakeOwnPorts(ServerLink& link) {
         error = "The server gave no list of the user's own ports.";
         TellPorts(error);
     }
-    if (!WritePortTable(folders_.ShareFile("trvdb.db"), table, own.value_or(std::vector<Ports::Place>()),
-                        error) ||
+    if (!WritePortTable(folders_.ShareFile(Util::kPointTableFile), table,
+                        own.value_or(std::vector<Ports::Place>()), error) ||
         !tables_.LoadPorts(table, error)) {
         TellPorts(error);
     } else if (own) {

@@ -13,11 +13,7 @@ Plugin::SinglePlugin<Ais::Watch> plugin({
     .version = "1.0.0.0",
     .display = u"AIS",
     .description = u"Live positions of ships, their tracks and cards",
-    .make =
-        [] {
-            return std::make_unique<Ais::Watch>(
-                Util::FileUtl::NativePath(Util::FileUtl::GetCurrentAppDirectory() + "\\businessdata\\ais"));
-        },
+    .make = [] { return std::make_unique<Ais::Watch>(Util::FileUtl::BusinessData("ais")); },
     // The chart is there now.
     .suiteLoaded = [](Ais::Watch& watch) { watch.Start(); },
 });

@@ -15,8 +15,8 @@ Plugin::SinglePlugin<InfoSearch::SearchDesk> plugin({
     .description = u"Ports while they are typed, and what is known of a vessel",
     .make =
         [] {
-            return std::make_unique<InfoSearch::SearchDesk>(Util::FileUtl::NativePath(
-                Util::FileUtl::GetCurrentAppDirectory() + "\\businessdata\\trvdb.db"));
+            return std::make_unique<InfoSearch::SearchDesk>(
+                Util::FileUtl::BusinessData(Util::kPointTableFile));
         },
 });
 

@@ -36,6 +36,10 @@ void FileUtl::SetCurrentAppDirectory(const std::string& folder) {
     }
 }
 
+std::string FileUtl::BusinessData(const std::string& name) {
+    return GetCurrentAppDirectory() + "/" + kBusinessDataFolder + "/" + name;
+}
+
 std::string FileUtl::NativePath(const std::string& path) {
     std::string native = path;
     std::replace(native.begin(), native.end(), '\\', '/');

@@ -37,7 +37,7 @@ std::vector<LandLevel> LandFileSource::Load() {
 }
 
 std::string LandFileSource::DefaultPath() {
-    return Util::FileUtl::GetCurrentAppDirectory() + "/businessdata/land.bin";
+    return Util::FileUtl::BusinessData(Util::kLandFile);
 }
 
 }  // namespace Tarvik::Seamap

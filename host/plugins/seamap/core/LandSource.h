@@ -35,7 +35,7 @@ class LandFileSource : public LandSource {
     explicit LandFileSource(std::string path) : path_(std::move(path)) {}
     /// Empty when the file is missing or damaged: the chart then shows sea and graticule only.
     std::vector<LandLevel> Load() override;
-    /// "businessdata/land.bin" below the host's folder.
+    /// The file of land below the host's folder.
     static std::string DefaultPath();
 
   private:

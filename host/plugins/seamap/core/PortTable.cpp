@@ -21,7 +21,7 @@ const std::vector<Ports::Place>& PortTable::Places() {
 }
 
 std::string PortTable::DefaultPath() {
-    return Util::FileUtl::GetCurrentAppDirectory() + "/businessdata/trvdb.db";
+    return Util::FileUtl::BusinessData(Util::kPointTableFile);
 }
 
 void PortTable::Load() {

@@ -21,7 +21,7 @@ class PortTable {
     const Interface::TrvMapPort* Find(const std::string& id);
     /// All rows of the table, in order of their names; empty when the data base cannot be read.
     const std::vector<Ports::Place>& Places();
-    /// "businessdata/trvdb.db" below the host's folder.
+    /// The table of points below the host's folder.
     static std::string DefaultPath();
 
   private:

@@ -7,6 +7,11 @@
 
 namespace Tarvik::Util {
 
+/// The folder of the files that several plug-ins read, below the host's, and the names of those files.
+inline constexpr const char* kBusinessDataFolder = "businessdata";
+inline constexpr const char* kPointTableFile = "trvdb.db";  ///< ports and route points
+inline constexpr const char* kLandFile = "land.bin";
+
 /// Where the host keeps its data.
 class TARVIK_API FileUtl {
   public:
@@ -15,6 +20,8 @@ class TARVIK_API FileUtl {
     static std::string GetCurrentAppDirectory();
     /// Client: puts the folder in force; separators at its end are dropped.
     static void SetCurrentAppDirectory(const std::string& folder);
+    /// The path of a file or folder below kBusinessDataFolder, as kPointTableFile or "ais".
+    static std::string BusinessData(const std::string& name);
     /// Turns each "\\" of a path into the system's separator.
     static std::string NativePath(const std::string& path);
 };
