@@ -3,7 +3,6 @@
 
 #include <memory>
 #include <stdexcept>
-#include <system_error>
 
 #include <sqlite3.h>
 
@@ -16,16 +15,6 @@ namespace {
 constexpr const char* kCreate =
     "pragma synchronous=off;begin;create table t_point(id text,name text,namecn text,x text,y text,isport "
     "text,origid text);";
-
-std::filesystem::path MakeFolder() {
-    // mkdtemp puts its own letters in the place of the last six.
-    std::string name =
-        (std::filesystem::temp_directory_path() / "seaplan-test-").string() + std::string(6, 'X');
-    if (mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder");
-    }
-    return name;
-}
 
 std::string Quoted(const std::string& text) {
     const std::unique_ptr<char, void (*)(void*)> made(sqlite3_mprintf("%Q", text.c_str()), sqlite3_free);
@@ -40,14 +29,12 @@ std::string InsertText(const PointTableRow& row) {
 
 }  // namespace
 
-DataFolder::DataFolder() : path_(MakeFolder()) {
+DataFolder::DataFolder() {
     Util::FileUtl::SetCurrentAppDirectory(path_.string());
 }
 
 DataFolder::~DataFolder() {
     Util::FileUtl::SetCurrentAppDirectory("");
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
 }
 
 void DataFolder::WritePoints(const std::vector<PointTableRow>& rows) const {

@@ -5,6 +5,10 @@
 #include <string>
 #include <vector>
 
+#include <tarvik/util/FileUtl.h>
+
+#include "testsupport/TemporaryFolder.h"
+
 namespace Tarvik::TestSupport {
 
 /// One row of the table of points. Coordinates are texts, in degrees.
@@ -32,11 +36,16 @@ class DataFolder {
     /// Ports A, B, C on the equator at 0, 1 and 3 degrees, C2 that is one place with C, and the route points
     /// 105 "South Cape", 116 "North Cape" and 118 "Mid Cape" around 0.5 degrees.
     void WriteSamplePoints() const;
-    std::filesystem::path PointsFile() const { return path_ / "businessdata" / "trvdb.db"; }
-    std::filesystem::path LegCacheFile() const { return path_ / "businessdata" / "seaplan" / "Ports.dat"; }
+    std::filesystem::path PointsFile() const {
+        return path_ / Util::kBusinessDataFolder / Util::kPointTableFile;
+    }
+    std::filesystem::path LegCacheFile() const {
+        return path_ / Util::kBusinessDataFolder / "seaplan" / "Ports.dat";
+    }
 
   private:
-    std::filesystem::path path_;
+    TemporaryFolder folder_;
+    std::filesystem::path path_{folder_.Path()};
 };
 
 }  // namespace Tarvik::TestSupport

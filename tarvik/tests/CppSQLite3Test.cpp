@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <unistd.h>
 #include <utility>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
 #include <tarvik/util/CppSQLite3.h>
+
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Util {
 
@@ -18,11 +18,6 @@ namespace {
 class CppSQLite3Test : public testing::Test {
   protected:
     void SetUp() override {
-        std::string form =
-            (std::filesystem::temp_directory_path() / "tarvik-").string() + std::string(6, 'X');
-        ASSERT_NE(::mkdtemp(form.data()), nullptr);
-        folder = form;
-        path = (folder / "ports.db").string();
         sqlite3* database = nullptr;
         ASSERT_EQ(sqlite3_open(path.c_str(), &database), SQLITE_OK);
         const char* sql =
@@ -31,10 +26,9 @@ class CppSQLite3Test : public testing::Test {
         ASSERT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK);
         sqlite3_close(database);
     }
-    void TearDown() override { std::filesystem::remove_all(folder); }
 
-    std::filesystem::path folder;
-    std::string path;
+    TestSupport::TemporaryFolder folder;
+    const std::string path = folder.File("ports.db");
 };
 
 TEST_F(CppSQLite3Test, WalksTheRows) {
@@ -86,10 +80,10 @@ TEST_F(CppSQLite3Test, IsReadOnly) {
 TEST_F(CppSQLite3Test, FailuresThrowWithAMessage) {
     CppSQLite3DB database;
     EXPECT_THROW(database.execQuery("SELECT 1"), CppSQLite3Exception);
-    const std::string missing = (folder / "missing.db").string();
+    const std::string missing = folder.File("missing.db");
     EXPECT_THROW(database.open(missing), CppSQLite3Exception);
     EXPECT_FALSE(std::filesystem::exists(missing));
-    const std::string broken = (folder / "broken.db").string();
+    const std::string broken = folder.File("broken.db");
     std::ofstream(broken) << std::string(2000, 'x');
     EXPECT_THROW(database.open(broken), CppSQLite3Exception);
     database.open(path);

@@ -9,7 +9,7 @@ namespace fs = std::filesystem;
 
 namespace Tarvik::Programs {
 
-ClientTree::ClientTree() : program_(CLIENT_PROGRAM), data_(folder_.Path("data")) {}
+ClientTree::ClientTree() : program_(CLIENT_PROGRAM), data_(folder_.File("data")) {}
 
 void ClientTree::CopyTree() {
     const fs::path built = fs::path(CLIENT_PROGRAM).parent_path().parent_path();

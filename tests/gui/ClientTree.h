@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "host/client/tests/TemporaryFolder.h"
 #include "tests/gui/ChildProcess.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Programs {
 
@@ -24,7 +24,7 @@ class ClientTree {
     Ended Plan(const std::vector<std::string>& words) const;
 
     /// A file of the copied tree, as "share/seaplan/land.bin".
-    std::string TreeFile(const std::string& name) const { return folder_.Path("tree/" + name); }
+    std::string TreeFile(const std::string& name) const { return folder_.File("tree/" + name); }
     std::string Data(const std::string& name = {}) const;
     void SetData(const std::string& folder) { data_ = folder; }
 
@@ -32,7 +32,7 @@ class ClientTree {
     long Number(const std::string& sql) const;
 
   private:
-    Client::TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
     std::string program_;
     std::string data_;
 };

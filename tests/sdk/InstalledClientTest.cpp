@@ -8,8 +8,8 @@
 
 #include <gmock/gmock.h>
 
-#include "host/client/tests/TemporaryFolder.h"
 #include "tests/gui/ChildProcess.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Sdk {
 
@@ -20,7 +20,7 @@ using testing::HasSubstr;
 class InstalledClient : public testing::Test {
   protected:
     InstalledClient() {
-        Run({CMAKE_PROGRAM, "--install", BUILD_FOLDER, "--prefix", folder_.Path("prefix"), "--component",
+        Run({CMAKE_PROGRAM, "--install", BUILD_FOLDER, "--prefix", folder_.File("prefix"), "--component",
              "client"});
     }
     static std::string Run(const std::vector<std::string>& words) {
@@ -31,7 +31,7 @@ class InstalledClient : public testing::Test {
         EXPECT_EQ(ended.exitCode, 0) << words[0] << "\n" << ended.out << ended.err;
         return ended.out;
     }
-    std::string File(const std::string& name) const { return folder_.Path("prefix/" + name); }
+    std::string File(const std::string& name) const { return folder_.File("prefix/" + name); }
     std::string Read(const std::string& name) const {
         EXPECT_TRUE(std::filesystem::exists(File(name))) << name;
         return folder_.Read("prefix/" + name);
@@ -45,7 +45,7 @@ class InstalledClient : public testing::Test {
         return found;
     }
 
-    Client::TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
 };
 
 TEST_F(InstalledClient, ADesktopFindsProgramAndIcon) {

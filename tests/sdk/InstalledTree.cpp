@@ -6,7 +6,7 @@
 namespace Tarvik::Sdk {
 
 InstalledTree::InstalledTree() {
-    const std::string sample = folder_.Path("sample");
+    const std::string sample = folder_.File("sample");
     Do({CMAKE_PROGRAM, "--install", BUILD_FOLDER, "--prefix", File("")});
     Do({CMAKE_PROGRAM, "-S", SAMPLE_FOLDER, "-B", sample, "-DCMAKE_PREFIX_PATH=" + File("")});
     Do({CMAKE_PROGRAM, "--build", sample});
@@ -24,7 +24,7 @@ void InstalledTree::Do(const std::vector<std::string>& words) const {
 
 Programs::Ended InstalledTree::RunClient(const std::vector<std::string>& words) const {
     Programs::ChildProcess::Start start;
-    start.words = {File("bin/tarvik"), "--data", folder_.Path("data")};
+    start.words = {File("bin/tarvik"), "--data", folder_.File("data")};
     start.words.insert(start.words.end(), words.begin(), words.end());
     // Libraries of the window system keep memory to the end, which is no finding here.
     start.environment = {{"ASAN_OPTIONS", "detect_leaks=0"}};

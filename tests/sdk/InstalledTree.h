@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "host/client/tests/TemporaryFolder.h"
 #include "tests/gui/ChildProcess.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Sdk {
 
@@ -16,13 +16,13 @@ class InstalledTree {
     InstalledTree();
 
     /// A file below the prefix, as "bin/tarvik".
-    std::string File(const std::string& name) const { return folder_.Path("prefix/" + name); }
+    std::string File(const std::string& name) const { return folder_.File("prefix/" + name); }
     /// Where the client looks for plug-ins.
     std::string Plugins() const { return File(INSTALLED_PLUGINS); }
     /// A file of the person's data.
-    std::string Data(const std::string& name) const { return folder_.Path("data/" + name); }
+    std::string Data(const std::string& name) const { return folder_.File("data/" + name); }
     /// Any other file of the folder.
-    std::string Other(const std::string& name) const { return folder_.Path(name); }
+    std::string Other(const std::string& name) const { return folder_.File(name); }
 
     /// Runs the installed client with the folder's own data.
     Programs::Ended RunClient(const std::vector<std::string>& words) const;
@@ -30,7 +30,7 @@ class InstalledTree {
   private:
     void Do(const std::vector<std::string>& words) const;
 
-    Client::TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
 };
 
 }  // namespace Tarvik::Sdk

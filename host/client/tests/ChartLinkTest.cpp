@@ -10,7 +10,7 @@
 #include <tarvik/bus/ChartContract.h>
 
 #include "host/client/shell/MainWindow.h"
-#include "host/client/tests/TemporaryFolder.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -23,7 +23,7 @@ namespace {
 class ChartLinkTest : public testing::Test {
   protected:
     ChartLinkTest() {
-        options_.dataFolder = folder_.Path("data");
+        options_.dataFolder = folder_.File("data");
         session_ = ClientSession::Open(options_, error_);
         bindings_.Keep(Interface::Offer(Interface::Bus::ChartCommand, [this](const std::string& command) {
             commands_.push_back(command);
@@ -37,10 +37,10 @@ class ChartLinkTest : public testing::Test {
         Interface::Raise(Interface::Bus::ChartPartTurned, &turned);
     }
     Preferences Kept() const {
-        return Preferences::Read(folder_.Path("data/preferences.json"), session_->Texts().Offered());
+        return Preferences::Read(folder_.File("data/preferences.json"), session_->Texts().Offered());
     }
 
-    TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
     SessionOptions options_;
     std::string error_;
     std::unique_ptr<ClientSession> session_;

@@ -11,7 +11,7 @@
 
 #include "host/client/shell/HelpWindow.h"
 #include "host/client/shell/MainWindow.h"
-#include "host/client/tests/TemporaryFolder.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -20,7 +20,7 @@ namespace {
 class HelpWindowTest : public testing::TestWithParam<const char*> {
   protected:
     HelpWindowTest() {
-        options_.dataFolder = folder_.Path("data");
+        options_.dataFolder = folder_.File("data");
         options_.language = GetParam();
         session_ = ClientSession::Open(options_, error_);
     }
@@ -37,7 +37,7 @@ class HelpWindowTest : public testing::TestWithParam<const char*> {
         return lines;
     }
 
-    TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
     SessionOptions options_;
     std::string error_;
     std::unique_ptr<ClientSession> session_;

@@ -3,15 +3,15 @@
 #include <nlohmann/json.hpp>
 
 #include "host/client/services/LanguageFiles.h"
-#include "host/client/tests/TemporaryFolder.h"
 #include "seaplan/panels/texts/AllTexts.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
 namespace {
 
 TEST(LanguageFiles, MergesAllComponentsOfTheLanguage) {
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     folder.Write("a.en-US.json", R"({"A":{"X":"ax"}})");
     folder.Write("b.en-US.json", R"({"B":{"X":"bx"},"A":{"Y":"ay"}})");
     folder.Write("b.zh-CN.json", R"({"B":{"X":"港"}})");
@@ -31,7 +31,7 @@ TEST(LanguageFiles, AnUnknownKeyShowsItself) {
 }
 
 TEST(LanguageFiles, ABrokenFileIsNamedAndTheOthersCount) {
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     folder.Write("a.en-US.json", "{\"A\":");
     folder.Write("b.en-US.json", R"({"B":{"X":"bx"}})");
     LanguageFiles texts;
@@ -42,14 +42,14 @@ TEST(LanguageFiles, ABrokenFileIsNamedAndTheOthersCount) {
 }
 
 TEST(LanguageFiles, ALanguageWithoutFilesIsNamed) {
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     LanguageFiles texts;
     texts.Load(folder.Path(), "zh-CN");
     EXPECT_EQ(texts.Complaints().size(), 1U);
 }
 
 TEST(LanguageFiles, AMissingTextShowsInEnglishAndNeverInTheLanguageBefore) {
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     folder.Write("a.en-US.json", R"({"A":{"X":"ship","Y":"port"}})");
     folder.Write("a.zh-CN.json", R"({"A":{"X":"船","Y":"港口"}})");
     folder.Write("a.zh-TW.json", R"({"A":{"X":"船舶"}})");
@@ -61,7 +61,7 @@ TEST(LanguageFiles, AMissingTextShowsInEnglishAndNeverInTheLanguageBefore) {
 }
 
 TEST(LanguageFiles, TheNextLanguageStandsBehindTheOneInForceAndTheFirstBehindTheLast) {
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     LanguageFiles texts;
     texts.Load(folder.Path(), "en-US");
     EXPECT_EQ(texts.Next(), nullptr);
@@ -86,7 +86,7 @@ TEST(LanguageFiles, RefusesAnythingButObjectsOfTexts) {
 }
 
 TEST(LanguageFiles, AFolderOffersTheLanguagesOfItsFilesByTheirOwnNames) {
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     folder.Write("client.nl-NL.json", R"({"Client":{"LANGUAGE_NAME":"Nederlands"}})");
     folder.Write("client.de-DE.json", R"({"Client":{}})");
     folder.Write("seaplan.fr-FR.json", "{}");
@@ -98,7 +98,7 @@ TEST(LanguageFiles, AFolderOffersTheLanguagesOfItsFilesByTheirOwnNames) {
     EXPECT_EQ(languages[1].name, "Nederlands");
     EXPECT_TRUE(IsOffered(languages, "nl-NL"));
     EXPECT_FALSE(IsOffered(languages, "fr-FR"));
-    EXPECT_TRUE(LanguageFiles::In(folder.Path("none")).empty());
+    EXPECT_TRUE(LanguageFiles::In(folder.File("none")).empty());
 }
 
 TEST(ClientTexts, AreCompleteInEveryLanguage) {

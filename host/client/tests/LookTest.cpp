@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "host/client/shell/MainWindow.h"
-#include "host/client/tests/TemporaryFolder.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -19,7 +19,7 @@ namespace {
 class LookTest : public testing::Test {
   protected:
     LookTest() {
-        options_.dataFolder = folder_.Path("data");
+        options_.dataFolder = folder_.File("data");
         session_ = ClientSession::Open(options_, error_);
     }
     void SetUp() override { ASSERT_NE(session_, nullptr) << error_; }
@@ -34,7 +34,7 @@ class LookTest : public testing::Test {
         return sizes;
     }
 
-    TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
     SessionOptions options_;
     std::string error_;
     std::unique_ptr<ClientSession> session_;

@@ -10,8 +10,8 @@
 #include "host/client/session/ClientSession.h"
 #include "host/client/session/OwnPorts.h"
 #include "host/client/tests/PortDatabase.h"
-#include "host/client/tests/TemporaryFolder.h"
 #include "host/server/net/tests/TestServer.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -28,7 +28,7 @@ std::string Ask(ServerLink& link, Interface::VoyCommand command, const std::stri
 
 class OwnPortsTest : public testing::Test {
   protected:
-    OwnPortsTest() { options_.dataFolder = folder_.Path("data"); }
+    OwnPortsTest() { options_.dataFolder = folder_.File("data"); }
 
     void Open() {
         session_.reset();
@@ -47,7 +47,7 @@ class OwnPortsTest : public testing::Test {
         return row == places.end() ? std::nullopt : std::optional(*row);
     }
 
-    TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
     SessionOptions options_;
     std::string error_;
     std::unique_ptr<ClientSession> session_;
@@ -155,18 +155,18 @@ TEST(OwnPortsReply, AServerWithoutTheCommandKeepsNone) {
 }
 
 TEST(OwnPortsTable, StaysAsItIsWhenItCannotBeWritten) {
-    const TemporaryFolder folder;
-    MakePortDatabase(folder.Path("shipped.db"));
+    const TestSupport::TemporaryFolder folder;
+    MakePortDatabase(folder.File("shipped.db"));
     folder.Write("table.db", "kept");
-    MakeDatabase(folder.Path("foreign.db"), "create table other(a);");
+    MakeDatabase(folder.File("foreign.db"), "create table other(a);");
     std::string error;
     const std::vector<Ports::Place> own = {{"1000001", "A", "", "", Server::GeoPoint{1, 2}, true}};
-    EXPECT_FALSE(WritePortTable(folder.Path("foreign.db"), folder.Path("table.db"), own, error));
+    EXPECT_FALSE(WritePortTable(folder.File("foreign.db"), folder.File("table.db"), own, error));
     EXPECT_THAT(error, HasSubstr("Your own ports cannot be shown"));
     EXPECT_EQ(folder.Read("table.db"), "kept");
-    EXPECT_TRUE(WritePortTable(folder.Path("shipped.db"), folder.Path("table.db"), own, error)) << error;
+    EXPECT_TRUE(WritePortTable(folder.File("shipped.db"), folder.File("table.db"), own, error)) << error;
     std::vector<Ports::Place> places;
-    ASSERT_TRUE(Ports::ReadPlaces(folder.Path("table.db"), places, error)) << error;
+    ASSERT_TRUE(Ports::ReadPlaces(folder.File("table.db"), places, error)) << error;
     EXPECT_EQ(places.size(), 5U);
 }
 

@@ -3,7 +3,7 @@
 
 #include "host/client/services/PortDictionary.h"
 #include "host/client/tests/PortDatabase.h"
-#include "host/client/tests/TemporaryFolder.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -11,14 +11,14 @@ namespace {
 
 class PortTableTest : public testing::Test {
   protected:
-    TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
     std::vector<Port> ports_;
     std::string error_;
 };
 
 TEST_F(PortTableTest, ReadsPortsAloneWithTheirFields) {
-    MakePortDatabase(folder_.Path("t.db"));
-    ASSERT_TRUE(ReadPorts(folder_.Path("t.db"), ports_, error_)) << error_;
+    MakePortDatabase(folder_.File("t.db"));
+    ASSERT_TRUE(ReadPorts(folder_.File("t.db"), ports_, error_)) << error_;
     ASSERT_EQ(ports_.size(), 3U);
     EXPECT_EQ(ports_[0].name, "Rotterdam");
     EXPECT_EQ(ports_[0].nameCn, "鹿特丹");
@@ -28,26 +28,26 @@ TEST_F(PortTableTest, ReadsPortsAloneWithTheirFields) {
 }
 
 TEST_F(PortTableTest, ReadsATableWithoutLocationCodes) {
-    MakeDatabase(folder_.Path("t.db"),
+    MakeDatabase(folder_.File("t.db"),
                  "create table t_point(id,name,namecn,x,y,isport,origid);"
                  "insert into t_point values('40001','A','','1','2','1','0');");
-    ASSERT_TRUE(ReadPorts(folder_.Path("t.db"), ports_, error_)) << error_;
+    ASSERT_TRUE(ReadPorts(folder_.File("t.db"), ports_, error_)) << error_;
     EXPECT_EQ(ports_[0].unlocode, "");
 }
 
 TEST_F(PortTableTest, AMissingFileATableWithoutPortsAndAForeignOneAreNamed) {
-    EXPECT_FALSE(ReadPorts(folder_.Path("none.db"), ports_, error_));
+    EXPECT_FALSE(ReadPorts(folder_.File("none.db"), ports_, error_));
     EXPECT_THAT(error_, testing::HasSubstr("none.db"));
-    MakeDatabase(folder_.Path("empty.db"), "create table t_point(id,name,namecn,x,y,isport,origid);");
-    EXPECT_FALSE(ReadPorts(folder_.Path("empty.db"), ports_, error_));
+    MakeDatabase(folder_.File("empty.db"), "create table t_point(id,name,namecn,x,y,isport,origid);");
+    EXPECT_FALSE(ReadPorts(folder_.File("empty.db"), ports_, error_));
     EXPECT_THAT(error_, testing::HasSubstr("holds no ports"));
-    MakeDatabase(folder_.Path("foreign.db"), "create table other(a);");
-    EXPECT_FALSE(ReadPorts(folder_.Path("foreign.db"), ports_, error_));
+    MakeDatabase(folder_.File("foreign.db"), "create table other(a);");
+    EXPECT_FALSE(ReadPorts(folder_.File("foreign.db"), ports_, error_));
 }
 
 TEST_F(PortTableTest, TheDictionaryAnswersThroughTheSdk) {
-    MakePortDatabase(folder_.Path("t.db"));
-    ASSERT_TRUE(ReadPorts(folder_.Path("t.db"), ports_, error_));
+    MakePortDatabase(folder_.File("t.db"));
+    ASSERT_TRUE(ReadPorts(folder_.File("t.db"), ports_, error_));
     const PortDictionary dictionary(ports_);
     Interface::ValueDictionary::Set(&dictionary);
     EXPECT_EQ(Interface::GetNameByValue("/points", "Singapore", 1033), "40011");

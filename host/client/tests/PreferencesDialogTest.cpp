@@ -13,7 +13,7 @@
 #include <tarvik/bus/PlacesContract.h>
 
 #include "host/client/shell/PreferencesDialog.h"
-#include "host/client/tests/TemporaryFolder.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -23,7 +23,7 @@ class PreferencesDialogTest : public testing::Test {
   protected:
     /// Two languages without any text, so that every label shows its key.
     static LanguageFiles TwoLanguages() {
-        const TemporaryFolder folder;
+        const TestSupport::TemporaryFolder folder;
         folder.Write("client.en-US.json", R"({"Client":{}})");
         folder.Write("client.zh-CN.json", R"({"Client":{}})");
         LanguageFiles texts;

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "host/client/services/Preferences.h"
-#include "host/client/tests/TemporaryFolder.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -11,47 +11,47 @@ namespace {
 const std::vector<Language> kLanguages{{"en-US", "English"}, {"zh-CN", "简体中文"}};
 
 TEST(Preferences, StartWithTheZoneInWhichTimesAreStored) {
-    TemporaryFolder folder;
-    const Preferences usual = Preferences::Read(folder.Path("none.json"), kLanguages);
+    TestSupport::TemporaryFolder folder;
+    const Preferences usual = Preferences::Read(folder.File("none.json"), kLanguages);
     EXPECT_EQ(usual, Preferences());
     EXPECT_EQ(usual.timeZone, "China Standard Time");
 }
 
 TEST(Preferences, ComeBackAsTheyWereWritten) {
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     const Preferences chosen{"zh-CN", "Europe/Rotterdam", "night", "http://10.0.0.1:80", "anna"};
     Preferences written = chosen;
     written.timeZone = "UTC";
     written.chartParts = {{"names", false}, {"daylight", true}};
     std::string error;
-    ASSERT_TRUE(written.Write(folder.Path("p.json"), error)) << error;
-    EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages), written);
-    EXPECT_FALSE(std::filesystem::exists(folder.Path("p.json.new")));
+    ASSERT_TRUE(written.Write(folder.File("p.json"), error)) << error;
+    EXPECT_EQ(Preferences::Read(folder.File("p.json"), kLanguages), written);
+    EXPECT_FALSE(std::filesystem::exists(folder.File("p.json.new")));
 }
 
 TEST(Preferences, WrongValuesGiveWayToTheUsualOnes) {
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     folder.Write("p.json", R"({"language":"xx","timeZone":"Middle/Earth","theme":3,"server":"ftp"})");
-    const Preferences read = Preferences::Read(folder.Path("p.json"), kLanguages);
+    const Preferences read = Preferences::Read(folder.File("p.json"), kLanguages);
     EXPECT_EQ(read.language, "en-US");
     EXPECT_EQ(read.timeZone, "China Standard Time");
     EXPECT_EQ(read.theme, "light");
     EXPECT_EQ(read.server, "");
     folder.Write("p.json", R"({"chart":{"names":false,"graticule":"no"}})");
     const std::map<std::string, bool> parts{{"names", false}};
-    EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages).chartParts, parts);
+    EXPECT_EQ(Preferences::Read(folder.File("p.json"), kLanguages).chartParts, parts);
     folder.Write("p.json", "{\"language\":\"zh-");
-    EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages), Preferences());
+    EXPECT_EQ(Preferences::Read(folder.File("p.json"), kLanguages), Preferences());
 }
 
 TEST(Preferences, AFailedWriteSaysWhatToDoAndKeepsTheOldFile) {
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     folder.Write("p.json", "{\"theme\":\"dark\"}");
-    std::filesystem::create_directories(folder.Path("p.json.new/x"));
+    std::filesystem::create_directories(folder.File("p.json.new/x"));
     std::string error;
-    EXPECT_FALSE(Preferences().Write(folder.Path("p.json"), error));
+    EXPECT_FALSE(Preferences().Write(folder.File("p.json"), error));
     EXPECT_NE(error.find("p.json"), std::string::npos);
-    EXPECT_EQ(Preferences::Read(folder.Path("p.json"), kLanguages).theme, "dark");
+    EXPECT_EQ(Preferences::Read(folder.File("p.json"), kLanguages).theme, "dark");
 }
 
 }  // namespace

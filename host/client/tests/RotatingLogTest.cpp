@@ -4,7 +4,7 @@
 #include <tarvik/util/Clock.h>
 
 #include "host/client/services/RotatingLog.h"
-#include "host/client/tests/TemporaryFolder.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -19,18 +19,18 @@ class FixedClock : public Util::Clock {
 
 TEST(RotatingLog, StampsLinesInUtc) {
     const FixedClock clock;
-    TemporaryFolder folder;
-    RotatingLog(folder.Path("l"), 1000, false).Write("hello");
+    TestSupport::TemporaryFolder folder;
+    RotatingLog(folder.File("l"), 1000, false).Write("hello");
     EXPECT_EQ(folder.Read("l"), "1970-01-01 00:00:00Z hello\n");
 }
 
 TEST(RotatingLog, RenamesAFullFileAndGoesOn) {
     const FixedClock clock;
-    TemporaryFolder folder;
-    RotatingLog log(folder.Path("l"), 60, false);
+    TestSupport::TemporaryFolder folder;
+    RotatingLog log(folder.File("l"), 60, false);
     log.Write("one");
     log.Write("two");
-    EXPECT_FALSE(std::filesystem::exists(folder.Path("l.1")));
+    EXPECT_FALSE(std::filesystem::exists(folder.File("l.1")));
     log.Write("three");
     EXPECT_EQ(folder.Read("l"), "1970-01-01 00:00:00Z three\n");
     EXPECT_EQ(folder.Read("l.1"), "1970-01-01 00:00:00Z one\n1970-01-01 00:00:00Z two\n");
@@ -38,17 +38,17 @@ TEST(RotatingLog, RenamesAFullFileAndGoesOn) {
 
 TEST(RotatingLog, RepeatsLinesOnStandardErrorWhenVerbose) {
     const FixedClock clock;
-    TemporaryFolder folder;
+    TestSupport::TemporaryFolder folder;
     testing::internal::CaptureStderr();
-    RotatingLog(folder.Path("l"), 1000, true).Write("loud");
-    RotatingLog(folder.Path("l"), 1000, false).Write("quiet");
+    RotatingLog(folder.File("l"), 1000, true).Write("loud");
+    RotatingLog(folder.File("l"), 1000, false).Write("quiet");
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "1970-01-01 00:00:00Z loud\n");
 }
 
 TEST(RotatingLog, IsSilentWhereItCannotWrite) {
-    TemporaryFolder folder;
-    RotatingLog(folder.Path("no/such/folder/l"), 1000, false).Write("lost");
-    EXPECT_FALSE(std::filesystem::exists(folder.Path("no")));
+    TestSupport::TemporaryFolder folder;
+    RotatingLog(folder.File("no/such/folder/l"), 1000, false).Write("lost");
+    EXPECT_FALSE(std::filesystem::exists(folder.File("no")));
 }
 
 }  // namespace

@@ -15,7 +15,7 @@
 #include <tarvik/interface/SiblingRecords.h>
 
 #include "host/client/shell/MainWindow.h"
-#include "host/client/tests/TemporaryFolder.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 
@@ -34,7 +34,7 @@ class Panel : public QWidget {
 class ShellTest : public testing::Test {
   protected:
     ShellTest() {
-        options_.dataFolder = folder_.Path("data");
+        options_.dataFolder = folder_.File("data");
         session_ = ClientSession::Open(options_, error_);
     }
     void SetUp() override { ASSERT_NE(session_, nullptr) << error_; }
@@ -42,7 +42,7 @@ class ShellTest : public testing::Test {
         return window.findChild<QLabel*>(label)->text();
     }
 
-    TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
     SessionOptions options_;
     std::string error_;
     std::unique_ptr<ClientSession> session_;
@@ -184,7 +184,7 @@ TEST_F(ShellTest, TheSecondWindowOnOneFolderSaysThatItIsOpen) {
     EXPECT_TRUE(session_->IsAlone());
     options_.alone = true;
     EXPECT_EQ(ClientSession::Open(options_, error_), nullptr);
-    EXPECT_EQ(error_, "Seaplan is open already with the data folder " + folder_.Path("data") +
+    EXPECT_EQ(error_, "Seaplan is open already with the data folder " + folder_.File("data") +
                           ". Use its window, or name another folder with --data DIR.");
     session_.reset();
     EXPECT_NE(ClientSession::Open(options_, error_), nullptr)

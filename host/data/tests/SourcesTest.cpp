@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 
 #include <gmock/gmock.h>
 
 #include "host/data/builder/Sources.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Data {
 
@@ -18,8 +17,6 @@ using ::testing::StartsWith;
 class SourcesTest : public ::testing::Test {
   protected:
     SourcesTest() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "sources-XXXXXX").string();
-        folder_ = mkdtemp(pattern.data());
         Write("route_points.csv",
               "id,name,namecn,lon,lat,kind,shut,gate,groups,cost\n"
               "101,Canal,运河,1,2,canal,1,0 2;2 2,One;Two,30\n");
@@ -37,13 +34,8 @@ class SourcesTest : public ::testing::Test {
                   "BBFFF":{"name":"Nowhere","country":"Bb"},
                   "BBGGG":{"name":"Old (ex Older)","country":"Bb","coordinates":[31,4]}})json");
     }
-    ~SourcesTest() override { std::filesystem::remove_all(folder_); }
-    void Write(const std::string& name, const std::string& text) const {
-        std::ofstream(folder_ / name) << text;
-    }
-    std::optional<Sources> Read() {
-        return ReadSources(folder_.string(), (folder_ / "ports.json").string(), error_);
-    }
+    void Write(const std::string& name, const std::string& text) const { folder_.Write(name, text); }
+    std::optional<Sources> Read() { return ReadSources(folder_.Path(), folder_.File("ports.json"), error_); }
     const PortSource& Port(const Sources& sources, const std::string& code) const {
         for (const PortSource& p : sources.ports) {
             if (p.unlocode == code) {
@@ -53,7 +45,7 @@ class SourcesTest : public ::testing::Test {
         ADD_FAILURE() << "no port " << code;
         return sources.ports.front();
     }
-    std::filesystem::path folder_;
+    TestSupport::TemporaryFolder folder_;
     std::string error_;
 };
 
@@ -153,7 +145,7 @@ TEST_F(SourcesTest, SaysWhichFileIsWrongAndWhy) {
           "id,name,namecn,lon,lat,kind,shut,gate,groups\n101,Canal,,1,x,canal,0,0 2;2 2,\n");
     EXPECT_FALSE(Read());
     EXPECT_EQ(error_, "route_points.csv: \"x\" is no number");
-    std::filesystem::remove(folder_ / "route_points.csv");
+    std::filesystem::remove(folder_.File("route_points.csv"));
     EXPECT_FALSE(Read());
     EXPECT_THAT(error_, StartsWith("route_points.csv: cannot open "));
 }

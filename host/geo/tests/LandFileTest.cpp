@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <cstdlib>
 #include <filesystem>
 
 #include <gmock/gmock.h>
 
 #include "host/geo/LandFile.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Data {
 
@@ -80,9 +80,8 @@ TEST(LandFile, RefusesAForeignFileAndImpossiblePlaces) {
 }
 
 TEST(LandFile, AMissingOrCutFileIsNamedWithWhatToDo) {
-    std::string pattern = (std::filesystem::temp_directory_path() / "land-file-XXXXXX").string();
-    const std::filesystem::path folder = mkdtemp(pattern.data());
-    const std::string path = (folder / "land.bin").string();
+    const TestSupport::TemporaryFolder folder;
+    const std::string path = folder.File("land.bin");
     std::string error;
     EXPECT_FALSE(LandFile::Load(path, error));
     EXPECT_EQ(error, "cannot open the land file " + path + ". Build or install the client again.");
@@ -92,7 +91,6 @@ TEST(LandFile, AMissingOrCutFileIsNamedWithWhatToDo) {
     EXPECT_FALSE(LandFile::Load(path, error));
     EXPECT_EQ(error, "the land file is cut or has grown: " + path + ". Build or install the client again.");
     EXPECT_EQ(Sample().Save(path + "/x"), "cannot write " + path + "/x");
-    std::filesystem::remove_all(folder);
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 
 #include <gmock/gmock.h>
 
 #include "host/geo/ByteWriter.h"
 #include "host/server/graph/SeaNetworkFile.h"
 #include "host/server/graph/tests/SmallSea.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Server {
 
@@ -128,14 +127,8 @@ TEST(SeaNetworkFile, RefusesReferencesToWhatIsNotThere) {
 
 class SeaNetworkFileOnDisk : public ::testing::Test {
   protected:
-    SeaNetworkFileOnDisk() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "sea-network-XXXXXX").string();
-        folder_ = mkdtemp(pattern.data());
-        path_ = (folder_ / "network.bin").string();
-    }
-    ~SeaNetworkFileOnDisk() override { std::filesystem::remove_all(folder_); }
-    std::filesystem::path folder_;
-    std::string path_;
+    TestSupport::TemporaryFolder folder_;
+    const std::string path_ = folder_.File("network.bin");
 };
 
 TEST_F(SeaNetworkFileOnDisk, IsLoadedAsANetwork) {

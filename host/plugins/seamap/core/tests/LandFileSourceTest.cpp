@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <filesystem>
 #include <fstream>
 
 #include <gtest/gtest.h>
 
 #include "host/geo/LandFile.h"
 #include "host/plugins/seamap/core/LandSource.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Seamap {
 
@@ -13,14 +13,8 @@ namespace {
 
 class LandFileSourceTest : public ::testing::Test {
   protected:
-    LandFileSourceTest() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "seamap-land-XXXXXX").string();
-        folder_ = mkdtemp(pattern.data());
-        path_ = (folder_ / "land.bin").string();
-    }
-    ~LandFileSourceTest() override { std::filesystem::remove_all(folder_); }
-    std::filesystem::path folder_;
-    std::string path_;
+    TestSupport::TemporaryFolder folder_;
+    const std::string path_ = folder_.File("land.bin");
 };
 
 TEST_F(LandFileSourceTest, ReadsEveryLevelWithItsCellsAndCoasts) {

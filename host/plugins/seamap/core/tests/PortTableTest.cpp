@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <filesystem>
-
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
 #include "host/plugins/seamap/core/PortTable.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Seamap {
 
@@ -12,12 +11,6 @@ namespace {
 
 class PortTableTest : public ::testing::Test {
   protected:
-    PortTableTest() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "seamap-ports-XXXXXX").string();
-        folder_ = mkdtemp(pattern.data());
-        path_ = (folder_ / "trvdb.db").string();
-    }
-    ~PortTableTest() override { std::filesystem::remove_all(folder_); }
     void Fill() const {
         sqlite3* database = nullptr;
         ASSERT_EQ(sqlite3_open(path_.c_str(), &database), SQLITE_OK);
@@ -30,8 +23,8 @@ class PortTableTest : public ::testing::Test {
                   SQLITE_OK);
         sqlite3_close(database);
     }
-    std::filesystem::path folder_;
-    std::string path_;
+    TestSupport::TemporaryFolder folder_;
+    const std::string path_ = folder_.File("ports.db");
 };
 
 TEST_F(PortTableTest, FindsPortsAndRoutePointsById) {
