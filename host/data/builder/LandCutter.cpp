@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+// Land as the chart paints it: polygons cut into cells of few points. A polygon with its holes becomes one
+// ring over slits, laid open at the date line, and is halved across its longer side until it is small, each
+// half by the method of Sutherland and Hodgman (1974). What runs along a cut is slimmed away, or a ragged
+// coast would never get small. Cost: points times the logarithm of points over those of a cell.
 #include <algorithm>
 #include <cmath>
 

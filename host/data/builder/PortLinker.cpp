@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+// Where a port's ships get onto the network. Rings of 16 directions around the port, every half mile and then
+// every mile, are tried for a place on the water, and judged by how many of the 40 nearest nodes it sees,
+// less three for each mile: a dock sees little, the roads before it all round. Once water is found only three
+// miles more are looked at. Own method. Cost: for each port a distance to every sea node, and up to 40 looks
+// at the land for each place tried.
 #include "host/data/builder/PortLinker.h"
 
 #include <algorithm>

@@ -1,4 +1,10 @@
 // SPDX-License-Identifier: MIT
+// Which pairs of nodes are joined: the greedy spanner (Althoefer et al. 1993). All pairs in reach, shortest
+// first; a pair that the edges chosen so far join at most 1 % longer is left out. Before that go the pairs
+// that no shortest way needs, as they point into a cape's own land (the tangents of a visibility graph).
+// Whether a detour is there is asked first of two edges, then by A* that gives up at the limit. Cost: the
+// square of the nodes in dot products for the pairs, their sorting, and for each pair a look at the land and
+// a search of a few nodes.
 #include "host/data/builder/SpannerEdges.h"
 
 #include <algorithm>

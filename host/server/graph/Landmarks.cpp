@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Dijkstra's search with slices of the distance in place of a heap: what a slice holds is taken in any order,
-// and again when it got nearer, which costs less than keeping all of it in order.
+// Lower bounds of ways by the triangle inequality: a way from a to b is no shorter than the difference of
+// their distances from a landmark (Goldberg and Harrelson 2005). The landmarks are taken farthest first, each
+// as far as can be from those before it. Their distances come from Dijkstra's search with slices of the
+// distance in place of a heap (buckets as of Dial 1969, wider than one step as in the delta stepping of Meyer
+// and Sanders 2003): what a slice holds is taken in any order, and again when it got nearer, which costs less
+// than keeping all of it in order. Cost: one search of the whole network and 4 bytes a node for each
+// landmark; a bound reads two rows of them.
 #include "host/server/graph/Landmarks.h"
 
 #include <algorithm>

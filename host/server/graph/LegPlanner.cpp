@@ -1,4 +1,10 @@
 // SPDX-License-Identifier: MIT
+// The way between two stops under choices of passages, and which other passages it could take. A choice is a
+// node that the way has to pass, so that the way falls into searches between fixed nodes (PathSearch), with
+// the gates of the other passages shut as a mask of bits. An alternative is offered where the ways from it to
+// both ends, which are reckoned ahead for ports and searched for other places, do not leave it to the same
+// side and make the way at most twice as long. Own method. Cost: one search between each two fixed nodes, and
+// for each passage of the groups on the way a reading of the table, or a search for an end that is no port.
 #include "host/server/graph/LegPlanner.h"
 
 #include <algorithm>

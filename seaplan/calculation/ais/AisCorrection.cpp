@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+// The ship's last real position in the plan. The book is cut at its ports, and the leg under way at the time
+// of the fix is built anew: rows left before the fix, the fix with the speed that was really made, the
+// server's way to the next port, the port. A new plan keeps the book up to the row at the fix and puts the
+// new course behind it. The rules are the plan's own, those of the required operations. Cost: one pass over
+// the book's rows, and one look-up of a port for each port ahead.
 #include "seaplan/calculation/ais/AisCorrection.h"
 
 #include <map>

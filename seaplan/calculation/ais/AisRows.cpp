@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+// A corrected book as rows of the port call table: leg by leg miles and hours are summed over the book's
+// rows, and a row of the table ends each sum at a port or at a position of the ship; its speed is miles by
+// hours. The same sums up to a moment and behind it give the real speeds around it. Cost: one pass over the
+// book's rows with a distance for each.
 #include "seaplan/calculation/ais/AisRows.h"
 
 #include <algorithm>

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+// What of lines and areas is seen in the window: lines cut at the widened window segment by segment (Liang
+// and Barsky 1984), areas side by side (Sutherland and Hodgman 1974). Points nearer than the detail to the
+// last one kept are left out on the way, the length of what was left out still counts, so that dashes and
+// marks stay where they are when the view moves. Cost: one pass over the points of a line, four over those of
+// an area.
 #include "host/plugins/seamap/core/PolylineClip.h"
 
 #include <cmath>
