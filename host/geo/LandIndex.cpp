@@ -1,46 +1,24 @@
 // SPDX-License-Identifier: MIT
+// Making the index of the coast: a grid of cells of a quarter degree, each with the numbers of the pieces
+// that touch it, in one table of all cells (counted first, then filled). A second table lists the pieces
+// within the widest margin of a cell. Own data layout of the usual uniform grid. Cost: two passes over the
+// cells of each piece, memory of a number for each of them and one for each cell. The answers are in
+// LandQueries.cpp.
 #include "host/geo/LandIndex.h"
 
 #include <algorithm>
 #include <cmath>
 
+#include "host/geo/LandGrid.h"
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {
 
 namespace {
 
-using Grid = DegreeGrid<4>;
-
-std::size_t CellOf(int column, int row) {
-    return static_cast<std::size_t>(row) * Grid::kColumns + static_cast<std::size_t>(column);
-}
-
-template <class Segment>
-double Side(const Segment& line, double px, double py) {
-    return (line.x2 - line.x1) * (py - line.y1) - (line.y2 - line.y1) * (px - line.x1);
-}
-
 /// Column of a longitude; those past ±180 run on.
 int ColumnAt(double x) {
-    return static_cast<int>(std::floor((x + 180.0) * Grid::kCellsPerDegree));
-}
-
-/// Distance in NM of a place from a piece, in the plane at the place.
-template <class Segment>
-double Off(const Segment& s, double px, double py, double shrink) {
-    const double ux = (s.x2 - s.x1) * shrink;
-    const double uy = s.y2 - s.y1;
-    const double wx = (px - s.x1) * shrink;
-    const double wy = py - s.y1;
-    const double square = ux * ux + uy * uy;
-    const double t = square == 0.0 ? 0.0 : std::clamp((ux * wx + uy * wy) / square, 0.0, 1.0);
-    return std::hypot(wx - t * ux, wy - t * uy) * kNmPerDegree;
-}
-
-double CrossingAt180(GeoPoint a, GeoPoint b, double border) {
-    const double t = (border - a.x) / (b.x - a.x);
-    return a.y + t * (b.y - a.y);
+    return static_cast<int>(std::floor((x + 180.0) * LandGrid::kCellsPerDegree));
 }
 
 }  // namespace
@@ -49,7 +27,7 @@ double CrossingAt180(GeoPoint a, GeoPoint b, double border) {
 template <typename VisitAll>
 LandIndex::CellTable LandIndex::TableOf(std::size_t count, VisitAll visitAll) {
     CellTable table;
-    table.start.assign(static_cast<std::size_t>(Grid::kColumns) * Grid::kRows + 1, 0);
+    table.start.assign(static_cast<std::size_t>(LandGrid::kColumns) * LandGrid::kRows + 1, 0);
     for (std::uint32_t i = 0; i < count; ++i) {
         visitAll(i, [&](int column, int row) { ++table.start[CellOf(column, row) + 1]; });
     }
@@ -102,33 +80,6 @@ void LandIndex::AddSegment(GeoPoint a, GeoPoint b) {
     AddSegment({-border, y}, b);
 }
 
-template <typename Visit>
-void LandIndex::VisitCells(const Segment& s, Visit visit) const {
-    const int rowFirst = Grid::RowOf(std::min(s.y1, s.y2));
-    const int rowLast = Grid::RowOf(std::max(s.y1, s.y2));
-    const double slope = s.y2 == s.y1 ? 0.0 : (s.x2 - s.x1) / (s.y2 - s.y1);
-    for (int row = rowFirst; row <= rowLast; ++row) {
-        double left = std::min(s.x1, s.x2);
-        double right = std::max(s.x1, s.x2);
-        if (rowFirst != rowLast) {
-            const double bottom = static_cast<double>(row) / Grid::kCellsPerDegree - 90.0;
-            const double top = bottom + 1.0 / Grid::kCellsPerDegree;
-            const double xa =
-                s.x1 + (std::clamp(bottom, std::min(s.y1, s.y2), std::max(s.y1, s.y2)) - s.y1) * slope;
-            const double xb =
-                s.x1 + (std::clamp(top, std::min(s.y1, s.y2), std::max(s.y1, s.y2)) - s.y1) * slope;
-            left = std::min(xa, xb);
-            right = std::max(xa, xb);
-        }
-        const int columnLast = Grid::ColumnOf(right + 1e-9);
-        for (int column = Grid::ColumnOf(left - 1e-9); column <= columnLast; ++column) {
-            if (visit(column, row)) {
-                return;
-            }
-        }
-    }
-}
-
 void LandIndex::FillCells() {
     cells_ = TableOf(segments_.size(), [this](std::uint32_t i, const auto& visit) {
         VisitCells(segments_[i], [&](int column, int row) {
@@ -147,151 +98,12 @@ void LandIndex::FillNearCells() {
         const double wide =
             kRise / std::max(0.05, std::cos(std::max(std::abs(north), std::abs(south)) * kDegree));
         const int last = ColumnAt(std::max(s.x1, s.x2) + wide);
-        for (int row = Grid::RowOf(south); row <= Grid::RowOf(north); ++row) {
+        for (int row = LandGrid::RowOf(south); row <= LandGrid::RowOf(north); ++row) {
             for (int column = ColumnAt(std::min(s.x1, s.x2) - wide); column <= last; ++column) {
-                visit((column + Grid::kColumns) % Grid::kColumns, row);
+                visit((column + LandGrid::kColumns) % LandGrid::kColumns, row);
             }
         }
     });
-}
-
-bool LandIndex::CellBlocks(int column, int row, const Segment& s) const {
-    const std::size_t cell = CellOf(column, row);
-    for (std::uint32_t k = cells_.start[cell]; k < cells_.start[cell + 1]; ++k) {
-        const Segment& o = segments_[cells_.items[k]];
-        if (std::max(o.x1, o.x2) < std::min(s.x1, s.x2) || std::min(o.x1, o.x2) > std::max(s.x1, s.x2)) {
-            continue;
-        }
-        if (std::max(o.y1, o.y2) < std::min(s.y1, s.y2) || std::min(o.y1, o.y2) > std::max(s.y1, s.y2)) {
-            continue;
-        }
-        const double d1 = Side(s, o.x1, o.y1);
-        const double d2 = Side(s, o.x2, o.y2);
-        const double d3 = Side(o, s.x1, s.y1);
-        const double d4 = Side(o, s.x2, s.y2);
-        if (d1 * d2 <= 0.0 && d3 * d4 <= 0.0) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool LandIndex::CellGrazes(int column, int row, const Segment& s, double nm) const {
-    const std::size_t cell = CellOf(column, row);
-    const double shrink = std::cos(0.5 * (s.y1 + s.y2) * kDegree);
-    const double rise = nm / kNmPerDegree;
-    const double north = std::max(s.y1, s.y2) + rise;
-    const double south = std::min(s.y1, s.y2) - rise;
-    for (std::uint32_t k = near_.start[cell]; k < near_.start[cell + 1]; ++k) {
-        Segment o = segments_[near_.items[k]];
-        if (std::min(o.y1, o.y2) > north || std::max(o.y1, o.y2) < south) {
-            continue;
-        }
-        const double shift = 360.0 * std::round((s.x1 - o.x1) / 360.0);
-        o.x1 += shift;
-        o.x2 += shift;
-        const double wide = rise / shrink;
-        if (std::min(o.x1, o.x2) > std::max(s.x1, s.x2) + wide ||
-            std::max(o.x1, o.x2) < std::min(s.x1, s.x2) - wide) {
-            continue;
-        }
-        if (Off(s, o.x1, o.y1, shrink) < nm || Off(o, s.x1, s.y1, shrink) < nm ||
-            Off(o, s.x2, s.y2, shrink) < nm) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool LandIndex::Walk(const Segment& s) const {
-    bool blocked = false;
-    VisitCells(s, [&](int column, int row) { return blocked = CellBlocks(column, row, s); });
-    return blocked;
-}
-
-bool LandIndex::WalkNear(const Segment& s, double nm) const {
-    bool grazes = false;
-    VisitCells(s, [&](int column, int row) { return grazes = CellGrazes(column, row, s, nm); });
-    return grazes;
-}
-
-template <typename Walker>
-bool LandIndex::OverDateLine(GeoPoint a, GeoPoint b, Walker walk) {
-    const double shift = 360.0 * std::floor((a.x + 180.0) / 360.0);
-    a.x -= shift;
-    b.x -= shift;
-    if (b.x >= -180.0 && b.x <= 180.0) {
-        return walk(Segment{a.x, a.y, b.x, b.y});
-    }
-    const double border = b.x > 180.0 ? 180.0 : -180.0;
-    const double y = CrossingAt180(a, b, border);
-    return walk(Segment{a.x, a.y, border, y}) || walk(Segment{-border, y, b.x - 2.0 * border, b.y});
-}
-
-bool LandIndex::BlocksStraight(GeoPoint a, GeoPoint b) const {
-    return !cells_.start.empty() && OverDateLine(a, b, [this](const Segment& s) { return Walk(s); });
-}
-
-bool LandIndex::Grazes(GeoPoint a, GeoPoint b, double nm, double trimNm) const {
-    const double whole = ArcNm(a, b);
-    if (cells_.start.empty() || whole <= 2.0 * trimNm) {
-        return false;
-    }
-    const std::vector<GeoPoint> points =
-        GreatCircle(Between(a, b, trimNm / whole), Between(a, b, 1.0 - trimNm / whole));
-    for (std::size_t i = 1; i < points.size(); ++i) {
-        if (OverDateLine(points[i - 1], points[i], [&](const Segment& s) { return WalkNear(s, nm); })) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool LandIndex::Blocks(GeoPoint a, GeoPoint b) const {
-    const std::vector<GeoPoint> points = GreatCircle(a, b);
-    for (std::size_t i = 1; i < points.size(); ++i) {
-        if (BlocksStraight(points[i - 1], points[i])) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool LandIndex::IsLand(GeoPoint p) const {
-    if (cells_.start.empty()) {
-        return false;
-    }
-    p.x = WrapLongitude(p.x);
-    const int column = Grid::ColumnOf(p.x);
-    bool inside = false;
-    for (int row = Grid::RowOf(p.y); row < Grid::kRows; ++row) {
-        const std::size_t cell = CellOf(column, row);
-        for (std::uint32_t k = cells_.start[cell]; k < cells_.start[cell + 1]; ++k) {
-            if (cells_.items[k] >= landSegments_) {
-                continue;
-            }
-            const Segment& o = segments_[cells_.items[k]];
-            if ((o.x1 <= p.x) == (o.x2 <= p.x)) {
-                continue;
-            }
-            const double y = o.y1 + (p.x - o.x1) / (o.x2 - o.x1) * (o.y2 - o.y1);
-            if (y > p.y && Grid::RowOf(y) == row) {
-                inside = !inside;
-            }
-        }
-    }
-    return inside;
-}
-
-bool LandIndex::IsClear(GeoPoint p, double nm) const {
-    for (int i = 0; i < 12; ++i) {
-        GeoPoint end = Destination(p, i * 30.0, nm);
-        end.x += 360.0 * std::round((p.x - end.x) / 360.0);
-        if (BlocksStraight(p, end)) {
-            return false;
-        }
-    }
-    return true;
 }
 
 }  // namespace Tarvik::Server

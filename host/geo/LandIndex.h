@@ -65,8 +65,6 @@ class LandIndex {
     /// Calls `walk` with the piece, in two where it crosses the date line, until it says true.
     template <typename Walker>
     static bool OverDateLine(GeoPoint a, GeoPoint b, Walker walk);
-    template <typename Visit>
-    void VisitCells(const Segment& s, Visit visit) const;
 
     std::vector<Segment> segments_;
     std::size_t landSegments_ = 0;  ///< the areas' come behind

@@ -6,7 +6,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMessageBox>
 #include <QShortcut>
 #include <QStatusBar>
 #include <algorithm>
@@ -21,8 +20,6 @@
 
 #include "host/client/shell/HelpWindow.h"
 #include "host/client/shell/LoginDialog.h"
-#include "host/client/shell/PreferencesDialog.h"
-#include "host/client/shell/Theme.h"
 
 namespace Tarvik::Client {
 
@@ -116,13 +113,6 @@ std::optional<Credentials> MainWindow::AskLogin(const std::string& server, const
     return Credentials{dialog.User().toStdString(), dialog.Password().toStdString()};
 }
 
-void MainWindow::ApplyTheme() {
-    const Skin::Theme theme = Skin::ThemeNamed(session_.Preferred().theme);
-    Client::ApplyTheme(theme);
-    tools_.ApplyIcons();
-    ChartCommand("theme " + std::string(Skin::ThemeName(theme)));
-}
-
 void MainWindow::AttachPlugins() {
     tools_.Action("DISTANCES")->setVisible(Interface::IsOffered(Interface::Bus::AddPortName));
     tools_.Action("SHIPS")->setVisible(Interface::IsOffered(Interface::Bus::ShowShips));
@@ -159,44 +149,6 @@ void MainWindow::TogglePanel(int panel) {
 
 bool MainWindow::ChartCommand(const std::string& command) {
     return chart_.Command(command);
-}
-
-void MainWindow::Prefer(const Preferences& preferences) {
-    // What is not saved yet belongs to the server that it was begun at, and its times to the zone.
-    const Preferences& now = session_.Preferred();
-    const bool moves = preferences.server != now.server || preferences.timeZone != now.timeZone;
-    if (moves && !ClosePanels()) {
-        return;
-    }
-    std::string error;
-    const bool kept = session_.Prefer(preferences, error);
-    ApplyTexts();
-    ApplyTheme();
-    if (!kept) {
-        QMessageBox::warning(this, Word("TITLE"), QString::fromStdString(error));
-    }
-}
-
-void MainWindow::NextTheme() {
-    Preferences preferences = session_.Preferred();
-    preferences.theme = Skin::ThemeName(Skin::NextTheme(Skin::ThemeNamed(preferences.theme)));
-    Prefer(preferences);
-}
-
-void MainWindow::NextLanguage() {
-    Preferences preferences = session_.Preferred();
-    if (const Language* next = session_.Texts().Next()) {
-        preferences.language = next->code;
-        Prefer(preferences);
-    }
-}
-
-void MainWindow::OpenPreferences() {
-    PreferencesDialog dialog(this, session_.Texts(), session_.Preferred());
-    if (dialog.exec() == QDialog::Accepted) {
-        Prefer(dialog.Chosen());
-        dialog.TakePages();
-    }
 }
 
 void MainWindow::ToggleShips() {

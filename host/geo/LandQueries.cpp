@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+// What the index of the coast answers. A way meets the coast where a piece of it and a piece of the coast
+// have their ends on different sides of each other; only pieces in the cells that the way passes are looked
+// at. A place lies on land when a line from it to the north crosses the coast an odd number of times (the
+// even-odd rule, Shimrat 1962). How near a way comes is reckoned in the plane at the place. Cost: a way the
+// cells that it passes with the few pieces in each, a place the cells to its north.
+#include <algorithm>
+#include <cmath>
+
+#include "host/geo/LandGrid.h"
+#include "host/geo/LandIndex.h"
+#include "host/geo/Sphere.h"
+
+namespace Tarvik::Server {
+
+namespace {
+
+template <class Segment>
+double Side(const Segment& line, double px, double py) {
+    return (line.x2 - line.x1) * (py - line.y1) - (line.y2 - line.y1) * (px - line.x1);
+}
+
+/// Distance in NM of a place from a piece, in the plane at the place.
+template <class Segment>
+double Off(const Segment& s, double px, double py, double shrink) {
+    const double ux = (s.x2 - s.x1) * shrink;
+    const double uy = s.y2 - s.y1;
+    const double wx = (px - s.x1) * shrink;
+    const double wy = py - s.y1;
+    const double square = ux * ux + uy * uy;
+    const double t = square == 0.0 ? 0.0 : std::clamp((ux * wx + uy * wy) / square, 0.0, 1.0);
+    return std::hypot(wx - t * ux, wy - t * uy) * kNmPerDegree;
+}
+
+}  // namespace
+
+bool LandIndex::CellBlocks(int column, int row, const Segment& s) const {
+    const std::size_t cell = CellOf(column, row);
+    for (std::uint32_t k = cells_.start[cell]; k < cells_.start[cell + 1]; ++k) {
+        const Segment& o = segments_[cells_.items[k]];
+        if (std::max(o.x1, o.x2) < std::min(s.x1, s.x2) || std::min(o.x1, o.x2) > std::max(s.x1, s.x2)) {
+            continue;
+        }
+        if (std::max(o.y1, o.y2) < std::min(s.y1, s.y2) || std::min(o.y1, o.y2) > std::max(s.y1, s.y2)) {
+            continue;
+        }
+        const double d1 = Side(s, o.x1, o.y1);
+        const double d2 = Side(s, o.x2, o.y2);
+        const double d3 = Side(o, s.x1, s.y1);
+        const double d4 = Side(o, s.x2, s.y2);
+        if (d1 * d2 <= 0.0 && d3 * d4 <= 0.0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool LandIndex::CellGrazes(int column, int row, const Segment& s, double nm) const {
+    const std::size_t cell = CellOf(column, row);
+    const double shrink = std::cos(0.5 * (s.y1 + s.y2) * kDegree);
+    const double rise = nm / kNmPerDegree;
+    const double north = std::max(s.y1, s.y2) + rise;
+    const double south = std::min(s.y1, s.y2) - rise;
+    for (std::uint32_t k = near_.start[cell]; k < near_.start[cell + 1]; ++k) {
+        Segment o = segments_[near_.items[k]];
+        if (std::min(o.y1, o.y2) > north || std::max(o.y1, o.y2) < south) {
+            continue;
+        }
+        const double shift = 360.0 * std::round((s.x1 - o.x1) / 360.0);
+        o.x1 += shift;
+        o.x2 += shift;
+        const double wide = rise / shrink;
+        if (std::min(o.x1, o.x2) > std::max(s.x1, s.x2) + wide ||
+            std::max(o.x1, o.x2) < std::min(s.x1, s.x2) - wide) {
+            continue;
+        }
+        if (Off(s, o.x1, o.y1, shrink) < nm || Off(o, s.x1, s.y1, shrink) < nm ||
+            Off(o, s.x2, s.y2, shrink) < nm) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool LandIndex::Walk(const Segment& s) const {
+    bool blocked = false;
+    VisitCells(s, [&](int column, int row) { return blocked = CellBlocks(column, row, s); });
+    return blocked;
+}
+
+bool LandIndex::WalkNear(const Segment& s, double nm) const {
+    bool grazes = false;
+    VisitCells(s, [&](int column, int row) { return grazes = CellGrazes(column, row, s, nm); });
+    return grazes;
+}
+
+template <typename Walker>
+bool LandIndex::OverDateLine(GeoPoint a, GeoPoint b, Walker walk) {
+    const double shift = 360.0 * std::floor((a.x + 180.0) / 360.0);
+    a.x -= shift;
+    b.x -= shift;
+    if (b.x >= -180.0 && b.x <= 180.0) {
+        return walk(Segment{a.x, a.y, b.x, b.y});
+    }
+    const double border = b.x > 180.0 ? 180.0 : -180.0;
+    const double y = CrossingAt180(a, b, border);
+    return walk(Segment{a.x, a.y, border, y}) || walk(Segment{-border, y, b.x - 2.0 * border, b.y});
+}
+
+bool LandIndex::BlocksStraight(GeoPoint a, GeoPoint b) const {
+    return !cells_.start.empty() && OverDateLine(a, b, [this](const Segment& s) { return Walk(s); });
+}
+
+bool LandIndex::Grazes(GeoPoint a, GeoPoint b, double nm, double trimNm) const {
+    const double whole = ArcNm(a, b);
+    if (cells_.start.empty() || whole <= 2.0 * trimNm) {
+        return false;
+    }
+    const std::vector<GeoPoint> points =
+        GreatCircle(Between(a, b, trimNm / whole), Between(a, b, 1.0 - trimNm / whole));
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (OverDateLine(points[i - 1], points[i], [&](const Segment& s) { return WalkNear(s, nm); })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool LandIndex::Blocks(GeoPoint a, GeoPoint b) const {
+    const std::vector<GeoPoint> points = GreatCircle(a, b);
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (BlocksStraight(points[i - 1], points[i])) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool LandIndex::IsLand(GeoPoint p) const {
+    if (cells_.start.empty()) {
+        return false;
+    }
+    p.x = WrapLongitude(p.x);
+    const int column = LandGrid::ColumnOf(p.x);
+    bool inside = false;
+    for (int row = LandGrid::RowOf(p.y); row < LandGrid::kRows; ++row) {
+        const std::size_t cell = CellOf(column, row);
+        for (std::uint32_t k = cells_.start[cell]; k < cells_.start[cell + 1]; ++k) {
+            if (cells_.items[k] >= landSegments_) {
+                continue;
+            }
+            const Segment& o = segments_[cells_.items[k]];
+            if ((o.x1 <= p.x) == (o.x2 <= p.x)) {
+                continue;
+            }
+            const double y = o.y1 + (p.x - o.x1) / (o.x2 - o.x1) * (o.y2 - o.y1);
+            if (y > p.y && LandGrid::RowOf(y) == row) {
+                inside = !inside;
+            }
+        }
+    }
+    return inside;
+}
+
+bool LandIndex::IsClear(GeoPoint p, double nm) const {
+    for (int i = 0; i < 12; ++i) {
+        GeoPoint end = Destination(p, i * 30.0, nm);
+        end.x += 360.0 * std::round((p.x - end.x) / 360.0);
+        if (BlocksStraight(p, end)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace Tarvik::Server
