@@ -3,13 +3,13 @@
 // ships.
 #include <QApplication>
 #include <cmath>
-#include <random>
 #include <string>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 
+#include "bench/Ships.h"
 #include "host/plugins/seamap/core/LandSource.h"
 #include "host/plugins/seamap/core/PortTable.h"
 #include "host/plugins/seamap/widget/ChartWidget.h"
@@ -42,25 +42,6 @@ void AddRoutes(ChartObjects& objects, int routes) {
     }
 }
 
-Interface::TrvMapShips Ships(int count) {
-    std::mt19937 random(1);
-    std::uniform_real_distribution<double> lon(-180, 180);
-    std::uniform_real_distribution<double> lat(-60, 70);
-    std::uniform_real_distribution<double> heading(0, 360);
-    Interface::TrvMapShips ships;
-    ships.type = "AIS";
-    for (int i = 0; i < count; ++i) {
-        Interface::TrvMapShip ship;
-        ship.id = std::to_string(i);
-        ship.x = lon(random);
-        ship.y = lat(random);
-        ship.heading = heading(random);
-        ship.colour = 0x00A000;
-        ships.ships.push_back(ship);
-    }
-    return ships;
-}
-
 std::vector<ChartName> Names() {
     PortTable ports(std::string(kShare) + "/trvdb.db");
     // The keys stand for the names: they are as long.
@@ -71,7 +52,7 @@ std::vector<ChartName> Names() {
 void Redraw(benchmark::State& state) {
     ChartObjects objects;
     AddRoutes(objects, static_cast<int>(state.range(0)));
-    objects.Ships().Set(Ships(static_cast<int>(state.range(1))));
+    objects.Ships().Set(Bench::SomeShips(static_cast<int>(state.range(1))));
     ChartWidget chart(objects);
     chart.setProperty("pictures", true);
     chart.Change([](ChartScene& scene) {

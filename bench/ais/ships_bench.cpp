@@ -4,11 +4,10 @@
 #include <QApplication>
 #include <QImage>
 #include <QPainter>
-#include <random>
-#include <string>
 
 #include <benchmark/benchmark.h>
 
+#include "bench/Ships.h"
 #include "host/plugins/seamap/core/LandSource.h"
 #include "host/plugins/seamap/widget/ChartScene.h"
 
@@ -19,15 +18,14 @@ namespace {
 constexpr int kShips = 20'000;
 constexpr QSize kFrame(1920, 1080);
 
-Interface::TrvMapShips SomeShips() {
-    std::mt19937 random(1);
-    const auto from = [&random](double first, double last) {
-        return std::uniform_real_distribution<double>(first, last)(random);
-    };
-    Interface::TrvMapShips ships{"AISFEEDTYPE", {}};
-    for (int i = 0; i < kShips; ++i) {
-        ships.ships.push_back({std::to_string(200'000'000 + i), "SAMPLE SHIP\n12.0 kn 090°", from(-180, 180),
-                               from(-60, 75), from(0, 360), i % 4 * 0x303010});
+/// As a feed brings them: with words, in four colours.
+Interface::TrvMapShips NamedShips() {
+    Interface::TrvMapShips ships = Bench::SomeShips(kShips);
+    ships.type = "AISFEEDTYPE";
+    int number = 0;
+    for (Interface::TrvMapShip& ship : ships.ships) {
+        ship.tip = "SAMPLE SHIP\n12.0 kn 090°";
+        ship.colour = number++ % 4 * 0x303010;
     }
     return ships;
 }
@@ -35,7 +33,7 @@ Interface::TrvMapShips SomeShips() {
 /// `state.range(0)` is how much of the world is seen: 1 all, 8 an eighth of its width.
 void PaintFrame(benchmark::State& state) {
     ChartObjects objects;
-    objects.Ships().Set(SomeShips());
+    objects.Ships().Set(NamedShips());
     ChartScene scene(objects);
     MercatorView view;
     view.Resize(kFrame.width(), kFrame.height());
@@ -49,7 +47,7 @@ void PaintFrame(benchmark::State& state) {
 BENCHMARK(PaintFrame)->Arg(1)->Arg(2)->Arg(8)->Unit(benchmark::kMillisecond);
 
 void SetShips(benchmark::State& state) {
-    const Interface::TrvMapShips ships = SomeShips();
+    const Interface::TrvMapShips ships = NamedShips();
     ChartShips chart;
     for (auto turn : state) {
         chart.Set(ships);
