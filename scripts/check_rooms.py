@@ -8,7 +8,8 @@
 
 Breaches: an include without an arrow, an arrow without an include, a ring of rooms or of the parts of any folder, a source
 in no room, a host/ include of seaplan/ or of another plug-in's own header, a Qt include in a room without [Qt], a room's
-CMake target that links what the arrows do not allow. Tests, benchmarks, fuzz targets and previews are free.
+CMake target that links what the arrows do not allow. Tests, benchmarks, fuzz targets and previews are free, but those
+below host/ do not include seaplan/ either.
 """
 import argparse
 import os

@@ -6,7 +6,7 @@ from collections import namedtuple
 
 from checks.sources import production, read, tracked, without_comments
 
-Graph = namedtuple("Graph", "sources includes qt_includes unresolved")
+Graph = namedtuple("Graph", "sources includes qt_includes unresolved test_includes")
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^">]+)[">]', re.M)
 # Where a quoted or <tarvik/...> include is looked for beside the including file's own folder.
 _FOLDERS = ("", "tarvik/include", "tarvik/src")
@@ -23,9 +23,10 @@ def resolve(source, header, known):
 
 
 def read_graph(root):
-    """includes, qt_includes and unresolved are sorted lists of (source, header); all sources are production."""
+    """includes, qt_includes, unresolved and test_includes are sorted lists of (source, header). All sources are production;
+    test_includes are those of the others, as far as they are files of the repository."""
     known, sources = set(tracked(root, "*.h", "*.cpp")), production(root)
-    graph = Graph(sources, [], [], [])
+    graph = Graph(sources, [], [], [], [])
     for source in sources:
         for bracket, header in INCLUDE.findall(without_comments(read(root, source))):
             if bracket == "<" and not header.startswith("tarvik/"):
@@ -37,4 +38,9 @@ def read_graph(root):
                 graph.includes.append((source, target))
             else:
                 graph.unresolved.append((source, header))
+    for source in sorted(known.difference(sources)):
+        for _, header in INCLUDE.findall(without_comments(read(root, source))):
+            target = resolve(source, header, known)
+            if target:
+                graph.test_includes.append((source, target))
     return graph

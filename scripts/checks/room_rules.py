@@ -83,6 +83,13 @@ def host_borders(graph):
             yield f"{source} includes {header}, which is private to {_plugin(header)}"
 
 
+def host_tests(graph):
+    """A host test over the plug-in belongs into the root's tests/, where both may be."""
+    for source, header in graph.test_includes:
+        if source.startswith("host/") and header.startswith("seaplan/"):
+            yield f"{source} includes {header}: a test of host and plug-in together stands in tests/"
+
+
 def qt_borders(graph, rooms):
     """The other way round, a mark that no include needs is not held against a room: Qt may come by its target."""
     for source, header in graph.qt_includes:
@@ -122,5 +129,6 @@ def breaches(graph, rooms, targets):
     yield from room_rings(graph, rooms)
     yield from rings_in_folders(graph)
     yield from host_borders(graph)
+    yield from host_tests(graph)
     yield from qt_borders(graph, rooms)
     yield from targets_and_arrows(rooms, targets)

@@ -50,6 +50,12 @@ class Rooms(unittest.TestCase):
     def test_a_legal_tree_has_no_breach_and_tests_are_free(self):
         self.assertEqual(self.breaches(), [])
 
+    def test_a_host_test_over_the_plug_in_stands_in_the_root_s_tests(self):
+        include = '#include "seaplan/data/Row.h"\n'
+        self.assertEqual(self.breaches({"tests/both/RowTest.cpp": include}), [])
+        self.assert_one(self.breaches({"host/net/tests/RowTest.cpp": include}),
+                        "host/net/tests/RowTest.cpp includes seaplan/data/Row.h", "tests/")
+
     def test_an_include_without_an_arrow(self):
         block = LIST.replace("-> tarvik\n", "\n")
         found = self.breaches(block=block)

@@ -3,7 +3,6 @@
 #include <nlohmann/json.hpp>
 
 #include "host/client/services/LanguageFiles.h"
-#include "seaplan/panels/texts/AllTexts.h"
 #include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/server/tests/BusServer.h"
+#include "tests/protocol/BusServer.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
 

@@ -7,7 +7,7 @@
 
 #include <tarvik/core/TObject.h>
 
-#include "host/server/tests/BusServer.h"
+#include "tests/protocol/BusServer.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
 #include "tarvik/src/core/BusTesting.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/tests/TempFolder.h"
-#include "host/server/tests/RoundTrip.h"
+#include "tests/protocol/RoundTrip.h"
 #include "seaplan/protocol/BookCommands.h"
 #include "seaplan/protocol/PortCallCommands.h"
 #include "seaplan/protocol/RemarkList.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/tests/RoundTrip.h"
+#include "tests/protocol/RoundTrip.h"
 #include "seaplan/protocol/PortCallCommands.h"
 
 namespace Tarvik::Server {

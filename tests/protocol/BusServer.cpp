@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/tests/BusServer.h"
+#include "tests/protocol/BusServer.h"
 
 #include <cstring>
 #include <new>
