@@ -15,7 +15,7 @@ int ExchangeStatus(TestServer& server, const std::string& token) {
 }
 
 TEST(Login, GivesATokenAndItsEndInUtc) {
-    TestServer server;
+    TestServer server([](Settings& settings) { settings.sessionHours = 12; });
     server.AddUser("anna", "correct horse");
     const RawReply reply = server.LogIn("anna", "correct horse");
     ASSERT_EQ(reply.status, 200);
