@@ -3,7 +3,10 @@
 
 #include "bench/Memory.h"
 #include "bench/Track.h"
+#include "seaplan/calculation/LegCacheText.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/VoyageStore.h"
 #include "testsupport/DataFolder.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/VoyPortCall.h"
 
-/// The columns of the port call table, told once for the panel, its window and the plan that is printed. A
+/// The columns of the port call table, by which the panel, its window and the plan that is printed go. A
 /// further column is one more entry of the table and its texts.
 namespace Tarvik::Seaplan {
 

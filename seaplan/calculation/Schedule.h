@@ -50,6 +50,7 @@ int InsertRowAt(const PortCallRows& rows, int index, const VoyPortCall& row, Por
 int RemoveRowAt(const PortCallRows& rows, int index, PortCallRows& out);
 /// -1 when the insertion, -2 when the removal fails; then `out` is empty.
 int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out);
+/// As MoveRowUp.
 int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out);
 
 /// Sums of the totals row, from row 0, in the units of the rows.

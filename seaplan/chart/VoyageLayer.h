@@ -34,6 +34,8 @@ class VoyageLayer {
     int SetExtent(const PointTexts& points);
     /// Draws a calculated route with its labels. -1 fewer than two stops; -2 to -7 by step.
     int DrawRoute(const RouteStops& stops, PortDirectory& ports);
+    /// The names of the route points that leave a choice. -1 fewer than two stops; -2 the table of points
+    /// cannot be read; -3 it does not hold one of them, and the labels before it stay.
     int DrawRoutePointLabels(const RouteStops& stops, PortDirectory& ports);
     /// Draws the rows of a position book as the remaining line. -1 fewer than two; -2, -3; -4 empty id; -5,
     /// -6.

@@ -6,7 +6,11 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/RouteFinder.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/VoyInfo.h"
+#include "seaplan/data/VoyageStore.h"
 
 /// The order of steps is the same in all three calculations: the server's route gives each row its stop and
 /// distance, the rows are timed, the route is turned into a position book, and what the book makes of speeds

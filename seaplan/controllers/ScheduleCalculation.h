@@ -4,11 +4,14 @@
 #include <cstddef>
 #include <string>
 
-#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/Outcome.h"
-#include "seaplan/data/VoyageStore.h"
+#include "seaplan/data/VoyPositionBook.h"
 
 namespace Tarvik::Seaplan {
+
+class VoyPortCallModule;
+struct VoyInfo;
+class VoyageStore;
 
 /// What fails while a schedule is calculated.
 enum class CalculationStep { Input, Route, Times, Book, Distances, Legs, Drawing };

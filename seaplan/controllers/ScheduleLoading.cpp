@@ -4,8 +4,12 @@
 #include <vector>
 
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/chart/VoyageLayer.h"
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/protocol/BookCommands.h"
 
 namespace Tarvik::Seaplan {
 

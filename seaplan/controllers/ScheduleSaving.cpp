@@ -8,7 +8,9 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/SaveAnswers.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/TimeText.h"
 

@@ -15,6 +15,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyageChanges.h"
 #include "seaplan/data/Position.h"
 #include "seaplan/data/TimeText.h"
 

@@ -2,8 +2,17 @@
 #include "seaplan/controllers/VoyCatalogController.h"
 
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/controllers/VoyageChanges.h"
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 
 namespace Tarvik::Seaplan {
+
+struct VoyCatalogController::Parts {
+    CategoryChanges categories;
+    VoyageChanges voyages;
+};
 
 namespace {
 
@@ -16,8 +25,15 @@ Outcome<SessionStep> FindUser(VoyCatalogModule& module, std::string& user) {
 
 }  // namespace
 
+VoyCatalogController::VoyCatalogController(VoyCatalogModule* module, VoyageStore* store)
+    : module_(module),
+      store_(store),
+      parts_(new Parts{CategoryChanges(module, store), VoyageChanges(module, store)}) {}
+
+VoyCatalogController::~VoyCatalogController() = default;
+
 void VoyCatalogController::SetVoyController(VoyController* controller) {
-    voyages_.SetPositionRefresh([controller] { return controller->RefreshVesselPositions(); });
+    parts_->voyages.SetPositionRefresh([controller] { return controller->RefreshVesselPositions(); });
 }
 
 int VoyCatalogController::Connect(std::string& user) {
@@ -50,43 +66,43 @@ void VoyCatalogController::ListCategories(std::vector<std::string>& names) const
 }
 
 int VoyCatalogController::AddCategory(const std::string& name, std::string& ci) {
-    return kAddCodes.Of(categories_.Add(name, ci));
+    return kAddCodes.Of(parts_->categories.Add(name, ci));
 }
 
 int VoyCatalogController::RenameCategory(const std::string& ci, const std::string& name) {
-    return kChangeCategoryCodes.Of(categories_.Rename(ci, name));
+    return kChangeCategoryCodes.Of(parts_->categories.Rename(ci, name));
 }
 
 int VoyCatalogController::DeleteCategory(const std::string& ci) {
-    return kChangeCategoryCodes.Of(categories_.SetState(ci, InRecycleBin));
+    return kChangeCategoryCodes.Of(parts_->categories.SetState(ci, InRecycleBin));
 }
 
 int VoyCatalogController::RecoverCategory(const std::string& ci) {
-    return kChangeCategoryCodes.Of(categories_.SetState(ci, InUse));
+    return kChangeCategoryCodes.Of(parts_->categories.SetState(ci, InUse));
 }
 
 int VoyCatalogController::DestroyCategory(const std::string& ci) {
-    return kChangeCategoryCodes.Of(categories_.SetState(ci, Destroyed));
+    return kChangeCategoryCodes.Of(parts_->categories.SetState(ci, Destroyed));
 }
 
 int VoyCatalogController::AddVoyage(const std::string& name, const std::string& ci, std::string& vi) {
-    return kAddCodes.Of(voyages_.Add(name, ci, vi));
+    return kAddCodes.Of(parts_->voyages.Add(name, ci, vi));
 }
 
 int VoyCatalogController::RenameVoyage(const std::string& vi, const std::string& name) {
-    return kChangeVoyageCodes.Of(voyages_.Rename(vi, name));
+    return kChangeVoyageCodes.Of(parts_->voyages.Rename(vi, name));
 }
 
 int VoyCatalogController::DeleteVoyage(const std::string& ci, const std::string& vi) {
-    return kVoyageStateCodes.Of(voyages_.SetState(ci, vi, InRecycleBin));
+    return kVoyageStateCodes.Of(parts_->voyages.SetState(ci, vi, InRecycleBin));
 }
 
 int VoyCatalogController::RecoverVoyage(const std::string& ci, const std::string& vi) {
-    return kVoyageStateCodes.Of(voyages_.SetState(ci, vi, InUse));
+    return kVoyageStateCodes.Of(parts_->voyages.SetState(ci, vi, InUse));
 }
 
 int VoyCatalogController::DestroyVoyage(const std::string& ci, const std::string& vi) {
-    return kVoyageStateCodes.Of(voyages_.SetState(ci, vi, Destroyed));
+    return kVoyageStateCodes.Of(parts_->voyages.SetState(ci, vi, Destroyed));
 }
 
 int VoyCatalogController::GetVoyageState(const std::string& vi, int& state) const {
@@ -99,31 +115,31 @@ int VoyCatalogController::GetVoyageState(const std::string& vi, int& state) cons
 
 int VoyCatalogController::ChangeVessel(const std::string& vi, const std::string& vsi, const std::string& vsn,
                                        int vsmsi) {
-    return kChangeVesselCodes.Of(voyages_.SetVessel(vi, vsi, vsn, vsmsi));
+    return kChangeVesselCodes.Of(parts_->voyages.SetVessel(vi, vsi, vsn, vsmsi));
 }
 
 int VoyCatalogController::OpenRoute(const std::string& vi) {
-    return kChangeVoyageCodes.Of(voyages_.SwitchRoute(vi, true));
+    return kChangeVoyageCodes.Of(parts_->voyages.SwitchRoute(vi, true));
 }
 
 int VoyCatalogController::CloseRoute(const std::string& vi) {
-    return kChangeVoyageCodes.Of(voyages_.SwitchRoute(vi, false));
+    return kChangeVoyageCodes.Of(parts_->voyages.SwitchRoute(vi, false));
 }
 
 int VoyCatalogController::OpenAis(const std::string& vi) {
-    return kChangeVoyageCodes.Of(voyages_.SwitchAis(vi, true));
+    return kChangeVoyageCodes.Of(parts_->voyages.SwitchAis(vi, true));
 }
 
 int VoyCatalogController::CloseAis(const std::string& vi) {
-    return kChangeVoyageCodes.Of(voyages_.SwitchAis(vi, false));
+    return kChangeVoyageCodes.Of(parts_->voyages.SwitchAis(vi, false));
 }
 
 int VoyCatalogController::AddAisModTime(const std::string& vi, const std::string& time) {
-    return kAddAisTimeCodes.Of(voyages_.AddAisTime(vi, time));
+    return kAddAisTimeCodes.Of(parts_->voyages.AddAisTime(vi, time));
 }
 
 int VoyCatalogController::GetAisModTimes(const std::string& vi, std::vector<std::string>& times) {
-    return kGetAisTimesCodes.Of(voyages_.GetAisTimes(vi, times));
+    return kGetAisTimesCodes.Of(parts_->voyages.GetAisTimes(vi, times));
 }
 
 }  // namespace Tarvik::Seaplan

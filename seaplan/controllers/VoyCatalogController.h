@@ -2,15 +2,17 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "seaplan/controllers/VoyageChanges.h"
-#include "seaplan/data/VoyageStore.h"
+#include "seaplan/data/Outcome.h"
 
 namespace Tarvik::Seaplan {
 
+class VoyCatalogModule;
 class VoyController;
+class VoyageStore;
 
 enum class SessionStep { Connection, User, Server };
 /// Numbers of Connect.
@@ -30,8 +32,8 @@ inline constexpr CodeTable kLoadCodes{
 class VoyCatalogController {
   public:
     /// Keeps its collaborators, which outlive it.
-    VoyCatalogController(VoyCatalogModule* module, VoyageStore* store)
-        : module_(module), store_(store), categories_(module, store), voyages_(module, store) {}
+    VoyCatalogController(VoyCatalogModule* module, VoyageStore* store);
+    ~VoyCatalogController();
     /// The one of the plug-in; CompositionRoot makes it.
     static VoyCatalogController* Instance();
     /// Set once by the composition root: positions are refreshed through it after a change of vessel.
@@ -97,10 +99,11 @@ class VoyCatalogController {
     int GetAisModTimes(const std::string& vi, std::vector<std::string>& times);
 
   private:
+    struct Parts;
+
     VoyCatalogModule* module_;
     VoyageStore* store_;
-    CategoryChanges categories_;
-    VoyageChanges voyages_;
+    std::unique_ptr<Parts> parts_;
     std::string user_;
 };
 

@@ -1,51 +1,86 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/VoyController.h"
 
+#include <utility>
+
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/PositionBooks.h"
+#include "seaplan/controllers/ScheduleCalculation.h"
+#include "seaplan/controllers/ScheduleLoading.h"
+#include "seaplan/controllers/ScheduleSaving.h"
+#include "seaplan/controllers/VesselWatch.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/controllers/VoyageCorrection.h"
+#include "seaplan/controllers/VoyageRecords.h"
 #include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
 
+/// The classes that do the work, a field for each task. They stand here and not in the header, as their own
+/// headers would otherwise reach everything that asks this class.
+struct VoyController::Parts {
+    Parts(VoyPortCallModule* module, VoyCatalogController* catalog, VoyageStore* store,
+          std::function<void()> tick)
+        : records(module, store),
+          loader(module, catalog, store),
+          calculator(module, store),
+          saver(module, store, loader.Chart()),
+          books(module, store, loader),
+          correction(module, store, calculator),
+          watch(catalog, store),
+          timer(std::move(tick)) {}
+
+    VoyageRecords records;
+    ScheduleLoader loader;
+    ScheduleCalculator calculator;
+    ScheduleSaver saver;
+    PositionBooks books;
+    VoyageCorrection correction;
+    VesselWatch watch;
+    ScheduleFault fault;
+    std::function<bool()> treeVisible;
+    RefreshTimer timer;
+};
+
 VoyController::VoyController(VoyPortCallModule* module, VoyCatalogController* catalog, VoyageStore* store)
-    : module_(module),
-      records_(module, store),
-      loader_(module, catalog, store),
-      calculator_(module, store),
-      saver_(module, store, loader_.Chart()),
-      books_(module, store, loader_),
-      correction_(module, store, calculator_),
-      watch_(catalog, store),
-      timer_([this] { OnTimer(); }) {}
+    : module_(module), parts_(std::make_unique<Parts>(module, catalog, store, [this] { OnTimer(); })) {}
+
+VoyController::~VoyController() = default;
 
 void VoyController::OnTimer() {
     RefreshVesselPositions();
-    if (!treeVisible_ || treeVisible_()) {
-        loader_.ShowSwitchedOn();
+    if (!parts_->treeVisible || parts_->treeVisible()) {
+        parts_->loader.ShowSwitchedOn();
     }
 }
 
 int VoyController::LoadSchedule(const std::string& vi, PortCallRows& rows, int drawMode) {
-    return kLoadScheduleCodes.Of(loader_.Load(vi, rows, DrawModeOf(drawMode)));
+    return kLoadScheduleCodes.Of(parts_->loader.Load(vi, rows, DrawModeOf(drawMode)));
 }
 
 int VoyController::DiscardPortCalls(const std::string& vi) {
-    return kDiscardCodes.Of(loader_.Discard(vi));
+    return kDiscardCodes.Of(parts_->loader.Discard(vi));
 }
 
 int VoyController::GetFigures(const std::string& vi, BunkerFigures& figures) const {
-    return kReadRecordCodes.Of(records_.GetFigures(vi, figures));
+    return kReadRecordCodes.Of(parts_->records.GetFigures(vi, figures));
 }
 
 int VoyController::SaveFigures(const std::string& vi, const BunkerFigures& figures) {
-    return kSaveFiguresCodes.Of(records_.SaveFigures(vi, figures));
+    return kSaveFiguresCodes.Of(parts_->records.SaveFigures(vi, figures));
+}
+
+std::string VoyController::NameOf(const std::string& vi) const {
+    return parts_->records.NameOf(vi);
 }
 
 int VoyController::ClearAisMod(const std::string& vi) {
-    return kReadRecordCodes.Of(records_.ClearCorrections(vi));
+    return kReadRecordCodes.Of(parts_->records.ClearCorrections(vi));
 }
 
 int VoyController::GetModAis(const std::string& vi, int& count) const {
-    return kReadRecordCodes.Of(records_.CountCorrections(vi, count));
+    return kReadRecordCodes.Of(parts_->records.CountCorrections(vi, count));
 }
 
 int VoyController::ResolvePortIds(PortCallRows& rows) const {
@@ -54,43 +89,55 @@ int VoyController::ResolvePortIds(PortCallRows& rows) const {
 }
 
 int VoyController::CalculatePortCalls(const PortCallRows& rows, PortCallRows& out) {
-    const auto calculated = calculator_.Calculate(rows, out);
-    fault_ = calculator_.Fault();
+    const auto calculated = parts_->calculator.Calculate(rows, out);
+    parts_->fault = parts_->calculator.Fault();
     return kCalculatePortCallsCodes.Of(calculated);
 }
 
 int VoyController::ScheduleCurrentRoute(const PortCallRows& rows, PortCallRows& out) {
-    const auto calculated = calculator_.FollowRoute(rows, out);
-    fault_ = calculator_.Fault();
+    const auto calculated = parts_->calculator.FollowRoute(rows, out);
+    parts_->fault = parts_->calculator.Fault();
     return kScheduleCurrentRouteCodes.Of(calculated);
 }
 
 int VoyController::CalculateForVoyage(const std::string& vi, const PortCallRows& rows, PortCallRows& out,
                                       int& hadPortCalls) {
-    const auto calculated = calculator_.CalculateFor(vi, rows, out, hadPortCalls);
-    fault_ = calculator_.Fault();
+    const auto calculated = parts_->calculator.CalculateFor(vi, rows, out, hadPortCalls);
+    parts_->fault = parts_->calculator.Fault();
     return kCalculateForVoyageCodes.Of(calculated);
 }
 
 int VoyController::CalculateKeepingLegs(const std::string& vi, const PortCallRows& rows, PortCallRows& out) {
-    const auto calculated = calculator_.CalculateKeepingLegs(vi, rows, out);
-    fault_ = calculator_.Fault();
+    const auto calculated = parts_->calculator.CalculateKeepingLegs(vi, rows, out);
+    parts_->fault = parts_->calculator.Fault();
     return kCalculateKeepingLegsCodes.Of(calculated);
 }
 
 int VoyController::SaveSchedule(const std::string& vi, const PortCallRows& rows, int drawMode) {
-    const auto saved = saver_.Save(vi, rows, DrawModeOf(drawMode).value_or(DrawMode::Nothing));
-    fault_ = saved.Failed() ? FaultOf(saved, rows) : ScheduleFault();
+    const auto saved = parts_->saver.Save(vi, rows, DrawModeOf(drawMode).value_or(DrawMode::Nothing));
+    parts_->fault = saved.Failed() ? FaultOf(saved, rows) : ScheduleFault();
     return kSaveScheduleCodes.Of(saved);
 }
 
+bool VoyController::HasRouteFor(const std::string& vi, const PortCallRows& rows) {
+    return parts_->saver.HasRouteFor(vi, rows);
+}
+
+const ScheduleFault& VoyController::LastFault() const {
+    return parts_->fault;
+}
+
+int VoyController::RouteIsCurrent() const {
+    return module_->Pending().IsCurrent();
+}
+
 int VoyController::GetPosBookData(const std::string& vi, PosBookData& out) {
-    return kGetPosBookCodes.Of(books_.Get(vi, out));
+    return kGetPosBookCodes.Of(parts_->books.Get(vi, out));
 }
 
 int VoyController::SavePositionBook(const std::string& vi, const PosBookData& book) {
-    const auto saved = books_.Save(vi, book);
-    fault_ = saved.Failed() ? FaultOf(saved) : ScheduleFault();
+    const auto saved = parts_->books.Save(vi, book);
+    parts_->fault = saved.Failed() ? FaultOf(saved) : ScheduleFault();
     return kSavePosBookCodes.Of(saved);
 }
 
@@ -118,34 +165,54 @@ int VoyController::DeleteRow(const PortCallRows& rows, int index, PortCallRows& 
     return result;
 }
 
+int VoyController::ClearChart() {
+    return parts_->loader.Chart().Clear();
+}
+
+int VoyController::RemoveVoyageObjects(const std::string& vi) {
+    return parts_->loader.Chart().Remove(vi);
+}
+
+void VoyController::StartTimer() {
+    parts_->timer.Start();
+}
+
+void VoyController::StopTimer() {
+    parts_->timer.Stop();
+}
+
+void VoyController::SetTreeVisible(std::function<bool()> visible) {
+    parts_->treeVisible = std::move(visible);
+}
+
 int VoyController::ShowVoyage(const std::string& vi) {
-    return kShowVoyageCodes.Of(loader_.Show(vi));
+    return kShowVoyageCodes.Of(parts_->loader.Show(vi));
 }
 
 int VoyController::RefreshVesselPositions() {
-    return kRefreshPositionsCodes.Of(watch_.RefreshPositions());
+    return kRefreshPositionsCodes.Of(parts_->watch.RefreshPositions());
 }
 
 int VoyController::RefreshTrace(const std::string& vi) {
-    return kRefreshTraceCodes.Of(watch_.RefreshTrace(vi));
+    return kRefreshTraceCodes.Of(parts_->watch.RefreshTrace(vi));
 }
 
 int VoyController::HideAisTrack(const std::string& vi) {
-    return kRefreshTraceCodes.Of(watch_.HideTrack(vi));
+    return kRefreshTraceCodes.Of(parts_->watch.HideTrack(vi));
 }
 
 int VoyController::ApplyAisPosition(const std::string& vi, int& applied) {
-    return kApplyAisCodes.Of(correction_.Apply(vi, applied));
+    return kApplyAisCodes.Of(parts_->correction.Apply(vi, applied));
 }
 
 int VoyController::SplitAisRows(const std::string& vi, PortCallRows& before, PortCallRows& after) const {
-    return kSplitAisCodes.Of(correction_.Split(vi, before, after));
+    return kSplitAisCodes.Of(parts_->correction.Split(vi, before, after));
 }
 
 int VoyController::ReplanFromAis(const std::string& vi, const PortCallRows& history, const PortCallRows& plan,
                                  PortCallRows& rows) {
-    const auto planned = correction_.Replan(vi, history, plan, rows);
-    fault_ = planned.Failed() ? correction_.FaultOf(planned, plan) : ScheduleFault();
+    const auto planned = parts_->correction.Replan(vi, history, plan, rows);
+    parts_->fault = planned.Failed() ? parts_->correction.FaultOf(planned, plan) : ScheduleFault();
     return kReplanCodes.Of(planned);
 }
 

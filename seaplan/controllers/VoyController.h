@@ -2,17 +2,19 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
-#include "seaplan/controllers/PositionBooks.h"
-#include "seaplan/controllers/ScheduleCalculation.h"
-#include "seaplan/controllers/ScheduleLoading.h"
-#include "seaplan/controllers/ScheduleSaving.h"
-#include "seaplan/controllers/VesselWatch.h"
-#include "seaplan/controllers/VoyageCorrection.h"
-#include "seaplan/controllers/VoyageRecords.h"
+#include "seaplan/data/VoyInfo.h"
+#include "seaplan/data/VoyPortCall.h"
 
 namespace Tarvik::Seaplan {
+
+struct PosBookData;
+struct ScheduleFault;
+class VoyCatalogController;
+class VoyPortCallModule;
+class VoyageStore;
 
 /// A voyage's schedule, its presence on the chart and its figures: the facade of the classes in this folder
 /// that do the work, where each operation is told. Results are 0 or the negative number that the table named
@@ -24,6 +26,7 @@ class VoyController {
   public:
     /// Keeps its collaborators, which outlive it.
     VoyController(VoyPortCallModule* module, VoyCatalogController* catalog, VoyageStore* store);
+    ~VoyController();
     /// The one of the plug-in; CompositionRoot makes it.
     static VoyController* Instance();
 
@@ -40,7 +43,7 @@ class VoyController {
     /// Makes a corrected voyage a plain one, in memory: kReadRecordCodes.
     int ClearAisMod(const std::string& vi);
     /// Name of a voyage, empty for an unknown one.
-    std::string NameOf(const std::string& vi) const { return records_.NameOf(vi); }
+    std::string NameOf(const std::string& vi) const;
     /// How often the voyage was corrected from AIS; `count` is left alone for the distance table, which is
     /// none: kReadRecordCodes.
     int GetModAis(const std::string& vi, int& count) const;
@@ -62,14 +65,14 @@ class VoyController {
     int SaveSchedule(const std::string& vi, const PortCallRows& rows, int drawMode);
     /// Whether SaveSchedule finds a route or a book of these rows' ports, in their order; else they are to be
     /// calculated first.
-    bool HasRouteFor(const std::string& vi, const PortCallRows& rows) { return saver_.HasRouteFor(vi, rows); }
+    bool HasRouteFor(const std::string& vi, const PortCallRows& rows);
     /// A voyage's position book by port, in km/h and UTC: kGetPosBookCodes.
     int GetPosBookData(const std::string& vi, PosBookData& out);
     /// The shaped book with its port calls to the server, then into the record, without drawing:
     /// kSavePosBookCodes.
     int SavePositionBook(const std::string& vi, const PosBookData& book);
     /// Why the last calculation or save failed.
-    const ScheduleFault& LastFault() const { return fault_; }
+    const ScheduleFault& LastFault() const;
     /// A new list. -1 when the insertion, -2 when the removal fails; then `out` is empty.
     int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out);
     /// As MoveRowUp.
@@ -77,23 +80,23 @@ class VoyController {
     /// A new list. -1 a negative index, -2 one at or beyond the size.
     int DeleteRow(const PortCallRows& rows, int index, PortCallRows& out);
     /// 1 after a schedule was loaded or saved; -1 at the start and after its rows were moved or deleted.
-    int RouteIsCurrent() const { return module_->Pending().IsCurrent(); }
+    int RouteIsCurrent() const;
 
     // Chart and vessels
     /// Takes off all that the plug-in drew. 0 or -1.
-    int ClearChart() { return loader_.Chart().Clear(); }
+    int ClearChart();
     /// Takes one voyage's lines and ship off. 0; -1 empty id.
-    int RemoveVoyageObjects(const std::string& vi) { return loader_.Chart().Remove(vi); }
+    int RemoveVoyageObjects(const std::string& vi);
     /// Draws a voyage in use with its ship: kShowVoyageCodes.
     int ShowVoyage(const std::string& vi);
     /// Every 100 seconds positions are refreshed and the voyages switched on are drawn; a second call changes
     /// nothing.
-    void StartTimer() { timer_.Start(); }
+    void StartTimer();
     /// Stops what StartTimer began.
-    void StopTimer() { timer_.Stop(); }
+    void StopTimer();
     /// The timer draws voyages only while the tree's window is visible; not told otherwise, it counts as
     /// visible, for the panel stops the timer when it hides.
-    void SetTreeVisible(std::function<bool()> visible) { treeVisible_ = std::move(visible); }
+    void SetTreeVisible(std::function<bool()> visible);
     /// Takes over newer positions of all vessels: kRefreshPositionsCodes.
     int RefreshVesselPositions();
     /// Takes over the last position of the vessel's track, if newer: kRefreshTraceCodes.
@@ -116,19 +119,12 @@ class VoyController {
     VoyPortCallModule& Module() { return *module_; }
 
   private:
+    struct Parts;
+
     void OnTimer();
 
     VoyPortCallModule* module_;
-    VoyageRecords records_;
-    ScheduleLoader loader_;
-    ScheduleCalculator calculator_;
-    ScheduleSaver saver_;
-    PositionBooks books_;
-    VoyageCorrection correction_;
-    VesselWatch watch_;
-    ScheduleFault fault_;
-    std::function<bool()> treeVisible_;
-    RefreshTimer timer_;
+    std::unique_ptr<Parts> parts_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/VoyageChart.h"
 
+#include "seaplan/chart/VoyageLayer.h"
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/VoyInfo.h"
+
 namespace Tarvik::Seaplan {
 
 std::optional<DrawMode> DrawModeOf(int number) {
@@ -27,6 +32,14 @@ Outcome<DrawStep> VoyageChart::Draw(const VoyInfo& voyage, DrawMode mode) {
         module_->Pending().NoteDrawn(voyage.vi);
     }
     return {};
+}
+
+int VoyageChart::Remove(const std::string& vi) {
+    return vi.empty() ? -1 : module_->Layer().ClearVoyageObjects(vi);
+}
+
+int VoyageChart::Clear() {
+    return module_->Layer().ClearAllObjects() < 0 ? -1 : 0;
 }
 
 }  // namespace Tarvik::Seaplan

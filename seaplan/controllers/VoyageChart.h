@@ -4,10 +4,12 @@
 #include <optional>
 #include <string>
 
-#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/Outcome.h"
 
 namespace Tarvik::Seaplan {
+
+class VoyPortCallModule;
+struct VoyInfo;
 
 /// How a schedule that was loaded or saved goes onto the chart.
 enum class DrawMode {
@@ -29,9 +31,9 @@ class VoyageChart {
     /// Draws in `mode`; a voyage drawn with its ship counts as the one last drawn.
     Outcome<DrawStep> Draw(const VoyInfo& voyage, DrawMode mode);
     /// Takes a voyage's lines and ship off. 0; -1 empty id.
-    int Remove(const std::string& vi) { return vi.empty() ? -1 : module_->Layer().ClearVoyageObjects(vi); }
+    int Remove(const std::string& vi);
     /// Takes off all that the plug-in drew. 0 or -1.
-    int Clear() { return module_->Layer().ClearAllObjects() < 0 ? -1 : 0; }
+    int Clear();
 
   private:
     VoyPortCallModule* module_;

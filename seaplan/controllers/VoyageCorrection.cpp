@@ -13,9 +13,14 @@
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/ais/AisCorrection.h"
 #include "seaplan/calculation/ais/AisRows.h"
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/RouteExchange.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/Position.h"
 #include "seaplan/data/TimeText.h"
+#include "seaplan/data/VoyInfo.h"
+#include "seaplan/data/VoyageStore.h"
 
 /// The plan is the measure: a position is put into it on request and never projected onto the route. The leg
 /// on which the ship was at that time is cut; the server gives the way from there to the next port, and with

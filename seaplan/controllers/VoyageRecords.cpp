@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/VoyageRecords.h"
 
+#include "seaplan/controllers/VoyPortCallModule.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {

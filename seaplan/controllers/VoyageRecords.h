@@ -3,11 +3,12 @@
 
 #include <string>
 
-#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/Outcome.h"
 #include "seaplan/data/VoyageStore.h"
 
 namespace Tarvik::Seaplan {
+
+class VoyPortCallModule;
 
 /// Stands for a voyage's id while the port distance table is on show, which is none.
 inline constexpr const char* kDistanceTableId = "DISTANCE TABLE USE";

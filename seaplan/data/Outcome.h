@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <stdexcept>
 
-/// The one way to fail inside the plug-in: an operation answers with an Outcome, success or the step that
-/// failed. The negative number that a required operation owes its callers is made from it at the border, by
-/// the operation's CodeTable and by nothing else.
+/// How an operation fails inside the plug-in: it answers with an Outcome, success or the step that failed.
+/// The negative number that a required operation owes its callers is made from it at the border, by the
+/// operation's CodeTable.
 namespace Tarvik::Seaplan {
 
 /// Success, or the step that failed; `Step` is an enum class of the operation's steps. Where the step is a

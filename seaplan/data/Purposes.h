@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-/// The purposes of a port call that a rule names; all of them stand in tarvik/interface/Purposes.h.
+/// The purposes of a port call that a rule names; all of them stand in tarvik/interface/PlanTerms.h.
 namespace Tarvik::Seaplan {
 
 inline constexpr const char* kBallast = "B";

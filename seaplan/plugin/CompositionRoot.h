@@ -7,9 +7,11 @@
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/controllers/voycal/CVoyCal.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/plugin/PlanService.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 
 namespace Tarvik::Seaplan {
 

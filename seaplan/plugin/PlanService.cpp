@@ -11,8 +11,10 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/tree/TreeRules.h"
 #include "seaplan/plugin/PlanAnswer.h"

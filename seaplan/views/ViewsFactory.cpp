@@ -6,6 +6,8 @@
 
 #include <tarvik/core/TrvKernel.h>
 
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/views/VoyageViews.h"
 
 namespace Tarvik::Seaplan {

@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/VoyageViews.h"
 
+#include "seaplan/panels/book/BookCommands.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/tree/NoteCommands.h"
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/VesselCommands.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {

@@ -10,6 +10,7 @@
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/remark/CRemarkPanel.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/views/book/BookWindow.h"
 #include "seaplan/views/bunker/BunkerWindow.h"
 #include "seaplan/views/distances/KeepTableWindow.h"
@@ -19,6 +20,8 @@
 #include "seaplan/views/window/PanelPlace.h"
 
 namespace Tarvik::Seaplan {
+
+class PortDirectory;
 
 /// All panels with their windows, tied to the bus while it lives. The voyage panel is there from the start,
 /// each other one when it is first asked for: a panel with a window is one PanelPlace here. The main window

@@ -7,6 +7,9 @@
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/tree/TreeContext.h"
+
 namespace Tarvik::Seaplan::Walk {
 
 namespace {

@@ -6,11 +6,18 @@
 
 #include <tarvik/interface/SysMsgSink.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/portcall/PortCallParts.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
 #include "seaplan/panels/tests/RecordingPortCallView.h"
 #include "seaplan/panels/tests/TreeViews.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 
 namespace Tarvik::Seaplan::Walk {
 

@@ -5,6 +5,10 @@
 #include <array>
 #include <utility>
 
+#include <tarvik/interface/ServerRequest.h>
+
+#include "testsupport/RecordingHost.h"
+
 namespace Tarvik::Seaplan::Walk {
 
 namespace {

@@ -5,7 +5,14 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
 
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/tree/TreeRename.h"
+#include "seaplan/panels/tree/VesselCommands.h"
 #include "tests/walk/World.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/ManualTimer.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan::Walk {
 

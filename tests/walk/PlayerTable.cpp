@@ -2,6 +2,10 @@
 /// Steps in the port call table and at the buttons around it.
 #include <tarvik/util/DateTimeUtl.h>
 
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/PortCallTable.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "tests/walk/Player.h"
 #include "tests/walk/World.h"
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 /// Steps in the voyage tree.
+#include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeRename.h"
+#include "seaplan/panels/tree/VesselCommands.h"
 #include "tests/walk/Player.h"
 
 namespace Tarvik::Seaplan::Walk {

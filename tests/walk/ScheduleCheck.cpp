@@ -8,6 +8,7 @@
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/panels/tests/DeskPorts.h"
 #include "tests/walk/Stored.h"
 #include "tests/walk/World.h"
 

@@ -3,6 +3,9 @@
 #include <cctype>
 #include <cstdlib>
 
+#include <tarvik/util/Units.h>
+
+#include "seaplan/panels/portcall/PortCallSheet.h"
 #include "tests/walk/Rules.h"
 #include "tests/walk/World.h"
 

@@ -5,6 +5,10 @@
 
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
+
 namespace Tarvik::Seaplan::Walk {
 
 namespace {

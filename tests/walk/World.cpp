@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "seaplan/panels/tests/DeskRoutes.h"
+
 namespace Tarvik::Seaplan::Walk {
 
 namespace {

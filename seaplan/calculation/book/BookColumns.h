@@ -8,7 +8,7 @@
 #include "seaplan/calculation/book/BookRows.h"
 #include "seaplan/data/PosBookData.h"
 
-/// The columns of the position book's list, told once. A further column is one more entry and its texts.
+/// The columns of the position book's list. A further column is one more entry and its texts.
 namespace Tarvik::Seaplan {
 
 /// Places of the columns that a rule names.

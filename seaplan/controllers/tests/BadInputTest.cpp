@@ -4,6 +4,8 @@
 #include <fstream>
 #include <limits>
 
+#include "seaplan/calculation/LegCacheText.h"
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/tests/CorrectionFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -2,6 +2,7 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/SiblingRecords.h>
 
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/tests/RouteFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/PlannedProgress.h"
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 
 namespace Tarvik::Seaplan {

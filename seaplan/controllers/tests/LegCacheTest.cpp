@@ -3,6 +3,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "seaplan/calculation/LegCacheText.h"
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/tests/RouteFixture.h"
 
 namespace Tarvik::Seaplan {

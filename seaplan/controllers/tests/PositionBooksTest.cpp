@@ -3,7 +3,11 @@
 
 #include <tarvik/util/DateTimeUtl.h>
 
+#include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/controllers/tests/ScheduleFaultsFixture.h"
+#include "seaplan/data/PosBookData.h"
+#include "seaplan/panels/tests/DeskPorts.h"
+#include "testsupport/RecordingHost.h"
 
 /// The position book between a voyage's record, its panel and the server.
 namespace Tarvik::Seaplan {

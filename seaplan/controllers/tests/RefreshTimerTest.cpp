@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/chart/VoyageLayer.h"
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 #include "testsupport/ManualTimer.h"
 

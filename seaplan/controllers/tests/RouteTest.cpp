@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <filesystem>
 
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/tests/RouteFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -7,6 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/tests/PanelDesk.h"
 
 namespace Tarvik::Seaplan {

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/controllers/ScheduleLoading.h"
+#include "seaplan/controllers/ScheduleSaving.h"
 #include "seaplan/controllers/tests/ScheduleFaultsFixture.h"
+#include "seaplan/panels/tests/DeskRoutes.h"
 
 /// What must not be stored, and what is told instead.
 namespace Tarvik::Seaplan {

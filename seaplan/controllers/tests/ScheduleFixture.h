@@ -7,6 +7,10 @@
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/VoyageStore.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 #include "testsupport/DataFolder.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/PortDictionary.h"

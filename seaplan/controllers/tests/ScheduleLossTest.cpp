@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/tests/ScheduleFaultsFixture.h"
+#include "seaplan/panels/tests/DeskPorts.h"
+#include "seaplan/panels/tests/DeskRoutes.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/ManualTimer.h"
 
 /// What must not be dropped, taken for empty or taken from another voyage.
 namespace Tarvik::Seaplan {

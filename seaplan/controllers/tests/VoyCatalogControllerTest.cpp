@@ -3,6 +3,9 @@
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingHost.h"
 

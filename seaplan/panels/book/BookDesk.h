@@ -8,8 +8,11 @@
 #include "seaplan/calculation/book/BookChecks.h"
 #include "seaplan/controllers/BookOnChart.h"
 #include "seaplan/panels/book/BookHistory.h"
+#include "seaplan/panels/book/BookOwner.h"
+#include "seaplan/panels/book/BookSheet.h"
 #include "seaplan/panels/book/BookView.h"
 #include "seaplan/panels/texts/TextId.h"
+#include "seaplan/panels/window/Boxes.h"
 
 namespace Tarvik::Seaplan {
 
@@ -18,11 +21,7 @@ namespace Tarvik::Seaplan {
 /// began with is over, and before whatever a person looks at meanwhile.
 class BookDesk {
   public:
-    struct Parts {
-        BookView& view;
-        std::function<BookOwner*()> owner;
-        std::function<Rect()> mainPlace;  ///< where the main view stands on the screen
-    };
+    using Parts = BookParts;
     explicit BookDesk(Parts parts) : p_(std::move(parts)), boxes_(p_.view) {}
 
     BookSheet& Sheet() { return sheet_; }

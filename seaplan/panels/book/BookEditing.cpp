@@ -6,6 +6,8 @@
 
 #include <tarvik/util/DateTimeUtl.h>
 
+#include "seaplan/panels/language/LoadText.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {

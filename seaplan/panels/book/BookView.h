@@ -3,14 +3,15 @@
 
 #include <string>
 
-#include "seaplan/data/PosBookData.h"
-#include "seaplan/panels/book/BookSheet.h"
-#include "seaplan/panels/datetime/CalendarView.h"
-#include "seaplan/panels/editors/DropList.h"
 #include "seaplan/panels/window/PanelWindow.h"
-#include "seaplan/panels/window/TextBox.h"
+#include "seaplan/panels/window/Rect.h"
 
 namespace Tarvik::Seaplan {
+
+class BookSheet;
+class DateTimeView;
+class DropList;
+class TextBox;
 
 /// A cell of the book's table.
 struct BookCellPlace {
@@ -37,22 +38,6 @@ class BookView : public PanelWindow {
     virtual DateTimeView& Picker() = 0;
     /// Posts to the client's main window that the book has closed.
     virtual void TellClosed() = 0;
-};
-
-/// Where a book comes from.
-struct BookOrigin {
-    std::string voyage;     ///< name of the voyage that it was opened for
-    std::string tableZone;  ///< zone of the times that the port calls show, empty when nobody told
-};
-
-/// Who opened the book, and cannot be used while it is open.
-class BookOwner {
-  public:
-    virtual ~BookOwner() = default;
-    /// Saves the shaped book of the voyage that it was opened for. 0 when it is saved; otherwise it is told.
-    virtual int SavePositionBook(const PosBookData& book) = 0;
-    virtual void SetBookOpen(bool open) = 0;
-    virtual BookOrigin Origin() const = 0;
 };
 
 }  // namespace Tarvik::Seaplan

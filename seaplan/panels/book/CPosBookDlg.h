@@ -1,20 +1,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include <tarvik/core/TObject.h>
 
-#include "seaplan/panels/book/BookCommands.h"
-
 namespace Tarvik::Seaplan {
+
+class BookCommands;
+class BookEditing;
+struct BookParts;
+class BookSheet;
+struct PosBookData;
 
 /// The position book of the voyage in the port call panel: its waypoints in a table, edited in place, added
 /// and deleted, and saved through that panel, which cannot be used meanwhile. This class ties the book's
 /// parts together.
 class CPosBookDlg final : public Core::TObject {
   public:
-    explicit CPosBookDlg(BookDesk::Parts parts);
+    explicit CPosBookDlg(const BookParts& parts);
+    ~CPosBookDlg() override;
 
     /// Shows a book that is saved, in the middle of the main view.
     void ShowBook(const PosBookData& book);
@@ -22,11 +28,11 @@ class CPosBookDlg final : public Core::TObject {
     void Recompute();
     /// Cuts the way to a list row into waypoints; with `addMidpoint` one that needs none gets one half way.
     /// Returns how many came.
-    int RegenerateLeg(int listRow, bool addMidpoint) { return commands_.RegenerateLeg(listRow, addMidpoint); }
+    int RegenerateLeg(int listRow, bool addMidpoint);
     /// Deletes a plain waypoint that the ship has not passed. False where that cannot be.
-    bool DeleteRow(int listRow) { return commands_.DeleteRow(listRow); }
+    bool DeleteRow(int listRow);
     /// Whether a text counts as a number: Seaplan::IsNumberText.
-    static bool IsNumberText(const std::string& text) { return Seaplan::IsNumberText(text); }
+    static bool IsNumberText(const std::string& text);
 
     void ApplyLanguage();
     /// The user has gone: nothing is asked, and what was not saved is dropped.
@@ -35,16 +41,16 @@ class CPosBookDlg final : public Core::TObject {
     void OnTimeZone(const std::string& zone);
 
     /// What opens over the cells.
-    BookEditing& Cells() { return editing_; }
+    BookEditing& Cells();
     /// The buttons, the rows and the keys of the table.
-    BookCommands& Commands() { return commands_; }
+    BookCommands& Commands();
     /// All that the window shows.
-    const BookSheet& Sheet() const { return desk_.Sheet(); }
+    const BookSheet& Sheet() const;
 
   private:
-    BookDesk desk_;
-    BookEditing editing_;
-    BookCommands commands_;
+    struct Inner;
+
+    std::unique_ptr<Inner> in_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -8,9 +8,15 @@
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/VoyageContract.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/portcall/DistanceTable.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/panels/tree/TableVoyage.h"
+#include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
 

@@ -10,13 +10,17 @@
 #include "seaplan/panels/distances/KeepTableView.h"
 #include "seaplan/panels/editors/CVoyageListDlg.h"
 #include "seaplan/panels/editors/Keys.h"
-#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/window/Boxes.h"
+#include "seaplan/panels/window/Rect.h"
 
 namespace Tarvik::Interface {
 struct PanelShow;
 }
 
 namespace Tarvik::Seaplan {
+
+class CPortCallPanelDlg;
+class SeaplanTreeCtrl;
 
 /// The door of the port distance table: the services by which ports come into it, the event that opens it,
 /// and the dialog in which it is kept as a voyage. The table itself is the port call panel.

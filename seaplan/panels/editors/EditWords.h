@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
@@ -22,8 +21,6 @@ struct UndoTexts {
 };
 
 /// What a command does with an edit; `form` takes the edit's name.
-inline std::string EditText(TextId form, const EditName& name) {
-    return Text(form, {Text(name.text, {std::to_string(name.row + 1)})});
-}
+std::string EditText(TextId form, const EditName& name);
 
 }  // namespace Tarvik::Seaplan

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,10 +3,11 @@
 
 #include <functional>
 
-#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/window/ChoicePopup.h"
 
 namespace Tarvik::Seaplan {
+
+class SeaplanTreeCtrl;
 
 /// The panel below the filter button, by which the recycle bin is shown. It keeps its tick while it is
 /// hidden.

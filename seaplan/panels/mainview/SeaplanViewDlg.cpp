@@ -5,9 +5,15 @@
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/VoyageContract.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/CategoryCommands.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeRename.h"
 
 namespace Tarvik::Seaplan {
 
@@ -170,6 +176,10 @@ int SeaplanViewDlg::AddCategory() {
 
 void SeaplanViewDlg::RequestHelp() {
     p_.window.RequestHelp(kHelpTopic, kHelpWidth, kHelpHeight);
+}
+
+void SeaplanViewDlg::OnSurfacePressed() {
+    p_.tree.CloseEditors();
 }
 
 }  // namespace Tarvik::Seaplan

@@ -8,7 +8,6 @@
 #include <tarvik/core/TObject.h>
 
 #include "seaplan/panels/mainview/FltTreeFilterDlg.h"
-#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/tree/search/TreeSearch.h"
 #include "seaplan/panels/window/PanelWindow.h"
 
@@ -19,9 +18,13 @@ struct PanelShow;
 namespace Tarvik::Seaplan {
 
 class CPortCallPanelDlg;
+class SeaplanTreeCtrl;
+class VoyCatalogController;
+class VoyController;
+class VoyageStore;
 
-/// The voyage panel on the left of the chart: shown and hidden by the host, owner of the tree and the only
-/// one that clears the store.
+/// The voyage panel on the left of the chart: shown and hidden by the host. It owns the tree, and clears the
+/// store at a logout.
 class SeaplanViewDlg final : public Core::TObject {
   public:
     struct Parts {
@@ -54,7 +57,7 @@ class SeaplanViewDlg final : public Core::TObject {
     void RequestHelp();
     void ApplyLanguage();
     /// A press on the panel's free surface.
-    void OnSurfacePressed() { p_.tree.CloseEditors(); }
+    void OnSurfacePressed();
 
   private:
     void OnShowPanel(const Interface::PanelShow& show);

@@ -3,8 +3,13 @@
 
 #include <vector>
 
+#include <tarvik/bus/BusName.h>
 #include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/DateTimeUtl.h>
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/CellsView.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
 
 namespace Tarvik::Seaplan {
 

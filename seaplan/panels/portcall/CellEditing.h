@@ -3,15 +3,17 @@
 
 #include <string>
 
+#include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/panels/datetime/CTrvCalDlg.h"
 #include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/editors/ListBox.h"
 #include "seaplan/panels/editors/TextField.h"
 #include "seaplan/panels/portcall/CellEdits.h"
-#include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/portcall/PortMatching.h"
 
 namespace Tarvik::Seaplan {
+
+class PortCallDesk;
 
 /// The editors, lists and the calendar over the cells: what opens where, which key leads where, and what is
 /// taken when one closes. At most one editor of a kind is open.

@@ -2,7 +2,10 @@
 /// What the window reports of the editors, and where each key leads.
 #include <tarvik/interface/PlanTerms.h>
 
+#include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/CellsView.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,6 +4,9 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 

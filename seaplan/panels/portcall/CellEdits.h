@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "seaplan/panels/portcall/PortCallDesk.h"
-
 namespace Tarvik::Seaplan {
+
+class PortCallDesk;
 
 /// What an edit of a cell starts. A text that a cell refuses leaves it as it was, silently but for the two
 /// times that are too early. A row outside the numbered ones takes nothing.

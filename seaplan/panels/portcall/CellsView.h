@@ -6,9 +6,10 @@
 #include <vector>
 
 #include "seaplan/calculation/PortCallColumns.h"
-#include "seaplan/panels/datetime/CalendarView.h"
 
 namespace Tarvik::Seaplan {
+
+class DateTimeView;
 
 /// The column over which an editor opens; the first for a kind that several have.
 constexpr int ColumnOf(CellEditor editor) {

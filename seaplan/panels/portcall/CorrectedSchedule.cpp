@@ -3,6 +3,10 @@
 
 #include <utility>
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
+
 namespace Tarvik::Seaplan {
 
 void CorrectedSchedule::SetTime(const std::string& vi, const std::string& time) {

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "seaplan/panels/portcall/PortCallDesk.h"
-
 namespace Tarvik::Seaplan {
+
+class PortCallDesk;
 
 /// The table of a voyage that was corrected from its vessel's positions: history and plan, and the
 /// calculation that plans the rest anew.

@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/DistanceTable.h"
 
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/portcall/VoyageFilling.h"
 #include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
@@ -62,6 +68,14 @@ void DistanceTable::KeepAs(const std::string& vi) {
     const PortCallDesk::Report report(desk_);
     filling_.Adopt(vi);
     commands_.SavePlain();
+}
+
+bool DistanceTable::IsUnkept() const {
+    return desk_.Sheet().IsUnkeptTable();
+}
+
+bool DistanceTable::IsOpen() const {
+    return desk_.View().IsVisible() && desk_.Sheet().state.distanceTable;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -3,9 +3,12 @@
 
 #include <string>
 
-#include "seaplan/panels/portcall/PanelCommands.h"
-
 namespace Tarvik::Seaplan {
+
+class CellEditing;
+class PanelCommands;
+class PortCallDesk;
+class VoyageFilling;
 
 /// The panel as the port distance table: ports without a voyage behind them, which the chart or another
 /// plug-in names one by one, until they are kept as a voyage.
@@ -15,9 +18,9 @@ class DistanceTable {
         : desk_(desk), editing_(editing), filling_(filling), commands_(commands) {}
 
     /// Whether the panel is in sight as the distance table.
-    bool IsOpen() const { return desk_.View().IsVisible() && desk_.Sheet().state.distanceTable; }
+    bool IsOpen() const;
     /// Whether the rows on show are a distance table's that has not become a voyage.
-    bool IsUnkept() const { return desk_.Sheet().IsUnkeptTable(); }
+    bool IsUnkept() const;
     /// Begins an empty table in place of what is on show, and shows the panel. 0, or -1 where the changes of
     /// the voyage on show could not be saved and stay.
     int Open();

@@ -5,8 +5,18 @@
 #include <utility>
 
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/book/BookSheet.h"
+#include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/CorrectedSchedule.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
+#include "seaplan/panels/portcall/VoyageFilling.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/window/StatusWords.h"

@@ -4,9 +4,17 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/portcall/VoyageFilling.h"
+#include "seaplan/calculation/Units.h"
+#include "seaplan/data/PosBookData.h"
+#include "seaplan/data/VoyPortCall.h"
 
 namespace Tarvik::Seaplan {
+
+class CellEditing;
+class CorrectedSchedule;
+class PortCallDesk;
+struct PortCallNote;
+class VoyageFilling;
 
 /// The buttons around the table. Each takes what is being typed first.
 class PanelCommands {

@@ -5,6 +5,8 @@
 #include <tarvik/bus/HostContract.h>
 
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/texts/PortCallTexts.h"

@@ -6,14 +6,14 @@
 #include <string>
 #include <utility>
 
-#include "seaplan/controllers/VoyCatalogController.h"
-#include "seaplan/controllers/VoyController.h"
-#include "seaplan/data/PortDirectory.h"
-#include "seaplan/panels/book/CPosBookDlg.h"
+#include "seaplan/panels/editors/EditWords.h"
+#include "seaplan/panels/portcall/PortCallParts.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
+#include "seaplan/panels/portcall/PortCallState.h"
+#include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/panels/portcall/TableHistory.h"
-#include "seaplan/panels/remark/CRemarkPanel.h"
+#include "seaplan/panels/window/Boxes.h"
 
 namespace Tarvik::Seaplan {
 
@@ -22,18 +22,7 @@ namespace Tarvik::Seaplan {
 /// over, and before whatever a person looks at meanwhile: a box, a busy mark, an editor.
 class PortCallDesk {
   public:
-    struct Parts {
-        VoyCatalogController& catalog;
-        VoyController& voyages;
-        PortDirectory& ports;
-        PortCallView& view;
-        std::function<Rect()> treePlace;          ///< where the voyage tree stands on the screen
-        std::function<CPosBookDlg*()> book = {};  ///< the position book, made when it is asked for
-        /// The remark panel of the port calls, made at its first use; empty where there is none.
-        std::function<CRemarkPanel*()> remarks{};
-        /// Asks under which name the distance table is to be kept as a voyage; empty where nobody can.
-        std::function<void()> keepTable{};
-    };
+    using Parts = PortCallParts;
     explicit PortCallDesk(Parts parts)
         : p_(std::move(parts)), boxes_(p_.view), history_(sheet_, p_.voyages, p_.ports) {}
 

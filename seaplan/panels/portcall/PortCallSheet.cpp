@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "seaplan/controllers/VoyageRecords.h"
 #include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
@@ -183,6 +184,10 @@ void PortCallSheet::MarkChanged(PortDirectory& ports) {
     editedVoyageId = voyageId;
     state.changed = true;
     state.canSave = true;
+}
+
+bool PortCallSheet::IsUnkeptTable() const {
+    return voyageId == kDistanceTableId;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -4,25 +4,13 @@
 #include <string>
 
 #include "seaplan/calculation/Units.h"
-#include "seaplan/controllers/VoyageRecords.h"
+#include "seaplan/panels/portcall/PortCallState.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
-#include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/panels/portcall/StoredRows.h"
 
 namespace Tarvik::Seaplan {
 
 class PortDirectory;
-
-/// What is to be told of the rows on show.
-struct PortCallNote {
-    enum class Kind {
-        None,
-        Unfinished,  ///< they have no route of theirs, as a save leaves them that broke off
-        KnownLegs    ///< their legs are known ones, since the server was not there to ask
-    };
-    Kind kind = Kind::None;
-    std::string since{};  ///< day of the oldest of these legs, in the zone of the rows
-};
 
 /// All that the port call panel knows of the voyage on show, as one value: the rows with the ids of their
 /// ports, the units, the figures and what the buttons can do. Whoever keeps a copy can bring it back.
@@ -40,7 +28,7 @@ class PortCallSheet {
 
     const UnitSet& Units() const { return units_; }
     /// Whether the rows are a port distance table that no voyage has been made of: no save takes them.
-    bool IsUnkeptTable() const { return voyageId == kDistanceTableId; }
+    bool IsUnkeptTable() const;
     /// Six empty rows in the first units, without figures; nothing is changed and only Clear is possible.
     /// The voyages stay.
     void Reset();

@@ -23,8 +23,8 @@ struct TableRow {
     bool unknownPort = false;  ///< no port has the name in the row
     bool stale = false;        ///< its computed figures are those of other ports
 
-    /// Takes texts for cells, and what they tell for the record: the one place where a figure is rounded to
-    /// what is shown. The id is that of the port named there.
+    /// Takes texts for cells, and what they tell for the record, a figure rounded to what is shown. The id is
+    /// that of the port named there.
     void Commit(const CellTexts& texts, std::string portId);
     /// Whether both look alike.
     friend bool operator==(const TableRow& a, const TableRow& b) {

@@ -6,7 +6,9 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/book/BookRows.h"
+#include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 

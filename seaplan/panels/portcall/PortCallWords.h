@@ -6,12 +6,14 @@
 
 #include <tarvik/util/DateTime.h>
 
-#include "seaplan/controllers/ScheduleCalculation.h"
-#include "seaplan/data/PosBookData.h"
-#include "seaplan/panels/portcall/PortCallSheet.h"
-
 /// What the port call panel tells in whole sentences, in the language in force.
 namespace Tarvik::Seaplan {
+
+struct PortCallNote;
+class PortCallSheet;
+class PortCallTable;
+struct PosBookData;
+struct ScheduleFault;
 
 /// Why a calculation or a save came to nothing; empty when nothing failed. A port is told with its row of the
 /// table.

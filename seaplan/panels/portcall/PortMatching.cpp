@@ -8,6 +8,11 @@
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/interface/SiblingRecords.h>
 
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/CellsView.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {

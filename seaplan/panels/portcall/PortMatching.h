@@ -5,9 +5,10 @@
 
 #include "seaplan/panels/editors/ListBox.h"
 #include "seaplan/panels/editors/TextField.h"
-#include "seaplan/panels/portcall/PortCallDesk.h"
 
 namespace Tarvik::Seaplan {
+
+class PortCallDesk;
 
 /// The ports that fit what is typed into the port editor: in the window of a search plug-in, or without one
 /// in a list of the ports that the panel knows itself.

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/RowCommands.h"
 
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/remark/CRemarkPanel.h"
 #include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {

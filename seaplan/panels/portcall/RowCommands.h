@@ -3,10 +3,13 @@
 
 #include <string>
 
-#include "seaplan/panels/portcall/CellEditing.h"
-#include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/data/VoyPortCall.h"
+#include "seaplan/panels/editors/Keys.h"
 
 namespace Tarvik::Seaplan {
+
+class CellEditing;
+class PortCallDesk;
 
 /// What is done with a row of the table as a whole: moving, deleting and its remarks by the images at its
 /// end, and the keys of the table.

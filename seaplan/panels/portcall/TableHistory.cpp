@@ -3,6 +3,13 @@
 
 #include <algorithm>
 
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/editors/EditHistory.h"
+#include "seaplan/panels/portcall/PortCallSheet.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -35,10 +42,30 @@ bool SameContent(const PortCallSheet& a, const PortCallSheet& b) {
 
 }  // namespace
 
+struct TableHistory::TableState {
+    PortCallSheet sheet;
+    PendingRoute route;
+};
+
+struct TableHistory::States : EditHistory<TableState> {
+    static constexpr std::size_t kMost = 250;
+
+    States() : EditHistory<TableState>(kMost) {}
+};
+
+TableHistory::TableHistory(PortCallSheet& sheet, VoyController& voyages, PortDirectory& ports)
+    : sheet_(sheet), voyages_(voyages), ports_(ports), history_(std::make_unique<States>()) {}
+
+TableHistory::~TableHistory() = default;
+
+UndoTexts TableHistory::Texts() const {
+    return history_->Texts();
+}
+
 /// A corrected voyage's history is rebuilt by its save, and cannot be taken back any more.
 bool TableHistory::BeginsAnew() const {
     int corrected = 0;
-    return begins_ || !history_.IsThere() ||
+    return begins_ || !history_->IsThere() ||
            (!sheet_.state.changed && voyages_.GetModAis(sheet_.voyageId, corrected) == 0 && corrected > 0);
 }
 
@@ -46,15 +73,15 @@ void TableHistory::Take(const EditName& name) {
     const PendingRoute& route = voyages_.Module().Pending();
     if (BeginsAnew()) {
         begins_ = false;
-        history_.Start({sheet_, route});
+        history_->Start({sheet_, route});
         if (sheet_.state.changed) {
-            history_.MarkUnsaved();
+            history_->MarkUnsaved();
         }
-    } else if (!SameContent(history_.Now().state.sheet, sheet_)) {
-        history_.Push({sheet_, route}, name);
+    } else if (!SameContent(history_->Now().state.sheet, sheet_)) {
+        history_->Push({sheet_, route}, name);
     }
-    if (!sheet_.state.changed && !history_.IsSaved()) {
-        history_.MarkSaved({sheet_, route});
+    if (!sheet_.state.changed && !history_->IsSaved()) {
+        history_->MarkSaved({sheet_, route});
     }
 }
 
@@ -79,7 +106,7 @@ void TableHistory::ShowState(const TableState& to) {
     state.canClear = now.state.canClear;
     state.canOpenBook = now.state.canOpenBook;
     state.canCalculate = sheet_.PlaceCount(ports_) >= 2;
-    state.changed = !history_.IsSaved() && (to.sheet.state.changed || state.canCalculate);
+    state.changed = !history_->IsSaved() && (to.sheet.state.changed || state.canCalculate);
     state.canSave = state.changed;
     if (state.changed) {
         sheet_.editedVoyageId = sheet_.voyageId;
@@ -100,7 +127,7 @@ void TableHistory::ShowRoute(const TableState& to) {
 }
 
 bool TableHistory::GoBack() {
-    const TableState* to = history_.Back();
+    const TableState* to = history_->Back();
     if (to != nullptr) {
         ShowState(*to);
     }
@@ -108,7 +135,7 @@ bool TableHistory::GoBack() {
 }
 
 bool TableHistory::GoForward() {
-    const TableState* to = history_.Forward();
+    const TableState* to = history_->Forward();
     if (to != nullptr) {
         ShowState(*to);
     }

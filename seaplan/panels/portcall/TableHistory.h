@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/controllers/VoyController.h"
-#include "seaplan/data/PortDirectory.h"
-#include "seaplan/panels/editors/EditHistory.h"
-#include "seaplan/panels/portcall/PortCallSheet.h"
+#include <memory>
+
+#include "seaplan/panels/editors/EditWords.h"
 
 namespace Tarvik::Seaplan {
+
+class PortCallSheet;
+class PortDirectory;
+class VoyController;
 
 /// The states of the table on show, edit by edit, each with the route that was calculated for it. A voyage
 /// that is opened begins a list of its own; a calculation and a save go on in it. What is known of the voyage
@@ -14,8 +17,8 @@ namespace Tarvik::Seaplan {
 class TableHistory {
   public:
     /// Keeps them; all outlive it.
-    TableHistory(PortCallSheet& sheet, VoyController& voyages, PortDirectory& ports)
-        : sheet_(sheet), voyages_(voyages), ports_(ports) {}
+    TableHistory(PortCallSheet& sheet, VoyController& voyages, PortDirectory& ports);
+    ~TableHistory();
 
     /// What is on show at the next Take is the beginning of a list.
     void Begin() { begins_ = true; }
@@ -25,14 +28,11 @@ class TableHistory {
     bool GoBack();
     bool GoForward();
     /// What the two would do now.
-    UndoTexts Texts() const { return history_.Texts(); }
+    UndoTexts Texts() const;
 
   private:
-    struct TableState {
-        PortCallSheet sheet;
-        PendingRoute route;
-    };
-    static constexpr std::size_t kMostStates = 250;
+    struct TableState;
+    struct States;
 
     void ShowState(const TableState& to);
     void ShowRoute(const TableState& to);
@@ -41,7 +41,7 @@ class TableHistory {
     PortCallSheet& sheet_;
     VoyController& voyages_;
     PortDirectory& ports_;
-    EditHistory<TableState> history_{kMostStates};
+    std::unique_ptr<States> history_;
     bool begins_ = true;
 };
 

@@ -4,9 +4,19 @@
 #include <utility>
 
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/ScheduleLoading.h"
+#include "seaplan/controllers/ScheduleSaving.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/controllers/VoyageRecords.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/CorrectedSchedule.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/protocol/PortCallCommands.h"
 
 namespace Tarvik::Seaplan {
 
@@ -286,6 +296,10 @@ int VoyageFilling::ShowCorrection() {
     }
     corrected_.MarkFresh();
     return 0;
+}
+
+void VoyageFilling::SetCorrectionTime(const std::string& time) {
+    corrected_.SetTime(next_, time);
 }
 
 }  // namespace Tarvik::Seaplan

@@ -5,11 +5,13 @@
 #include <string>
 #include <utility>
 
-#include "seaplan/panels/portcall/CellEditing.h"
-#include "seaplan/panels/portcall/CorrectedSchedule.h"
-#include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/data/VoyPortCall.h"
 
 namespace Tarvik::Seaplan {
+
+class CellEditing;
+class CorrectedSchedule;
+class PortCallDesk;
 
 /// Which voyage the panel shows: opening one, emptying the table, and what becomes of changes that were not
 /// saved.
@@ -45,7 +47,7 @@ class VoyageFilling {
     /// has told before. Fails as Open, and with -5 when the correction cannot be split and the plain voyage
     /// is shown.
     int ShowCorrection();
-    void SetCorrectionTime(const std::string& time) { corrected_.SetTime(next_, time); }
+    void SetCorrectionTime(const std::string& time);
     /// Asks what becomes of changes that are not saved, and shows the voyage on show as it is stored then.
     /// False when it has to stay with them.
     bool AskToLeave();

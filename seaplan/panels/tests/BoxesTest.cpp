@@ -5,6 +5,7 @@
 
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/window/BoxOwner.h"
 #include "seaplan/panels/window/Boxes.h"
 #include "testsupport/RecordingMsgSink.h"
 

@@ -3,9 +3,11 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/panels/bunker/CBunkerDlg.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
+#include "seaplan/protocol/PortCallCommands.h"
 
 namespace Tarvik::Seaplan {
 

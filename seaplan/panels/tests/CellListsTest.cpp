@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/panels/editors/BookEditors.h"
 #include "seaplan/panels/editors/CVoyageListDlg.h"
 #include "seaplan/panels/tests/PanelDesk.h"

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
 /// The port call table of a voyage that was corrected from its vessel's last position.
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
+#include "seaplan/panels/tests/DeskPorts.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {

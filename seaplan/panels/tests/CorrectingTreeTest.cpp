@@ -2,7 +2,10 @@
 /// Correcting a voyage from the tree, by the last position of its vessel.
 #include <gmock/gmock.h>
 
+#include "seaplan/panels/tests/DeskRoutes.h"
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

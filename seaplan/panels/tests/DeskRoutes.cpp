@@ -10,6 +10,8 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "host/server/graph/adapter/RouteMessages.h"
+#include "seaplan/panels/tests/DeskPorts.h"
+#include "testsupport/DataFolder.h"
 
 namespace Tarvik::Seaplan {
 

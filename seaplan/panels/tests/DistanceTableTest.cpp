@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 /// The port call panel as the port distance table.
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/TimeText.h"
 #include "seaplan/panels/tests/TreeFixture.h"
 #include "seaplan/panels/tree/DuplicateVoyage.h"
+#include "seaplan/panels/tree/TreeKeys.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

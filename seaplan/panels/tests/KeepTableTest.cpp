@@ -5,9 +5,12 @@
 #include <tarvik/bus/VoyageContract.h>
 
 #include "seaplan/panels/distances/CPortDistTabDlg.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 #include "seaplan/panels/tests/RecordingKeepView.h"
 #include "seaplan/panels/tests/TreeViews.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
 

@@ -5,7 +5,22 @@
 #include <stdexcept>
 #include <utility>
 
+#include "host/server/app/EmbeddedServer.h"
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/tests/DeskPorts.h"
+#include "seaplan/panels/tests/DeskRoutes.h"
 #include "seaplan/protocol/RemarkList.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
+#include "testsupport/DataFolder.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/ManualTimer.h"
+#include "testsupport/PortDictionary.h"
+#include "testsupport/RecordingHost.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 
@@ -40,13 +55,43 @@ void AddRemark(int type, const std::string& id) {
 
 }  // namespace
 
-PanelDesk::PanelDesk(const std::string& database) : names(IdsByName()) {
+struct PanelDesk::Parts {
+    TestSupport::DataFolder folder;
+    TestSupport::ManualClock clock;
+    TestSupport::ManualTimer timer;
+    TestSupport::RecordingMsgSink messages;
+    TestSupport::RecordingHost host;
+    TestSupport::PortDictionary names{IdsByName()};
+    VoyageStore store;
+    VoyCatalogModule catalogModule{&store};
+    VoyCatalogController catalog{&catalogModule, &store};
+    PortDirectory directory;
+    VoyPortCallModule portCallModule{&store, &directory};
+    VoyController voyages{&portCallModule, &catalog, &store};
+    std::unique_ptr<Server::EmbeddedServer> server;
+};
+
+PanelDesk::PanelDesk(const std::string& database)
+    : parts_(std::make_unique<Parts>()),
+      folder(parts_->folder),
+      clock(parts_->clock),
+      timer(parts_->timer),
+      messages(parts_->messages),
+      host(parts_->host),
+      names(parts_->names),
+      store(parts_->store),
+      catalogModule(parts_->catalogModule),
+      catalog(parts_->catalog),
+      directory(parts_->directory),
+      portCallModule(parts_->portCallModule),
+      voyages(parts_->voyages) {
     folder.WritePoints(DeskPoints());
     auto ways = std::make_unique<DeskRoutes>();
     routes = ways.get();
     std::string error;
-    server_ = Server::EmbeddedServer::Open(database, std::move(ways), error, [] { return kServerTime; });
-    Require(server_ != nullptr, error);
+    parts_->server =
+        Server::EmbeddedServer::Open(database, std::move(ways), error, [] { return kServerTime; });
+    Require(parts_->server != nullptr, error);
     host.server = [this](const Interface::VoyServerRequest& request) { return Answer(request); };
     catalog.SetVoyController(&voyages);
 }
@@ -60,7 +105,7 @@ std::optional<std::string> PanelDesk::Answer(const Interface::VoyServerRequest& 
             return failure.refused ? std::optional<std::string>(kRefusal) : std::nullopt;
         }
     }
-    return server_->Exchange(host.user.value_or(""), &request);
+    return parts_->server->Exchange(host.user.value_or(""), &request);
 }
 
 std::string PanelDesk::AddCategory(const std::string& name, bool remark) {
@@ -188,6 +233,15 @@ void PanelDesk::ForgetRecords() {
     host.positionQueries.clear();
     host.trackQueries.clear();
     host.hiddenTracks.clear();
+}
+
+void PanelDesk::Load() {
+    std::string user;
+    Require(catalog.Connect(user) == 0 && catalog.Load(user) == 0, "the voyages");
+}
+
+std::size_t PanelDesk::Drawn(const char* service) const {
+    return host.ChartCallsOf(service).size();
 }
 
 }  // namespace Tarvik::Seaplan

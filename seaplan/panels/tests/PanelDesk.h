@@ -7,18 +7,29 @@
 #include <string>
 #include <vector>
 
-#include "host/server/app/EmbeddedServer.h"
-#include "seaplan/controllers/VoyCatalogController.h"
-#include "seaplan/controllers/VoyController.h"
-#include "seaplan/panels/tests/DeskRoutes.h"
-#include "testsupport/DataFolder.h"
-#include "testsupport/ManualClock.h"
-#include "testsupport/ManualTimer.h"
-#include "testsupport/PortDictionary.h"
-#include "testsupport/RecordingHost.h"
-#include "testsupport/RecordingMsgSink.h"
+#include "seaplan/data/VoyageStore.h"
+
+namespace Tarvik::Interface {
+struct VoyServerRequest;
+}
+
+namespace Tarvik::TestSupport {
+class DataFolder;
+class ManualClock;
+class ManualTimer;
+class PortDictionary;
+class RecordingHost;
+class RecordingMsgSink;
+}  // namespace Tarvik::TestSupport
 
 namespace Tarvik::Seaplan {
+
+class DeskRoutes;
+class PortDirectory;
+class VoyCatalogController;
+class VoyCatalogModule;
+class VoyController;
+class VoyPortCallModule;
 
 /// A kind of request: its command, and what the texts of this kind hold.
 struct DeskRequest {
@@ -78,7 +89,13 @@ struct DeskVoyage {
 /// What panels are tested on: the plug-in's controllers and modules over the host's bus, behind which stand
 /// the real server with a data base in memory and the ways between a few ports. The present time is
 /// 2024-03-01 00:00:00 UTC, the user's zone UTC+8. Arranging throws where it fails, and leaves no record.
+///
+/// A test includes the headers of those parts that it speaks to: so one changed part does not compile every
+/// panel test anew.
 class PanelDesk {
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+
   public:
     /// On a data base that goes with the desk, or on one that is kept in a file.
     explicit PanelDesk(const std::string& database = ":memory:");
@@ -100,6 +117,10 @@ class PanelDesk {
     static PortCallRows Calls(int day, int count = 2);
 
     // What the plug-in holds
+    /// Logs in and loads the tree's records, as the tree does.
+    void Load();
+    /// How often a service of the chart was called.
+    std::size_t Drawn(const char* service) const;
     /// Records by name. They throw std::out_of_range when there is none.
     VoyCategory& Category(const std::string& name);
     VoyInfo& Voyage(const std::string& name);
@@ -115,18 +136,18 @@ class PanelDesk {
     /// Forgets what was asked of server, chart and vessel tracks until now.
     void ForgetRecords();
 
-    TestSupport::DataFolder folder;
-    TestSupport::ManualClock clock;
-    TestSupport::ManualTimer timer;
-    TestSupport::RecordingMsgSink messages;
-    TestSupport::RecordingHost host;
-    TestSupport::PortDictionary names;
-    VoyageStore store;
-    VoyCatalogModule catalogModule{&store};
-    VoyCatalogController catalog{&catalogModule, &store};
-    PortDirectory directory;
-    VoyPortCallModule portCallModule{&store, &directory};
-    VoyController voyages{&portCallModule, &catalog, &store};
+    TestSupport::DataFolder& folder;
+    TestSupport::ManualClock& clock;
+    TestSupport::ManualTimer& timer;
+    TestSupport::RecordingMsgSink& messages;
+    TestSupport::RecordingHost& host;
+    TestSupport::PortDictionary& names;
+    VoyageStore& store;
+    VoyCatalogModule& catalogModule;
+    VoyCatalogController& catalog;
+    PortDirectory& directory;
+    VoyPortCallModule& portCallModule;
+    VoyController& voyages;
     DeskRoutes* routes = nullptr;  ///< the server's
 
   private:
@@ -139,7 +160,6 @@ class PanelDesk {
     std::string CategoryOnServer(const std::string& name);
     void SetState(const std::string& vi, int state);
 
-    std::unique_ptr<Server::EmbeddedServer> server_;
     std::vector<Failure> failures_;
 };
 

@@ -4,7 +4,13 @@
 
 #include <tarvik/bus/ChartContract.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/panels/tests/DeskPorts.h"
+#include "seaplan/panels/tests/DeskRoutes.h"
 #include "seaplan/panels/tests/PanelDesk.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
 

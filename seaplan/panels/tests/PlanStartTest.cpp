@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 /// The start of a plan and its blank cells, after rows were moved or deleted.

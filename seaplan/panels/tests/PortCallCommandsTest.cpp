@@ -4,8 +4,12 @@
 #include <tarvik/core/TEvent.h>
 #include <tarvik/core/TObject.h>
 
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/tests/DeskRoutes.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 #include "seaplan/panels/window/PanelEvents.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
 

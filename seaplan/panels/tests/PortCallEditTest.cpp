@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/data/Purposes.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {

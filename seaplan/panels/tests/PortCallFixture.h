@@ -15,10 +15,16 @@
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/PlacesContract.h>
 
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PortCallParts.h"
+#include "seaplan/panels/portcall/PortCallSheet.h"
+#include "seaplan/panels/tests/DeskPorts.h"
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/panels/tests/RecordingPortCallView.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 
@@ -56,10 +62,7 @@ class PortCallFixture : public ::testing::Test {
         desk.AddCategory("Plans");
         fresh = desk.AddVoyage("Plans", {.name = "New"});
         kept = desk.AddVoyage("Plans", {.name = "Saved", .calls = ThreeCalls()});
-        std::string user;
-        if (desk.catalog.Connect(user) != 0 || desk.catalog.Load(user) != 0) {
-            throw std::runtime_error("the voyages cannot be loaded");
-        }
+        desk.Load();
         desk.ForgetRecords();
         panel.SetSavedListener([this](const std::string& vi) { saved.push_back(vi); });
     }
@@ -151,7 +154,7 @@ class PortCallFixture : public ::testing::Test {
         return first ? text.substr(0, end) : end == std::string::npos ? "" : text.substr(end + 1);
     }
     /// How often a service of the chart was called.
-    std::size_t Drawn(const char* service) const { return desk.host.ChartCallsOf(service).size(); }
+    std::size_t Drawn(const char* service) const { return desk.Drawn(service); }
     long Calculations() const { return desk.Count(Ask::kRoute); }
     long Saves() const { return desk.Count(Ask::kSavePortCalls); }
     const PortCallRows& SavedRows(const std::string& vi) { return store.voyages[vi].portCalls; }

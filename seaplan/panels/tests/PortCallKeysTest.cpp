@@ -5,6 +5,7 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/SiblingRecords.h>
 
+#include "seaplan/panels/remark/ClistCtrlViewEx.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {

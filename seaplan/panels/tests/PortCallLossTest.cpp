@@ -1,5 +1,11 @@
 // SPDX-License-Identifier: MIT
 /// Nothing typed or stored is lost by a save that fails, a question or a table that could not be read.
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
+#include "seaplan/panels/tests/DeskPorts.h"
+#include "seaplan/panels/tests/DeskRoutes.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -1,6 +1,16 @@
 // SPDX-License-Identifier: MIT
 /// What the port call panel leaves in its cells and asks of the schedule.
+#include <tarvik/interface/ValueDictionary.h>
+
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
+#include "seaplan/panels/tests/DeskPorts.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/PortDictionary.h"
 
 namespace Tarvik::Seaplan {
 

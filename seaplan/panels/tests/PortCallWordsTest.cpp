@@ -1,6 +1,14 @@
 // SPDX-License-Identifier: MIT
 /// What a person is told: why a save came to nothing, what an answer loses, what the rows on show are.
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
+#include "seaplan/panels/tests/DeskRoutes.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
 

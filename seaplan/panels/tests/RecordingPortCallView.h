@@ -7,6 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/datetime/CalendarView.h"
+#include "seaplan/panels/editors/EditWords.h"
+#include "seaplan/panels/portcall/CellsView.h"
+#include "seaplan/panels/portcall/PortCallState.h"
+#include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
 

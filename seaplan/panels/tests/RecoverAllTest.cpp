@@ -5,6 +5,7 @@
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
 

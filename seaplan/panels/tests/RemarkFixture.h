@@ -14,6 +14,8 @@
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,6 +4,7 @@
 #include <tarvik/bus/HostContract.h>
 
 #include "seaplan/panels/tests/RemarkFixture.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
 

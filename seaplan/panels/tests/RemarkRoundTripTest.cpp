@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/panels/tests/RemarkFixture.h"
+#include "testsupport/DataFolder.h"
 
 namespace Tarvik::Seaplan {
 

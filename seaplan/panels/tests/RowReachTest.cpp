@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 /// Which row an image, a key or a press means, and what of the table is brought into view.

@@ -3,12 +3,16 @@
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TrvKernel.h>
+#include <tarvik/interface/SysMsgSink.h>
 #include <tarvik/util/DateTimeUtl.h>
 
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
 #include "seaplan/panels/tests/TreeFixture.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "testsupport/ManualTimer.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

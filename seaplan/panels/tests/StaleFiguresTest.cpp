@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 /// Figures of other ports than those in the table, and the voyage's name behind the caption.

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
+#include "testsupport/RecordingHost.h"
 
 /// How the table's buttons end: what they leave of chart, marks and requests where there is little or nothing
 /// to do.

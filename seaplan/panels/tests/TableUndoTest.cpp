@@ -2,6 +2,10 @@
 /// Undo and redo over the edits of port calls and distance table.
 #include <random>
 
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -2,10 +2,14 @@
 /// A port distance table kept as a voyage.
 #include <gmock/gmock.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/panels/tests/TreeViews.h"
 #include "seaplan/panels/tree/TableVoyage.h"
+#include "seaplan/panels/tree/TreeParts.h"
+#include "testsupport/RecordingHost.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

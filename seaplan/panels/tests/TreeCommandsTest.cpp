@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/VoyageTreeSortDlg.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

@@ -14,6 +14,8 @@
 #include "seaplan/panels/tests/TreeViews.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/panels/tree/TreeRename.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
 

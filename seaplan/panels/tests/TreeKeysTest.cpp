@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/TreeKeys.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 /// Remarks and consumption as they open from the tree's items and from the rows of the port call table.
 #include "seaplan/panels/bunker/CBunkerDlg.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 #include "seaplan/panels/tests/RemarkFixture.h"
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/NoteCommands.h"
 
 namespace Tarvik::Seaplan {
 

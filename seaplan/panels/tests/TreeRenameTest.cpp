@@ -2,7 +2,10 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/CategoryCommands.h"
+#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeRules.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,8 +3,11 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeKeys.h"
 #include "seaplan/panels/tree/search/TreeSearch.h"
 #include "seaplan/protocol/RemarkList.h"
+#include "testsupport/ManualClock.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,6 +3,10 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/NoteCommands.h"
+#include "seaplan/panels/tree/RemarkMark.h"
+#include "seaplan/panels/tree/TreeContext.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

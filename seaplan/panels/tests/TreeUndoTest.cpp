@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeKeys.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

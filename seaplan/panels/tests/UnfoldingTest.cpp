@@ -5,7 +5,12 @@
 #include <set>
 #include <thread>
 
+#include <tarvik/interface/ServerRequest.h>
+
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
+#include "testsupport/ManualTimer.h"
 
 namespace Tarvik::Seaplan {
 

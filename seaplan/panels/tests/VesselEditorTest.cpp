@@ -11,6 +11,8 @@
 #include <tarvik/interface/SiblingRecords.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/VesselCommands.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

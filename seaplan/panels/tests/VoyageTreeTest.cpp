@@ -3,7 +3,13 @@
 
 #include "seaplan/panels/tests/TreeFixture.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/NoteCommands.h"
+#include "seaplan/panels/tree/RemarkMark.h"
+#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeRules.h"
+#include "seaplan/panels/tree/VoyageTreeSortDlg.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

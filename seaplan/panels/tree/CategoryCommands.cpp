@@ -4,10 +4,14 @@
 #include <algorithm>
 #include <string>
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
+#include "seaplan/panels/tree/TreeParts.h"
+#include "seaplan/panels/tree/VoyageTreeSortDlg.h"
 
 namespace Tarvik::Seaplan {
 

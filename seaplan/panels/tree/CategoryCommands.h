@@ -5,10 +5,12 @@
 #include <set>
 #include <string>
 
-#include "seaplan/panels/tree/TreeParts.h"
-#include "seaplan/panels/tree/VoyageTreeSortDlg.h"
+#include "seaplan/panels/tree/TreeCollaborators.h"
 
 namespace Tarvik::Seaplan {
+
+class VoyageTreeSortDlg;
+struct TreeParts;
 
 /// Commands of a category's row. Results: 0 or the negative number of the failed step, which shows nothing.
 class CategoryCommands {

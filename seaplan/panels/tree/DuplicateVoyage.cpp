@@ -6,7 +6,13 @@
 
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/controllers/VoyageChanges.h"
+#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeRules.h"
+#include "seaplan/protocol/PortCallCommands.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,9 +4,9 @@
 #include <map>
 #include <string>
 
-#include "seaplan/panels/tree/TreeContext.h"
-
 namespace Tarvik::Seaplan {
+
+struct TreeContext;
 
 /// Why a voyage was not duplicated.
 enum class CopyFault { None, NotRead, NotSaved };

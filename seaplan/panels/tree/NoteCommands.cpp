@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/NoteCommands.h"
 
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeParts.h"
 #include "seaplan/protocol/RemarkMessages.h"
 
 namespace Tarvik::Seaplan {
@@ -55,6 +57,10 @@ int NoteCommands::Consumption() {
     const Util::_datetime_t now;
     openConsumption_(figures, voyage.portCalls.back().eta > now);
     return 0;
+}
+
+RemarkMark& NoteCommands::Mark() {
+    return p_.remark;
 }
 
 }  // namespace Tarvik::Seaplan

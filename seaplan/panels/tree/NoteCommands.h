@@ -5,9 +5,14 @@
 #include <string>
 #include <utility>
 
-#include "seaplan/panels/tree/TreeParts.h"
+#include "seaplan/data/VoyInfo.h"
+#include "seaplan/panels/tree/TreeCollaborators.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+class RemarkMark;
+struct TreeParts;
 
 /// Shows the remarks of a row's object beside the tree: the row, its kind (RemarkObject), its id and its
 /// name. Negative, with the remarks before still on show, when those could not be left.
@@ -27,7 +32,7 @@ class NoteCommands {
     const TreeCommands& OfCategory() const { return ofCategory_; }
     const TreeCommands& OfVoyage() const { return ofVoyage_; }
     /// The mark of the row whose remarks are open.
-    RemarkMark& Mark() { return p_.remark; }
+    RemarkMark& Mark();
 
   private:
     int CategoryRemarks();

@@ -2,6 +2,7 @@
 #include "seaplan/panels/tree/RemarkMark.h"
 
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
 

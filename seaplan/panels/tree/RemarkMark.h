@@ -3,9 +3,11 @@
 
 #include <string>
 
-#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+struct TreeContext;
 
 /// The mark that tells whether a category or a voyage has remarks. It keeps the id of the one whose remarks
 /// are open, as rows are made anew and their handles never come back.

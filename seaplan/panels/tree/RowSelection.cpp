@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/RowSelection.h"
 
+#include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeStatus.h"
+#include "seaplan/panels/tree/VoyagesOnChart.h"
 
 namespace Tarvik::Seaplan {
 
@@ -97,6 +101,14 @@ void RowSelection::DropCategoryRow() {
 void RowSelection::DropVoyageRow() {
     c_.tree.DeleteItem(voyageRow_);
     voyageRow_ = kNoRow;
+}
+
+VoyCategory& RowSelection::Category() const {
+    return *c_.CategoryOf(categoryRow_);
+}
+
+VoyInfo& RowSelection::Voyage() const {
+    return *c_.VoyageOf(voyageRow_);
 }
 
 }  // namespace Tarvik::Seaplan

@@ -3,11 +3,15 @@
 
 #include <string>
 
-#include "seaplan/panels/tree/TreeContext.h"
-#include "seaplan/panels/tree/TreeStatus.h"
-#include "seaplan/panels/tree/VoyagesOnChart.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+class TreeStatus;
+struct VoyCategory;
+struct VoyInfo;
+class VoyagesOnChart;
+struct TreeContext;
 
 /// The selected row, and the rows of the last click, on which the commands work.
 class RowSelection {
@@ -32,8 +36,8 @@ class RowSelection {
     TreeRow CategoryRow() const { return categoryRow_; }
     TreeRow VoyageRow() const { return voyageRow_; }
     /// Records of the current rows; only for a command, which a click has made sure of.
-    VoyCategory& Category() const { return *c_.CategoryOf(categoryRow_); }
-    VoyInfo& Voyage() const { return *c_.VoyageOf(voyageRow_); }
+    VoyCategory& Category() const;
+    VoyInfo& Voyage() const;
 
   private:
     TreeContext& c_;

@@ -3,9 +3,11 @@
 
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
 

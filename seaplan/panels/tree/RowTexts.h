@@ -5,11 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 /// What rows show beside their records: labels and tool tips in the language in force, and how many voyages a
 /// category has.
 namespace Tarvik::Seaplan {
+
+struct TreeContext;
 
 /// Labels and tips of rows in the language in force when this is made: asking for each row costs more than
 /// the row itself, so whoever makes many rows keeps it as long as that takes.

@@ -1,7 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 
+#include <utility>
+
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/tree/CategoryCommands.h"
+#include "seaplan/panels/tree/NoteCommands.h"
 #include "seaplan/panels/tree/RowTexts.h"
+#include "seaplan/panels/tree/TableVoyage.h"
+#include "seaplan/panels/tree/TrackCommands.h"
+#include "seaplan/panels/tree/TreeKeys.h"
+#include "seaplan/panels/tree/TreeParts.h"
+#include "seaplan/panels/tree/TreeUndo.h"
+#include "seaplan/panels/tree/VesselCommands.h"
+#include "seaplan/panels/tree/VoyageCommands.h"
+#include "seaplan/panels/tree/VoyageTreeSortDlg.h"
 
 namespace Tarvik::Seaplan {
 
@@ -20,30 +34,54 @@ const TreeCommand* CommandOf(const std::string& item, const TreeCommands& one, c
 
 }  // namespace
 
+/// The rows' parts and the classes of the commands, by task.
+struct SeaplanTreeCtrl::Parts {
+    Parts(const TreeCollaborators& given, SeaplanTreeCtrl& tree)
+        : parts(given),
+          sortPanel(given.sortPopup,
+                    [&tree](const std::string& ci, int key) { return tree.SetSortKey(ci, key); }),
+          categories(parts, sortPanel, [&tree] { return tree.ReloadTree(); }),
+          voyages(parts),
+          vessels(parts, given.vesselView),
+          tracks(parts),
+          notes(parts),
+          keys(given.tree,
+               {[&tree](TreeRow row) { tree.OnRowPressed(row); },
+                [&tree](TreeRow row) { tree.OnRowPressed(row, true); },
+                [&tree](TreeRow row, const std::string& item) { return tree.OnItemClicked(row, item); },
+                [this] { categories.Add(categories.NewName()); }, [this] { return undo.Undo(); }}),
+          undo(parts,
+               {[&tree] { return tree.ReloadTree(); },
+                [&tree](TreeRow row, const std::string& item) { return tree.OnItemClicked(row, item); }}),
+          ofCategory(categories.Table()),
+          ofVoyage(voyages.Table()) {
+        ofVoyage.merge(vessels.Table());
+        ofVoyage.merge(tracks.Table());
+    }
+
+    TreeParts parts;
+    VoyageTreeSortDlg sortPanel;
+    CategoryCommands categories;
+    VoyageCommands voyages;
+    VesselCommands vessels;
+    TrackCommands tracks;
+    NoteCommands notes;
+    TreeKeys keys;
+    TreeUndo undo;
+    TreeCommands ofCategory;
+    TreeCommands ofVoyage;
+};
+
 SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
-    : parts_(given),
-      sortPanel_(given.sortPopup, [this](const std::string& ci, int key) { return SetSortKey(ci, key); }),
-      categories_(parts_, sortPanel_, [this] { return ReloadTree(); }),
-      voyages_(parts_),
-      vessels_(parts_, given.vesselView),
-      tracks_(parts_),
-      notes_(parts_),
-      keys_(given.tree,
-            {[this](TreeRow row) { OnRowPressed(row); }, [this](TreeRow row) { OnRowPressed(row, true); },
-             [this](TreeRow row, const std::string& item) { return OnItemClicked(row, item); },
-             [this] { categories_.Add(categories_.NewName()); }, [this] { return undo_.Undo(); }}),
-      undo_(parts_, {[this] { return ReloadTree(); },
-                     [this](TreeRow row, const std::string& item) { return OnItemClicked(row, item); }}),
-      commands_{categories_.Table(), voyages_.Table()} {
-    commands_.ofVoyage.merge(vessels_.Table());
-    commands_.ofVoyage.merge(tracks_.Table());
-}
+    : in_(std::make_unique<Parts>(given, *this)) {}
+
+SeaplanTreeCtrl::~SeaplanTreeCtrl() = default;
 
 int SeaplanTreeCtrl::ReloadTree() {
-    TreeContext& c = parts_.context;
+    TreeContext& c = in_->parts.context;
     // The rows point into records that the load replaces.
-    parts_.rename.Abandon();
-    vessels_.Editor().Hide();
+    in_->parts.rename.Abandon();
+    in_->vessels.Editor().Hide();
     std::string user;
     if (c.catalog.Connect(user) != 0) {
         return -1;
@@ -55,8 +93,8 @@ int SeaplanTreeCtrl::ReloadTree() {
     for (const auto& [ci, category] : c.store.categories) {
         c.categorySorts[ci] = {};
     }
-    parts_.selection.Forget();
-    if (parts_.builder.RebuildAll() != 0) {
+    in_->parts.selection.Forget();
+    if (in_->parts.builder.RebuildAll() != 0) {
         return -3;
     }
     if (CountAndMark(c) != 0) {
@@ -68,17 +106,17 @@ int SeaplanTreeCtrl::ReloadTree() {
 
 void SeaplanTreeCtrl::OnViewShown(bool shown) {
     if (shown) {
-        parts_.chart.MarkAll();
-        tracks_.MarkAll();
+        in_->parts.chart.MarkAll();
+        in_->tracks.MarkAll();
         return;
     }
     CloseEditors();
-    parts_.context.chartMarks.clear();
-    parts_.context.voyages.ClearChart();
+    in_->parts.context.chartMarks.clear();
+    in_->parts.context.voyages.ClearChart();
 }
 
 int SeaplanTreeCtrl::SetShowDeleted(bool shown) {
-    parts_.context.showDeleted = shown;
+    in_->parts.context.showDeleted = shown;
     return ReloadTree();
 }
 
@@ -86,8 +124,8 @@ int SeaplanTreeCtrl::SetSortKey(const std::string& ci, int sortKey) {
     if (ci.empty()) {
         return -1;
     }
-    const auto sort = parts_.context.categorySorts.find(ci);
-    if (sort == parts_.context.categorySorts.end()) {
+    const auto sort = in_->parts.context.categorySorts.find(ci);
+    if (sort == in_->parts.context.categorySorts.end()) {
         return -2;
     }
     sort->second.sortKey = sortKey;
@@ -95,58 +133,123 @@ int SeaplanTreeCtrl::SetSortKey(const std::string& ci, int sortKey) {
 }
 
 void SeaplanTreeCtrl::CloseEditors() {
-    parts_.rename.Commit();
-    sortPanel_.Hide();
-    vessels_.Editor().Hide();
+    in_->parts.rename.Commit();
+    in_->sortPanel.Hide();
+    in_->vessels.Editor().Hide();
 }
 
 void SeaplanTreeCtrl::ForgetAfterLogout() {
     // The records that the rows point to are gone.
-    parts_.context.tree.DeleteAllItems();
-    parts_.context.categorySorts.clear();
-    parts_.rename.Abandon();
-    parts_.remark.Open(kNoRow);
+    in_->parts.context.tree.DeleteAllItems();
+    in_->parts.context.categorySorts.clear();
+    in_->parts.rename.Abandon();
+    in_->parts.remark.Open(kNoRow);
     CloseEditors();
-    parts_.context.chartMarks.clear();
-    parts_.context.steps.Clear();
-    parts_.context.Say({});
-    parts_.selection.Forget();
+    in_->parts.context.chartMarks.clear();
+    in_->parts.context.steps.Clear();
+    in_->parts.context.Say({});
+    in_->parts.selection.Forget();
 }
 
 void SeaplanTreeCtrl::ApplyLanguage() {
-    ApplyAllRowTexts(parts_.context.tree);
-    parts_.status.ShowKnown();
-    sortPanel_.ApplyLanguage();
+    ApplyAllRowTexts(in_->parts.context.tree);
+    in_->parts.status.ShowKnown();
+    in_->sortPanel.ApplyLanguage();
 }
 
 bool SeaplanTreeCtrl::HasCommand(const std::string& item) const {
-    return CommandOf(item, commands_.ofCategory, commands_.ofVoyage) != nullptr ||
-           CommandOf(item, notes_.OfCategory(), notes_.OfVoyage()) != nullptr;
+    return CommandOf(item, in_->ofCategory, in_->ofVoyage) != nullptr ||
+           CommandOf(item, in_->notes.OfCategory(), in_->notes.OfVoyage()) != nullptr;
 }
 
 void SeaplanTreeCtrl::OnRowPressed(TreeRow row, bool fold) {
-    TreeContext& c = parts_.context;
+    TreeContext& c = in_->parts.context;
     if (fold && c.IsCategoryRow(row)) {
         c.tree.Expand(row, !c.tree.IsItemExpanded(row));
     }
-    parts_.selection.Press(row);
+    in_->parts.selection.Press(row);
 }
 
 int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
-    if (const int failed = parts_.selection.Take(row); failed != 0) {
+    if (const int failed = in_->parts.selection.Take(row); failed != 0) {
         return failed;
     }
-    const bool isCategory = parts_.context.IsCategoryRow(row);
-    if (PortCallOpener* panel = isCategory ? nullptr : parts_.PortCalls()) {
-        panel->SetVoyage(parts_.selection.Voyage().vi);
+    const bool isCategory = in_->parts.context.IsCategoryRow(row);
+    if (PortCallOpener* panel = isCategory ? nullptr : in_->parts.PortCalls()) {
+        panel->SetVoyage(in_->parts.selection.Voyage().vi);
     }
-    const TreeCommand* command = isCategory ? CommandOf(item, commands_.ofCategory, notes_.OfCategory())
-                                            : CommandOf(item, commands_.ofVoyage, notes_.OfVoyage());
+    const TreeCommand* command = isCategory ? CommandOf(item, in_->ofCategory, in_->notes.OfCategory())
+                                            : CommandOf(item, in_->ofVoyage, in_->notes.OfVoyage());
     if (command == nullptr) {
         return 1;
     }
     const int result = (*command)();
     return result < 0 ? result : 1;
+}
+
+void SeaplanTreeCtrl::SetPortCallPanel(PortCallSource panel) {
+    in_->parts.portCalls = std::move(panel);
+}
+
+int SeaplanTreeCtrl::RebuildCategory(const std::string& ci) {
+    return in_->parts.builder.RebuildCategory(ci);
+}
+
+int SeaplanTreeCtrl::ComputeStatus(const std::string& vi) {
+    return in_->parts.status.Compute(vi);
+}
+
+int SeaplanTreeCtrl::ShowStatus(const std::string& vi) {
+    return in_->parts.status.Show(vi);
+}
+
+int SeaplanTreeCtrl::ShowDates(TreeRow row, const VoyInfo& voyage) {
+    return in_->parts.status.ShowDates(row, voyage);
+}
+
+void SeaplanTreeCtrl::SetRemarkMark(TreeRow row, bool on) {
+    in_->parts.remark.Set(row, on);
+}
+
+int SeaplanTreeCtrl::RefreshVoyageRow(const std::string& vi) {
+    return in_->parts.status.RefreshRow(vi);
+}
+
+int SeaplanTreeCtrl::OpenVesselEditor(const std::string& vi) {
+    return in_->vessels.OpenEditor(vi);
+}
+
+int SeaplanTreeCtrl::CreateVoyageFromTable(const std::string& category, const std::string& voyage,
+                                           TableVoyage& out) {
+    return Seaplan::CreateVoyageFromTable(in_->parts, category, voyage, out);
+}
+
+TreeKeys& SeaplanTreeCtrl::Keys() {
+    return in_->keys;
+}
+
+CategoryCommands& SeaplanTreeCtrl::Categories() {
+    return in_->categories;
+}
+
+TreeRename& SeaplanTreeCtrl::Renaming() {
+    return in_->parts.rename;
+}
+
+NoteCommands& SeaplanTreeCtrl::Notes() {
+    return in_->notes;
+}
+
+VesselCommands& SeaplanTreeCtrl::Vessels() {
+    return in_->vessels;
+}
+
+VoyageTreeSortDlg& SeaplanTreeCtrl::SortPanel() {
+    return in_->sortPanel;
+}
+
+TreeContext& SeaplanTreeCtrl::Context() {
+    return in_->parts.context;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "seaplan/panels/tree/TreeParts.h"
-
 namespace Tarvik::Seaplan {
+
+struct TreeParts;
 
 /// The voyage that a port distance table is kept as, and its category.
 struct TableVoyage {

@@ -8,9 +8,12 @@
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/calculation/Units.h"
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeParts.h"
 
 namespace Tarvik::Seaplan {
 

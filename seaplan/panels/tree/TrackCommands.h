@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tree/TreeParts.h"
+#include "seaplan/panels/tree/TreeCollaborators.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+struct VoyInfo;
+struct TreeParts;
 
 /// What a voyage's row does with the track of its vessel: showing, hiding, and correcting the port calls by
 /// the last position. Results: 0 or the negative number of the failed step.

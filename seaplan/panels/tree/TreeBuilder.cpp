@@ -2,8 +2,11 @@
 #include "seaplan/panels/tree/TreeBuilder.h"
 
 #include "seaplan/calculation/Units.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeRules.h"
+#include "seaplan/panels/tree/TreeStatus.h"
 
 namespace Tarvik::Seaplan {
 

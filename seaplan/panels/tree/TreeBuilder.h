@@ -6,10 +6,14 @@
 #include <vector>
 
 #include "seaplan/panels/tree/RowTexts.h"
-#include "seaplan/panels/tree/TreeContext.h"
-#include "seaplan/panels/tree/TreeStatus.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+class TreeStatus;
+struct VoyCategory;
+struct VoyInfo;
+struct TreeContext;
 
 /// Makes the rows of the tree from the store. Results: 0 or the negative number of the failed step; rows made
 /// before it stay.
@@ -17,6 +21,8 @@ class TreeBuilder {
   public:
     TreeBuilder(TreeContext& context, TreeStatus& status) : c_(context), status_(status) {}
 
+    /// Every row anew. -1 a category of the store's voyages has no record or state; -2 the voyages of one; -3
+    /// an empty category without state.
     int RebuildAll();
     /// -1 empty id or no row; -2 no voyages; -3 unknown voyage; -4 or -6 no sort state; -5 unknown sort key.
     int RebuildCategory(const std::string& ci);

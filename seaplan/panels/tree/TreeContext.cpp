@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/TreeContext.h"
 
+#include "seaplan/controllers/VoyController.h"
+
 namespace Tarvik::Seaplan {
 
 TreeRow TreeContext::FindCategoryRow(const std::string& ci) const {

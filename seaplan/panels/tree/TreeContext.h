@@ -5,8 +5,6 @@
 #include <map>
 #include <string>
 
-#include "seaplan/controllers/VoyCatalogController.h"
-#include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/panels/tree/TreeRules.h"
 #include "seaplan/panels/tree/TreeSteps.h"
@@ -14,6 +12,9 @@
 #include "seaplan/panels/window/Boxes.h"
 
 namespace Tarvik::Seaplan {
+
+class VoyCatalogController;
+class VoyController;
 
 /// Draw mode of a schedule that is only read.
 inline constexpr int kWithoutDrawing = -1;

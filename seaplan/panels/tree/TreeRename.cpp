@@ -3,9 +3,12 @@
 
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeRules.h"
+#include "seaplan/panels/window/TextBox.h"
 
 namespace Tarvik::Seaplan {
 

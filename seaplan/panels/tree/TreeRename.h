@@ -6,10 +6,12 @@
 #include <string>
 
 #include "seaplan/panels/editors/TextField.h"
-#include "seaplan/panels/tree/TreeContext.h"
-#include "seaplan/panels/window/TextBox.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+class TextBox;
+struct TreeContext;
 
 /// Renaming a row in place.
 class TreeRename {

@@ -3,9 +3,11 @@
 
 #include <map>
 
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
 
@@ -14,6 +16,9 @@ namespace {
 constexpr const char* kDateFormat = "%Y-%m-%d";
 
 }  // namespace
+
+TreeStatus::TreeStatus(TreeContext& context)
+    : c_(context), queue_(context.tree, [this](const std::string& vi, TreeRow row) { Find(vi, row); }) {}
 
 int TreeStatus::Compute(const std::string& vi) {
     if (vi.empty()) {

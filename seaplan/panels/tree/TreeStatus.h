@@ -4,16 +4,18 @@
 #include <string>
 
 #include "seaplan/panels/tree/StatusQueue.h"
-#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+struct VoyInfo;
+struct TreeContext;
 
 /// Status, dates and vessel as a voyage's row shows them. Results: 0 or the negative number of the failed
 /// step.
 class TreeStatus {
   public:
-    explicit TreeStatus(TreeContext& context)
-        : c_(context), queue_(context.tree, [this](const std::string& vi, TreeRow row) { Find(vi, row); }) {}
+    explicit TreeStatus(TreeContext& context);
 
     /// Takes the status of the present time into the cache. -1 empty id, -2 unknown voyage.
     int Compute(const std::string& vi);

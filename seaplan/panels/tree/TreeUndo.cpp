@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/TreeUndo.h"
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
+#include "seaplan/panels/tree/TreeParts.h"
 
 namespace Tarvik::Seaplan {
 

@@ -2,10 +2,14 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
-#include "seaplan/panels/tree/TreeParts.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+struct TreeStep;
+struct TreeParts;
 
 /// Takes back what was done in the tree, the last change first, and says in one line what came back. What the
 /// server does not take stays to be tried again.

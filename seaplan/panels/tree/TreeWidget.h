@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "seaplan/panels/window/Boxes.h"
+#include "seaplan/panels/window/BoxOwner.h"
 #include "seaplan/panels/window/Rect.h"
 
 namespace Tarvik::Seaplan {
@@ -21,13 +21,6 @@ inline constexpr const char* kDeletedVoyageStyle = "Voyage.tree.child.del";
 /// How a row stands to what is looked for: nothing is looked for or it only leads there, it is what is looked
 /// for, or it is put aside and not shown.
 enum class RowFinding { None, Found, Aside };
-
-/// Where a person sees that something goes on which takes a while.
-class BusySign {
-  public:
-    virtual ~BusySign() = default;
-    virtual void SetBusy(bool busy) = 0;
-};
 
 /// The widget under the voyage tree: rows in two levels, each with named items. It reports presses and clicks
 /// on items to SeaplanTreeCtrl and decides nothing.

@@ -8,8 +8,11 @@
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/interface/SiblingRecords.h>
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyageChanges.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeParts.h"
 
 namespace Tarvik::Seaplan {
 

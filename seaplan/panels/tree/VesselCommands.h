@@ -3,10 +3,14 @@
 
 #include <string>
 
-#include "seaplan/panels/tree/TreeParts.h"
+#include "seaplan/panels/tree/TreeCollaborators.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
 
 namespace Tarvik::Seaplan {
+
+struct VoyInfo;
+struct TreeParts;
 
 /// The vessel of a voyage: typed, picked, shown and replaced. Results: 0 or the negative number of the failed
 /// step.

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/VoyageCommands.h"
 
+#include "seaplan/controllers/VoyCatalogController.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/DuplicateVoyage.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/RowTexts.h"
+#include "seaplan/panels/tree/TreeParts.h"
 
 namespace Tarvik::Seaplan {
 

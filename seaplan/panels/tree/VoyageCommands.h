@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/tree/TreeParts.h"
+#include "seaplan/panels/tree/TreeCollaborators.h"
 
 namespace Tarvik::Seaplan {
+
+struct TreeParts;
 
 /// Commands of a voyage's row, but for its vessel and track. Results: 0 or the negative number of the failed
 /// step.

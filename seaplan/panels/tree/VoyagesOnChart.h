@@ -3,9 +3,13 @@
 
 #include <string>
 
-#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
+
+struct VoyChartMark;
+struct VoyInfo;
+struct TreeContext;
 
 /// Keeps one voyage on the chart, plus those that are pinned. Results: 0 or the negative number of the failed
 /// step.

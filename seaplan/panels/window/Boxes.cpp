@@ -5,6 +5,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/window/BoxOwner.h"
 
 namespace Tarvik::Seaplan {
 

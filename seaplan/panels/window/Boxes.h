@@ -3,20 +3,14 @@
 
 #include <string>
 
-#include <tarvik/interface/SysMsgSink.h>
-
-#include "seaplan/panels/texts/TextId.h"
+namespace Tarvik::Interface {
+enum class SysMsgHandleRes : int;
+}
 
 namespace Tarvik::Seaplan {
 
-/// The window behind a box.
-class BoxOwner {
-  public:
-    virtual ~BoxOwner() = default;
-    virtual void SetEnabled(bool enabled) = 0;
-    /// Opaque handle of the window.
-    virtual void* Handle() const = 0;
-};
+class BoxOwner;
+enum class TextId : int;
 
 /// Message boxes of one window: level 1, and no title but a refusal's. The window is disabled while a box is
 /// up.

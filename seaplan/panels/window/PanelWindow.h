@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "seaplan/panels/window/Boxes.h"
+#include "seaplan/panels/window/BoxOwner.h"
 #include "seaplan/panels/window/Rect.h"
 
 namespace Tarvik::Seaplan {

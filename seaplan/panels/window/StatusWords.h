@@ -5,8 +5,8 @@
 
 namespace Tarvik::Seaplan {
 
-/// Says in the client's status line what is told nowhere else, as a failure for which there is no box. It
-/// stands there until the next words, or until empty ones take it away.
+/// Says something in the client's status line, as a failure for which there is no box. It stands there until
+/// the next words, or until empty ones take it away.
 void TellInStatusLine(const std::string& words);
 
 }  // namespace Tarvik::Seaplan

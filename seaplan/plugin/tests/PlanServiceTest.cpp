@@ -6,7 +6,9 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/VoyageContract.h>
 
+#include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/tests/ScheduleFixture.h"
+#include "seaplan/data/Position.h"
 #include "seaplan/plugin/PlanService.h"
 
 namespace Tarvik::Seaplan {

@@ -4,6 +4,8 @@
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/plugin/PlanService.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
+#include "testsupport/RecordingHost.h"
 
 /// What a plan that could not be saved leaves on the real server.
 namespace Tarvik::Seaplan {

@@ -7,6 +7,8 @@
 #include <string>
 
 #include "seaplan/panels/book/BookView.h"
+#include "seaplan/panels/editors/DropList.h"
+#include "seaplan/panels/window/TextBox.h"
 #include "seaplan/views/datetime/DateCell.h"
 #include "seaplan/views/editors/DroppedList.h"
 

@@ -9,6 +9,7 @@
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/WindowMessages.h>
 
+#include "seaplan/panels/book/BookCommands.h"
 #include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"

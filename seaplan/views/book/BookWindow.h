@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "seaplan/panels/book/BookSheet.h"
 #include "seaplan/panels/book/BookView.h"
 #include "seaplan/views/book/BookEditors.h"
 #include "seaplan/views/book/BookFrame.h"

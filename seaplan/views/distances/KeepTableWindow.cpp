@@ -11,6 +11,7 @@
 #include <tarvik/skin/SkinNames.h>
 
 #include "seaplan/panels/distances/CPortDistTabDlg.h"
+#include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/editors/QtKeys.h"

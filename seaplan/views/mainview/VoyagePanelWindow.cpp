@@ -10,6 +10,12 @@
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeKeys.h"
+#include "seaplan/panels/tree/TreeRename.h"
+#include "seaplan/panels/tree/VesselCommands.h"
+#include "seaplan/panels/tree/VoyageTreeSortDlg.h"
 
 namespace Tarvik::Seaplan {
 

@@ -10,6 +10,7 @@
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/panels/portcall/PortCallState.h"
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/window/DialogTexts.h"

@@ -5,7 +5,6 @@
 #include <QWidget>
 #include <functional>
 
-#include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/panels/texts/TextId.h"
 #include "seaplan/views/editors/UndoButtons.h"
 
@@ -13,6 +12,8 @@ class QPushButton;
 class QToolButton;
 
 namespace Tarvik::Seaplan {
+
+struct PortCallState;
 
 /// The commands below the table: save, clear, undo, redo, position book, calculate. A button that is off
 /// tells why.

@@ -4,6 +4,9 @@
 #include <optional>
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/CellsView.h"
+#include "seaplan/panels/portcall/PortCallState.h"
+#include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/window/ViewText.h"
 

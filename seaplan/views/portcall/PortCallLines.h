@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/views/table/TableLines.h"
 
 namespace Tarvik::Seaplan {
+
+struct PortCallState;
 
 /// The column behind those of the port calls, where the images of the rows stand.
 inline constexpr int kPortCallImageColumn = kPortCallColumnCount;

@@ -6,6 +6,8 @@
 
 #include <tarvik/skin/Palette.h>
 
+#include "seaplan/calculation/Units.h"
+#include "seaplan/panels/portcall/PortCallState.h"
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/window/ViewText.h"

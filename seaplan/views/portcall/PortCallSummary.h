@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/views/editors/UnitFigures.h"
 
 namespace Tarvik::Seaplan {
+
+struct PortCallState;
 
 /// The line below the table: the voyage's totals, and the zone of the times.
 class PortCallSummary final : public UnitFigures {

@@ -7,7 +7,12 @@
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/WindowMessages.h>
 
+#include "seaplan/panels/book/BookEditing.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/PortCallTable.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/portcall/PortCallLines.h"

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 
+#include "seaplan/panels/portcall/PortCallState.h"
 #include "seaplan/panels/portcall/PortCallView.h"
 #include "seaplan/views/portcall/PortCallButtons.h"
 #include "seaplan/views/portcall/PortCallEditors.h"

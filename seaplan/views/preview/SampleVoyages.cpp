@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/preview/SampleVoyages.h"
 
+#include "seaplan/panels/tests/DeskRoutes.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {

@@ -13,9 +13,15 @@
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/skin/Palette.h>
 
+#include "seaplan/panels/book/BookCommands.h"
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/PortCallSheet.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/views/VoyageViews.h"
 #include "seaplan/views/preview/FileTexts.h"
 #include "seaplan/views/preview/SampleVoyages.h"
+#include "testsupport/ManualClock.h"
 
 namespace {
 

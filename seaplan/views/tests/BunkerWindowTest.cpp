@@ -3,6 +3,8 @@
 #include <QLabel>
 
 #include "seaplan/views/tests/ViewsFixture.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

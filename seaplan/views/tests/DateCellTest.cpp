@@ -5,6 +5,8 @@
 
 #include <tarvik/skin/SkinNames.h>
 
+#include "seaplan/panels/book/BookEditing.h"
+#include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The consumption tells whose figures it shows.
+#include "seaplan/panels/tree/TreeKeys.h"
 #include "seaplan/views/tests/ViewsFixture.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,7 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/portcall/PortCallTable.h"
+#include "seaplan/panels/portcall/RowCommands.h"
+#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/views/tests/ViewsFixture.h"
+#include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
 

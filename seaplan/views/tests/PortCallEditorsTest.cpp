@@ -12,6 +12,7 @@
 #include <tarvik/interface/SiblingRecords.h>
 #include <tarvik/skin/WindowMessages.h>
 
+#include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/views/tests/PortCallWindowFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -6,7 +6,11 @@
 
 #include <tarvik/bus/HostContract.h>
 
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/views/tests/PortCallWindowFixture.h"
+#include "testsupport/RecordingHost.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

@@ -2,9 +2,12 @@
 /// What reaches the book's window from outside: zones, languages, passed time, presses on its buttons.
 #include <tarvik/skin/WindowMessages.h>
 
+#include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/views/book/BookLines.h"
 #include "seaplan/views/tests/PositionBookFixture.h"
+#include "testsupport/ManualClock.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

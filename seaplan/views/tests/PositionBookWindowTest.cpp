@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <QScrollBar>
 
+#include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/views/tests/PositionBookFixture.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

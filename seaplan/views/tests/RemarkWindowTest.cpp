@@ -3,9 +3,12 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 
+#include "seaplan/panels/portcall/PortCallSheet.h"
+#include "seaplan/panels/tree/NoteCommands.h"
 #include "seaplan/protocol/RemarkMessages.h"
 #include "seaplan/views/portcall/PortCallLines.h"
 #include "seaplan/views/tests/ViewsFixture.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

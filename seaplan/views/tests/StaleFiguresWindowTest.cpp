@@ -3,6 +3,7 @@
 
 #include <tarvik/skin/Palette.h>
 
+#include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/views/tests/PortCallWindowFixture.h"
 
 /// What the window shows of figures that belong to other ports.

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "seaplan/views/tests/ViewsFixture.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

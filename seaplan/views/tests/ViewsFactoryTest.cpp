@@ -15,7 +15,9 @@
 
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/protocol/VoyCatalogModule.h"
 #include "seaplan/views/ViewsFactory.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "testsupport/ManualClock.h"

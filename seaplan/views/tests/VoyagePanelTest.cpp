@@ -5,9 +5,12 @@
 #include <algorithm>
 
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/window/Boxes.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "seaplan/views/window/ViewText.h"
+#include "testsupport/RecordingHost.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

@@ -12,6 +12,7 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/PendingRoute.h"
 #include "tests/golden/voyages/GoldenFile.h"
 #include "tests/golden/voyages/SeaServer.h"
 

@@ -8,6 +8,7 @@
 #include "host/client/services/HostServices.h"
 #include "host/client/services/PortDictionary.h"
 #include "host/server/app/EmbeddedServer.h"
+#include "seaplan/data/RouteStop.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/plugin/CompositionRoot.h"
 #include "tests/golden/voyages/ChartLog.h"

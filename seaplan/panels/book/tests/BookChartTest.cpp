@@ -5,6 +5,7 @@
 #include <tarvik/bus/DragContract.h>
 
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "testsupport/ManualClock.h"
 
 namespace Tarvik::Seaplan {
 

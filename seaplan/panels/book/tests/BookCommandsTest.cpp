@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "testsupport/RecordingHost.h"
 
 /// Opening, rows, units and events of the position book.
 namespace Tarvik::Seaplan {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "testsupport/ManualClock.h"
 
 /// What opens over which cell of the book, and when it closes.
 namespace Tarvik::Seaplan {

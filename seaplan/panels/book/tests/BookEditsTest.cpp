@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
 
 /// What an edit of each column does to the book.
 namespace Tarvik::Seaplan {

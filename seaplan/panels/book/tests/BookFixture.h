@@ -6,7 +6,13 @@
 
 #include <tarvik/util/DateTimeUtl.h>
 
+#include "seaplan/panels/book/BookCommands.h"
+#include "seaplan/panels/book/BookEditing.h"
+#include "seaplan/panels/book/BookOwner.h"
+#include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/book/tests/RecordingBookView.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/tests/DeskRoutes.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {

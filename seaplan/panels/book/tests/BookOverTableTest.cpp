@@ -2,7 +2,9 @@
 /// The book and the table behind it: what a save of the one does to the other, and what a failed one tells.
 #include <gmock/gmock.h>
 
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,6 +3,8 @@
 
 #include "seaplan/calculation/book/BookPanel.h"
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "testsupport/RecordingHost.h"
 
 /// Saving, cancelling, undoing and closing of the position book.
 namespace Tarvik::Seaplan {

@@ -6,7 +6,10 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/book/BookPanel.h"
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/protocol/BookCommands.h"
+#include "seaplan/protocol/PortCallCommands.h"
 
 /// A person who does anything at all with the book.
 namespace Tarvik::Seaplan {

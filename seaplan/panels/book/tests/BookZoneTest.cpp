@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
 
 namespace Tarvik::Seaplan {
 

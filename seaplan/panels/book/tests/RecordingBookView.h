@@ -5,9 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/book/BookSheet.h"
 #include "seaplan/panels/book/BookView.h"
+#include "seaplan/panels/datetime/CalendarView.h"
+#include "seaplan/panels/editors/DropList.h"
 #include "seaplan/panels/tests/RecordingCalendar.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
+#include "seaplan/panels/window/TextBox.h"
 
 namespace Tarvik::Seaplan {
 

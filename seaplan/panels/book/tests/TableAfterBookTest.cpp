@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 
 /// The table over a book whose waypoints have speeds of their own: what it shows of a leg is the leg's
 /// average with two decimals, and that must not become the leg's speed.

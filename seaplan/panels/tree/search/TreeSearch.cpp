@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/protocol/RemarkList.h"
 
 namespace Tarvik::Seaplan {
@@ -15,6 +16,10 @@ TreeSearch::TreeSearch(TreeContext& context, SearchView& view) : c_(context), vi
             Apply();
         }
     };
+}
+
+TreeSearch::~TreeSearch() {
+    c_.rowsMade = {};
 }
 
 void TreeSearch::Open() {

@@ -7,10 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/panels/tree/TreeWidget.h"
 #include "seaplan/panels/tree/search/SearchView.h"
 
 namespace Tarvik::Seaplan {
+
+struct TreeContext;
 
 /// Finds categories and voyages among the rows of the tree. What answers is marked, what does not is put
 /// aside; at the end the categories are folded as they were. A voyage's port calls, and the remarks of what
@@ -19,7 +21,7 @@ namespace Tarvik::Seaplan {
 class TreeSearch {
   public:
     TreeSearch(TreeContext& context, SearchView& view);
-    ~TreeSearch() { c_.rowsMade = {}; }
+    ~TreeSearch();
     TreeSearch(const TreeSearch&) = delete;
     TreeSearch& operator=(const TreeSearch&) = delete;
 
