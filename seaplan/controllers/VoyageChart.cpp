@@ -9,16 +9,12 @@
 namespace Tarvik::Seaplan {
 
 std::optional<DrawMode> DrawModeOf(int number) {
-    switch (number) {
-        case -1:
-            return DrawMode::Nothing;
-        case 0:
-            return DrawMode::BookLine;
-        case 1:
-            return DrawMode::Progress;
-        default:
-            return std::nullopt;
+    for (const DrawMode mode : {DrawMode::Nothing, DrawMode::BookLine, DrawMode::Progress}) {
+        if (NumberOf(mode) == number) {
+            return mode;
+        }
     }
+    return std::nullopt;
 }
 
 Outcome<DrawStep> VoyageChart::Draw(const VoyInfo& voyage, DrawMode mode) {

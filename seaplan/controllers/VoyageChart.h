@@ -11,14 +11,18 @@ namespace Tarvik::Seaplan {
 class VoyPortCallModule;
 struct VoyInfo;
 
-/// How a schedule that was loaded or saved goes onto the chart.
-enum class DrawMode {
-    Nothing,   ///< -1 in the required operations
-    BookLine,  ///< 0: the book as one line, without a ship
-    Progress,  ///< 1: lines sailed and remaining with the ship; remembers the voyage
+/// How a schedule that was loaded or saved goes onto the chart, with its number in the required operations.
+enum class DrawMode : int {
+    Nothing = -1,
+    BookLine = 0,  ///< the book as one line, without a ship
+    Progress = 1,  ///< lines sailed and remaining with the ship; remembers the voyage
 };
 /// The mode of the required number; nothing for another one.
 std::optional<DrawMode> DrawModeOf(int number);
+/// The other way round.
+constexpr int NumberOf(DrawMode mode) {
+    return static_cast<int>(mode);
+}
 
 enum class DrawStep { Progress, BookLine };
 

@@ -89,7 +89,7 @@ int CPortCallPanelDlg::SaveFigures(const BunkerFigures& figures) {
 }
 
 int CPortCallPanelDlg::FillForVoyage(int mode) {
-    return in_->filling.Open(mode);
+    return in_->filling.Open(DrawModeOf(mode).value_or(DrawMode::Nothing));
 }
 
 void CPortCallPanelDlg::Reset() {

@@ -40,6 +40,8 @@ class CPortCallPanelDlg final : public Core::TObject, public PortCallOpener, pub
     const std::string& NextVoyage() const;
     /// Saves consumption figures for that voyage. 0 or negative.
     int SaveFigures(const BunkerFigures& figures);
+    /// Shows it; `mode` as VoyController::LoadSchedule draws, a number that is none draws nothing:
+    /// VoyageFilling::Open.
     int FillForVoyage(int mode) override;
     void Reset() override;
     void ShowBesideTree() override;

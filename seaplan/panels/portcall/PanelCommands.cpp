@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/PanelCommands.h"
 
-#include <algorithm>
-#include <utility>
-
-#include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/PortDirectory.h"
-#include "seaplan/panels/book/BookSheet.h"
 #include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CellEditing.h"
@@ -26,8 +21,6 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr const char* kHelpTopic = "func034";
-/// Result of Calculate for a saved voyage that has its new rows, which the server did not take.
-constexpr int kCalculatedNotSaved = -5;
 
 /// A notice with the cause of the last failure as its second line.
 void TellFailure(PortCallDesk& desk, TextId id) {
@@ -35,90 +28,6 @@ void TellFailure(PortCallDesk& desk, TextId id) {
 }
 
 }  // namespace
-
-int PanelCommands::Prepare(PortCallRows& rows) const {
-    PortCallRows read;
-    if (desk_.Sheet().ReadUnrounded(read) != 0) {
-        return -1;
-    }
-    PrepareFirstPurpose(read);
-    return DropSamePortRows(read, desk_.Ports().SamePorts(), rows) == 0 ? 0 : -1;
-}
-
-/// The schedule of new rows. A distance table has no voyage whose legs could be kept; its route waits for the
-/// one that it may become.
-int PanelCommands::Schedule(const PortCallRows& rows, PortCallRows& result, int& hadPortCalls) {
-    VoyController& voyages = desk_.Voyages();
-    const PortCallSheet& sheet = desk_.Sheet();
-    if (!sheet.state.distanceTable) {
-        return voyages.CalculateForVoyage(sheet.voyageId, rows, result, hadPortCalls);
-    }
-    const int code = voyages.CalculatePortCalls(rows, result);
-    if (code == 0) {
-        voyages.Module().Pending().Assign(sheet.voyageId);
-    }
-    return code;
-}
-
-int PanelCommands::Calculate() {
-    PortCallRows rows;
-    if (Prepare(rows) != 0) {
-        desk_.Sheet().cause = Text(TextIds::IDS_VIEW_NEEDTWOPORTS);
-        return -1;
-    }
-    PortCallRows result;
-    int hadPortCalls = 0;
-    const bool failed = [&] {
-        const PortCallDesk::Busy busy(desk_);
-        return Schedule(rows, result, hadPortCalls) != 0;
-    }();
-    if (failed) {
-        desk_.SetCauseOfFault();
-        return -2;
-    }
-    const PortCallNote note = NoteOfRoute();
-    const int shown = hadPortCalls == 0 ? ShowCalculated(rows, std::move(result)) : ShowAndSave();
-    desk_.SetNote(note);
-    return shown;
-}
-
-/// Known legs are told with the day of the oldest, in the zone of the rows, for as long as these stand there.
-PortCallNote PanelCommands::NoteOfRoute() const {
-    return NoteOfKnownLegs(desk_.Voyages().Module().Pending().KnownSince(), desk_.Sheet().state.zone);
-}
-
-int PanelCommands::ShowCalculated(const PortCallRows& rows, PortCallRows result) {
-    KeepPortIds(rows, result);
-    if (desk_.ShowChangedRows(result) != 0) {
-        return -3;
-    }
-    desk_.Sheet().stored.NoteRoute(desk_.Sheet().table);
-    return 0;
-}
-
-/// The result stands in the voyage already, with all that was changed here: nothing is left to ask about.
-int PanelCommands::ShowAndSave() {
-    PortCallSheet& sheet = desk_.Sheet();
-    const auto stored = sheet.stored;
-    const bool unread = sheet.unread;
-    sheet.state.changed = false;
-    desk_.Voyages().RemoveVoyageObjects(sheet.voyageId);
-    desk_.View().Hide();
-    const int filled = filling_.Fill(1);
-    desk_.View().Show();
-    if (filled != 0) {
-        return -4;
-    }
-    // What stands there now was calculated, and tells nothing of the port calls that the server has.
-    sheet.unread = unread;
-    if (filling_.SaveTable(sheet.voyageId, -1) == 0) {
-        return 0;
-    }
-    sheet.stored = stored;
-    sheet.stored.NoteRoute(sheet.table);
-    sheet.MarkChanged(desk_.Ports());
-    return kCalculatedNotSaved;
-}
 
 void PanelCommands::OnCalculate() {
     const PortCallDesk::Report report(desk_);
@@ -128,7 +37,8 @@ void PanelCommands::OnCalculate() {
         return;
     }
     if (corrected <= 0) {
-        if (Calculate() == kCalculatedNotSaved) {
+        const auto calculated = calculation_.Calculate();
+        if (calculated.Failed() && calculated.At() == TableStep::Save) {
             TellFailure(desk_, TextIds::IDS_PORTCALL_SAVEEXCEPTION);
         }
     } else if (corrected_.Calculate() != 0) {
@@ -140,23 +50,15 @@ void PanelCommands::OnCalculate() {
 int PanelCommands::OnRouteChosen() {
     // A closed panel has no table of its own to follow with.
     if (!desk_.View().IsVisible()) {
-        return -4;
+        return kFollowRouteCodes.Of(FollowStep::Closed);
     }
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
-    PortCallRows rows;
-    if (desk_.Sheet().ReadStandard(rows) != 0) {
-        return -1;
+    const auto followed = calculation_.FollowRoute();
+    if (!followed.Failed() || followed.At() == FollowStep::Show) {
+        desk_.History().Take({TextIds::IDS_VIEW_EDITROUTE});
     }
-    PortCallRows result;
-    if (!desk_.Voyages().Module().Pending().IsFor(desk_.Sheet().voyageId) ||
-        desk_.Voyages().ScheduleCurrentRoute(rows, result) != 0) {
-        return -2;
-    }
-    desk_.SetNote(NoteOfRoute());
-    const int shown = ShowCalculated(rows, std::move(result));
-    desk_.History().Take({TextIds::IDS_VIEW_EDITROUTE});
-    return shown;
+    return kFollowRouteCodes.Of(followed);
 }
 
 void PanelCommands::OnSave() {
@@ -180,38 +82,14 @@ void PanelCommands::OnSave() {
     }
 }
 
-/// Saves the rows, calculated first where they have no distances, or the voyage no book or route of theirs.
-/// 0; -1 fewer than two rows; -2 they cannot be calculated, and nothing was sent; -3 not saved.
-int PanelCommands::SaveRows(int drawMode) {
-    PortCallSheet& sheet = desk_.Sheet();
-    const PortCallRows rows = sheet.table.ReadRows();
-    if (rows.size() < 2) {
-        desk_.Sheet().cause = Text(TextIds::IDS_VIEW_NEEDTWOPORTS);
-        return -1;
-    }
-    const bool missing = std::any_of(rows.begin() + 1, rows.end(), [](const VoyPortCall& row) {
-        return static_cast<double>(row.distance) < kNoDistance;
-    });
-    if (missing || !desk_.Voyages().HasRouteFor(sheet.voyageId, rows)) {
-        if (Calculate() != 0) {
-            return -2;
-        }
-        // The calculation of a saved voyage has saved it, and only a drawing is left to do.
-        if (!sheet.state.changed && drawMode < 0) {
-            return 0;
-        }
-    }
-    return filling_.SaveTable(sheet.voyageId, drawMode) == 0 ? 0 : -3;
-}
-
 void PanelCommands::SavePlain() {
     const PortCallDesk::Report report(desk_);
-    const int result = SaveRows(1);
-    if (result < -1) {
-        TellFailure(desk_, TextIds::IDS_PORTCALL_SAVEEXCEPTION);
-    } else if (result == 0) {
+    const auto saved = calculation_.Save(DrawMode::Progress);
+    if (!saved.Failed()) {
         desk_.Sheet().MarkUnchanged();
         desk_.Sheet().state.canOpenBook = true;
+    } else if (saved.At() != SaveRowsStep::Rows) {
+        TellFailure(desk_, TextIds::IDS_PORTCALL_SAVEEXCEPTION);
     }
     // A save may have calculated first.
     desk_.History().Take({TextIds::IDS_VIEW_EDITCALCULATE});
@@ -221,7 +99,8 @@ int PanelCommands::SaveBeforeLeaving() {
     int corrected = 0;
     const bool known = desk_.Voyages().GetModAis(desk_.Sheet().voyageId, corrected) == 0;
     // Rows of a corrected voyage hold the ship's positions, which are no port calls.
-    if (known && (corrected > 0 ? corrected_.Calculate() : SaveRows(-1)) == 0) {
+    if (known &&
+        (corrected > 0 ? corrected_.Calculate() == 0 : !calculation_.Save(DrawMode::Nothing).Failed())) {
         return 0;
     }
     TellFailure(desk_, TextIds::IDS_PORTCALL_SAVEEXCEPTION);
@@ -304,6 +183,10 @@ int PanelCommands::SavePositionBook(const PosBookData& book) {
     desk_.Voyages().RemoveVoyageObjects(bookVoyage_);
     desk_.Voyages().ShowVoyage(bookVoyage_);
     return 0;
+}
+
+std::string PanelCommands::BookVoyage() const {
+    return desk_.Voyages().NameOf(bookVoyage_);
 }
 
 void PanelCommands::OnHelp() {

@@ -6,14 +6,13 @@
 
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/PosBookData.h"
-#include "seaplan/data/VoyPortCall.h"
+#include "seaplan/panels/portcall/TableCalculation.h"
 
 namespace Tarvik::Seaplan {
 
 class CellEditing;
 class CorrectedSchedule;
 class PortCallDesk;
-struct PortCallNote;
 class VoyageFilling;
 
 /// The buttons around the table. Each takes what is being typed first.
@@ -21,11 +20,15 @@ class PanelCommands {
   public:
     PanelCommands(PortCallDesk& desk, CellEditing& editing, CorrectedSchedule& corrected,
                   VoyageFilling& filling)
-        : desk_(desk), editing_(editing), corrected_(corrected), filling_(filling) {}
+        : desk_(desk),
+          editing_(editing),
+          corrected_(corrected),
+          filling_(filling),
+          calculation_(desk, filling) {}
 
     void OnCalculate();
     /// The pending route was changed on the chart: its distances and times go into the table that is
-    /// open. -1 no rows, -2 a route of other ports, -3 the rows do not fit, -4 no table is open.
+    /// open. kFollowRouteCodes.
     int OnRouteChosen();
     void OnSave();
     /// Saves the rows of a plain voyage, calculated first where they have no distances, and tells where that
@@ -42,7 +45,7 @@ class PanelCommands {
     /// the number of VoyController::SavePositionBook, which is told.
     int SavePositionBook(const PosBookData& book);
     /// Name of the voyage whose book was opened last.
-    std::string BookVoyage() const { return desk_.Voyages().NameOf(bookVoyage_); }
+    std::string BookVoyage() const;
     void OnHelp();
     /// The table as it was before the last edit, or behind it again, with the route that it had; nothing
     /// where there is none.
@@ -54,18 +57,11 @@ class PanelCommands {
     int OnUnitChosen(UnitKind kind, const std::string& unit);
 
   private:
-    int Prepare(PortCallRows& rows) const;
-    int Schedule(const PortCallRows& rows, PortCallRows& result, int& hadPortCalls);
-    int Calculate();
-    PortCallNote NoteOfRoute() const;
-    int ShowCalculated(const PortCallRows& rows, PortCallRows result);
-    int ShowAndSave();
-    int SaveRows(int drawMode);
-
     PortCallDesk& desk_;
     CellEditing& editing_;
     CorrectedSchedule& corrected_;
     VoyageFilling& filling_;
+    TableCalculation calculation_;
     std::string bookVoyage_;  ///< the voyage whose book was opened last
 };
 

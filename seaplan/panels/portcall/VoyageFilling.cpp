@@ -3,20 +3,15 @@
 
 #include <utility>
 
-#include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/PendingRoute.h"
-#include "seaplan/controllers/ScheduleLoading.h"
-#include "seaplan/controllers/ScheduleSaving.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/controllers/VoyageRecords.h"
-#include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/CorrectedSchedule.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
-#include "seaplan/protocol/PortCallCommands.h"
 
 namespace Tarvik::Seaplan {
 
@@ -25,45 +20,6 @@ namespace {
 constexpr const char* kNoVoyageText = "数据状态异常，请确认是否已登陆或者掉线？";
 
 }  // namespace
-
-int VoyageFilling::SaveTable(const std::string& vi, int drawMode) {
-    if (vi.empty()) {
-        return -1;
-    }
-    PortCallRows rows;
-    desk_.Sheet().cause.clear();
-    if (desk_.Sheet().ReadUnrounded(rows) != 0) {
-        return -2;
-    }
-    if (!MayReplace(vi)) {
-        return -4;
-    }
-    const bool done = [&] {
-        const PortCallDesk::Busy busy(desk_);
-        return IsScheduleSaved(desk_.Voyages().SaveSchedule(vi, rows, drawMode));
-    }();
-    if (!done) {
-        desk_.SetCauseOfFault();
-        return -3;
-    }
-    desk_.Sheet().unread = false;
-    desk_.TellSaved(vi);
-    return 0;
-}
-
-/// A table that could not be read must not replace what the server has.
-bool VoyageFilling::MayReplace(const std::string& vi) {
-    constexpr int kNoList = -2;
-    PortCallSheet& sheet = desk_.Sheet();
-    if (sheet.unread) {
-        PortCallRows stored;
-        const int read = desk_.Voyages().Module().LoadPortCalls(vi, stored);
-        sheet.unread = read != kNoPortCalls;
-        desk_.Sheet().cause =
-            Text(read == kNoList ? TextIds::IDS_VIEW_FAULTCONNECTION : TextIds::IDS_VIEW_FAULTUNREAD);
-    }
-    return !sheet.unread;
-}
 
 bool VoyageFilling::MayLeave() {
     // Whoever comes by the keyboard has pressed nowhere that would have taken what is being typed.
@@ -98,7 +54,7 @@ bool VoyageFilling::AskToLeave() {
     // What was given up does not stay in sight where nothing else comes.
     if (changed) {
         desk_.History().Begin();
-        Show(-1);
+        Show(DrawMode::Nothing);
     }
     return true;
 }
@@ -131,7 +87,7 @@ void VoyageFilling::Reset() {
         return Clear();
     }
     // Whoever asks for empty rows may not know that the voyage has some.
-    Fill(-1);
+    Fill(DrawMode::Nothing);
 }
 
 int VoyageFilling::OpenDistanceTable() {
@@ -141,7 +97,7 @@ int VoyageFilling::OpenDistanceTable() {
     }
     TakeOver(kDistanceTableId);
     desk_.History().Begin();
-    return Fill(-1);
+    return Fill(DrawMode::Nothing);
 }
 
 void VoyageFilling::Adopt(const std::string& vi) {
@@ -166,7 +122,7 @@ void VoyageFilling::OnTimeZone(const std::string& zone) {
     if (desk_.View().IsVisible() && MayLeave()) {
         desk_.Sheet().state.zone = zone;
         desk_.History().Begin();
-        Show(-1);
+        Show(DrawMode::Nothing);
     }
 }
 
@@ -193,12 +149,12 @@ void VoyageFilling::Forget() {
 int VoyageFilling::Refill() {
     // Whoever chose another voyage meanwhile, as for its consumption, means that one still.
     const std::string next = std::exchange(next_, desk_.Sheet().voyageId);
-    const int opened = Open(-1);
+    const int opened = Open(DrawMode::Nothing);
     next_ = next;
     return opened;
 }
 
-int VoyageFilling::Open(int mode) {
+int VoyageFilling::Open(DrawMode mode) {
     const PortCallDesk::Report report(desk_);
     int corrected = 0;
     if (!next_.empty() && desk_.Voyages().GetModAis(next_, corrected) != 0) {
@@ -216,7 +172,7 @@ int VoyageFilling::Open(int mode) {
 }
 
 /// The voyage on show in the form that it has now.
-int VoyageFilling::Show(int mode) {
+int VoyageFilling::Show(DrawMode mode) {
     if (desk_.IsCorrected()) {
         editing_.HideEditors();
         if (corrected_.Fill() == 0) {
@@ -228,7 +184,7 @@ int VoyageFilling::Show(int mode) {
     return Fill(mode);
 }
 
-int VoyageFilling::Fill(int mode) {
+int VoyageFilling::Fill(DrawMode mode) {
     Clear();
     if (desk_.Sheet().voyageId.empty()) {
         desk_.ToPerson().NoticeText(kNoVoyageText);
@@ -242,52 +198,9 @@ int VoyageFilling::Fill(int mode) {
     return Load(mode);
 }
 
-/// Rows that came without a book of theirs, as a save leaves them that broke off: they wait to be calculated.
-/// Without any rows nobody knows whether the voyage has some.
-void VoyageFilling::ShowUnfinished(int code, PortCallRows rows) {
-    PortCallSheet& sheet = desk_.Sheet();
-    const bool without =
-        code == kLoadScheduleCodes.Of(LoadStep::Book) || code == kLoadScheduleCodes.Of(LoadStep::Totals);
-    sheet.unread = !without || rows.empty();
-    if (!sheet.unread) {
-        ResolvePortIds(rows);
-        sheet.ShowEntered(rows);
-        sheet.MarkUnchanged();
-        sheet.MarkChanged(desk_.Ports());
-        desk_.SetNote({PortCallNote::Kind::Unfinished});
-    }
-}
-
-int VoyageFilling::Load(int mode) {
-    PortCallSheet& sheet = desk_.Sheet();
-    PortCallRows loaded;
-    const int code = [&] {
-        const PortCallDesk::Busy busy(desk_);
-        return desk_.Voyages().LoadSchedule(sheet.voyageId, loaded, mode);
-    }();
-    if (!IsScheduleLoaded(code)) {
-        Clear();
-        ShowUnfinished(code, std::move(loaded));
-        return 0;
-    }
-    PortCallRows rows;
-    if (RecomputeSchedule(loaded, rows) != 0) {
-        return -3;
-    }
-    desk_.Voyages().ResolvePortIds(rows);
-    if (sheet.ShowRows(rows, desk_.IsCorrected()) != 0) {
-        return -3;
-    }
-    sheet.MarkLoaded(rows);
-    sheet.state.canClear = true;
-    sheet.state.canOpenBook = true;
-    sheet.state.canCalculate = true;
-    return 0;
-}
-
 int VoyageFilling::ShowCorrection() {
     const PortCallDesk::Report report(desk_);
-    if (const int filled = Open(-1); filled != 0) {
+    if (const int filled = Open(DrawMode::Nothing); filled != 0) {
         return filled;
     }
     // A correction that cannot be split has been given up, and the plain voyage is shown.

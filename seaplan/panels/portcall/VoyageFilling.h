@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "seaplan/controllers/VoyageChart.h"
 #include "seaplan/data/VoyPortCall.h"
 
 namespace Tarvik::Seaplan {
@@ -26,10 +27,10 @@ class VoyageFilling {
     /// The voyage of the next Open or Reset; the one on show stays until then.
     void SetVoyage(const std::string& vi) { next_ = vi; }
     const std::string& NextVoyage() const { return next_; }
-    /// Shows that voyage. `mode` as VoyController::LoadSchedule draws. 0, also when it cannot be loaded and
+    /// Shows that voyage, drawn as `mode` tells. 0, also when it cannot be loaded and
     /// the table stays empty; -1 no such voyage; -2 none at all, which is told; -3 its rows cannot be shown;
     /// -4 the changes of the voyage on show were to be saved and could not be, so that it stays with them.
-    int Open(int mode);
+    int Open(DrawMode mode);
     /// That voyage's stored rows, or six empty ones when it has none. Nothing where the changes of the voyage
     /// on show could not be saved.
     void Reset();
@@ -54,19 +55,15 @@ class VoyageFilling {
     /// The person gave up the changes of the voyage on show: what was saved counts again.
     void GiveUp();
     /// The voyage on show anew.
-    int Fill(int mode);
-    /// Saves the table's rows as the schedule of a voyage. 0; -1 no voyage; -2 no rows; -3 the save failed;
-    /// -4 the voyage has port calls on the server that were never shown here.
-    int SaveTable(const std::string& vi, int drawMode);
+    int Fill(DrawMode mode);
 
   private:
     bool MayLeave();
     void TakeOver(const std::string& vi);
-    int Show(int mode);
-    bool MayReplace(const std::string& vi);
+    int Show(DrawMode mode);
     void ShowUnfinished(int code, PortCallRows rows);
     void Clear();
-    int Load(int mode);
+    int Load(DrawMode mode);
 
     PortCallDesk& desk_;
     CellEditing& editing_;

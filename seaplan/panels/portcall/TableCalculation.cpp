@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/panels/portcall/TableCalculation.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "seaplan/calculation/Schedule.h"
+#include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/VoyController.h"
+#include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/portcall/PortCallWords.h"
+#include "seaplan/panels/portcall/VoyageFilling.h"
+#include "seaplan/panels/texts/PortCallTexts.h"
+
+namespace Tarvik::Seaplan {
+
+bool TableCalculation::Prepare(PortCallRows& rows) const {
+    PortCallRows read;
+    if (desk_.Sheet().ReadUnrounded(read) != 0) {
+        return false;
+    }
+    PrepareFirstPurpose(read);
+    return DropSamePortRows(read, desk_.Ports().SamePorts(), rows) == 0;
+}
+
+/// The schedule of new rows. A distance table has no voyage whose legs could be kept; its route waits for the
+/// one that it may become.
+int TableCalculation::Schedule(const PortCallRows& rows, PortCallRows& result, int& hadPortCalls) {
+    VoyController& voyages = desk_.Voyages();
+    const PortCallSheet& sheet = desk_.Sheet();
+    if (!sheet.state.distanceTable) {
+        return voyages.CalculateForVoyage(sheet.voyageId, rows, result, hadPortCalls);
+    }
+    const int code = voyages.CalculatePortCalls(rows, result);
+    if (code == 0) {
+        voyages.Module().Pending().Assign(sheet.voyageId);
+    }
+    return code;
+}
+
+Outcome<TableStep> TableCalculation::Calculate() {
+    PortCallRows rows;
+    if (!Prepare(rows)) {
+        desk_.Sheet().cause = Text(TextIds::IDS_VIEW_NEEDTWOPORTS);
+        return TableStep::Rows;
+    }
+    PortCallRows result;
+    int hadPortCalls = 0;
+    const bool failed = [&] {
+        const PortCallDesk::Busy busy(desk_);
+        return Schedule(rows, result, hadPortCalls) != 0;
+    }();
+    if (failed) {
+        desk_.SetCauseOfFault();
+        return TableStep::Route;
+    }
+    const PortCallNote note = NoteOfRoute();
+    const auto shown = hadPortCalls != 0                         ? ShowAndSave()
+                       : ShowCalculated(rows, std::move(result)) ? Outcome<TableStep>()
+                                                                 : TableStep::Show;
+    desk_.SetNote(note);
+    return shown;
+}
+
+/// Known legs are told with the day of the oldest, in the zone of the rows, for as long as these stand there.
+PortCallNote TableCalculation::NoteOfRoute() const {
+    return NoteOfKnownLegs(desk_.Voyages().Module().Pending().KnownSince(), desk_.Sheet().state.zone);
+}
+
+bool TableCalculation::ShowCalculated(const PortCallRows& rows, PortCallRows result) {
+    KeepPortIds(rows, result);
+    if (desk_.ShowChangedRows(result) != 0) {
+        return false;
+    }
+    desk_.Sheet().stored.NoteRoute(desk_.Sheet().table);
+    return true;
+}
+
+/// The result stands in the voyage already, with all that was changed here: nothing is left to ask about.
+Outcome<TableStep> TableCalculation::ShowAndSave() {
+    PortCallSheet& sheet = desk_.Sheet();
+    const auto stored = sheet.stored;
+    const bool unread = sheet.unread;
+    sheet.state.changed = false;
+    desk_.Voyages().RemoveVoyageObjects(sheet.voyageId);
+    desk_.View().Hide();
+    const int filled = filling_.Fill(DrawMode::Progress);
+    desk_.View().Show();
+    if (filled != 0) {
+        return TableStep::Fill;
+    }
+    // What stands there now was calculated, and tells nothing of the port calls that the server has.
+    sheet.unread = unread;
+    if (!saving_.Save(sheet.voyageId, DrawMode::Nothing).Failed()) {
+        return {};
+    }
+    sheet.stored = stored;
+    sheet.stored.NoteRoute(sheet.table);
+    sheet.MarkChanged(desk_.Ports());
+    return TableStep::Save;
+}
+
+Outcome<FollowStep> TableCalculation::FollowRoute() {
+    PortCallRows rows;
+    if (desk_.Sheet().ReadStandard(rows) != 0) {
+        return FollowStep::Rows;
+    }
+    PortCallRows result;
+    if (!desk_.Voyages().Module().Pending().IsFor(desk_.Sheet().voyageId) ||
+        desk_.Voyages().ScheduleCurrentRoute(rows, result) != 0) {
+        return FollowStep::Route;
+    }
+    desk_.SetNote(NoteOfRoute());
+    return ShowCalculated(rows, std::move(result)) ? Outcome<FollowStep>() : FollowStep::Show;
+}
+
+Outcome<SaveRowsStep> TableCalculation::Save(DrawMode mode) {
+    PortCallSheet& sheet = desk_.Sheet();
+    const PortCallRows rows = sheet.table.ReadRows();
+    if (rows.size() < 2) {
+        desk_.Sheet().cause = Text(TextIds::IDS_VIEW_NEEDTWOPORTS);
+        return SaveRowsStep::Rows;
+    }
+    const bool missing = std::any_of(rows.begin() + 1, rows.end(), [](const VoyPortCall& row) {
+        return static_cast<double>(row.distance) < kNoDistance;
+    });
+    if (missing || !desk_.Voyages().HasRouteFor(sheet.voyageId, rows)) {
+        if (Calculate().Failed()) {
+            return SaveRowsStep::Calculation;
+        }
+        // The calculation of a saved voyage has saved it, and only a drawing is left to do.
+        if (!sheet.state.changed && mode == DrawMode::Nothing) {
+            return {};
+        }
+    }
+    return saving_.Save(sheet.voyageId, mode).Failed() ? SaveRowsStep::Server : Outcome<SaveRowsStep>();
+}
+
+}  // namespace Tarvik::Seaplan
