@@ -161,6 +161,32 @@ TEST(ShippedLanguages, TraditionalChineseHoldsNoSimplifiedForms) {
     }
 }
 
+/// What a text promises is what the program does.
+TEST(ShippedLanguages, LimitsCausesAndTipsAreTheRightOnes) {
+    struct Words {
+        const char* language;
+        const char* ports;
+        const char* route;
+        const char* connection;
+        const char* hide;
+    };
+    for (const Words& words :
+         {Words{"en-US", "ports", "route", "connection", "ide"},
+          Words{"zh-CN", "港口", "航线", "连接", "隐藏"}, Words{"zh-TW", "港口", "航線", "連線", "隱藏"}}) {
+        LanguageFiles texts;
+        texts.Load(CLIENT_LANGUAGES, words.language);
+        const std::string limits = texts.Text("Seaplan", "IDS_BK_ERR_INPUT");
+        EXPECT_THAT(limits, testing::ContainsRegex("[^0-9]0[^0-9]")) << words.language;
+        EXPECT_THAT(limits, testing::ContainsRegex("[^0-9]500000[^0-9]")) << words.language;
+        const std::string notSaved = texts.Text("Seaplan", "IDS_PORTCALL_SAVEEXCEPTION");
+        for (const char* cause : {words.ports, words.route, words.connection}) {
+            EXPECT_THAT(notSaved, testing::HasSubstr(cause)) << "more than one thing may be wrong";
+        }
+        EXPECT_THAT(texts.Text("Client", "DISTANCES_TIP"), testing::Not(testing::HasSubstr(words.hide)))
+            << "it opens and does not hide";
+    }
+}
+
 TEST(QuestionButtonsTest, AreToldForTheSameQuestionsInEveryLanguage) {
     const auto read = [](const std::string& component, const std::string& language) {
         std::ifstream in(std::string(CLIENT_LANGUAGES) + "/" + component + "." + language + ".json");
