@@ -127,7 +127,9 @@ Outcome<SaveRowsStep> TableCalculation::Save(DrawMode mode) {
     const bool missing = std::any_of(rows.begin() + 1, rows.end(), [](const VoyPortCall& row) {
         return static_cast<double>(row.distance) < kNoDistance;
     });
-    if (missing || !desk_.Voyages().HasRouteFor(sheet.voyageId, rows)) {
+    // Rows that a calculation was taken back from keep the miles of other ports, though the book fits them.
+    const bool stale = !sheet.stored.IsRouteOf(sheet.table);
+    if (missing || stale || !desk_.Voyages().HasRouteFor(sheet.voyageId, rows)) {
         if (Calculate().Failed()) {
             return SaveRowsStep::Calculation;
         }
