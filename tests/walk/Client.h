@@ -10,9 +10,11 @@
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/distances/CPortDistTabDlg.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/PortCallParts.h"
+#include "seaplan/panels/tests/RecordingKeepView.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
 #include "seaplan/panels/tests/RecordingPortCallView.h"
 #include "seaplan/panels/tests/TreeViews.h"
@@ -75,9 +77,12 @@ class Client {
     RecordingSearch searchView;
     RecordingPortCallView view;
     SeaplanTreeCtrl ctrl{{store, catalog, voyages, tree, nameBox, vesselBox, sortPopup}};
-    CPortCallPanelDlg panel{{catalog, voyages, directory, view, [] { return Rect(); }}};
-    SeaplanViewDlg mainView{
-        {store, catalog, voyages, window, filterPopup, searchView, ctrl, [this] { return &panel; }}};
+    RecordingKeepView keepView;
+    CPortCallPanelDlg panel{
+        {catalog, voyages, directory, view, [] { return Rect(); }, {}, {}, [this] { keepDialog.Open(); }}};
+    CPortDistTabDlg keepDialog{{keepView, ctrl, [this](bool) { return &panel; }, [] { return Rect(); }}};
+    SeaplanViewDlg mainView{{store, catalog, voyages, window, filterPopup, searchView, ctrl,
+                             [this] { return &panel; }, [this] { keepDialog.OnLogout(); }}};
 
   private:
     void ShowSaved(const std::string& vi);

@@ -82,6 +82,20 @@ delete 5 782 no
 moveup 1 374 no
 open 16 831 yes
 )"},
+    {"TheDialogOfADistanceTableThatWasLeftKeptAnotherVoyagesRows", R"(
+chartport 37 469 yes
+typeport 56 657 yes
+open 30 526 yes
+openbykey 29 586 no
+keeptable 1 827 no
+)"},
+    {"ASaveBehindACalculationThatWasTakenBackShowedTheMilesOfOtherPorts", R"(
+open 51 493 no
+typeover 44 309 yes
+calculate 49 133 yes
+undo 32 605 no
+save 43 253 no
+)"},
 };
 
 class KeptWalkTest : public ::testing::TestWithParam<KeptWalk> {};

@@ -4,6 +4,7 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/VoyageContract.h>
 
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/PanelCommands.h"
@@ -61,6 +62,11 @@ void Player::PlayWorld(const Step& step) {
             Interface::Raise(Interface::Bus::ClickVoyageType, &points[step.which % 2]);
             Interface::Raise(Interface::Bus::ClickRoutePointType, &points[(step.which + 1) % 2]);
             break;
+        case Act::OpenTable:
+        case Act::ChartPort:
+        case Act::KeepTable:
+            PlayDistances(step);
+            break;
         case Act::Timer:
             desk_.clock.AdvanceSeconds(100 + 10 * step.what);
             desk_.timer.Fire();
@@ -91,6 +97,24 @@ void Player::PlayWorld(const Step& step) {
         default:
             Start();
             break;
+    }
+}
+
+/// The toolbar opens the distance table, a press on the chart sends it a port, and its dialog keeps it under
+/// a name that nothing has.
+void Player::PlayDistances(const Step& step) {
+    PressElsewhere();
+    if (step.act == Act::OpenTable) {
+        const Interface::PanelShow show{Interface::PanelCode::kDistances, 0};
+        Interface::Raise(Interface::Bus::ShowPanel, &show);
+    } else if (step.act == Act::ChartPort) {
+        const auto& ports = TypedPorts();
+        Interface::Call(Interface::Bus::AddPortName,
+                        &ports[static_cast<std::size_t>(step.what) % ports.size()]);
+    } else if (client_->keepView.visible && client_->store.voyages.size() < kMostVoyages) {
+        client_->keepDialog.OnCategoryTyped("Plans");
+        client_->keepDialog.OnVoyageTyped("Kept " + std::to_string(kept_++));
+        client_->keepDialog.OnOk();
     }
 }
 

@@ -23,6 +23,8 @@ class Player {
     static constexpr const char* kVessel = "7";
 
   private:
+    static constexpr std::size_t kMostVoyages = 8;
+
     void PlayTree(const Step& step);
     void PlayOpening(const Step& step);
     void PlayTable(const Step& step);
@@ -46,6 +48,7 @@ class Player {
 
     // Player.cpp
     void PressElsewhere();
+    void PlayDistances(const Step& step);
     void SeeShip(const Step& step);
     bool ClosePanel();
     void Relogin();
@@ -55,6 +58,7 @@ class Player {
     FaultyServer& server_;
     Person& person_;
     std::unique_ptr<Client> client_;
+    int kept_ = 0;  ///< distance tables that were to be kept
 };
 
 }  // namespace Tarvik::Seaplan::Walk

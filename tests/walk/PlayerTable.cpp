@@ -121,6 +121,9 @@ void Player::PlayButtons(const Step& step) {
         return;
     }
     PressElsewhere();
+    if (step.act == Act::Undo || step.act == Act::Redo) {
+        return step.act == Act::Undo ? commands.OnUndo() : commands.OnRedo();
+    }
     const PortCallState& state = client_->view.state;
     if (step.act == Act::Calculate && state.canCalculate) {
         commands.OnCalculate();

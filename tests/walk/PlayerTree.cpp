@@ -62,7 +62,7 @@ void Player::ClickDeleted(int which, const char* item) {
 void Player::AddVoyage() {
     PressElsewhere();
     const TreeRow row = client_->CategoryRow();
-    if (row != kNoRow && client_->store.voyages.size() < 8) {
+    if (row != kNoRow && client_->store.voyages.size() < kMostVoyages) {
         client_->ctrl.OnItemClicked(row, Item::kAddVoyage);
     }
 }

@@ -41,8 +41,9 @@ TEST(RandomWalkTest, TheStepsReachWhatTheRulesAreAbout) {
     }
     for (const char* what :
          {"8 done", "9 done", "11 done", "13 done", "14 done", "struck", "marked", "corrected",
-          "IDS_PORTCALL_SAVENEXT yes", "IDS_PORTCALL_SAVENEXT no", "IDS_PORTCALL_CLOSESAVE yes",
-          "IDS_PORTCALL_CLOSESAVE no", "IDS_PORTCALL_CLEARFORBLANK yes", "IDS_PORTCALL_SAVEEXCEPTION"}) {
+          "changed table", "table kept", "taken back", "IDS_PORTCALL_SAVENEXT yes",
+          "IDS_PORTCALL_SAVENEXT no", "IDS_PORTCALL_CLOSESAVE yes", "IDS_PORTCALL_CLOSESAVE no",
+          "IDS_PORTCALL_CLEARFORBLANK yes", "IDS_PORTCALL_SAVEEXCEPTION"}) {
         EXPECT_GT(tally[what], 0) << what;
     }
 }

@@ -13,6 +13,9 @@ constexpr std::uint16_t kPortCalls = 11;
 
 /// Whether the person asked, in this step, that a voyage's schedule be stored.
 bool MayStore(const Happened& step, const std::string& vi) {
+    if (step.IsKept()) {
+        return vi == step.after.voyage && !step.storedBefore.contains(vi);
+    }
     if (vi != step.before.voyage) {
         return false;
     }
@@ -69,7 +72,8 @@ void Rules::NoteWrites(const Happened& step) {
             uncertain_.insert(vi);
         }
     }
-    treeLoose_ = treeLoose_ || (step.server.HasStruck() && step.step.act < Act::TypePort);
+    const bool inTree = step.step.act < Act::TypePort || step.step.act == Act::KeepTable;
+    treeLoose_ = treeLoose_ || (step.server.HasStruck() && inTree);
 }
 
 void Rules::NoteCorrections(const Happened& step) {
@@ -116,7 +120,9 @@ std::string Rules::FaultOfRecords(const Happened& step) const {
         }
     }
     const bool more = step.stored.size() > step.storedBefore.size();
-    return more && step.step.act != Act::AddVoyage ? "a voyage was made without a command" : "";
+    return more && step.step.act != Act::AddVoyage && step.step.act != Act::KeepTable
+               ? "a voyage was made without a command"
+               : "";
 }
 
 /// What is stored opens; what was stored whole is right.

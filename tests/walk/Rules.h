@@ -55,6 +55,12 @@ struct Happened {
     const Sight& after;
     const Stored& storedBefore;
     const Stored& stored;
+
+    /// The distance table on show has become a voyage.
+    bool IsKept() const {
+        return step.act == Act::KeepTable && before.voyage == kDistanceTableId &&
+               after.voyage != before.voyage;
+    }
 };
 
 class Rules {
@@ -74,6 +80,7 @@ class Rules {
     std::string FaultOfStored(const Happened& step) const;
     std::string FaultOfLoss(const Happened& step) const;
     std::string FaultOfSaved(const Happened& step) const;
+    std::string FaultOfKept(const Happened& step) const;
     std::string FaultOfSight(const Happened& step) const;
     std::string FaultOfTree(const Happened& step) const;
 

@@ -43,7 +43,7 @@ bool IsPosition(const std::string& port) {
 }
 
 bool IsEdit(Act act) {
-    return (act >= Act::TypePort && act <= Act::Delete) || act == Act::Alternative;
+    return (act >= Act::TypePort && act <= Act::Redo) || act == Act::Alternative || act == Act::ChartPort;
 }
 
 bool GaveUp(const Happened& step) {
@@ -121,6 +121,9 @@ std::string Rules::FaultOfReplacing(const Happened& step) const {
 
 /// A table that was marked is still there, was saved, or was given up by an answer.
 std::string Rules::FaultOfLoss(const Happened& step) const {
+    if (step.IsKept()) {
+        return FaultOfKept(step);
+    }
     const bool another = step.after.voyage != step.before.voyage || !step.after.visible;
     if (step.before.IsTyping() && !step.before.marked && another && !GaveUp(step) && !WasSaved(step)) {
         const bool places = KeptPorts(step.before.PortsTaken()).size() > 1;
@@ -136,12 +139,33 @@ std::string Rules::FaultOfLoss(const Happened& step) const {
     if (stayed && same) {
         return {};
     }
+    // An edit that is taken back may bring what is stored, which FaultOfSight looks at.
+    if ((step.step.act == Act::Undo || step.step.act == Act::Redo) && !another) {
+        return {};
+    }
     if (WasSaved(step)) {
         return FaultOfSaved(step);
     }
     return "the marked rows " + Joined(step.before.Ports()) + " of voyage " + step.before.voyage +
            (stayed ? " became " + Joined(step.after.Ports()) + " by themselves"
                    : " are lost without a question");
+}
+
+/// A distance table that became a voyage is stored, or still there to be saved.
+std::string Rules::FaultOfKept(const Happened& step) const {
+    const auto stored = step.stored.find(step.after.voyage);
+    if (stored == step.stored.end() || !step.after.visible) {
+        return "the table became a voyage that nobody has";
+    }
+    if (step.before.IsTyping() || torn_.contains(step.after.voyage)) {
+        return {};
+    }
+    const auto kept = [](const Sight& sight) { return KeptPorts(sight.Ports()).size(); };
+    if (step.after.marked) {
+        return kept(step.before) == kept(step.after) ? "" : "rows of a table that became a voyage are lost";
+    }
+    const std::string difference = DifferenceOf(step.before, stored->second);
+    return difference.empty() ? "" : "what was kept is not what was in the table: " + difference;
 }
 
 std::string Rules::FaultOfSaved(const Happened& step) const {

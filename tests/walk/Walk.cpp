@@ -50,6 +50,13 @@ class World {
             ++tally[std::to_string(write.command) + outcome];
         }
         tally["struck"] += server_.HasStruck() ? 1 : 0;
+        const Client& client = player_->Running();
+        const bool changed = client.view.state.changed;
+        tally["changed table"] += changed && client.panel.Sheet().IsUnkeptTable() ? 1 : 0;
+        tally["taken back"] += client.view.edits.redo.empty() ? 0 : 1;
+        for (const auto& [vi, voyage] : stored_) {
+            tally["table kept"] += voyage.name.starts_with("Kept ") && !voyage.rows.empty() ? 1 : 0;
+        }
         tally["marked"] += player_->Running().view.state.changed ? 1 : 0;
         for (const auto& [vi, voyage] : player_->Running().store.voyages) {
             tally["corrected"] += voyage.modais > 0 ? 1 : 0;
