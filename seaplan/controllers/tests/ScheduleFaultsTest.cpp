@@ -60,6 +60,19 @@ TEST_F(ScheduleFaultsTest, AnUnknownPortIsNeverStored) {
     EXPECT_EQ(OnServer(vi).first, (Names{"ROTTERDAM", "GDANSK"}));
 }
 
+TEST_F(ScheduleFaultsTest, APortThatTheDictionaryHasLostIsNotSavedThoughItsBookFits) {
+    const std::string vi = Voyage({"ROTTERDAM", "GDANSK"});
+    PortCallRows rows;
+    ASSERT_EQ(desk.voyages.LoadSchedule(vi, rows, -1), 0);
+    desk.store.FindVoyage(vi)->positionBook.points.back().psn = "Danzig";
+    rows[1].ppn = "Danzig";
+    rows[1].ppi.clear();
+    desk.ForgetRecords();
+    EXPECT_LT(desk.voyages.SaveSchedule(vi, rows, -1), 0);
+    EXPECT_FALSE(SentAChange());
+    EXPECT_EQ(desk.voyages.LastFault().cause, ScheduleFault::Cause::UnknownPort);
+}
+
 TEST_F(ScheduleFaultsTest, ScheduleThatCouldNotBeOpenedAgainIsNotSaved) {
     const std::string vi = Voyage({});
     PortCallRows rows = Calculated(vi, {"ROTTERDAM", "GDANSK"});

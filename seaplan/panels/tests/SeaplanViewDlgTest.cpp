@@ -278,7 +278,10 @@ TEST_F(SeaplanViewDlgTest, LogoutAndReloadDropTheNameBeingTyped) {
     TypeIn("Full", "Tankers");
     ctrl.ReloadTree();
     EXPECT_FALSE(box.open);
+    TypeIn("Full", " ");
+    Interface::Raise(Interface::Bus::Logout);
     EXPECT_EQ(desk.Count(Ask::kRenameCategory), 0);
+    EXPECT_TRUE(desk.messages.messages.empty()) << "nor is anything said of a name that is dropped";
 }
 
 TEST_F(SeaplanViewDlgTest, HelpNamesItsTopic) {

@@ -67,7 +67,7 @@ TEST_F(RemarkListTest, EmptyListReplyIsASuccessWithNothingToShow) {
 }
 
 TEST_F(RemarkListTest, LoadEmptiesTheListWhateverComesAfter) {
-    for (const char* json : {"{eid:7}", "no json", ""}) {
+    for (const char* json : {"{eid:7}", "no json", "", "{eid:0}", "{}", "7"}) {
         Load({"1", "2"});
         host.Reply(9, json);
         EXPECT_FALSE(list.LoadRemarks(3, "21")) << json;
