@@ -3,8 +3,11 @@
 
 #include <bit>
 #include <cstdint>
+#include <cstring>
+#include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "host/geo/GeoPoint.h"
 
@@ -12,6 +15,9 @@ namespace Tarvik::Server {
 
 /// What a person can do about a data file that is missing or damaged; ends the sentence that says so.
 inline constexpr const char* kReinstallAdvice = ". Build or install the client again.";
+
+/// Tables of numbers begin at multiples of this many bytes, so that they can be read in place.
+inline constexpr std::size_t kRawAlignment = 8;
 
 /// Reads what `ByteWriter` wrote. Reading past the end gives zeros and makes `ok` false for good.
 class ByteReader {
@@ -47,6 +53,24 @@ class ByteReader {
         return {x / 1e5, y / 1e5};
     }
 
+    /// Numbers as `ByteWriter::Raw` wrote them, where they lie: the text must begin at a multiple of
+    /// `kRawAlignment` in memory and outlive them.
+    template <typename T>
+    std::span<const T> Raw() {
+        static_assert(std::is_trivially_copyable_v<T> && alignof(T) <= kRawAlignment);
+        const std::uint64_t n = U64();
+        while (ok_ && at_ % kRawAlignment != 0) {
+            ok_ = U8() == 0 && ok_;
+        }
+        if (!ok_ || n > (bytes_.size() - at_) / sizeof(T)) {
+            ok_ = false;
+            return {};
+        }
+        const std::span<const T> items(reinterpret_cast<const T*>(bytes_.data() + at_), n);
+        at_ += n * sizeof(T);
+        return items;
+    }
+
   private:
     std::uint64_t Number(std::size_t width) {
         if (bytes_.size() - at_ < width) {
@@ -55,12 +79,11 @@ class ByteReader {
             return 0;
         }
         std::uint64_t v = 0;
-        for (std::size_t i = 0; i < width; ++i) {
-            v |= static_cast<std::uint64_t>(static_cast<std::uint8_t>(bytes_[at_ + i])) << (8 * i);
-        }
+        std::memcpy(&v, bytes_.data() + at_, width);
         at_ += width;
         return v;
     }
+    static_assert(std::endian::native == std::endian::little, "the files hold little-endian numbers");
     std::string_view bytes_;
     std::size_t at_ = 0;
     bool ok_ = true;

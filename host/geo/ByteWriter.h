@@ -4,8 +4,11 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <span>
 #include <string>
+#include <type_traits>
 
+#include "host/geo/ByteReader.h"
 #include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Server {
@@ -26,6 +29,14 @@ class ByteWriter {
     void Point(GeoPoint p) {
         U32(static_cast<std::uint32_t>(static_cast<std::int32_t>(std::lround(p.x * 1e5))));
         U32(static_cast<std::uint32_t>(static_cast<std::int32_t>(std::lround(p.y * 1e5))));
+    }
+    /// A table of numbers as they lie in memory: how many (u64), zeros up to `kRawAlignment`, the numbers.
+    template <typename T>
+    void Raw(std::span<const T> items) {
+        static_assert(std::is_trivially_copyable_v<T> && std::endian::native == std::endian::little);
+        U64(items.size());
+        bytes_.resize((bytes_.size() + kRawAlignment - 1) / kRawAlignment * kRawAlignment, '\0');
+        bytes_.append(reinterpret_cast<const char*>(items.data()), items.size_bytes());
     }
     const std::string& Bytes() const { return bytes_; }
 

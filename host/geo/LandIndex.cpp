@@ -1,109 +1,175 @@
 // SPDX-License-Identifier: MIT
-// Making the index of the coast: a grid of cells of a quarter degree, each with the numbers of the pieces
-// that touch it, in one table of all cells (counted first, then filled). A second table lists the pieces
-// within the widest margin of a cell. Own data layout of the usual uniform grid. Cost: two passes over the
-// cells of each piece, memory of a number for each of them and one for each cell. The answers are in
-// LandQueries.cpp.
+// What the index of the coast answers. A way meets the coast where a piece of it and a piece of the coast
+// have their ends on different sides of each other; only pieces in the cells that the way passes are looked
+// at. A place lies on land when a line from it to the north crosses the coast an odd number of times (the
+// even-odd rule, Shimrat 1962). How near a way comes is reckoned in the plane at the place. Cost: a way the
+// cells that it passes with the few pieces in each, a place the cells to its north.
 #include "host/geo/LandIndex.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "host/geo/LandGrid.h"
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {
 
 namespace {
 
-/// Column of a longitude; those past ±180 run on.
-int ColumnAt(double x) {
-    return static_cast<int>(std::floor((x + 180.0) * LandGrid::kCellsPerDegree));
+double Side(const CoastPiece& line, double px, double py) {
+    return (line.x2 - line.x1) * (py - line.y1) - (line.y2 - line.y1) * (px - line.x1);
+}
+
+/// Distance in NM of a place from a piece, in the plane at the place.
+double Off(const CoastPiece& s, double px, double py, double shrink) {
+    const double ux = (s.x2 - s.x1) * shrink;
+    const double uy = s.y2 - s.y1;
+    const double wx = (px - s.x1) * shrink;
+    const double wy = py - s.y1;
+    const double square = ux * ux + uy * uy;
+    const double t = square == 0.0 ? 0.0 : std::clamp((ux * wx + uy * wy) / square, 0.0, 1.0);
+    return std::hypot(wx - t * ux, wy - t * uy) * kNmPerDegree;
 }
 
 }  // namespace
 
-/// A table of what `visitAll(i, visit)` visits for every i below `count`.
-template <typename VisitAll>
-LandIndex::CellTable LandIndex::TableOf(std::size_t count, VisitAll visitAll) {
-    CellTable table;
-    table.start.assign(static_cast<std::size_t>(LandGrid::kColumns) * LandGrid::kRows + 1, 0);
-    for (std::uint32_t i = 0; i < count; ++i) {
-        visitAll(i, [&](int column, int row) { ++table.start[CellOf(column, row) + 1]; });
-    }
-    for (std::size_t i = 1; i < table.start.size(); ++i) {
-        table.start[i] += table.start[i - 1];
-    }
-    table.items.resize(table.start.back());
-    std::vector<std::uint32_t> next(table.start.begin(), table.start.end() - 1);
-    for (std::uint32_t i = 0; i < count; ++i) {
-        visitAll(i, [&](int column, int row) { table.items[next[CellOf(column, row)]++] = i; });
-    }
-    return table;
-}
-
-LandIndex::LandIndex(const std::vector<std::vector<GeoPoint>>& rings,
-                     const std::vector<std::vector<GeoPoint>>& areas) {
-    std::size_t total = 0;
-    for (const auto& ring : rings) {
-        total += ring.size();
-    }
-    segments_.reserve(total + rings.size());
-    AddRings(rings);
-    landSegments_ = segments_.size();
-    AddRings(areas);
-    FillCells();
-    FillNearCells();
-}
-
-void LandIndex::AddRings(const std::vector<std::vector<GeoPoint>>& rings) {
-    for (const auto& ring : rings) {
-        for (std::size_t i = 0; i < ring.size(); ++i) {
-            AddSegment(ring[i], ring[(i + 1) % ring.size()]);
+bool LandIndex::CellBlocks(int column, int row, const CoastPiece& s) const {
+    const std::size_t cell = CellOf(column, row);
+    for (std::uint32_t k = tables_.cells.start[cell]; k < tables_.cells.start[cell + 1]; ++k) {
+        const CoastPiece& o = tables_.pieces[tables_.cells.items[k]];
+        if (std::max(o.x1, o.x2) < std::min(s.x1, s.x2) || std::min(o.x1, o.x2) > std::max(s.x1, s.x2)) {
+            continue;
+        }
+        if (std::max(o.y1, o.y2) < std::min(s.y1, s.y2) || std::min(o.y1, o.y2) > std::max(s.y1, s.y2)) {
+            continue;
+        }
+        const double d1 = Side(s, o.x1, o.y1);
+        const double d2 = Side(s, o.x2, o.y2);
+        const double d3 = Side(o, s.x1, s.y1);
+        const double d4 = Side(o, s.x2, s.y2);
+        if (d1 * d2 <= 0.0 && d3 * d4 <= 0.0) {
+            return true;
         }
     }
+    return false;
 }
 
-void LandIndex::AddSegment(GeoPoint a, GeoPoint b) {
-    if (a == b) {
-        return;
+bool LandIndex::CellGrazes(int column, int row, const CoastPiece& s, double nm) const {
+    const std::size_t cell = CellOf(column, row);
+    const double shrink = std::cos(0.5 * (s.y1 + s.y2) * kDegree);
+    const double rise = nm / kNmPerDegree;
+    const double north = std::max(s.y1, s.y2) + rise;
+    const double south = std::min(s.y1, s.y2) - rise;
+    for (std::uint32_t k = tables_.near.start[cell]; k < tables_.near.start[cell + 1]; ++k) {
+        CoastPiece o = tables_.pieces[tables_.near.items[k]];
+        if (std::min(o.y1, o.y2) > north || std::max(o.y1, o.y2) < south) {
+            continue;
+        }
+        const double shift = 360.0 * std::round((s.x1 - o.x1) / 360.0);
+        o.x1 += shift;
+        o.x2 += shift;
+        const double wide = rise / shrink;
+        if (std::min(o.x1, o.x2) > std::max(s.x1, s.x2) + wide ||
+            std::max(o.x1, o.x2) < std::min(s.x1, s.x2) - wide) {
+            continue;
+        }
+        if (Off(s, o.x1, o.y1, shrink) < nm || Off(o, s.x1, s.y1, shrink) < nm ||
+            Off(o, s.x2, s.y2, shrink) < nm) {
+            return true;
+        }
     }
-    const double jump = b.x - a.x;
-    if (std::abs(jump) <= 180.0) {
-        segments_.push_back({a.x, a.y, b.x, b.y});
-        return;
+    return false;
+}
+
+bool LandIndex::Walk(const CoastPiece& s) const {
+    bool blocked = false;
+    VisitCells(s, [&](int column, int row) { return blocked = CellBlocks(column, row, s); });
+    return blocked;
+}
+
+bool LandIndex::WalkNear(const CoastPiece& s, double nm) const {
+    bool grazes = false;
+    VisitCells(s, [&](int column, int row) { return grazes = CellGrazes(column, row, s, nm); });
+    return grazes;
+}
+
+template <typename Walker>
+bool LandIndex::OverDateLine(GeoPoint a, GeoPoint b, Walker walk) {
+    const double shift = 360.0 * std::floor((a.x + 180.0) / 360.0);
+    a.x -= shift;
+    b.x -= shift;
+    if (b.x >= -180.0 && b.x <= 180.0) {
+        return walk(CoastPiece{a.x, a.y, b.x, b.y});
     }
-    const double border = jump > 0 ? -180.0 : 180.0;
-    const GeoPoint unwrapped{b.x - std::copysign(360.0, jump), b.y};
-    const double y = unwrapped.x == a.x ? a.y : CrossingAt180(a, unwrapped, border);
-    AddSegment(a, {border, y});
-    AddSegment({-border, y}, b);
+    const double border = b.x > 180.0 ? 180.0 : -180.0;
+    const double y = LatitudeAt(border, a, b);
+    return walk(CoastPiece{a.x, a.y, border, y}) || walk(CoastPiece{-border, y, b.x - 2.0 * border, b.y});
 }
 
-void LandIndex::FillCells() {
-    cells_ = TableOf(segments_.size(), [this](std::uint32_t i, const auto& visit) {
-        VisitCells(segments_[i], [&](int column, int row) {
-            visit(column, row);
-            return false;
-        });
-    });
+bool LandIndex::BlocksStraight(GeoPoint a, GeoPoint b) const {
+    return !tables_.cells.start.Empty() &&
+           OverDateLine(a, b, [this](const CoastPiece& s) { return Walk(s); });
 }
 
-void LandIndex::FillNearCells() {
-    constexpr double kRise = kMaxMarginNm / kNmPerDegree;
-    near_ = TableOf(landSegments_, [this](std::uint32_t i, const auto& visit) {
-        const Segment& s = segments_[i];
-        const double north = std::max(s.y1, s.y2) + kRise;
-        const double south = std::min(s.y1, s.y2) - kRise;
-        const double wide =
-            kRise / std::max(0.05, std::cos(std::max(std::abs(north), std::abs(south)) * kDegree));
-        const int last = ColumnAt(std::max(s.x1, s.x2) + wide);
-        for (int row = LandGrid::RowOf(south); row <= LandGrid::RowOf(north); ++row) {
-            for (int column = ColumnAt(std::min(s.x1, s.x2) - wide); column <= last; ++column) {
-                visit((column + LandGrid::kColumns) % LandGrid::kColumns, row);
+bool LandIndex::Grazes(GeoPoint a, GeoPoint b, double nm, double trimNm) const {
+    const double whole = ArcNm(a, b);
+    if (tables_.cells.start.Empty() || whole <= 2.0 * trimNm) {
+        return false;
+    }
+    const std::vector<GeoPoint> points =
+        GreatCircle(Between(a, b, trimNm / whole), Between(a, b, 1.0 - trimNm / whole));
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (OverDateLine(points[i - 1], points[i], [&](const CoastPiece& s) { return WalkNear(s, nm); })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool LandIndex::Blocks(GeoPoint a, GeoPoint b) const {
+    const std::vector<GeoPoint> points = GreatCircle(a, b);
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (BlocksStraight(points[i - 1], points[i])) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool LandIndex::IsLand(GeoPoint p) const {
+    if (tables_.cells.start.Empty()) {
+        return false;
+    }
+    p.x = WrapLongitude(p.x);
+    const int column = LandGrid::ColumnOf(p.x);
+    bool inside = false;
+    for (int row = LandGrid::RowOf(p.y); row < LandGrid::kRows; ++row) {
+        const std::size_t cell = CellOf(column, row);
+        for (std::uint32_t k = tables_.cells.start[cell]; k < tables_.cells.start[cell + 1]; ++k) {
+            if (tables_.cells.items[k] >= tables_.landPieces) {
+                continue;
+            }
+            const CoastPiece& o = tables_.pieces[tables_.cells.items[k]];
+            if ((o.x1 <= p.x) == (o.x2 <= p.x)) {
+                continue;
+            }
+            const double y = o.y1 + (p.x - o.x1) / (o.x2 - o.x1) * (o.y2 - o.y1);
+            if (y > p.y && LandGrid::RowOf(y) == row) {
+                inside = !inside;
             }
         }
-    });
+    }
+    return inside;
+}
+
+bool LandIndex::IsClear(GeoPoint p, double nm) const {
+    for (int i = 0; i < 12; ++i) {
+        GeoPoint end = Destination(p, i * 30.0, nm);
+        end.x += 360.0 * std::round((p.x - end.x) / 360.0);
+        if (BlocksStraight(p, end)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 }  // namespace Tarvik::Server

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "host/geo/GeoPoint.h"
+#include "host/geo/LandTables.h"
 
 namespace Tarvik::Server {
 
@@ -19,7 +20,10 @@ class LandIndex {
     LandIndex() = default;
     /// `areas` are closed to ways as land is, but are no land.
     explicit LandIndex(const std::vector<std::vector<GeoPoint>>& rings,
-                       const std::vector<std::vector<GeoPoint>>& areas = {});
+                       const std::vector<std::vector<GeoPoint>>& areas = {})
+        : tables_(TablesOfLand(rings, areas)) {}
+    /// Of tables that were made before and fit together.
+    explicit LandIndex(LandTables tables) : tables_(std::move(tables)) {}
 
     /// True when the great circle from a to b, drawn in pieces of at most a degree, meets the coast or the
     /// edge of an area.
@@ -31,7 +35,7 @@ class LandIndex {
     /// True when the great circle from a to b, without its first and last `trimNm`, comes nearer than `nm`
     /// (at most `kMaxMarginNm`) to a coast.
     bool Grazes(GeoPoint a, GeoPoint b, double nm, double trimNm) const;
-    static constexpr double kMaxMarginNm = 4.0;
+    static constexpr double kMaxMarginNm = kMaxCoastMarginNm;
     /// How long the beginning and the end of a way are that may come near: there are ports and straits.
     static constexpr double kApproachNm = 6.0;
 
@@ -41,35 +45,19 @@ class LandIndex {
     /// True when no coast lies within about `nm` nautical miles of the place (sampled in 12 directions).
     bool IsClear(GeoPoint p, double nm) const;
 
-    std::size_t SegmentCount() const { return segments_.size(); }
+    std::size_t SegmentCount() const { return tables_.pieces.Size(); }
+    const LandTables& Tables() const { return tables_; }
 
   private:
-    struct Segment {
-        double x1, y1, x2, y2;
-    };
-    /// Which segments may concern what lies in a cell: numbers, cell after cell.
-    struct CellTable {
-        std::vector<std::uint32_t> start;
-        std::vector<std::uint32_t> items;
-    };
-    template <typename VisitAll>
-    static CellTable TableOf(std::size_t count, VisitAll visitAll);
-    void AddRings(const std::vector<std::vector<GeoPoint>>& rings);
-    void AddSegment(GeoPoint a, GeoPoint b);
-    void FillCells();
-    void FillNearCells();
-    bool CellBlocks(int column, int row, const Segment& s) const;
-    bool CellGrazes(int column, int row, const Segment& s, double nm) const;
-    bool Walk(const Segment& s) const;
-    bool WalkNear(const Segment& s, double nm) const;
+    bool CellBlocks(int column, int row, const CoastPiece& s) const;
+    bool CellGrazes(int column, int row, const CoastPiece& s, double nm) const;
+    bool Walk(const CoastPiece& s) const;
+    bool WalkNear(const CoastPiece& s, double nm) const;
     /// Calls `walk` with the piece, in two where it crosses the date line, until it says true.
     template <typename Walker>
     static bool OverDateLine(GeoPoint a, GeoPoint b, Walker walk);
 
-    std::vector<Segment> segments_;
-    std::size_t landSegments_ = 0;  ///< the areas' come behind
-    CellTable cells_;               ///< the segments that touch a cell
-    CellTable near_;                ///< those of the land within `kMaxMarginNm` of it
+    LandTables tables_;
 };
 
 }  // namespace Tarvik::Server

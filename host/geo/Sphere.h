@@ -44,6 +44,11 @@ double WrapLongitude(double x);
 /// Rounds to 5 decimals (about a metre), the precision in which positions are stored and sent.
 GeoPoint RoundPoint(GeoPoint p);
 
+/// The latitude at which the straight piece from a to b passes a longitude; a and b differ in theirs.
+inline double LatitudeAt(double x, GeoPoint a, GeoPoint b) {
+    return a.y + (x - a.x) / (b.x - a.x) * (b.y - a.y);
+}
+
 /// The great circle from a to b as points at most `kChunkDegrees` apart, ends included. The longitudes run on
 /// past ±180 where the way crosses the date line, so that neighbours never lie more than 180 degrees apart.
 std::vector<GeoPoint> GreatCircle(GeoPoint a, GeoPoint b);

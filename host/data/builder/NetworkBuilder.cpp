@@ -233,7 +233,9 @@ Server::NetworkData NetworkBuilder::Build() {
             remarks_.push_back("port " + p.unlocode + " " + p.name + " is not joined to the oceans");
         }
     }
-    data.reach = Server::SeaNetwork(data).data().reach;
+    const Server::SeaNetwork made(data);
+    data.reach = made.data().reach;
+    data.tables = made.Tables();
     return data;
 }
 

@@ -72,20 +72,24 @@ Landmarks::Landmarks(const ArcTable& table, std::size_t count) {
         }
     }
     count_ = count;
-    distances_.resize(nodes * count);
+    std::vector<float> distances(nodes * count);
     for (std::size_t k = 0; k < count; ++k) {
         for (std::size_t i = 0; i < nodes; ++i) {
-            distances_[i * count + k] = columns[k][i];
+            distances[i * count + k] = columns[k][i];
         }
     }
+    distances_ = FrozenArray(std::move(distances));
 }
+
+Landmarks::Landmarks(FrozenArray<float> distances, std::size_t nodes)
+    : count_(nodes == 0 ? 0 : distances.Size() / nodes), distances_(std::move(distances)) {}
 
 float Landmarks::Bound(std::uint32_t a, std::uint32_t b) const {
     // Four at a time, which the machine does in one step.
     constexpr std::size_t kLanes = 4;
     std::array<float, kLanes> best{};
-    const float* fromA = distances_.data() + a * count_;
-    const float* fromB = distances_.data() + b * count_;
+    const float* fromA = distances_.View().data() + a * count_;
+    const float* fromB = distances_.View().data() + b * count_;
     std::size_t k = 0;
     const auto take = [](float& most, float x, float y) {
         const float difference = std::abs(x - y);

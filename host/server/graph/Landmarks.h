@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "host/geo/FrozenArray.h"
+
 namespace Tarvik::Server {
 
 /// A way out of a node.
@@ -30,14 +32,19 @@ class Landmarks {
   public:
     Landmarks() = default;
     Landmarks(const ArcTable& table, std::size_t count);
+    /// Of distances reckoned before, as many for each of the nodes.
+    Landmarks(FrozenArray<float> distances, std::size_t nodes);
 
     /// A lower bound of the way from a to b in nautical miles; 0 when nothing better is known, infinite when
     /// a landmark reaches only one of them.
     float Bound(std::uint32_t a, std::uint32_t b) const;
 
+    /// Node after node, to every landmark.
+    const FrozenArray<float>& Distances() const { return distances_; }
+
   private:
     std::size_t count_ = 0;
-    std::vector<float> distances_;  // node-major
+    FrozenArray<float> distances_;
 };
 
 /// Distances in nautical miles from one node to all; infinite where there is no way.

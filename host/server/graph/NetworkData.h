@@ -3,10 +3,12 @@
 
 #include <bitset>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "host/geo/GeoPoint.h"
+#include "host/geo/LandTables.h"
 
 namespace Tarvik::Server {
 
@@ -60,6 +62,12 @@ struct ReachEntry {
     std::uint8_t side = 0;  ///< side of the gate on which the way leaves: 1 or 2, 0 for the point itself
 };
 
+/// What is reckoned from the rest of a network when it is built, so that loading it need not.
+struct NetworkTables {
+    LandTables land;
+    FrozenArray<float> landmarks;  ///< miles from every node to each landmark, node after node
+};
+
 /// Everything the network file holds. Positions have 5 decimals.
 struct NetworkData {
     std::vector<GeoPoint> nodes;
@@ -70,6 +78,7 @@ struct NetworkData {
     std::vector<std::vector<GeoPoint>> land;     ///< rings, closed implicitly
     std::vector<std::vector<ReachEntry>> reach;  ///< for every route point: to all ports, then route points
     std::vector<std::vector<GeoPoint>> areas;    ///< waters closed to ways in open sea, rings as the land's
+    std::optional<NetworkTables> tables;         ///< nothing in a network just put together
 };
 
 }  // namespace Tarvik::Server

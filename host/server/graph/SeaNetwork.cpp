@@ -20,6 +20,10 @@ std::uint64_t NextNumber() {
     return ++last;
 }
 
+LandIndex LandOf(const NetworkData& data) {
+    return data.tables ? LandIndex(data.tables->land) : LandIndex(data.land, data.areas);
+}
+
 /// Where ships turn to sail along a parallel: Cape Horn needs 57 degrees, tables of distances sail the South
 /// Pacific and the Indian Ocean along 46 to 52.
 constexpr GeoPoint kSouthLimits[] = {{-180, -52}, {-100, -52}, {-82, -57}, {-78, -60}, {-50, -60}, {-45, -52},
@@ -49,7 +53,7 @@ std::shared_ptr<const SeaNetwork> SeaNetwork::Load(const std::string& path, std:
 }
 
 SeaNetwork::SeaNetwork(NetworkData data)
-    : number_(NextNumber()), data_(std::move(data)), land_(data_.land, data_.areas), basins_(data_) {
+    : number_(NextNumber()), data_(std::move(data)), land_(LandOf(data_)), basins_(data_) {
     gates_.bounds = GateBounds(data_.routePoints);
     BuildArcs();
     vectors_.reserve(data_.nodes.size());
@@ -67,7 +71,8 @@ SeaNetwork::SeaNetwork(NetworkData data)
         gates_.costly[i] = point.cost > 0.0F;
     }
     gates_.shut[kIceBit] = true;
-    landmarks_ = Landmarks(OpenArcs(), kLandmarkCount);
+    landmarks_ = data_.tables ? Landmarks(data_.tables->landmarks, data_.nodes.size())
+                              : Landmarks(OpenArcs(), kLandmarkCount);
     if (data_.reach.empty()) {
         FillReach();
     }

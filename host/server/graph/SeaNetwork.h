@@ -44,6 +44,8 @@ class SeaNetwork {
     const LandIndex& Land() const { return land_; }
     /// Bounds over the edges that are open unless asked for; of no use once a shut gate is open.
     const Landmarks& Bounds() const { return landmarks_; }
+    /// What `NetworkData::tables` holds when this network is written.
+    NetworkTables Tables() const { return {land_.Tables(), landmarks_.Distances()}; }
     /// The gates at which the search adds miles.
     const GateMask& CostlyGates() const { return gates_.costly; }
     const Basins& Waters() const { return basins_; }

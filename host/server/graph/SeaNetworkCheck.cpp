@@ -77,10 +77,22 @@ std::string CheckReach(const NetworkData& d) {
     return {};
 }
 
+std::string CheckTables(const NetworkData& d) {
+    if (!d.tables) {
+        return {};
+    }
+    const std::size_t marks = d.tables->landmarks.Size();
+    if (d.nodes.empty() ? marks != 0 : marks == 0 || marks % d.nodes.size() != 0) {
+        return "it does not tell every node's way to the landmarks";
+    }
+    return FaultOf(d.tables->land);
+}
+
 }  // namespace
 
 std::string FaultOf(const NetworkData& data) {
-    for (const std::string& fault : {CheckEdges(data), CheckPoints(data), CheckReach(data)}) {
+    for (const std::string& fault :
+         {CheckEdges(data), CheckPoints(data), CheckReach(data), CheckTables(data)}) {
         if (!fault.empty()) {
             return fault;
         }

@@ -1,218 +1,101 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/graph/SeaNetworkFile.h"
 
+#include <array>
+#include <cstring>
 #include <fstream>
-#include <iterator>
+#include <utility>
 
 #include "host/geo/ByteReader.h"
 #include "host/geo/ByteWriter.h"
+#include "host/geo/MappedFile.h"
 
 namespace Tarvik::Server {
 
 namespace {
 
-constexpr std::string_view kMagic = "SEANET02";
+constexpr std::string_view kMagic = "SEANET03";
+constexpr std::string_view kFamily = kMagic.substr(0, 6);
 constexpr std::size_t kHeaderBytes = 24;
+static_assert(kHeaderBytes % kRawAlignment == 0, "the payload's tables are read in place");
 
-std::uint64_t Fnv1a(std::string_view bytes) {
-    std::uint64_t sum = 14695981039346656037ULL;
-    for (const char c : bytes) {
-        sum = (sum ^ static_cast<std::uint8_t>(c)) * 1099511628211ULL;
+std::string ForeignText(std::string_view bytes) {
+    if (bytes.size() < kHeaderBytes || bytes.substr(0, kFamily.size()) != kFamily) {
+        return "this is not a sea network file";
     }
-    return sum;
-}
-
-void PutPoints(ByteWriter& w, const std::vector<GeoPoint>& points) {
-    w.Count(points.size());
-    for (const GeoPoint p : points) {
-        w.Point(p);
-    }
-}
-
-void PutRings(ByteWriter& w, const std::vector<std::vector<GeoPoint>>& rings) {
-    w.Count(rings.size());
-    for (const auto& ring : rings) {
-        PutPoints(w, ring);
-    }
-}
-
-void PutMask(ByteWriter& w, const GateMask& mask) {
-    for (std::size_t word = 0; word < kMaxRoutePoints; word += 64) {
-        std::uint64_t bits = 0;
-        for (std::size_t i = 0; i < 64; ++i) {
-            bits |= static_cast<std::uint64_t>(mask[word + i]) << i;
-        }
-        w.U64(bits);
-    }
-}
-
-void PutRoutePoint(ByteWriter& w, const RoutePoint& p) {
-    w.Text(p.id);
-    w.Text(p.name);
-    w.U32(p.node);
-    w.U8(p.shut ? 1 : 0);
-    w.F32(p.cost);
-    PutPoints(w, p.gate);
-    w.Count(p.groups.size());
-    for (const AlternativeGroup& group : p.groups) {
-        w.Count(group.size());
-        for (const std::uint16_t i : group) {
-            w.U16(i);
-        }
-    }
-}
-
-std::vector<GeoPoint> GetPoints(ByteReader& r) {
-    std::vector<GeoPoint> points(r.Count(8));
-    for (GeoPoint& p : points) {
-        p = r.Point();
-    }
-    return points;
-}
-
-std::vector<std::vector<GeoPoint>> GetRings(ByteReader& r) {
-    std::vector<std::vector<GeoPoint>> rings(r.Count(4));
-    for (auto& ring : rings) {
-        ring = GetPoints(r);
-    }
-    return rings;
-}
-
-GateMask GetMask(ByteReader& r) {
-    GateMask mask;
-    for (std::size_t word = 0; word < kMaxRoutePoints; word += 64) {
-        const std::uint64_t bits = r.U64();
-        for (std::size_t i = 0; i < 64; ++i) {
-            mask[word + i] = ((bits >> i) & 1U) != 0;
-        }
-    }
-    return mask;
-}
-
-RoutePoint GetRoutePoint(ByteReader& r) {
-    RoutePoint p;
-    p.id = r.Text();
-    p.name = r.Text();
-    p.node = r.U32();
-    p.shut = r.U8() != 0;
-    p.cost = r.F32();
-    p.gate = GetPoints(r);
-    p.groups.resize(r.Count(4));
-    for (AlternativeGroup& group : p.groups) {
-        group.resize(r.Count(2));
-        for (std::uint16_t& i : group) {
-            i = r.U16();
-        }
-    }
-    return p;
-}
-
-NetworkData GetPayload(ByteReader& r) {
-    NetworkData data;
-    data.nodes = GetPoints(r);
-    data.edges.resize(r.Count(15));
-    for (NetworkEdge& e : data.edges) {
-        e.a = r.U32();
-        e.b = r.U32();
-        e.nm = r.F32();
-        e.mask = r.U16();
-        e.kind = static_cast<EdgeKind>(r.U8());
-    }
-    data.masks.resize(r.Count(kMaxRoutePoints / 8));
-    for (GateMask& mask : data.masks) {
-        mask = GetMask(r);
-    }
-    data.routePoints.resize(r.Count(25));
-    for (RoutePoint& p : data.routePoints) {
-        p = GetRoutePoint(r);
-    }
-    data.ports.resize(r.Count(16));
-    for (NetworkPort& p : data.ports) {
-        p = {r.Text(), r.Text(), r.Text(), r.U32()};
-    }
-    data.land = GetRings(r);
-    data.areas = GetRings(r);
-    data.reach.resize(r.Count(4));
-    for (auto& row : data.reach) {
-        row.resize(r.Count(5));
-        for (ReachEntry& entry : row) {
-            entry.nm = r.F32();
-            entry.side = r.U8();
-        }
-    }
-    return data;
+    return "the sea network file is of version " + std::string(bytes.substr(kFamily.size(), 2)) +
+           ", where this program reads version " + std::string(kMagic.substr(kFamily.size()));
 }
 
 }  // namespace
 
-std::string SeaNetworkFile::Encode(const NetworkData& data) {
-    ByteWriter w;
-    PutPoints(w, data.nodes);
-    w.Count(data.edges.size());
-    for (const NetworkEdge& e : data.edges) {
-        w.U32(e.a);
-        w.U32(e.b);
-        w.F32(e.nm);
-        w.U16(e.mask);
-        w.U8(static_cast<std::uint8_t>(e.kind));
-    }
-    w.Count(data.masks.size());
-    for (const GateMask& mask : data.masks) {
-        PutMask(w, mask);
-    }
-    w.Count(data.routePoints.size());
-    for (const RoutePoint& p : data.routePoints) {
-        PutRoutePoint(w, p);
-    }
-    w.Count(data.ports.size());
-    for (const NetworkPort& p : data.ports) {
-        w.Text(p.id);
-        w.Text(p.unlocode);
-        w.Text(p.name);
-        w.U32(p.node);
-    }
-    PutRings(w, data.land);
-    PutRings(w, data.areas);
-    w.Count(data.reach.size());
-    for (const auto& row : data.reach) {
-        w.Count(row.size());
-        for (const ReachEntry& entry : row) {
-            w.F32(entry.nm);
-            w.U8(entry.side);
+std::uint64_t SeaNetworkFile::Checksum(std::string_view payload) {
+    constexpr std::uint64_t kPrime = 1099511628211ULL;
+    constexpr std::uint64_t kBasis = 14695981039346656037ULL;
+    constexpr std::size_t kWord = sizeof(std::uint64_t);
+    // Four sums side by side: one alone would wait for its own product at every word.
+    std::array<std::uint64_t, 4> sums{kBasis, kBasis + 1, kBasis + 2, kBasis + 3};
+    const auto take = [&](std::uint64_t& sum, std::size_t at, std::size_t width) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, payload.data() + at, width);
+        sum = (sum ^ word) * kPrime;
+    };
+    std::size_t at = 0;
+    for (; payload.size() - at >= sums.size() * kWord; at += sums.size() * kWord) {
+        for (std::size_t lane = 0; lane < sums.size(); ++lane) {
+            take(sums[lane], at + lane * kWord, kWord);
         }
     }
-    ByteWriter head;
-    head.U64(w.Bytes().size());
-    head.U64(Fnv1a(w.Bytes()));
-    return std::string(kMagic) + head.Bytes() + w.Bytes();
+    std::uint64_t all = kBasis;
+    for (const std::uint64_t sum : sums) {
+        all = (all ^ sum) * kPrime;
+    }
+    for (; at < payload.size(); ++at) {
+        take(all, at, 1);
+    }
+    return all;
 }
 
-std::optional<NetworkData> SeaNetworkFile::Decode(const std::string& bytes, std::string& error) {
-    const std::string_view all(bytes);
-    if (all.size() < kHeaderBytes || all.substr(0, kMagic.size()) != kMagic) {
-        error = "this is not a sea network file";
+std::string SeaNetworkFile::Encode(const NetworkData& data) {
+    const std::string payload = PutPayload(data);
+    ByteWriter head;
+    head.U64(payload.size());
+    head.U64(Checksum(payload));
+    return std::string(kMagic) + head.Bytes() + payload;
+}
+
+std::optional<NetworkData> SeaNetworkFile::Decode(std::string_view bytes,
+                                                  const std::shared_ptr<const void>& keeper,
+                                                  std::string& error) {
+    if (bytes.size() < kHeaderBytes || bytes.substr(0, kMagic.size()) != kMagic) {
+        error = ForeignText(bytes);
         return std::nullopt;
     }
-    ByteReader head(all.substr(kMagic.size(), kHeaderBytes - kMagic.size()));
+    ByteReader head(bytes.substr(kMagic.size(), kHeaderBytes - kMagic.size()));
     const std::uint64_t length = head.U64();
     const std::uint64_t sum = head.U64();
-    const std::string_view payload = all.substr(kHeaderBytes);
+    const std::string_view payload = bytes.substr(kHeaderBytes);
     if (payload.size() != length) {
         error = "the sea network file is cut or has grown";
         return std::nullopt;
     }
-    if (Fnv1a(payload) != sum) {
+    if (Checksum(payload) != sum) {
         error = "the sea network file is damaged";
         return std::nullopt;
     }
     ByteReader r(payload);
-    NetworkData data = GetPayload(r);
+    NetworkData data = GetPayload(r, keeper);
     error = !r.Ok() || !r.AtEnd() ? "its lists do not fit its length" : FaultOf(data);
     if (error.empty()) {
         return data;
     }
     error = "the sea network file is inconsistent: " + error;
     return std::nullopt;
+}
+
+std::optional<NetworkData> SeaNetworkFile::Decode(const std::string& bytes, std::string& error) {
+    const auto kept = std::make_shared<const std::string>(bytes);
+    return Decode(*kept, kept, error);
 }
 
 std::string SeaNetworkFile::Write(const std::string& path, const NetworkData& data) {
@@ -224,13 +107,12 @@ std::string SeaNetworkFile::Write(const std::string& path, const NetworkData& da
 }
 
 std::optional<NetworkData> SeaNetworkFile::Read(const std::string& path, std::string& error) {
-    std::ifstream file(path, std::ios::binary);
+    const std::shared_ptr<const MappedFile> file = MappedFile::Open(path);
     if (!file) {
         error = "cannot open the sea network file " + path + kReinstallAdvice;
         return std::nullopt;
     }
-    const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    std::optional<NetworkData> data = Decode(bytes, error);
+    std::optional<NetworkData> data = Decode(file->Bytes(), file, error);
     if (!data) {
         error += ": " + path + kReinstallAdvice;
     }

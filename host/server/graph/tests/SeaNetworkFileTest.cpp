@@ -18,14 +18,10 @@ constexpr std::size_t kHead = 24;
 
 /// A file around a payload whose length and sum are right.
 std::string Sealed(const std::string& payload) {
-    std::uint64_t sum = 14695981039346656037ULL;
-    for (const char c : payload) {
-        sum = (sum ^ static_cast<std::uint8_t>(c)) * 1099511628211ULL;
-    }
     ByteWriter head;
     head.U64(payload.size());
-    head.U64(sum);
-    return "SEANET02" + head.Bytes() + payload;
+    head.U64(SeaNetworkFile::Checksum(payload));
+    return "SEANET03" + head.Bytes() + payload;
 }
 
 std::string ErrorOf(const std::string& bytes) {
@@ -94,8 +90,14 @@ TEST(SeaNetworkFile, AnyDamagedByteOfThePayloadIsFound) {
 
 TEST(SeaNetworkFile, RefusesAForeignFile) {
     std::string bytes = SeaNetworkFile::Encode(SmallSea());
-    bytes[7] = '9';
+    bytes[0] = 'X';
     EXPECT_EQ(ErrorOf(bytes), "this is not a sea network file");
+}
+
+TEST(SeaNetworkFile, TellsTheVersionOfAFileThatItDoesNotRead) {
+    std::string bytes = SeaNetworkFile::Encode(SmallSea());
+    bytes[7] = '2';
+    EXPECT_EQ(ErrorOf(bytes), "the sea network file is of version 02, where this program reads version 03");
 }
 
 TEST(SeaNetworkFile, RefusesReferencesToWhatIsNotThere) {
