@@ -8,6 +8,7 @@
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/calculation/Units.h"
+#include "seaplan/data/Outcome.h"
 #include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
@@ -24,69 +25,122 @@ constexpr std::size_t kHeadFields = 5;
 constexpr std::size_t kSegmentFields = 4;
 constexpr std::size_t kGroupFields = 3;
 
+/// What is wrong with a line.
+enum class LineStep {
+    Empty,
+    Sections,
+    SectionCount,
+    Head,
+    HeadFields,
+    Stamp,
+    Segments,
+    Segment,
+    SegmentFields,
+    Groups,
+    Group,
+    GroupFields,
+    Alternatives
+};
+/// Numbers of ParseCacheLine.
+constexpr CodeTable kCacheLineCodes{
+    Code{LineStep::Empty, -1},        Code{LineStep::Sections, -2},   Code{LineStep::SectionCount, -3},
+    Code{LineStep::Head, -4},         Code{LineStep::HeadFields, -5}, Code{LineStep::Stamp, -6},
+    Code{LineStep::Segments, -7},     Code{LineStep::Segment, -8},    Code{LineStep::SegmentFields, -9},
+    Code{LineStep::Groups, -10},      Code{LineStep::Group, -11},     Code{LineStep::GroupFields, -12},
+    Code{LineStep::Alternatives, -13}};
+
+using LineOutcome = Outcome<LineStep>;
 using Texts = std::vector<std::string>;
 using Util::StringUtl;
 
-int ParseHead(const std::string& text, RouteLegCacheEntry& entry) {
+LineOutcome ParseHead(const std::string& text, RouteLegCacheEntry& entry) {
     Texts fields;
     if (!StringUtl::split(text, kField, fields)) {
-        return -4;
+        return LineStep::Head;
     }
     if (fields.size() != kHeadFields) {
-        return -5;
+        return LineStep::HeadFields;
     }
     const auto stamp = ReadTimeText(fields[0]);
     if (!stamp) {
-        return -6;
+        return LineStep::Stamp;
     }
     entry.stamp = *stamp;
     entry.from = fields[1];
     entry.to = fields[2];
     entry.stops[0].point_cd = fields[3];
     entry.stops[1].point_cd = fields[4];
-    return 0;
+    return {};
 }
 
-int ParseSegments(const std::string& text, std::vector<RouteSegment>& segments) {
+LineOutcome ParseSegments(const std::string& text, std::vector<RouteSegment>& segments) {
     Texts items;
     if (!StringUtl::split(text, kItem, items)) {
-        return -7;
+        return LineStep::Segments;
     }
     for (const auto& item : items) {
         Texts fields;
         if (!StringUtl::split(item, kField, fields)) {
-            return -8;
+            return LineStep::Segment;
         }
         if (fields.size() != kSegmentFields) {
-            return -9;
+            return LineStep::SegmentFields;
         }
         segments.push_back({fields[0], fields[1], fields[2], fields[3], 0});
     }
-    return 0;
+    return {};
 }
 
-int ParseGroups(const std::string& text, std::vector<RoutePointGroup>& groups) {
+LineOutcome ParseGroups(const std::string& text, std::vector<RoutePointGroup>& groups) {
     Texts items;
     if (!StringUtl::split(text, kItem, items)) {
-        return -10;
+        return LineStep::Groups;
     }
     for (const auto& item : items) {
         Texts fields;
         if (!StringUtl::split(item, kField, fields)) {
-            return -11;
+            return LineStep::Group;
         }
         if (fields.size() != kGroupFields) {
-            return -12;
+            return LineStep::GroupFields;
         }
         RoutePointGroup group;
         group.rp_id = fields[0];
         group.range = fields[1];
         if (!StringUtl::split(fields[2], kAlternative, group.alternatives)) {
-            return -13;
+            return LineStep::Alternatives;
         }
         groups.push_back(std::move(group));
     }
-    return 0;
+    return {};
+}
+
+LineOutcome ParseLine(const std::string& line, RouteLegCacheEntry& out) {
+    if (line.empty()) {
+        return LineStep::Empty;
+    }
+    Texts sections;
+    if (!StringUtl::split(line, kSection, sections)) {
+        return LineStep::Sections;
+    }
+    if (sections.size() != kSectionCount) {
+        return LineStep::SectionCount;
+    }
+    RouteLegCacheEntry entry;
+    entry.stops.resize(2);
+    LineOutcome read = ParseHead(sections[0], entry);
+    if (!read.Failed()) {
+        read = ParseSegments(sections[1], entry.stops[1].routes);
+    }
+    if (!read.Failed()) {
+        read = ParseGroups(sections[2], entry.stops[1].rp_groups);
+    }
+    if (read.Failed()) {
+        return read;
+    }
+    entry.stops[1].rp_id_str = sections[3];
+    out = std::move(entry);
+    return {};
 }
 
 void WriteSegments(std::ostream& out, const std::vector<RouteSegment>& segments) {
@@ -116,31 +170,7 @@ std::string LegCacheKey(const std::string& from, const std::string& to) {
 }
 
 int ParseCacheLine(const std::string& line, RouteLegCacheEntry& out) {
-    if (line.empty()) {
-        return -1;
-    }
-    Texts sections;
-    if (!StringUtl::split(line, kSection, sections)) {
-        return -2;
-    }
-    if (sections.size() != kSectionCount) {
-        return -3;
-    }
-    RouteLegCacheEntry entry;
-    entry.stops.resize(2);
-    int code = ParseHead(sections[0], entry);
-    if (code == 0) {
-        code = ParseSegments(sections[1], entry.stops[1].routes);
-    }
-    if (code == 0) {
-        code = ParseGroups(sections[2], entry.stops[1].rp_groups);
-    }
-    if (code != 0) {
-        return code;
-    }
-    entry.stops[1].rp_id_str = sections[3];
-    out = std::move(entry);
-    return 0;
+    return kCacheLineCodes.Of(ParseLine(line, out));
 }
 
 void ReadCache(std::istream& in, LegCache& cache) {

@@ -8,6 +8,7 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/Outcome.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/Position.h"
 #include "seaplan/data/TimeText.h"
@@ -18,6 +19,19 @@
 namespace Tarvik::Seaplan {
 
 namespace {
+
+enum class ProgressStep { Port, Weather, NotSailed, From, To, Distance, Speed, Steam, Calendar };
+using ProgressOutcome = Outcome<ProgressStep>;
+/// Numbers of PlanProgress. A time out of the calendar is Steam there.
+constexpr CodeTable kPlanProgressCodes{Code{ProgressStep::Port, -6},      Code{ProgressStep::Weather, -7},
+                                       Code{ProgressStep::NotSailed, -8}, Code{ProgressStep::From, -9},
+                                       Code{ProgressStep::To, -10},       Code{ProgressStep::Distance, -11},
+                                       Code{ProgressStep::Speed, -12},    Code{ProgressStep::Steam, -13}};
+/// Numbers of CorrectedProgress.
+constexpr CodeTable kCorrectedProgressCodes{
+    Code{ProgressStep::Port, -7},   Code{ProgressStep::Weather, -8},   Code{ProgressStep::From, -9},
+    Code{ProgressStep::To, -10},    Code{ProgressStep::Distance, -11}, Code{ProgressStep::Speed, -12},
+    Code{ProgressStep::Steam, -13}, Code{ProgressStep::Calendar, -14}};
 
 void Append(const BookPoints& rows, PointTexts& list) {
     for (const PosBookPoint& row : rows) {
@@ -55,20 +69,20 @@ class LegWalk {
             const Util::_datetime_t* correction, PlannedProgress& out)
         : weather_(weather), reached_(departure), now_(now), correction_(correction), out_(out) {}
 
-    int Run(const BookPoints& rows) {
+    ProgressOutcome Run(const BookPoints& rows) {
         if (out_.sailed.empty() && correction_ == nullptr) {
-            return -8;
+            return ProgressStep::NotSailed;
         }
         std::string previous = out_.sailed.empty() ? rows.front().position : out_.sailed.back();
         for (const PosBookPoint& row : rows) {
             if (correction_ != nullptr && IsOlder(row.etd, *correction_)) {
                 reached_ = row.etd;
-            } else if (const int failed = Step(previous, row); failed < 0) {
-                return failed;
+            } else if (const auto stepped = Step(previous, row); stepped.Failed()) {
+                return stepped;
             }
             previous = row.position;
         }
-        return 0;
+        return {};
     }
 
   private:
@@ -81,32 +95,32 @@ class LegWalk {
         double steam;
     };
 
-    int Step(const std::string& previous, const PosBookPoint& row) {
+    ProgressOutcome Step(const std::string& previous, const PosBookPoint& row) {
         Position from;
         Position to;
         float distance = 0;
         if (!ReadPosition(previous, 0, from)) {
-            return -9;
+            return ProgressStep::From;
         }
         if (!ReadPosition(row.position, 0, to)) {
-            return -10;
+            return ProgressStep::To;
         }
         if (LegDistance(previous, row.position, row.psr, distance) < 0) {
-            return -11;
+            return ProgressStep::Distance;
         }
         if (row.psp <= kLeastRowKnots) {
-            return -12;
+            return ProgressStep::Speed;
         }
         const double speed = (1 - weather_) * row.psp;
         const double steam = distance / speed;
         if (!std::isfinite(steam)) {
-            return -13;
+            return ProgressStep::Steam;
         }
         if (AddHours(static_cast<float>(steam), reached_) < 0) {
-            return correction_ == nullptr ? -13 : -14;
+            return correction_ == nullptr ? ProgressStep::Steam : ProgressStep::Calendar;
         }
         Place(row, {from, to, distance, speed, steam});
-        return 0;
+        return {};
     }
 
     void Place(const PosBookPoint& row, const Stretch& stretch) {
@@ -152,20 +166,18 @@ void SailCorrected(const BookPoints& rows, const Util::_datetime_t& correction, 
     }
 }
 
-}  // namespace
-
-int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
-                 const Util::_datetime_t& now, PlannedProgress& out) {
+ProgressOutcome Plan(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
+                     const Util::_datetime_t& now, PlannedProgress& out) {
     out = {};
     for (std::size_t i = 0; i < ports.size(); ++i) {
         const auto group = groups.find(static_cast<int>(i));
         if (group == groups.end() || group->second.empty()) {
-            return -6;
+            return ProgressStep::Port;
         }
         const BookPoints& rows = group->second;
         const double weather = ports[i].pw;
         if (weather > 1.0) {
-            return -7;
+            return ProgressStep::Weather;
         }
         if (i == 0) {
             StartAt(ports[i], rows.front(), now, out);
@@ -175,41 +187,54 @@ int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& gro
         } else if (now < ports[i - 1].etd) {
             Append(rows, out.remaining);
         } else {
-            const int failed = LegWalk(weather, ports[i - 1].etd, now, nullptr, out).Run(rows);
-            if (failed < 0) {
-                return failed;
+            const auto walked = LegWalk(weather, ports[i - 1].etd, now, nullptr, out).Run(rows);
+            if (walked.Failed()) {
+                return walked;
             }
         }
     }
-    return 0;
+    return {};
 }
 
-int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
-                      const Util::_datetime_t& correction, const Util::_datetime_t& now,
-                      PlannedProgress& out) {
+ProgressOutcome Correct(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
+                        const Util::_datetime_t& correction, const Util::_datetime_t& now,
+                        PlannedProgress& out) {
     out = {};
     for (std::size_t i = 1; i < ports.size(); ++i) {
         const auto group = groups.find(static_cast<int>(i));
         if (group == groups.end() || group->second.empty()) {
-            return -7;
+            return ProgressStep::Port;
         }
         const BookPoints& rows = group->second;
         const double weather = ports[i].pw;
         if (weather > 1.0) {
-            return -8;
+            return ProgressStep::Weather;
         }
         if (now >= ports[i].eta) {
             SailCorrected(rows, correction, out);
         } else if (now < ports[i - 1].etd) {
             Append(rows, out.remaining);
         } else {
-            const int failed = LegWalk(weather, ports[i - 1].etd, now, &correction, out).Run(rows);
-            if (failed < 0) {
-                return failed;
+            const auto walked = LegWalk(weather, ports[i - 1].etd, now, &correction, out).Run(rows);
+            if (walked.Failed()) {
+                return walked;
             }
         }
     }
-    return 0;
+    return {};
+}
+
+}  // namespace
+
+int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
+                 const Util::_datetime_t& now, PlannedProgress& out) {
+    return kPlanProgressCodes.Of(Plan(ports, groups, now, out));
+}
+
+int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
+                      const Util::_datetime_t& correction, const Util::_datetime_t& now,
+                      PlannedProgress& out) {
+    return kCorrectedProgressCodes.Of(Correct(ports, groups, correction, now, out));
 }
 
 Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& position,

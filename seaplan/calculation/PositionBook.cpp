@@ -7,6 +7,7 @@
 #include <tarvik/util/Units.h>
 
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/Outcome.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/Position.h"
 
@@ -16,66 +17,79 @@ namespace {
 
 constexpr double kLeastBookSpeed = 0.00001;
 
+enum class RouteStep { OneStop, Split, Points, ShortId, LongId };
+using RouteOutcome = Outcome<RouteStep>;
+/// Numbers of BookFromStops; -2 is free.
+constexpr CodeTable kBookFromStopsCodes{Code{RouteStep::OneStop, -1}, Code{RouteStep::Split, -3},
+                                        Code{RouteStep::Points, -4}, Code{RouteStep::ShortId, -5},
+                                        Code{RouteStep::LongId, -6}};
+enum class TimesStep { Rows, FirstStay, Distance, Speed, Time, Stay };
+using TimesOutcome = Outcome<TimesStep>;
+/// Numbers of ComputeBookTimes.
+constexpr CodeTable kBookTimesCodes{Code{TimesStep::Rows, -1},     Code{TimesStep::FirstStay, -2},
+                                    Code{TimesStep::Distance, -3}, Code{TimesStep::Speed, -4},
+                                    Code{TimesStep::Time, -5},     Code{TimesStep::Stay, -6}};
+
 /// Ports and route points of the host's table have at most this many digits, a user's own have more.
 constexpr std::size_t kShippedIdDigits = 5;
 
 /// Makes the last point of a segment the named point that the segment leads to.
-int NameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& row) {
+RouteOutcome NameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& row) {
     row.pointId = id;
     row.pst = PointKindOfId(id);
     if (row.pst == PortPoint) {
         row.psn = PortNameOf(id);
-        return 0;
+        return {};
     }
     const auto found = routePoints.find(id);
     if (found == routePoints.end()) {
         // A port of the user's own is in the dictionary, whatever digit its long id begins with.
         row.psn = id.size() > kShippedIdDigits ? PortNameOf(id) : std::string();
         if (row.psn.empty()) {
-            return row.pst == ShortIdRoutePoint ? -5 : -6;
+            return row.pst == ShortIdRoutePoint ? RouteStep::ShortId : RouteStep::LongId;
         }
         row.pst = PortPoint;
-        return 0;
+        return {};
     }
     row.psn = found->second.name;
-    return 0;
+    return {};
 }
 
 /// Adds the rows of a segment behind its first point; that one stands in the book already.
-int AddSegment(const RouteSegment& segment, const std::vector<std::string>& points,
-               const PointMap& routePoints, BookPoints& rows) {
+RouteOutcome AddSegment(const RouteSegment& segment, const std::vector<std::string>& points,
+                        const PointMap& routePoints, BookPoints& rows) {
     for (std::size_t i = 1; i < points.size(); ++i) {
         PosBookPoint row;
         row.position = points[i];
         if (i + 1 == points.size()) {
-            if (const int code = NameEnd(segment.end_cd, routePoints, row); code != 0) {
-                return code;
+            if (const auto named = NameEnd(segment.end_cd, routePoints, row); named.Failed()) {
+                return named;
             }
         }
         rows.push_back(std::move(row));
     }
-    return 0;
+    return {};
 }
 
-int AddStops(const RouteStops& stops, const PointMap& routePoints, BookPoints& rows) {
+RouteOutcome AddStops(const RouteStops& stops, const PointMap& routePoints, BookPoints& rows) {
     for (std::size_t s = 1; s < stops.size(); ++s) {
         for (const auto& segment : stops[s].routes) {
             std::vector<std::string> points;
             if (!SplitPointset(segment.pointset, points)) {
-                return -3;
+                return RouteStep::Split;
             }
             if (points.size() < 2) {
-                return -4;
+                return RouteStep::Points;
             }
             if (s == 1 && &segment == &stops[s].routes.front()) {
                 rows.front().position = points.front();
             }
-            if (const int code = AddSegment(segment, points, routePoints, rows); code != 0) {
-                return code;
+            if (const auto added = AddSegment(segment, points, routePoints, rows); added.Failed()) {
+                return added;
             }
         }
     }
-    return 0;
+    return {};
 }
 
 bool IsPortOf(const PosBookPoint& point, const VoyPortCall& row) {
@@ -99,28 +113,50 @@ struct PortAhead {
     }
 };
 
-int TimeRow(const PosBookPoint& previous, const PortCallRows& ports, PortAhead& ahead, PosBookPoint& row) {
+TimesOutcome TimeRow(const PosBookPoint& previous, const PortCallRows& ports, PortAhead& ahead,
+                     PosBookPoint& row) {
     float distance = 0;
     if (LegDistance(previous.position, row.position, row.psr, distance) != 0) {
-        return -3;
+        return TimesStep::Distance;
     }
     const auto speed = static_cast<double>(row.psp);
     if (speed <= kLeastBookSpeed) {
-        return -4;
+        return TimesStep::Speed;
     }
     row.eta = previous.etd;
     if (AddHours(static_cast<float>(SteamTime(static_cast<double>(distance), speed, ahead.weather)),
                  row.eta) != 0) {
-        return -5;
+        return TimesStep::Time;
     }
     row.etd = row.eta;
     if (row.pst == PortPoint) {
         if (AddHours(ahead.stay, row.etd) != 0) {
-            return -6;
+            return TimesStep::Stay;
         }
         ahead.Next(ports);
     }
-    return 0;
+    return {};
+}
+
+TimesOutcome TimeRows(const Util::_datetime_t& start, const PortCallRows& ports, BookPoints& rows) {
+    if (rows.empty() || ports.empty()) {
+        return TimesStep::Rows;
+    }
+    BookPoints timed = rows;
+    timed.front().eta = start;
+    timed.front().etd = start;
+    if (AddHours(ports.front().apt, timed.front().etd) != 0) {
+        return TimesStep::FirstStay;
+    }
+    PortAhead ahead;
+    ahead.Next(ports);
+    for (std::size_t i = 1; i < timed.size(); ++i) {
+        if (const auto row = TimeRow(timed[i - 1], ports, ahead, timed[i]); row.Failed()) {
+            return row;
+        }
+    }
+    rows = std::move(timed);
+    return {};
 }
 
 }  // namespace
@@ -139,7 +175,7 @@ int LegDistance(const std::string& a, const std::string& b, const std::string& p
 int BookFromStops(const RouteStops& stops, const PointMap& routePoints, BookPoints& rows) {
     rows.clear();
     if (stops.size() < 2) {
-        return stops.empty() ? 0 : -1;
+        return kBookFromStopsCodes.Of(stops.empty() ? RouteOutcome() : RouteStep::OneStop);
     }
     PosBookPoint start;
     start.pointId = stops.front().point_cd;
@@ -147,11 +183,11 @@ int BookFromStops(const RouteStops& stops, const PointMap& routePoints, BookPoin
     start.pst = PortPoint;
     start.psp = 0;
     rows.push_back(std::move(start));
-    const int code = AddStops(stops, routePoints, rows);
-    if (code != 0) {
+    const RouteOutcome added = AddStops(stops, routePoints, rows);
+    if (added.Failed()) {
         rows.clear();
     }
-    return code;
+    return kBookFromStopsCodes.Of(added);
 }
 
 bool RouteFits(const RouteStops& stops, const PortCallRows& rows) {
@@ -167,24 +203,7 @@ bool BookFits(const BookPoints& book, const PortCallRows& rows) {
 }
 
 int ComputeBookTimes(const Util::_datetime_t& start, const PortCallRows& ports, BookPoints& rows) {
-    if (rows.empty() || ports.empty()) {
-        return -1;
-    }
-    BookPoints timed = rows;
-    timed.front().eta = start;
-    timed.front().etd = start;
-    if (AddHours(ports.front().apt, timed.front().etd) != 0) {
-        return -2;
-    }
-    PortAhead ahead;
-    ahead.Next(ports);
-    for (std::size_t i = 1; i < timed.size(); ++i) {
-        if (const int code = TimeRow(timed[i - 1], ports, ahead, timed[i]); code != 0) {
-            return code;
-        }
-    }
-    rows = std::move(timed);
-    return 0;
+    return kBookTimesCodes.Of(TimeRows(start, ports, rows));
 }
 
 int GroupBookByPort(const BookPoints& rows, std::map<int, BookPoints>& groups) {

@@ -7,6 +7,7 @@
 #include "seaplan/calculation/LegCacheText.h"
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/Outcome.h"
 #include "seaplan/data/Position.h"
 
 /// Figures of the book's legs. A leg's length and time are sums over its pairs of rows, so its speed is the
@@ -19,7 +20,19 @@ namespace {
 
 constexpr double kLeastLegTime = 0.0001;
 constexpr double kSameSpeed = 0.00001;
-constexpr int kRecomputeFailed = -7;
+
+enum class TotalsStep { Ports, Book, LegPoints, Position, Speed, Time, Schedule };
+using TotalsOutcome = Outcome<TotalsStep>;
+/// Numbers of LegTotalsFromBook.
+constexpr CodeTable kLegTotalsCodes{Code{TotalsStep::Ports, -1},     Code{TotalsStep::Book, -2},
+                                    Code{TotalsStep::LegPoints, -3}, Code{TotalsStep::Position, -4},
+                                    Code{TotalsStep::Speed, -5},     Code{TotalsStep::Time, -6},
+                                    Code{TotalsStep::Schedule, -7}};
+enum class RescaleStep { Rows, Legs, Averages, Schedule };
+using RescaleOutcome = Outcome<RescaleStep>;
+/// Numbers of RescaleBookSpeeds.
+constexpr CodeTable kRescaleCodes{Code{RescaleStep::Rows, -1}, Code{RescaleStep::Legs, -2},
+                                  Code{RescaleStep::Averages, -3}, Code{RescaleStep::Schedule, -4}};
 
 /// Length in nautical miles and time in hours of a leg.
 struct LegSums {
@@ -28,26 +41,26 @@ struct LegSums {
 };
 
 /// Sums over the pairs of a leg; weather plays no part, a row's speed is its real one.
-int SumLeg(const BookPoints& rows, const BookLeg& leg, LegSums& sums) {
+TotalsOutcome SumLeg(const BookPoints& rows, const BookLeg& leg, LegSums& sums) {
     if (leg.last <= leg.first) {
-        return -3;
+        return TotalsStep::LegPoints;
     }
     for (std::size_t i = leg.first + 1; i <= leg.last; ++i) {
         Position from;
         Position to;
         if (!ReadPosition(rows[i - 1].position, 0, from) || !ReadPosition(rows[i].position, 0, to)) {
-            return -4;
+            return TotalsStep::Position;
         }
         const auto speed = static_cast<double>(rows[i].psp);
         if (speed < kLeastRowKnots) {
-            return -5;
+            return TotalsStep::Speed;
         }
         const double step =
             Util::NmFromKm(Util::CircleLineUtl::CalculateDistance(from.x, from.y, to.x, to.y, rows[i].psr));
         sums.distance += step;
         sums.time += step / speed;
     }
-    return sums.time < kLeastLegTime ? -6 : 0;
+    return sums.time < kLeastLegTime ? TotalsStep::Time : TotalsOutcome();
 }
 
 void AppendRows(const BookPoints& from, std::size_t first, std::size_t last, BookPoints& out) {
@@ -102,6 +115,60 @@ const BookLeg* TakeLeg(StoredLegs& stored, const std::string& key) {
     return &found->second.back().leg;
 }
 
+TotalsOutcome Totals(const VoyPositionBook& book, PortCallRows& ports) {
+    if (ports.size() < 2) {
+        return TotalsStep::Ports;
+    }
+    const auto legs = LegsOf(book.points);
+    if (legs.size() < ports.size()) {
+        return TotalsStep::Book;
+    }
+    PortCallRows totals = ports;
+    for (std::size_t i = 1; i < totals.size(); ++i) {
+        LegSums sums;
+        if (const auto summed = SumLeg(book.points, legs[i], sums); summed.Failed()) {
+            return summed;
+        }
+        totals[i].distance = static_cast<float>(sums.distance);
+        totals[i].psp = static_cast<float>(sums.distance / sums.time);
+    }
+    totals.front().eta = book.eta;
+    PortCallRows timed;
+    if (RecomputeSchedule(totals, timed) != 0) {
+        return TotalsStep::Schedule;
+    }
+    ports = std::move(timed);
+    return {};
+}
+
+RescaleOutcome Rescale(const PortCallRows& ports, BookPoints& rows) {
+    if (ports.size() < 2 || rows.size() < 2) {
+        return RescaleStep::Rows;
+    }
+    const auto legs = LegsOf(rows);
+    if (legs.size() != ports.size()) {
+        return RescaleStep::Legs;
+    }
+    PortCallRows averages = ports;
+    VoyPositionBook book;
+    book.eta = ports.front().eta;
+    book.points = rows;
+    if (const auto formed = Totals(book, averages); formed.Failed()) {
+        return formed.At() == TotalsStep::Schedule ? RescaleStep::Schedule : RescaleStep::Averages;
+    }
+    for (std::size_t i = 1; i < ports.size(); ++i) {
+        const auto entered = static_cast<double>(ports[i].psp);
+        const auto average = static_cast<double>(averages[i].psp);
+        if (std::fabs(entered - average) < kSameSpeed) {
+            continue;
+        }
+        for (std::size_t r = legs[i].first + 1; r <= legs[i].last; ++r) {
+            rows[r].psp = static_cast<float>(static_cast<double>(rows[r].psp) * entered / average);
+        }
+    }
+    return {};
+}
+
 }  // namespace
 
 std::vector<BookLeg> LegsOf(const BookPoints& rows) {
@@ -115,57 +182,11 @@ std::vector<BookLeg> LegsOf(const BookPoints& rows) {
 }
 
 int LegTotalsFromBook(const VoyPositionBook& book, PortCallRows& ports) {
-    if (ports.size() < 2) {
-        return -1;
-    }
-    const auto legs = LegsOf(book.points);
-    if (legs.size() < ports.size()) {
-        return -2;
-    }
-    PortCallRows totals = ports;
-    for (std::size_t i = 1; i < totals.size(); ++i) {
-        LegSums sums;
-        if (const int code = SumLeg(book.points, legs[i], sums); code != 0) {
-            return code;
-        }
-        totals[i].distance = static_cast<float>(sums.distance);
-        totals[i].psp = static_cast<float>(sums.distance / sums.time);
-    }
-    totals.front().eta = book.eta;
-    PortCallRows timed;
-    if (RecomputeSchedule(totals, timed) != 0) {
-        return kRecomputeFailed;
-    }
-    ports = std::move(timed);
-    return 0;
+    return kLegTotalsCodes.Of(Totals(book, ports));
 }
 
 int RescaleBookSpeeds(const PortCallRows& ports, BookPoints& rows) {
-    if (ports.size() < 2 || rows.size() < 2) {
-        return -1;
-    }
-    const auto legs = LegsOf(rows);
-    if (legs.size() != ports.size()) {
-        return -2;
-    }
-    PortCallRows averages = ports;
-    VoyPositionBook book;
-    book.eta = ports.front().eta;
-    book.points = rows;
-    if (const int code = LegTotalsFromBook(book, averages); code != 0) {
-        return code == kRecomputeFailed ? -4 : -3;
-    }
-    for (std::size_t i = 1; i < ports.size(); ++i) {
-        const auto entered = static_cast<double>(ports[i].psp);
-        const auto average = static_cast<double>(averages[i].psp);
-        if (std::fabs(entered - average) < kSameSpeed) {
-            continue;
-        }
-        for (std::size_t r = legs[i].first + 1; r <= legs[i].last; ++r) {
-            rows[r].psp = static_cast<float>(static_cast<double>(rows[r].psp) * entered / average);
-        }
-    }
-    return 0;
+    return kRescaleCodes.Of(Rescale(ports, rows));
 }
 
 int JoinKeepingLegs(const PortCallRows& oldPorts, const BookPoints& stored, const PortCallRows& newPorts,

@@ -7,6 +7,7 @@
 #include <tarvik/util/Units.h>
 
 #include "seaplan/calculation/RouteMessages.h"
+#include "seaplan/data/Outcome.h"
 #include "seaplan/data/Position.h"
 
 /// Reads the reply of the route engine into stops. Of a route point's variants the one holds whose range
@@ -18,6 +19,13 @@ namespace {
 
 using Util::Jsona;
 using Util::StringUtl;
+
+enum class ReplyStep { Refused, NoStops, Pointset, Group, Variant, Choice };
+using ReplyOutcome = Outcome<ReplyStep>;
+/// Numbers of ParseRouteReply.
+constexpr CodeTable kRouteReplyCodes{Code{ReplyStep::Refused, -1},  Code{ReplyStep::NoStops, -2},
+                                     Code{ReplyStep::Pointset, -3}, Code{ReplyStep::Group, -4},
+                                     Code{ReplyStep::Variant, -5},  Code{ReplyStep::Choice, -6}};
 
 /// Ids of the points that a stop's legs pass, in order.
 std::vector<std::string> ChainOf(const RouteStop& stop) {
@@ -48,12 +56,12 @@ std::optional<int> SpanOf(const std::vector<std::string>& chain, const std::stri
     return std::nullopt;
 }
 
-/// The variant whose range spans the fewest places; of equal spans the later. -1 nothing to choose from, -2 a
-/// range without comma, -3 no span.
-int ChooseVariant(const RouteStop& stop, const std::vector<RoutePointGroup>& variants,
-                  RoutePointGroup& chosen) {
+/// The variant whose range spans the fewest places; of equal spans the later. False
+/// when there is nothing to choose from, a range has no comma, or none spans the chain.
+bool ChooseVariant(const RouteStop& stop, const std::vector<RoutePointGroup>& variants,
+                   RoutePointGroup& chosen) {
     if (stop.routes.size() < 2 || variants.size() < 2) {
-        return -1;
+        return false;
     }
     const auto chain = ChainOf(stop);
     std::map<int, const RoutePointGroup*> bySpan;
@@ -61,7 +69,7 @@ int ChooseVariant(const RouteStop& stop, const std::vector<RoutePointGroup>& var
     for (const auto& variant : variants) {
         const auto comma = variant.range.find(',');
         if (comma == std::string::npos) {
-            return -2;
+            return false;
         }
         if (const auto span =
                 SpanOf(chain, variant.range.substr(0, comma), variant.range.substr(comma + 1), place)) {
@@ -69,31 +77,31 @@ int ChooseVariant(const RouteStop& stop, const std::vector<RoutePointGroup>& var
         }
     }
     if (bySpan.empty()) {
-        return -3;
+        return false;
     }
     chosen = *bySpan.begin()->second;
-    return 0;
+    return true;
 }
 
 /// Reads the variants of a text with "."; those behind the first lack the point's id and get it.
-int ParseVariants(const RouteStop& stop, const std::string& text, RoutePointGroup& chosen) {
+ReplyOutcome ParseVariants(const RouteStop& stop, const std::string& text, RoutePointGroup& chosen) {
     std::vector<std::string> pieces;
     if (!StringUtl::split(text, ".", pieces)) {
-        return -5;
+        return ReplyStep::Variant;
     }
     std::vector<RoutePointGroup> variants;
     for (const auto& piece : pieces) {
         RoutePointGroup variant;
         const std::string prefix = variants.empty() ? "" : variants.front().rp_id + "=";
         if (ParseRoutePointGroup(prefix + piece, variant) != 0) {
-            return -5;
+            return ReplyStep::Variant;
         }
         variants.push_back(std::move(variant));
     }
-    return ChooseVariant(stop, variants, chosen) == 0 ? 0 : -6;
+    return ChooseVariant(stop, variants, chosen) ? ReplyOutcome() : ReplyStep::Choice;
 }
 
-int ParseGroups(const Jsona& texts, int leg, RouteStop& stop) {
+ReplyOutcome ParseGroups(const Jsona& texts, int leg, RouteStop& stop) {
     for (int i = 0; i < texts.size(); ++i) {
         const std::string text = texts.getv(i, "");
         if (text.empty()) {
@@ -101,24 +109,25 @@ int ParseGroups(const Jsona& texts, int leg, RouteStop& stop) {
         }
         RoutePointGroup group;
         const bool single = text.find('.') == std::string::npos;
-        const int code =
-            single ? (ParseRoutePointGroup(text, group) == 0 ? 0 : -4) : ParseVariants(stop, text, group);
-        if (code != 0) {
-            return code;
+        if (single && ParseRoutePointGroup(text, group) != 0) {
+            return ReplyStep::Group;
+        }
+        if (const auto chosen = single ? ReplyOutcome() : ParseVariants(stop, text, group); chosen.Failed()) {
+            return chosen;
         }
         group.leg = leg;
         stop.rp_groups.push_back(std::move(group));
     }
-    return 0;
+    return {};
 }
 
-int ParseSegments(const Jsona& segments, RouteStop& stop) {
+ReplyOutcome ParseSegments(const Jsona& segments, RouteStop& stop) {
     for (int i = 0; i < segments.size(); ++i) {
         const Jsona item = segments.get(i);
         stop.routes.push_back({item.getv("route", ""), item.getv("from_cd", ""), item.getv("end_cd", ""),
                                item.getv("pointset", ""), 0});
     }
-    return MeasureSegments(stop) ? 0 : -3;
+    return MeasureSegments(stop) ? ReplyOutcome() : ReplyStep::Pointset;
 }
 
 void ParseLocks(const std::string& text, RouteStop& stop) {
@@ -134,23 +143,21 @@ void ParseLocks(const std::string& text, RouteStop& stop) {
     }
 }
 
-int ParseStop(const Jsona& item, int index, RouteStop& stop) {
+ReplyOutcome ParseStop(const Jsona& item, int index, RouteStop& stop) {
     stop.point_cd = item.getv("point_cd", "");
     stop.rp_id_str = item.getv("rp_id_str", "");
-    int code = ParseSegments(item.get("routes"), stop);
-    if (code == 0) {
-        code = ParseGroups(item.get("rp_groups"), index, stop);
+    ReplyOutcome read = ParseSegments(item.get("routes"), stop);
+    if (!read.Failed()) {
+        read = ParseGroups(item.get("rp_groups"), index, stop);
     }
     ParseLocks(item.getv("lock_rp_id_str", ""), stop);
-    return code;
+    return read;
 }
 
-}  // namespace
-
-int ParseRouteReply(const Jsona& reply, RouteStops& out) {
+ReplyOutcome ParseStops(const Jsona& reply, RouteStops& out) {
     out.clear();
     if (reply.getv("eid", -1) != -1) {
-        return -1;
+        return ReplyStep::Refused;
     }
     const bool isObject = reply.kind() == Jsona::Kind::Object;
     RouteStops stops;
@@ -159,17 +166,22 @@ int ParseRouteReply(const Jsona& reply, RouteStops& out) {
             continue;
         }
         RouteStop stop;
-        const int code = ParseStop(reply.get(i), static_cast<int>(stops.size()), stop);
-        if (code != 0) {
-            return code;
+        if (const auto read = ParseStop(reply.get(i), static_cast<int>(stops.size()), stop); read.Failed()) {
+            return read;
         }
         stops.push_back(std::move(stop));
     }
     if (stops.empty()) {
-        return -2;
+        return ReplyStep::NoStops;
     }
     out = std::move(stops);
-    return 0;
+    return {};
+}
+
+}  // namespace
+
+int ParseRouteReply(const Jsona& reply, RouteStops& out) {
+    return kRouteReplyCodes.Of(ParseStops(reply, out));
 }
 
 int ParseRoutePointGroup(const std::string& text, RoutePointGroup& out) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/Outcome.h"
 
 namespace Tarvik::Seaplan {
 
@@ -9,25 +10,29 @@ bool IsSamePlace(const VoyPortCall& before, const VoyPortCall& row, const SamePo
     return row.ppn == before.ppn || links.count(before.ppi + "-" + row.ppi) > 0;
 }
 
+enum class MoveStep { Insert, Remove };
+/// Numbers of MoveRowUp and MoveRowDown.
+constexpr CodeTable kMoveRowCodes{Code{MoveStep::Insert, -1}, Code{MoveStep::Remove, -2}};
+
 int SizeOf(const PortCallRows& rows) {
     return static_cast<int>(rows.size());
 }
 
 /// Puts a copy of row `from` `by` places on and takes the row out that then stands `gone` places on.
-int MoveRow(const PortCallRows& rows, int from, int by, int gone, PortCallRows& out) {
+Outcome<MoveStep> MoveRow(const PortCallRows& rows, int from, int by, int gone, PortCallRows& out) {
     PortCallRows inserted;
     const bool known = from >= 0 && from < SizeOf(rows);
     if (!known || InsertRowAt(rows, from + by, rows[static_cast<std::size_t>(from)], inserted) != 0) {
         out.clear();
-        return -1;
+        return MoveStep::Insert;
     }
     PortCallRows result;
     if (RemoveRowAt(inserted, from + gone, result) != 0) {
         out.clear();
-        return -2;
+        return MoveStep::Remove;
     }
     out = std::move(result);
-    return 0;
+    return {};
 }
 
 }  // namespace
@@ -93,11 +98,11 @@ int RemoveRowAt(const PortCallRows& rows, int index, PortCallRows& out) {
 }
 
 int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) {
-    return MoveRow(rows, index, -1, 1, out);
+    return kMoveRowCodes.Of(MoveRow(rows, index, -1, 1, out));
 }
 
 int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out) {
-    return MoveRow(rows, index, 2, 0, out);
+    return kMoveRowCodes.Of(MoveRow(rows, index, 2, 0, out));
 }
 
 }  // namespace Tarvik::Seaplan

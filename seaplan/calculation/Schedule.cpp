@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "seaplan/data/Outcome.h"
 #include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
@@ -16,6 +17,12 @@ constexpr double kLongestSpan = 1e8;  // hours, more than ten thousand years
 constexpr double kLeastBuildSpeed = 0.000001;
 constexpr float kDefaultSpeed = 10.0F;
 constexpr double kLeastTotalTime = 0.0001;
+
+enum class EditStep { Weather, Speed, Time };
+using EditOutcome = Outcome<EditStep>;
+/// Numbers of RecomputeSchedule.
+constexpr CodeTable kRecomputeCodes{Code{EditStep::Weather, -1}, Code{EditStep::Speed, -2},
+                                    Code{EditStep::Time, -3}};
 
 /// A departure row: no leg ends there.
 bool StartAt(const Util::_datetime_t& start, VoyPortCall& row) {
@@ -41,18 +48,18 @@ bool IsWeather(double weather) {
     return weather >= 0 && weather <= kMostWeather;
 }
 
-/// One row of RecomputeSchedule behind `previous`, null for the first; the code of what is wrong.
-int RecomputeRow(const VoyPortCall* previous, VoyPortCall& row) {
+/// One row of RecomputeSchedule behind `previous`, null for the first.
+EditOutcome RecomputeRow(const VoyPortCall* previous, VoyPortCall& row) {
     if (!IsWeather(row.pw)) {
-        return -1;
+        return EditStep::Weather;
     }
     if (previous == nullptr) {
-        return StartAt(row.eta, row) ? 0 : -3;
+        return StartAt(row.eta, row) ? EditOutcome() : EditStep::Time;
     }
     if (static_cast<double>(row.psp) < kLeastScheduleKnots) {
-        return -2;
+        return EditStep::Speed;
     }
-    return SailFrom(previous->etd, row) ? 0 : -3;
+    return SailFrom(previous->etd, row) ? EditOutcome() : EditStep::Time;
 }
 
 }  // namespace
@@ -95,10 +102,10 @@ int RecomputeSchedule(const PortCallRows& rows, PortCallRows& out) {
     result.reserve(rows.size());
     for (VoyPortCall row : rows) {
         row.ppi.clear();
-        const int code = RecomputeRow(result.empty() ? nullptr : &result.back(), row);
-        if (code != 0) {
+        const auto timed = RecomputeRow(result.empty() ? nullptr : &result.back(), row);
+        if (timed.Failed()) {
             out.clear();
-            return code;
+            return kRecomputeCodes.Of(timed);
         }
         result.push_back(std::move(row));
     }

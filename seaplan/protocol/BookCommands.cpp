@@ -54,10 +54,10 @@ bool AppendRow(int index, const PosBookPoint& point, int speedDecimals, std::str
     return true;
 }
 
-enum class BlockStep { Position, Send, Refused };
+enum class BlockStep { Id, Position, Send, Refused };
 /// Numbers of a book that goes out in one request.
-constexpr CodeTable kOneRequestCodes{Code{BlockStep::Position, -2}, Code{BlockStep::Send, -3},
-                                     Code{BlockStep::Refused, -4}};
+constexpr CodeTable kOneRequestCodes{Code{BlockStep::Id, -1}, Code{BlockStep::Position, -2},
+                                     Code{BlockStep::Send, -3}, Code{BlockStep::Refused, -4}};
 /// Numbers of a book that goes out in blocks.
 constexpr CodeTable kBlocksCodes{Code{BlockStep::Position, -5}, Code{BlockStep::Send, -6},
                                  Code{BlockStep::Refused, -7}};
@@ -75,39 +75,67 @@ Outcome<BlockStep> SendBlock(const std::string& id, const BookPoints& rows, int 
     return IsSuccess(reply) ? Outcome<BlockStep>() : BlockStep::Refused;
 }
 
-int CreateBook(const std::string& vi, const std::string& date, std::string& id) {
+enum class BookStep { Id, List, None, Date, DateText, Send, Refused, NewId };
+using BookOutcome = Outcome<BookStep>;
+/// Numbers of LoadPositionBook; ReadPositionBook has the last two.
+constexpr CodeTable kLoadBookCodes{Code{BookStep::Id, -1}, Code{BookStep::List, -2},
+                                   Code{BookStep::None, kNoBook}, Code{BookStep::Date, -4},
+                                   Code{BookStep::DateText, -5}};
+/// Numbers of EnsurePositionBook.
+constexpr CodeTable kEnsureBookCodes{Code{BookStep::Id, -1},      Code{BookStep::List, -2},
+                                     Code{BookStep::Date, -3},    Code{BookStep::Send, -4},
+                                     Code{BookStep::Refused, -5}, Code{BookStep::NewId, -6}};
+/// Numbers of SetPositionBookDate.
+constexpr CodeTable kBookDateCodes{Code{BookStep::Id, -1}, Code{BookStep::Date, -2}, Code{BookStep::Send, -3},
+                                   Code{BookStep::Refused, -4}};
+
+/// Sends a text that the server answers with "eid".
+BookOutcome Send(const std::string& text, VoyCommand command, Util::Jsona& reply) {
+    if (SendText(text, command, reply) < 0) {
+        return BookStep::Send;
+    }
+    return IsSuccess(reply) ? BookOutcome() : BookStep::Refused;
+}
+
+BookOutcome Create(const std::string& vi, const std::string& date, std::string& id) {
     std::string serverTime;
     if (ToServerTime(date, serverTime) < 0) {
-        return -3;
+        return BookStep::Date;
     }
     Util::Jsona reply;
-    if (SendText(CreateBookText(vi, serverTime), VoyCommand::CreateBook, reply) < 0) {
-        return -4;
-    }
-    if (!IsSuccess(reply)) {
-        return -5;
+    if (const auto sent = Send(CreateBookText(vi, serverTime), VoyCommand::CreateBook, reply);
+        sent.Failed()) {
+        return sent;
     }
     id = reply.getv("psb", "");
-    return id.empty() ? -6 : 0;
+    return id.empty() ? BookStep::NewId : BookOutcome();
 }
 
-}  // namespace
-
-std::string PositionText(const Util::Jsona& row) {
-    const auto x = static_cast<float>(Coordinate(row, "xc"));
-    const auto y = static_cast<float>(Coordinate(row, "yc"));
-    return PositionText(Position{static_cast<double>(x), static_cast<double>(y)});
+BookOutcome Ensure(const std::string& vi, const std::string& date, std::string& id) {
+    id.clear();
+    if (vi.empty()) {
+        return BookStep::Id;
+    }
+    Util::Jsona reply;
+    if (!AskList(VoyageIdText(vi), VoyCommand::LoadBook, reply)) {
+        return BookStep::List;
+    }
+    if (reply.size() > 0) {
+        id = reply.get(0).getv("pbi", "");
+        return {};
+    }
+    return Create(vi, date, id);
 }
 
-int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book) {
+BookOutcome Read(const Util::Jsona& element, VoyPositionBook& book) {
     book.pbi = element.getv("pbi", "");
     std::string local;
     if (FromServerTime(element.getv("eta", ""), local) < 0) {
-        return -4;
+        return BookStep::Date;
     }
     const auto eta = Util::DateTimeUtl::Parse(local);
     if (!eta) {
-        return -5;
+        return BookStep::DateText;
     }
     book.eta = *eta;
     std::map<int, PosBookPoint> sorted;
@@ -119,7 +147,42 @@ int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book) {
     for (auto& [number, point] : sorted) {
         book.points.push_back(std::move(point));
     }
-    return 0;
+    return {};
+}
+
+BookOutcome Load(const std::string& vi, VoyPositionBook& book) {
+    if (vi.empty()) {
+        return BookStep::Id;
+    }
+    Util::Jsona reply;
+    if (!AskList(VoyageIdText(vi), VoyCommand::LoadBook, reply)) {
+        return BookStep::List;
+    }
+    return reply.size() < 1 ? BookStep::None : Read(reply.get(0), book);
+}
+
+BookOutcome SetDate(const std::string& id, const std::string& date) {
+    if (id.empty()) {
+        return BookStep::Id;
+    }
+    std::string serverTime;
+    if (ToServerTime(date, serverTime) < 0) {
+        return BookStep::Date;
+    }
+    Util::Jsona reply;
+    return Send(BookDateText(id, serverTime), VoyCommand::SetBookDate, reply);
+}
+
+}  // namespace
+
+std::string PositionText(const Util::Jsona& row) {
+    const auto x = static_cast<float>(Coordinate(row, "xc"));
+    const auto y = static_cast<float>(Coordinate(row, "yc"));
+    return PositionText(Position{static_cast<double>(x), static_cast<double>(y)});
+}
+
+int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book) {
+    return kLoadBookCodes.Of(Read(element, book));
 }
 
 bool BookRowsText(const std::string& id, const BookPoints& rows, const BookBlock& block, std::string& text) {
@@ -143,50 +206,20 @@ std::string BookDateText(const std::string& id, const std::string& serverTime) {
 }
 
 int LoadPositionBook(const std::string& vi, VoyPositionBook& book) {
-    if (vi.empty()) {
-        return -1;
-    }
-    Util::Jsona reply;
-    if (!AskList(VoyageIdText(vi), VoyCommand::LoadBook, reply)) {
-        return -2;
-    }
-    return reply.size() < 1 ? kNoBook : ReadPositionBook(reply.get(0), book);
+    return kLoadBookCodes.Of(Load(vi, book));
 }
 
 int EnsurePositionBook(const std::string& vi, const std::string& date, std::string& id) {
-    id.clear();
-    if (vi.empty()) {
-        return -1;
-    }
-    Util::Jsona reply;
-    if (!AskList(VoyageIdText(vi), VoyCommand::LoadBook, reply)) {
-        return -2;
-    }
-    if (reply.size() > 0) {
-        id = reply.get(0).getv("pbi", "");
-        return 0;
-    }
-    return CreateBook(vi, date, id);
+    return kEnsureBookCodes.Of(Ensure(vi, date, id));
 }
 
 int SetPositionBookDate(const std::string& id, const std::string& date) {
-    if (id.empty()) {
-        return -1;
-    }
-    std::string serverTime;
-    if (ToServerTime(date, serverTime) < 0) {
-        return -2;
-    }
-    Util::Jsona reply;
-    if (SendText(BookDateText(id, serverTime), VoyCommand::SetBookDate, reply) < 0) {
-        return -3;
-    }
-    return IsSuccess(reply) ? 0 : -4;
+    return kBookDateCodes.Of(SetDate(id, date));
 }
 
 int SavePositionBookRows(const std::string& id, const BookPoints& rows) {
     if (id.empty()) {
-        return -1;
+        return kOneRequestCodes.Of(BlockStep::Id);
     }
     const int count = static_cast<int>(rows.size());
     if (count < kBookBlockRows) {

@@ -12,6 +12,7 @@
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/calculation/Units.h"
+#include "seaplan/data/Outcome.h"
 #include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
@@ -20,6 +21,14 @@ namespace {
 
 constexpr double kLeastFixSpeed = 0.1;  // knots
 constexpr const char* kFixName = "AIS track point";
+
+enum class InsertStep { Times, Groups, Port, EmptyPort, NotLeft, Hours, Position };
+using InsertOutcome = Outcome<InsertStep>;
+/// Numbers of InsertAisPosition.
+constexpr CodeTable kInsertPositionCodes{Code{InsertStep::Times, -1},   Code{InsertStep::Groups, -2},
+                                         Code{InsertStep::Port, -3},    Code{InsertStep::EmptyPort, -4},
+                                         Code{InsertStep::NotLeft, -5}, Code{InsertStep::Hours, -6},
+                                         Code{InsertStep::Position, -7}};
 
 using Positions = std::vector<std::string>;
 using Util::_datetime_t;
@@ -30,17 +39,17 @@ class FixInsertion {
     FixInsertion(const _datetime_t& fix, const PortCallRows& ports, const Positions& positions)
         : fix_(fix), ports_(ports), positions_(positions) {}
 
-    int AddLeg(std::size_t port, const BookPoints& group) {
+    InsertOutcome AddLeg(std::size_t port, const BookPoints& group) {
         if (group.back().etd < fix_) {
             AddAll(group);
-            return 0;
+            return {};
         }
         if (rows_.empty()) {
-            return -5;
+            return InsertStep::NotLeft;
         }
         if (rows_.back().etd > fix_) {
             AddAll(group);
-            return 0;
+            return {};
         }
         return AddCorrectedLeg(port, group);
     }
@@ -52,7 +61,7 @@ class FixInsertion {
     void AddAll(const BookPoints& group) { rows_.insert(rows_.end(), group.begin(), group.end()); }
 
     /// What was sailed before the fix, the fix, the server's way, and the port.
-    int AddCorrectedLeg(std::size_t port, const BookPoints& group) {
+    InsertOutcome AddCorrectedLeg(std::size_t port, const BookPoints& group) {
         for (std::size_t i = 0; i < group.size() && group[i].etd < fix_; ++i) {
             rows_.push_back(group[i]);
         }
@@ -63,36 +72,36 @@ class FixInsertion {
             row.etd = fix_;
             if (k > 0) {
                 rows_.push_back(std::move(row));
-            } else if (const int code = AddFix(port, std::move(row)); code != 0) {
-                return code;
+            } else if (const auto added = AddFix(port, std::move(row)); added.Failed()) {
+                return added;
             }
         }
         rows_.push_back(group.back());
-        return 0;
+        return {};
     }
 
-    int AddFix(std::size_t port, PosBookPoint row) {
+    InsertOutcome AddFix(std::size_t port, PosBookPoint row) {
         float hours = 0;
         float distance = 0;
         const PosBookPoint& before = rows_.back();
         if (HoursBetween(fix_.fmt(kTimeFormat), before.etd.fmt(kTimeFormat), hours) != 0) {
-            return -6;
+            return InsertStep::Hours;
         }
         if (LegDistance(before.position, row.position, "GC", distance) != 0) {
-            return -7;
+            return InsertStep::Position;
         }
         const double weather = port < ports_.size() ? static_cast<double>(ports_[port].pw) : 0.0;
         const double speed =
             SpeedForSteamTime(static_cast<double>(distance), static_cast<double>(hours), weather);
         if (hours <= 0 || !(speed > kLeastFixSpeed)) {
             applied_ = false;
-            return 0;
+            return {};
         }
         row.psp = static_cast<float>(speed);
         row.psn = kFixName;
         row.pst = AisTrackPoint;
         rows_.push_back(std::move(row));
-        return 0;
+        return {};
     }
 
     const _datetime_t& fix_;
@@ -101,6 +110,35 @@ class FixInsertion {
     BookPoints rows_;
     bool applied_ = true;
 };
+
+InsertOutcome Insert(const _datetime_t& fix, const PortCallRows& ports, const Positions& positions,
+                     VoyPositionBook& book, int& applied) {
+    applied = 1;
+    BookPoints timed = book.points;
+    if (ComputeBookTimes(book.eta, ports, timed) != 0) {
+        return InsertStep::Times;
+    }
+    std::map<int, BookPoints> groups;
+    if (GroupBookByPort(timed, groups) != 0) {
+        return InsertStep::Groups;
+    }
+    FixInsertion insertion(fix, ports, positions);
+    for (std::size_t i = 0; i < ports.size(); ++i) {
+        const auto group = groups.find(static_cast<int>(i));
+        if (group == groups.end()) {
+            return InsertStep::Port;
+        }
+        if (group->second.empty()) {
+            return InsertStep::EmptyPort;
+        }
+        if (const auto added = insertion.AddLeg(i, group->second); added.Failed()) {
+            return added;
+        }
+    }
+    applied = insertion.Applied() ? 1 : 0;
+    book.points = std::move(insertion.Rows());
+    return {};
+}
 
 }  // namespace
 
@@ -149,31 +187,7 @@ int RestOfBookPositions(const PortCallRows& ports, const BookPoints& rows, std::
 
 int InsertAisPosition(const _datetime_t& fix, const PortCallRows& ports, const Positions& positions,
                       VoyPositionBook& book, int& applied) {
-    applied = 1;
-    BookPoints timed = book.points;
-    if (ComputeBookTimes(book.eta, ports, timed) != 0) {
-        return -1;
-    }
-    std::map<int, BookPoints> groups;
-    if (GroupBookByPort(timed, groups) != 0) {
-        return -2;
-    }
-    FixInsertion insertion(fix, ports, positions);
-    for (std::size_t i = 0; i < ports.size(); ++i) {
-        const auto group = groups.find(static_cast<int>(i));
-        if (group == groups.end()) {
-            return -3;
-        }
-        if (group->second.empty()) {
-            return -4;
-        }
-        if (const int code = insertion.AddLeg(i, group->second); code != 0) {
-            return code;
-        }
-    }
-    applied = insertion.Applied() ? 1 : 0;
-    book.points = std::move(insertion.Rows());
-    return 0;
+    return kInsertPositionCodes.Of(Insert(fix, ports, positions, book, applied));
 }
 
 }  // namespace Tarvik::Seaplan

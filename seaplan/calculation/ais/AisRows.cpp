@@ -17,6 +17,7 @@
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/calculation/Units.h"
+#include "seaplan/data/Outcome.h"
 #include "seaplan/data/Position.h"
 
 namespace Tarvik::Seaplan {
@@ -26,6 +27,21 @@ namespace {
 constexpr double kLeastHours = 0.001;
 constexpr double kLeastDistance = 0.001;
 constexpr double kSameMoment = 0.01;  // hours
+
+enum class AisRowsStep { Ports, Groups, Port, Position };
+using AisRowsOutcome = Outcome<AisRowsStep>;
+/// Numbers of BuildAisRows.
+constexpr CodeTable kAisRowsCodes{Code{AisRowsStep::Ports, -1}, Code{AisRowsStep::Groups, -2},
+                                  Code{AisRowsStep::Port, -3}, Code{AisRowsStep::Position, -4}};
+enum class SplitRowsStep { Times, Rows, NoPosition };
+/// Numbers of SplitCorrectedVoyage.
+constexpr CodeTable kSplitVoyageCodes{Code{SplitRowsStep::Times, -3}, Code{SplitRowsStep::Rows, -4},
+                                      Code{SplitRowsStep::NoPosition, -5}};
+enum class AverageStep { Time, Groups, Position, Order };
+using AverageOutcome = Outcome<AverageStep>;
+/// Numbers of AverageSpeedsAround.
+constexpr CodeTable kAverageSpeedsCodes{Code{AverageStep::Time, -1}, Code{AverageStep::Groups, -2},
+                                        Code{AverageStep::Position, -6}, Code{AverageStep::Order, -7}};
 
 /// Miles and hours of a stretch.
 struct Stretch {
@@ -72,13 +88,14 @@ VoyPortCall AisRow(const PosBookPoint& point, const Stretch& stretch) {
     return row;
 }
 
-/// Adds the rows of one leg; `last` is the place before it and becomes its port.
-int AddLeg(const VoyPortCall& port, const BookPoints& group, PosBookPoint& last, PortCallRows& out) {
+/// Adds the rows of one leg; `last` is the place before it and becomes its port. False for a position without
+/// comma.
+bool AddLeg(const VoyPortCall& port, const BookPoints& group, PosBookPoint& last, PortCallRows& out) {
     Stretch sums;
     for (const auto& row : group) {
         Stretch step;
         if (!StretchBetween(last, row, step)) {
-            return -4;
+            return false;
         }
         // A position right behind another row of the table has only its own step.
         const bool ownStepOnly = row.pst == AisTrackPoint && sums.distance < kLeastDistance;
@@ -98,7 +115,7 @@ int AddLeg(const VoyPortCall& port, const BookPoints& group, PosBookPoint& last,
         }
         last = row;
     }
-    return 0;
+    return true;
 }
 
 /// The first row left at about this time.
@@ -113,18 +130,91 @@ std::optional<std::size_t> RowLeftAt(const std::string& time, const BookPoints& 
     return std::nullopt;
 }
 
-int SumAround(const BookPoints& group, std::size_t found, Stretch& before, Stretch& after) {
+AverageOutcome SumAround(const BookPoints& group, std::size_t found, Stretch& before, Stretch& after) {
     for (std::size_t i = 1; i < group.size(); ++i) {
         Stretch step;
         if (!StretchBetween(group[i - 1], group[i], step)) {
-            return -6;
+            return AverageStep::Position;
         }
         if (step.hours < 0) {
-            return -7;
+            return AverageStep::Order;
         }
         (i <= found ? before : after).Add(step);
     }
-    return 0;
+    return {};
+}
+
+AisRowsOutcome Build(const PortCallRows& ports, const BookPoints& rows, PortCallRows& out) {
+    out.clear();
+    if (ports.empty()) {
+        return AisRowsStep::Ports;
+    }
+    std::map<int, BookPoints> groups;
+    if (GroupBookByPort(rows, groups) != 0) {
+        return AisRowsStep::Groups;
+    }
+    PortCallRows result{ports.front()};
+    PosBookPoint last = groups.at(0).back();
+    for (std::size_t i = 1; i < ports.size(); ++i) {
+        const auto group = groups.find(static_cast<int>(i));
+        if (group == groups.end()) {
+            return AisRowsStep::Port;
+        }
+        if (!AddLeg(ports[i], group->second, last, result)) {
+            return AisRowsStep::Position;
+        }
+    }
+    out = std::move(result);
+    return {};
+}
+
+Outcome<SplitRowsStep> Split(const VoyPositionBook& book, const PortCallRows& ports, PortCallRows& before,
+                             PortCallRows& after) {
+    BookPoints timed = book.points;
+    if (ComputeBookTimes(book.eta, ports, timed) != 0) {
+        return SplitRowsStep::Times;
+    }
+    PortCallRows rows;
+    if (Build(ports, timed, rows).Failed()) {
+        return SplitRowsStep::Rows;
+    }
+    const auto last = std::find_if(rows.rbegin(), rows.rend(), IsAisRow);
+    const auto behind = last.base();  // the row behind the last position
+    if (std::distance(rows.begin(), behind) <= 1) {
+        return SplitRowsStep::NoPosition;
+    }
+    before.assign(rows.begin(), behind);
+    after.assign(behind, rows.end());
+    return {};
+}
+
+AverageOutcome Average(const std::string& time, const BookPoints& rows, SpeedsAround& speeds) {
+    float ignored = 0;
+    if (HoursBetween(time, time, ignored) != 0) {
+        return AverageStep::Time;
+    }
+    std::map<int, BookPoints> groups;
+    if (GroupBookByPort(rows, groups) != 0) {
+        return AverageStep::Groups;
+    }
+    Stretch before;
+    Stretch after;
+    for (const auto& [index, group] : groups) {
+        const auto found = RowLeftAt(time, group);
+        if (!found || group.size() < 2) {
+            continue;
+        }
+        if (const auto summed = SumAround(group, *found, before, after); summed.Failed()) {
+            return summed;
+        }
+    }
+    if (before.hours > kLeastHours) {
+        speeds.before = static_cast<float>(before.distance / before.hours);
+    }
+    if (after.hours > kLeastHours) {
+        speeds.after = static_cast<float>(after.distance / after.hours);
+    }
+    return {};
 }
 
 }  // namespace
@@ -134,76 +224,16 @@ bool IsAisRow(const VoyPortCall& row) {
 }
 
 int BuildAisRows(const PortCallRows& ports, const BookPoints& rows, PortCallRows& out) {
-    out.clear();
-    if (ports.empty()) {
-        return -1;
-    }
-    std::map<int, BookPoints> groups;
-    if (GroupBookByPort(rows, groups) != 0) {
-        return -2;
-    }
-    PortCallRows result{ports.front()};
-    PosBookPoint last = groups.at(0).back();
-    for (std::size_t i = 1; i < ports.size(); ++i) {
-        const auto group = groups.find(static_cast<int>(i));
-        if (group == groups.end()) {
-            return -3;
-        }
-        if (const int code = AddLeg(ports[i], group->second, last, result); code != 0) {
-            return code;
-        }
-    }
-    out = std::move(result);
-    return 0;
+    return kAisRowsCodes.Of(Build(ports, rows, out));
 }
 
 int SplitCorrectedVoyage(const VoyPositionBook& book, const PortCallRows& ports, PortCallRows& before,
                          PortCallRows& after) {
-    BookPoints timed = book.points;
-    if (ComputeBookTimes(book.eta, ports, timed) != 0) {
-        return -3;
-    }
-    PortCallRows rows;
-    if (BuildAisRows(ports, timed, rows) != 0) {
-        return -4;
-    }
-    const auto last = std::find_if(rows.rbegin(), rows.rend(), IsAisRow);
-    const auto behind = last.base();  // the row behind the last position
-    if (std::distance(rows.begin(), behind) <= 1) {
-        return -5;
-    }
-    before.assign(rows.begin(), behind);
-    after.assign(behind, rows.end());
-    return 0;
+    return kSplitVoyageCodes.Of(Split(book, ports, before, after));
 }
 
 int AverageSpeedsAround(const std::string& time, const BookPoints& rows, SpeedsAround& speeds) {
-    float ignored = 0;
-    if (HoursBetween(time, time, ignored) != 0) {
-        return -1;
-    }
-    std::map<int, BookPoints> groups;
-    if (GroupBookByPort(rows, groups) != 0) {
-        return -2;
-    }
-    Stretch before;
-    Stretch after;
-    for (const auto& [index, group] : groups) {
-        const auto found = RowLeftAt(time, group);
-        if (!found || group.size() < 2) {
-            continue;
-        }
-        if (const int code = SumAround(group, *found, before, after); code != 0) {
-            return code;
-        }
-    }
-    if (before.hours > kLeastHours) {
-        speeds.before = static_cast<float>(before.distance / before.hours);
-    }
-    if (after.hours > kLeastHours) {
-        speeds.after = static_cast<float>(after.distance / after.hours);
-    }
-    return 0;
+    return kAverageSpeedsCodes.Of(Average(time, rows, speeds));
 }
 
 }  // namespace Tarvik::Seaplan

@@ -7,6 +7,7 @@
 #include <tarvik/util/Units.h>
 
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/data/Outcome.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/data/Position.h"
 #include "seaplan/data/TimeText.h"
@@ -19,6 +20,13 @@ constexpr double kEastOfLine = 179.0;
 constexpr double kWestOfLine = -179.0;
 constexpr int kPortDecimals = 4;
 constexpr int kWaypointDecimals = 3;
+
+enum class ToPanelStep { PortCalls, Groups, NoRows, Port, Row };
+using ToPanelOutcome = Outcome<ToPanelStep>;
+/// Numbers of BookToPanel.
+constexpr CodeTable kBookToPanelCodes{Code{ToPanelStep::PortCalls, -1}, Code{ToPanelStep::Groups, -2},
+                                      Code{ToPanelStep::NoRows, -3}, Code{ToPanelStep::Port, -4},
+                                      Code{ToPanelStep::Row, -5}};
 
 double KmPerHour(float knots) {
     return Util::KmhFromKnots(static_cast<double>(knots));
@@ -64,18 +72,19 @@ void TakeCall(const VoyPortCall& call, PosBookPortRow& port) {
 }
 
 /// A port with its rows, the last of which is the port itself.
-int TakePort(const VoyPortCall& call, const BookPoints& group, AisSpeeds& aisSpeeds, PosBookPortRow& port) {
+ToPanelOutcome TakePort(const VoyPortCall& call, const BookPoints& group, AisSpeeds& aisSpeeds,
+                        PosBookPortRow& port) {
     if (group.empty()) {
-        return -3;
+        return ToPanelStep::NoRows;
     }
     TakeCall(call, port);
     if (!TakeRow(group.back(), port)) {
-        return -4;
+        return ToPanelStep::Port;
     }
     for (std::size_t i = 0; i + 1 < group.size(); ++i) {
         PosBookRow row;
         if (!TakeRow(group[i], row)) {
-            return -5;
+            return ToPanelStep::Row;
         }
         row.kind = group[i].pst;
         row.id = group[i].pointId;
@@ -83,7 +92,7 @@ int TakePort(const VoyPortCall& call, const BookPoints& group, AisSpeeds& aisSpe
         row.aisSpeed = row.kind == AisTrackPoint ? aisSpeeds.Next() : 0;
         port.rows.push_back(std::move(row));
     }
-    return 0;
+    return {};
 }
 
 PosBookPoint StoredPoint(const PosBookPlace& place, int kind, int decimals) {
@@ -116,20 +125,20 @@ VoyPortCall StoredCall(const PosBookPortRow& port) {
 
 int BookToPanel(const VoyInfo& voyage, PosBookData& out, const std::vector<float>& aisSpeeds) {
     if (voyage.portCalls.size() < 2) {
-        return -1;
+        return kBookToPanelCodes.Of(ToPanelStep::PortCalls);
     }
     std::map<int, BookPoints> groups;
     if (GroupBookByPort(voyage.positionBook.points, groups) != 0 ||
         groups.size() != voyage.portCalls.size()) {
-        return -2;
+        return kBookToPanelCodes.Of(ToPanelStep::Groups);
     }
     PosBookData book;
     AisSpeeds speeds(aisSpeeds);
     for (std::size_t i = 0; i < voyage.portCalls.size(); ++i) {
         PosBookPortRow port;
-        const int code = TakePort(voyage.portCalls[i], groups[static_cast<int>(i)], speeds, port);
-        if (code != 0) {
-            return code;
+        const auto taken = TakePort(voyage.portCalls[i], groups[static_cast<int>(i)], speeds, port);
+        if (taken.Failed()) {
+            return kBookToPanelCodes.Of(taken);
         }
         book.ports.push_back(std::move(port));
     }

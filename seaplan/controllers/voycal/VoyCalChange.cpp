@@ -23,11 +23,13 @@ std::string UpTo(const std::string& text, char end) {
     return text.substr(0, text.find(end));
 }
 
-/// Place of a group by its head, -1 for none.
+constexpr int kNoGroup = -1;
+
+/// Place of a group by its head, kNoGroup for none.
 int IndexOfHead(const Groups& groups, const std::string& id) {
     const auto found = std::find_if(groups.begin(), groups.end(),
                                     [&](const VoyCalGroup& group) { return group.head.id == id; });
-    return found == groups.end() ? -1 : static_cast<int>(found - groups.begin());
+    return found == groups.end() ? kNoGroup : static_cast<int>(found - groups.begin());
 }
 
 /// Whether a lock "a=b,c" names the point.

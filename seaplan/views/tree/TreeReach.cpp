@@ -11,11 +11,13 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-/// Place in a list of parts, -1 when it is not there.
+constexpr int kNoPart = -1;
+
+/// Place in a list of parts, kNoPart when it is not there.
 int IndexOf(const std::vector<SubItem>& parts, const std::string& name) {
     const auto at =
         std::find_if(parts.begin(), parts.end(), [&](const SubItem& part) { return part.name == name; });
-    return at == parts.end() ? -1 : static_cast<int>(at - parts.begin());
+    return at == parts.end() ? kNoPart : static_cast<int>(at - parts.begin());
 }
 
 }  // namespace
