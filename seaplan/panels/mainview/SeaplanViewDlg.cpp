@@ -69,7 +69,7 @@ void SeaplanViewDlg::Toggle() {
     p_.tree.OnViewShown(true);
     p_.window.Place(kToggledPlace);
     p_.window.Show();
-    if (p_.tree.Categories().Ensure() == 0) {
+    if (p_.tree.Categories().Ensure()) {
         p_.voyages.StartTimer();
     }
 }

@@ -30,12 +30,12 @@ class TableVoyageTest : public ::testing::Test {
         for (const auto& [ci, category] : desk.store.categories) {
             parts.context.categorySorts[ci] = {};
         }
-        parts.builder.RebuildAll();
+        static_cast<void>(parts.builder.RebuildAll());
         desk.catalog.GetNameMaps(parts.context.categoryNames, parts.context.voyageNames);
         desk.ForgetRecords();
     }
     int Create(const std::string& category, const std::string& voyage) {
-        return CreateVoyageFromTable(parts, category, voyage, made);
+        return kTableVoyageCodes.Of(CreateVoyageFromTable(parts, category, voyage, made));
     }
     std::string LastNotice() const {
         return desk.messages.messages.empty() ? std::string() : desk.messages.messages.back().text;
@@ -92,7 +92,7 @@ TEST_F(TableVoyageTest, ACategoryThatIsNotThereIsMade) {
     EXPECT_EQ(parts.context.categoryNames.at("Tankers"), InUse);
     EXPECT_THAT(tree.Shown(), ElementsAre("Bulk", "  Used", "Tankers", "  Kept"));
     EXPECT_FALSE(box.open) << "its name was given";
-    EXPECT_EQ(parts.builder.RebuildCategory(made.ci), 0) << "it can be sorted";
+    EXPECT_FALSE(parts.builder.RebuildCategory(made.ci).Failed()) << "it can be sorted";
 }
 
 TEST_F(TableVoyageTest, ARefusalOfTheServerEndsItWhereItStands) {

@@ -26,11 +26,11 @@ TEST_F(TreeFixture, ANewVoyageGetsTheNextFreeNameAndTheRenameBox) {
 TEST_F(TreeFixture, ARowTooFarDownKeepsItsGeneratedName) {
     ctrl.ReloadTree();
     tree.rowTop = 366;
-    ASSERT_EQ(ctrl.Categories().Add("Low"), 0);
+    ASSERT_TRUE(ctrl.Categories().Add("Low"));
     EXPECT_FALSE(box.open);
     EXPECT_EQ(ctrl.Context().categoryNames["Low"], InUse);
     tree.rowTop = 365;
-    ASSERT_EQ(ctrl.Categories().Add("High"), 0);
+    ASSERT_TRUE(ctrl.Categories().Add("High"));
     EXPECT_TRUE(box.open);
     EXPECT_EQ(box.place, (Rect{20, 366, 220, 388}));
     EXPECT_EQ(box.limit, 30);

@@ -32,46 +32,46 @@ std::string CategoryCommands::NewName() const {
     return name;
 }
 
-int CategoryCommands::Ensure() {
+bool CategoryCommands::Ensure() {
     for (const auto& [ci, state] : p_.context.store.categoryStates) {
         if (state == InUse) {
-            return 0;
+            return true;
         }
     }
     return Add(NewName());
 }
 
-int CategoryCommands::Add(const std::string& name) {
+bool CategoryCommands::Add(const std::string& name) {
     TreeContext& c = p_.context;
     std::string ci;
     if (c.catalog.AddCategory(name, ci) != 0) {
-        return -1;
+        return false;
     }
     const auto category = c.store.categories.find(ci);
     if (category == c.store.categories.end()) {
-        return -2;
+        return false;
     }
     c.categorySorts[ci] = {};
     c.categoryNames[name] = InUse;
     p_.rename.Begin(p_.builder.AddCategoryRow(category->second), false);
-    return 0;
+    return true;
 }
 
-int CategoryCommands::AddVoyage() {
+ItemOutcome CategoryCommands::AddVoyage() {
     TreeContext& c = p_.context;
     std::string name;
     c.catalog.MakeUniqueName(Text(TextIds::IDS_TREE_NEWVOYAGE), c.voyageNames, name);
     std::string vi;
     if (c.catalog.AddVoyage(name, p_.selection.Category().ci, vi) != 0) {
-        return -3;
+        return ItemStep::NewVoyage;
     }
     c.voyageNames[name] = InUse;
     p_.selection.Unfold(p_.selection.CategoryRow());
-    if (p_.builder.AddVoyageRow(p_.selection.CategoryRow(), vi) != 0) {
-        return -4;
+    if (p_.builder.AddVoyageRow(p_.selection.CategoryRow(), vi).Failed()) {
+        return ItemStep::NewRow;
     }
     p_.rename.Begin(c.FindVoyageRow(vi), true);
-    return RefreshCounts(c) == 0 ? 0 : -5;
+    return RefreshCounts(c) ? ItemOutcome() : ItemStep::NewCounts;
 }
 
 /// Voyages of a category whose routes are kept on the chart, whatever their state.
@@ -107,11 +107,11 @@ void CategoryCommands::TakeOffChart(const std::string& ci) {
     }
 }
 
-int CategoryCommands::Delete() {
+ItemOutcome CategoryCommands::Delete() {
     TreeContext& c = p_.context;
     VoyCategory& category = p_.selection.Category();
     if (c.catalog.DeleteCategory(category.ci) != 0) {
-        return -6;
+        return ItemStep::DeleteCategory;
     }
     TreeStep step{TreeStep::Kind::Delete, false, category.ci, {}, category.cn, OnChartOf(category.ci)};
     c.steps.Note(std::move(step));
@@ -122,21 +122,21 @@ int CategoryCommands::Delete() {
     }
     c.categoryNames[category.cn] = InRecycleBin;
     c.Say(Text(TextIds::IDS_VIEW_CANUNDELETE, {category.cn}));
-    return 0;
+    return {};
 }
 
-int CategoryCommands::Recover() {
+ItemOutcome CategoryCommands::Recover() {
     TreeContext& c = p_.context;
     const VoyCategory category = p_.selection.Category();
     if (c.catalog.RecoverCategory(category.ci) != 0) {
-        return -7;
+        return ItemStep::RecoverCategory;
     }
     c.categoryNames[category.cn] = InUse;
     c.steps.Note({TreeStep::Kind::Recover, false, category.ci, {}, category.cn});
-    return reload_() == 0 ? 0 : -8;
+    return reload_() == 0 ? ItemOutcome() : ItemStep::Reload;
 }
 
-int CategoryCommands::Clear() {
+ItemOutcome CategoryCommands::Clear() {
     TreeContext& c = p_.context;
     const VoyCategory category = p_.selection.Category();
     const auto voyages = c.store.categoryVoyages.find(category.ci);
@@ -146,40 +146,40 @@ int CategoryCommands::Clear() {
                            : std::count_if(voyages->second.begin(), voyages->second.end(), isThere);
     if (!c.boxes.Question(TextIds::IDS_TREE_CLEARVOYORCATE,
                           Text(TextIds::IDS_VIEW_LOSTCATEGORY, {category.cn, std::to_string(count)}))) {
-        return 0;
+        return {};
     }
     if (c.catalog.DestroyCategory(category.ci) != 0) {
-        return -9;
+        return ItemStep::DestroyCategory;
     }
     c.categoryNames[category.cn] = Destroyed;
     c.steps.Forget(category.ci, false);
     p_.selection.DropCategoryRow();
-    return 0;
+    return {};
 }
 
-int CategoryCommands::OpenSortPanel() {
+ItemOutcome CategoryCommands::OpenSortPanel() {
     const std::string ci = p_.selection.Category().ci;
     const auto sort = p_.context.categorySorts.find(ci);
     if (sort == p_.context.categorySorts.end()) {
-        return -13;
+        return ItemStep::SortPanel;
     }
     sortPanel_.Open(ci, sort->second.sortKey);
-    return 0;
+    return {};
 }
 
-int CategoryCommands::SetDirection(int direction) {
+ItemOutcome CategoryCommands::SetDirection(int direction) {
     const std::string ci = p_.selection.Category().ci;
     const auto sort = p_.context.categorySorts.find(ci);
     if (sort == p_.context.categorySorts.end()) {
-        return -14;
+        return ItemStep::Direction;
     }
     sort->second.direction = direction;
-    return p_.builder.RebuildCategory(ci) == 0 ? 0 : -15;
+    return p_.builder.RebuildCategory(ci).Failed() ? ItemStep::DirectionRows : ItemOutcome();
 }
 
-int CategoryCommands::Rename() {
+ItemOutcome CategoryCommands::Rename() {
     p_.rename.Begin(p_.selection.CategoryRow(), false);
-    return 0;
+    return {};
 }
 
 }  // namespace Tarvik::Seaplan

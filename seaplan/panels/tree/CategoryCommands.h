@@ -12,7 +12,7 @@ namespace Tarvik::Seaplan {
 class VoyageTreeSortDlg;
 struct TreeParts;
 
-/// Commands of a category's row. Results: 0 or the negative number of the failed step, which shows nothing.
+/// Commands of a category's row.
 class CategoryCommands {
   public:
     /// `reload` loads all rows anew; negative on failure.
@@ -20,21 +20,21 @@ class CategoryCommands {
         : p_(parts), sortPanel_(sortPanel), reload_(std::move(reload)) {}
 
     TreeCommands Table();
-    /// A new category with this name and its row, ready for renaming.
-    int Add(const std::string& name);
-    /// Creates one with a generated name when none is in use.
-    int Ensure();
+    /// A new category with this name and its row, ready for renaming. False when the server makes none.
+    bool Add(const std::string& name);
+    /// Creates one with a generated name when none is in use. False when that fails.
+    bool Ensure();
     /// A name for a new category that no category has or had.
     std::string NewName() const;
 
   private:
-    int AddVoyage();
-    int Delete();
-    int Recover();
-    int Clear();
-    int OpenSortPanel();
-    int SetDirection(int direction);
-    int Rename();
+    ItemOutcome AddVoyage();
+    ItemOutcome Delete();
+    ItemOutcome Recover();
+    ItemOutcome Clear();
+    ItemOutcome OpenSortPanel();
+    ItemOutcome SetDirection(int direction);
+    ItemOutcome Rename();
     std::set<std::string> OnChartOf(const std::string& ci) const;
     void TakeOffChart(const std::string& ci);
 

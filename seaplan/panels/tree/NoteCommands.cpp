@@ -24,39 +24,39 @@ void NoteCommands::SetConsumption(OpenConsumption open) {
     ofVoyage_[Item::kConsumption] = [this] { return Consumption(); };
 }
 
-int NoteCommands::CategoryRemarks() {
+ItemOutcome NoteCommands::CategoryRemarks() {
     const VoyCategory category = p_.selection.Category();
     return Show(p_.selection.CategoryRow(), CategoryRemark, category.ci, category.cn);
 }
 
-int NoteCommands::VoyageRemarks() {
+ItemOutcome NoteCommands::VoyageRemarks() {
     const VoyInfo& voyage = p_.selection.Voyage();
     return Show(p_.selection.VoyageRow(), VoyageRemark, voyage.vi, voyage.vn);
 }
 
-int NoteCommands::Show(TreeRow row, int type, const std::string& id, const std::string& name) {
+ItemOutcome NoteCommands::Show(TreeRow row, int type, const std::string& id, const std::string& name) {
     if (openRemarks_(row, type, id, name) < 0) {
-        return -41;
+        return ItemStep::Remarks;
     }
     // Only now: while the panel leaves the object before, a mark without a row is still that one's.
     p_.remark.Open(row);
-    return 0;
+    return {};
 }
 
-int NoteCommands::Consumption() {
+ItemOutcome NoteCommands::Consumption() {
     const VoyInfo& voyage = p_.selection.Voyage();
     BunkerFigures figures{};
     if (p_.context.voyages.GetFigures(voyage.vi, figures) != 0) {
-        return -42;
+        return ItemStep::Figures;
     }
     if (voyage.portCalls.empty()) {
         p_.context.boxes.Notice(TextIds::IDS_TREE_WARNCOUSUMNOVOY);
-        return 0;
+        return {};
     }
     // What a finished voyage has burnt can be read and not changed.
     const Util::_datetime_t now;
     openConsumption_(figures, voyage.portCalls.back().eta > now);
-    return 0;
+    return {};
 }
 
 RemarkMark& NoteCommands::Mark() {

@@ -22,7 +22,7 @@ using OpenRemarks =
 using OpenConsumption = std::function<void(const BunkerFigures& figures, bool editable)>;
 
 /// What is noted about a category or a voyage: remarks and consumption. Each has its commands once there is a
-/// panel for it. Results: 0 or the negative number of the failed step.
+/// panel for it.
 class NoteCommands {
   public:
     explicit NoteCommands(TreeParts& parts) : p_(parts) {}
@@ -35,10 +35,10 @@ class NoteCommands {
     RemarkMark& Mark();
 
   private:
-    int CategoryRemarks();
-    int VoyageRemarks();
-    int Show(TreeRow row, int type, const std::string& id, const std::string& name);
-    int Consumption();
+    ItemOutcome CategoryRemarks();
+    ItemOutcome VoyageRemarks();
+    ItemOutcome Show(TreeRow row, int type, const std::string& id, const std::string& name);
+    ItemOutcome Consumption();
 
     TreeParts& p_;
     OpenRemarks openRemarks_;

@@ -22,26 +22,26 @@ std::string NextStep(const VoyInfo& voyage) {
 
 }  // namespace
 
-int RowSelection::Take(TreeRow row) {
+ItemOutcome RowSelection::Take(TreeRow row) {
     c_.tree.SelectItem(row);
     const bool isCategory = c_.IsCategoryRow(row);
     categoryRow_ = isCategory ? row : c_.tree.GetParentItem(row);
     const VoyCategory* category = c_.CategoryOf(categoryRow_);
     if (category == nullptr) {
-        return isCategory ? -1 : -19;
+        return isCategory ? ItemStep::CategoryRecord : ItemStep::ParentRecord;
     }
     if (category->ci.empty()) {
-        return isCategory ? -2 : -20;
+        return isCategory ? ItemStep::CategoryId : ItemStep::ParentId;
     }
     if (isCategory) {
-        return 0;
+        return {};
     }
     voyageRow_ = row;
     const VoyInfo* voyage = c_.VoyageOf(row);
     if (voyage == nullptr) {
-        return -21;
+        return ItemStep::VoyageRecord;
     }
-    return voyage->vi.empty() ? -22 : 0;
+    return voyage->vi.empty() ? ItemStep::VoyageId : ItemOutcome();
 }
 
 void RowSelection::TakeVoyage(TreeRow row) {
@@ -68,24 +68,24 @@ void RowSelection::Press(TreeRow row) {
         return;
     }
     c_.tree.SelectItem(row);
-    chart_.ActivateVoyage(voyage);
+    static_cast<void>(chart_.ActivateVoyage(voyage));
     if (voyage.portCalls.size() < 2) {
         c_.FetchPortCalls(voyage.vi);
     }
-    status_.ShowDates(row, voyage);
+    static_cast<void>(status_.ShowDates(row, voyage));
     c_.Say(NextStep(voyage));
 }
 
-int RowSelection::Unfold(TreeRow row) {
+bool RowSelection::Unfold(TreeRow row) {
     const VoyCategory* category = c_.CategoryOf(row);
     if (category == nullptr) {
-        return -1;
+        return false;
     }
     c_.tree.Expand(row, true);
     c_.tree.SelectItem(row);
     status_.ShowAll(row, category->ci);
     c_.Say(c_.tree.GetChildItem(row) == kNoRow ? Text(TextIds::IDS_VIEW_HINTVOYAGE) : std::string());
-    return 0;
+    return true;
 }
 
 void RowSelection::Forget() {

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "seaplan/panels/tree/TreeCodes.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
@@ -19,15 +20,15 @@ class RowSelection {
     RowSelection(TreeContext& context, TreeStatus& status, VoyagesOnChart& chart)
         : c_(context), status_(status), chart_(chart) {}
 
-    /// Selects the row of a click and makes it the current one. -1 to -2 a category without record or id, -19
-    /// to -20 that of a voyage's category, -21 to -22 the voyage.
-    int Take(TreeRow row);
+    /// Selects the row of a click and makes it the current one. Fails for a row or, above a voyage's, a
+    /// category's row without record or id.
+    ItemOutcome Take(TreeRow row);
     /// Unfolds to a voyage's row, selects it and makes it the current one in both places.
     void TakeVoyage(TreeRow row);
     /// A left press on a row, whatever item lies under it.
     void Press(TreeRow row);
-    /// Expands and selects a category and shows the statuses of its voyages. -1 without a record.
-    int Unfold(TreeRow row);
+    /// Expands and selects a category and shows the statuses of its voyages. False without a record.
+    bool Unfold(TreeRow row);
     /// The rows are gone.
     void Forget();
     void DropCategoryRow();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/RowTexts.h"
 
+#include <optional>
+
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/controllers/VoyController.h"
@@ -76,9 +78,9 @@ void MarkVoyage(TreeContext& c, const VoyInfo& voyage) {
     }
 }
 
-/// Voyages in use below a category's row, marked on the way when this is the first pass. -1 for a row without
-/// a record.
-int CountRows(TreeContext& c, TreeRow categoryRow, bool first) {
+/// Voyages in use below a category's row, marked on the way when this is the first pass. None for a row
+/// without a record.
+std::optional<int> CountRows(TreeContext& c, TreeRow categoryRow, bool first) {
     int count = 0;
     for (TreeRow row = c.tree.GetChildItem(categoryRow); row != kNoRow;
          row = c.tree.GetNextSiblingItem(row)) {
@@ -87,7 +89,7 @@ int CountRows(TreeContext& c, TreeRow categoryRow, bool first) {
         }
         const VoyInfo* voyage = c.VoyageOf(row);
         if (voyage == nullptr || voyage->vi.empty()) {
-            return -1;
+            return std::nullopt;
         }
         if (first) {
             MarkVoyage(c, *voyage);
@@ -140,29 +142,29 @@ std::string CountText(int count) {
     return Util::StringUtl::Format("  (%d)", count);
 }
 
-int CountAndMark(TreeContext& c) {
+bool CountAndMark(TreeContext& c) {
     const bool first = c.chartMarks.empty();
     for (TreeRow row = c.tree.GetRootItem(); row != kNoRow; row = c.tree.GetNextSiblingItem(row)) {
         if (c.tree.GetItemStyle(row) != kCategoryStyle) {
             continue;
         }
-        const int count = CountRows(c, row, first);
-        if (count < 0) {
-            return -1;
+        const std::optional<int> count = CountRows(c, row, first);
+        if (!count) {
+            return false;
         }
-        c.tree.SetDrawItemValue(row, Item::kCount, CountText(count));
+        c.tree.SetDrawItemValue(row, Item::kCount, CountText(*count));
     }
-    return 0;
+    return true;
 }
 
-int RefreshCounts(TreeContext& c) {
+bool RefreshCounts(TreeContext& c) {
     for (TreeRow row = c.tree.GetRootItem(); row != kNoRow; row = c.tree.GetNextSiblingItem(row)) {
         if (c.tree.GetItemStyle(row) != kCategoryStyle) {
             continue;
         }
         const VoyCategory* category = c.CategoryOf(row);
         if (category == nullptr) {
-            return -1;
+            return false;
         }
         const auto voyages = c.store.categoryVoyages.find(category->ci);
         if (voyages == c.store.categoryVoyages.end()) {
@@ -174,7 +176,7 @@ int RefreshCounts(TreeContext& c) {
         }
         c.tree.SetDrawItemValue(row, Item::kCount, CountText(count));
     }
-    return 0;
+    return true;
 }
 
 }  // namespace Tarvik::Seaplan

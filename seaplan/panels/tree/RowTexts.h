@@ -42,9 +42,9 @@ void ApplyAllRowTexts(TreeWidget& tree);
 /// Text of a count, with two leading blanks.
 std::string CountText(int count);
 /// After all rows were made: counts, and on the first pass, while there are no marks, the marks of the
-/// voyages, with the pinned ones drawn. -1 for a row without a record.
-int CountAndMark(TreeContext& c);
-/// Counts of all categories that have voyages. -1 for a row without a record.
-int RefreshCounts(TreeContext& c);
+/// voyages, with the pinned ones drawn. False for a row without a record.
+bool CountAndMark(TreeContext& c);
+/// Counts of all categories that have voyages. False for a row without a record.
+bool RefreshCounts(TreeContext& c);
 
 }  // namespace Tarvik::Seaplan

@@ -49,7 +49,8 @@ struct SeaplanTreeCtrl::Parts {
                {[&tree](TreeRow row) { tree.OnRowPressed(row); },
                 [&tree](TreeRow row) { tree.OnRowPressed(row, true); },
                 [&tree](TreeRow row, const std::string& item) { return tree.OnItemClicked(row, item); },
-                [this] { categories.Add(categories.NewName()); }, [this] { return undo.Undo(); }}),
+                [this] { categories.Add(categories.NewName()); },
+                [this] { return kUndoCodes.Of(undo.Undo()); }}),
           undo(parts,
                {[&tree] { return tree.ReloadTree(); },
                 [&tree](TreeRow row, const std::string& item) { return tree.OnItemClicked(row, item); }}),
@@ -78,30 +79,34 @@ SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
 SeaplanTreeCtrl::~SeaplanTreeCtrl() = default;
 
 int SeaplanTreeCtrl::ReloadTree() {
+    return kReloadCodes.Of(Reload());
+}
+
+Outcome<ReloadStep> SeaplanTreeCtrl::Reload() {
     TreeContext& c = in_->parts.context;
     // The rows point into records that the load replaces.
     in_->parts.rename.Abandon();
     in_->vessels.Editor().Hide();
     std::string user;
     if (c.catalog.Connect(user) != 0) {
-        return -1;
+        return ReloadStep::Connect;
     }
     if (c.catalog.Load(user) < 0) {
-        return -2;
+        return ReloadStep::Load;
     }
     c.categorySorts.clear();
     for (const auto& [ci, category] : c.store.categories) {
         c.categorySorts[ci] = {};
     }
     in_->parts.selection.Forget();
-    if (in_->parts.builder.RebuildAll() != 0) {
-        return -3;
+    if (in_->parts.builder.RebuildAll().Failed()) {
+        return ReloadStep::Rows;
     }
-    if (CountAndMark(c) != 0) {
-        return -4;
+    if (!CountAndMark(c)) {
+        return ReloadStep::Counts;
     }
     c.catalog.GetNameMaps(c.categoryNames, c.voyageNames);
-    return 0;
+    return {};
 }
 
 void SeaplanTreeCtrl::OnViewShown(bool shown) {
@@ -121,15 +126,19 @@ int SeaplanTreeCtrl::SetShowDeleted(bool shown) {
 }
 
 int SeaplanTreeCtrl::SetSortKey(const std::string& ci, int sortKey) {
+    return kSortCodes.Of(Sort(ci, sortKey));
+}
+
+Outcome<SortStep> SeaplanTreeCtrl::Sort(const std::string& ci, int sortKey) {
     if (ci.empty()) {
-        return -1;
+        return SortStep::Id;
     }
     const auto sort = in_->parts.context.categorySorts.find(ci);
     if (sort == in_->parts.context.categorySorts.end()) {
-        return -2;
+        return SortStep::State;
     }
     sort->second.sortKey = sortKey;
-    return RebuildCategory(ci) == 0 ? 0 : -3;
+    return in_->parts.builder.RebuildCategory(ci).Failed() ? SortStep::Rows : Outcome<SortStep>();
 }
 
 void SeaplanTreeCtrl::CloseEditors() {
@@ -171,8 +180,8 @@ void SeaplanTreeCtrl::OnRowPressed(TreeRow row, bool fold) {
 }
 
 int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
-    if (const int failed = in_->parts.selection.Take(row); failed != 0) {
-        return failed;
+    if (const ItemOutcome taken = in_->parts.selection.Take(row); taken.Failed()) {
+        return kItemCodes.Of(taken);
     }
     const bool isCategory = in_->parts.context.IsCategoryRow(row);
     if (PortCallOpener* panel = isCategory ? nullptr : in_->parts.PortCalls()) {
@@ -183,8 +192,8 @@ int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
     if (command == nullptr) {
         return 1;
     }
-    const int result = (*command)();
-    return result < 0 ? result : 1;
+    const ItemOutcome done = (*command)();
+    return done.Failed() ? kItemCodes.Of(done) : 1;
 }
 
 void SeaplanTreeCtrl::SetPortCallPanel(PortCallSource panel) {
@@ -192,19 +201,19 @@ void SeaplanTreeCtrl::SetPortCallPanel(PortCallSource panel) {
 }
 
 int SeaplanTreeCtrl::RebuildCategory(const std::string& ci) {
-    return in_->parts.builder.RebuildCategory(ci);
+    return kRowsCodes.Of(in_->parts.builder.RebuildCategory(ci));
 }
 
 int SeaplanTreeCtrl::ComputeStatus(const std::string& vi) {
-    return in_->parts.status.Compute(vi);
+    return kStatusCodes.Of(in_->parts.status.Compute(vi));
 }
 
 int SeaplanTreeCtrl::ShowStatus(const std::string& vi) {
-    return in_->parts.status.Show(vi);
+    return kStatusCodes.Of(in_->parts.status.Show(vi));
 }
 
 int SeaplanTreeCtrl::ShowDates(TreeRow row, const VoyInfo& voyage) {
-    return in_->parts.status.ShowDates(row, voyage);
+    return kShowDatesCodes.Of(in_->parts.status.ShowDates(row, voyage));
 }
 
 void SeaplanTreeCtrl::SetRemarkMark(TreeRow row, bool on) {
@@ -212,16 +221,16 @@ void SeaplanTreeCtrl::SetRemarkMark(TreeRow row, bool on) {
 }
 
 int SeaplanTreeCtrl::RefreshVoyageRow(const std::string& vi) {
-    return in_->parts.status.RefreshRow(vi);
+    return kRefreshRowCodes.Of(in_->parts.status.RefreshRow(vi));
 }
 
 int SeaplanTreeCtrl::OpenVesselEditor(const std::string& vi) {
-    return in_->vessels.OpenEditor(vi);
+    return kOpenVesselCodes.Of(in_->vessels.OpenEditor(vi));
 }
 
 int SeaplanTreeCtrl::CreateVoyageFromTable(const std::string& category, const std::string& voyage,
                                            TableVoyage& out) {
-    return Seaplan::CreateVoyageFromTable(in_->parts, category, voyage, out);
+    return kTableVoyageCodes.Of(Seaplan::CreateVoyageFromTable(in_->parts, category, voyage, out));
 }
 
 TreeKeys& SeaplanTreeCtrl::Keys() {

@@ -20,7 +20,7 @@ struct VoyInfo;
 class VoyageTreeSortDlg;
 
 /// The voyage tree: rows from the store, and the commands behind their items, which are in classes by task.
-/// Results are 0 (or 1 for a click whose chain ran to its end), or the negative number of the failed step.
+/// Results are 0 or the number of the failed step by the tables of TreeCodes.h.
 class SeaplanTreeCtrl {
   public:
     explicit SeaplanTreeCtrl(const TreeCollaborators& given);
@@ -31,30 +31,30 @@ class SeaplanTreeCtrl {
     /// Without it the commands that open the panel fail.
     void SetPortCallPanel(PortCallSource panel);
 
-    /// Loads from the server and makes every row anew. -1 not connected; -2 load; -3 rows; -4 statistics.
+    /// Loads from the server and makes every row anew: kReloadCodes.
     int ReloadTree();
-    /// The rows of a category's voyages anew, in its order: results of TreeBuilder::RebuildCategory.
+    /// The rows of a category's voyages anew, in its order: kRowsCodes.
     int RebuildCategory(const std::string& ci);
-    /// The status of the present time, for ShowStatus. -1 empty id; -2 unknown voyage.
+    /// The status of the present time, for ShowStatus: kStatusCodes.
     int ComputeStatus(const std::string& vi);
-    /// Draws it in the voyage's row: results of ComputeStatus; -4 without a row.
+    /// Draws it in the voyage's row: kStatusCodes.
     int ShowStatus(const std::string& vi);
-    /// First departure and last arrival in a row. -1, with nothing changed, with fewer than two port calls.
+    /// First departure and last arrival in a row: kShowDatesCodes; on failure nothing is changed.
     int ShowDates(TreeRow row, const VoyInfo& voyage);
     /// The icon that tells whether the row's object has remarks.
     void SetRemarkMark(TreeRow row, bool on);
     void OnViewShown(bool shown);
-    /// Redraws the first row that shows the voyage. -3 when that fails; 0 also without such a row.
+    /// Redraws the first row that shows the voyage: kRefreshRowCodes; 0 also without such a row.
     int RefreshVoyageRow(const std::string& vi);
-    /// Selects a voyage's row, makes it the current one and opens the vessel editor over it. -1 without a
-    /// row.
+    /// Selects a voyage's row, makes it the current one and opens the vessel editor over it:
+    /// kOpenVesselCodes.
     int OpenVesselEditor(const std::string& vi);
     /// Shows the recycle bin's rows or not, after a load. Results of ReloadTree.
     int SetShowDeleted(bool shown);
-    /// -1 empty id; -2 no sort state; -3 rebuild failed.
+    /// Another order of a category's voyages: kSortCodes.
     int SetSortKey(const std::string& ci, int sortKey);
-    /// A voyage for a port distance table, with its row, and its category where that is new: results of
-    /// Seaplan::CreateVoyageFromTable.
+    /// A voyage for a port distance table, with its row, and its category where that is new:
+    /// kTableVoyageCodes.
     int CreateVoyageFromTable(const std::string& category, const std::string& voyage, TableVoyage& out);
     /// Takes the name being typed, and closes all that is open over the rows.
     void CloseEditors();
@@ -66,7 +66,7 @@ class SeaplanTreeCtrl {
     void OnRowPressed(TreeRow row, bool fold = false);
     /// Keys of the tree's window.
     TreeKeys& Keys();
-    /// A click on an item, by name.
+    /// A click on an item, by name: kItemCodes, or 1 when its chain ran to its end.
     int OnItemClicked(TreeRow row, const std::string& item);
     /// Whether a click on an item of this name runs a command.
     bool HasCommand(const std::string& item) const;
@@ -81,6 +81,8 @@ class SeaplanTreeCtrl {
 
   private:
     struct Parts;
+    Outcome<ReloadStep> Reload();
+    Outcome<SortStep> Sort(const std::string& ci, int sortKey);
 
     std::unique_ptr<Parts> in_;
 };

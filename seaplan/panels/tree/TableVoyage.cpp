@@ -48,31 +48,31 @@ TreeRow NewCategory(TreeParts& parts, const std::string& name) {
 
 }  // namespace
 
-int CreateVoyageFromTable(TreeParts& parts, const std::string& category, const std::string& voyage,
-                          TableVoyage& out) {
+Outcome<TableVoyageStep> CreateVoyageFromTable(TreeParts& parts, const std::string& category,
+                                               const std::string& voyage, TableVoyage& out) {
     TreeContext& c = parts.context;
     out = {};
     if (category.empty() || voyage.empty()) {
         c.boxes.Notice(TextIds::IDS_PORTDISTAB_NOINFWARN);
-        return -1;
+        return TableVoyageStep::Names;
     }
     const auto known = c.voyageNames.find(voyage);
     if (known != c.voyageNames.end() && known->second != Destroyed) {
         c.boxes.NoticeText(TakenText(known->second));
-        return -2;
+        return TableVoyageStep::Taken;
     }
     TreeRow row = RowOfCategory(c, category);
     row = row == kNoRow ? NewCategory(parts, category) : row;
     if (row == kNoRow) {
-        return -3;
+        return TableVoyageStep::Category;
     }
     out.ci = c.CategoryOf(row)->ci;
     if (c.catalog.AddVoyage(voyage, out.ci, out.vi) != 0) {
-        return -4;
+        return TableVoyageStep::Voyage;
     }
     c.voyageNames[voyage] = InUse;
-    parts.builder.AddVoyageRow(row, out.vi);
-    return RefreshCounts(c) == 0 ? 0 : -5;
+    static_cast<void>(parts.builder.AddVoyageRow(row, out.vi));
+    return RefreshCounts(c) ? Outcome<TableVoyageStep>() : TableVoyageStep::Counts;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "seaplan/panels/tree/TreeCodes.h"
+
 namespace Tarvik::Seaplan {
 
 struct TreeParts;
@@ -13,10 +15,9 @@ struct TableVoyage {
     std::string vi;
 };
 
-/// Makes a voyage of this name with its row, and before it the category when none in use has that name. 0; -1
-/// one of the names is empty, -2 the voyage's name is taken, both told in a notice; -3 the category, -4 the
-/// voyage, -5 the counts. `out` is empty for -1 and -2.
-int CreateVoyageFromTable(TreeParts& parts, const std::string& category, const std::string& voyage,
-                          TableVoyage& out);
+/// Makes a voyage of this name with its row, and before it the category when none in use has that name. An
+/// empty name and a voyage's that is taken are told in a notice, and `out` is empty then.
+Outcome<TableVoyageStep> CreateVoyageFromTable(TreeParts& parts, const std::string& category,
+                                               const std::string& voyage, TableVoyage& out);
 
 }  // namespace Tarvik::Seaplan

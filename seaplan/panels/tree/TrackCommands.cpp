@@ -34,12 +34,14 @@ TreeCommands TrackCommands::Table() {
             {Item::kModify, [this] { return Modify(); }}};
 }
 
-int TrackCommands::Show() {
-    return p_.chart.SetAisShown(p_.selection.Voyage().vi, true) == 0 ? 0 : -33;
+ItemOutcome TrackCommands::Show() {
+    return p_.chart.SetAisShown(p_.selection.Voyage().vi, true).Failed() ? ItemStep::ShowTrack
+                                                                         : ItemOutcome();
 }
 
-int TrackCommands::Hide() {
-    return p_.chart.SetAisShown(p_.selection.Voyage().vi, false) == 0 ? 0 : -38;
+ItemOutcome TrackCommands::Hide() {
+    return p_.chart.SetAisShown(p_.selection.Voyage().vi, false).Failed() ? ItemStep::HideTrack
+                                                                          : ItemOutcome();
 }
 
 void TrackCommands::MarkAll() {
@@ -87,35 +89,35 @@ bool TrackCommands::Correctable(const VoyInfo& voyage) {
     return false;
 }
 
-int TrackCommands::Modify() {
+ItemOutcome TrackCommands::Modify() {
     const VoyInfo& voyage = p_.selection.Voyage();
     if (!Correctable(voyage)) {
-        return 0;
+        return {};
     }
     PortCallOpener* panel = p_.PortCalls();
     if (panel == nullptr) {
-        return -39;
+        return ItemStep::CorrectionPanel;
     }
     // The changes on show may be this voyage's own, and what becomes of them decides what is corrected.
     if (!panel->AskToLeave() || !Correctable(voyage)) {
-        return 0;
+        return {};
     }
     int applied = 0;
     if (p_.context.voyages.ApplyAisPosition(voyage.vi, applied) != 0) {
         p_.context.boxes.Notice(TextIds::IDS_PORTCALL_AISCOMPUTWARN);
-        return -2;
+        return ItemStep::Correct;
     }
     if (applied > 0) {
         panel->SetCorrectionTime(UserTime(voyage.lastPosTime));
     }
     if (panel->ShowAisCorrection() < 0) {
-        return -40;
+        return ItemStep::ShowCorrection;
     }
     panel->ShowBesideTree();
     if (voyage.vr == 1) {
         p_.chart.LeaveAloneOnce(voyage.vi);
     }
-    return 0;
+    return {};
 }
 
 }  // namespace Tarvik::Seaplan

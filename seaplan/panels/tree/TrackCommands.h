@@ -10,7 +10,7 @@ struct VoyInfo;
 struct TreeParts;
 
 /// What a voyage's row does with the track of its vessel: showing, hiding, and correcting the port calls by
-/// the last position. Results: 0 or the negative number of the failed step.
+/// the last position.
 class TrackCommands {
   public:
     explicit TrackCommands(TreeParts& parts) : p_(parts) {}
@@ -20,9 +20,9 @@ class TrackCommands {
     void MarkAll();
 
   private:
-    int Show();
-    int Hide();
-    int Modify();
+    ItemOutcome Show();
+    ItemOutcome Hide();
+    ItemOutcome Modify();
     bool Correctable(const VoyInfo& voyage);
     void MarkRow(TreeRow row);
 

@@ -10,9 +10,9 @@
 
 namespace Tarvik::Seaplan {
 
-int TreeBuilder::RebuildAll() {
+Outcome<RowsStep> TreeBuilder::RebuildAll() {
     texts_.emplace();
-    const int result = MakeAll();
+    const Outcome<RowsStep> result = MakeAll();
     texts_.reset();
     TellMade();
     return result;
@@ -32,14 +32,14 @@ void TreeBuilder::ApplyTexts(TreeRow row) const {
     }
 }
 
-int TreeBuilder::MakeAll() {
+Outcome<RowsStep> TreeBuilder::MakeAll() {
     c_.tree.DeleteAllItems();
     std::vector<VoyCategory*> deleted;
     for (const auto& [ci, voyages] : c_.store.categoryVoyages) {
         const auto category = c_.store.categories.find(ci);
         const auto state = c_.store.categoryStates.find(ci);
         if (category == c_.store.categories.end() || state == c_.store.categoryStates.end()) {
-            return -1;
+            return RowsStep::Category;
         }
         if (state->second == InRecycleBin) {
             deleted.push_back(&category->second);
@@ -52,14 +52,14 @@ int TreeBuilder::MakeAll() {
             c_.tree.SetDrawItemVisibleEx(row, Item::kCategoryNoRemark, false);
             c_.tree.SetDrawItemVisibleEx(row, Item::kCategoryRemark, true);
         }
-        if (AddVoyages(row, ci, DateSource::PositionBook) != 0) {
-            return -2;
+        if (const auto made = AddVoyages(row, ci, DateSource::PositionBook); made.Failed()) {
+            return made;
         }
     }
     return AddEmptyCategories(deleted);
 }
 
-int TreeBuilder::AddEmptyCategories(const std::vector<VoyCategory*>& deleted) {
+Outcome<RowsStep> TreeBuilder::AddEmptyCategories(const std::vector<VoyCategory*>& deleted) {
     std::vector<VoyCategory*> emptyDeleted;
     for (auto& [ci, category] : c_.store.categories) {
         if (c_.store.categoryVoyages.contains(ci)) {
@@ -67,7 +67,7 @@ int TreeBuilder::AddEmptyCategories(const std::vector<VoyCategory*>& deleted) {
         }
         const auto state = c_.store.categoryStates.find(ci);
         if (state == c_.store.categoryStates.end()) {
-            return -3;
+            return RowsStep::Category;
         }
         if (state->second == InUse) {
             AddCategoryRow(category);
@@ -77,7 +77,7 @@ int TreeBuilder::AddEmptyCategories(const std::vector<VoyCategory*>& deleted) {
         }
     }
     if (!c_.showDeleted) {
-        return 0;
+        return {};
     }
     for (VoyCategory* category : emptyDeleted) {
         AddDeletedCategoryRow(*category);
@@ -85,31 +85,32 @@ int TreeBuilder::AddEmptyCategories(const std::vector<VoyCategory*>& deleted) {
     for (VoyCategory* category : deleted) {
         AddDeletedCategoryRow(*category);
     }
-    return 0;
+    return {};
 }
 
-int TreeBuilder::RebuildCategory(const std::string& ci) {
+Outcome<RowsStep> TreeBuilder::RebuildCategory(const std::string& ci) {
     const TreeRow row = ci.empty() ? kNoRow : c_.FindCategoryRow(ci);
     if (row == kNoRow) {
-        return -1;
+        return RowsStep::Row;
     }
     c_.tree.DeleteChildItems(row);
     texts_.emplace();
-    const int result = AddVoyages(row, ci, DateSource::PortCalls);
+    const Outcome<RowsStep> result = AddVoyages(row, ci, DateSource::PortCalls);
     texts_.reset();
-    if (result == 0) {
+    if (!result.Failed()) {
         status_.ShowAll(row, ci);
     }
     TellMade();
     return result;
 }
 
-int TreeBuilder::SortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,
-                             std::vector<std::string>& deleted) const {
+Outcome<RowsStep> TreeBuilder::SortVoyages(const std::string& ci, DateSource source,
+                                           std::vector<std::string>& inUse,
+                                           std::vector<std::string>& deleted) const {
     const auto sort = c_.categorySorts.find(ci);
     const auto voyages = c_.store.categoryVoyages.find(ci);
     if (voyages == c_.store.categoryVoyages.end()) {
-        return -2;
+        return RowsStep::Voyages;
     }
     std::vector<VoyageKeys> keys;
     int undated = 0;
@@ -123,7 +124,7 @@ int TreeBuilder::SortVoyages(const std::string& ci, DateSource source, std::vect
         }
         const VoyInfo* voyage = c_.store.FindVoyage(vi);
         if (voyage == nullptr) {
-            return -3;
+            return RowsStep::Voyage;
         }
         std::string date;
         if (source == DateSource::PositionBook && !voyage->positionBook.points.empty()) {
@@ -136,42 +137,39 @@ int TreeBuilder::SortVoyages(const std::string& ci, DateSource source, std::vect
         keys.push_back({vi, voyage->vn, date});
     }
     if (sort == c_.categorySorts.end()) {
-        return -4;
+        return RowsStep::SortState;
     }
-    return OrderVoyages(keys, sort->second, inUse);
+    return OrderVoyages(keys, sort->second, inUse) ? Outcome<RowsStep>() : RowsStep::SortKey;
 }
 
-int TreeBuilder::AddVoyages(TreeRow row, const std::string& ci, DateSource source) {
+Outcome<RowsStep> TreeBuilder::AddVoyages(TreeRow row, const std::string& ci, DateSource source) {
     std::vector<std::string> inUse;
     std::vector<std::string> deleted;
-    if (const int result = SortVoyages(ci, source, inUse, deleted); result != 0) {
-        return result;
+    if (const auto sorted = SortVoyages(ci, source, inUse, deleted); sorted.Failed()) {
+        return sorted;
     }
-    const auto sort = c_.categorySorts.find(ci);
-    if (sort == c_.categorySorts.end()) {
-        return -6;
-    }
-    c_.tree.SetDrawItemVisibleEx(row, Item::kAscending, sort->second.direction == Ascending);
-    c_.tree.SetDrawItemVisibleEx(row, Item::kDescending, sort->second.direction == Descending);
+    const int direction = c_.categorySorts.at(ci).direction;
+    c_.tree.SetDrawItemVisibleEx(row, Item::kAscending, direction == Ascending);
+    c_.tree.SetDrawItemVisibleEx(row, Item::kDescending, direction == Descending);
     for (const std::string& vi : inUse) {
-        if (AddVoyageRow(row, vi) != 0) {
-            return -3;
+        if (const auto added = AddVoyageRow(row, vi); added.Failed()) {
+            return added;
         }
     }
-    return c_.showDeleted ? AddDeletedVoyages(row, deleted) : 0;
+    return c_.showDeleted ? AddDeletedVoyages(row, deleted) : Outcome<RowsStep>();
 }
 
-int TreeBuilder::AddDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted) {
+Outcome<RowsStep> TreeBuilder::AddDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted) {
     for (const std::string& vi : deleted) {
         VoyInfo* voyage = c_.store.FindVoyage(vi);
         if (voyage == nullptr) {
-            return -3;
+            return RowsStep::Voyage;
         }
         const TreeRow child = c_.tree.InsertItem(voyage->vn, kDeletedVoyageStyle, row);
         c_.tree.SetItemData(child, voyage);
         ApplyTexts(child);
     }
-    return 0;
+    return {};
 }
 
 TreeRow TreeBuilder::AddCategoryRow(VoyCategory& category) {
@@ -189,13 +187,10 @@ TreeRow TreeBuilder::AddDeletedCategoryRow(VoyCategory& category) {
     return row;
 }
 
-int TreeBuilder::AddVoyageRow(TreeRow categoryRow, const std::string& vi) {
-    if (vi.empty()) {
-        return -1;
-    }
+Outcome<RowsStep> TreeBuilder::AddVoyageRow(TreeRow categoryRow, const std::string& vi) {
     VoyInfo* voyage = c_.store.FindVoyage(vi);
     if (voyage == nullptr) {
-        return -2;
+        return RowsStep::Voyage;
     }
     const TreeRow row = c_.tree.InsertItem(voyage->vn, kVoyageStyle, categoryRow);
     c_.tree.SetItemData(row, voyage);
@@ -204,7 +199,7 @@ int TreeBuilder::AddVoyageRow(TreeRow categoryRow, const std::string& vi) {
     if (!voyage->vsn.empty()) {
         status_.ShowVessel(row, voyage->vsn, voyage->vsi.empty());
     }
-    return 0;
+    return {};
 }
 
 void TreeBuilder::ShowFlags(TreeRow row, const VoyInfo& voyage) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "seaplan/panels/tree/RowTexts.h"
+#include "seaplan/panels/tree/TreeCodes.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
@@ -15,32 +16,30 @@ struct VoyCategory;
 struct VoyInfo;
 struct TreeContext;
 
-/// Makes the rows of the tree from the store. Results: 0 or the negative number of the failed step; rows made
-/// before it stay.
+/// Makes the rows of the tree from the store. Rows that were made before a failed step stay.
 class TreeBuilder {
   public:
     TreeBuilder(TreeContext& context, TreeStatus& status) : c_(context), status_(status) {}
 
-    /// Every row anew. -1 a category of the store's voyages has no record or state; -2 the voyages of one; -3
-    /// an empty category without state.
-    int RebuildAll();
-    /// -1 empty id or no row; -2 no voyages; -3 unknown voyage; -4 or -6 no sort state; -5 unknown sort key.
-    int RebuildCategory(const std::string& ci);
-    /// Appends a voyage's row. -1 empty id, -2 unknown voyage.
-    int AddVoyageRow(TreeRow categoryRow, const std::string& vi);
+    /// Every row anew.
+    Outcome<RowsStep> RebuildAll();
+    /// The rows of a category's voyages anew, in its order.
+    Outcome<RowsStep> RebuildCategory(const std::string& ci);
+    /// Appends a voyage's row.
+    Outcome<RowsStep> AddVoyageRow(TreeRow categoryRow, const std::string& vi);
     /// Appends a row for a category in use, with its labels.
     TreeRow AddCategoryRow(VoyCategory& category);
     TreeRow AddDeletedCategoryRow(VoyCategory& category);
 
   private:
     enum class DateSource { PositionBook, PortCalls };
-    int MakeAll();
+    Outcome<RowsStep> MakeAll();
     void TellMade() const;
-    int AddVoyages(TreeRow row, const std::string& ci, DateSource source);
-    int SortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,
-                    std::vector<std::string>& deleted) const;
-    int AddDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
-    int AddEmptyCategories(const std::vector<VoyCategory*>& deleted);
+    Outcome<RowsStep> AddVoyages(TreeRow row, const std::string& ci, DateSource source);
+    Outcome<RowsStep> SortVoyages(const std::string& ci, DateSource source, std::vector<std::string>& inUse,
+                                  std::vector<std::string>& deleted) const;
+    Outcome<RowsStep> AddDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
+    Outcome<RowsStep> AddEmptyCategories(const std::vector<VoyCategory*>& deleted);
     void ShowFlags(TreeRow row, const VoyInfo& voyage);
     void ApplyTexts(TreeRow row) const;
 

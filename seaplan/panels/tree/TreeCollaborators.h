@@ -5,6 +5,8 @@
 #include <map>
 #include <string>
 
+#include "seaplan/panels/tree/TreeCodes.h"
+
 namespace Tarvik::Seaplan {
 
 class ChoicePopup;
@@ -49,9 +51,9 @@ struct TreeCollaborators {
     ChoicePopup& sortPopup;
 };
 
-/// Commands by the name of their item. A command works on the current rows and answers 0 or the negative
-/// number of the failed step.
-using TreeCommand = std::function<int()>;
+/// Commands by the name of their item. A command works on the current rows and answers with the step
+/// that failed.
+using TreeCommand = std::function<ItemOutcome()>;
 using TreeCommands = std::map<std::string, TreeCommand>;
 
 }  // namespace Tarvik::Seaplan

@@ -42,23 +42,23 @@ void TreeRename::Abandon() {
     box_.Hide();
 }
 
-int TreeRename::Commit() {
+Outcome<RenameStep> TreeRename::Take() {
     if (!field_.IsOpen()) {
-        return 0;
+        return {};
     }
     const TextField typed = field_;
     Abandon();
     if (typed.Text().empty()) {
-        return -1;
+        return RenameStep::Empty;
     }
     // A name that was only looked at stays as it is, however wide.
     if (typed.Untouched()) {
-        return isVoyage_ ? -13 : -7;
+        return isVoyage_ ? RenameStep::VoyageName : RenameStep::CategoryName;
     }
     const std::string name = NormalizeName(typed.Text());
     if (name.empty()) {
         c_.boxes.Notice(TextIds::IDS_TREE_SHOWVISIBLE);
-        return -2;
+        return RenameStep::Invisible;
     }
     return isVoyage_ ? CommitVoyage(typed.Row(), name) : CommitCategory(typed.Row(), name);
 }
@@ -83,53 +83,53 @@ bool TreeRename::Taken(const std::map<std::string, int>& names, const std::strin
     return true;
 }
 
-int TreeRename::CommitCategory(TreeRow row, const std::string& name) {
+Outcome<RenameStep> TreeRename::CommitCategory(TreeRow row, const std::string& name) {
     if (!WidthAccepted(name, kCategoryNameWidth)) {
-        return -4;
+        return RenameStep::CategoryWidth;
     }
     VoyCategory* category = c_.CategoryOf(row);
     if (category == nullptr) {
-        return -5;
+        return RenameStep::CategoryRecord;
     }
     if (category->ci.empty()) {
-        return -6;
+        return RenameStep::CategoryId;
     }
     if (Taken(c_.categoryNames, name, category->cn)) {
-        return -7;
+        return RenameStep::CategoryName;
     }
     TreeStep step{TreeStep::Kind::Rename, false, category->ci, {}, category->cn};
     if (c_.catalog.RenameCategory(category->ci, name) != 0) {
-        return -8;
+        return RenameStep::CategoryServer;
     }
     c_.steps.Note(std::move(step));
     c_.categoryNames[name] = InUse;
     c_.tree.SetItemText(row, name);
-    return unfold_(row) == 0 ? 0 : -9;
+    return unfold_(row) ? Outcome<RenameStep>() : RenameStep::CategoryRows;
 }
 
-int TreeRename::CommitVoyage(TreeRow row, const std::string& name) {
+Outcome<RenameStep> TreeRename::CommitVoyage(TreeRow row, const std::string& name) {
     if (!WidthAccepted(name, kVoyageNameWidth)) {
-        return -10;
+        return RenameStep::VoyageWidth;
     }
     VoyInfo* voyage = c_.VoyageOf(row);
     if (voyage == nullptr) {
-        return -11;
+        return RenameStep::VoyageRecord;
     }
     if (voyage->vi.empty()) {
-        return -12;
+        return RenameStep::VoyageId;
     }
     if (Taken(c_.voyageNames, name, voyage->vn)) {
-        return -13;
+        return RenameStep::VoyageName;
     }
     TreeStep step{TreeStep::Kind::Rename, true, voyage->vi, {}, voyage->vn};
     if (c_.catalog.RenameVoyage(voyage->vi, name) != 0) {
-        return -14;
+        return RenameStep::VoyageServer;
     }
     c_.steps.Note(std::move(step));
     c_.voyageNames[name] = InUse;
     c_.tree.SetItemText(row, name);
     c_.TellNames();
-    return 0;
+    return {};
 }
 
 }  // namespace Tarvik::Seaplan

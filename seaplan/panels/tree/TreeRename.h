@@ -6,6 +6,7 @@
 #include <string>
 
 #include "seaplan/panels/editors/TextField.h"
+#include "seaplan/panels/tree/TreeCodes.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
@@ -16,8 +17,8 @@ struct TreeContext;
 /// Renaming a row in place.
 class TreeRename {
   public:
-    /// `unfold` expands and selects a category and shows the statuses of its voyages; negative on failure.
-    TreeRename(TreeContext& context, TextBox& box, std::function<int(TreeRow)> unfold)
+    /// `unfold` expands and selects a category and shows the statuses of its voyages; false on failure.
+    TreeRename(TreeContext& context, TextBox& box, std::function<bool(TreeRow)> unfold)
         : c_(context), box_(box), unfold_(std::move(unfold)) {}
 
     /// Opens the box over a row, after the name in an open one was taken. A row below the part of the tree
@@ -25,22 +26,21 @@ class TreeRename {
     void Begin(TreeRow row, bool isVoyage);
     /// The box's text is this now.
     void OnTyped(const std::string& text) { field_.SetText(text); }
-    /// Takes the typed name and closes the box. 0 also without an open box; -1 empty; -2 nothing visible;
-    /// category: -4 too wide, -5, -6 no record, -7 name taken or untouched, -8 server, -9 unfolding; voyage:
-    /// -10 to -14 likewise.
-    int Commit();
+    /// Takes the typed name and closes the box: kRenameCodes; 0 also without an open box.
+    int Commit() { return kRenameCodes.Of(Take()); }
     /// Closes the box without a change and forgets the row.
     void Abandon();
 
   private:
-    int CommitCategory(TreeRow row, const std::string& name);
-    int CommitVoyage(TreeRow row, const std::string& name);
+    Outcome<RenameStep> Take();
+    Outcome<RenameStep> CommitCategory(TreeRow row, const std::string& name);
+    Outcome<RenameStep> CommitVoyage(TreeRow row, const std::string& name);
     bool WidthAccepted(const std::string& name, int limit);
     bool Taken(const std::map<std::string, int>& names, const std::string& name, const std::string& present);
 
     TreeContext& c_;
     TextBox& box_;
-    std::function<int(TreeRow)> unfold_;
+    std::function<bool(TreeRow)> unfold_;
     TextField field_{0};
     bool isVoyage_ = false;
 };

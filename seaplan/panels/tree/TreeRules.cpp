@@ -31,11 +31,11 @@ std::string NormalizeName(const std::string& typed) {
     return Util::StringUtl::TranslateString(name);
 }
 
-int OrderVoyages(const std::vector<VoyageKeys>& voyages, const TreeSortState& sort,
-                 std::vector<std::string>& out) {
+bool OrderVoyages(const std::vector<VoyageKeys>& voyages, const TreeSortState& sort,
+                  std::vector<std::string>& out) {
     out.clear();
     if (sort.sortKey != SortByName && sort.sortKey != SortByDate) {
-        return -5;
+        return false;
     }
     std::map<std::string, std::map<std::string, std::string>> order;
     for (const VoyageKeys& voyage : voyages) {
@@ -53,7 +53,7 @@ int OrderVoyages(const std::vector<VoyageKeys>& voyages, const TreeSortState& so
     if (sort.direction == Descending) {
         std::reverse(out.begin(), out.end());
     }
-    return 0;
+    return true;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -32,8 +32,8 @@ struct VoyageKeys {
 };
 
 /// Ids in the order of the rows, by plain byte order of both keys. Of voyages with both keys equal the last
-/// stays. -5 for an unknown sort key, with `out` empty.
-int OrderVoyages(const std::vector<VoyageKeys>& voyages, const TreeSortState& sort,
-                 std::vector<std::string>& out);
+/// stays. False for an unknown sort key, with `out` empty.
+bool OrderVoyages(const std::vector<VoyageKeys>& voyages, const TreeSortState& sort,
+                  std::vector<std::string>& out);
 
 }  // namespace Tarvik::Seaplan

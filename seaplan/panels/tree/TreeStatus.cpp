@@ -20,36 +20,36 @@ constexpr const char* kDateFormat = "%Y-%m-%d";
 TreeStatus::TreeStatus(TreeContext& context)
     : c_(context), queue_(context.tree, [this](const std::string& vi, TreeRow row) { Find(vi, row); }) {}
 
-int TreeStatus::Compute(const std::string& vi) {
+Outcome<StatusStep> TreeStatus::Compute(const std::string& vi) {
     if (vi.empty()) {
-        return -1;
+        return StatusStep::Id;
     }
     const VoyInfo* voyage = c_.store.FindVoyage(vi);
     if (voyage == nullptr) {
-        return -2;
+        return StatusStep::Voyage;
     }
     if (voyage->portCalls.empty()) {
         // A voyage without port calls has nothing to fetch; it is a plan all the same.
         c_.FetchPortCalls(vi);
     }
     c_.voyageStatuses[vi] = static_cast<int>(StatusAt(voyage->portCalls, Util::_datetime_t()));
-    return 0;
+    return {};
 }
 
-int TreeStatus::Know(const std::string& vi) {
-    return c_.voyageStatuses.contains(vi) ? 0 : Compute(vi);
+Outcome<StatusStep> TreeStatus::Know(const std::string& vi) {
+    return c_.voyageStatuses.contains(vi) ? Outcome<StatusStep>() : Compute(vi);
 }
 
-int TreeStatus::Show(const std::string& vi) {
-    if (const int result = Know(vi); result != 0) {
-        return result;
+Outcome<StatusStep> TreeStatus::Show(const std::string& vi) {
+    if (const Outcome<StatusStep> known = Know(vi); known.Failed()) {
+        return known;
     }
     const TreeRow row = c_.FindVoyageRow(vi);
     if (row == kNoRow) {
-        return -4;
+        return StatusStep::Row;
     }
     Draw(row, c_.voyageStatuses.at(vi));
-    return 0;
+    return {};
 }
 
 void TreeStatus::ShowAll(TreeRow categoryRow, const std::string& ci) {
@@ -79,7 +79,7 @@ void TreeStatus::ShowAll(TreeRow categoryRow, const std::string& ci) {
 
 /// The row may have gone while the voyage waited.
 void TreeStatus::Find(const std::string& vi, TreeRow row) {
-    if (Know(vi) != 0) {
+    if (Know(vi).Failed()) {
         return;
     }
     const VoyInfo* voyage = row == kNoRow ? nullptr : c_.VoyageOf(row);
@@ -90,7 +90,7 @@ void TreeStatus::Find(const std::string& vi, TreeRow row) {
 
 void TreeStatus::ShowKnown() {
     for (const auto& [vi, status] : c_.voyageStatuses) {
-        Show(vi);
+        static_cast<void>(Show(vi));
     }
 }
 
@@ -108,9 +108,9 @@ void TreeStatus::Draw(TreeRow row, int status) {
     c_.tree.SetToolTipsOfEventItem(row, Item::kStatus, Text(tip));
 }
 
-int TreeStatus::ShowDates(TreeRow row, const VoyInfo& voyage) {
+Outcome<DatesStep> TreeStatus::ShowDates(TreeRow row, const VoyInfo& voyage) {
     if (voyage.portCalls.size() < 2) {
-        return -1;
+        return DatesStep::PortCalls;
     }
     const std::string sails = voyage.portCalls.front().etd.fmt(kDateFormat);
     const std::string ends = voyage.portCalls.back().eta.fmt(kDateFormat);
@@ -118,7 +118,7 @@ int TreeStatus::ShowDates(TreeRow row, const VoyInfo& voyage) {
     c_.tree.SetDrawItemValueOfEventItem(row, Item::kDates, ItemValue::kEndDate, ends);
     c_.tree.SetDrawItemVisibleEx(row, Item::kSetPortCall, false);
     c_.tree.SetDrawItemVisibleEx(row, Item::kDates, true);
-    return 0;
+    return {};
 }
 
 void TreeStatus::ShowVessel(TreeRow row, const std::string& name, bool alert) {
@@ -128,17 +128,17 @@ void TreeStatus::ShowVessel(TreeRow row, const std::string& name, bool alert) {
     c_.tree.SetDrawItemVisibleEx(row, Item::kAlert, alert);
 }
 
-int TreeStatus::RefreshRow(const std::string& vi) {
+Outcome<RowRefreshStep> TreeStatus::RefreshRow(const std::string& vi) {
     const TreeRow row = c_.FindVoyageRow(vi);
     if (row == kNoRow) {
-        return 0;
+        return {};
     }
     const VoyInfo* voyage = c_.store.FindVoyage(vi);
     if (voyage == nullptr) {
-        return -3;
+        return RowRefreshStep::Voyage;
     }
     c_.tree.SetItemText(row, voyage->vn);
-    return ShowDates(row, *voyage) == 0 ? 0 : -3;
+    return ShowDates(row, *voyage).Failed() ? RowRefreshStep::Voyage : Outcome<RowRefreshStep>();
 }
 
 }  // namespace Tarvik::Seaplan

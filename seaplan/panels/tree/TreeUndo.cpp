@@ -21,13 +21,13 @@ std::string TreeUndo::NameOf(const TreeStep& step) const {
     return category == store.categories.end() ? step.name : category->second.cn;
 }
 
-int TreeUndo::Undo() {
+Outcome<UndoStep> TreeUndo::Undo() {
     TreeContext& c = p_.context;
     // A name being typed is no change yet, and its box stands over a row that may go.
     p_.rename.Commit();
     if (c.steps.IsEmpty()) {
         c.Say(Text(TextIds::IDS_VIEW_TREENOUNDO));
-        return -51;
+        return UndoStep::Nothing;
     }
     const TreeStep step = c.steps.Last();
     const std::string before = NameOf(step);
@@ -35,10 +35,10 @@ int TreeUndo::Undo() {
     if (!TakeBack(step)) {
         c.steps.Note(step);
         c.Say(Text(TextIds::IDS_VIEW_UNDOFAILED, {before}));
-        return -52;
+        return UndoStep::Refused;
     }
     c.Say(ReportOf(step, before));
-    return 0;
+    return {};
 }
 
 bool TreeUndo::TakeBack(const TreeStep& step) {
@@ -100,7 +100,7 @@ bool TreeUndo::BringVoyage(const TreeStep& step) {
     if (step.traced) {
         c.catalog.OpenAis(step.id);
     }
-    p_.builder.RebuildCategory(step.category);
+    static_cast<void>(p_.builder.RebuildCategory(step.category));
     RefreshCounts(c);
     const TreeRow row = c.FindVoyageRow(step.id);
     if (row != kNoRow) {

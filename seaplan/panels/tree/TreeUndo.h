@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "seaplan/panels/tree/TreeCodes.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
@@ -21,8 +22,7 @@ class TreeUndo {
     };
     TreeUndo(TreeParts& parts, Ways ways) : p_(parts), ways_(std::move(ways)) {}
 
-    /// 0; -51 there is nothing to take back; -52 the server, or a person who was asked, did not want it.
-    int Undo();
+    Outcome<UndoStep> Undo();
 
   private:
     bool TakeBack(const TreeStep& step);

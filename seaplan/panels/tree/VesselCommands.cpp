@@ -50,55 +50,55 @@ void VesselCommands::OpenBox(TreeRow row, const std::string& text) {
     p_.context.tree.SetDrawItemVisibleEx(row, Item::kReplaceShip, true);
     editor_.Open({left, top, left + kWidth, top + kHeight}, text, std::move(fleet),
                  [this, row](const Interface::FleetEntry& vessel, bool typedOnly) {
-                     CommitTo(row, vessel, typedOnly);
+                     static_cast<void>(CommitTo(row, vessel, typedOnly));
                  });
 }
 
-int VesselCommands::OpenEditor(const std::string& vi) {
+Outcome<VesselStep> VesselCommands::OpenEditor(const std::string& vi) {
     const TreeRow row = p_.context.FindVoyageRow(vi);
     if (row == kNoRow) {
-        return -1;
+        return VesselStep::Row;
     }
     p_.selection.TakeVoyage(row);
     OpenBox(row, p_.context.VoyageOf(row)->vsn);
     // The press draws and asks for port calls: by then the person sees the box.
     p_.selection.Press(row);
-    return 0;
+    return {};
 }
 
-int VesselCommands::Assign() {
+ItemOutcome VesselCommands::Assign() {
     if (editor_.IsVisible() || editor_.ClosedByPress()) {
         editor_.Hide();
     } else {
         OpenBox(p_.selection.VoyageRow(), {});
     }
-    return 0;
+    return {};
 }
 
-int VesselCommands::Replace() {
+ItemOutcome VesselCommands::Replace() {
     const VoyInfo& voyage = p_.selection.Voyage();
     if (voyage.modais > 0) {
         p_.context.boxes.Notice(TextIds::IDS_PORTCALL_WARNAISMOD);
-        return 0;
+        return {};
     }
-    return OpenEditor(voyage.vi) == 0 ? 0 : -37;
+    return OpenEditor(voyage.vi).Failed() ? ItemStep::ReplaceVessel : ItemOutcome();
 }
 
-int VesselCommands::ShowInfo() {
+ItemOutcome VesselCommands::ShowInfo() {
     const std::string vsi = p_.selection.Voyage().vsi;
     if (!vsi.empty()) {
         Interface::Call(Interface::Bus::ShowVesselInfo, &vsi);
     }
-    return 0;
+    return {};
 }
 
-int VesselCommands::AddToFleet() {
+ItemOutcome VesselCommands::AddToFleet() {
     const Interface::FleetEntry vessel{"", p_.selection.Voyage().vsn, 0};
     void* const* window = Interface::Call(Interface::Bus::ShowAddVessel, &vessel);
     if (window != nullptr && *window != nullptr) {
         p_.context.tree.ShowAtPointer(*window);
     }
-    return 0;
+    return {};
 }
 
 /// A vessel of the fleet is tracked from the start.
@@ -107,7 +107,7 @@ void VesselCommands::TurnAisOn(TreeRow row, const VoyInfo& voyage) {
         p_.context.catalog.OpenAis(voyage.vi);
     }
     p_.chart.ShowAisItems(row, true);
-    p_.chart.ShowAis(voyage, false);
+    static_cast<void>(p_.chart.ShowAis(voyage, false));
 }
 
 /// A vessel whose position nobody knows is saved all the same.
@@ -117,20 +117,21 @@ bool VesselCommands::Save(const std::string& vi, const Interface::FleetEntry& ve
 
 int VesselCommands::Commit(const Interface::FleetEntry& vessel, bool typedOnly) {
     editor_.Hide();
-    return CommitTo(p_.selection.VoyageRow(), vessel, typedOnly);
+    return kCommitVesselCodes.Of(CommitTo(p_.selection.VoyageRow(), vessel, typedOnly));
 }
 
-int VesselCommands::CommitTo(TreeRow row, const Interface::FleetEntry& vessel, bool typedOnly) {
+Outcome<VesselStep> VesselCommands::CommitTo(TreeRow row, const Interface::FleetEntry& vessel,
+                                             bool typedOnly) {
     VoyInfo* voyage = row == kNoRow ? nullptr : p_.context.VoyageOf(row);
     if (voyage == nullptr) {
-        return -1;
+        return VesselStep::Voyage;
     }
     if (vessel.id == voyage->vsi && vessel.name == voyage->vsn) {
-        return 0;
+        return {};
     }
     if (!Save(voyage->vi, vessel)) {
         p_.context.boxes.Refusal(kVesselFailed, kErrorTitle);
-        return -2;
+        return VesselStep::Server;
     }
     p_.status.ShowVessel(row, vessel.name, typedOnly);
     voyage->vsi = vessel.id;
@@ -139,7 +140,7 @@ int VesselCommands::CommitTo(TreeRow row, const Interface::FleetEntry& vessel, b
     if (!voyage->vsi.empty()) {
         TurnAisOn(row, *voyage);
     }
-    return 0;
+    return {};
 }
 
 }  // namespace Tarvik::Seaplan

@@ -26,52 +26,52 @@ TreeCommands VoyageCommands::Table() {
             {Item::kDuplicate, [this] { return Duplicate(); }}};
 }
 
-int VoyageCommands::Pin() {
-    if (p_.chart.SetPinned(p_.selection.Voyage().vi, true) == 0) {
-        return 0;
+ItemOutcome VoyageCommands::Pin() {
+    if (p_.chart.SetPinned(p_.selection.Voyage().vi, true).Failed()) {
+        p_.context.boxes.Notice(TextIds::IDS_TREE_AUTOTRACKWARN);
+        return ItemStep::Pin;
     }
-    p_.context.boxes.Notice(TextIds::IDS_TREE_AUTOTRACKWARN);
-    return -23;
+    return {};
 }
 
-int VoyageCommands::Unpin() {
-    return p_.chart.SetPinned(p_.selection.Voyage().vi, false) == 0 ? 0 : -24;
+ItemOutcome VoyageCommands::Unpin() {
+    return p_.chart.SetPinned(p_.selection.Voyage().vi, false).Failed() ? ItemStep::Unpin : ItemOutcome();
 }
 
-int VoyageCommands::OpenPortCalls() {
+ItemOutcome VoyageCommands::OpenPortCalls() {
     PortCallOpener* panel = p_.PortCalls();
     if (panel == nullptr || panel->FillForVoyage(-1) < 0) {
-        return -25;
+        return ItemStep::FillPortCalls;
     }
     panel->ShowBesideTree();
-    return 0;
+    return {};
 }
 
-int VoyageCommands::OpenEmptyPortCalls() {
+ItemOutcome VoyageCommands::OpenEmptyPortCalls() {
     PortCallOpener* panel = p_.PortCalls();
     if (panel == nullptr) {
-        return -26;
+        return ItemStep::PortCallPanel;
     }
     panel->Reset();
     panel->ShowBesideTree();
-    return 0;
+    return {};
 }
 
-int VoyageCommands::NoonReport() {
+ItemOutcome VoyageCommands::NoonReport() {
     p_.context.boxes.Notice(TextIds::IDS_TREE_NOONREPORTWARN);
-    return 0;
+    return {};
 }
 
-int VoyageCommands::Rename() {
+ItemOutcome VoyageCommands::Rename() {
     p_.rename.Begin(p_.selection.VoyageRow(), true);
-    return 0;
+    return {};
 }
 
-int VoyageCommands::Duplicate() {
+ItemOutcome VoyageCommands::Duplicate() {
     // What is copied is what was saved, so changes on show are saved or given up first.
     PortCallOpener* panel = p_.PortCalls();
     if (panel != nullptr && !panel->AskToLeave()) {
-        return 0;
+        return {};
     }
     TreeContext& c = p_.context;
     const std::string ci = p_.selection.Category().ci;
@@ -83,29 +83,29 @@ int VoyageCommands::Duplicate() {
             TextIds::IDS_VIEW_COPYFAILED,
             Text(fault == CopyFault::NotRead ? TextIds::IDS_VIEW_COPYNOTREAD : TextIds::IDS_VIEW_COPYNOTSAVED,
                  {name}));
-        return -43;
+        return ItemStep::Copy;
     }
-    if (p_.builder.RebuildCategory(ci) != 0) {
-        return -44;
+    if (p_.builder.RebuildCategory(ci).Failed()) {
+        return ItemStep::CopyRow;
     }
     RefreshCounts(c);
     const TreeRow row = c.FindVoyageRow(vi);
     c.tree.SetCursor(row);
     p_.selection.Press(row);
     p_.rename.Begin(row, true);
-    return 0;
+    return {};
 }
 
-int VoyageCommands::DropRow() {
+ItemOutcome VoyageCommands::DropRow() {
     const std::string ci = p_.selection.Category().ci;
     p_.selection.DropVoyageRow();
-    if (p_.builder.RebuildCategory(ci) != 0) {
-        return -27;
+    if (p_.builder.RebuildCategory(ci).Failed()) {
+        return ItemStep::DropRow;
     }
-    return RefreshCounts(p_.context) == 0 ? 0 : -28;
+    return RefreshCounts(p_.context) ? ItemOutcome() : ItemStep::DropCounts;
 }
 
-int VoyageCommands::Delete() {
+ItemOutcome VoyageCommands::Delete() {
     TreeContext& c = p_.context;
     const VoyInfo& voyage = p_.selection.Voyage();
     TreeStep step{TreeStep::Kind::Delete, true, voyage.vi, p_.selection.Category().ci, voyage.vn};
@@ -114,44 +114,44 @@ int VoyageCommands::Delete() {
         step.onChart.insert(voyage.vi);
     }
     if (c.catalog.DeleteVoyage(step.category, voyage.vi) != 0) {
-        return -29;
+        return ItemStep::DeleteVoyage;
     }
     c.steps.Note(std::move(step));
     if (c.voyages.RemoveVoyageObjects(voyage.vi) != 0) {
-        return -30;
+        return ItemStep::Drawing;
     }
     if (c.catalog.CloseRoute(voyage.vi) != 0) {
-        return -31;
+        return ItemStep::CloseRoute;
     }
-    if (p_.chart.SetAisShown(voyage.vi, false) != 0) {
-        return -32;
+    if (p_.chart.SetAisShown(voyage.vi, false).Failed()) {
+        return ItemStep::TrackOfDeleted;
     }
-    const int dropped = DropRow();
-    if (dropped == 0) {
+    const ItemOutcome dropped = DropRow();
+    if (!dropped.Failed()) {
         c.voyageNames[voyage.vn] = InRecycleBin;
         c.Say(Text(TextIds::IDS_VIEW_CANUNDELETE, {voyage.vn}));
     }
     return dropped;
 }
 
-int VoyageCommands::Recover() {
+ItemOutcome VoyageCommands::Recover() {
     const VoyInfo& voyage = p_.selection.Voyage();
     if (p_.context.catalog.RecoverVoyage(p_.selection.Category().ci, voyage.vi) != 0) {
-        return -34;
+        return ItemStep::RecoverVoyage;
     }
     p_.context.voyageNames[voyage.vn] = InUse;
     p_.context.steps.Note({TreeStep::Kind::Recover, true, voyage.vi, p_.selection.Category().ci, voyage.vn});
     return DropRow();
 }
 
-int VoyageCommands::Clear() {
+ItemOutcome VoyageCommands::Clear() {
     const VoyInfo& voyage = p_.selection.Voyage();
     if (!p_.context.boxes.Question(TextIds::IDS_TREE_CLEARVOYORCATE,
                                    Text(TextIds::IDS_VIEW_LOSTVOYAGE, {voyage.vn}))) {
-        return 0;
+        return {};
     }
     if (p_.context.catalog.DestroyVoyage(p_.selection.Category().ci, voyage.vi) != 0) {
-        return -35;
+        return ItemStep::DestroyVoyage;
     }
     p_.context.voyageNames[voyage.vn] = Destroyed;
     p_.context.steps.Forget(voyage.vi, true);

@@ -7,8 +7,7 @@ namespace Tarvik::Seaplan {
 
 struct TreeParts;
 
-/// Commands of a voyage's row, but for its vessel and track. Results: 0 or the negative number of the failed
-/// step.
+/// Commands of a voyage's row, but for its vessel and track.
 class VoyageCommands {
   public:
     explicit VoyageCommands(TreeParts& parts) : p_(parts) {}
@@ -16,17 +15,17 @@ class VoyageCommands {
     TreeCommands Table();
 
   private:
-    int Pin();
-    int Unpin();
-    int OpenPortCalls();
-    int OpenEmptyPortCalls();
-    int NoonReport();
-    int Rename();
-    int Delete();
-    int Recover();
-    int Clear();
-    int Duplicate();
-    int DropRow();
+    ItemOutcome Pin();
+    ItemOutcome Unpin();
+    ItemOutcome OpenPortCalls();
+    ItemOutcome OpenEmptyPortCalls();
+    ItemOutcome NoonReport();
+    ItemOutcome Rename();
+    ItemOutcome Delete();
+    ItemOutcome Recover();
+    ItemOutcome Clear();
+    ItemOutcome Duplicate();
+    ItemOutcome DropRow();
 
     TreeParts& p_;
 };

@@ -27,27 +27,31 @@ void VoyagesOnChart::TidyOthers(const std::string& vi) {
     }
 }
 
-int VoyagesOnChart::Redraw(const VoyInfo& voyage, VoyChartMark& mark) {
+OnChartOutcome VoyagesOnChart::ShowTrackOf(const VoyInfo& voyage) {
+    return voyage.va == 1 ? ShowAis(voyage, false) : OnChartOutcome();
+}
+
+OnChartOutcome VoyagesOnChart::Redraw(const VoyInfo& voyage, VoyChartMark& mark) {
     if (voyage.vr == 1) {
         if (aisModVoyage_ == voyage.vi && !aisModSkipDone_) {
             aisModSkipDone_ = true;
-            return 0;
+            return {};
         }
         if (c_.voyages.RemoveVoyageObjects(voyage.vi) != 0) {
-            return -2;
+            return OnChartStep::Remove;
         }
         if (c_.voyages.ShowVoyage(voyage.vi) != 0) {
-            return -3;
+            return OnChartStep::Draw;
         }
     }
     mark.routePinned = voyage.vr == 1 ? 1 : 0;
     TidyOthers(voyage.vi);
-    return voyage.va == 1 && ShowAis(voyage, false) != 0 ? -4 : 0;
+    return ShowTrackOf(voyage);
 }
 
-int VoyagesOnChart::ActivateVoyage(const VoyInfo& voyage) {
+OnChartOutcome VoyagesOnChart::ActivateVoyage(const VoyInfo& voyage) {
     if (voyage.vi.empty()) {
-        return -1;
+        return OnChartStep::Id;
     }
     Interface::Call(Interface::Bus::MapStandOut, &voyage.vi);
     const auto known = c_.chartMarks.find(voyage.vi);
@@ -55,15 +59,15 @@ int VoyagesOnChart::ActivateVoyage(const VoyInfo& voyage) {
         return Redraw(voyage, known->second);
     }
     if (c_.voyages.RemoveVoyageObjects(voyage.vi) != 0) {
-        return -5;
+        return OnChartStep::Remove;
     }
     c_.chartMarks[voyage.vi] = {voyage.vr == 1 ? 1 : 0, OnChart};
     TidyOthers(voyage.vi);
     if (c_.voyages.ShowVoyage(voyage.vi) != 0) {
         TidyOthers(voyage.vi);
-        return -6;
+        return OnChartStep::Draw;
     }
-    return voyage.va == 1 && ShowAis(voyage, false) != 0 ? -7 : 0;
+    return ShowTrackOf(voyage);
 }
 
 void VoyagesOnChart::LeaveAloneOnce(const std::string& vi) {
@@ -71,23 +75,23 @@ void VoyagesOnChart::LeaveAloneOnce(const std::string& vi) {
     aisModSkipDone_ = false;
 }
 
-int VoyagesOnChart::ShowAis(const VoyInfo& voyage, bool warn) {
+OnChartOutcome VoyagesOnChart::ShowAis(const VoyInfo& voyage, bool warn) {
     if (voyage.vi.empty()) {
-        return -1;
+        return OnChartStep::Id;
     }
     if (voyage.vsi.empty() || voyage.vsn.empty()) {
         if (warn) {
             c_.boxes.Notice(TextIds::IDS_TREE_WARNSHOWAIS);
         }
-        return -1;
+        return OnChartStep::Vessel;
     }
     if (c_.voyages.RefreshTrace(voyage.vi) == 0) {
-        return 0;
+        return {};
     }
     if (warn) {
         c_.boxes.Notice(TextIds::IDS_TREE_FAILDSHOWAIS);
     }
-    return -2;
+    return OnChartStep::Track;
 }
 
 void VoyagesOnChart::ShowAisItems(TreeRow row, bool on) {
@@ -95,63 +99,61 @@ void VoyagesOnChart::ShowAisItems(TreeRow row, bool on) {
     c_.tree.SetDrawItemVisibleEx(row, Item::kAisOn, on);
 }
 
-int VoyagesOnChart::SetAisShown(const std::string& vi, bool on) {
-    if (vi.empty()) {
-        return -1;
-    }
-    VoyInfo* voyage = c_.store.FindVoyage(vi);
-    if (voyage == nullptr) {
-        return -2;
-    }
-    const TreeRow row = c_.FindVoyageRow(vi);
-    if (row == kNoRow) {
-        return -3;
-    }
+OnChartOutcome VoyagesOnChart::TurnAis(VoyInfo& voyage, bool on) {
     if (on) {
-        if (ShowAis(*voyage, true) != 0) {
-            return -4;
+        if (const OnChartOutcome shown = ShowAis(voyage, true); shown.Failed()) {
+            return shown;
         }
-        if (voyage->va == 0 && c_.catalog.OpenAis(vi) != 0) {
-            return -5;
-        }
-    } else {
-        if (c_.voyages.HideAisTrack(vi) != 0) {
-            return -6;
-        }
-        // The server is told whatever the flag was; its refusal leaves the flag on and the track hidden.
-        voyage->va = 1;
-        if (c_.catalog.CloseAis(vi) != 0) {
-            return -7;
-        }
+        return voyage.va == 0 && c_.catalog.OpenAis(voyage.vi) != 0 ? OnChartStep::Server : OnChartOutcome();
     }
-    ShowAisItems(row, on);
-    return 0;
+    if (c_.voyages.HideAisTrack(voyage.vi) != 0) {
+        return OnChartStep::Track;
+    }
+    // The server is told whatever the flag was; its refusal leaves the flag on and the track hidden.
+    voyage.va = 1;
+    return c_.catalog.CloseAis(voyage.vi) != 0 ? OnChartStep::Server : OnChartOutcome();
 }
 
-int VoyagesOnChart::SetPinned(const std::string& vi, bool on) {
+OnChartOutcome VoyagesOnChart::SetAisShown(const std::string& vi, bool on) {
     if (vi.empty()) {
-        return -1;
+        return OnChartStep::Id;
     }
     VoyInfo* voyage = c_.store.FindVoyage(vi);
     if (voyage == nullptr) {
-        return -2;
+        return OnChartStep::Voyage;
     }
     const TreeRow row = c_.FindVoyageRow(vi);
     if (row == kNoRow) {
-        return -3;
+        return OnChartStep::Row;
+    }
+    if (const OnChartOutcome turned = TurnAis(*voyage, on); turned.Failed()) {
+        return turned;
+    }
+    ShowAisItems(row, on);
+    return {};
+}
+
+OnChartOutcome VoyagesOnChart::SetPinned(const std::string& vi, bool on) {
+    if (vi.empty()) {
+        return OnChartStep::Id;
+    }
+    VoyInfo* voyage = c_.store.FindVoyage(vi);
+    if (voyage == nullptr) {
+        return OnChartStep::Voyage;
+    }
+    const TreeRow row = c_.FindVoyageRow(vi);
+    if (row == kNoRow) {
+        return OnChartStep::Row;
     }
     if (on && voyage->positionBook.points.empty()) {
-        return -4;
+        return OnChartStep::PositionBook;
     }
-    if (on && c_.catalog.OpenRoute(vi) != 0) {
-        return -5;
-    }
-    if (!on && c_.catalog.CloseRoute(vi) != 0) {
-        return -6;
+    if ((on ? c_.catalog.OpenRoute(vi) : c_.catalog.CloseRoute(vi)) != 0) {
+        return OnChartStep::Server;
     }
     c_.tree.SetDrawItemVisibleEx(row, Item::kUnpinned, !on);
     c_.tree.SetDrawItemVisibleEx(row, Item::kPinned, on);
-    return ActivateVoyage(*voyage) == 0 ? 0 : -7;
+    return ActivateVoyage(*voyage);
 }
 
 void VoyagesOnChart::MarkAll() {

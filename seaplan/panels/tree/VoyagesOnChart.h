@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "seaplan/data/Outcome.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
@@ -11,22 +12,24 @@ struct VoyChartMark;
 struct VoyInfo;
 struct TreeContext;
 
-/// Keeps one voyage on the chart, plus those that are pinned. Results: 0 or the negative number of the failed
-/// step.
+/// What the chart's share of the tree fails at.
+enum class OnChartStep { Id, Voyage, Row, PositionBook, Server, Remove, Draw, Vessel, Track };
+using OnChartOutcome = Outcome<OnChartStep>;
+
+/// Keeps one voyage on the chart, plus those that are pinned.
 class VoyagesOnChart {
   public:
     explicit VoyagesOnChart(TreeContext& context) : c_(context) {}
 
-    /// -1 empty id; -2, -3 redrawing; -5 removing; -6 drawing; -4, -7 the vessel's track.
-    int ActivateVoyage(const VoyInfo& voyage);
-    /// Pins or unpins a voyage's route. -1 empty id; -2 unknown; -3 no row; -4 no position book; -5, -6 the
-    /// server's refusal; -7 the chart.
-    int SetPinned(const std::string& vi, bool on);
-    /// Shows the track of a voyage's vessel. -1 no vessel, -2 no track; with `warn` the person is told.
-    int ShowAis(const VoyInfo& voyage, bool warn);
-    /// Turns a voyage's AIS display on or off. -1 empty id; -2 unknown; -3 no row; -4, -6 the track; -5, -7
-    /// the server's refusal.
-    int SetAisShown(const std::string& vi, bool on);
+    /// Draws a voyage and its vessel's track where these are on, and takes the others off that are not
+    /// pinned.
+    OnChartOutcome ActivateVoyage(const VoyInfo& voyage);
+    /// Pins or unpins a voyage's route. One without a position book cannot be pinned.
+    OnChartOutcome SetPinned(const std::string& vi, bool on);
+    /// Shows the track of a voyage's vessel; with `warn` the person is told why there is none.
+    OnChartOutcome ShowAis(const VoyInfo& voyage, bool warn);
+    /// Turns a voyage's AIS display on or off, here and on the server.
+    OnChartOutcome SetAisShown(const std::string& vi, bool on);
     /// The row's items for a track that is shown or not.
     void ShowAisItems(TreeRow row, bool on);
     /// The next press on this pinned voyage leaves the chart as it is.
@@ -36,7 +39,9 @@ class VoyagesOnChart {
 
   private:
     void TidyOthers(const std::string& vi);
-    int Redraw(const VoyInfo& voyage, VoyChartMark& mark);
+    OnChartOutcome ShowTrackOf(const VoyInfo& voyage);
+    OnChartOutcome TurnAis(VoyInfo& voyage, bool on);
+    OnChartOutcome Redraw(const VoyInfo& voyage, VoyChartMark& mark);
 
     TreeContext& c_;
     std::string aisModVoyage_;  ///< voyage last opened for a correction
