@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "seaplan/panels/texts/EditTexts.h"
@@ -12,6 +13,11 @@ struct EditName {
     TextId text = TextIds::IDS_VIEW_EDITOTHER;  ///< takes a row's number
     int row = 0;                                ///< counted from 0
 };
+
+/// An edit of several rows is called by how many they are.
+inline EditName EditOfRows(TextId text, std::size_t count) {
+    return {text, static_cast<int>(count) - 1};
+}
 
 /// What undo and redo of a window would do now, as "Undo speed of row 3"; empty where they can do nothing.
 struct UndoTexts {

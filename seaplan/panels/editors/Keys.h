@@ -19,7 +19,8 @@ enum class Key {
     Right,
     F2,
     F9,
-    S
+    S,
+    D
 };
 
 /// A key with the keys held beside it.

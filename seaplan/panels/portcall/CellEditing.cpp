@@ -42,8 +42,7 @@ void CellEditing::OnCellClicked(int row, int column) {
         return;
     }
     table.GrowIfLast(row);
-    // The history of a corrected voyage stays as it is.
-    if (desk_.IsCorrected() && (table.FindLastAisRow() < 0 || row <= table.FindLastAisRow())) {
+    if (!edits_.Opens(row, column)) {
         return;
     }
     switch (const CellEditor editor = kPortCallColumns[column].editor; editor) {
@@ -100,9 +99,6 @@ void CellEditing::OpenPurposes(int row) {
 
 void CellEditing::OpenPicker(int row, int column) {
     const PortCallTable& table = desk_.Sheet().table;
-    if (table.IsBlank(row) || IsBlankCell(table.Cell(row, ColEta)) || IsBlankCell(table.Cell(row, ColEtd))) {
-        return;
-    }
     const auto time = Util::DateTimeUtl::Parse(table.Cell(row, column));
     if (!time) {
         return;

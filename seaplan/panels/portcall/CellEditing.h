@@ -37,7 +37,8 @@ class CellEditing {
     void OnMatchPressed(int index);
     /// A key in the list of purposes; false when it means nothing there.
     bool OnPurposeKey(KeyPress press, int current);
-    void OnPurposeChosen(int index);
+    /// A purpose for its row, or for all that are chosen.
+    void OnPurposeChosen(int index, bool inChosen = false);
     /// The picker's time, `kTimeFormat`.
     void OnTimeChosen(const std::string& text);
 
@@ -58,7 +59,7 @@ class CellEditing {
     void OpenPicker(int row, int column);
     void Commit(CellEditor editor);
     void Hide(CellEditor editor);
-    void Finish(CellEditor editor, Key key);
+    void Finish(CellEditor editor, KeyPress press);
     void Escape(CellEditor editor);
     void ClosePopups();
 

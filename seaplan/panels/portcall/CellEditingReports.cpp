@@ -6,6 +6,7 @@
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/CellsView.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -41,7 +42,7 @@ bool CellEditing::OnEditorKey(CellEditor editor, KeyPress press) {
             return false;
         case Key::Tab:
         case Key::Enter:
-            Finish(editor, press.key);
+            Finish(editor, press);
             return true;
         default:
             return false;
@@ -50,10 +51,17 @@ bool CellEditing::OnEditorKey(CellEditor editor, KeyPress press) {
 
 /// Tab and Enter take the text and lead on: from the first port and from any weather factor to the next port,
 /// else to the next editor of the row; Enter in the speed only closes, in a port it leads to the next one.
-void CellEditing::Finish(CellEditor editor, Key key) {
+/// Ctrl+Enter takes it for each chosen row and closes.
+void CellEditing::Finish(CellEditor editor, KeyPress press) {
     const int row = Box(editor).Row();
-    const bool empty = Box(editor).Text().empty();
-    Commit(editor);
+    const std::string text = Box(editor).Text();
+    const bool empty = text.empty();
+    const bool inChosen = press.ctrl && press.key == Key::Enter && !empty;
+    if (inChosen) {
+        edits_.SetInRows(desk_.ChosenRows(row), ColumnOf(editor), text, TextIds::IDS_VIEW_EDITALL);
+    } else {
+        Commit(editor);
+    }
     if (editor == CellEditor::Port) {
         matching_.Hide();
         if (empty) {
@@ -61,12 +69,15 @@ void CellEditing::Finish(CellEditor editor, Key key) {
         }
     }
     Hide(editor);
-    const bool toSpeed = editor == CellEditor::Port && key == Key::Tab && row > 0;
+    if (inChosen) {
+        return;
+    }
+    const bool toSpeed = editor == CellEditor::Port && press.key == Key::Tab && row > 0;
     if (toSpeed) {
         Open(CellEditor::Speed, row);
     } else if (editor != CellEditor::Speed) {
         OpenNextPort(row);
-    } else if (key == Key::Tab) {
+    } else if (press.key == Key::Tab) {
         Open(CellEditor::Weather, row);
     }
 }
@@ -126,7 +137,7 @@ void CellEditing::OnMatchPressed(int index) {
 
 bool CellEditing::OnPurposeKey(KeyPress press, int current) {
     if (press.key == Key::Enter) {
-        OnPurposeChosen(current);
+        OnPurposeChosen(current, press.ctrl);
     } else if (press.key == Key::Escape) {
         purposes_.Close();
         desk_.View().Cells().HidePurposes();
@@ -136,14 +147,19 @@ bool CellEditing::OnPurposeKey(KeyPress press, int current) {
     return true;
 }
 
-void CellEditing::OnPurposeChosen(int index) {
+void CellEditing::OnPurposeChosen(int index, bool inChosen) {
     const PortCallDesk::Report report(desk_);
     if (index < 0 || index >= static_cast<int>(Interface::kPurposes.size())) {
         return;
     }
     purposes_.Close();
     desk_.View().Cells().HidePurposes();
-    edits_.SetPurpose(purposes_.Row(), Interface::kPurposes[static_cast<std::size_t>(index)].code);
+    const char* code = Interface::kPurposes[static_cast<std::size_t>(index)].code;
+    if (inChosen) {
+        edits_.SetInRows(desk_.ChosenRows(purposes_.Row()), ColPurpose, code, TextIds::IDS_VIEW_EDITALL);
+    } else {
+        edits_.SetPurpose(purposes_.Row(), code);
+    }
 }
 
 void CellEditing::OnTimeChosen(const std::string& text) {

@@ -30,15 +30,40 @@ bool CellEdits::Takes(int row) const {
     return table.IsNumbered(row) && !table.IsBlank(row);
 }
 
+/// Whether the history of a corrected voyage holds the row, or nobody can tell.
+bool CellEdits::IsSailed(int row) const {
+    const int ship = desk_.Sheet().table.FindLastAisRow();
+    return desk_.IsCorrected() && (ship < 0 || row <= ship);
+}
+
+bool CellEdits::Opens(int row, int column) const {
+    const PortCallTable& table = desk_.Sheet().table;
+    if (!table.IsNumbered(row) || column < 0 || column >= kPortCallColumnCount || IsSailed(row)) {
+        return false;
+    }
+    const CellEditor editor = kPortCallColumns[static_cast<std::size_t>(column)].editor;
+    if (editor == CellEditor::Time) {
+        return !table.IsBlank(row) && !IsBlankCell(table.Cell(row, ColEta)) &&
+               !IsBlankCell(table.Cell(row, ColEtd));
+    }
+    return editor != CellEditor::None;
+}
+
 void CellEdits::SetPort(int row, const std::string& typed) {
+    if (PutPort(row, typed) == CellAnswer::Taken) {
+        desk_.History().Take({TextIds::IDS_VIEW_EDITPORT, row});
+    }
+}
+
+CellAnswer CellEdits::PutPort(int row, const std::string& typed) {
     PortCallTable& table = desk_.Sheet().table;
     if (typed.empty() || !table.IsNumbered(row)) {
-        return;
+        return CellAnswer::Refused;
     }
     PortCallRows port(1);
     port[0].ppn = desk_.Ports().NameOf(typed);
     if (port[0].ppn.empty()) {
-        return;
+        return CellAnswer::Refused;
     }
     desk_.Voyages().ResolvePortIds(port);
     table.SetPort(row, port[0].ppn, port[0].ppi);
@@ -49,39 +74,53 @@ void CellEdits::SetPort(int row, const std::string& typed) {
     }
     table.ClearTotals();
     desk_.Sheet().MarkChanged(desk_.Ports());
-    desk_.History().Take({TextIds::IDS_VIEW_EDITPORT, row});
+    return CellAnswer::Taken;
 }
 
 void CellEdits::SetSpeed(int row, const std::string& typed) {
+    PutSpeed(row, typed);
+    desk_.History().Take({TextIds::IDS_VIEW_EDITSPEED, row});
+}
+
+CellAnswer CellEdits::PutSpeed(int row, const std::string& typed) {
     if (!Takes(row)) {
-        return;
+        return CellAnswer::Refused;
     }
     const std::string& old = desk_.Sheet().table.Cell(row, ColSpeed);
     std::string text = IsBlankCell(old) ? "10.0" : old;
     const double speed = Util::StringUtl::ToDouble(typed);
-    if (speed >= kLeastSpeed) {
+    const bool isSpeed = speed >= kLeastSpeed;
+    if (isSpeed) {
         text = SpeedText(speed);
     }
     SetFigure(row, ColSpeed, text);
-    desk_.History().Take({TextIds::IDS_VIEW_EDITSPEED, row});
+    return isSpeed ? CellAnswer::Taken : CellAnswer::Refused;
 }
 
 void CellEdits::SetWeather(int row, const std::string& typed) {
+    PutWeather(row, typed);
+    desk_.History().Take({TextIds::IDS_VIEW_EDITWEATHER, row});
+}
+
+CellAnswer CellEdits::PutWeather(int row, const std::string& typed) {
     if (!Takes(row)) {
-        return;
+        return CellAnswer::Refused;
     }
     const std::string& old = desk_.Sheet().table.Cell(row, ColWeather);
     std::string text = IsBlankCell(old) ? "0%" : old;
     const double percent = Util::StringUtl::ToDouble(typed);
+    CellAnswer answer = CellAnswer::Taken;
     if (typed == "0" || typed == "0.0") {
         text = "0%";
     } else if (percent >= kLeastWeatherPercent && percent <= kMostWeatherPercent &&
                PercentText(percent) != PercentText(kNoHeadway)) {
         // The cell is what counts from here on, and a factor that it tells as whole leaves no speed.
         text = PercentText(percent);
+    } else {
+        answer = CellAnswer::Refused;
     }
     SetFigure(row, ColWeather, text);
-    desk_.History().Take({TextIds::IDS_VIEW_EDITWEATHER, row});
+    return answer;
 }
 
 void CellEdits::SetFigure(int row, int column, const std::string& text) {
@@ -93,82 +132,90 @@ void CellEdits::SetFigure(int row, int column, const std::string& text) {
 }
 
 void CellEdits::SetPurpose(int row, const std::string& code) {
-    if (!Takes(row)) {
-        return;
-    }
-    desk_.Sheet().table.SetCell(row, ColPurpose, code);
-    desk_.Sheet().MarkChanged(desk_.Ports());
+    PutPurpose(row, code);
     desk_.History().Take({TextIds::IDS_VIEW_EDITPURPOSE, row});
 }
 
-void CellEdits::SetTime(int row, int column, const std::string& text) {
-    if (text.size() != kTimeTextLength || !desk_.Sheet().table.IsNumbered(row)) {
-        return;
+CellAnswer CellEdits::PutPurpose(int row, const std::string& code) {
+    if (!Takes(row)) {
+        return CellAnswer::Refused;
     }
-    if (column == ColEtd) {
-        SetEtd(row, text);
-    } else if (row == 0) {
-        SetFirstEta(text);
-    } else {
-        SetEta(row, text);
+    desk_.Sheet().table.SetCell(row, ColPurpose, code);
+    desk_.Sheet().MarkChanged(desk_.Ports());
+    return CellAnswer::Taken;
+}
+
+void CellEdits::SetTime(int row, int column, const std::string& text) {
+    const CellAnswer answer = PutTime(row, column, text);
+    if (answer == CellAnswer::EtaTooEarly) {
+        desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_ERRETA);
+    } else if (answer == CellAnswer::EtdTooEarly) {
+        desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_ERRETD);
     }
     desk_.History().Take({column == ColEtd ? TextIds::IDS_VIEW_EDITETD : TextIds::IDS_VIEW_EDITETA, row});
 }
 
-void CellEdits::SetFirstEta(const std::string& text) {
+CellAnswer CellEdits::PutTime(int row, int column, const std::string& text) {
+    if (text.size() != kTimeTextLength || !desk_.Sheet().table.IsNumbered(row)) {
+        return CellAnswer::Refused;
+    }
+    return column == ColEtd ? SetEtd(row, text) : row == 0 ? SetFirstEta(text) : SetEta(row, text);
+}
+
+CellAnswer CellEdits::SetFirstEta(const std::string& text) {
     PortCallTable& table = desk_.Sheet().table;
     table.SetCell(0, ColEta, text);
     table.SetCell(0, ColEtd, text);
     PortCallRows rows;
     if (desk_.Sheet().ReadStandard(rows) != 0) {
-        return;
+        return CellAnswer::Refused;
     }
     // A new time of departure wipes the stay at the first port.
     rows.front().apt = 0;
-    desk_.Recompute(rows);
+    return desk_.Recompute(rows) == 0 ? CellAnswer::Taken : CellAnswer::Refused;
 }
 
-void CellEdits::SetEta(int row, const std::string& text) {
+CellAnswer CellEdits::SetEta(int row, const std::string& text) {
     PortCallTable& table = desk_.Sheet().table;
     float hours = 0;
     if (HoursBetween(text, table.Cell(row - 1, ColEtd), hours) != 0) {
-        return;
+        return CellAnswer::Refused;
     }
     if (static_cast<double>(hours) < kLeastLegHours) {
-        return desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_ERRETA);
+        return CellAnswer::EtaTooEarly;
     }
     table.SetCell(row, ColEta, text);
     PortCallRows rows;
     if (desk_.Sheet().ReadStandard(rows) != 0) {
-        return;
+        return CellAnswer::Refused;
     }
     VoyPortCall& call = rows[table.CompactIndex(row)];
     // Distance and weather stay, so the speed gives way.
     const double speed = SpeedForSteamTime(static_cast<double>(call.distance), static_cast<double>(hours),
                                            static_cast<double>(call.pw));
     if (!(speed >= kLeastLegSpeed)) {
-        return;
+        return CellAnswer::Refused;
     }
     call.psp = static_cast<float>(speed);
-    desk_.Recompute(rows);
+    return desk_.Recompute(rows) == 0 ? CellAnswer::Taken : CellAnswer::Refused;
 }
 
-void CellEdits::SetEtd(int row, const std::string& text) {
+CellAnswer CellEdits::SetEtd(int row, const std::string& text) {
     PortCallTable& table = desk_.Sheet().table;
     float hours = 0;
     if (HoursBetween(text, table.Cell(row, ColEta), hours) != 0) {
-        return;
+        return CellAnswer::Refused;
     }
     if (static_cast<double>(hours) < kEarliestDeparture) {
-        return desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_ERRETD);
+        return CellAnswer::EtdTooEarly;
     }
     table.SetCell(row, ColEtd, text);
     PortCallRows rows;
     if (desk_.Sheet().ReadStandard(rows) != 0) {
-        return;
+        return CellAnswer::Refused;
     }
     rows[table.CompactIndex(row)].apt = hours;
-    desk_.Recompute(rows);
+    return desk_.Recompute(rows) == 0 ? CellAnswer::Taken : CellAnswer::Refused;
 }
 
 }  // namespace Tarvik::Seaplan

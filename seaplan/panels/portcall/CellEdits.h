@@ -2,10 +2,13 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace Tarvik::Seaplan {
 
 class PortCallDesk;
+/// What became of a text that was put into a cell.
+enum class CellAnswer { Taken, Refused, EtaTooEarly, EtdTooEarly };
 
 /// What an edit of a cell starts. A text that a cell refuses leaves it as it was, silently but for the two
 /// times that are too early. A row outside the numbered ones takes nothing.
@@ -23,13 +26,27 @@ class CellEdits {
     void SetPurpose(int row, const std::string& code);
     /// ETA or ETD, 19 characters `kTimeFormat`.
     void SetTime(int row, int column, const std::string& text);
+    /// The text of a cell of one column into the same column of several rows, in order, as if each had been
+    /// typed, as one edit of that name. A row that refuses it stays as it was, and the status line says which
+    /// ones did.
+    void SetInRows(const std::vector<int>& rows, int column, const std::string& text, TextId edit);
+    /// Whether a cell can be edited at all. What a corrected voyage has sailed cannot, and a time not before
+    /// the row has both.
+    bool Opens(int row, int column) const;
 
   private:
     bool Takes(int row) const;
+    bool IsSailed(int row) const;
+    CellAnswer Put(int row, int column, const std::string& text);
+    CellAnswer PutPort(int row, const std::string& typed);
+    CellAnswer PutSpeed(int row, const std::string& typed);
+    CellAnswer PutWeather(int row, const std::string& typed);
+    CellAnswer PutPurpose(int row, const std::string& code);
+    CellAnswer PutTime(int row, int column, const std::string& text);
     void SetFigure(int row, int column, const std::string& text);
-    void SetFirstEta(const std::string& text);
-    void SetEta(int row, const std::string& text);
-    void SetEtd(int row, const std::string& text);
+    CellAnswer SetFirstEta(const std::string& text);
+    CellAnswer SetEta(int row, const std::string& text);
+    CellAnswer SetEtd(int row, const std::string& text);
 
     PortCallDesk& desk_;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/PortCallDesk.h"
 
+#include <algorithm>
+
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
 
@@ -116,6 +118,15 @@ void PortCallDesk::SetCauseOfFault() {
 
 std::string PortCallDesk::LossWords() const {
     return LossText(sheet_, p_.voyages.NameOf(sheet_.voyageId));
+}
+
+std::vector<int> PortCallDesk::ChosenRows(int front) const {
+    std::vector<int> rows = p_.view.ChosenRows();
+    rows.push_back(front);
+    std::erase_if(rows, [this](int row) { return !sheet_.table.IsNumbered(row); });
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
 }
 
 void PortCallDesk::SetNote(PortCallNote note) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "seaplan/panels/editors/EditWords.h"
 #include "seaplan/panels/portcall/PortCallParts.h"
@@ -89,6 +90,8 @@ class PortCallDesk {
     std::string LossWords() const;
     /// The zone in which times are read from the next filling on; without one the host is asked for it.
     void SetZone(std::string zone) { zone_ = std::move(zone); }
+    /// The numbered rows that the person has chosen, in order, with the one in front.
+    std::vector<int> ChosenRows(int front) const;
     /// Another line about the rows on show.
     void SetNote(PortCallNote note);
 

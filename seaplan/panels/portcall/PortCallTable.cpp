@@ -223,6 +223,14 @@ void PortCallTable::GrowIfLast(int row) {
     ++rowCount_;
 }
 
+int RowOfPlace(const PortCallTable& table, int place) {
+    int row = 0;
+    while (row < table.RowCount() - 1 && (table.IsBlank(row) || table.CompactIndex(row) != place)) {
+        ++row;
+    }
+    return row;
+}
+
 RowActions ActionsOf(const PortCallTable& table, int row) {
     if (!table.IsNumbered(row) || table.IsBlank(row)) {
         return {};

@@ -105,6 +105,9 @@ class PortCallTable {
     std::string start_;  ///< ETA of the first row before a row operation blanked it
 };
 
+/// The row with a port at such a place among them; the last numbered row where there are not as many.
+int RowOfPlace(const PortCallTable& table, int place);
+
 /// What the images at a row's end can do now.
 struct RowActions {
     bool moveUp = false;

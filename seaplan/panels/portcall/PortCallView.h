@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/window/PanelWindow.h"
 
@@ -21,6 +22,8 @@ class PortCallView : public PanelWindow {
     /// Tells the person that something goes on which takes a while.
     virtual void SetBusy(bool busy) = 0;
     virtual void SelectRow(int row) = 0;
+    /// The rows that the person has chosen, in order; that in front mostly is one of them.
+    virtual std::vector<int> ChosenRows() const = 0;
     virtual void BringRowIntoView(int row) = 0;
     /// What opens over the cells.
     virtual CellsView& Cells() = 0;

@@ -3,8 +3,11 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <tarvik/util/DateTime.h>
+
+#include "seaplan/panels/texts/TextId.h"
 
 /// What the port call panel tells in whole sentences, in the language in force.
 namespace Tarvik::Seaplan {
@@ -27,5 +30,7 @@ std::string LossText(const PortCallSheet& sheet, const std::string& voyage);
 PortCallNote NoteOfKnownLegs(const std::optional<Util::_datetime_t>& since, const std::string& zone);
 /// The one line about the rows on show, empty when there is nothing to tell of them.
 std::string NoteText(const PortCallNote& note);
+/// A sentence about rows, counted from 0; empty without rows.
+std::string RowsText(TextId id, const std::vector<int>& rows);
 
 }  // namespace Tarvik::Seaplan

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/RowCommands.h"
 
+#include <utility>
+
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/remark/CRemarkPanel.h"
 #include "seaplan/panels/texts/EditTexts.h"
+#include "seaplan/panels/window/StatusWords.h"
 
 namespace Tarvik::Seaplan {
 
@@ -70,11 +75,7 @@ int RowCommands::CommitBefore(int row) {
         // A port was typed into a blank row, and nothing moved.
         return row;
     }
-    int now = 0;
-    while (now < table.RowCount() - 1 && (table.IsBlank(now) || table.CompactIndex(now) != place)) {
-        ++now;
-    }
-    return now;
+    return RowOfPlace(table, place);
 }
 
 int RowCommands::OnItemImage(int row, const std::string& name) {
@@ -101,20 +102,96 @@ int RowCommands::OnItemImage(int row, const std::string& name) {
     return result;
 }
 
-bool RowCommands::OnTableKey(KeyPress press, int row, int column) {
-    switch (press.key) {
-        case Key::Delete:
-            OnItemImage(row, PortCallImage::kDelete);
-            return true;
-        case Key::Up:
-        case Key::Down:
-            if (press.alt) {
-                OnItemImage(row, press.key == Key::Up ? PortCallImage::kMoveUp : PortCallImage::kMoveDown);
-            }
-            return press.alt;
-        default:
-            return OnCellKey(editing_, press, row, column);
+void RowCommands::DeleteChosen(int row) {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    const PortCallTable& table = desk_.Sheet().table;
+    std::vector<int> chosen = desk_.ChosenRows(row);
+    std::erase_if(chosen, [&table](int at) { return table.IsBlank(at); });
+    if (chosen.size() < 2) {
+        OnItemImage(chosen.empty() ? row : chosen.front(), PortCallImage::kDelete);
+        return;
     }
+    PortCallRows rows = table.ReadAllRows();
+    std::vector<int> kept;
+    // From the last one on, so that those above stay where they are.
+    for (auto at = chosen.rbegin(); at != chosen.rend(); ++at) {
+        PortCallRows left;
+        if (table.CompactIndex(*at) == *at && desk_.Voyages().DeleteRow(rows, *at, left) == 0) {
+            rows = std::move(left);
+        } else {
+            kept.insert(kept.begin(), *at);
+        }
+    }
+    if (kept.size() < chosen.size()) {
+        ShowMoved(0, rows);
+        desk_.History().Take(EditOfRows(TextIds::IDS_VIEW_EDITDELETEROWS, chosen.size() - kept.size()));
+        desk_.View().SelectRow(chosen.front());
+    }
+    TellInStatusLine(RowsText(TextIds::IDS_VIEW_ROWSNOTDELETED, kept));
+}
+
+void RowCommands::Fill(int from, const std::vector<int>& rows, int column, TextId edit) {
+    const PortCallTable& table = desk_.Sheet().table;
+    if (!table.IsNumbered(from) || column < 0 || column >= kPortCallColumnCount ||
+        IsBlankCell(table.Cell(from, column)) ||
+        kPortCallColumns[static_cast<std::size_t>(column)].editor == CellEditor::None) {
+        return TellInStatusLine(Text(TextIds::IDS_VIEW_NOTHINGTOFILL));
+    }
+    const std::string text = table.Cell(from, column);
+    edits_.SetInRows(rows, column, text, edit);
+}
+
+void RowCommands::FillDown(int row, int column) {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    std::vector<int> rows = desk_.ChosenRows(row);
+    if (rows.empty()) {
+        return;
+    }
+    int from = rows.front() - 1;
+    if (rows.size() > 1) {
+        from = rows.front();
+        rows.erase(rows.begin());
+    }
+    Fill(from, rows, column, TextIds::IDS_VIEW_EDITFILL);
+}
+
+void RowCommands::PutInChosen(int row, int column) {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    std::vector<int> rows = desk_.ChosenRows(row);
+    std::erase(rows, row);
+    if (!rows.empty()) {
+        Fill(row, rows, column, TextIds::IDS_VIEW_EDITALL);
+    }
+}
+
+/// Keys over all that is chosen.
+bool RowCommands::OnChosenKey(KeyPress press, int row, int column) {
+    if (press.key == Key::Delete) {
+        DeleteChosen(row);
+    } else if (press.ctrl && press.key == Key::D) {
+        FillDown(row, column);
+    } else if (press.ctrl && press.key == Key::Enter) {
+        PutInChosen(row, column);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool RowCommands::OnTableKey(KeyPress press, int row, int column) {
+    if (OnChosenKey(press, row, column)) {
+        return true;
+    }
+    if (press.key != Key::Up && press.key != Key::Down) {
+        return OnCellKey(editing_, press, row, column);
+    }
+    if (press.alt) {
+        OnItemImage(row, press.key == Key::Up ? PortCallImage::kMoveUp : PortCallImage::kMoveDown);
+    }
+    return press.alt;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/panels/editors/Keys.h"
@@ -15,7 +16,7 @@ class PortCallDesk;
 /// end, and the keys of the table.
 class RowCommands {
   public:
-    RowCommands(PortCallDesk& desk, CellEditing& editing) : desk_(desk), editing_(editing) {}
+    RowCommands(PortCallDesk& desk, CellEditing& editing) : desk_(desk), editing_(editing), edits_(desk) {}
 
     /// A press on "itemMoveUp", "itemMovedown", "itemdel" or "itemRemark" of a row. 0; -1 no port there; -2
     /// no such voyage or its position; -3 no such image; -4 a blank row stands above it, where only remarks
@@ -23,8 +24,18 @@ class RowCommands {
     int OnItemImage(int row, const std::string& name);
     /// A key in the table, on the cell in front; false when it means nothing there.
     bool OnTableKey(KeyPress press, int row, int column);
+    /// Deletes the chosen rows that have a port, as one edit. Rows below a blank one stay, which the status
+    /// line says.
+    void DeleteChosen(int row);
+    /// Fills the column in front down: from the first chosen row into the others, or from the row above into
+    /// a single one.
+    void FillDown(int row, int column);
+    /// Puts the cell in front into the same column of all chosen rows.
+    void PutInChosen(int row, int column);
 
   private:
+    bool OnChosenKey(KeyPress press, int row, int column);
+    void Fill(int from, const std::vector<int>& rows, int column, TextId edit);
     int CommitBefore(int row);
     int Move(int row, const std::string& name);
     int OpenRemarks(int row);
@@ -32,6 +43,7 @@ class RowCommands {
 
     PortCallDesk& desk_;
     CellEditing& editing_;
+    CellEdits edits_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -30,6 +30,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     int statesShown = 0;
     int busy = 0;
     int selectedRow = -1;
+    std::vector<int> chosen;  ///< by the person
     int rowInView = -1;
     std::optional<CellEditor> openEditor;  ///< opened last and not hidden since
     int editorRow = -1;
@@ -65,6 +66,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     }
     void SetBusy(bool on) override { busy += on ? 1 : -1; }
     void SelectRow(int row) override { selectedRow = row; }
+    std::vector<int> ChosenRows() const override { return chosen; }
     void BringRowIntoView(int row) override { rowInView = row; }
     CellsView& Cells() override { return *this; }
     void OpenEditor(const OpenedEditor& opened) override {

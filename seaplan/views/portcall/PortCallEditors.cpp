@@ -99,7 +99,7 @@ void PortCallEditors::OpenEditor(const OpenedEditor& opened) {
     QLineEdit& field = *Field(opened.editor);
     const QModelIndex cell = table_.model()->index(opened.row, opened.column);
     table_.scrollTo(cell.siblingAtColumn(ColPort));
-    table_.setCurrentIndex(cell);
+    table_.PutCellInFront(cell);
     field.setGeometry(table_.EditorRect(opened.row, opened.column));
     Put(field, opened.text, static_cast<int>(opened.limit));
     field.show();

@@ -31,6 +31,7 @@ PortCallWindow::PortCallWindow(QWidget* mainView)
                  {TextIds::IDS_PORTCALL_HELP, TextIds::IDS_PORTCALL_CLOSE}) {
     AddHelpAndClose();
     table_ = new PanelTable(this, "portCallTable", kLeastLines);
+    table_->ChooseSeveral();
     SkinPanel("TRV_portCallDlg", 0, "Caption_static");
     Skin::SkinWindow(*table_, Skin::ControlClass::ListView, "VoyageDemoList");
     summary_ = new PortCallSummary(this);

@@ -26,6 +26,7 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
     void ShowEdits(const UndoTexts& edits) override { buttons_->ShowEdits(edits); }
     void SetBusy(bool busy) override;
     void SelectRow(int row) override;
+    std::vector<int> ChosenRows() const override { return table_->ChosenRows(); }
     void BringRowIntoView(int row) override;
     CellsView& Cells() override { return *editors_; }
     void ApplySkin() override;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <vector>
 
 #include "seaplan/views/table/TableModel.h"
@@ -18,7 +19,7 @@ QString Line(const QStringList& cells) {
 
 }  // namespace
 
-QString RowsAsText(const TableModel& table) {
+QString RowsAsText(const TableModel& table, const std::vector<int>& chosen) {
     std::vector<int> columns;
     for (int column = 0; column < table.columnCount(); ++column) {
         if (table.Columns()[static_cast<std::size_t>(column)].cells) {
@@ -28,7 +29,8 @@ QString RowsAsText(const TableModel& table) {
     QString lines;
     QStringList cells;
     for (int row = 0; row < table.rowCount(); ++row) {
-        if (!table.IsCopied(row)) {
+        const bool left = chosen.size() > 1 && std::find(chosen.begin(), chosen.end(), row) == chosen.end();
+        if (left || !table.IsCopied(row)) {
             continue;
         }
         cells.clear();

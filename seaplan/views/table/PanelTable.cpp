@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QToolTip>
+#include <algorithm>
 
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/table/TableModel.h"
@@ -76,6 +77,73 @@ void PanelTable::PutFront(int row, int column) {
     setting_ = false;
 }
 
+std::vector<int> PanelTable::ChosenRows() const {
+    std::vector<int> rows;
+    for (const QModelIndex& index : selectionModel()->selectedRows()) {
+        rows.push_back(index.row());
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void PanelTable::PutCellInFront(const QModelIndex& cell) {
+    if (selectionModel()->isRowSelected(cell.row())) {
+        selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+    } else {
+        setCurrentIndex(cell);
+    }
+}
+
+void PanelTable::ChooseUpTo(const QModelIndex& index) {
+    const int from = anchor_;
+    const QItemSelection rows(model_.index(from, 0), model_.index(index.row(), 0));
+    selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    anchor_ = from;
+    scrollTo(index);
+}
+
+/// A click with Shift or Ctrl chooses and edits nothing.
+bool PanelTable::ChooseByMouse(const QModelIndex& index, Qt::KeyboardModifiers held) {
+    const bool shift = held.testFlag(Qt::ShiftModifier) && anchor_ >= 0 && anchor_ < model_.rowCount();
+    if (!CanChooseSeveral() || (!shift && !held.testFlag(Qt::ControlModifier))) {
+        return false;
+    }
+    TellLeft();
+    if (shift) {
+        ChooseUpTo(index);
+    } else {
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
+    }
+    return true;
+}
+
+/// Shift with an arrow up or down takes one row more, or one less.
+bool PanelTable::ChooseByKey(const QKeyEvent& event) {
+    const bool arrow = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+    const bool shift = (event.modifiers() & ~Qt::KeypadModifier) == Qt::ShiftModifier;
+    if (!CanChooseSeveral() || !arrow || !shift || anchor_ < 0 || anchor_ >= model_.rowCount()) {
+        return false;
+    }
+    const int row = currentIndex().row() + (event.key() == Qt::Key_Up ? -1 : 1);
+    if (const QModelIndex next = model_.index(row, currentIndex().column()); next.isValid()) {
+        ChooseUpTo(next);
+    }
+    return true;
+}
+
+/// Going to another column of the row in front leaves the rows that are chosen.
+QItemSelectionModel::SelectionFlags PanelTable::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent* event) const {
+    const bool plainKey = event != nullptr && event->type() == QEvent::KeyPress &&
+                          static_cast<const QKeyEvent*>(event)->modifiers() == Qt::NoModifier;
+    if (CanChooseSeveral() && plainKey && index.isValid() && index.row() == currentIndex().row() &&
+        index.column() != currentIndex().column()) {
+        return QItemSelectionModel::Select | QItemSelectionModel::Rows;
+    }
+    return QTableView::selectionCommand(index, event);
+}
+
 bool PanelTable::IsCell(const QModelIndex& index) const {
     return model_.Columns()[static_cast<std::size_t>(index.column())].cells;
 }
@@ -101,6 +169,9 @@ void PanelTable::mousePressEvent(QMouseEvent* event) {
     if (!index.isValid()) {
         return TellLeft();
     }
+    if (ChooseByMouse(index, event->modifiers())) {
+        return;
+    }
     setting_ = true;
     setCurrentIndex(index);
     setting_ = false;
@@ -118,7 +189,7 @@ void PanelTable::mousePressEvent(QMouseEvent* event) {
 
 void PanelTable::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
-        const QString rows = RowsAsText(model_);
+        const QString rows = RowsAsText(model_, ChosenRows());
         if (!rows.isEmpty()) {
             QApplication::clipboard()->setText(rows);
         }
@@ -128,11 +199,14 @@ void PanelTable::keyPressEvent(QKeyEvent* event) {
     if (index.isValid() && reports_.key && reports_.key(PressOf(*event), index.row(), index.column())) {
         return;
     }
-    QTableView::keyPressEvent(event);
+    if (!ChooseByKey(*event)) {
+        QTableView::keyPressEvent(event);
+    }
 }
 
 void PanelTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
+    anchor_ = current.row();
     if (!setting_ && current.isValid() && current.row() != previous.row() && reports_.rowSelected) {
         reports_.rowSelected(current.row());
     }

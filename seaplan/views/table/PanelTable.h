@@ -39,6 +39,12 @@ class PanelTable final : public QTableView {
     /// Puts a row in front, none for -1, without a report; the column in front stays, or else becomes
     /// `column`.
     void PutFront(int row, int column);
+    /// From now on several rows can be chosen at once, with Shift, Ctrl and Ctrl+A.
+    void ChooseSeveral() { setSelectionMode(QAbstractItemView::ExtendedSelection); }
+    /// The rows that are chosen, in order.
+    std::vector<int> ChosenRows() const;
+    /// Puts a cell in front; where its row is among those chosen they stay so.
+    void PutCellInFront(const QModelIndex& cell);
     /// Rectangle of a cell in the viewport; a cell below the bottom edge moves up by one row.
     QRect EditorRect(int row, int column) const;
 
@@ -47,8 +53,14 @@ class PanelTable final : public QTableView {
     void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     bool viewportEvent(QEvent* event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
 
   private:
+    bool CanChooseSeveral() const { return selectionMode() == QAbstractItemView::ExtendedSelection; }
+    bool ChooseByMouse(const QModelIndex& index, Qt::KeyboardModifiers held);
+    bool ChooseByKey(const QKeyEvent& event);
+    void ChooseUpTo(const QModelIndex& index);
     void TellLeft();
     /// Name of the row's image under a point of a cell, empty for none.
     std::string ImageAt(const QModelIndex& index, const QPoint& point) const;
@@ -57,6 +69,7 @@ class PanelTable final : public QTableView {
 
     TableModel model_;
     Reports reports_;
+    int anchor_ = -1;       ///< row from which Shift chooses on
     bool setting_ = false;  ///< the program puts a row in front, which is reported to nobody
 };
 

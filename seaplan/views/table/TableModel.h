@@ -6,6 +6,7 @@
 #include <QStyledItemDelegate>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "seaplan/views/table/TableLines.h"
 
@@ -37,8 +38,9 @@ class TableModel final : public QAbstractTableModel {
 };
 
 /// The lines of a table that are copied as a spreadsheet takes them: a line of heads, each with the unit on
-/// show, and a line for each, with a tab between two cells. Empty without such a line.
-QString RowsAsText(const TableModel& table);
+/// show, and a line for each, with a tab between two cells. Where several rows are chosen they alone are
+/// copied. Empty without such a line.
+QString RowsAsText(const TableModel& table, const std::vector<int>& chosen);
 
 /// Draws the cells of a TableModel: ground, images, text and the frame of the cell in front.
 class TableDelegate final : public QStyledItemDelegate {
