@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/texts/TextId.h"
+
 namespace Tarvik::Seaplan {
 
 class PortCallDesk;

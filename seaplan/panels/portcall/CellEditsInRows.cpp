@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// One value in several rows.
 #include "seaplan/panels/portcall/CellEdits.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/window/StatusWords.h"

@@ -6,6 +6,7 @@
 
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/panels/editors/Keys.h"
+#include "seaplan/panels/portcall/CellEdits.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// Several rows chosen at once: deleting them, filling down, and one value in all of them.
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 
 namespace Tarvik::Seaplan {
