@@ -7,6 +7,8 @@
 #include <iterator>
 #include <stdexcept>
 
+#include <tarvik/util/Geodesy.h>
+
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Data {
@@ -34,7 +36,7 @@ std::string ReadFile(const std::string& path) {
 
 GeoPoint ToPoint(const std::string& x, const std::string& y) {
     const GeoPoint p = Server::RoundPoint({ToNumber(x), ToNumber(y)});
-    if (std::abs(p.x) > 360.0 || std::abs(p.y) > 90.0) {
+    if (std::abs(p.x) > 360.0 || std::abs(p.y) > Util::kMostLatitude) {
         throw std::runtime_error(x + " " + y + " is no position");
     }
     return p;

@@ -6,6 +6,8 @@
 
 #include <fmt/format.h>
 
+#include <tarvik/util/Geodesy.h>
+
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {
@@ -46,7 +48,7 @@ std::optional<GeoPoint> ParsePosition(std::string_view text) {
     }
     const auto lon = Number(text.substr(0, comma));
     const auto lat = Number(text.substr(comma + 1));
-    if (!lon || !lat || std::fabs(*lat) > 90.0 || std::fabs(*lon) > 720.0) {
+    if (!lon || !lat || std::fabs(*lat) > Util::kMostLatitude || std::fabs(*lon) > 720.0) {
         return std::nullopt;
     }
     return GeoPoint{*lon, *lat};

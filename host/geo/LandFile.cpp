@@ -6,6 +6,8 @@
 #include <fstream>
 #include <iterator>
 
+#include <tarvik/util/Geodesy.h>
+
 #include "host/geo/ByteReader.h"
 #include "host/geo/ByteWriter.h"
 
@@ -40,7 +42,7 @@ bool Get(ByteReader& r, std::vector<LandFile::Cell>& cells) {
         for (auto& [x, y] : cell.points) {
             x = r.F32();
             y = r.F32();
-            if (!(std::abs(x) <= 180.0F && std::abs(y) <= 90.0F)) {
+            if (!Util::IsOnEarth(static_cast<double>(x), static_cast<double>(y))) {
                 return false;
             }
         }

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include <tarvik/bus/ChartContract.h>
+#include <tarvik/util/Geodesy.h>
 
 #include "seaplan/data/Position.h"
 
@@ -48,10 +49,10 @@ void Widen(Limits& limits, const Position& p) {
 }
 
 void AddMargins(Limits& limits) {
-    limits.east = std::min(limits.east + 2.0, 180.0);
-    limits.west = std::max(limits.west - 2.0, -180.0);
-    limits.north = std::min(limits.north + 1.0, 90.0);
-    limits.south = std::max(limits.south - 1.0, -90.0);
+    limits.east = std::min(limits.east + 2.0, Util::kMostLongitude);
+    limits.west = std::max(limits.west - 2.0, -Util::kMostLongitude);
+    limits.north = std::min(limits.north + 1.0, Util::kMostLatitude);
+    limits.south = std::max(limits.south - 1.0, -Util::kMostLatitude);
 }
 
 bool IsAroundTheWorld(const Limits& limits) {

@@ -6,6 +6,7 @@
 
 #include <tarvik/interface/PlanTerms.h>
 #include <tarvik/interface/VesselNumbers.h>
+#include <tarvik/util/Geodesy.h>
 
 namespace Tarvik::Server {
 
@@ -18,7 +19,6 @@ constexpr double kMostSpeedKmh = 1e9;
 constexpr double kMostHours = 1000000;
 // A line that crosses the date line may go on beyond 180 degrees.
 constexpr double kLongitudeLimit = 360;
-constexpr double kLatitudeLimit = 90;
 constexpr std::int32_t kMostSpacing = 360;
 constexpr std::int32_t kMostKind = 9;
 constexpr double kMostLengthMetres = 1000;
@@ -80,10 +80,11 @@ std::optional<ErrorCode> FaultOf(const BookRowRecord& row) {
     if (const auto fault = FaultOfFields({row.name, row.sailing})) {
         return fault;
     }
-    const bool good =
-        IsWithin(row.order, 0, kMostOrder) && IsWithin(row.longitude, -kLongitudeLimit, kLongitudeLimit) &&
-        IsWithin(row.latitude, -kLatitudeLimit, kLatitudeLimit) && IsWithin(row.spacing, 0, kMostSpacing) &&
-        IsWithin(row.speedKmh, 0.0, kMostSpeedKmh) && IsWithin(row.kind, 0, kMostKind);
+    const bool good = IsWithin(row.order, 0, kMostOrder) &&
+                      IsWithin(row.longitude, -kLongitudeLimit, kLongitudeLimit) &&
+                      IsWithin(row.latitude, -Util::kMostLatitude, Util::kMostLatitude) &&
+                      IsWithin(row.spacing, 0, kMostSpacing) && IsWithin(row.speedKmh, 0.0, kMostSpeedKmh) &&
+                      IsWithin(row.kind, 0, kMostKind);
     return good ? std::nullopt : std::optional(ErrorCode::BadNumber);
 }
 
@@ -111,7 +112,6 @@ std::optional<ErrorCode> FaultOf(const FleetRecord& vessel) {
 }
 
 std::optional<ErrorCode> FaultOf(const PlaceRecord& place) {
-    constexpr double kFarthestEast = 180;
     if (place.name.empty()) {
         return ErrorCode::EmptyName;
     }
@@ -122,8 +122,7 @@ std::optional<ErrorCode> FaultOf(const PlaceRecord& place) {
     if (place.name.find('|') != std::string::npos) {
         return ErrorCode::BadName;
     }
-    const bool good = IsWithin(place.longitude, -kFarthestEast, kFarthestEast) &&
-                      IsWithin(place.latitude, -kLatitudeLimit, kLatitudeLimit);
+    const bool good = Util::IsOnEarth(place.longitude, place.latitude);
     return good ? std::nullopt : std::optional(ErrorCode::BadPosition);
 }
 

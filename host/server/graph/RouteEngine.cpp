@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include <tarvik/util/Geodesy.h>
+
 namespace Tarvik::Server {
 
 namespace {
@@ -145,8 +147,7 @@ NearestResult RouteEngine::Nearest(GeoPoint position, const std::string& destPor
     const auto invalid = [](int error, std::string message) {
         return NearestResult{error, std::move(message), {}, 0.0};
     };
-    if (!std::isfinite(position.x) || !std::isfinite(position.y) || std::abs(position.x) > 180.0 ||
-        std::abs(position.y) > 90.0) {
+    if (!Util::IsOnEarth(position.x, position.y)) {
         return invalid(kRouteBadPosition, "the position lies outside the earth");
     }
     const auto end = EndOf(destPort, own);

@@ -2,6 +2,8 @@
 // Whether the parts of a network that was read fit together, so that nothing behind it has to ask again.
 #include <cmath>
 
+#include <tarvik/util/Geodesy.h>
+
 #include "host/server/graph/SeaNetworkFile.h"
 
 namespace Tarvik::Server {
@@ -28,7 +30,7 @@ std::string CheckEdges(const NetworkData& d) {
 
 std::string CheckPoints(const NetworkData& d) {
     for (const GeoPoint p : d.nodes) {
-        if (std::abs(p.x) > 180.0 || std::abs(p.y) > 90.0) {
+        if (!Util::IsOnEarth(p.x, p.y)) {
             return "a node lies outside the earth";
         }
     }

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/Geodesy.h>
 #include <tarvik/util/StringUtl.h>
 #include <tarvik/util/Units.h>
 
@@ -16,8 +17,6 @@ namespace {
 
 constexpr double kMostSpeed = 92.6;  // km/h, 50 knots
 constexpr double kSpeedSlack = 1e-9;
-constexpr double kMostLatitude = 90.0;
-constexpr double kMostLongitude = 180.0;
 constexpr std::size_t kLongestNumber = 1023;
 
 /// A number, read as it says, or else a coordinate as people write it.
@@ -40,7 +39,7 @@ bool IsNumberText(const std::string& text) {
 
 BookRefusal CheckDegrees(double degrees, Axis axis) {
     const bool latitude = axis == Axis::Latitude;
-    const double limit = latitude ? kMostLatitude : kMostLongitude;
+    const double limit = latitude ? Util::kMostLatitude : Util::kMostLongitude;
     const bool isWithin = degrees > -limit && degrees < limit;
     return isWithin ? BookRefusal::None : latitude ? BookRefusal::Latitude : BookRefusal::Longitude;
 }

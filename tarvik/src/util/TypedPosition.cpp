@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tarvik/util/Geodesy.h>
 #include <tarvik/util/StringUtl.h>
 #include <tarvik/util/TypedPosition.h>
 
@@ -24,7 +25,7 @@ constexpr double kSecondsPerDegree = 3600;
 constexpr std::size_t kLongestText = 200;
 
 double MostOf(Axis axis) {
-    return axis == Axis::Latitude ? 90 : 180;
+    return axis == Axis::Latitude ? kMostLatitude : kMostLongitude;
 }
 
 char LetterOf(double degrees, Axis axis) {

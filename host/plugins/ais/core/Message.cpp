@@ -3,6 +3,8 @@
 // value for "not available" is left out, one outside its range too.
 #include "host/plugins/ais/core/Message.h"
 
+#include <tarvik/util/Geodesy.h>
+
 namespace Tarvik::Ais {
 
 namespace {
@@ -24,7 +26,7 @@ struct PlaceAt {
 void ReadPlace(const SixBits& bits, const PlaceAt& place, Movement& movement) {
     const double x = bits.Signed(place.at, place.longitudeBits) / place.perDegree;
     const double y = bits.Signed(place.at + place.longitudeBits, place.latitudeBits) / place.perDegree;
-    movement.hasPlace = x >= -180 && x <= 180 && y >= -90 && y <= 90;
+    movement.hasPlace = Util::IsOnEarth(x, y);
     movement.longitude = movement.hasPlace ? x : 0;
     movement.latitude = movement.hasPlace ? y : 0;
 }

@@ -33,7 +33,8 @@ bool ReadRoute(std::string_view text, std::vector<DemoShip::Point>& route) {
         std::string_view piece = TakePiece(text, '|');
         DemoShip::Point point;
         if (!Read(TakePiece(piece, ','), point.longitude) || !Read(piece, point.latitude) ||
-            !(std::fabs(point.longitude) <= 180 && std::fabs(point.latitude) < 90)) {
+            !Util::IsOnEarth(point.longitude, point.latitude) ||
+            std::fabs(point.latitude) >= Util::kMostLatitude) {
             return false;
         }
         route.push_back(point);

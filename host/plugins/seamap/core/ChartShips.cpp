@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include <tarvik/util/Geodesy.h>
+
 namespace Tarvik::Seamap {
 
 void ChartShips::Set(const Interface::TrvMapShips& ships) {
@@ -10,7 +12,7 @@ void ChartShips::Set(const Interface::TrvMapShips& ships) {
     mine.clear();
     mine.reserve(ships.ships.size());
     for (const Interface::TrvMapShip& ship : ships.ships) {
-        if (!(std::fabs(ship.x) <= 180 && std::fabs(ship.y) <= 90)) {
+        if (!Util::IsOnEarth(ship.x, ship.y)) {
             continue;
         }
         const GeoPoint position{ship.x, ship.y};

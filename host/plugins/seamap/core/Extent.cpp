@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include <tarvik/bus/ChartContract.h>
+#include <tarvik/util/Geodesy.h>
 
 #include "host/geo/Sphere.h"
 
@@ -26,8 +27,10 @@ std::optional<Extent> Extent::FromCorners(const Interface::TrvMapExtent& corners
         extent.west = std::min(corners.first, corners.third);
         extent.east = std::min(std::max(corners.first, corners.third), extent.west + 360.0);
     }
-    extent.south = std::clamp(std::min(corners.second, corners.fourth), -90.0, 90.0);
-    extent.north = std::clamp(std::max(corners.second, corners.fourth), -90.0, 90.0);
+    extent.south =
+        std::clamp(std::min(corners.second, corners.fourth), -Util::kMostLatitude, Util::kMostLatitude);
+    extent.north =
+        std::clamp(std::max(corners.second, corners.fourth), -Util::kMostLatitude, Util::kMostLatitude);
     return extent;
 }
 

@@ -8,10 +8,20 @@
 
 namespace Tarvik::Util {
 
+/// Degrees of the poles and of the date line, either way.
+inline constexpr double kMostLatitude = 90.0;
+inline constexpr double kMostLongitude = 180.0;
+
+/// Whether a position in degrees is one, both limits included; what is no number is none.
+constexpr bool IsOnEarth(double longitude, double latitude) {
+    return longitude >= -kMostLongitude && longitude <= kMostLongitude && latitude >= -kMostLatitude &&
+           latitude <= kMostLatitude;
+}
+
 /// A position in degrees, longitude first.
 struct _SPointF {
-    float x = 0;  ///< longitude, from -180 to 180
-    float y = 0;  ///< latitude, from -90 to 90
+    float x = 0;  ///< longitude, up to kMostLongitude
+    float y = 0;  ///< latitude, up to kMostLatitude
 };
 
 /// Lines on the WGS-84 ellipsoid (Karney, "Algorithms for geodesics", J. Geodesy 87, 2013). Degrees in, km
