@@ -46,11 +46,11 @@ std::string UtcTextToLocal(std::int64_t gmtTimer, const std::string& format) {
     }
     const Util::_datetime_t utc = Util::_datetime_t::from_gmt_timer(gmtTimer);
     return Util::DateTimeUtl::Format(Util::DateTimeUtl::ConvertFromUTC(utc, *zone),
-                                     format.empty() ? "%Y-%m-%d %H:%M" : format);
+                                     format.empty() ? Util::kMinuteFormat : format);
 }
 
 std::string NowText(const std::string& format) {
-    return Util::DateTimeUtl::Format(Util::_datetime_t::now(), format.empty() ? "%Y-%m-%d" : format);
+    return Util::DateTimeUtl::Format(Util::_datetime_t::now(), format.empty() ? Util::kDayFormat : format);
 }
 
 std::string RemarkTimeText(const std::string& seconds) {

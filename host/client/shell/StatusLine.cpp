@@ -83,7 +83,7 @@ QString StatusLine::TimeText(const Util::_datetime_t& utc) const {
     const std::string& zone = session_.Services().TimeZone();
     const auto local = Util::DateTimeUtl::ConvertFromUTC(utc, zone);
     const auto today = Util::DateTimeUtl::ConvertFromUTC(Util::_datetime_t::gmt_now(), zone).date();
-    return QString::fromStdString(local.fmt(local.date() == today ? "%H:%M" : "%Y-%m-%d %H:%M"));
+    return QString::fromStdString(local.fmt(local.date() == today ? "%H:%M" : Util::kMinuteFormat));
 }
 
 void StatusLine::ShowCursor(const Interface::ChartPlace& place) {

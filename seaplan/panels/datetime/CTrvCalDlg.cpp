@@ -14,7 +14,7 @@ CalendarState StateOf(const CalendarModel& model, const std::optional<TimePart>&
     for (int i = 0; i < CalendarModel::kCells; ++i) {
         const auto day = Util::_datetime_t::from_csecs_days(0, model.GridStart() + i);
         state.cells[static_cast<std::size_t>(i)] = {model.DayOfCell(i), model.LookOfCell(i),
-                                                    day.fmt("%Y-%m-%d")};
+                                                    day.fmt(Util::kDayFormat)};
     }
     state.selectedCell = model.SelectedCell();
     state.hour = model.HourText();

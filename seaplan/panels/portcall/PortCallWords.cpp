@@ -76,7 +76,7 @@ PortCallNote NoteOfKnownLegs(const std::optional<Util::_datetime_t>& since, cons
         return {};
     }
     const auto there = Util::DateTimeUtl::ConvertFromUTC(*since, zone);
-    return {PortCallNote::Kind::KnownLegs, there.fmt("%Y-%m-%d")};
+    return {PortCallNote::Kind::KnownLegs, there.fmt(Util::kDayFormat)};
 }
 
 std::string NoteText(const PortCallNote& note) {

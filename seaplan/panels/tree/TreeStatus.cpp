@@ -3,6 +3,8 @@
 
 #include <map>
 
+#include <tarvik/util/DateTimeUtl.h>
+
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
@@ -10,12 +12,6 @@
 #include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
-
-namespace {
-
-constexpr const char* kDateFormat = "%Y-%m-%d";
-
-}  // namespace
 
 TreeStatus::TreeStatus(TreeContext& context)
     : c_(context), queue_(context.tree, [this](const std::string& vi, TreeRow row) { Find(vi, row); }) {}
@@ -112,8 +108,8 @@ Outcome<DatesStep> TreeStatus::ShowDates(TreeRow row, const VoyInfo& voyage) {
     if (voyage.portCalls.size() < 2) {
         return DatesStep::PortCalls;
     }
-    const std::string sails = voyage.portCalls.front().etd.fmt(kDateFormat);
-    const std::string ends = voyage.portCalls.back().eta.fmt(kDateFormat);
+    const std::string sails = voyage.portCalls.front().etd.fmt(Util::kDayFormat);
+    const std::string ends = voyage.portCalls.back().eta.fmt(Util::kDayFormat);
     c_.tree.SetDrawItemValueOfEventItem(row, Item::kDates, ItemValue::kSailDate, sails);
     c_.tree.SetDrawItemValueOfEventItem(row, Item::kDates, ItemValue::kEndDate, ends);
     c_.tree.SetDrawItemVisibleEx(row, Item::kSetPortCall, false);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
@@ -10,8 +11,6 @@ namespace Tarvik::Seaplan {
 namespace {
 
 using Util::StringUtl;
-
-constexpr const char* kDay = "%Y-%m-%d";
 
 char16_t Small(char16_t unit) {
     constexpr char16_t kToSmall = u'a' - u'A';
@@ -66,8 +65,8 @@ std::string SearchTextOf(const VoyInfo& voyage) {
         text.append("\n").append(call.ppn);
     }
     if (!voyage.portCalls.empty()) {
-        text.append("\n").append(voyage.portCalls.front().etd.fmt(kDay));
-        text.append("\n").append(voyage.portCalls.back().eta.fmt(kDay));
+        text.append("\n").append(voyage.portCalls.front().etd.fmt(Util::kDayFormat));
+        text.append("\n").append(voyage.portCalls.back().eta.fmt(Util::kDayFormat));
     }
     return FoldSearch(text);
 }

@@ -12,7 +12,10 @@ namespace Tarvik::Util {
 
 /// Form of a time as text.
 inline constexpr const char* kTimeFormat = "%Y-%m-%d %H:%M:%S";
-/// Characters of a text of that form.
+/// The same without seconds, and the day alone.
+inline constexpr const char* kMinuteFormat = "%Y-%m-%d %H:%M";
+inline constexpr const char* kDayFormat = "%Y-%m-%d";
+/// Characters of a text of the form kTimeFormat.
 inline constexpr std::size_t kTimeTextLength = 19;
 /// Zone of plan times wherever they meet UTC, whatever zone the person has chosen; the choice starts with it.
 inline constexpr const char* kPlanZone = "China Standard Time";
