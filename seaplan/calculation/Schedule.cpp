@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include <tarvik/interface/PlanTerms.h>
+
 #include "seaplan/data/Outcome.h"
 #include "seaplan/data/TimeText.h"
 
@@ -56,7 +58,7 @@ EditOutcome RecomputeRow(const VoyPortCall* previous, VoyPortCall& row) {
     if (previous == nullptr) {
         return StartAt(row.eta, row) ? EditOutcome() : EditStep::Time;
     }
-    if (static_cast<double>(row.psp) < kLeastScheduleKnots) {
+    if (static_cast<double>(row.psp) < Interface::kLeastKnots) {
         return EditStep::Speed;
     }
     return SailFrom(previous->etd, row) ? EditOutcome() : EditStep::Time;

@@ -19,8 +19,7 @@ void FillMissingPurposes(PortCallRows& rows);
 /// left.
 int DropSamePortRows(const PortCallRows& rows, const SamePortLinks& links, PortCallRows& out);
 
-/// Slowest speed in knots, and largest weather factor, that a schedule is worked out with after an edit.
-inline constexpr double kLeastScheduleKnots = 0.01;
+/// Largest weather factor that a schedule is worked out with after an edit.
 inline constexpr double kMostWeather = 0.9999999;
 
 /// Hours for `distance` NM at `speed` knots and weather factor `weather`: d / ((1 - w) * s). Not finite for a
@@ -32,8 +31,8 @@ double SpeedForSteamTime(double distance, double hours, double weather);
 /// Schedule of rows that have distances, starting at `start`. A missing speed becomes 10 knots. 0; -1 when a
 /// steam time is not finite, with `out` empty.
 int BuildSchedule(const Util::_datetime_t& start, const PortCallRows& rows, PortCallRows& out);
-/// Schedule after an edit, from `eta` of row 0. 0; -1 weather outside 0 to 0.9999999; -2 speed below 0.01; -3
-/// a steam time that is not finite. On failure `out` is empty.
+/// Schedule after an edit, from `eta` of row 0. 0; -1 weather outside 0 to 0.9999999; -2 speed below
+/// Interface::kLeastKnots; -3 a steam time that is not finite. On failure `out` is empty.
 int RecomputeSchedule(const PortCallRows& rows, PortCallRows& out);
 /// Adds hours, whole centiseconds truncated toward zero. 0; -1, with the time as it was, for a value that is
 /// not finite or leads out of the years 1 to 9999; the passes above then fail as for a steam time that is not

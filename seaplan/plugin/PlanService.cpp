@@ -12,6 +12,7 @@
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
@@ -41,8 +42,8 @@ PortCallRows RowsOf(const PlanRequest& request) {
 /// What is wrong with a port's figures, empty when nothing is. The schedule would repair a missing speed,
 /// which a person who typed it does not expect.
 std::string ComplaintOf(const PlanPort& port) {
-    if (!(static_cast<double>(port.speed) >= kLeastScheduleKnots) || !std::isfinite(port.speed)) {
-        return "the speed must be above 0.01 knots";
+    if (!(static_cast<double>(port.speed) >= Interface::kLeastKnots) || !std::isfinite(port.speed)) {
+        return Util::StringUtl::Format("the speed must be above %g knots", Interface::kLeastKnots);
     }
     if (!(port.weather >= 0) || static_cast<double>(port.weather) >= Interface::kLeastFullWeather) {
         return "the weather factor must be from 0 to below 100 %";
@@ -62,14 +63,15 @@ std::string WordsOfWidths() {
 
 /// Words for a code of CalculatePortCalls.
 std::string WordsOfCalculation(int code) {
+    using Step = CalculationStep;
     switch (code) {
-        case -1:
+        case kCalculatePortCallsCodes.Of(Step::Route):
             return "the server has no route for these ports";
-        case -2:
+        case kCalculatePortCallsCodes.Of(Step::Times):
             return "speed, weather and stays lead to times that do not exist";
-        case -3:
+        case kCalculatePortCallsCodes.Of(Step::Book):
             return "the table of ports and route points is missing or does not know the route's points";
-        case -4:
+        case kCalculatePortCallsCodes.Of(Step::Distances):
             return "the route has a leg without length";
         default:
             return "the route could not be put on the chart";

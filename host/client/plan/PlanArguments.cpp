@@ -17,7 +17,6 @@ namespace Tarvik::Client {
 
 namespace {
 
-constexpr double kMinSpeedKnots = 0.01;
 constexpr double kMaxSpeedKnots = 1000.0;
 constexpr double kMaxStayHours = 10000.0;
 
@@ -94,8 +93,10 @@ class Reader {
 
     void Speed(const std::string& value) {
         const auto number = ReadNumber(value);
-        if (!number || *number < kMinSpeedKnots || *number > kMaxSpeedKnots) {
-            return Bad("--speed", value, "knots above 0, from 0.01 to 1000");
+        if (!number || *number < Interface::kLeastKnots || *number > kMaxSpeedKnots) {
+            return Bad("--speed", value,
+                       Util::StringUtl::Format("knots above 0, from %g to %g", Interface::kLeastKnots,
+                                               kMaxSpeedKnots));
         }
         parsed_.arguments.speed = *number;
     }

@@ -46,6 +46,9 @@ inline std::string PurposeCodes(std::string_view between) {
     return codes;
 }
 
+/// The slowest speed, in knots, that a plan takes and that a schedule is worked out with after an edit.
+inline constexpr double kLeastKnots = 0.01;
+
 /// A weather factor from this one on is sent, and read again, as 1, at which no ship moves: neither client
 /// nor server takes it. A row's factor is a float, and the one next to the boundary itself counts as above,
 /// whichever way it rounds.
