@@ -6,10 +6,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-bool IsSamePlace(const VoyPortCall& before, const VoyPortCall& row, const SamePortLinks& links) {
-    return row.ppn == before.ppn || links.count(before.ppi + "-" + row.ppi) > 0;
-}
-
 enum class MoveStep { Insert, Remove };
 /// Numbers of MoveRowUp and MoveRowDown.
 constexpr CodeTable kMoveRowCodes{Code{MoveStep::Insert, -1}, Code{MoveStep::Remove, -2}};
@@ -36,6 +32,10 @@ Outcome<MoveStep> MoveRow(const PortCallRows& rows, int from, int by, int gone, 
 }
 
 }  // namespace
+
+bool IsSamePlace(const VoyPortCall& before, const VoyPortCall& row, const SamePortLinks& links) {
+    return row.ppn == before.ppn || AreLinked(links, before.ppi, row.ppi);
+}
 
 void PrepareFirstPurpose(PortCallRows& rows) {
     if (!rows.empty() && IsPurposeMissing(rows.front().pp)) {

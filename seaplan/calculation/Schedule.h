@@ -14,6 +14,8 @@ void PrepareFirstPurpose(PortCallRows& rows);
 /// Gives every port without a purpose its own: "L" in row 0, "D" behind it. Positions of the ship are no
 /// ports; the caller has none of them among the rows.
 void FillMissingPurposes(PortCallRows& rows);
+/// Whether a row stands for the same place as the one before it, by name or by link.
+bool IsSamePlace(const VoyPortCall& before, const VoyPortCall& row, const SamePortLinks& links);
 /// Leaves out every row that stands for the same place as the row before it in the list as read, by name or
 /// by link; rows that stay without a purpose take "D". 0, or -1 with `out` empty when fewer than two rows are
 /// left.

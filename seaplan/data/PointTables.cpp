@@ -38,11 +38,19 @@ bool ForEachRow(const std::string& database, const char* sql,
     }
 }
 
+std::string LinkKey(const std::string& from, const std::string& to) {
+    return from + "-" + to;
+}
+
 std::string PositionText(const Util::CppSQLite3Query& row, int column) {
     return ColumnText(row, column) + "," + ColumnText(row, column + 1);
 }
 
 }  // namespace
+
+bool AreLinked(const SamePortLinks& links, const std::string& idA, const std::string& idB) {
+    return links.contains(LinkKey(idA, idB));
+}
 
 std::string PointDatabasePath() {
     return Util::FileUtl::BusinessData(Util::kPointTableFile);
@@ -88,8 +96,8 @@ int LoadSamePortLinks(const std::string& database, SamePortLinks& links) {
     const bool read = ForEachRow(database, sql, [&](const auto& row) {
         const std::string id = ColumnText(row, 0);
         const std::string original = ColumnText(row, 1);
-        loaded[id + "-" + original] = "";
-        loaded[original + "-" + id] = "";
+        loaded[LinkKey(id, original)] = "";
+        loaded[LinkKey(original, id)] = "";
     });
     if (!read) {
         return -1;

@@ -20,6 +20,8 @@ struct RoutePointRow {
 using PointMap = std::map<std::string, RoutePointRow>;
 /// Keys "id-id" of ports that are one place, both ways round.
 using SamePortLinks = std::map<std::string, std::string>;
+/// Whether two ports are one place.
+bool AreLinked(const SamePortLinks& links, const std::string& idA, const std::string& idB);
 
 /// Path of the database below the host's data folder.
 std::string PointDatabasePath();

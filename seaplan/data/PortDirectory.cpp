@@ -75,7 +75,7 @@ const SamePortLinks& PortDirectory::SamePorts() {
 }
 
 bool PortDirectory::IsSamePlace(const std::string& idA, const std::string& idB) {
-    return SamePorts().contains(idA + "-" + idB);
+    return AreLinked(SamePorts(), idA, idB);
 }
 
 void PortDirectory::ReadNames() {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyageRecords.h"
 #include "seaplan/data/PortDirectory.h"
 
@@ -151,7 +152,7 @@ int PortCallSheet::PlaceCount(PortDirectory& ports) const {
     int count = 1;
     const VoyPortCall* last = &rows.front();
     for (const VoyPortCall& row : rows) {
-        if (row.ppn == last->ppn || ports.IsSamePlace(last->ppi, row.ppi)) {
+        if (IsSamePlace(*last, row, ports.SamePorts())) {
             continue;
         }
         ++count;
