@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/ChartContract.h>
+
 #include "seaplan/controllers/tests/ScheduleFaultsFixture.h"
 #include "seaplan/panels/tests/DeskPorts.h"
 #include "seaplan/panels/tests/DeskRoutes.h"
@@ -148,6 +151,31 @@ TEST_F(ScheduleLossTest, KnownLegsStandInForAServerThatIsNotThere) {
     desk.routes->Close(false);
     Calculated(vi, {"GDANSK", "ROSTOCK"});
     EXPECT_FALSE(desk.voyages.Module().Pending().KnownSince().has_value());
+}
+
+TEST_F(ScheduleLossTest, TheDayOfKnownLegsIsThatOfTheOldestWhereverItStands) {
+    Calculated(Voyage({}), {"GDANSK", "ROSTOCK"});
+    desk.clock.AdvanceSeconds(40 * 24 * 3600);
+    Calculated(Voyage({}), {"ROTTERDAM", "GDANSK"});
+    Calculated(Voyage({}), {"ROSTOCK", "ROTTERDAM"});
+    desk.Lose(Ask::kRoute);
+    for (const Names& ports :
+         {Names{"ROTTERDAM", "GDANSK", "ROSTOCK"}, Names{"GDANSK", "ROSTOCK", "ROTTERDAM"}}) {
+        Calculated(Voyage({}), ports);
+        ASSERT_TRUE(desk.voyages.Module().Pending().KnownSince().has_value());
+        EXPECT_EQ(desk.voyages.Module().Pending().KnownSince()->fmt("%Y-%m-%d"), "2024-03-01");
+    }
+}
+
+TEST_F(ScheduleLossTest, APassageThatWasChosenIsNoKnownLeg) {
+    const Names ports{"ROTTERDAM", "HAMBURG"};
+    const float usual = Calculated(Voyage({}), ports).at(1).distance;
+    const std::string points[] = {"118", "105"};
+    Interface::Raise(Interface::Bus::ClickVoyageType, &points[0]);
+    Interface::Raise(Interface::Bus::ClickRoutePointType, &points[1]);
+    ASSERT_NE(desk.voyages.Module().Pending().Stops().at(1).distance, usual);
+    desk.Lose(Ask::kRoute);
+    EXPECT_EQ(Calculated(Voyage({}), ports).at(1).distance, usual);
 }
 
 }  // namespace
