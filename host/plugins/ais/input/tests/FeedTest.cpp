@@ -11,6 +11,7 @@
 
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/read_until.hpp>
 #include <boost/asio/write.hpp>
 #include <gtest/gtest.h>
 
@@ -44,8 +45,8 @@ class FeedTest : public testing::Test {
         }
         EXPECT_TRUE(holds());
     }
-    void Connect() {
-        InputAddress address{InputKind::Tcp, "127.0.0.1", acceptor.local_endpoint().port()};
+    void Connect(InputKind kind = InputKind::Tcp) {
+        InputAddress address{kind, "127.0.0.1", acceptor.local_endpoint().port()};
         feed.SetInputs({{address, "tcp://here"}});
     }
     static std::string Report(std::uint32_t mmsi, int step = 0) {
@@ -74,6 +75,35 @@ TEST_F(FeedTest, MessagesReachTheTraffic) {
     EXPECT_EQ(traffic.Find(123456789)->last.time, kNow);
     Until([this] { return feed.Status().perMinute == 1; });
     EXPECT_EQ(feed.Status().open, 1);
+    EXPECT_EQ(feed.Status().error, "");
+}
+
+/// What a gpsd says around the sentences, and may say beside them, is passed over.
+TEST_F(FeedTest, GpsdGivesItsReceiversSentencesBetweenItsOwnLines) {
+    Connect(InputKind::Gpsd);
+    tcp::socket peer = acceptor.accept();
+    asio::write(peer,
+                asio::buffer(std::string(
+                    R"({"class":"VERSION","release":"3.22","rev":"3.22","proto_major":3,"proto_minor":14})"
+                    "\r\n")));
+    std::string asked;
+    asio::read_until(peer, asio::dynamic_buffer(asked), '\n');
+    EXPECT_NE(asked.find("?WATCH={\"enable\":true"), std::string::npos) << asked;
+    asio::write(
+        peer,
+        asio::buffer(
+            R"({"class":"DEVICES","devices":[{"class":"DEVICE","path":"/dev/ttyUSB0","driver":"AIVDM"}]})"
+            "\r\n"
+            R"({"class":"WATCH","enable":true,"json":false,"nmea":false,"raw":1,"scaled":false})"
+            "\r\n" +
+            Report(123456789) +
+            R"({"class":"AIS","device":"/dev/ttyUSB0","type":1,"mmsi":987654321,"lon":3000000})"
+            "\r\n" +
+            Report(123456790)));
+    Until([this] { return traffic.Find(123456790).has_value(); });
+    EXPECT_TRUE(traffic.Find(123456789).has_value());
+    EXPECT_FALSE(traffic.Find(987654321).has_value()) << "sentences alone are read";
+    Until([this] { return feed.Status().perMinute == 2; });
     EXPECT_EQ(feed.Status().error, "");
 }
 
