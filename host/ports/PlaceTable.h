@@ -18,6 +18,8 @@ struct Place {
     std::optional<Server::GeoPoint> position;  ///< empty when the table has no readable one
     bool isPort = false;                       ///< a port, else a route point
     std::vector<std::string> aliases{};        ///< other names that people use for a port
+
+    friend bool operator==(const Place&, const Place&) = default;
 };
 
 /// Reads all places of the data base in order of their names, then ids as numbers: of ports of one name a

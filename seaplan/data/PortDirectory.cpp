@@ -90,6 +90,16 @@ void PortDirectory::ReadNames() {
     }
     SetNames(std::move(names));
     LoadPortNamesByLocal(Path(), byLocal_);
+    hasNames_ = true;
+}
+
+void PortDirectory::ReadAnew() {
+    hasPorts_ = false;
+    ports_.clear();
+    byLocal_.clear();
+    if (hasNames_) {
+        ReadNames();
+    }
 }
 
 void PortDirectory::SetNames(std::vector<std::string> names) {

@@ -48,6 +48,9 @@ class PortDirectory {
     /// Reads the names that the questions below stand on: those that the host's dictionary has for the ports
     /// of the table, and the local ones. What cannot be read stays empty.
     void ReadNames();
+    /// The ports of the table have changed, as by a login: they are read again when they are next needed, and
+    /// their names at once where they had been read. Route points and ports of one place stay.
+    void ReadAnew();
     /// Name for a typed text: a text that begins with a byte above 127 is a local name. Empty when a local
     /// name is unknown. Any other text that differs from a port's name by case only gives that name, and
     /// stands as it is otherwise.
@@ -66,6 +69,7 @@ class PortDirectory {
     bool hasRoutePoints_ = false;
     bool hasPorts_ = false;
     bool hasLinks_ = false;
+    bool hasNames_ = false;
     PointMap routePoints_;
     PointMap ports_;
     SamePortLinks samePorts_;

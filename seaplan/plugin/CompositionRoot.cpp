@@ -2,6 +2,7 @@
 #include "seaplan/plugin/CompositionRoot.h"
 
 #include <tarvik/bus/Binding.h>
+#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/bus/VoyageContract.h>
 
 #include "seaplan/controllers/voycal/VoyCalReply.h"
@@ -27,6 +28,7 @@ void CompositionRoot::OfferServices() {
         planVoyage_ = Interface::Offer(Interface::Bus::PlanVoyage, [this](const PlanRequest& request) {
             return &planService_.Plan(request);
         });
+        portsChanged_ = Interface::Subscribe(Interface::Bus::PortsChanged, [this] { ports_.ReadAnew(); });
     }
     Calculator();
 }

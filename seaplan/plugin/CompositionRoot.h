@@ -41,6 +41,7 @@ class CompositionRoot {
     PlanService planService_;
     std::optional<CVoyCal> calculator_;
     Interface::Binding planVoyage_;
+    Interface::Binding portsChanged_;
 };
 
 }  // namespace Tarvik::Seaplan

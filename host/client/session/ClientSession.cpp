@@ -6,14 +6,12 @@
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
-#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/core/Exports.h>
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/Log.h>
 
 #include "host/client/services/AppFolders.h"
 #include "host/client/session/EmbeddedLink.h"
-#include "host/client/session/OwnPorts.h"
 #include "host/server/app/EmbeddedServer.h"
 
 namespace Tarvik::Client {
@@ -27,8 +25,8 @@ constexpr std::size_t kLogBytes = 1024 * 1024;
 ClientSession::ClientSession(const AppFolders& folders, const SessionOptions& options)
     : folders_(folders),
       claim_(folders.Data()),
-      log_(folders.Data() + "/seaplan.log", kLogBytes, options.verbose),
-      busLog_(log_) {}
+      logs_(folders.Data() + "/seaplan.log", kLogBytes, options.verbose),
+      ownPorts_(folders_, tables_, logs_.file) {}
 
 std::unique_ptr<ClientSession> ClientSession::Open(const SessionOptions& options, std::string& error) {
     const AppFolders folders(ProgramFolder(), options.dataFolder);
@@ -48,12 +46,12 @@ std::unique_ptr<ClientSession> ClientSession::Open(const SessionOptions& options
 }
 
 bool ClientSession::Start(const SessionOptions& options, std::string& error) {
-    Util::SetLogSink([this](Util::LogLevel, const std::string& text) { log_.Write(text); });
+    Util::SetLogSink([this](Util::LogLevel, const std::string& text) { logs_.file.Write(text); });
     Util::FileUtl::SetCurrentAppDirectory(folders_.Data());
     TakeOptions(options);
     tables_.LoadTexts(folders_.Languages(), preferences_.language);
     for (const std::string& line : Texts().Complaints()) {
-        log_.Write(line);
+        logs_.file.Write(line);
     }
     if (!tables_.LoadPorts(folders_.BusinessData(Util::kPointTableFile), error)) {
         return false;
@@ -63,7 +61,7 @@ bool ClientSession::Start(const SessionOptions& options, std::string& error) {
         return false;
     }
     services_ = std::make_unique<HostServices>(*link_, Server::kLocalUser, preferences_.timeZone,
-                                               [this](const std::string& line) { log_.Write(line); });
+                                               [this](const std::string& line) { logs_.file.Write(line); });
     return true;
 }
 
@@ -94,10 +92,10 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
         // A name that the server refused is nobody's, and would be offered at the next start.
         link->SetWelcome([this, &at = *link](const std::string& user) {
             Keep([&user](Preferences& kept) { kept.user = user; });
-            TakeOwnPorts(at);
+            ownPorts_.Load(at);
         });
         // Until then nobody's are shown: the table may still have those of the login before.
-        TakeOwnPorts(*link);
+        ownPorts_.Load(*link);
         return link;
     }
     auto embedded =
@@ -105,43 +103,21 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
     if (!embedded->Connect(error)) {
         return nullptr;
     }
-    TakeOwnPorts(*embedded);
+    ownPorts_.Load(*embedded);
     return embedded;
 }
 
-void ClientSession::TellPorts(const std::string& trouble) {
-    if (!trouble.empty()) {
-        log_.Write(trouble);
-    }
-    const std::string text = trouble.empty() ? trouble : Texts().Text("Client", "OWN_PORTS_MISSING");
-    const Interface::StatusWord word{"Ports", text, trouble};
-    Interface::Raise(Interface::Bus::TellStatus, &word);
-}
-
-void ClientSession::TakeOwnPorts(ServerLink& link) {
-    const std::string table = folders_.BusinessData(Util::kPointTableFile);
-    const std::string user = link.User(Server::kLocalUser);
-    const auto own = user.empty() ? std::vector<Ports::Place>() : LoadOwnPorts(link, user);
-    std::string error;
-    if (!own) {
-        error = "The server gave no list of the user's own ports.";
-        TellPorts(error);
-    }
-    if (!WritePortTable(folders_.ShareFile(Util::kPointTableFile), table,
-                        own.value_or(std::vector<Ports::Place>()), error) ||
-        !tables_.LoadPorts(table, error)) {
-        TellPorts(error);
-    } else if (own) {
-        TellPorts({});
-    }
+void ClientSession::LogOut() {
+    services_->LogOut();
+    ownPorts_.Load(*link_);
 }
 
 void ClientSession::LoadPlugins() {
     loader_.LoadAll(PluginLoader::FindLibraries(folders_.Plugins()),
                     Core::Version::Parse(Plugin::kHostVersion));
     for (const LoadedPlugin& plugin : loader_.Plugins()) {
-        log_.Write("plug-in " + plugin.record.name + " " + VersionText(plugin.record.version) +
-                   (plugin.error.empty() ? " runs" : " is left out: " + plugin.error));
+        logs_.file.Write("plug-in " + plugin.record.name + " " + VersionText(plugin.record.version) +
+                         (plugin.error.empty() ? " runs" : " is left out: " + plugin.error));
     }
 }
 
@@ -153,7 +129,7 @@ void ClientSession::Keep(const std::function<void(Preferences&)>& change) {
     change(kept);
     std::string error;
     if (kept != before && !kept.Write(PreferencesFile(), error)) {
-        log_.Write(error);
+        logs_.file.Write(error);
     }
 }
 

@@ -14,6 +14,7 @@
 #include "host/client/services/Preferences.h"
 #include "host/client/services/RotatingLog.h"
 #include "host/client/session/LoginLink.h"
+#include "host/client/session/OwnPorts.h"
 
 namespace Tarvik::Client {
 
@@ -45,7 +46,8 @@ class ClientSession {
     ServerLink& Link() { return *link_; }
     /// Whether the server is elsewhere and wants a login.
     bool IsRemote() const { return !preferences_.server.empty(); }
-    RotatingLog& Log() { return log_; }
+    RotatingLog& Log() { return logs_.file; }
+    Client::OwnPorts& OwnPorts() { return ownPorts_; }
 
     /// Takes new preferences into use, tells the plug-ins what changed, and keeps them. False with a line
     /// when the file could not be written, they are in use all the same; or when the server inside the client
@@ -55,24 +57,30 @@ class ClientSession {
     /// logged.
     void Keep(const std::function<void(Preferences&)>& change);
 
+    /// Logs all plug-ins out and ends the login at the server; its user's own ports go.
+    void LogOut();
+
   private:
+    /// The log, and what the bus has to tell in it.
+    struct Logs {
+        Logs(const std::string& path, std::size_t limitBytes, bool verbose)
+            : file(path, limitBytes, verbose) {}
+        RotatingLog file;
+        BusLog bus{file};
+    };
+
     ClientSession(const AppFolders& folders, const SessionOptions& options);
     bool Start(const SessionOptions& options, std::string& error);
     void TakeOptions(const SessionOptions& options);
-    /// Puts the own ports of the user whom the link has let in into the table of points and the dictionary;
-    /// none while nobody is let in. Where they cannot be put there, the ports in use stay.
-    void TakeOwnPorts(ServerLink& link);
-    /// Says trouble with the own ports in the status line and in the log; empty takes the words away.
-    void TellPorts(const std::string& trouble);
     std::unique_ptr<ServerLink> MakeLink(const std::string& server, std::string& error);
     std::string PreferencesFile() const { return folders_.Data() + "/preferences.json"; }
 
     AppFolders folders_;
     FolderClaim claim_;
-    RotatingLog log_;
-    BusLog busLog_;
+    Logs logs_;
     Preferences preferences_;
     HostTables tables_;
+    Client::OwnPorts ownPorts_;
     AskCredentials ask_;
     std::unique_ptr<ServerLink> link_;
     std::unique_ptr<HostServices> services_;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <tarvik/bus/Binding.h>
+#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/util/Log.h>
@@ -40,6 +41,7 @@ std::vector<Port> ReadPorts(const std::string& databaseFile) {
 SearchDesk::SearchDesk(std::string databaseFile) : databaseFile_(std::move(databaseFile)) {
     bindings_.Keep(Interface::Offer(Interface::Bus::MatchPorts, this, &SearchDesk::OnMatch));
     bindings_.Keep(Interface::Offer(Interface::Bus::ShowVesselInfo, this, &SearchDesk::OnVessel));
+    bindings_.Keep(Interface::Subscribe(Interface::Bus::PortsChanged, [this] { ports_.reset(); }));
 }
 
 SearchDesk::~SearchDesk() {

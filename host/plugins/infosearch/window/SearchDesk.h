@@ -22,7 +22,8 @@ namespace Tarvik::InfoSearch {
 /// answer nothing.
 class SearchDesk : public Core::TObject {
   public:
-    /// `databaseFile` holds the ports; it is read at the first question.
+    /// `databaseFile` holds the ports; it is read at the first question, and at the first behind each change
+    /// of the ports.
     explicit SearchDesk(std::string databaseFile);
     ~SearchDesk() override;
     SearchDesk(const SearchDesk&) = delete;

@@ -20,6 +20,12 @@ const std::vector<Ports::Place>& PortTable::Places() {
     return places_;
 }
 
+void PortTable::Forget() {
+    loaded_ = false;
+    places_.clear();
+    ports_.clear();
+}
+
 std::string PortTable::DefaultPath() {
     return Util::FileUtl::BusinessData(Util::kPointTableFile);
 }

@@ -82,6 +82,10 @@ void ChartServices::OfferView() {
     bindings_.Keep(Offer(Bus::ChartWindow, this, &ChartServices::Widget));
     bindings_.Keep(Offer(Bus::ChartCommand, this, &ChartServices::Command));
     bindings_.Keep(Interface::Subscribe(Bus::SwitchLanguage, this, &ChartServices::ShowNames));
+    bindings_.Keep(Interface::Subscribe(Bus::PortsChanged, [this] {
+        ports_.Forget();
+        ShowNames();
+    }));
 }
 
 ChartServices::~ChartServices() {

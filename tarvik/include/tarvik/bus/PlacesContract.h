@@ -11,7 +11,7 @@
 class QWidget;
 
 /// Places that the client and the chart have for what plug-ins bring: ships, a page of the preferences, a
-/// word in the status line.
+/// word in the status line, a port of the user's own.
 namespace Tarvik::Interface {
 
 /// A ship on the chart.
@@ -53,6 +53,12 @@ struct StatusWord {
     std::string tip;    ///< more of it, for who points at it
 };
 
+/// Argument of TRV_S_OWNPORT_ADD: where the port is, in degrees, east and north positive.
+struct OwnPortPlace {
+    double longitude = 0;
+    double latitude = 0;
+};
+
 namespace Bus {
 
 /// Shows these ships in place of those of the type before; none takes all away. They are drawn below all
@@ -68,6 +74,13 @@ inline constexpr Service<const bool, const bool> ShowShips{"TRV_S_AIS_SHOWSHIPS"
 inline constexpr Event<PreferencePages> OpenPreferences{"TRV_E_PREFERENCES"};
 /// A plug-in has something to tell in the status line.
 inline constexpr Event<const StatusWord> TellStatus{"TRV_E_STATUSWORD"};
+/// Opens the form in which a port of the user's own is added at a place. The client's; nobody offers it
+/// without a window.
+inline constexpr Service<const OwnPortPlace, None> AddOwnPort{"TRV_S_OWNPORT_ADD"};
+/// The table of points and the dictionary of ports have changed: the user's own ports were changed, or others
+/// have become the user's by a login or a logout. Whoever has read either reads it anew; ids of ports that
+/// stay are what they were.
+inline constexpr Event<None> PortsChanged{"TRV_E_PORTSCHANGED"};
 
 }  // namespace Bus
 }  // namespace Tarvik::Interface
