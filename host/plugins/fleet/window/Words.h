@@ -2,14 +2,14 @@
 #pragma once
 
 #include <QString>
-#include <QWidget>
 
-#include <tarvik/interface/SysMsgSink.h>
 #include <tarvik/skin/Words.h>
 
 #include "host/plugins/fleet/store/FleetStore.h"
 
 namespace Tarvik::Fleet {
+
+using Skin::Agreed;
 
 /// The plug-in's text of a key.
 inline QString Word(const char* key) {
@@ -33,14 +33,6 @@ inline QString WordOf(Outcome outcome) {
             break;
     }
     return Word("REFUSED");
-}
-
-/// Asks a person a question over a window; true for yes.
-inline bool Agreed(const QString& question, QWidget* owner) {
-    constexpr int kQuestion = 4;
-    return Interface::SysMsgSink::Instance()->SyncSendMsg(Interface::kMessageLevel, question.toStdU16String(),
-                                                          kQuestion, owner,
-                                                          u"") == Interface::SysMsgHandleRes::Yes;
 }
 
 }  // namespace Tarvik::Fleet

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <utility>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/skin/Words.h>
 
 #include "host/plugins/seamap/widget/ChartWidget.h"
@@ -71,6 +73,7 @@ void ChartTools::OpenMenu(GeoPoint place, QPoint at) {
     menu->addAction(Word("CENTRE_HERE"), &chart_, [this, place] { chart_.CentreOn(place); })
         ->setObjectName("centreHere");
     AddNearest(*menu, place);
+    AddOwnPort(*menu, place);
     menu->addSeparator();
     menu->addAction(Word("GO_TO") + "…\tCtrl+G", &chart_, [this] { OpenGoTo(); })->setObjectName("goTo");
     menu->addSeparator();
@@ -103,6 +106,17 @@ void ChartTools::AddNearest(QMenu& menu, GeoPoint place) {
                        GoTo({found.position, found.text, &found});
                    })
         ->setObjectName("nearestPort");
+}
+
+void ChartTools::AddOwnPort(QMenu& menu, GeoPoint place) {
+    if (Interface::IsOffered(Interface::Bus::AddOwnPort)) {
+        menu.addAction(Word("ADD_PORT"), &chart_,
+                       [place] {
+                           const Interface::OwnPortPlace at{place.x, place.y};
+                           Interface::Call(Interface::Bus::AddOwnPort, &at);
+                       })
+            ->setObjectName("addOwnPort");
+    }
 }
 
 void ChartTools::AddParts(QMenu& menu) {

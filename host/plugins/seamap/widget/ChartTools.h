@@ -53,6 +53,8 @@ class ChartTools : public QObject {
   private:
     void AddCopies(QMenu& menu, GeoPoint place);
     void AddNearest(QMenu& menu, GeoPoint place);
+    /// Where the client takes own ports.
+    void AddOwnPort(QMenu& menu, GeoPoint place);
     void AddParts(QMenu& menu);
     void GoTo(const Destination& place);
     void Refresh();

@@ -15,6 +15,7 @@ namespace PanelCode {
 inline constexpr int kVoyages = 3;     ///< the voyage panel
 inline constexpr int kDistances = 21;  ///< the port distance table
 inline constexpr int kFleet = 22;      ///< the user's vessels
+inline constexpr int kOwnPorts = 23;   ///< the user's own ports
 }  // namespace PanelCode
 
 /// Payload of TRV_MAP_WND_SHOW.

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <QWidget>
 #include <iterator>
 #include <string>
 
 #include <tarvik/interface/LoadString.h>
+#include <tarvik/interface/SysMsgSink.h>
 
 namespace Tarvik::Skin {
 
@@ -18,6 +20,14 @@ inline QString Word(const char* section, const char* key) {
     Interface::TrvLoadString(part.c_str(), part.c_str(), name.c_str(), buffer, name.c_str(),
                              std::size(buffer));
     return QString::fromUtf16(buffer);
+}
+
+/// Asks a person a question over a window; true for yes.
+inline bool Agreed(const QString& question, QWidget* owner) {
+    constexpr int kQuestion = 4;
+    return Interface::SysMsgSink::Instance()->SyncSendMsg(Interface::kMessageLevel, question.toStdU16String(),
+                                                          kQuestion, owner,
+                                                          u"") == Interface::SysMsgHandleRes::Yes;
 }
 
 }  // namespace Tarvik::Skin

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "host/client/places/OwnPortDraft.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include <tarvik/util/TypedPosition.h>
+
+namespace Tarvik::Client {
+
+namespace {
+
+constexpr std::size_t kMostNameBytes = 256;
+/// What would part the fields of requests and of port calls.
+constexpr const char* kSigns = "|\"\\&#";
+/// Ids of the shipped ports have five digits.
+constexpr std::size_t kShippedIdDigits = 5;
+
+std::string Trimmed(const std::string& text) {
+    constexpr const char* kBlanks = " \t\r\n";
+    const std::size_t first = text.find_first_not_of(kBlanks);
+    return first == std::string::npos ? std::string()
+                                      : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+/// Ports are found by name in any case.
+bool IsSameName(const std::string& a, const std::string& b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
+}
+
+bool HasSign(const std::string& name) {
+    return name.find_first_of(kSigns) != std::string::npos ||
+           std::any_of(name.begin(), name.end(), [](unsigned char c) { return c < ' '; });
+}
+
+std::string TextOf(Server::GeoPoint at) {
+    return Util::DegreesText(at.y, Util::Axis::Latitude) + " " +
+           Util::DegreesText(at.x, Util::Axis::Longitude);
+}
+
+}  // namespace
+
+bool IsOwnPortId(const std::string& id) {
+    return id.size() > kShippedIdDigits;
+}
+
+OwnPortDraft OwnPortDraft::Of(const Ports::Place& port) {
+    return {port.name, port.position ? TextOf(*port.position) : std::string()};
+}
+
+std::optional<Server::GeoPoint> OwnPortDraft::Position() const {
+    const auto read = Util::ReadTypedPosition(position);
+    return read ? std::optional(Server::GeoPoint{read->x, read->y}) : std::nullopt;
+}
+
+std::string OwnPortDraft::Understood() const {
+    const auto at = Position();
+    return at ? TextOf(*at) : std::string();
+}
+
+std::optional<PortFault> OwnPortDraft::Check(const std::vector<Port>& known, const std::string& id) const {
+    const std::string named = Trimmed(name);
+    if (named.empty()) {
+        return PortFault::NameMissing;
+    }
+    if (named.size() > kMostNameBytes) {
+        return PortFault::NameLong;
+    }
+    if (HasSign(named)) {
+        return PortFault::NameSigns;
+    }
+    const auto same = std::find_if(known.begin(), known.end(), [&](const Port& port) {
+        return port.id != id && (IsSameName(port.name, named) || port.nameCn == named);
+    });
+    if (same != known.end()) {
+        return IsOwnPortId(same->id) ? PortFault::NameOwn : PortFault::NameTaken;
+    }
+    if (Trimmed(position).empty()) {
+        return PortFault::PlaceMissing;
+    }
+    return Position() ? std::nullopt : std::optional(PortFault::PlaceUnread);
+}
+
+Ports::Place OwnPortDraft::Kept(const Ports::Place& before) const {
+    Ports::Place port = before;
+    port.name = Trimmed(name);
+    if (!before.position || position != Of(before).position) {
+        port.position = Position();
+    }
+    return port;
+}
+
+}  // namespace Tarvik::Client
