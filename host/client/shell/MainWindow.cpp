@@ -25,6 +25,7 @@ namespace Tarvik::Client {
 
 using Interface::PanelCode::kDistances;
 using Interface::PanelCode::kFleet;
+using Interface::PanelCode::kOwnPorts;
 using Interface::PanelCode::kVoyages;
 
 namespace {
@@ -35,7 +36,11 @@ constexpr QSize kFrame(8, 40);  ///< what a window manager may put around the wi
 }  // namespace
 
 MainWindow::MainWindow(ClientSession& session)
-    : session_(session), chart_(session), tools_(*this, Tools()), status_(*statusBar(), session) {
+    : session_(session),
+      chart_(session),
+      tools_(*this, Tools()),
+      status_(*statusBar(), session),
+      ownPorts_(*this, session) {
     setObjectName("mainWindow");
     resize(kUsualSize);
     connect(new QShortcut(QKeySequence("Ctrl+G"), this), &QShortcut::activated, this,
@@ -77,6 +82,7 @@ std::vector<MainTools::Tool> MainWindow::Tools() {
         {"DISTANCES", "distances", "Ctrl+D", [this] { TogglePanel(kDistances); }, true},
         {"SHIPS", "ships", "Ctrl+H", [] { ToggleShips(); }},
         {"FLEET", "fleet", "Ctrl+E", [this] { TogglePanel(kFleet); }},
+        {"PORTS", "ports", "Ctrl+P", [this] { TogglePanel(kOwnPorts); }, true},
         {"ZOOM_IN", "zoomin", "Ctrl++", [this] { ChartCommand("zoomin"); }},
         {"ZOOM_OUT", "zoomout", "Ctrl+-", [this] { ChartCommand("zoomout"); }},
         {"FIT", "fit", "Ctrl+0", [this] { ChartCommand("fit"); }, true},
@@ -197,7 +203,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::LogOut() {
     if (ClosePanels()) {
-        session_.Services().LogOut();
+        session_.LogOut();
     }
 }
 

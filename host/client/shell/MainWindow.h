@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/client/places/OwnPortDesk.h"
 #include "host/client/session/ClientSession.h"
 #include "host/client/shell/ChartLink.h"
 #include "host/client/shell/MainTools.h"
@@ -73,6 +74,7 @@ class MainWindow : public QMainWindow {
     ChartLink chart_;
     MainTools tools_;
     StatusLine status_;
+    OwnPortDesk ownPorts_;
     HelpWindow* help_ = nullptr;  ///< made when it is first asked for
 };
 
