@@ -4,6 +4,10 @@
 
 #include <gmock/gmock.h>
 
+#include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+#include <tarvik/bus/PlacesContract.h>
 #include <tarvik/interface/ValueDictionary.h>
 
 #include "host/client/services/RequestBlock.h"
@@ -35,6 +39,16 @@ class OwnPortsTest : public testing::Test {
         session_ = ClientSession::Open(options_, error_);
         ASSERT_NE(session_, nullptr) << error_;
     }
+    /// Opens a session at a server that has anna and bert, who logs in is `user_`.
+    void OpenAt(Server::TestServer& server) {
+        server.AddUser("anna", "correct horse");
+        server.AddUser("bert", "correct horse");
+        options_.server = server.Url();
+        Open();
+        session_->SetAsker([this](const std::string&, const std::string&, const std::string&) {
+            return std::optional(Credentials{user_, "correct horse"});
+        });
+    }
     static std::string IdOf(const std::string& name) {
         return Interface::GetNameByValue("/points", name, Interface::kEnglishLanguage);
     }
@@ -49,6 +63,7 @@ class OwnPortsTest : public testing::Test {
 
     TestSupport::TemporaryFolder folder_;
     SessionOptions options_;
+    std::string user_ = "anna";
     std::string error_;
     std::unique_ptr<ClientSession> session_;
 };
@@ -121,6 +136,56 @@ TEST_F(OwnPortsTest, AreThoseOfWhoeverLogsIn) {
     });
     ASSERT_TRUE(session_->Link().Connect(error_)) << error_;
     EXPECT_EQ(IdOf("Berth 7"), "");
+}
+
+TEST_F(OwnPortsTest, ALogoutAndALoginInTheSameRunAreToldAndTakeEffectAtOnce) {
+    Server::TestServer server;
+    OpenAt(server);
+    int told = 0;
+    const auto listener = Interface::Subscribe(Interface::Bus::PortsChanged, [&told] { ++told; });
+    Interface::Call(Interface::Bus::Login);
+    OwnPorts& own = session_->OwnPorts();
+    EXPECT_EQ(told, 0) << "anna has none";
+    const Ports::Place berth{"", "Berth 7", "", "", Server::GeoPoint{4.05, 51.98}, true};
+    ASSERT_EQ(own.Change(session_->Link(), PortOperation::Add, berth), PortOutcome::Done);
+    EXPECT_EQ(told, 1);
+    EXPECT_NE(IdOf("Berth 7"), "");
+    session_->LogOut();
+    EXPECT_EQ(told, 2);
+    EXPECT_EQ(IdOf("Berth 7"), "") << "nothing of anna's stays";
+    EXPECT_FALSE(RowOf("Berth 7"));
+    EXPECT_EQ(own.Change(session_->Link(), PortOperation::Add, berth), PortOutcome::NoUser);
+    user_ = "bert";
+    Interface::Call(Interface::Bus::Login);
+    EXPECT_EQ(IdOf("Berth 7"), "");
+    session_->LogOut();
+    user_ = "anna";
+    Interface::Call(Interface::Bus::Login);
+    EXPECT_EQ(told, 3);
+    EXPECT_NE(IdOf("Berth 7"), "");
+    ASSERT_TRUE(RowOf("Berth 7"));
+}
+
+TEST_F(OwnPortsTest, ARefusalChangesNothingAndAnOutageIsTold) {
+    auto server = std::make_unique<Server::TestServer>();
+    OpenAt(*server);
+    Interface::Call(Interface::Bus::Login);
+    OwnPorts& own = session_->OwnPorts();
+    Ports::Place berth{"", "Berth|7", "", "", Server::GeoPoint{4.05, 51.98}, true};
+    EXPECT_EQ(own.Change(session_->Link(), PortOperation::Add, berth), PortOutcome::Refused);
+    berth.name = "Berth 7";
+    berth.id = "1000999";
+    EXPECT_EQ(own.Change(session_->Link(), PortOperation::Change, berth), PortOutcome::Gone);
+    berth.id.clear();
+    EXPECT_EQ(own.Change(session_->Link(), PortOperation::Add, berth), PortOutcome::Done);
+    ASSERT_EQ(own.All().size(), 1U);
+    server.reset();
+    berth.name = "Berth 8";
+    EXPECT_EQ(own.Change(session_->Link(), PortOperation::Add, berth), PortOutcome::NoServer);
+    EXPECT_FALSE(own.Load(session_->Link()));
+    ASSERT_EQ(own.All().size(), 1U) << "what was known stays";
+    EXPECT_EQ(own.All().front().name, "Berth 7");
+    EXPECT_EQ(IdOf("Berth 8"), "");
 }
 
 /// A server with one answer to everything.
