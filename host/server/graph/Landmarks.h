@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "host/geo/FrozenArray.h"
@@ -21,6 +22,10 @@ struct Arc {
 struct ArcTable {
     std::vector<std::uint32_t> start;  ///< one more than there are nodes
     std::vector<Arc> arcs;
+
+    std::span<const Arc> Of(std::uint32_t node) const {
+        return {arcs.data() + start[node], start[node + 1] - start[node]};
+    }
 };
 
 /// Lower bounds for the search: the distance of every node to a few nodes far apart, over the edges of the

@@ -65,7 +65,8 @@ struct ReachEntry {
 /// What is reckoned from the rest of a network when it is built, so that loading it need not.
 struct NetworkTables {
     LandTables land;
-    FrozenArray<float> landmarks;  ///< miles from every node to each landmark, node after node
+    FrozenArray<float> landmarks;     ///< miles from every node to each landmark, node after node
+    FrozenArray<std::uint8_t> usual;  ///< per edge 1 when ships between named places take it
 };
 
 /// Everything the network file holds. Positions have 5 decimals.

@@ -92,8 +92,8 @@ NodePath WalkBack(const SeaNetwork& network, const std::vector<Label>& labels, s
 }
 
 /// Puts the better ways over the arcs of a node on the desk.
-void Relax(const SeaNetwork& network, const Bound& bound, const OpenNode& at, Desk& desk) {
-    for (const Arc& arc : network.Arcs(at.node)) {
+void Relax(const ArcTable& arcs, const Bound& bound, const OpenNode& at, Desk& desk) {
+    for (const Arc& arc : arcs.Of(at.node)) {
         const float nm = at.nm + arc.nm;
         Label& label = desk.labels[arc.to];
         const bool known = label.stamp == desk.stamp;
@@ -119,6 +119,7 @@ std::optional<NodePath> FindPath(const SeaNetwork& network, std::uint32_t from, 
     for (std::size_t i = 0; i < desk.blocked.size(); ++i) {
         desk.blocked[i] = (data.masks[i] & forbidden).any() ? 1 : 0;
     }
+    const ArcTable& arcs = network.ArcsBetween(from, to, forbidden);
     const Bound bound(network, to, forbidden);
     desk.labels[from] = {desk.stamp, 0.0F, kNone, 0.0F};
     desk.open.push_back({bound.From(from), 0.0F, from});
@@ -130,7 +131,7 @@ std::optional<NodePath> FindPath(const SeaNetwork& network, std::uint32_t from, 
             return WalkBack(network, desk.labels, from, to);
         }
         if (at.nm <= desk.labels[at.node].nm) {
-            Relax(network, bound, at, desk);
+            Relax(arcs, bound, at, desk);
         }
     }
     return std::nullopt;

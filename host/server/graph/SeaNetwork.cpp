@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <atomic>
 #include <iterator>
+#include <set>
 #include <utility>
 
+#include "host/server/graph/NamedWays.h"
 #include "host/server/graph/PassageReach.h"
 #include "host/server/graph/SeaNetworkFile.h"
 
@@ -73,9 +75,35 @@ SeaNetwork::SeaNetwork(NetworkData data)
     gates_.shut[kIceBit] = true;
     landmarks_ = data_.tables ? Landmarks(data_.tables->landmarks, data_.nodes.size())
                               : Landmarks(OpenArcs(), kLandmarkCount);
+    if (data_.tables) {
+        ways_.usual = MarkedArcs(ways_.all, data_.tables->usual.View());
+        ways_.isNamed.assign(data_.nodes.size(), 0);
+        for (const std::uint32_t node : NamedNodes()) {
+            ways_.isNamed[node] = 1;
+        }
+    }
     if (data_.reach.empty()) {
         FillReach();
     }
+}
+
+const ArcTable& SeaNetwork::ArcsBetween(std::uint32_t a, std::uint32_t b, const GateMask& forbidden) const {
+    const bool usual =
+        !ways_.isNamed.empty() && ways_.isNamed[a] != 0 && ways_.isNamed[b] != 0 && forbidden == gates_.shut;
+    return usual ? ways_.usual : ways_.all;
+}
+
+std::vector<std::uint32_t> SeaNetwork::NamedNodes() const {
+    std::set<std::uint32_t> nodes;
+    for (const auto& [id, named] : named_) {
+        nodes.insert(named.node);
+    }
+    return {nodes.begin(), nodes.end()};
+}
+
+NetworkTables SeaNetwork::Tables() const {
+    return {land_.Tables(), landmarks_.Distances(),
+            FrozenArray(EdgesOfWays(OpenArcs(), NamedNodes(), data_.edges.size()))};
 }
 
 void SeaNetwork::AddNamed(const std::string& id, std::uint32_t node) {
@@ -91,7 +119,7 @@ void SeaNetwork::FillReach() {
         targets.push_back(point.node);
     }
     for (std::size_t i = 0; i < data_.routePoints.size(); ++i) {
-        data_.reach.push_back(ReachFrom(data_, table_, data_.routePoints[i],
+        data_.reach.push_back(ReachFrom(data_, ways_.all, data_.routePoints[i],
                                         ForbiddenBy(static_cast<std::uint16_t>(i)), targets));
     }
 }
@@ -151,21 +179,21 @@ void SeaNetwork::BuildArcs() {
             cost.back() += mask[i] ? data_.routePoints[i].cost : 0.0F;
         }
     }
-    table_.start.assign(data_.nodes.size() + 1, 0);
+    ways_.all.start.assign(data_.nodes.size() + 1, 0);
     for (const NetworkEdge& e : data_.edges) {
-        ++table_.start[e.a + 1];
-        ++table_.start[e.b + 1];
+        ++ways_.all.start[e.a + 1];
+        ++ways_.all.start[e.b + 1];
     }
-    for (std::size_t i = 1; i < table_.start.size(); ++i) {
-        table_.start[i] += table_.start[i - 1];
+    for (std::size_t i = 1; i < ways_.all.start.size(); ++i) {
+        ways_.all.start[i] += ways_.all.start[i - 1];
     }
-    table_.arcs.resize(table_.start.back());
-    std::vector<std::uint32_t> next(table_.start.begin(), table_.start.end() - 1);
+    ways_.all.arcs.resize(ways_.all.start.back());
+    std::vector<std::uint32_t> next(ways_.all.start.begin(), ways_.all.start.end() - 1);
     for (std::uint32_t i = 0; i < data_.edges.size(); ++i) {
         const NetworkEdge& e = data_.edges[i];
         const float nm = e.nm + cost[e.mask];
-        table_.arcs[next[e.a]++] = {e.b, i, nm, e.mask};
-        table_.arcs[next[e.b]++] = {e.a, i, nm, e.mask};
+        ways_.all.arcs[next[e.a]++] = {e.b, i, nm, e.mask};
+        ways_.all.arcs[next[e.b]++] = {e.a, i, nm, e.mask};
     }
 }
 

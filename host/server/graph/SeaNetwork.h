@@ -45,13 +45,14 @@ class SeaNetwork {
     /// Bounds over the edges that are open unless asked for; of no use once a shut gate is open.
     const Landmarks& Bounds() const { return landmarks_; }
     /// What `NetworkData::tables` holds when this network is written.
-    NetworkTables Tables() const { return {land_.Tables(), landmarks_.Distances()}; }
+    NetworkTables Tables() const;
     /// The gates at which the search adds miles.
     const GateMask& CostlyGates() const { return gates_.costly; }
     const Basins& Waters() const { return basins_; }
-    std::span<const Arc> Arcs(std::uint32_t node) const {
-        return {table_.arcs.data() + table_.start[node], table_.start[node + 1] - table_.start[node]};
-    }
+    std::span<const Arc> Arcs(std::uint32_t node) const { return ways_.all.Of(node); }
+    /// The arcs that a search needs: between ports and route points under the usual permissions only those on
+    /// a shortest way between two of them, else all.
+    const ArcTable& ArcsBetween(std::uint32_t a, std::uint32_t b, const GateMask& forbidden) const;
     const UnitVector& Vector(std::uint32_t node) const { return vectors_[node]; }
 
     /// The node of a port or route point.
@@ -84,16 +85,22 @@ class SeaNetwork {
         GateMask shut;
         GateMask costly;
     };
+    struct Ways {
+        ArcTable all;
+        ArcTable usual;             ///< those between named nodes; nothing in a network just put together
+        std::vector<char> isNamed;  ///< by node, where `usual` is known
+    };
     void AddNamed(const std::string& id, std::uint32_t node);
     void BuildArcs();
     void FillReach();
     ArcTable OpenArcs() const;
+    std::vector<std::uint32_t> NamedNodes() const;
 
     std::uint64_t number_;
     NetworkData data_;
     LandIndex land_;
     Basins basins_;
-    ArcTable table_;
+    Ways ways_;
     Landmarks landmarks_;
     std::vector<UnitVector> vectors_;
     std::unordered_map<std::string, Named> named_;

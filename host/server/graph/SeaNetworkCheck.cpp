@@ -87,6 +87,9 @@ std::string CheckTables(const NetworkData& d) {
     if (d.nodes.empty() ? marks != 0 : marks == 0 || marks % d.nodes.size() != 0) {
         return "it does not tell every node's way to the landmarks";
     }
+    if (d.tables->usual.Size() != d.edges.size()) {
+        return "it does not tell which edges are usual";
+    }
     return FaultOf(d.tables->land);
 }
 

@@ -14,7 +14,7 @@ namespace Tarvik::Server {
 
 namespace {
 
-constexpr std::string_view kMagic = "SEANET03";
+constexpr std::string_view kMagic = "SEANET04";
 constexpr std::string_view kFamily = kMagic.substr(0, 6);
 constexpr std::size_t kHeaderBytes = 24;
 static_assert(kHeaderBytes % kRawAlignment == 0, "the payload's tables are read in place");

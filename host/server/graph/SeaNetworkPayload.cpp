@@ -58,6 +58,7 @@ void PutTables(ByteWriter& w, const NetworkTables& tables) {
         w.Raw(cells->items.View());
     }
     w.Raw(tables.landmarks.View());
+    w.Raw(tables.usual.View());
 }
 
 std::vector<GeoPoint> GetPoints(ByteReader& r) {
@@ -114,6 +115,7 @@ NetworkTables GetTables(ByteReader& r, const std::shared_ptr<const void>& keeper
         cells->items = FrozenArray(r.Raw<std::uint32_t>(), keeper);
     }
     tables.landmarks = FrozenArray(r.Raw<float>(), keeper);
+    tables.usual = FrozenArray(r.Raw<std::uint8_t>(), keeper);
     return tables;
 }
 

@@ -112,6 +112,9 @@ TEST(SeaNetworkTables, ThatDoNotFitAreRefused) {
     EXPECT_THAT(ErrorOf(data), HasSubstr("landmarks"));
     data.tables->landmarks = {};
     EXPECT_THAT(ErrorOf(data), HasSubstr("landmarks"));
+    data = WithTables();
+    data.tables->usual = FrozenArray(std::vector<std::uint8_t>(3, 1));
+    EXPECT_THAT(ErrorOf(data), HasSubstr("which edges are usual"));
 }
 
 }  // namespace

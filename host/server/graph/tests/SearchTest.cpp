@@ -5,44 +5,12 @@
 #include <gtest/gtest.h>
 
 #include "host/server/graph/PathSearch.h"
+#include "host/server/graph/tests/GridSea.h"
 #include "host/server/graph/tests/SmallSea.h"
 
 namespace Tarvik::Server {
 
 namespace {
-
-/// A grid of 20 by 20 places a degree apart with some squares missing, the same every time.
-NetworkData Grid() {
-    constexpr std::uint32_t kSide = 20;
-    NetworkData data;
-    data.masks.resize(2);
-    data.masks[1][0] = true;
-    data.routePoints = {{"1", "Middle", 0, false, {{9.5, -1}, {9.5, 30}}, {}}};
-    for (std::uint32_t row = 0; row < kSide; ++row) {
-        for (std::uint32_t column = 0; column < kSide; ++column) {
-            data.nodes.push_back({static_cast<double>(column), static_cast<double>(row)});
-        }
-    }
-    std::uint32_t seed = 7;
-    const auto chance = [&seed] { return (seed = seed * 1664525U + 1013904223U) >> 16; };
-    const auto join = [&](std::uint32_t a, std::uint32_t b) {
-        if (chance() % 4 == 0) {
-            return;
-        }
-        const std::uint16_t mask = data.nodes[a].x == 9 && data.nodes[b].x == 10 ? 1 : 0;
-        data.edges.push_back(
-            {a, b, static_cast<float>(ArcNm(data.nodes[a], data.nodes[b])), mask, EdgeKind::Sea});
-    };
-    for (std::uint32_t i = 0; i < kSide * kSide; ++i) {
-        if (i % kSide + 1 < kSide) {
-            join(i, i + 1);
-        }
-        if (i + kSide < kSide * kSide) {
-            join(i, i + kSide);
-        }
-    }
-    return data;
-}
 
 ArcTable TableOf(const NetworkData& data) {
     ArcTable table;
@@ -63,7 +31,7 @@ ArcTable TableOf(const NetworkData& data) {
 }
 
 TEST(PathSearch, FindsWaysAsShortAsThePlainSearch) {
-    const SeaNetwork network(Grid());
+    const SeaNetwork network(GridSea());
     const ArcTable table = TableOf(network.data());
     const std::vector<float> all = DistancesFrom(table, 0);
     std::size_t found = 0;
@@ -83,7 +51,7 @@ TEST(PathSearch, FindsWaysAsShortAsThePlainSearch) {
 }
 
 TEST(PathSearch, NeverCrossesAForbiddenGate) {
-    const SeaNetwork network(Grid());
+    const SeaNetwork network(GridSea());
     GateMask forbidden;
     forbidden[0] = true;
     EXPECT_TRUE(FindPath(network, 0, 399, GateMask{}));
@@ -97,7 +65,7 @@ TEST(PathSearch, NeverCrossesAForbiddenGate) {
 }
 
 TEST(Basins, AreJoinedAsTheSearchFindsThem) {
-    const SeaNetwork network(Grid());
+    const SeaNetwork network(GridSea());
     for (const bool shut : {false, true}) {
         GateMask forbidden;
         forbidden[0] = shut;
@@ -118,7 +86,7 @@ TEST(Basins, NodesWithoutAGateBetweenThemShareOne) {
 }
 
 TEST(Landmarks, NeverExceedTheWay) {
-    const NetworkData data = Grid();
+    const NetworkData data = GridSea();
     const ArcTable table = TableOf(data);
     const Landmarks landmarks(table, 4);
     for (std::uint32_t from = 0; from < 400; from += 57) {
