@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/Geodesy.h>
 #include <tarvik/util/Units.h>
 
@@ -30,9 +31,6 @@ constexpr CodeTable kBookTimesCodes{Code{TimesStep::Rows, -1},     Code{TimesSte
                                     Code{TimesStep::Distance, -3}, Code{TimesStep::Speed, -4},
                                     Code{TimesStep::Time, -5},     Code{TimesStep::Stay, -6}};
 
-/// Ports and route points of the host's table have at most this many digits, a user's own have more.
-constexpr std::size_t kShippedIdDigits = 5;
-
 /// Makes the last point of a segment the named point that the segment leads to.
 RouteOutcome NameEnd(const std::string& id, const PointMap& routePoints, PosBookPoint& row) {
     row.pointId = id;
@@ -44,7 +42,7 @@ RouteOutcome NameEnd(const std::string& id, const PointMap& routePoints, PosBook
     const auto found = routePoints.find(id);
     if (found == routePoints.end()) {
         // A port of the user's own is in the dictionary, whatever digit its long id begins with.
-        row.psn = id.size() > kShippedIdDigits ? PortNameOf(id) : std::string();
+        row.psn = id.size() > Interface::kShippedIdDigits ? PortNameOf(id) : std::string();
         if (row.psn.empty()) {
             return row.pst == ShortIdRoutePoint ? RouteStep::ShortId : RouteStep::LongId;
         }

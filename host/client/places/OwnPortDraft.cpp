@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/TypedPosition.h>
 
 namespace Tarvik::Client {
@@ -13,8 +14,6 @@ namespace {
 constexpr std::size_t kMostNameBytes = 256;
 /// What would part the fields of requests and of port calls.
 constexpr const char* kSigns = "|\"\\&#";
-/// Ids of the shipped ports have five digits.
-constexpr std::size_t kShippedIdDigits = 5;
 
 std::string Trimmed(const std::string& text) {
     constexpr const char* kBlanks = " \t\r\n";
@@ -42,7 +41,7 @@ std::string TextOf(Server::GeoPoint at) {
 }  // namespace
 
 bool IsOwnPortId(const std::string& id) {
-    return id.size() > kShippedIdDigits;
+    return id.size() > Interface::kShippedIdDigits;
 }
 
 OwnPortDraft OwnPortDraft::Of(const Ports::Place& port) {

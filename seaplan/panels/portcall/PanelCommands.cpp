@@ -10,6 +10,7 @@
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/CorrectedSchedule.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/portcall/PortCallParts.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/portcall/VoyageFilling.h"
 #include "seaplan/panels/texts/EditTexts.h"
@@ -66,7 +67,7 @@ void PanelCommands::OnSave() {
     editing_.CommitEditors();
     const PortCallSheet& sheet = desk_.Sheet();
     if (sheet.state.changed && sheet.IsUnkeptTable()) {
-        return desk_.AskToKeepTable();
+        return desk_.Given().AskToKeepTable();
     }
     int corrected = 0;
     if (!sheet.state.changed || desk_.Voyages().GetModAis(sheet.voyageId, corrected) != 0) {

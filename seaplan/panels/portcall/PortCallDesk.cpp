@@ -62,12 +62,6 @@ void PortCallDesk::TellSaved(const std::string& vi) const {
     }
 }
 
-void PortCallDesk::AskToKeepTable() const {
-    if (p_.keepTable) {
-        p_.keepTable();
-    }
-}
-
 void PortCallDesk::ResetSheet() {
     sheet_.Reset();
     ShowTexts();

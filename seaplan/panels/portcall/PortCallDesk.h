@@ -66,8 +66,6 @@ class PortCallDesk {
     /// Called with the id of a voyage after its schedule was saved.
     void SetSavedListener(std::function<void(const std::string&)> listener) { saved_ = std::move(listener); }
     void TellSaved(const std::string& vi) const;
-    /// Asks under which name the distance table is to become a voyage; nothing where nobody can.
-    void AskToKeepTable() const;
 
     /// An empty sheet for the voyage on show, with the caption and zone in force.
     void ResetSheet();

@@ -26,6 +26,13 @@ struct PortCallParts {
     std::function<CRemarkPanel*()> remarks{};
     /// Asks under which name the distance table is to be kept as a voyage; empty where nobody can.
     std::function<void()> keepTable{};
+
+    /// The same, and nothing where nobody can.
+    void AskToKeepTable() const {
+        if (keepTable) {
+            keepTable();
+        }
+    }
 };
 
 }  // namespace Tarvik::Seaplan

@@ -11,6 +11,7 @@
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/CorrectedSchedule.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
+#include "seaplan/panels/portcall/PortCallParts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 
 namespace Tarvik::Seaplan {
@@ -32,7 +33,7 @@ bool VoyageFilling::MayLeave() {
     const bool save = desk_.ToPerson().Question(TextIds::IDS_PORTCALL_SAVENEXT, desk_.LossWords());
     if (save && sheet.IsUnkeptTable()) {
         // It belongs to no voyage that a save could go to: it gets one first, and stays until then.
-        desk_.AskToKeepTable();
+        desk_.Given().AskToKeepTable();
         return false;
     }
     if (!save) {

@@ -18,7 +18,7 @@
 #include <tarvik/interface/ValueDictionary.h>
 
 #include "host/client/places/OwnPortDesk.h"
-#include "host/client/tests/TemporaryFolder.h"
+#include "testsupport/TemporaryFolder.h"
 #include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Client {
@@ -27,7 +27,7 @@ namespace Tarvik::Client {
 class OwnPortFixture : public testing::Test {
   protected:
     OwnPortFixture() {
-        options_.dataFolder = folder_.Path("data");
+        options_.dataFolder = folder_.File("data");
         options_.language = "en-US";
         session_ = ClientSession::Open(options_, error_);
     }
@@ -72,7 +72,7 @@ class OwnPortFixture : public testing::Test {
         Press("ownPortSave");
     }
 
-    TemporaryFolder folder_;
+    TestSupport::TemporaryFolder folder_;
     SessionOptions options_;
     std::string error_;
     TestSupport::RecordingMsgSink sink_;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -53,6 +54,10 @@ inline constexpr double kLeastKnots = 0.01;
 /// nor server takes it. A row's factor is a float, and the one next to the boundary itself counts as above,
 /// whichever way it rounds.
 inline constexpr double kLeastFullWeather = static_cast<double>(0.9995F);
+
+/// Ids of the ports and route points that are shipped have at most this many digits, those of a user's own
+/// ports have more.
+inline constexpr std::size_t kShippedIdDigits = 5;
 
 /// The units as they are typed in small letters, "kts or kph, nm or km, day or hour", with `inner` between
 /// the units of one quantity and `outer` between quantities.
