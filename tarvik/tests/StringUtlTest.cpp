@@ -158,6 +158,8 @@ TEST(SpaceTest, TrimsEnds) {
     EXPECT_EQ(StringUtl::TrimLeft(u"\u3000 a b\u00a0"), u"a b\u00a0");
     EXPECT_EQ(StringUtl::Trim(u" \t "), u"");
     EXPECT_EQ(StringUtl::Trim(u""), u"");
+    EXPECT_EQ(StringUtl::Trim("\u3000 \u6d77 b\r\n"), "\u6d77 b");
+    EXPECT_EQ(StringUtl::Trim(" \t "), "");
 }
 
 /// Streams print a decimal comma and grouped thousands.

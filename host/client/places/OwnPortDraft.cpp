@@ -5,6 +5,7 @@
 #include <cctype>
 
 #include <tarvik/interface/PlanTerms.h>
+#include <tarvik/util/StringUtl.h>
 #include <tarvik/util/TypedPosition.h>
 
 namespace Tarvik::Client {
@@ -14,13 +15,6 @@ namespace {
 constexpr std::size_t kMostNameBytes = 256;
 /// What would part the fields of requests and of port calls.
 constexpr const char* kSigns = "|\"\\&#";
-
-std::string Trimmed(const std::string& text) {
-    constexpr const char* kBlanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 /// Ports are found by name in any case.
 bool IsSameName(const std::string& a, const std::string& b) {
@@ -59,7 +53,7 @@ std::string OwnPortDraft::Understood() const {
 }
 
 std::optional<PortFault> OwnPortDraft::Check(const std::vector<Port>& known, const std::string& id) const {
-    const std::string named = Trimmed(name);
+    const std::string named = Util::StringUtl::Trim(name);
     if (named.empty()) {
         return PortFault::NameMissing;
     }
@@ -75,7 +69,7 @@ std::optional<PortFault> OwnPortDraft::Check(const std::vector<Port>& known, con
     if (same != known.end()) {
         return IsOwnPortId(same->id) ? PortFault::NameOwn : PortFault::NameTaken;
     }
-    if (Trimmed(position).empty()) {
+    if (Util::StringUtl::Trim(position).empty()) {
         return PortFault::PlaceMissing;
     }
     return Position() ? std::nullopt : std::optional(PortFault::PlaceUnread);
@@ -83,7 +77,7 @@ std::optional<PortFault> OwnPortDraft::Check(const std::vector<Port>& known, con
 
 Ports::Place OwnPortDraft::Kept(const Ports::Place& before) const {
     Ports::Place port = before;
-    port.name = Trimmed(name);
+    port.name = Util::StringUtl::Trim(name);
     if (!before.position || position != Of(before).position) {
         port.position = Position();
     }

@@ -234,6 +234,10 @@ std::u16string StringUtl::Trim(const std::u16string& wide) {
     return text;
 }
 
+std::string StringUtl::Trim(const std::string& narrow) {
+    return TranslateString(Trim(TranslateString(narrow)));
+}
+
 std::string StringUtl::Format(const char* format, ...) {
     std::va_list arguments;
     va_start(arguments, format);

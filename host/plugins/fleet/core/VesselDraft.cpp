@@ -22,20 +22,13 @@ constexpr std::size_t kMostCallSign = 12;
 constexpr double kLongest = 500;  ///< metres
 constexpr double kFastest = 60;   ///< knots
 
-std::string Trimmed(const std::string& text) {
-    constexpr const char* kBlanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 std::size_t Characters(const std::string& text) {
     return Util::StringUtl::TranslateString(text).size();
 }
 
 /// A number of so many digits; nothing for another text.
 std::optional<std::int32_t> Digits(const std::string& typed, std::size_t digits) {
-    const std::string text = Trimmed(typed);
+    const std::string text = Util::StringUtl::Trim(typed);
     std::int32_t number = 0;
     const char* end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
@@ -44,17 +37,17 @@ std::optional<std::int32_t> Digits(const std::string& typed, std::size_t digits)
 }
 
 std::string ImoDigits(const std::string& typed) {
-    std::string text = Trimmed(typed);
+    std::string text = Util::StringUtl::Trim(typed);
     constexpr std::string_view kMark = "IMO";
     if (text.size() > kMark.size() && (text.starts_with("IMO") || text.starts_with("imo"))) {
-        text = Trimmed(text.substr(kMark.size()));
+        text = Util::StringUtl::Trim(text.substr(kMark.size()));
     }
     return text;
 }
 
 /// 0 for an empty text, nothing for one that is no number from 0 to `most`. A comma counts as a point.
 std::optional<double> Decimal(const std::string& typed, double most) {
-    std::string text = Trimmed(typed);
+    std::string text = Util::StringUtl::Trim(typed);
     std::replace(text.begin(), text.end(), ',', '.');
     if (text.empty()) {
         return 0;
@@ -70,7 +63,7 @@ std::string WithoutQuotes(const std::string& typed) {
     constexpr std::pair<char, const char*> kFullwidth[] = {
         {'\'', "＇"}, {'"', "＂"}, {'\\', "＼"}, {'&', "＆"}};
     std::string out;
-    for (const char c : Trimmed(typed)) {
+    for (const char c : Util::StringUtl::Trim(typed)) {
         const auto* wide = std::find_if(std::begin(kFullwidth), std::end(kFullwidth),
                                         [c](const auto& pair) { return pair.first == c; });
         wide == std::end(kFullwidth) ? out += c : out += wide->second;
@@ -79,7 +72,7 @@ std::string WithoutQuotes(const std::string& typed) {
 }
 
 std::optional<Fault> NumberFault(const VesselDraft& draft) {
-    if (!Trimmed(draft.mmsi).empty()) {
+    if (!Util::StringUtl::Trim(draft.mmsi).empty()) {
         const auto mmsi = Digits(draft.mmsi, 9);
         if (!mmsi || !Interface::IsShipMmsi(*mmsi)) {
             return mmsi ? Fault::MmsiCountry : Fault::MmsiDigits;
@@ -112,17 +105,17 @@ VesselDraft VesselDraft::Of(const Interface::FleetVessel& vessel) {
 }
 
 std::optional<Fault> VesselDraft::Check() const {
-    const std::string named = Trimmed(name);
+    const std::string named = Util::StringUtl::Trim(name);
     if (named.empty() || Characters(named) > kMostName) {
         return named.empty() ? Fault::NameMissing : Fault::NameLong;
     }
     if (const auto fault = NumberFault(*this)) {
         return fault;
     }
-    if (Characters(Trimmed(callSign)) > kMostCallSign) {
+    if (Characters(Util::StringUtl::Trim(callSign)) > kMostCallSign) {
         return Fault::CallSignLong;
     }
-    if (Characters(Trimmed(type)) > kMostName) {
+    if (Characters(Util::StringUtl::Trim(type)) > kMostName) {
         return Fault::TypeLong;
     }
     if (!Decimal(length, kLongest)) {

@@ -46,6 +46,8 @@ class TARVIK_API StringUtl {
     static bool IsSpace(char32_t c);
     /// Without white space at both ends.
     static std::u16string Trim(const std::u16string& wide);
+    /// The same of UTF-8.
+    static std::string Trim(const std::string& narrow);
     /// Without white space at the beginning.
     static std::u16string TrimLeft(const std::u16string& wide);
     /// printf in the C locale.
