@@ -16,6 +16,7 @@
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/panels/portcall/PortCallState.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/tree/TreeRules.h"
 #include "seaplan/plugin/PlanAnswer.h"
