@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "seaplan/controllers/VoyageRecords.h"
 #include "tests/walk/Player.h"
 #include "tests/walk/Stored.h"
 
