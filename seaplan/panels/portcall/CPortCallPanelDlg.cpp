@@ -57,7 +57,7 @@ void CPortCallPanelDlg::ApplyLanguage() {
 }
 
 void CPortCallPanelDlg::ShowBesideTree() {
-    in_->desk.PlaceBesideTree();
+    PlaceBesideTree(in_->desk);
     in_->desk.View().Show();
 }
 

@@ -27,7 +27,7 @@ int DistanceTable::Open() {
     if (filling_.OpenDistanceTable() != 0) {
         return -1;
     }
-    desk_.PlaceBesideTree();
+    PlaceBesideTree(desk_);
     desk_.View().Show();
     return 0;
 }

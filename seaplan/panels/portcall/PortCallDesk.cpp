@@ -133,4 +133,8 @@ Boxes& PortCallDesk::ToPerson() {
     return boxes_;
 }
 
+void PlaceBesideTree(const PortCallDesk& desk) {
+    desk.View().MoveTo(BesideTree(desk.Given().treePlace()));
+}
+
 }  // namespace Tarvik::Seaplan

@@ -93,8 +93,6 @@ class PortCallDesk {
     /// Another line about the rows on show.
     void SetNote(PortCallNote note);
 
-    /// Moves the window to its place beside the tree.
-    void PlaceBesideTree() { p_.view.MoveTo(BesideTree(p_.treePlace())); }
     /// Boxes to the person, over a window that is up to date.
     Boxes& ToPerson();
 
@@ -115,5 +113,8 @@ class PortCallDesk {
     bool bookOpen_ = false;
     int reports_ = 0;  ///< reports under way, one inside the other
 };
+
+/// Moves the panel's window to its place beside the tree.
+void PlaceBesideTree(const PortCallDesk& desk);
 
 }  // namespace Tarvik::Seaplan

@@ -54,10 +54,9 @@ struct SeaplanTreeCtrl::Parts {
           undo(parts,
                {[&tree] { return tree.ReloadTree(); },
                 [&tree](TreeRow row, const std::string& item) { return tree.OnItemClicked(row, item); }}),
-          ofCategory(categories.Table()),
-          ofVoyage(voyages.Table()) {
-        ofVoyage.merge(vessels.Table());
-        ofVoyage.merge(tracks.Table());
+          commands{categories.Table(), voyages.Table()} {
+        commands.ofVoyage.merge(vessels.Table());
+        commands.ofVoyage.merge(tracks.Table());
     }
 
     TreeParts parts;
@@ -69,8 +68,10 @@ struct SeaplanTreeCtrl::Parts {
     NoteCommands notes;
     TreeKeys keys;
     TreeUndo undo;
-    TreeCommands ofCategory;
-    TreeCommands ofVoyage;
+    struct Commands {
+        TreeCommands ofCategory;
+        TreeCommands ofVoyage;
+    } commands;
 };
 
 SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
@@ -167,7 +168,7 @@ void SeaplanTreeCtrl::ApplyLanguage() {
 }
 
 bool SeaplanTreeCtrl::HasCommand(const std::string& item) const {
-    return CommandOf(item, in_->ofCategory, in_->ofVoyage) != nullptr ||
+    return CommandOf(item, in_->commands.ofCategory, in_->commands.ofVoyage) != nullptr ||
            CommandOf(item, in_->notes.OfCategory(), in_->notes.OfVoyage()) != nullptr;
 }
 
@@ -187,8 +188,9 @@ int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
     if (PortCallOpener* panel = isCategory ? nullptr : in_->parts.PortCalls()) {
         panel->SetVoyage(in_->parts.selection.Voyage().vi);
     }
-    const TreeCommand* command = isCategory ? CommandOf(item, in_->ofCategory, in_->notes.OfCategory())
-                                            : CommandOf(item, in_->ofVoyage, in_->notes.OfVoyage());
+    const TreeCommand* command = isCategory
+                                     ? CommandOf(item, in_->commands.ofCategory, in_->notes.OfCategory())
+                                     : CommandOf(item, in_->commands.ofVoyage, in_->notes.OfVoyage());
     if (command == nullptr) {
         return 1;
     }
