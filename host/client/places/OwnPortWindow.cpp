@@ -121,6 +121,10 @@ void OwnPortWindow::ShowPorts(const std::vector<Ports::Place>& ports) {
             table_->selectRow(table_->rowCount() - 1);
         }
     }
+    // Keys alone cannot select the only row.
+    if (Chosen().empty() && !ports.empty()) {
+        table_->selectRow(table_->rowCount() - 1);
+    }
     Tell({});
     UpdateButtons();
 }

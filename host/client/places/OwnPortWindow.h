@@ -26,7 +26,7 @@ class OwnPortWindow : public Skin::ToolWindow {
 
     OwnPortWindow(QWidget* mainWindow, Reports reports);
 
-    /// Shows these ports; the selection stays on the port that it was on.
+    /// Shows these ports; the selection stays on the port that it was on, else it is the last one.
     void ShowPorts(const std::vector<Ports::Place>& ports);
     /// A line below the list; empty for none. A list without ports tells what to do first.
     void Tell(const QString& note);
