@@ -2,6 +2,7 @@
 // The voyage tree in its real window over replies that are at hand: what a person waits for is the time until
 // the rows are laid out and drawn. Needs no display: QT_QPA_PLATFORM is "offscreen" unless it is given.
 #include <QApplication>
+#include <QScrollBar>
 #include <algorithm>
 #include <chrono>
 #include <optional>
@@ -28,6 +29,9 @@ namespace {
 
 using namespace Tarvik;
 using namespace Tarvik::Seaplan;
+/// Pixels that one notch of a mouse's wheel moves the rows.
+constexpr int kWheelStep = 90;
+
 using Clock = std::chrono::steady_clock;
 
 double MillisecondsSince(Clock::time_point start) {
@@ -56,6 +60,9 @@ class OpenPanel {
         QApplication::processEvents();
         views_.VoyageWindow()->Tree().grab();
     }
+    QScrollBar& ScrollBar() { return *views_.VoyageWindow()->Tree().verticalScrollBar(); }
+    /// Paints the window's pixels at once, whether or not they changed.
+    void Paint() { views_.VoyageWindow()->Tree().viewport()->repaint(); }
     /// One turn of what is done between events.
     bool Tick() {
         if (timer_.Running() == 0) {
@@ -123,6 +130,27 @@ void SearchKey(benchmark::State& state) {
     }
 }
 BENCHMARK(SearchKey)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+/// One step of the wheel over unfolded categories, until the whole window is painted anew: a sixtieth of a
+/// second is what a person sees as flowing.
+void ScrollFrame(benchmark::State& state) {
+    OpenPanel panel(state.range(0), 100);
+    for (TreeRow row = panel.Rows().GetRootItem(); row != kNoRow;
+         row = panel.Rows().GetNextSiblingItem(row)) {
+        panel.Rows().Expand(row, true);
+    }
+    panel.Draw();
+    QScrollBar& bar = panel.ScrollBar();
+    double worst = 0;
+    for (auto _ : state) {
+        const auto start = Clock::now();
+        bar.setValue(bar.value() == bar.maximum() ? 0 : bar.value() + kWheelStep);
+        panel.Paint();
+        worst = std::max(worst, MillisecondsSince(start));
+    }
+    state.counters["worst_ms"] = worst;
+}
+BENCHMARK(ScrollFrame)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->Iterations(600);
 
 }  // namespace
 

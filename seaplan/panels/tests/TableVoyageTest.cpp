@@ -82,7 +82,7 @@ TEST_F(TableVoyageTest, AVoyageGoesIntoTheCategoryOfThisName) {
     EXPECT_EQ(desk.Count(Ask::kAddCategory), 0);
     EXPECT_EQ(parts.context.voyageNames.at("Kept"), InUse);
     EXPECT_THAT(tree.Shown(), ElementsAre("Bulk", "  Used", "  Kept"));
-    EXPECT_EQ(tree.Row(tree.Find("Bulk"))->items.at("cat.statistic").text, "  (2)");
+    EXPECT_EQ(tree.Row(tree.Find("Bulk"))->items.At("cat.statistic").text, "  (2)");
     EXPECT_EQ(Create("Bulk", "Gone"), 0) << "the name of a destroyed voyage is free";
 }
 

@@ -17,7 +17,7 @@ namespace {
 class TreeStateTest : public TreeFixture {
   protected:
     std::string Count(const std::string& category) const {
-        return tree.Row(tree.Find(category))->items.at(Item::kCount).text;
+        return tree.Row(tree.Find(category))->items.At(Item::kCount).text;
     }
     long HiddenTracks() const { return static_cast<long>(desk.host.hiddenTracks.size()); }
 };
@@ -80,7 +80,7 @@ TEST_F(TreeStateTest, OnePortCallShowsTheLinkAndTheLastArrivalIsTheEndDate) {
     voyage.portCalls = TwoCalls(1);
     voyage.portCalls[1].etd = Util::_datetime_t(0, 0, 8, 9, 3, 2024);
     EXPECT_EQ(ctrl.ShowDates(tree.Find("One"), voyage), 0);
-    EXPECT_EQ(tree.Row(tree.Find("One"))->items.at(Item::kDates).values.at("Enddate"), "2024-03-02");
+    EXPECT_EQ(tree.Row(tree.Find("One"))->items.At(Item::kDates).values.at("Enddate"), "2024-03-02");
 }
 
 TEST_F(TreeStateTest, CountsAreOfTheVoyagesInUse) {

@@ -132,7 +132,7 @@ TEST_F(VesselEditorTest, AChosenVesselIsOfTheFleetAndShowsNoAlert) {
     const TreeRow row = tree.Find("A");
     EXPECT_FALSE(tree.IsItemVisible(row, "Voyage_Alert"));
     EXPECT_FALSE(tree.IsItemVisible(row, "Voyage_AssignShip"));
-    EXPECT_EQ(tree.Row(row)->items.at("Voyage_ShipInfo").values.at("ShipName"), "Nora");
+    EXPECT_EQ(tree.Row(row)->items.At("Voyage_ShipInfo").values.at("ShipName"), "Nora");
 }
 
 TEST_F(VesselEditorTest, EnterTakesTheListsRowOrTheTypedNameWithTheAlert) {

@@ -156,7 +156,7 @@ TEST_F(TreeFixture, DatesNeedTwoPortCallsAndStay) {
     EXPECT_TRUE(Shows("One", "Voyage_setPortCall"));
     Voyage("One").portCalls = TwoCalls(1);
     Press("One");
-    const TreeItem& dates = tree.Row(tree.Find("One"))->items.at("Voyage_Date");
+    const TreeItem& dates = tree.Row(tree.Find("One"))->items.At("Voyage_Date");
     EXPECT_TRUE(dates.visible);
     EXPECT_EQ(dates.values.at("Saildate"), "2024-03-01");
     EXPECT_EQ(dates.values.at("Enddate"), "2024-03-02");
@@ -169,7 +169,7 @@ TEST_F(TreeFixture, AStatusIsKeptUntilItIsComputedAnew) {
     ctrl.ReloadTree();
     const std::string vi = Id("Trip");
     const auto image = [&] {
-        return tree.Row(tree.Find("Trip"))->items.at("Voyage.child.svr2").values.at("Voyage_Status");
+        return tree.Row(tree.Find("Trip"))->items.At("Voyage.child.svr2").values.at("Voyage_Status");
     };
     ASSERT_EQ(ctrl.ShowStatus(vi), 0);
     EXPECT_EQ(image(), "#Voyage_status_plan");
@@ -191,7 +191,7 @@ TEST_F(TreeFixture, CountsSkipAPinnedVoyageThatCouldNotBeDrawnUntilTheyAreRefres
     desk.AddVoyage("Full", {.name = "Pinned", .pinned = true});
     desk.AddVoyage("Full", {.name = "Plain"});
     ctrl.ReloadTree();
-    const auto count = [&] { return tree.Row(tree.Find("Full"))->items.at("cat.statistic").text; };
+    const auto count = [&] { return tree.Row(tree.Find("Full"))->items.At("cat.statistic").text; };
     EXPECT_EQ(count(), "  (1)");
     Click("Full", Item::kAddVoyage);
     EXPECT_EQ(count(), "  (3)");
@@ -360,8 +360,8 @@ TEST_F(TreeFixture, ALanguageSwitchRenewsTipsAndStatuses) {
     ctrl.ShowStatus(Id("A"));
     texts.prefix = u"zh ";
     ctrl.ApplyLanguage();
-    EXPECT_EQ(tree.Row(tree.Find("A"))->items.at("Voyage.child.svr2").toolTip, "zh IDS_TREESTATUS_BFVOY");
-    EXPECT_EQ(tree.Row(tree.Find("Full"))->items.at("Voyage.parent.svr3").toolTip, "zh IDS_ADDVOYAGE");
+    EXPECT_EQ(tree.Row(tree.Find("A"))->items.At("Voyage.child.svr2").toolTip, "zh IDS_TREESTATUS_BFVOY");
+    EXPECT_EQ(tree.Row(tree.Find("Full"))->items.At("Voyage.parent.svr3").toolTip, "zh IDS_ADDVOYAGE");
 }
 
 TEST_F(TreeFixture, TheSortPanelShowsTheKeyAndHidesWhenItHasSorted) {

@@ -127,8 +127,20 @@ void RowTexts::Apply(TreeWidget& tree, TreeRow row) const {
     }
 }
 
+void RowTexts::ApplyToStyles(TreeWidget& tree) const {
+    for (const auto& [style, tips] : tips_) {
+        for (const Tip& tip : tips) {
+            tree.SetToolTipsOfStyle(style, tip.item, tip.text);
+        }
+    }
+    for (const Label& label : labels_) {
+        tree.SetDrawItemValueOfStyle(kVoyageStyle, label.item, label.value, label.text);
+    }
+}
+
 void ApplyAllRowTexts(TreeWidget& tree) {
     const RowTexts texts;
+    texts.ApplyToStyles(tree);
     for (TreeRow row = tree.GetRootItem(); row != kNoRow; row = tree.GetNextSiblingItem(row)) {
         texts.Apply(tree, row);
         for (TreeRow child = tree.GetChildItem(row); child != kNoRow;

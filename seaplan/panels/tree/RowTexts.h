@@ -13,8 +13,8 @@ namespace Tarvik::Seaplan {
 
 struct TreeContext;
 
-/// Labels and tips of rows in the language in force when this is made: asking for each row costs more than
-/// the row itself, so whoever makes many rows keeps it as long as that takes.
+/// Labels and tips of rows in the language in force when this is made. They are given to the styles before
+/// rows are made: asking for each row costs more than the row itself.
 class RowTexts {
   public:
     struct Tip {
@@ -28,6 +28,8 @@ class RowTexts {
     };
 
     RowTexts();
+    /// Gives the texts to all rows that are made from now on.
+    void ApplyToStyles(TreeWidget& tree) const;
     /// Gives a row the texts of its style.
     void Apply(TreeWidget& tree, TreeRow row) const;
 

@@ -11,9 +11,8 @@
 namespace Tarvik::Seaplan {
 
 Outcome<RowsStep> TreeBuilder::RebuildAll() {
-    texts_.emplace();
+    ReadTexts();
     const Outcome<RowsStep> result = MakeAll();
-    texts_.reset();
     TellMade();
     return result;
 }
@@ -21,14 +20,6 @@ Outcome<RowsStep> TreeBuilder::RebuildAll() {
 void TreeBuilder::TellMade() const {
     if (c_.rowsMade) {
         c_.rowsMade();
-    }
-}
-
-void TreeBuilder::ApplyTexts(TreeRow row) const {
-    if (texts_) {
-        texts_->Apply(c_.tree, row);
-    } else {
-        RowTexts().Apply(c_.tree, row);
     }
 }
 
@@ -47,7 +38,7 @@ Outcome<RowsStep> TreeBuilder::MakeAll() {
         if (state->second != InUse) {
             continue;
         }
-        const TreeRow row = AddCategoryRow(category->second);
+        const TreeRow row = MakeCategoryRow(category->second);
         if (category->second.crk > 0) {
             c_.tree.SetDrawItemVisibleEx(row, Item::kCategoryNoRemark, false);
             c_.tree.SetDrawItemVisibleEx(row, Item::kCategoryRemark, true);
@@ -70,7 +61,7 @@ Outcome<RowsStep> TreeBuilder::AddEmptyCategories(const std::vector<VoyCategory*
             return RowsStep::Category;
         }
         if (state->second == InUse) {
-            AddCategoryRow(category);
+            MakeCategoryRow(category);
         }
         if (state->second == InRecycleBin) {
             emptyDeleted.push_back(&category);
@@ -79,11 +70,9 @@ Outcome<RowsStep> TreeBuilder::AddEmptyCategories(const std::vector<VoyCategory*
     if (!c_.showDeleted) {
         return {};
     }
+    emptyDeleted.insert(emptyDeleted.end(), deleted.begin(), deleted.end());
     for (VoyCategory* category : emptyDeleted) {
-        AddDeletedCategoryRow(*category);
-    }
-    for (VoyCategory* category : deleted) {
-        AddDeletedCategoryRow(*category);
+        MakeRow(category->cn, kDeletedCategoryStyle, kNoRow, category);
     }
     return {};
 }
@@ -94,9 +83,8 @@ Outcome<RowsStep> TreeBuilder::RebuildCategory(const std::string& ci) {
         return RowsStep::Row;
     }
     c_.tree.DeleteChildItems(row);
-    texts_.emplace();
+    ReadTexts();
     const Outcome<RowsStep> result = AddVoyages(row, ci, DateSource::PortCalls);
-    texts_.reset();
     if (!result.Failed()) {
         status_.ShowAll(row, ci);
     }
@@ -152,7 +140,7 @@ Outcome<RowsStep> TreeBuilder::AddVoyages(TreeRow row, const std::string& ci, Da
     c_.tree.SetDrawItemVisibleEx(row, Item::kAscending, direction == Ascending);
     c_.tree.SetDrawItemVisibleEx(row, Item::kDescending, direction == Descending);
     for (const std::string& vi : inUse) {
-        if (const auto added = AddVoyageRow(row, vi); added.Failed()) {
+        if (const auto added = MakeVoyageRow(row, vi); added.Failed()) {
             return added;
         }
     }
@@ -165,36 +153,48 @@ Outcome<RowsStep> TreeBuilder::AddDeletedVoyages(TreeRow row, const std::vector<
         if (voyage == nullptr) {
             return RowsStep::Voyage;
         }
-        const TreeRow child = c_.tree.InsertItem(voyage->vn, kDeletedVoyageStyle, row);
-        c_.tree.SetItemData(child, voyage);
-        ApplyTexts(child);
+        MakeRow(voyage->vn, kDeletedVoyageStyle, row, voyage);
     }
     return {};
 }
 
-TreeRow TreeBuilder::AddCategoryRow(VoyCategory& category) {
-    const TreeRow row = c_.tree.InsertItem(category.cn, kCategoryStyle, kNoRow);
-    c_.tree.SetItemData(row, &category);
-    c_.tree.SetDrawItemValue(row, Item::kCount, CountText(0));
-    ApplyTexts(row);
+void TreeBuilder::ReadTexts() const {
+    RowTexts().ApplyToStyles(c_.tree);
+}
+
+TreeRow TreeBuilder::MakeRow(const std::string& text, const char* style, TreeRow parent, void* record) {
+    const TreeRow row = c_.tree.InsertItem(text, style, parent);
+    c_.tree.SetItemData(row, record);
     return row;
+}
+
+TreeRow TreeBuilder::MakeCategoryRow(VoyCategory& category) {
+    const TreeRow row = MakeRow(category.cn, kCategoryStyle, kNoRow, &category);
+    c_.tree.SetDrawItemValue(row, Item::kCount, CountText(0));
+    return row;
+}
+
+TreeRow TreeBuilder::AddCategoryRow(VoyCategory& category) {
+    ReadTexts();
+    return MakeCategoryRow(category);
 }
 
 TreeRow TreeBuilder::AddDeletedCategoryRow(VoyCategory& category) {
-    const TreeRow row = c_.tree.InsertItem(category.cn, kDeletedCategoryStyle, kNoRow);
-    c_.tree.SetItemData(row, &category);
-    ApplyTexts(row);
-    return row;
+    ReadTexts();
+    return MakeRow(category.cn, kDeletedCategoryStyle, kNoRow, &category);
 }
 
 Outcome<RowsStep> TreeBuilder::AddVoyageRow(TreeRow categoryRow, const std::string& vi) {
+    ReadTexts();
+    return MakeVoyageRow(categoryRow, vi);
+}
+
+Outcome<RowsStep> TreeBuilder::MakeVoyageRow(TreeRow categoryRow, const std::string& vi) {
     VoyInfo* voyage = c_.store.FindVoyage(vi);
     if (voyage == nullptr) {
         return RowsStep::Voyage;
     }
-    const TreeRow row = c_.tree.InsertItem(voyage->vn, kVoyageStyle, categoryRow);
-    c_.tree.SetItemData(row, voyage);
-    ApplyTexts(row);
+    const TreeRow row = MakeRow(voyage->vn, kVoyageStyle, categoryRow, voyage);
     ShowFlags(row, *voyage);
     if (!voyage->vsn.empty()) {
         status_.ShowVessel(row, voyage->vsn, voyage->vsi.empty());

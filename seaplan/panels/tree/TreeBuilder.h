@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,11 +40,14 @@ class TreeBuilder {
     Outcome<RowsStep> AddDeletedVoyages(TreeRow row, const std::vector<std::string>& deleted);
     Outcome<RowsStep> AddEmptyCategories(const std::vector<VoyCategory*>& deleted);
     void ShowFlags(TreeRow row, const VoyInfo& voyage);
-    void ApplyTexts(TreeRow row) const;
+    /// Labels and tips of the language in force for the rows that are made next.
+    void ReadTexts() const;
+    TreeRow MakeRow(const std::string& text, const char* style, TreeRow parent, void* record);
+    TreeRow MakeCategoryRow(VoyCategory& category);
+    Outcome<RowsStep> MakeVoyageRow(TreeRow categoryRow, const std::string& vi);
 
     TreeContext& c_;
     TreeStatus& status_;
-    std::optional<RowTexts> texts_;  ///< while many rows are made
 };
 
 }  // namespace Tarvik::Seaplan

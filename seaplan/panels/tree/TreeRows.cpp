@@ -76,8 +76,9 @@ void TreeRows::SetDrawItemValue(TreeRow row, const std::string& item, const std:
     if (state == nullptr) {
         return;
     }
-    state->items[item].text = text;
-    RowChanged(row);
+    if (state->items.SetText(item, text)) {
+        RowChanged(row);
+    }
 }
 
 void TreeRows::SetDrawItemValueOfEventItem(TreeRow row, const std::string& item, const std::string& value,
@@ -86,8 +87,9 @@ void TreeRows::SetDrawItemValueOfEventItem(TreeRow row, const std::string& item,
     if (state == nullptr) {
         return;
     }
-    state->items[item].values[value] = text;
-    RowChanged(row);
+    if (state->items.SetValue(item, value, text)) {
+        RowChanged(row);
+    }
 }
 
 void TreeRows::SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) {
@@ -95,14 +97,25 @@ void TreeRows::SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool v
     if (state == nullptr) {
         return;
     }
-    state->items[item].visible = visible;
-    RowChanged(row);
+    if (state->items.SetVisible(item, visible)) {
+        RowChanged(row);
+    }
 }
 
 void TreeRows::SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) {
     if (TreeRowState* state = Find(row)) {
-        state->items[item].toolTip = text;
+        state->items.SetToolTip(item, text);
     }
+}
+
+void TreeRows::SetToolTipsOfStyle(const std::string& style, const std::string& item,
+                                  const std::string& text) {
+    ItemsOfStyle(style)[item].toolTip = text;
+}
+
+void TreeRows::SetDrawItemValueOfStyle(const std::string& style, const std::string& item,
+                                       const std::string& value, const std::string& text) {
+    ItemsOfStyle(style)[item].values[value] = text;
 }
 
 bool TreeRows::IsItemVisible(TreeRow row, const std::string& item) const {
@@ -110,8 +123,8 @@ bool TreeRows::IsItemVisible(TreeRow row, const std::string& item) const {
     if (state == nullptr) {
         return false;
     }
-    const auto it = state->items.find(item);
-    return it != state->items.end() && it->second.visible;
+    const TreeItem* shown = state->items.Find(item);
+    return shown != nullptr && shown->visible;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -6,17 +6,10 @@
 #include <unordered_map>
 #include <vector>
 
+#include "seaplan/panels/tree/TreeItems.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 
 namespace Tarvik::Seaplan {
-
-/// One named item of a row.
-struct TreeItem {
-    bool visible = true;
-    std::string text;                           ///< value of a plain item
-    std::map<std::string, std::string> values;  ///< named values inside an event item
-    std::string toolTip;
-};
 
 /// State of one row.
 struct TreeRowState {
@@ -28,7 +21,7 @@ struct TreeRowState {
     bool expanded = false;
     RowFinding finding = RowFinding::None;
     std::vector<TreeRow> children;
-    std::map<std::string, TreeItem> items;
+    TreeItems items;
 };
 
 /// Height of a row in pixels by its style; rows in use grow when they are selected.
@@ -38,6 +31,7 @@ int RowHeight(const TreeRowState& row, bool selected);
 /// window follows the hooks; each is called after the change, RowRemoving before it.
 class TreeShape : public TreeWidget {
   public:
+    TreeShape();
     TreeRow InsertItem(const std::string& text, const char* style, TreeRow parent) override;
     void DeleteItem(TreeRow row) override;
     void DeleteChildItems(TreeRow row) override;
@@ -60,8 +54,11 @@ class TreeShape : public TreeWidget {
     virtual void RowsCleared() {}
     virtual void RowSelected(TreeRow) {}
     TreeRowState* Find(TreeRow row);
+    /// What the rows of a style begin with; of an unknown style what a voyage in the recycle bin has.
+    StyleItems& ItemsOfStyle(const std::string& style);
 
   private:
+    std::map<std::string, StyleItems> styles_;
     std::unordered_map<TreeRow, TreeRowState> rows_;
     std::vector<TreeRow> roots_;
     TreeRow next_ = 1;
@@ -83,6 +80,10 @@ class TreeRows : public TreeShape {
     void SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) override;
     bool IsItemVisible(TreeRow row, const std::string& item) const override;
     void SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) override;
+    void SetToolTipsOfStyle(const std::string& style, const std::string& item,
+                            const std::string& text) override;
+    void SetDrawItemValueOfStyle(const std::string& style, const std::string& item, const std::string& value,
+                                 const std::string& text) override;
 
   protected:
     virtual void RowChanged(TreeRow) {}

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <string_view>
 
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/TreeRows.h"
@@ -31,30 +30,26 @@ constexpr ItemDefault kDeletedCategoryItems[] = {{Item::kRecoverCategory, true},
 constexpr ItemDefault kDeletedVoyageItems[] = {{Item::kRecoverVoyage, true}, {Item::kClearVoyage, true}};
 
 template <std::size_t N>
-std::map<std::string, TreeItem> ItemsOf(const ItemDefault (&defaults)[N]) {
-    std::map<std::string, TreeItem> items;
+StyleItems ItemsOf(const ItemDefault (&defaults)[N]) {
+    StyleItems items;
     for (const ItemDefault& item : defaults) {
         items[item.name].visible = item.visible;
     }
     return items;
 }
 
-/// Made once: a copy costs less than naming every item of every row anew.
-const std::map<std::string, TreeItem>& ItemsOfStyle(std::string_view style) {
-    static const std::map<std::string, TreeItem> kOfCategory = ItemsOf(kCategoryItems);
-    static const std::map<std::string, TreeItem> kOfVoyage = ItemsOf(kVoyageItems);
-    static const std::map<std::string, TreeItem> kOfDeletedCategory = ItemsOf(kDeletedCategoryItems);
-    static const std::map<std::string, TreeItem> kOfDeletedVoyage = ItemsOf(kDeletedVoyageItems);
-    if (style == kCategoryStyle) {
-        return kOfCategory;
-    }
-    if (style == kVoyageStyle) {
-        return kOfVoyage;
-    }
-    return style == kDeletedCategoryStyle ? kOfDeletedCategory : kOfDeletedVoyage;
-}
-
 }  // namespace
+
+TreeShape::TreeShape()
+    : styles_{{kCategoryStyle, ItemsOf(kCategoryItems)},
+              {kVoyageStyle, ItemsOf(kVoyageItems)},
+              {kDeletedCategoryStyle, ItemsOf(kDeletedCategoryItems)},
+              {kDeletedVoyageStyle, ItemsOf(kDeletedVoyageItems)}} {}
+
+StyleItems& TreeShape::ItemsOfStyle(const std::string& style) {
+    const auto known = styles_.find(style);
+    return known == styles_.end() ? styles_.at(kDeletedVoyageStyle) : known->second;
+}
 
 TreeRowState* TreeShape::Find(TreeRow row) {
     const auto it = rows_.find(row);
@@ -75,7 +70,7 @@ TreeRow TreeShape::InsertItem(const std::string& text, const char* style, TreeRo
     state.text = text;
     state.style = style;
     state.parent = parent;
-    state.items = ItemsOfStyle(style);
+    state.items = TreeItems(ItemsOfStyle(state.style));
     std::vector<TreeRow>& siblings = parent == kNoRow ? roots_ : Find(parent)->children;
     if (!siblings.empty()) {
         Find(siblings.back())->next = row;

@@ -58,6 +58,12 @@ class TreeWidget : public BoxOwner, public BusySign {
     /// Whether a row shows an item; an item that the row does not have counts as hidden.
     virtual bool IsItemVisible(TreeRow row, const std::string& item) const = 0;
     virtual void SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) = 0;
+    // What the rows of a style show where they were given nothing of their own. Rows on show are not painted
+    // for it.
+    virtual void SetToolTipsOfStyle(const std::string& style, const std::string& item,
+                                    const std::string& text) = 0;
+    virtual void SetDrawItemValueOfStyle(const std::string& style, const std::string& item,
+                                         const std::string& value, const std::string& text) = 0;
 
     /// Shows another plug-in's window, by its opaque handle, 18 left of and 5 above the pointer, in its own
     /// size.

@@ -64,8 +64,8 @@ class RowItems {
         : row_(row), rect_(rect), hasCommand_(hasCommand), parts_(width) {}
 
     const TreeItem* Visible(const char* name) const {
-        const auto it = row_.items.find(name);
-        return it == row_.items.end() || !it->second.visible ? nullptr : &it->second;
+        const TreeItem* item = row_.items.Find(name);
+        return item == nullptr || !item->visible ? nullptr : item;
     }
     QString Value(const char* item, const char* name) const {
         const TreeItem* found = Visible(item);
