@@ -78,6 +78,22 @@ TEST_F(CorrectingTreeTest, EveryMissingConditionIsNamed) {
     EXPECT_THAT(panel.calls, Not(Contains("Correction")));
 }
 
+// Both times are read as unsigned, so that the year 2038 is no border.
+TEST_F(CorrectingTreeTest, TimesBehindTheYear2038AreComparedAsTheyAre) {
+    Voyage("A").vsi = "7";
+    Voyage("A").vsn = "ANNA";
+    Press("A");
+    SeeShip(Voyage("A"));
+    Voyage("A").lastPosTime = INT32_MAX;
+    Voyage("A").lastAisModTime = INT32_MIN;
+    EXPECT_EQ(ClickModify(), "IDS_TREE_NOTUPDATEFORAISMOD");
+    Voyage("A").lastPosTime = INT32_MIN;
+    EXPECT_EQ(ClickModify(), "IDS_TREE_NOTUPDATEFORAISMOD") << "the same second is not younger";
+    Voyage("A").lastAisModTime = INT32_MAX;
+    EXPECT_EQ(ClickModify(), "") << "a second younger";
+    EXPECT_THAT(panel.calls, Contains("Correction"));
+}
+
 TEST_F(CorrectingTreeTest, NothingIsCorrectedWhereChangesHaveToStay) {
     Voyage("A").vsi = "7";
     Voyage("A").vsn = "ANNA";

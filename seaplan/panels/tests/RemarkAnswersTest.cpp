@@ -6,6 +6,7 @@ namespace Tarvik::Seaplan {
 
 using ::testing::ElementsAre;
 using ::testing::Pair;
+using ::testing::UnorderedElementsAre;
 
 namespace {
 
@@ -60,6 +61,63 @@ TEST_F(RemarkAnswersTest, TheMarkGoesOffWithTheLastRemarkAndOnAgainWithTheNext) 
     ClickDelete(0);
     Add("Another");
     EXPECT_THAT(marks, ElementsAre(Pair(7, false), Pair(7, true)));
+}
+
+TEST_F(RemarkAnswersTest, DeletingTheRowBelowAChangedOneKeepsItsTextUnasked) {
+    OpenWith({"One", "Two"});
+    TypeBody("Other");
+    messages.Answer(Answer::Yes);
+    ClickDelete(1);
+    EXPECT_THAT(view.Names(), ElementsAre("Two"));
+    EXPECT_EQ(messages.messages.size(), 1U) << "the row that stays selected is the same";
+    EXPECT_EQ(view.body, "Other");
+    EXPECT_TRUE(view.state.canSave);
+    Save();
+    EXPECT_THAT(Stored(), ElementsAre("Two|Other"));
+}
+
+TEST_F(RemarkAnswersTest, DeletingARowBetweenAsksForTheChangedTextAndSavesItToItsOwn) {
+    OpenWith({"One", "Two", "Three"});
+    TypeBody("Other");
+    messages.Answer(Answer::Yes);
+    messages.Answer(Answer::Yes);
+    ClickDelete(1);
+    ASSERT_EQ(messages.messages.size(), 2U);
+    EXPECT_EQ(messages.messages[0].text, "IDS_DELREMARKTIP");
+    EXPECT_EQ(messages.messages[1].text, "IDS_REMARKSAVETIP");
+    EXPECT_THAT(view.Names(), ElementsAre("Three", "One"));
+    EXPECT_EQ(view.current, 1);
+    EXPECT_EQ(view.body, "About One");
+    EXPECT_THAT(Stored(), UnorderedElementsAre("One|About One", "Three|Other"));
+}
+
+TEST_F(RemarkAnswersTest, DeletingTheRowAboveSavesAChangedTextToItsOwnRemark) {
+    OpenWith({"One", "Two", "Three"});
+    Select(2);
+    TypeBody("Other");
+    messages.Answer(Answer::Yes);
+    messages.Answer(Answer::Yes);
+    ClickDelete(0);
+    ASSERT_EQ(messages.messages.size(), 2U);
+    EXPECT_THAT(view.Names(), ElementsAre("Two", "One"));
+    EXPECT_EQ(view.current, 0);
+    EXPECT_EQ(view.body, "About Two");
+    EXPECT_THAT(Stored(), UnorderedElementsAre("One|Other", "Two|About Two"));
+}
+
+TEST_F(RemarkAnswersTest, ATextThatCannotBeSavedStaysWhenAnotherRowIsDeleted) {
+    OpenWith({"One", "Two", "Three"});
+    Select(2);
+    TypeBody("Other");
+    desk.Refuse(Ask::kChangeRemark);
+    messages.Answer(Answer::Yes);
+    messages.Answer(Answer::Yes);
+    ClickDelete(0);
+    EXPECT_EQ(LastMessage(), "IDS_TIP_MODIFYRMKFAIL");
+    EXPECT_THAT(view.Names(), ElementsAre("Two", "One"));
+    EXPECT_EQ(view.current, 1) << "the selection is put back";
+    EXPECT_EQ(view.body, "Other");
+    EXPECT_TRUE(view.state.canSave);
 }
 
 TEST_F(RemarkAnswersTest, ClosingKeepsWhatWasReadForTheNextOpening) {

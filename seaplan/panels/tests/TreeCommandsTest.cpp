@@ -147,6 +147,20 @@ TEST_F(TreeCommandsTest, ACategoryDeletionWalksOnBehindAVoyageThatCannotBeUnpinn
     EXPECT_EQ(ctrl.Context().categoryNames["Full"], InRecycleBin);
 }
 
+// The lines of a voyage without an id cannot be taken off the chart.
+TEST_F(TreeCommandsTest, ACategoryDeletionWalksOnBehindAVoyageThatCannotBeTakenOffTheChart) {
+    store.voyages[""].vr = 1;
+    store.categoryVoyages[CategoryId("Full")][""] = InUse;
+    const std::vector<std::string> pinned = {Id("A"), Id("B")};
+    EXPECT_EQ(Click("Full", Item::kDeleteCategory), 1);
+    EXPECT_EQ(desk.Count(Ask::kCloseRoute), 2) << "of the others alone";
+    for (const std::string& vi : pinned) {
+        EXPECT_EQ(desk.Count(Ask::kCloseRoute, vi), 1);
+        EXPECT_GT(Removals(vi), 0);
+    }
+    EXPECT_EQ(ctrl.Context().categoryNames["Full"], InRecycleBin);
+}
+
 TEST_F(TreeCommandsTest, EveryClickOnAVoyageSetsItForThePortCalls) {
     EXPECT_EQ(Click("A", "no.such.item"), 1);
     EXPECT_EQ(Click("Binned", "no.such.item"), 1);
