@@ -144,6 +144,18 @@ TEST_F(TreeSearchTest, PortsAreFoundOnceTheyHaveBeenRead) {
     EXPECT_THAT(Rows(), ElementsAre("Bulk", "  Autumn*"));
 }
 
+// The link to port calls would empty those that the voyage has.
+TEST_F(TreeSearchTest, AnAnswerWhosePortsAreKnownShowsItsDatesAndNoLink) {
+    Search("gdansk");
+    ReadAll();
+    const long asked = static_cast<long>(desk.host.requests.size());
+    search.OnStep(1);
+    ASSERT_EQ(SelectedText(), "Anna's");
+    EXPECT_TRUE(Shows("Anna's", Item::kDates));
+    EXPECT_FALSE(Shows("Anna's", Item::kSetPortCall));
+    EXPECT_EQ(static_cast<long>(desk.host.requests.size()), asked);
+}
+
 TEST_F(TreeSearchTest, NothingIsAskedFromTheServerTwice) {
     Search("gdansk");
     ReadAll();

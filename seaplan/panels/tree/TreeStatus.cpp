@@ -9,6 +9,7 @@
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/RowDates.h"
 #include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
@@ -104,17 +105,21 @@ void TreeStatus::Draw(TreeRow row, int status) {
     c_.tree.SetToolTipsOfEventItem(row, Item::kStatus, Text(tip));
 }
 
-Outcome<DatesStep> TreeStatus::ShowDates(TreeRow row, const VoyInfo& voyage) {
+Outcome<DatesStep> ShowRowDates(TreeWidget& tree, TreeRow row, const VoyInfo& voyage) {
     if (voyage.portCalls.size() < 2) {
         return DatesStep::PortCalls;
     }
     const std::string sails = voyage.portCalls.front().etd.fmt(Util::kDayFormat);
     const std::string ends = voyage.portCalls.back().eta.fmt(Util::kDayFormat);
-    c_.tree.SetDrawItemValueOfEventItem(row, Item::kDates, ItemValue::kSailDate, sails);
-    c_.tree.SetDrawItemValueOfEventItem(row, Item::kDates, ItemValue::kEndDate, ends);
-    c_.tree.SetDrawItemVisibleEx(row, Item::kSetPortCall, false);
-    c_.tree.SetDrawItemVisibleEx(row, Item::kDates, true);
+    tree.SetDrawItemValueOfEventItem(row, Item::kDates, ItemValue::kSailDate, sails);
+    tree.SetDrawItemValueOfEventItem(row, Item::kDates, ItemValue::kEndDate, ends);
+    tree.SetDrawItemVisibleEx(row, Item::kSetPortCall, false);
+    tree.SetDrawItemVisibleEx(row, Item::kDates, true);
     return {};
+}
+
+Outcome<DatesStep> TreeStatus::ShowDates(TreeRow row, const VoyInfo& voyage) {
+    return ShowRowDates(c_.tree, row, voyage);
 }
 
 void TreeStatus::ShowVessel(TreeRow row, const std::string& name, bool alert) {

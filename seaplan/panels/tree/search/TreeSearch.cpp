@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "seaplan/panels/tree/RowDates.h"
 #include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
@@ -149,6 +150,10 @@ void TreeSearch::OnStep(int by) {
     // From no answer on, the first one is next and the last one is before.
     const int from = now == answers.end() ? (by > 0 ? -1 : count) : static_cast<int>(now - answers.begin());
     const TreeRow next = answers[static_cast<std::size_t>((from + by + count) % count)];
+    // A row that opens says what is known of its voyage, as one that is pressed does, and asks nothing.
+    if (c_.tree.GetItemStyle(next) == kVoyageStyle) {
+        ShowRowDates(c_.tree, next, *c_.VoyageOf(next));
+    }
     c_.tree.SelectItem(next);
     c_.tree.SetCursor(next);
     Count();
