@@ -5,6 +5,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/views/tree/TreeAccess.h"
 #include "seaplan/views/tree/TreeReach.h"
 
@@ -16,6 +17,14 @@ namespace {
 auto PlaceOf(const std::vector<SubItem>& items, const std::string& name) {
     return std::find_if(items.begin(), items.end(), [&](const SubItem& part) { return part.name == name; });
 }
+
+/// Items that stand for one another: which of them is on show tells whether something is on.
+struct SwitchItem {
+    const char* item;
+    bool on;
+};
+constexpr SwitchItem kSwitches[] = {
+    {Item::kUnpinned, false}, {Item::kPinned, true}, {Item::kAisOff, false}, {Item::kAisOn, true}};
 
 TreeAccess* TreeOf(VoyageTreeView& view) {
     return dynamic_cast<TreeAccess*>(QAccessible::queryAccessibleInterface(&view));
@@ -196,6 +205,12 @@ QAccessible::State ItemAccess::state() const {
         View().hasFocus() && TreeReach(View()).Focused() == Row() && View().FocusedPart() == item_;
     state.offscreen = rect().isEmpty();
     state.disabled = !View().isEnabled();
+    for (const SwitchItem& known : kSwitches) {
+        if (item_ == known.item) {
+            state.checkable = true;
+            state.checked = known.on;
+        }
+    }
     return state;
 }
 

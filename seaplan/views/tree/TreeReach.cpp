@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "seaplan/views/tree/RowModel.h"
+#include "seaplan/views/tree/TreeAccess.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"
 
 namespace Tarvik::Seaplan {
@@ -82,6 +83,20 @@ void TellFocus(VoyageTreeView& view) {
         QAccessibleEvent told(focus, QAccessible::Focus);
         QAccessible::updateAccessibility(&told);
     }
+}
+
+void TellFolding(VoyageTreeView& view, TreeRow row) {
+    auto* tree = QAccessible::isActive()
+                     ? dynamic_cast<TreeAccess*>(QAccessible::queryAccessibleInterface(&view))
+                     : nullptr;
+    if (tree == nullptr) {
+        return;
+    }
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent told(tree->RowAt(row), changed);
+    QAccessible::updateAccessibility(&told);
 }
 
 }  // namespace Tarvik::Seaplan

@@ -41,5 +41,7 @@ class TreeReach {
 
 /// Tells a screen reader where the keyboard is. Costs nothing while nobody listens.
 void TellFocus(VoyageTreeView& view);
+/// Tells a screen reader that a category was folded or unfolded.
+void TellFolding(VoyageTreeView& view, TreeRow row);
 
 }  // namespace Tarvik::Seaplan

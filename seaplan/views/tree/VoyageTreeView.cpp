@@ -148,8 +148,12 @@ void VoyageTreeView::mouseReleaseEvent(QMouseEvent* event) {
 
 void VoyageTreeView::keyPressEvent(QKeyEvent* event) {
     const TreeRow current = RowModel::RowOf(currentIndex());
-    if (!reports_.key || !reports_.key(PressOf(*event).key, current, FocusedPart())) {
+    const std::string item = FocusedPart();
+    if (!reports_.key || !reports_.key(PressOf(*event).key, current, item)) {
         event->ignore();
+    } else if (!item.empty() && !FocusedPart().empty() && FocusedPart() != item) {
+        // The item that stands there now says the other state.
+        TellFocus(*this);
     }
 }
 

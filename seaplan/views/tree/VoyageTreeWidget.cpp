@@ -4,6 +4,7 @@
 #include <QCursor>
 
 #include "seaplan/panels/tree/TreeKeys.h"
+#include "seaplan/views/tree/TreeReach.h"
 #include "seaplan/views/tree/VoyageTreeView.h"
 
 namespace Tarvik::Seaplan {
@@ -31,7 +32,9 @@ Rect VoyageTreeWidget::GetItemRect(TreeRow row) const {
 }
 
 void VoyageTreeWidget::SetCursor(TreeRow row) {
-    if (QStandardItem* item = ItemOf(row)) {
+    QStandardItem* item = ItemOf(row);
+    if (item != nullptr && view_.currentIndex() != item->index()) {
+        view_.focusPart_ = -1;
         view_.setCurrentIndex(item->index());
     }
 }
@@ -104,10 +107,14 @@ void VoyageTreeWidget::RowChanged(TreeRow row) {
 
 void VoyageTreeWidget::RowSelected(TreeRow row) {
     QStandardItem* item = ItemOf(row);
-    if (item != nullptr && view_.currentIndex() != item->index()) {
+    // A command selects its row again; the keyboard stays on the item, or the next Enter would press another.
+    const bool stays = item != nullptr && view_.currentIndex() == item->index();
+    if (!stays) {
+        view_.focusPart_ = -1;
+    }
+    if (item != nullptr && !stays) {
         view_.setCurrentIndex(item->index());
     }
-    view_.focusPart_ = -1;
     view_.Relayout();
 }
 
@@ -125,6 +132,7 @@ void VoyageTreeWidget::RowExpanded(TreeRow row, bool expanded) {
     QStandardItem* item = ItemOf(row);
     if (item != nullptr) {
         view_.setExpanded(item->index(), expanded);
+        TellFolding(view_, row);
     }
 }
 

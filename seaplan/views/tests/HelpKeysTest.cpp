@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+// Every key of a panel stands in the help that F1 shows over it, and what has no key of its own is reached by
+// Tab.
+#include <QAbstractButton>
+#include <QShortcut>
+#include <memory>
+#include <set>
+#include <vector>
+
+#include "seaplan/views/tests/PositionBookFixture.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+/// Keys that all windows have; the list of keys below the help names them.
+const std::set<QString> kOfAllWindows = {"F1", "Ctrl+W"};
+
+class HelpKeysTest : public PositionBookFixture {
+  protected:
+    std::vector<std::unique_ptr<FileTexts>> files;
+
+    HelpKeysTest() {
+        for (const char* language : {"en-US", "zh-CN", "zh-TW"}) {
+            files.push_back(
+                std::make_unique<FileTexts>(std::string(SEAPLAN_LANG_DIR) + "/client." + language + ".json"));
+        }
+    }
+    static std::set<QString> KeysOf(const QWidget& window) {
+        std::set<QString> keys;
+        for (const QShortcut* shortcut : window.findChildren<QShortcut*>()) {
+            keys.insert(shortcut->key().toString(QKeySequence::PortableText));
+        }
+        for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+            keys.insert(button->shortcut().toString(QKeySequence::PortableText));
+        }
+        keys.erase(QString());
+        return keys;
+    }
+    /// Every key of a window stands in its help in every language; another way to redo is told once.
+    void ExpectTold(const QWidget& window, const char* topic) {
+        const std::set<QString> keys = KeysOf(window);
+        EXPECT_TRUE(keys.contains("F1")) << topic;
+        EXPECT_TRUE(keys.contains("Ctrl+W")) << topic;
+        for (const auto& file : files) {
+            const std::string help = file->All().at({"Client", std::string("HELP_") + topic});
+            for (const QString& key : keys) {
+                if (!kOfAllWindows.contains(key) && key != "Ctrl+Shift+Z") {
+                    EXPECT_NE(help.find(key.toStdString()), std::string::npos)
+                        << topic << ' ' << key.toStdString();
+                }
+            }
+        }
+        for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+            if (button->isVisible() && button->isEnabled() && button->shortcut().isEmpty()) {
+                EXPECT_TRUE(button->focusPolicy() & Qt::TabFocus)
+                    << topic << ' ' << button->objectName().toStdString();
+            }
+        }
+    }
+};
+
+}  // namespace
+
+TEST_F(HelpKeysTest, OfTheVoyagePanel) {
+    OpenVoyage("Far East 12");
+    ExpectTold(Panel(), "func033");
+    Panel().findChild<QAbstractButton*>("findButton")->click();
+    ExpectTold(Panel(), "func033");
+}
+
+TEST_F(HelpKeysTest, OfTheRemarksAndTheConsumption) {
+    OpenVoyage("Far East 12");
+    ClickPart("Far East 12", "Voyage.child.svr3.exist");
+    ExpectTold(*views.RemarksWindow(), "func024");
+    ClickPart("Far East 12", "Voyage.child.svr5");
+    ExpectTold(*views.FiguresWindow(), "func036");
+}
+
+TEST_F(HelpKeysTest, OfThePortCallsAndThePositionBook) {
+    OpenBook();
+    ExpectTold(PortCalls(), "func034");
+    ExpectTold(Book(), "func035");
+}
+
+}  // namespace Tarvik::Seaplan
