@@ -7,6 +7,8 @@
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/StringUtl.h>
 
+#include "seaplan/data/PortCodes.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -120,6 +122,19 @@ int LoadPortNamesByLocal(const std::string& database, std::map<std::string, std:
     loaded.merge(names);  // what was just read wins
     names = std::move(loaded);
     return 0;
+}
+
+std::map<std::string, std::string> ReadPortNamesByCode(const std::string& database) {
+    std::map<std::string, std::string> names;
+    // A port that is one place with another gives way to that one.
+    const char* sql = "select unlocode,name from t_point where isport='1' order by origid!='0',id";
+    ForEachRow(database, sql, [&](const auto& row) {
+        const std::string code = ColumnText(row, 0);
+        if (!code.empty()) {
+            names.emplace(code, ColumnText(row, 1));
+        }
+    });
+    return names;
 }
 
 int PointKindOfId(const std::string& id) {

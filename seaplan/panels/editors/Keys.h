@@ -20,7 +20,8 @@ enum class Key {
     F2,
     F9,
     S,
-    D
+    D,
+    V
 };
 
 /// A key with the keys held beside it.

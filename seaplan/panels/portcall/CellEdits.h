@@ -32,6 +32,9 @@ class CellEdits {
     /// typed, as one edit of that name. A row that refuses it stays as it was, and the status line says which
     /// ones did.
     void SetInRows(const std::vector<int>& rows, int column, const std::string& text, TextId edit);
+    /// A text into a cell as if it were typed, as part of an edit that the caller names. False where it is
+    /// refused, which leaves all as it was.
+    bool Try(int row, int column, const std::string& text);
     /// Whether a cell can be edited at all. What a corrected voyage has sailed cannot, and a time not before
     /// the row has both.
     bool Opens(int row, int column) const;

@@ -30,6 +30,15 @@ CellAnswer CellEdits::Put(int row, int column, const std::string& text) {
     return CellAnswer::Refused;
 }
 
+bool CellEdits::Try(int row, int column, const std::string& text) {
+    const PortCallSheet before = desk_.Sheet();
+    if (Put(row, column, text) == CellAnswer::Taken) {
+        return true;
+    }
+    desk_.Sheet() = before;
+    return false;
+}
+
 void CellEdits::SetInRows(const std::vector<int>& rows, int column, const std::string& text, TextId edit) {
     PortCallTable& table = desk_.Sheet().table;
     // A schedule that follows closes the blank rows above a row: it is found again by its place.
@@ -41,11 +50,9 @@ void CellEdits::SetInRows(const std::vector<int>& rows, int column, const std::s
     std::vector<int> refused;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const int row = places[i] < 0 ? rows[i] : RowOfPlace(table, places[i]);
-        const PortCallSheet before = desk_.Sheet();
-        if (Put(row, column, text) == CellAnswer::Taken) {
+        if (Try(row, column, text)) {
             table.GrowIfLast(row);
         } else {
-            desk_.Sheet() = before;
             refused.push_back(rows[i]);
         }
     }

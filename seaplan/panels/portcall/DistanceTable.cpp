@@ -11,18 +11,6 @@
 
 namespace Tarvik::Seaplan {
 
-namespace {
-
-int FirstBlankRow(const PortCallTable& table) {
-    int row = 0;
-    while (row < table.RowCount() && !table.IsBlank(row)) {
-        ++row;
-    }
-    return row;
-}
-
-}  // namespace
-
 int DistanceTable::Open() {
     if (filling_.OpenDistanceTable() != 0) {
         return -1;

@@ -231,6 +231,14 @@ int RowOfPlace(const PortCallTable& table, int place) {
     return row;
 }
 
+int FirstBlankRow(const PortCallTable& table) {
+    int row = 0;
+    while (row < table.RowCount() && !table.IsBlank(row)) {
+        ++row;
+    }
+    return row;
+}
+
 RowActions ActionsOf(const PortCallTable& table, int row) {
     if (!table.IsNumbered(row) || table.IsBlank(row)) {
         return {};

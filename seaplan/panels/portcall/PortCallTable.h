@@ -107,6 +107,8 @@ class PortCallTable {
 
 /// The row with a port at such a place among them; the last numbered row where there are not as many.
 int RowOfPlace(const PortCallTable& table, int place);
+/// The first numbered row without a port; their count where each has one.
+int FirstBlankRow(const PortCallTable& table);
 
 /// What the images at a row's end can do now.
 struct RowActions {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/portcall/paste/PastePreview.h"
 #include "seaplan/panels/window/PanelWindow.h"
 
 namespace Tarvik::Seaplan {
@@ -25,6 +26,10 @@ class PortCallView : public PanelWindow {
     /// The rows that the person has chosen, in order; that in front mostly is one of them.
     virtual std::vector<int> ChosenRows() const = 0;
     virtual void BringRowIntoView(int row) = 0;
+    /// The text on the clipboard, UTF-8; no more than a little over what is read of it.
+    virtual std::string ClipboardText() const = 0;
+    /// Shows what a paste would do and waits for the answer. True for yes.
+    virtual bool AskPaste(const PastePreview& preview) = 0;
     /// What opens over the cells.
     virtual CellsView& Cells() = 0;
 };

@@ -167,7 +167,7 @@ void RowCommands::PutInChosen(int row, int column) {
     }
 }
 
-/// Keys over all that is chosen.
+/// Keys over all that is chosen, and over what comes from elsewhere.
 bool RowCommands::OnChosenKey(KeyPress press, int row, int column) {
     if (press.key == Key::Delete) {
         DeleteChosen(row);
@@ -175,6 +175,8 @@ bool RowCommands::OnChosenKey(KeyPress press, int row, int column) {
         FillDown(row, column);
     } else if (press.ctrl && press.key == Key::Enter) {
         PutInChosen(row, column);
+    } else if (press.ctrl && press.key == Key::V) {
+        paste_.OnPaste(row);
     } else {
         return false;
     }

@@ -7,6 +7,7 @@
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/portcall/CellEdits.h"
+#include "seaplan/panels/portcall/PasteRows.h"
 
 namespace Tarvik::Seaplan {
 
@@ -17,7 +18,8 @@ class PortCallDesk;
 /// end, and the keys of the table.
 class RowCommands {
   public:
-    RowCommands(PortCallDesk& desk, CellEditing& editing) : desk_(desk), editing_(editing), edits_(desk) {}
+    RowCommands(PortCallDesk& desk, CellEditing& editing)
+        : desk_(desk), editing_(editing), edits_(desk), paste_(desk, editing) {}
 
     /// A press on "itemMoveUp", "itemMovedown", "itemdel" or "itemRemark" of a row. 0; -1 no port there; -2
     /// no such voyage or its position; -3 no such image; -4 a blank row stands above it, where only remarks
@@ -45,6 +47,7 @@ class RowCommands {
     PortCallDesk& desk_;
     CellEditing& editing_;
     CellEdits edits_;
+    PasteRows paste_;
 };
 
 }  // namespace Tarvik::Seaplan

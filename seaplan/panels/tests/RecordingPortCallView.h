@@ -31,6 +31,9 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     int busy = 0;
     int selectedRow = -1;
     std::vector<int> chosen;  ///< by the person
+    std::string clipboard;
+    std::vector<PastePreview> pastes;  ///< that were shown
+    bool takesPaste = true;            ///< the answer to the next one
     int rowInView = -1;
     std::optional<CellEditor> openEditor;  ///< opened last and not hidden since
     int editorRow = -1;
@@ -67,6 +70,11 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     void SetBusy(bool on) override { busy += on ? 1 : -1; }
     void SelectRow(int row) override { selectedRow = row; }
     std::vector<int> ChosenRows() const override { return chosen; }
+    std::string ClipboardText() const override { return clipboard; }
+    bool AskPaste(const PastePreview& preview) override {
+        pastes.push_back(preview);
+        return takesPaste;
+    }
     void BringRowIntoView(int row) override { rowInView = row; }
     CellsView& Cells() override { return *this; }
     void OpenEditor(const OpenedEditor& opened) override {

@@ -12,14 +12,23 @@ inline KeyPress PressOf(const QKeyEvent& event) {
     constexpr struct {
         int qt;
         Key key;
-    } kKeys[] = {{Qt::Key_Tab, Key::Tab},       {Qt::Key_Return, Key::Enter},
-                 {Qt::Key_Enter, Key::Enter},   {Qt::Key_Escape, Key::Escape},
-                 {Qt::Key_Up, Key::Up},         {Qt::Key_Down, Key::Down},
-                 {Qt::Key_Left, Key::Left},     {Qt::Key_Right, Key::Right},
-                 {Qt::Key_Space, Key::Space},   {Qt::Key_Insert, Key::Insert},
-                 {Qt::Key_F2, Key::F2},         {Qt::Key_F9, Key::F9},
-                 {Qt::Key_Delete, Key::Delete}, {Qt::Key_Backspace, Key::Backspace},
-                 {Qt::Key_S, Key::S},           {Qt::Key_D, Key::D}};
+    } kKeys[] = {{Qt::Key_Tab, Key::Tab},
+                 {Qt::Key_Return, Key::Enter},
+                 {Qt::Key_Enter, Key::Enter},
+                 {Qt::Key_Escape, Key::Escape},
+                 {Qt::Key_Up, Key::Up},
+                 {Qt::Key_Down, Key::Down},
+                 {Qt::Key_Left, Key::Left},
+                 {Qt::Key_Right, Key::Right},
+                 {Qt::Key_Space, Key::Space},
+                 {Qt::Key_Insert, Key::Insert},
+                 {Qt::Key_F2, Key::F2},
+                 {Qt::Key_F9, Key::F9},
+                 {Qt::Key_Delete, Key::Delete},
+                 {Qt::Key_Backspace, Key::Backspace},
+                 {Qt::Key_S, Key::S},
+                 {Qt::Key_D, Key::D},
+                 {Qt::Key_V, Key::V}};
     KeyPress press{Key::Other, event.modifiers().testFlag(Qt::AltModifier),
                    (event.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier};
     for (const auto& known : kKeys) {

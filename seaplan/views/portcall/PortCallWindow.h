@@ -5,6 +5,7 @@
 
 #include "seaplan/panels/portcall/PortCallState.h"
 #include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/views/portcall/PasteDialog.h"
 #include "seaplan/views/portcall/PortCallButtons.h"
 #include "seaplan/views/portcall/PortCallEditors.h"
 #include "seaplan/views/portcall/PortCallSummary.h"
@@ -28,6 +29,8 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
     void SelectRow(int row) override;
     std::vector<int> ChosenRows() const override { return table_->ChosenRows(); }
     void BringRowIntoView(int row) override;
+    std::string ClipboardText() const override { return ClipboardAsText(); }
+    bool AskPaste(const PastePreview& preview) override { return AskPasteOver(*this, preview); }
     CellsView& Cells() override { return *editors_; }
     void ApplySkin() override;
 

@@ -152,7 +152,7 @@ void TreeSearch::OnStep(int by) {
     const TreeRow next = answers[static_cast<std::size_t>((from + by + count) % count)];
     // A row that opens says what is known of its voyage, as one that is pressed does, and asks nothing.
     if (c_.tree.GetItemStyle(next) == kVoyageStyle) {
-        ShowRowDates(c_.tree, next, *c_.VoyageOf(next));
+        static_cast<void>(ShowRowDates(c_.tree, next, *c_.VoyageOf(next)));
     }
     c_.tree.SelectItem(next);
     c_.tree.SetCursor(next);

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PastePlan.h"
+#include "seaplan/panels/portcall/PortCallDesk.h"
+
+namespace Tarvik::Seaplan {
+
+/// Rows from the clipboard into port calls or distance table: read, shown to
+/// the person, and taken as one edit only on a yes.
+class PasteRows {
+  public:
+    PasteRows(PortCallDesk& desk, CellEditing& editing) : desk_(desk), editing_(editing), edits_(desk) {}
+
+    /// The text on the clipboard from a row on; ports begin in the first blank
+    /// row where that is above it. Why nothing is pasted, and which rows refused
+    /// a time, the status line says.
+    void OnPaste(int row);
+
+  private:
+    std::string PortOf(const std::string& text);
+    int FirstRow(int row, const PastedRows& pasted) const;
+    void Take(const PastePlan& plan);
+    std::vector<int> PutTimes(const std::vector<PastedTime>& times);
+
+    PortCallDesk& desk_;
+    CellEditing& editing_;
+    CellEdits edits_;
+    std::optional<std::map<std::string, std::string>> names_;  ///< by UN/LOCODE, once they are read
+};
+
+}  // namespace Tarvik::Seaplan

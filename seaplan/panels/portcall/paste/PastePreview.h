@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Tarvik::Seaplan {
+
+/// What a paste would do, as it is shown before it is taken.
+struct PastePreview {
+    enum class Mark {
+        Plain,
+        Replaces,  ///< another value stands there now, which the text tells
+        Unknown,   ///< it says nothing in its column, or is no port that is known
+        Ignored    ///< it is not taken
+    };
+    struct Cell {
+        std::string text;
+        Mark mark = Mark::Plain;
+        bool operator==(const Cell&) const = default;
+    };
+    std::vector<std::string> titles;  ///< of the columns; the first tells the row of the table
+    std::vector<std::vector<Cell>> rows;
+    std::string words;  ///< what it comes to, in sentences
+};
+
+}  // namespace Tarvik::Seaplan

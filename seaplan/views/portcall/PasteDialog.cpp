@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "seaplan/views/portcall/PasteDialog.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <memory>
+
+#include <tarvik/skin/Palette.h>
+#include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/panels/portcall/paste/PastedText.h"
+#include "seaplan/panels/texts/EditTexts.h"
+#include "seaplan/views/table/PanelTable.h"
+#include "seaplan/views/window/ViewText.h"
+
+namespace Tarvik::Seaplan {
+
+namespace {
+
+constexpr int kLeastLines = 8;
+constexpr int kRowWidth = 35;
+constexpr int kColumnWidth = 120;
+constexpr int kLeastWidth = 480;
+constexpr int kMostWidth = 1000;
+
+/// The rows of a preview, each cell in the colour of what becomes of it.
+class PasteLines final : public TableLines {
+  public:
+    explicit PasteLines(const PastePreview& preview) : preview_(preview) {}
+    int Count() const override { return static_cast<int>(preview_.rows.size()); }
+    TableCell CellAt(int line, int column) const override {
+        const PastePreview::Cell& cell = At(line, column);
+        TableCell shown;
+        shown.text = QString::fromStdString(cell.text);
+        shown.ink = cell.mark == PastePreview::Mark::Unknown    ? Skin::Role::Error
+                    : cell.mark == PastePreview::Mark::Replaces ? Skin::Role::Warning
+                    : cell.mark == PastePreview::Mark::Ignored  ? Skin::Role::Secondary
+                                                                : Skin::Role::Text;
+        return shown;
+    }
+    QString TipAt(int line, int column) const override {
+        const QString text = QString::fromStdString(At(line, column).text).toHtmlEscaped();
+        const QString words = WordsAt(line, column);
+        return words.isEmpty() ? text : text + QStringLiteral("<br>") + words;
+    }
+    QString WordsAt(int line, int column) const override {
+        const PastePreview::Mark mark = At(line, column).mark;
+        return mark == PastePreview::Mark::Unknown   ? ViewText(TextIds::IDS_VIEW_PASTEUNKNOWN)
+               : mark == PastePreview::Mark::Ignored ? ViewText(TextIds::IDS_VIEW_PASTEIGNORED)
+                                                     : QString();
+    }
+    bool IsCopied(int) const override { return true; }
+
+  private:
+    const PastePreview::Cell& At(int line, int column) const {
+        return preview_.rows[static_cast<std::size_t>(line)][static_cast<std::size_t>(column)];
+    }
+    PastePreview preview_;
+};
+
+PanelTable* MakeTable(QWidget* parent, const PastePreview& preview) {
+    auto* table = new PanelTable(parent, "pasteTable", kLeastLines);
+    std::vector<TableColumn> columns;
+    for (const std::string& title : preview.titles) {
+        columns.push_back(
+            {.title = QString::fromStdString(title), .width = columns.empty() ? kRowWidth : kColumnWidth});
+    }
+    table->ShowColumns(std::move(columns));
+    table->ShowLines(std::make_shared<PasteLines>(preview));
+    table->setAccessibleName(ViewText(TextIds::IDS_VIEW_PASTETITLE));
+    // A text from elsewhere may have many columns.
+    table->setMinimumWidth(std::min(table->minimumWidth(), kMostWidth));
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    return table;
+}
+
+QPushButton* MakeButton(QDialog& dialog, const char* name, TextId text) {
+    auto* button = new QPushButton(ViewText(text), &dialog);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setMinimumHeight(Skin::kControlHeight);
+    return button;
+}
+
+}  // namespace
+
+bool AskPasteOver(QWidget& window, const PastePreview& preview) {
+    QDialog dialog(&window);
+    dialog.setObjectName(QStringLiteral("pasteDialog"));
+    dialog.setWindowTitle(ViewText(TextIds::IDS_VIEW_PASTETITLE));
+    dialog.setMinimumWidth(kLeastWidth);
+    PanelTable* table = MakeTable(&dialog, preview);
+    auto* words = new QLabel(QString::fromStdString(preview.words), &dialog);
+    words->setObjectName(QStringLiteral("pasteWords"));
+    words->setTextFormat(Qt::PlainText);
+    words->setWordWrap(true);
+    QPushButton* take = MakeButton(dialog, "pasteTakeButton", TextIds::IDS_VIEW_PASTETAKE);
+    QPushButton* leave = MakeButton(dialog, "pasteLeaveButton", TextIds::IDS_VIEW_PASTELEAVE);
+    take->setDefault(true);
+    take->setProperty("primary", true);
+    QObject::connect(take, &QPushButton::clicked, &dialog, &QDialog::accept);
+    QObject::connect(leave, &QPushButton::clicked, &dialog, &QDialog::reject);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(take);
+    buttons->addWidget(leave);
+    auto* rows = new QVBoxLayout(&dialog);
+    rows->setSpacing(2 * Skin::kGrid);
+    rows->addWidget(table, 1);
+    rows->addWidget(words);
+    rows->addLayout(buttons);
+    take->setFocus();
+    return dialog.exec() == QDialog::Accepted;
+}
+
+std::string ClipboardAsText() {
+    // A character takes a byte or more, so that the limit of bytes holds for it
+    // as well.
+    return QApplication::clipboard()->text().left(static_cast<int>(kMostPastedBytes) + 1).toStdString();
+}
+
+}  // namespace Tarvik::Seaplan

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+#include <string>
+
+#include "seaplan/panels/portcall/paste/PastePreview.h"
+
+namespace Tarvik::Seaplan {
+
+/// Shows over a window what a paste would do to its table, and waits for the
+/// answer. True for yes; Enter in the dialog is a yes, Escape a no.
+bool AskPasteOver(QWidget& window, const PastePreview& preview);
+/// The text on the clipboard as UTF-8, cut where no more is read.
+std::string ClipboardAsText();
+
+}  // namespace Tarvik::Seaplan
