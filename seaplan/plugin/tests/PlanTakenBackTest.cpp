@@ -5,6 +5,7 @@
 #include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/plugin/PlanService.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
+#include "testsupport/ManualClock.h"
 #include "testsupport/RecordingHost.h"
 
 /// What a plan that could not be saved leaves on the real server.
