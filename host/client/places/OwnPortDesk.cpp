@@ -87,7 +87,8 @@ OwnPortWindow& OwnPortDesk::List() {
 OwnPortForm& OwnPortDesk::Form() {
     if (!form_) {
         form_ = new OwnPortForm(&mainWindow_, {[this](const OwnPortDraft& draft, const std::string& id) {
-                                                   return draft.Check(session_.Ports(), id);
+                                                   return draft.Check(session_.Ports(),
+                                                                      session_.OwnPorts().All(), id);
                                                },
                                                [this](const Ports::Place& port) { return Save(port); },
                                                [this] {

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cctype>
 
-#include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/StringUtl.h>
 #include <tarvik/util/TypedPosition.h>
 
@@ -34,10 +33,6 @@ std::string TextOf(Server::GeoPoint at) {
 
 }  // namespace
 
-bool IsOwnPortId(const std::string& id) {
-    return id.size() > Interface::kShippedIdDigits;
-}
-
 OwnPortDraft OwnPortDraft::Of(const Ports::Place& port) {
     return {port.name, port.position ? TextOf(*port.position) : std::string()};
 }
@@ -52,7 +47,9 @@ std::string OwnPortDraft::Understood() const {
     return at ? TextOf(*at) : std::string();
 }
 
-std::optional<PortFault> OwnPortDraft::Check(const std::vector<Port>& known, const std::string& id) const {
+std::optional<PortFault> OwnPortDraft::Check(const std::vector<Port>& known,
+                                             const std::vector<Ports::Place>& own,
+                                             const std::string& id) const {
     const std::string named = Util::StringUtl::Trim(name);
     if (named.empty()) {
         return PortFault::NameMissing;
@@ -67,7 +64,9 @@ std::optional<PortFault> OwnPortDraft::Check(const std::vector<Port>& known, con
         return port.id != id && (IsSameName(port.name, named) || port.nameCn == named);
     });
     if (same != known.end()) {
-        return IsOwnPortId(same->id) ? PortFault::NameOwn : PortFault::NameTaken;
+        const bool isOwn = std::any_of(own.begin(), own.end(),
+                                       [&](const Ports::Place& port) { return port.id == same->id; });
+        return isOwn ? PortFault::NameOwn : PortFault::NameTaken;
     }
     if (Util::StringUtl::Trim(position).empty()) {
         return PortFault::PlaceMissing;

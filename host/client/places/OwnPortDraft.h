@@ -29,8 +29,10 @@ struct OwnPortDraft {
     static OwnPortDraft Of(const Ports::Place& port);
     friend bool operator==(const OwnPortDraft&, const OwnPortDraft&) = default;
 
-    /// What is wrong with it among the ports `known`, of which the one that is changed has the id `id`.
-    std::optional<PortFault> Check(const std::vector<Port>& known, const std::string& id) const;
+    /// What is wrong with it among the ports `known`, the user's `own` among them; the one that is changed
+    /// has the id `id`.
+    std::optional<PortFault> Check(const std::vector<Port>& known, const std::vector<Ports::Place>& own,
+                                   const std::string& id) const;
     /// The position, nothing while none can be read.
     std::optional<Server::GeoPoint> Position() const;
     /// "51° 54.50' N 004° 29.00' E", empty while no position can be read.
@@ -39,8 +41,5 @@ struct OwnPortDraft {
     /// still as it was filled in, since that text is rounded.
     Ports::Place Kept(const Ports::Place& before) const;
 };
-
-/// Whether an id is a user's own port's, as the voyage server gives them.
-bool IsOwnPortId(const std::string& id);
 
 }  // namespace Tarvik::Client

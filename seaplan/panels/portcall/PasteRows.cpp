@@ -72,12 +72,11 @@ std::string PasteRows::PortOf(const std::string& text) {
     return found == names_->end() ? std::string() : found->second;
 }
 
-/// -1 where the row is sailed.
-int PasteRows::FirstRow(int row, const PastedRows& pasted) const {
+std::optional<int> PasteRows::FirstRow(int row, const PastedRows& pasted) const {
     const PortCallTable& table = desk_.Sheet().table;
     const int front = std::clamp(row, 0, table.RowCount() - 1);
     const int first = HasPorts(pasted) ? std::min(front, FirstBlankRow(table)) : front;
-    return edits_.Opens(first, ColPort) ? first : -1;
+    return edits_.Opens(first, ColPort) ? std::optional(first) : std::nullopt;
 }
 
 void PasteRows::OnPaste(int row) {
@@ -85,14 +84,14 @@ void PasteRows::OnPaste(int row) {
     editing_.CommitEditors();
     const PastedRows pasted = UnderstandPasted(ReadPastedText(desk_.View().ClipboardText()),
                                                [this](const std::string& text) { return PortOf(text); });
-    const int first = FirstRow(row, pasted);
-    if (!HasValues(pasted) || first < 0) {
+    const std::optional<int> first = FirstRow(row, pasted);
+    if (!HasValues(pasted) || !first) {
         return TellInStatusLine(
-            Text(first < 0 ? TextIds::IDS_VIEW_PASTESAILED : TextIds::IDS_VIEW_PASTENOTHING));
+            Text(first ? TextIds::IDS_VIEW_PASTENOTHING : TextIds::IDS_VIEW_PASTESAILED));
     }
     PortCallSheet& sheet = desk_.Sheet();
     const double hoursPerUnit = sheet.state.timeUnit == "hour" ? 1 : Util::kHoursPerDay;
-    const PastePlan plan = PlanPaste(pasted, sheet.table, first, hoursPerUnit, PortIdOfName);
+    const PastePlan plan = PlanPaste(pasted, sheet.table, *first, hoursPerUnit, PortIdOfName);
     desk_.Show();
     const PortCallTable shown = sheet.table;
     const std::string voyage = sheet.voyageId;

@@ -25,7 +25,8 @@ class PasteRows {
 
   private:
     std::string PortOf(const std::string& text);
-    int FirstRow(int row, const PastedRows& pasted) const;
+    /// Nothing where the row is sailed.
+    std::optional<int> FirstRow(int row, const PastedRows& pasted) const;
     void Take(const PastePlan& plan);
     std::vector<int> PutTimes(const std::vector<PastedTime>& times);
 

@@ -9,11 +9,12 @@ namespace {
 
 const std::vector<Port> kKnown = {{"40011", "ROTTERDAM", "鹿特丹", "NLRTM", 4.4, 51.9},
                                   {"1000040", "Berth 7", "Berth 7", "", 4.05, 51.98}};
+const std::vector<Ports::Place> kOwn = {{"1000040", "Berth 7", "", "", Server::GeoPoint{4.05, 51.98}, true}};
 constexpr const char* kPlace = "51 54.5N 4 29E";
 
 std::optional<PortFault> FaultOf(const std::string& name, const std::string& place = kPlace,
                                  const std::string& id = {}) {
-    return OwnPortDraft{name, place}.Check(kKnown, id);
+    return OwnPortDraft{name, place}.Check(kKnown, kOwn, id);
 }
 
 TEST(OwnPortDraftTest, ANameIsNeededAndMustBeOneThatRowsCarry) {
