@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "tests/protocol/RoundTrip.h"
 #include "seaplan/protocol/PortCallCommands.h"
+#include "tests/protocol/RoundTrip.h"
 
 namespace Tarvik::Server {
 

@@ -7,10 +7,10 @@
 
 #include <tarvik/core/TObject.h>
 
-#include "tests/protocol/BusServer.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
 #include "tarvik/src/core/BusTesting.h"
+#include "tests/protocol/BusServer.h"
 
 namespace Tarvik::Server {
 

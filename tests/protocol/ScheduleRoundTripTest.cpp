@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/sqlite/tests/TempFolder.h"
-#include "tests/protocol/RoundTrip.h"
 #include "seaplan/protocol/BookCommands.h"
 #include "seaplan/protocol/PortCallCommands.h"
 #include "seaplan/protocol/RemarkList.h"
+#include "tests/protocol/RoundTrip.h"
 #include "testsupport/PortDictionary.h"
 
 namespace Tarvik::Server {

@@ -86,8 +86,7 @@ void PasteRows::OnPaste(int row) {
                                                [this](const std::string& text) { return PortOf(text); });
     const std::optional<int> first = FirstRow(row, pasted);
     if (!HasValues(pasted) || !first) {
-        return TellInStatusLine(
-            Text(first ? TextIds::IDS_VIEW_PASTENOTHING : TextIds::IDS_VIEW_PASTESAILED));
+        return TellInStatusLine(Text(first ? TextIds::IDS_VIEW_PASTENOTHING : TextIds::IDS_VIEW_PASTESAILED));
     }
     PortCallSheet& sheet = desk_.Sheet();
     const double hoursPerUnit = sheet.state.timeUnit == "hour" ? 1 : Util::kHoursPerDay;

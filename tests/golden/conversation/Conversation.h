@@ -5,9 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/protocol/BusServer.h"
 #include "seaplan/data/VoyageStore.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
+#include "tests/protocol/BusServer.h"
 
 namespace Tarvik::Server {
 

@@ -18,8 +18,8 @@
 #include <tarvik/interface/ValueDictionary.h>
 
 #include "host/client/places/OwnPortDesk.h"
-#include "testsupport/TemporaryFolder.h"
 #include "testsupport/RecordingMsgSink.h"
+#include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
 

@@ -43,8 +43,8 @@ const Ports::PortIndex& PortFinder::Index() const {
         std::vector<Ports::Port> ports;
         ports.reserve(ports_.size());
         for (const ChartName& port : ports_) {
-            ports.push_back({port.port, port.local, port.code, port.position.x, port.position.y,
-                             port.aliases});
+            ports.push_back(
+                {port.port, port.local, port.code, port.position.x, port.position.y, port.aliases});
         }
         index_ = std::make_unique<Ports::PortIndex>(ports);
     }
