@@ -46,10 +46,10 @@ class Planner {
         return false;
     }
     /// Which pasted column goes into one of the table.
-    static constexpr int kNoColumn = -1;
     int PlaceOf(int column) const {
         const auto found = std::find(pasted_.columns.begin(), pasted_.columns.end(), column);
-        return found == pasted_.columns.end() ? kNoColumn : static_cast<int>(found - pasted_.columns.begin());
+        return found == pasted_.columns.end() ? PastedRows::kNoColumn
+                                              : static_cast<int>(found - pasted_.columns.begin());
     }
     std::string ValueOf(const std::vector<PastedCell>& cells, int column) const {
         const int at = PlaceOf(column);
