@@ -8,6 +8,7 @@
 
 #include "seaplan/data/PointTables.h"
 #include "seaplan/data/PortCodes.h"
+#include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/texts/EditTexts.h"
