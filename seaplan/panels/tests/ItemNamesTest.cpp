@@ -6,6 +6,8 @@
 #include <tarvik/bus/SiblingContract.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/NoteCommands.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 

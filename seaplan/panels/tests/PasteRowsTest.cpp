@@ -2,7 +2,10 @@
 /// Ctrl+V over port calls and distance table.
 #include <sqlite3.h>
 
+#include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
+#include "testsupport/DataFolder.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,6 +3,7 @@
 #include <QAccessible>
 
 #include "seaplan/views/tests/ViewsFixture.h"
+#include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
 
