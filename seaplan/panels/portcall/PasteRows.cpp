@@ -83,8 +83,9 @@ std::optional<int> PasteRows::FirstRow(int row, const PastedRows& pasted) const 
 void PasteRows::OnPaste(int row) {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
-    const PastedRows pasted = UnderstandPasted(ReadPastedText(desk_.View().ClipboardText()),
-                                               [this](const std::string& text) { return PortOf(text); });
+    PastedRows pasted = UnderstandPasted(ReadPastedText(desk_.View().ClipboardText()),
+                                         [this](const std::string& text) { return PortOf(text); });
+    LeaveOtherUnits(pasted, desk_.Sheet().state.speedUnit);
     const std::optional<int> first = FirstRow(row, pasted);
     if (!HasValues(pasted) || !first) {
         return TellInStatusLine(Text(first ? TextIds::IDS_VIEW_PASTENOTHING : TextIds::IDS_VIEW_PASTESAILED));

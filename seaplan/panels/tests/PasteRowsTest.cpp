@@ -37,6 +37,18 @@ constexpr const char* kSchedule =
     "Hamburg\tD\t12.5\t2024-03-06 20:00\t2024-03-07 08:00\n"
     "ATLANTIS\tD\tfast\t\t\n";
 
+TEST_F(PasteRowsTest, ASpeedInAnotherUnitThanTheTablesIsNotTaken) {
+    Open(fresh);
+    Paste("Port\tSpeed KPH\nrotterdam\t\nHamburg\t23\n");
+    EXPECT_EQ(Shown(1, 2).mark, Mark::Unknown);
+    EXPECT_EQ(Cell(1, ColSpeed), " ");
+    EXPECT_EQ(panel.Commands().OnUnitChosen(UnitKind::Speed, "KPH"), 0);
+    Paste("Port\tSpeed\nrotterdam\t\nHamburg\t12.5 kn\n");
+    EXPECT_EQ(Shown(1, 2).mark, Mark::Unknown);
+    Paste("Port\tSpeed KPH\nrotterdam\t\nHamburg\t23\n");
+    EXPECT_EQ(Cell(1, ColSpeed), "23.00");
+}
+
 TEST_F(PasteRowsTest, RowsAreTakenAsOneEditOnlyOnAYes) {
     Open(fresh);
     const PortCallTable before = view.table;

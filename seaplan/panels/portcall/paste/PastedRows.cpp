@@ -245,7 +245,34 @@ void KeepOneOfEach(PastedRows& pasted) {
     }
 }
 
+/// Whether a text tells a speed in the other of the two units.
+bool TellsOtherUnit(const std::string& text, bool inKnots) {
+    constexpr std::array<std::string_view, 3> kOfKnots{"kt", "kn", "节"};
+    constexpr std::array<std::string_view, 3> kOfKilometres{"kph", "km", "公里"};
+    const std::string small = Small(text);
+    const auto& others = inKnots ? kOfKilometres : kOfKnots;
+    return std::any_of(others.begin(), others.end(),
+                       [&small](std::string_view unit) { return small.find(unit) != std::string::npos; });
+}
+
 }  // namespace
+
+void LeaveOtherUnits(PastedRows& pasted, const std::string& speedUnit) {
+    const bool inKnots = speedUnit == Interface::kSpeedUnits[0];
+    for (std::size_t at = 0; at < pasted.columns.size(); ++at) {
+        if (pasted.columns[at] != ColSpeed) {
+            continue;
+        }
+        const bool wholeColumn = at < pasted.heads.size() && TellsOtherUnit(pasted.heads[at], inKnots);
+        for (auto& row : pasted.rows) {
+            PastedCell& cell = row[at];
+            if (!cell.text.empty() && (wholeColumn || TellsOtherUnit(cell.text, inKnots))) {
+                cell.value.clear();
+                cell.known = false;
+            }
+        }
+    }
+}
 
 PastedRows UnderstandPasted(const PastedText& text, const PortOfText& port) {
     PastedRows pasted;
@@ -258,6 +285,7 @@ PastedRows UnderstandPasted(const PastedText& text, const PortOfText& port) {
         for (const std::string& head : lines.front()) {
             pasted.columns.push_back(ColumnOfHead(head));
         }
+        pasted.heads = lines.front();
         lines.erase(lines.begin());
     } else {
         for (std::size_t at = 0; at < lines.front().size(); ++at) {

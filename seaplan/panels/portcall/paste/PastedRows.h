@@ -21,8 +21,9 @@ struct PastedCell {
 /// Pasted rows with what their columns were taken for.
 struct PastedRows {
     static constexpr int kNoColumn = -1;
-    std::vector<int> columns;  ///< the table's column of each, kNoColumn where it
-                               ///< holds none of its own
+    std::vector<int> columns;          ///< the table's column of each, kNoColumn where it
+                                       ///< holds none of its own
+    std::vector<std::string> heads{};  ///< of the columns, empty where there were none
     std::vector<std::vector<PastedCell>> rows;
     bool cut = false;
 };
@@ -36,5 +37,9 @@ using PortOfText = std::function<std::string(const std::string&)>;
 /// most of their cells look like. Two columns of one kind are told apart for
 /// ports alone, where the one that is known counts.
 PastedRows UnderstandPasted(const PastedText& text, const PortOfText& port);
+
+/// Makes speeds that their own text or their head tells in another unit than
+/// this one ("kts" or "KPH") unknown: a wrong speed would look like a right one.
+void LeaveOtherUnits(PastedRows& pasted, const std::string& speedUnit);
 
 }  // namespace Tarvik::Seaplan
