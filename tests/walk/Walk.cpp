@@ -5,6 +5,7 @@
 #include <memory>
 #include <utility>
 
+#include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "tests/walk/Rules.h"
 #include "tests/walk/World.h"
