@@ -10,31 +10,31 @@ using namespace Tarvik::Seaplan;
 
 namespace {
 
-void require(bool holds) {
+void Require(bool holds) {
     if (!holds) {
         std::abort();
     }
 }
 
-void checkCategories(const VoyageStore& store) {
-    require(store.categories.size() == store.categoryStates.size());
+void CheckCategories(const VoyageStore& store) {
+    Require(store.categories.size() == store.categoryStates.size());
     for (const auto& [id, category] : store.categories) {
-        require(!id.empty() && category.ci == id);
-        require(store.categoryStates.count(id) == 1);
+        Require(!id.empty() && category.ci == id);
+        Require(store.categoryStates.count(id) == 1);
     }
 }
 
-void checkVoyages(const VoyageStore& store) {
+void CheckVoyages(const VoyageStore& store) {
     for (const auto& [id, voyages] : store.categoryVoyages) {
-        require(store.categories.count(id) == 1);
+        Require(store.categories.count(id) == 1);
         for (const auto& [vi, state] : voyages) {
-            require(store.voyages.count(vi) == 1);
+            Require(store.voyages.count(vi) == 1);
         }
     }
     for (const auto& [vi, voyage] : store.voyages) {
-        require(!vi.empty() && voyage.vi == vi);
-        require(voyage.figures[Vfa] == 0);
-        require(voyage.portCalls.empty() && voyage.positionBook.points.empty());
+        Require(!vi.empty() && voyage.vi == vi);
+        Require(voyage.figures[Vfa] == 0);
+        Require(voyage.portCalls.empty() && voyage.positionBook.points.empty());
     }
 }
 
@@ -48,11 +48,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     VoyageStore store;
     ReadCatalog(reply, store);
-    checkCategories(store);
-    checkVoyages(store);
+    CheckCategories(store);
+    CheckVoyages(store);
     const std::size_t categories = store.categories.size();
     const std::size_t voyages = store.voyages.size();
     ReadCatalog(reply, store);
-    require(store.categories.size() == categories && store.voyages.size() == voyages);
+    Require(store.categories.size() == categories && store.voyages.size() == voyages);
     return 0;
 }

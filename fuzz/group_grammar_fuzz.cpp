@@ -12,7 +12,7 @@ using namespace Tarvik::Seaplan;
 
 namespace {
 
-void require(bool holds) {
+void Require(bool holds) {
     if (!holds) {
         std::abort();
     }
@@ -27,16 +27,16 @@ std::string GroupText(const RoutePointGroup& group) {
 }
 
 /// A text that is one group is that group's parts, put together again.
-void checkAlone(const std::string& text) {
+void CheckAlone(const std::string& text) {
     RoutePointGroup group;
     const int code = ParseRoutePointGroup(text, group);
-    require(code == 0 || code == -2 || code == -3);
-    require((code == -2) == (text.find('=') == std::string::npos));
-    require(code != 0 || GroupText(group) == text);
+    Require(code == 0 || code == -2 || code == -3);
+    Require((code == -2) == (text.find('=') == std::string::npos));
+    Require(code != 0 || GroupText(group) == text);
 }
 
 /// The same text as a group, and as the lock, of a stop with two legs.
-void checkInReply(const std::string& text) {
+void CheckInReply(const std::string& text) {
     const std::string reply = R"([{point_cd:"1",routes:[],rp_groups:[]},{point_cd:"4",routes:[)"
                               R"({from_cd:"1",end_cd:"118"},{from_cd:"118",end_cd:"4"}],rp_groups:[")" +
                               text + R"("],lock_rp_id_str:")" + text + R"("}])";
@@ -46,16 +46,16 @@ void checkInReply(const std::string& text) {
     }
     RouteStops stops;
     const int code = ParseRouteReply(parsed, stops);
-    require(code <= 0 && code >= -6);
-    require((code == 0) == !stops.empty());
+    Require(code <= 0 && code >= -6);
+    Require((code == 0) == !stops.empty());
     if (code != 0 || stops.size() != 2 || stops[1].rp_groups.empty()) {
         return;
     }
     std::string request = "left alone";
     const std::string id = stops[1].rp_groups[0].rp_id;
     const bool made = AlternativeRequestText(stops, id, "105", request);
-    require(made || request == "left alone");
-    require(!made || request.find("105=") != std::string::npos);
+    Require(made || request == "left alone");
+    Require(!made || request.find("105=") != std::string::npos);
 }
 
 }  // namespace
@@ -63,7 +63,7 @@ void checkInReply(const std::string& text) {
 // Any text gives a group, or the code of what it lacks; a group never says more or less than its text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(reinterpret_cast<const char*>(data), size);
-    checkAlone(text);
-    checkInReply(text);
+    CheckAlone(text);
+    CheckInReply(text);
     return 0;
 }

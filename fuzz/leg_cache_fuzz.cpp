@@ -18,7 +18,7 @@ LegCache ReadText(const std::string& text) {
     return cache;
 }
 
-std::string writeText(const LegCache& cache) {
+std::string WriteText(const LegCache& cache) {
     std::ostringstream out;
     if (WriteCache(out, cache) != 0) {
         std::abort();  // every entry that was read has two stops
@@ -29,7 +29,7 @@ std::string writeText(const LegCache& cache) {
 }  // namespace
 
 /// A line is a leg of two stops, or has the code of what is wrong with it; then nothing is taken from it.
-void checkLine(const std::string& line) {
+void CheckLine(const std::string& line) {
     Tarvik::Seaplan::RouteLegCacheEntry entry;
     entry.from = "left alone";
     const int code = ParseCacheLine(line, entry);
@@ -45,12 +45,12 @@ void checkLine(const std::string& line) {
 // reading again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(reinterpret_cast<const char*>(data), size);
-    checkLine(text.substr(0, text.find('\n')));
+    CheckLine(text.substr(0, text.find('\n')));
     LegCache cache = ReadText(text);
     std::erase_if(cache, [](const auto& item) { return item.second.stops[1].routes.empty(); });
-    const std::string written = writeText(cache);
+    const std::string written = WriteText(cache);
     const LegCache back = ReadText(written);
-    if (back.size() != cache.size() || writeText(back) != written) {
+    if (back.size() != cache.size() || WriteText(back) != written) {
         std::abort();
     }
     return 0;

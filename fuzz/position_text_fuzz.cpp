@@ -16,14 +16,14 @@ using namespace Tarvik::Seaplan;
 
 namespace {
 
-void require(bool holds) {
+void Require(bool holds) {
     if (!holds) {
         std::abort();
     }
 }
 
 /// Whether all positions lie between the poles; no other has distances.
-bool isOnEarth(const std::vector<std::string>& points) {
+bool IsOnEarth(const std::vector<std::string>& points) {
     for (const std::string& text : points) {
         Position place;
         if (ReadPosition(text, 0, place) && std::fabs(place.y) > 90) {
@@ -34,36 +34,36 @@ bool isOnEarth(const std::vector<std::string>& points) {
 }
 
 /// A position needs a comma; whatever stands beside it reads as a finite number.
-void checkPosition(const std::string& text) {
+void CheckPosition(const std::string& text) {
     Position place;
     const bool read = ReadPosition(text, 0, place);
-    require(read == (text.find(',') != std::string::npos));
-    require(std::isfinite(place.x) && std::isfinite(place.y));
+    Require(read == (text.find(',') != std::string::npos));
+    Require(std::isfinite(place.x) && std::isfinite(place.y));
     float miles = 0;
     const int code = LegDistance(text, "0,0", text.size() % 2 == 0 ? "GC" : "RL", miles);
-    require(code == 0 || code == -1);
+    Require(code == 0 || code == -1);
     VoyPortCall row;
     row.ppn = text;
     row.pp = " ";
     std::string turned;
-    require((ShipPositionOf({row}, turned) == 0) == read);
-    require(!read || turned.size() == text.size());
+    Require((ShipPositionOf({row}, turned) == 0) == read);
+    Require(!read || turned.size() == text.size());
 }
 
 /// The pieces of a line are its points, less the dropped ones.
-void checkLine(const std::vector<std::string>& points) {
+void CheckLine(const std::vector<std::string>& points) {
     std::vector<PointTexts> pieces;
-    require((SplitAtDateLine(points, pieces) == 0) == (points.size() >= 2));
+    Require((SplitAtDateLine(points, pieces) == 0) == (points.size() >= 2));
     std::size_t drawn = 0;
     for (const PointTexts& piece : pieces) {
-        require(piece.size() >= 2);
+        Require(piece.size() >= 2);
         drawn += piece.size();
     }
-    require(drawn <= points.size());
+    Require(drawn <= points.size());
 }
 
 /// A book of the points, the ends as its ports.
-void checkBook(const std::vector<std::string>& points) {
+void CheckBook(const std::vector<std::string>& points) {
     BookPoints rows;
     for (const std::string& text : points) {
         PosBookPoint row;
@@ -73,13 +73,13 @@ void checkBook(const std::vector<std::string>& points) {
     rows.front().pst = PortPoint;
     rows.back().pst = PortPoint;
     const PortCallRows ports(2);
-    require(ComputeBookTimes(ports[0].eta, ports, rows) <= 0);
+    Require(ComputeBookTimes(ports[0].eta, ports, rows) <= 0);
     VoyPositionBook book;
     book.points = rows;
     PortCallRows totals = ports;
     const int code = LegTotalsFromBook(book, totals);
-    require(code <= 0 && code >= -7);
-    require(code != 0 || std::isfinite(totals[1].distance));
+    Require(code <= 0 && code >= -7);
+    Require(code != 0 || std::isfinite(totals[1].distance));
 }
 
 }  // namespace
@@ -92,16 +92,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     for (const std::string& point : points) {
-        require(!point.empty());
-        checkPosition(point);
+        Require(!point.empty());
+        CheckPosition(point);
     }
     float km = 0;
     const int code = PointsetLength(text, km);
-    require(code <= 0 && code >= -3);
-    require(std::isfinite(km) || !isOnEarth(points));
-    checkLine(points);
+    Require(code <= 0 && code >= -3);
+    Require(std::isfinite(km) || !IsOnEarth(points));
+    CheckLine(points);
     if (points.size() >= 2) {
-        checkBook(points);
+        CheckBook(points);
     }
     return 0;
 }

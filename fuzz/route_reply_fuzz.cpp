@@ -11,24 +11,24 @@ using namespace Tarvik::Seaplan;
 
 namespace {
 
-void require(bool holds) {
+void Require(bool holds) {
     if (!holds) {
         std::abort();
     }
 }
 
-void checkStop(const RouteStops& stops, std::size_t index) {
+void CheckStop(const RouteStops& stops, std::size_t index) {
     for (const auto& group : stops[index].rp_groups) {
-        require(group.leg == static_cast<int>(index));
+        Require(group.leg == static_cast<int>(index));
         std::string text;
         AlternativeRequestText(stops, group.rp_id, "1", text);
     }
     for (const auto& lock : stops[index].locks) {
-        require(lock.item.compare(0, lock.key.size() + 1, lock.key + "=") == 0);
+        Require(lock.item.compare(0, lock.key.size() + 1, lock.key + "=") == 0);
     }
     for (const auto& segment : stops[index].routes) {
         float km = 0;
-        require(PointsetLength(segment.pointset, km) == 0);
+        Require(PointsetLength(segment.pointset, km) == 0);
     }
 }
 
@@ -42,10 +42,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     RouteStops stops;
     const int code = ParseRouteReply(reply, stops);
-    require(code <= 0 && code >= -6);
-    require((code == 0) == !stops.empty());
+    Require(code <= 0 && code >= -6);
+    Require((code == 0) == !stops.empty());
     for (std::size_t i = 0; i < stops.size(); ++i) {
-        checkStop(stops, i);
+        CheckStop(stops, i);
     }
     return 0;
 }

@@ -61,7 +61,7 @@ bool CheckLandFile(const std::string& path, std::string& error) {
 }
 
 bool CheckNetworkFile(const std::string& path, std::string& error) {
-    return CheckFramedFile(path, "SEANET02", kNetworkHead, error);
+    return CheckFramedFile(path, "SEANET04", kNetworkHead, error);
 }
 
 }  // namespace Tarvik::Client

@@ -83,8 +83,8 @@ TEST_F(RemarkAnswersTest, DeletingARowBetweenAsksForTheChangedTextAndSavesItToIt
     messages.Answer(Answer::Yes);
     ClickDelete(1);
     ASSERT_EQ(messages.messages.size(), 2U);
-    EXPECT_EQ(messages.messages[0].text, "IDS_DELREMARKTIP");
-    EXPECT_EQ(messages.messages[1].text, "IDS_REMARKSAVETIP");
+    EXPECT_EQ(messages.messages[0].text, "IDS_DELREMARKTIP\nIDS_VIEW_LOSTREMARK");
+    EXPECT_EQ(messages.messages[1].text, "IDS_REMARKSAVETIP\nIDS_VIEW_LOSTREMARK");
     EXPECT_THAT(view.Names(), ElementsAre("Three", "One"));
     EXPECT_EQ(view.current, 1);
     EXPECT_EQ(view.body, "About One");

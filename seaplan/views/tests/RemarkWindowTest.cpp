@@ -87,7 +87,8 @@ TEST_F(RemarkWindowTest, ATypedTextIsAskedAboutBeforeTheKeyClosesTheWindow) {
     QTest::keyClick(&Subject(), Qt::Key_Escape);
     QApplication::processEvents();
     ASSERT_EQ(messages.messages.size(), 1U);
-    EXPECT_EQ(messages.messages[0].text, "The remark has been changed. Save it?");
+    EXPECT_EQ(messages.messages[0].text,
+              "The remark has been changed. Save it?\nRemark \"Draft\" of North Sea");
     EXPECT_FALSE(Remarks().isVisible());
     EXPECT_EQ(desk.Count(Ask::kAddRemark), 0);
 }
