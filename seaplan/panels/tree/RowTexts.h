@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/tree/TreeCodes.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 
 /// What rows show beside their records: labels and tool tips in the language in force, and how many voyages a
@@ -12,6 +13,7 @@
 namespace Tarvik::Seaplan {
 
 struct TreeContext;
+struct VoyInfo;
 
 /// Labels and tips of rows in the language in force when this is made. They are given to the styles before
 /// rows are made: asking for each row costs more than the row itself.
@@ -48,5 +50,10 @@ std::string CountText(int count);
 bool CountAndMark(TreeContext& c);
 /// Counts of all categories that have voyages. False for a row without a record.
 bool RefreshCounts(TreeContext& c);
+
+/// Shows the dates of a voyage on its row in place of the link to its port calls: the first departure and the
+/// last arrival. Apart from TreeStatus, which asks the server, for who asks nothing. Fails with fewer than
+/// two port calls, and nothing changes.
+Outcome<DatesStep> ShowRowDates(TreeWidget& tree, TreeRow row, const VoyInfo& voyage);
 
 }  // namespace Tarvik::Seaplan

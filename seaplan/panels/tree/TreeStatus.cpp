@@ -9,7 +9,7 @@
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
-#include "seaplan/panels/tree/RowDates.h"
+#include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {

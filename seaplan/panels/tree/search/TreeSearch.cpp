@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "seaplan/panels/tree/RowDates.h"
+#include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {
