@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <chrono>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -81,7 +80,7 @@ TEST_F(TlsTest, ReasonNamesTheHostAndWhatToDo) {
               "that authority's certificate added to those that are trusted here, or name its file in "
               "SEAPLAN_CA_FILE.");
     Start({-10, 0, {}, 2});
-    std::this_thread::sleep_for(std::chrono::milliseconds(3100));
+    AwaitExpiry(folder_.File("c.pem"));
     EXPECT_EQ(reason("https://127.0.0.1", "c.pem"),
               "The certificate of 127.0.0.1 has expired. Check the date of this computer, or have the "
               "certificate renewed.");
@@ -91,7 +90,7 @@ TEST_F(TlsTest, CertificateThatExpiresEndsNoConnectionButTheNext) {
     Start({-10, 0, {}, 2});
     Client::RemoteLink link(SettingsFor("https://127.0.0.1", "c.pem"));
     ASSERT_TRUE(link.Connect(error_)) << error_;
-    std::this_thread::sleep_for(std::chrono::milliseconds(3100));
+    AwaitExpiry(folder_.File("c.pem"));
     const Client::RequestBlock load(3, 5, "{ui:\"anna\"}");
     EXPECT_EQ(link.Exchange("anna", *load), "[]") << link.LastFailure();
     Client::RemoteLink next(SettingsFor("https://127.0.0.1", "c.pem"));

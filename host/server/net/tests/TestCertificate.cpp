@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/tests/TestCertificate.h"
 
+#include <chrono>
 #include <cstdio>
 #include <memory>
 #include <stdexcept>
+#include <thread>
 
 #include <openssl/evp.h>
 #include <openssl/pem.h>
@@ -56,6 +58,21 @@ void WriteTestCertificate(const std::string& certificateFile, const std::string&
     const auto* password = reinterpret_cast<const unsigned char*>(kind.password.data());
     Require(secret && PEM_write_PrivateKey(secret.get(), key.get(), cipher, cipher ? password : nullptr,
                                            static_cast<int>(kind.password.size()), nullptr, nullptr) == 1);
+}
+
+void AwaitExpiry(const std::string& certificateFile) {
+    using Clock = std::chrono::steady_clock;
+    const File in(std::fopen(certificateFile.c_str(), "rb"), &std::fclose);
+    Require(in != nullptr);
+    const Certificate certificate(PEM_read_X509(in.get(), nullptr, nullptr, nullptr), &X509_free);
+    Require(certificate != nullptr);
+    const auto last = Clock::now() + std::chrono::seconds(10);
+    while (X509_cmp_current_time(X509_get0_notAfter(certificate.get())) > 0) {
+        if (Clock::now() > last) {
+            throw std::runtime_error("the test certificate does not end");
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
 }
 
 }  // namespace Tarvik::Server

@@ -17,4 +17,7 @@ struct CertificateKind {
 void WriteTestCertificate(const std::string& certificateFile, const std::string& keyFile,
                           const CertificateKind& kind = {});
 
+/// Returns when the certificate's time has ended. Throws when it does not end within ten seconds.
+void AwaitExpiry(const std::string& certificateFile);
+
 }  // namespace Tarvik::Server
