@@ -96,6 +96,18 @@ calculate 49 133 yes
 undo 32 605 no
 save 43 253 no
 )"},
+    {"AnEditTakenBackBehindASaveThatBrokeOffLookedStored", R"(
+openbykey 9 676 yes
+speed 23 670 no
+loseanswer 40 472 yes
+track 24 564 no
+opentable 52 595 yes
+undo 22 759 yes
+rightpress 31 131 yes
+moveup 16 433 no
+relogin 48 325 no
+open 29 201 no
+)"},
 };
 
 class KeptWalkTest : public ::testing::TestWithParam<KeptWalk> {};

@@ -25,6 +25,7 @@ Player::Player(PanelDesk& desk, FaultyServer& server, Person& person)
 void Player::Start() {
     client_.reset();
     client_ = std::make_unique<Client>();
+    ++beginnings_;
     Client::Toggle();
 }
 
@@ -149,6 +150,7 @@ void Player::Relogin() {
     }
     Interface::Raise(Interface::Bus::Logout);
     Client::Toggle();
+    ++beginnings_;
 }
 
 }  // namespace Tarvik::Seaplan::Walk

@@ -19,6 +19,8 @@ class Player {
     void Play(const Step& step);
     Client& Running() { return *client_; }
     const Client& Running() const { return *client_; }
+    /// How often a client has begun with what the server has: started, or with a user who came back.
+    int Beginnings() const { return beginnings_; }
     /// Where the ship is, and that it was seen: the vessel of some voyage.
     static constexpr const char* kVessel = "7";
 
@@ -58,6 +60,7 @@ class Player {
     FaultyServer& server_;
     Person& person_;
     std::unique_ptr<Client> client_;
+    int beginnings_ = 0;
     int kept_ = 0;  ///< distance tables that were to be kept
 };
 

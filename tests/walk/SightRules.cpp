@@ -98,7 +98,7 @@ bool WasSaved(const Happened& step) {
 /// opening.
 void Rules::NoteShown(const Happened& step) {
     const bool another = step.after.voyage != step.before.voyage;
-    const bool stayed = !another && step.before.marked && step.after.marked;
+    const bool stayed = !another && step.before.marked && step.after.marked && !GaveUp(step);
     if (another || (IsOpening(step.step.act) && step.client.window.visible && !stayed)) {
         seen_ = !step.after.rows.empty();
     }

@@ -28,8 +28,9 @@ class World {
         server_.BeginStep();
         person_.asked.clear();
         const Sight before = Look(player_->Running());
+        const int beginnings = player_->Beginnings();
         player_->Play(step);
-        if (step.act >= Act::Relogin) {
+        if (player_->Beginnings() > beginnings) {
             rules_.NoteFreshClient();
         }
         if (!server_.Writes().empty()) {

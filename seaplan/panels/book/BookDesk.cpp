@@ -154,12 +154,14 @@ bool BookDesk::GoForward() {
 void BookDesk::DropEdits() {
     PosBookData saved = history_.Backup();
     history_.Push(saved, {TextIds::IDS_VIEW_EDITCANCEL}, {Front(), Front()});
-    history_.MarkSaved();
+    if (history_.IsBackupStored()) {
+        history_.MarkSaved();
+    }
     ShowState(std::move(saved), Front());
 }
 
-void BookDesk::NoteSaved() {
-    history_.MarkSaved(sheet_.data);
+void BookDesk::NoteStored(bool known) {
+    known ? history_.MarkSaved(sheet_.data) : history_.MarkUnsaved();
     NoteHistory();
 }
 

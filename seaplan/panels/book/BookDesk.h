@@ -56,8 +56,9 @@ class BookDesk {
     bool GoForward();
     /// All edits since the last save are taken back, as one edit.
     void DropEdits();
-    /// What is on show is saved.
-    void NoteSaved();
+    /// Whether what is on show is what the server has: not known from the beginning of a save until it ended
+    /// well.
+    void NoteStored(bool known);
     /// The plain waypoints before a place behind the first port show, and it does too.
     void UnfoldBefore(const PosBookRowRef& ref);
     /// Cuts the way to a row into waypoints; the row in front stays the same place. Returns how many came.

@@ -30,6 +30,7 @@ class EditHistory {
         backup_ = state;
         at_ = 0;
         saved_ = 0;
+        known_ = true;
     }
     /// The state after an edit; states that were undone are gone.
     void Push(const State& state, const EditName& name = {}, const Extra& extra = {}) {
@@ -52,14 +53,18 @@ class EditHistory {
     void MarkSaved() {
         saved_ = at_;
         backup_ = steps_[at_].state;
+        known_ = true;
     }
     /// The same where it has changed since its edit in what is only a matter of the view.
     void MarkSaved(const State& shown) {
         steps_[at_].state = shown;
         MarkSaved();
     }
-    /// No state is.
-    void MarkUnsaved() { saved_ = kGone; }
+    /// No state is, or none is known to be, as behind a save that broke off.
+    void MarkUnsaved() {
+        saved_ = kGone;
+        known_ = false;
+    }
     bool IsSaved() const { return at_ == saved_; }
     /// Whether anything was begun.
     bool IsThere() const { return !steps_.empty(); }
@@ -72,8 +77,9 @@ class EditHistory {
         return {CanGoBack() ? EditText(TextIds::IDS_VIEW_UNDOOF, Now().name) : std::string(),
                 CanGoForward() ? EditText(TextIds::IDS_VIEW_REDOOF, Next().name) : std::string()};
     }
-    /// The state as it was begun with or last saved.
+    /// The state as it was begun with or last saved, and whether the server still has it.
     const State& Backup() const { return backup_; }
+    bool IsBackupStored() const { return known_; }
 
   private:
     static constexpr std::size_t kGone = static_cast<std::size_t>(-1);
@@ -83,6 +89,7 @@ class EditHistory {
     State backup_{};
     std::size_t at_ = 0;
     std::size_t saved_ = 0;
+    bool known_ = true;
 };
 
 }  // namespace Tarvik::Seaplan

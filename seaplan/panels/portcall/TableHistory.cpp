@@ -85,6 +85,10 @@ void TableHistory::Take(const EditName& name) {
     }
 }
 
+void TableHistory::NoteNotSaved() {
+    history_->MarkUnsaved();
+}
+
 void TableHistory::ShowState(const TableState& to) {
     const PortCallSheet now = sheet_;
     sheet_ = to.sheet;
@@ -123,6 +127,9 @@ void TableHistory::ShowRoute(const TableState& to) {
     } else if (route.IsFor(sheet_.voyageId)) {
         route.Drop();
         voyages_.ClearChart();
+        if (sheet_.state.canOpenBook) {
+            voyages_.ShowVoyage(sheet_.voyageId);
+        }
     }
 }
 

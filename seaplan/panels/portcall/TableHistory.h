@@ -24,6 +24,8 @@ class TableHistory {
     void Begin() { begins_ = true; }
     /// What has changed in rows and units since the last call is an edit of this name.
     void Take(const EditName& name = {});
+    /// A save broke off: until the next one none of the states is known to be what the server has.
+    void NoteNotSaved();
     /// The state before the last edit, or behind it again, into the sheet. False where there is none.
     bool GoBack();
     bool GoForward();

@@ -35,6 +35,7 @@ class RecordingBookView final : public RecordingPanelWindow<BookView> {
         return {cell.column, cell.row, cell.column + 1, cell.row + 1};
     }
     TextBox& TextOver() override { return box_; }
+    void PutTyped(const std::string& typed) override { text = typed; }
     DropList& ChoicesOver() override { return list_; }
     void ShowEcho(const std::string& shown) override { echo = shown; }
     void PutPicker(const BookCellPlace& cell) override { pickerCell = cell; }
