@@ -36,6 +36,8 @@ class TARVIK_API ToolWindow : public QFrame {
     virtual void ApplySkin();
 
   protected:
+    static constexpr int kSide = 2 * kGrid;  ///< pixels between the window's edges and its content
+
     /// A press on the free surface, before the window begins to move.
     virtual void SurfacePressed() {}
     /// Asked to close by the window system, as by Alt+F4; hides the window or keeps it.
