@@ -3,18 +3,15 @@
 
 #include <functional>
 
-#include <tarvik/skin/ToolWindow.h>
+#include <tarvik/skin/EntryForm.h>
 
 #include "host/client/places/OwnPortDraft.h"
-
-class QLineEdit;
-class QPushButton;
 
 namespace Tarvik::Client {
 
 /// The small window in which one own port is added or changed. Below the fields stands what was understood of
-/// the position, and what is wrong; the window then stays open.
-class OwnPortForm : public Skin::ToolWindow {
+/// the position.
+class OwnPortForm : public Skin::EntryForm {
   public:
     /// What the window asks its owner.
     struct Owner {
@@ -26,44 +23,24 @@ class OwnPortForm : public Skin::ToolWindow {
         std::function<void()> closed;
     };
 
-    OwnPortForm(QWidget* mainWindow, Owner owner);
+    OwnPortForm(QWidget* mainWindow, const Owner& owner);
 
     /// Fills the fields; one without an id is added, else changed. Does not show the window.
     void Open(const Ports::Place& port);
-    /// Whether something was typed that is not saved.
-    bool IsTouched() const { return Typed() != opened_; }
-    /// Texts in the language in force.
-    void ApplyTexts();
-    void ApplySkin() override;
+    void ApplyTexts() override;
 
   protected:
-    /// Nothing that was typed is lost without a question.
-    void CloseAsked() override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
+    void Commit() override;
+    void Typed() override { ShowUnderstood(); }
 
   private:
-    struct Row {
-        QLabel* title = nullptr;
-        QLineEdit* field = nullptr;
-    };
-    Row AddRow(QVBoxLayout& column, const char* name);
-    void AddButtons();
-    OwnPortDraft Typed() const;
-    void Commit();
+    OwnPortForm(QWidget* mainWindow, const Owner& owner, QLabel* understood);
+    OwnPortDraft Draft() const;
     void ShowUnderstood();
-    void Tell(const QString& fault);
 
     Owner owner_;
-    Ports::Place port_;    ///< as it was opened
-    OwnPortDraft opened_;  ///< its texts
-    Row name_;
-    Row place_;
+    Ports::Place port_;  ///< as it was opened
     QLabel* understood_;
-    QLabel* fault_;
-    QPushButton* save_;
-    QPushButton* cancel_;
-    QToolButton* close_;
 };
 
 }  // namespace Tarvik::Client

@@ -131,14 +131,9 @@ void FleetDesk::OnLogout() {
 
 FleetWindow& FleetDesk::List() {
     if (!list_) {
-        const auto vesselAt = [this](int row) {
-            const auto& fleet = store_.Vessels();
-            const auto index = static_cast<std::size_t>(row);
-            return index < fleet.size() ? fleet[index] : Interface::FleetVessel();
-        };
-        list_ = new FleetWindow(
-            MainWindow(), {[this] { OpenForm({}); }, [this, vesselAt](int row) { OpenForm(vesselAt(row)); },
-                           [this](int row) { Remove(row); }, [this] { ChooseFile(); }});
+        list_ = new FleetWindow(MainWindow(),
+                                {[this] { OpenForm({}); }, [this](const std::string& id) { Change(id); },
+                                 [this](const std::string& id) { Remove(id); }, [this] { ChooseFile(); }});
         if (const QWidget* main = MainWindow()) {
             list_->move(main->mapToGlobal(kFirstPlace));
         }
@@ -161,6 +156,9 @@ VesselForm& FleetDesk::Form() {
 }
 
 void FleetDesk::OpenForm(const Interface::FleetVessel& vessel) {
+    if (!Form().MayGo()) {
+        return;
+    }
     Form().Open(vessel);
     Form().move(List().geometry().center() - Form().rect().center());
     Form().show();
@@ -181,12 +179,18 @@ QString FleetDesk::Save(Interface::FleetVessel vessel) {
     return WordOf(outcome);
 }
 
-void FleetDesk::Remove(int row) {
-    const auto& fleet = store_.Vessels();
-    if (row < 0 || static_cast<std::size_t>(row) >= fleet.size()) {
+void FleetDesk::Change(const std::string& id) {
+    if (const Interface::FleetVessel* vessel = store_.Find(id)) {
+        OpenForm(*vessel);
+    }
+}
+
+void FleetDesk::Remove(const std::string& id) {
+    const Interface::FleetVessel* found = store_.Find(id);
+    if (found == nullptr) {
         return;
     }
-    Interface::FleetVessel vessel = fleet[static_cast<std::size_t>(row)];
+    Interface::FleetVessel vessel = *found;
     if (!Agreed(Word("REMOVE_QUESTION").arg(QString::fromStdString(vessel.name)), &List())) {
         return;
     }

@@ -39,7 +39,8 @@ class FleetDesk : public Core::TObject {
     void OnLanguage();
     void OnLogout();
     void OpenForm(const Interface::FleetVessel& vessel);
-    void Remove(int row);
+    void Change(const std::string& id);
+    void Remove(const std::string& id);
     void ChooseFile();
     QString Save(Interface::FleetVessel vessel);
     void Refresh();

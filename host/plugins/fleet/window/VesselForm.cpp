@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/plugins/fleet/window/VesselForm.h"
 
-#include <QFormLayout>
-#include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QPushButton>
 #include <utility>
 
 #include "host/plugins/fleet/window/Words.h"
@@ -14,19 +9,35 @@ namespace Tarvik::Fleet {
 
 namespace {
 
-constexpr int kWidth = 340;  ///< pixels
-
-struct Field {
-    const char* key;   ///< of its title
-    const char* name;  ///< object name
+struct VesselField {
+    Skin::EntryForm::Field look;
     std::string VesselDraft::*text;
 };
 
-constexpr Field kForm[] = {
-    {"NAME", "fleetName", &VesselDraft::name},   {"MMSI", "fleetMmsi", &VesselDraft::mmsi},
-    {"IMO", "fleetImo", &VesselDraft::imo},      {"CALLSIGN", "fleetCallSign", &VesselDraft::callSign},
-    {"TYPE", "fleetType", &VesselDraft::type},   {"LENGTH", "fleetLength", &VesselDraft::length},
-    {"SPEED", "fleetSpeed", &VesselDraft::speed}};
+constexpr VesselField kFields[] = {
+    {{"NAME", "fleetName"}, &VesselDraft::name},    {{"MMSI", "fleetMmsi"}, &VesselDraft::mmsi},
+    {{"IMO", "fleetImo"}, &VesselDraft::imo},       {{"CALLSIGN", "fleetCallSign"}, &VesselDraft::callSign},
+    {{"TYPE", "fleetType"}, &VesselDraft::type},    {{"LENGTH", "fleetLength"}, &VesselDraft::length},
+    {{"SPEED", "fleetSpeed"}, &VesselDraft::speed},
+};
+
+Skin::EntryForm::Plan PlanOfForm() {
+    constexpr int kWidth = 340;  // pixels
+    Skin::EntryForm::Plan plan{"fleetVesselForm",
+                               "fleetFormClose",
+                               "fleetFault",
+                               "fleetSave",
+                               "fleetCancel",
+                               "DROP",
+                               kWidth,
+                               false,
+                               {},
+                               &Word};
+    for (const VesselField& field : kFields) {
+        plan.fields.push_back(field.look);
+    }
+    return plan;
+}
 
 /// The field that a fault is about.
 std::size_t FieldOf(Fault fault) {
@@ -55,140 +66,33 @@ std::size_t FieldOf(Fault fault) {
 }  // namespace
 
 VesselForm::VesselForm(QWidget* mainWindow, Save save, std::function<void()> closed)
-    : ToolWindow(mainWindow, "fleetVesselForm"),
-      save_(std::move(save)),
-      closed_(std::move(closed)),
-      fault_(new QLabel(this)),
-      saveButton_(new QPushButton(this)),
-      cancel_(new QPushButton(this)),
-      close_(AddCaptionButton("fleetFormClose", "close")) {
-    setFixedWidth(kWidth);
-    auto* form = new QFormLayout;
-    form->setContentsMargins(2 * Skin::kGrid, 2 * Skin::kGrid, 2 * Skin::kGrid, 0);
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        rows_[i].title = new QLabel(this);
-        rows_[i].field = new QLineEdit(this);
-        rows_[i].field->setObjectName(kForm[i].name);
-        rows_[i].field->setProperty("field", true);
-        rows_[i].field->setFixedHeight(Skin::kControlHeight);
-        rows_[i].title->setBuddy(rows_[i].field);
-        connect(rows_[i].field, &QLineEdit::textEdited, this, [this] { Tell({}); });
-        form->addRow(rows_[i].title, rows_[i].field);
-    }
-    Body()->addLayout(form);
-    fault_->setObjectName("fleetFault");
-    fault_->setWordWrap(true);
-    fault_->setContentsMargins(2 * Skin::kGrid, 0, 2 * Skin::kGrid, 0);
-    Body()->addWidget(fault_);
-    saveButton_->setObjectName("fleetSave");
-    saveButton_->setProperty("primary", true);
-    cancel_->setObjectName("fleetCancel");
-    connect(saveButton_, &QPushButton::clicked, this, &VesselForm::Commit);
-    connect(cancel_, &QPushButton::clicked, this, &QWidget::hide);
-    connect(close_, &QToolButton::clicked, this, &VesselForm::CloseAsked);
-    auto* row = new QHBoxLayout;
-    row->setContentsMargins(2 * Skin::kGrid, Skin::kGrid, 2 * Skin::kGrid, 2 * Skin::kGrid);
-    row->addStretch(1);
-    row->addWidget(cancel_);
-    row->addWidget(saveButton_);
-    Body()->addLayout(row);
-    ApplySkin();
-    ApplyTexts();
-}
-
-void VesselForm::ApplyTexts() {
-    SetCaption(Word(id_.empty() ? "ADD_TITLE" : "CHANGE_TITLE"));
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        rows_[i].title->setText(Word(kForm[i].key));
-        rows_[i].field->setAccessibleName(Word(kForm[i].key));
-    }
-    saveButton_->setText(Word("SAVE"));
-    saveButton_->setToolTip(Word("SAVE_TIP"));
-    cancel_->setText(Word("CANCEL"));
-    cancel_->setToolTip(Word("CANCEL_TIP"));
-    Skin::Describe(close_, Word("CLOSE"));
-}
-
-void VesselForm::ApplySkin() {
-    ToolWindow::ApplySkin();
-    fault_->setStyleSheet(Skin::Coloured("color: @error;"));
+    : EntryForm(mainWindow, PlanOfForm(), std::move(closed)), save_(std::move(save)) {
+    EntryForm::ApplySkin();
+    EntryForm::ApplyTexts();
 }
 
 void VesselForm::Open(const Interface::FleetVessel& vessel) {
     id_ = vessel.id;
-    opened_ = VesselDraft::Of(vessel);
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        rows_[i].field->setText(QString::fromStdString(opened_.*kForm[i].text));
+    const VesselDraft draft = VesselDraft::Of(vessel);
+    std::vector<std::string> texts;
+    for (const VesselField& field : kFields) {
+        texts.push_back(draft.*field.text);
     }
-    Tell({});
-    ApplyTexts();
-    adjustSize();
-    rows_[0].field->setFocus();
-}
-
-VesselDraft VesselForm::Typed() const {
-    VesselDraft draft;
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        draft.*kForm[i].text = rows_[i].field->text().toStdString();
-    }
-    return draft;
-}
-
-bool VesselForm::IsTouched() const {
-    const VesselDraft typed = Typed();
-    for (const Field& field : kForm) {
-        if (typed.*field.text != opened_.*field.text) {
-            return true;
-        }
-    }
-    return false;
+    Fill(texts, id_.empty());
 }
 
 void VesselForm::Commit() {
-    const VesselDraft typed = Typed();
+    const std::vector<std::string> texts = Texts();
+    VesselDraft typed;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        typed.*kFields[i].text = texts[i];
+    }
     if (const auto fault = typed.Check()) {
-        QLineEdit* field = rows_[FieldOf(*fault)].field;
-        Tell(Word(KeyOf(*fault)));
-        field->setFocus();
-        return field->selectAll();
+        return Refuse(FieldOf(*fault), Word(KeyOf(*fault)));
     }
     Interface::FleetVessel vessel = typed.Vessel();
     vessel.id = id_;
-    const QString failure = save_(vessel);
-    Tell(failure);
-    if (failure.isEmpty()) {
-        hide();
-    }
-}
-
-void VesselForm::Tell(const QString& fault) {
-    fault_->setText(fault);
-    fault_->setVisible(!fault.isEmpty());
-    adjustSize();
-}
-
-/// Nothing that was typed is lost without a question.
-void VesselForm::CloseAsked() {
-    if (!IsTouched() || Agreed(Word("DROP"), this)) {
-        hide();
-    }
-}
-
-void VesselForm::hideEvent(QHideEvent* event) {
-    ToolWindow::hideEvent(event);
-    closed_();
-}
-
-void VesselForm::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return Commit();
-        case Qt::Key_Escape:
-            return CloseAsked();
-        default:
-            ToolWindow::keyPressEvent(event);
-    }
+    End(save_(vessel));
 }
 
 }  // namespace Tarvik::Fleet

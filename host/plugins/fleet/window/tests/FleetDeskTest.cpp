@@ -120,6 +120,21 @@ TEST_F(FleetDeskTest, AFaultIsToldBelowTheFieldsAndNothingIsSent) {
     EXPECT_TRUE(Form().isVisible());
 }
 
+TEST_F(FleetDeskTest, AnotherVesselComesIntoTheFormWhenWhatWasTypedMayGo) {
+    Toggle();
+    Press("fleetAdd");
+    Type("fleetName", "Far Star");
+    sink.Answer(Interface::SysMsgHandleRes::No);
+    Press("fleetAdd");
+    EXPECT_EQ(Part<QLineEdit>("fleetVesselForm", "fleetName").text(), "Far Star");
+    EXPECT_EQ(sink.messages.size(), 1U);
+    sink.Answer(Interface::SysMsgHandleRes::Yes);
+    Press("fleetAdd");
+    EXPECT_EQ(Part<QLineEdit>("fleetVesselForm", "fleetName").text(), "");
+    Press("fleetAdd");
+    EXPECT_EQ(sink.messages.size(), 2U) << "nothing was typed";
+}
+
 TEST_F(FleetDeskTest, ANumberThatTheFleetHasAlreadyIsAskedAbout) {
     Toggle();
     for (const char* name : {"Far Star", "Near Star"}) {
