@@ -13,8 +13,6 @@
 
 namespace Tarvik::Data {
 
-namespace {
-
 double ToNumber(const std::string& text) {
     double value = 0.0;
     const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -23,8 +21,6 @@ double ToNumber(const std::string& text) {
     }
     return value;
 }
-
-}  // namespace
 
 std::string ReadFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
@@ -48,6 +44,14 @@ GeoPoint ToPoint(const std::string& text) {
         throw std::runtime_error("\"" + text + "\" is no position");
     }
     return ToPoint(parts[0], parts[1]);
+}
+
+std::vector<GeoPoint> ToLine(const std::string& text) {
+    std::vector<GeoPoint> line;
+    for (const std::string& place : SplitText(text, ';')) {
+        line.push_back(ToPoint(place));
+    }
+    return line;
 }
 
 std::vector<std::string> SplitText(const std::string& text, char separator) {

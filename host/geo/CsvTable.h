@@ -35,10 +35,14 @@ std::vector<std::string> SplitText(const std::string& text, char separator);
 
 /// The bytes of a file.
 std::string ReadFile(const std::string& path);
+/// A number with a point as decimal sign.
+double ToNumber(const std::string& text);
 ///@{
 /// A position of two numbers, or of a text "lon lat": degrees, rounded as the network keeps them.
 GeoPoint ToPoint(const std::string& x, const std::string& y);
 GeoPoint ToPoint(const std::string& text);
 ///@}
+/// Positions parted by ";".
+std::vector<GeoPoint> ToLine(const std::string& text);
 
 }  // namespace Tarvik::Data

@@ -6,6 +6,7 @@
 
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/util/Geodesy.h>
+#include <tarvik/util/PointText.h>
 
 #include "seaplan/data/Position.h"
 
@@ -19,8 +20,8 @@ namespace {
 /// The point just before the date line on the same side, its latitude as it stands; empty for a point
 /// elsewhere.
 std::string AtDateLine(const std::string& point) {
-    const auto comma = point.find(',');
-    const std::string tail = comma == std::string::npos ? "" : point.substr(comma);
+    const auto halves = Util::SplitPoint(point);
+    const std::string tail = halves ? "," + std::string(halves->y) : "";
     if (point.starts_with("180")) {
         return "179.99" + tail;
     }

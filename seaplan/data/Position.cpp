@@ -2,6 +2,7 @@
 #include "seaplan/data/Position.h"
 
 #include <tarvik/util/Geodesy.h>
+#include <tarvik/util/PointText.h>
 #include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Seaplan {
@@ -16,17 +17,17 @@ bool SplitPointset(const std::string& pointset, PointTexts& points) {
 }
 
 bool ReadPosition(const std::string& text, std::size_t leastComma, Position& out) {
-    const auto comma = text.find(',');
-    if (comma == std::string::npos || comma < leastComma) {
+    const auto halves = Util::SplitPoint(text);
+    if (!halves || halves->x.size() < leastComma) {
         return false;
     }
-    out.x = Util::StringUtl::ToDouble(text.substr(0, comma));
-    out.y = Util::StringUtl::ToDouble(text.substr(comma + 1));
+    const auto point = Util::ReadPoint(text);
+    out = {point->x, point->y};
     return true;
 }
 
 std::string PositionText(const Position& position, int decimals) {
-    return Util::StringUtl::Format("%.*f,%.*f", decimals, position.x, decimals, position.y);
+    return Util::PointText({position.x, position.y}, decimals);
 }
 
 int PointsetLength(const std::string& pointset, float& km) {

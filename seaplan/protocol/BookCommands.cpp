@@ -7,6 +7,7 @@
 
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/Jsona.h>
+#include <tarvik/util/PointText.h>
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/data/Position.h"
@@ -42,12 +43,12 @@ PosBookPoint ReadPoint(const Util::Jsona& row) {
 }
 
 bool AppendRow(int index, const PosBookPoint& point, int speedDecimals, std::string& text) {
-    const std::size_t comma = point.position.find(',');
-    if (comma == std::string::npos) {
+    const auto halves = Util::SplitPoint(point.position);
+    if (!halves) {
         return false;
     }
-    const std::string x = point.position.substr(0, comma);
-    const std::string y = point.position.substr(comma + 1);
+    const std::string x(halves->x);
+    const std::string y(halves->y);
     text +=
         StringUtl::Format(",\"%d|%s|%s|%s|%s|%d|%.*f|%d\"", index, point.psn.c_str(), x.c_str(), y.c_str(),
                           point.psr.c_str(), point.pli, speedDecimals, WireFromKnots(point.psp), point.pst);

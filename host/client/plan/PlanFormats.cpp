@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/util/PointText.h>
 #include <tarvik/util/StringUtl.h>
 
 namespace Tarvik::Client {
@@ -24,11 +25,8 @@ std::string Dump(const Json& json) {
     return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
-/// "x,y" as two numbers.
-std::pair<double, double> Position(const std::string& text) {
-    const std::size_t comma = std::min(text.find(','), text.size());
-    const std::string y = comma < text.size() ? text.substr(comma + 1) : std::string();
-    return {StringUtl::ToDouble(text.substr(0, comma)), StringUtl::ToDouble(y)};
+Util::GeoPoint PlaceOf(const std::string& text) {
+    return Util::ReadPoint(text).value_or(Util::GeoPoint());
 }
 
 Json Feature(const char* type, Json coordinates, Json properties) {
@@ -38,7 +36,7 @@ Json Feature(const char* type, Json coordinates, Json properties) {
 }
 
 Json PointFeature(const Interface::PlanWaypoint& point) {
-    const auto [x, y] = Position(point.position);
+    const auto [x, y] = PlaceOf(point.position);
     return Feature("Point", Json::array({x, y}),
                    {{"kind", point.kind == WaypointKind::Port ? "port" : "routePoint"},
                     {"id", point.id},
@@ -96,7 +94,7 @@ std::string PlanJson(const Interface::PlanResult& plan) {
     }
     Json route = Json::array();
     for (const Interface::PlanWaypoint& point : plan.route) {
-        const auto [x, y] = Position(point.position);
+        const auto [x, y] = PlaceOf(point.position);
         route.push_back({{"x", x},
                          {"y", y},
                          {"kind", static_cast<int>(point.kind)},
@@ -123,7 +121,7 @@ std::string PlanGeoJson(const Interface::PlanResult& plan) {
     for (std::size_t i = 0; i < plan.linePieces.size(); ++i) {
         Json line = Json::array();
         for (const std::string& text : plan.linePieces[i]) {
-            const auto [x, y] = Position(text);
+            const auto [x, y] = PlaceOf(text);
             line.push_back(Json::array({x, y}));
         }
         features.push_back(Feature("LineString", std::move(line), {{"kind", "route"}, {"piece", i}}));

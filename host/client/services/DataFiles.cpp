@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include <tarvik/util/FileKinds.h>
+
 #include "host/client/services/AppFolders.h"
 
 namespace fs = std::filesystem;
@@ -12,9 +14,6 @@ namespace fs = std::filesystem;
 namespace Tarvik::Client {
 
 namespace {
-
-constexpr std::size_t kLandHead = 16;
-constexpr std::size_t kNetworkHead = 24;
 
 bool Told(bool whole, const std::string& path, std::string& error) {
     if (!whole) {
@@ -56,12 +55,20 @@ bool CheckFramedFile(const std::string& path, const std::string& kind, std::size
     return Told(whole, path, error);
 }
 
+namespace {
+
+bool CheckKind(const std::string& path, const Util::FileKind& kind, std::string& error) {
+    return CheckFramedFile(path, std::string(kind.name), kind.headBytes, error);
+}
+
+}  // namespace
+
 bool CheckLandFile(const std::string& path, std::string& error) {
-    return CheckFramedFile(path, "LANDV001", kLandHead, error);
+    return CheckKind(path, Util::kLandKind, error);
 }
 
 bool CheckNetworkFile(const std::string& path, std::string& error) {
-    return CheckFramedFile(path, "SEANET04", kNetworkHead, error);
+    return CheckKind(path, Util::kNetworkKind, error);
 }
 
 }  // namespace Tarvik::Client

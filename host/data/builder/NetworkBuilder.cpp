@@ -180,9 +180,10 @@ void NetworkBuilder::AddGroups(Server::NetworkData& data) const {
 
 void NetworkBuilder::AddMasks(Server::NetworkData& data) const {
     std::unordered_map<Server::GateMask, std::uint16_t> known;
+    const Server::GateCells cells(data.routePoints, data.nodes);
     for (Server::NetworkEdge& edge : data.edges) {
         const Server::GateMask mask = Server::GatesCrossed(
-            Server::GreatCircle(data.nodes[edge.a], data.nodes[edge.b]), data.routePoints);
+            Server::GreatCircle(data.nodes[edge.a], data.nodes[edge.b]), data.routePoints, cells);
         const auto [it, isNew] = known.try_emplace(mask, static_cast<std::uint16_t>(data.masks.size()));
         if (isNew) {
             data.masks.push_back(mask);

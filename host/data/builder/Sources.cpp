@@ -21,9 +21,7 @@ std::vector<RoutePointSource> ReadRoutePoints(const CsvTable& table) {
         p.shut = table.At(i, "shut") == "1";
         const std::string cost = table.At(i, "cost");
         p.cost = cost.empty() ? 0.0F : std::stof(cost);
-        for (const std::string& end : SplitText(table.At(i, "gate"), ';')) {
-            p.gate.push_back(ToPoint(end));
-        }
+        p.gate = ToLine(table.At(i, "gate"));
         if (p.id.empty() || p.gate.size() < 2) {
             throw std::runtime_error(p.name + " lacks an id or a gate");
         }
@@ -61,10 +59,7 @@ std::vector<PassageSource> ReadPassages(const CsvTable& table,
 std::vector<AreaSource> ReadAreas(const CsvTable& table) {
     std::vector<AreaSource> areas;
     for (std::size_t i = 0; i < table.size(); ++i) {
-        AreaSource area{table.At(i, "name"), {}};
-        for (const std::string& corner : SplitText(table.At(i, "ring"), ';')) {
-            area.ring.push_back(ToPoint(corner));
-        }
+        AreaSource area{table.At(i, "name"), ToLine(table.At(i, "ring"))};
         if (area.ring.size() < 3) {
             throw std::runtime_error(area.name + " has less than three corners");
         }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <stdexcept>
+
 #include <gmock/gmock.h>
 
 #include "host/geo/CsvTable.h"
@@ -26,6 +28,13 @@ TEST(CsvTable, ShortRowsUnknownColumnsAndBlankLinesReadAsEmpty) {
     EXPECT_EQ(table.At(0, "b"), "");
     EXPECT_EQ(table.At(0, "c"), "");
     EXPECT_EQ(CsvTable("").size(), 0u);
+}
+
+TEST(ToLine, ReadsPositionsPartedBySemicolons) {
+    EXPECT_THAT(ToLine("5 6;-7.5 8"), ElementsAre(GeoPoint{5, 6}, GeoPoint{-7.5, 8}));
+    EXPECT_THAT(ToLine(""), ::testing::IsEmpty());
+    EXPECT_THROW(ToLine("5 6;7"), std::runtime_error);
+    EXPECT_THROW(ToNumber("5,5"), std::runtime_error);
 }
 
 TEST(SplitText, KeepsEmptyPieces) {

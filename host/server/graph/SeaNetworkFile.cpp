@@ -6,6 +6,8 @@
 #include <fstream>
 #include <utility>
 
+#include <tarvik/util/FileKinds.h>
+
 #include "host/geo/ByteReader.h"
 #include "host/geo/ByteWriter.h"
 #include "host/geo/MappedFile.h"
@@ -14,9 +16,9 @@ namespace Tarvik::Server {
 
 namespace {
 
-constexpr std::string_view kMagic = "SEANET04";
+constexpr std::string_view kMagic = Util::kNetworkKind.name;
 constexpr std::string_view kFamily = kMagic.substr(0, 6);
-constexpr std::size_t kHeaderBytes = 24;
+constexpr std::size_t kHeaderBytes = Util::kNetworkKind.headBytes;
 static_assert(kHeaderBytes % kRawAlignment == 0, "the payload's tables are read in place");
 
 std::string ForeignText(std::string_view bytes) {

@@ -21,6 +21,8 @@ class AtomicFile {
     bool Open(std::string& error);
     /// A failure is kept and told by Commit.
     void Write(std::string_view bytes);
+    /// Puts the file in its place, on disk before it answers. False, with an English text in `error`, when a
+    /// write or this failed; what stood there before stays.
     bool Commit(std::string& error);
 
   private:

@@ -3,6 +3,8 @@
 #include <iterator>
 #include <utility>
 
+#include <tarvik/util/PointText.h>
+
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Units.h"
 #include "seaplan/calculation/ais/AisCorrection.h"
@@ -40,12 +42,11 @@ int ShipPositionOf(const PortCallRows& history, std::string& position) {
     if (history.empty() || !IsAisRow(history.back())) {
         return -3;
     }
-    const std::string& name = history.back().ppn;
-    const auto comma = name.find(',');
-    if (comma == std::string::npos) {
+    const auto swapped = Util::SplitPoint(history.back().ppn);
+    if (!swapped) {
         return -3;
     }
-    position = name.substr(comma + 1) + "," + name.substr(0, comma);
+    position = std::string(swapped->y) + "," + std::string(swapped->x);
     return 0;
 }
 

@@ -14,7 +14,6 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-constexpr double kDateLine = 180.0;
 constexpr double kBesideDateLine = 179.99;
 
 using Texts = std::vector<std::string>;
@@ -29,11 +28,11 @@ Texts SplitAt(const std::string& text, const char* separator) {
 
 /// Moves a corner at the date line to just beside it. Whether it was there.
 bool MoveOffDateLine(VoyCalCorner& corner) {
-    if (corner.x == kDateLine) {
+    if (corner.x == Util::kMostLongitude) {
         corner.x = kBesideDateLine;
         return true;
     }
-    if (corner.x == -kDateLine) {
+    if (corner.x == -Util::kMostLongitude) {
         corner.x = -kBesideDateLine;
         return true;
     }

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include <charconv>
+#include <cmath>
+
+#include <tarvik/util/PointText.h>
+#include <tarvik/util/StringUtl.h>
+
+namespace Tarvik::Util {
+
+namespace {
+
+std::optional<double> Number(std::string_view text) {
+    while (!text.empty() && text.front() == ' ') {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && text.back() == ' ') {
+        text.remove_suffix(1);
+    }
+    if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
+        text.remove_prefix(1);
+    }
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(value)) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+}  // namespace
+
+std::optional<PointHalves> SplitPoint(std::string_view text) {
+    const auto comma = text.find(',');
+    if (comma == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return PointHalves{text.substr(0, comma), text.substr(comma + 1)};
+}
+
+std::optional<GeoPoint> ReadPoint(std::string_view text) {
+    const auto halves = SplitPoint(text);
+    if (!halves) {
+        return std::nullopt;
+    }
+    return GeoPoint{StringUtl::ToDouble(std::string(halves->x)), StringUtl::ToDouble(std::string(halves->y))};
+}
+
+std::optional<GeoPoint> ParsePoint(std::string_view text) {
+    const auto halves = SplitPoint(text);
+    const auto x = halves ? Number(halves->x) : std::nullopt;
+    const auto y = halves ? Number(halves->y) : std::nullopt;
+    if (!x || !y) {
+        return std::nullopt;
+    }
+    return GeoPoint{*x, *y};
+}
+
+std::string PointText(const GeoPoint& point, int decimals) {
+    return StringUtl::Format("%.*f,%.*f", decimals, point.x, decimals, point.y);
+}
+
+}  // namespace Tarvik::Util
