@@ -20,6 +20,7 @@ class PendingRoute {
         RouteStops stops;
         std::string voyage;
         std::optional<Util::_datetime_t> knownSince;
+        bool anew = false;
     };
 
   public:
@@ -49,12 +50,16 @@ class PendingRoute {
     /// A newly calculated route; it belongs to no voyage until Assign names one. `knownSince` is set for a
     /// route of known legs, which the server was not there to confirm: the time of the oldest.
     void Take(RouteStops stops, std::optional<Util::_datetime_t> knownSince = std::nullopt) {
-        route_ = {std::move(stops), "", knownSince};
+        route_ = {std::move(stops), "", knownSince, false};
     }
     /// As Take was told; nothing for a route that the server gave.
     const std::optional<Util::_datetime_t>& KnownSince() const { return route_.knownSince; }
     /// The route is that of voyage `vi` from now on.
     void Assign(const std::string& vi) { route_.voyage = vi; }
+    /// The route was asked anew, in place of the legs of a saved voyage: until it is saved no calculation
+    /// puts these back.
+    void MarkAnew() { route_.anew = true; }
+    bool IsAnewFor(const std::string& vi) const { return IsFor(vi) && route_.anew; }
     /// The same route by other points: whose it is stays.
     void Change(RouteStops stops) {
         route_.stops = std::move(stops);
@@ -72,7 +77,10 @@ class PendingRoute {
     /// The schedule of `vi` was loaded with these rows: its own pending route goes, that of another stays.
     void NoteLoaded(const std::string& vi, const PortCallRows& rows);
     /// The rows on show are those of the route: it need not be calculated before the next save.
-    void NoteSaved() { isCurrent_ = 1; }
+    void NoteSaved() {
+        isCurrent_ = 1;
+        route_.anew = false;
+    }
     /// The schedule was only drawn, by the timer or a switch in the tree: no route goes.
     void NoteShown(const PortCallRows& rows);
     /// Rows were moved, deleted or cleared: the route is recalculated before the next save.

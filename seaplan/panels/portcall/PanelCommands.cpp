@@ -12,9 +12,11 @@
 #include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/portcall/PortCallParts.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
+#include "seaplan/panels/portcall/RouteAnew.h"
 #include "seaplan/panels/portcall/VoyageFilling.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/texts/WhatIfTexts.h"
 #include "seaplan/panels/window/StatusWords.h"
 
 namespace Tarvik::Seaplan {
@@ -29,6 +31,17 @@ void TellFailure(PortCallDesk& desk, TextId id) {
 }
 
 }  // namespace
+
+PanelCommands::PanelCommands(PortCallDesk& desk, CellEditing& editing, CorrectedSchedule& corrected,
+                             VoyageFilling& filling)
+    : desk_(desk),
+      editing_(editing),
+      corrected_(corrected),
+      filling_(filling),
+      calculation_(desk, filling),
+      questions_(desk, editing) {
+    desk_.SetFollower([this] { questions_.Follow(); });
+}
 
 void PanelCommands::OnCalculate() {
     const PortCallDesk::Report report(desk_);
@@ -46,6 +59,23 @@ void PanelCommands::OnCalculate() {
         TellFailure(desk_, TextIds::IDS_PORTCALL_AISCOMPUTWARN);
     }
     desk_.History().Take({TextIds::IDS_VIEW_EDITCALCULATE});
+}
+
+void PanelCommands::OnRouteAnew() {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    if (desk_.IsCorrected()) {
+        return TellInStatusLine(Text(TextIds::IDS_VIEW_ANEWCORRECTED));
+    }
+    const auto taken = calculation_.CalculateAnew([this](const PortCallRows& now, const PortCallRows& anew) {
+        desk_.Show();
+        return desk_.View().AskRows(PreviewOfRoute(now, anew, desk_.Sheet().Units()));
+    });
+    if (!taken.Failed()) {
+        desk_.History().Take({TextIds::IDS_VIEW_EDITANEW});
+    } else if (taken.At() != AnewStep::Left) {
+        TellInStatusLine(Text(TextIds::IDS_VIEW_NOTANEW, {desk_.Sheet().cause}));
+    }
 }
 
 int PanelCommands::OnRouteChosen() {

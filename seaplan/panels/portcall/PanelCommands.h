@@ -7,6 +7,7 @@
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/PosBookData.h"
 #include "seaplan/panels/portcall/TableCalculation.h"
+#include "seaplan/panels/portcall/WhatIf.h"
 
 namespace Tarvik::Seaplan {
 
@@ -19,14 +20,14 @@ class VoyageFilling;
 class PanelCommands {
   public:
     PanelCommands(PortCallDesk& desk, CellEditing& editing, CorrectedSchedule& corrected,
-                  VoyageFilling& filling)
-        : desk_(desk),
-          editing_(editing),
-          corrected_(corrected),
-          filling_(filling),
-          calculation_(desk, filling) {}
+                  VoyageFilling& filling);
+    PanelCommands(const PanelCommands&) = delete;
+    PanelCommands& operator=(const PanelCommands&) = delete;
 
     void OnCalculate();
+    /// Asks the server for the whole route afresh, shows old and new miles of each leg, and replaces the legs
+    /// where the person takes them. A failure is told in the status line.
+    void OnRouteAnew();
     /// The pending route was changed on the chart: its distances and times go into the table that is
     /// open. kFollowRouteCodes.
     int OnRouteChosen();
@@ -51,6 +52,8 @@ class PanelCommands {
     /// where there is none.
     void OnUndo();
     void OnRedo();
+    /// The strip of questions below the table.
+    WhatIf& Questions() { return questions_; }
     /// The menu of a quantity opens: its units, in order.
     std::vector<std::string> OnUnitsAsked(UnitKind kind);
     /// Results as PortCallSheet::ChangeUnit.
@@ -62,6 +65,7 @@ class PanelCommands {
     CorrectedSchedule& corrected_;
     VoyageFilling& filling_;
     TableCalculation calculation_;
+    WhatIf questions_;
     std::string bookVoyage_;  ///< the voyage whose book was opened last
 };
 

@@ -12,7 +12,7 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
-using Mark = PastePreview::Mark;
+using Mark = RowsPreview::Mark;
 
 /// Puts the rows into a copy of the table one by one, and tells of each cell
 /// what becomes of it.
@@ -92,7 +92,7 @@ class Planner {
         }
         plan_.rows += takes ? 1 : 0;
     }
-    PastePreview::Cell PutCell(int row, int column, const PastedCell& cell, bool hasPort) {
+    RowsPreview::Cell PutCell(int row, int column, const PastedCell& cell, bool hasPort) {
         if (cell.value.empty() || (!hasPort && column != ColPort)) {
             unknown_ += cell.known ? 0 : 1;
             return {cell.text, cell.known ? Mark::Ignored : Mark::Unknown};

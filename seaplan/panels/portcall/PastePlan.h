@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "seaplan/panels/portcall/PortCallTable.h"
-#include "seaplan/panels/portcall/paste/PastePreview.h"
+#include "seaplan/panels/portcall/RowsPreview.h"
 #include "seaplan/panels/portcall/paste/PastedRows.h"
 
 namespace Tarvik::Seaplan {
@@ -21,7 +21,7 @@ struct PastedTime {
 /// What a paste makes of a table, before anything is changed.
 struct PastePlan {
     PortCallTable table;
-    PastePreview preview;
+    RowsPreview preview;
     std::vector<PastedTime> times;
     bool portsChange = false;  ///< a row gets another port than it had
     int rows = 0;              ///< that take something

@@ -96,7 +96,7 @@ void PasteRows::OnPaste(int row) {
     desk_.Show();
     const PortCallTable shown = sheet.table;
     const std::string voyage = sheet.voyageId;
-    if (!desk_.View().AskPaste(plan.preview)) {
+    if (!desk_.View().AskRows(plan.preview)) {
         return;
     }
     // What was shown is what is taken, and nothing else.

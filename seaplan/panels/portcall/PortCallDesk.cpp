@@ -33,10 +33,12 @@ void PortCallDesk::Show() {
     sheet_.state.staleSummary =
         !sheet_.state.summary.averageSpeed.empty() && !sheet_.stored.IsRouteOf(sheet_.table);
     sheet_.state.voyage = p_.voyages.NameOf(sheet_.voyageId);
-    if (!shown_ || sheet_.table != shown_->table) {
+    const bool otherTable = !shown_ || sheet_.table != shown_->table;
+    const bool otherState = !shown_ || sheet_.state != shown_->state;
+    if (otherTable) {
         p_.view.ShowTable(sheet_.table);
     }
-    if (!shown_ || sheet_.state != shown_->state) {
+    if (otherState) {
         p_.view.SetCaption(sheet_.state.caption, sheet_.state.changed);
         p_.view.ShowState(sheet_.state);
     }
@@ -48,6 +50,9 @@ void PortCallDesk::Show() {
     if (bookOpen_) {
         // A box that was up meanwhile has given the window back.
         p_.view.SetEnabled(false);
+    }
+    if (follower_ && (otherTable || otherState)) {
+        follower_();
     }
 }
 

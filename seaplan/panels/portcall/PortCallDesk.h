@@ -40,7 +40,9 @@ class PortCallDesk {
 
     /// Brings the window up to date; nothing is told that it shows already.
     void Show();
-    /// The same when the outermost report is over.
+    /// Called after the window was told of another table or state.
+    void SetFollower(std::function<void()> follower) { follower_ = std::move(follower); }
+    /// Show when the outermost report is over.
     class Report {
       public:
         explicit Report(PortCallDesk& desk) : desk_(desk) { ++desk_.reports_; }
@@ -100,6 +102,7 @@ class PortCallDesk {
     Parts p_;
     Boxes boxes_;
     std::function<void(const std::string&)> saved_;
+    std::function<void()> follower_;
     std::string zone_;
     PortCallSheet sheet_;
     TableHistory history_;

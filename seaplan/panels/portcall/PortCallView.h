@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/portcall/paste/PastePreview.h"
+#include "seaplan/panels/portcall/RowsPreview.h"
 #include "seaplan/panels/window/PanelWindow.h"
 
 namespace Tarvik::Seaplan {
@@ -13,6 +13,7 @@ class CellsView;
 struct PortCallState;
 class PortCallTable;
 struct UndoTexts;
+class WhatIfView;
 
 /// The window of the port call panel. It shows what it is given and reports what the person does.
 class PortCallView : public PanelWindow {
@@ -28,8 +29,10 @@ class PortCallView : public PanelWindow {
     virtual void BringRowIntoView(int row) = 0;
     /// The text on the clipboard, UTF-8; no more than a little over what is read of it.
     virtual std::string ClipboardText() const = 0;
-    /// Shows what a paste would do and waits for the answer. True for yes.
-    virtual bool AskPaste(const PastePreview& preview) = 0;
+    /// Shows what a command would do with rows and waits for the answer. True for yes.
+    virtual bool AskRows(const RowsPreview& preview) = 0;
+    /// The questions below the table.
+    virtual WhatIfView& Questions() = 0;
     /// What opens over the cells.
     virtual CellsView& Cells() = 0;
 };

@@ -33,6 +33,8 @@ class RowCommands {
     /// Fills the column in front down: from the first chosen row into the others, or from the row above into
     /// a single one.
     void FillDown(int row, int column);
+    /// Rows of the clipboard, from this one on: PasteRows::OnPaste.
+    void Paste(int row) { paste_.OnPaste(row); }
     /// Puts the cell in front into the same column of all chosen rows.
     void PutInChosen(int row, int column);
 

@@ -31,12 +31,20 @@ bool TableCalculation::Prepare(PortCallRows& rows) const {
 int TableCalculation::Schedule(const PortCallRows& rows, PortCallRows& result, int& hadPortCalls) {
     VoyController& voyages = desk_.Voyages();
     const PortCallSheet& sheet = desk_.Sheet();
-    if (!sheet.state.distanceTable) {
+    PendingRoute& pending = voyages.Module().Pending();
+    const bool anew = pending.IsAnewFor(sheet.voyageId);
+    if (!sheet.state.distanceTable && !anew) {
         return voyages.CalculateForVoyage(sheet.voyageId, rows, result, hadPortCalls);
+    }
+    if (anew && voyages.ScheduleCurrentRoute(rows, result) == 0) {
+        return 0;
     }
     const int code = voyages.CalculatePortCalls(rows, result);
     if (code == 0) {
-        voyages.Module().Pending().Assign(sheet.voyageId);
+        pending.Assign(sheet.voyageId);
+        if (anew) {
+            pending.MarkAnew();
+        }
     }
     return code;
 }
@@ -101,6 +109,75 @@ Outcome<TableStep> TableCalculation::ShowAndSave() {
     sheet.stored.NoteRoute(sheet.table);
     sheet.MarkChanged(desk_.Ports());
     return TableStep::Save;
+}
+
+/// The route of the rows as the server has it now; the sheet's cause tells why there is none.
+bool TableCalculation::FindAnew(const PortCallRows& rows, PortCallRows& fresh) {
+    const PortCallDesk::Busy busy(desk_);
+    VoyController& voyages = desk_.Voyages();
+    if (voyages.CalculatePortCalls(rows, fresh) != 0) {
+        desk_.SetCauseOfFault();
+        return false;
+    }
+    // Known legs are what the table has already.
+    if (voyages.Module().Pending().KnownSince()) {
+        desk_.Sheet().cause = Text(TextIds::IDS_VIEW_FAULTCONNECTION);
+        return false;
+    }
+    return true;
+}
+
+/// Draws again what the calculation has drawn over.
+void TableCalculation::ShowFormerRoute() {
+    VoyController& voyages = desk_.Voyages();
+    const PortCallSheet& sheet = desk_.Sheet();
+    if (voyages.Module().Pending().IsFor(sheet.voyageId)) {
+        voyages.Module().DrawCurrentRoute();
+        return;
+    }
+    voyages.ClearChart();
+    if (sheet.state.canOpenBook) {
+        voyages.ShowVoyage(sheet.voyageId);
+    }
+}
+
+Outcome<AnewStep> TableCalculation::TakeAnew(const PortCallRows& rows, const TakesRoute& takes) {
+    PendingRoute& pending = desk_.Voyages().Module().Pending();
+    PendingRoute::Rollback before(pending);
+    PortCallRows fresh;
+    if (!FindAnew(rows, fresh)) {
+        return AnewStep::Route;
+    }
+    const PortCallTable shown = desk_.Sheet().table;
+    const std::string voyage = desk_.Sheet().voyageId;
+    if (!takes(rows, fresh)) {
+        return AnewStep::Left;
+    }
+    desk_.Sheet().cause.clear();
+    const bool same = desk_.Sheet().table == shown && desk_.Sheet().voyageId == voyage;
+    if (!same || !ShowCalculated(rows, std::move(fresh))) {
+        return AnewStep::Show;
+    }
+    before.Keep();
+    pending.Assign(voyage);
+    if (desk_.Sheet().state.canOpenBook) {
+        pending.MarkAnew();
+    }
+    desk_.SetNote({});
+    return {};
+}
+
+Outcome<AnewStep> TableCalculation::CalculateAnew(const TakesRoute& takes) {
+    PortCallRows rows;
+    if (!Prepare(rows)) {
+        desk_.Sheet().cause = Text(TextIds::IDS_VIEW_NEEDTWOPORTS);
+        return AnewStep::Rows;
+    }
+    const auto taken = TakeAnew(rows, takes);
+    if (taken.Failed()) {
+        ShowFormerRoute();
+    }
+    return taken;
 }
 
 Outcome<FollowStep> TableCalculation::FollowRoute() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include "seaplan/controllers/VoyageChart.h"
 #include "seaplan/data/Outcome.h"
 #include "seaplan/data/VoyPortCall.h"
@@ -20,6 +22,15 @@ enum class TableStep {
     Fill,   ///< the voyage's new rows cannot be shown
     Save    ///< the voyage has its new rows, which the server did not take
 };
+
+enum class AnewStep {
+    Rows,   ///< fewer than two ports
+    Route,  ///< no route, or no server that was there to find it
+    Left,   ///< the person keeps the legs
+    Show    ///< the rows have changed meanwhile, or the schedule cannot be shown
+};
+/// Decides over the rows on show and those of a new route, row for row.
+using TakesRoute = std::function<bool(const PortCallRows&, const PortCallRows&)>;
 
 enum class FollowStep { Rows, Route, Show, Closed };
 /// Numbers of PanelCommands::OnRouteChosen.
@@ -44,6 +55,10 @@ class TableCalculation {
 
     /// Route and schedule of the rows; those of a voyage that had port calls are saved, too.
     Outcome<TableStep> Calculate();
+    /// Asks the server for the whole route afresh, whatever legs are kept, and draws it with its
+    /// alternatives. `takes` hears of the legs as they are and as they would be, and decides. Taken, it is
+    /// the pending route of the voyage, for the next save; left or failed, all is as before.
+    Outcome<AnewStep> CalculateAnew(const TakesRoute& takes);
     /// Distances and times of the pending route, which was changed on the chart.
     Outcome<FollowStep> FollowRoute();
     /// Saves the rows, calculated first where they have no distances, or the voyage no book or route of
@@ -54,6 +69,9 @@ class TableCalculation {
     bool Prepare(PortCallRows& rows) const;
     int Schedule(const PortCallRows& rows, PortCallRows& result, int& hadPortCalls);
     PortCallNote NoteOfRoute() const;
+    bool FindAnew(const PortCallRows& rows, PortCallRows& fresh);
+    Outcome<AnewStep> TakeAnew(const PortCallRows& rows, const TakesRoute& takes);
+    void ShowFormerRoute();
     bool ShowCalculated(const PortCallRows& rows, PortCallRows result);
     Outcome<TableStep> ShowAndSave();
 

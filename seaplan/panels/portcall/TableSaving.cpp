@@ -29,6 +29,7 @@ Outcome<TableSaveStep> TableSaving::Save(const std::string& vi, DrawMode mode) {
     }();
     if (!done) {
         desk_.SetCauseOfFault();
+        desk_.History().NoteNotSaved();
         return TableSaveStep::Server;
     }
     desk_.Sheet().unread = false;

@@ -11,7 +11,7 @@ namespace Tarvik::Seaplan {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using Mark = PastePreview::Mark;
+using Mark = RowsPreview::Mark;
 
 namespace {
 
@@ -21,7 +21,7 @@ class PasteRowsTest : public PortCallFixture {
         view.clipboard = text;
         EXPECT_TRUE(panel.Rows().OnTableKey({Key::V, false, true}, row, ColPort));
     }
-    const PastePreview::Cell& Shown(std::size_t row, std::size_t column) const {
+    const RowsPreview::Cell& Shown(std::size_t row, std::size_t column) const {
         return view.pastes.back().rows.at(row).at(column);
     }
     std::vector<std::string> Ports() const {
@@ -80,9 +80,9 @@ TEST_F(PasteRowsTest, ThePreviewMarksWhatItDoesNotKnow) {
     EXPECT_THAT(view.pastes[0].titles,
                 ElementsAre("IDS_PORTCALL_ORDER", "IDS_PORTCALL_PORT", "IDS_PORTCALL_PURPOSE",
                             "IDS_PORTCALL_SPEED", "IDS_PORTCALL_ETA", "IDS_PORTCALL_ETD"));
-    EXPECT_EQ(Shown(0, 1), (PastePreview::Cell{"ROTTERDAM", Mark::Plain}));
-    EXPECT_EQ(Shown(2, 1), (PastePreview::Cell{"ATLANTIS", Mark::Unknown}));
-    EXPECT_EQ(Shown(2, 3), (PastePreview::Cell{"fast", Mark::Unknown}));
+    EXPECT_EQ(Shown(0, 1), (RowsPreview::Cell{"ROTTERDAM", Mark::Plain}));
+    EXPECT_EQ(Shown(2, 1), (RowsPreview::Cell{"ATLANTIS", Mark::Unknown}));
+    EXPECT_EQ(Shown(2, 3), (RowsPreview::Cell{"fast", Mark::Unknown}));
     EXPECT_EQ(Shown(0, 4).mark, Mark::Plain);
     EXPECT_EQ(Shown(1, 4).mark, Mark::Ignored);
     EXPECT_THAT(view.pastes[0].words, HasSubstr("IDS_VIEW_PASTETIMES"));
@@ -93,8 +93,8 @@ TEST_F(PasteRowsTest, WhatWouldBeOverwrittenIsShown) {
     Open(kept);
     Paste("ROUEN\nGDANSK\n", 1);
     EXPECT_EQ(Shown(0, 0).text, "2");
-    EXPECT_EQ(Shown(0, 1), (PastePreview::Cell{"ROUEN for HAMBURG", Mark::Replaces}));
-    EXPECT_EQ(Shown(1, 1), (PastePreview::Cell{"GDANSK", Mark::Plain})) << "it stands there already";
+    EXPECT_EQ(Shown(0, 1), (RowsPreview::Cell{"ROUEN for HAMBURG", Mark::Replaces}));
+    EXPECT_EQ(Shown(1, 1), (RowsPreview::Cell{"GDANSK", Mark::Plain})) << "it stands there already";
     EXPECT_THAT(Ports(), ElementsAre("ROTTERDAM", "ROUEN", "GDANSK"));
     EXPECT_EQ(Cell(1, ColSpeed), "10.00") << "as if the port was typed";
 }

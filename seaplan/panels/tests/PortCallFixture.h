@@ -14,6 +14,7 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/PlacesContract.h>
+#include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
@@ -152,6 +153,10 @@ class PortCallFixture : public ::testing::Test {
         const std::string& text = messages.messages[number - 1].text;
         const std::size_t end = text.find('\n');
         return first ? text.substr(0, end) : end == std::string::npos ? "" : text.substr(end + 1);
+    }
+    /// Hours from a time of the table to another one.
+    static double HoursTo(const std::string& from, const std::string& to) {
+        return Util::DateTimeUtl::Diff(*Util::DateTimeUtl::Parse(to), *Util::DateTimeUtl::Parse(from));
     }
     /// How often a service of the chart was called.
     std::size_t Drawn(const char* service) const { return desk.Drawn(service); }

@@ -13,6 +13,7 @@
 #include "seaplan/panels/portcall/PortCallState.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/PortCallView.h"
+#include "seaplan/panels/portcall/WhatIfView.h"
 #include "seaplan/panels/tests/RecordingPanelWindow.h"
 
 namespace Tarvik::Seaplan {
@@ -20,6 +21,7 @@ namespace Tarvik::Seaplan {
 /// A port call window that only remembers what it was told.
 class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
                                     public CellsView,
+                                    public WhatIfView,
                                     public DateTimeView,
                                     public CalendarView {
   public:
@@ -32,8 +34,9 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     int selectedRow = -1;
     std::vector<int> chosen;  ///< by the person
     std::string clipboard;
-    std::vector<PastePreview> pastes;  ///< that were shown
-    bool takesPaste = true;            ///< the answer to the next one
+    std::vector<RowsPreview> pastes;  ///< that were shown, and other previews of rows
+    bool takesPaste = true;           ///< the answer to the next one
+    WhatIfState whatIf;
     int rowInView = -1;
     std::optional<CellEditor> openEditor;  ///< opened last and not hidden since
     int editorRow = -1;
@@ -45,6 +48,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     int selectedMatch = -1;
     void* matchWindow = nullptr;
     int purposeRow = -1;
+    int currentPurpose = -1;
     std::vector<std::string> purposes;
     std::string pickerTime;               ///< empty while the picker is closed
     std::string pickerText;               ///< of the picker's button
@@ -71,10 +75,12 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     void SelectRow(int row) override { selectedRow = row; }
     std::vector<int> ChosenRows() const override { return chosen; }
     std::string ClipboardText() const override { return clipboard; }
-    bool AskPaste(const PastePreview& preview) override {
+    bool AskRows(const RowsPreview& preview) override {
         pastes.push_back(preview);
         return takesPaste;
     }
+    WhatIfView& Questions() override { return *this; }
+    void ShowWhatIf(const WhatIfState& shown) override { whatIf = shown; }
     void BringRowIntoView(int row) override { rowInView = row; }
     CellsView& Cells() override { return *this; }
     void OpenEditor(const OpenedEditor& opened) override {
@@ -101,8 +107,9 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     void HideMatches() override { matchesShown = false; }
     void ShowMatchWindow(void* window) override { matchWindow = window; }
     void HideMatchWindow() override { matchWindow = nullptr; }
-    void OpenPurposes(int row, const std::vector<std::string>& texts, int) override {
+    void OpenPurposes(int row, const std::vector<std::string>& texts, int current) override {
         purposeRow = row;
+        currentPurpose = current;
         purposes = texts;
     }
     void HidePurposes() override { purposeRow = -1; }

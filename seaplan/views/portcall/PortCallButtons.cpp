@@ -13,6 +13,7 @@
 #include "seaplan/panels/portcall/PortCallState.h"
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/texts/WhatIfTexts.h"
 #include "seaplan/views/window/DialogTexts.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -23,17 +24,22 @@ PortCallButtons::PortCallButtons(QWidget* parent)
       save_(MakeTool("saveButton")),
       clear_(MakeTool("clearButton")),
       undo_(new UndoButtons(this)),
+      menu_(MakeTool("menuButton")),
+      whatIf_(new QPushButton(this)),
       book_(new QPushButton(this)),
       calculate_(new QPushButton(this)) {
     book_->setObjectName(QStringLiteral("positionBookButton"));
     calculate_->setObjectName(QStringLiteral("calculateButton"));
+    whatIf_->setObjectName(QStringLiteral("whatIfButton"));
     TieText(*book_, TextIds::IDS_PORTCALL_POSTBOOK);
+    TieText(*whatIf_, TextIds::IDS_VIEW_WHATIF);
+    TieKey(*whatIf_, QKeySequence(Qt::Key_F8));
     TieKey(*book_, QKeySequence(Qt::CTRL | Qt::Key_B));
     Skin::SkinWindow(*save_, Skin::ControlClass::PushButton, "VoySaveBtn");
     Skin::SkinWindow(*clear_, Skin::ControlClass::PushButton, "VoyDelAllBtn");
     Skin::SkinWindow(*calculate_, Skin::ControlClass::PushButton, "VoyCalculateBtn");
     Skin::SkinWindow(*book_, Skin::ControlClass::PushButton, "VoyPostionBookBtn");
-    for (QPushButton* button : {book_, calculate_}) {
+    for (QPushButton* button : {whatIf_, book_, calculate_}) {
         button->setAutoDefault(false);
         button->setFocusPolicy(Qt::TabFocus);
     }
@@ -44,7 +50,9 @@ PortCallButtons::PortCallButtons(QWidget* parent)
     row->addWidget(clear_);
     row->addSpacing(2 * Skin::kGrid);
     row->addWidget(undo_);
+    row->addWidget(menu_);
     row->addStretch(1);
+    row->addWidget(whatIf_);
     row->addWidget(book_);
     row->addWidget(calculate_);
     TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
@@ -64,6 +72,10 @@ void PortCallButtons::SetReports(const Reports& reports) {
     QObject::connect(clear_, &QToolButton::clicked, this, reports.clear);
     QObject::connect(book_, &QPushButton::clicked, this, reports.book);
     QObject::connect(calculate_, &QPushButton::clicked, this, reports.calculate);
+    QObject::connect(whatIf_, &QPushButton::clicked, this, reports.whatIf);
+    QObject::connect(menu_, &QToolButton::clicked, this, [this, report = reports.menu] {
+        report(menu_->mapToGlobal(QPoint(0, menu_->height())));
+    });
     undo_->SetReports(reports.undo, reports.redo);
 }
 
@@ -82,12 +94,15 @@ void PortCallButtons::ShowState(const PortCallState& state) {
     Set(save_, state.canSave, TextIds::IDS_PORTCALL_SAVE, TextIds::IDS_VIEW_NOCHANGES);
     Set(clear_, state.canClear, TextIds::IDS_PORTCALL_CLEAR, TextIds::IDS_VIEW_CLEAROFF);
     Set(calculate_, state.canCalculate, TextIds::IDS_PORTCALL_COMPUTE, TextIds::IDS_VIEW_NEEDTWOPORTS);
+    Skin::Describe(menu_, ViewText(TextIds::IDS_VIEW_MENU));
+    Skin::Describe(whatIf_, ViewText(TextIds::IDS_VIEW_WHATIFHINT));
     Set(book_, state.canOpenBook, TextIds::IDS_PORTCALL_POSTBOOK, TextIds::IDS_VIEW_BOOKNEEDSVOYAGE);
 }
 
 void PortCallButtons::ApplySkin() {
     save_->setIcon(Skin::MakeIcon("save"));
     clear_->setIcon(Skin::MakeIcon("clear"));
+    menu_->setIcon(Skin::MakeIcon("chevron-down"));
     undo_->ApplySkin();
 }
 

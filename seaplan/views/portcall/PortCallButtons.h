@@ -15,8 +15,8 @@ namespace Tarvik::Seaplan {
 
 struct PortCallState;
 
-/// The commands below the table: save, clear, undo, redo, position book, calculate. A button that is off
-/// tells why.
+/// The commands below the table: save, clear, undo, redo, further ones in a menu, the questions, position
+/// book, calculate. A button that is off tells why.
 class PortCallButtons final : public QWidget {
   public:
     explicit PortCallButtons(QWidget* parent);
@@ -28,6 +28,8 @@ class PortCallButtons final : public QWidget {
         std::function<void()> calculate;
         std::function<void()> undo;
         std::function<void()> redo;
+        std::function<void()> whatIf;
+        std::function<void(const QPoint&)> menu;  ///< at this point of the screen
     };
     void SetReports(const Reports& reports);
     void ShowState(const PortCallState& state);
@@ -41,6 +43,8 @@ class PortCallButtons final : public QWidget {
     QToolButton* save_;
     QToolButton* clear_;
     UndoButtons* undo_;
+    QToolButton* menu_;
+    QPushButton* whatIf_;
     QPushButton* book_;
     QPushButton* calculate_;
 };

@@ -2,6 +2,7 @@
 #include "seaplan/views/portcall/PortCallWindow.h"
 
 #include <QApplication>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <tarvik/skin/SkinNames.h>
@@ -13,9 +14,11 @@
 #include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/RowCommands.h"
+#include "seaplan/panels/portcall/WhatIf.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/portcall/PortCallLines.h"
+#include "seaplan/views/portcall/PortCallMenu.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -35,6 +38,7 @@ PortCallWindow::PortCallWindow(QWidget* mainView)
     SkinPanel("TRV_portCallDlg", 0, "Caption_static");
     Skin::SkinWindow(*table_, Skin::ControlClass::ListView, "VoyageDemoList");
     summary_ = new PortCallSummary(this);
+    questions_ = new WhatIfStrip(this);
     buttons_ = new PortCallButtons(this);
     note_ = new QLabel(this);
     note_->setObjectName(QStringLiteral("noteLabel"));
@@ -46,6 +50,7 @@ PortCallWindow::PortCallWindow(QWidget* mainView)
     Body()->addWidget(table_, 1);
     Body()->addWidget(note_);
     Body()->addWidget(summary_);
+    Body()->addWidget(questions_);
     Body()->addWidget(buttons_);
     ApplyTexts();
     adjustSize();
@@ -64,17 +69,39 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
          [&rows](int row, const std::string& name) { rows.OnItemImage(row, name); },
          [&rows](KeyPress press, int row, int column) { return rows.OnTableKey(press, row, column); },
          [&cells] { cells.CommitEditors(); },
-         {}});
+         {},
+         [&cells](const std::string& text, int row, int column) {
+             return cells.OnCellClicked(row, column, &text);
+         }});
     summary_->SetReports(
         {[&commands](UnitKind kind) { return commands.OnUnitsAsked(kind); },
          [&commands](UnitKind kind, int, const std::string& unit) { commands.OnUnitChosen(kind, unit); }});
+    WhatIf& questions = commands.Questions();
+    questions_->Attach(questions);
     buttons_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnClear(); },
                           [&commands] { commands.OnPositionBook(); }, [&commands] { commands.OnCalculate(); },
-                          [&commands] { commands.OnUndo(); }, [&commands] { commands.OnRedo(); }});
+                          [&commands] { commands.OnUndo(); }, [&commands] { commands.OnRedo(); },
+                          [&questions] { questions.OnOpen(); },
+                          [this, panel](const QPoint& at) { OpenPortCallMenu(*table_, *panel, at); }});
+    AttachMenu(*panel);
     // A press anywhere outside the table ends the editing.
     new OutsidePress(
         this, [this](const QWidget& widget) { return editors_->Holds(widget); },
         [&cells] { cells.OnPressedOutside(); });
+}
+
+/// A right click opens the menu on its row, the menu key on the cell in front.
+void PortCallWindow::AttachMenu(CPortCallPanelDlg& panel) {
+    table_->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(table_, &QWidget::customContextMenuRequested, this, [this, &panel](const QPoint& at) {
+        panel.Cells().CommitEditors();
+        if (const QModelIndex cell = table_->indexAt(at); cell.isValid()) {
+            table_->PutCellInFront(cell);
+        }
+        OpenPortCallMenu(*table_, panel, table_->viewport()->mapToGlobal(at));
+    });
+    auto* anew = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_R), this);
+    QObject::connect(anew, &QShortcut::activated, this, [&panel] { panel.Commands().OnRouteAnew(); });
 }
 
 void PortCallWindow::ShowTable(const PortCallTable& table) {
@@ -100,6 +127,7 @@ void PortCallWindow::ApplyClassTexts(QWidget& /*window*/) {
     table_->setAccessibleName(ViewText(TextIds::IDS_VIEW_TABLE));
     summary_->ApplyTexts();
     editors_->ApplyTexts();
+    questions_->ApplyTexts();
     ShowState(state_);
 }
 

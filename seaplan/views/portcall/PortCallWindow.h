@@ -5,10 +5,11 @@
 
 #include "seaplan/panels/portcall/PortCallState.h"
 #include "seaplan/panels/portcall/PortCallView.h"
-#include "seaplan/views/portcall/PasteDialog.h"
 #include "seaplan/views/portcall/PortCallButtons.h"
 #include "seaplan/views/portcall/PortCallEditors.h"
 #include "seaplan/views/portcall/PortCallSummary.h"
+#include "seaplan/views/portcall/RowsDialog.h"
+#include "seaplan/views/portcall/WhatIfStrip.h"
 #include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/FloatingPanel.h"
 
@@ -30,7 +31,8 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
     std::vector<int> ChosenRows() const override { return table_->ChosenRows(); }
     void BringRowIntoView(int row) override;
     std::string ClipboardText() const override { return ClipboardAsText(); }
-    bool AskPaste(const PastePreview& preview) override { return AskPasteOver(*this, preview); }
+    bool AskRows(const RowsPreview& preview) override { return AskRowsOver(*this, preview); }
+    WhatIfView& Questions() override { return *questions_; }
     CellsView& Cells() override { return *editors_; }
     void ApplySkin() override;
 
@@ -41,10 +43,13 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
     bool event(QEvent* event) override;
 
   private:
+    void AttachMenu(CPortCallPanelDlg& panel);
+
     CPortCallPanelDlg* panel_ = nullptr;
     PanelTable* table_;
     PortCallEditors* editors_;
     PortCallSummary* summary_;
+    WhatIfStrip* questions_;
     PortCallButtons* buttons_;
     QLabel* note_;  ///< what is to be told of the rows, hidden while there is nothing
     PortCallState state_;

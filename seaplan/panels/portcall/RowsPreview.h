@@ -6,8 +6,9 @@
 
 namespace Tarvik::Seaplan {
 
-/// What a paste would do, as it is shown before it is taken.
-struct PastePreview {
+/// What a command would do with rows, as it is shown before it is taken.
+struct RowsPreview {
+    enum class Command { Paste, RouteAnew };
     enum class Mark {
         Plain,
         Replaces,  ///< another value stands there now, which the text tells
@@ -19,6 +20,7 @@ struct PastePreview {
         Mark mark = Mark::Plain;
         bool operator==(const Cell&) const = default;
     };
+    Command command = Command::Paste;
     std::vector<std::string> titles;  ///< of the columns; the first tells the row of the table
     std::vector<std::vector<Cell>> rows;
     std::string words;  ///< what it comes to, in sentences

@@ -4,13 +4,13 @@
 #include <QWidget>
 #include <string>
 
-#include "seaplan/panels/portcall/paste/PastePreview.h"
+#include "seaplan/panels/portcall/RowsPreview.h"
 
 namespace Tarvik::Seaplan {
 
-/// Shows over a window what a paste would do to its table, and waits for the
+/// Shows over a window what a command would do to its table, and waits for the
 /// answer. True for yes; Enter in the dialog is a yes, Escape a no.
-bool AskPasteOver(QWidget& window, const PastePreview& preview);
+bool AskRowsOver(QWidget& window, const RowsPreview& preview);
 /// The text on the clipboard as UTF-8, cut where no more is read.
 std::string ClipboardAsText();
 

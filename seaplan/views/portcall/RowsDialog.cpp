@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/portcall/PasteDialog.h"
+#include "seaplan/views/portcall/RowsDialog.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -16,6 +16,7 @@
 
 #include "seaplan/panels/portcall/paste/PastedText.h"
 #include "seaplan/panels/texts/EditTexts.h"
+#include "seaplan/panels/texts/WhatIfTexts.h"
 #include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -29,19 +30,39 @@ constexpr int kColumnWidth = 120;
 constexpr int kLeastWidth = 480;
 constexpr int kMostWidth = 1000;
 
+/// What a command's dialog is called in the tests, and what it says.
+struct DialogWords {
+    const char* name;
+    TextId title;
+    TextId take;
+    TextId leave;
+};
+
+const DialogWords& WordsOf(RowsPreview::Command command) {
+    static constexpr DialogWords kPaste{"paste", TextIds::IDS_VIEW_PASTETITLE, TextIds::IDS_VIEW_PASTETAKE,
+                                        TextIds::IDS_VIEW_PASTELEAVE};
+    static constexpr DialogWords kAnew{"anew", TextIds::IDS_VIEW_ANEW, TextIds::IDS_VIEW_ANEWTAKE,
+                                       TextIds::IDS_VIEW_ANEWLEAVE};
+    return command == RowsPreview::Command::Paste ? kPaste : kAnew;
+}
+
+QString NameOf(const DialogWords& words, const char* part) {
+    return QString::fromLatin1(words.name) + QString::fromLatin1(part);
+}
+
 /// The rows of a preview, each cell in the colour of what becomes of it.
-class PasteLines final : public TableLines {
+class PreviewLines final : public TableLines {
   public:
-    explicit PasteLines(const PastePreview& preview) : preview_(preview) {}
+    explicit PreviewLines(const RowsPreview& preview) : preview_(preview) {}
     int Count() const override { return static_cast<int>(preview_.rows.size()); }
     TableCell CellAt(int line, int column) const override {
-        const PastePreview::Cell& cell = At(line, column);
+        const RowsPreview::Cell& cell = At(line, column);
         TableCell shown;
         shown.text = QString::fromStdString(cell.text);
-        shown.ink = cell.mark == PastePreview::Mark::Unknown    ? Skin::Role::Error
-                    : cell.mark == PastePreview::Mark::Replaces ? Skin::Role::Warning
-                    : cell.mark == PastePreview::Mark::Ignored  ? Skin::Role::Secondary
-                                                                : Skin::Role::Text;
+        shown.ink = cell.mark == RowsPreview::Mark::Unknown    ? Skin::Role::Error
+                    : cell.mark == RowsPreview::Mark::Replaces ? Skin::Role::Warning
+                    : cell.mark == RowsPreview::Mark::Ignored  ? Skin::Role::Secondary
+                                                               : Skin::Role::Text;
         return shown;
     }
     QString TipAt(int line, int column) const override {
@@ -50,57 +71,60 @@ class PasteLines final : public TableLines {
         return words.isEmpty() ? text : text + QStringLiteral("<br>") + words;
     }
     QString WordsAt(int line, int column) const override {
-        const PastePreview::Mark mark = At(line, column).mark;
-        return mark == PastePreview::Mark::Unknown   ? ViewText(TextIds::IDS_VIEW_PASTEUNKNOWN)
-               : mark == PastePreview::Mark::Ignored ? ViewText(TextIds::IDS_VIEW_PASTEIGNORED)
-                                                     : QString();
+        const RowsPreview::Mark mark = At(line, column).mark;
+        return mark == RowsPreview::Mark::Unknown   ? ViewText(TextIds::IDS_VIEW_PASTEUNKNOWN)
+               : mark == RowsPreview::Mark::Ignored ? ViewText(TextIds::IDS_VIEW_PASTEIGNORED)
+                                                    : QString();
     }
     bool IsCopied(int) const override { return true; }
 
   private:
-    const PastePreview::Cell& At(int line, int column) const {
+    const RowsPreview::Cell& At(int line, int column) const {
         return preview_.rows[static_cast<std::size_t>(line)][static_cast<std::size_t>(column)];
     }
-    PastePreview preview_;
+    RowsPreview preview_;
 };
 
-PanelTable* MakeTable(QWidget* parent, const PastePreview& preview) {
-    auto* table = new PanelTable(parent, "pasteTable", kLeastLines);
+PanelTable* MakeTable(QWidget* parent, const RowsPreview& preview) {
+    const DialogWords& said = WordsOf(preview.command);
+    auto* table = new PanelTable(parent, "", kLeastLines);
+    table->setObjectName(NameOf(said, "Table"));
     std::vector<TableColumn> columns;
     for (const std::string& title : preview.titles) {
         columns.push_back(
             {.title = QString::fromStdString(title), .width = columns.empty() ? kRowWidth : kColumnWidth});
     }
     table->ShowColumns(std::move(columns));
-    table->ShowLines(std::make_shared<PasteLines>(preview));
-    table->setAccessibleName(ViewText(TextIds::IDS_VIEW_PASTETITLE));
+    table->ShowLines(std::make_shared<PreviewLines>(preview));
+    table->setAccessibleName(ViewText(said.title));
     // A text from elsewhere may have many columns.
     table->setMinimumWidth(std::min(table->minimumWidth(), kMostWidth));
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     return table;
 }
 
-QPushButton* MakeButton(QDialog& dialog, const char* name, TextId text) {
+QPushButton* MakeButton(QDialog& dialog, const QString& name, TextId text) {
     auto* button = new QPushButton(ViewText(text), &dialog);
-    button->setObjectName(QString::fromLatin1(name));
+    button->setObjectName(name);
     button->setMinimumHeight(Skin::kControlHeight);
     return button;
 }
 
 }  // namespace
 
-bool AskPasteOver(QWidget& window, const PastePreview& preview) {
+bool AskRowsOver(QWidget& window, const RowsPreview& preview) {
+    const DialogWords& said = WordsOf(preview.command);
     QDialog dialog(&window);
-    dialog.setObjectName(QStringLiteral("pasteDialog"));
-    dialog.setWindowTitle(ViewText(TextIds::IDS_VIEW_PASTETITLE));
+    dialog.setObjectName(NameOf(said, "Dialog"));
+    dialog.setWindowTitle(ViewText(said.title));
     dialog.setMinimumWidth(kLeastWidth);
     PanelTable* table = MakeTable(&dialog, preview);
     auto* words = new QLabel(QString::fromStdString(preview.words), &dialog);
-    words->setObjectName(QStringLiteral("pasteWords"));
+    words->setObjectName(NameOf(said, "Words"));
     words->setTextFormat(Qt::PlainText);
     words->setWordWrap(true);
-    QPushButton* take = MakeButton(dialog, "pasteTakeButton", TextIds::IDS_VIEW_PASTETAKE);
-    QPushButton* leave = MakeButton(dialog, "pasteLeaveButton", TextIds::IDS_VIEW_PASTELEAVE);
+    QPushButton* take = MakeButton(dialog, NameOf(said, "TakeButton"), said.take);
+    QPushButton* leave = MakeButton(dialog, NameOf(said, "LeaveButton"), said.leave);
     take->setDefault(true);
     take->setProperty("primary", true);
     QObject::connect(take, &QPushButton::clicked, &dialog, &QDialog::accept);
