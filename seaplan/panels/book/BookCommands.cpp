@@ -98,6 +98,7 @@ bool BookCommands::Save() {
     if (!desk_.Sheet().changed) {
         return true;
     }
+    desk_.NoteStored(false);
     desk_.Show();
     const bool saved = desk_.Owner().SavePositionBook(desk_.Sheet().data) == 0;
     if (desk_.View().IsVisible()) {
@@ -106,7 +107,7 @@ bool BookCommands::Save() {
         desk_.View().Show();
     }
     if (saved) {
-        desk_.NoteSaved();
+        desk_.NoteStored(true);
     }
     return saved;
 }

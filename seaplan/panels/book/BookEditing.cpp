@@ -44,18 +44,40 @@ BookEditing::BookEditing(BookDesk& desk)
                 [this](int step) { edits_.SetInterval(cell_.row, step); }}),
       picker_(desk.View().Picker(), [this](const Util::_datetime_t& time) { OnTimeChosen(time); }) {}
 
-void BookEditing::OnCellClicked(int row, int column) {
-    const BookDesk::Report report(desk_);
-    const bool again = choices_.IsVisible() && cell_ == BookCellPlace{row, column};
+/// Takes what is open and puts a row in front; the cell, where it can be edited then.
+std::optional<BookCellPlace> BookEditing::Reach(int row, int column) {
     // In front it stays the same place, though what was typed may bring rows into the list above it.
     OnRowSelected(row);
     if (!CommitEditors()) {
-        return;
+        return std::nullopt;
     }
-    row = desk_.Sheet().selected;
-    if (!again && desk_.Sheet().IsEdited(row, column)) {
-        Open({row, column});
+    const BookCellPlace cell{desk_.Sheet().selected, column};
+    return desk_.Sheet().IsEdited(cell.row, column) ? std::optional(cell) : std::nullopt;
+}
+
+void BookEditing::OnCellClicked(int row, int column) {
+    const BookDesk::Report report(desk_);
+    const bool again = choices_.IsVisible() && cell_ == BookCellPlace{row, column};
+    const auto cell = Reach(row, column);
+    if (cell && !again) {
+        Open(*cell);
     }
+}
+
+bool BookEditing::OnTextTyped(const std::string& text, int row, int column) {
+    const BookDesk::Report report(desk_);
+    const auto cell = text == kBlankCell ? std::nullopt : Reach(row, column);
+    if (!cell) {
+        return false;
+    }
+    Open(*cell);
+    if (text_.IsVisible()) {
+        desk_.View().PutTyped(text);
+        OnTyped(text);
+    } else if (choices_.IsVisible()) {
+        choices_.GoTo(text);
+    }
+    return true;
 }
 
 void BookEditing::OnRowSelected(int row) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "seaplan/panels/book/BookEdits.h"
@@ -19,6 +20,10 @@ class BookEditing {
     /// A press on a cell: what is open is taken, the row comes to the front, and what the column has opens. A
     /// second press on the cell of an open list closes it.
     void OnCellClicked(int row, int column);
+    /// A text typed on a cell where nothing is open: it takes the cell's place in the editor, goes to the
+    /// choice that begins so, or opens the calendar. An empty one is still being composed. False where
+    /// nothing opens; a blank opens nothing.
+    bool OnTextTyped(const std::string& text, int row, int column);
     /// Another row came to the front, by the keyboard.
     void OnRowSelected(int row);
     /// The text in the editor changed by the person's hand.
@@ -40,6 +45,7 @@ class BookEditing {
     CTrvDateTimeCtrl& Picker() { return picker_; }
 
   private:
+    std::optional<BookCellPlace> Reach(int row, int column);
     void Open(const BookCellPlace& cell);
     void OpenText();
     void OpenChoices();

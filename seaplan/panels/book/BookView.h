@@ -30,6 +30,8 @@ class BookView : public PanelWindow {
     virtual Rect PlaceOf(const BookCellPlace& cell) const = 0;
     /// The box and the list over a cell; both take places of the screen.
     virtual TextBox& TextOver() = 0;
+    /// Another text in that box while it is open, the caret at its end.
+    virtual void PutTyped(const std::string& text) = 0;
     virtual DropList& ChoicesOver() = 0;
     /// Tells below the open editor how its text is understood; an empty text tells nothing.
     virtual void ShowEcho(const std::string& text) = 0;

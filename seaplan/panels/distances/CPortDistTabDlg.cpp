@@ -127,6 +127,19 @@ bool CPortDistTabDlg::OnCategoryKey(KeyPress press) {
     }
 }
 
+bool CPortDistTabDlg::OnListKey(KeyPress press, int row) {
+    switch (press.key) {
+        case Key::Enter:
+            OnNameChosen(row);
+            return true;
+        case Key::Escape:
+            names_.Hide();
+            return true;
+        default:
+            return false;
+    }
+}
+
 void CPortDistTabDlg::OnCategoryLeft() {
     const TreeContext& tree = p_.tree.Context();
     tree.catalog.MakeUniqueName(Text(TextIds::IDS_TREE_NEWVOYAGE), tree.voyageNames, voyage_);

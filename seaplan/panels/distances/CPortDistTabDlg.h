@@ -46,8 +46,11 @@ class CPortDistTabDlg final : public Core::TObject {
     void OnCategoryLeft();
     /// The arrow of the category field.
     void OnArrow();
-    /// A press on a name of the list, or Enter on it.
+    /// A press on a name of the list.
     void OnNameChosen(int row) { names_.OnChosen(row); }
+    /// A key in the list with this row in front: Enter takes its name, Escape hides the list. False when the
+    /// list itself is to act on it.
+    bool OnListKey(KeyPress press, int row);
     /// A press beside the list and its field.
     void OnPressedOutside() { names_.Hide(); }
     void OnOk();

@@ -2,6 +2,7 @@
 #include "seaplan/panels/editors/BookEditors.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace Tarvik::Seaplan {
 
@@ -24,6 +25,15 @@ void CComboxDlg::Show(bool on) {
 void CComboxDlg::TakeKeyboard() {
     if (open_) {
         view_.FocusList(current_);
+    }
+}
+
+void CComboxDlg::GoTo(const std::string& start) {
+    const int wanted = start.empty() ? 0 : std::toupper(static_cast<unsigned char>(start.front()));
+    const auto found = std::find_if(texts_.begin(), texts_.end(),
+                                    [wanted](const std::string& text) { return text.front() == wanted; });
+    if (open_ && found != texts_.end()) {
+        view_.FocusList(static_cast<int>(found - texts_.begin()));
     }
 }
 

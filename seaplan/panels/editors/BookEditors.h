@@ -34,6 +34,9 @@ class CComboxDlg {
     bool IsVisible() const { return open_; }
     /// The keyboard goes to the list on show, and its row in front stays there.
     void TakeKeyboard();
+    /// The first text with the letter or digit that this one begins with, in either case, comes to the front;
+    /// the row in front stays where there is none.
+    void GoTo(const std::string& start);
     /// A click on a row, or Enter in the list with this row in front: it is told, and the list hides. A row
     /// that is none does nothing.
     void OnChosen(int row);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/CellEditing.h"
 
+#include <algorithm>
+#include <cctype>
 #include <vector>
 
 #include <tarvik/bus/BusName.h>
@@ -18,6 +20,16 @@ namespace {
 constexpr std::size_t kMostCharacters = 30;
 constexpr CellEditor kTextEditors[] = {CellEditor::Port, CellEditor::Speed, CellEditor::Weather};
 
+/// The purpose whose code begins a typed text, in either case of letters; the first for any other text.
+int PurposeOf(const std::string& typed) {
+    const auto found = std::find_if(
+        Interface::kPurposes.begin(), Interface::kPurposes.end(),
+        [&typed](const Interface::Purpose& purpose) {
+            return !typed.empty() && std::toupper(static_cast<unsigned char>(typed.front())) == *purpose.code;
+        });
+    return found == Interface::kPurposes.end() ? 0 : static_cast<int>(found - Interface::kPurposes.begin());
+}
+
 }  // namespace
 
 CellEditing::CellEditing(PortCallDesk& desk)
@@ -34,33 +46,41 @@ TextField& CellEditing::Box(CellEditor editor) {
     return editor == CellEditor::Port ? port_ : editor == CellEditor::Speed ? speed_ : weather_;
 }
 
-void CellEditing::OnCellClicked(int row, int column) {
+bool CellEditing::OnCellClicked(int row, int column, const std::string* typed) {
     const PortCallDesk::Report report(desk_);
+    if (typed != nullptr && *typed == kBlankCell) {
+        return false;
+    }
     CommitEditors();
     PortCallTable& table = desk_.Sheet().table;
     if (!table.IsNumbered(row) || column < 0 || column >= kPortCallColumnCount) {
-        return;
+        return false;
     }
     table.GrowIfLast(row);
     if (!edits_.Opens(row, column)) {
-        return;
+        return false;
     }
     switch (const CellEditor editor = kPortCallColumns[column].editor; editor) {
         case CellEditor::None:
-            break;
+            return false;
         case CellEditor::Purpose:
-            OpenPurposes(row);
+            OpenPurposes(row, typed != nullptr ? PurposeOf(*typed) : 0);
             break;
         case CellEditor::Time:
             OpenPicker(row, column);
             break;
         default:
             Open(editor, row);
+            if (typed != nullptr) {
+                Box(editor).SetText(*typed);
+                desk_.View().Cells().SetEditorText(editor, *typed);
+            }
             if (editor == CellEditor::Port) {
                 matching_.Ask();
             }
             break;
     }
+    return true;
 }
 
 void CellEditing::Open(CellEditor editor, int row) {
@@ -86,13 +106,13 @@ void CellEditing::OpenNextPort(int row) {
     Open(CellEditor::Port, next);
 }
 
-void CellEditing::OpenPurposes(int row) {
+void CellEditing::OpenPurposes(int row, int current) {
     std::vector<std::string> texts;
     texts.reserve(Interface::kPurposes.size());
     for (const Interface::Purpose& purpose : Interface::kPurposes) {
         texts.emplace_back(purpose.text);
     }
-    purposes_.Open(row, std::move(texts), 0);
+    purposes_.Open(row, std::move(texts), current);
     desk_.Show();
     desk_.View().Cells().OpenPurposes(row, purposes_.Texts(), purposes_.Current());
 }

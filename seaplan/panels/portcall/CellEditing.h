@@ -21,8 +21,10 @@ class CellEditing {
   public:
     explicit CellEditing(PortCallDesk& desk);
 
-    /// A press on a cell: what is open is taken, and what the column has opens.
-    void OnCellClicked(int row, int column);
+    /// A press on a cell: what is open is taken, and what the column has opens. A text `typed` on it takes
+    /// the place of the cell's in the editor, goes to the purpose that begins so, or opens the calendar; an
+    /// empty one is still being composed, a blank opens nothing. False where nothing opens.
+    bool OnCellClicked(int row, int column, const std::string* typed = nullptr);
     /// The text in an editor changed by the person's hand.
     void OnTyped(CellEditor editor, const std::string& text);
     /// A key in an editor; false when it means nothing there and the field takes it.
@@ -55,7 +57,7 @@ class CellEditing {
     TextField& Box(CellEditor editor);
     void Open(CellEditor editor, int row);
     void OpenNextPort(int row);
-    void OpenPurposes(int row);
+    void OpenPurposes(int row, int current);
     void OpenPicker(int row, int column);
     void Commit(CellEditor editor);
     void Hide(CellEditor editor);

@@ -82,6 +82,12 @@ void BookEditors::Show(const Rect& place, const std::string& text, std::size_t l
     field_->selectAll();
 }
 
+void BookEditors::PutTyped(const std::string& text) {
+    setting_ = true;
+    field_->setText(QString::fromStdString(text));
+    setting_ = false;
+}
+
 void BookEditors::Hide() {
     if (field_->isHidden()) {
         return;

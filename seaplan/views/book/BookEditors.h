@@ -31,6 +31,7 @@ class BookEditors final : public QObject, public TextBox {
 
     void Show(const Rect& place, const std::string& text, std::size_t limit) override;
     void Hide() override;
+    void PutTyped(const std::string& text);
     void ShowEcho(const std::string& text);
     DropList& Choices() { return *choices_; }
     void PutPicker(const BookCellPlace& cell);

@@ -55,7 +55,10 @@ void BookWindow::Attach(CPosBookDlg* panel) {
         {[&cells](int row, int column) { cells.OnCellClicked(row, column); },
          [&commands](int row, const std::string& image) { commands.OnItemImage(row, image); },
          [&commands](KeyPress press, int row, int column) { return commands.OnTableKey(press, row, column); },
-         [&cells] { cells.CommitEditors(); }, [&cells](int row) { cells.OnRowSelected(row); }});
+         [&cells] { cells.CommitEditors(); }, [&cells](int row) { cells.OnRowSelected(row); },
+         [&cells](const std::string& text, int row, int column) {
+             return cells.OnTextTyped(text, row, column);
+         }});
     head_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnSaveKey(); },
                        [&commands] { commands.OnCancel(); }, [&commands] { commands.OnUndo(); },
                        [&commands] { commands.OnRedo(); }, [&commands] { commands.OnInsert(); },

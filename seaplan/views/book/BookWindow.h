@@ -23,6 +23,7 @@ class BookWindow final : public PanelFrame<BookView> {
     void BringRowIntoView(int row) override;
     Rect PlaceOf(const BookCellPlace& cell) const override;
     TextBox& TextOver() override { return *editors_; }
+    void PutTyped(const std::string& text) override { editors_->PutTyped(text); }
     DropList& ChoicesOver() override { return editors_->Choices(); }
     void ShowEcho(const std::string& text) override { editors_->ShowEcho(text); }
     void PutPicker(const BookCellPlace& cell) override { editors_->PutPicker(cell); }

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QInputMethodEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QToolTip>
@@ -199,13 +200,39 @@ void PanelTable::keyPressEvent(QKeyEvent* event) {
     if (index.isValid() && reports_.key && reports_.key(PressOf(*event), index.row(), index.column())) {
         return;
     }
-    if (!ChooseByKey(*event)) {
+    const QString text = TextOf(*event);
+    if (!ChooseByKey(*event) && (text.isEmpty() || !TellTyped(text))) {
         QTableView::keyPressEvent(event);
     }
 }
 
+bool PanelTable::TellTyped(const QString& text) {
+    const QModelIndex index = currentIndex();
+    return index.isValid() && reports_.typed &&
+           reports_.typed(text.toStdString(), index.row(), index.column());
+}
+
+/// A text that an input method makes begins on the cell as well; what is still being composed goes on in the
+/// editor that opens.
+void PanelTable::inputMethodEvent(QInputMethodEvent* event) {
+    const QString text = event->commitString();
+    if (text.isEmpty() && event->preeditString().isEmpty()) {
+        return event->ignore();
+    }
+    if (TellTyped(text) && text.isEmpty() && QApplication::focusWidget() != this) {
+        QApplication::sendEvent(QApplication::focusWidget(), event);
+    }
+}
+
+/// Its base allows no input method where its own editors do not open.
+void PanelTable::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    setAttribute(Qt::WA_InputMethodEnabled, reports_.typed != nullptr);
+}
+
 void PanelTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
+    setAttribute(Qt::WA_InputMethodEnabled, reports_.typed != nullptr);
     anchor_ = current.row();
     if (!setting_ && current.isValid() && current.row() != previous.row() && reports_.rowSelected) {
         reports_.rowSelected(current.row());

@@ -32,6 +32,9 @@ class PanelTable final : public QTableView {
         std::function<void()> left;
         /// Another row came to the front, by the keyboard.
         std::function<void(int)> rowSelected;
+        /// A text was typed on the cell in front, or an input method begins one, which is empty then; false
+        /// when it means nothing there.
+        std::function<bool(const std::string&, int, int)> typed{};
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }
     void ShowColumns(std::vector<TableColumn> columns);
@@ -52,6 +55,8 @@ class PanelTable final : public QTableView {
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
@@ -62,6 +67,7 @@ class PanelTable final : public QTableView {
     bool ChooseByKey(const QKeyEvent& event);
     void ChooseUpTo(const QModelIndex& index);
     void TellLeft();
+    bool TellTyped(const QString& text);
     /// Name of the row's image under a point of a cell, empty for none.
     std::string ImageAt(const QModelIndex& index, const QPoint& point) const;
     /// Whether a click on this place is one on a cell.
