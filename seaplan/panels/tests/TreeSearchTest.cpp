@@ -2,10 +2,7 @@
 /// Finding voyages among the rows of the tree.
 #include <gmock/gmock.h>
 
-#include "seaplan/panels/tests/TreeFixture.h"
-#include "seaplan/panels/tree/TreeContext.h"
-#include "seaplan/panels/tree/TreeKeys.h"
-#include "seaplan/panels/tree/search/TreeSearch.h"
+#include "seaplan/panels/tests/SearchFixture.h"
 #include "seaplan/protocol/RemarkList.h"
 #include "testsupport/ManualClock.h"
 
@@ -16,52 +13,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-class TreeSearchTest : public TreeFixture {
-  protected:
-    TreeSearchTest() {
-        desk.AddCategory("Bulk");
-        desk.AddVoyage("Bulk", {.name = "Autumn", .vsn = "ANNA", .calls = PanelDesk::Calls(5)});
-        desk.AddVoyage("Bulk", {.name = "Winter"});
-        desk.AddCategory("Tankers");
-        desk.AddVoyage("Tankers", {.name = "Anna's", .calls = PanelDesk::Calls(1, 3)});
-        desk.AddVoyage("Tankers", {.name = "Summer"});
-        desk.AddCategory("Empty");
-        ctrl.ReloadTree();
-        desk.ForgetRecords();
-    }
-    /// Rows that are not put aside, found ones with "*", voyages of open categories indented.
-    std::vector<std::string> Rows() const {
-        std::vector<std::string> rows;
-        const auto add = [&](TreeRow row, const char* indent) {
-            if (tree.GetRowFinding(row) != RowFinding::Aside) {
-                const char* mark = tree.GetRowFinding(row) == RowFinding::Found ? "*" : "";
-                rows.push_back(indent + tree.GetItemText(row) + mark);
-            }
-        };
-        for (TreeRow row = tree.GetRootItem(); row != kNoRow; row = tree.GetNextSiblingItem(row)) {
-            add(row, "");
-            TreeRow child = tree.IsItemExpanded(row) ? tree.GetChildItem(row) : kNoRow;
-            for (; child != kNoRow; child = tree.GetNextSiblingItem(child)) {
-                add(child, "  ");
-            }
-        }
-        return rows;
-    }
-    void Search(const std::string& text) {
-        search.Open();
-        search.OnTyped(text);
-    }
-    /// Gives the search all the time that it asks for.
-    void ReadAll() {
-        while (search.State().unread > 0) {
-            search.OnIdle();
-        }
-    }
-    std::string SelectedText() const { return tree.GetItemText(tree.Selected()); }
-
-    RecordingSearch view;
-    TreeSearch search{ctrl.Context(), view};
-};
+class TreeSearchTest : public SearchFixture {};
 
 }  // namespace
 
@@ -109,28 +61,6 @@ TEST_F(TreeSearchTest, EndingItRestoresTheFolding) {
     EXPECT_EQ(view.state.text, "") << "the next search begins empty";
     EXPECT_FALSE(view.state.asks);
     EXPECT_EQ(view.state.found, 0);
-}
-
-TEST_F(TreeSearchTest, EnterGoesRoundTheAnswersAndAsksTheServerNothing) {
-    Search("ann");
-    EXPECT_EQ(tree.Selected(), kNoRow);
-    std::vector<std::string> way;
-    for (const int by : {1, 1, 1, -1, -1}) {
-        search.OnStep(by);
-        way.push_back(SelectedText() + " " + std::to_string(view.state.current));
-        EXPECT_EQ(tree.cursor, tree.Selected());
-    }
-    EXPECT_THAT(way, ElementsAre("Autumn 1", "Anna's 2", "Autumn 1", "Anna's 2", "Autumn 1"));
-    EXPECT_TRUE(desk.host.requests.empty());
-    search.OnTyped("nothing");
-    search.OnStep(1);
-    EXPECT_EQ(SelectedText(), "Autumn");
-}
-
-TEST_F(TreeSearchTest, BackwardsFromNoAnswerLeadsToTheLast) {
-    Search("ann");
-    search.OnStep(-1);
-    EXPECT_EQ(SelectedText(), "Anna's");
 }
 
 TEST_F(TreeSearchTest, PortsAreFoundOnceTheyHaveBeenRead) {
@@ -267,24 +197,6 @@ TEST_F(TreeSearchTest, RemarksThatCannotBeReadAreNotFoundAndSendNobodyAway) {
     EXPECT_THAT(Rows(), IsEmpty());
     search.OnTyped("summer");
     EXPECT_THAT(Rows(), ElementsAre("Tankers", "  Summer*"));
-}
-
-TEST_F(TreeSearchTest, ArrowKeysWalkOnlyWhatIsShown) {
-    Search("ann");
-    ctrl.OnRowPressed(tree.Find("Bulk"));
-    std::vector<std::string> way;
-    for (int i = 0; i < 4; ++i) {
-        ctrl.Keys().OnKey(Key::Down, tree.cursor, {});
-        way.push_back(tree.GetItemText(tree.cursor));
-    }
-    EXPECT_THAT(way, ElementsAre("Autumn", "Tankers", "Anna's", "Anna's"));
-}
-
-TEST_F(TreeSearchTest, OpeningItAgainGivesTheKeyboardBack) {
-    Search("ann");
-    search.Open();
-    EXPECT_EQ(view.opened, 2);
-    EXPECT_EQ(view.state.text, "ann");
 }
 
 }  // namespace Tarvik::Seaplan

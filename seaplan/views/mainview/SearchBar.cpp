@@ -2,7 +2,6 @@
 #include "seaplan/views/mainview/SearchBar.h"
 
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QStringList>
 #include <QTimer>
 #include <utility>
@@ -12,6 +11,7 @@
 
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/search/TreeSearch.h"
+#include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -46,6 +46,16 @@ std::vector<Choice> ChoicesOf(VoyageFilter filter) {
     return choices;
 }
 
+/// A text with numbers; a language whose text leaves one out is no fault.
+QString Counted(TextId id, const std::vector<int>& numbers) {
+    std::vector<std::string> values;
+    values.reserve(numbers.size());
+    for (const int number : numbers) {
+        values.push_back(std::to_string(number));
+    }
+    return QString::fromStdString(Text(id, values));
+}
+
 /// What the search has found, in words; empty while nothing is asked.
 QString ReportOf(const SearchState& state) {
     QStringList parts;
@@ -55,14 +65,14 @@ QString ReportOf(const SearchState& state) {
         }
     }
     if (state.current > 0) {
-        parts.append(ViewText(TextIds::IDS_VIEW_FINDPLACE).arg(state.current).arg(state.found));
+        parts.append(Counted(TextIds::IDS_VIEW_FINDPLACE, {state.current, state.found}));
     } else if (state.found > 0) {
-        parts.append(ViewText(TextIds::IDS_VIEW_FINDCOUNT).arg(state.found));
+        parts.append(Counted(TextIds::IDS_VIEW_FINDCOUNT, {state.found}));
     } else if (state.unread == 0) {
         parts.append(ViewText(TextIds::IDS_VIEW_FINDNONE));
     }
     if (state.unread > 0) {
-        parts.append(ViewText(TextIds::IDS_VIEW_FINDREADING).arg(state.unread));
+        parts.append(Counted(TextIds::IDS_VIEW_FINDREADING, {state.unread}));
     }
     return state.asks ? parts.join(QStringLiteral(" · ")) : QString();
 }
@@ -109,6 +119,8 @@ void SearchBar::Attach(TreeSearch* panel) {
     });
     filters_->SetReport([this](TextId id) {
         filters_->Hide();
+        // The next Enter goes to the first answer.
+        field_->setFocus();
         for (const FilterLine& line : kFilters) {
             if (line.text == id) {
                 panel_->OnFilter(line.filter);
@@ -157,6 +169,10 @@ void SearchBar::CloseSearch() {
     tree_->setFocus();
 }
 
+void SearchBar::LeaveField() {
+    tree_->setFocus();
+}
+
 void SearchBar::AskForTime() {
     if (!std::exchange(asked_, true)) {
         QTimer::singleShot(0, this, [this] {
@@ -166,29 +182,12 @@ void SearchBar::AskForTime() {
     }
 }
 
-bool SearchBar::OnKey(int key, bool shift) {
-    switch (key) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            panel_->OnStep(shift ? -1 : 1);
-            return true;
-        case Qt::Key_Escape:
-            panel_->Close();
-            return true;
-        case Qt::Key_Down:
-            tree_->setFocus();
-            return true;
-        default:
-            return false;
-    }
-}
-
 bool SearchBar::eventFilter(QObject* watched, QEvent* event) {
     if (watched != field_ || panel_ == nullptr || event->type() != QEvent::KeyPress) {
         return false;
     }
-    const auto* press = static_cast<QKeyEvent*>(event);
-    return OnKey(press->key(), press->modifiers().testFlag(Qt::ShiftModifier));
+    const auto& press = *static_cast<QKeyEvent*>(event);
+    return panel_->OnKey(PressOf(press).key, press.modifiers().testFlag(Qt::ShiftModifier));
 }
 
 }  // namespace Tarvik::Seaplan

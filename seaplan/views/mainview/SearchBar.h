@@ -17,7 +17,7 @@ class TreeSearch;
 /// are.
 class SearchBar final : public QWidget, public SearchView {
   public:
-    /// `tree` gets the keyboard when the search ends and at Down.
+    /// `tree` gets the keyboard when the panel says so.
     SearchBar(QWidget* parent, QWidget* tree);
     /// What is done goes to this panel, which outlives the line's use.
     void Attach(TreeSearch* panel);
@@ -27,6 +27,7 @@ class SearchBar final : public QWidget, public SearchView {
     void OpenSearch(const SearchState& state) override;
     void ShowSearch(const SearchState& state) override;
     void CloseSearch() override;
+    void LeaveField() override;
     void AskForTime() override;
 
   protected:
@@ -34,7 +35,6 @@ class SearchBar final : public QWidget, public SearchView {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    bool OnKey(int key, bool shift);
     void Report();
 
     QWidget* tree_;

@@ -3,9 +3,12 @@
 
 #include <QCheckBox>
 #include <QCursor>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include <tarvik/skin/Palette.h>
@@ -43,6 +46,7 @@ QAbstractButton* ChoiceBox::ButtonOf(TextId id) {
     TieText(*button, id);
     const auto name = names_.find(id);
     button->setObjectName(name == names_.end() ? QString() : QString::fromLatin1(name->second));
+    button->installEventFilter(this);
     layout()->addWidget(button);
     QObject::connect(button, &QAbstractButton::clicked, this, [this, id] {
         if (chosen_) {
@@ -74,7 +78,54 @@ void ChoiceBox::ApplyClassTexts(QWidget& /*window*/) {
 void ChoiceBox::Show(int width, int height) {
     setFixedSize(width, height);
     move(anchor_ == nullptr ? QCursor::pos() : anchor_->mapToGlobal(QPoint(0, anchor_->height() + 1)));
+    const auto lines = Lines();
+    const auto ticked =
+        std::find_if(lines.begin(), lines.end(), [](const auto* line) { return line->isChecked(); });
+    if (!lines.empty()) {
+        (ticked == lines.end() ? lines.front() : *ticked)->setFocus(Qt::PopupFocusReason);
+    }
     show();
+}
+
+/// The buttons from top to bottom.
+std::vector<QAbstractButton*> ChoiceBox::Lines() const {
+    std::vector<QAbstractButton*> lines;
+    lines.reserve(static_cast<std::size_t>(layout()->count()));
+    for (int i = 0; i < layout()->count(); ++i) {
+        lines.push_back(qobject_cast<QAbstractButton*>(layout()->itemAt(i)->widget()));
+    }
+    return lines;
+}
+
+/// The window system would tick a radio button that is only walked over.
+void ChoiceBox::Walk(const QObject* from, std::ptrdiff_t by) {
+    const auto lines = Lines();
+    const auto at = std::find(lines.begin(), lines.end(), from) - lines.begin() + by;
+    if (at >= 0 && at < std::ssize(lines)) {
+        lines[static_cast<std::size_t>(at)]->setFocus(Qt::TabFocusReason);
+    }
+}
+
+bool ChoiceBox::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) {
+        return false;
+    }
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            Walk(watched, 1);
+            return true;
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            Walk(watched, -1);
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            static_cast<QAbstractButton*>(watched)->click();
+            return true;
+        default:
+            return false;
+    }
 }
 
 void ChoiceBox::mousePressEvent(QMouseEvent* event) {

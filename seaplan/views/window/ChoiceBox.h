@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QFrame>
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <vector>
@@ -12,7 +13,8 @@
 
 namespace Tarvik::Seaplan {
 
-/// A popup of check or radio buttons.
+/// A popup of check or radio buttons. It has the keyboard while it is open: Up and Down walk its lines, Space
+/// and Enter press one, Escape closes it.
 class ChoiceBox final : public QFrame, public ChoicePopup, public DialogTexts {
   public:
     enum class Kind { Checks, Radios };
@@ -30,11 +32,15 @@ class ChoiceBox final : public QFrame, public ChoicePopup, public DialogTexts {
 
   protected:
     void ApplyClassTexts(QWidget& window) override;
+    /// The lines' keys.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     /// A press on the anchor closes the box and goes no further, or it would open it again.
     void mousePressEvent(QMouseEvent* event) override;
 
   private:
     QAbstractButton* ButtonOf(TextId id);
+    std::vector<QAbstractButton*> Lines() const;
+    void Walk(const QObject* from, std::ptrdiff_t by);
 
     Kind kind_;
     QWidget* anchor_;

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/window/FloatingPanel.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
 
 #include <tarvik/skin/SkinNames.h>
@@ -83,11 +84,23 @@ void FloatingPanel::MoveCorner(Point corner) {
 }
 
 void FloatingPanel::Raise() {
+    if (!isActiveWindow()) {
+        before_ = QApplication::activeWindow();
+    }
     show();
     raise();
     // A window manager leaves the keyboard where it was unless it is asked.
     activateWindow();
     FocusFirst();
+}
+
+void FloatingPanel::Vanish() {
+    const bool active = isActiveWindow();
+    hide();
+    // A window manager would give the keyboard to the main window.
+    if (active && !before_.isNull() && before_->isVisible()) {
+        before_->activateWindow();
+    }
 }
 
 void FloatingPanel::ShowCaption(const std::string& text, bool changed) {
@@ -114,6 +127,15 @@ void FloatingPanel::SurfacePressed() {
 void FloatingPanel::CloseAsked() {
     if (reports_.close) {
         reports_.close();
+    }
+}
+
+void FloatingPanel::keyPressEvent(QKeyEvent* event) {
+    if (reports_.closes && reports_.closes(*event)) {
+        // A question about what is not saved must not come up inside the key.
+        QTimer::singleShot(0, this, [this] { CloseAsked(); });
+    } else {
+        Skin::ToolWindow::keyPressEvent(event);
     }
 }
 

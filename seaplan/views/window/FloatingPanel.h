@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPointer>
 #include <functional>
 #include <string>
 
@@ -34,6 +35,8 @@ class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
         std::function<void()> help;
         std::function<void()> close;
         std::function<void()> surfacePressed;
+        std::function<bool(const QKeyEvent&)>
+            closes{};  ///< whether a key that no control has taken closes the window
     };
 
     FloatingPanel(QWidget* mainView, const QString& name, const Hints& hints);
@@ -41,6 +44,8 @@ class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
     void PlaceAt(const Rect& screen);
     void MoveCorner(Point corner);
     void Raise();
+    /// Hides the window; the keyboard goes back to the one that had it when this one was raised.
+    void Vanish();
     void ShowCaption(const std::string& text, bool changed);
     void SendHelp(const std::string& topic, int width, int height);
     /// Off while a box is up; then the keyboard is where it was, or in the first control.
@@ -59,6 +64,7 @@ class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
     virtual void FocusFirst() = 0;
     void SurfacePressed() override;
     void CloseAsked() override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     Hints hints_;
@@ -66,6 +72,7 @@ class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
     QToolButton* help_ = nullptr;
     QToolButton* close_ = nullptr;
     KeptFocus keyboard_;
+    QPointer<QWidget> before_;  ///< had the keyboard
 };
 
 /// The window of a panel, by its interface: what PanelWindow asks is answered here once.
@@ -76,7 +83,7 @@ class PanelFrame : public FloatingPanel, public View {
 
     bool IsVisible() const override { return isVisible(); }
     void Show() override { Raise(); }
-    void Hide() override { hide(); }
+    void Hide() override { Vanish(); }
     void Place(const Rect& screen) override { PlaceAt(screen); }
     void MoveTo(Point corner) override { MoveCorner(corner); }
     Rect PlaceOnScreen() const override { return OnScreen(*this); }

@@ -45,12 +45,6 @@ class PanelPlace {
     Panel* Made() const { return panel_.get(); }
     /// Its window, null before the panel is made and after the main window is gone.
     Window* MadeWindow() const { return window_.data(); }
-    /// Draws the window anew in the theme in force.
-    void Restyle() {
-        if (window_ != nullptr) {
-            window_->ApplySkin();
-        }
-    }
 
   private:
     Recipe recipe_;

@@ -52,6 +52,10 @@ QListWidget[dense="true"]::item { height: 18px; }
 QListWidget::item:selected, QListWidget::item:hover { background: @accent; color: @accentText; }
 QCheckBox, QRadioButton { color: @text; font-size: 13px; }
 QCheckBox:focus, QRadioButton:focus { color: @accent; }
+QCheckBox::indicator:unchecked, QRadioButton::indicator:unchecked { border: 1px solid @secondary; background: @panel; }
+QCheckBox::indicator:unchecked { border-radius: 2px; }
+QRadioButton::indicator:unchecked { border-radius: 7px; }
+QCheckBox::indicator:unchecked:disabled, QRadioButton::indicator:unchecked:disabled { border-color: @disabled; }
 QToolButton[day="true"] { min-width: 26px; min-height: 22px; }
 #hourShown, #minuteShown { border: 1px solid @border; padding: 2px 6px; }
 QToolButton[look="outside"] { color: @disabled; }

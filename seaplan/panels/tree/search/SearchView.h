@@ -19,7 +19,8 @@ struct SearchState {
     bool operator==(const SearchState&) const = default;
 };
 
-/// The line above the tree in which is searched. It shows what it is told and reports what is typed.
+/// The line above the tree in which is searched. It shows what it is told and reports what is typed and
+/// its keys.
 class SearchView {
   public:
     virtual ~SearchView() = default;
@@ -28,6 +29,8 @@ class SearchView {
     virtual void ShowSearch(const SearchState& state) = 0;
     /// Hides the line and gives the keyboard to the tree.
     virtual void CloseSearch() = 0;
+    /// Gives the keyboard to the tree; the line stays.
+    virtual void LeaveField() = 0;
     /// Reports OnIdle() once, when the person's keys and presses have been answered.
     virtual void AskForTime() = 0;
 };

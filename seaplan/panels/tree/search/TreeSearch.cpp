@@ -2,6 +2,7 @@
 #include "seaplan/panels/tree/search/TreeSearch.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeContext.h"
@@ -40,6 +41,7 @@ void TreeSearch::Open() {
 void TreeSearch::OnTyped(const std::string& text) {
     if (open_ && text != state_.text) {
         state_.text = text;
+        question_.inSight = false;
         Apply();
     }
 }
@@ -47,7 +49,24 @@ void TreeSearch::OnTyped(const std::string& text) {
 void TreeSearch::OnFilter(VoyageFilter filter) {
     if (open_ && filter != state_.filter) {
         state_.filter = filter;
+        question_.inSight = false;
         Apply();
+    }
+}
+
+bool TreeSearch::OnKey(Key key, bool shift) {
+    switch (key) {
+        case Key::Enter:
+            OnStep(shift ? -1 : 1);
+            return true;
+        case Key::Escape:
+            Close();
+            return true;
+        case Key::Down:
+            view_.LeaveField();
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -60,11 +79,12 @@ void TreeSearch::Close() {
     ShowAll();
     entries_.clear();
     unread_.clear();
+    KeepInSight(c_.tree.Selected());
     view_.CloseSearch();
 }
 
 bool TreeSearch::Answers(const Entry& entry) const {
-    if (!state_.asks || !HoldsAll(entry.text, words_)) {
+    if (!state_.asks || !HoldsAll(entry.text, question_.words)) {
         return false;
     }
     if (state_.filter == VoyageFilter::All) {
@@ -75,8 +95,8 @@ bool TreeSearch::Answers(const Entry& entry) const {
 }
 
 void TreeSearch::Apply() {
-    words_ = SearchWords(state_.text);
-    state_.asks = !words_.empty() || state_.filter != VoyageFilter::All;
+    question_.words = SearchWords(state_.text);
+    state_.asks = !question_.words.empty() || state_.filter != VoyageFilter::All;
     for (Entry& entry : entries_) {
         entry.answers = Answers(entry);
     }
@@ -88,6 +108,7 @@ void TreeSearch::Apply() {
         ShowAll();
     }
     Count();
+    ShowFirst();
     if (state_.asks && !unread_.empty()) {
         view_.AskForTime();
     }
@@ -111,6 +132,28 @@ std::size_t TreeSearch::ShowCategory(std::size_t at) {
     c_.tree.SetRowFinding(category.row, category.answers ? RowFinding::Found : with);
     c_.tree.Expand(category.row, any || unfolded_.contains(category.row));
     return end;
+}
+
+/// Brings the first answer into view once it is known, and no second time while the person looks on. The
+/// selected row stays in view as long as it answers.
+void TreeSearch::ShowFirst() {
+    if (!state_.asks || state_.found == 0 || std::exchange(question_.inSight, true)) {
+        return;
+    }
+    const auto first =
+        std::find_if(entries_.begin(), entries_.end(), [](const Entry& entry) { return entry.answers; });
+    c_.tree.SetCursor(state_.current > 0 ? c_.tree.Selected() : first->row);
+}
+
+/// A voyage that was found is not folded away again, since the next key is for it.
+void TreeSearch::KeepInSight(TreeRow row) {
+    if (c_.tree.GetItemData(row) == nullptr) {
+        return;
+    }
+    if (const TreeRow category = c_.tree.GetParentItem(row); category != kNoRow) {
+        c_.tree.Expand(category, true);
+    }
+    c_.tree.SetCursor(row);
 }
 
 void TreeSearch::ShowAll() {
@@ -156,6 +199,8 @@ void TreeSearch::OnStep(int by) {
     }
     c_.tree.SelectItem(next);
     c_.tree.SetCursor(next);
+    // What was said of the row before is not true of this one.
+    c_.Say({});
     Count();
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/tree/TreeWidget.h"
 #include "seaplan/panels/tree/search/SearchView.h"
 
@@ -32,9 +33,13 @@ class TreeSearch {
     void Open();
     void OnTyped(const std::string& text);
     void OnFilter(VoyageFilter filter);
+    /// A key in the field, `shift` with that key held: Enter goes on, with Shift back, Escape ends the
+    /// search, Down leads into the rows. False when the field itself is to act on the key.
+    bool OnKey(Key key, bool shift);
     /// Selects the next answer in the order of the rows, with -1 the one before; around at both ends.
     void OnStep(int by);
-    /// Ends the search, with all rows and the folding as before.
+    /// Ends the search, with all rows and the folding as before; the category of a voyage that is selected
+    /// stays unfolded.
     void Close();
     /// There is time to read port calls.
     void OnIdle();
@@ -60,6 +65,8 @@ class TreeSearch {
     void Apply();
     std::size_t ShowCategory(std::size_t at);
     void ShowAll();
+    void ShowFirst();
+    void KeepInSight(TreeRow row);
     void Count();
     void ReadSome();
 
@@ -69,8 +76,11 @@ class TreeSearch {
     bool open_ = false;
     std::set<TreeRow> unfolded_;  ///< categories that were open at the beginning
     std::vector<Entry> entries_;  ///< each category with its voyages behind it
-    std::vector<std::string> words_;
-    std::vector<std::size_t> unread_;       ///< places of rows to be read
+    struct Question {
+        std::vector<std::string> words;
+        bool inSight = false;  ///< an answer was brought into view
+    } question_;
+    std::vector<std::size_t> unread_;       ///< places of rows to be read, the next one last
     std::set<std::string> read_;            ///< voyages that were asked for
     std::map<TreeRow, std::string> notes_;  ///< remarks that were read in this search, folded
 };

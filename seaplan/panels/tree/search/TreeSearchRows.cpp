@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The rows that are searched: what each is found by, and the reading of what is not known of it yet.
+#include <algorithm>
 #include <chrono>
 
 #include "seaplan/panels/tree/TreeContext.h"
@@ -42,6 +43,8 @@ void TreeSearch::Collect() {
         entries_.push_back(std::move(entry));
         CollectVoyages(row);
     }
+    // Read from the end, so that answers come in the order of the rows and none above those on show.
+    std::reverse(unread_.begin(), unread_.end());
 }
 
 void TreeSearch::CollectVoyages(TreeRow category) {
