@@ -23,7 +23,8 @@ class RemarkList {
     ~RemarkList() = default;
 
     /// Reads the remarks of an object, in the order of the reply; what was here before goes first, whatever
-    /// comes after.
+    /// comes after. False, here and below, when the server refused or did not answer; the others then change
+    /// nothing.
     bool LoadRemarks(int type, const std::string& objectid);
     /// Adds a remark behind the others; `seq` is its number, set also when adding fails.
     bool AddRemark(int type, const std::string& objectid, int& seq, const std::string& subject,
@@ -31,6 +32,7 @@ class RemarkList {
     /// The creation date stays. A remark that the list does not hold is changed on the server alone.
     bool ChangeRemark(int type, const std::string& objectid, int seq, const std::string& subject,
                       const std::string& body);
+    /// Deletes a remark on the server and here; one that the list does not hold on the server alone.
     bool DeleteRemark(int type, const std::string& objectid, int seq);
 
     /// Whether a remark with these texts fits a request; one that does not is never sent.

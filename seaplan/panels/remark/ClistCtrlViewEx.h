@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "seaplan/panels/editors/Keys.h"
 #include "seaplan/protocol/RemarkMessages.h"
 
 namespace Tarvik::Seaplan {
@@ -45,6 +46,8 @@ class ClistCtrlViewEx {
     void SetReports(Reports reports) { reports_ = std::move(reports); }
     /// An event of an item. The row stands in the high 16 bits of `position`.
     void OnItemEvent(int kind, std::uint32_t position, const std::string& item) const;
+    /// The item that a key clicks in the row with the keyboard, null when the key means nothing here.
+    static const char* ItemOfKey(Key key) { return key == Key::Delete ? RemarkItem::kDelete : nullptr; }
     /// The position word of an event in a row of at most 65535.
     static std::uint32_t PositionOf(int row) { return static_cast<std::uint32_t>(row) << 16; }
 

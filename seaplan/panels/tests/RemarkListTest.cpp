@@ -40,6 +40,12 @@ TEST(ClistCtrlViewExTest, EventsOneAndEightReachThePanelWithRowAndItem) {
     EXPECT_EQ(ClistCtrlViewEx::PositionOf(5), 0x00050000U);
 }
 
+TEST(ClistCtrlViewExTest, DeleteClicksTheImageThatDeletesAndNoOtherKeyClicks) {
+    EXPECT_STREQ(ClistCtrlViewEx::ItemOfKey(Key::Delete), RemarkItem::kDelete);
+    EXPECT_EQ(ClistCtrlViewEx::ItemOfKey(Key::Enter), nullptr);
+    EXPECT_EQ(ClistCtrlViewEx::ItemOfKey(Key::Backspace), nullptr);
+}
+
 TEST(ClistCtrlViewExTest, TheCurrentRowGoesAlongWithItsRow) {
     const CRemark old{3, "7", 1, "Old", "", "", "2024-01-01 00:00:00"};
     const CRemark young{3, "7", 2, "Young", "", "", "2024-01-02 00:00:00"};

@@ -284,6 +284,16 @@ TEST_F(SeaplanViewDlgTest, LogoutAndReloadDropTheNameBeingTyped) {
     EXPECT_TRUE(desk.messages.messages.empty()) << "nor is anything said of a name that is dropped";
 }
 
+TEST_F(SeaplanViewDlgTest, AddingACategorySaysWhetherItWasMade) {
+    desk.AddCategory("Full");
+    Toggle();
+    EXPECT_EQ(panel.AddCategory(), 0);
+    EXPECT_NE(tree.Find("IDS_TREE_NEWVOYCATEGORY - 0"), kNoRow);
+    desk.Refuse(Ask::kAddCategory);
+    EXPECT_EQ(panel.AddCategory(), -1);
+    EXPECT_EQ(tree.Find("IDS_TREE_NEWVOYCATEGORY - 1"), kNoRow);
+}
+
 TEST_F(SeaplanViewDlgTest, HelpNamesItsTopic) {
     panel.RequestHelp();
     EXPECT_EQ(window.help, "func033 370x440");

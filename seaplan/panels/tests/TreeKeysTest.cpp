@@ -47,6 +47,64 @@ TEST_F(TreeKeysTest, ArrowsWalkTheRowsThatAreNotFolded) {
     EXPECT_EQ(Cursor(), "Second");
 }
 
+TEST_F(TreeKeysTest, HomeAndEndLeadToTheFirstAndTheLastRow) {
+    Press(Key::End);
+    EXPECT_EQ(Cursor(), "Second") << "also without a row";
+    tree.Expand(tree.Find("Second"), true);
+    Press(Key::End);
+    EXPECT_EQ(SelectedText(), "C");
+    Press(Key::End);
+    EXPECT_EQ(SelectedText(), "C");
+    Press(Key::Home);
+    EXPECT_EQ(Cursor(), "First");
+}
+
+TEST_F(TreeKeysTest, PageKeysLeapAndStopAtTheEnds) {
+    for (int i = 0; i < 25; ++i) {
+        desk.AddVoyage("First", {.name = "V" + std::to_string(100 + i)});
+    }
+    store.Clear();
+    ctrl.ReloadTree();
+    tree.Expand(tree.Find("First"), true);
+    tree.cursor = tree.Find("First");
+    Press(Key::PageDown);
+    EXPECT_EQ(SelectedText(), "V107") << "A, B and eight more";
+    Press(Key::PageDown);
+    EXPECT_EQ(SelectedText(), "V117");
+    Press(Key::PageDown);
+    EXPECT_EQ(Cursor(), "Second") << "the last row, though less than a leap away";
+    desk.ForgetRecords();
+    Press(Key::PageDown);
+    EXPECT_TRUE(desk.host.chartCalls.empty()) << "nothing is pressed again";
+    Press(Key::PageUp);
+    EXPECT_EQ(SelectedText(), "V115");
+}
+
+TEST_F(TreeKeysTest, KeysMeanNoVoyageThatCannotBeSeen) {
+    tree.Expand(tree.Find("First"), true);
+    TreeFixture::Press("A");
+    tree.cursor = tree.Find("A");
+    const auto nothing = [this](const char* why) {
+        desk.ForgetRecords();
+        Press(Key::Delete);
+        Press(Key::F2);
+        Press(Key::Enter, Item::kDeleteVoyage);
+        Press(Key::Left);
+        EXPECT_EQ(ctrl.Keys().OnMenuKey(tree.cursor), kNoRow) << why;
+        EXPECT_EQ(ctrl.Keys().Duplicate(), 1) << why;
+        EXPECT_TRUE(desk.host.requests.empty()) << why;
+        EXPECT_FALSE(box.open) << why;
+    };
+    tree.SetRowFinding(tree.Find("A"), RowFinding::Aside);
+    nothing("put aside by a search");
+    tree.SetRowFinding(tree.Find("A"), RowFinding::None);
+    tree.Expand(tree.Find("First"), false);
+    nothing("folded away");
+    tree.Expand(tree.Find("First"), true);
+    Press(Key::Delete);
+    EXPECT_EQ(desk.Count(Ask::kDeleteVoyage, Id("A")), 1) << "in sight again";
+}
+
 TEST_F(TreeKeysTest, TheMenuKeyTakesTheSelectedRowOrPressesTheOneWithTheKeyboard) {
     EXPECT_EQ(ctrl.Keys().OnMenuKey(kNoRow), kNoRow);
     tree.Expand(tree.Find("First"), true);

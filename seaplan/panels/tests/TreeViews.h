@@ -91,8 +91,6 @@ class RecordingVesselView final : public VesselView {
         box = true;
     }
     void HideBox() override { box = false; }
-    bool BoxVisible() const override { return box; }
-    std::string BoxText() const override { return text; }
     void ShowList(const std::vector<std::string>& shown, const VesselListSize& listSize) override {
         names = shown;
         size = listSize;
@@ -101,7 +99,6 @@ class RecordingVesselView final : public VesselView {
     }
     void SelectRow(int row) override { selected = row; }
     void HideList() override { list = false; }
-    bool ListVisible() const override { return list; }
     void Later(std::function<void()> act) override { act(); }
 };
 
@@ -111,6 +108,7 @@ class RecordingSearch final : public SearchView {
     bool open = false;
     int opened = 0;
     int asked = 0;  ///< how often time was asked for
+    int left = 0;   ///< how often the keyboard went to the tree with the line open
     SearchState state;
 
     void OpenSearch(const SearchState& shown) override {
@@ -120,6 +118,7 @@ class RecordingSearch final : public SearchView {
     }
     void ShowSearch(const SearchState& shown) override { state = shown; }
     void CloseSearch() override { open = false; }
+    void LeaveField() override { ++left; }
     void AskForTime() override { ++asked; }
 };
 

@@ -67,6 +67,8 @@ ItemOutcome CategoryCommands::AddVoyage() {
     }
     c.voyageNames[name] = InUse;
     p_.selection.Unfold(p_.selection.CategoryRow());
+    // What an empty category says to do first has just been done.
+    c.Say({});
     if (p_.builder.AddVoyageRow(p_.selection.CategoryRow(), vi).Failed()) {
         return ItemStep::NewRow;
     }

@@ -73,7 +73,7 @@ void RowSelection::Press(TreeRow row) {
         c_.FetchPortCalls(voyage.vi);
     }
     static_cast<void>(status_.ShowDates(row, voyage));
-    c_.Say(NextStep(voyage));
+    c_.Say(c_.tree.GetItemStyle(row) == kVoyageStyle ? NextStep(voyage) : std::string());
 }
 
 bool RowSelection::Unfold(TreeRow row) {

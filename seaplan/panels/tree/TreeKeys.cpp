@@ -2,12 +2,23 @@
 #include "seaplan/panels/tree/TreeKeys.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
+#include <limits>
 #include <vector>
 
 #include "seaplan/panels/tree/ItemNames.h"
 
 namespace Tarvik::Seaplan {
+
+namespace {
+
+/// Rows of a leap, about as many as the panel shows.
+constexpr std::ptrdiff_t kPage = 10;
+/// More rows than any tree has.
+constexpr std::ptrdiff_t kAllTheWay = std::numeric_limits<std::int32_t>::max();
+
+}  // namespace
 
 std::vector<TreeRow> RowsOnScreen(const TreeWidget& tree) {
     std::vector<TreeRow> rows;
@@ -29,6 +40,14 @@ std::vector<TreeRow> RowsOnScreen(const TreeWidget& tree) {
     return rows;
 }
 
+bool IsOnScreen(const TreeWidget& tree, TreeRow row) {
+    if (tree.GetItemStyle(row).empty() || tree.GetRowFinding(row) == RowFinding::Aside) {
+        return false;
+    }
+    const TreeRow parent = tree.GetParentItem(row);
+    return parent == kNoRow || (tree.IsItemExpanded(parent) && IsOnScreen(tree, parent));
+}
+
 bool TreeKeys::ClickFirst(TreeRow row, std::initializer_list<const char*> items) {
     for (const char* item : items) {
         if (tree_.IsItemVisible(row, item)) {
@@ -39,44 +58,46 @@ bool TreeKeys::ClickFirst(TreeRow row, std::initializer_list<const char*> items)
     return false;
 }
 
-void TreeKeys::Step(TreeRow from, bool down) {
+/// `by` rows down or, below 0, up, and no further than to the first or the last.
+void TreeKeys::Step(TreeRow from, std::ptrdiff_t by) {
     const std::vector<TreeRow> rows = RowsOnScreen(tree_);
     if (rows.empty()) {
         return;
     }
-    auto at = std::find(rows.begin(), rows.end(), from);
+    const auto at = std::find(rows.begin(), rows.end(), from);
     if (at == rows.end()) {
-        // A voyage that is folded away stands for its category.
-        at = std::find(rows.begin(), rows.end(), tree_.GetParentItem(from));
+        return GoTo(by == kAllTheWay ? rows.back() : rows.front());
     }
-    TreeRow next = rows.front();
-    if (at != rows.end()) {
-        const auto place = at - rows.begin() + (down ? 1 : -1);
-        if (place < 0 || place >= std::ssize(rows)) {
-            return;
-        }
-        next = rows[static_cast<std::size_t>(place)];
+    const std::ptrdiff_t now = at - rows.begin();
+    const std::ptrdiff_t next = std::clamp<std::ptrdiff_t>(now + by, 0, std::ssize(rows) - 1);
+    if (next != now) {
+        GoTo(rows[static_cast<std::size_t>(next)]);
     }
-    tree_.SetCursor(next);
-    ways_.select(next);
+}
+
+void TreeKeys::GoTo(TreeRow row) {
+    tree_.SetCursor(row);
+    ways_.select(row);
 }
 
 /// A voyage has nothing to fold: Left leads from it to its category.
 void TreeKeys::Fold(TreeRow row, bool open) {
+    if (row == kNoRow) {
+        return;
+    }
     const TreeRow parent = tree_.GetParentItem(row);
     if (parent == kNoRow) {
         if (tree_.IsItemExpanded(row) != open) {
             ways_.press(row);
         }
     } else if (!open) {
-        tree_.SetCursor(parent);
-        ways_.select(parent);
+        GoTo(parent);
     }
 }
 
 void TreeKeys::Press(TreeRow row, const std::string& focused) {
-    if (!focused.empty()) {
-        ways_.click(tree_.Selected(), focused);
+    if (!focused.empty() && row == tree_.Selected()) {
+        ways_.click(row, focused);
     } else if (!ClickFirst(row, {Item::kPortCalls})) {
         ways_.press(row);
     }
@@ -91,11 +112,24 @@ void TreeKeys::Insert(TreeRow row) {
 
 int TreeKeys::Duplicate() {
     const TreeRow row = tree_.Selected();
-    return row != kNoRow && tree_.GetItemStyle(row) == kVoyageStyle ? ways_.click(row, Item::kDuplicate) : 1;
+    return IsOnScreen(tree_, row) && tree_.GetItemStyle(row) == kVoyageStyle
+               ? ways_.click(row, Item::kDuplicate)
+               : 1;
 }
 
 TreeRow TreeKeys::RowOfKey(TreeRow current) const {
-    return tree_.Selected() != kNoRow ? tree_.Selected() : current;
+    for (const TreeRow row : {tree_.Selected(), current}) {
+        if (IsOnScreen(tree_, row)) {
+            return row;
+        }
+    }
+    return kNoRow;
+}
+
+/// A voyage that is folded away stands for its category here.
+TreeRow TreeKeys::RowOfStep(TreeRow current) const {
+    const TreeRow row = RowOfKey(current);
+    return row != kNoRow ? row : tree_.GetParentItem(tree_.Selected() != kNoRow ? tree_.Selected() : current);
 }
 
 TreeRow TreeKeys::OnMenuKey(TreeRow current) {
@@ -111,7 +145,15 @@ bool TreeKeys::OnKey(Key key, TreeRow current, const std::string& focused) {
     switch (key) {
         case Key::Down:
         case Key::Up:
-            Step(row, key == Key::Down);
+            Step(RowOfStep(current), key == Key::Down ? 1 : -1);
+            return true;
+        case Key::PageDown:
+        case Key::PageUp:
+            Step(RowOfStep(current), key == Key::PageDown ? kPage : -kPage);
+            return true;
+        case Key::Home:
+        case Key::End:
+            Step(RowOfStep(current), key == Key::End ? kAllTheWay : -kAllTheWay);
             return true;
         case Key::Right:
         case Key::Left:

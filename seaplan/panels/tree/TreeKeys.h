@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -13,9 +14,13 @@ namespace Tarvik::Seaplan {
 
 /// Rows in the order on the screen, without those that are folded away or put aside by a search.
 std::vector<TreeRow> RowsOnScreen(const TreeWidget& tree);
+/// Whether a row is one of these; kNoRow is not.
+bool IsOnScreen(const TreeWidget& tree, TreeRow row);
 
-/// What the keys do in the tree: Up and Down walk the rows, Right and Left fold, Enter and Space press, F2
-/// renames, Insert adds a voyage or a category, Delete moves to the recycle bin, and out of it for good.
+/// What the keys do in the tree: Up and Down walk the rows, PageUp and PageDown by leaps, Home and End lead
+/// to the first and the last, Right and Left fold, Enter and Space press, F2 renames, Insert adds a voyage or
+/// a category, Delete moves to the recycle bin, and out of it for good. A row that cannot be seen is not
+/// meant by any of them.
 class TreeKeys {
   public:
     /// What the keys lead to.
@@ -43,8 +48,10 @@ class TreeKeys {
 
   private:
     TreeRow RowOfKey(TreeRow current) const;
+    TreeRow RowOfStep(TreeRow current) const;
     bool ClickFirst(TreeRow row, std::initializer_list<const char*> items);
-    void Step(TreeRow from, bool down);
+    void Step(TreeRow from, std::ptrdiff_t by);
+    void GoTo(TreeRow row);
     void Fold(TreeRow row, bool open);
     void Press(TreeRow row, const std::string& focused);
     void Insert(TreeRow row);

@@ -42,6 +42,14 @@ void TreeRename::Abandon() {
     box_.Hide();
 }
 
+bool TreeRename::OnKey(Key key) {
+    if (key != Key::Enter) {
+        return false;
+    }
+    Commit();
+    return true;
+}
+
 Outcome<RenameStep> TreeRename::Take() {
     if (!field_.IsOpen()) {
         return {};

@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 
+#include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/editors/TextField.h"
 #include "seaplan/panels/tree/TreeCodes.h"
 #include "seaplan/panels/tree/TreeWidget.h"
@@ -26,6 +27,9 @@ class TreeRename {
     void Begin(TreeRow row, bool isVoyage);
     /// The box's text is this now.
     void OnTyped(const std::string& text) { field_.SetText(text); }
+    /// A key in the box: Enter takes the name, and the keyboard goes back to the rows. False when the box
+    /// itself is to act on it.
+    bool OnKey(Key key);
     /// Takes the typed name and closes the box: kRenameCodes; 0 also without an open box.
     int Commit() { return kRenameCodes.Of(Take()); }
     /// Closes the box without a change and forgets the row.

@@ -22,6 +22,7 @@ class TreeUndo {
     };
     TreeUndo(TreeParts& parts, Ways ways) : p_(parts), ways_(std::move(ways)) {}
 
+    /// The last change that is left. Fails by name when there is none, or the server does not take it.
     Outcome<UndoStep> Undo();
 
   private:

@@ -13,6 +13,30 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+/// How many rows of its category stand above a voyage's.
+int PlaceOf(const TreeWidget& tree, TreeRow voyage) {
+    int place = 0;
+    TreeRow row = tree.GetChildItem(tree.GetParentItem(voyage));
+    for (; row != voyage && row != kNoRow; row = tree.GetNextSiblingItem(row)) {
+        ++place;
+    }
+    return place;
+}
+
+/// The row of a category with so many above it, or its last; the category's own where it is empty.
+TreeRow RowAt(const TreeWidget& tree, TreeRow category, int place) {
+    TreeRow found = category;
+    TreeRow row = tree.GetChildItem(category);
+    for (; row != kNoRow && place >= 0; row = tree.GetNextSiblingItem(row), --place) {
+        found = row;
+    }
+    return found;
+}
+
+}  // namespace
+
 TreeCommands VoyageCommands::Table() {
     return {{Item::kUnpinned, [this] { return Pin(); }},
             {Item::kPinned, [this] { return Unpin(); }},
@@ -96,12 +120,17 @@ ItemOutcome VoyageCommands::Duplicate() {
     return {};
 }
 
+/// The keyboard goes to the row that comes into the place of the one that goes.
 ItemOutcome VoyageCommands::DropRow() {
     const std::string ci = p_.selection.Category().ci;
+    TreeWidget& tree = p_.context.tree;
+    const TreeRow category = p_.selection.CategoryRow();
+    const int place = PlaceOf(tree, p_.selection.VoyageRow());
     p_.selection.DropVoyageRow();
     if (p_.builder.RebuildCategory(ci).Failed()) {
         return ItemStep::DropRow;
     }
+    tree.SetCursor(RowAt(tree, category, place));
     return RefreshCounts(p_.context) ? ItemOutcome() : ItemStep::DropCounts;
 }
 
@@ -141,7 +170,9 @@ ItemOutcome VoyageCommands::Recover() {
     }
     p_.context.voyageNames[voyage.vn] = InUse;
     p_.context.steps.Note({TreeStep::Kind::Recover, true, voyage.vi, p_.selection.Category().ci, voyage.vn});
-    return DropRow();
+    const ItemOutcome dropped = DropRow();
+    p_.context.tree.SetCursor(p_.context.FindVoyageRow(voyage.vi));
+    return dropped;
 }
 
 ItemOutcome VoyageCommands::Clear() {

@@ -17,6 +17,7 @@
 
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/NoteTexts.h"
+#include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -159,8 +160,9 @@ void RemarkListView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void RemarkListView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Delete && currentIndex().isValid()) {
-        return TellEvent(currentIndex().row(), RemarkItem::kDelete);
+    const char* item = ClistCtrlViewEx::ItemOfKey(PressOf(*event).key);
+    if (item != nullptr && currentIndex().isValid()) {
+        return TellEvent(currentIndex().row(), item);
     }
     QListView::keyPressEvent(event);
 }

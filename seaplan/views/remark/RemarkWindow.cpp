@@ -2,13 +2,11 @@
 #include "seaplan/views/remark/RemarkWindow.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QTimer>
 
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/SkinNames.h>
@@ -16,6 +14,7 @@
 #include "seaplan/panels/remark/CRemarkPanel.h"
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/NoteTexts.h"
+#include "seaplan/views/editors/QtKeys.h"
 
 namespace Tarvik::Seaplan {
 
@@ -103,7 +102,7 @@ QWidget* RemarkWindow::MakeButtons() {
 }
 
 void RemarkWindow::Attach(CRemarkPanel* panel) {
-    SetReports({[panel] { panel->OnHelp(); }, [panel] { panel->OnClose(); }, {}});
+    SetReports({[panel] { panel->OnHelp(); }, [panel] { panel->OnClose(); }, {}, KeyClosesDialog});
     RemarkEditing& editing = panel->Editing();
     list_->SetReports({[panel](int kind, std::uint32_t position, const std::string& item) {
                            panel->List().OnItemEvent(kind, position, item);
@@ -172,14 +171,6 @@ void RemarkWindow::FocusFirst() {
     if (focusWidget() == nullptr || !focusWidget()->isEnabled()) {
         list_->setFocus();
     }
-}
-
-void RemarkWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape) {
-        return PanelFrame::keyPressEvent(event);
-    }
-    // The question about an unsaved text must not come up inside the key.
-    QTimer::singleShot(0, this, [this] { CloseAsked(); });
 }
 
 void RemarkWindow::ApplyClassTexts(QWidget& /*window*/) {

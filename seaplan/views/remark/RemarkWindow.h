@@ -35,7 +35,6 @@ class RemarkWindow final : public PanelFrame<RemarkView> {
   protected:
     void ApplyClassTexts(QWidget& window) override;
     void FocusFirst() override;
-    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     QWidget* MakeFields();

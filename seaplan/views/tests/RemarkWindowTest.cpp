@@ -153,9 +153,11 @@ TEST_F(RemarkWindowTest, EveryControlHasAnAccessibleNameAndATip) {
 
 TEST_F(RemarkWindowTest, ALogoutHidesItAndTheThemeReachesIt) {
     OpenRemarks("North Sea");
-    Skin::SetTheme(Skin::Theme::Dark);
-    views.Restyle();
+    const QPalette before = QApplication::palette();
+    Skin::ThemeWatch::Publish(Skin::Theme::Dark);
+    QApplication::setPalette(QPalette(Skin::Colour(Skin::Role::Window)));
     EXPECT_TRUE(Remarks().styleSheet().contains("#2a4153"));
+    QApplication::setPalette(before);
     QTest::keyClicks(&Subject(), "Draft");
     Interface::Raise(Interface::Bus::Logout);
     EXPECT_FALSE(Remarks().isVisible());

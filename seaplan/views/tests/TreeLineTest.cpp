@@ -43,6 +43,18 @@ TEST_F(TreeLineTest, CtrlZInTheTreeTakesADeletionBack) {
     EXPECT_EQ(desk.Count(Ask::kRecoverVoyage), 1);
 }
 
+TEST_F(TreeLineTest, ADeleteKeyThatIsHeldTakesOneRow) {
+    OpenVoyage("North Sea");
+    for (const bool held : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(), held);
+        QApplication::sendEvent(&Tree(), &press);
+    }
+    EXPECT_EQ(desk.Count(Ask::kDeleteVoyage), 1);
+    EXPECT_EQ(RowOf("North Sea"), kNoRow);
+    QTest::keyClick(&Tree(), Qt::Key_Delete);
+    EXPECT_EQ(desk.Count(Ask::kDeleteVoyage), 2) << "pressed anew it takes the row in its place";
+}
+
 TEST_F(TreeLineTest, CtrlZInABoxOfTheTreeIsTheBoxes) {
     OpenVoyage("North Sea");
     ClickPart("North Sea", Item::kRenameVoyage);

@@ -3,6 +3,7 @@
 
 #include <QTimer>
 
+#include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/window/FloatingPanel.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -34,13 +35,11 @@ void RenameField::Hide() {
 }
 
 void RenameField::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || !reports_.done) {
+    if (reports_.key && reports_.key(PressOf(*event).key)) {
+        reports_.leave();
+    } else {
         RowField::keyPressEvent(event);
-        return;
     }
-    reports_.done();
-    reports_.leave();
 }
 
 void RenameField::focusOutEvent(QFocusEvent* event) {

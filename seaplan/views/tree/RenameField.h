@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/window/TextBox.h"
 #include "seaplan/views/editors/RowField.h"
 
@@ -15,8 +16,9 @@ class RenameField final : public RowField, public TextBox {
     explicit RenameField(QWidget* surface);
     struct Reports {
         std::function<void(const std::string&)> typed;
-        std::function<void()> done;   ///< the name is to be taken
-        std::function<void()> leave;  ///< puts the keyboard elsewhere, after Enter
+        std::function<bool(Key)> key;  ///< true when the panel has acted on it
+        std::function<void()> done;    ///< the keyboard is elsewhere: the name is to be taken
+        std::function<void()> leave;   ///< puts the keyboard elsewhere, after such a key
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }
 

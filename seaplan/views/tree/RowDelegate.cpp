@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <QLineEdit>
+#include <algorithm>
+
 #include <tarvik/skin/Palette.h>
 
 #include "seaplan/views/tree/RowModel.h"
@@ -10,6 +13,14 @@ namespace {
 
 using Skin::Colour;
 using Skin::Role;
+
+/// Whether a box for typing stands over this part of the viewport.
+bool IsCovered(const QWidget& viewport, const QRect& part) {
+    const auto boxes = viewport.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly);
+    return std::any_of(boxes.begin(), boxes.end(), [&](const QLineEdit* box) {
+        return box->isVisible() && box->geometry().intersects(part);
+    });
+}
 
 void PaintGround(QPainter& painter, const QRect& line, bool selected, const TreeRowState& state) {
     const bool category = state.parent == kNoRow;
@@ -46,7 +57,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     for (const SubItem& part : view_->PartsOf(row)) {
         // A box for typing stands in the place of the old text.
         const bool replaced = part.kind == SubItemKind::Name || part.kind == SubItemKind::Link;
-        if (!replaced || !view_->IsCovered(part.rect)) {
+        if (!replaced || !IsCovered(*view_->viewport(), part.rect)) {
             PaintPart(*painter, part, look);
         }
     }

@@ -81,6 +81,15 @@ class RowItems {
             parts_.Image(ImageOf(image), place);
         }
     }
+    /// The image of remarks at the end of a closed row, which tells those with remarks from the others; gives
+    /// what is left of the line.
+    int RemarksAtEnd(const char* item, int right) {
+        if (Visible(item) == nullptr) {
+            return right;
+        }
+        Image({item, "remark-full", Role::Secondary}, {right - kImage, rect_.top() + 3, kImage, kImage});
+        return right - kImage - kGap;
+    }
     template <std::size_t N>
     void Images(const ItemImage (&images)[N], QPoint corner) {
         std::vector<RowImage> shown;
@@ -131,9 +140,11 @@ void LayoutCategory(RowItems& row, bool selected) {
               .icon = row.Row().expanded ? "chevron-down" : "chevron-right"});
     const TreeItem* count = row.Visible(Item::kCount);
     const QString counted = count == nullptr ? QString() : Qt(count->text);
-    const int right = r.right() - kMargin - row.WidthOf(counted, SubItemKind::Count);
-    const int end = row.Name({r.left() + 24, r.top(), kLine, right});
-    row.Write(Item::kCount, SubItemKind::Count, counted, {end, r.top(), kLine, r.right() - kMargin});
+    const int whole = r.right() - kMargin;
+    const int right = selected ? whole : row.RemarksAtEnd(Item::kCategoryRemark, whole);
+    const int end =
+        row.Name({r.left() + 24, r.top(), kLine, right - row.WidthOf(counted, SubItemKind::Count)});
+    row.Write(Item::kCount, SubItemKind::Count, counted, {end, r.top(), kLine, right});
     if (selected) {
         row.Images(kCategoryImages, {r.left() + 20, r.top() + kLine + 1});
     }
@@ -164,7 +175,7 @@ void LayoutVoyageHead(RowItems& row, bool selected) {
     row.Image({Item::kUnpinned, "pin"}, pin);
     row.Image({Item::kPinned, "pinned", Role::Accent}, pin);
     const int right = LayoutStatus(row, r.right() - kMargin);
-    const int nameRight = selected ? right - kImage - kGap : right;
+    const int nameRight = selected ? right - kImage - kGap : row.RemarksAtEnd(Item::kVoyageRemark, right);
     const int end = row.Name({pin.right() + kGap, r.top(), kLine, nameRight});
     if (selected) {
         row.Image({Item::kRenameVoyage, "rename"}, {end + kGap, r.top() + 3, kImage, kImage});

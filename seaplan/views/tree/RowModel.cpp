@@ -3,7 +3,9 @@
 
 #include <QStringList>
 
+#include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 
@@ -14,6 +16,7 @@ QString AccessibleTextOf(const TreeRowState& row) {
     const auto every = [](const std::string&) { return true; };
     QStringList texts;
     QString status;
+    bool remarks = false;
     for (const SubItem& part : LayoutRow(row, {}, true, unbounded, every)) {
         if (part.kind != SubItemKind::Icon) {
             texts.append(part.text.trimmed());
@@ -21,9 +24,13 @@ QString AccessibleTextOf(const TreeRowState& row) {
         if (part.name == Item::kStatus) {
             status = part.toolTip;
         }
+        remarks = remarks || part.name == Item::kCategoryRemark || part.name == Item::kVoyageRemark;
     }
     if (!status.isEmpty()) {
         texts.append(status);
+    }
+    if (remarks) {
+        texts.append(ViewText(TextIds::IDS_VIEW_HASREMARKS));
     }
     return texts.join(QStringLiteral(", "));
 }

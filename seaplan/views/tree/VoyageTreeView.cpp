@@ -6,17 +6,16 @@
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
-#include <algorithm>
 
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/TreeKeys.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/tree/RenameField.h"
 #include "seaplan/views/tree/RowModel.h"
@@ -53,7 +52,8 @@ VoyageTreeView::~VoyageTreeView() = default;
 
 void VoyageTreeView::SetReports(Reports reports) {
     reports_ = std::move(reports);
-    rename_->SetReports({reports_.renameTyped, reports_.renameDone, [this] { setFocus(); }});
+    rename_->SetReports(
+        {reports_.renameTyped, reports_.renameKey, reports_.renameDone, [this] { setFocus(); }});
 }
 
 void VoyageTreeView::ApplyTexts() {
@@ -104,15 +104,13 @@ std::vector<SubItem> VoyageTreeView::LayOut(const TreeRowState& state, const QRe
                      [this](const std::string& item) { return HasCommand(item); });
 }
 
-bool VoyageTreeView::IsCovered(const QRect& part) const {
-    const auto boxes = viewport()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly);
-    return std::any_of(boxes.begin(), boxes.end(), [&](const QLineEdit* box) {
-        return box->isVisible() && box->geometry().intersects(part);
-    });
+std::vector<SubItem> VoyageTreeView::ItemsInReach() const {
+    const TreeRow row = rows_->Selected();
+    return IsOnScreen(*rows_, row) ? EnabledOf(PartsOf(row)) : std::vector<SubItem>();
 }
 
 std::string VoyageTreeView::FocusedPart() const {
-    const auto parts = EnabledOf(PartsOf(rows_->Selected()));
+    const auto parts = ItemsInReach();
     return focusPart_ < 0 || focusPart_ >= static_cast<int>(parts.size()) ? std::string()
                                                                           : parts[focusPart_].name;
 }
@@ -147,6 +145,10 @@ void VoyageTreeView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void VoyageTreeView::keyPressEvent(QKeyEvent* event) {
+    // A key that is held would delete one row after the other.
+    if (event->key() == Qt::Key_Delete && event->isAutoRepeat()) {
+        return;
+    }
     const TreeRow current = RowModel::RowOf(currentIndex());
     const std::string item = FocusedPart();
     if (!reports_.key || !reports_.key(PressOf(*event).key, current, item)) {
@@ -197,7 +199,7 @@ bool VoyageTreeView::focusNextPrevChild(bool next) {
     if (!isEnabled()) {
         return QTreeView::focusNextPrevChild(next);
     }
-    const int count = static_cast<int>(EnabledOf(PartsOf(rows_->Selected())).size());
+    const int count = static_cast<int>(ItemsInReach().size());
     const int target = focusPart_ + (next ? 1 : -1);
     if (!hasFocus() || target < -1 || target >= count) {
         focusPart_ = -1;

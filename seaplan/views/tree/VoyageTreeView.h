@@ -34,6 +34,7 @@ class VoyageTreeView : public QTreeView {
         /// A key while the keyboard is on a row and an item; false when it means nothing.
         std::function<bool(Key, TreeRow, const std::string&)> key;
         std::function<void(const std::string&)> renameTyped;
+        std::function<bool(Key)> renameKey;
         std::function<void()> renameDone;
         std::function<bool(const std::string&)> hasCommand;
         std::function<TreeRow(TreeRow)> menuKey;  ///< the row whose menu a key opens on this one
@@ -50,8 +51,6 @@ class VoyageTreeView : public QTreeView {
     void ApplyTexts();
     /// The item that has the keyboard in the selected row, empty when none has it.
     std::string FocusedPart() const;
-    /// Whether a box for typing stands over this part of the viewport.
-    bool IsCovered(const QRect& part) const;
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -72,6 +71,8 @@ class VoyageTreeView : public QTreeView {
         return reports_.hasCommand && reports_.hasCommand(item);
     }
     std::vector<SubItem> LayOut(const TreeRowState& state, const QRect& rect, bool selected) const;
+    /// The items that Tab walks: those of the selected row, none while it is put aside or folded away.
+    std::vector<SubItem> ItemsInReach() const;
     void AddToMenu(QMenu* menu, TreeRow row);
     void Relayout();
 

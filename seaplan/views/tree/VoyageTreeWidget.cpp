@@ -33,10 +33,15 @@ Rect VoyageTreeWidget::GetItemRect(TreeRow row) const {
 
 void VoyageTreeWidget::SetCursor(TreeRow row) {
     QStandardItem* item = ItemOf(row);
-    if (item != nullptr && view_.currentIndex() != item->index()) {
+    if (item == nullptr) {
+        return;
+    }
+    if (view_.currentIndex() != item->index()) {
         view_.focusPart_ = -1;
         view_.setCurrentIndex(item->index());
     }
+    // Rows may have come back above the one that had the keyboard already.
+    view_.scrollTo(item->index());
 }
 
 void VoyageTreeWidget::SetBusy(bool busy) {
