@@ -74,10 +74,4 @@ void DestroyViews() {
     Made().reset();
 }
 
-void RestyleViews() {
-    if (Made() != nullptr) {
-        Made()->Views().Restyle();
-    }
-}
-
 }  // namespace Tarvik::Seaplan

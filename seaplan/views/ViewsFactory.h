@@ -26,7 +26,5 @@ bool CreateViews(const ViewsDependencies& dependencies);
 SeaplanViewDlg* VoyagePanel();
 /// Takes panels and windows away again and unties them from the bus.
 void DestroyViews();
-/// Draws every window anew in the theme in force (Skin::SetTheme).
-void RestyleViews();
 
 }  // namespace Tarvik::Seaplan

@@ -143,16 +143,4 @@ PortCallWindow* VoyageViews::PortCallsWindow() {
     return portCalls_.MadeWindow();
 }
 
-void VoyageViews::Restyle() {
-    if (voyageWindow_) {
-        voyageWindow_->ApplySkin();
-    }
-    portCalls_.Restyle();
-    book_.Restyle();
-    portCallRemarks_.Restyle();
-    remarks_.Restyle();
-    bunkers_.Restyle();
-    distances_.Restyle();
-}
-
 }  // namespace Tarvik::Seaplan

@@ -59,8 +59,6 @@ class VoyageViews final {
     /// Another route was chosen on the chart.
     void OnRouteChosen();
     bool TreeVisible() const { return voyageWindow_ != nullptr && voyageWindow_->isVisible(); }
-    /// Draws every window anew in the theme in force.
-    void Restyle();
 
   private:
     std::unique_ptr<CPortCallPanelDlg> MakePortCalls(const Parts& parts, PortCallWindow& window);

@@ -115,6 +115,8 @@ void CBunkerDlg::OnClose() {
 
 void CBunkerDlg::ApplyLanguage() {
     p_.view.ApplyTexts();
+    // The mark is set anew only for figures that differ.
+    dirty_ = IsDirty();
     ShowTitle();
 }
 

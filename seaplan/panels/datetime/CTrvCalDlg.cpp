@@ -114,6 +114,14 @@ void CTrvCalDlg::OnStep(int by) {
     FillEdit();
 }
 
+bool CTrvCalDlg::OnKey(Key key) {
+    if (key != Key::Enter) {
+        return false;
+    }
+    OnTypingDone();
+    return true;
+}
+
 void CTrvCalDlg::OnTypingDone() {
     if (!typing_) {
         return;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "seaplan/panels/datetime/CalendarView.h"
+#include "seaplan/panels/editors/Keys.h"
 
 namespace Tarvik::Seaplan {
 
@@ -37,6 +38,8 @@ class CTrvCalDlg {
     void OnTyped(const std::string& text) { typed_ = text; }
     /// An arrow beside the edit, -1 or 1; both ends wrap.
     void OnStep(int by);
+    /// A key in the edit: Enter ends the typing. False when the edit itself is to act on it.
+    bool OnKey(Key key);
     /// Enter in the edit, or a press outside it and its arrows: a text that is no such hour or minute is
     /// dropped.
     void OnTypingDone();

@@ -17,6 +17,10 @@ enum class Key {
     Down,
     Left,
     Right,
+    Home,
+    End,
+    PageUp,
+    PageDown,
     F2,
     F9,
     S,
@@ -46,6 +50,11 @@ bool OnCellKey(Editing& editing, KeyPress press, int row, int column) {
         default:
             return false;
     }
+}
+
+/// Whether a key that no control has taken closes a dialog, as its close button does.
+inline bool ClosesDialog(KeyPress press) {
+    return press.key == Key::Escape;
 }
 
 }  // namespace Tarvik::Seaplan

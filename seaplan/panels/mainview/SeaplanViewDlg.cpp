@@ -74,6 +74,14 @@ void SeaplanViewDlg::Toggle() {
     }
 }
 
+bool SeaplanViewDlg::OnKey(Key key) {
+    const bool ends = key == Key::Escape && search_.IsOpen();
+    if (ends) {
+        search_.Close();
+    }
+    return ends;
+}
+
 void SeaplanViewDlg::Hide() {
     // The name being typed is taken while its row, and the box that may tell what is wrong with it, can be
     // seen.
@@ -171,7 +179,7 @@ int SeaplanViewDlg::RecoverAll() {
 
 int SeaplanViewDlg::AddCategory() {
     CategoryCommands& categories = p_.tree.Categories();
-    return categories.Add(categories.NewName()) == 0 ? 0 : -1;
+    return categories.Add(categories.NewName()) ? 0 : -1;
 }
 
 void SeaplanViewDlg::RequestHelp() {

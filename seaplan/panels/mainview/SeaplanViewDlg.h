@@ -56,6 +56,8 @@ class SeaplanViewDlg final : public Core::TObject {
     int AddCategory();
     void RequestHelp();
     void ApplyLanguage();
+    /// A key that nothing in the panel has taken: Escape ends a search. False when it means nothing here.
+    bool OnKey(Key key);
     /// A press on the panel's free surface.
     void OnSurfacePressed();
 

@@ -203,6 +203,15 @@ TEST_F(BunkerTest, ALanguageKeepsTheMarkOfChanges) {
     EXPECT_EQ(window.textsApplied, 1);
 }
 
+TEST_F(BunkerTest, ALanguageDropsTheMarkOfAFigureThatWasTypedBack) {
+    const BunkerFigures before = window.figures;
+    dialog.OnTyped(Vfn, std::to_string(before.at(Vfn) + 1));
+    dialog.OnTyped(Vfn, std::to_string(before.at(Vfn)));
+    EXPECT_TRUE(window.changed) << "typing marks, whatever is typed";
+    dialog.ApplyLanguage();
+    EXPECT_FALSE(window.changed);
+}
+
 TEST_F(BunkerTest, HelpIsAskedForWithItsTopic) {
     dialog.OnHelp();
     EXPECT_EQ(window.help, "func036 350x370");

@@ -31,6 +31,49 @@ TEST(CalendarModel, MonthsCarryIntoTheYear) {
     EXPECT_EQ(calendar.Heading(), "December  2022");
 }
 
+TEST(CalendarModel, AnotherMonthTakesItsFirstAndTheTimeOfTheValue) {
+    CalendarModel calendar;
+    calendar.SetValue(_datetime_t(42, 30, 8, 15, 3, 2024));
+    calendar.TypeHour("9");
+    calendar.StepMonth(1);
+    EXPECT_EQ(calendar.HourText(), "08") << "what was typed is gone with its month";
+    EXPECT_TRUE(calendar.Accept());
+    EXPECT_EQ(calendar.Value(), _datetime_t(42, 30, 8, 1, 4, 2024));
+}
+
+TEST(CalendarModel, YearsOfALeapDayLeadToTheFirst) {
+    CalendarModel calendar;
+    calendar.SetValue(_datetime_t(0, 0, 0, 29, 2, 2024));
+    calendar.StepYear(1);
+    EXPECT_EQ(calendar.Heading(), "February  2025");
+    EXPECT_EQ(calendar.DayOfCell(calendar.SelectedCell()), 1);
+    calendar.StepYear(-1);
+    EXPECT_EQ(calendar.DayOfCell(calendar.SelectedCell()), 1) << "the leap day does not come back";
+}
+
+TEST(CalendarModel, ADayOfTheMonthBeforeInTheGridIsThatDay) {
+    CalendarModel calendar;
+    calendar.SetValue(_datetime_t(42, 30, 8, 15, 3, 2024));
+    ASSERT_EQ(calendar.DayOfCell(0), 25);
+    calendar.ClickCell(0);
+    EXPECT_EQ(calendar.Heading(), "March  2024") << "the month on view stays";
+    EXPECT_TRUE(calendar.Accept());
+    EXPECT_EQ(calendar.Value(), _datetime_t(42, 30, 8, 25, 2, 2024));
+}
+
+TEST(CalendarModel, AnHourThatIsNoNumberCountsAsNone) {
+    CalendarModel calendar;
+    calendar.SetValue(_datetime_t(0, 30, 8, 15, 3, 2024));
+    calendar.TypeHour("ab");
+    calendar.TypeMinute("");
+    EXPECT_EQ(calendar.HourText(), "00");
+    EXPECT_EQ(calendar.MinuteText(), "00");
+    calendar.TypeHour("-1");
+    EXPECT_EQ(calendar.HourText(), "00");
+    calendar.TypeHour("7 o'clock");
+    EXPECT_EQ(calendar.HourText(), "07");
+}
+
 TEST(CalendarModel, HoursAndMinutesWrapAndBadTextIsDropped) {
     CalendarModel calendar;
     calendar.SetValue(_datetime_t(0, 59, 0, 1, 3, 2024));

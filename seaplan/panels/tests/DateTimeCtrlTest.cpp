@@ -156,4 +156,15 @@ TEST_F(DateTimeCtrlTest, ArrowsStepFromWhatIsTypedAndWrap) {
     EXPECT_EQ(view.edit, "00");
 }
 
+TEST_F(DateTimeCtrlTest, EnterEndsTheTypingAndOtherKeysAreTheEdits) {
+    Open();
+    calendar.OnTimePressed(TimePart::Hour);
+    calendar.OnTyped("17");
+    EXPECT_FALSE(calendar.OnKey(Key::Left));
+    EXPECT_EQ(view.state.typing, TimePart::Hour);
+    EXPECT_TRUE(calendar.OnKey(Key::Enter));
+    EXPECT_FALSE(view.state.typing);
+    EXPECT_EQ(view.state.hour, "17");
+}
+
 }  // namespace Tarvik::Seaplan

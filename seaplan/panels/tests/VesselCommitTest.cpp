@@ -72,4 +72,25 @@ TEST_F(VesselCommitTest, ATypedNameIsNotTracked) {
     EXPECT_EQ(Voyage("Plain").vsi, "");
 }
 
+// A view only tells what happens: what is open and typed is known here.
+TEST(VoyShipEditDlgTest, APressInTheBoxClosesItsListAndEnterThenTakesTheName) {
+    RecordingVesselView view;
+    VoyShipEditDlg editor(view);
+    std::vector<std::string> taken;
+    editor.Open({0, 0, 120, 25}, "", {{"1", "NORA", 212}, {"2", "NORD", 213}},
+                [&taken](const Interface::FleetEntry& vessel, bool typedOnly) {
+                    taken.push_back(vessel.name + (typedOnly ? " typed" : " chosen"));
+                });
+    EXPECT_TRUE(editor.OnKey({Key::Down}));
+    EXPECT_EQ(view.selected, 1);
+    editor.OnTyped("nor");
+    editor.OnBoxPressed();
+    EXPECT_FALSE(view.list);
+    EXPECT_TRUE(editor.IsVisible());
+    EXPECT_FALSE(editor.OnKey({Key::Down})) << "no list to walk";
+    EXPECT_TRUE(editor.OnKey({Key::Enter}));
+    EXPECT_EQ(taken, std::vector<std::string>{"nor typed"});
+    EXPECT_FALSE(editor.IsVisible());
+}
+
 }  // namespace Tarvik::Seaplan

@@ -88,7 +88,6 @@ class VesselEditorTest : public TreeFixture {
     }
     VoyShipEditDlg& Editor() { return ctrl.Vessels().Editor(); }
     void TypeAndEnter(const std::string& text) {
-        vessels.text = text;
         Editor().OnTyped(text);
         Editor().OnEnter(0);
     }
@@ -150,14 +149,14 @@ TEST_F(VesselEditorTest, EnterTakesTheListsRowOrTheTypedNameWithTheAlert) {
 
 TEST_F(VesselEditorTest, LeavingTheBoxTakesTheTypedNameAndAnEmptyOneNothing) {
     Click("A", "Voyage_AssignShip");
-    vessels.text = " ";
+    Editor().OnTyped(" ");
     Editor().OnLeft();
     EXPECT_EQ(Voyage("A").vsn, "");
     Click("A", "Voyage_AssignShip");
     EXPECT_FALSE(vessels.box) << "the press that closed it is still under way";
     Editor().OnReleased();
     Click("A", "Voyage_AssignShip");
-    vessels.text = "SEA STAR";
+    Editor().OnTyped("SEA STAR");
     Editor().OnLeft();
     EXPECT_EQ(Voyage("A").vsn, "SEA STAR");
     const auto calls = desk.host.Texts();
@@ -169,7 +168,8 @@ TEST_F(VesselEditorTest, TheSameVesselSendsNothing) {
     Click("B", "Voyage_ReplaceShip");
     EXPECT_EQ(vessels.text, "ANNA");
     EXPECT_THAT(vessels.names, ElementsAre("ANNA NORD"));
-    vessels.list = false;
+    Editor().OnKey({Key::Escape});
+    EXPECT_FALSE(vessels.list);
     Editor().OnEnter(-1);
     EXPECT_EQ(desk.Count(Ask::kChangeVessel), 0);
 }
@@ -182,7 +182,8 @@ TEST_F(VesselEditorTest, AVesselThatWasOnlyLookedAtKeepsItsIdAndNumber) {
     Editor().OnLeft();
     EXPECT_FALSE(vessels.box);
     Click("C", "Voyage_ReplaceShip");
-    vessels.list = false;
+    Editor().OnKey({Key::Escape});
+    EXPECT_FALSE(vessels.list);
     Editor().OnEnter(-1);
     EXPECT_FALSE(vessels.box);
     EXPECT_EQ(desk.Count(Ask::kChangeVessel), 0);

@@ -2,6 +2,7 @@
 #include "seaplan/panels/vessel/VoyShipEditDlg.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include <tarvik/interface/SiblingRecords.h>
@@ -12,8 +13,6 @@ namespace Tarvik::Seaplan {
 namespace {
 
 using Util::StringUtl;
-
-constexpr std::size_t kMostCharacters = 50;
 
 std::u16string Fold(const std::string& text) {
     std::u16string out = StringUtl::TranslateString(text);
@@ -43,43 +42,50 @@ void VoyShipEditDlg::Open(const Rect& inTree, const std::string& text,
                           std::vector<Interface::FleetEntry> fleet, Commit commit) {
     fleet_ = std::move(fleet);
     commit_ = std::move(commit);
-    opened_ = text;
-    view_.ShowBox(inTree, text, kMostCharacters);
+    box_.Open(0, text);
+    view_.ShowBox(inTree, text, box_.Limit());
     OnTyped(text);
 }
 
 void VoyShipEditDlg::Hide() {
-    view_.HideList();
+    HideList();
+    box_.Close();
     view_.HideBox();
 }
 
+void VoyShipEditDlg::HideList() {
+    list_.Close();
+    view_.HideList();
+}
+
 void VoyShipEditDlg::OnTyped(const std::string& text) {
+    box_.SetText(text);
     const std::u16string begin = Fold(text);
     shown_.clear();
     std::copy_if(fleet_.begin(), fleet_.end(), std::back_inserter(shown_),
                  [&](const Interface::FleetEntry& vessel) { return Fold(vessel.name).starts_with(begin); });
     if (shown_.empty()) {
-        return view_.HideList();
+        return HideList();
     }
     std::vector<std::string> names;
     for (const Interface::FleetEntry& vessel : shown_) {
         names.push_back(vessel.name);
     }
-    current_ = 0;
     view_.ShowList(names, SizeOf(names.size()));
+    list_.Open(0, std::move(names), 0);
 }
 
 bool VoyShipEditDlg::OnKey(KeyPress press) {
     switch (press.key) {
         case Key::Enter:
-            OnEnter(current_);
+            OnEnter(list_.Current());
             return true;
         case Key::Down:
             return Walk(1);
         case Key::Up:
             return Walk(-1);
         case Key::Escape:
-            view_.HideList();
+            HideList();
             return true;
         default:
             return false;
@@ -87,16 +93,16 @@ bool VoyShipEditDlg::OnKey(KeyPress press) {
 }
 
 bool VoyShipEditDlg::Walk(int by) {
-    if (!view_.ListVisible()) {
+    if (!list_.IsOpen()) {
         return false;
     }
-    current_ = std::clamp(current_ + by, 0, static_cast<int>(shown_.size()) - 1);
-    view_.SelectRow(current_);
+    list_.Move(by);
+    view_.SelectRow(list_.Current());
     return true;
 }
 
 void VoyShipEditDlg::OnEnter(int selectedRow) {
-    if (view_.ListVisible()) {
+    if (list_.IsOpen()) {
         return OnChosen(selectedRow);
     }
     const auto typed = Typed();
@@ -122,7 +128,7 @@ void VoyShipEditDlg::OnChosen(int row) {
 }
 
 void VoyShipEditDlg::OnLeft() {
-    if (!view_.BoxVisible()) {
+    if (!box_.IsOpen()) {
         return;
     }
     closedByPress_ = true;
@@ -137,10 +143,10 @@ void VoyShipEditDlg::OnLeft() {
 
 std::optional<Interface::FleetEntry> VoyShipEditDlg::Typed() const {
     // A typed name has no id and no number: committing what was only looked at would take both away.
-    if (view_.BoxText() == opened_) {
+    if (box_.Untouched()) {
         return std::nullopt;
     }
-    const std::u16string name = StringUtl::TrimLeft(StringUtl::TranslateString(view_.BoxText()));
+    const std::u16string name = StringUtl::TrimLeft(StringUtl::TranslateString(box_.Text()));
     if (name.empty()) {
         return std::nullopt;
     }

@@ -9,6 +9,8 @@
 #include <tarvik/interface/SiblingRecords.h>
 
 #include "seaplan/panels/editors/Keys.h"
+#include "seaplan/panels/editors/ListBox.h"
+#include "seaplan/panels/editors/TextField.h"
 #include "seaplan/panels/vessel/VesselView.h"
 
 namespace Tarvik::Seaplan {
@@ -26,7 +28,7 @@ class VoyShipEditDlg {
     void Open(const Rect& inTree, const std::string& text, std::vector<Interface::FleetEntry> fleet,
               Commit commit);
     void Hide();
-    bool IsVisible() const { return view_.BoxVisible(); }
+    bool IsVisible() const { return box_.IsOpen(); }
     /// Whether the press that is under way closed the box: a click that it becomes does not open it again.
     bool ClosedByPress() const { return closedByPress_; }
 
@@ -36,6 +38,8 @@ class VoyShipEditDlg {
     bool OnKey(KeyPress press);
     /// Enter in the box: takes the list's selected row while the list shows, else the typed name.
     void OnEnter(int selectedRow);
+    /// A press in the box: of its list it is one beside it.
+    void OnBoxPressed() { HideList(); }
     /// A row of the list was clicked.
     void OnChosen(int row);
     /// A left press outside the box and the list: both close at once, and the typed name is taken when the
@@ -48,7 +52,10 @@ class VoyShipEditDlg {
     static VesselListSize SizeOf(std::size_t vessels);
 
   private:
+    static constexpr std::size_t kMostCharacters = 50;
+
     bool Walk(int by);
+    void HideList();
     void Take(const Interface::FleetEntry& vessel, bool typedOnly);
     /// The vessel that was typed; nothing for an untouched or a blank name.
     std::optional<Interface::FleetEntry> Typed() const;
@@ -57,8 +64,8 @@ class VoyShipEditDlg {
     Commit commit_;
     std::vector<Interface::FleetEntry> fleet_;
     std::vector<Interface::FleetEntry> shown_;
-    int current_ = 0;     ///< row of the list that is selected
-    std::string opened_;  ///< what stood in the box when it opened
+    TextField box_{kMostCharacters};
+    ListBox list_;
     bool closedByPress_ = false;
 };
 

@@ -3,7 +3,6 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -14,6 +13,7 @@
 #include "seaplan/panels/bunker/CBunkerDlg.h"
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/NoteTexts.h"
+#include "seaplan/views/editors/QtKeys.h"
 
 namespace Tarvik::Seaplan {
 
@@ -130,7 +130,8 @@ void BunkerWindow::Attach(CBunkerDlg* panel) {
                         panel->OnClose();
                     }
                 },
-                {}});
+                {},
+                KeyClosesDialog});
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         QLineEdit* field = fields_[i];
         QObject::connect(field, &QLineEdit::textEdited, this, [this, i] { TakeTyped(i); });
@@ -209,14 +210,6 @@ void BunkerWindow::FocusFirst() {
         fields_[0]->setFocus();
         fields_[0]->selectAll();
     }
-}
-
-void BunkerWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape) {
-        return PanelFrame::keyPressEvent(event);
-    }
-    // The question about unsaved figures must not come up inside the key.
-    QTimer::singleShot(0, this, [this] { CloseAsked(); });
 }
 
 }  // namespace Tarvik::Seaplan

@@ -26,7 +26,6 @@ class BunkerWindow final : public PanelFrame<BunkerView> {
   protected:
     void ApplyClassTexts(QWidget& window) override;
     void FocusFirst() override;
-    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void MakeRows();

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/datetime/TimeField.h"
 
-#include <QKeyEvent>
-
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
+#include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -67,14 +66,8 @@ void TimeField::ApplyTexts(TextId part, TextId minus, TextId plus) {
 }
 
 bool TimeField::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == edit_ && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            panel_->OnTypingDone();
-            return true;
-        }
-    }
-    return false;
+    return watched == edit_ && event->type() == QEvent::KeyPress &&
+           panel_->OnKey(PressOf(*static_cast<QKeyEvent*>(event)).key);
 }
 
 }  // namespace Tarvik::Seaplan

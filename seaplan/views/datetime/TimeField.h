@@ -25,7 +25,7 @@ class TimeField final : public QObject {
     void ApplyTexts(TextId part, TextId minus, TextId plus);
 
   protected:
-    /// Enter ends the typing.
+    /// Keys of the edit.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

@@ -4,8 +4,6 @@
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <tarvik/skin/SkinNames.h>
@@ -112,7 +110,7 @@ void KeepTableWindow::MakeButtons() {
 
 void KeepTableWindow::Attach(CPortDistTabDlg* panel) {
     panel_ = panel;
-    SetReports({{}, [panel] { panel->OnClose(); }, [panel] { panel->OnPressedOutside(); }});
+    SetReports({{}, [panel] { panel->OnClose(); }, [panel] { panel->OnPressedOutside(); }, KeyClosesDialog});
     // What the program writes is no typing.
     QObject::connect(category_, &QLineEdit::textEdited, this,
                      [panel](const QString& text) { panel->OnCategoryTyped(text.toStdString()); });
@@ -192,25 +190,14 @@ void KeepTableWindow::ApplySkin() {
     list_->setStyleSheet(Skin::StyleSheet());
 }
 
-bool KeepTableWindow::ListKey(const QKeyEvent& event) {
-    const KeyPress press = PressOf(event);
-    if (press.key == Key::Enter) {
-        panel_->OnNameChosen(list_->currentRow());
-    } else if (press.key == Key::Escape) {
-        panel_->OnPressedOutside();
-    } else {
-        return false;
-    }
-    return true;
-}
-
 bool KeepTableWindow::eventFilter(QObject* watched, QEvent* event) {
     if (panel_ == nullptr) {
         return false;
     }
     if (event->type() == QEvent::KeyPress) {
-        const auto& key = *static_cast<QKeyEvent*>(event);
-        return watched == list_ ? ListKey(key) : panel_->OnCategoryKey(PressOf(key));
+        const KeyPress press = PressOf(*static_cast<QKeyEvent*>(event));
+        return watched == list_ ? panel_->OnListKey(press, list_->currentRow())
+                                : panel_->OnCategoryKey(press);
     }
     if (watched == category_ && event->type() == QEvent::FocusOut) {
         // Another window, the list among them, gives the keyboard back.
@@ -220,13 +207,6 @@ bool KeepTableWindow::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return false;
-}
-
-void KeepTableWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape) {
-        return PanelFrame::keyPressEvent(event);
-    }
-    CloseAsked();
 }
 
 }  // namespace Tarvik::Seaplan

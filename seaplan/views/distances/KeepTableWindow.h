@@ -33,12 +33,10 @@ class KeepTableWindow final : public PanelFrame<KeepTableView>, public DropList 
     void FocusFirst() override { category_->setFocus(); }
     void ApplyClassTexts(QWidget& window) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void MakeFields();
     void MakeButtons();
-    bool ListKey(const QKeyEvent& event);
 
     CPortDistTabDlg* panel_ = nullptr;
     QLineEdit* category_;

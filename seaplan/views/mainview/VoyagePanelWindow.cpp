@@ -2,7 +2,6 @@
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 
 #include <QAccessible>
-#include <QKeyEvent>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -16,6 +15,7 @@
 #include "seaplan/panels/tree/TreeRename.h"
 #include "seaplan/panels/tree/VesselCommands.h"
 #include "seaplan/panels/tree/VoyageTreeSortDlg.h"
+#include "seaplan/views/editors/QtKeys.h"
 
 namespace Tarvik::Seaplan {
 
@@ -66,7 +66,7 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
          [tree](TreeRow row, const std::string& item) { tree->OnItemClicked(row, item); },
          [tree](Key key, TreeRow row, const std::string& item) { return tree->Keys().OnKey(key, row, item); },
          [tree](const std::string& text) { tree->Renaming().OnTyped(text); },
-         [tree] { tree->Renaming().Commit(); },
+         [tree](Key key) { return tree->Renaming().OnKey(key); }, [tree] { tree->Renaming().Commit(); },
          [tree](const std::string& item) { return tree->HasCommand(item); },
          [tree](TreeRow row) { return tree->Keys().OnMenuKey(row); }, [tree] { tree->Keys().Undo(); }});
     tree->Context().line = [this](const std::string& text) { ShowLine(QString::fromStdString(text)); };
@@ -117,9 +117,7 @@ void VoyagePanelWindow::FocusFirst() {
 }
 
 void VoyagePanelWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && panel_ != nullptr && panel_->Search().IsOpen()) {
-        panel_->Search().Close();
-    } else {
+    if (panel_ == nullptr || !panel_->OnKey(PressOf(*event).key)) {
         PanelFrame::keyPressEvent(event);
     }
 }

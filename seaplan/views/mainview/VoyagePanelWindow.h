@@ -31,7 +31,6 @@ class VoyagePanelWindow final : public PanelFrame<PanelWindow> {
   protected:
     void FocusFirst() override;
     void ApplyClassTexts(QWidget& window) override;
-    /// Escape ends a search also from the tree.
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

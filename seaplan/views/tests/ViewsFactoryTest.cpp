@@ -104,7 +104,6 @@ TEST_F(ViewsFactoryTest, ThePortCallWindowIsMadeWhenItIsFirstAskedFor) {
     ASSERT_NE(portCalls, nullptr);
     EXPECT_TRUE(portCalls->isWindow());
     EXPECT_EQ(portCalls->parentWidget(), &mainView);
-    RestyleViews();
     Interface::Raise(Interface::Bus::Logout);
     EXPECT_FALSE(portCalls->isVisible());
 }
@@ -171,7 +170,6 @@ TEST_F(ViewsFactoryTest, AMainWindowThatGoesFirstTakesItsWindowsAlong) {
     delete window;
     EXPECT_EQ(VoyagePanel(), nullptr);
     Toggle();
-    RestyleViews();
 }
 
 }  // namespace Tarvik::Seaplan

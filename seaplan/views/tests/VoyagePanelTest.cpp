@@ -338,7 +338,7 @@ TEST_F(ViewsFixture, AScreenReaderHearsWhatARowShows) {
     const QModelIndex voyage = Tree().model()->index(1, 0, category);
     EXPECT_EQ(voyage.data(Qt::AccessibleTextRole).toString(),
               "Far East 12, Departs 2024-03-21  Arrives 2024-04-21, Vessel: NORTHERN LIGHT, "
-              "Planned: the voyage has not begun");
+              "Planned: the voyage has not begun, has remarks");
 }
 
 TEST_F(ViewsFixture, TheCloseButtonHidesThePanel) {

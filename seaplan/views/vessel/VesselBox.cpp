@@ -52,7 +52,12 @@ VesselBox::VesselBox(QWidget* tree) : QObject(tree), box_(new RowField(tree)) {
     });
     new OutsidePress(
         this, [this](const QWidget& widget) { return BelongsTo(*box_, widget) || BelongsTo(*list_, widget); },
-        [this] { OnPressedOutside(); }, [this] { OnReleased(); }, Qt::LeftButton);
+        [this] {
+            if (panel_ != nullptr) {
+                panel_->OnLeft();
+            }
+        },
+        [this] { OnReleased(); }, Qt::LeftButton);
     ApplySkin();
 }
 
@@ -69,7 +74,6 @@ void VesselBox::ApplySkin() {
 void VesselBox::ShowBox(const Rect& inTree, const std::string& text, std::size_t limit) {
     box_->setGeometry(inTree.left, inTree.top, inTree.right - inTree.left, inTree.bottom - inTree.top);
     PutWhole(*box_, text, limit);
-    open_ = true;
     box_->show();
     box_->raise();
     box_->setFocus();
@@ -77,7 +81,6 @@ void VesselBox::ShowBox(const Rect& inTree, const std::string& text, std::size_t
 }
 
 void VesselBox::HideBox() {
-    open_ = false;
     if (box_->isHidden()) {
         return;
     }
@@ -86,10 +89,6 @@ void VesselBox::HideBox() {
     if (focused && box_->parentWidget()->parentWidget() != nullptr) {
         box_->parentWidget()->parentWidget()->setFocus();
     }
-}
-
-std::string VesselBox::BoxText() const {
-    return box_->text().toStdString();
 }
 
 void VesselBox::ShowList(const std::vector<std::string>& names, const VesselListSize& size) {
@@ -114,18 +113,8 @@ void VesselBox::HideList() {
     list_->hide();
 }
 
-bool VesselBox::ListVisible() const {
-    return list_->isVisible();
-}
-
 void VesselBox::Later(std::function<void()> act) {
     QTimer::singleShot(0, this, std::move(act));
-}
-
-void VesselBox::OnPressedOutside() {
-    if (panel_ != nullptr && open_) {
-        panel_->OnLeft();
-    }
 }
 
 void VesselBox::OnReleased() {
@@ -136,13 +125,12 @@ void VesselBox::OnReleased() {
 }
 
 bool VesselBox::eventFilter(QObject* watched, QEvent* event) {
-    if (panel_ == nullptr || !open_ || watched != box_) {
+    if (panel_ == nullptr || watched != box_) {
         return false;
     }
-    // Of the list a press in the box is one beside it.
     if (event->type() == QEvent::MouseButtonPress &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-        HideList();
+        panel_->OnBoxPressed();
     }
     return event->type() == QEvent::KeyPress && panel_->OnKey(PressOf(*static_cast<QKeyEvent*>(event)));
 }

@@ -25,25 +25,20 @@ class VesselBox final : public QObject, public VesselView {
 
     void ShowBox(const Rect& inTree, const std::string& text, std::size_t limit) override;
     void HideBox() override;
-    bool BoxVisible() const override { return open_; }
-    std::string BoxText() const override;
     void ShowList(const std::vector<std::string>& names, const VesselListSize& size) override;
     void SelectRow(int row) override;
     void HideList() override;
-    bool ListVisible() const override;
     void Later(std::function<void()> act) override;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void OnPressedOutside();
     void OnReleased();
 
     VoyShipEditDlg* panel_ = nullptr;
     QLineEdit* box_;
     QListWidget* list_;
-    bool open_ = false;
 };
 
 }  // namespace Tarvik::Seaplan
