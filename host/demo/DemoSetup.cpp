@@ -9,6 +9,7 @@
 #include <tarvik/interface/ServerRequest.h>
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/Jsona.h>
+#include <tarvik/util/PointText.h>
 #include <tarvik/util/Units.h>
 
 #include "host/demo/Samples.h"
@@ -66,7 +67,7 @@ std::string RouteOf(const Exchange& exchange, const std::string& vi) {
     std::string route;
     for (int i = 0; i < rows.size(); ++i) {
         const Jsona row = rows.get(i);
-        route += fmt::format("{}{:.5f},{:.5f}", i == 0 ? "" : "|", row.getv("xc", 0.0), row.getv("yc", 0.0));
+        route += (i == 0 ? "" : "|") + Util::PointText({row.getv("xc", 0.0), row.getv("yc", 0.0)}, 5);
     }
     return route;
 }

@@ -6,6 +6,20 @@
 
 namespace Tarvik::Ais {
 
+namespace {
+
+/// The value of a letter in the six-bit alphabet, which has capitals alone. What it lacks becomes "?".
+int SixBitsOf(char letter) {
+    const bool isSmall = letter >= 'a' && letter <= 'z';
+    const int capital = isSmall ? letter - 'a' + 'A' : letter;
+    if (capital < ' ' || capital > '_') {
+        return '?';
+    }
+    return capital >= '@' ? capital - '@' : capital;
+}
+
+}  // namespace
+
 BitWriter& BitWriter::Number(std::int64_t value, int count) {
     for (int bit = count - 1; bit >= 0; --bit) {
         bits_.push_back((value >> bit & 1) != 0);
@@ -16,7 +30,7 @@ BitWriter& BitWriter::Number(std::int64_t value, int count) {
 BitWriter& BitWriter::Text(const std::string& text, int characters) {
     for (int i = 0; i < characters; ++i) {
         const char letter = i < static_cast<int>(text.size()) ? text[static_cast<std::size_t>(i)] : '@';
-        Number(letter >= 64 ? letter - 64 : letter, 6);
+        Number(SixBitsOf(letter), 6);
     }
     return *this;
 }

@@ -11,7 +11,7 @@ namespace Tarvik::Ais {
 class BitWriter {
   public:
     BitWriter& Number(std::int64_t value, int count);
-    /// Six-bit text, filled up with "@".
+    /// Six-bit text, filled up with "@". Small letters become capitals, what the alphabet lacks becomes "?".
     BitWriter& Text(const std::string& text, int characters);
     /// Payload of all bits; `fillBits` takes how many were added.
     std::string Armoured(int& fillBits) const;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <tarvik/util/Geodesy.h>
+
 #include "host/plugins/ais/core/SentenceWriter.h"
 
 namespace Tarvik::Ais {
@@ -44,8 +46,9 @@ std::string DemoFeed::Next(std::int64_t time) {
         const DemoPlace place = PlaceOf(ship, time);
         RawMovement raw{1, ship.mmsi};
         raw.status = place.sails ? 0 : kMoored;
-        raw.longitude =
-            std::llround(std::clamp(place.at.longitude + Noise(kPlaceNoise), -180.0, 180.0) * kPerDegree);
+        raw.longitude = std::llround(
+            std::clamp(place.at.longitude + Noise(kPlaceNoise), -Util::kMostLongitude, Util::kMostLongitude) *
+            kPerDegree);
         raw.latitude = std::llround((place.at.latitude + Noise(kPlaceNoise)) * kPerDegree);
         raw.speed = place.sails
                         ? static_cast<int>(std::lround(std::max(0.0, place.knots + Noise(kSpeedNoise)) * 10))

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include <tarvik/util/Geodesy.h>
+#include <tarvik/util/PointText.h>
 #include <tarvik/util/Units.h>
 
 namespace Tarvik::Ais {
@@ -30,14 +31,11 @@ bool Read(std::string_view text, Number& number) {
 
 bool ReadRoute(std::string_view text, std::vector<DemoShip::Point>& route) {
     while (!text.empty()) {
-        std::string_view piece = TakePiece(text, '|');
-        DemoShip::Point point;
-        if (!Read(TakePiece(piece, ','), point.longitude) || !Read(piece, point.latitude) ||
-            !Util::IsOnEarth(point.longitude, point.latitude) ||
-            std::fabs(point.latitude) >= Util::kMostLatitude) {
+        const auto point = Util::ParsePoint(TakePiece(text, '|'));
+        if (!point || !Util::IsOnEarth(point->x, point->y) || std::fabs(point->y) >= Util::kMostLatitude) {
             return false;
         }
-        route.push_back(point);
+        route.push_back({point->x, point->y});
     }
     return !route.empty();
 }

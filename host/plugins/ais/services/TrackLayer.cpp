@@ -5,7 +5,7 @@
 
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/interface/ChartRecords.h>
-#include <tarvik/util/StringUtl.h>
+#include <tarvik/util/PointText.h>
 
 namespace Tarvik::Ais {
 
@@ -26,7 +26,7 @@ void TrackLayer::Draw(const std::string& id, const Shown& shown, const std::vect
     line.width = kTrackWidth;
     line.points.reserve(track.size());
     for (const Fix& fix : track) {
-        line.points.push_back(Util::StringUtl::Format("%.5f,%.5f", fix.longitude, fix.latitude));
+        line.points.push_back(Util::PointText({fix.longitude, fix.latitude}, 5));
     }
     Interface::Call(Interface::Bus::MapAddLine, &std::as_const(line));
     shown_[id] = shown;

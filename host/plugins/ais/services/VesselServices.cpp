@@ -152,4 +152,11 @@ bool VesselServices::ShowHeard(std::uint32_t mmsi, std::int32_t cursorX, std::in
     return true;
 }
 
+CardFacts VesselServices::Renewed(CardFacts facts) const {
+    if (const auto vessel = traffic_.Find(facts.mmsi)) {
+        Describe(*vessel, facts);
+    }
+    return facts;
+}
+
 }  // namespace Tarvik::Ais

@@ -30,6 +30,8 @@ class VesselServices : public Core::TObject {
     void RefreshTracks();
     /// The card of a vessel of the feed, without a voyage. False when it was never heard.
     bool ShowHeard(std::uint32_t mmsi, std::int32_t cursorX, std::int32_t cursorY);
+    /// What a card tells with what was heard of its vessel since.
+    CardFacts Renewed(CardFacts facts) const;
 
   private:
     const std::vector<Interface::VesselPosition>* OnPositions(const std::vector<std::string>& vessels);

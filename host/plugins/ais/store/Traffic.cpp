@@ -36,6 +36,9 @@ void Traffic::Take(const Message& message, std::int64_t now) {
 }
 
 void Traffic::Flush() {
+    if (!writer_) {
+        return;  // what waits is all there is of the tracks; Take keeps it within bounds
+    }
     std::vector<Vessel> renamed;
     {
         const std::lock_guard lock(mutex_);
@@ -49,9 +52,7 @@ void Traffic::Flush() {
     }
     std::string error;
     try {
-        if (writer_) {
-            writer_->Write(writing_, renamed);
-        }
+        writer_->Write(writing_, renamed);
     } catch (const std::exception& failure) {
         error = failure.what();
     }
@@ -60,7 +61,7 @@ void Traffic::Flush() {
         waiting_.insert(waiting_.begin(), writing_.begin(), writing_.end());
     }
     writing_.clear();
-    error_ = writer_ ? error : error_;
+    error_ = error;
 }
 
 void Traffic::Thin(std::int64_t now) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/plugins/ais/window/VesselCardWindow.h"
 
+#include <QLabel>
+#include <algorithm>
 #include <vector>
 
 #include <tarvik/bus/BusCall.h>
@@ -44,12 +46,11 @@ std::vector<Skin::Fact> FixFacts(const CardFacts& facts) {
         FactOf("SOURCE", facts.planned ? Word("SOURCE_PLAN") : Word("SOURCE_AIS"))};
 }
 
-}  // namespace
+QString TitleOf(const CardFacts& facts) {
+    return facts.name.empty() ? QString::number(facts.mmsi) : Text(facts.name);
+}
 
-VesselCardWindow::VesselCardWindow(QWidget* mainWindow)
-    : FactsWindow(mainWindow, "aisVesselCard", "aisCardClose", Word("CLOSE")) {}
-
-void VesselCardWindow::Show(const CardFacts& facts) {
+std::vector<Skin::Fact> RowsOf(const CardFacts& facts) {
     std::vector<Skin::Fact> rows{
         FactOf("NAME", Text(facts.name)),
         FactOf("MMSI", facts.mmsi == 0 ? QString() : QString("%1").arg(facts.mmsi, 9, 10, QChar('0'))),
@@ -59,8 +60,35 @@ void VesselCardWindow::Show(const CardFacts& facts) {
     rows.push_back(FactOf("DESTINATION", Text(facts.destination)));
     rows.push_back(FactOf("FIRST_PORT", Text(facts.firstPort)));
     rows.push_back(FactOf("LAST_PORT", Text(facts.lastPort)));
-    ShowFacts(facts.name.empty() ? QString::number(facts.mmsi) : Text(facts.name), rows,
-              {facts.cursorX, facts.cursorY});
+    return rows;
+}
+
+}  // namespace
+
+VesselCardWindow::VesselCardWindow(QWidget* mainWindow)
+    : FactsWindow(mainWindow, "aisVesselCard", "aisCardClose", Word("CLOSE")) {}
+
+void VesselCardWindow::Show(const CardFacts& facts) {
+    told_ = facts;
+    ShowFacts(TitleOf(facts), RowsOf(facts), {facts.cursorX, facts.cursorY});
+}
+
+void VesselCardWindow::Renew(const CardFacts& facts) {
+    const std::vector<Skin::Fact> rows = RowsOf(facts);
+    const auto isInPlace = [this](const Skin::Fact& row) {
+        return (findChild<QLabel*>(row.name) == nullptr) == row.value.isEmpty();
+    };
+    if (!std::all_of(rows.begin(), rows.end(), isInPlace)) {
+        const QPoint place = pos();
+        ShowFacts(TitleOf(facts), rows, place);
+        return move(place);
+    }
+    for (const Skin::Fact& row : rows) {
+        auto* label = findChild<QLabel*>(row.name);
+        if (label != nullptr && label->text() != row.value) {
+            label->setText(row.value);
+        }
+    }
 }
 
 }  // namespace Tarvik::Ais

@@ -14,6 +14,13 @@ class VesselCardWindow : public Skin::FactsWindow {
 
     /// Shows the facts beside the cursor, within the screen. What is not known has no row.
     void Show(const CardFacts& facts);
+    /// Tells these facts of the same vessel where the card stands now; what did not change stays as it is.
+    void Renew(const CardFacts& facts);
+    /// What it told when it was shown.
+    const CardFacts& Told() const { return told_; }
+
+  private:
+    CardFacts told_;
 };
 
 }  // namespace Tarvik::Ais

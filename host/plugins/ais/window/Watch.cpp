@@ -59,28 +59,38 @@ Watch::~Watch() {
 }
 
 void Watch::Start() {
-    Apply(settings_);
+    OpenInputs();
+    ships_.Show(settings_.showShips, UtcNow());
     Util::TimerService* timers = Util::TimerService::Current();
     if (timer_ == 0 && timers != nullptr) {
         timer_ = timers->Start(kTurnMs, [this] { Turn(); });
     }
 }
 
-void Watch::Apply(const Settings& settings) {
-    settings_ = settings;
+void Watch::Apply(const Settings& chosen) {
+    // A source that stays is not called anew: a log would begin from its start.
+    const bool otherInputs = chosen.inputs != settings_.inputs;
+    settings_ = chosen;
+    if (otherInputs) {
+        OpenInputs();
+    }
+    ships_.Show(chosen.showShips, UtcNow());
+}
+
+void Watch::OpenInputs() {
     std::vector<std::pair<InputAddress, std::string>> inputs;
-    for (const std::string& text : settings.inputs) {
+    for (const std::string& text : settings_.inputs) {
         if (const auto address = InputAddress::Parse(text)) {
             inputs.emplace_back(*address, text);
         }
     }
     feed_.SetInputs(inputs);
-    ships_.Show(settings.showShips, UtcNow());
 }
 
 void Watch::Turn() {
     ships_.Draw(UtcNow());
     services_.RefreshTracks();
+    RenewCard();
     TellStatus();
 }
 
@@ -112,6 +122,12 @@ void Watch::ShowCard(const CardFacts& facts) {
         card_ = new VesselCardWindow(static_cast<QWidget*>(Core::TrvKernel::MainViewHWnd()));
     }
     card_->Show(facts);
+}
+
+void Watch::RenewCard() {
+    if (card_ && card_->isVisible()) {
+        card_->Renew(services_.Renewed(card_->Told()));
+    }
 }
 
 void Watch::OnPreferences(Interface::PreferencePages& pages) {

@@ -34,10 +34,13 @@ class Watch : public Core::TObject {
     FeedStatus Status() const { return feed_.Status(); }
 
   private:
-    void Apply(const Settings& settings);
+    /// Takes what a person chose into use.
+    void Apply(const Settings& chosen);
+    void OpenInputs();
     void Turn();
     void TellStatus() const;
     void ShowCard(const CardFacts& facts);
+    void RenewCard();
     void OnPreferences(Interface::PreferencePages& pages);
     const bool* OnShowShips(const bool* shown);
     const char* OnShipClicked(const std::string& id);

@@ -57,6 +57,15 @@ TEST(MessageTest, VoyageDataIsDecoded) {
     EXPECT_FALSE(message->moves);
 }
 
+TEST(MessageTest, NamesAreSentInTheLettersThatAisHas) {
+    const auto message =
+        Decoded(Sentences(VoyageData(123456789, "Amber Tide-2 {z}é", "d5at1", "Oslo_[1]"), 1));
+    ASSERT_TRUE(message);
+    EXPECT_EQ(message->particulars.name, "AMBER TIDE-2 ?Z???");
+    EXPECT_EQ(message->particulars.callSign, "D5AT1");
+    EXPECT_EQ(message->particulars.destination, "OSLO_[1]");
+}
+
 TEST(MessageTest, StaticPartsTellNameAndKindApart) {
     const auto name = Decoded({"!AIVDM,1,1,,A,H42O55i18tMET00000000000000,2*6D"});
     ASSERT_TRUE(name);

@@ -83,6 +83,23 @@ TEST_F(TrafficTest, WithoutAFileAllGoesOnInMemory) {
     EXPECT_TRUE(traffic.HeardSince(kNow + 1).empty());
 }
 
+TEST_F(TrafficTest, WithoutAFileTracksStayInMemoryWithinBounds) {
+    Traffic traffic("", kNow);
+    traffic.Watch(1);
+    traffic.Take(PositionOf(1, 10, 20), kNow);
+    traffic.Flush();
+    traffic.Take(PositionOf(1, 10, 20), kNow + 60);
+    EXPECT_EQ(Times(traffic.Track(1, kNow, kNow + 1000)), (std::vector<std::int64_t>{0, 60}));
+    const auto more = static_cast<std::int64_t>(Traffic::kMostWaiting) + 10;
+    for (std::int64_t minute = 2; minute < more; ++minute) {
+        traffic.Take(PositionOf(1, 10, 20), kNow + minute * 60);
+    }
+    const std::vector<std::int64_t> times = Times(traffic.Track(1, kNow, kNow + more * 60));
+    EXPECT_LE(times.size(), Traffic::kMostWaiting);
+    EXPECT_GE(times.size(), Traffic::kMostWaiting / 2);
+    EXPECT_EQ(times.back(), (more - 1) * 60) << "the oldest go";
+}
+
 TEST_F(TrafficTest, QuestionsWhileMessagesComeAreAnswered) {
     Traffic traffic(file, kNow);
     std::thread taking([&traffic] {

@@ -61,6 +61,26 @@ TEST_F(VesselCardTest, WhatIsNotKnownHasNoRow) {
     EXPECT_EQ(Row("FIRST_PORT"), "-");
 }
 
+TEST_F(VesselCardTest, WhatIsHeardNextIsToldWhereTheCardStands) {
+    CardFacts facts = Known();
+    facts.hasFix = false;
+    card->Show(facts);
+    card->move(40, 50);
+    card->Renew(Known());
+    EXPECT_EQ(Row("POSITION"), "51° 54.5' N 004° 29.0' E") << "with the rows that it lacked";
+    EXPECT_EQ(Row("SPEED"), "12.2 kn");
+    EXPECT_EQ(card->pos(), QPoint(40, 50));
+    const auto* name = card->findChild<QLabel*>("aisNAME");
+    facts = Known();
+    facts.fix.latitude = 52;
+    facts.fix.time += 60;
+    card->Renew(facts);
+    EXPECT_EQ(Row("POSITION"), "52° 00.0' N 004° 29.0' E");
+    EXPECT_EQ(Row("TIME"), "2024-03-01 00:01:00 UTC");
+    EXPECT_EQ(card->findChild<QLabel*>("aisNAME"), name) << "what is marked in it stays marked";
+    EXPECT_EQ(card->pos(), QPoint(40, 50));
+}
+
 TEST_F(VesselCardTest, StaysWithinTheScreenAndCloses) {
     CardFacts facts = Known();
     facts.cursorX = facts.cursorY = 100'000;

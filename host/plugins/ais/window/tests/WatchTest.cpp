@@ -2,6 +2,7 @@
 // The plug-in at work over the bus: a TCP server in the test, the client's timer by hand.
 #include <QApplication>
 #include <QCheckBox>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <algorithm>
 #include <chrono>
@@ -18,6 +19,7 @@
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 
+#include "host/plugins/ais/core/SentenceWriter.h"
 #include "host/plugins/ais/window/InputsPage.h"
 #include "host/plugins/ais/window/Watch.h"
 #include "testsupport/DataFolder.h"
@@ -115,6 +117,17 @@ TEST_F(WatchTest, ShipsAreSwitchedOffAndOn) {
     EXPECT_EQ(ships.size(), 1U);
 }
 
+TEST_F(WatchTest, InputThatStaysIsNotCalledAnew) {
+    EXPECT_EQ(Prefer(Server(), true), "");
+    auto peer = acceptor.accept();
+    Until([this] { return watch.Status().open == 1; });
+    EXPECT_EQ(Prefer(Server(), false), "");
+    asio::write(peer, asio::buffer(std::string("!AIVDM,1,1,,A,15RTgt0PAso;90TKcjM8h6g208CQ,0*4A\r\n")));
+    Until([this] { return watch.Status().messages == 1; });
+    EXPECT_EQ(watch.Status().openings, 1U);
+    EXPECT_TRUE(ships.empty());
+}
+
 TEST_F(WatchTest, ClickOnAShipOpensItsCard) {
     EXPECT_EQ(Prefer(Server(), true), "");
     auto peer = acceptor.accept();
@@ -125,6 +138,30 @@ TEST_F(WatchTest, ClickOnAShipOpensItsCard) {
     EXPECT_TRUE(std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
         return window->objectName() == "aisVesselCard" && window->isVisible();
     }));
+}
+
+TEST_F(WatchTest, CardFollowsItsShip) {
+    EXPECT_EQ(Prefer(Server(), true), "");
+    auto peer = acceptor.accept();
+    const auto report = [&peer](int latitude) {
+        RawMovement raw{1, 371798000};
+        raw.latitude = latitude * 600000;
+        asio::write(peer, asio::buffer(Sentences(ClassA(raw))[0] + "\r\n"));
+    };
+    const auto position = [] {
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (const auto* label = window->findChild<QLabel*>("aisPOSITION")) {
+                return label->text();
+            }
+        }
+        return QString();
+    };
+    report(10);
+    Until([this] { return ships.size() == 1; });
+    Interface::RaiseClick(ShipLayer::kType, "371798000");
+    EXPECT_EQ(position(), "10° 00.0' N 000° 00.0' E");
+    report(20);
+    Until([&position] { return position() == "20° 00.0' N 000° 00.0' E"; });
 }
 
 TEST_F(WatchTest, SettingsOutliveTheProgram) {
