@@ -26,6 +26,8 @@ OwnPortDesk::OwnPortDesk(QWidget& mainWindow, ClientSession& session)
         port.position = Server::GeoPoint{at.longitude, at.latitude};
         OpenForm(port);
     }));
+    bindings_.Keep(Interface::Offer(Bus::ChangeOwnPort, [this](const std::string& id) { Change(id); }));
+    bindings_.Keep(Interface::Offer(Bus::RemoveOwnPort, [this](const std::string& id) { Remove(id); }));
     bindings_.Keep(Interface::Subscribe(Bus::ShowPanel, this, &OwnPortDesk::OnShowPanel));
     bindings_.Keep(Interface::Subscribe(Bus::PortsChanged, [this] { Refresh(); }));
     bindings_.Keep(Interface::Subscribe(Bus::SwitchLanguage, [this] { OnLanguage(); }));
@@ -47,11 +49,26 @@ void OwnPortDesk::OnShowPanel(const Interface::PanelShow& show) {
     }
     const bool answered = session_.OwnPorts().Load(session_.Link());
     const bool known = !session_.Services().User().empty();
-    List().ShowPorts(session_.OwnPorts().All());
+    ShowList();
     List().Tell(!known ? PortWord("NO_USER") : answered ? QString() : PortWord("NOT_LOADED"));
+}
+
+void OwnPortDesk::ShowList() {
+    List().ShowPorts(session_.OwnPorts().All());
     List().show();
     List().raise();
     List().activateWindow();
+}
+
+void OwnPortDesk::TellOutcome(PortOutcome outcome) {
+    const bool isSeen = list_ && list_->isVisible();
+    if (!isSeen && outcome == PortOutcome::Done) {
+        return;
+    }
+    if (!isSeen) {
+        ShowList();
+    }
+    List().Tell(WordOf(outcome));
 }
 
 void OwnPortDesk::OnLanguage() {
@@ -102,7 +119,7 @@ OwnPortForm& OwnPortDesk::Form() {
 }
 
 void OwnPortDesk::OpenForm(const Ports::Place& port) {
-    if (Form().isVisible() && Form().IsTouched() && !Skin::Agreed(PortWord("DROP_PORT"), &Form())) {
+    if (!Form().MayGo()) {
         return;
     }
     const bool overList = list_ && list_->isVisible();
@@ -134,9 +151,9 @@ void OwnPortDesk::Remove(const std::string& id) {
     }
     const Ports::Place port = *found;
     const QString question = PortWord("REMOVE_PORT").arg(QString::fromStdString(port.name));
-    if (Skin::Agreed(question, &List())) {
-        const PortOutcome outcome = session_.OwnPorts().Change(session_.Link(), PortOperation::Remove, port);
-        List().Tell(WordOf(outcome));
+    const bool overList = list_ && list_->isVisible();
+    if (Skin::Agreed(question, overList ? list_.data() : &mainWindow_)) {
+        TellOutcome(session_.OwnPorts().Change(session_.Link(), PortOperation::Remove, port));
     }
 }
 
@@ -145,7 +162,7 @@ QString OwnPortDesk::Save(const Ports::Place& port) {
     const PortOutcome outcome = session_.OwnPorts().Change(session_.Link(), operation, port);
     if (outcome == PortOutcome::NotLoaded) {
         // It is saved: a second try would add it twice.
-        List().Tell(WordOf(outcome));
+        TellOutcome(outcome);
         return {};
     }
     return WordOf(outcome);

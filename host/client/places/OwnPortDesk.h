@@ -16,8 +16,8 @@ struct PanelShow;
 
 namespace Tarvik::Client {
 
-/// The windows for the user's own ports over a session, and the service that opens the form at a place of the
-/// chart, from construction to destruction.
+/// The windows for the user's own ports over a session, and the services by which the chart adds, changes and
+/// removes one, from construction to destruction.
 class OwnPortDesk {
   public:
     /// `mainWindow` owns the windows; it and the session outlive this.
@@ -30,6 +30,10 @@ class OwnPortDesk {
     void OnShowPanel(const Interface::PanelShow& show);
     void OnLanguage();
     void OnLogout();
+    void ShowList();
+    /// Tells below the list, which is opened for trouble, so that a change made on the chart does not fail
+    /// unseen.
+    void TellOutcome(PortOutcome outcome);
     /// Shows the form filled with a port, unless a person keeps what is typed in it.
     void OpenForm(const Ports::Place& port);
     void Change(const std::string& id);

@@ -4,6 +4,7 @@
 #include <tarvik/bus/PlacesContract.h>
 
 #include "host/client/places/tests/OwnPortFixture.h"
+#include "host/client/services/RequestBlock.h"
 
 namespace Tarvik::Client {
 
@@ -17,6 +18,14 @@ class OwnPortDeskTest : public OwnPortFixture {
     void PressKey(const char* button, const char* key) {
         EXPECT_EQ(Part<QPushButton>(button).shortcut().toString(), key);
         Press(button);
+    }
+    /// As from another computer: the server alone knows.
+    static void RemoveElsewhere(const std::string& id) {
+        const RequestBlock request(Interface::NumberOf(Interface::VoyCommand::ChangePlace),
+                                   Interface::kVoyageModuleWord, R"({"type":"2","ppi":")" + id + "\"}");
+        Interface::VoyServerRequest* reply = Interface::Call(Bus::ServerExchange, &*request);
+        ASSERT_NE(reply, nullptr);
+        Core::FreeBusBlock(reply);
     }
 };
 
@@ -122,6 +131,42 @@ TEST_F(OwnPortDeskTest, WhatWasTypedIsNotLostWithoutAQuestion) {
     QTest::keyClick(&Form(), Qt::Key_Escape);
     EXPECT_FALSE(Form().isVisible());
     EXPECT_EQ(sink_.messages.size(), 3U);
+}
+
+TEST_F(OwnPortDeskTest, ThoseOnTheChartAreChangedAndRemovedWithoutTheList) {
+    Toggle();
+    Add("Berth 7", "51 58.8N 4 3E");
+    Toggle();
+    const std::string id = IdOf("Berth 7");
+    Interface::Call(Bus::ChangeOwnPort, &id);
+    ASSERT_TRUE(Form().isVisible());
+    EXPECT_EQ(Form().accessibleName(), "Change a port");
+    EXPECT_EQ(Part<QLineEdit>("ownPortName").text(), "Berth 7");
+    Type("ownPortName", "Berth 9");
+    Press("ownPortSave");
+    EXPECT_EQ(IdOf("Berth 9"), id);
+    sink_.Answer(Interface::SysMsgHandleRes::No);
+    Interface::Call(Bus::RemoveOwnPort, &id);
+    EXPECT_EQ(IdOf("Berth 9"), id);
+    sink_.Answer(Interface::SysMsgHandleRes::Yes);
+    Interface::Call(Bus::RemoveOwnPort, &id);
+    EXPECT_EQ(IdOf("Berth 9"), "");
+    EXPECT_FALSE(Window().isVisible()) << "what went well needs no window";
+    sink_.messages.clear();
+    Interface::Call(Bus::RemoveOwnPort, &id);
+    EXPECT_TRUE(sink_.messages.empty()) << "gone already";
+}
+
+TEST_F(OwnPortDeskTest, ARemovalOnTheChartThatFailsOpensTheListWithTheReason) {
+    Toggle();
+    Add("Berth 7", "51 58.8N 4 3E");
+    Toggle();
+    const std::string id = IdOf("Berth 7");
+    RemoveElsewhere(id);
+    sink_.Answer(Interface::SysMsgHandleRes::Yes);
+    Interface::Call(Bus::RemoveOwnPort, &id);
+    EXPECT_TRUE(Window().isVisible());
+    EXPECT_EQ(Note(), "This port was removed meanwhile. Add it anew to keep it.");
 }
 
 TEST_F(OwnPortDeskTest, ALogoutClosesAndEmptiesTheWindows) {

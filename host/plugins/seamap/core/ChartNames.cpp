@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include <tarvik/interface/PlanTerms.h>
+
 namespace Tarvik::Seamap {
 
 namespace {
@@ -22,8 +24,10 @@ ChartName NameOf(const Ports::Place& port, bool isChinese) {
     name.port = port.name;
     name.local = port.nameCn;
     name.aliases = port.aliases;
-    // The ports that the trade knows have a Chinese name, the others their English one again.
-    name.isMajor = !port.nameCn.empty() && port.nameCn != port.name;
+    name.own = port.id.size() > Interface::kShippedIdDigits ? port.id : std::string();
+    // The ports that the trade knows have a Chinese name, the others their English one again. What a person
+    // has put on the chart is looked for there.
+    name.isMajor = !name.own.empty() || (!port.nameCn.empty() && port.nameCn != port.name);
     return name;
 }
 
@@ -59,8 +63,10 @@ std::vector<ChartName> NamesOfChart(const NameTexts& texts, const std::vector<Po
             names.push_back(NameOf(place, isChinese));
         }
     }
-    std::stable_partition(names.begin() + firstPort, names.end(),
-                          [](const ChartName& name) { return name.isMajor; });
+    const auto others = std::stable_partition(names.begin() + firstPort, names.end(),
+                                              [](const ChartName& name) { return name.isMajor; });
+    std::stable_partition(names.begin() + firstPort, others,
+                          [](const ChartName& name) { return !name.own.empty(); });
     return names;
 }
 

@@ -32,6 +32,7 @@ struct ChartName {
     std::string port{};   ///< a port's name in the dictionary, whatever the language
     std::string local{};  ///< its Chinese name, whatever the language; may be empty or the English one
     std::vector<std::string> aliases{};  ///< other names of a port, in no order
+    std::string own{};                   ///< id of a port of the user's own, else empty
     double miles = 0;                    ///< a water's width
     bool isMajor = false;                ///< a port that is named before the others
 
@@ -46,8 +47,8 @@ struct ChartName {
 using NameTexts = std::function<std::string(const char* section, const char* key)>;
 
 /// The names of all waters and ports in the language in force, in the order in which they find room: waters
-/// by width, then major ports, then the others. A water without a text is left out. In a language whose text
-/// "Chart"/"PORT_NAMES" is "namecn" a port has its Chinese name where it has one.
+/// by width, then the user's own ports, major ones, the others. A water without a text is left out. In a
+/// language whose text "Chart"/"PORT_NAMES" is "namecn" a port has its Chinese name where it has one.
 std::vector<ChartName> NamesOfChart(const NameTexts& texts, const std::vector<Ports::Place>& places);
 
 }  // namespace Tarvik::Seamap

@@ -15,6 +15,7 @@
 #include "host/plugins/seamap/widget/ChartWidget.h"
 #include "host/plugins/seamap/widget/GoToBar.h"
 #include "host/plugins/seamap/widget/MeasureCard.h"
+#include "host/plugins/seamap/widget/TimeBar.h"
 
 namespace Tarvik::Seamap {
 
@@ -39,15 +40,17 @@ ChartTools::ChartTools(ChartWidget& chart)
       chart_(chart),
       finder_(std::make_unique<PortFinder>(std::vector<ChartName>())),
       card_(new MeasureCard(&chart)),
-      goTo_(new GoToBar(&chart, [this](const std::string& typed, std::size_t limit) {
-          return finder_->Find(typed, limit);
-      })) {
+      goTo_(new GoToBar(&chart, [this](const std::string& typed,
+                                       std::size_t limit) { return finder_->Find(typed, limit); })),
+      time_(new TimeBar(&chart)) {
     connect(card_, &MeasureCard::Chosen, this, [this](Track track, double knots) {
         measure_.track = track;
         measure_.knots = knots;
         Refresh();
     });
     connect(goTo_, &GoToBar::Chosen, this, &ChartTools::GoTo);
+    connect(time_, &TimeBar::Changed, this,
+            [this] { chart_.Change([this](ChartScene& scene) { scene.SetPlanTime(time_->Time()); }); });
 }
 
 ChartTools::~ChartTools() = default;
@@ -56,11 +59,13 @@ void ChartTools::SetNames(const std::vector<ChartName>& names) {
     goTo_->hide();  // what it has on offer are the old finder's
     finder_ = std::make_unique<PortFinder>(names);
     card_->ApplyTexts();
+    time_->ApplyTexts();
 }
 
 void ChartTools::ApplyTheme() {
     card_->ApplyTheme(chart_.Palette());
     goTo_->ApplyTheme(chart_.Palette());
+    time_->ApplyTheme(chart_.Palette());
 }
 
 void ChartTools::OpenMenu(GeoPoint place, QPoint at) {
@@ -78,6 +83,10 @@ void ChartTools::OpenMenu(GeoPoint place, QPoint at) {
     menu->addAction(Word("GO_TO") + "…\tCtrl+G", &chart_, [this] { OpenGoTo(); })->setObjectName("goTo");
     menu->addSeparator();
     AddParts(*menu);
+    QAction* time = menu->addAction(Word("TIME_SLIDER") + "\tT", &chart_, [this] { ToggleTime(); });
+    time->setObjectName("timeSlider");
+    time->setCheckable(true);
+    time->setChecked(!time_->isHidden());
     menu->popup(at);
 }
 
@@ -169,7 +178,42 @@ void ChartTools::TakePointer(std::optional<GeoPoint> place) {
     }
 }
 
+void ChartTools::ToggleTime() {
+    TakePlans();
+    time_->Turn(time_->isHidden());
+}
+
+void ChartTools::TakePlans() {
+    time_->TakePlans(chart_.Plans());
+}
+
+bool ChartTools::TakeTimeKey(int key) {
+    if (key == Qt::Key_T) {
+        ToggleTime();
+        return true;
+    }
+    if (time_->isHidden()) {
+        return false;
+    }
+    switch (key) {
+        case Qt::Key_Comma:
+            time_->Step(-1);
+            return true;
+        case Qt::Key_Period:
+            time_->Step(1);
+            return true;
+        case Qt::Key_Space:
+            time_->TogglePlay();
+            return true;
+        default:
+            return false;
+    }
+}
+
 bool ChartTools::TakeKey(int key) {
+    if (TakeTimeKey(key)) {
+        return true;
+    }
     if (key == Qt::Key_Escape && (measure_.IsRunning() || mark_)) {
         measure_.End();
         mark_.reset();
@@ -192,6 +236,7 @@ void ChartTools::Draw(QPainter& painter) {
 void ChartTools::Place() {
     card_->ShowMeasure(measure_);
     goTo_->Place();
+    time_->Place();
 }
 
 void ChartTools::Refresh() {

@@ -19,6 +19,7 @@ namespace Tarvik::Seamap {
 class ChartWidget;
 class GoToBar;
 class MeasureCard;
+class TimeBar;
 
 /// What a person does on the chart beside looking at it: its menu, measuring, going to a place, and showing
 /// or hiding its parts.
@@ -40,11 +41,16 @@ class ChartTools : public QObject {
     /// Begins to measure at a place.
     void MeasureFrom(GeoPoint place);
     const Measure& Measured() const { return measure_; }
+    /// Opens the bar with which the time of the ships of voyages is chosen, or closes it.
+    void ToggleTime();
+    /// The plans of voyages may have changed.
+    void TakePlans();
 
     /// A click on the chart; true when the measuring tool has taken it.
     bool TakeClick(GeoPoint place);
     void TakePointer(std::optional<GeoPoint> place);
-    /// Escape ends what is under way, Backspace takes the last point back; false for a key without use.
+    /// Escape ends what is under way, Backspace takes the last point back, T opens the time bar, and while it
+    /// is open comma, full stop and Space step and run; false for a key without use.
     bool TakeKey(int key);
     void Draw(QPainter& painter);
     /// Moves what floats over the chart to its place behind a change of size.
@@ -58,6 +64,7 @@ class ChartTools : public QObject {
     void AddParts(QMenu& menu);
     void GoTo(const Destination& place);
     void Refresh();
+    bool TakeTimeKey(int key);
 
     ChartWidget& chart_;
     std::unique_ptr<PortFinder> finder_;
@@ -67,6 +74,7 @@ class ChartTools : public QObject {
     MeasureLayer layer_;
     MeasureCard* card_;
     GoToBar* goTo_;
+    TimeBar* time_;
 };
 
 }  // namespace Tarvik::Seamap

@@ -3,14 +3,21 @@
 
 #include <QLocale>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QStringList>
 #include <algorithm>
+
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/PlacesContract.h>
+#include <tarvik/skin/Words.h>
 
 namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr int kAway = 10;  ///< pixels between a port's place and its card
+constexpr int kAway = 10;        ///< pixels between a port's place and its card
+constexpr int kButtonSide = 13;  ///< pixels between the card's edge and its buttons, as for its text
+constexpr int kButtonGap = 8;    ///< pixels between and below the buttons
 
 /// The country that a UN/LOCODE begins with, in English; empty for none.
 QString CountryOf(const QString& code) {
@@ -20,11 +27,28 @@ QString CountryOf(const QString& code) {
 
 }  // namespace
 
-PortCard::PortCard(QWidget* chart) : QLabel(chart) {
+PortCard::PortCard(QWidget* chart)
+    : QLabel(chart),
+      change_(AddButton("portCardChange", Interface::Bus::ChangeOwnPort)),
+      remove_(AddButton("portCardRemove", Interface::Bus::RemoveOwnPort)) {
     setObjectName("portCard");
     setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignTop | Qt::AlignLeft);
     setFocusPolicy(Qt::NoFocus);
     hide();
+}
+
+QPushButton* PortCard::AddButton(const char* name, const OwnPortService& service) {
+    auto* button = new QPushButton(this);
+    button->setObjectName(name);
+    button->setAutoDefault(true);
+    connect(button, &QPushButton::clicked, this, [this, service] {
+        const std::string id = own_;
+        parentWidget()->setFocus();
+        hide();
+        Interface::Call(service, &id);
+    });
+    return button;
 }
 
 QString PortCard::TextOf(const ChartName& port) {
@@ -44,7 +68,9 @@ QString PortCard::TextOf(const ChartName& port) {
 void PortCard::ShowPort(const ChartName& port, PixelPoint place) {
     setText(TextOf(port));
     setAccessibleName(text());
+    own_ = Interface::IsOffered(Interface::Bus::ChangeOwnPort) ? port.own : std::string();
     adjustSize();
+    PlaceButtons();
     const int x = static_cast<int>(place.x);
     const int y = static_cast<int>(place.y);
     const int right = parentWidget()->width() - width();
@@ -54,6 +80,23 @@ void PortCard::ShowPort(const ChartName& port, PixelPoint place) {
     move(std::clamp(left, 0, std::max(0, right)), std::clamp(y + kAway, 0, std::max(0, bottom)));
     show();
     raise();
+}
+
+void PortCard::PlaceButtons() {
+    change_->setVisible(!own_.empty());
+    remove_->setVisible(!own_.empty());
+    if (own_.empty()) {
+        return;
+    }
+    change_->setText(Skin::Word("Chart", "CHANGE_PORT"));
+    remove_->setText(Skin::Word("Chart", "REMOVE_PORT"));
+    int x = kButtonSide;
+    for (QPushButton* button : {change_, remove_}) {
+        button->adjustSize();
+        button->move(x, height());
+        x += button->width() + kButtonGap;
+    }
+    resize(std::max(width(), x - kButtonGap + kButtonSide), height() + change_->height() + kButtonGap);
 }
 
 void PortCard::ApplyTheme(const ChartPalette& palette) {

@@ -4,10 +4,15 @@
 #include <QColor>
 #include <QLabel>
 #include <QString>
+#include <string>
+
+#include <tarvik/bus/BusName.h>
 
 #include "host/plugins/seamap/core/ChartNames.h"
 #include "host/plugins/seamap/core/ChartPalette.h"
 #include "host/plugins/seamap/core/MercatorView.h"
+
+class QPushButton;
 
 namespace Tarvik::Seamap {
 
@@ -22,12 +27,15 @@ inline QString CardSheet(const QString& name, const ChartPalette& palette) {
                "#%1 QLineEdit, #%1 QDoubleSpinBox { border: 1px solid %5; border-radius: 3px; padding: 2px "
                "4px; } "
                "#%1 QLineEdit:focus, #%1 QDoubleSpinBox:focus { border-color: %6; } "
+               "#%1 QPushButton { border: 1px solid %5; border-radius: 3px; padding: 2px 8px; } "
+               "#%1 QPushButton:focus, #%1 QPushButton:hover { border-color: %6; } "
                "#%1 QListView { border: 0; } #%1 QListView::item:selected { background: %6; color: %2; }")
         .arg(name, colour(palette.halo), colour(palette.text), colour(palette.graticule),
              colour(palette.secondaryText), colour(palette.accent));
 }
 
-/// What is known of a port, on a small card beside its place on the chart.
+/// What is known of a port, on a small card beside its place on the chart. The card of a port of the user's
+/// own also changes and removes it, where the client does that.
 class PortCard final : public QLabel {
   public:
     /// Hidden at first; a press on the card hides it.
@@ -40,6 +48,16 @@ class PortCard final : public QLabel {
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;
+
+  private:
+    using OwnPortService = Interface::Service<const std::string, Interface::None>;
+    QPushButton* AddButton(const char* name, const OwnPortService& service);
+    /// Makes room for the buttons below the text.
+    void PlaceButtons();
+
+    std::string own_;  ///< id of the port on show where it can be changed, else empty
+    QPushButton* change_;
+    QPushButton* remove_;
 };
 
 }  // namespace Tarvik::Seamap

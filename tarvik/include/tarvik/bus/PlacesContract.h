@@ -77,6 +77,10 @@ inline constexpr Event<const StatusWord> TellStatus{"TRV_E_STATUSWORD"};
 /// Opens the form in which a port of the user's own is added at a place. The client's; nobody offers it
 /// without a window.
 inline constexpr Service<const OwnPortPlace, None> AddOwnPort{"TRV_S_OWNPORT_ADD"};
+/// Opens the form in which the own port with an id is changed; the client's, as are all three.
+inline constexpr Service<const std::string, None> ChangeOwnPort{"TRV_S_OWNPORT_CHANGE"};
+/// Removes the own port with an id once the person has agreed.
+inline constexpr Service<const std::string, None> RemoveOwnPort{"TRV_S_OWNPORT_REMOVE"};
 /// The table of points and the dictionary of ports have changed: the user's own ports were changed, or others
 /// have become the user's by a login or a logout. Whoever has read either reads it anew; ids of ports that
 /// stay are what they were.

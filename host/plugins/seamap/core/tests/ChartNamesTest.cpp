@@ -82,6 +82,17 @@ TEST(ChartNames, AChineseChartHasChinesePortNamesWhereThereAreSome) {
     EXPECT_THAT(PortTexts(names), ElementsAre("鹿特丹", "ZADAR"));
 }
 
+TEST(ChartNames, APortOfTheUsersOwnHasItsIdAndFindsRoomFirst) {
+    const NameTexts none = [](const char*, const char*) { return std::string(); };
+    Ports::Place berth = Port("Berth 7", "Berth 7");
+    berth.id = "1000040";
+    const auto names = NamesOfChart(none, {Port("Alkmaar", ""), Port("Amsterdam", "阿姆斯特丹"), berth});
+    EXPECT_THAT(PortTexts(names), ElementsAre("Berth 7", "Amsterdam", "Alkmaar"));
+    EXPECT_EQ(names[0].own, "1000040");
+    EXPECT_TRUE(names[0].isMajor);
+    EXPECT_EQ(names[1].own, "");
+}
+
 TEST(ChartNames, RoutePointsAndPlacesWithoutPositionOrNameAreLeftOut) {
     Ports::Place canal = Port("SUEZ CANAL", "");
     canal.isPort = false;
