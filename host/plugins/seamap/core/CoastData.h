@@ -39,6 +39,7 @@ class CoastData {
 
   private:
     std::vector<Level> levels_;
+    Level thinned_;  ///< the second level for a world that is whole in a window
 };
 
 }  // namespace Tarvik::Seamap

@@ -43,7 +43,7 @@ std::optional<Extent> Extent::Around(const std::vector<GeoPoint>& points) {
         return std::nullopt;
     }
     std::vector<double> lons;
-    Extent extent{0, 90, 0, -90};
+    Extent extent{0, Util::kMostLatitude, 0, -Util::kMostLatitude};
     for (const GeoPoint& point : points) {
         lons.push_back(Server::WrapLongitude(point.x));
         extent.south = std::min(extent.south, point.y);

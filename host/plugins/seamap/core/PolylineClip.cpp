@@ -2,10 +2,12 @@
 // What of lines and areas is seen in the window: lines cut at the widened window segment by segment (Liang
 // and Barsky 1984), areas side by side (Sutherland and Hodgman 1974). Points nearer than the detail to the
 // last one kept are left out on the way, the length of what was left out still counts, so that dashes and
-// marks stay where they are when the view moves. Cost: one pass over the points of a line, four over those of
-// an area.
+// marks stay where they are when the view moves. Lines are straightened with a cone from the last point kept
+// that each further point narrows (Sklansky and Gonzalez 1980). Cost: one pass over the points of a line,
+// four over those of an area.
 #include "host/plugins/seamap/core/PolylineClip.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <utility>
@@ -18,8 +20,12 @@ struct Box {
     double left, top, right, bottom;
 };
 
-double Distance(PixelPoint a, PixelPoint b) {
-    return std::sqrt((a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y));
+double SquaredDistance(PixelPoint a, PixelPoint b) {
+    return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y);
+}
+
+bool Holds(const Box& box, PixelPoint point) {
+    return point.x >= box.left && point.x <= box.right && point.y >= box.top && point.y <= box.bottom;
 }
 
 /// The part of the segment inside the box as shares of its length (the Liang and Barsky way); first > second:
@@ -78,14 +84,20 @@ std::vector<PolylineRun> ClipPolyline(std::span<const WorldPoint> points, const 
     }
     bool open = false;
     double length = 0;
-    PixelPoint last = view.ToScreen(points[0], turn);
+    const auto size = static_cast<double>(view.WorldSize());
+    const double left = static_cast<double>(view.Left()) - turn * size;
+    const auto top = static_cast<double>(view.Top());
+    PixelPoint last{points[0].x * size - left, points[0].y * size - top};
+    bool inside = Holds(box, last);
     for (std::size_t i = 1; i < points.size(); ++i) {
-        const PixelPoint here = view.ToScreen(points[i], turn);
-        const double step = Distance(last, here);
-        if (step < detail && i + 1 < points.size()) {
+        const PixelPoint here{points[i].x * size - left, points[i].y * size - top};
+        const double squared = SquaredDistance(last, here);
+        if (squared < detail * detail && i + 1 < points.size()) {
             continue;
         }
-        const auto [from, to] = InsideShares(last, here, box);
+        const double step = std::sqrt(squared);
+        const bool wasInside = std::exchange(inside, Holds(box, here));
+        const auto [from, to] = inside && wasInside ? std::pair(0.0, 1.0) : InsideShares(last, here, box);
         if (from <= to) {
             if (!open || from > 0) {
                 runs.push_back({{Between(last, here, from)}, length + step * from});
@@ -97,6 +109,36 @@ std::vector<PolylineRun> ClipPolyline(std::span<const WorldPoint> points, const 
         last = here;
     }
     return runs;
+}
+
+void Straighten(std::vector<PixelPoint>& line, double tolerance) {
+    const auto cross = [](PixelPoint a, PixelPoint b) { return a.x * b.y - a.y * b.x; };
+    std::size_t kept = 0;
+    PixelPoint left, right;  // between these directions the line from the last kept point may go on
+    double reach = 0;        // how far it has gone from there; it may not come back
+    for (std::size_t i = 1; i < line.size(); ++i) {
+        PixelPoint way{line[i].x - line[kept].x, line[i].y - line[kept].y};
+        double length = std::sqrt(way.x * way.x + way.y * way.y);
+        if (reach > 0 && (cross(right, way) < 0 || cross(way, left) < 0 || length + tolerance < reach)) {
+            line[++kept] = line[i - 1];
+            way = {line[i].x - line[kept].x, line[i].y - line[kept].y};
+            length = std::sqrt(way.x * way.x + way.y * way.y);
+            reach = 0;
+        }
+        if (length <= tolerance) {
+            continue;
+        }
+        const PixelPoint aside{-way.y / length * tolerance, way.x / length * tolerance};
+        const PixelPoint most{way.x + aside.x, way.y + aside.y};
+        const PixelPoint least{way.x - aside.x, way.y - aside.y};
+        left = reach == 0 || cross(most, left) > 0 ? most : left;
+        right = reach == 0 || cross(right, least) > 0 ? least : right;
+        reach = std::max(reach, length);
+    }
+    if (line.size() > 1) {
+        line[++kept] = line.back();
+        line.resize(kept + 1);
+    }
 }
 
 std::vector<CourseMark> CourseMarks(const PolylineRun& run, double spacing) {

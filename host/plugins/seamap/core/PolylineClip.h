@@ -14,6 +14,9 @@ struct PolylineRun {
     double start = 0;                ///< length of the line in pixels before the first point, for the dashes
 };
 
+/// Pixels around the window in which things are still drawn.
+inline constexpr double kDrawMargin = 32;
+
 /// Pixels between the points of a line that are told apart on the screen.
 inline constexpr double kLineDetail = 0.7;
 
@@ -22,6 +25,10 @@ inline constexpr double kLineDetail = 0.7;
 /// one kept are left out.
 std::vector<PolylineRun> ClipPolyline(std::span<const WorldPoint> points, const MercatorView& view, int turn,
                                       double margin, double detail);
+
+/// Leaves out the points of a line from which it would stray less than `tolerance` pixels without them. Its
+/// ends stay.
+void Straighten(std::vector<PixelPoint>& line, double tolerance);
 
 /// A place on a run where an arrow tells the way.
 struct CourseMark {

@@ -34,6 +34,31 @@ TEST(CoastData, PicksAFinerLevelForALargerWorld) {
     EXPECT_TRUE(CoastData().IsEmpty());
 }
 
+TEST(CoastData, AWorldThatIsWholeInAWindowHasAThinnedLevel) {
+    LandLevel fine;
+    LandShape west{{0, 0}}, east{{0, 0}};
+    for (int i = 1; i < 200; ++i) {
+        // The common side of two areas wanders by less than a pixel.
+        west.push_back({0.01F * static_cast<float>(i % 2), static_cast<float>(i) * 0.05F});
+        east.push_back(west.back());
+    }
+    west.push_back({-20, 10});
+    east.push_back({20, 10});
+    fine.cells = {west, east};
+    fine.coasts = {west};
+    const CoastData land({Square(1), fine});
+    const CoastData::Level& thin = land.For(1800);
+    ASSERT_EQ(thin.cells.size(), 2U);
+    EXPECT_LT(thin.cells[0].count, 130U);
+    EXPECT_LT(thin.coasts[0].count, 60U);
+    EXPECT_EQ(thin.cells[0].count, thin.cells[1].count) << "neighbours lose the same points";
+    for (std::uint32_t i = 0; i + 1 < thin.cells[0].count; ++i) {
+        EXPECT_EQ(thin.PointsOf(thin.cells[0])[i].x, thin.PointsOf(thin.cells[1])[i].x);
+        EXPECT_EQ(thin.PointsOf(thin.cells[0])[i].y, thin.PointsOf(thin.cells[1])[i].y);
+    }
+    EXPECT_EQ(land.For(4000).cells[0].count, west.size());
+}
+
 TEST(CoastData, DoesNotDrawTheCutsOfTheSourceAsShore) {
     LandLevel level;
     level.coasts = {{{170, 10}, {180, 12}, {180, 20}, {170, 22}}, {{-180, -90}, {180, -90}}};

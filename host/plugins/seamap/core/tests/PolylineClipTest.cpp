@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -68,6 +69,43 @@ TEST(ClipPolygon, KeepsWhatIsInside) {
     }
     EXPECT_TRUE(ClipPolygon({{200, 0}, {300, 0}, {300, 50}}, 100, 50, 10).empty());
     EXPECT_EQ(ClipPolygon({{10, 10}, {20, 10}, {20, 20}}, 100, 50, 10).size(), 3u);
+}
+
+TEST(Straighten, LeavesOutWhatTheEyeCannotSeeAndKeepsCornersAndEnds) {
+    std::vector<PixelPoint> line;
+    for (int i = 0; i <= 100; ++i) {
+        line.push_back({double(i), i % 2 == 0 ? 0.1 : -0.1});
+    }
+    for (int i = 1; i <= 50; ++i) {
+        line.push_back({100, double(i)});
+    }
+    Straighten(line, 0.3);
+    EXPECT_LE(line.size(), 5U);
+    EXPECT_EQ(line.front().x, 0);
+    EXPECT_EQ(line.back().y, 50);
+    EXPECT_TRUE(std::any_of(line.begin(), line.end(), [](PixelPoint p) {
+        return p.x >= 99 && std::fabs(p.y) < 2;
+    })) << "the corner";
+}
+
+TEST(Straighten, ACurveStraysNoFurtherThanAllowedAndALineThatTurnsBackIsKept) {
+    std::vector<PixelPoint> curve;
+    for (int i = 0; i <= 400; ++i) {
+        curve.push_back({50 * std::cos(i * 0.01), 50 * std::sin(i * 0.01)});
+    }
+    Straighten(curve, 0.3);
+    EXPECT_LT(curve.size(), 60U);
+    EXPECT_GT(curve.size(), 10U);
+    for (std::size_t i = 1; i < curve.size(); ++i) {
+        const double middle = std::hypot(curve[i].x + curve[i - 1].x, curve[i].y + curve[i - 1].y) / 2;
+        EXPECT_NEAR(middle, 50, 0.61);
+    }
+    std::vector<PixelPoint> back{{0, 0}, {10, 0}, {20, 0}, {5, 0}, {0, 0}};
+    Straighten(back, 0.3);
+    EXPECT_TRUE(std::any_of(back.begin(), back.end(), [](PixelPoint p) { return p.x == 20; }));
+    std::vector<PixelPoint> one{{3, 4}};
+    Straighten(one, 0.3);
+    EXPECT_EQ(one.size(), 1U);
 }
 
 TEST(CourseMarks, PointAlongTheWayAndStayAtTheirPlacesOfTheLine) {

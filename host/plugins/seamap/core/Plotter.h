@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "host/plugins/seamap/core/Projection.h"
+
+namespace Tarvik::Seamap {
+
+/// The pixels of a picture, row by row: 0xAARRGGBB, the colours multiplied by their alpha.
+struct PixelBoard {
+    std::uint32_t* pixels = nullptr;
+    std::ptrdiff_t stride = 0;  ///< pixels from one row to the next
+    int width = 0;
+    int height = 0;
+};
+
+/// Pixels of a board; right and bottom lie outside.
+struct PixelRect {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
+
+/// What a line is drawn with; lengths in pixels of the board.
+struct PlotPen {
+    std::uint32_t colour = 0xFF000000;  ///< as the board's pixels
+    double width = 1;
+    double dash = 0;  ///< without gap: a solid line
+    double gap = 0;
+};
+
+/// Draws many areas and thin lines into pixels. A general painter asks for each line what a plain one does
+/// not need, and takes several times as long.
+class Plotter {
+  public:
+    /// Draws on the part `clip` of a board, whose pixels outlive this.
+    Plotter(const PixelBoard& board, const PixelRect& clip);
+
+    /// Paints the pixels whose middles lie inside, by the odd number of sides beside them, with a colour
+    /// without alpha.
+    void Fill(std::span<const PixelPoint> area, std::uint32_t colour);
+    /// Draws a line with soft edges and without caps; `start` is the length of the line before its first
+    /// point, for the dashes.
+    void Stroke(std::span<const PixelPoint> line, const PlotPen& pen, double start = 0);
+
+  private:
+    void FillSide(PixelPoint from, PixelPoint to);
+    void Segment(PixelPoint from, PixelPoint to, const PlotPen& pen, double start);
+    /// What the line covers of the pixels across its longer direction: from `low` to `high` in 1/65536
+    /// pixels.
+    void Column(std::ptrdiff_t along, std::int64_t low, std::int64_t high, bool steep);
+    /// Paints a pixel of which the line covers so much of 65536.
+    void Blend(std::uint32_t& pixel, std::int64_t covered) const;
+    void Mix(std::uint32_t colour);
+
+    static constexpr std::size_t kShades = 64;
+
+    PixelBoard board_;
+    PixelRect clip_;
+    std::vector<std::uint64_t> crossings_;  ///< of the area being filled: row and column, to be sorted
+    std::array<std::uint32_t, kShades + 1> shades_{};  ///< of the pen, by the share of a pixel
+};
+
+}  // namespace Tarvik::Seamap
