@@ -6,6 +6,7 @@
 
 #include "host/plugins/seamap/core/Graticule.h"
 #include "host/plugins/seamap/core/PolylineClip.h"
+#include "host/plugins/seamap/widget/CanvasPixels.h"
 
 namespace Tarvik::Seamap {
 
@@ -17,6 +18,7 @@ constexpr double kCutMargin = 16;
 /// The net lies lightly over land and sea.
 constexpr int kGraticuleAlpha = 150;
 /// Pixels between points that are told apart.
+constexpr double kCoastDetail = 1;
 constexpr double kFillDetail = 0;  ///< leaving points out would tear open the seams between cells
 
 bool IsSeen(const CoastData::Shape& shape, const MercatorView& view, int turn, const QRect& clip) {
@@ -24,6 +26,12 @@ bool IsSeen(const CoastData::Shape& shape, const MercatorView& view, int turn, c
     const PixelPoint lower = view.ToScreen(WorldPoint{shape.maxX, shape.maxY}, turn);
     return lower.x >= clip.left() - 2 && upper.x <= clip.right() + 3 && lower.y >= clip.top() - 2 &&
            upper.y <= clip.bottom() + 3;
+}
+
+PixelRect PixelsOf(const QRect& rectangle, double scale) {
+    return {int(std::floor(rectangle.left() * scale)), int(std::floor(rectangle.top() * scale)),
+            int(std::ceil((rectangle.left() + rectangle.width()) * scale)),
+            int(std::ceil((rectangle.top() + rectangle.height()) * scale))};
 }
 
 bool ReachesFar(const CoastData::Shape& shape, const MercatorView& view, int turn) {
@@ -52,15 +60,23 @@ const QPixmap& BaseLayer::Picture(const MercatorView& view, const ChartPalette& 
                       picture_.devicePixelRatio() == pixelRatio && palette_ == &palette &&
                       view_.WorldSize() == view.WorldSize() && pixelRatio == std::floor(pixelRatio);
     if (!same) {
-        picture_ = QPixmap(size);
+        if (picture_.size() != size) {
+            picture_ = QPixmap(size);
+        }
         picture_.setDevicePixelRatio(pixelRatio);
     } else if (!Shift(view, missing)) {
         return picture_;
     }
     view_ = view;
     palette_ = &palette;
-    QPainter painter(&picture_);
-    Draw(painter, missing);
+    // The pixels are taken out of the picture and put back: nothing is copied, as nobody else has them.
+    QImage canvas = picture_.toImage();
+    picture_ = QPixmap();
+    if (canvas.format() != QImage::Format_ARGB32_Premultiplied) {
+        canvas.convertTo(QImage::Format_RGB32);
+    }
+    Draw(canvas, missing);
+    picture_ = QPixmap::fromImage(std::move(canvas));
     return picture_;
 }
 
@@ -87,31 +103,32 @@ bool BaseLayer::Shift(const MercatorView& view, QRegion& missing) {
     return true;
 }
 
-void BaseLayer::Draw(QPainter& painter, const QRegion& region) {
+void BaseLayer::Draw(QImage& canvas, const QRegion& region) {
+    scale_ = canvas.devicePixelRatio();
+    const PixelBoard board = BoardOf(canvas);
+    QPainter painter(&canvas);
     for (const QRect& rectangle : region) {
         clip_ = rectangle;
         painter.setClipRect(rectangle);
         painter.fillRect(rectangle, QColor(palette_->sea));
-        DrawLand(painter);
+        Plotter plotter(board, PixelsOf(rectangle, scale_));
+        DrawLand(plotter);
         if (graticule_) {
             DrawGraticule(painter, rectangle);
         }
     }
 }
 
-void BaseLayer::DrawLand(QPainter& painter) {
+void BaseLayer::DrawLand(Plotter& plotter) {
     if (land_.IsEmpty()) {
         return;
     }
     const CoastData::Level& level = land_.For(view_.WorldSize());
-    DrawCells(painter, level);
-    DrawCoasts(painter, level);
+    DrawCells(plotter, level);
+    DrawCoasts(plotter, level);
 }
 
-void BaseLayer::DrawCells(QPainter& painter, const CoastData::Level& level) {
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(palette_->land));
+void BaseLayer::DrawCells(Plotter& plotter, const CoastData::Level& level) {
     for (const CoastData::Shape& shape : level.cells) {
         const auto turns = view_.TurnsOf(shape.minX, shape.maxX);
         for (int turn = turns.first; turn <= turns.last; ++turn) {
@@ -120,17 +137,15 @@ void BaseLayer::DrawCells(QPainter& painter, const CoastData::Level& level) {
             }
             Trace(level.PointsOf(shape), turn, kFillDetail);
             if (ReachesFar(shape, view_, turn)) {
-                CutTrace();
+                trace_ = ClipPolygon(std::move(trace_), view_.Width(), view_.Height(), kCutMargin);
             }
-            painter.drawPolygon(trace_.data(), static_cast<int>(trace_.size()));
+            Enlarge();
+            plotter.Fill(trace_, OpaquePixel(palette_->land));
         }
     }
 }
 
-void BaseLayer::DrawCoasts(QPainter& painter, const CoastData::Level& level) {
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(palette_->coast), 0));
+void BaseLayer::DrawCoasts(Plotter& plotter, const CoastData::Level& level) {
     for (const CoastData::Shape& shape : level.coasts) {
         const auto turns = view_.TurnsOf(shape.minX, shape.maxX);
         for (int turn = turns.first; turn <= turns.last; ++turn) {
@@ -138,22 +153,21 @@ void BaseLayer::DrawCoasts(QPainter& painter, const CoastData::Level& level) {
                 continue;
             }
             if (ReachesFar(shape, view_, turn)) {
-                DrawLongCoast(painter, level.PointsOf(shape), turn);
+                DrawLongCoast(plotter, level.PointsOf(shape), turn);
                 continue;
             }
-            Trace(level.PointsOf(shape), turn, kLineDetail);
-            painter.drawPolyline(trace_.data(), static_cast<int>(trace_.size()));
+            Trace(level.PointsOf(shape), turn, kCoastDetail);
+            Enlarge();
+            plotter.Stroke(trace_, {OpaquePixel(palette_->coast)});
         }
     }
 }
 
-void BaseLayer::DrawLongCoast(QPainter& painter, std::span<const WorldPoint> points, int turn) {
-    for (const PolylineRun& run : ClipPolyline(points, view_, turn, kCutMargin, kLineDetail)) {
-        trace_.clear();
-        for (const PixelPoint& point : run.points) {
-            trace_.emplace_back(point.x, point.y);
-        }
-        painter.drawPolyline(trace_.data(), static_cast<int>(trace_.size()));
+void BaseLayer::DrawLongCoast(Plotter& plotter, std::span<const WorldPoint> points, int turn) {
+    for (PolylineRun& run : ClipPolyline(points, view_, turn, kCutMargin, kCoastDetail)) {
+        trace_ = std::move(run.points);
+        Enlarge();
+        plotter.Stroke(trace_, {OpaquePixel(palette_->coast)});
     }
 }
 
@@ -163,11 +177,11 @@ void BaseLayer::Trace(std::span<const WorldPoint> points, int turn, double detai
     const double left = static_cast<double>(view_.Left()) - turn * size;
     const auto top = static_cast<double>(view_.Top());
     const double least = detail * detail;
-    QPointF last;
+    PixelPoint last;
     for (const WorldPoint& point : points) {
-        const QPointF here(point.x * size - left, point.y * size - top);
-        const QPointF step = here - last;
-        if (!trace_.empty() && QPointF::dotProduct(step, step) < least && &point != &points.back()) {
+        const PixelPoint here{point.x * size - left, point.y * size - top};
+        const double x = here.x - last.x, y = here.y - last.y;
+        if (!trace_.empty() && x * x + y * y < least && &point != &points.back()) {
             continue;
         }
         trace_.push_back(here);
@@ -175,16 +189,11 @@ void BaseLayer::Trace(std::span<const WorldPoint> points, int turn, double detai
     }
 }
 
-void BaseLayer::CutTrace() {
-    std::vector<PixelPoint> points;
-    points.reserve(trace_.size());
-    for (const QPointF& point : trace_) {
-        points.push_back({point.x(), point.y()});
-    }
-    trace_.clear();
-    for (const PixelPoint& point :
-         ClipPolygon(std::move(points), view_.Width(), view_.Height(), kCutMargin)) {
-        trace_.emplace_back(point.x, point.y);
+void BaseLayer::Enlarge() {
+    if (scale_ != 1) {
+        for (PixelPoint& point : trace_) {
+            point = {point.x * scale_, point.y * scale_};
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QRegion>
 #include <span>
@@ -9,6 +10,7 @@
 #include "host/plugins/seamap/core/ChartPalette.h"
 #include "host/plugins/seamap/core/CoastData.h"
 #include "host/plugins/seamap/core/MercatorView.h"
+#include "host/plugins/seamap/core/Plotter.h"
 
 class QPainter;
 
@@ -25,15 +27,16 @@ class BaseLayer {
 
   private:
     bool Shift(const MercatorView& view, QRegion& missing);
-    void Draw(QPainter& painter, const QRegion& region);
-    void DrawLand(QPainter& painter);
-    void DrawCells(QPainter& painter, const CoastData::Level& level);
-    void DrawCoasts(QPainter& painter, const CoastData::Level& level);
+    void Draw(QImage& canvas, const QRegion& region);
+    void DrawLand(Plotter& plotter);
+    void DrawCells(Plotter& plotter, const CoastData::Level& level);
+    void DrawCoasts(Plotter& plotter, const CoastData::Level& level);
     /// A shore that reaches so far out of the window that it is cut first.
-    void DrawLongCoast(QPainter& painter, std::span<const WorldPoint> points, int turn);
+    void DrawLongCoast(Plotter& plotter, std::span<const WorldPoint> points, int turn);
     /// Brings points into the window's pixels, without those too near to their predecessor.
     void Trace(std::span<const WorldPoint> points, int turn, double detail);
-    void CutTrace();
+    /// Brings the traced points from the window's pixels to those of the picture.
+    void Enlarge();
     void DrawGraticule(QPainter& painter, const QRect& bounds) const;
 
     CoastData land_;
@@ -41,8 +44,9 @@ class BaseLayer {
     MercatorView view_;
     const ChartPalette* palette_ = nullptr;
     QPixmap picture_;
-    QRect clip_;                  ///< the strip being drawn
-    std::vector<QPointF> trace_;  ///< the shape being drawn, in pixels
+    QRect clip_;                     ///< the strip being drawn
+    double scale_ = 1;               ///< the picture's pixels for one of the window
+    std::vector<PixelPoint> trace_;  ///< the shape being drawn
 };
 
 }  // namespace Tarvik::Seamap

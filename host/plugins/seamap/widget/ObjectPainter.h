@@ -2,16 +2,14 @@
 #pragma once
 
 #include <QtGlobal>
-#include <vector>
 
 #include "host/plugins/seamap/core/ChartObjects.h"
 #include "host/plugins/seamap/core/ChartPalette.h"
 #include "host/plugins/seamap/core/LabelRoom.h"
 #include "host/plugins/seamap/core/MercatorView.h"
-#include "host/plugins/seamap/core/PolylineClip.h"
 
-class QColor;
 class QPainter;
+class QString;
 
 namespace Tarvik::Seamap {
 
@@ -26,25 +24,22 @@ struct ChartLook {
     qreal pixelRatio;
 };
 
-/// Draws the objects of the chart: lines below, then points and images, then the texts that find room. What
+/// Draws the objects of the chart above its lines: points and images, then the texts that find room. What
 /// they take is told to `room`.
 class ObjectPainter {
   public:
     ObjectPainter(QPainter& painter, const MercatorView& view, const ChartLook& look, LabelRoom& room)
         : painter_(painter), view_(view), look_(look), room_(room) {}
 
-    /// `highlighted` is the object under the pointer, null without one.
-    void Draw(const ChartObjects& objects, const ObjectKey* highlighted);
+    /// `highlighted` is the object under the pointer, null without one. With `planned` the ships of plans are
+    /// left out: they stand elsewhere.
+    void Draw(const ChartObjects& objects, const ObjectKey* highlighted, bool planned = false);
+
+    /// Draws a text in the painter's font on the first side of a round thing where it finds room; `always`
+    /// where none is free too, as long as it is whole in the window.
+    void DrawBeside(PixelPoint centre, double radius, const QString& text, bool always);
 
   private:
-    struct Stroke {
-        const ChartLine* line;
-        bool highlighted;
-        ChartObjects::Tone tone;
-    };
-    void DrawLines(const std::vector<Stroke>& lines);
-    void DrawLine(const Stroke& stroke, bool thin);
-    void DrawArrows(const PolylineRun& run, const QColor& colour);
     void DrawPoint(const ChartLabel& label, bool highlighted);
     void DrawImage(const ChartObjects& objects, const ChartImage& image, bool highlighted);
     void DrawText(const ChartLabel& label, bool always);

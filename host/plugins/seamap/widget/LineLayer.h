@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <cstdint>
+#include <vector>
+
+#include "host/plugins/seamap/core/ChartObjects.h"
+#include "host/plugins/seamap/core/ChartPalette.h"
+#include "host/plugins/seamap/core/MercatorView.h"
+
+class QPainter;
+
+namespace Tarvik::Seamap {
+
+struct LineStroke;
+
+/// The lines of the chart, kept as a picture while neither they nor the view change: ships that move and a
+/// pointer that wanders cost no stroke.
+class LineLayer {
+  public:
+    /// From so many lines on they are thin and bare, but for the voyage that stands out.
+    static constexpr std::size_t kMany = 50;
+
+    /// Draws all lines, that of the key `highlighted` above the others; null without one.
+    void Draw(QPainter& painter, const MercatorView& view, const ChartPalette& palette,
+              const ChartObjects& objects, const ObjectKey* highlighted);
+    /// How often the picture was made.
+    int Made() const { return made_; }
+
+  private:
+    bool IsGood(const MercatorView& view, const ChartPalette& palette, const ChartObjects& objects,
+                qreal pixelRatio) const;
+    void Make(const ChartObjects& objects, qreal pixelRatio);
+
+    QImage picture_;  ///< null without lines
+    MercatorView view_;
+    const ChartPalette* palette_ = nullptr;
+    std::uint64_t revision_ = 0;
+    qreal pixelRatio_ = 0;
+    int made_ = 0;
+};
+
+}  // namespace Tarvik::Seamap
