@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <tarvik/bus/ChartContract.h>
+#include <tarvik/bus/PlanContract.h>
 #include <tarvik/util/FileUtl.h>
 
 #include "seaplan/chart/ChartLines.h"
@@ -72,6 +73,12 @@ void DeleteObjectsOf(const std::string& vi, const char* type) {
     Interface::Call(Bus::MapDeleteObjects, &list);
 }
 
+/// The chart forgets when the plan has a voyage where; with an empty id those of all voyages.
+void ForgetPlan(const std::string& vi) {
+    const Interface::TrvMapPlan none{kLayer, vi, kShipType, {}, {}, {}};
+    Interface::Call(Bus::MapSetPlan, &none);
+}
+
 }  // namespace
 
 VoyageLayer::VoyageLayer() {
@@ -102,6 +109,7 @@ int VoyageLayer::ClearAllObjects() {
     ClearRouteObjects();
     ClearType(kShipType);
     ClearType(kBookLineType);
+    ForgetPlan({});
     return 0;
 }
 
@@ -113,6 +121,7 @@ int VoyageLayer::ClearVoyageObjects(const std::string& vi) {
         DeleteObjectsOf(vi, kBookLineType);
         DeleteObjectsOf(vi, kShipType);
     }
+    ForgetPlan(vi);
     return 0;
 }
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/controllers/ProgressDrawing.h"
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/controllers/PlanOnChart.h"
 
 namespace Tarvik::Seaplan {
 
@@ -42,7 +44,7 @@ Outcome<ProgressStep> ProgressDrawing::DrawPlanned(const VoyInfo& voyage) {
     }
     PlannedProgress progress;
     const int code = PlanProgress(voyage.portCalls, groups, Util::_datetime_t::now(), progress);
-    return code < 0 ? Outcome<ProgressStep>(ProgressStep::Reckoning, code) : Show(voyage.vi, progress);
+    return code < 0 ? Outcome<ProgressStep>(ProgressStep::Reckoning, code) : Show(voyage, progress);
 }
 
 Outcome<ProgressStep> ProgressDrawing::DrawCorrected(const VoyInfo& voyage) {
@@ -68,10 +70,11 @@ Outcome<ProgressStep> ProgressDrawing::DrawCorrected(const VoyInfo& voyage) {
     PlannedProgress progress;
     const int code =
         CorrectedProgress(voyage.portCalls, groups, *correction, Util::_datetime_t::now(), progress);
-    return code < 0 ? Outcome<ProgressStep>(ProgressStep::Reckoning, code) : Show(voyage.vi, progress);
+    return code < 0 ? Outcome<ProgressStep>(ProgressStep::Reckoning, code) : Show(voyage, progress);
 }
 
-Outcome<ProgressStep> ProgressDrawing::Show(const std::string& vi, const PlannedProgress& progress) {
+Outcome<ProgressStep> ProgressDrawing::Show(const VoyInfo& voyage, const PlannedProgress& progress) {
+    const std::string& vi = voyage.vi;
     if (vi.empty()) {
         return ProgressStep::Id;
     }
@@ -90,6 +93,8 @@ Outcome<ProgressStep> ProgressDrawing::Show(const std::string& vi, const Planned
         return ProgressStep::Ship;
     }
     shipPositions_[vi] = progress.current;
+    const Interface::TrvMapPlan plan = PlanOf(voyage, layer_.shipIcon.ref);
+    Interface::Call(Interface::Bus::MapSetPlan, &plan);
     PointTexts all = remaining;
     all.insert(all.end(), sailed.begin(), sailed.end());
     return layer_.SetExtent(all) < 0 ? ProgressStep::Extent : Outcome<ProgressStep>();

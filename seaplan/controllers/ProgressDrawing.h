@@ -65,7 +65,7 @@ class ProgressDrawing {
     std::string ShipPosition(const std::string& vi) const;
 
   private:
-    Outcome<ProgressStep> Show(const std::string& vi, const PlannedProgress& progress);
+    Outcome<ProgressStep> Show(const VoyInfo& voyage, const PlannedProgress& progress);
 
     VoyageLayer& layer_;
     std::map<std::string, std::string> shipPositions_;

@@ -67,6 +67,7 @@ TEST(BusContractTest, ServicesOfTheChart) {
     EXPECT_STREQ(Bus::MapDeleteObjects.name, "TRV_MAP_DEL_OBJECTS");
     EXPECT_STREQ(Bus::MapDeleteObjectsByType.name, "TRV_MAP_DEL_OBJECT_BY_TYPE");
     EXPECT_STREQ(Bus::MapStandOut.name, "TRV_MAP_STAND_OUT");
+    EXPECT_STREQ(Bus::MapSetPlan.name, "TRV_MAP_SET_PLAN");
     EXPECT_STREQ(Bus::MapGetExtent.name, "TRV_MAP_GET_EXTENT");
     EXPECT_STREQ(Bus::MapSetExtent.name, "TRV_MAP_SET_EXTENT");
     EXPECT_STREQ(Bus::MapGetPort.name, "TRV_MAP_GET_PORT");

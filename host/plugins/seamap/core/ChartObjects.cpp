@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "host/plugins/seamap/core/MercatorView.h"
+#include "host/plugins/seamap/core/PolylineClip.h"
 
 namespace Tarvik::Seamap {
 
@@ -22,6 +23,29 @@ void Measure(ChartLine& line) {
         line.minY = std::min(line.minY, point.y);
         line.maxY = std::max(line.maxY, point.y);
     }
+}
+
+/// Pixels by which a straightened line may leave its way.
+constexpr double kStray = 0.3;
+
+std::vector<WorldPoint> Straightened(const std::vector<WorldPoint>& points, double worldSize) {
+    std::vector<PixelPoint> line;
+    line.reserve(points.size());
+    for (const WorldPoint& point : points) {
+        line.push_back({point.x * worldSize, point.y * worldSize});
+    }
+    Straighten(line, kStray);
+    std::vector<WorldPoint> kept;
+    kept.reserve(line.size());
+    for (const PixelPoint& point : line) {
+        kept.push_back({point.x / worldSize, point.y / worldSize});
+    }
+    return kept;
+}
+
+/// Whether a line's id is that of a voyage, or that, "_" and a number.
+bool IsOf(const std::string& voyage, const std::string& id) {
+    return id.starts_with(voyage) && (id.size() == voyage.size() || id[voyage.size()] == '_');
 }
 
 std::vector<WorldPoint> Unwrapped(const std::vector<std::string>& texts) {
@@ -43,6 +67,15 @@ std::vector<WorldPoint> Unwrapped(const std::vector<std::string>& texts) {
 
 }  // namespace
 
+const std::vector<WorldPoint>& ChartLine::PointsFor(std::int64_t worldSize) const {
+    for (std::size_t level = 0; level < kStraightened.size(); ++level) {
+        if (worldSize <= kStraightened[level]) {
+            return straightened[level];
+        }
+    }
+    return points;
+}
+
 void ChartObjects::AddLayer(const Interface::TrvMapLayerParams& layer) {
     layers_[layer.layer] = layer;
 }
@@ -62,6 +95,10 @@ bool ChartObjects::AddLine(const Interface::TrvMapLineParams& line) {
     shape.colour = line.colour;
     shape.width = std::clamp(line.width, 1, kWidestLine);
     shape.dashed = line.style == "dashed";
+    for (std::size_t level = 0; level < ChartLine::kStraightened.size(); ++level) {
+        shape.straightened[level] =
+            Straightened(shape.points, static_cast<double>(ChartLine::kStraightened[level]));
+    }
     Measure(shape);
     Put(line.ref, std::move(shape));
     return true;
@@ -172,19 +209,15 @@ int ChartObjects::RemoveIf(const std::function<bool(const ObjectKey&)>& test) {
 
 void ChartObjects::StandOut(const std::string& id) {
     standsOut_ = id;
+    plans_.Choose(id);
     Changed();
-}
-
-bool ChartObjects::StandsOut(const ObjectKey& key) const {
-    return !standsOut_.empty() && key.id.starts_with(standsOut_) &&
-           (key.id.size() == standsOut_.size() || key.id[standsOut_.size()] == '_');
 }
 
 ChartObjects::Tone ChartObjects::ToneOf(const ObjectKey& key) const {
     if (standsOut_.empty()) {
         return Tone::Plain;
     }
-    if (StandsOut(key)) {
+    if (IsOf(standsOut_, key.id)) {
         return Tone::Loud;
     }
     // Objects are sorted by layer, type and id: those of the voyage follow its own name.
@@ -192,14 +225,15 @@ ChartObjects::Tone ChartObjects::ToneOf(const ObjectKey& key) const {
          at != places_.end() && at->first.layer == key.layer && at->first.type == key.type &&
          at->first.id.starts_with(standsOut_);
          ++at) {
-        if (StandsOut(at->first)) {
+        if (IsOf(standsOut_, at->first.id)) {
             return Tone::Quiet;
         }
     }
     return Tone::Plain;
 }
 
-void ChartObjects::Changed() const {
+void ChartObjects::Changed() {
+    ++revision_;
     if (observer_) {
         observer_();
     }

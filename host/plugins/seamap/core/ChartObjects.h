@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <compare>
 #include <cstdint>
 #include <functional>
@@ -13,6 +14,7 @@
 
 #include "host/plugins/seamap/core/ChartShips.h"
 #include "host/plugins/seamap/core/Projection.h"
+#include "host/plugins/seamap/core/VoyagePlans.h"
 
 namespace Tarvik::Seamap {
 
@@ -28,10 +30,16 @@ struct ObjectKey {
 /// where the line goes over the date line.
 struct ChartLine {
     std::vector<WorldPoint> points;
+    /// The same, straightened for worlds up to the sizes of kStraightened.
+    std::array<std::vector<WorldPoint>, 2> straightened;
     double minX = 0, maxX = 0, minY = 0, maxY = 0;
     std::int32_t colour = 0;  ///< 0x00BBGGRR
     int width = 3;            ///< pixels
     bool dashed = false;
+
+    static constexpr std::array<std::int64_t, 2> kStraightened{2600, 10400};
+    /// The points that are told apart in a world of so many pixels.
+    const std::vector<WorldPoint>& PointsFor(std::int64_t worldSize) const;
 };
 
 /// A point with its text.
@@ -92,9 +100,16 @@ class ChartObjects {
     enum class Tone { Plain, Quiet, Loud };
     Tone ToneOf(const ObjectKey& key) const;
 
+    /// Counts the changes of what is drawn, but for the ships: pictures of it are good while it stays.
+    std::uint64_t Revision() const { return revision_; }
+
     /// The ships, which are drawn below all objects.
     ChartShips& Ships() { return ships_; }
     const ChartShips& Ships() const { return ships_; }
+
+    /// The plans of the voyages among the objects.
+    VoyagePlans& Plans() { return plans_; }
+    const VoyagePlans& Plans() const { return plans_; }
 
     /// Called after each change, of ships too; an empty function ends it.
     void SetObserver(std::function<void()> observer) {
@@ -105,16 +120,17 @@ class ChartObjects {
   private:
     void Put(const Interface::TrvMapObjectRef& ref, std::variant<ChartLine, ChartLabel, ChartImage> shape);
     int RemoveIf(const std::function<bool(const ObjectKey&)>& test);
-    bool StandsOut(const ObjectKey& key) const;
-    void Changed() const;
+    void Changed();
 
     std::map<std::string, Interface::TrvMapLayerParams> layers_;
     std::map<std::string, std::string> images_;
     std::map<ObjectKey, std::uint64_t> places_;
     std::map<std::uint64_t, ChartObject> objects_;
     std::uint64_t next_ = 0;
+    std::uint64_t revision_ = 0;
     std::string standsOut_;
     ChartShips ships_;
+    VoyagePlans plans_;
     std::function<void()> observer_;
 };
 

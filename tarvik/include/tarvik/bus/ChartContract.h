@@ -77,8 +77,9 @@ inline constexpr Service<const std::string, const TrvMapPort> MapGetPort{"TRV_MA
 /// give it a parent, which then owns it; without one it goes with the chart plug-in.
 inline constexpr Service<None, QWidget> ChartWindow{"TRV_S_SEAMAP_WIDGET"};
 /// "zoomin", "zoomout", "fit" (all objects, the world without any), "goto" (a field for a position or a
-/// port), "theme light", "theme dark", "theme night", "show graticule", "hide graticule", and so each
-/// ChartPart. Answers the input, which stays the caller's, when it was understood, null otherwise.
+/// port), "timeslider" (opens or closes the bar with the time of the ships of voyages), "theme light", "theme
+/// dark", "theme night", "show graticule", "hide graticule", and so each ChartPart. Answers the input, which
+/// stays the caller's, when it was understood, null otherwise.
 inline constexpr Service<const std::string, const std::string> ChartCommand{"TRV_S_SEAMAP_COMMAND"};
 /// The pointer has moved over the chart.
 inline constexpr Event<const ChartPlace> ChartCursor{"TRV_E_SEAMAP_CURSOR"};

@@ -8,6 +8,7 @@
 #include <tarvik/bus/DragContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>
+#include <tarvik/bus/PlanContract.h>
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/interface/ChartRecords.h>

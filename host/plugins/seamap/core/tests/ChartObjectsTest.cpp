@@ -63,6 +63,34 @@ TEST(ChartObjects, ALineGoesTheShortWayOverTheDateLine) {
     EXPECT_LT(LineAt(objects, "2").points[1].x, LineAt(objects, "2").points[0].x);
 }
 
+TEST(ChartObjects, ALineIsStraightenedForSmallWorldsOnly) {
+    ChartObjects objects;
+    auto line = LineOf("1", {});
+    for (int i = 0; i <= 200; ++i) {
+        line.points.push_back(std::to_string(i * 0.1) + "," + (i == 100 ? "5" : "0"));
+    }
+    ASSERT_TRUE(objects.AddLine(line));
+    const ChartLine& kept = LineAt(objects, "1");
+    EXPECT_LT(kept.PointsFor(2000).size(), 12U);
+    EXPECT_GE(kept.PointsFor(2000).size(), 5U) << "ends, peak and its feet";
+    EXPECT_EQ(kept.PointsFor(1 << 20).size(), 201U);
+    EXPECT_EQ(kept.PointsFor(2000).front().x, kept.points.front().x);
+    EXPECT_NEAR(kept.PointsFor(2000).back().x, kept.points.back().x, 1e-12);
+}
+
+TEST(ChartObjects, TheRevisionCountsChangesButNotThoseOfShips) {
+    ChartObjects objects;
+    objects.AddLine(LineOf("1", {"0,0", "1,1"}));
+    const auto before = objects.Revision();
+    objects.Ships().Set({"AIS", {{"1", "", 3, 4}}});
+    EXPECT_EQ(objects.Revision(), before);
+    objects.StandOut("1");
+    EXPECT_GT(objects.Revision(), before);
+    const auto stood = objects.Revision();
+    objects.Remove({"L", "T", "1"});
+    EXPECT_GT(objects.Revision(), stood);
+}
+
 TEST(ChartObjects, PointsThatCannotBeReadAreLeftOut) {
     ChartObjects objects;
     EXPECT_TRUE(objects.AddLine(LineOf("1", {"0,0", "nonsense", "5", "10,0", "1,91"})));
