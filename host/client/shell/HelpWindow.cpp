@@ -25,10 +25,11 @@ constexpr KeyText kWindowKeys[] = {{"F1", "HELP"},
                                    {"Tab, Shift+Tab", "NEXT_CONTROL"},
                                    {"Esc", "CLOSE"},
                                    {"Ctrl+Q", "QUIT"}};
-constexpr KeyText kChartKeys[] = {{"Ctrl+G", "GO_TO"},           {"+, −", "ZOOM"},
-                                  {"← → ↑ ↓", "MOVE"},           {"Shift+← → ↑ ↓", "MOVE_FAR"},
-                                  {"Home", "SHOW_ALL"},          {"Menu", "PLACE_MENU"},
-                                  {"Backspace", "MEASURE_BACK"}, {"Esc", "MEASURE_END"}};
+constexpr KeyText kChartKeys[] = {
+    {"Ctrl+G", "GO_TO"},           {"+, −", "ZOOM"},       {"← → ↑ ↓", "MOVE"},
+    {"Shift+← → ↑ ↓", "MOVE_FAR"}, {"Home", "SHOW_ALL"},   {"Menu", "PLACE_MENU"},
+    {"Backspace", "MEASURE_BACK"}, {"Esc", "MEASURE_END"}, {"T", "TIME_SLIDER"},
+    {", .", "TIME_STEP"},          {"Space", "TIME_PLAY"}};
 /// The panels' own, told by their topics.
 constexpr KeyText kPanelKeys[] = {{"Insert", "ADD"},        {"F2", "RENAME"},   {"Delete", "DELETE"},
                                   {"Ctrl+F", "FIND"},       {"Ctrl+Z", "UNDO"}, {"Ctrl+S", "SAVE"},

@@ -4,14 +4,12 @@
 #include <QPainter>
 #include <QPolygonF>
 
-#include <tarvik/util/Clock.h>
-
 #include "host/plugins/seamap/core/Daylight.h"
 #include "host/plugins/seamap/core/HitTest.h"
 #include "host/plugins/seamap/core/Measure.h"
 #include "host/plugins/seamap/widget/ChartCamera.h"
 #include "host/plugins/seamap/widget/Furniture.h"
-#include "host/plugins/seamap/widget/ObjectPainter.h"
+#include "host/plugins/seamap/widget/PlanPainter.h"
 
 namespace Tarvik::Seamap {
 
@@ -45,7 +43,10 @@ void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelR
     shipPainter_.Draw(
         painter, objects_.Ships(), view,
         highlighted ? std::pair(highlighted->type, highlighted->id) : std::pair<std::string, std::string>());
-    ObjectPainter(painter, view, {*palette_, images_, texts_, pixelRatio}, room).Draw(objects_, highlighted);
+    lines_.Draw(painter, view, *palette_, objects_, highlighted);
+    const ChartLook look{*palette_, images_, texts_, pixelRatio};
+    ObjectPainter(painter, view, look, room).Draw(objects_, highlighted, planTime_.has_value());
+    PaintPlans(painter, view, look, room);
     furniture.Reserve(room);
     if (parts_.names) {
         names_.Draw(painter, view, *palette_, texts_, room);
@@ -55,12 +56,26 @@ void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelR
     furniture.Draw(painter);
 }
 
+/// The ports of the voyage that stands out, or of the only one, and the ships while a time is chosen.
+void ChartScene::PaintPlans(QPainter& painter, const MercatorView& view, const ChartLook& look,
+                            LabelRoom& room) {
+    const VoyagePlans& plans = objects_.Plans();
+    PlanPainter plan(painter, view, look, room);
+    if (planTime_) {
+        plan.DrawShips(plans, *planTime_);
+    }
+    if (const VoyagePlan* chosen = plans.Chosen()) {
+        plan.DrawPorts(*chosen);
+    }
+}
+
 void ChartScene::PaintNight(QPainter& painter, const MercatorView& view) const {
     if (!parts_.daylight) {
         return;
     }
     QPolygonF edge;
-    for (const PixelPoint& point : NightIn(view, SunAt(Util::Clock::Current().NowUtcCsecs()))) {
+    const std::int64_t now = CsecsOf(planTime_.value_or(PlanTimeNow()));
+    for (const PixelPoint& point : NightIn(view, SunAt(now))) {
         edge.append(QPointF(point.x, point.y));
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
@@ -70,6 +85,12 @@ void ChartScene::PaintNight(QPainter& painter, const MercatorView& view) const {
 }
 
 std::optional<ChartScene::Met> ChartScene::At(PixelPoint pixel, const MercatorView& view, qreal pixelRatio) {
+    if (planTime_) {
+        if (const auto ship = PlanPainter::ShipAt(objects_.Plans(), *planTime_, pixel, view)) {
+            const auto& told = ship->plan->told;
+            return Met{{told.layer, told.shipType, told.id}, PlanPainter::TipOf(*ship)};
+        }
+    }
     const auto halfSize = [this, pixelRatio](const std::string& name) {
         return images_.HalfSize(name, objects_.ImagePath(name), pixelRatio);
     };
@@ -91,7 +112,7 @@ const ChartName* ChartScene::PortAt(PixelPoint pixel, const MercatorView& view, 
     return met && !met->isLine ? nullptr : names_.PortAt(pixel);
 }
 
-QString ChartScene::TipOf(const ChartObject& object, PixelPoint pixel, const MercatorView& view) {
+QString ChartScene::TipOf(const ChartObject& object, PixelPoint pixel, const MercatorView& view) const {
     if (const auto* label = std::get_if<ChartLabel>(&object.shape)) {
         const QString place = QString::fromStdString(FormatPosition(label->position));
         return label->text.empty() ? place : QString::fromStdString(label->text) + "\n" + place;
@@ -100,14 +121,22 @@ QString ChartScene::TipOf(const ChartObject& object, PixelPoint pixel, const Mer
         return QString::fromStdString(FormatPosition(image->position));
     }
     if (const auto* line = std::get_if<ChartLine>(&object.shape)) {
-        const std::size_t to = LegNear(*line, pixel, view);
-        // As it is drawn: straight on this chart.
-        const MeasuredLeg leg =
-            MeasureLeg(Unproject(line->points[to - 1]), Unproject(line->points[to]), Track::RhumbLine);
-        return QString::fromStdString(FormatPosition(leg.from) + "\n" + FormatPosition(leg.to) + "\n" +
-                                      LegText(leg));
+        return TipOf(object, *line, LegNear(*line, pixel, view));
     }
     return {};
+}
+
+QString ChartScene::TipOf(const ChartObject& object, const ChartLine& line, std::size_t leg) const {
+    const WorldPoint from = line.points[leg - 1], to = line.points[leg];
+    if (const VoyagePlan* plan = objects_.Plans().Find(object.key.layer, object.key.id)) {
+        if (const auto planned = VoyagePlans::LegOf(*plan, from, to)) {
+            return PlanPainter::TipOf(*planned);
+        }
+    }
+    // As it is drawn: straight on this chart.
+    const MeasuredLeg measured = MeasureLeg(Unproject(from), Unproject(to), Track::RhumbLine);
+    return QString::fromStdString(FormatPosition(measured.from) + "\n" + FormatPosition(measured.to) + "\n" +
+                                  LegText(measured));
 }
 
 Extent ChartScene::ExtentOfAll() const {

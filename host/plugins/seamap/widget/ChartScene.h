@@ -11,7 +11,9 @@
 #include "host/plugins/seamap/widget/BaseLayer.h"
 #include "host/plugins/seamap/widget/HaloTexts.h"
 #include "host/plugins/seamap/widget/ImageStore.h"
+#include "host/plugins/seamap/widget/LineLayer.h"
 #include "host/plugins/seamap/widget/NameLayer.h"
+#include "host/plugins/seamap/widget/ObjectPainter.h"
 #include "host/plugins/seamap/widget/ShipPainter.h"
 
 namespace Tarvik::Seamap {
@@ -30,6 +32,9 @@ class ChartScene {
     void ShowParts(const ChartParts& parts);
     const ChartParts& Parts() const { return parts_; }
     void SetTheme(ChartPalette::Theme theme);
+    /// Shows the ships of plans where they are at this time, and the night of it; without one as they were
+    /// drawn, and the present night.
+    void SetPlanTime(std::optional<PlanTime> time) { planTime_ = time; }
     const ChartPalette& Palette() const { return *palette_; }
 
     /// `highlighted` is the object under the pointer, null without one.
@@ -50,16 +55,20 @@ class ChartScene {
 
   private:
     void PaintNight(QPainter& painter, const MercatorView& view) const;
-    static QString TipOf(const ChartObject& object, PixelPoint pixel, const MercatorView& view);
+    void PaintPlans(QPainter& painter, const MercatorView& view, const ChartLook& look, LabelRoom& room);
+    QString TipOf(const ChartObject& object, PixelPoint pixel, const MercatorView& view) const;
+    QString TipOf(const ChartObject& object, const ChartLine& line, std::size_t leg) const;
 
     const ChartObjects& objects_;
     const ChartPalette* palette_ = &ChartPalette::Of(ChartPalette::Theme::Light);
     ChartParts parts_;
     BaseLayer base_;
+    LineLayer lines_;
     ImageStore images_;
     HaloTexts texts_;
     NameLayer names_;
     ShipPainter shipPainter_;
+    std::optional<PlanTime> planTime_;
 };
 
 }  // namespace Tarvik::Seamap

@@ -13,6 +13,7 @@
 #include <tarvik/bus/DragContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>
+#include <tarvik/bus/PlanContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/core/TObject.h>
 #include <tarvik/interface/LoadString.h>
@@ -66,6 +67,8 @@ void ChartServices::OfferObjects() {
     }));
     bindings_.Keep(Offer(Bus::MapSetShips,
                          [this](const Interface::TrvMapShips& ships) { objects_.Ships().Set(ships); }));
+    bindings_.Keep(
+        Offer(Bus::MapSetPlan, [this](const Interface::TrvMapPlan& plan) { objects_.Plans().Set(plan); }));
     bindings_.Keep(Offer(Bus::MapDeleteObjects,
                          [this](const Interface::TrvMapObjectList& list) { objects_.Remove(list); }));
     bindings_.Keep(Offer(Bus::MapDeleteObjectsByType, [this](const Interface::TrvMapObjectRef& ref) {
@@ -213,11 +216,12 @@ bool ChartServices::TakePart(std::string_view name, bool shown) {
 }
 
 bool ChartServices::RunOnWindow(std::string_view command) {
-    const std::array<std::pair<std::string_view, std::function<void(ChartWidget&)>>, 4> known{
+    const std::array<std::pair<std::string_view, std::function<void(ChartWidget&)>>, 5> known{
         {{"fit", [](ChartWidget& chart) { chart.FitAll(); }},
          {"zoomin", [](ChartWidget& chart) { chart.ZoomSteps(1); }},
          {"zoomout", [](ChartWidget& chart) { chart.ZoomSteps(-1); }},
-         {"goto", [](ChartWidget& chart) { chart.Tools().OpenGoTo(); }}}};
+         {"goto", [](ChartWidget& chart) { chart.Tools().OpenGoTo(); }},
+         {"timeslider", [](ChartWidget& chart) { chart.Tools().ToggleTime(); }}}};
     for (const auto& [name, run] : known) {
         if (name == command) {
             if (widget_) {

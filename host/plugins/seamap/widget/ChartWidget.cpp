@@ -34,11 +34,16 @@ ChartWidget::ChartWidget(ChartObjects& objects, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setCursor(Qt::OpenHandCursor);
     objects_.SetObserver([this] { update(); });
+    objects_.Plans().SetObserver([this] {
+        tools_->TakePlans();
+        update();
+    });
     camera_.SetRoom([this] { return FreeOfPanels(); });
 }
 
 ChartWidget::~ChartWidget() {
     objects_.SetObserver({});
+    objects_.Plans().SetObserver({});
 }
 
 void ChartWidget::Change(const std::function<void(ChartScene&)>& change) {

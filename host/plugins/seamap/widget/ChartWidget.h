@@ -43,6 +43,7 @@ class ChartWidget : public QWidget {
     void ShowParts(const ChartParts& parts);
     const ChartParts& Parts() const { return scene_.Parts(); }
     ChartTools& Tools() { return *tools_; }
+    const VoyagePlans& Plans() const { return objects_.Plans(); }
 
     /// What is shown, or is about to be while a fit is animated. Before the widget has a size: what it will
     /// fit.
