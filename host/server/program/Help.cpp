@@ -23,10 +23,13 @@ commands:
                       --add puts them beside those that are there, --skip-bad leaves out, by name, the records
                       that cannot be kept
                       both take --data FOLDER, as of a client, instead of the settings' data
-  route A B [--via PASSAGE]... [--without PASSAGE]... [--open PASSAGE]... [--explain] [--format table|geojson]
+  route A B [--via PASSAGE]... [--without PASSAGE]... [--open PASSAGE]... [--draught M] [--beam M] [--length M]
+          [--explain] [--format table|geojson]
                       shows the way between two ports (code, name or id) by passages (name or id); --open opens
                       one that is shut unless asked for, --explain adds what was forbidden, how the ports are
-                      joined and what the ways by other passages cost
+                      joined and what the ways by other passages cost; a leg tells its miles inside emission
+                      control areas ("eca"); --draught, --beam and --length (metres) keep out of passages that are
+                      too small for the ship
   distances FILE.csv  measures the pairs of a table with the columns from_unlocode and to_unlocode; where it has
                       published distances in nm, and the routing in via, the errors' statistics follow
   --help              prints this

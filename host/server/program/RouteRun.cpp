@@ -30,11 +30,17 @@ bool RunRouteCommand(const std::vector<std::string>& words, const std::string& n
         }
     }
     const auto question = ReadRouteQuestion({words.begin() + 1, words.end()}, said);
-    const auto text = question ? RouteText(*network, *question, said) : std::nullopt;
-    if (text) {
-        said = *text;
+    if (!question) {
+        return false;
     }
-    return text.has_value();
+    try {
+        const auto text = RouteText(*network, RouteFiles::Beside(networkFile), *question, said);
+        said = text ? *text : said;
+        return text.has_value();
+    } catch (const std::runtime_error& error) {
+        said = error.what();
+        return false;
+    }
 }
 
 }  // namespace Tarvik::Server

@@ -21,8 +21,9 @@ double Nm(double km) {
 /// A question whose places are found.
 class RouteAnswer {
   public:
-    RouteAnswer(const SeaNetwork& network, const RouteQuestion& question)
+    RouteAnswer(const SeaNetwork& network, const RouteFiles& files, const RouteQuestion& question)
         : network_(network),
+          files_(files),
           engine_(std::shared_ptr<const SeaNetwork>(std::shared_ptr<void>(), &network)),
           places_(network),
           question_(question) {}
@@ -46,6 +47,9 @@ class RouteAnswer {
         for (const std::string& name : question_.open) {
             limits_.opened.push_back(places_.PassageId(name));
         }
+        if (!KeepOutOfSmallPassages(error)) {
+            return false;
+        }
         const RouteResult result = Plan(question_.via);
         error = result.message;
         if (result.error == kRouteOk) {
@@ -56,12 +60,18 @@ class RouteAnswer {
     std::string Table() const {
         std::string text;
         double sum = 0.0;
+        double inside = 0.0;
         for (const RouteLeg& leg : stop_.legs) {
             sum += leg.distanceKm;
-            text += fmt::format("{:8.1f} {:8.1f}  {} - {}\n", Nm(leg.distanceKm), Nm(sum), NameOf(leg.fromId),
-                                NameOf(leg.endId));
+            const double here = files_.areas ? files_.areas->NmInside(leg.points) : 0.0;
+            inside += here;
+            text +=
+                fmt::format("{:8.1f} {:8.1f}  {} - {}{}\n", Nm(leg.distanceKm), Nm(sum), NameOf(leg.fromId),
+                            NameOf(leg.endId), files_.areas ? fmt::format(" (eca {:.1f})", here) : "");
         }
-        return text + fmt::format("{:8.1f} nautical miles\n", Nm(stop_.distanceKm));
+        text += fmt::format("{:8.1f} nautical miles\n", Nm(stop_.distanceKm));
+        return files_.areas ? text + fmt::format("{:8.1f} of them in emission control areas\n", inside)
+                            : text;
     }
     std::string GeoJson() const {
         std::string text = R"({"type":"FeatureCollection","features":[)";
@@ -76,6 +86,10 @@ class RouteAnswer {
             text += fmt::format("{} is joined to the network over {:.1f} miles\n", NameOf(id), LinkNm(id));
         }
         text += "forbidden: " + Forbidden() + "\n";
+        text += tooSmall_.empty() ? "" : "too small for the ship: " + tooSmall_ + "\n";
+        text += files_.areas
+                    ? ""
+                    : "emission control areas: unknown, emission_areas.csv is not beside the network\n";
         std::map<double, std::string> others;
         for (const RouteAlternativeGroup& group : stop_.groups) {
             for (const std::string& other : group.alternatives) {
@@ -93,6 +107,24 @@ class RouteAnswer {
     }
 
   private:
+    /// Forbids what is too small for the ship; a file may name passages that this network has not.
+    bool KeepOutOfSmallPassages(std::string& error) {
+        if (!question_.ship.IsKnown()) {
+            return true;
+        }
+        if (!files_.limits) {
+            error = "the limits of passages are unknown: passage_limits.csv is not beside the network";
+            return false;
+        }
+        for (const PassageLimits::Refusal& refusal : files_.limits->RefusedTo(question_.ship)) {
+            const std::string id = places_.PassageId(refusal.passage);
+            if (!id.empty()) {
+                limits_.forbidden.push_back(id);
+                tooSmall_ += (tooSmall_.empty() ? "" : ", ") + refusal.passage + " (" + refusal.reason + ")";
+            }
+        }
+        return true;
+    }
     RouteResult Plan(const std::vector<std::string>& via) const {
         return engine_.Plan({{from_, {}, {}}, places_.StopBy(via, from_, to_)}, {}, limits_);
     }
@@ -133,18 +165,23 @@ class RouteAnswer {
         for (const GeoPoint p : leg.points) {
             points += fmt::format("{}[{:.5f},{:.5f}]", points.empty() ? "" : ",", p.x, p.y);
         }
-        return fmt::format(R"({{"type":"Feature","properties":{{"from":"{}","to":"{}","nm":{:.1f}}},)"
+        const std::string inside =
+            files_.areas ? fmt::format(R"(,"eca_nm":{:.1f})", files_.areas->NmInside(leg.points))
+                         : std::string();
+        return fmt::format(R"({{"type":"Feature","properties":{{"from":"{}","to":"{}","nm":{:.1f}{}}},)"
                            R"("geometry":{{"type":"LineString","coordinates":[{}]}}}})",
-                           NameOf(leg.fromId), NameOf(leg.endId), Nm(leg.distanceKm), points);
+                           NameOf(leg.fromId), NameOf(leg.endId), Nm(leg.distanceKm), inside, points);
     }
 
     const SeaNetwork& network_;
+    const RouteFiles& files_;
     RouteEngine engine_;
     Places places_;
     RouteQuestion question_;
     std::string from_;
     std::string to_;
     RouteLimits limits_;
+    std::string tooSmall_;  ///< the passages, with the reason
     PlannedStop stop_;
 };
 
@@ -165,6 +202,13 @@ std::optional<RouteQuestion> ReadRouteQuestion(const std::vector<std::string>& w
         }
         const std::string value = i + 1 < words.size() ? words[++i] : std::string();
         const bool format = word == "--format" && (value == "table" || value == "geojson");
+        auto* measure = word == "--draught"  ? &question.ship.draught
+                        : word == "--beam"   ? &question.ship.beam
+                        : word == "--length" ? &question.ship.length
+                                             : nullptr;
+        if (measure != nullptr && (*measure = ReadMetres(value))) {
+            continue;
+        }
         auto* list = word == "--via"       ? &question.via
                      : word == "--without" ? &question.without
                      : word == "--open"    ? &question.open
@@ -188,9 +232,9 @@ std::optional<RouteQuestion> ReadRouteQuestion(const std::vector<std::string>& w
     return question;
 }
 
-std::optional<std::string> RouteText(const SeaNetwork& network, const RouteQuestion& question,
-                                     std::string& error) {
-    RouteAnswer answer(network, question);
+std::optional<std::string> RouteText(const SeaNetwork& network, const RouteFiles& files,
+                                     const RouteQuestion& question, std::string& error) {
+    RouteAnswer answer(network, files, question);
     if (!answer.Find(error)) {
         return std::nullopt;
     }

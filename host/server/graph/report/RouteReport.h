@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/server/graph/RouteEngine.h"
+#include "host/server/graph/report/RouteFiles.h"
 
 namespace Tarvik::Server {
 
@@ -16,6 +17,7 @@ struct RouteQuestion {
     std::vector<std::string> via;
     std::vector<std::string> without;
     std::vector<std::string> open;  ///< passages that are shut unless asked for
+    ShipSize ship;                  ///< keeps out of passages that are too small for it
     bool explain = false;
     bool geojson = false;
 };
@@ -23,10 +25,11 @@ struct RouteQuestion {
 /// The words behind "route" as a question; nothing and a line in `error` when they are none.
 std::optional<RouteQuestion> ReadRouteQuestion(const std::vector<std::string>& words, std::string& error);
 
-/// The route as a table of its legs, or as GeoJSON with a line string a leg. With `explain` the table is
-/// followed by how far the ports lie from the network, what was forbidden, and the ways by other passages
-/// with the miles they add. Nothing and a line in `error` when a place is unknown or there is no way.
-std::optional<std::string> RouteText(const SeaNetwork& network, const RouteQuestion& question,
-                                     std::string& error);
+/// The route as a table of its legs, or as GeoJSON with a line string a leg; each leg tells its miles inside
+/// emission control areas where these are known. With `explain` the table is followed by how far the ports
+/// lie from the network, what was forbidden, and the ways by other passages with the miles they add. Nothing
+/// and a line in `error` when a place or the limits for a ship are unknown, or there is no way.
+std::optional<std::string> RouteText(const SeaNetwork& network, const RouteFiles& files,
+                                     const RouteQuestion& question, std::string& error);
 
 }  // namespace Tarvik::Server

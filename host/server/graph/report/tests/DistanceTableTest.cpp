@@ -15,7 +15,7 @@ using ::testing::IsEmpty;
 
 std::optional<std::string> Answer(const std::vector<std::string>& words, std::string& error) {
     const auto question = ReadRouteQuestion(words, error);
-    return question ? RouteText(*SmallNetwork(), *question, error) : std::nullopt;
+    return question ? RouteText(*SmallNetwork(), {}, *question, error) : std::nullopt;
 }
 
 TEST(StatedPassages, FindsThePassagesOfARemark) {
