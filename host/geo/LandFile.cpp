@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 
+#include <tarvik/util/FileKinds.h>
 #include <tarvik/util/Geodesy.h>
 
 #include "host/geo/ByteReader.h"
@@ -18,8 +19,8 @@ namespace {
 using Server::ByteReader;
 using Server::ByteWriter;
 
-constexpr std::string_view kMagic = "LANDV001";
-constexpr std::size_t kHeaderBytes = 16;
+constexpr std::string_view kMagic = Util::kLandKind.name;
+constexpr std::size_t kHeaderBytes = Util::kLandKind.headBytes;
 
 void Put(ByteWriter& w, const std::vector<LandFile::Cell>& cells) {
     w.Count(cells.size());

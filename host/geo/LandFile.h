@@ -42,6 +42,7 @@ struct LandFile {
 
     /// Reads a file; nothing and an error text when it is missing, foreign, cut or damaged.
     static std::optional<LandFile> Load(const std::string& path, std::string& error);
+    /// The same of a file's bytes.
     static std::optional<LandFile> Decode(const std::string& bytes, std::string& error);
 
     /// Writes a file; returns an error text, empty on success.

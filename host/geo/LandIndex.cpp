@@ -19,15 +19,17 @@ double Side(const CoastPiece& line, double px, double py) {
     return (line.x2 - line.x1) * (py - line.y1) - (line.y2 - line.y1) * (px - line.x1);
 }
 
-/// Distance in NM of a place from a piece, in the plane at the place.
-double Off(const CoastPiece& s, double px, double py, double shrink) {
+/// Square of the distance in NM of a place from a piece, in the plane at the place.
+double SquareOff(const CoastPiece& s, double px, double py, double shrink) {
     const double ux = (s.x2 - s.x1) * shrink;
     const double uy = s.y2 - s.y1;
     const double wx = (px - s.x1) * shrink;
     const double wy = py - s.y1;
     const double square = ux * ux + uy * uy;
     const double t = square == 0.0 ? 0.0 : std::clamp((ux * wx + uy * wy) / square, 0.0, 1.0);
-    return std::hypot(wx - t * ux, wy - t * uy) * kNmPerDegree;
+    const double dx = (wx - t * ux) * kNmPerDegree;
+    const double dy = (wy - t * uy) * kNmPerDegree;
+    return dx * dx + dy * dy;
 }
 
 }  // namespace
@@ -72,8 +74,8 @@ bool LandIndex::CellGrazes(int column, int row, const CoastPiece& s, double nm) 
             std::max(o.x1, o.x2) < std::min(s.x1, s.x2) - wide) {
             continue;
         }
-        if (Off(s, o.x1, o.y1, shrink) < nm || Off(o, s.x1, s.y1, shrink) < nm ||
-            Off(o, s.x2, s.y2, shrink) < nm) {
+        if (SquareOff(s, o.x1, o.y1, shrink) < nm * nm || SquareOff(o, s.x1, s.y1, shrink) < nm * nm ||
+            SquareOff(o, s.x2, s.y2, shrink) < nm * nm) {
             return true;
         }
     }
@@ -126,9 +128,12 @@ bool LandIndex::Grazes(GeoPoint a, GeoPoint b, double nm, double trimNm) const {
 }
 
 bool LandIndex::Blocks(GeoPoint a, GeoPoint b) const {
-    const std::vector<GeoPoint> points = GreatCircle(a, b);
-    for (std::size_t i = 1; i < points.size(); ++i) {
-        if (BlocksStraight(points[i - 1], points[i])) {
+    return Blocks(GreatCircle(a, b));
+}
+
+bool LandIndex::Blocks(const std::vector<GeoPoint>& way) const {
+    for (std::size_t i = 1; i < way.size(); ++i) {
+        if (BlocksStraight(way[i - 1], way[i])) {
             return true;
         }
     }

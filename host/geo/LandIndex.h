@@ -28,6 +28,8 @@ class LandIndex {
     /// True when the great circle from a to b, drawn in pieces of at most a degree, meets the coast or the
     /// edge of an area.
     bool Blocks(GeoPoint a, GeoPoint b) const;
+    /// The same of a way that is drawn.
+    bool Blocks(const std::vector<GeoPoint>& way) const;
 
     /// True when one straight piece in longitude and latitude meets one; longitudes may run past ±180.
     bool BlocksStraight(GeoPoint a, GeoPoint b) const;

@@ -6,10 +6,7 @@
 
 namespace Tarvik::Server {
 
-namespace {
-
-/// Where the piece a-b crosses the piece c-d, as a share of a-b.
-std::optional<double> Crossing(GeoPoint a, GeoPoint b, GeoPoint c, GeoPoint d) {
+std::optional<double> CrossingShare(GeoPoint a, GeoPoint b, GeoPoint c, GeoPoint d) {
     const double shift = 360.0 * std::round((a.x - c.x) / 360.0);
     c.x += shift;
     d.x += shift;
@@ -36,26 +33,6 @@ std::optional<double> Crossing(GeoPoint a, GeoPoint b, GeoPoint c, GeoPoint d) {
     return sideA / (sideA - sideB);
 }
 
-}  // namespace
-
-Bounds BoundsOf(const std::vector<GeoPoint>& line) {
-    Bounds bounds{line.front(), line.front()};
-    for (const GeoPoint p : line) {
-        bounds.low = {std::min(bounds.low.x, p.x), std::min(bounds.low.y, p.y)};
-        bounds.high = {std::max(bounds.high.x, p.x), std::max(bounds.high.y, p.y)};
-    }
-    return bounds;
-}
-
-bool MayMeet(const Bounds& a, const Bounds& b) {
-    if (a.low.y > b.high.y || a.high.y < b.low.y) {
-        return false;
-    }
-    // How far east b must be turned so that it does not end before a begins.
-    const double turns = std::ceil((a.low.x - b.high.x) / 360.0);
-    return b.low.x + 360.0 * turns <= a.high.x;
-}
-
 std::optional<GateCrossing> FirstCrossing(const std::vector<GeoPoint>& way,
                                           const std::vector<GeoPoint>& gate) {
     const auto [low, high] =
@@ -67,7 +44,7 @@ std::optional<GateCrossing> FirstCrossing(const std::vector<GeoPoint>& way,
         }
         std::optional<double> best;
         for (std::size_t g = 1; g < gate.size(); ++g) {
-            const std::optional<double> t = Crossing(way[i - 1], way[i], gate[g - 1], gate[g]);
+            const std::optional<double> t = CrossingShare(way[i - 1], way[i], gate[g - 1], gate[g]);
             if (t && (!best || *t < *best)) {
                 best = t;
             }

@@ -16,17 +16,8 @@ struct GateCrossing {
     GeoPoint at;
 };
 
-/// The smallest box in longitude and latitude that holds a line.
-struct Bounds {
-    GeoPoint low;
-    GeoPoint high;
-};
-
-/// `line` must not be empty.
-Bounds BoundsOf(const std::vector<GeoPoint>& line);
-
-/// False when lines with these bounds cannot meet, whatever full turns lie between their longitudes.
-bool MayMeet(const Bounds& a, const Bounds& b);
+/// Where the piece a-b crosses the piece c-d, as a share (0..1) of a-b; nothing when it does not.
+std::optional<double> CrossingShare(GeoPoint a, GeoPoint b, GeoPoint c, GeoPoint d);
 
 /// The first place where a way (straight pieces in longitude and latitude) crosses a gate line; nothing when
 /// it stays on one side. Longitudes of both may run past ±180.

@@ -26,9 +26,15 @@ struct Pass {
     const RoutePoint* point = nullptr;
 };
 
-std::vector<Pass> Passes(const std::vector<GeoPoint>& way, const NetworkData& data) {
+std::vector<Pass> Passes(const std::vector<GeoPoint>& way, const SeaNetwork& network) {
+    const NetworkData& data = network.data();
+    const GateMask near = network.CellsOfGates().Near(way);
     std::vector<Pass> found;
-    for (const RoutePoint& point : data.routePoints) {
+    for (std::size_t i = 0; i < data.routePoints.size(); ++i) {
+        if (!near[i]) {
+            continue;
+        }
+        const RoutePoint& point = data.routePoints[i];
         const GeoPoint here = data.nodes[point.node];
         const auto same = [here](GeoPoint p) {
             return p.y == here.y && std::remainder(p.x - here.x, 360.0) == 0.0;
@@ -57,14 +63,25 @@ RouteLeg Finished(std::string from, std::string end, std::vector<GeoPoint> point
 
 }  // namespace
 
+PathShape::Run PathShape::RunOf(std::vector<GeoPoint> points) {
+    Run run{std::move(points), {}};
+    run.vectors.reserve(run.points.size());
+    for (const GeoPoint p : run.points) {
+        run.vectors.push_back(ToVector(p));
+    }
+    return run;
+}
+
 bool PathShape::IsOpen(GeoPoint a, GeoPoint b, const GateMask& forbidden) const {
     const SightLine& line = SightLineOf(network_, a, b);
     return line.clear && (line.crossed & forbidden).none();
 }
 
-std::size_t PathShape::BetterTurn(const std::vector<GeoPoint>& run, std::size_t before, std::size_t turn,
-                                  std::size_t behind, const GateMask& forbidden) const {
-    const auto by = [&](std::size_t i) { return ArcNm(run[before], run[i]) + ArcNm(run[i], run[behind]); };
+std::size_t PathShape::BetterTurn(const Run& run, std::size_t before, std::size_t turn, std::size_t behind,
+                                  const GateMask& forbidden) const {
+    const auto by = [&](std::size_t i) {
+        return ArcNm(run.vectors[before], run.vectors[i]) + ArcNm(run.vectors[i], run.vectors[behind]);
+    };
     const double present = by(turn) - kWorthNm;
     std::vector<std::pair<double, std::size_t>> shorter;
     for (std::size_t i = before + 1; i < behind; ++i) {
@@ -76,28 +93,31 @@ std::size_t PathShape::BetterTurn(const std::vector<GeoPoint>& run, std::size_t 
     std::sort(shorter.begin(), shorter.end());
     for (std::size_t k = 0; k < shorter.size() && k < kTurnsTried; ++k) {
         const std::size_t i = shorter[k].second;
-        const bool first = i == before + 1 || IsOpen(run[before], run[i], forbidden);
-        if (first && (i + 1 == behind || IsOpen(run[i], run[behind], forbidden))) {
+        const bool first = i == before + 1 || IsOpen(run.points[before], run.points[i], forbidden);
+        if (first && (i + 1 == behind || IsOpen(run.points[i], run.points[behind], forbidden))) {
             return i;
         }
     }
     return turn;
 }
 
-void PathShape::AppendTaut(std::vector<GeoPoint> run, const GateMask& forbidden,
+void PathShape::AppendTaut(std::vector<GeoPoint> places, const GateMask& forbidden,
                            std::vector<GeoPoint>& out) const {
     // What is left out depends on the end to begin at: it is the same one whichever way the ship goes.
-    const bool turned = std::tie(run.back().x, run.back().y) < std::tie(run.front().x, run.front().y);
+    const bool turned =
+        std::tie(places.back().x, places.back().y) < std::tie(places.front().x, places.front().y);
     if (turned) {
-        std::reverse(run.begin(), run.end());
+        std::reverse(places.begin(), places.end());
     }
+    const Run run = RunOf(std::move(places));
+    const std::vector<GeoPoint>& points = run.points;
     std::vector<std::size_t> kept{0};
     std::size_t at = 0;
-    while (at + 1 < run.size()) {
+    while (at + 1 < points.size()) {
         std::size_t next = at + 1;
         std::size_t hidden = 0;
-        for (std::size_t j = at + 2; j < run.size() && hidden < kPatience; ++j) {
-            if (IsOpen(run[at], run[j], forbidden)) {
+        for (std::size_t j = at + 2; j < points.size() && hidden < kPatience; ++j) {
+            if (IsOpen(points[at], points[j], forbidden)) {
                 next = j;
                 hidden = 0;
             } else {
@@ -114,7 +134,7 @@ void PathShape::AppendTaut(std::vector<GeoPoint> run, const GateMask& forbidden,
         std::reverse(kept.begin(), kept.end());
     }
     std::transform(kept.begin() + 1, kept.end(), std::back_inserter(out),
-                   [&run](std::size_t i) { return run[i]; });
+                   [&points](std::size_t i) { return points[i]; });
 }
 
 std::vector<GeoPoint> PathShape::Taut(const NodePath& path, const GateMask& forbidden,
@@ -175,7 +195,7 @@ std::vector<RouteLeg> PathShape::Split(const std::vector<GeoPoint>& way, const s
             points.push_back(p);
         }
     };
-    for (const Pass& pass : Passes(way, network_.data())) {
+    for (const Pass& pass : Passes(way, network_)) {
         if (pass.point->id == fromId || pass.point->id == endId) {
             continue;
         }

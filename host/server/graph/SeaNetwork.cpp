@@ -30,8 +30,6 @@ LandIndex LandOf(const NetworkData& data) {
 /// Pacific and the Indian Ocean along 46 to 52.
 constexpr GeoPoint kSouthLimits[] = {{-180, -52}, {-100, -52}, {-82, -57}, {-78, -60}, {-50, -60}, {-45, -52},
                                      {15, -48},   {25, -46},   {140, -47}, {160, -52}, {180, -52}};
-/// Great circles between places on the limit bend a little beyond it.
-constexpr double kSouthSlack = 0.35;
 
 }  // namespace
 
@@ -56,7 +54,7 @@ std::shared_ptr<const SeaNetwork> SeaNetwork::Load(const std::string& path, std:
 
 SeaNetwork::SeaNetwork(NetworkData data)
     : number_(NextNumber()), data_(std::move(data)), land_(LandOf(data_)), basins_(data_) {
-    gates_.bounds = GateBounds(data_.routePoints);
+    gates_.cells = GateCells(data_.routePoints, data_.nodes);
     BuildArcs();
     vectors_.reserve(data_.nodes.size());
     for (const GeoPoint p : data_.nodes) {
@@ -208,35 +206,7 @@ std::optional<std::uint16_t> SeaNetwork::RoutePointIndex(const std::string& id) 
 }
 
 GateMask SeaNetwork::GatesCrossed(GeoPoint a, GeoPoint b) const {
-    return Server::GatesCrossed(GreatCircle(a, b), data_.routePoints, gates_.bounds);
-}
-
-std::vector<Bounds> GateBounds(const std::vector<RoutePoint>& routePoints) {
-    std::vector<Bounds> bounds;
-    bounds.reserve(routePoints.size());
-    for (const RoutePoint& point : routePoints) {
-        bounds.push_back(BoundsOf(point.gate));
-    }
-    return bounds;
-}
-
-GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints,
-                      const std::vector<Bounds>& gateBounds) {
-    GateMask mask;
-    const Bounds bounds = BoundsOf(way);
-    for (std::size_t i = 0; i < routePoints.size(); ++i) {
-        mask[i] = MayMeet(bounds, gateBounds[i]) && FirstCrossing(way, routePoints[i].gate).has_value();
-    }
-    for (const GeoPoint p : way) {
-        if (p.y > kNorthLimit || p.y < SouthLimit(p.x) - kSouthSlack) {
-            mask[kIceBit] = true;
-        }
-    }
-    return mask;
-}
-
-GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints) {
-    return GatesCrossed(way, routePoints, GateBounds(routePoints));
+    return Server::GatesCrossed(GreatCircle(a, b), data_.routePoints, gates_.cells);
 }
 
 }  // namespace Tarvik::Server

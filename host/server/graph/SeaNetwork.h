@@ -10,7 +10,7 @@
 #include "host/geo/LandIndex.h"
 #include "host/geo/Sphere.h"
 #include "host/server/graph/Basins.h"
-#include "host/server/graph/Gate.h"
+#include "host/server/graph/GateCells.h"
 #include "host/server/graph/Landmarks.h"
 #include "host/server/graph/NetworkData.h"
 
@@ -72,6 +72,8 @@ class SeaNetwork {
     void OpenIce(GateMask& forbidden) const;
     /// The gates that a straight great-circle way crosses, the ice bit included.
     GateMask GatesCrossed(GeoPoint a, GeoPoint b) const;
+    /// The route points by cells of the globe.
+    const GateCells& CellsOfGates() const { return gates_.cells; }
 
   private:
     /// A port or route point.
@@ -81,7 +83,7 @@ class SeaNetwork {
     };
     /// Of the route points, in their order.
     struct Gates {
-        std::vector<Server::Bounds> bounds;
+        GateCells cells;
         GateMask shut;
         GateMask costly;
     };
@@ -107,16 +109,5 @@ class SeaNetwork {
     std::unordered_map<std::string, std::uint16_t> routePointById_;
     Gates gates_;
 };
-
-/// The bounds of every point's gate.
-std::vector<Bounds> GateBounds(const std::vector<RoutePoint>& routePoints);
-
-///@{
-/// The gates that a drawn way crosses, and the ice bit where it leaves the latitudes open to all.
-/// `gateBounds` spares reckoning them for each way.
-GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints);
-GateMask GatesCrossed(const std::vector<GeoPoint>& way, const std::vector<RoutePoint>& routePoints,
-                      const std::vector<Bounds>& gateBounds);
-///@}
 
 }  // namespace Tarvik::Server

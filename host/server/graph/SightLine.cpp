@@ -31,11 +31,12 @@ std::size_t PlaceOf(GeoPoint a, GeoPoint b) {
 
 SightLine Reckon(const SeaNetwork& network, GeoPoint a, GeoPoint b) {
     const LandIndex& land = network.Land();
-    if (land.Blocks(a, b) ||
+    const std::vector<GeoPoint> way = GreatCircle(a, b);
+    if (land.Blocks(way) ||
         (ArcNm(a, b) > kFreeHandNm && land.Grazes(a, b, kOffCoastNm, LandIndex::kApproachNm))) {
         return {};
     }
-    return {true, network.GatesCrossed(a, b)};
+    return {true, GatesCrossed(way, network.data().routePoints, network.CellsOfGates())};
 }
 
 }  // namespace

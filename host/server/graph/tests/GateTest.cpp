@@ -25,13 +25,5 @@ TEST(Gate, IsFoundWhateverTurnTheLongitudesAreIn) {
     EXPECT_TRUE(FirstCrossing({{-182, 1}, {-178, 1}}, {{180, 0}, {180, 5}}));
 }
 
-TEST(Gate, BoundsThatMayMeetAreComparedModuloATurn) {
-    const Bounds a = BoundsOf({{178, 0}, {190, 2}});
-    EXPECT_TRUE(MayMeet(a, BoundsOf({{-175, 1}, {-171, 3}})));
-    EXPECT_TRUE(MayMeet(BoundsOf({{-175, 1}, {-171, 3}}), a));
-    EXPECT_FALSE(MayMeet(a, BoundsOf({{-169, 1}, {-160, 3}})));
-    EXPECT_FALSE(MayMeet(a, BoundsOf({{-175, 3}, {-171, 4}})));
-}
-
 }  // namespace
 }  // namespace Tarvik::Server
