@@ -113,6 +113,9 @@ def run(test, cases, options, debugger):
 
 
 def main(arguments):
+    if arguments[:1] in (["--help"], ["-h"]):
+        print(__doc__.strip())
+        return 0
     names, options, debugger = arguments, [], []
     if names[:1] == ["--gdb"]:
         names = arguments = names[1:]
