@@ -4,7 +4,9 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QSlider>
+#include <QStyle>
 #include <QToolButton>
 #include <algorithm>
 
@@ -36,9 +38,17 @@ QToolButton* Button(QWidget* parent, const char* name, const char* sign) {
 
 }  // namespace
 
+void PressedSlider::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        setValue(
+            QStyle::sliderValueFromPosition(minimum(), maximum(), qRound(event->position().x()), width()));
+    }
+    QSlider::mousePressEvent(event);
+}
+
 TimeBar::TimeBar(QWidget* chart)
     : QFrame(chart),
-      slider_(new QSlider(Qt::Horizontal, this)),
+      slider_(new PressedSlider(Qt::Horizontal, this)),
       back_(Button(this, "timeBack", "‹")),
       play_(Button(this, "timePlay", "▶")),
       on_(Button(this, "timeOn", "›")),

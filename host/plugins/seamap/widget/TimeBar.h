@@ -3,16 +3,28 @@
 
 #include <QBasicTimer>
 #include <QFrame>
+#include <QSlider>
 #include <optional>
 
 #include "host/plugins/seamap/core/ChartPalette.h"
 #include "host/plugins/seamap/core/VoyagePlans.h"
 
 class QLabel;
-class QSlider;
 class QToolButton;
 
 namespace Tarvik::Seamap {
+
+/// A slider whose handle comes at once to where it is pressed, and is dragged on from there; the window
+/// system's own goes a page towards it.
+class PressedSlider final : public QSlider {
+    Q_OBJECT
+
+  public:
+    using QSlider::QSlider;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+};
 
 /// The bar at the chart's lower edge with which a person chooses the time for which the chart shows the ships
 /// of its voyages, between their first departure and last arrival.

@@ -191,5 +191,14 @@ TEST_F(TimeBarTest, ThePortsOfTheOnlyOrChosenVoyageAreNumbered) {
     EXPECT_FALSE(Differs(numbered, chart_->grab().toImage(), At({0, 0})));
 }
 
+TEST_F(TimeBarTest, APressOnTheSliderGoesThereAtOnce) {
+    Tell();
+    Key(Qt::Key_T);
+    QTest::mouseClick(&Slider(), Qt::LeftButton, {}, {Slider().width() * 3 / 4, Slider().height() / 2});
+    EXPECT_NEAR(static_cast<double>(Bar().Time().value_or(0) - kDeparture), 15.0 * kHour, 0.5 * kHour);
+    QTest::mouseClick(&Slider(), Qt::LeftButton, {}, {Slider().width() / 4, Slider().height() / 2});
+    EXPECT_NEAR(static_cast<double>(Bar().Time().value_or(0) - kDeparture), 5.0 * kHour, 0.5 * kHour);
+}
+
 }  // namespace
 }  // namespace Tarvik::Seamap
