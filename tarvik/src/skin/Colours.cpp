@@ -47,6 +47,13 @@ constexpr Row kRows[] = {
     {Role::ChartOutline, "chartOutline", {0xFFFFFF, 0x0E1A25, 0x0A0202}},
 };
 
+/// In the order of kThemes. Neighbours differ in blue against yellow and in brightness, which eyes that mix
+/// up red and green tell apart.
+constexpr std::array<std::array<std::uint32_t, kTints>, kThemes.size()> kTintRows{
+    {{0x0B5CAD, 0xB23C00, 0x00694A, 0x86278A, 0x7A5200, 0x3F35A8, 0xA8004A, 0x005F73},
+     {0x6CB2FF, 0xFF9A66, 0x4FD6A5, 0xE08CE6, 0xE8C04A, 0xA89DFF, 0xFF7FA8, 0x55CFE0},
+     {0xFF6A50, 0xB04438, 0xFFB080, 0xC85030, 0xE88868, 0xB04A20, 0xFFD0B0, 0xD86A58}}};
+
 constexpr std::array<std::string_view, kThemes.size()> kThemeNames{"light", "dark", "night"};
 
 constexpr bool RowsStandInTheOrderOfTheRoles() {
@@ -63,6 +70,10 @@ static_assert(RowsStandInTheOrderOfTheRoles());
 
 std::uint32_t ColourOf(Role role, Theme theme) {
     return kRows[static_cast<std::size_t>(role)].colours[static_cast<std::size_t>(theme)];
+}
+
+std::uint32_t TintOf(std::size_t number, Theme theme) {
+    return kTintRows[static_cast<std::size_t>(theme)][number % kTints];
 }
 
 std::optional<Role> RoleNamed(std::string_view name) {

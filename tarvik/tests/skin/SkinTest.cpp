@@ -5,6 +5,7 @@
 #include <QTemporaryFile>
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 #include <gtest/gtest.h>
 
@@ -68,6 +69,18 @@ TEST_P(EveryTheme, SignsStandOutFromTheirGround) {
     for (const Role sign : {Role::Plan, Role::Underway, Role::Finished, Role::Warning}) {
         for (const Role ground : {Role::Panel, Role::Selection}) {
             EXPECT_GE(Contrast(Colour(sign), Colour(ground)), 3.0);
+        }
+    }
+}
+
+TEST_P(EveryTheme, ColoursOfASeriesStandOutFromTheChartAndFromEachOther) {
+    std::set<std::uint32_t> seen;
+    for (std::size_t i = 0; i < kTints; ++i) {
+        const std::uint32_t tint = TintOf(i, GetParam());
+        EXPECT_TRUE(seen.insert(tint).second) << i;
+        EXPECT_EQ(TintOf(i + kTints, GetParam()), tint) << "they come again";
+        for (const Role ground : {Role::Sea, Role::Land}) {
+            EXPECT_GE(Contrast(QColor(tint), Colour(ground)), 3.0) << i;
         }
     }
 }

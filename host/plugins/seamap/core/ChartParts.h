@@ -12,6 +12,7 @@ struct ChartParts {
     bool graticule = true;  ///< the net of meridians and parallels with its names
     bool names = true;      ///< of waters and ports
     bool daylight = false;  ///< the shadow of the night
+    bool tints = false;     ///< each voyage in a colour of its own, with a legend
 
     bool operator==(const ChartParts&) const = default;
 };
@@ -21,9 +22,9 @@ struct ChartPartName {
     std::string_view name;
     bool ChartParts::*part;
 };
-inline constexpr std::array kChartPartNames{ChartPartName{"graticule", &ChartParts::graticule},
-                                            ChartPartName{"names", &ChartParts::names},
-                                            ChartPartName{"daylight", &ChartParts::daylight}};
+inline constexpr std::array kChartPartNames{
+    ChartPartName{"graticule", &ChartParts::graticule}, ChartPartName{"names", &ChartParts::names},
+    ChartPartName{"daylight", &ChartParts::daylight}, ChartPartName{"voyage_colours", &ChartParts::tints}};
 
 /// The part of a name; empty for an unknown one.
 constexpr std::optional<ChartPartName> FindChartPart(std::string_view name) {

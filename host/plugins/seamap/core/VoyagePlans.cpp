@@ -82,6 +82,7 @@ std::string PlanTimeText(PlanTime time) {
 
 void VoyagePlans::Set(const Interface::TrvMapPlan& plan) {
     Take(plan);
+    ++revision_;
     if (observer_) {
         observer_();
     }
@@ -96,7 +97,7 @@ void VoyagePlans::Take(const Interface::TrvMapPlan& plan) {
         plans_.erase(plan.id);
         return;
     }
-    VoyagePlan kept{plan, {}};
+    VoyagePlan kept{plan, {}, TintFor(plan.id)};
     for (const Interface::TrvMapPlanPlace& place : plan.places) {
         WorldPoint point = Project({place.x, place.y});
         if (!kept.way.empty()) {
@@ -105,6 +106,21 @@ void VoyagePlans::Take(const Interface::TrvMapPlan& plan) {
         kept.way.push_back(point);
     }
     plans_[plan.id] = std::move(kept);
+}
+
+std::size_t VoyagePlans::TintFor(const std::string& id) const {
+    if (const auto known = plans_.find(id); known != plans_.end()) {
+        return known->second.tint;
+    }
+    std::size_t tint = 0;
+    const auto isTaken = [this, &tint] {
+        return std::any_of(plans_.begin(), plans_.end(),
+                           [tint](const auto& other) { return other.second.tint == tint; });
+    };
+    while (isTaken()) {
+        ++tint;
+    }
+    return tint;
 }
 
 const VoyagePlan* VoyagePlans::Find(const std::string& layer, const std::string& id) const {

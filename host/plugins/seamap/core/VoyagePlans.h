@@ -28,6 +28,7 @@ std::string PlanTimeText(PlanTime time);
 struct VoyagePlan {
     Interface::TrvMapPlan told;
     std::vector<WorldPoint> way;
+    std::size_t tint = 0;  ///< which colour of the series it has while every voyage has its own
 };
 
 /// Where the plan has a ship at a time.
@@ -54,6 +55,8 @@ class VoyagePlans {
     bool IsEmpty() const { return plans_.empty(); }
     /// Called after each change; an empty function ends it.
     void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
+    /// Counts the changes of the plans.
+    std::uint64_t Revision() const { return revision_; }
     /// All plans, by the ids of their voyages.
     const std::map<std::string, VoyagePlan>& All() const { return plans_; }
     /// The plan whose voyage a line or a ship of a layer belongs to, null without one.
@@ -79,8 +82,11 @@ class VoyagePlans {
 
   private:
     void Take(const Interface::TrvMapPlan& plan);
+    /// The colour that a voyage has, or the first that no other one has.
+    std::size_t TintFor(const std::string& id) const;
 
     std::map<std::string, VoyagePlan> plans_;
+    std::uint64_t revision_ = 0;
     std::string chosen_;
     std::function<void()> observer_;
 };

@@ -25,6 +25,7 @@ void ChartScene::ShowParts(const ChartParts& parts) {
     if (parts.graticule != parts_.graticule) {
         base_.ShowGraticule(parts.graticule);
     }
+    lines_.ShowTints(parts.tints);
     parts_ = parts;
 }
 
@@ -62,7 +63,7 @@ void ChartScene::PaintPlans(QPainter& painter, const MercatorView& view, const C
     const VoyagePlans& plans = objects_.Plans();
     PlanPainter plan(painter, view, look, room);
     if (planTime_) {
-        plan.DrawShips(plans, *planTime_);
+        plan.DrawShips(plans, *planTime_, parts_.tints);
     }
     if (const VoyagePlan* chosen = plans.Chosen()) {
         plan.DrawPorts(*chosen);

@@ -16,6 +16,7 @@
 #include "host/plugins/seamap/widget/GoToBar.h"
 #include "host/plugins/seamap/widget/MeasureCard.h"
 #include "host/plugins/seamap/widget/TimeBar.h"
+#include "host/plugins/seamap/widget/VoyageLegend.h"
 
 namespace Tarvik::Seamap {
 
@@ -42,13 +43,15 @@ ChartTools::ChartTools(ChartWidget& chart)
       card_(new MeasureCard(&chart)),
       goTo_(new GoToBar(&chart, [this](const std::string& typed,
                                        std::size_t limit) { return finder_->Find(typed, limit); })),
-      time_(new TimeBar(&chart)) {
+      time_(new TimeBar(&chart)),
+      legend_(new VoyageLegend(&chart)) {
     connect(card_, &MeasureCard::Chosen, this, [this](Track track, double knots) {
         measure_.track = track;
         measure_.knots = knots;
         Refresh();
     });
     connect(goTo_, &GoToBar::Chosen, this, &ChartTools::GoTo);
+    connect(legend_, &VoyageLegend::Chosen, &chart, &ChartWidget::ObjectClicked);
     connect(time_, &TimeBar::Changed, this,
             [this] { chart_.Change([this](ChartScene& scene) { scene.SetPlanTime(time_->Time()); }); });
 }
@@ -60,12 +63,15 @@ void ChartTools::SetNames(const std::vector<ChartName>& names) {
     finder_ = std::make_unique<PortFinder>(names);
     card_->ApplyTexts();
     time_->ApplyTexts();
+    TakeParts();
 }
 
 void ChartTools::ApplyTheme() {
     card_->ApplyTheme(chart_.Palette());
     goTo_->ApplyTheme(chart_.Palette());
     time_->ApplyTheme(chart_.Palette());
+    legend_->ApplyTheme(chart_.Palette());
+    TakeParts();
 }
 
 void ChartTools::OpenMenu(GeoPoint place, QPoint at) {
@@ -185,6 +191,15 @@ void ChartTools::ToggleTime() {
 
 void ChartTools::TakePlans() {
     time_->TakePlans(chart_.Plans());
+    TakeParts();
+}
+
+void ChartTools::TakeParts() {
+    if (chart_.Parts().tints) {
+        legend_->Show(chart_.Plans(), chart_.Palette());
+    } else {
+        legend_->hide();
+    }
 }
 
 bool ChartTools::TakeTimeKey(int key) {
@@ -237,6 +252,7 @@ void ChartTools::Place() {
     card_->ShowMeasure(measure_);
     goTo_->Place();
     time_->Place();
+    legend_->Place();
 }
 
 void ChartTools::Refresh() {

@@ -20,6 +20,7 @@ class ChartWidget;
 class GoToBar;
 class MeasureCard;
 class TimeBar;
+class VoyageLegend;
 
 /// What a person does on the chart beside looking at it: its menu, measuring, going to a place, and showing
 /// or hiding its parts.
@@ -45,6 +46,8 @@ class ChartTools : public QObject {
     void ToggleTime();
     /// The plans of voyages may have changed.
     void TakePlans();
+    /// The parts of the chart may have changed.
+    void TakeParts();
 
     /// A click on the chart; true when the measuring tool has taken it.
     bool TakeClick(GeoPoint place);
@@ -75,6 +78,7 @@ class ChartTools : public QObject {
     MeasureCard* card_;
     GoToBar* goTo_;
     TimeBar* time_;
+    VoyageLegend* legend_;
 };
 
 }  // namespace Tarvik::Seamap

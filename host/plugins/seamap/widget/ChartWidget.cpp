@@ -58,6 +58,7 @@ void ChartWidget::SetNames(const std::vector<ChartName>& names) {
 
 void ChartWidget::ShowParts(const ChartParts& parts) {
     Change([&parts](ChartScene& scene) { scene.ShowParts(parts); });
+    tools_->TakeParts();
     nightfall_.stop();
     if (parts.daylight) {
         nightfall_.start(kNightfallMs, this);

@@ -8,14 +8,26 @@
 
 namespace Tarvik::Seamap {
 
-namespace {
+void LineLayer::ShowTints(bool shown) {
+    tints_ = shown;
+}
+
+LineStroke LineLayer::StrokeOf(const ChartObjects& objects, const ChartObject& object,
+                               const ChartLine& line) const {
+    LineStroke stroke{&line, objects.ToneOf(object.key)};
+    const VoyagePlan* plan = tints_ ? objects.Plans().Find(object.key.layer, object.key.id) : nullptr;
+    if (plan != nullptr) {
+        stroke.tint = Skin::TintOf(plan->tint, palette_->theme);
+    }
+    return stroke;
+}
 
 /// All lines as they lie above one another: quiet ones below, the voyage that stands out above all.
-std::vector<LineStroke> StrokesOf(const ChartObjects& objects) {
+std::vector<LineStroke> LineLayer::StrokesOf(const ChartObjects& objects) const {
     std::vector<LineStroke> strokes;
     for (const auto& [place, object] : objects.InOrder()) {
         if (const auto* line = std::get_if<ChartLine>(&object.shape)) {
-            strokes.push_back({line, objects.ToneOf(object.key)});
+            strokes.push_back(StrokeOf(objects, object, *line));
         }
     }
     const auto rank = [](const LineStroke& stroke) {
@@ -28,8 +40,6 @@ std::vector<LineStroke> StrokesOf(const ChartObjects& objects) {
     return strokes;
 }
 
-}  // namespace
-
 void LineLayer::Draw(QPainter& painter, const MercatorView& view, const ChartPalette& palette,
                      const ChartObjects& objects, const ObjectKey* highlighted) {
     const qreal pixelRatio = painter.device()->devicePixelRatioF();
@@ -37,7 +47,9 @@ void LineLayer::Draw(QPainter& painter, const MercatorView& view, const ChartPal
         view_ = view;
         palette_ = &palette;
         revision_ = objects.Revision();
+        plans_ = objects.Plans().Revision();
         pixelRatio_ = pixelRatio;
+        madeWithTints_ = tints_;
         Make(objects, pixelRatio);
     }
     if (!picture_.isNull()) {
@@ -45,14 +57,17 @@ void LineLayer::Draw(QPainter& painter, const MercatorView& view, const ChartPal
     }
     const ChartObject* pointedAt = highlighted ? objects.Find(*highlighted) : nullptr;
     if (const auto* line = pointedAt ? std::get_if<ChartLine>(&pointedAt->shape) : nullptr) {
-        LinePainter(view, palette).Draw(painter, {line, objects.ToneOf(*highlighted), true});
+        LineStroke stroke = StrokeOf(objects, *pointedAt, *line);
+        stroke.highlighted = true;
+        LinePainter(view, palette).Draw(painter, stroke);
     }
 }
 
 bool LineLayer::IsGood(const MercatorView& view, const ChartPalette& palette, const ChartObjects& objects,
                        qreal pixelRatio) const {
     return made_ > 0 && view_ == view && palette_ == &palette && revision_ == objects.Revision() &&
-           pixelRatio_ == pixelRatio;
+           pixelRatio_ == pixelRatio && madeWithTints_ == tints_ &&
+           (!tints_ || plans_ == objects.Plans().Revision());
 }
 
 void LineLayer::Make(const ChartObjects& objects, qreal pixelRatio) {

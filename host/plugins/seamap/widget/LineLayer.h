@@ -25,6 +25,8 @@ class LineLayer {
     /// Draws all lines, that of the key `highlighted` above the others; null without one.
     void Draw(QPainter& painter, const MercatorView& view, const ChartPalette& palette,
               const ChartObjects& objects, const ObjectKey* highlighted);
+    /// Whether each voyage has a colour of its own.
+    void ShowTints(bool shown);
     /// How often the picture was made.
     int Made() const { return made_; }
 
@@ -32,11 +34,16 @@ class LineLayer {
     bool IsGood(const MercatorView& view, const ChartPalette& palette, const ChartObjects& objects,
                 qreal pixelRatio) const;
     void Make(const ChartObjects& objects, qreal pixelRatio);
+    LineStroke StrokeOf(const ChartObjects& objects, const ChartObject& object, const ChartLine& line) const;
+    std::vector<LineStroke> StrokesOf(const ChartObjects& objects) const;
 
     QImage picture_;  ///< null without lines
     MercatorView view_;
     const ChartPalette* palette_ = nullptr;
     std::uint64_t revision_ = 0;
+    std::uint64_t plans_ = 0;  ///< revision of the plans, which give the lines their colours
+    bool tints_ = false;
+    bool madeWithTints_ = false;
     qreal pixelRatio_ = 0;
     int made_ = 0;
 };

@@ -13,11 +13,12 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr double kManyDetail = 1.5;    ///< pixels between points where there are many lines
-constexpr double kThin = 1.66;         ///< width of a thin line that is wider where there are few
-constexpr double kArrowSpacing = 140;  ///< pixels between the arrows of a line
-constexpr double kDash = 6, kGap = 4;  ///< pixels
-constexpr int kRim = 140, kQuietRim = 50, kQuietAlpha = 110;  ///< of 255
+constexpr double kManyDetail = 1.5;        ///< pixels between points where there are many lines
+constexpr double kThin = 1.66;             ///< width of a thin line that is wider where there are few
+constexpr double kArrowSpacing = 140;      ///< pixels between the arrows of a line
+constexpr double kDash = 6, kGap = 4;      ///< pixels
+constexpr int kRim = 140, kQuietRim = 50;  ///< of 255
+constexpr int kQuietAlpha = 110, kTintAlpha = 180;  ///< of 255; fainter colours would not be told apart
 
 bool IsQuiet(const LineStroke& stroke) {
     return stroke.tone == ChartObjects::Tone::Quiet && !stroke.highlighted;
@@ -39,9 +40,9 @@ QPolygonF PolygonOf(const PolylineRun& run) {
 }  // namespace
 
 QColor LinePainter::ColourOf(const LineStroke& stroke) const {
-    QColor colour(palette_.ObjectColour(stroke.line->colour));
+    QColor colour(stroke.tint.value_or(palette_.ObjectColour(stroke.line->colour)));
     if (IsQuiet(stroke)) {
-        colour.setAlpha(kQuietAlpha);
+        colour.setAlpha(stroke.tint ? kTintAlpha : kQuietAlpha);
     }
     return colour;
 }

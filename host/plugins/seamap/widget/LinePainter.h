@@ -3,6 +3,8 @@
 
 #include <QPen>
 #include <QtGlobal>
+#include <cstdint>
+#include <optional>
 
 #include "host/plugins/seamap/core/ChartObjects.h"
 #include "host/plugins/seamap/core/ChartPalette.h"
@@ -19,6 +21,7 @@ struct LineStroke {
     const ChartLine* line = nullptr;
     ChartObjects::Tone tone = ChartObjects::Tone::Plain;
     bool highlighted = false;
+    std::optional<std::uint32_t> tint = std::nullopt;  ///< 0x00RRGGBB, in place of the line's own colour
 };
 
 /// Draws the lines of a view: each with a rim and arrows that tell its way, or, where they are many, as bare

@@ -86,7 +86,7 @@ void PlanPainter::DrawText(PixelPoint at, double radius, const QString& text) {
     ObjectPainter(painter_, view_, look_, room_).DrawBeside(at, radius, text, false);
 }
 
-void PlanPainter::DrawShips(const VoyagePlans& plans, PlanTime time) {
+void PlanPainter::DrawShips(const VoyagePlans& plans, PlanTime time, bool tints) {
     static const QPolygonF kHull({{0, -kShipReach}, {5, -2}, {5, 7}, {-5, 7}, {-5, -2}});
     painter_.save();
     painter_.setRenderHint(QPainter::Antialiasing, true);
@@ -100,7 +100,8 @@ void PlanPainter::DrawShips(const VoyagePlans& plans, PlanTime time) {
         }
         room_.Take({at.x - kShipReach, at.y - kShipReach, 2 * kShipReach, 2 * kShipReach});
         painter_.setPen(QPen(QColor(look_.palette.halo), 1.5));
-        painter_.setBrush(QColor(look_.palette.text));
+        painter_.setBrush(
+            QColor(tints ? Skin::TintOf(ship.plan->tint, look_.palette.theme) : look_.palette.text));
         painter_.save();
         painter_.translate(at.x, at.y);
         painter_.rotate(ship.course);

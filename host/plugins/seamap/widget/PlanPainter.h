@@ -21,7 +21,8 @@ class PlanPainter {
         : painter_(painter), view_(view), look_(look), room_(room) {}
 
     void DrawPorts(const VoyagePlan& plan);
-    void DrawShips(const VoyagePlans& plans, PlanTime time);
+    /// With `tints` each ship in the colour of its voyage.
+    void DrawShips(const VoyagePlans& plans, PlanTime time, bool tints);
 
     /// The ship under a pixel at a time; nothing without one.
     static std::optional<PlannedShip> ShipAt(const VoyagePlans& plans, PlanTime time, PixelPoint pixel,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -60,6 +61,12 @@ enum class Role {
 TARVIK_API std::uint32_t ColourOf(Role role, Theme theme);
 /// The role of a name as style sheets write it behind "@": "captionText"; empty for an unknown one.
 TARVIK_API std::optional<Role> RoleNamed(std::string_view name);
+
+/// How many colours a series has before they come again.
+inline constexpr std::size_t kTints = 8;
+/// A colour of a series, 0x00RRGGBB: it stands out from sea and land of the theme's chart, and from the
+/// others by hue and brightness, by night by brightness alone.
+TARVIK_API std::uint32_t TintOf(std::size_t number, Theme theme);
 
 /// "light", "dark" or "night".
 TARVIK_API std::string_view ThemeName(Theme theme);

@@ -118,5 +118,21 @@ TEST(PlanTimeText, IsReadInTheZoneOfPlanTimes) {
     EXPECT_EQ(PlanTimeText(1709272800), "2024-03-01 14:00");
 }
 
+TEST_F(VoyagePlansTest, AVoyageKeepsItsColourAndANewOneTakesTheFirstThatIsFree) {
+    for (const char* id : {"7", "3", "9"}) {
+        plans_.Set(PlanAt(id));
+    }
+    const auto tint = [this](const char* id) { return plans_.All().at(id).tint; };
+    EXPECT_EQ(std::vector({tint("7"), tint("3"), tint("9")}), (std::vector<std::size_t>{0, 1, 2}));
+    const std::uint64_t before = plans_.Revision();
+    plans_.Set(PlanAt("3", 5));
+    EXPECT_EQ(tint("3"), 1U) << "planned anew";
+    EXPECT_GT(plans_.Revision(), before);
+    plans_.Set({"VOYAGE", "7", "SHIP", "", "", {}});
+    plans_.Set(PlanAt("4"));
+    EXPECT_EQ(tint("4"), 0U) << "the colour of the one that has gone";
+    EXPECT_EQ(tint("9"), 2U);
+}
+
 }  // namespace
 }  // namespace Tarvik::Seamap

@@ -22,7 +22,7 @@ class LineLayerTest : public ::testing::Test {
         line.ref = {"VOYAGE", id, "BOOK"};
         line.points = {"-30," + std::to_string(lat), "30," + std::to_string(lat)};
         line.colour = 0x0000FF;
-        line.width = 2;
+        line.width = 4;
         objects_.AddLine(line);
     }
     QImage Draw(const ObjectKey* highlighted = nullptr) {
@@ -41,6 +41,20 @@ class LineLayerTest : public ::testing::Test {
             most = std::max(most, qRed(pixel) - qGreen(pixel));
         }
         return most;
+    }
+    /// Tells the plan of a voyage, which gives its line a colour of its own.
+    void AddPlan(const std::string& id) {
+        objects_.Plans().Set(
+            {"VOYAGE", id, "SHIP", id, "", {{-30, 5, 0, 0, "", true}, {30, 5, 9, 9, "", true}}});
+    }
+    /// The darkest pixel of the line at a latitude, clear of arrows.
+    QRgb ColourAt(const QImage& picture, double lat) const {
+        const int y = qRound(view_.ToScreen(GeoPoint{0, lat}).y);
+        QRgb darkest = picture.pixel(113, y);
+        for (const int row : {y - 1, y + 1}) {
+            darkest = qGray(picture.pixel(113, row)) < qGray(darkest) ? picture.pixel(113, row) : darkest;
+        }
+        return darkest & 0xFFFFFF;
     }
     ChartObjects objects_;
     MercatorView view_;
@@ -92,6 +106,26 @@ TEST_F(LineLayerTest, FollowsThePixelsOfTheScreen) {
     painter.end();
     const int y = qRound(2 * view_.ToScreen(GeoPoint{0, 5}).y);
     EXPECT_GT(qRed(picture.pixel(226, y)) - qGreen(picture.pixel(226, y)), 230);
+}
+
+TEST_F(LineLayerTest, EachVoyageHasItsColourOnRequest) {
+    AddLine("1", 5);
+    AddLine("2_0", -5);
+    AddPlan("1");
+    AddPlan("2");
+    const QImage plain = Draw();
+    EXPECT_EQ(ColourAt(plain, 5), ColourAt(plain, -5));
+    layer_.ShowTints(true);
+    const QImage tinted = Draw();
+    EXPECT_EQ(ColourAt(tinted, 5), Skin::TintOf(0, Skin::Theme::Light));
+    EXPECT_EQ(ColourAt(tinted, -5), Skin::TintOf(1, Skin::Theme::Light)) << "a part of the voyage's line";
+    const int made = layer_.Made();
+    Draw();
+    EXPECT_EQ(layer_.Made(), made);
+    objects_.Plans().Set({"VOYAGE", "1", "", "", "", {}});
+    EXPECT_EQ(ColourAt(Draw(), 5), ColourAt(plain, 5)) << "a line without a plan keeps its own colour";
+    layer_.ShowTints(false);
+    EXPECT_EQ(Draw(), plain);
 }
 
 }  // namespace
