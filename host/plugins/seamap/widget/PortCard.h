@@ -16,6 +16,9 @@ class QPushButton;
 
 namespace Tarvik::Seamap {
 
+/// Pixels between a card over the chart and the chart's edge.
+inline constexpr int kCardToEdge = 12;
+
 /// The sheet of a card on the chart, by its object name, in the chart's colours. One look for all cards, so
 /// that none is told apart from another.
 inline QString CardSheet(const QString& name, const ChartPalette& palette) {

@@ -19,7 +19,6 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr int kToEdge = 12;           ///< pixels to the chart's edges
 constexpr int kBesideScaleBar = 196;  ///< where the bar begins when the chart is wide enough
 constexpr int kLeastWidth = 420;
 constexpr int kAboveScaleBar = 56;
@@ -177,12 +176,12 @@ void TimeBar::ShowTime() {
 
 void TimeBar::Place() {
     const int width = parentWidget()->width();
-    const bool wide = width - kBesideScaleBar - kToEdge >= kLeastWidth;
-    const int left = wide ? kBesideScaleBar : kToEdge;
-    setFixedWidth(std::max(width - left - kToEdge, 0));
+    const bool wide = width - kBesideScaleBar - kCardToEdge >= kLeastWidth;
+    const int left = wide ? kBesideScaleBar : kCardToEdge;
+    setFixedWidth(std::max(width - left - kCardToEdge, 0));
     layout()->activate();
     adjustSize();
-    move(left, parentWidget()->height() - height() - (wide ? kToEdge : kAboveScaleBar));
+    move(left, parentWidget()->height() - height() - (wide ? kCardToEdge : kAboveScaleBar));
 }
 
 void TimeBar::ApplyTheme(const ChartPalette& palette) {

@@ -13,8 +13,7 @@ namespace Tarvik::Seamap {
 
 namespace {
 
-constexpr int kToEdge = 12;  ///< pixels to the chart's right edge
-constexpr int kBelow = 64;   ///< pixels from the chart's lower edge, where the time bar stands
+constexpr int kBelow = 64;  ///< pixels from the chart's lower edge, where the time bar stands
 
 QString Hex(std::uint32_t colour) {
     return QColor(colour).name();
@@ -89,7 +88,7 @@ void VoyageLegend::Choose(const QString& link) {
 
 void VoyageLegend::Place() {
     adjustSize();
-    move(std::max(0, parentWidget()->width() - width() - kToEdge),
+    move(std::max(0, parentWidget()->width() - width() - kCardToEdge),
          std::max(0, parentWidget()->height() - height() - kBelow));
 }
 
