@@ -39,6 +39,7 @@ PanelCommands::PanelCommands(PortCallDesk& desk, CellEditing& editing, Corrected
       corrected_(corrected),
       filling_(filling),
       calculation_(desk, filling),
+      ways_(desk),
       questions_(desk, editing) {
     desk_.SetFollower([this] { questions_.Follow(); });
 }
@@ -75,6 +76,18 @@ void PanelCommands::OnRouteAnew() {
         desk_.History().Take({TextIds::IDS_VIEW_EDITANEW});
     } else if (taken.At() != AnewStep::Left) {
         TellInStatusLine(Text(TextIds::IDS_VIEW_NOTANEW, {desk_.Sheet().cause}));
+    }
+}
+
+void PanelCommands::OnCompareWays() {
+    const PortCallDesk::Report report(desk_);
+    editing_.CommitEditors();
+    const auto chosen = ways_.Choose();
+    if (!chosen.Failed()) {
+        OnRouteChosen();
+    } else if (chosen.At() != WaysStep::Left) {
+        TellInStatusLine(Text(chosen.At() == WaysStep::Server ? TextIds::IDS_VIEW_FAULTCONNECTION
+                                                              : TextIds::IDS_VIEW_NOWAYS));
     }
 }
 

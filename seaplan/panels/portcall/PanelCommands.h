@@ -6,6 +6,7 @@
 
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/PosBookData.h"
+#include "seaplan/panels/portcall/RouteChoice.h"
 #include "seaplan/panels/portcall/TableCalculation.h"
 #include "seaplan/panels/portcall/WhatIf.h"
 
@@ -28,6 +29,9 @@ class PanelCommands {
     /// Asks the server for the whole route afresh, shows old and new miles of each leg, and replaces the legs
     /// where the person takes them. A failure is told in the status line.
     void OnRouteAnew();
+    /// Shows what the route by each other route point costs, and takes the one that the person chooses: one
+    /// edit. What is in the way is told in the status line.
+    void OnCompareWays();
     /// The pending route was changed on the chart: its distances and times go into the table that is
     /// open. kFollowRouteCodes.
     int OnRouteChosen();
@@ -65,6 +69,7 @@ class PanelCommands {
     CorrectedSchedule& corrected_;
     VoyageFilling& filling_;
     TableCalculation calculation_;
+    RouteChoice ways_;
     WhatIf questions_;
     std::string bookVoyage_;  ///< the voyage whose book was opened last
 };

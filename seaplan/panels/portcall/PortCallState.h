@@ -34,10 +34,12 @@ struct PortCallNote {
     enum class Kind {
         None,
         Unfinished,  ///< they have no route of theirs, as a save leaves them that broke off
-        KnownLegs    ///< their legs are known ones, since the server was not there to ask
+        KnownLegs,   ///< their legs are known ones, since the server was not there to ask
+        ChosenWay    ///< their route passes points that were chosen in place of others
     };
     Kind kind = Kind::None;
     std::string since{};  ///< day of the oldest of these legs, in the zone of the rows
+    std::string ways{};   ///< names of these points
 };
 
 }  // namespace Tarvik::Seaplan

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,8 @@ class PortCallView : public PanelWindow {
     virtual std::string ClipboardText() const = 0;
     /// Shows what a command would do with rows and waits for the answer. True for yes.
     virtual bool AskRows(const RowsPreview& preview) = 0;
+    /// Shows such rows and waits for the person to choose one. Its number from 0; nothing for none.
+    virtual std::optional<int> ChooseRow(const RowsPreview& preview) = 0;
     /// The questions below the table.
     virtual WhatIfView& Questions() = 0;
     /// What opens over the cells.

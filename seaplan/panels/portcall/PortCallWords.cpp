@@ -11,6 +11,7 @@
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/texts/WhatIfTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -79,6 +80,22 @@ PortCallNote NoteOfKnownLegs(const std::optional<Util::_datetime_t>& since, cons
     return {PortCallNote::Kind::KnownLegs, there.fmt(Util::kDayFormat)};
 }
 
+PortCallNote NoteOfChoices(const std::vector<std::string>& names) {
+    std::string joined;
+    for (const std::string& name : names) {
+        joined += (joined.empty() ? "" : ", ") + name;
+    }
+    return joined.empty() ? PortCallNote() : PortCallNote{PortCallNote::Kind::ChosenWay, {}, joined};
+}
+
+std::string SignedText(double value, std::string (*digits)(double)) {
+    const std::string text = digits(value);
+    if (text == digits(0) || text == digits(-0.0)) {
+        return digits(0);
+    }
+    return value > 0 ? "+" + text : text;
+}
+
 std::string NoteText(const PortCallNote& note) {
     switch (note.kind) {
         case PortCallNote::Kind::None:
@@ -87,6 +104,8 @@ std::string NoteText(const PortCallNote& note) {
             return Text(TextIds::IDS_VIEW_UNFINISHED);
         case PortCallNote::Kind::KnownLegs:
             return Text(TextIds::IDS_VIEW_KNOWNLEGS, {note.since});
+        case PortCallNote::Kind::ChosenWay:
+            return Text(TextIds::IDS_VIEW_WAYSCHOSEN, {note.ways});
     }
     return {};
 }

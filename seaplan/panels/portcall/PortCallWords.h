@@ -28,6 +28,10 @@ std::string LossText(const PortCallSheet& sheet, const std::string& voyage);
 /// What is to be known of rows some of whose legs are the known ones of this time (UTC) and later, in the
 /// person's zone; nothing without a time.
 PortCallNote NoteOfKnownLegs(const std::optional<Util::_datetime_t>& since, const std::string& zone);
+/// The same of rows whose route passes these points by choice, told by their names; nothing without one.
+PortCallNote NoteOfChoices(const std::vector<std::string>& names);
+/// A difference with its sign, as `digits` prints it; one that prints as nothing has none.
+std::string SignedText(double value, std::string (*digits)(double));
 /// The one line about the rows on show, empty when there is nothing to tell of them.
 std::string NoteText(const PortCallNote& note);
 /// A sentence about rows, counted from 0; empty without rows.

@@ -4,6 +4,7 @@
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
+#include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/WhatIfTexts.h"
 
@@ -23,15 +24,6 @@ std::vector<double> DistancesOf(const PortCallRows& rows, const UnitSet& units) 
     return distances;
 }
 
-/// A difference with its sign.
-std::string SignedText(double value) {
-    const std::string text = TwoDecimals(value);
-    if (text == TwoDecimals(0) || text == TwoDecimals(-0.0)) {
-        return TwoDecimals(0);
-    }
-    return value > 0 ? "+" + text : text;
-}
-
 /// Number, port, miles now, miles anew and difference. A leg that was not calculated has no miles now.
 std::vector<RowsPreview::Cell> CellsOf(const std::string& number, const std::string& name, double now,
                                        double anew) {
@@ -42,7 +34,7 @@ std::vector<RowsPreview::Cell> CellsOf(const std::string& number, const std::str
             {name},
             {known ? TwoDecimals(now) : std::string()},
             {TwoDecimals(anew), mark},
-            {known ? SignedText(anew - now) : std::string(), mark}};
+            {known ? SignedText(anew - now, TwoDecimals) : std::string(), mark}};
 }
 
 }  // namespace

@@ -8,7 +8,7 @@ namespace Tarvik::Seaplan {
 
 /// What a command would do with rows, as it is shown before it is taken.
 struct RowsPreview {
-    enum class Command { Paste, RouteAnew };
+    enum class Command { Paste, RouteAnew, Ways };
     enum class Mark {
         Plain,
         Replaces,  ///< another value stands there now, which the text tells
@@ -20,9 +20,10 @@ struct RowsPreview {
         Mark mark = Mark::Plain;
         bool operator==(const Cell&) const = default;
     };
+    using Cells = std::vector<Cell>;
     Command command = Command::Paste;
-    std::vector<std::string> titles;  ///< of the columns; the first tells the row of the table
-    std::vector<std::vector<Cell>> rows;
+    std::vector<std::string> titles;  ///< of the columns; the first tells what a row is of
+    std::vector<Cells> rows;
     std::string words;  ///< what it comes to, in sentences
 };
 

@@ -6,6 +6,8 @@
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/RouteFinder.h"
+#include "seaplan/controllers/RouteWays.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/PortDirectory.h"
@@ -73,9 +75,20 @@ Outcome<TableStep> TableCalculation::Calculate() {
     return shown;
 }
 
-/// Known legs are told with the day of the oldest, in the zone of the rows, for as long as these stand there.
+/// Known legs are told with the day of the oldest, in the zone of the rows, points that were chosen by their
+/// names, for as long as these rows stand there.
 PortCallNote TableCalculation::NoteOfRoute() const {
-    return NoteOfKnownLegs(desk_.Voyages().Module().Pending().KnownSince(), desk_.Sheet().state.zone);
+    const PendingRoute& pending = desk_.Voyages().Module().Pending();
+    if (pending.KnownSince() || !pending.IsFor(desk_.Sheet().voyageId)) {
+        return NoteOfKnownLegs(pending.KnownSince(), desk_.Sheet().state.zone);
+    }
+    const std::vector<std::string> chosen = ChosenPoints(pending.Stops());
+    std::vector<std::string> names;
+    names.reserve(chosen.size());
+    for (const std::string& id : chosen) {
+        names.push_back(RoutePointName(desk_.Voyages().Module().Routes().Ports(), id));
+    }
+    return NoteOfChoices(names);
 }
 
 bool TableCalculation::ShowCalculated(const PortCallRows& rows, PortCallRows result) {

@@ -83,10 +83,12 @@ Server::RouteLeg LegOf(const std::string& fromId, const std::string& toId,
     return {fromId, toId, std::move(points), km};
 }
 
-bool Chosen(const RouteRequestPoint& stop, const std::string& range) {
-    return std::any_of(stop.locks.begin(), stop.locks.end(), [&](const Server::RouteChoice& choice) {
-        return choice.newId == kOtherPoint && choice.range == range;
-    });
+/// The point chosen for a stretch, empty without a choice: the newest comes first and replaces those behind
+/// it.
+std::string ChosenPoint(const RouteRequestPoint& stop, const std::string& range) {
+    const auto choice = std::find_if(stop.locks.begin(), stop.locks.end(),
+                                     [&](const Server::RouteChoice& c) { return c.range == range; });
+    return choice == stop.locks.end() ? std::string() : choice->newId;
 }
 
 std::string TextOf(double degrees) {
@@ -146,7 +148,8 @@ PlannedStop DeskRoutes::Way(const std::string& from, const RouteRequestPoint& st
     PlannedStop way;
     way.pointId = stop.id;
     const auto passage = passages_.find(ends);
-    const bool other = passage != passages_.end() && Chosen(stop, range);
+    const std::string chosen = ChosenPoint(stop, range);
+    const bool other = passage != passages_.end() && chosen == kOtherPoint;
     const double miles = other ? passage->second : MilesOf(ends);
     const Server::GeoPoint turn = TurnOf(begin, end, miles);
     way.distanceKm = miles * kKmPerMile;
@@ -160,7 +163,7 @@ PlannedStop DeskRoutes::Way(const std::string& from, const RouteRequestPoint& st
                 LegOf(point, stop.id, {turn, {end, 0}}, way.distanceKm / 2)};
     way.groups = {{point, from, stop.id, {other ? kUsualPoint : kOtherPoint}}};
     way.passedIds = {from, point, stop.id};
-    way.locks = other ? point + "=" + range : std::string();
+    way.locks = chosen == point ? point + "=" + range : std::string();
     return way;
 }
 

@@ -36,6 +36,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     std::string clipboard;
     std::vector<RowsPreview> pastes;  ///< that were shown, and other previews of rows
     bool takesPaste = true;           ///< the answer to the next one
+    std::optional<int> choosesRow;
     WhatIfState whatIf;
     int rowInView = -1;
     std::optional<CellEditor> openEditor;  ///< opened last and not hidden since
@@ -78,6 +79,10 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     bool AskRows(const RowsPreview& preview) override {
         pastes.push_back(preview);
         return takesPaste;
+    }
+    std::optional<int> ChooseRow(const RowsPreview& preview) override {
+        pastes.push_back(preview);
+        return choosesRow;
     }
     WhatIfView& Questions() override { return *this; }
     void ShowWhatIf(const WhatIfState& shown) override { whatIf = shown; }

@@ -31,6 +31,11 @@ void OpenPortCallMenu(PanelTable& table, CPortCallPanelDlg& panel, const QPoint&
     anew->setObjectName(QStringLiteral("anewAction"));
     anew->setToolTip(ViewText(TextIds::IDS_VIEW_ANEWHINT));
     anew->setEnabled(panel.Sheet().state.canCalculate);
+    QAction* ways =
+        add(TextIds::IDS_VIEW_WAYS, "Ctrl+Shift+R", [&panel] { panel.Commands().OnCompareWays(); });
+    ways->setObjectName(QStringLiteral("waysAction"));
+    ways->setToolTip(ViewText(TextIds::IDS_VIEW_WAYSHINT));
+    ways->setEnabled(panel.Sheet().state.canCalculate);
     menu->addSeparator();
     RowCommands& rows = panel.Rows();
     const std::vector<QAction*> ofRows = {

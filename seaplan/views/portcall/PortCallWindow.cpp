@@ -102,6 +102,8 @@ void PortCallWindow::AttachMenu(CPortCallPanelDlg& panel) {
     });
     auto* anew = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_R), this);
     QObject::connect(anew, &QShortcut::activated, this, [&panel] { panel.Commands().OnRouteAnew(); });
+    auto* ways = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R), this);
+    QObject::connect(ways, &QShortcut::activated, this, [&panel] { panel.Commands().OnCompareWays(); });
 }
 
 void PortCallWindow::ShowTable(const PortCallTable& table) {

@@ -32,6 +32,9 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
     void BringRowIntoView(int row) override;
     std::string ClipboardText() const override { return ClipboardAsText(); }
     bool AskRows(const RowsPreview& preview) override { return AskRowsOver(*this, preview); }
+    std::optional<int> ChooseRow(const RowsPreview& preview) override {
+        return ChooseRowOver(*this, preview);
+    }
     WhatIfView& Questions() override { return *questions_; }
     CellsView& Cells() override { return *editors_; }
     void ApplySkin() override;

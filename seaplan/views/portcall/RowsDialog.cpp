@@ -43,7 +43,11 @@ const DialogWords& WordsOf(RowsPreview::Command command) {
                                         TextIds::IDS_VIEW_PASTELEAVE};
     static constexpr DialogWords kAnew{"anew", TextIds::IDS_VIEW_ANEW, TextIds::IDS_VIEW_ANEWTAKE,
                                        TextIds::IDS_VIEW_ANEWLEAVE};
-    return command == RowsPreview::Command::Paste ? kPaste : kAnew;
+    static constexpr DialogWords kWays{"ways", TextIds::IDS_VIEW_WAYS, TextIds::IDS_VIEW_WAYSTAKE,
+                                       TextIds::IDS_VIEW_WAYSLEAVE};
+    return command == RowsPreview::Command::Paste       ? kPaste
+           : command == RowsPreview::Command::RouteAnew ? kAnew
+                                                        : kWays;
 }
 
 QString NameOf(const DialogWords& words, const char* part) {
@@ -91,8 +95,10 @@ PanelTable* MakeTable(QWidget* parent, const RowsPreview& preview) {
     table->setObjectName(NameOf(said, "Table"));
     std::vector<TableColumn> columns;
     for (const std::string& title : preview.titles) {
-        columns.push_back(
-            {.title = QString::fromStdString(title), .width = columns.empty() ? kRowWidth : kColumnWidth});
+        columns.push_back({.title = QString::fromStdString(title),
+                           .width = columns.empty() && preview.command != RowsPreview::Command::Ways
+                                        ? kRowWidth
+                                        : kColumnWidth});
     }
     table->ShowColumns(std::move(columns));
     table->ShowLines(std::make_shared<PreviewLines>(preview));
@@ -110,11 +116,9 @@ QPushButton* MakeButton(QDialog& dialog, const QString& name, TextId text) {
     return button;
 }
 
-}  // namespace
-
-bool AskRowsOver(QWidget& window, const RowsPreview& preview) {
+/// Fills a dialog with the preview; the answer is its table.
+PanelTable* FillDialog(QDialog& dialog, const RowsPreview& preview) {
     const DialogWords& said = WordsOf(preview.command);
-    QDialog dialog(&window);
     dialog.setObjectName(NameOf(said, "Dialog"));
     dialog.setWindowTitle(ViewText(said.title));
     dialog.setMinimumWidth(kLeastWidth);
@@ -139,7 +143,35 @@ bool AskRowsOver(QWidget& window, const RowsPreview& preview) {
     rows->addWidget(words);
     rows->addLayout(buttons);
     take->setFocus();
+    return table;
+}
+
+}  // namespace
+
+bool AskRowsOver(QWidget& window, const RowsPreview& preview) {
+    QDialog dialog(&window);
+    FillDialog(dialog, preview);
     return dialog.exec() == QDialog::Accepted;
+}
+
+std::optional<int> ChooseRowOver(QWidget& window, const RowsPreview& preview) {
+    QDialog dialog(&window);
+    PanelTable* table = FillDialog(dialog, preview);
+    table->SetReports({{},
+                       {},
+                       [&dialog](KeyPress press, int, int) {
+                           if (press.key != Key::Enter) {
+                               return false;
+                           }
+                           dialog.accept();
+                           return true;
+                       },
+                       {},
+                       {}});
+    QObject::connect(table, &QAbstractItemView::doubleClicked, &dialog, &QDialog::accept);
+    table->PutFront(0, 0);
+    table->setFocus();
+    return dialog.exec() == QDialog::Accepted ? std::optional(table->currentIndex().row()) : std::nullopt;
 }
 
 std::string ClipboardAsText() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <string>
 
 #include "seaplan/panels/portcall/RowsPreview.h"
@@ -11,6 +12,9 @@ namespace Tarvik::Seaplan {
 /// Shows over a window what a command would do to its table, and waits for the
 /// answer. True for yes; Enter in the dialog is a yes, Escape a no.
 bool AskRowsOver(QWidget& window, const RowsPreview& preview);
+/// Shows rows over a window and waits until one is chosen: its number from 0, nothing for none. Enter and a
+/// double click choose the row in front, Escape none.
+std::optional<int> ChooseRowOver(QWidget& window, const RowsPreview& preview);
 /// The text on the clipboard as UTF-8, cut where no more is read.
 std::string ClipboardAsText();
 

@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QTimer>
 
+#include "seaplan/views/portcall/RowsDialog.h"
 #include "seaplan/views/tests/PortCallWindowFixture.h"
 
 namespace Tarvik::Seaplan {
@@ -99,6 +100,30 @@ TEST_F(WhatIfWindowTest, TheMenuButtonAsksTheRouteAnewAndComparesIt) {
     EXPECT_GT(rows, 1);
     EXPECT_FALSE(words.isEmpty());
     EXPECT_EQ(Cell(1, ColDistance), miles);
+}
+
+TEST_F(WhatIfWindowTest, AWayIsChosenByTheKeyboardOrNone) {
+    const RowsPreview preview{RowsPreview::Command::Ways,
+                              {"Instead of", "By", "More", "Hours", "ETA"},
+                              {{{""}, {"As it is"}, {"0.00"}, {"0.0"}, {"a"}},
+                               {{"Suez Canal"}, {"Cape"}, {"+3500.00"}, {"+250.0"}, {"b"}}},
+                              "words"};
+    const auto choose = [&](const std::vector<Qt::Key>& keys) {
+        QTimer::singleShot(0, &PortCalls(), [&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->objectName(), "waysDialog");
+            auto* table = Find<PanelTable>(*dialog, "waysTable");
+            EXPECT_EQ(dialog->focusWidget(), table);
+            for (const Qt::Key key : keys) {
+                QTest::keyClick(table, key);
+            }
+        });
+        return ChooseRowOver(PortCalls(), preview);
+    };
+    EXPECT_EQ(choose({Qt::Key_Down, Qt::Key_Return}), 1);
+    EXPECT_EQ(choose({Qt::Key_Return}), 0) << "the route as it is stands in front";
+    EXPECT_EQ(choose({Qt::Key_Down, Qt::Key_Escape}), std::nullopt);
 }
 
 }  // namespace
