@@ -101,7 +101,7 @@ std::string ReplyOf(std::size_t stops, std::size_t points) {
 }
 
 double GeodesicMs(const std::vector<std::string>& points, Geodesics what) {
-    std::vector<Position> places(points.size());
+    std::vector<GeoPoint> places(points.size());
     for (std::size_t i = 0; i < points.size(); ++i) {
         ReadPosition(points[i], 0, places[i]);
     }
@@ -109,8 +109,8 @@ double GeodesicMs(const std::vector<std::string>& points, Geodesics what) {
     for (int pass = 0; pass < kGeodesicPasses; ++pass) {
         const double start = CpuMs();
         for (std::size_t i = 1; i < places.size(); ++i) {
-            const Position& a = places[i - 1];
-            const Position& b = places[i];
+            const GeoPoint& a = places[i - 1];
+            const GeoPoint& b = places[i];
             benchmark::DoNotOptimize(Tarvik::Util::CircleLineUtl::CalculateDistance(a.x, a.y, b.x, b.y));
             if (what == Geodesics::DistanceAndCourse) {
                 benchmark::DoNotOptimize(Tarvik::Util::CCourse::CalCourse(a.x, a.y, b.x, b.y));

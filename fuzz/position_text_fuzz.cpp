@@ -25,7 +25,7 @@ void Require(bool holds) {
 /// Whether all positions lie between the poles; no other has distances.
 bool IsOnEarth(const std::vector<std::string>& points) {
     for (const std::string& text : points) {
-        Position place;
+        GeoPoint place;
         if (ReadPosition(text, 0, place) && std::fabs(place.y) > 90) {
             return false;
         }
@@ -35,7 +35,7 @@ bool IsOnEarth(const std::vector<std::string>& points) {
 
 /// A position needs a comma; whatever stands beside it reads as a finite number.
 void CheckPosition(const std::string& text) {
-    Position place;
+    GeoPoint place;
     const bool read = ReadPosition(text, 0, place);
     Require(read == (text.find(',') != std::string::npos));
     Require(std::isfinite(place.x) && std::isfinite(place.y));

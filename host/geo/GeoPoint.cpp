@@ -5,7 +5,6 @@
 
 #include <fmt/format.h>
 
-#include <tarvik/util/Geodesy.h>
 #include <tarvik/util/PointText.h>
 
 #include "host/geo/Sphere.h"
@@ -26,10 +25,9 @@ std::string DegreesAndMinutes(double value, int degreeDigits, char positive, cha
 std::optional<GeoPoint> ParsePosition(std::string_view text) {
     constexpr double kTwoTurns = 720;
     const auto point = Util::ParsePoint(text);
-    if (!point || std::fabs(point->y) > Util::kMostLatitude || std::fabs(point->x) > kTwoTurns) {
-        return std::nullopt;
-    }
-    return GeoPoint{point->x, point->y};
+    const bool isPlace =
+        point && std::fabs(point->y) <= Util::kMostLatitude && std::fabs(point->x) <= kTwoTurns;
+    return isPlace ? point : std::nullopt;
 }
 
 std::string FormatPosition(GeoPoint point) {

@@ -5,15 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include <tarvik/util/GeoPoint.h>
+
 namespace Tarvik::Server {
 
-/// A place on the earth in decimal degrees: `x` is the longitude, `y` the latitude.
-struct GeoPoint {
-    double x = 0.0;
-    double y = 0.0;
-
-    friend bool operator==(const GeoPoint&, const GeoPoint&) = default;
-};
+using Util::GeoPoint;
 
 /// Reads "x,y", longitude first, with a point as decimal sign; blanks around the numbers are allowed.
 /// Empty for anything else: a missing comma or number, trailing text, values that are not finite, a latitude

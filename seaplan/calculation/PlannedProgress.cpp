@@ -46,7 +46,7 @@ double HoursLeft(const Util::_datetime_t& end, const Util::_datetime_t& now) {
 }
 
 /// Place after `covered` of the `distance` miles from a to b.
-std::string Interpolate(const Position& a, const Position& b, double covered, double distance) {
+std::string Interpolate(const GeoPoint& a, const GeoPoint& b, double covered, double distance) {
     if (distance <= 0) {
         return PositionText(b);
     }
@@ -88,16 +88,16 @@ class LegWalk {
   private:
     /// The way to one row of the book: nautical miles, knots through the weather, hours.
     struct Stretch {
-        Position from;
-        Position to;
+        GeoPoint from;
+        GeoPoint to;
         double distance;
         double speed;
         double steam;
     };
 
     ProgressOutcome Step(const std::string& previous, const PosBookPoint& row) {
-        Position from;
-        Position to;
+        GeoPoint from;
+        GeoPoint to;
         float distance = 0;
         if (!ReadPosition(previous, 0, from)) {
             return ProgressStep::From;
@@ -243,7 +243,7 @@ Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& pos
     card.vi = voyage.vi;
     card.vsi = voyage.vsi;
     card.vsn = voyage.vsn;
-    if (Position place; ReadPosition(position, 0, place)) {
+    if (GeoPoint place; ReadPosition(position, 0, place)) {
         card.vessel.x = place.x;
         card.vessel.y = place.y;
     }

@@ -160,8 +160,8 @@ TimesOutcome TimeRows(const Util::_datetime_t& start, const PortCallRows& ports,
 }  // namespace
 
 int LegDistance(const std::string& a, const std::string& b, const std::string& psr, float& nm) {
-    Position from;
-    Position to;
+    GeoPoint from;
+    GeoPoint to;
     if (!ReadPosition(a, 1, from) || !ReadPosition(b, 1, to)) {
         return -1;
     }

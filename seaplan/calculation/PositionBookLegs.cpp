@@ -46,8 +46,8 @@ TotalsOutcome SumLeg(const BookPoints& rows, const BookLeg& leg, LegSums& sums) 
         return TotalsStep::LegPoints;
     }
     for (std::size_t i = leg.first + 1; i <= leg.last; ++i) {
-        Position from;
-        Position to;
+        GeoPoint from;
+        GeoPoint to;
         if (!ReadPosition(rows[i - 1].position, 0, from) || !ReadPosition(rows[i].position, 0, to)) {
             return TotalsStep::Position;
         }

@@ -38,11 +38,11 @@ struct Limits {
     double south = 0;
 };
 
-Limits Around(const Position& p) {
+Limits Around(const GeoPoint& p) {
     return {p.x + 1.0, p.y + 1.0, p.x - 1.0, p.y - 1.0};
 }
 
-void Widen(Limits& limits, const Position& p) {
+void Widen(Limits& limits, const GeoPoint& p) {
     limits.east = std::max(limits.east, p.x);
     limits.west = std::min(limits.west, p.x);
     limits.north = std::max(limits.north, p.y);
@@ -98,7 +98,7 @@ PointTexts JoinTracks(const PointTexts& first, const PointTexts& second) {
 std::optional<Interface::TrvMapExtent> ExtentOf(const PointTexts& points) {
     std::optional<Limits> limits;
     for (const auto& point : points) {
-        Position position;
+        GeoPoint position;
         if (!ReadPosition(point, 0, position)) {
             continue;
         }

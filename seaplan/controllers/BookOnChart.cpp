@@ -15,7 +15,7 @@ std::string PositionOf(const PosBookPlace& place) {
     return PositionText({place.x, place.y}, kBookDecimals);
 }
 
-Position PositionAt(const Interface::ChartPlace& place) {
+GeoPoint PositionAt(const Interface::ChartPlace& place) {
     return {Util::UnitUtl::DataFormat(place.longitude, kBookDecimals),
             Util::UnitUtl::DataFormat(place.latitude, kBookDecimals)};
 }

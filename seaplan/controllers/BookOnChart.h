@@ -19,8 +19,8 @@ class BookOnChart {
     /// What the person does; rows are those of the list, counted from 0.
     struct Reports {
         std::function<void(int row)> pressed;
-        std::function<void(int row, const Position& to)> dragged;
-        std::function<void(const Position& from, const Position& to)> pulled;  ///< a leg
+        std::function<void(int row, const GeoPoint& to)> dragged;
+        std::function<void(const GeoPoint& from, const GeoPoint& to)> pulled;  ///< a leg
     };
     void SetReports(Reports reports) { reports_ = std::move(reports); }
 

@@ -14,7 +14,7 @@ Interface::TrvMapPlan PlanOf(const VoyInfo& voyage, const Interface::TrvMapObjec
         return plan;
     }
     for (const PosBookPoint& row : rows) {
-        Position at;
+        GeoPoint at;
         if (!ReadPosition(row.position, 0, at)) {
             plan.places.clear();
             return plan;

@@ -18,7 +18,7 @@ namespace {
 using Interface::VoyCommand;
 
 bool IsPosition(const std::string& point) {
-    Position ignored;
+    GeoPoint ignored;
     return ReadPosition(point, 1, ignored);
 }
 

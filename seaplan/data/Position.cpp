@@ -16,18 +16,17 @@ bool SplitPointset(const std::string& pointset, PointTexts& points) {
     return true;
 }
 
-bool ReadPosition(const std::string& text, std::size_t leastComma, Position& out) {
+bool ReadPosition(const std::string& text, std::size_t leastComma, GeoPoint& out) {
     const auto halves = Util::SplitPoint(text);
     if (!halves || halves->x.size() < leastComma) {
         return false;
     }
-    const auto point = Util::ReadPoint(text);
-    out = {point->x, point->y};
+    out = *Util::ReadPoint(text);
     return true;
 }
 
-std::string PositionText(const Position& position, int decimals) {
-    return Util::PointText({position.x, position.y}, decimals);
+std::string PositionText(const GeoPoint& position, int decimals) {
+    return Util::PointText(position, decimals);
 }
 
 int PointsetLength(const std::string& pointset, float& km) {
@@ -39,12 +38,12 @@ int PointsetLength(const std::string& pointset, float& km) {
     if (!SplitPointset(pointset, points) || points.empty()) {
         return -2;
     }
-    Position previous;
+    GeoPoint previous;
     if (!ReadPosition(points.front(), 0, previous)) {
         return -3;
     }
     for (std::size_t i = 1; i < points.size(); ++i) {
-        Position here;
+        GeoPoint here;
         if (!ReadPosition(points[i], 0, here)) {
             continue;
         }

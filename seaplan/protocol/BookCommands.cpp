@@ -179,7 +179,7 @@ BookOutcome SetDate(const std::string& id, const std::string& date) {
 std::string PositionText(const Util::Jsona& row) {
     const auto x = static_cast<float>(Coordinate(row, "xc"));
     const auto y = static_cast<float>(Coordinate(row, "yc"));
-    return PositionText(Position{static_cast<double>(x), static_cast<double>(y)});
+    return PositionText(GeoPoint{static_cast<double>(x), static_cast<double>(y)});
 }
 
 int ReadPositionBook(const Util::Jsona& element, VoyPositionBook& book) {

@@ -36,4 +36,11 @@ TEST(PointText, HasAsManyDecimalsAsAsked) {
     EXPECT_EQ(PointText({180, 0}, 3), "180.000,0.000");
 }
 
+TEST(PointText, IsShortWhereDecimalsTellNothing) {
+    EXPECT_EQ(ShortPointText({180, -0.0}, 5), "180,0");
+    EXPECT_EQ(ShortPointText({-180, 12.5}, 5), "-180,12.5");
+    EXPECT_EQ(ShortPointText({1.23456, -0.000001}, 5), "1.23456,0");
+    EXPECT_EQ(ShortPointText({100.4, -20}, 0), "100,-20") << "zeros before the point stay";
+}
+
 }  // namespace Tarvik::Util

@@ -160,9 +160,9 @@ TEST(GraphRouteSource, AMissingNetworkFileIsNamedWithWhatToDo) {
 }
 
 TEST(RouteMessages, PositionsHaveNoMoreDecimalsThanTheyNeed) {
-    EXPECT_EQ(RouteMessages::PositionText({180, -0.0}), "180,0");
-    EXPECT_EQ(RouteMessages::PositionText({-180, 12.5}), "-180,12.5");
-    EXPECT_EQ(RouteMessages::PositionText({1.23456, -0.000001}), "1.23456,0");
+    NearestResult result;
+    result.points = {{180, -0.0}, {-180, 12.5}, {1.23456, -0.000001}};
+    EXPECT_EQ(RouteMessages::WriteNearest(result), R"({"eid":0,"pointset":"180,0|-180,12.5|1.23456,0"})");
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ constexpr float kFirstSpeed = 10.0F;
 
 /// A position in the three decimals by which the ship's own is told.
 std::string ThreeDecimals(const std::string& text) {
-    Position place;
+    GeoPoint place;
     return ReadPosition(text, 0, place) ? PositionText(place) : text;
 }
 

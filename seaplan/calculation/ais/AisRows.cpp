@@ -77,7 +77,7 @@ void TakeStretch(const Stretch& stretch, VoyPortCall& row) {
 }
 
 VoyPortCall AisRow(const PosBookPoint& point, const Stretch& stretch) {
-    Position place;
+    GeoPoint place;
     ReadPosition(point.position, 0, place);
     VoyPortCall row;
     row.ppn = PositionText({place.y, place.x});

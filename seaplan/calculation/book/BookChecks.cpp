@@ -54,7 +54,7 @@ BookRefusal CheckDegreesText(const std::string& text, Axis axis, double& value) 
     return refusal;
 }
 
-BookRefusal CheckPosition(const std::string& text, Axis axis, Position& position) {
+BookRefusal CheckPosition(const std::string& text, Axis axis, GeoPoint& position) {
     double& typed = axis == Axis::Latitude ? position.y : position.x;
     const BookRefusal refusal = CheckDegreesText(text, axis, typed);
     const auto pair = refusal == BookRefusal::NotANumber ? Util::ReadTypedPosition(text)

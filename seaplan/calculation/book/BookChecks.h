@@ -28,7 +28,7 @@ BookRefusal CheckDegrees(double degrees, Axis axis);
 BookRefusal CheckDegreesText(const std::string& text, Axis axis, double& value);
 /// A text typed into one coordinate of a position, or a whole position there; the other coordinate stays
 /// where only one is told. `position` is set when nothing is wrong.
-BookRefusal CheckPosition(const std::string& text, Axis axis, Position& position);
+BookRefusal CheckPosition(const std::string& text, Axis axis, GeoPoint& position);
 /// A speed in the unit on show, above 0 and up to 50 knots or 92.6 km/h; `value` is in km/h.
 BookRefusal CheckSpeed(const std::string& text, BookSpeedUnit unit, double& value);
 /// Takes `time` (UTC) as the port's departure: its stay becomes what lies between arrival and `time`.

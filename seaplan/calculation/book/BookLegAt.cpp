@@ -8,7 +8,7 @@
 /// three distances a leg.
 namespace Tarvik::Seaplan {
 
-std::optional<PosBookRowRef> LegAt(const PosBookData& book, const Position& position) {
+std::optional<PosBookRowRef> LegAt(const PosBookData& book, const GeoPoint& position) {
     std::optional<PosBookRowRef> nearest;
     double least = 0;
     const PosBookPlace* from = nullptr;

@@ -49,7 +49,7 @@ class AisSpeeds {
 
 /// Position, speed and way of sailing of a stored row; false without a comma in the position.
 bool TakeRow(const PosBookPoint& from, PosBookPlace& to) {
-    Position position;
+    GeoPoint position;
     if (!ReadPosition(from.position, 0, position)) {
         return false;
     }

@@ -200,7 +200,7 @@ int RegenerateLeg(PosBookData& book, BookRowRefs& refs, int listRow, bool addMid
     return AddRows(book, refs, listRow, std::move(added));
 }
 
-bool InsertBookRow(PosBookData& book, BookRowRefs& refs, int listRow, const Position& position) {
+bool InsertBookRow(PosBookData& book, BookRowRefs& refs, int listRow, const GeoPoint& position) {
     const PosBookPlace* before =
         IsInList(refs, listRow) ? PlaceBefore(book, refs[static_cast<std::size_t>(listRow)]) : nullptr;
     if (before == nullptr) {

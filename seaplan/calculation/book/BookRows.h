@@ -46,10 +46,10 @@ int RegenerateLeg(PosBookData& book, BookRowRefs& refs, int listRow, bool addMid
 /// Puts a plain waypoint, "A new wp", into the way to list row `listRow`, which is sailed as before on both
 /// sides of it. It takes that row's place in the list where the waypoints before it show. False, with nothing
 /// changed, for the first port and no row.
-bool InsertBookRow(PosBookData& book, BookRowRefs& refs, int listRow, const Position& position);
+bool InsertBookRow(PosBookData& book, BookRowRefs& refs, int listRow, const GeoPoint& position);
 /// The end of the leg on which a place lies, or to which it is nearest; nothing in a book without legs. Cost:
 /// a few distances a place of the book.
-std::optional<PosBookRowRef> LegAt(const PosBookData& book, const Position& position);
+std::optional<PosBookRowRef> LegAt(const PosBookData& book, const GeoPoint& position);
 
 /// What has to follow after a waypoint was deleted.
 enum class BookDeletion {

@@ -31,7 +31,7 @@ VoyCalPoints PointsOf(PortDirectory& ports) {
         return points;
     }
     for (const auto& [id, row] : *rows) {
-        Position position;
+        GeoPoint position;
         ReadPosition(row.position, 0, position);
         points[id] = {position.x, position.y, id, row.name};
     }

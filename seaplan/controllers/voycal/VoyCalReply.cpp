@@ -141,7 +141,7 @@ bool ReadVoyCalReply(const std::string& reply, const VoyCalPoints& points, std::
 
 void ReadVoyCalRoute(const std::string& pointset, VoyCalRoute& route) {
     for (const auto& text : SplitAt(pointset, "|")) {
-        Position position;
+        GeoPoint position;
         if (!ReadPosition(text, 0, position)) {
             continue;
         }

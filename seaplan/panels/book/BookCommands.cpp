@@ -149,7 +149,7 @@ void BookCommands::OnRedo() {
 }
 
 /// Whether a waypoint may come there; what is being typed is taken first.
-bool BookCommands::MayMoveTo(const Position& to) {
+bool BookCommands::MayMoveTo(const GeoPoint& to) {
     if (!editing_.CommitEditors()) {
         return false;
     }
@@ -160,7 +160,7 @@ bool BookCommands::MayMoveTo(const Position& to) {
     return refusal == BookRefusal::None;
 }
 
-void BookCommands::OnDragged(int row, const Position& to) {
+void BookCommands::OnDragged(int row, const GeoPoint& to) {
     const BookDesk::Report report(desk_);
     BookSheet& sheet = desk_.Sheet();
     const int before = sheet.RowCount();
@@ -175,7 +175,7 @@ void BookCommands::OnDragged(int row, const Position& to) {
     }
 }
 
-void BookCommands::OnPulled(const Position& from, const Position& to) {
+void BookCommands::OnPulled(const GeoPoint& from, const GeoPoint& to) {
     const BookDesk::Report report(desk_);
     if (MayMoveTo(to) && !BookEdits(desk_).PullLeg(from, to)) {
         desk_.ToPerson().Notice(TextIds::IDS_VIEW_NOTDRAGGED);

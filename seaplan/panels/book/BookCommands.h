@@ -38,8 +38,8 @@ class BookCommands {
 
     /// On the chart: a waypoint is dragged, which is the same edit as typing its position, or a leg is
     /// pulled, which puts a waypoint into it.
-    void OnDragged(int row, const Position& to);
-    void OnPulled(const Position& from, const Position& to);
+    void OnDragged(int row, const GeoPoint& to);
+    void OnPulled(const GeoPoint& from, const GeoPoint& to);
 
     /// Saves what is on show. False when it was not saved, which has been told; the changes stay.
     bool Save();
@@ -51,7 +51,7 @@ class BookCommands {
     void Hide();
 
   private:
-    bool MayMoveTo(const Position& to);
+    bool MayMoveTo(const GeoPoint& to);
 
     BookDesk& desk_;
     BookEditing& editing_;

@@ -61,7 +61,7 @@ std::string BookEdits::EchoOf(int row, int column, const std::string& typed) con
     }
     const Axis axis = column == BookLatitude ? Axis::Latitude : Axis::Longitude;
     const PosBookPlace& place = desk_.Sheet().PlaceAt(row);
-    Position position{place.x, place.y};
+    GeoPoint position{place.x, place.y};
     const BookRefusal refusal = CheckPosition(typed, axis, position);
     if (refusal == BookRefusal::NotANumber) {
         return Text(TextIds::IDS_VIEW_NOTREAD);
@@ -90,7 +90,7 @@ void BookEdits::SetName(int row, const std::string& typed) {
 
 BookRefusal BookEdits::SetPosition(int row, Axis axis, const std::string& typed) {
     const PosBookPlace& place = desk_.Sheet().PlaceAt(row);
-    Position position{place.x, place.y};
+    GeoPoint position{place.x, place.y};
     const BookRefusal refusal = CheckPosition(typed, axis, position);
     if (refusal == BookRefusal::None) {
         MoveTo(row, position);
@@ -106,7 +106,7 @@ void BookEdits::CutGreatCircle(int row) {
 
 /// Another longitude cuts the great circles on both sides anew, and waypoints of an earlier cut stay; a
 /// latitude alone cuts none.
-void BookEdits::MoveTo(int row, const Position& position) {
+void BookEdits::MoveTo(int row, const GeoPoint& position) {
     BookSheet& sheet = desk_.Sheet();
     PosBookPlace& place = sheet.PlaceAt(row);
     const bool sameX = place.x == position.x;
@@ -128,7 +128,7 @@ void BookEdits::CutBothSides(int row) {
     CutGreatCircle(row + desk_.Sheet().RowCount() - before + 1);
 }
 
-bool BookEdits::PullLeg(const Position& from, const Position& to) {
+bool BookEdits::PullLeg(const GeoPoint& from, const GeoPoint& to) {
     BookSheet& sheet = desk_.Sheet();
     const std::optional<PosBookRowRef> end = LegAt(sheet.data, from);
     if (!end || IsPassed(sheet.totals, end->port, end->sub)) {

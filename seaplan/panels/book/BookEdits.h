@@ -16,10 +16,10 @@ class BookEdits {
     /// A typed name, position or speed. Why it is refused, None where it is taken.
     BookRefusal TakeText(int row, int column, const std::string& typed);
     /// A waypoint stands there now, as when its position is typed; both within CheckDegrees.
-    void MoveTo(int row, const Position& position);
+    void MoveTo(int row, const GeoPoint& position);
     /// A waypoint comes into the leg on which `from` lies, at `to`, which is within CheckDegrees. False where
     /// the ship has passed the leg.
-    bool PullLeg(const Position& from, const Position& to);
+    bool PullLeg(const GeoPoint& from, const GeoPoint& to);
     /// The text that the editor of such a cell opens with.
     std::string TextToEdit(int row, int column) const;
     /// How a text that is being typed into a position is understood, or why it is not; empty in other

@@ -26,8 +26,8 @@ CPosBookDlg::CPosBookDlg(const BookParts& parts) : in_(std::make_unique<Inner>(p
                  in_->editing.OnRowSelected(row);
              }
          },
-         [this](int row, const Position& to) { in_->commands.OnDragged(row, to); },
-         [this](const Position& from, const Position& to) { in_->commands.OnPulled(from, to); }});
+         [this](int row, const GeoPoint& to) { in_->commands.OnDragged(row, to); },
+         [this](const GeoPoint& from, const GeoPoint& to) { in_->commands.OnPulled(from, to); }});
 }
 
 CPosBookDlg::~CPosBookDlg() = default;

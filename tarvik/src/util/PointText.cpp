@@ -27,6 +27,17 @@ std::optional<double> Number(std::string_view text) {
     return value;
 }
 
+/// The number without zeros at its end; "0" for what is rounded to nothing.
+std::string_view Shortest(std::string_view number) {
+    if (number.find('.') != std::string_view::npos) {
+        number = number.substr(0, number.find_last_not_of('0') + 1);
+    }
+    if (number.ends_with('.')) {
+        number.remove_suffix(1);
+    }
+    return number == "-0" ? number.substr(1) : number;
+}
+
 }  // namespace
 
 std::optional<PointHalves> SplitPoint(std::string_view text) {
@@ -57,6 +68,12 @@ std::optional<GeoPoint> ParsePoint(std::string_view text) {
 
 std::string PointText(const GeoPoint& point, int decimals) {
     return StringUtl::Format("%.*f,%.*f", decimals, point.x, decimals, point.y);
+}
+
+std::string ShortPointText(const GeoPoint& point, int mostDecimals) {
+    const std::string whole = PointText(point, mostDecimals);
+    const auto halves = SplitPoint(whole);
+    return std::string(Shortest(halves->x)).append(",").append(Shortest(halves->y));
 }
 
 }  // namespace Tarvik::Util

@@ -12,10 +12,10 @@ namespace Tarvik::Seamap {
 
 /// A piece of the chart in degrees. West is at most east; an extent over the date line has an east above 180.
 struct Extent {
-    double west = -180;
-    double south = -90;
-    double east = 180;
-    double north = 90;
+    double west = -Util::kMostLongitude;
+    double south = -Util::kMostLatitude;
+    double east = Util::kMostLongitude;
+    double north = Util::kMostLatitude;
     bool operator==(const Extent&) const = default;
 
     /// Reads two corners given in either order: the greater longitude is the eastern limit, the greater

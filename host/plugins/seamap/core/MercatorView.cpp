@@ -105,7 +105,7 @@ WorldPoint MercatorView::ToWorld(PixelPoint point) const {
 Extent MercatorView::Visible() const {
     const GeoPoint upper = ToGeo({0, 0});
     const GeoPoint lower = ToGeo({0, static_cast<double>(height_)});
-    Extent extent{-180, lower.y, 180, upper.y};
+    Extent extent{-Util::kMostLongitude, lower.y, Util::kMostLongitude, upper.y};
     if (width_ < size_) {
         extent.west = upper.x;
         extent.east = upper.x + 360.0 * width_ / static_cast<double>(size_);

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include <tarvik/util/Jsona.h>
+#include <tarvik/util/PointText.h>
 
 #include "host/server/api/JsonWriter.h"
 
@@ -15,6 +16,9 @@ namespace Tarvik::Server::RouteMessages {
 namespace {
 
 using Util::Jsona;
+
+/// Some metre; what the network holds is no finer.
+constexpr int kPointDecimals = 5;
 
 /// Pieces between separators, empty ones too; an empty text has none.
 std::vector<std::string> Split(std::string_view text, char separator) {
@@ -78,15 +82,6 @@ double NumberOf(const Jsona& value) {
     return value.kind() == Jsona::Kind::Real ? value.real(kNone) : kNone;
 }
 
-std::string Decimal(double value) {
-    std::string text = fmt::format("{:.5f}", value);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') {
-        text.pop_back();
-    }
-    return text == "-0" ? "0" : text;
-}
-
 std::string Join(const std::vector<std::string>& texts, char separator) {
     std::string joined;
     for (const std::string& text : texts) {
@@ -102,7 +97,7 @@ std::string Pointset(const std::vector<GeoPoint>& points) {
     std::vector<std::string> texts;
     texts.reserve(points.size());
     for (const GeoPoint p : points) {
-        texts.push_back(PositionText(p));
+        texts.push_back(Util::ShortPointText(p, kPointDecimals));
     }
     return Join(texts, '|');
 }
@@ -204,10 +199,6 @@ std::string WriteError(int code, std::string_view reason) {
     JsonWriter out;
     out.BeginObject().Key("eid").Integer(code).TextMember("emsg", reason).EndObject();
     return out.Take();
-}
-
-std::string PositionText(GeoPoint p) {
-    return Decimal(p.x) + "," + Decimal(p.y);
 }
 
 }  // namespace Tarvik::Server::RouteMessages

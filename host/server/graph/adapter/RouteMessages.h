@@ -33,7 +33,4 @@ std::string WriteNearest(const NearestResult& result);
 /// {"eid":N,"emsg":"reason"}
 std::string WriteError(int code, std::string_view reason);
 
-/// Longitude and latitude as "x,y" with at most 5 decimals and without trailing zeros.
-std::string PositionText(GeoPoint p);
-
 }  // namespace Tarvik::Server::RouteMessages

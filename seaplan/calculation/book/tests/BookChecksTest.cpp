@@ -64,7 +64,7 @@ TEST(BookLimits, CommaPassesTheCheckAndEndsTheNumber) {
 
 TEST(BookLimits, CoordinatesAreReadWhereATextIsNoNumber) {
     using R = BookRefusal;
-    Position position{4, 51};
+    GeoPoint position{4, 51};
     EXPECT_EQ(CheckPosition("51 30N", Axis::Latitude, position), R::None);
     EXPECT_EQ(position.y, 51.5);
     EXPECT_EQ(position.x, 4) << "the other one stays";

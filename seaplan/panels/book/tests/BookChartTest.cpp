@@ -13,10 +13,10 @@ namespace {
 
 class BookChartTest : public BookFixture {
   protected:
-    static void DragPoint(const char* id, Position to) {
+    static void DragPoint(const char* id, GeoPoint to) {
         Interface::TellDrag("BOOKPOINTTYPE", {id, {}, {to.x, to.y}});
     }
-    static void Pull(Position from, Position to) {
+    static void Pull(GeoPoint from, GeoPoint to) {
         Interface::TellDrag("BOOKLINETYPE", {"0", {from.x, from.y}, {to.x, to.y}});
     }
     /// What would be saved.

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include <tarvik/util/GeoPoint.h>
+
 /// Records of the chart services. Positions are texts "x,y", longitude first, in degrees; colours are
 /// 0x00BBGGRR.
 namespace Tarvik::Interface {
@@ -79,10 +81,10 @@ struct TrvMapObjectList {
 
 /// Two corners in degrees; the chart reads them in either order. As result of TRV_MAP_GET_EXTENT a bus block.
 struct TrvMapExtent {
-    double first = 180.0;   ///< longitude of one corner
-    double second = 90.0;   ///< latitude of that corner
-    double third = -180.0;  ///< longitude of the other corner
-    double fourth = -90.0;  ///< latitude of the other corner
+    double first = Util::kMostLongitude;   ///< longitude of one corner
+    double second = Util::kMostLatitude;   ///< latitude of that corner
+    double third = -Util::kMostLongitude;  ///< longitude of the other corner
+    double fourth = -Util::kMostLatitude;  ///< latitude of the other corner
 };
 
 /// Result of TRV_MAP_GET_PORT.

@@ -5,20 +5,11 @@
 #include <vector>
 
 #include <tarvik/Export.h>
+#include <tarvik/util/GeoPoint.h>
 
 namespace Tarvik::Util {
 
-/// Degrees of the poles and of the date line, either way.
-inline constexpr double kMostLatitude = 90.0;
-inline constexpr double kMostLongitude = 180.0;
-
-/// Whether a position in degrees is one, both limits included; what is no number is none.
-constexpr bool IsOnEarth(double longitude, double latitude) {
-    return longitude >= -kMostLongitude && longitude <= kMostLongitude && latitude >= -kMostLatitude &&
-           latitude <= kMostLatitude;
-}
-
-/// A position in degrees, longitude first.
+/// A position in degrees as the lines below take it, longitude first. Points of all else are GeoPoint.
 struct _SPointF {
     float x = 0;  ///< longitude, up to kMostLongitude
     float y = 0;  ///< latitude, up to kMostLatitude

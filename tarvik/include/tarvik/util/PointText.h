@@ -6,18 +6,11 @@
 #include <string_view>
 
 #include <tarvik/Export.h>
+#include <tarvik/util/GeoPoint.h>
 
 /// Places as texts "x,y", longitude first, as messages, files and chart records hold them. What people type
 /// is read by TypedPosition.h.
 namespace Tarvik::Util {
-
-/// A place on the earth in degrees: `x` is the longitude, `y` the latitude.
-struct GeoPoint {
-    double x = 0;
-    double y = 0;
-
-    friend bool operator==(const GeoPoint&, const GeoPoint&) = default;
-};
 
 /// The halves of "x,y" as they stand; they see into the text.
 struct PointHalves {
@@ -34,5 +27,7 @@ TARVIK_API std::optional<GeoPoint> ReadPoint(std::string_view text);
 TARVIK_API std::optional<GeoPoint> ParsePoint(std::string_view text);
 /// "x,y" with as many decimals each.
 TARVIK_API std::string PointText(const GeoPoint& point, int decimals);
+/// The same with as few decimals as tell the number so rounded, and never "-0".
+TARVIK_API std::string ShortPointText(const GeoPoint& point, int mostDecimals);
 
 }  // namespace Tarvik::Util
