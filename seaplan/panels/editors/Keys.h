@@ -25,14 +25,17 @@ enum class Key {
     F9,
     S,
     D,
-    V
+    V,
+    Undo  ///< what the window system has for it, Ctrl+Z
 };
 
 /// A key with the keys held beside it.
 struct KeyPress {
     Key key = Key::Other;
     bool alt = false;
-    bool ctrl = false;
+    bool ctrl = false;       ///< alone
+    bool ctrlShift = false;  ///< these two alone
+    bool held = false;       ///< pressed before, and not let go since
 };
 
 /// Keys that mean the same over the cells of every table: Enter and F2 press the cell in front, Escape takes
@@ -55,6 +58,24 @@ bool OnCellKey(Editing& editing, KeyPress press, int row, int column) {
 /// Whether a key that no control has taken closes a dialog, as its close button does.
 inline bool ClosesDialog(KeyPress press) {
     return press.key == Key::Escape;
+}
+
+/// What a key does in a choice popup: goes to the line before or behind, or presses the line with the
+/// keyboard.
+enum class ChoiceStep { None, Before, Behind, Press };
+inline ChoiceStep StepOfKey(Key key) {
+    switch (key) {
+        case Key::Up:
+        case Key::Left:
+            return ChoiceStep::Before;
+        case Key::Down:
+        case Key::Right:
+            return ChoiceStep::Behind;
+        case Key::Enter:
+            return ChoiceStep::Press;
+        default:
+            return ChoiceStep::None;
+    }
 }
 
 }  // namespace Tarvik::Seaplan

@@ -129,6 +129,14 @@ void RemarkEditing::OnSubjectTyped(const std::string& text) {
     Typed();
 }
 
+bool RemarkEditing::OnSubjectKey(Key key) {
+    const bool leadsOn = key == Key::Enter;
+    if (leadsOn) {
+        d_.view.FocusBody();
+    }
+    return leadsOn;
+}
+
 void RemarkEditing::OnBodyTyped(const std::string& text) {
     body_ = text;
     Typed();

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/remark/RemarkDesk.h"
 
 namespace Tarvik::Seaplan {
@@ -29,6 +30,8 @@ class RemarkEditing {
 
     void OnSubjectTyped(const std::string& text);
     void OnBodyTyped(const std::string& text);
+    /// A key in the subject: Enter leads on to the text. False when it means nothing here.
+    bool OnSubjectKey(Key key);
     /// Another row is to be edited. The one on show stays where its text was to be saved and could not be.
     void Select(int row);
     /// No row is edited: the fields are empty and off.

@@ -34,6 +34,8 @@ class RemarkView : public PanelWindow {
     virtual void BringRowIntoView(int row) = 0;
     /// Puts the keyboard into the field of the subject.
     virtual void FocusSubject() = 0;
+    /// Puts it into the field of the text.
+    virtual void FocusBody() = 0;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -31,6 +31,7 @@ class RecordingRemarkView final : public RecordingPanelWindow<RemarkView> {
     int letterWidth = 8;
     std::vector<int> broughtIntoView;
     int focusedSubject = 0;
+    int focusedBody = 0;
     int raised = 0;
 
     void Show() override {
@@ -52,6 +53,7 @@ class RecordingRemarkView final : public RecordingPanelWindow<RemarkView> {
     void ShowTitle(const RemarkTitle& shown) override { title = shown; }
     void BringRowIntoView(int row) override { broughtIntoView.push_back(row); }
     void FocusSubject() override { ++focusedSubject; }
+    void FocusBody() override { ++focusedBody; }
     /// Titles of the rows.
     std::vector<std::string> Names() const {
         std::vector<std::string> names;

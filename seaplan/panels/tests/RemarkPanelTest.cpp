@@ -295,6 +295,16 @@ TEST_F(RemarkPanelTest, AnotherZoneReadsTheTimesAnew) {
     EXPECT_EQ(view.rows[0].time, "2024-03-01 00:00:00");
 }
 
+TEST_F(RemarkPanelTest, EnterInTheSubjectLeadsToTheText) {
+    OpenWith({"One"});
+    EXPECT_TRUE(panel.Editing().OnSubjectKey(Key::Enter));
+    EXPECT_EQ(view.focusedBody, 1);
+    for (const Key key : {Key::Other, Key::Escape, Key::Tab, Key::Down}) {
+        EXPECT_FALSE(panel.Editing().OnSubjectKey(key));
+    }
+    EXPECT_EQ(view.focusedBody, 1);
+}
+
 TEST_F(RemarkPanelTest, AnotherZoneTakesNeitherTheKeyboardNorRowsThatCannotBeReadAnew) {
     OpenWith({"One"});
     const int raised = view.raised;

@@ -219,6 +219,19 @@ TEST_F(SeaplanViewDlgTest, RecoverAllTakesEverythingOutOfTheBin) {
     EXPECT_EQ(panel.RecoverAll(), -1);
 }
 
+TEST(ChoicePopup, ArrowsWalkItsLinesAndEnterPressesOne) {
+    for (const Key key : {Key::Up, Key::Left}) {
+        EXPECT_EQ(StepOfKey(key), ChoiceStep::Before);
+    }
+    for (const Key key : {Key::Down, Key::Right}) {
+        EXPECT_EQ(StepOfKey(key), ChoiceStep::Behind);
+    }
+    EXPECT_EQ(StepOfKey(Key::Enter), ChoiceStep::Press);
+    for (const Key key : {Key::Space, Key::Escape, Key::Tab, Key::Other}) {
+        EXPECT_EQ(StepOfKey(key), ChoiceStep::None) << "the button's or the popup's own";
+    }
+}
+
 TEST_F(SeaplanViewDlgTest, TheFilterKeepsItsTickAndShowsTheRecycleBin) {
     desk.AddCategory("Full");
     desk.AddCategory("Old");

@@ -59,7 +59,7 @@ TEST_F(SearchKeysTest, ArrowKeysWalkOnlyWhatIsShown) {
     ctrl.OnRowPressed(tree.Find("Bulk"));
     std::vector<std::string> way;
     for (int i = 0; i < 4; ++i) {
-        ctrl.Keys().OnKey(Key::Down, tree.cursor, {});
+        ctrl.Keys().OnKey({Key::Down}, tree.cursor, {});
         way.push_back(tree.GetItemText(tree.cursor));
     }
     EXPECT_THAT(way, ElementsAre("Autumn", "Tankers", "Anna's", "Anna's"));

@@ -91,7 +91,7 @@ TEST_F(SearchSightTest, AVoyageThatWasFoundStaysUnfoldedAtTheEnd) {
     EXPECT_FALSE(tree.IsItemExpanded(tree.Find("Bulk")));
     EXPECT_EQ(tree.GetItemText(tree.Selected()), "Ore two");
     EXPECT_EQ(Cursor(), "Ore two");
-    ctrl.Keys().OnKey(Key::F2, tree.cursor, {});
+    ctrl.Keys().OnKey({Key::F2}, tree.cursor, {});
     EXPECT_EQ(box.text, "Ore two");
 }
 
@@ -100,10 +100,10 @@ TEST_F(SearchSightTest, ASelectedVoyageThatIsPutAsideIsNotDeletedByItsKey) {
     Press("Salt");
     Search("crude");
     desk.ForgetRecords();
-    ctrl.Keys().OnKey(Key::Delete, tree.Selected(), {});
+    ctrl.Keys().OnKey({Key::Delete}, tree.Selected(), {});
     EXPECT_TRUE(desk.host.requests.empty());
     EXPECT_NE(tree.Find("Salt"), kNoRow);
-    ctrl.Keys().OnKey(Key::Delete, tree.cursor, {});
+    ctrl.Keys().OnKey({Key::Delete}, tree.cursor, {});
     EXPECT_EQ(desk.Count(Ask::kDeleteVoyage, Id("Crude")), 1) << "the row with the keyboard is meant";
 }
 

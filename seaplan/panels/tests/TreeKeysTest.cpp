@@ -19,8 +19,9 @@ class TreeKeysTest : public TreeFixture {
         ctrl.ReloadTree();
     }
     /// A key on the row where the cursor is.
-    bool Press(Key key, const std::string& focused = {}) {
-        return ctrl.Keys().OnKey(key, tree.cursor, focused);
+    bool Press(Key key, const std::string& focused = {}) { return Press(KeyPress{key}, focused); }
+    bool Press(KeyPress press, const std::string& focused = {}) {
+        return ctrl.Keys().OnKey(press, tree.cursor, focused);
     }
     std::string Cursor() const { return tree.GetItemText(tree.cursor); }
     std::string SelectedText() const { return tree.GetItemText(tree.Selected()); }
@@ -168,10 +169,30 @@ TEST_F(TreeKeysTest, InsertAddsAVoyageToTheCategoryAndACategoryWithoutOne) {
     EXPECT_EQ(desk.Count(Ask::kAddCategory, "IDS_TREE_NEWVOYCATEGORY - 0"), 1);
 }
 
+TEST_F(TreeKeysTest, WhatChangesAVoyageIsDoneOnceWhileItsKeyIsHeld) {
+    ctrl.OnRowPressed(tree.Find("First"), true);
+    ctrl.OnRowPressed(tree.Find("A"));
+    const KeyPress duplicate{.key = Key::D, .ctrlShift = true};
+    EXPECT_TRUE(Press(duplicate));
+    EXPECT_EQ(desk.Count(Ask::kAddVoyage), 1);
+    for (KeyPress press : {duplicate, KeyPress{Key::Delete}, KeyPress{Key::Undo}}) {
+        press.held = true;
+        EXPECT_TRUE(Press(press)) << "nobody else's";
+    }
+    EXPECT_EQ(desk.Count(Ask::kAddVoyage), 1);
+    EXPECT_EQ(desk.Count(Ask::kDeleteVoyage), 0);
+    EXPECT_EQ(desk.Count(Ask::kRecoverVoyage), 0);
+    Press(Key::Delete);
+    EXPECT_EQ(desk.Count(Ask::kDeleteVoyage), 1);
+    EXPECT_TRUE(Press(Key::Undo));
+    EXPECT_EQ(desk.Count(Ask::kRecoverVoyage), 1);
+}
+
 TEST_F(TreeKeysTest, KeysWithoutAMeaningAreLeftToTheWindow) {
     for (const Key key : {Key::Other, Key::Tab, Key::Escape, Key::F9, Key::S}) {
         EXPECT_FALSE(Press(key));
     }
+    EXPECT_FALSE(Press({.key = Key::D, .ctrl = true}));
     EXPECT_FALSE(Press(Key::F2)) << "no row";
     EXPECT_FALSE(Press(Key::Delete));
 }

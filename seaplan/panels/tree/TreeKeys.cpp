@@ -140,9 +140,30 @@ TreeRow TreeKeys::OnMenuKey(TreeRow current) {
     return row;
 }
 
-bool TreeKeys::OnKey(Key key, TreeRow current, const std::string& focused) {
+/// Keys that would do it to one row after the other while they are held.
+bool TreeKeys::OnOnceKey(KeyPress press, TreeRow row) {
+    switch (press.key) {
+        case Key::Delete:
+            return press.held || ClickFirst(row, {Item::kDeleteCategory, Item::kDeleteVoyage,
+                                                  Item::kClearCategory, Item::kClearVoyage});
+        case Key::Undo:
+            if (!press.held) {
+                Undo();
+            }
+            return true;
+        case Key::D:
+            if (press.ctrlShift && !press.held) {
+                Duplicate();
+            }
+            return press.ctrlShift;
+        default:
+            return false;
+    }
+}
+
+bool TreeKeys::OnKey(KeyPress press, TreeRow current, const std::string& focused) {
     const TreeRow row = RowOfKey(current);
-    switch (key) {
+    switch (const Key key = press.key) {
         case Key::Down:
         case Key::Up:
             Step(RowOfStep(current), key == Key::Down ? 1 : -1);
@@ -165,14 +186,11 @@ bool TreeKeys::OnKey(Key key, TreeRow current, const std::string& focused) {
             return true;
         case Key::F2:
             return ClickFirst(row, {Item::kRenameCategory, Item::kRenameVoyage});
-        case Key::Delete:
-            return ClickFirst(
-                row, {Item::kDeleteCategory, Item::kDeleteVoyage, Item::kClearCategory, Item::kClearVoyage});
         case Key::Insert:
             Insert(row);
             return true;
         default:
-            return false;
+            return OnOnceKey(press, row);
     }
 }
 

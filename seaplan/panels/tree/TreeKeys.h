@@ -19,8 +19,9 @@ bool IsOnScreen(const TreeWidget& tree, TreeRow row);
 
 /// What the keys do in the tree: Up and Down walk the rows, PageUp and PageDown by leaps, Home and End lead
 /// to the first and the last, Right and Left fold, Enter and Space press, F2 renames, Insert adds a voyage or
-/// a category, Delete moves to the recycle bin, and out of it for good. A row that cannot be seen is not
-/// meant by any of them.
+/// a category, Delete moves to the recycle bin, and out of it for good, Ctrl+Shift+D duplicates, and Undo
+/// takes back. A row that cannot be seen is not meant by any of them; the last three act once, however long
+/// they are held.
 class TreeKeys {
   public:
     /// What the keys lead to.
@@ -35,7 +36,7 @@ class TreeKeys {
 
     /// A key while the keyboard is on the row `current`, kNoRow for none, and on the item `focused` of the
     /// selected row, empty for none. False when it means nothing here.
-    bool OnKey(Key key, TreeRow current, const std::string& focused);
+    bool OnKey(KeyPress press, TreeRow current, const std::string& focused);
 
     /// TreeUndo::Undo.
     int Undo() { return ways_.undo(); }
@@ -55,6 +56,7 @@ class TreeKeys {
     void Fold(TreeRow row, bool open);
     void Press(TreeRow row, const std::string& focused);
     void Insert(TreeRow row);
+    bool OnOnceKey(KeyPress press, TreeRow row);
 
     TreeWidget& tree_;
     Ways ways_;

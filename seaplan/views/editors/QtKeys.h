@@ -7,13 +7,6 @@
 
 namespace Tarvik::Seaplan {
 
-inline KeyPress PressOf(const QKeyEvent& event);
-
-/// Whether a key closes a dialog: a report of its window.
-inline bool KeyClosesDialog(const QKeyEvent& event) {
-    return ClosesDialog(PressOf(event));
-}
-
 /// The window system's key as panels know keys.
 inline KeyPress PressOf(const QKeyEvent& event) {
     constexpr struct {
@@ -27,14 +20,23 @@ inline KeyPress PressOf(const QKeyEvent& event) {
         {Qt::Key_Space, Key::Space},   {Qt::Key_Insert, Key::Insert}, {Qt::Key_F2, Key::F2},
         {Qt::Key_F9, Key::F9},         {Qt::Key_Delete, Key::Delete}, {Qt::Key_Backspace, Key::Backspace},
         {Qt::Key_S, Key::S},           {Qt::Key_D, Key::D},           {Qt::Key_V, Key::V}};
-    KeyPress press{Key::Other, event.modifiers().testFlag(Qt::AltModifier),
-                   (event.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier};
+    const auto beside = event.modifiers() & ~Qt::KeypadModifier;
+    KeyPress press{.key = event.matches(QKeySequence::Undo) ? Key::Undo : Key::Other,
+                   .alt = beside.testFlag(Qt::AltModifier),
+                   .ctrl = beside == Qt::ControlModifier,
+                   .ctrlShift = beside == (Qt::ControlModifier | Qt::ShiftModifier),
+                   .held = event.isAutoRepeat()};
     for (const auto& known : kKeys) {
         if (known.qt == event.key()) {
             press.key = known.key;
         }
     }
     return press;
+}
+
+/// Whether a key closes a dialog: a report of its window.
+inline bool KeyClosesDialog(const QKeyEvent& event) {
+    return ClosesDialog(PressOf(event));
 }
 
 /// The printable text of a key, empty for a key that begins a command or has none.

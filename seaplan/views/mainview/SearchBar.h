@@ -7,7 +7,7 @@
 #include <QWidget>
 
 #include "seaplan/panels/tree/search/SearchView.h"
-#include "seaplan/views/window/ChoiceBox.h"
+#include "seaplan/views/editors/ChoiceBox.h"
 
 namespace Tarvik::Seaplan {
 

@@ -2,7 +2,6 @@
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 
 #include <QAccessible>
-#include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -64,25 +63,14 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
     tree_->SetReports(
         {[tree](TreeRow row, bool beside) { tree->OnRowPressed(row, beside); },
          [tree](TreeRow row, const std::string& item) { tree->OnItemClicked(row, item); },
-         [tree](Key key, TreeRow row, const std::string& item) { return tree->Keys().OnKey(key, row, item); },
+         [tree](KeyPress press, TreeRow row, const std::string& item) {
+             return tree->Keys().OnKey(press, row, item);
+         },
          [tree](const std::string& text) { tree->Renaming().OnTyped(text); },
          [tree](Key key) { return tree->Renaming().OnKey(key); }, [tree] { tree->Renaming().Commit(); },
          [tree](const std::string& item) { return tree->HasCommand(item); },
          [tree](TreeRow row) { return tree->Keys().OnMenuKey(row); }, [tree] { tree->Keys().Undo(); }});
     tree->Context().line = [this](const std::string& text) { ShowLine(QString::fromStdString(text)); };
-    AddKeys(tree);
-}
-
-/// Keys of the tree alone: in a field of this window the same keys are the field's.
-void VoyagePanelWindow::AddKeys(SeaplanTreeCtrl* tree) {
-    const auto add = [this](const QKeySequence& keys, auto act) {
-        auto* shortcut = new QShortcut(keys, tree_);
-        shortcut->setContext(Qt::WidgetShortcut);
-        shortcut->setAutoRepeat(false);
-        QObject::connect(shortcut, &QShortcut::activated, this, act);
-    };
-    add(QKeySequence::Undo, [tree] { tree->Keys().Undo(); });
-    add(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D), [tree] { tree->Keys().Duplicate(); });
 }
 
 /// In the strip below the tree, which is free; a text of more lines covers as much of the tree as it needs.

@@ -4,10 +4,10 @@
 #include <QLabel>
 
 #include "seaplan/panels/window/PanelWindow.h"
+#include "seaplan/views/editors/ChoiceBox.h"
 #include "seaplan/views/mainview/SearchBar.h"
 #include "seaplan/views/tree/VoyageTreeView.h"
 #include "seaplan/views/vessel/VesselBox.h"
-#include "seaplan/views/window/ChoiceBox.h"
 #include "seaplan/views/window/FloatingPanel.h"
 
 namespace Tarvik::Seaplan {
@@ -37,7 +37,6 @@ class VoyagePanelWindow final : public PanelFrame<PanelWindow> {
   private:
     void ShowLine(const QString& text);
     void PlaceLine();
-    void AddKeys(SeaplanTreeCtrl* tree);
 
     VoyageTreeView* tree_;
     VesselBox* vessels_;

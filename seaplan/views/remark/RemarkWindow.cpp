@@ -14,7 +14,7 @@
 #include "seaplan/panels/remark/CRemarkPanel.h"
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/NoteTexts.h"
-#include "seaplan/views/editors/QtKeys.h"
+#include "seaplan/views/editors/KeyReport.h"
 
 namespace Tarvik::Seaplan {
 
@@ -110,7 +110,7 @@ void RemarkWindow::Attach(CRemarkPanel* panel) {
                        [&editing](int row) { editing.Select(row); }});
     QObject::connect(subject_, &QLineEdit::textEdited, this,
                      [&editing](const QString& text) { editing.OnSubjectTyped(text.toStdString()); });
-    QObject::connect(subject_, &QLineEdit::returnPressed, this, [this] { body_->setFocus(); });
+    new KeyReport(*subject_, [&editing](KeyPress press) { return editing.OnSubjectKey(press.key); });
     QObject::connect(body_, &QPlainTextEdit::textChanged, this,
                      [this, &editing] { editing.OnBodyTyped(body_->toPlainText().toStdString()); });
     QObject::connect(add_, &QToolButton::clicked, this, [panel] { panel->New(); });
@@ -165,6 +165,10 @@ void RemarkWindow::BringRowIntoView(int row) {
 
 void RemarkWindow::FocusSubject() {
     subject_->setFocus();
+}
+
+void RemarkWindow::FocusBody() {
+    body_->setFocus();
 }
 
 void RemarkWindow::FocusFirst() {

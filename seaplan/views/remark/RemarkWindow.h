@@ -30,6 +30,7 @@ class RemarkWindow final : public PanelFrame<RemarkView> {
     void ShowTitle(const RemarkTitle& title) override;
     void BringRowIntoView(int row) override;
     void FocusSubject() override;
+    void FocusBody() override;
     void ApplySkin() override;
 
   protected:

@@ -14,7 +14,7 @@
 
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/TreeTexts.h"
-#include "seaplan/views/window/ChoiceBox.h"
+#include "seaplan/views/editors/ChoiceBox.h"
 #include "seaplan/views/window/DialogTexts.h"
 
 namespace Tarvik::Seaplan {

@@ -16,12 +16,12 @@
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/TreeKeys.h"
+#include "seaplan/views/editors/ChoiceBox.h"
 #include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/tree/RenameField.h"
 #include "seaplan/views/tree/RowModel.h"
 #include "seaplan/views/tree/TreeReach.h"
 #include "seaplan/views/tree/VoyageTreeWidget.h"
-#include "seaplan/views/window/ChoiceBox.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -145,13 +145,9 @@ void VoyageTreeView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void VoyageTreeView::keyPressEvent(QKeyEvent* event) {
-    // A key that is held would delete one row after the other.
-    if (event->key() == Qt::Key_Delete && event->isAutoRepeat()) {
-        return;
-    }
     const TreeRow current = RowModel::RowOf(currentIndex());
     const std::string item = FocusedPart();
-    if (!reports_.key || !reports_.key(PressOf(*event).key, current, item)) {
+    if (!reports_.key || !reports_.key(PressOf(*event), current, item)) {
         event->ignore();
     } else if (!item.empty() && !FocusedPart().empty() && FocusedPart() != item) {
         // The item that stands there now says the other state.

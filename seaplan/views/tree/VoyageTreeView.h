@@ -32,7 +32,7 @@ class VoyageTreeView : public QTreeView {
         std::function<void(TreeRow, bool beside)> pressed;  ///< `beside` its items
         std::function<void(TreeRow, const std::string&)> clicked;
         /// A key while the keyboard is on a row and an item; false when it means nothing.
-        std::function<bool(Key, TreeRow, const std::string&)> key;
+        std::function<bool(KeyPress, TreeRow, const std::string&)> key;
         std::function<void(const std::string&)> renameTyped;
         std::function<bool(Key)> renameKey;
         std::function<void()> renameDone;

@@ -13,6 +13,8 @@
 
 namespace Tarvik::Seaplan {
 
+enum class ChoiceStep;
+
 /// A popup of check or radio buttons. It has the keyboard while it is open: Up and Down walk its lines, Space
 /// and Enter press one, Escape closes it.
 class ChoiceBox final : public QFrame, public ChoicePopup, public DialogTexts {
@@ -32,15 +34,14 @@ class ChoiceBox final : public QFrame, public ChoicePopup, public DialogTexts {
 
   protected:
     void ApplyClassTexts(QWidget& window) override;
-    /// The lines' keys.
-    bool eventFilter(QObject* watched, QEvent* event) override;
     /// A press on the anchor closes the box and goes no further, or it would open it again.
     void mousePressEvent(QMouseEvent* event) override;
 
   private:
     QAbstractButton* ButtonOf(TextId id);
     std::vector<QAbstractButton*> Lines() const;
-    void Walk(const QObject* from, std::ptrdiff_t by);
+    void Walk(const QAbstractButton* from, std::ptrdiff_t by);
+    bool Step(QAbstractButton& line, ChoiceStep step);
 
     Kind kind_;
     QWidget* anchor_;

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/window/ChoiceBox.h"
+#include "seaplan/views/editors/ChoiceBox.h"
 
 #include <QCheckBox>
 #include <QCursor>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -14,6 +13,8 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
+
+#include "seaplan/views/editors/KeyReport.h"
 
 namespace Tarvik::Seaplan {
 
@@ -46,7 +47,7 @@ QAbstractButton* ChoiceBox::ButtonOf(TextId id) {
     TieText(*button, id);
     const auto name = names_.find(id);
     button->setObjectName(name == names_.end() ? QString() : QString::fromLatin1(name->second));
-    button->installEventFilter(this);
+    new KeyReport(*button, [this, button](KeyPress press) { return Step(*button, StepOfKey(press.key)); });
     layout()->addWidget(button);
     QObject::connect(button, &QAbstractButton::clicked, this, [this, id] {
         if (chosen_) {
@@ -98,7 +99,7 @@ std::vector<QAbstractButton*> ChoiceBox::Lines() const {
 }
 
 /// The window system would tick a radio button that is only walked over.
-void ChoiceBox::Walk(const QObject* from, std::ptrdiff_t by) {
+void ChoiceBox::Walk(const QAbstractButton* from, std::ptrdiff_t by) {
     const auto lines = Lines();
     const auto at = std::find(lines.begin(), lines.end(), from) - lines.begin() + by;
     if (at >= 0 && at < std::ssize(lines)) {
@@ -106,26 +107,13 @@ void ChoiceBox::Walk(const QObject* from, std::ptrdiff_t by) {
     }
 }
 
-bool ChoiceBox::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress) {
-        return false;
+bool ChoiceBox::Step(QAbstractButton& line, ChoiceStep step) {
+    if (step == ChoiceStep::Press) {
+        line.click();
+    } else if (step != ChoiceStep::None) {
+        Walk(&line, step == ChoiceStep::Behind ? 1 : -1);
     }
-    switch (static_cast<QKeyEvent*>(event)->key()) {
-        case Qt::Key_Down:
-        case Qt::Key_Right:
-            Walk(watched, 1);
-            return true;
-        case Qt::Key_Up:
-        case Qt::Key_Left:
-            Walk(watched, -1);
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            static_cast<QAbstractButton*>(watched)->click();
-            return true;
-        default:
-            return false;
-    }
+    return step != ChoiceStep::None;
 }
 
 void ChoiceBox::mousePressEvent(QMouseEvent* event) {
