@@ -38,7 +38,7 @@ Outcome<LoadStep> ScheduleLoader::Fetch(VoyInfo& voyage, PortCallRows& rows) {
 Outcome<LoadStep> ScheduleLoader::Load(const std::string& vi, PortCallRows& rows,
                                        std::optional<DrawMode> mode) {
     const auto read = Read(vi, rows, mode);
-    if (IsScheduleLoaded(kLoadScheduleCodes.Of(read))) {
+    if (LoadEndOf(kLoadScheduleCodes.Of(read)) == LoadEnd::Loaded) {
         module_->Pending().NoteLoaded(vi, rows);
     }
     return read;

@@ -23,10 +23,15 @@ inline constexpr CodeTable kLoadScheduleCodes{
     Code{LoadStep::Mode, -8},      // it is loaded, the draw mode is none
 };
 
-/// Whether a LoadSchedule with this result has loaded: a failure to draw comes after it.
-constexpr bool IsScheduleLoaded(int code) {
-    return code == 0 || code == kLoadScheduleCodes.Of(LoadStep::Progress) ||
-           code == kLoadScheduleCodes.Of(LoadStep::BookLine);
+/// What a LoadSchedule has brought: the schedule, its rows alone, or nothing that can be relied on.
+enum class LoadEnd { Loaded, WithoutBook, Unread };
+/// The end that a result of LoadSchedule tells. A failure to draw comes behind the loading.
+constexpr LoadEnd LoadEndOf(int code) {
+    const auto is = [code](LoadStep step) { return code == kLoadScheduleCodes.Of(step); };
+    if (code == 0 || is(LoadStep::Progress) || is(LoadStep::BookLine)) {
+        return LoadEnd::Loaded;
+    }
+    return is(LoadStep::Book) || is(LoadStep::Totals) ? LoadEnd::WithoutBook : LoadEnd::Unread;
 }
 
 enum class DiscardStep { Id, Voyage, Load };

@@ -2,17 +2,14 @@
 #include "seaplan/plugin/PlanService.h"
 
 #include <algorithm>
-#include <cmath>
+#include <functional>
 
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
-#include <tarvik/interface/PlanTerms.h>
-#include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/PendingRoute.h"
-#include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
@@ -23,70 +20,12 @@
 
 namespace Tarvik::Seaplan {
 
-namespace {
-
-PortCallRows RowsOf(const PlanRequest& request) {
-    PortCallRows rows;
-    for (const PlanPort& port : request.ports) {
-        VoyPortCall row;
-        row.ppn = port.name;
-        row.pp = port.purpose;
-        row.psp = port.speed;
-        row.pw = port.weather;
-        row.apt = port.portTime;
-        row.eta = request.start;
-        rows.push_back(row);
-    }
-    return rows;
-}
-
-/// What is wrong with a port's figures, empty when nothing is. The schedule would repair a missing speed,
-/// which a person who typed it does not expect.
-std::string ComplaintOf(const PlanPort& port) {
-    if (!(static_cast<double>(port.speed) >= Interface::kLeastKnots) || !std::isfinite(port.speed)) {
-        return Util::StringUtl::Format("the speed must be above %g knots", Interface::kLeastKnots);
-    }
-    if (!(port.weather >= 0) || static_cast<double>(port.weather) >= Interface::kLeastFullWeather) {
-        return "the weather factor must be from 0 to below 100 %";
-    }
-    return port.portTime >= 0 ? "" : "the hours in port must be 0 or more";
-}
-
-bool IsTooWide(const std::string& name, int limit) {
-    return Util::StringUtl::Width(name) > limit;
-}
-
-std::string WordsOfWidths() {
-    return Util::StringUtl::Format(
-        "a category's name has at most %d characters and a voyage's at most %d, wide ones counted twice",
-        kCategoryNameWidth, kVoyageNameWidth);
-}
-
-/// Words for a code of CalculatePortCalls.
-std::string WordsOfCalculation(int code) {
-    using Step = CalculationStep;
-    switch (code) {
-        case kCalculatePortCallsCodes.Of(Step::Route):
-            return "the server has no route for these ports";
-        case kCalculatePortCallsCodes.Of(Step::Times):
-            return "speed, weather and stays lead to times that do not exist";
-        case kCalculatePortCallsCodes.Of(Step::Book):
-            return "the table of ports and route points is missing or does not know the route's points";
-        case kCalculatePortCallsCodes.Of(Step::Distances):
-            return "the route has a leg without length";
-        default:
-            return "the route could not be put on the chart";
-    }
-}
-
-}  // namespace
-
 const PlanResult& PlanService::Plan(const PlanRequest& request) {
     const bool loadedBefore = !store_->categories.empty();
     // A panel that saves later must neither take this route for its own nor miss the one it has calculated.
     const PendingRoute::Rollback panelsRoute(voyages_->Module().Pending());
     result_ = {};
-    if (Run(request) < 0) {
+    if (Run(request) != Interface::PlanDone) {
         PlanResult failure;
         failure.code = result_.code;
         failure.step = result_.step;
@@ -99,34 +38,42 @@ const PlanResult& PlanService::Plan(const PlanRequest& request) {
     return result_;
 }
 
-int PlanService::Fail(int code, const std::string& step) {
+PlanCode PlanService::Fail(PlanCode code, const std::string& step) {
     result_.code = code;
     result_.step = step;
     return code;
 }
 
-int PlanService::Run(const PlanRequest& request) {
+PlanCode PlanService::Run(const PlanRequest& request) {
     PortCallRows rows;
-    if (Connect() < 0 || Prepare(request, rows) < 0 || CheckNames(request) < 0) {
-        return result_.code;
+    const std::function<PlanCode()> steps[] = {
+        [this] { return Connect(); },
+        [&] { return Prepare(request, rows); },
+        [&] { return CheckNames(request); },
+        [&] { return Calculate(rows); },
+        [&] {
+            return FillResult({request.units.speed, request.units.distance, request.units.time});
+        },
+        [&] { return request.save ? Save(request) : Interface::PlanDone; },
+    };
+    for (const auto& step : steps) {
+        if (const PlanCode code = step(); code != Interface::PlanDone) {
+            return code;
+        }
     }
-    if (Calculate(rows) < 0 ||
-        FillResult({request.units.speed, request.units.distance, request.units.time}) < 0) {
-        return result_.code;
-    }
-    return request.save ? Save(request) : 0;
+    return Interface::PlanDone;
 }
 
-int PlanService::Connect() {
+PlanCode PlanService::Connect() {
     std::string user;
     if (catalog_->Connect(user) < 0) {
         return Fail(Interface::PlanNotConnected, "not connected to the voyage server");
     }
     return catalog_->Load(user) < 0 ? Fail(Interface::PlanNotLoaded, "the user's voyages could not be loaded")
-                                    : 0;
+                                    : Interface::PlanDone;
 }
 
-int PlanService::Prepare(const PlanRequest& request, PortCallRows& rows) {
+PlanCode PlanService::Prepare(const PlanRequest& request, PortCallRows& rows) {
     for (const PlanPort& port : request.ports) {
         if (const std::string complaint = ComplaintOf(port); !complaint.empty()) {
             return Fail(Interface::PlanNotCalculated, complaint);
@@ -142,22 +89,23 @@ int PlanService::Prepare(const PlanRequest& request, PortCallRows& rows) {
     }
     return DropSamePortRows(typed, ports_->SamePorts(), rows) < 0
                ? Fail(Interface::PlanTooFewPorts, "fewer than two different ports")
-               : 0;
+               : Interface::PlanDone;
 }
 
-int PlanService::CheckNames(const PlanRequest& request) {
+PlanCode PlanService::CheckNames(const PlanRequest& request) {
     if (!request.save) {
-        return 0;
+        return Interface::PlanDone;
     }
     const std::string voyage = NormalizeName(request.voyage);
     const std::string category = NormalizeName(request.category);
     if (category.empty() || voyage.empty()) {
         return Fail(Interface::PlanNameMissing, "a saved voyage needs a name and a category");
     }
-    if (IsTooWide(category, kCategoryNameWidth) || IsTooWide(voyage, kVoyageNameWidth)) {
-        return Fail(Interface::PlanNameMissing, WordsOfWidths());
+    if (const std::string complaint = ComplaintOfNames(category, voyage); !complaint.empty()) {
+        return Fail(Interface::PlanNameMissing, complaint);
     }
-    return IsTaken(voyage) ? Fail(Interface::PlanNameTaken, "a voyage of this name exists") : 0;
+    return IsTaken(voyage) ? Fail(Interface::PlanNameTaken, "a voyage of this name exists")
+                           : Interface::PlanDone;
 }
 
 /// A destroyed voyage has given its name back, and one of the same name may stand beside it.
@@ -169,7 +117,7 @@ bool PlanService::IsTaken(const std::string& name) const {
     });
 }
 
-int PlanService::Calculate(const PortCallRows& rows) {
+PlanCode PlanService::Calculate(const PortCallRows& rows) {
     PortCallRows& scheduled = rows_;
     if (const int code = voyages_->CalculatePortCalls(rows, scheduled); code < 0) {
         return Fail(Interface::PlanNotCalculated, WordsOfCalculation(code));
@@ -182,10 +130,10 @@ int PlanService::Calculate(const PortCallRows& rows) {
     }
     // A schedule pass makes the first port one of loading; a person may change the purpose afterwards.
     scheduled.front().pp = rows.front().pp;
-    return 0;
+    return Interface::PlanDone;
 }
 
-int PlanService::FillResult(const UnitSet& units) {
+PlanCode PlanService::FillResult(const UnitSet& units) {
     BookPoints book;
     if (voyages_->Module().BookFromCurrentStops(book) < 0) {
         return Fail(Interface::PlanNotCalculated, "the route makes no position book");
@@ -199,7 +147,7 @@ int PlanService::FillResult(const UnitSet& units) {
     }
     TellSchedule(rows_, result_);
     TellTable(rows_, units, result_);
-    return 0;
+    return Interface::PlanDone;
 }
 
 /// `made` tells whether the category is a new one.
@@ -216,7 +164,7 @@ int PlanService::FindCategory(const std::string& name, bool& made) {
     return catalog_->AddCategory(name, result_.categoryId);
 }
 
-int PlanService::Save(const PlanRequest& request) {
+PlanCode PlanService::Save(const PlanRequest& request) {
     bool newCategory = false;
     if (FindCategory(NormalizeName(request.category), newCategory) < 0) {
         return Fail(Interface::PlanNoCategory, "the category could not be made");
@@ -228,7 +176,7 @@ int PlanService::Save(const PlanRequest& request) {
     if (voyages_->SaveSchedule(result_.voyageId, rows_, -1) < 0) {
         return Fail(Interface::PlanNotSaved, "the schedule could not be saved" + TakeBack(newCategory));
     }
-    return 0;
+    return Interface::PlanDone;
 }
 
 /// Leaves nothing half saved behind: what is in use goes into the recycle bin first, as nothing else is

@@ -16,6 +16,7 @@ namespace Tarvik::Seaplan {
 class VoyCatalogController;
 class VoyController;
 
+using Interface::PlanCode;
 using Interface::PlanPort;
 using Interface::PlanRequest;
 using Interface::PlanResult;
@@ -31,17 +32,17 @@ class PlanService {
     const PlanResult& Plan(const PlanRequest& request);
 
   private:
-    int Run(const PlanRequest& request);
-    int Connect();
-    int Prepare(const PlanRequest& request, PortCallRows& rows);
-    int CheckNames(const PlanRequest& request);
+    PlanCode Run(const PlanRequest& request);
+    PlanCode Connect();
+    PlanCode Prepare(const PlanRequest& request, PortCallRows& rows);
+    PlanCode CheckNames(const PlanRequest& request);
     bool IsTaken(const std::string& name) const;
-    int Calculate(const PortCallRows& rows);
-    int FillResult(const UnitSet& units);
-    int Save(const PlanRequest& request);
+    PlanCode Calculate(const PortCallRows& rows);
+    PlanCode FillResult(const UnitSet& units);
+    PlanCode Save(const PlanRequest& request);
     int FindCategory(const std::string& name, bool& made);
     std::string TakeBack(bool newCategory);
-    int Fail(int code, const std::string& step);
+    PlanCode Fail(PlanCode code, const std::string& step);
 
     VoyCatalogController* catalog_;
     VoyController* voyages_;

@@ -13,6 +13,7 @@ namespace Tarvik::Seaplan {
 class CellEditing;
 class CorrectedSchedule;
 class PortCallDesk;
+enum class LoadEnd;
 
 /// Which voyage the panel shows: opening one, emptying the table, and what becomes of changes that were not
 /// saved.
@@ -61,7 +62,7 @@ class VoyageFilling {
     bool MayLeave();
     void TakeOver(const std::string& vi);
     int Show(DrawMode mode);
-    void ShowUnfinished(int code, PortCallRows rows);
+    void ShowUnfinished(LoadEnd end, PortCallRows rows);
     void Clear();
     int Load(DrawMode mode);
 

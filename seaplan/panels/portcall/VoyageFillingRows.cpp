@@ -13,11 +13,9 @@ namespace Tarvik::Seaplan {
 
 /// Rows that came without a book of theirs, as a save leaves them that broke off: they wait to be calculated.
 /// Without any rows nobody knows whether the voyage has some.
-void VoyageFilling::ShowUnfinished(int code, PortCallRows rows) {
+void VoyageFilling::ShowUnfinished(LoadEnd end, PortCallRows rows) {
     PortCallSheet& sheet = desk_.Sheet();
-    const bool without =
-        code == kLoadScheduleCodes.Of(LoadStep::Book) || code == kLoadScheduleCodes.Of(LoadStep::Totals);
-    sheet.unread = !without || rows.empty();
+    sheet.unread = end != LoadEnd::WithoutBook || rows.empty();
     if (!sheet.unread) {
         ResolvePortIds(rows);
         sheet.ShowEntered(rows);
@@ -30,13 +28,13 @@ void VoyageFilling::ShowUnfinished(int code, PortCallRows rows) {
 int VoyageFilling::Load(DrawMode mode) {
     PortCallSheet& sheet = desk_.Sheet();
     PortCallRows loaded;
-    const int code = [&] {
+    const LoadEnd end = [&] {
         const PortCallDesk::Busy busy(desk_);
-        return desk_.Voyages().LoadSchedule(sheet.voyageId, loaded, NumberOf(mode));
+        return LoadEndOf(desk_.Voyages().LoadSchedule(sheet.voyageId, loaded, NumberOf(mode)));
     }();
-    if (!IsScheduleLoaded(code)) {
+    if (end != LoadEnd::Loaded) {
         Clear();
-        ShowUnfinished(code, std::move(loaded));
+        ShowUnfinished(end, std::move(loaded));
         return 0;
     }
     PortCallRows rows;
