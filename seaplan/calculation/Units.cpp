@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string_view>
 
 #include <tarvik/interface/PlanTerms.h>
@@ -39,6 +40,14 @@ constexpr auto kFactors = std::to_array<Factor>({
     {"day", "hour", 24, 1, UnitKind::Time},
     {"hour", "day", 1, 24, UnitKind::Time},
 });
+
+struct SpeedWords {
+    std::string_view unit;
+    std::array<std::string_view, 3> words;
+};
+
+constexpr SpeedWords kSpeedWords[] = {{"kts", {"kt", "kn", "节"}}, {"KPH", {"kph", "km", "公里"}}};
+static_assert(std::size(kSpeedWords) == Interface::kSpeedUnits.size(), "each unit on offer has its words");
 
 float Changed(float value, const Factor& factor) {
     return static_cast<float>(static_cast<double>(value) * static_cast<double>(factor.multiplier) /
@@ -125,6 +134,15 @@ std::span<const char* const> OfferedUnits(UnitKind kind) {
         default:
             return Interface::kTimeUnits;
     }
+}
+
+std::span<const std::string_view> WordsOfSpeedUnit(std::string_view unit) {
+    for (const SpeedWords& known : kSpeedWords) {
+        if (known.unit == unit) {
+            return known.words;
+        }
+    }
+    return {};
 }
 
 int ConvertRows(const PortCallRows& rows, const std::string& from, const std::string& to, PortCallRows& out) {

@@ -3,6 +3,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 #include <tarvik/util/DateTime.h>
 
@@ -29,6 +30,8 @@ const std::string& UnitOf(const UnitSet& units, UnitKind kind);
 std::string UnitLabel(const UnitSet& units, UnitKind kind);
 /// The names that a person can choose from for a quantity, which is not None.
 std::span<const char* const> OfferedUnits(UnitKind kind);
+/// What texts call a unit of speed that a person can choose, in small letters; empty for any other.
+std::span<const std::string_view> WordsOfSpeedUnit(std::string_view unit);
 
 /// Changes one quantity of every row as value * multiplier / divisor. 0; -1 for a pair of units without a
 /// factor (out cleared); -2 for no rows. The empty input is tested first.

@@ -59,6 +59,13 @@ TEST(PortCallColumns, EveryOfferedUnitIsOneThatConverts) {
     }
 }
 
+TEST(PortCallColumns, EveryOfferedUnitOfSpeedIsKnownByItsWords) {
+    for (const char* unit : OfferedUnits(UnitKind::Speed)) {
+        EXPECT_FALSE(WordsOfSpeedUnit(unit).empty()) << unit;
+    }
+    EXPECT_TRUE(WordsOfSpeedUnit("MPH").empty()) << "not on offer";
+}
+
 TEST(PortCallColumns, TotalsLeaveTheColumnsWithoutOne) {
     PortCallRows rows(2);
     rows[1].steamTime = 24;

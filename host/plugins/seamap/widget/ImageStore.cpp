@@ -6,6 +6,7 @@
 #include <QSvgRenderer>
 #include <algorithm>
 
+#include <tarvik/skin/Colours.h>
 #include <tarvik/util/FileUtl.h>
 
 namespace Tarvik::Seamap {
@@ -62,7 +63,7 @@ QPixmap StandIn(qreal ratio) {
     hull.lineTo(-4, 0);
     hull.quadTo(-4, -5, 0, -9);
     painter.setPen(QPen(Qt::white, 1.5));
-    painter.setBrush(QColor(0x1E8E5A));
+    painter.setBrush(QColor(Skin::ColourOf(Skin::Role::Underway, Skin::Theme::Light)));
     painter.drawPath(hull);
     return picture;
 }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <tarvik/interface/PlanTerms.h>
+
 #include "host/server/api/tests/ServiceFixture.h"
 
 namespace Tarvik::Server {
@@ -71,8 +73,9 @@ TEST_F(ScheduleCommandsTest, PortThatTheNetworkDoesNotKnowIsRefused) {
 }
 
 TEST_F(ScheduleCommandsTest, EveryPurposeIsTaken) {
-    for (const char purpose : std::string("12BCDLOWYZ")) {
-        Converse({{11, std::string(R"(["1000002","0|1|A|)") + purpose + R"(|1.000|0.000|0.0"])", kSuccess}});
+    for (const Interface::Purpose& purpose : Interface::kPurposes) {
+        Converse(
+            {{11, std::string(R"(["1000002","0|1|A|)") + purpose.code + R"(|1.000|0.000|0.0"])", kSuccess}});
     }
 }
 

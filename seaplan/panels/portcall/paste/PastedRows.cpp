@@ -13,6 +13,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/PortCallColumns.h"
+#include "seaplan/calculation/Units.h"
 #include "seaplan/panels/language/LoadText.h"
 
 namespace Tarvik::Seaplan {
@@ -245,28 +246,29 @@ void KeepOneOfEach(PastedRows& pasted) {
     }
 }
 
-/// Whether a text tells a speed in the other of the two units.
-bool TellsOtherUnit(const std::string& text, bool inKnots) {
-    constexpr std::array<std::string_view, 3> kOfKnots{"kt", "kn", "节"};
-    constexpr std::array<std::string_view, 3> kOfKilometres{"kph", "km", "公里"};
+/// Whether a text tells a speed in another unit on offer than this one.
+bool TellsOtherUnit(const std::string& text, std::string_view unit) {
     const std::string small = Small(text);
-    const auto& others = inKnots ? kOfKilometres : kOfKnots;
-    return std::any_of(others.begin(), others.end(),
-                       [&small](std::string_view unit) { return small.find(unit) != std::string::npos; });
+    const auto units = OfferedUnits(UnitKind::Speed);
+    return std::any_of(units.begin(), units.end(), [&small, unit](std::string_view other) {
+        const auto words = WordsOfSpeedUnit(other);
+        return other != unit && std::any_of(words.begin(), words.end(), [&small](std::string_view word) {
+                   return small.find(word) != std::string::npos;
+               });
+    });
 }
 
 }  // namespace
 
 void LeaveOtherUnits(PastedRows& pasted, const std::string& speedUnit) {
-    const bool inKnots = speedUnit == Interface::kSpeedUnits[0];
     for (std::size_t at = 0; at < pasted.columns.size(); ++at) {
         if (pasted.columns[at] != ColSpeed) {
             continue;
         }
-        const bool wholeColumn = at < pasted.heads.size() && TellsOtherUnit(pasted.heads[at], inKnots);
+        const bool wholeColumn = at < pasted.heads.size() && TellsOtherUnit(pasted.heads[at], speedUnit);
         for (auto& row : pasted.rows) {
             PastedCell& cell = row[at];
-            if (!cell.text.empty() && (wholeColumn || TellsOtherUnit(cell.text, inKnots))) {
+            if (!cell.text.empty() && (wholeColumn || TellsOtherUnit(cell.text, speedUnit))) {
                 cell.value.clear();
                 cell.known = false;
             }

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tarvik/skin/Colours.h>
+
 #include "host/plugins/seamap/widget/ImageStore.h"
 
 namespace Tarvik::Seamap {
@@ -58,6 +60,7 @@ TEST_F(ImageStoreTest, AMissingOrForeignFileHasAStandIn) {
     for (const std::string& path :
          {std::string(), File("missing.png"), File("missing.svg"), File("text.png")}) {
         EXPECT_GT(store_.HalfSize("ship", path, 1).x, 5) << path;
+        EXPECT_EQ(MiddleOf(path), QColor(Skin::ColourOf(Skin::Role::Underway, Skin::Theme::Light))) << path;
     }
 }
 
