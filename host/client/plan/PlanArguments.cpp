@@ -74,6 +74,17 @@ class Reader {
         error_ = "Bad value " + Quoted(value) + " of " + option + ": give " + good + ".";
     }
 
+    /// The values between the commas; without any the option is bad.
+    std::vector<std::string> Pieces(const std::string& option, const std::string& value,
+                                    const std::string& good) {
+        std::vector<std::string> pieces;
+        Util::StringUtl::split(value, ",", pieces);
+        if (pieces.empty()) {
+            Bad(option, value, good);
+        }
+        return pieces;
+    }
+
     void Depart(const std::string& value) {
         parsed_.arguments.depart = ReadDepart(value);
         if (!parsed_.arguments.depart) {
@@ -110,9 +121,7 @@ class Reader {
     }
 
     void Stay(const std::string& value) {
-        std::vector<std::string> pieces;
-        Util::StringUtl::split(value, ",", pieces);
-        for (const std::string& piece : pieces) {
+        for (const std::string& piece : Pieces("--stay", value, "hours in port")) {
             const auto number = ReadNumber(piece);
             if (!number || *number < 0 || *number > kMaxStayHours) {
                 return Bad("--stay", piece,
@@ -120,25 +129,18 @@ class Reader {
             }
             parsed_.arguments.stays.push_back(*number);
         }
-        if (pieces.empty()) {
-            Bad("--stay", value, "hours in port");
-        }
     }
 
     void Purpose(const std::string& value) {
-        std::vector<std::string> pieces;
-        Util::StringUtl::split(value, ",", pieces);
-        for (std::string piece : pieces) {
+        const std::string good = "codes out of " + Interface::PurposeCodes(", ");
+        for (std::string piece : Pieces("--purpose", value, good)) {
             if (piece.size() == 1 && piece[0] >= 'a' && piece[0] <= 'z') {
                 piece[0] = static_cast<char>(piece[0] - 32);
             }
             if (!Interface::IsPurposeCode(piece)) {
-                return Bad("--purpose", piece, "codes out of " + Interface::PurposeCodes(", "));
+                return Bad("--purpose", piece, good);
             }
             parsed_.arguments.purposes.push_back(piece);
-        }
-        if (pieces.empty()) {
-            Bad("--purpose", value, "codes out of " + Interface::PurposeCodes(", "));
         }
     }
 
@@ -153,17 +155,13 @@ class Reader {
         offer(to.speedUnit, Interface::kSpeedUnits);
         offer(to.distanceUnit, Interface::kDistanceUnits);
         offer(to.timeUnit, Interface::kTimeUnits);
-        std::vector<std::string> pieces;
-        Util::StringUtl::split(value, ",", pieces);
-        for (const std::string& piece : pieces) {
+        const std::string good = "any of " + Interface::UnitChoices(" or ", ", ");
+        for (const std::string& piece : Pieces("--units", value, good)) {
             const auto unit = known.find(FoldCase(piece));
             if (unit == known.end()) {
-                return Bad("--units", piece, "any of " + Interface::UnitChoices(" or ", ", "));
+                return Bad("--units", piece, good);
             }
             *unit->second.first = unit->second.second;
-        }
-        if (pieces.empty()) {
-            Bad("--units", value, "any of " + Interface::UnitChoices(" or ", ", "));
         }
     }
 

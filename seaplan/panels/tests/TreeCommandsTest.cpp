@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/CategoryCommands.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/VoyageTreeSortDlg.h"
 #include "testsupport/RecordingMsgSink.h"
@@ -205,7 +206,7 @@ TEST_F(TreeCommandsTest, ASortPanelOnShowStaysAsItIs) {
     EXPECT_EQ(Click("Full", Item::kSort), 1);
     ASSERT_TRUE(sortPopup.visible);
     EXPECT_EQ(Click("Other", Item::kSort), 1);
-    EXPECT_EQ(ctrl.SortPanel().OnChosen(TextId{268}), 0);
+    EXPECT_EQ(ctrl.Categories().SortPanel().OnChosen(TextId{268}), 0);
     EXPECT_EQ(ctrl.Context().categorySorts[CategoryId("Full")].sortKey, SortByDate);
     EXPECT_EQ(ctrl.Context().categorySorts[CategoryId("Other")].sortKey, SortByName);
 }

@@ -3,6 +3,7 @@
 
 #include "seaplan/panels/tests/TreeFixture.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/CategoryCommands.h"
 #include "seaplan/panels/tree/NoteCommands.h"
 #include "seaplan/panels/tree/RemarkMark.h"
 #include "seaplan/panels/tree/TreeContext.h"
@@ -373,7 +374,7 @@ TEST_F(TreeFixture, TheSortPanelShowsTheKeyAndHidesWhenItHasSorted) {
     EXPECT_TRUE(sortPopup.visible);
     EXPECT_EQ(sortPopup.width, 180);
     EXPECT_EQ(sortPopup.height, 60);
-    EXPECT_EQ(ctrl.SortPanel().OnChosen(TextIds::IDS_VOY_SORTBYDATE), 0);
+    EXPECT_EQ(ctrl.Categories().SortPanel().OnChosen(TextIds::IDS_VOY_SORTBYDATE), 0);
     EXPECT_FALSE(sortPopup.visible);
     EXPECT_EQ(ctrl.Context().categorySorts[CategoryId("Full")].sortKey, SortByDate);
     Click("Full", Item::kSort);
@@ -384,9 +385,9 @@ TEST_F(TreeFixture, ASortPanelThatFailsToRebuildStaysOpen) {
     desk.AddCategory("Empty");
     ctrl.ReloadTree();
     Click("Empty", Item::kSort);
-    EXPECT_EQ(ctrl.SortPanel().OnChosen(TextIds::IDS_VOY_SORTBYDATE), -3);
+    EXPECT_EQ(ctrl.Categories().SortPanel().OnChosen(TextIds::IDS_VOY_SORTBYDATE), -3);
     EXPECT_TRUE(sortPopup.visible);
-    ctrl.SortPanel().SetSortKey(7);
+    ctrl.Categories().SortPanel().SetSortKey(7);
     EXPECT_EQ(sortPopup.Ticked(), std::nullopt);
 }
 

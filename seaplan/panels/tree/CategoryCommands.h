@@ -24,6 +24,8 @@ class CategoryCommands {
     bool Add(const std::string& name);
     /// Creates one with a generated name when none is in use. False when that fails.
     bool Ensure();
+    /// The choice of an order, which opens at a category's row.
+    VoyageTreeSortDlg& SortPanel() { return sortPanel_; }
     /// A name for a new category that no category has or had.
     std::string NewName() const;
 

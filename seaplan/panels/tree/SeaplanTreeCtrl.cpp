@@ -6,6 +6,7 @@
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/tree/CategoryCommands.h"
+#include "seaplan/panels/tree/ItemCommands.h"
 #include "seaplan/panels/tree/NoteCommands.h"
 #include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TableVoyage.h"
@@ -18,21 +19,6 @@
 #include "seaplan/panels/tree/VoyageTreeSortDlg.h"
 
 namespace Tarvik::Seaplan {
-
-namespace {
-
-/// The command behind an item, null when neither table has one.
-const TreeCommand* CommandOf(const std::string& item, const TreeCommands& one, const TreeCommands& other) {
-    for (const TreeCommands* commands : {&one, &other}) {
-        const auto found = commands->find(item);
-        if (found != commands->end()) {
-            return &found->second;
-        }
-    }
-    return nullptr;
-}
-
-}  // namespace
 
 /// The rows' parts and the classes of the commands, by task.
 struct SeaplanTreeCtrl::Parts {
@@ -54,10 +40,10 @@ struct SeaplanTreeCtrl::Parts {
           undo(parts,
                {[&tree] { return tree.ReloadTree(); },
                 [&tree](TreeRow row, const std::string& item) { return tree.OnItemClicked(row, item); }}),
-          commands{categories.Table(), voyages.Table()} {
-        commands.ofVoyage.merge(vessels.Table());
-        commands.ofVoyage.merge(tracks.Table());
-    }
+          commands(categories.Table(), {voyages.Table(), vessels.Table(), tracks.Table()}, notes) {}
+
+    Outcome<ReloadStep> Reload();
+    Outcome<SortStep> Sort(const std::string& ci, int sortKey);
 
     TreeParts parts;
     VoyageTreeSortDlg sortPanel;
@@ -68,10 +54,7 @@ struct SeaplanTreeCtrl::Parts {
     NoteCommands notes;
     TreeKeys keys;
     TreeUndo undo;
-    struct Commands {
-        TreeCommands ofCategory;
-        TreeCommands ofVoyage;
-    } commands;
+    ItemCommands commands;
 };
 
 SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
@@ -80,14 +63,14 @@ SeaplanTreeCtrl::SeaplanTreeCtrl(const TreeCollaborators& given)
 SeaplanTreeCtrl::~SeaplanTreeCtrl() = default;
 
 int SeaplanTreeCtrl::ReloadTree() {
-    return kReloadCodes.Of(Reload());
+    return kReloadCodes.Of(in_->Reload());
 }
 
-Outcome<ReloadStep> SeaplanTreeCtrl::Reload() {
-    TreeContext& c = in_->parts.context;
+Outcome<ReloadStep> SeaplanTreeCtrl::Parts::Reload() {
+    TreeContext& c = parts.context;
     // The rows point into records that the load replaces.
-    in_->parts.rename.Abandon();
-    in_->vessels.Editor().Hide();
+    parts.rename.Abandon();
+    vessels.Editor().Hide();
     std::string user;
     if (c.catalog.Connect(user) != 0) {
         return ReloadStep::Connect;
@@ -99,8 +82,8 @@ Outcome<ReloadStep> SeaplanTreeCtrl::Reload() {
     for (const auto& [ci, category] : c.store.categories) {
         c.categorySorts[ci] = {};
     }
-    in_->parts.selection.Forget();
-    if (in_->parts.builder.RebuildAll().Failed()) {
+    parts.selection.Forget();
+    if (parts.builder.RebuildAll().Failed()) {
         return ReloadStep::Rows;
     }
     if (!CountAndMark(c)) {
@@ -127,19 +110,19 @@ int SeaplanTreeCtrl::SetShowDeleted(bool shown) {
 }
 
 int SeaplanTreeCtrl::SetSortKey(const std::string& ci, int sortKey) {
-    return kSortCodes.Of(Sort(ci, sortKey));
+    return kSortCodes.Of(in_->Sort(ci, sortKey));
 }
 
-Outcome<SortStep> SeaplanTreeCtrl::Sort(const std::string& ci, int sortKey) {
+Outcome<SortStep> SeaplanTreeCtrl::Parts::Sort(const std::string& ci, int sortKey) {
     if (ci.empty()) {
         return SortStep::Id;
     }
-    const auto sort = in_->parts.context.categorySorts.find(ci);
-    if (sort == in_->parts.context.categorySorts.end()) {
+    const auto sort = parts.context.categorySorts.find(ci);
+    if (sort == parts.context.categorySorts.end()) {
         return SortStep::State;
     }
     sort->second.sortKey = sortKey;
-    return in_->parts.builder.RebuildCategory(ci).Failed() ? SortStep::Rows : Outcome<SortStep>();
+    return parts.builder.RebuildCategory(ci).Failed() ? SortStep::Rows : Outcome<SortStep>();
 }
 
 void SeaplanTreeCtrl::CloseEditors() {
@@ -168,8 +151,7 @@ void SeaplanTreeCtrl::ApplyLanguage() {
 }
 
 bool SeaplanTreeCtrl::HasCommand(const std::string& item) const {
-    return CommandOf(item, in_->commands.ofCategory, in_->commands.ofVoyage) != nullptr ||
-           CommandOf(item, in_->notes.OfCategory(), in_->notes.OfVoyage()) != nullptr;
+    return in_->commands.Has(item);
 }
 
 void SeaplanTreeCtrl::OnRowPressed(TreeRow row, bool fold) {
@@ -188,9 +170,7 @@ int SeaplanTreeCtrl::OnItemClicked(TreeRow row, const std::string& item) {
     if (PortCallOpener* panel = isCategory ? nullptr : in_->parts.PortCalls()) {
         panel->SetVoyage(in_->parts.selection.Voyage().vi);
     }
-    const TreeCommand* command = isCategory
-                                     ? CommandOf(item, in_->commands.ofCategory, in_->notes.OfCategory())
-                                     : CommandOf(item, in_->commands.ofVoyage, in_->notes.OfVoyage());
+    const TreeCommand* command = in_->commands.Find(isCategory, item);
     if (command == nullptr) {
         return 1;
     }
@@ -253,10 +233,6 @@ NoteCommands& SeaplanTreeCtrl::Notes() {
 
 VesselCommands& SeaplanTreeCtrl::Vessels() {
     return in_->vessels;
-}
-
-VoyageTreeSortDlg& SeaplanTreeCtrl::SortPanel() {
-    return in_->sortPanel;
 }
 
 TreeContext& SeaplanTreeCtrl::Context() {

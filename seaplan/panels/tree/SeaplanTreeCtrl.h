@@ -17,7 +17,6 @@ class TreeKeys;
 class TreeRename;
 class VesselCommands;
 struct VoyInfo;
-class VoyageTreeSortDlg;
 
 /// The voyage tree: rows from the store, and the commands behind their items, which are in classes by task.
 /// Results are 0 or the number of the failed step by the tables of TreeCodes.h.
@@ -76,13 +75,10 @@ class SeaplanTreeCtrl {
     /// Remarks and consumption; a panel for them is set here.
     NoteCommands& Notes();
     VesselCommands& Vessels();
-    VoyageTreeSortDlg& SortPanel();
     TreeContext& Context();
 
   private:
     struct Parts;
-    Outcome<ReloadStep> Reload();
-    Outcome<SortStep> Sort(const std::string& ci, int sortKey);
 
     std::unique_ptr<Parts> in_;
 };

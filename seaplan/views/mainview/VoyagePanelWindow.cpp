@@ -8,6 +8,7 @@
 
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/CategoryCommands.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeKeys.h"
@@ -59,7 +60,7 @@ void VoyagePanelWindow::Attach(SeaplanViewDlg* panel, SeaplanTreeCtrl* tree) {
     QObject::connect(filterButton_, &QToolButton::clicked, this, [panel] { panel->Filter().Toggle(); });
     QObject::connect(addButton_, &QToolButton::clicked, this, [panel] { panel->AddCategory(); });
     filter_->SetReport([panel](TextId id) { panel->Filter().OnChosen(id); });
-    tree_->SortPopup().SetReport([tree](TextId id) { tree->SortPanel().OnChosen(id); });
+    tree_->SortPopup().SetReport([tree](TextId id) { tree->Categories().SortPanel().OnChosen(id); });
     tree_->SetReports(
         {[tree](TreeRow row, bool beside) { tree->OnRowPressed(row, beside); },
          [tree](TreeRow row, const std::string& item) { tree->OnItemClicked(row, item); },

@@ -7,6 +7,7 @@
 #include <pqxx/pqxx>
 
 #include "host/server/storage/postgres/PostgresValues.h"
+#include "host/server/storage/postgres/PostgresWalk.h"
 #include "host/server/storage/sql/SqlDialect.h"
 
 namespace Tarvik::Server {
@@ -22,22 +23,6 @@ constexpr std::array<SqlPoint, 6> kPoints = {{
     {"free", "FOR UPDATE OF % SKIP LOCKED"},
     {"object", "md5(objectid) = md5(CAST(% AS text)) AND objectid = %"},
 }};
-
-/// Rows that came all at once, walked one after the other.
-class PostgresWalk final : public SqlRows {
-  public:
-    explicit PostgresWalk(PostgresRows rows) : rows_(std::move(rows)) {}
-
-    bool Next() override { return ++row_ < rows_.Count(); }
-    std::string Text(int column) const override { return rows_.Text(row_, column); }
-    std::int64_t Integer(int column) const override { return rows_.Integer(row_, column); }
-    double Real(int column) const override { return rows_.Real(row_, column); }
-    bool Flag(int column) const override { return rows_.Flag(row_, column); }
-
-  private:
-    PostgresRows rows_;
-    int row_ = -1;
-};
 
 std::vector<std::string> TextsOf(std::span<const SqlValue> values) {
     std::vector<std::string> texts;
@@ -77,10 +62,6 @@ void ForbidReconnecting(pqxx::connection& connection) {
     connection.inhibit_reactivation(true);
 #pragma GCC diagnostic pop
 }
-
-}  // namespace
-
-namespace {
 
 /// Lets the connection be watched for its scope.
 class Asking {
