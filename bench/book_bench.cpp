@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include <tarvik/util/Jsona.h>
@@ -40,6 +41,25 @@ BookPoints BookOf(std::size_t rows) {
     return book;
 }
 
+/// Memory, time and the share of it that the geodesics of as many points take, where the work has some.
+template <class Work>
+void Measure(benchmark::State& state, const Work& work, std::optional<Geodesics> geodesics) {
+    Bench::CountMemory(state, work);
+    Bench::Shares shares(state, geodesics ? Bench::GeodesicMs(Bench::Track(CountOf(state)), *geodesics) : 0);
+    for (auto _ : state) {
+        shares.Run(work);
+    }
+    state.SetComplexityN(state.range(0));
+}
+
+/// Five sizes, each twice the one before.
+void Doubled(benchmark::internal::Benchmark* one, std::int64_t first) {
+    for (std::int64_t size = first; size <= 16 * first; size *= 2) {
+        one->Arg(size);
+    }
+    one->Complexity(benchmark::oN)->Unit(benchmark::kMillisecond);
+}
+
 /// Reply text of 30 stops to stops with their lengths.
 void ParseReply(benchmark::State& state) {
     const std::string reply = Bench::ReplyOf(kStops, CountOf(state));
@@ -51,21 +71,9 @@ void ParseReply(benchmark::State& state) {
         }
         benchmark::DoNotOptimize(stops.data());
     };
-    Bench::CountMemory(state, work);
-    Bench::Shares shares(state, Bench::GeodesicMs(Bench::Track(CountOf(state)), Geodesics::Distance));
-    for (auto _ : state) {
-        shares.Run(work);
-    }
-    state.SetComplexityN(state.range(0));
+    Measure(state, work, Geodesics::Distance);
 }
-BENCHMARK(ParseReply)
-    ->Arg(750)
-    ->Arg(1500)
-    ->Arg(3000)
-    ->Arg(6000)
-    ->Arg(12000)
-    ->Complexity(benchmark::oN)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(ParseReply)->Apply([](auto* one) { Doubled(one, 750); });
 
 /// No geodesic calls in it.
 void MakeBook(benchmark::State& state) {
@@ -78,21 +86,9 @@ void MakeBook(benchmark::State& state) {
         }
         benchmark::DoNotOptimize(rows.data());
     };
-    Bench::CountMemory(state, work);
-    Bench::Shares shares(state, 0);
-    for (auto _ : state) {
-        shares.Run(work);
-    }
-    state.SetComplexityN(state.range(0));
+    Measure(state, work, std::nullopt);
 }
-BENCHMARK(MakeBook)
-    ->Arg(2500)
-    ->Arg(5000)
-    ->Arg(10000)
-    ->Arg(20000)
-    ->Arg(40000)
-    ->Complexity(benchmark::oN)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(MakeBook)->Apply([](auto* one) { Doubled(one, 2500); });
 
 void TimeBook(benchmark::State& state) {
     const PortCallRows ports = PortsOf(kStops);
@@ -103,21 +99,9 @@ void TimeBook(benchmark::State& state) {
         }
         benchmark::DoNotOptimize(rows.data());
     };
-    Bench::CountMemory(state, work);
-    Bench::Shares shares(state, Bench::GeodesicMs(Bench::Track(CountOf(state)), Geodesics::Distance));
-    for (auto _ : state) {
-        shares.Run(work);
-    }
-    state.SetComplexityN(state.range(0));
+    Measure(state, work, Geodesics::Distance);
 }
-BENCHMARK(TimeBook)
-    ->Arg(2500)
-    ->Arg(5000)
-    ->Arg(10000)
-    ->Arg(20000)
-    ->Arg(40000)
-    ->Complexity(benchmark::oN)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(TimeBook)->Apply([](auto* one) { Doubled(one, 2500); });
 
 /// The panel's book of ports with as many waypoints each.
 PosBookData PanelBook(std::size_t rows) {
@@ -145,21 +129,8 @@ void RecomputePanelBook(benchmark::State& state) {
     PosBookData book = PanelBook(CountOf(state));
     const Tarvik::Util::_datetime_t now(0, 0, 0, 1, 6, 2026);
     const auto work = [&] { benchmark::DoNotOptimize(RecomputeBook(book, BookUnits(), now)); };
-    Bench::CountMemory(state, work);
-    Bench::Shares shares(state,
-                         Bench::GeodesicMs(Bench::Track(CountOf(state)), Geodesics::DistanceAndCourse));
-    for (auto _ : state) {
-        shares.Run(work);
-    }
-    state.SetComplexityN(state.range(0));
+    Measure(state, work, Geodesics::DistanceAndCourse);
 }
-BENCHMARK(RecomputePanelBook)
-    ->Arg(2500)
-    ->Arg(5000)
-    ->Arg(10000)
-    ->Arg(20000)
-    ->Arg(40000)
-    ->Complexity(benchmark::oN)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(RecomputePanelBook)->Apply([](auto* one) { Doubled(one, 2500); });
 
 }  // namespace

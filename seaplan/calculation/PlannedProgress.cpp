@@ -156,20 +156,22 @@ void StartAt(const VoyPortCall& port, const PosBookPoint& row, const Util::_date
     }
 }
 
-/// A port that is reached: what the real track does not cover is sailed.
-void SailCorrected(const BookPoints& rows, const Util::_datetime_t& correction, PlannedProgress& out) {
+/// A port that is reached: its rows are sailed, of a corrected voyage what the real track does not cover.
+void Sail(const BookPoints& rows, const Util::_datetime_t* correction, PlannedProgress& out) {
     for (const PosBookPoint& row : rows) {
-        if (!IsOlder(row.etd, correction)) {
+        if (correction == nullptr || !IsOlder(row.etd, *correction)) {
             out.sailed.push_back(row.position);
             out.current = row.position;
         }
     }
 }
 
-ProgressOutcome Plan(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
-                     const Util::_datetime_t& now, PlannedProgress& out) {
+/// Along the ports in their order. A corrected voyage has no first port to lie in: its track begins there.
+ProgressOutcome Follow(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
+                       const Util::_datetime_t* correction, const Util::_datetime_t& now,
+                       PlannedProgress& out) {
     out = {};
-    for (std::size_t i = 0; i < ports.size(); ++i) {
+    for (std::size_t i = correction == nullptr ? 0 : 1; i < ports.size(); ++i) {
         const auto group = groups.find(static_cast<int>(i));
         if (group == groups.end() || group->second.empty()) {
             return ProgressStep::Port;
@@ -182,40 +184,11 @@ ProgressOutcome Plan(const PortCallRows& ports, const std::map<int, BookPoints>&
         if (i == 0) {
             StartAt(ports[i], rows.front(), now, out);
         } else if (now >= ports[i].eta) {
-            Append(rows, out.sailed);
-            out.current = rows.back().position;
+            Sail(rows, correction, out);
         } else if (now < ports[i - 1].etd) {
             Append(rows, out.remaining);
         } else {
-            const auto walked = LegWalk(weather, ports[i - 1].etd, now, nullptr, out).Run(rows);
-            if (walked.Failed()) {
-                return walked;
-            }
-        }
-    }
-    return {};
-}
-
-ProgressOutcome Correct(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
-                        const Util::_datetime_t& correction, const Util::_datetime_t& now,
-                        PlannedProgress& out) {
-    out = {};
-    for (std::size_t i = 1; i < ports.size(); ++i) {
-        const auto group = groups.find(static_cast<int>(i));
-        if (group == groups.end() || group->second.empty()) {
-            return ProgressStep::Port;
-        }
-        const BookPoints& rows = group->second;
-        const double weather = ports[i].pw;
-        if (weather > 1.0) {
-            return ProgressStep::Weather;
-        }
-        if (now >= ports[i].eta) {
-            SailCorrected(rows, correction, out);
-        } else if (now < ports[i - 1].etd) {
-            Append(rows, out.remaining);
-        } else {
-            const auto walked = LegWalk(weather, ports[i - 1].etd, now, &correction, out).Run(rows);
+            const auto walked = LegWalk(weather, ports[i - 1].etd, now, correction, out).Run(rows);
             if (walked.Failed()) {
                 return walked;
             }
@@ -228,13 +201,13 @@ ProgressOutcome Correct(const PortCallRows& ports, const std::map<int, BookPoint
 
 int PlanProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
                  const Util::_datetime_t& now, PlannedProgress& out) {
-    return kPlanProgressCodes.Of(Plan(ports, groups, now, out));
+    return kPlanProgressCodes.Of(Follow(ports, groups, nullptr, now, out));
 }
 
 int CorrectedProgress(const PortCallRows& ports, const std::map<int, BookPoints>& groups,
                       const Util::_datetime_t& correction, const Util::_datetime_t& now,
                       PlannedProgress& out) {
-    return kCorrectedProgressCodes.Of(Correct(ports, groups, correction, now, out));
+    return kCorrectedProgressCodes.Of(Follow(ports, groups, &correction, now, out));
 }
 
 Interface::VesselCard VesselCardOf(const VoyInfo& voyage, const std::string& position,

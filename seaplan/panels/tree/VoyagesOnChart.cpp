@@ -114,46 +114,45 @@ OnChartOutcome VoyagesOnChart::TurnAis(VoyInfo& voyage, bool on) {
     return c_.catalog.CloseAis(voyage.vi) != 0 ? OnChartStep::Server : OnChartOutcome();
 }
 
-OnChartOutcome VoyagesOnChart::SetAisShown(const std::string& vi, bool on) {
+/// The record and the row of a voyage.
+OnChartOutcome VoyagesOnChart::Find(const std::string& vi, Shown& out) const {
     if (vi.empty()) {
         return OnChartStep::Id;
     }
-    VoyInfo* voyage = c_.store.FindVoyage(vi);
-    if (voyage == nullptr) {
+    out.voyage = c_.store.FindVoyage(vi);
+    if (out.voyage == nullptr) {
         return OnChartStep::Voyage;
     }
-    const TreeRow row = c_.FindVoyageRow(vi);
-    if (row == kNoRow) {
-        return OnChartStep::Row;
+    out.row = c_.FindVoyageRow(vi);
+    return out.row == kNoRow ? OnChartStep::Row : OnChartOutcome();
+}
+
+OnChartOutcome VoyagesOnChart::SetAisShown(const std::string& vi, bool on) {
+    Shown of;
+    if (const OnChartOutcome found = Find(vi, of); found.Failed()) {
+        return found;
     }
-    if (const OnChartOutcome turned = TurnAis(*voyage, on); turned.Failed()) {
+    if (const OnChartOutcome turned = TurnAis(*of.voyage, on); turned.Failed()) {
         return turned;
     }
-    ShowAisItems(row, on);
+    ShowAisItems(of.row, on);
     return {};
 }
 
 OnChartOutcome VoyagesOnChart::SetPinned(const std::string& vi, bool on) {
-    if (vi.empty()) {
-        return OnChartStep::Id;
+    Shown of;
+    if (const OnChartOutcome found = Find(vi, of); found.Failed()) {
+        return found;
     }
-    VoyInfo* voyage = c_.store.FindVoyage(vi);
-    if (voyage == nullptr) {
-        return OnChartStep::Voyage;
-    }
-    const TreeRow row = c_.FindVoyageRow(vi);
-    if (row == kNoRow) {
-        return OnChartStep::Row;
-    }
-    if (on && voyage->positionBook.points.empty()) {
+    if (on && of.voyage->positionBook.points.empty()) {
         return OnChartStep::PositionBook;
     }
     if ((on ? c_.catalog.OpenRoute(vi) : c_.catalog.CloseRoute(vi)) != 0) {
         return OnChartStep::Server;
     }
-    c_.tree.SetDrawItemVisibleEx(row, Item::kUnpinned, !on);
-    c_.tree.SetDrawItemVisibleEx(row, Item::kPinned, on);
-    return ActivateVoyage(*voyage);
+    c_.tree.SetDrawItemVisibleEx(of.row, Item::kUnpinned, !on);
+    c_.tree.SetDrawItemVisibleEx(of.row, Item::kPinned, on);
+    return ActivateVoyage(*of.voyage);
 }
 
 void VoyagesOnChart::MarkAll() {

@@ -38,6 +38,11 @@ class VoyagesOnChart {
     void MarkAll();
 
   private:
+    struct Shown {
+        VoyInfo* voyage = nullptr;
+        TreeRow row = kNoRow;
+    };
+    OnChartOutcome Find(const std::string& vi, Shown& out) const;
     void TidyOthers(const std::string& vi);
     OnChartOutcome ShowTrackOf(const VoyInfo& voyage);
     OnChartOutcome TurnAis(VoyInfo& voyage, bool on);
