@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/plan/DepartText.h"
-
 #include <regex>
 
 #include <tarvik/util/DateTimeUtl.h>
+
+#include "host/client/plan/PlanArguments.h"
 
 namespace Tarvik::Client {
 

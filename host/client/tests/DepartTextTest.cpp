@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "host/client/plan/DepartText.h"
+#include "host/client/plan/PlanArguments.h"
 
 namespace Tarvik::Client {
 

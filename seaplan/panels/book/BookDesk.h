@@ -6,15 +6,25 @@
 #include <utility>
 
 #include "seaplan/calculation/book/BookChecks.h"
+#include "seaplan/calculation/book/BookRows.h"
 #include "seaplan/controllers/BookOnChart.h"
-#include "seaplan/panels/book/BookHistory.h"
 #include "seaplan/panels/book/BookOwner.h"
 #include "seaplan/panels/book/BookSheet.h"
 #include "seaplan/panels/book/BookView.h"
+#include "seaplan/panels/editors/EditHistory.h"
 #include "seaplan/panels/texts/TextId.h"
 #include "seaplan/panels/window/Boxes.h"
 
 namespace Tarvik::Seaplan {
+
+/// The places in front before an edit of the book and behind it: undo and redo show where they change it.
+struct BookFronts {
+    PosBookRowRef before;
+    PosBookRowRef after;
+};
+
+/// The states of the book on show.
+using BookHistory = EditHistory<PosBookData, BookFronts>;
 
 /// What the parts of the position book share: the sheet with its history, the window before it and the panel
 /// that opened it. A part changes the sheet as it likes; the window is told once, when the report that it

@@ -14,8 +14,8 @@
 #include "seaplan/panels/portcall/DistanceTable.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/MadeVoyages.h"
 #include "seaplan/panels/tree/SeaplanTreeCtrl.h"
-#include "seaplan/panels/tree/TableVoyage.h"
 #include "seaplan/panels/tree/TreeContext.h"
 
 namespace Tarvik::Seaplan {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/remark/RemarkTitle.h"
-
 #include <tarvik/util/StringUtl.h>
+
+#include "seaplan/panels/remark/RemarkView.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,7 +4,7 @@
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/TimeText.h"
 #include "seaplan/panels/tests/TreeFixture.h"
-#include "seaplan/panels/tree/DuplicateVoyage.h"
+#include "seaplan/panels/tree/MadeVoyages.h"
 #include "seaplan/panels/tree/TreeKeys.h"
 #include "testsupport/RecordingMsgSink.h"
 

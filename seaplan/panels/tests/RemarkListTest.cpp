@@ -6,7 +6,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/panels/remark/ClistCtrlViewEx.h"
-#include "seaplan/panels/remark/RemarkTitle.h"
+#include "seaplan/panels/remark/RemarkView.h"
 
 namespace Tarvik::Seaplan {
 

@@ -6,7 +6,7 @@
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/PanelDesk.h"
 #include "seaplan/panels/tests/TreeViews.h"
-#include "seaplan/panels/tree/TableVoyage.h"
+#include "seaplan/panels/tree/MadeVoyages.h"
 #include "seaplan/panels/tree/TreeParts.h"
 #include "testsupport/RecordingHost.h"
 #include "testsupport/RecordingMsgSink.h"

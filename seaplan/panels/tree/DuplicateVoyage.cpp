@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/tree/DuplicateVoyage.h"
-
 #include <algorithm>
 #include <cctype>
 
@@ -10,6 +8,7 @@
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/controllers/VoyageChanges.h"
+#include "seaplan/panels/tree/MadeVoyages.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeRules.h"
 #include "seaplan/protocol/PortCallCommands.h"

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/tree/TableVoyage.h"
-
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/MadeVoyages.h"
 #include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeParts.h"
 

@@ -6,8 +6,8 @@
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/TreeTexts.h"
-#include "seaplan/panels/tree/DuplicateVoyage.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/MadeVoyages.h"
 #include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeParts.h"
 

@@ -7,7 +7,6 @@
 #include <pqxx/pqxx>
 
 #include "host/server/storage/postgres/PostgresValues.h"
-#include "host/server/storage/postgres/PostgresWalk.h"
 #include "host/server/storage/sql/SqlDialect.h"
 
 namespace Tarvik::Server {

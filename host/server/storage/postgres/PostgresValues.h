@@ -42,6 +42,22 @@ class PostgresRows {
     std::shared_ptr<const pqxx::result> result_;
 };
 
+/// Rows that came all at once, walked one after the other.
+class PostgresWalk final : public SqlRows {
+  public:
+    explicit PostgresWalk(PostgresRows rows) : rows_(std::move(rows)) {}
+
+    bool Next() override { return ++row_ < rows_.Count(); }
+    std::string Text(int column) const override { return rows_.Text(row_, column); }
+    std::int64_t Integer(int column) const override { return rows_.Integer(row_, column); }
+    double Real(int column) const override { return rows_.Real(row_, column); }
+    bool Flag(int column) const override { return rows_.Flag(row_, column); }
+
+  private:
+    PostgresRows rows_;
+    int row_ = -1;
+};
+
 /// A batch as one statement with one array a column, so that it costs one way to the server.
 struct PostgresBatch {
     std::string sql;  ///< gives the numbers that were free

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "seaplan/panels/book/BookHistory.h"
+#include "seaplan/panels/book/BookDesk.h"
 
 namespace Tarvik::Seaplan {
 

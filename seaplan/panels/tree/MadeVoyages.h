@@ -4,9 +4,14 @@
 #include <map>
 #include <string>
 
+#include "seaplan/panels/tree/TreeCodes.h"
+
+/// Voyages that are made of what stands: of another voyage (DuplicateVoyage.cpp), or of a port distance table
+/// (TableVoyage.cpp).
 namespace Tarvik::Seaplan {
 
 struct TreeContext;
+struct TreeParts;
 
 /// Why a voyage was not duplicated.
 enum class CopyFault { None, NotRead, NotSaved };
@@ -20,5 +25,16 @@ std::string NameOfCopy(const std::string& name, const std::map<std::string, int>
 /// its id. It is a plan: corrections from AIS, remarks and the places on the chart stay with voyage `vi`,
 /// and where the ship was becomes a plain point of the route. After a failure nothing new is left behind.
 CopyFault DuplicateVoyage(TreeContext& c, const std::string& ci, const std::string& vi, std::string& out);
+
+/// The voyage that a port distance table is kept as, and its category.
+struct TableVoyage {
+    std::string ci;
+    std::string vi;
+};
+
+/// Makes a voyage of this name with its row, and before it the category when none in use has that name. An
+/// empty name and a voyage's that is taken are told in a notice, and `out` is empty then.
+Outcome<TableVoyageStep> CreateVoyageFromTable(TreeParts& parts, const std::string& category,
+                                               const std::string& voyage, TableVoyage& out);
 
 }  // namespace Tarvik::Seaplan
