@@ -20,12 +20,11 @@ namespace {
 constexpr std::size_t kMostCharacters = 30;
 constexpr CellEditor kTextEditors[] = {CellEditor::Port, CellEditor::Speed, CellEditor::Weather};
 
-/// The purpose whose code begins a typed text, in either case of letters; the first for any other text.
-int PurposeOf(const std::string& typed) {
+/// The purpose whose code begins a text, in either case of letters; the first for any other text.
+int PurposeOf(const std::string& text) {
     const auto found = std::find_if(
-        Interface::kPurposes.begin(), Interface::kPurposes.end(),
-        [&typed](const Interface::Purpose& purpose) {
-            return !typed.empty() && std::toupper(static_cast<unsigned char>(typed.front())) == *purpose.code;
+        Interface::kPurposes.begin(), Interface::kPurposes.end(), [&text](const Interface::Purpose& purpose) {
+            return !text.empty() && std::toupper(static_cast<unsigned char>(text.front())) == *purpose.code;
         });
     return found == Interface::kPurposes.end() ? 0 : static_cast<int>(found - Interface::kPurposes.begin());
 }
@@ -64,7 +63,7 @@ bool CellEditing::OnCellClicked(int row, int column, const std::string* typed) {
         case CellEditor::None:
             return false;
         case CellEditor::Purpose:
-            OpenPurposes(row, typed != nullptr ? PurposeOf(*typed) : 0);
+            OpenPurposes(row, PurposeOf(typed != nullptr ? *typed : table.Cell(row, ColPurpose)));
             break;
         case CellEditor::Time:
             OpenPicker(row, column);

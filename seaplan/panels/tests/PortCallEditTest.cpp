@@ -158,6 +158,17 @@ TEST_F(PortCallFixture, APurposeWritesItsCodeAndComputesNothing) {
     EXPECT_EQ(Cell(1, ColPurpose), "Z");
 }
 
+TEST_F(PortCallFixture, ThePurposeListOpensOnThePresentCode) {
+    Open(kept);
+    for (const int purpose : {9, 2, 0}) {
+        panel.Cells().OnCellClicked(1, ColPurpose);
+        panel.Cells().OnPurposeChosen(purpose);
+        panel.Cells().OnCellClicked(1, ColPurpose);
+        EXPECT_EQ(view.currentPurpose, purpose);
+        panel.Cells().CommitEditors();
+    }
+}
+
 TEST_F(PortCallFixture, ALaterEtaSlowsTheLegDown) {
     Open(kept);
     PickTime(2, ColEta, "2024-03-07 07:00:00");
