@@ -84,6 +84,11 @@ std::optional<LegPlanner::Stretches> LegPlanner::StretchesOf(const std::string& 
             error = "the choice " + choice.newId + "=" + choice.range + " names a point that is not there";
             return std::nullopt;
         }
+        // A way may touch its point and turn back there without going through: it must not come to that.
+        if (never_[stretch.chosen]) {
+            error = "the passage " + network_.data().routePoints[stretch.chosen].name + " is forbidden";
+            return std::nullopt;
+        }
         // The newest choice comes first; an older one of the same group has been replaced by it.
         const bool replaced = std::any_of(result.begin(), result.end(), [&](const Stretch& newer) {
             return newer.chosen == stretch.chosen ||

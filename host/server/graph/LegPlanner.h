@@ -36,6 +36,11 @@ class LegPlanner {
     std::optional<PlannedStop> Plan(const RouteEnd& from, const RouteEnd& to, const RouteRequestPoint& stop,
                                     std::string& error) const;
 
+    /// Whether a straight way from one place to another passes nothing that the limits forbid.
+    bool MayRun(GeoPoint from, GeoPoint to) const {
+        return never_.none() || (network_.GatesCrossed(from, to) & never_).none();
+    }
+
     /// The dense way from one node to another under the default limits; empty when there is none.
     std::vector<GeoPoint> Way(std::uint32_t from, std::uint32_t to) const;
 

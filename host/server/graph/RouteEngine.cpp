@@ -30,9 +30,16 @@ RouteResult Failed(int error, std::string message) {
     return {error, std::move(message), {}};
 }
 
+RouteLimits Both(RouteLimits limits, const RouteLimits& more) {
+    limits.forbidden.insert(limits.forbidden.end(), more.forbidden.begin(), more.forbidden.end());
+    limits.opened.insert(limits.opened.end(), more.opened.begin(), more.opened.end());
+    return limits;
+}
+
 }  // namespace
 
-RouteEngine::RouteEngine(std::shared_ptr<const SeaNetwork> network) : network_(std::move(network)) {}
+RouteEngine::RouteEngine(std::shared_ptr<const SeaNetwork> network, RouteLimits standing)
+    : network_(std::move(network)), standing_(std::move(standing)) {}
 
 RouteResult RouteEngine::Plan(const std::vector<RouteRequestPoint>& points, const std::vector<OwnPort>& own,
                               const RouteLimits& limits) const {
@@ -47,7 +54,7 @@ RouteResult RouteEngine::Plan(const std::vector<RouteRequestPoint>& points, cons
         }
         ends.push_back(std::move(*end));
     }
-    const LegPlanner planner(*network_, limits);
+    const LegPlanner planner(*network_, Both(standing_, limits));
     RouteResult result;
     result.stops.push_back({points.front().id, 0.0, {}, {}, {points.front().id}, {}});
     for (std::size_t i = 1; i < points.size(); ++i) {
@@ -112,7 +119,7 @@ std::vector<std::uint32_t> RouteEngine::EntryNodes(GeoPoint position, bool& inSi
 std::vector<GeoPoint> RouteEngine::ShortestWay(GeoPoint position, const RouteEnd& end, double& km) const {
     bool inSight = false;
     const std::vector<std::uint32_t> entries = EntryNodes(position, inSight);
-    const LegPlanner planner(*network_);
+    const LegPlanner planner(*network_, standing_);
     std::vector<GeoPoint> best;
     const auto offer = [&](std::vector<GeoPoint> way) {
         const double length = PathShape::LengthKm(way);
@@ -122,11 +129,14 @@ std::vector<GeoPoint> RouteEngine::ShortestWay(GeoPoint position, const RouteEnd
         }
     };
     const GeoPoint port = end.beside ? *end.beside : network_->data().nodes[end.nodes.front()];
-    if (inSight && !network_->Land().Blocks(position, port)) {
+    if (inSight && planner.MayRun(position, port) && !network_->Land().Blocks(position, port)) {
         offer(PathShape::Densify({position, port}));
     }
     for (const std::uint32_t target : end.nodes) {
         for (const std::uint32_t entry : entries) {
+            if (!planner.MayRun(position, network_->data().nodes[entry])) {
+                continue;
+            }
             const std::vector<GeoPoint> rest = planner.Way(entry, target);
             if (rest.empty() || (!best.empty() && km == 0.0)) {
                 continue;

@@ -15,8 +15,8 @@ namespace Tarvik::Server {
 /// Answers route requests from a network. Holds no state of its own: any number of threads may call it.
 class RouteEngine {
   public:
-    /// `network` must not be null.
-    explicit RouteEngine(std::shared_ptr<const SeaNetwork> network);
+    /// `network` must not be null. `standing` holds for every request beside the request's own limits.
+    explicit RouteEngine(std::shared_ptr<const SeaNetwork> network, RouteLimits standing = {});
 
     /// The ways along a list of at least two stops. The first stop of the answer has no legs.
     /// Stops may be of `own`, too: the way begins at such a port itself, and joins the network at a node in
@@ -40,6 +40,7 @@ class RouteEngine {
     std::vector<GeoPoint> ShortestWay(GeoPoint position, const RouteEnd& end, double& km) const;
 
     std::shared_ptr<const SeaNetwork> network_;
+    RouteLimits standing_;
 };
 
 }  // namespace Tarvik::Server

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/server/accounts/UserAdmin.h"
+#include "host/server/graph/report/StandingLimits.h"
 #include "host/server/net/settings/Settings.h"
 #include "host/server/net/settings/SettingsReader.h"
 #include "host/server/transfer/TransferCommand.h"
@@ -46,9 +47,9 @@ bool RunTransfer(const TransferCommand& command, Settings settings, std::string&
 /// Whether the words are "route ..." or "distances FILE".
 bool IsRouteCommand(const std::vector<std::string>& words);
 
-/// Answers such words from the network of a file. False with an English line in `said`, else the answer, with
-/// its line ends.
+/// Answers such words from the network of a file under lists of passages. False with an English line in
+/// `said`, else the answer, with its line ends.
 bool RunRouteCommand(const std::vector<std::string>& words, const std::string& networkFile,
-                     std::string& said);
+                     const PassageLists& lists, std::string& said);
 
 }  // namespace Tarvik::Server

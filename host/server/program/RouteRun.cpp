@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The commands about routes: they read the network's file and need neither data bases nor a running server.
+#include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "host/server/graph/report/DistanceTable.h"
 #include "host/server/graph/report/RouteReport.h"
@@ -13,15 +15,19 @@ bool IsRouteCommand(const std::vector<std::string>& words) {
 }
 
 bool RunRouteCommand(const std::vector<std::string>& words, const std::string& networkFile,
-                     std::string& said) {
+                     const PassageLists& lists, std::string& said) {
     const auto network = SeaNetwork::Load(networkFile, said);
     if (network == nullptr) {
+        return false;
+    }
+    std::optional<RouteLimits> standing = ReadStandingLimits(Places(*network), lists, said);
+    if (!standing) {
         return false;
     }
     if (words[0] == "distances") {
         try {
             const Data::CsvTable table(Data::ReadFile(words[1]));
-            const auto lines = MeasureDistances(*network, RouteEngine(network), table);
+            const auto lines = MeasureDistances(*network, RouteEngine(network, std::move(*standing)), table);
             said = DistanceText(lines) + DistanceStatistics(lines);
             return true;
         } catch (const std::runtime_error& error) {
@@ -29,10 +35,11 @@ bool RunRouteCommand(const std::vector<std::string>& words, const std::string& n
             return false;
         }
     }
-    const auto question = ReadRouteQuestion({words.begin() + 1, words.end()}, said);
+    auto question = ReadRouteQuestion({words.begin() + 1, words.end()}, said);
     if (!question) {
         return false;
     }
+    question->standing = std::move(*standing);
     try {
         const auto text = RouteText(*network, RouteFiles::Beside(networkFile), *question, said);
         said = text ? *text : said;

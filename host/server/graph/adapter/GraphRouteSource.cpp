@@ -32,7 +32,8 @@ std::unique_ptr<GraphRouteSource> GraphRouteSource::Open(const std::string& netw
     return network ? std::make_unique<GraphRouteSource>(std::move(network)) : nullptr;
 }
 
-GraphRouteSource::GraphRouteSource(std::shared_ptr<const SeaNetwork> network) : engine_(std::move(network)) {}
+GraphRouteSource::GraphRouteSource(std::shared_ptr<const SeaNetwork> network, RouteLimits standing)
+    : engine_(std::move(network), std::move(standing)) {}
 
 std::string GraphRouteSource::Plan(std::string_view requestJson) {
     return PlanWith(requestJson, {});

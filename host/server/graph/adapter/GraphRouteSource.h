@@ -17,8 +17,8 @@ class GraphRouteSource : public RouteSource {
     /// it is missing, foreign, cut or damaged.
     static std::unique_ptr<GraphRouteSource> Open(const std::string& networkFile, std::string& error);
 
-    /// `network` must not be null.
-    explicit GraphRouteSource(std::shared_ptr<const SeaNetwork> network);
+    /// `network` must not be null. `standing` holds for every request.
+    explicit GraphRouteSource(std::shared_ptr<const SeaNetwork> network, RouteLimits standing = {});
 
     /// An array with one object for every stop, or a status object with `eid` not 0 and `emsg`.
     std::string Plan(std::string_view requestJson) override;

@@ -43,7 +43,10 @@ class RouteAnswer {
                 }
             }
         }
-        limits_ = places_.WithoutPassages(question_.without);
+        limits_ = question_.standing;
+        for (const std::string& name : question_.without) {
+            limits_.forbidden.push_back(places_.PassageId(name));
+        }
         for (const std::string& name : question_.open) {
             limits_.opened.push_back(places_.PassageId(name));
         }

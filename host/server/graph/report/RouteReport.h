@@ -18,6 +18,7 @@ struct RouteQuestion {
     std::vector<std::string> without;
     std::vector<std::string> open;  ///< passages that are shut unless asked for
     ShipSize ship;                  ///< keeps out of passages that are too small for it
+    RouteLimits standing;           ///< what holds for every route, by ids of route points
     bool explain = false;
     bool geojson = false;
 };

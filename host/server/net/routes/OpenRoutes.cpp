@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <filesystem>
+#include <optional>
+#include <utility>
 
 #include "host/server/graph/adapter/GraphRouteSource.h"
 #include "host/server/net/service/Resources.h"
@@ -14,11 +16,17 @@ std::string NetworkBeside(const std::string& program) {
     return fs::is_regular_file(file, failed) ? file.string() : std::string();
 }
 
-std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, std::string& error) {
+std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, const PassageLists& lists,
+                                        std::string& error) {
     if (networkFile.empty() || networkFile == "none") {
         return std::make_unique<NoRoutes>();
     }
-    return GraphRouteSource::Open(networkFile, error);
+    std::shared_ptr<const SeaNetwork> network = SeaNetwork::Load(networkFile, error);
+    if (network == nullptr) {
+        return nullptr;
+    }
+    std::optional<RouteLimits> limits = ReadStandingLimits(Places(*network), lists, error);
+    return limits ? std::make_unique<GraphRouteSource>(std::move(network), std::move(*limits)) : nullptr;
 }
 
 }  // namespace Tarvik::Server

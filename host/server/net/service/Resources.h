@@ -6,6 +6,7 @@
 
 #include "host/server/accounts/AccountStorage.h"
 #include "host/server/api/RouteSource.h"
+#include "host/server/graph/report/StandingLimits.h"
 #include "host/server/net/settings/Settings.h"
 #include "host/server/storage/sql/SqlStorage.h"
 
@@ -37,8 +38,10 @@ class NoRoutes : public RouteSource {
 /// "…/share/seaplan/network.bin"); empty when there is none.
 std::string NetworkBeside(const std::string& program);
 
-/// The source of routes over a network file; for an empty name and for "none" one that refuses every request.
-/// Null, with an English text in `error`, when the file cannot be used.
-std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, std::string& error);
+/// The source of routes over a network file under lists of passages (the settings `passages_forbidden` and
+/// `passages_opened`); for an empty name and for "none" one that refuses every request. Null, with an English
+/// text in `error`, when the file cannot be used or a list names what is no passage of it.
+std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, const PassageLists& lists,
+                                        std::string& error);
 
 }  // namespace Tarvik::Server

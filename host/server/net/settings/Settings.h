@@ -17,6 +17,8 @@ struct Settings {
     std::string data = "/var/lib/seaplan-server";
     std::string database;  ///< connection text of PostgreSQL, with a secret; empty: files in `data`
     std::string network;
+    std::string passagesForbidden;
+    std::string passagesOpened;
     std::string address = "127.0.0.1";
     std::uint16_t port = 8470;
     std::string tlsCertificate;

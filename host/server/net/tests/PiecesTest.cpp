@@ -47,14 +47,14 @@ TEST(Routes, ComeFromTheNetworkThatWasInstalledWithTheProgram) {
     std::ofstream(folder.File("share/seaplan/network.bin")) << "no network";
     EXPECT_EQ(NetworkBeside(program), folder.File("share/seaplan/network.bin"));
     std::string error;
-    EXPECT_EQ(OpenRoutes(NetworkBeside(program), error), nullptr);
+    EXPECT_EQ(OpenRoutes(NetworkBeside(program), {}, error), nullptr);
     EXPECT_NE(error, "");
 }
 
 TEST(Routes, AreRefusedWithoutANetwork) {
     for (const char* none : {"", "none"}) {
         std::string error;
-        const auto routes = OpenRoutes(none, error);
+        const auto routes = OpenRoutes(none, {}, error);
         ASSERT_NE(routes, nullptr) << error;
         EXPECT_NE(routes->Plan("{}").find("this server has no sea network"), std::string::npos);
     }
