@@ -139,10 +139,10 @@ TEST(ScheduleCodes, FailureToDrawIsNoFailureToSaveOrLoad) {
         EXPECT_FALSE(IsScheduleSaved(code)) << code;
     }
     for (const int code : {0, -6, -7}) {
-        EXPECT_TRUE(IsScheduleLoaded(code)) << code;
+        EXPECT_EQ(LoadEndOf(code), LoadEnd::Loaded) << code;
     }
     for (const int code : {-1, -2, -3, -4, -5, -8}) {
-        EXPECT_FALSE(IsScheduleLoaded(code)) << code;
+        EXPECT_NE(LoadEndOf(code), LoadEnd::Loaded) << code;
     }
 }
 
