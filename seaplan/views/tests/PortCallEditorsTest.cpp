@@ -80,10 +80,14 @@ TEST_F(PortCallWindowTest, APurposeIsChosenByMouseOrKeyboard) {
     ClickItem(Purposes(), 9);
     EXPECT_EQ(Cell(1, ColPurpose), "Z");
     EXPECT_FALSE(Purposes().isVisible());
+    const auto present = std::find_if(
+        Interface::kPurposes.begin(), Interface::kPurposes.end(),
+        [code = Cell(2, ColPurpose)](const Interface::Purpose& purpose) { return code == purpose.code; });
+    ASSERT_NE(present, Interface::kPurposes.begin());
     ClickCell(2, ColPurpose);
-    QTest::keyClick(&Purposes(), Qt::Key_Down);
+    QTest::keyClick(&Purposes(), Qt::Key_Up);
     QTest::keyClick(&Purposes(), Qt::Key_Return);
-    EXPECT_EQ(Cell(2, ColPurpose), "2");
+    EXPECT_EQ(Cell(2, ColPurpose), (present - 1)->code) << "the one before the present";
     ClickCell(3, ColPurpose);
     QTest::keyClick(&Purposes(), Qt::Key_Escape);
     EXPECT_FALSE(Purposes().isVisible());
