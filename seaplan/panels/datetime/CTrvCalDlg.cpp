@@ -122,6 +122,26 @@ bool CTrvCalDlg::OnKey(Key key) {
     return true;
 }
 
+bool CTrvCalDlg::OnWindowKey(Key key) {
+    switch (key) {
+        case Key::Enter:
+            if (model_.IsDateOnly()) {
+                OnDay(model_.SelectedCell());
+            } else {
+                OnOk();
+            }
+            return true;
+        case Key::PageUp:
+            OnMonth(-1);
+            return true;
+        case Key::PageDown:
+            OnMonth(1);
+            return true;
+        default:
+            return false;
+    }
+}
+
 void CTrvCalDlg::OnTypingDone() {
     if (!typing_) {
         return;

@@ -40,6 +40,9 @@ class CTrvCalDlg {
     void OnStep(int by);
     /// A key in the edit: Enter ends the typing. False when the edit itself is to act on it.
     bool OnKey(Key key);
+    /// A key anywhere else in the calendar: Enter takes the day and the time as OK does, without a time the
+    /// day, and the page keys change the month. False when it means nothing here.
+    bool OnWindowKey(Key key);
     /// Enter in the edit, or a press outside it and its arrows: a text that is no such hour or minute is
     /// dropped.
     void OnTypingDone();

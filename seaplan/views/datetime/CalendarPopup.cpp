@@ -10,6 +10,7 @@
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/texts/CommonTexts.h"
+#include "seaplan/views/editors/QtKeys.h"
 #include "seaplan/views/window/FloatingPanel.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -93,6 +94,8 @@ QLayout* CalendarPopup::MakeButtons() {
     end_.cancel->setObjectName(QStringLiteral("calendarCancel"));
     for (QPushButton* button : {end_.ok, end_.cancel}) {
         Skin::SkinWindow(*button, Skin::ControlClass::PushButton, "trv.btn.default");
+        // Enter on Cancel is Cancel, everywhere else it is OK.
+        button->setAutoDefault(true);
     }
     buttons->addStretch(1);
     buttons->addWidget(end_.ok);
@@ -119,6 +122,12 @@ void CalendarPopup::mousePressEvent(QMouseEvent* event) {
     }
     setAttribute(Qt::WA_NoMouseReplay, anchor_.contains(event->globalPosition().toPoint()));
     QFrame::mousePressEvent(event);
+}
+
+void CalendarPopup::keyPressEvent(QKeyEvent* event) {
+    if (panel_ == nullptr || !panel_->OnWindowKey(PressOf(*event).key)) {
+        QFrame::keyPressEvent(event);
+    }
 }
 
 void CalendarPopup::hideEvent(QHideEvent* event) {
@@ -155,6 +164,7 @@ void CalendarPopup::Open(Point corner) {
         shown_(true);
     }
     show();
+    days_->FocusChosen();
 }
 
 void CalendarPopup::ApplyTexts() {

@@ -37,6 +37,8 @@ class CalendarPopup final : public QFrame, public CalendarView {
   protected:
     /// A press beside hour and minute ends their typing; one beside the calendar closes it.
     void mousePressEvent(QMouseEvent* event) override;
+    /// Keys that no control has taken.
+    void keyPressEvent(QKeyEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
   private:

@@ -3,6 +3,7 @@
 
 #include <QButtonGroup>
 #include <QLabel>
+#include <algorithm>
 
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
@@ -49,13 +50,30 @@ DayGrid::DayGrid(QWidget* calendar) {
     }
 }
 
+void DayGrid::FocusChosen() {
+    for (QToolButton* cell : cells_) {
+        if (cell->isChecked()) {
+            cell->setFocus(Qt::TabFocusReason);
+        }
+    }
+}
+
 void DayGrid::Show(const CalendarState& state) {
+    const QWidget* focused = parentWidget()->focusWidget();
+    const bool inDays = std::any_of(cells_.begin(), cells_.end(),
+                                    [focused](const QToolButton* cell) { return cell == focused; });
     for (std::size_t i = 0; i < cells_.size(); ++i) {
         QToolButton* cell = cells_[i];
         cell->setText(QString::number(state.cells[i].day));
-        cell->setChecked(static_cast<int>(i) == state.selectedCell);
+        const bool chosen = static_cast<int>(i) == state.selectedCell;
+        cell->setChecked(chosen);
+        // One stop for Tab, not 42.
+        cell->setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus);
         Skin::SkinWindow(*cell, Skin::ControlClass::RadioButton, StyleOf(state.cells[i].look));
         Skin::Describe(cell, QString::fromStdString(state.cells[i].date));
+    }
+    if (inDays) {
+        FocusChosen();
     }
 }
 

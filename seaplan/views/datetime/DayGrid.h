@@ -17,6 +17,8 @@ class DayGrid final : public QGridLayout {
     /// Told of the cell that was pressed.
     void SetReport(std::function<void(int)> pressed) { pressed_ = std::move(pressed); }
     void Show(const CalendarState& state);
+    /// Gives the keyboard to the chosen day, from where arrows lead to the others.
+    void FocusChosen();
 
   private:
     std::array<QToolButton*, CalendarModel::kCells> cells_{};

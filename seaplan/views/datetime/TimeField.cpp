@@ -20,6 +20,7 @@ TimeField::TimeField(QWidget* calendar, QBoxLayout* row, const char* name, TimeP
     edit_->setMaxLength(2);
     edit_->setFixedWidth(28);
     edit_->installEventFilter(this);
+    shown_->installEventFilter(this);
     Skin::SkinWindow(*edit_, Skin::ControlClass::EditField,
                      part == TimePart::Hour ? "trv_pagenum_edit" : "Date_time_edit");
     Skin::SkinWindow(*shown_, Skin::ControlClass::StaticText, "trv_date_12");
@@ -66,8 +67,21 @@ void TimeField::ApplyTexts(TextId part, TextId minus, TextId plus) {
 }
 
 bool TimeField::eventFilter(QObject* watched, QEvent* event) {
-    return watched == edit_ && event->type() == QEvent::KeyPress &&
-           panel_->OnKey(PressOf(*static_cast<QKeyEvent*>(event)).key);
+    if (event->type() != QEvent::KeyPress) {
+        return false;
+    }
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (watched == edit_) {
+        return panel_->OnKey(PressOf(key).key);
+    }
+    const QString digit = TextOf(key);
+    if (digit.isEmpty() || !digit.front().isDigit()) {
+        return false;
+    }
+    panel_->OnTimePressed(part_);
+    edit_->insert(digit);
+    panel_->OnTyped(edit_->text().toStdString());
+    return true;
 }
 
 }  // namespace Tarvik::Seaplan

@@ -25,7 +25,7 @@ class TimeField final : public QObject {
     void ApplyTexts(TextId part, TextId minus, TextId plus);
 
   protected:
-    /// Keys of the edit.
+    /// Keys of the edit, and a digit on the text, which begins the typing with it.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

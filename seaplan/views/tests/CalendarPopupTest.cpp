@@ -115,6 +115,64 @@ TEST_F(CalendarPopupTest, YearsAndMonthsStep) {
     EXPECT_EQ(heading(), "March  2024");
 }
 
+TEST_F(CalendarPopupTest, EnterTakesOkAndOnCancelItCancels) {
+    Click("day25");
+    QTest::keyClick(Button("calendarCancel"), Qt::Key_Return);
+    EXPECT_FALSE(calendar.isVisible());
+    EXPECT_TRUE(chosen.empty());
+    panel.SetValue(Util::_datetime_t(42, 30, 8, 15, 3, 2024));
+    panel.Open({50, 60});
+    Click("day25");
+    QTest::keyClick(Button("day25"), Qt::Key_Return);
+    ASSERT_EQ(chosen.size(), 1U);
+    EXPECT_EQ(chosen[0], Util::_datetime_t(42, 30, 8, 21, 3, 2024));
+    EXPECT_FALSE(calendar.isVisible());
+}
+
+TEST_F(CalendarPopupTest, EnterInADateOnlyCalendarTakesTheDay) {
+    panel.Setup(true, Util::_datetime_t(42, 30, 8, 15, 3, 2024));
+    QTest::keyClick(&calendar, Qt::Key_PageDown);
+    EXPECT_TRUE(chosen.empty());
+    QTest::keyClick(&calendar, Qt::Key_Return);
+    ASSERT_EQ(chosen.size(), 1U);
+    EXPECT_EQ(chosen[0], Util::_datetime_t(0, 0, 0, 1, 4, 2024)) << "the first of the month on view";
+}
+
+TEST_F(CalendarPopupTest, PageKeysChangeTheMonthAndTheKeyboardStaysOnTheChosenDay) {
+    const auto heading = [this] { return calendar.findChild<QLabel*>("calendarHeading")->text(); };
+    ASSERT_NE(calendar.focusWidget(), nullptr);
+    EXPECT_EQ(calendar.focusWidget()->objectName(), "day19") << "15 March, opened with the keyboard on it";
+    QTest::keyClick(calendar.focusWidget(), Qt::Key_PageDown);
+    EXPECT_EQ(heading(), "April  2024");
+    EXPECT_EQ(calendar.focusWidget()->objectName(), "day1");
+    QTest::keyClick(calendar.focusWidget(), Qt::Key_PageUp);
+    QTest::keyClick(calendar.focusWidget(), Qt::Key_PageUp);
+    EXPECT_EQ(heading(), "February  2024");
+}
+
+TEST_F(CalendarPopupTest, OneDayOnlyIsAStopForTab) {
+    int stops = 0;
+    for (int i = 0; i < CalendarModel::kCells; ++i) {
+        const auto* day = Button(("day" + std::to_string(i)).c_str());
+        stops += (day->focusPolicy() & Qt::TabFocus) != 0 ? 1 : 0;
+        EXPECT_EQ((day->focusPolicy() & Qt::TabFocus) != 0, day->isChecked()) << i;
+    }
+    EXPECT_EQ(stops, 1);
+}
+
+TEST_F(CalendarPopupTest, ADigitOnHourOrMinuteBeginsTheTyping) {
+    QTest::keyClick(Button("hourShown"), Qt::Key_2);
+    ASSERT_TRUE(Edit("hourEdit")->isVisible());
+    EXPECT_EQ(Edit("hourEdit")->text(), "2");
+    QTest::keyClick(Edit("hourEdit"), Qt::Key_1);
+    QTest::keyClick(Edit("hourEdit"), Qt::Key_Return);
+    EXPECT_EQ(Button("hourShown")->text(), "21");
+    QTest::keyClick(Button("minuteShown"), Qt::Key_5);
+    QTest::keyClick(&calendar, Qt::Key_Return);
+    ASSERT_EQ(chosen.size(), 1U);
+    EXPECT_EQ(chosen[0], Util::_datetime_t(42, 5, 21, 15, 3, 2024));
+}
+
 TEST_F(CalendarPopupTest, EveryControlHasAnAccessibleName) {
     for (QAbstractButton* button : calendar.findChildren<QAbstractButton*>()) {
         EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
