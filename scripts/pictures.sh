@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes the pictures of docs/pictures from the real client: a planned voyage with the voyage and port call panels open,
-# in the light look, the dark one, and in Chinese; and the alternatives of a passage of a new voyage. Usage: scripts/pictures.sh [BUILD-FOLDER]
+# Makes the pictures of docs/pictures from the real client: a planned voyage with the voyage and port call panels open, its
+# position book, the port distance table and the ways past its route points compared, each in the light look, the dark
+# one, and in Chinese; and the alternatives of a passage of a new voyage. Usage: scripts/pictures.sh [BUILD-FOLDER]
 set -u
 cd "$(dirname "$0")/.." || exit 1
 . scripts/prepare.sh
@@ -90,6 +91,23 @@ picture() {
     xdotool mousemove 1100 300
     await still
     import -silent -window root "$pictures/$1.png" || fail "no picture $1"
+    book "$1" "$3" "$calls"
+    end_client
+}
+
+# book NAME LANGUAGE PORT-CALLS: the position book of the voyage whose port calls are open.
+book() {
+    local book
+    xdotool windowfocus "$3"
+    xdotool key ctrl+b
+    await window "$(text "$2" IDC_WP_T_TITLE)"
+    book=$(window "$(text "$2" IDC_WP_T_TITLE)")
+    drag "$book" 350 480
+    await still
+    import -silent -window root "$pictures/${1/client/book}.png" || fail "no picture of the book"
+}
+
+end_client() {
     kill "$client_pid"
     wait "$client_pid" 2>/dev/null
     client_pid=
@@ -148,9 +166,41 @@ alternatives() {
     xdotool mousemove 1100 300
     await still
     import -silent -window root "$pictures/alternatives.png" || fail "no picture of the alternatives"
-    kill "$client_pid"
-    wait "$client_pid" 2>/dev/null
-    client_pid=
+    end_client
+}
+
+# distances NAME THEME LANGUAGE: the port distance table, and the ways past its route points compared.
+distances() {
+    local main table ways
+    "$client" --data "$work/fresh" --theme "$2" --lang "$3" &
+    client_pid=$!
+    await window Seaplan
+    main=$(window Seaplan)
+    xdotool windowsize "$main" 1600 1000
+    await still
+    click "$main" 800 990
+    xdotool key ctrl+d
+    await window "$(text "$3" IDS_PORTCALL_DISTTABTITLE)"
+    table=$(window "$(text "$3" IDS_PORTCALL_DISTTABTITLE)")
+    drag "$table" 24 640
+    click "$table" 103 84
+    type_line Rotterdam
+    type_line Singapore
+    xdotool key F9
+    await still
+    fit "$main"
+    click "$table" 103 104
+    xdotool mousemove 1100 300
+    await still
+    import -silent -window root "$pictures/distances-$1.png" || fail "no picture of the distances"
+    xdotool key ctrl+shift+r
+    await window "$(text "$3" IDS_VIEW_WAYS)"
+    ways=$(window "$(text "$3" IDS_VIEW_WAYS)")
+    xdotool windowmove "$ways" 700 560
+    xdotool key Down Down
+    await still
+    import -silent -window root "$pictures/ways-$1.png" || fail "no picture of the ways"
+    end_client
 }
 
 "$client" --data "$work/data" plan Rotterdam Singapore Shanghai --speed 14 --depart "2026-12-01 08:00" --stay 12,24,0 \
@@ -161,3 +211,6 @@ picture client-light light en-US
 picture client-dark dark en-US
 picture client-chinese light zh-CN
 alternatives
+distances light light en-US
+distances dark dark en-US
+distances chinese light zh-CN
