@@ -27,6 +27,7 @@ namespace {
 constexpr int kLeastLines = 8;
 constexpr int kRowWidth = 35;
 constexpr int kColumnWidth = 120;
+constexpr std::size_t kFirstFigure = 2;  ///< column of a route's preview
 constexpr int kLeastWidth = 480;
 constexpr int kMostWidth = 1000;
 
@@ -93,12 +94,16 @@ PanelTable* MakeTable(QWidget* parent, const RowsPreview& preview) {
     const DialogWords& said = WordsOf(preview.command);
     auto* table = new PanelTable(parent, "", kLeastLines);
     table->setObjectName(NameOf(said, "Table"));
+    const bool pasted = preview.command == RowsPreview::Command::Paste;
+    const bool numbered = preview.command != RowsPreview::Command::Ways;
     std::vector<TableColumn> columns;
+    columns.reserve(preview.titles.size());
     for (const std::string& title : preview.titles) {
-        columns.push_back({.title = QString::fromStdString(title),
-                           .width = columns.empty() && preview.command != RowsPreview::Command::Ways
-                                        ? kRowWidth
-                                        : kColumnWidth});
+        // What a route costs is compared digit below digit; what was pasted is shown as it came.
+        columns.push_back(
+            {.title = QString::fromStdString(title),
+             .width = columns.empty() && numbered ? kRowWidth : kColumnWidth,
+             .alignment = !pasted && columns.size() >= kFirstFigure ? Qt::AlignRight : Qt::AlignLeft});
     }
     table->ShowColumns(std::move(columns));
     table->ShowLines(std::make_shared<PreviewLines>(preview));

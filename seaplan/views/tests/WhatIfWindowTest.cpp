@@ -115,6 +115,7 @@ TEST_F(WhatIfWindowTest, AWayIsChosenByTheKeyboardOrNone) {
             EXPECT_EQ(dialog->objectName(), "waysDialog");
             auto* table = Find<PanelTable>(*dialog, "waysTable");
             EXPECT_EQ(dialog->focusWidget(), table);
+            EXPECT_NE(table->model()->index(1, 2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight, 0);
             for (const Qt::Key key : keys) {
                 QTest::keyClick(table, key);
             }
