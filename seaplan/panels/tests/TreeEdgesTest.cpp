@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 /// Steps of a person at the borders of the tree's rules: what is asked, said, marked and shown then.
+#include <chrono>
+
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/tests/TreeFixture.h"
 #include "seaplan/panels/tree/CategoryCommands.h"
+#include "seaplan/panels/tree/StatusQueue.h"
 #include "seaplan/panels/tree/TreeContext.h"
+#include "testsupport/ManualTimer.h"
 #include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {
@@ -37,6 +41,41 @@ class TreeEdgesTest : public TreeFixture {
         return said;
     }
 };
+
+/// A sign that may go before the work that it stands for.
+class CountedSign final : public BusySign {
+  public:
+    explicit CountedSign(int& told) : told_(told) {}
+    void SetBusy(bool) override { ++told_; }
+
+  private:
+    int& told_;
+};
+
+TEST(StatusQueueTest, WhoEndsAmidTheWorkAsksNothingOfTheWindowAnyMore) {
+    TestSupport::ManualTimer timer;
+    int told = 0;
+    int done = 0;
+    CountedSign sign(told);
+    {
+        StatusQueue queue(sign, [&done](const std::string&, TreeRow) {
+            // A slow server: longer than the first piece.
+            const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(100);
+            while (std::chrono::steady_clock::now() < end) {
+            }
+            ++done;
+        });
+        queue.Add("1", {});
+        queue.Add("2", {});
+        queue.Run();
+        ASSERT_EQ(done, 1);
+        ASSERT_EQ(told, 1) << "it works on";
+        ASSERT_EQ(timer.Running(), 1U);
+    }
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(timer.Running(), 0U);
+    EXPECT_EQ(done, 1);
+}
 
 }  // namespace
 

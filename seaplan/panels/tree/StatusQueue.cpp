@@ -60,14 +60,18 @@ void StatusQueue::Tick() {
 }
 
 void StatusQueue::Stop() {
-    if (timer_ == 0) {
-        return;
+    if (timer_ != 0) {
+        StopTimer();
+        sign_.SetBusy(false);
     }
-    if (Util::TimerService* timers = Util::TimerService::Current()) {
+}
+
+void StatusQueue::StopTimer() {
+    Util::TimerService* timers = timer_ != 0 ? Util::TimerService::Current() : nullptr;
+    if (timers != nullptr) {
         timers->Stop(timer_);
     }
     timer_ = 0;
-    sign_.SetBusy(false);
 }
 
 }  // namespace Tarvik::Seaplan

@@ -19,7 +19,8 @@ class StatusQueue {
     using Work = std::function<void(const std::string& vi, TreeRow row)>;
 
     StatusQueue(BusySign& sign, Work work) : sign_(sign), work_(std::move(work)) {}
-    ~StatusQueue() { Stop(); }
+    /// The sign is left alone: its window may be gone.
+    ~StatusQueue() { StopTimer(); }
     StatusQueue(const StatusQueue&) = delete;
     StatusQueue& operator=(const StatusQueue&) = delete;
 
@@ -32,6 +33,7 @@ class StatusQueue {
     void DoFor(int milliseconds);
     void Tick();
     void Stop();
+    void StopTimer();
 
     BusySign& sign_;
     Work work_;
