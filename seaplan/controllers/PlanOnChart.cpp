@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/controllers/PlanOnChart.h"
-
 #include "seaplan/calculation/PositionBook.h"
+#include "seaplan/controllers/ProgressDrawing.h"
 #include "seaplan/data/Position.h"
 #include "seaplan/data/TimeText.h"
 

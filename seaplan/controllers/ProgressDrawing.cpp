@@ -5,7 +5,6 @@
 #include <tarvik/util/DateTimeUtl.h>
 
 #include "seaplan/calculation/PositionBook.h"
-#include "seaplan/controllers/PlanOnChart.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,6 +4,9 @@
 #include <map>
 #include <string>
 
+#include <tarvik/bus/PlanContract.h>
+#include <tarvik/interface/ChartRecords.h>
+
 #include "seaplan/calculation/PlannedProgress.h"
 #include "seaplan/chart/VoyageLayer.h"
 #include "seaplan/data/Outcome.h"
@@ -70,5 +73,9 @@ class ProgressDrawing {
     VoyageLayer& layer_;
     std::map<std::string, std::string> shipPositions_;
 };
+
+/// The plan of a voyage with its book, as the chart is told it; `ship` names the voyage's image. Without
+/// places when the book cannot be timed, so that the chart forgets it.
+Interface::TrvMapPlan PlanOf(const VoyInfo& voyage, const Interface::TrvMapObjectRef& ship);
 
 }  // namespace Tarvik::Seaplan

@@ -5,7 +5,7 @@
 #include <tarvik/bus/PlanContract.h>
 
 #include "seaplan/chart/VoyageLayer.h"
-#include "seaplan/controllers/PlanOnChart.h"
+#include "seaplan/controllers/ProgressDrawing.h"
 #include "seaplan/controllers/tests/ScheduleFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -12,7 +12,6 @@
 #include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/portcall/PortCallParts.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
-#include "seaplan/panels/portcall/RouteAnew.h"
 #include "seaplan/panels/portcall/VoyageFilling.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"

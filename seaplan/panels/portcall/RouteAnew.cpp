@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/portcall/RouteAnew.h"
-
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
+#include "seaplan/panels/portcall/RouteChoice.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/WhatIfTexts.h"
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/calculation/Units.h"
 #include "seaplan/controllers/RouteWays.h"
 #include "seaplan/data/Outcome.h"
 #include "seaplan/data/VoyPortCall.h"
@@ -13,6 +14,10 @@
 namespace Tarvik::Seaplan {
 
 class PortCallDesk;
+
+/// The legs of rows as they are and as a new route would have them, side by side in the distance unit on
+/// show. Both lists are in nautical miles and have the same ports in order.
+RowsPreview PreviewOfRoute(const PortCallRows& now, const PortCallRows& anew, const UnitSet& units);
 
 enum class WaysStep {
     Rows,    ///< the table has no route that is not saved yet, or its rows no schedule over it

@@ -13,6 +13,9 @@ class QToolButton;
 
 namespace Tarvik::Seaplan {
 
+class CPortCallPanelDlg;
+class PanelTable;
+
 struct PortCallState;
 
 /// The commands below the table: save, clear, undo, redo, further ones in a menu, the questions, position
@@ -48,5 +51,9 @@ class PortCallButtons final : public QWidget {
     QPushButton* book_;
     QPushButton* calculate_;
 };
+
+/// Opens the commands that the port calls have beside their buttons, on the cell in front, at a point of the
+/// screen. Each tells its key.
+void OpenPortCallMenu(PanelTable& table, CPortCallPanelDlg& panel, const QPoint& at);
 
 }  // namespace Tarvik::Seaplan

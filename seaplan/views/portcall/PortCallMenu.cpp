@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/portcall/PortCallMenu.h"
-
 #include <QMenu>
 
 #include <tarvik/skin/Palette.h>
@@ -9,6 +7,7 @@
 #include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/texts/WhatIfTexts.h"
+#include "seaplan/views/portcall/PortCallButtons.h"
 #include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 

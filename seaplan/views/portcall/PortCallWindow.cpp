@@ -18,7 +18,6 @@
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/portcall/PortCallLines.h"
-#include "seaplan/views/portcall/PortCallMenu.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {

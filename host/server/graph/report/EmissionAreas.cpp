@@ -2,8 +2,6 @@
 // How much of a way lies in emission control areas: every piece of it is cut where it crosses an edge of an
 // area, and a part counts when its middle lies inside by the even-odd rule (Shimrat 1962). Own method. Cost:
 // the pieces of the way times the edges of all areas, some hundreds.
-#include "host/server/graph/report/EmissionAreas.h"
-
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
@@ -11,6 +9,7 @@
 #include "host/geo/Sphere.h"
 #include "host/server/graph/Gate.h"
 #include "host/server/graph/PathShape.h"
+#include "host/server/graph/report/RouteFiles.h"
 
 namespace Tarvik::Server {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/server/graph/report/PassageLimits.h"
-
 #include <stdexcept>
 
 #include <fmt/format.h>
+
+#include "host/server/graph/report/RouteFiles.h"
 
 namespace Tarvik::Server {
 
