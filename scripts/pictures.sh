@@ -62,15 +62,20 @@ fit() {
     xdotool key ctrl+minus
 }
 
-# picture NAME THEME LANGUAGE
-picture() {
-    local main voyages calls
-    "$client" --data "$work/data" --theme "$2" --lang "$3" &
+# open_client FOLDER THEME LANGUAGE: the client over the whole screen; the caller's "main" is its window.
+open_client() {
+    "$client" --data "$work/$1" --theme "$2" --lang "$3" &
     client_pid=$!
     await window Seaplan
     main=$(window Seaplan)
     xdotool windowsize "$main" 1600 1000
     await still
+}
+
+# picture NAME THEME LANGUAGE
+picture() {
+    local main voyages calls
+    open_client data "$2" "$3"
     click "$main" 40 18
     await window "$(text "$3" IDS_TREE_VOYTITLE)"
     voyages=$(window "$(text "$3" IDS_TREE_VOYTITLE)")
@@ -124,12 +129,7 @@ spots() {
 # A new voyage from Rotterdam to Singapore, not saved yet, and a click on the Suez Canal, the fifth route point from the west.
 alternatives() {
     local main voyages calls
-    "$client" --data "$work/fresh" --theme light --lang en-US &
-    client_pid=$!
-    await window Seaplan
-    main=$(window Seaplan)
-    xdotool windowsize "$main" 1600 1000
-    await still
+    open_client fresh light en-US
     click "$main" 40 18
     await window Voyages
     voyages=$(window Voyages)
@@ -172,12 +172,7 @@ alternatives() {
 # distances NAME THEME LANGUAGE: the port distance table, and the ways past its route points compared.
 distances() {
     local main table ways
-    "$client" --data "$work/fresh" --theme "$2" --lang "$3" &
-    client_pid=$!
-    await window Seaplan
-    main=$(window Seaplan)
-    xdotool windowsize "$main" 1600 1000
-    await still
+    open_client fresh "$2" "$3"
     click "$main" 800 990
     xdotool key ctrl+d
     await window "$(text "$3" IDS_PORTCALL_DISTTABTITLE)"
