@@ -38,6 +38,12 @@ struct KeyPress {
     bool held = false;       ///< pressed before, and not let go since
 };
 
+/// Whether a key is a table's while that has the keyboard, though the client has a command under it as well:
+/// Ctrl+D fills a column down, and opens the port distance table from everywhere else.
+inline bool BelongsToTable(KeyPress press) {
+    return press.ctrl && press.key == Key::D;
+}
+
 /// Keys that mean the same over the cells of every table: Enter and F2 press the cell in front, Escape takes
 /// what is typed and closes what is open. False for any other key.
 template <class Editing>

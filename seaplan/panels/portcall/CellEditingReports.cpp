@@ -17,6 +17,20 @@ bool StartsCommand(KeyPress press) {
     return press.key == Key::F9 || (press.key == Key::S && press.ctrl);
 }
 
+/// Takes what is typed and puts the keyboard on another cell, whose editor opens when something is typed
+/// there. False without such a row.
+bool LeaveFor(CellEditing& editing, PortCallDesk& desk, int row, int column) {
+    PortCallTable& table = desk.Sheet().table;
+    if (!table.IsNumbered(row)) {
+        return false;
+    }
+    editing.CommitEditors();
+    table.GrowIfLast(row);
+    desk.Show();
+    desk.View().SelectCell(row, column);
+    return true;
+}
+
 }  // namespace
 
 void CellEditing::OnTyped(CellEditor editor, const std::string& text) {
@@ -33,8 +47,13 @@ bool CellEditing::OnEditorKey(CellEditor editor, KeyPress press) {
             Escape(editor);
             return true;
         case Key::Up:
-        case Key::Down:
-            return editor == CellEditor::Port && matching_.Move(press.key == Key::Down ? 1 : -1);
+        case Key::Down: {
+            // Through the matches that are shown; a match window has keys of its own.
+            const int step = press.key == Key::Down ? 1 : -1;
+            return editor == CellEditor::Port && matching_.IsShown()
+                       ? matching_.Move(step)
+                       : LeaveFor(*this, desk_, Box(editor).Row() + step, ColumnOf(editor));
+        }
         case Key::Backspace:
             if (editor == CellEditor::Port) {
                 matching_.OnBackspace();
@@ -125,8 +144,11 @@ void CellEditing::OnMatchChosen() {
     const PortCallDesk::Report report(desk_);
     const std::string name = matching_.Take();
     if (!name.empty()) {
-        edits_.SetPort(port_.Row(), name);
+        const int row = port_.Row();
+        edits_.SetPort(row, name);
         Hide(CellEditor::Port);
+        // What is typed behind it is the next port, as behind a name typed whole.
+        LeaveFor(*this, desk_, row + 1, ColPort);
     }
 }
 

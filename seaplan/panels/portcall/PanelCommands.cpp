@@ -29,6 +29,17 @@ void TellFailure(PortCallDesk& desk, TextId id) {
     desk.ToPerson().Notice(id, desk.Sheet().cause);
 }
 
+/// Where there is no box for it, the status line tells why nothing was calculated.
+void TellCalculated(PortCallDesk& desk, const Outcome<TableStep>& calculated) {
+    if (!calculated.Failed()) {
+        TellInStatusLine({});
+    } else if (calculated.At() == TableStep::Save) {
+        TellFailure(desk, TextIds::IDS_PORTCALL_SAVEEXCEPTION);
+    } else {
+        TellInStatusLine(Text(TextIds::IDS_VIEW_NOTCALCULATED, {desk.Sheet().cause}));
+    }
+}
+
 }  // namespace
 
 PanelCommands::PanelCommands(PortCallDesk& desk, CellEditing& editing, CorrectedSchedule& corrected,
@@ -51,10 +62,7 @@ void PanelCommands::OnCalculate() {
         return;
     }
     if (corrected <= 0) {
-        const auto calculated = calculation_.Calculate();
-        if (calculated.Failed() && calculated.At() == TableStep::Save) {
-            TellFailure(desk_, TextIds::IDS_PORTCALL_SAVEEXCEPTION);
-        }
+        TellCalculated(desk_, calculation_.Calculate());
     } else if (corrected_.Calculate() != 0) {
         TellFailure(desk_, TextIds::IDS_PORTCALL_AISCOMPUTWARN);
     }

@@ -24,7 +24,7 @@ class PortCallView : public PanelWindow {
     virtual void ShowEdits(const UndoTexts& edits) = 0;
     /// Tells the person that something goes on which takes a while.
     virtual void SetBusy(bool busy) = 0;
-    virtual void SelectRow(int row) = 0;
+    virtual void SelectCell(int row, int column) = 0;
     /// The rows that the person has chosen, in order; that in front mostly is one of them.
     virtual std::vector<int> ChosenRows() const = 0;
     virtual void BringRowIntoView(int row) = 0;

@@ -46,7 +46,7 @@ int RowCommands::Move(int row, const std::string& name) {
     desk_.History().Take({TextIds::IDS_VIEW_EDITMOVE, row});
     const int target = up ? row - 1 : row + 1;
     if (result == 0 && (up || !table.IsBlank(target))) {
-        desk_.View().SelectRow(target);
+        desk_.View().SelectCell(target, ColPort);
     }
     return result;
 }
@@ -126,7 +126,7 @@ void RowCommands::DeleteChosen(int row) {
     if (kept.size() < chosen.size()) {
         ShowMoved(0, rows);
         desk_.History().Take(EditOfRows(TextIds::IDS_VIEW_EDITDELETEROWS, chosen.size() - kept.size()));
-        desk_.View().SelectRow(chosen.front());
+        desk_.View().SelectCell(chosen.front(), ColPort);
     }
     TellInStatusLine(RowsText(TextIds::IDS_VIEW_ROWSNOTDELETED, kept));
 }
@@ -171,7 +171,7 @@ void RowCommands::PutInChosen(int row, int column) {
 bool RowCommands::OnChosenKey(KeyPress press, int row, int column) {
     if (press.key == Key::Delete) {
         DeleteChosen(row);
-    } else if (press.ctrl && press.key == Key::D) {
+    } else if (BelongsToTable(press)) {
         FillDown(row, column);
     } else if (press.ctrl && press.key == Key::Enter) {
         PutInChosen(row, column);

@@ -52,6 +52,7 @@ int TableCalculation::Schedule(const PortCallRows& rows, PortCallRows& result, i
 }
 
 Outcome<TableStep> TableCalculation::Calculate() {
+    desk_.Sheet().cause.clear();
     PortCallRows rows;
     if (!Prepare(rows)) {
         desk_.Sheet().cause = Text(TextIds::IDS_VIEW_NEEDTWOPORTS);

@@ -167,6 +167,57 @@ TEST_F(PortCallFixture, AMatchIsTakenWhenItIsChosen) {
     EXPECT_EQ(Cell(0, ColPort), "ROUEN");
 }
 
+TEST_F(PortCallFixture, WhatIsTypedBehindAChosenMatchIsTheNextPort) {
+    Open(kept);
+    panel.Cells().OnCellClicked(2, ColPort);
+    Retype(CellEditor::Port, "ro");
+    ASSERT_TRUE(panel.Cells().OnEditorKey(CellEditor::Port, {Key::Down}));
+    panel.Cells().OnMatchPressed(1);
+    EXPECT_EQ(Cell(2, ColPort), "ROUEN");
+    EXPECT_EQ(view.selectedRow, 3);
+    EXPECT_EQ(view.selectedColumn, ColPort);
+    EXPECT_FALSE(view.openEditor.has_value());
+    const std::string typed = "G";
+    panel.Cells().OnCellClicked(view.selectedRow, view.selectedColumn, &typed);
+    EXPECT_EQ(view.editorRow, 3);
+}
+
+TEST_F(PortCallFixture, AMatchInTheLastRowMakesAnother) {
+    Open(fresh);
+    panel.Cells().OnCellClicked(4, ColPort);
+    Retype(CellEditor::Port, "ro");
+    panel.Cells().OnMatchPressed(0);
+    EXPECT_EQ(view.selectedRow, 5);
+    EXPECT_EQ(view.table.RowCount(), 7);
+}
+
+TEST_F(PortCallFixture, UpAndDownTakeWhatIsTypedToTheRowBeside) {
+    Open(kept);
+    panel.Cells().OnCellClicked(1, ColSpeed);
+    Retype(CellEditor::Speed, "15");
+    EXPECT_TRUE(panel.Cells().OnEditorKey(CellEditor::Speed, {Key::Down}));
+    EXPECT_EQ(Cell(1, ColSpeed), "15.00");
+    EXPECT_FALSE(view.openEditor.has_value());
+    EXPECT_EQ(view.selectedRow, 2);
+    EXPECT_EQ(view.selectedColumn, ColSpeed);
+    panel.Cells().OnCellClicked(3, ColPort);
+    EXPECT_TRUE(panel.Cells().OnEditorKey(CellEditor::Port, {Key::Up}));
+    EXPECT_EQ(view.selectedRow, 2);
+    EXPECT_EQ(Cell(3, ColPort), " ") << "an editor that was only looked into changes nothing";
+}
+
+TEST_F(PortCallFixture, UpAndDownStayInTheEditorBesideTheEndsAndOverAMatchWindow) {
+    Open(kept);
+    panel.Cells().OnCellClicked(0, ColPort);
+    EXPECT_FALSE(panel.Cells().OnEditorKey(CellEditor::Port, {Key::Up}));
+    EXPECT_EQ(view.openEditor, CellEditor::Port);
+    const SearchPlugin plugin;
+    Retype(CellEditor::Port, "RO");
+    ASSERT_NE(view.matchWindow, nullptr);
+    EXPECT_FALSE(panel.Cells().OnEditorKey(CellEditor::Port, {Key::Down}));
+    EXPECT_EQ(view.openEditor, CellEditor::Port);
+}
+
 TEST_F(PortCallFixture, TheSearchPluginIsAskedAtEachTextButTheOneSetOnTheWayToTheNextRow) {
     SearchPlugin plugin;
     Open(kept);

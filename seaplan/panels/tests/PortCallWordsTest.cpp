@@ -49,6 +49,26 @@ TEST_F(PortCallWordsTest, AFailedSaveNamesTheUnknownPortWithItsRow) {
     EXPECT_EQ(Saves(), 0);
 }
 
+TEST_F(PortCallWordsTest, AFailedCalculationHasNoBoxAndTellsItsCauseInTheStatusLine) {
+    texts.given[u"IDS_VIEW_NOTCALCULATED"] = u"not so: %1";
+    Open(fresh);
+    EnterPorts({"ROTTERDAM", "GDANKS", "HAMBURG"});
+    panel.Commands().OnCalculate();
+    EXPECT_EQ(statusWord, "not so: row 2, port GDANKS");
+    Type(1, ColPort, "ROTTERDAM");
+    Type(2, ColPort, "EUROPOORT");
+    panel.Commands().OnCalculate();
+    EXPECT_EQ(statusWord, "not so: IDS_VIEW_NEEDTWOPORTS") << "one place is no voyage";
+    Type(2, ColPort, "HAMBURG");
+    desk.routes->Close(true);
+    panel.Commands().OnCalculate();
+    EXPECT_EQ(statusWord, "not so: IDS_VIEW_FAULTROUTE");
+    desk.routes->Close(false);
+    panel.Commands().OnCalculate();
+    EXPECT_EQ(statusWord, "") << "a calculation takes the words away";
+    EXPECT_TRUE(messages.messages.empty());
+}
+
 TEST_F(PortCallWordsTest, AFailedSaveNamesTheMissingRoute) {
     Open(kept);
     ASSERT_EQ(panel.Rows().OnItemImage(2, "itemMoveUp"), 0);

@@ -32,6 +32,7 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     int statesShown = 0;
     int busy = 0;
     int selectedRow = -1;
+    int selectedColumn = -1;
     std::vector<int> chosen;  ///< by the person
     std::string clipboard;
     std::vector<RowsPreview> pastes;  ///< that were shown, and other previews of rows
@@ -73,7 +74,10 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
         visibility.emplace_back("hide");
     }
     void SetBusy(bool on) override { busy += on ? 1 : -1; }
-    void SelectRow(int row) override { selectedRow = row; }
+    void SelectCell(int row, int column) override {
+        selectedRow = row;
+        selectedColumn = column;
+    }
     std::vector<int> ChosenRows() const override { return chosen; }
     std::string ClipboardText() const override { return clipboard; }
     bool AskRows(const RowsPreview& preview) override {

@@ -123,4 +123,19 @@ TEST_F(SearchSightTest, ANewVoyageEndsTheHintOfItsEmptyCategory) {
     EXPECT_EQ(line, "");
 }
 
+TEST_F(SearchSightTest, AHintGoesOnToWhatIsLackingNextWhenItsVoyageIsSaved) {
+    tree.Expand(tree.Find("Bulk"), true);
+    Press("Salt");
+    ASSERT_EQ(line, "IDS_VIEW_HINTPORTS");
+    Voyage("Salt").portCalls = PanelDesk::Calls(3);
+    ctrl.RefreshVoyageRow(Id("Crude"));
+    EXPECT_EQ(line, "IDS_VIEW_HINTPORTS") << "another voyage was saved";
+    ctrl.RefreshVoyageRow(Id("Salt"));
+    EXPECT_EQ(line, "IDS_VIEW_HINTVESSEL");
+    Press("Bulk");
+    line = "of the category";
+    ctrl.RefreshVoyageRow(Id("Salt"));
+    EXPECT_EQ(line, "of the category");
+}
+
 }  // namespace Tarvik::Seaplan

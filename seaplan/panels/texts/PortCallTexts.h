@@ -86,7 +86,8 @@
     KEY(9174, IDS_VIEW_NOTUP) \
     KEY(9175, IDS_VIEW_NOTDOWN) \
     KEY(9176, IDS_VIEW_NOTDELETE) \
-    KEY(9230, IDS_VIEW_STALE)
+    KEY(9230, IDS_VIEW_STALE) \
+    KEY(9590, IDS_VIEW_NOTCALCULATED)
 // clang-format on
 
 namespace Tarvik::Seaplan::TextIds {

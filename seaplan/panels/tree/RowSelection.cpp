@@ -55,6 +55,7 @@ void RowSelection::Press(TreeRow row) {
     if (row == kNoRow || c_.tree.GetItemData(row) == nullptr) {
         return;
     }
+    told_.clear();
     if (c_.IsCategoryRow(row)) {
         if (c_.tree.IsItemExpanded(row)) {
             Unfold(row);
@@ -73,7 +74,15 @@ void RowSelection::Press(TreeRow row) {
         c_.FetchPortCalls(voyage.vi);
     }
     static_cast<void>(status_.ShowDates(row, voyage));
-    c_.Say(c_.tree.GetItemStyle(row) == kVoyageStyle ? NextStep(voyage) : std::string());
+    told_ = voyage.vi;
+    TellAgain(told_);
+}
+
+void RowSelection::TellAgain(const std::string& vi) {
+    const TreeRow row = vi == told_ ? c_.FindVoyageRow(vi) : kNoRow;
+    if (row != kNoRow) {
+        c_.Say(c_.tree.GetItemStyle(row) == kVoyageStyle ? NextStep(*c_.VoyageOf(row)) : std::string());
+    }
 }
 
 bool RowSelection::Unfold(TreeRow row) {
@@ -89,6 +98,7 @@ bool RowSelection::Unfold(TreeRow row) {
 }
 
 void RowSelection::Forget() {
+    told_.clear();
     categoryRow_ = kNoRow;
     voyageRow_ = kNoRow;
 }

@@ -27,6 +27,8 @@ class RowSelection {
     void TakeVoyage(TreeRow row);
     /// A left press on a row, whatever item lies under it.
     void Press(TreeRow row);
+    /// Says anew what the voyage lacks whose row was pressed last; nothing for another voyage.
+    void TellAgain(const std::string& vi);
     /// Expands and selects a category and shows the statuses of its voyages. False without a record.
     bool Unfold(TreeRow row);
     /// The rows are gone.
@@ -46,6 +48,7 @@ class RowSelection {
     VoyagesOnChart& chart_;
     TreeRow categoryRow_ = kNoRow;
     TreeRow voyageRow_ = kNoRow;
+    std::string told_;  ///< voyage whose row was pressed last, empty behind a press on a category
 };
 
 }  // namespace Tarvik::Seaplan

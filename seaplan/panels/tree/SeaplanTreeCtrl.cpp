@@ -203,7 +203,9 @@ void SeaplanTreeCtrl::SetRemarkMark(TreeRow row, bool on) {
 }
 
 int SeaplanTreeCtrl::RefreshVoyageRow(const std::string& vi) {
-    return kRefreshRowCodes.Of(in_->parts.status.RefreshRow(vi));
+    const auto refreshed = in_->parts.status.RefreshRow(vi);
+    in_->parts.selection.TellAgain(vi);
+    return kRefreshRowCodes.Of(refreshed);
 }
 
 int SeaplanTreeCtrl::OpenVesselEditor(const std::string& vi) {

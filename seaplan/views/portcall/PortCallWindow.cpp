@@ -150,8 +150,8 @@ void PortCallWindow::SetBusy(bool busy) {
     }
 }
 
-void PortCallWindow::SelectRow(int row) {
-    table_->setCurrentIndex(table_->model()->index(row, ColPort));
+void PortCallWindow::SelectCell(int row, int column) {
+    table_->setCurrentIndex(table_->model()->index(row, column));
 }
 
 void PortCallWindow::BringRowIntoView(int row) {

@@ -27,7 +27,7 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
     void ShowState(const PortCallState& state) override;
     void ShowEdits(const UndoTexts& edits) override { buttons_->ShowEdits(edits); }
     void SetBusy(bool busy) override;
-    void SelectRow(int row) override;
+    void SelectCell(int row, int column) override;
     std::vector<int> ChosenRows() const override { return table_->ChosenRows(); }
     void BringRowIntoView(int row) override;
     std::string ClipboardText() const override { return ClipboardAsText(); }

@@ -188,6 +188,15 @@ void PanelTable::mousePressEvent(QMouseEvent* event) {
     }
 }
 
+bool PanelTable::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride &&
+        BelongsToTable(PressOf(*static_cast<QKeyEvent*>(event)))) {
+        event->accept();
+        return true;
+    }
+    return QTableView::event(event);
+}
+
 void PanelTable::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
         const QString rows = RowsAsText(model_, ChosenRows());

@@ -52,6 +52,7 @@ class PanelTable final : public QTableView {
     QRect EditorRect(int row, int column) const;
 
   protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

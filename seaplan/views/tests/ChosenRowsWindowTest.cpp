@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// Choosing several rows of the port calls with mouse and keyboard.
 #include <QClipboard>
+#include <QShortcut>
 
 #include "seaplan/views/tests/PortCallWindowFixture.h"
 
@@ -77,6 +78,21 @@ TEST_F(ChosenRowsWindowTest, CtrlDFillsDownAndDeleteTakesThemAway) {
     const QString last = Cell(3, ColPort);
     Press(Qt::Key_Delete);
     EXPECT_EQ(Cell(1, ColPort), last);
+}
+
+TEST_F(ChosenRowsWindowTest, TheTableKeepsCtrlDFromTheClientsCommandOfTheSameKeys) {
+    int commands = 0;
+    const QShortcut shortcut(QKeySequence(Qt::CTRL | Qt::Key_D), &PortCalls(), [&commands] { ++commands; });
+    Click(1, {});
+    QTest::keyClicks(&SpeedEditor(), "18");
+    QTest::keyClick(&SpeedEditor(), Qt::Key_Return);
+    Press(Qt::Key_Down, Qt::ShiftModifier);
+    Press(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(Cell(2, ColSpeed), "18.00");
+    EXPECT_EQ(commands, 0);
+    PortCalls().setFocus();
+    QTest::keyClick(&PortCalls(), Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(commands, 1) << "beside the table the keys are the client's";
 }
 
 TEST_F(ChosenRowsWindowTest, OnlyTheChosenRowsAreCopied) {

@@ -218,11 +218,25 @@ TEST_F(PortCallWindowTest, AnEditorStaysOpenWhileItsOwnMenuIs) {
     }
 }
 
+TEST_F(PortCallWindowTest, DownLeavesAnEditorForTheCellBelowWhereTypingGoesOn) {
+    OpenPortCalls("Far East 12");
+    ClickCell(1, ColSpeed);
+    QTest::keyClicks(&SpeedEditor(), "17");
+    QTest::keyClick(&SpeedEditor(), Qt::Key_Down);
+    EXPECT_EQ(Cell(1, ColSpeed), "17.00");
+    EXPECT_FALSE(SpeedEditor().isVisible());
+    EXPECT_EQ(Table().currentIndex(), Table().model()->index(2, ColSpeed));
+    EXPECT_TRUE(Table().hasFocus());
+    QTest::keyClicks(&Table(), "1");
+    EXPECT_TRUE(SpeedEditor().isVisible());
+    EXPECT_EQ(SpeedEditor().text(), "1");
+}
+
 TEST_F(PortCallWindowTest, KeysWithoutUseInAnEditorStayThere) {
     OpenPortCalls("Far East 12");
     for (QLineEdit* editor : {&SpeedEditor(), &WeatherEditor()}) {
         ClickCell(2, editor == &SpeedEditor() ? ColSpeed : ColWeather);
-        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Insert}) {
+        for (const Qt::Key key : {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Insert}) {
             QTest::keyClick(editor, key);
             EXPECT_TRUE(editor->isVisible()) << key;
             EXPECT_EQ(Table().currentIndex().row(), 2) << key;
