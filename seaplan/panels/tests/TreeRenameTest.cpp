@@ -23,6 +23,28 @@ TEST_F(TreeFixture, ANewVoyageGetsTheNextFreeNameAndTheRenameBox) {
     EXPECT_EQ(box.text, "IDS_TREE_NEWVOYAGE - 1");
 }
 
+TEST_F(TreeFixture, EnterBehindTheNameOfANewVoyageSelectsIt) {
+    desk.AddCategory("Full");
+    desk.AddVoyage("Full", {.name = "A"});
+    ctrl.ReloadTree();
+    Click("Full", Item::kAddVoyage);
+    ASSERT_EQ(tree.Selected(), tree.Find("Full"));
+    ctrl.Renaming().OnTyped("Atlantic");
+    ASSERT_TRUE(ctrl.Renaming().OnKey(Key::Enter));
+    EXPECT_EQ(tree.Selected(), tree.Find("Atlantic"));
+    EXPECT_FALSE(box.open);
+    ASSERT_TRUE(ctrl.Renaming().OnKey(Key::Enter));
+    EXPECT_EQ(tree.Selected(), tree.Find("Atlantic")) << "no box is open";
+}
+
+TEST_F(TreeFixture, ANewVoyageWhoseNameIsLeftIsNotSelected) {
+    desk.AddCategory("Full");
+    ctrl.ReloadTree();
+    Click("Full", Item::kAddVoyage);
+    EXPECT_EQ(Rename("Atlantic"), 0);
+    EXPECT_EQ(tree.Selected(), tree.Find("Full"));
+}
+
 TEST_F(TreeFixture, ARowTooFarDownKeepsItsGeneratedName) {
     ctrl.ReloadTree();
     tree.rowTop = 366;

@@ -72,10 +72,7 @@ ItemOutcome CategoryCommands::AddVoyage() {
     if (p_.builder.AddVoyageRow(p_.selection.CategoryRow(), vi).Failed()) {
         return ItemStep::NewRow;
     }
-    // Behind its name the keys are the new voyage's, and Enter opens its port calls.
-    const TreeRow row = c.FindVoyageRow(vi);
-    c.tree.SetCursor(row);
-    p_.rename.Begin(row, true);
+    p_.rename.Begin(c.FindVoyageRow(vi), true);
     return RefreshCounts(c) ? ItemOutcome() : ItemStep::NewCounts;
 }
 

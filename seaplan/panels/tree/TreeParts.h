@@ -20,7 +20,9 @@ struct TreeParts {
           builder(context, status),
           chart(context),
           selection(context, status, chart),
-          rename(context, given.renameBox, [this](TreeRow row) { return selection.Unfold(row); }),
+          rename(
+              context, given.renameBox, [this](TreeRow row) { return selection.Unfold(row); },
+              [this](TreeRow row) { selection.Press(row); }),
           remark(context) {}
 
     TreeContext context;

@@ -46,7 +46,12 @@ bool TreeRename::OnKey(Key key) {
     if (key != Key::Enter) {
         return false;
     }
+    const TreeRow row = field_.Row();
+    const bool added = field_.IsOpen() && isVoyage_ && row != c_.tree.Selected();
     Commit();
+    if (added) {
+        press_(row);
+    }
     return true;
 }
 

@@ -18,17 +18,19 @@ struct TreeContext;
 /// Renaming a row in place.
 class TreeRename {
   public:
-    /// `unfold` expands and selects a category and shows the statuses of its voyages; false on failure.
-    TreeRename(TreeContext& context, TextBox& box, std::function<bool(TreeRow)> unfold)
-        : c_(context), box_(box), unfold_(std::move(unfold)) {}
+    /// `unfold` expands and selects a category and shows the statuses of its voyages, false on failure;
+    /// `press` does what a press on a row does.
+    TreeRename(TreeContext& context, TextBox& box, std::function<bool(TreeRow)> unfold,
+               std::function<void(TreeRow)> press)
+        : c_(context), box_(box), unfold_(std::move(unfold)), press_(std::move(press)) {}
 
     /// Opens the box over a row, after the name in an open one was taken. A row below the part of the tree
     /// where the box fits keeps its present name.
     void Begin(TreeRow row, bool isVoyage);
     /// The box's text is this now.
     void OnTyped(const std::string& text) { field_.SetText(text); }
-    /// A key in the box: Enter takes the name, and the keyboard goes back to the rows. False when the box
-    /// itself is to act on it.
+    /// A key in the box: Enter takes the name, and the keyboard goes back to the rows; a voyage that has just
+    /// been added is selected then. False when the box itself is to act on it.
     bool OnKey(Key key);
     /// Takes the typed name and closes the box: kRenameCodes; 0 also without an open box.
     int Commit() { return kRenameCodes.Of(Take()); }
@@ -45,6 +47,7 @@ class TreeRename {
     TreeContext& c_;
     TextBox& box_;
     std::function<bool(TreeRow)> unfold_;
+    std::function<void(TreeRow)> press_;
     TextField field_{0};
     bool isVoyage_ = false;
 };
