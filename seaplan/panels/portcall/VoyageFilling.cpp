@@ -150,12 +150,13 @@ void VoyageFilling::Forget() {
 int VoyageFilling::Refill() {
     // Whoever chose another voyage meanwhile, as for its consumption, means that one still.
     const std::string next = std::exchange(next_, desk_.Sheet().voyageId);
-    const int opened = Open(DrawMode::Nothing);
+    // The position book stands above the panel: one that is hidden and shown again would cover it.
+    const int opened = Open(DrawMode::Nothing, Sight::Kept);
     next_ = next;
     return opened;
 }
 
-int VoyageFilling::Open(DrawMode mode) {
+int VoyageFilling::Open(DrawMode mode, Sight sight) {
     const PortCallDesk::Report report(desk_);
     int corrected = 0;
     if (!next_.empty() && desk_.Voyages().GetModAis(next_, corrected) != 0) {
@@ -164,7 +165,7 @@ int VoyageFilling::Open(DrawMode mode) {
     if (!MayLeave()) {
         return -4;
     }
-    if (corrected <= 0) {
+    if (corrected <= 0 && sight == Sight::Hidden) {
         desk_.View().Hide();
     }
     TakeOver(next_);

@@ -31,11 +31,12 @@ class VoyageFilling {
     /// Shows that voyage, drawn as `mode` tells. 0, also when it cannot be loaded and
     /// the table stays empty; -1 no such voyage; -2 none at all, which is told; -3 its rows cannot be shown;
     /// -4 the changes of the voyage on show were to be saved and could not be, so that it stays with them.
-    int Open(DrawMode mode);
+    int Open(DrawMode mode) { return Open(mode, Sight::Hidden); }
     /// That voyage's stored rows, or six empty ones when it has none. Nothing where the changes of the voyage
     /// on show could not be saved.
     void Reset();
-    /// The voyage on show anew, as Open shows the next one, which stays the next. Results of Open.
+    /// The voyage on show anew, as Open shows the next one, which stays the next; the panel stays in sight.
+    /// Results of Open.
     int Refill();
     /// An empty port distance table. 0, or -1 where the changes of the voyage on show could not be saved.
     int OpenDistanceTable();
@@ -59,6 +60,10 @@ class VoyageFilling {
     int Fill(DrawMode mode);
 
   private:
+    /// Whether the panel is to be seen while it is filled.
+    enum class Sight { Hidden, Kept };
+
+    int Open(DrawMode mode, Sight sight);
     bool MayLeave();
     void TakeOver(const std::string& vi);
     int Show(DrawMode mode);

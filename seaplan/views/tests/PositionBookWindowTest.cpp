@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QScrollBar>
+#include <QSignalSpy>
+#include <QWindow>
 
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/views/tests/PositionBookFixture.h"
@@ -200,8 +202,12 @@ TEST_F(PositionBookWindowTest, CtrlSSavesAndTheBookStaysInFront) {
     OpenBook();
     ClickCell(1, BookSpeed);
     QTest::keyClicks(&Editor(), "15");
+    // A window that goes and comes back stands above all others.
+    const QSignalSpy seen(PortCalls().windowHandle(), &QWindow::visibleChanged);
     QTest::keyClick(&Book(), Qt::Key_S, Qt::ControlModifier);
     QApplication::processEvents();
+    EXPECT_EQ(seen.count(), 0);
+    EXPECT_TRUE(Book().isActiveWindow());
     EXPECT_EQ(desk.Count(Ask::kSaveBook), 1);
     EXPECT_EQ(desk.Count(Ask::kSavePortCalls, "SUEZ CANAL"), 1);
     EXPECT_FALSE(Changed());

@@ -84,6 +84,10 @@ void FloatingPanel::MoveCorner(Point corner) {
 }
 
 void FloatingPanel::Raise() {
+    // A panel that waits for another one stays behind it, and leaves it the keyboard.
+    if (!isEnabled()) {
+        return show();
+    }
     if (!isActiveWindow()) {
         before_ = QApplication::activeWindow();
     }
