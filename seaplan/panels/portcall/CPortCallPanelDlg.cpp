@@ -57,8 +57,7 @@ void CPortCallPanelDlg::ApplyLanguage() {
 }
 
 void CPortCallPanelDlg::ShowBesideTree() {
-    PlaceBesideTree(in_->desk);
-    in_->desk.View().Show();
+    Seaplan::ShowBesideTree(in_->desk);
 }
 
 void CPortCallPanelDlg::PutBack(const PortCallSheet& sheet) {

@@ -15,8 +15,7 @@ int DistanceTable::Open() {
     if (filling_.OpenDistanceTable() != 0) {
         return -1;
     }
-    PlaceBesideTree(desk_);
-    desk_.View().Show();
+    ShowBesideTree(desk_);
     return 0;
 }
 

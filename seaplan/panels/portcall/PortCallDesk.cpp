@@ -138,8 +138,10 @@ Boxes& PortCallDesk::ToPerson() {
     return boxes_;
 }
 
-void PlaceBesideTree(const PortCallDesk& desk) {
+void ShowBesideTree(const PortCallDesk& desk) {
     desk.View().MoveTo(BesideTree(desk.Given().treePlace()));
+    desk.View().Show();
+    desk.View().SelectCell(0, ColPort);
 }
 
 }  // namespace Tarvik::Seaplan

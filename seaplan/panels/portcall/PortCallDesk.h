@@ -117,7 +117,7 @@ class PortCallDesk {
     int reports_ = 0;  ///< reports under way, one inside the other
 };
 
-/// Moves the panel's window to its place beside the tree.
-void PlaceBesideTree(const PortCallDesk& desk);
+/// Shows the panel's window at its place beside the tree, the keyboard on the first port.
+void ShowBesideTree(const PortCallDesk& desk);
 
 }  // namespace Tarvik::Seaplan

@@ -73,6 +73,19 @@ TEST_F(RowReachTest, AMoveOntoTheLastRowSelectsIt) {
     EXPECT_EQ(view.selectedRow, 2);
 }
 
+TEST_F(RowReachTest, AnotherVoyageOpensWithTheKeyboardOnItsFirstPort) {
+    Open(kept);
+    panel.Cells().OnCellClicked(1, ColSpeed);
+    ASSERT_TRUE(panel.Cells().OnEditorKey(CellEditor::Speed, {Key::Down}));
+    ASSERT_EQ(view.selectedRow, 2);
+    Open(fresh);
+    EXPECT_EQ(view.selectedRow, 0);
+    EXPECT_EQ(view.selectedColumn, ColPort);
+    view.selectedColumn = ColSpeed;
+    ASSERT_EQ(panel.OpenDistanceTable(), 0);
+    EXPECT_EQ(view.selectedColumn, ColPort);
+}
+
 TEST_F(RowReachTest, ThePortEditorOfTheNextRowIsBroughtIntoView) {
     Open(fresh);
     panel.Cells().OnCellClicked(4, ColPort);
