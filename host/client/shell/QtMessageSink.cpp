@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <tarvik/skin/ToolWindow.h>
+
 #include "host/client/shell/QtServices.h"
 
 namespace Tarvik::Client {
@@ -39,7 +41,7 @@ Interface::SysMsgHandleRes QtMessageSink::SyncSendMsg(int /*level*/, const std::
     }
     // Whoever types on while a box comes up must not lose anything by that.
     box->setDefaultButton(refuse && !own.yesIsCareful ? refuse : agree);
-    box->exec();
+    Skin::RunDialog(*box);
     const bool gone = box.isNull();
     const bool agreed = !gone && box->clickedButton() == agree;
     delete box;

@@ -45,6 +45,28 @@ TEST(MessageSink, AnswersWhatThePersonPressed) {
     EXPECT_EQ(Ask(4, "messageNo"), SysMsgHandleRes::No);
 }
 
+TEST(MessageSink, TheWindowThatHadTheKeyboardHasItBehindTheBox) {
+    QWidget panel;
+    QWidget main;
+    main.show();
+    panel.show();
+    panel.activateWindow();
+    QApplication::processEvents();
+    ASSERT_TRUE(panel.isActiveWindow());
+    const LanguageFiles texts;
+    QtMessageSink sink(&main, texts);
+    QTimer::singleShot(0, qApp, [&main] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        // As a window manager does when the box goes.
+        QObject::connect(box, &QMessageBox::finished, &main, &QWidget::activateWindow);
+        box->findChild<QAbstractButton*>("messageOk")->click();
+    });
+    sink.SyncSendMsg(1, u"Sure?", 0, &panel, u"");
+    QApplication::processEvents();
+    EXPECT_TRUE(panel.isActiveWindow());
+}
+
 TEST(MessageSink, EscapeIsTheCarefulAnswer) {
     LanguageFiles texts;
     QtMessageSink sink(nullptr, texts);

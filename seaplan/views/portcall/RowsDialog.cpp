@@ -156,7 +156,7 @@ PanelTable* FillDialog(QDialog& dialog, const RowsPreview& preview) {
 bool AskRowsOver(QWidget& window, const RowsPreview& preview) {
     QDialog dialog(&window);
     FillDialog(dialog, preview);
-    return dialog.exec() == QDialog::Accepted;
+    return Skin::RunDialog(dialog) == QDialog::Accepted;
 }
 
 std::optional<int> ChooseRowOver(QWidget& window, const RowsPreview& preview) {
@@ -176,7 +176,7 @@ std::optional<int> ChooseRowOver(QWidget& window, const RowsPreview& preview) {
     QObject::connect(table, &QAbstractItemView::doubleClicked, &dialog, &QDialog::accept);
     table->PutFront(0, 0);
     table->setFocus();
-    return dialog.exec() == QDialog::Accepted ? std::optional(table->currentIndex().row()) : std::nullopt;
+    return Skin::RunDialog(dialog) == QDialog::Accepted ? std::optional(table->currentIndex().row()) : std::nullopt;
 }
 
 std::string ClipboardAsText() {

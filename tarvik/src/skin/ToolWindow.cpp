@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainterPath>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include <tarvik/skin/Icons.h>
@@ -10,6 +12,15 @@
 #include <tarvik/skin/ToolWindow.h>
 
 namespace Tarvik::Skin {
+
+int RunDialog(QDialog& dialog) {
+    const QPointer<QWidget> before = QApplication::activeWindow();
+    const int result = dialog.exec();
+    if (!before.isNull() && before->isVisible()) {
+        before->activateWindow();
+    }
+    return result;
+}
 
 void Describe(QWidget* widget, const QString& text) {
     widget->setAccessibleName(text);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDialog>
 #include <QFrame>
 #include <QLabel>
 #include <QPoint>
@@ -63,6 +64,10 @@ class TARVIK_API ToolWindow : public QFrame {
     bool dragging_ = false;
     std::vector<std::pair<QAbstractButton*, std::string>> icons_;
 };
+
+/// Runs a modal dialog to its end and gives the keyboard back to the window that had it: a window manager
+/// gives it to the main window, since it passes floating panels over. The result of QDialog::exec.
+TARVIK_API int RunDialog(QDialog& dialog);
 
 /// Accessible name and tool tip in one; a button's tip tells its key too.
 TARVIK_API void Describe(QWidget* widget, const QString& text);
