@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/data/PointTables.h"
 
-#include <functional>
-
-#include <tarvik/util/CppSQLite3.h>
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/data/PortCodes.h"
+#include "seaplan/data/TableRows.h"
 
 namespace Tarvik::Seaplan {
 
@@ -15,30 +12,6 @@ namespace {
 
 constexpr std::size_t kShortId = 4;
 constexpr int kFirstPortDigit = 4;
-
-std::string ColumnText(const Util::CppSQLite3Query& row, int column) {
-    const char* value = row.fieldValue(column);
-    return value != nullptr ? value : "";
-}
-
-/// Calls `visit` for each row of a query; false when the database cannot be read.
-bool ForEachRow(const std::string& database, const char* sql,
-                const std::function<void(const Util::CppSQLite3Query&)>& visit) {
-    try {
-        Util::CppSQLite3DB db;
-        db.open(database);
-        auto query = db.execQuery(sql);
-        while (!query.eof()) {
-            visit(query);
-            query.nextRow();
-        }
-        query.finalize();
-        db.close();
-        return true;
-    } catch (const Util::CppSQLite3Exception&) {
-        return false;
-    }
-}
 
 std::string LinkKey(const std::string& from, const std::string& to) {
     return from + "-" + to;
@@ -122,19 +95,6 @@ int LoadPortNamesByLocal(const std::string& database, std::map<std::string, std:
     loaded.merge(names);  // what was just read wins
     names = std::move(loaded);
     return 0;
-}
-
-std::map<std::string, std::string> ReadPortNamesByCode(const std::string& database) {
-    std::map<std::string, std::string> names;
-    // A port that is one place with another gives way to that one.
-    const char* sql = "select unlocode,name from t_point where isport='1' order by origid!='0',id";
-    ForEachRow(database, sql, [&](const auto& row) {
-        const std::string code = ColumnText(row, 0);
-        if (!code.empty()) {
-            names.emplace(code, ColumnText(row, 1));
-        }
-    });
-    return names;
 }
 
 int PointKindOfId(const std::string& id) {

@@ -6,6 +6,8 @@
 
 #include <tarvik/interface/ValueDictionary.h>
 
+#include "seaplan/data/OtherPortNames.h"
+
 /// Typed names are found by binary search in a list that is sorted by name in upper case: a question costs
 /// the logarithm of the number of ports, and the names that begin with a text stand side by side.
 namespace Tarvik::Seaplan {
@@ -13,17 +15,6 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr const char* kPortsPath = "/points";
-
-/// ASCII letters in upper case; others stand as they are.
-std::string Fold(const std::string& text) {
-    std::string out = text;
-    for (char& c : out) {
-        if (c >= 'a' && c <= 'z') {
-            c = static_cast<char>(c - 'a' + 'A');
-        }
-    }
-    return out;
-}
 
 bool IsLocal(const std::string& text) {
     return !text.empty() && (static_cast<unsigned char>(text[0]) & 0x80U) != 0;
@@ -90,6 +81,7 @@ void PortDirectory::ReadNames() {
     }
     SetNames(std::move(names));
     LoadPortNamesByLocal(Path(), byLocal_);
+    byLocal_.merge(ReadOtherPortNames(Path()));
     hasNames_ = true;
 }
 
@@ -105,7 +97,7 @@ void PortDirectory::ReadAnew() {
 void PortDirectory::SetNames(std::vector<std::string> names) {
     names_.clear();
     for (std::string& name : names) {
-        std::string folded = Fold(name);
+        std::string folded = FoldedName(name);
         names_.emplace_back(std::move(folded), std::move(name));
     }
     std::sort(names_.begin(), names_.end());
@@ -120,13 +112,18 @@ std::string PortDirectory::NameOf(const std::string& typed) const {
     if (Knows(typed)) {
         return typed;
     }
-    const std::string key = Fold(typed);
+    const std::string key = FoldedName(typed);
     const auto it = std::lower_bound(names_.begin(), names_.end(), std::pair(key, std::string()));
-    return it == names_.end() || it->first != key ? typed : it->second;
+    if (it != names_.end() && it->first == key) {
+        return it->second;
+    }
+    const auto other = byLocal_.find(key);
+    return other == byLocal_.end() ? typed : other->second;
 }
 
 bool PortDirectory::Knows(const std::string& name) const {
-    return names_.empty() || std::binary_search(names_.begin(), names_.end(), std::pair(Fold(name), name));
+    return names_.empty() ||
+           std::binary_search(names_.begin(), names_.end(), std::pair(FoldedName(name), name));
 }
 
 std::vector<std::string> PortDirectory::Match(const std::string& typed, std::size_t limit) const {
@@ -141,7 +138,7 @@ std::vector<std::string> PortDirectory::Match(const std::string& typed, std::siz
         }
         return out;
     }
-    const std::string key = Fold(typed);
+    const std::string key = FoldedName(typed);
     for (auto it = std::lower_bound(names_.begin(), names_.end(), std::pair(key, std::string()));
          it != names_.end() && out.size() < limit && it->first.starts_with(key); ++it) {
         out.push_back(it->second);

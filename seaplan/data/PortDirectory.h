@@ -31,7 +31,8 @@ class PortDirectory {
     PortDirectory() = default;
     /// Over a table elsewhere.
     explicit PortDirectory(std::string database) : database_(std::move(database)) {}
-    /// Over what is given here and no table. `names` in any order, `byLocal` port names by local name.
+    /// Over what is given here and no table. `names` in any order, `byLocal` port names by local name, and by
+    /// what else a port is called, in capitals.
     PortDirectory(std::vector<std::string> names, NamesByLocal byLocal, SamePortLinks samePorts,
                   PointMap routePoints = {});
 
@@ -52,8 +53,8 @@ class PortDirectory {
     /// their names at once where they had been read. Route points and ports of one place stay.
     void ReadAnew();
     /// Name for a typed text: a text that begins with a byte above 127 is a local name. Empty when a local
-    /// name is unknown. Any other text that differs from a port's name by case only gives that name, and
-    /// stands as it is otherwise.
+    /// name is unknown. Any other text that differs from a port's name by case only gives that name, a code
+    /// or an other name of one port gives that port's, and stands as it is otherwise.
     std::string NameOf(const std::string& typed) const;
     /// Whether a port has this name; without any names at hand every name counts as known.
     bool Knows(const std::string& name) const;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
+#include "seaplan/data/OtherPortNames.h"
 #include "seaplan/data/PortDirectory.h"
 #include "testsupport/DataFolder.h"
 #include "testsupport/PortDictionary.h"
@@ -10,6 +12,8 @@ namespace Tarvik::Seaplan {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Pair;
+using ::testing::UnorderedElementsAre;
 
 namespace {
 
@@ -17,6 +21,13 @@ PortDirectory Ports() {
     return {{"Rouen", "ROTTERDAM", "Rostock", "HAMBURG", "ROTTERDAM"},
             {{"鹿特丹", "ROTTERDAM"}, {"鹿儿岛", "KAGOSHIMA"}, {"汉堡", "HAMBURG"}},
             {{"1-2", ""}, {"2-1", ""}}};
+}
+
+void Change(const TestSupport::DataFolder& folder, const char* sql) {
+    sqlite3* table = nullptr;
+    ASSERT_EQ(sqlite3_open(folder.PointsFile().string().c_str(), &table), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(table, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(table);
+    sqlite3_close(table);
 }
 
 }  // namespace
@@ -42,6 +53,47 @@ TEST(PortDirectory, TheCaseOfATypedNameDoesNotMatter) {
     EXPECT_TRUE(Ports().Knows("Rouen"));
     EXPECT_FALSE(Ports().Knows("Atlantis"));
     EXPECT_TRUE(PortDirectory({}, {}, {}).Knows("Atlantis"));
+}
+
+TEST(PortDirectory, ACodeOrAnOtherNameGivesItsPort) {
+    const PortDirectory ports({"Busan", "Naha, Okinawa", "Pusan"},
+                              {{"PUSAN", "Busan"}, {"KRPUS", "Busan"}, {"NAHA", "Naha, Okinawa"}}, {});
+    EXPECT_EQ(ports.NameOf("krpus"), "Busan");
+    EXPECT_EQ(ports.NameOf("Naha"), "Naha, Okinawa");
+    EXPECT_EQ(ports.NameOf("pusan"), "Pusan") << "a port's own name comes first";
+    EXPECT_EQ(ports.NameOf("Nah"), "Nah");
+}
+
+TEST(OtherPortNames, ComeFromCodesOtherNamesAndPartsInThisOrder) {
+    const TestSupport::DataFolder folder;
+    folder.WriteSamplePoints();
+    Change(folder,
+           "delete from t_point; alter table t_point add column unlocode text;"
+           "alter table t_point add column aliases text;"
+           "insert into t_point(id,name,isport,origid,unlocode,aliases) values"
+           "('40001','Busan','1','0','KRPUS','Pusan; Fusan'),"
+           "('40002','Busan New Port','1','40001','KRPUS','Fusan'),"
+           "('40003','Naha, Okinawa','1','0','JPNAH',''),"
+           "('40004','Rio Grande, Argentina','1','0','ARRGA',''),"
+           "('40005','Rio Grande, Brazil','1','0','BRRIG','Rio Grande'),"
+           "('40006','San Juan, Peru','1','0','',''),"
+           "('40007','San Juan, Puerto Rico','1','0','',''),"
+           "('40008','Hakata/Fukuoka','1','0','',null),"
+           "('105','Suez, Canal','0','0','','The ditch')");
+    const auto names = ReadOtherPortNames(folder.PointsFile().string());
+    EXPECT_THAT(names, UnorderedElementsAre(
+                           Pair("KRPUS", "Busan"), Pair("PUSAN", "Busan"), Pair("JPNAH", "Naha, Okinawa"),
+                           Pair("NAHA", "Naha, Okinawa"), Pair("ARRGA", "Rio Grande, Argentina"),
+                           Pair("BRRIG", "Rio Grande, Brazil"), Pair("RIO GRANDE", "Rio Grande, Brazil"),
+                           Pair("HAKATA", "Hakata/Fukuoka"), Pair("FUKUOKA", "Hakata/Fukuoka")));
+}
+
+TEST(OtherPortNames, ATableWithoutThemOrNoneGivesNothing) {
+    const TestSupport::DataFolder folder;
+    EXPECT_THAT(ReadOtherPortNames(folder.PointsFile().string()), IsEmpty());
+    folder.WriteSamplePoints();
+    Change(folder, "update t_point set name='Bergen'");
+    EXPECT_THAT(ReadOtherPortNames(folder.PointsFile().string()), IsEmpty());
 }
 
 TEST(PortDirectory, TakesPlacesFromTheTableAndNamesFromTheHost) {

@@ -7,7 +7,6 @@
 #include <tarvik/util/Units.h>
 
 #include "seaplan/data/PointTables.h"
-#include "seaplan/data/PortCodes.h"
 #include "seaplan/data/PortDirectory.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
@@ -66,11 +65,8 @@ std::string PasteRows::PortOf(const std::string& text) {
     if (code.empty()) {
         return {};
     }
-    if (!names_) {
-        names_ = ReadPortNamesByCode(PointDatabasePath());
-    }
-    const auto found = names_->find(code);
-    return found == names_->end() ? std::string() : found->second;
+    const std::string name = desk_.Ports().NameOf(code);
+    return PortIdOf(name).empty() ? std::string() : name;
 }
 
 std::optional<int> PasteRows::FirstRow(int row, const PastedRows& pasted) const {

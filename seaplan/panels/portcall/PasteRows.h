@@ -33,7 +33,6 @@ class PasteRows {
     PortCallDesk& desk_;
     CellEditing& editing_;
     CellEdits edits_;
-    std::optional<std::map<std::string, std::string>> names_;  ///< by UN/LOCODE, once they are read
 };
 
 }  // namespace Tarvik::Seaplan

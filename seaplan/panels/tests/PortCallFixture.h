@@ -72,7 +72,7 @@ class PortCallFixture : public ::testing::Test {
         const std::string rotterdam = DeskPortId("ROTTERDAM");
         const std::string europoort = DeskPortId("EUROPOORT");
         return {{"ROTTERDAM", "ROUEN", "HAMBURG", "GDANSK", "EUROPOORT"},
-                {{"鹿特丹", "ROTTERDAM"}},
+                {{"鹿特丹", "ROTTERDAM"}, {"DEHAM", "HAMBURG"}, {"GDINGEN", "GDANSK"}},
                 {{rotterdam + "-" + europoort, ""}, {europoort + "-" + rotterdam, ""}}};
     }
     /// Rotterdam, Hamburg, Gdansk from 2024-03-05 08:00:00 with 12 hours in Hamburg; legs of 240 miles.
