@@ -6,9 +6,11 @@
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
+#include "seaplan/panels/window/StatusWords.h"
 
 namespace Tarvik::Seaplan {
 
@@ -151,6 +153,8 @@ void CellEdits::SetTime(int row, int column, const std::string& text) {
         desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_ERRETA);
     } else if (answer == CellAnswer::EtdTooEarly) {
         desk_.ToPerson().Notice(TextIds::IDS_PORTCALL_ERRETD);
+    } else if (answer == CellAnswer::NoDistance) {
+        TellInStatusLine(Text(TextIds::IDS_VIEW_ETANODISTANCE, {std::to_string(row + 1)}));
     }
     desk_.History().Take({column == ColEtd ? TextIds::IDS_VIEW_EDITETD : TextIds::IDS_VIEW_EDITETA, row});
 }
@@ -194,7 +198,7 @@ CellAnswer CellEdits::SetEta(int row, const std::string& text) {
     const double speed = SpeedForSteamTime(static_cast<double>(call.distance), static_cast<double>(hours),
                                            static_cast<double>(call.pw));
     if (!(speed >= kLeastLegSpeed)) {
-        return CellAnswer::Refused;
+        return CellAnswer::NoDistance;
     }
     call.psp = static_cast<float>(speed);
     return desk_.Recompute(rows) == 0 ? CellAnswer::Taken : CellAnswer::Refused;

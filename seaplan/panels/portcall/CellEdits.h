@@ -10,10 +10,11 @@ namespace Tarvik::Seaplan {
 
 class PortCallDesk;
 /// What became of a text that was put into a cell.
-enum class CellAnswer { Taken, Refused, EtaTooEarly, EtdTooEarly };
+enum class CellAnswer { Taken, Refused, EtaTooEarly, EtdTooEarly, NoDistance };
 
 /// What an edit of a cell starts. A text that a cell refuses leaves it as it was, silently but for the two
-/// times that are too early. A row outside the numbered ones takes nothing.
+/// times that are too early; an ETA of a leg without distance stands, and the status line says that it
+/// changes nothing. A row outside the numbered ones takes nothing.
 class CellEdits {
   public:
     explicit CellEdits(PortCallDesk& desk) : desk_(desk) {}

@@ -77,7 +77,7 @@ void PanelCommands::OnRouteAnew() {
     }
     const auto taken = calculation_.CalculateAnew([this](const PortCallRows& now, const PortCallRows& anew) {
         desk_.Show();
-        return desk_.View().AskRows(PreviewOfRoute(now, anew, desk_.Sheet().Units()));
+        return desk_.View().AskRows(PreviewOfRoute(now, anew, desk_.Sheet().Units()), {});
     });
     if (!taken.Failed()) {
         desk_.History().Take({TextIds::IDS_VIEW_EDITANEW});

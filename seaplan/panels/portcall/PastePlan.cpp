@@ -48,8 +48,7 @@ class Planner {
     /// Which pasted column goes into one of the table.
     int PlaceOf(int column) const {
         const auto found = std::find(pasted_.columns.begin(), pasted_.columns.end(), column);
-        return found == pasted_.columns.end() ? PastedRows::kNoColumn
-                                              : static_cast<int>(found - pasted_.columns.begin());
+        return found == pasted_.columns.end() ? kNoColumn : static_cast<int>(found - pasted_.columns.begin());
     }
     std::string ValueOf(const std::vector<PastedCell>& cells, int column) const {
         const int at = PlaceOf(column);
@@ -57,7 +56,16 @@ class Planner {
     }
     void PutTitles() {
         plan_.preview.titles.push_back(TextOfKey(kPortCallColumns[ColOrder].title));
+        for (const int kind : kPastedKinds) {
+            plan_.preview.kinds.push_back(
+                kind == kNoColumn ? Text(TextIds::IDS_VIEW_PASTEIGNORED)
+                                  : TextOfKey(kPortCallColumns[static_cast<std::size_t>(kind)].title));
+        }
         for (const int column : pasted_.columns) {
+            const auto* kind = std::find(std::begin(kPastedKinds), std::end(kPastedKinds), column);
+            plan_.preview.taken.push_back(kind == std::end(kPastedKinds)
+                                              ? 0
+                                              : static_cast<std::size_t>(kind - std::begin(kPastedKinds)));
             const bool known = column > ColOrder && column < kPortCallColumnCount;
             plan_.preview.titles.push_back(
                 known ? TextOfKey(kPortCallColumns[static_cast<std::size_t>(column)].title)

@@ -76,23 +76,49 @@ std::optional<int> PasteRows::FirstRow(int row, const PastedRows& pasted) const 
     return edits_.Opens(first, ColPort) ? std::optional(first) : std::nullopt;
 }
 
+/// The rows of a text under columns that were found or chosen.
+PastedRows PasteRows::Read(const PastedText& text, PastedColumns columns) {
+    PastedRows pasted = ReadPasted(text, std::move(columns), PortsOfTexts());
+    LeaveOtherUnits(pasted, desk_.Sheet().state.speedUnit);
+    return pasted;
+}
+
+PortOfText PasteRows::PortsOfTexts() {
+    return [this](const std::string& text) { return PortOf(text); };
+}
+
+PastePlan PasteRows::Plan(const PastedRows& pasted, int first) const {
+    const PortCallSheet& sheet = desk_.Sheet();
+    const double hoursPerUnit = sheet.state.timeUnit == "hour" ? 1 : Util::kHoursPerDay;
+    return PlanPaste(pasted, sheet.table, first, hoursPerUnit, PortIdOfName);
+}
+
+/// Shows what the paste would do; a column that the person takes for another kind changes rows and plan.
+bool PasteRows::Ask(const PastedText& text, PastedRows pasted, int row, PastePlan& plan) {
+    return desk_.View().AskRows(plan.preview, [&](std::size_t column, std::size_t kind) {
+        PastedColumns columns{pasted.columns, pasted.heads};
+        TakeColumnAs(columns.columns, column, kPastedKinds[kind]);
+        pasted = Read(text, std::move(columns));
+        plan = Plan(pasted, FirstRow(row, pasted).value_or(row));
+        return plan.preview;
+    });
+}
+
 void PasteRows::OnPaste(int row) {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
-    PastedRows pasted = UnderstandPasted(ReadPastedText(desk_.View().ClipboardText()),
-                                         [this](const std::string& text) { return PortOf(text); });
-    LeaveOtherUnits(pasted, desk_.Sheet().state.speedUnit);
+    const PastedText text = ReadPastedText(desk_.View().ClipboardText());
+    const PastedRows pasted = Read(text, UnderstandColumns(text.rows, PortsOfTexts()));
     const std::optional<int> first = FirstRow(row, pasted);
     if (!HasValues(pasted) || !first) {
         return TellInStatusLine(Text(first ? TextIds::IDS_VIEW_PASTENOTHING : TextIds::IDS_VIEW_PASTESAILED));
     }
-    PortCallSheet& sheet = desk_.Sheet();
-    const double hoursPerUnit = sheet.state.timeUnit == "hour" ? 1 : Util::kHoursPerDay;
-    const PastePlan plan = PlanPaste(pasted, sheet.table, *first, hoursPerUnit, PortIdOfName);
+    const PortCallSheet& sheet = desk_.Sheet();
+    PastePlan plan = Plan(pasted, *first);
     desk_.Show();
     const PortCallTable shown = sheet.table;
     const std::string voyage = sheet.voyageId;
-    if (!desk_.View().AskRows(plan.preview)) {
+    if (!Ask(text, pasted, *first, plan)) {
         return;
     }
     // What was shown is what is taken, and nothing else.

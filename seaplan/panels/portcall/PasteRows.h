@@ -25,6 +25,10 @@ class PasteRows {
 
   private:
     std::string PortOf(const std::string& text);
+    PortOfText PortsOfTexts();
+    PastedRows Read(const PastedText& text, PastedColumns columns);
+    PastePlan Plan(const PastedRows& pasted, int first) const;
+    bool Ask(const PastedText& text, PastedRows pasted, int row, PastePlan& plan);
     /// Nothing where the row is sailed.
     std::optional<int> FirstRow(int row, const PastedRows& pasted) const;
     void Take(const PastePlan& plan);

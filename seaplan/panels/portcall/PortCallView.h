@@ -30,8 +30,9 @@ class PortCallView : public PanelWindow {
     virtual void BringRowIntoView(int row) = 0;
     /// The text on the clipboard, UTF-8; no more than a little over what is read of it.
     virtual std::string ClipboardText() const = 0;
-    /// Shows what a command would do with rows and waits for the answer. True for yes.
-    virtual bool AskRows(const RowsPreview& preview) = 0;
+    /// Shows what a command would do with rows and waits for the answer. True for yes. Where a column can be
+    /// taken as another kind, `change` gives what is shown then.
+    virtual bool AskRows(const RowsPreview& preview, const ChangeColumn& change) = 0;
     /// Shows such rows and waits for the person to choose one. Its number from 0; nothing for none.
     virtual std::optional<int> ChooseRow(const RowsPreview& preview) = 0;
     /// The questions below the table.

@@ -152,6 +152,32 @@ TEST_F(PasteRowsTest, ACodeOrAnOtherNameGivesItsPort) {
     EXPECT_EQ(Shown(3, 1).mark, Mark::Unknown);
 }
 
+TEST_F(PasteRowsTest, AColumnThatWasTakenForTheWrongKindIsCorrectedInThePreview) {
+    Open(fresh);
+    constexpr std::size_t kSpeedKind = 3;
+    constexpr std::size_t kStayKind = 5;
+    ASSERT_EQ(kPastedKinds[kSpeedKind], ColSpeed);
+    ASSERT_EQ(kPastedKinds[kStayKind], ColPortTime);
+    view.takesColumns = {{1, kStayKind}, {2, kSpeedKind}};
+    Paste("rotterdam\t5\t\nHamburg\t6\t14\nGdansk\t7\t15\n");
+    ASSERT_EQ(view.pastes.size(), 3U);
+    EXPECT_THAT(view.pastes[0].taken, ElementsAre(1U, kSpeedKind, 0U)) << "one speed is guessed";
+    EXPECT_THAT(view.pastes[1].taken, ElementsAre(1U, kStayKind, 0U));
+    EXPECT_THAT(view.pastes[2].taken, ElementsAre(1U, kStayKind, kSpeedKind));
+    EXPECT_EQ(view.pastes[0].kinds.size(), std::size(kPastedKinds));
+    EXPECT_EQ(Cell(1, ColPortTime), "6.00");
+    EXPECT_EQ(Cell(1, ColSpeed), "14.00");
+    EXPECT_EQ(Cell(2, ColSpeed), "15.00");
+}
+
+TEST_F(PasteRowsTest, AKindThatAnotherColumnGetsIsTakenFromTheFirst) {
+    Open(fresh);
+    view.takesColumns = {{1, 1}};
+    Paste("rotterdam\tHamburg\nHamburg\tGdansk\n");
+    EXPECT_THAT(view.pastes.back().taken, ElementsAre(0U, 1U));
+    EXPECT_THAT(Ports(), ElementsAre("HAMBURG", "GDANSK"));
+}
+
 TEST_F(PasteRowsTest, TheDistanceTableTakesRowsAsWell) {
     ASSERT_EQ(panel.OpenDistanceTable(), 0);
     Paste("ROTTERDAM\nHAMBURG\nGDANSK\n");

@@ -242,6 +242,8 @@ TEST_F(PortCallFixture, AnEtaOnALegWithoutDistanceStandsAlone) {
     EXPECT_EQ(table.Cell(1, ColEta), "2024-03-08 00:00:00");
     EXPECT_EQ(table.Cell(2, ColEta), "2024-03-06 20:00:00");
     EXPECT_FALSE(parts.Sheet().state.changed);
+    EXPECT_EQ(statusWord, "IDS_VIEW_ETANODISTANCE");
+    EXPECT_TRUE(messages.messages.empty());
 }
 
 TEST_F(PortCallFixture, ClickingTheLastNumberedRowAddsOne) {

@@ -37,6 +37,8 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     std::string clipboard;
     std::vector<RowsPreview> pastes;  ///< that were shown, and other previews of rows
     bool takesPaste = true;           ///< the answer to the next one
+    std::vector<std::pair<std::size_t, std::size_t>>
+        takesColumns;  ///< column and kind that the person changes
     std::optional<int> choosesRow;
     WhatIfState whatIf;
     int rowInView = -1;
@@ -80,8 +82,11 @@ class RecordingPortCallView final : public RecordingPanelWindow<PortCallView>,
     }
     std::vector<int> ChosenRows() const override { return chosen; }
     std::string ClipboardText() const override { return clipboard; }
-    bool AskRows(const RowsPreview& preview) override {
+    bool AskRows(const RowsPreview& preview, const ChangeColumn& change) override {
         pastes.push_back(preview);
+        for (const auto& [column, kind] : takesColumns) {
+            pastes.push_back(change(column, kind));
+        }
         return takesPaste;
     }
     std::optional<int> ChooseRow(const RowsPreview& preview) override {

@@ -31,7 +31,9 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
     std::vector<int> ChosenRows() const override { return table_->ChosenRows(); }
     void BringRowIntoView(int row) override;
     std::string ClipboardText() const override { return ClipboardAsText(); }
-    bool AskRows(const RowsPreview& preview) override { return AskRowsOver(*this, preview); }
+    bool AskRows(const RowsPreview& preview, const ChangeColumn& change) override {
+        return AskRowsOver(*this, preview, change);
+    }
     std::optional<int> ChooseRow(const RowsPreview& preview) override {
         return ChooseRowOver(*this, preview);
     }

@@ -17,6 +17,7 @@
 #include "seaplan/panels/portcall/paste/PastedText.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/WhatIfTexts.h"
+#include "seaplan/views/portcall/ColumnChooser.h"
 #include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 
@@ -90,10 +91,7 @@ class PreviewLines final : public TableLines {
     RowsPreview preview_;
 };
 
-PanelTable* MakeTable(QWidget* parent, const RowsPreview& preview) {
-    const DialogWords& said = WordsOf(preview.command);
-    auto* table = new PanelTable(parent, "", kLeastLines);
-    table->setObjectName(NameOf(said, "Table"));
+void ShowRows(PanelTable& table, const RowsPreview& preview) {
     const bool pasted = preview.command == RowsPreview::Command::Paste;
     const bool numbered = preview.command != RowsPreview::Command::Ways;
     std::vector<TableColumn> columns;
@@ -105,8 +103,15 @@ PanelTable* MakeTable(QWidget* parent, const RowsPreview& preview) {
              .width = columns.empty() && numbered ? kRowWidth : kColumnWidth,
              .alignment = !pasted && columns.size() >= kFirstFigure ? Qt::AlignRight : Qt::AlignLeft});
     }
-    table->ShowColumns(std::move(columns));
-    table->ShowLines(std::make_shared<PreviewLines>(preview));
+    table.ShowColumns(std::move(columns));
+    table.ShowLines(std::make_shared<PreviewLines>(preview));
+}
+
+PanelTable* MakeTable(QWidget* parent, const RowsPreview& preview) {
+    const DialogWords& said = WordsOf(preview.command);
+    auto* table = new PanelTable(parent, "", kLeastLines);
+    table->setObjectName(NameOf(said, "Table"));
+    ShowRows(*table, preview);
     table->setAccessibleName(ViewText(said.title));
     // A text from elsewhere may have many columns.
     table->setMinimumWidth(std::min(table->minimumWidth(), kMostWidth));
@@ -153,9 +158,17 @@ PanelTable* FillDialog(QDialog& dialog, const RowsPreview& preview) {
 
 }  // namespace
 
-bool AskRowsOver(QWidget& window, const RowsPreview& preview) {
+bool AskRowsOver(QWidget& window, const RowsPreview& preview, const ChangeColumn& change) {
     QDialog dialog(&window);
-    FillDialog(dialog, preview);
+    PanelTable* table = FillDialog(dialog, preview);
+    if (!preview.kinds.empty()) {
+        auto* words = dialog.findChild<QLabel*>(NameOf(WordsOf(preview.command), "Words"));
+        auto* chooser = new ColumnChooser(&dialog, preview, change, [table, words](const RowsPreview& now) {
+            ShowRows(*table, now);
+            words->setText(QString::fromStdString(now.words));
+        });
+        static_cast<QVBoxLayout*>(dialog.layout())->insertWidget(0, chooser);
+    }
     return Skin::RunDialog(dialog) == QDialog::Accepted;
 }
 
@@ -176,7 +189,8 @@ std::optional<int> ChooseRowOver(QWidget& window, const RowsPreview& preview) {
     QObject::connect(table, &QAbstractItemView::doubleClicked, &dialog, &QDialog::accept);
     table->PutFront(0, 0);
     table->setFocus();
-    return Skin::RunDialog(dialog) == QDialog::Accepted ? std::optional(table->currentIndex().row()) : std::nullopt;
+    return Skin::RunDialog(dialog) == QDialog::Accepted ? std::optional(table->currentIndex().row())
+                                                        : std::nullopt;
 }
 
 std::string ClipboardAsText() {

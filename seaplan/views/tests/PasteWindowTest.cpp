@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// Ctrl+V over the port calls: the preview, and its answer.
 #include <QClipboard>
+#include <QComboBox>
 #include <QLabel>
 #include <QTimer>
 
@@ -26,10 +27,14 @@ class PasteWindowTest : public PortCallWindowTest {
                 shown_.append(table->model()->index(row, 1).data().toString());
             }
             words_ = Find<QLabel>(*dialog, "pasteWords")->text();
+            if (correct_) {
+                correct_(*dialog);
+            }
             Press(*dialog, button);
         });
         QTest::keyClick(&Table(), Qt::Key_V, Qt::ControlModifier);
     }
+    std::function<void(QWidget&)> correct_;  ///< what the person does before the answer
     QStringList shown_;
     QString words_;
 };
@@ -52,6 +57,29 @@ TEST_F(PasteWindowTest, NothingIsTakenOnANo) {
     Paste(QStringLiteral("ROTTERDAM\nHAMBURG\n"), "pasteLeaveButton");
     EXPECT_EQ(shown_.size(), 2);
     EXPECT_EQ(Cell(0, ColPort), "");
+}
+
+TEST_F(PasteWindowTest, AColumnIsTakenForWhatThePersonSays) {
+    OpenPortCalls("North Sea");
+    correct_ = [this](QWidget& dialog) {
+        auto* columns = Find<QComboBox>(dialog, "pasteColumn");
+        auto* kinds = Find<QComboBox>(dialog, "pasteKind");
+        EXPECT_FALSE(columns->accessibleName().isEmpty());
+        EXPECT_FALSE(kinds->accessibleName().isEmpty());
+        ASSERT_EQ(columns->count(), 3);
+        EXPECT_EQ(columns->currentText(), "1: Port");
+        columns->setCurrentIndex(1);
+        EXPECT_EQ(kinds->currentText(), "Speed");
+        QTest::keyClick(kinds, Qt::Key_Home);
+        EXPECT_EQ(columns->currentText(), "2: not taken");
+        columns->setCurrentIndex(2);
+        kinds->setCurrentIndex(3);
+        EXPECT_EQ(columns->currentText(), "3: Speed");
+        EXPECT_EQ(Find<PanelTable>(dialog, "pasteTable")->model()->index(1, 3).data().toString(), "15.00");
+    };
+    Paste(QStringLiteral("ROTTERDAM\t6\t14\nHAMBURG\t7\t15\n"), "pasteTakeButton");
+    EXPECT_EQ(Cell(1, ColPort), "HAMBURG");
+    EXPECT_EQ(Cell(1, ColSpeed), "15.00");
 }
 
 }  // namespace

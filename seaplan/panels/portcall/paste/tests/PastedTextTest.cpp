@@ -22,7 +22,8 @@ std::string PortOf(const std::string& text) {
 }
 
 PastedRows Understand(const std::string& text) {
-    return UnderstandPasted(ReadPastedText(text), PortOf);
+    const PastedText pasted = ReadPastedText(text);
+    return ReadPasted(pasted, UnderstandColumns(pasted.rows, PortOf), PortOf);
 }
 
 std::vector<std::string> Values(const PastedRows& pasted, std::size_t row) {
@@ -97,7 +98,7 @@ TEST(PastedRowsTest, HeadsNameTheColumnsInTheLanguageInForceOrInEnglish) {
     EXPECT_THAT(own.columns, ElementsAre(ColPort, ColEta, ColDistance, ColSpeed));
     EXPECT_THAT(Values(own, 0), ElementsAre("HAMBURG", "2024-03-05 00:00:00", "", "12.50"));
     const PastedRows english = Understand("Port\tPort stay\tVoyage\nHAMBURG\t1.5\t12\n");
-    EXPECT_THAT(english.columns, ElementsAre(ColPort, ColPortTime, PastedRows::kNoColumn));
+    EXPECT_THAT(english.columns, ElementsAre(ColPort, ColPortTime, kNoColumn));
     EXPECT_THAT(Values(english, 0), ElementsAre("HAMBURG", "1.50", ""));
 }
 
@@ -131,7 +132,7 @@ TEST(PastedRowsTest, OfANameAndACodeTheKnownOneCounts) {
     EXPECT_EQ(pasted.rows[0][0].value, "ROTTERDAM");
     EXPECT_TRUE(pasted.rows[0][0].known);
     EXPECT_EQ(pasted.rows[1][0].value, "HAMBURG");
-    EXPECT_EQ(pasted.columns[1], PastedRows::kNoColumn);
+    EXPECT_EQ(pasted.columns[1], kNoColumn);
 }
 
 }  // namespace
