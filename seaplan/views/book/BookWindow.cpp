@@ -13,6 +13,7 @@
 #include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
+#include "seaplan/views/table/ColumnKeeper.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -33,6 +34,8 @@ BookWindow::BookWindow(QWidget* mainView)
     AddHelpAndClose();
     head_ = new BookHead(this);
     table_ = new PanelTable(this, "positionBookTable", BookSheet::kLeastLines);
+    columns_ = new ColumnKeeper(*table_, KeptBookColumns(),
+                                [this] { table_->ShowColumns(columns_->AsWanted(BookColumnsOf(sheet_))); });
     SkinPanel("TRV_PositionDlg", 1, "Caption_static");
     Skin::SkinWindow(*table_, Skin::ControlClass::ListView, "VoyagePositionList");
     SkinTable(*table_);
@@ -79,7 +82,7 @@ void BookWindow::ShowSheet(const BookSheet& sheet) {
     const bool otherUnit = sheet.units.speed != sheet_.units.speed;
     sheet_ = sheet;
     if (otherUnit) {
-        table_->ShowColumns(BookColumnsOf(sheet_));
+        table_->ShowColumns(columns_->AsWanted(BookColumnsOf(sheet_)));
     }
     table_->ShowLines(std::make_shared<BookLines>(sheet_));
     table_->PutFront(sheet.selected, BookName);
@@ -107,7 +110,7 @@ void BookWindow::TellClosed() {
 void BookWindow::ApplyClassTexts(QWidget& /*window*/) {
     DescribeHelpAndClose();
     table_->setAccessibleName(ViewText(TextIds::IDS_VIEW_BOOKTABLE));
-    table_->ShowColumns(BookColumnsOf(sheet_));
+    table_->ShowColumns(columns_->AsWanted(BookColumnsOf(sheet_)));
     editors_->ApplyTexts();
     foot_->ApplyTexts();
     ShowSheet(BookSheet(sheet_));

@@ -13,6 +13,8 @@ namespace Tarvik::Seaplan {
 
 class CPosBookDlg;
 
+class ColumnKeeper;
+
 /// The window of the position book: the commands, the table with its editors and the totals below it.
 class BookWindow final : public PanelFrame<BookView> {
   public:
@@ -38,6 +40,7 @@ class BookWindow final : public PanelFrame<BookView> {
   private:
     BookHead* head_;
     PanelTable* table_;
+    ColumnKeeper* columns_;
     BookFoot* foot_;
     BookEditors* editors_;
     BookSheet sheet_;  ///< on show

@@ -13,6 +13,7 @@ class QToolButton;
 
 namespace Tarvik::Seaplan {
 
+class ColumnKeeper;
 class CPortCallPanelDlg;
 class PanelTable;
 
@@ -54,6 +55,6 @@ class PortCallButtons final : public QWidget {
 
 /// Opens the commands that the port calls have beside their buttons, on the cell in front, at a point of the
 /// screen. Each tells its key.
-void OpenPortCallMenu(PanelTable& table, CPortCallPanelDlg& panel, const QPoint& at);
+void OpenPortCallMenu(PanelTable& table, CPortCallPanelDlg& panel, ColumnKeeper& columns, const QPoint& at);
 
 }  // namespace Tarvik::Seaplan

@@ -8,12 +8,13 @@
 #include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/texts/WhatIfTexts.h"
 #include "seaplan/views/portcall/PortCallButtons.h"
+#include "seaplan/views/table/ColumnKeeper.h"
 #include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
 
-void OpenPortCallMenu(PanelTable& table, CPortCallPanelDlg& panel, const QPoint& at) {
+void OpenPortCallMenu(PanelTable& table, CPortCallPanelDlg& panel, ColumnKeeper& columns, const QPoint& at) {
     auto* menu = new QMenu(&table);
     menu->setObjectName(QStringLiteral("portCallMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -44,6 +45,8 @@ void OpenPortCallMenu(PanelTable& table, CPortCallPanelDlg& panel, const QPoint&
     for (QAction* action : ofRows) {
         action->setEnabled(row >= 0);
     }
+    menu->addSeparator();
+    menu->addMenu(columns.MakeMenu(menu));
     menu->popup(at);
 }
 

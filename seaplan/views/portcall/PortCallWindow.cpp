@@ -18,6 +18,7 @@
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/views/editors/OutsidePress.h"
 #include "seaplan/views/portcall/PortCallLines.h"
+#include "seaplan/views/table/ColumnKeeper.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {
@@ -34,6 +35,7 @@ PortCallWindow::PortCallWindow(QWidget* mainView)
     AddHelpAndClose();
     table_ = new PanelTable(this, "portCallTable", kLeastLines);
     table_->ChooseSeveral();
+    columns_ = new ColumnKeeper(*table_, KeptPortCallColumns(), [this] { ShowState(state_); });
     SkinPanel("TRV_portCallDlg", 0, "Caption_static");
     Skin::SkinWindow(*table_, Skin::ControlClass::ListView, "VoyageDemoList");
     summary_ = new PortCallSummary(this);
@@ -77,11 +79,12 @@ void PortCallWindow::Attach(CPortCallPanelDlg* panel) {
          [&commands](UnitKind kind, int, const std::string& unit) { commands.OnUnitChosen(kind, unit); }});
     WhatIf& questions = commands.Questions();
     questions_->Attach(questions);
-    buttons_->SetReports({[&commands] { commands.OnSave(); }, [&commands] { commands.OnClear(); },
-                          [&commands] { commands.OnPositionBook(); }, [&commands] { commands.OnCalculate(); },
-                          [&commands] { commands.OnUndo(); }, [&commands] { commands.OnRedo(); },
-                          [&questions] { questions.OnOpen(); },
-                          [this, panel](const QPoint& at) { OpenPortCallMenu(*table_, *panel, at); }});
+    buttons_->SetReports(
+        {[&commands] { commands.OnSave(); }, [&commands] { commands.OnClear(); },
+         [&commands] { commands.OnPositionBook(); }, [&commands] { commands.OnCalculate(); },
+         [&commands] { commands.OnUndo(); }, [&commands] { commands.OnRedo(); },
+         [&questions] { questions.OnOpen(); },
+         [this, panel](const QPoint& at) { OpenPortCallMenu(*table_, *panel, *columns_, at); }});
     AttachMenu(*panel);
     // A press anywhere outside the table ends the editing.
     new OutsidePress(
@@ -97,7 +100,7 @@ void PortCallWindow::AttachMenu(CPortCallPanelDlg& panel) {
         if (const QModelIndex cell = table_->indexAt(at); cell.isValid()) {
             table_->PutCellInFront(cell);
         }
-        OpenPortCallMenu(*table_, panel, table_->viewport()->mapToGlobal(at));
+        OpenPortCallMenu(*table_, panel, *columns_, table_->viewport()->mapToGlobal(at));
     });
     auto* anew = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_R), this);
     QObject::connect(anew, &QShortcut::activated, this, [&panel] { panel.Commands().OnRouteAnew(); });
@@ -120,7 +123,7 @@ void PortCallWindow::ShowState(const PortCallState& state) {
     note_->setText(note);
     note_->setToolTip(note);
     note_->setVisible(!note.isEmpty());
-    table_->ShowColumns(PortCallColumnsOf(state));
+    table_->ShowColumns(columns_->AsWanted(PortCallColumnsOf(state)));
 }
 
 void PortCallWindow::ApplyClassTexts(QWidget& /*window*/) {

@@ -15,6 +15,7 @@
 
 namespace Tarvik::Seaplan {
 
+class ColumnKeeper;
 class CPortCallPanelDlg;
 
 /// The window of the port call panel: the table with its editors, the figures below it and the buttons.
@@ -52,6 +53,7 @@ class PortCallWindow final : public PanelFrame<PortCallView> {
 
     CPortCallPanelDlg* panel_ = nullptr;
     PanelTable* table_;
+    ColumnKeeper* columns_;
     PortCallEditors* editors_;
     PortCallSummary* summary_;
     WhatIfStrip* questions_;

@@ -16,6 +16,12 @@
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+constexpr int kMostTableWidth = 1200;
+
+}  // namespace
+
 void SetUpRows(QAbstractItemView& rows) {
     rows.setEditTriggers(QAbstractItemView::NoEditTriggers);
     rows.setSelectionMode(QAbstractItemView::SingleSelection);
@@ -57,10 +63,15 @@ void PanelTable::ShowColumns(std::vector<TableColumn> columns) {
     model_.ShowColumns(std::move(columns));
     int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
     for (std::size_t column = 0; column < model_.Columns().size(); ++column) {
-        setColumnWidth(static_cast<int>(column), model_.Columns()[column].width);
-        total += model_.Columns()[column].width;
+        const TableColumn& shown = model_.Columns()[column];
+        setColumnHidden(static_cast<int>(column), shown.hidden);
+        setColumnWidth(static_cast<int>(column), shown.width);
+        total += shown.hidden ? 0 : shown.width;
     }
-    setMinimumWidth(total + 4);
+    // Columns that a person made very wide are scrolled.
+    setMinimumWidth(std::min(total + 4, kMostTableWidth));
+    setHorizontalScrollBarPolicy(total + 4 > kMostTableWidth ? Qt::ScrollBarAsNeeded
+                                                             : Qt::ScrollBarAlwaysOff);
 }
 
 void PanelTable::PutFront(int row, int column) {

@@ -16,7 +16,8 @@ struct TableColumn {
     QString unit{};  ///< stands under the title, empty for none
     int width = 0;   ///< in pixels
     Qt::Alignment alignment = Qt::AlignLeft;
-    bool cells = true;  ///< false for a column of images, where a click is none on a cell
+    bool cells = true;    ///< false for a column of images, where a click is none on a cell
+    bool hidden = false;  ///< keeps its number, and is not to be seen
 };
 
 /// An image in a cell.
