@@ -77,6 +77,8 @@ bool ColumnKeeper::eventFilter(QObject* watched, QEvent* event) {
     }
     if (heads && event->type() == QEvent::MouseButtonRelease) {
         kept_.Save();
+        // The window gives a wider column room once the heads are done with the drag.
+        QMetaObject::invokeMethod(this, show_, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
 }

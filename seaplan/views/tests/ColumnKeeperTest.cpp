@@ -37,8 +37,11 @@ class ColumnKeeperTest : public PortCallWindowTest {
 
 TEST_F(ColumnKeeperTest, ADraggedWidthStaysThroughWhatTheTableShowsNext) {
     const int before = Table().columnWidth(ColPort);
+    const int room = Table().minimumWidth();
     Drag(ColPort, 40);
     ASSERT_EQ(Table().columnWidth(ColPort), before + 40);
+    QApplication::processEvents();
+    EXPECT_EQ(Table().minimumWidth(), room + 40) << "the window makes room";
     QTest::keyClick(&Table(), Qt::Key_F9);
     QApplication::processEvents();
     PortCalls().ApplyTexts();

@@ -64,6 +64,7 @@ QToolButton[day="true"]:checked { background: @accent; color: @accentText; }
 QMenu { background: @panel; color: @text; border: 1px solid @border; font-size: 13px; }
 QMenu::item { padding: 4px 20px; }
 QMenu::item:selected { background: @accent; color: @accentText; }
+QMenu::item:disabled { background: @panel; color: @disabled; }
 QToolTip { background: @panel; color: @text; border: 1px solid @border; font-size: 12px; }
 QScrollBar:vertical { background: @window; width: 10px; margin: 0; }
 QScrollBar::handle:vertical { background: @disabled; border-radius: 4px; min-height: 24px; margin: 1px; }
