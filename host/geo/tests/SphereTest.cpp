@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <cmath>
 
+#include <GeographicLib/Geodesic.hpp>
 #include <gtest/gtest.h>
 
 #include "host/geo/Sphere.h"
@@ -19,6 +20,20 @@ TEST(Sphere, TheGeodesicFollowsTheEllipsoid) {
     EXPECT_NEAR(GeodesicKm({0, 0}, {0, 1}), 110.574, 0.001);
     EXPECT_NEAR(GeodesicKm({0, 0}, {1, 0}), 111.319, 0.001);
     EXPECT_EQ(GeodesicKm({5, 5}, {5, 5}), 0.0);
+}
+
+TEST(Sphere, AShortGeodesicIsAsLongAsTheExactOne) {
+    for (double y = -84; y < 84; y += 1.75) {
+        for (const double rise : {0.0, 1e-5, 0.3, 1.0, -1.9}) {
+            for (const double east : {1e-5, 0.02, 1.0, -7.5, 15.9}) {
+                double metres = 0.0;
+                GeographicLib::Geodesic::WGS84().Inverse(y, 20.0, y + rise, 20.0 + east, metres);
+                EXPECT_NEAR(GeodesicKm({20.0, y}, {20.0 + east, y + rise}), metres / 1000.0,
+                            1e-6 + 2e-8 * metres / 1000.0)
+                    << y << " " << rise << " " << east;
+            }
+        }
+    }
 }
 
 TEST(Sphere, WrapsLongitudesIntoOneTurn) {
