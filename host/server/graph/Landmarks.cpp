@@ -16,7 +16,7 @@
 
 namespace Tarvik::Server {
 
-std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node) {
+std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node, std::vector<std::uint32_t>* by) {
     constexpr float kSliceNm = 16.0F;
     constexpr float kNotReached = std::numeric_limits<float>::infinity();
     const auto sliceOf = [](float nm) { return static_cast<std::size_t>(nm / kSliceNm); };
@@ -24,6 +24,9 @@ std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node) {
     std::vector<float> passedOn(best.size(), kNotReached);
     std::vector<std::vector<std::uint32_t>> slices(1, {node});
     best[node] = 0.0F;
+    if (by != nullptr) {
+        by->assign(best.size(), kNoEdge);
+    }
     for (std::size_t slice = 0; slice < slices.size(); ++slice) {
         for (std::size_t i = 0; i < slices[slice].size(); ++i) {
             const std::uint32_t at = slices[slice][i];
@@ -38,6 +41,9 @@ std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node) {
                     continue;
                 }
                 best[arc.to] = nm + arc.nm;
+                if (by != nullptr) {
+                    (*by)[arc.to] = arc.edge;
+                }
                 const std::size_t there = sliceOf(best[arc.to]);
                 slices.resize(std::max(slices.size(), there + 1));
                 slices[there].push_back(arc.to);

@@ -52,7 +52,12 @@ class Landmarks {
     FrozenArray<float> distances_;
 };
 
-/// Distances in nautical miles from one node to all; infinite where there is no way.
-std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node);
+/// No edge leads there.
+inline constexpr std::uint32_t kNoEdge = 0xFFFFFFFF;
+
+/// Distances in nautical miles from one node to all; infinite where there is no way. `by`, where given, gets
+/// the last edge of each node's way; the edges make a tree.
+std::vector<float> DistancesFrom(const ArcTable& table, std::uint32_t node,
+                                 std::vector<std::uint32_t>* by = nullptr);
 
 }  // namespace Tarvik::Server

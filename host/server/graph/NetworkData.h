@@ -67,6 +67,7 @@ struct NetworkTables {
     LandTables land;
     FrozenArray<float> landmarks;     ///< miles from every node to each landmark, node after node
     FrozenArray<std::uint8_t> usual;  ///< per edge 1 when ships between named places take it
+    FrozenArray<std::uint8_t> steps;  ///< from every node of these edges to each named node (`NextSteps`)
 };
 
 /// Everything the network file holds. Positions have 5 decimals.

@@ -4,7 +4,7 @@
 // ahead. What a search writes is kept per thread and told apart by a stamp, so that no search clears or
 // allocates it; each node's bound is reckoned once. Cost: arcs looked at times the logarithm of the heap, and
 // memory of one label a node and thread. About two thousand of the nodes are settled on the way between two
-// ports.
+// ports. Where the network tells the way from a place to another, it is walked and not searched.
 #include "host/server/graph/PathSearch.h"
 
 #include <algorithm>
@@ -91,6 +91,21 @@ NodePath WalkBack(const SeaNetwork& network, const std::vector<Label>& labels, s
     return path;
 }
 
+NodePath PathOf(std::uint32_t from, const std::vector<Arc>& arcs) {
+    NodePath path;
+    path.nodes.reserve(arcs.size() + 1);
+    path.edges.reserve(arcs.size());
+    path.nodes.push_back(from);
+    float nm = 0.0F;
+    for (const Arc& arc : arcs) {
+        path.nodes.push_back(arc.to);
+        path.edges.push_back(arc.edge);
+        nm += arc.nm;
+    }
+    path.nm = nm;
+    return path;
+}
+
 /// Puts the better ways over the arcs of a node on the desk.
 void Relax(const ArcTable& arcs, const Bound& bound, const OpenNode& at, Desk& desk) {
     for (const Arc& arc : arcs.Of(at.node)) {
@@ -113,6 +128,9 @@ std::optional<NodePath> FindPath(const SeaNetwork& network, std::uint32_t from, 
     const NetworkData& data = network.data();
     if (!network.Waters().Joined(from, to, forbidden)) {
         return std::nullopt;
+    }
+    if (const auto told = network.UsualWay(from, to, forbidden)) {
+        return PathOf(from, *told);
     }
     Desk& desk = ClearDesk(data.nodes.size());
     desk.blocked.resize(data.masks.size());

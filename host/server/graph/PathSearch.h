@@ -16,8 +16,8 @@ struct NodePath {
 };
 
 /// The shortest way from one node to another that uses no edge over a forbidden gate; nothing when there is
-/// none. A* with the larger of the great-circle and the landmark bound, between named places over the
-/// usual ways alone (`SeaNetwork::ArcsBetween`).
+/// none. It is walked where the network tells it, else found by A* with the larger of the great-circle and
+/// the landmark bound, between named places over the usual ways alone (`SeaNetwork::ArcsBetween`).
 std::optional<NodePath> FindPath(const SeaNetwork& network, std::uint32_t from, std::uint32_t to,
                                  const GateMask& forbidden);
 

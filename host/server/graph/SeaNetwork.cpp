@@ -31,6 +31,17 @@ LandIndex LandOf(const NetworkData& data) {
 constexpr GeoPoint kSouthLimits[] = {{-180, -52}, {-100, -52}, {-82, -57}, {-78, -60}, {-50, -60}, {-45, -52},
                                      {15, -48},   {25, -46},   {140, -47}, {160, -52}, {180, -52}};
 
+std::vector<std::uint32_t> NamedNodes(const NetworkData& data) {
+    std::set<std::uint32_t> nodes;
+    for (const NetworkPort& port : data.ports) {
+        nodes.insert(port.node);
+    }
+    for (const RoutePoint& point : data.routePoints) {
+        nodes.insert(point.node);
+    }
+    return {nodes.begin(), nodes.end()};
+}
+
 }  // namespace
 
 double SouthLimit(double longitude) {
@@ -76,9 +87,11 @@ SeaNetwork::SeaNetwork(NetworkData data)
     if (data_.tables) {
         ways_.usual = MarkedArcs(ways_.all, data_.tables->usual.View());
         ways_.isNamed.assign(data_.nodes.size(), 0);
-        for (const std::uint32_t node : NamedNodes()) {
+        const std::vector<std::uint32_t> named = NamedNodes(data_);
+        for (const std::uint32_t node : named) {
             ways_.isNamed[node] = 1;
         }
+        ways_.steps = NextSteps(ways_.usual, named, data_.tables->steps);
     }
     if (data_.reach.empty()) {
         FillReach();
@@ -91,17 +104,18 @@ const ArcTable& SeaNetwork::ArcsBetween(std::uint32_t a, std::uint32_t b, const 
     return usual ? ways_.usual : ways_.all;
 }
 
-std::vector<std::uint32_t> SeaNetwork::NamedNodes() const {
-    std::set<std::uint32_t> nodes;
-    for (const auto& [id, named] : named_) {
-        nodes.insert(named.node);
-    }
-    return {nodes.begin(), nodes.end()};
+std::optional<std::vector<Arc>> SeaNetwork::UsualWay(std::uint32_t from, std::uint32_t to,
+                                                     const GateMask& forbidden) const {
+    return &ArcsBetween(from, to, forbidden) == &ways_.usual ? ways_.steps.Walk(ways_.usual, from, to)
+                                                             : std::nullopt;
 }
 
 NetworkTables SeaNetwork::Tables() const {
-    return {land_.Tables(), landmarks_.Distances(),
-            FrozenArray(EdgesOfWays(OpenArcs(), NamedNodes(), data_.edges.size()))};
+    const std::vector<std::uint32_t> named = NamedNodes(data_);
+    std::vector<std::uint8_t> usual = EdgesOfWays(OpenArcs(), named, data_.edges.size());
+    std::vector<std::uint8_t> steps = NextSteps::Reckon(MarkedArcs(ways_.all, usual), named);
+    return {land_.Tables(), landmarks_.Distances(), FrozenArray(std::move(usual)),
+            FrozenArray(std::move(steps))};
 }
 
 void SeaNetwork::AddNamed(const std::string& id, std::uint32_t node) {

@@ -13,6 +13,7 @@
 #include "host/server/graph/GateCells.h"
 #include "host/server/graph/Landmarks.h"
 #include "host/server/graph/NetworkData.h"
+#include "host/server/graph/NextSteps.h"
 
 namespace Tarvik::Server {
 
@@ -53,6 +54,10 @@ class SeaNetwork {
     /// The arcs that a search needs: between ports and route points under the usual permissions only those on
     /// a shortest way between two of them, else all.
     const ArcTable& ArcsBetween(std::uint32_t a, std::uint32_t b, const GateMask& forbidden) const;
+    /// The arcs of the shortest way between two such places under the usual permissions, which the file
+    /// tells; nothing where it does not.
+    std::optional<std::vector<Arc>> UsualWay(std::uint32_t from, std::uint32_t to,
+                                             const GateMask& forbidden) const;
     const UnitVector& Vector(std::uint32_t node) const { return vectors_[node]; }
 
     /// The node of a port or route point.
@@ -91,12 +96,12 @@ class SeaNetwork {
         ArcTable all;
         ArcTable usual;             ///< those between named nodes; nothing in a network just put together
         std::vector<char> isNamed;  ///< by node, where `usual` is known
+        NextSteps steps;            ///< over `usual`
     };
     void AddNamed(const std::string& id, std::uint32_t node);
     void BuildArcs();
     void FillReach();
     ArcTable OpenArcs() const;
-    std::vector<std::uint32_t> NamedNodes() const;
 
     std::uint64_t number_;
     NetworkData data_;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Whether the parts of a network that was read fit together, so that nothing behind it has to ask again.
+#include <algorithm>
 #include <cmath>
 
 #include <tarvik/util/Geodesy.h>
 
+#include "host/server/graph/NextSteps.h"
 #include "host/server/graph/SeaNetworkFile.h"
 
 namespace Tarvik::Server {
@@ -79,6 +81,28 @@ std::string CheckReach(const NetworkData& d) {
     return {};
 }
 
+/// How many steps lead over the usual edges to the named nodes.
+std::size_t StepsOf(const NetworkData& d) {
+    std::vector<char> touched(d.nodes.size(), 0);
+    for (std::size_t i = 0; i < d.edges.size(); ++i) {
+        if (d.tables->usual[i] != 0) {
+            touched[d.edges[i].a] = 1;
+            touched[d.edges[i].b] = 1;
+        }
+    }
+    std::vector<char> named(d.nodes.size(), 0);
+    for (const NetworkPort& p : d.ports) {
+        named[p.node] = 1;
+    }
+    for (const RoutePoint& p : d.routePoints) {
+        named[p.node] = 1;
+    }
+    const auto count = [](const std::vector<char>& marks) {
+        return static_cast<std::size_t>(std::count(marks.begin(), marks.end(), 1));
+    };
+    return NextSteps::SizeOf(count(named), count(touched));
+}
+
 std::string CheckTables(const NetworkData& d) {
     if (!d.tables) {
         return {};
@@ -90,14 +114,18 @@ std::string CheckTables(const NetworkData& d) {
     if (d.tables->usual.Size() != d.edges.size()) {
         return "it does not tell which edges are usual";
     }
+    if (d.tables->steps.Size() != StepsOf(d)) {
+        return "it does not tell the steps to every port";
+    }
     return FaultOf(d.tables->land);
 }
 
 }  // namespace
 
 std::string FaultOf(const NetworkData& data) {
-    for (const std::string& fault :
-         {CheckEdges(data), CheckPoints(data), CheckReach(data), CheckTables(data)}) {
+    // Each leans on what those before it found in order.
+    for (const auto check : {CheckEdges, CheckPoints, CheckReach, CheckTables}) {
+        std::string fault = check(data);
         if (!fault.empty()) {
             return fault;
         }

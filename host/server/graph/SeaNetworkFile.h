@@ -17,7 +17,7 @@ std::string FaultOf(const NetworkData& data);
 
 /// Reads and writes the sea network's file.
 ///
-/// Layout, little-endian: the 8 bytes "SEANET04", the payload's length (u64), its `Checksum` (u64), the
+/// Layout, little-endian: the 8 bytes "SEANET05", the payload's length (u64), its `Checksum` (u64), the
 /// payload. In the payload every list is its count (u32) and its items, every text its length (u32) and its
 /// bytes; positions are two i32 in units of 1e-5 degrees. The order is nodes, edges, masks, route points,
 /// ports, land rings, rings of closed areas, reach of the route points, 1 (u8) where tables follow or 0. The

@@ -59,6 +59,7 @@ void PutTables(ByteWriter& w, const NetworkTables& tables) {
     }
     w.Raw(tables.landmarks.View());
     w.Raw(tables.usual.View());
+    w.Raw(tables.steps.View());
 }
 
 std::vector<GeoPoint> GetPoints(ByteReader& r) {
@@ -116,6 +117,7 @@ NetworkTables GetTables(ByteReader& r, const std::shared_ptr<const void>& keeper
     }
     tables.landmarks = FrozenArray(r.Raw<float>(), keeper);
     tables.usual = FrozenArray(r.Raw<std::uint8_t>(), keeper);
+    tables.steps = FrozenArray(r.Raw<std::uint8_t>(), keeper);
     return tables;
 }
 

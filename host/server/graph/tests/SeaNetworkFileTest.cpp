@@ -21,7 +21,7 @@ std::string Sealed(const std::string& payload) {
     ByteWriter head;
     head.U64(payload.size());
     head.U64(SeaNetworkFile::Checksum(payload));
-    return "SEANET04" + head.Bytes() + payload;
+    return "SEANET05" + head.Bytes() + payload;
 }
 
 std::string ErrorOf(const std::string& bytes) {
@@ -97,7 +97,7 @@ TEST(SeaNetworkFile, RefusesAForeignFile) {
 TEST(SeaNetworkFile, TellsTheVersionOfAFileThatItDoesNotRead) {
     std::string bytes = SeaNetworkFile::Encode(SmallSea());
     bytes[7] = '2';
-    EXPECT_EQ(ErrorOf(bytes), "the sea network file is of version 02, where this program reads version 04");
+    EXPECT_EQ(ErrorOf(bytes), "the sea network file is of version 02, where this program reads version 05");
 }
 
 TEST(SeaNetworkFile, RefusesReferencesToWhatIsNotThere) {

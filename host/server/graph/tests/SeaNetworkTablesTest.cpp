@@ -115,6 +115,9 @@ TEST(SeaNetworkTables, ThatDoNotFitAreRefused) {
     data = WithTables();
     data.tables->usual = FrozenArray(std::vector<std::uint8_t>(3, 1));
     EXPECT_THAT(ErrorOf(data), HasSubstr("which edges are usual"));
+    data = WithTables();
+    data.tables->steps = FrozenArray(std::vector<std::uint8_t>(3, 1));
+    EXPECT_THAT(ErrorOf(data), HasSubstr("steps to every port"));
 }
 
 }  // namespace

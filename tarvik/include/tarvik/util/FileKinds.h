@@ -17,7 +17,7 @@ struct FileKind {
 /// The land of the chart.
 inline constexpr FileKind kLandKind{"LANDV001", 16};
 /// The sea network, with a sum.
-inline constexpr FileKind kNetworkKind{"SEANET04", 24};
+inline constexpr FileKind kNetworkKind{"SEANET05", 24};
 
 static_assert(kLandKind.name.size() == 8 && kNetworkKind.name.size() == 8);
 
