@@ -112,6 +112,18 @@ TEST_F(BuiltRoutesTest, ThereAndBackAreOneWay) {
     }
 }
 
+TEST_F(BuiltRoutesTest, ReefsAndBanksArePassedWhereShipsPassThem) {
+    // Pub. 151: Kingston to Veracruz 1,210 miles, Surabaya to Hong Kong 1,925, Southampton to London 215.
+    const auto north = [](GeoPoint p) { return p.x < -88.5 && p.x > -91.0 ? p.y : -1e9; };
+    EXPECT_GT(Farthest(Way("JMKIN", "MXVER"), north), 22.4) << "between Yucatan and Alacranes";
+    EXPECT_NEAR(Miles("JMKIN", "MXVER"), 1210, 0.015 * 1210);
+    const auto west = [](GeoPoint p) { return std::abs(p.y + 1.6) < 0.2 ? -p.x : -1e9; };
+    const double serutu = -Farthest(Way("IDSUB", "HKHKG"), west);
+    EXPECT_LT(serutu, 108.8) << "between Karimata and Borneo";
+    EXPECT_NEAR(Miles("IDSUB", "HKHKG"), 1925, 0.02 * 1925);
+    EXPECT_NEAR(Miles("GBSOU", "GBLON"), 215, 0.02 * 215) << "over Margate Sand";
+}
+
 TEST_F(BuiltRoutesTest, NoOceanIsCrossedFartherSouthThanItsLimit) {
     const char* const pairs[][2] = {{"CLVAP", "AUSYD"}, {"CLPUQ", "NZWLG"}, {"USNYC", "AUFRE"}};
     for (const auto& [from, to] : pairs) {
