@@ -164,6 +164,19 @@ std::string PanelTable::ImageAt(const QModelIndex& index, const QPoint& point) c
     return TableDelegate::ImageAt(model_.CellAt(index).images, visualRect(index), point);
 }
 
+QString PanelTable::TipOf(const QModelIndex& cell) const {
+    if (!cell.isValid()) {
+        return {};
+    }
+    const QString told = cell.data(Qt::ToolTipRole).toString();
+    const TableCell shown = model_.CellAt(cell);
+    const QString text = shown.text.trimmed();
+    if (!TableDelegate::IsCut(shown, font(), visualRect(cell))) {
+        return told == text ? QString() : told;
+    }
+    return told.isEmpty() || told.startsWith(text) ? told : text + u'\n' + told;
+}
+
 QRect PanelTable::EditorRect(int row, int column) const {
     QRect rect = visualRect(model()->index(row, column));
     if (rect.bottom() >= viewport()->height()) {
@@ -264,11 +277,10 @@ bool PanelTable::viewportEvent(QEvent* event) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const QModelIndex index = indexAt(help->pos());
         const std::string image = index.isValid() ? ImageAt(index, help->pos()) : std::string();
-        const QString tip = image.empty() ? QString() : model_.ImageTipAt(index, image);
-        if (!tip.isEmpty()) {
-            QToolTip::showText(help->globalPos(), tip, viewport());
-            return true;
-        }
+        const QString tip = image.empty() ? TipOf(index) : model_.ImageTipAt(index, image);
+        // An empty tip takes away the one of the cell where the pointer was.
+        QToolTip::showText(help->globalPos(), tip, viewport(), visualRect(index));
+        return true;
     }
     return QTableView::viewportEvent(event);
 }

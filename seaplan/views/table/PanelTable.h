@@ -48,6 +48,9 @@ class PanelTable final : public QTableView {
     std::vector<int> ChosenRows() const;
     /// Puts a cell in front; where its row is among those chosen they stay so.
     void PutCellInFront(const QModelIndex& cell);
+    /// What is told where the pointer rests on a cell: what its line says of it, and its whole text where the
+    /// cell shows only the beginning. Empty where that is nothing more than can be read in the cell.
+    QString TipOf(const QModelIndex& cell) const;
     /// Rectangle of a cell in the viewport; a cell below the bottom edge moves up by one row.
     QRect EditorRect(int row, int column) const;
 

@@ -28,13 +28,21 @@ void PaintImages(QPainter& painter, const TableImages& images, const QRect& plac
     }
 }
 
-void PaintText(QPainter& painter, const QStyleOptionViewItem& option, const TableCell& cell, int alignment) {
-    QFont font = option.font;
+QFont FontOf(QFont font, const TableCell& cell) {
     font.setPixelSize(Skin::kTablePixels);
     font.setBold(cell.bold);
+    return font;
+}
+
+QRect TextRect(const QRect& place, const TableCell& cell) {
+    return place.adjusted(cell.left, 0, -cell.right, 0);
+}
+
+void PaintText(QPainter& painter, const QStyleOptionViewItem& option, const TableCell& cell, int alignment) {
+    const QFont font = FontOf(option.font, cell);
     painter.setFont(font);
     painter.setPen(Colour(cell.ink));
-    const QRect inner = option.rect.adjusted(cell.left, 0, -cell.right, 0);
+    const QRect inner = TextRect(option.rect, cell);
     painter.drawText(inner, alignment | Qt::TextSingleLine,
                      QFontMetrics(font).elidedText(cell.text, Qt::ElideRight, inner.width()));
 }
@@ -54,6 +62,11 @@ void TableDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
     painter->restore();
+}
+
+bool TableDelegate::IsCut(const TableCell& cell, const QFont& font, const QRect& place) {
+    const int width = TextRect(place, cell).width();
+    return QFontMetrics(FontOf(font, cell)).elidedText(cell.text, Qt::ElideRight, width) != cell.text;
 }
 
 std::string TableDelegate::ImageAt(const TableImages& images, const QRect& place, const QPoint& point) {

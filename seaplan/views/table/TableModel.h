@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QFont>
 #include <QString>
 #include <QStyledItemDelegate>
 #include <memory>
@@ -48,6 +49,8 @@ class TableDelegate final : public QStyledItemDelegate {
     using QStyledItemDelegate::QStyledItemDelegate;
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
+    /// Whether a cell that takes `place` shows only the beginning of its text, where the table has this font.
+    static bool IsCut(const TableCell& cell, const QFont& font, const QRect& place);
     /// Name of the image at a point of a cell that takes `place`, empty between them.
     static std::string ImageAt(const TableImages& images, const QRect& place, const QPoint& point);
 };
