@@ -78,7 +78,8 @@ TEST_F(KeptColumnsTest, WidthsStayWithinLimitsAndSomeColumnsInSight) {
 
 TEST_F(KeptColumnsTest, ADamagedFileCountsForNothing) {
     Write("one A hidden\none B wide\none B\none Z 50\n\none C -4\ngarbage\n");
-    for (const KeptColumn& column : Sample().Columns()) {
+    const KeptColumns columns = Sample();
+    for (const KeptColumn& column : columns.Columns()) {
         EXPECT_FALSE(column.hidden) << column.key;
         EXPECT_FALSE(column.width.has_value()) << column.key;
     }

@@ -14,7 +14,11 @@
 namespace Tarvik::Seaplan {
 
 ColumnKeeper::ColumnKeeper(PanelTable& table, KeptColumns kept, std::function<void()> show)
-    : QObject(&table), table_(table), kept_(std::move(kept)), show_(std::move(show)) {
+    : QObject(&table),
+      table_(table),
+      headsArea_(table.horizontalHeader()->viewport()),
+      kept_(std::move(kept)),
+      show_(std::move(show)) {
     QHeaderView* heads = table.horizontalHeader();
     heads->setSectionResizeMode(QHeaderView::Interactive);
     connect(heads, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
@@ -24,7 +28,7 @@ ColumnKeeper::ColumnKeeper(PanelTable& table, KeptColumns kept, std::function<vo
         }
     });
     connect(heads, &QHeaderView::sectionHandleDoubleClicked, this, [this](int column) { Fit(column); });
-    heads->viewport()->installEventFilter(this);
+    headsArea_->installEventFilter(this);
     table.installEventFilter(this);
 }
 
@@ -65,7 +69,8 @@ QMenu* ColumnKeeper::MakeMenu(QWidget* parent) {
 }
 
 bool ColumnKeeper::eventFilter(QObject* watched, QEvent* event) {
-    const bool heads = watched == table_.horizontalHeader()->viewport();
+    // Events reach this while the table is taken down too, so that it is asked about a menu alone.
+    const bool heads = watched == headsArea_;
     // A table with a menu of its own shows this one in it.
     const bool menu = event->type() == QEvent::ContextMenu &&
                       (heads || table_.contextMenuPolicy() == Qt::DefaultContextMenu);

@@ -29,6 +29,7 @@ class ColumnKeeper final : public QObject {
     void Changed();
 
     PanelTable& table_;
+    QObject* headsArea_;
     KeptColumns kept_;
     std::function<void()> show_;
 };
