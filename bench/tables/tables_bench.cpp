@@ -135,6 +135,9 @@ void CalculateDistances(benchmark::State& state) {
         Draw(*views.PortCallsWindow());
         host.requests.clear();
     }
+    if (IsBlankCell(panel.Sheet().table.Cell(panel.Sheet().table.RowCount(), ColDistance))) {
+        return state.SkipWithError(("nothing was calculated: " + panel.Sheet().cause).c_str());
+    }
     state.counters["miles"] =
         std::atof(panel.Sheet().table.Cell(panel.Sheet().table.RowCount(), ColDistance).c_str());
 }
