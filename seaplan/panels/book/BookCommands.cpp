@@ -79,13 +79,6 @@ bool BookCommands::DeleteRow(int listRow) {
     return true;
 }
 
-void BookCommands::OnDelete() {
-    const BookDesk::Report report(desk_);
-    if (editing_.CommitEditors() && desk_.Sheet().CanDelete()) {
-        DeleteRow(desk_.Sheet().selected);
-    }
-}
-
 void BookCommands::OnUnitChosen(UnitKind kind, int index) {
     const BookDesk::Report report(desk_);
     // A speed being typed is one in the old unit.
@@ -206,12 +199,12 @@ void BookCommands::OnHelp() {
 }
 
 bool BookCommands::OnTableKey(KeyPress press, int row, int column) {
+    if (OnChosenKey(press, column)) {
+        return true;
+    }
     switch (press.key) {
         case Key::Insert:
             OnInsert();
-            return true;
-        case Key::Delete:
-            OnDelete();
             return true;
         case Key::Space:
             OnExpand(row);

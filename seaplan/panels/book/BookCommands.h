@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/book/BookEditing.h"
 
@@ -19,8 +20,13 @@ class BookCommands {
     void OnExpand(int row);
     /// A waypoint, or those of a great circle, comes before the row in front, which stays there.
     void OnInsert();
-    /// The plain waypoint in front goes.
+    /// The plain waypoints among the chosen rows go, as one edit; those that cannot are told in the status
+    /// line.
     void OnDelete();
+    /// The cell of the first chosen row comes into the others, of one row the cell above it.
+    void OnFillDown(int column);
+    /// The cell in front comes into the other chosen rows.
+    void OnPutInChosen(int column);
     /// The first (0) or second unit of a quantity was chosen.
     void OnUnitChosen(UnitKind kind, int index);
     /// The Save button.
@@ -52,6 +58,8 @@ class BookCommands {
 
   private:
     bool MayMoveTo(const GeoPoint& to);
+    bool OnChosenKey(KeyPress press, int column);
+    void Fill(int from, const std::vector<int>& rows, int column, TextId edit);
 
     BookDesk& desk_;
     BookEditing& editing_;

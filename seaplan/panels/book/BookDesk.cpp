@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/BookDesk.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -123,11 +124,25 @@ void BookDesk::Recompute() {
 }
 
 void BookDesk::TakeEdit(const EditName& name) {
+    if (together_) {
+        edited_ = true;
+        return;
+    }
     sheet_.data.crossesDateLine = CrossesDateLine(sheet_.data);
     Recompute();
     history_.Push(sheet_.data, name, {before_, Front()});
     before_ = Front();
     NoteHistory();
+}
+
+void BookDesk::Together(const std::function<EditName()>& edits) {
+    edited_ = false;
+    together_ = true;
+    const EditName name = edits();
+    together_ = false;
+    if (edited_) {
+        TakeEdit(name);
+    }
 }
 
 bool BookDesk::GoBack() {
@@ -186,7 +201,7 @@ Boxes& BookDesk::ToPerson() {
     return boxes_;
 }
 
-TextId BookDesk::TextOf(BookRefusal refusal) {
+TextId TextOf(BookRefusal refusal) {
     switch (refusal) {
         case BookRefusal::Latitude:
             return TextIds::IDS_WP_LAT_ERR;
@@ -205,6 +220,18 @@ void BookDesk::Refuse(BookRefusal refusal) {
     if (refusal != BookRefusal::None) {
         ToPerson().Notice(TextOf(refusal));
     }
+}
+
+std::vector<int> ChosenRows(BookDesk& desk) {
+    // A text that was taken just now may have brought rows in.
+    desk.Show();
+    const BookSheet& sheet = desk.Sheet();
+    std::vector<int> rows = desk.View().ChosenRows();
+    rows.push_back(sheet.selected);
+    std::erase_if(rows, [&sheet](int row) { return !sheet.IsRow(row); });
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
 }
 
 }  // namespace Tarvik::Seaplan

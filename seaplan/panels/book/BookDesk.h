@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "seaplan/calculation/book/BookChecks.h"
 #include "seaplan/calculation/book/BookRows.h"
@@ -61,6 +62,9 @@ class BookDesk {
     void Recompute();
     /// The book was edited: all is computed anew and the edit can be taken back by its name.
     void TakeEdit(const EditName& name = {});
+    /// Makes edits that are computed and taken back as one, which `edits` names when they are made; nothing
+    /// where they change nothing.
+    void Together(const std::function<EditName()>& edits);
     /// The state before the last edit, or behind it again. False where there is none.
     bool GoBack();
     bool GoForward();
@@ -78,9 +82,7 @@ class BookDesk {
     void TakeZone(const std::string& zone);
     /// Boxes to the person, over a window that is up to date.
     Boxes& ToPerson();
-    /// The text that tells why a value is not taken, which it is not.
-    static TextId TextOf(BookRefusal refusal);
-    /// Tells it; nothing for None.
+    /// Tells why a value is not taken; nothing for None.
     void Refuse(BookRefusal refusal);
 
   private:
@@ -99,6 +101,13 @@ class BookDesk {
     BookOnChart chart_;
     PosBookRowRef before_{kNoPort, PosBookRowRef::kPort};  ///< place in front when the edit under way began
     int reports_ = 0;                                      ///< reports under way, one inside the other
+    bool together_ = false;                                ///< edits under way count as one
+    bool edited_ = false;                                  ///< one of them has changed something
 };
+
+/// The text that tells why a value is not taken, which it is not.
+TextId TextOf(BookRefusal refusal);
+/// The rows that are chosen in the table, brought up to date, and the one in front, in order.
+std::vector<int> ChosenRows(BookDesk& desk);
 
 }  // namespace Tarvik::Seaplan

@@ -109,11 +109,32 @@ void BookEditing::OnTyped(const std::string& text) {
     desk_.View().ShowEcho(edits_.EchoOf(cell_.row, cell_.column, text));
 }
 
+/// What is typed comes into all chosen rows; refused in its own row it comes into none.
+void BookEditing::PutTextInChosen() {
+    const std::string typed = text_.Field().Text();
+    const std::vector<int> chosen = ChosenRows(desk_);
+    BookSheet& sheet = desk_.Sheet();
+    const int column = cell_.column;
+    HideEditors();
+    GeoPoint position;
+    double kmh = 0;
+    BookRefusal refusal = BookRefusal::None;
+    if (column == BookSpeed) {
+        refusal = CheckSpeed(typed, sheet.units.speed, kmh);
+    } else if (column == BookLatitude || column == BookLongitude) {
+        refusal = CheckPosition(typed, column == BookLatitude ? Axis::Latitude : Axis::Longitude, position);
+    }
+    if (refusal != BookRefusal::None) {
+        return desk_.Refuse(refusal);
+    }
+    edits_.SetInRows(chosen, column, typed, TextIds::IDS_VIEW_EDITALL);
+}
+
 bool BookEditing::OnTextKey(KeyPress press) {
     const BookDesk::Report report(desk_);
     switch (press.key) {
         case Key::Enter:
-            CommitEditors();
+            press.ctrl ? PutTextInChosen() : static_cast<void>(CommitEditors());
             return true;
         case Key::Tab:
             if (CommitEditors()) {
@@ -137,8 +158,19 @@ void BookEditing::OnTextFocusLost() {
     }
 }
 
+void BookEditing::PutChoiceInChosen(int current) {
+    const BookDesk::Report report(desk_);
+    const std::string choice = choices_.TextAt(current);
+    HideEditors();
+    if (!choice.empty()) {
+        edits_.SetInRows(ChosenRows(desk_), cell_.column, choice, TextIds::IDS_VIEW_EDITALL);
+    }
+}
+
 bool BookEditing::OnChoiceKey(KeyPress press, int current) {
-    if (press.key == Key::Enter) {
+    if (press.key == Key::Enter && press.ctrl) {
+        PutChoiceInChosen(current);
+    } else if (press.key == Key::Enter) {
         OnChosen(current);
     } else if (press.key == Key::Escape) {
         HideEditors();

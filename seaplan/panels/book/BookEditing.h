@@ -28,7 +28,8 @@ class BookEditing {
     void OnRowSelected(int row);
     /// The text in the editor changed by the person's hand.
     void OnTyped(const std::string& text);
-    /// A key in the editor; false when it means nothing there and the field takes it.
+    /// A key in the editor; false when it means nothing there and the field takes it. Ctrl with Enter puts
+    /// what is typed into all chosen rows, in the list too.
     bool OnTextKey(KeyPress press);
     void OnTextFocusLost();
     /// A key in the list; false when it means nothing there.
@@ -52,6 +53,8 @@ class BookEditing {
     void OpenPicker();
     void OpenNextText();
     void TakeText(const std::string& text);
+    void PutTextInChosen();
+    void PutChoiceInChosen(int current);
     void OnTimeChosen(const Util::_datetime_t& time);
     void CloseText();
 

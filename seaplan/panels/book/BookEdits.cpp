@@ -67,7 +67,7 @@ std::string BookEdits::EchoOf(int row, int column, const std::string& typed) con
         return Text(TextIds::IDS_VIEW_NOTREAD);
     }
     if (refusal != BookRefusal::None) {
-        return Text(BookDesk::TextOf(refusal));
+        return Text(TextOf(refusal));
     }
     const bool pair = axis == Axis::Latitude ? position.x != place.x : position.y != place.y;
     std::string told = Text(TextIds::IDS_VIEW_READAS);

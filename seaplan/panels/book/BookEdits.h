@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/book/BookDesk.h"
 
@@ -32,11 +33,15 @@ class BookEdits {
     /// A time in the person's zone as the departure of the row's port: its stay becomes what lies between its
     /// arrival and that.
     BookRefusal SetTime(int row, const Util::_datetime_t& local);
+    /// A text as a cell shows it in rows in order, as one edit that is called by how many take it. Those
+    /// whose cell cannot be edited, or that refuse it, stay as they are, which the status line tells.
+    void SetInRows(const std::vector<int>& rows, int column, const std::string& text, TextId edit);
 
   private:
     void SetName(int row, const std::string& typed);
     BookRefusal SetPosition(int row, Axis axis, const std::string& typed);
     BookRefusal SetSpeed(int row, const std::string& typed);
+    bool Put(int row, int column, const std::string& text);
     void CutBothSides(int row);
     void CutGreatCircle(int row);
 

@@ -92,8 +92,8 @@ bool BookSheet::CanInsert() const {
     return IsRow(selected) && selected > 0 && !IsLocked(selected);
 }
 
-bool BookSheet::CanDelete() const {
-    return IsRow(selected) && !IsLocked(selected) && IsPlain(selected) && PlaceAt(selected).id.empty();
+bool BookSheet::CanDelete(int row) const {
+    return IsRow(row) && !IsLocked(row) && IsPlain(row) && PlaceAt(row).id.empty();
 }
 
 std::string BookSheet::Total(UnitKind kind) const {

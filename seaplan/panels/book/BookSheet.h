@@ -60,7 +60,8 @@ class BookSheet : public BookState {
     /// Name of the image that a line shows, empty for none.
     std::string ImageAt(int line) const;
     bool CanInsert() const;
-    bool CanDelete() const;
+    bool CanDelete() const { return CanDelete(selected); }
+    bool CanDelete(int row) const;
 
     /// Text of a total with two decimals, empty where the book takes no time; of None empty too.
     std::string Total(UnitKind kind) const;

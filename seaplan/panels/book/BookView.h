@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/window/PanelWindow.h"
 #include "seaplan/panels/window/Rect.h"
@@ -25,6 +26,8 @@ class BookView : public PanelWindow {
   public:
     virtual void ShowSheet(const BookSheet& sheet) = 0;
     virtual void BringRowIntoView(int row) = 0;
+    /// Lines that are chosen in the table, in order.
+    virtual std::vector<int> ChosenRows() const = 0;
     /// Where a cell of the sheet on show stands on the screen; one below the table's bottom edge a row
     /// higher.
     virtual Rect PlaceOf(const BookCellPlace& cell) const = 0;

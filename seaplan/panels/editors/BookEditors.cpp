@@ -37,6 +37,11 @@ void CComboxDlg::GoTo(const std::string& start) {
     }
 }
 
+std::string CComboxDlg::TextAt(int row) const {
+    const auto at = static_cast<std::size_t>(row);
+    return row >= 0 && at < texts_.size() ? texts_[at] : std::string();
+}
+
 void CComboxDlg::OnChosen(int row) {
     constexpr std::size_t kMostTracks = 2;
     if (!open_ || row < 0 || row >= static_cast<int>(texts_.size())) {

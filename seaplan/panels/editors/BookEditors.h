@@ -32,6 +32,8 @@ class CComboxDlg {
     /// Shows or hides it; a list without texts stays hidden.
     void Show(bool on);
     bool IsVisible() const { return open_; }
+    /// A row's text, empty for none.
+    std::string TextAt(int row) const;
     /// The keyboard goes to the list on show, and its row in front stays there.
     void TakeKeyboard();
     /// The first text with the letter or digit that this one begins with, in either case, comes to the front;

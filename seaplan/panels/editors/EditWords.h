@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "seaplan/panels/texts/EditTexts.h"
 
@@ -28,5 +29,8 @@ struct UndoTexts {
 
 /// What a command does with an edit; `form` takes the edit's name.
 std::string EditText(TextId form, const EditName& name);
+
+/// A sentence about rows, counted from 0; empty without rows.
+std::string RowsText(TextId id, const std::vector<int>& rows);
 
 }  // namespace Tarvik::Seaplan

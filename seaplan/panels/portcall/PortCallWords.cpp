@@ -110,12 +110,4 @@ std::string NoteText(const PortCallNote& note) {
     return {};
 }
 
-std::string RowsText(TextId id, const std::vector<int>& rows) {
-    std::string numbers;
-    for (const int row : rows) {
-        numbers += (numbers.empty() ? "" : ", ") + std::to_string(row + 1);
-    }
-    return rows.empty() ? std::string() : Text(id, {numbers});
-}
-
 }  // namespace Tarvik::Seaplan

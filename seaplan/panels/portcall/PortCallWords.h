@@ -34,7 +34,5 @@ PortCallNote NoteOfChoices(const std::vector<std::string>& names);
 std::string SignedText(double value, std::string (*digits)(double));
 /// The one line about the rows on show, empty when there is nothing to tell of them.
 std::string NoteText(const PortCallNote& note);
-/// A sentence about rows, counted from 0; empty without rows.
-std::string RowsText(TextId id, const std::vector<int>& rows);
 
 }  // namespace Tarvik::Seaplan

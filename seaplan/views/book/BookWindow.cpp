@@ -34,6 +34,7 @@ BookWindow::BookWindow(QWidget* mainView)
     AddHelpAndClose();
     head_ = new BookHead(this);
     table_ = new PanelTable(this, "positionBookTable", BookSheet::kLeastLines);
+    table_->ChooseSeveral();
     columns_ = new ColumnKeeper(*table_, KeptBookColumns(),
                                 [this] { table_->ShowColumns(columns_->AsWanted(BookColumnsOf(sheet_))); });
     SkinPanel("TRV_PositionDlg", 1, "Caption_static");
@@ -80,12 +81,16 @@ void BookWindow::Attach(CPosBookDlg* panel) {
 
 void BookWindow::ShowSheet(const BookSheet& sheet) {
     const bool otherUnit = sheet.units.speed != sheet_.units.speed;
+    const bool otherRows = sheet.RowCount() != sheet_.RowCount();
     sheet_ = sheet;
     if (otherUnit) {
         table_->ShowColumns(columns_->AsWanted(BookColumnsOf(sheet_)));
     }
     table_->ShowLines(std::make_shared<BookLines>(sheet_));
-    table_->PutFront(sheet.selected, BookName);
+    // Chosen rows stay so until rows come or go.
+    if (otherRows || sheet.selected != table_->currentIndex().row()) {
+        table_->PutFront(sheet.selected, BookName);
+    }
     head_->ShowSheet(sheet);
     foot_->ShowSheet(sheet);
 }

@@ -23,6 +23,7 @@ class BookWindow final : public PanelFrame<BookView> {
 
     void ShowSheet(const BookSheet& sheet) override;
     void BringRowIntoView(int row) override;
+    std::vector<int> ChosenRows() const override { return table_->ChosenRows(); }
     Rect PlaceOf(const BookCellPlace& cell) const override;
     TextBox& TextOver() override { return *editors_; }
     void PutTyped(const std::string& text) override { editors_->PutTyped(text); }

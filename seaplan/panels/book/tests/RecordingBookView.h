@@ -28,9 +28,11 @@ class RecordingBookView final : public RecordingPanelWindow<BookView> {
     BookCellPlace pickerCell;
     RecordingCalendar calendar;
     int toldClosed = 0;
+    std::vector<int> chosen;
 
     void ShowSheet(const BookSheet& shown) override { sheet = shown; }
     void BringRowIntoView(int) override {}
+    std::vector<int> ChosenRows() const override { return chosen; }
     Rect PlaceOf(const BookCellPlace& cell) const override {
         return {cell.column, cell.row, cell.column + 1, cell.row + 1};
     }
