@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/paste/RowsPreview.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
-#include "seaplan/panels/portcall/RowsPreview.h"
 #include "seaplan/panels/portcall/paste/PastedRows.h"
 
 namespace Tarvik::Seaplan {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/portcall/RowsPreview.h"
+#include "seaplan/panels/paste/RowsPreview.h"
 #include "seaplan/panels/window/PanelWindow.h"
 
 namespace Tarvik::Seaplan {

@@ -9,7 +9,7 @@
 #include "seaplan/controllers/RouteWays.h"
 #include "seaplan/data/Outcome.h"
 #include "seaplan/data/VoyPortCall.h"
-#include "seaplan/panels/portcall/RowsPreview.h"
+#include "seaplan/panels/paste/RowsPreview.h"
 
 namespace Tarvik::Seaplan {
 

@@ -8,9 +8,9 @@
 #include "seaplan/views/portcall/PortCallButtons.h"
 #include "seaplan/views/portcall/PortCallEditors.h"
 #include "seaplan/views/portcall/PortCallSummary.h"
-#include "seaplan/views/portcall/RowsDialog.h"
 #include "seaplan/views/portcall/WhatIfStrip.h"
 #include "seaplan/views/table/PanelTable.h"
+#include "seaplan/views/table/RowsDialog.h"
 #include "seaplan/views/window/FloatingPanel.h"
 
 namespace Tarvik::Seaplan {

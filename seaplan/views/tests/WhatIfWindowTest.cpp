@@ -6,7 +6,7 @@
 #include <QMenu>
 #include <QTimer>
 
-#include "seaplan/views/portcall/RowsDialog.h"
+#include "seaplan/views/table/RowsDialog.h"
 #include "seaplan/views/tests/PortCallWindowFixture.h"
 
 namespace Tarvik::Seaplan {

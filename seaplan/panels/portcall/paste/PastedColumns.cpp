@@ -1,31 +1,24 @@
 // SPDX-License-Identifier: MIT
-/// Heads are recognised by the longest title that they begin with. Without heads each column goes to the kind
-/// that most of its cells can be read as, tried from the narrowest to the widest, so that a number is no
-/// port. Own method; one reading of each cell a kind.
+/// Without heads each column goes to the kind that most of its cells can be read as, tried from the narrowest
+/// to the widest, so that a number is no port. Own method; one reading of each cell a kind.
 #include "seaplan/panels/portcall/paste/PastedColumns.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/portcall/paste/PastedText.h"
+#include "seaplan/panels/paste/PastedCells.h"
+#include "seaplan/panels/paste/PastedText.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
 
-using Lines = std::vector<std::vector<std::string>>;
-
 constexpr double kLeastGuessedSpeed = 4;
 constexpr double kMostGuessedSpeed = 60;
 
-struct EnglishHead {
-    std::string_view word;
-    int column;
-};
-/// What schedules call their columns, beside the table's own titles.
-constexpr EnglishHead kEnglishHeads[] = {
+/// What schedules call their columns.
+constexpr HeadTitle kEnglishHeads[] = {
     {"port", ColPort},          {"harbo", ColPort},        {"un/locode", ColPort},
     {"unlocode", ColPort},      {"locode", ColPort},       {"purpose", ColPurpose},
     {"speed", ColSpeed},        {"weather", ColWeather},   {"port time", ColPortTime},
@@ -35,22 +28,12 @@ constexpr EnglishHead kEnglishHeads[] = {
     {"sea", ColSteamTime},      {"no.", ColOrder}};
 
 int ColumnOfHead(const std::string& head) {
-    const std::string small = SmallLetters(head);
-    std::size_t longest = 0;
-    int found = kNoColumn;
-    const auto look = [&](const std::string& title, int column) {
-        if (title.size() > longest && small.starts_with(title)) {
-            longest = title.size();
-            found = column;
-        }
-    };
+    std::vector<std::string> titles;
+    titles.reserve(kPortCallColumnCount);
     for (int column = 0; column < kPortCallColumnCount; ++column) {
-        look(SmallLetters(TextOfKey(kPortCallColumns[static_cast<std::size_t>(column)].title)), column);
+        titles.push_back(TextOfKey(kPortCallColumns[static_cast<std::size_t>(column)].title));
     }
-    for (const EnglishHead& known : kEnglishHeads) {
-        look(std::string(known.word), known.column);
-    }
-    return found;
+    return KindOfHead(head, titles, kEnglishHeads);
 }
 
 /// Whether the first row names columns and holds nothing else that is known. A
@@ -76,25 +59,16 @@ bool LooksLike(int column, const std::string& text, const PortOfText& port) {
         return text.ends_with('%') && !PastedValue(ColWeather, text, port).empty();
     }
     if (column == ColSpeed) {
-        const double speed = PastedNumber(text, {"kn", "kt", "kts", "knots"}).value_or(0);
+        const double speed = PastedSpeed(text).value_or(0);
         return speed >= kLeastGuessedSpeed && speed <= kMostGuessedSpeed;
     }
     return !PastedValue(column, text, port).empty();
 }
 
-/// Whether cells count 1, 2, 3 and on.
-bool IsOrder(const Lines& lines, std::size_t at) {
-    for (std::size_t row = 0; row < lines.size(); ++row) {
-        if (lines[row][at] != std::to_string(row + 1)) {
-            return false;
-        }
-    }
-    return true;
-}
-
-int GuessColumn(const Lines& lines, std::size_t at, const std::vector<int>& taken, const PortOfText& port) {
+int GuessColumn(const PastedLines& lines, std::size_t at, const std::vector<int>& taken,
+                const PortOfText& port) {
     constexpr int kNarrowestFirst[] = {ColEta, ColEtd, ColWeather, ColPurpose, ColPort, ColSpeed};
-    if (IsOrder(lines, at)) {
+    if (CountsOn(lines, at)) {
         return ColOrder;
     }
     for (const int column : kNarrowestFirst) {
@@ -116,7 +90,7 @@ int GuessColumn(const Lines& lines, std::size_t at, const std::vector<int>& take
 
 /// A list without any known port still names ports, in its first column of
 /// words.
-void GuessUnknownPorts(const Lines& lines, std::vector<int>& columns) {
+void GuessUnknownPorts(const PastedLines& lines, std::vector<int>& columns) {
     for (std::size_t at = 0; at < columns.size(); ++at) {
         const bool words = std::any_of(lines.begin(), lines.end(), [at](const auto& line) {
             return !line[at].empty() && !PastedNumber(line[at], {});
@@ -130,7 +104,7 @@ void GuessUnknownPorts(const Lines& lines, std::vector<int>& columns) {
 
 }  // namespace
 
-PastedColumns UnderstandColumns(const std::vector<std::vector<std::string>>& lines, const PortOfText& port) {
+PastedColumns UnderstandColumns(const PastedLines& lines, const PortOfText& port) {
     PastedColumns found;
     if (lines.empty()) {
         return found;
@@ -151,11 +125,6 @@ PastedColumns UnderstandColumns(const std::vector<std::vector<std::string>>& lin
         GuessUnknownPorts(lines, found.columns);
     }
     return found;
-}
-
-void TakeColumnAs(std::vector<int>& columns, std::size_t at, int kind) {
-    std::replace(columns.begin(), columns.end(), kind, kNoColumn);
-    columns.at(at) = kind;
 }
 
 }  // namespace Tarvik::Seaplan

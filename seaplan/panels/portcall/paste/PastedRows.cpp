@@ -2,10 +2,9 @@
 #include "seaplan/panels/portcall/paste/PastedRows.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
-#include "seaplan/calculation/Units.h"
+#include "seaplan/panels/paste/PastedCells.h"
 
 namespace Tarvik::Seaplan {
 
@@ -50,18 +49,6 @@ void KeepOneOfEach(PastedRows& pasted) {
     }
 }
 
-/// Whether a text tells a speed in another unit on offer than this one.
-bool TellsOtherUnit(const std::string& text, std::string_view unit) {
-    const std::string small = SmallLetters(text);
-    const auto units = OfferedUnits(UnitKind::Speed);
-    return std::any_of(units.begin(), units.end(), [&small, unit](std::string_view other) {
-        const auto words = WordsOfSpeedUnit(other);
-        return other != unit && std::any_of(words.begin(), words.end(), [&small](std::string_view word) {
-                   return small.find(word) != std::string::npos;
-               });
-    });
-}
-
 }  // namespace
 
 void LeaveOtherUnits(PastedRows& pasted, const std::string& speedUnit) {
@@ -69,10 +56,10 @@ void LeaveOtherUnits(PastedRows& pasted, const std::string& speedUnit) {
         if (pasted.columns[at] != ColSpeed) {
             continue;
         }
-        const bool wholeColumn = at < pasted.heads.size() && TellsOtherUnit(pasted.heads[at], speedUnit);
+        const bool wholeColumn = at < pasted.heads.size() && TellsOtherSpeedUnit(pasted.heads[at], speedUnit);
         for (auto& row : pasted.rows) {
             PastedCell& cell = row[at];
-            if (!cell.text.empty() && (wholeColumn || TellsOtherUnit(cell.text, speedUnit))) {
+            if (!cell.text.empty() && (wholeColumn || TellsOtherSpeedUnit(cell.text, speedUnit))) {
                 cell.value.clear();
                 cell.known = false;
             }

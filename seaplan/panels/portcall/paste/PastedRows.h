@@ -4,19 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/paste/PastedCells.h"
+#include "seaplan/panels/paste/PastedText.h"
 #include "seaplan/panels/portcall/paste/PastedColumns.h"
-#include "seaplan/panels/portcall/paste/PastedText.h"
 
 namespace Tarvik::Seaplan {
-
-/// A cell of a pasted text as it was understood.
-struct PastedCell {
-    std::string text;     ///< as it was pasted
-    std::string value{};  ///< text of the table's cell, empty where nothing can
-                          ///< stand there
-    bool known = true;    ///< false for a port that nobody knows, and for a text
-                          ///< that says nothing in its column
-};
 
 /// Pasted rows with what their columns were taken for.
 struct PastedRows {

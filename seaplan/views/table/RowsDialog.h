@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "seaplan/panels/portcall/RowsPreview.h"
+#include "seaplan/panels/paste/RowsPreview.h"
 
 namespace Tarvik::Seaplan {
 

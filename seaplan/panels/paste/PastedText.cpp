@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// One pass over the characters, with one state for cells in quotes. Cost:
 /// linear in the text, which is cut at its limit first.
-#include "seaplan/panels/portcall/paste/PastedText.h"
+#include "seaplan/panels/paste/PastedText.h"
 
 #include <algorithm>
 #include <utility>

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "seaplan/panels/portcall/RowsPreview.h"
+#include "seaplan/panels/paste/RowsPreview.h"
 
 namespace Tarvik::Seaplan {
 

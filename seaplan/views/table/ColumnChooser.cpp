@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/portcall/ColumnChooser.h"
+#include "seaplan/views/table/ColumnChooser.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/portcall/RowsDialog.h"
+#include "seaplan/views/table/RowsDialog.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -14,10 +14,10 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/ToolWindow.h>
 
-#include "seaplan/panels/portcall/paste/PastedText.h"
+#include "seaplan/panels/paste/PastedText.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/WhatIfTexts.h"
-#include "seaplan/views/portcall/ColumnChooser.h"
+#include "seaplan/views/table/ColumnChooser.h"
 #include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 

@@ -7,7 +7,7 @@
 #include <tarvik/util/DateTimeUtl.h>
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/panels/portcall/paste/PastedText.h"
+#include "seaplan/panels/paste/PastedText.h"
 
 namespace Tarvik::Seaplan {
 
