@@ -112,14 +112,11 @@ void CalculateDistances(benchmark::State& state) {
     TestSupport::RecordingHost host;
     const auto server =
         Server::EmbeddedServer::Open(":memory:", std::make_unique<Server::GraphRouteSource>(network), error);
-    host.server = [&](const Interface::VoyServerRequest& request) { return server->Exchange("", &request); };
-    std::vector<std::string> known;
-    known.reserve(ids.size());
-    for (const auto& [name, id] : ids) {
-        known.push_back(name);
-    }
+    host.server = [&](const Interface::VoyServerRequest& request) {
+        return server->Exchange(host.user.value_or(""), &request);
+    };
     VoyageStore store;
-    PortDirectory ports(known, {}, {});
+    PortDirectory ports{SEAPLAN_POINTS};
     VoyCatalogModule catalogModule{&store};
     VoyCatalogController catalog{&catalogModule, &store};
     VoyPortCallModule module{&store, &ports};
@@ -127,7 +124,7 @@ void CalculateDistances(benchmark::State& state) {
     VoyageViews views({store, catalog, voyages, ports, nullptr});
     CPortCallPanelDlg& panel = views.PortCalls();
     panel.OpenDistanceTable();
-    for (const std::string& name : known) {
+    for (const auto& [name, id] : ids) {
         panel.AddPortByName(name);
     }
     for (auto _ : state) {
