@@ -28,16 +28,6 @@ bool IsPlain(const Rows& leg, int sub) {
     return sub < static_cast<int>(leg.size()) && leg[static_cast<std::size_t>(sub)].kind == PlainPoint;
 }
 
-/// The place before a row on the way; null before the start.
-const PosBookPlace* PlaceBefore(const PosBookData& book, const PosBookRowRef& ref) {
-    const Rows& leg = book.ports[static_cast<std::size_t>(ref.port)].rows;
-    const auto sub = ref.sub == PosBookRowRef::kPort ? leg.size() : static_cast<std::size_t>(ref.sub);
-    if (sub > 0) {
-        return &leg[sub - 1];
-    }
-    return ref.port > 0 ? &book.ports[static_cast<std::size_t>(ref.port) - 1] : nullptr;
-}
-
 /// A waypoint between two places, sailed as the way to the second is.
 PosBookRow RowBetween(const PosBookPlace& before, const PosBookPlace& to, double x, double y) {
     PosBookRow row;
@@ -119,6 +109,15 @@ int AddRows(PosBookData& book, BookRowRefs& refs, int listRow, Rows added) {
 }
 
 }  // namespace
+
+const PosBookPlace* PlaceBefore(const PosBookData& book, const PosBookRowRef& ref) {
+    const Rows& leg = book.ports[static_cast<std::size_t>(ref.port)].rows;
+    const auto sub = ref.sub == PosBookRowRef::kPort ? leg.size() : static_cast<std::size_t>(ref.sub);
+    if (sub > 0) {
+        return &leg[sub - 1];
+    }
+    return ref.port > 0 ? &book.ports[static_cast<std::size_t>(ref.port) - 1] : nullptr;
+}
 
 BookRowRefs ListBookRows(const PosBookData& book) {
     BookRowRefs refs;

@@ -31,6 +31,9 @@ BookRowRefs ListBookRows(const PosBookData& book);
 PosBookPlace& PlaceOf(PosBookData& book, const PosBookRowRef& ref);
 const PosBookPlace& PlaceOf(const PosBookData& book, const PosBookRowRef& ref);
 
+/// The place before another one on the way; null before the start.
+const PosBookPlace* PlaceBefore(const PosBookData& book, const PosBookRowRef& ref);
+
 /// List row of the first place behind the start with less than a speed (km/h), or of the row behind which it
 /// is folded away; -1 where there is none.
 int FirstSlowerRow(const PosBookData& book, double kmh);

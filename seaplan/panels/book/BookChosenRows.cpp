@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "seaplan/panels/book/BookCommands.h"
+#include "seaplan/panels/book/BookPaste.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/panels/texts/EditTexts.h"
@@ -78,7 +79,7 @@ void BookCommands::OnPutInChosen(int column) {
     }
 }
 
-/// Keys over all that is chosen.
+/// Keys over all that is chosen, and over what comes from elsewhere.
 bool BookCommands::OnChosenKey(KeyPress press, int column) {
     if (press.key == Key::Delete) {
         OnDelete();
@@ -86,6 +87,8 @@ bool BookCommands::OnChosenKey(KeyPress press, int column) {
         OnFillDown(column);
     } else if (press.ctrl && press.key == Key::Enter) {
         OnPutInChosen(column);
+    } else if (press.ctrl && press.key == Key::V) {
+        BookPaste(desk_, editing_).OnPaste();
     } else {
         return false;
     }

@@ -3,16 +3,10 @@
 
 namespace Tarvik::Seaplan {
 
-namespace {
-
-constexpr std::size_t kMostCharacters = 60;
-
-}  // namespace
-
 BookEditing::BookEditing(BookDesk& desk)
     : desk_(desk),
       edits_(desk),
-      text_(desk.View().TextOver(), kMostCharacters, [this](const std::string& text) { TakeText(text); }),
+      text_(desk.View().TextOver(), kMostTypedUnits, [this](const std::string& text) { TakeText(text); }),
       choices_(desk.View().ChoicesOver(),
                {[this](const std::string& track) { edits_.SetTrack(cell_.row, track); },
                 [this](int step) { edits_.SetInterval(cell_.row, step); }}),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/BookEdits.h"
 
+#include <algorithm>
 #include <optional>
 
 #include <tarvik/util/DateTimeUtl.h>
@@ -18,16 +19,16 @@ namespace {
 
 constexpr const char* kGreatCircle = "GC";
 
-/// A name as it goes to the server: beside the characters that no name may have the one that parts a row.
+}  // namespace
+
 std::string WaypointName(const std::string& typed) {
     std::u16string name = Util::StringUtl::TranslateString(NormalizeName(typed));
+    name.resize(std::min(name.size(), kMostTypedUnits));
     for (char16_t& unit : name) {
         unit = unit == u'|' ? u'\uFF5C' : unit;
     }
     return Util::StringUtl::TranslateString(name);
 }
-
-}  // namespace
 
 std::string BookEdits::TextToEdit(int row, int column) const {
     const BookSheet& sheet = desk_.Sheet();

@@ -8,6 +8,13 @@
 
 namespace Tarvik::Seaplan {
 
+/// What is typed over a cell has no more UTF-16 units.
+inline constexpr std::size_t kMostTypedUnits = 60;
+
+/// A name as it goes to the server: beside the characters that no name may have without the one that parts a
+/// row, and no longer than one that is typed.
+std::string WaypointName(const std::string& typed);
+
 /// What an edit of a cell does. A value that is refused, or that stands there already, changes nothing and
 /// marks nothing. Rows count from 0 in the list and are rows that the cell's column lets be edited.
 class BookEdits {

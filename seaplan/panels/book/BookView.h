@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "seaplan/panels/paste/RowsPreview.h"
 #include "seaplan/panels/window/PanelWindow.h"
 #include "seaplan/panels/window/Rect.h"
 
@@ -28,6 +29,11 @@ class BookView : public PanelWindow {
     virtual void BringRowIntoView(int row) = 0;
     /// Lines that are chosen in the table, in order.
     virtual std::vector<int> ChosenRows() const = 0;
+    /// The text on the clipboard as UTF-8, cut where no more is read.
+    virtual std::string ClipboardText() const = 0;
+    /// Shows what a paste would do and waits for the answer: true for yes. `change` gives the preview of a
+    /// column that is taken for another kind.
+    virtual bool AskRows(const RowsPreview& preview, const ChangeColumn& change) = 0;
     /// Where a cell of the sheet on show stands on the screen; one below the table's bottom edge a row
     /// higher.
     virtual Rect PlaceOf(const BookCellPlace& cell) const = 0;

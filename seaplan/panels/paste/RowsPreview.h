@@ -10,7 +10,7 @@ namespace Tarvik::Seaplan {
 
 /// What a command would do with rows, as it is shown before it is taken.
 struct RowsPreview {
-    enum class Command { Paste, RouteAnew, Ways };
+    enum class Command { Paste, Waypoints, RouteAnew, Ways };
     enum class Mark {
         Plain,
         Replaces,  ///< another value stands there now, which the text tells

@@ -7,6 +7,7 @@
 #include "seaplan/views/book/BookFrame.h"
 #include "seaplan/views/book/BookLines.h"
 #include "seaplan/views/table/PanelTable.h"
+#include "seaplan/views/table/RowsDialog.h"
 #include "seaplan/views/window/FloatingPanel.h"
 
 namespace Tarvik::Seaplan {
@@ -24,6 +25,10 @@ class BookWindow final : public PanelFrame<BookView> {
     void ShowSheet(const BookSheet& sheet) override;
     void BringRowIntoView(int row) override;
     std::vector<int> ChosenRows() const override { return table_->ChosenRows(); }
+    std::string ClipboardText() const override { return ClipboardAsText(); }
+    bool AskRows(const RowsPreview& preview, const ChangeColumn& change) override {
+        return AskRowsOver(*this, preview, change);
+    }
     Rect PlaceOf(const BookCellPlace& cell) const override;
     TextBox& TextOver() override { return *editors_; }
     void PutTyped(const std::string& text) override { editors_->PutTyped(text); }

@@ -47,9 +47,9 @@ const DialogWords& WordsOf(RowsPreview::Command command) {
                                        TextIds::IDS_VIEW_ANEWLEAVE};
     static constexpr DialogWords kWays{"ways", TextIds::IDS_VIEW_WAYS, TextIds::IDS_VIEW_WAYSTAKE,
                                        TextIds::IDS_VIEW_WAYSLEAVE};
-    return command == RowsPreview::Command::Paste       ? kPaste
-           : command == RowsPreview::Command::RouteAnew ? kAnew
-                                                        : kWays;
+    return command == RowsPreview::Command::RouteAnew ? kAnew
+           : command == RowsPreview::Command::Ways    ? kWays
+                                                      : kPaste;
 }
 
 QString NameOf(const DialogWords& words, const char* part) {
@@ -78,7 +78,9 @@ class PreviewLines final : public TableLines {
     }
     QString WordsAt(int line, int column) const override {
         const RowsPreview::Mark mark = At(line, column).mark;
-        return mark == RowsPreview::Mark::Unknown   ? ViewText(TextIds::IDS_VIEW_PASTEUNKNOWN)
+        const bool waypoints = preview_.command == RowsPreview::Command::Waypoints;
+        const TextId unknown = waypoints ? TextIds::IDS_VIEW_PASTENOTREAD : TextIds::IDS_VIEW_PASTEUNKNOWN;
+        return mark == RowsPreview::Mark::Unknown   ? ViewText(unknown)
                : mark == RowsPreview::Mark::Ignored ? ViewText(TextIds::IDS_VIEW_PASTEIGNORED)
                                                     : QString();
     }
@@ -92,8 +94,8 @@ class PreviewLines final : public TableLines {
 };
 
 void ShowRows(PanelTable& table, const RowsPreview& preview) {
-    const bool pasted = preview.command == RowsPreview::Command::Paste;
     const bool numbered = preview.command != RowsPreview::Command::Ways;
+    const bool pasted = numbered && preview.command != RowsPreview::Command::RouteAnew;
     std::vector<TableColumn> columns;
     columns.reserve(preview.titles.size());
     for (const std::string& title : preview.titles) {

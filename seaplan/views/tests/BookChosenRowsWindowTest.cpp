@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
-/// Choosing several rows of the position book with mouse and keyboard.
+/// Choosing several rows of the position book with mouse and keyboard, and pasting waypoints.
+#include <QClipboard>
+#include <QTimer>
+
 #include "seaplan/views/tests/PositionBookFixture.h"
 
 namespace Tarvik::Seaplan {
@@ -91,6 +94,32 @@ TEST_F(BookChosenRowsWindowTest, WaypointsAreInsertedAndDeletedTogether) {
     EXPECT_THAT(Chosen(), ElementsAre(front - 2));
     QTest::keyClick(&Table(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Rows(), rows);
+}
+
+TEST_F(BookChosenRowsWindowTest, PastedWaypointsAreShownAndTakenOnAYes) {
+    const int rows = Rows();
+    Table().setCurrentIndex(Table().model()->index(1, BookName));
+    QApplication::clipboard()->setText(QStringLiteral("Off Texel\t53 15.0N\t4 20.0E\nsomewhere\t\t\n"));
+    QString words;
+    QTimer::singleShot(0, &Book(), [this, &words] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        const auto* table = Find<PanelTable>(*dialog, "pasteTable");
+        EXPECT_EQ(table->model()->index(0, 2).data().toString(), QStringLiteral("53\u00B0 15.00' N"));
+        EXPECT_EQ(table->model()->rowCount(), 2);
+        words = Find<QLabel>(*dialog, "pasteWords")->text();
+        Press(*dialog, "pasteTakeButton");
+    });
+    QTest::keyClick(&Table(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(words.contains(QStringLiteral("row 2: 1"))) << words.toStdString();
+    EXPECT_GT(Rows(), rows);
+    const int front = Table().currentIndex().row();
+    EXPECT_EQ(Cell(front - 1, BookName), "Off Texel");
+    EXPECT_EQ(Cell(front - 1, BookLatitude), "53.2500");
+    Book().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Book()));
+    QTest::keyClick(&Table(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_NE(Cell(front - 1, BookName), "Off Texel");
 }
 
 }  // namespace

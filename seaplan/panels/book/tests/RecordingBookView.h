@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "seaplan/panels/book/BookSheet.h"
@@ -29,6 +31,12 @@ class RecordingBookView final : public RecordingPanelWindow<BookView> {
     RecordingCalendar calendar;
     int toldClosed = 0;
     std::vector<int> chosen;
+    std::string clipboard;
+    std::vector<RowsPreview> pastes;  ///< that were shown
+    bool takesPaste = true;           ///< the answer to the next
+    /// What the person takes a column as before the answer: column and kind.
+    std::optional<std::pair<std::size_t, std::size_t>> changedColumn;
+    std::function<void()> whileAsked;
 
     void ShowSheet(const BookSheet& shown) override { sheet = shown; }
     void BringRowIntoView(int) override {}
@@ -37,6 +45,17 @@ class RecordingBookView final : public RecordingPanelWindow<BookView> {
         return {cell.column, cell.row, cell.column + 1, cell.row + 1};
     }
     TextBox& TextOver() override { return box_; }
+    std::string ClipboardText() const override { return clipboard; }
+    bool AskRows(const RowsPreview& preview, const ChangeColumn& change) override {
+        pastes.push_back(preview);
+        if (changedColumn) {
+            pastes.push_back(change(changedColumn->first, changedColumn->second));
+        }
+        if (whileAsked) {
+            whileAsked();
+        }
+        return takesPaste;
+    }
     void PutTyped(const std::string& typed) override { text = typed; }
     DropList& ChoicesOver() override { return list_; }
     void ShowEcho(const std::string& shown) override { echo = shown; }
