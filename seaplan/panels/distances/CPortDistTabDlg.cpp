@@ -74,10 +74,14 @@ void CPortDistTabDlg::PutCategory(const std::string& text, bool selected) {
 
 void CPortDistTabDlg::Open() {
     names_.Hide();
+    // Pressed again, the names that are typed stay.
+    if (p_.view.IsVisible()) {
+        return p_.view.Show();
+    }
     PutCategory("", false);
     voyage_.clear();
     p_.view.SetVoyageName("");
-    p_.view.ShowNote("");
+    note_.reset();
     ApplyLanguage();
     p_.view.MoveTo(Centred(p_.panelPlace(), p_.view.PlaceOnScreen()));
     p_.view.Show();
@@ -86,6 +90,12 @@ void CPortDistTabDlg::Open() {
 void CPortDistTabDlg::ApplyLanguage() {
     p_.view.SetCaption(Text(TextIds::IDS_PORTDISTAB_TITLE), false);
     p_.view.ApplyTexts();
+    p_.view.ShowNote(note_ ? Text(*note_) : std::string());
+}
+
+void CPortDistTabDlg::ShowNote(std::optional<TextId> note) {
+    note_ = note;
+    p_.view.ShowNote(note_ ? Text(*note_) : std::string());
 }
 
 void CPortDistTabDlg::ShowNames(const std::string& typed) {
@@ -156,12 +166,12 @@ void CPortDistTabDlg::OnArrow() {
 
 void CPortDistTabDlg::OnOk() {
     names_.Hide();
-    p_.view.ShowNote("");
+    ShowNote({});
     LoadTree();
     DistanceTable& table = p_.portCalls(true)->Distances();
     // The dialog stays when the panel goes on to a voyage, whose rows are not the ones to be kept.
     if (!table.IsUnkept()) {
-        return p_.view.ShowNote(Text(TextIds::IDS_VIEW_TABLEGONE));
+        return ShowNote(TextIds::IDS_VIEW_TABLEGONE);
     }
     if (table.CountPlaces() < 2) {
         return boxes_.Notice(TextIds::IDS_PORTDISTAB_SAVEPORTWARN);
@@ -169,7 +179,7 @@ void CPortDistTabDlg::OnOk() {
     TableVoyage made;
     if (const int code = p_.tree.CreateVoyageFromTable(category_, voyage_, made); code != 0) {
         if (code < kNameTaken) {
-            p_.view.ShowNote(Text(TextIds::IDS_VIEW_TABLENOTKEPT));
+            ShowNote(TextIds::IDS_VIEW_TABLENOTKEPT);
         }
         return;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include <tarvik/bus/BindingList.h>
@@ -10,6 +11,7 @@
 #include "seaplan/panels/distances/KeepTableView.h"
 #include "seaplan/panels/editors/CVoyageListDlg.h"
 #include "seaplan/panels/editors/Keys.h"
+#include "seaplan/panels/texts/TextId.h"
 #include "seaplan/panels/window/Boxes.h"
 #include "seaplan/panels/window/Rect.h"
 
@@ -68,14 +70,16 @@ class CPortDistTabDlg final : public Core::TObject {
     int LoadTree();
     void PutCategory(const std::string& text, bool selected);
     void ShowNames(const std::string& typed);
+    void ShowNote(std::optional<TextId> note);
 
     Parts p_;
     Boxes boxes_;
     CVoyageListDlg names_;
     std::string category_;
     std::string voyage_;
-    bool filterActive_ = true;  ///< what the category field shows is typed by the person
-    bool isOpen_ = false;       ///< answer of the service that asks
+    std::optional<TextId> note_;  ///< why the table was not kept
+    bool filterActive_ = true;    ///< what the category field shows is typed by the person
+    bool isOpen_ = false;         ///< answer of the service that asks
     Interface::BindingList bindings_;
 };
 

@@ -48,7 +48,9 @@ int DistanceTable::AddPort(const std::string& name) {
 int DistanceTable::CountPlaces() {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
-    return desk_.Sheet().PlaceCount(desk_.Ports());
+    // A voyage is made of the rows from the first one on, up to a blank one.
+    const PortCallSheet& sheet = desk_.Sheet();
+    return sheet.table.ReadRows().size() < 2 ? 0 : sheet.PlaceCount(desk_.Ports());
 }
 
 void DistanceTable::KeepAs(const std::string& vi) {

@@ -320,4 +320,11 @@ TEST_F(DistanceTableTest, AnotherLanguageOrZoneLeavesTheRows) {
     EXPECT_TRUE(messages.messages.empty());
 }
 
+TEST_F(DistanceTableTest, APortThatArrivesIsBroughtIntoView) {
+    AddPorts({"ROTTERDAM", "HAMBURG", "ROTTERDAM", "HAMBURG", "ROTTERDAM", "HAMBURG"});
+    EXPECT_EQ(view.rowInView, 5);
+    AddPorts({"GDANSK"});
+    EXPECT_EQ(view.rowInView, 6);
+}
+
 }  // namespace Tarvik::Seaplan

@@ -230,13 +230,14 @@ TEST_F(KeepTableTest, TheArrowTogglesTheListOfAllNamesAndLoadsTheTreeForIt) {
 }
 
 TEST_F(KeepTableTest, LeavingTheCategoryProposesAVoyageName) {
+    texts.given[u"IDS_TREE_NEWVOYAGE"] = u"New";
     AskToKeep();
     dialog.OnCategoryLeft();
-    EXPECT_EQ(keep.voyage, "IDS_TREE_NEWVOYAGE - 0");
+    EXPECT_EQ(keep.voyage, "New - 0");
     KeepAs("Plans", keep.voyage);
     dialog.Open();
     dialog.OnCategoryLeft();
-    EXPECT_EQ(keep.voyage, "IDS_TREE_NEWVOYAGE - 1") << "the first is taken now";
+    EXPECT_EQ(keep.voyage, "New - 1") << "the first is taken now";
 }
 
 TEST_F(KeepTableTest, CancelLeavesTheTable) {
@@ -408,6 +409,39 @@ TEST_F(KeepTableTest, LogoutHidesIt) {
     AskToKeep();
     dialog.OnLogout();
     EXPECT_FALSE(keep.visible);
+}
+
+TEST_F(KeepTableTest, ATableWithoutAFirstRowIsRefusedBeforeAnythingIsMade) {
+    panel.OpenDistanceTable();
+    Type(1, ColPort, "ROTTERDAM");
+    Type(2, ColPort, "HAMBURG");
+    panel.Commands().OnSave();
+    desk.ForgetRecords();
+    KeepAs("Plan", "Kept");
+    EXPECT_EQ(LastMessage(), "IDS_PORTDISTAB_SAVEPORTWARN");
+    EXPECT_TRUE(keep.visible);
+    EXPECT_THAT(Commands(), IsEmpty());
+}
+
+TEST_F(KeepTableTest, SavePressedAgainLeavesTheNamesThatAreTyped) {
+    AskToKeep();
+    TypeNames("Plan", "Kept");
+    panel.Commands().OnSave();
+    EXPECT_EQ(keep.category, "Plan");
+    EXPECT_EQ(keep.voyage, "Kept");
+    dialog.OnOk();
+    EXPECT_FALSE(keep.visible);
+    EXPECT_EQ(desk.Voyage("Kept").vn, "Kept");
+}
+
+TEST_F(KeepTableTest, TheReasonWhyItStaysIsToldInTheLanguageInForce) {
+    AskToKeep();
+    desk.Refuse(Ask::kAddVoyage);
+    KeepAs("Plan", "Kept");
+    ASSERT_EQ(keep.note, "IDS_VIEW_TABLENOTKEPT");
+    texts.given[u"IDS_VIEW_TABLENOTKEPT"] = u"noch nicht";
+    dialog.ApplyLanguage();
+    EXPECT_EQ(keep.note, "noch nicht");
 }
 
 }  // namespace Tarvik::Seaplan

@@ -105,4 +105,38 @@ TEST_F(TableVoyageTest, ARefusalOfTheServerEndsItWhereItStands) {
     EXPECT_FALSE(parts.context.voyageNames.contains("Kept"));
 }
 
+TEST_F(TableVoyageTest, NamesGetTheCharactersOfTheTree) {
+    const std::string voyage = "A \uFF02B\uFF02\uFF3C\uFF07\uFF06";
+    EXPECT_EQ(Create("Bulk", " A \"B\"\\'& "), 0);
+    EXPECT_EQ(made.vi, desk.Voyage(voyage).vi);
+    EXPECT_EQ(parts.context.voyageNames.at(voyage), InUse);
+    EXPECT_EQ(desk.Count(Ask::kAddVoyage, voyage), 1);
+    EXPECT_EQ(Create("Oil & \"Gas\"", "B"), 0);
+    EXPECT_EQ(made.ci, desk.Category("Oil \uFF06 \uFF02Gas\uFF02").ci);
+    EXPECT_EQ(Create("Oil & \"Gas\"", "C"), 0);
+    EXPECT_EQ(Create(" Bulk ", "E"), 0);
+    EXPECT_EQ(made.ci, desk.Category("Bulk").ci);
+    EXPECT_EQ(desk.Count(Ask::kAddCategory), 1) << "the same category the second time";
+    EXPECT_EQ(Create("Bulk", "A \"B\"\\'&"), -2) << "taken as it is stored";
+}
+
+TEST_F(TableVoyageTest, ACategoryStoredAsItIsTypedIsFound) {
+    const std::string ci = desk.Category("Bulk").ci;
+    desk.store.categories.at(ci).cn = "Ore & Coal";
+    EXPECT_EQ(Create("Ore & Coal", "Kept"), 0);
+    EXPECT_EQ(made.ci, ci);
+    EXPECT_EQ(desk.Count(Ask::kAddCategory), 0);
+}
+
+TEST_F(TableVoyageTest, ANameOfBlanksIsEmptyAndOneTooWideIsTold) {
+    EXPECT_EQ(Create("Bulk", "  "), -1);
+    EXPECT_EQ(LastNotice(), "IDS_PORTDISTAB_NOINFWARN");
+    EXPECT_EQ(Create("Bulk", std::string(21, 'x')), -1);
+    EXPECT_EQ(LastNotice(), "IDS_TREE_TOOMUCHNUM20");
+    EXPECT_EQ(Create(std::string(31, 'x'), "A"), -1);
+    EXPECT_EQ(LastNotice(), "IDS_TREE_TOOMUCHNUM30");
+    EXPECT_TRUE(desk.host.requests.empty());
+    EXPECT_EQ(Create("Bulk", std::string(20, 'x')), 0);
+}
+
 }  // namespace Tarvik::Seaplan

@@ -188,6 +188,15 @@ TEST_F(RowRemarksTest, APortsRemarksOpenForTheVoyageAndItsName) {
     EXPECT_FALSE(view.state.changed) << "the table has not changed";
 }
 
+TEST_F(RowRemarksTest, APortOfADistanceTableHasAKeyOfTheTables) {
+    EXPECT_EQ(withRemarks.OpenDistanceTable(), 0);
+    EXPECT_EQ(withRemarks.AddPortByName("HAMBURG"), 0);
+    desk.ForgetRecords();
+    EXPECT_EQ(withRemarks.Rows().OnItemImage(0, "itemRemark"), 0);
+    EXPECT_THAT(desk.Sent(Ask::kLoadRemarks),
+                ElementsAre("{optype:\"4\",type:\"4\",objectid:\"DISTANCE TABLE USEHAMBURG\"}"));
+}
+
 TEST_F(RowRemarksTest, ARowWithoutAPortHasNoRemarks) {
     EXPECT_EQ(withRemarks.Rows().OnItemImage(4, "itemRemark"), -1);
     EXPECT_EQ(desk.Count(Ask::kLoadRemarks), 0);

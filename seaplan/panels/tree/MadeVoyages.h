@@ -32,9 +32,10 @@ struct TableVoyage {
     std::string vi;
 };
 
-/// Makes a voyage of this name with its row, and before it the category when none in use has that name. An
-/// empty name and a voyage's that is taken are told in a notice, and `out` is empty then.
-Outcome<TableVoyageStep> CreateVoyageFromTable(TreeParts& parts, const std::string& category,
-                                               const std::string& voyage, TableVoyage& out);
+/// Makes a voyage of this name with its row, and before it the category when none in use has that name. Names
+/// are taken as the tree takes them (NormalizeName); one that is empty or too wide, and a voyage's that is
+/// taken, are told in a notice, and `out` is empty then.
+Outcome<TableVoyageStep> CreateVoyageFromTable(TreeParts& parts, const std::string& typedCategory,
+                                               const std::string& typedVoyage, TableVoyage& out);
 
 }  // namespace Tarvik::Seaplan

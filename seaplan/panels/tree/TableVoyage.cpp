@@ -5,6 +5,8 @@
 #include "seaplan/panels/tree/MadeVoyages.h"
 #include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeParts.h"
+#include "seaplan/panels/tree/TreeRename.h"
+#include "seaplan/panels/tree/TreeRules.h"
 
 namespace Tarvik::Seaplan {
 
@@ -47,12 +49,21 @@ TreeRow NewCategory(TreeParts& parts, const std::string& name) {
 
 }  // namespace
 
-Outcome<TableVoyageStep> CreateVoyageFromTable(TreeParts& parts, const std::string& category,
-                                               const std::string& voyage, TableVoyage& out) {
+Outcome<TableVoyageStep> CreateVoyageFromTable(TreeParts& parts, const std::string& typedCategory,
+                                               const std::string& typedVoyage, TableVoyage& out) {
     TreeContext& c = parts.context;
     out = {};
+    const std::string voyage = NormalizeName(typedVoyage);
+    const std::string category = NormalizeName(typedCategory);
     if (category.empty() || voyage.empty()) {
         c.boxes.Notice(TextIds::IDS_PORTDISTAB_NOINFWARN);
+        return TableVoyageStep::Names;
+    }
+    // Another client may have stored the category's name as it is typed.
+    TreeRow row = RowOfCategory(c, typedCategory);
+    row = row == kNoRow ? RowOfCategory(c, category) : row;
+    if (!IsWidthAccepted(c, voyage, kVoyageNameWidth) ||
+        (row == kNoRow && !IsWidthAccepted(c, category, kCategoryNameWidth))) {
         return TableVoyageStep::Names;
     }
     const auto known = c.voyageNames.find(voyage);
@@ -60,7 +71,6 @@ Outcome<TableVoyageStep> CreateVoyageFromTable(TreeParts& parts, const std::stri
         c.boxes.NoticeText(TakenText(known->second));
         return TableVoyageStep::Taken;
     }
-    TreeRow row = RowOfCategory(c, category);
     row = row == kNoRow ? NewCategory(parts, category) : row;
     if (row == kNoRow) {
         return TableVoyageStep::Category;

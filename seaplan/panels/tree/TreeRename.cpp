@@ -76,11 +76,11 @@ Outcome<RenameStep> TreeRename::Take() {
     return isVoyage_ ? CommitVoyage(typed.Row(), name) : CommitCategory(typed.Row(), name);
 }
 
-bool TreeRename::WidthAccepted(const std::string& name, int limit) {
+bool IsWidthAccepted(TreeContext& c, const std::string& name, int limit) {
     if (Util::StringUtl::Width(name) <= limit) {
         return true;
     }
-    c_.boxes.NoticeText(Text(TextIds::IDS_TREE_TOOMUCHNUM) + std::to_string(limit));
+    c.boxes.NoticeText(Text(TextIds::IDS_TREE_TOOMUCHNUM) + std::to_string(limit));
     return false;
 }
 
@@ -97,7 +97,7 @@ bool TreeRename::Taken(const std::map<std::string, int>& names, const std::strin
 }
 
 Outcome<RenameStep> TreeRename::CommitCategory(TreeRow row, const std::string& name) {
-    if (!WidthAccepted(name, kCategoryNameWidth)) {
+    if (!IsWidthAccepted(c_, name, kCategoryNameWidth)) {
         return RenameStep::CategoryWidth;
     }
     VoyCategory* category = c_.CategoryOf(row);
@@ -121,7 +121,7 @@ Outcome<RenameStep> TreeRename::CommitCategory(TreeRow row, const std::string& n
 }
 
 Outcome<RenameStep> TreeRename::CommitVoyage(TreeRow row, const std::string& name) {
-    if (!WidthAccepted(name, kVoyageNameWidth)) {
+    if (!IsWidthAccepted(c_, name, kVoyageNameWidth)) {
         return RenameStep::VoyageWidth;
     }
     VoyInfo* voyage = c_.VoyageOf(row);

@@ -41,7 +41,6 @@ class TreeRename {
     Outcome<RenameStep> Take();
     Outcome<RenameStep> CommitCategory(TreeRow row, const std::string& name);
     Outcome<RenameStep> CommitVoyage(TreeRow row, const std::string& name);
-    bool WidthAccepted(const std::string& name, int limit);
     bool Taken(const std::map<std::string, int>& names, const std::string& name, const std::string& present);
 
     TreeContext& c_;
@@ -51,5 +50,8 @@ class TreeRename {
     TextField field_{0};
     bool isVoyage_ = false;
 };
+
+/// Whether a name is no wider than a limit; a wider one is told.
+bool IsWidthAccepted(TreeContext& c, const std::string& name, int limit);
 
 }  // namespace Tarvik::Seaplan

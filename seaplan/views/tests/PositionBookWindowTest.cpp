@@ -102,6 +102,17 @@ TEST_F(PositionBookWindowTest, ARefusedTextIsToldOnce) {
     EXPECT_FALSE(Editor().isVisible());
 }
 
+TEST_F(PositionBookWindowTest, APressOnTheTitleTakesWhatIsTyped) {
+    OpenBook();
+    ClickCell(1, BookSpeed);
+    QTest::keyClicks(&Editor(), "13");
+    ASSERT_TRUE(Editor().isVisible());
+    QTest::mouseClick(Find<QWidget>(Book(), "captionBar"), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_FALSE(Editor().isVisible());
+    EXPECT_EQ(Cell(1, BookSpeed), "13.00");
+}
+
 TEST_F(PositionBookWindowTest, TrackAndIntervalAreChosenByMouseAndKeyboard) {
     OpenBook();
     ClickCell(1, BookTrack);

@@ -6,6 +6,8 @@
 #include <memory>
 #include <set>
 
+#include <tarvik/bus/VoyageContract.h>
+
 #include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
@@ -120,6 +122,34 @@ TEST_F(WindowLanguageTest, AHiddenPositionBook) {
     EXPECT_EQ(NameOf(book, "helpButton"), "IDC_WP_BT_HELP");
     EXPECT_EQ(NameOf(book, "saveButton"), "IDC_WP_BT_SAVE");
     EXPECT_TRUE(book.windowTitle().contains("IDC_WP_T_TITLE")) << book.windowTitle().toStdString();
+}
+
+TEST_F(WindowLanguageTest, TheDialogThatKeepsADistanceTable) {
+    OpenPortCalls("Far East 12");
+    const Interface::PanelShow show{Interface::PanelCode::kDistances, 0};
+    Interface::Raise(Interface::Bus::ShowPanel, &show);
+    for (const char* name : {"ROTTERDAM", "SINGAPORE"}) {
+        const std::string port = name;
+        Interface::Call(Interface::Bus::AddPortName, &port);
+    }
+    Press(PortCalls(), "saveButton");
+    QWidget& dialog = *views.KeepWindow();
+    ASSERT_TRUE(dialog.isVisible());
+    for (const bool hidden : {false, true}) {
+        keys.reset();
+        Interface::Raise(Interface::Bus::SwitchLanguage);
+        if (hidden) {
+            Press(dialog, "keepCancelButton");
+        }
+        ASSERT_EQ(dialog.isVisible(), !hidden);
+        ASSERT_NE(TextOf(dialog, "keepOkButton"), "IDS_PORTDISTAB_OK");
+        Switch();
+        EXPECT_EQ(TextOf(dialog, "keepOkButton"), "IDS_PORTDISTAB_OK");
+        EXPECT_EQ(TextOf(dialog, "keepCancelButton"), "IDS_PORTDISTAB_CANCEL");
+        EXPECT_EQ(NameOf(dialog, "categoryField"), "IDS_PORTDISTAB_CATENAME");
+        EXPECT_EQ(NameOf(dialog, "closeButton"), "IDS_PORTCALL_CLOSE");
+        EXPECT_EQ(Find<QLabel>(dialog, "captionLabel")->text(), "IDS_PORTDISTAB_TITLE");
+    }
 }
 
 }  // namespace Tarvik::Seaplan

@@ -270,6 +270,20 @@ TEST_F(BookCommandsTest, LogoutHidesWithoutAQuestion) {
     EXPECT_EQ(bookView.sheet.RowCount(), 0);
 }
 
+TEST_F(BookCommandsTest, LogoutDropsWhatIsTypedAndClosesEveryEditor) {
+    OpenBook();
+    Click(Hamburg, BookSpeed);
+    book.Cells().OnTyped("13");
+    book.OnLogout();
+    EXPECT_FALSE(bookView.textCell.has_value());
+    OpenBook();
+    Click(Hamburg, BookTrack);
+    book.OnLogout();
+    EXPECT_FALSE(bookView.choiceCell.has_value());
+    EXPECT_THAT(messages.messages, IsEmpty());
+    EXPECT_TRUE(desk.Sent(Ask::kSaveBook).empty());
+}
+
 TEST_F(BookCommandsTest, AnotherZoneRewritesTheTimesAndNothingElse) {
     OpenBook();
     MakeChange();

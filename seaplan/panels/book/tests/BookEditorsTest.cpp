@@ -157,6 +157,23 @@ TEST_F(BookEditorsTest, KeysOfTheTableOpenInsertDeleteAndExpand) {
     EXPECT_FALSE(book.Commands().OnTableKey({Key::Down}, 1, BookName));
 }
 
+TEST_F(BookEditorsTest, ASpacingOutOfTheListOpensWithoutAChoice) {
+    OpenBook();
+    book.Commands().OnClose();
+    for (const int stored : {0, 9}) {
+        PosBookData odd = Data();
+        odd.ports[1].interval = stored;
+        book.ShowBook(odd);
+        Click(Hamburg, BookInterval);
+        ASSERT_TRUE(bookView.choiceCell.has_value());
+        EXPECT_EQ(bookView.choices.size(), 5U);
+        EXPECT_TRUE(book.Cells().OnChoiceKey({Key::Enter}, -1));
+        EXPECT_FALSE(Changed()) << "none was chosen";
+        book.Cells().OnChosen(2);
+        EXPECT_EQ(Data().ports[1].interval, 3);
+    }
+}
+
 }  // namespace
 
 }  // namespace Tarvik::Seaplan

@@ -294,6 +294,26 @@ TEST_F(BookEditsTest, AnAisPointShowsTheSpeedThatTheShipHad) {
     EXPECT_EQ(Cell(2, BookSpeed), "13.89");
 }
 
+TEST_F(BookEditsTest, ASpeedBeingTypedIsOneInTheOldUnit) {
+    OpenBook();
+    Click(Hamburg, BookSpeed);
+    book.Cells().OnTyped("12");
+    book.Commands().OnUnitChosen(UnitKind::Speed, 1);
+    EXPECT_DOUBLE_EQ(Data().ports[1].speed, 22.224);
+    EXPECT_EQ(Cell(Hamburg, BookSpeed), "22.22");
+}
+
+TEST_F(BookEditsTest, AnEmptyPositionIsZero) {
+    OpenExpanded();
+    for (const char* nothing : {"", "-"}) {
+        Type(2, BookLatitude, nothing);
+        EXPECT_EQ(Cell(2, BookLatitude), "0.0000");
+        EXPECT_TRUE(Changed());
+        book.Commands().OnUndo();
+        EXPECT_EQ(Cell(2, BookLatitude), "1.0000");
+    }
+}
+
 }  // namespace
 
 }  // namespace Tarvik::Seaplan

@@ -25,6 +25,13 @@ class BookOverTableTest : public BookFixture {
         ASSERT_TRUE(bookView.visible);
         Type(Hamburg, BookSpeed, "12");
     }
+    void SetState(DeletionState state) {
+        for (auto& [ci, voyages] : store.categoryVoyages) {
+            if (const auto found = voyages.find(kept); found != voyages.end()) {
+                found->second = state;
+            }
+        }
+    }
     float StoredSpeed(std::size_t point) const {
         return store.voyages.at(kept).positionBook.points[point].psp;
     }
@@ -106,6 +113,24 @@ TEST_F(BookOverTableTest, ACorrectedVoyagesBookIsSavedAndItsTableStaysCorrected)
     EXPECT_EQ(PortCallFixture::Cell(6, ColOrder), "RES") << "history and plan as before";
     EXPECT_THAT(store.voyages[kept].positionBook.points.back().psp, testing::FloatNear(12, 0.001F));
     EXPECT_EQ(Cell(last, BookSpeed), "12.00");
+}
+
+TEST_F(BookOverTableTest, ABookWhoseVoyageWasThrownAwayIsSavedOrStaysMarked) {
+    OpenBook();
+    Type(Hamburg, BookSpeed, "12");
+    SetState(InRecycleBin);
+    desk.ForgetRecords();
+    book.Commands().OnSave();
+    EXPECT_FALSE(Changed()) << "a voyage in the bin can come back";
+    EXPECT_EQ(desk.Count(Ask::kSaveBook), 1);
+    EXPECT_EQ(desk.Drawn("TRV_MAP_ADD_LINE"), 0U) << "but is not shown";
+    Type(Hamburg, BookSpeed, "13");
+    SetState(Destroyed);
+    desk.Refuse(Ask::kSavePortCalls);
+    book.Commands().OnSave();
+    EXPECT_EQ(LastMessage(), "IDS_PORTCALL_SAVEEXCEPTION");
+    EXPECT_TRUE(Changed());
+    EXPECT_EQ(Cell(Hamburg, BookSpeed), "13.00");
 }
 
 }  // namespace Tarvik::Seaplan

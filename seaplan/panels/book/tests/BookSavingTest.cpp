@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/book/BookPanel.h"
@@ -235,6 +237,26 @@ TEST_F(BookSavingTest, CloseAsksAboutChanges) {
     EXPECT_EQ(desk.Count(Ask::kSaveBook), 1);
     EXPECT_EQ(bookView.toldClosed, 3);
     EXPECT_TRUE(view.Enabled());
+}
+
+TEST_F(BookSavingTest, ASaveDrawsTheVoyageAnewAndARefusedOneDoesNot) {
+    OpenBook();
+    MakeChange();
+    const auto lines = [this] {
+        const auto drawn = desk.host.ChartCallsOf("TRV_MAP_ADD_LINE");
+        return std::count_if(drawn.begin(), drawn.end(),
+                             [this](const auto& call) { return call.id.starts_with(kept + "_"); });
+    };
+    desk.Refuse(Ask::kSaveBook);
+    desk.ForgetRecords();
+    book.Commands().OnSave();
+    EXPECT_EQ(lines(), 0);
+    desk.Heal();
+    desk.ForgetRecords();
+    book.Commands().OnSave();
+    EXPECT_FALSE(Changed());
+    EXPECT_GT(desk.Drawn("TRV_MAP_DEL_OBJECTS") + desk.Drawn("TRV_MAP_DEL_OBJECT_BY_TYPE"), 0U);
+    EXPECT_EQ(lines(), 1);
 }
 
 }  // namespace

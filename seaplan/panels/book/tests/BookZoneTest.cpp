@@ -95,4 +95,14 @@ TEST_F(BookZoneTest, AnOpenCalendarClosesWithoutAChange) {
     EXPECT_FALSE(Changed());
 }
 
+TEST_F(BookZoneTest, AHiddenBookHearsOfTheZone) {
+    OpenBook();
+    book.Commands().OnClose();
+    SwitchZone("UTC");
+    panel.Commands().OnPositionBook();
+    ASSERT_TRUE(bookView.visible);
+    EXPECT_EQ(bookView.sheet.zone, "UTC");
+    EXPECT_EQ(Cell(Rotterdam, BookEta), "2024-03-05 00:00:00");
+}
+
 }  // namespace Tarvik::Seaplan
