@@ -21,8 +21,6 @@ std::string ComplaintOf(const Interface::PlanPort& port);
 /// What is wrong with the names under which a voyage is to be saved, as the tree keeps them; empty when
 /// nothing is.
 std::string ComplaintOfNames(const std::string& category, const std::string& voyage);
-/// Words for a number below 0 of VoyController::CalculatePortCalls.
-std::string WordsOfCalculation(int code);
 
 /// Rows, totals and summary of a schedule in standard units.
 void TellSchedule(const PortCallRows& rows, Interface::PlanResult& out);

@@ -4,7 +4,6 @@
 #include <tarvik/interface/PlanTerms.h>
 #include <tarvik/util/StringUtl.h>
 
-#include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/panels/tree/TreeRules.h"
 #include "seaplan/plugin/PlanAnswer.h"
 
@@ -46,22 +45,6 @@ std::string ComplaintOfNames(const std::string& category, const std::string& voy
                      "a category's name has at most %d characters and a voyage's at most %d, wide "
                      "ones counted twice",
                      kCategoryNameWidth, kVoyageNameWidth);
-}
-
-std::string WordsOfCalculation(int code) {
-    using Step = CalculationStep;
-    switch (code) {
-        case kCalculatePortCallsCodes.Of(Step::Route):
-            return "the server has no route for these ports";
-        case kCalculatePortCallsCodes.Of(Step::Times):
-            return "speed, weather and stays lead to times that do not exist";
-        case kCalculatePortCallsCodes.Of(Step::Book):
-            return "the table of ports and route points is missing or does not know the route's points";
-        case kCalculatePortCallsCodes.Of(Step::Distances):
-            return "the route has a leg without length";
-        default:
-            return "the route could not be put on the chart";
-    }
 }
 
 }  // namespace Tarvik::Seaplan

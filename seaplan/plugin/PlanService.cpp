@@ -10,6 +10,7 @@
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/PendingRoute.h"
+#include "seaplan/controllers/ScheduleCalculation.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
@@ -19,6 +20,27 @@
 #include "seaplan/plugin/PlanAnswer.h"
 
 namespace Tarvik::Seaplan {
+
+namespace {
+
+// What the steps of a calculation are called to a person; a number is one of kCalculatePortCallsCodes.
+std::string WordsOfCalculation(int code) {
+    using Step = CalculationStep;
+    switch (code) {
+        case kCalculatePortCallsCodes.Of(Step::Route):
+            return "the server has no route for these ports";
+        case kCalculatePortCallsCodes.Of(Step::Times):
+            return "speed, weather and stays lead to times that do not exist";
+        case kCalculatePortCallsCodes.Of(Step::Book):
+            return "the table of ports and route points is missing or does not know the route's points";
+        case kCalculatePortCallsCodes.Of(Step::Distances):
+            return "the route has a leg without length";
+        default:
+            return "the route could not be put on the chart";
+    }
+}
+
+}  // namespace
 
 const PlanResult& PlanService::Plan(const PlanRequest& request) {
     const bool loadedBefore = !store_->categories.empty();
