@@ -19,9 +19,12 @@
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/protocol/VoyCatalogModule.h"
 #include "seaplan/views/VoyageViews.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "testsupport/ManualTimer.h"
 #include "testsupport/RecordingHost.h"
 

@@ -2,6 +2,7 @@
 #include "seaplan/views/ViewsFactory.h"
 
 #include <QApplication>
+#include <QWidget>
 #include <memory>
 
 #include <tarvik/core/TrvKernel.h>

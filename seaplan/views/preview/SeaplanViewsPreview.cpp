@@ -14,13 +14,22 @@
 #include <tarvik/skin/Palette.h>
 
 #include "seaplan/panels/book/BookCommands.h"
+#include "seaplan/panels/book/CPosBookDlg.h"
+#include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/portcall/RowCommands.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/views/VoyageViews.h"
+#include "seaplan/views/book/BookWindow.h"
+#include "seaplan/views/bunker/BunkerWindow.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/preview/FileTexts.h"
 #include "seaplan/views/preview/SampleVoyages.h"
+#include "seaplan/views/remark/RemarkWindow.h"
 #include "testsupport/ManualClock.h"
 
 namespace {

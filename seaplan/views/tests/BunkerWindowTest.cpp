@@ -2,6 +2,11 @@
 #include <QAbstractButton>
 #include <QLabel>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+
+#include "seaplan/views/bunker/BunkerWindow.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingMsgSink.h"

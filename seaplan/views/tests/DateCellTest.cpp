@@ -6,7 +6,10 @@
 #include <tarvik/skin/SkinNames.h>
 
 #include "seaplan/panels/book/BookEditing.h"
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/views/book/BookWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

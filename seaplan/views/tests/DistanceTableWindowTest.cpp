@@ -3,8 +3,12 @@
 #include <QLabel>
 #include <QListWidget>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/VoyageContract.h>
 
+#include "seaplan/views/distances/KeepTableWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

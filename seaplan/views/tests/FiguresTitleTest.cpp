@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The consumption tells whose figures it shows.
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/tree/TreeKeys.h"
+#include "seaplan/views/bunker/BunkerWindow.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "testsupport/RecordingMsgSink.h"
 

@@ -7,6 +7,10 @@
 #include <set>
 #include <vector>
 
+#include "seaplan/views/bunker/BunkerWindow.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
+#include "seaplan/views/remark/RemarkWindow.h"
 #include "seaplan/views/tests/PositionBookFixture.h"
 
 namespace Tarvik::Seaplan {

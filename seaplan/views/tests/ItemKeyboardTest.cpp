@@ -2,6 +2,8 @@
 // The keyboard on the items of a row, and the states that a screen reader asks for.
 #include <QAccessible>
 
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "testsupport/RecordingMsgSink.h"
 

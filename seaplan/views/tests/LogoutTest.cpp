@@ -4,10 +4,18 @@
 #include <string>
 #include <vector>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/PortCallTable.h"
 #include "seaplan/panels/portcall/RowCommands.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/views/distances/KeepTableWindow.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/remark/RemarkWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "testsupport/RecordingHost.h"
 

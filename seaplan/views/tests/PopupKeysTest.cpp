@@ -3,7 +3,11 @@
 #include <QCheckBox>
 #include <QRadioButton>
 
+#include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/tree/TreeContext.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

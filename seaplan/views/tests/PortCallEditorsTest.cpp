@@ -12,7 +12,9 @@
 #include <tarvik/interface/SiblingRecords.h>
 #include <tarvik/skin/WindowMessages.h>
 
+#include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/tests/PortCallWindowFixture.h"
 
 namespace Tarvik::Seaplan {

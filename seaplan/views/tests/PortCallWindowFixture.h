@@ -4,6 +4,7 @@
 #include <QListWidget>
 
 #include "seaplan/views/portcall/PortCallLines.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

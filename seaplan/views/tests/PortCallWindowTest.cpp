@@ -4,10 +4,12 @@
 #include <QToolTip>
 #include <QWindow>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
 
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/tests/PortCallWindowFixture.h"
 #include "testsupport/RecordingHost.h"
 #include "testsupport/RecordingMsgSink.h"

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 /// What reaches the book's window from outside: zones, languages, passed time, presses on its buttons.
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/skin/WindowMessages.h>
 
+#include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/views/book/BookLines.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/PositionBookFixture.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingMsgSink.h"

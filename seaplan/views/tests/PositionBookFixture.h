@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QListWidget>
 
+#include "seaplan/views/book/BookWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -3,7 +3,12 @@
 #include <QSignalSpy>
 #include <QWindow>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+
+#include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/PositionBookFixture.h"
 #include "testsupport/RecordingMsgSink.h"
 

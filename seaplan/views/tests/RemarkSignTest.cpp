@@ -3,6 +3,9 @@
 #include <QAccessible>
 
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/remark/RemarkWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

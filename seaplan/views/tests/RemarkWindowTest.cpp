@@ -3,10 +3,17 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+#include <tarvik/skin/Palette.h>
+
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/tree/NoteCommands.h"
 #include "seaplan/protocol/RemarkMessages.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallLines.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
+#include "seaplan/views/remark/RemarkWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "testsupport/RecordingMsgSink.h"
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <tarvik/skin/Icons.h>
 
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

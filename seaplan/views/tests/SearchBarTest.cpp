@@ -2,6 +2,8 @@
 /// The search line of the voyage panel, driven as a person does it.
 #include <QRadioButton>
 
+#include "seaplan/panels/mainview/SeaplanViewDlg.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <QLabel>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/skin/Palette.h>
 
 #include "seaplan/panels/portcall/PortCallTable.h"
+#include "seaplan/views/bunker/BunkerWindow.h"
 #include "seaplan/views/tests/PortCallWindowFixture.h"
 
 /// What the window shows of figures that belong to other ports.

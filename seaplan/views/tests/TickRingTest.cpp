@@ -4,6 +4,9 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include <tarvik/skin/Palette.h>
+
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -3,6 +3,9 @@
 #include <QAccessible>
 #include <vector>
 
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "testsupport/RecordingMsgSink.h"
 

@@ -10,7 +10,9 @@
 #include <tarvik/core/TrvKernel.h>
 #include <tarvik/interface/SiblingRecords.h>
 
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/tree/VesselCommands.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "testsupport/RecordingMsgSink.h"
 

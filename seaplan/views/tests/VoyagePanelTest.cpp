@@ -4,9 +4,16 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
+#include <tarvik/skin/Palette.h>
+
 #include "seaplan/panels/texts/TreeTexts.h"
+#include "seaplan/panels/tree/SeaplanTreeCtrl.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/window/Boxes.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 #include "seaplan/views/window/ViewText.h"
 #include "testsupport/RecordingHost.h"

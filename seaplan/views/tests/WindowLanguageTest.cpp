@@ -6,9 +6,17 @@
 #include <memory>
 #include <set>
 
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/VoyageContract.h>
 
 #include "seaplan/panels/tests/KeyTexts.h"
+#include "seaplan/views/book/BookWindow.h"
+#include "seaplan/views/bunker/BunkerWindow.h"
+#include "seaplan/views/distances/KeepTableWindow.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
+#include "seaplan/views/remark/RemarkWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {

@@ -5,6 +5,12 @@
 
 #include <tarvik/skin/SkinNames.h>
 
+#include "seaplan/views/book/BookWindow.h"
+#include "seaplan/views/bunker/BunkerWindow.h"
+#include "seaplan/views/distances/KeepTableWindow.h"
+#include "seaplan/views/mainview/VoyagePanelWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
+#include "seaplan/views/remark/RemarkWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {
