@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "host/server/graph/report/DistanceTable.h"
+#include "host/server/graph/report/Places.h"
 #include "host/server/graph/report/RouteReport.h"
 #include "host/server/program/Program.h"
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cctype>
 
+#include "host/server/graph/SeaNetwork.h"
+
 namespace Tarvik::Server {
 
 namespace {

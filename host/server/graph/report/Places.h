@@ -6,9 +6,10 @@
 #include <vector>
 
 #include "host/server/graph/RouteTypes.h"
-#include "host/server/graph/SeaNetwork.h"
 
 namespace Tarvik::Server {
+
+class SeaNetwork;
 
 /// Finds ports and passages by the names that a person types.
 class Places {

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "host/server/graph/report/Places.h"
+
 namespace Tarvik::Server {
 
 namespace {

@@ -5,9 +5,10 @@
 #include <string>
 
 #include "host/server/graph/RouteTypes.h"
-#include "host/server/graph/report/Places.h"
 
 namespace Tarvik::Server {
+
+class Places;
 
 /// What an operator says of passages for every route: names or ids of route points, parted by commas.
 struct PassageLists {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/server/graph/adapter/GraphRouteSource.h"
+#include "host/server/graph/report/Places.h"
 #include "host/server/net/service/Resources.h"
 
 namespace fs = std::filesystem;

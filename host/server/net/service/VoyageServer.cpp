@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "host/server/net/service/Resources.h"
+
 namespace Tarvik::Server {
 
 namespace {

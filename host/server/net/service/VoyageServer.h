@@ -5,8 +5,9 @@
 #include <memory>
 #include <string>
 
+#include "host/server/accounts/AccountStorage.h"
+#include "host/server/api/RouteSource.h"
 #include "host/server/net/http/HttpServer.h"
-#include "host/server/net/service/Resources.h"
 #include "host/server/net/service/ServerFront.h"
 #include "host/server/net/settings/Settings.h"
 

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "host/server/graph/RouteEngine.h"
+#include "host/server/graph/report/Places.h"
 #include "host/server/graph/report/RouteReport.h"
 #include "host/server/graph/report/StandingLimits.h"
 #include "host/server/graph/tests/SmallSea.h"
