@@ -19,15 +19,16 @@ namespace {
 constexpr double kToMiddle = 0.5;
 constexpr int kBits = 16;
 constexpr std::int64_t kOne = 1 << kBits;  ///< a pixel
+constexpr int kToShade = 10;               ///< bits between the share of a pixel and its shade
 
-/// Each channel times share of 255.
+/// Each channel times share of 255, all four in one step, each with 16 bits of its own.
 std::uint32_t Scaled(std::uint32_t pixel, std::uint32_t share) {
-    constexpr std::uint32_t kEven = 0x00FF00FF, kRound = 0x00800080;
-    std::uint32_t even = (pixel & kEven) * share;
-    even = ((even + ((even >> 8) & kEven) + kRound) >> 8) & kEven;
-    std::uint32_t odd = ((pixel >> 8) & kEven) * share;
-    odd = (odd + ((odd >> 8) & kEven) + kRound) & ~kEven;
-    return even | odd;
+    constexpr std::uint64_t kLanes = 0x00FF00FF00FF00FF, kRound = 0x0080008000800080;
+    constexpr int kApart = 24, kByte = 8;
+    std::uint64_t lanes = (pixel | (std::uint64_t{pixel} << kApart)) & kLanes;
+    lanes *= share;
+    lanes = ((lanes + ((lanes >> kByte) & kLanes) + kRound) >> kByte) & kLanes;
+    return static_cast<std::uint32_t>(lanes | (lanes >> kApart));
 }
 
 /// As std::fill, four pixels in a step.
@@ -57,15 +58,29 @@ Plotter::Plotter(const PixelBoard& board, const PixelRect& clip)
       clip_{std::max(clip.left, 0), std::max(clip.top, 0), std::min(clip.right, board.width),
             std::min(clip.bottom, board.height)} {}
 
+void Plotter::Clear(std::uint32_t colour) {
+    for (int row = clip_.top; row < clip_.bottom && clip_.left < clip_.right; ++row) {
+        std::uint32_t* const pixels = board_.pixels + row * board_.stride;
+        FillRow(pixels + clip_.left, pixels + clip_.right, colour);
+    }
+}
+
 void Plotter::Fill(std::span<const PixelPoint> area, std::uint32_t colour) {
     if (area.size() < 3 || clip_.left >= clip_.right) {
         return;
     }
     crossings_.clear();
     PixelPoint before = area.back();
+    int rowBefore = MiddleFrom(before.y);
     for (const PixelPoint& point : area) {
-        FillSide(before, point);
+        const int row = MiddleFrom(point.y);
+        if (row > rowBefore) {
+            FillSide(before, point, rowBefore, row);
+        } else if (row < rowBefore) {
+            FillSide(point, before, row, rowBefore);
+        }
         before = point;
+        rowBefore = row;
     }
     std::sort(crossings_.begin(), crossings_.end());
     for (std::size_t i = 0; i + 1 < crossings_.size(); i += 2) {
@@ -75,12 +90,9 @@ void Plotter::Fill(std::span<const PixelPoint> area, std::uint32_t colour) {
     }
 }
 
-void Plotter::FillSide(PixelPoint from, PixelPoint to) {
-    if (from.y > to.y) {
-        std::swap(from, to);
-    }
-    const int first = std::max(MiddleFrom(from.y), clip_.top);
-    const int end = std::min(MiddleFrom(to.y), clip_.bottom);
+void Plotter::FillSide(PixelPoint from, PixelPoint to, int first, int end) {
+    first = std::max(first, clip_.top);
+    end = std::min(end, clip_.bottom);
     if (first >= end) {
         return;
     }
@@ -88,7 +100,7 @@ void Plotter::FillSide(PixelPoint from, PixelPoint to) {
     for (int row = first; row < end; ++row) {
         const double x = from.x + (row + kToMiddle - from.y) * slope;
         const int column = MiddleFrom(std::clamp<double>(x, clip_.left, clip_.right));
-        crossings_.push_back((std::uint64_t(row) << 32) + std::uint32_t(std::min(column, clip_.right)));
+        crossings_.push_back((std::uint64_t(row) << 32) + std::uint32_t(column));
     }
 }
 
@@ -125,48 +137,71 @@ void Plotter::Segment(PixelPoint from, PixelPoint to, const PlotPen& pen, double
     const int begin = MiddleFrom(std::min(from.x, to.x));
     const int first = std::max(begin, steep ? clip_.top : clip_.left);
     const int end = std::min(MiddleFrom(std::max(from.x, to.x)), steep ? clip_.bottom : clip_.right);
+    if (first >= end) {
+        return;
+    }
     const auto half = static_cast<std::int64_t>(pen.width * stretch * kToMiddle * kOne);
     const auto step = static_cast<std::int64_t>(std::floor(slope * kOne));
     // Counted from where the segment begins, so that a part of a picture is as the whole one.
     const double origin = std::floor((from.y + (begin + kToMiddle - from.x) * slope) * kOne);
     std::int64_t middle = static_cast<std::int64_t>(origin) + step * (first - begin);
+    if (pen.gap <= 0) {
+        Columns({first, end, middle - half, 2 * half, step, steep});
+        return;
+    }
     for (int at = first; at < end; ++at, middle += step) {
-        if (pen.gap > 0) {
-            const double passed = start + std::fabs(at + kToMiddle - from.x) * stretch;
-            if (std::fmod(passed, pen.dash + pen.gap) >= pen.dash) {
-                continue;
-            }
+        const double passed = start + std::fabs(at + kToMiddle - from.x) * stretch;
+        if (std::fmod(passed, pen.dash + pen.gap) < pen.dash) {
+            Columns({at, at + 1, middle - half, 2 * half, step, steep});
         }
-        Column(at, middle - half, middle + half, steep);
     }
 }
 
-void Plotter::Column(std::ptrdiff_t along, std::int64_t low, std::int64_t high, bool steep) {
-    const std::ptrdiff_t across = steep ? 1 : board_.stride;
-    const std::int64_t begin = steep ? clip_.left : clip_.top;
-    const std::int64_t end = steep ? clip_.right : clip_.bottom;
-    const std::int64_t first = low >> kBits;
-    const std::int64_t last = high >> kBits;
-    // A row beside the board has no place in its pixels: each is looked up where it is known to lie on it.
-    std::uint32_t* const column = board_.pixels + along * (steep ? board_.stride : 1);
-    if (first >= begin && first + 2 < end && last <= first + 2) {
-        // Nearly always: three pixels, the last of them perhaps without a share, and no question in between.
-        for (std::int64_t at = first; at < first + 3; ++at) {
-            Blend(column[at * across],
-                  std::max<std::int64_t>(std::min(high, (at + 1) * kOne) - std::max(low, at * kOne), 0));
-        }
+void Plotter::Columns(const Stretch& part) {
+    const std::ptrdiff_t across = part.steep ? 1 : board_.stride;
+    const std::ptrdiff_t along = part.steep ? board_.stride : 1;
+    const std::int64_t begin = part.steep ? clip_.left : clip_.top;
+    const std::int64_t end = part.steep ? clip_.right : clip_.bottom;
+    const std::int64_t lastLow = part.low + part.step * (part.end - part.first - 1);
+    const std::int64_t least = std::min(part.low, lastLow) >> kBits;
+    const std::int64_t most = (std::max(part.low, lastLow) + part.width) >> kBits;
+    if (most < begin || least >= end) {
         return;
     }
-    for (std::int64_t at = first; at <= last; ++at) {
-        if (at >= begin && at < end) {
-            Blend(column[at * across], std::min(high, (at + 1) * kOne) - std::max(low, at * kOne));
+    std::uint32_t* column = board_.pixels + part.first * along;
+    std::int64_t low = part.low;
+    const bool inside = least >= begin && most < end;  // nearly always
+    for (int at = part.first; at < part.end; ++at, column += along, low += part.step) {
+        if (inside) {
+            Across(column + (low >> kBits) * across, across, low & (kOne - 1), part.width);
+        } else {
+            Column(column, across, {low, low + part.width}, {begin, end});
         }
+    }
+}
+
+void Plotter::Across(std::uint32_t* pixel, std::ptrdiff_t across, std::int64_t free,
+                     std::int64_t width) const {
+    std::int64_t part = std::min(kOne - free, width);
+    Blend(*pixel, part);
+    while ((width -= part) > 0) {
+        pixel += across;
+        part = std::min(width, kOne);
+        Blend(*pixel, part);
+    }
+}
+
+void Plotter::Column(std::uint32_t* column, std::ptrdiff_t across, Stripe line, Stripe board) const {
+    // A row beside the board has no place in its pixels: each is looked up where it is known to lie on it.
+    const std::int64_t last = std::min(line.end >> kBits, board.end - 1);
+    for (std::int64_t at = std::max(line.begin >> kBits, board.begin); at <= last; ++at) {
+        Blend(column[at * across], std::min(line.end, (at + 1) * kOne) - std::max(line.begin, at * kOne));
     }
 }
 
 void Plotter::Blend(std::uint32_t& pixel, std::int64_t covered) const {
-    const std::uint32_t part = shades_[static_cast<std::size_t>(covered * std::int64_t{kShades} >> kBits)];
-    pixel = part + Scaled(pixel, 255 - (part >> 24));
+    const std::uint32_t part = shades_[static_cast<std::size_t>(covered >> kToShade)];
+    pixel = pixel == 0 ? part : part + Scaled(pixel, 255 - (part >> 24));
 }
 
 }  // namespace Tarvik::Seamap

@@ -42,6 +42,8 @@ class Plotter {
     /// Draws on the part `clip` of a board, whose pixels outlive this.
     Plotter(const PixelBoard& board, const PixelRect& clip);
 
+    /// Paints the whole part with a colour.
+    void Clear(std::uint32_t colour);
     /// Paints the pixels whose middles lie inside, by the odd number of sides beside them, with a colour
     /// without alpha.
     void Fill(std::span<const PixelPoint> area, std::uint32_t colour);
@@ -50,11 +52,24 @@ class Plotter {
     void Stroke(std::span<const PixelPoint> line, const PlotPen& pen, double start = 0);
 
   private:
-    void FillSide(PixelPoint from, PixelPoint to);
+    /// From and to with their rows, the upper one first.
+    void FillSide(PixelPoint from, PixelPoint to, int first, int end);
     void Segment(PixelPoint from, PixelPoint to, const PlotPen& pen, double start);
-    /// What the line covers of the pixels across its longer direction: from `low` to `high` in 1/65536
-    /// pixels.
-    void Column(std::ptrdiff_t along, std::int64_t low, std::int64_t high, bool steep);
+    /// From `begin` to `end`: of a line in 1/65536 pixels, of the board in pixels.
+    struct Stripe {
+        std::int64_t begin, end;
+    };
+    /// Columns `first` to `end` of a segment's longer direction: in the first of them the line covers `width`
+    /// from `low` on, in each next one `step` further; in 1/65536 pixels.
+    struct Stretch {
+        int first, end;
+        std::int64_t low, width, step;
+        bool steep;
+    };
+    void Columns(const Stretch& part);
+    /// The pixels across a line that begins `free` behind the first one's edge.
+    void Across(std::uint32_t* pixel, std::ptrdiff_t across, std::int64_t free, std::int64_t width) const;
+    void Column(std::uint32_t* column, std::ptrdiff_t across, Stripe line, Stripe board) const;
     /// Paints a pixel of which the line covers so much of 65536.
     void Blend(std::uint32_t& pixel, std::int64_t covered) const;
     void Mix(std::uint32_t colour);
