@@ -2,43 +2,35 @@
 #include "host/plugins/seamap/widget/BaseLayer.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "host/plugins/seamap/core/Graticule.h"
-#include "host/plugins/seamap/core/PolylineClip.h"
+#include "host/plugins/seamap/widget/Beside.h"
 #include "host/plugins/seamap/widget/CanvasPixels.h"
+#include "host/plugins/seamap/widget/LandPainter.h"
 
 namespace Tarvik::Seamap {
 
 namespace {
 
-/// Shapes that reach further out of the window than this are cut before they are drawn.
-constexpr double kFarOutside = 4000;
-constexpr double kCutMargin = 16;
 /// The net lies lightly over land and sea.
 constexpr int kGraticuleAlpha = 150;
-/// Pixels between points that are told apart.
-constexpr double kCoastDetail = 1;
-constexpr double kFillDetail = 0;  ///< leaving points out would tear open the seams between cells
+/// Rows of the window that are worth a thread of their own.
+constexpr int kBandRows = 90;
 
-bool IsSeen(const CoastData::Shape& shape, const MercatorView& view, int turn, const QRect& clip) {
-    const PixelPoint upper = view.ToScreen(WorldPoint{shape.minX, shape.minY}, turn);
-    const PixelPoint lower = view.ToScreen(WorldPoint{shape.maxX, shape.maxY}, turn);
-    return lower.x >= clip.left() - 2 && upper.x <= clip.right() + 3 && lower.y >= clip.top() - 2 &&
-           upper.y <= clip.bottom() + 3;
-}
-
-PixelRect PixelsOf(const QRect& rectangle, double scale) {
-    return {int(std::floor(rectangle.left() * scale)), int(std::floor(rectangle.top() * scale)),
-            int(std::ceil((rectangle.left() + rectangle.width()) * scale)),
-            int(std::ceil((rectangle.top() + rectangle.height()) * scale))};
-}
-
-bool ReachesFar(const CoastData::Shape& shape, const MercatorView& view, int turn) {
-    const PixelPoint upper = view.ToScreen(WorldPoint{shape.minX, shape.minY}, turn);
-    const PixelPoint lower = view.ToScreen(WorldPoint{shape.maxX, shape.maxY}, turn);
-    return upper.x < -kFarOutside || upper.y < -kFarOutside || lower.x > view.Width() + kFarOutside ||
-           lower.y > view.Height() + kFarOutside;
+/// Pieces of a region that can be drawn beside one another.
+std::vector<QRect> BandsOf(const QRegion& region) {
+    std::vector<QRect> bands;
+    for (const QRect& part : region) {
+        const int count = std::max(1, part.height() / kBandRows);
+        for (int i = 0; i < count; ++i) {
+            const int top = part.height() * i / count, bottom = part.height() * (i + 1) / count;
+            bands.emplace_back(part.left(), part.top() + top, part.width(), bottom - top);
+        }
+    }
+    return bands;
 }
 
 }  // namespace
@@ -104,95 +96,18 @@ bool BaseLayer::Shift(const MercatorView& view, QRegion& missing) {
 }
 
 void BaseLayer::Draw(QImage& canvas, const QRegion& region) {
-    scale_ = canvas.devicePixelRatio();
+    const double scale = canvas.devicePixelRatio();
     const PixelBoard board = BoardOf(canvas);
-    QPainter painter(&canvas);
-    for (const QRect& rectangle : region) {
-        clip_ = rectangle;
-        painter.setClipRect(rectangle);
-        painter.fillRect(rectangle, QColor(palette_->sea));
-        Plotter plotter(board, PixelsOf(rectangle, scale_));
-        DrawLand(plotter);
-        if (graticule_) {
-            DrawGraticule(painter, rectangle);
-        }
-    }
-}
-
-void BaseLayer::DrawLand(Plotter& plotter) {
-    if (land_.IsEmpty()) {
-        return;
-    }
-    const CoastData::Level& level = land_.For(view_.WorldSize());
-    DrawCells(plotter, level);
-    DrawCoasts(plotter, level);
-}
-
-void BaseLayer::DrawCells(Plotter& plotter, const CoastData::Level& level) {
-    for (const CoastData::Shape& shape : level.cells) {
-        const auto turns = view_.TurnsOf(shape.minX, shape.maxX);
-        for (int turn = turns.first; turn <= turns.last; ++turn) {
-            if (!IsSeen(shape, view_, turn, clip_)) {
-                continue;
-            }
-            Trace(level.PointsOf(shape), turn, kFillDetail);
-            if (ReachesFar(shape, view_, turn)) {
-                trace_ = ClipPolygon(std::move(trace_), view_.Width(), view_.Height(), kCutMargin);
-            }
-            Enlarge();
-            plotter.Fill(trace_, OpaquePixel(palette_->land));
-        }
-    }
-}
-
-void BaseLayer::DrawCoasts(Plotter& plotter, const CoastData::Level& level) {
-    for (const CoastData::Shape& shape : level.coasts) {
-        const auto turns = view_.TurnsOf(shape.minX, shape.maxX);
-        for (int turn = turns.first; turn <= turns.last; ++turn) {
-            if (!IsSeen(shape, view_, turn, clip_)) {
-                continue;
-            }
-            if (ReachesFar(shape, view_, turn)) {
-                DrawLongCoast(plotter, level.PointsOf(shape), turn);
-                continue;
-            }
-            Trace(level.PointsOf(shape), turn, kCoastDetail);
-            Enlarge();
-            plotter.Stroke(trace_, {OpaquePixel(palette_->coast)});
-        }
-    }
-}
-
-void BaseLayer::DrawLongCoast(Plotter& plotter, std::span<const WorldPoint> points, int turn) {
-    for (PolylineRun& run : ClipPolyline(points, view_, turn, kCutMargin, kCoastDetail)) {
-        trace_ = std::move(run.points);
-        Enlarge();
-        plotter.Stroke(trace_, {OpaquePixel(palette_->coast)});
-    }
-}
-
-void BaseLayer::Trace(std::span<const WorldPoint> points, int turn, double detail) {
-    trace_.clear();
-    const auto size = static_cast<double>(view_.WorldSize());
-    const double left = static_cast<double>(view_.Left()) - turn * size;
-    const auto top = static_cast<double>(view_.Top());
-    const double least = detail * detail;
-    PixelPoint last;
-    for (const WorldPoint& point : points) {
-        const PixelPoint here{point.x * size - left, point.y * size - top};
-        const double x = here.x - last.x, y = here.y - last.y;
-        if (!trace_.empty() && x * x + y * y < least && &point != &points.back()) {
-            continue;
-        }
-        trace_.push_back(here);
-        last = here;
-    }
-}
-
-void BaseLayer::Enlarge() {
-    if (scale_ != 1) {
-        for (PixelPoint& point : trace_) {
-            point = {point.x * scale_, point.y * scale_};
+    const CoastData::Level* land = land_.IsEmpty() ? nullptr : &land_.For(view_.WorldSize());
+    const std::vector<QRect> bands = BandsOf(region);
+    Beside::Each(bands.size(), [&](std::size_t band) {
+        LandPainter(land, view_, *palette_, board, scale).Draw(bands[band]);
+    });
+    if (graticule_) {
+        QPainter painter(&canvas);
+        for (const QRect& part : region) {
+            painter.setClipRect(part);
+            DrawGraticule(painter, part);
         }
     }
 }

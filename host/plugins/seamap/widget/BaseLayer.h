@@ -4,13 +4,10 @@
 #include <QImage>
 #include <QPixmap>
 #include <QRegion>
-#include <span>
-#include <vector>
 
 #include "host/plugins/seamap/core/ChartPalette.h"
 #include "host/plugins/seamap/core/CoastData.h"
 #include "host/plugins/seamap/core/MercatorView.h"
-#include "host/plugins/seamap/core/Plotter.h"
 
 class QPainter;
 
@@ -28,15 +25,6 @@ class BaseLayer {
   private:
     bool Shift(const MercatorView& view, QRegion& missing);
     void Draw(QImage& canvas, const QRegion& region);
-    void DrawLand(Plotter& plotter);
-    void DrawCells(Plotter& plotter, const CoastData::Level& level);
-    void DrawCoasts(Plotter& plotter, const CoastData::Level& level);
-    /// A shore that reaches so far out of the window that it is cut first.
-    void DrawLongCoast(Plotter& plotter, std::span<const WorldPoint> points, int turn);
-    /// Brings points into the window's pixels, without those too near to their predecessor.
-    void Trace(std::span<const WorldPoint> points, int turn, double detail);
-    /// Brings the traced points from the window's pixels to those of the picture.
-    void Enlarge();
     void DrawGraticule(QPainter& painter, const QRect& bounds) const;
 
     CoastData land_;
@@ -44,9 +32,6 @@ class BaseLayer {
     MercatorView view_;
     const ChartPalette* palette_ = nullptr;
     QPixmap picture_;
-    QRect clip_;                     ///< the strip being drawn
-    double scale_ = 1;               ///< the picture's pixels for one of the window
-    std::vector<PixelPoint> trace_;  ///< the shape being drawn
 };
 
 }  // namespace Tarvik::Seamap

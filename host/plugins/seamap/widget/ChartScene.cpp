@@ -7,6 +7,7 @@
 #include "host/plugins/seamap/core/Daylight.h"
 #include "host/plugins/seamap/core/HitTest.h"
 #include "host/plugins/seamap/core/Measure.h"
+#include "host/plugins/seamap/widget/Beside.h"
 #include "host/plugins/seamap/widget/ChartCamera.h"
 #include "host/plugins/seamap/widget/Furniture.h"
 #include "host/plugins/seamap/widget/PlanPainter.h"
@@ -36,7 +37,7 @@ void ChartScene::SetTheme(ChartPalette::Theme theme) {
 
 void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelRatio,
                        const ObjectKey* highlighted) {
-    painter.drawPixmap(0, 0, base_.Picture(view, *palette_, pixelRatio));
+    PaintBase(painter, view, pixelRatio);
     PaintNight(painter, view);
     const Furniture furniture(view, *palette_, texts_, parts_.graticule);
     LabelRoom room;
@@ -55,6 +56,15 @@ void ChartScene::Paint(QPainter& painter, const MercatorView& view, qreal pixelR
         names_.Hide();
     }
     furniture.Draw(painter);
+}
+
+/// Land and sea; the lines, which take as long, are drawn into their own picture meanwhile.
+void ChartScene::PaintBase(QPainter& painter, const MercatorView& view, qreal pixelRatio) {
+    std::optional<Beside> lines;
+    if (!lines_.IsGood(view, *palette_, objects_, pixelRatio)) {
+        lines.emplace([&] { lines_.Prepare(view, *palette_, objects_, pixelRatio); });
+    }
+    painter.drawPixmap(0, 0, base_.Picture(view, *palette_, pixelRatio));
 }
 
 /// The ports of the voyage that stands out, or of the only one, and the ships while a time is chosen.

@@ -54,6 +54,7 @@ class ChartScene {
     Extent ExtentOfAll() const;
 
   private:
+    void PaintBase(QPainter& painter, const MercatorView& view, qreal pixelRatio);
     void PaintNight(QPainter& painter, const MercatorView& view) const;
     void PaintPlans(QPainter& painter, const MercatorView& view, const ChartLook& look, LabelRoom& room);
     QString TipOf(const ChartObject& object, PixelPoint pixel, const MercatorView& view) const;

@@ -40,18 +40,23 @@ std::vector<LineStroke> LineLayer::StrokesOf(const ChartObjects& objects) const 
     return strokes;
 }
 
+void LineLayer::Prepare(const MercatorView& view, const ChartPalette& palette, const ChartObjects& objects,
+                        qreal pixelRatio) {
+    if (IsGood(view, palette, objects, pixelRatio)) {
+        return;
+    }
+    view_ = view;
+    palette_ = &palette;
+    revision_ = objects.Revision();
+    plans_ = objects.Plans().Revision();
+    pixelRatio_ = pixelRatio;
+    madeWithTints_ = tints_;
+    Make(objects, pixelRatio);
+}
+
 void LineLayer::Draw(QPainter& painter, const MercatorView& view, const ChartPalette& palette,
                      const ChartObjects& objects, const ObjectKey* highlighted) {
-    const qreal pixelRatio = painter.device()->devicePixelRatioF();
-    if (!IsGood(view, palette, objects, pixelRatio)) {
-        view_ = view;
-        palette_ = &palette;
-        revision_ = objects.Revision();
-        plans_ = objects.Plans().Revision();
-        pixelRatio_ = pixelRatio;
-        madeWithTints_ = tints_;
-        Make(objects, pixelRatio);
-    }
+    Prepare(view, palette, objects, painter.device()->devicePixelRatioF());
     if (!picture_.isNull()) {
         painter.drawImage(0, 0, picture_);
     }

@@ -22,6 +22,13 @@ class LineLayer {
     /// From so many lines on they are thin and bare, but for the voyage that stands out.
     static constexpr std::size_t kMany = 50;
 
+    /// Makes the picture of the lines where it is not good any more. Uses nothing of the window system, so
+    /// that it may run on another thread while neither lines nor this are used otherwise.
+    void Prepare(const MercatorView& view, const ChartPalette& palette, const ChartObjects& objects,
+                 qreal pixelRatio);
+    /// Whether the picture is as Prepare would make it.
+    bool IsGood(const MercatorView& view, const ChartPalette& palette, const ChartObjects& objects,
+                qreal pixelRatio) const;
     /// Draws all lines, that of the key `highlighted` above the others; null without one.
     void Draw(QPainter& painter, const MercatorView& view, const ChartPalette& palette,
               const ChartObjects& objects, const ObjectKey* highlighted);
@@ -31,8 +38,6 @@ class LineLayer {
     int Made() const { return made_; }
 
   private:
-    bool IsGood(const MercatorView& view, const ChartPalette& palette, const ChartObjects& objects,
-                qreal pixelRatio) const;
     void Make(const ChartObjects& objects, qreal pixelRatio);
     LineStroke StrokeOf(const ChartObjects& objects, const ChartObject& object, const ChartLine& line) const;
     std::vector<LineStroke> StrokesOf(const ChartObjects& objects) const;

@@ -5,6 +5,8 @@
 
 #include "host/plugins/seamap/core/Graticule.h"
 #include "host/plugins/seamap/widget/BaseLayer.h"
+#include "host/plugins/seamap/widget/CanvasPixels.h"
+#include "host/plugins/seamap/widget/LandPainter.h"
 
 namespace Tarvik::Seamap {
 
@@ -49,6 +51,20 @@ QImage Fresh(const MercatorView& view, const ChartPalette& palette = Light()) {
 QColor At(const QImage& picture, const MercatorView& view, GeoPoint place) {
     const PixelPoint pixel = view.ToScreen(place);
     return picture.pixelColor(static_cast<int>(pixel.x), static_cast<int>(pixel.y));
+}
+
+TEST(BaseLayer, ThePiecesDrawnBesideOneAnotherAreOnePicture) {
+    const MercatorView view = ViewOf({30, 10}, 3000);
+    BaseLayer layer;
+    layer.SetLand(Land());
+    layer.ShowGraticule(false);
+    const QImage pieces = layer.Picture(view, Light(), 1).toImage().convertToFormat(QImage::Format_RGB32);
+    QImage whole(pieces.size(), QImage::Format_RGB32);
+    const CoastData land = Land();
+    LandPainter(&land.For(view.WorldSize()), view, Light(), BoardOf(whole), 1).Draw(whole.rect());
+    EXPECT_EQ(pieces, whole);
+    LandPainter(nullptr, view, Light(), BoardOf(whole), 1).Draw(whole.rect());
+    EXPECT_EQ(At(whole, view, {30, 15}), QColor(Light().sea)) << "without land";
 }
 
 TEST(BaseLayer, LandAndSeaHaveTheirColours) {

@@ -2,9 +2,14 @@
 /// The lines of the chart: few with rims, many thin, and the picture that is kept of them.
 #include <QImage>
 #include <QPainter>
+#include <QSemaphore>
+#include <QThread>
+#include <QThreadPool>
+#include <vector>
 
 #include <gtest/gtest.h>
 
+#include "host/plugins/seamap/widget/Beside.h"
 #include "host/plugins/seamap/widget/LineLayer.h"
 
 namespace Tarvik::Seamap {
@@ -94,6 +99,44 @@ TEST_F(LineLayerTest, ManyLinesAreThinButForTheOneThatStandsOut) {
     EXPECT_GT(Redness(chosen, -20 + 7 * 0.8), 230);
     EXPECT_LT(Redness(chosen, -20 + 8 * 0.8), 120);
     EXPECT_GT(Redness(chosen, -20 + 8 * 0.8), 40);
+}
+
+TEST_F(LineLayerTest, MadeOnAnotherThreadThePictureIsTheSame) {
+    for (int i = 0; i < 2 * int{LineLayer::kMany}; ++i) {
+        AddLine(std::to_string(i), -20 + i * 0.4);
+    }
+    const auto& palette = ChartPalette::Of(ChartPalette::Theme::Light);
+    {
+        const Beside lines([&] { layer_.Prepare(view_, palette, objects_, 1); });
+    }
+    EXPECT_TRUE(layer_.IsGood(view_, palette, objects_, 1)) << "its end was waited for";
+    const QImage picture = Draw();
+    EXPECT_EQ(layer_.Made(), 1);
+    layer_ = LineLayer();
+    EXPECT_EQ(Draw(), picture);
+}
+
+TEST_F(LineLayerTest, EachOfManyTasksIsDoneOnce) {
+    std::vector<int> done(1000, 0);
+    Beside::Each(done.size(), [&done](std::size_t i) { ++done[i]; });
+    EXPECT_EQ(done, std::vector<int>(1000, 1));
+    Beside::Each(0, [&done](std::size_t) { done.clear(); });
+    EXPECT_EQ(done.size(), 1000U);
+}
+
+TEST_F(LineLayerTest, WithoutAFreeThreadATaskRunsAtOnce) {
+    QThreadPool& pool = *QThreadPool::globalInstance();
+    const int threads = pool.maxThreadCount();
+    pool.setMaxThreadCount(1);
+    QSemaphore leave;
+    QThread* where = nullptr;
+    {
+        const Beside busy([&leave] { leave.acquire(); });
+        const Beside task([&where] { where = QThread::currentThread(); });
+        EXPECT_EQ(where, QThread::currentThread());
+        leave.release();
+    }
+    pool.setMaxThreadCount(threads);
 }
 
 TEST_F(LineLayerTest, FollowsThePixelsOfTheScreen) {
