@@ -15,7 +15,7 @@ namespace {
 void AddLabel(Interface::TrvMapPointParams& label, const RoutePointRow& point) {
     label.ref.id = point.id;
     label.position = point.position;
-    label.label = point.name;
+    label.label = ShownName(point);
     Interface::Call(Interface::Bus::MapAddPointLabel, &std::as_const(label));
 }
 

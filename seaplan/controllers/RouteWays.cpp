@@ -60,8 +60,11 @@ bool AskOtherWays(const RouteStops& stops, std::vector<RouteWay>& ways) {
 std::string RoutePointName(PortDirectory& ports, const std::string& id) {
     const PointMap* points = ports.RoutePoints();
     const auto point = points == nullptr ? PointMap::const_iterator() : points->find(id);
-    return points == nullptr || point == points->end() || point->second.name.empty() ? id
-                                                                                     : point->second.name;
+    if (points == nullptr || point == points->end()) {
+        return id;
+    }
+    const std::string name = ShownName(point->second);
+    return name.empty() ? id : name;
 }
 
 std::vector<std::string> ChosenPoints(const RouteStops& stops) {

@@ -26,7 +26,7 @@ inline constexpr std::size_t kMostWays = 24;
 /// what came before.
 bool AskOtherWays(const RouteStops& stops, std::vector<RouteWay>& ways);
 
-/// Name of a route point, its id where it has none or is unknown.
+/// Name of a route point in the language in force, its id where it has none or is unknown.
 std::string RoutePointName(PortDirectory& ports, const std::string& id);
 
 /// Ids of the route points that were chosen along a route, in its order.

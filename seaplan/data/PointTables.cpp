@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/data/PointTables.h"
 
+#include <tarvik/interface/LoadString.h>
 #include <tarvik/util/FileUtl.h>
 #include <tarvik/util/StringUtl.h>
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr std::size_t kShortId = 4;
 constexpr int kFirstPortDigit = 4;
+constexpr const char16_t* kPointNames = u"RoutePoints";  ///< section of the language files
 
 std::string LinkKey(const std::string& from, const std::string& to) {
     return from + "-" + to;
@@ -25,6 +27,16 @@ std::string PositionText(const Util::CppSQLite3Query& row, int column) {
 
 bool AreLinked(const SamePortLinks& links, const std::string& idA, const std::string& idB) {
     return links.contains(LinkKey(idA, idB));
+}
+
+std::string ShownName(const RoutePointRow& point) {
+    const Interface::LanguageSource* texts = Interface::LanguageSource::Current();
+    if (texts == nullptr) {
+        return point.name;
+    }
+    const std::u16string section(kPointNames);
+    const auto text = texts->Find(section, section, Util::StringUtl::TranslateString(point.id));
+    return text && !text->empty() ? Util::StringUtl::TranslateString(*text) : point.name;
 }
 
 std::string PointDatabasePath() {

@@ -23,6 +23,10 @@ using SamePortLinks = std::map<std::string, std::string>;
 /// Whether two ports are one place.
 bool AreLinked(const SamePortLinks& links, const std::string& idA, const std::string& idB);
 
+/// Name of a point in the language in force (section "RoutePoints" of the language files, by id), the table's
+/// where that has none.
+std::string ShownName(const RoutePointRow& point);
+
 /// Path of the database below the host's data folder.
 std::string PointDatabasePath();
 /// Ports by id; 0 without reading when the map is filled already.

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <fstream>
+#include <sstream>
+
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
@@ -117,6 +120,31 @@ TEST(ClientTexts, AreCompleteInEveryLanguage) {
             EXPECT_FALSE(text.get<std::string>().empty()) << key;
         }
     }
+}
+
+/// Names of the route points in a language, by id.
+nlohmann::json PointNames(const std::string& language) {
+    std::ifstream in(std::string(CLIENT_LANGUAGES) + "/client." + language + ".json");
+    return nlohmann::json::parse(in).at("RoutePoints");
+}
+
+TEST(RoutePointNames, AreThoseOfTheTableOfPointsInEveryLanguage) {
+    std::ifstream table(ROUTE_POINTS);
+    std::string line;
+    std::getline(table, line);
+    ASSERT_TRUE(line.starts_with("id,name,namecn,")) << line;
+    std::size_t count = 0;
+    for (; std::getline(table, line); ++count) {
+        std::istringstream cells(line);
+        std::string id, name, chinese;
+        std::getline(std::getline(std::getline(cells, id, ','), name, ','), chinese, ',');
+        EXPECT_EQ(PointNames("en-US").value(id, ""), name);
+        EXPECT_EQ(PointNames("zh-CN").value(id, ""), chinese) << name;
+        EXPECT_NE(PointNames("zh-TW").value(id, name), name);
+    }
+    EXPECT_GT(count, 100U);
+    EXPECT_EQ(PointNames("en-US").size(), count);
+    EXPECT_EQ(PointNames("zh-TW").value("179", ""), "臺灣海峽");
 }
 
 /// All keys of a component's file, as "section key", in order; none where there is no file.

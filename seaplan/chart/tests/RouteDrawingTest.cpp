@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tarvik/interface/LoadString.h>
 #include <tarvik/util/FileUtl.h>
 
 #include "seaplan/chart/VoyageLayer.h"
@@ -142,6 +143,32 @@ TEST_F(RouteDrawing, BookNeedsTwoRowsAndAVoyage) {
     EXPECT_THAT(chart.calls, IsEmpty());
     EXPECT_EQ(layer.DrawBook("", {"1,0", "2,0"}), -4);
     EXPECT_EQ(chart.calls.size(), 4) << "layer and cleaning come before the id is looked at";
+}
+
+/// A language that has one point's name.
+class CapeInChinese final : public Interface::LanguageSource {
+  public:
+    CapeInChinese() { Set(this); }
+    ~CapeInChinese() override { Set(nullptr); }
+    CapeInChinese(const CapeInChinese&) = delete;
+    CapeInChinese& operator=(const CapeInChinese&) = delete;
+    std::optional<std::u16string> Find(const std::u16string& section, const std::u16string&,
+                                       const std::u16string& key) const override {
+        return section == u"RoutePoints" && key == u"118" ? std::optional<std::u16string>(u"海角")
+                                                          : std::nullopt;
+    }
+};
+
+TEST_F(RouteDrawing, PointsAreNamedInTheLanguageInForceOrElseAsTheTableHasThem) {
+    layer.AddAlternativeLabel({"118", "Cape", "5,5"});
+    const CapeInChinese texts;
+    layer.AddAlternativeLabel({"118", "Cape", "5,5"});
+    layer.AddAlternativeLabel({"119", "Strait", "6,5"});
+    ASSERT_EQ(chart.labels.size(), 3);
+    EXPECT_EQ(chart.labels[0].label, "Cape");
+    EXPECT_EQ(chart.labels[1].label, "海角");
+    EXPECT_EQ(chart.labels[1].ref.id, "118");
+    EXPECT_EQ(chart.labels[2].label, "Strait");
 }
 
 }  // namespace
