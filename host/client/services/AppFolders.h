@@ -33,6 +33,8 @@ class AppFolders {
     const std::string& Share() const { return share_; }
     /// Folder of the language files.
     std::string Languages() const { return share_ + "/lang"; }
+    /// Folder of the user's guide, with a folder for each language.
+    std::string Guide() const { return share_ + "/guide"; }
     /// The person's folder: data base, log, preferences, businessdata.
     const std::string& Data() const { return data_; }
     /// Folder of the plug-ins.

@@ -3,40 +3,58 @@
 
 #include <QDialog>
 #include <functional>
-#include <utility>
-#include <vector>
+#include <string>
+
+#include "host/client/services/Guide.h"
 
 class QLabel;
 class QLineEdit;
-class QTreeWidget;
+class QListWidget;
 
 namespace Tarvik::Client {
 
-/// Help on a topic, and all keys of the client, which can be searched. One window that stays beside the
-/// others.
+class GuideView;
+
+/// The user's guide: its pages, with the keys of all windows, and a search through all of them. One window
+/// that stays beside the others.
 class HelpWindow final : public QDialog {
     Q_OBJECT
 
   public:
-    /// A key, as "Ctrl+L", and what it does.
-    using KeyLine = std::pair<QString, QString>;
-    /// Gives the text of a key in a section of the language files; the key itself where there is none.
-    using Words = std::function<QString(const char* section, const char* key)>;
+    /// Gives the text of a key of the client's section of the language files.
+    using Words = std::function<QString(const char* key)>;
 
-    HelpWindow(QWidget* parent, Words words);
-    /// Shows a topic ("func033"; an unknown one gets the general help) over the keys: `tools` are those of
-    /// the toolbar.
-    void ShowTopic(const QString& topic, const std::vector<KeyLine>& tools, int width);
+    HelpWindow(QWidget* parent, Words words, std::string folder);
+    /// Takes the guide of a language and the texts in force; the page on show stays the same.
+    void Load(const std::string& language);
+    /// Comes up with the heading of a topic ("func033"); the first page for an unknown one.
+    void ShowTopic(const QString& topic);
+
+  protected:
+    /// Arrows and page keys in the field move the text.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
-    void Fill(const std::vector<KeyLine>& tools);
-    void AddGroup(const QString& title, const std::vector<KeyLine>& lines);
-    void Filter(const QString& text);
+    void Lay();
+    void Connect();
+    void ShowPage(std::size_t page);
+    void Follow(const QString& link);
+    void Search();
+    /// Goes to the next hit, or with -1 to the one before, through all pages.
+    void Step(int by);
+    void TellHit();
+    QString MarkdownOf(std::size_t page) const;
 
     Words words_;
-    QLabel* topic_;
+    std::string folder_;
+    Guide guide_;
+    std::size_t page_ = 0;
+    std::size_t hit_ = 0;  ///< on the page, the one that is looked at
     QLineEdit* search_;
-    QTreeWidget* keys_;
+    QLabel* found_;
+    QListWidget* pages_;
+    GuideView* text_;
 };
 
 }  // namespace Tarvik::Client

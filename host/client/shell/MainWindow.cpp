@@ -98,6 +98,9 @@ void MainWindow::ApplyTexts() {
     tools_.ApplyTexts([this](const char* key) { return ToolWord(key); });
     ShowConnection();
     status_.ApplyTexts();
+    if (help_ != nullptr) {
+        help_->Load(session_.Texts().Code());
+    }
     if (centralWidget()) {
         centralWidget()->setAccessibleName(Word("CHART_NAME"));
     }
@@ -191,7 +194,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_F1) {
         return QMainWindow::keyPressEvent(event);
     }
-    ShowHelp("GENERAL", 370);
+    ShowHelp("GENERAL");
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -212,17 +215,17 @@ bool MainWindow::event(QEvent* event) {
         return QMainWindow::event(event);
     }
     const auto& block = static_cast<Skin::HelpRequestEvent*>(event)->block;
-    ShowHelp(QString::fromUtf8(block.topic), block.width);
+    ShowHelp(QString::fromUtf8(block.topic));
     return true;
 }
 
-void MainWindow::ShowHelp(const QString& topic, int width) {
+void MainWindow::ShowHelp(const QString& topic) {
     if (help_ == nullptr) {
-        help_ = new HelpWindow(this, [this](const char* section, const char* key) {
-            return QString::fromStdString(session_.Texts().Text(section, key));
-        });
+        help_ = new HelpWindow(
+            this, [this](const char* key) { return Word(key); }, session_.Folders().Guide());
+        help_->Load(session_.Texts().Code());
     }
-    help_->ShowTopic(topic, tools_.Keys(), width);
+    help_->ShowTopic(topic);
 }
 
 }  // namespace Tarvik::Client

@@ -39,9 +39,8 @@ class MainWindow : public QMainWindow {
     /// Gives the keyboard to the next of the client's open windows, or with -1 to the one before.
     void NextWindow(int step);
 
-    /// Shows help on a topic ("func033", …; an unknown one gets the general help) in a window `width` pixels
-    /// wide.
-    void ShowHelp(const QString& topic, int width);
+    /// Shows the guide at a topic ("func033", …), for an unknown one its first page.
+    void ShowHelp(const QString& topic);
 
   protected:
     /// Takes the help requests that plug-ins send to the main window.

@@ -31,6 +31,12 @@ QDialog QPushButton { background: @panel; color: @text; border: 1px solid @shell
     min-height: 24px; }
 QDialog QPushButton:default { background: @accent; color: @accentText; border-color: @accent; }
 QDialog QPushButton:focus { border: 2px solid @text; }
+QDialog QListWidget#helpPages, QDialog QTextBrowser#helpText { background: @panel; color: @text; border: 1px solid @shellBorder;
+    border-radius: 4px; }
+QDialog QListWidget#helpPages:focus, QDialog QTextBrowser#helpText:focus { border-color: @accent; }
+QDialog QListWidget#helpPages::item { padding: 4px; color: @text; }
+QDialog QListWidget#helpPages::item:selected { background: @accent; color: @accentText; }
+QDialog QLabel#helpFound { color: @shellSecondary; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QMessageBox { background: @window; }
 QMessageBox QLabel { color: @text; }

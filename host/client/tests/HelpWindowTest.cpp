@@ -1,92 +1,171 @@
 // SPDX-License-Identifier: MIT
-#include <QAction>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegularExpression>
+#include <QListWidget>
+#include <QScrollBar>
 #include <QTest>
-#include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
+#include <QTextBlock>
 
 #include <gtest/gtest.h>
 
+#include "host/client/services/LanguageFiles.h"
+#include "host/client/shell/GuideView.h"
 #include "host/client/shell/HelpWindow.h"
-#include "host/client/shell/MainWindow.h"
-#include "testsupport/TemporaryFolder.h"
+#include "host/client/shell/Theme.h"
 
 namespace Tarvik::Client {
 
 namespace {
 
-class HelpWindowTest : public testing::TestWithParam<const char*> {
+/// The window with the pages as they are shipped, in English.
+class HelpWindowTest : public testing::Test {
   protected:
     HelpWindowTest() {
-        options_.dataFolder = folder_.File("data");
-        options_.language = GetParam();
-        session_ = ClientSession::Open(options_, error_);
+        texts_.Load(CLIENT_LANGUAGES, kReferenceLanguage);
+        help_.Load(kReferenceLanguage);
+        help_.ShowTopic("GENERAL");
     }
-    void SetUp() override { ASSERT_NE(session_, nullptr) << error_; }
-    static QTreeWidget& Keys(const MainWindow& window) { return *window.findChild<QTreeWidget*>("helpKeys"); }
-    /// The lines on show with what a key does, all with an empty `keys`.
-    static QStringList Lines(const MainWindow& window, const QString& keys = {}) {
-        QStringList lines;
-        for (QTreeWidgetItemIterator at(&Keys(window), QTreeWidgetItemIterator::NoChildren); *at; ++at) {
-            if (!(*at)->isHidden() && (keys.isEmpty() || (*at)->text(0) == keys)) {
-                lines.append((*at)->text(1));
+    QLineEdit& Search() { return *help_.findChild<QLineEdit*>("helpSearch"); }
+    QListWidget& Pages() { return *help_.findChild<QListWidget*>("helpPages"); }
+    GuideView& Text() { return *help_.findChild<GuideView*>("helpText"); }
+    QString Found() { return help_.findChild<QLabel*>("helpFound")->text(); }
+    /// The titles of the pages in the list.
+    QStringList Titles() {
+        QStringList titles;
+        for (int i = 0; i < Pages().count(); ++i) {
+            if (!Pages().item(i)->isHidden()) {
+                titles.append(Pages().item(i)->text());
             }
         }
-        return lines;
+        return titles;
+    }
+    /// The heading that was gone to; empty where it is out of sight.
+    QString Heading() {
+        const bool inSight = Text().viewport()->rect().contains(Text().cursorRect().center());
+        return inSight ? Text().textCursor().block().text() : QString();
     }
 
-    TestSupport::TemporaryFolder folder_;
-    SessionOptions options_;
-    std::string error_;
-    std::unique_ptr<ClientSession> session_;
+    LanguageFiles texts_;
+    HelpWindow help_{nullptr,
+                     [this](const char* key) { return QString::fromStdString(texts_.Text("Client", key)); },
+                     CLIENT_GUIDE};
 };
 
-TEST_P(HelpWindowTest, F1TellsTheKeysOfToolsChartAndPanels) {
-    MainWindow window(*session_);
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    QTest::keyClick(&window, Qt::Key_F1);
-    ASSERT_NE(window.findChild<HelpWindow*>(), nullptr);
-    EXPECT_TRUE(window.findChild<HelpWindow*>()->isVisible());
-    EXPECT_EQ(Lines(window, "Ctrl+L"), QStringList(window.findChild<QAction*>("action_voyages")->text()));
-    EXPECT_EQ(Lines(window, "Ctrl+G").size(), 1);
-    EXPECT_EQ(Lines(window, "F9").size(), 1);
-    for (const QString& line : Lines(window)) {
-        EXPECT_FALSE(line.isEmpty());
-        EXPECT_FALSE(line.contains(QRegularExpression("^[A-Z_]+$"))) << line.toStdString() << " has no text";
-    }
-}
-
-TEST_P(HelpWindowTest, TheSearchLeavesWhatFits) {
-    MainWindow window(*session_);
-    window.ShowHelp("GENERAL", 370);
-    auto* search = window.findChild<QLineEdit*>("helpSearch");
-    search->setText(Lines(window, "F9").front().left(2));
-    EXPECT_FALSE(Lines(window, "F9").isEmpty());
-    EXPECT_LT(Lines(window).size(), 8);
-    search->setText("ctrl+b");
-    EXPECT_EQ(Lines(window).size(), 1);
-    search->setText("no such thing");
-    EXPECT_TRUE(Lines(window).isEmpty());
-    search->clear();
-    EXPECT_GT(Lines(window).size(), 20);
-}
-
-TEST_P(HelpWindowTest, ATopicHasItsTextAndAnUnknownOneTheGeneral) {
-    MainWindow window(*session_);
-    window.ShowHelp("func033", 370);
-    const auto* topic = window.findChild<QLabel*>("helpTopic");
-    EXPECT_EQ(topic->text().toStdString(), session_->Texts().Text("Client", "HELP_func033"));
-    window.ShowHelp("func999", 370);
-    EXPECT_EQ(topic->text().toStdString(), session_->Texts().Text("Client", "HELP_GENERAL"));
-    EXPECT_EQ(window.findChildren<HelpWindow*>().size(), 1) << "one window for all";
-}
-
-INSTANTIATE_TEST_SUITE_P(Languages, HelpWindowTest, testing::Values("en-US", "zh-CN", "zh-TW"));
-
 }  // namespace
+
+TEST_F(HelpWindowTest, ListsAllPagesAndShowsTheFirst) {
+    EXPECT_EQ(Titles().size(), 10);
+    EXPECT_EQ(Titles().first(), "First voyage");
+    EXPECT_TRUE(Text().toPlainText().startsWith("First voyage"));
+}
+
+TEST_F(HelpWindowTest, ATopicIsShownAtItsHeading) {
+    help_.ShowTopic("func033");
+    EXPECT_EQ(Heading(), "The voyages");
+    help_.ShowTopic("func035");
+    EXPECT_EQ(Heading(), "Position book");
+    help_.ShowTopic("func036");
+    EXPECT_EQ(Pages().currentItem()->text(), "Vessels");
+    EXPECT_EQ(Heading(), "Consumption");
+}
+
+TEST_F(HelpWindowTest, APageHasTheKeysOfItsPanel) {
+    help_.ShowTopic("func035");
+    EXPECT_TRUE(Text().toPlainText().contains("Show or hide the waypoints behind the row"));
+}
+
+TEST_F(HelpWindowTest, TheSearchLeavesPagesWithAllWordsAndCountsThem) {
+    Search().setText("csv fleet");
+    EXPECT_EQ(Titles().size(), 2) << Titles().join(", ").toStdString();
+    EXPECT_TRUE(Titles().first().startsWith("Vessels ("));
+    EXPECT_EQ(Pages().currentItem()->text(), Titles().first());
+    Search().setText("GREAT CIRCLE");
+    EXPECT_FALSE(Titles().isEmpty()) << "capitals do not count";
+    Search().clear();
+    EXPECT_EQ(Titles().size(), 10);
+    EXPECT_TRUE(Text().extraSelections().isEmpty());
+}
+
+TEST_F(HelpWindowTest, WhatIsFoundNowhereIsSaidSoAndTheTextStays) {
+    const QString before = Text().toPlainText();
+    Search().setText("no such thing at all");
+    EXPECT_TRUE(Titles().isEmpty());
+    EXPECT_EQ(Found(), "Nothing found");
+    EXPECT_EQ(Text().toPlainText(), before);
+    EXPECT_TRUE(Text().extraSelections().isEmpty());
+    QTest::keyClick(&Search(), Qt::Key_Return);
+    EXPECT_EQ(Found(), "Nothing found");
+}
+
+TEST_F(HelpWindowTest, HitsAreMarkedAndTheFirstStandsOut) {
+    help_.ShowTopic("func035");
+    Search().setText("waypoint");
+    const auto marks = Text().extraSelections();
+    ASSERT_GT(marks.size(), 2);
+    for (const auto& mark : marks) {
+        EXPECT_EQ(mark.cursor.selectedText().toLower(), "waypoint");
+    }
+    EXPECT_NE(marks[0].format.background(), marks[1].format.background());
+}
+
+TEST_F(HelpWindowTest, EnterLeadsThroughTheHitsOfAllPagesAndBack) {
+    Search().setText("csv");
+    ASSERT_EQ(Titles().size(), 2);
+    const QString first = Pages().currentItem()->text();
+    const auto hits = Text().Hits();
+    for (std::size_t i = 0; i < hits; ++i) {
+        EXPECT_EQ(Pages().currentItem()->text(), first);
+        EXPECT_EQ(Found(), QString("%1 of %2 on this page").arg(i + 1).arg(hits));
+        QTest::keyClick(&Search(), Qt::Key_Return);
+    }
+    EXPECT_NE(Pages().currentItem()->text(), first);
+    QTest::keyClick(&Search(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(Pages().currentItem()->text(), first);
+    EXPECT_EQ(Found(), QString("%1 of %1 on this page").arg(hits));
+}
+
+TEST_F(HelpWindowTest, ALinkLeadsToItsPageAndHeading) {
+    help_.ShowTopic("func035");
+    emit Text().anchorClicked(QUrl("10-keys.md#keys-func035"));
+    EXPECT_EQ(Pages().currentItem()->text(), "Keys");
+    EXPECT_EQ(Heading(), "Position book");
+    emit Text().anchorClicked(QUrl("99-none.md"));
+    EXPECT_EQ(Pages().currentItem()->text(), "Keys");
+}
+
+TEST_F(HelpWindowTest, ThePageIsChosenInTheListAndMovedFromTheSearch) {
+    Pages().setCurrentRow(9);
+    EXPECT_TRUE(Text().toPlainText().startsWith("Keys"));
+    EXPECT_EQ(Text().verticalScrollBar()->value(), 0);
+    QTest::keyClick(&Search(), Qt::Key_PageDown);
+    EXPECT_GT(Text().verticalScrollBar()->value(), 0);
+}
+
+TEST_F(HelpWindowTest, AllControlsHaveNamesAndAreReachedByTab) {
+    for (const char* name : {"helpSearch", "helpPages", "helpText"}) {
+        auto* control = help_.findChild<QWidget*>(name);
+        EXPECT_FALSE(control->accessibleName().isEmpty()) << name;
+        EXPECT_TRUE(control->focusPolicy() & Qt::TabFocus) << name;
+    }
+    EXPECT_EQ(help_.findChild<QLineEdit*>("helpSearch")->nextInFocusChain()->objectName().left(4), "help");
+}
+
+TEST_F(HelpWindowTest, LinksAreLegibleInEachTheme) {
+    for (const Skin::Theme theme : Skin::kThemes) {
+        ApplyTheme(theme);
+        help_.ShowTopic("GENERAL");
+        for (QTextBlock block = Text().document()->begin(); block.isValid(); block = block.next()) {
+            for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+                const QTextCharFormat format = piece.fragment().charFormat();
+                if (format.isAnchor()) {
+                    EXPECT_EQ(format.foreground().color().name(),
+                              QGuiApplication::palette().color(QPalette::Link).name());
+                }
+            }
+        }
+    }
+    ApplyTheme(Skin::Theme::Light);
+}
 
 }  // namespace Tarvik::Client

@@ -42,7 +42,7 @@ class LookTest : public testing::Test {
 
 TEST_F(LookTest, TextsKeepTheirSizeThroughAllLooks) {
     MainWindow window(*session_);
-    window.ShowHelp("GENERAL", 370);
+    window.ShowHelp("GENERAL");
     window.show();
     QApplication::processEvents();
     const auto before = Sizes(window);

@@ -88,16 +88,6 @@ TEST_P(LanguageFile, PlacesForNamesAreTheSameAsInEnglish) {
     }
 }
 
-TEST_P(LanguageFile, TheHelpOfTheVoyagePanelNamesItsKeys) {
-    const FileTexts client(std::string(SEAPLAN_LANG_DIR) + "/client." + GetParam() + ".json");
-    const auto found = client.All().find({"Client", "HELP_func033"});
-    ASSERT_NE(found, client.All().end());
-    for (const char* key : {"Enter", "Tab", "Shift+F10", "Insert", "Ctrl+N", "F2", "Delete", "Ctrl+Z",
-                            "Ctrl+Shift+D", "Ctrl+F", "F1", "Ctrl+W"}) {
-        EXPECT_NE(found->second.find(key), std::string::npos) << key;
-    }
-}
-
 // The words for a name that a deleted voyage has end by the language, which is known by this letter.
 TEST_P(LanguageFile, OnlyTheEnglishWordsForATakenNameBeginWithTheLetterOfEnglish) {
     const std::string& words = texts.All().at({"Seaplan", "IDS_VOYTREE_SAMENAME_WARN_FORDISTAB"});
