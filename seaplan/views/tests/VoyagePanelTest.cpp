@@ -384,4 +384,30 @@ TEST_F(ViewsFixture, ALanguageSwitchReachesEveryText) {
     EXPECT_TRUE(Find<QAbstractButton>(Panel(), "addCategoryButton")->toolTip().startsWith("新建分类"));
 }
 
+TEST_F(ViewsFixture, ADoubleClickOnAVoyageOpensItsPortCalls) {
+    OpenVoyage("Far East 12");
+    const auto name = [this](const std::string& row) {
+        for (const SubItem& part : Tree().PartsOf(RowOf(row))) {
+            if (part.name == "name") {
+                return part.rect.center();
+            }
+        }
+        return QPoint();
+    };
+    const auto doubleClick = [this](QPoint at) {
+        QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, at);
+        QApplication::processEvents();
+        QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, at);
+        QApplication::processEvents();
+    };
+    doubleClick(name("Container 2024"));
+    EXPECT_FALSE(PortCalls().isVisible()) << "a category has none";
+    ClickRow("Container 2024");
+    ClickRow("Far East 12");
+    // The row above shrinks at the first press, so that another row lies under the pointer at the second.
+    doubleClick(name("North Sea"));
+    EXPECT_TRUE(PortCalls().isVisible());
+    EXPECT_EQ(Rows().GetItemText(Rows().Selected()), "North Sea");
+}
+
 }  // namespace Tarvik::Seaplan

@@ -125,6 +125,7 @@ void VoyageTreeView::mousePressEvent(QMouseEvent* event) {
     const auto parts = PartsOf(pressed_.row);
     const SubItem* part = SubItemAt(parts, event->pos());
     pressed_.item = part == nullptr ? std::string() : part->name;
+    pressed_.beside = !HasCommand(pressed_.item);
     if (reports_.pressed) {
         reports_.pressed(pressed_.row, part == nullptr);
     }
@@ -142,6 +143,20 @@ void VoyageTreeView::mouseReleaseEvent(QMouseEvent* event) {
         reports_.clicked) {
         reports_.clicked(row, item);
     }
+}
+
+/// Two presses on a voyage beside its items open it, as Enter does. The first one may have changed heights,
+/// so that another row or an item lies under the pointer now: the row that was pressed first is meant.
+void VoyageTreeView::mouseDoubleClickEvent(QMouseEvent* event) {
+    const TreeRow row = pressed_.row;
+    const bool opens = event->button() == Qt::LeftButton && pressed_.beside && reports_.key &&
+                       rows_->GetItemStyle(row) == kVoyageStyle;
+    if (!opens) {
+        mousePressEvent(event);
+        return;
+    }
+    pressed_.item.clear();
+    reports_.key({Key::Enter}, row, {});
 }
 
 void VoyageTreeView::keyPressEvent(QKeyEvent* event) {

@@ -55,7 +55,7 @@ class VoyageTreeView : public QTreeView {
   protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -86,6 +86,7 @@ class VoyageTreeView : public QTreeView {
         TreeRow row = kNoRow;
         std::string item{};
         QPoint point{};
+        bool beside = false;  ///< no item that does something
     } pressed_;
     int focusPart_ = -1;
     TreeAccessFactory access_;
