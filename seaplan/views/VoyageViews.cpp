@@ -7,6 +7,7 @@
 #include "seaplan/panels/book/CPosBookDlg.h"
 #include "seaplan/panels/bunker/CBunkerDlg.h"
 #include "seaplan/panels/distances/CPortDistTabDlg.h"
+#include "seaplan/panels/mainview/KeysFromAnywhere.h"
 #include "seaplan/panels/mainview/SeaplanViewDlg.h"
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/PanelCommands.h"
@@ -22,6 +23,7 @@
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/remark/RemarkWindow.h"
+#include "seaplan/views/window/KeysOfWindows.h"
 #include "seaplan/views/window/PanelPlace.h"
 
 namespace Tarvik::Seaplan {
@@ -53,6 +55,7 @@ class VoyageViews::Places {
     PanelPlace<CBunkerDlg, BunkerWindow> bunkers;
     PanelPlace<CPortDistTabDlg, KeepTableWindow> distances;
     SeaplanViewDlg voyagePanel;
+    KeysOfWindows keys;
 
   private:
     std::unique_ptr<CPortCallPanelDlg> MakePortCalls(const Parts& parts, PortCallWindow& window);
@@ -61,6 +64,7 @@ class VoyageViews::Places {
     std::unique_ptr<CBunkerDlg> MakeBunkers(VoyageStore& store, BunkerWindow& window);
     /// Where the tree stands on the screen; nowhere when its window is gone.
     Rect TreePlace() const { return voyageWindow ? OnScreen(voyageWindow->Tree()) : Rect(); }
+    PanelsInSight InSight();
     void HideAfterPortCalls();
     void ShowSaved(const std::string& vi);
 };
@@ -91,7 +95,9 @@ VoyageViews::Places::Places(const Parts& parts)
                  [this](KeepTableWindow& window) { return MakeDistances(window); }}),
       voyagePanel({parts.store, parts.catalog, parts.voyages, *voyageWindow, voyageWindow->FilterPopup(),
                    voyageWindow->Search(), tree, [this] { return portCalls.Made(); },
-                   [this] { HideAfterPortCalls(); }}) {
+                   [this] { HideAfterPortCalls(); }}),
+      keys({parts.mainView == nullptr ? nullptr : parts.mainView->window(), voyageWindow.data()},
+           [this](KeyPress press) { return OnKeyFromAnywhere(press, InSight()); }) {
     tree.SetPortCallPanel([this] { return &portCalls.Use(); });
     tree.Notes().SetRemarks([this](TreeRow row, int type, const std::string& id, const std::string& name) {
         return remarks.Use().Open(row, type, id, name);
@@ -112,6 +118,12 @@ VoyageViews::Places::Places(const Parts& parts)
 
 VoyageViews::Places::~Places() {
     delete voyageWindow;
+}
+
+PanelsInSight VoyageViews::Places::InSight() {
+    const auto isSeen = [](const QWidget* window) { return window != nullptr && window->isVisible(); };
+    return {isSeen(portCalls.MadeWindow()) ? portCalls.Made() : nullptr,
+            isSeen(book.MadeWindow()) ? book.Made() : nullptr};
 }
 
 std::unique_ptr<CPortCallPanelDlg> VoyageViews::Places::MakePortCalls(const Parts& parts,
