@@ -44,6 +44,8 @@ bool BookEditing::OnTextTyped(const std::string& text, int row, int column) {
         OnTyped(text);
     } else if (choices_.IsVisible()) {
         choices_.GoTo(text);
+    } else if (picker_.Calendar().IsVisible()) {
+        picker_.Calendar().OnTextTyped(text);
     }
     return true;
 }

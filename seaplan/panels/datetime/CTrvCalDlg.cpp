@@ -1,11 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/datetime/CTrvCalDlg.h"
 
+#include <algorithm>
+
 #include <tarvik/util/DateTimeUtl.h>
+
+#include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/paste/PastedText.h"
+#include "seaplan/panels/texts/CommonTexts.h"
 
 namespace Tarvik::Seaplan {
 
 namespace {
+
+/// A typed date with its time, or a time alone of the day that is selected; nothing for another text.
+std::optional<Util::_datetime_t> ReadTypedTime(const std::string& text, const CalendarModel& model) {
+    const bool timeAlone = text.find(':') < 3 && std::all_of(text.begin(), text.end(), [](char c) {
+                               return c == ':' || (c >= '0' && c <= '9');
+                           });
+    const auto day = Util::_datetime_t::from_csecs_days(0, model.GridStart() + model.SelectedCell());
+    const auto read = ReadPastedTime(timeAlone ? day.fmt(Util::kDayFormat) + ' ' + text : text);
+    return read ? Util::DateTimeUtl::Parse(*read) : std::nullopt;
+}
 
 CalendarState StateOf(const CalendarModel& model, const std::optional<TimePart>& typing) {
     CalendarState state;
@@ -32,12 +48,17 @@ void CTrvCalDlg::Setup(bool dateOnly, const Util::_datetime_t& value) {
 
 void CTrvCalDlg::SetValue(const Util::_datetime_t& value) {
     typing_.reset();
+    text_.reset();
+    note_.clear();
     model_.SetValue(value);
     Show();
 }
 
 void CTrvCalDlg::Show() {
-    view_.ShowState(StateOf(model_, typing_));
+    CalendarState state = StateOf(model_, typing_);
+    state.text = text_;
+    state.note = note_;
+    view_.ShowState(state);
 }
 
 void CTrvCalDlg::Open(Point corner) {
@@ -114,6 +135,32 @@ void CTrvCalDlg::OnStep(int by) {
     FillEdit();
 }
 
+void CTrvCalDlg::OnTextTyped(const std::string& text) {
+    OnTypingDone();
+    text_ = text.empty() ? std::nullopt : std::optional(text);
+    const auto read = text_ ? ReadTypedTime(*text_, model_) : std::nullopt;
+    note_ = read ? Text(TextIds::IDS_VIEW_READAS) + ' ' +
+                       read->fmt(model_.IsDateOnly() ? Util::kDayFormat : Util::kMinuteFormat)
+                 : std::string();
+    Show();
+}
+
+/// Takes the text that is typed as day and time. False where it is none, which is told.
+bool CTrvCalDlg::TakeText() {
+    const auto read = ReadTypedTime(*text_, model_);
+    if (!read) {
+        note_ = Text(TextIds::IDS_VIEW_DATENOTREAD);
+        Show();
+        return false;
+    }
+    text_.reset();
+    note_.clear();
+    model_.ShowMonth(*read);
+    model_.TypeHour(std::to_string(read->hour()));
+    model_.TypeMinute(std::to_string(read->minute()));
+    return true;
+}
+
 bool CTrvCalDlg::OnKey(Key key) {
     if (key != Key::Enter) {
         return false;
@@ -125,6 +172,9 @@ bool CTrvCalDlg::OnKey(Key key) {
 bool CTrvCalDlg::OnWindowKey(Key key) {
     switch (key) {
         case Key::Enter:
+            if (text_ && !TakeText()) {
+                return true;
+            }
             if (model_.IsDateOnly()) {
                 OnDay(model_.SelectedCell());
             } else {
@@ -153,6 +203,9 @@ void CTrvCalDlg::OnTypingDone() {
 
 void CTrvCalDlg::OnOk() {
     OnTypingDone();
+    if (text_ && !TakeText()) {
+        return;
+    }
     Hide();
     if (model_.Accept()) {
         chosen_(model_.Value());

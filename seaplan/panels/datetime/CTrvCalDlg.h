@@ -43,6 +43,9 @@ class CTrvCalDlg {
     /// A key anywhere else in the calendar: Enter takes the day and the time as OK does, without a time the
     /// day, and the page keys change the month. False when it means nothing here.
     bool OnWindowKey(Key key);
+    /// A date with its time, typed as a text: in the forms of ReadPastedTime, or as a time of the selected
+    /// day, "14:30". The note tells what it is read as. An empty text ends it.
+    void OnTextTyped(const std::string& text);
     /// Enter in the edit, or a press outside it and its arrows: a text that is no such hour or minute is
     /// dropped.
     void OnTypingDone();
@@ -52,6 +55,7 @@ class CTrvCalDlg {
 
   private:
     void TakeTyped();
+    bool TakeText();
     void FillEdit();
     void Show();
 
@@ -61,6 +65,8 @@ class CTrvCalDlg {
     bool open_ = false;
     std::optional<TimePart> typing_;
     std::string typed_;
+    std::optional<std::string> text_;
+    std::string note_;
 };
 
 /// The button that shows a date and time; a press opens its calendar, and another one closes it. Its owner

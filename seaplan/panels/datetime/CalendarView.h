@@ -27,9 +27,11 @@ struct CalendarState {
     std::string heading;    ///< "March  2015"
     std::array<CalendarCell, CalendarModel::kCells> cells;
     int selectedCell = 0;
-    std::string hour;                ///< "08"
-    std::string minute;              ///< the same
-    std::optional<TimePart> typing;  ///< the part that is an edit between two arrows
+    std::string hour;                 ///< "08"
+    std::string minute;               ///< the same
+    std::optional<TimePart> typing;   ///< the part that is an edit between two arrows
+    std::optional<std::string> text;  ///< a date with its time that is typed as a text
+    std::string note;                 ///< what that is read as, or why it is not taken
     bool operator==(const CalendarState&) const = default;
 };
 

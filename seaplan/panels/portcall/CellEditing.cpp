@@ -67,6 +67,9 @@ bool CellEditing::OnCellClicked(int row, int column, const std::string* typed) {
             break;
         case CellEditor::Time:
             OpenPicker(row, column);
+            if (typed != nullptr && picker_.Calendar().IsVisible()) {
+                picker_.Calendar().OnTextTyped(*typed);
+            }
             break;
         default:
             Open(editor, row);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "seaplan/panels/datetime/CTrvCalDlg.h"
+#include "seaplan/panels/tests/KeyTexts.h"
 #include "seaplan/panels/tests/RecordingCalendar.h"
 #include "testsupport/ManualClock.h"
 
@@ -13,6 +14,7 @@ namespace {
 
 class DateTimeCtrlTest : public ::testing::Test {
   protected:
+    KeyTexts texts;
     TestSupport::ManualClock clock;
     RecordingCalendar view;
     std::vector<Util::_datetime_t> told;
@@ -165,6 +167,62 @@ TEST_F(DateTimeCtrlTest, EnterEndsTheTypingAndOtherKeysAreTheEdits) {
     EXPECT_TRUE(calendar.OnKey(Key::Enter));
     EXPECT_FALSE(view.state.typing);
     EXPECT_EQ(view.state.hour, "17");
+}
+
+TEST_F(DateTimeCtrlTest, ADateTypedAsATextIsTakenByEnter) {
+    for (const char* typed : {"2026-11-23 14:05", "23.11.2026 14:05", "23 Nov 2026 14:05"}) {
+        date.SetValue(first);
+        Open();
+        calendar.OnTextTyped("2");
+        EXPECT_EQ(view.state.text, "2");
+        EXPECT_EQ(view.state.note, "");
+        calendar.OnTextTyped(typed);
+        EXPECT_EQ(view.state.note, "IDS_VIEW_READAS 2026-11-23 14:05");
+        EXPECT_TRUE(calendar.OnWindowKey(Key::Enter));
+        ASSERT_FALSE(told.empty());
+        EXPECT_EQ(told.back(), Util::_datetime_t(42, 5, 14, 23, 11, 2026)) << typed;
+        EXPECT_FALSE(view.corner);
+    }
+}
+
+TEST_F(DateTimeCtrlTest, ATimeAloneIsOneOfTheSelectedDay) {
+    Open();
+    calendar.OnDay(Cell(20));
+    calendar.OnTextTyped("7:45");
+    EXPECT_EQ(view.state.note, "IDS_VIEW_READAS 2024-03-20 07:45");
+    calendar.OnOk();
+    EXPECT_EQ(date.Text(), "2024-03-20 07:45:42");
+}
+
+TEST_F(DateTimeCtrlTest, ATextThatIsNoDateIsToldAndTakenByNothing) {
+    Open();
+    for (const char* typed : {"tomorrow", "3/4/2024", "2024-02-30", "25:00", "7:"}) {
+        calendar.OnTextTyped(typed);
+        EXPECT_EQ(view.state.note, "") << typed;
+        EXPECT_TRUE(calendar.OnWindowKey(Key::Enter));
+        EXPECT_EQ(view.state.note, "IDS_VIEW_DATENOTREAD") << typed;
+        calendar.OnOk();
+        EXPECT_TRUE(view.corner) << typed;
+    }
+    EXPECT_TRUE(told.empty());
+    calendar.OnTextTyped("");
+    EXPECT_FALSE(view.state.text.has_value());
+    EXPECT_EQ(view.state.note, "");
+    calendar.OnOk();
+    EXPECT_TRUE(told.empty());
+    EXPECT_FALSE(view.corner);
+    Open();
+    EXPECT_FALSE(view.state.text.has_value()) << "what was typed is forgotten";
+}
+
+TEST_F(DateTimeCtrlTest, WithoutATimeTheDayIsTyped) {
+    date.SetDateOnly(true);
+    Open();
+    calendar.OnTextTyped("2026-11-23");
+    EXPECT_EQ(view.state.note, "IDS_VIEW_READAS 2026-11-23");
+    EXPECT_TRUE(calendar.OnWindowKey(Key::Enter));
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0], Util::_datetime_t(0, 0, 0, 23, 11, 2026));
 }
 
 }  // namespace Tarvik::Seaplan

@@ -37,6 +37,7 @@ CalendarPopup::CalendarPopup(QWidget* parent) : QFrame(parent, Qt::Popup) {
     rows->setContentsMargins(8, 8, 8, 8);
     rows->setSpacing(4);
     rows->addLayout(MakeHead());
+    MakeText(*rows);
     days_ = new DayGrid(this);
     rows->addLayout(days_);
     rows->addLayout(MakeTime());
@@ -72,6 +73,20 @@ QLayout* CalendarPopup::MakeHead() {
     head->addWidget(steps_[NextMonth]);
     head->addWidget(steps_[NextYear]);
     return head;
+}
+
+void CalendarPopup::MakeText(QVBoxLayout& rows) {
+    text_ = new QLineEdit(this);
+    text_->setObjectName(QStringLiteral("dateText"));
+    note_ = new QLabel(this);
+    note_->setObjectName(QStringLiteral("dateNote"));
+    note_->setWordWrap(true);
+    note_->setTextFormat(Qt::PlainText);
+    note_->setProperty("secondary", true);
+    text_->hide();
+    note_->hide();
+    rows.addWidget(text_);
+    rows.addWidget(note_);
 }
 
 QLayout* CalendarPopup::MakeTime() {
@@ -112,6 +127,8 @@ void CalendarPopup::Attach(CTrvCalDlg* panel) {
     connect(steps_[PreviousMonth], &QToolButton::clicked, this, [panel] { panel->OnMonth(-1); });
     connect(steps_[NextMonth], &QToolButton::clicked, this, [panel] { panel->OnMonth(1); });
     connect(steps_[NextYear], &QToolButton::clicked, this, [panel] { panel->OnYear(1); });
+    connect(text_, &QLineEdit::textEdited, this,
+            [panel](const QString& text) { panel->OnTextTyped(text.toStdString()); });
     connect(end_.ok, &QPushButton::clicked, this, [panel] { panel->OnOk(); });
     connect(end_.cancel, &QPushButton::clicked, this, [panel] { panel->Hide(); });
 }
@@ -125,9 +142,13 @@ void CalendarPopup::mousePressEvent(QMouseEvent* event) {
 }
 
 void CalendarPopup::keyPressEvent(QKeyEvent* event) {
-    if (panel_ == nullptr || !panel_->OnWindowKey(PressOf(*event).key)) {
-        QFrame::keyPressEvent(event);
+    if (panel_ == nullptr || panel_->OnWindowKey(PressOf(*event).key)) {
+        return;
     }
+    if (const QString text = TextOf(*event).trimmed(); !text.isEmpty() && text_->isHidden()) {
+        return panel_->OnTextTyped(text.toStdString());
+    }
+    QFrame::keyPressEvent(event);
 }
 
 void CalendarPopup::hideEvent(QHideEvent* event) {
@@ -137,6 +158,28 @@ void CalendarPopup::hideEvent(QHideEvent* event) {
     }
     if (shown_) {
         shown_(false);
+    }
+}
+
+/// A date that is typed whole stands in a field of its own, with the keyboard in it from its first letter on.
+void CalendarPopup::ShowText(const CalendarState& state) {
+    const bool typed = state.text.has_value();
+    const bool begins = typed && text_->isHidden();
+    const bool ends = !typed && !text_->isHidden();
+    if (typed && text_->text() != QString::fromStdString(*state.text)) {
+        text_->setText(QString::fromStdString(*state.text));
+    }
+    text_->setVisible(typed);
+    note_->setText(QString::fromStdString(state.note));
+    note_->setVisible(typed);
+    if (begins) {
+        text_->setFocus();
+        text_->end(false);
+    } else if (ends) {
+        days_->FocusChosen();
+    }
+    if (begins || ends) {
+        adjustSize();
     }
 }
 
@@ -150,6 +193,7 @@ void CalendarPopup::ShowState(const CalendarState& state) {
     for (QWidget* widget : std::initializer_list<QWidget*>{colon_, end_.ok, end_.cancel}) {
         widget->setVisible(timed);
     }
+    ShowText(state);
 }
 
 void CalendarPopup::FillEdit(const std::string& text) {
@@ -172,6 +216,7 @@ void CalendarPopup::ApplyTexts() {
     end_.cancel->setText(HostLabel(u"IDCANCEL", u"Cancel"));
     Skin::Describe(end_.ok, end_.ok->text());
     Skin::Describe(end_.cancel, end_.cancel->text());
+    text_->setAccessibleName(ViewText(TextIds::IDS_VIEW_DATETEXT));
     Skin::Describe(steps_[PreviousYear], ViewText(TextIds::IDS_VIEW_PREVYEAR));
     Skin::Describe(steps_[NextYear], ViewText(TextIds::IDS_VIEW_NEXTYEAR));
     Skin::Describe(steps_[PreviousMonth], ViewText(TextIds::IDS_VIEW_PREVMONTH));

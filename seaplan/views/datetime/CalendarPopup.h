@@ -3,6 +3,7 @@
 
 #include <QFrame>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <array>
 #include <functional>
@@ -43,12 +44,16 @@ class CalendarPopup final : public QFrame, public CalendarView {
 
   private:
     QLayout* MakeHead();
+    void MakeText(QVBoxLayout& rows);
+    void ShowText(const CalendarState& state);
     QLayout* MakeTime();
     QLayout* MakeButtons();
 
     CTrvCalDlg* panel_ = nullptr;
     std::array<QToolButton*, 4> steps_{};  ///< year and month back, month and year on
     QLabel* heading_;
+    QLineEdit* text_;  ///< a date that is typed whole
+    QLabel* note_;     ///< how that is understood
     DayGrid* days_;
     TimeField* hour_;
     TimeField* minute_;

@@ -186,4 +186,29 @@ TEST_F(CalendarPopupTest, ItStaysOnTheScreen) {
     EXPECT_TRUE(area.contains(calendar.geometry()));
 }
 
+TEST_F(CalendarPopupTest, ADateIsTypedFromTheGridOn) {
+    QWidget* grid = QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : Button("day25");
+    EXPECT_TRUE(Edit("dateText")->isHidden());
+    QTest::keyClicks(grid, "2");
+    ASSERT_FALSE(Edit("dateText")->isHidden());
+    EXPECT_FALSE(Edit("dateText")->accessibleName().isEmpty());
+    QTest::keyClicks(Edit("dateText"), "4.03.2024 9:15");
+    EXPECT_EQ(Edit("dateText")->text(), "24.03.2024 9:15");
+    EXPECT_EQ(calendar.findChild<QLabel*>("dateNote")->text(), "Read as 2024-03-24 09:15");
+    QTest::keyClick(Edit("dateText"), Qt::Key_Return);
+    ASSERT_EQ(chosen.size(), 1U);
+    EXPECT_EQ(chosen[0], Util::_datetime_t(42, 15, 9, 24, 3, 2024));
+    EXPECT_FALSE(calendar.isVisible());
+}
+
+TEST_F(CalendarPopupTest, ATextThatIsNoDateSaysHowToTypeIt) {
+    panel.OnTextTyped("soon");
+    QTest::keyClick(Edit("dateText"), Qt::Key_Return);
+    EXPECT_TRUE(calendar.isVisible());
+    EXPECT_TRUE(calendar.findChild<QLabel*>("dateNote")->text().contains("2026-11-23 14:00"));
+    Edit("dateText")->selectAll();
+    QTest::keyClick(Edit("dateText"), Qt::Key_Delete);
+    EXPECT_TRUE(Edit("dateText")->isHidden()) << "an empty text gives the days back";
+}
+
 }  // namespace Tarvik::Seaplan
