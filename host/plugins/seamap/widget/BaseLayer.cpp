@@ -37,6 +37,7 @@ std::vector<QRect> BandsOf(const QRegion& region) {
 
 void BaseLayer::SetLand(CoastData land) {
     land_ = std::move(land);
+    coming_ = {};
     picture_ = QPixmap();
 }
 
@@ -46,6 +47,9 @@ void BaseLayer::ShowGraticule(bool shown) {
 }
 
 const QPixmap& BaseLayer::Picture(const MercatorView& view, const ChartPalette& palette, qreal pixelRatio) {
+    if (coming_.valid()) {
+        SetLand(coming_.get());
+    }
     const QSize size = QSize(view.Width(), view.Height()) * pixelRatio;
     QRegion missing(0, 0, view.Width(), view.Height());
     const bool same = !picture_.isNull() && picture_.size() == size &&

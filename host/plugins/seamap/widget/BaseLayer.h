@@ -4,6 +4,8 @@
 #include <QImage>
 #include <QPixmap>
 #include <QRegion>
+#include <future>
+#include <utility>
 
 #include "host/plugins/seamap/core/ChartPalette.h"
 #include "host/plugins/seamap/core/CoastData.h"
@@ -18,6 +20,8 @@ namespace Tarvik::Seamap {
 class BaseLayer {
   public:
     void SetLand(CoastData land);
+    /// Takes land that is still being read: the first picture waits for it.
+    void SetLand(std::future<CoastData> land) { coming_ = std::move(land); }
     void ShowGraticule(bool shown);
     /// The picture of the view; drawn anew as far as needed.
     const QPixmap& Picture(const MercatorView& view, const ChartPalette& palette, qreal pixelRatio);
@@ -28,6 +32,7 @@ class BaseLayer {
     void DrawGraticule(QPainter& painter, const QRect& bounds) const;
 
     CoastData land_;
+    std::future<CoastData> coming_;  ///< valid until it has become the land
     bool graticule_ = true;
     MercatorView view_;
     const ChartPalette* palette_ = nullptr;

@@ -26,6 +26,7 @@ class ChartScene {
     explicit ChartScene(const ChartObjects& objects) : objects_(objects) {}
 
     void SetLand(CoastData land) { base_.SetLand(std::move(land)); }
+    void SetLand(std::future<CoastData> land) { base_.SetLand(std::move(land)); }
     /// Names of waters and ports, in the order in which they find room.
     void SetNames(const std::vector<ChartName>& names) { names_.SetNames(names); }
     /// What is drawn of it from now on.

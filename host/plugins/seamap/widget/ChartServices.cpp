@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <array>
 #include <functional>
+#include <future>
 #include <new>
 #include <utility>
 
@@ -105,8 +106,11 @@ ChartWidget* ChartServices::Widget() {
         widget_ = new ChartWidget(objects_);
         widget_->SetTheme(theme_);
         widget_->ShowParts(parts_);
-        widget_->Change(
-            [this](ChartScene& scene) { scene.SetLand(CoastData(LandFileSource(paths_.land).Load())); });
+        // The window is made while the land is read, which takes as long.
+        widget_->Change([this](ChartScene& scene) {
+            scene.SetLand(std::async(
+                std::launch::async, [path = paths_.land] { return CoastData(LandFileSource(path).Load()); }));
+        });
         ShowNames();
         if (asked_) {
             widget_->ShowExtent(*asked_);

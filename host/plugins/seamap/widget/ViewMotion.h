@@ -12,10 +12,11 @@ namespace Tarvik::Seamap {
 /// zoom around the pointer keeps the place under it in every picture.
 MercatorView ViewBetween(const MercatorView& from, const MercatorView& to, double share);
 
-/// Brings the view to a target within 150 ms.
+/// Brings the view to a target within 120 ms: long enough to be followed, and what it ends is there 150 ms
+/// after its cause.
 class ViewMotion {
   public:
-    static constexpr int kMilliseconds = 150;
+    static constexpr int kMilliseconds = 120;
 
     explicit ViewMotion(std::function<void(const MercatorView&)> show);
     /// At once when `animated` is false.

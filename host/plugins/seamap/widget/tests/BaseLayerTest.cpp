@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QImage>
+#include <future>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -65,6 +67,18 @@ TEST(BaseLayer, ThePiecesDrawnBesideOneAnotherAreOnePicture) {
     EXPECT_EQ(pieces, whole);
     LandPainter(nullptr, view, Light(), BoardOf(whole), 1).Draw(whole.rect());
     EXPECT_EQ(At(whole, view, {30, 15}), QColor(Light().sea)) << "without land";
+}
+
+TEST(BaseLayer, LandThatIsStillComingIsInTheFirstPicture) {
+    const MercatorView view = ViewOf({20, 20}, 2000);
+    BaseLayer layer;
+    std::promise<CoastData> reading;
+    layer.SetLand(reading.get_future());
+    std::thread reader([&reading] { reading.set_value(Land()); });
+    const QImage picture = layer.Picture(view, Light(), 1).toImage();
+    reader.join();
+    EXPECT_EQ(picture, Fresh(view));
+    EXPECT_EQ(layer.Picture(view, Light(), 1).toImage(), picture) << "it stays";
 }
 
 TEST(BaseLayer, LandAndSeaHaveTheirColours) {
