@@ -98,6 +98,39 @@ BENCHMARK(Redraw)
     ->ComputeStatistics("least", Least)
     ->ReportAggregatesOnly();
 
+/// Frames of a chart that stands still, with and without names: what the ports cost. Arguments: whether names
+/// are shown; miles to a pixel times ten in the Channel, where a region has the most of them.
+void Ports(benchmark::State& state) {
+    ChartObjects objects;
+    ChartWidget chart(objects);
+    chart.setProperty("pictures", true);
+    chart.SetNames(Names());
+    ChartParts parts;
+    parts.names = state.range(0) != 0;
+    chart.ShowParts(parts);
+    chart.resize(1920, 1080);
+    chart.show();
+    constexpr GeoPoint kChannel{4, 50.5};
+    constexpr double kMilesPerDegree = 60, kTenths = 10;
+    const double milesPerPixel = static_cast<double>(state.range(1)) / kTenths;
+    const double degrees = 1920 * milesPerPixel / kMilesPerDegree / std::cos(kChannel.y * M_PI / 180);
+    chart.ShowExtent(*Extent::FromCorners(
+        {kChannel.x - degrees / 2, kChannel.y - 1, kChannel.x + degrees / 2, kChannel.y + 1}));
+    QPixmap frame(chart.size());
+    chart.render(&frame);  // texts are made once
+    for (auto _ : state) {
+        chart.render(&frame);
+    }
+}
+BENCHMARK(Ports)
+    ->ArgsProduct({{0, 1}, {2, 7, 20, 38}})
+    ->MeasureProcessCPUTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(20)
+    ->Repetitions(15)
+    ->ComputeStatistics("least", Least)
+    ->ReportAggregatesOnly();
+
 }  // namespace
 
 int main(int argc, char** argv) {
