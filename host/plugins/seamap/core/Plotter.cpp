@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <numeric>
 
 namespace Tarvik::Seamap {
 
@@ -19,6 +20,7 @@ namespace {
 constexpr double kToMiddle = 0.5;
 constexpr int kBits = 16;
 constexpr std::int64_t kOne = 1 << kBits;  ///< a pixel
+constexpr int kRowBits = 32;               ///< below the row of a crossing: its column
 constexpr int kToShade = 10;               ///< bits between the share of a pixel and its shade
 
 /// Each channel times share of 255, all four in one step, each with 16 bits of its own.
@@ -49,6 +51,12 @@ int MiddleFrom(double place) {
     const double from = std::clamp(place - kToMiddle, -kFar, kFar);
     const int whole = static_cast<int>(from);
     return whole + (from > whole ? 1 : 0);
+}
+
+/// As std::floor, which is such a call too; the number is near the board.
+std::int64_t Floor(double number) {
+    const auto whole = static_cast<std::int64_t>(number);
+    return whole - (number < static_cast<double>(whole) ? 1 : 0);
 }
 
 }  // namespace
@@ -82,11 +90,40 @@ void Plotter::Fill(std::span<const PixelPoint> area, std::uint32_t colour) {
         before = point;
         rowBefore = row;
     }
-    std::sort(crossings_.begin(), crossings_.end());
+    Sort();
     for (std::size_t i = 0; i + 1 < crossings_.size(); i += 2) {
-        std::uint32_t* row = board_.pixels + static_cast<std::ptrdiff_t>(crossings_[i] >> 32) * board_.stride;
+        std::uint32_t* row =
+            board_.pixels + static_cast<std::ptrdiff_t>(crossings_[i] >> kRowBits) * board_.stride;
         FillRow(row + static_cast<std::uint32_t>(crossings_[i]),
                 row + static_cast<std::uint32_t>(crossings_[i + 1]), colour);
+    }
+}
+
+void Plotter::Sort() {
+    if (crossings_.empty()) {
+        return;
+    }
+    // Put in the order of their rows by counting, they need but a step or two each, as few lie in one row.
+    const auto [low, high] = std::minmax_element(crossings_.begin(), crossings_.end());
+    const std::uint64_t top = *low >> kRowBits;
+    rows_.assign((*high >> kRowBits) - top + 2, 0);
+    const auto rowOf = [top](std::uint64_t crossing) { return (crossing >> kRowBits) - top; };
+    for (const std::uint64_t crossing : crossings_) {
+        ++rows_[rowOf(crossing) + 1];
+    }
+    std::partial_sum(rows_.begin(), rows_.end(), rows_.begin());
+    sorted_.resize(crossings_.size());
+    for (const std::uint64_t crossing : crossings_) {
+        sorted_[rows_[rowOf(crossing)]++] = crossing;
+    }
+    crossings_.swap(sorted_);
+    for (std::size_t i = 1; i < crossings_.size(); ++i) {
+        const std::uint64_t here = crossings_[i];
+        std::size_t place = i;
+        for (; place > 0 && crossings_[place - 1] > here; --place) {
+            crossings_[place] = crossings_[place - 1];
+        }
+        crossings_[place] = here;
     }
 }
 
@@ -100,7 +137,7 @@ void Plotter::FillSide(PixelPoint from, PixelPoint to, int first, int end) {
     for (int row = first; row < end; ++row) {
         const double x = from.x + (row + kToMiddle - from.y) * slope;
         const int column = MiddleFrom(std::clamp<double>(x, clip_.left, clip_.right));
-        crossings_.push_back((std::uint64_t(row) << 32) + std::uint32_t(column));
+        crossings_.push_back((std::uint64_t(row) << kRowBits) + std::uint32_t(column));
     }
 }
 
@@ -132,19 +169,19 @@ void Plotter::Segment(PixelPoint from, PixelPoint to, const PlotPen& pen, double
     if (way == 0) {
         return;
     }
-    const double slope = (to.y - from.y) / way;
-    const double stretch = std::sqrt(1 + slope * slope);
     const int begin = MiddleFrom(std::min(from.x, to.x));
     const int first = std::max(begin, steep ? clip_.top : clip_.left);
     const int end = std::min(MiddleFrom(std::max(from.x, to.x)), steep ? clip_.bottom : clip_.right);
     if (first >= end) {
         return;
     }
+    const double slope = (to.y - from.y) / way;
+    const double stretch = std::sqrt(1 + slope * slope);
     const auto half = static_cast<std::int64_t>(pen.width * stretch * kToMiddle * kOne);
-    const auto step = static_cast<std::int64_t>(std::floor(slope * kOne));
+    const std::int64_t step = Floor(slope * kOne);
     // Counted from where the segment begins, so that a part of a picture is as the whole one.
-    const double origin = std::floor((from.y + (begin + kToMiddle - from.x) * slope) * kOne);
-    std::int64_t middle = static_cast<std::int64_t>(origin) + step * (first - begin);
+    const std::int64_t origin = Floor((from.y + (begin + kToMiddle - from.x) * slope) * kOne);
+    std::int64_t middle = origin + step * (first - begin);
     if (pen.gap <= 0) {
         Columns({first, end, middle - half, 2 * half, step, steep});
         return;

@@ -54,6 +54,8 @@ class Plotter {
   private:
     /// From and to with their rows, the upper one first.
     void FillSide(PixelPoint from, PixelPoint to, int first, int end);
+    /// Brings the crossings into their order.
+    void Sort();
     void Segment(PixelPoint from, PixelPoint to, const PlotPen& pen, double start);
     /// From `begin` to `end`: of a line in 1/65536 pixels, of the board in pixels.
     struct Stripe {
@@ -79,6 +81,8 @@ class Plotter {
     PixelBoard board_;
     PixelRect clip_;
     std::vector<std::uint64_t> crossings_;  ///< of the area being filled: row and column, to be sorted
+    std::vector<std::uint64_t> sorted_;     ///< room for sorting
+    std::vector<std::uint32_t> rows_;       ///< how many crossings lie before each row
     std::array<std::uint32_t, kShades + 1> shades_{};  ///< of the pen, by the share of a pixel
 };
 
