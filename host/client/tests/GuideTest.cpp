@@ -76,7 +76,8 @@ class ShippedGuide : public testing::TestWithParam<std::string> {
     /// The keys that a text names, as Ctrl+Shift+R, F9 or Insert.
     static std::set<std::string> KeysIn(const std::string& text) {
         static const std::regex key(
-            "(Ctrl|Shift|Alt)(\\+[A-Za-z0-9,+-]+)+|F[1-9]|Insert|Delete|Enter|Home|Esc|Tab");
+            "((Ctrl|Shift|Alt)\\+)+(F[0-9]+|Enter|Up|Down|Tab|[A-Z0-9+,-])|F[1-9]|Insert|Delete|Enter|Home|"
+            "Esc|Tab");
         return {std::sregex_token_iterator(text.begin(), text.end(), key), std::sregex_token_iterator()};
     }
     static std::vector<std::string> TargetsIn(const std::string& text) {
@@ -147,10 +148,11 @@ TEST_P(ShippedGuide, LinksLeadToPagesMarksAndPicturesThatAreThere) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, ShippedGuide, testing::Values("en-US"), [](const auto& language) {
-    std::string name = language.param;
-    std::erase(name, '-');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(Languages, ShippedGuide, testing::Values("en-US", "zh-CN", "zh-TW"),
+                         [](const auto& language) {
+                             std::string name = language.param;
+                             std::erase(name, '-');
+                             return name;
+                         });
 
 }  // namespace Tarvik::Client
