@@ -3,6 +3,8 @@
 
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
+#include <fstream>
 
 #include <gtest/gtest.h>
 
@@ -21,6 +23,12 @@ constexpr Place kSetPortCalls{98, 122};
 constexpr Place kFirstPort{103, 84};
 
 ChildProcess::Start OnDisplay(const ClientTree& client, const std::string& display) {
+    // A data folder of somebody who has begun, so that no card asks how to.
+    const std::filesystem::path preferences = client.Data("preferences.json");
+    if (!std::filesystem::exists(preferences)) {
+        std::filesystem::create_directories(preferences.parent_path());
+        std::ofstream(preferences) << "{}";
+    }
     auto start = client.Words({"--lang", "en-US", "--theme", "light"});
     start.environment["DISPLAY"] = display;
     start.environment["QT_QPA_PLATFORM"] = "xcb";

@@ -44,6 +44,8 @@ Preferences Preferences::Read(const std::string& file, const std::vector<Languag
     Take(root, "server", read.server,
          [](const std::string& text) { return text.empty() || IsServerAddress(text); });
     Take(root, "user", read.user, [](const std::string&) { return true; });
+    const auto first = root.find("firstStart");
+    read.firstStart = first != root.end() && first->is_boolean() && first->get<bool>();
     const auto parts = root.find("chart");
     if (parts != root.end() && parts->is_object()) {
         for (const auto& [part, shown] : parts->items()) {
@@ -56,8 +58,9 @@ Preferences Preferences::Read(const std::string& file, const std::vector<Languag
 }
 
 bool Preferences::Write(const std::string& file, std::string& error) const {
-    const nlohmann::json root{{"language", language}, {"timeZone", timeZone}, {"theme", theme},
-                              {"server", server},     {"user", user},         {"chart", chartParts}};
+    const nlohmann::json root{{"language", language},    {"timeZone", timeZone}, {"theme", theme},
+                              {"server", server},        {"user", user},         {"chart", chartParts},
+                              {"firstStart", firstStart}};
     const std::string fresh = file + ".new";
     {
         std::ofstream out(fresh, std::ios::binary | std::ios::trunc);

@@ -27,6 +27,8 @@ struct Preferences {
     /// Parts of the chart that a person showed or hid, by the chart's names; the others are as the chart has
     /// them.
     std::map<std::string, bool> chartParts{};
+    /// Whether a person who started for the first time has still to choose how to begin.
+    bool firstStart = false;
 
     /// What the file says; the usual values for whatever it lacks or says wrongly, and for a file that is
     /// none. A language that is not among `languages` is wrong.

@@ -2,6 +2,7 @@
 #include "host/client/session/ClientSession.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <utility>
 
 #include <tarvik/bus/BusCall.h>
@@ -19,6 +20,13 @@ namespace Tarvik::Client {
 namespace {
 
 constexpr std::size_t kLogBytes = 1024 * 1024;
+constexpr const char* kVoyages = "/voyages.db";
+
+/// Whether nobody has begun in a data folder: it has neither preferences nor voyages.
+bool IsUntouched(const std::string& preferences, const std::string& voyages) {
+    std::error_code failed;
+    return !std::filesystem::exists(preferences, failed) && !std::filesystem::exists(voyages, failed);
+}
 
 }  // namespace
 
@@ -67,6 +75,8 @@ bool ClientSession::Start(const SessionOptions& options, std::string& error) {
 
 void ClientSession::TakeOptions(const SessionOptions& options) {
     preferences_ = Preferences::Read(PreferencesFile(), LanguageFiles::In(folders_.Languages()));
+    preferences_.firstStart =
+        preferences_.firstStart || IsUntouched(PreferencesFile(), folders_.Data() + kVoyages);
     if (!options.language.empty()) {
         preferences_.language = options.language;
     }
@@ -99,7 +109,7 @@ std::unique_ptr<ServerLink> ClientSession::MakeLink(const std::string& server, s
         return link;
     }
     auto embedded =
-        std::make_unique<EmbeddedLink>(folders_.Data() + "/voyages.db", folders_.ShareFile("network.bin"));
+        std::make_unique<EmbeddedLink>(folders_.Data() + kVoyages, folders_.ShareFile("network.bin"));
     if (!embedded->Connect(error)) {
         return nullptr;
     }

@@ -36,6 +36,8 @@ class MainWindow : public QMainWindow {
     /// Takes new preferences into use. Another server or zone comes only once the panels have closed with
     /// their questions; when one stays, nothing changes.
     void Prefer(const Preferences& preferences);
+    /// Asks for preferences and takes them; with `atServer` the keyboard is on the server's address.
+    void OpenPreferences(bool atServer = false);
     /// Gives the keyboard to the next of the client's open windows, or with -1 to the one before.
     void NextWindow(int step);
 
@@ -62,7 +64,6 @@ class MainWindow : public QMainWindow {
                                         const std::string& failure);
     void NextTheme();
     void NextLanguage();
-    void OpenPreferences();
     /// Shows the ships of the feed, or hides them.
     static void ToggleShips();
     QString Word(const char* key) const;

@@ -45,8 +45,11 @@ void MainWindow::NextLanguage() {
     }
 }
 
-void MainWindow::OpenPreferences() {
+void MainWindow::OpenPreferences(bool atServer) {
     PreferencesDialog dialog(this, session_.Texts(), session_.Preferred());
+    if (atServer) {
+        dialog.AskForServer();
+    }
     if (dialog.exec() == QDialog::Accepted) {
         Prefer(dialog.Chosen());
         dialog.TakePages();

@@ -158,6 +158,10 @@ void PreferencesDialog::AskAgain(QLineEdit* field) {
     field->selectAll();
 }
 
+void PreferencesDialog::AskForServer() {
+    server_->setFocus();
+}
+
 Preferences PreferencesDialog::Chosen() const {
     Preferences chosen = current_;
     chosen.language = language_->currentData().toString().toStdString();

@@ -23,6 +23,8 @@ class PreferencesDialog : public QDialog {
   public:
     PreferencesDialog(QWidget* parent, const LanguageFiles& texts, const Preferences& current);
     Preferences Chosen() const;
+    /// Puts the keyboard on the server's address.
+    void AskForServer();
     /// Lets each plug-in take what was typed on its page.
     void TakePages() const;
 

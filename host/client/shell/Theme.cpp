@@ -37,6 +37,14 @@ QDialog QListWidget#helpPages:focus, QDialog QTextBrowser#helpText:focus { borde
 QDialog QListWidget#helpPages::item { padding: 4px; color: @text; }
 QDialog QListWidget#helpPages::item:selected { background: @accent; color: @accentText; }
 QDialog QLabel#helpFound { color: @shellSecondary; }
+QFrame#firstStart { background: @panel; border: 1px solid @shellBorder; border-radius: 6px; }
+QFrame#firstStart QLabel { color: @text; background: transparent; }
+QFrame#firstStart QLabel#firstTitle { font-weight: bold; }
+QFrame#firstStart QLabel#firstNote, QFrame#firstStart QLabel#firstHint { color: @shellSecondary; }
+QFrame#firstStart QPushButton { background: @window; color: @text; border: 1px solid @shellBorder; border-radius: 4px;
+    min-height: 28px; }
+QFrame#firstStart QPushButton:hover { border-color: @accent; }
+QFrame#firstStart QPushButton:focus { border: 2px solid @accent; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QMessageBox { background: @window; }
 QMessageBox QLabel { color: @text; }

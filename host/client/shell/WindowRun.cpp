@@ -8,6 +8,7 @@
 
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/shell/Desk.h"
+#include "host/client/shell/FirstStart.h"
 #include "host/client/shell/QtServices.h"
 #include "host/client/shell/Runs.h"
 
@@ -76,6 +77,8 @@ int RunWindow(int argc, char** argv, const CommandLine& line) {
         return TakePicture(desk, line);
     }
     desk.Window().FitScreen(desk.Window().screen()->availableGeometry());
+    FirstStart first(desk.Window(), *session);
+    first.Offer();
     desk.Window().show();
     desk.TellComplaints();
     return QApplication::exec();

@@ -23,6 +23,7 @@ TEST(Preferences, ComeBackAsTheyWereWritten) {
     Preferences written = chosen;
     written.timeZone = "UTC";
     written.chartParts = {{"names", false}, {"daylight", true}};
+    written.firstStart = true;
     std::string error;
     ASSERT_TRUE(written.Write(folder.File("p.json"), error)) << error;
     EXPECT_EQ(Preferences::Read(folder.File("p.json"), kLanguages), written);
