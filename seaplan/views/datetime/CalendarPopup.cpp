@@ -76,26 +76,26 @@ QLayout* CalendarPopup::MakeHead() {
 }
 
 void CalendarPopup::MakeText(QVBoxLayout& rows) {
-    text_ = new QLineEdit(this);
-    text_->setObjectName(QStringLiteral("dateText"));
-    note_ = new QLabel(this);
-    note_->setObjectName(QStringLiteral("dateNote"));
-    note_->setWordWrap(true);
-    note_->setTextFormat(Qt::PlainText);
-    note_->setProperty("secondary", true);
-    text_->hide();
-    note_->hide();
-    rows.addWidget(text_);
-    rows.addWidget(note_);
+    whole_.text = new QLineEdit(this);
+    whole_.text->setObjectName(QStringLiteral("dateText"));
+    whole_.note = new QLabel(this);
+    whole_.note->setObjectName(QStringLiteral("dateNote"));
+    whole_.note->setWordWrap(true);
+    whole_.note->setTextFormat(Qt::PlainText);
+    whole_.note->setProperty("secondary", true);
+    whole_.text->hide();
+    whole_.note->hide();
+    rows.addWidget(whole_.text);
+    rows.addWidget(whole_.note);
 }
 
 QLayout* CalendarPopup::MakeTime() {
     auto* time = new QHBoxLayout();
     time->addStretch(1);
-    hour_ = new TimeField(this, time, "hour", TimePart::Hour);
-    colon_ = new QLabel(QStringLiteral(":"), this);
-    time->addWidget(colon_);
-    minute_ = new TimeField(this, time, "minute", TimePart::Minute);
+    time_.hour = new TimeField(this, time, "hour", TimePart::Hour);
+    time_.colon = new QLabel(QStringLiteral(":"), this);
+    time->addWidget(time_.colon);
+    time_.minute = new TimeField(this, time, "minute", TimePart::Minute);
     time->addStretch(1);
     return time;
 }
@@ -120,14 +120,14 @@ QLayout* CalendarPopup::MakeButtons() {
 
 void CalendarPopup::Attach(CTrvCalDlg* panel) {
     panel_ = panel;
-    hour_->Attach(panel);
-    minute_->Attach(panel);
+    time_.hour->Attach(panel);
+    time_.minute->Attach(panel);
     days_->SetReport([panel](int cell) { panel->OnDay(cell); });
     connect(steps_[PreviousYear], &QToolButton::clicked, this, [panel] { panel->OnYear(-1); });
     connect(steps_[PreviousMonth], &QToolButton::clicked, this, [panel] { panel->OnMonth(-1); });
     connect(steps_[NextMonth], &QToolButton::clicked, this, [panel] { panel->OnMonth(1); });
     connect(steps_[NextYear], &QToolButton::clicked, this, [panel] { panel->OnYear(1); });
-    connect(text_, &QLineEdit::textEdited, this,
+    connect(whole_.text, &QLineEdit::textEdited, this,
             [panel](const QString& text) { panel->OnTextTyped(text.toStdString()); });
     connect(end_.ok, &QPushButton::clicked, this, [panel] { panel->OnOk(); });
     connect(end_.cancel, &QPushButton::clicked, this, [panel] { panel->Hide(); });
@@ -145,7 +145,7 @@ void CalendarPopup::keyPressEvent(QKeyEvent* event) {
     if (panel_ == nullptr || panel_->OnWindowKey(PressOf(*event).key)) {
         return;
     }
-    if (const QString text = TextOf(*event).trimmed(); !text.isEmpty() && text_->isHidden()) {
+    if (const QString text = TextOf(*event).trimmed(); !text.isEmpty() && whole_.text->isHidden()) {
         return panel_->OnTextTyped(text.toStdString());
     }
     QFrame::keyPressEvent(event);
@@ -164,17 +164,17 @@ void CalendarPopup::hideEvent(QHideEvent* event) {
 /// A date that is typed whole stands in a field of its own, with the keyboard in it from its first letter on.
 void CalendarPopup::ShowText(const CalendarState& state) {
     const bool typed = state.text.has_value();
-    const bool begins = typed && text_->isHidden();
-    const bool ends = !typed && !text_->isHidden();
-    if (typed && text_->text() != QString::fromStdString(*state.text)) {
-        text_->setText(QString::fromStdString(*state.text));
+    const bool begins = typed && whole_.text->isHidden();
+    const bool ends = !typed && !whole_.text->isHidden();
+    if (typed && whole_.text->text() != QString::fromStdString(*state.text)) {
+        whole_.text->setText(QString::fromStdString(*state.text));
     }
-    text_->setVisible(typed);
-    note_->setText(QString::fromStdString(state.note));
-    note_->setVisible(typed);
+    whole_.text->setVisible(typed);
+    whole_.note->setText(QString::fromStdString(state.note));
+    whole_.note->setVisible(typed);
     if (begins) {
-        text_->setFocus();
-        text_->end(false);
+        whole_.text->setFocus();
+        whole_.text->end(false);
     } else if (ends) {
         days_->FocusChosen();
     }
@@ -188,16 +188,16 @@ void CalendarPopup::ShowState(const CalendarState& state) {
     days_->Show(state);
     const bool timed = !state.dateOnly;
     typingHour_ = state.typing == TimePart::Hour;
-    hour_->Show(state.hour, timed, typingHour_);
-    minute_->Show(state.minute, timed, state.typing == TimePart::Minute);
-    for (QWidget* widget : std::initializer_list<QWidget*>{colon_, end_.ok, end_.cancel}) {
+    time_.hour->Show(state.hour, timed, typingHour_);
+    time_.minute->Show(state.minute, timed, state.typing == TimePart::Minute);
+    for (QWidget* widget : std::initializer_list<QWidget*>{time_.colon, end_.ok, end_.cancel}) {
         widget->setVisible(timed);
     }
     ShowText(state);
 }
 
 void CalendarPopup::FillEdit(const std::string& text) {
-    (typingHour_ ? hour_ : minute_)->FillEdit(text);
+    (typingHour_ ? time_.hour : time_.minute)->FillEdit(text);
 }
 
 void CalendarPopup::Open(Point corner) {
@@ -216,13 +216,14 @@ void CalendarPopup::ApplyTexts() {
     end_.cancel->setText(HostLabel(u"IDCANCEL", u"Cancel"));
     Skin::Describe(end_.ok, end_.ok->text());
     Skin::Describe(end_.cancel, end_.cancel->text());
-    text_->setAccessibleName(ViewText(TextIds::IDS_VIEW_DATETEXT));
+    whole_.text->setAccessibleName(ViewText(TextIds::IDS_VIEW_DATETEXT));
     Skin::Describe(steps_[PreviousYear], ViewText(TextIds::IDS_VIEW_PREVYEAR));
     Skin::Describe(steps_[NextYear], ViewText(TextIds::IDS_VIEW_NEXTYEAR));
     Skin::Describe(steps_[PreviousMonth], ViewText(TextIds::IDS_VIEW_PREVMONTH));
     Skin::Describe(steps_[NextMonth], ViewText(TextIds::IDS_VIEW_NEXTMONTH));
-    hour_->ApplyTexts(TextIds::IDS_VIEW_HOUR, TextIds::IDS_VIEW_HOURUP, TextIds::IDS_VIEW_HOURDOWN);
-    minute_->ApplyTexts(TextIds::IDS_VIEW_MINUTE, TextIds::IDS_VIEW_MINUTEUP, TextIds::IDS_VIEW_MINUTEDOWN);
+    time_.hour->ApplyTexts(TextIds::IDS_VIEW_HOUR, TextIds::IDS_VIEW_HOURUP, TextIds::IDS_VIEW_HOURDOWN);
+    time_.minute->ApplyTexts(TextIds::IDS_VIEW_MINUTE, TextIds::IDS_VIEW_MINUTEUP,
+                             TextIds::IDS_VIEW_MINUTEDOWN);
 }
 
 void CalendarPopup::ApplySkin() {

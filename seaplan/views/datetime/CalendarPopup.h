@@ -52,12 +52,17 @@ class CalendarPopup final : public QFrame, public CalendarView {
     CTrvCalDlg* panel_ = nullptr;
     std::array<QToolButton*, 4> steps_{};  ///< year and month back, month and year on
     QLabel* heading_;
-    QLineEdit* text_;  ///< a date that is typed whole
-    QLabel* note_;     ///< how that is understood
+    /// A date that is typed whole, and how it is understood.
+    struct {
+        QLineEdit* text;
+        QLabel* note;
+    } whole_{};
     DayGrid* days_;
-    TimeField* hour_;
-    TimeField* minute_;
-    QLabel* colon_;
+    struct {
+        TimeField* hour;
+        QLabel* colon;
+        TimeField* minute;
+    } time_{};
     struct {
         QPushButton* ok;
         QPushButton* cancel;
