@@ -20,10 +20,10 @@
 #include "seaplan/views/book/BookWindow.h"
 #include "seaplan/views/bunker/BunkerWindow.h"
 #include "seaplan/views/distances/KeepTableWindow.h"
+#include "seaplan/views/editors/KeysOfWindows.h"
 #include "seaplan/views/mainview/VoyagePanelWindow.h"
 #include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/remark/RemarkWindow.h"
-#include "seaplan/views/window/KeysOfWindows.h"
 #include "seaplan/views/window/PanelPlace.h"
 
 namespace Tarvik::Seaplan {

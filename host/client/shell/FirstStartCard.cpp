@@ -11,7 +11,7 @@ namespace Tarvik::Client {
 
 namespace {
 
-constexpr int kWidth = 360;
+constexpr int kCardWidth = 360;
 constexpr int kEdge = 20;
 constexpr int kGap = 12;
 
@@ -32,7 +32,7 @@ constexpr std::array kWays = {
 FirstStartCard::FirstStartCard(QWidget* chart)
     : QFrame(chart), title_(new QLabel(this)), hint_(new QLabel(this)) {
     setObjectName("firstStart");
-    setFixedWidth(kWidth);
+    setFixedWidth(kCardWidth);
     title_->setObjectName("firstTitle");
     hint_->setObjectName("firstHint");
     auto* column = new QVBoxLayout(this);
@@ -74,7 +74,7 @@ void FirstStartCard::ApplyTexts(const Words& words) {
 }
 
 void FirstStartCard::Place() {
-    resize(kWidth, layout()->totalHeightForWidth(kWidth));
+    resize(kCardWidth, layout()->totalHeightForWidth(kCardWidth));
     const QSize room = parentWidget()->size() - size();
     move(std::max(0, room.width() / 2), std::max(0, room.height() / 2));
 }
