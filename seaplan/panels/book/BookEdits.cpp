@@ -10,6 +10,7 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/BookTexts.h"
+#include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/tree/TreeRules.h"
 

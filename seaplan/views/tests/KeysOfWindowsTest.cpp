@@ -3,6 +3,7 @@
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/views/tests/PortCallWindowFixture.h"
+#include "seaplan/views/tree/VoyageTreeView.h"
 
 namespace Tarvik::Seaplan {
 

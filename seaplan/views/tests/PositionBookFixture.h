@@ -5,6 +5,7 @@
 #include <QListWidget>
 
 #include "seaplan/views/book/BookWindow.h"
+#include "seaplan/views/portcall/PortCallWindow.h"
 #include "seaplan/views/tests/ViewsFixture.h"
 
 namespace Tarvik::Seaplan {
