@@ -82,7 +82,7 @@ void ChartObjects::AddLayer(const Interface::TrvMapLayerParams& layer) {
 
 bool ChartObjects::RemoveLayer(const std::string& layer) {
     const bool known = layers_.erase(layer) != 0;
-    return RemoveIf([&](const ObjectKey& key) { return key.layer == layer; }) > 0 || known;
+    return RemoveFrom({layer, "", ""}, [&](const ObjectKey& key) { return key.layer == layer; }) > 0 || known;
 }
 
 bool ChartObjects::AddLine(const Interface::TrvMapLineParams& line) {
@@ -153,7 +153,8 @@ int ChartObjects::Remove(const Interface::TrvMapObjectList& list) {
 }
 
 int ChartObjects::RemoveType(const std::string& layer, const std::string& type) {
-    return RemoveIf([&](const ObjectKey& key) { return key.layer == layer && key.type == type; });
+    return RemoveFrom({layer, type, ""},
+                      [&](const ObjectKey& key) { return key.layer == layer && key.type == type; });
 }
 
 const ChartObject* ChartObjects::Find(const ObjectKey& key) const {
@@ -190,13 +191,9 @@ void ChartObjects::Put(const Interface::TrvMapObjectRef& ref,
     Changed();
 }
 
-int ChartObjects::RemoveIf(const std::function<bool(const ObjectKey&)>& test) {
+int ChartObjects::RemoveFrom(const ObjectKey& first, const std::function<bool(const ObjectKey&)>& belongs) {
     int removed = 0;
-    for (auto place = places_.begin(); place != places_.end();) {
-        if (!test(place->first)) {
-            ++place;
-            continue;
-        }
+    for (auto place = places_.lower_bound(first); place != places_.end() && belongs(place->first);) {
         objects_.erase(place->second);
         place = places_.erase(place);
         ++removed;

@@ -119,7 +119,8 @@ class ChartObjects {
 
   private:
     void Put(const Interface::TrvMapObjectRef& ref, std::variant<ChartLine, ChartLabel, ChartImage> shape);
-    int RemoveIf(const std::function<bool(const ObjectKey&)>& test);
+    /// Removes from the first object that does not lie before a key on, as long as they belong there.
+    int RemoveFrom(const ObjectKey& first, const std::function<bool(const ObjectKey&)>& belongs);
     void Changed();
 
     std::map<std::string, Interface::TrvMapLayerParams> layers_;

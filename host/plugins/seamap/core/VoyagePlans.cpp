@@ -112,15 +112,13 @@ std::size_t VoyagePlans::TintFor(const std::string& id) const {
     if (const auto known = plans_.find(id); known != plans_.end()) {
         return known->second.tint;
     }
-    std::size_t tint = 0;
-    const auto isTaken = [this, &tint] {
-        return std::any_of(plans_.begin(), plans_.end(),
-                           [tint](const auto& other) { return other.second.tint == tint; });
-    };
-    while (isTaken()) {
-        ++tint;
+    std::vector<bool> taken(plans_.size() + 1, false);
+    for (const auto& [other, plan] : plans_) {
+        if (plan.tint < plans_.size()) {
+            taken[plan.tint] = true;
+        }
     }
-    return tint;
+    return static_cast<std::size_t>(std::find(taken.begin(), taken.end(), false) - taken.begin());
 }
 
 const VoyagePlan* VoyagePlans::Find(const std::string& layer, const std::string& id) const {

@@ -185,12 +185,15 @@ void ChartTools::TakePointer(std::optional<GeoPoint> place) {
 }
 
 void ChartTools::ToggleTime() {
-    TakePlans();
+    time_->TakePlans(chart_.Plans());
     time_->Turn(time_->isHidden());
 }
 
 void ChartTools::TakePlans() {
-    time_->TakePlans(chart_.Plans());
+    // Hundreds of plans come at once when pinned voyages are drawn: a bar that is not shown asks when it is.
+    if (!time_->isHidden()) {
+        time_->TakePlans(chart_.Plans());
+    }
     TakeParts();
 }
 

@@ -126,10 +126,18 @@ TEST(ChartObjects, RemovesAllOfATypeInOneLayer) {
     objects.AddLine(LineOf("1", {"0,0", "1,1"}));
     objects.AddLine(LineOf("2", {"0,0", "1,1"}));
     objects.AddLabel(LabelOf("1", "1,1", "stays"));
+    // The neighbours of the type in the order of the keys.
+    objects.AddImage({{"K", "1", "T"}, "ship", "1,1"});
+    objects.AddImage({{"L", "1", "S"}, "ship", "1,1"});
+    objects.AddImage({{"L", "1", "TT"}, "ship", "1,1"});
+    objects.AddImage({{"LL", "1", "T"}, "ship", "1,1"});
     EXPECT_EQ(objects.RemoveType("L", "T"), 2);
     EXPECT_EQ(objects.RemoveType("L", "T"), 0);
     EXPECT_EQ(objects.RemoveType("M", "P"), 0);
-    EXPECT_EQ(objects.Count(), 1u);
+    EXPECT_EQ(objects.Count(), 5u);
+    EXPECT_FALSE(objects.RemoveLayer("KK"));
+    EXPECT_TRUE(objects.RemoveLayer("K"));
+    EXPECT_EQ(objects.Count(), 4u);
 }
 
 TEST(ChartObjects, RemovingALayerTakesItsObjects) {
