@@ -66,7 +66,7 @@ void HelpWindow::Connect() {
         }
     });
     connect(text_, &QTextBrowser::anchorClicked, this,
-            [this](const QUrl& link) { Follow(link.toString(QUrl::FullyDecoded)); });
+            [this](const QUrl& link) { Follow(link.path(), link.fragment()); });
     for (const auto& [key, by] :
          {std::pair(QKeySequence("F3"), 1), std::pair(QKeySequence("Shift+F3"), -1)}) {
         connect(new QShortcut(key, this), &QShortcut::activated, this, [this, step = by] { Step(step); });
@@ -104,8 +104,9 @@ void HelpWindow::ShowTopic(const QString& topic) {
     search_->clear();
     const auto place = guide_.Find(topic.toStdString()).value_or(Guide::Place());
     ShowPage(place.page);
-    text_->ShowHeading(place.heading);
+    // The heading's place is known only once the window has its size.
     show();
+    text_->ShowHeading(place.heading);
     raise();
     activateWindow();
     search_->setFocus();
@@ -126,9 +127,7 @@ void HelpWindow::ShowPage(std::size_t page) {
     TellHit();
 }
 
-void HelpWindow::Follow(const QString& link) {
-    const QString mark = link.section('#', 1);
-    const QString file = link.section('#', 0, 0);
+void HelpWindow::Follow(const QString& file, const QString& mark) {
     const auto page = guide_.PageNamed(file.chopped(file.endsWith(".md") ? 3 : 0).toStdString());
     ShowPage(page.value_or(page_));
     if (const auto place = guide_.Find(mark.toStdString()); place && place->page == page_) {

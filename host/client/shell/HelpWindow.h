@@ -39,7 +39,8 @@ class HelpWindow final : public QDialog {
     void Lay();
     void Connect();
     void ShowPage(std::size_t page);
-    void Follow(const QString& link);
+    /// Shows the page of a file, or the one on show for an unknown one, and the heading of a mark on it.
+    void Follow(const QString& file, const QString& mark);
     void Search();
     /// Goes to the next hit, or with -1 to the one before, through all pages.
     void Step(int by);

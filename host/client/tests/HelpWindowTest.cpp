@@ -70,6 +70,17 @@ TEST_F(HelpWindowTest, ATopicIsShownAtItsHeading) {
     EXPECT_EQ(Heading(), "Consumption");
 }
 
+TEST_F(HelpWindowTest, TheFirstTopicOfANewWindowIsShownAtItsHeadingToo) {
+    HelpWindow fresh(nullptr, [](const char* key) { return QString(key); }, CLIENT_GUIDE);
+    fresh.Load(kReferenceLanguage);
+    fresh.ShowTopic("func033");
+    auto& text = *fresh.findChild<GuideView*>("helpText");
+    EXPECT_EQ(text.textCursor().block().text(), "The voyages");
+    EXPECT_GT(text.verticalScrollBar()->value(), 0);
+    EXPECT_TRUE(text.viewport()->rect().contains(text.cursorRect().center()));
+    EXPECT_LT(text.cursorRect().top(), text.viewport()->height() / 4);
+}
+
 TEST_F(HelpWindowTest, APageHasTheKeysOfItsPanel) {
     help_.ShowTopic("func035");
     EXPECT_TRUE(Text().toPlainText().contains("Show or hide the waypoints behind the row"));
