@@ -2,10 +2,12 @@
 # SPDX-License-Identifier: MIT
 # Makes the pictures of docs/pictures from the real client: a planned voyage with the voyage and port call panels open, its
 # position book, the port distance table and the ways past its route points compared, each in the light look, the dark
-# one, and in Chinese; and the alternatives of a passage of a new voyage. Usage: scripts/pictures.sh [BUILD-FOLDER]
+# one, and in Chinese; and the alternatives of a passage of a new voyage. Then those of the user's guide.
+# Usage: scripts/pictures.sh [BUILD-FOLDER [guide]]: with "guide" these alone.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 . scripts/prepare.sh
+. scripts/guide_pictures.sh
 build=${1:-build/release}
 client=$build/bin/tarvik
 pictures=docs/pictures
@@ -202,10 +204,17 @@ distances() {
     --save "Liner/RTM-SHA 12" >/dev/null || fail "the sample voyage was not planned"
 "$client" --data "$work/data" plan Shanghai "Los Angeles" --speed 16 --depart "2027-01-08 06:00" \
     --save "Liner/SHA-LAX 01" >/dev/null || fail "the sample voyage was not planned"
-picture client-light light en-US
-picture client-dark dark en-US
-picture client-chinese light zh-CN
-alternatives
-distances light light en-US
-distances dark dark en-US
-distances chinese light zh-CN
+if [ "${2:-}" != guide ]; then
+    # The cards of a first start have a picture of their own in the guide.
+    mkdir -p "$work/fresh" && echo '{}' >"$work/fresh/preferences.json"
+    picture client-light light en-US
+    picture client-dark dark en-US
+    picture client-chinese light zh-CN
+    alternatives
+    distances light light en-US
+    distances dark dark en-US
+    distances chinese light zh-CN
+fi
+for language in en-US zh-CN zh-TW; do
+    guide_pictures "$language"
+done

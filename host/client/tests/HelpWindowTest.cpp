@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QGuiApplication>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -151,6 +152,16 @@ TEST_F(HelpWindowTest, ThePageIsChosenInTheListAndMovedFromTheSearch) {
     EXPECT_EQ(Text().verticalScrollBar()->value(), 0);
     QTest::keyClick(&Search(), Qt::Key_PageDown);
     EXPECT_GT(Text().verticalScrollBar()->value(), 0);
+}
+
+TEST_F(HelpWindowTest, PicturesAreReadAndNoWiderThanThePage) {
+    const QUrl name("../pictures/en-US/first-voyage.png");
+    const auto picture = Text().loadResource(QTextDocument::ImageResource, name).value<QImage>();
+    ASSERT_FALSE(picture.isNull());
+    EXPECT_LE(picture.deviceIndependentSize().width(), Text().viewport()->width());
+    EXPECT_GT(picture.width(), 300);
+    EXPECT_FALSE(Text().loadResource(QTextDocument::ImageResource, QUrl("../pictures/none.png")).isValid());
+    EXPECT_FALSE(Text().loadResource(QTextDocument::ImageResource, QUrl("http://a.example/b.png")).isValid());
 }
 
 TEST_F(HelpWindowTest, AllControlsHaveNamesAndAreReachedByTab) {
