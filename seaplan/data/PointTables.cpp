@@ -6,6 +6,7 @@
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/data/TableRows.h"
+#include "seaplan/data/VoyPositionBook.h"
 
 namespace Tarvik::Seaplan {
 

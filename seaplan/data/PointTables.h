@@ -4,8 +4,6 @@
 #include <map>
 #include <string>
 
-#include "seaplan/data/VoyPositionBook.h"
-
 /// Reading the local table t_point, one statement a part. PortDirectory asks; who needs a part asks it. Every
 /// function gives 0, or -1 with the map as it was when the database cannot be read.
 namespace Tarvik::Seaplan {

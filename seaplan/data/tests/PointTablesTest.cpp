@@ -8,6 +8,7 @@
 #include <tarvik/util/FileUtl.h>
 
 #include "seaplan/data/PointTables.h"
+#include "seaplan/data/VoyPositionBook.h"
 
 namespace Tarvik::Seaplan {
 

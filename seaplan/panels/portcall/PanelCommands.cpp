@@ -12,6 +12,8 @@
 #include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/portcall/PortCallParts.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
+#include "seaplan/panels/portcall/RouteChoice.h"
+#include "seaplan/panels/portcall/TableCalculation.h"
 #include "seaplan/panels/portcall/VoyageFilling.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
@@ -48,11 +50,13 @@ PanelCommands::PanelCommands(PortCallDesk& desk, CellEditing& editing, Corrected
       editing_(editing),
       corrected_(corrected),
       filling_(filling),
-      calculation_(desk, filling),
-      ways_(desk),
+      calculation_(std::make_unique<TableCalculation>(desk, filling)),
+      ways_(std::make_unique<RouteChoice>(desk)),
       questions_(desk, editing) {
     desk_.SetFollower([this] { questions_.Follow(); });
 }
+
+PanelCommands::~PanelCommands() = default;
 
 void PanelCommands::OnCalculate() {
     const PortCallDesk::Report report(desk_);
@@ -62,7 +66,7 @@ void PanelCommands::OnCalculate() {
         return;
     }
     if (corrected <= 0) {
-        TellCalculated(desk_, calculation_.Calculate());
+        TellCalculated(desk_, calculation_->Calculate());
     } else if (corrected_.Calculate() != 0) {
         TellFailure(desk_, TextIds::IDS_PORTCALL_AISCOMPUTWARN);
     }
@@ -75,7 +79,7 @@ void PanelCommands::OnRouteAnew() {
     if (desk_.IsCorrected()) {
         return TellInStatusLine(Text(TextIds::IDS_VIEW_ANEWCORRECTED));
     }
-    const auto taken = calculation_.CalculateAnew([this](const PortCallRows& now, const PortCallRows& anew) {
+    const auto taken = calculation_->CalculateAnew([this](const PortCallRows& now, const PortCallRows& anew) {
         desk_.Show();
         return desk_.View().AskRows(PreviewOfRoute(now, anew, desk_.Sheet().Units()), {});
     });
@@ -89,7 +93,7 @@ void PanelCommands::OnRouteAnew() {
 void PanelCommands::OnCompareWays() {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
-    const auto chosen = ways_.Choose();
+    const auto chosen = ways_->Choose();
     if (!chosen.Failed()) {
         OnRouteChosen();
     } else if (chosen.At() != WaysStep::Left) {
@@ -105,7 +109,7 @@ int PanelCommands::OnRouteChosen() {
     }
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
-    const auto followed = calculation_.FollowRoute();
+    const auto followed = calculation_->FollowRoute();
     if (!followed.Failed() || followed.At() == FollowStep::Show) {
         desk_.History().Take({TextIds::IDS_VIEW_EDITROUTE});
     }
@@ -135,7 +139,7 @@ void PanelCommands::OnSave() {
 
 void PanelCommands::SavePlain() {
     const PortCallDesk::Report report(desk_);
-    const auto saved = calculation_.Save(DrawMode::Progress);
+    const auto saved = calculation_->Save(DrawMode::Progress);
     if (!saved.Failed()) {
         desk_.Sheet().MarkUnchanged();
         desk_.Sheet().state.canOpenBook = true;
@@ -151,7 +155,7 @@ int PanelCommands::SaveBeforeLeaving() {
     const bool known = desk_.Voyages().GetModAis(desk_.Sheet().voyageId, corrected) == 0;
     // Rows of a corrected voyage hold the ship's positions, which are no port calls.
     if (known &&
-        (corrected > 0 ? corrected_.Calculate() == 0 : !calculation_.Save(DrawMode::Nothing).Failed())) {
+        (corrected > 0 ? corrected_.Calculate() == 0 : !calculation_->Save(DrawMode::Nothing).Failed())) {
         return 0;
     }
     TellFailure(desk_, TextIds::IDS_PORTCALL_SAVEEXCEPTION);

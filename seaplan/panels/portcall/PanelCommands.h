@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/PosBookData.h"
-#include "seaplan/panels/portcall/RouteChoice.h"
-#include "seaplan/panels/portcall/TableCalculation.h"
 #include "seaplan/panels/portcall/WhatIf.h"
 
 namespace Tarvik::Seaplan {
@@ -15,6 +14,8 @@ namespace Tarvik::Seaplan {
 class CellEditing;
 class CorrectedSchedule;
 class PortCallDesk;
+class RouteChoice;
+class TableCalculation;
 class VoyageFilling;
 
 /// The buttons around the table. Each takes what is being typed first.
@@ -22,6 +23,7 @@ class PanelCommands {
   public:
     PanelCommands(PortCallDesk& desk, CellEditing& editing, CorrectedSchedule& corrected,
                   VoyageFilling& filling);
+    ~PanelCommands();
     PanelCommands(const PanelCommands&) = delete;
     PanelCommands& operator=(const PanelCommands&) = delete;
 
@@ -68,8 +70,8 @@ class PanelCommands {
     CellEditing& editing_;
     CorrectedSchedule& corrected_;
     VoyageFilling& filling_;
-    TableCalculation calculation_;
-    RouteChoice ways_;
+    std::unique_ptr<TableCalculation> calculation_;
+    std::unique_ptr<RouteChoice> ways_;
     WhatIf questions_;
     std::string bookVoyage_;  ///< the voyage whose book was opened last
 };

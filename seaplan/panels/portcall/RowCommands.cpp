@@ -6,6 +6,7 @@
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CellEditing.h"
+#include "seaplan/panels/portcall/PasteRows.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/remark/CRemarkPanel.h"
@@ -13,6 +14,15 @@
 #include "seaplan/panels/window/StatusWords.h"
 
 namespace Tarvik::Seaplan {
+
+RowCommands::RowCommands(PortCallDesk& desk, CellEditing& editing)
+    : desk_(desk), editing_(editing), edits_(desk), paste_(std::make_unique<PasteRows>(desk, editing)) {}
+
+RowCommands::~RowCommands() = default;
+
+void RowCommands::Paste(int row) {
+    paste_->OnPaste(row);
+}
 
 int RowCommands::ShowMoved(int result, const PortCallRows& rows) {
     if (result == 0) {
@@ -176,7 +186,7 @@ bool RowCommands::OnChosenKey(KeyPress press, int row, int column) {
     } else if (press.ctrl && press.key == Key::Enter) {
         PutInChosen(row, column);
     } else if (press.ctrl && press.key == Key::V) {
-        paste_.OnPaste(row);
+        Paste(row);
     } else {
         return false;
     }

@@ -1,25 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "seaplan/data/VoyPortCall.h"
 #include "seaplan/panels/editors/Keys.h"
 #include "seaplan/panels/portcall/CellEdits.h"
-#include "seaplan/panels/portcall/PasteRows.h"
 
 namespace Tarvik::Seaplan {
 
 class CellEditing;
+class PasteRows;
 class PortCallDesk;
 
 /// What is done with a row of the table as a whole: moving, deleting and its remarks by the images at its
 /// end, and the keys of the table.
 class RowCommands {
   public:
-    RowCommands(PortCallDesk& desk, CellEditing& editing)
-        : desk_(desk), editing_(editing), edits_(desk), paste_(desk, editing) {}
+    RowCommands(PortCallDesk& desk, CellEditing& editing);
+    ~RowCommands();
+    RowCommands(const RowCommands&) = delete;
+    RowCommands& operator=(const RowCommands&) = delete;
 
     /// A press on "itemMoveUp", "itemMovedown", "itemdel" or "itemRemark" of a row. 0; -1 no port there; -2
     /// no such voyage or its position; -3 no such image; -4 a blank row stands above it, where only remarks
@@ -34,7 +37,7 @@ class RowCommands {
     /// a single one.
     void FillDown(int row, int column);
     /// Rows of the clipboard, from this one on: PasteRows::OnPaste.
-    void Paste(int row) { paste_.OnPaste(row); }
+    void Paste(int row);
     /// Puts the cell in front into the same column of all chosen rows.
     void PutInChosen(int row, int column);
 
@@ -49,7 +52,7 @@ class RowCommands {
     PortCallDesk& desk_;
     CellEditing& editing_;
     CellEdits edits_;
-    PasteRows paste_;
+    std::unique_ptr<PasteRows> paste_;
 };
 
 }  // namespace Tarvik::Seaplan

@@ -2,6 +2,7 @@
 /// Ctrl+V over port calls and distance table.
 #include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/portcall/RowCommands.h"
+#include "seaplan/panels/portcall/paste/PastedColumns.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
 #include "testsupport/DataFolder.h"
 

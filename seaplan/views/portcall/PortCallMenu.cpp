@@ -5,6 +5,7 @@
 
 #include "seaplan/panels/portcall/CPortCallPanelDlg.h"
 #include "seaplan/panels/portcall/PanelCommands.h"
+#include "seaplan/panels/portcall/PortCallSheet.h"
 #include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/texts/WhatIfTexts.h"
 #include "seaplan/views/portcall/PortCallButtons.h"
