@@ -57,18 +57,6 @@ void PortCallTable::SetPort(int row, const std::string& name, const std::string&
     rows_[row].Commit(texts, id);
 }
 
-VoyPortCall PortCallTable::ReadRow(int row) const {
-    VoyPortCall value = rows_[row].record;
-    if (IsBlankCell(Cell(row, ColEta))) {
-        value.eta = Util::_datetime_t();
-        ReadTimeCell(row == 0 ? start_ : kBlankCell, value.eta);
-    }
-    if (IsBlankCell(Cell(row, ColEtd))) {
-        value.etd = Util::_datetime_t();
-    }
-    return value;
-}
-
 void PortCallTable::Rebuild(int numbered, bool closing) {
     rows_.clear();
     rowCount_ = numbered;
@@ -86,55 +74,9 @@ void PortCallTable::Reset() {
     start_.clear();
 }
 
-PortCallRows PortCallTable::ReadRows() const {
-    return IsBlank(0) ? PortCallRows() : ReadAllRows();
-}
-
-PortCallRows PortCallTable::ReadAllRows() const {
-    PortCallRows out;
-    for (int row = 0; row < rowCount_; ++row) {
-        if (!IsBlank(row)) {
-            out.push_back(ReadRow(row));
-        }
-    }
-    return out;
-}
-
-int PortCallTable::CompactIndex(int row) const {
-    int index = 0;
-    for (int i = 0; i < row; ++i) {
-        index += IsBlank(i) ? 0 : 1;
-    }
-    return index;
-}
-
 void PortCallTable::ClearCells() {
     BlankCells(rows_);
     start_.clear();
-}
-
-int PortCallTable::FindLastAisRow() const {
-    for (int row = rowCount_ - 1; row >= 0; --row) {
-        const std::string& distance = Cell(row, ColDistance);
-        const bool moved = !IsBlankCell(distance) && distance != "0.00";
-        if (!IsBlank(row) && IsBlankCell(Cell(row, ColPurpose)) && moved) {
-            return row;
-        }
-    }
-    return -1;
-}
-
-bool PortCallTable::ReadRowsSplit(PortCallRows& before, PortCallRows& after) const {
-    const int last = FindLastAisRow();
-    if (last < 0) {
-        return false;
-    }
-    for (int row = 0; row < rowCount_; ++row) {
-        if (!IsBlank(row)) {
-            (row <= last ? before : after).push_back(ReadRow(row));
-        }
-    }
-    return true;
 }
 
 void PortCallTable::WriteRows(const PortCallRows& rows, bool corrected) {
@@ -221,36 +163,6 @@ void PortCallTable::GrowIfLast(int row) {
     }
     rows_.insert(rows_.begin() + rowCount_, MakeRow(std::to_string(rowCount_ + 1), RowClass::Normal));
     ++rowCount_;
-}
-
-int RowOfPlace(const PortCallTable& table, int place) {
-    int row = 0;
-    while (row < table.RowCount() - 1 && (table.IsBlank(row) || table.CompactIndex(row) != place)) {
-        ++row;
-    }
-    return row;
-}
-
-int FirstBlankRow(const PortCallTable& table) {
-    int row = 0;
-    while (row < table.RowCount() && !table.IsBlank(row)) {
-        ++row;
-    }
-    return row;
-}
-
-RowActions ActionsOf(const PortCallTable& table, int row) {
-    if (!table.IsNumbered(row) || table.IsBlank(row)) {
-        return {};
-    }
-    // A row operation takes the row's place in the table as a place among the rows with a port: below a blank
-    // row it would mean another row.
-    const bool meant = table.CompactIndex(row) == row;
-    const int filled = table.CompactIndex(table.RowCount());
-    // No port moves above the ship's position.
-    const bool belowShip =
-        row > 0 && table.Rows()[row - 1].look == RowClass::Highlighted && row - 1 == table.FindLastAisRow();
-    return {meant && row > 0 && !belowShip, meant && row + 1 < filled, meant, true};
 }
 
 }  // namespace Tarvik::Seaplan
