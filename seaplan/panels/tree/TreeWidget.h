@@ -22,9 +22,31 @@ inline constexpr const char* kDeletedVoyageStyle = "Voyage.tree.child.del";
 /// for, or it is put aside and not shown.
 enum class RowFinding { None, Found, Aside };
 
-/// The widget under the voyage tree: rows in two levels, each with named items. It reports presses and clicks
+/// The named items of the tree's rows: their texts, tips and whether they are shown. A row's own text is its
+/// name.
+class ItemsOfRows {
+  public:
+    virtual ~ItemsOfRows() = default;
+    virtual std::string GetItemText(TreeRow row) const = 0;
+    virtual void SetItemText(TreeRow row, const std::string& text) = 0;
+    virtual void SetDrawItemValue(TreeRow row, const std::string& item, const std::string& text) = 0;
+    virtual void SetDrawItemValueOfEventItem(TreeRow row, const std::string& item, const std::string& value,
+                                             const std::string& text) = 0;
+    virtual void SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) = 0;
+    /// Whether a row shows an item; an item that the row does not have counts as hidden.
+    virtual bool IsItemVisible(TreeRow row, const std::string& item) const = 0;
+    virtual void SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) = 0;
+    // What the rows of a style show where they were given nothing of their own. Rows on show are not painted
+    // for it.
+    virtual void SetToolTipsOfStyle(const std::string& style, const std::string& item,
+                                    const std::string& text) = 0;
+    virtual void SetDrawItemValueOfStyle(const std::string& style, const std::string& item,
+                                         const std::string& value, const std::string& text) = 0;
+};
+
+/// The widget under the voyage tree: rows in two levels, each with its items. It reports presses and clicks
 /// on items to SeaplanTreeCtrl and decides nothing.
-class TreeWidget : public BoxOwner, public BusySign {
+class TreeWidget : public BoxOwner, public BusySign, public ItemsOfRows {
   public:
     /// Appends a row below `parent`; kNoRow makes a category row.
     virtual TreeRow InsertItem(const std::string& text, const char* style, TreeRow parent) = 0;
@@ -49,21 +71,6 @@ class TreeWidget : public BoxOwner, public BusySign {
     virtual RowFinding GetRowFinding(TreeRow row) const = 0;
     /// Rectangle of a row in pixels of the tree's window.
     virtual Rect GetItemRect(TreeRow row) const = 0;
-    virtual std::string GetItemText(TreeRow row) const = 0;
-    virtual void SetItemText(TreeRow row, const std::string& text) = 0;
-    virtual void SetDrawItemValue(TreeRow row, const std::string& item, const std::string& text) = 0;
-    virtual void SetDrawItemValueOfEventItem(TreeRow row, const std::string& item, const std::string& value,
-                                             const std::string& text) = 0;
-    virtual void SetDrawItemVisibleEx(TreeRow row, const std::string& item, bool visible) = 0;
-    /// Whether a row shows an item; an item that the row does not have counts as hidden.
-    virtual bool IsItemVisible(TreeRow row, const std::string& item) const = 0;
-    virtual void SetToolTipsOfEventItem(TreeRow row, const std::string& item, const std::string& text) = 0;
-    // What the rows of a style show where they were given nothing of their own. Rows on show are not painted
-    // for it.
-    virtual void SetToolTipsOfStyle(const std::string& style, const std::string& item,
-                                    const std::string& text) = 0;
-    virtual void SetDrawItemValueOfStyle(const std::string& style, const std::string& item,
-                                         const std::string& value, const std::string& text) = 0;
 
     /// Shows another plug-in's window, by its opaque handle, 18 left of and 5 above the pointer, in its own
     /// size.
