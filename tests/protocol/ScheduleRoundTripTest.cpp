@@ -4,6 +4,7 @@
 #include "seaplan/protocol/PortCallCommands.h"
 #include "seaplan/protocol/RemarkList.h"
 #include "tests/protocol/RoundTrip.h"
+#include "tests/protocol/SampleRows.h"
 #include "testsupport/PortDictionary.h"
 
 namespace Tarvik::Server {
@@ -22,19 +23,7 @@ class ScheduleRoundTripTest : public RoundTrip {
         EXPECT_EQ(module.CreateVoyage("V", ci, vi), 0);
     }
 
-    static PortCallRows ThreePorts() {
-        PortCallRows rows(3);
-        const char* names[] = {"Tianjin", "Port of 上海", "Rotterdam"};
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            rows[i].ppi = std::to_string(40001 + i);
-            rows[i].ppn = names[i];
-            rows[i].psp = 12.5F + static_cast<float>(i);
-            rows[i].apt = 6.5F;
-        }
-        rows[0].pp = "L";
-        rows[1].pw = 0.125F;
-        return rows;
-    }
+    static PortCallRows Ports() { return ThreePorts("Port of 上海"); }
     static BookPoints Points(int count) {
         BookPoints points(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i) {
@@ -75,7 +64,7 @@ class ScheduleRoundTripTest : public RoundTrip {
 TEST_F(ScheduleRoundTripTest, PortCallsAreLoadedAsTheyWereSaved) {
     PortCallRows loaded;
     EXPECT_EQ(Seaplan::LoadPortCalls(vi, loaded), -3) << "a new voyage has none";
-    PortCallRows rows = ThreePorts();
+    PortCallRows rows = Ports();
     ASSERT_EQ(Seaplan::SavePortCalls(vi, rows), 0);
     ASSERT_EQ(Seaplan::LoadPortCalls(vi, loaded), 0);
     ASSERT_EQ(loaded.size(), rows.size());
@@ -90,7 +79,7 @@ TEST_F(ScheduleRoundTripTest, PortCallsAreLoadedAsTheyWereSaved) {
 }
 
 TEST_F(ScheduleRoundTripTest, FewerPortCallsReplaceMore) {
-    PortCallRows rows = ThreePorts();
+    PortCallRows rows = Ports();
     ASSERT_EQ(Seaplan::SavePortCalls(vi, rows), 0);
     rows.erase(rows.begin());
     ASSERT_EQ(Seaplan::SavePortCalls(vi, rows), 0);
@@ -102,7 +91,7 @@ TEST_F(ScheduleRoundTripTest, FewerPortCallsReplaceMore) {
 
 TEST_F(ScheduleRoundTripTest, PortWithoutIdIsSavedWithTheIdOfItsName) {
     const TestSupport::PortDictionary dictionary(TestSupport::PortDictionary::Ports{{"Rotterdam", "40208"}});
-    PortCallRows rows = ThreePorts();
+    PortCallRows rows = Ports();
     rows[2].ppi.clear();
     ASSERT_EQ(Seaplan::SavePortCalls(vi, rows), 0);
     PortCallRows loaded;
@@ -111,10 +100,10 @@ TEST_F(ScheduleRoundTripTest, PortWithoutIdIsSavedWithTheIdOfItsName) {
 }
 
 TEST_F(ScheduleRoundTripTest, PortNameThatBreaksItsRowIsRefusedAndTheOldRowsStay) {
-    PortCallRows rows = ThreePorts();
+    PortCallRows rows = Ports();
     ASSERT_EQ(Seaplan::SavePortCalls(vi, rows), 0);
     for (const char* name : {"a|b", "a\"b"}) {
-        PortCallRows broken = ThreePorts();
+        PortCallRows broken = Ports();
         broken[1].ppn = name;
         EXPECT_EQ(Seaplan::SavePortCalls(vi, broken), -3) << name;
     }
@@ -166,7 +155,7 @@ TEST_F(ScheduleRoundTripTest, RefusedBlockLeavesTheBlocksBeforeIt) {
 }
 
 TEST_F(ScheduleRoundTripTest, ForeignScheduleIsNotReached) {
-    PortCallRows rows = ThreePorts();
+    PortCallRows rows = Ports();
     ASSERT_EQ(Seaplan::SavePortCalls(vi, rows), 0);
     const std::string id = MakeBook();
     ASSERT_EQ(Seaplan::SavePositionBookRows(id, Points(3)), 0);

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <tarvik/core/TrvKernel.h>
+#include <memory>
+
 #include <tarvik/interface/SiblingRecords.h>
 
 #include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/tests/RouteFixture.h"
+#include "testsupport/BoundNames.h"
 
 namespace Tarvik::Seaplan {
 
@@ -224,26 +226,14 @@ TEST_F(ChartClickTest, ShipWithoutIconOrPortsHasNoPlaceAndNoNames) {
 }
 
 TEST(ClickChannelTest, ChannelsComeAndGoWithTheModule) {
-    auto* kernel = Core::TrvKernel::Instance();
-    int notices = 0;
-    kernel->SetObserver([&](Core::KernelNotice, const std::string&) { ++notices; });
-    VoyageStore store;
+    struct Owner {
+        VoyageStore store;
+        PortDirectory directory;
+        VoyPortCallModule module{&store, &directory};
+    };
     const char* const names[] = {"TRV_MAP_LCLICK_VOYAGETYPE", "TRV_MAP_LCLICK_RPOINTTYPE",
                                  "TRV_MAP_LCLICK_AISSHIPTYPE"};
-    for (int round = 0; round < 2; ++round) {
-        {
-            PortDirectory directory;
-            const VoyPortCallModule module(&store, &directory);
-            for (const char* name : names) {
-                EXPECT_TRUE(kernel->IsBound(name)) << name;
-            }
-        }
-        for (const char* name : names) {
-            EXPECT_FALSE(kernel->IsBound(name)) << name;
-        }
-    }
-    kernel->SetObserver({});
-    EXPECT_EQ(notices, 0);
+    TestSupport::ExpectNamesGoWithTheirOwner(names, [] { return std::make_unique<Owner>(); });
 }
 
 }  // namespace

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <memory>
+
 #include <gtest/gtest.h>
 
 #include <tarvik/core/TrvKernel.h>
 
 #include "seaplan/plugin/CompositionRoot.h"
+#include "testsupport/BoundNames.h"
 #include "testsupport/RecordingHost.h"
 
 namespace Tarvik::Seaplan {
@@ -34,10 +37,12 @@ TEST(CompositionRootTest, ControllersShareTheStore) {
 }
 
 TEST(CompositionRootTest, EveryNameGoesWithItsOwner) {
+    struct Owner {
+        Owner() { root.OfferServices(); }
+        VoyageStore store;
+        CompositionRoot root{&store};
+    };
     const TestSupport::RecordingHost chart;
-    auto* kernel = Core::TrvKernel::Instance();
-    int notices = 0;
-    kernel->SetObserver([&](Core::KernelNotice, const std::string&) { ++notices; });
     const char* const names[] = {"TRV_S_VOY_PLAN",
                                  "TRV_S_CAL_VOYAGE",
                                  "TRV_MAP_LCLICK_RPOINT",
@@ -45,21 +50,7 @@ TEST(CompositionRootTest, EveryNameGoesWithItsOwner) {
                                  "TRV_MAP_LCLICK_VOYAGETYPE",
                                  "TRV_MAP_LCLICK_RPOINTTYPE",
                                  "TRV_MAP_LCLICK_AISSHIPTYPE"};
-    for (int round = 0; round < 2; ++round) {
-        {
-            VoyageStore store;
-            CompositionRoot root(&store);
-            root.OfferServices();
-            for (const char* name : names) {
-                EXPECT_TRUE(kernel->IsBound(name)) << name;
-            }
-        }
-        for (const char* name : names) {
-            EXPECT_FALSE(kernel->IsBound(name)) << name;
-        }
-    }
-    kernel->SetObserver({});
-    EXPECT_EQ(notices, 0);
+    TestSupport::ExpectNamesGoWithTheirOwner(names, [] { return std::make_unique<Owner>(); });
 }
 
 TEST(CompositionRootTest, ServicesAreOfferedOnce) {

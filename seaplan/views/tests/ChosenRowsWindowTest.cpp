@@ -14,10 +14,7 @@ namespace {
 class ChosenRowsWindowTest : public PortCallWindowTest {
   protected:
     void SetUp() override {
-        OpenPortCalls("Far East 12");
-        PortCalls().activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&PortCalls()));
-        Table().setFocus();
+        OpenInFront("Far East 12");
         Table().setCurrentIndex(Table().model()->index(1, ColSpeed));
     }
     void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(&Table(), key, held); }

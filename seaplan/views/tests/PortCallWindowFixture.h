@@ -31,11 +31,16 @@ class PortCallWindowTest : public ViewsFixture {
         QTest::mouseClick(Table().viewport(), Qt::LeftButton, {},
                           QPoint(cell.left() + 12 + 20 * image, cell.center().y()));
     }
-    /// Opens a voyage without port calls and types two; the second is still in its editor.
-    void TypeTwoPorts() {
-        OpenPortCalls("North Sea");
+    /// Opens a voyage's port calls in the window in front, the keyboard on the table.
+    void OpenInFront(const std::string& voyage) {
+        OpenPortCalls(voyage);
         PortCalls().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&PortCalls()));
+        Table().setFocus();
+    }
+    /// Opens a voyage without port calls and types two; the second is still in its editor.
+    void TypeTwoPorts() {
+        OpenInFront("North Sea");
         ClickCell(0, ColPort);
         QTest::keyClicks(&PortEditor(), "ROTTERDAM");
         QTest::keyClick(&PortEditor(), Qt::Key_Return);

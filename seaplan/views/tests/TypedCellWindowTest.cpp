@@ -11,12 +11,7 @@ namespace {
 
 class TypedCellWindowTest : public PortCallWindowTest {
   protected:
-    void SetUp() override {
-        OpenPortCalls("Far East 12");
-        PortCalls().activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&PortCalls()));
-        Table().setFocus();
-    }
+    void SetUp() override { OpenInFront("Far East 12"); }
     void Front(int row, int column) { Table().setCurrentIndex(Table().model()->index(row, column)); }
     void Compose(const QString& composed, const QString& committed) {
         QInputMethodEvent event(composed, {});

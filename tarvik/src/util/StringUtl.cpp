@@ -30,10 +30,8 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-template <class Int>
-Int ParseInteger(const std::string& text) {
-    const char* at = text.data();
-    const char* const end = at + text.size();
+/// Goes on behind blanks and a sign; whether that is a minus.
+bool SkipSign(const char*& at, const char* end) {
     while (at != end && IsBlank(*at)) {
         ++at;
     }
@@ -41,6 +39,14 @@ Int ParseInteger(const std::string& text) {
     if (at != end && (*at == '-' || *at == '+')) {
         ++at;
     }
+    return negative;
+}
+
+template <class Int>
+Int ParseInteger(const std::string& text) {
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    const bool negative = SkipSign(at, end);
     Int value = 0;
     for (; at != end && IsDigit(*at); ++at) {
         const Int digit = *at - '0';
@@ -185,13 +191,7 @@ long long StringUtl::ToLong(const std::string& text) {
 double StringUtl::ToDouble(const std::string& text) {
     const char* at = text.data();
     const char* const end = at + text.size();
-    while (at != end && IsBlank(*at)) {
-        ++at;
-    }
-    const bool negative = at != end && *at == '-';
-    if (at != end && (*at == '-' || *at == '+')) {
-        ++at;
-    }
+    const bool negative = SkipSign(at, end);
     const bool number = at != end && (IsDigit(*at) || (*at == '.' && at + 1 != end && IsDigit(at[1])));
     if (!number) {
         return 0;

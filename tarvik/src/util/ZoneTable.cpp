@@ -73,6 +73,20 @@ const icu::BasicTimeZone* Find(const std::string& name, bool logUnknown) {
     return zone;
 }
 
+/// The zone's offset with summer time, as `ask` has it of the zone; 0 for an unknown zone.
+template <class Ask>
+std::int64_t OffsetOf(const std::string& zone, Ask ask) {
+    const icu::BasicTimeZone* found = Find(zone, true);
+    if (found == nullptr) {
+        return 0;
+    }
+    std::int32_t raw = 0;
+    std::int32_t summer = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    ask(*found, raw, summer, status);
+    return U_SUCCESS(status) ? std::int64_t{raw} + summer : 0;
+}
+
 }  // namespace
 
 bool ZoneTable::IsKnown(const std::string& zone) {
@@ -80,27 +94,16 @@ bool ZoneTable::IsKnown(const std::string& zone) {
 }
 
 std::int64_t ZoneTable::OffsetAtUtc(const std::string& zone, double utcMs) {
-    const icu::BasicTimeZone* found = Find(zone, true);
-    if (found == nullptr) {
-        return 0;
-    }
-    std::int32_t raw = 0;
-    std::int32_t summer = 0;
-    UErrorCode status = U_ZERO_ERROR;
-    found->getOffset(utcMs, false, raw, summer, status);
-    return U_SUCCESS(status) ? std::int64_t{raw} + summer : 0;
+    return OffsetOf(zone,
+                    [utcMs](const icu::BasicTimeZone& found, std::int32_t& raw, std::int32_t& summer,
+                            UErrorCode& status) { found.getOffset(utcMs, false, raw, summer, status); });
 }
 
 std::int64_t ZoneTable::OffsetAtLocal(const std::string& zone, double localMs) {
-    const icu::BasicTimeZone* found = Find(zone, true);
-    if (found == nullptr) {
-        return 0;
-    }
-    std::int32_t raw = 0;
-    std::int32_t summer = 0;
-    UErrorCode status = U_ZERO_ERROR;
-    found->getOffsetFromLocal(localMs, UCAL_TZ_LOCAL_FORMER, UCAL_TZ_LOCAL_FORMER, raw, summer, status);
-    return U_SUCCESS(status) ? std::int64_t{raw} + summer : 0;
+    return OffsetOf(zone, [localMs](const icu::BasicTimeZone& found, std::int32_t& raw, std::int32_t& summer,
+                                    UErrorCode& status) {
+        found.getOffsetFromLocal(localMs, UCAL_TZ_LOCAL_FORMER, UCAL_TZ_LOCAL_FORMER, raw, summer, status);
+    });
 }
 
 }  // namespace Tarvik::Util

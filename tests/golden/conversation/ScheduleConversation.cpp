@@ -5,6 +5,7 @@
 #include "seaplan/protocol/PortCallCommands.h"
 #include "seaplan/protocol/RemarkList.h"
 #include "tests/golden/conversation/Conversation.h"
+#include "tests/protocol/SampleRows.h"
 #include "testsupport/PortDictionary.h"
 
 namespace Tarvik::Server {
@@ -28,16 +29,7 @@ class PortCallConversation : public VoyageTalk {
     PortCallConversation() : VoyageTalk("portcalls") {}
 
     static Seaplan::PortCallRows Ports() {
-        Seaplan::PortCallRows rows(3);
-        const char* names[] = {"Tianjin", "上海", "Rotterdam"};
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            rows[i].ppi = std::to_string(40001 + i);
-            rows[i].ppn = names[i];
-            rows[i].psp = 12.5F + static_cast<float>(i);
-            rows[i].apt = 6.5F;
-        }
-        rows[0].pp = "L";
-        rows[1].pw = 0.125F;
+        Seaplan::PortCallRows rows = ThreePorts("上海");
         rows[2].ppi.clear();
         return rows;
     }
