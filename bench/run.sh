@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.." || exit 1
 . scripts/prepare.sh
 install_missing -test || exit 1
 cmake --preset release -DSEAPLAN_BENCH=ON >/dev/null || exit 1
-build_preset release --target seaplan_benches tarvik-client libseaplan ais fleet infosearch seamap seaplan_share || exit 1
+build_preset release --target seaplan_benches seaplan_client_parts || exit 1
 
 for program in build/release/bench/*_bench; do
     "$program" --benchmark_min_time=0.5 2>/dev/null || exit 1

@@ -21,7 +21,7 @@ cleanup() {
 trap cleanup EXIT
 fail() { echo "pictures: $*" >&2; exit 1; }
 
-[ $# -gt 0 ] || { install_missing -test && build_preset release --target tarvik-client libseaplan ais fleet infosearch seamap seaplan_share; } ||
+[ $# -gt 0 ] || { install_missing -test && build_preset release --target seaplan_client_parts; } ||
     fail "the build failed"
 mkdir -p "$pictures"
 Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp -noreset 3>"$work/display" 2>/dev/null &
