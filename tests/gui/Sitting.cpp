@@ -22,12 +22,17 @@ constexpr Place kSetPortCalls{98, 122};
 // The first cell of the port call table.
 constexpr Place kFirstPort{103, 84};
 
-ChildProcess::Start OnDisplay(const ClientTree& client, const std::string& display) {
-    // A data folder of somebody who has begun, so that no card asks how to.
-    const std::filesystem::path preferences = client.Data("preferences.json");
+/// Leaves the preferences of somebody who has begun, unless there are some.
+void BeginIn(const std::filesystem::path& preferences) {
     if (!std::filesystem::exists(preferences)) {
         std::filesystem::create_directories(preferences.parent_path());
         std::ofstream(preferences) << "{}";
+    }
+}
+
+ChildProcess::Start OnDisplay(const ClientTree& client, const std::string& display, Sitting::Folder folder) {
+    if (folder == Sitting::Folder::Begun) {
+        BeginIn(client.Data("preferences.json"));
     }
     auto start = client.Words({"--lang", "en-US", "--theme", "light"});
     start.environment["DISPLAY"] = display;
@@ -38,8 +43,8 @@ ChildProcess::Start OnDisplay(const ClientTree& client, const std::string& displ
 
 }  // namespace
 
-Sitting::Sitting(const ClientTree& client, const Person& person, const std::string& display)
-    : client_(client), person_(person), process_(OnDisplay(client, display)) {
+Sitting::Sitting(const ClientTree& client, const Person& person, const std::string& display, Folder folder)
+    : client_(client), person_(person), process_(OnDisplay(client, display, folder)) {
     main = person.AwaitWindow("Seaplan");
 }
 

@@ -20,7 +20,11 @@ struct Place {
 /// colours are known.
 class Sitting {
   public:
-    Sitting(const ClientTree& client, const Person& person, const std::string& display);
+    /// Whose data folder it is: somebody's who has begun, or nobody's yet, who is asked how to begin.
+    enum class Folder { Begun, New };
+
+    Sitting(const ClientTree& client, const Person& person, const std::string& display,
+            Folder folder = Folder::Begun);
     /// Photographs the screen when the test has failed and SEAPLAN_TEST_PICTURES names a folder.
     ~Sitting();
     Sitting(const Sitting&) = delete;
