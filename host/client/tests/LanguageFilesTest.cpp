@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -182,12 +184,19 @@ TEST(ShippedLanguages, TraditionalChineseHoldsNoSimplifiedForms) {
     constexpr const char* kSimplified[] = {"们", "这", "为", "时", "显", "录", "设", "选",
                                            "处", "删", "备", "类", "进", "请", "复", "给",
                                            "开", "关", "总", "间", "预", "离", "经", "纬"};
+    std::vector<std::filesystem::path> files;
     for (const char* component : {"ais", "client", "fleet", "infosearch", "seaplan"}) {
-        std::ifstream in(std::string(CLIENT_LANGUAGES) + "/" + component + ".zh-TW.json");
+        files.push_back(std::string(CLIENT_LANGUAGES) + "/" + component + ".zh-TW.json");
+    }
+    for (const auto& page : std::filesystem::directory_iterator(std::string(CLIENT_GUIDE) + "/zh-TW")) {
+        files.push_back(page.path());
+    }
+    for (const auto& file : files) {
+        std::ifstream in(file);
         const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
         ASSERT_FALSE(text.empty());
         for (const char* form : kSimplified) {
-            EXPECT_EQ(text.find(form), std::string::npos) << component << " " << form;
+            EXPECT_EQ(text.find(form), std::string::npos) << file << " " << form;
         }
     }
 }
