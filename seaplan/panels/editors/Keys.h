@@ -36,12 +36,23 @@ struct KeyPress {
     bool ctrl = false;       ///< alone
     bool ctrlShift = false;  ///< these two alone
     bool held = false;       ///< pressed before, and not let go since
+    bool shift = false;      ///< alone
 };
 
 /// Whether a key is a table's while that has the keyboard, though the client has a command under it as well:
 /// Ctrl+D fills a column down, and opens the port distance table from everywhere else.
 inline bool BelongsToTable(KeyPress press) {
     return press.ctrl && press.key == Key::D;
+}
+
+/// Where a key leads while rows of a table are chosen: to the row above or below the one in front, up to
+/// which all are chosen then from the row where choosing began. None for a key that chooses nothing.
+enum class ChoosingStep { None, Above, Below };
+inline ChoosingStep StepOfChoosing(KeyPress press) {
+    if (press.shift && press.key == Key::Up) {
+        return ChoosingStep::Above;
+    }
+    return press.shift && press.key == Key::Down ? ChoosingStep::Below : ChoosingStep::None;
 }
 
 /// Keys that mean the same over the cells of every table: Enter and F2 press the cell in front, Escape takes

@@ -34,6 +34,27 @@ class ChosenRowsTest : public PortCallFixture {
     }
 };
 
+TEST(StepOfChoosing, OnlyShiftAloneWithAnArrowUpOrDownChoosesARowMore) {
+    EXPECT_EQ(StepOfChoosing({.key = Key::Up, .shift = true}), ChoosingStep::Above);
+    EXPECT_EQ(StepOfChoosing({.key = Key::Down, .shift = true}), ChoosingStep::Below);
+    for (const KeyPress press :
+         {KeyPress{.key = Key::Down}, KeyPress{.key = Key::Up, .alt = true},
+          KeyPress{.key = Key::Down, .ctrl = true}, KeyPress{.key = Key::Down, .ctrlShift = true},
+          KeyPress{.key = Key::Left, .shift = true}, KeyPress{.key = Key::Tab, .shift = true},
+          KeyPress{.key = Key::PageDown, .shift = true}}) {
+        EXPECT_EQ(StepOfChoosing(press), ChoosingStep::None);
+    }
+}
+
+TEST_F(ChosenRowsTest, ShiftAndAnArrowAreLeftToTheChoiceOfRows) {
+    Open(kept);
+    const PortCallTable before = view.table;
+    for (const Key key : {Key::Up, Key::Down}) {
+        EXPECT_FALSE(panel.Rows().OnTableKey({.key = key, .shift = true}, 1, ColPort));
+    }
+    EXPECT_TRUE(view.table == before) << "no row moves";
+}
+
 TEST_F(ChosenRowsTest, DeleteTakesAllChosenRowsAsOneEdit) {
     Open(kept);
     const PortCallTable before = view.table;

@@ -25,7 +25,8 @@ inline KeyPress PressOf(const QKeyEvent& event) {
                    .alt = beside.testFlag(Qt::AltModifier),
                    .ctrl = beside == Qt::ControlModifier,
                    .ctrlShift = beside == (Qt::ControlModifier | Qt::ShiftModifier),
-                   .held = event.isAutoRepeat()};
+                   .held = event.isAutoRepeat(),
+                   .shift = beside == Qt::ShiftModifier};
     for (const auto& known : kKeys) {
         if (known.qt == event.key()) {
             press.key = known.key;

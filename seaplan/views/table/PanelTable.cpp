@@ -152,7 +152,7 @@ void PanelTable::keyPressEvent(QKeyEvent* event) {
         return;
     }
     const QString text = TextOf(*event);
-    if (!ChooseByKey(*event) && (text.isEmpty() || !TellTyped(text))) {
+    if (!ChooseByKey(PressOf(*event)) && (text.isEmpty() || !TellTyped(text))) {
         QTableView::keyPressEvent(event);
     }
 }

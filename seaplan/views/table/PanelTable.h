@@ -68,7 +68,7 @@ class PanelTable final : public QTableView {
   private:
     bool CanChooseSeveral() const { return selectionMode() == QAbstractItemView::ExtendedSelection; }
     bool ChooseByMouse(const QModelIndex& index, Qt::KeyboardModifiers held);
-    bool ChooseByKey(const QKeyEvent& event);
+    bool ChooseByKey(KeyPress press);
     void ChooseUpTo(const QModelIndex& index);
     void TellLeft();
     bool TellTyped(const QString& text);

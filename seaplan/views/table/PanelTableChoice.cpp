@@ -63,14 +63,12 @@ bool PanelTable::ChooseByMouse(const QModelIndex& index, Qt::KeyboardModifiers h
     return true;
 }
 
-/// Shift with an arrow up or down takes one row more, or one less.
-bool PanelTable::ChooseByKey(const QKeyEvent& event) {
-    const bool arrow = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
-    const bool shift = (event.modifiers() & ~Qt::KeypadModifier) == Qt::ShiftModifier;
-    if (!CanChooseSeveral() || !arrow || !shift || anchor_ < 0 || anchor_ >= model_.rowCount()) {
+bool PanelTable::ChooseByKey(KeyPress press) {
+    const ChoosingStep step = CanChooseSeveral() ? StepOfChoosing(press) : ChoosingStep::None;
+    if (step == ChoosingStep::None || anchor_ < 0 || anchor_ >= model_.rowCount()) {
         return false;
     }
-    const int row = currentIndex().row() + (event.key() == Qt::Key_Up ? -1 : 1);
+    const int row = currentIndex().row() + (step == ChoosingStep::Above ? -1 : 1);
     if (const QModelIndex next = model_.index(row, currentIndex().column()); next.isValid()) {
         ChooseUpTo(next);
     }
