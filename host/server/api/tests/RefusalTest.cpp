@@ -80,7 +80,7 @@ const Case kMissing[] = {
 
 const Case kUnknown[] = {
     {0, "{}", E::UnknownCommand, ""},
-    {19, "{}", E::UnknownCommand, ""},
+    {0xFFFF, "{}", E::UnknownCommand, ""},
     {4, R"({ci:"@C",type:"5"})", E::UnknownOperation, "type"},
     {4, R"({ci:"@C",type:"-1"})", E::UnknownOperation, "type"},
     {4, R"({ci:"@C",type:"one"})", E::UnknownOperation, "type"},
