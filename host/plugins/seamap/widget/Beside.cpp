@@ -8,10 +8,11 @@
 
 namespace Tarvik::Seamap {
 
-Beside::Beside(const std::function<void()>& task) {
-    const auto run = [this, task] {
+Beside::Beside(const std::function<void()>& task) : ended_(std::make_shared<QSemaphore>()) {
+    // The thread holds a share of what tells the end: it may still be at it when the maker has gone on.
+    const auto run = [ended = ended_, task] {
         task();
-        ended_.release();
+        ended->release();
     };
     if (!QThreadPool::globalInstance()->tryStart(run)) {
         run();
@@ -20,7 +21,7 @@ Beside::Beside(const std::function<void()>& task) {
 
 void Beside::Wait() {
     if (!waited_) {
-        ended_.acquire();
+        ended_->acquire();
         waited_ = true;
     }
 }

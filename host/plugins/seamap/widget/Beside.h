@@ -4,6 +4,7 @@
 #include <QSemaphore>
 #include <cstddef>
 #include <functional>
+#include <memory>
 
 namespace Tarvik::Seamap {
 
@@ -23,7 +24,7 @@ class Beside {
     void Wait();
 
   private:
-    QSemaphore ended_;
+    std::shared_ptr<QSemaphore> ended_;
     bool waited_ = false;
 };
 

@@ -127,6 +127,7 @@ TEST_F(LineLayerTest, EachOfManyTasksIsDoneOnce) {
 TEST_F(LineLayerTest, WithoutAFreeThreadATaskRunsAtOnce) {
     QThreadPool& pool = *QThreadPool::globalInstance();
     const int threads = pool.maxThreadCount();
+    pool.waitForDone();  // a thread is taken until a while after its task's end
     pool.setMaxThreadCount(1);
     QSemaphore leave;
     QThread* where = nullptr;
