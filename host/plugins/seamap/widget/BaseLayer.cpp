@@ -17,20 +17,10 @@ namespace {
 
 /// The net lies lightly over land and sea.
 constexpr int kGraticuleAlpha = 150;
-/// Rows of the window that are worth a thread of their own.
-constexpr int kBandRows = 90;
-
-/// Pieces of a region that can be drawn beside one another.
-std::vector<QRect> BandsOf(const QRegion& region) {
-    std::vector<QRect> bands;
-    for (const QRect& part : region) {
-        const int count = std::max(1, part.height() / kBandRows);
-        for (int i = 0; i < count; ++i) {
-            const int top = part.height() * i / count, bottom = part.height() * (i + 1) / count;
-            bands.emplace_back(part.left(), part.top() + top, part.width(), bottom - top);
-        }
-    }
-    return bands;
+PixelRect PixelsOf(const QRect& rectangle, double scale) {
+    return {int(std::floor(rectangle.left() * scale)), int(std::floor(rectangle.top() * scale)),
+            int(std::ceil((rectangle.left() + rectangle.width()) * scale)),
+            int(std::ceil((rectangle.top() + rectangle.height()) * scale))};
 }
 
 }  // namespace
@@ -103,10 +93,12 @@ void BaseLayer::Draw(QImage& canvas, const QRegion& region) {
     const double scale = canvas.devicePixelRatio();
     const PixelBoard board = BoardOf(canvas);
     const CoastData::Level* land = land_.IsEmpty() ? nullptr : &land_.For(view_.WorldSize());
-    const std::vector<QRect> bands = BandsOf(region);
-    Beside::Each(bands.size(), [&](std::size_t band) {
-        LandPainter(land, view_, *palette_, board, scale).Draw(bands[band]);
-    });
+    for (const QRect& part : region) {
+        const std::vector<PixelRect> bands = BandsOf(PixelsOf(part, scale));
+        Beside::Each(bands.size(), [&](std::size_t band) {
+            LandPainter(land, view_, *palette_, board, scale).Draw(bands[band]);
+        });
+    }
     if (graticule_) {
         QPainter painter(&canvas);
         for (const QRect& part : region) {

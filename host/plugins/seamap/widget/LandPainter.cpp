@@ -25,10 +25,10 @@ bool IsSeen(const CoastData::Shape& shape, const MercatorView& view, int turn, c
            upper.y <= clip.bottom() + 3;
 }
 
-PixelRect PixelsOf(const QRect& rectangle, double scale) {
-    return {int(std::floor(rectangle.left() * scale)), int(std::floor(rectangle.top() * scale)),
-            int(std::ceil((rectangle.left() + rectangle.width()) * scale)),
-            int(std::ceil((rectangle.top() + rectangle.height()) * scale))};
+/// The pixels of the window that a part of the picture touches.
+QRect WindowOf(const PixelRect& part, double scale) {
+    const QPoint from(int(std::floor(part.left / scale)), int(std::floor(part.top / scale)));
+    return {from, QPoint(int(std::ceil(part.right / scale)), int(std::ceil(part.bottom / scale)))};
 }
 
 bool ReachesFar(const CoastData::Shape& shape, const MercatorView& view, int turn) {
@@ -40,9 +40,9 @@ bool ReachesFar(const CoastData::Shape& shape, const MercatorView& view, int tur
 
 }  // namespace
 
-void LandPainter::Draw(const QRect& part) {
-    clip_ = part;
-    Plotter plotter(board_, PixelsOf(part, scale_));
+void LandPainter::Draw(const PixelRect& part) {
+    clip_ = WindowOf(part, scale_);
+    Plotter plotter(board_, part);
     plotter.Clear(OpaquePixel(palette_.sea));
     if (level_ != nullptr) {
         DrawCells(plotter);

@@ -21,8 +21,8 @@ class LandPainter {
                 const PixelBoard& board, double scale)
         : level_(land), view_(view), palette_(palette), board_(board), scale_(scale) {}
 
-    /// Draws a part, told in pixels of the window.
-    void Draw(const QRect& part);
+    /// Draws a part of the picture.
+    void Draw(const PixelRect& part);
 
   private:
     void DrawCells(Plotter& plotter);
@@ -39,7 +39,7 @@ class LandPainter {
     const ChartPalette& palette_;
     PixelBoard board_;
     double scale_;
-    QRect clip_;                     ///< the part being drawn
+    QRect clip_;                     ///< the part being drawn, in pixels of the window
     std::vector<PixelPoint> trace_;  ///< the shape being drawn
 };
 

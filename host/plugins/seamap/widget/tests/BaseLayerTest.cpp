@@ -63,10 +63,34 @@ TEST(BaseLayer, ThePiecesDrawnBesideOneAnotherAreOnePicture) {
     const QImage pieces = layer.Picture(view, Light(), 1).toImage().convertToFormat(QImage::Format_RGB32);
     QImage whole(pieces.size(), QImage::Format_RGB32);
     const CoastData land = Land();
-    LandPainter(&land.For(view.WorldSize()), view, Light(), BoardOf(whole), 1).Draw(whole.rect());
+    const PixelRect all{0, 0, whole.width(), whole.height()};
+    LandPainter(&land.For(view.WorldSize()), view, Light(), BoardOf(whole), 1).Draw(all);
     EXPECT_EQ(pieces, whole);
-    LandPainter(nullptr, view, Light(), BoardOf(whole), 1).Draw(whole.rect());
+    LandPainter(nullptr, view, Light(), BoardOf(whole), 1).Draw(all);
     EXPECT_EQ(At(whole, view, {30, 15}), QColor(Light().sea)) << "without land";
+}
+
+TEST(BaseLayer, OnScreensOfAnyFinenessNoRowIsDrawnTwiceOrLeftOut) {
+    for (const PixelRect& part : {PixelRect{0, 0, 9, 1350}, PixelRect{3, 7, 9, 8}, PixelRect{0, 5, 4, 276}}) {
+        int row = part.top;
+        for (const PixelRect& band : BandsOf(part)) {
+            EXPECT_EQ(band.top, row);
+            EXPECT_GT(band.bottom, band.top);
+            row = band.bottom;
+        }
+        EXPECT_EQ(row, part.bottom);
+    }
+    const MercatorView view = ViewOf({30, 10}, 3000);
+    BaseLayer layer;
+    layer.SetLand(Land());
+    layer.ShowGraticule(false);
+    const QImage pieces = layer.Picture(view, Light(), 1.25).toImage().convertToFormat(QImage::Format_RGB32);
+    QImage whole(pieces.size(), QImage::Format_RGB32);
+    whole.setDevicePixelRatio(1.25);
+    const CoastData land = Land();
+    LandPainter(&land.For(view.WorldSize()), view, Light(), BoardOf(whole), 1.25)
+        .Draw({0, 0, whole.width(), whole.height()});
+    EXPECT_EQ(pieces, whole);
 }
 
 TEST(BaseLayer, LandThatIsStillComingIsInTheFirstPicture) {
