@@ -124,6 +124,26 @@ TEST_F(BuiltRoutesTest, ReefsAndBanksArePassedWhereShipsPassThem) {
     EXPECT_NEAR(Miles("GBSOU", "GBLON"), 215, 0.02 * 215) << "over Margate Sand";
 }
 
+TEST_F(BuiltRoutesTest, HongKongIsLeftByItsFairwaysAndNotRoundLantau) {
+    const auto south = [](GeoPoint p) { return p.x < 114.0 ? -p.y : -1e9; };
+    EXPECT_LT(Farthest(Way("HKHKG", "CNSHK"), south), -22.3) << "south of Lantau";
+    EXPECT_LT(Farthest(Way("CNCAN", "HKHKG"), south), -22.3) << "south of Lantau";
+    EXPECT_NEAR(Miles("HKHKG", "CNSHK"), 23, 3);
+    const auto harbour = [](GeoPoint p) { return p.x < 114.3 ? -p.y : -1e9; };
+    EXPECT_LT(Farthest(Way("HKHKG", "CNYTN"), harbour), -22.2) << "round the island, not by Tathong";
+}
+
+TEST_F(BuiltRoutesTest, TheScheldtIsSailedRoundItsFlats) {
+    const auto atHansweert = [](GeoPoint p) { return p.x > 3.9 && p.x < 4.1 ? p.y : -1e9; };
+    EXPECT_GT(Farthest(Way("BEANR", "GBSOU"), atHansweert), 51.42) << "over Ossenisse";
+    EXPECT_NEAR(Miles("BEANR", "FRLEH"), 244, 0.03 * 244) << "by Pub. 151";
+}
+
+TEST_F(BuiltRoutesTest, TheYangtzeIsEnteredFromTheSeaAndNotAlongTheFlats) {
+    const auto shore = [](GeoPoint p) { return p.y > 30.7 && p.y < 31.0 ? -p.x : -1e9; };
+    EXPECT_LT(Farthest(Way("CNSHA", "HKHKG"), shore), -122.3);
+}
+
 TEST_F(BuiltRoutesTest, NoOceanIsCrossedFartherSouthThanItsLimit) {
     const char* const pairs[][2] = {{"CLVAP", "AUSYD"}, {"CLPUQ", "NZWLG"}, {"USNYC", "AUFRE"}};
     for (const auto& [from, to] : pairs) {
