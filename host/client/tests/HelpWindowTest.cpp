@@ -72,7 +72,8 @@ TEST_F(HelpWindowTest, ATopicIsShownAtItsHeading) {
 }
 
 TEST_F(HelpWindowTest, TheFirstTopicOfANewWindowIsShownAtItsHeadingToo) {
-    HelpWindow fresh(nullptr, [](const char* key) { return QString(key); }, CLIENT_GUIDE);
+    HelpWindow fresh(
+        nullptr, [](const char* key) { return QString(key); }, CLIENT_GUIDE);
     fresh.Load(kReferenceLanguage);
     fresh.ShowTopic("func033");
     auto& text = *fresh.findChild<GuideView*>("helpText");

@@ -21,8 +21,8 @@ class BookEditing {
     /// second press on the cell of an open list closes it.
     void OnCellClicked(int row, int column);
     /// A text typed on a cell where nothing is open: it takes the cell's place in the editor, goes to the
-    /// choice that begins so, or begins a date in the calendar. An empty one is still being composed. False where
-    /// nothing opens; a blank opens nothing.
+    /// choice that begins so, or begins a date in the calendar. An empty one is still being composed. False
+    /// where nothing opens; a blank opens nothing.
     bool OnTextTyped(const std::string& text, int row, int column);
     /// Another row came to the front, by the keyboard.
     void OnRowSelected(int row);

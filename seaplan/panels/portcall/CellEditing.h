@@ -22,8 +22,8 @@ class CellEditing {
     explicit CellEditing(PortCallDesk& desk);
 
     /// A press on a cell: what is open is taken, and what the column has opens. A text `typed` on it takes
-    /// the place of the cell's in the editor, goes to the purpose that begins so, or begins a date in the calendar; an
-    /// empty one is still being composed, a blank opens nothing. False where nothing opens.
+    /// the place of the cell's in the editor, goes to the purpose that begins so, or begins a date in the
+    /// calendar; an empty one is still being composed, a blank opens nothing. False where nothing opens.
     bool OnCellClicked(int row, int column, const std::string* typed = nullptr);
     /// The text in an editor changed by the person's hand.
     void OnTyped(CellEditor editor, const std::string& text);
