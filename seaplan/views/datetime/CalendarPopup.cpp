@@ -179,7 +179,10 @@ void CalendarPopup::ShowText(const CalendarState& state) {
         days_->FocusChosen();
     }
     if (begins || ends) {
+        // The field makes it higher, at the screen's edge as well.
         adjustSize();
+        const Point kept = KeptOnScreen({x(), y()}, size());
+        move(kept.x, kept.y);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/views/datetime/DateCell.h"
 
+#include <tarvik/skin/Palette.h>
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
 
@@ -41,6 +42,11 @@ void DateCell::MakeButton() {
     QObject::connect(button_, &QToolButton::clicked, calendar_, [this] { date_->OnPressed(); });
     calendar_->SetShown([button = button_](bool shown) {
         if (button != nullptr) {
+            // The cell below tells the same date, which must not be seen through.
+            button->setStyleSheet(QStringLiteral("background: %1; color: %2; border: 1px solid %3;")
+                                      .arg(Skin::Colour(Skin::Role::Panel).name(),
+                                           Skin::Colour(Skin::Role::Text).name(),
+                                           Skin::Colour(Skin::Role::Accent).name()));
             button->setVisible(shown);
         }
     });

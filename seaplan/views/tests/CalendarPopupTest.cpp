@@ -201,6 +201,17 @@ TEST_F(CalendarPopupTest, ADateIsTypedFromTheGridOn) {
     EXPECT_FALSE(calendar.isVisible());
 }
 
+TEST_F(CalendarPopupTest, ATypedDateKeepsItOnTheScreen) {
+    const QRect screen = calendar.screen()->availableGeometry();
+    panel.Hide();
+    panel.Open({screen.left() + 20, screen.bottom()});
+    ASSERT_LE(calendar.geometry().bottom(), screen.bottom());
+    const int height = calendar.height();
+    panel.OnTextTyped("2026-11-23");
+    EXPECT_GT(calendar.height(), height);
+    EXPECT_LE(calendar.geometry().bottom(), screen.bottom());
+}
+
 TEST_F(CalendarPopupTest, ATextThatIsNoDateSaysHowToTypeIt) {
     panel.OnTextTyped("soon");
     QTest::keyClick(Edit("dateText"), Qt::Key_Return);

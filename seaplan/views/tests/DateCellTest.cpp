@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QToolButton>
 
+#include <tarvik/skin/Palette.h>
 #include <tarvik/skin/SkinNames.h>
 
 #include "seaplan/panels/book/BookEditing.h"
@@ -49,6 +50,11 @@ TEST_F(DateCellTest, TheButtonCoversTheCellWithItsDateWhileTheCalendarIsOpen) {
     EXPECT_EQ(Button(PortCalls()).geometry(), table.EditorRect(1, ColEtd));
     EXPECT_EQ(Button(PortCalls()).text(), Cell(1, ColEtd));
     EXPECT_EQ(Button(PortCalls()).accessibleName(), Cell(1, ColEtd));
+    QImage seen(Button(PortCalls()).size(), QImage::Format_ARGB32);
+    seen.fill(Qt::magenta);
+    Button(PortCalls()).render(&seen, QPoint(), QRegion(), QWidget::RenderFlags());
+    EXPECT_EQ(seen.pixelColor(3, 3), Skin::Colour(Skin::Role::Panel))
+        << "the date below does not shine through";
     Press(Calendar(PortCalls()), "calendarCancel");
     EXPECT_FALSE(Button(PortCalls()).isVisible());
 }
