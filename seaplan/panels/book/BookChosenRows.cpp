@@ -4,6 +4,7 @@
 
 #include "seaplan/panels/book/BookCommands.h"
 #include "seaplan/panels/book/BookPaste.h"
+#include "seaplan/panels/editors/ChosenRows.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/panels/texts/EditTexts.h"
@@ -55,16 +56,12 @@ void BookCommands::OnFillDown(int column) {
     if (!editing_.CommitEditors()) {
         return;
     }
-    std::vector<int> rows = ChosenRows(desk_);
+    const std::vector<int> rows = ChosenRows(desk_);
     if (rows.empty()) {
         return;
     }
-    int from = rows.front() - 1;
-    if (rows.size() > 1) {
-        from = rows.front();
-        rows.erase(rows.begin());
-    }
-    Fill(from, rows, column, TextIds::IDS_VIEW_EDITFILL);
+    const FilledRows filled = RowsToFill(rows);
+    Fill(filled.from, filled.rows, column, TextIds::IDS_VIEW_EDITFILL);
 }
 
 void BookCommands::OnPutInChosen(int column) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/BookDesk.h"
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -9,6 +8,7 @@
 #include <tarvik/bus/HostContract.h>
 
 #include "seaplan/calculation/book/BookPanel.h"
+#include "seaplan/panels/editors/ChosenRows.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/BookTexts.h"
 #include "seaplan/panels/texts/EditTexts.h"
@@ -226,12 +226,8 @@ std::vector<int> ChosenRows(BookDesk& desk) {
     // A text that was taken just now may have brought rows in.
     desk.Show();
     const BookSheet& sheet = desk.Sheet();
-    std::vector<int> rows = desk.View().ChosenRows();
-    rows.push_back(sheet.selected);
-    std::erase_if(rows, [&sheet](int row) { return !sheet.IsRow(row); });
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    return rows;
+    return RowsInOrder(desk.View().ChosenRows(), sheet.selected,
+                       [&sheet](int row) { return sheet.IsRow(row); });
 }
 
 }  // namespace Tarvik::Seaplan

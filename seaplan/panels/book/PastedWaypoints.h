@@ -8,7 +8,6 @@
 #include "seaplan/calculation/book/BookColumns.h"
 #include "seaplan/calculation/book/BookRecompute.h"
 #include "seaplan/data/Position.h"
-#include "seaplan/panels/paste/PastedCells.h"
 #include "seaplan/panels/paste/PastedHeads.h"
 #include "seaplan/panels/paste/PastedText.h"
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/paste/PastedCells.h"
-
 #include <algorithm>
 
 #include <tarvik/util/StringUtl.h>
 
 #include "seaplan/calculation/Units.h"
+#include "seaplan/panels/paste/PastedText.h"
 
 namespace Tarvik::Seaplan {
 

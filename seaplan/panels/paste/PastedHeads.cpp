@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "seaplan/panels/paste/PastedCells.h"
+#include "seaplan/panels/paste/PastedText.h"
 
 namespace Tarvik::Seaplan {
 

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Tarvik::Seaplan {
@@ -33,5 +35,21 @@ PastedText ReadPastedText(const std::string& text);
 /// texts, for a date that does not exist, and for "3/4/2024", which is two
 /// days.
 std::optional<std::string> ReadPastedTime(const std::string& text);
+
+/// A cell of a pasted text as it was understood.
+struct PastedCell {
+    std::string text;     ///< as it was pasted
+    std::string value{};  ///< text of the table's cell, empty where nothing can stand there
+    bool known = true;    ///< false for a text that says nothing in its column, and for a port nobody knows
+};
+
+/// ASCII letters in lower case.
+std::string SmallLetters(std::string text);
+/// A number as a whole, with a point or a comma, before one of these endings; nothing for another text.
+std::optional<double> PastedNumber(const std::string& text, std::initializer_list<std::string_view> endings);
+/// A speed as a number, alone or before a word for knots.
+std::optional<double> PastedSpeed(const std::string& text);
+/// Whether a text tells a speed in another unit on offer than this one.
+bool TellsOtherSpeedUnit(const std::string& text, std::string_view unit);
 
 }  // namespace Tarvik::Seaplan

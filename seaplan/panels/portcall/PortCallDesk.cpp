@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/portcall/PortCallDesk.h"
 
-#include <algorithm>
-
 #include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
 
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/panels/editors/ChosenRows.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallWords.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
@@ -120,12 +119,7 @@ std::string PortCallDesk::LossWords() const {
 }
 
 std::vector<int> PortCallDesk::ChosenRows(int front) const {
-    std::vector<int> rows = p_.view.ChosenRows();
-    rows.push_back(front);
-    std::erase_if(rows, [this](int row) { return !sheet_.table.IsNumbered(row); });
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    return rows;
+    return RowsInOrder(p_.view.ChosenRows(), front, [this](int row) { return sheet_.table.IsNumbered(row); });
 }
 
 void PortCallDesk::SetNote(PortCallNote note) {

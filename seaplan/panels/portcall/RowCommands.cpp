@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/panels/editors/ChosenRows.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/PasteRows.h"
@@ -155,16 +156,12 @@ void RowCommands::Fill(int from, const std::vector<int>& rows, int column, TextI
 void RowCommands::FillDown(int row, int column) {
     const PortCallDesk::Report report(desk_);
     editing_.CommitEditors();
-    std::vector<int> rows = desk_.ChosenRows(row);
+    const std::vector<int> rows = desk_.ChosenRows(row);
     if (rows.empty()) {
         return;
     }
-    int from = rows.front() - 1;
-    if (rows.size() > 1) {
-        from = rows.front();
-        rows.erase(rows.begin());
-    }
-    Fill(from, rows, column, TextIds::IDS_VIEW_EDITFILL);
+    const FilledRows filled = RowsToFill(rows);
+    Fill(filled.from, filled.rows, column, TextIds::IDS_VIEW_EDITFILL);
 }
 
 void RowCommands::PutInChosen(int row, int column) {

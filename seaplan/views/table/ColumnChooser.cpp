@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/views/table/ColumnChooser.h"
-
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -10,6 +8,7 @@
 #include <tarvik/skin/ToolWindow.h>
 
 #include "seaplan/panels/texts/EditTexts.h"
+#include "seaplan/views/table/RowsDialog.h"
 #include "seaplan/views/window/ViewText.h"
 
 namespace Tarvik::Seaplan {

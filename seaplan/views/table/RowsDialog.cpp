@@ -17,7 +17,6 @@
 #include "seaplan/panels/paste/PastedText.h"
 #include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/texts/WhatIfTexts.h"
-#include "seaplan/views/table/ColumnChooser.h"
 #include "seaplan/views/table/PanelTable.h"
 #include "seaplan/views/window/ViewText.h"
 

@@ -7,7 +7,6 @@
 
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/panels/language/LoadText.h"
-#include "seaplan/panels/paste/PastedCells.h"
 #include "seaplan/panels/paste/PastedText.h"
 
 namespace Tarvik::Seaplan {

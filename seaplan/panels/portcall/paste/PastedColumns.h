@@ -1,15 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/panels/paste/PastedHeads.h"
-#include "seaplan/panels/portcall/paste/PastedValues.h"
 
 /// What the columns of a pasted text are.
 namespace Tarvik::Seaplan {
+
+/// Name of the port that a text means, by name or UN/LOCODE in any case; empty for an unknown one.
+using PortOfText = std::function<std::string(const std::string&)>;
+
+/// What a text says in a column of the table, as the table writes it; empty where it says nothing.
+std::string PastedValue(int column, const std::string& text, const PortOfText& port);
 
 /// What a person can take a column of a pasted text as, in the order of the table.
 inline constexpr int kPastedKinds[] = {kNoColumn,  ColPort,     ColPurpose, ColSpeed,

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "seaplan/panels/paste/PastedCells.h"
+#include "seaplan/panels/paste/PastedText.h"
 
 namespace Tarvik::Seaplan {
 

@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/paste/PastedCells.h"
 #include "seaplan/panels/paste/PastedText.h"
 #include "seaplan/panels/portcall/paste/PastedColumns.h"
 

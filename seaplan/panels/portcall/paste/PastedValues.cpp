@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "seaplan/panels/portcall/paste/PastedValues.h"
-
 #include <tarvik/interface/PlanTerms.h>
 
 #include "seaplan/calculation/PortCallColumns.h"
-#include "seaplan/panels/paste/PastedCells.h"
 #include "seaplan/panels/paste/PastedText.h"
+#include "seaplan/panels/portcall/paste/PastedColumns.h"
 
 namespace Tarvik::Seaplan {
 
