@@ -17,6 +17,7 @@
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/skin/WindowMessages.h>
+#include <tarvik/skin/WindowPlace.h>
 
 #include "host/client/shell/HelpWindow.h"
 #include "host/client/shell/LoginDialog.h"
@@ -142,7 +143,16 @@ void MainWindow::AttachChart() {
     chart->setFocus();
 }
 
-void MainWindow::FitScreen(const QRect& room) {
+void MainWindow::TakePlace(const QRect& room) {
+    if (const std::optional<Skin::WindowPlace> kept = Skin::KeptPlace(objectName())) {
+        const QSize size =
+            kept->floating.size().boundedTo(room.size() - kFrame).expandedTo(minimumSizeHint());
+        setGeometry(Skin::KeptOnScreen({kept->floating.topLeft(), size}));
+        if (kept->dock == Skin::Dock::Whole) {
+            setWindowState(Qt::WindowMaximized);
+        }
+        return;
+    }
     // A frame has its place too, above and at the sides.
     const QSize most = room.size() - kFrame;
     if (kUsualSize.width() > most.width() || kUsualSize.height() > most.height()) {
@@ -201,6 +211,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (!ClosePanels()) {
         return event->ignore();
     }
+    Skin::KeepPlace(objectName(), {normalGeometry(), isMaximized() ? Skin::Dock::Whole : Skin::Dock::None});
     QMainWindow::closeEvent(event);
 }
 

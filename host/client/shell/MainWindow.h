@@ -26,8 +26,9 @@ class MainWindow : public QMainWindow {
     /// Puts the chart of the loaded plug-ins in the middle and shows the tools that they answer; call once,
     /// behind ClientSession::LoadPlugins.
     void AttachPlugins();
-    /// Before it is shown: makes it small enough for a screen's room where that is smaller than it is.
-    void FitScreen(const QRect& room);
+    /// Before it is shown: where it was when it was closed last, else its usual size, made small enough for a
+    /// screen's room.
+    void TakePlace(const QRect& room);
     /// Raises the event that shows or hides a panel (a PanelCode).
     void TogglePanel(int panel);
     /// Tells the chart a command of its contract; false when there is no chart or it did not understand.

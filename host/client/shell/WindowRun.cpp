@@ -76,7 +76,7 @@ int RunWindow(int argc, char** argv, const CommandLine& line) {
     if (picture) {
         return TakePicture(desk, line);
     }
-    desk.Window().FitScreen(desk.Window().screen()->availableGeometry());
+    desk.Window().TakePlace(desk.Window().screen()->availableGeometry());
     FirstStart first(desk.Window(), *session);
     first.Offer();
     desk.Window().show();

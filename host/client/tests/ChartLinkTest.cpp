@@ -96,10 +96,10 @@ TEST_F(ChartLinkTest, TheWindowIsNeverLargerThanItsScreen) {
     MainWindow window(*session_);
     window.AttachPlugins();
     const QSize usual = window.size();
-    window.FitScreen({0, 0, 1920, 1080});
+    window.TakePlace({0, 0, 1920, 1080});
     EXPECT_EQ(window.size(), usual);
     for (const QRect& room : {QRect(0, 0, 1366, 768), QRect(0, 24, 910, 488), QRect(1920, 0, 640, 480)}) {
-        window.FitScreen(room);
+        window.TakePlace(room);
         window.show();
         EXPECT_TRUE(room.contains(QRect(window.pos(), window.size()))) << room.width();
         window.hide();

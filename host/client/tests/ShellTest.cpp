@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -13,6 +14,7 @@
 #include <tarvik/bus/PlacesContract.h>
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/interface/SiblingRecords.h>
+#include <tarvik/skin/WindowPlace.h>
 
 #include "host/client/shell/MainWindow.h"
 #include "testsupport/TemporaryFolder.h"
@@ -115,6 +117,36 @@ TEST_F(ShellTest, TheZoneLabelIsTheZoneOfTheTimesOnShow) {
     EXPECT_EQ(Shown(window, "timeZone"), "Europe/Rome");
     Interface::Raise(Interface::Bus::SwitchTimeZone, static_cast<const std::string*>(nullptr));
     EXPECT_EQ(Shown(window, "timeZone"), "Europe/Rome") << "without a text it is asked for";
+}
+
+TEST_F(ShellTest, TheWindowComesBackWhereAndAsItWasClosed) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect chosen(room.left() + 30, room.top() + 60, 700, 560);
+    for (const bool whole : {false, true}) {
+        {
+            MainWindow window(*session_);
+            window.TakePlace(room);
+            window.show();
+            window.setGeometry(chosen);
+            window.setWindowState(whole ? Qt::WindowMaximized : Qt::WindowNoState);
+            QApplication::processEvents();
+            window.close();
+        }
+        MainWindow again(*session_);
+        again.TakePlace(room);
+        again.show();
+        EXPECT_EQ(again.isMaximized(), whole);
+        EXPECT_EQ(again.normalGeometry(), chosen);
+    }
+}
+
+TEST_F(ShellTest, AWindowOfALargerScreenComesBackOnASmallOne) {
+    Skin::KeepPlace("mainWindow", {{2500, 1300, 2000, 1500}, Skin::Dock::None, 0});
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    MainWindow window(*session_);
+    window.TakePlace(room);
+    window.show();
+    EXPECT_TRUE(room.contains(window.geometry())) << window.width() << 'x' << window.height();
 }
 
 TEST_F(ShellTest, AnotherServerComesOnlyWhenThePanelsHaveClosed) {

@@ -169,6 +169,32 @@ TEST_F(TreeCommandsTest, EveryClickOnAVoyageSetsItForThePortCalls) {
     EXPECT_THAT(panel.calls, ElementsAre("SetVoyage " + Id("A"), "SetVoyage " + Id("Binned")));
 }
 
+TEST_F(TreeCommandsTest, AVoyageOnTheChartStaysThereWhenItsPortCallsOpen) {
+    const auto lines = [this](const std::string& name) {
+        const auto drawn = desk.host.ChartCallsOf(Interface::Bus::MapAddLine.name);
+        return std::count_if(drawn.begin(), drawn.end(), [vi = Id(name)](const TestSupport::ChartCall& call) {
+            return call.id.find(vi) != std::string::npos;
+        });
+    };
+    for (const char* item : {"Voyage.child.svr4", "Voyage_setPortCall"}) {
+        Press("A");
+        desk.ForgetRecords();
+        EXPECT_EQ(Click("A", item), 1);
+        EXPECT_GT(lines("A"), 0);
+        EXPECT_GT(lines("B"), 0) << "it is pinned";
+    }
+    EXPECT_EQ(Click("B", Item::kPinned), 1);
+    Press("A");
+    desk.ForgetRecords();
+    EXPECT_EQ(Click("A", "Voyage.child.svr4"), 1);
+    EXPECT_GT(lines("A"), 0);
+    EXPECT_EQ(lines("B"), 0) << "it was not on the chart";
+    desk.ForgetRecords();
+    panel.filled = -1;
+    EXPECT_EQ(Click("A", "Voyage.child.svr4"), -25);
+    EXPECT_EQ(lines("A"), 0) << "the chart was not emptied";
+}
+
 TEST_F(TreeCommandsTest, PortCallsThatCannotBeFilledAreNotPlaced) {
     panel.filled = -1;
     EXPECT_EQ(Click("A", "Voyage.child.svr4"), -25);

@@ -68,6 +68,8 @@ ItemOutcome VoyageCommands::OpenPortCalls() {
         return ItemStep::FillPortCalls;
     }
     panel->ShowBesideTree();
+    // Filling has emptied the chart; the panel is in its place by now, which the route keeps clear of.
+    p_.chart.DrawAgain(p_.selection.Voyage().vi);
     return {};
 }
 
@@ -78,6 +80,7 @@ ItemOutcome VoyageCommands::OpenEmptyPortCalls() {
     }
     panel->Reset();
     panel->ShowBesideTree();
+    p_.chart.DrawAgain(p_.selection.Voyage().vi);
     return {};
 }
 

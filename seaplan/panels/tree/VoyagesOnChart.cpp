@@ -70,6 +70,22 @@ OnChartOutcome VoyagesOnChart::ActivateVoyage(const VoyInfo& voyage) {
     return ShowTrackOf(voyage);
 }
 
+void VoyagesOnChart::DrawAgain(const std::string& vi) {
+    bool wasShown = false;
+    for (const auto& [id, mark] : c_.chartMarks) {
+        if (mark.drawState == OnChart && id == vi) {
+            wasShown = true;
+        } else if (mark.drawState == OnChart && mark.routePinned == 1) {
+            static_cast<void>(c_.voyages.ShowVoyage(id));
+        }
+    }
+    const VoyInfo* voyage = c_.store.FindVoyage(vi);
+    // The last one drawn is the one in sight.
+    if (wasShown && voyage != nullptr && c_.voyages.ShowVoyage(vi) == 0) {
+        static_cast<void>(ShowTrackOf(*voyage));
+    }
+}
+
 void VoyagesOnChart::LeaveAloneOnce(const std::string& vi) {
     aisModVoyage_ = vi;
     aisModSkipDone_ = false;

@@ -32,6 +32,9 @@ class VoyagesOnChart {
     OnChartOutcome SetAisShown(const std::string& vi, bool on);
     /// The row's items for a track that is shown or not.
     void ShowAisItems(TreeRow row, bool on);
+    /// Draws a voyage that was on the chart, and the pinned ones, after a panel that opens over them has
+    /// emptied it.
+    void DrawAgain(const std::string& vi);
     /// The next press on this pinned voyage leaves the chart as it is.
     void LeaveAloneOnce(const std::string& vi);
     /// Marks the voyages of a freshly opened view, unless the marks stand already.

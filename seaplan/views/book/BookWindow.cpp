@@ -33,8 +33,8 @@ BookWindow::BookWindow(QWidget* mainView)
                  {TextIds::IDC_WP_BT_HELP, TextIds::IDC_WP_BT_CLOSE}) {
     AddHelpAndClose();
     head_ = new BookHead(this);
-    table_ = new PanelTable(this, "positionBookTable", BookSheet::kLeastLines);
-    table_->ChooseSeveral();
+    table_ =
+        new PanelTable(this, "positionBookTable", BookSheet::kLeastLines, PanelTable::Choice::SeveralRows);
     columns_ = new ColumnKeeper(*table_, KeptBookColumns(),
                                 [this] { table_->ShowColumns(columns_->AsWanted(BookColumnsOf(sheet_))); });
     SkinPanel("TRV_PositionDlg", 1, "Caption_static");
@@ -46,7 +46,8 @@ BookWindow::BookWindow(QWidget* mainView)
     Body()->addWidget(table_, 1);
     Body()->addWidget(foot_);
     ApplyTexts();
-    adjustSize();
+    SetResizable();
+    resize(sizeHint());
 }
 
 void BookWindow::Attach(CPosBookDlg* panel) {

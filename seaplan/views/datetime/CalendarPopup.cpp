@@ -8,6 +8,7 @@
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
+#include <tarvik/skin/WindowPlace.h>
 
 #include "seaplan/panels/texts/CommonTexts.h"
 #include "seaplan/views/editors/QtKeys.h"
@@ -181,8 +182,7 @@ void CalendarPopup::ShowText(const CalendarState& state) {
     if (begins || ends) {
         // The field makes it higher, at the screen's edge as well.
         adjustSize();
-        const Point kept = KeptOnScreen({x(), y()}, size());
-        move(kept.x, kept.y);
+        setGeometry(Skin::KeptOnScreen(geometry()));
     }
 }
 
@@ -205,8 +205,7 @@ void CalendarPopup::FillEdit(const std::string& text) {
 
 void CalendarPopup::Open(Point corner) {
     adjustSize();
-    const Point kept = KeptOnScreen(corner, size());
-    move(kept.x, kept.y);
+    setGeometry(Skin::KeptOnScreen({QPoint(corner.x, corner.y), size()}));
     if (shown_) {
         shown_(true);
     }

@@ -44,6 +44,7 @@ VoyagePanelWindow::VoyagePanelWindow(QWidget* mainView)
     line_->setProperty("secondary", true);
     line_->setAutoFillBackground(true);
     line_->hide();
+    SetResizable();
     resize(310, 460);
 }
 

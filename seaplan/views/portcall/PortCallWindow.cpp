@@ -33,8 +33,7 @@ PortCallWindow::PortCallWindow(QWidget* mainView)
     : PanelFrame(mainView, QStringLiteral("portCallPanel"),
                  {TextIds::IDS_PORTCALL_HELP, TextIds::IDS_PORTCALL_CLOSE}) {
     AddHelpAndClose();
-    table_ = new PanelTable(this, "portCallTable", kLeastLines);
-    table_->ChooseSeveral();
+    table_ = new PanelTable(this, "portCallTable", kLeastLines, PanelTable::Choice::SeveralRows);
     columns_ = new ColumnKeeper(*table_, KeptPortCallColumns(), [this] { ShowState(state_); });
     SkinPanel("TRV_portCallDlg", 0, "Caption_static");
     Skin::SkinWindow(*table_, Skin::ControlClass::ListView, "VoyageDemoList");
@@ -54,7 +53,8 @@ PortCallWindow::PortCallWindow(QWidget* mainView)
     Body()->addWidget(questions_);
     Body()->addWidget(buttons_);
     ApplyTexts();
-    adjustSize();
+    SetResizable();
+    resize(sizeHint());
 }
 
 void PortCallWindow::Attach(CPortCallPanelDlg* panel) {

@@ -37,11 +37,12 @@ RemarkWindow::RemarkWindow(QWidget* mainView, const QString& name)
     auto* columns = new QHBoxLayout;
     columns->setSpacing(2 * Skin::kGrid);
     columns->addWidget(list_);
-    columns->addWidget(MakeFields());
+    columns->addWidget(MakeFields(), 1);
     Body()->addLayout(columns, 1);
     Body()->addWidget(MakeButtons());
     ApplySkin();
     ApplyTexts();
+    SetResizable();
     adjustSize();
 }
 
@@ -50,12 +51,13 @@ QWidget* RemarkWindow::MakeFields() {
     subject_ = new QLineEdit(fields);
     subject_->setObjectName(QStringLiteral("remarkSubject"));
     Skin::SkinWindow(*subject_, Skin::ControlClass::EditField, "flt.edit_292");
-    subject_->setFixedSize(kFieldWidth, Skin::kControlHeight);
+    subject_->setMinimumWidth(kFieldWidth);
+    subject_->setFixedHeight(Skin::kControlHeight);
     body_ = new QPlainTextEdit(fields);
     body_->setObjectName(QStringLiteral("remarkBody"));
     Skin::SkinWindow(*body_, Skin::ControlClass::EditField, "flt.edit_292_278");
     body_->setTabChangesFocus(true);
-    body_->setFixedWidth(kFieldWidth);
+    body_->setMinimumWidth(kFieldWidth);
     body_->setMinimumHeight(kBodyHeight);
     auto* rows = new QVBoxLayout(fields);
     rows->setContentsMargins(0, 0, 0, 0);

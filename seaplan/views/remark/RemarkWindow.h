@@ -21,8 +21,6 @@ class RemarkWindow final : public PanelFrame<RemarkView> {
     RemarkWindow(QWidget* mainView, const QString& name);
     void Attach(CRemarkPanel* panel);
 
-    /// Keeps the window on its screen.
-    void MoveTo(Point corner) override { MoveCorner(KeptOnScreen(corner, size())); }
     void ShowRows(const std::vector<RemarkRow>& rows, int current) override;
     void ShowState(const RemarkState& state) override;
     void ShowTexts(const std::string& subject, const std::string& body) override;

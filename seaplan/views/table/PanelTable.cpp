@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
@@ -19,6 +20,13 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr int kMostTableWidth = 1200;
+constexpr int kBesideTable =
+    60;  ///< pixels of a screen's width that are left to the edges of a table's window
+constexpr int kFewestLines = 4;  ///< of a table whose window is made small
+
+int HeightOf(int lines) {
+    return kTableHeader + lines * kTableRow + 4;
+}
 
 }  // namespace
 
@@ -30,13 +38,17 @@ void SetUpRows(QAbstractItemView& rows) {
     rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
-PanelTable::PanelTable(QWidget* parent, const char* name, int leastLines) : QTableView(parent) {
+PanelTable::PanelTable(QWidget* parent, const char* name, int leastLines, Choice choice)
+    : QTableView(parent), lines_(leastLines) {
     setModel(&model_);
     setItemDelegate(new TableDelegate(this));
     setMouseTracking(true);
-    setMinimumHeight(kTableHeader + leastLines * kTableRow + 4);
+    setMinimumHeight(HeightOf(std::min(leastLines, kFewestLines)));
     setObjectName(QString::fromLatin1(name));
     SetUpRows(*this);
+    if (choice == Choice::SeveralRows) {
+        setSelectionMode(QAbstractItemView::ExtendedSelection);
+    }
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setTabKeyNavigation(false);
     verticalHeader()->hide();
@@ -68,10 +80,14 @@ void PanelTable::ShowColumns(std::vector<TableColumn> columns) {
         setColumnWidth(static_cast<int>(column), shown.width);
         total += shown.hidden ? 0 : shown.width;
     }
-    // Columns that a person made very wide are scrolled.
-    setMinimumWidth(std::min(total + 4, kMostTableWidth));
-    setHorizontalScrollBarPolicy(total + 4 > kMostTableWidth ? Qt::ScrollBarAsNeeded
-                                                             : Qt::ScrollBarAlwaysOff);
+    // Columns that a person made very wide are scrolled, and all on a small screen.
+    const int most = std::min(kMostTableWidth, screen()->availableGeometry().width() - kBesideTable);
+    setMinimumWidth(std::min(total + 4, most));
+    setHorizontalScrollBarPolicy(total + 4 > most ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+}
+
+QSize PanelTable::sizeHint() const {
+    return {minimumWidth(), HeightOf(lines_)};
 }
 
 bool PanelTable::IsCell(const QModelIndex& index) const {

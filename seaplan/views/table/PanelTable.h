@@ -22,8 +22,11 @@ void SetUpRows(QAbstractItemView& rows);
 /// that its panel makes, and reports clicks on cells and on the images of rows. Ctrl+C copies its lines.
 class PanelTable final : public QTableView {
   public:
-    /// A table of this object name that is never less than so many lines high.
-    PanelTable(QWidget* parent, const char* name, int leastLines);
+    enum class Choice { OneRow, SeveralRows };
+
+    /// A table of this object name that is so many lines high unless a person makes its window smaller.
+    /// Several rows are chosen with Shift, Ctrl and Ctrl+A.
+    PanelTable(QWidget* parent, const char* name, int leastLines, Choice choice = Choice::OneRow);
     struct Reports {
         std::function<void(int, int)> cellClicked;
         std::function<void(int, const std::string&)> imageClicked;
@@ -42,8 +45,6 @@ class PanelTable final : public QTableView {
     /// Puts a row in front, none for -1, without a report; the column in front stays, or else becomes
     /// `column`.
     void PutFront(int row, int column);
-    /// From now on several rows can be chosen at once, with Shift, Ctrl and Ctrl+A.
-    void ChooseSeveral() { setSelectionMode(QAbstractItemView::ExtendedSelection); }
     /// The rows that are chosen, in order.
     std::vector<int> ChosenRows() const;
     /// Puts a cell in front; where its row is among those chosen they stay so.
@@ -55,6 +56,8 @@ class PanelTable final : public QTableView {
     QRect EditorRect(int row, int column) const;
 
   protected:
+    /// All columns, as far as a screen has room, and the lines that are always there.
+    QSize sizeHint() const override;
     bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -80,6 +83,7 @@ class PanelTable final : public QTableView {
     TableModel model_;
     Reports reports_;
     int anchor_ = -1;       ///< row from which Shift chooses on
+    int lines_;             ///< for which it wants room
     bool setting_ = false;  ///< the program puts a row in front, which is reported to nobody
 };
 

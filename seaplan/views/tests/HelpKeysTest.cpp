@@ -22,7 +22,7 @@ namespace Tarvik::Seaplan {
 namespace {
 
 /// Keys that all windows have; a list of their own names them.
-const std::set<QString> kOfAllWindows = {"F1", "Ctrl+W"};
+const std::set<QString> kOfAllWindows = {"F1", "Ctrl+W", "Ctrl+F10"};
 
 class HelpKeysTest : public PositionBookFixture {
   protected:

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "testsupport/OffscreenScreen.h"
+
 int main(int argc, char** argv) {
+    const Tarvik::TestSupport::OffscreenScreen screen;
     QApplication::setStyle("Fusion");
     QApplication application(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);

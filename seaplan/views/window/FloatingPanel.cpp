@@ -2,9 +2,7 @@
 #include "seaplan/views/window/FloatingPanel.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <QTimer>
-#include <algorithm>
 
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/WindowMessages.h>
@@ -20,14 +18,6 @@ QRect ToQt(const Rect& rect) {
 Rect OnScreen(const QWidget& widget) {
     const QPoint corner = widget.mapToGlobal(QPoint(0, 0));
     return {corner.x(), corner.y(), corner.x() + widget.width(), corner.y() + widget.height()};
-}
-
-Point KeptOnScreen(Point corner, const QSize& size) {
-    const QScreen* screen = QGuiApplication::screenAt({corner.x, corner.y});
-    const QRect area = (screen == nullptr ? QGuiApplication::primaryScreen() : screen)->availableGeometry();
-    const int right = std::max(area.left(), area.right() + 1 - size.width());
-    const int bottom = std::max(area.top(), area.bottom() + 1 - size.height());
-    return {std::min(corner.x, right), std::min(corner.y, bottom)};
 }
 
 FloatingPanel::FloatingPanel(QWidget* mainView, const QString& name, const Hints& hints)
@@ -73,14 +63,6 @@ void FloatingPanel::DescribeHelpAndClose() {
         Skin::Describe(help_, ViewText(hints_.help));
     }
     Skin::Describe(close_, ViewText(hints_.close));
-}
-
-void FloatingPanel::PlaceAt(const Rect& screen) {
-    setGeometry(ToQt(screen));
-}
-
-void FloatingPanel::MoveCorner(Point corner) {
-    move(corner.x, corner.y);
 }
 
 void FloatingPanel::Raise() {

@@ -18,8 +18,6 @@ namespace Tarvik::Seaplan {
 QRect ToQt(const Rect& rect);
 /// Where a widget stands on the screen.
 Rect OnScreen(const QWidget& widget);
-/// The corner next to this one at which all of a window of this size is on the screen.
-Point KeptOnScreen(Point corner, const QSize& size);
 
 /// What all floating panels have in common: help and close at the end of the caption, with F1 and Ctrl+W, and
 /// the operations behind PanelWindow.
@@ -41,8 +39,6 @@ class FloatingPanel : public Skin::ToolWindow, public DialogTexts {
 
     FloatingPanel(QWidget* mainView, const QString& name, const Hints& hints);
     void SetReports(Reports reports) { reports_ = std::move(reports); }
-    void PlaceAt(const Rect& screen);
-    void MoveCorner(Point corner);
     void Raise();
     /// Hides the window; the keyboard goes back to the one that had it when this one was raised.
     void Vanish();
@@ -84,8 +80,8 @@ class PanelFrame : public FloatingPanel, public View {
     bool IsVisible() const override { return isVisible(); }
     void Show() override { Raise(); }
     void Hide() override { Vanish(); }
-    void Place(const Rect& screen) override { PlaceAt(screen); }
-    void MoveTo(Point corner) override { MoveCorner(corner); }
+    void Place(const Rect& screen) override { PlaceByRule(ToQt(screen)); }
+    void MoveTo(Point corner) override { MoveByRule({corner.x, corner.y}); }
     Rect PlaceOnScreen() const override { return OnScreen(*this); }
     void SetEnabled(bool enabled) override { Enable(enabled); }
     void ApplyTexts() override { ApplyLanguage(*this); }

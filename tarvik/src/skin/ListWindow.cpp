@@ -45,6 +45,7 @@ ListWindow::ListWindow(QWidget* parent, Plan plan, std::vector<Command> commands
     column->addWidget(note_);
     column->addLayout(row);
     Body()->addLayout(column, 1);
+    SetResizable();
     resize(plan_.size);
     ApplySkin();
     ApplyTexts();

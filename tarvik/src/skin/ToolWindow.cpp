@@ -1,15 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QHBoxLayout>
-#include <QMouseEvent>
+#include <QHoverEvent>
 #include <QPainterPath>
 #include <QPointer>
+#include <QShortcut>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <tarvik/skin/Icons.h>
 #include <tarvik/skin/Palette.h>
 #include <tarvik/skin/SkinNames.h>
 #include <tarvik/skin/ToolWindow.h>
+#include <tarvik/skin/Words.h>
+
+#include "skin/window/WindowGrip.h"
+#include "skin/window/WindowMenu.h"
+#include "skin/window/WindowSeat.h"
 
 namespace Tarvik::Skin {
 
@@ -31,8 +39,14 @@ void Describe(QWidget* widget, const QString& text) {
 }
 
 ToolWindow::ToolWindow(QWidget* parent, const QString& name)
-    : QFrame(parent, Qt::Tool | Qt::FramelessWindowHint), watch_([this] { ApplySkin(); }) {
+    : QFrame(parent, Qt::Tool | Qt::FramelessWindowHint),
+      watch_([this] { ApplySkin(); }),
+      seat_(std::make_unique<WindowSeat>(*this)),
+      grip_(std::make_unique<WindowGrip>(*seat_)) {
     setObjectName(name);
+    setAttribute(Qt::WA_Hover);
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F10), this), &QShortcut::activated, this,
+            [this] { OpenWindowMenu(*seat_, mapToGlobal(QPoint(0, kCaptionHeight))); });
     setProperty("panel", true);
     // The look goes by one name for all panels, the object name stays each panel's own.
     auto* outer = new QVBoxLayout(this);
@@ -63,6 +77,20 @@ ToolWindow::ToolWindow(QWidget* parent, const QString& name)
     body_->setSpacing(2 * kGrid);
     rows->addLayout(body_, 1);
     setStyleSheet(StyleSheet());
+}
+
+ToolWindow::~ToolWindow() = default;
+
+void ToolWindow::SetResizable() {
+    seat_->SetResizable();
+}
+
+void ToolWindow::PlaceByRule(const QRect& wanted) {
+    seat_->PlaceByRule(wanted);
+}
+
+void ToolWindow::MoveByRule(const QPoint& corner) {
+    seat_->MoveByRule(corner);
 }
 
 void ToolWindow::SetCaption(const QString& text) {
@@ -113,23 +141,59 @@ void ToolWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(!isVisible());
 }
 
+bool ToolWindow::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::HoverMove:
+            grip_->Hover(static_cast<QHoverEvent*>(event)->position().toPoint());
+            break;
+        case QEvent::ToolTip:
+            if (const auto* help = static_cast<QHelpEvent*>(event); help->pos().y() < kCaptionHeight) {
+                QToolTip::showText(help->globalPos(), Word("Window", "CAPTION_TIP"), this);
+                return true;
+            }
+            break;
+        default:
+            break;
+    }
+    return QFrame::event(event);
+}
+
+void ToolWindow::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) {
+        seat_->TakeSeat();
+    }
+    QFrame::showEvent(event);
+}
+
 void ToolWindow::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) {
         return QFrame::mousePressEvent(event);
     }
     SurfacePressed();
-    dragging_ = true;
-    grip_ = event->globalPosition().toPoint() - frameGeometry().topLeft();
+    grip_->Press(*event);
 }
 
 void ToolWindow::mouseMoveEvent(QMouseEvent* event) {
-    if (dragging_) {
-        move(event->globalPosition().toPoint() - grip_);
-    }
+    grip_->Drag(*event);
 }
 
-void ToolWindow::mouseReleaseEvent(QMouseEvent*) {
-    dragging_ = false;
+void ToolWindow::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    grip_->Release();
+}
+
+void ToolWindow::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || event->position().y() >= kCaptionHeight) {
+        return QFrame::mouseDoubleClickEvent(event);
+    }
+    grip_->Release();
+    seat_->DockAt(seat_->Docked() == Dock::Whole || !seat_->IsResizable() ? Dock::None : Dock::Whole);
+}
+
+void ToolWindow::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->pos().y() >= kCaptionHeight) {
+        return QFrame::contextMenuEvent(event);
+    }
+    OpenWindowMenu(*seat_, event->globalPos());
 }
 
 }  // namespace Tarvik::Skin
