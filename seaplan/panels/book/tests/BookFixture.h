@@ -6,6 +6,7 @@
 
 #include <tarvik/util/DateTimeUtl.h>
 
+#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/book/BookCommands.h"
 #include "seaplan/panels/book/BookEditing.h"
 #include "seaplan/panels/book/BookOwner.h"
@@ -106,6 +107,17 @@ class BookFixture : public PortCallFixture {
                            bookView.calendar.corner.has_value();
         book.Cells().HideEditors();
         return opens;
+    }
+    /// The book as a new client of the same user reads it from the server; empty, with the test failed, when
+    /// it cannot.
+    PosBookData ReadAgain() {
+        store.voyages[kept].portCalls.clear();
+        store.voyages[kept].positionBook.points.clear();
+        PortCallRows rows;
+        EXPECT_EQ(desk.voyages.LoadSchedule(kept, rows, -1), 0);
+        PosBookData stored;
+        EXPECT_EQ(desk.voyages.GetPosBookData(kept, stored), 0);
+        return stored;
     }
     PosBookRow& Waypoint(PosBookData& data, std::size_t port, std::size_t sub) {
         return data.ports[port].rows[sub];

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// Ctrl+V over the position book.
-#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
 
@@ -137,12 +137,8 @@ TEST_F(BookPasteTest, APastedRouteIsSavedAndOpensAgain) {
     const double distance = book.Sheet().totals.totalDistance;
     book.Commands().OnSave();
     EXPECT_FALSE(Changed());
-    store.voyages[kept].portCalls.clear();
-    store.voyages[kept].positionBook.points.clear();
-    PortCallRows rows;
-    ASSERT_EQ(desk.voyages.LoadSchedule(kept, rows, -1), 0);
-    PosBookData stored;
-    ASSERT_EQ(desk.voyages.GetPosBookData(kept, stored), 0);
+    PosBookData stored = ReadAgain();
+    ASSERT_EQ(stored.ports.size(), Data().ports.size());
     EXPECT_EQ(stored.ports[1].rows.size(), Data().ports[1].rows.size());
     const BookTotals totals = RecomputeBook(stored, book.Sheet().units, Util::_datetime_t::gmt_now());
     EXPECT_NEAR(totals.totalDistance, distance, 0.3 * static_cast<double>(stored.ports[1].rows.size()));

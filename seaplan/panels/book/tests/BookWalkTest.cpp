@@ -6,7 +6,6 @@
 
 #include "seaplan/calculation/PositionBook.h"
 #include "seaplan/calculation/book/BookPanel.h"
-#include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/book/tests/BookFixture.h"
 #include "seaplan/protocol/BookCommands.h"
 #include "seaplan/protocol/PortCallCommands.h"
@@ -128,14 +127,9 @@ TEST_P(BookWalkTest, FiguresAgreeAndWhatIsSavedOpensAgain) {
         EXPECT_EQ(LastMessage(), "IDS_PORTCALL_SAVEEXCEPTION");
         return;
     }
-    // A new client of the same user.
     const double distance = book.Sheet().totals.totalDistance;
-    store.voyages[kept].portCalls.clear();
-    store.voyages[kept].positionBook.points.clear();
-    PortCallRows rows;
-    ASSERT_EQ(desk.voyages.LoadSchedule(kept, rows, -1), 0);
-    PosBookData stored;
-    ASSERT_EQ(desk.voyages.GetPosBookData(kept, stored), 0);
+    PosBookData stored = ReadAgain();
+    ASSERT_EQ(stored.ports.size(), Data().ports.size());
     const BookTotals totals = RecomputeBook(stored, book.Sheet().units, Util::_datetime_t::gmt_now());
     // Positions go out with three decimals.
     EXPECT_NEAR(totals.totalDistance, distance,
