@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/PendingRoute.h"
 #include "seaplan/controllers/PositionBooks.h"
 #include "seaplan/controllers/ScheduleCalculation.h"
@@ -12,7 +11,6 @@
 #include "seaplan/controllers/VesselWatch.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
 #include "seaplan/controllers/VoyageCorrection.h"
-#include "seaplan/controllers/VoyageRecords.h"
 #include "seaplan/data/PortDirectory.h"
 
 namespace Tarvik::Seaplan {
@@ -22,29 +20,29 @@ namespace Tarvik::Seaplan {
 struct VoyController::Parts {
     Parts(VoyPortCallModule* module, VoyCatalogController* catalog, VoyageStore* store,
           std::function<void()> tick)
-        : records(module, store),
-          loader(module, catalog, store),
+        : loader(module, catalog, store),
           calculator(module, store),
           saver(module, store, loader.Chart()),
           books(module, store, loader),
           correction(module, store, calculator),
-          watch(catalog, store),
           timer(std::move(tick)) {}
 
-    VoyageRecords records;
     ScheduleLoader loader;
     ScheduleCalculator calculator;
     ScheduleSaver saver;
     PositionBooks books;
     VoyageCorrection correction;
-    VesselWatch watch;
     ScheduleFault fault;
     std::function<bool()> treeVisible;
     RefreshTimer timer;
 };
 
 VoyController::VoyController(VoyPortCallModule* module, VoyCatalogController* catalog, VoyageStore* store)
-    : module_(module), parts_(std::make_unique<Parts>(module, catalog, store, [this] { OnTimer(); })) {}
+    : VoyageRecordFacade(module, store),
+      VesselFacade(catalog, store),
+      RouteRowsFacade(module),
+      module_(module),
+      parts_(std::make_unique<Parts>(module, catalog, store, [this] { OnTimer(); })) {}
 
 VoyController::~VoyController() = default;
 
@@ -61,26 +59,6 @@ int VoyController::LoadSchedule(const std::string& vi, PortCallRows& rows, int d
 
 int VoyController::DiscardPortCalls(const std::string& vi) {
     return kDiscardCodes.Of(parts_->loader.Discard(vi));
-}
-
-int VoyController::GetFigures(const std::string& vi, BunkerFigures& figures) const {
-    return kReadRecordCodes.Of(parts_->records.GetFigures(vi, figures));
-}
-
-int VoyController::SaveFigures(const std::string& vi, const BunkerFigures& figures) {
-    return kSaveFiguresCodes.Of(parts_->records.SaveFigures(vi, figures));
-}
-
-std::string VoyController::NameOf(const std::string& vi) const {
-    return parts_->records.NameOf(vi);
-}
-
-int VoyController::ClearAisMod(const std::string& vi) {
-    return kReadRecordCodes.Of(parts_->records.ClearCorrections(vi));
-}
-
-int VoyController::GetModAis(const std::string& vi, int& count) const {
-    return kReadRecordCodes.Of(parts_->records.CountCorrections(vi, count));
 }
 
 int VoyController::ResolvePortIds(PortCallRows& rows) const {
@@ -127,10 +105,6 @@ const ScheduleFault& VoyController::LastFault() const {
     return parts_->fault;
 }
 
-int VoyController::RouteIsCurrent() const {
-    return module_->Pending().IsCurrent();
-}
-
 int VoyController::GetPosBookData(const std::string& vi, PosBookData& out) {
     return kGetPosBookCodes.Of(parts_->books.Get(vi, out));
 }
@@ -139,30 +113,6 @@ int VoyController::SavePositionBook(const std::string& vi, const PosBookData& bo
     const auto saved = parts_->books.Save(vi, book);
     parts_->fault = saved.Failed() ? FaultOf(saved) : ScheduleFault();
     return kSavePosBookCodes.Of(saved);
-}
-
-int VoyController::MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out) {
-    const int result = Seaplan::MoveRowUp(rows, index, out);
-    if (result == 0) {
-        module_->Pending().NoteRowsChanged();
-    }
-    return result;
-}
-
-int VoyController::MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out) {
-    const int result = Seaplan::MoveRowDown(rows, index, out);
-    if (result == 0) {
-        module_->Pending().NoteRowsChanged();
-    }
-    return result;
-}
-
-int VoyController::DeleteRow(const PortCallRows& rows, int index, PortCallRows& out) {
-    const int result = RemoveRowAt(rows, index, out);
-    if (result == 0) {
-        module_->Pending().NoteRowsChanged();
-    }
-    return result;
 }
 
 int VoyController::ClearChart() {
@@ -187,18 +137,6 @@ void VoyController::SetTreeVisible(std::function<bool()> visible) {
 
 int VoyController::ShowVoyage(const std::string& vi) {
     return kShowVoyageCodes.Of(parts_->loader.Show(vi));
-}
-
-int VoyController::RefreshVesselPositions() {
-    return kRefreshPositionsCodes.Of(parts_->watch.RefreshPositions());
-}
-
-int VoyController::RefreshTrace(const std::string& vi) {
-    return kRefreshTraceCodes.Of(parts_->watch.RefreshTrace(vi));
-}
-
-int VoyController::HideAisTrack(const std::string& vi) {
-    return kRefreshTraceCodes.Of(parts_->watch.HideTrack(vi));
 }
 
 int VoyController::ApplyAisPosition(const std::string& vi, int& applied) {

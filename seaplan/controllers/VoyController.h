@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "seaplan/data/VoyInfo.h"
+#include "seaplan/controllers/VoyageFacades.h"
 #include "seaplan/data/VoyPortCall.h"
 
 namespace Tarvik::Seaplan {
@@ -21,8 +21,9 @@ class VoyageStore;
 /// at the operation gives; the store changes only after the server agreed. Rows are in knots, nautical miles
 /// and hours.
 ///
-/// It has more than 25 operations because the panels' contract asks for 29 by name on this one class.
-class VoyController {
+/// The panels' contract asks for all of these names on this one class; those that need nothing but a
+/// voyage's record, its vessel or the rows at hand stand in its bases.
+class VoyController : public VoyageRecordFacade, public VesselFacade, public RouteRowsFacade {
   public:
     /// Keeps its collaborators, which outlive it.
     VoyController(VoyPortCallModule* module, VoyCatalogController* catalog, VoyageStore* store);
@@ -36,17 +37,6 @@ class VoyController {
     /// Drops the working copy of an unsaved voyage and fetches what was saved, without drawing:
     /// kDiscardCodes.
     int DiscardPortCalls(const std::string& vi);
-    /// The seven consumption figures of the record, in kg/day: kReadRecordCodes.
-    int GetFigures(const std::string& vi, BunkerFigures& figures) const;
-    /// The same to the server, then into the record: kSaveFiguresCodes.
-    int SaveFigures(const std::string& vi, const BunkerFigures& figures);
-    /// Makes a corrected voyage a plain one, in memory: kReadRecordCodes.
-    int ClearAisMod(const std::string& vi);
-    /// Name of a voyage, empty for an unknown one.
-    std::string NameOf(const std::string& vi) const;
-    /// How often the voyage was corrected from AIS; `count` is left alone for the distance table, which is
-    /// none: kReadRecordCodes.
-    int GetModAis(const std::string& vi, int& count) const;
 
     // Calculating and saving
     /// Ids of the rows that have none, by name from the host's dictionary, empty for an unknown name. 0.
@@ -73,14 +63,6 @@ class VoyController {
     int SavePositionBook(const std::string& vi, const PosBookData& book);
     /// Why the last calculation or save failed.
     const ScheduleFault& LastFault() const;
-    /// A new list. -1 when the insertion, -2 when the removal fails; then `out` is empty.
-    int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out);
-    /// As MoveRowUp.
-    int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out);
-    /// A new list. -1 a negative index, -2 one at or beyond the size.
-    int DeleteRow(const PortCallRows& rows, int index, PortCallRows& out);
-    /// 1 after a schedule was loaded or saved; -1 at the start and after its rows were moved or deleted.
-    int RouteIsCurrent() const;
 
     // Chart and vessels
     /// Takes off all that the plug-in drew. 0 or -1.
@@ -97,12 +79,6 @@ class VoyController {
     /// The timer draws voyages only while the tree's window is visible; not told otherwise, it counts as
     /// visible, for the panel stops the timer when it hides.
     void SetTreeVisible(std::function<bool()> visible);
-    /// Takes over newer positions of all vessels: kRefreshPositionsCodes.
-    int RefreshVesselPositions();
-    /// Takes over the last position of the vessel's track, if newer: kRefreshTraceCodes.
-    int RefreshTrace(const std::string& vi);
-    /// Has the vessel's track hidden: kRefreshTraceCodes, of which -1 and -2.
-    int HideAisTrack(const std::string& vi);
 
     // Correction from AIS
     /// Puts the vessel's last position into the book; `applied` is 1 when it got a row, else 0:
