@@ -10,8 +10,10 @@
 #include <string_view>
 #include <utility>
 
+#include <tarvik/interface/ServerRequest.h>
 #include <tarvik/util/Jsona.h>
 
+#include "host/server/api/RouteSource.h"
 #include "host/server/api/VoyageService.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 

@@ -10,6 +10,8 @@
 
 #include <fmt/format.h>
 
+#include <tarvik/interface/ServerRequest.h>
+
 #include "host/client/remote/HttpClient.h"
 #include "host/server/net/service/Resources.h"
 #include "host/server/net/service/VoyageServer.h"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/calculation/PortCallColumns.h"
 
+#include "seaplan/calculation/Schedule.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {

@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "seaplan/calculation/Schedule.h"
+#include "seaplan/calculation/ScheduleFigures.h"
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/VoyPortCall.h"
 
@@ -99,16 +99,16 @@ inline constexpr auto kPortCallColumns = std::to_array<PortCallColumnEntry>({
      .kind = CellKind::Text,
      .width = 125,
      .editor = CellEditor::Time,
-     .text = [](int, const VoyPortCall& row) { return row.eta.fmt(kTimeFormat); },
+     .text = [](int, const VoyPortCall& row) { return TimeCell(row.eta); },
      .read = [](const std::string& cell, VoyPortCall& row) { ReadTimeCell(cell, row.eta); },
-     .total = [](const ScheduleTotals& sum) { return sum.eta.fmt(kTimeFormat); }},
+     .total = [](const ScheduleTotals& sum) { return TimeCell(sum.eta); }},
     {.title = "IDS_PORTCALL_ETD",
      .kind = CellKind::Text,
      .width = 125,
      .editor = CellEditor::Time,
-     .text = [](int, const VoyPortCall& row) { return row.etd.fmt(kTimeFormat); },
+     .text = [](int, const VoyPortCall& row) { return TimeCell(row.etd); },
      .read = [](const std::string& cell, VoyPortCall& row) { ReadTimeCell(cell, row.etd); },
-     .total = [](const ScheduleTotals& sum) { return sum.etd.fmt(kTimeFormat); }},
+     .total = [](const ScheduleTotals& sum) { return TimeCell(sum.etd); }},
     {.title = "IDS_PORTCALL_DISTANCE",
      .unit = UnitKind::Distance,
      .width = 60,

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "seaplan/calculation/ScheduleFigures.h"
 #include "seaplan/data/PointTables.h"
 #include "seaplan/data/VoyPortCall.h"
 
@@ -54,24 +55,11 @@ int MoveRowUp(const PortCallRows& rows, int index, PortCallRows& out);
 /// As MoveRowUp.
 int MoveRowDown(const PortCallRows& rows, int index, PortCallRows& out);
 
-/// Sums of the totals row, from row 0, in the units of the rows.
-struct ScheduleTotals {
-    float portTime = 0;
-    float steamTime = 0;
-    float distance = 0;
-    Util::_datetime_t eta;  ///< of the first row
-    Util::_datetime_t etd;  ///< of the last row
-};
-/// False, with `out` as it was, for fewer than two rows.
+/// The totals row. False, with `out` as it was, for fewer than two rows.
 bool TotalsOf(const PortCallRows& rows, ScheduleTotals& out);
 
-/// Figures over the whole voyage from row 1: port time included, the stay at the first port not.
-struct ScheduleSummary {
-    float averageSpeed = 0;   ///< knots
-    float totalTime = 0;      ///< hours
-    float totalDistance = 0;  ///< nautical miles
-};
-/// Rows in standard units. False, with `out` as it was, for fewer than two rows or a total time below 0.0001.
+/// The summary of rows in standard units. False, with `out` as it was, for fewer than two rows or a total
+/// time below 0.0001.
 bool SummaryOf(const PortCallRows& rows, ScheduleSummary& out);
 
 }  // namespace Tarvik::Seaplan

@@ -10,6 +10,8 @@
 #include <tarvik/util/StringUtl.h>
 #include <tarvik/util/Units.h>
 
+#include "seaplan/data/TimeText.h"
+
 namespace Tarvik::Seaplan {
 
 namespace {
@@ -230,6 +232,10 @@ std::string TwoDecimals(double value) {
 
 std::string OneDecimal(double value) {
     return StringUtl::Format("%.1f", value);
+}
+
+std::string TimeCell(const Util::_datetime_t& time) {
+    return time.fmt(kTimeFormat);
 }
 
 }  // namespace Tarvik::Seaplan

@@ -7,7 +7,6 @@
 
 #include <tarvik/util/DateTime.h>
 
-#include "seaplan/data/TimeText.h"
 #include "seaplan/data/VoyPortCall.h"
 
 /// Units of the port call table, and the exact texts in which numbers go into it and come back out.
@@ -54,10 +53,11 @@ void ReadNumberCell(const std::string& cell, float& field);
 /// "12%" as 0.12: the sign at the end goes, whatever it is.
 void ReadPercentCell(const std::string& cell, float& field);
 void ReadTimeCell(const std::string& cell, Util::_datetime_t& field);
-std::string SpeedText(double speed);       ///< "%.2f"
-std::string WeatherText(double fraction);  ///< "%.0f%%" of the fraction times 100
-std::string PercentText(double percent);   ///< "%.0f%%"
-std::string TwoDecimals(double value);     ///< "%.2f"
-std::string OneDecimal(double value);      ///< "%.1f"
+std::string SpeedText(double speed);                  ///< "%.2f"
+std::string WeatherText(double fraction);             ///< "%.0f%%" of the fraction times 100
+std::string PercentText(double percent);              ///< "%.0f%%"
+std::string TwoDecimals(double value);                ///< "%.2f"
+std::string OneDecimal(double value);                 ///< "%.1f"
+std::string TimeCell(const Util::_datetime_t& time);  ///< kTimeFormat
 
 }  // namespace Tarvik::Seaplan

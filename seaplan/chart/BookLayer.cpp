@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 
 #include "seaplan/chart/ChartLines.h"

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/PlanContract.h>
 #include <tarvik/util/FileUtl.h>

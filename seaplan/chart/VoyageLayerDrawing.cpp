@@ -2,6 +2,7 @@
 // Whole voyages on the layer: a route with its labels, a position book, a ship with its track.
 #include <utility>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 
 #include "seaplan/chart/ChartLines.h"

@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/SiblingContract.h>
 #include <tarvik/interface/SiblingRecords.h>

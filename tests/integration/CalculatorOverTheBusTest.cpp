@@ -3,6 +3,7 @@
 #include <map>
 
 #include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/VoyageContract.h>
 #include <tarvik/interface/ChartRecords.h>

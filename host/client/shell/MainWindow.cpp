@@ -12,6 +12,7 @@
 #include <string_view>
 #include <utility>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>
 #include <tarvik/bus/SiblingContract.h>

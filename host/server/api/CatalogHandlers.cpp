@@ -5,6 +5,7 @@
 #include "host/server/api/Refusal.h"
 #include "host/server/api/Replies.h"
 #include "host/server/api/RequestFields.h"
+#include "host/server/storage/contract/CatalogStorage.h"
 
 namespace Tarvik::Server {
 

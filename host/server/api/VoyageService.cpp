@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "host/server/api/CommandTable.h"
 #include "host/server/api/Refusal.h"
 #include "host/server/api/Replies.h"
 

@@ -5,10 +5,13 @@
 #include <string>
 #include <string_view>
 
-#include "host/server/api/CommandTable.h"
 #include "host/server/api/Errors.h"
+#include "host/server/storage/contract/ServerTime.h"
 
 namespace Tarvik::Server {
+
+class RouteSource;
+class Storage;
 
 /// A reply text with what it means.
 struct VoyageReply {

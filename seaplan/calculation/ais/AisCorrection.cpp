@@ -14,6 +14,7 @@
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/Outcome.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
 

@@ -19,6 +19,7 @@
 #include "seaplan/calculation/Units.h"
 #include "seaplan/data/Outcome.h"
 #include "seaplan/data/Position.h"
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
 

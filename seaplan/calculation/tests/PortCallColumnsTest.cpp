@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "seaplan/calculation/PortCallColumns.h"
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/book/BookEditing.h"
 
+#include "seaplan/panels/texts/EditTexts.h"
+
 namespace Tarvik::Seaplan {
 
 BookEditing::BookEditing(BookDesk& desk)

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "seaplan/panels/book/BookEdits.h"
+#include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/window/StatusWords.h"
 
 namespace Tarvik::Seaplan {

@@ -8,6 +8,7 @@
 
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/texts/BookTexts.h"
+#include "seaplan/panels/texts/EditTexts.h"
 #include "seaplan/panels/window/StatusWords.h"
 
 namespace Tarvik::Seaplan {

@@ -74,8 +74,7 @@ class EditHistory {
     const Step& Now() const { return steps_[at_]; }
     const Step& Next() const { return steps_[at_ + 1]; }
     UndoTexts Texts() const {
-        return {CanGoBack() ? EditText(TextIds::IDS_VIEW_UNDOOF, Now().name) : std::string(),
-                CanGoForward() ? EditText(TextIds::IDS_VIEW_REDOOF, Next().name) : std::string()};
+        return UndoTextsOf(CanGoBack() ? &Now().name : nullptr, CanGoForward() ? &Next().name : nullptr);
     }
     /// The state as it was begun with or last saved, and whether the server still has it.
     const State& Backup() const { return backup_; }

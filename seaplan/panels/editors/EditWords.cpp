@@ -2,11 +2,26 @@
 #include "seaplan/panels/editors/EditWords.h"
 
 #include "seaplan/panels/language/LoadText.h"
+#include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
 
+namespace {
+
+// `form` takes the edit's name.
 std::string EditText(TextId form, const EditName& name) {
     return Text(form, {Text(name.text, {std::to_string(name.row + 1)})});
+}
+
+}  // namespace
+
+TextId OtherEdit() {
+    return TextIds::IDS_VIEW_EDITOTHER;
+}
+
+UndoTexts UndoTextsOf(const EditName* undone, const EditName* redone) {
+    return {undone != nullptr ? EditText(TextIds::IDS_VIEW_UNDOOF, *undone) : std::string(),
+            redone != nullptr ? EditText(TextIds::IDS_VIEW_REDOOF, *redone) : std::string()};
 }
 
 std::string RowsText(TextId id, const std::vector<int>& rows) {

@@ -5,14 +5,17 @@
 #include <string>
 #include <vector>
 
-#include "seaplan/panels/texts/EditTexts.h"
+#include "seaplan/panels/texts/TextId.h"
 
 namespace Tarvik::Seaplan {
 
+/// The text of an edit that has no name of its own: it takes a row's number.
+TextId OtherEdit();
+
 /// What an edit is called.
 struct EditName {
-    TextId text = TextIds::IDS_VIEW_EDITOTHER;  ///< takes a row's number
-    int row = 0;                                ///< counted from 0
+    TextId text = OtherEdit();  ///< takes a row's number
+    int row = 0;                ///< counted from 0
 };
 
 /// An edit of several rows is called by how many they are.
@@ -27,8 +30,8 @@ struct UndoTexts {
     bool operator==(const UndoTexts&) const = default;
 };
 
-/// What a command does with an edit; `form` takes the edit's name.
-std::string EditText(TextId form, const EditName& name);
+/// The texts for the edit that undo and the one that redo would take; null for none.
+UndoTexts UndoTextsOf(const EditName* undone, const EditName* redone);
 
 /// A sentence about rows, counted from 0; empty without rows.
 std::string RowsText(TextId id, const std::vector<int>& rows);

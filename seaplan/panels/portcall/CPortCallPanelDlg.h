@@ -9,7 +9,7 @@
 
 #include "seaplan/data/VoyInfo.h"
 #include "seaplan/panels/book/BookOwner.h"
-#include "seaplan/panels/tree/TreeCollaborators.h"
+#include "seaplan/panels/tree/PortCallOpener.h"
 
 namespace Tarvik::Seaplan {
 

@@ -6,6 +6,7 @@
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/TimeText.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/texts/EditTexts.h"

@@ -7,6 +7,7 @@
 #include "seaplan/calculation/Schedule.h"
 #include "seaplan/controllers/VoyageRecords.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/TimeText.h"
 
 namespace Tarvik::Seaplan {
 

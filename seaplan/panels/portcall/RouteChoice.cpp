@@ -8,6 +8,7 @@
 #include "seaplan/controllers/RouteFinder.h"
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/controllers/VoyPortCallModule.h"
+#include "seaplan/data/TimeText.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
 #include "seaplan/panels/portcall/PortCallWords.h"

@@ -10,6 +10,7 @@
 #include "seaplan/calculation/Units.h"
 #include "seaplan/calculation/WhatIf.h"
 #include "seaplan/data/PortDirectory.h"
+#include "seaplan/data/TimeText.h"
 #include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"

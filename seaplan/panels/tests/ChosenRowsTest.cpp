@@ -3,6 +3,7 @@
 #include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
+#include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
 

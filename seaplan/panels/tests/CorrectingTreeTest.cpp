@@ -4,6 +4,7 @@
 
 #include "seaplan/panels/tests/DeskRoutes.h"
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/PortCallOpener.h"
 #include "testsupport/ManualClock.h"
 #include "testsupport/RecordingMsgSink.h"
 

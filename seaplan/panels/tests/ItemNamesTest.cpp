@@ -7,6 +7,7 @@
 
 #include "seaplan/panels/tests/TreeFixture.h"
 #include "seaplan/panels/tree/NoteCommands.h"
+#include "seaplan/panels/tree/PortCallOpener.h"
 #include "testsupport/RecordingMsgSink.h"
 
 namespace Tarvik::Seaplan {

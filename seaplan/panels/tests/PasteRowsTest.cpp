@@ -4,6 +4,7 @@
 #include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/portcall/paste/PastedColumns.h"
 #include "seaplan/panels/tests/PortCallFixture.h"
+#include "seaplan/panels/texts/EditTexts.h"
 #include "testsupport/DataFolder.h"
 
 namespace Tarvik::Seaplan {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/data/TimeText.h"
 #include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/portcall/RowCommands.h"
 #include "seaplan/panels/tests/PortCallFixture.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "seaplan/calculation/Schedule.h"
 #include "seaplan/data/Purposes.h"
 #include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"

@@ -4,6 +4,7 @@
 
 #include "seaplan/panels/tests/TreeFixture.h"
 #include "seaplan/panels/tree/CategoryCommands.h"
+#include "seaplan/panels/tree/PortCallOpener.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/VoyageTreeSortDlg.h"
 #include "testsupport/RecordingMsgSink.h"

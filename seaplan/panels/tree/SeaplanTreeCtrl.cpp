@@ -9,6 +9,7 @@
 #include "seaplan/panels/tree/ItemCommands.h"
 #include "seaplan/panels/tree/MadeVoyages.h"
 #include "seaplan/panels/tree/NoteCommands.h"
+#include "seaplan/panels/tree/PortCallOpener.h"
 #include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TrackCommands.h"
 #include "seaplan/panels/tree/TreeKeys.h"

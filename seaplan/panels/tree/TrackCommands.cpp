@@ -10,9 +10,11 @@
 #include "seaplan/calculation/Units.h"
 #include "seaplan/controllers/VoyCatalogController.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/data/TimeText.h"
 #include "seaplan/panels/texts/PortCallTexts.h"
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
+#include "seaplan/panels/tree/PortCallOpener.h"
 #include "seaplan/panels/tree/TreeParts.h"
 
 namespace Tarvik::Seaplan {

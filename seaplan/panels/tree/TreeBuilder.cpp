@@ -3,6 +3,7 @@
 
 #include "seaplan/calculation/Units.h"
 #include "seaplan/controllers/VoyController.h"
+#include "seaplan/data/TimeText.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/TreeRules.h"

@@ -8,6 +8,7 @@
 #include "seaplan/panels/texts/TreeTexts.h"
 #include "seaplan/panels/tree/ItemNames.h"
 #include "seaplan/panels/tree/MadeVoyages.h"
+#include "seaplan/panels/tree/PortCallOpener.h"
 #include "seaplan/panels/tree/RowTexts.h"
 #include "seaplan/panels/tree/TreeParts.h"
 

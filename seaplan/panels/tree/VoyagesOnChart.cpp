@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "seaplan/panels/tree/VoyagesOnChart.h"
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 
 #include "seaplan/controllers/VoyCatalogController.h"

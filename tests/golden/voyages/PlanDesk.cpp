@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 
 #include "seaplan/calculation/PositionBook.h"

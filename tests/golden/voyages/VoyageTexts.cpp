@@ -7,6 +7,7 @@
 
 #include "seaplan/calculation/PortCallColumns.h"
 #include "seaplan/calculation/Schedule.h"
+#include "seaplan/data/TimeText.h"
 #include "tests/golden/voyages/GoldenFile.h"
 
 namespace Tarvik::Golden {

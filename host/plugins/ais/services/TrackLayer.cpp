@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/interface/ChartRecords.h>
 #include <tarvik/util/PointText.h>

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/core/PluginInfo.h>
 #include <tarvik/core/TObject.h>

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include "host/server/api/CommandTable.h"
 #include "host/server/api/tests/ServiceFixture.h"
 
 namespace Tarvik::Server {

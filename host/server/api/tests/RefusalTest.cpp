@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <utility>
 
+#include <tarvik/interface/ServerRequest.h>
+
 #include "host/server/api/tests/ServiceFixture.h"
 
 namespace Tarvik::Server {

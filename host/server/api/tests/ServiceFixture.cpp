@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 
+#include <tarvik/interface/ServerRequest.h>
 #include <tarvik/util/Jsona.h>
 
 namespace Tarvik::Server {

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "host/server/api/Errors.h"
+#include "host/server/api/RouteSource.h"
 #include "host/server/api/VoyageService.h"
 #include "host/server/storage/sqlite/SqliteStorage.h"
 

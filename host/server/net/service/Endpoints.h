@@ -7,10 +7,12 @@
 #include <string>
 
 #include "host/server/accounts/Sessions.h"
-#include "host/server/api/VoyageService.h"
 #include "host/server/net/http/HttpService.h"
 
 namespace Tarvik::Server {
+
+class Storage;
+class VoyageService;
 
 /// A reply with what metrics and log say about it.
 struct Answered {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/accounts/Credentials.h"
+#include "host/server/api/CommandTable.h"
+#include "host/server/api/VoyageService.h"
 #include "host/server/net/service/Endpoints.h"
 #include "host/server/wire/Envelope.h"
 

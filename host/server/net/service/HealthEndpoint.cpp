@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/net/service/Endpoints.h"
+#include "host/server/storage/contract/CatalogStorage.h"
+#include "host/server/storage/contract/Storage.h"
 
 namespace Tarvik::Server {
 

@@ -7,9 +7,11 @@
 
 #include "host/server/accounts/AccountStorage.h"
 #include "host/server/api/RouteSource.h"
+#include "host/server/api/VoyageService.h"
 #include "host/server/net/http/HttpServer.h"
 #include "host/server/net/service/ServerFront.h"
 #include "host/server/net/settings/Settings.h"
+#include "host/server/storage/contract/Storage.h"
 
 namespace Tarvik::Server {
 

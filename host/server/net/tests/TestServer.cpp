@@ -6,6 +6,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <tarvik/interface/ServerRequest.h>
+
 #include "host/server/net/service/Resources.h"
 #include "host/server/wire/Envelope.h"
 

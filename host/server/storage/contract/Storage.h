@@ -4,12 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "host/server/storage/contract/CatalogStorage.h"
 #include "host/server/storage/contract/Outcome.h"
 #include "host/server/storage/contract/Records.h"
-#include "host/server/storage/contract/ScheduleStorage.h"
 
 namespace Tarvik::Server {
+
+class CatalogStorage;
+class ScheduleStorage;
 
 /// Remarks on categories, voyages and port calls. The object must be known to the catalog of the same owner.
 class RemarkStorage {

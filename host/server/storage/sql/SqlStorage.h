@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "host/server/storage/contract/CatalogStorage.h"
+#include "host/server/storage/contract/ScheduleStorage.h"
 #include "host/server/storage/contract/Storage.h"
 #include "host/server/storage/contract/TransferStorage.h"
 #include "host/server/storage/sql/SqlSession.h"

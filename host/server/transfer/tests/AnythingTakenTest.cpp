@@ -6,6 +6,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <tarvik/interface/ServerRequest.h>
+
+#include "host/server/api/RouteSource.h"
 #include "host/server/api/VoyageService.h"
 #include "host/server/transfer/tests/TransferFixture.h"
 

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include "host/server/storage/contract/CatalogStorage.h"
+#include "host/server/storage/contract/ScheduleStorage.h"
+
 namespace Tarvik::Server {
 
 namespace {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// Several rows of the book chosen at once: deleting them, filling down, and one value in all of them.
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "seaplan/panels/book/tests/BookFixture.h"
+#include "seaplan/panels/texts/EditTexts.h"
 
 namespace Tarvik::Seaplan {
 

@@ -3,7 +3,8 @@
 
 #include <string>
 
-#include <tarvik/bus/BusCall.h>
+#include <tarvik/Export.h>
+#include <tarvik/bus/BusName.h>
 
 class QWidget;
 
@@ -97,9 +98,6 @@ inline constexpr ClickEvent ClickRRPoint{"TRV_MAP_LCLICK_RRPOINT"};  ///< altern
 }  // namespace Bus
 
 /// Chart side: raises the click event of an object's type, whoever owns it.
-inline void RaiseClick(const std::string& type, const std::string& id) {
-    const std::string name = "TRV_MAP_LCLICK_" + type;
-    Raise(ClickEvent{name.c_str()}, &id);
-}
+TARVIK_API void RaiseClick(const std::string& type, const std::string& id);
 
 }  // namespace Tarvik::Interface

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 
 /// Objects of the chart that a person moves with the pointer.

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/ChartContract.h>
 #include <tarvik/bus/HostContract.h>
 #include <tarvik/bus/PlacesContract.h>

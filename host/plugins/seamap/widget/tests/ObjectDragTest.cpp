@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <tarvik/bus/Binding.h>
+#include <tarvik/bus/BusCall.h>
 #include <tarvik/bus/DragContract.h>
 #include <tarvik/interface/ChartRecords.h>
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "host/server/storage/contract/ScheduleStorage.h"
 #include "host/server/storage/contract/tests/StorageContract.h"
 
 namespace Tarvik::Server {

@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include "host/server/storage/contract/CatalogStorage.h"
 #include "host/server/storage/contract/tests/WriteScript.h"
 
 namespace Tarvik::Server {

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "host/server/storage/contract/CatalogStorage.h"
 #include "host/server/storage/contract/Storage.h"
 
 namespace Tarvik::Server {

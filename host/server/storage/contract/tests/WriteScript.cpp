@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/storage/contract/tests/WriteScript.h"
 
+#include "host/server/storage/contract/CatalogStorage.h"
+#include "host/server/storage/contract/ScheduleStorage.h"
+
 namespace Tarvik::Server::WriteScript {
 
 namespace {

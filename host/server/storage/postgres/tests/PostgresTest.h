@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "host/server/storage/contract/CatalogStorage.h"
 #include "host/server/storage/postgres/PostgresStorage.h"
 #include "host/server/storage/postgres/tests/PostgresServer.h"
 

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#include <tarvik/bus/BusCall.h>
+#include <tarvik/bus/ChartContract.h>
+
+namespace Tarvik::Interface {
+
+void RaiseClick(const std::string& type, const std::string& id) {
+    const std::string name = "TRV_MAP_LCLICK_" + type;
+    Raise(ClickEvent{name.c_str()}, &id);
+}
+
+}  // namespace Tarvik::Interface
