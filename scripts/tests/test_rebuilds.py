@@ -26,6 +26,17 @@ class Rebuilds(unittest.TestCase):
     def test_a_ring_of_headers_ends(self):
         self.assertEqual(rebuilds.rebuilt("x.h", {"x.h": {"y.h"}, "y.h": {"x.h", "z.cpp"}}), {"z.cpp"})
 
+    def test_a_header_over_a_tenth_of_the_sources_needs_a_line_with_a_reason(self):
+        counted = {"wide.h": 11, "fair.h": 10}
+        self.assertEqual(list(rebuilds.breaches(counted, 100, [])), ["wide.h: 11 of 100 sources, limit 10"])
+        self.assertEqual(list(rebuilds.breaches(counted, 100, ["wide.h"])), [])
+        with self.assertRaises(ValueError):
+            rebuilds.read_allowed("wide.h\n")
+
+    def test_a_line_that_nothing_needs_is_told(self):
+        told = list(rebuilds.breaches({"was_wide.h": 3, "nearly.h": 9}, 100, ["was_wide.h", "nearly.h", "gone.h"]))
+        self.assertEqual([text.split()[1] for text in told], ["was_wide.h", "gone.h"])
+
 
 if __name__ == "__main__":
     unittest.main()
