@@ -154,6 +154,22 @@ TEST_F(BookChosenRowsTest, AChoiceIsTakenForAllRows) {
     EXPECT_FALSE(bookView.choiceCell.has_value());
 }
 
+TEST_F(BookChosenRowsTest, RowsThatAnEditBringsInDoNotMoveItFromTheOthers) {
+    OpenWithWaypoints();
+    const int rows = bookView.sheet.RowCount();
+    Choose(Last, BookTrack, 0);
+    Choose(First, BookTrack, 0);
+    ASSERT_EQ(bookView.sheet.RowCount(), rows);
+    Click(Last, BookInterval);
+    ASSERT_TRUE(bookView.choiceCell.has_value());
+    bookView.chosen = {First, Last};
+    EXPECT_TRUE(book.Cells().OnChoiceKey(kInAll, 0));
+    ASSERT_GT(bookView.sheet.RowCount(), rows) << "the leg to the first of them is more than a degree long";
+    EXPECT_EQ(Cell(bookView.sheet.RowCount() - 1, BookName), "GDANSK");
+    EXPECT_EQ(Cell(bookView.sheet.RowCount() - 1, BookInterval), "1");
+    EXPECT_EQ(Cell(bookView.sheet.RowOf({1}), BookInterval), "5") << "HAMBURG was not among them";
+}
+
 TEST_F(BookChosenRowsTest, TimesCoursesAndNothingFillNothing) {
     OpenWithWaypoints();
     ChooseRows({Port, Last});

@@ -100,6 +100,15 @@ TEST_F(BookPasteTest, CopiedRowsComeInWithoutTheEndsThatStandThere) {
     EXPECT_EQ(statusWord, "");
 }
 
+TEST_F(BookPasteTest, ALineThatStandsWhereTheOneBeforeItDoesIsLeft) {
+    OpenBook();
+    // Half of the last decimal that the book shows is 0.00005.
+    Paste("Name\tLat\tLon\nAlpha\t0.5\t0.6\nBravo\t0.50004\t0.60004\nCharlie\t0.5001\t0.6\n", Hamburg);
+    EXPECT_EQ(Shown(1, 1).mark, Mark::Ignored);
+    EXPECT_EQ(Column(BookName),
+              Names({"ROTTERDAM", "Mid Cape", "Plain", "Alpha", "Charlie", "HAMBURG", "GDANSK"}));
+}
+
 TEST_F(BookPasteTest, NothingIsPastedWithoutTextOrARowThatTakesWaypoints) {
     OpenBook();
     Paste("", Hamburg);

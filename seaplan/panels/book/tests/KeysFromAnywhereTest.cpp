@@ -43,6 +43,16 @@ TEST_F(KeysFromAnywhereTest, PortCallsAreCalculatedAndSavedWithWhatIsBeingTyped)
     EXPECT_EQ(desk.Count(Ask::kSavePortCalls), 2) << "a saved voyage is saved by its calculation";
 }
 
+TEST_F(KeysFromAnywhereTest, APortThatIsBeingTypedCountsForTheCalculation) {
+    Open(fresh);
+    PortCallFixture::Type(0, ColPort, "ROTTERDAM");
+    panel.Cells().OnCellClicked(1, ColPort);
+    Retype(CellEditor::Port, "HAMBURG");
+    EXPECT_TRUE(OnKeyFromAnywhere(kCalculate, {&panel, nullptr}));
+    EXPECT_EQ(statusWord, "");
+    EXPECT_EQ(desk.Count(Ask::kRoute), 1);
+}
+
 TEST_F(KeysFromAnywhereTest, ATableWithoutTwoPortsTellsWhatItNeeds) {
     Open(fresh);
     EXPECT_TRUE(OnKeyFromAnywhere(kCalculate, {&panel, nullptr}));
