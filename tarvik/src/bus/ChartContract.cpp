@@ -5,7 +5,7 @@
 namespace Tarvik::Interface {
 
 void RaiseClick(const std::string& type, const std::string& id) {
-    const std::string name = "TRV_MAP_LCLICK_" + type;
+    const std::string name = kClickEventPrefix + type;
     Raise(ClickEvent{name.c_str()}, &id);
 }
 

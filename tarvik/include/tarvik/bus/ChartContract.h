@@ -97,6 +97,8 @@ inline constexpr ClickEvent ClickRRPoint{"TRV_MAP_LCLICK_RRPOINT"};  ///< altern
 
 }  // namespace Bus
 
+/// Before an object's type, the name of its click event.
+inline constexpr const char* kClickEventPrefix = "TRV_MAP_LCLICK_";
 /// Chart side: raises the click event of an object's type, whoever owns it.
 TARVIK_API void RaiseClick(const std::string& type, const std::string& id);
 
