@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "host/data/builder/CornerSet.h"
-#include "host/data/builder/RingShape.h"
+#include "host/geo/RingShape.h"
 #include "host/geo/Sphere.h"
 #include "host/server/graph/SeaNetwork.h"
 

@@ -2,7 +2,7 @@
 // Corners stand off along the bisector of their cape, so two capes in a row may just not see each other.
 // Between such two the cape in the way gets a corner of its own, and so on to a fixed depth.
 #include "host/data/builder/CornerSet.h"
-#include "host/data/builder/RingShape.h"
+#include "host/geo/RingShape.h"
 
 namespace Tarvik::Data {
 

@@ -5,13 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "host/geo/GeoPoint.h"
 #include "host/geo/LandFile.h"
+#include "host/geo/RingShape.h"
 
 namespace Tarvik::Data {
 
-using Server::GeoPoint;
-using Ring = std::vector<GeoPoint>;
 /// An outer ring and its holes (inland seas).
 using Polygon = std::vector<Ring>;
 

@@ -7,7 +7,7 @@
 
 #include "host/data/builder/CoastCorners.h"
 #include "host/data/builder/PortLinker.h"
-#include "host/data/builder/RingShape.h"
+#include "host/geo/RingShape.h"
 #include "host/geo/Sphere.h"
 #include "host/server/graph/SeaNetwork.h"
 
@@ -130,15 +130,7 @@ void NetworkBuilder::AddLattice() {
 
 void NetworkBuilder::AddAreas() {
     for (const std::vector<GeoPoint>& ring : areas_) {
-        const bool left = RunsLeft(ring);
-        for (std::size_t i = 0; i < ring.size(); ++i) {
-            const GeoPoint before = DirectionTo(ring[(i + ring.size() - 1) % ring.size()], ring[i]);
-            const GeoPoint after = DirectionTo(ring[i], ring[(i + 1) % ring.size()]);
-            // Outwards lies to the right of a ring that has its inside to the left.
-            const double side = left ? 1.0 : -1.0;
-            const double bearing =
-                std::atan2(side * (before.y + after.y), -side * (before.x + after.x)) / Server::kDegree;
-            const GeoPoint at = Server::RoundPoint(Server::Destination(ring[i], bearing, kAreaOffsetNm));
+        for (const GeoPoint at : CornersOutside(ring, kAreaOffsetNm)) {
             if (!index_.IsLand(at) && !InArea(at)) {
                 nodes_.push_back({at, true, false, {}, {}});
             }

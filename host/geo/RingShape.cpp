@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The shape of coasts. Outlines are thinned by Douglas and Peucker's method ("Algorithms for the reduction of
 // the number of points required to represent a digitized line", 1973), n log n on the whole.
-#include "host/data/builder/RingShape.h"
+#include "host/geo/RingShape.h"
 
 #include <algorithm>
 #include <cmath>
@@ -134,6 +134,21 @@ bool IsInside(GeoPoint p, const Ring& ring) {
         }
     }
     return inside;
+}
+
+std::vector<GeoPoint> CornersOutside(const Ring& ring, double nm) {
+    // Outwards lies to the right of a ring that has its inside to the left.
+    const double side = RunsLeft(ring) ? 1.0 : -1.0;
+    std::vector<GeoPoint> places;
+    places.reserve(ring.size());
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        const GeoPoint before = DirectionTo(ring[(i + ring.size() - 1) % ring.size()], ring[i]);
+        const GeoPoint after = DirectionTo(ring[i], ring[(i + 1) % ring.size()]);
+        const double bearing =
+            std::atan2(side * (before.y + after.y), -side * (before.x + after.x)) / kDegree;
+        places.push_back(Server::RoundPoint(Server::Destination(ring[i], bearing, nm)));
+    }
+    return places;
 }
 
 }  // namespace Tarvik::Data

@@ -4,9 +4,12 @@
 #include <cstddef>
 #include <vector>
 
-#include "host/data/builder/Land.h"
+#include "host/geo/GeoPoint.h"
 
 namespace Tarvik::Data {
+
+using Server::GeoPoint;
+using Ring = std::vector<GeoPoint>;
 
 /// The direction from one place to another as east and north; length 1, or 0 where they are one.
 GeoPoint DirectionTo(GeoPoint from, GeoPoint to);
@@ -29,5 +32,9 @@ bool RunsLeft(const Ring& ring);
 
 /// True for a place inside a ring that does not cross the date line.
 bool IsInside(GeoPoint p, const Ring& ring);
+
+/// The places so many nautical miles outside a ring's corners, where ships turn that keep clear of it;
+/// longitudes within ±180.
+std::vector<GeoPoint> CornersOutside(const Ring& ring, double nm);
 
 }  // namespace Tarvik::Data
