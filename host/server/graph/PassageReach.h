@@ -20,6 +20,10 @@ struct SightLine {
     GateMask crossed;    ///< the gates on the way, when it is clear
 };
 
+/// Whether a ship may sail straight from a to b: neither land nor a closed area lies between, and a line that
+/// is not short keeps off the coast.
+bool IsSeaRoom(const LandIndex& land, GeoPoint a, GeoPoint b);
+
 /// The line from a to b. Ways share most of their lines: each thread keeps some ten thousands of those it was
 /// asked for last.
 const SightLine& SightLineOf(const SeaNetwork& network, GeoPoint a, GeoPoint b);

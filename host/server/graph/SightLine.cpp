@@ -29,17 +29,23 @@ std::size_t PlaceOf(GeoPoint a, GeoPoint b) {
     return sum >> (64U - kPlaceBits);
 }
 
+bool ComesNear(const LandIndex& land, GeoPoint a, GeoPoint b) {
+    return ArcNm(a, b) > kFreeHandNm && land.Grazes(a, b, kOffCoastNm, LandIndex::kApproachNm);
+}
+
 SightLine Reckon(const SeaNetwork& network, GeoPoint a, GeoPoint b) {
-    const LandIndex& land = network.Land();
     const std::vector<GeoPoint> way = GreatCircle(a, b);
-    if (land.Blocks(way) ||
-        (ArcNm(a, b) > kFreeHandNm && land.Grazes(a, b, kOffCoastNm, LandIndex::kApproachNm))) {
+    if (network.Land().Blocks(way) || ComesNear(network.Land(), a, b)) {
         return {};
     }
     return {true, GatesCrossed(way, network.data().routePoints, network.CellsOfGates())};
 }
 
 }  // namespace
+
+bool IsSeaRoom(const LandIndex& land, GeoPoint a, GeoPoint b) {
+    return !land.Blocks(a, b) && !ComesNear(land, a, b);
+}
 
 const SightLine& SightLineOf(const SeaNetwork& network, GeoPoint a, GeoPoint b) {
     thread_local std::vector<Kept> table(std::size_t{1} << kPlaceBits);

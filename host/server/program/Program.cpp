@@ -53,8 +53,11 @@ std::string NetworkOf(const Settings& settings) {
     return NetworkBeside(std::filesystem::read_symlink("/proc/self/exe", failed).string());
 }
 
-PassageLists ListsOf(const Settings& settings) {
-    return {settings.passagesForbidden, settings.passagesOpened};
+OperatorRules RulesOf(const Settings& settings) {
+    return {{settings.passagesForbidden, settings.passagesOpened},
+            settings.areasForbidden,
+            settings.northernLimit,
+            settings.southernLimit};
 }
 
 /// Ends the process although a thread may still work: what that has begun is there whole or not at all, as
@@ -69,7 +72,7 @@ void EndSoon() {
 int Serve(const Settings& settings, const ProgramParts& parts) {
     std::string error;
     ServerParts serverParts;
-    serverParts.routes = OpenRoutes(NetworkOf(settings), ListsOf(settings), error);
+    serverParts.routes = OpenRoutes(NetworkOf(settings), RulesOf(settings), error);
     if (serverParts.routes == nullptr) {
         return Say(parts, kFailed, error);
     }
@@ -108,7 +111,7 @@ int Transfer(const TransferCommand& command, const Settings& settings, const Pro
 
 int AnswerRoute(const std::vector<std::string>& words, const Settings& settings, const ProgramParts& parts) {
     std::string said;
-    if (!RunRouteCommand(words, NetworkOf(settings), ListsOf(settings), said)) {
+    if (!RunRouteCommand(words, NetworkOf(settings), RulesOf(settings), said)) {
         return Say(parts, kFailed, said);
     }
     parts.out << said;

@@ -47,9 +47,9 @@ bool RunTransfer(const TransferCommand& command, Settings settings, std::string&
 /// Whether the words are "route ..." or "distances FILE".
 bool IsRouteCommand(const std::vector<std::string>& words);
 
-/// Answers such words from the network of a file under lists of passages. False with an English line in
+/// Answers such words from the network of a file under an operator's rules. False with an English line in
 /// `said`, else the answer, with its line ends.
 bool RunRouteCommand(const std::vector<std::string>& words, const std::string& networkFile,
-                     const PassageLists& lists, std::string& said);
+                     const OperatorRules& rules, std::string& said);
 
 }  // namespace Tarvik::Server

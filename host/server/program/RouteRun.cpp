@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "host/server/graph/report/DistanceTable.h"
-#include "host/server/graph/report/Places.h"
 #include "host/server/graph/report/RouteReport.h"
 #include "host/server/program/Program.h"
 
@@ -16,19 +15,17 @@ bool IsRouteCommand(const std::vector<std::string>& words) {
 }
 
 bool RunRouteCommand(const std::vector<std::string>& words, const std::string& networkFile,
-                     const PassageLists& lists, std::string& said) {
-    const auto network = SeaNetwork::Load(networkFile, said);
-    if (network == nullptr) {
+                     const OperatorRules& rules, std::string& said) {
+    std::optional<RuledNetwork> ruled = LoadUnderRules(networkFile, rules, said);
+    if (!ruled) {
         return false;
     }
-    std::optional<RouteLimits> standing = ReadStandingLimits(Places(*network), lists, said);
-    if (!standing) {
-        return false;
-    }
+    const auto& network = ruled->network;
     if (words[0] == "distances") {
         try {
             const Data::CsvTable table(Data::ReadFile(words[1]));
-            const auto lines = MeasureDistances(*network, RouteEngine(network, std::move(*standing)), table);
+            const auto lines =
+                MeasureDistances(*network, RouteEngine(network, std::move(ruled->limits)), table);
             said = DistanceText(lines) + DistanceStatistics(lines);
             return true;
         } catch (const std::runtime_error& error) {
@@ -40,7 +37,8 @@ bool RunRouteCommand(const std::vector<std::string>& words, const std::string& n
     if (!question) {
         return false;
     }
-    question->standing = std::move(*standing);
+    question->standing = std::move(ruled->limits);
+    question->waters = std::move(ruled->waters);
     try {
         const auto text = RouteText(*network, RouteFiles::Beside(networkFile), *question, said);
         said = text ? *text : said;

@@ -161,6 +161,9 @@ class RouteAnswer {
                 names += (names.empty() ? "" : ", ") + point.name;
             }
         }
+        for (const std::string& water : question_.waters) {
+            names += (names.empty() ? "" : ", ") + water;
+        }
         return names;
     }
     std::string Feature(const RouteLeg& leg) const {

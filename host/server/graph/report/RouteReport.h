@@ -16,9 +16,10 @@ struct RouteQuestion {
     std::string to;
     std::vector<std::string> via;
     std::vector<std::string> without;
-    std::vector<std::string> open;  ///< passages that are shut unless asked for
-    ShipSize ship;                  ///< keeps out of passages that are too small for it
-    RouteLimits standing;           ///< what holds for every route, by ids of route points
+    std::vector<std::string> open;      ///< passages that are shut unless asked for
+    ShipSize ship;                      ///< keeps out of passages that are too small for it
+    RouteLimits standing;               ///< what holds for every route, by ids of route points
+    std::vector<std::string> waters{};  ///< what waters the network was made without, to be told
     bool explain = false;
     bool geojson = false;
 };

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "host/server/graph/adapter/GraphRouteSource.h"
-#include "host/server/graph/report/Places.h"
 #include "host/server/net/service/Resources.h"
 
 namespace fs = std::filesystem;
@@ -17,17 +16,14 @@ std::string NetworkBeside(const std::string& program) {
     return fs::is_regular_file(file, failed) ? file.string() : std::string();
 }
 
-std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, const PassageLists& lists,
+std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, const OperatorRules& rules,
                                         std::string& error) {
     if (networkFile.empty() || networkFile == "none") {
         return std::make_unique<NoRoutes>();
     }
-    std::shared_ptr<const SeaNetwork> network = SeaNetwork::Load(networkFile, error);
-    if (network == nullptr) {
-        return nullptr;
-    }
-    std::optional<RouteLimits> limits = ReadStandingLimits(Places(*network), lists, error);
-    return limits ? std::make_unique<GraphRouteSource>(std::move(network), std::move(*limits)) : nullptr;
+    std::optional<RuledNetwork> ruled = LoadUnderRules(networkFile, rules, error);
+    return ruled ? std::make_unique<GraphRouteSource>(std::move(ruled->network), std::move(ruled->limits))
+                 : nullptr;
 }
 
 }  // namespace Tarvik::Server

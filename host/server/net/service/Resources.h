@@ -38,10 +38,10 @@ class NoRoutes : public RouteSource {
 /// "…/share/seaplan/network.bin"); empty when there is none.
 std::string NetworkBeside(const std::string& program);
 
-/// The source of routes over a network file under lists of passages (the settings `passages_forbidden` and
-/// `passages_opened`); for an empty name and for "none" one that refuses every request. Null, with an English
-/// text in `error`, when the file cannot be used or a list names what is no passage of it.
-std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, const PassageLists& lists,
+/// The source of routes over a network file under an operator's rules (the settings `passages_forbidden` to
+/// `southern_limit`); for an empty name and for "none" one that refuses every request. Null, with an English
+/// text in `error`, when the file or a rule cannot be used.
+std::unique_ptr<RouteSource> OpenRoutes(const std::string& networkFile, const OperatorRules& rules,
                                         std::string& error);
 
 }  // namespace Tarvik::Server

@@ -19,6 +19,9 @@ struct Settings {
     std::string network;
     std::string passagesForbidden;
     std::string passagesOpened;
+    std::string areasForbidden;
+    double northernLimit = 90.0;   ///< degrees
+    double southernLimit = -90.0;  ///< degrees
     std::string address = "127.0.0.1";
     std::uint16_t port = 8470;
     std::string tlsCertificate;

@@ -38,6 +38,21 @@ SettingsEntry Whole(std::string_view key, Number Settings::*field, Number least,
             [field](const Settings& settings) { return std::to_string(settings.*field); }};
 }
 
+/// Degrees of latitude between two whole ones.
+SettingsEntry Latitude(std::string_view key, double Settings::*field, int least, int most,
+                       std::string_view meaning) {
+    return {key, meaning,
+            [=](Settings& settings, std::string_view text) {
+                const auto number = ParseDecimal(text, least, most);
+                if (!number) {
+                    return "must be degrees from " + std::to_string(least) + " to " + std::to_string(most);
+                }
+                settings.*field = *number;
+                return std::string();
+            },
+            [field](const Settings& settings) { return PrintDecimal(settings.*field, 0); }};
+}
+
 SettingsEntry YesNo(std::string_view key, bool Settings::*field, std::string_view meaning) {
     return {key, meaning,
             [field](Settings& settings, std::string_view text) {
@@ -87,6 +102,10 @@ std::vector<SettingsEntry> MakeTable() {
              "passages that no route uses, by name or id, parted by commas"),
         Text("passages_opened", &Settings::passagesOpened,
              "passages that routes use although they are shut unless asked for"),
+        Text("areas_forbidden", &Settings::areasForbidden,
+             "file of waters that no route touches, with the columns name and ring"),
+        Latitude("northern_limit", &Settings::northernLimit, 0, 90, "no route runs north of this latitude"),
+        Latitude("southern_limit", &Settings::southernLimit, -90, 0, "no route runs south of this latitude"),
         Address(),
         Whole<std::uint16_t>("port", &Settings::port, 0, 65535, "TCP port; 0 for any free one"),
         Text("tls_certificate", &Settings::tlsCertificate, "PEM file of the certificate chain"),
