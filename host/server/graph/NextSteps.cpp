@@ -69,7 +69,9 @@ std::optional<std::vector<Arc>> NextSteps::Walk(const ArcTable& table, std::uint
         return std::nullopt;
     }
     const std::uint8_t* row = steps_.View().data() + rows_[to] * width_;
+    constexpr std::size_t kUsualLength = 128;
     std::vector<Arc> way;
+    way.reserve(kUsualLength);
     std::uint32_t at = from;
     // A way passes no node twice: more steps are those of a file that contradicts itself.
     while (at != to && way.size() < width_) {

@@ -14,19 +14,19 @@ namespace Tarvik::Server {
 inline constexpr double kFreeHandNm = 14.0;
 inline constexpr double kOffCoastNm = 4.0;
 
-/// What a ship meets that sails straight from one place to another.
+/// What a ship meets that sails straight from one node to another.
 struct SightLine {
-    bool clear = false;  ///< neither land nor a closed area, and the coast no nearer than it may be
-    GateMask crossed;    ///< the gates on the way, when it is clear
+    bool clear;               ///< neither land nor a closed area, and the coast no nearer than it may be
+    const GateMask& crossed;  ///< the gates on the way, when it is clear; until the thread asks again
 };
 
 /// Whether a ship may sail straight from a to b: neither land nor a closed area lies between, and a line that
 /// is not short keeps off the coast.
 bool IsSeaRoom(const LandIndex& land, GeoPoint a, GeoPoint b);
 
-/// The line from a to b. Ways share most of their lines: each thread keeps some ten thousands of those it was
-/// asked for last.
-const SightLine& SightLineOf(const SeaNetwork& network, GeoPoint a, GeoPoint b);
+/// The line from a node to another. Ways share most of their lines: each thread keeps a quarter of a million
+/// of those it was asked for last.
+SightLine SightLineOf(const SeaNetwork& network, std::uint32_t a, std::uint32_t b);
 
 /// On which side of its own gate a direction leaves a route point: 1 or 2.
 std::uint8_t SideOfGate(const RoutePoint& point, GeoPoint at, GeoPoint next);

@@ -20,24 +20,16 @@ constexpr double kWorthNm = 0.05;
 
 }  // namespace
 
-PathShape::Run PathShape::RunOf(std::vector<GeoPoint> points) {
-    Run run{std::move(points), {}};
-    run.vectors.reserve(run.points.size());
-    for (const GeoPoint p : run.points) {
-        run.vectors.push_back(ToVector(p));
-    }
-    return run;
-}
-
-bool PathShape::IsOpen(GeoPoint a, GeoPoint b, const GateMask& forbidden) const {
-    const SightLine& line = SightLineOf(network_, a, b);
+bool PathShape::IsOpen(std::uint32_t a, std::uint32_t b, const GateMask& forbidden) const {
+    const SightLine line = SightLineOf(network_, a, b);
     return line.clear && (line.crossed & forbidden).none();
 }
 
 std::size_t PathShape::BetterTurn(const Run& run, std::size_t before, std::size_t turn, std::size_t behind,
                                   const GateMask& forbidden) const {
     const auto by = [&](std::size_t i) {
-        return ArcNm(run.vectors[before], run.vectors[i]) + ArcNm(run.vectors[i], run.vectors[behind]);
+        const UnitVector& here = network_.Vector(run[i]);
+        return ArcNm(network_.Vector(run[before]), here) + ArcNm(here, network_.Vector(run[behind]));
     };
     const double present = by(turn) - kWorthNm;
     std::vector<std::pair<double, std::size_t>> shorter;
@@ -50,31 +42,30 @@ std::size_t PathShape::BetterTurn(const Run& run, std::size_t before, std::size_
     std::sort(shorter.begin(), shorter.end());
     for (std::size_t k = 0; k < shorter.size() && k < kTurnsTried; ++k) {
         const std::size_t i = shorter[k].second;
-        const bool first = i == before + 1 || IsOpen(run.points[before], run.points[i], forbidden);
-        if (first && (i + 1 == behind || IsOpen(run.points[i], run.points[behind], forbidden))) {
+        const bool first = i == before + 1 || IsOpen(run[before], run[i], forbidden);
+        if (first && (i + 1 == behind || IsOpen(run[i], run[behind], forbidden))) {
             return i;
         }
     }
     return turn;
 }
 
-void PathShape::AppendTaut(std::vector<GeoPoint> places, const GateMask& forbidden,
-                           std::vector<GeoPoint>& out) const {
+void PathShape::AppendTaut(Run run, const GateMask& forbidden, std::vector<GeoPoint>& out) const {
+    const std::vector<GeoPoint>& nodes = network_.data().nodes;
     // What is left out depends on the end to begin at: it is the same one whichever way the ship goes.
-    const bool turned =
-        std::tie(places.back().x, places.back().y) < std::tie(places.front().x, places.front().y);
+    const GeoPoint first = nodes[run.front()];
+    const GeoPoint last = nodes[run.back()];
+    const bool turned = std::tie(last.x, last.y) < std::tie(first.x, first.y);
     if (turned) {
-        std::reverse(places.begin(), places.end());
+        std::reverse(run.begin(), run.end());
     }
-    const Run run = RunOf(std::move(places));
-    const std::vector<GeoPoint>& points = run.points;
     std::vector<std::size_t> kept{0};
     std::size_t at = 0;
-    while (at + 1 < points.size()) {
+    while (at + 1 < run.size()) {
         std::size_t next = at + 1;
         std::size_t hidden = 0;
-        for (std::size_t j = at + 2; j < points.size() && hidden < kPatience; ++j) {
-            if (IsOpen(points[at], points[j], forbidden)) {
+        for (std::size_t j = at + 2; j < run.size() && hidden < kPatience; ++j) {
+            if (IsOpen(run[at], run[j], forbidden)) {
                 next = j;
                 hidden = 0;
             } else {
@@ -91,7 +82,7 @@ void PathShape::AppendTaut(std::vector<GeoPoint> places, const GateMask& forbidd
         std::reverse(kept.begin(), kept.end());
     }
     std::transform(kept.begin() + 1, kept.end(), std::back_inserter(out),
-                   [&points](std::size_t i) { return points[i]; });
+                   [&](std::size_t i) { return nodes[run[i]]; });
 }
 
 std::vector<GeoPoint> PathShape::Taut(const NodePath& path, const GateMask& forbidden,
@@ -104,15 +95,16 @@ std::vector<GeoPoint> PathShape::Taut(const NodePath& path, const GateMask& forb
     }
     barred |= forbidden;
     std::vector<GeoPoint> corners{data.nodes[path.nodes.front()]};
-    std::vector<GeoPoint> run{corners.front()};
+    Run run{path.nodes.front()};
     const auto flush = [&] {
-        AppendTaut(run, barred, corners);
-        run = {corners.back()};
+        const std::uint32_t last = run.back();
+        AppendTaut(std::move(run), barred, corners);
+        run = {last};
     };
     for (std::size_t i = 0; i < path.edges.size(); ++i) {
         const std::uint32_t node = path.nodes[i + 1];
         if (data.edges[path.edges[i]].kind == EdgeKind::Sea) {
-            run.push_back(data.nodes[node]);
+            run.push_back(node);
             if (std::find(pinned.begin(), pinned.end(), node) != pinned.end()) {
                 flush();
             }
@@ -120,7 +112,7 @@ std::vector<GeoPoint> PathShape::Taut(const NodePath& path, const GateMask& forb
         }
         flush();
         corners.push_back(data.nodes[node]);
-        run = {corners.back()};
+        run = {node};
     }
     flush();
     return corners;

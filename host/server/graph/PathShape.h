@@ -33,19 +33,14 @@ class PathShape {
     static double LengthKm(const std::vector<GeoPoint>& way);
 
   private:
-    /// Places in a row, and their directions from the earth's centre.
-    struct Run {
-        std::vector<GeoPoint> points;
-        std::vector<UnitVector> vectors;
-    };
-    static Run RunOf(std::vector<GeoPoint> points);
-    bool IsOpen(GeoPoint a, GeoPoint b, const GateMask& forbidden) const;
+    /// Nodes in a row.
+    using Run = std::vector<std::uint32_t>;
+    bool IsOpen(std::uint32_t a, std::uint32_t b, const GateMask& forbidden) const;
     /// The place of a run at which to turn between two of its places: the one that makes the way shortest,
     /// where the farthest in sight often leads too far.
     std::size_t BetterTurn(const Run& run, std::size_t before, std::size_t turn, std::size_t behind,
                            const GateMask& forbidden) const;
-    void AppendTaut(std::vector<GeoPoint> places, const GateMask& forbidden,
-                    std::vector<GeoPoint>& out) const;
+    void AppendTaut(Run run, const GateMask& forbidden, std::vector<GeoPoint>& out) const;
 
     const SeaNetwork& network_;
 };

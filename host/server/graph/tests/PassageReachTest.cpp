@@ -90,17 +90,32 @@ TEST_F(ReachTest, ChoosingOpensWhatIsShutAndShutsWhatLiesBeside) {
     Expect(2, "40002", 600.0, kEast);
 }
 
+/// The small sea with more nodes, which no way joins.
+NetworkData SeaWith(const std::vector<GeoPoint>& places) {
+    NetworkData data = SmallSea();
+    data.nodes.insert(data.nodes.end(), places.begin(), places.end());
+    return data;
+}
+
 TEST(SightLine, TellsLandGatesAndTheMarginOffTheCoast) {
-    const SeaNetwork network(SmallSea());
-    EXPECT_FALSE(SightLineOf(network, {-10, 0}, {10, 0}).clear);
-    const SightLine& north = SightLineOf(network, {-8, 8}, {8, 8});
+    const double off = 3.0 / kNmPerDegree;
+    const SeaNetwork network(SeaWith({{-8, 8},
+                                      {8, 8},
+                                      {3 + off, -2},
+                                      {3 + off, 2},
+                                      {3 + off, 0},
+                                      {3 + off, 0.2},
+                                      {3 + 2 * off, -2},
+                                      {3 + 2 * off, 2}}));
+    const auto first = static_cast<std::uint32_t>(SmallSea().nodes.size());
+    EXPECT_FALSE(SightLineOf(network, 0, 3).clear);
+    const SightLine north = SightLineOf(network, first, first + 1);
     EXPECT_TRUE(north.clear);
     EXPECT_TRUE(north.crossed[0]);
     EXPECT_FALSE(north.crossed[1]);
-    const double off = 3.0 / kNmPerDegree;
-    EXPECT_FALSE(SightLineOf(network, {3 + off, -2}, {3 + off, 2}).clear);
-    EXPECT_TRUE(SightLineOf(network, {3 + off, 0}, {3 + off, 0.2}).clear) << "a short line has a free hand";
-    EXPECT_TRUE(SightLineOf(network, {3 + 2 * off, -2}, {3 + 2 * off, 2}).clear);
+    EXPECT_FALSE(SightLineOf(network, first + 2, first + 3).clear);
+    EXPECT_TRUE(SightLineOf(network, first + 4, first + 5).clear) << "a short line has a free hand";
+    EXPECT_TRUE(SightLineOf(network, first + 6, first + 7).clear);
 }
 
 TEST(SightLine, IsThatOfTheNetworkAskedFor) {
@@ -109,8 +124,32 @@ TEST(SightLine, IsThatOfTheNetworkAskedFor) {
     open.land.clear();
     const SeaNetwork sea(std::move(open));
     for (int i = 0; i < 3; ++i) {
-        EXPECT_FALSE(SightLineOf(land, {-10, 0}, {10, 0}).clear);
-        EXPECT_TRUE(SightLineOf(sea, {-10, 0}, {10, 0}).clear);
+        EXPECT_FALSE(SightLineOf(land, 0, 3).clear);
+        EXPECT_TRUE(SightLineOf(sea, 0, 3).clear);
+    }
+}
+
+// More lines than the table has places: what was driven out is reckoned anew, and none takes another's
+// answer.
+TEST(SightLine, AnswersStayThoseOfTheirLineWhenTheTableIsFull) {
+    std::vector<GeoPoint> places;
+    for (int i = 0; i < 544; ++i) {
+        places.push_back({-30.0 + static_cast<double>(i % 32), -10.0 + static_cast<double>(i / 32)});
+    }
+    const SeaNetwork network(SeaWith(places));
+    const auto first = static_cast<std::uint32_t>(SmallSea().nodes.size());
+    const auto end = static_cast<std::uint32_t>(network.data().nodes.size());
+    for (int round = 0; round < 2; ++round) {
+        for (std::uint32_t a = first; a < end; ++a) {
+            for (std::uint32_t b = first; b < end; b += round == 0 ? 1 : 37) {
+                const bool clear = SightLineOf(network, a, b).clear;
+                if (round == 1) {
+                    ASSERT_EQ(clear,
+                              IsSeaRoom(network.Land(), network.data().nodes[a], network.data().nodes[b]))
+                        << a << " " << b;
+                }
+            }
+        }
     }
 }
 
