@@ -1,19 +1,23 @@
 // SPDX-License-Identifier: MIT
 // What the index of the coast answers. A way meets the coast where a piece of it and a piece of the coast
 // have their ends on different sides of each other; only pieces in the cells that the way passes are looked
-// at. A place lies on land when a line from it to the north crosses the coast an odd number of times (the
-// even-odd rule, Shimrat 1962). How near a way comes is reckoned in the plane at the place. Cost: a way the
-// cells that it passes with the few pieces in each, a place the cells to its north.
+// at, and none where the degrees that it passes have no coast. A place lies on land when a line from it to
+// the north crosses the coast an odd number of times (the even-odd rule, Shimrat 1962). How near a way comes
+// is reckoned in the plane at the place. Cost: a way the cells that it passes with the few pieces in each, a
+// place the cells to its north.
 #include "host/geo/LandIndex.h"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "host/geo/Sphere.h"
 
 namespace Tarvik::Server {
 
 namespace {
+
+using Degrees = DegreeGrid<1>;
 
 double Side(const CoastPiece& line, double px, double py) {
     return (line.x2 - line.x1) * (py - line.y1) - (line.y2 - line.y1) * (px - line.x1);
@@ -32,7 +36,43 @@ double SquareOff(const CoastPiece& s, double px, double py, double shrink) {
     return dx * dx + dy * dy;
 }
 
+/// Notes the degrees of whose cells one has items.
+void NoteBusy(const CoastCells& cells, std::vector<std::uint8_t>& busy) {
+    constexpr int kPart = LandGrid::kCellsPerDegree;
+    for (int row = 0; row < LandGrid::kRows; ++row) {
+        std::uint8_t* notes = busy.data() + static_cast<std::ptrdiff_t>(row / kPart) * Degrees::kColumns;
+        const std::uint32_t* start = cells.start.View().data() + CellOf(0, row);
+        for (int column = 0; column < Degrees::kColumns; ++column) {
+            notes[column] |= start[kPart * (column + 1)] != start[kPart * column] ? 1 : 0;
+        }
+    }
+}
+
 }  // namespace
+
+LandIndex::LandIndex(LandTables tables) : tables_(std::move(tables)) {
+    if (!tables_.cells.start.Empty()) {
+        busy_.assign(static_cast<std::size_t>(Degrees::kColumns) * Degrees::kRows, 0);
+        NoteBusy(tables_.cells, busy_);
+        NoteBusy(tables_.near, busy_);
+    }
+}
+
+bool LandIndex::MayMeet(const CoastPiece& s) const {
+    constexpr double kRounding = 1e-6;
+    const int columnFirst = Degrees::ColumnOf(std::min(s.x1, s.x2) - kRounding);
+    const int columnLast = Degrees::ColumnOf(std::max(s.x1, s.x2) + kRounding);
+    const int rowLast = Degrees::RowOf(std::max(s.y1, s.y2) + kRounding);
+    for (int row = Degrees::RowOf(std::min(s.y1, s.y2) - kRounding); row <= rowLast; ++row) {
+        for (int column = columnFirst; column <= columnLast; ++column) {
+            if (busy_[static_cast<std::size_t>(row) * Degrees::kColumns + static_cast<std::size_t>(column)] !=
+                0) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
 
 bool LandIndex::CellBlocks(int column, int row, const CoastPiece& s) const {
     const std::size_t cell = CellOf(column, row);
@@ -83,12 +123,18 @@ bool LandIndex::CellGrazes(int column, int row, const CoastPiece& s, double nm) 
 }
 
 bool LandIndex::Walk(const CoastPiece& s) const {
+    if (!MayMeet(s)) {
+        return false;
+    }
     bool blocked = false;
     VisitCells(s, [&](int column, int row) { return blocked = CellBlocks(column, row, s); });
     return blocked;
 }
 
 bool LandIndex::WalkNear(const CoastPiece& s, double nm) const {
+    if (!MayMeet(s)) {
+        return false;
+    }
     bool grazes = false;
     VisitCells(s, [&](int column, int row) { return grazes = CellGrazes(column, row, s, nm); });
     return grazes;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstddef>
-#include <utility>
+#include <cstdint>
 #include <vector>
 
 #include "host/geo/GeoPoint.h"
@@ -21,9 +21,9 @@ class LandIndex {
     /// `areas` are closed to ways as land is, but are no land.
     explicit LandIndex(const std::vector<std::vector<GeoPoint>>& rings,
                        const std::vector<std::vector<GeoPoint>>& areas = {})
-        : tables_(TablesOfLand(rings, areas)) {}
+        : LandIndex(TablesOfLand(rings, areas)) {}
     /// Of tables that were made before and fit together.
-    explicit LandIndex(LandTables tables) : tables_(std::move(tables)) {}
+    explicit LandIndex(LandTables tables);
 
     /// True when the great circle from a to b, drawn in pieces of at most a degree, meets the coast or the
     /// edge of an area.
@@ -53,6 +53,8 @@ class LandIndex {
   private:
     bool CellBlocks(int column, int row, const CoastPiece& s) const;
     bool CellGrazes(int column, int row, const CoastPiece& s, double nm) const;
+    /// Whether a coast may lie near a piece; false for most of the oceans.
+    bool MayMeet(const CoastPiece& s) const;
     bool Walk(const CoastPiece& s) const;
     bool WalkNear(const CoastPiece& s, double nm) const;
     /// Calls `walk` with the piece, in two where it crosses the date line, until it says true.
@@ -60,6 +62,7 @@ class LandIndex {
     static bool OverDateLine(GeoPoint a, GeoPoint b, Walker walk);
 
     LandTables tables_;
+    std::vector<std::uint8_t> busy_;  ///< by degrees: whether one of their cells has a piece in or near it
 };
 
 }  // namespace Tarvik::Server

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <random>
+
 #include <gtest/gtest.h>
 
 #include "host/geo/LandIndex.h"
@@ -74,6 +77,40 @@ TEST(LandIndex, IsClearSeesTheCoastWithinItsRadius) {
     const LandIndex land(kIsland);
     EXPECT_TRUE(land.IsClear({4, 0}, 59));
     EXPECT_FALSE(land.IsClear({4, 0}, 61));
+}
+
+/// Whether two pieces have their ends on different sides of each other.
+bool Cross(GeoPoint a, GeoPoint b, GeoPoint c, GeoPoint d) {
+    const auto side = [](GeoPoint from, GeoPoint to, GeoPoint p) {
+        return (to.x - from.x) * (p.y - from.y) - (to.y - from.y) * (p.x - from.x);
+    };
+    return side(a, b, c) * side(a, b, d) <= 0.0 && side(c, d, a) * side(c, d, b) <= 0.0;
+}
+
+// Held against every piece of the coast: islets spread over the oceans with wide waters between.
+TEST(LandIndex, AgreesWithALookAtEveryPieceOfTheCoast) {
+    std::mt19937 random(20261123);
+    std::uniform_real_distribution<double> x(-170.0, 170.0);
+    std::uniform_real_distribution<double> y(-70.0, 70.0);
+    std::uniform_real_distribution<double> step(-4.0, 4.0);
+    Rings rings;
+    for (int i = 0; i < 600; ++i) {
+        const GeoPoint at{x(random), y(random)};
+        rings.push_back({at, {at.x + 0.4, at.y + 0.1}, {at.x + 0.1, at.y + 0.7}});
+    }
+    const LandIndex land(rings);
+    int blocked = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const GeoPoint a{x(random), y(random)};
+        const GeoPoint b{a.x + step(random), a.y + step(random)};
+        const bool expected = std::any_of(rings.begin(), rings.end(), [&](const std::vector<GeoPoint>& ring) {
+            return Cross(a, b, ring[0], ring[1]) || Cross(a, b, ring[1], ring[2]) ||
+                   Cross(a, b, ring[2], ring[0]);
+        });
+        ASSERT_EQ(land.BlocksStraight(a, b), expected) << a.x << " " << a.y << " to " << b.x << " " << b.y;
+        blocked += expected ? 1 : 0;
+    }
+    EXPECT_GT(blocked, 200);
 }
 
 }  // namespace

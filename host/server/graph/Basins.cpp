@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/server/graph/Basins.h"
 
+#include <algorithm>
 #include <numeric>
-#include <set>
 #include <tuple>
-#include <unordered_map>
+#include <vector>
 
 namespace Tarvik::Server {
 
@@ -23,25 +23,35 @@ std::uint32_t RootOf(std::vector<std::uint32_t>& parents, std::uint32_t node) {
 Basins::Basins(const NetworkData& data) : masks_(data.masks) {
     std::vector<std::uint32_t> parents(data.nodes.size());
     std::iota(parents.begin(), parents.end(), 0U);
+    std::vector<char> open(masks_.size());
+    std::transform(masks_.begin(), masks_.end(), open.begin(),
+                   [](const GateMask& mask) { return mask.none(); });
     for (const NetworkEdge& e : data.edges) {
-        if (masks_[e.mask].none()) {
+        if (open[e.mask] != 0) {
             parents[RootOf(parents, e.a)] = RootOf(parents, e.b);
         }
     }
-    std::unordered_map<std::uint32_t, std::uint32_t> numbers;
+    constexpr std::uint32_t kUnset = 0xFFFFFFFF;
+    std::vector<std::uint32_t> numbers(parents.size(), kUnset);
+    std::uint32_t count = 0;
+    basin_.reserve(parents.size());
     for (std::uint32_t i = 0; i < parents.size(); ++i) {
-        const std::uint32_t root = RootOf(parents, i);
-        basin_.push_back(numbers.try_emplace(root, static_cast<std::uint32_t>(numbers.size())).first->second);
+        std::uint32_t& number = numbers[RootOf(parents, i)];
+        number = number == kUnset ? count++ : number;
+        basin_.push_back(number);
     }
-    std::set<std::tuple<std::uint32_t, std::uint32_t, std::uint16_t>> passages;
+    std::vector<std::tuple<std::uint32_t, std::uint32_t, std::uint16_t>> passages;
     for (const NetworkEdge& e : data.edges) {
         if (basin_[e.a] == basin_[e.b]) {
             continue;
         }
-        passages.emplace(basin_[e.a], basin_[e.b], e.mask);
-        passages.emplace(basin_[e.b], basin_[e.a], e.mask);
+        passages.emplace_back(basin_[e.a], basin_[e.b], e.mask);
+        passages.emplace_back(basin_[e.b], basin_[e.a], e.mask);
     }
-    start_.assign(numbers.size() + 1, 0);
+    std::sort(passages.begin(), passages.end());
+    passages.erase(std::unique(passages.begin(), passages.end()), passages.end());
+    passages_.reserve(passages.size());
+    start_.assign(count + 1, 0);
     for (const auto& [from, to, mask] : passages) {
         ++start_[from + 1];
         passages_.push_back({to, mask});

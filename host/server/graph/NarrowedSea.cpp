@@ -25,7 +25,7 @@ constexpr double kInsideDegrees = 0.02;
 /// How many degrees of longitude lie between the places along a limit.
 constexpr double kStepDegrees = 3.0;
 /// How far a new node looks for others, how many lines of sight it tries, and how many old nodes it joins.
-constexpr double kReachNm = 600.0;
+constexpr double kCornerReachNm = 600.0;
 constexpr std::size_t kLooks = 400;
 constexpr std::size_t kJoined = 40;
 
@@ -117,7 +117,7 @@ class Narrowing {
         std::vector<std::pair<double, std::uint32_t>> near;
         for (std::uint32_t i = 0; i < node; ++i) {
             const double nm = ArcNm(vectors_[node], vectors_[i]);
-            if (nm <= kReachNm && shut_[i] == 0) {
+            if (nm <= kCornerReachNm && shut_[i] == 0) {
                 near.emplace_back(nm, i);
             }
         }

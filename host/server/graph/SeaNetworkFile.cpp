@@ -4,6 +4,7 @@
 #include <array>
 #include <cstring>
 #include <fstream>
+#include <future>
 #include <utility>
 
 #include <tarvik/util/FileKinds.h>
@@ -20,6 +21,9 @@ constexpr std::string_view kMagic = Util::kNetworkKind.name;
 constexpr std::string_view kFamily = kMagic.substr(0, 6);
 constexpr std::size_t kHeaderBytes = Util::kNetworkKind.headBytes;
 static_assert(kHeaderBytes % kRawAlignment == 0, "the payload's tables are read in place");
+
+/// A payload is summed beside its reading where it is larger than this: less takes no longer than a thread.
+constexpr std::size_t kBesideBytes = std::size_t{1} << 20U;
 
 std::string ForeignText(std::string_view bytes) {
     if (bytes.size() < kHeaderBytes || bytes.substr(0, kFamily.size()) != kFamily) {
@@ -81,13 +85,17 @@ std::optional<NetworkData> SeaNetworkFile::Decode(std::string_view bytes,
         error = "the sea network file is cut or has grown";
         return std::nullopt;
     }
-    if (Checksum(payload) != sum) {
-        error = "the sea network file is damaged";
-        return std::nullopt;
-    }
+    const auto how = payload.size() > kBesideBytes ? std::launch::async : std::launch::deferred;
+    std::future<std::uint64_t> summed = std::async(how, Checksum, payload);
+    // Reading asks of every length whether the bytes are there, so that damage does no harm before it is
+    // known.
     ByteReader r(payload);
     NetworkData data = GetPayload(r, keeper);
     error = !r.Ok() || !r.AtEnd() ? "its lists do not fit its length" : FaultOf(data);
+    if (summed.get() != sum) {
+        error = "the sea network file is damaged";
+        return std::nullopt;
+    }
     if (error.empty()) {
         return data;
     }
