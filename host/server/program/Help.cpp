@@ -32,6 +32,7 @@ commands:
                       too small for the ship
   distances FILE.csv  measures the pairs of a table with the columns from_unlocode and to_unlocode; where it has
                       published distances in nm, and the routing in via, the errors' statistics follow
+  distances --all     prints the distances between all ports as a table, with all cores
   --help              prints this
   --version           prints the version
 

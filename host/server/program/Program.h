@@ -44,7 +44,7 @@ bool AskPassword(std::string& password);
 /// meant when none is named. False with an English line in `said`, else what was done.
 bool RunTransfer(const TransferCommand& command, Settings settings, std::string& said);
 
-/// Whether the words are "route ..." or "distances FILE".
+/// Whether the words are "route ...", "distances FILE" or "distances --all".
 bool IsRouteCommand(const std::vector<std::string>& words);
 
 /// Answers such words from the network of a file under an operator's rules. False with an English line in

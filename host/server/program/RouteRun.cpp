@@ -1,14 +1,24 @@
 // SPDX-License-Identifier: MIT
 // The commands about routes: they read the network's file and need neither data bases nor a running server.
+#include <algorithm>
 #include <optional>
 #include <stdexcept>
+#include <string_view>
+#include <thread>
 #include <utility>
 
 #include "host/server/graph/report/DistanceTable.h"
+#include "host/server/graph/report/PortTable.h"
 #include "host/server/graph/report/RouteReport.h"
 #include "host/server/program/Program.h"
 
 namespace Tarvik::Server {
+
+namespace {
+
+constexpr std::string_view kAllPorts = "--all";
+
+}  // namespace
 
 bool IsRouteCommand(const std::vector<std::string>& words) {
     return !words.empty() && (words[0] == "route" || (words[0] == "distances" && words.size() == 2));
@@ -21,6 +31,11 @@ bool RunRouteCommand(const std::vector<std::string>& words, const std::string& n
         return false;
     }
     const auto& network = ruled->network;
+    if (words[0] == "distances" && words[1] == kAllPorts) {
+        const PortTable table(*network, ruled->limits, std::max(1U, std::thread::hardware_concurrency()));
+        said = table.Text(*network);
+        return true;
+    }
     if (words[0] == "distances") {
         try {
             const Data::CsvTable table(Data::ReadFile(words[1]));
