@@ -149,6 +149,24 @@ TEST_F(BuiltRoutesTest, PuertoBolivarIsLeftByTheMouthOfItsBay) {
     EXPECT_LT(Miles("COPBO", "ANCUR"), 215);
 }
 
+TEST_F(BuiltRoutesTest, BanksAndNarrowsOfTheTradeAreLeftAside) {
+    // Pub. 151: Colon to Recife 3,212 miles, Brisbane to Suva 1,548, Abidjan to Dakar 1,166, Antwerp to Le
+    // Havre 244, Singapore to Ho Chi Minh City 649. Each was 1 to 3 % shorter over banks or between islands.
+    EXPECT_NEAR(Miles("PAONX", "BRREC"), 3212, 0.008 * 3212);
+    EXPECT_NEAR(Miles("AUBNE", "FJSUV"), 1548, 0.015 * 1548);
+    EXPECT_NEAR(Miles("CIABJ", "SNDKR"), 1166, 0.01 * 1166);
+    EXPECT_NEAR(Miles("BEANR", "FRLEH"), 244, 0.01 * 244);
+    EXPECT_NEAR(Miles("SGSIN", "VNSGN"), 649, 0.022 * 649);
+    const auto west = [](GeoPoint p) { return p.y > 10.7 && p.y < 12.0 ? p.x : -1e9; };
+    EXPECT_LT(Farthest(Way("CIABJ", "SNDKR"), west), -17.2) << "between the Bijagos";
+    const auto south = [](GeoPoint p) { return std::abs(p.x - 2.6) < 0.3 ? -p.y : -1e9; };
+    EXPECT_LT(Farthest(Way("BEANR", "FRLEH"), south), -51.35) << "along the Flemish coast";
+    const auto riau = [](GeoPoint p) { return p.y > 0.6 && p.y < 0.95 ? -std::abs(p.x - 103.95) : -1e9; };
+    EXPECT_LT(Farthest(Way("SGSIN", "IDJKT"), riau), -0.15) << "between Batam and Rempang";
+    EXPECT_GT(Miles("GWOXB", "SNDKR"), 250) << "Bissau by the Geba channel";
+    EXPECT_LT(Miles("GWOXB", "SNDKR"), 290);
+}
+
 TEST_F(BuiltRoutesTest, NoOceanIsCrossedFartherSouthThanItsLimit) {
     const char* const pairs[][2] = {{"CLVAP", "AUSYD"}, {"CLPUQ", "NZWLG"}, {"USNYC", "AUFRE"}};
     for (const auto& [from, to] : pairs) {
