@@ -167,6 +167,15 @@ TEST_F(BuiltRoutesTest, BanksAndNarrowsOfTheTradeAreLeftAside) {
     EXPECT_LT(Miles("GWOXB", "SNDKR"), 290);
 }
 
+TEST_F(BuiltRoutesTest, PortsBehindACapeAreLeftRoundItAndNotByTheNextBay) {
+    // A search over water cells finds 46, 97, 72, 84 and 213 miles; ours were 71, 121, 93, 96 and 231.
+    EXPECT_LT(Miles("DKSKA", "DKHIR"), 1.07 * 46);
+    EXPECT_LT(Miles("DKSKA", "NOBVK"), 1.07 * 97);
+    EXPECT_LT(Miles("AGANU", "GPBBR"), 1.07 * 72.4);
+    EXPECT_LT(Miles("PRBQN", "PRSJU"), 1.07 * 84);
+    EXPECT_LT(Miles("ESMAH", "FRTLN"), 1.07 * 213);
+}
+
 TEST_F(BuiltRoutesTest, NoOceanIsCrossedFartherSouthThanItsLimit) {
     const char* const pairs[][2] = {{"CLVAP", "AUSYD"}, {"CLPUQ", "NZWLG"}, {"USNYC", "AUFRE"}};
     for (const auto& [from, to] : pairs) {
