@@ -97,7 +97,7 @@ class Reader {
     void Zone(const std::string& value) {
         if (!Util::DateTimeUtl::IsKnownZone(value)) {
             Bad("--zone", value,
-                "a time zone's name, as " + Quoted(Util::kPlanZone) + ", \"Europe/Rotterdam\" or \"UTC\"");
+                "a time zone's name, as " + Quoted(Util::kPlanZone) + ", \"Europe/Amsterdam\" or \"UTC\"");
         }
         parsed_.arguments.zone = value;
     }

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "host/client/remote/ServerUrl.h"
+#include "host/client/services/ServerUrl.h"
 
 namespace Tarvik::Client {
 

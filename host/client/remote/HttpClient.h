@@ -6,7 +6,7 @@
 #include <string>
 
 #include "host/client/remote/CertificateFault.h"
-#include "host/client/remote/ServerUrl.h"
+#include "host/client/services/ServerUrl.h"
 
 namespace Tarvik::Client {
 

@@ -45,7 +45,7 @@ Ports of plan
 Options of plan
   --depart "YYYY-MM-DD [HH:MM[:SS]]"  arrival at the first port, a date alone at midnight; also 2026-12-01T08:00, and
                                       with Z or +08:00 whatever the zone; without it, now
-  --zone NAME                         zone of all times ("@zone", Europe/Rotterdam, UTC); without it,
+  --zone NAME                         zone of all times ("@zone", Europe/Amsterdam, UTC); without it,
                                       the zone of your preferences
   --speed KNOTS                       speed at sea, above 0; without it, 10
   --weather PERCENT                   weather factor, from 0 to below 100, by which the speed is reduced; without it, 0

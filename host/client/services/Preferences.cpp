@@ -10,6 +10,8 @@
 #include <tarvik/skin/Colours.h>
 #include <tarvik/util/DateTimeUtl.h>
 
+#include "host/client/services/ServerUrl.h"
+
 namespace Tarvik::Client {
 
 namespace {
@@ -81,12 +83,7 @@ bool Preferences::Write(const std::string& file, std::string& error) const {
 }
 
 bool IsServerAddress(const std::string& text) {
-    for (const std::string scheme : {"https://", "http://"}) {
-        if (text.starts_with(scheme)) {
-            return text.size() > scheme.size() && text[scheme.size()] != '/';
-        }
-    }
-    return false;
+    return ServerUrl::Parse(text).has_value();
 }
 
 }  // namespace Tarvik::Client

@@ -2,39 +2,21 @@
 #include "host/client/shell/PreferencesDialog.h"
 
 #include <QComboBox>
-#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTimeZone>
 #include <QVBoxLayout>
 #include <utility>
 
 #include <tarvik/bus/BusCall.h>
-#include <tarvik/util/DateTimeUtl.h>
+#include <tarvik/skin/Colours.h>
+
+#include "host/client/shell/ZoneBox.h"
 
 namespace Tarvik::Client {
-
-namespace {
-
-QStringList ZoneNames(const std::string& current) {
-    QStringList names{Util::kPlanZone, "UTC"};
-    for (const QByteArray& id : QTimeZone::availableTimeZoneIds()) {
-        const QString name = QString::fromLatin1(id);
-        if (name.contains('/') && !name.startsWith("Etc/")) {
-            names.append(name);
-        }
-    }
-    if (!names.contains(QString::fromStdString(current))) {
-        names.append(QString::fromStdString(current));
-    }
-    return names;
-}
-
-}  // namespace
 
 PreferencesDialog::PreferencesDialog(QWidget* parent, const LanguageFiles& texts, const Preferences& current)
     : QDialog(parent), current_(current) {
@@ -52,24 +34,32 @@ PreferencesDialog::PreferencesDialog(QWidget* parent, const LanguageFiles& texts
     AddButtons(texts);
 }
 
-void PreferencesDialog::BuildFields(const LanguageFiles& texts) {
-    const auto word = [&texts](const char* key) { return QString::fromStdString(texts.Text("Client", key)); };
-    auto* general = new QWidget(this);
-    tabs_->addTab(general, word("PREF_GENERAL"));
-    auto* form = new QFormLayout(general);
-    form->setSpacing(8);
+void PreferencesDialog::FillChoices(const LanguageFiles& texts) {
+    look_ = new QComboBox(this);
+    for (const Skin::Theme theme : Skin::kThemes) {
+        const QString name = QString::fromStdString(std::string(Skin::ThemeName(theme)));
+        look_->addItem(QString::fromStdString(texts.Text("Client", ("LOOK_" + name.toUpper()).toStdString())),
+                       name);
+    }
+    look_->setCurrentIndex(look_->findData(QString::fromStdString(current_.theme)));
     language_ = new QComboBox(this);
     for (const Language& language : texts.Offered()) {
         language_->addItem(QString::fromStdString(language.name), QString::fromStdString(language.code));
     }
     language_->setCurrentIndex(language_->findData(QString::fromStdString(current_.language)));
-    zone_ = new QComboBox(this);
-    zone_->setEditable(true);
-    zone_->addItems(ZoneNames(current_.timeZone));
-    zone_->completer()->setFilterMode(Qt::MatchContains);
-    zone_->completer()->setCompletionMode(QCompleter::PopupCompletion);
-    zone_->setCurrentText(QString::fromStdString(current_.timeZone));
+    zone_ = new ZoneBox(current_.language, current_.timeZone, this);
     server_ = new QLineEdit(QString::fromStdString(current_.server), this);
+}
+
+void PreferencesDialog::BuildFields(const LanguageFiles& texts) {
+    const auto word = [&texts](const char* key) { return QString::fromStdString(texts.Text("Client", key)); };
+    FillChoices(texts);
+    auto* general = new QWidget(this);
+    tabs_->addTab(general, word("PREF_GENERAL"));
+    auto* form = new QFormLayout(general);
+    form->setSpacing(8);
+    zone_->setToolTip(word("PREF_ZONE_HINT"));
+    zone_->lineEdit()->setPlaceholderText(word("PREF_ZONE_HINT"));
     server_->setPlaceholderText(word("PREF_SERVER_HINT"));
     server_->setToolTip(word("PREF_SERVER_NOTE"));
     const auto row = [&](const char* key, const char* name, QWidget* field) {
@@ -77,17 +67,48 @@ void PreferencesDialog::BuildFields(const LanguageFiles& texts) {
         field->setAccessibleName(word(key));
         form->addRow(word(key), field);
     };
-    const auto note = [&](const char* key, const char* name) {
-        auto* label = new QLabel(word(key), this);
+    const auto line = [&](const QString& text, const char* name) {
+        auto* label = new QLabel(text, this);
         label->setObjectName(name);
+        label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
         form->addRow(QString(), label);
+        return label;
     };
+    row("PREF_LOOK", "lookChoice", look_);
     row("PREF_LANGUAGE", "languageChoice", language_);
     row("PREF_ZONE", "timeZoneChoice", zone_);
-    note("PREF_ZONE_NOTE", "zoneNote");
+    zoneFault_ = {line({}, "zoneFault"), word("PREF_ZONE_FAULT")};
+    line(word("PREF_ZONE_NOTE"), "zoneNote");
     row("PREF_SERVER", "serverAddress", server_);
-    note("PREF_SERVER_NOTE", "serverNote");
+    serverFault_ = {line({}, "serverFault"), word("PREF_SERVER_FAULT")};
+    line(word("PREF_SERVER_NOTE"), "serverNote");
+    zoneFault_.label->hide();
+    serverFault_.label->hide();
+    // Told when the field is left, since nobody has typed all of a word at its first letter; gone at once.
+    connect(zone_->lineEdit(), &QLineEdit::editingFinished, this, &PreferencesDialog::IsZoneRight);
+    connect(server_, &QLineEdit::editingFinished, this, &PreferencesDialog::IsServerRight);
+    connect(zone_, &QComboBox::editTextChanged, this, [this] { zoneFault_.Tell(zone_, {}, true); });
+    connect(server_, &QLineEdit::textChanged, this, [this] { serverFault_.Tell(server_, {}, true); });
+}
+
+void PreferencesDialog::FaultLine::Tell(QWidget* field, const QString& value, bool isRight) const {
+    label->setText(isRight ? QString() : QString(text).replace("%1", value));
+    label->setVisible(!isRight);
+    field->setAccessibleDescription(label->text());
+}
+
+bool PreferencesDialog::IsZoneRight() {
+    zone_->TakeMatch();
+    zoneFault_.Tell(zone_, zone_->currentText().trimmed(), zone_->IsRight());
+    return zone_->IsRight();
+}
+
+bool PreferencesDialog::IsServerRight() {
+    const QString server = server_->text().trimmed();
+    const bool isRight = server.isEmpty() || IsServerAddress(server.toStdString());
+    serverFault_.Tell(server_, server, isRight);
+    return isRight;
 }
 
 void PreferencesDialog::AddPages() {
@@ -119,12 +140,12 @@ void PreferencesDialog::AddButtons(const LanguageFiles& texts) {
 
 void PreferencesDialog::Agree() {
     // A zone that nobody knows would silently count as UTC, and an address of no known form as no server: the
-    // field keeps the focus until it is one.
-    if (!Util::DateTimeUtl::IsKnownZone(zone_->currentText().toStdString())) {
+    // first field that is wrong gets the keyboard.
+    const bool isServerRight = IsServerRight();
+    if (!IsZoneRight()) {
         return AskAgain(zone_->lineEdit());
     }
-    const std::string server = server_->text().trimmed().toStdString();
-    if (!server.empty() && !IsServerAddress(server)) {
+    if (!isServerRight) {
         return AskAgain(server_);
     }
     if (ArePagesRight()) {
@@ -165,7 +186,8 @@ void PreferencesDialog::AskForServer() {
 Preferences PreferencesDialog::Chosen() const {
     Preferences chosen = current_;
     chosen.language = language_->currentData().toString().toStdString();
-    chosen.timeZone = zone_->currentText().toStdString();
+    chosen.theme = look_->currentData().toString().toStdString();
+    chosen.timeZone = zone_->Zone();
     chosen.server = server_->text().trimmed().toStdString();
     return chosen;
 }

@@ -23,10 +23,12 @@ QStatusBar#statusLine::item { border: 0; }
 QStatusBar#statusLine QLabel { color: @text; padding: 0 8px; }
 QStatusBar#statusLine QLabel#cursorPosition { font-family: "Noto Sans Mono", "DejaVu Sans Mono", monospace; }
 QDialog QLabel#zoneNote, QDialog QLabel#serverNote { color: @shellSecondary; }
-QDialog QLabel#loginFailure { color: @error; }
+QDialog QLabel#loginFailure, QDialog QLabel#zoneFault, QDialog QLabel#serverFault, QDialog QLabel#pageFault { color: @error; }
 QDialog QComboBox, QDialog QLineEdit { background: @panel; color: @text; border: 1px solid @shellBorder; border-radius: 4px;
     padding: 0 6px; min-height: 24px; }
 QDialog QComboBox:focus, QDialog QLineEdit:focus { border-color: @accent; }
+QDialog QComboBox QAbstractItemView { background: @panel; color: @text; border: 1px solid @shellBorder;
+    selection-background-color: @accent; selection-color: @accentText; }
 QDialog QPushButton { background: @panel; color: @text; border: 1px solid @shellBorder; border-radius: 4px; min-width: 76px;
     min-height: 24px; }
 QDialog QPushButton:default { background: @accent; color: @accentText; border-color: @accent; }

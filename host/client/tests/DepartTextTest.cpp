@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* kForm = "%Y-%m-%d %H:%M:%S";
 
-std::string Read(const char* text, const char* zone = "Europe/Rotterdam") {
+std::string Read(const char* text, const char* zone = "Europe/Amsterdam") {
     const auto read = ReadDepart(text);
     return read ? read->In(zone).fmt(kForm) : "none";
 }

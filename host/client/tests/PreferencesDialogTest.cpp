@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <QComboBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTest>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -62,15 +65,82 @@ TEST_F(PreferencesDialogTest, DoesNotCloseOnAZoneThatIsNone) {
 TEST_F(PreferencesDialogTest, TakesAServersAddressOrNone) {
     auto* server = dialog_.findChild<QLineEdit*>("serverAddress");
     dialog_.show();
-    server->setText("office");
-    dialog_.findChild<QPushButton*>("preferencesOk")->click();
-    EXPECT_TRUE(dialog_.isVisible()) << "no address of a server";
+    for (const char* none : {"office", "http://office:99999", "https://my office"}) {
+        server->setText(none);
+        dialog_.findChild<QPushButton*>("preferencesOk")->click();
+        EXPECT_TRUE(dialog_.isVisible()) << "no address of a server: " << none;
+    }
     server->setText(" https://office:8470 ");
     dialog_.findChild<QPushButton*>("preferencesOk")->click();
     EXPECT_FALSE(dialog_.isVisible());
     EXPECT_EQ(dialog_.Chosen().server, "https://office:8470");
     server->clear();
     EXPECT_EQ(dialog_.Chosen().server, "");
+}
+
+TEST_F(PreferencesDialogTest, AWrongValueIsToldBesideItUntilItIsChanged) {
+    LanguageFiles words;
+    ASSERT_TRUE(
+        words.Merge(R"({"Client":{"PREF_ZONE_FAULT":"no zone: %1","PREF_SERVER_FAULT":"no server: %1"}})"));
+    PreferencesDialog dialog(nullptr, words, current_);
+    dialog.show();
+    auto* zone = dialog.findChild<QComboBox*>("timeZoneChoice");
+    const auto* zoneFault = dialog.findChild<QLabel*>("zoneFault");
+    const auto* serverFault = dialog.findChild<QLabel*>("serverFault");
+    zone->setCurrentText("Middle/Earth");
+    dialog.findChild<QLineEdit*>("serverAddress")->setText("ftp://office");
+    EXPECT_FALSE(zoneFault->isVisible()) << "nobody has typed all yet";
+    dialog.findChild<QPushButton*>("preferencesOk")->click();
+    EXPECT_TRUE(zoneFault->isVisible());
+    EXPECT_EQ(zoneFault->text(), "no zone: Middle/Earth");
+    EXPECT_EQ(zone->accessibleDescription(), "no zone: Middle/Earth");
+    EXPECT_TRUE(serverFault->isVisible()) << "all that is wrong is told at once";
+    EXPECT_EQ(serverFault->text(), "no server: ftp://office");
+    EXPECT_EQ(dialog.focusWidget(), zone);
+    zone->setCurrentText("UTC");
+    EXPECT_FALSE(zoneFault->isVisible());
+    EXPECT_EQ(zone->accessibleDescription(), "");
+    EXPECT_TRUE(serverFault->isVisible());
+}
+
+TEST_F(PreferencesDialogTest, TypedWordsLeaveTheZonesThatTheyMean) {
+    dialog_.show();
+    auto* zone = dialog_.findChild<QComboBox*>("timeZoneChoice");
+    zone->lineEdit()->setFocus();
+    zone->lineEdit()->selectAll();
+    QTest::keyClicks(zone->lineEdit(), "italy");
+    const QAbstractItemModel* left = zone->completer()->model();
+    ASSERT_GE(left->rowCount(), 1);
+    for (int row = 0; row < left->rowCount(); ++row) {
+        const QModelIndex line = left->index(row, 0);
+        EXPECT_TRUE(line.data(Qt::DisplayRole).toString().contains("Italy"))
+            << line.data(Qt::DisplayRole).toString().toStdString();
+    }
+    zone->completer()->activated(left->index(0, 0));
+    EXPECT_EQ(dialog_.Chosen().timeZone, "Europe/Rome");
+}
+
+TEST_F(PreferencesDialogTest, TheOnlyZoneThatTypedWordsLeaveIsTaken) {
+    dialog_.show();
+    auto* zone = dialog_.findChild<QComboBox*>("timeZoneChoice");
+    for (const auto& [typed, meant] :
+         {std::pair("new york", "America/New_York"), {"utc", "UTC"}, {"europe/rome", "Europe/Rome"}}) {
+        zone->setCurrentText(typed);
+        emit zone->lineEdit()->editingFinished();
+        EXPECT_EQ(zone->currentText(), meant);
+    }
+    zone->setCurrentText("germany");
+    emit zone->lineEdit()->editingFinished();
+    EXPECT_EQ(zone->currentText(), "germany") << "two zones are not one";
+    EXPECT_TRUE(dialog_.findChild<QLabel*>("zoneFault")->isVisible());
+}
+
+TEST_F(PreferencesDialogTest, TheLookIsChosenHereToo) {
+    auto* look = dialog_.findChild<QComboBox*>("lookChoice");
+    EXPECT_EQ(look->currentData(), "light");
+    EXPECT_EQ(look->count(), 3);
+    look->setCurrentIndex(look->findData("night"));
+    EXPECT_EQ(dialog_.Chosen().theme, "night");
 }
 
 TEST_F(PreferencesDialogTest, SaysWhatTheServersFieldTakes) {

@@ -19,7 +19,7 @@ TEST(Preferences, StartWithTheZoneInWhichTimesAreStored) {
 
 TEST(Preferences, ComeBackAsTheyWereWritten) {
     TestSupport::TemporaryFolder folder;
-    const Preferences chosen{"zh-CN", "Europe/Rotterdam", "night", "http://10.0.0.1:80", "anna"};
+    const Preferences chosen{"zh-CN", "Europe/Amsterdam", "night", "http://10.0.0.1:80", "anna"};
     Preferences written = chosen;
     written.timeZone = "UTC";
     written.chartParts = {{"names", false}, {"daylight", true}};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "host/client/remote/ServerUrl.h"
+#include "host/client/services/ServerUrl.h"
 
 namespace Tarvik::Client {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/client/remote/ServerUrl.h"
+#include "host/client/services/ServerUrl.h"
 
 #include <charconv>
 #include <string_view>
