@@ -5,6 +5,7 @@
 
 #include "seaplan/panels/tests/FleetPlugin.h"
 #include "seaplan/panels/tests/TreeFixture.h"
+#include "seaplan/panels/tree/TreeContext.h"
 #include "seaplan/panels/tree/VesselCommands.h"
 #include "testsupport/RecordingMsgSink.h"
 
@@ -102,6 +103,19 @@ TEST_F(VesselEditorTest, LeavingTheBoxTakesTheTypedNameAndAnEmptyOneNothing) {
     const auto calls = desk.host.Texts();
     Editor().OnLeft();
     EXPECT_EQ(desk.host.Texts(), calls);
+}
+
+TEST_F(VesselEditorTest, TheHintThatAVesselIsLackingGoesWithTheVessel) {
+    std::string line;
+    ctrl.Context().line = [&line](const std::string& text) { line = text; };
+    Press("A");
+    ASSERT_EQ(line, "IDS_VIEW_HINTVESSEL");
+    Click("A", "Voyage_AssignShip");
+    Editor().OnChosen(0);
+    EXPECT_EQ(line, "");
+    Press("A");
+    EXPECT_EQ(line, "");
+    ctrl.Context().line = {};
 }
 
 TEST_F(VesselEditorTest, TheSameVesselSendsNothing) {

@@ -137,6 +137,7 @@ Outcome<VesselStep> VesselCommands::CommitTo(TreeRow row, const Interface::Fleet
     voyage->vsi = vessel.id;
     voyage->vsn = vessel.name;
     voyage->vsmsi = vessel.number;
+    p_.selection.TellAgain(voyage->vi);
     if (!voyage->vsi.empty()) {
         TurnAisOn(row, *voyage);
     }
