@@ -184,7 +184,10 @@ bool PortCallEditors::FieldEvent(CellEditor editor, QEvent& event) {
         case QEvent::KeyPress:
             return panel_->OnEditorKey(editor, PressOf(static_cast<QKeyEvent&>(event)));
         case QEvent::FocusOut:
-            if (!LeftForItsMenu(*Field(editor), static_cast<QFocusEvent&>(event))) {
+            if (static_cast<QFocusEvent&>(event).reason() == Qt::BacktabFocusReason) {
+                // No list of matches is reached so: the port editor is left too.
+                panel_->OnPressedOutside();
+            } else if (!LeftForItsMenu(*Field(editor), static_cast<QFocusEvent&>(event))) {
                 panel_->OnEditorFocusLost(editor);
             }
             return false;

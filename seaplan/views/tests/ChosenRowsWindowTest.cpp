@@ -50,6 +50,17 @@ TEST_F(ChosenRowsWindowTest, AClickWithShiftOrCtrlChoosesAndOpensNothing) {
     EXPECT_TRUE(SpeedEditor().isVisible());
 }
 
+TEST_F(ChosenRowsWindowTest, APressBelowAllRowsLeavesThemChosen) {
+    Press(Qt::Key_Down, Qt::ShiftModifier);
+    PortCalls().resize(PortCalls().width(), PortCalls().height() + 200);
+    QApplication::processEvents();
+    const QPoint below(100, Table().viewport()->height() - 4);
+    ASSERT_FALSE(Table().indexAt(below).isValid());
+    PressAndShake(*Table().viewport(), below);
+    EXPECT_THAT(Chosen(), ElementsAre(1, 2));
+    EXPECT_EQ(Table().currentIndex().row(), 2);
+}
+
 TEST_F(ChosenRowsWindowTest, ASpeedIsTypedForAllChosenRows) {
     Press(Qt::Key_Down, Qt::ShiftModifier);
     Press(Qt::Key_F2);

@@ -38,6 +38,25 @@ TEST_F(PortCallWindowTest, TypingOpensTheMatchesAndTheArrowsTakeOne) {
     EXPECT_FALSE(PortEditor().isVisible());
 }
 
+TEST_F(PortCallWindowTest, TheMatchesGoWithThePortEditor) {
+    OpenPortCalls("North Sea");
+    PortCalls().activateWindow();
+    int row = 0;
+    for (const char* typed : {"ROTTERDAM", "rotterdam", "ha"}) {
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+            ClickCell(row, ColPort);
+            QTest::keyClicks(&PortEditor(), typed);
+            QTest::keyClick(&PortEditor(), key);
+            QApplication::processEvents();
+            EXPECT_FALSE(Matches().isVisible()) << typed << " " << key;
+            EXPECT_NE(PortEditor().hasFocus(), PortEditor().isHidden()) << typed << " " << key;
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+            ++row;
+        }
+    }
+    EXPECT_EQ(Cell(3, ColPort), "ROTTERDAM") << "Shift+Tab takes what was typed, too";
+}
+
 TEST_F(PortCallWindowTest, AMatchWindowTellsItsChoice) {
     OpenPortCalls("North Sea");
     ClickCell(0, ColPort);

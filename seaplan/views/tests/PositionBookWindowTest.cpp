@@ -72,6 +72,30 @@ TEST_F(PositionBookWindowTest, TheExpandImageShowsTheWaypointsBehindARow) {
     EXPECT_FALSE(Changed());
 }
 
+TEST_F(PositionBookWindowTest, APressBelowAllRowsLeavesTheRowInFrontAndItsCommands) {
+    OpenBook();
+    ClickExpander(0);
+    ClickCell(1, BookName);
+    ASSERT_TRUE(IsOn("insertButton"));
+    Book().resize(Book().width(), Book().height() + 200);
+    QApplication::processEvents();
+    const QPoint below(100, Table().viewport()->height() - 4);
+    ASSERT_FALSE(Table().indexAt(below).isValid());
+    PressAndShake(*Table().viewport(), below);
+    EXPECT_EQ(Table().ChosenRows(), std::vector{1});
+    EXPECT_TRUE(IsOn("insertButton"));
+    for (const int column : {BookName, BookOrder, BookEta, BookCourse}) {
+        ClickCell(2, BookName);
+        ASSERT_TRUE(IsOn("insertButton"));
+        ClickCell(3, column);
+        EXPECT_EQ(Table().ChosenRows(), std::vector{3}) << column;
+        ClickCell(12, column);
+        EXPECT_TRUE(Table().ChosenRows().empty()) << "a line without a waypoint, " << column;
+        EXPECT_FALSE(IsOn("insertButton")) << column;
+        EXPECT_FALSE(IsOn("deleteButton")) << column;
+    }
+}
+
 TEST_F(PositionBookWindowTest, APositionIsTypedAndEchoed) {
     OpenBook();
     ClickExpander(0);

@@ -2,6 +2,7 @@
 #include "seaplan/views/tests/ViewsFixture.h"
 
 #include <QAbstractButton>
+#include <QMouseEvent>
 #include <QTest>
 
 #include <tarvik/bus/BusCall.h>
@@ -70,6 +71,18 @@ bool ViewsFixture::Shows(const std::string& text, const std::string& name) {
         }
     }
     return false;
+}
+
+void ViewsFixture::PressAndShake(QWidget& widget, const QPoint& point) {
+    QTest::mousePress(&widget, Qt::LeftButton, {}, point);
+    for (const QPoint& step : {QPoint(1, 0), QPoint(2, -1)}) {
+        const QPointF place = point + step;
+        QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
+                         {});
+        QApplication::sendEvent(&widget, &move);
+    }
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, point);
+    QApplication::processEvents();
 }
 
 void ViewsFixture::Press(QWidget& window, const char* button) {

@@ -51,6 +51,8 @@ class ViewsFixture : public ::testing::Test {
         return window.findChild<Widget*>(QString::fromLatin1(name));
     }
     void Press(QWidget& window, const char* button);
+    /// A press at a point of a widget during which the pointer trembles, as in a hand.
+    static void PressAndShake(QWidget& widget, const QPoint& point);
     /// The tree with its first category open and a voyage selected.
     void OpenVoyage(const std::string& name);
     /// The port calls of a voyage.
