@@ -3,6 +3,7 @@
 /// is.
 #include "seaplan/controllers/VoyController.h"
 #include "seaplan/panels/book/CPosBookDlg.h"
+#include "seaplan/panels/language/LoadText.h"
 #include "seaplan/panels/portcall/CellEditing.h"
 #include "seaplan/panels/portcall/PanelCommands.h"
 #include "seaplan/panels/portcall/PortCallDesk.h"
@@ -21,7 +22,11 @@ void PanelCommands::OnPositionBook() {
     if (dialog == nullptr || !sheet.state.canOpenBook) {
         return;
     }
-    if (sheet.state.changed && !desk_.ToPerson().Confirm(TextIds::IDS_PORTCALL_WARNSAVEFORPSBK)) {
+    // The question promises the saved state; what a save that broke off has left is told, since nobody knows
+    // it.
+    const std::string known =
+        desk_.History().IsStoredKnown() ? std::string() : Text(TextIds::IDS_VIEW_BOOKAFTERBREAK);
+    if (sheet.state.changed && !desk_.ToPerson().Confirm(TextIds::IDS_PORTCALL_WARNSAVEFORPSBK, known)) {
         return;
     }
     PosBookData book;

@@ -89,6 +89,10 @@ void TableHistory::NoteNotSaved() {
     history_->MarkUnsaved();
 }
 
+bool TableHistory::IsStoredKnown() const {
+    return history_->IsBackupStored();
+}
+
 void TableHistory::ShowState(const TableState& to) {
     const PortCallSheet now = sheet_;
     sheet_ = to.sheet;

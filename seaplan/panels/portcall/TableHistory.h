@@ -26,6 +26,8 @@ class TableHistory {
     void Take(const EditName& name = {});
     /// A save broke off: until the next one none of the states is known to be what the server has.
     void NoteNotSaved();
+    /// Whether it is known what the server has of the table, as it is not behind such a save.
+    bool IsStoredKnown() const;
     /// The state before the last edit, or behind it again, into the sheet. False where there is none.
     bool GoBack();
     bool GoForward();

@@ -41,6 +41,26 @@ TEST_F(BrokenSaveTest, TheTableStaysMarkedWhenItsEditIsTakenBack) {
     EXPECT_TRUE(view.state.changed);
 }
 
+TEST_F(BrokenSaveTest, TheQuestionBeforeTheBookSaysThatSomeMayBeStored) {
+    Open(kept);
+    PortCallFixture::Type(1, ColSpeed, "12");
+    messages.Answer(SysMsgHandleRes::Cancel);
+    panel.Commands().OnPositionBook();
+    EXPECT_EQ(LastMessage(), "IDS_PORTCALL_WARNSAVEFORPSBK");
+    EXPECT_EQ(LastDetail(), "");
+    desk.Lose(Ask::kSaveBook);
+    panel.Commands().OnSave();
+    desk.Heal();
+    panel.Commands().OnPositionBook();
+    EXPECT_EQ(LastMessage(), "IDS_PORTCALL_WARNSAVEFORPSBK");
+    EXPECT_EQ(LastDetail(), "IDS_VIEW_BOOKAFTERBREAK");
+    panel.Commands().OnSave();
+    PortCallFixture::Type(1, ColSpeed, "13");
+    panel.Commands().OnPositionBook();
+    EXPECT_EQ(LastMessage(), "IDS_PORTCALL_WARNSAVEFORPSBK");
+    EXPECT_EQ(LastDetail(), "") << "the last save told all";
+}
+
 TEST_F(BrokenSaveTest, TheTableOfBeforeIsSavedOverIt) {
     BreakSaveOfTable();
     panel.Commands().OnUndo();
