@@ -21,16 +21,20 @@ namespace Tarvik::Seaplan {
 
 PortCallButtons::PortCallButtons(QWidget* parent)
     : QWidget(parent),
-      save_(MakeTool("saveButton")),
-      clear_(MakeTool("clearButton")),
+      save_(new QPushButton(this)),
+      clear_(new QPushButton(this)),
       undo_(new UndoButtons(this)),
       menu_(MakeTool("menuButton")),
       whatIf_(new QPushButton(this)),
       book_(new QPushButton(this)),
       calculate_(new QPushButton(this)) {
+    save_->setObjectName(QStringLiteral("saveButton"));
+    clear_->setObjectName(QStringLiteral("clearButton"));
     book_->setObjectName(QStringLiteral("positionBookButton"));
     calculate_->setObjectName(QStringLiteral("calculateButton"));
     whatIf_->setObjectName(QStringLiteral("whatIfButton"));
+    TieText(*save_, TextIds::IDS_VIEW_SAVEWORD);
+    TieText(*clear_, TextIds::IDS_VIEW_CLEARWORD);
     TieText(*book_, TextIds::IDS_PORTCALL_POSTBOOK);
     TieText(*whatIf_, TextIds::IDS_VIEW_WHATIF);
     TieKey(*whatIf_, QKeySequence(Qt::Key_F8));
@@ -39,21 +43,21 @@ PortCallButtons::PortCallButtons(QWidget* parent)
     Skin::SkinWindow(*clear_, Skin::ControlClass::PushButton, "VoyDelAllBtn");
     Skin::SkinWindow(*calculate_, Skin::ControlClass::PushButton, "VoyCalculateBtn");
     Skin::SkinWindow(*book_, Skin::ControlClass::PushButton, "VoyPostionBookBtn");
-    for (QPushButton* button : {whatIf_, book_, calculate_}) {
+    for (QPushButton* button : {whatIf_, book_, clear_, save_, calculate_}) {
         button->setAutoDefault(false);
         button->setFocusPolicy(Qt::TabFocus);
     }
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2 * Skin::kGrid);
-    row->addWidget(save_);
-    row->addWidget(clear_);
-    row->addSpacing(2 * Skin::kGrid);
     row->addWidget(undo_);
     row->addWidget(menu_);
     row->addStretch(1);
     row->addWidget(whatIf_);
     row->addWidget(book_);
+    row->addSpacing(2 * Skin::kGrid);
+    row->addWidget(clear_);
+    row->addWidget(save_);
     row->addWidget(calculate_);
     TieKey(*save_, QKeySequence(Qt::CTRL | Qt::Key_S));
     ApplySkin();
@@ -68,8 +72,8 @@ QToolButton* PortCallButtons::MakeTool(const char* name) {
 }
 
 void PortCallButtons::SetReports(const Reports& reports) {
-    QObject::connect(save_, &QToolButton::clicked, this, reports.save);
-    QObject::connect(clear_, &QToolButton::clicked, this, reports.clear);
+    QObject::connect(save_, &QPushButton::clicked, this, reports.save);
+    QObject::connect(clear_, &QPushButton::clicked, this, reports.clear);
     QObject::connect(book_, &QPushButton::clicked, this, reports.book);
     QObject::connect(calculate_, &QPushButton::clicked, this, reports.calculate);
     QObject::connect(whatIf_, &QPushButton::clicked, this, reports.whatIf);
@@ -100,8 +104,6 @@ void PortCallButtons::ShowState(const PortCallState& state) {
 }
 
 void PortCallButtons::ApplySkin() {
-    save_->setIcon(Skin::MakeIcon("save"));
-    clear_->setIcon(Skin::MakeIcon("clear"));
     menu_->setIcon(Skin::MakeIcon("chevron-down"));
     undo_->ApplySkin();
 }

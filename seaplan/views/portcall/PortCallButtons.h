@@ -44,8 +44,8 @@ class PortCallButtons final : public QWidget {
     QToolButton* MakeTool(const char* name);
     static void Set(QAbstractButton* button, bool on, TextId tip, TextId whyNot);
 
-    QToolButton* save_;
-    QToolButton* clear_;
+    QPushButton* save_;
+    QPushButton* clear_;
     UndoButtons* undo_;
     QToolButton* menu_;
     QPushButton* whatIf_;
