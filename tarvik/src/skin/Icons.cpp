@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <QFile>
+#include <QIconEngine>
 #include <QPixmap>
 #include <QSvgRenderer>
+#include <map>
+#include <tuple>
+#include <utility>
 
 #include <tarvik/skin/Icons.h>
 
@@ -31,6 +35,42 @@ void Render(QPainter& painter, const QRect& place, QByteArray drawing, const QCo
     painter.restore();
 }
 
+/// A drawing as an icon: rendered at the size that is asked for, so that it is sharp on a screen of any
+/// scale.
+class DrawnIcon : public QIconEngine {
+  public:
+    DrawnIcon(QByteArray drawing, std::initializer_list<int> sizes)
+        : drawing_(std::move(drawing)), normal_(Colour(Role::Text)), disabled_(Colour(Role::Disabled)) {
+        for (const int size : sizes) {
+            sizes_.append({size, size});
+        }
+    }
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State /*state*/) override {
+        Render(*painter, place, drawing_, InkOf(mode));
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap& made = made_[{size.width(), size.height(), InkOf(mode) == disabled_}];
+        if (made.isNull()) {
+            made = QPixmap(size);
+            made.fill(Qt::transparent);
+            QPainter painter(&made);
+            paint(&painter, made.rect(), mode, state);
+        }
+        return made;
+    }
+    QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override { return sizes_; }
+    QIconEngine* clone() const override { return new DrawnIcon(*this); }
+
+  private:
+    QColor InkOf(QIcon::Mode mode) const { return mode == QIcon::Disabled ? disabled_ : normal_; }
+
+    QByteArray drawing_;
+    QColor normal_;
+    QColor disabled_;
+    QList<QSize> sizes_;
+    std::map<std::tuple<int, int, bool>, QPixmap> made_;  ///< by width, height and whether disabled
+};
+
 }  // namespace
 
 std::vector<std::string> IconNames() {
@@ -53,24 +93,8 @@ void PaintIcon(QPainter& painter, const QRect& place, const std::string& name, c
 }
 
 QIcon MakeIcon(const std::string& name, std::initializer_list<int> sizes) {
-    QIcon icon;
     const QByteArray drawing = DrawingOf(name);
-    if (drawing.isEmpty()) {
-        return icon;
-    }
-    const std::pair<QIcon::Mode, Role> looks[] = {{QIcon::Normal, Role::Text},
-                                                  {QIcon::Disabled, Role::Disabled}};
-    for (const auto& [mode, role] : looks) {
-        for (const int size : sizes) {
-            QPixmap pixmap(size, size);
-            pixmap.fill(Qt::transparent);
-            QPainter painter(&pixmap);
-            Render(painter, pixmap.rect(), drawing, Colour(role));
-            painter.end();
-            icon.addPixmap(pixmap, mode);
-        }
-    }
-    return icon;
+    return drawing.isEmpty() ? QIcon() : QIcon(new DrawnIcon(drawing, sizes));
 }
 
 }  // namespace Tarvik::Skin

@@ -143,6 +143,19 @@ TEST(Icons, AFileIsADrawingTooAndAnUnknownNameGivesNone) {
     EXPECT_EQ(icon.pixmap(20, 20, QIcon::Disabled).toImage().pixelColor(10, 10), Colour(Role::Disabled));
 }
 
+TEST(Icons, AreDrawnAnewForEachScaleOfTheScreen) {
+    for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+        const QPixmap made = MakeIcon("save").pixmap(QSize(kIconSize, kIconSize), scale);
+        EXPECT_EQ(made.width(), qRound(kIconSize * scale)) << scale;
+        QImage drawn(made.size(), QImage::Format_ARGB32_Premultiplied);
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        PaintIcon(painter, drawn.rect(), "save", Colour(Role::Text));
+        painter.end();
+        EXPECT_EQ(made.toImage().convertToFormat(drawn.format()), drawn) << scale;
+    }
+}
+
 TEST(ThemeWatch, TellsOfAPublishedThemeWhenThePaletteChanges) {
     int told = 0;
     const ThemeWatch watch([&told] { ++told; });
