@@ -6,6 +6,8 @@
 
 #include <tarvik/core/TrvKernel.h>
 
+#include "host/client/shell/ClientBox.h"
+
 namespace Tarvik::Client {
 
 void Desk::PrepareApplication() {
@@ -36,11 +38,9 @@ void Desk::TellComplaints() {
     if (text.isEmpty()) {
         return;
     }
-    const QString title = QString::fromStdString(session_.Texts().Text("Client", "TITLE"));
-    auto* box =
-        new QMessageBox(QMessageBox::Warning, title,
-                        QString::fromStdString(session_.Texts().Text("Client", "PLUGINS_LEFT_OUT")) + text,
-                        QMessageBox::Ok, &window_);
+    QMessageBox* box =
+        MakeFaultBox(&window_, session_.Texts(),
+                     QString::fromStdString(session_.Texts().Text("Client", "PLUGINS_LEFT_OUT")) + text);
     box->setObjectName("complaints");
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setModal(false);

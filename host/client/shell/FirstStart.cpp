@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/client/shell/FirstStart.h"
 
-#include <QMessageBox>
 #include <array>
 
 #include <tarvik/bus/Binding.h>
 #include <tarvik/bus/HostContract.h>
 
 #include "host/client/plan/PlanCommand.h"
+#include "host/client/shell/ClientBox.h"
 #include "host/client/shell/MainWindow.h"
 
 namespace Tarvik::Client {
@@ -94,7 +94,7 @@ bool FirstStart::PlanSample() {
         outcome = CallPlanService(request, plan, &session_.Services());
     }
     if (outcome.exitCode != kExitDone) {
-        QMessageBox::warning(&window_, Word("TITLE"), QString::fromStdString(outcome.message));
+        TellFault(&window_, session_.Texts(), QString::fromStdString(outcome.message));
     }
     return outcome.exitCode == kExitDone;
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the person prefers, as the main window takes it: theme, language and all that the dialog asks.
-#include <QMessageBox>
-
+#include "host/client/shell/ClientBox.h"
 #include "host/client/shell/MainWindow.h"
 #include "host/client/shell/PreferencesDialog.h"
 #include "host/client/shell/Theme.h"
@@ -27,7 +26,7 @@ void MainWindow::Prefer(const Preferences& preferences) {
     ApplyTexts();
     ApplyTheme();
     if (!kept) {
-        QMessageBox::warning(this, Word("TITLE"), QString::fromStdString(error));
+        TellFault(this, session_.Texts(), QString::fromStdString(error));
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <tarvik/skin/ToolWindow.h>
 
+#include "host/client/shell/ClientBox.h"
 #include "host/client/shell/QtServices.h"
 
 namespace Tarvik::Client {
@@ -26,7 +27,7 @@ Interface::SysMsgHandleRes QtMessageSink::SyncSendMsg(int /*level*/, const std::
     box->setInformativeText(told.section('\n', 1));
     box->setWindowTitle(title.empty() ? word("TITLE") : QString::fromStdU16String(title));
     const bool question = flags == 4;
-    box->setIcon(question ? QMessageBox::Question : QMessageBox::Information);
+    DressBox(*box, question ? BoxKind::Question : BoxKind::Notice);
     const QuestionButtons own = texts_.ButtonsOf(told.toStdString());
     const auto button = [&](const std::string& words, const char* key) {
         return words.empty() ? word(key) : QString::fromStdString(words);

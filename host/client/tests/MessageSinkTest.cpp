@@ -7,10 +7,14 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
+#include <memory>
+#include <utility>
 
 #include <gtest/gtest.h>
 
+#include "host/client/shell/ClientBox.h"
 #include "host/client/shell/QtServices.h"
+#include "host/client/shell/Theme.h"
 
 namespace Tarvik::Client {
 
@@ -125,6 +129,56 @@ TEST(MessageSink, AQuestionsOwnButtonsSayWhatTheyDo) {
     EXPECT_EQ(FocusedAnswer(texts, 4), "Go back");
     ASSERT_TRUE(texts.Merge(R"({"Buttons":{"ASK.YES":"Save","ASK.NO":"Lose them","ASK.CAREFUL":"yes"}})"));
     EXPECT_EQ(FocusedAnswer(texts, 4), "Save");
+}
+
+/// The ground of a box's default button and the most frequent colour of its picture, as a person sees them.
+std::pair<QColor, QColor> LookOf(int flags, QWidget* owner) {
+    const LanguageFiles texts;
+    QtMessageSink sink(nullptr, texts);
+    std::pair<QColor, QColor> look;
+    QTimer::singleShot(0, qApp, [&look] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        for (auto* button : box->findChildren<QPushButton*>()) {
+            if (button->isDefault()) {
+                look.first = button->grab().toImage().pixelColor(button->width() / 2, 4);
+            }
+        }
+        const QImage picture = box->iconPixmap().toImage();
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor colour = picture.pixelColor(x, picture.height() / 2);
+            look.second = colour.alpha() == 255 ? colour : look.second;
+        }
+        box->reject();
+    });
+    sink.SyncSendMsg(1, u"Sure?", flags, owner, u"");
+    return look;
+}
+
+TEST(MessageSink, ABoxHasTheLookOfTheClientWhateverItsOwnerHas) {
+    QWidget panel;
+    for (const Skin::Theme theme : Skin::kThemes) {
+        ApplyTheme(theme);
+        panel.setStyleSheet(Skin::StyleSheet());
+        for (const int flags : {0, 1, 4}) {
+            for (QWidget* owner : {static_cast<QWidget*>(nullptr), &panel}) {
+                const auto [button, picture] = LookOf(flags, owner);
+                EXPECT_EQ(button, Skin::Colour(Skin::Role::Accent)) << Skin::ThemeName(theme) << flags;
+                EXPECT_EQ(picture, Skin::Colour(Skin::Role::Accent)) << Skin::ThemeName(theme) << flags;
+            }
+        }
+    }
+    ApplyTheme(Skin::Theme::Light);
+}
+
+TEST(FaultBox, SpeaksTheLanguageInForceAndHasTheSkinsPicture) {
+    LanguageFiles texts;
+    ASSERT_TRUE(texts.Merge(R"({"Client":{"OK":"确定","TITLE":"Seaplan"}})"));
+    const std::unique_ptr<QMessageBox> box(MakeFaultBox(nullptr, texts, "The disk is <b>full."));
+    ASSERT_EQ(box->buttons().size(), 1);
+    EXPECT_EQ(box->buttons()[0]->text(), "确定");
+    EXPECT_EQ(box->text(), "The disk is <b>full.");
+    EXPECT_EQ(box->icon(), QMessageBox::NoIcon);
+    EXPECT_FALSE(box->iconPixmap().isNull());
 }
 
 TEST(MessageSink, WhatAQuestionIsAboutStandsBelowItsText) {

@@ -42,6 +42,9 @@ TEST_P(EveryTheme, KeepsTextLegible) {
         EXPECT_GE(Contrast(Colour(Role::Error), ground), 4.5);
     }
     EXPECT_GE(Contrast(Colour(Role::AccentText), Colour(Role::Accent)), 4.5);
+    // Pictures need less than texts.
+    EXPECT_GE(Contrast(Colour(Role::Accent), Colour(Role::Window)), 3.0);
+    EXPECT_GE(Contrast(Colour(Role::Warning), Colour(Role::Window)), 3.0);
 }
 
 TEST_P(EveryTheme, LeavesNoRoleUnfilledInItsSheet) {
