@@ -4,12 +4,22 @@
 #include <QAction>
 #include <QMainWindow>
 #include <QToolBar>
+#include <QToolButton>
 #include <string>
 #include <utility>
 
 #include <tarvik/skin/Icons.h>
 
 namespace Tarvik::Client {
+
+namespace {
+
+/// What the window system makes for tools that have no room: it shows them in further lines of the bar.
+QToolButton* MoreTools(const QToolBar& bar) {
+    return bar.findChild<QToolButton*>("qt_toolbar_ext_button");
+}
+
+}  // namespace
 
 MainTools::MainTools(QMainWindow& window, std::vector<Tool> tools)
     : bar_(window.addToolBar("tools")), tools_(std::move(tools)) {
@@ -30,10 +40,17 @@ MainTools::MainTools(QMainWindow& window, std::vector<Tool> tools)
             bar_->addSeparator();
         }
     }
+    if (QToolButton* more = MoreTools(*bar_)) {
+        more->setFocusPolicy(Qt::TabFocus);
+    }
 }
 
 void MainTools::ApplyTexts(const Words& word) {
     bar_->setAccessibleName(word("TOOLBAR_NAME"));
+    if (QToolButton* more = MoreTools(*bar_)) {
+        more->setAccessibleName(word("MORE_TOOLS"));
+        more->setToolTip(word("MORE_TOOLS"));
+    }
     for (const Tool& tool : tools_) {
         const QString tip = word((std::string(tool.key) + "_TIP").c_str());
         tool.action->setText(word(tool.key));
@@ -46,6 +63,10 @@ void MainTools::ApplyTexts(const Words& word) {
 }
 
 void MainTools::ApplyIcons() {
+    // The window system's own picture is black in every look.
+    if (QToolButton* more = MoreTools(*bar_)) {
+        more->setIcon(Skin::MakeIcon("chevron-down"));
+    }
     for (const Tool& tool : tools_) {
         tool.action->setIcon(Skin::MakeIcon(std::string(":/tarvik/icons/") + tool.icon + ".svg", {20, 40}));
     }

@@ -13,6 +13,7 @@ QMainWindow, QDialog { background: @window; }
 QToolBar#mainToolBar { background: @window; border: 0; border-bottom: 1px solid @shellBorder; padding: 4px; spacing: 4px; }
 QToolBar#mainToolBar QToolButton { color: @text; background: transparent; border: 1px solid transparent;
     border-radius: 4px; padding: 2px 6px; min-height: 20px; }
+QToolBar#mainToolBar QToolButton#qt_toolbar_ext_button { padding: 2px 0; }
 QToolBar#mainToolBar QToolButton:hover { background: @panel; border-color: @shellBorder; }
 QToolBar#mainToolBar QToolButton:pressed { background: @list; }
 QToolBar#mainToolBar QToolButton:focus { border-color: @accent; }

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QTest>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -210,6 +211,41 @@ TEST_F(ShellTest, TheLanguageButtonGoesThroughAllLanguagesByTheirOwnNames) {
     EXPECT_EQ(window.findChild<QAction*>("action_voyages")->toolTip(), "顯示或隱藏航次 (Ctrl+L)");
     language->trigger();
     EXPECT_EQ(session_->Preferred().language, "en-US");
+}
+
+/// Presses Tab until a widget has the keyboard; false when it does not come round to it.
+bool TabTo(QWidget& window, const QWidget& wanted) {
+    constexpr int kMostStops = 60;
+    for (int stop = 0; stop < kMostStops && !wanted.hasFocus(); ++stop) {
+        QWidget* now = QApplication::focusWidget();
+        QTest::keyClick(now == nullptr ? &window : now, Qt::Key_Tab);
+    }
+    return wanted.hasFocus();
+}
+
+TEST_F(ShellTest, ANarrowWindowHasAllToolsByMouseAndKeyboard) {
+    for (const bool byKeys : {false, true}) {
+        MainWindow window(*session_);
+        window.resize(640, 600);
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        auto* more = window.findChild<QToolButton*>("qt_toolbar_ext_button");
+        const auto* last = window.findChild<QWidget*>("button_preferences");
+        ASSERT_NE(more, nullptr);
+        ASSERT_TRUE(more->isVisible());
+        EXPECT_LE(more->mapTo(&window, more->rect().bottomRight()).x(), window.width());
+        EXPECT_EQ(more->accessibleName(), "More tools");
+        EXPECT_FALSE(last->isVisible());
+        if (byKeys) {
+            ASSERT_TRUE(TabTo(window, *more));
+            QTest::keyClick(more, Qt::Key_Space);
+        } else {
+            QTest::mouseClick(more, Qt::LeftButton);
+        }
+        EXPECT_TRUE(QTest::qWaitFor([last] { return last->isVisible(); })) << byKeys;
+        EXPECT_TRUE(!byKeys || TabTo(window, *last));
+    }
 }
 
 TEST_F(ShellTest, TheSecondWindowOnOneFolderSaysThatItIsOpen) {
