@@ -100,7 +100,8 @@ TEST_P(ShippedGuide, HasTenPagesOfItsOwn) {
 TEST_P(ShippedGuide, HasThePageOfEachPanelsTopic) {
     const std::pair<const char*, const char*> topics[] = {
         {"GENERAL", "01-first-voyage"},  {"func033", "01-first-voyage"}, {"func034", "03-speeds-and-eta"},
-        {"func035", "04-position-book"}, {"func036", "06-vessels"},      {"func024", "08-remarks"}};
+        {"func035", "04-position-book"}, {"func036", "06-vessels"},      {"func024", "08-remarks"},
+        {"distances", "05-distances"},   {"fleet", "06-vessels"},        {"ports", "01-first-voyage"}};
     for (const auto& [topic, page] : topics) {
         const auto place = guide_.Find(topic);
         ASSERT_TRUE(place.has_value()) << topic;

@@ -24,6 +24,7 @@ namespace Tarvik::Seaplan {
 namespace {
 
 constexpr const char* kHelpTopic = "func034";
+constexpr const char* kTableHelpTopic = "distances";  ///< of the port distance table
 
 /// A notice with the cause of the last failure as its second line.
 void TellFailure(PortCallDesk& desk, TextId id) {
@@ -200,7 +201,8 @@ void PanelCommands::OnClose() {
 }
 
 void PanelCommands::OnHelp() {
-    desk_.View().RequestHelp(kHelpTopic, kHelpWidth, kHelpHeight);
+    const bool isTable = desk_.Sheet().state.distanceTable;
+    desk_.View().RequestHelp(isTable ? kTableHelpTopic : kHelpTopic, kHelpWidth, kHelpHeight);
 }
 
 std::vector<std::string> PanelCommands::OnUnitsAsked(UnitKind kind) {

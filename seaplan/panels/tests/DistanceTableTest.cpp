@@ -58,6 +58,15 @@ TEST_F(DistanceTableTest, OpeningEmptiesThePanelAndShowsItAsTheTable) {
     EXPECT_TRUE(messages.messages.empty());
 }
 
+TEST_F(DistanceTableTest, ItsHelpIsAPageOfItsOwn) {
+    panel.OpenDistanceTable();
+    panel.Commands().OnHelp();
+    EXPECT_EQ(view.help, "distances 370x440");
+    Open(kept);
+    panel.Commands().OnHelp();
+    EXPECT_EQ(view.help, "func034 370x440");
+}
+
 TEST_F(DistanceTableTest, PortsGoIntoTheFirstBlankRowsInOrder) {
     AddPorts({"ROTTERDAM", "HAMBURG", "GDANSK"});
     EXPECT_THAT(Column(ColPort), ElementsAre("ROTTERDAM", "HAMBURG", "GDANSK", " ", " ", " "));

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <tarvik/skin/WindowMessages.h>
+
 namespace Tarvik::Skin {
 
 namespace {
@@ -23,8 +25,9 @@ ListWindow::ListWindow(QWidget* parent, Plan plan, std::vector<Command> commands
       plan_(std::move(plan)),
       commands_(std::move(commands)),
       table_(new QTableWidget(0, static_cast<int>(plan_.columns.size()), this)),
-      note_(new QLabel(this)),
-      close_(AddCaptionButton(plan_.close, "close")) {
+      note_(new QLabel(this)) {
+    AddHelp();
+    close_ = AddCaptionButton(plan_.close, "close");
     connect(close_, &QToolButton::clicked, this, &QWidget::hide);
     MakeTable();
     note_->setObjectName(plan_.note);
@@ -50,6 +53,16 @@ ListWindow::ListWindow(QWidget* parent, Plan plan, std::vector<Command> commands
     ApplySkin();
     ApplyTexts();
     UpdateButtons();
+}
+
+void ListWindow::AddHelp() {
+    if (plan_.topic == nullptr) {
+        return;
+    }
+    help_ = AddCaptionButton("helpButton", "help");
+    help_->setShortcut(Qt::Key_F1);
+    connect(help_, &QToolButton::clicked, this,
+            [this] { SendHelpRequest(parentWidget(), plan_.topic, width(), height()); });
 }
 
 void ListWindow::MakeTable() {
@@ -97,6 +110,9 @@ void ListWindow::ApplyTexts() {
         // A new text takes a button's key away.
         buttons_[i]->setShortcut(commands_[i].key);
         buttons_[i]->setToolTip(plan_.word((text + "_TIP").c_str()));
+    }
+    if (help_ != nullptr) {
+        Describe(help_, plan_.word("HELP"));
     }
     Describe(close_, plan_.word("CLOSE"));
     if (table_->rowCount() == 0) {

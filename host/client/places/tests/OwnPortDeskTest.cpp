@@ -5,6 +5,7 @@
 
 #include "host/client/places/tests/OwnPortFixture.h"
 #include "host/client/services/RequestBlock.h"
+#include "testsupport/HelpAsked.h"
 
 namespace Tarvik::Client {
 
@@ -37,6 +38,16 @@ TEST_F(OwnPortDeskTest, AnEmptyListTellsWhatToDoFirst) {
     EXPECT_FALSE(Part<QPushButton>("ownPortRemove").isEnabled());
     Toggle();
     EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(OwnPortDeskTest, F1OpensItsPageOfTheGuide) {
+    const TestSupport::HelpAsked asked;
+    Toggle();
+    Window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    QTest::keyClick(&Table(), Qt::Key_F1);
+    EXPECT_TRUE(QTest::qWaitFor([&asked] { return asked.topic == "ports"; })) << asked.topic;
+    EXPECT_EQ(Part<QAbstractButton>("helpButton").toolTip(), "Help (F1)");
 }
 
 TEST_F(OwnPortDeskTest, APortIsAddedChangedAndRemovedByTheKeyboard) {

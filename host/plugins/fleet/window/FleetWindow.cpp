@@ -25,8 +25,8 @@ const VesselColumn kColumns[] = {
 
 Skin::ListWindow::Plan PlanOfList() {
     constexpr QSize kSize(720, 360);
-    Skin::ListWindow::Plan plan{"fleetPanel", "fleetClose", "fleetTable", "fleetNote",
-                                "VESSELS",    kSize,        {},           &Word};
+    Skin::ListWindow::Plan plan{"fleetPanel", "fleetClose", "fleetTable", "fleetNote", "VESSELS",
+                                kSize,        {},           &Word,        "fleet"};
     for (const VesselColumn& column : kColumns) {
         plan.columns.push_back(column.look);
     }

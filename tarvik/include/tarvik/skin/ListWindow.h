@@ -37,7 +37,7 @@ class TARVIK_API ListWindow : public ToolWindow {
         std::function<void(const std::string& id)> act;  ///< with the chosen row's id, empty without one
     };
     /// Object names, measures, and where the texts are. Keys that every list has: TITLE, EMPTY for what to do
-    /// first, NOTE_NAME for a screen reader, CLOSE.
+    /// first, NOTE_NAME for a screen reader, CLOSE, and HELP where it has a topic.
     struct Plan {
         const char* window;
         const char* close;
@@ -47,6 +47,7 @@ class TARVIK_API ListWindow : public ToolWindow {
         QSize size;              ///< pixels
         std::vector<Column> columns;
         QString (*word)(const char* key);
+        const char* topic = nullptr;  ///< mark of the guide that F1 opens, null for none
     };
     struct Row {
         std::string id;
@@ -68,6 +69,7 @@ class TARVIK_API ListWindow : public ToolWindow {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void AddHelp();
     void MakeTable();
     void AddButton(const Command& command);
     void AddRow(const Row& row);
@@ -80,7 +82,8 @@ class TARVIK_API ListWindow : public ToolWindow {
     std::vector<QPushButton*> buttons_;  ///< one a command
     QTableWidget* table_;
     QLabel* note_;
-    QToolButton* close_;
+    QToolButton* help_ = nullptr;  ///< null without a topic
+    QToolButton* close_ = nullptr;
 };
 
 }  // namespace Tarvik::Skin

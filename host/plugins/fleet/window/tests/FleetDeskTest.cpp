@@ -18,7 +18,9 @@
 
 #include "host/plugins/fleet/tests/FleetServer.h"
 #include "host/plugins/fleet/window/FleetDesk.h"
+#include "host/plugins/fleet/window/FleetWindow.h"
 #include "testsupport/DataFolder.h"
+#include "testsupport/HelpAsked.h"
 #include "testsupport/PluginTexts.h"
 #include "testsupport/RecordingMsgSink.h"
 
@@ -76,6 +78,19 @@ TEST_F(FleetDeskTest, AnEmptyListTellsWhatToDoFirst) {
     EXPECT_FALSE(Part<QPushButton>("fleetPanel", "fleetChange").isEnabled());
     Toggle();
     EXPECT_FALSE(Window("fleetPanel")->isVisible());
+}
+
+TEST_F(FleetDeskTest, F1OpensItsPageOfTheGuide) {
+    const TestSupport::HelpAsked asked;
+    QWidget mainWindow;
+    mainWindow.show();
+    FleetWindow window(&mainWindow, {});
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(window.findChild<QTableWidget*>("fleetTable"), Qt::Key_F1);
+    EXPECT_TRUE(QTest::qWaitFor([&asked] { return asked.topic == "fleet"; })) << asked.topic;
+    EXPECT_EQ(window.findChild<QAbstractButton*>("helpButton")->toolTip(), "Help (F1)");
 }
 
 TEST_F(FleetDeskTest, AVesselIsAddedChangedAndRemoved) {
