@@ -119,7 +119,11 @@ class Sorter {
     std::string Choice(const std::string& option, const std::vector<std::string>& good) {
         const std::string chosen = Value(option);
         if (line_.error.empty() && std::find(good.begin(), good.end(), chosen) == good.end()) {
-            line_.error = "Bad value \"" + chosen + "\" of " + option + ". See --help.";
+            std::string list;
+            for (const std::string& choice : good) {
+                list += (list.empty() ? "" : choice == good.back() ? " or " : ", ") + choice;
+            }
+            line_.error = "Bad value \"" + chosen + "\" of " + option + ": give " + list + ".";
         }
         return chosen;
     }

@@ -5,8 +5,11 @@
 #include <cstdlib>
 #include <optional>
 
+#include <tarvik/bus/BusCall.h>
+
 #include "host/client/plan/PlanCommand.h"
 #include "host/client/plan/PlanFormats.h"
+#include "host/client/plan/PlanOnChart.h"
 #include "host/client/plan/StatusEcho.h"
 #include "host/client/shell/Desk.h"
 #include "host/client/shell/QtServices.h"
@@ -32,11 +35,10 @@ int Print(const std::string& text) {
 
 /// Plans with the plug-ins that are loaded, and tells of those that are not.
 int PlanAndPrint(ClientSession& session, const PlanArguments& arguments,
-                 const Interface::PlanRequest& request) {
+                 const Interface::PlanRequest& request, const Interface::PlanResult*& plan) {
     for (const std::string& line : session.Plugins().Complaints()) {
         std::fprintf(stderr, "%s\n", line.c_str());
     }
-    const Interface::PlanResult* plan = nullptr;
     const PlanOutcome outcome = CallPlanService(request, plan, &session.Services());
     if (Tell(outcome) != kExitDone) {
         return outcome.exitCode;
@@ -57,10 +59,13 @@ int PlanWithPicture(int argc, char** argv, ClientSession& session, const PlanArg
     Desk desk(session);
     desk.Window().show();
     SettleWindows();
-    const int code = PlanAndPrint(session, arguments, request);
+    const Interface::PlanResult* plan = nullptr;
+    const int code = PlanAndPrint(session, arguments, request, plan);
     if (code != kExitDone) {
         return code;
     }
+    const Interface::TrvMapPlan told = PlanOnChart(*plan);
+    Interface::Call(Interface::Bus::MapSetPlan, &told);
     // The chart's own fit goes round the globe the short way, also over the date line.
     desk.Window().ChartCommand("fit");
     SettleWindows();
@@ -71,7 +76,8 @@ int PlanWithoutWindow(int argc, char** argv, ClientSession& session, const PlanA
                       const Interface::PlanRequest& request) {
     QCoreApplication application(argc, argv);
     session.LoadPlugins();
-    return PlanAndPrint(session, arguments, request);
+    const Interface::PlanResult* plan = nullptr;
+    return PlanAndPrint(session, arguments, request, plan);
 }
 
 std::string Environment(const char* name) {

@@ -16,6 +16,16 @@ namespace {
 /// Longer than any animation of the client.
 constexpr int kSettleMs = 400;
 
+/// Nobody points at a picture: no tool looks as if, and the status line asks for no pointer.
+void ForgetPointer(const QMainWindow& window) {
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        widget->setAttribute(Qt::WA_UnderMouse, false);
+    }
+    if (auto* position = window.findChild<QWidget*>("cursorPosition")) {
+        position->hide();
+    }
+}
+
 }  // namespace
 
 void SettleWindows() {
@@ -26,6 +36,7 @@ void SettleWindows() {
 }
 
 QPixmap PictureOf(QMainWindow& window) {
+    ForgetPointer(window);
     QPixmap picture = window.grab();
     QPainter painter(&picture);
     for (QWidget* panel : QApplication::topLevelWidgets()) {
@@ -44,7 +55,8 @@ bool CanWritePicture(const QString& file, std::string& error) {
         if (QImageWriter::supportedImageFormats().contains(format)) {
             return true;
         }
-        error = "A picture cannot be written as \"" + file.toStdString() + "\": let the name end with .png.";
+        error = "A picture cannot be written as \"" + file.toStdString() +
+                "\": let the name end with .png or .jpg.";
         return false;
     }
     error = "The picture's folder " + folder.filePath().toStdString() + " is missing or cannot be written.";

@@ -18,6 +18,7 @@
 #include <tarvik/skin/WindowPlace.h>
 
 #include "host/client/shell/MainWindow.h"
+#include "host/client/shell/Runs.h"
 #include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
@@ -246,6 +247,26 @@ TEST_F(ShellTest, ANarrowWindowHasAllToolsByMouseAndKeyboard) {
         EXPECT_TRUE(QTest::qWaitFor([last] { return last->isVisible(); })) << byKeys;
         EXPECT_TRUE(!byKeys || TabTo(window, *last));
     }
+}
+
+TEST_F(ShellTest, APictureIsPointedAtByNobody) {
+    MainWindow window(*session_);
+    window.show();
+    auto* tool = window.findChild<QWidget*>("button_voyages");
+    const QImage plain = tool->grab().toImage();
+    tool->setAttribute(Qt::WA_UnderMouse, true);
+    ASSERT_NE(tool->grab().toImage(), plain);
+    EXPECT_FALSE(PictureOf(window).isNull());
+    EXPECT_EQ(tool->grab().toImage(), plain);
+    EXPECT_FALSE(window.findChild<QLabel*>("cursorPosition")->isVisible());
+}
+
+TEST_F(ShellTest, APictureIsPngOrJpg) {
+    std::string error;
+    EXPECT_TRUE(CanWritePicture(QString::fromStdString(folder_.File("a.png")), error));
+    EXPECT_TRUE(CanWritePicture(QString::fromStdString(folder_.File("a.JPG")), error));
+    EXPECT_FALSE(CanWritePicture(QString::fromStdString(folder_.File("a.doc")), error));
+    EXPECT_NE(error.find("end with .png or .jpg"), std::string::npos) << error;
 }
 
 TEST_F(ShellTest, TheSecondWindowOnOneFolderSaysThatItIsOpen) {
