@@ -39,6 +39,11 @@ TEST_F(ViewsFixture, TheTreeStandsInItsPlaceInThePanel) {
     EXPECT_EQ(Tree().objectName(), "voyageTree");
 }
 
+TEST_F(ViewsFixture, TheCloseButtonSaysThatPinnedRoutesGoWithThePanel) {
+    Toggle();
+    EXPECT_TRUE(Find<QAbstractButton>(Panel(), "closeButton")->toolTip().contains("pinned routes"));
+}
+
 TEST_F(ViewsFixture, EveryControlOfThePanelHasAnAccessibleNameAndATip) {
     Toggle();
     for (const char* name : {"filterButton", "addCategoryButton", "helpButton", "closeButton"}) {
