@@ -209,7 +209,8 @@ TEST_F(ShellTest, TheLanguageButtonGoesThroughAllLanguagesByTheirOwnNames) {
     EXPECT_EQ(language->text(), "繁體中文");
     language->trigger();
     EXPECT_EQ(session_->Preferred().language, "zh-TW");
-    EXPECT_EQ(window.findChild<QAction*>("action_voyages")->toolTip(), "顯示或隱藏航次及其固定的航線 (Ctrl+L)");
+    EXPECT_EQ(window.findChild<QAction*>("action_voyages")->toolTip(),
+              "顯示或隱藏航次及其固定的航線 (Ctrl+L)");
     language->trigger();
     EXPECT_EQ(session_->Preferred().language, "en-US");
 }

@@ -24,8 +24,8 @@ TARVIK_API bool HasIcon(const std::string& name);
 /// Draws into a place in one colour; an unknown drawing draws nothing.
 TARVIK_API void PaintIcon(QPainter& painter, const QRect& place, const std::string& name,
                           const QColor& colour);
-/// The icon in the colours in force with its disabled look, drawn sharp at any size that is asked for; `sizes`
-/// are those of its squares that it tells. A null icon for an unknown drawing.
+/// The icon in the colours in force with its disabled look, drawn sharp at any size that is asked for;
+/// `sizes` are those of its squares that it tells. A null icon for an unknown drawing.
 TARVIK_API QIcon MakeIcon(const std::string& name, std::initializer_list<int> sizes = {kIconSize});
 
 }  // namespace Tarvik::Skin
