@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Which looks the windows ask for, by the names of their controls.
+#include <QFontInfo>
 #include <QLabel>
 #include <QListWidget>
+#include <map>
 
+#include <tarvik/skin/Palette.h>
 #include <tarvik/skin/SkinNames.h>
 
 #include "seaplan/views/book/BookWindow.h"
@@ -33,6 +36,27 @@ class WindowSkinsTest : public ViewsFixture {
 };
 
 }  // namespace
+
+TEST_F(WindowSkinsTest, TextsKeepTheirSizeThroughAllLooks) {
+    OpenPortCalls("Far East 12");
+    std::map<const QWidget*, int> sizes;
+    const auto size = [](const QWidget& widget) { return QFontInfo(widget.font()).pixelSize(); };
+    for (const QWidget* widget : PortCalls().findChildren<QWidget*>()) {
+        sizes[widget] = size(*widget);
+    }
+    EXPECT_GT(sizes.size(), 20U);
+    for (const Skin::Theme look : {Skin::Theme::Dark, Skin::Theme::Night, Skin::Theme::Light}) {
+        Skin::ThemeWatch::Publish(look);
+        QApplication::setPalette(QPalette(Skin::Colour(Skin::Role::Window)));
+        QApplication::processEvents();
+        ASSERT_EQ(Skin::CurrentTheme(), look);
+        for (const auto& [widget, before] : sizes) {
+            EXPECT_EQ(size(*widget), before)
+                << Skin::ThemeName(look) << ' ' << qPrintable(widget->objectName());
+        }
+    }
+    QApplication::setPalette(QPalette());
+}
 
 TEST_F(WindowSkinsTest, TheVoyagePanelAndItsPopups) {
     Toggle();
