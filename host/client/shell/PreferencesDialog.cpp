@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <utility>
@@ -28,6 +29,8 @@ PreferencesDialog::PreferencesDialog(QWidget* parent, const LanguageFiles& texts
     tabs_->setObjectName("preferencesTabs");
     tabs_->setTabBarAutoHide(true);
     tabs_->setDocumentMode(true);
+    // The window system's line below the tabs is white in every look.
+    tabs_->tabBar()->setDrawBase(false);
     column->addWidget(tabs_);
     BuildFields(texts);
     AddPages();

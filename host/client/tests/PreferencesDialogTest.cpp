@@ -16,6 +16,7 @@
 #include <tarvik/bus/PlacesContract.h>
 
 #include "host/client/shell/PreferencesDialog.h"
+#include "host/client/shell/Theme.h"
 #include "testsupport/TemporaryFolder.h"
 
 namespace Tarvik::Client {
@@ -188,6 +189,23 @@ TEST_F(PreferencesDialogTest, PageOfAPluginHasATabAndIsTakenWhenThePersonAgreed)
     EXPECT_EQ(plugin.taken, "") << "the caller says when";
     dialog.TakePages();
     EXPECT_EQ(plugin.taken, "good");
+}
+
+TEST_F(PreferencesDialogTest, NothingIsBrightInTheNightLook) {
+    const PageOfAPlugin plugin;
+    ApplyTheme(Skin::Theme::Night);
+    PreferencesDialog dialog(nullptr, texts_, current_);
+    dialog.show();
+    const QImage seen = dialog.grab().toImage();
+    int bright = 0;
+    for (int y = 0; y < seen.height(); ++y) {
+        for (int x = 0; x < seen.width(); ++x) {
+            // Every colour of this look is a red.
+            bright += seen.pixelColor(x, y).green() > 160 ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(bright, 0);
+    ApplyTheme(Skin::Theme::Light);
 }
 
 TEST_F(PreferencesDialogTest, WithoutPagesThereAreNoTabs) {
