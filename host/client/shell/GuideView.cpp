@@ -16,7 +16,8 @@ namespace Tarvik::Client {
 
 namespace {
 
-constexpr int kPictureWidth = 640;
+constexpr int kPictureWidth = 640;       ///< where the page has room
+constexpr int kLeastPictureWidth = 320;  ///< below it nothing can be read
 constexpr int kCellPadding = 4;
 constexpr int kSpace = 8;  ///< behind a paragraph
 constexpr int kHeadingSpace = 16;
@@ -156,9 +157,12 @@ QVariant GuideView::loadResource(int type, const QUrl& name) {
         return {};
     }
     const qreal ratio = devicePixelRatioF();
-    const int width = static_cast<int>(kPictureWidth * ratio);
-    if (picture.width() > width) {
-        picture = picture.scaledToWidth(width, Qt::SmoothTransformation);
+    // The viewport has its size only once it is shown.
+    const int page = width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width() -
+                     static_cast<int>(2 * document()->documentMargin());
+    const int pixels = static_cast<int>(std::clamp(page, kLeastPictureWidth, kPictureWidth) * ratio);
+    if (picture.width() > pixels) {
+        picture = picture.scaledToWidth(pixels, Qt::SmoothTransformation);
         picture.setDevicePixelRatio(ratio);
     }
     return picture;

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QUrl>
@@ -42,7 +43,9 @@ HelpWindow::HelpWindow(QWidget* parent, Words words, std::string folder)
     text_->setObjectName("helpText");
     Lay();
     Connect();
-    resize(kUsualSize);
+    resize(kUsualSize.boundedTo(screen()->availableSize() - kFrame));
+    // The first page is read before the window is shown.
+    layout()->activate();
 }
 
 void HelpWindow::Lay() {

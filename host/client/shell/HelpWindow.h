@@ -13,6 +13,9 @@ class QListWidget;
 
 namespace Tarvik::Client {
 
+/// Pixels that a window manager may put around a window, at both sides and above and below together.
+inline constexpr QSize kFrame(8, 40);
+
 class GuideView;
 
 /// The user's guide: its pages, with the keys of all windows, and a search through all of them. One window

@@ -33,7 +33,6 @@ using Interface::PanelCode::kVoyages;
 namespace {
 
 constexpr QSize kUsualSize(1280, 800);
-constexpr QSize kFrame(8, 40);  ///< what a window manager may put around the window
 
 }  // namespace
 

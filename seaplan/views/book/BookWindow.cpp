@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QHeaderView>
 #include <QVBoxLayout>
 
 #include <tarvik/skin/Palette.h>
@@ -20,10 +21,17 @@ namespace Tarvik::Seaplan {
 
 namespace {
 
+constexpr int kTitlePixels = 11;
+
 void SkinTable(PanelTable& table) {
     table.setStyleSheet(QStringLiteral("#positionBookTable { background: %1; } "
-                                       "QHeaderView::section { padding: 0; font-size: 11px; }")
-                            .arg(Skin::Colour(Skin::Role::Book).name()));
+                                       "QHeaderView::section { padding: 0; font-size: %2px; }")
+                            .arg(Skin::Colour(Skin::Role::Book).name())
+                            .arg(kTitlePixels));
+    // The titles' widths are measured in the header's own font, which the sheet leaves as it is.
+    QFont font = table.horizontalHeader()->font();
+    font.setPixelSize(kTitlePixels);
+    table.horizontalHeader()->setFont(font);
 }
 
 }  // namespace
