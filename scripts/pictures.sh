@@ -2,12 +2,13 @@
 # SPDX-License-Identifier: MIT
 # Makes the pictures of docs/pictures from the real client: a planned voyage with the voyage and port call panels open, its
 # position book, the port distance table and the ways past its route points compared, each in the light look, the dark
-# one, and in Chinese; and the alternatives of a passage of a new voyage. Then those of the user's guide.
-# Usage: scripts/pictures.sh [BUILD-FOLDER [guide]]: with "guide" these alone.
+# one, and in Chinese; and the alternatives of a passage of a new voyage. Then the chart and its tools, and those of the
+# user's guide. Usage: scripts/pictures.sh [BUILD-FOLDER [chart|guide]]: with "chart" or "guide" these alone.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 . scripts/prepare.sh
 . scripts/guide_pictures.sh
+. scripts/chart_pictures.sh
 build=${1:-build/release}
 client=$build/bin/tarvik
 pictures=docs/pictures
@@ -204,7 +205,7 @@ distances() {
     --save "Liner/RTM-SHA 12" >/dev/null || fail "the sample voyage was not planned"
 "$client" --data "$work/data" plan Shanghai "Los Angeles" --speed 16 --depart "2027-01-08 06:00" \
     --save "Liner/SHA-LAX 01" >/dev/null || fail "the sample voyage was not planned"
-if [ "${2:-}" != guide ]; then
+if [ -z "${2:-}" ]; then
     # The cards of a first start have a picture of their own in the guide.
     mkdir -p "$work/fresh" && echo '{}' >"$work/fresh/preferences.json"
     picture client-light light en-US
@@ -215,6 +216,8 @@ if [ "${2:-}" != guide ]; then
     distances dark dark en-US
     distances chinese light zh-CN
 fi
+[ "${2:-}" = guide ] || chart_pictures
+[ "${2:-}" != chart ] || exit 0
 for language in en-US zh-CN zh-TW; do
     guide_pictures "$language"
 done
